@@ -1,0 +1,101 @@
+// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones start
+// at 0 and go when the last reference does. Belongs to the graph's thread.
+#pragma once
+
+#include <xsg/core/SoFieldData.h>
+#include <xsg/core/SoNotification.h>
+#include <xsg/core/SoTyped.h>
+
+#include <memory>
+#include <vector>
+
+class SoDataSensor;
+class SoField;
+
+class XSG_API SoFieldContainer : public SoTyped<SoFieldContainer, SoTypedObject>
+{
+public:
+    static constexpr const char* ClassName = "FieldContainer";
+
+    SoFieldContainer(const SoFieldContainer&) = delete;
+    SoFieldContainer& operator=(const SoFieldContainer&) = delete;
+
+    void ref() const { ++m_refCount; }
+    void unref() const;
+    // Gives a reference back without ever deleting, to hand an object on.
+    void unrefNoDelete() const { --m_refCount; }
+    int getRefCount() const { return m_refCount; }
+
+    SbName getName() const { return m_name; }
+    void setName(SbName name);
+
+    const SoFieldData* getFieldData() const { return &m_fields; }
+    // The field of this name, or null.
+    SoField* getField(SbName name) const;
+
+    // Called by fields and children; tells everyone who listens.
+    virtual void notify(const SoNotification& change);
+
+    // `callback` is told of every container right before its memory goes, while its fields are still there.
+    using DyingCallback = void (*)(void* data, SoFieldContainer* dying);
+    static void addDyingCallback(DyingCallback callback, void* data);
+    static void removeDyingCallback(DyingCallback callback, void* data);
+
+protected:
+    SoFieldContainer() = default;
+    ~SoFieldContainer() override;
+    bool hasSensors() const { return m_sensors && !m_sensors->empty(); }
+    static std::uint64_t nextSerial();
+
+private:
+    friend class SoField;
+    friend class SoFieldData;
+    friend class SoDataSensor;
+    void destroy() const;
+
+    SoFieldData m_fields;
+    std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;
+    SbName m_name;
+    mutable int m_refCount = 0;
+};
+
+extern template class SoTyped<SoFieldContainer, SoTypedObject>;
+
+// Holds one reference; the smallest thing that keeps a node alive.
+template <class T>
+class SoRef
+{
+public:
+    SoRef() = default;
+    SoRef(T* object) // NOLINT(google-explicit-constructor)
+        : m_object(object)
+    {
+        if (m_object)
+            m_object->ref();
+    }
+    SoRef(const SoRef& other)
+        : SoRef(other.m_object)
+    {
+    }
+    SoRef(SoRef&& other) noexcept
+        : m_object(std::exchange(other.m_object, nullptr))
+    {
+    }
+    SoRef& operator=(SoRef other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+    ~SoRef()
+    {
+        if (m_object)
+            m_object->unref();
+    }
+    T* get() const { return m_object; }
+    T* operator->() const { return m_object; }
+    T& operator*() const { return *m_object; }
+    explicit operator bool() const { return m_object != nullptr; }
+
+private:
+    T* m_object = nullptr;
+};

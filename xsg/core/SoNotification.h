@@ -1,0 +1,15 @@
+// What a change tells on its way from a field through its node to the root. Lives on the stack of the change.
+#pragma once
+
+#include <cstdint>
+
+class SoField;
+class SoNode;
+
+struct SoNotification {
+    SoField* field = nullptr; // the field that changed, or null when a node's children did
+    SoNode* node = nullptr; // the first node that the change reached
+    int start = 0; // elements that changed in a multi-value field
+    int count = -1; // -1: all of them
+    std::uint64_t serial = 0; // one per change: who has seen it once need not pass it on again
+};

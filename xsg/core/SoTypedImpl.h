@@ -1,0 +1,34 @@
+// The bodies of SoTyped; include it in the one source file that instantiates a class's SoTyped.
+#pragma once
+
+#include <xsg/core/SoTyped.h>
+
+#include <type_traits>
+
+namespace xsg
+{
+
+template <class T>
+constexpr SoType::Factory factoryOf()
+{
+    if constexpr (!std::is_abstract_v<T> && std::is_default_constructible_v<T>)
+        return [] { return static_cast<SoTypedObject*>(new T); };
+    else
+        return nullptr;
+}
+
+} // namespace xsg
+
+template <class Self, class Base>
+SoType SoTyped<Self, Base>::getClassTypeId()
+{
+    static const SoType type
+        = SoType::createType(Base::getClassTypeId(), Self::ClassName, xsg::factoryOf<Self>());
+    return type;
+}
+
+template <class Self, class Base>
+SoType SoTyped<Self, Base>::getTypeId() const
+{
+    return getClassTypeId();
+}

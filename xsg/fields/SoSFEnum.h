@@ -1,0 +1,47 @@
+// One of a set of named numbers. Its text is the bare name, or the number where no name has the value.
+#pragma once
+
+#include <xsg/fields/SoEnumTable.h>
+#include <xsg/fields/SoSField.h>
+
+class XSG_API SoSFEnum : public SoTyped<SoSFEnum, SoSField>
+{
+public:
+    static constexpr const char* ClassName = "SFEnum";
+
+    SoSFEnum() = default;
+    SoSFEnum(SoFieldContainer* owner, const char* name, SoEnumTablePtr table, int value);
+
+    int getValue() const
+    {
+        evaluate();
+        return m_value;
+    }
+    void setValue(int value); // any number, named or not
+    void setValue(SbName name); // an unknown name leaves the value
+    // The value behind a name; false for an unknown one.
+    bool findValue(SbName name, int& value) const;
+
+    // The names in order; the pointers are valid until setEnums().
+    void getEnums(int& count, const int*& values, const SbName*& names) const;
+    void setEnums(int count, const int* values, const SbName* names);
+    const SoEnumTable& getTable() const { return *m_table; }
+
+    void get(SbString& text) const override;
+    bool set(const SbString& text) override;
+    bool isSame(const SoField& other) const override;
+
+protected:
+    void assign(const SoField& sameType) override;
+    bool converts(const SoField& other) const override;
+    void assignConverted(const SoField& other) override;
+    int rawValue() const { return m_value; }
+
+private:
+    SoEnumTablePtr m_table = emptyTable();
+    int m_value = 0;
+
+    static SoEnumTablePtr emptyTable();
+};
+
+extern template class SoTyped<SoSFEnum, SoSField>;

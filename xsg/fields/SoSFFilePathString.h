@@ -1,0 +1,18 @@
+// The path of a file.
+#pragma once
+
+#include <xsg/fields/SoSFString.h>
+
+class XSG_API SoSFFilePathString : public SoTyped<SoSFFilePathString, SoSFString>
+{
+public:
+    static constexpr const char* ClassName = "SFFilePathString";
+
+    SoSFFilePathString() = default;
+    SoSFFilePathString(SoFieldContainer* owner, const char* name, const SbString& value = {})
+        : SoTyped(owner, name, value)
+    {
+    }
+};
+
+extern template class SoTyped<SoSFFilePathString, SoSFString>;

@@ -1,0 +1,19 @@
+// A single-precision number.
+#pragma once
+
+#include <xsg/fields/SoSValue.h>
+
+class XSG_API SoSFFloat : public SoTyped<SoSFFloat, SoSValue<float>>
+{
+public:
+    static constexpr const char* ClassName = "SFFloat";
+
+    SoSFFloat() = default;
+    SoSFFloat(SoFieldContainer* owner, const char* name, float value = {})
+        : SoTyped(owner, name, value)
+    {
+    }
+};
+
+extern template class SoSValue<float>;
+extern template class SoTyped<SoSFFloat, SoSValue<float>>;

@@ -1,0 +1,51 @@
+// The template behind every single-value field whose value is a plain type with an XsgText.
+#pragma once
+
+#include <xsg/base/XsgText.h>
+#include <xsg/fields/SoSField.h>
+
+// Base lets a field derive from another field's class; it is SoSField for most.
+template <class T, class Base = SoSField>
+class XSG_API SoSValue : public Base
+{
+public:
+    using Value = T;
+
+    const T& getValue() const
+    {
+        this->evaluate();
+        return m_value;
+    }
+    void setValue(const T& value)
+    {
+        m_value = value;
+        this->valueWritten();
+    }
+    // The components one by one: setValue(x, y), setValue(xmin, ymin, zmin, xmax, ymax, zmax), ...
+    template <class A, class B, class... Rest>
+    void setValue(A a, B b, Rest... rest)
+    {
+        setValue(T(scalar(a), scalar(b), scalar(rest)...));
+    }
+
+    void get(SbString& text) const override;
+    bool set(const SbString& text) override;
+    bool isSame(const SoField& other) const override;
+
+protected:
+    explicit SoSValue(SoFieldContainer* owner = nullptr, const char* name = nullptr, const T& value = T())
+        : Base(owner, name)
+        , m_value(value)
+    {
+    }
+    void assign(const SoField& sameType) override;
+
+private:
+    template <class A>
+    static auto scalar(A a)
+    {
+        return static_cast<typename T::Scalar>(a);
+    }
+
+    T m_value;
+};

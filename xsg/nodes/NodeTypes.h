@@ -1,0 +1,9 @@
+// Registers every built-in node type, so that it can be found by name.
+#pragma once
+
+namespace xsg
+{
+
+void registerNodeTypes();
+
+} // namespace xsg

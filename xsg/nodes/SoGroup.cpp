@@ -1,0 +1,153 @@
+#include <xsg/nodes/SoGroup.h>
+
+#include <xsg/core/SoTypedImpl.h>
+
+#include <algorithm>
+#include <unordered_set>
+
+template class SoTyped<SoNode, SoFieldContainer>;
+template class SoTyped<SoGroup, SoNode>;
+
+void SoNode::notify(const SoNotification& change)
+{
+    // A walk instead of a recursion, since a scene may be nested deeper than the stack is. Only branching needs
+    // memory; the serial lets a shared node pass each change on once.
+    std::vector<SoNode*> branches;
+    SoNotification passed = change;
+    passed.node = passed.node ? passed.node : this;
+    SoNode* node = this;
+    while (node) {
+        SoNode* next = nullptr;
+        if (node->m_lastSerial != change.serial) {
+            node->m_lastSerial = change.serial;
+            ++node->m_changeCount;
+            if (node->hasSensors())
+                node->SoFieldContainer::notify(passed);
+            const auto& parents = node->m_parents;
+            if (!parents.empty()) {
+                next = parents.front();
+                branches.insert(branches.end(), parents.begin() + 1, parents.end());
+            }
+        }
+        if (!next && !branches.empty()) {
+            next = branches.back();
+            branches.pop_back();
+        }
+        node = next;
+    }
+}
+
+SoNode* SoGroup::getChild(int index) const
+{
+    return index < 0 || index >= getNumChildren() ? nullptr : m_children[static_cast<std::size_t>(index)];
+}
+
+int SoGroup::findChild(const SoNode* child) const
+{
+    const auto found = std::find(m_children.begin(), m_children.end(), child);
+    return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
+}
+
+bool SoGroup::wouldLoop(const SoNode* child) const
+{
+    // Upwards, since a group has few ancestors and may have many descendants.
+    if (!child->isOfType(SoGroup::getClassTypeId()))
+        return false;
+    std::vector<const SoNode*> pending{this};
+    std::unordered_set<const SoNode*> seen;
+    while (!pending.empty()) {
+        const SoNode* node = pending.back();
+        pending.pop_back();
+        if (node == child)
+            return true;
+        if (seen.insert(node).second)
+            pending.insert(pending.end(), node->m_parents.begin(), node->m_parents.end());
+    }
+    return false;
+}
+
+bool SoGroup::insertChild(SoNode* child, int index)
+{
+    if (!child || wouldLoop(child))
+        return false;
+    adopt(child);
+    m_children.insert(m_children.begin() + std::clamp(index, 0, getNumChildren()), child);
+    childrenChanged();
+    return true;
+}
+
+void SoGroup::removeChild(int index)
+{
+    SoNode* child = getChild(index);
+    if (!child)
+        return;
+    m_children.erase(m_children.begin() + index);
+    childrenChanged();
+    release(child);
+}
+
+void SoGroup::removeAllChildren()
+{
+    std::vector<SoNode*> children;
+    children.swap(m_children);
+    if (children.empty())
+        return;
+    childrenChanged();
+    for (SoNode* child : children)
+        release(child);
+}
+
+bool SoGroup::replaceChild(int index, SoNode* child)
+{
+    SoNode* old = getChild(index);
+    if (!old || !child || wouldLoop(child))
+        return false;
+    adopt(child);
+    m_children[static_cast<std::size_t>(index)] = child;
+    childrenChanged();
+    release(old);
+    return true;
+}
+
+void SoGroup::adopt(SoNode* child)
+{
+    child->ref();
+    child->m_parents.push_back(this);
+}
+
+void SoGroup::release(SoNode* child)
+{
+    auto& parents = child->m_parents;
+    parents.erase(std::find(parents.begin(), parents.end(), this));
+    child->unref();
+}
+
+void SoGroup::childrenChanged()
+{
+    SoNotification change;
+    change.serial = nextSerial();
+    notify(change);
+}
+
+SoGroup::~SoGroup()
+{
+    // Deep scenes are taken down level by level: each group hands its children to the outermost one going.
+    static std::vector<SoNode*>* going = nullptr;
+    std::vector<SoNode*> own;
+    const bool outermost = !going;
+    if (outermost)
+        going = &own;
+    for (SoNode* child : m_children) {
+        auto& parents = child->m_parents;
+        parents.erase(std::find(parents.begin(), parents.end(), this));
+        going->push_back(child);
+    }
+    if (!outermost)
+        return;
+    while (!own.empty()) {
+        SoNode* child = own.back();
+        own.pop_back();
+        child->unref();
+    }
+    going = nullptr;
+}

@@ -1,0 +1,36 @@
+// Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows the group.
+#pragma once
+
+#include <xsg/nodes/SoNode.h>
+
+class XSG_API SoGroup : public SoTyped<SoGroup, SoNode>
+{
+public:
+    static constexpr const char* ClassName = "Group";
+
+    int getNumChildren() const { return static_cast<int>(m_children.size()); }
+    // Null out of range.
+    SoNode* getChild(int index) const;
+    // Index of the first place where the child stands, or -1.
+    int findChild(const SoNode* child) const;
+
+    // A child that is null, or that would make the group its own descendant, is refused.
+    bool addChild(SoNode* child) { return insertChild(child, getNumChildren()); }
+    bool insertChild(SoNode* child, int index); // the index is clamped
+    void removeChild(int index); // out of range does nothing
+    void removeAllChildren();
+    bool replaceChild(int index, SoNode* child);
+
+protected:
+    ~SoGroup() override;
+
+private:
+    void adopt(SoNode* child);
+    void release(SoNode* child);
+    void childrenChanged();
+    bool wouldLoop(const SoNode* child) const;
+
+    std::vector<SoNode*> m_children; // one reference each
+};
+
+extern template class SoTyped<SoGroup, SoNode>;

@@ -1,0 +1,28 @@
+// A part of the scene. A node may stand in several places; it keeps no reference to its parents, they keep one to it.
+#pragma once
+
+#include <xsg/core/SoFieldContainer.h>
+
+class SoGroup;
+
+class XSG_API SoNode : public SoTyped<SoNode, SoFieldContainer>
+{
+public:
+    static constexpr const char* ClassName = "Node";
+
+    void notify(const SoNotification& change) override;
+
+    // Grows whenever this node or anything below it changes; a cache made from it compares this number.
+    std::uint32_t getChangeCount() const { return m_changeCount; }
+
+    // Each place where the node stands, a group that holds it twice being listed twice.
+    const std::vector<SoGroup*>& getParents() const { return m_parents; }
+
+private:
+    friend class SoGroup;
+    std::vector<SoGroup*> m_parents;
+    std::uint64_t m_lastSerial = 0;
+    std::uint32_t m_changeCount = 0;
+};
+
+extern template class SoTyped<SoNode, SoFieldContainer>;

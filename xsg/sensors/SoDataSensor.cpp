@@ -1,0 +1,92 @@
+#include <xsg/sensors/SoDataSensor.h>
+
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/fields/SoField.h>
+#include <xsg/sensors/SoFieldSensor.h>
+#include <xsg/sensors/SoNodeSensor.h>
+
+#include <algorithm>
+
+namespace
+{
+
+void eraseFrom(std::vector<SoDataSensor*>& sensors, SoDataSensor* sensor)
+{
+    sensors.erase(std::remove(sensors.begin(), sensors.end(), sensor), sensors.end());
+}
+
+} // namespace
+
+void SoDataSensor::notified(const SoNotification& change)
+{
+    m_triggerField = change.field;
+    schedule();
+}
+
+void SoDataSensor::add(SoField* field, SoDataSensor* sensor)
+{
+    field->listeners().sensors.push_back(sensor);
+}
+
+void SoDataSensor::remove(SoField* field, SoDataSensor* sensor)
+{
+    eraseFrom(field->listeners().sensors, sensor);
+}
+
+void SoDataSensor::add(SoFieldContainer* container, SoDataSensor* sensor)
+{
+    if (!container->m_sensors)
+        container->m_sensors = std::make_unique<std::vector<SoDataSensor*>>();
+    container->m_sensors->push_back(sensor);
+}
+
+void SoDataSensor::remove(SoFieldContainer* container, SoDataSensor* sensor)
+{
+    eraseFrom(*container->m_sensors, sensor);
+}
+
+SoFieldSensor::~SoFieldSensor()
+{
+    detach();
+}
+
+void SoFieldSensor::attach(SoField* field)
+{
+    detach();
+    m_field = field;
+    if (field)
+        add(field, this);
+}
+
+void SoFieldSensor::detach()
+{
+    unschedule();
+    forgetTrigger();
+    if (SoField* field = m_field) {
+        m_field = nullptr;
+        remove(field, this);
+    }
+}
+
+SoNodeSensor::~SoNodeSensor()
+{
+    detach();
+}
+
+void SoNodeSensor::attach(SoFieldContainer* container)
+{
+    detach();
+    m_container = container;
+    if (container)
+        add(container, this);
+}
+
+void SoNodeSensor::detach()
+{
+    unschedule();
+    forgetTrigger();
+    if (SoFieldContainer* container = m_container) {
+        m_container = nullptr;
+        remove(container, this);
+    }
+}

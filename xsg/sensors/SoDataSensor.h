@@ -1,0 +1,32 @@
+// A sensor that watches a field or a container.
+#pragma once
+
+#include <xsg/core/SoNotification.h>
+#include <xsg/sensors/SoSensor.h>
+
+class SoField;
+class SoFieldContainer;
+
+class XSG_API SoDataSensor : public SoSensor
+{
+public:
+    using SoSensor::SoSensor;
+    // Stops watching and cancels what is queued.
+    virtual void detach() = 0;
+    // The field whose change triggered the sensor last, or null. Good inside the callback.
+    SoField* getTriggerField() const { return m_triggerField; }
+
+protected:
+    static void add(SoField* field, SoDataSensor* sensor);
+    static void remove(SoField* field, SoDataSensor* sensor);
+    static void add(SoFieldContainer* container, SoDataSensor* sensor);
+    static void remove(SoFieldContainer* container, SoDataSensor* sensor);
+    void forgetTrigger() { m_triggerField = nullptr; }
+
+private:
+    friend class SoField;
+    friend class SoFieldContainer;
+    void notified(const SoNotification& change);
+
+    SoField* m_triggerField = nullptr;
+};
