@@ -51,7 +51,10 @@ int SoGroup::findChild(const SoNode* child) const
 bool SoGroup::wouldLoop(const SoNode* child) const
 {
     // Upwards, since a group has few ancestors and may have many descendants.
-    if (!child->isOfType(SoGroup::getClassTypeId()))
+    if (child == this)
+        return true;
+    const auto* group = dynamic_cast<const SoGroup*>(child);
+    if (!group || group->m_children.empty())
         return false;
     std::vector<const SoNode*> pending{this};
     std::unordered_set<const SoNode*> seen;
