@@ -1,0 +1,5 @@
+#include "SpxCommand.h"
+
+SpxCommand::SpxCommand() = default;
+
+SpxCommand::~SpxCommand() = default;

@@ -1,0 +1,19 @@
+// One undoable edit. Who makes it hands it to SpxServices::executeCommand and never touches it again.
+#pragma once
+
+#include <scopix/SpxExport.h>
+
+class SPX_API SpxCommand
+{
+public:
+    SpxCommand();
+    SpxCommand(const SpxCommand&) = delete;
+    SpxCommand& operator=(const SpxCommand&) = delete;
+
+    // Called once, when the services take the command over.
+    virtual void execute() = 0;
+    // Then called in turn, as often as the person goes back and forth.
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+    virtual ~SpxCommand();
+};

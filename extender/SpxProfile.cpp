@@ -1,0 +1,3 @@
+#include "SpxProfile.h"
+
+SpxProfile::~SpxProfile() = default;
