@@ -1,0 +1,89 @@
+// The arrows between the folders, and what the plug-in exports, as the built libraries show them.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+std::string outputOf(const std::string& command)
+{
+    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+    std::string output;
+    std::array<char, 4096> buffer{};
+    while (pipe && std::fgets(buffer.data(), int(buffer.size()), pipe.get()))
+        output += buffer.data();
+    return output;
+}
+
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+// The names of the symbols that a library defines for others, sorted.
+std::vector<std::string> exportsOf(const std::string& file)
+{
+    std::vector<std::string> names;
+    for (const std::string& line : linesOf(outputOf("nm -D --defined-only --format=posix '" + file + "'")))
+        names.push_back(line.substr(0, line.find(' ')));
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// The libraries that a library or a program links.
+std::string needsOf(const std::string& file)
+{
+    std::string needs;
+    for (const std::string& line : linesOf(outputOf("readelf -d '" + file + "'")))
+        if (line.find("(NEEDED)") != std::string::npos)
+            needs += line + '\n';
+    return needs;
+}
+
+bool mentions(const std::string& text, const std::string& part)
+{
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST(Linking, TheSceneGraphLibraryStandsAlone)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_xsg);
+    EXPECT_TRUE(mentions(needs, "libc.so")) << needs;
+    for (const char* other : {"libQt5", "libqwt", "libScopixExtenderAPI", "libSpxDefaults"})
+        EXPECT_FALSE(mentions(needs, other)) << needs;
+}
+
+TEST(Linking, TheContractKnowsNoPlugIn)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_ScopixExtenderAPI);
+    EXPECT_TRUE(mentions(needs, "libQt5Core")) << needs;
+    EXPECT_FALSE(mentions(needs, "libSpxDefaults")) << needs;
+}
+
+#ifdef SCOPIX_FILE_scopix
+TEST(Linking, TheProgramFindsItsPlugInsAtRunTime)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_scopix);
+    EXPECT_TRUE(mentions(needs, "libQt5Widgets")) << needs;
+    EXPECT_FALSE(mentions(needs, "SpxDefaults")) << needs;
+}
+#endif
+
+TEST(Exports, ThePlugInOffersItsTwoEntryPointsAndNothingElse)
+{
+    const std::vector<std::string> expected = {"loadPlugin", "unloadPlugin"};
+    EXPECT_EQ(exportsOf(SCOPIX_FILE_SpxDefaults), expected);
+}

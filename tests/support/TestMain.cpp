@@ -1,0 +1,12 @@
+// main() of the tests that need no window.
+#include <gtest/gtest.h>
+
+#include <clocale>
+
+int main(int argc, char** argv)
+{
+    // As an application with windows does; under a decimal-comma locale, a stray printf shows up.
+    std::setlocale(LC_ALL, "");
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
