@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <limits>
 
-class SbBox3s
+class XSG_API SbBox3s
 {
 public:
     using Scalar = short;
@@ -35,7 +35,7 @@ private:
     SbVec3s m_max;
 };
 
-class SbBox3f
+class XSG_API SbBox3f
 {
 public:
     using Scalar = float;

@@ -4,7 +4,7 @@
 
 #include <xsg/base/SbVec.h>
 
-class SbPlane
+class XSG_API SbPlane
 {
 public:
     constexpr SbPlane() = default;

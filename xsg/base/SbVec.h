@@ -1,12 +1,14 @@
 // Small vectors of numbers. Plain values: components in order x, y, z, w; a default one is all zero.
 #pragma once
 
+#include <xsg/base/XsgExport.h>
+
 #include <array>
 #include <cmath>
 #include <cstddef>
 
 template <class T, int N>
-class SbVec
+class XSG_API SbVec
 {
 public:
     using Scalar = T;
@@ -91,7 +93,7 @@ constexpr SbVec<T, 3> cross(const SbVec<T, 3>& a, const SbVec<T, 3>& b)
 }
 
 // Red, green, blue, normally 0 to 1; values beyond are kept.
-class SbColor : public SbVec3f
+class XSG_API SbColor : public SbVec3f
 {
 public:
     using SbVec3f::SbVec3f;

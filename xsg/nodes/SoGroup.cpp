@@ -5,37 +5,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-template class SoTyped<SoNode, SoFieldContainer>;
 template class SoTyped<SoGroup, SoNode>;
-
-void SoNode::notify(const SoNotification& change)
-{
-    // A walk instead of a recursion, since a scene may be nested deeper than the stack is. Only branching needs
-    // memory; the serial lets a shared node pass each change on once.
-    std::vector<SoNode*> branches;
-    SoNotification passed = change;
-    passed.node = passed.node ? passed.node : this;
-    SoNode* node = this;
-    while (node) {
-        SoNode* next = nullptr;
-        if (node->m_lastSerial != change.serial) {
-            node->m_lastSerial = change.serial;
-            ++node->m_changeCount;
-            if (node->hasSensors())
-                node->SoFieldContainer::notify(passed);
-            const auto& parents = node->m_parents;
-            if (!parents.empty()) {
-                next = parents.front();
-                branches.insert(branches.end(), parents.begin() + 1, parents.end());
-            }
-        }
-        if (!next && !branches.empty()) {
-            next = branches.back();
-            branches.pop_back();
-        }
-        node = next;
-    }
-}
 
 SoNode* SoGroup::getChild(int index) const
 {

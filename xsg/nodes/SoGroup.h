@@ -1,4 +1,5 @@
-// Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows the group.
+// Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows
+// the group.
 #pragma once
 
 #include <xsg/nodes/SoNode.h>
@@ -17,9 +18,13 @@ public:
     // A child that is null, or that would make the group its own descendant, is refused.
     bool addChild(SoNode* child) { return insertChild(child, getNumChildren()); }
     bool insertChild(SoNode* child, int index); // the index is clamped
-    void removeChild(int index); // out of range does nothing
+    void removeChild(int index);                // out of range does nothing
     void removeAllChildren();
     bool replaceChild(int index, SoNode* child);
+
+    SoGroup* asGroup() override { return this; }
+    // Whether what the children set ends with the group.
+    virtual bool isIsolating() const { return false; }
 
 protected:
     ~SoGroup() override;

@@ -7,6 +7,8 @@ class XSG_API SoSeparator : public SoTyped<SoSeparator, SoGroup>
 {
 public:
     static constexpr const char* ClassName = "Separator";
+
+    bool isIsolating() const override { return true; }
 };
 
 extern template class SoTyped<SoSeparator, SoGroup>;

@@ -1,0 +1,104 @@
+#include <gtest/gtest.h>
+
+#include <xsg/fields/SoField.h>
+#include <xsg/nodes/SoNode.h>
+
+namespace
+{
+
+struct Row {
+    const char* node;
+    const char* field;
+    const char* type;
+    const char* text;
+};
+
+// Every field of every node, with its default: what a scene file and an application rely on.
+const Row Rows[] = {
+    {"Complexity", "value", "SFFloat", "0.5"},
+    {"Complexity", "textureQuality", "SFFloat", "0.5"},
+    {"Cone", "parts", "SFBitMask", "SIDES | BOTTOM"},
+    {"Cone", "bottomRadius", "SFFloat", "1"},
+    {"Cone", "height", "SFFloat", "2"},
+    {"Cube", "width", "SFFloat", "2"},
+    {"Cube", "height", "SFFloat", "2"},
+    {"Cube", "depth", "SFFloat", "2"},
+    {"Cylinder", "parts", "SFBitMask", "SIDES | TOP | BOTTOM"},
+    {"Cylinder", "radius", "SFFloat", "1"},
+    {"Cylinder", "height", "SFFloat", "2"},
+    {"DirectionalLight", "on", "SFBool", "TRUE"},
+    {"DirectionalLight", "intensity", "SFFloat", "1"},
+    {"DirectionalLight", "color", "SFColor", "1 1 1"},
+    {"DirectionalLight", "direction", "SFVec3f", "0 0 -1"},
+    {"IndexedTriangleSet", "colorBinding", "SFEnum", "OVERALL"},
+    {"IndexedTriangleSet", "index", "MFInt32", "[ ]"},
+    {"Material", "ambientColor", "SFColor", "0.2 0.2 0.2"},
+    {"Material", "diffuseColor", "MFColor", "[ 0.8 0.8 0.8 ]"},
+    {"Material", "specularColor", "SFColor", "0 0 0"},
+    {"Material", "emissiveColor", "SFColor", "0 0 0"},
+    {"Material", "shininess", "SFFloat", "0.2"},
+    {"Material", "transparency", "SFFloat", "0"},
+    {"MatrixTransform", "matrix", "SFMatrix", "1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1"},
+    {"Normals", "vectors", "MFVec3f", "[ ]"},
+    {"PerspectiveCamera", "position", "SFVec3f", "0 0 1"},
+    {"PerspectiveCamera", "orientation", "SFRotation", "0 0 0 1"},
+    {"PerspectiveCamera", "nearDistance", "SFFloat", "0.1"},
+    {"PerspectiveCamera", "farDistance", "SFFloat", "1000"},
+    {"PerspectiveCamera", "focalDistance", "SFFloat", "5"},
+    {"PerspectiveCamera", "heightAngle", "SFFloat", "0.785398"},
+    {"Points", "points", "MFVec3f", "[ ]"},
+    {"Sphere", "radius", "SFFloat", "1"},
+    {"Texture2", "fileName", "SFFilePathString", "\"\""},
+    {"Texture2", "image", "SFImage", "0 0 0"},
+    {"Texture2", "wrapS", "SFEnum", "REPEAT"},
+    {"Texture2", "wrapT", "SFEnum", "REPEAT"},
+    {"Texture2", "model", "SFEnum", "MODULATE"},
+    {"TextureCoordinates", "points", "MFVec2f", "[ ]"},
+    {"Transform", "translation", "SFVec3f", "0 0 0"},
+    {"Transform", "rotation", "SFRotation", "0 0 0 1"},
+    {"Transform", "scaleFactor", "SFVec3f", "1 1 1"},
+    {"Transform", "scaleOrientation", "SFRotation", "0 0 0 1"},
+    {"Transform", "center", "SFVec3f", "0 0 0"},
+};
+
+SoRef<SoNode> create(const char* type)
+{
+    return SoRef<SoNode>(dynamic_cast<SoNode*>(SoType::fromName(type).createInstance()));
+}
+
+} // namespace
+
+class NodeField : public testing::TestWithParam<Row>
+{
+};
+
+TEST_P(NodeField, HasItsTypeAndDefault)
+{
+    const auto node = create(GetParam().node);
+    ASSERT_TRUE(node);
+    const SoField* field = node->getField(GetParam().field);
+    ASSERT_TRUE(field);
+    EXPECT_STREQ(field->getTypeId().getName().getString(), GetParam().type);
+    SbString text;
+    field->get(text);
+    EXPECT_STREQ(text.getString(), GetParam().text);
+    EXPECT_TRUE(field->isDefault());
+    EXPECT_EQ(field->getContainer(), node.get());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, NodeField, testing::ValuesIn(Rows), [](const auto& test) {
+    return std::string(test.param.node) + "_" + test.param.field;
+});
+
+TEST(NodeFields, EveryNodeIsInTheTable)
+{
+    for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId())) {
+        const auto node = create(type.getName().getString());
+        if (!node)
+            continue;
+        int rows = 0;
+        for (const Row& row : Rows)
+            rows += type.getName() == SbName(row.node) ? 1 : 0;
+        EXPECT_EQ(rows, node->getFieldData()->getNumFields()) << type.getName().getString();
+    }
+}

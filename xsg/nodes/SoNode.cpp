@@ -1,0 +1,55 @@
+#include <xsg/nodes/SoNode.h>
+
+#include <xsg/core/SoTypedImpl.h>
+#include <xsg/nodes/SoGroup.h>
+
+#include <atomic>
+
+template class SoTyped<SoNode, SoFieldContainer>;
+
+namespace
+{
+
+std::uint64_t nextNodeId()
+{
+    static std::atomic<std::uint64_t> last{0};
+    return ++last;
+}
+
+} // namespace
+
+SoNode::SoNode()
+    : m_id(nextNodeId())
+{
+}
+
+void SoNode::apply(SoState& /*state*/) const {}
+
+void SoNode::notify(const SoNotification& change)
+{
+    // A walk instead of a recursion, since a scene may be nested deeper than the stack is. Only branching
+    // needs memory; the serial lets a shared node pass each change on once.
+    std::vector<SoNode*> branches;
+    SoNotification passed = change;
+    passed.node = passed.node ? passed.node : this;
+    SoNode* node = this;
+    while (node) {
+        SoNode* next = nullptr;
+        if (node->m_lastSerial != change.serial) {
+            node->m_lastSerial = change.serial;
+            ++node->m_changeCount;
+            if (node->hasSensors())
+                node->SoFieldContainer::notify(passed);
+            const auto& parents = node->m_parents;
+            if (!parents.empty()) {
+                next = parents.front();
+                branches.insert(branches.end(), parents.begin() + 1, parents.end());
+            }
+        }
+        if (!next && !branches.empty()) {
+            next = branches.back();
+            branches.pop_back();
+        }
+        node = next;
+    }
+}

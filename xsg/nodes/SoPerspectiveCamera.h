@@ -1,0 +1,24 @@
+// Sees as an eye does: what is far is small.
+#pragma once
+
+#include <xsg/nodes/SoCamera.h>
+
+class XSG_API SoPerspectiveCamera : public SoTyped<SoPerspectiveCamera, SoCamera>
+{
+public:
+    static constexpr const char* ClassName = "PerspectiveCamera";
+
+    SoSFFloat heightAngle{this, "heightAngle", 0.785398F}; // between the lower and the upper edge, in radians
+
+    SbMatrix getProjectionMatrix(float aspect) const override;
+
+protected:
+    float getFocalHeight() const override;
+    void frame(float radius, float part) override;
+    void scaleView(float factor) override;
+
+private:
+    float usableAngle() const;
+};
+
+extern template class SoTyped<SoPerspectiveCamera, SoCamera>;

@@ -1,0 +1,21 @@
+#include <xsg/nodes/SoTransform.h>
+
+#include <xsg/core/SoTypedImpl.h>
+#include <xsg/nodes/FieldUse.h>
+
+template class SoTyped<SoTransform, SoTransformation>;
+
+SbMatrix SoTransform::getMatrix() const
+{
+    const SbVec3f fixed = xsg::used(center, {});
+    const SbRotation along = xsg::used(scaleOrientation, {});
+    SbMatrix m = SbMatrix::scale(xsg::used(scaleFactor, {1, 1, 1}));
+    if (along != SbRotation())
+        m = SbMatrix::rotation(along.inverse()) * m * SbMatrix::rotation(along);
+    const SbRotation turn = xsg::used(rotation, {});
+    if (turn != SbRotation())
+        m = m * SbMatrix::rotation(turn);
+    if (fixed != SbVec3f())
+        m = SbMatrix::translation(fixed * -1.0F) * m * SbMatrix::translation(fixed);
+    return m * SbMatrix::translation(xsg::used(translation, {}));
+}
