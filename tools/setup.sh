@@ -47,7 +47,7 @@ scopix_missing() {
 
 # Installs those of the given "name|why" that are missing; silent where all are there.
 scopix_install() {
-  if ! command -v dpkg-query apt-get >/dev/null; then
+  if ! { command -v dpkg-query && command -v apt-get; } >/dev/null; then
     scopix_say "This is no Debian system; if the build misses something, tools/setup.sh lists what it needs."
     return 0
   fi
