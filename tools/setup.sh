@@ -52,8 +52,8 @@ scopix_install() {
     return 0
   fi
   local missing names as_root=()
-  mapfile -t missing < <(scopix_missing "$@")
-  [ ${#missing[@]} -gt 0 ] || return 0
+  mapfile -t missing <<<"$(scopix_missing "$@")"
+  [ -n "${missing[0]}" ] || return 0
   names=("${missing[@]%%|*}")
 
   scopix_say "Scopix needs these Debian packages, which are not installed yet:"
