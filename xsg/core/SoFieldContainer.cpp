@@ -40,6 +40,7 @@ void SoFieldContainer::destroy() const
 {
     // A listener may take and give back references while it looks at the dying container.
     m_refCount = 1;
+    m_dying = true;
     const std::vector<DyingListener> listeners = dyingListeners();
     for (const DyingListener& listener : listeners)
         listener.callback(listener.data, const_cast<SoFieldContainer*>(this));

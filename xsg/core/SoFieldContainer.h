@@ -25,6 +25,8 @@ public:
     // Gives a reference back without ever deleting, to hand an object on.
     void unrefNoDelete() const { --m_refCount; }
     int getRefCount() const { return m_refCount; }
+    // True once the last reference is gone: who is told of it has no business writing the fields any more.
+    bool isDying() const { return m_dying; }
 
     SbName getName() const { return m_name; }
     void setName(SbName name);
@@ -57,6 +59,7 @@ private:
     std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;
     SbName m_name;
     mutable int m_refCount = 0;
+    mutable bool m_dying = false;
 };
 
 extern template class SoTyped<SoFieldContainer, SoTypedObject>;

@@ -1,0 +1,118 @@
+#include "SpxFieldEditors.h"
+
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/fields/SoField.h>
+
+#include <QFrame>
+
+namespace
+{
+
+bool isGoing(const SoField* field)
+{
+    const SoFieldContainer* container = field->getContainer();
+    return container && container->isDying();
+}
+
+} // namespace
+
+SpxFieldEditors::SpxFieldEditors()
+    : m_container(new QFrame)
+{
+    setDescription("Field Editor for Scopix.");
+    setVendor("Arvex");
+    setVersion("1.0.0");
+    setWidget(m_container);
+}
+
+SpxFieldEditors::~SpxFieldEditors()
+{
+    delete m_container;
+}
+
+void SpxFieldEditors::activate()
+{
+    SpxExtension::activate();
+    auto* field = dynamic_cast<SoField*>(getEditedObject());
+    if (!field)
+        return;
+    setField(field);
+    refresh();
+    show();
+}
+
+void SpxFieldEditors::deactivate()
+{
+    applyPending();
+    SpxExtension::deactivate();
+    if (m_sensor)
+        m_sensor->detach();
+    hide();
+}
+
+void SpxFieldEditors::applyPending()
+{
+    const SoField* field = getField();
+    if (field && !isGoing(field) && edited())
+        applyChanges();
+}
+
+void SpxFieldEditors::hide()
+{
+    SpxExtension::hide();
+    if (m_container)
+        m_container->setVisible(false);
+    for (const QPointer<QWidget>& window : m_windows) {
+        if (window)
+            window->setVisible(false);
+    }
+}
+
+void SpxFieldEditors::load()
+{
+    hide();
+    m_sensor = std::make_unique<SoFieldSensor>(fieldSensorCB, this);
+}
+
+void SpxFieldEditors::show()
+{
+    SpxExtension::show();
+    if (m_container)
+        m_container->setVisible(true);
+}
+
+void SpxFieldEditors::unload()
+{
+    m_sensor.reset();
+}
+
+void SpxFieldEditors::setField(SoField* field)
+{
+    if (m_sensor)
+        m_sensor->attach(field);
+}
+
+bool SpxFieldEditors::edited()
+{
+    return false;
+}
+
+QFrame* SpxFieldEditors::getWidgetContainer() const
+{
+    return m_container;
+}
+
+void SpxFieldEditors::fieldSensorCB(void* data, SoSensor* /*sensor*/)
+{
+    static_cast<SpxFieldEditors*>(data)->refresh();
+}
+
+SoField* SpxFieldEditors::getField() const
+{
+    return m_sensor ? m_sensor->getAttachedField() : nullptr;
+}
+
+void SpxFieldEditors::addWindow(QWidget* window)
+{
+    m_windows.append(window);
+}

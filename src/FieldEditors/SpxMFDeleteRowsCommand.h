@@ -1,0 +1,25 @@
+// Removes values from a multi-value field and keeps them for undo.
+#pragma once
+
+#include <scopix/SpxCommand.h>
+#include <xsg/base/SbString.h>
+
+#include <vector>
+
+class SoMField;
+
+class SpxMFDeleteRowsCommand : public SpxCommand
+{
+public:
+    SpxMFDeleteRowsCommand(SoMField* field, int start, int count);
+
+    void execute() override;
+    void undo() override;
+    void redo() override;
+
+private:
+    SoMField* m_field; // not owned; must outlive the command
+    std::vector<SbString> m_values;
+    int m_start;
+    int m_count;
+};

@@ -1,0 +1,24 @@
+// Records that one value of a multi-value field was written, without making it reversible: made after the
+// write, it holds the new value twice. This is meant.
+#pragma once
+
+#include <scopix/SpxCommand.h>
+#include <xsg/base/SbString.h>
+
+class SoMField;
+
+class SpxMFSetFieldValueCommand : public SpxCommand
+{
+public:
+    SpxMFSetFieldValueCommand(SoMField* field, int index);
+
+    void execute() override;
+    void undo() override;
+    void redo() override;
+
+private:
+    SoMField* m_field; // not owned; must outlive the command
+    int m_index;
+    SbString m_previousValue;
+    SbString m_newValue;
+};

@@ -1,0 +1,21 @@
+// Exchanges two values of a multi-value field.
+#pragma once
+
+#include <scopix/SpxCommand.h>
+
+class SoMField;
+
+class SpxMFSwapRowsCommand : public SpxCommand
+{
+public:
+    SpxMFSwapRowsCommand(SoMField* field, int first, int second);
+
+    void execute() override;
+    void undo() override;
+    void redo() override;
+
+private:
+    SoMField* m_field; // not owned; must outlive the command
+    int m_first;
+    int m_second;
+};

@@ -1,0 +1,25 @@
+// Records that a single-value field was written. Made before the write, handed over
+// after it: execute() only reads the value that the editor wrote.
+#pragma once
+
+#include <scopix/SpxCommand.h>
+#include <xsg/base/SbString.h>
+
+class SoSField;
+
+class SpxSFSetValueCommand : public SpxCommand
+{
+public:
+    // `previous` is the text from before the edit, which the editor saved; it is taken over and made null, so
+    // that one command consumes it. A null or empty one stands for what the field gives now.
+    SpxSFSetValueCommand(SoSField* field, SbString& previous);
+
+    void execute() override;
+    void undo() override;
+    void redo() override;
+
+private:
+    SoSField* m_field; // not owned; must outlive the command
+    SbString m_previousValue;
+    SbString m_newValue;
+};
