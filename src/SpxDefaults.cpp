@@ -19,6 +19,19 @@ SpxDefaults::~SpxDefaults() = default;
 
 bool SpxDefaults::load()
 {
+    SpxExtension* const registration[] = {
+        // Extensions: profile selector, console, performance counters.
+
+        // Editors of multi-value fields; after MFDouble comes the single-value editor of file paths.
+
+        // Editors of single-value fields, but for file paths.
+
+        // The docks that show editors.
+        &m_fieldEditorDock,
+        &m_nodeEditor,
+    };
+    for (SpxExtension* extension : registration)
+        addExtension(extension);
     return SpxPlugin::load();
 }
 

@@ -1,5 +1,12 @@
 // The plug-in object: holds every default extension and editor by value and hands them to the host.
+//
+// A new editor or extension takes two lines: a member in the table below, which decides the order of
+// construction, and its place in the table of load(), which decides the order that the host sees. The two
+// orders differ on purpose.
 #pragma once
+
+#include "SpxFieldEditorDockWin.h"
+#include "SpxNodeEditor.h"
 
 #include <scopix/SpxPlugin.h>
 
@@ -10,10 +17,22 @@ public:
     ~SpxDefaults() override;
 
     bool load() override;
+
+private:
+    // Extensions: profile selector, performance counters, console.
+
+    // Editors of multi-value fields.
+
+    // Editors of single-value fields; Enum before Double, FilePathString before Float.
+
+    // The docks that show editors.
+    SpxFieldEditorDockWin m_fieldEditorDock;
+    SpxNodeEditor m_nodeEditor;
 };
 
 extern "C" {
-// The library's two entry points; only one plug-in object lives at a time.
+// The library's two entry points; only one plug-in object lives at a time. What a constructor throws passes
+// through loadPlugin(), and nothing is left behind.
 __attribute__((visibility("default"))) SpxPlugin* loadPlugin();
 __attribute__((visibility("default"))) void unloadPlugin();
 }

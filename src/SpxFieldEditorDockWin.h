@@ -1,0 +1,21 @@
+// The dock that shows the editor of the selected field.
+#pragma once
+
+#include "SpxEditorDock.h"
+
+class SoField;
+
+class SpxFieldEditorDockWin : public SpxEditorDock
+{
+    Q_OBJECT
+
+public:
+    SpxFieldEditorDockWin();
+
+public slots:
+    void s_selectedFieldChanged(SoField* field);
+
+private:
+    void connectTo(SpxServices* services) override;
+    void disconnectFrom(SpxServices* services) override;
+};
