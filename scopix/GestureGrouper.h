@@ -1,0 +1,97 @@
+// Tells which acts of the person belong together. It watches every event of the program and gives each gesture a
+// number, from its begin to its end and never by a clock:
+//
+//   mouse     from the press until the release of the last button has been delivered;
+//   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends the run
+//             at the next key;
+//   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
+//   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
+//   dialog    what is done in a modal dialog belongs to the gesture that opened it.
+//
+// GUI thread only.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <vector>
+
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+class GestureGrouper : public QObject
+{
+    Q_OBJECT
+
+public:
+    // 0: no gesture.
+    using Gesture = quint64;
+
+    // Watches the running QApplication.
+    explicit GestureGrouper(QObject* parent = nullptr);
+    ~GestureGrouper() override;
+
+    // The gesture to which what happens now belongs.
+    Gesture current() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    enum class Kind { Mouse, Typing, Key, Wheel, Shortcut, Dialog };
+
+    struct Open {
+        Gesture id;
+        Kind kind;
+        int level; // depth of event loops in which its input arrived
+        QPointer<QWidget> receiver;
+        bool released = false; // ends when what released it has been delivered
+        bool waitsForLoop = false; // released, but its handler still runs an event loop of its own
+    };
+
+    struct Run {
+        QPointer<QWidget> input;
+        Gesture id = 0;
+        bool entered = false;
+    };
+
+    struct OpenDialog {
+        QPointer<QWidget> dialog;
+        Gesture opener;
+    };
+
+    void widgetEvent(QWidget* widget, QEvent* event);
+    void mousePressed(QWidget* widget, const QMouseEvent& event);
+    void mouseReleased(const QMouseEvent& event);
+    void keyPressed(QWidget* widget, const QKeyEvent& event);
+    void keyReleased(const QKeyEvent& event);
+    void typed(QWidget* input, bool enter);
+    void wheelTurned(QWidget* widget);
+    void happenedOnce(Kind kind);
+    void focusLeaves(QWidget* widget);
+    void focusHasMoved(QWidget* from);
+    void dialogShown(QWidget* dialog);
+    void dialogHidden(const QWidget* dialog);
+
+    void loopTurned();
+    void begin(Kind kind, QWidget* receiver);
+    void release(Open& gesture);
+    void tryToEnd(Gesture id);
+    void postEnd(Gesture id);
+    void close(Gesture id);
+    Open* top();
+    const Open* visibleTop() const;
+    bool dialogOpen() const;
+
+    std::vector<Open> m_open; // the innermost event loop's last
+    std::vector<OpenDialog> m_dialogs;
+    Run m_run;
+    Gesture m_leaving = 0; // whose typing a focus loss is applying right now
+    QPointer<QWidget> m_leavingInput;
+    QPointer<QWidget> m_keyReceiver; // of the key press being passed up to its parents
+    const void* m_keyEvent = nullptr;
+    Gesture m_last = 0;
+};

@@ -1,0 +1,105 @@
+#include "Messages.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTextDocumentFragment>
+
+#include <cstdio>
+
+namespace
+{
+
+void print(const QString& text)
+{
+    std::fprintf(stderr, "scopix: %s\n", qPrintable(text));
+    std::fflush(stderr);
+}
+
+QString plain(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+QString textOf(const QMessageBox& box)
+{
+    QStringList parts{plain(box.text())};
+    if (!box.informativeText().isEmpty())
+        parts += plain(box.informativeText());
+    return parts.join(QLatin1Char(' '));
+}
+
+// Answers as a person does who wants to be left alone: what cancels, else what is offered first.
+void dismiss(QMessageBox& box)
+{
+    QAbstractButton* button = box.escapeButton();
+    if (!button)
+        button = box.defaultButton();
+    if (button)
+        button->click();
+    else
+        box.done(-1);
+}
+
+} // namespace
+
+Messages::Messages(QObject* parent)
+    : QObject(parent)
+{
+    setAttended(false);
+}
+
+Messages::~Messages()
+{
+    delete m_box;
+}
+
+void Messages::setAttended(bool attended)
+{
+    if (m_attended == attended)
+        return;
+    m_attended = attended;
+    if (attended)
+        qApp->removeEventFilter(this);
+    else
+        qApp->installEventFilter(this);
+}
+
+void Messages::error(const QString& sentence)
+{
+    ++m_errorCount;
+    print(sentence);
+    emit told(sentence);
+    if (m_attended)
+        showInBox(sentence);
+}
+
+void Messages::info(const QString& sentence)
+{
+    emit told(sentence);
+}
+
+// One box for all that goes wrong until the person closes it.
+void Messages::showInBox(const QString& sentence)
+{
+    if (m_box && m_box->isVisible()) {
+        m_box->setText(m_box->text() + QLatin1Char('\n') + sentence);
+        return;
+    }
+    delete m_box;
+    m_box = new QMessageBox(QMessageBox::Warning, QApplication::applicationDisplayName(), sentence,
+                            QMessageBox::Ok, m_window);
+    m_box->setTextFormat(Qt::PlainText);
+    m_box->open();
+}
+
+bool Messages::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Show)
+        return false;
+    if (auto* box = qobject_cast<QMessageBox*>(watched)) {
+        print(textOf(*box));
+        QMetaObject::invokeMethod(box, [box] { dismiss(*box); }, Qt::QueuedConnection);
+    }
+    return false;
+}
