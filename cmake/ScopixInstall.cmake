@@ -1,0 +1,38 @@
+# What an installed Scopix consists of: the program, its libraries, the default plug-in, the scenes, and
+# the SDK (headers and the CMake package Scopix) that another plug-in or an embedding program builds on:
+#
+#     find_package(Scopix 1.0 REQUIRED)
+#     target_link_libraries(mine PRIVATE Scopix::ExtenderAPI)
+include(CMakePackageConfigHelpers)
+
+set(SCOPIX_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/scopix/plugins")
+set(SCOPIX_INSTALL_PACKAGE "${CMAKE_INSTALL_LIBDIR}/cmake/Scopix")
+
+# Each library finds the others wherever the whole is put.
+function(scopix_install_library target exported_name)
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported_name} INSTALL_RPATH "$ORIGIN")
+  install(TARGETS ${target} EXPORT ScopixTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endfunction()
+
+function(scopix_install_headers folder prefix)
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/${folder}/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${prefix}"
+    FILES_MATCHING PATTERN "*.h")
+endfunction()
+
+scopix_install_library(xsg xsg)
+scopix_install_headers(xsg xsg)
+scopix_install_library(ScopixExtenderAPI ExtenderAPI)
+scopix_install_headers(extender scopix)
+
+set_target_properties(SpxDefaults PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
+install(TARGETS SpxDefaults LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
+
+configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ScopixConfig.cmake.in"
+  "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake"
+  INSTALL_DESTINATION "${SCOPIX_INSTALL_PACKAGE}" PATH_VARS SCOPIX_INSTALL_PLUGINS)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/cmake/ScopixConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake" "${PROJECT_BINARY_DIR}/cmake/ScopixConfigVersion.cmake"
+  DESTINATION "${SCOPIX_INSTALL_PACKAGE}")
+install(EXPORT ScopixTargets NAMESPACE Scopix:: DESTINATION "${SCOPIX_INSTALL_PACKAGE}")

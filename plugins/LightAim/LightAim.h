@@ -1,0 +1,21 @@
+// The plug-in object: adds an editor that aims directional lights.
+#pragma once
+
+#include "LightAimEditor.h"
+
+#include <scopix/SpxPlugin.h>
+
+class LightAim : public SpxPlugin
+{
+public:
+    LightAim();
+    bool load() override;
+
+private:
+    LightAimEditor m_editor;
+};
+
+extern "C" {
+__attribute__((visibility("default"))) SpxPlugin* loadPlugin();
+__attribute__((visibility("default"))) void unloadPlugin();
+}

@@ -1,0 +1,22 @@
+// Writes a text into a field, undoably. Keeps the field's node alive for as long as it can be undone.
+#pragma once
+
+#include <scopix/SpxCommand.h>
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/fields/SoField.h>
+
+class SetFieldCommand : public SpxCommand
+{
+public:
+    SetFieldCommand(SoField* field, const SbString& text);
+
+    void execute() override { redo(); }
+    void undo() override { m_field->set(m_before); }
+    void redo() override { m_field->set(m_after); }
+
+private:
+    SoField* m_field;
+    SoRef<SoFieldContainer> m_owner;
+    SbString m_before;
+    SbString m_after;
+};
