@@ -1,0 +1,147 @@
+#include <xsg/core/SoTypedImpl.h>
+#include <xsg/errors/SoDebugError.h>
+#include <xsg/errors/SoErrorStack.h>
+#include <xsg/errors/SoGLError.h>
+#include <xsg/errors/SoMemoryError.h>
+#include <xsg/errors/SoReadError.h>
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+
+template <class Self, class Base>
+SoErrorHandler& SoErrorClass<Self, Base>::handler()
+{
+    // Never destroyed: errors may be posted while the process ends.
+    static auto& handler = *new SoErrorHandler(SoError::defaultHandler, nullptr);
+    return handler;
+}
+
+template class SoErrorClass<SoError, SoTypedObject>;
+template class SoTyped<SoError, SoTypedObject>;
+template class SoErrorClass<SoDebugError, SoError>;
+template class SoTyped<SoDebugError, SoError>;
+template class SoErrorClass<SoReadError, SoError>;
+template class SoTyped<SoReadError, SoError>;
+template class SoErrorClass<SoMemoryError, SoError>;
+template class SoTyped<SoMemoryError, SoError>;
+template class SoErrorClass<SoGLError, SoError>;
+template class SoTyped<SoGLError, SoError>;
+template class SoErrorClass<SoErrorStack, SoError>;
+template class SoTyped<SoErrorStack, SoError>;
+
+namespace
+{
+
+std::string hexadecimal(unsigned code)
+{
+    char digits[16];
+    const auto end = std::to_chars(digits, digits + sizeof digits, code, 16).ptr;
+    return "0x" + std::string(digits, end);
+}
+
+std::string place(const SbString& file, int line)
+{
+    return line > 0 ? file.str() + ':' + std::to_string(line) + ": " : file.str() + ": ";
+}
+
+std::string joined(const std::vector<SbString>& sentences)
+{
+    std::string all;
+    for (const SbString& sentence : sentences) {
+        if (!all.empty())
+            all += '\n';
+        all += sentence.str();
+    }
+    return all;
+}
+
+} // namespace
+
+void SoError::defaultHandler(const SoError* error, void* /*data*/)
+{
+    // In one call, so that the lines of several threads do not mix.
+    const std::string line = error->getDebugString().str() + '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void SoError::post(const SbString& sentence)
+{
+    handler().handle(SoError(sentence));
+}
+
+SoDebugError::SoDebugError(Severity severity, const char* source, const SbString& sentence)
+    : SoErrorClass(SbString(std::string(source ? source : "") + ": " + sentence.str()))
+    , m_severity(severity)
+{
+}
+
+void SoDebugError::post(Severity severity, const char* source, const SbString& sentence)
+{
+    handler().handle(SoDebugError(severity, source, sentence));
+}
+
+SoReadError::SoReadError(const SbString& file, int line, const SbString& sentence)
+    : SoErrorClass(SbString(place(file, line) + sentence.str()))
+    , m_file(file)
+    , m_line(line)
+{
+}
+
+void SoReadError::post(const SbString& file, int line, const SbString& sentence)
+{
+    handler().handle(SoReadError(file, line, sentence));
+}
+
+SoMemoryError::SoMemoryError(const SbString& wanted, std::size_t bytes)
+    : SoErrorClass(
+          SbString("No memory for " + wanted.str() + ": " + std::to_string(bytes) + " bytes were asked for."))
+    , m_bytes(bytes)
+{
+}
+
+void SoMemoryError::post(const SbString& wanted, std::size_t bytes)
+{
+    handler().handle(SoMemoryError(wanted, bytes));
+}
+
+SoGLError::SoGLError(unsigned code, const char* source)
+    : SoErrorClass(
+          SbString(std::string(source ? source : "") + ": OpenGL reports " + getCodeName(code).str() + '.'))
+    , m_code(code)
+{
+}
+
+SbString SoGLError::getCodeName(unsigned code)
+{
+    static constexpr unsigned FirstCode = 0x0500;
+    static constexpr std::array<const char*, 7> Names = {"GL_INVALID_ENUM",
+                                                         "GL_INVALID_VALUE",
+                                                         "GL_INVALID_OPERATION",
+                                                         "GL_STACK_OVERFLOW",
+                                                         "GL_STACK_UNDERFLOW",
+                                                         "GL_OUT_OF_MEMORY",
+                                                         "GL_INVALID_FRAMEBUFFER_OPERATION"};
+    const unsigned index = code - FirstCode;
+    return index < Names.size() ? SbString(Names[index]) : SbString(hexadecimal(code));
+}
+
+void SoGLError::post(unsigned code, const char* source)
+{
+    handler().handle(SoGLError(code, source));
+}
+
+SoErrorStack::SoErrorStack(std::vector<SbString> sentences)
+    : SoErrorClass(SbString(joined(sentences)))
+    , m_sentences(std::move(sentences))
+{
+}
+
+void SoErrorStack::Builder::post()
+{
+    if (isEmpty())
+        return;
+    std::vector<SbString> sentences;
+    sentences.swap(m_sentences);
+    handler().handle(SoErrorStack(std::move(sentences)));
+}

@@ -1,0 +1,23 @@
+// There is no memory for something.
+#pragma once
+
+#include <xsg/errors/SoError.h>
+
+class XSG_API SoMemoryError : public SoErrorClass<SoMemoryError, SoError>
+{
+public:
+    static constexpr const char* ClassName = "MemoryError";
+
+    // wanted: what it was for; bytes: how much was asked for.
+    static void post(const SbString& wanted, std::size_t bytes);
+
+    std::size_t getBytes() const { return m_bytes; }
+
+private:
+    SoMemoryError(const SbString& wanted, std::size_t bytes);
+
+    std::size_t m_bytes;
+};
+
+extern template class SoTyped<SoMemoryError, SoError>;
+extern template class SoErrorClass<SoMemoryError, SoError>;

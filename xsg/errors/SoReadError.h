@@ -1,0 +1,25 @@
+// A file that cannot be read as what it should be.
+#pragma once
+
+#include <xsg/errors/SoError.h>
+
+class XSG_API SoReadError : public SoErrorClass<SoReadError, SoError>
+{
+public:
+    static constexpr const char* ClassName = "ReadError";
+
+    // line: counted from 1; 0 where there is none. The sentence says what is wrong and what was expected.
+    static void post(const SbString& file, int line, const SbString& sentence);
+
+    const SbString& getFileName() const { return m_file; }
+    int getLine() const { return m_line; }
+
+private:
+    SoReadError(const SbString& file, int line, const SbString& sentence);
+
+    SbString m_file;
+    int m_line;
+};
+
+extern template class SoTyped<SoReadError, SoError>;
+extern template class SoErrorClass<SoReadError, SoError>;
