@@ -53,7 +53,7 @@ bool SoPerfCounterManager::registerCounter(SoPerfCounter* counter)
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!add(counter))
             return false;
-        loops = reaches(counter, counter);
+        loops = isParent(counter) && reaches(counter, counter);
     }
     // Parents named before either counter was known cannot be refused any more; reading cuts the loop.
     if (loops)
@@ -111,7 +111,7 @@ void SoPerfCounterManager::setParent(SoPerfCounter* counter, int which, SbName n
         }
         const auto known = m_byName.find(name.getString());
         SoPerfCounter* found = known == m_byName.end() ? nullptr : known->second;
-        if (!found || !(found == counter || reaches(found, counter))) {
+        if (found != counter && !(found && isParent(counter) && reaches(found, counter))) {
             parent.name = name;
             parent.counter = found;
             if (name != SbName()) {
@@ -123,6 +123,11 @@ void SoPerfCounterManager::setParent(SoPerfCounter* counter, int which, SbName n
         }
     }
     reportLoop(*counter);
+}
+
+bool SoPerfCounterManager::isParent(const SoPerfCounter* counter) const
+{
+    return m_children.count(counter->getName().getString()) > 0;
 }
 
 // Whether `wanted` is among the ancestors of `from`.

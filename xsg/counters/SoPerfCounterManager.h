@@ -45,6 +45,7 @@ private:
     void setParent(SoPerfCounter* counter, int which, SbName name);
     void link(SoPerfCounter* counter);
     void relink(SbName name, SoPerfCounter* counter);
+    bool isParent(const SoPerfCounter* counter) const;
     static bool reaches(const SoPerfCounter* from, const SoPerfCounter* wanted);
 
     mutable std::mutex m_mutex;

@@ -208,6 +208,7 @@ TEST(ErrorHandler, SetWaitsForTheOldCallback)
 TEST(ErrorHandler, WhatACallbackUsesMayGoOnceItIsReplaced)
 {
     const Collected<SoError> keeper;
+    SoError::setHandlerCallback(nullptr, nullptr);
     constexpr int Threads = 8;
     std::atomic<bool> stop{false};
     std::atomic<std::int64_t> handled{0};
