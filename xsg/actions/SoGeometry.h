@@ -11,6 +11,7 @@
 struct SoGeometry {
     enum class Kind { Triangles, Lines, Points };
     Kind kind = Kind::Triangles;
+    bool isScreenSpace = false; // points are pixels beside the projected origin
     std::vector<SbVec3f> points;
     std::vector<SbVec3f> normals;            // one per point, or empty: drawn without light
     std::vector<SbVec2f> textureCoordinates; // one per point, or empty

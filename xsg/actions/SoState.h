@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class SoCamera;
 class SoDrawStyle;
 class SoFog;
 class SoInstances;
@@ -60,6 +61,7 @@ public:
     const SoTextureCoordinates* textureCoordinates = nullptr;
     const SoTexture2* texture = nullptr;
     SoShared<SbMatrix> textureMatrix; // one entry, or null for none
+    const SoCamera* camera = nullptr; // the last one met
     const SoDrawStyle* drawStyle = nullptr;
     const SoFog* fog = nullptr;
     float complexity = 0.5F;
@@ -67,10 +69,27 @@ public:
     SbColor ambientLight{0.2F, 0.2F, 0.2F};
     SoShared<SoLightSource> lights; // null for none
     SoShared<SbPlane> clipPlanes;   // in world coordinates; what lies on a plane's normal's side stays
+    // Where an instancing group repeats what is below: from the coordinates at the group to the world's, the
+    // model matrix then ending at the group. Null: once.
+    SoShared<SbMatrix> instances;
     SbVec3f eye; // of the camera, in world coordinates; what chooses by distance compares with it
+    bool chooseAll =
+        false; // what chooses by distance takes all its children, as for a box that encloses each
 
     void addLight(const SoLightSource& light) { append(lights, light); }
     void addClipPlane(const SbPlane& plane) { append(clipPlanes, plane); }
+
+    // Calls `visit` with each matrix that takes a shape here to the world.
+    template <class Visit>
+    void forEachInstance(Visit visit) const
+    {
+        if (!instances) {
+            visit(modelMatrix);
+            return;
+        }
+        for (const SbMatrix& instance : *instances)
+            visit(modelMatrix * instance);
+    }
 
 private:
     template <class T>

@@ -42,8 +42,8 @@ public:
     SoFieldContainer* getContainer() const { return m_container; }
     SbName getName() const { return m_name ? SbName(m_name) : SbName(); }
 
-    // Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where the
-    // types do not convert or a loop would close. A direct write stands until the master changes again.
+    // Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
+    // the types do not convert or a loop would close. A direct write stands until the master changes again.
     bool connectFrom(SoField* master);
     void disconnect();
     SoField* getConnectedField() const { return m_master; }
@@ -65,7 +65,7 @@ public:
 
 protected:
     // `name` must outlive the field; the fields of a class pass a literal.
-    SoField(SoFieldContainer* owner, const char* name);
+    explicit SoField(SoFieldContainer* owner = nullptr, const char* name = nullptr);
 
     // After the value was written: marks it and tells listeners. A multi-value field names the elements.
     void valueWritten(int start = 0, int count = -1);

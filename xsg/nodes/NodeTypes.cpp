@@ -6,6 +6,9 @@
 #include <xsg/nodes/SoCube.h>
 #include <xsg/nodes/SoCylinder.h>
 #include <xsg/nodes/SoDirectionalLight.h>
+#include <xsg/nodes/SoDrawStyle.h>
+#include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/nodes/SoFog.h>
 #include <xsg/nodes/SoGroup.h>
 #include <xsg/nodes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/SoLight.h>
@@ -38,8 +41,8 @@ void registerAll()
 // One line per node type.
 void xsg::registerNodeTypes()
 {
-    registerAll<SoCamera, SoComplexity, SoCone, SoCube, SoCylinder, SoDirectionalLight, SoGroup,
-                SoIndexedTriangleSet, SoLight, SoMaterial, SoMatrixTransform, SoNormals, SoPerspectiveCamera,
-                SoPoints, SoSeparator, SoShape, SoSolid, SoSphere, SoTexture2, SoTextureCoordinates,
-                SoTransform, SoTransformation, SoVertexShape>();
+    registerAll<SoCamera, SoComplexity, SoCone, SoCube, SoCylinder, SoDirectionalLight, SoDrawStyle,
+                SoDrawingCallback, SoFog, SoGroup, SoIndexedTriangleSet, SoLight, SoMaterial,
+                SoMatrixTransform, SoNormals, SoPerspectiveCamera, SoPoints, SoSeparator, SoShape, SoSolid,
+                SoSphere, SoTexture2, SoTextureCoordinates, SoTransform, SoTransformation, SoVertexShape>();
 }

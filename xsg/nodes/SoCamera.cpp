@@ -1,9 +1,15 @@
 #include <xsg/nodes/SoCamera.h>
 
+#include <xsg/actions/SoState.h>
 #include <xsg/base/SbRotation.h>
 #include <xsg/core/SoTypedImpl.h>
 
 template class SoTyped<SoCamera, SoNode>;
+
+void SoCamera::apply(SoState& state) const
+{
+    state.camera = this;
+}
 
 SbMatrix SoCamera::getViewMatrix() const
 {

@@ -4,15 +4,11 @@
 
 #include <xsg/base/SbBox.h>
 #include <xsg/base/SbMatrix.h>
+#include <xsg/base/SbRay.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/SoNode.h>
-
-struct SbRay {
-    SbVec3f origin;
-    SbVec3f direction; // of length 1
-};
 
 class XSG_API SoCamera : public SoTyped<SoCamera, SoNode>
 {
@@ -24,6 +20,8 @@ public:
     SoSFFloat nearDistance{this, "nearDistance", 0.1F};   // what is nearer is not seen
     SoSFFloat farDistance{this, "farDistance", 1000.0F};  // what is farther is not seen
     SoSFFloat focalDistance{this, "focalDistance", 5.0F}; // to the point that it turns around
+
+    void apply(SoState& state) const override;
 
     // `aspect`: width of the picture divided by its height.
     virtual SbMatrix getProjectionMatrix(float aspect) const = 0;

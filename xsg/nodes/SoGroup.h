@@ -4,6 +4,12 @@
 
 #include <xsg/nodes/SoNode.h>
 
+// Children first to last - 1.
+struct SoChildRange {
+    int first;
+    int last;
+};
+
 class XSG_API SoGroup : public SoTyped<SoGroup, SoNode>
 {
 public:
@@ -12,6 +18,7 @@ public:
     int getNumChildren() const { return static_cast<int>(m_children.size()); }
     // Null out of range.
     SoNode* getChild(int index) const;
+    const std::vector<SoNode*>& getChildren() const { return m_children; }
     // Index of the first place where the child stands, or -1.
     int findChild(const SoNode* child) const;
 
@@ -25,6 +32,10 @@ public:
     SoGroup* asGroup() override { return this; }
     // Whether what the children set ends with the group.
     virtual bool isIsolating() const { return false; }
+    // Whether the choice below depends on where the camera is.
+    virtual bool isViewDependent() const { return false; }
+    // The children that count at present; a group that chooses among its children narrows it.
+    virtual SoChildRange getChosenChildren(const SoState& /*state*/) const { return {0, getNumChildren()}; }
 
 protected:
     ~SoGroup() override;

@@ -2,8 +2,20 @@
 
 #include <xsg/actions/SoState.h>
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/io/PixmapFile.h>
 
 template class SoTyped<SoTexture2, SoNode>;
+
+namespace
+{
+
+SoTexture2::FileReader& fileReader()
+{
+    static SoTexture2::FileReader reader = xsg::readPixmap;
+    return reader;
+}
+
+} // namespace
 
 SoEnumTablePtr SoTexture2::getWrapNames()
 {
@@ -22,4 +34,30 @@ SoEnumTablePtr SoTexture2::getModelNames()
 void SoTexture2::apply(SoState& state) const
 {
     state.texture = this;
+}
+
+void SoTexture2::setFileReader(FileReader reader)
+{
+    fileReader() = reader ? reader : xsg::readPixmap;
+}
+
+void SoTexture2::readFile() const
+{
+    const std::uint32_t now = fileName.getChangeCount() + 1;
+    if (m_readAt == now)
+        return;
+    m_readAt = now;
+    const std::string& path = fileName.getValue().str();
+    if (path.empty() || fileName.isIgnored() || !fileReader()(path.c_str(), m_fromFile))
+        m_fromFile.setValue(0, 0, 0, nullptr);
+}
+
+bool SoTexture2::getPicture(SoPicture& picture) const
+{
+    readFile();
+    const auto take = [&](const SoSFImage& from) {
+        picture.bytes = from.getValue(picture.width, picture.height, picture.components);
+        return picture.bytes && picture.width > 0 && picture.height > 0;
+    };
+    return take(m_fromFile) || (!image.isIgnored() && take(image));
 }

@@ -7,6 +7,14 @@
 #include <xsg/fields/SoSFImage.h>
 #include <xsg/nodes/SoNode.h>
 
+// Pixels of 1 to 4 bytes, rows from the bottom up.
+struct SoPicture {
+    int width = 0;
+    int height = 0;
+    int components = 0;
+    const unsigned char* bytes = nullptr;
+};
+
 class XSG_API SoTexture2 : public SoTyped<SoTexture2, SoNode>
 {
 public:
@@ -25,6 +33,20 @@ public:
     static SoEnumTablePtr getWrapNames();
     static SoEnumTablePtr getModelNames();
     void apply(SoState& state) const override;
+
+    // The picture to show, valid until a field changes; false for none.
+    bool getPicture(SoPicture& picture) const;
+
+    // How pictures are read from files: fills `image` and returns true, or returns false. The library itself
+    // reads portable pixmaps (PGM, PPM); an application that knows more kinds puts its own reader here.
+    using FileReader = bool (*)(const char* path, SoSFImage& image);
+    static void setFileReader(FileReader reader);
+
+private:
+    void readFile() const;
+
+    mutable SoSFImage m_fromFile;
+    mutable std::uint32_t m_readAt = 0; // the file name field's change count, plus 1, when the file was read
 };
 
 extern template class SoTyped<SoTexture2, SoNode>;

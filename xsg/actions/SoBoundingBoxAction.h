@@ -1,0 +1,30 @@
+// Finds the box around what can be seen of a scene. Separators remember the box of what is below them, so
+// that after a change only those above it are looked at again. Where separators are turned inside one another
+// the box may be larger than the tightest one; it always encloses.
+#pragma once
+
+#include <xsg/actions/SoTraversal.h>
+#include <xsg/base/SbBox.h>
+
+class SoSeparator;
+
+class XSG_API SoBoundingBoxAction : private SoTraversal
+{
+public:
+    // In the coordinates the root stands in; empty where there is nothing to see.
+    SbBox3f getBox(SoNode* root);
+    // How many nodes the last call looked at.
+    using SoTraversal::getNumVisited;
+
+    // Whether the separator's remembered box holds, given the state at it.
+    static bool isValid(const SoSeparator& separator, const SoState& stateAt);
+
+private:
+    bool enterGroup(SoGroup* group) override;
+    void leaveGroup(SoGroup* group) override;
+    void visitShape(SoShape* shape) override;
+    void extend(const SbBox3f& box);
+
+    // A box in the coordinates of the separator that is open.
+    std::vector<SbBox3f> m_boxes;
+};

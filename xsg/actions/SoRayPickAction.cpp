@@ -1,0 +1,152 @@
+#include <xsg/actions/SoRayPickAction.h>
+
+#include <xsg/actions/RayTests.h>
+#include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/nodes/SoDrawStyle.h>
+#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/SoShape.h>
+
+struct SoRayPickAction::Hit {
+    float distance = std::numeric_limits<float>::max(); // along the local ray, which need not be of length 1
+    SbVec3f normal;
+};
+
+struct SoRayPickAction::Kept {
+    SoGeometry geometry;
+    int usedAt = 0;
+};
+
+SoRayPickAction::SoRayPickAction() = default;
+SoRayPickAction::~SoRayPickAction() = default;
+
+std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ray)
+{
+    m_nearest.reset();
+    if (!root || !(ray.direction.length() > 0))
+        return {};
+    m_ray = {ray.origin, ray.direction.normalized()};
+    m_localMatrix = SbMatrix();
+    m_localRay = m_ray;
+    ++m_pickNumber;
+    // Fills the boxes that let the walk skip what the ray does not meet.
+    SoBoundingBoxAction().getBox(root);
+    resetState();
+    state().eye = m_ray.origin;
+    traverse(root);
+    for (auto it = m_geometry.begin(); it != m_geometry.end();)
+        it = it->second.usedAt + 16 < m_pickNumber ? m_geometry.erase(it) : std::next(it);
+    return std::exchange(m_nearest, std::nullopt);
+}
+
+bool SoRayPickAction::enterGroup(SoGroup* group)
+{
+    const auto* separator = group->isIsolating() ? dynamic_cast<const SoSeparator*>(group) : nullptr;
+    if (!separator || !SoBoundingBoxAction::isValid(*separator, state()))
+        return true;
+    const SbBox3f& box = separator->boxCache().box;
+    bool meets = false;
+    state().forEachInstance([&](const SbMatrix& matrix) { meets = meets || mayMeet(box, matrix); });
+    return meets;
+}
+
+bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
+{
+    if (box.isEmpty())
+        return false;
+    // Lines and points are met from beside, so the box grows by as much as they may be missed at its
+    // distance.
+    const SbRay ray = localRay(toWorld);
+    const float reach = ((box.getCenter() - ray.origin).length() + box.getSize().length()) * m_tolerance;
+    const SbVec3f slack(reach, reach, reach);
+    return xsg::meetsBox(ray, SbBox3f(box.getMin() - slack, box.getMax() + slack));
+}
+
+SbRay SoRayPickAction::localRay(const SbMatrix& toWorld)
+{
+    // Siblings share their coordinates: the last answer mostly serves again.
+    if (toWorld != m_localMatrix) {
+        m_localMatrix = toWorld;
+        const SbMatrix toLocal = toWorld.inverse();
+        m_localRay = {toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+    }
+    return m_localRay;
+}
+
+void SoRayPickAction::visitShape(SoShape* shape)
+{
+    if (state().drawStyle && !state().drawStyle->isVisible())
+        return;
+    state().forEachInstance([&](const SbMatrix& matrix) { pickShape(shape, matrix); });
+}
+
+void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
+{
+    if (!mayMeet(shape->getBox(state()), matrix))
+        return;
+    const SbMatrix toWorld = shape->getPlacement() * matrix;
+    const SbMatrix toLocal = toWorld.inverse();
+    // A shape squeezed flat has no inside to look from; the inverse says so by being the identity.
+    if (toLocal == SbMatrix() && toWorld != SbMatrix())
+        return;
+    const SbRay ray{toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+    const SoGeometry& g = geometryOf(shape);
+    const auto corner = [&](std::size_t i) { return g.points[g.index[i]]; };
+    const auto offer = [&](const Hit& hit) {
+        if (hit.distance >= 0 && !isClipped(m_ray.at(hit.distance)))
+            take(shape, hit, toWorld);
+    };
+    if (g.kind == SoGeometry::Kind::Triangles) {
+        for (std::size_t i = 0; i + 2 < g.index.size(); i += 3) {
+            Hit hit;
+            if (xsg::meetsTriangle(ray, corner(i), corner(i + 1), corner(i + 2), hit.distance, hit.normal))
+                offer(hit);
+        }
+        return;
+    }
+    // Beside lines and points, nearness is judged in world coordinates.
+    const std::size_t step = g.kind == SoGeometry::Kind::Lines ? 2 : 1;
+    for (std::size_t i = 0; i + step <= g.index.size(); i += step) {
+        Hit hit;
+        if (xsg::passesSegment(m_ray, toWorld.multPoint(corner(i)), toWorld.multPoint(corner(i + step - 1)),
+                               m_tolerance, hit.distance))
+            offer(hit);
+    }
+}
+
+void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld)
+{
+    // Directions were not normalised on their way into the shape's coordinates, so distances are still the
+    // world's.
+    if (m_nearest && m_nearest->distance <= hit.distance)
+        return;
+    SoPickedPoint& found = m_nearest.emplace();
+    found.distance = hit.distance;
+    found.point = m_ray.at(hit.distance);
+    const SbVec3f normal = toWorld.inverse().transposed().multDirection(hit.normal).normalized();
+    found.normal = normal == SbVec3f() ? m_ray.direction * -1.0F : normal;
+    if (found.normal.dot(m_ray.direction) > 0)
+        found.normal = found.normal * -1.0F;
+    for (const Frame& frame : getFrames())
+        found.path.append(frame.group);
+    found.path.append(shape);
+}
+
+bool SoRayPickAction::isClipped(const SbVec3f& point)
+{
+    if (!state().clipPlanes)
+        return false;
+    const auto& planes = *state().clipPlanes;
+    return std::any_of(planes.begin(), planes.end(), [&](const SbPlane& plane) {
+        return plane.getNormal().dot(point) < plane.getDistanceFromOrigin();
+    });
+}
+
+const SoGeometry& SoRayPickAction::geometryOf(SoShape* shape)
+{
+    const auto [place, isNew] = m_geometry.try_emplace(shape->getGeometryKey(state()));
+    Kept& kept = place->second;
+    if (isNew)
+        shape->generate(state(), kept.geometry);
+    kept.usedAt = m_pickNumber;
+    return kept.geometry;
+}

@@ -1,0 +1,53 @@
+// Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
+#pragma once
+
+#include <xsg/actions/SoGeometry.h>
+#include <xsg/actions/SoPath.h>
+#include <xsg/actions/SoTraversal.h>
+#include <xsg/base/SbRay.h>
+
+#include <optional>
+#include <unordered_map>
+
+struct SoPickedPoint {
+    SoPath path;        // from the root to the shape
+    SbVec3f point;      // in the coordinates the root stands in
+    SbVec3f normal;     // of length 1, towards the ray's origin; for lines and points against the ray
+    float distance = 0; // along the ray
+};
+
+class SoSeparator;
+
+class XSG_API SoRayPickAction : private SoTraversal
+{
+public:
+    SoRayPickAction();
+    ~SoRayPickAction() override;
+
+    // How far beside a line or a point a ray may pass, as part of the distance from its origin.
+    void setTolerance(float tolerance) { m_tolerance = tolerance; }
+    // `ray` in the coordinates the root stands in; its direction need not be of length 1.
+    std::optional<SoPickedPoint> pick(SoNode* root, const SbRay& ray);
+    // How many nodes the last pick looked at.
+    using SoTraversal::getNumVisited;
+
+private:
+    struct Hit;
+    bool enterGroup(SoGroup* group) override;
+    void visitShape(SoShape* shape) override;
+    void pickShape(SoShape* shape, const SbMatrix& toWorld);
+    void take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld);
+    bool isClipped(const SbVec3f& point);
+    bool mayMeet(const SbBox3f& box, const SbMatrix& toWorld);
+    SbRay localRay(const SbMatrix& toWorld);
+    const SoGeometry& geometryOf(SoShape* shape);
+
+    SbRay m_ray;
+    SbMatrix m_localMatrix;
+    SbRay m_localRay;
+    std::optional<SoPickedPoint> m_nearest;
+    float m_tolerance = 0.005F;
+    struct Kept;
+    std::unordered_map<SoGeometryKey, Kept, SoGeometryKeyHash> m_geometry;
+    int m_pickNumber = 0;
+};

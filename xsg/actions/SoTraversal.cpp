@@ -1,0 +1,72 @@
+#include <xsg/actions/SoTraversal.h>
+
+#include <xsg/nodes/SoShape.h>
+
+SoTraversal::SoTraversal() = default;
+SoTraversal::~SoTraversal() = default;
+
+bool SoTraversal::enterGroup(SoGroup* /*group*/)
+{
+    return true;
+}
+
+void SoTraversal::leaveGroup(SoGroup* /*group*/) {}
+void SoTraversal::visitShape(SoShape* /*shape*/) {}
+void SoTraversal::visitProperty(SoNode* /*node*/) {}
+
+void SoTraversal::traverse(SoNode* root)
+{
+    m_frames.clear();
+    m_saved.clear();
+    m_stopped = false;
+    m_visited = 0;
+    visit(root);
+    while (!m_frames.empty() && !m_stopped) {
+        Frame& frame = m_frames.back();
+        if (++frame.child < frame.end)
+            visit(frame.group->getChildren()[static_cast<std::size_t>(frame.child)]);
+        else
+            closeGroup();
+    }
+}
+
+void SoTraversal::visit(SoNode* node)
+{
+    ++m_visited;
+    if (SoGroup* group = node->asGroup()) {
+        openGroup(group);
+    } else if (SoShape* shape = node->asShape()) {
+        visitShape(shape);
+    } else {
+        node->apply(m_state);
+        visitProperty(node);
+    }
+}
+
+void SoTraversal::openGroup(SoGroup* group)
+{
+    const bool isolates = group->isIsolating();
+    if (isolates)
+        m_saved.push_back(m_state);
+    group->apply(m_state);
+    const SoChildRange range = group->getChosenChildren(m_state);
+    if (enterGroup(group))
+        m_frames.push_back({group, range.first - 1, range.last, isolates});
+    else if (isolates)
+        restoreState();
+}
+
+void SoTraversal::closeGroup()
+{
+    const Frame frame = m_frames.back();
+    m_frames.pop_back();
+    if (frame.isolates)
+        restoreState();
+    leaveGroup(frame.group);
+}
+
+void SoTraversal::restoreState()
+{
+    m_state = std::move(m_saved.back());
+    m_saved.pop_back();
+}

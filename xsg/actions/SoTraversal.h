@@ -1,0 +1,57 @@
+// Walks a scene in order and carries the state along. The base of everything that looks at a whole scene; a
+// derived class says what to do at each node. Keeps its own stack, so a scene may be nested as deep as memory
+// reaches.
+#pragma once
+
+#include <xsg/actions/SoState.h>
+#include <xsg/nodes/SoGroup.h>
+
+class SoShape;
+
+class XSG_API SoTraversal
+{
+public:
+    SoTraversal();
+    SoTraversal(const SoTraversal&) = delete;
+    SoTraversal& operator=(const SoTraversal&) = delete;
+    virtual ~SoTraversal();
+
+    // The scene must not change until it returns.
+    void traverse(SoNode* root);
+
+protected:
+    // With the state as the group's children will see it; false skips them.
+    virtual bool enterGroup(SoGroup* group);
+    // With the state as what follows the group will see it. Not called for a skipped group.
+    virtual void leaveGroup(SoGroup* group);
+    virtual void visitShape(SoShape* shape);
+    // Any other node, after it has changed the state.
+    virtual void visitProperty(SoNode* node);
+
+    SoState& state() { return m_state; }
+    void resetState() { m_state = SoState(); }
+    // Ends the walk; groups that are open are not left.
+    void stop() { m_stopped = true; }
+    int getNumVisited() const { return m_visited; }
+
+    // A group on the way to the present node, and the child that is visited.
+    struct Frame {
+        SoGroup* group;
+        int child;
+        int end;
+        bool isolates;
+    };
+    const std::vector<Frame>& getFrames() const { return m_frames; }
+
+private:
+    void visit(SoNode* node);
+    void openGroup(SoGroup* group);
+    void closeGroup();
+    void restoreState();
+
+    SoState m_state;
+    std::vector<SoState> m_saved;
+    std::vector<Frame> m_frames;
+    bool m_stopped = false;
+    int m_visited = 0;
+};

@@ -1,0 +1,44 @@
+// What a camera can see, as planes.
+#pragma once
+
+#include <xsg/base/SbBox.h>
+#include <xsg/base/SbMatrix.h>
+
+namespace xsg
+{
+
+class Frustum
+{
+public:
+    explicit Frustum(const SbMatrix& viewProjection)
+    {
+        // A point p is inside where -w <= x, y, z <= w for p times the matrix.
+        for (int axis = 0; axis < 3; ++axis) {
+            for (int row = 0; row < 4; ++row) {
+                const float w = viewProjection[row][3];
+                m_planes[2 * axis][row] = w + viewProjection[row][axis];
+                m_planes[2 * axis + 1][row] = w - viewProjection[row][axis];
+            }
+        }
+    }
+
+    // False only for what is certainly out of sight.
+    bool mayShow(const SbBox3f& box) const
+    {
+        const SbVec3f& low = box.getMin();
+        const SbVec3f& high = box.getMax();
+        for (const auto& plane : m_planes) {
+            float most = plane[3];
+            for (int i = 0; i < 3; ++i)
+                most += plane[i] * (plane[i] > 0 ? high[i] : low[i]);
+            if (most < 0)
+                return false;
+        }
+        return true;
+    }
+
+private:
+    float m_planes[6][4];
+};
+
+} // namespace xsg

@@ -1,0 +1,90 @@
+#include <xsg/render/GeometryStore.h>
+
+#include <xsg/render/Shader.h>
+
+namespace
+{
+
+template <class T>
+GLsizeiptr bytesOf(const std::vector<T>& values)
+{
+    return static_cast<GLsizeiptr>(values.size() * sizeof(T));
+}
+
+// Appends the values to the bound buffer and points the attribute at them.
+template <class T>
+void addBlock(GLuint attribute, const std::vector<T>& values, GLintptr& offset)
+{
+    if (values.empty())
+        return;
+    glBufferSubData(GL_ARRAY_BUFFER, offset, bytesOf(values), values.data());
+    glVertexAttribPointer(attribute, T::Size, GL_FLOAT, GL_FALSE, 0, reinterpret_cast<const void*>(offset));
+    glEnableVertexAttribArray(attribute);
+    offset += bytesOf(values);
+}
+
+void release(xsg::GpuGeometry& geometry)
+{
+    geometry.vertexArray.release();
+    geometry.vertices.release();
+    geometry.indices.release();
+}
+
+} // namespace
+
+xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& state)
+{
+    const auto [place, isNew] = m_geometry.try_emplace(shape.getGeometryKey(state));
+    GpuGeometry& kept = place->second;
+    if (isNew) {
+        SoGeometry geometry;
+        shape.generate(state, geometry);
+        upload(geometry, kept);
+    }
+    kept.usedAt = m_round;
+    return &kept;
+}
+
+void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
+{
+    to.kind = g.kind;
+    to.indexCount = static_cast<GLsizei>(g.index.size());
+    to.pointCount = static_cast<std::int64_t>(g.points.size());
+    to.isScreenSpace = g.isScreenSpace;
+    if (g.index.empty())
+        return;
+    glBindVertexArray(to.vertexArray.get());
+    glBindBuffer(GL_ARRAY_BUFFER, to.vertices.get());
+    const GLsizeiptr size =
+        bytesOf(g.points) + bytesOf(g.normals) + bytesOf(g.textureCoordinates) + bytesOf(g.colors);
+    glBufferData(GL_ARRAY_BUFFER, size, nullptr, GL_STATIC_DRAW);
+    GLintptr offset = 0;
+    addBlock(PointAttribute, g.points, offset);
+    addBlock(NormalAttribute, g.normals, offset);
+    addBlock(TextureAttribute, g.textureCoordinates, offset);
+    addBlock(ColorAttribute, g.colors, offset);
+    glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, to.indices.get());
+    glBufferData(GL_ELEMENT_ARRAY_BUFFER, bytesOf(g.index), g.index.data(), GL_STATIC_DRAW);
+    glBindVertexArray(0);
+    m_uploadedBytes += size + bytesOf(g.index);
+    ++m_uploads;
+}
+
+void xsg::GeometryStore::endRound()
+{
+    for (auto it = m_geometry.begin(); it != m_geometry.end();) {
+        if (it->second.usedAt == m_round) {
+            ++it;
+            continue;
+        }
+        ::release(it->second);
+        it = m_geometry.erase(it);
+    }
+}
+
+void xsg::GeometryStore::release()
+{
+    for (auto& [key, geometry] : m_geometry)
+        ::release(geometry);
+    m_geometry.clear();
+}

@@ -1,0 +1,108 @@
+// A scene flattened into what is drawn: built by a walk over the scene, kept until the scene changes.
+#pragma once
+
+#include <xsg/actions/SoTraversal.h>
+#include <xsg/base/SbBox.h>
+#include <xsg/render/GeometryStore.h>
+#include <xsg/render/Shader.h>
+#include <xsg/render/TextureStore.h>
+
+#include <map>
+
+class SoCamera;
+class SoDrawingCallback;
+
+namespace xsg
+{
+
+// What drawn things have in common; switching from one to the next is what costs.
+struct Surroundings {
+    SoShared<SoLightSource> lights;
+    SoShared<SbPlane> clipPlanes;
+    SoShared<SbMatrix> textureMatrix;
+    SbColor ambientLight;
+    GpuTexture* texture = nullptr;
+    int textureModel = -1;
+    const SoFog* fog = nullptr;
+    const SoDrawStyle* drawStyle = nullptr;
+    bool operator<(const Surroundings& other) const;
+    bool operator==(const Surroundings& other) const { return !(*this < other) && !(other < *this); }
+};
+
+struct RenderItem {
+    InstanceData instance;
+    SbBox3f box; // in world coordinates
+    GpuGeometry* geometry = nullptr;
+    int surroundings = 0;
+    bool isTransparent = false;
+    bool isHighlighted = false;
+};
+
+// An application's own drawing, between the things before it and after it.
+struct CallbackItem {
+    const SoDrawingCallback* node;
+    SbMatrix modelMatrix;
+};
+
+class RenderList : private SoTraversal
+{
+public:
+    struct View {
+        const SoCamera* camera = nullptr; // null: the first camera in the scene
+        const SoNode* highlight = nullptr;
+        SbVec3f eye;
+    };
+
+    // Brings the list up to date; true when something had changed.
+    bool update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures);
+    void clear();
+
+    const std::vector<RenderItem>& getItems() const { return m_items; }
+    // Items by surroundings, then geometry.
+    const std::vector<std::uint32_t>& getOpaque() const { return m_opaque; }
+    const std::vector<std::uint32_t>& getTransparent() const { return m_transparent; }
+    const std::vector<CallbackItem>& getCallbacks() const { return m_callbacks; }
+    const Surroundings& getSurroundings(int index) const
+    {
+        return *m_surroundings[static_cast<std::size_t>(index)];
+    }
+    const SbBox3f& getBox() const { return m_box; }
+    const SoCamera* getCamera() const { return m_camera; }
+    const SbMatrix& getCameraMatrix() const { return m_cameraMatrix; }
+    bool hasLights() const { return m_hasLights; }
+    int getNumVisited() const { return SoTraversal::getNumVisited(); }
+
+private:
+    bool enterGroup(SoGroup* group) override;
+    void leaveGroup(SoGroup* group) override;
+    void visitShape(SoShape* shape) override;
+    void visitProperty(SoNode* node) override;
+
+    void build(SoNode* root);
+    void addItem(const SoShape* shape, const SbMatrix& toWorld);
+    int surroundingsNow();
+    void sort();
+
+    std::vector<RenderItem> m_items;
+    std::vector<std::uint32_t> m_opaque;
+    std::vector<std::uint32_t> m_transparent;
+    std::vector<CallbackItem> m_callbacks;
+    std::map<Surroundings, int> m_surroundingsIndex;
+    std::vector<const Surroundings*> m_surroundings;
+    Surroundings m_lastSurroundings;
+    int m_lastSurroundingsIndex = -1;
+    SbBox3f m_box;
+    const SoCamera* m_camera = nullptr;
+    SbMatrix m_cameraMatrix;
+    bool m_hasLights = false;
+    bool m_isViewDependent = false;
+    int m_highlightDepth = 0;
+
+    View m_view;
+    GeometryStore* m_geometry = nullptr;
+    TextureStore* m_textures = nullptr;
+    std::uint64_t m_rootId = 0;
+    std::uint32_t m_rootCount = 0;
+};
+
+} // namespace xsg

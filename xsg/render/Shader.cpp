@@ -1,0 +1,149 @@
+#include <xsg/render/Shader.h>
+
+#include <xsg/render/ShaderText.h>
+
+namespace
+{
+
+std::string logOf(GLuint object, bool isProgram)
+{
+    char text[1024] = "";
+    if (isProgram)
+        glGetProgramInfoLog(object, sizeof text, nullptr, text);
+    else
+        glGetShaderInfoLog(object, sizeof text, nullptr, text);
+    return text;
+}
+
+bool compile(GLuint program, GLenum kind, const char* text, std::string& error)
+{
+    const GLuint shader = glCreateShader(kind);
+    glShaderSource(shader, 1, &text, nullptr);
+    glCompileShader(shader);
+    GLint good = 0;
+    glGetShaderiv(shader, GL_COMPILE_STATUS, &good);
+    if (good)
+        glAttachShader(program, shader);
+    else
+        error = "OpenGL refused a drawing program: " + logOf(shader, false);
+    glDeleteShader(shader); // the program keeps it as long as it needs it
+    return good != 0;
+}
+
+} // namespace
+
+bool xsg::Shader::prepare(std::string& error)
+{
+    if (m_program)
+        return true;
+    const GLuint program = m_program.get();
+    GLint linked = 0;
+    if (compile(program, GL_VERTEX_SHADER, VertexShaderText, error) &&
+        compile(program, GL_FRAGMENT_SHADER, FragmentShaderText, error)) {
+        glLinkProgram(program);
+        glGetProgramiv(program, GL_LINK_STATUS, &linked);
+        if (!linked)
+            error = "OpenGL could not link a drawing program: " + logOf(program, true);
+    }
+    if (!linked) {
+        m_program.release();
+        return false;
+    }
+    m_at = {location("viewProjection"), location("eye"),
+            location("viewport"),       location("lightCount"),
+            location("lightColor"),     location("lightLocation"),
+            location("lightDirection"), location("lightAttenuation"),
+            location("ambientLight"),   location("clipCount"),
+            location("clipPlanes"),     location("textureModel"),
+            location("textureMatrix"),  location("fogKind"),
+            location("fogColor"),       location("overrideColor"),
+            location("screenSpace")};
+    return true;
+}
+
+GLint xsg::Shader::location(const char* name)
+{
+    return glGetUniformLocation(m_program.get(), name);
+}
+
+void xsg::Shader::use()
+{
+    glUseProgram(m_program.get());
+}
+
+void xsg::Shader::setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height)
+{
+    glUniformMatrix4fv(m_at.viewProjection, 1, GL_FALSE, viewProjection.getValue());
+    glUniform4fv(m_at.eye, 1, eye.getValue());
+    glUniform2f(m_at.viewport, static_cast<float>(width), static_cast<float>(height));
+}
+
+void xsg::Shader::setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient)
+{
+    const int count = std::min(static_cast<int>(lights.size()), MaxLights);
+    SbVec3f color[MaxLights];
+    SbVec4f location[MaxLights];
+    SbVec4f direction[MaxLights];
+    SbVec4f attenuation[MaxLights];
+    const auto four = [](const SbVec3f& v, float w) { return SbVec4f(v[0], v[1], v[2], w); };
+    for (int i = 0; i < count; ++i) {
+        const SoLightSource& light = lights[static_cast<std::size_t>(i)];
+        const bool spot = light.kind == SoLightSource::Kind::Spot;
+        color[i] = light.color;
+        location[i] = four(light.location, light.kind == SoLightSource::Kind::Directional ? 0.0F : 1.0F);
+        direction[i] = four(light.direction, spot ? light.cutOffCosine : -2.0F);
+        attenuation[i] = four(light.attenuation, spot ? light.dropOff : 0.0F);
+    }
+    glUniform1i(m_at.lightCount, count);
+    glUniform3fv(m_at.ambientLight, 1, ambient.getValue());
+    if (count == 0)
+        return;
+    glUniform3fv(m_at.lightColor, count, color[0].getValue());
+    glUniform4fv(m_at.lightLocation, count, location[0].getValue());
+    glUniform4fv(m_at.lightDirection, count, direction[0].getValue());
+    glUniform4fv(m_at.lightAttenuation, count, attenuation[0].getValue());
+}
+
+void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
+{
+    const int count = std::min(static_cast<int>(planes.size()), MaxClipPlanes);
+    SbVec4f values[MaxClipPlanes];
+    for (int i = 0; i < count; ++i) {
+        const SbPlane& plane = planes[static_cast<std::size_t>(i)];
+        const SbVec3f& n = plane.getNormal();
+        values[i] = SbVec4f(n[0], n[1], n[2], plane.getDistanceFromOrigin());
+    }
+    glUniform1i(m_at.clipCount, count);
+    if (count > 0)
+        glUniform4fv(m_at.clipPlanes, count, values[0].getValue());
+    for (int i = 0; i < MaxClipPlanes; ++i) {
+        const auto plane = static_cast<GLenum>(GL_CLIP_DISTANCE0 + i);
+        if (i < count)
+            glEnable(plane);
+        else
+            glDisable(plane);
+    }
+}
+
+void xsg::Shader::setTexture(int model, const SbMatrix& matrix)
+{
+    glUniform1i(m_at.textureModel, model);
+    if (model >= 0)
+        glUniformMatrix4fv(m_at.textureMatrix, 1, GL_FALSE, matrix.getValue());
+}
+
+void xsg::Shader::setFog(int kind, const SbColor& color, float range)
+{
+    glUniform1i(m_at.fogKind, kind);
+    glUniform4f(m_at.fogColor, color[0], color[1], color[2], range);
+}
+
+void xsg::Shader::setOverride(const SbVec4f& color)
+{
+    glUniform4fv(m_at.override, 1, color.getValue());
+}
+
+void xsg::Shader::setScreenSpace(bool on)
+{
+    glUniform1i(m_at.screenSpace, on ? 1 : 0);
+}

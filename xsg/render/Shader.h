@@ -1,0 +1,61 @@
+// The one program that draws everything, and its settings.
+#pragma once
+
+#include <xsg/actions/SoState.h>
+#include <xsg/render/GlFunctions.h>
+
+namespace xsg
+{
+
+// The numbers of the vertex attributes.
+enum Attribute : GLuint {
+    PointAttribute = 0,
+    NormalAttribute = 1,
+    TextureAttribute = 2,
+    ColorAttribute = 3,
+    InstanceAttribute = 4, // eight of four floats: see InstanceData
+};
+
+// What differs from copy to copy of a geometry that is drawn.
+struct InstanceData {
+    float matrix[16];
+    float diffuse[4]; // and opacity
+    float ambient[4]; // and shininess
+    float specular[4];
+    float emissive[4];
+};
+
+class Shader
+{
+public:
+    static constexpr int MaxLights = 8;
+    static constexpr int MaxClipPlanes = 6;
+
+    // Builds the program at first use; false with a sentence where OpenGL refuses.
+    bool prepare(std::string& error);
+    void release() { m_program.release(); }
+
+    void use();
+    void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
+    void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
+    void setClipPlanes(const std::vector<SbPlane>& planes);
+    void setTexture(int model, const SbMatrix& matrix); // model: -1 for none
+    // kind: -1 for none, else as SoFog::Kind.
+    void setFog(int kind, const SbColor& color, float range);
+    // Draws in one colour, without light, while its fourth number is above 0.
+    void setOverride(const SbVec4f& color);
+    // Points are then pixels beside the projected origin of the model.
+    void setScreenSpace(bool on);
+
+private:
+    GLint location(const char* name);
+
+    GlProgram m_program;
+    struct Locations {
+        GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
+            lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
+            fogColor, override, screenSpace;
+    } m_at{};
+};
+
+} // namespace xsg

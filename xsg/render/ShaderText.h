@@ -1,0 +1,154 @@
+// The text of the drawing program.
+#pragma once
+
+namespace xsg
+{
+
+constexpr const char* VertexShaderText = R"(#version 330 core
+layout(location = 0) in vec3 point;
+layout(location = 1) in vec3 normal;
+layout(location = 2) in vec2 texturePoint;
+layout(location = 3) in vec3 color; // red below 0: the instance's diffuse colour
+layout(location = 4) in mat4 model;
+layout(location = 8) in vec4 diffuse;
+layout(location = 9) in vec4 ambient;
+layout(location = 10) in vec4 specular;
+layout(location = 11) in vec4 emissive;
+
+uniform mat4 viewProjection;
+uniform mat4 textureMatrix;
+uniform vec2 viewport;
+uniform bool screenSpace;
+uniform int clipCount;
+uniform vec4 clipPlanes[6];
+
+out vec3 worldPoint;
+out vec3 worldNormal;
+out vec2 textureAt;
+flat out int isLit;
+out vec4 vertexDiffuse;
+flat out vec4 vertexAmbient;
+flat out vec3 vertexSpecular;
+flat out vec3 vertexEmissive;
+out float gl_ClipDistance[6];
+
+void main()
+{
+    vec4 world = model * vec4(screenSpace ? vec3(0) : point, 1);
+    gl_Position = viewProjection * world;
+    if (screenSpace) {
+        // Whole pixels, so that glyphs stay sharp.
+        vec2 anchor = floor((gl_Position.xy / gl_Position.w * 0.5 + 0.5) * viewport + 0.5);
+        gl_Position = vec4(((anchor + point.xy) / viewport * 2 - 1) * gl_Position.w, gl_Position.zw);
+    }
+    worldPoint = world.xyz / world.w;
+    // The cofactors turn normals right also where the model is stretched or mirrored.
+    mat3 m = mat3(model);
+    worldNormal = mat3(cross(m[1], m[2]), cross(m[2], m[0]), cross(m[0], m[1])) * normal;
+    isLit = any(notEqual(normal, vec3(0))) ? 1 : 0;
+    textureAt = (textureMatrix * vec4(texturePoint, 0, 1)).xy;
+    vertexDiffuse = vec4(color.r < 0 ? diffuse.rgb : color, diffuse.a);
+    vertexAmbient = ambient;
+    vertexSpecular = specular.rgb;
+    vertexEmissive = emissive.rgb;
+    for (int i = 0; i < 6; ++i)
+        gl_ClipDistance[i] = i < clipCount ? dot(clipPlanes[i].xyz, worldPoint) - clipPlanes[i].w : 1.0;
+}
+)";
+
+constexpr const char* FragmentShaderText = R"(#version 330 core
+in vec3 worldPoint;
+in vec3 worldNormal;
+in vec2 textureAt;
+flat in int isLit;
+in vec4 vertexDiffuse;
+flat in vec4 vertexAmbient; // and shininess
+flat in vec3 vertexSpecular;
+flat in vec3 vertexEmissive;
+
+uniform vec4 eye; // fourth number 0: the direction towards an eye far away
+uniform int lightCount;
+uniform vec3 lightColor[8];
+uniform vec4 lightLocation[8]; // fourth number 0: light from a direction
+uniform vec4 lightDirection[8]; // fourth number: cosine of the cut-off angle
+uniform vec4 lightAttenuation[8]; // fourth number: drop-off
+uniform vec3 ambientLight;
+uniform int textureModel;
+uniform sampler2D picture;
+uniform int fogKind;
+uniform vec4 fogColor; // fourth number: range
+uniform vec4 overrideColor;
+
+out vec4 result;
+
+vec3 lightAt(int i, out vec3 toLight)
+{
+    if (lightLocation[i].w == 0.0) {
+        toLight = -lightDirection[i].xyz;
+        return lightColor[i];
+    }
+    vec3 way = lightLocation[i].xyz - worldPoint;
+    float distance = max(length(way), 1e-6);
+    toLight = way / distance;
+    vec3 a = lightAttenuation[i].xyz;
+    float strength = 1.0 / max(a.x + a.y * distance + a.z * distance * distance, 1e-6);
+    float cosine = dot(-toLight, lightDirection[i].xyz);
+    if (cosine < lightDirection[i].w)
+        return vec3(0);
+    return lightColor[i] * strength * pow(max(cosine, 1e-6), lightAttenuation[i].w);
+}
+
+vec4 surfaceColor()
+{
+    if (textureModel < 0)
+        return vertexDiffuse;
+    vec4 texel = texture(picture, textureAt);
+    if (textureModel == 0)
+        return vertexDiffuse * texel;
+    if (textureModel == 1)
+        return vec4(mix(vertexDiffuse.rgb, texel.rgb, texel.a), vertexDiffuse.a);
+    return texel;
+}
+
+float fogAmount()
+{
+    float distance = length(eye.xyz - worldPoint * eye.w) / max(fogColor.w, 1e-6);
+    if (fogKind == 0)
+        return clamp(distance, 0.0, 1.0);
+    float density = fogKind == 1 ? distance * 4.0 : distance * distance * 5.0;
+    return 1.0 - exp(-density);
+}
+
+void main()
+{
+    if (overrideColor.a > 0.0) {
+        result = overrideColor;
+        return;
+    }
+    vec4 base = surfaceColor();
+    vec3 color = base.rgb + vertexEmissive;
+    if (isLit == 1) {
+        vec3 toEye = normalize(eye.xyz - worldPoint * eye.w);
+        vec3 n = normalize(worldNormal);
+        if (dot(n, toEye) < 0.0)
+            n = -n; // both sides of a surface are lit
+        color = vertexEmissive + ambientLight * vertexAmbient.rgb;
+        float sharpness = max(vertexAmbient.a, 0.0) * 128.0;
+        for (int i = 0; i < lightCount; ++i) {
+            vec3 toLight;
+            vec3 light = lightAt(i, toLight);
+            float facing = dot(n, toLight);
+            if (facing <= 0.0)
+                continue;
+            color += light * base.rgb * facing;
+            float mirrored = max(dot(n, normalize(toLight + toEye)), 1e-6);
+            color += light * vertexSpecular * pow(mirrored, sharpness);
+        }
+    }
+    if (fogKind >= 0)
+        color = mix(color, fogColor.rgb, fogAmount());
+    result = vec4(color, base.a);
+}
+)";
+
+} // namespace xsg

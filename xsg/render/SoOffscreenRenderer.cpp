@@ -1,0 +1,154 @@
+#include <xsg/render/SoOffscreenRenderer.h>
+
+#include <xsg/render/GlFunctions.h>
+#include <xsg/render/GlThread.h>
+
+namespace
+{
+
+struct RenderbufferTraits {
+    static GLuint create()
+    {
+        GLuint name = 0;
+        glGenRenderbuffers(1, &name);
+        return name;
+    }
+    static void destroy(GLuint name) { glDeleteRenderbuffers(1, &name); }
+};
+struct FramebufferTraits {
+    static GLuint create()
+    {
+        GLuint name = 0;
+        glGenFramebuffers(1, &name);
+        return name;
+    }
+    static void destroy(GLuint name) { glDeleteFramebuffers(1, &name); }
+};
+
+// A picture in OpenGL's memory, with depth.
+class Canvas
+{
+public:
+    bool prepare(int width, int height, int samples)
+    {
+        glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer.get());
+        attach(m_color.get(), GL_COLOR_ATTACHMENT0, GL_RGBA8, width, height, samples);
+        attach(m_depth.get(), GL_DEPTH_ATTACHMENT, GL_DEPTH_COMPONENT24, width, height, samples);
+        return glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE &&
+               glGetError() == GL_NO_ERROR;
+    }
+    void bind(GLenum target) { glBindFramebuffer(target, m_framebuffer.get()); }
+    void release()
+    {
+        m_framebuffer.release();
+        m_color.release();
+        m_depth.release();
+    }
+
+private:
+    static void attach(GLuint buffer, GLenum place, GLenum format, int width, int height, int samples)
+    {
+        glBindRenderbuffer(GL_RENDERBUFFER, buffer);
+        glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples, format, width, height);
+        glFramebufferRenderbuffer(GL_FRAMEBUFFER, place, GL_RENDERBUFFER, buffer);
+    }
+
+    xsg::GlObject<FramebufferTraits> m_framebuffer;
+    xsg::GlObject<RenderbufferTraits> m_color;
+    xsg::GlObject<RenderbufferTraits> m_depth;
+};
+
+} // namespace
+
+class SoOffscreenRenderer::Impl
+{
+public:
+    ~Impl()
+    {
+        thread.run([this] {
+            renderer.releaseGL();
+            m_drawn.release();
+            m_smooth.release();
+        });
+    }
+
+    bool draw(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels)
+    {
+        GLint largest = 0;
+        GLint mostSamples = 0;
+        glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &largest);
+        glGetIntegerv(GL_MAX_SAMPLES, &mostSamples);
+        const int used = std::clamp(samples, 1, std::max(mostSamples, 1));
+        if (width <= 0 || height <= 0 || width > largest || height > largest ||
+            !m_smooth.prepare(width, height, 0) || !m_drawn.prepare(width, height, used > 1 ? used : 0)) {
+            error = "A picture of " + std::to_string(width) + " x " + std::to_string(height) +
+                    " pixels cannot be drawn; each side may have 1 to " + std::to_string(largest) + ".";
+            return false;
+        }
+        m_drawn.bind(GL_FRAMEBUFFER);
+        if (!renderer.render(root, camera, width, height)) {
+            error = renderer.getErrorText();
+            return false;
+        }
+        m_drawn.bind(GL_READ_FRAMEBUFFER);
+        m_smooth.bind(GL_DRAW_FRAMEBUFFER);
+        glBlitFramebuffer(0, 0, width, height, 0, 0, width, height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+        m_smooth.bind(GL_FRAMEBUFFER);
+        read(width, height, pixels);
+        return true;
+    }
+
+    int samples = 4;
+    std::string error;
+    SoRenderer renderer;
+    xsg::GlThread thread;
+
+private:
+    static void read(int width, int height, SoPixels& pixels)
+    {
+        pixels.width = width;
+        pixels.height = height;
+        const auto row = static_cast<std::size_t>(width) * 4;
+        pixels.rgba.resize(row * static_cast<std::size_t>(height));
+        glPixelStorei(GL_PACK_ALIGNMENT, 4);
+        glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, pixels.rgba.data());
+        // OpenGL's rows go from the bottom up.
+        for (std::size_t top = 0, low = static_cast<std::size_t>(height) - 1; top < low; ++top, --low)
+            std::swap_ranges(pixels.rgba.data() + top * row, pixels.rgba.data() + (top + 1) * row,
+                             pixels.rgba.data() + low * row);
+    }
+
+    Canvas m_drawn;
+    Canvas m_smooth;
+};
+
+SoOffscreenRenderer::SoOffscreenRenderer()
+    : m_impl(std::make_unique<Impl>())
+{
+}
+
+SoOffscreenRenderer::~SoOffscreenRenderer() = default;
+
+SoRenderer& SoOffscreenRenderer::getRenderer()
+{
+    return m_impl->renderer;
+}
+
+void SoOffscreenRenderer::setSamples(int samples)
+{
+    m_impl->samples = samples;
+}
+
+bool SoOffscreenRenderer::render(SoNode* root, const SoCamera* camera, int width, int height,
+                                 SoPixels& pixels)
+{
+    m_impl->error = m_impl->thread.getErrorText();
+    bool drawn = false;
+    m_impl->thread.run([&] { drawn = m_impl->draw(root, camera, width, height, pixels); });
+    return drawn;
+}
+
+const std::string& SoOffscreenRenderer::getErrorText() const
+{
+    return m_impl->error;
+}

@@ -1,0 +1,42 @@
+// Draws pictures of scenes into memory, with an OpenGL context of its own: no window, no display and no X
+// server needed. For screenshots and tests. Whatever context the caller has current stays as it is. The scene
+// must not change while render() runs.
+#pragma once
+
+#include <xsg/render/SoRenderer.h>
+
+#include <vector>
+
+struct SoPixels {
+    int width = 0;
+    int height = 0;
+    std::vector<unsigned char> rgba; // four bytes a pixel, rows from the top down
+    const unsigned char* at(int x, int y) const
+    {
+        return rgba.data() + 4 * (static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                                  static_cast<std::size_t>(x));
+    }
+};
+
+class XSG_API SoOffscreenRenderer
+{
+public:
+    SoOffscreenRenderer();
+    ~SoOffscreenRenderer();
+    SoOffscreenRenderer(const SoOffscreenRenderer&) = delete;
+    SoOffscreenRenderer& operator=(const SoOffscreenRenderer&) = delete;
+
+    // Background, highlight, statistics and so on are set and read there; only render() is not for callers.
+    SoRenderer& getRenderer();
+    // How many samples smooth the edges: 1 for none, 4 at first; fewer where the system has no more.
+    void setSamples(int samples);
+
+    // A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
+    // sentence.
+    bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
+    const std::string& getErrorText() const;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};

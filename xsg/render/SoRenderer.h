@@ -1,0 +1,70 @@
+// Draws a scene with OpenGL 3.3 into the framebuffer of the context that is current:
+//
+//     void paintGL() { m_renderer.render(m_root, m_camera, width, height); }
+//
+// Geometry and textures stay in OpenGL's memory and are made again only when their fields change. One
+// renderer belongs to one context (or to several that share objects): render() and releaseGL() need it
+// current, on the scene's thread. Several renderers, each with its context, may show the same scene.
+#pragma once
+
+#include <xsg/base/SbBox.h>
+#include <xsg/base/SbMatrix.h>
+#include <xsg/base/XsgExport.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+class SoCamera;
+class SoNode;
+
+class XSG_API SoRenderer
+{
+public:
+    SoRenderer();
+    // Touches no OpenGL: objects not given back by releaseGL() go with their context.
+    ~SoRenderer();
+    SoRenderer(const SoRenderer&) = delete;
+    SoRenderer& operator=(const SoRenderer&) = delete;
+
+    // Clears and draws. `camera` may stand in the scene or outside of it; null takes the first one in the
+    // scene or, where there is none, a view of everything. A null root gives the empty background. Size in
+    // pixels. False where OpenGL cannot draw it; getErrorText() then says why in one sentence.
+    bool render(SoNode* root, const SoCamera* camera, int width, int height);
+    const std::string& getErrorText() const;
+
+    // Gives all OpenGL objects back; the next render() makes them again. Call it before the context goes.
+    void releaseGL();
+
+    void setBackground(const SbColor& color, float opacity = 1);
+    // Draws the edges of everything instead of surfaces.
+    void setWireframe(bool on);
+    // Marks this node and what is below it with its edges drawn in a colour; null for none. The node is only
+    // compared with, never looked into.
+    void setHighlight(const SoNode* node);
+    void setHighlightColor(const SbColor& color);
+    // A light beside the eye in scenes without a light of their own; on from the start.
+    void setHeadlight(bool on);
+
+    // What the last render() saw and did.
+    struct Statistics {
+        std::int64_t nodes = 0;  // visited; 0 where nothing had changed
+        std::int64_t shapes = 0; // in the scene
+        std::int64_t culled = 0; // of them out of sight
+        std::int64_t drawCalls = 0;
+        std::int64_t triangles = 0; // drawn
+        std::int64_t points = 0;    // of the geometry drawn
+        std::int64_t stateChanges = 0;
+        std::int64_t bufferUploads = 0;
+        std::int64_t uploadedBytes = 0;
+        std::int64_t textureBytes = 0; // uploaded
+        double seconds = 0;            // spent by the processor
+    };
+    const Statistics& getStatistics() const;
+    // Around everything in the scene, as of the last render().
+    SbBox3f getSceneBox() const;
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
