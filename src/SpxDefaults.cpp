@@ -21,6 +21,7 @@ bool SpxDefaults::load()
 {
     SpxExtension* const registration[] = {
         // Extensions: profile selector, console, performance counters.
+        &m_perfCounters,
 
         // Editors of multi-value fields; after MFDouble comes the single-value editor of file paths.
 

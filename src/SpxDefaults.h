@@ -7,6 +7,7 @@
 
 #include "SpxFieldEditorDockWin.h"
 #include "SpxNodeEditor.h"
+#include "SpxPerfCounterExtension.h"
 
 #include <scopix/SpxPlugin.h>
 
@@ -20,6 +21,7 @@ public:
 
 private:
     // Extensions: profile selector, performance counters, console.
+    SpxPerfCounterExtension m_perfCounters;
 
     // Editors of multi-value fields.
 

@@ -1,0 +1,262 @@
+#include "CounterProfileFile.h"
+
+#include "CustomCounter.h"
+#include "EdText.h"
+#include "SoPerfCounterProfile.h"
+
+#include <xsg/base/SoPreferences.h>
+#include <xsg/counters/SoPerfCounterManager.h>
+
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QIODevice>
+#include <QMessageBox>
+#include <QTextStream>
+
+#include <memory>
+
+namespace counterProfileFile
+{
+namespace
+{
+
+const QLatin1String Root("perfCounterModule");
+const QLatin1String CustomCounters("customPC");
+const QLatin1String Counter("counter");
+const QLatin1String Profiles("profiles");
+const QLatin1String Profile("profile");
+const QLatin1String ProfileView("profileview");
+const QLatin1String ListCounters("listcounters");
+const QLatin1String ListView("listview");
+const QLatin1String Pc("pc");
+const QLatin1String PcViewed("pcviewed");
+const QLatin1String Name("name");
+const QLatin1String Type("type");
+constexpr int Indentation = 2;
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("PerfCounter", text);
+}
+
+QDomElement section(const QDomDocument& document, const QString& name)
+{
+    return document.documentElement().firstChildElement(name);
+}
+
+// The section of this name, made where a hand-written file lacks it.
+QDomElement sectionToWrite(QDomDocument& document, const QString& name)
+{
+    QDomElement found = section(document, name);
+    if (found.isNull())
+        found = document.documentElement().appendChild(document.createElement(name)).toElement();
+    return found;
+}
+
+void removeChildren(QDomElement parent, const QString& name)
+{
+    for (QDomElement child = parent.firstChildElement(name); !child.isNull();) {
+        const QDomElement next = child.nextSiblingElement(name);
+        parent.removeChild(child);
+        child = next;
+    }
+}
+
+void appendText(QDomElement parent, const QString& name, const QString& text)
+{
+    QDomDocument document = parent.ownerDocument();
+    QDomElement element = document.createElement(name);
+    element.appendChild(document.createTextNode(text));
+    parent.appendChild(element);
+}
+
+void readTexts(const QDomElement& parent, const QString& name, QList<QString>& texts)
+{
+    for (QDomElement e = parent.firstChildElement(name); !e.isNull(); e = e.nextSiblingElement(name))
+        texts.append(e.text());
+}
+
+void readCounter(const QDomElement& element)
+{
+    const QString type = element.attribute(Type);
+    if (type != QLatin1String("A") && type != QLatin1String("S"))
+        return;
+    const auto text = [&](const char* child) {
+        return element.firstChildElement(QLatin1String(child)).text();
+    };
+    CustomCounter counter;
+    counter.name = element.attribute(Name);
+    counter.isAccumulation = type == QLatin1String("A");
+    counter.description = text("description");
+    counter.module = text("module");
+    counter.level = text("level").toInt();
+    counter.firstParent = text("firstparent");
+    counter.secondParent = text("secondparent");
+    counter.operation = text("operation");
+    counter.registerIt();
+}
+
+void appendCounter(QDomElement parent, const SoPerfCounter& counter)
+{
+    QDomElement element = parent.ownerDocument().createElement(Counter);
+    element.setAttribute(Name, toQString(counter.getName()));
+    element.setAttribute(Type, toQString(counter.getTypeCode()));
+    const auto text = [&](const char* name, const QString& value) {
+        appendText(element, QLatin1String(name), value);
+    };
+    text("description", toQString(counter.getDescription()));
+    text("module", toQString(counter.getModule()));
+    text("level", QString::number(int(counter.getLevel())));
+    text("firstparent", toQString(counter.getFirstParent()));
+    text("secondparent", toQString(counter.getSecondParent()));
+    text("operation", toQString(counter.getOperation()));
+    parent.appendChild(element);
+}
+
+} // namespace
+
+QString defaultPath()
+{
+    const SbString home = SoPreferences::getString("XSGHOME", "");
+    return toQString(home) + QStringLiteral("/data/Scopix/PerfCounter.xml");
+}
+
+QString dialogFilter()
+{
+    return translated("XML Files (*.xml)");
+}
+
+QString title()
+{
+    return translated("Performance counter profile");
+}
+
+bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
+{
+    // Parsed aside first, since a failed parse leaves what it has read so far in every document that shares the tree.
+    // The device is opened by the parser itself where it is not open yet.
+    QDomDocument parsed;
+    QString message;
+    int line = 0;
+    int column = 0;
+    if (!parsed.setContent(device, true, &message, &line, &column)) {
+        QMessageBox::information(parent, title(),
+                                 translated("Parse error at line %1, column %2:\n%3")
+                                     .arg(QString::number(line), QString::number(column), message));
+        return false;
+    }
+    if (parsed.documentElement().tagName() != Root) {
+        QMessageBox::information(parent, title(),
+                                 translated("The file does not contain information about performance counters."));
+        return false;
+    }
+    while (document.hasChildNodes())
+        document.removeChild(document.firstChild());
+    for (QDomNode node = parsed.firstChild(); !node.isNull(); node = node.nextSibling())
+        document.appendChild(document.importNode(node, true));
+    return true;
+}
+
+void writeDocument(QIODevice* device, const QDomDocument& document)
+{
+    QTextStream stream(device);
+    stream.setCodec("UTF-8");
+    document.save(stream, Indentation);
+}
+
+void initDocument(QIODevice* device, QDomDocument& document)
+{
+    document = QDomDocument();
+    const QDomNode declaration = document.createProcessingInstruction(
+        QStringLiteral("xml"), QStringLiteral("version='1.0' encoding='UTF-8'"));
+    document.insertBefore(declaration, document.firstChild());
+    QDomElement root = document.createElement(Root);
+    document.appendChild(root);
+    for (const QLatin1String name : {CustomCounters, Profiles, ProfileView})
+        root.appendChild(document.createElement(name));
+    writeDocument(device, document);
+}
+
+void readCustomCounters(const QDomDocument& document)
+{
+    const QDomElement all = section(document, CustomCounters);
+    for (QDomElement e = all.firstChildElement(Counter); !e.isNull(); e = e.nextSiblingElement(Counter))
+        readCounter(e);
+}
+
+void writeCustomCounters(QDomDocument& document)
+{
+    const QDomElement all = sectionToWrite(document, CustomCounters);
+    removeChildren(all, Counter);
+    for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
+        if (counter->isCustom() && counter->isEnabled())
+            appendCounter(all, *counter);
+    }
+}
+
+QList<SoPerfCounterProfile*> readProfiles(const QDomDocument& document)
+{
+    QList<SoPerfCounterProfile*> profiles;
+    const QDomElement all = section(document, Profiles);
+    for (QDomElement e = all.firstChildElement(Profile); !e.isNull(); e = e.nextSiblingElement(Profile)) {
+        auto profile = std::make_unique<SoPerfCounterProfile>(e.attribute(Name));
+        readTexts(e.firstChildElement(ListCounters), Pc, *profile->getList());
+        readTexts(e.firstChildElement(ListView), PcViewed, *profile->getView());
+        profiles.append(profile.release());
+    }
+    return profiles;
+}
+
+void writeProfiles(QDomDocument& document, const QList<SoPerfCounterProfile*>& profiles)
+{
+    QDomElement all = sectionToWrite(document, Profiles);
+    removeChildren(all, Profile);
+    for (const SoPerfCounterProfile* profile : profiles) {
+        QDomElement element = document.createElement(Profile);
+        element.setAttribute(Name, profile->getName());
+        QDomElement counters = document.createElement(ListCounters);
+        for (const QString& name : *profile->getList())
+            appendText(counters, Pc, name);
+        QDomElement view = document.createElement(ListView);
+        for (const QString& name : *profile->getView())
+            appendText(view, PcViewed, name);
+        element.appendChild(counters);
+        element.appendChild(view);
+        all.appendChild(element);
+    }
+}
+
+bool readViewedProfile(const QDomDocument& document, QString& name)
+{
+    name = section(document, ProfileView).attribute(Name);
+    return !section(document, ProfileView).isNull();
+}
+
+void writeView(QDomDocument& document, const SoPerfCounterProfile& profile)
+{
+    const QDomElement all = sectionToWrite(document, Profiles);
+    QDomElement element = all.firstChildElement(Profile);
+    while (!element.isNull() && element.attribute(Name) != profile.getName())
+        element = element.nextSiblingElement(Profile);
+    if (!element.isNull()) {
+        QDomElement view = element.firstChildElement(ListView);
+        if (view.isNull())
+            view = element.appendChild(document.createElement(ListView)).toElement();
+        QList<QString> present;
+        for (QDomElement e = view.lastChildElement(PcViewed); !e.isNull();) {
+            const QDomElement before = e.previousSiblingElement(PcViewed);
+            if (profile.getView()->contains(e.text()))
+                present.append(e.text());
+            else
+                view.removeChild(e);
+            e = before;
+        }
+        for (const QString& name : *profile.getView()) {
+            if (!present.contains(name))
+                appendText(view, PcViewed, name);
+        }
+    }
+    sectionToWrite(document, ProfileView).setAttribute(Name, profile.getName());
+}
+
+} // namespace counterProfileFile

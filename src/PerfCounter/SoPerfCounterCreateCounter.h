@@ -1,0 +1,21 @@
+// Defines a custom counter from two others. Deletes itself when closed.
+#pragma once
+
+#include "ui_SoPerfCounterCreateCounter.h"
+
+#include <QDialog>
+
+class SoPerfCounterCreateCounter : public QDialog, public Ui_QPerfCounterCreateCounter
+{
+    Q_OBJECT
+
+public:
+    SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter, QWidget* parent = nullptr);
+
+signals:
+    // The counter of this name is registered by now.
+    void createNow(QString name);
+
+public slots:
+    void okButtonAction();
+};

@@ -1,0 +1,263 @@
+#include "SoPerfCounterDockWin.h"
+
+#include "CounterProfileFile.h"
+#include "CustomCounter.h"
+#include "SoPerfCounterPcViewed.h"
+#include "SoPerfCounterProfile.h"
+#include "SoPerfCounterProfileManager.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+
+#include <QColorDialog>
+#include <QFile>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace
+{
+
+// One full row of the legend.
+constexpr int LegendColumns = 5;
+
+} // namespace
+
+SoPerfCounterDockWin::SoPerfCounterDockWin(QWidget* parent, Qt::WindowFlags flags)
+    : QDockWidget(parent, flags)
+    , m_preSelected(std::make_unique<QList<QString>>())
+    , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
+    , m_manager(SoPerfCounterManager::getInstance())
+{
+    auto* content = new QWidget(this);
+    setupUi(content);
+    setWidget(content);
+    setupConnections();
+    openDefaultFile();
+    m_propertiesGroupBox->setEnabled(false);
+}
+
+SoPerfCounterDockWin::~SoPerfCounterDockWin()
+{
+    delete m_profileManager;
+    qDeleteAll(*m_profiles);
+}
+
+void SoPerfCounterDockWin::setupConnections()
+{
+    using Dock = SoPerfCounterDockWin;
+    using Viewer = SoPerfCounterViewer;
+    connect(m_openConfigButton, &QPushButton::clicked, this, &Dock::openProfileManager);
+    connect(m_saveView, &QPushButton::clicked, this, &Dock::saveView);
+    connect(this, qOverload<>(&Dock::openingProfile), m_viewer->getTimer(), &QTimer::stop);
+    connect(m_viewer->m_legend, &QTableWidget::itemSelectionChanged, this, &Dock::updateProperties);
+    connect(m_viewer, &Viewer::newPcViewed, this, &Dock::addPcViewed);
+    connect(m_viewer, &Viewer::deletedPcViewed, this, &Dock::removePcViewed);
+    connect(m_listConfig, SIGNAL(currentIndexChanged(int)), this, SLOT(updateCurrentProfile(int)));
+    connect(m_preSelectedListView, &QListWidget::doubleClicked, this, &Dock::doubleClickAction);
+    connect(this, &Dock::doubleClick, m_viewer, &Viewer::doubleClickEvent);
+    connect(m_colorButton, &QPushButton::clicked, this, &Dock::colorClicked);
+    connect(this, &Dock::colorChanged, m_viewer, &Viewer::changeColor);
+    connect(m_scaleEdit, &QLineEdit::textEdited, m_viewer, &Viewer::changeScale);
+    connect(this, &Dock::currentProfileChanged, m_viewer, &Viewer::resetView);
+    connect(this, &Dock::needUpdateViewer, m_viewer, &Viewer::updateViewer);
+    connect(this, &Dock::needClearViewer, m_viewer, &Viewer::clearViewer);
+}
+
+void SoPerfCounterDockWin::openDefaultFile()
+{
+    m_filePath = counterProfileFile::defaultPath();
+    QFile file(m_filePath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        QMessageBox::warning(this, tr("DOM Bookmarks"),
+                             tr("Cannot read file %1:\n%2.").arg(m_filePath, file.errorString()));
+    }
+    // Read even where it could not be opened, which says so a second time; that is meant.
+    if (!read(&file)) {
+        m_filePath.clear();
+        file.close();
+        counterProfileFile::initDocument(&file, m_document);
+        m_currentProfile = m_profiles->isEmpty() ? -1 : 0;
+    }
+}
+
+bool SoPerfCounterDockWin::read(QIODevice* device)
+{
+    if (!counterProfileFile::readDocument(device, m_document, this))
+        return false;
+    counterProfileFile::readCustomCounters(m_document);
+    m_profiles->append(counterProfileFile::readProfiles(m_document));
+    setupProfileComboBox();
+    parseViewElement();
+    return true;
+}
+
+void SoPerfCounterDockWin::parseViewElement()
+{
+    if (m_listConfig->currentIndex() < 0)
+        return;
+    QString name;
+    const bool told = counterProfileFile::readViewedProfile(m_document, name);
+    const int index = told ? m_listConfig->findData(name, Qt::DisplayRole) : -1;
+    if (index >= 0)
+        selectInComboBox(index);
+    else
+        updateCurrentProfile(0);
+}
+
+void SoPerfCounterDockWin::setupProfileComboBox()
+{
+    disconnect(m_listConfig, SIGNAL(currentIndexChanged(int)), this, SLOT(updateCurrentProfile(int)));
+    m_listConfig->clear();
+    for (const SoPerfCounterProfile* p : qAsConst(*m_profiles))
+        m_listConfig->addItem(p->getName());
+    connect(m_listConfig, SIGNAL(currentIndexChanged(int)), this, SLOT(updateCurrentProfile(int)));
+}
+
+SoPerfCounterProfile* SoPerfCounterDockWin::profile() const
+{
+    return m_currentProfile >= 0 && m_currentProfile < m_profiles->size() ? m_profiles->at(m_currentProfile)
+                                                                         : nullptr;
+}
+
+void SoPerfCounterDockWin::updateCurrentProfile(int index)
+{
+    m_currentProfile = index;
+    if (!profile())
+        return;
+    m_viewer->setViewList(profile()->getView());
+    emit currentProfileChanged();
+    emit needUpdateViewer();
+    setupPreSelectedList();
+}
+
+void SoPerfCounterDockWin::selectInComboBox(int index)
+{
+    // The box says nothing when the index is its own already.
+    if (m_listConfig->currentIndex() == index)
+        updateCurrentProfile(index);
+    else
+        m_listConfig->setCurrentIndex(index);
+}
+
+void SoPerfCounterDockWin::setupPreSelectedList()
+{
+    m_preSelected->clear();
+    m_preSelectedListView->clear();
+    if (const SoPerfCounterProfile* current = profile()) {
+        *m_preSelected = *current->getList();
+        m_preSelectedListView->addItems(QStringList(*m_preSelected));
+    }
+    m_preSelectedListView->sortItems(Qt::AscendingOrder);
+}
+
+void SoPerfCounterDockWin::doubleClickAction(const QModelIndex& /*index*/)
+{
+    if (const QListWidgetItem* item = m_preSelectedListView->currentItem())
+        emit doubleClick(item->text());
+}
+
+void SoPerfCounterDockWin::addPcViewed(QString name)
+{
+    if (SoPerfCounterProfile* current = profile())
+        current->getView()->append(name);
+}
+
+void SoPerfCounterDockWin::removePcViewed(QString name)
+{
+    if (SoPerfCounterProfile* current = profile())
+        current->getView()->removeAll(name);
+}
+
+void SoPerfCounterDockWin::colorClicked()
+{
+    m_colorButton->ensurePolished(); // the style sheet's colour shows in the palette only then
+    const QColor present = m_colorButton->palette().color(m_colorButton->backgroundRole());
+    const QColor color = QColorDialog::getColor(present, this);
+    if (!color.isValid())
+        return;
+    emit colorChanged(color);
+    updateProperties();
+}
+
+void SoPerfCounterDockWin::updateProperties()
+{
+    const QList<QTableWidgetItem*> selected = m_viewer->m_legend->selectedItems();
+    const QTableWidgetItem* first
+        = selected.size() == LegendColumns ? m_viewer->m_legend->item(selected.first()->row(), 0) : nullptr;
+    const SoPerfCounterPcViewed* viewed = first ? m_viewer->findViewed(first->text()) : nullptr;
+    const bool isViewed = viewed && profile() && profile()->getView()->contains(viewed->getName());
+    m_propertiesGroupBox->setEnabled(isViewed);
+    if (!isViewed)
+        return;
+    const QColor color = viewed->getColor();
+    m_colorButton->setStyleSheet(QStringLiteral("background-color: rgb(%1,%2,%3);")
+                                     .arg(color.red())
+                                     .arg(color.green())
+                                     .arg(color.blue()));
+    const SoPerfCounter* counter = m_manager->getCounter(toCounterName(viewed->getName()));
+    m_scaleEdit->setText(QString().setNum(counter ? counter->getScaleFactor() : 1.0, 'g', 6));
+}
+
+void SoPerfCounterDockWin::openProfileManager()
+{
+    if (m_profileManager) {
+        m_profileManager->raise();
+        return;
+    }
+    auto* manager = new SoPerfCounterProfileManager(this);
+    m_profileManager = manager;
+    using Manager = SoPerfCounterProfileManager;
+    connect(manager, qOverload<QList<SoPerfCounterProfile*>*, int>(&Manager::okProfile), this,
+            &SoPerfCounterDockWin::recoveryListFromProfileManager);
+    connect(manager, qOverload<>(&Manager::okProfile), m_viewer, &SoPerfCounterViewer::start);
+    connect(manager, &Manager::cancelProfile, m_viewer, &SoPerfCounterViewer::start);
+    connect(this, qOverload<QList<SoPerfCounterProfile*>*, int>(&SoPerfCounterDockWin::openingProfile), manager,
+            &Manager::recoveryListFromMainWindow);
+    connect(manager, &Manager::filepathChanged, this, &SoPerfCounterDockWin::changeFilepath);
+    manager->setFilepath(m_filePath);
+    manager->setFilepathTemp(m_filePath);
+    manager->setDomDocument(m_document);
+    emit openingProfile(m_profiles.get(), m_currentProfile);
+    emit openingProfile();
+    manager->show();
+}
+
+void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterProfile*>* profiles, int index)
+{
+    // The old profiles are the manager's to delete.
+    m_profiles->clear();
+    m_profiles.reset(profiles);
+    const int before = m_currentProfile;
+    setupProfileComboBox();
+    if (index == -1) {
+        m_currentProfile = -1;
+        m_preSelected->clear();
+        m_preSelectedListView->clear();
+        emit needClearViewer();
+        emit needUpdateViewer();
+        return;
+    }
+    m_currentProfile = index;
+    m_viewer->setViewList(profile()->getView());
+    if (index != before || index == 0)
+        setupPreSelectedList();
+    selectInComboBox(index);
+    emit needUpdateViewer();
+}
+
+void SoPerfCounterDockWin::changeFilepath(QString path)
+{
+    m_filePath = path;
+}
+
+void SoPerfCounterDockWin::saveView()
+{
+    QFile file(m_filePath);
+    if (!profile() || !file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        const QString reason = m_filePath.isEmpty() ? tr("No file name specified") : file.errorString();
+        QMessageBox::warning(this, counterProfileFile::title(),
+                             tr("Cannot write file %1:\n%2.").arg(m_filePath, reason));
+        return;
+    }
+    counterProfileFile::writeView(m_document, *profile());
+    counterProfileFile::writeDocument(&file, m_document);
+}

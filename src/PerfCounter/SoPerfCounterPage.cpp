@@ -1,0 +1,7 @@
+#include "SoPerfCounterPage.h"
+
+SoPerfCounterPage::SoPerfCounterPage(QWidget* parent)
+    : QWidget(parent)
+{
+    setupUi(this);
+}

@@ -1,0 +1,27 @@
+// A named profile of the performance-counter tool: the counters that it offers and those that it shows in the viewer.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+class SoPerfCounterProfile
+{
+public:
+    explicit SoPerfCounterProfile(const QString& name);
+
+    QString getName() const { return m_name; }
+    // Both lists belong to the profile; their order is the order on screen and in the file.
+    QList<QString>* getList() const { return m_list.get(); }
+    QList<QString>* getView() const { return m_view.get(); }
+
+    // Takes a counter out of both lists.
+    void removeCounter(const QString& counter);
+    std::unique_ptr<SoPerfCounterProfile> copy() const;
+
+private:
+    QString m_name;
+    std::unique_ptr<QList<QString>> m_list;
+    std::unique_ptr<QList<QString>> m_view;
+};

@@ -1,0 +1,402 @@
+#include "SoPerfCounterProfileManager.h"
+
+#include "CounterProfileFile.h"
+#include "CustomCounter.h"
+#include "EdText.h"
+#include "SoPerfCounterCreateCounter.h"
+#include "SoPerfCounterCreateProfile.h"
+#include "SoPerfCounterPage.h"
+#include "SoPerfCounterProfile.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace
+{
+
+QStringList selectedNames(const QTableWidget& table)
+{
+    QStringList names;
+    for (const QModelIndex& index : table.selectionModel()->selectedRows())
+        names.append(table.item(index.row(), 0)->text());
+    return names;
+}
+
+void appendCounter(QTableWidget& table, const SoPerfCounter& counter)
+{
+    const int row = table.rowCount();
+    table.insertRow(row);
+    const QString texts[] = {toQString(counter.getName()),
+                             counter.isCustom() ? QStringLiteral("c") : QString(),
+                             toQString(counter.getTypeText()),
+                             toQString(counter.getStringLevel()),
+                             toQString(counter.getModule()),
+                             toQString(counter.getDescription())};
+    int column = 0;
+    for (const QString& text : texts)
+        table.setItem(row, column++, new QTableWidgetItem(text));
+}
+
+void finishTable(QTableWidget& table)
+{
+    table.sortItems(0, Qt::AscendingOrder);
+    table.resizeColumnsToContents();
+}
+
+} // namespace
+
+SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
+    : QMainWindow(parent)
+    , m_registry(SoPerfCounterManager::getInstance())
+    , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
+{
+    setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    setupConnections();
+    setupListCounter();
+}
+
+SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
+{
+    dropProfiles();
+}
+
+void SoPerfCounterProfileManager::setupConnections()
+{
+    using Manager = SoPerfCounterProfileManager;
+    connect(actionCreateCounter, &QAction::triggered, this, &Manager::createCounter);
+    connect(actionDeleteCounter, &QAction::triggered, this, &Manager::deleteCounter);
+    connect(actionOpenProfile, &QAction::triggered, this, &Manager::openProfile);
+    connect(actionSaveProfile, &QAction::triggered, this, &Manager::saveAsProfile);
+    connect(actionNewProfile, &QAction::triggered, this, &Manager::createProfile);
+    connect(actionDeleteProfile, &QAction::triggered, this, &Manager::deleteProfile);
+    connect(actionResetProfile, &QAction::triggered, this, &Manager::resetProfile);
+    connect(m_createCounter, &QPushButton::clicked, this, &Manager::createCounter);
+    connect(m_deleteCounter, &QPushButton::clicked, this, &Manager::deleteCounter);
+    connect(m_downArrow, &QPushButton::clicked, this, &Manager::downArrowAction);
+    connect(m_upArrow, &QPushButton::clicked, this, &Manager::upArrowAction);
+    connect(m_addProfile, &QPushButton::clicked, this, &Manager::createProfile);
+    connect(m_deleteProfile, &QPushButton::clicked, this, &Manager::deleteProfile);
+    connect(m_resetProfile, &QPushButton::clicked, this, &Manager::resetProfile);
+    connect(m_buttonBox, &QDialogButtonBox::accepted, this, &Manager::okButtonAction);
+    connect(m_buttonBox, &QDialogButtonBox::rejected, this, &Manager::cancelButtonAction);
+    connect(this, &Manager::deletedCounter, this, &Manager::removeFromProfiles);
+}
+
+void SoPerfCounterProfileManager::setFilepath(const QString& path)
+{
+    m_filePath = path;
+    setWindowTitle(tr("Profile Manager - ") + path);
+    emit filepathChanged(path);
+}
+
+void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles, int index)
+{
+    m_handedOver = profiles;
+    for (const SoPerfCounterProfile* profile : qAsConst(*profiles)) {
+        m_profiles->append(profile->copy().release());
+        addTab(*m_profiles->last());
+    }
+    m_tabProfile->setCurrentIndex(index);
+}
+
+void SoPerfCounterProfileManager::addTab(const SoPerfCounterProfile& profile)
+{
+    m_tabProfile->addTab(new SoPerfCounterPage(m_tabProfile), profile.getName());
+    setupPreSelectedList(m_tabProfile->count() - 1);
+}
+
+void SoPerfCounterProfileManager::dropProfiles()
+{
+    while (m_tabProfile->count() > 0) {
+        QWidget* page = m_tabProfile->widget(0);
+        m_tabProfile->removeTab(0);
+        delete page;
+    }
+    if (!m_profiles)
+        return;
+    qDeleteAll(*m_profiles);
+    m_profiles->clear();
+}
+
+QTableWidget* SoPerfCounterProfileManager::tableOf(int index) const
+{
+    return static_cast<SoPerfCounterPage*>(m_tabProfile->widget(index))->getTableProfile();
+}
+
+void SoPerfCounterProfileManager::setupListCounter()
+{
+    m_listCounter->setRowCount(0);
+    for (const SoPerfCounter* counter : m_registry->getCounters()) {
+        if (counter->isEnabled())
+            appendCounter(*m_listCounter, *counter);
+    }
+    finishTable(*m_listCounter);
+}
+
+void SoPerfCounterProfileManager::setupPreSelectedList(int index)
+{
+    if (index < 0 || index >= m_profiles->size())
+        return;
+    QTableWidget* table = tableOf(index);
+    table->setRowCount(0);
+    for (const QString& name : qAsConst(*m_profiles->at(index)->getList())) {
+        const SoPerfCounter* counter = m_registry->getCounter(toCounterName(name));
+        if (counter && counter->isEnabled())
+            appendCounter(*table, *counter);
+    }
+    finishTable(*table);
+}
+
+void SoPerfCounterProfileManager::createCounter()
+{
+    const QStringList names = selectedNames(*m_listCounter);
+    if (names.size() != 2) {
+        QMessageBox::warning(
+            this, windowTitle(),
+            tr("To create a custom counter you have to select exactly TWO counters from the list."));
+        return;
+    }
+    auto* dialog = new SoPerfCounterCreateCounter(names[0], names[1], this);
+    connect(dialog, &SoPerfCounterCreateCounter::createNow, this, &SoPerfCounterProfileManager::updateCounterList);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->show();
+}
+
+void SoPerfCounterProfileManager::updateCounterList(QString name)
+{
+    m_created.append(name);
+    setupListCounter();
+}
+
+void SoPerfCounterProfileManager::deleteCounter()
+{
+    QMessageBox question(QMessageBox::Question, windowTitle(),
+                         tr("Do you really want to delete definitively these counters ?\n\nNote that only custom "
+                            "counters will be affected."),
+                         QMessageBox::Ok | QMessageBox::Cancel, this);
+    if (question.exec() != QMessageBox::Ok)
+        return;
+    for (const QString& name : selectedNames(*m_listCounter)) {
+        const SoPerfCounter* counter = m_registry->getCounter(toCounterName(name));
+        if (counter && counter->isCustom())
+            m_registry->disableCounter(toCounterName(name));
+    }
+    setupListCounter();
+    setupPreSelectedList(m_tabProfile->currentIndex());
+}
+
+SoPerfCounterProfile* SoPerfCounterProfileManager::currentProfile(const QString& otherwise)
+{
+    const int index = m_tabProfile->currentIndex();
+    if (index >= 0)
+        return m_profiles->at(index);
+    QMessageBox::warning(this, tr("No profiles"), otherwise);
+    return nullptr;
+}
+
+void SoPerfCounterProfileManager::downArrowAction()
+{
+    SoPerfCounterProfile* profile
+        = currentProfile(tr("You have to create al least one profile before adding counters."));
+    if (!profile)
+        return;
+    for (const QString& name : selectedNames(*m_listCounter)) {
+        profile->getList()->removeAll(name);
+        profile->getList()->append(name);
+    }
+    setupPreSelectedList(m_tabProfile->currentIndex());
+}
+
+void SoPerfCounterProfileManager::upArrowAction()
+{
+    SoPerfCounterProfile* profile
+        = currentProfile(tr("There is no profile from which you can remove a counter."));
+    if (!profile)
+        return;
+    for (const QString& name : selectedNames(*tableOf(m_tabProfile->currentIndex())))
+        profile->removeCounter(name);
+    setupPreSelectedList(m_tabProfile->currentIndex());
+}
+
+void SoPerfCounterProfileManager::createProfile()
+{
+    auto* dialog = new SoPerfCounterCreateProfile(this);
+    connect(dialog, &SoPerfCounterCreateProfile::createdNewProfile, this,
+            &SoPerfCounterProfileManager::createNewProfile);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->show();
+}
+
+void SoPerfCounterProfileManager::createNewProfile(QString name)
+{
+    m_profiles->append(new SoPerfCounterProfile(name));
+    addTab(*m_profiles->last());
+    m_tabProfile->setCurrentIndex(m_tabProfile->count() - 1);
+}
+
+void SoPerfCounterProfileManager::deleteProfile()
+{
+    if (!currentProfile(tr("There is no profile you can remove.")))
+        return;
+    const int index = m_tabProfile->currentIndex();
+    QWidget* page = m_tabProfile->widget(index);
+    m_tabProfile->removeTab(index);
+    delete page;
+    delete m_profiles->takeAt(index);
+}
+
+void SoPerfCounterProfileManager::resetProfile()
+{
+    SoPerfCounterProfile* profile = currentProfile(tr("There is no profile you can reset."));
+    if (!profile)
+        return;
+    profile->getList()->clear();
+    profile->getView()->clear();
+    setupPreSelectedList(m_tabProfile->currentIndex());
+}
+
+void SoPerfCounterProfileManager::removeFromProfiles(QString name)
+{
+    for (SoPerfCounterProfile* profile : qAsConst(*m_profiles))
+        profile->removeCounter(name);
+}
+
+void SoPerfCounterProfileManager::openProfile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open performance counter profile"), m_filePath,
+                                                      counterProfileFile::dialogFilter());
+    if (path.isEmpty())
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        QMessageBox::warning(this, counterProfileFile::title(),
+                             tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+        return;
+    }
+    setFilepath(path);
+    read(&file);
+}
+
+bool SoPerfCounterProfileManager::read(QIODevice* device)
+{
+    if (!counterProfileFile::readDocument(device, m_document, this))
+        return false;
+    for (const SoPerfCounter* counter : m_registry->getCounters()) {
+        if (counter->isCustom())
+            m_registry->disableCounter(counter->getName());
+    }
+    m_registry->removeDisabledCounters();
+    dropProfiles();
+    counterProfileFile::readCustomCounters(m_document);
+    for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(m_document)) {
+        m_profiles->append(profile);
+        addTab(*profile);
+    }
+    setupListCounter();
+    return true;
+}
+
+bool SoPerfCounterProfileManager::write(QIODevice* device)
+{
+    counterProfileFile::writeCustomCounters(m_document);
+    counterProfileFile::writeProfiles(m_document, *m_profiles);
+    counterProfileFile::writeDocument(device, m_document);
+    return true;
+}
+
+bool SoPerfCounterProfileManager::saveTo(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        QMessageBox::warning(this, counterProfileFile::title(),
+                             tr("Cannot write file %1:\n%2.").arg(path, file.errorString()));
+        return false;
+    }
+    return write(&file);
+}
+
+void SoPerfCounterProfileManager::saveAsProfile()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save performance counter profile"), m_filePath,
+                                                      counterProfileFile::dialogFilter());
+    if (!path.isEmpty() && saveTo(path))
+        setFilepath(path);
+}
+
+void SoPerfCounterProfileManager::saveProfile()
+{
+    saveTo(m_filePath);
+}
+
+void SoPerfCounterProfileManager::okButtonAction()
+{
+    m_accepted = true;
+    close();
+}
+
+void SoPerfCounterProfileManager::cancelButtonAction()
+{
+    m_accepted = false;
+    close();
+}
+
+void SoPerfCounterProfileManager::okAction()
+{
+    for (const SoPerfCounter* counter : m_registry->getCounters()) {
+        if (!counter->isEnabled())
+            emit deletedCounter(toQString(counter->getName()));
+    }
+    m_registry->removeDisabledCounters();
+    m_created.clear();
+    m_fallbackPath.clear();
+    saveProfile();
+    const int index = m_tabProfile->currentIndex();
+    // The dock lets go of the old profiles while they still live.
+    const QList<SoPerfCounterProfile*> old = m_handedOver ? *m_handedOver : QList<SoPerfCounterProfile*>();
+    emit okProfile(m_profiles.release(), index);
+    m_profiles = std::make_unique<QList<SoPerfCounterProfile*>>();
+    qDeleteAll(old);
+    emit okProfile();
+}
+
+void SoPerfCounterProfileManager::cancelAction()
+{
+    for (const SoPerfCounter* counter : m_registry->getCounters())
+        m_registry->enableCounter(counter->getName());
+    for (const QString& name : qAsConst(m_created))
+        m_registry->disableCounter(toCounterName(name));
+    m_registry->removeDisabledCounters();
+    m_created.clear();
+    emit cancelProfile();
+    setFilepath(m_fallbackPath);
+    if (m_filePath.isEmpty())
+        return;
+    QFile file(m_filePath);
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        read(&file);
+}
+
+void SoPerfCounterProfileManager::closeEvent(QCloseEvent* event)
+{
+    if (m_accepted && m_filePath.isEmpty()) {
+        // The flag stays, so that every later close is refused too until there is a path: edits are never lost
+        // in silence.
+        QMessageBox::warning(this, tr("Path invalid"),
+                             tr("Please choose a new path where you want to save your modifications with the "
+                                "\"save as\" action"));
+        event->ignore();
+        return;
+    }
+    if (m_accepted)
+        okAction();
+    else
+        cancelAction();
+    event->accept();
+}

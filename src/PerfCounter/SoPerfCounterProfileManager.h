@@ -1,0 +1,83 @@
+// The window in which profiles and custom counters are made, changed, opened and saved. It works on copies: OK hands
+// them over, Cancel drops them and undoes what was done to the counters. Deletes itself when closed. GUI thread only.
+#pragma once
+
+#include "ui_SoPerfCounterProfileManager.h"
+
+#include <QDomDocument>
+#include <QList>
+#include <QMainWindow>
+
+#include <memory>
+
+class SoPerfCounterManager;
+class SoPerfCounterProfile;
+
+class SoPerfCounterProfileManager : public QMainWindow, public Ui_QPerfCounterProfileManager
+{
+    Q_OBJECT
+
+public:
+    explicit SoPerfCounterProfileManager(QWidget* parent = nullptr);
+    ~SoPerfCounterProfileManager() override;
+
+    // The file in use; told to the dock window.
+    void setFilepath(const QString& path);
+    // The file to read again on Cancel.
+    void setFilepathTemp(const QString& path) { m_fallbackPath = path; }
+    // A copy that shares the dock window's tree.
+    void setDomDocument(const QDomDocument& document) { m_document = document; }
+
+signals:
+    // Hands the profiles over, with the selected one; the receiver owns the list and what is in it.
+    void okProfile(QList<SoPerfCounterProfile*>* profiles, int index);
+    void okProfile();
+    void cancelProfile();
+    void filepathChanged(QString path);
+    void deletedCounter(QString name);
+
+public slots:
+    void recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles, int index);
+    void createCounter();
+    void deleteCounter();
+    void updateCounterList(QString name);
+    void downArrowAction();
+    void upArrowAction();
+    void createProfile();
+    void createNewProfile(QString name);
+    void deleteProfile();
+    void resetProfile();
+    void openProfile();
+    void saveAsProfile();
+    void saveProfile();
+    void okButtonAction();
+    void cancelButtonAction();
+    void removeFromProfiles(QString name);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void setupConnections();
+    void setupListCounter();
+    void setupPreSelectedList(int index);
+    void addTab(const SoPerfCounterProfile& profile);
+    void dropProfiles();
+    bool read(QIODevice* device);
+    bool write(QIODevice* device);
+    bool saveTo(const QString& path);
+    void okAction();
+    void cancelAction();
+    // The profile of the current tab; says `otherwise` in a box where there is none.
+    SoPerfCounterProfile* currentProfile(const QString& otherwise);
+    QTableWidget* tableOf(int index) const;
+
+    SoPerfCounterManager* m_registry;
+    QList<QString> m_created; // counters made since the window was opened
+    QList<SoPerfCounterProfile*>* m_handedOver = nullptr; // the dock window's
+    std::unique_ptr<QList<SoPerfCounterProfile*>> m_profiles; // the working copies, one tab each
+    QString m_filePath;
+    QString m_fallbackPath;
+    QDomDocument m_document;
+    bool m_accepted = false;
+};

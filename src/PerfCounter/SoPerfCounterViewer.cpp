@@ -1,0 +1,519 @@
+#include "SoPerfCounterViewer.h"
+
+#include "CustomCounter.h"
+#include "EdText.h"
+#include "SoPerfCounterCurve.h"
+#include "SoPerfCounterGraph.h"
+#include "SoPerfCounterPcViewed.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <QTimer>
+
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+namespace
+{
+
+constexpr int PlotPosition = 1;
+constexpr int AxisPenWidth = 2;
+constexpr auto Separator = "##";
+constexpr auto DragSource = "m_preSelectedListView";
+
+QString numberText(double value)
+{
+    return QString().setNum(value, 'g', 6);
+}
+
+QColor randomColor()
+{
+    static constexpr int Levels[] = {0, 85, 127, 170, 255};
+    const auto level = [] { return Levels[std::rand() % 5]; };
+    const int red = level();
+    const int green = level();
+    return {red, green, level()};
+}
+
+void preparePlot(QwtPlot& plot)
+{
+    plot.setCanvasBackground(Qt::white);
+    for (const int axis : {int(QwtPlot::yLeft), int(QwtPlot::xBottom)})
+        plot.axisScaleDraw(axis)->setPenWidth(AxisPenWidth);
+}
+
+void setText(QTableWidget& table, int row, int column, const QString& text)
+{
+    if (QTableWidgetItem* item = table.item(row, column))
+        item->setText(text);
+    else
+        table.setItem(row, column, new QTableWidgetItem(text));
+}
+
+} // namespace
+
+SoPerfCounterViewer::SoPerfCounterViewer(QWidget* parent)
+    : QWidget(parent)
+    , m_viewed(std::make_unique<QList<SoPerfCounterPcViewed*>>())
+    , m_manager(SoPerfCounterManager::getInstance())
+{
+    setupUi(this);
+    std::srand(unsigned(std::time(nullptr)));
+    setAcceptDrops(true);
+    m_manager->setInterval(SbTime(0.0));
+    buildPlots();
+    setupXValues();
+    curveView();
+    m_timer = new QTimer(this);
+    m_timer->setTimerType(Qt::PreciseTimer);
+    m_timer->setInterval(m_interval);
+    start();
+    setupConnections();
+}
+
+SoPerfCounterViewer::~SoPerfCounterViewer()
+{
+    clearViewer();
+}
+
+void SoPerfCounterViewer::buildPlots()
+{
+    m_curvePlot = new SoPerfCounterCurve(this);
+    m_curvePlot->setObjectName(QStringLiteral("m_curvePlot"));
+    preparePlot(*m_curvePlot);
+    m_curvePlot->setAxisTitle(QwtPlot::xBottom, tr("Time (s)"));
+    m_curvePlot->setAxisScale(QwtPlot::xBottom, 0, m_timeShown - 1);
+    verticalLayout->insertWidget(PlotPosition, m_curvePlot);
+    m_graphPlot = new QwtPlot(this);
+    m_graphPlot->setObjectName(QStringLiteral("m_graphPlot"));
+    m_graphPlot->setAutoReplot(false);
+    preparePlot(*m_graphPlot);
+    verticalLayout->insertWidget(PlotPosition, m_graphPlot);
+    m_bars = new SoPerfCounterGraph(QString());
+    m_bars->attach(m_graphPlot);
+    for (QWidget* view : {static_cast<QWidget*>(m_curvePlot), static_cast<QWidget*>(m_graphPlot),
+                          static_cast<QWidget*>(m_textView)}) {
+        view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        verticalLayout->setStretchFactor(view, 1);
+    }
+}
+
+void SoPerfCounterViewer::setupConnections()
+{
+    connect(m_text, &QPushButton::clicked, this, &SoPerfCounterViewer::textView);
+    connect(m_graph, &QPushButton::clicked, this, &SoPerfCounterViewer::graphView);
+    connect(m_curve, &QPushButton::clicked, this, &SoPerfCounterViewer::curveView);
+    connect(m_stop, &QPushButton::clicked, this, &SoPerfCounterViewer::freezeView);
+    connect(m_resetDisplay, &QPushButton::clicked, this, &SoPerfCounterViewer::resetHistory);
+    connect(m_timeBox, SIGNAL(currentIndexChanged(const QString&)), this,
+            SLOT(changeTimeHistory(const QString&)));
+    connect(m_freqBox, SIGNAL(currentIndexChanged(const QString&)), this,
+            SLOT(changeFreqHistory(const QString&)));
+    connect(m_legend, &QTableWidget::itemDoubleClicked, this, &SoPerfCounterViewer::doubleClickLegend);
+    connect(m_timer, &QTimer::timeout, this, &SoPerfCounterViewer::viewTimer);
+}
+
+void SoPerfCounterViewer::setElapsedSource(double (*seconds)(void*), void (*reset)(void*), void* data)
+{
+    m_elapsedSource = {seconds, reset, data};
+}
+
+void SoPerfCounterViewer::resetElapsed()
+{
+    if (m_elapsedSource.reset)
+        m_elapsedSource.reset(m_elapsedSource.data);
+    m_elapsed.reset();
+}
+
+SoPerfCounter* SoPerfCounterViewer::counterOf(const SoPerfCounterPcViewed& viewed) const
+{
+    return m_manager->getCounter(toCounterName(viewed.getName()));
+}
+
+SoPerfCounterPcViewed* SoPerfCounterViewer::findViewed(const QString& name) const
+{
+    const auto found = std::find_if(m_viewed->begin(), m_viewed->end(),
+                                    [&](const SoPerfCounterPcViewed* v) { return v->getName() == name; });
+    return found == m_viewed->end() ? nullptr : *found;
+}
+
+void SoPerfCounterViewer::setupXValues()
+{
+    const int n = m_historyLength;
+    m_xValues.resize(std::size_t(n));
+    for (int i = 0; i < n; ++i)
+        m_xValues[std::size_t(n - 1 - i)] = double(i - n) / m_frequency;
+}
+
+void SoPerfCounterViewer::viewTimer()
+{
+    const double elapsed
+        = m_elapsedSource.seconds ? m_elapsedSource.seconds(m_elapsedSource.data) : m_elapsed.getElapsed();
+    for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
+        sample(*viewed, elapsed);
+    m_filled = std::min(m_filled + 1, m_historyLength);
+    // The time axis drifts with the samples until the display is reset.
+    for (double& x : m_xValues)
+        x += 1.0 / m_frequency;
+    setupViews();
+}
+
+void SoPerfCounterViewer::sample(SoPerfCounterPcViewed& viewed, double elapsed) const
+{
+    double* history = viewed.getHistory();
+    const int kept = std::min(m_filled, m_historyLength - 1);
+    std::copy_backward(history, history + kept, history + kept + 1);
+    const SoPerfCounter* counter = counterOf(viewed);
+    // A counter that is gone reads 0, and so does one sampled twice at the same moment.
+    history[0] = counter && elapsed > 0 ? counter->getValue() / elapsed : 0;
+}
+
+void SoPerfCounterViewer::setupViews()
+{
+    if (m_running == 0)
+        return;
+    redrawViews();
+    resetAll();
+    resetElapsed();
+}
+
+void SoPerfCounterViewer::redrawViews()
+{
+    // Only what can be seen is made: the other views are made when they are switched to.
+    if (!isVisible())
+        return;
+    if (m_textView->isVisible())
+        setupTextView();
+    if (m_graphPlot->isVisible())
+        setupGraphView();
+    if (m_curvePlot->isVisible())
+        setupCurveView();
+}
+
+void SoPerfCounterViewer::resetAll()
+{
+    const auto reset = [this](SbName name) {
+        if (SoPerfCounter* counter = m_manager->getCounter(name))
+            counter->reset();
+    };
+    for (const SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
+        const SoPerfCounter* counter = counterOf(*viewed);
+        if (counter && counter->isCustom()) {
+            reset(counter->getFirstParent());
+            reset(counter->getSecondParent());
+        } else {
+            reset(toCounterName(viewed->getName()));
+        }
+    }
+}
+
+void SoPerfCounterViewer::resetView()
+{
+    resetAll();
+}
+
+void SoPerfCounterViewer::start()
+{
+    resetAll();
+    resetElapsed();
+    m_timer->start();
+}
+
+void SoPerfCounterViewer::freezeView()
+{
+    const bool running = m_timer->isActive();
+    if (running)
+        m_timer->stop();
+    else
+        start();
+    m_stop->setIcon(QIcon(running ? QStringLiteral(":/PerfCounter_icons/Icons/player_play.png")
+                                  : QStringLiteral(":/PerfCounter_icons/Icons/player_pause.png")));
+}
+
+void SoPerfCounterViewer::setupTextView()
+{
+    m_textView->setRowCount(m_viewed->size());
+    for (int row = 0; row < m_viewed->size(); ++row) {
+        const SoPerfCounterPcViewed& viewed = *m_viewed->at(row);
+        const SoPerfCounter* counter = counterOf(viewed);
+        setText(*m_textView, row, 0, viewed.getName());
+        setText(*m_textView, row, 1, numberText(viewed.getHistory()[0]));
+        setText(*m_textView, row, 2, QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
+    }
+    m_textView->resizeColumnsToContents();
+}
+
+void SoPerfCounterViewer::setupGraphView()
+{
+    m_bars->clearColor();
+    QwtIntervalData bars;
+    for (int i = 0; i < m_viewed->size(); ++i) {
+        const SoPerfCounterPcViewed& viewed = *m_viewed->at(i);
+        bars.append(QwtIntervalSample(viewed.getHistory()[0],
+                                      QwtInterval(i, i + 1, QwtInterval::ExcludeMaximum)));
+        m_bars->addColor(new QColor(viewed.getColor()));
+    }
+    m_bars->setData(bars);
+    m_graphPlot->setAxisScale(QwtPlot::xBottom, 0, m_viewed->size());
+    m_graphPlot->replot();
+}
+
+void SoPerfCounterViewer::setupCurveView()
+{
+    for (int i = 0; i < m_viewed->size(); ++i)
+        m_curvePlot->getCurveList()[i]->setRawSamples(m_xValues.data(), m_viewed->at(i)->getHistory(), m_filled);
+    const double span = m_timeShown - 1;
+    const double end = std::max(span, m_xValues.empty() ? 0 : m_xValues.front());
+    m_curvePlot->setAxisScale(QwtPlot::xBottom, end - span, end);
+    m_curvePlot->replot();
+}
+
+void SoPerfCounterViewer::setupLegend()
+{
+    const QString selected = selectedIndex() < 0 ? QString() : m_legend->item(selectedIndex(), 0)->text();
+    QSignalBlocker quiet(m_legend);
+    m_legend->setRowCount(m_viewed->size());
+    m_legend->clearSelection();
+    for (int row = 0; row < m_viewed->size(); ++row) {
+        const SoPerfCounterPcViewed& viewed = *m_viewed->at(row);
+        const SoPerfCounter* counter = counterOf(viewed);
+        setText(*m_legend, row, 0, viewed.getName());
+        m_legend->item(row, 0)->setForeground(viewed.getColor());
+        setText(*m_legend, row, 1, counter ? toQString(counter->getTypeText()) : QString());
+        setText(*m_legend, row, 2, counter ? toQString(counter->getStringLevel()) : QString());
+        setText(*m_legend, row, 3, counter ? toQString(counter->getModule()) : QString());
+        setText(*m_legend, row, 4, counter ? toQString(counter->getDescription()) : tr("No such counter"));
+        if (viewed.getName() == selected)
+            m_legend->selectRow(row);
+    }
+    // Told once, when the rows are complete again.
+    quiet.unblock();
+    emit m_legend->itemSelectionChanged();
+}
+
+int SoPerfCounterViewer::selectedIndex() const
+{
+    const QModelIndexList rows = m_legend->selectionModel()->selectedRows();
+    return rows.size() == 1 && rows.first().row() < m_viewed->size() ? rows.first().row() : -1;
+}
+
+bool SoPerfCounterViewer::add(const QString& name)
+{
+    if (findViewed(name))
+        return false;
+    const QColor color = randomColor();
+    auto* viewed = new SoPerfCounterPcViewed(name, m_historyLength);
+    viewed->setColor(color.red(), color.green(), color.blue());
+    m_curvePlot->newCurve(name, color.red(), color.green(), color.blue());
+    m_viewed->append(viewed);
+    return true;
+}
+
+void SoPerfCounterViewer::addAndShow(const QStringList& names)
+{
+    for (const QString& name : names) {
+        if (add(name))
+            emit newPcViewed(name);
+    }
+    setupViews();
+    setupLegend();
+}
+
+void SoPerfCounterViewer::doubleClickEvent(const QString& name)
+{
+    addAndShow({name});
+}
+
+void SoPerfCounterViewer::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->acceptProposedAction(); // the drop sorts out what is welcome
+}
+
+void SoPerfCounterViewer::dropEvent(QDropEvent* event)
+{
+    const QMimeData* data = event->mimeData();
+    if (!data->hasFormat(QStringLiteral("text/plain")) || !event->source()
+        || event->source()->objectName() != QLatin1String(DragSource)) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    addAndShow(data->text().split(QLatin1String(Separator), Qt::SkipEmptyParts));
+}
+
+void SoPerfCounterViewer::remove(int index)
+{
+    if (index < 0 || index >= m_viewed->size())
+        return;
+    const std::unique_ptr<SoPerfCounterPcViewed> gone(m_viewed->at(index));
+    emit deletedPcViewed(gone->getName());
+    m_curvePlot->removeCurve(index);
+    m_viewed->removeAt(index);
+}
+
+void SoPerfCounterViewer::keyPressEvent(QKeyEvent* event)
+{
+    // Not Delete: meant so.
+    if (event->key() != Qt::Key_Backspace) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    QList<int> rows;
+    for (const QModelIndex& index : m_legend->selectionModel()->selectedRows())
+        rows.append(index.row());
+    std::sort(rows.begin(), rows.end(), std::greater<>());
+    for (const int row : qAsConst(rows))
+        remove(row);
+    updateViewer();
+}
+
+void SoPerfCounterViewer::doubleClickLegend(QTableWidgetItem* item)
+{
+    remove(item->row());
+    updateViewer();
+}
+
+void SoPerfCounterViewer::changeColor(QColor color)
+{
+    const int index = selectedIndex();
+    if (index < 0)
+        return;
+    m_viewed->at(index)->setColor(color.red(), color.green(), color.blue());
+    m_curvePlot->setColor(index, color);
+    setupLegend();
+    redrawViews();
+}
+
+void SoPerfCounterViewer::changeScale(const QString& text)
+{
+    bool ok = false;
+    const double scale = text.toDouble(&ok);
+    const int index = selectedIndex();
+    if (!ok || !(scale > 0) || index < 0)
+        return;
+    SoPerfCounter* counter = counterOf(*m_viewed->at(index));
+    if (!counter)
+        return;
+    const double old = counter->getScaleFactor();
+    counter->setScaleFactor(scale);
+    const double ratio = old / counter->getScaleFactor();
+    double* history = m_viewed->at(index)->getHistory();
+    std::for_each(history, history + m_historyLength, [ratio](double& sample) { sample *= ratio; });
+    redrawViews();
+}
+
+void SoPerfCounterViewer::changeTimeHistory(const QString& text)
+{
+    changeHistory(text.toInt(), m_frequency);
+}
+
+void SoPerfCounterViewer::changeFreqHistory(const QString& text)
+{
+    changeHistory(m_timeShown, text.toInt());
+}
+
+void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
+{
+    if (timeShown < 1 || frequency < 1)
+        return;
+    const int oldLength = m_historyLength;
+    m_timeShown = timeShown;
+    m_frequency = frequency;
+    m_historyLength = timeShown * frequency;
+    m_filled = std::min(m_filled, m_historyLength);
+    for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
+        auto longer = std::make_unique<double[]>(std::size_t(m_historyLength));
+        std::copy_n(viewed->getHistory(), std::min(oldLength, m_historyLength), longer.get());
+        viewed->setHistory(longer.release());
+    }
+    // The curves must not keep the old arrays until they are drawn again.
+    setupXValues();
+    for (int i = 0; i < m_viewed->size(); ++i)
+        m_curvePlot->getCurveList()[i]->setRawSamples(m_xValues.data(), m_viewed->at(i)->getHistory(), m_filled);
+    m_interval = 1000 / m_frequency;
+    m_timer->setInterval(m_interval);
+    setupViews();
+}
+
+void SoPerfCounterViewer::resetHistory()
+{
+    for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
+        std::fill_n(viewed->getHistory(), m_historyLength, 0.0);
+    setupXValues();
+    m_filled = 0;
+    setupViews();
+}
+
+void SoPerfCounterViewer::setViewList(const QList<QString>* list)
+{
+    for (int i = m_viewed->size() - 1; i >= 0; --i) {
+        if (!list->contains(m_viewed->at(i)->getName())) {
+            m_curvePlot->removeCurve(i);
+            delete m_viewed->takeAt(i);
+        }
+    }
+    for (int i = 0; i < list->size(); ++i)
+        add(list->at(i));
+    // Into the order of the list: an insertion of each where it belongs.
+    QList<QString> wanted;
+    for (const QString& name : *list) {
+        if (!wanted.contains(name))
+            wanted.append(name);
+    }
+    for (int i = 0; i < wanted.size(); ++i) {
+        const int at = int(m_viewed->indexOf(findViewed(wanted[i])));
+        m_viewed->move(at, i);
+        m_curvePlot->moveCurve(at, i);
+    }
+}
+
+void SoPerfCounterViewer::clearViewer()
+{
+    while (!m_viewed->isEmpty()) {
+        m_curvePlot->removeCurve(m_viewed->size() - 1);
+        delete m_viewed->takeLast();
+    }
+}
+
+void SoPerfCounterViewer::updateViewer()
+{
+    setupLegend();
+    setupViews();
+}
+
+void SoPerfCounterViewer::showView(QWidget* view)
+{
+    m_textView->setVisible(view == m_textView);
+    m_graphPlot->setVisible(view == m_graphPlot);
+    m_curvePlot->setVisible(view == m_curvePlot);
+    redrawViews();
+}
+
+void SoPerfCounterViewer::textView()
+{
+    showView(m_textView);
+}
+
+void SoPerfCounterViewer::graphView()
+{
+    showView(m_graphPlot);
+}
+
+void SoPerfCounterViewer::curveView()
+{
+    showView(m_curvePlot);
+}
+
+void SoPerfCounterViewer::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    redrawViews();
+}
