@@ -1,0 +1,237 @@
+#include "HostShell.h"
+
+#include "Guarded.h"
+
+#include <scopix/SpxExtension.h>
+
+#include <QDataStream>
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr qint32 LayoutVersion = 1;
+
+QString nameOf(const SpxExtension* extension)
+{
+    return QString::fromUtf8(extension->getName().getString());
+}
+
+bool hiddenOnPurpose(const QWidget* widget)
+{
+    return widget->testAttribute(Qt::WA_WState_ExplicitShowHide) && widget->isHidden();
+}
+
+} // namespace
+
+HostShell::HostShell(QMainWindow& window)
+    : m_window(window)
+{
+}
+
+HostShell::~HostShell() = default;
+
+void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
+{
+    if (!dock)
+        return;
+    nameWidget(dock);
+    const bool shown = m_dockShown.take(dock->objectName()) || !hiddenOnPurpose(dock);
+    if (!m_window.restoreDockWidget(dock))
+        m_window.addDockWidget(area, dock);
+    dock->setVisible(shown);
+    own(dock);
+    dock->installEventFilter(this);
+}
+
+void HostShell::removeDockWidget(QDockWidget* dock)
+{
+    if (!dock || dock->parentWidget() != &m_window)
+        return;
+    dock->removeEventFilter(this);
+    disown(dock);
+    m_dockShown[dock->objectName()] = !dock->isHidden();
+    // Restoring a layout in which the dock is missing leaves a gap of its name, where it comes back to.
+    const QByteArray withDock = m_window.saveState();
+    m_window.removeDockWidget(dock);
+    dock->setParent(nullptr);
+    m_window.restoreState(withDock);
+}
+
+void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
+{
+    if (!toolBar)
+        return;
+    nameWidget(toolBar);
+    const ToolBarPlace place =
+        m_toolBarPlaces.value(toolBar->objectName(), ToolBarPlace{area, !hiddenOnPurpose(toolBar)});
+    m_window.addToolBar(place.area, toolBar);
+    toolBar->setVisible(place.shown);
+    own(toolBar);
+}
+
+void HostShell::removeToolBar(QToolBar* toolBar)
+{
+    if (!toolBar || toolBar->parentWidget() != &m_window)
+        return;
+    disown(toolBar);
+    m_toolBarPlaces[toolBar->objectName()] = {m_window.toolBarArea(toolBar), !toolBar->isHidden()};
+    m_window.removeToolBar(toolBar);
+    toolBar->setParent(nullptr);
+}
+
+void HostShell::attachExtension(SpxExtension* extension, bool attach)
+{
+    if (!attach) {
+        detachExtension(extension);
+        return;
+    }
+    if (!extension || m_extensions.contains(extension))
+        return;
+    m_extensions.append(extension);
+    emit extensionsChanged();
+}
+
+void HostShell::detachExtension(SpxExtension* extension)
+{
+    if (m_extensions.removeOne(extension))
+        emit extensionsChanged();
+}
+
+void HostShell::forget(const SpxExtension* extension)
+{
+    const QList<Owned> owned = m_owned;
+    for (const Owned& each : owned) {
+        if (each.owner == extension && each.widget)
+            takeOut(each.widget);
+    }
+    detachExtension(const_cast<SpxExtension*>(extension));
+}
+
+void HostShell::takeOut(QWidget* widget)
+{
+    if (auto* dock = qobject_cast<QDockWidget*>(widget))
+        removeDockWidget(dock);
+    else if (auto* toolBar = qobject_cast<QToolBar*>(widget))
+        removeToolBar(toolBar);
+}
+
+void HostShell::setShown(SpxExtension* extension, bool shown)
+{
+    if (!m_extensions.contains(extension))
+        return;
+    const QString name = nameOf(extension);
+    if (shown)
+        m_hiddenByPerson.remove(name);
+    else
+        m_hiddenByPerson.insert(name);
+    const QString failure = Guarded::call([&] { shown ? extension->show() : extension->hide(); });
+    if (!failure.isEmpty())
+        emit failed(tr("The extension \"%1\" failed when it was to be shown or hidden: %2").arg(name, failure));
+}
+
+bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
+{
+    return m_hiddenByPerson.contains(nameOf(extension));
+}
+
+QByteArray HostShell::saveLayout() const
+{
+    QByteArray layout;
+    QDataStream out(&layout, QIODevice::WriteOnly);
+    out.setVersion(QDataStream::Qt_5_15);
+    out << LayoutVersion << m_window.saveState() << m_hiddenByPerson;
+    return layout;
+}
+
+bool HostShell::restoreLayout(const QByteArray& layout)
+{
+    QDataStream in(layout);
+    in.setVersion(QDataStream::Qt_5_15);
+    qint32 version = 0;
+    QByteArray state;
+    QSet<QString> hidden;
+    in >> version;
+    if (version != LayoutVersion)
+        return false;
+    in >> state >> hidden;
+    if (in.status() != QDataStream::Ok)
+        return false;
+    // Places come from the layout; what is visible is the extensions' and, below, the person's.
+    QList<QPair<QWidget*, bool>> shown;
+    for (const Owned& each : qAsConst(m_owned)) {
+        if (each.widget)
+            shown.append({each.widget, !each.widget->isHidden()});
+    }
+    if (!m_window.restoreState(state))
+        return false;
+    for (const auto& each : qAsConst(shown))
+        each.first->setVisible(each.second);
+    m_hiddenByPerson = hidden;
+    const QList<SpxExtension*> extensions = m_extensions;
+    for (SpxExtension* extension : extensions) {
+        if (extension->isShown() && isHiddenByPerson(extension))
+            setShown(extension, false);
+    }
+    return true;
+}
+
+bool HostShell::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        if (SpxExtension* owner = ownerOf(watched)) {
+            const QPointer<SpxExtension> extension = owner;
+            QMetaObject::invokeMethod(
+                this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
+        }
+    }
+    return false;
+}
+
+void HostShell::personClosed(SpxExtension* extension)
+{
+    if (extension)
+        setShown(extension, false);
+}
+
+void HostShell::own(QWidget* widget)
+{
+    disown(widget);
+    m_owned.append({widget, m_activating});
+}
+
+void HostShell::disown(const QWidget* widget)
+{
+    const auto is = [widget](const Owned& each) { return !each.widget || each.widget == widget; };
+    m_owned.erase(std::remove_if(m_owned.begin(), m_owned.end(), is), m_owned.end());
+}
+
+SpxExtension* HostShell::ownerOf(const QObject* widget) const
+{
+    for (const Owned& each : m_owned) {
+        if (each.widget == widget)
+            return each.owner;
+    }
+    return nullptr;
+}
+
+// A name that no other dock or tool bar of the window has, the same in every session.
+void HostShell::nameWidget(QWidget* widget) const
+{
+    const QString wanted = !widget->objectName().isEmpty() ? widget->objectName()
+                           : m_activating                  ? nameOf(m_activating)
+                                                           : widget->windowTitle();
+    const auto taken = [&](const QString& name) {
+        const auto others = m_window.findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly);
+        return std::any_of(others.begin(), others.end(), [&](QWidget* other) { return other != widget; });
+    };
+    QString name = wanted.isEmpty() ? QStringLiteral("extension") : wanted;
+    for (int number = 2; taken(name); ++number)
+        name = QStringLiteral("%1 %2").arg(wanted).arg(number);
+    widget->setObjectName(name);
+}

@@ -1,0 +1,81 @@
+// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be saved;
+// keeps the place of one that goes until it comes back; hands every widget back without a parent. Knows which
+// extension owns which widget and lets the person show and hide them. GUI thread only.
+#pragma once
+
+#include <scopix/SpxShell.h>
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+
+class QMainWindow;
+class QWidget;
+
+class HostShell : public QObject, public SpxShell
+{
+    Q_OBJECT
+
+public:
+    // The window must outlive the shell.
+    explicit HostShell(QMainWindow& window);
+    ~HostShell() override;
+
+    void addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area) override;
+    void removeDockWidget(QDockWidget* dock) override;
+    void attachExtension(SpxExtension* extension, bool attach) override;
+    void detachExtension(SpxExtension* extension) override;
+    void addToolBar(QToolBar* toolBar, Qt::ToolBarArea area) override;
+    void removeToolBar(QToolBar* toolBar) override;
+
+    // Those that are active now, in the order in which they were attached.
+    const QList<SpxExtension*>& extensions() const { return m_extensions; }
+
+    // The extension whose activate() runs now, to which the widgets belong that it adds; null afterwards.
+    void setActivating(SpxExtension* extension) { m_activating = extension; }
+    // Takes out what the extension left behind. It may already be gone.
+    void forget(const SpxExtension* extension);
+
+    // The person shows or hides what an extension has.
+    void setShown(SpxExtension* extension, bool shown);
+    bool isHiddenByPerson(const SpxExtension* extension) const;
+
+    // Where everything stands, and which tools the person has hidden.
+    QByteArray saveLayout() const;
+    // False when the text is no layout; nothing changes then.
+    bool restoreLayout(const QByteArray& layout);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void extensionsChanged();
+    // An extension threw; one sentence.
+    void failed(const QString& sentence);
+
+private:
+    struct Owned {
+        QPointer<QWidget> widget;
+        SpxExtension* owner; // null when nobody said
+    };
+    struct ToolBarPlace {
+        Qt::ToolBarArea area;
+        bool shown;
+    };
+
+    void own(QWidget* widget);
+    void disown(const QWidget* widget);
+    SpxExtension* ownerOf(const QObject* widget) const;
+    void nameWidget(QWidget* widget) const;
+    void takeOut(QWidget* widget);
+    void personClosed(SpxExtension* extension);
+
+    QMainWindow& m_window;
+    QList<SpxExtension*> m_extensions;
+    QList<Owned> m_owned;
+    QHash<QString, bool> m_dockShown; // docks that went, by name
+    QHash<QString, ToolBarPlace> m_toolBarPlaces;
+    QSet<QString> m_hiddenByPerson; // names of extensions
+    SpxExtension* m_activating = nullptr;
+};

@@ -1,0 +1,28 @@
+// Fills the end of a menu with an entry for each active extension that is not an editor, checked while it is shown.
+// GUI thread only.
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+class HostShell;
+class QAction;
+class QMenu;
+class SpxExtension;
+
+class ViewMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The shell must outlive this; the menu becomes its parent.
+    ViewMenu(HostShell& shell, QMenu& menu);
+
+private:
+    void refill();
+    QAction* makeEntry(SpxExtension* extension);
+
+    HostShell& m_shell;
+    QMenu& m_menu;
+    QList<QAction*> m_entries;
+};
