@@ -219,8 +219,8 @@ void GestureGrouper::wheelTurned(QWidget* widget)
     if (dialogOpen())
         return;
     const Open* open = visibleTop();
-    const bool goesOn = open && open->kind == Kind::Wheel && open->receiver
-                        && (open->receiver == widget || widget->isAncestorOf(open->receiver));
+    const bool goesOn = open && open->kind == Kind::Wheel && open->receiver &&
+                        (open->receiver == widget || widget->isAncestorOf(open->receiver));
     if (!goesOn)
         begin(Kind::Wheel, widget);
 }
@@ -240,8 +240,8 @@ void GestureGrouper::focusLeaves(QWidget* widget)
     const bool insideDialog = dialogOpen() && isModalWindow(widget->window());
     if (insideDialog)
         return;
-    // What was typed belongs to its run, whatever took the focus away. A text that came without typing, pasted with
-    // the mouse, is a gesture of its own.
+    // What was typed belongs to its run, whatever took the focus away. A text that came without typing,
+    // pasted with the mouse, is a gesture of its own.
     m_leaving = m_run.input == widget ? m_run.id : ++m_last;
     m_leavingInput = widget;
     postEnd(m_leaving);

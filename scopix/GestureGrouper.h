@@ -1,8 +1,9 @@
-// Tells which acts of the person belong together. It watches every event of the program and gives each gesture a
-// number, from its begin to its end and never by a clock:
+// Tells which acts of the person belong together. It watches every event of the program and gives each
+// gesture a number, from its begin to its end and never by a clock:
 //
 //   mouse     from the press until the release of the last button has been delivered;
-//   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends the run
+//   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends
+//   the run
 //             at the next key;
 //   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
 //   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
@@ -48,7 +49,7 @@ private:
         Kind kind;
         int level; // depth of event loops in which its input arrived
         QPointer<QWidget> receiver;
-        bool released = false; // ends when what released it has been delivered
+        bool released = false;     // ends when what released it has been delivered
         bool waitsForLoop = false; // released, but its handler still runs an event loop of its own
     };
 

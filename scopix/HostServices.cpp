@@ -56,7 +56,8 @@ UndoHistory::Note HostServices::noteNow() const
 QString HostServices::stepText() const
 {
     const SoField* field = m_selection.lastField();
-    const SoFieldContainer* node = field && field->getContainer() ? field->getContainer() : m_selection.lastNode();
+    const SoFieldContainer* node =
+        field && field->getContainer() ? field->getContainer() : m_selection.lastNode();
     const QString type = node ? text(node->getTypeId().getName()) : QString();
     if (!field)
         return type.isEmpty() ? tr("Change") : tr("Change %1").arg(type);

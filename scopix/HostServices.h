@@ -1,5 +1,5 @@
-// The services that the host offers to extensions: selection, and undo through the history of edits. Names each step
-// of the history by the selected field, and groups the commands of one gesture. GUI thread only.
+// The services that the host offers to extensions: selection, and undo through the history of edits. Names
+// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
 #pragma once
 
 #include "GestureGrouper.h"

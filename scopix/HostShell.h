@@ -1,6 +1,6 @@
-// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be saved;
-// keeps the place of one that goes until it comes back; hands every widget back without a parent. Knows which
-// extension owns which widget and lets the person show and hide them. GUI thread only.
+// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
+// saved; keeps the place of one that goes until it comes back; hands every widget back without a parent.
+// Knows which extension owns which widget and lets the person show and hide them. GUI thread only.
 #pragma once
 
 #include <scopix/SpxShell.h>

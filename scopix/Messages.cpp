@@ -99,7 +99,8 @@ bool Messages::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (auto* box = qobject_cast<QMessageBox*>(watched)) {
         print(textOf(*box));
-        QMetaObject::invokeMethod(box, [box] { dismiss(*box); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            box, [box] { dismiss(*box); }, Qt::QueuedConnection);
     }
     return false;
 }

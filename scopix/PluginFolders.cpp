@@ -32,8 +32,8 @@ QList<Place> places()
 
 QString PluginFolders::ofUser()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-           + QStringLiteral("/scopix/plugins");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QStringLiteral("/scopix/plugins");
 }
 
 QStringList PluginFolders::findAll()

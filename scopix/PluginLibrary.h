@@ -1,5 +1,6 @@
-// One loaded plug-in library and the plug-in object that it made. Unloading runs the library's unloadPlugin and takes
-// the library out of the process; everything of the plug-in must have been let go before. GUI thread only.
+// One loaded plug-in library and the plug-in object that it made. Unloading runs the library's unloadPlugin
+// and takes the library out of the process; everything of the plug-in must have been let go before. GUI
+// thread only.
 #pragma once
 
 #include <QLibrary>

@@ -1,5 +1,6 @@
-// The node and the field that the person has selected. Tells of a new selection only after what was told before has
-// been heard by everybody, and drops what goes away before its memory does. Keeps no node alive. GUI thread only.
+// The node and the field that the person has selected. Tells of a new selection only after what was told
+// before has been heard by everybody, and drops what goes away before its memory does. Keeps no node alive.
+// GUI thread only.
 #pragma once
 
 #include <QObject>
@@ -29,8 +30,8 @@ public:
     SoFieldContainer* node() const { return m_node; }
     SoField* field() const { return m_field; }
 
-    // What was selected until the change that is being told right now: edits that are applied while it is let go
-    // belong to it. The present selection between changes.
+    // What was selected until the change that is being told right now: edits that are applied while it is let
+    // go belong to it. The present selection between changes.
     SoFieldContainer* lastNode() const { return m_telling ? m_formerNode : m_node; }
     SoField* lastField() const { return m_telling ? m_formerField : m_field; }
 

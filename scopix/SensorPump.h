@@ -1,4 +1,5 @@
-// Runs the queue of triggered sensors, once per turn of the event loop. One lives while the host does. GUI thread only.
+// Runs the queue of triggered sensors, once per turn of the event loop. One lives while the host does. GUI
+// thread only.
 #pragma once
 
 #include <QObject>

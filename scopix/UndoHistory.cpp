@@ -32,7 +32,8 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const Note& note)
     }
     m_deferred.push_back({std::move(command), note});
     if (m_deferred.size() == 1)
-        QMetaObject::invokeMethod(this, [this] { recordDeferred(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { recordDeferred(); }, Qt::QueuedConnection);
 }
 
 void UndoHistory::recordDeferred()
@@ -59,9 +60,9 @@ void UndoHistory::record(std::unique_ptr<SpxCommand> command, const Note& note)
 
 bool UndoHistory::goesOn(const Note& note) const
 {
-    return m_openStep && note.gesture != 0 && m_openStep->gesture() == note.gesture && m_stack.count() > 0
-           && m_stack.index() == m_stack.count() && stepAt(m_stack.count() - 1) == m_openStep
-           && !m_stack.isClean();
+    return m_openStep && note.gesture != 0 && m_openStep->gesture() == note.gesture && m_stack.count() > 0 &&
+           m_stack.index() == m_stack.count() && stepAt(m_stack.count() - 1) == m_openStep &&
+           !m_stack.isClean();
 }
 
 void UndoHistory::forget(const SoFieldContainer* container)
@@ -77,7 +78,8 @@ void UndoHistory::forget(const SoFieldContainer* container)
     if (!dropSteps(container))
         return;
     if (m_busy)
-        QMetaObject::invokeMethod(this, [this] { sweep(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { sweep(); }, Qt::QueuedConnection);
     else
         sweep();
 }

@@ -1,5 +1,5 @@
-// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one gesture
-// in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
+// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
+// gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
 #pragma once
 
 #include "GestureGrouper.h"
@@ -23,9 +23,9 @@ class UndoHistory : public QObject
 public:
     // What the host notes with each command.
     struct Note {
-        QString text; // names the step
+        QString text;                                 // names the step
         std::vector<const SoFieldContainer*> touched; // empty: not known
-        GestureGrouper::Gesture gesture = 0; // 0: a step of its own
+        GestureGrouper::Gesture gesture = 0;          // 0: a step of its own
     };
 
     explicit UndoHistory(QObject* parent = nullptr);
@@ -33,8 +33,8 @@ public:
 
     QUndoStack& stack() { return m_stack; }
 
-    // Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step is being
-    // undone or redone right now.
+    // Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
+    // is being undone or redone right now.
     void execute(std::unique_ptr<SpxCommand> command, const Note& note);
     // Drops the steps that touch the container, and those of which it is not known what they touch.
     void forget(const SoFieldContainer* container);
@@ -61,9 +61,9 @@ private:
     StepPtr stepAt(int index) const;
 
     QUndoStack m_stack;
-    StepPtr m_openStep; // the last one, while its gesture may add to it
+    StepPtr m_openStep;                                    // the last one, while its gesture may add to it
     std::unordered_set<const SoFieldContainer*> m_touched; // by any step since the last clear
-    bool m_mayTouchAnything = false; // some step does not know what it touches
+    bool m_mayTouchAnything = false;                       // some step does not know what it touches
     std::vector<Deferred> m_deferred;
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;

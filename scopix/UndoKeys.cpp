@@ -14,8 +14,8 @@ namespace
 bool isInputs(const QWidget& widget)
 {
     const QWidget* focus = QApplication::focusWidget();
-    return TextInput::holdsUnappliedTyping(&widget)
-           || (focus && widget.isAncestorOf(focus) && TextInput::holdsUnappliedTyping(focus));
+    return TextInput::holdsUnappliedTyping(&widget) ||
+           (focus && widget.isAncestorOf(focus) && TextInput::holdsUnappliedTyping(focus));
 }
 
 enum class UndoKey { None, Undo, Redo };

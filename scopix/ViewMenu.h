@@ -1,5 +1,5 @@
-// Fills the end of a menu with an entry for each active extension that is not an editor, checked while it is shown.
-// GUI thread only.
+// Fills the end of a menu with an entry for each active extension that is not an editor, checked while it is
+// shown. GUI thread only.
 #pragma once
 
 #include <QList>

@@ -53,7 +53,8 @@ bool WhenUndisturbed::event(QEvent* event)
 
 bool WhenUndisturbed::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Hide && watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow())
+    if (event->type() == QEvent::Hide && watched->isWidgetType() &&
+        static_cast<QWidget*>(watched)->isWindow())
         post();
     return false;
 }

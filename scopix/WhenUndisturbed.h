@@ -1,5 +1,5 @@
-// Runs a callback in a coming turn of the event loop, once no modal dialog is open. Asked again before it ran, it
-// still runs once. GUI thread only.
+// Runs a callback in a coming turn of the event loop, once no modal dialog is open. Asked again before it
+// ran, it still runs once. GUI thread only.
 #pragma once
 
 #include <QObject>

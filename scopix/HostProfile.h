@@ -1,0 +1,41 @@
+// A profile and its choice of extensions. The choice is kept by name, so that it outlives a plug-in that is
+// missing today. Extensions are named "Plug-in/Extension".
+#pragma once
+
+#include <scopix/SpxProfile.h>
+
+#include <QStringList>
+
+// Either all extensions of a kind or those named.
+struct ExtensionChoice {
+    bool all = false;
+    QStringList names;
+
+    bool contains(const QString& name) const { return all || names.contains(name); }
+};
+
+struct ProfileChoice {
+    QString name;
+    ExtensionChoice editors;
+    ExtensionChoice tools; // extensions other than editors
+};
+
+class HostProfile : public SpxProfile
+{
+public:
+    explicit HostProfile(ProfileChoice choice);
+
+    const ProfileChoice& choice() const { return m_choice; }
+    void setChoice(ProfileChoice choice);
+    QString name() const { return m_choice.name; }
+    // The profile that controls everything; it cannot be changed or deleted.
+    bool isDefault() const { return m_choice.name == defaultName(); }
+    static QString defaultName() { return QStringLiteral("Default"); }
+
+    const SpxProfileSetting& setting() const { return m_setting; }
+    SpxProfileSetting& setting() { return m_setting; }
+
+private:
+    ProfileChoice m_choice;
+    SpxProfileSetting m_setting;
+};

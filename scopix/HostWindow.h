@@ -1,0 +1,29 @@
+// What the host needs of its main window, whatever else the window shows. GUI thread only.
+#pragma once
+
+#include <QMainWindow>
+
+class QMenu;
+
+class HostWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    using QMainWindow::QMainWindow;
+
+    // Where the host puts the entries of the extensions, and the profiles. Owned by the window.
+    virtual QMenu* viewMenu() = 0;
+    virtual QMenu* profilesMenu() = 0;
+
+    // Opens a scene or model, perhaps in the background; fileDone() follows, once, also before this returns.
+    // What was open stays open when it fails. Problems are told through Messages.
+    virtual void openFile(const QString& path) = 0;
+    // Selects a field by its node's name or type. False when there is none, which is told through Messages.
+    virtual bool selectField(const QString& node, const QString& field) = 0;
+    // Writes a picture of the window. False when it cannot be written, which is told through Messages.
+    virtual bool saveScreenshot(const QString& path) = 0;
+
+signals:
+    void fileDone(bool opened);
+};
