@@ -1,0 +1,66 @@
+#include "EdLineEdit.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+
+EdLineEdit::EdLineEdit(QWidget* parent)
+    : QLineEdit(parent)
+{
+}
+
+void EdLineEdit::showText(const QString& text)
+{
+    const bool waits = isModified() && text == m_shownText;
+    m_shownText = text;
+    if (!waits && this->text() != text)
+        putText(text);
+}
+
+void EdLineEdit::putText(const QString& text)
+{
+    const QSignalBlocker quiet(this);
+    if (this->text() != text) {
+        setText(text);
+        setCursorPosition(0);
+    }
+    setModified(false);
+}
+
+void EdLineEdit::forget()
+{
+    m_shownText.clear();
+    setModified(false);
+}
+
+void EdLineEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape || !(isModified() || isChanged())) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    takeTypingBack();
+    event->setAccepted(!m_escapePassed);
+}
+
+void EdLineEdit::takeTypingBack()
+{
+    putText(m_shownText);
+    emit typingTakenBack();
+}
+
+void EdLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    bool finished = false;
+    const auto watch = connect(this, &QLineEdit::editingFinished, this, [&finished] { finished = true; });
+    QLineEdit::focusOutEvent(event);
+    disconnect(watch);
+    if (m_finishingAlways && !finished && isLeftByPerson(event))
+        emit editingFinished();
+}
+
+bool EdLineEdit::isLeftByPerson(const QFocusEvent* event) const
+{
+    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
+           hasAcceptableInput();
+}

@@ -1,0 +1,7 @@
+#include "EdSFDoubleWidget.h"
+
+EdSFDoubleWidget::EdSFDoubleWidget(const char* name)
+    : EdSFRealWidget(DoubleFrame, name)
+{
+    setFieldType(SoSFDouble::getClassTypeId(), name);
+}

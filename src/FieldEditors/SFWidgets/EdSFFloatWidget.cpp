@@ -1,0 +1,7 @@
+#include "EdSFFloatWidget.h"
+
+EdSFFloatWidget::EdSFFloatWidget(const char* name)
+    : EdSFRealWidget(FloatFrame, name)
+{
+    setFieldType(SoSFFloat::getClassTypeId(), name);
+}

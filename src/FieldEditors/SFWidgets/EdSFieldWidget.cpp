@@ -1,0 +1,272 @@
+#include "EdSFieldWidget.h"
+
+#include "EdFieldEdits.h"
+#include "EdIntSlider.h"
+#include "EdLineEdit.h"
+#include "EdRealSlider.h"
+#include "EdUIntSlider.h"
+#include "EditorIcons.h"
+#include "FieldEditorSettings.h"
+
+#include <xsg/fields/SoSField.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace
+{
+
+void setMargin(QLayout* layout, const char* key)
+{
+    const int margin = xsgsettings_fieldEditor(QLatin1String(key));
+    layout->setContentsMargins(margin, margin, margin, margin);
+}
+
+QHBoxLayout* buildLayout(QWidget* parent, const char* objectName, const char* marginKey,
+                         const char* spacingKey)
+{
+    auto* layout = new QHBoxLayout(parent);
+    layout->setObjectName(QLatin1String(objectName));
+    setMargin(layout, marginKey);
+    layout->setSpacing(xsgsettings_fieldEditor(QLatin1String(spacingKey)));
+    return layout;
+}
+
+void setBoxStyle(QFrame* frame, const char* lineWidthKey)
+{
+    frame->setFrameShape(QFrame::Box);
+    frame->setFrameShadow(QFrame::Plain);
+    frame->setLineWidth(xsgsettings_fieldEditor(QLatin1String(lineWidthKey)));
+}
+
+QSpacerItem* addSpacer(QBoxLayout* layout)
+{
+    auto* spacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
+    layout->addItem(spacer);
+    return spacer;
+}
+
+} // namespace
+
+EdSFieldWidget::EdSFieldWidget(const char* name)
+{
+    setObjectName(QLatin1String(name));
+}
+
+EdSFieldWidget::EdSFieldWidget(SFFrameType frameType, const char* name)
+{
+    setObjectName(QLatin1String(name ? name : "EdSFieldWidget"));
+    makeSlider(frameType);
+}
+
+EdSFieldWidget::~EdSFieldWidget()
+{
+    // An input that loses the focus while the container goes must not apply anything.
+    delete m_slider;
+    if (QFrame* container = getWidgetContainer()) {
+        const QList<QWidget*> inputs = container->findChildren<QWidget*>();
+        for (QWidget* input : inputs)
+            input->disconnect(this);
+    }
+}
+
+void EdSFieldWidget::setFieldType(SoType type, const char* name)
+{
+    setHandledType(type);
+    setName(type.getName().getString());
+    if (!name)
+        setObjectName(QLatin1String(metaObject()->className()));
+}
+
+void EdSFieldWidget::makeSlider(SFFrameType frameType)
+{
+    QWidget* parent = getWidgetContainer();
+    const auto real = [&](bool single) {
+        return new EdRealSlider(SingleValueParent, this, parent, single, 0, 1);
+    };
+    const auto integer = [&](SliderType type) {
+        return new EdIntSlider(type, SingleValueParent, this, parent, 0, 1);
+    };
+    const auto natural = [&](SliderType type) {
+        return new EdUIntSlider(type, SingleValueParent, this, parent, 0, 1);
+    };
+    switch (frameType) {
+    case PlainFrame:
+        break;
+    case FloatFrame:
+        m_slider = real(true);
+        break;
+    case DoubleFrame:
+        m_slider = real(false);
+        break;
+    case Int32Frame:
+        m_slider = integer(Int32Slider);
+        break;
+    case UInt32Frame:
+        m_slider = natural(UInt32Slider);
+        break;
+    case ShortFrame:
+        m_slider = integer(Int16Slider);
+        break;
+    case UShortFrame:
+        m_slider = natural(UInt16Slider);
+        break;
+    }
+    m_editionFrame = m_slider;
+}
+
+void EdSFieldWidget::load()
+{
+    if (!m_label)
+        setFieldName(QLatin1String(getName().getString()));
+    SpxFieldEditors::load();
+    setBoxStyle(getWidgetContainer(), "frameLineWidth");
+    m_mainLayout =
+        buildLayout(getWidgetContainer(), "SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
+    styleLabel();
+    m_mainLayout->addWidget(m_label);
+    m_labelSpacer = addSpacer(m_mainLayout);
+
+    m_editionAreaLayout =
+        buildLayout(nullptr, "SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
+    buildEditionFrame();
+    m_editionAreaLayout->addWidget(m_editionFrame, 1);
+    m_editionSpacer = addSpacer(m_editionAreaLayout);
+    buildButtons();
+    m_editionAreaLayout->addLayout(m_buttonLayout);
+    m_editionAreaLayout->setSizeConstraint(QLayout::SetMinimumSize);
+    m_mainLayout->addLayout(m_editionAreaLayout, 1);
+
+    languageChange();
+    connect(m_defaultButton, &QPushButton::clicked, this, &EdSFieldWidget::setDefaultFieldValue);
+    connect(m_ignoreButton, &QPushButton::released, this, &EdSFieldWidget::ignoreButtonStateChanged);
+}
+
+void EdSFieldWidget::setFieldName(const QString& name)
+{
+    if (!m_label) {
+        m_label = new QLabel(getWidgetContainer());
+        m_label->setObjectName(QStringLiteral("m_label"));
+    }
+    if (m_label->text().isEmpty())
+        m_label->setText(tr("<p align=\"center\">") + name + tr("</p>"));
+}
+
+void EdSFieldWidget::styleLabel()
+{
+    QFont font = m_label->font();
+    font.setPointSize(xsgsettings_fieldEditor(QStringLiteral("labelPointSize")));
+    m_label->setFont(font);
+    setBoxStyle(m_label, "labelLineWidth");
+    m_label->setScaledContents(true);
+}
+
+void EdSFieldWidget::buildEditionFrame()
+{
+    if (m_editionFrame) {
+        m_editLayout = qobject_cast<QBoxLayout*>(m_editionFrame->layout());
+        return;
+    }
+    m_editionFrame = new QFrame(getWidgetContainer());
+    m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
+    setBoxStyle(m_editionFrame, "frameLineWidth");
+    m_editLayout =
+        buildLayout(m_editionFrame, "editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
+}
+
+void EdSFieldWidget::buildButtons()
+{
+    // The same object name as the main layout's; it is meant.
+    m_buttonLayout = buildLayout(nullptr, "SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
+    m_defaultButton = buildButton("m_defaultButton", fieldEditor::icon(fieldEditor::Icon::Default));
+    m_ignoreButton = buildButton("m_ignoreButton", fieldEditor::icon(fieldEditor::Icon::Ignore));
+    m_ignoreButton->setCheckable(true);
+}
+
+QPushButton* EdSFieldWidget::buildButton(const char* objectName, const QPixmap& icon)
+{
+    auto* button = new QPushButton(getWidgetContainer());
+    button->setObjectName(QLatin1String(objectName));
+    button->setMaximumSize(xsgsettings_fieldEditor(QStringLiteral("buttonWidth")),
+                           xsgsettings_fieldEditor(QStringLiteral("buttonHeight")));
+    button->setIcon(icon);
+    button->setFocusPolicy(Qt::NoFocus); // a click leaves the focus in the value's input
+    m_buttonLayout->addWidget(button);
+    return button;
+}
+
+void EdSFieldWidget::setSpacers(int width, int height)
+{
+    for (QSpacerItem* spacer : {m_labelSpacer, m_editionSpacer})
+        spacer->changeSize(width, height, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    m_mainLayout->invalidate();
+    m_editionAreaLayout->invalidate();
+}
+
+void EdSFieldWidget::setField(SoField* field)
+{
+    if (m_slider)
+        m_slider->forget();
+    const QList<EdLineEdit*> inputs = getWidgetContainer()->findChildren<EdLineEdit*>();
+    for (EdLineEdit* input : inputs)
+        input->forget();
+    SpxFieldEditors::setField(field);
+}
+
+void EdSFieldWidget::refresh()
+{
+    const SoField* field = getField();
+    if (field && m_ignoreButton)
+        m_ignoreButton->setChecked(field->isIgnored());
+}
+
+void EdSFieldWidget::setRefresh(bool) {}
+
+void EdSFieldWidget::swapRows(int, int) {}
+
+void EdSFieldWidget::swapColumns(int, int) {}
+
+void EdSFieldWidget::set1Value(int, int, QString) {}
+
+void EdSFieldWidget::setValue(int, const void*) {}
+
+void EdSFieldWidget::applyChanges() {}
+
+bool EdSFieldWidget::edited()
+{
+    return false;
+}
+
+void EdSFieldWidget::languageChange()
+{
+    m_defaultButton->setText(QString());
+    m_ignoreButton->setText(QString());
+    m_defaultButton->setToolTip(tr("Set to default"));
+    m_ignoreButton->setToolTip(tr("Ignore this field"));
+    m_defaultButton->setAccessibleName(tr("Set to default"));
+    m_ignoreButton->setAccessibleName(tr("Ignore this field"));
+}
+
+void EdSFieldWidget::setCommandValue()
+{
+    applyChanges();
+}
+
+void EdSFieldWidget::setFocusLeaveEvent()
+{
+    if (edited())
+        applyChanges();
+}
+
+void EdSFieldWidget::ignoreButtonStateChanged()
+{
+    if (SoField* field = getField())
+        EdFieldEdits::setIgnored(field, m_ignoreButton->isChecked());
+}
+
+void EdSFieldWidget::setDefaultFieldValue()
+{
+    if (SoField* field = getField())
+        EdFieldEdits::setToDefault(field);
+}
