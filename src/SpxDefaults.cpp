@@ -26,6 +26,12 @@ bool SpxDefaults::load()
         // Editors of multi-value fields; after MFDouble comes the single-value editor of file paths.
 
         // Editors of single-value fields, but for file paths.
+        &m_sfDouble,
+        &m_sfFloat,
+        &m_sfInt32,
+        &m_sfShort,
+        &m_sfUInt32,
+        &m_sfUShort,
 
         // The docks that show editors.
         &m_fieldEditorDock,

@@ -5,6 +5,12 @@
 // orders differ on purpose.
 #pragma once
 
+#include "EdSFDoubleWidget.h"
+#include "EdSFFloatWidget.h"
+#include "EdSFInt32Widget.h"
+#include "EdSFShortWidget.h"
+#include "EdSFUInt32Widget.h"
+#include "EdSFUShortWidget.h"
 #include "SpxFieldEditorDockWin.h"
 #include "SpxNodeEditor.h"
 #include "SpxPerfCounterExtension.h"
@@ -26,6 +32,12 @@ private:
     // Editors of multi-value fields.
 
     // Editors of single-value fields; Enum before Double, FilePathString before Float.
+    EdSFDoubleWidget m_sfDouble;
+    EdSFFloatWidget m_sfFloat;
+    EdSFInt32Widget m_sfInt32;
+    EdSFShortWidget m_sfShort;
+    EdSFUInt32Widget m_sfUInt32;
+    EdSFUShortWidget m_sfUShort;
 
     // The docks that show editors.
     SpxFieldEditorDockWin m_fieldEditorDock;

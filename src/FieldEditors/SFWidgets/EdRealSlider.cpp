@@ -18,6 +18,17 @@ EdSliderValidator<EdRealValidator>* validatorFor(QObject* parent, int decimals)
     return new EdSliderValidator<EdRealValidator>(parent, -Limit, Limit, decimals);
 }
 
+// A text that is no number counts as 0, one beyond the largest number as that number: rounding to 15 digits
+// can lead there.
+double numberOf(const QString& text)
+{
+    bool ok = false;
+    const double value = text.toDouble(&ok);
+    if (!ok && std::isinf(value))
+        return std::copysign(std::numeric_limits<double>::max(), value);
+    return ok ? value : 0.0;
+}
+
 } // namespace
 
 EdRealSlider::EdRealSlider(SliderParentType parentType, SpxFieldEditors* owner, QWidget* parent,
@@ -77,7 +88,7 @@ void EdRealSlider::updateEdit()
 
 void EdRealSlider::setValueFromEdit()
 {
-    const double value = toDoubleOr0(getValueFromEdit());
+    const double value = numberOf(getValueFromEdit());
     if (std::isfinite(value))
         take(value);
     else

@@ -1,9 +1,8 @@
 #include "EdSFRealWidget.h"
 
 #include "EdFieldEdits.h"
-#include "EdRangeSettings.h"
+#include "EdFieldRange.h"
 
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/fields/SoSFDouble.h>
 #include <xsg/fields/SoSFFloat.h>
 
@@ -20,26 +19,6 @@ constexpr const char* defaultRange(const SoSFFloat*)
 constexpr const char* defaultRange(const SoSFDouble*)
 {
     return "doubleField";
-}
-
-// All three take the same row of the table; that is meant.
-bool hasUnitRange(const SoFieldContainer* container)
-{
-    for (const char* name : {"Complexity", "Material", "DirectionalLight"}) {
-        const SoType type = SoType::fromName(name);
-        if (!type.isBad() && container->getTypeId().isDerivedFrom(type))
-            return true;
-    }
-    return false;
-}
-
-EdRangeComponent rangeOf(const SoField* field, const char* defaultField)
-{
-    const EdRangeSettings settings;
-    const SoFieldContainer* container = field ? field->getContainer() : nullptr;
-    if (container && hasUnitRange(container))
-        return settings.getFieldRange("Complexity", "value");
-    return settings.getFieldRange("DefaultNode", defaultField);
 }
 
 } // namespace
@@ -66,8 +45,10 @@ void EdSFRealWidget<SoSFDouble>::setRange(const EdRangeComponent& range)
 template <class Field>
 void EdSFRealWidget<Field>::setField(SoField* field)
 {
-    m_range = rangeOf(field, defaultRange(static_cast<Field*>(nullptr)));
-    setRange(m_range);
+    if (field) {
+        m_range = rangeOfField(*field, defaultRange(static_cast<Field*>(nullptr)));
+        setRange(m_range);
+    }
     EdSFieldWidget::setField(field);
 }
 

@@ -1,0 +1,93 @@
+#include "EdSFFloatWidget.h"
+#include "EdSlider.h"
+#include "EditedField.h"
+#include "FieldEditorSettings.h"
+
+#include <xsg/fields/SoSFFloat.h>
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace
+{
+
+// An editor with a plain line of its own.
+class PlainEditor : public EdSFieldWidget
+{
+public:
+    explicit PlainEditor(SFFrameType type)
+        : EdSFieldWidget(type, nullptr)
+    {
+    }
+};
+
+} // namespace
+
+TEST(SFieldWidgetTest, UnknownFrameTypeHasAPlainEditionFrame)
+{
+    for (int type : {0, 7, 1000}) {
+        PlainEditor editor{SFFrameType(type)};
+        EXPECT_EQ(editor.objectName(), "EdSFieldWidget");
+        editor.load();
+        EXPECT_EQ(editor.getWidget()->findChild<EdSlider*>(), nullptr);
+        const auto* frame = editor.getWidget()->findChild<QFrame*>("m_editionFrame");
+        ASSERT_NE(frame, nullptr);
+        EXPECT_EQ(frame->layout()->objectName(), "editLayout");
+        editor.unload();
+    }
+}
+
+TEST(SFieldWidgetTest, FirstCaptionStays)
+{
+    PlainEditor editor{PlainFrame};
+    editor.setFieldName("First");
+    editor.setFieldName("Second");
+    EXPECT_EQ(editor.getWidget()->findChild<QLabel*>("m_label")->text(), "<p align=\"center\">First</p>");
+}
+
+TEST(SFieldWidgetTest, LayoutFollowsTheSettings)
+{
+    EdSFFloatWidget editor(nullptr);
+    editor.load();
+    const auto* container = qobject_cast<QFrame*>(editor.getWidget());
+    EXPECT_EQ(container->frameShape(), QFrame::Box);
+    EXPECT_EQ(container->layout()->objectName(), "SFieldLayout");
+    EXPECT_EQ(container->layout()->spacing(), xsgsettings_fieldEditor("SFieldLayoutSpacing"));
+    const int margin = xsgsettings_fieldEditor("SFieldLayoutMargin");
+    EXPECT_EQ(container->layout()->contentsMargins(), QMargins(margin, margin, margin, margin));
+    const auto* label = container->findChild<QLabel*>("m_label");
+    EXPECT_EQ(label->font().pointSize(), xsgsettings_fieldEditor("labelPointSize"));
+    EXPECT_TRUE(label->hasScaledContents());
+    EXPECT_EQ(container->layout()->itemAt(0)->widget(), label);
+    EXPECT_NE(container->layout()->itemAt(1)->spacerItem(), nullptr);
+    const QLayout* area = container->layout()->itemAt(2)->layout();
+    ASSERT_NE(area, nullptr);
+    EXPECT_EQ(area->objectName(), "SFieldEditionAreaLayout");
+    EXPECT_EQ(area->sizeConstraint(), QLayout::SetMinimumSize);
+    EXPECT_EQ(area->itemAt(0)->widget()->objectName(), "EdSliderFrame");
+    EXPECT_NE(area->itemAt(1)->spacerItem(), nullptr);
+    EXPECT_EQ(area->itemAt(2)->layout()->objectName(), "SFieldLayout");
+    EXPECT_EQ(container->findChild<QPushButton*>("m_defaultButton")->toolTip(), "Set to default");
+    EXPECT_EQ(container->findChild<QPushButton*>("m_ignoreButton")->toolTip(), "Ignore this field");
+    for (const auto* button : container->findChildren<QPushButton*>()) {
+        EXPECT_EQ(button->focusPolicy(), Qt::NoFocus);
+        EXPECT_EQ(button->maximumSize(), QSize(20, 20));
+        EXPECT_TRUE(button->text().isEmpty());
+        EXPECT_FALSE(button->icon().isNull());
+    }
+    editor.unload();
+}
+
+TEST(SFieldWidgetTest, HiddenUntilActivated)
+{
+    SoSFFloat field;
+    TestHost host;
+    EdSFFloatWidget editor(nullptr);
+    editor.load();
+    EXPECT_TRUE(editor.getWidget()->isHidden());
+    editor.unload();
+    host.edit(editor, &field);
+    EXPECT_FALSE(editor.getWidget()->isHidden());
+    host.release(editor);
+    EXPECT_TRUE(editor.getWidget()->isHidden());
+}
