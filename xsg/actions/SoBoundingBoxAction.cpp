@@ -1,5 +1,6 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoPoints.h>
 #include <xsg/nodes/SoSeparator.h>
@@ -49,9 +50,11 @@ bool SoBoundingBoxAction::enterGroup(SoGroup* group)
     if (!separator)
         return true;
     if (isValid(*separator, state())) {
+        xsg::feeds.boxHits.add();
         extend(separator->boxCache().box);
         return false;
     }
+    xsg::feeds.boxMisses.add();
     m_boxes.emplace_back();
     state().modelMatrix = SbMatrix();
     state().instances = nullptr;

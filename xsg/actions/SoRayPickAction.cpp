@@ -2,6 +2,7 @@
 
 #include <xsg/actions/RayTests.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoSeparator.h>
 #include <xsg/nodes/SoShape.h>
@@ -21,6 +22,7 @@ SoRayPickAction::~SoRayPickAction() = default;
 
 std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ray)
 {
+    xsg::feeds.picks.add();
     m_nearest.reset();
     if (!root || !(ray.direction.length() > 0))
         return {};

@@ -1,5 +1,7 @@
 #include <xsg/actions/SoSearchAction.h>
 
+#include <xsg/counters/LibraryCounters.h>
+
 void SoSearchAction::setName(SbName name)
 {
     m_name = name;
@@ -29,6 +31,7 @@ const std::vector<SoPath>& SoSearchAction::apply(SoNode* root)
         SoNode* node;
         int child;
     };
+    xsg::feeds.searches.add();
     m_paths.clear();
     std::vector<Frame> frames;
     const auto visit = [&](SoNode* node) {

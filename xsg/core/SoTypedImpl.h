@@ -8,10 +8,17 @@
 namespace xsg
 {
 
+// Asks for `new T`, since std::is_default_constructible also asks for a public destructor, which nodes do not
+// have.
+template <class T, class = void>
+constexpr bool canBeMade = false;
+template <class T>
+constexpr bool canBeMade<T, std::void_t<decltype(new T)>> = !std::is_abstract_v<T>;
+
 template <class T>
 constexpr SoType::Factory factoryOf()
 {
-    if constexpr (!std::is_abstract_v<T> && std::is_default_constructible_v<T>)
+    if constexpr (canBeMade<T>)
         return [] { return static_cast<SoTypedObject*>(new T); };
     else
         return nullptr;
@@ -22,8 +29,8 @@ constexpr SoType::Factory factoryOf()
 template <class Self, class Base>
 SoType SoTyped<Self, Base>::getClassTypeId()
 {
-    static const SoType type
-        = SoType::createType(Base::getClassTypeId(), Self::ClassName, xsg::factoryOf<Self>());
+    static const SoType type =
+        SoType::createType(Base::getClassTypeId(), Self::ClassName, xsg::factoryOf<Self>());
     return type;
 }
 

@@ -1,0 +1,20 @@
+// Shows its children once for each matrix; the graphics hardware copies them. Lights and clip planes inside
+// stand where the first copy does.
+#pragma once
+
+#include <xsg/fields/SoMFMatrix.h>
+#include <xsg/nodes/SoGroup.h>
+
+class XSG_API SoInstances : public SoTyped<SoInstances, SoGroup>
+{
+public:
+    static constexpr const char* ClassName = "Instances";
+
+    SoMFMatrix matrices{this, "matrices"}; // where each copy stands; none: nothing is shown
+
+    bool isIsolating() const override { return true; }
+    void apply(SoState& state) const override;
+    SoChildRange getChosenChildren(const SoState& state) const override;
+};
+
+extern template class SoTyped<SoInstances, SoGroup>;

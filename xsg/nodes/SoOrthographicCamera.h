@@ -1,0 +1,22 @@
+// Sees everything in its size, however far it is.
+#pragma once
+
+#include <xsg/fields/SoSFFloat.h>
+#include <xsg/nodes/SoCamera.h>
+
+class XSG_API SoOrthographicCamera : public SoTyped<SoOrthographicCamera, SoCamera>
+{
+public:
+    static constexpr const char* ClassName = "OrthographicCamera";
+
+    SoSFFloat height{this, "height", 2.0F}; // of what is seen, in the camera's coordinates
+
+    SbMatrix getProjectionMatrix(float aspect) const override;
+
+protected:
+    float getFocalHeight() const override;
+    void frame(float radius, float part) override;
+    void scaleView(float factor) override;
+};
+
+extern template class SoTyped<SoOrthographicCamera, SoCamera>;

@@ -1,0 +1,18 @@
+#include <xsg/nodes/SoSpotLight.h>
+
+#include <xsg/actions/SoState.h>
+#include <xsg/core/SoTypedImpl.h>
+
+template class SoTyped<SoSpotLight, SoLight>;
+
+SoLightSource SoSpotLight::getSource(const SbMatrix& toWorld) const
+{
+    SoLightSource source = getBasicSource();
+    source.kind = SoLightSource::Kind::Spot;
+    source.location = toWorld.multPoint(location.getValue());
+    source.direction = toWorld.multDirection(direction.getValue()).normalized();
+    source.attenuation = attenuation.getValue();
+    source.cutOffCosine = std::cos(cutOffAngle.getValue());
+    source.dropOff = dropOff.getValue();
+    return source;
+}

@@ -1,0 +1,5 @@
+#include <xsg/nodes/SoUnknownNode.h>
+
+#include <xsg/core/SoTypedImpl.h>
+
+template class SoTyped<SoUnknownNode, SoSeparator>;
