@@ -28,6 +28,19 @@ struct LibraryFeeds {
     SoPerfFeed drawCalls;
     SoPerfFeed triangles;
     SoPerfFeed vertices;
+    SoPerfFeed shapesCulled;
+    SoPerfFeed stateChanges;
+    SoPerfFeed bufferUploads;
+    SoPerfFeed bufferBytes;
+    SoPerfFeed textureBytes;
+    SoPerfFeed geometryHits;
+    SoPerfFeed geometryMisses;
+    SoPerfFeed picks;
+    SoPerfFeed searches;
+    SoPerfFeed boxHits;
+    SoPerfFeed boxMisses;
+    SoPerfFeed filesRead;
+    SoPerfFeed bytesParsed;
 };
 extern XSG_API LibraryFeeds feeds;
 

@@ -1,5 +1,6 @@
 #include <xsg/render/GeometryStore.h>
 
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/render/Shader.h>
 
 namespace
@@ -36,6 +37,7 @@ xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& s
 {
     const auto [place, isNew] = m_geometry.try_emplace(shape.getGeometryKey(state));
     GpuGeometry& kept = place->second;
+    (isNew ? feeds.geometryMisses : feeds.geometryHits).add();
     if (isNew) {
         SoGeometry geometry;
         shape.generate(state, geometry);

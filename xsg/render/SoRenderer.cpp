@@ -1,6 +1,8 @@
 #include <xsg/render/SoRenderer.h>
 
 #include <xsg/base/SbTime.h>
+#include <xsg/counters/LibraryCounters.h>
+#include <xsg/errors/SoGLError.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoDrawingCallback.h>
 #include <xsg/nodes/SoFog.h>
@@ -13,6 +15,31 @@ namespace
 {
 
 constexpr GLenum Primitives[] = {GL_TRIANGLES, GL_LINES, GL_POINTS};
+
+void feedCounters(const SoRenderer::Statistics& frame)
+{
+    xsg::feeds.frames.add();
+    xsg::feeds.renderMicroseconds.add(std::llround(frame.seconds * 1e6));
+    xsg::feeds.nodesTraversed.add(frame.nodes);
+    xsg::feeds.drawCalls.add(frame.drawCalls);
+    xsg::feeds.triangles.add(frame.triangles);
+    xsg::feeds.vertices.add(frame.points);
+    xsg::feeds.shapesCulled.add(frame.culled);
+    xsg::feeds.stateChanges.add(frame.stateChanges);
+    xsg::feeds.bufferUploads.add(frame.bufferUploads);
+    xsg::feeds.bufferBytes.add(frame.uploadedBytes);
+    xsg::feeds.textureBytes.add(frame.textureBytes);
+}
+
+// One error a frame is told; more of them would only repeat it.
+void reportErrors()
+{
+    const GLenum first = glGetError();
+    for (int i = 0; i < 16 && glGetError() != GL_NO_ERROR; ++i) {
+    }
+    if (first != GL_NO_ERROR)
+        SoGLError::post(first, "SoRenderer");
+}
 
 // Where a point is drawn from: the eye's matrices for one frame.
 struct EyeView {
@@ -113,7 +140,9 @@ bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, i
         statistics.textureBytes = m_textures.getUploadedBytes() - textureBytes;
     }
     finishFrame();
+    reportErrors();
     statistics.seconds = time.getElapsed();
+    feedCounters(statistics);
     return true;
 }
 

@@ -1,0 +1,341 @@
+#include <gtest/gtest.h>
+
+#include <xsg/core/SoTypedImpl.h>
+#include <xsg/errors/SoReadError.h>
+#include <xsg/fields/SoMFName.h>
+#include <xsg/fields/SoSFBitMask.h>
+#include <xsg/fields/SoSFName.h>
+#include <xsg/io/SoSceneFile.h>
+#include <xsg/nodes/SoCube.h>
+#include <xsg/nodes/SoInfo.h>
+#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/SoPoints.h>
+#include <xsg/nodes/SoScreenText.h>
+#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/SoSphere.h>
+#include <xsg/nodes/SoTexture2.h>
+#include <xsg/nodes/SoTransform.h>
+#include <xsg/nodes/SoUnknownNode.h>
+
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <sstream>
+#include <sys/stat.h>
+
+namespace
+{
+
+const std::string Head = "#Xsg V1.0 utf8\n";
+
+class SceneFile : public testing::Test
+{
+protected:
+    SceneFile()
+    {
+        SoReadError::setHandlerCallback(
+            [](const SoError* posted, void* data) {
+                static_cast<SceneFile*>(data)->posted.push_back(posted->getDebugString().str());
+            },
+            this);
+    }
+    ~SceneFile() override { SoReadError::setHandlerCallback(SoError::defaultHandler, nullptr); }
+
+    SoRef<SoNode> read(const std::string& text) { return SoSceneFile::readText(text, "scene.xsg", error); }
+    template <class Node>
+    Node* child(const SoRef<SoNode>& root, int index)
+    {
+        return dynamic_cast<Node*>(root->asGroup()->getChild(index));
+    }
+
+    std::string error;
+    std::vector<std::string> posted;
+};
+
+std::string textOf(const SoField& field)
+{
+    SbString text;
+    field.get(text);
+    return text.str();
+}
+
+} // namespace
+
+TEST_F(SceneFile, ReadsNodesNamesFieldsAndMarks)
+{
+    const auto root = read(Head + R"(# for people
+Separator "whole \"scene\"" { # here too
+    Material {
+        diffuseColor: [ 1 0 0, 0 1 0 ]
+        transparency: 0.5 !ignored
+        shininess: !ignored }
+    Sphere {radius:2}
+}
+)");
+    ASSERT_TRUE(root) << error;
+    EXPECT_STREQ(root->getName().getString(), "whole \"scene\"");
+    auto* material = child<SoMaterial>(root, 0);
+    ASSERT_TRUE(material);
+    EXPECT_EQ(material->diffuseColor.getNum(), 2);
+    EXPECT_EQ(material->transparency.getValue(), 0.5F);
+    EXPECT_TRUE(material->transparency.isIgnored());
+    EXPECT_TRUE(material->shininess.isIgnored());
+    EXPECT_TRUE(material->shininess.isDefault());
+    EXPECT_EQ(child<SoSphere>(root, 1)->radius.getValue(), 2.0F);
+    EXPECT_TRUE(posted.empty());
+}
+
+TEST_F(SceneFile, WritesWhatItReads)
+{
+    const std::string text = Head + R"(Separator "top" {
+    Material @1 {
+        transparency: 0.25
+    }
+    Group {
+        @1
+        Cube {}
+    }
+}
+)";
+    const auto root = read(text);
+    ASSERT_TRUE(root) << error;
+    EXPECT_EQ(root->asGroup()->getChild(0), child<SoGroup>(root, 1)->getChild(0));
+    EXPECT_EQ(SoSceneFile::writeText(root.get()), text);
+}
+
+TEST_F(SceneFile, KeepsEveryBitOfEveryNodesFields)
+{
+    const char* const texts[] = {"0.1",
+                                 "-0",
+                                 "nan",
+                                 "-inf",
+                                 "1e-45",
+                                 "7",
+                                 "TRUE",
+                                 "0.1 0.2 0.3",
+                                 "1 2",
+                                 "0.5 0.25 0.125 1",
+                                 "[ 0.1 0.2 0.3, -1 -2 -3 ]",
+                                 "[ 1, -1, 3 ]",
+                                 "[ ]",
+                                 "[ 0.1 0.7, 2 3 ]",
+                                 "1 2 3 4 5 6",
+                                 "2 1 3 0xff8000 0x010203",
+                                 "LINES",
+                                 "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16.5",
+                                 "[ 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 ]",
+                                 "\"a # b } ] ! < \\\" \\\\ \xC3\xA4\"",
+                                 "[ \"a ]\", \"\", \"two\\nlines\" ]"};
+    for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId())) {
+        if (!type.canCreateInstance() || type == SoUnknownNode::getClassTypeId())
+            continue;
+        const SoRef<SoNode> node(static_cast<SoNode*>(type.createInstance()));
+        const SoFieldData* data = node->getFieldData();
+        for (const char* text : texts) {
+            for (int i = 0; i < data->getNumFields(); ++i)
+                data->getField(node.get(), i)->set(text);
+            const auto copy = read(SoSceneFile::writeText(node.get()));
+            ASSERT_TRUE(copy) << error;
+            ASSERT_EQ(copy->getTypeId(), type);
+            for (int i = 0; i < data->getNumFields(); ++i) {
+                const SoField* field = data->getField(node.get(), i);
+                const SoField* read = data->getField(copy.get(), i);
+                EXPECT_TRUE(field->isSame(*read))
+                    << type.getName().getString() << '.' << field->getName().getString() << ": "
+                    << textOf(*field) << " became " << textOf(*read);
+                EXPECT_EQ(field->isDefault(), read->isDefault());
+            }
+        }
+    }
+}
+
+TEST_F(SceneFile, KeepsConnectionsAlsoToWhatComesLater)
+{
+    const SoRef<SoSeparator> root(new SoSeparator);
+    auto* sphere = new SoSphere;
+    auto* cube = new SoCube;
+    root->addChild(sphere);
+    root->addChild(cube);
+    ASSERT_TRUE(sphere->radius.connectFrom(&cube->width));
+    cube->width.setValue(7);
+    const auto copy = read(SoSceneFile::writeText(root.get()));
+    ASSERT_TRUE(copy) << error;
+    auto* copiedSphere = child<SoSphere>(copy, 0);
+    auto* copiedCube = child<SoCube>(copy, 1);
+    EXPECT_EQ(copiedSphere->radius.getConnectedField(), &copiedCube->width);
+    EXPECT_EQ(copiedSphere->radius.getValue(), 7.0F);
+    copiedCube->width.setValue(9);
+    EXPECT_EQ(copiedSphere->radius.getValue(), 9.0F);
+}
+
+TEST_F(SceneFile, AConnectedFieldThatWasWrittenKeepsItsValue)
+{
+    const SoRef<SoSeparator> root(new SoSeparator);
+    auto* first = new SoCube;
+    auto* second = new SoCube;
+    auto* third = new SoCube;
+    for (SoCube* cube : {third, second, first})
+        root->addChild(cube);
+    second->width.connectFrom(&first->width);
+    third->width.connectFrom(&second->width);
+    first->width.setValue(1);
+    second->width.setValue(2);
+    third->width.setValue(3);
+    const auto copy = read(SoSceneFile::writeText(root.get()));
+    ASSERT_TRUE(copy) << error;
+    EXPECT_EQ(child<SoCube>(copy, 0)->width.getValue(), 3.0F);
+    EXPECT_EQ(child<SoCube>(copy, 1)->width.getValue(), 2.0F);
+    EXPECT_EQ(child<SoCube>(copy, 2)->width.getValue(), 1.0F);
+}
+
+TEST_F(SceneFile, AConnectionFromOutsideOfTheSceneLeavesItsValue)
+{
+    const SoRef<SoCube> outside(new SoCube);
+    const SoRef<SoSphere> sphere(new SoSphere);
+    sphere->radius.connectFrom(&outside->width);
+    const auto copy = read(SoSceneFile::writeText(sphere.get()));
+    ASSERT_TRUE(copy) << error;
+    EXPECT_EQ(dynamic_cast<SoSphere&>(*copy).radius.getValue(), 2.0F);
+}
+
+TEST_F(SceneFile, NodesOfUnknownTypesAreKept)
+{
+    const std::string text = Head + R"(Separator {
+    Wormhole "left" {
+        mouth: 1 2 3 !ignored
+        notes: [ "a }", "b" ]
+        Cube {
+            width: 3
+        }
+    }
+}
+)";
+    const auto root = read(text);
+    ASSERT_TRUE(root) << error;
+    auto* unknown = child<SoUnknownNode>(root, 0);
+    ASSERT_TRUE(unknown);
+    EXPECT_STREQ(unknown->typeName.getValue().getString(), "Wormhole");
+    EXPECT_EQ(unknown->getNumChildren(), 1);
+    EXPECT_EQ(SoSceneFile::writeText(root.get()), text);
+}
+
+TEST_F(SceneFile, AHundredThousandLevels)
+{
+    constexpr int Levels = 100'000;
+    std::string text = Head;
+    for (int i = 0; i < Levels; ++i)
+        text += "Separator {\n";
+    text += "Cube {}\n";
+    text += std::string(Levels, '}');
+    const auto root = read(text);
+    ASSERT_TRUE(root) << error;
+    const std::string written = SoSceneFile::writeText(root.get());
+    EXPECT_LT(written.size(), Levels * 160U);
+    const auto again = read(written);
+    ASSERT_TRUE(again) << error;
+    EXPECT_EQ(SoSceneFile::writeText(again.get()), written);
+}
+
+struct Wrong {
+    const char* text; // after the first line
+    const char* place;
+    const char* says;
+};
+
+class SceneFileError : public SceneFile, public testing::WithParamInterface<Wrong>
+{
+};
+
+TEST_P(SceneFileError, NamesFileLineColumnAndWhatWasExpected)
+{
+    EXPECT_FALSE(read(Head + GetParam().text));
+    EXPECT_EQ(error.rfind(GetParam().place, 0), 0U) << error;
+    EXPECT_NE(error.find(GetParam().says), std::string::npos) << error;
+    EXPECT_EQ(error.find('\n'), std::string::npos);
+    ASSERT_EQ(posted.size(), 1U);
+    EXPECT_NE(posted[0].find(GetParam().says), std::string::npos) << posted[0];
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, SceneFileError,
+    testing::Values(
+        Wrong{"", "scene.xsg:2: Column 1:", "the file has no node"},
+        Wrong{"Cube {", "scene.xsg:2: Column 7:", "\"}\" was expected to close the Cube"},
+        Wrong{"Cube\n", "scene.xsg:3: Column 1:", "\"{\" was expected after \"Cube\""},
+        Wrong{"}", "scene.xsg:2: Column 1:", "closes nothing"},
+        Wrong{"Cube {} Cube {}", "scene.xsg:2: Column 9:", "its end was expected"},
+        Wrong{"Cube {\n  width: many\n}",
+              "scene.xsg:3: Column 10:", "\"many\" is no value of width, which is a SFFloat"},
+        Wrong{"Cube {\n  breadth: 1\n}", "scene.xsg:3: Column 3:", "a Cube has no field \"breadth\""},
+        Wrong{"Cube { Sphere {} }", "scene.xsg:2: Column 8:", "a Cube has no children"},
+        Wrong{"Cube \"name {}", "scene.xsg:2: Column 6:", "has no end"},
+        Wrong{"width: 1", "scene.xsg:2: Column 1:", "a field stands within a node"},
+        Wrong{"Separator { @9 }", "scene.xsg:2: Column 13:", "the label @9 is not that of a node"},
+        Wrong{"Separator @1 { @1 }", "scene.xsg:2: Column 16:", "complete"},
+        Wrong{"Separator { Cube @1 {} Cube @1 {} }", "scene.xsg:2: Column 33:", "already another node's"},
+        Wrong{"Cube @ {}", "scene.xsg:2: Column 7:", "a label was expected"},
+        Wrong{"Points { points: [ 1 2 3 }", "scene.xsg:2: Column 18:", "has no \"]\""},
+        Wrong{"Info { text: \"abc\n}", "scene.xsg:2: Column 14:", "has no end"},
+        Wrong{"Cube { width: 1 !unheard }", "scene.xsg:2: Column 17:", "\"!ignored\" was expected"},
+        Wrong{"Cube { width: <- 5 }", "scene.xsg:2: Column 15:", "\"<- @label.field\" was expected"},
+        Wrong{"Cube { width: <- @1.width }", "scene.xsg:2: Column 15:", "there is no field @1.width"},
+        Wrong{"Cube @1 { width: <- @1.width }", "scene.xsg:2: Column 18:", "cannot be connected"},
+        Wrong{"Separator { ) }", "scene.xsg:2: Column 13:", "a field, a node or \"}\" was expected"}));
+
+TEST_F(SceneFile, AnotherFirstLineIsNoSceneFile)
+{
+    for (const char* text : {"", "#Xsg V2.0 utf8\nCube {}", "glTF\x02", "Cube {}"}) {
+        EXPECT_FALSE(read(text));
+        EXPECT_NE(error.find("its first line must be \"#Xsg V1.0 utf8\""), std::string::npos) << error;
+    }
+    EXPECT_TRUE(read("#Xsg V1.0 utf8\r\nCube {\r\n  width: 3\r\n}\r\n")) << error;
+}
+
+TEST_F(SceneFile, CutAnywhereItGivesAnErrorOrAScene)
+{
+    const SoRef<SoSeparator> root(new SoSeparator);
+    auto* points = new SoPoints;
+    points->setName("corners \"here\"");
+    for (int i = 0; i < 20; ++i)
+        points->points.set1Value(i, {static_cast<float>(i) * 0.1F, 1, 2});
+    auto* text = new SoScreenText;
+    text->lines.set1Value(0, "\\ quoted \"");
+    auto* sphere = new SoSphere;
+    sphere->radius.connectFrom(&text->size);
+    sphere->radius.setIgnored(true);
+    for (SoNode* node : std::initializer_list<SoNode*>{points, text, sphere, points})
+        root->addChild(node);
+    const std::string whole = SoSceneFile::writeText(root.get());
+    for (std::size_t length = 0; length + 2 < whole.size(); ++length) {
+        EXPECT_FALSE(read(whole.substr(0, length)));
+        EXPECT_FALSE(error.empty());
+    }
+    EXPECT_TRUE(read(whole));
+}
+
+TEST_F(SceneFile, WritesAFileAsAWholeOrNotAtAll)
+{
+    const std::string folder = testing::TempDir() + "/scenes" + std::to_string(::getpid());
+    std::filesystem::create_directory(folder);
+    const std::string path = folder + "/a.xsg";
+    const SoRef<SoCube> cube(new SoCube);
+    cube->width.setValue(5);
+    ASSERT_TRUE(SoSceneFile::write(cube.get(), path, error)) << error;
+    const auto copy = SoSceneFile::read(path, error);
+    ASSERT_TRUE(copy) << error;
+    EXPECT_EQ(dynamic_cast<SoCube&>(*copy).width.getValue(), 5.0F);
+    EXPECT_FALSE(SoSceneFile::write(cube.get(), folder, error));
+    EXPECT_NE(error.find(folder), std::string::npos);
+    EXPECT_FALSE(SoSceneFile::write(cube.get(), folder + "/missing/a.xsg", error));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(SceneFile, WhatIsNoFileIsRefusedWithASentence)
+{
+    EXPECT_FALSE(SoSceneFile::read("/no/such/scene.xsg", error));
+    EXPECT_NE(error.find("/no/such/scene.xsg: The file cannot be read"), std::string::npos) << error;
+    EXPECT_FALSE(SoSceneFile::read(testing::TempDir(), error));
+    EXPECT_NE(error.find("this is not a file"), std::string::npos) << error;
+    EXPECT_EQ(posted.size(), 2U);
+}
