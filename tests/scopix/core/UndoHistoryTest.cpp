@@ -1,0 +1,222 @@
+#include "HostParts.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <stdexcept>
+
+namespace
+{
+
+class History : public ::testing::Test
+{
+protected:
+    QUndoStack& stack() { return m_services.undoStack(); }
+    void log(const std::string& name) { m_services.executeCommand(new LoggingCommand(m_log, name)); }
+    void setTransparency(SoMaterial& material, float value)
+    {
+        m_services.select(&material.transparency);
+        m_services.executeCommand(new SetFloat(material.transparency, value));
+    }
+    static SoMaterial* newMaterial()
+    {
+        auto* material = new SoMaterial;
+        material->ref();
+        return material;
+    }
+
+    Log m_log;
+    HostServices m_services;
+};
+
+class Throwing : public LoggingCommand
+{
+public:
+    Throwing(Log& log, std::string in)
+        : LoggingCommand(log, in)
+        , m_in(std::move(in))
+    {
+    }
+    void execute() override { maybeThrow("execute"); }
+    void undo() override { maybeThrow("undo"); }
+
+private:
+    void maybeThrow(const std::string& here)
+    {
+        if (here == m_in)
+            throw std::runtime_error("no more");
+    }
+    std::string m_in;
+};
+
+TEST_F(History, RunsACommandOnceAndThenUndoesAndRedoesIt)
+{
+    log("a");
+    stack().undo();
+    stack().redo();
+    stack().undo();
+    EXPECT_EQ(m_log, (Log{"execute a", "undo a", "redo a", "undo a"}));
+}
+
+TEST_F(History, NamesAStepByTheSelectedField)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    setTransparency(*material, 0.5F);
+    EXPECT_EQ(stack().undoText(), "Change Material.transparency");
+    m_services.clearSelection();
+    log("a");
+    EXPECT_EQ(stack().undoText(), "Change");
+    m_services.select(material.get());
+    log("b");
+    EXPECT_EQ(stack().undoText(), "Change Material");
+}
+
+TEST_F(History, AnEditAppliedWhileItsFieldIsLetGoIsNamedByThatField)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    SoRef<SoComplexity> other = new SoComplexity;
+    m_services.select(&material->transparency);
+    bool applied = false;
+    QObject listener;
+    QObject::connect(&m_services, &SpxServices::selectedFieldChanged, &listener, [&](SoField*) {
+        if (!std::exchange(applied, true))
+            log("pending");
+    });
+    m_services.select(&other->value);
+    EXPECT_EQ(stack().count(), 1);
+    EXPECT_EQ(stack().undoText(), "Change Material.transparency");
+}
+
+TEST_F(History, StepsOfANodeGoBeforeTheNodeDoesAndOthersStay)
+{
+    SoMaterial* first = newMaterial();
+    SoMaterial* second = newMaterial();
+    setTransparency(*first, 0.25F);
+    setTransparency(*second, 0.5F);
+    setTransparency(*first, 0.75F);
+    setTransparency(*second, 1.F);
+    stack().undo();
+    m_services.clearSelection();
+
+    first->unref();
+
+    ASSERT_EQ(stack().count(), 2);
+    EXPECT_EQ(stack().index(), 1);
+    stack().redo();
+    EXPECT_EQ(second->transparency.getValue(), 1.F);
+    stack().undo();
+    stack().undo();
+    EXPECT_EQ(second->transparency.getValue(), 0.F);
+    second->unref();
+    EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(History, TheSelectedNodeMayGoWhileItIsEdited)
+{
+    SoMaterial* material = newMaterial();
+    setTransparency(*material, 0.5F);
+    Log told;
+    QObject listener;
+    QObject::connect(&m_services, &SpxServices::selectedFieldChanged, &listener, [&](SoField* field) {
+        told.push_back(field ? "field" : "no field");
+        // What was typed is applied while the editor is let go: to a node whose memory is still there.
+        m_services.executeCommand(new SetFloat(material->transparency, 0.75F));
+    });
+    QObject::connect(&m_services, &SpxServices::selectedNodeChanged, &listener,
+                     [&](SoFieldContainer* node) { told.push_back(node ? "node" : "no node"); });
+    material->unref();
+    EXPECT_EQ(told, (Log{"no field", "no node"}));
+    EXPECT_EQ(m_services.selectedNode(), nullptr);
+    EXPECT_EQ(m_services.selectedField(), nullptr);
+    EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(History, AStepThatMayTouchAnythingGoesWithAnyNode)
+{
+    log("who knows what");
+    SoMaterial* material = newMaterial();
+    material->unref();
+    EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(History, AStepThatTouchesAnotherNodeOutlivesAFreshInstance)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    setTransparency(*material, 0.5F);
+    newMaterial()->unref();
+    EXPECT_EQ(stack().count(), 1);
+}
+
+TEST_F(History, ANodeMayGoInsideAnUndo)
+{
+    struct Dropping : LoggingCommand {
+        Dropping(Log& log, SoMaterial* material)
+            : LoggingCommand(log, "drop")
+            , material(material)
+        {
+        }
+        void undo() override
+        {
+            LoggingCommand::undo();
+            material->unref();
+        }
+        SoMaterial* material;
+    };
+    SoMaterial* material = newMaterial();
+    setTransparency(*material, 0.5F);
+    m_services.executeCommand(new Dropping(m_log, material));
+    stack().undo();
+    EXPECT_EQ(m_log.back(), "undo drop");
+    pump();
+    EXPECT_EQ(stack().count(), 0);
+    EXPECT_FALSE(stack().canUndo());
+}
+
+TEST_F(History, ACommandHandedOverInsideAnUndoIsKeptATurnLater)
+{
+    struct Nesting : LoggingCommand {
+        Nesting(Log& log, HostServices& services)
+            : LoggingCommand(log, "outer")
+            , log(log)
+            , services(services)
+        {
+        }
+        void undo() override
+        {
+            LoggingCommand::undo();
+            services.executeCommand(new LoggingCommand(log, "inner"));
+        }
+        Log& log;
+        HostServices& services;
+    };
+    m_services.executeCommand(new Nesting(m_log, m_services));
+    stack().undo();
+    EXPECT_EQ(m_log, (Log{"execute outer", "undo outer", "execute inner"}));
+    pump();
+    ASSERT_EQ(stack().count(), 1);
+    stack().undo();
+    EXPECT_EQ(m_log.back(), "undo inner");
+}
+
+TEST_F(History, ACommandThatThrowsIsToldAndDropped)
+{
+    QSignalSpy failures(&m_services, &HostServices::commandFailed);
+    m_services.executeCommand(new Throwing(m_log, "execute"));
+    ASSERT_EQ(failures.count(), 1);
+    EXPECT_EQ(failures.at(0).at(0).toString(), "\"Change\" failed: no more");
+    EXPECT_EQ(stack().count(), 0);
+    m_services.executeCommand(new Throwing(m_log, "undo"));
+    stack().undo();
+    EXPECT_EQ(failures.count(), 2);
+    EXPECT_EQ(stack().index(), 0);
+}
+
+TEST_F(History, NoCommandIsNothing)
+{
+    m_services.executeCommand(nullptr);
+    EXPECT_EQ(stack().count(), 0);
+}
+
+} // namespace
