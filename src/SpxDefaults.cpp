@@ -24,6 +24,23 @@ bool SpxDefaults::load()
         &m_perfCounters,
 
         // Editors of multi-value fields; after MFDouble comes the single-value editor of file paths.
+        &m_mfColor,
+        &m_mfDefault,
+        &m_mfDouble,
+        &m_mfFloat,
+        &m_mfInt32,
+        &m_mfMatrix,
+        &m_mfPlane,
+        &m_mfRotation,
+        &m_mfShort,
+        &m_mfString,
+        &m_mfUInt32,
+        &m_mfUShort,
+        &m_mfVec2f,
+        &m_mfVec2i32,
+        &m_mfVec2s,
+        &m_mfVec3f,
+        &m_mfVec4f,
 
         // Editors of single-value fields, but for file paths.
         &m_sfDouble,

@@ -5,6 +5,23 @@
 // orders differ on purpose.
 #pragma once
 
+#include "EdMFColorWidget.h"
+#include "EdMFDefaultFieldWidget.h"
+#include "EdMFDoubleWidget.h"
+#include "EdMFFloatWidget.h"
+#include "EdMFInt32Widget.h"
+#include "EdMFMatrixWidget.h"
+#include "EdMFPlaneWidget.h"
+#include "EdMFRotationWidget.h"
+#include "EdMFShortWidget.h"
+#include "EdMFStringWidget.h"
+#include "EdMFUInt32Widget.h"
+#include "EdMFUShortWidget.h"
+#include "EdMFVec2fWidget.h"
+#include "EdMFVec2i32Widget.h"
+#include "EdMFVec2sWidget.h"
+#include "EdMFVec3fWidget.h"
+#include "EdMFVec4fWidget.h"
 #include "EdSFDoubleWidget.h"
 #include "EdSFFloatWidget.h"
 #include "EdSFInt32Widget.h"
@@ -30,6 +47,23 @@ private:
     SpxPerfCounterExtension m_perfCounters;
 
     // Editors of multi-value fields.
+    EdMFColorWidget m_mfColor;
+    EdMFDefaultFieldWidget m_mfDefault;
+    EdMFDoubleWidget m_mfDouble;
+    EdMFFloatWidget m_mfFloat;
+    EdMFInt32Widget m_mfInt32;
+    EdMFMatrixWidget m_mfMatrix;
+    EdMFPlaneWidget m_mfPlane;
+    EdMFRotationWidget m_mfRotation;
+    EdMFShortWidget m_mfShort;
+    EdMFStringWidget m_mfString;
+    EdMFUInt32Widget m_mfUInt32;
+    EdMFUShortWidget m_mfUShort;
+    EdMFVec2fWidget m_mfVec2f;
+    EdMFVec2i32Widget m_mfVec2i32;
+    EdMFVec2sWidget m_mfVec2s;
+    EdMFVec3fWidget m_mfVec3f;
+    EdMFVec4fWidget m_mfVec4f;
 
     // Editors of single-value fields; Enum before Double, FilePathString before Float.
     EdSFDoubleWidget m_sfDouble;

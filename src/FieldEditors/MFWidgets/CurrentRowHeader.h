@@ -1,0 +1,20 @@
+// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it is.
+#pragma once
+
+#include <QHeaderView>
+
+class QTableView;
+
+class CurrentRowHeader : public QHeaderView
+{
+    Q_OBJECT
+
+public:
+    explicit CurrentRowHeader(QTableView* table);
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+
+private:
+    const QTableView* m_table;
+};

@@ -1,0 +1,19 @@
+// Column 0 is the swatch; the columns after it show the components, so every component is one column further on.
+#pragma once
+
+#include "EdMFieldTableItemDelegate.h"
+
+class EdMFColorTableItemDelegate : public EdMFieldTableItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using EdMFieldTableItemDelegate::EdMFieldTableItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+
+protected:
+    int componentOf(int column) const override { return column - 1; }
+};

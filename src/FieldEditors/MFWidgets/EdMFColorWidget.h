@@ -1,0 +1,22 @@
+// Edits lists of colours: a swatch that opens the colour dialog, and the components red, green and blue.
+#pragma once
+
+#include "EdMFVec3fWidget.h"
+
+class EdMFColorWidget : public EdMFVec3fWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EdMFColorWidget(const char* name = nullptr);
+
+    void load() override;
+    bool checkField(SoField* field) override;
+    // A value outside 0 to 1 is ignored.
+    void setSingleFieldValue(float value, int row, int column) override;
+    // `rgb`: three floats, 0 to 1. Recorded, but not undoable; that is meant.
+    void setValue(int row, const void* rgb) override;
+
+protected:
+    void initClass() override;
+};

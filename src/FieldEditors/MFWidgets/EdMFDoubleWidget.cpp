@@ -1,0 +1,6 @@
+#include "EdMFDoubleWidget.h"
+
+EdMFDoubleWidget::EdMFDoubleWidget(const char* name)
+    : EdMFRealWidget(name)
+{
+}

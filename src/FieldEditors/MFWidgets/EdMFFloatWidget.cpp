@@ -1,0 +1,6 @@
+#include "EdMFFloatWidget.h"
+
+EdMFFloatWidget::EdMFFloatWidget(const char* name)
+    : EdMFRealWidget(name)
+{
+}

@@ -1,0 +1,6 @@
+#include "EdMFInt32Widget.h"
+
+EdMFInt32Widget::EdMFInt32Widget(const char* name)
+    : EdMFIntegerWidget(name)
+{
+}

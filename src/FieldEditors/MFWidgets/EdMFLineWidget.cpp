@@ -1,0 +1,58 @@
+#include "EdMFLineWidget.h"
+
+#include "EdText.h"
+
+#include <xsg/fields/SoMField.h>
+
+EdMFLineWidget::EdMFLineWidget(const char* name)
+    : EdMFieldWidget(name)
+{
+    if (!name)
+        setObjectName(QStringLiteral("EdMFLineWidget"));
+}
+
+void EdMFLineWidget::load()
+{
+    EdMFieldWidget::load();
+    initColumns({}, 1);
+}
+
+bool EdMFLineWidget::checkField(SoField* field)
+{
+    return field && field->isOfType(SoMField::getClassTypeId());
+}
+
+QString EdMFLineWidget::getFieldValue(int row, int column) const
+{
+    if (column >= 1 || !hasRow(row))
+        return {};
+    return toQString(getSingleFieldValue(row, column));
+}
+
+void EdMFLineWidget::set1Value(int row, int column, QString text)
+{
+    if (hasRow(row))
+        setSingleFieldValue(toSbString(text), row, column);
+}
+
+SbString EdMFLineWidget::getSingleFieldValue(int row, int /*column*/) const
+{
+    SbString value;
+    editedField()->get1(row, value);
+    return value;
+}
+
+void EdMFLineWidget::setSingleFieldValue(const SbString& value, int row, int /*column*/)
+{
+    editedField()->set1(row, value);
+}
+
+void EdMFLineWidget::swapRows(int row1, int row2)
+{
+    if (!hasRow(row1) || !hasRow(row2))
+        return;
+    const SbString first = getSingleFieldValue(row1, 0);
+    const SbString second = getSingleFieldValue(row2, 0);
+    editedField()->set1(row1, second);
+    editedField()->set1(row2, first);
+}

@@ -1,0 +1,88 @@
+#include "EdMFMatrixWidget.h"
+
+#include "EdTablePopupLineEdit.h"
+#include "EdFieldEdits.h"
+#include "EdText.h"
+
+namespace
+{
+
+constexpr int GridSize = 4;
+constexpr int FloatValidator = 3;
+
+} // namespace
+
+EdMFMatrixWidget::EdMFMatrixWidget(const char* name)
+    : EdTablePopupWidget(GridSize, GridSize, name)
+{
+    setHandledType(SoMFMatrix::getClassTypeId());
+    setName("MFMatrix");
+    if (!name)
+        setObjectName(QStringLiteral("EdMFMatrixWidget"));
+}
+
+void EdMFMatrixWidget::load()
+{
+    setFieldName(QStringLiteral("MFMatrix"));
+    EdTablePopupWidget::load();
+    setValidator(FloatValidator);
+}
+
+bool EdMFMatrixWidget::checkField(SoField* field)
+{
+    return field && field->isOfType(SoMFMatrix::getClassTypeId());
+}
+
+const QString& EdMFMatrixWidget::wholeText() const
+{
+    const SoMFMatrix* field = matrices();
+    field->evaluate();
+    if (m_textField != field || m_textChange != field->getChangeCount()) {
+        SbString text;
+        field->get(text);
+        m_text = toQString(text);
+        m_textField = field;
+        m_textChange = field->getChangeCount();
+    }
+    return m_text;
+}
+
+QString EdMFMatrixWidget::getFieldValue(int /*row*/, int /*column*/) const
+{
+    return editedField() ? wholeText() : QString();
+}
+
+QString EdMFMatrixWidget::getCellText(int /*row*/, int /*column*/, int length) const
+{
+    return editedField() ? wholeText().left(length) : QString();
+}
+
+QString EdMFMatrixWidget::getPopupValue(int row, int index)
+{
+    if (!hasRow(row))
+        return {};
+    return QString::number(double((*matrices())[row].getValue()[index]), 'g', 6);
+}
+
+void EdMFMatrixWidget::set1Value(int row, int /*column*/, QString /*text*/)
+{
+    if (!hasRow(row))
+        return;
+    float numbers[GridSize * GridSize];
+    const float* present = (*matrices())[row].getValue();
+    for (const EdTablePopupLineEdit* line : lines()) {
+        numbers[line->index()]
+            = line->isUntouched() ? present[line->index()] : toFloatOr0(line->text());
+    }
+    EdFieldEdits::write1(matrices(), row, [&] { matrices()->set1Value(row, SbMatrix(numbers)); });
+}
+
+void EdMFMatrixWidget::swapRows(int row1, int row2)
+{
+    if (!hasRow(row1) || !hasRow(row2))
+        return;
+    const SbMatrix first = (*matrices())[row1];
+    const SbMatrix second = (*matrices())[row2];
+    matrices()->set1Value(row1, second);
+    matrices()->set1Value(row2, first);
+}

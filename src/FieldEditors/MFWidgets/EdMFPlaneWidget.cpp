@@ -1,0 +1,6 @@
+#include "EdMFPlaneWidget.h"
+
+EdMFPlaneWidget::EdMFPlaneWidget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

@@ -1,0 +1,6 @@
+#include "EdMFRotationWidget.h"
+
+EdMFRotationWidget::EdMFRotationWidget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

@@ -1,0 +1,6 @@
+#include "EdMFShortWidget.h"
+
+EdMFShortWidget::EdMFShortWidget(const char* name)
+    : EdMFIntegerWidget(name)
+{
+}

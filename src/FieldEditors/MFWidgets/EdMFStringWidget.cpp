@@ -1,0 +1,80 @@
+#include "EdMFStringWidget.h"
+
+#include "EdFieldEdits.h"
+#include "EdText.h"
+
+namespace
+{
+
+// The longest form of a character in UTF-8, in bytes.
+constexpr int BytesPerCharacter = 4;
+
+} // namespace
+
+EdMFStringWidget::EdMFStringWidget(const char* name)
+    : EdMFieldWidget(name)
+{
+    setHandledType(SoMFString::getClassTypeId());
+    setName("MFString");
+    if (!name)
+        setObjectName(QStringLiteral("EdMFStringWidget"));
+}
+
+void EdMFStringWidget::load()
+{
+    setFieldName(QStringLiteral("MFString"));
+    EdMFieldWidget::load();
+    initClass();
+}
+
+void EdMFStringWidget::initClass()
+{
+    initColumns({}, 1);
+}
+
+bool EdMFStringWidget::checkField(SoField* field)
+{
+    return field && field->isOfType(SoMFString::getClassTypeId());
+}
+
+QString EdMFStringWidget::getFieldValue(int row, int column) const
+{
+    if (column != 0 || !hasRow(row))
+        return {};
+    return toQString(getSingleFieldValue(row, column));
+}
+
+QString EdMFStringWidget::getCellText(int row, int column, int length) const
+{
+    if (column != 0 || !hasRow(row))
+        return {};
+    const std::string& text = (*texts())[row].str();
+    return QString::fromUtf8(text.data(), int(std::min(text.size(), std::size_t(length) * BytesPerCharacter)));
+}
+
+void EdMFStringWidget::set1Value(int row, int column, QString text)
+{
+    setSingleFieldValue(toSbString(text), row, column);
+}
+
+void EdMFStringWidget::setSingleFieldValue(const SbString& value, int row, int /*column*/)
+{
+    if (!hasRow(row))
+        return;
+    EdFieldEdits::write1(texts(), row, [&] { texts()->set1Value(row, value); });
+}
+
+SbString EdMFStringWidget::getSingleFieldValue(int row, int /*column*/) const
+{
+    return (*texts())[row];
+}
+
+void EdMFStringWidget::swapRows(int row1, int row2)
+{
+    if (!hasRow(row1) || !hasRow(row2))
+        return;
+    const SbString first = (*texts())[row1];
+    const SbString second = (*texts())[row2];
+    texts()->set1Value(row1, second);
+    texts()->set1Value(row2, first);
+}

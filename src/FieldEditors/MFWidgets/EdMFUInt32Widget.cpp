@@ -1,0 +1,6 @@
+#include "EdMFUInt32Widget.h"
+
+EdMFUInt32Widget::EdMFUInt32Widget(const char* name)
+    : EdMFIntegerWidget(name)
+{
+}

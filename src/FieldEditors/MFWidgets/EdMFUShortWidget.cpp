@@ -1,0 +1,6 @@
+#include "EdMFUShortWidget.h"
+
+EdMFUShortWidget::EdMFUShortWidget(const char* name)
+    : EdMFIntegerWidget(name)
+{
+}

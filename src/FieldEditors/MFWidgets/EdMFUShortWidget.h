@@ -1,0 +1,20 @@
+// Edits lists of unsigned 16-bit integers.
+#pragma once
+
+#include "EdMFIntegerWidget.h"
+
+#include <xsg/fields/SoMFUShort.h>
+
+struct MFUShortTraits {
+    using Field = SoMFUShort;
+    static constexpr const char* Name = "MFUShort";
+    static constexpr auto Cell = EdMFieldTable::CELL_USHORT;
+};
+
+class EdMFUShortWidget : public EdMFIntegerWidget<MFUShortTraits>
+{
+    Q_OBJECT
+
+public:
+    explicit EdMFUShortWidget(const char* name = nullptr);
+};

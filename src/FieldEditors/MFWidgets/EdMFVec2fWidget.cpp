@@ -1,0 +1,6 @@
+#include "EdMFVec2fWidget.h"
+
+EdMFVec2fWidget::EdMFVec2fWidget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

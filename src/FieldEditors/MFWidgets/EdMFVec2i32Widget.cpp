@@ -1,0 +1,6 @@
+#include "EdMFVec2i32Widget.h"
+
+EdMFVec2i32Widget::EdMFVec2i32Widget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

@@ -1,0 +1,6 @@
+#include "EdMFVec2sWidget.h"
+
+EdMFVec2sWidget::EdMFVec2sWidget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

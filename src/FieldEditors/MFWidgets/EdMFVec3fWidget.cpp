@@ -1,0 +1,6 @@
+#include "EdMFVec3fWidget.h"
+
+EdMFVec3fWidget::EdMFVec3fWidget(const char* name, int tableKind)
+    : EdMFComponentsWidget(name, tableKind)
+{
+}

@@ -1,0 +1,6 @@
+#include "EdMFVec4fWidget.h"
+
+EdMFVec4fWidget::EdMFVec4fWidget(const char* name)
+    : EdMFComponentsWidget(name)
+{
+}

@@ -1,0 +1,197 @@
+#include "EdMFieldTableItemDelegate.h"
+
+#include "EdIntSlider.h"
+#include "EdMFieldTable.h"
+#include "EdMFieldWidget.h"
+#include "EdRealSlider.h"
+#include "EdUIntSlider.h"
+#include "EdGridValidator.h"
+#include "EdText.h"
+#include "EdValidators.h"
+#include "QULongValidator.h"
+
+#include <QLineEdit>
+#include <QPainter>
+
+#include <limits>
+
+namespace
+{
+
+constexpr int TextMargin = 4;
+constexpr int AnyReal = 4; // the grid validator of all doubles
+// No cell shows more: measuring a text of megabytes for each repaint would cost what nobody sees.
+constexpr int LongestMeasured = 4096;
+
+// Keeps characters from the start while "..." and they stay narrower than the width; at least one.
+QString shortened(const QString& text, const QFontMetrics& metrics, int width)
+{
+    const QString dots = QStringLiteral("...");
+    int kept = 0;
+    while (kept < text.size() && metrics.horizontalAdvance(dots + text.left(kept + 1)) < width)
+        ++kept;
+    return text.left(std::max(kept, 1)) + dots;
+}
+
+bool hasSlider(int cellType)
+{
+    // Not for doubles, though they are numbers too; that is meant.
+    return cellType == EdMFieldTable::CELL_SHORT || cellType == EdMFieldTable::CELL_USHORT
+        || cellType == EdMFieldTable::CELL_INT32 || cellType == EdMFieldTable::CELL_UINT32
+        || cellType == EdMFieldTable::CELL_FLOAT;
+}
+
+} // namespace
+
+EdMFieldTableItemDelegate::EdMFieldTableItemDelegate(EdMFieldWidget* owner, QObject* parent)
+    : QItemDelegate(parent)
+    , m_owner(owner)
+{
+}
+
+void EdMFieldTableItemDelegate::setIntEditorRange(int minimum, int maximum)
+{
+    m_intMinimum = minimum;
+    m_intMaximum = maximum;
+}
+
+void EdMFieldTableItemDelegate::setDoubleEditorRange(double minimum, double maximum)
+{
+    m_doubleMinimum = minimum;
+    m_doubleMaximum = maximum;
+}
+
+void EdMFieldTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index) const
+{
+    painter->save();
+    const bool selected = option.state & QStyle::State_Selected;
+    if (selected)
+        painter->fillRect(option.rect, option.palette.highlight());
+    QString text = m_owner->getCellText(index.row(), componentOf(index.column()), LongestMeasured);
+    const QFontMetrics metrics = painter->fontMetrics();
+    const int width = option.rect.width() - TextMargin;
+    if (metrics.horizontalAdvance(text) > width)
+        text = shortened(text, metrics, width);
+    const bool enabled = option.state & QStyle::State_Enabled;
+    painter->setPen(option.palette.color(enabled ? QPalette::Normal : QPalette::Disabled,
+                                         selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(option.rect, Qt::AlignCenter, text);
+    painter->restore();
+}
+
+QWidget* EdMFieldTableItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                                 const QModelIndex& index) const
+{
+    if (!m_owner->hasRow(index.row()))
+        return nullptr;
+    const QString text = m_owner->getFieldValue(index.row(), componentOf(index.column()));
+    const bool single = index.column() == 0 && index.model()->columnCount() == 1;
+    QWidget* editor = nullptr;
+    if (single && hasSlider(m_cellType))
+        editor = createSlider(parent, index.row(), text);
+    else
+        editor = createLineEdit(parent, text);
+    editor->setFocusPolicy(Qt::WheelFocus);
+    return editor;
+}
+
+QLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QString& text) const
+{
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(QStringLiteral("qt_lineeditor"));
+    edit->setFrame(false);
+    edit->setMaxLength(std::numeric_limits<int>::max());
+    edit->setText(text);
+    setValidator(edit);
+    return edit;
+}
+
+EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, const QString& text) const
+{
+    if (m_cellType == EdMFieldTable::CELL_FLOAT) {
+        // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is applied
+        // from it reaches element 0; that is meant.
+        auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
+        slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
+        slider->setRealValue(double(toFloatOr0(text)));
+        return slider;
+    }
+    const bool isShort = m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_USHORT;
+    if (m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_INT32) {
+        auto* slider = new EdIntSlider(isShort ? Int16Slider : Int32Slider, MultiValueParent, m_owner, parent, row, 0);
+        slider->setValidLimits(m_intMinimum, m_intMaximum, m_bounded);
+        slider->setValue(text);
+        return slider;
+    }
+    auto* slider = new EdUIntSlider(isShort ? UInt16Slider : UInt32Slider, MultiValueParent, m_owner, parent, row, 0);
+    slider->setValidLimits(unsigned(m_intMinimum), unsigned(m_intMaximum), m_bounded);
+    slider->setValue(text);
+    return slider;
+}
+
+void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString text = m_owner->getFieldValue(index.row(), componentOf(index.column()));
+    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        edit->setText(text);
+    else if (auto* real = qobject_cast<EdRealSlider*>(editor))
+        real->setRealValue(double(toFloatOr0(text)));
+    else if (auto* slider = qobject_cast<EdSlider*>(editor))
+        slider->setValue(text);
+}
+
+void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                             const QModelIndex& index) const
+{
+    // The view keeps books on the editor being committed; only a widget that somebody else put there goes.
+    auto* table = static_cast<EdMFieldTable*>(parent());
+    if (table->cellWidget(index.row(), index.column()) != editor)
+        table->removeCellWidget(index.row(), index.column());
+    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        commit(edit, model, index);
+    else
+        QItemDelegate::setModelData(editor, model, index);
+}
+
+void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (!edit->isModified() || !m_owner->hasRow(index.row()))
+        return;
+    QString text = edit->text();
+    int position = 0;
+    if (edit->validator() && edit->validator()->validate(text, position) != QValidator::Acceptable)
+        return;
+    edit->setModified(false);
+    m_owner->set1Value(index.row(), componentOf(index.column()), text);
+    model->setData(index, text, Qt::DisplayRole);
+}
+
+void EdMFieldTableItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                                     const QModelIndex& /*index*/) const
+{
+    editor->setGeometry(option.rect);
+}
+
+void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
+{
+    switch (m_cellType) {
+    case EdMFieldTable::CELL_SHORT:
+        // -32767 and not -32768; that is meant.
+        edit->setValidator(new EdIntValidator(-32767, 32767, edit));
+        break;
+    case EdMFieldTable::CELL_USHORT: edit->setValidator(new EdIntValidator(0, 65535, edit)); break;
+    case EdMFieldTable::CELL_INT:
+        edit->setValidator(new EdIntValidator(edit));
+        break;
+    case EdMFieldTable::CELL_UINT: edit->setValidator(new QUIntValidator(edit)); break;
+    case EdMFieldTable::CELL_INT32:
+        // Bottom above top, so nothing is ever acceptable; that is meant.
+        edit->setValidator(new EdIntValidator(1, -1, edit));
+        break;
+    case EdMFieldTable::CELL_UINT32: edit->setValidator(new QULongValidator(edit)); break;
+    case EdMFieldTable::CELL_FLOAT: edit->setValidator(EdRealValidator::forFloat(edit)); break;
+    case EdMFieldTable::CELL_DOUBLE: setGridValidator(*edit, AnyReal); break;
+    default: break;
+    }
+}

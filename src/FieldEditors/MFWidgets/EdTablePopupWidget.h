@@ -1,0 +1,46 @@
+// A list whose elements are too large for a table row: the table only lists them, and a popup edits the element that
+// the access box names, as a grid of numbers.
+#pragma once
+
+#include "EdMFieldWidget.h"
+
+class EdTablePopupLineEdit;
+class QFrame;
+
+class EdTablePopupWidget : public EdMFieldWidget
+{
+    Q_OBJECT
+
+public:
+    EdTablePopupWidget(int rows, int columns, const char* name);
+
+    void load() override;
+    void refresh() override;
+    // The text of number `index` of an element.
+    virtual QString getPopupValue(int row, int index);
+
+    void setValidator(int kind);
+    // Row -1 is the row to edit. Every change of a text writes the element and records a command; that is meant.
+    void updatePopupLines(int row);
+    void managePopFramePos();
+    void revertCursorPosition();
+
+    // The table cannot be clicked, so the access box names the row.
+    int rowToEdit() const;
+
+public slots:
+    void setEditFrame();
+
+protected:
+    const QVector<EdTablePopupLineEdit*>& lines() const { return m_lines; }
+
+private:
+    void buildPopup();
+
+    int m_rows;
+    int m_columns;
+    QPushButton* m_editButton = nullptr;
+    QFrame* m_popup = nullptr;
+    QGridLayout* m_popupFrameLayout = nullptr;
+    QVector<EdTablePopupLineEdit*> m_lines;
+};

@@ -1,0 +1,10 @@
+#include "QULongValidator.h"
+
+#include <limits>
+
+QULongValidator::QULongValidator(QObject* parent)
+    : UnsignedValidator(parent, std::numeric_limits<quint64>::max())
+{
+}
+
+QULongValidator::~QULongValidator() = default;

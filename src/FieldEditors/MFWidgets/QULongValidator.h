@@ -1,0 +1,13 @@
+// The validator of unsigned 64-bit ranges; see UnsignedValidator for what it still refuses.
+#pragma once
+
+#include "QUIntValidator.h"
+
+class QULongValidator : public UnsignedValidator<quint64>
+{
+    Q_OBJECT
+
+public:
+    explicit QULongValidator(QObject* parent = nullptr);
+    ~QULongValidator() override;
+};
