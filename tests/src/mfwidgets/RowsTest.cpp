@@ -90,7 +90,7 @@ TEST(Rows, ABlockSelectedWithShiftGoesInOneCommandAndASecondBlockStays)
     f.table().setCurrentCell(2, 0);
     QTest::keyPress(&f.table(), Qt::Key_Shift);
     f.table().setRangeSelected(QTableWidgetSelectionRange(2, 0, 4, 0), true);
-    f.table().setRangeSelected(QTableWidgetSelectionRange(6, 0, 7, 0), true);
+    f.table().setRangeSelected(QTableWidgetSelectionRange(0, 0, 0, 0), true);
     QTest::keyClick(&f.table(), Qt::Key_Delete, Qt::ShiftModifier);
     TestHost::pump();
     EXPECT_EQ(f.text(), "[ 0, 1, 5, 6, 7, 8 ]");
