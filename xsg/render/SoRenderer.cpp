@@ -72,6 +72,7 @@ private:
     void prepareFrame(int width, int height);
     void clearPicture();
     void updateList(SoNode* root, const SoCamera* camera);
+    SbVec3f eyeOf(const SoCamera& camera) const;
     EyeView lookThrough(const SoCamera* camera, float aspect);
     void drawOpaque(const xsg::Frustum& frustum);
     void drawTransparent(const xsg::Frustum& frustum, const EyeView& eye);
@@ -95,6 +96,7 @@ private:
     int m_currentSurroundings = -1;
     SoRef<SoPerspectiveCamera> m_ownCamera;
     std::vector<SoLightSource> m_headlights;
+    SbVec3f m_sceneEye; // of the scene's own camera
     int m_width = 0;
     int m_height = 0;
 };
@@ -174,16 +176,19 @@ void SoRenderer::Impl::clearPicture()
 void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
 {
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
-    // distance: a second walk then sees it where it is.
+    // distance: a second walk then sees it where it is. The camera of the last walk may be gone by now.
     for (int walk = 0; walk < 2; ++walk) {
-        const SoCamera* known = camera ? camera : list.getCamera();
-        xsg::RenderList::View view{camera, highlight, {}};
-        if (known)
-            view.eye = list.getCameraMatrix().multPoint(known->position.getValue());
-        if (!list.update(root, view, m_geometry, m_textures))
+        const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
+        if (!list.update(root, {camera, highlight, eye}, m_geometry, m_textures))
             return;
+        m_sceneEye = list.getCamera() ? eyeOf(*list.getCamera()) : SbVec3f();
         statistics.nodes += list.getNumVisited();
     }
+}
+
+SbVec3f SoRenderer::Impl::eyeOf(const SoCamera& camera) const
+{
+    return list.getCameraMatrix().multPoint(camera.position.getValue());
 }
 
 EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)

@@ -277,6 +277,21 @@ TEST_F(Renderer, TheFirstCameraOfTheSceneIsTakenWithTheTransformBeforeIt)
     EXPECT_PIXEL(center(pixels), (Pixel{255, 0, 0}));
 }
 
+// A renderer that outlived a scene asked that scene's camera once more.
+TEST_F(Renderer, ACameraThatIsGoneIsForgotten)
+{
+    auto* away = add<SoPerspectiveCamera>();
+    away->position.setValue(500, 0, 0);
+    addMaterial({1, 0, 0});
+    add<SoSphere>();
+    SoPixels pixels;
+    ASSERT_TRUE(renderer().render(root.get(), nullptr, 32, 32, pixels));
+    EXPECT_PIXEL(center(pixels), Background);
+    root->removeChild(0);
+    ASSERT_TRUE(renderer().render(root.get(), nullptr, 32, 32, pixels));
+    EXPECT_GT(center(pixels)[0], 200);
+}
+
 TEST_F(Renderer, WithoutACameraEverythingIsInView)
 {
     add<SoTransform>()->translation.setValue(1000, 0, 0);
