@@ -22,12 +22,30 @@
 #include "EdMFVec2sWidget.h"
 #include "EdMFVec3fWidget.h"
 #include "EdMFVec4fWidget.h"
+#include "EdSFBitMaskWidget.h"
+#include "EdSFBoolWidget.h"
+#include "EdSFBox3sWidget.h"
+#include "EdSFColorWidget.h"
 #include "EdSFDoubleWidget.h"
+#include "EdSFEnumWidget.h"
+#include "EdSFFilePathStringWidget.h"
 #include "EdSFFloatWidget.h"
+#include "EdSFImageWidget.h"
 #include "EdSFInt32Widget.h"
+#include "EdSFLineWidget.h"
+#include "EdSFMatrixWidget.h"
+#include "EdSFNameWidget.h"
+#include "EdSFPlaneWidget.h"
+#include "EdSFRotationWidget.h"
 #include "EdSFShortWidget.h"
+#include "EdSFStringWidget.h"
 #include "EdSFUInt32Widget.h"
 #include "EdSFUShortWidget.h"
+#include "EdSFVec2fWidget.h"
+#include "EdSFVec2i32Widget.h"
+#include "EdSFVec2sWidget.h"
+#include "EdSFVec3fWidget.h"
+#include "EdSFVec4fWidget.h"
 #include "SpxFieldEditorDockWin.h"
 #include "SpxNodeEditor.h"
 #include "SpxPerfCounterExtension.h"
@@ -66,12 +84,30 @@ private:
     EdMFVec4fWidget m_mfVec4f;
 
     // Editors of single-value fields; Enum before Double, FilePathString before Float.
+    EdSFBitMaskWidget m_sfBitMask;
+    EdSFBoolWidget m_sfBool;
+    EdSFBox3sWidget m_sfBox3s;
+    EdSFColorWidget m_sfColor;
+    EdSFEnumWidget m_sfEnum;
     EdSFDoubleWidget m_sfDouble;
+    EdSFFilePathStringWidget m_sfFilePathString;
     EdSFFloatWidget m_sfFloat;
+    EdSFImageWidget m_sfImage;
     EdSFInt32Widget m_sfInt32;
+    EdSFLineWidget m_sfLine;
+    EdSFMatrixWidget m_sfMatrix;
+    EdSFNameWidget m_sfName;
+    EdSFPlaneWidget m_sfPlane;
+    EdSFRotationWidget m_sfRotation;
     EdSFShortWidget m_sfShort;
+    EdSFStringWidget m_sfString;
     EdSFUInt32Widget m_sfUInt32;
     EdSFUShortWidget m_sfUShort;
+    EdSFVec2fWidget m_sfVec2f;
+    EdSFVec2i32Widget m_sfVec2i32;
+    EdSFVec2sWidget m_sfVec2s;
+    EdSFVec3fWidget m_sfVec3f;
+    EdSFVec4fWidget m_sfVec4f;
 
     // The docks that show editors.
     SpxFieldEditorDockWin m_fieldEditorDock;

@@ -4,9 +4,12 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <limits>
+
 EdLineEdit::EdLineEdit(QWidget* parent)
     : QLineEdit(parent)
 {
+    setMaxLength(std::numeric_limits<int>::max());
 }
 
 void EdLineEdit::showText(const QString& text)
@@ -51,16 +54,21 @@ void EdLineEdit::takeTypingBack()
 
 void EdLineEdit::focusOutEvent(QFocusEvent* event)
 {
+    if (isKeptByPerson(event) && !isModified()) {
+        const QSignalBlocker quiet(this);
+        QLineEdit::focusOutEvent(event);
+        return;
+    }
     bool finished = false;
     const auto watch = connect(this, &QLineEdit::editingFinished, this, [&finished] { finished = true; });
     QLineEdit::focusOutEvent(event);
     disconnect(watch);
-    if (m_finishingAlways && !finished && isLeftByPerson(event))
+    if (m_finishingAlways && !finished && !isKeptByPerson(event) && hasAcceptableInput())
         emit editingFinished();
 }
 
-bool EdLineEdit::isLeftByPerson(const QFocusEvent* event) const
+// Another window or a popup takes the focus for a while; it will come back.
+bool EdLineEdit::isKeptByPerson(const QFocusEvent* event) const
 {
-    return event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
-           hasAcceptableInput();
+    return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
 }

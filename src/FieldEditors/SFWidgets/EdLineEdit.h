@@ -36,7 +36,7 @@ protected:
 
 private:
     void takeTypingBack();
-    bool isLeftByPerson(const QFocusEvent* event) const;
+    bool isKeptByPerson(const QFocusEvent* event) const;
 
     QString m_shownText;
     bool m_finishingAlways = false;

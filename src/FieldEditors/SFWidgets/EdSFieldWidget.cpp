@@ -204,8 +204,14 @@ void EdSFieldWidget::setSpacers(int width, int height)
     m_editionAreaLayout->invalidate();
 }
 
+SoSField* EdSFieldWidget::getSField() const
+{
+    return getFieldAs<SoSField>();
+}
+
 void EdSFieldWidget::setField(SoField* field)
 {
+    ++m_editingRound;
     if (m_slider)
         m_slider->forget();
     const QList<EdLineEdit*> inputs = getWidgetContainer()->findChildren<EdLineEdit*>();

@@ -65,12 +65,14 @@ protected:
     // for the class's.
     void setFieldType(SoType type, const char* name);
 
-    SoSField* getSField() const { return getFieldAs<SoSField>(); }
+    SoSField* getSField() const;
     // Null without a slider.
     EdSlider* slider() const { return m_slider; }
     QFrame* editionFrame() const { return m_editionFrame; }
     QBoxLayout* editLayout() const { return m_editLayout; }
     void setSpacers(int width, int height);
+    // Another number for each field that came: a dialog compares it when it returns.
+    int editingRound() const { return m_editingRound; }
 
 private:
     void makeSlider(SFFrameType frameType);
@@ -90,4 +92,5 @@ private:
     QHBoxLayout* m_editionAreaLayout = nullptr;
     QSpacerItem* m_labelSpacer = nullptr;
     QSpacerItem* m_editionSpacer = nullptr;
+    int m_editingRound = 0;
 };

@@ -1,0 +1,21 @@
+#include "EdFittedFont.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QWidget>
+
+void setFixedHeightFitted(QWidget* widget, int height, int frame)
+{
+    widget->setFixedHeight(height);
+    fitFont(widget, height - frame);
+}
+
+void fitFont(QWidget* widget, int height)
+{
+    constexpr int Smallest = 8;
+    QFont font = widget->font();
+    for (int size = QFontInfo(font).pixelSize(); size >= Smallest && QFontMetrics(font).height() > height;
+         --size)
+        font.setPixelSize(size);
+    widget->setFont(font);
+}

@@ -1,0 +1,52 @@
+// Two integers in spin boxes; every step is applied at once.
+#pragma once
+
+#include "EdSFColumnsWidget.h"
+
+#include <array>
+
+class QSpinBox;
+
+class EdSF2iSpinBox : public EdSFColumnsWidget
+{
+    Q_OBJECT
+
+public:
+    void load() override;
+    void refresh() override;
+    void applyChanges() override;
+
+protected:
+    using Pair = std::array<int, 2>;
+
+    EdSF2iSpinBox(const char* name, int limits);
+
+    // kind 0: 16 bits; 1 and 2: 32 bits. Others change nothing.
+    void setLimits(int kind);
+    // The field's numbers; false without a field of the right type.
+    virtual bool read(Pair& numbers) const = 0;
+    virtual void write(const Pair& numbers) = 0;
+
+private:
+    QWidget* buildInput() override;
+
+    int m_limits;
+    QList<QSpinBox*> m_boxes;
+};
+
+// Field is the class of the edited field.
+template <class Field>
+class EdSF2iSpinBoxOf : public EdSF2iSpinBox
+{
+protected:
+    using EdSF2iSpinBox::EdSF2iSpinBox;
+
+    bool read(Pair& numbers) const override
+    {
+        const auto* field = getFieldAs<Field>();
+        if (field)
+            numbers = {field->getValue()[0], field->getValue()[1]};
+        return field;
+    }
+    void write(const Pair& numbers) override { getFieldAs<Field>()->setValue(numbers[0], numbers[1]); }
+};

@@ -1,0 +1,44 @@
+#include "EdSFBoolWidget.h"
+
+#include "EdFieldEdits.h"
+#include "FieldEditorSettings.h"
+
+#include <xsg/fields/SoSFBool.h>
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QFrame>
+
+EdSFBoolWidget::EdSFBoolWidget(const char* name)
+    : EdSFieldWidget(name)
+{
+    setFieldType(SoSFBool::getClassTypeId(), name);
+}
+
+void EdSFBoolWidget::load()
+{
+    EdSFieldWidget::load();
+    m_box = new QCheckBox(editionFrame());
+    m_box->setObjectName(QStringLiteral("m_box"));
+    m_box->setAccessibleName(tr("Value"));
+    m_box->setFixedHeight(xsgsettings_fieldEditor(QStringLiteral("SFComponentHeight")));
+    m_box->setFixedWidth(xsgsettings_fieldEditor(QStringLiteral("SFBoolWidth")));
+    editLayout()->addWidget(m_box);
+    editLayout()->addStretch(1);
+    connect(m_box, &QCheckBox::clicked, this, &EdSFBoolWidget::setCommandValue);
+}
+
+void EdSFBoolWidget::refresh()
+{
+    const auto* field = getFieldAs<SoSFBool>();
+    if (!field)
+        return;
+    m_box->setChecked(field->getValue());
+    EdSFieldWidget::refresh();
+}
+
+void EdSFBoolWidget::applyChanges()
+{
+    if (auto* field = getFieldAs<SoSFBool>())
+        EdFieldEdits::write(field, [&] { field->setValue(m_box->isChecked()); });
+}

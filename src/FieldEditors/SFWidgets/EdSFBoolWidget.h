@@ -1,0 +1,21 @@
+// Edits a truth value with a check box.
+#pragma once
+
+#include "EdSFieldWidget.h"
+
+class QCheckBox;
+
+class EdSFBoolWidget : public EdSFieldWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFBoolWidget(const char* name = nullptr);
+
+    void load() override;
+    void refresh() override;
+    void applyChanges() override;
+
+private:
+    QCheckBox* m_box = nullptr;
+};

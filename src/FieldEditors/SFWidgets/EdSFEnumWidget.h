@@ -1,0 +1,23 @@
+// Edits one of a set of named values with a combo box.
+#pragma once
+
+#include "EdSFieldWidget.h"
+
+class QComboBox;
+
+class EdSFEnumWidget : public EdSFieldWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFEnumWidget(const char* name = nullptr);
+
+    void load() override;
+    void setField(SoField* field) override;
+    // A value without a name shows no selection.
+    void refresh() override;
+    void applyChanges() override;
+
+private:
+    QComboBox* m_comboBox = nullptr;
+};

@@ -1,0 +1,23 @@
+// Edits the path of a file; a button opens the file dialog.
+#pragma once
+
+#include "EdSFTextWidget.h"
+
+#include <xsg/fields/SoSFFilePathString.h>
+
+class EdSFFilePathStringWidget : public EdSFTextWidget<SoSFFilePathString>
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFFilePathStringWidget(const char* name = nullptr);
+
+    void load() override;
+
+public slots:
+    bool edited() override;
+
+protected slots:
+    // Starts in the folder of the present value.
+    void openFileDialog();
+};

@@ -1,0 +1,44 @@
+#include "EdSFFloatsWidget.h"
+
+#include "EdFieldEdits.h"
+#include "EdText.h"
+#include "EdValidators.h"
+
+#include <QFrame>
+
+QWidget* EdSFFloatsWidget::buildInput()
+{
+    auto* input = new EdLineEdit(editionFrame());
+    input->setValidator(EdRealValidator::forFloat(input));
+    input->setMinimumWidth(40);
+    connect(input, &QLineEdit::editingFinished, this, &EdSFFloatsWidget::setFocusLeaveEvent);
+    connect(input, &QLineEdit::returnPressed, this, &EdSFFloatsWidget::setCommandValue);
+    m_inputs.add(input);
+    return input;
+}
+
+void EdSFFloatsWidget::refresh()
+{
+    const Floats numbers = read();
+    if (numbers.empty())
+        return;
+    QStringList texts;
+    for (float number : numbers)
+        texts << QString::number(double(number));
+    m_inputs.show(texts);
+    EdSFColumnsWidget::refresh();
+}
+
+void EdSFFloatsWidget::applyChanges()
+{
+    Floats numbers = read();
+    if (numbers.empty() || !m_inputs.isChanged())
+        return;
+    m_inputs.read(numbers, toFloatOr0);
+    EdFieldEdits::write(getSField(), [&] { write(numbers); });
+}
+
+bool EdSFFloatsWidget::edited()
+{
+    return m_inputs.isEdited();
+}

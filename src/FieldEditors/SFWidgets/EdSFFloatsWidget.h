@@ -1,0 +1,57 @@
+// What the editors of several floats share: a line edit for each. A further one says only which numbers its
+// field has:
+//
+//     class EdSFVec3fWidget : public EdSFVectorOf<EdSFFloatsWidget, SoSFVec3f> { ... };
+#pragma once
+
+#include "EdInputs.h"
+#include "EdSFColumnsWidget.h"
+
+#include <vector>
+
+class EdSFFloatsWidget : public EdSFColumnsWidget
+{
+    Q_OBJECT
+
+public:
+    void refresh() override;
+    void applyChanges() override;
+    bool edited() override;
+
+protected:
+    using Floats = std::vector<float>;
+    using EdSFColumnsWidget::EdSFColumnsWidget;
+
+    // The field's numbers, in the order of the captions; empty without a field of the right type.
+    virtual Floats read() const = 0;
+    virtual void write(const Floats& numbers) = 0;
+    // Moves every cursor to the beginning, so that long numbers show it.
+    void revertCursorPosition() { m_inputs.revertCursorPosition(); }
+
+private:
+    QWidget* buildInput() override;
+
+    EdInputs m_inputs;
+};
+
+// For a field whose value is a vector of floats.
+template <class Base, class Field>
+class EdSFVectorOf : public Base
+{
+protected:
+    using Base::Base;
+    using Vector = typename Field::Value;
+
+    std::vector<float> read() const override
+    {
+        const auto* field = this->template getFieldAs<Field>();
+        if (!field)
+            return {};
+        const float* numbers = field->getValue().getValue();
+        return {numbers, numbers + Vector::Size};
+    }
+    void write(const std::vector<float>& numbers) override
+    {
+        this->template getFieldAs<Field>()->setValue(Vector(numbers.data()));
+    }
+};

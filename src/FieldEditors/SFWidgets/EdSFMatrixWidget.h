@@ -1,0 +1,18 @@
+// Edits a matrix, shown transposed: the translation, its last row, stands in the last column.
+#pragma once
+
+#include "EdPopupWidget.h"
+
+class EdSFMatrixWidget : public EdPopupWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFMatrixWidget(const char* name = nullptr);
+
+    void load() override;
+
+protected:
+    QStringList cellTexts() const override;
+    void writeCells(const EdInputs& cells) override;
+};

@@ -1,0 +1,7 @@
+#include "EdSFNameWidget.h"
+
+EdSFNameWidget::EdSFNameWidget(const char* name)
+    : EdSFTextWidget(name)
+{
+    setFieldType(SoSFName::getClassTypeId(), name);
+}

@@ -1,0 +1,7 @@
+#include "EdSFStringWidget.h"
+
+EdSFStringWidget::EdSFStringWidget(const char* name)
+    : EdSFTextWidget(name)
+{
+    setFieldType(SoSFString::getClassTypeId(), name);
+}

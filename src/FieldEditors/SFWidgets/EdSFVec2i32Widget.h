@@ -1,0 +1,14 @@
+// Edits a vector of two integers of 32 bits.
+#pragma once
+
+#include "EdSF2iSpinBox.h"
+
+#include <xsg/fields/SoSFVec2i32.h>
+
+class EdSFVec2i32Widget : public EdSF2iSpinBoxOf<SoSFVec2i32>
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFVec2i32Widget(const char* name = nullptr);
+};

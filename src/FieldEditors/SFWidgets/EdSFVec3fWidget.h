@@ -1,0 +1,14 @@
+// Edits a vector of three floats.
+#pragma once
+
+#include "EdSFFloatsWidget.h"
+
+#include <xsg/fields/SoSFVec3f.h>
+
+class EdSFVec3fWidget : public EdSFVectorOf<EdSFFloatsWidget, SoSFVec3f>
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFVec3fWidget(const char* name = nullptr);
+};

@@ -1,0 +1,14 @@
+// Edits a vector of four floats.
+#pragma once
+
+#include "EdSF4fBox.h"
+
+#include <xsg/fields/SoSFVec4f.h>
+
+class EdSFVec4fWidget : public EdSFVectorOf<EdSF4fBox, SoSFVec4f>
+{
+    Q_OBJECT
+
+public:
+    explicit EdSFVec4fWidget(const char* name = nullptr);
+};
