@@ -1,6 +1,7 @@
 #include "HostApplication.h"
 
 #include "PluginFolders.h"
+#include "UserHome.h"
 #include "ViewMenu.h"
 
 #include <QApplication>
@@ -63,6 +64,9 @@ void HostApplication::start(const CommandLine& line)
     m_messages.setAttended(!line.isUnattended());
     if (line.counters)
         qputenv("XSG_PERFCOUNTER_ENABLE", "1");
+    const QString homeTrouble = UserHome::provide();
+    if (!homeTrouble.isEmpty())
+        m_messages.error(homeTrouble);
     if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
         m_messages.error(tr("There is no profile named \"%1\".").arg(line.profile));
     loadStandardPlugins();

@@ -1,0 +1,228 @@
+// The dock with its file: what is read at start, what is saved, and what the boxes say.
+#include "CounterFixture.h"
+#include "CounterProfileFile.h"
+#include "SoPerfCounterPreSelectedList.h"
+#include "SpxPerfCounterExtension.h"
+
+#include <QColorDialog>
+#include <QDomDocument>
+#include <QLabel>
+
+using CounterDock = CounterHome;
+
+TEST_F(CounterDock, ReadsProfilesCountersAndTheViewOfTheFile)
+{
+    writeExample();
+    open();
+    EXPECT_TRUE(boxes.take().isEmpty());
+    EXPECT_EQ(profileNames(), (QStringList{"first", "second"}));
+    EXPECT_EQ(dock->m_listConfig->currentText(), "second");
+    EXPECT_EQ(dock->getCurrentProfile(), 1);
+    EXPECT_EQ(offered(), (QStringList{"testA", "testB", "testC"})) << "sorted";
+    EXPECT_EQ(viewed(), QStringList{"testB"});
+    const SoPerfCounter* custom = SoPerfCounterManager::getInstance()->getCounter("perFrame");
+    ASSERT_TRUE(custom);
+    EXPECT_TRUE(custom->isCustom());
+    EXPECT_EQ(custom->getLevel(), SoPerfCounter::HIGH);
+    EXPECT_EQ(custom->getSecondParent(), SbName("testB"));
+    EXPECT_FALSE(isRegistered("odd")) << "a type that is neither A nor S is skipped";
+    EXPECT_EQ(a->getDescription(), SbString("for tests")) << "a taken name is left alone";
+}
+
+TEST_F(CounterDock, WithoutAFileItSaysSoTwiceAndCannotSave)
+{
+    open();
+    const QStringList said = boxes.take();
+    ASSERT_EQ(said.size(), 2);
+    EXPECT_EQ(said[0], QStringLiteral("DOM Bookmarks: Cannot read file %1:\nNo such file or directory.").arg(path()));
+    EXPECT_EQ(said[1], "Performance counter profile: Parse error at line 1, column 1:\nunexpected end of file");
+    EXPECT_EQ(dock->m_listConfig->count(), 0);
+    EXPECT_EQ(dock->getCurrentProfile(), -1);
+    EXPECT_TRUE(offered().isEmpty());
+    EXPECT_FALSE(dock->m_propertiesGroupBox->isEnabled());
+    EXPECT_EQ(dock->getFilepath(), "");
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    EXPECT_EQ(boxes.take(),
+              QStringList{"Performance counter profile: Cannot write file :\nNo file name specified."});
+}
+
+TEST_F(CounterDock, WithoutAHomeThePathStartsAtTheRoot)
+{
+    qunsetenv("XSGHOME");
+    EXPECT_EQ(counterProfileFile::defaultPath(), "/data/Scopix/PerfCounter.xml");
+}
+
+TEST_F(CounterDock, AnotherRootIsRefusedAndChangesNothing)
+{
+    writeFile("<somethingElse><profiles><profile name='x'/></profiles></somethingElse>");
+    open();
+    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: The file does not contain information about "
+                                        "performance counters."});
+    EXPECT_TRUE(profileNames().isEmpty());
+}
+
+TEST_F(CounterDock, AnUnknownViewSelectsTheFirstProfile)
+{
+    writeFile("<perfCounterModule><profiles><profile name='one'><listcounters><pc>testA</pc></listcounters></profile>"
+              "<profile name='two'/></profiles><profileview name='none'/></perfCounterModule>");
+    open();
+    EXPECT_EQ(dock->getCurrentProfile(), 0);
+    EXPECT_EQ(offered(), QStringList{"testA"});
+}
+
+TEST_F(CounterDock, ALevelThatIsNoNumberIsLow)
+{
+    writeFile("<perfCounterModule><customPC><counter name='vague' type='S'><level>abc</level></counter></customPC>"
+              "</perfCounterModule>");
+    open();
+    ASSERT_TRUE(isRegistered("vague"));
+    EXPECT_EQ(SoPerfCounterManager::getInstance()->getCounter("vague")->getLevel(), SoPerfCounter::LOW);
+    EXPECT_EQ(SoPerfCounterManager::getInstance()->getCounter("vague")->getTypeCode(), SbString("S"));
+}
+
+TEST_F(CounterDock, MissingSectionsAndUnknownElementsDoNotDisturb)
+{
+    writeFile("<perfCounterModule strange='1'><unknown/><profiles><profile name='p' more='2'><other/></profile>"
+              "</profiles></perfCounterModule>");
+    open();
+    EXPECT_TRUE(boxes.take().isEmpty());
+    EXPECT_EQ(profileNames(), QStringList{"p"});
+    dock->m_viewer->doubleClickEvent("testA");
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    EXPECT_TRUE(boxes.take().isEmpty());
+    open();
+    EXPECT_EQ(viewed(), QStringList{"testA"});
+}
+
+TEST_F(CounterDock, AnEntityBombIsRefused)
+{
+    QByteArray bomb = "<!DOCTYPE a [<!ENTITY e0 \"0123456789\">";
+    for (int i = 1; i < 12; ++i) {
+        bomb += "<!ENTITY e" + QByteArray::number(i) + " \"";
+        for (int k = 0; k < 10; ++k)
+            bomb += "&e" + QByteArray::number(i - 1) + ";";
+        bomb += "\">";
+    }
+    writeFile(bomb + "]><perfCounterModule><customPC>&e11;</customPC></perfCounterModule>");
+    open();
+    const QStringList said = boxes.take();
+    EXPECT_TRUE(profileNames().isEmpty());
+    EXPECT_LE(said.size(), 1);
+}
+
+TEST_F(CounterDock, SavingTheViewKeepsTheRestOfTheFile)
+{
+    writeExample();
+    open();
+    dock->m_viewer->doubleClickEvent("testC");
+    EXPECT_EQ(viewed(), (QStringList{"testB", "testC"}));
+    dock->m_listConfig->setCurrentIndex(0);
+    dock->m_listConfig->setCurrentIndex(1);
+    EXPECT_EQ(viewed(), (QStringList{"testB", "testC"})) << "the profile remembers its view";
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    QDomDocument document;
+    ASSERT_TRUE(document.setContent(readFile(path())));
+    EXPECT_EQ(document.documentElement().firstChildElement("profileview").attribute("name"), "second");
+    EXPECT_EQ(document.documentElement().firstChildElement("customPC").elementsByTagName("counter").size(), 3);
+    open();
+    EXPECT_EQ(viewed(), (QStringList{"testB", "testC"}));
+    EXPECT_TRUE(boxes.take().isEmpty());
+}
+
+TEST_F(CounterDock, ADragCarriesEachNameWithItsSeparator)
+{
+    writeExample();
+    open();
+    for (const int row : {2, 0, 1})
+        dock->m_preSelectedListView->item(row)->setSelected(true);
+    EXPECT_EQ(dock->m_preSelectedListView->dragText(), "testC##testA##testB##");
+}
+
+TEST_F(CounterDock, ADoubleClickInTheListShowsTheCounter)
+{
+    writeExample();
+    open();
+    dock->m_preSelectedListView->setCurrentRow(0);
+    emit dock->m_preSelectedListView->doubleClicked({});
+    EXPECT_EQ(viewed(), (QStringList{"testB", "testA"}));
+    EXPECT_EQ(*dock->getProfiles()[1]->getView(), (QStringList{"testB", "testA"}));
+}
+
+TEST_F(CounterDock, ExactlyOneLegendRowEnablesTheProperties)
+{
+    writeExample();
+    open();
+    dock->m_viewer->doubleClickEvent("testA");
+    QTableWidget* legend = dock->m_viewer->m_legend;
+    legend->selectRow(0);
+    EXPECT_TRUE(dock->m_propertiesGroupBox->isEnabled());
+    const QColor color = dock->m_viewer->findViewed("testB")->getColor();
+    EXPECT_EQ(dock->m_colorButton->styleSheet(), QStringLiteral("background-color: rgb(%1,%2,%3);")
+                                                     .arg(color.red())
+                                                     .arg(color.green())
+                                                     .arg(color.blue()));
+    EXPECT_EQ(dock->m_scaleEdit->text(), "1");
+    legend->selectAll();
+    EXPECT_FALSE(dock->m_propertiesGroupBox->isEnabled());
+}
+
+TEST_F(CounterDock, AnotherColourReachesTheCurveAndTheButton)
+{
+    writeExample();
+    open();
+    dock->m_viewer->m_legend->selectRow(0);
+    QTimer::singleShot(0, qApp, [] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        dialog->setCurrentColor(QColor(1, 2, 3));
+        dialog->accept();
+    });
+    QTest::mouseClick(dock->m_colorButton, Qt::LeftButton);
+    EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), QColor(1, 2, 3));
+    EXPECT_EQ(dock->m_colorButton->styleSheet(), "background-color: rgb(1,2,3);");
+    EXPECT_EQ(dock->m_viewer->m_legend->selectedItems().size(), 5) << "the row stays selected";
+}
+
+TEST(CounterExtension, WithoutTheSwitchItTellsHowToSetIt)
+{
+    for (const char* value : {"", "0"}) {
+        qputenv("XSG_PERFCOUNTER_ENABLE", value);
+        TestHost host;
+        SpxPerfCounterExtension extension;
+        host.start(extension);
+        auto* dock = host.window().findChild<QDockWidget*>();
+        ASSERT_TRUE(dock);
+        EXPECT_EQ(dock->windowTitle(), "Performance Counter");
+        EXPECT_GE(dock->minimumWidth(), 213) << "the title may want more";
+        EXPECT_GE(dock->minimumHeight(), 114);
+        EXPECT_EQ(dock->widget()->objectName(), "dockWidgetContents");
+        EXPECT_EQ(dock->findChild<QLabel*>()->text(),
+                  "To enable the performance counter extension, you need set the XSG_PERFCOUNTER_ENABLE environment "
+                  "variable to 1 and restart the application.");
+        EXPECT_EQ(host.takeLog(), (TestHost::Log{"addDockWidget \"Performance Counter\" 2",
+                                                 "attachExtension \"PerfCounter\" true"}));
+        host.stop(extension);
+    }
+    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+}
+
+TEST_F(CounterDock, WithTheSwitchTheExtensionDocksTheTool)
+{
+    writeExample();
+    qputenv("XSG_PERFCOUNTER_ENABLE", "1");
+    TestHost host;
+    SpxPerfCounterExtension extension;
+    host.window().show();
+    host.start(extension);
+    auto* tool = host.window().findChild<SoPerfCounterDockWin*>();
+    ASSERT_TRUE(tool);
+    EXPECT_TRUE(tool->isVisible());
+    tool->m_listConfig->setCurrentIndex(0);
+    extension.hide();
+    EXPECT_FALSE(tool->isVisible());
+    extension.show();
+    EXPECT_TRUE(tool->isVisible());
+    EXPECT_EQ(tool->getCurrentProfile(), 0);
+    host.stop(extension);
+    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+}
