@@ -1,6 +1,7 @@
 #include "HostApplication.h"
 
 #include "PluginFolders.h"
+#include "ProfilesMenu.h"
 #include "UserHome.h"
 #include "ViewMenu.h"
 
@@ -32,6 +33,7 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     connect(&m_plugins, &HostPluginsManager::failed, &m_messages, &Messages::error);
     connect(m_window.get(), &HostWindow::fileDone, this, &HostApplication::fileDone);
     new ViewMenu(m_shell, *m_window->viewMenu());
+    new ProfilesMenu(m_plugins, *m_window->profilesMenu());
     m_plugins.readProfiles();
 }
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTextDocumentFragment>
 
 #include <cstdio>
@@ -29,13 +30,24 @@ QString textOf(const QMessageBox& box)
     return parts.join(QLatin1Char(' '));
 }
 
-// Answers as a person does who wants to be left alone: what cancels, else what is offered first.
+// The button of a person who wants to be left alone and changes nothing.
+QAbstractButton* wayOut(const QMessageBox& box)
+{
+    if (box.escapeButton())
+        return box.escapeButton();
+    const QList<QAbstractButton*> buttons = box.buttons();
+    for (const auto role : {QMessageBox::RejectRole, QMessageBox::NoRole}) {
+        for (QAbstractButton* button : buttons) {
+            if (box.buttonRole(button) == role)
+                return button;
+        }
+    }
+    return buttons.size() == 1 ? buttons.first() : box.defaultButton();
+}
+
 void dismiss(QMessageBox& box)
 {
-    QAbstractButton* button = box.escapeButton();
-    if (!button)
-        button = box.defaultButton();
-    if (button)
+    if (QAbstractButton* button = wayOut(box))
         button->click();
     else
         box.done(-1);
