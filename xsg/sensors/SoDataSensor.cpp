@@ -6,6 +6,7 @@
 #include <xsg/sensors/SoNodeSensor.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -20,7 +21,20 @@ void eraseFrom(std::vector<SoDataSensor*>& sensors, SoDataSensor* sensor)
 void SoDataSensor::notified(const SoNotification& change)
 {
     m_triggerField = change.field;
+    m_structureTriggered |= !change.field;
     schedule();
+}
+
+void SoDataSensor::run()
+{
+    m_structureChanged = std::exchange(m_structureTriggered, false);
+    SoSensor::run(); // may delete this sensor
+}
+
+void SoDataSensor::forgetTrigger()
+{
+    m_triggerField = nullptr;
+    m_structureTriggered = false;
 }
 
 void SoDataSensor::add(SoField* field, SoDataSensor* sensor)

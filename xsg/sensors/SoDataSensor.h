@@ -15,13 +15,16 @@ public:
     virtual void detach() = 0;
     // The field whose change triggered the sensor last, or null. Good inside the callback.
     SoField* getTriggerField() const { return m_triggerField; }
+    // Good inside the callback: something else than fields changed too, a list of children or a name.
+    bool isStructureChanged() const { return m_structureChanged; }
 
 protected:
+    void run() override;
     static void add(SoField* field, SoDataSensor* sensor);
     static void remove(SoField* field, SoDataSensor* sensor);
     static void add(SoFieldContainer* container, SoDataSensor* sensor);
     static void remove(SoFieldContainer* container, SoDataSensor* sensor);
-    void forgetTrigger() { m_triggerField = nullptr; }
+    void forgetTrigger();
 
 private:
     friend class SoField;
@@ -29,4 +32,6 @@ private:
     void notified(const SoNotification& change);
 
     SoField* m_triggerField = nullptr;
+    bool m_structureTriggered = false;
+    bool m_structureChanged = false;
 };

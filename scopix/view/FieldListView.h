@@ -1,0 +1,33 @@
+// Shows the fields of the selected node and tells which one the person selects.
+#pragma once
+
+#include <QTreeView>
+
+class FieldListModel;
+class SoField;
+class SoFieldContainer;
+
+class FieldListView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit FieldListView(QWidget* parent = nullptr);
+
+    void setContainer(SoFieldContainer* container);
+    FieldListModel& getModel() const { return *m_model; }
+
+    // Selects the field's row, showing its node first where it is another one. Emits nothing.
+    void showField(const SoField* field);
+
+signals:
+    // Null when the selection is taken away.
+    void fieldSelected(SoField* field);
+
+protected:
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    FieldListModel* m_model;
+    bool m_quiet = false;
+};

@@ -1,0 +1,41 @@
+// Shows the scene's tree and tells which node the person selects in it.
+#pragma once
+
+#include <QTreeView>
+
+class SceneTreeModel;
+class SoPath;
+class SoNode;
+
+class SceneTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit SceneTreeView(QWidget* parent = nullptr);
+
+    // Starts at the root, with its first level open. Null empties the tree.
+    void setScene(SoNode* root);
+    SceneTreeModel& getModel() const { return *m_model; }
+
+    // Selects the node's row and opens the way to it. A row of the same node that is selected already stays, whichever
+    // of its places it is. Emits nothing.
+    void showNode(const SoNode* node);
+    // As if the person had clicked the row at the end of this path, which starts at the root.
+    void selectPath(const SoPath& path);
+
+signals:
+    // Null when the selected node left the scene; it is still alive then.
+    void nodeSelected(SoNode* node);
+
+protected:
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void dropSelection();
+
+    SceneTreeModel* m_model;
+    bool m_quiet = false;
+};
