@@ -1,0 +1,167 @@
+#include "import/AssimpModel.h"
+
+#include "import/AssimpMaterial.h"
+
+#include <assimp/scene.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+SbVec3f toVec(const aiVector3D& v)
+{
+    return {v.x, v.y, v.z};
+}
+
+SbMatrix toMatrix(const aiMatrix4x4& m)
+{
+    // Column vectors there, row vectors here.
+    SbMatrix result;
+    for (unsigned row = 0; row < 4; ++row) {
+        for (unsigned column = 0; column < 4; ++column)
+            result[static_cast<int>(column)][row] = m[row][column];
+    }
+    return result;
+}
+
+template <class Out, class In, class Convert>
+std::vector<Out> converted(const In* values, unsigned count, Convert convert)
+{
+    std::vector<Out> result;
+    if (!values)
+        return result;
+    result.reserve(count);
+    std::transform(values, values + count, std::back_inserter(result), convert);
+    return result;
+}
+
+ModelData::Mesh toMesh(const aiMesh& mesh)
+{
+    ModelData::Mesh result;
+    result.name = mesh.mName.C_Str();
+    result.material = static_cast<int>(mesh.mMaterialIndex);
+    const unsigned count = mesh.mNumVertices;
+    result.points = converted<SbVec3f>(mesh.mVertices, count, toVec);
+    result.normals = converted<SbVec3f>(mesh.mNormals, count, toVec);
+    result.textureCoordinates = converted<SbVec2f>(mesh.mTextureCoords[0], count, [](const aiVector3D& v) {
+        return SbVec2f(v.x, v.y);
+    });
+    result.colors = converted<SbVec3f>(mesh.mColors[0], count, [](const aiColor4D& c) {
+        return SbVec3f(c.r, c.g, c.b);
+    });
+    result.index.reserve(3 * std::size_t{mesh.mNumFaces});
+    for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
+        const aiFace& face = mesh.mFaces[i];
+        if (face.mNumIndices == 3)
+            result.index.insert(result.index.end(), face.mIndices, face.mIndices + 3);
+    }
+    return result;
+}
+
+ModelData::Light toLight(const aiLight& light)
+{
+    ModelData::Light result;
+    const aiColor3D& c = light.mColorDiffuse;
+    const float brightest = std::max({c.r, c.g, c.b});
+    if (brightest > 0 && std::isfinite(brightest))
+        result.color = SbColor(c.r / brightest, c.g / brightest, c.b / brightest);
+    // Physical units know no top; a screen does.
+    result.intensity = std::clamp(brightest, 0.0F, 1.0F);
+    result.direction = toVec(light.mDirection);
+    return result;
+}
+
+ModelData::Camera toCamera(const aiCamera& camera)
+{
+    ModelData::Camera result;
+    result.position = toVec(camera.mPosition);
+    result.orientation = SbRotation::between({0, 0, -1}, toVec(camera.mLookAt));
+    const float aspect = camera.mAspect > 0 ? camera.mAspect : 1;
+    if (camera.mHorizontalFOV > 0)
+        result.heightAngle = 2 * std::atan(std::tan(camera.mHorizontalFOV / 2) / aspect);
+    result.nearDistance = std::max(camera.mClipPlaneNear, 1e-6F);
+    result.farDistance = std::max(camera.mClipPlaneFar, 2 * result.nearDistance);
+    return result;
+}
+
+class NodeCollector
+{
+public:
+    NodeCollector(const aiScene& scene, ModelData& model)
+        : m_scene(scene)
+        , m_model(model)
+    {
+    }
+
+    void collect()
+    {
+        // A list of what is still to do instead of a recursion, since files may be nested deeper than the stack is.
+        std::vector<std::pair<const aiNode*, int>> pending{{m_scene.mRootNode, -1}};
+        while (!pending.empty()) {
+            const auto [node, parent] = pending.back();
+            pending.pop_back();
+            const int place = add(*node, parent);
+            for (unsigned i = node->mNumChildren; i > 0; --i)
+                pending.emplace_back(node->mChildren[i - 1], place);
+        }
+    }
+
+private:
+    int add(const aiNode& node, int parent)
+    {
+        const int place = static_cast<int>(m_model.nodes.size());
+        ModelData::Node result;
+        result.name = node.mName.C_Str();
+        result.matrix = toMatrix(node.mTransformation);
+        result.meshes.assign(node.mMeshes, node.mMeshes + node.mNumMeshes);
+        result.light = addLight(node.mName);
+        result.camera = addCamera(node.mName);
+        m_model.nodes.push_back(std::move(result));
+        if (parent >= 0)
+            m_model.nodes[static_cast<std::size_t>(parent)].children.push_back(place);
+        return place;
+    }
+
+    // Lights and cameras belong to the node of the same name.
+    int addLight(const aiString& name)
+    {
+        for (unsigned i = 0; i < m_scene.mNumLights; ++i) {
+            const aiLight& light = *m_scene.mLights[i];
+            if (light.mName == name && light.mType == aiLightSource_DIRECTIONAL) {
+                m_model.lights.push_back(toLight(light));
+                return static_cast<int>(m_model.lights.size()) - 1;
+            }
+        }
+        return -1;
+    }
+
+    int addCamera(const aiString& name)
+    {
+        for (unsigned i = 0; i < m_scene.mNumCameras; ++i) {
+            if (m_scene.mCameras[i]->mName == name) {
+                m_model.cameras.push_back(toCamera(*m_scene.mCameras[i]));
+                return static_cast<int>(m_model.cameras.size()) - 1;
+            }
+        }
+        return -1;
+    }
+
+    const aiScene& m_scene;
+    ModelData& m_model;
+};
+
+} // namespace
+
+ModelData scopix::fromAssimp(const aiScene& scene, const QString& folder)
+{
+    ModelData model;
+    for (unsigned i = 0; i < scene.mNumMeshes; ++i)
+        model.meshes.push_back(toMesh(*scene.mMeshes[i]));
+    for (unsigned i = 0; i < scene.mNumMaterials; ++i)
+        model.materials.push_back(fromAssimp(*scene.mMaterials[i], scene, folder, model));
+    if (scene.mRootNode)
+        NodeCollector(scene, model).collect();
+    return model;
+}

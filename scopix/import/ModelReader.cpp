@@ -1,0 +1,121 @@
+#include "import/ModelReader.h"
+
+#include "import/AssimpModel.h"
+#include "import/FileChecks.h"
+
+#include <assimp/Importer.hpp>
+#include <assimp/ProgressHandler.hpp>
+#include <assimp/config.h>
+#include <assimp/postprocess.h>
+#include <assimp/scene.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ModelReader", text);
+}
+
+constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices | aiProcess_GenSmoothNormals |
+                           aiProcess_SortByPType | aiProcess_ValidateDataStructure | aiProcess_FindInvalidData |
+                           aiProcess_TransformUVCoords;
+
+// Leaves the importer by an exception: a refusal is not heeded everywhere.
+class Cancelled : public std::exception
+{
+};
+
+class Progress : public Assimp::ProgressHandler
+{
+public:
+    explicit Progress(const scopix::ReadProgress& tell)
+        : m_tell(tell)
+    {
+    }
+    bool Update(float done) override
+    {
+        if (m_tell && !m_tell(std::clamp(done, 0.0F, 1.0F)))
+            throw Cancelled();
+        return true;
+    }
+
+private:
+    const scopix::ReadProgress& m_tell;
+};
+
+// The importer's words as the end of a sentence: one line, without its file name prefixes and full stop.
+QString reasonOf(const Assimp::Importer& importer)
+{
+    QString text = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
+    while (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text.isEmpty() ? tr("it holds no model that can be read") : tr("it is not a whole model (%1)").arg(text);
+}
+
+scopix::ReadModel failed(const QString& sentence)
+{
+    scopix::ReadModel result;
+    result.error = sentence;
+    return result;
+}
+
+bool hasTriangles(const ModelData& model)
+{
+    return std::any_of(model.meshes.begin(), model.meshes.end(),
+                       [](const ModelData::Mesh& mesh) { return !mesh.index.empty(); });
+}
+
+scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progress)
+{
+    Assimp::Importer importer;
+    importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
+    importer.SetProgressHandler(new Progress(progress)); // the importer owns it
+    const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), Steps);
+    if (progress && !progress(1))
+        throw Cancelled(); // the importer turns what is thrown inside of it into an error of its own
+    if (!scene)
+        return failed(scopix::cannotOpen(path, reasonOf(importer)));
+    scopix::ReadModel result;
+    result.data = scopix::fromAssimp(*scene, QFileInfo(path).absolutePath());
+    if (!hasTriangles(result.data))
+        return failed(scopix::cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
+    return result;
+}
+
+} // namespace
+
+QStringList scopix::modelEndings()
+{
+    return {QStringLiteral("gltf"), QStringLiteral("glb"), QStringLiteral("obj"), QStringLiteral("stl"),
+            QStringLiteral("ply"),  QStringLiteral("dae"), QStringLiteral("fbx")};
+}
+
+scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& progress)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    QString error = checkFile(path, modelEndings());
+    if (error.isEmpty() && ending == QLatin1String("glb"))
+        error = checkBinaryGltf(path);
+    if (error.isEmpty() && ending == QLatin1String("ply"))
+        error = checkPly(path);
+    if (!error.isEmpty())
+        return failed(error);
+    try {
+        return import(path, progress);
+    } catch (const Cancelled&) {
+        ReadModel result;
+        result.cancelled = true;
+        return result;
+    } catch (const std::bad_alloc&) {
+        return failed(cannotOpen(path, tr("it asks for more memory than there is")));
+    } catch (const std::exception& e) {
+        return failed(cannotOpen(path, tr("reading it failed (%1)").arg(QString::fromUtf8(e.what()))));
+    }
+}

@@ -1,0 +1,127 @@
+// What cannot be opened is named in one sentence that says what was expected.
+#include "ModelFiles.h"
+
+#include "import/ModelReader.h"
+
+#include <cstring>
+
+namespace
+{
+
+class BadModel : public testing::Test
+{
+protected:
+    void expectRefusal(const QString& path, const char* reason)
+    {
+        const scopix::ReadModel model = scopix::readModel(path);
+        EXPECT_TRUE(model.error.contains(path)) << qPrintable(model.error);
+        EXPECT_TRUE(model.error.contains(QLatin1String(reason))) << qPrintable(model.error);
+        EXPECT_EQ(model.error.count(QLatin1Char('\n')), 0) << qPrintable(model.error);
+        EXPECT_TRUE(model.error.endsWith(QLatin1Char('.'))) << qPrintable(model.error);
+        EXPECT_TRUE(model.data.nodes.empty());
+    }
+    ModelFiles files;
+};
+
+TEST_F(BadModel, MissingFile)
+{
+    expectRefusal(files.path("none.glb"), "there is no such file");
+}
+
+TEST_F(BadModel, Folder)
+{
+    expectRefusal(files.folder(), "it is a folder, and a file was expected");
+}
+
+TEST_F(BadModel, EmptyFile)
+{
+    expectRefusal(files.write("empty.gltf", ""), "it is empty");
+}
+
+TEST_F(BadModel, UnknownEnding)
+{
+    expectRefusal(files.write("model.docx", "x"), "its name was expected to end in .gltf, .glb");
+}
+
+TEST_F(BadModel, TextNamedGlb)
+{
+    expectRefusal(files.write("text.glb", "This is no model.\n"), "it is no binary glTF file");
+}
+
+TEST_F(BadModel, TruncatedGlb)
+{
+    const QByteArray whole = contentOf(shippedModel("lighthouse.glb"));
+    ASSERT_GT(whole.size(), 1000);
+    expectRefusal(files.write("half.glb", whole.left(whole.size() / 2)), "bytes that its header announces");
+    expectRefusal(files.write("head.glb", whole.left(10)), "it ends after 10 of the 12 bytes");
+}
+
+TEST_F(BadModel, GlbWhoseInsideIsCut)
+{
+    // The header agrees with the size, what follows does not.
+    QByteArray cut = contentOf(shippedModel("lighthouse.glb")).left(20000);
+    const auto size = static_cast<quint32>(cut.size());
+    std::memcpy(cut.data() + 8, &size, 4);
+    expectRefusal(files.write("cut.glb", cut), "cannot be opened");
+}
+
+TEST_F(BadModel, NoMeshes)
+{
+    expectRefusal(files.write("bare.gltf", R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[0]}],)"
+                                           R"("nodes":[{"name":"alone"}]})"),
+                  "it holds no mesh, and at least one was expected");
+    expectRefusal(files.write("bare.obj", "# nothing\n"), "cannot be opened");
+}
+
+TEST_F(BadModel, GltfWithoutItsGeometryFile)
+{
+    expectRefusal(files.write("crate.gltf", contentOf(shippedModel("crate.gltf"))), "crate.bin");
+}
+
+TEST_F(BadModel, GarbageInEveryFormat)
+{
+    QByteArray garbage;
+    for (int i = 0; i < 3000; ++i)
+        garbage += static_cast<char>((i * 7919) >> 3);
+    for (const QString& ending : scopix::modelEndings())
+        expectRefusal(files.write(qPrintable("garbage." + ending), garbage), "cannot be opened");
+}
+
+// Once kept the importer busy for ever.
+TEST_F(BadModel, TruncatedPly)
+{
+    const QByteArray whole = contentOf(shippedModel("rainbow.ply"));
+    expectRefusal(files.write("cut.ply", whole.left(whole.size() / 2)), "lines follow its header, which announces");
+    expectRefusal(files.write("cut.ply", whole.left(60)), "end_header");
+    expectRefusal(files.write("cut.ply", "ply\nformat binary_little_endian 1.0\nelement vertex 5\nproperty float x\n"
+                                         "end_header\n0123"),
+                  "4 bytes follow its header, which announces at least 20");
+    expectRefusal(files.write("cut.ply", "ply\nelement vertex many\nend_header\n"), "should end in a count");
+}
+
+TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
+{
+    for (const char* name : {"rainbow.ply", "crate.obj", "crate.gltf", "knot.stl"}) {
+        const QByteArray whole = contentOf(shippedModel(name));
+        for (int part = 0; part < 10; ++part) {
+            const QString path = files.write(name, whole.left(whole.size() * part / 10 + 20));
+            const scopix::ReadModel model = scopix::readModel(path);
+            EXPECT_NE(model.error.isEmpty(), model.data.nodes.empty());
+        }
+    }
+}
+
+TEST_F(BadModel, CancellingGivesNeitherModelNorError)
+{
+    int asked = 0;
+    const scopix::ReadModel model = scopix::readModel(shippedModel("lighthouse.glb"), [&](float) {
+        ++asked;
+        return false;
+    });
+    EXPECT_GT(asked, 0);
+    EXPECT_TRUE(model.cancelled);
+    EXPECT_TRUE(model.error.isEmpty());
+    EXPECT_TRUE(model.data.nodes.empty());
+}
+
+} // namespace
