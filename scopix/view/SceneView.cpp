@@ -1,0 +1,239 @@
+#include "view/SceneView.h"
+
+#include "view/Colors.h"
+#include "view/ViewSurface.h"
+#include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/actions/SoSearchAction.h>
+#include <xsg/render/SoRenderer.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QResizeEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr float Pi = 3.14159265F;
+constexpr float WheelStep = 0.85F; // per notch of 120
+// The camera makes room for a ball around the box; most things fill less of it.
+constexpr float Closer = 0.82F;
+// Where a new scene is looked at from: a little from the side and from above.
+constexpr float StartTurn = -0.55F;
+constexpr float StartTilt = -0.32F;
+
+SbBox3f boxOf(SoNode* root)
+{
+    return root ? SoBoundingBoxAction().getBox(root) : SbBox3f();
+}
+
+// Around the node, in the coordinates of the root.
+SbBox3f boxOfPart(SoNode* root, SoNode* part)
+{
+    SoSearchAction search;
+    search.setNode(part);
+    search.apply(root);
+    if (search.getPaths().empty())
+        return {};
+    // A scene of nothing but the way to the node and what is set before it on that way.
+    const SoPath& path = search.getPaths().front();
+    SoRef<SoNode> below(path.getTail());
+    for (int i = path.getLength() - 2; i >= 0; --i) {
+        SoRef<SoGroup> level(new SoGroup);
+        const SoGroup* group = path.getNode(i)->asGroup();
+        const int end = group->findChild(path.getNode(i + 1));
+        for (int c = 0; c < end; ++c) {
+            SoNode* child = group->getChild(c);
+            if (!child->asGroup() && !child->asShape())
+                level->addChild(child);
+        }
+        level->addChild(below.get());
+        below = SoRef<SoNode>(level.get());
+    }
+    return boxOf(below.get());
+}
+
+} // namespace
+
+SceneView::SceneView(QWidget* parent, Drawing drawing)
+    : QWidget(parent)
+    , m_camera(new SoPerspectiveCamera)
+    , m_sensor(sceneChanged, this)
+    , m_surface(ViewSurface::make(
+          this, [this](SoRenderer& renderer) { return prepare(renderer); }, drawing == Drawing::Best))
+{
+    setObjectName(QStringLiteral("sceneView"));
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+SceneView::~SceneView() = default;
+
+void SceneView::setScene(SoNode* root)
+{
+    m_root = SoRef<SoNode>(root);
+    m_highlight = nullptr;
+    m_sensor.attach(root);
+    m_camera->orientation.setValue(SbRotation());
+    viewAll();
+    m_camera->orbit(StartTurn, StartTilt);
+    viewAll();
+}
+
+void SceneView::setHighlight(const SoNode* node)
+{
+    if (node == m_highlight)
+        return;
+    m_highlight = node;
+    m_surface->redraw();
+}
+
+void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
+{
+    static_cast<SceneView*>(self)->m_surface->redraw();
+}
+
+ViewContent SceneView::prepare(SoRenderer& renderer)
+{
+    const SbBox3f box = boxOf(m_root.get());
+    if (!box.isEmpty())
+        m_camera->fitDepthRange(box);
+    const auto toColor = [](const QColor& c) {
+        return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
+    };
+    renderer.setBackground(toColor(scopix::groundColor(palette())));
+    renderer.setHighlight(m_highlight);
+    renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
+    return {m_root.get(), m_camera.get()};
+}
+
+int SceneView::getDrawCount() const
+{
+    return m_surface->getDrawCount();
+}
+
+float SceneView::aspect() const
+{
+    return static_cast<float>(std::max(1, width())) / static_cast<float>(std::max(1, height()));
+}
+
+void SceneView::frame(const SbBox3f& box)
+{
+    if (!box.isEmpty()) {
+        m_camera->viewAll(box, aspect());
+        m_camera->zoom(Closer);
+    }
+    cameraMoved();
+}
+
+void SceneView::viewAll()
+{
+    frame(boxOf(m_root.get()));
+    m_framed = true;
+}
+
+void SceneView::viewNode(SoNode* node)
+{
+    const SbBox3f box = m_root && node ? boxOfPart(m_root.get(), node) : SbBox3f();
+    if (box.isEmpty())
+        viewAll();
+    else
+        frame(box);
+}
+
+void SceneView::cameraMoved()
+{
+    m_framed = false;
+    m_surface->redraw();
+}
+
+std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
+{
+    if (!m_root)
+        return std::nullopt;
+    const float x = (static_cast<float>(place.x()) + 0.5F) / static_cast<float>(std::max(1, width()));
+    const float y = 1 - (static_cast<float>(place.y()) + 0.5F) / static_cast<float>(std::max(1, height()));
+    return m_pickAction.pick(m_root.get(), m_camera->getRay(x, y, aspect()));
+}
+
+void SceneView::mousePressEvent(QMouseEvent* event)
+{
+    const bool shifted = event->modifiers() & Qt::ShiftModifier;
+    if (event->button() == Qt::LeftButton)
+        m_drag = shifted ? Drag::Pan : Drag::Orbit;
+    else if (event->button() == Qt::MiddleButton || event->button() == Qt::RightButton)
+        m_drag = Drag::Pan;
+    m_moved = false;
+    m_pressed = m_last = event->pos();
+}
+
+void SceneView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_drag == Drag::None)
+        return;
+    if (!m_moved && (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_moved = true;
+    const QPoint by = event->pos() - m_last;
+    m_last = event->pos();
+    const float scale = 1 / static_cast<float>(std::max(1, height()));
+    const float right = static_cast<float>(by.x()) * scale;
+    const float up = static_cast<float>(-by.y()) * scale;
+    if (m_drag == Drag::Orbit)
+        m_camera->orbit(-right * Pi, up * Pi);
+    else
+        m_camera->pan(-right, -up);
+    cameraMoved();
+}
+
+void SceneView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool clicked = m_drag == Drag::Orbit && !m_moved && event->button() == Qt::LeftButton;
+    m_drag = Drag::None;
+    if (!clicked)
+        return;
+    const auto hit = pick(event->pos());
+    emit picked(hit ? hit->path : SoPath());
+}
+
+void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && pick(event->pos()))
+        emit viewSelectedRequested();
+}
+
+void SceneView::wheelEvent(QWheelEvent* event)
+{
+    const QPointF place = event->position();
+    const float notches = static_cast<float>(event->angleDelta().y()) / 120.0F;
+    const float x = static_cast<float>(place.x()) / static_cast<float>(std::max(1, width()));
+    const float y = 1 - static_cast<float>(place.y()) / static_cast<float>(std::max(1, height()));
+    m_camera->zoom(std::pow(WheelStep, notches), x, y, aspect());
+    cameraMoved();
+    event->accept();
+}
+
+void SceneView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Home)
+        viewAll();
+    else if (event->key() == Qt::Key_F)
+        emit viewSelectedRequested();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void SceneView::resizeEvent(QResizeEvent* /*event*/)
+{
+    m_surface->getWidget()->setGeometry(rect());
+    if (m_framed)
+        viewAll(); // until the person looks around, everything stays in sight
+}
+
+void SceneView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        m_surface->redraw();
+    QWidget::changeEvent(event);
+}

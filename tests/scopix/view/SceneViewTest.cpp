@@ -1,0 +1,214 @@
+#include "view/DefaultScene.h"
+#include "view/SceneView.h"
+
+#include <xsg/nodes/SoCube.h>
+#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/SoTransform.h>
+#include <xsg/sensors/SoSensorQueue.h>
+
+namespace
+{
+
+// A red cube at the left, a green one at the right.
+class View : public testing::Test
+{
+protected:
+    View()
+    {
+        addCube(-2, left, {1, 0, 0});
+        addCube(2, right, {0, 1, 0});
+        view.resize(300, 200);
+        view.setScene(scene.get());
+        view.show();
+        QObject::connect(&view, &SceneView::picked, [this](const SoPath& path) { picked.push_back(path); });
+    }
+    void addCube(float x, SoRef<SoCube>& cube, const SbColor& color)
+    {
+        SoRef<SoSeparator> part(new SoSeparator);
+        auto* place = new SoTransform;
+        place->translation.setValue(x, 0, 0);
+        auto* look = new SoMaterial;
+        look->diffuseColor.setValue(color);
+        part->addChild(place);
+        part->addChild(look);
+        part->addChild(cube.get());
+        scene->addChild(part.get());
+    }
+    QImage picture()
+    {
+        SoSensorQueue::getInstance().process();
+        QCoreApplication::processEvents();
+        return view.grab().toImage();
+    }
+    // Where the camera sees a point.
+    QPoint placeOf(const SbVec3f& point)
+    {
+        const float aspect = float(view.width()) / float(view.height());
+        const SbMatrix toPicture = view.getCamera().getViewMatrix() * view.getCamera().getProjectionMatrix(aspect);
+        const SbVec3f p = toPicture.multPoint(point);
+        return {int((p[0] + 1) / 2 * float(view.width())), int((1 - p[1]) / 2 * float(view.height()))};
+    }
+    void drag(Qt::MouseButton button, const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys = {})
+    {
+        const auto send = [&](QEvent::Type type, const QPoint& at, Qt::MouseButtons held) {
+            QMouseEvent event(type, at, view.mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button, held,
+                              keys);
+            QCoreApplication::sendEvent(&view, &event);
+        };
+        send(QEvent::MouseButtonPress, from, button);
+        send(QEvent::MouseMove, (from + to) / 2, button);
+        send(QEvent::MouseMove, to, button);
+        send(QEvent::MouseButtonRelease, to, {});
+    }
+
+    SoRef<SoSeparator> scene{new SoSeparator};
+    SoRef<SoCube> left{new SoCube};
+    SoRef<SoCube> right{new SoCube};
+    SceneView view;
+    std::vector<SoPath> picked;
+};
+
+TEST_F(View, ShowsTheScene)
+{
+    const QImage image = picture();
+    const QColor red = image.pixelColor(placeOf({-2, 0, 1}));
+    const QColor green = image.pixelColor(placeOf({2, 0, 1}));
+    EXPECT_GT(red.red(), red.green() + 40);
+    EXPECT_GT(green.green(), green.red() + 40);
+}
+
+TEST_F(View, DrawsOnlyWhenSomethingChanged)
+{
+    picture();
+    const int drawn = view.getDrawCount();
+    EXPECT_GT(drawn, 0);
+    picture();
+    view.update();
+    picture();
+    EXPECT_EQ(view.getDrawCount(), drawn);
+    left->width.setValue(1);
+    left->height.setValue(1);
+    picture();
+    EXPECT_EQ(view.getDrawCount(), drawn + 1);
+}
+
+TEST_F(View, FollowsTheScene)
+{
+    const QImage before = picture();
+    scene->removeChild(0);
+    EXPECT_NE(picture(), before);
+}
+
+TEST_F(View, AClickPicksWhatIsUnderThePointer)
+{
+    QTest::mouseClick(&view, Qt::LeftButton, {}, placeOf({-2, 0, 0}));
+    ASSERT_EQ(picked.size(), 1U);
+    EXPECT_EQ(picked[0].getTail(), left.get());
+    EXPECT_EQ(picked[0].getHead(), scene.get());
+    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(2, 2));
+    ASSERT_EQ(picked.size(), 2U);
+    EXPECT_TRUE(picked[1].isEmpty());
+}
+
+TEST_F(View, DraggingTurnsAroundTheMiddleAndPicksNothing)
+{
+    const SbVec3f eye = view.getCamera().position.getValue();
+    const SbVec3f middle = view.getCamera().getFocalPoint();
+    const float distance = (eye - middle).length();
+    drag(Qt::LeftButton, {150, 100}, {220, 100});
+    const SbVec3f now = view.getCamera().position.getValue();
+    EXPECT_GT((now - eye).length(), 0.1F * distance);
+    EXPECT_NEAR((now - middle).length(), distance, 1e-3F * distance);
+    EXPECT_LT((view.getCamera().getFocalPoint() - middle).length(), 1e-3F * distance);
+    EXPECT_TRUE(picked.empty());
+}
+
+TEST_F(View, MovingCarriesWhatIsUnderThePointerAlong)
+{
+    const std::pair<Qt::MouseButton, Qt::KeyboardModifiers> ways[] = {{Qt::MiddleButton, Qt::NoModifier},
+                                                                      {Qt::RightButton, Qt::NoModifier},
+                                                                      {Qt::LeftButton, Qt::ShiftModifier}};
+    for (const auto& [button, keys] : ways) {
+        view.setScene(scene.get());
+        const SbVec3f middle = view.getCamera().getFocalPoint();
+        const QPoint from = placeOf(middle);
+        drag(button, from, from + QPoint(40, -30), keys);
+        EXPECT_LE((placeOf(middle) - from - QPoint(40, -30)).manhattanLength(), 3);
+    }
+    EXPECT_TRUE(picked.empty());
+}
+
+TEST_F(View, TheWheelComesNearerToThePointer)
+{
+    const SbVec3f target(-2, 0, 1);
+    const QPoint at = placeOf(target);
+    const float before = (view.getCamera().position.getValue() - target).length();
+    QWheelEvent wheel(at, view.mapToGlobal(at), {}, {0, 240}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view, &wheel);
+    EXPECT_LT((view.getCamera().position.getValue() - target).length(), before);
+    EXPECT_LE((placeOf(target) - at).manhattanLength(), 6);
+}
+
+TEST_F(View, HomeShowsEverythingAgain)
+{
+    const QImage before = picture();
+    drag(Qt::MiddleButton, {150, 100}, {20, 190});
+    EXPECT_NE(picture(), before);
+    QTest::keyClick(&view, Qt::Key_Home);
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(View, AResizedWindowKeepsEverythingInSightUntilThePersonMoves)
+{
+    view.resize(120, 400);
+    picture();
+    for (const float x : {-3.0F, 3.0F})
+        EXPECT_TRUE(view.rect().contains(placeOf({x, 0, 0})));
+}
+
+TEST_F(View, ShowsAllOfOneNode)
+{
+    view.viewNode(left.get());
+    const QPoint place = placeOf({-2, 0, 0});
+    EXPECT_LE((place - view.rect().center()).manhattanLength(), 3);
+    const auto width = [this] { return placeOf({-1, 0, 0}).x() - placeOf({-3, 0, 0}).x(); };
+    const int near = width();
+    view.viewAll();
+    EXPECT_GT(near, width());
+}
+
+TEST_F(View, MarksTheSelectedNode)
+{
+    const QImage before = picture();
+    view.setHighlight(left.get());
+    EXPECT_NE(picture(), before);
+    view.setHighlight(nullptr);
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(View, AnEmptySceneShowsTheGround)
+{
+    view.setScene(nullptr);
+    const QImage image = picture();
+    EXPECT_EQ(image.pixelColor(10, 10), image.pixelColor(150, 100));
+    EXPECT_FALSE(view.pick({150, 100}));
+}
+
+TEST(ViewOfTheShippedScene, IsNotTrivial)
+{
+    SceneView view;
+    view.resize(400, 300);
+    view.setScene(scopix::makeDefaultScene().get());
+    view.show();
+    QCoreApplication::processEvents();
+    const QImage image = view.grab().toImage();
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3)
+            colors.insert(image.pixel(x, y));
+    }
+    EXPECT_GT(colors.size(), 300);
+}
+
+} // namespace
