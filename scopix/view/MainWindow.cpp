@@ -1,0 +1,412 @@
+#include "view/MainWindow.h"
+
+#include "HostServices.h"
+#include "Messages.h"
+#include "import/FileChecks.h"
+#include "import/ModelImport.h"
+#include "import/ModelReader.h"
+#include "view/ActionIcons.h"
+#include "view/DefaultScene.h"
+#include "view/FieldListView.h"
+#include "view/NodeText.h"
+#include "view/SceneTreeModel.h"
+#include "view/SceneTreeView.h"
+#include "view/SceneView.h"
+#include "view/Screenshot.h"
+
+#include <xsg/actions/SoSearchAction.h>
+#include <xsg/fields/SoField.h>
+#include <xsg/io/SoSceneFile.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUndoView>
+
+namespace
+{
+
+constexpr int SideWidth = 330;
+constexpr int MessageMs = 8000;
+
+QSettings settings()
+{
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("scopix"), QStringLiteral("window"));
+}
+
+scopix::Theme wantedTheme()
+{
+    const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
+    return scopix::themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
+                                                           : fromEnvironment);
+}
+
+QString sceneEnding()
+{
+    return QStringLiteral("xsg");
+}
+
+QStringList allEndings()
+{
+    return QStringList(sceneEnding()) + scopix::modelEndings();
+}
+
+QString nameFilter()
+{
+    QStringList patterns;
+    for (const QString& ending : allEndings())
+        patterns << QStringLiteral("*.") + ending;
+    return MainWindow::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
+}
+
+SoNode* findNode(SoNode* root, const QString& text)
+{
+    SoSearchAction byName;
+    byName.setName(scopix::toName(text));
+    if (SoNode* node = byName.find(root))
+        return node;
+    const SoType type = SoType::fromName(scopix::toName(text));
+    if (type.isBad())
+        return nullptr;
+    SoSearchAction byType;
+    byType.setType(type);
+    return byType.find(root);
+}
+
+} // namespace
+
+MainWindow::MainWindow(HostServices& services, Messages& messages)
+    : m_services(services)
+    , m_messages(messages)
+    , m_tree(new SceneTreeView)
+    , m_fields(new FieldListView)
+    , m_view(new SceneView)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    scopix::applyTheme(wantedTheme());
+    setAcceptDrops(true);
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setCentralWidget(m_view);
+    makeDocks();
+    makeFileMenu();
+    makeEditMenu();
+    makeViewMenu();
+    makeHelpMenu();
+    makeToolBar();
+    connectSelection();
+    connect(&m_messages, &Messages::told, this, [this](const QString& text) {
+        statusBar()->showMessage(text, MessageMs);
+    });
+    statusBar()->show();
+    resize(sizeHint());
+    setScene(scopix::makeDefaultScene().get(), tr("Welcome"));
+}
+
+MainWindow::~MainWindow()
+{
+    // What the views still tell while they go is nobody's business any more.
+    m_tree->disconnect(this);
+    m_fields->disconnect(this);
+    m_view->disconnect(this);
+    m_services.disconnect(this);
+}
+
+QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void MainWindow::makeDocks()
+{
+    m_treeDock = addDock(m_tree, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
+    m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
+    auto* history = new QUndoView(&m_services.undoStack());
+    history->setObjectName(QStringLiteral("history"));
+    history->setEmptyLabel(tr("Unchanged"));
+    history->setFrameShape(QFrame::NoFrame);
+    m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_fieldsDock, m_historyDock);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    m_fieldsDock->raise();
+    resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
+    resizeDocks({m_treeDock, m_fieldsDock}, {430, 290}, Qt::Vertical);
+}
+
+void MainWindow::makeFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    m_openAction = menu->addAction(scopix::openIcon(), tr("&Open …"), this,
+                                   &MainWindow::askForFile, QKeySequence::Open);
+    m_openAction->setToolTip(tr("Open a scene or model"));
+    menu->addAction(tr("&Save Scene As …"), this, &MainWindow::askWhereToSave, QKeySequence::SaveAs);
+    menu->addAction(tr("Save &Picture of the Window …"), this, &MainWindow::askForScreenshot);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::makeEditMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    QUndoStack& stack = m_services.undoStack();
+    m_undoAction = stack.createUndoAction(this, tr("Undo"));
+    m_undoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
+    m_undoAction->setIcon(scopix::undoIcon());
+    m_redoAction = stack.createRedoAction(this, tr("Redo"));
+    m_redoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
+    m_redoAction->setIcon(scopix::redoIcon());
+    menu->addActions({m_undoAction, m_redoAction});
+}
+
+void MainWindow::makeViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    m_viewAllAction = menu->addAction(scopix::viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
+                                           QKeySequence(Qt::CTRL + Qt::Key_F));
+    connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
+    menu->addSeparator();
+    for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
+        menu->addAction(dock->toggleViewAction());
+    menu->addSeparator();
+    m_toolsMenu = menu->addMenu(tr("&Tools"));
+    m_profilesMenu = menu->addMenu(tr("&Profile"));
+    makeThemeMenu(*menu->addMenu(tr("&Colours")));
+}
+
+void MainWindow::makeThemeMenu(QMenu& menu)
+{
+    auto* group = new QActionGroup(&menu);
+    const std::pair<scopix::Theme, QString> entries[] = {{scopix::Theme::System, tr("As the &System")},
+                                                         {scopix::Theme::Dark, tr("&Dark")},
+                                                         {scopix::Theme::Light, tr("&Light")}};
+    for (const auto& [theme, text] : entries) {
+        QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setCheckable(true);
+        action->setChecked(theme == wantedTheme());
+        group->addAction(action);
+    }
+}
+
+void MainWindow::makeHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&Moving in the 3D View"), this, [this] {
+        QMessageBox::information(this, tr("Moving in the 3D View"),
+                                 tr("Turn: drag with the left button.\n"
+                                    "Move: drag with the middle or right button, or with Shift and the left one.\n"
+                                    "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
+                                    "Select: click. The selected part shows its edges.\n"
+                                    "See all of the selected part: double-click, or F.\n"
+                                    "See everything: Home."));
+    });
+    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Scopix"),
+                       tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
+                          "undo everything and see what it costs.")
+                           .arg(QApplication::applicationVersion()));
+}
+
+void MainWindow::makeToolBar()
+{
+    QToolBar* bar = addToolBar(tr("Main"));
+    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->setMovable(false);
+    bar->setIconSize({18, 18});
+    bar->addAction(m_openAction);
+    bar->addSeparator();
+    bar->addActions({m_undoAction, m_redoAction});
+    bar->addSeparator();
+    bar->addActions({m_viewAllAction, m_viewSelectedAction});
+}
+
+void MainWindow::connectSelection()
+{
+    connect(m_tree, &SceneTreeView::nodeSelected, this, [this](SoNode* node) {
+        m_services.select(static_cast<SoFieldContainer*>(node));
+    });
+    connect(m_fields, &FieldListView::fieldSelected, this, [this](SoField* field) { m_services.select(field); });
+    connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
+    connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
+    connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
+}
+
+void MainWindow::showNode(SoFieldContainer* container)
+{
+    auto* node = dynamic_cast<SoNode*>(container);
+    m_tree->showNode(node);
+    m_view->setHighlight(node);
+    m_fields->setContainer(container);
+}
+
+void MainWindow::showField(SoField* field)
+{
+    m_fields->showField(field);
+}
+
+void MainWindow::setScene(SoNode* root, const QString& title)
+{
+    m_services.clearSelection();
+    m_services.undoStack().clear();
+    const SoRef<SoNode> before = m_scene; // goes after the views have let it go
+    m_scene = SoRef<SoNode>(root);
+    m_tree->setScene(root);
+    m_view->setScene(root);
+    setWindowTitle(title); // the toolkit adds the program's name
+}
+
+void MainWindow::openFile(const QString& path)
+{
+    if (m_import)
+        m_import->cancel(); // the person has changed their mind
+    const QString error = scopix::checkFile(path, allEndings());
+    if (!error.isEmpty())
+        return refuse(error);
+    if (QFileInfo(path).suffix().toLower() == sceneEnding())
+        openScene(path);
+    else
+        importModel(path);
+}
+
+void MainWindow::openScene(const QString& path)
+{
+    std::string error;
+    const SoRef<SoNode> scene = SoSceneFile::read(QFile::encodeName(path).toStdString(), error);
+    if (scene)
+        opened(scene.get(), path);
+    else
+        refuse(QString::fromStdString(error));
+}
+
+void MainWindow::importModel(const QString& path)
+{
+    auto* import = new ModelImport(this, this);
+    m_import = import;
+    connect(import, &ModelImport::finished, this, [this, path](const SoRef<SoSeparator>& scene) {
+        opened(scene.get(), path);
+    });
+    connect(import, &ModelImport::failed, this, &MainWindow::refuse);
+    connect(import, &ModelImport::cancelled, this, [this, path] {
+        m_import.clear();
+        m_messages.info(tr("Reading “%1” was cancelled.").arg(path));
+        emit fileDone(false);
+    });
+    connect(import, &ModelImport::threadEnded, import, &QObject::deleteLater);
+    import->start(path);
+}
+
+void MainWindow::opened(SoNode* root, const QString& path)
+{
+    m_import.clear();
+    setScene(root, QFileInfo(path).fileName());
+    m_messages.info(tr("Opened “%1”.").arg(path));
+    emit fileDone(true);
+}
+
+void MainWindow::refuse(const QString& sentence)
+{
+    m_import.clear();
+    m_messages.error(sentence);
+    emit fileDone(false);
+}
+
+bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
+{
+    SoNode* node = findNode(m_scene.get(), nodeText);
+    if (!node) {
+        m_messages.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
+        return false;
+    }
+    SoField* field = node->getField(scopix::toName(fieldText));
+    if (!field) {
+        m_messages.error(tr("“%1”, a %2, has no field “%3”.")
+                             .arg(nodeText, scopix::toQString(node->getTypeId().getName()), fieldText));
+        return false;
+    }
+    m_services.select(field);
+    return true;
+}
+
+bool MainWindow::saveScreenshot(const QString& path)
+{
+    const QString error = scopix::saveScreenshot(*this, path);
+    if (!error.isEmpty())
+        m_messages.error(error);
+    return error.isEmpty();
+}
+
+void MainWindow::askForFile()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), {}, nameFilter());
+    if (!path.isEmpty())
+        openFile(path);
+}
+
+void MainWindow::askWhereToSave()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Scene"), QStringLiteral("scene.xsg"),
+                                                      tr("Scenes (*.xsg)"));
+    if (!path.isEmpty())
+        saveScene(path);
+}
+
+bool MainWindow::saveScene(const QString& path)
+{
+    std::string error;
+    const bool saved = SoSceneFile::write(m_scene.get(), QFile::encodeName(path).toStdString(), error);
+    if (saved)
+        m_messages.info(tr("Saved “%1”.").arg(path));
+    else
+        m_messages.error(QString::fromStdString(error));
+    return saved;
+}
+
+void MainWindow::askForScreenshot()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), QStringLiteral("scopix.png"),
+                                                      tr("Pictures (*.png)"));
+    if (!path.isEmpty())
+        saveScreenshot(path);
+}
+
+void MainWindow::viewSelected()
+{
+    m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
+}
+
+void MainWindow::setTheme(scopix::Theme theme)
+{
+    settings().setValue(QStringLiteral("palette"), scopix::themeName(theme));
+    scopix::applyTheme(theme);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    openFile(event->mimeData()->urls().first().toLocalFile());
+}

@@ -1,0 +1,15 @@
+// Pictures of a window as it would look on a screen, on machines without one too.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace scopix
+{
+
+// Lets the window come to rest first: layout, selection and live values. One sentence where the picture cannot be
+// written, which leaves no file behind; else empty.
+QString saveScreenshot(QWidget& window, const QString& path);
+
+} // namespace scopix

@@ -1,0 +1,129 @@
+// The program as people start it, on a machine without a display.
+#include <gtest/gtest.h>
+
+#include <QtTest>
+
+namespace
+{
+
+class Program : public testing::Test
+{
+protected:
+    struct Outcome {
+        int status;
+        QString said; // on standard error, by the program itself
+    };
+
+    Outcome run(const QStringList& arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+        environment.insert("XDG_CONFIG_HOME", folder.path());
+        environment.insert("XDG_RUNTIME_DIR", folder.path());
+        process.setProcessEnvironment(environment);
+        process.start(SCOPIX_PROGRAM, arguments);
+        EXPECT_TRUE(process.waitForFinished(120000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        QStringList own;
+        for (const QString& line : QString::fromUtf8(process.readAllStandardError()).split('\n')) {
+            if (line.startsWith("scopix: "))
+                own << line.mid(8);
+        }
+        return {process.exitCode(), own.join('\n')};
+    }
+    void expectRefusal(const QString& file, const QString& reason)
+    {
+        const Outcome outcome = run({file, "--quit"});
+        EXPECT_NE(outcome.status, 0);
+        EXPECT_TRUE(outcome.said.contains(file)) << qPrintable(outcome.said);
+        EXPECT_TRUE(outcome.said.contains(reason)) << qPrintable(outcome.said);
+        EXPECT_EQ(outcome.said.count('\n'), 0) << qPrintable(outcome.said);
+    }
+    QString write(const QString& name, const QByteArray& content)
+    {
+        QFile file(folder.filePath(name));
+        file.open(QIODevice::WriteOnly);
+        file.write(content);
+        return file.fileName();
+    }
+    static QString model() { return QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(Program, WritesAPictureOfTheWindowWithoutADisplay)
+{
+    const QString path = folder.filePath("out.png");
+    const Outcome outcome = run({model(), "--select", "Glass.transparency", "--screenshot", path});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.said, "");
+    const QImage picture(path);
+    ASSERT_EQ(picture.size(), QSize(1280, 800));
+    QSet<QRgb> colors;
+    for (int y = 100; y < 700; y += 4) {
+        for (int x = 400; x < 900; x += 4)
+            colors.insert(picture.pixel(x, y));
+    }
+    EXPECT_GT(colors.size(), 500);
+}
+
+TEST_F(Program, OpensAndEnds)
+{
+    const Outcome outcome = run({model(), "--quit"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.said, "");
+}
+
+TEST_F(Program, SaysThatThereIsNoDisplay)
+{
+    const Outcome outcome = run({model()});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains("--screenshot")) << qPrintable(outcome.said);
+}
+
+TEST_F(Program, RefusesWhatItCannotOpen)
+{
+    expectRefusal(folder.filePath("none.glb"), "there is no such file");
+    expectRefusal(folder.path(), "it is a folder");
+    expectRefusal(write("empty.glb", ""), "it is empty");
+    expectRefusal(write("text.glb", "no model at all\n"), "it is no binary glTF file");
+}
+
+TEST_F(Program, RefusesAModelThatIsCut)
+{
+    QFile whole(model());
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    expectRefusal(write("cut.glb", whole.read(5000)), "it ends after 5000 of the");
+}
+
+TEST_F(Program, RefusesAModelWithoutMeshes)
+{
+    expectRefusal(write("bare.gltf", R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[]}]})"),
+                  "cannot be opened");
+}
+
+TEST_F(Program, RefusesToSelectWhatIsNotThere)
+{
+    const Outcome outcome = run({"--select", "Nobody.transparency", "--quit"});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains("Nobody")) << qPrintable(outcome.said);
+}
+
+TEST_F(Program, RefusesAnUnknownOption)
+{
+    const Outcome outcome = run({"--frobnicate"});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains("frobnicate")) << qPrintable(outcome.said);
+}
+
+TEST_F(Program, SaysWhereAPictureCannotBeWritten)
+{
+    const QString path = folder.filePath("nowhere/out.png");
+    const Outcome outcome = run({"--screenshot", path});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains(path)) << qPrintable(outcome.said);
+}
+
+} // namespace
