@@ -254,8 +254,16 @@ void MainWindow::showNode(SoFieldContainer* container)
 {
     auto* node = dynamic_cast<SoNode*>(container);
     m_tree->showNode(node);
-    m_view->setHighlight(node);
+    m_view->setHighlight(shownPart(node));
     m_fields->setContainer(container);
+}
+
+// What a node that is nothing to see by itself changes the look of: the group it stands in.
+const SoNode* MainWindow::shownPart(SoNode* node) const
+{
+    if (!node || node->asGroup() || node->asShape())
+        return node;
+    return m_tree->getModel().nodeAt(m_tree->currentIndex().parent());
 }
 
 void MainWindow::showField(SoField* field)

@@ -41,7 +41,11 @@ public:
         setFormat(surfaceFormat());
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
-    ~GlSurface() override { releaseGl(); }
+    ~GlSurface() override
+    {
+        releaseGl();
+        disconnect(m_contextGoes); // the base destroys the context when nothing of this class is left
+    }
 
     QWidget* getWidget() override { return this; }
     void redraw() override { update(); }
@@ -51,7 +55,8 @@ protected:
     void initializeGL() override
     {
         // Comes again with a new context when the widget moves to another window.
-        QObject::connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { releaseGl(); });
+        m_contextGoes
+            = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { releaseGl(); });
     }
     void paintGL() override
     {
@@ -73,6 +78,7 @@ private:
 
     Prepare m_prepare;
     SoRenderer m_renderer;
+    QMetaObject::Connection m_contextGoes;
     int m_drawCount = 0;
 };
 
