@@ -19,12 +19,6 @@ std::uint32_t pointsCountOf(const SoState& state)
     return state.points ? state.points->getChangeCount() : 0;
 }
 
-// Only separators keep boxes; other isolating groups are looked through.
-const SoSeparator* asSeparator(const SoGroup* group)
-{
-    return group->isIsolating() ? dynamic_cast<const SoSeparator*>(group) : nullptr;
-}
-
 } // namespace
 
 bool SoBoundingBoxAction::isValid(const SoSeparator& separator, const SoState& stateAt)
@@ -44,26 +38,29 @@ SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
     return m_boxes.front();
 }
 
-bool SoBoundingBoxAction::enterGroup(SoGroup* group)
+bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
 {
-    const SoSeparator* separator = asSeparator(group);
-    if (!separator)
+    const SoSeparator* separator = group->asSeparator();
+    if (!separator || !isValid(*separator, state()))
         return true;
-    if (isValid(*separator, state())) {
-        xsg::feeds.boxHits.add();
-        extend(separator->boxCache().box);
-        return false;
-    }
+    xsg::feeds.boxHits.add();
+    extend(separator->boxCache().box);
+    return false;
+}
+
+void SoBoundingBoxAction::enterGroup(SoGroup* group)
+{
+    if (!group->asSeparator())
+        return;
     xsg::feeds.boxMisses.add();
     m_boxes.emplace_back();
     state().modelMatrix = SbMatrix();
     state().instances = nullptr;
-    return true;
 }
 
 void SoBoundingBoxAction::leaveGroup(SoGroup* group)
 {
-    const SoSeparator* separator = asSeparator(group);
+    const SoSeparator* separator = group->asSeparator();
     if (!separator)
         return;
     const SbBox3f box = m_boxes.back();

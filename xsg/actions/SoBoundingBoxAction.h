@@ -20,7 +20,8 @@ public:
     static bool isValid(const SoSeparator& separator, const SoState& stateAt);
 
 private:
-    bool enterGroup(SoGroup* group) override;
+    bool wantsGroup(SoGroup* group) override;
+    void enterGroup(SoGroup* group) override;
     void leaveGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void extend(const SbBox3f& box);

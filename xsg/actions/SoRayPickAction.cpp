@@ -40,9 +40,9 @@ std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ra
     return std::exchange(m_nearest, std::nullopt);
 }
 
-bool SoRayPickAction::enterGroup(SoGroup* group)
+bool SoRayPickAction::wantsGroup(SoGroup* group)
 {
-    const auto* separator = group->isIsolating() ? dynamic_cast<const SoSeparator*>(group) : nullptr;
+    const SoSeparator* separator = group->asSeparator();
     if (!separator || !SoBoundingBoxAction::isValid(*separator, state()))
         return true;
     const SbBox3f& box = separator->boxCache().box;

@@ -33,7 +33,7 @@ public:
 
 private:
     struct Hit;
-    bool enterGroup(SoGroup* group) override;
+    bool wantsGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void pickShape(SoShape* shape, const SbMatrix& toWorld);
     void take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld);

@@ -47,6 +47,9 @@ struct SoLightSource {
     }
 };
 
+static_assert(sizeof(SoLightSource) == sizeof(int) + 14 * sizeof(float),
+              "without padding, so that bytes tell it apart");
+
 // Lists that a separator puts back are shared, never changed: adding makes a longer copy.
 template <class T>
 using SoShared = std::shared_ptr<const std::vector<T>>;

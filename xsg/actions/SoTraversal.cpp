@@ -5,11 +5,12 @@
 SoTraversal::SoTraversal() = default;
 SoTraversal::~SoTraversal() = default;
 
-bool SoTraversal::enterGroup(SoGroup* /*group*/)
+bool SoTraversal::wantsGroup(SoGroup* /*group*/)
 {
     return true;
 }
 
+void SoTraversal::enterGroup(SoGroup* /*group*/) {}
 void SoTraversal::leaveGroup(SoGroup* /*group*/) {}
 void SoTraversal::visitShape(SoShape* /*shape*/) {}
 void SoTraversal::visitProperty(SoNode* /*node*/) {}
@@ -45,15 +46,15 @@ void SoTraversal::visit(SoNode* node)
 
 void SoTraversal::openGroup(SoGroup* group)
 {
+    if (!wantsGroup(group))
+        return;
     const bool isolates = group->isIsolating();
     if (isolates)
         m_saved.push_back(m_state);
     group->apply(m_state);
     const SoChildRange range = group->getChosenChildren(m_state);
-    if (enterGroup(group))
-        m_frames.push_back({group, range.first - 1, range.last, isolates});
-    else if (isolates)
-        restoreState();
+    enterGroup(group);
+    m_frames.push_back({group, range.first - 1, range.last, isolates});
 }
 
 void SoTraversal::closeGroup()

@@ -20,9 +20,11 @@ public:
     void traverse(SoNode* root);
 
 protected:
-    // With the state as the group's children will see it; false skips them.
-    virtual bool enterGroup(SoGroup* group);
-    // With the state as what follows the group will see it. Not called for a skipped group.
+    // Before a group, with the state as it is there; false skips the group and leaves the state.
+    virtual bool wantsGroup(SoGroup* group);
+    // With the state as the group's children will see it.
+    virtual void enterGroup(SoGroup* group);
+    // With the state as what follows the group will see it.
     virtual void leaveGroup(SoGroup* group);
     virtual void visitShape(SoShape* shape);
     // Any other node, after it has changed the state.

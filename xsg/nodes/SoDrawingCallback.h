@@ -28,6 +28,7 @@ public:
     void setCallback(Callback callback);
     const Callback& getCallback() const { return m_callback; }
 
+    const SoDrawingCallback* asDrawingCallback() const override { return this; }
     void generate(const SoState& state, SoGeometry& geometry) const override;
     SoGeometryKey getGeometryKey(const SoState& state) const override;
     SbBox3f getBox(const SoState& state) const override;

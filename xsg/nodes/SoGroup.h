@@ -10,6 +10,8 @@ struct SoChildRange {
     int last;
 };
 
+class SoSeparator;
+
 class XSG_API SoGroup : public SoTyped<SoGroup, SoNode>
 {
 public:
@@ -30,6 +32,8 @@ public:
     bool replaceChild(int index, SoNode* child);
 
     SoGroup* asGroup() override { return this; }
+    // This group as one that remembers its box, or null; cheaper than a cast.
+    virtual const SoSeparator* asSeparator() const { return nullptr; }
     // Whether what the children set ends with the group.
     virtual bool isIsolating() const { return false; }
     // Whether the choice below depends on where the camera is.

@@ -10,6 +10,7 @@ public:
     static constexpr const char* ClassName = "Separator";
 
     bool isIsolating() const override { return true; }
+    const SoSeparator* asSeparator() const override { return this; }
 
     // The box around what is below, in the coordinates at the separator. It holds as long as nothing below
     // changes and the points that shapes below may take from before the separator stay the same.

@@ -5,6 +5,8 @@
 #include <xsg/actions/SoState.h>
 #include <xsg/nodes/SoNode.h>
 
+class SoDrawingCallback;
+
 class XSG_API SoShape : public SoTyped<SoShape, SoNode>
 {
 public:
@@ -20,6 +22,7 @@ public:
     virtual SbBox3f getBox(const SoState& state) const = 0;
 
     SoShape* asShape() override { return this; }
+    virtual const SoDrawingCallback* asDrawingCallback() const { return nullptr; }
 };
 
 extern template class SoTyped<SoShape, SoNode>;

@@ -42,8 +42,9 @@ xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& s
         SoGeometry geometry;
         shape.generate(state, geometry);
         upload(geometry, kept);
+        kept.key = place->first;
     }
-    kept.usedAt = m_round;
+    ++kept.users;
     return &kept;
 }
 
@@ -72,16 +73,33 @@ void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
     ++m_uploads;
 }
 
-void xsg::GeometryStore::endRound()
+void xsg::GeometryStore::giveBack(GpuGeometry* geometry)
 {
-    for (auto it = m_geometry.begin(); it != m_geometry.end();) {
-        if (it->second.usedAt == m_round) {
-            ++it;
-            continue;
-        }
-        ::release(it->second);
-        it = m_geometry.erase(it);
+    if (--geometry->users == 0)
+        m_unused.push_back(geometry);
+}
+
+void xsg::GeometryStore::giveAllBack()
+{
+    m_unused.clear();
+    for (auto& [key, geometry] : m_geometry) {
+        geometry.users = 0;
+        m_unused.push_back(&geometry);
     }
+}
+
+void xsg::GeometryStore::removeUnused()
+{
+    // The same one may be listed twice: it was taken up and given back in between.
+    std::sort(m_unused.begin(), m_unused.end());
+    m_unused.erase(std::unique(m_unused.begin(), m_unused.end()), m_unused.end());
+    for (GpuGeometry* geometry : m_unused) {
+        if (geometry->users > 0)
+            continue;
+        ::release(*geometry);
+        m_geometry.erase(SoGeometryKey(geometry->key));
+    }
+    m_unused.clear();
 }
 
 void xsg::GeometryStore::release()
@@ -89,4 +107,5 @@ void xsg::GeometryStore::release()
     for (auto& [key, geometry] : m_geometry)
         ::release(geometry);
     m_geometry.clear();
+    m_unused.clear();
 }

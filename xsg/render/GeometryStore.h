@@ -18,18 +18,19 @@ struct GpuGeometry {
     GlVertexArray vertexArray;
     GlBuffer vertices;
     GlBuffer indices;
-    std::uint64_t usedAt = 0;
+    std::int64_t users = 0; // things to draw that use it
+    SoGeometryKey key;
 };
 
 class GeometryStore
 {
 public:
-    // The shape's geometry, uploaded where it was not there; valid until it was not asked for in a whole
-    // round.
+    // The shape's geometry, uploaded where it was not there, with one user more.
     GpuGeometry* get(const SoShape& shape, const SoState& state);
-    void beginRound() { ++m_round; }
-    // Gives back what was not asked for since beginRound().
-    void endRound();
+    // One user less; what has no user any more goes with removeUnused().
+    void giveBack(GpuGeometry* geometry);
+    void giveAllBack();
+    void removeUnused();
     void release();
     std::int64_t getUploadedBytes() const { return m_uploadedBytes; }
     std::int64_t getUploads() const { return m_uploads; }
@@ -38,9 +39,9 @@ private:
     void upload(const SoGeometry& geometry, GpuGeometry& to);
 
     std::unordered_map<SoGeometryKey, GpuGeometry, SoGeometryKeyHash> m_geometry;
-    std::uint64_t m_round = 0;
     std::int64_t m_uploadedBytes = 0;
     std::int64_t m_uploads = 0;
+    std::vector<GpuGeometry*> m_unused; // perhaps used again since
 };
 
 } // namespace xsg

@@ -3,6 +3,7 @@
 #include <xsg/nodes/SoCamera.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/nodes/SoLight.h>
 #include <xsg/nodes/SoTexture2.h>
 
 #include <tuple>
@@ -15,6 +16,17 @@ auto ordered(const xsg::Surroundings& s)
     const SbColor& a = s.ambientLight;
     return std::make_tuple(s.texture, s.textureModel, s.lights.get(), s.clipPlanes.get(),
                            s.textureMatrix.get(), s.fog, s.drawStyle, a[0], a[1], a[2]);
+}
+
+// How often the group's own fields changed; what happens to its children is not in it.
+std::uint32_t ownChanges(const SoGroup& group)
+{
+    std::uint32_t sum = 0;
+    const SoFieldData* data = group.getFieldData();
+    const int count = data->getNumFields();
+    for (int i = 0; i < count; ++i)
+        sum += data->getField(&group, i)->getChangeCount();
+    return sum;
 }
 
 void put(float* four, const SbVec3f& color, float fourth)
@@ -32,15 +44,16 @@ bool xsg::Surroundings::operator<(const Surroundings& other) const
 
 bool xsg::RenderList::update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures)
 {
-    const bool same = root->getNodeId() == m_rootId && root->getChangeCount() == m_rootCount &&
-                      view.camera == m_view.camera && view.highlight == m_view.highlight &&
-                      (!m_isViewDependent || view.eye == m_view.eye);
-    if (same)
+    const bool sameView = root->getNodeId() == m_rootId && view.camera == m_view.camera &&
+                          view.highlight == m_view.highlight &&
+                          (!m_isViewDependent || view.eye == m_view.eye);
+    if (sameView && root->getChangeCount() == m_rootCount)
         return false;
     m_view = view;
     m_geometry = &geometry;
     m_textures = &textures;
-    build(root);
+    if (!sameView || !patch(root))
+        build(root);
     m_rootId = root->getNodeId();
     m_rootCount = root->getChangeCount();
     return true;
@@ -52,10 +65,14 @@ void xsg::RenderList::clear()
     m_opaque.clear();
     m_transparent.clear();
     m_callbacks.clear();
+    m_records.clear();
     m_surroundingsIndex.clear();
     m_surroundings.clear();
     m_lastSurroundingsIndex = -1;
     m_lastSurroundings = {};
+    m_lights.clear();
+    m_clipPlanes.clear();
+    m_textureMatrices.clear();
     m_box = {};
     m_camera = nullptr;
     m_cameraMatrix = {};
@@ -68,81 +85,230 @@ void xsg::RenderList::clear()
 void xsg::RenderList::build(SoNode* root)
 {
     clear();
-    m_geometry->beginRound();
+    m_geometry->giveAllBack();
     m_textures->beginRound();
+    m_openRecords.clear();
     resetState();
     state().eye = m_view.eye;
     traverse(root);
-    m_geometry->endRound();
+    m_geometry->removeUnused();
     m_textures->endRound();
+    m_builtSurroundings = m_surroundings.size();
+    collectBox();
     sort();
 }
 
-bool xsg::RenderList::enterGroup(SoGroup* group)
+bool xsg::RenderList::patch(SoNode* root)
 {
+    // Surroundings that are not used any more stay until the next build.
+    if (m_records.empty() || m_surroundings.size() > 2 * m_builtSurroundings + 64)
+        return false;
+    m_isPatching = true;
+    m_gaveUp = false;
+    m_reaches = false;
+    m_needsSorting = false;
+    m_cursor = 0;
+    m_highlightDepth = 0;
+    m_reachesBefore.clear();
+    resetState();
+    state().eye = m_view.eye;
+    traverse(root);
+    m_isPatching = false;
+    if (m_gaveUp || m_cursor != m_records.size())
+        return false;
+    m_geometry->removeUnused();
+    collectBox();
+    if (m_needsSorting)
+        sort();
+    return true;
+}
+
+// Whether the walk meets the node that it met at this place before.
+bool xsg::RenderList::follow(const SoNode* node)
+{
+    if (m_cursor < m_records.size() && m_records[m_cursor].nodeId == node->getNodeId())
+        return true;
+    giveUp();
+    return false;
+}
+
+void xsg::RenderList::giveUp()
+{
+    m_gaveUp = true;
+    stop();
+}
+
+void xsg::RenderList::record(const SoNode* node, std::uint32_t changeCount)
+{
+    m_records.push_back({node->getNodeId(), changeCount, node->getChangeCount(),
+                         static_cast<std::uint32_t>(m_items.size()), 0});
+}
+
+bool xsg::RenderList::wantsGroup(SoGroup* group)
+{
+    if (m_isPatching)
+        return wantsToPatch(group);
     m_isViewDependent = m_isViewDependent || group->isViewDependent();
+    m_openRecords.push_back(static_cast<std::uint32_t>(m_records.size()));
+    record(group, ownChanges(*group));
+    return true;
+}
+
+bool xsg::RenderList::wantsToPatch(const SoGroup* group)
+{
+    if (!follow(group))
+        return false;
+    Record& known = m_records[m_cursor];
+    const bool isSame = known.wholeCount == group->getChangeCount();
+    if (!m_reaches && isSame && group->isIsolating()) {
+        m_cursor = known.end;
+        return false;
+    }
+    // A group's own fields choose or repeat its children.
+    if (!isSame && known.changeCount != ownChanges(*group)) {
+        giveUp();
+        return false;
+    }
+    known.wholeCount = group->getChangeCount();
+    ++m_cursor;
+    return true;
+}
+
+void xsg::RenderList::enterGroup(SoGroup* group)
+{
     if (group == m_view.highlight)
         ++m_highlightDepth;
-    return true;
+    if (m_isPatching && group->isIsolating())
+        m_reachesBefore.push_back(m_reaches ? 1 : 0);
 }
 
 void xsg::RenderList::leaveGroup(SoGroup* group)
 {
     if (group == m_view.highlight)
         --m_highlightDepth;
+    if (!m_isPatching) {
+        m_records[m_openRecords.back()].end = static_cast<std::uint32_t>(m_records.size());
+        m_openRecords.pop_back();
+    } else if (group->isIsolating()) {
+        m_reaches = m_reachesBefore.back() != 0;
+        m_reachesBefore.pop_back();
+    }
 }
 
 void xsg::RenderList::visitProperty(SoNode* node)
 {
-    if (state().camera == node && (m_view.camera ? node == m_view.camera : !m_camera)) {
+    const bool isCamera = state().camera == node;
+    if (isCamera && (m_view.camera ? node == m_view.camera : !m_camera || m_camera == node)) {
         m_camera = state().camera;
         m_cameraMatrix = state().modelMatrix;
     }
-    m_hasLights = m_hasLights || (state().lights && !state().lights->empty());
+    if (m_isPatching) {
+        patchProperty(node, isCamera);
+        return;
+    }
+    m_hasLights = m_hasLights || state().lights;
+    record(node, node->getChangeCount());
+}
+
+void xsg::RenderList::patchProperty(const SoNode* node, bool isCamera)
+{
+    if (!follow(node))
+        return;
+    Record& known = m_records[m_cursor++];
+    if (known.changeCount == node->getChangeCount())
+        return;
+    known.changeCount = node->getChangeCount();
+    // Whether there is any light concerns the whole scene, and textures that nobody uses go with the next
+    // build.
+    if (dynamic_cast<const SoLight*>(node) || dynamic_cast<const SoTexture2*>(node))
+        giveUp();
+    m_reaches = m_reaches || !isCamera;
 }
 
 void xsg::RenderList::visitShape(SoShape* shape)
 {
+    if (m_isPatching) {
+        patchShape(shape);
+        return;
+    }
+    record(shape, shape->getChangeCount());
     if (state().drawStyle && !state().drawStyle->isVisible())
         return;
-    if (const auto* callback = dynamic_cast<const SoDrawingCallback*>(shape))
+    if (const SoDrawingCallback* callback = shape->asDrawingCallback())
         m_callbacks.push_back({callback, state().modelMatrix});
-    state().forEachInstance([&](const SbMatrix& matrix) { addItem(shape, matrix); });
+    state().forEachInstance([&](const SbMatrix& matrix) { fillItem(m_items.emplace_back(), shape, matrix); });
 }
 
-void xsg::RenderList::addItem(const SoShape* shape, const SbMatrix& toWorld)
+void xsg::RenderList::patchShape(SoShape* shape)
 {
-    const SbBox3f box = toWorld.transform(shape->getBox(state()));
-    m_box.extendBy(box);
-    GpuGeometry* geometry = m_geometry->get(*shape, state());
-    if (geometry->indexCount == 0)
+    if (!follow(shape))
         return;
-    RenderItem& item = m_items.emplace_back();
+    Record& known = m_records[m_cursor++];
+    if (!m_reaches && known.changeCount == shape->getChangeCount())
+        return;
+    known.changeCount = shape->getChangeCount();
+    const bool isVisible = !state().drawStyle || state().drawStyle->isVisible();
+    const std::size_t copies = !isVisible ? 0 : state().instances ? state().instances->size() : 1;
+    if (firstItemAfter(m_cursor - 1) - known.firstItem != copies || shape->asDrawingCallback()) {
+        giveUp();
+        return;
+    }
+    std::uint32_t at = known.firstItem;
+    if (isVisible)
+        state().forEachInstance([&](const SbMatrix& matrix) { patchItem(m_items[at++], shape, matrix); });
+}
+
+void xsg::RenderList::patchItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld)
+{
+    GpuGeometry* geometry = item.geometry;
+    const int surroundings = item.surroundings;
+    const bool isTransparent = item.isTransparent;
+    fillItem(item, shape, toWorld);
+    m_geometry->giveBack(geometry);
+    if (item.geometry != geometry || item.surroundings != surroundings || item.isTransparent != isTransparent)
+        m_needsSorting = true;
+}
+
+std::uint32_t xsg::RenderList::firstItemAfter(std::size_t recordIndex) const
+{
+    return recordIndex + 1 < m_records.size() ? m_records[recordIndex + 1].firstItem
+                                              : static_cast<std::uint32_t>(m_items.size());
+}
+
+void xsg::RenderList::fillItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld)
+{
     const SoMaterialState& material = state().material;
     std::copy_n((shape->getPlacement() * toWorld).getValue(), 16, item.instance.matrix);
     put(item.instance.diffuse, material.diffuse, 1 - std::clamp(material.transparency, 0.0F, 1.0F));
     put(item.instance.ambient, material.ambient, material.shininess);
     put(item.instance.specular, material.specular, 1);
     put(item.instance.emissive, material.emissive, 1);
-    item.box = box;
-    item.geometry = geometry;
+    item.box = toWorld.transform(shape->getBox(state()));
+    item.geometry = m_geometry->get(*shape, state());
     item.surroundings = surroundingsNow();
     const GpuTexture* texture = m_lastSurroundings.texture;
     item.isTransparent = material.transparency > 0 || (texture && texture->hasAlpha);
     item.isHighlighted = m_highlightDepth > 0 || shape == m_view.highlight;
 }
 
+void xsg::RenderList::collectBox()
+{
+    m_box = {};
+    for (const RenderItem& item : m_items)
+        m_box.extendBy(item.box);
+}
+
 int xsg::RenderList::surroundingsNow()
 {
     const SoState& s = state();
     Surroundings now;
-    now.lights = s.lights;
-    now.clipPlanes = s.clipPlanes;
+    now.lights = m_lights.get(s.lights);
+    now.clipPlanes = m_clipPlanes.get(s.clipPlanes);
     now.ambientLight = s.ambientLight;
     now.texture = m_textures->get(s.texture, s.textureQuality);
     if (now.texture) {
         now.textureModel = s.texture->model.getValue();
-        now.textureMatrix = s.textureMatrix;
+        now.textureMatrix = m_textureMatrices.get(s.textureMatrix);
     }
     now.fog = s.fog;
     now.drawStyle = s.drawStyle;
@@ -158,8 +324,12 @@ int xsg::RenderList::surroundingsNow()
 
 void xsg::RenderList::sort()
 {
-    for (std::uint32_t i = 0; i < m_items.size(); ++i)
-        (m_items[i].isTransparent ? m_transparent : m_opaque).push_back(i);
+    m_opaque.clear();
+    m_transparent.clear();
+    for (std::uint32_t i = 0; i < m_items.size(); ++i) {
+        if (m_items[i].geometry->indexCount > 0)
+            (m_items[i].isTransparent ? m_transparent : m_opaque).push_back(i);
+    }
     const auto key = [&](std::uint32_t i) {
         // By the geometry's index buffer, since addresses would differ from run to run.
         return std::make_tuple(m_items[i].surroundings, m_items[i].geometry->indices.get(), i);

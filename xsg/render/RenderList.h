@@ -5,6 +5,7 @@
 #include <xsg/base/SbBox.h>
 #include <xsg/render/GeometryStore.h>
 #include <xsg/render/Shader.h>
+#include <xsg/render/SharedLists.h>
 #include <xsg/render/TextureStore.h>
 
 #include <map>
@@ -44,6 +45,9 @@ struct CallbackItem {
     SbMatrix modelMatrix;
 };
 
+// After a change of fields only the items that the change reaches are made anew, on a walk that skips every
+// isolating group without a change in it; the walk is compared with a record of the one before. Whatever else
+// changed (children, choices, lights, textures) has the list built again as a whole.
 class RenderList : private SoTraversal
 {
 public:
@@ -73,13 +77,33 @@ public:
     int getNumVisited() const { return SoTraversal::getNumVisited(); }
 
 private:
-    bool enterGroup(SoGroup* group) override;
+    bool wantsGroup(SoGroup* group) override;
+    void enterGroup(SoGroup* group) override;
     void leaveGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void visitProperty(SoNode* node) override;
 
+    // A node as the last walk met it.
+    struct Record {
+        std::uint64_t nodeId;
+        std::uint32_t changeCount; // of a group: of its own fields only
+        std::uint32_t wholeCount;  // of a group: with everything below
+        std::uint32_t firstItem;   // what a shape added
+        std::uint32_t end;         // of a group: the place after its last descendant
+    };
+
     void build(SoNode* root);
-    void addItem(const SoShape* shape, const SbMatrix& toWorld);
+    bool patch(SoNode* root);
+    bool follow(const SoNode* node);
+    void giveUp();
+    void record(const SoNode* node, std::uint32_t changeCount);
+    bool wantsToPatch(const SoGroup* group);
+    void patchProperty(const SoNode* node, bool isCamera);
+    void patchShape(SoShape* shape);
+    void patchItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld);
+    std::uint32_t firstItemAfter(std::size_t recordIndex) const;
+    void fillItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld);
+    void collectBox();
     int surroundingsNow();
     void sort();
 
@@ -97,6 +121,22 @@ private:
     bool m_hasLights = false;
     bool m_isViewDependent = false;
     int m_highlightDepth = 0;
+
+    // Lists that shapes have in common, so that equal ones are the same one however often the scene is
+    // walked.
+    SharedLists<SoLightSource> m_lights;
+    SharedLists<SbPlane> m_clipPlanes;
+    SharedLists<SbMatrix> m_textureMatrices;
+
+    std::vector<Record> m_records;
+    std::vector<std::uint32_t> m_openRecords; // of the groups that are open
+    bool m_isPatching = false;
+    bool m_gaveUp = false;
+    bool m_reaches = false; // a change before this place reaches what is visited
+    bool m_needsSorting = false;
+    std::size_t m_cursor = 0;
+    std::vector<char> m_reachesBefore; // of the isolating groups that are open
+    std::size_t m_builtSurroundings = 0;
 
     View m_view;
     GeometryStore* m_geometry = nullptr;

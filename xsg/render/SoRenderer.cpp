@@ -136,7 +136,7 @@ bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, i
         drawCallbacks(eye, width, height);
         drawTransparent(frustum, eye);
         drawHighlighted();
-        statistics.shapes = static_cast<std::int64_t>(list.getItems().size());
+        statistics.shapes = static_cast<std::int64_t>(list.getOpaque().size() + list.getTransparent().size());
         statistics.bufferUploads += m_geometry.getUploads() - uploads;
         statistics.uploadedBytes += m_geometry.getUploadedBytes() - bytes;
         statistics.textureBytes = m_textures.getUploadedBytes() - textureBytes;
@@ -264,7 +264,7 @@ void SoRenderer::Impl::drawHighlighted()
     if (!highlight)
         return;
     for (const xsg::RenderItem& item : list.getItems()) {
-        if (item.isHighlighted)
+        if (item.isHighlighted && item.geometry->indexCount > 0)
             add(item);
     }
     if (m_drawn.empty())

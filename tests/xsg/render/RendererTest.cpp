@@ -333,6 +333,110 @@ TEST_F(Renderer, GeometryIsUploadedOnlyWhenItsFieldsChange)
     EXPECT_EQ(statistics.nodes, 0);
 }
 
+TEST_F(Renderer, AFieldChangeCostsTheNodesAboveItAndWhatItReaches)
+{
+    SoMaterial* material = nullptr;
+    SoTransform* transform = nullptr;
+    add<SoDirectionalLight>();
+    for (int i = 0; i < 100; ++i) {
+        auto* group = new SoSeparator;
+        transform = new SoTransform;
+        material = new SoMaterial;
+        transform->translation.setValue(static_cast<float>(i % 10) * 0.2F - 1, 0, 0);
+        transform->scaleFactor.setValue(0.1F, 0.1F, 0.1F);
+        for (SoNode* node : std::initializer_list<SoNode*>{transform, material, new SoCube, new SoSphere})
+            group->addChild(node);
+        root->addChild(group);
+    }
+    const auto& statistics = renderer().getRenderer().getStatistics();
+    draw();
+    EXPECT_EQ(statistics.nodes, 502);
+    const auto expectAsAfresh = [&](int nodes) {
+        const SoPixels patched = draw();
+        EXPECT_EQ(statistics.nodes, nodes);
+        const SbBox3f box = renderer().getRenderer().getSceneBox();
+        draw(16, 16);
+        EXPECT_EQ(statistics.nodes, 0);
+        renderer().getRenderer().setHighlight(material); // has everything built anew, and marks nothing
+        EXPECT_EQ(draw().rgba, patched.rgba);
+        EXPECT_EQ(statistics.nodes, 502);
+        EXPECT_EQ(renderer().getRenderer().getSceneBox(), box);
+        renderer().getRenderer().setHighlight(nullptr);
+        draw();
+    };
+    material->diffuseColor.setValue(SbColor(1, 0, 0));
+    expectAsAfresh(106);
+    transform->translation.setValue(0, 1, 0);
+    expectAsAfresh(106);
+    material->transparency.setValue(0.5F);
+    expectAsAfresh(106);
+    material->transparency.setValue(0);
+    static_cast<SoSphere*>(static_cast<SoSeparator*>(root->getChild(50))->getChild(3))->radius.setValue(7);
+    material->diffuseColor.setValue(SbColor(0, 1, 0));
+    expectAsAfresh(110);
+}
+
+TEST_F(Renderer, WhatAPatchCannotDoIsBuiltAnew)
+{
+    auto* light = add<SoDirectionalLight>();
+    auto* group = new SoSeparator;
+    root->addChild(group);
+    auto* style = new SoDrawStyle;
+    group->addChild(style);
+    group->addChild(new SoCube);
+    addMaterial({1, 0, 0});
+    auto* sphere = add<SoSphere>();
+    sphere->radius.setValue(1.4F); // looks out of the cube
+    const SoPixels first = draw();
+    const auto triangles = renderer().getRenderer().getStatistics().triangles;
+    style->style.setValue(SoDrawStyle::Invisible);
+    draw();
+    EXPECT_EQ(renderer().getRenderer().getStatistics().triangles, triangles - 12);
+    style->style.setValue(SoDrawStyle::Filled);
+    EXPECT_EQ(draw().rgba, first.rgba);
+    light->on.setValue(false);
+    light->on.setValue(true);
+    EXPECT_EQ(draw().rgba, first.rgba);
+    group->addChild(new SoSphere);
+    sphere->radius.setValue(0.5F);
+    EXPECT_NE(draw().rgba, first.rgba);
+    group->removeChild(2);
+    sphere->radius.setValue(1.4F);
+    EXPECT_EQ(draw().rgba, first.rgba);
+    SoRef<SoNode> last(root->getChild(3));
+    root->removeChild(3);
+    EXPECT_NE(draw().rgba, first.rgba);
+    root->addChild(last.get());
+    EXPECT_EQ(draw().rgba, first.rgba);
+}
+
+TEST_F(Renderer, ACameraInTheSceneMovesWithoutAWalkOverTheScene)
+{
+    auto* holder = add<SoTransform>();
+    auto* inside = add<SoPerspectiveCamera>();
+    inside->position.setValue(0, 0, 5);
+    for (int i = 0; i < 50; ++i) {
+        auto* group = new SoSeparator;
+        group->addChild(new SoCube);
+        root->addChild(group);
+    }
+    SoPixels pixels;
+    const auto show = [&] { ASSERT_TRUE(renderer().render(root.get(), nullptr, 32, 32, pixels)); };
+    show();
+    EXPECT_GT(center(pixels)[0], 100);
+    inside->position.setValue(0, 9, 5);
+    show();
+    EXPECT_PIXEL(center(pixels), Background);
+    EXPECT_EQ(renderer().getRenderer().getStatistics().nodes, 53);
+    inside->position.setValue(0, 0, 5);
+    holder->translation.setValue(0, 1, 0);
+    show();
+    EXPECT_GT(center(pixels)[0], 100); // camera and cubes moved alike
+    inside->position.setValue(0, -0.9F, 5);
+    show();
+    EXPECT_GT(center(pixels)[0], 100);
+}
+
 TEST_F(Renderer, EqualShapesAreDrawnByOneCall)
 {
     for (int i = 0; i < 100; ++i) {

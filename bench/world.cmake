@@ -1,0 +1,1 @@
+scopix_add_bench(world_actions Scopix::xsg benchmark::benchmark)

@@ -1,0 +1,131 @@
+// What it costs to measure, pick, draw, read and write a world of separators, each with a transform and a
+// cube. The argument is the number of separators; time per separator should not grow with it.
+#include "world_scene.h"
+
+#include <benchmark/benchmark.h>
+
+#include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/actions/SoRayPickAction.h>
+#include <xsg/io/SoSceneFile.h>
+#include <xsg/render/SoOffscreenRenderer.h>
+
+namespace
+{
+
+void perSeparator(benchmark::State& state)
+{
+    state.counters["perSeparator"] =
+        benchmark::Counter(static_cast<double>(state.range(0)),
+                           benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void boxAfresh(benchmark::State& state)
+{
+    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (SoNode* child : world->getChildren())
+            static_cast<SoSeparator*>(child)->boxCache().isValid = false;
+        world->boxCache().isValid = false;
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(SoBoundingBoxAction().getBox(world.get()));
+    }
+    perSeparator(state);
+}
+
+void boxAfterOneChange(benchmark::State& state)
+{
+    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    float x = 0;
+    for (auto _ : state) {
+        lastTransform(*world).translation.setValue(x += 0.001F, 0, 0);
+        benchmark::DoNotOptimize(SoBoundingBoxAction().getBox(world.get()));
+    }
+    perSeparator(state);
+}
+
+void pick(benchmark::State& state)
+{
+    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    const SbVec3f target = lastTransform(*world).translation.getValue();
+    SoRayPickAction action;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(action.pick(world.get(), {target + SbVec3f(0, 0, 10), {0, 0, -1}}));
+    perSeparator(state);
+}
+
+// Small pictures, so that walking and drawing calls are what is measured, not filling pixels.
+void draw(benchmark::State& state, const std::function<void(SoSeparator&)>& change)
+{
+    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
+    camera->viewAll(SoBoundingBoxAction().getBox(world.get()), 1);
+    SoOffscreenRenderer renderer;
+    renderer.setSamples(1);
+    SoPixels pixels;
+    if (!renderer.render(world.get(), camera.get(), 64, 64, pixels)) {
+        state.SkipWithError(renderer.getErrorText().c_str());
+        return;
+    }
+    double seconds = 0;
+    for (auto _ : state) {
+        change(*world);
+        renderer.render(world.get(), camera.get(), 64, 64, pixels);
+        seconds += renderer.getRenderer().getStatistics().seconds;
+    }
+    state.counters["rendererSeconds"] = benchmark::Counter(seconds / static_cast<double>(state.iterations()));
+    perSeparator(state);
+}
+
+void drawUnchanged(benchmark::State& state)
+{
+    draw(state, [](SoSeparator&) {});
+}
+
+void drawAfterOneChange(benchmark::State& state)
+{
+    float x = 0;
+    draw(state, [&](SoSeparator& world) { lastTransform(world).translation.setValue(x += 0.001F, 0, 0); });
+}
+
+void drawAfterAChangeOfChildren(benchmark::State& state)
+{
+    draw(state, [](SoSeparator& world) {
+        world.addChild(new SoSeparator);
+        world.removeChild(world.getNumChildren() - 1);
+    });
+}
+
+void writeText(benchmark::State& state)
+{
+    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    std::size_t bytes = 0;
+    for (auto _ : state)
+        bytes = SoSceneFile::writeText(world.get()).size();
+    state.counters["bytesPerSeparator"] = static_cast<double>(bytes) / static_cast<double>(state.range(0));
+    perSeparator(state);
+}
+
+void readText(benchmark::State& state)
+{
+    const std::string text = SoSceneFile::writeText(makeWorld(static_cast<int>(state.range(0))).get());
+    std::string error;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SoSceneFile::readText(text, "bench", error));
+    perSeparator(state);
+}
+
+} // namespace
+
+BENCHMARK(boxAfresh)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(boxAfterOneChange)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(pick)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(drawUnchanged)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(drawAfterOneChange)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(drawAfterAChangeOfChildren)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(writeText)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(readText)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK_MAIN();
