@@ -21,6 +21,8 @@ bool SpxDefaults::load()
 {
     SpxExtension* const registration[] = {
         // Extensions: profile selector, console, performance counters.
+        &m_profileSelector,
+        &m_console,
         &m_perfCounters,
 
         // Editors of multi-value fields; after MFDouble comes the single-value editor of file paths.

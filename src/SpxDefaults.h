@@ -46,9 +46,11 @@
 #include "EdSFVec2sWidget.h"
 #include "EdSFVec3fWidget.h"
 #include "EdSFVec4fWidget.h"
+#include "SpxConsole.h"
 #include "SpxFieldEditorDockWin.h"
 #include "SpxNodeEditor.h"
 #include "SpxPerfCounterExtension.h"
+#include "SpxProfileSelectorExtension.h"
 
 #include <scopix/SpxPlugin.h>
 
@@ -62,7 +64,9 @@ public:
 
 private:
     // Extensions: profile selector, performance counters, console.
+    SpxProfileSelectorExtension m_profileSelector;
     SpxPerfCounterExtension m_perfCounters;
+    SpxConsole m_console;
 
     // Editors of multi-value fields.
     EdMFColorWidget m_mfColor;

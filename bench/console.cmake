@@ -1,0 +1,2 @@
+scopix_add_bench(console_lines SpxDefaultsObjects)
+target_sources(bench_console_lines PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/TestHost.cpp")

@@ -1,0 +1,12 @@
+// One text that the console prints.
+#pragma once
+
+#include <QString>
+
+struct ConsoleMessage {
+    enum Kind { Error = 0, Info = 1, Warning = 2 };
+    static constexpr int KindCount = 3;
+
+    QString text;
+    int kind;
+};

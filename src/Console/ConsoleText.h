@@ -1,0 +1,40 @@
+// What the console's text edit holds: paragraphs of plain text in the colour of their kind, the newest
+// maxLines of them. Leaves the person's selection alone, and what the person looks at in its place. GUI
+// thread only.
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QVector>
+
+class ConsoleTextLayout;
+class QTextCursor;
+class QTextEdit;
+class ScrollFollower;
+
+class ConsoleText
+{
+public:
+    struct Paragraphs {
+        QString text;
+        QColor color;
+    };
+
+    // The edit outlives this object. A piece of a line that is too long to be shown in one counts as a line.
+    ConsoleText(QTextEdit& edit, int maxLines);
+
+    void append(const QVector<Paragraphs>& texts);
+    void clear();
+    // With the pieces of long lines joined again.
+    QString plainText() const;
+
+private:
+    void setTextColor(const QColor& color);
+    void holdView(int newPieces);
+    void insertParagraphs(QTextCursor& cursor, const Paragraphs& paragraphs);
+
+    QTextEdit& m_edit;
+    ConsoleTextLayout* m_layout; // the document's
+    ScrollFollower* m_follower;  // the scroll bar's
+    int m_maxLines;
+};
