@@ -98,7 +98,7 @@ void EdSFImageWidget::load()
     const int size = xsgsettings_fieldEditor(QStringLiteral("SFBoolWidth"));
     m_imageBox = new EdSFImageLabel(size, size, editionFrame(), "m_imageBox");
     m_imageBox->setAccessibleName(tr("Picture"));
-    editLayout()->addWidget(m_imageBox);
+    editLayout()->addWidget(m_imageBox, 0, Qt::AlignLeft);
     addWindow(m_imageBox->enlargedView());
 }
 

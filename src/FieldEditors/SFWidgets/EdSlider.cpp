@@ -54,14 +54,14 @@ void EdSlider::build(SliderParentType parentType)
     m_slider->setTracking(true);
     m_slider->setMinimumWidth(inTable ? 30 : 60);
     m_slider->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_lineEdit->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-00000.000000")));
-    m_lineEdit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_lineEdit->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0.000000 ")));
+    m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lineEdit->setEscapePassed(inTable);
     EdWheelGuard::install(m_slider);
 
     m_layout->addWidget(m_checkBox);
-    m_layout->addWidget(m_slider, 1);
-    m_layout->addWidget(m_lineEdit);
+    m_layout->addWidget(m_slider, 3);
+    m_layout->addWidget(m_lineEdit, 2);
     setTabOrder(m_checkBox, m_slider);
     setTabOrder(m_slider, m_lineEdit);
     setFocusProxy(m_lineEdit);
