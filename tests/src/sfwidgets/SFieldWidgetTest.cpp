@@ -83,9 +83,8 @@ TEST(SFieldWidgetTest, HiddenUntilActivated)
     SoSFFloat field;
     TestHost host;
     EdSFFloatWidget editor(nullptr);
-    editor.load();
+    host.start(editor); // without a field there is nothing to show
     EXPECT_TRUE(editor.getWidget()->isHidden());
-    editor.unload();
     host.edit(editor, &field);
     EXPECT_FALSE(editor.getWidget()->isHidden());
     host.release(editor);
