@@ -22,8 +22,18 @@ endfunction()
 
 scopix_install_library(xsg xsg)
 scopix_install_headers(xsg xsg)
+
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_install_headers(extender scopix)
+
+scopix_install_library(ScopixHost Host)
+scopix_install_headers(scopix scopix-host)
+set_property(TARGET ScopixHost APPEND PROPERTY
+  INTERFACE_INCLUDE_DIRECTORIES "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/scopix-host>")
+
+set_target_properties(scopix PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+install(TARGETS scopix RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/data/" DESTINATION "${CMAKE_INSTALL_DATADIR}/scopix")
 
 set_target_properties(SpxDefaults PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
 install(TARGETS SpxDefaults LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
