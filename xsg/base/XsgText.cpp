@@ -4,8 +4,8 @@
 
 bool XsgTextReader::isWordByte(char c)
 {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'
-        || static_cast<unsigned char>(c) > 127;
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) > 127;
 }
 
 std::string_view XsgTextReader::readWord()
@@ -34,12 +34,22 @@ bool XsgTextReader::readEscape(std::string& out)
         return false;
     unsigned code = 0;
     switch (const char c = *m_at++) {
-    case 'n': out += '\n'; return true;
-    case 'r': out += '\r'; return true;
-    case 't': out += '\t'; return true;
-    case '0': out += '\0'; return true;
+    case 'n':
+        out += '\n';
+        return true;
+    case 'r':
+        out += '\r';
+        return true;
+    case 't':
+        out += '\t';
+        return true;
+    case '0':
+        out += '\0';
+        return true;
     case '"':
-    case '\\': out += c; return true;
+    case '\\':
+        out += c;
+        return true;
     case 'x':
         if (!readHex(2, code))
             return false;
@@ -50,7 +60,8 @@ bool XsgTextReader::readEscape(std::string& out)
             return false;
         xsg::appendUtf8(out, code);
         return true;
-    default: return false;
+    default:
+        return false;
     }
 }
 
@@ -77,13 +88,26 @@ void xsgAppendQuoted(std::string& out, std::string_view text)
     out += '"';
     for (const char c : text) {
         switch (c) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\r': out += "\\r"; break;
-        case '\t': out += "\\t"; break;
-        case '\0': out += "\\0"; break;
-        default: out += c;
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        case '\0':
+            out += "\\0";
+            break;
+        default:
+            out += c;
         }
     }
     out += '"';
@@ -94,8 +118,8 @@ namespace
 
 bool equalsIgnoringCase(std::string_view word, std::string_view lower)
 {
-    return word.size() == lower.size()
-        && std::equal(word.begin(), word.end(), lower.begin(), [](char a, char b) {
+    return word.size() == lower.size() &&
+           std::equal(word.begin(), word.end(), lower.begin(), [](char a, char b) {
                return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
            });
 }
@@ -105,8 +129,8 @@ std::string_view readBare(XsgTextReader& in)
 {
     const std::string_view rest = in.rest();
     std::size_t size = 0;
-    while (size < rest.size() && !XsgTextReader::isBlank(rest[size]) && rest[size] != ',' && rest[size] != ']'
-           && rest[size] != '[' && rest[size] != '"')
+    while (size < rest.size() && !XsgTextReader::isBlank(rest[size]) && rest[size] != ',' &&
+           rest[size] != ']' && rest[size] != '[' && rest[size] != '"')
         ++size;
     in.skip(size);
     return rest.substr(0, size);
@@ -235,7 +259,7 @@ bool XsgText<SbString>::read(XsgTextReader& in, SbString& s)
             return false;
     } else {
         text = readBare(in);
-        if (text.empty())
+        if (text.empty() || text.find('\0') != std::string::npos)
             return false;
     }
     s = SbString(std::move(text));

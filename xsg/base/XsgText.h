@@ -1,5 +1,5 @@
 // How values are written as text and read back. Numbers take the shortest form that reads back to the same
-// bits, in every locale. Reading is tolerant of blanks and commas between numbers.
+// bits, in every locale. Reading is tolerant of blanks around and between numbers.
 #pragma once
 
 #include <xsg/base/SbBox.h>
@@ -30,6 +30,8 @@ public:
         while (m_at != m_end && isBlank(*m_at))
             ++m_at;
     }
+    // Whether a value of a list may end here.
+    bool atValueEnd() const { return atEnd() || isBlank(*m_at) || *m_at == ',' || *m_at == ']'; }
     // After a value: blanks and at most one comma.
     void skipSeparator()
     {
@@ -61,6 +63,8 @@ public:
     // A text in double quotes; \" \\ \n \r \t \0 \xHH \uHHHH are understood inside.
     bool readQuoted(std::string& out);
 
+    // Whether what follows a number would belong to it, as in "1.5.2", "7up" or "3-4".
+    static bool continuesNumber(char c) { return isWordByte(c) || c == '.' || c == '-' || c == '+'; }
     static bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
     static bool isWordByte(char c);
 
@@ -96,7 +100,7 @@ bool XsgTextReader::readNumber(T& value)
     }
     T parsed{};
     const auto [end, error] = std::from_chars(negative ? start : digits, m_end, parsed);
-    if (error != std::errc() || (end != m_end && isWordByte(*end)))
+    if (error != std::errc() || (end != m_end && continuesNumber(*end)))
         return false;
     value = parsed;
     m_at = end;
@@ -108,7 +112,7 @@ bool XsgTextReader::readPrefixedInteger(const char* digits, bool negative, T& va
 {
     unsigned long long magnitude = 0;
     const auto [end, error] = std::from_chars(digits, m_end, magnitude, 16);
-    if (error != std::errc() || (end != m_end && isWordByte(*end)))
+    if (error != std::errc() || (end != m_end && continuesNumber(*end)))
         return false;
     constexpr auto top = static_cast<unsigned long long>(std::numeric_limits<T>::max());
     if (magnitude > top + (negative && std::is_signed_v<T> ? 1 : 0) || (negative && std::is_unsigned_v<T>))
@@ -123,8 +127,8 @@ template <class T, class = void>
 struct XsgText;
 
 template <class T>
-struct XsgText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T, bool>
-                                   && !std::is_same_v<T, unsigned char>>> {
+struct XsgText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
+                                   !std::is_same_v<T, unsigned char>>> {
     static void write(std::string& out, T value)
     {
         char buffer[32];
@@ -173,7 +177,10 @@ struct XSG_API XsgText<SbBool> {
 
 template <class T, int N>
 struct XsgText<SbVec<T, N>> {
-    static void write(std::string& out, const SbVec<T, N>& v) { XsgNumbersText<T, N>::write(out, v.getValue()); }
+    static void write(std::string& out, const SbVec<T, N>& v)
+    {
+        XsgNumbersText<T, N>::write(out, v.getValue());
+    }
     static bool read(XsgTextReader& in, SbVec<T, N>& v) { return XsgNumbersText<T, N>::read(in, &v[0]); }
 };
 template <>
@@ -181,7 +188,10 @@ struct XsgText<SbColor> : XsgText<SbVec3f> {
 };
 template <>
 struct XSG_API XsgText<SbMatrix> {
-    static void write(std::string& out, const SbMatrix& m) { XsgNumbersText<float, 16>::write(out, m.getValue()); }
+    static void write(std::string& out, const SbMatrix& m)
+    {
+        XsgNumbersText<float, 16>::write(out, m.getValue());
+    }
     static bool read(XsgTextReader& in, SbMatrix& m) { return XsgNumbersText<float, 16>::read(in, m[0]); }
 };
 template <>

@@ -1,5 +1,6 @@
 #include <xsg/core/SoFieldContainer.h>
 
+#include <xsg/core/ContainerNames.h>
 #include <xsg/core/SoTypedImpl.h>
 #include <xsg/fields/SoField.h>
 #include <xsg/sensors/SoDataSensor.h>
@@ -26,30 +27,69 @@ std::vector<DyingListener>& dyingListeners()
 
 SoFieldContainer::~SoFieldContainer()
 {
+    if (m_listed)
+        xsg::ContainerNames::get().remove(this);
     while (hasSensors())
         m_sensors->back()->detach();
 }
 
 void SoFieldContainer::unref() const
 {
-    if (--m_refCount <= 0)
+    if (--m_refCount <= 0 && !m_dying)
         destroy();
 }
 
 void SoFieldContainer::destroy() const
 {
+    // What goes along with a container waits until that one is gone, so that a long row of containers which
+    // refer to one another needs no stack.
+    static std::vector<const SoFieldContainer*>* going = nullptr;
+    m_dying = true;
+    if (going) {
+        going->push_back(this);
+        return;
+    }
+    std::vector<const SoFieldContainer*> own{this};
+    going = &own;
+    while (!own.empty()) {
+        const SoFieldContainer* next = own.back();
+        own.pop_back();
+        next->takeDown();
+    }
+    going = nullptr;
+}
+
+void SoFieldContainer::takeDown() const
+{
     // A listener may take and give back references while it looks at the dying container.
     m_refCount = 1;
-    m_dying = true;
     const std::vector<DyingListener> listeners = dyingListeners();
     for (const DyingListener& listener : listeners)
         listener.callback(listener.data, const_cast<SoFieldContainer*>(this));
+    // Fields that follow one of these take its last value while it is there.
+    for (SoField* field = m_fields.m_first; field; field = field->m_next)
+        field->releaseFollowers();
     delete this;
+}
+
+SoFieldContainer* SoFieldContainer::getByName(SbName name)
+{
+    return xsg::ContainerNames::get().find(name);
+}
+
+SbName SoFieldContainer::getReferenceName() const
+{
+    if (m_name != SbName() && getByName(m_name) == this)
+        return m_name;
+    m_listed = true;
+    return xsg::ContainerNames::get().substituteFor(this);
 }
 
 void SoFieldContainer::setName(SbName name)
 {
     m_name = name;
+    m_listed = true;
+    xsg::ContainerNames::get().rename(name, this);
     SoNotification change;
     change.serial = nextSerial();
     notify(change);

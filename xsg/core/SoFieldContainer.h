@@ -30,6 +30,11 @@ public:
 
     SbName getName() const { return m_name; }
     void setName(SbName name);
+    // The living container of this name, the one named last where there are several, or null.
+    static SoFieldContainer* getByName(SbName name);
+    // A text by which getByName() finds this very container while it lives: the name or, where there is none
+    // or another one was given it later, the type with a number, such as "Sphere#12".
+    SbName getReferenceName() const;
 
     const SoFieldData* getFieldData() const { return &m_fields; }
     // The field of this name, or null.
@@ -54,12 +59,14 @@ private:
     friend class SoFieldData;
     friend class SoDataSensor;
     void destroy() const;
+    void takeDown() const;
 
     SoFieldData m_fields;
     std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;
     SbName m_name;
     mutable int m_refCount = 0;
     mutable bool m_dying = false;
+    mutable bool m_listed = false; // among the names
 };
 
 extern template class SoTyped<SoFieldContainer, SoTypedObject>;
@@ -98,6 +105,8 @@ public:
     T* operator->() const { return m_object; }
     T& operator*() const { return *m_object; }
     explicit operator bool() const { return m_object != nullptr; }
+    friend bool operator==(const SoRef& a, const SoRef& b) { return a.m_object == b.m_object; }
+    friend bool operator!=(const SoRef& a, const SoRef& b) { return a.m_object != b.m_object; }
 
 private:
     T* m_object = nullptr;

@@ -18,6 +18,7 @@ public:
 
 private:
     friend class SoField;
+    friend class SoFieldContainer;
     void append(SoField* field);
     void remove(SoField* field);
 

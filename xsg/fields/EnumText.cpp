@@ -7,25 +7,29 @@ namespace xsg
 namespace
 {
 
-bool readTerm(XsgTextReader& in, const SoEnumTable& table, int& bits)
+// A name of the table in quotes.
+bool readQuotedName(XsgTextReader& in, const SoEnumTable& table, int& value)
 {
-    in.skipBlanks();
-    if ((in.peek() >= '0' && in.peek() <= '9') || in.peek() == '-' || in.peek() == '+')
-        return in.readNumber(bits);
-    SbName name;
-    std::string quoted;
-    if (in.peek() == '"') {
-        if (!in.readQuoted(quoted))
-            return false;
-        name = SbName(quoted.c_str());
-    } else {
-        name = SbName(SbString(in.readWord()));
-    }
-    const int index = table.indexOf(name);
-    if (index < 0)
+    std::string name;
+    if (!in.readQuoted(name) || name.find('\0') != std::string::npos)
         return false;
-    bits = table.values[static_cast<std::size_t>(index)];
+    return table.findValue(SbName(name.c_str()), value);
+}
+
+// A name is taken for a number only where the table does not have it ("2D", "32").
+bool readBareName(XsgTextReader& in, const SoEnumTable& table, int& value)
+{
+    XsgTextReader ahead = in;
+    const SbString word(ahead.readWord());
+    if (word == SbString("") || !table.findValue(SbName(word), value))
+        return false;
+    in = ahead;
     return true;
+}
+
+bool isBareText(std::string_view name)
+{
+    return !name.empty() && name.front() != '"' && trimmed(name) == name;
 }
 
 } // namespace
@@ -33,21 +37,43 @@ bool readTerm(XsgTextReader& in, const SoEnumTable& table, int& bits)
 void writeEnum(std::string& out, const SoEnumTable& table, int value)
 {
     const int index = table.indexOf(value);
-    if (index < 0)
-        XsgText<int>::write(out, value);
+    const std::string_view name = index < 0 ? "" : table.names[static_cast<std::size_t>(index)].getString();
+    if (isBareText(name))
+        out += name;
     else
-        out += table.names[static_cast<std::size_t>(index)].getString();
+        writeListedEnum(out, table, value);
 }
 
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value)
 {
     const std::string_view bare = trimmed(text);
-    const int index = table.indexOf(SbName(SbString(bare)));
-    if (index >= 0 && !bare.empty()) {
-        value = table.values[static_cast<std::size_t>(index)];
+    if (bare.find('\0') != std::string_view::npos)
+        return false;
+    if (isBareText(bare) && table.findValue(SbName(SbString(bare)), value))
         return true;
-    }
-    return readOnly(bare, value);
+    int read = 0;
+    XsgTextReader in(bare);
+    if (!readListedEnum(in, table, read) || !in.atEnd())
+        return false;
+    value = read;
+    return true;
+}
+
+void writeListedEnum(std::string& out, const SoEnumTable& table, int value)
+{
+    const int index = table.indexOf(value);
+    if (index < 0)
+        XsgText<int>::write(out, value);
+    else
+        XsgText<SbName>::write(out, table.names[static_cast<std::size_t>(index)]);
+}
+
+bool readListedEnum(XsgTextReader& in, const SoEnumTable& table, int& value)
+{
+    in.skipBlanks();
+    if (in.peek() == '"')
+        return readQuotedName(in, table, value);
+    return readBareName(in, table, value) || in.readNumber(value);
 }
 
 void writeBitMask(std::string& out, const SoEnumTable& table, int value)
@@ -70,24 +96,35 @@ void writeBitMask(std::string& out, const SoEnumTable& table, int value)
         separate();
         XsgText<int>::write(out, static_cast<int>(left));
     } else if (out.size() == start) {
-        writeEnum(out, table, 0);
+        writeListedEnum(out, table, 0);
     }
+}
+
+bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value)
+{
+    unsigned all = 0;
+    while (true) {
+        int bits = 0;
+        if (!readListedEnum(in, table, bits))
+            return false;
+        all |= static_cast<unsigned>(bits);
+        XsgTextReader ahead = in;
+        ahead.skipBlanks();
+        if (!ahead.accept('|'))
+            break;
+        in = ahead;
+    }
+    value = static_cast<int>(all);
+    return true;
 }
 
 bool readBitMask(std::string_view text, const SoEnumTable& table, int& value)
 {
+    int read = 0;
     XsgTextReader in(text);
-    unsigned all = 0;
-    do {
-        int bits = 0;
-        if (!readTerm(in, table, bits))
-            return false;
-        all |= static_cast<unsigned>(bits);
-        in.skipBlanks();
-    } while (in.accept('|'));
-    if (!in.atEnd())
+    if (!readListedBitMask(in, table, read) || !in.onlyBlanksLeft())
         return false;
-    value = static_cast<int>(all);
+    value = read;
     return true;
 }
 

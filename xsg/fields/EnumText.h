@@ -7,9 +7,15 @@
 namespace xsg
 {
 
+// Alone, a name is written as it stands, blanks inside included; in a list, one that is no word takes quotes.
 void writeEnum(std::string& out, const SoEnumTable& table, int value);
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value);
+void writeListedEnum(std::string& out, const SoEnumTable& table, int value);
+bool readListedEnum(XsgTextReader& in, const SoEnumTable& table, int& value);
+
+// A bit mask has the same text alone and in a list.
 void writeBitMask(std::string& out, const SoEnumTable& table, int value);
 bool readBitMask(std::string_view text, const SoEnumTable& table, int& value);
+bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value);
 
 } // namespace xsg

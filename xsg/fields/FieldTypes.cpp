@@ -1,13 +1,16 @@
 #include <xsg/fields/FieldTypes.h>
 
+#include <xsg/fields/SoMFBitMask.h>
 #include <xsg/fields/SoMFBool.h>
 #include <xsg/fields/SoMFBox3f.h>
 #include <xsg/fields/SoMFColor.h>
 #include <xsg/fields/SoMFDouble.h>
+#include <xsg/fields/SoMFEnum.h>
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
+#include <xsg/fields/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>
@@ -15,6 +18,7 @@
 #include <xsg/fields/SoMFTime.h>
 #include <xsg/fields/SoMFUInt32.h>
 #include <xsg/fields/SoMFUShort.h>
+#include <xsg/fields/SoMFVec2d.h>
 #include <xsg/fields/SoMFVec2f.h>
 #include <xsg/fields/SoMFVec2i32.h>
 #include <xsg/fields/SoMFVec2s.h>
@@ -37,6 +41,7 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
+#include <xsg/fields/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>
@@ -44,6 +49,7 @@
 #include <xsg/fields/SoSFTime.h>
 #include <xsg/fields/SoSFUInt32.h>
 #include <xsg/fields/SoSFUShort.h>
+#include <xsg/fields/SoSFVec2d.h>
 #include <xsg/fields/SoSFVec2f.h>
 #include <xsg/fields/SoSFVec2i32.h>
 #include <xsg/fields/SoSFVec2s.h>
@@ -68,59 +74,12 @@ void registerAll()
 // One line per field type.
 void xsg::registerFieldTypes()
 {
-    registerAll<
-        SoMFBool,
-        SoMFBox3f,
-        SoMFColor,
-        SoMFDouble,
-        SoMFFloat,
-        SoMFInt32,
-        SoMFMatrix,
-        SoMFName,
-        SoMFPlane,
-        SoMFRotation,
-        SoMFShort,
-        SoMFString,
-        SoMFTime,
-        SoMFUInt32,
-        SoMFUShort,
-        SoMFVec2f,
-        SoMFVec2i32,
-        SoMFVec2s,
-        SoMFVec3d,
-        SoMFVec3f,
-        SoMFVec3s,
-        SoMFVec4d,
-        SoMFVec4f,
-        SoMField,
-        SoSFBitMask,
-        SoSFBool,
-        SoSFBox3f,
-        SoSFBox3s,
-        SoSFColor,
-        SoSFDouble,
-        SoSFEnum,
-        SoSFFilePathString,
-        SoSFFloat,
-        SoSFImage,
-        SoSFInt32,
-        SoSFMatrix,
-        SoSFName,
-        SoSFPlane,
-        SoSFRotation,
-        SoSFShort,
-        SoSFString,
-        SoSFTime,
-        SoSFUInt32,
-        SoSFUShort,
-        SoSFVec2f,
-        SoSFVec2i32,
-        SoSFVec2s,
-        SoSFVec3d,
-        SoSFVec3f,
-        SoSFVec3s,
-        SoSFVec4d,
-        SoSFVec4f,
-        SoSField
-    >();
+    registerAll<SoMFBitMask, SoMFBool, SoMFBox3f, SoMFColor, SoMFDouble, SoMFEnum, SoMFFloat, SoMFInt32,
+                SoMFMatrix, SoMFName, SoMFNode, SoMFPlane, SoMFRotation, SoMFShort, SoMFString, SoMFTime,
+                SoMFUInt32, SoMFUShort, SoMFVec2d, SoMFVec2f, SoMFVec2i32, SoMFVec2s, SoMFVec3d, SoMFVec3f,
+                SoMFVec3s, SoMFVec4d, SoMFVec4f, SoMField, SoSFBitMask, SoSFBool, SoSFBox3f, SoSFBox3s,
+                SoSFColor, SoSFDouble, SoSFEnum, SoSFFilePathString, SoSFFloat, SoSFImage, SoSFInt32,
+                SoSFMatrix, SoSFName, SoSFNode, SoSFPlane, SoSFRotation, SoSFShort, SoSFString, SoSFTime,
+                SoSFUInt32, SoSFUShort, SoSFVec2d, SoSFVec2f, SoSFVec2i32, SoSFVec2s, SoSFVec3d, SoSFVec3f,
+                SoSFVec3s, SoSFVec4d, SoSFVec4f, SoSField>();
 }

@@ -7,6 +7,7 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
+#include <xsg/fields/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>
@@ -14,6 +15,7 @@
 #include <xsg/fields/SoMFTime.h>
 #include <xsg/fields/SoMFUInt32.h>
 #include <xsg/fields/SoMFUShort.h>
+#include <xsg/fields/SoMFVec2d.h>
 #include <xsg/fields/SoMFVec2f.h>
 #include <xsg/fields/SoMFVec2i32.h>
 #include <xsg/fields/SoMFVec2s.h>
@@ -50,6 +52,8 @@ template class SoMValue<SbVec3f>;
 template class SoTyped<SoMFVec3f, SoMValue<SbVec3f>>;
 template class SoMValue<SbVec4f>;
 template class SoTyped<SoMFVec4f, SoMValue<SbVec4f>>;
+template class SoMValue<SbVec2d>;
+template class SoTyped<SoMFVec2d, SoMValue<SbVec2d>>;
 template class SoMValue<SbVec3d>;
 template class SoTyped<SoMFVec3d, SoMValue<SbVec3d>>;
 template class SoMValue<SbVec4d>;
@@ -69,3 +73,5 @@ template class SoTyped<SoMFMatrix, SoMValue<SbMatrix>>;
 template class SoMValue<SbBox3f>;
 template class SoTyped<SoMFBox3f, SoMValue<SbBox3f>>;
 template class SoTyped<SoMFColor, SoMFVec3f>;
+template class SoMValue<SoRef<SoNode>>;
+template class SoTyped<SoMFNode, SoMValue<SoRef<SoNode>>>;

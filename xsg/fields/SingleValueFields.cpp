@@ -9,6 +9,7 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
+#include <xsg/fields/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>
@@ -16,6 +17,7 @@
 #include <xsg/fields/SoSFTime.h>
 #include <xsg/fields/SoSFUInt32.h>
 #include <xsg/fields/SoSFUShort.h>
+#include <xsg/fields/SoSFVec2d.h>
 #include <xsg/fields/SoSFVec2f.h>
 #include <xsg/fields/SoSFVec2i32.h>
 #include <xsg/fields/SoSFVec2s.h>
@@ -52,6 +54,8 @@ template class SoSValue<SbVec3f>;
 template class SoTyped<SoSFVec3f, SoSValue<SbVec3f>>;
 template class SoSValue<SbVec4f>;
 template class SoTyped<SoSFVec4f, SoSValue<SbVec4f>>;
+template class SoSValue<SbVec2d>;
+template class SoTyped<SoSFVec2d, SoSValue<SbVec2d>>;
 template class SoSValue<SbVec3d>;
 template class SoTyped<SoSFVec3d, SoSValue<SbVec3d>>;
 template class SoSValue<SbVec4d>;
@@ -75,3 +79,5 @@ template class SoTyped<SoSFBox3s, SoSValue<SbBox3s>>;
 template class SoSValue<SbBox3f>;
 template class SoTyped<SoSFBox3f, SoSValue<SbBox3f>>;
 template class SoTyped<SoSFFilePathString, SoSFString>;
+template class SoSValue<SoRef<SoNode>>;
+template class SoTyped<SoSFNode, SoSValue<SoRef<SoNode>>>;

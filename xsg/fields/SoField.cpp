@@ -2,6 +2,7 @@
 
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/sensors/SoDataSensor.h>
 
 #include <algorithm>
@@ -14,19 +15,32 @@ SoField::SoField(SoFieldContainer* owner, const char* name)
 {
     if (owner)
         owner->m_fields.append(this);
+    xsg::feeds.fieldsAlive.add();
 }
 
 SoField::~SoField()
 {
-    disconnect();
+    leaveMaster();
     if (m_listeners) {
+        // The value is gone already: whoever follows keeps what it has.
         while (!m_listeners->followers.empty())
-            m_listeners->followers.back()->disconnect();
+            m_listeners->followers.back()->leaveMaster();
         while (!m_listeners->sensors.empty())
             m_listeners->sensors.back()->detach();
     }
+    if (m_isTrigger)
+        SoDataSensor::forget(this);
     if (m_container)
         m_container->m_fields.remove(this);
+    xsg::feeds.fieldsAlive.add(-1);
+}
+
+bool SoField::set(const SbString& text)
+{
+    if (!parse(text.str()))
+        return false;
+    valueWritten();
+    return true;
 }
 
 bool SoField::copyFrom(const SoField& other)
@@ -34,7 +48,8 @@ bool SoField::copyFrom(const SoField& other)
     if (!canConvertFrom(other))
         return false;
     other.evaluate();
-    take(other);
+    if (!take(other))
+        return false;
     valueWritten();
     return true;
 }
@@ -42,80 +57,138 @@ bool SoField::copyFrom(const SoField& other)
 void SoField::setIgnored(bool ignored)
 {
     m_ignored = ignored;
-    touch();
+    // The value is the same as before, so that what was written to a follower stands.
+    notify(0, -1, Followers::DoNot);
 }
 
 bool SoField::canConvertFrom(const SoField& other) const
 {
-    return other.getTypeId() == getTypeId() || converts(other);
+    return other.getTypeId() == getTypeId() || hasSameValues(other) ||
+           (numbersPerValue() > 0 && numbersPerValue() == other.numbersPerValue()) || isTextual() ||
+           other.isTextual();
 }
 
-bool SoField::converts(const SoField& /*other*/) const
+bool SoField::take(const SoField& other)
 {
-    return false;
-}
-
-void SoField::assignConverted(const SoField& /*other*/) {}
-
-void SoField::take(const SoField& other)
-{
-    if (other.getTypeId() == getTypeId())
+    if (other.getTypeId() == getTypeId()) {
         assign(other);
-    else
-        assignConverted(other);
+        return true;
+    }
+    if (hasSameValues(other))
+        return takeSameValues(other);
+    if (numbersPerValue() == 0 || numbersPerValue() != other.numbersPerValue())
+        return takeText(other);
+    if (!isList() && other.valueCount() == 0)
+        return false;
+    takeNumbers(other);
+    return true;
+}
+
+bool SoField::takeText(const SoField& other)
+{
+    // A list and a single text stand for each other as a whole.
+    if (isList() && !isTextual() && !other.isList()) {
+        std::string whole;
+        other.writePlain(whole, 0);
+        return parse(whole);
+    }
+    if (!isList() && !other.isTextual()) {
+        SbString whole;
+        other.get(whole);
+        return takePlain({whole.str()});
+    }
+    const int count = isList() ? other.valueCount() : std::min(other.valueCount(), 1);
+    std::vector<std::string> texts(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        other.writePlain(texts[static_cast<std::size_t>(i)], i);
+    return takePlain(texts);
 }
 
 bool SoField::connectFrom(SoField* master)
 {
     if (!master || !canConvertFrom(*master))
         return false;
-    for (const SoField* f = master; f; f = f->m_master) {
-        if (f == this)
-            return false;
-    }
+    if (isFollowedBy(*master))
+        return false;
     disconnect();
     m_master = master;
     master->listeners().followers.push_back(this);
     m_needsEvaluation = true;
-    notify(0, -1);
+    notify(0, -1, Followers::Hear);
     return true;
+}
+
+// Whether `other` is this field or takes its value from it, directly or not.
+bool SoField::isFollowedBy(const SoField& other) const
+{
+    if (&other == this)
+        return true;
+    const bool hasFollowers = m_listeners && !m_listeners->followers.empty();
+    const SoField* field = hasFollowers ? &other : nullptr;
+    while (field && field != this)
+        field = field->m_master;
+    return field != nullptr;
 }
 
 void SoField::disconnect()
 {
+    evaluate();
+    leaveMaster();
+}
+
+void SoField::leaveMaster()
+{
     if (!m_master)
         return;
-    evaluate();
     auto& followers = m_master->m_listeners->followers;
     followers.erase(std::remove(followers.begin(), followers.end(), this), followers.end());
     m_master = nullptr;
     m_needsEvaluation = false;
 }
 
+void SoField::releaseFollowers()
+{
+    while (m_listeners && !m_listeners->followers.empty())
+        m_listeners->followers.back()->disconnect();
+}
+
+// From the first field up the chain that is up to date down to this one; a walk, since chains may be long.
 void SoField::fetch() const
 {
-    m_needsEvaluation = false;
-    m_master->evaluate();
-    auto* self = const_cast<SoField*>(this);
-    self->m_default = false;
-    self->take(*m_master);
+    std::vector<const SoField*> stale;
+    for (const SoField* field = this; field->m_needsEvaluation; field = field->m_master)
+        stale.push_back(field);
+    for (auto at = stale.rbegin(); at != stale.rend(); ++at) {
+        auto* field = const_cast<SoField*>(*at);
+        field->m_needsEvaluation = false;
+        if (field->take(*field->m_master))
+            field->m_default = false;
+    }
 }
 
 void SoField::touch()
 {
-    notify(0, -1);
+    notify(0, -1, Followers::Hear);
 }
 
 void SoField::valueWritten(int start, int count)
 {
     m_default = false;
     m_needsEvaluation = false;
-    notify(start, count);
+    notify(start, count, Followers::Hear);
 }
 
-void SoField::notify(int start, int count)
+void SoField::notify(int start, int count, Followers followers)
+{
+    tellOwn(start, count);
+    if (followers == Followers::Hear && m_listeners && !m_listeners->followers.empty())
+        tellFollowers();
+}
+
+void SoField::tellOwn(int start, int count)
 {
     ++m_changeCount;
+    xsg::feeds.fieldChanges.add();
     SoNotification change;
     change.field = this;
     change.start = start;
@@ -123,14 +196,24 @@ void SoField::notify(int start, int count)
     if (m_listeners) {
         for (SoDataSensor* sensor : m_listeners->sensors)
             sensor->notified(change);
-        for (SoField* follower : m_listeners->followers) {
-            follower->m_needsEvaluation = true;
-            follower->notify(0, -1);
-        }
     }
     if (m_container) {
         change.serial = SoFieldContainer::nextSerial();
         m_container->notify(change);
+    }
+}
+
+void SoField::tellFollowers()
+{
+    std::vector<SoField*> open = m_listeners->followers;
+    while (!open.empty()) {
+        SoField* field = open.back();
+        open.pop_back();
+        field->m_needsEvaluation = true;
+        field->tellOwn(0, -1);
+        if (field->m_listeners)
+            open.insert(open.end(), field->m_listeners->followers.begin(),
+                        field->m_listeners->followers.end());
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 class SoDataSensor;
@@ -26,10 +27,11 @@ public:
     virtual void get(SbString& text) const = 0;
     // Takes a value from text. Text that does not parse: false, the value stays and nobody is notified.
     // A write notifies even when the value is the same.
-    virtual bool set(const SbString& text) = 0;
+    virtual bool set(const SbString& text);
     // True when both have the same type and value.
     virtual bool isSame(const SoField& other) const = 0;
-    // Takes over the value of a field of the same or a convertible type; false where there is no conversion.
+    // Takes over the value of a field of the same or a convertible type; false, without a change, where there
+    // is no conversion or the other's text does not parse.
     bool copyFrom(const SoField& other);
 
     bool isIgnored() const { return m_ignored; }
@@ -44,10 +46,14 @@ public:
 
     // Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
     // the types do not convert or a loop would close. A direct write stands until the master changes again.
+    // What the master holds that does not convert (a text that is no number) leaves the value.
     bool connectFrom(SoField* master);
     void disconnect();
     SoField* getConnectedField() const { return m_master; }
     bool isConnected() const { return m_master != nullptr; }
+    // Fields convert when their values have the same type or the same count of numbers, or when one of them
+    // is a string or a name: then by text. A list converts to a single value by its first one. Numbers that
+    // the type cannot hold become its nearest one, fractions are cut off, and what is no number becomes 0.
     bool canConvertFrom(const SoField& other) const;
 
     // Fetches the connected value if there is a newer one.
@@ -69,23 +75,51 @@ protected:
 
     // After the value was written: marks it and tells listeners. A multi-value field names the elements.
     void valueWritten(int start = 0, int count = -1);
+
+    // Takes the value from text without telling anybody; text that does not parse: false, and the value
+    // stays.
+    virtual bool parse(std::string_view text) = 0;
     // Takes the value of a field of exactly this class, without telling anybody.
     virtual void assign(const SoField& sameType) = 0;
-    // Says whether assignConverted() can work for this pair of types.
-    virtual bool converts(const SoField& other) const;
-    virtual void assignConverted(const SoField& other);
+
+    // --- What conversions are made of. None of these evaluates or notifies.
+    virtual bool isList() const = 0;
+    virtual int valueCount() const = 0;
+    // Values that are numbers in a row, such as a vector's, convert number by number; 0 for other values.
+    virtual int numbersPerValue() const { return 0; }
+    virtual double number(int /*value*/, int /*which*/) const { return 0; }
+    virtual void takeNumbers(const SoField& /*sameShape*/) {}
+    // Strings and names convert from and to text.
+    virtual bool isTextual() const { return false; }
+    // One value as a string field would hold it, without quotes.
+    virtual void writePlain(std::string& out, int value) const = 0;
+    // The texts, one per value, as values; false, without a change, where one does not parse.
+    virtual bool takePlain(const std::vector<std::string>& texts) = 0;
+    // Takes the value of a field of another class whose values have the same C++ type.
+    virtual bool takeSameValues(const SoField& /*other*/) { return false; }
+    virtual bool hasSameValues(const SoField& /*other*/) const { return false; }
+    static int countOf(const SoField& field) { return field.valueCount(); }
+    static double numberOf(const SoField& field, int value, int which) { return field.number(value, which); }
 
 private:
     friend class SoFieldData;
     friend class SoDataSensor;
+    friend class SoFieldContainer;
     struct Listeners {
         std::vector<SoDataSensor*> sensors;
         std::vector<SoField*> followers;
     };
 
+    enum class Followers { Hear, DoNot };
     void fetch() const;
-    void take(const SoField& other);
-    void notify(int start, int count);
+    bool take(const SoField& other);
+    bool takeText(const SoField& other);
+    bool isFollowedBy(const SoField& other) const;
+    void notify(int start, int count, Followers followers);
+    void tellFollowers();
+    void tellOwn(int start, int count);
+    void leaveMaster();
+    void releaseFollowers();
     Listeners& listeners();
 
     SoFieldContainer* m_container = nullptr;
@@ -94,6 +128,7 @@ private:
     SoField* m_master = nullptr;
     std::unique_ptr<Listeners> m_listeners;
     std::uint32_t m_changeCount = 0;
+    bool m_isTrigger = false; // of a sensor, at some time
     bool m_ignored = false;
     bool m_default = true;
     mutable bool m_needsEvaluation = false;

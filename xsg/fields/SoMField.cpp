@@ -1,35 +1,36 @@
 #include <xsg/fields/SoMField.h>
 
-#include <xsg/base/XsgText.h>
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/errors/SoMemoryError.h>
 #include <xsg/fields/SoSField.h>
 
 #include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
 
 template class SoTyped<SoSField, SoField>;
 template class SoTyped<SoMField, SoField>;
+
+void SoSField::writePlain(std::string& out, int /*value*/) const
+{
+    SbString text;
+    get(text);
+    out += text.str();
+}
+
+bool SoSField::takePlain(const std::vector<std::string>& texts)
+{
+    return !texts.empty() && parse(texts.front());
+}
 
 void SoMField::get(SbString& text) const
 {
     evaluate();
     std::string& out = text.edit();
     out = "[ ";
-    const int n = count();
-    for (int i = 0; i < n; ++i) {
-        if (i > 0)
-            out += ", ";
-        writeValue(out, i);
-    }
-    out += n > 0 ? " ]" : "]";
-}
-
-bool SoMField::set(const SbString& text)
-{
-    XsgTextReader in(text.str());
-    if (!readAll(in))
-        return false;
-    valueWritten();
-    return true;
+    writeValues(out);
+    out += count() > 0 ? " ]" : "]";
 }
 
 int SoMField::getNum() const
@@ -38,12 +39,31 @@ int SoMField::getNum() const
     return count();
 }
 
+bool SoMField::grow(int wanted)
+{
+    try {
+        resize(wanted);
+        return true;
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
+    SoMemoryError::post(std::string("the values of the field \"") + getName().getString() + '"',
+                        static_cast<std::size_t>(wanted));
+    return false;
+}
+
+void SoMField::valuesGrown(int before, int first, int last)
+{
+    const int start = std::min(before, first);
+    valueWritten(start, last - start + 1);
+}
+
 void SoMField::setNum(int wanted)
 {
     evaluate();
     const int before = count();
-    resize(std::max(wanted, 0));
-    valueWritten(std::min(before, count()), -1);
+    if (grow(std::max(wanted, 0)))
+        valueWritten(std::min(before, count()), -1);
 }
 
 bool SoMField::get1(int index, SbString& text) const
@@ -59,34 +79,28 @@ bool SoMField::get1(int index, SbString& text) const
 
 bool SoMField::set1(int index, const SbString& text)
 {
-    if (index < 0)
+    if (index < 0 || index == std::numeric_limits<int>::max())
         return false;
     evaluate();
     const int before = count();
-    if (index >= before)
-        resize(index + 1);
-    XsgTextReader in(text.str());
-    if (!readWhole(text.str(), index) && !(readValue(in, index))) {
-        if (index >= before)
-            resize(before);
+    if (!parseValue(text.str(), index))
         return false;
-    }
-    valueWritten(std::min(index, before), 1 + index - std::min(index, before));
+    valuesGrown(before, index, index);
     return true;
-}
-
-bool SoMField::readWhole(std::string_view /*text*/, int /*index*/)
-{
-    return false;
 }
 
 void SoMField::insertSpace(int start, int number)
 {
     evaluate();
-    if (number <= 0)
+    const int before = count();
+    if (number <= 0 || number > std::numeric_limits<int>::max() - before)
         return;
-    open(std::clamp(start, 0, count()), number);
-    valueWritten(start, -1);
+    const int first = std::clamp(start, 0, before);
+    if (first < before)
+        open(first, number);
+    else if (!grow(before + number))
+        return;
+    valueWritten(first, -1);
 }
 
 void SoMField::deleteValues(int start, int number)

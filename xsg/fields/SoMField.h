@@ -1,11 +1,10 @@
-// A field of any number of values. Its text is "[ a, b, c ]", "[ ]" when empty; a single value is read bare too.
+// A field of any number of values. Its text is "[ a, b, c ]", "[ ]" when empty; a single value is read bare
+// too.
 #pragma once
 
 #include <xsg/fields/SoField.h>
 
 #include <string>
-
-class XsgTextReader;
 
 class XSG_API SoMField : public SoTyped<SoMField, SoField>
 {
@@ -14,11 +13,12 @@ public:
     using SoTyped::SoTyped;
 
     void get(SbString& text) const final;
-    bool set(const SbString& text) final;
 
     // The number of values; evaluates first.
     int getNum() const;
-    // Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0.
+    // Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0. Where there is no
+    // memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make it
+    // grow.
     void setNum(int count);
 
     // The text of one value. Outside: false, and the text is empty. Costs that one value only.
@@ -40,13 +40,20 @@ protected:
     virtual void resize(int count) = 0;
     virtual void open(int start, int count) = 0;
     virtual void close(int start, int count) = 0;
+    // The text of one value, and of all with ", " between them.
     virtual void writeValue(std::string& out, int index) const = 0;
-    // Parses one value into place `index`, which exists; false leaves it as it was.
-    virtual bool readValue(XsgTextReader& in, int index) = 0;
-    // Parses into values of its own and takes them over only when the whole list is good.
-    virtual bool readAll(XsgTextReader& in) = 0;
-    // Whether a text without brackets or quotes is one value as it stands (strings).
-    virtual bool readWhole(std::string_view text, int index);
+    virtual void writeValues(std::string& out) const = 0;
+    // Parses text that is one value and nothing else, and then only stores it at `index`, growing the field
+    // where it must.
+    virtual bool parseValue(std::string_view text, int index) = 0;
+
+    bool isList() const final { return true; }
+    int valueCount() const final { return count(); }
+    void writePlain(std::string& out, int value) const override { writeValue(out, value); }
+    // Makes the field larger; false, with an SoMemoryError, where there is no memory.
+    bool grow(int count);
+    // Tells of values first..last, and of those between the old end and them.
+    void valuesGrown(int before, int first, int last);
 };
 
 extern template class SoTyped<SoMField, SoField>;

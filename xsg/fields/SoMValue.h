@@ -61,11 +61,26 @@ protected:
     void open(int start, int count) override;
     void close(int start, int count) override;
     void writeValue(std::string& out, int index) const override;
-    bool readValue(XsgTextReader& in, int index) override;
-    bool readAll(XsgTextReader& in) override;
-    bool readWhole(std::string_view text, int index) override;
+    void writeValues(std::string& out) const override;
+    bool parseValue(std::string_view text, int index) override;
+    bool parse(std::string_view text) override;
     void assign(const SoField& sameType) override;
+    int numbersPerValue() const override;
+    double number(int value, int which) const override;
+    void takeNumbers(const SoField& sameShape) override;
+    bool isTextual() const override;
+    void writePlain(std::string& out, int value) const override;
+    bool takePlain(const std::vector<std::string>& texts) override;
+    bool hasSameValues(const SoField& other) const override;
+    bool takeSameValues(const SoField& other) override;
+
+    // For a class whose values have a text form of its own.
+    const std::vector<T>& rawValues() const { return m_values; }
+    void takeRawValues(std::vector<T> values) { m_values = std::move(values); }
+    bool storeAt(int index, T value);
 
 private:
+    template <class, class>
+    friend class SoSValue;
     std::vector<T> m_values;
 };

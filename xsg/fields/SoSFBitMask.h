@@ -1,5 +1,5 @@
-// Any combination of named bits. Its text is the names joined by " | ", bits without a name as one number, and
-// 0 (or the name of a zero entry) when no bit is set.
+// Any combination of named bits. Its text is the names joined by " | ", bits without a name as one number,
+// and 0 (or the name of a zero entry) when no bit is set.
 #pragma once
 
 #include <xsg/fields/SoSFEnum.h>
@@ -16,7 +16,9 @@ public:
     }
 
     void get(SbString& text) const override;
-    bool set(const SbString& text) override;
+
+protected:
+    bool parse(std::string_view text) override;
 };
 
 extern template class SoTyped<SoSFBitMask, SoSFEnum>;

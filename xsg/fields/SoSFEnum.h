@@ -17,10 +17,10 @@ public:
         evaluate();
         return m_value;
     }
-    void setValue(int value); // any number, named or not
+    void setValue(int value);   // any number, named or not
     void setValue(SbName name); // an unknown name leaves the value
     // The value behind a name; false for an unknown one.
-    bool findValue(SbName name, int& value) const;
+    bool findValue(SbName name, int& value) const { return m_table->findValue(name, value); }
 
     // The names in order; the pointers are valid until setEnums().
     void getEnums(int& count, const int*& values, const SbName*& names) const;
@@ -28,20 +28,20 @@ public:
     const SoEnumTable& getTable() const { return *m_table; }
 
     void get(SbString& text) const override;
-    bool set(const SbString& text) override;
     bool isSame(const SoField& other) const override;
 
 protected:
+    bool parse(std::string_view text) override;
     void assign(const SoField& sameType) override;
-    bool converts(const SoField& other) const override;
-    void assignConverted(const SoField& other) override;
+    int numbersPerValue() const override { return 1; }
+    double number(int /*value*/, int /*which*/) const override { return m_value; }
+    void takeNumbers(const SoField& sameShape) override;
     int rawValue() const { return m_value; }
+    void takeRawValue(int value) { m_value = value; }
 
 private:
-    SoEnumTablePtr m_table = emptyTable();
+    SoEnumTablePtr m_table = SoEnumTable::empty();
     int m_value = 0;
-
-    static SoEnumTablePtr emptyTable();
 };
 
 extern template class SoTyped<SoSFEnum, SoSField>;

@@ -61,16 +61,16 @@ bool SoSFImage::read(std::string_view text, Image& image)
 {
     XsgTextReader in(text);
     int head[3];
-    if (!XsgNumbersText<int, 3>::read(in, head) || head[0] < 0 || head[1] < 0 || head[2] < 0
-        || head[2] > MaxComponents)
+    if (!XsgNumbersText<int, 3>::read(in, head) || head[0] < 0 || head[1] < 0 || head[2] < 0 ||
+        head[2] > MaxComponents)
         return false;
     image.width = head[0];
     image.height = head[1];
     image.components = head[2];
     while (!in.onlyBlanksLeft()) {
         unsigned pixel = 0;
-        if (!in.readNumber(pixel) || image.components == 0
-            || (image.components < MaxComponents && pixel >> (8 * image.components)))
+        if (!in.readNumber(pixel) || image.components == 0 ||
+            (image.components < MaxComponents && pixel >> (8 * image.components)))
             return false;
         for (int i = image.components - 1; i >= 0; --i)
             image.bytes.push_back(static_cast<unsigned char>(pixel >> (8 * i)));
@@ -80,13 +80,12 @@ bool SoSFImage::read(std::string_view text, Image& image)
     return image.bytes.empty() || image.bytes.size() == expected;
 }
 
-bool SoSFImage::set(const SbString& text)
+bool SoSFImage::parse(std::string_view text)
 {
     Image image;
-    if (!read(text.str(), image))
+    if (!read(text, image))
         return false;
     m_image = std::move(image);
-    valueWritten();
     return true;
 }
 
@@ -97,8 +96,8 @@ bool SoSFImage::isSame(const SoField& other) const
     evaluate();
     other.evaluate();
     const Image& image = static_cast<const SoSFImage&>(other).m_image;
-    return m_image.width == image.width && m_image.height == image.height
-        && m_image.components == image.components && m_image.bytes == image.bytes;
+    return m_image.width == image.width && m_image.height == image.height &&
+           m_image.components == image.components && m_image.bytes == image.bytes;
 }
 
 void SoSFImage::assign(const SoField& sameType)

@@ -29,7 +29,6 @@ public:
     }
 
     void get(SbString& text) const override;
-    bool set(const SbString& text) override;
     bool isSame(const SoField& other) const override;
 
 protected:
@@ -38,9 +37,20 @@ protected:
         , m_value(value)
     {
     }
+    bool parse(std::string_view text) override;
     void assign(const SoField& sameType) override;
+    int numbersPerValue() const override;
+    double number(int value, int which) const override;
+    void takeNumbers(const SoField& sameShape) override;
+    bool isTextual() const override;
+    void writePlain(std::string& out, int value) const override;
+    bool takePlain(const std::vector<std::string>& texts) override;
+    bool hasSameValues(const SoField& other) const override;
+    bool takeSameValues(const SoField& other) override;
 
 private:
+    template <class, class>
+    friend class SoMValue;
     template <class A>
     static auto scalar(A a)
     {

@@ -4,12 +4,14 @@
 //     template class SoTyped<SoSFFloat, SoSValue<float>>;
 #pragma once
 
+#include <xsg/base/XsgNumbers.h>
 #include <xsg/core/SoTypedImpl.h>
 #include <xsg/fields/SoMValue.h>
 #include <xsg/fields/SoSValue.h>
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace xsg
 {
@@ -24,6 +26,15 @@ inline std::string_view trimmed(std::string_view text)
     while (!text.empty() && XsgTextReader::isBlank(text.back()))
         text.remove_suffix(1);
     return text;
+}
+
+inline std::string_view plainText(const SbString& text)
+{
+    return text.str();
+}
+inline std::string_view plainText(SbName name)
+{
+    return name.getString();
 }
 
 // A text without quotes stands for itself, blanks inside included.
@@ -53,17 +64,42 @@ bool readOnly(std::string_view text, T& value)
     return true;
 }
 
-template <class T>
-bool readList(XsgTextReader& in, std::vector<T>& values)
+// A list in brackets, or one value without them. readOne(in, value) reads one value of a list,
+// readAlone(text, value) one that stands alone. False leaves `values` as they were.
+template <class T, class ReadOne, class ReadAlone>
+bool readValues(std::string_view text, std::vector<T>& values, ReadOne readOne, ReadAlone readAlone)
 {
-    while (true) {
-        in.skipSeparator();
-        if (in.accept(']'))
-            return in.onlyBlanksLeft();
+    std::vector<T> parsed;
+    XsgTextReader in(text);
+    in.skipBlanks();
+    if (!in.accept('[')) {
         T value{};
-        if (!XsgText<T>::read(in, value))
+        if (!readAlone(text, value))
             return false;
-        values.push_back(std::move(value));
+        parsed.push_back(std::move(value));
+    } else {
+        in.skipBlanks();
+        while (!in.accept(']')) {
+            T value{};
+            if (!readOne(in, value) || !in.atValueEnd())
+                return false;
+            parsed.push_back(std::move(value));
+            in.skipSeparator();
+        }
+        if (!in.onlyBlanksLeft())
+            return false;
+    }
+    values = std::move(parsed);
+    return true;
+}
+
+template <class T, class WriteOne>
+void writeValues(std::string& out, const std::vector<T>& values, WriteOne writeOne)
+{
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (i > 0)
+            out.append(", ", 2);
+        writeOne(out, values[i]);
     }
 }
 
@@ -89,12 +125,9 @@ void SoSValue<T, Base>::get(SbString& text) const
 }
 
 template <class T, class Base>
-bool SoSValue<T, Base>::set(const SbString& text)
+bool SoSValue<T, Base>::parse(std::string_view text)
 {
-    if (!xsg::readOnly(text.str(), m_value))
-        return false;
-    this->valueWritten();
-    return true;
+    return xsg::readOnly(text, m_value);
 }
 
 template <class T, class Base>
@@ -102,7 +135,9 @@ bool SoSValue<T, Base>::isSame(const SoField& other) const
 {
     if (other.getTypeId() != this->getTypeId())
         return false;
-    return xsg::sameValue(getValue(), static_cast<const SoSValue&>(other).getValue());
+    this->evaluate();
+    other.evaluate();
+    return xsg::sameValue(m_value, static_cast<const SoSValue&>(other).m_value);
 }
 
 template <class T, class Base>
@@ -112,28 +147,104 @@ void SoSValue<T, Base>::assign(const SoField& sameType)
 }
 
 template <class T, class Base>
+int SoSValue<T, Base>::numbersPerValue() const
+{
+    return XsgNumbers<T>::Count;
+}
+
+template <class T, class Base>
+double SoSValue<T, Base>::number(int /*value*/, int which) const
+{
+    return XsgNumbers<T>::get(m_value, which);
+}
+
+template <class T, class Base>
+void SoSValue<T, Base>::takeNumbers(const SoField& sameShape)
+{
+    for (int i = 0; i < XsgNumbers<T>::Count; ++i)
+        XsgNumbers<T>::set(m_value, i, this->numberOf(sameShape, 0, i));
+}
+
+template <class T, class Base>
+bool SoSValue<T, Base>::isTextual() const
+{
+    return xsg::isTextual<T>;
+}
+
+template <class T, class Base>
+void SoSValue<T, Base>::writePlain(std::string& out, int value) const
+{
+    if constexpr (xsg::isTextual<T>)
+        out += xsg::plainText(m_value);
+    else
+        Base::writePlain(out, value);
+}
+
+template <class T, class Base>
+bool SoSValue<T, Base>::takePlain(const std::vector<std::string>& texts)
+{
+    if constexpr (xsg::isTextual<T>) {
+        if (texts.empty())
+            return false;
+        m_value = T(SbString(texts.front()));
+        return true;
+    } else {
+        return Base::takePlain(texts);
+    }
+}
+
+template <class T, class Base>
+bool SoSValue<T, Base>::hasSameValues(const SoField& other) const
+{
+    return dynamic_cast<const SoSValue*>(&other) || dynamic_cast<const SoMValue<T>*>(&other);
+}
+
+template <class T, class Base>
+bool SoSValue<T, Base>::takeSameValues(const SoField& other)
+{
+    if (const auto* single = dynamic_cast<const SoSValue*>(&other)) {
+        m_value = single->m_value;
+        return true;
+    }
+    const auto& values = dynamic_cast<const SoMValue<T>&>(other).m_values;
+    if (values.empty())
+        return false;
+    m_value = values.front();
+    return true;
+}
+
+template <class T, class Base>
 void SoMValue<T, Base>::set1Value(int index, const T& value)
 {
-    if (index < 0)
+    if (index < 0 || index == std::numeric_limits<int>::max())
         return;
     this->evaluate();
     const int before = count();
-    if (index >= before)
-        resize(index + 1);
-    m_values[static_cast<std::size_t>(index)] = value;
-    this->valueWritten(std::min(index, before), 1 + index - std::min(index, before));
+    // A copy: the value may be one of this field's own.
+    if (storeAt(index, T(value)))
+        this->valuesGrown(before, index, index);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::storeAt(int index, T value)
+{
+    if (index >= count() && !this->grow(index + 1))
+        return false;
+    m_values[static_cast<std::size_t>(index)] = std::move(value);
+    return true;
 }
 
 template <class T, class Base>
 void SoMValue<T, Base>::setValues(int start, int number, const T* values)
 {
-    if (start < 0 || number <= 0)
+    if (start < 0 || number <= 0 || number > std::numeric_limits<int>::max() - start)
         return;
     this->evaluate();
-    if (start + number > count())
-        resize(start + number);
+    const int before = count();
+    if (start + number > before && !this->grow(start + number))
+        return;
     std::copy_n(values, number, m_values.begin() + start);
-    this->valueWritten(start, number);
+    this->valuesGrown(before, start, start + number - 1);
 }
 
 template <class T, class Base>
@@ -155,37 +266,24 @@ void SoMValue<T, Base>::writeValue(std::string& out, int index) const
 }
 
 template <class T, class Base>
-bool SoMValue<T, Base>::readValue(XsgTextReader& in, int index)
+void SoMValue<T, Base>::writeValues(std::string& out) const
+{
+    xsg::writeValues(out, m_values,
+                     [](std::string& text, const T& value) { XsgText<T>::write(text, value); });
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::parseValue(std::string_view text, int index)
 {
     T value{};
-    if (!XsgText<T>::read(in, value) || !in.onlyBlanksLeft())
-        return false;
-    m_values[static_cast<std::size_t>(index)] = std::move(value);
-    return true;
+    return xsg::readOnly(text, value) && storeAt(index, std::move(value));
 }
 
 template <class T, class Base>
-bool SoMValue<T, Base>::readWhole(std::string_view text, int index)
+bool SoMValue<T, Base>::parse(std::string_view text)
 {
-    return xsg::readWholeText(text, m_values[static_cast<std::size_t>(index)]);
-}
-
-template <class T, class Base>
-bool SoMValue<T, Base>::readAll(XsgTextReader& in)
-{
-    std::vector<T> values;
-    in.skipBlanks();
-    if (in.accept('[')) {
-        if (!xsg::readList(in, values))
-            return false;
-    } else {
-        T value{};
-        if (!xsg::readOnly(in.rest(), value))
-            return false;
-        values.push_back(std::move(value));
-    }
-    m_values = std::move(values);
-    return true;
+    const auto readOne = [](XsgTextReader& in, T& value) { return XsgText<T>::read(in, value); };
+    return xsg::readValues(text, m_values, readOne, xsg::readOnly<T>);
 }
 
 template <class T, class Base>
@@ -203,4 +301,72 @@ template <class T, class Base>
 void SoMValue<T, Base>::assign(const SoField& sameType)
 {
     m_values = static_cast<const SoMValue&>(sameType).m_values;
+}
+
+template <class T, class Base>
+int SoMValue<T, Base>::numbersPerValue() const
+{
+    return XsgNumbers<T>::Count;
+}
+
+template <class T, class Base>
+double SoMValue<T, Base>::number(int value, int which) const
+{
+    return XsgNumbers<T>::get(m_values[static_cast<std::size_t>(value)], which);
+}
+
+template <class T, class Base>
+void SoMValue<T, Base>::takeNumbers(const SoField& sameShape)
+{
+    m_values.resize(static_cast<std::size_t>(this->countOf(sameShape)));
+    for (int value = 0; value < count(); ++value) {
+        for (int i = 0; i < XsgNumbers<T>::Count; ++i)
+            XsgNumbers<T>::set(m_values[static_cast<std::size_t>(value)], i,
+                               this->numberOf(sameShape, value, i));
+    }
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::isTextual() const
+{
+    return xsg::isTextual<T>;
+}
+
+template <class T, class Base>
+void SoMValue<T, Base>::writePlain(std::string& out, int value) const
+{
+    if constexpr (xsg::isTextual<T>)
+        out += xsg::plainText(m_values[static_cast<std::size_t>(value)]);
+    else
+        Base::writePlain(out, value);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::takePlain(const std::vector<std::string>& texts)
+{
+    std::vector<T> values(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if constexpr (xsg::isTextual<T>)
+            values[i] = T(SbString(texts[i]));
+        else if (!xsg::readOnly(texts[i], values[i]))
+            return false;
+    }
+    m_values = std::move(values);
+    return true;
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::hasSameValues(const SoField& other) const
+{
+    return dynamic_cast<const SoMValue*>(&other) || dynamic_cast<const SoSValue<T>*>(&other);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::takeSameValues(const SoField& other)
+{
+    if (const auto* list = dynamic_cast<const SoMValue*>(&other))
+        m_values = list->m_values;
+    else
+        m_values.assign(1, dynamic_cast<const SoSValue<T>&>(other).m_value);
+    return true;
 }

@@ -10,6 +10,7 @@
 #include <xsg/nodes/SoDirectionalLight.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/nodes/SoFieldGallery.h>
 #include <xsg/nodes/SoFog.h>
 #include <xsg/nodes/SoGroup.h>
 #include <xsg/nodes/SoIndexedLineSet.h>
@@ -62,9 +63,9 @@ void registerAll()
 void xsg::registerNodeTypes()
 {
     registerAll<SoAmbientLight, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
-                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFog, SoGroup, SoIndexedLineSet,
-                SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo, SoInstances,
-                SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
+                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFieldGallery, SoFog, SoGroup,
+                SoIndexedLineSet, SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo,
+                SoInstances, SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
                 SoOrthographicCamera, SoPerspectiveCamera, SoPointLight, SoPointSet, SoPoints, SoScreenText,
                 SoSeparator, SoShape, SoSolid, SoSphere, SoSpin, SoSpotLight, SoSwitch, SoTexture2,
                 SoTextureCoordinates, SoTextureTransform, SoTransform, SoTransformation, SoTriangleSet,

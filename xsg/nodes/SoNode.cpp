@@ -1,6 +1,7 @@
 #include <xsg/nodes/SoNode.h>
 
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/SoGroup.h>
 
 #include <atomic>
@@ -21,6 +22,12 @@ std::uint64_t nextNodeId()
 SoNode::SoNode()
     : m_id(nextNodeId())
 {
+    xsg::feeds.nodesAlive.add();
+}
+
+SoNode::~SoNode()
+{
+    xsg::feeds.nodesAlive.add(-1);
 }
 
 void SoNode::apply(SoState& /*state*/) const {}
@@ -33,11 +40,13 @@ void SoNode::notify(const SoNotification& change)
     SoNotification passed = change;
     passed.node = passed.node ? passed.node : this;
     SoNode* node = this;
+    std::int64_t told = 0;
     while (node) {
         SoNode* next = nullptr;
         if (node->m_lastSerial != change.serial) {
             node->m_lastSerial = change.serial;
             ++node->m_changeCount;
+            ++told;
             if (node->hasSensors())
                 node->SoFieldContainer::notify(passed);
             const auto& parents = node->m_parents;
@@ -52,4 +61,5 @@ void SoNode::notify(const SoNotification& change)
         }
         node = next;
     }
+    xsg::feeds.notifications.add(told);
 }

@@ -34,6 +34,7 @@ public:
 
 protected:
     SoNode();
+    ~SoNode() override;
 
 private:
     friend class SoGroup;

@@ -4,6 +4,7 @@
 #include <xsg/fields/SoField.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>
+#include <xsg/sensors/SoSensorQueue.h>
 
 #include <algorithm>
 #include <utility>
@@ -22,6 +23,8 @@ void SoDataSensor::notified(const SoNotification& change)
 {
     m_triggerField = change.field;
     m_structureTriggered |= !change.field;
+    if (change.field)
+        change.field->m_isTrigger = true;
     schedule();
 }
 
@@ -35,6 +38,15 @@ void SoDataSensor::forgetTrigger()
 {
     m_triggerField = nullptr;
     m_structureTriggered = false;
+}
+
+void SoDataSensor::forget(const SoField* field)
+{
+    SoSensorQueue::getInstance().forEachWaiting([field](SoSensor& sensor) {
+        auto* data = dynamic_cast<SoDataSensor*>(&sensor);
+        if (data && data->m_triggerField == field)
+            data->m_triggerField = nullptr;
+    });
 }
 
 void SoDataSensor::add(SoField* field, SoDataSensor* sensor)

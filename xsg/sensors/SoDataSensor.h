@@ -13,7 +13,8 @@ public:
     using SoSensor::SoSensor;
     // Stops watching and cancels what is queued.
     virtual void detach() = 0;
-    // The field whose change triggered the sensor last, or null. Good inside the callback.
+    // The field whose change triggered the sensor last, or null where it is gone since. For use in the
+    // callback.
     SoField* getTriggerField() const { return m_triggerField; }
     // Good inside the callback: something else than fields changed too, a list of children or a name.
     bool isStructureChanged() const { return m_structureChanged; }
@@ -30,6 +31,8 @@ private:
     friend class SoField;
     friend class SoFieldContainer;
     void notified(const SoNotification& change);
+    // Called by a field that goes, where it ever triggered a sensor.
+    static void forget(const SoField* field);
 
     SoField* m_triggerField = nullptr;
     bool m_structureTriggered = false;

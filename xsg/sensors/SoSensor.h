@@ -1,6 +1,6 @@
-// A callback that waits for something. It never runs inside the change that triggers it: it is put on the queue
-// and runs once in the queue's next turn, however often it was triggered. Deleting, detaching or re-attaching a
-// sensor is safe at any time, inside any callback too. Belongs to the graph's thread.
+// A callback that waits for something. It never runs inside the change that triggers it: it is put on the
+// queue and runs once in the queue's next turn, however often it was triggered. Deleting, detaching or
+// re-attaching a sensor is safe at any time, inside any callback too. Belongs to the graph's thread.
 #pragma once
 
 #include <xsg/base/XsgExport.h>
@@ -29,20 +29,26 @@ public:
     void setPriority(int priority) { m_priority = priority; }
     int getPriority() const { return m_priority; }
 
-    void schedule();
-    void unschedule();
-    bool isScheduled() const { return m_slot != NotQueued; }
+    // Makes the sensor wait for its moment, which for most is the queue's next turn. One that waits already
+    // is left alone.
+    virtual void schedule();
+    virtual void unschedule();
+    virtual bool isScheduled() const { return isQueued(); }
 
 protected:
+    enum class Turn { Next, Idle }; // Idle: a turn in which nothing else waits
+    void enqueue(Turn turn);
+    void dequeue();
+    bool isQueued() const { return m_place != Place::None; }
     virtual void run();
 
 private:
     friend class SoSensorQueue;
-    static constexpr std::size_t NotQueued = static_cast<std::size_t>(-1);
+    enum class Place : unsigned char { None, Next, Idle, Running };
 
     SoSensorCB* m_callback;
     void* m_data;
+    std::size_t m_slot = 0; // in the queue's list for the place
     int m_priority = 100;
-    bool m_inTurn = false;
-    std::size_t m_slot = NotQueued;
+    Place m_place = Place::None;
 };

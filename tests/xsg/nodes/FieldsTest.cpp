@@ -155,7 +155,8 @@ TEST(NodeFields, EveryNodeIsInTheTable)
 {
     for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId())) {
         const auto node = create(type.getName().getString());
-        if (!node)
+        // The gallery has a field of every type; those are tested as such.
+        if (!node || type.getName() == SbName("FieldGallery"))
             continue;
         int rows = 0;
         for (const Row& row : Rows)

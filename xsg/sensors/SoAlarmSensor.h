@@ -1,0 +1,20 @@
+// Runs its callback once, at a moment.
+#pragma once
+
+#include <xsg/sensors/SoTimedSensor.h>
+
+class XSG_API SoAlarmSensor : public SoTimedSensor
+{
+public:
+    using SoTimedSensor::SoTimedSensor;
+
+    // Takes effect with the next schedule(). A time that is not finite is ignored.
+    void setTime(SbTime moment);
+    void setTimeFromNow(SbTime duration);
+    SbTime getTime() const { return m_time; }
+
+    void schedule() override;
+
+private:
+    SbTime m_time;
+};

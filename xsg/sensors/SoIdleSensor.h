@@ -1,0 +1,11 @@
+// Runs its callback once, in the first turn of the queue in which nothing else waits.
+#pragma once
+
+#include <xsg/sensors/SoSensor.h>
+
+class XSG_API SoIdleSensor : public SoSensor
+{
+public:
+    using SoSensor::SoSensor;
+    void schedule() override { enqueue(Turn::Idle); }
+};
