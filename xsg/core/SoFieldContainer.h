@@ -73,7 +73,7 @@ extern template class SoTyped<SoFieldContainer, SoTypedObject>;
 
 // Holds one reference; the smallest thing that keeps a node alive.
 template <class T>
-class SoRef
+class XSG_API SoRef
 {
 public:
     SoRef() = default;
