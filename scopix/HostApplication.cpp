@@ -34,11 +34,12 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     connect(m_window.get(), &HostWindow::fileDone, this, &HostApplication::fileDone);
     new ViewMenu(m_shell, *m_window->viewMenu());
     new ProfilesMenu(m_plugins, *m_window->profilesMenu());
-    m_plugins.readProfiles();
 }
 
 HostApplication::~HostApplication()
 {
+    if (m_keepsLayout)
+        saveLayout();
     m_plugins.unloadAll();
     m_services.clearSelection();
     m_services.history().clear();
@@ -55,8 +56,6 @@ int HostApplication::run(const CommandLine& line)
     connect(this, &HostApplication::finished, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     start(line);
     QApplication::exec();
-    if (!line.isUnattended())
-        saveLayout();
     return m_status;
 }
 
@@ -69,6 +68,7 @@ void HostApplication::start(const CommandLine& line)
     const QString homeTrouble = UserHome::provide();
     if (!homeTrouble.isEmpty())
         m_messages.error(homeTrouble);
+    m_plugins.readProfiles();
     if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
         m_messages.error(tr("There is no profile named \"%1\".").arg(line.profile));
     loadStandardPlugins();
@@ -107,6 +107,7 @@ void HostApplication::finish(const CommandLine& line)
 
 void HostApplication::restoreLayout()
 {
+    m_keepsLayout = true;
     const QSettings settings(layoutFile(), QSettings::IniFormat);
     m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());

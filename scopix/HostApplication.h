@@ -1,6 +1,6 @@
 // The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in the
-// reverse one. Needs a QApplication; a program that has one can embed the host by making one of these. GUI
-// thread only.
+// reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
+// calling start() with an empty command line. GUI thread only.
 #pragma once
 
 #include "CommandLine.h"
@@ -59,5 +59,6 @@ private:
     HostPluginsManager m_plugins;
     UndoKeys m_undoKeys;
     std::optional<CommandLine> m_asked; // until its file has been opened
+    bool m_keepsLayout = false;         // a person's session
     int m_status = 0;
 };

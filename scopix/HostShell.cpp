@@ -4,6 +4,7 @@
 
 #include <scopix/SpxExtension.h>
 
+#include <QAction>
 #include <QDataStream>
 #include <QDockWidget>
 #include <QEvent>
@@ -45,7 +46,7 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     if (!m_window.restoreDockWidget(dock))
         m_window.addDockWidget(area, dock);
     dock->setVisible(shown);
-    own(dock);
+    own(dock, dock->toggleViewAction());
     dock->installEventFilter(this);
 }
 
@@ -72,7 +73,7 @@ void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
         m_toolBarPlaces.value(toolBar->objectName(), ToolBarPlace{area, !hiddenOnPurpose(toolBar)});
     m_window.addToolBar(place.area, toolBar);
     toolBar->setVisible(place.shown);
-    own(toolBar);
+    own(toolBar, toolBar->toggleViewAction());
 }
 
 void HostShell::removeToolBar(QToolBar* toolBar)
@@ -200,16 +201,23 @@ void HostShell::personClosed(SpxExtension* extension)
         setShown(extension, false);
 }
 
-void HostShell::own(QWidget* widget)
+void HostShell::own(QWidget* widget, const QAction* toggle)
 {
     disown(widget);
-    m_owned.append({widget, m_activating});
+    // The window's own context menu shows and hides docks and tool bars too.
+    SpxExtension* owner = m_activating;
+    const auto toggled = [this, owner](bool shown) { setShown(owner, shown); };
+    m_owned.append({widget, owner, connect(toggle, &QAction::triggered, this, toggled)});
 }
 
 void HostShell::disown(const QWidget* widget)
 {
-    const auto is = [widget](const Owned& each) { return !each.widget || each.widget == widget; };
-    m_owned.erase(std::remove_if(m_owned.begin(), m_owned.end(), is), m_owned.end());
+    for (int i = m_owned.size() - 1; i >= 0; --i) {
+        if (m_owned.at(i).widget && m_owned.at(i).widget != widget)
+            continue;
+        disconnect(m_owned.at(i).toggled);
+        m_owned.removeAt(i);
+    }
 }
 
 SpxExtension* HostShell::ownerOf(const QObject* widget) const

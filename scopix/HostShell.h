@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QSet>
 
+class QAction;
 class QMainWindow;
 class QWidget;
 
@@ -58,13 +59,14 @@ private:
     struct Owned {
         QPointer<QWidget> widget;
         SpxExtension* owner; // null when nobody said
+        QMetaObject::Connection toggled;
     };
     struct ToolBarPlace {
         Qt::ToolBarArea area;
         bool shown;
     };
 
-    void own(QWidget* widget);
+    void own(QWidget* widget, const QAction* toggle);
     void disown(const QWidget* widget);
     SpxExtension* ownerOf(const QObject* widget) const;
     void nameWidget(QWidget* widget) const;

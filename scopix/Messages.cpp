@@ -58,7 +58,6 @@ void dismiss(QMessageBox& box)
 Messages::Messages(QObject* parent)
     : QObject(parent)
 {
-    setAttended(false);
 }
 
 Messages::~Messages()

@@ -17,7 +17,7 @@ public:
     explicit Messages(QObject* parent = nullptr);
     ~Messages() override;
 
-    // True when somebody is there to read and close a box. At first nobody is.
+    // True, as at first, when somebody is there to read and close a box.
     void setAttended(bool attended);
     bool isAttended() const { return m_attended; }
     // The window over which boxes open; not owned.

@@ -40,7 +40,8 @@ void ProfilesMenu::manage()
 {
     if (m_dialog)
         return;
-    m_dialog = new ProfilesDialog(m_manager, m_menu.window()->parentWidget());
+    const QWidget* parent = m_menu.parentWidget();
+    m_dialog = new ProfilesDialog(m_manager, parent ? parent->window() : nullptr);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->open();
 }

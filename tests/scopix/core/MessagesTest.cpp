@@ -23,6 +23,7 @@ bool starts(const std::string& text, const std::string& with)
 TEST(MessagesTest, AnErrorGoesToStandardErrorAndToTheStatusBar)
 {
     Messages messages;
+    messages.setAttended(false);
     QSignalSpy told(&messages, &Messages::told);
     ::testing::internal::CaptureStderr();
     messages.error("It went wrong.");
@@ -44,7 +45,6 @@ TEST(MessagesTest, InformationIsNoError)
 TEST(MessagesTest, APersonGetsOneBoxForAllThatGoesWrong)
 {
     Messages messages;
-    messages.setAttended(true);
     messages.error("First.");
     messages.error("Second.");
     ASSERT_TRUE(openBox());
@@ -58,6 +58,7 @@ TEST(MessagesTest, APersonGetsOneBoxForAllThatGoesWrong)
 class WithoutAPerson : public ::testing::Test
 {
 protected:
+    WithoutAPerson() { m_messages.setAttended(false); }
     Messages m_messages;
 };
 

@@ -139,6 +139,7 @@ TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
         QCoreApplication::quit();
     });
     run({"--plugin", testPlugin("Other")});
+    m_host.reset();
     m_host = std::make_unique<HostApplication>(
         [](HostServices&, Messages& messages) { return std::make_unique<TestWindow>(messages); });
     QTimer::singleShot(0, m_host.get(), [] { QCoreApplication::quit(); });

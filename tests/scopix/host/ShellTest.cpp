@@ -199,6 +199,19 @@ TEST_F(ShellTest, ClosingADockHidesItsExtension)
     m_one.deactivate();
 }
 
+TEST_F(ShellTest, TheWindowsOwnMenuKeepsTheExtensionInformed)
+{
+    m_one.start(m_shell);
+    m_one.m_dock.toggleViewAction()->trigger();
+    runLoop();
+    EXPECT_FALSE(m_one.isShown());
+    m_one.m_dock.toggleViewAction()->trigger();
+    runLoop();
+    EXPECT_TRUE(m_one.isShown());
+    EXPECT_TRUE(m_one.m_dock.isVisible());
+    m_one.deactivate();
+}
+
 TEST_F(ShellTest, TheViewMenuShowsAndHidesExtensionsButEditors)
 {
     QMenu menu;
