@@ -1,8 +1,9 @@
-// Runs the queue of triggered sensors, once per turn of the event loop. One lives while the host does. GUI
-// thread only.
+// Runs the queue of triggered sensors, once per turn of the event loop, and again when a timed one is due.
+// One lives while the host does. GUI thread only.
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
 class SensorPump : public QObject
 {
@@ -16,5 +17,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void turn();
     static void wakeUp(void* pump);
+
+    QTimer m_due;
 };

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <xsg/sensors/SoAlarmSensor.h>
 #include <xsg/sensors/SoFieldSensor.h>
+#include <xsg/sensors/SoIdleSensor.h>
+#include <xsg/sensors/SoTimerSensor.h>
 
 namespace
 {
@@ -67,6 +70,40 @@ TEST(SensorPumpTest, WhatWaitedBeforeThePumpCameIsRun)
     const SensorPump pump;
     ::pump();
     EXPECT_EQ(fired, 1);
+}
+
+TEST(SensorPumpTest, TimedAndIdleSensorsRunWithoutAnyOtherEvent)
+{
+    const SensorPump pump;
+    int alarms = 0;
+    int beats = 0;
+    int idles = 0;
+    SoAlarmSensor alarm(count, &alarms);
+    alarm.setTimeFromNow(0.02);
+    alarm.schedule();
+    SoTimerSensor timer(count, &beats);
+    timer.setInterval(0.01);
+    timer.schedule();
+    SoIdleSensor idle(count, &idles);
+    idle.schedule();
+    EXPECT_TRUE(waitFor([&] { return alarms == 1 && beats >= 3 && idles == 1; }));
+    timer.unschedule();
+}
+
+TEST(SensorPumpTest, AnEarlierAlarmIsNotHeldUpByALaterOne)
+{
+    const SensorPump pump;
+    int late = 0;
+    int early = 0;
+    SoAlarmSensor later(count, &late);
+    later.setTimeFromNow(1e9);
+    later.schedule();
+    ::pump();
+    SoAlarmSensor sooner(count, &early);
+    sooner.setTimeFromNow(0.01);
+    sooner.schedule();
+    EXPECT_TRUE(waitFor([&] { return early == 1; }));
+    EXPECT_EQ(late, 0);
 }
 
 } // namespace
