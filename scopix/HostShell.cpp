@@ -43,11 +43,23 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
         return;
     nameWidget(dock);
     const bool shown = m_dockShown.take(dock->objectName()) || !hiddenOnPurpose(dock);
-    if (!m_window.restoreDockWidget(dock))
+    if (!m_window.restoreDockWidget(dock)) {
         m_window.addDockWidget(area, dock);
+        stackOnAnother(dock, area);
+    }
     dock->setVisible(shown);
     own(dock, dock->toggleViewAction());
     dock->installEventFilter(this);
+}
+
+// Docks side by side would leave each of them little room.
+void HostShell::stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area)
+{
+    for (const Owned& each : m_owned) {
+        auto* other = qobject_cast<QDockWidget*>(each.widget);
+        if (other && other != dock && !other->isFloating() && m_window.dockWidgetArea(other) == area)
+            return m_window.tabifyDockWidget(other, dock);
+    }
 }
 
 void HostShell::removeDockWidget(QDockWidget* dock)
@@ -192,6 +204,9 @@ bool HostShell::eventFilter(QObject* watched, QEvent* event)
                 this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
         }
     }
+    // What an extension shows should be seen, also where it shares its place with others.
+    if (event->type() == QEvent::ShowToParent)
+        QMetaObject::invokeMethod(watched, "raise", Qt::QueuedConnection);
     return false;
 }
 

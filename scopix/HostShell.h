@@ -66,6 +66,7 @@ private:
         bool shown;
     };
 
+    void stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area);
     void own(QWidget* widget, const QAction* toggle);
     void disown(const QWidget* widget);
     SpxExtension* ownerOf(const QObject* widget) const;

@@ -69,18 +69,17 @@ QString nameFilter()
     return MainWindow::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
 }
 
-SoNode* findNode(SoNode* root, const QString& text)
+// To the first node, from the top, that has this name, or else this type.
+SoPath findNode(SoNode* root, const QString& text)
 {
     SoSearchAction byName;
     byName.setName(scopix::toName(text));
-    if (SoNode* node = byName.find(root))
-        return node;
-    const SoType type = SoType::fromName(scopix::toName(text));
-    if (type.isBad())
-        return nullptr;
+    if (!byName.apply(root).empty())
+        return byName.getPaths().front();
     SoSearchAction byType;
+    const SoType type = SoType::fromName(scopix::toName(text));
     byType.setType(type);
-    return byType.find(root);
+    return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
 }
 
 } // namespace
@@ -254,16 +253,10 @@ void MainWindow::showNode(SoFieldContainer* container)
 {
     auto* node = dynamic_cast<SoNode*>(container);
     m_tree->showNode(node);
-    m_view->setHighlight(shownPart(node));
+    // Marks would cover the very look that the person tunes in a material.
+    const bool canBeSeen = node && (node->asGroup() || node->asShape());
+    m_view->setHighlight(canBeSeen ? node : nullptr);
     m_fields->setContainer(container);
-}
-
-// What a node that is nothing to see by itself changes the look of: the group it stands in.
-const SoNode* MainWindow::shownPart(SoNode* node) const
-{
-    if (!node || node->asGroup() || node->asShape())
-        return node;
-    return m_tree->getModel().nodeAt(m_tree->currentIndex().parent());
 }
 
 void MainWindow::showField(SoField* field)
@@ -339,7 +332,8 @@ void MainWindow::refuse(const QString& sentence)
 
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
-    SoNode* node = findNode(m_scene.get(), nodeText);
+    const SoPath path = findNode(m_scene.get(), nodeText);
+    const SoNode* node = path.getTail();
     if (!node) {
         m_messages.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
         return false;
@@ -350,6 +344,7 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
                              .arg(nodeText, scopix::toQString(node->getTypeId().getName()), fieldText));
         return false;
     }
+    m_tree->selectPath(path);
     m_services.select(field);
     return true;
 }

@@ -69,7 +69,6 @@ private:
     void showAbout();
     void viewSelected();
     void showNode(SoFieldContainer* node);
-    const SoNode* shownPart(SoNode* node) const;
     void showField(SoField* field);
     void setTheme(scopix::Theme theme);
 
