@@ -1,5 +1,6 @@
 #include "import/ModelReader.h"
 
+#include "import/AbortGuard.h"
 #include "import/AssimpModel.h"
 #include "import/FileChecks.h"
 
@@ -14,6 +15,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <memory>
 
 namespace
 {
@@ -72,9 +74,8 @@ bool hasTriangles(const ModelData& model)
                        [](const ModelData::Mesh& mesh) { return !mesh.index.empty(); });
 }
 
-scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progress)
+scopix::ReadModel import(Assimp::Importer& importer, const QString& path, const scopix::ReadProgress& progress)
 {
-    Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
     const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), Steps);
@@ -87,6 +88,16 @@ scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progre
     if (!hasTriangles(result.data))
         return failed(scopix::cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
     return result;
+}
+
+scopix::ReadModel guardedImport(const QString& path, const scopix::ReadProgress& progress)
+{
+    auto importer = std::make_unique<Assimp::Importer>();
+    scopix::ReadModel result;
+    if (scopix::survivesAbort([&] { result = import(*importer, path, progress); }))
+        return result;
+    [[maybe_unused]] const auto* lost = importer.release(); // whatever state it is in, nobody should look at it again
+    return failed(scopix::cannotOpen(path, tr("it contradicts itself, and reading it was given up")));
 }
 
 } // namespace
@@ -108,7 +119,7 @@ scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& pro
     if (!error.isEmpty())
         return failed(error);
     try {
-        return import(path, progress);
+        return guardedImport(path, progress);
     } catch (const Cancelled&) {
         ReadModel result;
         result.cancelled = true;

@@ -1,9 +1,15 @@
 // What cannot be opened is named in one sentence that says what was expected.
 #include "ModelFiles.h"
 
+#include "import/AbortGuard.h"
 #include "import/ModelReader.h"
 
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
+#include <stdexcept>
+
+#include <unistd.h>
 
 namespace
 {
@@ -97,6 +103,32 @@ TEST_F(BadModel, TruncatedPly)
                                          "end_header\n0123"),
                   "4 bytes follow its header, which announces at least 20");
     expectRefusal(files.write("cut.ply", "ply\nelement vertex many\nend_header\n"), "should end in a count");
+}
+
+// Once ended the whole program: the importer asserts that every face has corners. Runs in a process of its own, since
+// what the importer had in hand is lost.
+TEST_F(BadModel, FaceWithoutCorners)
+{
+    QByteArray model = contentOf(shippedModel("rainbow.ply"));
+    const int face = model.lastIndexOf("\n3 ");
+    ASSERT_GT(face, 0);
+    model[face + 1] = '0';
+    const QString path = files.write("face.ply", model);
+    EXPECT_EXIT(
+        {
+            const bool refused = scopix::readModel(path).error.contains("it contradicts itself");
+            const bool goesOn = scopix::readModel(shippedModel("rainbow.ply")).error.isEmpty();
+            _exit(refused && goesOn ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(BadModel, AnAbortOfOthersIsSurvived)
+{
+    EXPECT_FALSE(scopix::survivesAbort([] { std::abort(); }));
+    EXPECT_TRUE(scopix::survivesAbort([] {}));
+    EXPECT_THROW(scopix::survivesAbort([] { throw std::runtime_error(""); }), std::runtime_error);
+    EXPECT_EXIT(std::abort(), testing::KilledBySignal(SIGABRT), "");
 }
 
 TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
