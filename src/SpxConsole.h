@@ -84,12 +84,12 @@ private:
     QDockWidget* m_dock = nullptr;
     QFrame* m_frame = nullptr;           // child of the dock
     std::unique_ptr<ConsoleText> m_text; // null while not loaded
+    ConsoleInbox m_inbox;                // outlives those that write to it
     std::unique_ptr<SavedErrorHandlers> m_savedHandlers;
     std::unique_ptr<Redirector> m_stderrRedirector; // null while inactive
     std::unique_ptr<Redirector> m_stdoutRedirector;
     // Closed ones; another thread may still be about to write to them.
     std::vector<std::unique_ptr<Redirector>> m_retiredRedirectors;
-    ConsoleInbox m_inbox;
     QTimer m_inboxTimer;
     bool m_printing = false;
 };

@@ -41,7 +41,11 @@ private:
 class ConsoleTest : public ::testing::Test
 {
 protected:
-    ~ConsoleTest() override { qunsetenv("XSG_CONSOLE_MAX_LINES"); }
+    ~ConsoleTest() override
+    {
+        m_host.stop(m_console);
+        qunsetenv("XSG_CONSOLE_MAX_LINES");
+    }
 
     void holdLines(int lines) { qputenv("XSG_CONSOLE_MAX_LINES", QByteArray::number(lines)); }
     void start()
