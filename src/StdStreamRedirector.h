@@ -27,10 +27,13 @@ public:
 
     StdStreamRedirector(Stream& stream, Callback* callback, void* data)
         : m_stream(stream)
-        , m_previous(stream.rdbuf(this))
+        , m_previous(stream.rdbuf())
         , m_callback(callback)
         , m_data(data)
     {
+        // Last: from here on, other threads come in.
+        m_open = true;
+        stream.rdbuf(this);
     }
     StdStreamRedirector(const StdStreamRedirector&) = delete;
     StdStreamRedirector& operator=(const StdStreamRedirector&) = delete;
@@ -85,7 +88,7 @@ private:
     {
     public:
         explicit Visit(StdStreamRedirector& visited)
-            : m_visited(std::this_thread::get_id() == visited.m_owner ? nullptr : &visited)
+            : m_visited(visited.isOwner() ? nullptr : &visited)
         {
             if (m_visited)
                 ++m_visited->m_visitors;
@@ -101,6 +104,9 @@ private:
     private:
         StdStreamRedirector* m_visited;
     };
+
+    // m_open first: it makes what the constructor wrote visible to this thread.
+    bool isOwner() const { return m_open && std::this_thread::get_id() == m_owner; }
 
     void extendLine(Char character)
     {
@@ -128,7 +134,7 @@ private:
     Callback* m_callback;
     void* m_data;
     const std::thread::id m_owner = std::this_thread::get_id();
-    std::atomic<bool> m_open{true};
+    std::atomic<bool> m_open{false};
     std::atomic<int> m_visitors{0};
     std::mutex m_linesMutex;
     std::map<std::thread::id, Line> m_lines; // of each thread, since its last newline
