@@ -137,6 +137,9 @@ void EdSFieldWidget::load()
     m_editionAreaLayout->addLayout(m_buttonLayout);
     m_editionAreaLayout->setSizeConstraint(QLayout::SetMinimumSize);
     m_mainLayout->addLayout(m_editionAreaLayout, 1);
+    // In a tall dock everything stands at the top.
+    m_mainLayout->setAlignment(m_label, Qt::AlignTop);
+    m_mainLayout->setAlignment(m_editionAreaLayout, Qt::AlignTop);
 
     languageChange();
     connect(m_defaultButton, &QPushButton::clicked, this, &EdSFieldWidget::setDefaultFieldValue);
@@ -160,6 +163,8 @@ void EdSFieldWidget::styleLabel()
     m_label->setFont(font);
     setBoxStyle(m_label, "labelLineWidth");
     m_label->setScaledContents(true);
+    // As high as a row of inputs, so that the caption stands level with them.
+    m_label->setMinimumHeight(QLineEdit().sizeHint().height() + 4);
 }
 
 void EdSFieldWidget::buildEditionFrame()

@@ -65,7 +65,7 @@ protected:
         for (SpxExtension* editor : qAsConst(m_extensions))
             editor->load();
         m_host.start(m_dock);
-        m_host.window().resize(640, 320);
+        m_host.window().resize(480, 320);
         m_host.window().show();
         const SoFieldData* data = m_gallery->getFieldData();
         for (int i = 0; SoField* field = data->getField(m_gallery.get(), i); ++i) {
@@ -228,9 +228,10 @@ TEST_F(GalleryTest, EveryInputHasANameForThoseWhoDoNotSeeIt)
             const bool isInner = qobject_cast<const QSpinBox*>(input->parentWidget()) ||
                                  qobject_cast<const QComboBox*>(input->parentWidget()) || input->isWindow() ||
                                  !input->isVisible();
-            if (input->focusPolicy() != Qt::NoFocus && !isInner)
-                EXPECT_FALSE(input->accessibleName().isEmpty())
-                    << typeOf(field) << ' ' << input->metaObject()->className();
+            if (input->focusPolicy() == Qt::NoFocus || isInner)
+                continue;
+            EXPECT_FALSE(input->accessibleName().isEmpty())
+                << typeOf(field) << ' ' << input->metaObject()->className();
         }
     }
 }
@@ -239,8 +240,7 @@ TEST_F(GalleryTest, EveryInputHasANameForThoseWhoDoNotSeeIt)
 TEST_F(GalleryTest, NoTextThatSomebodyTypesBreaksAField)
 {
     std::mt19937 random(20);
-    const QString letters =
-        "0123456789.-+eExX \"\\,;#nanif{}[]()\t" + QString::fromUtf8("\u00e9\u4e2d\u0660");
+    const QString letters = "0123456789.-+eExX \"\\,;#nanif{}[]()" + QString::fromUtf8("\u00e9\u4e2d\u0660");
     const int rounds = qEnvironmentVariableIntValue("SCOPIX_TYPING_ROUNDS") + 5;
     const auto pick = [&random](int count) { return int(random() % unsigned(count)); };
     for (SoSField* field : m_fields) {
@@ -253,7 +253,8 @@ TEST_F(GalleryTest, NoTextThatSomebodyTypesBreaksAField)
                 line->setFocus();
                 if (pick(2))
                     line->selectAll();
-                QTest::keyClicks(line, text);
+                for (const QChar& letter : qAsConst(text))
+                    QTest::sendKeyEvent(QTest::Click, line, Qt::Key_unknown, QString(letter), Qt::NoModifier);
                 QTest::keyClick(line, pick(3) ? Qt::Key_Return : Qt::Key_Tab);
                 if (!pick(4))
                     TestHost::pump();
@@ -278,11 +279,9 @@ TEST_F(GalleryTest, EveryEditorFitsIntoANarrowDock)
         EXPECT_LE(editor->minimumSizeHint().width(), 420) << typeOf(field);
         if (folder.isEmpty())
             continue;
-        const QSize size(420, std::max(44, editor->sizeHint().height()));
-        editor->resize(size);
-        TestHost::pump();
         QDir().mkpath(folder);
         const QString name = QString::fromStdString(typeOf(field)) + ".png";
-        EXPECT_TRUE(editor->grab().save(QDir(folder).filePath(name)));
+        const QSize size(editor->width(), editor->layout()->sizeHint().height());
+        EXPECT_TRUE(editor->grab(QRect({0, 0}, size)).save(QDir(folder).filePath(name)));
     }
 }
