@@ -4,6 +4,7 @@
 #include "EdWheelGuard.h"
 
 #include <QFrame>
+#include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -71,5 +72,7 @@ void EdSF2iSpinBox::applyChanges()
     if (!read(numbers))
         return;
     numbers = {m_boxes[0]->value(), m_boxes[1]->value()};
+    for (const QSpinBox* box : qAsConst(m_boxes))
+        box->findChild<QLineEdit*>()->setModified(false); // what was typed is applied
     EdFieldEdits::write(getSField(), [&] { write(numbers); });
 }

@@ -203,6 +203,8 @@ QPushButton* EdSFieldWidget::buildButton(const char* objectName, const QPixmap& 
 
 void EdSFieldWidget::setSpacers(int width, int height)
 {
+    if (!m_mainLayout)
+        return;
     for (QSpacerItem* spacer : {m_labelSpacer, m_editionSpacer})
         spacer->changeSize(width, height, QSizePolicy::Expanding, QSizePolicy::Minimum);
     m_mainLayout->invalidate();

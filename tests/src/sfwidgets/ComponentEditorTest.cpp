@@ -277,6 +277,8 @@ TEST(SpinBoxEditorTest, StopsWhereTheTypeStops)
     wide->selectAll();
     QTest::keyClicks(wide, "2147483647");
     EXPECT_EQ(ints.text(), "1 2147483647");
+    EXPECT_FALSE(wide->findChild<QLineEdit*>()->isModified())
+        << "Ctrl+Z would take back letters, not the edit";
 }
 
 TEST(SpinBoxEditorTest, UntouchedNeighbourKeepsWhatTheFieldHas)
