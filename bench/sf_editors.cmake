@@ -1,0 +1,2 @@
+scopix_add_bench(sf_editors SpxDefaultsObjects)
+target_sources(bench_sf_editors PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/TestHost.cpp")
