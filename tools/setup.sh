@@ -14,6 +14,7 @@ scopix_build_packages=(
   "libqwt-qt5-dev|plots of the performance counters"
   "libepoxy-dev|calls OpenGL"
   "libassimp-dev|reads model files"
+  "zlib1g-dev|unpacks model files, beside libassimp-dev"
   "libeigen3-dev|linear algebra of the scene-graph library"
   "libgl1|OpenGL in a window"
   "libegl1|OpenGL without a window"
