@@ -1,0 +1,1 @@
+scopix_add_bench(xsg_fields Scopix::xsg benchmark::benchmark)
