@@ -2,6 +2,7 @@
 
 #include "import/AbortGuard.h"
 #include "import/AssimpModel.h"
+#include "import/CNumbers.h"
 #include "import/FileChecks.h"
 
 #include <assimp/Importer.hpp>
@@ -78,6 +79,7 @@ scopix::ReadModel import(Assimp::Importer& importer, const QString& path, const 
 {
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
+    const CNumbers numbers;
     const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), Steps);
     if (progress && !progress(1))
         throw Cancelled(); // the importer turns what is thrown inside of it into an error of its own

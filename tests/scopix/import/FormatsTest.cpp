@@ -1,6 +1,7 @@
 // Every format, written by the exporter from a shipped model, reads as the same model.
 #include "ModelFiles.h"
 
+#include "import/CNumbers.h"
 #include "import/ModelReader.h"
 #include "import/SceneBuilder.h"
 
@@ -42,6 +43,7 @@ protected:
         Assimp::Importer importer;
         const aiScene* scene = importer.ReadFile(shippedModel(model).toStdString(), aiProcess_Triangulate);
         dropNotes(*scene->mRootNode);
+        const CNumbers numbers;
         Assimp::Exporter exporter;
         const QString path = files.path(GetParam().file);
         exporter.Export(scene, GetParam().exporter, path.toStdString());
