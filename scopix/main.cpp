@@ -56,7 +56,8 @@ int main(int argc, char** argv)
                                      "picture of the window without one."));
         return 1;
     }
-    QApplication application(argc, argv);
+    int noOptions = 1; // "--plugin" means something else to Qt
+    QApplication application(noOptions, argv);
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
     QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
