@@ -1,4 +1,4 @@
-// While it lives, the calling thread reads and writes numbers with a decimal point, whatever the user's locale: the
+// While it lives, the calling thread works in the C locale, numbers with a decimal point, whatever the user's: the
 // model formats want that, and the importer's number routines follow the locale.
 #pragma once
 
@@ -8,19 +8,14 @@ class CNumbers
 {
 public:
     CNumbers()
-        : m_locale(newlocale(LC_NUMERIC_MASK, "C", duplocale(uselocale(nullptr))))
-        , m_before(uselocale(m_locale))
+        // The whole "C" locale is there already; one for the numbers alone would have to be made.
+        : m_before(uselocale(newlocale(LC_ALL_MASK, "C", nullptr)))
     {
     }
     CNumbers(const CNumbers&) = delete;
     CNumbers& operator=(const CNumbers&) = delete;
-    ~CNumbers()
-    {
-        uselocale(m_before);
-        freelocale(m_locale);
-    }
+    ~CNumbers() { uselocale(m_before); }
 
 private:
-    locale_t m_locale;
     locale_t m_before;
 };

@@ -32,6 +32,11 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
+{
+    return std::malloc(size > 0 ? size : 1);
+}
+
 void operator delete(void* memory) noexcept
 {
     std::free(memory);
@@ -128,13 +133,8 @@ TEST(PlugIn, RegistersItsExtensionsInTheStatedOrder)
     SpxPlugin* plugin = library.load();
     EXPECT_TRUE(plugin->getExtensions().isEmpty());
     EXPECT_TRUE(plugin->load());
-    const TestHost::Log names = namesOf(*plugin);
-    TestHost::Log expected;
-    std::copy_if(
-        Registration.begin(), Registration.end(), std::back_inserter(expected),
-        [&](const std::string& name) { return std::find(names.begin(), names.end(), name) != names.end(); });
-    EXPECT_EQ(names, expected);
-    EXPECT_GE(names.size(), 2U);
+    EXPECT_EQ(namesOf(*plugin), Registration);
+    EXPECT_EQ(plugin->getExtensions().size(), 46);
 }
 
 TEST(PlugIn, NamesTheMakerOfEveryExtension)
