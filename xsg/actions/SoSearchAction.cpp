@@ -1,5 +1,6 @@
 #include <xsg/actions/SoSearchAction.h>
 
+#include <xsg/actions/SoTraversal.h>
 #include <xsg/counters/LibraryCounters.h>
 
 void SoSearchAction::setName(SbName name)
@@ -34,7 +35,9 @@ const std::vector<SoPath>& SoSearchAction::apply(SoNode* root)
     xsg::feeds.searches.add();
     m_paths.clear();
     std::vector<Frame> frames;
+    int visits = 0;
     const auto visit = [&](SoNode* node) {
+        ++visits;
         frames.push_back({node, -1});
         if (!matches(node))
             return;
@@ -44,7 +47,8 @@ const std::vector<SoPath>& SoSearchAction::apply(SoNode* root)
     };
     if (root && m_limit != 0)
         visit(root);
-    while (!frames.empty() && (m_limit < 0 || static_cast<int>(m_paths.size()) < m_limit)) {
+    while (!frames.empty() && visits < SoTraversal::MostVisits &&
+           (m_limit < 0 || static_cast<int>(m_paths.size()) < m_limit)) {
         Frame& frame = frames.back();
         const SoGroup* group = frame.node->asGroup();
         if (group && ++frame.child < group->getNumChildren())

@@ -22,7 +22,7 @@ void SoTraversal::traverse(SoNode* root)
     m_stopped = false;
     m_visited = 0;
     visit(root);
-    while (!m_frames.empty() && !m_stopped) {
+    while (!m_frames.empty() && !m_stopped && m_visited < MostVisits) {
         Frame& frame = m_frames.back();
         if (++frame.child < frame.end)
             visit(frame.group->getChildren()[static_cast<std::size_t>(frame.child)]);

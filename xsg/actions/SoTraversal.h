@@ -16,8 +16,10 @@ public:
     SoTraversal& operator=(const SoTraversal&) = delete;
     virtual ~SoTraversal();
 
-    // The scene must not change until it returns.
+    // The scene must not change until it returns. Groups that hold shared groups, again and again, can unfold
+    // a short file to more visits than a lifetime has seconds for: the walk ends after MostVisits.
     void traverse(SoNode* root);
+    static constexpr int MostVisits = 1 << 22;
 
 protected:
     // Before a group, with the state as it is there; false skips the group and leaves the state.

@@ -9,8 +9,11 @@ void SoInstances::apply(SoState& state) const
 {
     auto all = std::make_shared<std::vector<SbMatrix>>();
     const int count = matrices.getNum();
-    for (int i = 0; i < count; ++i)
-        state.forEachInstance([&](const SbMatrix& toWorld) { all->push_back(matrices[i] * toWorld); });
+    for (int i = 0; i < count && all->size() < MostCopies; ++i)
+        state.forEachInstance([&](const SbMatrix& toWorld) {
+            if (all->size() < MostCopies)
+                all->push_back(matrices[i] * toWorld);
+        });
     state.instances = std::move(all);
     state.modelMatrix = SbMatrix();
 }

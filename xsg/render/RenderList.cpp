@@ -236,7 +236,10 @@ void xsg::RenderList::visitShape(SoShape* shape)
         return;
     if (const SoDrawingCallback* callback = shape->asDrawingCallback())
         m_callbacks.push_back({callback, state().modelMatrix});
-    state().forEachInstance([&](const SbMatrix& matrix) { fillItem(m_items.emplace_back(), shape, matrix); });
+    state().forEachInstance([&](const SbMatrix& matrix) {
+        if (m_items.size() < MostItems)
+            fillItem(m_items.emplace_back(), shape, matrix);
+    });
 }
 
 void xsg::RenderList::patchShape(SoShape* shape)

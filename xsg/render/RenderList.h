@@ -57,6 +57,9 @@ public:
         SbVec3f eye;
     };
 
+    // What a scene unfolds to beyond this is left out.
+    static constexpr std::size_t MostItems = 1U << 22U;
+
     // Brings the list up to date; true when something had changed.
     bool update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures);
     void clear();

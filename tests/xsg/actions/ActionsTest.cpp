@@ -237,6 +237,23 @@ TEST(Search, AllCriteriaMustHoldAndNothingIsFoundInNothing)
     EXPECT_EQ(action.find(nullptr), nullptr);
 }
 
+// Forty groups, each holding the next one twice: two to the fortieth visits.
+TEST(Traversal, AShortSceneThatUnfoldsWithoutEndStillEnds)
+{
+    SoRef<SoGroup> root(new SoGroup);
+    root->addChild(new SoCube);
+    for (int i = 0; i < 40; ++i) {
+        SoRef<SoGroup> above(new SoGroup);
+        above->addChild(root.get());
+        above->addChild(root.get());
+        root = above;
+    }
+    EXPECT_FALSE(SoBoundingBoxAction().getBox(root.get()).isEmpty());
+    SoSearchAction action;
+    action.setType(SoSphere::getClassTypeId());
+    EXPECT_EQ(action.find(root.get()), nullptr);
+}
+
 TEST(Search, AHundredThousandLevels)
 {
     auto* cube = new SoCube;

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <xsg/core/SoTypedImpl.h>
+#include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
-#include <xsg/fields/SoMFName.h>
-#include <xsg/fields/SoSFBitMask.h>
-#include <xsg/fields/SoSFName.h>
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoCube.h>
 #include <xsg/nodes/SoInfo.h>
@@ -20,6 +17,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <random>
 #include <sstream>
 #include <sys/stat.h>
 
@@ -311,6 +309,48 @@ TEST_F(SceneFile, CutAnywhereItGivesAnErrorOrAScene)
         EXPECT_FALSE(error.empty());
     }
     EXPECT_TRUE(read(whole));
+}
+
+TEST_F(SceneFile, TheShowcaseComesBackAsItWas)
+{
+    const auto scene = SoSceneFile::read(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg", error);
+    ASSERT_TRUE(scene) << error;
+    const std::string once = SoSceneFile::writeText(scene.get());
+    const auto again = read(once);
+    ASSERT_TRUE(again) << error;
+    EXPECT_EQ(SoSceneFile::writeText(again.get()), once);
+}
+
+// Whatever happens to a file, it gives a scene or an error, and a scene can be written and measured.
+TEST_F(SceneFile, DamagedInAnyWayItGivesAnErrorOrAScene)
+{
+    std::ifstream file(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg", std::ios::binary);
+    const std::string whole((std::istreambuf_iterator<char>(file)), {});
+    ASSERT_GT(whole.size(), 1000U);
+    std::minstd_rand random(20); // the same damages in every run
+    const auto below = [&](std::size_t limit) { return static_cast<std::size_t>(random()) % limit; };
+    const std::string spice = "{}[]\"@<-!:.#\\ 0123456789eE+-xnaif\n\x80\xff";
+    for (int round = 0; round < 500; ++round) {
+        std::string text = whole;
+        for (std::size_t damages = 1 + below(4); damages > 0; --damages) {
+            const std::size_t at = Head.size() + below(text.size() - Head.size());
+            const std::size_t length = std::min(below(40), text.size() - at);
+            if (below(3) == 0)
+                text.erase(at, length);
+            else if (below(2) == 0)
+                text.insert(at, text.substr(Head.size() + below(text.size() - Head.size() - 1), length));
+            else
+                text[at] = spice[below(spice.size())];
+        }
+        posted.clear();
+        const auto scene = read(text);
+        ASSERT_EQ(posted.size(), scene ? 0U : 1U) << round;
+        if (!scene)
+            continue;
+        SoBoundingBoxAction().getBox(scene.get());
+        const auto again = read(SoSceneFile::writeText(scene.get()));
+        EXPECT_TRUE(again) << round << ": " << error;
+    }
 }
 
 TEST_F(SceneFile, WritesAFileAsAWholeOrNotAtAll)
