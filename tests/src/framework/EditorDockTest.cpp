@@ -41,8 +41,8 @@ struct Docked {
         host.control(controlled);
     }
 
-    TestHost host;
     Dock extension;
+    TestHost host; // goes first, and unloads the extension
     QDockWidget* dock = nullptr;
 };
 
