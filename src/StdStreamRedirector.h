@@ -37,7 +37,11 @@ public:
     }
     StdStreamRedirector(const StdStreamRedirector&) = delete;
     StdStreamRedirector& operator=(const StdStreamRedirector&) = delete;
-    ~StdStreamRedirector() override { close(); }
+    ~StdStreamRedirector() override
+    {
+        close();
+        waitForVisitors();
+    }
 
     // Puts the previous buffer back, waits until no other thread is inside the callback, and hands over what
     // no newline has ended yet. May be called from inside the callback; a second call does nothing.
@@ -47,8 +51,7 @@ public:
             return;
         m_stream.rdbuf(m_previous);
         m_open = false;
-        while (m_visitors > 0)
-            std::this_thread::yield();
+        waitForVisitors();
         handOverRest();
     }
 
@@ -107,6 +110,12 @@ private:
 
     // m_open first: it makes what the constructor wrote visible to this thread.
     bool isOwner() const { return m_open && std::this_thread::get_id() == m_owner; }
+
+    void waitForVisitors() const
+    {
+        while (m_visitors > 0)
+            std::this_thread::yield();
+    }
 
     void extendLine(Char character)
     {
