@@ -104,8 +104,8 @@ public:
     }
     void load() override
     {
+        maybeThrow("load"); // before anything is made that nobody would free
         Tool::load();
-        maybeThrow("load");
     }
     void activate() override
     {
