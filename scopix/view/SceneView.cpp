@@ -18,8 +18,8 @@ namespace
 
 constexpr float Pi = 3.14159265F;
 constexpr float WheelStep = 0.85F; // per notch of 120
-// The camera makes room for a ball around the box; most things fill less of it.
-constexpr float Closer = 0.82F;
+// How much of the picture, from its middle to its edge, a framed box fills.
+constexpr float Filled = 0.88F;
 // Where a new scene is looked at from: a little from the side and from above.
 constexpr float StartTurn = -0.55F;
 constexpr float StartTilt = -0.32F;
@@ -27,6 +27,26 @@ constexpr float StartTilt = -0.32F;
 SbBox3f boxOf(SoNode* root)
 {
     return root ? SoBoundingBoxAction().getBox(root) : SbBox3f();
+}
+
+// How far the camera has to go to have all corners of the box in the picture and no more: a factor of the distance
+// from which it looks at the box's centre now.
+float distanceFactor(const SoPerspectiveCamera& camera, const SbBox3f& box, float aspect)
+{
+    const SbMatrix view = camera.getViewMatrix();
+    const float high = std::tan(camera.heightAngle.getValue() / 2) * Filled;
+    const float present = camera.focalDistance.getValue();
+    float wanted = 0;
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        SbVec3f point;
+        for (int i = 0; i < 3; ++i)
+            point[i] = (corner >> i) & 1U ? box.getMax()[i] : box.getMin()[i];
+        point = view.multPoint(point);
+        const float behindCenter = -point[2] - present;
+        const float needed = std::max(std::abs(point[0]) / (high * aspect), std::abs(point[1]) / high);
+        wanted = std::max(wanted, needed - behindCenter);
+    }
+    return wanted > 0 ? wanted / present : 1;
 }
 
 // Around the node, in the coordinates of the root.
@@ -122,7 +142,7 @@ void SceneView::frame(const SbBox3f& box)
 {
     if (!box.isEmpty()) {
         m_camera->viewAll(box, aspect());
-        m_camera->zoom(Closer);
+        m_camera->zoom(distanceFactor(*m_camera, box, aspect()));
     }
     cameraMoved();
 }

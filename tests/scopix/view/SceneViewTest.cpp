@@ -167,6 +167,22 @@ TEST_F(View, AResizedWindowKeepsEverythingInSightUntilThePersonMoves)
         EXPECT_TRUE(view.rect().contains(placeOf({x, 0, 0})));
 }
 
+TEST_F(View, EveryCornerIsInSightAndTheSceneFillsThePicture)
+{
+    for (const QSize& size : {QSize(300, 200), QSize(150, 400), QSize(800, 120)}) {
+        view.resize(size);
+        view.viewAll();
+        const QRect picture = view.rect();
+        QRect seen;
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            const QPoint at = placeOf({corner & 1U ? 3.F : -3.F, corner & 2U ? 1.F : -1.F, corner & 4U ? 1.F : -1.F});
+            EXPECT_TRUE(picture.contains(at)) << size.width();
+            seen |= QRect(at, QSize(1, 1));
+        }
+        EXPECT_TRUE(seen.width() > picture.width() * 6 / 10 || seen.height() > picture.height() * 6 / 10);
+    }
+}
+
 TEST_F(View, ShowsAllOfOneNode)
 {
     view.viewNode(left.get());
