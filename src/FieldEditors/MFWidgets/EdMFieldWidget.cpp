@@ -53,7 +53,12 @@ EdMFieldWidget::EdMFieldWidget(int tableKind, const char* name)
         m_table = new EdMFieldTable(this, getWidgetContainer(), "m_table");
 }
 
-EdMFieldWidget::~EdMFieldWidget() = default;
+EdMFieldWidget::~EdMFieldWidget()
+{
+    // An open cell may still hand its value over while it goes; it must find an editor.
+    if (getWidgetContainer())
+        delete m_table;
+}
 
 void EdMFieldWidget::load()
 {
