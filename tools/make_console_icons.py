@@ -9,9 +9,9 @@ are of middle lightness, so that the icons read on light and on dark palettes.
 
 import math
 import pathlib
-import struct
 import sys
-import zlib
+
+from png_image import png
 
 UNIT = 24
 RED, AMBER, GREEN = (0xD9, 0x3A, 0x3A), (0xE3, 0xA0, 0x1B), (0x2E, 0x9E, 0x4F)
@@ -85,21 +85,12 @@ def pixel(shape, x, y, scale):
     return bytes(round(v) for v in (red, green, blue, alpha * 255))
 
 
-def chunk(kind, data):
-    return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-
-def png(shape, scale):
-    size = UNIT * scale
-    rows = b"".join(
-        b"\0" + b"".join(pixel(shape, x + 0.5, y + 0.5, scale) for x in range(size)) for y in range(size))
-    head = struct.pack(">IIBBBBB", size, size, 8, 6, 0, 0, 0)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(rows, 9))
-            + chunk(b"IEND", b""))
+def icon(shape, scale):
+    return png(UNIT * scale, lambda x, y: pixel(shape, x + 0.5, y + 0.5, scale))
 
 
 folder = pathlib.Path(sys.argv[1])
 for shape in (errors, warnings, infos, clear, save):
     for scale in (1, 2, 3):
         suffix = f"@{scale}x" if scale > 1 else ""
-        (folder / f"{shape.__name__}{suffix}.png").write_bytes(png(shape, scale))
+        (folder / f"{shape.__name__}{suffix}.png").write_bytes(icon(shape, scale))

@@ -5,9 +5,9 @@ Colours are middle tones, so that the icons read on light and on dark palettes. 
 """
 import math
 import pathlib
-import struct
 import sys
-import zlib
+
+from png_image import png
 
 BLUE, GREEN, ORANGE, RED, GREY = (74, 127, 181), (76, 160, 90), (217, 136, 44), (196, 76, 70), (125, 132, 140)
 SAMPLES = 6  # per pixel and direction
@@ -89,15 +89,8 @@ def pixel(shapes, x, y, scale):
     return bytes([round(v / covered) for v in total[:3]] + [round(255 * covered / SAMPLES ** 2)])
 
 
-def png(shapes, size):
-    rows = b"".join(b"\0" + b"".join(pixel(shapes, x, y, size / 16) for x in range(size)) for y in range(size))
-
-    def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-
-    head = struct.pack(">IIBBBBB", size, size, 8, 6, 0, 0, 0)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(rows, 9))
-            + chunk(b"IEND", b""))
+def icon(shapes, size):
+    return png(size, lambda x, y: pixel(shapes, x, y, size / 16))
 
 
 def main():
@@ -106,8 +99,8 @@ def main():
     for name, shapes in ICONS.items():
         size = 32 if "-32" in name else 16
         stem, suffix = name.rsplit(".", 1)
-        (folder / name).write_bytes(png(shapes, size))
-        (folder / f"{stem}@2x.{suffix}").write_bytes(png(shapes, 2 * size))
+        (folder / name).write_bytes(icon(shapes, size))
+        (folder / f"{stem}@2x.{suffix}").write_bytes(icon(shapes, 2 * size))
     resource = ['<RCC>', '    <qresource prefix="/PerfCounter_icons">']
     resource += [f"        <file>Icons/{path.name}</file>" for path in sorted(folder.iterdir())]
     resource += ['    </qresource>', '</RCC>', '']
