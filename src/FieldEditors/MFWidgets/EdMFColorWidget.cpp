@@ -4,13 +4,6 @@
 
 #include <xsg/fields/SoMFColor.h>
 
-namespace
-{
-
-constexpr int ColorTableKind = 1;
-
-} // namespace
-
 EdMFColorWidget::EdMFColorWidget(const char* name)
     : EdMFVec3fWidget(name, ColorTableKind)
 {

@@ -59,15 +59,7 @@ public:
         componentText::fromText(text, value);
         setSingleFieldValue(value, row, column);
     }
-    void swapRows(int row1, int row2) override
-    {
-        if (!hasRow(row1) || !hasRow(row2))
-            return;
-        const Element first = (*values())[row1];
-        const Element second = (*values())[row2];
-        values()->set1Value(row1, second);
-        values()->set1Value(row2, first);
-    }
+    void swapRows(int row1, int row2) override { swapElements(values(), row1, row2); }
 
     virtual void setSingleFieldValue(Component value, int row, int column)
     {

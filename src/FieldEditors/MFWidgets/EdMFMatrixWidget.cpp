@@ -79,10 +79,5 @@ void EdMFMatrixWidget::set1Value(int row, int /*column*/, QString /*text*/)
 
 void EdMFMatrixWidget::swapRows(int row1, int row2)
 {
-    if (!hasRow(row1) || !hasRow(row2))
-        return;
-    const SbMatrix first = (*matrices())[row1];
-    const SbMatrix second = (*matrices())[row2];
-    matrices()->set1Value(row1, second);
-    matrices()->set1Value(row2, first);
+    swapElements(matrices(), row1, row2);
 }

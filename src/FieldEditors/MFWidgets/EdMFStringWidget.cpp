@@ -71,10 +71,5 @@ SbString EdMFStringWidget::getSingleFieldValue(int row, int /*column*/) const
 
 void EdMFStringWidget::swapRows(int row1, int row2)
 {
-    if (!hasRow(row1) || !hasRow(row2))
-        return;
-    const SbString first = (*texts())[row1];
-    const SbString second = (*texts())[row2];
-    texts()->set1Value(row1, second);
-    texts()->set1Value(row2, first);
+    swapElements(texts(), row1, row2);
 }

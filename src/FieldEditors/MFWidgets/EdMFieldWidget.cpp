@@ -19,8 +19,6 @@
 namespace
 {
 
-constexpr int ColorTableKind = 1;
-
 int setting(const char* key)
 {
     return xsgsettings_fieldEditor(QString::fromLatin1(key));

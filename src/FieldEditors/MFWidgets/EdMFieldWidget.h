@@ -60,13 +60,25 @@ public slots:
     virtual void setDefaultFieldValue();
 
 protected:
+    static constexpr int ColorTableKind = 1;
+
+    // Exchanges two elements of the edited field; nothing unless it has both.
+    template <class Field>
+    void swapElements(Field* field, int row1, int row2) const
+    {
+        if (!hasRow(row1) || !hasRow(row2))
+            return;
+        const typename Field::Value first = (*field)[row1];
+        const typename Field::Value second = (*field)[row2];
+        field->set1Value(row1, second);
+        field->set1Value(row2, first);
+    }
     QHBoxLayout* buttonsLayout() const { return m_buttonsLayout; }
     QSpacerItem* accessMoveSpacer() const { return m_accessMoveSpacer; }
     // Column captions (one column without a caption when empty), no rows, columns that a person can resize.
     void initColumns(const QStringList& captions, int columns);
 
 private:
-    void construct(const char* name);
     QPushButton* newButton(const char* objectName, const QPixmap& icon, int width, int height);
     QHBoxLayout* newButtonLayout(const char* objectName);
     void buildButtons();
