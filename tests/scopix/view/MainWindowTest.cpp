@@ -9,6 +9,7 @@
 
 #include <xsg/fields/SoField.h>
 #include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/SoSeparator.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <scopix/SpxCommand.h>
@@ -81,14 +82,14 @@ TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
     ASSERT_TRUE(window.selectField("Planks", "transparency"));
     services.selectedField()->set("0.375");
     const QString path = folder.filePath("tuned.xsg");
-    ASSERT_TRUE(window.saveScene(path));
+    ASSERT_TRUE(window.getFiles().saveTo(path));
     ASSERT_TRUE(open(shippedModel("lighthouse.glb")));
     ASSERT_TRUE(open(path));
     ASSERT_TRUE(window.selectField("Planks", "transparency"));
     SbString text;
     services.selectedField()->get(text);
     EXPECT_EQ(text, "0.375");
-    EXPECT_FALSE(window.saveScene(folder.filePath("nowhere/tuned.xsg")));
+    EXPECT_FALSE(window.getFiles().saveTo(folder.filePath("nowhere/tuned.xsg")));
     EXPECT_TRUE(told.last().contains("nowhere/tuned.xsg")) << qPrintable(told.last());
 }
 
