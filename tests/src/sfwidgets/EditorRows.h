@@ -11,17 +11,25 @@
 class QWidget;
 
 struct EditorRow {
-    const char* name;
-    const char* type;   // of the field
-    const char* editor; // the extension name of its editor
-    bool inGrid;        // in the popup of the editor, not beside its button
+    enum Place { Own, General, Grid }; // an editor of its own, the general one, or the grid of its own
+    enum Applied { AtTheEnd, AtEachKey };
+
+    const char* type; // of the field
+    Place place;
     std::vector<std::string> values;
     std::vector<std::string> shown; // of the first two values: what the inputs show, with '|' between them
     int input;                      // which of the inputs the person takes; -1 where there is none
     const char* keys;               // what is typed into it
     const char* applied;            // what the first value becomes by that
     int commands;                   // that are recorded for it
-    bool eachKey;                   // each key is applied, so that nothing ever waits
+    Applied when;
+
+    std::string name() const { return std::string(type) + (isInGrid() ? "Grid" : ""); }
+    // The extension name of the editor.
+    std::string editor() const { return place == General ? "SField" : type; }
+    bool isInGrid() const { return place == Grid; }
+    // Nothing that is typed ever waits.
+    bool isEachKeyApplied() const { return when == AtEachKey; }
 };
 
 const std::vector<EditorRow>& editorRows();

@@ -66,7 +66,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, EveryEditorTest, testing::ValuesIn(editorRows()),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& info) { return info.param.name(); });
 
 class EditorRowsTest : public Gallery
 {
@@ -81,7 +81,7 @@ TEST_F(EditorRowsTest, HaveEveryEditor)
     for (const auto& editor : m_editors)
         editors.insert(editor->getName().str());
     for (const EditorRow& row : editorRows())
-        rows.insert(row.editor);
+        rows.insert(row.editor());
     EXPECT_EQ(rows, editors);
     EXPECT_EQ(rows.size(), 24U);
 }
@@ -89,7 +89,7 @@ TEST_F(EditorRowsTest, HaveEveryEditor)
 TEST_P(EveryEditorTest, ShowsTheValue)
 {
     EXPECT_EQ(m_editor->findChild<QLabel*>("m_label")->text().toStdString(),
-              std::string("<p align=\"center\">") + row().editor + "</p>");
+              "<p align=\"center\">" + row().editor() + "</p>");
     EXPECT_EQ(shown(), row().shown[0]);
     open(another(1));
     EXPECT_EQ(shown(), row().shown[1]);
@@ -194,7 +194,7 @@ TEST_P(EveryEditorTest, TypingThatWaitsGoesToItsFieldOnceAndToNoOther)
     SoSField* next = another(1);
     const std::string before = textOf(*next);
     type();
-    if (!row().eachKey) {
+    if (!row().isEachKeyApplied()) {
         EXPECT_EQ(text(), value(0));
         EXPECT_EQ(commands(), 0);
     }
@@ -242,7 +242,7 @@ TEST_P(EveryEditorTest, EnterInEachLineApplies)
     for (QWidget* line : lines()) {
         const std::string before = text();
         const int commandsBefore = commands();
-        typeInto(line, row().eachKey ? row().keys : "8");
+        typeInto(line, row().isEachKeyApplied() ? row().keys : "8");
         QTest::keyClick(line, Qt::Key_Return);
         TestHost::pump();
         EXPECT_NE(text(), before);
@@ -254,7 +254,7 @@ TEST_P(EveryEditorTest, EscapeInEachLineBringsTheShownValueBack)
 {
     for (QWidget* line : lines()) {
         // Where each key is applied, what the field refuses is all that can be taken back.
-        typeInto(line, row().eachKey ? "-" : "7");
+        typeInto(line, row().isEachKeyApplied() ? "-" : "7");
         EXPECT_NE(shown(), row().shown[0]);
         QTest::keyClick(line, Qt::Key_Escape);
         EXPECT_EQ(shown(), row().shown[0]);
