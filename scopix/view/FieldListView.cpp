@@ -21,11 +21,10 @@ FieldListView::FieldListView(QWidget* parent)
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideRight);
     setFrameShape(NoFrame);
-    header()->setStretchLastSection(true);
+    header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(50);
     header()->setSectionsMovable(false);
-    for (const int column : {FieldListModel::NameColumn, FieldListModel::TypeColumn})
-        header()->setSectionResizeMode(column, QHeaderView::Fixed);
+    header()->setSectionResizeMode(QHeaderView::Fixed);
     connect(m_model, &QAbstractItemModel::modelReset, this, &FieldListView::fitColumns);
 }
 
@@ -48,6 +47,8 @@ void FieldListView::fitColumns()
     const int name = std::min(wanted(FieldListModel::NameColumn), width - third - type);
     header()->resizeSection(FieldListModel::TypeColumn, type);
     header()->resizeSection(FieldListModel::NameColumn, name);
+    header()->resizeSection(FieldListModel::ValueColumn, width - name - type);
+    updateGeometries(); // the tree itself would wait for a timer, with a scroll bar meanwhile
 }
 
 void FieldListView::setContainer(SoFieldContainer* container)
