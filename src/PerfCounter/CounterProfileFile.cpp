@@ -1,5 +1,6 @@
 #include "CounterProfileFile.h"
 
+#include "CounterXml.h"
 #include "CustomCounter.h"
 #include "EdText.h"
 #include "SoPerfCounterProfile.h"
@@ -11,7 +12,6 @@
 #include <QDomDocument>
 #include <QIODevice>
 #include <QMessageBox>
-#include <QTextStream>
 
 #include <memory>
 
@@ -32,7 +32,6 @@ const QLatin1String Pc("pc");
 const QLatin1String PcViewed("pcviewed");
 const QLatin1String Name("name");
 const QLatin1String Type("type");
-constexpr int Indentation = 2;
 
 QString translated(const char* text)
 {
@@ -131,23 +130,17 @@ QString title()
     return translated("Performance counter profile");
 }
 
-bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
+bool parse(QIODevice* device, QDomDocument& document, QString& problem)
 {
-    // Parsed aside first, since a failed parse leaves what it has read so far in every document that shares the tree.
-    // The device is opened by the parser itself where it is not open yet.
+    // Parsed aside first, since a failed parse leaves what it has read so far in every document that shares
+    // the tree.
     QDomDocument parsed;
-    QString message;
-    int line = 0;
-    int column = 0;
-    if (!parsed.setContent(device, true, &message, &line, &column)) {
-        QMessageBox::information(parent, title(),
-                                 translated("Parse error at line %1, column %2:\n%3")
-                                     .arg(QString::number(line), QString::number(column), message));
+    if (!device->isOpen())
+        device->open(QIODevice::ReadOnly);
+    if (!counterXml::read(device->readAll(), parsed, problem))
         return false;
-    }
     if (parsed.documentElement().tagName() != Root) {
-        QMessageBox::information(parent, title(),
-                                 translated("The file does not contain information about performance counters."));
+        problem = translated("The file does not contain information about performance counters.");
         return false;
     }
     while (document.hasChildNodes())
@@ -157,11 +150,18 @@ bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
     return true;
 }
 
+bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
+{
+    QString problem;
+    if (parse(device, document, problem))
+        return true;
+    QMessageBox::information(parent, title(), problem);
+    return false;
+}
+
 void writeDocument(QIODevice* device, const QDomDocument& document)
 {
-    QTextStream stream(device);
-    stream.setCodec("UTF-8");
-    document.save(stream, Indentation);
+    counterXml::write(device, document);
 }
 
 void initDocument(QIODevice* device, QDomDocument& document)

@@ -1,5 +1,5 @@
-// The counter-profile file: its place, its elements, and what reading and writing do to the shared document. The dock
-// window and the profile manager differ only in what they do around these steps.
+// The counter-profile file: its place, its elements, and what reading and writing do to the shared document.
+// The dock window and the profile manager differ only in what they do around these steps.
 #pragma once
 
 #include <QList>
@@ -20,8 +20,10 @@ QString dialogFilter();
 // Title of the message boxes about the file.
 QString title();
 
-// Whether the device's content can replace the document; says why not in a box over `parent`. The document, and
-// every one that shares its tree, changes only when this returns true.
+// Whether the device's content can replace the document; else `problem` says why not. The document, and every
+// one that shares its tree, changes only when this returns true.
+bool parse(QIODevice* device, QDomDocument& document, QString& problem);
+// The same; says why not in a box over `parent`.
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
 // Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);

@@ -25,7 +25,6 @@ EdPopupWidget::EdPopupWidget(int rows, int columns, const char* name)
 void EdPopupWidget::load()
 {
     EdSFLineWidget::load();
-    m_cells.clear();
     buildButton();
     buildPopup();
 }

@@ -6,12 +6,6 @@
 
 #include <QFrame>
 
-void EdSFFloatsWidget::load()
-{
-    m_inputs.clear();
-    EdSFColumnsWidget::load();
-}
-
 QWidget* EdSFFloatsWidget::buildInput()
 {
     auto* input = new EdLineEdit(editionFrame());

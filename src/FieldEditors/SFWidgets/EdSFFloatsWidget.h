@@ -14,7 +14,6 @@ class EdSFFloatsWidget : public EdSFColumnsWidget
     Q_OBJECT
 
 public:
-    void load() override;
     void refresh() override;
     void applyChanges() override;
     bool edited() override;

@@ -34,8 +34,10 @@ TEST_F(CounterDock, WithoutAFileItSaysSoTwiceAndCannotSave)
     open();
     const QStringList said = boxes.take();
     ASSERT_EQ(said.size(), 2);
-    EXPECT_EQ(said[0], QStringLiteral("DOM Bookmarks: Cannot read file %1:\nNo such file or directory.").arg(path()));
-    EXPECT_EQ(said[1], "Performance counter profile: Parse error at line 1, column 1:\nunexpected end of file");
+    EXPECT_EQ(said[0],
+              QStringLiteral("DOM Bookmarks: Cannot read file %1:\nNo such file or directory.").arg(path()));
+    EXPECT_EQ(said[1],
+              "Performance counter profile: Parse error at line 1, column 1:\nunexpected end of file");
     EXPECT_EQ(dock->m_listConfig->count(), 0);
     EXPECT_EQ(dock->getCurrentProfile(), -1);
     EXPECT_TRUE(offered().isEmpty());
@@ -56,14 +58,16 @@ TEST_F(CounterDock, AnotherRootIsRefusedAndChangesNothing)
 {
     writeFile("<somethingElse><profiles><profile name='x'/></profiles></somethingElse>");
     open();
-    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: The file does not contain information about "
-                                        "performance counters."});
+    EXPECT_EQ(boxes.take(),
+              QStringList{"Performance counter profile: The file does not contain information about "
+                          "performance counters."});
     EXPECT_TRUE(profileNames().isEmpty());
 }
 
 TEST_F(CounterDock, AnUnknownViewSelectsTheFirstProfile)
 {
-    writeFile("<perfCounterModule><profiles><profile name='one'><listcounters><pc>testA</pc></listcounters></profile>"
+    writeFile("<perfCounterModule><profiles><profile "
+              "name='one'><listcounters><pc>testA</pc></listcounters></profile>"
               "<profile name='two'/></profiles><profileview name='none'/></perfCounterModule>");
     open();
     EXPECT_EQ(dock->getCurrentProfile(), 0);
@@ -72,8 +76,9 @@ TEST_F(CounterDock, AnUnknownViewSelectsTheFirstProfile)
 
 TEST_F(CounterDock, ALevelThatIsNoNumberIsLow)
 {
-    writeFile("<perfCounterModule><customPC><counter name='vague' type='S'><level>abc</level></counter></customPC>"
-              "</perfCounterModule>");
+    writeFile(
+        "<perfCounterModule><customPC><counter name='vague' type='S'><level>abc</level></counter></customPC>"
+        "</perfCounterModule>");
     open();
     ASSERT_TRUE(isRegistered("vague"));
     EXPECT_EQ(SoPerfCounterManager::getInstance()->getCounter("vague")->getLevel(), SoPerfCounter::LOW);
@@ -82,8 +87,9 @@ TEST_F(CounterDock, ALevelThatIsNoNumberIsLow)
 
 TEST_F(CounterDock, MissingSectionsAndUnknownElementsDoNotDisturb)
 {
-    writeFile("<perfCounterModule strange='1'><unknown/><profiles><profile name='p' more='2'><other/></profile>"
-              "</profiles></perfCounterModule>");
+    writeFile(
+        "<perfCounterModule strange='1'><unknown/><profiles><profile name='p' more='2'><other/></profile>"
+        "</profiles></perfCounterModule>");
     open();
     EXPECT_TRUE(boxes.take().isEmpty());
     EXPECT_EQ(profileNames(), QStringList{"p"});
@@ -110,6 +116,27 @@ TEST_F(CounterDock, AnEntityBombIsRefused)
     EXPECT_LE(said.size(), 1);
 }
 
+TEST_F(CounterDock, ElementsNestedWithoutEndAreRefused)
+{
+    writeFile("<perfCounterModule>" + QByteArray("<a>").repeated(100'000));
+    open();
+    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: Parse error at line 1, column 319:\n"
+                                        "elements are nested deeper than 100 levels"});
+    writeFile("<perfCounterModule>" + QByteArray("<a>").repeated(99) + QByteArray("</a>").repeated(99) +
+              "</perfCounterModule>");
+    open();
+    EXPECT_TRUE(boxes.take().isEmpty());
+}
+
+TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
+{
+    writeFile("<n:perfCounterModule xmlnsn:='u'/>");
+    open();
+    EXPECT_EQ(boxes.take(),
+              QStringList{
+                  "Performance counter profile: The file contains XML that would be unreadable once saved."});
+}
+
 TEST_F(CounterDock, SavingTheViewKeepsTheRestOfTheFile)
 {
     writeExample();
@@ -123,7 +150,8 @@ TEST_F(CounterDock, SavingTheViewKeepsTheRestOfTheFile)
     QDomDocument document;
     ASSERT_TRUE(document.setContent(readFile(path())));
     EXPECT_EQ(document.documentElement().firstChildElement("profileview").attribute("name"), "second");
-    EXPECT_EQ(document.documentElement().firstChildElement("customPC").elementsByTagName("counter").size(), 3);
+    EXPECT_EQ(document.documentElement().firstChildElement("customPC").elementsByTagName("counter").size(),
+              3);
     open();
     EXPECT_EQ(viewed(), (QStringList{"testB", "testC"}));
     EXPECT_TRUE(boxes.take().isEmpty());
@@ -196,9 +224,9 @@ TEST(CounterExtension, WithoutTheSwitchItTellsHowToSetIt)
         EXPECT_GE(dock->minimumWidth(), 213) << "the title may want more";
         EXPECT_GE(dock->minimumHeight(), 114);
         EXPECT_EQ(dock->widget()->objectName(), "dockWidgetContents");
-        EXPECT_EQ(dock->findChild<QLabel*>()->text(),
-                  "To enable the performance counter extension, you need set the XSG_PERFCOUNTER_ENABLE environment "
-                  "variable to 1 and restart the application.");
+        EXPECT_EQ(dock->findChild<QLabel*>()->text(), "To enable the performance counter extension, you need "
+                                                      "set the XSG_PERFCOUNTER_ENABLE environment "
+                                                      "variable to 1 and restart the application.");
         EXPECT_EQ(host.takeLog(), (TestHost::Log{"addDockWidget \"Performance Counter\" 2",
                                                  "attachExtension \"PerfCounter\" true"}));
         host.stop(extension);

@@ -1,0 +1,84 @@
+#include "CounterXml.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDomDocument>
+#include <QTextStream>
+#include <QXmlStreamReader>
+
+namespace counterXml
+{
+namespace
+{
+
+constexpr int Indentation = 2;
+// QDomDocument copies, saves and destroys by recursion.
+constexpr qint64 DeepestLevel = 100;
+
+QString parseError(qint64 line, qint64 column, const QString& message)
+{
+    return QCoreApplication::translate("PerfCounter", "Parse error at line %1, column %2:\n%3")
+        .arg(QString::number(line), QString::number(column), message);
+}
+
+bool isTooDeep(const QByteArray& bytes, QString& problem)
+{
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    qint64 level = 0;
+    while (!reader.atEnd() && level <= DeepestLevel) {
+        reader.readNext();
+        level += int(reader.isStartElement()) - int(reader.isEndElement());
+    }
+    // Past an error that the document's own parser might forgive, each "<" may be one level.
+    if (reader.hasError())
+        level += bytes.mid(int(reader.characterOffset())).count('<');
+    if (level <= DeepestLevel)
+        return false;
+    problem = parseError(reader.lineNumber(), reader.columnNumber(),
+                         reader.hasError() ? reader.errorString()
+                                           : QCoreApplication::translate(
+                                                 "PerfCounter", "elements are nested deeper than %1 levels")
+                                                 .arg(DeepestLevel));
+    return true;
+}
+
+bool parse(const QByteArray& bytes, QDomDocument& document, QString& problem)
+{
+    QString message;
+    int line = 0;
+    int column = 0;
+    if (isTooDeep(bytes, problem))
+        return false;
+    if (document.setContent(bytes, true, &message, &line, &column))
+        return true;
+    problem = parseError(line, column, message);
+    return false;
+}
+
+} // namespace
+
+bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
+{
+    if (!parse(bytes, document, problem))
+        return false;
+    QBuffer saved;
+    saved.open(QIODevice::WriteOnly);
+    write(&saved, document);
+    QDomDocument again;
+    if (parse(saved.data(), again, problem) &&
+        again.documentElement().tagName() == document.documentElement().tagName())
+        return true;
+    problem = QCoreApplication::translate("PerfCounter",
+                                          "The file contains XML that would be unreadable once saved.");
+    return false;
+}
+
+void write(QIODevice* device, const QDomDocument& document)
+{
+    QTextStream stream(device);
+    stream.setCodec("UTF-8");
+    document.save(stream, Indentation);
+}
+
+} // namespace counterXml
