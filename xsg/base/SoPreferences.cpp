@@ -49,16 +49,6 @@ std::string usualPath()
     return {};
 }
 
-std::string_view trimmed(std::string_view text)
-{
-    const auto isBlank = XsgTextReader::isBlank;
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 struct BadLine {
     int number; // 0: the file as a whole
     const char* sentence;
@@ -76,16 +66,16 @@ std::string_view withoutComment(std::string_view line)
 
 bool readLine(std::string_view line, Settings& settings)
 {
-    line = trimmed(withoutComment(line));
+    line = xsgTrimmed(withoutComment(line));
     if (line.empty())
         return true;
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos)
         return false;
-    const std::string_view name = trimmed(line.substr(0, equals));
+    const std::string_view name = xsgTrimmed(line.substr(0, equals));
     if (name.empty() || !std::all_of(name.begin(), name.end(), XsgTextReader::isWordByte))
         return false;
-    settings[std::string(name)] = trimmed(line.substr(equals + 1));
+    settings[std::string(name)] = xsgTrimmed(line.substr(equals + 1));
     return true;
 }
 

@@ -82,6 +82,54 @@ bool XsgTextReader::readQuoted(std::string& out)
     return false;
 }
 
+namespace
+{
+
+std::size_t afterQuoted(std::string_view text, std::size_t at)
+{
+    for (++at; at < text.size(); ++at) {
+        if (text[at] == '"')
+            return at + 1;
+        if (text[at] == '\\')
+            ++at;
+    }
+    return std::string_view::npos;
+}
+
+} // namespace
+
+XsgValueExtent::XsgValueExtent(std::string_view text)
+{
+    const bool isList = !text.empty() && text.front() == '[';
+    const std::string_view ends = isList ? "\"]" : "\"\n!<}#";
+    while (true) {
+        length = std::min(text.find_first_of(ends, length), text.size());
+        if (length == text.size() || text[length] != '"')
+            break;
+        const std::size_t after = afterQuoted(text, length);
+        if (after == std::string_view::npos) {
+            open = length;
+            return;
+        }
+        length = after;
+    }
+    if (!isList)
+        return;
+    if (length == text.size())
+        open = 0;
+    else
+        ++length;
+}
+
+std::string_view xsgTrimmed(std::string_view text)
+{
+    while (!text.empty() && XsgTextReader::isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && XsgTextReader::isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
 void xsgAppendQuoted(std::string& out, std::string_view text)
 {
     out.reserve(out.size() + text.size() + 2);

@@ -78,6 +78,20 @@ private:
     const char* m_end;
 };
 
+// How far a field's value goes at the start of a text, as scene files have it: a list up to its bracket,
+// anything else up to the line's end, a mark, a brace or a comment. `open` is where a list or a text in
+// quotes begins that has no end.
+struct XSG_API XsgValueExtent {
+    explicit XsgValueExtent(std::string_view text);
+    bool isWhole() const { return open == std::string_view::npos; }
+
+    std::size_t length = 0;
+    std::size_t open = std::string_view::npos;
+};
+
+// Without the blanks around it.
+XSG_API std::string_view xsgTrimmed(std::string_view text);
+
 XSG_API void xsgAppendQuoted(std::string& out, std::string_view text);
 
 template <class T>

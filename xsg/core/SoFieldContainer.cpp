@@ -156,6 +156,11 @@ SoField* SoFieldData::getField(const SoFieldContainer* container, int index) con
     return field;
 }
 
+SoField* SoFieldData::getNext(const SoField* field) const
+{
+    return field->m_next;
+}
+
 void SoFieldData::append(SoField* field)
 {
     (m_last ? m_last->m_next : m_first) = field;

@@ -29,7 +29,7 @@ bool readBareName(XsgTextReader& in, const SoEnumTable& table, int& value)
 
 bool isBareText(std::string_view name)
 {
-    return !name.empty() && name.front() != '"' && trimmed(name) == name;
+    return !name.empty() && name.front() != '"' && xsgTrimmed(name) == name;
 }
 
 } // namespace
@@ -46,7 +46,7 @@ void writeEnum(std::string& out, const SoEnumTable& table, int value)
 
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value)
 {
-    const std::string_view bare = trimmed(text);
+    const std::string_view bare = xsgTrimmed(text);
     if (bare.find('\0') != std::string_view::npos)
         return false;
     if (isBareText(bare) && table.findValue(SbName(SbString(bare)), value))

@@ -19,15 +19,6 @@ namespace xsg
 template <class T>
 constexpr bool isTextual = std::is_same_v<T, SbString> || std::is_same_v<T, SbName>;
 
-inline std::string_view trimmed(std::string_view text)
-{
-    while (!text.empty() && XsgTextReader::isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && XsgTextReader::isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 inline std::string_view plainText(const SbString& text)
 {
     return text.str();
@@ -42,7 +33,7 @@ template <class T>
 bool readWholeText(std::string_view text, T& value)
 {
     if constexpr (isTextual<T>) {
-        const std::string_view bare = trimmed(text);
+        const std::string_view bare = xsgTrimmed(text);
         if (bare.empty() || bare.front() == '"' || bare.find('\0') != std::string_view::npos)
             return false;
         value = T(SbString(bare));

@@ -1,6 +1,7 @@
 #include <xsg/io/SceneReader.h>
 
-#include <xsg/base/XsgText.h>
+#include <xsg/fields/SoMFNode.h>
+#include <xsg/fields/SoSFNode.h>
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoUnknownNode.h>
 
@@ -21,11 +22,19 @@ std::string quoted(std::string_view text)
     return "\"" + shown(text) + "\"";
 }
 
-std::string_view trimmedRight(std::string_view text)
+// A node of an unknown type has whatever field a file names.
+SoField* fieldOf(SoNode* node, std::string_view name)
 {
-    while (!text.empty() && XsgTextReader::isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
+    const SbName fieldName{SbString(name)};
+    auto* unknown =
+        node->getTypeId() == SoUnknownNode::getClassTypeId() ? static_cast<SoUnknownNode*>(node) : nullptr;
+    return unknown ? unknown->addField(fieldName) : node->getField(fieldName);
+}
+
+bool isOfNodes(const SoField& field)
+{
+    const SoType type = field.getTypeId();
+    return type == SoSFNode::getClassTypeId() || type == SoMFNode::getClassTypeId();
 }
 
 } // namespace
@@ -94,7 +103,7 @@ bool xsg::SceneReader::readFirstLine()
 {
     const std::string_view wanted = SoSceneFile::FirstLine;
     const std::string_view line = m_text.substr(0, std::min(m_text.find('\n'), wanted.size() + ShownLength));
-    if (trimmedRight(line) != wanted)
+    if (line.substr(0, wanted.size()) != wanted || !xsgTrimmed(line.substr(wanted.size())).empty())
         return fail(0, "this is no scene file: its first line must be \"" + std::string(wanted) + "\"");
     m_at = line.size();
     return true;
@@ -121,8 +130,8 @@ SoRef<SoNode> xsg::SceneReader::read()
                                 std::string(m_open.back().node->getTypeId().getName().getString()));
     else if (!m_root)
         fail(m_text.size(), "the file has no node: a type such as Separator was expected");
-    else
-        connect();
+    else if (!refer() || !connect())
+        forgetReferences();
     return m_problem.empty() ? m_root : nullptr;
 }
 
@@ -142,8 +151,7 @@ bool xsg::SceneReader::readItem()
     ++m_at;
     if (m_open.empty())
         return fail(start, "a field stands within a node; a node was expected");
-    return m_open.back().unknown ? readUnknownField(m_text.substr(start, m_at - start))
-                                 : readField(word, start);
+    return readField(word, start);
 }
 
 bool xsg::SceneReader::openNode(std::string_view typeName, std::size_t at)
@@ -167,14 +175,10 @@ bool xsg::SceneReader::openNode(std::string_view typeName, std::size_t at)
     if (!accept('{'))
         return fail(m_at, "\"{\" was expected after " + quoted(typeName));
     const SoType type = SoType::fromName(SbName(SbString(typeName)));
-    OpenNode open{nullptr, nullptr, label};
-    if (type.isDerivedFrom(SoNode::getClassTypeId()) && type.canCreateInstance()) {
-        open.node = SoRef<SoNode>(static_cast<SoNode*>(type.createInstance()));
-    } else {
-        open.unknown = new SoUnknownNode;
-        open.node = SoRef<SoNode>(open.unknown);
-        open.unknown->typeName.setValue(SbString(typeName));
-    }
+    const bool isKnown = type.isDerivedFrom(SoNode::getClassTypeId()) && type.canCreateInstance();
+    OpenNode open{isKnown ? static_cast<SoNode*>(type.createInstance())
+                          : new SoUnknownNode(SbName(SbString(typeName))),
+                  label};
     if (hasName)
         open.node->setName(SbName(SbString(name)));
     m_open.push_back(std::move(open));
@@ -219,82 +223,44 @@ bool xsg::SceneReader::readReference()
 bool xsg::SceneReader::readField(std::string_view name, std::size_t at)
 {
     SoNode* node = m_open.back().node.get();
-    SoField* field = node->getField(SbName(SbString(name)));
+    SoField* field = fieldOf(node, name);
     if (!field)
         return fail(at, "a " + std::string(node->getTypeId().getName().getString()) + " has no field " +
                             quoted(name) + "; a field of it, a node or \"}\" was expected");
-    skipBlanks();
-    const std::size_t start = m_at;
     std::string_view value;
-    if (!readValue(value))
+    std::size_t start = 0;
+    if (!readValue(value, start))
         return false;
-    if (!value.empty()) {
+    if (!value.empty() && isOfNodes(*field)) {
+        m_nodeValues.push_back({field, value, start});
+    } else if (!value.empty()) {
         m_value.edit().assign(value);
         if (!field->set(m_value))
-            return fail(start, quoted(value) + " is no value of " + std::string(name) + ", which is a " +
-                                   field->getTypeId().getName().getString());
+            return refuseValue(*field, value, start);
     }
     return readMarks(field);
 }
 
-bool xsg::SceneReader::readUnknownField(std::string_view nameAndColon)
+bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, std::size_t at)
 {
-    std::string_view value;
-    skipBlanks();
-    if (!readValue(value))
-        return false;
-    const std::size_t marks = m_at;
-    if (!readMarks(nullptr))
-        return false;
-    const std::string ignored =
-        m_text.substr(marks, m_at - marks).find("!ignored") == std::string_view::npos ? "" : " !ignored";
-    SoMFString& contents = m_open.back().unknown->contents;
-    contents.set1Value(contents.getNum(),
-                       SbString(std::string(nameAndColon) + ' ' + std::string(value) + ignored));
+    return fail(at, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
+                        field.getTypeId().getName().getString());
+}
+
+// The value's text as it stands. It begins on the line of the field's name; where it does not, there is none.
+bool xsg::SceneReader::readValue(std::string_view& value, std::size_t& start)
+{
+    while (peek() != '\n' && XsgTextReader::isBlank(peek()))
+        ++m_at;
+    start = m_at;
+    const XsgValueExtent extent(m_text.substr(start));
+    if (!extent.isWhole())
+        return fail(start + extent.open, m_text[start + extent.open] == '['
+                                             ? "the list that starts here has no \"]\""
+                                             : "the text in quotes that starts here has no end");
+    m_at = start + extent.length;
+    value = xsgTrimmed(m_text.substr(start, extent.length));
     return true;
-}
-
-// The value's text as it stands: a list up to its bracket, anything else up to the line's end, a mark or a
-// brace.
-bool xsg::SceneReader::readValue(std::string_view& value)
-{
-    const std::size_t start = m_at;
-    if (peek() == '[') {
-        if (!skipList())
-            return false;
-    } else {
-        while (!atEnd() && peek() != '\n' && peek() != '!' && peek() != '<' && peek() != '}' &&
-               peek() != '#') {
-            if (peek() == '"') {
-                if (!skipQuoted())
-                    return false;
-            } else {
-                ++m_at;
-            }
-        }
-    }
-    value = trimmedRight(m_text.substr(start, m_at - start));
-    return true;
-}
-
-bool xsg::SceneReader::skipList()
-{
-    const std::size_t start = m_at;
-    while (!atEnd() && peek() != ']') {
-        if (peek() != '"')
-            ++m_at;
-        else if (!skipQuoted())
-            return false;
-    }
-    return accept(']') || fail(start, "the list that starts here has no \"]\"");
-}
-
-bool xsg::SceneReader::skipQuoted()
-{
-    const std::size_t start = m_at++;
-    while (!atEnd() && peek() != '"')
-        m_at += peek() == '\\' ? 2 : 1;
-    return accept('"') || fail(start, "the text in quotes that starts here has no end");
 }
 
 bool xsg::SceneReader::readMarks(SoField* field)
@@ -305,8 +271,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
         if (accept('!')) {
             if (readWord() != "ignored")
                 return fail(start, "\"!ignored\" was expected");
-            if (field)
-                field->setIgnored(true);
+            field->setIgnored(true);
         } else if (accept('<')) {
             Connection wanted{field, {}, {}, start, {}};
             if (!accept('-') || !accept('@'))
@@ -315,12 +280,58 @@ bool xsg::SceneReader::readMarks(SoField* field)
             if (!accept('.'))
                 return fail(start, "\"<- @label.field\" was expected");
             wanted.master = readWord();
-            if (field)
-                m_connections.push_back(wanted);
+            m_connections.push_back(wanted);
         } else {
             return true;
         }
     }
+}
+
+// A field may refer to a node that comes later, so all references are made at the end.
+bool xsg::SceneReader::refer()
+{
+    for (const NodeValue& wanted : m_nodeValues) {
+        XsgTextReader in(wanted.text);
+        auto* list = dynamic_cast<SoMFNode*>(wanted.field);
+        const bool isList = list && in.accept('[');
+        std::vector<SoRef<SoNode>> nodes;
+        in.skipBlanks();
+        while (isList ? !in.accept(']') : nodes.empty()) {
+            if (!readNode(in, nodes.emplace_back()))
+                return refuseValue(*wanted.field, wanted.text, wanted.at);
+            if (isList)
+                in.skipSeparator();
+        }
+        if (!in.onlyBlanksLeft())
+            return refuseValue(*wanted.field, wanted.text, wanted.at);
+        if (list)
+            list->setValues(std::move(nodes));
+        else
+            static_cast<SoSFNode*>(wanted.field)->setValue(nodes.front());
+    }
+    return true;
+}
+
+// A scene that is given up must not keep itself alive.
+void xsg::SceneReader::forgetReferences()
+{
+    for (const NodeValue& wanted : m_nodeValues) {
+        if (auto* list = dynamic_cast<SoMFNode*>(wanted.field))
+            list->setNum(0);
+        else
+            static_cast<SoSFNode*>(wanted.field)->setValue(nullptr);
+    }
+}
+
+bool xsg::SceneReader::readNode(XsgTextReader& in, SoRef<SoNode>& node) const
+{
+    if (!in.accept('@'))
+        return XsgText<SoRef<SoNode>>::read(in, node) && in.atValueEnd();
+    const auto known = m_labels.find(in.readWord());
+    if (known == m_labels.end() || !in.atValueEnd())
+        return false;
+    node = known->second;
+    return true;
 }
 
 // A connection may name a node that comes later, so all are made at the end.
@@ -328,8 +339,7 @@ bool xsg::SceneReader::connect()
 {
     for (Connection& wanted : m_connections) {
         const auto node = m_labels.find(wanted.label);
-        SoField* master =
-            node == m_labels.end() ? nullptr : node->second->getField(SbName(SbString(wanted.master)));
+        SoField* master = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.master);
         if (!master)
             return fail(wanted.at, "there is no field @" + std::string(wanted.label) + "." +
                                        std::string(wanted.master) + " to connect from");

@@ -1,6 +1,7 @@
 // Reads the text of a scene; see SoSceneFile for its form.
 #pragma once
 
+#include <xsg/base/XsgText.h>
 #include <xsg/fields/SoField.h>
 #include <xsg/nodes/SoNode.h>
 
@@ -8,8 +9,6 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
-
-class SoUnknownNode;
 
 namespace xsg
 {
@@ -33,7 +32,6 @@ public:
 private:
     struct OpenNode {
         SoRef<SoNode> node;
-        SoUnknownNode* unknown; // the node, where it is one
         std::string_view label;
     };
     struct Connection {
@@ -42,6 +40,13 @@ private:
         std::string_view master;
         std::size_t at;
         SbString value; // as written; null where it was not
+    };
+
+    // Nodes that a field refers to by their labels.
+    struct NodeValue {
+        SoField* field;
+        std::string_view text;
+        std::size_t at;
     };
 
     bool fail(std::size_t at, std::string problem);
@@ -59,11 +64,12 @@ private:
     bool place(const SoRef<SoNode>& node, std::size_t at);
     bool readReference();
     bool readField(std::string_view name, std::size_t at);
-    bool readUnknownField(std::string_view name);
-    bool readValue(std::string_view& value);
+    bool readValue(std::string_view& value, std::size_t& start);
     bool readMarks(SoField* field);
-    bool skipList();
-    bool skipQuoted();
+    bool refer();
+    void forgetReferences();
+    bool readNode(XsgTextReader& in, SoRef<SoNode>& node) const;
+    bool refuseValue(const SoField& field, std::string_view value, std::size_t at);
     bool connect();
     void restoreWrittenValues();
 
@@ -74,6 +80,7 @@ private:
     SoRef<SoNode> m_root;
     std::vector<OpenNode> m_open;
     std::unordered_map<std::string_view, SoRef<SoNode>> m_labels;
+    std::vector<NodeValue> m_nodeValues;
     std::vector<Connection> m_connections;
     SbString m_value; // keeps its memory from field to field
 };

@@ -1,7 +1,8 @@
 #include <xsg/io/SceneWriter.h>
 
 #include <xsg/base/XsgText.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/fields/SoMFNode.h>
+#include <xsg/fields/SoSFNode.h>
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoUnknownNode.h>
 
@@ -22,8 +23,8 @@ template <class Visit>
 void forEachField(const SoNode* node, Visit visit)
 {
     const SoFieldData* data = node->getFieldData();
-    for (int i = 0; i < data->getNumFields(); ++i)
-        visit(*data->getField(node, i));
+    for (const SoField* field = data->getField(node, 0); field; field = data->getNext(field))
+        visit(*field);
 }
 
 const SoNode* masterNodeOf(const SoField& field)
@@ -74,7 +75,8 @@ void xsg::SceneWriter::write(const SoNode* root)
     flush(0);
 }
 
-// Nodes that are met twice, and those whose fields others are connected from, need labels.
+// Nodes that are met twice, those that fields refer to, and those whose fields others are connected from need
+// labels.
 void xsg::SceneWriter::findLabelled(const SoNode* root)
 {
     std::vector<const SoNode*> pending{root};
@@ -85,16 +87,23 @@ void xsg::SceneWriter::findLabelled(const SoNode* root)
             m_labels.emplace(node, 0);
             continue;
         }
-        addMasters(node);
+        addReferences(node);
         pending.insert(pending.end(), childrenOf(node).begin(), childrenOf(node).end());
     }
 }
 
-void xsg::SceneWriter::addMasters(const SoNode* node)
+void xsg::SceneWriter::addReferences(const SoNode* node)
 {
     forEachField(node, [&](const SoField& field) {
+        if (!isWorthWriting(field))
+            return;
         if (const SoNode* master = masterNodeOf(field))
             m_labels.emplace(master, 0);
+        if (const auto* single = dynamic_cast<const SoSFNode*>(&field))
+            m_labels.emplace(single->getNode(), 0);
+        else if (const auto* list = dynamic_cast<const SoMFNode*>(&field))
+            for (int i = 0; i < list->getNum(); ++i)
+                m_labels.emplace((*list)[i].get(), 0);
     });
 }
 
@@ -109,7 +118,7 @@ void xsg::SceneWriter::beginNode(const SoNode* node, std::size_t depth)
 {
     indent(depth);
     const auto* unknown = dynamic_cast<const SoUnknownNode*>(node);
-    m_out += unknown ? unknown->typeName.getValue().str() : node->getTypeId().getName().getString();
+    m_out += (unknown ? unknown->getTypeName() : node->getTypeId().getName()).getString();
     if (node->getName().getLength() > 0) {
         m_out += ' ';
         xsgAppendQuoted(m_out, node->getName().getString());
@@ -138,23 +147,13 @@ bool xsg::SceneWriter::isWorthWriting(const SoField& field)
 bool xsg::SceneWriter::writeFields(const SoNode* node, std::size_t depth)
 {
     bool any = false;
-    const auto beginLine = [&] {
+    forEachField(node, [&](const SoField& field) {
+        if (!isWorthWriting(field))
+            return;
         if (!any)
             m_out += '\n';
         any = true;
         indent(depth);
-    };
-    if (const auto* unknown = dynamic_cast<const SoUnknownNode*>(node)) {
-        for (int i = 0; i < unknown->contents.getNum(); ++i) {
-            beginLine();
-            m_out += unknown->contents[i].str() + '\n';
-        }
-        return any;
-    }
-    forEachField(node, [&](const SoField& field) {
-        if (!isWorthWriting(field))
-            return;
-        beginLine();
         writeField(field);
         m_out += '\n';
     });
@@ -168,18 +167,51 @@ void xsg::SceneWriter::writeField(const SoField& field)
     const bool keepsConnection = isConnectionKept(field);
     field.evaluate();
     if (!field.isDefault()) {
-        field.get(m_value);
-        m_out += ' ' + m_value.str();
+        m_out += ' ';
+        writeValue(field);
     }
     if (field.isIgnored())
         m_out += " !ignored";
     if (!keepsConnection)
         return;
-    int& label = m_labels[masterNodeOf(field)];
+    m_out += " <- ";
+    writeLabel(masterNodeOf(field));
+    m_out += std::string(".") + field.getConnectedField()->getName().getString();
+}
+
+void xsg::SceneWriter::writeValue(const SoField& field)
+{
+    if (const auto* single = dynamic_cast<const SoSFNode*>(&field)) {
+        writeReference(single->getNode());
+    } else if (const auto* list = dynamic_cast<const SoMFNode*>(&field)) {
+        m_out += "[ ";
+        for (int i = 0; i < list->getNum(); ++i) {
+            if (i > 0)
+                m_out += ", ";
+            writeReference((*list)[i].get());
+        }
+        m_out += list->getNum() > 0 ? " ]" : "]";
+    } else {
+        field.get(m_value);
+        m_out += m_value.str();
+    }
+}
+
+// A node outside of the scene cannot be named in its file.
+void xsg::SceneWriter::writeReference(const SoNode* node)
+{
+    if (m_reached.count(node) > 0)
+        writeLabel(node);
+    else
+        m_out += "NULL";
+}
+
+void xsg::SceneWriter::writeLabel(const SoNode* node)
+{
+    int& label = m_labels[node];
     if (label == 0)
         label = -++m_lastLabel;
-    m_out +=
-        " <- @" + std::to_string(std::abs(label)) + '.' + field.getConnectedField()->getName().getString();
+    m_out += '@' + std::to_string(std::abs(label));
 }
 
 void xsg::SceneWriter::indent(std::size_t depth)

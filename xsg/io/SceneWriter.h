@@ -27,11 +27,14 @@ public:
 
 private:
     void findLabelled(const SoNode* root);
-    void addMasters(const SoNode* node);
+    void addReferences(const SoNode* node);
     void beginNode(const SoNode* node, std::size_t depth);
     void endNode(bool isEmpty, std::size_t depth);
     bool writeFields(const SoNode* node, std::size_t depth);
     void writeField(const SoField& field);
+    void writeValue(const SoField& field);
+    void writeReference(const SoNode* node);
+    void writeLabel(const SoNode* node);
     void indent(std::size_t depth);
     void flush(std::size_t above);
     static bool isWorthWriting(const SoField& field);

@@ -14,9 +14,10 @@
 //     }
 //
 // A node is its type, perhaps its name in quotes, perhaps a label after "@", and braces around its fields and
-// children. A label alone stands for the node that has it. A field is its name, a colon, its value as text
-// where it is not the default one, and marks: "!ignored", and "<- @label.field" for the field it is connected
-// from. What follows a "#" up to the end of the line is for people.
+// children. A label alone stands for the node that has it, as a child and as the value of a field of nodes
+// ("NULL" for none, and for a node that is not in the scene). A field is its name, a colon, on the same line
+// its value as text where it is not the default one, and marks: "!ignored", and "<- @label.field" for the
+// field it is connected from. What follows a "#" up to the end of the line is for people.
 #pragma once
 
 #include <xsg/nodes/SoNode.h>

@@ -3,3 +3,11 @@
 #include <xsg/core/SoTypedImpl.h>
 
 template class SoTyped<SoUnknownNode, SoSeparator>;
+
+SoUnknownField* SoUnknownNode::addField(SbName name)
+{
+    SoUnknownField*& field = m_byName[name.getString()];
+    if (!field)
+        field = m_added.emplace_back(std::make_unique<SoUnknownField>(this, name)).get();
+    return field;
+}

@@ -4,6 +4,7 @@
 #include <xsg/errors/SoReadError.h>
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoCube.h>
+#include <xsg/nodes/SoFieldGallery.h>
 #include <xsg/nodes/SoInfo.h>
 #include <xsg/nodes/SoMaterial.h>
 #include <xsg/nodes/SoPoints.h>
@@ -196,6 +197,80 @@ TEST_F(SceneFile, AConnectionFromOutsideOfTheSceneLeavesItsValue)
     EXPECT_EQ(dynamic_cast<SoSphere&>(*copy).radius.getValue(), 2.0F);
 }
 
+TEST_F(SceneFile, KeepsReferencesToNodesAlsoToWhatComesLater)
+{
+    const SoRef<SoCube> outside(new SoCube);
+    const SoRef<SoSeparator> root(new SoSeparator);
+    auto* gallery = new SoFieldGallery;
+    auto* cube = new SoCube;
+    auto* sphere = new SoSphere;
+    sphere->setName("@1");
+    for (SoNode* node : std::initializer_list<SoNode*>{cube, gallery, sphere})
+        root->addChild(node);
+    gallery->sfNode.setValue(SoRef<SoNode>(sphere));
+    gallery->mfNode.setValues(std::vector<SoRef<SoNode>>{
+        SoRef<SoNode>(cube), nullptr, SoRef<SoNode>(outside.get()), SoRef<SoNode>(sphere)});
+    const std::string text = SoSceneFile::writeText(root.get());
+    const auto copy = read(text);
+    ASSERT_TRUE(copy) << error;
+    auto* copied = child<SoFieldGallery>(copy, 1);
+    const SoGroup* group = copy->asGroup();
+    EXPECT_EQ(copied->sfNode.getNode(), group->getChild(2));
+    ASSERT_EQ(copied->mfNode.getNum(), 4);
+    EXPECT_EQ(copied->mfNode[0].get(), group->getChild(0));
+    EXPECT_EQ(copied->mfNode[1].get(), nullptr);
+    EXPECT_EQ(copied->mfNode[2].get(), nullptr) << "what is not in the scene is not in its file";
+    EXPECT_EQ(copied->mfNode[3].get(), group->getChild(2));
+    EXPECT_EQ(SoSceneFile::writeText(copy.get()), text);
+}
+
+TEST_F(SceneFile, ReferencesByNameFindWhatComesLater)
+{
+    const auto root = read(Head + R"(Group {
+    FieldGallery {
+        sfNode: "the far end"
+        mfNode: [ "the far end", NULL ]
+    }
+    Cube "the far end" {}
+})");
+    ASSERT_TRUE(root) << error;
+    auto* gallery = child<SoFieldGallery>(root, 0);
+    EXPECT_EQ(gallery->sfNode.getNode(), root->asGroup()->getChild(1));
+    EXPECT_EQ(gallery->mfNode[0].get(), root->asGroup()->getChild(1));
+}
+
+// A node that refers to itself lives for ever; one whose file is refused must not.
+TEST_F(SceneFile, ARefusedSceneDoesNotKeepItselfAlive)
+{
+    EXPECT_FALSE(
+        read(Head + "FieldGallery \"lasting\" @1 { mfNode: [ @1 ] sfFloat: <- @1.none\n sfNode: @1\n}"));
+    EXPECT_NE(error.find("there is no field @1.none"), std::string::npos) << error;
+    EXPECT_EQ(SoFieldContainer::getByName("lasting"), nullptr);
+}
+
+TEST_F(SceneFile, AFieldWithoutAValueLeavesTheNextLineAlone)
+{
+    const std::string text = Head + R"(Separator {
+    Cube {
+        width: !ignored
+        height: 3
+    }
+    Wormhole {
+        mouth:
+        depth: 4
+    }
+}
+)";
+    const auto root = read(text);
+    ASSERT_TRUE(root) << error;
+    EXPECT_EQ(child<SoCube>(root, 0)->height.getValue(), 3.0F);
+    const std::string written = SoSceneFile::writeText(root.get());
+    const auto again = read(written);
+    ASSERT_TRUE(again) << error;
+    EXPECT_EQ(SoSceneFile::writeText(again.get()), written);
+    EXPECT_TRUE(read(Head + "Cube {\n width:\n height: 5\n}")) << error;
+}
+
 TEST_F(SceneFile, NodesOfUnknownTypesAreKept)
 {
     const std::string text = Head + R"(Separator {
@@ -212,9 +287,54 @@ TEST_F(SceneFile, NodesOfUnknownTypesAreKept)
     ASSERT_TRUE(root) << error;
     auto* unknown = child<SoUnknownNode>(root, 0);
     ASSERT_TRUE(unknown);
-    EXPECT_STREQ(unknown->typeName.getValue().getString(), "Wormhole");
+    EXPECT_EQ(unknown->getTypeName(), SbName("Wormhole"));
     EXPECT_EQ(unknown->getNumChildren(), 1);
     EXPECT_EQ(SoSceneFile::writeText(root.get()), text);
+}
+
+TEST_F(SceneFile, ConnectionsFromAndToNodesOfUnknownTypesAreKept)
+{
+    const std::string text = Head + R"(Separator {
+    Cube @1 {
+        width: 7 <- @2.mouth
+    }
+    Wormhole @2 {
+        mouth: 7
+        depth: 4 !ignored <- @1.height
+        length: 5 <- @3.reach
+    }
+    Wormhole @3 {
+        reach: 5
+    }
+}
+)";
+    const auto root = read(text);
+    ASSERT_TRUE(root) << error;
+    EXPECT_EQ(SoSceneFile::writeText(root.get()), text);
+    auto* cube = child<SoCube>(root, 0);
+    auto* unknown = child<SoUnknownNode>(root, 1);
+    ASSERT_TRUE(unknown->getField("mouth")->set(" 9 "));
+    EXPECT_EQ(cube->width.getValue(), 9.0F);
+    cube->height.setValue(3);
+    EXPECT_EQ(textOf(*unknown->getField("depth")), "4") << "how it would take the value is not known";
+}
+
+TEST_F(SceneFile, AFieldOfAnUnknownNodeRefusesWhatAFileCouldNotHave)
+{
+    const auto root = read(Head + "Wormhole { mouth: 7\n }");
+    ASSERT_TRUE(root) << error;
+    SoField* field = root->getField("mouth");
+    ASSERT_TRUE(field);
+    for (const char* bad : {"", " ", "7\n8", "\"a", "[ 1", "[ 1 ] 2", "7 }", "#7", "7 !ignored", "<- @1.x"}) {
+        EXPECT_FALSE(field->set(bad)) << bad;
+        EXPECT_EQ(textOf(*field), "7");
+    }
+    for (const char* good : {"x", "1 2 3", "\"} # \\\" \"", "[ \"]\", 2\n]", "LEFT | TOP"}) {
+        ASSERT_TRUE(field->set(good)) << good;
+        const auto copy = read(SoSceneFile::writeText(root.get()));
+        ASSERT_TRUE(copy) << error;
+        EXPECT_TRUE(copy->getField("mouth")->isSame(*field)) << good;
+    }
 }
 
 TEST_F(SceneFile, AHundredThousandLevels)
@@ -278,6 +398,12 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"Cube { width: <- 5 }", "scene.xsg:2: Column 15:", "\"<- @label.field\" was expected"},
         Wrong{"Cube { width: <- @1.width }", "scene.xsg:2: Column 15:", "there is no field @1.width"},
         Wrong{"Cube @1 { width: <- @1.width }", "scene.xsg:2: Column 18:", "cannot be connected"},
+        Wrong{"FieldGallery { sfNode: @7\n}",
+              "scene.xsg:2: Column 24:", "\"@7\" is no value of sfNode, which is a SFNode"},
+        Wrong{"FieldGallery @1 { mfNode: [ @1, x+y ] }",
+              "scene.xsg:2: Column 27:", "\"[ @1, x+y ]\" is no value of mfNode, which is a MFNode"},
+        Wrong{"Group { FieldGallery { sfNode: @1 @1\n } Cube @1 {} }",
+              "scene.xsg:2: Column 32:", "\"@1 @1\" is no value of sfNode"},
         Wrong{"Separator { ) }", "scene.xsg:2: Column 13:", "a field, a node or \"}\" was expected"}));
 
 TEST_F(SceneFile, AnotherFirstLineIsNoSceneFile)

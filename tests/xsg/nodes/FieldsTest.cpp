@@ -118,8 +118,6 @@ const Row Rows[] = {
     {"TriangleSet", "colorBinding", "SFEnum", "OVERALL"},
     {"TriangleStripSet", "colorBinding", "SFEnum", "OVERALL"},
     {"TriangleStripSet", "counts", "MFInt32", "[ ]"},
-    {"UnknownNode", "typeName", "SFString", "\"\""},
-    {"UnknownNode", "contents", "MFString", "[ ]"},
 };
 
 SoRef<SoNode> create(const char* type)
