@@ -98,6 +98,23 @@ TEST_F(EveryField, RefusesMalformedTextAndKeepsItsValue)
     });
 }
 
+// A comma parts the values of a list; between the numbers of one value it could as well be a decimal comma.
+TEST_F(EveryField, CommasDoNotPartTheNumbersOfAValue)
+{
+    forEach([this] {
+        if (sample().numbers < 2)
+            return;
+        std::string text = "1";
+        for (int i = 1; i < sample().numbers; ++i)
+            text += ",1";
+        const auto field = sample().create();
+        const std::string before = textOf(*field);
+        for (const std::string& commas : {text, "[ " + text + " ]"})
+            EXPECT_FALSE(field->set(commas)) << commas;
+        EXPECT_EQ(textOf(*field), before);
+    });
+}
+
 TEST_F(EveryField, RefusedTextLeavesTheDefaultFlag)
 {
     forEach([this] {
