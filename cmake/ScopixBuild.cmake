@@ -22,7 +22,10 @@ add_library(scopix_settings INTERFACE)
 add_library(Scopix::settings ALIAS scopix_settings)
 target_compile_options(scopix_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Werror -Woverloaded-virtual -Wnon-virtual-dtor)
-target_link_options(scopix_settings INTERFACE -Wl,--no-undefined)
+# Clang puts the sanitizers' runtime into programs alone, so that a library's calls of it stay open.
+if(NOT (SCOPIX_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
+  target_link_options(scopix_settings INTERFACE -Wl,--no-undefined)
+endif()
 target_compile_definitions(scopix_settings INTERFACE QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 if(SCOPIX_CCACHE)
   target_compile_options(scopix_settings INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)

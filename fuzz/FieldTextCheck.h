@@ -1,25 +1,20 @@
 // What must hold whatever text a field is given. The fuzzer and the test that replays its corpus share this.
 #pragma once
 
+#include "Check.h"
+
 #include <xsg/fields/SoMField.h>
 #include <xsg/nodes/SoFieldGallery.h>
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
-#include <string>
+#include <algorithm>
 
 namespace fuzz
 {
 
 inline void require(bool holds, const char* what, const SoField& field)
 {
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s: %s\n", field.getName().getString(), what);
-    std::abort();
+    if (!holds)
+        require(false, std::string(field.getName().getString()) + ": " + what);
 }
 
 inline std::string written(const SoField& field)

@@ -1,10 +1,6 @@
 #include "FieldTextCheck.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static auto& check = *new fuzz::FieldTextCheck;
-    check(data, size);
-    return 0;
+    return fuzz::runCheck<fuzz::FieldTextCheck>(data, size);
 }

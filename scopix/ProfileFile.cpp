@@ -1,7 +1,5 @@
 #include "ProfileFile.h"
 
-#include "UserSettings.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -10,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -134,7 +133,8 @@ ProfileSettings parse(const QByteArray& text)
 
 QString ProfileFile::standardPath()
 {
-    return UserSettings::path(QStringLiteral("profiles.json"));
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/scopix/profiles.json");
 }
 
 ProfileSettings ProfileFile::shipped()

@@ -26,6 +26,11 @@ scopix_test_packages=(
   "xauth|keeps that display private"
   "locales|a locale with a decimal comma, under which the tests run again"
 )
+# For ./test --asan alone.
+scopix_fuzz_packages=(
+  "clang|compiles the fuzzers, which GCC has no counterpart for"
+  "libclang-rt-14-dev|the fuzzing engine and clang's sanitizers"
+)
 scopix_bench_packages=(
   "libbenchmark-dev|the benchmark framework"
 )

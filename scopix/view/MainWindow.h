@@ -1,16 +1,18 @@
-// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
-// around it. Opens scenes and models. GUI thread only.
+// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
+// extensions around it. Opens scenes and models. GUI thread only.
 #pragma once
 
 #include "HostWindow.h"
 #include "view/Colors.h"
-#include "view/SceneFiles.h"
 
-#include <xsg/nodes/SoNode.h>
+#include <xsg/nodes/SoSeparator.h>
+
+#include <QPointer>
 
 class FieldListView;
 class HostServices;
 class Messages;
+class ModelImport;
 class SceneTreeView;
 class SceneView;
 class SoField;
@@ -24,17 +26,17 @@ public:
     MainWindow(HostServices& services, Messages& messages);
     ~MainWindow() override;
 
-    // Shows this scene, which comes from no file, instead of the one before; `title` names it.
+    // Shows this scene instead of the one before; `title` names it.
     void setScene(SoNode* root, const QString& title);
-    SoNode* getScene() const { return m_files.getDocument().getRoot(); }
-    SceneFiles& getFiles() { return m_files; }
+    SoNode* getScene() const { return m_scene.get(); }
 
     QMenu* viewMenu() override { return m_toolsMenu; }
     QMenu* profilesMenu() override { return m_profilesMenu; }
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
-    void beginSession() override { m_files.beginSession(); }
+    // As a scene file. False when it cannot be written, which is told through Messages.
+    bool saveScene(const QString& path);
 
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
@@ -43,7 +45,6 @@ public:
     QSize sizeHint() const override { return {1280, 800}; }
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -56,10 +57,15 @@ private:
     void makeHelpMenu();
     void makeToolBar();
     void connectSelection();
-    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area);
+    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
+                         Qt::DockWidgetArea area);
 
-    void showScene(SoNode* root);
-    void showTitle();
+    void openScene(const QString& path);
+    void importModel(const QString& path);
+    void askWhereToSave();
+    void opened(SoNode* root, const QString& path);
+    void refuse(const QString& sentence);
+    void askForFile();
     void askForScreenshot();
     void showAbout();
     void viewSelected();
@@ -69,7 +75,8 @@ private:
 
     HostServices& m_services;
     Messages& m_messages;
-    SceneFiles m_files;
+    SoRef<SoNode> m_scene;
+    QPointer<ModelImport> m_import;
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;

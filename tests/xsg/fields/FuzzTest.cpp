@@ -6,25 +6,16 @@
 #include "fuzz/FieldTextCheck.h"
 
 #include <chrono>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 
 namespace
 {
 
-using Input = std::vector<std::uint8_t>;
+using fuzz::Input;
 
 std::vector<Input> corpus()
 {
-    std::vector<Input> inputs;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(SCOPIX_SOURCE_DIR "/fuzz/corpus/field_text")) {
-        std::ifstream in(entry.path(), std::ios::binary);
-        inputs.emplace_back(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    }
-    return inputs;
+    return fuzz::inputsOf(SCOPIX_SOURCE_DIR "/fuzz/corpus/field_text");
 }
 
 // The texts that the tests know of, for every field of the gallery.

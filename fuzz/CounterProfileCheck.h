@@ -1,0 +1,130 @@
+// What must hold whatever a counter-profile file has in it. The fuzzer and the test that replays its corpus
+// share this.
+#pragma once
+
+#include "Check.h"
+
+#include "CounterProfileFile.h"
+#include "SoPerfCounterProfile.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/errors/SoDebugError.h>
+
+#include <QBuffer>
+#include <QDomDocument>
+
+#include <memory>
+
+namespace fuzz
+{
+
+class CounterProfileCheck
+{
+public:
+    // Counters that would be computed from themselves are told of as errors; here they are no news.
+    CounterProfileCheck()
+        : m_callback(SoDebugError::getHandlerCallback())
+        , m_data(SoDebugError::getHandlerData())
+    {
+        SoDebugError::setHandlerCallback(nullptr, nullptr);
+    }
+    ~CounterProfileCheck() { SoDebugError::setHandlerCallback(m_callback, m_data); }
+    CounterProfileCheck(const CounterProfileCheck&) = delete;
+    CounterProfileCheck& operator=(const CounterProfileCheck&) = delete;
+
+    // A file that is accepted is the same once it was written and read.
+    void operator()(const std::uint8_t* data, std::size_t size)
+    {
+        QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
+        QDomDocument document;
+        QString problem;
+        if (!parse(bytes, document, problem))
+            return;
+        Content content(document);
+        counterProfileFile::writeProfiles(document, content.bare());
+        counterProfileFile::writeCustomCounters(document);
+        removeCustomCounters();
+        for (const auto& profile : content.profiles)
+            counterProfileFile::writeView(document, *profile);
+        QByteArray written = bytesOf(document);
+        QDomDocument again;
+        require(parse(written, again, problem), "a file that was written cannot be read: " +
+                                                    problem.toStdString() + "\n" + written.toStdString());
+        const Content same(again);
+        removeCustomCounters();
+        require(same.counters == content.counters, "a custom counter changes when written and read");
+        require(same.lists() == content.lists(), "a profile changes when written and read");
+    }
+
+private:
+    struct Content {
+        explicit Content(const QDomDocument& document)
+        {
+            for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(document))
+                profiles.emplace_back(profile);
+            counterProfileFile::readCustomCounters(document);
+            for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
+                if (counter->isCustom())
+                    counters.push_back(textOf(*counter));
+            }
+        }
+        static std::string textOf(const SoPerfCounter& counter)
+        {
+            std::string text = counter.getName().getString();
+            for (const SbString& part : {counter.getTypeCode(), counter.getDescription(), counter.getModule(),
+                                         counter.getStringLevel(), counter.getOperation()})
+                text += '\n' + part.str();
+            return text + '\n' + counter.getFirstParent().getString() + '\n' +
+                   counter.getSecondParent().getString();
+        }
+        QList<SoPerfCounterProfile*> bare() const
+        {
+            QList<SoPerfCounterProfile*> all;
+            for (const auto& profile : profiles)
+                all.append(profile.get());
+            return all;
+        }
+        QList<QStringList> lists() const
+        {
+            QList<QStringList> all;
+            for (const auto& profile : profiles) {
+                all.append({profile->getName()});
+                all.append(*profile->getList());
+                all.append(*profile->getView());
+            }
+            return all;
+        }
+        std::vector<std::unique_ptr<SoPerfCounterProfile>> profiles;
+        std::vector<std::string> counters;
+    };
+
+    static bool parse(QByteArray& bytes, QDomDocument& document, QString& problem)
+    {
+        QBuffer buffer(&bytes);
+        problem.clear();
+        const bool accepted = counterProfileFile::parse(&buffer, document, problem);
+        require(accepted == problem.isEmpty(), "a file must be accepted or refused with a reason");
+        return accepted;
+    }
+    static QByteArray bytesOf(const QDomDocument& document)
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        counterProfileFile::writeDocument(&buffer, document);
+        return buffer.data();
+    }
+    static void removeCustomCounters()
+    {
+        auto* registry = SoPerfCounterManager::getInstance();
+        for (const SoPerfCounter* counter : registry->getCounters()) {
+            if (counter->isCustom())
+                registry->disableCounter(counter->getName());
+        }
+        registry->removeDisabledCounters();
+    }
+
+    SoErrorCB* m_callback;
+    void* m_data;
+};
+
+} // namespace fuzz
