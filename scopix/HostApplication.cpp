@@ -3,23 +3,11 @@
 #include "PluginFolders.h"
 #include "ProfilesMenu.h"
 #include "UserHome.h"
+#include "UserSettings.h"
 #include "ViewMenu.h"
 
 #include <QApplication>
 #include <QSettings>
-#include <QStandardPaths>
-
-namespace
-{
-
-// Kept apart from the profiles, which a person may want to carry to another machine.
-QString layoutFile()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/scopix/window.ini");
-}
-
-} // namespace
 
 HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profiles)
     : m_window(makeWindow(m_services, m_messages))
@@ -103,19 +91,21 @@ void HostApplication::finish(const CommandLine& line)
     m_status = m_messages.errorCount() > 0 ? 1 : 0;
     if (line.isUnattended())
         emit finished();
+    else
+        m_window->beginSession();
 }
 
 void HostApplication::restoreLayout()
 {
     m_keepsLayout = true;
-    const QSettings settings(layoutFile(), QSettings::IniFormat);
+    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
     m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
 }
 
 void HostApplication::saveLayout() const
 {
-    QSettings settings(layoutFile(), QSettings::IniFormat);
+    QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
     settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
     settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
 }

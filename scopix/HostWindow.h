@@ -23,6 +23,8 @@ public:
     virtual bool selectField(const QString& node, const QString& field) = 0;
     // Writes a picture of the window. False when it cannot be written, which is told through Messages.
     virtual bool saveScreenshot(const QString& path) = 0;
+    // What was asked for at the start has been done, and a person works with the window from now on.
+    virtual void beginSession() {}
 
 signals:
     void fileDone(bool opened);

@@ -1,5 +1,7 @@
 #include "ProfileFile.h"
 
+#include "UserSettings.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -8,7 +10,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -133,8 +134,7 @@ ProfileSettings parse(const QByteArray& text)
 
 QString ProfileFile::standardPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/scopix/profiles.json");
+    return UserSettings::path(QStringLiteral("profiles.json"));
 }
 
 ProfileSettings ProfileFile::shipped()

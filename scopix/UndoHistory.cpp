@@ -12,6 +12,7 @@
 UndoHistory::UndoHistory(QObject* parent)
     : QObject(parent)
 {
+    connect(&m_stack, &QUndoStack::indexChanged, this, &UndoHistory::acted);
 }
 
 UndoHistory::~UndoHistory()
@@ -50,6 +51,7 @@ void UndoHistory::record(std::unique_ptr<SpxCommand> command, const Note& note)
     m_mayTouchAnything |= note.touched.empty();
     if (goesOn(note)) {
         m_openStep->append(std::move(command), note);
+        emit acted();
         return;
     }
     auto step = std::make_shared<UndoStep>(*this, note);
@@ -97,10 +99,28 @@ bool UndoHistory::dropSteps(const SoFieldContainer* container)
     return any;
 }
 
+// Where the saved state is reached once the dropped steps are gone: -1, nowhere, where one of them lies between it and
+// the present state, since that edit can be neither undone nor done again.
+int UndoHistory::cleanIndexAfterSweep() const
+{
+    const int clean = m_stack.cleanIndex();
+    int after = clean;
+    for (int i = 0; i < m_stack.count() && clean >= 0; ++i) {
+        if (!stepAt(i)->isDropped())
+            continue;
+        const bool isBetween = i >= std::min(clean, m_stack.index()) && i < std::max(clean, m_stack.index());
+        if (isBetween)
+            return -1;
+        after -= i < clean ? 1 : 0;
+    }
+    return after;
+}
+
 // QUndoStack cannot take a step out of its middle, so the others are put on an empty one.
 void UndoHistory::sweep()
 {
     const QScopedValueRollback<bool> sweeping(m_sweeping, true);
+    const int clean = cleanIndexAfterSweep();
     std::vector<StepPtr> kept;
     int index = 0;
     for (int i = 0; i < m_stack.count(); ++i) {
@@ -114,6 +134,11 @@ void UndoHistory::sweep()
     m_stack.clear();
     for (StepPtr& step : kept)
         m_stack.push(new UndoEntry(*this, std::move(step)));
+    m_stack.resetClean();
+    if (clean >= 0) {
+        m_stack.setIndex(clean);
+        m_stack.setClean();
+    }
     m_stack.setIndex(index);
 }
 
@@ -123,7 +148,10 @@ void UndoHistory::clear()
     m_openStep.reset();
     m_touched.clear();
     m_mayTouchAnything = false;
+    const bool wasClean = m_stack.isClean();
     m_stack.clear();
+    if (!wasClean)
+        m_stack.resetClean(); // the edits themselves are still there
 }
 
 UndoHistory::StepPtr UndoHistory::stepAt(int index) const

@@ -38,9 +38,12 @@ public:
     void execute(std::unique_ptr<SpxCommand> command, const Note& note);
     // Drops the steps that touch the container, and those of which it is not known what they touch.
     void forget(const SoFieldContainer* container);
+    // Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
 
 signals:
+    // A command was executed, or steps were undone or redone.
+    void acted();
     // A command threw; the sentence names the step.
     void failed(const QString& sentence);
 
@@ -58,6 +61,7 @@ private:
     bool goesOn(const Note& note) const;
     bool dropSteps(const SoFieldContainer* container);
     void sweep();
+    int cleanIndexAfterSweep() const;
     StepPtr stepAt(int index) const;
 
     QUndoStack m_stack;

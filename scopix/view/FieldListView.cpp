@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 FieldListView::FieldListView(QWidget* parent)
     : QTreeView(parent)
     , m_model(new FieldListModel(this))
@@ -19,11 +21,34 @@ FieldListView::FieldListView(QWidget* parent)
     setAllColumnsShowFocus(true);
     setTextElideMode(Qt::ElideRight);
     setFrameShape(NoFrame);
-    header()->setStretchLastSection(true);
+    header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(50);
     header()->setSectionsMovable(false);
-    for (const int column : {FieldListModel::NameColumn, FieldListModel::TypeColumn})
-        header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(QHeaderView::Fixed);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &FieldListView::fitColumns);
+}
+
+void FieldListView::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    fitColumns();
+}
+
+// Types and names get what they need as long as a third of the width is left for the values; what is cut off
+// stands in the tool tip.
+void FieldListView::fitColumns()
+{
+    const auto wanted = [this](int column) {
+        return std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
+    };
+    const int width = viewport()->width();
+    const int third = width / 3;
+    const int type = std::min(wanted(FieldListModel::TypeColumn), third);
+    const int name = std::min(wanted(FieldListModel::NameColumn), width - third - type);
+    header()->resizeSection(FieldListModel::TypeColumn, type);
+    header()->resizeSection(FieldListModel::NameColumn, name);
+    header()->resizeSection(FieldListModel::ValueColumn, width - name - type);
+    updateGeometries(); // the tree itself would wait for a timer, with a scroll bar meanwhile
 }
 
 void FieldListView::setContainer(SoFieldContainer* container)

@@ -25,9 +25,12 @@ signals:
     void fieldSelected(SoField* field);
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
+    void fitColumns();
+
     FieldListModel* m_model;
     bool m_quiet = false;
 };

@@ -2,12 +2,11 @@
 
 #include "HostServices.h"
 #include "Messages.h"
-#include "import/FileChecks.h"
-#include "import/ModelImport.h"
-#include "import/ModelReader.h"
+#include "UserSettings.h"
 #include "view/ActionIcons.h"
 #include "view/DefaultScene.h"
 #include "view/FieldListView.h"
+#include "view/FileMenu.h"
 #include "view/NodeText.h"
 #include "view/SceneTreeModel.h"
 #include "view/SceneTreeView.h"
@@ -16,15 +15,14 @@
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/fields/SoField.h>
-#include <xsg/io/SoSceneFile.h>
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -41,33 +39,14 @@ constexpr int MessageMs = 8000;
 
 QSettings settings()
 {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("scopix"),
-                     QStringLiteral("window"));
+    return QSettings(UserSettings::windowFile(), QSettings::IniFormat);
 }
 
 scopix::Theme wantedTheme()
 {
     const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
-    return scopix::themeFromName(
-        fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString() : fromEnvironment);
-}
-
-QString sceneEnding()
-{
-    return QStringLiteral("xsg");
-}
-
-QStringList allEndings()
-{
-    return QStringList(sceneEnding()) + scopix::modelEndings();
-}
-
-QString nameFilter()
-{
-    QStringList patterns;
-    for (const QString& ending : allEndings())
-        patterns << QStringLiteral("*.") + ending;
-    return MainWindow::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
+    return scopix::themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
+                                                           : fromEnvironment);
 }
 
 // To the first node, from the top, that has this name, or else this type.
@@ -88,6 +67,7 @@ SoPath findNode(SoNode* root, const QString& text)
 MainWindow::MainWindow(HostServices& services, Messages& messages)
     : m_services(services)
     , m_messages(messages)
+    , m_files(*this, services, messages)
     , m_tree(new SceneTreeView)
     , m_fields(new FieldListView)
     , m_view(new SceneView)
@@ -106,8 +86,12 @@ MainWindow::MainWindow(HostServices& services, Messages& messages)
     makeHelpMenu();
     makeToolBar();
     connectSelection();
-    connect(&m_messages, &Messages::told, this,
-            [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
+    connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
+    connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
+    connect(&m_files, &SceneFiles::opened, this, &MainWindow::fileDone);
+    connect(&m_messages, &Messages::told, this, [this](const QString& text) {
+        statusBar()->showMessage(text, MessageMs);
+    });
     statusBar()->show();
     resize(sizeHint());
     setScene(scopix::makeDefaultScene().get(), tr("Welcome"));
@@ -120,10 +104,10 @@ MainWindow::~MainWindow()
     m_fields->disconnect(this);
     m_view->disconnect(this);
     m_services.disconnect(this);
+    m_files.getDocument().disconnect(this);
 }
 
-QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name,
-                                 Qt::DockWidgetArea area)
+QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area)
 {
     auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
@@ -151,10 +135,7 @@ void MainWindow::makeDocks()
 void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    m_openAction =
-        menu->addAction(scopix::openIcon(), tr("&Open …"), this, &MainWindow::askForFile, QKeySequence::Open);
-    m_openAction->setToolTip(tr("Open a scene or model"));
-    menu->addAction(tr("&Save Scene As …"), this, &MainWindow::askWhereToSave, QKeySequence::SaveAs);
+    m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
     menu->addAction(tr("Save &Picture of the Window …"), this, &MainWindow::askForScreenshot);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
@@ -176,10 +157,9 @@ void MainWindow::makeEditMenu()
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    m_viewAllAction = menu->addAction(scopix::viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll,
-                                      QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this,
-                                           &MainWindow::viewSelected, QKeySequence(Qt::CTRL + Qt::Key_F));
+    m_viewAllAction = menu->addAction(scopix::viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
+                                           QKeySequence(Qt::CTRL + Qt::Key_F));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
@@ -208,25 +188,23 @@ void MainWindow::makeHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
     menu->addAction(tr("&Moving in the 3D View"), this, [this] {
-        QMessageBox::information(
-            this, tr("Moving in the 3D View"),
-            tr("Turn: drag with the left button.\n"
-               "Move: drag with the middle or right button, or with Shift and the left one.\n"
-               "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
-               "Select: click. The selected part shows its edges.\n"
-               "See all of the selected part: double-click, or F.\n"
-               "See everything: Home."));
+        QMessageBox::information(this, tr("Moving in the 3D View"),
+                                 tr("Turn: drag with the left button.\n"
+                                    "Move: drag with the middle or right button, or with Shift and the left one.\n"
+                                    "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
+                                    "Select: click. The selected part shows its edges.\n"
+                                    "See all of the selected part: double-click, or F.\n"
+                                    "See everything: Home."));
     });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(
-        this, tr("About Scopix"),
-        tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
-           "undo everything and see what it costs.")
-            .arg(QApplication::applicationVersion()));
+    QMessageBox::about(this, tr("About Scopix"),
+                       tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
+                          "undo everything and see what it costs.")
+                           .arg(QApplication::applicationVersion()));
 }
 
 void MainWindow::makeToolBar()
@@ -244,10 +222,10 @@ void MainWindow::makeToolBar()
 
 void MainWindow::connectSelection()
 {
-    connect(m_tree, &SceneTreeView::nodeSelected, this,
-            [this](SoNode* node) { m_services.select(static_cast<SoFieldContainer*>(node)); });
-    connect(m_fields, &FieldListView::fieldSelected, this,
-            [this](SoField* field) { m_services.select(field); });
+    connect(m_tree, &SceneTreeView::nodeSelected, this, [this](SoNode* node) {
+        m_services.select(static_cast<SoFieldContainer*>(node));
+    });
+    connect(m_fields, &FieldListView::fieldSelected, this, [this](SoField* field) { m_services.select(field); });
     connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
     connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
     connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
@@ -270,72 +248,30 @@ void MainWindow::showField(SoField* field)
 
 void MainWindow::setScene(SoNode* root, const QString& title)
 {
-    m_services.clearSelection();
-    m_services.undoStack().clear();
-    const SoRef<SoNode> before = m_scene; // goes after the views have let it go
-    m_scene = SoRef<SoNode>(root);
+    m_files.getDocument().begin(root, {}, title);
+}
+
+void MainWindow::showScene(SoNode* root)
+{
     m_tree->setScene(root);
     m_view->setScene(root);
-    setWindowTitle(title); // the toolkit adds the program's name
+}
+
+void MainWindow::showTitle()
+{
+    const SceneDocument& document = m_files.getDocument();
+    setWindowTitle(document.getTitle() + QStringLiteral("[*]")); // the toolkit adds mark and program's name
+    setWindowModified(document.isModified());
 }
 
 void MainWindow::openFile(const QString& path)
 {
-    if (m_import)
-        m_import->cancel(); // the person has changed their mind
-    const QString error = scopix::checkFile(path, allEndings());
-    if (!error.isEmpty())
-        return refuse(error);
-    if (QFileInfo(path).suffix().toLower() == sceneEnding())
-        openScene(path);
-    else
-        importModel(path);
-}
-
-void MainWindow::openScene(const QString& path)
-{
-    std::string error;
-    const SoRef<SoNode> scene = SoSceneFile::read(QFile::encodeName(path).toStdString(), error);
-    if (scene)
-        opened(scene.get(), path);
-    else
-        refuse(QString::fromStdString(error));
-}
-
-void MainWindow::importModel(const QString& path)
-{
-    auto* import = new ModelImport(this, this);
-    m_import = import;
-    connect(import, &ModelImport::finished, this,
-            [this, path](const SoRef<SoSeparator>& scene) { opened(scene.get(), path); });
-    connect(import, &ModelImport::failed, this, &MainWindow::refuse);
-    connect(import, &ModelImport::cancelled, this, [this, path] {
-        m_import.clear();
-        m_messages.info(tr("Reading “%1” was cancelled.").arg(path));
-        emit fileDone(false);
-    });
-    connect(import, &ModelImport::threadEnded, import, &QObject::deleteLater);
-    import->start(path);
-}
-
-void MainWindow::opened(SoNode* root, const QString& path)
-{
-    m_import.clear();
-    setScene(root, QFileInfo(path).fileName());
-    m_messages.info(tr("Opened “%1”.").arg(path));
-    emit fileDone(true);
-}
-
-void MainWindow::refuse(const QString& sentence)
-{
-    m_import.clear();
-    m_messages.error(sentence);
-    emit fileDone(false);
+    m_files.open(path);
 }
 
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
-    const SoPath path = findNode(m_scene.get(), nodeText);
+    const SoPath path = findNode(getScene(), nodeText);
     const SoNode* node = path.getTail();
     if (!node) {
         m_messages.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
@@ -358,32 +294,6 @@ bool MainWindow::saveScreenshot(const QString& path)
     if (!error.isEmpty())
         m_messages.error(error);
     return error.isEmpty();
-}
-
-void MainWindow::askForFile()
-{
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open"), {}, nameFilter());
-    if (!path.isEmpty())
-        openFile(path);
-}
-
-void MainWindow::askWhereToSave()
-{
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Scene"), QStringLiteral("scene.xsg"),
-                                                      tr("Scenes (*.xsg)"));
-    if (!path.isEmpty())
-        saveScene(path);
-}
-
-bool MainWindow::saveScene(const QString& path)
-{
-    std::string error;
-    const bool saved = SoSceneFile::write(m_scene.get(), QFile::encodeName(path).toStdString(), error);
-    if (saved)
-        m_messages.info(tr("Saved “%1”.").arg(path));
-    else
-        m_messages.error(QString::fromStdString(error));
-    return saved;
 }
 
 void MainWindow::askForScreenshot()
@@ -414,5 +324,14 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    openFile(event->mimeData()->urls().first().toLocalFile());
+    event->accept();
+    // A turn later: the other program waits for the drop to end, and the person may be asked something.
+    const QString path = event->mimeData()->urls().first().toLocalFile();
+    QMetaObject::invokeMethod(
+        this, [this, path] { m_files.openAnother(path); }, Qt::QueuedConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_files.mayClose());
 }

@@ -1,18 +1,16 @@
-// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
-// extensions around it. Opens scenes and models. GUI thread only.
+// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
+// around it. Opens scenes and models. GUI thread only.
 #pragma once
 
 #include "HostWindow.h"
 #include "view/Colors.h"
+#include "view/SceneFiles.h"
 
-#include <xsg/nodes/SoSeparator.h>
-
-#include <QPointer>
+#include <xsg/nodes/SoNode.h>
 
 class FieldListView;
 class HostServices;
 class Messages;
-class ModelImport;
 class SceneTreeView;
 class SceneView;
 class SoField;
@@ -26,17 +24,17 @@ public:
     MainWindow(HostServices& services, Messages& messages);
     ~MainWindow() override;
 
-    // Shows this scene instead of the one before; `title` names it.
+    // Shows this scene, which comes from no file, instead of the one before; `title` names it.
     void setScene(SoNode* root, const QString& title);
-    SoNode* getScene() const { return m_scene.get(); }
+    SoNode* getScene() const { return m_files.getDocument().getRoot(); }
+    SceneFiles& getFiles() { return m_files; }
 
     QMenu* viewMenu() override { return m_toolsMenu; }
     QMenu* profilesMenu() override { return m_profilesMenu; }
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
-    // As a scene file. False when it cannot be written, which is told through Messages.
-    bool saveScene(const QString& path);
+    void beginSession() override { m_files.beginSession(); }
 
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
@@ -45,6 +43,7 @@ public:
     QSize sizeHint() const override { return {1280, 800}; }
 
 protected:
+    void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -57,15 +56,10 @@ private:
     void makeHelpMenu();
     void makeToolBar();
     void connectSelection();
-    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
-                         Qt::DockWidgetArea area);
+    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area);
 
-    void openScene(const QString& path);
-    void importModel(const QString& path);
-    void askWhereToSave();
-    void opened(SoNode* root, const QString& path);
-    void refuse(const QString& sentence);
-    void askForFile();
+    void showScene(SoNode* root);
+    void showTitle();
     void askForScreenshot();
     void showAbout();
     void viewSelected();
@@ -75,8 +69,7 @@ private:
 
     HostServices& m_services;
     Messages& m_messages;
-    SoRef<SoNode> m_scene;
-    QPointer<ModelImport> m_import;
+    SceneFiles m_files;
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;

@@ -114,5 +114,6 @@ SoField* SpxFieldEditors::getField() const
 
 void SpxFieldEditors::addWindow(QWidget* window)
 {
+    m_windows.removeAll(nullptr); // of an earlier load()
     m_windows.append(window);
 }

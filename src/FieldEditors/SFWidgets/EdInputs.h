@@ -14,6 +14,7 @@ class EdInputs
 public:
     // Not owned.
     void add(EdLineEdit* input) { m_inputs.append(input); }
+    void clear() { m_inputs.clear(); }
     const QList<EdLineEdit*>& all() const { return m_inputs; }
     EdLineEdit* at(int index) const { return m_inputs.at(index); }
 

@@ -25,6 +25,7 @@ EdPopupWidget::EdPopupWidget(int rows, int columns, const char* name)
 void EdPopupWidget::load()
 {
     EdSFLineWidget::load();
+    m_cells.clear();
     buildButton();
     buildPopup();
 }

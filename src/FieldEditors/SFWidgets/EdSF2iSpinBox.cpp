@@ -4,6 +4,7 @@
 #include "EdWheelGuard.h"
 
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -17,6 +18,22 @@ namespace
 constexpr EdColumnLook Look{"SF2BoxLayout",   "SF2BoxVSpacing", "SF4flabel", "SF2Box",
                             "SF2BoxHSpacing", "SF2BoxHMargin",  true};
 
+// Escape takes back what is no number yet, as in every other line.
+class SpinBox : public QSpinBox
+{
+public:
+    using QSpinBox::QSpinBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Escape && text() != textFromValue(value()))
+            setValue(value());
+        else
+            QSpinBox::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
 EdSF2iSpinBox::EdSF2iSpinBox(const char* name, int limits)
@@ -27,13 +44,14 @@ EdSF2iSpinBox::EdSF2iSpinBox(const char* name, int limits)
 
 void EdSF2iSpinBox::load()
 {
+    m_boxes.clear();
     EdSFColumnsWidget::load();
     setLimits(m_limits);
 }
 
 QWidget* EdSF2iSpinBox::buildInput()
 {
-    auto* box = new QSpinBox(editionFrame());
+    auto* box = new SpinBox(editionFrame());
     box->setLocale(QLocale::c());
     EdWheelGuard::install(box);
     connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EdSF2iSpinBox::setCommandValue);
@@ -63,6 +81,7 @@ void EdSF2iSpinBox::refresh()
         if (m_boxes[i]->value() != numbers[std::size_t(i)])
             m_boxes[i]->setValue(numbers[std::size_t(i)]);
     }
+    m_shown = numbers;
     EdSFColumnsWidget::refresh();
 }
 
@@ -71,8 +90,15 @@ void EdSF2iSpinBox::applyChanges()
     Pair numbers;
     if (!read(numbers))
         return;
-    numbers = {m_boxes[0]->value(), m_boxes[1]->value()};
-    for (const QSpinBox* box : qAsConst(m_boxes))
+    const Pair before = numbers;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        QSpinBox* box = m_boxes[int(i)];
+        if (box->value() != m_shown[i])
+            numbers[i] = box->value();
+        m_shown[i] = box->value();
         box->findChild<QLineEdit*>()->setModified(false); // what was typed is applied
-    EdFieldEdits::write(getSField(), [&] { write(numbers); });
+    }
+    // Enter repeats the number that stands there already.
+    if (numbers != before)
+        EdFieldEdits::write(getSField(), [&] { write(numbers); });
 }

@@ -32,6 +32,7 @@ private:
 
     int m_limits;
     QList<QSpinBox*> m_boxes;
+    Pair m_shown{}; // a box that still has its number stands for what the field has
 };
 
 // Field is the class of the edited field.

@@ -24,6 +24,7 @@ EdSFColorWidget::EdSFColorWidget(const char* name)
 void EdSFColorWidget::load()
 {
     EdSFieldWidget::load();
+    m_inputs.clear();
     buildSwatch();
     for (std::size_t i = 0; i < m_edits.size(); ++i)
         buildComponent(m_edits[i], m_labels[i]);

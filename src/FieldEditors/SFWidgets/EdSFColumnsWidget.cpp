@@ -20,6 +20,7 @@ void EdSFColumnsWidget::load()
     const int margin = xsgsettings_fieldEditor(QLatin1String(m_look.marginKey));
     editLayout()->setSpacing(xsgsettings_fieldEditor(QLatin1String(m_look.spacingKey)));
     editLayout()->setContentsMargins(margin, margin, margin, margin);
+    m_labels.clear();
     for (const QString& caption : qAsConst(m_captions))
         buildComponent(caption);
     setNameLabels(m_captions.toVector().constData());

@@ -6,6 +6,12 @@
 
 #include <QFrame>
 
+void EdSFFloatsWidget::load()
+{
+    m_inputs.clear();
+    EdSFColumnsWidget::load();
+}
+
 QWidget* EdSFFloatsWidget::buildInput()
 {
     auto* input = new EdLineEdit(editionFrame());

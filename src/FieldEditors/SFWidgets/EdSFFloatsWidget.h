@@ -14,6 +14,7 @@ class EdSFFloatsWidget : public EdSFColumnsWidget
     Q_OBJECT
 
 public:
+    void load() override;
     void refresh() override;
     void applyChanges() override;
     bool edited() override;

@@ -121,6 +121,7 @@ void EdSFieldWidget::load()
     if (!m_label)
         setFieldName(QLatin1String(getName().getString()));
     SpxFieldEditors::load();
+    discardWidgets();
     setBoxStyle(getWidgetContainer(), "frameLineWidth");
     m_mainLayout =
         buildLayout(getWidgetContainer(), "SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
@@ -144,6 +145,20 @@ void EdSFieldWidget::load()
     languageChange();
     connect(m_defaultButton, &QPushButton::clicked, this, &EdSFieldWidget::setDefaultFieldValue);
     connect(m_ignoreButton, &QPushButton::released, this, &EdSFieldWidget::ignoreButtonStateChanged);
+}
+
+// What an earlier load() built goes. The caption, which is kept, and the slider, which comes with the
+// constructor, stay.
+void EdSFieldWidget::discardWidgets()
+{
+    QFrame* container = getWidgetContainer();
+    delete container->layout();
+    const QList<QWidget*> inside = container->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* widget : inside) {
+        if (widget != m_label && widget != m_slider)
+            delete widget;
+    }
+    m_editionFrame = m_slider;
 }
 
 void EdSFieldWidget::setFieldName(const QString& name)

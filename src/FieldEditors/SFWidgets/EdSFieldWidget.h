@@ -35,7 +35,7 @@ public:
     explicit EdSFieldWidget(SFFrameType frameType, const char* name = nullptr);
     ~EdSFieldWidget() override;
 
-    // Subclasses then add their inputs to editLayout().
+    // Subclasses then add their inputs to editLayout(). Loading again builds all inputs anew.
     void load() override;
     void setField(SoField* field) override;
     // Subclasses show the field's value first.
@@ -76,6 +76,7 @@ protected:
 
 private:
     void makeSlider(SFFrameType frameType);
+    void discardWidgets();
     void styleLabel();
     void buildEditionFrame();
     void buildButtons();

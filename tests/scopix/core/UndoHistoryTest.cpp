@@ -213,6 +213,85 @@ TEST_F(History, ACommandThatThrowsIsToldAndDropped)
     EXPECT_EQ(stack().index(), 0);
 }
 
+// What was saved and what was not must not be mixed up by steps that go, or edits would be lost without a question.
+TEST_F(History, TheSavedStateIsKeptWhereAStepBeforeItGoes)
+{
+    SoMaterial* gone = newMaterial();
+    SoRef<SoMaterial> stays = new SoMaterial;
+    setTransparency(*gone, 0.25F);
+    setTransparency(*stays, 0.5F);
+    stack().setClean();
+    setTransparency(*stays, 0.75F);
+    m_services.clearSelection();
+    gone->unref();
+    ASSERT_EQ(stack().count(), 2);
+    EXPECT_FALSE(stack().isClean());
+    EXPECT_EQ(stack().cleanIndex(), 1);
+    stack().undo();
+    EXPECT_TRUE(stack().isClean());
+}
+
+TEST_F(History, AStepThatGoesAfterSavingLeavesUnsavedEdits)
+{
+    for (const bool undone : {false, true}) {
+        SoMaterial* gone = newMaterial();
+        setTransparency(*gone, 0.25F);
+        if (undone) {
+            stack().setClean();
+            stack().undo();
+        }
+        ASSERT_FALSE(stack().isClean());
+        m_services.clearSelection();
+        gone->unref();
+        EXPECT_EQ(stack().count(), 0);
+        EXPECT_FALSE(stack().isClean()) << "what it did can be neither undone nor done again";
+        stack().setClean();
+    }
+}
+
+TEST_F(History, AStepBeyondTheSavedStateMayGo)
+{
+    SoMaterial* gone = newMaterial();
+    SoRef<SoMaterial> stays = new SoMaterial;
+    setTransparency(*stays, 0.5F);
+    setTransparency(*gone, 0.25F);
+    stack().undo();
+    stack().setClean();
+    m_services.clearSelection();
+    gone->unref();
+    EXPECT_EQ(stack().count(), 1);
+    EXPECT_EQ(stack().index(), 1);
+    EXPECT_TRUE(stack().isClean());
+}
+
+TEST_F(History, ForgettingTheStepsForgetsNoEdits)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    setTransparency(*material, 0.5F);
+    m_services.history().clear();
+    EXPECT_FALSE(stack().isClean());
+    stack().setClean();
+    m_services.history().clear();
+    EXPECT_TRUE(stack().isClean());
+}
+
+TEST_F(History, TellsEveryAct)
+{
+    QSignalSpy acted(&m_services.history(), &UndoHistory::acted);
+    SoRef<SoMaterial> material = new SoMaterial;
+    QWidget widget;
+    widget.show();
+    QTest::mousePress(widget.windowHandle(), Qt::LeftButton);
+    setTransparency(*material, 0.25F);
+    EXPECT_EQ(acted.count(), 1);
+    setTransparency(*material, 0.5F);
+    ASSERT_EQ(stack().count(), 1);
+    EXPECT_EQ(acted.count(), 2) << "one that goes into the same step too";
+    QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
+    stack().undo();
+    EXPECT_EQ(acted.count(), 3);
+}
+
 TEST_F(History, NoCommandIsNothing)
 {
     m_services.executeCommand(nullptr);

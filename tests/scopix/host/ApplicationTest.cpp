@@ -40,6 +40,7 @@ public:
         m_acts += "screenshot " + path;
         return true;
     }
+    void beginSession() override { m_acts += "session"; }
 
     Messages& m_messages;
     QMenu m_view;
@@ -130,6 +131,21 @@ TEST_F(ApplicationTest, SwitchesTheCountersOn)
     run({"--counters", "--quit"});
     EXPECT_EQ(qgetenv("XSG_PERFCOUNTER_ENABLE"), "1");
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
+}
+
+TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)
+{
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, m_window, [this] {
+        if (m_window->m_acts.contains("session"))
+            QCoreApplication::quit();
+    });
+    waiting.start(1);
+    EXPECT_EQ(run({"good.glb"}), 0);
+    EXPECT_EQ(m_window->m_acts, (QStringList{"open good.glb", "session"}));
+    m_window->m_acts.clear();
+    run({"good.glb", "--quit"});
+    EXPECT_EQ(m_window->m_acts, QStringList{"open good.glb"});
 }
 
 TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)

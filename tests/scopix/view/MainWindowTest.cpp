@@ -1,14 +1,15 @@
-#include "view/MainWindow.h"
 #include "HostServices.h"
 #include "Messages.h"
 #include "view/FieldListModel.h"
 #include "view/FieldListView.h"
+#include "view/MainWindow.h"
 #include "view/SceneTreeModel.h"
 #include "view/SceneTreeView.h"
 #include "view/SceneView.h"
 
 #include <xsg/fields/SoField.h>
 #include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/SoSeparator.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <scopix/SpxCommand.h>
@@ -72,8 +73,7 @@ TEST_F(Window, OpensAModelAndSelectsAField)
     auto* node = window.getTree().getModel().nodeAt(window.getTree().currentIndex());
     EXPECT_EQ(node, services.selectedNode());
     EXPECT_EQ(window.getFields().getModel().getContainer(), node);
-    EXPECT_EQ(window.getFields().getModel().fieldAt(window.getFields().currentIndex()),
-              services.selectedField());
+    EXPECT_EQ(window.getFields().getModel().fieldAt(window.getFields().currentIndex()), services.selectedField());
 }
 
 TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
@@ -82,14 +82,14 @@ TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
     ASSERT_TRUE(window.selectField("Planks", "transparency"));
     services.selectedField()->set("0.375");
     const QString path = folder.filePath("tuned.xsg");
-    ASSERT_TRUE(window.saveScene(path));
+    ASSERT_TRUE(window.getFiles().saveTo(path));
     ASSERT_TRUE(open(shippedModel("lighthouse.glb")));
     ASSERT_TRUE(open(path));
     ASSERT_TRUE(window.selectField("Planks", "transparency"));
     SbString text;
     services.selectedField()->get(text);
     EXPECT_EQ(text, "0.375");
-    EXPECT_FALSE(window.saveScene(folder.filePath("nowhere/tuned.xsg")));
+    EXPECT_FALSE(window.getFiles().saveTo(folder.filePath("nowhere/tuned.xsg")));
     EXPECT_TRUE(told.last().contains("nowhere/tuned.xsg")) << qPrintable(told.last());
 }
 
@@ -259,10 +259,10 @@ TEST(Themes, AreReadableBoth)
         scopix::applyTheme(theme);
         const QPalette p = QApplication::palette();
         EXPECT_EQ(scopix::isDark(p), theme == scopix::Theme::Dark);
-        for (const auto& [ground, text] : {std::make_pair(QPalette::Window, QPalette::WindowText),
-                                           std::make_pair(QPalette::Base, QPalette::Text),
-                                           std::make_pair(QPalette::Button, QPalette::ButtonText),
-                                           std::make_pair(QPalette::Highlight, QPalette::HighlightedText)})
+        for (const auto& [ground, text] :
+             {std::make_pair(QPalette::Window, QPalette::WindowText), std::make_pair(QPalette::Base, QPalette::Text),
+              std::make_pair(QPalette::Button, QPalette::ButtonText),
+              std::make_pair(QPalette::Highlight, QPalette::HighlightedText)})
             EXPECT_GT(std::abs(p.color(ground).lightness() - p.color(text).lightness()), 90);
     }
     EXPECT_EQ(scopix::themeFromName("dark"), scopix::Theme::Dark);

@@ -25,6 +25,11 @@
 class BareWindow : public HostWindow
 {
 public:
+    BareWindow()
+    {
+        setCentralWidget(new QWidget);
+        centralWidget()->setFocusPolicy(Qt::StrongFocus);
+    }
     QMenu* viewMenu() override { return &m_view; }
     QMenu* profilesMenu() override { return &m_profiles; }
     void openFile(const QString&) override { emit fileDone(false); }
@@ -39,16 +44,15 @@ private:
 class Session
 {
 public:
-    Session()
-        : host([](HostServices&, Messages&) { return std::make_unique<BareWindow>(); },
-               ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
+    explicit Session(
+        const HostApplication::MakeWindow& makeWindow
+        = [](HostServices&, Messages&) { return std::make_unique<BareWindow>(); })
+        : host(makeWindow, ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
     {
         host.messages().setAttended(false);
         EXPECT_TRUE(host.plugins().loadPlugin(QStringLiteral(SCOPIX_PLUGIN)));
         QMainWindow& window = host.window();
         window.resize(1000, 700);
-        window.setCentralWidget(new QWidget);
-        window.centralWidget()->setFocusPolicy(Qt::StrongFocus);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

@@ -1,0 +1,15 @@
+// Where the host keeps what belongs to one person: settings, profiles, recent files, unsaved edits.
+#pragma once
+
+#include <QString>
+
+namespace UserSettings
+{
+
+// The path of a file or folder of this name in the user's configuration. Asked anew each time, since the environment
+// says where that is.
+QString path(const QString& name);
+// The file with what the window remembers: places, colours, recent files.
+QString windowFile();
+
+} // namespace UserSettings

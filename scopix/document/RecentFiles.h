@@ -1,0 +1,25 @@
+// The files that the person opened or saved last, newest first, kept in their configuration and shared by all their
+// sessions. GUI thread only.
+#pragma once
+
+#include <QStringList>
+
+class RecentFiles
+{
+public:
+    static constexpr int Most = 10;
+
+    // `file`: the settings file to keep them in.
+    explicit RecentFiles(QString file);
+
+    QStringList list() const;
+    // Puts it first.
+    void add(const QString& path);
+    void remove(const QString& path);
+    void clear();
+
+private:
+    void write(const QStringList& paths) const;
+
+    QString m_file;
+};

@@ -1,0 +1,77 @@
+#include "document/RecoverySlot.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QUuid>
+
+RecoverySlot::RecoverySlot(const QString& base)
+    : m_base(base)
+    , m_lock(base + QStringLiteral(".lock"))
+{
+    m_lock.setStaleLockTime(0); // a session may live for days; only its end frees its lock
+}
+
+std::unique_ptr<RecoverySlot> RecoverySlot::make(const QString& folder)
+{
+    if (!QDir().mkpath(folder))
+        return nullptr;
+    // What a person has not saved is nobody else's business.
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QString name = QUuid::createUuid().toString(QUuid::Id128);
+    std::unique_ptr<RecoverySlot> slot(new RecoverySlot(folder + QLatin1Char('/') + name));
+    return slot->m_lock.tryLock() ? std::move(slot) : nullptr;
+}
+
+std::unique_ptr<RecoverySlot> RecoverySlot::findLost(const QString& folder)
+{
+    std::unique_ptr<RecoverySlot> newest;
+    const QFileInfoList origins = QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files);
+    for (const QFileInfo& origin : origins) {
+        std::unique_ptr<RecoverySlot> slot(
+            new RecoverySlot(origin.dir().filePath(origin.completeBaseName())));
+        if (!slot->m_lock.tryLock())
+            continue;
+        if (!QFile::exists(slot->scenePath()))
+            slot->remove(); // that session ended before it had written anything
+        else if (!newest || slot->getTime() > newest->getTime())
+            newest = std::move(slot);
+    }
+    return newest;
+}
+
+RecoverySlot::Origin RecoverySlot::getOrigin() const
+{
+    QFile file(originPath());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+    return {object.value(QStringLiteral("path")).toString(), object.value(QStringLiteral("title")).toString()};
+}
+
+bool RecoverySlot::setOrigin(const Origin& origin) const
+{
+    QSaveFile file(originPath());
+    const QJsonObject object{{QStringLiteral("path"), origin.path}, {QStringLiteral("title"), origin.title}};
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0 && file.commit();
+}
+
+QDateTime RecoverySlot::getTime() const
+{
+    return QFileInfo(scenePath()).lastModified();
+}
+
+void RecoverySlot::remove()
+{
+    const QFileInfo base(m_base);
+    QDir folder(base.path());
+    // Also what a write that was cut short left under a temporary name.
+    for (const QString& name : folder.entryList({base.fileName() + QStringLiteral(".*")}, QDir::Files)) {
+        if (!name.endsWith(QStringLiteral(".lock")))
+            folder.remove(name);
+    }
+    m_lock.unlock();
+    folder.rmdir(folder.path()); // where this was the last one
+}

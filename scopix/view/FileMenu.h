@@ -1,0 +1,25 @@
+// The menu of what can be done with files, with the recent ones. GUI thread only.
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class SceneFiles;
+
+class FileMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Fills `menu`, which owns it; the files must outlive it.
+    FileMenu(QMenu& menu, SceneFiles& files);
+    QAction* getOpenAction() const { return m_open; }
+
+private:
+    void fillRecent();
+
+    SceneFiles& m_files;
+    QAction* m_open;
+    QMenu* m_recent;
+};

@@ -1,0 +1,73 @@
+// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are dropped,
+// and gets back those of a session that crashed. Questions open over the window. GUI thread only.
+#pragma once
+
+#include "document/Autosave.h"
+#include "document/RecentFiles.h"
+#include "document/SceneDocument.h"
+
+#include <QObject>
+#include <QPointer>
+
+class HostServices;
+class Messages;
+class ModelImport;
+
+class SceneFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    // All must outlive it. Nobody is asked anything while `messages` says that nobody is there.
+    SceneFiles(QWidget& window, HostServices& services, Messages& messages);
+    ~SceneFiles() override;
+
+    SceneDocument& getDocument() { return m_document; }
+    const SceneDocument& getDocument() const { return m_document; }
+    RecentFiles& getRecent() { return m_recent; }
+    Autosave& getAutosave() { return m_autosave; }
+
+    // Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once, also before
+    // this returns. What was open stays when it fails. Problems are told.
+    void open(const QString& path);
+    // False when it cannot be written, which is told.
+    bool saveTo(const QString& path);
+
+    // The person works with this window from now on: offers what a crashed session left, and keeps unsaved edits safe.
+    void beginSession();
+
+    // What the menu offers. All but save() first ask about unsaved edits.
+    void startAnew();
+    void askForFile();
+    void openAnother(const QString& path);
+    void openRecent(const QString& path);
+    // False when it was not saved: it could not be written, or the person gave no name.
+    bool save();
+    bool saveAs();
+    // False when the window is to stay open.
+    bool mayClose();
+
+signals:
+    void opened(bool good);
+
+private:
+    bool mayDrop();
+    bool askWhetherToDrop();
+    void applyTyping();
+    void openScene(const QString& path);
+    void importModel(const QString& path);
+    void modelRead(SoNode* root, const QString& path);
+    void show(SoNode* root, const QString& path);
+    void refuse(const QString& sentence);
+    void cancelled(const QString& path);
+    void offerRecovery();
+    void recover(std::unique_ptr<RecoverySlot> slot);
+
+    QWidget& m_window;
+    Messages& m_messages;
+    SceneDocument m_document;
+    RecentFiles m_recent;
+    Autosave m_autosave;
+    QPointer<ModelImport> m_import;
+    quint64 m_droppable = 0; // the count of the edits that the person agreed to lose
+};

@@ -1,0 +1,140 @@
+#include "document/RecoverySlot.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+class Slots : public testing::Test
+{
+protected:
+    static void fill(const RecoverySlot& slot, const char* title)
+    {
+        ASSERT_TRUE(slot.setOrigin({"/somewhere/" + QString(title), title}));
+        QFile scene(slot.scenePath());
+        ASSERT_TRUE(scene.open(QIODevice::WriteOnly));
+        scene.write("edits");
+    }
+    // What a session leaves that is killed.
+    void crash(const char* title) const { fill(*RecoverySlot::make(path), title); }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath("recovery");
+};
+
+TEST_F(Slots, AreThePersonsOwn)
+{
+    const auto slot = RecoverySlot::make(path);
+    ASSERT_TRUE(slot);
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther), 0);
+}
+
+TEST_F(Slots, WhatIsLostIsFoundWithItsOrigin)
+{
+    EXPECT_FALSE(RecoverySlot::findLost(path)) << "no folder yet";
+    crash("a.xsg");
+    const auto slot = RecoverySlot::findLost(path);
+    ASSERT_TRUE(slot);
+    EXPECT_EQ(slot->getOrigin().title, "a.xsg");
+    EXPECT_EQ(slot->getOrigin().path, "/somewhere/a.xsg");
+    EXPECT_TRUE(slot->getTime().isValid());
+}
+
+TEST_F(Slots, TheLivingAreLeftAlone)
+{
+    const auto living = RecoverySlot::make(path);
+    fill(*living, "mine.xsg");
+    EXPECT_FALSE(RecoverySlot::findLost(path));
+    crash("theirs.xsg");
+    const auto lost = RecoverySlot::findLost(path);
+    ASSERT_TRUE(lost);
+    EXPECT_EQ(lost->getOrigin().title, "theirs.xsg");
+    EXPECT_FALSE(RecoverySlot::findLost(path)) << "who finds it has it";
+}
+
+TEST_F(Slots, ThoseOfAKilledProcessAreFound)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        crash("killed.xsg");
+        const auto held = RecoverySlot::findLost(path);
+        kill(getpid(), SIGKILL);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_FALSE(QDir(path).entryList({"*.lock"}).isEmpty()) << "the lock outlives its process";
+    const auto slot = RecoverySlot::findLost(path);
+    ASSERT_TRUE(slot);
+    EXPECT_EQ(slot->getOrigin().title, "killed.xsg");
+}
+
+TEST_F(Slots, TheNewestComesFirst)
+{
+    crash("old.xsg");
+    crash("new.xsg");
+    crash("older.xsg");
+    for (const QString& name : QDir(path).entryList({"*.json"})) {
+        QFile origin(path + '/' + name);
+        ASSERT_TRUE(origin.open(QIODevice::ReadOnly));
+        const QByteArray text = origin.readAll();
+        QFile scene(path + '/' + QString(name).replace(".json", ".xsg"));
+        ASSERT_TRUE(scene.open(QIODevice::ReadWrite));
+        const int age = text.contains("new.xsg") ? 10 : text.contains("/old.xsg") ? 20 : 30;
+        scene.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime);
+    }
+    for (const char* title : {"new.xsg", "old.xsg", "older.xsg"}) {
+        const auto slot = RecoverySlot::findLost(path);
+        ASSERT_TRUE(slot);
+        EXPECT_EQ(slot->getOrigin().title, title);
+        slot->remove();
+    }
+    EXPECT_FALSE(RecoverySlot::findLost(path));
+}
+
+TEST_F(Slots, NothingIsLeftWhereOneIsRemoved)
+{
+    const auto slot = RecoverySlot::make(path);
+    fill(*slot, "a.xsg");
+    QFile half(slot->scenePath() + ".Xy12ab");
+    ASSERT_TRUE(half.open(QIODevice::WriteOnly));
+    slot->remove();
+    EXPECT_FALSE(QDir(path).exists());
+    EXPECT_TRUE(QDir(folder.path()).exists());
+}
+
+TEST_F(Slots, RemovingOneLeavesTheOthers)
+{
+    const auto mine = RecoverySlot::make(path);
+    const auto other = RecoverySlot::make(path);
+    fill(*mine, "mine.xsg");
+    fill(*other, "other.xsg");
+    mine->remove();
+    EXPECT_TRUE(QFile::exists(other->scenePath()));
+    EXPECT_EQ(other->getOrigin().title, "other.xsg");
+}
+
+TEST_F(Slots, ACrashBeforeTheFirstWritingLeavesNothingToAskAbout)
+{
+    RecoverySlot::make(path)->setOrigin({"/a.xsg", "a.xsg"});
+    EXPECT_FALSE(RecoverySlot::findLost(path));
+    EXPECT_FALSE(QDir(path).exists());
+}
+
+TEST_F(Slots, AFolderThatCannotBeMadeGivesNone)
+{
+    QFile inTheWay(path);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    EXPECT_FALSE(RecoverySlot::make(path));
+    EXPECT_FALSE(RecoverySlot::findLost(path));
+}
+
+} // namespace

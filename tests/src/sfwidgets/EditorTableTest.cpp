@@ -1,0 +1,288 @@
+// What holds for every editor, in each place where one edits a value.
+#include "EditorRows.h"
+#include "Gallery.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include <set>
+
+namespace
+{
+
+class EveryEditorTest : public Gallery, public testing::WithParamInterface<EditorRow>
+{
+protected:
+    void SetUp() override
+    {
+        Gallery::SetUp();
+        m_field = fieldOf(m_gallery.get(), row().type);
+        ASSERT_TRUE(m_field->set(value(0).c_str())) << value(0);
+        open();
+    }
+    static const EditorRow& row() { return GetParam(); }
+    static const std::string& value(int index)
+    {
+        return row().values[std::size_t(index) % row().values.size()];
+    }
+    // Another field of the same type, with a value of its own.
+    SoSField* another(int index)
+    {
+        SoSField* field = fieldOf(addNode(), row().type);
+        EXPECT_TRUE(field->set(value(index).c_str()));
+        return field;
+    }
+    void open(SoSField* field)
+    {
+        m_editor = show(field);
+        ::open(row(), m_editor);
+        TestHost::pump();
+    }
+    void open() { open(m_field); }
+    std::string text() const { return textOf(*m_field); }
+    std::string shown() { return shownIn(row(), m_editor); }
+    QList<QWidget*> lines() { return linesOf(row(), m_editor); }
+    QPushButton* button(const char* name) { return m_editor->findChild<QPushButton*>(name); }
+    bool isLine(QWidget* input) { return lines().contains(input); }
+    bool canEdit() const { return row().input >= 0; }
+    // What the person types, not ended where it can wait.
+    void type()
+    {
+        if (canEdit())
+            typeInto(inputsOf(row(), m_editor)[row().input], row().keys);
+        TestHost::pump();
+    }
+    void typeAndEnter()
+    {
+        type();
+        if (canEdit() && isLine(inputsOf(row(), m_editor)[row().input]))
+            QTest::keyClick(inputsOf(row(), m_editor)[row().input], Qt::Key_Return);
+        TestHost::pump();
+    }
+
+    SoSField* m_field = nullptr;
+    QWidget* m_editor = nullptr;
+};
+
+INSTANTIATE_TEST_SUITE_P(Rows, EveryEditorTest, testing::ValuesIn(editorRows()),
+                         [](const auto& info) { return info.param.name(); });
+
+class EditorRowsTest : public Gallery
+{
+};
+
+} // namespace
+
+TEST_F(EditorRowsTest, HaveEveryEditor)
+{
+    std::set<std::string> editors;
+    std::set<std::string> rows;
+    for (const auto& editor : m_editors)
+        editors.insert(editor->getName().str());
+    for (const EditorRow& row : editorRows())
+        rows.insert(row.editor());
+    EXPECT_EQ(rows, editors);
+    EXPECT_EQ(rows.size(), 24U);
+}
+
+TEST_P(EveryEditorTest, ShowsTheValue)
+{
+    EXPECT_EQ(m_editor->findChild<QLabel*>("m_label")->text().toStdString(),
+              "<p align=\"center\">" + row().editor() + "</p>");
+    EXPECT_EQ(shown(), row().shown[0]);
+    open(another(1));
+    EXPECT_EQ(shown(), row().shown[1]);
+    EXPECT_EQ(commands(), 0);
+}
+
+TEST_P(EveryEditorTest, AppliesWhatIsEntered)
+{
+    typeAndEnter();
+    EXPECT_EQ(text(), row().applied);
+    EXPECT_EQ(m_host.takeLog(),
+              TestHost::Log(std::size_t(row().commands), "executeCommand SpxSFSetValueCommand"));
+    if (row().input < 0)
+        return;
+    if (QWidget* input = inputsOf(row(), m_editor)[row().input]; isLine(input)) {
+        QTest::keyClick(input, Qt::Key_Return);
+        TestHost::pump();
+    }
+    EXPECT_EQ(text(), row().applied);
+    const bool isText = std::string(row().applied)[0] == '"' || row().type == std::string("SFName");
+    EXPECT_EQ(commands(), isText ? 1 : 0) << "only texts are applied whenever editing ends";
+}
+
+TEST_P(EveryEditorTest, UndoRestoresAndRedoAppliesAgain)
+{
+    typeAndEnter();
+    if (row().commands == 0)
+        return; // nothing to edit, or not recorded, which is meant
+    undoAll();
+    EXPECT_EQ(text(), value(0));
+    EXPECT_EQ(shown(), row().shown[0]);
+    redoAll();
+    EXPECT_EQ(text(), row().applied);
+    EXPECT_NE(shown(), row().shown[0]);
+    EXPECT_EQ(commands(), row().commands);
+}
+
+TEST_P(EveryEditorTest, ShowsAChangeFromElsewhere)
+{
+    m_field->set(value(1).c_str());
+    TestHost::pump();
+    EXPECT_EQ(shown(), row().shown[1]);
+    typeAndEnter();
+    m_field->set(value(0).c_str());
+    TestHost::pump();
+    EXPECT_EQ(shown(), row().shown[0]) << "also after an edit";
+    EXPECT_EQ(text(), value(0));
+}
+
+TEST_P(EveryEditorTest, DefaultIsOneCommandThatUndoes)
+{
+    const std::string fresh = textOf(*fieldOf(addNode(), row().type));
+    const int number = value(0) == fresh ? 1 : 0;
+    m_field->set(value(number).c_str());
+    TestHost::pump();
+    QTest::mouseClick(button("m_defaultButton"), Qt::LeftButton);
+    TestHost::pump();
+    EXPECT_EQ(text(), fresh);
+    EXPECT_NE(shown(), row().shown[std::size_t(number)]);
+    EXPECT_EQ(m_host.log(), TestHost::Log{"executeCommand SpxFieldSetDefaultCommand"});
+    undoAll();
+    EXPECT_EQ(text(), value(number));
+    EXPECT_EQ(shown(), row().shown[std::size_t(number)]);
+    redoAll();
+    EXPECT_EQ(text(), fresh);
+}
+
+TEST_P(EveryEditorTest, IgnoreIsOneCommandThatUndoes)
+{
+    QPushButton* ignore = button("m_ignoreButton");
+    QTest::mouseClick(ignore, Qt::LeftButton);
+    EXPECT_TRUE(m_field->isIgnored());
+    EXPECT_EQ(m_host.log(), TestHost::Log{"executeCommand SpxFieldIgnoredCommand"});
+    undoAll();
+    EXPECT_FALSE(m_field->isIgnored());
+    EXPECT_FALSE(ignore->isChecked());
+    redoAll();
+    EXPECT_TRUE(ignore->isChecked());
+    open(another(1));
+    EXPECT_FALSE(ignore->isChecked());
+    EXPECT_EQ(text(), value(0));
+}
+
+TEST_P(EveryEditorTest, ShowingTenFieldsInTurnRecordsNothing)
+{
+    std::vector<SoSField*> fields;
+    std::vector<std::string> before;
+    for (int i = 0; i < 10; ++i) {
+        fields.push_back(another(i));
+        before.push_back(textOf(*fields.back()));
+    }
+    for (SoSField* field : fields)
+        open(field);
+    showNothing();
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        EXPECT_EQ(textOf(*fields[i]), before[i]);
+    EXPECT_EQ(commands(), 0);
+}
+
+TEST_P(EveryEditorTest, TypingThatWaitsGoesToItsFieldOnceAndToNoOther)
+{
+    SoSField* next = another(1);
+    const std::string before = textOf(*next);
+    type();
+    if (!row().isEachKeyApplied()) {
+        EXPECT_EQ(text(), value(0));
+        EXPECT_EQ(commands(), 0);
+    }
+    open(next);
+    EXPECT_EQ(text(), row().applied);
+    EXPECT_EQ(textOf(*next), before);
+    EXPECT_EQ(shown(), row().shown[1]);
+    EXPECT_EQ(commands(), row().commands);
+    open();
+    showNothing();
+    EXPECT_EQ(text(), row().applied);
+    EXPECT_EQ(textOf(*next), before);
+    EXPECT_EQ(commands(), row().commands);
+}
+
+TEST_P(EveryEditorTest, TextThatIsNoNumberIsNotForTheNextField)
+{
+    for (QWidget* line : lines()) {
+        if (std::string(row().shown[0]).find_first_not_of("0123456789.-|") != std::string::npos)
+            continue; // a text, or a text of several numbers
+        typeInto(line, "-");
+        SoSField* next = another(0);
+        open(next);
+        EXPECT_EQ(shown(), row().shown[0]);
+        EXPECT_EQ(textOf(*next), value(0));
+        open();
+    }
+}
+
+TEST_P(EveryEditorTest, TabGoesThroughTheInputsInReadingOrder)
+{
+    const QList<QWidget*> stops = stopsOf(row(), m_editor);
+    for (QWidget* input : inputsOf(row(), m_editor))
+        EXPECT_TRUE(stops.contains(input) || !canEdit());
+    if (!stops.isEmpty())
+        person::focus(stops.first());
+    for (int i = 1; i < stops.size(); ++i) {
+        person::tab(QApplication::focusWidget());
+        EXPECT_EQ(QApplication::focusWidget(), stops[i]) << i;
+    }
+}
+
+TEST_P(EveryEditorTest, EnterInEachLineApplies)
+{
+    for (QWidget* line : lines()) {
+        const std::string before = text();
+        const int commandsBefore = commands();
+        typeInto(line, row().isEachKeyApplied() ? row().keys : "8");
+        QTest::keyClick(line, Qt::Key_Return);
+        TestHost::pump();
+        EXPECT_NE(text(), before);
+        EXPECT_EQ(commands(), commandsBefore + row().commands);
+    }
+}
+
+TEST_P(EveryEditorTest, EscapeInEachLineBringsTheShownValueBack)
+{
+    for (QWidget* line : lines()) {
+        // Where each key is applied, what the field refuses is all that can be taken back.
+        typeInto(line, row().isEachKeyApplied() ? "-" : "7");
+        EXPECT_NE(shown(), row().shown[0]);
+        QTest::keyClick(line, Qt::Key_Escape);
+        EXPECT_EQ(shown(), row().shown[0]);
+        EXPECT_EQ(commands(), 0);
+        m_editor->window()->setFocus();
+        TestHost::pump();
+        EXPECT_EQ(text(), value(0));
+    }
+}
+
+TEST_P(EveryEditorTest, EachInputHasAName)
+{
+    const QList<QWidget*> inputs = inputsOf(row(), m_editor);
+    ASSERT_FALSE(inputs.isEmpty());
+    for (const QWidget* input : inputs + stopsOf(row(), m_editor))
+        EXPECT_FALSE(input->accessibleName().isEmpty()) << input->metaObject()->className();
+}
+
+TEST_P(EveryEditorTest, CanBeUnloadedAndLoadedAgain)
+{
+    const int children = m_editor->findChildren<QObject*>().size();
+    for (int i = 0; i < 2; ++i) {
+        reload();
+        open();
+        EXPECT_EQ(m_editor->findChildren<QObject*>().size(), children);
+        EXPECT_EQ(shown(), row().shown[0]);
+    }
+    typeAndEnter();
+    EXPECT_EQ(text(), row().applied);
+    EXPECT_EQ(commands(), row().commands);
+}
