@@ -4,10 +4,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QtEndian>
 
 namespace
 {
+
+constexpr int MostNamed = 9;
 
 QString tr(const char* text)
 {
@@ -19,6 +20,8 @@ QString endingsText(const QStringList& endings)
     QStringList dotted;
     for (const QString& ending : endings)
         dotted << QLatin1Char('.') + ending;
+    if (dotted.size() > MostNamed) // those that most have heard of
+        return tr("%1, or that of another kind of model").arg(dotted.mid(0, MostNamed).join(QStringLiteral(", ")));
     const QString last = dotted.takeLast();
     return dotted.isEmpty() ? last : tr("%1 or %2").arg(dotted.join(QStringLiteral(", ")), last);
 }
@@ -30,12 +33,14 @@ QString reasonAgainst(const QString& path, const QStringList& endings)
         return tr("there is no such file");
     if (info.isDir())
         return tr("it is a folder, and a file was expected");
+    if (!info.isFile()) // a device or a pipe may have no end, or keep who opens it waiting
+        return tr("it is no file with an end, and one was expected");
     if (!endings.contains(info.suffix().toLower()))
         return tr("its name was expected to end in %1").arg(endingsText(endings));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tr("it cannot be read (%1)").arg(file.errorString());
-    if (info.isFile() && info.size() == 0)
+    if (info.size() == 0)
         return tr("it is empty, and a scene or model was expected");
     return {};
 }
@@ -51,20 +56,4 @@ QString scopix::checkFile(const QString& path, const QStringList& endings)
 {
     const QString reason = reasonAgainst(path, endings);
     return reason.isEmpty() ? QString() : cannotOpen(path, reason);
-}
-
-QString scopix::checkBinaryGltf(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return cannotOpen(path, file.errorString());
-    const QByteArray head = file.read(12);
-    if (!head.startsWith("glTF"))
-        return cannotOpen(path, tr("it is no binary glTF file, which starts with the four letters “glTF”"));
-    const auto promised = head.size() == 12 ? qFromLittleEndian<quint32>(head.constData() + 8) : 12;
-    if (file.size() < promised)
-        return cannotOpen(path, tr("it ends after %1 of the %2 bytes that its header announces")
-                                    .arg(file.size())
-                                    .arg(promised));
-    return {};
 }

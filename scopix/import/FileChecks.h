@@ -11,9 +11,5 @@ QString cannotOpen(const QString& path, const QString& reason);
 // One sentence when there is no readable file with something in it, or when its name's ending is none of `endings`;
 // else empty.
 QString checkFile(const QString& path, const QStringList& endings);
-// One sentence when a file of this format is not whole, as far as its header tells; else empty. The importer does not
-// notice by itself: cut files keep it busy for ever.
-QString checkBinaryGltf(const QString& path);
-QString checkPly(const QString& path);
 
 } // namespace scopix

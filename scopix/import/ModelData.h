@@ -42,16 +42,24 @@ struct ModelData {
         std::vector<unsigned char> bytes;
     };
 
+    enum class LightKind : std::int32_t { Ambient, Directional, Point, Spot };
+
     struct Light {
+        LightKind kind = LightKind::Directional;
         SbColor color{1, 1, 1};
         float intensity = 1;
+        SbVec3f location;
         SbVec3f direction{0, 0, -1};
+        SbVec3f attenuation{1, 0, 0};
+        float cutOffAngle = 0.785398F;
+        float dropOff = 0;
     };
 
     struct Camera {
         SbVec3f position;
         SbRotation orientation;
         float heightAngle = 0.785398F;
+        float height = 0; // above 0: everything is seen in its size, this much of it
         float nearDistance = 0.1F;
         float farDistance = 1000;
     };

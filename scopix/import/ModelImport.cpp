@@ -1,12 +1,16 @@
 #include "import/ModelImport.h"
 
-#include "import/ModelReader.h"
+#include "import/FileChecks.h"
+#include "import/ModelFile.h"
+#include "import/ReadModel.h"
 #include "import/SceneBuilder.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProgressDialog>
 
-#include <atomic>
+#include <csignal>
+#include <dlfcn.h>
 
 namespace
 {
@@ -15,25 +19,32 @@ constexpr int PatienceMs = 400; // before a dialog opens
 
 } // namespace
 
-struct ModelImport::Shared {
-    std::atomic<bool> cancelled{false};
-    std::atomic<int> percent{0};
-    scopix::ReadModel result; // the thread's until it is done
-};
+QString ModelImport::readerProgram()
+{
+    static const char inThisLibrary = 0;
+    Dl_info library{};
+    dladdr(&inThisLibrary, &library);
+    const QFileInfo file(QFile::decodeName(library.dli_fname));
+    return QDir::cleanPath(QDir(file.canonicalPath()).filePath(QStringLiteral("scopix/scopix-read-model")));
+}
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
     : QObject(parent)
     , m_window(window)
-    , m_shared(std::make_shared<Shared>())
+    , m_reader(this)
 {
+    m_reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(&m_reader, &QProcess::readyReadStandardOutput, this, &ModelImport::showProgress);
+    connect(&m_reader, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &ModelImport::readerEnded);
+    connect(&m_reader, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            readerEnded();
+    }, Qt::QueuedConnection);
 }
 
 ModelImport::~ModelImport()
 {
-    m_shared->cancelled = true;
-    if (m_thread.joinable())
-        m_thread.join();
-    delete m_dialog;
+    end();
 }
 
 void ModelImport::start(const QString& path)
@@ -47,19 +58,16 @@ void ModelImport::start(const QString& path)
     m_dialog->setAutoReset(false);
     m_dialog->setValue(0);
     connect(m_dialog, &QProgressDialog::canceled, this, &ModelImport::cancel);
-    m_thread = std::thread([this, path, shared = m_shared] {
-        shared->result = scopix::readModel(path, [&](float done) {
-            const int percent = static_cast<int>(100 * done);
-            if (shared->percent.exchange(percent) != percent)
-                QMetaObject::invokeMethod(this, [this, percent] { showProgress(percent); }, Qt::QueuedConnection);
-            return !shared->cancelled;
-        });
-        QMetaObject::invokeMethod(this, [this] { threadDone(); }, Qt::QueuedConnection);
-    });
+    m_result.open(); // where that fails, the reader says so
+    m_reader.start(readerProgram(), {path, m_result.fileName()});
 }
 
-void ModelImport::showProgress(int percent)
+// One line for each percent.
+void ModelImport::showProgress()
 {
+    int percent = 0;
+    while (m_reader.canReadLine())
+        percent = m_reader.readLine().trimmed().toInt();
     if (m_dialog)
         m_dialog->setValue(percent);
 }
@@ -68,35 +76,53 @@ void ModelImport::cancel()
 {
     if (std::exchange(m_told, true))
         return;
-    m_shared->cancelled = true;
-    closeDialog();
+    end();
     emit cancelled();
 }
 
-void ModelImport::closeDialog()
+void ModelImport::readerEnded()
 {
+    if (std::exchange(m_told, true))
+        return;
+    tell();
+}
+
+void ModelImport::tell()
+{
+    scopix::ReadModel model;
+    QFile result(m_result.fileName());
+    const bool ended = m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
+    const bool opened = ended && result.open(QIODevice::ReadOnly);
+    const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
+    if (!bytes || !scopix::readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+        model.error = scopix::cannotOpen(m_path, whyItEnded());
+    end();
+    if (model.error.isEmpty())
+        emit finished(scopix::buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
+    else
+        emit failed(model.error);
+}
+
+QString ModelImport::whyItEnded() const
+{
+    if (m_reader.error() == QProcess::FailedToStart)
+        return tr("the program that reads models, “%1”, cannot be started").arg(readerProgram());
+    const bool crashed = m_reader.exitStatus() == QProcess::CrashExit;
+    if (crashed && m_reader.exitCode() == SIGXCPU)
+        return tr("reading it takes too long, and was given up");
+    return crashed ? tr("it contradicts itself, and reading it was given up")
+                   : tr("what was read of it could not be written to “%1”").arg(m_result.fileName());
+}
+
+void ModelImport::end()
+{
+    m_reader.disconnect(this);
+    m_reader.kill();
+    m_reader.waitForFinished(-1); // a killed process ends at once
     if (!m_dialog)
         return;
     m_dialog->disconnect(this);
     m_dialog->hide();
     m_dialog->deleteLater();
     m_dialog = nullptr;
-}
-
-void ModelImport::threadDone()
-{
-    m_thread.join();
-    if (!std::exchange(m_told, true)) {
-        closeDialog();
-        tell(m_shared->result);
-    }
-    emit threadEnded();
-}
-
-void ModelImport::tell(scopix::ReadModel& result)
-{
-    if (result.error.isEmpty())
-        emit finished(scopix::buildScene(std::move(result.data), QFileInfo(m_path).completeBaseName().toStdString()));
-    else
-        emit failed(result.error);
 }

@@ -1,22 +1,17 @@
-// Reads one model file on a thread of its own, while a dialog shows how far it is once that takes noticeable time.
-// Made for one file. Deleting it waits for the thread; after threadEnded() nothing is left to wait for. GUI thread only.
+// Reads one model file in a process of its own, so that a file which makes the reader crash, hang or ask for all memory
+// ends that process and nothing else; shows how far it is once that takes noticeable time. Made for one file; deleting
+// it ends the process at once. GUI thread only.
 #pragma once
 
 #include <xsg/nodes/SoSeparator.h>
 
 #include <QObject>
 #include <QPointer>
-
-#include <memory>
-#include <thread>
+#include <QProcess>
+#include <QTemporaryFile>
 
 class QProgressDialog;
 class QWidget;
-
-namespace scopix
-{
-struct ReadModel;
-}
 
 class ModelImport : public QObject
 {
@@ -25,32 +20,32 @@ class ModelImport : public QObject
 public:
     // The dialog opens over `window`.
     explicit ModelImport(QWidget* window, QObject* parent = nullptr);
-    // Waits for the thread to give up.
     ~ModelImport() override;
 
+    // The program that reads models: it belongs to this library and lies in a folder beside it.
+    static QString readerProgram();
+
     void start(const QString& path);
-    // failed() follows at once; what the thread still reads is dropped.
+    // cancelled() follows at once.
     void cancel();
 
 signals:
-    // Exactly one of the three, once, from the event loop.
+    // Exactly one of the three, once; the first two from the event loop. It is of no more use then.
     void finished(const SoRef<SoSeparator>& scene);
     void failed(const QString& sentence);
     void cancelled();
-    // The last that is told.
-    void threadEnded();
 
 private:
-    struct Shared;
-    void showProgress(int percent);
-    void threadDone();
-    void tell(scopix::ReadModel& result);
-    void closeDialog();
+    void showProgress();
+    void readerEnded();
+    void tell();
+    QString whyItEnded() const;
+    void end();
 
     QWidget* m_window;
     QString m_path;
-    std::shared_ptr<Shared> m_shared;
-    std::thread m_thread;
+    QProcess m_reader;
+    QTemporaryFile m_result;
     QPointer<QProgressDialog> m_dialog;
     bool m_told = false;
 };

@@ -2,12 +2,16 @@
 
 #include "import/Placement.h"
 #include "view/NodeText.h"
+#include <xsg/nodes/SoAmbientLight.h>
 #include <xsg/nodes/SoDirectionalLight.h>
 #include <xsg/nodes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/SoMaterial.h>
 #include <xsg/nodes/SoNormals.h>
+#include <xsg/nodes/SoOrthographicCamera.h>
 #include <xsg/nodes/SoPerspectiveCamera.h>
+#include <xsg/nodes/SoPointLight.h>
 #include <xsg/nodes/SoPoints.h>
+#include <xsg/nodes/SoSpotLight.h>
 #include <xsg/nodes/SoTexture2.h>
 #include <xsg/nodes/SoTextureCoordinates.h>
 #include <xsg/nodes/SoTransformation.h>
@@ -185,22 +189,66 @@ private:
     SoNode* makeLight(const ModelData::Node& node, const SbMatrix& toWorld) const
     {
         const ModelData::Light& light = at(m_model.lights, node.light);
-        auto* result = new SoDirectionalLight;
+        SoNode* result = makeLight(light, toWorld.multPoint(light.location),
+                                   toWorld.multDirection(light.direction).normalized());
         setName(*result, node.name);
-        result->color.setValue(light.color);
-        result->intensity.setValue(light.intensity);
-        result->direction.setValue(toWorld.multDirection(light.direction).normalized());
         return result;
+    }
+
+    static SoNode* makeLight(const ModelData::Light& light, const SbVec3f& location, const SbVec3f& direction)
+    {
+        using Kind = ModelData::LightKind;
+        if (light.kind == Kind::Ambient)
+            return shining(new SoAmbientLight, light);
+        if (light.kind == Kind::Directional) {
+            auto* result = shining(new SoDirectionalLight, light);
+            result->direction.setValue(direction);
+            return result;
+        }
+        if (light.kind == Kind::Point)
+            return placed(new SoPointLight, light, location);
+        auto* result = placed(new SoSpotLight, light, location);
+        result->direction.setValue(direction);
+        result->cutOffAngle.setValue(light.cutOffAngle);
+        result->dropOff.setValue(light.dropOff);
+        return result;
+    }
+
+    template <class Light>
+    static Light* shining(Light* node, const ModelData::Light& light)
+    {
+        node->color.setValue(light.color);
+        node->intensity.setValue(light.intensity);
+        return node;
+    }
+
+    template <class Light>
+    static Light* placed(Light* node, const ModelData::Light& light, const SbVec3f& location)
+    {
+        node->location.setValue(location);
+        node->attenuation.setValue(light.attenuation);
+        return shining(node, light);
     }
 
     static SoNode* makeCamera(const ModelData::Camera& camera)
     {
-        auto* result = new SoPerspectiveCamera;
+        SoCamera* result = makeLens(camera);
         result->position.setValue(camera.position);
         result->orientation.setValue(camera.orientation);
-        result->heightAngle.setValue(camera.heightAngle);
         result->nearDistance.setValue(camera.nearDistance);
         result->farDistance.setValue(camera.farDistance);
+        return result;
+    }
+
+    static SoCamera* makeLens(const ModelData::Camera& camera)
+    {
+        if (camera.height > 0) {
+            auto* result = new SoOrthographicCamera;
+            result->height.setValue(camera.height);
+            return result;
+        }
+        auto* result = new SoPerspectiveCamera;
+        result->heightAngle.setValue(camera.heightAngle);
         return result;
     }
 

@@ -83,7 +83,6 @@ void SceneFiles::importModel(const QString& path)
     });
     connect(import, &ModelImport::failed, this, &SceneFiles::refuse);
     connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
-    connect(import, &ModelImport::threadEnded, import, &QObject::deleteLater);
     import->start(path);
 }
 
@@ -96,16 +95,23 @@ void SceneFiles::modelRead(SoNode* root, const QString& path)
         cancelled(path);
 }
 
+void SceneFiles::forgetImport()
+{
+    if (m_import)
+        m_import->deleteLater();
+    m_import.clear();
+}
+
 void SceneFiles::cancelled(const QString& path)
 {
-    m_import.clear();
+    forgetImport();
     m_messages.info(tr("Reading “%1” was cancelled.").arg(path));
     emit opened(false);
 }
 
 void SceneFiles::show(SoNode* root, const QString& path)
 {
-    m_import.clear();
+    forgetImport();
     m_document.begin(root, path, QFileInfo(path).fileName());
     if (m_messages.isAttended())
         m_recent.add(path);
@@ -115,7 +121,7 @@ void SceneFiles::show(SoNode* root, const QString& path)
 
 void SceneFiles::refuse(const QString& sentence)
 {
-    m_import.clear();
+    forgetImport();
     m_messages.error(sentence);
     emit opened(false);
 }

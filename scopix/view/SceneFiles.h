@@ -59,6 +59,7 @@ private:
     void modelRead(SoNode* root, const QString& path);
     void show(SoNode* root, const QString& path);
     void refuse(const QString& sentence);
+    void forgetImport();
     void cancelled(const QString& path);
     void offerRecovery();
     void recover(std::unique_ptr<RecoverySlot> slot);

@@ -1,15 +1,11 @@
 // What cannot be opened is named in one sentence that says what was expected.
 #include "ModelFiles.h"
 
-#include "import/AbortGuard.h"
-#include "import/ModelReader.h"
+#include "reader/ModelReader.h"
 
-#include <csignal>
-#include <cstdlib>
 #include <cstring>
-#include <stdexcept>
 
-#include <unistd.h>
+#include <sys/stat.h>
 
 namespace
 {
@@ -84,15 +80,6 @@ TEST_F(BadModel, GltfWithoutItsGeometryFile)
     expectRefusal(files.write("crate.gltf", contentOf(shippedModel("crate.gltf"))), "crate.bin");
 }
 
-TEST_F(BadModel, GarbageInEveryFormat)
-{
-    QByteArray garbage;
-    for (int i = 0; i < 3000; ++i)
-        garbage += static_cast<char>((i * 7919) >> 3);
-    for (const QString& ending : scopix::modelEndings())
-        expectRefusal(files.write(qPrintable("garbage." + ending), garbage), "cannot be opened");
-}
-
 // Once kept the importer busy for ever.
 TEST_F(BadModel, TruncatedPly)
 {
@@ -105,30 +92,11 @@ TEST_F(BadModel, TruncatedPly)
     expectRefusal(files.write("cut.ply", "ply\nelement vertex many\nend_header\n"), "should end in a count");
 }
 
-// Once ended the whole program: the importer asserts that every face has corners. Runs in a process of its own, since
-// what the importer had in hand is lost.
-TEST_F(BadModel, FaceWithoutCorners)
+TEST_F(BadModel, PipeThatNobodyWritesTo)
 {
-    QByteArray model = contentOf(shippedModel("rainbow.ply"));
-    const int face = model.lastIndexOf("\n3 ");
-    ASSERT_GT(face, 0);
-    model[face + 1] = '0';
-    const QString path = files.write("face.ply", model);
-    EXPECT_EXIT(
-        {
-            const bool refused = scopix::readModel(path).error.contains("it contradicts itself");
-            const bool goesOn = scopix::readModel(shippedModel("rainbow.ply")).error.isEmpty();
-            _exit(refused && goesOn ? 0 : 1);
-        },
-        testing::ExitedWithCode(0), "");
-}
-
-TEST_F(BadModel, AnAbortOfOthersIsSurvived)
-{
-    EXPECT_FALSE(scopix::survivesAbort([] { std::abort(); }));
-    EXPECT_TRUE(scopix::survivesAbort([] {}));
-    EXPECT_THROW(scopix::survivesAbort([] { throw std::runtime_error(""); }), std::runtime_error);
-    EXPECT_EXIT(std::abort(), testing::KilledBySignal(SIGABRT), "");
+    const QString path = files.path("pipe.obj");
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    expectRefusal(path, "it is no file with an end");
 }
 
 TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
@@ -141,19 +109,6 @@ TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
             EXPECT_NE(model.error.isEmpty(), model.data.nodes.empty());
         }
     }
-}
-
-TEST_F(BadModel, CancellingGivesNeitherModelNorError)
-{
-    int asked = 0;
-    const scopix::ReadModel model = scopix::readModel(shippedModel("lighthouse.glb"), [&](float) {
-        ++asked;
-        return false;
-    });
-    EXPECT_GT(asked, 0);
-    EXPECT_TRUE(model.cancelled);
-    EXPECT_TRUE(model.error.isEmpty());
-    EXPECT_TRUE(model.data.nodes.empty());
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 // Every format, written by the exporter from a shipped model, reads as the same model.
 #include "ModelFiles.h"
 
-#include "import/CNumbers.h"
-#include "import/ModelReader.h"
+#include "import/ModelFormats.h"
 #include "import/SceneBuilder.h"
+#include "reader/CNumbers.h"
+#include "reader/ModelReader.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 
@@ -80,6 +81,13 @@ INSTANTIATE_TEST_SUITE_P(All, Formats,
                                          Format{"obj", "model.obj", false}, Format{"stlb", "model.stl", false},
                                          Format{"ply", "model.ply", false}, Format{"collada", "model.dae", true},
                                          Format{"fbxa", "model.fbx", true}));
+
+TEST(ModelFormats, AreKnownToTheImporter)
+{
+    const Assimp::Importer importer;
+    for (const QString& ending : scopix::modelEndings())
+        EXPECT_TRUE(importer.IsExtensionSupported('.' + ending.toStdString())) << qPrintable(ending);
+}
 
 class ShippedModels : public testing::TestWithParam<const char*>
 {

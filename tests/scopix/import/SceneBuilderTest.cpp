@@ -1,8 +1,8 @@
 #include "ModelFiles.h"
 
-#include "import/ModelReader.h"
 #include "import/Placement.h"
 #include "import/SceneBuilder.h"
+#include "reader/ModelReader.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/SoDirectionalLight.h>

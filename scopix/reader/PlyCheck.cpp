@@ -1,9 +1,14 @@
+#include "reader/FormatChecks.h"
+
 #include "import/FileChecks.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QHash>
+#include <QList>
 
 #include <algorithm>
+#include <limits>
 
 namespace
 {

@@ -1,4 +1,6 @@
-#include "import/AssimpMaterial.h"
+#include "reader/AssimpMaterial.h"
+
+#include "import/Pixels.h"
 
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
@@ -115,21 +117,6 @@ QImage readBeside(const QString& folder, const QString& name)
     return {};
 }
 
-ModelData::Picture toPicture(const QImage& image, const std::string& name)
-{
-    const bool grey = image.isGrayscale() && !image.hasAlphaChannel();
-    const QImage::Format format = grey                      ? QImage::Format_Grayscale8
-                                  : image.hasAlphaChannel() ? QImage::Format_RGBA8888
-                                                            : QImage::Format_RGB888;
-    const QImage pixels = image.convertToFormat(format);
-    ModelData::Picture picture{name, pixels.width(), pixels.height(), grey ? 1 : pixels.depth() / 8, {}};
-    for (int y = picture.height - 1; y >= 0; --y) {
-        const uchar* row = pixels.constScanLine(y);
-        picture.bytes.insert(picture.bytes.end(), row, row + picture.width * picture.components);
-    }
-    return picture;
-}
-
 int addPicture(const aiString& path, const aiScene& scene, const QString& folder, ModelData& model)
 {
     const std::string name = path.C_Str();
@@ -138,7 +125,8 @@ int addPicture(const aiString& path, const aiScene& scene, const QString& folder
     if (known == model.pictures.end()) {
         const aiTexture* embedded = scene.GetEmbeddedTexture(path.C_Str());
         const QImage image = embedded ? decode(*embedded) : readBeside(folder, QString::fromUtf8(path.C_Str()));
-        model.pictures.push_back(toPicture(image, name)); // one that cannot be read stays empty, and is not tried again
+        model.pictures.push_back(scopix::toPicture(image));
+        model.pictures.back().name = name; // one that cannot be read stays empty, and is not tried again
         return static_cast<int>(model.pictures.size()) - 1;
     }
     return static_cast<int>(known - model.pictures.begin());

@@ -1,7 +1,8 @@
-#include "import/AssimpModel.h"
+#include "reader/AssimpModel.h"
 
-#include "import/AssimpMaterial.h"
+#include "reader/AssimpMaterial.h"
 
+#include <assimp/commonMetaData.h>
 #include <assimp/scene.h>
 
 #include <algorithm>
@@ -9,6 +10,9 @@
 
 namespace
 {
+
+constexpr float WidestCone = 1.57F; // half of it, in radians
+constexpr float SharpestDropOff = 128;
 
 SbVec3f toVec(const aiVector3D& v)
 {
@@ -60,26 +64,82 @@ ModelData::Mesh toMesh(const aiMesh& mesh)
     return result;
 }
 
-ModelData::Light toLight(const aiLight& light)
+bool isFinite(const SbVec3f& v)
+{
+    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
+}
+
+// False for a kind that there is no node for.
+bool findKind(aiLightSourceType type, ModelData::LightKind& kind)
+{
+    switch (type) {
+    case aiLightSource_AMBIENT: kind = ModelData::LightKind::Ambient; return true;
+    case aiLightSource_DIRECTIONAL: kind = ModelData::LightKind::Directional; return true;
+    case aiLightSource_AREA: // seen from afar, where most of a scene is
+    case aiLightSource_POINT: kind = ModelData::LightKind::Point; return true;
+    case aiLightSource_SPOT: kind = ModelData::LightKind::Spot; return true;
+    default: return false;
+    }
+}
+
+// Physical units know no top; a screen does. What is brighter reaches farther instead.
+void takeBrightness(const aiLight& light, ModelData::Light& result)
+{
+    const bool ambient = result.kind == ModelData::LightKind::Ambient;
+    const aiColor3D& c = ambient && light.mColorDiffuse.IsBlack() ? light.mColorAmbient : light.mColorDiffuse;
+    const float brightest = std::max({c.r, c.g, c.b});
+    if (!std::isfinite(brightest))
+        return;
+    if (brightest > 0)
+        result.color = SbColor(c.r / brightest, c.g / brightest, c.b / brightest);
+    result.intensity = std::clamp(brightest, 0.0F, 1.0F);
+    SbVec3f fading(light.mAttenuationConstant, light.mAttenuationLinear, light.mAttenuationQuadratic);
+    if (brightest > 1)
+        fading = fading * (1 / brightest);
+    if (isFinite(fading) && fading.length() > 0)
+        result.attenuation = fading;
+}
+
+// As bright half-way between the two cones as the file's linear fading makes it there.
+float dropOffOf(float inner, float outer)
+{
+    if (inner >= outer)
+        return 0;
+    const float halfWay = std::cos((std::max(inner, 0.0F) + outer) / 2);
+    return std::clamp(std::log(0.5F) / std::log(halfWay), 0.0F, SharpestDropOff);
+}
+
+ModelData::Light toLight(const aiLight& light, ModelData::LightKind kind)
 {
     ModelData::Light result;
-    const aiColor3D& c = light.mColorDiffuse;
-    const float brightest = std::max({c.r, c.g, c.b});
-    if (brightest > 0 && std::isfinite(brightest))
-        result.color = SbColor(c.r / brightest, c.g / brightest, c.b / brightest);
-    // Physical units know no top; a screen does.
-    result.intensity = std::clamp(brightest, 0.0F, 1.0F);
+    result.kind = kind;
+    takeBrightness(light, result);
+    result.location = toVec(light.mPosition);
     result.direction = toVec(light.mDirection);
+    if (light.mAngleOuterCone > 0 && light.mAngleOuterCone < WidestCone)
+        result.cutOffAngle = light.mAngleOuterCone;
+    result.dropOff = dropOffOf(light.mAngleInnerCone, result.cutOffAngle);
     return result;
 }
 
-ModelData::Camera toCamera(const aiCamera& camera)
+// The importer of these multiplies the angle of the height by the aspect, which is no angle of the width.
+bool isGltf(const aiScene& scene)
+{
+    aiString format;
+    return scene.mMetaData && scene.mMetaData->Get(AI_METADATA_SOURCE_FORMAT, format) &&
+           QString::fromUtf8(format.C_Str()).startsWith(QLatin1String("glTF"));
+}
+
+ModelData::Camera toCamera(const aiCamera& camera, bool isGltf)
 {
     ModelData::Camera result;
     result.position = toVec(camera.mPosition);
     result.orientation = SbRotation::between({0, 0, -1}, toVec(camera.mLookAt));
     const float aspect = camera.mAspect > 0 ? camera.mAspect : 1;
-    if (camera.mHorizontalFOV > 0)
+    result.height = std::max(2 * camera.mOrthographicWidth / aspect, 0.0F);
+    if (camera.mHorizontalFOV > 0 && isGltf)
+        result.heightAngle = camera.mHorizontalFOV / aspect;
+    else if (camera.mHorizontalFOV > 0)
         result.heightAngle = 2 * std::atan(std::tan(camera.mHorizontalFOV / 2) / aspect);
     result.nearDistance = std::max(camera.mClipPlaneNear, 1e-6F);
     result.farDistance = std::max(camera.mClipPlaneFar, 2 * result.nearDistance);
@@ -129,8 +189,9 @@ private:
     {
         for (unsigned i = 0; i < m_scene.mNumLights; ++i) {
             const aiLight& light = *m_scene.mLights[i];
-            if (light.mName == name && light.mType == aiLightSource_DIRECTIONAL) {
-                m_model.lights.push_back(toLight(light));
+            ModelData::LightKind kind{};
+            if (light.mName == name && findKind(light.mType, kind)) {
+                m_model.lights.push_back(toLight(light, kind));
                 return static_cast<int>(m_model.lights.size()) - 1;
             }
         }
@@ -141,7 +202,7 @@ private:
     {
         for (unsigned i = 0; i < m_scene.mNumCameras; ++i) {
             if (m_scene.mCameras[i]->mName == name) {
-                m_model.cameras.push_back(toCamera(*m_scene.mCameras[i]));
+                m_model.cameras.push_back(toCamera(*m_scene.mCameras[i], isGltf(m_scene)));
                 return static_cast<int>(m_model.cameras.size()) - 1;
             }
         }

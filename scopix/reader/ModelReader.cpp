@@ -1,9 +1,10 @@
-#include "import/ModelReader.h"
+#include "reader/ModelReader.h"
 
-#include "import/AbortGuard.h"
-#include "import/AssimpModel.h"
-#include "import/CNumbers.h"
 #include "import/FileChecks.h"
+#include "import/ModelFormats.h"
+#include "reader/AssimpModel.h"
+#include "reader/CNumbers.h"
+#include "reader/FormatChecks.h"
 
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
@@ -30,11 +31,6 @@ constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertic
                            aiProcess_SortByPType | aiProcess_ValidateDataStructure | aiProcess_FindInvalidData |
                            aiProcess_TransformUVCoords;
 
-// Leaves the importer by an exception: a refusal is not heeded everywhere.
-class Cancelled : public std::exception
-{
-};
-
 class Progress : public Assimp::ProgressHandler
 {
 public:
@@ -44,8 +40,8 @@ public:
     }
     bool Update(float done) override
     {
-        if (m_tell && !m_tell(std::clamp(done, 0.0F, 1.0F)))
-            throw Cancelled();
+        if (m_tell)
+            m_tell(std::clamp(done, 0.0F, 1.0F));
         return true;
     }
 
@@ -75,14 +71,13 @@ bool hasTriangles(const ModelData& model)
                        [](const ModelData::Mesh& mesh) { return !mesh.index.empty(); });
 }
 
-scopix::ReadModel import(Assimp::Importer& importer, const QString& path, const scopix::ReadProgress& progress)
+scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progress)
 {
+    Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
     const CNumbers numbers;
     const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), Steps);
-    if (progress && !progress(1))
-        throw Cancelled(); // the importer turns what is thrown inside of it into an error of its own
     if (!scene)
         return failed(scopix::cannotOpen(path, reasonOf(importer)));
     scopix::ReadModel result;
@@ -92,23 +87,7 @@ scopix::ReadModel import(Assimp::Importer& importer, const QString& path, const 
     return result;
 }
 
-scopix::ReadModel guardedImport(const QString& path, const scopix::ReadProgress& progress)
-{
-    auto importer = std::make_unique<Assimp::Importer>();
-    scopix::ReadModel result;
-    if (scopix::survivesAbort([&] { result = import(*importer, path, progress); }))
-        return result;
-    [[maybe_unused]] const auto* lost = importer.release(); // whatever state it is in, nobody should look at it again
-    return failed(scopix::cannotOpen(path, tr("it contradicts itself, and reading it was given up")));
-}
-
 } // namespace
-
-QStringList scopix::modelEndings()
-{
-    return {QStringLiteral("gltf"), QStringLiteral("glb"), QStringLiteral("obj"), QStringLiteral("stl"),
-            QStringLiteral("ply"),  QStringLiteral("dae"), QStringLiteral("fbx")};
-}
 
 scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& progress)
 {
@@ -121,11 +100,7 @@ scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& pro
     if (!error.isEmpty())
         return failed(error);
     try {
-        return guardedImport(path, progress);
-    } catch (const Cancelled&) {
-        ReadModel result;
-        result.cancelled = true;
-        return result;
+        return import(path, progress);
     } catch (const std::bad_alloc&) {
         return failed(cannotOpen(path, tr("it asks for more memory than there is")));
     } catch (const std::exception& e) {

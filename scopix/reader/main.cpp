@@ -1,0 +1,62 @@
+// The program that reads a model for the host, in a process of its own: scopix-read-model MODEL RESULT. Prints how far
+// it is, one line for each percent, and writes the model, or why there is none, to the file RESULT.
+#include "import/ModelFile.h"
+#include "reader/ModelReader.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr rlim_t MostSeconds = 1200; // of computing; a file that takes longer is no model but a riddle
+
+void limit(int resource, rlim_t most)
+{
+    const rlimit soft{most, most + 10}; // at the soft one the signal tells what it was
+    setrlimit(resource, &soft);
+}
+
+// A bad file may ask for anything. What it cannot have is an error that the reader survives or dies of, alone.
+void limitItself()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody waits for the model any more
+    limit(RLIMIT_CORE, 0);
+    limit(RLIMIT_CPU, MostSeconds);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // those reserve more than there is
+    const auto pages = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES));
+    limit(RLIMIT_AS, pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)));
+#endif
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv); // finds the plug-ins that read pictures
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3) {
+        std::fputs("scopix-read-model MODEL RESULT: reads a model for scopix.\n", stderr);
+        return 2;
+    }
+    limitItself();
+    int told = 0;
+    const scopix::ReadModel model = scopix::readModel(arguments[1], [&](float done) {
+        const int percent = static_cast<int>(100 * done);
+        if (percent != told) {
+            std::printf("%d\n", percent);
+            std::fflush(stdout);
+        }
+        told = percent;
+    });
+    QFile result(arguments[2]);
+    const bool written = result.open(QIODevice::WriteOnly) && scopix::writeModelFile(model, result) && result.flush();
+    std::_Exit(written ? 0 : 1); // all memory goes at once
+}

@@ -1,0 +1,88 @@
+// The way from the process that reads models to the host.
+#include "ModelFiles.h"
+
+#include "import/ModelFile.h"
+#include "reader/ModelReader.h"
+
+namespace
+{
+
+QByteArray written(const scopix::ReadModel& model)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(scopix::writeModelFile(model, buffer));
+    return buffer.data();
+}
+
+bool read(const QByteArray& bytes, scopix::ReadModel& model)
+{
+    model = {};
+    return scopix::readModelFile(bytes.constData(), static_cast<std::size_t>(bytes.size()), model);
+}
+
+TEST(ModelFile, BringsEveryBitOver)
+{
+    for (const char* name : {"lighthouse.glb", "crate.gltf", "rainbow.ply"}) {
+        const scopix::ReadModel model = scopix::readModel(shippedModel(name));
+        const QByteArray bytes = written(model);
+        scopix::ReadModel again;
+        ASSERT_TRUE(read(bytes, again));
+        EXPECT_EQ(written(again), bytes);
+        EXPECT_EQ(again.data.meshes.size(), model.data.meshes.size());
+        EXPECT_EQ(again.data.meshes[0].points, model.data.meshes[0].points);
+        EXPECT_EQ(again.data.materials[0].name, model.data.materials[0].name);
+        EXPECT_EQ(again.data.nodes.back().matrix, model.data.nodes.back().matrix);
+    }
+}
+
+TEST(ModelFile, BringsAnErrorOver)
+{
+    scopix::ReadModel model;
+    model.error = QStringLiteral("“ä” cannot be opened: ….");
+    scopix::ReadModel again;
+    ASSERT_TRUE(read(written(model), again));
+    EXPECT_EQ(again.error, model.error);
+}
+
+TEST(ModelFile, ACutOneIsRefused)
+{
+    const QByteArray bytes = written(scopix::readModel(shippedModel("crate.gltf")));
+    scopix::ReadModel model;
+    for (int size = 0; size < bytes.size(); size += size < 400 ? 1 : 97)
+        EXPECT_FALSE(read(bytes.left(size), model)) << size;
+    EXPECT_FALSE(read(bytes + 'x', model));
+}
+
+TEST(ModelFile, AWrongCountAsksForNoMemory)
+{
+    QByteArray bytes = written({});
+    bytes.replace(4, 8, QByteArray(8, '\x7f'));
+    scopix::ReadModel model;
+    EXPECT_FALSE(read(bytes, model));
+}
+
+TEST(ModelFile, ReferencesToNothingAreRefused)
+{
+    const auto isRefused = [](auto spoil) {
+        scopix::ReadModel model;
+        model.data.nodes.resize(2);
+        model.data.nodes[0].children = {1};
+        model.data.meshes.resize(1);
+        model.data.materials.resize(1);
+        scopix::ReadModel again;
+        EXPECT_TRUE(read(written(model), again));
+        spoil(model.data);
+        return !read(written(model), again);
+    };
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[0].children = {2}; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[1].children = {1}; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[0].meshes = {1}; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[0].meshes = {-1}; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[0].light = 0; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.nodes[0].camera = -2; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.meshes[0].material = 1; }));
+    EXPECT_TRUE(isRefused([](ModelData& m) { m.materials[0].picture = 0; }));
+}
+
+} // namespace
