@@ -1,5 +1,6 @@
 #include "HostApplication.h"
 
+#include "PictureReader.h"
 #include "PluginFolders.h"
 #include "ProfilesMenu.h"
 #include "UserHome.h"
@@ -15,6 +16,7 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoKeys(m_services.undoStack(), *m_window)
 {
+    PictureReader::install();
     m_messages.setWindow(m_window.get());
     connect(&m_services, &HostServices::commandFailed, &m_messages, &Messages::error);
     connect(&m_shell, &HostShell::failed, &m_messages, &Messages::error);

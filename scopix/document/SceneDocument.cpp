@@ -1,11 +1,13 @@
 #include "document/SceneDocument.h"
 
 #include "HostServices.h"
-#include "import/ModelReader.h"
+#include "document/PicturePaths.h"
+#include "import/ModelFormats.h"
 
 #include <xsg/fields/SoField.h>
 #include <xsg/io/SoSceneFile.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -43,6 +45,8 @@ void SceneDocument::begin(SoNode* root, const QString& path, const QString& titl
     const SoRef<SoNode> before = m_root;
     m_root = SoRef<SoNode>(root);
     m_touched = false;
+    if (!path.isEmpty())
+        scopix::setPictureFolder(root, QFileInfo(path).absolutePath());
     emit rootChanged(root);
     setState(path, title);
 }
@@ -68,10 +72,13 @@ QString SceneDocument::save(const QString& path)
     // A link stays one; what it leads to is replaced.
     const QFileInfo target(path);
     const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
+    if (QFileInfo(real).dir().exists())
+        scopix::movePictures(m_root.get(), QFileInfo(real).absolutePath());
     std::string error;
     if (!SoSceneFile::write(m_root.get(), QFile::encodeName(real).toStdString(), error))
         return QString::fromStdString(error);
     m_touched = false;
+    knowField(); // the name of a picture may have been moved
     m_services.undoStack().setClean();
     setState(path, target.fileName());
     return {};
@@ -90,14 +97,19 @@ void SceneDocument::watch(SoField* field)
         m_sensor.detach();
         return;
     }
-    m_knownCount = field->getChangeCount();
     m_sensor.attach(field);
+    knowField();
+}
+
+void SceneDocument::knowField()
+{
+    if (const SoField* field = m_sensor.getAttachedField())
+        m_knownCount = field->getChangeCount();
 }
 
 void SceneDocument::acted()
 {
-    if (const SoField* field = m_sensor.getAttachedField())
-        m_knownCount = field->getChangeCount();
+    knowField();
     ++m_editCount;
     emit edited();
 }

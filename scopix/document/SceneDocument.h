@@ -54,6 +54,7 @@ signals:
 private:
     static void selectedFieldTouched(void* self, SoSensor* sensor);
     void watch(SoField* field);
+    void knowField();
     void acted();
     void setState(const QString& path, const QString& title);
 

@@ -48,8 +48,21 @@ void SoTexture2::readFile() const
         return;
     m_readAt = now;
     const std::string& path = fileName.getValue().str();
-    if (path.empty() || fileName.isIgnored() || !fileReader()(path.c_str(), m_fromFile))
+    if (path.empty() || fileName.isIgnored() || !fileReader()(resolved(path).c_str(), m_fromFile))
         m_fromFile.setValue(0, 0, 0, nullptr);
+}
+
+void SoTexture2::setFolder(const std::string& folder)
+{
+    if (folder == m_folder)
+        return;
+    m_folder = folder;
+    m_readAt = 0;
+}
+
+std::string SoTexture2::resolved(const std::string& path) const
+{
+    return m_folder.empty() || path.front() == '/' ? path : m_folder + '/' + path;
 }
 
 bool SoTexture2::getPicture(SoPicture& picture) const

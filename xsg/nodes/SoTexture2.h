@@ -7,6 +7,8 @@
 #include <xsg/fields/SoSFImage.h>
 #include <xsg/nodes/SoNode.h>
 
+#include <string>
+
 // Pixels of 1 to 4 bytes, rows from the bottom up.
 struct SoPicture {
     int width = 0;
@@ -37,6 +39,11 @@ public:
     // The picture to show, valid until a field changes; false for none.
     bool getPicture(SoPicture& picture) const;
 
+    // Where a relative file name starts from; where it is empty, as at first, the folder that the process works in. No
+    // field: a scene takes it from where its file is.
+    void setFolder(const std::string& folder);
+    const std::string& getFolder() const { return m_folder; }
+
     // How pictures are read from files: fills `image` and returns true, or returns false. The library itself
     // reads portable pixmaps (PGM, PPM); an application that knows more kinds puts its own reader here.
     using FileReader = bool (*)(const char* path, SoSFImage& image);
@@ -44,7 +51,9 @@ public:
 
 private:
     void readFile() const;
+    std::string resolved(const std::string& path) const;
 
+    std::string m_folder;
     mutable SoSFImage m_fromFile;
     mutable std::uint32_t m_readAt = 0; // the file name field's change count, plus 1, when the file was read
 };
