@@ -5,6 +5,7 @@
 #include "ScrollFollower.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -14,6 +15,15 @@ namespace
 {
 
 constexpr int ContinuesLine = 1; // user state of a block
+
+QFont fixedFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // Not every window system knows one.
+    if (!QFontInfo(font).fixedPitch())
+        font.setFamily(QStringLiteral("monospace"));
+    return font;
+}
 
 bool continuesLine(const QTextBlock& block)
 {
@@ -92,7 +102,7 @@ ConsoleText::ConsoleText(QTextEdit& edit, int maxLines)
 {
     m_edit.document()->setDocumentLayout(m_layout);
     m_edit.document()->setMaximumBlockCount(maxLines);
-    m_edit.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_edit.setFont(fixedFont());
 }
 
 void ConsoleText::append(const QVector<Paragraphs>& texts)

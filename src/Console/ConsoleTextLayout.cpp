@@ -24,6 +24,21 @@ QVector<QTextLayout::FormatRange> selectionsIn(const QTextBlock& block,
     return ranges;
 }
 
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightness() < 128;
+}
+
+// The whole block in the light shade of its colour, for the colours of the texts are dark ones.
+QTextLayout::FormatRange lightenedBlock(const QTextBlock& block)
+{
+    const QColor color = block.charFormat().foreground().color();
+    QTextCharFormat format;
+    format.setForeground(QColor::fromHsl(color.hslHue(), color.hslSaturation(),
+                                         qMax(color.lightness(), 255 - color.lightness())));
+    return {0, block.length() - 1, format};
+}
+
 } // namespace
 
 ConsoleTextLayout::ConsoleTextLayout(QTextDocument* document)
@@ -42,11 +57,15 @@ qreal ConsoleTextLayout::rowHeight() const
 void ConsoleTextLayout::draw(QPainter* painter, const PaintContext& context)
 {
     painter->setPen(context.palette.color(QPalette::Text));
+    const bool dark = isDark(context.palette);
     const QRectF clip = context.clip.isValid() ? context.clip : QRectF(QPointF(), documentSize());
     for (QTextBlock block = blockAt(clip.top()); block.isValid() && top(block) <= clip.bottom();
          block = block.next()) {
         layOut(block);
-        block.layout()->draw(painter, QPointF(0, top(block)), selectionsIn(block, context), clip);
+        auto ranges = selectionsIn(block, context);
+        if (dark)
+            ranges.prepend(lightenedBlock(block));
+        block.layout()->draw(painter, QPointF(0, top(block)), ranges, clip);
     }
 }
 

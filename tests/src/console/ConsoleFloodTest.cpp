@@ -121,7 +121,8 @@ TEST_F(ConsoleFlood, HoldsNoMoreThanTheNewestLines)
     holdLines(Held);
     start();
     int most = 0;
-    QObject::connect(&output(), &QTextEdit::textChanged, [&] { most = std::max(most, document().blockCount()); });
+    QObject::connect(&output(), &QTextEdit::textChanged,
+                     [&] { most = std::max(most, document().blockCount()); });
     Flood flood(LinesOfEach / 10);
     for (int i = 0; !flood.isOver(); ++i) {
         Flood::writeGuiLine(i);

@@ -4,6 +4,9 @@
 
 #include <scopix/SpxPlugin.h>
 #include <xsg/errors/SoDebugError.h>
+#include <xsg/errors/SoErrorStack.h>
+#include <xsg/errors/SoGLError.h>
+#include <xsg/errors/SoMemoryError.h>
 #include <xsg/errors/SoReadError.h>
 
 #include <QLibrary>
@@ -33,6 +36,19 @@ protected:
     }
     int overflow(int c) override { return c; }
 };
+
+using Handler = std::pair<SoErrorCB*, void*>;
+
+template <class... Errors>
+std::vector<Handler> handlersOf()
+{
+    return {Handler(Errors::getHandlerCallback(), Errors::getHandlerData())...};
+}
+
+std::vector<Handler> handlers()
+{
+    return handlersOf<SoDebugError, SoError, SoErrorStack, SoGLError, SoMemoryError, SoReadError>();
+}
 
 class ConsoleLoad : public ConsoleTest
 {
@@ -178,8 +194,7 @@ TEST_F(ConsoleLoad, ErrorsThatComeTooLateGoToStandardError)
 
 TEST_F(ConsoleLoad, TheLibraryLeavesStreamsAndHandlersWhole)
 {
-    SoErrorCB* const handler = SoReadError::getHandlerCallback();
-    void* const data = SoReadError::getHandlerData();
+    const auto handlersBefore = handlers();
     for (int round = 0; round < 100; ++round) {
         QLibrary library(SCOPIX_PLUGIN);
         ASSERT_TRUE(library.load()) << library.errorString().toStdString();
@@ -191,7 +206,8 @@ TEST_F(ConsoleLoad, TheLibraryLeavesStreamsAndHandlersWhole)
         ASSERT_EQ(console->getName(), "Console");
         console->load();
         console->activate();
-        EXPECT_NE(SoReadError::getHandlerCallback(), handler);
+        for (const auto& [callback, data] : handlers())
+            EXPECT_EQ(data, console);
         std::cout << "seen";
         std::thread([] { std::cerr << "posted"; }).join();
         SoReadError::post("file", 1, "error");
@@ -201,8 +217,7 @@ TEST_F(ConsoleLoad, TheLibraryLeavesStreamsAndHandlersWhole)
         EXPECT_EQ(std::cout.rdbuf(), m_cout.buffer());
         EXPECT_EQ(std::cerr.rdbuf(), m_cerr.buffer());
         console->unload();
-        EXPECT_EQ(SoReadError::getHandlerCallback(), handler);
-        EXPECT_EQ(SoReadError::getHandlerData(), data);
+        EXPECT_EQ(handlers(), handlersBefore);
         plugin->unload();
         unloadPlugin();
         ASSERT_TRUE(library.unload());

@@ -91,6 +91,18 @@ private:
 
 class Console : public ConsoleTest
 {
+protected:
+    // How many of the shown pixels are so.
+    template <class Predicate>
+    int pixels(Predicate isSo)
+    {
+        const QImage image = output().viewport()->grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += isSo(image.pixelColor(x, y));
+        return count;
+    }
 };
 
 } // namespace
@@ -434,17 +446,30 @@ TEST_F(Console, PaintsItsLinesInTheirColours)
     std::cerr << "XXXXXXXXXX";
     std::cout << "XXXXXXXXXX";
     m_host.pump();
-    const QImage image = output().viewport()->grab().toImage();
-    int red = 0;
-    int green = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            red += c.red() > c.green() + 60;
-            green += c.green() > c.red() + 60;
-        }
-    EXPECT_GT(red, 20);
-    EXPECT_GT(green, 20);
+    EXPECT_GT(pixels([](const QColor& c) { return c.red() > c.green() + 60; }), 20);
+    EXPECT_GT(pixels([](const QColor& c) { return c.green() > c.red() + 60; }), 20);
+}
+
+TEST_F(Console, PaintsItsColoursLightOnADarkBackground)
+{
+    start();
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(32, 34, 36));
+    dark.setColor(QPalette::Highlight, Qt::blue);
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    output().setPalette(dark);
+    std::cerr << "XXXXXXXXXX";
+    std::cout << "XXXXXXXXXX";
+    m_host.pump();
+    const auto isLightRed = [](const QColor& c) { return c.red() > 200 && c.green() < 150; };
+    const auto isLightGreen = [](const QColor& c) { return c.green() > 200 && c.red() < 150; };
+    EXPECT_GT(pixels(isLightRed), 20);
+    EXPECT_GT(pixels(isLightGreen), 20);
+    // Of the text itself nothing changes, and a selection looks like any other.
+    EXPECT_EQ(colorOf(output().document()->firstBlock()), Red);
+    output().selectAll();
+    EXPECT_EQ(pixels(isLightRed), 0);
+    EXPECT_GT(pixels([](const QColor& c) { return c == QColor(Qt::white); }), 20);
 }
 
 TEST_F(Console, FollowsTheEndUntilThePersonScrollsAway)

@@ -11,9 +11,9 @@ namespace
 
 constexpr int OddEvery = 100;
 
-const std::array<std::string, Flood::OddKinds> OddTexts{std::string("NUL\0after", 9),
-                                          "controls \x01\x02\x07\b\t\v\f\x1b[31m\x7f",
-                                          "no UTF-8 \xc3\x28 \xf0\x9f \xed\xa0\x80 \xff\xfe", "a\nb\r\n\n\rc"};
+const std::array<std::string, Flood::OddKinds> OddTexts{
+    std::string("NUL\0after", 9), "controls \x01\x02\x07\b\t\v\f\x1b[31m\x7f",
+    "no UTF-8 \xc3\x28 \xf0\x9f \xed\xa0\x80 \xff\xfe", "a\nb\r\n\n\rc"};
 
 std::string numbered(const std::string& who, int number)
 {
@@ -42,12 +42,18 @@ void writeCharacters(std::ostream& stream, const std::string& text)
 
 Flood::Flood(int lines)
 {
-    start("out", [](const std::string& text) { std::cout << text; }, lines);
-    start("err", [](const std::string& text) { std::cerr << text; }, lines);
-    start("outchars", [](const std::string& text) { writeCharacters(std::cout, text); }, lines);
-    start("errchars", [](const std::string& text) { writeCharacters(std::cerr, text); }, lines);
-    start("warning", [](const std::string& text) { SoDebugError::postWarning("flood", text); }, lines);
-    start("reading", [](const std::string& text) { SoReadError::post("flood", 1, text); }, lines);
+    start(
+        "out", [](const std::string& text) { std::cout << text; }, lines);
+    start(
+        "err", [](const std::string& text) { std::cerr << text; }, lines);
+    start(
+        "outchars", [](const std::string& text) { writeCharacters(std::cout, text); }, lines);
+    start(
+        "errchars", [](const std::string& text) { writeCharacters(std::cerr, text); }, lines);
+    start(
+        "warning", [](const std::string& text) { SoDebugError::postWarning("flood", text); }, lines);
+    start(
+        "reading", [](const std::string& text) { SoReadError::post("flood", 1, text); }, lines);
 }
 
 Flood::~Flood()
