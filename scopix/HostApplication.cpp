@@ -17,6 +17,8 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     , m_undoKeys(m_services.undoStack(), *m_window)
 {
     PictureReader::install();
+    // Icons are painted in the density of the screen.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_messages.setWindow(m_window.get());
     connect(&m_services, &HostServices::commandFailed, &m_messages, &Messages::error);
     connect(&m_shell, &HostShell::failed, &m_messages, &Messages::error);

@@ -57,6 +57,7 @@ int main(int argc, char** argv)
         return 1;
     }
     int noOptions = 1; // "--plugin" means something else to Qt
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication application(noOptions, argv);
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
