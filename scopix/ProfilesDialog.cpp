@@ -11,10 +11,22 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr int NameRole = Qt::UserRole;
+
+// A check box of an item is outlined in a darker shade of the window's colour, which a dark base would hide.
+void showCheckBoxes(QTreeWidget& tree)
+{
+    QPalette palette = tree.palette();
+    if (palette.color(QPalette::Base).lightness() >= 128)
+        return;
+    palette.setColor(QPalette::Window, palette.color(QPalette::PlaceholderText));
+    tree.setPalette(palette);
+}
 
 } // namespace
 
@@ -53,10 +65,12 @@ void ProfilesDialog::makeList()
 {
     m_list->setObjectName(QStringLiteral("profiles"));
     for (const auto& profile : m_manager.profiles()) {
-        if (profile.get() == m_manager.activeProfile())
-            m_active = m_profiles.size();
-        m_profiles.push_back(profile->choice());
         auto* item = new QListWidgetItem(profile->name(), m_list);
+        if (profile.get() == m_manager.activeProfile()) {
+            m_active = m_profiles.size();
+            markActive(*item);
+        }
+        m_profiles.push_back(profile->choice());
         if (!profile->isDefault())
             item->setFlags(item->flags() | Qt::ItemIsEditable);
     }
@@ -64,10 +78,20 @@ void ProfilesDialog::makeList()
     connect(m_list, &QListWidget::itemChanged, this, &ProfilesDialog::nameEdited);
 }
 
+void ProfilesDialog::markActive(QListWidgetItem& item)
+{
+    const QSignalBlocker silent(m_list);
+    QFont font = m_list->font();
+    font.setBold(true);
+    item.setFont(font);
+    item.setToolTip(tr("The active profile"));
+}
+
 void ProfilesDialog::makeTree()
 {
     m_tree->setObjectName(QStringLiteral("extensions"));
     m_tree->setHeaderLabel(tr("Extensions that the profile controls"));
+    showCheckBoxes(*m_tree);
     m_tools = makeGroup(tr("Tools"), false);
     m_editors = makeGroup(tr("Editors"), true);
     m_tools->setExpanded(true);
@@ -92,7 +116,9 @@ QTreeWidgetItem* ProfilesDialog::makeGroup(const QString& title, bool editors)
 QLayout* ProfilesDialog::makeButtons()
 {
     auto* row = new QHBoxLayout;
-    row->addWidget(makeButton(tr("&New"), "newProfile", &ProfilesDialog::addProfile));
+    QPushButton* newButton = makeButton(tr("&New"), "newProfile", &ProfilesDialog::addProfile);
+    newButton->setToolTip(tr("Makes a copy of the active profile, which stands in bold."));
+    row->addWidget(newButton);
     m_renameButton = makeButton(tr("&Rename"), "renameProfile", &ProfilesDialog::renameProfile);
     m_deleteButton = makeButton(tr("&Delete"), "deleteProfile", &ProfilesDialog::deleteProfile);
     row->addWidget(m_renameButton);
@@ -133,14 +159,26 @@ void ProfilesDialog::deleteProfile()
     const ProfileChoice* profile = current();
     if (!profile || profile->name == HostProfile::defaultName())
         return;
-    const auto deleted = static_cast<std::size_t>(row);
+    {
+        // On the way it would point at rows that the profiles do not have any more.
+        const QSignalBlocker silent(m_list);
+        delete m_list->takeItem(row);
+    }
     m_profiles.erase(m_profiles.begin() + row);
-    if (m_active == deleted)
-        m_active = 0;
-    else if (m_active > deleted)
+    const auto deleted = static_cast<std::size_t>(row);
+    if (m_active > deleted)
         --m_active;
-    delete m_list->takeItem(row);
+    else if (m_active == deleted)
+        activateDefault();
     showProfile(m_list->currentRow());
+}
+
+void ProfilesDialog::activateDefault()
+{
+    const auto isDefault = [](const ProfileChoice& each) { return each.name == HostProfile::defaultName(); };
+    const auto found = std::find_if(m_profiles.begin(), m_profiles.end(), isDefault);
+    m_active = static_cast<std::size_t>(found - m_profiles.begin());
+    markActive(*m_list->item(static_cast<int>(m_active)));
 }
 
 void ProfilesDialog::nameEdited(QListWidgetItem* item)
@@ -162,8 +200,8 @@ void ProfilesDialog::showProfile(int row)
 {
     const QSignalBlocker silent(m_tree);
     const ProfileChoice* profile = current();
-    m_problem->clear();
     const bool ours = profile && profile->name != HostProfile::defaultName();
+    m_problem->setText(ours ? QString() : tr("\"Default\" controls every extension and stays as it is."));
     m_renameButton->setEnabled(ours);
     m_deleteButton->setEnabled(ours);
     for (QTreeWidgetItem* group : {m_tools, m_editors})

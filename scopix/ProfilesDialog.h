@@ -28,6 +28,7 @@ public:
 
 private:
     void makeList();
+    void markActive(QListWidgetItem& item);
     void makeTree();
     QTreeWidgetItem* makeGroup(const QString& title, bool editors);
     QLayout* makeButtons();
@@ -36,6 +37,7 @@ private:
     void addProfile();
     void renameProfile();
     void deleteProfile();
+    void activateDefault();
     void nameEdited(QListWidgetItem* item);
     void showProfile(int row);
     void choiceEdited();

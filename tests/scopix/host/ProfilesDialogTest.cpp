@@ -104,6 +104,39 @@ TEST_F(Dialog, DeletesTheActiveProfile)
     EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
 }
 
+TEST_F(Dialog, DeletesAProfileBetweenOthers)
+{
+    m_host.manager.setProfiles({{"First", {true, {}}, {false, {"Test/First"}}},
+                                {"Second", {true, {}}, {false, {"Test/Second"}}},
+                                {"Default", {true, {}}, {true, {}}},
+                                {"Last", {true, {}}, {false, {}}}},
+                               "Last");
+    m_dialog = std::make_unique<ProfilesDialog>(m_host.manager);
+    m_dialog->show();
+    EXPECT_TRUE(list().item(3)->font().bold());
+    list().setCurrentRow(0);
+    click("deleteProfile");
+    EXPECT_EQ(list().currentItem()->text(), "Second");
+    EXPECT_EQ(tool("Second").checkState(0), Qt::Checked);
+    EXPECT_EQ(tool("First").checkState(0), Qt::Unchecked);
+    // Without the active profile, "Default" is active, wherever it stands.
+    list().setCurrentRow(2);
+    click("deleteProfile");
+    EXPECT_TRUE(list().item(1)->font().bold());
+    m_dialog->accept();
+    EXPECT_EQ(names(), (QStringList{"Second", "Default"}));
+    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+}
+
+TEST_F(Dialog, NewCopiesTheActiveProfileWhicheverIsShown)
+{
+    list().setCurrentRow(0);
+    click("newProfile");
+    nameInPlace("Other");
+    EXPECT_EQ(tool("First").checkState(0), Qt::Checked);
+    EXPECT_EQ(tool("Second").checkState(0), Qt::Unchecked);
+}
+
 TEST_F(Dialog, DefaultCannotBeChanged)
 {
     list().setCurrentRow(0);
@@ -111,6 +144,10 @@ TEST_F(Dialog, DefaultCannotBeChanged)
     EXPECT_FALSE(button("renameProfile").isEnabled());
     EXPECT_FALSE(list().currentItem()->flags() & Qt::ItemIsEditable);
     EXPECT_TRUE(tool("First").isDisabled());
+    EXPECT_TRUE(m_dialog->findChild<QLabel*>("problem")->text().contains("stays as it is"));
+    list().setCurrentRow(1);
+    EXPECT_TRUE(button("deleteProfile").isEnabled());
+    EXPECT_EQ(m_dialog->findChild<QLabel*>("problem")->text(), "");
 }
 
 TEST_F(Dialog, AllToolsMeansThoseOfLaterPluginsToo)
