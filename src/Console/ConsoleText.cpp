@@ -21,7 +21,8 @@ QFont fixedFont()
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     // Not every window system knows one.
     if (!QFontInfo(font).fixedPitch())
-        font.setFamily(QStringLiteral("monospace"));
+        // Qt keeps the names of fonts for as long as the program runs: a literal would go with the plug-in.
+        font.setFamily(QString::fromLatin1("monospace"));
     return font;
 }
 
