@@ -24,6 +24,7 @@ scopix_test_packages=(
   "libgtest-dev|the test framework"
   "xvfb|a private display for tests with real windows"
   "xauth|keeps that display private"
+  "assimp-testmodels|models of many kinds, which have to open"
   "locales|a locale with a decimal comma, under which the tests run again"
 )
 # For ./test --asan alone.

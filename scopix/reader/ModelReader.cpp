@@ -71,13 +71,37 @@ bool hasTriangles(const ModelData& model)
                        [](const ModelData::Mesh& mesh) { return !mesh.index.empty(); });
 }
 
+// What lights or sees from nowhere is not worth refusing the rest of a model for.
+template <class Thing>
+void dropHomeless(aiNode& root, Thing** things, unsigned& count)
+{
+    Thing** end = std::remove_if(things, things + count, [&](Thing* thing) {
+        const bool homeless = !root.FindNode(thing->mName);
+        if (homeless)
+            delete thing;
+        return homeless;
+    });
+    count = static_cast<unsigned>(end - things);
+}
+
+const aiScene* read(Assimp::Importer& importer, const QString& path)
+{
+    // The importer owns the scene and hands it out to be read; in between its steps nobody else does.
+    auto* scene = const_cast<aiScene*>(importer.ReadFile(QFile::encodeName(path).constData(), 0));
+    if (!scene || !scene->mRootNode)
+        return nullptr;
+    dropHomeless(*scene->mRootNode, scene->mLights, scene->mNumLights);
+    dropHomeless(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
+    return importer.ApplyPostProcessing(Steps);
+}
+
 scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progress)
 {
     Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
     const CNumbers numbers;
-    const aiScene* scene = importer.ReadFile(QFile::encodeName(path).constData(), Steps);
+    const aiScene* scene = read(importer, path);
     if (!scene)
         return failed(scopix::cannotOpen(path, reasonOf(importer)));
     scopix::ReadModel result;
