@@ -20,4 +20,6 @@ void EdTablePopupLineEdit::showText(const QString& text)
 void EdTablePopupLineEdit::setCurrentValue(QString /*text*/)
 {
     m_owner->set1Value(m_owner->rowToEdit(), -1, QString());
+    // Written now, it stands for the number that the element has, whichever element the grid shows next.
+    m_shown = this->text();
 }

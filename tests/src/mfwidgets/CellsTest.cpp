@@ -345,8 +345,28 @@ TEST(Colors, OnlyTheSwatchOpensTheDialogAndNothingEditsIt)
     }
     EXPECT_EQ(f.openLine(0, 1)->text(), "0.1");
     EXPECT_EQ(f.openLine(0, 3)->text(), "0.3");
-    f.table().edit(f.table().model()->index(0, 0));
+}
+
+TEST(Colors, ADoubleClickOnTheSwatchOpensNoLine)
+{
+    MultiFixture<EdMFColorWidget, SoMFColor> f("[ 0.1 0.2 0.3 ]");
+    f.open();
+    int dialogs = 0;
+    QTimer cancel;
+    QObject::connect(&cancel, &QTimer::timeout, [&] {
+        if (auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget())) {
+            ++dialogs;
+            dialog->reject();
+        }
+    });
+    cancel.start(0);
+    EXPECT_EQ(f.openCell(0, 0), nullptr);
+    EXPECT_GT(dialogs, 0);
+    f.table().setCurrentCell(0, 0);
+    f.key(Qt::Key_F2);
     EXPECT_EQ(f.table().indexWidget(f.table().model()->index(0, 0)), nullptr);
+    EXPECT_EQ(f.text(), "[ 0.1 0.2 0.3 ]");
+    EXPECT_TRUE(f.host.takeLog().empty());
 }
 
 TEST(Matrices, EveryRowShowsTheWholeField)
@@ -409,4 +429,21 @@ TEST(Matrices, WithoutAnElementNothingIsWritten)
     f.editor.set1Value(0, -1, {});
     EXPECT_EQ(f.field.getNum(), 0);
     EXPECT_TRUE(f.host.takeLog().empty());
+}
+
+// What was typed for one element stood in the grid when it was filled with the next one, and went into that.
+TEST(Matrices, WhatWasTypedForOneElementStaysOutOfTheNext)
+{
+    MultiFixture<EdMFMatrixWidget, SoMFMatrix> f;
+    f.field.setNum(2);
+    f.open();
+    f.click("m_editButton");
+    auto* line = f.editor.getWidgetContainer()->findChildren<EdTablePopupLineEdit*>().last();
+    line->selectAll();
+    QTest::keyClicks(line, "9");
+    line->window()->close();
+    f.box().setValue(2);
+    f.click("m_editButton");
+    EXPECT_EQ(f.field[1], SbMatrix());
+    line->window()->close();
 }
