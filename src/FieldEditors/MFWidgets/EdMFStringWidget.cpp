@@ -49,7 +49,8 @@ QString EdMFStringWidget::getCellText(int row, int column, int length) const
     if (column != 0 || !hasRow(row))
         return {};
     const std::string& text = (*texts())[row].str();
-    return QString::fromUtf8(text.data(), int(std::min(text.size(), std::size_t(length) * BytesPerCharacter)));
+    const std::size_t bytes = std::min(text.size(), std::size_t(length) * BytesPerCharacter);
+    return QString::fromUtf8(text.data(), int(bytes)).left(length);
 }
 
 void EdMFStringWidget::set1Value(int row, int column, QString text)

@@ -20,8 +20,14 @@ namespace
 
 constexpr int TextMargin = 4;
 constexpr int AnyReal = 4; // the grid validator of all doubles
-// No cell shows more: measuring a text of megabytes for each repaint would cost what nobody sees.
-constexpr int LongestMeasured = 4096;
+constexpr int ShortestMeasured = 64;
+
+// No cell shows more characters than it has pixels: measuring a text of megabytes for each repaint would cost what
+// nobody sees.
+int longestShown(int width)
+{
+    return std::max(width, ShortestMeasured);
+}
 
 // Keeps characters from the start while "..." and they stay narrower than the width; at least one.
 QString shortened(const QString& text, const QFontMetrics& metrics, int width)
@@ -31,6 +37,15 @@ QString shortened(const QString& text, const QFontMetrics& metrics, int width)
     while (kept < text.size() && metrics.horizontalAdvance(dots + text.left(kept + 1)) < width)
         ++kept;
     return text.left(std::max(kept, 1)) + dots;
+}
+
+// For those who do not see where the cell is: "Element 2, x".
+QString nameOf(const QModelIndex& index)
+{
+    const QString element = EdMFieldTable::tr("Element %1").arg(index.row() + 1);
+    if (index.model()->columnCount() == 1)
+        return element;
+    return element + QStringLiteral(", ") + index.model()->headerData(index.column(), Qt::Horizontal).toString();
 }
 
 bool hasSlider(int cellType)
@@ -68,9 +83,9 @@ void EdMFieldTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewI
     const bool selected = option.state & QStyle::State_Selected;
     if (selected)
         painter->fillRect(option.rect, option.palette.highlight());
-    QString text = m_owner->getCellText(index.row(), componentOf(index.column()), LongestMeasured);
-    const QFontMetrics metrics = painter->fontMetrics();
     const int width = option.rect.width() - TextMargin;
+    QString text = m_owner->getCellText(index.row(), componentOf(index.column()), longestShown(width));
+    const QFontMetrics metrics = painter->fontMetrics();
     if (metrics.horizontalAdvance(text) > width)
         text = shortened(text, metrics, width);
     const bool enabled = option.state & QStyle::State_Enabled;
@@ -93,6 +108,7 @@ QWidget* EdMFieldTableItemDelegate::createEditor(QWidget* parent, const QStyleOp
     else
         editor = createLineEdit(parent, text);
     editor->setFocusPolicy(Qt::WheelFocus);
+    editor->setAccessibleName(nameOf(index));
     return editor;
 }
 
