@@ -51,6 +51,12 @@ struct MultiFixture {
         QTest::keyClick(&table(), which);
         TestHost::pump();
     }
+    // Half of a key click: Shift is to stay down while other keys are used.
+    void sendKey(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        QKeyEvent event(type, key, modifiers);
+        QApplication::sendEvent(&table(), &event);
+    }
     QString count() { return editor.getWidgetContainer()->template findChild<QLabel*>("m_labelNumElement")->text(); }
     std::string text() const
     {
