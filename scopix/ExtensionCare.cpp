@@ -28,7 +28,7 @@ void ExtensionCare::activate()
     m_shell->setActivating(nullptr);
     if (!m_active)
         m_shell->forget(m_extension);
-    else if (m_shell->isHiddenByPerson(m_extension) && m_extension->isShown())
+    else if (m_shell->comesUpHidden(m_extension) && m_extension->isShown())
         guarded("hide", [this] { m_extension->hide(); });
 }
 

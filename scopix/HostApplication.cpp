@@ -7,8 +7,17 @@
 #include "UserSettings.h"
 #include "ViewMenu.h"
 
+#include <xsg/base/SoPreferences.h>
+
 #include <QApplication>
 #include <QSettings>
+
+namespace
+{
+
+constexpr auto CounterSwitch = "XSG_PERFCOUNTER_ENABLE";
+
+} // namespace
 
 HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profiles)
     : m_window(makeWindow(m_services, m_messages))
@@ -56,7 +65,10 @@ void HostApplication::start(const CommandLine& line)
     m_asked = line;
     m_messages.setAttended(!line.isUnattended());
     if (line.counters)
-        qputenv("XSG_PERFCOUNTER_ENABLE", "1");
+        qputenv(CounterSwitch, "1");
+    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the window.
+    if (!SoPreferences::getBool(CounterSwitch, false))
+        m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
     const QString homeTrouble = UserHome::provide();
     if (!homeTrouble.isEmpty())
         m_messages.error(homeTrouble);

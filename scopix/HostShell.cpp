@@ -139,6 +139,7 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
     if (!m_extensions.contains(extension))
         return;
     const QString name = nameOf(extension);
+    m_waiting.remove(name);
     if (shown)
         m_hiddenByPerson.remove(name);
     else
@@ -152,6 +153,11 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
 bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
 {
     return m_hiddenByPerson.contains(nameOf(extension));
+}
+
+bool HostShell::comesUpHidden(const SpxExtension* extension) const
+{
+    return isHiddenByPerson(extension) || m_waiting.contains(nameOf(extension));
 }
 
 QByteArray HostShell::saveLayout() const

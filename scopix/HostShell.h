@@ -42,6 +42,9 @@ public:
     // The person shows or hides what an extension has.
     void setShown(SpxExtension* extension, bool shown);
     bool isHiddenByPerson(const SpxExtension* extension) const;
+    // The extension of this name comes up hidden and waits in the menu for the person; in this session only.
+    void keepHiddenAtFirst(const QString& name) { m_waiting.insert(name); }
+    bool comesUpHidden(const SpxExtension* extension) const;
 
     // Where everything stands, and which tools the person has hidden.
     QByteArray saveLayout() const;
@@ -80,5 +83,6 @@ private:
     QHash<QString, bool> m_dockShown; // docks that went, by name
     QHash<QString, ToolBarPlace> m_toolBarPlaces;
     QSet<QString> m_hiddenByPerson; // names of extensions
+    QSet<QString> m_waiting;        // names of those that nobody has asked for yet
     SpxExtension* m_activating = nullptr;
 };

@@ -177,6 +177,20 @@ TEST_F(ShellTest, SavesAndRestoresPlacesAndWhatThePersonHid)
     m_one.deactivate();
 }
 
+TEST_F(ShellTest, OneThatWaitsComesUpHiddenUntilItIsAskedFor)
+{
+    m_shell.keepHiddenAtFirst("Two");
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_one));
+    EXPECT_TRUE(m_shell.comesUpHidden(&m_two));
+    EXPECT_FALSE(m_shell.isHiddenByPerson(&m_two)) << "no layout remembers it";
+    m_shell.setShown(&m_two, true);
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_two));
+    m_two.deactivate();
+    m_one.deactivate();
+}
+
 TEST_F(ShellTest, ALayoutThatIsNoneChangesNothing)
 {
     m_one.start(m_shell);
