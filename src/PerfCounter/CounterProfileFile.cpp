@@ -10,7 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDomDocument>
-#include <QIODevice>
+#include <QFile>
 #include <QMessageBox>
 
 #include <memory>
@@ -162,6 +162,19 @@ bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
 void writeDocument(QIODevice* device, const QDomDocument& document)
 {
     counterXml::write(device, document);
+}
+
+bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
+        write(&file);
+        if (file.flush())
+            return true;
+    }
+    const QString reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
+    QMessageBox::warning(parent, title(), translated("Cannot write file %1:\n%2.").arg(path, reason));
+    return false;
 }
 
 void initDocument(QIODevice* device, QDomDocument& document)

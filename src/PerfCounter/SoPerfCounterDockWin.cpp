@@ -251,13 +251,9 @@ void SoPerfCounterDockWin::changeFilepath(QString path)
 
 void SoPerfCounterDockWin::saveView()
 {
-    QFile file(m_filePath);
-    if (!profile() || !file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        const QString reason = m_filePath.isEmpty() ? tr("No file name specified") : file.errorString();
-        QMessageBox::warning(this, counterProfileFile::title(),
-                             tr("Cannot write file %1:\n%2.").arg(m_filePath, reason));
-        return;
-    }
-    counterProfileFile::writeView(m_document, *profile());
-    counterProfileFile::writeDocument(&file, m_document);
+    counterProfileFile::writeFile(m_filePath, this, [this](QIODevice* device) {
+        if (profile())
+            counterProfileFile::writeView(m_document, *profile());
+        counterProfileFile::writeDocument(device, m_document);
+    });
 }

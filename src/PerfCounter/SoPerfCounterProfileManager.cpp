@@ -303,23 +303,13 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
     return true;
 }
 
-bool SoPerfCounterProfileManager::write(QIODevice* device)
-{
-    counterProfileFile::writeCustomCounters(m_document);
-    counterProfileFile::writeProfiles(m_document, *m_profiles);
-    counterProfileFile::writeDocument(device, m_document);
-    return true;
-}
-
 bool SoPerfCounterProfileManager::saveTo(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        QMessageBox::warning(this, counterProfileFile::title(),
-                             tr("Cannot write file %1:\n%2.").arg(path, file.errorString()));
-        return false;
-    }
-    return write(&file);
+    return counterProfileFile::writeFile(path, this, [this](QIODevice* device) {
+        counterProfileFile::writeCustomCounters(m_document);
+        counterProfileFile::writeProfiles(m_document, *m_profiles);
+        counterProfileFile::writeDocument(device, m_document);
+    });
 }
 
 void SoPerfCounterProfileManager::saveAsProfile()

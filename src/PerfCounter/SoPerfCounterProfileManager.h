@@ -64,7 +64,6 @@ private:
     void addTab(const SoPerfCounterProfile& profile);
     void dropProfiles();
     bool read(QIODevice* device);
-    bool write(QIODevice* device);
     bool saveTo(const QString& path);
     void okAction();
     void cancelAction();
