@@ -1,16 +1,71 @@
 #include "SoPerfCounterCurve.h"
 
-#include <qwt_plot_canvas.h>
+#include "PlotToolTip.h"
 
-#include <QHelpEvent>
+#include <qwt_point_data.h>
+#include <qwt_scale_map.h>
+
+#include <QLineF>
 #include <QPen>
-#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace
 {
 
 // How far from a curve the pointer still means it, in pixels.
 constexpr double NearestDistance = 12.0;
+
+// Looking for the limits point by point, as the toolkit does, takes longer than drawing the curve.
+class RawHistory : public QwtCPointerData
+{
+public:
+    using QwtCPointerData::QwtCPointerData;
+
+    QRectF boundingRect() const override
+    {
+        const int count = int(size());
+        double low = std::numeric_limits<double>::max();
+        double high = std::numeric_limits<double>::lowest();
+        for (const double* y = yData(); y != yData() + count; ++y) {
+            low = std::min(low, *y);
+            high = std::max(high, *y);
+        }
+        if (count == 0)
+            return {1.0, 1.0, -2.0, -2.0}; // which the toolkit takes for none
+        return {xData()[count - 1], low, xData()[0] - xData()[count - 1], high - low};
+    }
+};
+
+double distance(const QPointF& point, const QLineF& segment)
+{
+    const QPointF along = segment.p2() - segment.p1();
+    const double squared = QPointF::dotProduct(along, along);
+    const double part = squared > 0 ? QPointF::dotProduct(point - segment.p1(), along) / squared : 0;
+    return QLineF(point, segment.pointAt(std::clamp(part, 0.0, 1.0))).length();
+}
+
+// The sample of a curve that a place of the canvas means; further than `best` away none is.
+int sampleAt(const Curve& curve, const QPointF& place, const QwtScaleMap& x, const QwtScaleMap& y, double& best)
+{
+    const auto pointOf = [&](int i) {
+        const QPointF sample = curve.sample(i);
+        return QPointF(x.transform(sample.x()), y.transform(sample.y()));
+    };
+    int nearest = -1;
+    for (int i = 0; i < int(curve.dataSize()); ++i) {
+        const int next = std::min(i + 1, int(curve.dataSize()) - 1);
+        const QLineF segment(pointOf(i), pointOf(next));
+        const double away = distance(place, segment);
+        if (!(away <= best))
+            continue;
+        best = away;
+        nearest = std::abs(place.x() - segment.x1()) <= std::abs(place.x() - segment.x2()) ? i : next;
+    }
+    return nearest;
+}
 
 } // namespace
 
@@ -26,13 +81,15 @@ SoPerfCounterCurve::SoPerfCounterCurve(QWidget* parent)
 {
     setAutoReplot(false);
     setCanvasBackground(Qt::white);
-    canvas()->installEventFilter(this);
+    new PlotToolTip(this, [this](const QPoint& place) { return textAt(place); });
 }
 
 void SoPerfCounterCurve::newCurve(const QString& name, int r, int g, int b)
 {
     auto* curve = new Curve(name);
     curve->setRenderHint(QwtPlotItem::RenderAntialiased);
+    // The axes follow the samples: there is nothing to clip, and looking for it costs.
+    curve->setPaintAttribute(QwtPlotCurve::ClipPolygons, false);
     curve->setPen(QPen(QColor(r, g, b, 255)));
     curve->attach(this);
     m_curves.append(curve);
@@ -53,32 +110,22 @@ void SoPerfCounterCurve::removeCurve(int index)
     delete curve;
 }
 
-QString SoPerfCounterCurve::textAt(const QPoint& position) const
+void SoPerfCounterCurve::setRawSamples(int index, const double* x, const double* y, int count)
 {
-    const Curve* nearest = nullptr;
-    int point = -1;
-    double best = NearestDistance;
-    for (const Curve* curve : m_curves) {
-        double distance = 0;
-        const int index = curve->closestPoint(position, &distance);
-        if (index >= 0 && distance <= best) {
-            best = distance;
-            nearest = curve;
-            point = index;
-        }
-    }
-    if (!nearest)
-        return {};
-    return QStringLiteral("%1: %2").arg(nearest->title().text(),
-                                        QString::number(nearest->sample(point).y(), 'g', 6));
+    m_curves[index]->setData(new RawHistory(x, y, std::size_t(count)));
 }
 
-bool SoPerfCounterCurve::eventFilter(QObject* object, QEvent* event)
+QString SoPerfCounterCurve::textAt(const QPoint& position) const
 {
-    if (object == canvas() && event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        QToolTip::showText(help->globalPos(), textAt(help->pos()), canvas());
-        return true;
+    const QwtScaleMap x = canvasMap(QwtPlot::xBottom);
+    const QwtScaleMap y = canvasMap(QwtPlot::yLeft);
+    QString text;
+    double best = NearestDistance;
+    for (const Curve* curve : m_curves) {
+        const int index = sampleAt(*curve, position, x, y, best);
+        if (index >= 0)
+            text = QStringLiteral("%1: %2").arg(curve->title().text(),
+                                                QString::number(curve->sample(std::size_t(index)).y(), 'g', 6));
     }
-    return QwtPlot::eventFilter(object, event);
+    return text;
 }

@@ -26,12 +26,12 @@ public:
     void setColor(int index, const QColor& color);
     void removeCurve(int index);
     void moveCurve(int from, int to) { m_curves.move(from, to); }
+    // Draws the curve from these arrays, which stay the caller's and have to live until the next call for this curve.
+    // The newest sample comes first.
+    void setRawSamples(int index, const double* x, const double* y, int count);
 
-    // The newest sample of the curve nearest to a point of the canvas, as text; empty where no curve is near.
+    // Name and value of the curve under a point of the canvas; empty where no curve is near.
     QString textAt(const QPoint& canvasPosition) const;
-
-protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     QList<Curve*> m_curves;

@@ -2,6 +2,7 @@
 
 #include "CustomCounter.h"
 #include "EdText.h"
+#include "PlotToolTip.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
 #include "SoPerfCounterPcViewed.h"
@@ -15,9 +16,11 @@
 #include <QTimer>
 
 #include <qwt_scale_draw.h>
-#include <qwt_scale_widget.h>
+#include <qwt_scale_map.h>
+#include <qwt_text.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <ctime>
 
@@ -26,12 +29,21 @@ namespace
 
 constexpr int PlotPosition = 1;
 constexpr int AxisPenWidth = 2;
+constexpr QSize PlotMinimum(240, 140);
+// Colours lighter than this, of 255, would be lost on the white canvas.
+constexpr int LightestColor = 200;
 constexpr auto Separator = "##";
 constexpr auto DragSource = "m_preSelectedListView";
 
 QString numberText(double value)
 {
     return QString().setNum(value, 'g', 6);
+}
+
+// No plot can show a number beyond all numbers.
+double finiteOf(double value)
+{
+    return std::isfinite(value) ? value : 0;
 }
 
 QColor randomColor()
@@ -43,11 +55,20 @@ QColor randomColor()
     return {red, green, level()};
 }
 
+void setAxisTitle(QwtPlot& plot, int axis, const QString& text)
+{
+    QwtText title(text);
+    title.setFont(plot.font()); // the toolkit's own is large and bold
+    plot.setAxisTitle(axis, title);
+}
+
 void preparePlot(QwtPlot& plot)
 {
+    plot.setAutoReplot(false);
     plot.setCanvasBackground(Qt::white);
     for (const int axis : {int(QwtPlot::yLeft), int(QwtPlot::xBottom)})
         plot.axisScaleDraw(axis)->setPenWidth(AxisPenWidth);
+    setAxisTitle(plot, QwtPlot::yLeft, SoPerfCounterViewer::tr("Per second"));
 }
 
 void setText(QTableWidget& table, int row, int column, const QString& text)
@@ -89,19 +110,22 @@ void SoPerfCounterViewer::buildPlots()
     m_curvePlot = new SoPerfCounterCurve(this);
     m_curvePlot->setObjectName(QStringLiteral("m_curvePlot"));
     preparePlot(*m_curvePlot);
-    m_curvePlot->setAxisTitle(QwtPlot::xBottom, tr("Time (s)"));
+    setAxisTitle(*m_curvePlot, QwtPlot::xBottom, tr("Time (s)"));
     m_curvePlot->setAxisScale(QwtPlot::xBottom, 0, m_timeShown - 1);
     verticalLayout->insertWidget(PlotPosition, m_curvePlot);
     m_graphPlot = new QwtPlot(this);
     m_graphPlot->setObjectName(QStringLiteral("m_graphPlot"));
-    m_graphPlot->setAutoReplot(false);
     preparePlot(*m_graphPlot);
+    m_graphPlot->axisScaleDraw(QwtPlot::xBottom)->enableComponent(QwtAbstractScaleDraw::Labels, false);
+    m_graphPlot->setAxisMaxMinor(QwtPlot::xBottom, 0);
+    new PlotToolTip(m_graphPlot, [this](const QPoint& place) { return barTextAt(place); });
     verticalLayout->insertWidget(PlotPosition, m_graphPlot);
     m_bars = new SoPerfCounterGraph(QString());
     m_bars->attach(m_graphPlot);
     for (QWidget* view : {static_cast<QWidget*>(m_curvePlot), static_cast<QWidget*>(m_graphPlot),
                           static_cast<QWidget*>(m_textView)}) {
-        view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        view->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the tool bar says how wide
+        view->setMinimumSize(PlotMinimum);
         verticalLayout->setStretchFactor(view, 1);
     }
 }
@@ -147,10 +171,11 @@ SoPerfCounterPcViewed* SoPerfCounterViewer::findViewed(const QString& name) cons
 
 void SoPerfCounterViewer::setupXValues()
 {
-    const int n = m_historyLength;
-    m_xValues.resize(std::size_t(n));
-    for (int i = 0; i < n; ++i)
-        m_xValues[std::size_t(n - 1 - i)] = double(i - n) / m_frequency;
+    // Samples that are kept stay where they are on the axis; without any it starts anew.
+    const double newest = m_filled > 0 ? m_xValues.front() : -1.0 / m_frequency;
+    m_xValues.resize(std::size_t(m_historyLength));
+    for (std::size_t i = 0; i < m_xValues.size(); ++i)
+        m_xValues[i] = newest - double(i) / m_frequency;
 }
 
 void SoPerfCounterViewer::viewTimer()
@@ -173,7 +198,7 @@ void SoPerfCounterViewer::sample(SoPerfCounterPcViewed& viewed, double elapsed) 
     std::copy_backward(history, history + kept, history + kept + 1);
     const SoPerfCounter* counter = counterOf(viewed);
     // A counter that is gone reads 0, and so does one sampled twice at the same moment.
-    history[0] = counter && elapsed > 0 ? counter->getValue() / elapsed : 0;
+    history[0] = counter && elapsed > 0 ? finiteOf(counter->getValue() / elapsed) : 0;
 }
 
 void SoPerfCounterViewer::setupViews()
@@ -187,8 +212,9 @@ void SoPerfCounterViewer::setupViews()
 
 void SoPerfCounterViewer::redrawViews()
 {
-    // Only what can be seen is made: the other views are made when they are switched to.
-    if (!isVisible())
+    // Only what can be seen is made. A viewer behind another tab counts as visible but has no region that is.
+    m_outdated = visibleRegion().isEmpty() || window()->isMinimized();
+    if (m_outdated)
         return;
     if (m_textView->isVisible())
         setupTextView();
@@ -262,14 +288,26 @@ void SoPerfCounterViewer::setupGraphView()
         m_bars->addColor(new QColor(viewed.getColor()));
     }
     m_bars->setData(bars);
-    m_graphPlot->setAxisScale(QwtPlot::xBottom, 0, m_viewed->size());
+    m_graphPlot->setAxisScale(QwtPlot::xBottom, 0, m_viewed->size(), 1);
     m_graphPlot->replot();
+}
+
+QString SoPerfCounterViewer::barTextAt(const QPoint& place) const
+{
+    const double x = m_graphPlot->canvasMap(QwtPlot::xBottom).invTransform(place.x());
+    const SoPerfCounterPcViewed* viewed = x >= 0 ? m_viewed->value(int(std::min(x, 1e6))) : nullptr;
+    return viewed ? QStringLiteral("%1: %2").arg(viewed->getName(), numberText(viewed->getHistory()[0])) : QString();
+}
+
+void SoPerfCounterViewer::setRawSamples()
+{
+    for (int i = 0; i < m_viewed->size(); ++i)
+        m_curvePlot->setRawSamples(i, m_xValues.data(), m_viewed->at(i)->getHistory(), m_filled);
 }
 
 void SoPerfCounterViewer::setupCurveView()
 {
-    for (int i = 0; i < m_viewed->size(); ++i)
-        m_curvePlot->getCurveList()[i]->setRawSamples(m_xValues.data(), m_viewed->at(i)->getHistory(), m_filled);
+    setRawSamples();
     const double span = m_timeShown - 1;
     const double end = std::max(span, m_xValues.empty() ? 0 : m_xValues.front());
     m_curvePlot->setAxisScale(QwtPlot::xBottom, end - span, end);
@@ -287,6 +325,7 @@ void SoPerfCounterViewer::setupLegend()
         const SoPerfCounter* counter = counterOf(viewed);
         setText(*m_legend, row, 0, viewed.getName());
         m_legend->item(row, 0)->setForeground(viewed.getColor());
+        m_legend->item(row, 0)->setBackground(m_curvePlot->canvasBackground()); // as readable as the curve
         setText(*m_legend, row, 1, counter ? toQString(counter->getTypeText()) : QString());
         setText(*m_legend, row, 2, counter ? toQString(counter->getStringLevel()) : QString());
         setText(*m_legend, row, 3, counter ? toQString(counter->getModule()) : QString());
@@ -305,11 +344,24 @@ int SoPerfCounterViewer::selectedIndex() const
     return rows.size() == 1 && rows.first().row() < m_viewed->size() ? rows.first().row() : -1;
 }
 
+QColor SoPerfCounterViewer::newColor() const
+{
+    const auto isUsed = [this](const QColor& color) {
+        return std::any_of(m_viewed->begin(), m_viewed->end(),
+                           [&](const SoPerfCounterPcViewed* v) { return v->getColor() == color; });
+    };
+    // With very many counters some have to share a colour.
+    QColor color = randomColor();
+    for (int tries = 0; tries < 100 && (qGray(color.rgb()) > LightestColor || isUsed(color)); ++tries)
+        color = randomColor();
+    return color;
+}
+
 bool SoPerfCounterViewer::add(const QString& name)
 {
     if (findViewed(name))
         return false;
-    const QColor color = randomColor();
+    const QColor color = newColor();
     auto* viewed = new SoPerfCounterPcViewed(name, m_historyLength);
     viewed->setColor(color.red(), color.green(), color.blue());
     m_curvePlot->newCurve(name, color.red(), color.green(), color.blue());
@@ -406,7 +458,7 @@ void SoPerfCounterViewer::changeScale(const QString& text)
     counter->setScaleFactor(scale);
     const double ratio = old / counter->getScaleFactor();
     double* history = m_viewed->at(index)->getHistory();
-    std::for_each(history, history + m_historyLength, [ratio](double& sample) { sample *= ratio; });
+    std::for_each(history, history + m_historyLength, [ratio](double& sample) { sample = finiteOf(sample * ratio); });
     redrawViews();
 }
 
@@ -436,8 +488,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     }
     // The curves must not keep the old arrays until they are drawn again.
     setupXValues();
-    for (int i = 0; i < m_viewed->size(); ++i)
-        m_curvePlot->getCurveList()[i]->setRawSamples(m_xValues.data(), m_viewed->at(i)->getHistory(), m_filled);
+    setRawSamples();
     m_interval = 1000 / m_frequency;
     m_timer->setInterval(m_interval);
     setupViews();
@@ -447,8 +498,8 @@ void SoPerfCounterViewer::resetHistory()
 {
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         std::fill_n(viewed->getHistory(), m_historyLength, 0.0);
-    setupXValues();
     m_filled = 0;
+    setupXValues();
     setupViews();
 }
 
@@ -494,6 +545,9 @@ void SoPerfCounterViewer::showView(QWidget* view)
     m_textView->setVisible(view == m_textView);
     m_graphPlot->setVisible(view == m_graphPlot);
     m_curvePlot->setVisible(view == m_curvePlot);
+    m_text->setChecked(view == m_textView);
+    m_graph->setChecked(view == m_graphPlot);
+    m_curve->setChecked(view == m_curvePlot);
     redrawViews();
 }
 
@@ -516,4 +570,12 @@ void SoPerfCounterViewer::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     redrawViews();
+}
+
+void SoPerfCounterViewer::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    // Seen again, as when another tab is chosen.
+    if (m_outdated)
+        QMetaObject::invokeMethod(this, &SoPerfCounterViewer::redrawViews, Qt::QueuedConnection);
 }

@@ -73,6 +73,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void buildPlots();
@@ -82,11 +83,14 @@ private:
     void setupTextView();
     void setupGraphView();
     void setupCurveView();
+    void setRawSamples();
+    QString barTextAt(const QPoint& place) const;
     void setupLegend();
     void setupXValues();
     void resetAll();
     void resetElapsed();
     void sample(SoPerfCounterPcViewed& viewed, double elapsed) const;
+    QColor newColor() const;
     bool add(const QString& name);
     void addAndShow(const QStringList& names);
     void remove(int index);
@@ -111,6 +115,7 @@ private:
     SbElapsedTime m_elapsed;
     ElapsedSource m_elapsedSource;
     int m_running = 1;
+    bool m_outdated = false; // the views miss what was sampled while nobody saw them
     std::unique_ptr<QList<SoPerfCounterPcViewed*>> m_viewed;
     SoPerfCounterCurve* m_curvePlot = nullptr;
     QwtPlot* m_graphPlot = nullptr;

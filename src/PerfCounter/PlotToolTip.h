@@ -1,0 +1,24 @@
+// Gives the canvas of a plot a tool tip that depends on the place under the pointer.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QwtPlot;
+
+class PlotToolTip : public QObject
+{
+public:
+    // The text for a place of the canvas, in its pixels; an empty text shows none.
+    using TextAt = std::function<QString(const QPoint& place)>;
+
+    // Belongs to the plot, with which it goes.
+    PlotToolTip(QwtPlot* plot, TextAt textAt);
+
+protected:
+    bool eventFilter(QObject* canvas, QEvent* event) override;
+
+private:
+    TextAt m_textAt;
+};

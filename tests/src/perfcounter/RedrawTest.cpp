@@ -1,0 +1,306 @@
+// What the viewer draws, and when it draws nothing.
+#include "SoPerfCounterCurve.h"
+#include "SoPerfCounterGraph.h"
+#include "ViewerFixture.h"
+
+#include <QHelpEvent>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QSet>
+#include <QSignalSpy>
+#include <QToolTip>
+
+#include <qwt_plot_canvas.h>
+#include <qwt_point_data.h>
+#include <qwt_scale_draw.h>
+#include <qwt_scale_widget.h>
+
+namespace
+{
+
+// Counts how often a plot is made anew, by what each time changes in it: its time axis.
+class Redraws
+{
+public:
+    explicit Redraws(const QwtPlot& plot)
+        : m_spy(plot.axisWidget(QwtPlot::xBottom), &QwtScaleWidget::scaleDivChanged)
+    {
+    }
+    int take()
+    {
+        const int count = m_spy.size();
+        m_spy.clear();
+        return count;
+    }
+
+private:
+    QSignalSpy m_spy;
+};
+
+QString tipAt(QwtPlot& plot, const QPoint& place)
+{
+    QToolTip::hideText(); // which takes its time
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    QHelpEvent help(QEvent::ToolTip, place, plot.canvas()->mapToGlobal(place));
+    QCoreApplication::sendEvent(plot.canvas(), &help);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+} // namespace
+
+class CounterRedraw : public CounterViewer
+{
+protected:
+    CounterRedraw()
+    {
+        show({"testA"});
+        for (int i = 0; i < 60; ++i) // from here on the axis moves with each sample
+            viewer.viewTimer();
+        redraws = std::make_unique<Redraws>(*viewer.getCurvePlot());
+    }
+    void sampleThrice()
+    {
+        for (int i = 0; i < 3; ++i) {
+            a->increment(5);
+            viewer.viewTimer();
+            QCoreApplication::processEvents();
+        }
+    }
+
+    std::unique_ptr<Redraws> redraws;
+};
+
+TEST_F(CounterRedraw, ASampleThatIsSeenIsDrawnOnce)
+{
+    sampleThrice();
+    EXPECT_EQ(redraws->take(), 3);
+}
+
+TEST_F(CounterRedraw, AHiddenViewerDrawsNothingUntilItIsSeen)
+{
+    viewer.hide();
+    sampleThrice();
+    EXPECT_EQ(redraws->take(), 0);
+    EXPECT_DOUBLE_EQ(sample("testA"), 10.0) << "but it samples";
+    viewer.show();
+    EXPECT_EQ(redraws->take(), 1);
+    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(), 1e-9);
+}
+
+TEST_F(CounterRedraw, AViewerBehindAnotherTabDrawsNothingUntilItIsSeen)
+{
+    QMainWindow window;
+    QDockWidget front;
+    QDockWidget back;
+    back.setWidget(&viewer);
+    window.addDockWidget(Qt::RightDockWidgetArea, &back);
+    window.addDockWidget(Qt::RightDockWidgetArea, &front);
+    window.tabifyDockWidget(&back, &front);
+    window.resize(800, 600);
+    window.show();
+    front.raise();
+    QCoreApplication::processEvents();
+    redraws->take();
+    sampleThrice();
+    EXPECT_EQ(redraws->take(), 0);
+    back.raise();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return redraws->take() > 0; }));
+    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(), 1e-9);
+    sampleThrice();
+    EXPECT_EQ(redraws->take(), 3);
+    viewer.setParent(nullptr);
+}
+
+TEST_F(CounterRedraw, TheViewsThatAreNotChosenAreNotMade)
+{
+    viewer.textView();
+    redraws->take();
+    sampleThrice();
+    EXPECT_EQ(redraws->take(), 0);
+    EXPECT_TRUE(viewer.getGraph()->data().isEmpty());
+    viewer.curveView();
+    EXPECT_EQ(redraws->take(), 1);
+}
+
+TEST_F(CounterRedraw, AFrozenViewerDoesNothing)
+{
+    viewer.start();
+    QTest::mouseClick(viewer.m_stop, Qt::LeftButton);
+    QSignalSpy ticks(viewer.getTimer(), &QTimer::timeout);
+    redraws->take();
+    const int filled = viewer.getFilled();
+    const int resets = clock.resets;
+    a->increment(5);
+    // As long as a timer that runs beside it needs for ten turns, the viewer's own has none.
+    QTimer beside;
+    QSignalSpy turns(&beside, &QTimer::timeout);
+    beside.start(viewer.getTimer()->interval() / 5);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return turns.size() >= 10; }));
+    EXPECT_EQ(ticks.size(), 0);
+    EXPECT_EQ(redraws->take(), 0);
+    EXPECT_EQ(viewer.getFilled(), filled);
+    EXPECT_EQ(clock.resets, resets);
+}
+
+TEST_F(CounterRedraw, ARunningViewerSamplesByItsTimer)
+{
+    viewer.m_freqBox->setCurrentText("8");
+    QSignalSpy ticks(viewer.getTimer(), &QTimer::timeout);
+    redraws->take();
+    viewer.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks.size() >= 2; }));
+    EXPECT_GE(redraws->take(), 2);
+}
+
+TEST_F(CounterRedraw, TheButtonShowsWhatItWillDo)
+{
+    const auto imageOf = [](const QIcon& icon) { return icon.pixmap(16).toImage(); };
+    const QImage pause = imageOf(QIcon(":/PerfCounter_icons/Icons/player_pause.png"));
+    const QImage play = imageOf(QIcon(":/PerfCounter_icons/Icons/player_play.png"));
+    ASSERT_NE(pause, play);
+    viewer.start();
+    EXPECT_EQ(imageOf(viewer.m_stop->icon()), pause);
+    viewer.freezeView();
+    EXPECT_EQ(imageOf(viewer.m_stop->icon()), play);
+    viewer.freezeView();
+    EXPECT_EQ(imageOf(viewer.m_stop->icon()), pause);
+}
+
+TEST_F(CounterRedraw, CurvesAreDrawnFromTheHistoriesThemselves)
+{
+    const auto pointsOf = [this](int index) {
+        return static_cast<const QwtCPointerData*>(viewer.getCurvePlot()->getCurveList()[index]->data());
+    };
+    sampleThrice();
+    EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());
+    EXPECT_EQ(pointsOf(0)->xData(), viewer.getXValues().data());
+    EXPECT_EQ(pointsOf(0)->size(), 60U);
+    // No curve keeps an array that is gone, also while nobody looks.
+    viewer.hide();
+    viewer.m_timeBox->setCurrentText("120");
+    EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());
+    EXPECT_EQ(pointsOf(0)->xData(), viewer.getXValues().data());
+}
+
+TEST_F(CounterRedraw, TheCurveIsDrawnInItsColourUpToItsNewestSample)
+{
+    viewer.m_legend->selectRow(0);
+    viewer.changeColor(QColor(255, 0, 0));
+    for (int i = 0; i < 60; ++i) {
+        a->increment(i < 30 ? 50 : 100);
+        viewer.viewTimer();
+    }
+    QCoreApplication::processEvents();
+    const QImage image = viewer.getCurvePlot()->canvas()->grab().toImage();
+    const auto redIn = [&](int left, int right) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = left; x < right; ++x)
+                count += image.pixelColor(x, y).green() < 128;
+        }
+        return count;
+    };
+    EXPECT_GT(redIn(image.width() * 3 / 4, image.width() - 3), image.width() / 8);
+    EXPECT_GT(redIn(3, image.width() / 4), image.width() / 8);
+}
+
+TEST_F(CounterRedraw, TheVerticalAxisFitsTheSamples)
+{
+    const auto shown = [this] { return viewer.getCurvePlot()->axisInterval(QwtPlot::yLeft); };
+    a->increment(1000);
+    viewer.viewTimer();
+    EXPECT_TRUE(shown().contains(2000.0) && shown().contains(0.0));
+    EXPECT_LE(shown().maxValue(), 4000.0);
+    viewer.resetHistory();
+    a->increment(1);
+    viewer.viewTimer();
+    a->increment(2);
+    viewer.viewTimer();
+    EXPECT_LE(shown().maxValue(), 10.0);
+    viewer.graphView();
+    a->increment(3000);
+    viewer.viewTimer();
+    const QwtInterval bars = viewer.getGraphPlot()->axisInterval(QwtPlot::yLeft);
+    EXPECT_TRUE(bars.contains(6000.0) && bars.contains(0.0));
+}
+
+TEST_F(CounterRedraw, TheAxesSayWhatTheyMeasure)
+{
+    EXPECT_EQ(viewer.getCurvePlot()->axisTitle(QwtPlot::xBottom).text(), "Time (s)");
+    for (QwtPlot* plot : {static_cast<QwtPlot*>(viewer.getCurvePlot()), viewer.getGraphPlot()}) {
+        EXPECT_EQ(plot->axisTitle(QwtPlot::yLeft).text(), "Per second");
+        EXPECT_FALSE(plot->autoReplot());
+        EXPECT_EQ(plot->canvasBackground().color(), QColor(Qt::white));
+        for (const auto axis : {QwtPlot::yLeft, QwtPlot::xBottom})
+            EXPECT_EQ(plot->axisScaleDraw(axis)->penWidth(), 2);
+    }
+}
+
+TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
+{
+    viewer.m_timeBox->setCurrentText("15");
+    viewer.m_freqBox->setCurrentText("1");
+    viewer.resetHistory();
+    for (int i = 0; i < 10; ++i) {
+        a->increment(i < 5 ? 4 : 8);
+        viewer.viewTimer();
+    }
+    SoPerfCounterCurve* plot = viewer.getCurvePlot();
+    const auto place = [&](double x, double y) {
+        return QPointF(plot->transform(QwtPlot::xBottom, x), plot->transform(QwtPlot::yLeft, y)).toPoint();
+    };
+    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16") << "far from the samples at 8 and 9, near to the line";
+    EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8");
+    EXPECT_EQ(tipAt(*plot, place(2, 14)), "") << "no line here";
+}
+
+TEST_F(CounterRedraw, AToolTipTellsTheValueOfABar)
+{
+    show({"testB"});
+    b->increment(3);
+    viewer.viewTimer();
+    viewer.graphView();
+    QwtPlot* plot = viewer.getGraphPlot();
+    const auto place = [&](double x) { return QPointF(plot->transform(QwtPlot::xBottom, x), 20).toPoint(); };
+    EXPECT_EQ(tipAt(*plot, place(0.5)), "testA: 0");
+    EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6");
+    EXPECT_EQ(tipAt(*plot, place(-0.5)), "");
+    EXPECT_EQ(tipAt(*plot, place(2.5)), "");
+}
+
+TEST_F(CounterRedraw, ColoursCanBeSeenAndToldApart)
+{
+    QStringList names;
+    for (int i = 0; i < 40; ++i)
+        names.append(QStringLiteral("coloured%1").arg(i));
+    show(names);
+    QSet<QRgb> colors;
+    const QSet<int> levels{0, 85, 127, 170, 255};
+    for (const SoPerfCounterPcViewed* viewed : *viewer.getViewed()) {
+        const QColor color = viewed->getColor();
+        EXPECT_LE(qGray(color.rgb()), 200);
+        EXPECT_TRUE(levels.contains(color.red()) && levels.contains(color.green()) && levels.contains(color.blue()));
+        EXPECT_FALSE(colors.contains(color.rgb()));
+        colors.insert(color.rgb());
+    }
+    EXPECT_EQ(viewer.m_legend->item(1, 0)->background().color(), QColor(Qt::white)) << "as readable as the curve";
+}
+
+TEST_F(CounterRedraw, MoreCountersThanColoursAreShownToo)
+{
+    QStringList names;
+    for (int i = 0; i < 150; ++i)
+        names.append(QStringLiteral("many%1").arg(i));
+    show(names);
+    EXPECT_EQ(viewer.getViewed()->size(), 151);
+}
+
+TEST_F(CounterRedraw, TheButtonsTellWhichViewIsShown)
+{
+    QTest::mouseClick(viewer.m_graph, Qt::LeftButton);
+    EXPECT_TRUE(viewer.m_graph->isChecked());
+    EXPECT_FALSE(viewer.m_curve->isChecked());
+    EXPECT_TRUE(viewer.getGraphPlot()->isVisible());
+    viewer.textView();
+    EXPECT_TRUE(viewer.m_text->isChecked());
+}
