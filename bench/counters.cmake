@@ -1,0 +1,1 @@
+scopix_add_bench(counters_viewer SpxDefaultsObjects benchmark::benchmark)
