@@ -1,0 +1,166 @@
+// What a person does with the counters, from the first drag to the next start of the program.
+#include "CounterSession.h"
+
+#include <QColorDialog>
+
+namespace
+{
+
+const QColor Chosen(200, 20, 120);
+
+// Answers the colour dialog as soon as it is open.
+void chooseColorSoon(const QColor& color)
+{
+    auto* watch = new QTimer(qApp);
+    QObject::connect(watch, &QTimer::timeout, [watch, color] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        watch->deleteLater();
+        dialog->setCurrentColor(color);
+        dialog->accept();
+    });
+    watch->start(5);
+}
+
+void selectThree(CounterSession& session)
+{
+    session.click(session.placeOf(session.listed("Triangles")));
+    session.click(session.placeOf(session.listed("Vertices")), Qt::ControlModifier);
+    session.click(session.placeOf(session.listed("NodesTraversed")), Qt::ControlModifier);
+    ASSERT_EQ(session.list()->selectedItems().size(), 3);
+}
+
+} // namespace
+
+TEST(Counters, ThreeAreDraggedChangedSavedAndFoundAgain)
+{
+    CounterHome home;
+    const QStringList all{"Frames", "DrawCalls", "Triangles", "Vertices", "NodesTraversed"};
+    {
+        CounterSession session;
+        ASSERT_TRUE(session.dock()->isVisible());
+        EXPECT_EQ(session.legendNames(), (QStringList{"Frames", "DrawCalls"}));
+        selectThree(session);
+        session.drag(session.placeOf(session.listed("Triangles")), "m_viewer");
+        EXPECT_EQ(session.legendNames(), all);
+
+        session.clickLegend("Vertices");
+        ASSERT_TRUE(session.part("m_propertiesGroupBox")->isEnabled());
+        chooseColorSoon(Chosen);
+        session.click("m_colorButton");
+        EXPECT_EQ(session.legendColor("Vertices"), Chosen);
+        auto* scale = session.part<QLineEdit>("m_scaleEdit");
+        session.click("m_scaleEdit");
+        QTest::keyClick(scale, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(scale, "1000");
+
+        session.click("m_text");
+        EXPECT_TRUE(session.part("m_textView")->isVisible());
+        EXPECT_FALSE(session.part("m_curvePlot")->isVisible());
+        auto* texts = session.part<QTableWidget>("m_textView");
+        ASSERT_EQ(texts->rowCount(), all.size());
+        EXPECT_EQ(texts->item(3, 2)->text(), "x 1000");
+        session.click("m_graph");
+        EXPECT_TRUE(session.part("m_graphPlot")->isVisible());
+        EXPECT_FALSE(session.part("m_textView")->isVisible());
+        session.click("m_curve");
+        EXPECT_TRUE(session.part("m_curvePlot")->isVisible());
+        EXPECT_FALSE(session.part("m_graphPlot")->isVisible());
+
+        session.click("m_saveView");
+        EXPECT_EQ(session.takeBoxes(), QStringList());
+    }
+    CounterSession again;
+    EXPECT_EQ(again.part<QComboBox>("m_listConfig")->currentText(), "Rendering");
+    EXPECT_EQ(again.legendNames(), all);
+}
+
+TEST(Counters, OrbitingTheModelMovesFramesAndDrawCalls)
+{
+    CounterHome home;
+    CounterSession session;
+    session.click("m_text");
+    // Nothing moves: once the window has come to rest, nothing is drawn.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return session.shownValue("Frames") == 0; }, 60000));
+    double frames = 0;
+    double drawCalls = 0;
+    session.orbit([&] {
+        frames = std::max(frames, session.shownValue("Frames"));
+        drawCalls = std::max(drawCalls, session.shownValue("DrawCalls"));
+        return frames > 0 && drawCalls > 0;
+    });
+    EXPECT_GT(frames, 0);
+    EXPECT_GT(drawCalls, frames) << "the model takes several calls";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session.shownValue("Frames") == 0; }, 60000));
+}
+
+// The pictures of the documentation come from here: SCOPIX_PICTURES names the folder that they go to.
+TEST(Counters, EachViewShowsEachCounterInItsColour)
+{
+    CounterHome home;
+    CounterSession session;
+    const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
+    session.clickLegend("Frames");
+    chooseColorSoon({0, 85, 170});
+    session.click("m_colorButton");
+    session.clickLegend("DrawCalls");
+    chooseColorSoon({255, 85, 0});
+    session.click("m_colorButton");
+    session.legend()->clearSelection();
+    session.part<QComboBox>("m_freqBox")->setCurrentText("8");
+    session.part<QComboBox>("m_timeBox")->setCurrentText("15");
+    QSignalSpy samples(session.clock(), &QTimer::timeout);
+    const int enough = folder.isEmpty() ? 8 : 110;
+    while (samples.count() < enough) {
+        const int until = samples.count() + 6;
+        session.orbit([&] { return samples.count() >= until; });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return samples.count() >= until + 3; }));
+    }
+    for (const auto& [button, view, picture] :
+         {std::array{"m_curve", "m_curvePlot", "counters-curves"}, std::array{"m_graph", "m_graphPlot", "counters-bars"},
+          std::array{"m_text", "m_textView", "counters-text"}}) {
+        session.click(button);
+        const int next = samples.count() + 2;
+        session.orbit([&] { return samples.count() >= next; });
+        for (const char* name : {"Frames", "DrawCalls"}) {
+            if (session.part(view)->findChild<QWidget*>("QwtPlotCanvas")) {
+                EXPECT_GT(session.pixelsOf(view, session.legendColor(name)), 5) << name << " in " << view;
+            } else {
+                EXPECT_GT(session.shownValue(name), 0) << name;
+            }
+        }
+        if (!folder.isEmpty()) {
+            EXPECT_TRUE(session.dock()->grab().save(QDir(folder).filePath(QString(picture) + ".png")));
+        }
+    }
+}
+
+TEST(Counters, SwitchedOffTheyWaitInTheMenu)
+{
+    CounterHome home;
+    const auto entryOf = [](CounterSession& session) {
+        for (QAction* action : session.window().viewMenu()->actions()) {
+            if (action->text() == "PerfCounter")
+                return action;
+        }
+        return static_cast<QAction*>(nullptr);
+    };
+    for (int start = 0; start < 2; ++start) {
+        qunsetenv("XSG_PERFCOUNTER_ENABLE");
+        CounterSession off;
+        EXPECT_FALSE(off.dock()->isVisible()) << "it has only to tell how it is switched on";
+        QAction* entry = entryOf(off);
+        ASSERT_TRUE(entry);
+        EXPECT_FALSE(entry->isChecked());
+        if (start == 1)
+            continue; // and is not asked for
+        entry->trigger();
+        EXPECT_TRUE(off.dock()->isVisible());
+        EXPECT_TRUE(off.dock()->findChild<QLabel*>()->text().contains("XSG_PERFCOUNTER_ENABLE"));
+    }
+    qputenv("XSG_PERFCOUNTER_ENABLE", "1");
+    CounterSession on;
+    EXPECT_TRUE(on.dock()->isVisible()) << "the person did not put it away";
+    EXPECT_TRUE(on.part("m_viewer"));
+}
