@@ -69,11 +69,9 @@ void HostShell::removeDockWidget(QDockWidget* dock)
     dock->removeEventFilter(this);
     disown(dock);
     m_dockShown[dock->objectName()] = !dock->isHidden();
-    // Restoring a layout in which the dock is missing leaves a gap of its name, where it comes back to.
-    const QByteArray withDock = m_window.saveState();
+    // The window keeps a gap of the dock's name, where it comes back to.
     m_window.removeDockWidget(dock);
     dock->setParent(nullptr);
-    m_window.restoreState(withDock);
 }
 
 void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)

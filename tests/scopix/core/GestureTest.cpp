@@ -379,6 +379,27 @@ TEST_F(Gesture, WhatAMenuChoiceMakesIsOneStep)
     EXPECT_EQ(steps(), 1);
 }
 
+TEST_F(Gesture, AReleaseInsideALoopThatThePressRunsEndsTheGestureAfterThePress)
+{
+    QObject::connect(&m_button, &QPushButton::pressed, [this] {
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [&] {
+            QTest::mouseRelease(&m_button, Qt::LeftButton);
+            pump();
+            loop.quit();
+        });
+        loop.exec();
+        edit("after the loop");
+    });
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    ASSERT_EQ(count("execute clicked"), 1);
+    ASSERT_EQ(count("execute after the loop"), 1);
+    EXPECT_EQ(steps(), 1);
+    pump();
+    edit("later");
+    EXPECT_EQ(steps(), 2);
+}
+
 TEST_F(Gesture, WithoutAGestureEachEditIsAStep)
 {
     edit("one");

@@ -113,6 +113,21 @@ TEST_F(History, StepsOfANodeGoBeforeTheNodeDoesAndOthersStay)
     EXPECT_EQ(stack().count(), 0);
 }
 
+TEST_F(History, AnEditAppliedWhileItsNodeIsLetGoGoesWithThatNode)
+{
+    SoMaterial* first = newMaterial();
+    SoRef<SoComplexity> other = new SoComplexity;
+    m_services.select(first);
+    {
+        QObject listener;
+        QObject::connect(&m_services, &SpxServices::selectedNodeChanged, &listener, [&] { log("pending"); });
+        m_services.select(other.get());
+    }
+    ASSERT_EQ(stack().count(), 1);
+    first->unref();
+    EXPECT_EQ(stack().count(), 0);
+}
+
 TEST_F(History, TheSelectedNodeMayGoWhileItIsEdited)
 {
     SoMaterial* material = newMaterial();
@@ -139,6 +154,35 @@ TEST_F(History, AStepThatMayTouchAnythingGoesWithAnyNode)
     SoMaterial* material = newMaterial();
     material->unref();
     EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(History, AStepMayComeToTouchAnythingByALaterCommand)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    QWidget widget;
+    widget.show();
+    QTest::mousePress(widget.windowHandle(), Qt::LeftButton);
+    setTransparency(*material, 0.5F);
+    m_services.clearSelection();
+    log("who knows what");
+    QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
+    ASSERT_EQ(stack().count(), 1);
+    newMaterial()->unref();
+    EXPECT_EQ(stack().count(), 0);
+}
+
+TEST_F(History, WhatAGestureDoesAfterSavingIsAStepOfItsOwn)
+{
+    SoRef<SoMaterial> material = new SoMaterial;
+    QWidget widget;
+    widget.show();
+    QTest::mousePress(widget.windowHandle(), Qt::LeftButton);
+    setTransparency(*material, 0.25F);
+    stack().setClean();
+    setTransparency(*material, 0.5F);
+    QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
+    EXPECT_EQ(stack().count(), 2);
+    EXPECT_FALSE(stack().isClean());
 }
 
 TEST_F(History, AStepThatTouchesAnotherNodeOutlivesAFreshInstance)

@@ -76,6 +76,19 @@ TEST_F(UndoKeysTest, BelongToTheHostInATableASpinBoxAndAFloatingDock)
     EXPECT_EQ(m_log, UndoneAndRedone);
 }
 
+// The console is such a text: it changes all the time, and nobody types into it.
+TEST_F(UndoKeysTest, BelongToTheHostInATextThatCannotBeTypedInto)
+{
+    auto* text = new QTextEdit;
+    text->setReadOnly(true);
+    m_dock.setWidget(text);
+    text->document()->setModified(true);
+    undoAndRedoIn(*text);
+    EXPECT_EQ(m_log, UndoneAndRedone);
+    m_dock.setWidget(&m_dockLine);
+    delete text;
+}
+
 TEST_F(UndoKeysTest, BelongToTheInputWhileItHoldsTypingThatIsNotApplied)
 {
     m_line.setFocus();
