@@ -1,28 +1,45 @@
 // What an editor of a single value costs, against plain widgets that do the same:
 //
-//   - selecting a field: from the signal to the shown editor, against building the same inputs and showing
-//   the text;
+//   - selecting a field of each kind: from the signal to the shown editor, against building the same inputs
+//   and
+//     showing the same texts;
 //   - one live step of a slider: write, command, undo stack, sensor and refresh, against a bare slider, line
-//   edit and
-//     undo stack.
+//     edit and undo stack.
 //
 //     sf_editors [rounds]
+#include "EdSFBitMaskWidget.h"
+#include "EdSFBoolWidget.h"
+#include "EdSFBox3sWidget.h"
 #include "EdSFColorWidget.h"
+#include "EdSFDoubleWidget.h"
+#include "EdSFEnumWidget.h"
+#include "EdSFFilePathStringWidget.h"
 #include "EdSFFloatWidget.h"
+#include "EdSFImageWidget.h"
 #include "EdSFInt32Widget.h"
+#include "EdSFLineWidget.h"
 #include "EdSFMatrixWidget.h"
+#include "EdSFNameWidget.h"
+#include "EdSFPlaneWidget.h"
+#include "EdSFRotationWidget.h"
+#include "EdSFShortWidget.h"
 #include "EdSFStringWidget.h"
+#include "EdSFUInt32Widget.h"
+#include "EdSFUShortWidget.h"
+#include "EdSFVec2fWidget.h"
+#include "EdSFVec2i32Widget.h"
+#include "EdSFVec2sWidget.h"
 #include "EdSFVec3fWidget.h"
+#include "EdSFVec4fWidget.h"
 #include "SpxFieldEditorDockWin.h"
+#include "src/sfwidgets/EditorRows.h"
 #include "support/TestHost.h"
 
-#include <xsg/fields/SoSFColor.h>
-#include <xsg/fields/SoSFFloat.h>
-#include <xsg/fields/SoSFInt32.h>
-#include <xsg/fields/SoSFMatrix.h>
+#include <xsg/core/SoFieldContainer.h>
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
@@ -30,6 +47,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
+#include <QSpinBox>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -95,8 +113,8 @@ private:
 
 // The inputs of a slider editor without anything behind them.
 struct BareInputs {
-    explicit BareInputs(QWidget* parent, int lines = 1)
-        : frame(new QFrame(parent))
+    BareInputs()
+        : frame(new QFrame)
     {
         auto* layout = new QHBoxLayout(frame);
         layout->addWidget(new QLabel("<p align=\"center\">Field</p>", frame));
@@ -105,10 +123,8 @@ struct BareInputs {
         slider->setRange(0, 100);
         layout->addWidget(check);
         layout->addWidget(slider, 1);
-        for (int i = 0; i < lines; ++i) {
-            line = new QLineEdit(frame);
-            layout->addWidget(line);
-        }
+        line = new QLineEdit(frame);
+        layout->addWidget(line);
         for (int i = 0; i < 2; ++i)
             layout->addWidget(new QPushButton(frame));
     }
@@ -117,43 +133,154 @@ struct BareInputs {
     QLineEdit* line = nullptr;
 };
 
-double bareSelection(QMainWindow& window, int rounds)
+// The same inputs as an editor, with nothing behind them.
+class BareCopy
+{
+public:
+    explicit BareCopy(const QWidget& editor)
+        : m_frame(new QFrame)
+    {
+        new QHBoxLayout(m_frame);
+        copy<QLabel>(editor);
+        copy<QCheckBox>(editor);
+        copy<QSlider>(editor);
+        copy<QLineEdit>(editor);
+        copy<QSpinBox>(editor);
+        copy<QComboBox>(editor);
+        copy<QPushButton>(editor);
+    }
+    QFrame* frame() const { return m_frame; }
+    void show(int number) const
+    {
+        for (const auto& input : m_inputs)
+            input(number);
+    }
+
+private:
+    template <class Widget>
+    void copy(const QWidget& editor)
+    {
+        for (const Widget* original : editor.findChildren<Widget*>()) {
+            const bool isInner = original->objectName().startsWith("qt_");
+            if (isInner || !original->isVisible())
+                continue;
+            auto* widget = new Widget(m_frame);
+            m_frame->layout()->addWidget(widget);
+            start(*widget, *original);
+            m_inputs.push_back([widget](int number) { set(*widget, number); });
+        }
+    }
+    static void start(QLabel& label, const QLabel& original) { label.setText(original.text()); }
+    static void start(QSlider& slider, const QSlider&) { slider.setOrientation(Qt::Horizontal); }
+    static void start(QComboBox& box, const QComboBox&) { box.addItems({"one", "two", "three", "four"}); }
+    static void start(QAbstractButton& button, const QAbstractButton& original)
+    {
+        button.setText(original.text());
+    }
+    static void start(QLineEdit&, const QLineEdit&) {}
+    static void start(QSpinBox&, const QSpinBox&) {}
+    static void set(QLabel&, int) {}
+    static void set(QPushButton&, int) {}
+    static void set(QCheckBox& box, int number) { box.setChecked(number == 0); }
+    static void set(QSlider& slider, int number) { slider.setValue(number); }
+    static void set(QLineEdit& line, int number) { line.setText(QString::number(number)); }
+    static void set(QSpinBox& box, int number) { box.setValue(number); }
+    static void set(QComboBox& box, int number) { box.setCurrentIndex(number); }
+
+    QFrame* m_frame; // the dock's
+    std::vector<std::function<void(int)>> m_inputs;
+};
+
+// Takes the inputs out of a dock and shows them there again with other values, as a selection does.
+double bareSelection(QMainWindow& window, const BareCopy& copy, int rounds)
 {
     QDockWidget dock;
     window.addDockWidget(Qt::RightDockWidgetArea, &dock);
     return microseconds(rounds, [&](int i) {
-        delete dock.widget();
-        BareInputs bare(nullptr);
-        bare.line->setText(QString::number(i % 7));
-        bare.slider->setValue(i % 7);
-        dock.setWidget(bare.frame);
+        dock.setWidget(nullptr);
+        copy.frame()->setParent(nullptr);
+        dock.hide();
+        copy.show(i % 2);
+        dock.setWidget(copy.frame());
+        copy.frame()->show();
         dock.show();
         TestHost::pump();
     });
 }
 
-template <class Editor, class Field>
-void compareSelection(const char* what, int rounds, const char* first, const char* second)
+using Editors = std::vector<std::unique_ptr<SpxEditor>>;
+
+template <class... Classes>
+Editors make()
+{
+    Editors editors;
+    (editors.push_back(std::make_unique<Classes>()), ...);
+    return editors;
+}
+
+Editors allEditors()
+{
+    return make<EdSFBitMaskWidget, EdSFBoolWidget, EdSFBox3sWidget, EdSFColorWidget, EdSFEnumWidget,
+                EdSFDoubleWidget, EdSFFilePathStringWidget, EdSFFloatWidget, EdSFImageWidget, EdSFInt32Widget,
+                EdSFLineWidget, EdSFMatrixWidget, EdSFNameWidget, EdSFPlaneWidget, EdSFRotationWidget,
+                EdSFShortWidget, EdSFStringWidget, EdSFUInt32Widget, EdSFUShortWidget, EdSFVec2fWidget,
+                EdSFVec2i32Widget, EdSFVec2sWidget, EdSFVec3fWidget, EdSFVec4fWidget>();
+}
+
+// A node with a field of every type.
+class Node
+{
+public:
+    SoField* field(const char* type) const
+    {
+        const SoFieldData* data = m_node->getFieldData();
+        for (int i = 0; SoField* field = data->getField(m_node.get(), i); ++i) {
+            if (field->getTypeId().getName() == SbName(type))
+                return field;
+        }
+        std::fprintf(stderr, "no field of type %s\n", type);
+        std::exit(1);
+    }
+
+private:
+    SoRef<SoFieldContainer> m_node{
+        dynamic_cast<SoFieldContainer*>(SoType::fromName("FieldGallery").createInstance())};
+};
+
+// All editors stand ready, and the dock finds the one for the field.
+void compareSelections(int rounds)
 {
     UndoStackHost host;
-    Editor editor(nullptr);
+    const Editors editors = allEditors();
+    QList<SpxExtension*> extensions;
+    for (const auto& editor : editors) {
+        editor->load();
+        extensions << editor.get();
+    }
     SpxFieldEditorDockWin dock;
-    editor.load();
-    host.control({&editor});
+    host.control(extensions);
     host.start(dock);
     host.window().resize(800, 300);
     host.window().show();
-    Field fields[2];
-    fields[0].set(first);
-    fields[1].set(second);
-    const double ours = microseconds(rounds, [&](int i) {
-        host.select(&fields[i % 2]);
-        TestHost::pump();
-    });
-    host.select(static_cast<SoField*>(nullptr));
+    const Node nodes[2];
+    for (const EditorRow& row : editorRows()) {
+        if (row.isInGrid())
+            continue;
+        SoField* fields[] = {nodes[0].field(row.type), nodes[1].field(row.type)};
+        fields[0]->set(row.values[0].c_str());
+        fields[1]->set(row.values[1].c_str());
+        const double ours = microseconds(rounds, [&](int i) {
+            host.select(fields[i % 2]);
+            TestHost::pump();
+        });
+        const BareCopy copy(*host.window().findChild<QDockWidget*>()->widget());
+        host.select(static_cast<SoField*>(nullptr));
+        const std::string what = std::string("select ") + row.type;
+        print(what.c_str(), ours, bareSelection(host.window(), copy, rounds));
+    }
     host.stop(dock);
-    editor.unload();
-    print(what, ours, bareSelection(host.window(), rounds));
+    for (const auto& editor : editors)
+        editor->unload();
 }
 
 double liveStep(int rounds)
@@ -193,7 +320,7 @@ double bareStep(int rounds)
     };
     float value = 0;
     QUndoStack stack;
-    BareInputs bare(nullptr);
+    BareInputs bare;
     bare.frame->resize(420, 40);
     bare.frame->show();
     QObject::connect(bare.slider, &QSlider::valueChanged, [&](int position) {
@@ -216,12 +343,6 @@ int main(int argc, char** argv)
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 200;
     const double ours = liveStep(rounds);
     print("one live step of a slider", ours, bareStep(rounds));
-    compareSelection<EdSFFloatWidget, SoSFFloat>("select SFFloat", rounds, "1", "2");
-    compareSelection<EdSFInt32Widget, SoSFInt32>("select SFInt32", rounds, "1", "2");
-    compareSelection<EdSFVec3fWidget, SoSFVec3f>("select SFVec3f", rounds, "1 2 3", "4 5 6");
-    compareSelection<EdSFColorWidget, SoSFColor>("select SFColor", rounds, "1 0 0", "0 1 0");
-    compareSelection<EdSFStringWidget, SoSFString>("select SFString", rounds, "one", "two");
-    compareSelection<EdSFMatrixWidget, SoSFMatrix>(
-        "select SFMatrix", rounds, "1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1", "2 0 0 0 0 2 0 0 0 0 2 0 0 0 0 1");
+    compareSelections(rounds);
     return 0;
 }
