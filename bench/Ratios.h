@@ -29,7 +29,8 @@ public:
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration)
                 continue;
-            const double time = run.GetAdjustedCPUTime();
+            const bool isWallTime = !run.run_name.time_type.empty();
+            const double time = isWallTime ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
             const auto [known, isNew] = m_times.emplace(
                 run.run_name.function_name + (run.run_name.args.empty() ? "" : "/") + run.run_name.args,
                 time);

@@ -24,9 +24,7 @@ void boxAfresh(benchmark::State& state)
     const auto world = makeWorld(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
-        for (SoNode* child : world->getChildren())
-            static_cast<SoSeparator*>(child)->boxCache().isValid = false;
-        world->boxCache().isValid = false;
+        forgetBoxes(*world);
         state.ResumeTiming();
         benchmark::DoNotOptimize(SoBoundingBoxAction().getBox(world.get()));
     }

@@ -6,17 +6,28 @@
 #include <xsg/nodes/SoSeparator.h>
 #include <xsg/nodes/SoTransform.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
+
+inline int worldSide(int separators)
+{
+    return static_cast<int>(std::ceil(std::sqrt(separators)));
+}
+
+inline SbVec3f worldPlace(int i, int side)
+{
+    return {3.0F * static_cast<float>(i % side), 3.0F * static_cast<float>(i / side), 0};
+}
 
 inline SoRef<SoSeparator> makeWorld(int separators)
 {
     SoRef<SoSeparator> root(new SoSeparator);
-    const int side = static_cast<int>(std::ceil(std::sqrt(separators)));
+    const int side = worldSide(separators);
     for (int i = 0; i < separators; ++i) {
         auto* group = new SoSeparator;
         auto* transform = new SoTransform;
-        transform->translation.setValue(3.0F * static_cast<float>(i % side),
-                                        3.0F * static_cast<float>(i / side), 0);
+        transform->translation.setValue(worldPlace(i, side));
         group->addChild(transform);
         group->addChild(new SoCube);
         root->addChild(group);
@@ -28,4 +39,20 @@ inline SoTransform& lastTransform(SoSeparator& world)
 {
     auto* group = static_cast<SoSeparator*>(world.getChild(world.getNumChildren() - 1));
     return *static_cast<SoTransform*>(group->getChild(0));
+}
+
+// As if nobody had asked for a box before.
+inline void forgetBoxes(const SoSeparator& world)
+{
+    for (SoNode* child : world.getChildren())
+        static_cast<SoSeparator*>(child)->boxCache().isValid = false;
+    world.boxCache().isValid = false;
+}
+
+// Whether a picture is more than its background.
+inline bool hasPicture(const std::vector<unsigned char>& rgba)
+{
+    return std::any_of(rgba.begin() + 4, rgba.end(), [&](const unsigned char& c) {
+        return c != rgba[static_cast<std::size_t>(&c - rgba.data()) % 4];
+    });
 }

@@ -3,20 +3,21 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoSeparator.h>
 #include <xsg/nodes/SoShape.h>
 
 namespace
 {
 
-std::uint64_t pointsIdOf(const SoState& state)
+bool isVisible(const SoState& state)
 {
-    return state.points ? state.points->getNodeId() : 0;
+    return !state.drawStyle || state.drawStyle->isVisible();
 }
 
-std::uint32_t pointsCountOf(const SoState& state)
+SoSeparator::Outside outsideOf(const SoState& state)
 {
-    return state.points ? state.points->getChangeCount() : 0;
+    if (!state.points)
+        return {0, 0, isVisible(state)};
+    return {state.points->getNodeId(), state.points->getChangeCount(), isVisible(state)};
 }
 
 } // namespace
@@ -24,18 +25,18 @@ std::uint32_t pointsCountOf(const SoState& state)
 bool SoBoundingBoxAction::isValid(const SoSeparator& separator, const SoState& stateAt)
 {
     const auto& cache = separator.boxCache();
-    return cache.isValid && cache.changeCount == separator.getChangeCount() &&
-           cache.pointsId == pointsIdOf(stateAt) && cache.pointsCount == pointsCountOf(stateAt);
+    return cache.isValid && cache.changeCount == separator.getChangeCount() && cache.outside == outsideOf(stateAt);
 }
 
 SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
 {
     resetState();
     state().chooseAll = true;
-    m_boxes.assign(1, {});
+    m_open.clear();
+    m_open.emplace_back();
     if (root)
         traverse(root);
-    return m_boxes.front();
+    return m_open.front().box;
 }
 
 bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
@@ -44,18 +45,65 @@ bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
     if (!separator || !isValid(*separator, state()))
         return true;
     xsg::feeds.boxHits.add();
-    extend(separator->boxCache().box);
+    keepChild(separator->boxCache().box);
     return false;
 }
 
 void SoBoundingBoxAction::enterGroup(SoGroup* group)
 {
-    if (!group->asSeparator())
+    const SoSeparator* separator = group->asSeparator();
+    if (!separator)
         return;
     xsg::feeds.boxMisses.add();
-    m_boxes.emplace_back();
+    Open& open = m_open.emplace_back();
+    if (separator->getNumChildren() >= SoGroup::ManyChildren)
+        openChildren(*separator, open);
+    else
+        separator->boxCache().children.reset();
     state().modelMatrix = SbMatrix();
     state().instances = nullptr;
+}
+
+// Visits only what changed, where that is known and reaches nothing beside it.
+void SoBoundingBoxAction::openChildren(const SoSeparator& separator, Open& open)
+{
+    auto& cache = separator.boxCache();
+    if (!cache.children)
+        cache.children = std::make_unique<SoSeparator::ChildBoxes>();
+    separator.rememberTouched();
+    open.children = cache.children.get();
+    const auto isSeparator = [&](std::uint32_t place) {
+        const SoGroup* group = separator.getChildren()[place]->asGroup();
+        return group && group->asSeparator();
+    };
+    std::vector<std::uint32_t> places;
+    if (cache.isValid && cache.outside == outsideOf(state()) && separator.findTouched(cache.changeCount, places) &&
+        std::all_of(places.begin(), places.end(), isSeparator)) {
+        const auto& others = open.children->others;
+        const auto middle = static_cast<std::ptrdiff_t>(places.size());
+        places.insert(places.end(), others.begin(), others.end());
+        std::inplace_merge(places.begin(), places.begin() + middle, places.end());
+        visitOnly(std::move(places));
+        return;
+    }
+    open.isAfresh = true;
+    cache.isValid = false; // the walk may end before it is back here
+    open.children->boxes.assign(static_cast<std::size_t>(separator.getNumChildren()), {});
+    open.children->others.clear();
+    for (std::uint32_t place = 0; place < open.children->boxes.size(); ++place) {
+        if (!isSeparator(place))
+            open.children->others.push_back(place);
+    }
+}
+
+void SoBoundingBoxAction::closeChildren(Open& open) const
+{
+    if (!open.children)
+        return;
+    if (open.isAfresh)
+        open.children->chunks.build(open.children->boxes.size(),
+                                    [&](std::size_t place) { return open.children->boxes[place]; });
+    open.box.extendBy(open.children->chunks.getWhole());
 }
 
 void SoBoundingBoxAction::leaveGroup(SoGroup* group)
@@ -63,22 +111,48 @@ void SoBoundingBoxAction::leaveGroup(SoGroup* group)
     const SoSeparator* separator = group->asSeparator();
     if (!separator)
         return;
-    const SbBox3f box = m_boxes.back();
-    m_boxes.pop_back();
-    separator->boxCache() = {box, true, separator->getChangeCount(), pointsIdOf(state()),
-                             pointsCountOf(state())};
-    extend(box);
+    closeChildren(m_open.back());
+    const SbBox3f box = m_open.back().box;
+    m_open.pop_back();
+    auto& cache = separator->boxCache();
+    cache.box = box;
+    cache.isValid = true;
+    cache.changeCount = separator->getChangeCount();
+    cache.outside = outsideOf(state());
+    keepChild(box);
 }
 
 void SoBoundingBoxAction::visitShape(SoShape* shape)
 {
-    if (!state().drawStyle || state().drawStyle->isVisible())
+    if (isVisible(state()))
         extend(shape->getBox(state()));
+}
+
+SbBox3f SoBoundingBoxAction::placed(const SbBox3f& box)
+{
+    SbBox3f all;
+    if (!box.isEmpty())
+        state().forEachInstance([&](const SbMatrix& matrix) { all.extendBy(matrix.transform(box)); });
+    return all;
 }
 
 void SoBoundingBoxAction::extend(const SbBox3f& box)
 {
-    if (box.isEmpty())
+    m_open.back().box.extendBy(placed(box));
+}
+
+// The box of a separator, with the state as it is beside it.
+void SoBoundingBoxAction::keepChild(const SbBox3f& box)
+{
+    Open& around = m_open.back();
+    // Through a group in between it is no child of the separator that is open.
+    if (!around.children || !getFrames().back().group->asSeparator()) {
+        extend(box);
         return;
-    state().forEachInstance([&](const SbMatrix& matrix) { m_boxes.back().extendBy(matrix.transform(box)); });
+    }
+    const auto place = static_cast<std::size_t>(getFrames().back().child);
+    around.children->boxes[place] = placed(box);
+    if (!around.isAfresh)
+        around.children->chunks.refresh(xsg::ChunkBoxes::chunkOf(place),
+                                        [&](std::size_t i) { return around.children->boxes[i]; });
 }

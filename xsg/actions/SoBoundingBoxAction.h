@@ -5,8 +5,7 @@
 
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/base/SbBox.h>
-
-class SoSeparator;
+#include <xsg/nodes/SoSeparator.h>
 
 class XSG_API SoBoundingBoxAction : private SoTraversal
 {
@@ -26,6 +25,15 @@ private:
     void visitShape(SoShape* shape) override;
     void extend(const SbBox3f& box);
 
-    // A box in the coordinates of the separator that is open.
-    std::vector<SbBox3f> m_boxes;
+    // A separator that is open, and what is around the part of it that was visited, in its coordinates.
+    struct Open {
+        SbBox3f box;
+        SoSeparator::ChildBoxes* children = nullptr;
+        bool isAfresh = false; // all children are visited
+    };
+    void openChildren(const SoSeparator& separator, Open& open);
+    void closeChildren(Open& open) const;
+    SbBox3f placed(const SbBox3f& box);
+    void keepChild(const SbBox3f& box);
+    std::vector<Open> m_open;
 };

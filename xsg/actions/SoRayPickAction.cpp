@@ -43,9 +43,38 @@ std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ra
 bool SoRayPickAction::wantsGroup(SoGroup* group)
 {
     const SoSeparator* separator = group->asSeparator();
-    if (!separator || !SoBoundingBoxAction::isValid(*separator, state()))
-        return true;
-    const SbBox3f& box = separator->boxCache().box;
+    m_knowsBox = separator && SoBoundingBoxAction::isValid(*separator, state());
+    return !m_knowsBox || mayMeetAny(separator->boxCache().box);
+}
+
+void SoRayPickAction::enterGroup(SoGroup* group)
+{
+    const SoSeparator* separator = group->asSeparator();
+    if (m_knowsBox && separator->boxCache().children && !group->isViewDependent())
+        visitOnly(findChildren(*separator));
+}
+
+// The children of a separator with many of them that the ray may meet, and those that the others depend on.
+std::vector<std::uint32_t> SoRayPickAction::findChildren(const SoSeparator& separator)
+{
+    const SoSeparator::ChildBoxes& known = *separator.boxCache().children;
+    std::vector<std::uint32_t> places;
+    for (std::size_t chunk = 0; chunk < known.chunks.getNumChunks(); ++chunk) {
+        if (!mayMeetAny(known.chunks.getBox(chunk)))
+            continue;
+        for (std::size_t i = chunk * xsg::ChunkBoxes::Size; i < known.chunks.endOf(chunk); ++i) {
+            if (mayMeetAny(known.boxes[i]))
+                places.push_back(static_cast<std::uint32_t>(i));
+        }
+    }
+    const auto middle = static_cast<std::ptrdiff_t>(places.size());
+    places.insert(places.end(), known.others.begin(), known.others.end());
+    std::inplace_merge(places.begin(), places.begin() + middle, places.end());
+    return places;
+}
+
+bool SoRayPickAction::mayMeetAny(const SbBox3f& box)
+{
     bool meets = false;
     state().forEachInstance([&](const SbMatrix& matrix) { meets = meets || mayMeet(box, matrix); });
     return meets;

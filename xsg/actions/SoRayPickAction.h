@@ -34,17 +34,21 @@ public:
 private:
     struct Hit;
     bool wantsGroup(SoGroup* group) override;
+    void enterGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void pickShape(SoShape* shape, const SbMatrix& toWorld);
     void take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld);
     bool isClipped(const SbVec3f& point);
     bool mayMeet(const SbBox3f& box, const SbMatrix& toWorld);
+    bool mayMeetAny(const SbBox3f& box);
+    std::vector<std::uint32_t> findChildren(const SoSeparator& separator);
     SbRay localRay(const SbMatrix& toWorld);
     const SoGeometry& geometryOf(SoShape* shape);
 
     SbRay m_ray;
     SbMatrix m_localMatrix;
     SbRay m_localRay;
+    bool m_knowsBox = false; // of the separator that is about to be entered
     std::optional<SoPickedPoint> m_nearest;
     float m_tolerance = 0.005F;
     struct Kept;

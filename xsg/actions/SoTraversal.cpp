@@ -19,16 +19,35 @@ void SoTraversal::traverse(SoNode* root)
 {
     m_frames.clear();
     m_saved.clear();
+    m_plans.clear();
+    m_hasNewPlan = false;
     m_stopped = false;
     m_visited = 0;
     visit(root);
     while (!m_frames.empty() && !m_stopped && m_visited < MostVisits) {
         Frame& frame = m_frames.back();
-        if (++frame.child < frame.end)
+        if (goToNextChild(frame))
             visit(frame.group->getChildren()[static_cast<std::size_t>(frame.child)]);
         else
             closeGroup();
     }
+}
+
+bool SoTraversal::goToNextChild(Frame& frame)
+{
+    if (frame.planned == NoPlan)
+        return ++frame.child < frame.end;
+    const std::vector<std::uint32_t>& plan = m_plans.back();
+    if (frame.planned == plan.size())
+        return false;
+    frame.child = static_cast<int>(plan[frame.planned++]);
+    return true;
+}
+
+void SoTraversal::visitOnly(std::vector<std::uint32_t> places)
+{
+    m_plans.push_back(std::move(places));
+    m_hasNewPlan = true;
 }
 
 void SoTraversal::visit(SoNode* node)
@@ -54,13 +73,16 @@ void SoTraversal::openGroup(SoGroup* group)
     group->apply(m_state);
     const SoChildRange range = group->getChosenChildren(m_state);
     enterGroup(group);
-    m_frames.push_back({group, range.first - 1, range.last, isolates});
+    const bool isPlanned = std::exchange(m_hasNewPlan, false);
+    m_frames.push_back({group, range.first - 1, range.last, isolates, isPlanned ? 0 : NoPlan});
 }
 
 void SoTraversal::closeGroup()
 {
     const Frame frame = m_frames.back();
     m_frames.pop_back();
+    if (frame.planned != NoPlan)
+        m_plans.pop_back();
     if (frame.isolates)
         restoreState();
     leaveGroup(frame.group);

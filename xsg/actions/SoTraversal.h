@@ -34,6 +34,8 @@ protected:
 
     SoState& state() { return m_state; }
     void resetState() { m_state = SoState(); }
+    // In enterGroup(): of the group's children only those at these places are visited, in this order.
+    void visitOnly(std::vector<std::uint32_t> places);
     // Ends the walk; groups that are open are not left.
     void stop() { m_stopped = true; }
     int getNumVisited() const { return m_visited; }
@@ -44,11 +46,14 @@ protected:
         int child;
         int end;
         bool isolates;
+        std::size_t planned; // of the places to visit, those that were; NoPlan: all are visited
     };
     const std::vector<Frame>& getFrames() const { return m_frames; }
 
 private:
+    static constexpr std::size_t NoPlan = static_cast<std::size_t>(-1);
     void visit(SoNode* node);
+    bool goToNextChild(Frame& frame);
     void openGroup(SoGroup* group);
     void closeGroup();
     void restoreState();
@@ -56,6 +61,8 @@ private:
     SoState m_state;
     std::vector<SoState> m_saved;
     std::vector<Frame> m_frames;
+    std::vector<std::vector<std::uint32_t>> m_plans; // of the open groups that have one
+    bool m_hasNewPlan = false;
     bool m_stopped = false;
     int m_visited = 0;
 };

@@ -102,6 +102,35 @@ void SoGroup::childrenChanged()
     notify(change);
 }
 
+void SoGroup::rememberTouched() const
+{
+    if (!m_touched)
+        m_touched = std::make_unique<xsg::TouchLog>(getChangeCount());
+}
+
+void SoGroup::noteTouched(const SoNode* child, std::uint64_t serial)
+{
+    // Two children may bring the same change; it counts once.
+    if (m_touched)
+        m_touched->add(child, getChangeCount() + (m_lastSerial == serial ? 0 : 1));
+}
+
+bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const
+{
+    std::vector<const SoNode*> touched;
+    if (!m_touched || !m_touched->collectSince(since, touched))
+        return false;
+    for (const SoNode* child : touched) {
+        if (!child)
+            return false;
+        for (auto at = std::find(m_children.begin(), m_children.end(), child); at != m_children.end();
+             at = std::find(at + 1, m_children.end(), child))
+            places.push_back(static_cast<std::uint32_t>(at - m_children.begin()));
+    }
+    std::sort(places.begin(), places.end());
+    return true;
+}
+
 SoGroup::~SoGroup()
 {
     // Deep scenes are taken down level by level: each group hands its children to the outermost one going.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <xsg/nodes/SoNode.h>
+#include <xsg/nodes/TouchLog.h>
 
 // Children first to last - 1.
 struct SoChildRange {
@@ -41,16 +42,28 @@ public:
     // The children that count at present; a group that chooses among its children narrows it.
     virtual SoChildRange getChosenChildren(const SoState& /*state*/) const { return {0, getNumChildren()}; }
 
+    // From this many children on, looking only at those that changed is worth remembering which they were.
+    static constexpr int ManyChildren = 64;
+    // Remembers from now on.
+    void rememberTouched() const;
+    // The places of the children that changed (they, or what is below them) since getChangeCount() was `since`,
+    // in order. False where that is not known, or where the group itself changed.
+    bool findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const;
+
 protected:
     ~SoGroup() override;
 
 private:
+    friend class SoNode;
     void adopt(SoNode* child);
     void release(SoNode* child);
     void childrenChanged();
     bool wouldLoop(const SoNode* child) const;
 
+    void noteTouched(const SoNode* child, std::uint64_t serial);
+
     std::vector<SoNode*> m_children; // one reference each
+    mutable std::unique_ptr<xsg::TouchLog> m_touched;
 };
 
 extern template class SoTyped<SoGroup, SoNode>;

@@ -41,6 +41,8 @@ void SoNode::notify(const SoNotification& change)
     passed.node = passed.node ? passed.node : this;
     SoNode* node = this;
     std::int64_t told = 0;
+    if (SoGroup* group = asGroup())
+        group->noteTouched(nullptr, change.serial);
     while (node) {
         SoNode* next = nullptr;
         if (node->m_lastSerial != change.serial) {
@@ -50,6 +52,8 @@ void SoNode::notify(const SoNotification& change)
             if (node->hasSensors())
                 node->SoFieldContainer::notify(passed);
             const auto& parents = node->m_parents;
+            for (SoGroup* parent : parents)
+                parent->noteTouched(node, change.serial);
             if (!parents.empty()) {
                 next = parents.front();
                 branches.insert(branches.end(), parents.begin() + 1, parents.end());

@@ -1,7 +1,7 @@
 // A group that isolates state: what its children set does not reach what follows the group.
 #pragma once
 
-#include <xsg/base/SbBox.h>
+#include <xsg/actions/ChunkBoxes.h>
 #include <xsg/nodes/SoGroup.h>
 
 class XSG_API SoSeparator : public SoTyped<SoSeparator, SoGroup>
@@ -12,14 +12,30 @@ public:
     bool isIsolating() const override { return true; }
     const SoSeparator* asSeparator() const override { return this; }
 
-    // The box around what is below, in the coordinates at the separator. It holds as long as nothing below
-    // changes and the points that shapes below may take from before the separator stay the same.
+    // What shapes below take from before the separator, as far as it matters to their boxes.
+    struct Outside {
+        std::uint64_t pointsId = 0;
+        std::uint32_t pointsCount = 0;
+        bool isVisible = true;
+        friend bool operator==(const Outside& a, const Outside& b)
+        {
+            return a.pointsId == b.pointsId && a.pointsCount == b.pointsCount && a.isVisible == b.isVisible;
+        }
+    };
+    // The box of each child of a separator with many of them.
+    struct ChildBoxes {
+        std::vector<SbBox3f> boxes; // in the coordinates at the separator; empty for the others:
+        std::vector<std::uint32_t> others; // places of children that are no separators
+        xsg::ChunkBoxes chunks;     // of `boxes`
+    };
+    // The box around what is below, in the coordinates at the separator. It holds as long as nothing below nor
+    // outside changes.
     struct BoxCache {
         SbBox3f box;
         bool isValid = false;
         std::uint32_t changeCount = 0;
-        std::uint64_t pointsId = 0;
-        std::uint32_t pointsCount = 0;
+        Outside outside;
+        std::unique_ptr<ChildBoxes> children; // null where there are few
     };
     // Kept by SoBoundingBoxAction, used by whoever can skip what is out of sight.
     BoxCache& boxCache() const { return m_boxCache; }

@@ -17,5 +17,9 @@ SbMatrix SoTransform::getMatrix() const
         m = m * SbMatrix::rotation(turn);
     if (fixed != SbVec3f())
         m = SbMatrix::translation(fixed * -1.0F) * m * SbMatrix::translation(fixed);
-    return m * SbMatrix::translation(xsg::used(translation, {}));
+    // As the last of all movements, it only adds to the last row.
+    const SbVec3f by = xsg::used(translation, {});
+    for (int i = 0; i < 3; ++i)
+        m[3][i] += by[i];
+    return m;
 }

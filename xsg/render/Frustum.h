@@ -10,6 +10,9 @@ namespace xsg
 class Frustum
 {
 public:
+    // Outside and Inside are certain.
+    enum class Sight { Outside, Partly, Inside };
+
     explicit Frustum(const SbMatrix& viewProjection)
     {
         // A point p is inside where -w <= x, y, z <= w for p times the matrix.
@@ -22,20 +25,26 @@ public:
         }
     }
 
-    // False only for what is certainly out of sight.
-    bool mayShow(const SbBox3f& box) const
+    Sight judge(const SbBox3f& box) const
     {
         const SbVec3f& low = box.getMin();
         const SbVec3f& high = box.getMax();
+        Sight sight = Sight::Inside;
         for (const auto& plane : m_planes) {
             float most = plane[3];
-            for (int i = 0; i < 3; ++i)
+            float least = plane[3];
+            for (int i = 0; i < 3; ++i) {
                 most += plane[i] * (plane[i] > 0 ? high[i] : low[i]);
+                least += plane[i] * (plane[i] > 0 ? low[i] : high[i]);
+            }
             if (most < 0)
-                return false;
+                return Sight::Outside;
+            if (!(least >= 0))
+                sight = Sight::Partly;
         }
-        return true;
+        return sight;
     }
+    bool mayShow(const SbBox3f& box) const { return judge(box) != Sight::Outside; }
 
 private:
     float m_planes[6][4];

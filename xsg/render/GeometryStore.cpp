@@ -66,6 +66,10 @@ void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
     addBlock(NormalAttribute, g.normals, offset);
     addBlock(TextureAttribute, g.textureCoordinates, offset);
     addBlock(ColorAttribute, g.colors, offset);
+    for (GLuint i = InstanceAttribute; i < InstanceAttribute + 8; ++i) {
+        glVertexAttribDivisor(i, 1);
+        glEnableVertexAttribArray(i);
+    }
     glBindBuffer(GL_ELEMENT_ARRAY_BUFFER, to.indices.get());
     glBufferData(GL_ELEMENT_ARRAY_BUFFER, bytesOf(g.index), g.index.data(), GL_STATIC_DRAW);
     glBindVertexArray(0);

@@ -1,5 +1,7 @@
 #include <xsg/render/GlThread.h>
 
+#include <xsg/render/GlMessages.h>
+
 #include <epoxy/egl.h>
 
 namespace
@@ -52,26 +54,36 @@ private:
     {
         static constexpr EGLint configWanted[] = {EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE,
                                                   EGL_OPENGL_BIT, EGL_NONE};
-        static constexpr EGLint contextWanted[] = {EGL_CONTEXT_MAJOR_VERSION,
-                                                   3,
-                                                   EGL_CONTEXT_MINOR_VERSION,
-                                                   3,
-                                                   EGL_CONTEXT_OPENGL_PROFILE_MASK,
-                                                   EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT,
-                                                   EGL_NONE};
         static constexpr EGLint surfaceWanted[] = {EGL_WIDTH, 1, EGL_HEIGHT, 1, EGL_NONE};
         EGLConfig config = nullptr;
         EGLint found = 0;
         if (!eglBindAPI(EGL_OPENGL_API) || !eglChooseConfig(m_display, configWanted, &config, 1, &found) ||
             found == 0)
             return false;
-        m_context = eglCreateContext(m_display, config, EGL_NO_CONTEXT, contextWanted);
+        if (xsg::GlMessages::areWanted())
+            m_context = createContext(config, EGL_TRUE);
+        if (m_context == EGL_NO_CONTEXT)
+            m_context = createContext(config, EGL_FALSE);
         if (m_context == EGL_NO_CONTEXT)
             return false;
         if (eglMakeCurrent(m_display, EGL_NO_SURFACE, EGL_NO_SURFACE, m_context))
             return true;
         m_surface = eglCreatePbufferSurface(m_display, config, surfaceWanted);
         return m_surface != EGL_NO_SURFACE && eglMakeCurrent(m_display, m_surface, m_surface, m_context);
+    }
+
+    EGLContext createContext(EGLConfig config, EGLint forDebugging)
+    {
+        const EGLint wanted[] = {EGL_CONTEXT_MAJOR_VERSION,
+                                 3,
+                                 EGL_CONTEXT_MINOR_VERSION,
+                                 3,
+                                 EGL_CONTEXT_OPENGL_PROFILE_MASK,
+                                 EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT,
+                                 forDebugging ? EGL_CONTEXT_OPENGL_DEBUG : EGL_NONE,
+                                 forDebugging,
+                                 EGL_NONE};
+        return eglCreateContext(m_display, config, EGL_NO_CONTEXT, wanted);
     }
 
     EGLDisplay m_display = EGL_NO_DISPLAY;

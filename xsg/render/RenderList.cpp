@@ -45,7 +45,6 @@ bool xsg::Surroundings::operator<(const Surroundings& other) const
 bool xsg::RenderList::update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures)
 {
     const bool sameView = root->getNodeId() == m_rootId && view.camera == m_view.camera &&
-                          view.highlight == m_view.highlight &&
                           (!m_isViewDependent || view.eye == m_view.eye);
     if (sameView && root->getChangeCount() == m_rootCount)
         return false;
@@ -66,6 +65,7 @@ void xsg::RenderList::clear()
     m_transparent.clear();
     m_callbacks.clear();
     m_records.clear();
+    m_childRecords.clear();
     m_surroundingsIndex.clear();
     m_surroundings.clear();
     m_lastSurroundingsIndex = -1;
@@ -74,11 +74,12 @@ void xsg::RenderList::clear()
     m_clipPlanes.clear();
     m_textureMatrices.clear();
     m_box = {};
+    m_changes = {};
+    m_changes.all = true;
     m_camera = nullptr;
     m_cameraMatrix = {};
     m_hasLights = false;
     m_isViewDependent = false;
-    m_highlightDepth = 0;
     m_rootId = 0;
 }
 
@@ -94,7 +95,8 @@ void xsg::RenderList::build(SoNode* root)
     m_geometry->removeUnused();
     m_textures->endRound();
     m_builtSurroundings = m_surroundings.size();
-    collectBox();
+    m_boxes.build(m_items.size(), [this](std::size_t i) { return m_items[i].box; });
+    m_box = m_boxes.getWhole();
     sort();
 }
 
@@ -108,7 +110,8 @@ bool xsg::RenderList::patch(SoNode* root)
     m_reaches = false;
     m_needsSorting = false;
     m_cursor = 0;
-    m_highlightDepth = 0;
+    m_firstPatched = m_changes.items.size();
+    m_openPatches.clear();
     m_reachesBefore.clear();
     resetState();
     state().eye = m_view.eye;
@@ -117,15 +120,31 @@ bool xsg::RenderList::patch(SoNode* root)
     if (m_gaveUp || m_cursor != m_records.size())
         return false;
     m_geometry->removeUnused();
-    collectBox();
-    if (m_needsSorting)
+    patchBoxes();
+    if (m_needsSorting) {
+        m_changes.grouping = true;
         sort();
+    }
     return true;
+}
+
+void xsg::RenderList::patchBoxes()
+{
+    std::size_t last = m_boxes.getNumChunks();
+    for (std::size_t i = m_firstPatched; i < m_changes.items.size(); ++i) {
+        const std::size_t chunk = ChunkBoxes::chunkOf(m_changes.items[i]);
+        if (chunk != last)
+            m_boxes.refresh(last = chunk, [this](std::size_t item) { return m_items[item].box; });
+    }
+    if (m_firstPatched < m_changes.items.size())
+        m_box = m_boxes.getWhole();
 }
 
 // Whether the walk meets the node that it met at this place before.
 bool xsg::RenderList::follow(const SoNode* node)
 {
+    if (!m_openPatches.empty() && m_openPatches.back().children)
+        m_cursor = m_openPatches.back().children->records[static_cast<std::size_t>(getFrames().back().child)];
     if (m_cursor < m_records.size() && m_records[m_cursor].nodeId == node->getNodeId())
         return true;
     giveUp();
@@ -138,10 +157,25 @@ void xsg::RenderList::giveUp()
     stop();
 }
 
-void xsg::RenderList::record(const SoNode* node, std::uint32_t changeCount)
+void xsg::RenderList::record(const SoNode* node, std::uint32_t changeCount, bool isIsolating)
 {
     m_records.push_back({node->getNodeId(), changeCount, node->getChangeCount(),
-                         static_cast<std::uint32_t>(m_items.size()), 0});
+                         static_cast<std::uint32_t>(m_items.size()), 0, isIsolating});
+}
+
+void xsg::RenderList::recordChildren(const SoGroup& group, std::uint32_t record)
+{
+    ChildRecords children;
+    for (std::uint32_t i = record + 1; i < m_records.size(); i = std::max(m_records[i].end, i + 1)) {
+        if (!m_records[i].isIsolating)
+            children.reaching.push_back(static_cast<std::uint32_t>(children.records.size()));
+        children.records.push_back(i);
+    }
+    // A group may have chosen among its children.
+    if (static_cast<int>(children.records.size()) != group.getNumChildren())
+        return;
+    group.rememberTouched();
+    m_childRecords[record] = std::move(children);
 }
 
 bool xsg::RenderList::wantsGroup(SoGroup* group)
@@ -150,7 +184,7 @@ bool xsg::RenderList::wantsGroup(SoGroup* group)
         return wantsToPatch(group);
     m_isViewDependent = m_isViewDependent || group->isViewDependent();
     m_openRecords.push_back(static_cast<std::uint32_t>(m_records.size()));
-    record(group, ownChanges(*group));
+    record(group, ownChanges(*group), group->isIsolating());
     return true;
 }
 
@@ -169,27 +203,56 @@ bool xsg::RenderList::wantsToPatch(const SoGroup* group)
         giveUp();
         return false;
     }
+    m_nextPatch = {nullptr, static_cast<std::uint32_t>(m_cursor)};
+    if (!m_reaches && group->getNumChildren() >= SoGroup::ManyChildren)
+        planPatch(*group, known.wholeCount);
     known.wholeCount = group->getChangeCount();
     ++m_cursor;
     return true;
 }
 
+// Visits only what changed, where that is known and reaches nothing beside it.
+void xsg::RenderList::planPatch(const SoGroup& group, std::uint32_t since)
+{
+    const auto known = m_childRecords.find(m_nextPatch.record);
+    m_plan.clear();
+    if (known == m_childRecords.end() || !group.findTouched(since, m_plan))
+        return;
+    const ChildRecords& children = known->second;
+    const auto isIsolating = [&](std::uint32_t place) { return m_records[children.records[place]].isIsolating; };
+    if (!std::all_of(m_plan.begin(), m_plan.end(), isIsolating))
+        return;
+    const auto middle = static_cast<std::ptrdiff_t>(m_plan.size());
+    m_plan.insert(m_plan.end(), children.reaching.begin(), children.reaching.end());
+    std::inplace_merge(m_plan.begin(), m_plan.begin() + middle, m_plan.end());
+    m_nextPatch.children = &children;
+}
+
 void xsg::RenderList::enterGroup(SoGroup* group)
 {
-    if (group == m_view.highlight)
-        ++m_highlightDepth;
-    if (m_isPatching && group->isIsolating())
+    if (!m_isPatching)
+        return;
+    if (group->isIsolating())
         m_reachesBefore.push_back(m_reaches ? 1 : 0);
+    m_openPatches.push_back(m_nextPatch);
+    if (m_nextPatch.children)
+        visitOnly(m_plan);
 }
 
 void xsg::RenderList::leaveGroup(SoGroup* group)
 {
-    if (group == m_view.highlight)
-        --m_highlightDepth;
     if (!m_isPatching) {
-        m_records[m_openRecords.back()].end = static_cast<std::uint32_t>(m_records.size());
+        const std::uint32_t own = m_openRecords.back();
         m_openRecords.pop_back();
-    } else if (group->isIsolating()) {
+        m_records[own].end = static_cast<std::uint32_t>(m_records.size());
+        if (group->getNumChildren() >= SoGroup::ManyChildren)
+            recordChildren(*group, own);
+        return;
+    }
+    if (m_openPatches.back().children)
+        m_cursor = m_records[m_openPatches.back().record].end;
+    m_openPatches.pop_back();
+    if (group->isIsolating()) {
         m_reaches = m_reachesBefore.back() != 0;
         m_reachesBefore.pop_back();
     }
@@ -258,11 +321,13 @@ void xsg::RenderList::patchShape(SoShape* shape)
     }
     std::uint32_t at = known.firstItem;
     if (isVisible)
-        state().forEachInstance([&](const SbMatrix& matrix) { patchItem(m_items[at++], shape, matrix); });
+        state().forEachInstance([&](const SbMatrix& matrix) { patchItem(at++, shape, matrix); });
 }
 
-void xsg::RenderList::patchItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld)
+void xsg::RenderList::patchItem(std::uint32_t index, const SoShape* shape, const SbMatrix& toWorld)
 {
+    RenderItem& item = m_items[index];
+    m_changes.items.push_back(index);
     GpuGeometry* geometry = item.geometry;
     const int surroundings = item.surroundings;
     const bool isTransparent = item.isTransparent;
@@ -291,14 +356,19 @@ void xsg::RenderList::fillItem(RenderItem& item, const SoShape* shape, const SbM
     item.surroundings = surroundingsNow();
     const GpuTexture* texture = m_lastSurroundings.texture;
     item.isTransparent = material.transparency > 0 || (texture && texture->hasAlpha);
-    item.isHighlighted = m_highlightDepth > 0 || shape == m_view.highlight;
 }
 
-void xsg::RenderList::collectBox()
+void xsg::RenderList::collectItemsOf(std::uint64_t nodeId, std::vector<std::uint32_t>& items) const
 {
-    m_box = {};
-    for (const RenderItem& item : m_items)
-        m_box.extendBy(item.box);
+    for (std::size_t i = 0; i < m_records.size(); ++i) {
+        if (m_records[i].nodeId != nodeId)
+            continue;
+        const std::uint32_t last = std::max(m_records[i].end, static_cast<std::uint32_t>(i) + 1) - 1;
+        for (std::uint32_t item = m_records[i].firstItem; item < firstItemAfter(last); ++item) {
+            if (m_items[item].geometry->indexCount > 0)
+                items.push_back(item);
+        }
+    }
 }
 
 int xsg::RenderList::surroundingsNow()

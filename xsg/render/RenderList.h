@@ -3,6 +3,7 @@
 
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/base/SbBox.h>
+#include <xsg/actions/ChunkBoxes.h>
 #include <xsg/render/GeometryStore.h>
 #include <xsg/render/Shader.h>
 #include <xsg/render/SharedLists.h>
@@ -36,7 +37,6 @@ struct RenderItem {
     GpuGeometry* geometry = nullptr;
     int surroundings = 0;
     bool isTransparent = false;
-    bool isHighlighted = false;
 };
 
 // An application's own drawing, between the things before it and after it.
@@ -53,8 +53,13 @@ class RenderList : private SoTraversal
 public:
     struct View {
         const SoCamera* camera = nullptr; // null: the first camera in the scene
-        const SoNode* highlight = nullptr;
         SbVec3f eye;
+    };
+    // What is different from what was there when changes were last taken.
+    struct Changes {
+        bool all = false;
+        bool grouping = false; // what an item shares with its neighbours; the orders may be others
+        std::vector<std::uint32_t> items;
     };
 
     // What a scene unfolds to beyond this is left out.
@@ -63,6 +68,9 @@ public:
     // Brings the list up to date; true when something had changed.
     bool update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures);
     void clear();
+    Changes takeChanges() { return std::exchange(m_changes, {}); }
+    // Appends what the node, or what is below it, has drawn.
+    void collectItemsOf(std::uint64_t nodeId, std::vector<std::uint32_t>& items) const;
 
     const std::vector<RenderItem>& getItems() const { return m_items; }
     // Items by surroundings, then geometry.
@@ -93,20 +101,33 @@ private:
         std::uint32_t wholeCount;  // of a group: with everything below
         std::uint32_t firstItem;   // what a shape added
         std::uint32_t end;         // of a group: the place after its last descendant
+        bool isIsolating;
+    };
+    // Where the children of a group with many of them are recorded.
+    struct ChildRecords {
+        std::vector<std::uint32_t> records;
+        std::vector<std::uint32_t> reaching; // places of children that others depend on
+    };
+    // A group that is open while patching; without `children` all of them are visited.
+    struct OpenPatch {
+        const ChildRecords* children;
+        std::uint32_t record;
     };
 
     void build(SoNode* root);
     bool patch(SoNode* root);
     bool follow(const SoNode* node);
     void giveUp();
-    void record(const SoNode* node, std::uint32_t changeCount);
+    void record(const SoNode* node, std::uint32_t changeCount, bool isIsolating = false);
+    void recordChildren(const SoGroup& group, std::uint32_t record);
+    void planPatch(const SoGroup& group, std::uint32_t since);
     bool wantsToPatch(const SoGroup* group);
     void patchProperty(const SoNode* node, bool isCamera);
     void patchShape(SoShape* shape);
-    void patchItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld);
+    void patchItem(std::uint32_t index, const SoShape* shape, const SbMatrix& toWorld);
+    void patchBoxes();
     std::uint32_t firstItemAfter(std::size_t recordIndex) const;
     void fillItem(RenderItem& item, const SoShape* shape, const SbMatrix& toWorld);
-    void collectBox();
     int surroundingsNow();
     void sort();
 
@@ -118,12 +139,13 @@ private:
     std::vector<const Surroundings*> m_surroundings;
     Surroundings m_lastSurroundings;
     int m_lastSurroundingsIndex = -1;
+    ChunkBoxes m_boxes; // of the items
     SbBox3f m_box;
+    Changes m_changes;
     const SoCamera* m_camera = nullptr;
     SbMatrix m_cameraMatrix;
     bool m_hasLights = false;
     bool m_isViewDependent = false;
-    int m_highlightDepth = 0;
 
     // Lists that shapes have in common, so that equal ones are the same one however often the scene is
     // walked.
@@ -133,10 +155,15 @@ private:
 
     std::vector<Record> m_records;
     std::vector<std::uint32_t> m_openRecords; // of the groups that are open
+    std::unordered_map<std::uint32_t, ChildRecords> m_childRecords; // by the group's record
+    std::vector<OpenPatch> m_openPatches;
+    OpenPatch m_nextPatch{};
+    std::vector<std::uint32_t> m_plan;
     bool m_isPatching = false;
     bool m_gaveUp = false;
     bool m_reaches = false; // a change before this place reaches what is visited
     bool m_needsSorting = false;
+    std::size_t m_firstPatched = 0; // among the items of m_changes
     std::size_t m_cursor = 0;
     std::vector<char> m_reachesBefore; // of the isolating groups that are open
     std::size_t m_builtSurroundings = 0;

@@ -3,6 +3,8 @@
 #include <xsg/render/GlFunctions.h>
 #include <xsg/render/GlThread.h>
 
+#include <array>
+
 namespace
 {
 
@@ -31,15 +33,25 @@ class Canvas
 public:
     bool prepare(int width, int height, int samples)
     {
+        const std::array<int, 3> wanted{width, height, samples};
+        if (wanted == m_made)
+            return true;
+        m_made = {};
+        // What an application's drawing left unasked is none of ours.
+        for (int i = 0; i < 16 && glGetError() != GL_NO_ERROR; ++i) {
+        }
         glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer.get());
         attach(m_color.get(), GL_COLOR_ATTACHMENT0, GL_RGBA8, width, height, samples);
         attach(m_depth.get(), GL_DEPTH_ATTACHMENT, GL_DEPTH_COMPONENT24, width, height, samples);
-        return glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE &&
-               glGetError() == GL_NO_ERROR;
+        if (glCheckFramebufferStatus(GL_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE || glGetError() != GL_NO_ERROR)
+            return false;
+        m_made = wanted;
+        return true;
     }
     void bind(GLenum target) { glBindFramebuffer(target, m_framebuffer.get()); }
     void release()
     {
+        m_made = {};
         m_framebuffer.release();
         m_color.release();
         m_depth.release();
@@ -53,6 +65,7 @@ private:
         glFramebufferRenderbuffer(GL_FRAMEBUFFER, place, GL_RENDERBUFFER, buffer);
     }
 
+    std::array<int, 3> m_made{}; // width, height and samples
     xsg::GlObject<FramebufferTraits> m_framebuffer;
     xsg::GlObject<RenderbufferTraits> m_color;
     xsg::GlObject<RenderbufferTraits> m_depth;

@@ -2,19 +2,20 @@
 
 #include <xsg/base/SbTime.h>
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/errors/SoGLError.h>
-#include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoDrawingCallback.h>
-#include <xsg/nodes/SoFog.h>
 #include <xsg/nodes/SoPerspectiveCamera.h>
-#include <xsg/nodes/SoSeparator.h>
-#include <xsg/render/Frustum.h>
-#include <xsg/render/RenderList.h>
+#include <xsg/render/DrawState.h>
+#include <xsg/render/GlMessages.h>
+#include <xsg/render/InstanceList.h>
 
 namespace
 {
 
 constexpr GLenum Primitives[] = {GL_TRIANGLES, GL_LINES, GL_POINTS};
+// Drawing this many corners that are out of sight costs less than another call.
+constexpr std::int64_t CheapCorners = 256;
+// Of more copies than this in a row nobody sees which of one's sides was blended first.
+constexpr std::uint32_t FewCopies = 64;
 
 void feedCounters(const SoRenderer::Statistics& frame)
 {
@@ -31,14 +32,11 @@ void feedCounters(const SoRenderer::Statistics& frame)
     xsg::feeds.textureBytes.add(frame.textureBytes);
 }
 
-// One error a frame is told; more of them would only repeat it.
-void reportErrors()
+// Whether the sides of what this places are turned inside out.
+bool isMirrored(const xsg::InstanceData& instance)
 {
-    const GLenum first = glGetError();
-    for (int i = 0; i < 16 && glGetError() != GL_NO_ERROR; ++i) {
-    }
-    if (first != GL_NO_ERROR)
-        SoGLError::post(first, "SoRenderer");
+    const float* m = instance.matrix;
+    return cross(SbVec3f(m[0], m[1], m[2]), SbVec3f(m[4], m[5], m[6])).dot(SbVec3f(m[8], m[9], m[10])) < 0;
 }
 
 // Where a point is drawn from: the eye's matrices for one frame.
@@ -60,7 +58,7 @@ public:
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
-    const SoNode* highlight = nullptr;
+    std::uint64_t highlight = 0; // number of a node
     SbColor highlightColor{1, 0.6F, 0.1F};
     bool headlight = true;
     std::string error;
@@ -68,37 +66,46 @@ public:
     xsg::RenderList list;
 
 private:
+    using Faces = xsg::DrawState::Faces;
+    struct Uploads {
+        std::int64_t buffers;
+        std::int64_t bytes;
+        std::int64_t textureBytes;
+    };
+
     bool prepare();
-    void prepareFrame(int width, int height);
     void clearPicture();
+    void drawScene(SoNode* root, const SoCamera* camera, int width, int height);
     void updateList(SoNode* root, const SoCamera* camera);
     SbVec3f eyeOf(const SoCamera& camera) const;
     EyeView lookThrough(const SoCamera* camera, float aspect);
-    void drawOpaque(const xsg::Frustum& frustum);
-    void drawTransparent(const xsg::Frustum& frustum, const EyeView& eye);
-    void drawHighlighted();
+    void drawOpaque(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum);
+    void drawTransparent(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum,
+                         const EyeView& eye);
+    void drawHighlighted(const xsg::RenderList::Changes& changes);
     void drawCallbacks(const EyeView& eye, int width, int height);
-    void add(const xsg::RenderItem& item);
-    void drawCollected();
-    void drawBatch(const xsg::RenderItem& first, std::size_t from, std::size_t count);
-    void setSurroundings(int index);
-    void setPolygonMode(const SoDrawStyle* style);
-    void finishFrame();
+    void drawVisible(xsg::InstanceList& instances);
+    void drawBothSides(xsg::InstanceList& instances, const xsg::Run& run);
+    void drawRun(xsg::InstanceList& instances, const xsg::Run& run);
+    void countDrawn(const xsg::GpuGeometry& geometry, std::int64_t copies);
+    Uploads countUploads() const;
 
+    xsg::GlMessages m_messages;
     xsg::Shader m_shader;
+    xsg::DrawState m_state{m_shader};
     xsg::GeometryStore m_geometry;
     xsg::TextureStore m_textures;
-    xsg::GlBuffer m_instances;
-    // Of what is drawn next: its data for OpenGL, and the item each comes from.
-    std::vector<xsg::InstanceData> m_data;
-    std::vector<const xsg::RenderItem*> m_drawn;
+    xsg::InstanceList m_opaque;
+    xsg::InstanceList m_transparent;
+    xsg::InstanceList m_highlighted;
+    std::vector<xsg::Run> m_visible;
     std::vector<std::pair<float, std::uint32_t>> m_depths;
-    int m_currentSurroundings = -1;
+    std::vector<std::uint32_t> m_order;
+    std::vector<std::uint32_t> m_highlightOrder;
+    std::uint64_t m_highlightCollected = 0;
     SoRef<SoPerspectiveCamera> m_ownCamera;
     std::vector<SoLightSource> m_headlights;
     SbVec3f m_sceneEye; // of the scene's own camera
-    int m_width = 0;
-    int m_height = 0;
 };
 
 bool SoRenderer::Impl::prepare()
@@ -108,6 +115,7 @@ bool SoRenderer::Impl::prepare()
                 std::to_string(epoxy_gl_version() / 10) + "." + std::to_string(epoxy_gl_version() % 10) + ".";
         return false;
     }
+    m_messages.listen();
     return m_shader.prepare(error);
 }
 
@@ -120,50 +128,48 @@ bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, i
         return true;
     if (!prepare())
         return false;
-    prepareFrame(width, height);
+    m_state.begin(width, height, m_headlights);
     clearPicture();
-    if (root) {
-        const std::int64_t uploads = m_geometry.getUploads();
-        const std::int64_t bytes = m_geometry.getUploadedBytes();
-        const std::int64_t textureBytes = m_textures.getUploadedBytes();
-        updateList(root, camera);
-        const EyeView eye = lookThrough(camera, static_cast<float>(width) / static_cast<float>(height));
-        const xsg::Frustum frustum(eye.viewProjection);
-        m_shader.use();
-        m_shader.setView(eye.viewProjection, eye.eye, width, height);
-        m_shader.setOverride({});
-        drawOpaque(frustum);
-        drawCallbacks(eye, width, height);
-        drawTransparent(frustum, eye);
-        drawHighlighted();
-        statistics.shapes = static_cast<std::int64_t>(list.getOpaque().size() + list.getTransparent().size());
-        statistics.bufferUploads += m_geometry.getUploads() - uploads;
-        statistics.uploadedBytes += m_geometry.getUploadedBytes() - bytes;
-        statistics.textureBytes = m_textures.getUploadedBytes() - textureBytes;
-    }
-    finishFrame();
-    reportErrors();
+    if (root)
+        drawScene(root, camera, width, height);
+    m_state.end();
+    m_messages.collect("SoRenderer");
     statistics.seconds = time.getElapsed();
     feedCounters(statistics);
     return true;
 }
 
-void SoRenderer::Impl::prepareFrame(int width, int height)
+void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width, int height)
 {
-    m_width = width;
-    m_height = height;
-    m_currentSurroundings = -1;
-    // The context may be shared with a toolkit that leaves its own settings behind.
-    glViewport(0, 0, width, height);
-    glEnable(GL_DEPTH_TEST);
-    glDepthFunc(GL_LEQUAL);
-    glDepthMask(GL_TRUE);
-    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    glDisable(GL_SCISSOR_TEST);
-    glDisable(GL_STENCIL_TEST);
-    glDisable(GL_CULL_FACE);
-    glDisable(GL_BLEND);
-    glActiveTexture(GL_TEXTURE0);
+    const Uploads before = countUploads();
+    updateList(root, camera);
+    const xsg::RenderList::Changes changes = list.takeChanges();
+    const EyeView eye = lookThrough(camera, static_cast<float>(width) / static_cast<float>(height));
+    const xsg::Frustum frustum(eye.viewProjection);
+    m_shader.use();
+    m_shader.setView(eye.viewProjection, eye.eye, width, height);
+    m_shader.setOverride({});
+    m_state.setEdgesOnly(wireframe);
+    drawOpaque(changes, frustum);
+    drawCallbacks(eye, width, height);
+    drawTransparent(changes, frustum, eye);
+    drawHighlighted(changes);
+    statistics.shapes = static_cast<std::int64_t>(list.getOpaque().size() + list.getTransparent().size());
+    statistics.stateChanges += m_state.getChanges();
+    const Uploads after = countUploads();
+    statistics.bufferUploads = after.buffers - before.buffers;
+    statistics.uploadedBytes = after.bytes - before.bytes;
+    statistics.textureBytes = after.textureBytes - before.textureBytes;
+}
+
+SoRenderer::Impl::Uploads SoRenderer::Impl::countUploads() const
+{
+    Uploads sum{m_geometry.getUploads(), m_geometry.getUploadedBytes(), m_textures.getUploadedBytes()};
+    for (const xsg::InstanceList* each : {&m_opaque, &m_transparent, &m_highlighted}) {
+        sum.buffers += each->getUploads();
+        sum.bytes += each->getUploadedBytes();
+    }
+    return sum;
 }
 
 void SoRenderer::Impl::clearPicture()
@@ -179,7 +185,7 @@ void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
     // distance: a second walk then sees it where it is. The camera of the last walk may be gone by now.
     for (int walk = 0; walk < 2; ++walk) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
-        if (!list.update(root, {camera, highlight, eye}, m_geometry, m_textures))
+        if (!list.update(root, {camera, eye}, m_geometry, m_textures))
             return;
         m_sceneEye = list.getCamera() ? eyeOf(*list.getCamera()) : SbVec3f();
         statistics.nodes += list.getNumVisited();
@@ -217,67 +223,108 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
     return eye;
 }
 
-void SoRenderer::Impl::add(const xsg::RenderItem& item)
+void SoRenderer::Impl::drawOpaque(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum)
 {
-    m_data.push_back(item.instance);
-    m_drawn.push_back(&item);
+    m_opaque.update(list.getOpaque(), list.getItems(), changes);
+    m_opaque.findVisible(frustum, list.getItems(), m_visible);
+    std::uint32_t seen = 0;
+    for (const xsg::Run& run : m_visible)
+        seen += run.end - run.first;
+    statistics.culled += m_opaque.getSize() - seen;
+    drawVisible(m_opaque);
 }
 
-void SoRenderer::Impl::drawOpaque(const xsg::Frustum& frustum)
+// What is in sight, batch by batch.
+void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
 {
-    const auto& items = list.getItems();
-    for (const std::uint32_t i : list.getOpaque()) {
-        // Text keeps its size on the screen, so its box says little about what of it is seen.
-        if (items[i].geometry->isScreenSpace || frustum.mayShow(items[i].box))
-            add(items[i]);
-        else
-            ++statistics.culled;
+    auto run = m_visible.begin();
+    for (const xsg::Run& batch : instances.getBatches()) {
+        const xsg::GpuGeometry& geometry = *instances.getItem(list.getItems(), batch.first).geometry;
+        while (run != m_visible.end() && run->first < batch.end) {
+            xsg::Run part{std::max(run->first, batch.first), std::min(run->end, batch.end)};
+            const auto isCloseBehind = [&](const xsg::Run& next) {
+                return next.first < batch.end && std::int64_t{next.first - part.end} * geometry.indexCount <= CheapCorners;
+            };
+            while (run->end < batch.end && std::next(run) != m_visible.end() && isCloseBehind(*std::next(run)))
+                part.end = std::min((++run)->end, batch.end);
+            drawRun(instances, part);
+            countDrawn(geometry, part.end - part.first);
+            if (run->end > batch.end)
+                break; // goes on in the next batch
+            ++run;
+        }
     }
-    drawCollected();
 }
 
-void SoRenderer::Impl::drawTransparent(const xsg::Frustum& frustum, const EyeView& eye)
+void SoRenderer::Impl::drawTransparent(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum,
+                                       const EyeView& eye)
 {
-    if (list.getTransparent().empty())
-        return;
     const auto& items = list.getItems();
     m_depths.clear();
     for (const std::uint32_t i : list.getTransparent()) {
-        if (frustum.mayShow(items[i].box))
+        if (items[i].geometry->isScreenSpace || frustum.mayShow(items[i].box))
             m_depths.emplace_back(eye.view.multPoint(items[i].box.getCenter())[2], i);
         else
             ++statistics.culled;
     }
     std::sort(m_depths.begin(), m_depths.end()); // the eye looks along negative z: the farthest comes first
+    m_order.clear();
     for (const auto& [depth, i] : m_depths)
-        add(items[i]);
+        m_order.push_back(i);
+    m_transparent.update(m_order, items, changes);
+    if (m_transparent.isEmpty())
+        return;
     glEnable(GL_BLEND);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     glDepthMask(GL_FALSE);
-    drawCollected();
+    for (const xsg::Run& batch : m_transparent.getBatches()) {
+        drawBothSides(m_transparent, batch);
+        countDrawn(*m_transparent.getItem(items, batch.first).geometry, batch.end - batch.first);
+    }
+    m_state.setFaces(Faces::Both, false);
     glDepthMask(GL_TRUE);
     glDisable(GL_BLEND);
 }
 
-void SoRenderer::Impl::drawHighlighted()
+// A body's far side is blended before its near side.
+void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Run& run)
 {
-    if (!highlight)
+    const auto& items = list.getItems();
+    const bool isFlat = instances.getItem(items, run.first).geometry->kind != SoGeometry::Kind::Triangles;
+    if (isFlat || run.end - run.first > FewCopies) {
+        m_state.setFaces(Faces::Both, false);
+        drawRun(instances, run);
         return;
-    for (const xsg::RenderItem& item : list.getItems()) {
-        if (item.isHighlighted && item.geometry->indexCount > 0)
-            add(item);
     }
-    if (m_drawn.empty())
+    for (std::uint32_t place = run.first; place < run.end; ++place) {
+        const bool mirrored = isMirrored(instances.getItem(items, place).instance);
+        for (const Faces faces : {Faces::Back, Faces::Front}) {
+            m_state.setFaces(faces, mirrored);
+            drawRun(instances, {place, place + 1});
+        }
+    }
+}
+
+void SoRenderer::Impl::drawHighlighted(const xsg::RenderList::Changes& changes)
+{
+    if (changes.all || highlight != m_highlightCollected) {
+        m_highlightOrder.clear();
+        if (highlight != 0)
+            list.collectItemsOf(highlight, m_highlightOrder);
+        m_highlightCollected = highlight;
+    }
+    m_highlighted.update(m_highlightOrder, list.getItems(), changes);
+    if (m_highlighted.isEmpty())
         return;
     m_shader.setOverride(SbVec4f(highlightColor[0], highlightColor[1], highlightColor[2], 1));
-    const bool before = std::exchange(wireframe, true);
-    m_currentSurroundings = -1;
+    m_state.setEdgesOnly(true);
     glEnable(GL_POLYGON_OFFSET_LINE);
     glPolygonOffset(-1, -1);
-    drawCollected();
+    for (const xsg::Run& batch : m_highlighted.getBatches()) {
+        drawRun(m_highlighted, batch);
+        countDrawn(*m_highlighted.getItem(list.getItems(), batch.first).geometry, batch.end - batch.first);
+    }
     glDisable(GL_POLYGON_OFFSET_LINE);
-    wireframe = before;
-    m_currentSurroundings = -1;
 }
 
 void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
@@ -286,104 +333,29 @@ void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
         if (!item.node->getCallback())
             continue;
         item.node->getCallback()({item.modelMatrix, eye.view, eye.projection, width, height});
-        prepareFrame(width, height);
+        statistics.stateChanges += m_state.getChanges();
+        m_state.begin(width, height, m_headlights);
         m_shader.use();
     }
 }
 
-// Neighbours that share surroundings and geometry are drawn by one call.
-void SoRenderer::Impl::drawCollected()
+void SoRenderer::Impl::drawRun(xsg::InstanceList& instances, const xsg::Run& run)
 {
-    if (m_drawn.empty())
-        return;
-    glBindBuffer(GL_ARRAY_BUFFER, m_instances.get());
-    const std::size_t bytes = m_data.size() * sizeof(xsg::InstanceData);
-    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(bytes), m_data.data(), GL_STREAM_DRAW);
-    ++statistics.bufferUploads;
-    statistics.uploadedBytes += static_cast<std::int64_t>(bytes);
-    for (std::size_t from = 0; from < m_drawn.size();) {
-        const xsg::RenderItem& first = *m_drawn[from];
-        std::size_t to = from + 1;
-        while (to < m_drawn.size() && m_drawn[to]->geometry == first.geometry &&
-               m_drawn[to]->surroundings == first.surroundings)
-            ++to;
-        drawBatch(first, from, to - from);
-        from = to;
-    }
-    m_data.clear();
-    m_drawn.clear();
+    const xsg::RenderItem& first = instances.getItem(list.getItems(), run.first);
+    const xsg::GpuGeometry& geometry = *first.geometry;
+    m_state.setSurroundings(list.getSurroundings(first.surroundings));
+    m_state.setGeometry(*first.geometry);
+    instances.bind(run.first);
+    glDrawElementsInstanced(Primitives[static_cast<int>(geometry.kind)], geometry.indexCount, GL_UNSIGNED_INT,
+                            nullptr, static_cast<GLsizei>(run.end - run.first));
+    ++statistics.drawCalls;
 }
 
-void SoRenderer::Impl::drawBatch(const xsg::RenderItem& first, std::size_t from, std::size_t count)
+void SoRenderer::Impl::countDrawn(const xsg::GpuGeometry& geometry, std::int64_t copies)
 {
-    xsg::GpuGeometry& geometry = *first.geometry;
-    setSurroundings(first.surroundings);
-    m_shader.setScreenSpace(geometry.isScreenSpace);
-    glBindVertexArray(geometry.vertexArray.get());
-    glBindBuffer(GL_ARRAY_BUFFER, m_instances.get());
-    // What a geometry lacks: no normal is drawn without light, a red below 0 takes the material's colour.
-    glVertexAttrib3f(xsg::NormalAttribute, 0, 0, 0);
-    glVertexAttrib2f(xsg::TextureAttribute, 0, 0);
-    glVertexAttrib3f(xsg::ColorAttribute, -1, -1, -1);
-    for (GLuint i = 0; i < 8; ++i) {
-        const std::size_t offset = from * sizeof(xsg::InstanceData) + i * 4 * sizeof(float);
-        const GLuint attribute = xsg::InstanceAttribute + i;
-        glVertexAttribPointer(attribute, 4, GL_FLOAT, GL_FALSE, sizeof(xsg::InstanceData),
-                              reinterpret_cast<const void*>(offset));
-        glVertexAttribDivisor(attribute, 1);
-        glEnableVertexAttribArray(attribute);
-    }
-    glDrawElementsInstanced(Primitives[static_cast<int>(geometry.kind)], geometry.indexCount, GL_UNSIGNED_INT,
-                            nullptr, static_cast<GLsizei>(count));
-    ++statistics.drawCalls;
-    const auto copies = static_cast<std::int64_t>(count);
     statistics.points += geometry.pointCount * copies;
     if (geometry.kind == SoGeometry::Kind::Triangles)
         statistics.triangles += geometry.indexCount / 3 * copies;
-}
-
-void SoRenderer::Impl::setSurroundings(int index)
-{
-    if (index == m_currentSurroundings)
-        return;
-    m_currentSurroundings = index;
-    ++statistics.stateChanges;
-    const xsg::Surroundings& now = list.getSurroundings(index);
-    static const std::vector<SbPlane> noPlanes;
-    m_shader.setLights(now.lights ? *now.lights : m_headlights, now.ambientLight);
-    m_shader.setClipPlanes(now.clipPlanes ? *now.clipPlanes : noPlanes);
-    if (now.texture)
-        glBindTexture(GL_TEXTURE_2D, now.texture->texture.get());
-    m_shader.setTexture(now.textureModel, now.textureMatrix ? now.textureMatrix->front() : SbMatrix());
-    if (now.fog)
-        m_shader.setFog(now.fog->kind.getValue(), now.fog->color.getValue(), now.fog->visibility.getValue());
-    else
-        m_shader.setFog(-1, {}, 1);
-    setPolygonMode(now.drawStyle);
-}
-
-void SoRenderer::Impl::setPolygonMode(const SoDrawStyle* style)
-{
-    const int kind = style && !style->style.isIgnored() ? style->style.getValue() : SoDrawStyle::Filled;
-    const bool edges = wireframe || kind == SoDrawStyle::Lines;
-    glPolygonMode(GL_FRONT_AND_BACK, edges ? GL_LINE : kind == SoDrawStyle::Points ? GL_POINT : GL_FILL);
-    GLfloat widths[2] = {1, 1};
-    glGetFloatv(GL_ALIASED_LINE_WIDTH_RANGE, widths);
-    const float width = style ? style->lineWidth.getValue() : 1.0F;
-    glLineWidth(width > widths[0] ? std::min(width, widths[1]) : widths[0]);
-    const float size = style ? style->pointSize.getValue() : 1.0F;
-    glPointSize(size > 1 ? size : 1.0F);
-}
-
-void SoRenderer::Impl::finishFrame()
-{
-    glBindVertexArray(0);
-    glBindBuffer(GL_ARRAY_BUFFER, 0);
-    glBindTexture(GL_TEXTURE_2D, 0);
-    glUseProgram(0);
-    glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    for (GLenum i = 0; i < xsg::Shader::MaxClipPlanes; ++i)
-        glDisable(GL_CLIP_DISTANCE0 + i);
 }
 
 void SoRenderer::Impl::releaseGL()
@@ -392,7 +364,8 @@ void SoRenderer::Impl::releaseGL()
     m_shader.release();
     m_geometry.release();
     m_textures.release();
-    m_instances.release();
+    for (xsg::InstanceList* each : {&m_opaque, &m_transparent, &m_highlighted})
+        each->release();
 }
 
 SoRenderer::SoRenderer()
@@ -430,12 +403,22 @@ void SoRenderer::setWireframe(bool on)
 
 void SoRenderer::setHighlight(const SoNode* node)
 {
-    m_impl->highlight = node;
+    m_impl->highlight = node ? node->getNodeId() : 0;
+}
+
+void SoRenderer::setHighlightedNumber(std::uint64_t nodeId)
+{
+    m_impl->highlight = nodeId;
 }
 
 void SoRenderer::setHighlightColor(const SbColor& color)
 {
     m_impl->highlightColor = color;
+}
+
+bool SoRenderer::wantsDebugContext()
+{
+    return xsg::GlMessages::areWanted();
 }
 
 void SoRenderer::setHeadlight(bool on)

@@ -1,0 +1,51 @@
+// OpenGL's settings while a frame is drawn: sets what the next thing needs, and only what differs from what is set
+// already.
+#pragma once
+
+#include <xsg/render/RenderList.h>
+
+namespace xsg
+{
+
+class DrawState
+{
+public:
+    // Which sides of surfaces are drawn.
+    enum class Faces { Both, Back, Front };
+
+    explicit DrawState(Shader& shader)
+        : m_shader(shader)
+    {
+    }
+    // Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene has
+    // no light; they stay as they are as long as the frame is drawn.
+    void begin(int width, int height, const std::vector<SoLightSource>& headlights);
+    // Puts back what would surprise others.
+    void end();
+
+    void setEdgesOnly(bool on);
+    void setSurroundings(const Surroundings& now);
+    void setGeometry(GpuGeometry& geometry);
+    void setFaces(Faces faces, bool isMirrored);
+
+    // Settings that were changed since begin().
+    std::int64_t getChanges() const { return m_changes; }
+
+private:
+    void setTexture(const Surroundings& now);
+    void setFog(const SoFog* fog);
+    void setDrawStyle(const SoDrawStyle* style);
+
+    Shader& m_shader;
+    const std::vector<SoLightSource>* m_headlights = nullptr;
+    Surroundings m_now;
+    bool m_isKnown = false; // m_now is what is set
+    GpuGeometry* m_geometry = nullptr;
+    Faces m_faces = Faces::Both;
+    bool m_isMirrored = false;
+    bool m_edgesOnly = false;
+    float m_lineWidths[2] = {0, 0}; // that this system can draw
+    std::int64_t m_changes = 0;
+};
+
+} // namespace xsg

@@ -1,0 +1,157 @@
+#include <xsg/render/InstanceList.h>
+
+namespace
+{
+
+GLsizeiptr bytesOf(std::size_t instances)
+{
+    return static_cast<GLsizeiptr>(instances * sizeof(xsg::InstanceData));
+}
+
+// Text keeps its size on the screen, so its box says little about what of it is seen.
+SbBox3f sightBoxOf(const xsg::RenderItem& item)
+{
+    constexpr float Far = 1e18F;
+    return item.geometry->isScreenSpace ? SbBox3f(-Far, -Far, -Far, Far, Far, Far) : item.box;
+}
+
+} // namespace
+
+void xsg::InstanceList::update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
+                               const RenderList::Changes& changes)
+{
+    if (changes.all || order != m_order) {
+        for (const std::uint32_t i : m_order) {
+            if (i < m_places.size())
+                m_places[i] = Nowhere;
+        }
+        m_order = order;
+        m_hasChunks = false;
+        collectPlaces(items.size());
+        collectBatches(items);
+        uploadAll(items);
+        return;
+    }
+    if (changes.grouping)
+        collectBatches(items);
+    if (!changes.items.empty())
+        uploadChanged(items, changes.items);
+}
+
+void xsg::InstanceList::collectPlaces(std::size_t itemCount)
+{
+    m_places.resize(m_order.empty() ? 0 : itemCount, Nowhere);
+    for (std::uint32_t place = 0; place < getSize(); ++place)
+        m_places[m_order[place]] = place;
+}
+
+void xsg::InstanceList::collectBatches(const std::vector<RenderItem>& items)
+{
+    m_batches.clear();
+    const RenderItem* before = nullptr;
+    for (std::uint32_t place = 0; place < getSize(); ++place) {
+        const RenderItem& item = getItem(items, place);
+        if (!before || before->geometry != item.geometry || before->surroundings != item.surroundings)
+            m_batches.push_back({place, place});
+        m_batches.back().end = place + 1;
+        before = &item;
+    }
+}
+
+void xsg::InstanceList::uploadAll(const std::vector<RenderItem>& items)
+{
+    if (m_order.empty())
+        return;
+    m_staging.clear();
+    m_staging.reserve(m_order.size());
+    for (const std::uint32_t i : m_order)
+        m_staging.push_back(items[i].instance);
+    glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());
+    glBufferData(GL_ARRAY_BUFFER, bytesOf(m_staging.size()), m_staging.data(), GL_DYNAMIC_DRAW);
+    ++m_uploads;
+    m_uploadedBytes += bytesOf(m_staging.size());
+}
+
+void xsg::InstanceList::uploadChanged(const std::vector<RenderItem>& items,
+                                      const std::vector<std::uint32_t>& changed)
+{
+    m_changedPlaces.clear();
+    for (const std::uint32_t i : changed) {
+        if (i < m_places.size() && m_places[i] != Nowhere)
+            m_changedPlaces.push_back(m_places[i]);
+    }
+    std::sort(m_changedPlaces.begin(), m_changedPlaces.end());
+    if (m_hasChunks) {
+        const auto boxAt = [&](std::size_t place) { return sightBoxOf(items[m_order[place]]); };
+        std::size_t last = m_chunks.getNumChunks();
+        for (const std::uint32_t place : m_changedPlaces) {
+            if (ChunkBoxes::chunkOf(place) != last)
+                m_chunks.refresh(last = ChunkBoxes::chunkOf(place), boxAt);
+        }
+    }
+    // Many small pieces cost more than the whole.
+    if (m_changedPlaces.size() > 64 && m_changedPlaces.size() > m_order.size() / 4) {
+        uploadAll(items);
+        return;
+    }
+    if (!m_changedPlaces.empty())
+        glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());
+    for (std::size_t from = 0; from < m_changedPlaces.size();) {
+        const std::uint32_t first = m_changedPlaces[from];
+        m_staging.clear();
+        for (; from < m_changedPlaces.size() && m_changedPlaces[from] <= first + m_staging.size(); ++from) {
+            if (m_changedPlaces[from] == first + m_staging.size()) // else listed twice
+                m_staging.push_back(getItem(items, m_changedPlaces[from]).instance);
+        }
+        glBufferSubData(GL_ARRAY_BUFFER, bytesOf(first), bytesOf(m_staging.size()), m_staging.data());
+        ++m_uploads;
+        m_uploadedBytes += bytesOf(m_staging.size());
+    }
+}
+
+void xsg::InstanceList::findVisible(const Frustum& frustum, const std::vector<RenderItem>& items,
+                                    std::vector<Run>& visible)
+{
+    const auto boxAt = [&](std::size_t place) { return sightBoxOf(items[m_order[place]]); };
+    if (!std::exchange(m_hasChunks, true))
+        m_chunks.build(m_order.size(), boxAt);
+    visible.clear();
+    const auto add = [&](std::size_t first, std::size_t end) {
+        if (!visible.empty() && visible.back().end == first)
+            visible.back().end = static_cast<std::uint32_t>(end);
+        else
+            visible.push_back({static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(end)});
+    };
+    for (std::size_t chunk = 0; chunk < m_chunks.getNumChunks(); ++chunk) {
+        const Frustum::Sight sight = frustum.judge(m_chunks.getBox(chunk));
+        const std::size_t first = chunk * ChunkBoxes::Size;
+        const std::size_t end = m_chunks.endOf(chunk);
+        if (sight == Frustum::Sight::Inside) {
+            add(first, end);
+            continue;
+        }
+        for (std::size_t place = first; sight == Frustum::Sight::Partly && place < end; ++place) {
+            if (frustum.mayShow(boxAt(place)))
+                add(place, place + 1);
+        }
+    }
+}
+
+void xsg::InstanceList::bind(std::uint32_t place)
+{
+    glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());
+    for (GLuint i = 0; i < 8; ++i) {
+        const std::size_t offset = place * sizeof(InstanceData) + i * 4 * sizeof(float);
+        glVertexAttribPointer(InstanceAttribute + i, 4, GL_FLOAT, GL_FALSE, sizeof(InstanceData),
+                              reinterpret_cast<const void*>(offset));
+    }
+}
+
+void xsg::InstanceList::release()
+{
+    m_buffer.release();
+    m_order.clear();
+    m_places.clear();
+    m_batches.clear();
+    m_hasChunks = false;
+}

@@ -1,0 +1,61 @@
+// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is given
+// there again only where it changed.
+#pragma once
+
+#include <xsg/actions/ChunkBoxes.h>
+#include <xsg/render/Frustum.h>
+#include <xsg/render/RenderList.h>
+
+namespace xsg
+{
+
+// Neighbours in an order.
+struct Run {
+    std::uint32_t first = 0;
+    std::uint32_t end = 0;
+};
+
+class InstanceList
+{
+public:
+    // Brings the list to this order of items; needs to be told of all changes to the items.
+    void update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
+                const RenderList::Changes& changes);
+    bool isEmpty() const { return m_order.empty(); }
+    std::uint32_t getSize() const { return static_cast<std::uint32_t>(m_order.size()); }
+
+    // Neighbours that share surroundings and geometry, so that one call can draw them.
+    const std::vector<Run>& getBatches() const { return m_batches; }
+    // What may be in sight, in order.
+    void findVisible(const Frustum& frustum, const std::vector<RenderItem>& items, std::vector<Run>& visible);
+    const RenderItem& getItem(const std::vector<RenderItem>& items, std::uint32_t place) const
+    {
+        return items[m_order[place]];
+    }
+    // Lets the vertex array that is bound read its instances from this place on.
+    void bind(std::uint32_t place);
+    void release();
+
+    std::int64_t getUploads() const { return m_uploads; }
+    std::int64_t getUploadedBytes() const { return m_uploadedBytes; }
+
+private:
+    void uploadAll(const std::vector<RenderItem>& items);
+    void uploadChanged(const std::vector<RenderItem>& items, const std::vector<std::uint32_t>& changed);
+    void collectBatches(const std::vector<RenderItem>& items);
+    void collectPlaces(std::size_t itemCount);
+
+    static constexpr std::uint32_t Nowhere = 0xFFFFFFFF;
+    std::vector<std::uint32_t> m_order;
+    std::vector<std::uint32_t> m_places; // of each item in the order, or Nowhere
+    std::vector<Run> m_batches;
+    ChunkBoxes m_chunks;
+    bool m_hasChunks = false;
+    GlBuffer m_buffer;
+    std::vector<InstanceData> m_staging;
+    std::vector<std::uint32_t> m_changedPlaces;
+    std::int64_t m_uploads = 0;
+    std::int64_t m_uploadedBytes = 0;
+};
+
+} // namespace xsg
