@@ -1,8 +1,7 @@
 // What it costs to measure, pick, draw, read and write a world of separators, each with a transform and a
 // cube. The argument is the number of separators; time per separator should not grow with it.
+#include "Ratios.h"
 #include "world_scene.h"
-
-#include <benchmark/benchmark.h>
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
@@ -34,6 +33,7 @@ void boxAfresh(benchmark::State& state)
 void boxAfterOneChange(benchmark::State& state)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));
+    SoBoundingBoxAction().getBox(world.get());
     float x = 0;
     for (auto _ : state) {
         lastTransform(*world).translation.setValue(x += 0.001F, 0, 0);
@@ -47,6 +47,7 @@ void pick(benchmark::State& state)
     const auto world = makeWorld(static_cast<int>(state.range(0)));
     const SbVec3f target = lastTransform(*world).translation.getValue();
     SoRayPickAction action;
+    action.pick(world.get(), {{0, 0, 10}, {0, 0, -1}}); // remembers boxes
     for (auto _ : state)
         benchmark::DoNotOptimize(action.pick(world.get(), {target + SbVec3f(0, 0, 10), {0, 0, -1}}));
     perSeparator(state);
@@ -118,12 +119,28 @@ void readText(benchmark::State& state)
 BENCHMARK(boxAfresh)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(boxAfterOneChange)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(pick)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(drawUnchanged)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
-BENCHMARK(drawAfterOneChange)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(drawUnchanged)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(drawAfterOneChange)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(drawAfterAChangeOfChildren)
     ->RangeMultiplier(10)
     ->Range(1000, 100000)
-    ->Unit(benchmark::kMillisecond);
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK(writeText)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(readText)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
-BENCHMARK_MAIN();
+
+int main(int argc, char** argv)
+{
+    const auto growth = [](const char* what, const std::string& name) {
+        return bench::Ratio{what, name + "/100000", name + "/1000", "100 separators for each"};
+    };
+    return bench::run(argc, argv,
+                      {{"drawing 100,000: another child over one field", "drawAfterAChangeOfChildren/100000/real_time",
+                        "drawAfterOneChange/100000/real_time", ""},
+                       {"boxes of 100,000: all afresh over one field", "boxAfresh/100000", "boxAfterOneChange/100000", ""},
+                       growth("box afresh, growth with size", "boxAfresh"),
+                       growth("box after one change, growth with size", "boxAfterOneChange"),
+                       growth("picking, growth with size", "pick"),
+                       growth("writing, growth with size", "writeText"),
+                       growth("reading, growth with size", "readText")});
+}

@@ -23,7 +23,8 @@ namespace
 
 constexpr int Size = bench::EglContext::Size;
 
-// Each cube has its transform, its separator's counterpart; all share one geometry, as ours do.
+// A transform, which isolates itself, and a cube of its own in each place. The cubes share their points and
+// indices, as ours do in the end.
 struct OsgWorld {
     osg::ref_ptr<osg::Group> root = new osg::Group;
     osg::ref_ptr<osg::MatrixTransform> last;
@@ -68,7 +69,7 @@ OsgWorld makeOsgWorld(int separators)
     for (int i = 0; i < separators; ++i) {
         const SbVec3f place = worldPlace(i, side);
         world.last = new osg::MatrixTransform(osg::Matrix::translate(place[0], place[1], place[2]));
-        world.last->addChild(cube);
+        world.last->addChild(new osg::Geometry(*cube, osg::CopyOp::SHALLOW_COPY));
         world.root->addChild(world.last);
     }
     return world;
@@ -107,6 +108,7 @@ void osgBoxAfresh(benchmark::State& state)
 void ourBoxAfterOneChange(benchmark::State& state)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));
+    SoBoundingBoxAction().getBox(world.get());
     float x = 0;
     for (auto _ : state) {
         lastTransform(*world).translation.setValue(x += 0.001F, 0, 0);
@@ -119,6 +121,7 @@ void ourBoxAfterOneChange(benchmark::State& state)
 void osgBoxAfterOneChange(benchmark::State& state)
 {
     const OsgWorld world = makeOsgWorld(static_cast<int>(state.range(0)));
+    world.root->getBound();
     float x = 0;
     for (auto _ : state) {
         world.last->setMatrix(osg::Matrix::translate(x += 0.001F, 0, 0));
@@ -134,7 +137,7 @@ void ourPick(benchmark::State& state)
     const auto world = makeWorld(static_cast<int>(state.range(0)));
     const SbVec3f target = lastTransform(*world).translation.getValue();
     SoRayPickAction action;
-    bool found = true;
+    bool found = action.pick(world.get(), {{0, 0, 10}, {0, 0, -1}}).has_value(); // boxes are remembered
     for (auto _ : state)
         found = action.pick(world.get(), {target + SbVec3f(0, 0, 10), {0, 0, -1}}).has_value() && found;
     if (!found)
@@ -146,6 +149,7 @@ void osgPick(benchmark::State& state)
 {
     const OsgWorld world = makeOsgWorld(static_cast<int>(state.range(0)));
     const osg::Vec3d target = world.last->getMatrix().getTrans();
+    world.root->getBound(); // is remembered
     bool found = true;
     for (auto _ : state) {
         const osg::ref_ptr<osgUtil::LineSegmentIntersector> ray(new osgUtil::LineSegmentIntersector(

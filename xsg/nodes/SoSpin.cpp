@@ -3,6 +3,8 @@
 #include <xsg/base/SbRotation.h>
 #include <xsg/core/SoTypedImpl.h>
 
+#include <unordered_set>
+
 template class SoTyped<SoSpin, SoTransformation>;
 
 namespace
@@ -35,12 +37,33 @@ SbMatrix SoSpin::getMatrix() const
     return SbMatrix::rotation(SbRotation(axis.getValue(), static_cast<float>(turns * 6.283185307179586)));
 }
 
-bool SoSpin::advanceAll(SbTime elapsed)
+bool SoSpin::isTurning(const SoNode* root) const
+{
+    // One that stands in no scene turns nothing.
+    if (!on.getValue() || turnsPerSecond.getValue() == 0 || getParents().empty())
+        return false;
+    std::vector<const SoNode*> above(getParents().begin(), getParents().end());
+    std::unordered_set<const SoNode*> seen;
+    while (root && !above.empty() && above.back() != root) {
+        const SoNode* node = above.back();
+        above.pop_back();
+        if (seen.insert(node).second)
+            above.insert(above.end(), node->getParents().begin(), node->getParents().end());
+    }
+    return !above.empty();
+}
+
+bool SoSpin::isAnyTurning(const SoNode* root)
+{
+    const auto& spins = allSpins();
+    return std::any_of(spins.begin(), spins.end(), [&](const SoSpin* spin) { return spin->isTurning(root); });
+}
+
+bool SoSpin::advanceAll(SbTime elapsed, const SoNode* root)
 {
     bool any = false;
     for (SoSpin* spin : std::vector<SoSpin*>(allSpins())) {
-        // One that stands in no scene turns nothing.
-        if (!spin->on.getValue() || spin->getParents().empty())
+        if (!spin->isTurning(root))
             continue;
         spin->time.setValue(spin->time.getValue().getValue() + elapsed.getValue());
         any = true;

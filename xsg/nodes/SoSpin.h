@@ -22,12 +22,17 @@ public:
     SoSpin();
     SbMatrix getMatrix() const override;
 
-    // Lets `elapsed` pass for every one that is on; true when there was one, so that a picture needs to be
-    // drawn.
-    static bool advanceAll(SbTime elapsed);
+    // Lets `elapsed` pass for every one that is on and stands below `root`, or anywhere where that is null;
+    // true when there was one, so that a picture needs to be drawn.
+    static bool advanceAll(SbTime elapsed, const SoNode* root = nullptr);
+    // Whether time would turn anything there.
+    static bool isAnyTurning(const SoNode* root = nullptr);
 
 protected:
     ~SoSpin() override;
+
+private:
+    bool isTurning(const SoNode* root) const;
 };
 
 extern template class SoTyped<SoSpin, SoTransformation>;
