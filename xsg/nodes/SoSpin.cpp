@@ -2,6 +2,7 @@
 
 #include <xsg/base/SbRotation.h>
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/nodes/SoGroup.h>
 
 #include <unordered_set>
 
