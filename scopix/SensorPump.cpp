@@ -53,8 +53,6 @@ void SensorPump::turn()
     SbTime left;
     if (queue.getTimeToDeadline(left))
         m_due.start(milliseconds(left.getValue()));
-    else
-        m_due.stop();
 }
 
 void SensorPump::wakeUp(void* pump)

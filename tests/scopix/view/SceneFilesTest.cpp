@@ -39,7 +39,7 @@ private:
     SbString m_after;
 };
 
-// Does something to the next modal dialog once it is there.
+// Does something to the next modal dialog once it is there. The progress of a model that takes long to read asks nothing.
 class WithDialog : public QObject
 {
 public:
@@ -55,7 +55,7 @@ protected:
     void timerEvent(QTimerEvent* event) override
     {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || m_come)
+        if (!dialog || qobject_cast<QProgressDialog*>(dialog) || m_come)
             return;
         killTimer(event->timerId());
         m_come = true;

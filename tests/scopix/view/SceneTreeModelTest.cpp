@@ -220,6 +220,51 @@ TEST(SceneTreeLaziness, OpensABigSceneWithoutWalkingIt)
     EXPECT_EQ(std::count_if(all.begin(), all.end(), hasRow), 310);
 }
 
+// Counts how many rows are measured or painted.
+class CountingDelegate : public QStyledItemDelegate
+{
+public:
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        ++asked;
+        return QStyledItemDelegate::sizeHint(option, index);
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        ++asked;
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+    mutable int asked = 0;
+};
+
+TEST(SceneTreeLaziness, MeasuresAndPaintsOnlyWhatIsSeenOfAFlatGroup)
+{
+    const auto root = named("root");
+    const auto shared = named("below all");
+    for (int i = 0; i < 100000; ++i) {
+        SoRef<SoSeparator> child(new SoSeparator);
+        child->addChild(shared.get());
+        root->addChild(child.get());
+    }
+    const int before = shared->getRefCount();
+    SceneTreeView view;
+    CountingDelegate rows;
+    view.setItemDelegate(&rows);
+    view.resize(300, 400);
+    view.setScene(root.get());
+    view.show();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(view.getModel().rowCount(view.getModel().index(0, 0)), 100000);
+    EXPECT_GT(rows.asked, 10);
+    EXPECT_LT(rows.asked, 500);
+    rows.asked = 0;
+    view.showNode(root->getChild(99999));
+    EXPECT_EQ(view.currentIndex().row(), 99999);
+    QCoreApplication::processEvents();
+    EXPECT_LT(rows.asked, 500);
+    EXPECT_EQ(shared->getRefCount(), before) << "nobody looked below them";
+}
+
 TEST(SceneTreeDepth, TakesDownRowsNestedDeeperThanTheStack)
 {
     const auto root = named("root");

@@ -1,0 +1,1 @@
+scopix_add_bench(scene_tree Scopix::Host Qt5::Widgets benchmark::benchmark)
