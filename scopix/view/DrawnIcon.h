@@ -9,9 +9,8 @@ namespace scopix
 
 // `draw` paints on a square of `size` by `size`, without a pen at first.
 template <class Draw>
-QIcon drawnIcon(int size, Draw draw)
+void addDrawing(QIcon& icon, QIcon::Mode mode, int size, Draw draw)
 {
-    QIcon icon;
     for (const int scale : {1, 2}) {
         QPixmap pixmap(size * scale, size * scale);
         pixmap.fill(Qt::transparent);
@@ -21,8 +20,17 @@ QIcon drawnIcon(int size, Draw draw)
         painter.setPen(Qt::NoPen);
         draw(painter);
         painter.end();
-        icon.addPixmap(pixmap);
+        icon.addPixmap(pixmap, mode);
     }
+}
+
+// An icon that keeps its colours in a selected row, which styles would tint.
+template <class Draw>
+QIcon drawnIcon(int size, Draw draw)
+{
+    QIcon icon;
+    addDrawing(icon, QIcon::Normal, size, draw);
+    addDrawing(icon, QIcon::Selected, size, draw);
     return icon;
 }
 

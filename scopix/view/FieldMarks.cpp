@@ -24,10 +24,14 @@ Mark markOf(const SoField& field)
     return field.isDefault() ? Mark::Default : Mark::Changed;
 }
 
-void drawMark(QPainter& p, Mark mark)
+struct MarkColors {
+    QColor quiet;
+    QColor loud;
+};
+
+void drawMark(QPainter& p, Mark mark, const MarkColors& colors)
 {
-    const QColor quiet(0x8a, 0x93, 0x9c);
-    const QColor loud(0x4a, 0x90, 0xd9);
+    const auto& [quiet, loud] = colors;
     switch (mark) {
     case Mark::Changed:
         p.setBrush(loud);
@@ -47,6 +51,16 @@ void drawMark(QPainter& p, Mark mark)
         p.setPen(QPen(quiet, 1.2));
         p.drawEllipse(QPointF(7, 7), 3.0, 3.0);
     }
+}
+
+QIcon markIcon(Mark mark)
+{
+    const MarkColors onBase{QColor(0x8a, 0x93, 0x9c), QColor(0x4a, 0x90, 0xd9)};
+    const MarkColors onHighlight{QColor(0xd0, 0xd8, 0xe0), QColor(0xff, 0xff, 0xff)};
+    QIcon icon;
+    scopix::addDrawing(icon, QIcon::Normal, Size, [&](QPainter& p) { drawMark(p, mark, onBase); });
+    scopix::addDrawing(icon, QIcon::Selected, Size, [&](QPainter& p) { drawMark(p, mark, onHighlight); });
+    return icon;
 }
 
 // Colours beyond 0 to 1, and those that are no numbers, show the nearest that a screen has.
@@ -73,7 +87,7 @@ QVariant scopix::fieldMark(const SoField& field)
     const Mark mark = markOf(field);
     QIcon& icon = icons[static_cast<std::size_t>(mark)];
     if (icon.isNull())
-        icon = drawnIcon(Size, [=](QPainter& p) { drawMark(p, mark); });
+        icon = markIcon(mark);
     return icon;
 }
 

@@ -71,6 +71,19 @@ TEST_F(FieldList, MarksDefaultIgnoredAndConnected)
     EXPECT_TRUE(flag(FieldListModel::ConnectedRole));
 }
 
+TEST_F(FieldList, MarksAndPatchesAreSeenInASelectedRowToo)
+{
+    const auto icon = [&](SoField& field, int column, QIcon::Mode mode) {
+        return model.data(cell(field, column), Qt::DecorationRole).value<QIcon>().pixmap(14, mode).toImage();
+    };
+    material->transparency.setValue(0.5F);
+    nextTurn();
+    const QImage mark = icon(material->transparency, 0, QIcon::Selected);
+    EXPECT_GT(qGray(mark.pixel(mark.rect().center())), 200) << "light on the highlight";
+    const int value = FieldListModel::ValueColumn;
+    EXPECT_EQ(icon(material->emissiveColor, value, QIcon::Selected), icon(material->emissiveColor, value, QIcon::Normal));
+}
+
 TEST_F(FieldList, ShowsColoursAsPatches)
 {
     material->emissiveColor.setValue(1, 0, 0);

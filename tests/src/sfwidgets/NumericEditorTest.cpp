@@ -209,6 +209,17 @@ TYPED_TEST(NumericEditorTest, GoesWhileItIsFocusedAndTyped)
 
 // --- Ranges
 
+// A kind of material that somebody else adds.
+class Glass : public SoMaterial
+{
+public:
+    SoType getTypeId() const override
+    {
+        static const SoType type = SoType::createType(SoMaterial::getClassTypeId(), "Glass");
+        return type;
+    }
+};
+
 TEST(RealEditorTest, TakesTheUnitRangeInThreeKindsOfNodes)
 {
     TestHost host;
@@ -221,10 +232,12 @@ TEST(RealEditorTest, TakesTheUnitRangeInThreeKindsOfNodes)
     const SoRef<SoComplexity> complexity(new SoComplexity);
     const SoRef<SoMaterial> material(new SoMaterial);
     const SoRef<SoDirectionalLight> light(new SoDirectionalLight);
+    const SoRef<Glass> derived(new Glass);
     SoSFFloat alone;
     EXPECT_EQ(limits(&complexity->value), std::make_pair(1.0, true));
     EXPECT_EQ(limits(&material->transparency), std::make_pair(1.0, true));
     EXPECT_EQ(limits(&light->intensity), std::make_pair(1.0, true));
+    EXPECT_EQ(limits(&derived->transparency), std::make_pair(1.0, true));
     EXPECT_EQ(limits(&alone), std::make_pair(10.0, false));
     host.release(editor);
 }
