@@ -53,6 +53,8 @@ private:
 QString reasonOf(const Assimp::Importer& importer)
 {
     QString text = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
+    if (text.contains(QLatin1String("bad_alloc")))
+        return tr("it asks for more memory than a file of its size can need");
     while (text.endsWith(QLatin1Char('.')))
         text.chop(1);
     return text.isEmpty() ? tr("it holds no model that can be read") : tr("it is not a whole model (%1)").arg(text);

@@ -1,6 +1,7 @@
 // The program that reads a model for the host, in a process of its own: scopix-read-model MODEL RESULT. Prints how far
 // it is, one line for each percent, and writes the model, or why there is none, to the file RESULT.
 #include "import/ModelFile.h"
+#include "reader/MemoryLimit.h"
 #include "reader/ModelReader.h"
 
 #include <QCoreApplication>
@@ -25,15 +26,12 @@ void limit(int resource, rlim_t most)
 }
 
 // A bad file may ask for anything. What it cannot have is an error that the reader survives or dies of, alone.
-void limitItself()
+void limitItself(const QString& path)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody waits for the model any more
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_CPU, MostSeconds);
-#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // those reserve more than there is
-    const auto pages = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES));
-    limit(RLIMIT_AS, pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)));
-#endif
+    scopix::limitMemoryFor(path);
 }
 
 } // namespace
@@ -46,7 +44,7 @@ int main(int argc, char** argv)
         std::fputs("scopix-read-model MODEL RESULT: reads a model for scopix.\n", stderr);
         return 2;
     }
-    limitItself();
+    limitItself(arguments[1]);
     int told = 0;
     const scopix::ReadModel model = scopix::readModel(arguments[1], [&](float done) {
         const int percent = static_cast<int>(100 * done);

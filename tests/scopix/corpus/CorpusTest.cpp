@@ -2,6 +2,7 @@
 // in one sentence; none crashes the host or keeps it waiting. One test for each of the files' folders.
 #include "import/ModelFormats.h"
 #include "import/ModelImport.h"
+#include "reader/MemoryLimit.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/SoIndexedTriangleSet.h>
@@ -49,6 +50,7 @@ long trianglesByImporter(const QString& path)
         return 0;
     const pid_t child = fork();
     if (child == 0) {
+        scopix::limitMemoryFor(path);
         uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
         Assimp::Importer importer;
         const aiScene* scene = importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);

@@ -86,8 +86,8 @@ TEST_F(Import, AReaderThatComputesForEverIsToldToo)
     EXPECT_TRUE(error.contains("takes too long")) << qPrintable(error);
 }
 
-// The importer asserts that every face has corners, and ends its process where one has none.
-TEST_F(Import, AnImporterThatEndsItsProcessEndsNothingElse)
+// One step of the importer asserts that every face has corners, and ends its process where one has none.
+TEST_F(Import, AFaceWithoutCornersIsRefusedBeforeAnyStep)
 {
     const ModelFiles files;
     QByteArray model = contentOf(shippedModel("rainbow.ply"));
@@ -96,7 +96,15 @@ TEST_F(Import, AnImporterThatEndsItsProcessEndsNothingElse)
     model[face + 1] = '0';
     import.start(files.write("face.ply", model));
     ASSERT_TRUE(waitForEnd());
-    EXPECT_TRUE(error.contains("face.ply” cannot be opened: it contradicts itself")) << qPrintable(error);
+    EXPECT_TRUE(error.contains("face.ply” cannot be opened: it is not a whole model")) << qPrintable(error);
+}
+
+TEST_F(Import, AFewBytesThatAskForAllMemoryAreRefused)
+{
+    const ModelFiles files;
+    import.start(files.write("many.off", "OFF\n1400000000 1 0\n0 0 0\n0 0 1\n0 1 0\n3 0 1 2\n"));
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(error.contains("many.off” cannot be opened: it asks for more memory")) << qPrintable(error);
 }
 
 // Some readers crash on it.
