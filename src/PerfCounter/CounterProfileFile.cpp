@@ -135,9 +135,9 @@ bool parse(QIODevice* device, QDomDocument& document, QString& problem)
     // Parsed aside first, since a failed parse leaves what it has read so far in every document that shares
     // the tree.
     QDomDocument parsed;
-    if (!device->isOpen())
-        device->open(QIODevice::ReadOnly);
-    if (!counterXml::read(device->readAll(), parsed, problem))
+    // A device that cannot be opened is an empty one; the caller has said so.
+    const bool isOpen = device->isOpen() || device->open(QIODevice::ReadOnly);
+    if (!counterXml::read(isOpen ? device->readAll() : QByteArray(), parsed, problem))
         return false;
     if (parsed.documentElement().tagName() != Root) {
         problem = translated("The file does not contain information about performance counters.");

@@ -6,6 +6,8 @@
 #include <QTextStream>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace counterXml
 {
 namespace
@@ -56,6 +58,13 @@ bool parse(const QByteArray& bytes, QDomDocument& document, QString& problem)
     return false;
 }
 
+// XML allows no control characters but these three; the parser takes them, and loses them in what was saved.
+bool hasForbiddenCharacters(const QByteArray& saved)
+{
+    return std::any_of(saved.begin(), saved.end(),
+                       [](char c) { return uchar(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; });
+}
+
 } // namespace
 
 bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
@@ -66,7 +75,7 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
     saved.open(QIODevice::WriteOnly);
     write(&saved, document);
     QDomDocument again;
-    if (parse(saved.data(), again, problem) &&
+    if (!hasForbiddenCharacters(saved.data()) && parse(saved.data(), again, problem) &&
         again.documentElement().tagName() == document.documentElement().tagName())
         return true;
     problem = QCoreApplication::translate("PerfCounter",

@@ -130,11 +130,14 @@ TEST_F(CounterDock, ElementsNestedWithoutEndAreRefused)
 
 TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
 {
-    writeFile("<n:perfCounterModule xmlnsn:='u'/>");
-    open();
-    EXPECT_EQ(boxes.take(),
-              QStringList{
-                  "Performance counter profile: The file contains XML that would be unreadable once saved."});
+    for (const char* file :
+         {"<n:perfCounterModule xmlnsn:='u'/>", "<perfCounterModule>\x01</perfCounterModule>"}) {
+        writeFile(file);
+        open();
+        EXPECT_EQ(boxes.take(),
+                  QStringList{"Performance counter profile: The file contains XML that would be "
+                              "unreadable once saved."});
+    }
 }
 
 TEST_F(CounterDock, SavingTheViewKeepsTheRestOfTheFile)
