@@ -43,6 +43,16 @@ bool SoField::set(const SbString& text)
     return true;
 }
 
+bool SoField::setAlone(const SbString& text)
+{
+    if (!parse(text.str()))
+        return false;
+    m_default = false;
+    m_needsEvaluation = false;
+    notify(0, -1, Followers::DoNot);
+    return true;
+}
+
 bool SoField::copyFrom(const SoField& other)
 {
     if (!canConvertFrom(other))
@@ -112,7 +122,9 @@ bool SoField::connectFrom(SoField* master)
         return false;
     disconnect();
     m_master = master;
-    master->listeners().followers.push_back(this);
+    auto& followers = master->listeners().followers;
+    m_followerSlot = static_cast<std::uint32_t>(followers.size());
+    followers.push_back(this);
     m_needsEvaluation = true;
     notify(0, -1, Followers::Hear);
     return true;
@@ -140,8 +152,11 @@ void SoField::leaveMaster()
 {
     if (!m_master)
         return;
+    // The last one takes the place, so that a field leaves at once however many others follow the same one.
     auto& followers = m_master->m_listeners->followers;
-    followers.erase(std::remove(followers.begin(), followers.end(), this), followers.end());
+    followers[m_followerSlot] = followers.back();
+    followers[m_followerSlot]->m_followerSlot = m_followerSlot;
+    followers.pop_back();
     m_master = nullptr;
     m_needsEvaluation = false;
 }

@@ -13,6 +13,10 @@
 
 class SoDataSensor;
 class SoFieldContainer;
+namespace xsg
+{
+class SceneReader;
+} // namespace xsg
 
 class XSG_API SoField : public SoTyped<SoField, SoTypedObject>
 {
@@ -105,6 +109,7 @@ private:
     friend class SoFieldData;
     friend class SoDataSensor;
     friend class SoFieldContainer;
+    friend class xsg::SceneReader;
     struct Listeners {
         std::vector<SoDataSensor*> sensors;
         std::vector<SoField*> followers;
@@ -112,6 +117,8 @@ private:
 
     enum class Followers { Hear, DoNot };
     void fetch() const;
+    // As set(), but those that follow this field keep what they have.
+    bool setAlone(const SbString& text);
     bool take(const SoField& other);
     bool takeText(const SoField& other);
     bool isFollowedBy(const SoField& other) const;
@@ -132,6 +139,7 @@ private:
     bool m_ignored = false;
     bool m_default = true;
     mutable bool m_needsEvaluation = false;
+    std::uint32_t m_followerSlot = 0; // among the master's followers
 };
 
 extern template class SoTyped<SoField, SoTypedObject>;

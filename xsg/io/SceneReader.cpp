@@ -273,13 +273,13 @@ bool xsg::SceneReader::readMarks(SoField* field)
                 return fail(start, "\"!ignored\" was expected");
             field->setIgnored(true);
         } else if (accept('<')) {
-            Connection wanted{field, {}, {}, start, {}};
+            Connection wanted{field, {}, {}, start, nullptr, {}};
             if (!accept('-') || !accept('@'))
                 return fail(start, "\"<- @label.field\" was expected");
             wanted.label = readWord();
             if (!accept('.'))
                 return fail(start, "\"<- @label.field\" was expected");
-            wanted.master = readWord();
+            wanted.masterName = readWord();
             m_connections.push_back(wanted);
         } else {
             return true;
@@ -339,39 +339,45 @@ bool xsg::SceneReader::connect()
 {
     for (Connection& wanted : m_connections) {
         const auto node = m_labels.find(wanted.label);
-        SoField* master = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.master);
-        if (!master)
+        wanted.master = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.masterName);
+        if (!wanted.master)
             return fail(wanted.at, "there is no field @" + std::string(wanted.label) + "." +
-                                       std::string(wanted.master) + " to connect from");
+                                       std::string(wanted.masterName) + " to connect from");
         if (!wanted.field->isDefault())
             wanted.field->get(wanted.value);
-        if (!wanted.field->connectFrom(master))
-            return fail(wanted.at, std::string(wanted.field->getName().getString()) +
-                                       " cannot be connected from a " +
-                                       std::string(master->getTypeId().getName().getString()) +
-                                       ", or would in the end be connected from itself");
     }
-    restoreWrittenValues();
+    for (const Connection* wanted : mastersFirst()) {
+        if (!wanted->field->connectFrom(wanted->master))
+            return fail(wanted->at, std::string(wanted->field->getName().getString()) +
+                                        " cannot be connected from a " +
+                                        std::string(wanted->master->getTypeId().getName().getString()) +
+                                        ", or would in the end be connected from itself");
+    }
+    // A connected field may have been written since its master last changed, and then keeps that value.
+    for (const Connection& made : m_connections) {
+        if (!made.value.isNull())
+            made.field->setAlone(made.value);
+    }
     return true;
 }
 
-// A connected field may have been written since its master last changed, and then keeps that value. Masters
-// go first, since writing one tells those that follow it to fetch its value.
-void xsg::SceneReader::restoreWrittenValues()
+// A field that is connected tells all that follow it. In this order nobody does so yet, however long the row
+// is.
+std::vector<const xsg::SceneReader::Connection*> xsg::SceneReader::mastersFirst() const
 {
-    const auto distance = [](const Connection& connection) {
-        int steps = 0;
-        for (const SoField* f = connection.field; f; f = f->getConnectedField())
-            ++steps;
-        return steps;
-    };
-    std::vector<std::pair<int, const Connection*>> ordered;
+    std::unordered_map<const SoField*, const Connection*> pending;
+    for (const Connection& connection : m_connections)
+        pending[connection.field] = &connection;
+    std::vector<const Connection*> ordered;
+    std::vector<const Connection*> row;
     for (const Connection& connection : m_connections) {
-        if (!connection.value.isNull())
-            ordered.emplace_back(distance(connection), &connection);
+        for (auto next = pending.find(connection.field); next != pending.end();
+             next = pending.find(row.back()->master)) {
+            row.push_back(next->second);
+            pending.erase(next);
+        }
+        ordered.insert(ordered.end(), row.rbegin(), row.rend());
+        row.clear();
     }
-    std::stable_sort(ordered.begin(), ordered.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
-    for (const auto& [steps, connection] : ordered)
-        connection->field->set(connection->value);
+    return ordered;
 }

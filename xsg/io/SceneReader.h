@@ -37,8 +37,9 @@ private:
     struct Connection {
         SoField* field;
         std::string_view label;
-        std::string_view master;
+        std::string_view masterName;
         std::size_t at;
+        SoField* master;
         SbString value; // as written; null where it was not
     };
 
@@ -71,7 +72,7 @@ private:
     bool readNode(XsgTextReader& in, SoRef<SoNode>& node) const;
     bool refuseValue(const SoField& field, std::string_view value, std::size_t at);
     bool connect();
-    void restoreWrittenValues();
+    std::vector<const Connection*> mastersFirst() const;
 
     std::string_view m_text;
     std::size_t m_at = 0;
