@@ -66,8 +66,7 @@ void SoGroup::removeAllChildren()
     if (children.empty())
         return;
     childrenChanged();
-    for (SoNode* child : children)
-        release(child);
+    std::for_each(children.rbegin(), children.rend(), [this](SoNode* child) { release(child); });
 }
 
 bool SoGroup::replaceChild(int index, SoNode* child)
@@ -90,9 +89,16 @@ void SoGroup::adopt(SoNode* child)
 
 void SoGroup::release(SoNode* child)
 {
-    auto& parents = child->m_parents;
-    parents.erase(std::find(parents.begin(), parents.end(), this));
+    disown(child);
     child->unref();
+}
+
+// From the back, for a child that stands in many places leaves them in that order when they go together.
+void SoGroup::disown(SoNode* child)
+{
+    auto& parents = child->m_parents;
+    const auto place = std::find(parents.rbegin(), parents.rend(), this);
+    parents.erase(std::next(place).base());
 }
 
 void SoGroup::childrenChanged()
@@ -139,11 +145,8 @@ SoGroup::~SoGroup()
     const bool outermost = !going;
     if (outermost)
         going = &own;
-    for (SoNode* child : m_children) {
-        auto& parents = child->m_parents;
-        parents.erase(std::find(parents.begin(), parents.end(), this));
-        going->push_back(child);
-    }
+    std::for_each(m_children.rbegin(), m_children.rend(), [this](SoNode* child) { disown(child); });
+    going->insert(going->end(), m_children.begin(), m_children.end());
     if (!outermost)
         return;
     while (!own.empty()) {

@@ -46,8 +46,8 @@ public:
     static constexpr int ManyChildren = 64;
     // Remembers from now on.
     void rememberTouched() const;
-    // The places of the children that changed (they, or what is below them) since getChangeCount() was `since`,
-    // in order. False where that is not known, or where the group itself changed.
+    // The places of the children that changed (they, or what is below them) since getChangeCount() was
+    // `since`, in order. False where that is not known, or where the group itself changed.
     bool findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const;
 
 protected:
@@ -57,6 +57,7 @@ private:
     friend class SoNode;
     void adopt(SoNode* child);
     void release(SoNode* child);
+    void disown(SoNode* child);
     void childrenChanged();
     bool wouldLoop(const SoNode* child) const;
 
