@@ -40,9 +40,10 @@ std::string hexadecimal(unsigned code)
     return "0x" + std::string(digits, end);
 }
 
-std::string place(const SbString& file, int line)
+std::string place(const SbString& file, int line, int column)
 {
-    return line > 0 ? file.str() + ':' + std::to_string(line) + ": " : file.str() + ": ";
+    return file.str() + (line > 0 ? ':' + std::to_string(line) : "") + ": " +
+           (column > 0 ? "Column " + std::to_string(column) + ": " : "");
 }
 
 std::string joined(const std::vector<SbString>& sentences)
@@ -81,16 +82,17 @@ void SoDebugError::post(Severity severity, const char* source, const SbString& s
     handler().handle(SoDebugError(severity, source, sentence));
 }
 
-SoReadError::SoReadError(const SbString& file, int line, const SbString& sentence)
-    : SoErrorClass(SbString(place(file, line) + sentence.str()))
+SoReadError::SoReadError(const SbString& file, int line, int column, const SbString& sentence)
+    : SoErrorClass(SbString(place(file, line, column) + sentence.str()))
     , m_file(file)
     , m_line(line)
+    , m_column(column)
 {
 }
 
-void SoReadError::post(const SbString& file, int line, const SbString& sentence)
+void SoReadError::post(const SbString& file, int line, int column, const SbString& sentence)
 {
-    handler().handle(SoReadError(file, line, sentence));
+    handler().handle(SoReadError(file, line, column, sentence));
 }
 
 SoMemoryError::SoMemoryError(const SbString& wanted, std::size_t bytes)

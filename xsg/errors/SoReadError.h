@@ -8,17 +8,24 @@ class XSG_API SoReadError : public SoErrorClass<SoReadError, SoError>
 public:
     static constexpr const char* ClassName = "ReadError";
 
-    // line: counted from 1; 0 where there is none. The sentence says what is wrong and what was expected.
-    static void post(const SbString& file, int line, const SbString& sentence);
+    // Line and column: counted from 1, the column in bytes; 0 where there is none. The sentence says what is
+    // wrong and what was expected.
+    static void post(const SbString& file, int line, const SbString& sentence)
+    {
+        post(file, line, 0, sentence);
+    }
+    static void post(const SbString& file, int line, int column, const SbString& sentence);
 
     const SbString& getFileName() const { return m_file; }
     int getLine() const { return m_line; }
+    int getColumn() const { return m_column; }
 
 private:
-    SoReadError(const SbString& file, int line, const SbString& sentence);
+    SoReadError(const SbString& file, int line, int column, const SbString& sentence);
 
     SbString m_file;
     int m_line;
+    int m_column;
 };
 
 extern template class SoTyped<SoReadError, SoError>;

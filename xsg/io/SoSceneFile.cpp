@@ -14,15 +14,33 @@
 namespace
 {
 
+constexpr std::size_t LargestFile = std::size_t{1} << 32U;
+
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-void refuse(const std::string& path, int line, const std::string& sentence, std::string& error)
+void refuse(const std::string& path, const std::string& sentence, std::string& error)
 {
-    error = path + (line > 0 ? ":" + std::to_string(line) : "") + ": " + sentence;
-    SoReadError::post(SbString(path), line, SbString(sentence));
+    error = path + ": " + sentence;
+    SoReadError::post(SbString(path), 0, SbString(sentence));
+}
+
+void refuse(const std::string& path, const xsg::SceneReader& reader, std::string& error)
+{
+    const std::string sentence = reader.getProblem() + ".";
+    error = path + ":" + std::to_string(reader.getLine()) + ": Column " + std::to_string(reader.getColumn()) +
+            ": " + sentence;
+    SoReadError::post(SbString(path), reader.getLine(), reader.getColumn(), SbString(sentence));
+}
+
+// Reads up to `size` more bytes.
+void readMore(std::FILE* file, std::size_t size, std::string& text)
+{
+    const std::size_t before = text.size();
+    text.resize(before + size);
+    text.resize(before + std::fread(text.data() + before, 1, size, file));
 }
 
 bool readAll(const std::string& path, std::string& text, std::string& error)
@@ -31,17 +49,27 @@ bool readAll(const std::string& path, std::string& text, std::string& error)
     struct stat about {
     };
     if (!file || fstat(fileno(file.get()), &about) != 0) {
-        refuse(path, 0, "The file cannot be read: " + std::string(std::strerror(errno)) + ".", error);
+        refuse(path, "The file cannot be read: " + std::string(std::strerror(errno)) + ".", error);
         return false;
     }
     if (!S_ISREG(about.st_mode)) {
-        refuse(path, 0, "A scene file was expected, but this is not a file.", error);
+        refuse(path, "A scene file was expected, but this is not a file.", error);
         return false;
     }
-    text.resize(static_cast<std::size_t>(about.st_size));
-    text.resize(std::fread(text.data(), 1, text.size(), file.get()));
+    const auto size = static_cast<std::size_t>(about.st_size);
+    if (size > LargestFile) {
+        refuse(path,
+               "A scene file of at most 4 GiB was expected, but this one has " + std::to_string(size) +
+                   " bytes.",
+               error);
+        return false;
+    }
+    // What begins otherwise is refused for its first line, however long it is.
+    readMore(file.get(), std::min(size, SoSceneFile::FirstLine.size()), text);
+    if (text == SoSceneFile::FirstLine)
+        readMore(file.get(), size - text.size(), text);
     if (std::ferror(file.get())) {
-        refuse(path, 0, "The file cannot be read to its end.", error);
+        refuse(path, "The file cannot be read to its end.", error);
         return false;
     }
     return true;
@@ -85,8 +113,7 @@ SoRef<SoNode> SoSceneFile::readText(std::string_view text, const std::string& na
     SoRef<SoNode> root = reader.read();
     xsg::feeds.bytesParsed.add(static_cast<std::int64_t>(text.size()));
     if (!root)
-        refuse(name, reader.getLine(),
-               "Column " + std::to_string(reader.getColumn()) + ": " + reader.getProblem() + ".", error);
+        refuse(name, reader, error);
     return root;
 }
 

@@ -100,6 +100,30 @@ TYPED_TEST(EveryError, IsDroppedByANullCallback)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+TYPED_TEST(EveryError, PostedByEightThreadsAtOnceArrivesEachTime)
+{
+    const Collected<TypeParam> keeper;
+    constexpr int Threads = 8;
+    constexpr int Posts = 500;
+    std::atomic<int> arrived{0};
+    TypeParam::setHandlerCallback(
+        [](const SoError* error, void* data) {
+            if (error->getDebugString().str().find("wrong") != std::string::npos)
+                ++*static_cast<std::atomic<int>*>(data);
+        },
+        &arrived);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < Threads; ++i) {
+        threads.emplace_back([] {
+            for (int post = 0; post < Posts; ++post)
+                postOne<TypeParam>();
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(arrived, Threads * Posts);
+}
+
 TEST(DebugError, TellsItsSeverity)
 {
     const Collected<SoDebugError> keeper;
@@ -117,13 +141,24 @@ TEST(DebugError, TellsItsSeverity)
     EXPECT_EQ(severities, (std::vector<int>{0, 1, 2}));
 }
 
-TEST(ReadError, NamesTheFileAndTheLine)
+TEST(ReadError, NamesTheFileTheLineAndTheColumn)
 {
     const Collected<SoReadError> read;
+    SoReadError::post("scene.xsg", 12, 4, "Expected a '}'.");
     SoReadError::post("scene.xsg", 12, "Expected a '}'.");
     SoReadError::post("scene.xsg", 0, "The file is empty.");
     EXPECT_EQ(read.texts,
-              (std::vector<std::string>{"scene.xsg:12: Expected a '}'.", "scene.xsg: The file is empty."}));
+              (std::vector<std::string>{"scene.xsg:12: Column 4: Expected a '}'.",
+                                        "scene.xsg:12: Expected a '}'.", "scene.xsg: The file is empty."}));
+    SoReadError::setHandlerCallback(
+        [](const SoError* error, void*) {
+            const auto& known = dynamic_cast<const SoReadError&>(*error);
+            EXPECT_EQ(known.getFileName(), SbString("scene.xsg"));
+            EXPECT_EQ(known.getLine(), 12);
+            EXPECT_EQ(known.getColumn(), 4);
+        },
+        nullptr);
+    SoReadError::post("scene.xsg", 12, 4, "Expected a '}'.");
 }
 
 TEST(GLError, NamesItsCode)
