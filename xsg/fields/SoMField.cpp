@@ -39,17 +39,24 @@ int SoMField::getNum() const
     return count();
 }
 
-bool SoMField::grow(int wanted)
+// False, with an SoMemoryError, where there is no memory to change the field to `wanted` values.
+template <class Change>
+bool SoMField::hasMemoryTo(Change change, int wanted)
 {
     try {
-        resize(wanted);
+        change();
         return true;
     } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {
     }
     SoMemoryError::post(std::string("the values of the field \"") + getName().getString() + '"',
-                        static_cast<std::size_t>(wanted));
+                        static_cast<std::size_t>(wanted) * bytesPerValue());
     return false;
+}
+
+bool SoMField::grow(int wanted)
+{
+    return hasMemoryTo([&] { resize(wanted); }, wanted);
 }
 
 void SoMField::valuesGrown(int before, int first, int last)
@@ -96,11 +103,8 @@ void SoMField::insertSpace(int start, int number)
     if (number <= 0 || number > std::numeric_limits<int>::max() - before)
         return;
     const int first = std::clamp(start, 0, before);
-    if (first < before)
-        open(first, number);
-    else if (!grow(before + number))
-        return;
-    valueWritten(first, -1);
+    if (hasMemoryTo([&] { open(first, number); }, before + number))
+        valueWritten(first, -1);
 }
 
 void SoMField::deleteValues(int start, int number)

@@ -40,6 +40,7 @@ protected:
     virtual void resize(int count) = 0;
     virtual void open(int start, int count) = 0;
     virtual void close(int start, int count) = 0;
+    virtual std::size_t bytesPerValue() const = 0;
     // The text of one value, and of all with ", " between them.
     virtual void writeValue(std::string& out, int index) const = 0;
     virtual void writeValues(std::string& out) const = 0;
@@ -54,6 +55,10 @@ protected:
     bool grow(int count);
     // Tells of values first..last, and of those between the old end and them.
     void valuesGrown(int before, int first, int last);
+
+private:
+    template <class Change>
+    bool hasMemoryTo(Change change, int wanted);
 };
 
 extern template class SoTyped<SoMField, SoField>;

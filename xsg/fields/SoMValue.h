@@ -60,6 +60,7 @@ protected:
     void resize(int count) override { m_values.resize(static_cast<std::size_t>(count)); }
     void open(int start, int count) override;
     void close(int start, int count) override;
+    std::size_t bytesPerValue() const override { return sizeof(T); }
     void writeValue(std::string& out, int index) const override;
     void writeValues(std::string& out) const override;
     bool parseValue(std::string_view text, int index) override;

@@ -6,6 +6,7 @@
 
 #include <xsg/base/XsgNumbers.h>
 #include <xsg/core/SoTypedImpl.h>
+#include <xsg/fields/NumberLists.h>
 #include <xsg/fields/SoMValue.h>
 #include <xsg/fields/SoSValue.h>
 
@@ -259,8 +260,11 @@ void SoMValue<T, Base>::writeValue(std::string& out, int index) const
 template <class T, class Base>
 void SoMValue<T, Base>::writeValues(std::string& out) const
 {
-    xsg::writeValues(out, m_values,
-                     [](std::string& text, const T& value) { XsgText<T>::write(text, value); });
+    if constexpr (xsg::isRowOfNumbers<T>)
+        xsg::writeNumbers(out, m_values);
+    else
+        xsg::writeValues(out, m_values,
+                         [](std::string& text, const T& value) { XsgText<T>::write(text, value); });
 }
 
 template <class T, class Base>
