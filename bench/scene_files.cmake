@@ -1,0 +1,1 @@
+scopix_add_bench(scene_files Scopix::xsg benchmark::benchmark)
