@@ -74,6 +74,8 @@ std::string writeLargeFile(std::size_t bytes)
     const char* folder = std::getenv("TMPDIR");
     std::string path = std::string(folder ? folder : "/tmp") + "/scopix_bench.XXXXXX";
     std::FILE* file = fdopen(mkstemp(path.data()), "wb");
+    if (!file)
+        return {};
     std::fputs("#Xsg V1.0 utf8\nPoints {\n    points: [ ", file);
     for (int i = 0; static_cast<std::size_t>(std::ftell(file)) < bytes; ++i)
         std::fprintf(file, "%d.25 -%d.125 0.5, ", i, i);

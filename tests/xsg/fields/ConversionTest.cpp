@@ -192,3 +192,29 @@ TEST(Connection, AnotherMasterReplacesTheFirst)
     a.setValue(3);
     EXPECT_EQ(follower.getValue(), 2);
 }
+
+TEST(Connection, FollowersOfOneLeaveInAnyOrderAndTheOthersGoOn)
+{
+    constexpr int Count = 6;
+    SoSFInt32 master;
+    SoSFInt32 followers[Count];
+    std::vector<int> left;
+    const auto expectAllToFollow = [&](int value) {
+        master.setValue(value);
+        for (int i = 0; i < Count; ++i) {
+            const bool hasLeft = std::find(left.begin(), left.end(), i) != left.end();
+            EXPECT_EQ(followers[i].getValue() == value, !hasLeft) << i;
+        }
+    };
+    for (SoSFInt32& follower : followers)
+        follower.connectFrom(&master);
+    expectAllToFollow(1);
+    for (const int next : {2, 5, 0, 1, 4, 3}) {
+        followers[next].disconnect();
+        left.push_back(next);
+        expectAllToFollow(10 + next);
+    }
+    followers[4].connectFrom(&master);
+    left.erase(std::find(left.begin(), left.end(), 4));
+    expectAllToFollow(100);
+}
