@@ -139,20 +139,8 @@ bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& place
 
 SoGroup::~SoGroup()
 {
-    // Deep scenes are taken down level by level: each group hands its children to the outermost one going.
-    static std::vector<SoNode*>* going = nullptr;
-    std::vector<SoNode*> own;
-    const bool outermost = !going;
-    if (outermost)
-        going = &own;
     std::for_each(m_children.rbegin(), m_children.rend(), [this](SoNode* child) { disown(child); });
-    going->insert(going->end(), m_children.begin(), m_children.end());
-    if (!outermost)
-        return;
-    while (!own.empty()) {
-        SoNode* child = own.back();
-        own.pop_back();
+    // They go once this one is gone, and the last one first.
+    for (const SoNode* child : m_children)
         child->unref();
-    }
-    going = nullptr;
 }
