@@ -53,7 +53,7 @@ bool install()
     glEnable(GL_DEBUG_OUTPUT_SYNCHRONOUS); // on this thread, inside of the call that is at fault
     // Hints on speed and the like are not errors.
     glDebugMessageControl(GL_DONT_CARE, GL_DONT_CARE, GL_DONT_CARE, 0, nullptr, GL_FALSE);
-    for (const GLenum type : {GL_DEBUG_TYPE_ERROR, GL_DEBUG_TYPE_UNDEFINED_BEHAVIOR})
+    for (const GLenum type : {GLenum{GL_DEBUG_TYPE_ERROR}, GLenum{GL_DEBUG_TYPE_UNDEFINED_BEHAVIOR}})
         glDebugMessageControl(GL_DONT_CARE, type, GL_DONT_CARE, 0, nullptr, GL_TRUE);
     glDebugMessageCallback(tell, nullptr);
     return true;
