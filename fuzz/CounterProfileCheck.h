@@ -52,7 +52,8 @@ public:
                                                     problem.toStdString() + "\n" + written.toStdString());
         const Content same(again);
         removeCustomCounters();
-        require(same.counters == content.counters, "a custom counter changes when written and read");
+        require(same.counters == content.counters, "a custom counter changes when written and read: " +
+                                                       content.text() + "becomes " + same.text());
         require(same.lists() == content.lists(), "a profile changes when written and read");
     }
 
@@ -82,6 +83,13 @@ private:
             QList<SoPerfCounterProfile*> all;
             for (const auto& profile : profiles)
                 all.append(profile.get());
+            return all;
+        }
+        std::string text() const
+        {
+            std::string all;
+            for (const std::string& counter : counters)
+                all += counter + '\n';
             return all;
         }
         QList<QStringList> lists() const

@@ -58,6 +58,15 @@ bool parse(const QByteArray& bytes, QDomDocument& document, QString& problem)
     return false;
 }
 
+// The document is saved in the encoding that it declares, which a file may have in any other; the parser has
+// its characters by now.
+void declareUtf8(QDomDocument& document)
+{
+    QDomProcessingInstruction declaration = document.firstChild().toProcessingInstruction();
+    if (declaration.target() == QLatin1String("xml"))
+        declaration.setData(QStringLiteral("version='1.0' encoding='UTF-8'"));
+}
+
 // XML allows no control characters but these three; the parser takes them, and loses them in what was saved.
 bool hasForbiddenCharacters(const QByteArray& saved)
 {
@@ -71,6 +80,7 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
 {
     if (!parse(bytes, document, problem))
         return false;
+    declareUtf8(document);
     QBuffer saved;
     saved.open(QIODevice::WriteOnly);
     write(&saved, document);

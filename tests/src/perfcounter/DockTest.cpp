@@ -140,6 +140,25 @@ TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
     }
 }
 
+TEST_F(CounterDock, AFileInAnotherEncodingIsSavedInUtf8)
+{
+    writeFile("<?xml version='1.0' encoding='ISO-8859-1'?>\n<perfCounterModule><profiles>"
+              "<profile name='Gr\xf6\xdf"
+              "e'/></profiles></perfCounterModule>");
+    for (int turn = 0; turn < 2; ++turn) {
+        open();
+        EXPECT_EQ(profileNames(), QStringList{QString::fromUtf8(u8"Größe")});
+        dock->m_viewer->doubleClickEvent("testA");
+        QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+        EXPECT_TRUE(boxes.take().isEmpty());
+        QFile saved(path());
+        ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+        const QByteArray bytes = saved.readAll();
+        EXPECT_TRUE(bytes.startsWith("<?xml version='1.0' encoding='UTF-8'?>\n")) << bytes.constData();
+        EXPECT_TRUE(bytes.contains(u8"Größe")) << bytes.constData();
+    }
+}
+
 TEST_F(CounterDock, SavingTheViewKeepsTheRestOfTheFile)
 {
     writeExample();
