@@ -10,6 +10,12 @@ void setFixedHeightFitted(QWidget* widget, int height, int frame)
     fitFont(widget, height - frame);
 }
 
+void setRoomFor(QWidget* line, const char* text)
+{
+    constexpr int FrameAndMargins = 10;
+    line->setMinimumWidth(line->fontMetrics().horizontalAdvance(QLatin1String(text)) + FrameAndMargins);
+}
+
 void fitFont(QWidget* widget, int height)
 {
     constexpr int Smallest = 8;

@@ -6,3 +6,5 @@ class QWidget;
 // `frame`: pixels that the input's own frame takes, above and below together.
 void setFixedHeightFitted(QWidget* widget, int height, int frame);
 void fitFont(QWidget* widget, int height);
+// Makes a line at least so wide that `text` is read whole, in the font that it has.
+void setRoomFor(QWidget* line, const char* text);

@@ -69,9 +69,9 @@ void EdSFColorWidget::buildComponent(EdLineEdit*& edit, QLabel*& label)
     edit = new EdLineEdit(editionFrame());
     edit->setObjectName(QStringLiteral("SFColorLine"));
     edit->setText(tr("0"));
-    constexpr int InputFrame = 4;
+    constexpr int InputFrame = 2;
     setFixedHeightFitted(edit, height, InputFrame);
-    edit->setMinimumWidth(40);
+    setRoomFor(edit, "0.501961");
     layout->addWidget(edit, 1);
     connect(edit, &QLineEdit::returnPressed, this, &EdSFColorWidget::setCommandValue);
     connect(edit, &QLineEdit::editingFinished, this, &EdSFColorWidget::setFocusLeaveEvent);

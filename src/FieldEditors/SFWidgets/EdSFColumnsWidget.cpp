@@ -44,7 +44,7 @@ void EdSFColumnsWidget::buildComponent(const QString& caption)
     QWidget* input = buildInput();
     input->setObjectName(QLatin1String(m_look.inputName));
     input->setAccessibleName(caption);
-    constexpr int InputFrame = 4;
+    constexpr int InputFrame = 2;
     setFixedHeightFitted(input, xsgsettings_fieldEditor(QStringLiteral("SFVecLineHeight")), InputFrame);
     column->addWidget(input);
     editLayout()->addLayout(column);

@@ -1,6 +1,7 @@
 #include "EdSFFloatsWidget.h"
 
 #include "EdFieldEdits.h"
+#include "EdFittedFont.h"
 #include "EdText.h"
 #include "EdValidators.h"
 
@@ -10,13 +11,14 @@ void EdSFFloatsWidget::load()
 {
     m_inputs.clear();
     EdSFColumnsWidget::load();
+    for (EdLineEdit* input : m_inputs.all())
+        setRoomFor(input, "-0.123457");
 }
 
 QWidget* EdSFFloatsWidget::buildInput()
 {
     auto* input = new EdLineEdit(editionFrame());
     input->setValidator(EdRealValidator::forFloat(input));
-    input->setMinimumWidth(40);
     connect(input, &QLineEdit::editingFinished, this, &EdSFFloatsWidget::setFocusLeaveEvent);
     connect(input, &QLineEdit::returnPressed, this, &EdSFFloatsWidget::setCommandValue);
     m_inputs.add(input);

@@ -193,6 +193,7 @@ void EdSFieldWidget::buildEditionFrame()
     setBoxStyle(m_editionFrame, "frameLineWidth");
     m_editLayout =
         buildLayout(m_editionFrame, "editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
+    m_editLayout->addStrut(m_label->minimumHeight()); // what is lower stands level with the caption
 }
 
 void EdSFieldWidget::buildButtons()

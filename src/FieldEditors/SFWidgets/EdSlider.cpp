@@ -1,5 +1,6 @@
 #include "EdSlider.h"
 
+#include "EdFittedFont.h"
 #include "EdLineEdit.h"
 #include "EdWheelGuard.h"
 #include "EdWideRangeStyle.h"
@@ -54,7 +55,7 @@ void EdSlider::build(SliderParentType parentType)
     m_slider->setTracking(true);
     m_slider->setMinimumWidth(inTable ? 30 : 60);
     m_slider->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_lineEdit->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0.000000 ")));
+    setRoomFor(m_lineEdit, inTable ? "-0.000000" : "-2147483648");
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lineEdit->setEscapePassed(inTable);
     EdWheelGuard::install(m_slider);

@@ -45,7 +45,23 @@ protected:
     QList<QWidget*> lines() { return linesOf(row(), m_editor); }
     QPushButton* button(const char* name) { return m_editor->findChild<QPushButton*>(name); }
     bool isLine(QWidget* input) { return lines().contains(input); }
+    // Each line is for one number, where the general one is for all the text there is.
+    static bool isNumbers()
+    {
+        return row().place != EditorRow::General &&
+               row().shown[0].find_first_not_of("0123456789.-|") == std::string::npos;
+    }
     bool canEdit() const { return row().input >= 0; }
+    // The longest that the editor's lines have to show whole.
+    static QString longNumber()
+    {
+        const std::string type = row().type;
+        if (type == "SFVec2s" || type == "SFBox3s" || type == "SFShort" || type == "SFUShort")
+            return QStringLiteral("-32768");
+        if (type == "SFVec2i32" || type == "SFInt32" || type == "SFUInt32")
+            return QStringLiteral("-2147483648");
+        return type == "SFColor" ? QStringLiteral("0.501961") : QStringLiteral("-0.123457");
+    }
     // What the person types, not ended where it can wait.
     void type()
     {
@@ -213,7 +229,7 @@ TEST_P(EveryEditorTest, TypingThatWaitsGoesToItsFieldOnceAndToNoOther)
 TEST_P(EveryEditorTest, TextThatIsNoNumberIsNotForTheNextField)
 {
     for (QWidget* line : lines()) {
-        if (std::string(row().shown[0]).find_first_not_of("0123456789.-|") != std::string::npos)
+        if (!isNumbers())
             continue; // a text, or a text of several numbers
         typeInto(line, "-");
         SoSField* next = another(0);
@@ -262,6 +278,41 @@ TEST_P(EveryEditorTest, EscapeInEachLineBringsTheShownValueBack)
         m_editor->window()->setFocus();
         TestHost::pump();
         EXPECT_EQ(text(), value(0));
+    }
+}
+
+TEST_P(EveryEditorTest, RefusedTextStaysForMendingAndLeavesTheField)
+{
+    const QList<QWidget*> found = lines();
+    auto* line = found.isEmpty() ? nullptr : qobject_cast<QLineEdit*>(found.first());
+    if (!line || !row().isEachKeyApplied())
+        return; // what cannot be read counts as 0, or is not let in
+    typeInto(line, "1 x");
+    m_field->touch();
+    TestHost::pump();
+    QTest::keyClick(line, Qt::Key_Return);
+    m_editor->window()->setFocus();
+    TestHost::pump();
+    EXPECT_EQ(line->text(), "1 x");
+    const bool isOneNumber = row().type == std::string("SFTime"); // "1" was read on the way
+    EXPECT_EQ(text(), isOneNumber ? "1" : value(0));
+    EXPECT_EQ(commands(), isOneNumber ? 4 : 0);
+}
+
+TEST_P(EveryEditorTest, HasRoomForItsNumbersInTheNarrowestDock)
+{
+    m_editor->window()->resize(m_editor->window()->minimumSizeHint());
+    TestHost::pump();
+    if (!isNumbers())
+        return;
+    for (QWidget* input : lines()) {
+        auto* line = qobject_cast<QLineEdit*>(input);
+        if (!line) // in a spin box
+            line = input->findChild<QLineEdit*>();
+        line->setText(longNumber());
+        line->end(false);
+        TestHost::pump();
+        EXPECT_EQ(line->cursorPositionAt({0, line->height() / 2}), 0) << "the beginning has moved out";
     }
 }
 
