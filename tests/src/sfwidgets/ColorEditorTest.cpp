@@ -91,8 +91,9 @@ TEST(ColorEditorTest, ChoiceInTheDialogIsAppliedAtOnce)
 {
     EditedColor edited("0 0 0");
     edited.inDialog([](QColorDialog& dialog) {
-        dialog.setCurrentColor(QColor(255, 128, 0));
-        dialog.accept();
+        auto* name = dialog.findChild<QLineEdit*>();
+        person::type(name, "#ff8000");
+        QTest::keyClick(name, Qt::Key_Return);
     });
     EXPECT_EQ(edited.lines()[0]->text(), "1");
     EXPECT_EQ(edited.lines()[1]->text(), "0.501961");
@@ -106,7 +107,10 @@ TEST(ColorEditorTest, ChoiceInTheDialogIsAppliedAtOnce)
 TEST(ColorEditorTest, CancelledDialogChangesNothing)
 {
     EditedColor edited("0.1 0.2 0.3");
-    edited.inDialog([](QColorDialog& dialog) { dialog.reject(); });
+    edited.inDialog([](QColorDialog& dialog) {
+        dialog.setCurrentColor(Qt::white);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
     EXPECT_EQ(edited.text(), "0.1 0.2 0.3");
     EXPECT_EQ(edited.commands(), 0);
 }

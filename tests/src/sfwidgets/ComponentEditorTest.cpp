@@ -117,6 +117,7 @@ TYPED_TEST(FloatsEditorTest, ComponentThatDoesNotConvertIsZero)
     person::type(lines[0], "-");
     person::typeAndEnter(lines[1], "5");
     EXPECT_EQ(edited.text().substr(0, 3), "0 5");
+    EXPECT_EQ(edited.commands(), 1) << "what was typed in all inputs is applied at once";
 }
 
 TYPED_TEST(FloatsEditorTest, EscapeBringsTheShownValueBack)
@@ -212,6 +213,15 @@ TEST(ComponentEditorTest, RotationIsShownAsAxisAndAngle)
     EXPECT_EQ(edited.commands(), 1);
     edited.undo();
     EXPECT_EQ(lines[3]->text(), "1.5");
+}
+
+TEST(ComponentEditorTest, RotationLeftByAClickElsewhereIsApplied)
+{
+    EditedRotation edited("0 0 1 1.5");
+    person::type(inputs<QLineEdit>(edited)[3], "0");
+    person::clickElsewhere(inputs<QLineEdit>(edited)[3]);
+    EXPECT_EQ(edited.text(), "0 0 0 1");
+    EXPECT_EQ(edited.commands(), 1);
 }
 
 TEST(ComponentEditorTest, RotationLeftByAFocusEventIsApplied)

@@ -54,6 +54,23 @@ TEST(ImageEditorTest, ColouredRowsAreTurnedOver)
     EXPECT_EQ(picture.pixelColor(2, 1), QColor(b[6], b[7], b[8]));
 }
 
+TEST(ImageEditorTest, FirstPixelOfTheLastRowIsAtTheTopLeftOnTheScreen)
+{
+    constexpr int Size = 64;
+    std::vector<unsigned char> pixels(std::size_t(Size * Size * 3));
+    pixels[std::size_t((Size - 1) * Size * 3)] = 255; // and the rest is black
+    EditedImage edited;
+    edited.set(Size, Size, 3, pixels);
+    edited.point({3, 3});
+    const int frame = edited.view()->frameWidth();
+    QLabel* view = edited.view();
+    view->setFixedSize(Size + 2 * frame, Size + 2 * frame); // a pixel of the picture is one of the screen
+    const QImage screen = view->grab().toImage();
+    EXPECT_EQ(screen.pixelColor(frame, frame), QColor(255, 0, 0));
+    EXPECT_EQ(screen.pixelColor(frame + 1, frame), QColor(0, 0, 0));
+    EXPECT_EQ(screen.pixelColor(frame, frame + Size - 1), QColor(0, 0, 0));
+}
+
 TEST(ImageEditorTest, FourthComponentIsOpacity)
 {
     EditedImage edited;
@@ -98,6 +115,22 @@ TEST(ImageEditorTest, PictureWithoutDataOrTooLargeIsEmpty)
     EXPECT_EQ(pixmap.size(), QSize(2, 2));
 }
 
+TEST(ImageEditorTest, ThumbnailForgetsThePictureBefore)
+{
+    EditedImage edited;
+    for (const int size : {4, 30000}) {
+        edited.set(2, 2, 3, bytes(12));
+        EXPECT_FALSE(edited.thumbnail()->pixmap(Qt::ReturnByValue).isNull());
+        edited.field.setValue(size, size, 3, nullptr);
+        TestHost::pump();
+        EXPECT_TRUE(edited.thumbnail()->pixmap(Qt::ReturnByValue).isNull());
+    }
+    for (const int components : {0, 5, -1}) {
+        edited.set(2, 2, components, {});
+        EXPECT_TRUE(edited.picture().isNull()) << components;
+    }
+}
+
 TEST(ImageEditorTest, PictureBeyondAnySenseIsNotCopied)
 {
     EditedImage edited;
@@ -112,7 +145,7 @@ TEST(ImageEditorTest, EnlargedViewIsAtMost256Wide)
     EXPECT_EQ(edited.view()->objectName(), "pixmapLabel");
     EXPECT_EQ(edited.view()->size(), QSize(256, 128));
     EXPECT_EQ(edited.thumbnail()->size(), QSize(16, 16));
-    EXPECT_TRUE(edited.view()->isWindow());
+    EXPECT_EQ(edited.view()->windowType(), Qt::ToolTip) << "it takes no focus and counts as no window";
 }
 
 TEST(ImageEditorTest, ViewOpensUnderThePointerStaysAndGoesWithIt)

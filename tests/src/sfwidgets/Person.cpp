@@ -7,6 +7,8 @@
 #include <QStyleOptionSlider>
 #include <QTest>
 
+#include <gtest/gtest.h>
+
 namespace
 {
 
@@ -63,9 +65,24 @@ void person::typeAndEnter(QLineEdit* edit, const QString& text)
     QTest::keyClick(edit, Qt::Key_Return);
 }
 
+void person::typeKey(QLineEdit* edit, const QString& text)
+{
+    focus(edit);
+    edit->selectAll();
+    QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, text, Qt::NoModifier);
+}
+
 void person::tab(QWidget* input)
 {
     QTest::keyClick(input, Qt::Key_Tab);
+}
+
+void person::clickElsewhere(QWidget* input)
+{
+    QLineEdit elsewhere(input->window());
+    elsewhere.show();
+    QTest::mouseClick(&elsewhere, Qt::LeftButton);
+    EXPECT_TRUE(elsewhere.hasFocus());
 }
 
 void person::drag(QSlider* slider, const QList<int>& positions)
