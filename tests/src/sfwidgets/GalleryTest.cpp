@@ -2,6 +2,7 @@
 #include "Gallery.h"
 #include "EdSlider.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -106,11 +107,20 @@ TEST_F(GalleryTest, EveryEditorFitsIntoANarrowDock)
     for (SoSField* field : m_fields) {
         QWidget* editor = show(field);
         EXPECT_LE(editor->minimumSizeHint().width(), 420) << typeOf(field);
+        const auto* frame = editor->findChild<QFrame*>("m_editionFrame");
+        for (const QWidget* input : frame ? frame->findChildren<QWidget*>() : QList<QWidget*>()) {
+            const bool isSeen = input->isVisible() && input->parentWidget() == frame;
+            EXPECT_TRUE(!isSeen || frame->rect().contains(input->geometry())) << typeOf(field) << " is cut";
+        }
         if (folder.isEmpty())
             continue;
         QDir().mkpath(folder);
-        const QString name = QString::fromStdString(typeOf(field)) + ".png";
+        const QString path = QDir(folder).filePath(QString::fromStdString(typeOf(field)));
         const QSize size(editor->width(), editor->layout()->sizeHint().height());
-        EXPECT_TRUE(editor->grab(QRect({0, 0}, size)).save(QDir(folder).filePath(name)));
+        EXPECT_TRUE(editor->grab(QRect({0, 0}, size)).save(path + ".png"));
+        if (auto* pencil = editor->findChild<QPushButton*>("m_editButton")) {
+            QTest::mouseClick(pencil, Qt::LeftButton);
+            EXPECT_TRUE(QApplication::activePopupWidget()->grab().save(path + "-grid.png"));
+        }
     }
 }
