@@ -226,7 +226,6 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
     // The old profiles are the manager's to delete.
     m_profiles->clear();
     m_profiles.reset(profiles);
-    const int before = m_currentProfile;
     setupProfileComboBox();
     if (index == -1) {
         m_currentProfile = -1;
@@ -236,11 +235,13 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
         emit needUpdateViewer();
         return;
     }
-    m_currentProfile = index;
-    m_viewer->setViewList(profile()->getView());
-    if (index != before || index == 0)
+    m_viewer->setViewList(m_profiles->at(index)->getView());
+    if (index == 0) {
+        // The box shows this one already and will not tell of it.
+        m_currentProfile = 0;
         setupPreSelectedList();
-    selectInComboBox(index);
+    }
+    m_listConfig->setCurrentIndex(index);
     emit needUpdateViewer();
 }
 

@@ -31,12 +31,10 @@ void appendCounter(QTableWidget& table, const SoPerfCounter& counter)
 {
     const int row = table.rowCount();
     table.insertRow(row);
-    const QString texts[] = {toQString(counter.getName()),
-                             counter.isCustom() ? QStringLiteral("c") : QString(),
-                             toQString(counter.getTypeText()),
-                             toQString(counter.getStringLevel()),
-                             toQString(counter.getModule()),
-                             toQString(counter.getDescription())};
+    const QString texts[] = {
+        toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
+        toQString(counter.getTypeText()), toQString(counter.getStringLevel()),
+        toQString(counter.getModule()), toQString(counter.getDescription())};
     int column = 0;
     for (const QString& text : texts)
         table.setItem(row, column++, new QTableWidgetItem(text));
@@ -64,6 +62,8 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
 
 SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
 {
+    // Where the dock goes first, the window is never closed.
+    undoCounterChanges();
     dropProfiles();
 }
 
@@ -280,8 +280,11 @@ void SoPerfCounterProfileManager::openProfile()
                              tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
         return;
     }
+    const QString before = m_filePath;
     setFilepath(path);
-    read(&file);
+    // OK would write over a file that holds something else.
+    if (!read(&file))
+        setFilepath(before);
 }
 
 bool SoPerfCounterProfileManager::read(QIODevice* device)
@@ -293,13 +296,15 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
             m_registry->disableCounter(counter->getName());
     }
     m_registry->removeDisabledCounters();
+    m_tabProfile->hide(); // shown, it lays all tabs out anew for each that comes or goes
     dropProfiles();
     counterProfileFile::readCustomCounters(m_document);
+    setupListCounter();
     for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(m_document)) {
         m_profiles->append(profile);
         addTab(*profile);
     }
-    setupListCounter();
+    m_tabProfile->show();
     return true;
 }
 
@@ -356,7 +361,7 @@ void SoPerfCounterProfileManager::okAction()
     emit okProfile();
 }
 
-void SoPerfCounterProfileManager::cancelAction()
+void SoPerfCounterProfileManager::undoCounterChanges()
 {
     for (const SoPerfCounter* counter : m_registry->getCounters())
         m_registry->enableCounter(counter->getName());
@@ -364,6 +369,11 @@ void SoPerfCounterProfileManager::cancelAction()
         m_registry->disableCounter(toCounterName(name));
     m_registry->removeDisabledCounters();
     m_created.clear();
+}
+
+void SoPerfCounterProfileManager::cancelAction()
+{
+    undoCounterChanges();
     emit cancelProfile();
     setFilepath(m_fallbackPath);
     if (m_filePath.isEmpty())

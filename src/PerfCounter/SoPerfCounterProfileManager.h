@@ -67,6 +67,7 @@ private:
     bool saveTo(const QString& path);
     void okAction();
     void cancelAction();
+    void undoCounterChanges();
     // The profile of the current tab; says `otherwise` in a box where there is none.
     SoPerfCounterProfile* currentProfile(const QString& otherwise);
     QTableWidget* tableOf(int index) const;

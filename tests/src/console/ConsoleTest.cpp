@@ -1,4 +1,5 @@
 #include "ConsoleFixture.h"
+#include "support/FileAnswer.h"
 
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoErrorStack.h>
@@ -6,9 +7,6 @@
 #include <xsg/errors/SoMemoryError.h>
 #include <xsg/errors/SoReadError.h>
 
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -40,54 +38,6 @@ void fill(const QString& name, const QByteArray& content)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
 }
-
-// Answers the dialog that is about to open, as a person types a name and presses Enter, and says yes to a
-// question.
-class SaveAnswer : public QObject
-{
-public:
-    explicit SaveAnswer(QString name)
-        : m_name(std::move(name))
-    {
-        startTimer(1);
-    }
-    QString caption;
-    QStringList filters;
-    QString directory;
-    QObject* parent = nullptr;
-
-protected:
-    void timerEvent(QTimerEvent*) override
-    {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (auto* box = qobject_cast<QMessageBox*>(modal))
-            box->button(QMessageBox::Yes)->click();
-        else if (auto* dialog = qobject_cast<QFileDialog*>(modal))
-            answer(*dialog);
-    }
-
-private:
-    void answer(QFileDialog& dialog)
-    {
-        if (m_answered)
-            return;
-        m_answered = true;
-        caption = dialog.windowTitle();
-        filters = dialog.nameFilters();
-        directory = dialog.directory().absolutePath();
-        parent = dialog.parent();
-        if (m_name.isEmpty()) {
-            dialog.reject();
-            return;
-        }
-        auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
-        edit->setText(m_name);
-        QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
-    }
-
-    QString m_name;
-    bool m_answered = false;
-};
 
 class Console : public ConsoleTest
 {
@@ -527,7 +477,7 @@ TEST_F(Console, SavesItsTextAsLatin1)
     std::cout << "caf\xe9\nend";
     m_console.printInfo(QString::fromUtf8("\xe2\x82\xac"));
     const QTemporaryDir folder;
-    SaveAnswer answer(folder.filePath("console.txt"));
+    FileAnswer answer(folder.filePath("console.txt"));
     click("m_saveButton");
     EXPECT_EQ(contentOf(folder.filePath("console.txt")), "caf\xe9\nend\n?");
     EXPECT_EQ(answer.caption, "Save the content of the console");
@@ -544,7 +494,7 @@ TEST_F(Console, SavingLeavesTheTailOfALongerFile)
     const QTemporaryDir folder;
     const QString name = folder.filePath("console.txt");
     fill(name, "0123456789");
-    SaveAnswer answer(name);
+    FileAnswer answer(name);
     click("m_saveButton");
     EXPECT_EQ(contentOf(name), "short56789");
 }
@@ -554,11 +504,11 @@ TEST_F(Console, ACancelledOrImpossibleSaveWritesAndReportsNothing)
     start();
     std::cout << "text";
     {
-        SaveAnswer answer("");
+        FileAnswer answer("");
         click("m_saveButton");
         EXPECT_FALSE(answer.caption.isEmpty());
     }
-    SaveAnswer answer("/proc/console.txt");
+    FileAnswer answer("/proc/console.txt");
     click("m_saveButton");
     EXPECT_FALSE(answer.caption.isEmpty());
     EXPECT_EQ(text(), "text");
