@@ -1,5 +1,6 @@
 #include "SoPerfCounterViewer.h"
 
+#include "CurveColors.h"
 #include "CustomCounter.h"
 #include "EdText.h"
 #include "PlotToolTip.h"
@@ -16,6 +17,7 @@
 #include <QTimer>
 
 #include <qwt_scale_draw.h>
+#include <qwt_scale_engine.h>
 #include <qwt_scale_map.h>
 #include <qwt_text.h>
 
@@ -30,8 +32,6 @@ namespace
 constexpr int PlotPosition = 1;
 constexpr int AxisPenWidth = 2;
 constexpr QSize PlotMinimum(240, 140);
-// Colours lighter than this, of 255, would be lost on the white canvas.
-constexpr int LightestColor = 200;
 constexpr auto Separator = "##";
 constexpr auto DragSource = "m_preSelectedListView";
 
@@ -46,14 +46,17 @@ double finiteOf(double value)
     return std::isfinite(value) ? value : 0;
 }
 
-QColor randomColor()
+// Where nothing is counted the toolkit shows a span around 0, below which no counter falls.
+class CountScaleEngine : public QwtLinearScaleEngine
 {
-    static constexpr int Levels[] = {0, 85, 127, 170, 255};
-    const auto level = [] { return Levels[std::rand() % 5]; };
-    const int red = level();
-    const int green = level();
-    return {red, green, level()};
-}
+public:
+    void autoScale(int maxSteps, double& from, double& to, double& step) const override
+    {
+        if (from == 0 && to == 0)
+            to = 1;
+        QwtLinearScaleEngine::autoScale(maxSteps, from, to, step);
+    }
+};
 
 void setAxisTitle(QwtPlot& plot, int axis, const QString& text)
 {
@@ -68,6 +71,7 @@ void preparePlot(QwtPlot& plot)
     plot.setCanvasBackground(Qt::white);
     for (const int axis : {int(QwtPlot::yLeft), int(QwtPlot::xBottom)})
         plot.axisScaleDraw(axis)->setPenWidth(AxisPenWidth);
+    plot.setAxisScaleEngine(QwtPlot::yLeft, new CountScaleEngine); // the plot's
     setAxisTitle(plot, QwtPlot::yLeft, SoPerfCounterViewer::tr("Per second"));
 }
 
@@ -346,15 +350,10 @@ int SoPerfCounterViewer::selectedIndex() const
 
 QColor SoPerfCounterViewer::newColor() const
 {
-    const auto isUsed = [this](const QColor& color) {
+    return randomCurveColor([this](const QColor& color) {
         return std::any_of(m_viewed->begin(), m_viewed->end(),
                            [&](const SoPerfCounterPcViewed* v) { return v->getColor() == color; });
-    };
-    // With very many counters some have to share a colour.
-    QColor color = randomColor();
-    for (int tries = 0; tries < 100 && (qGray(color.rgb()) > LightestColor || isUsed(color)); ++tries)
-        color = randomColor();
-    return color;
+    });
 }
 
 bool SoPerfCounterViewer::add(const QString& name)
