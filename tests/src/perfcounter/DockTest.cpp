@@ -8,6 +8,8 @@
 #include <QDomDocument>
 #include <QLabel>
 
+#include <qwt_plot.h>
+
 using CounterDock = CounterHome;
 
 TEST_F(CounterDock, ReadsProfilesCountersAndTheViewOfTheFile)
@@ -233,10 +235,44 @@ TEST_F(CounterDock, AnotherColourReachesTheCurveAndTheButton)
     EXPECT_EQ(dock->m_viewer->m_legend->selectedItems().size(), 5) << "the row stays selected";
 }
 
+TEST_F(CounterDock, ACancelledColourChangesNothing)
+{
+    writeExample();
+    open();
+    dock->m_viewer->m_legend->selectRow(0);
+    const QColor color = dock->m_viewer->findViewed("testB")->getColor();
+    const QString sheet = dock->m_colorButton->styleSheet();
+    QColor offeredColor;
+    QTimer::singleShot(0, qApp, [&] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        EXPECT_EQ(dialog->parent(), dock.get());
+        offeredColor = dialog->currentColor();
+        dialog->setCurrentColor(QColor(1, 2, 3));
+        dialog->reject();
+    });
+    QTest::mouseClick(dock->m_colorButton, Qt::LeftButton);
+    EXPECT_EQ(offeredColor, color);
+    EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), color);
+    EXPECT_EQ(dock->m_colorButton->styleSheet(), sheet);
+}
+
+TEST(CounterExtension, TellsWhoItIs)
+{
+    const SpxPerfCounterExtension extension;
+    EXPECT_EQ(extension.getName(), SbString("PerfCounter"));
+    EXPECT_EQ(extension.getVendor(), SbString("Arvex"));
+    EXPECT_EQ(extension.getDescription(), SbString("tools to inspect performance of the scene graph."));
+    EXPECT_EQ(extension.getVersion(), SbString("1.0.0"));
+}
+
 TEST(CounterExtension, WithoutTheSwitchItTellsHowToSetIt)
 {
-    for (const char* value : {"", "0"}) {
-        qputenv("XSG_PERFCOUNTER_ENABLE", value);
+    for (const char* value : {static_cast<const char*>(nullptr), "", "0"}) {
+        if (value)
+            qputenv("XSG_PERFCOUNTER_ENABLE", value);
+        else
+            qunsetenv("XSG_PERFCOUNTER_ENABLE");
         TestHost host;
         SpxPerfCounterExtension extension;
         host.start(extension);
@@ -267,12 +303,24 @@ TEST_F(CounterDock, WithTheSwitchTheExtensionDocksTheTool)
     auto* tool = host.window().findChild<SoPerfCounterDockWin*>();
     ASSERT_TRUE(tool);
     EXPECT_TRUE(tool->isVisible());
-    tool->m_listConfig->setCurrentIndex(0);
+    EXPECT_EQ(tool->windowTitle(), "Performance Counter");
+    EXPECT_EQ(tool->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    EXPECT_EQ(tool->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    EXPECT_EQ(host.window().dockWidgetArea(tool), Qt::RightDockWidgetArea);
+    EXPECT_EQ(host.takeLog(), (TestHost::Log{"addDockWidget \"Performance Counter\" 2",
+                                             "attachExtension \"PerfCounter\" true"}));
+    tool->m_viewer->doubleClickEvent("testA");
+    tool->m_viewer->graphView();
     extension.hide();
     EXPECT_FALSE(tool->isVisible());
     extension.show();
     EXPECT_TRUE(tool->isVisible());
-    EXPECT_EQ(tool->getCurrentProfile(), 0);
+    EXPECT_EQ(tool->getCurrentProfile(), 1);
+    EXPECT_EQ(tool->m_viewer->getViewed()->size(), 2);
+    EXPECT_TRUE(tool->m_viewer->getGraphPlot()->isVisible());
+    EXPECT_EQ(host.takeLog(), TestHost::Log());
     host.stop(extension);
+    EXPECT_EQ(host.takeLog(),
+              (TestHost::Log{"removeDockWidget \"Performance Counter\"", "detachExtension \"PerfCounter\""}));
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
 }
