@@ -80,7 +80,7 @@ public:
     {
         return dock()->findChild<Widget*>(QString::fromLatin1(name));
     }
-    QListWidget* list() { return part<QListWidget>("m_preSelectedListView"); }
+    QListWidget* list() { return dock()->findChild<QListWidget*>(); }
     QTableWidget* legend() { return part<QTableWidget>("m_legend"); }
     QTimer* clock() { return part("m_viewer")->findChild<QTimer*>({}, Qt::FindDirectChildrenOnly); }
 

@@ -23,6 +23,19 @@ void chooseColorSoon(const QColor& color)
     watch->start(5);
 }
 
+// The pictures of the documentation come from here: SCOPIX_PICTURES names the folder that they go to.
+QString picturesFolder()
+{
+    return qEnvironmentVariable("SCOPIX_PICTURES");
+}
+
+void savePicture(QWidget& widget, const QString& name)
+{
+    if (!picturesFolder().isEmpty()) {
+        EXPECT_TRUE(widget.grab().save(QDir(picturesFolder()).filePath(name + ".png")));
+    }
+}
+
 void selectThree(CounterSession& session)
 {
     session.click(session.placeOf(session.listed("Triangles")));
@@ -76,6 +89,22 @@ TEST(Counters, ThreeAreDraggedChangedSavedAndFoundAgain)
     EXPECT_EQ(again.legendNames(), all);
 }
 
+TEST(Counters, OnlyWhatComesFromTheListAndIsNotShownYetIsTaken)
+{
+    CounterHome home;
+    CounterSession session;
+    const QStringList before = session.legendNames();
+    const QString name = session.list()->objectName();
+    session.list()->setObjectName("anotherList");
+    session.drag(session.placeOf(session.listed("Triangles")), "m_viewer");
+    EXPECT_EQ(session.legendNames(), before);
+    session.list()->setObjectName(name);
+    session.drag(session.placeOf(session.listed("Frames")), "m_viewer");
+    EXPECT_EQ(session.legendNames(), before);
+    session.drag(session.placeOf(session.listed("Triangles")), "m_viewer");
+    EXPECT_EQ(session.legendNames(), before + QStringList{"Triangles"});
+}
+
 TEST(Counters, OrbitingTheModelMovesFramesAndDrawCalls)
 {
     CounterHome home;
@@ -95,12 +124,10 @@ TEST(Counters, OrbitingTheModelMovesFramesAndDrawCalls)
     EXPECT_TRUE(QTest::qWaitFor([&] { return session.shownValue("Frames") == 0; }, 60000));
 }
 
-// The pictures of the documentation come from here: SCOPIX_PICTURES names the folder that they go to.
 TEST(Counters, EachViewShowsEachCounterInItsColour)
 {
     CounterHome home;
     CounterSession session;
-    const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
     session.clickLegend("Frames");
     chooseColorSoon({0, 85, 170});
     session.click("m_colorButton");
@@ -111,7 +138,7 @@ TEST(Counters, EachViewShowsEachCounterInItsColour)
     session.part<QComboBox>("m_freqBox")->setCurrentText("8");
     session.part<QComboBox>("m_timeBox")->setCurrentText("15");
     QSignalSpy samples(session.clock(), &QTimer::timeout);
-    const int enough = folder.isEmpty() ? 8 : 110;
+    const int enough = picturesFolder().isEmpty() ? 8 : 110;
     while (samples.count() < enough) {
         const int until = samples.count() + 6;
         session.orbit([&] { return samples.count() >= until; });
@@ -130,10 +157,43 @@ TEST(Counters, EachViewShowsEachCounterInItsColour)
                 EXPECT_GT(session.shownValue(name), 0) << name;
             }
         }
-        if (!folder.isEmpty()) {
-            EXPECT_TRUE(session.dock()->grab().save(QDir(folder).filePath(QString(picture) + ".png")));
-        }
+        savePicture(*session.dock(), picture);
     }
+}
+
+TEST(Counters, TheManagerMakesAProfileThatIsUsedAtOnce)
+{
+    CounterHome home;
+    CounterSession session;
+    session.click("m_openConfigButton");
+    auto* manager = session.dock()->findChild<QMainWindow*>();
+    ASSERT_TRUE(manager && QTest::qWaitForWindowExposed(manager));
+    const auto click = [&](const char* button) {
+        QTest::mouseClick(manager->findChild<QPushButton*>(button), Qt::LeftButton);
+    };
+    click("m_addProfile");
+    auto* dialog = manager->findChild<QDialog*>();
+    ASSERT_TRUE(dialog && QTest::qWaitForWindowExposed(dialog));
+    QTest::keyClicks(dialog->findChild<QLineEdit*>("m_name"), "Mine");
+    QTest::keyClick(dialog->findChild<QLineEdit*>("m_name"), Qt::Key_Return);
+    auto* all = manager->findChild<QTableWidget*>("m_listCounter");
+    for (const char* name : {"Picks", "RenderTime"}) {
+        const QTableWidgetItem* row = all->findItems(name, Qt::MatchExactly).value(0);
+        ASSERT_TRUE(row) << name;
+        all->scrollToItem(row);
+        QTest::mouseClick(all->viewport(), Qt::LeftButton, {}, all->visualItemRect(row).center());
+        click("m_downArrow");
+    }
+    savePicture(*manager, "counters-manager");
+    QTest::mouseClick(manager->centralWidget()->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
+                      Qt::LeftButton);
+    EXPECT_EQ(session.part<QComboBox>("m_listConfig")->currentText(), "Mine");
+    EXPECT_EQ(session.list()->count(), 2);
+    EXPECT_TRUE(session.listed("Picks") && session.listed("RenderTime"));
+    QFile file(home.profileFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("<profile name=\"Mine\">"));
+    EXPECT_EQ(session.takeBoxes(), QStringList());
 }
 
 TEST(Counters, SwitchedOffTheyWaitInTheMenu)
