@@ -66,7 +66,8 @@ void SoGroup::removeAllChildren()
     if (children.empty())
         return;
     childrenChanged();
-    std::for_each(children.rbegin(), children.rend(), [this](SoNode* child) { release(child); });
+    disownAll(children);
+    std::for_each(children.rbegin(), children.rend(), [](const SoNode* child) { child->unref(); });
 }
 
 bool SoGroup::replaceChild(int index, SoNode* child)
@@ -89,16 +90,23 @@ void SoGroup::adopt(SoNode* child)
 
 void SoGroup::release(SoNode* child)
 {
-    disown(child);
+    auto& parents = child->m_parents;
+    parents.erase(std::find(parents.begin(), parents.end(), this));
     child->unref();
 }
 
-// From the back, for a child that stands in many places leaves them in that order when they go together.
-void SoGroup::disown(SoNode* child)
+// When everything goes, this group's places are a child's last ones; where they are not, all of them leave in
+// one pass.
+void SoGroup::disownAll(const std::vector<SoNode*>& children)
 {
-    auto& parents = child->m_parents;
-    const auto place = std::find(parents.rbegin(), parents.rend(), this);
-    parents.erase(std::next(place).base());
+    std::unordered_set<const SoNode*> swept;
+    std::for_each(children.rbegin(), children.rend(), [&](SoNode* child) {
+        auto& parents = child->m_parents;
+        if (!parents.empty() && parents.back() == this)
+            parents.pop_back();
+        else if (swept.insert(child).second)
+            parents.erase(std::remove(parents.begin(), parents.end(), this), parents.end());
+    });
 }
 
 void SoGroup::childrenChanged()
@@ -139,7 +147,7 @@ bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& place
 
 SoGroup::~SoGroup()
 {
-    std::for_each(m_children.rbegin(), m_children.rend(), [this](SoNode* child) { disown(child); });
+    disownAll(m_children);
     // They go once this one is gone, and the last one first.
     for (const SoNode* child : m_children)
         child->unref();

@@ -57,7 +57,7 @@ private:
     friend class SoNode;
     void adopt(SoNode* child);
     void release(SoNode* child);
-    void disown(SoNode* child);
+    void disownAll(const std::vector<SoNode*>& children);
     void childrenChanged();
     bool wouldLoop(const SoNode* child) const;
 
