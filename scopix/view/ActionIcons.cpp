@@ -84,3 +84,27 @@ QIcon scopix::viewSelectedIcon()
         p.drawEllipse(QPointF(9, 9), 3.2, 3.2);
     });
 }
+
+QIcon scopix::wireframeIcon()
+{
+    return drawnIcon(Size, [](QPainter& p) {
+        p.setBrush(Qt::NoBrush);
+        p.setPen(stroke(Ink));
+        p.drawPolygon(QPolygonF({{9, 2.5}, {15.5, 5.5}, {15.5, 12.5}, {9, 15.5}, {2.5, 12.5}, {2.5, 5.5}}));
+        p.setPen(stroke(Accent));
+        p.drawPolyline(QPolygonF({{2.5, 5.5}, {9, 8.5}, {15.5, 5.5}}));
+        p.drawLine(QPointF(9, 8.5), QPointF(9, 15.5));
+    });
+}
+
+QIcon scopix::statisticsIcon()
+{
+    return drawnIcon(Size, [](QPainter& p) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(Ink);
+        p.drawRect(QRectF(3, 9, 3, 6.5));
+        p.drawRect(QRectF(12, 6, 3, 9.5));
+        p.setBrush(Accent);
+        p.drawRect(QRectF(7.5, 3, 3, 12.5));
+    });
+}

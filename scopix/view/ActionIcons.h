@@ -11,5 +11,7 @@ QIcon undoIcon();
 QIcon redoIcon();
 QIcon viewAllIcon();
 QIcon viewSelectedIcon();
+QIcon wireframeIcon();
+QIcon statisticsIcon();
 
 } // namespace scopix

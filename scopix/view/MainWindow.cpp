@@ -161,6 +161,16 @@ void MainWindow::makeViewMenu()
     m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
                                            QKeySequence(Qt::CTRL + Qt::Key_F));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
+    menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
+    menu->addSeparator();
+    m_wireframeAction = menu->addAction(scopix::wireframeIcon(), tr("&Wireframe"));
+    m_wireframeAction->setShortcut(Qt::Key_F3);
+    m_statisticsAction = menu->addAction(scopix::statisticsIcon(), tr("S&tatistics"));
+    m_statisticsAction->setShortcut(Qt::Key_F4);
+    for (QAction* toggle : {m_wireframeAction, m_statisticsAction})
+        toggle->setCheckable(true);
+    connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
+    connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
@@ -188,13 +198,16 @@ void MainWindow::makeHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
     menu->addAction(tr("&Moving in the 3D View"), this, [this] {
-        QMessageBox::information(this, tr("Moving in the 3D View"),
-                                 tr("Turn: drag with the left button.\n"
-                                    "Move: drag with the middle or right button, or with Shift and the left one.\n"
-                                    "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
-                                    "Select: click. The selected part shows its edges.\n"
-                                    "See all of the selected part: double-click, or F.\n"
-                                    "See everything: Home."));
+        QMessageBox::information(
+            this, tr("Moving in the 3D View"),
+            tr("Turn: drag with the left button.\n"
+               "Move: drag with the middle or right button, or with Shift and the left one.\n"
+               "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
+               "Select: click. The selected part shows its edges.\n"
+               "See all of the selected part: double-click, or F.\n"
+               "See everything: A. As at first: Home.\n"
+               "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "Edges only: F3. What a picture costs: F4."));
     });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
@@ -218,6 +231,8 @@ void MainWindow::makeToolBar()
     bar->addActions({m_undoAction, m_redoAction});
     bar->addSeparator();
     bar->addActions({m_viewAllAction, m_viewSelectedAction});
+    bar->addSeparator();
+    bar->addActions({m_wireframeAction, m_statisticsAction});
 }
 
 void MainWindow::connectSelection()
@@ -254,6 +269,7 @@ void MainWindow::setScene(SoNode* root, const QString& title)
 void MainWindow::showScene(SoNode* root)
 {
     m_tree->setScene(root);
+    m_view->setAnimated(m_messages.isAttended()); // pictures made by a script are to be the same each time
     m_view->setScene(root);
 }
 

@@ -83,4 +83,6 @@ private:
     QAction* m_redoAction = nullptr;
     QAction* m_viewAllAction = nullptr;
     QAction* m_viewSelectedAction = nullptr;
+    QAction* m_wireframeAction = nullptr;
+    QAction* m_statisticsAction = nullptr;
 };

@@ -4,9 +4,11 @@
 #include "view/ViewSurface.h"
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/SoSpin.h>
 #include <xsg/render/SoRenderer.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QResizeEvent>
 
@@ -18,6 +20,9 @@ namespace
 
 constexpr float Pi = 3.14159265F;
 constexpr float WheelStep = 0.85F; // per notch of 120
+constexpr int TickMs = 16;         // between pictures of something that turns
+// What a key does, as part of the picture's height; turning, that is half a turn.
+constexpr float KeyStep = 1.0F / 12;
 // How much of the picture, from its middle to its edge, a framed box fills.
 constexpr float Filled = 0.88F;
 // Where a new scene is looked at from: a little from the side and from above.
@@ -82,8 +87,15 @@ SceneView::SceneView(QWidget* parent, Drawing drawing)
     , m_camera(new SoPerspectiveCamera)
     , m_sensor(sceneChanged, this)
     , m_surface(ViewSurface::make(
-          this, [this](SoRenderer& renderer) { return prepare(renderer); }, drawing == Drawing::Best))
+          this, [this](SoRenderer& renderer) { return prepare(renderer); },
+          [this](const SoRenderer& renderer) { drawn(renderer); }, drawing == Drawing::Best))
+    , m_statistics(new QLabel(this))
 {
+    m_statistics->setObjectName(QStringLiteral("statistics"));
+    m_statistics->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_statistics->setAutoFillBackground(true);
+    m_statistics->setMargin(4);
+    m_statistics->hide();
     setObjectName(QStringLiteral("sceneView"));
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -93,25 +105,102 @@ SceneView::~SceneView() = default;
 void SceneView::setScene(SoNode* root)
 {
     m_root = SoRef<SoNode>(root);
-    m_highlight = nullptr;
+    m_highlight = 0;
     m_sensor.attach(root);
+    goHome();
+    animateWhereNeeded();
+}
+
+void SceneView::goHome()
+{
     m_camera->orientation.setValue(SbRotation());
     viewAll();
     m_camera->orbit(StartTurn, StartTilt);
     viewAll();
 }
 
+void SceneView::redraw()
+{
+    m_statisticsAreOld = true;
+    m_surface->redraw();
+}
+
+void SceneView::setWireframe(bool on)
+{
+    m_wireframe = on;
+    redraw();
+}
+
+void SceneView::setShowsStatistics(bool on)
+{
+    m_statistics->setVisible(on);
+    redraw();
+}
+
+// Only after a picture that was asked for: the text itself may have the picture painted again.
+void SceneView::drawn(const SoRenderer& renderer)
+{
+    if (!std::exchange(m_statisticsAreOld, false) || m_statistics->isHidden())
+        return;
+    const SoRenderer::Statistics& frame = renderer.getStatistics();
+    m_statistics->setText(tr("Shapes: %L1, of them out of sight: %L2\n"
+                             "Triangles: %L3, draw calls: %L4\n"
+                             "Uploaded bytes: %L5, processor: %L6 ms")
+                              .arg(frame.shapes)
+                              .arg(frame.culled)
+                              .arg(frame.triangles)
+                              .arg(frame.drawCalls)
+                              .arg(frame.uploadedBytes + frame.textureBytes)
+                              .arg(frame.seconds * 1000, 0, 'f', 1));
+    m_statistics->adjustSize();
+}
+
+void SceneView::setAnimated(bool on)
+{
+    m_isAnimated = on;
+    animateWhereNeeded();
+}
+
+void SceneView::animateWhereNeeded()
+{
+    const bool isNeeded = m_isAnimated && isVisible() && m_root && SoSpin::isAnyTurning(m_root.get());
+    if (isNeeded && !m_ticks.isActive()) {
+        m_sinceTick.start();
+        m_ticks.start(TickMs, this);
+    } else if (!isNeeded) {
+        m_ticks.stop();
+    }
+}
+
+void SceneView::timerEvent(QTimerEvent* /*event*/)
+{
+    SoSpin::advanceAll(static_cast<double>(m_sinceTick.restart()) / 1000, m_root.get());
+}
+
+void SceneView::showEvent(QShowEvent* /*event*/)
+{
+    animateWhereNeeded();
+}
+
+void SceneView::hideEvent(QHideEvent* /*event*/)
+{
+    animateWhereNeeded();
+}
+
 void SceneView::setHighlight(const SoNode* node)
 {
-    if (node == m_highlight)
+    const std::uint64_t number = node ? node->getNodeId() : 0;
+    if (number == m_highlight)
         return;
-    m_highlight = node;
-    m_surface->redraw();
+    m_highlight = number;
+    redraw();
 }
 
 void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
 {
-    static_cast<SceneView*>(self)->m_surface->redraw();
+    auto* view = static_cast<SceneView*>(self);
+    view->redraw();
+    view->animateWhereNeeded();
 }
 
 ViewContent SceneView::prepare(SoRenderer& renderer)
@@ -123,7 +212,8 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
         return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
     };
     renderer.setBackground(toColor(scopix::groundColor(palette())));
-    renderer.setHighlight(m_highlight);
+    renderer.setWireframe(m_wireframe);
+    renderer.setHighlightedNumber(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     return {m_root.get(), m_camera.get()};
 }
@@ -165,7 +255,7 @@ void SceneView::viewNode(SoNode* node)
 void SceneView::cameraMoved()
 {
     m_framed = false;
-    m_surface->redraw();
+    redraw();
 }
 
 std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
@@ -201,9 +291,27 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     const float right = static_cast<float>(by.x()) * scale;
     const float up = static_cast<float>(-by.y()) * scale;
     if (m_drag == Drag::Orbit)
-        m_camera->orbit(-right * Pi, up * Pi);
+        turn(right, up);
     else
-        m_camera->pan(-right, -up);
+        pan(right, up);
+}
+
+// Both carry what is seen along, by parts of the picture's height.
+void SceneView::turn(float right, float up)
+{
+    m_camera->orbit(-right * Pi, up * Pi);
+    cameraMoved();
+}
+
+void SceneView::pan(float right, float up)
+{
+    m_camera->pan(-right, -up);
+    cameraMoved();
+}
+
+void SceneView::zoom(float factor)
+{
+    m_camera->zoom(factor);
     cameraMoved();
 }
 
@@ -236,12 +344,31 @@ void SceneView::wheelEvent(QWheelEvent* event)
 
 void SceneView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Home)
-        viewAll();
-    else if (event->key() == Qt::Key_F)
+    const auto go = event->modifiers() & Qt::ShiftModifier ? &SceneView::pan : &SceneView::turn;
+    switch (event->key()) {
+    case Qt::Key_Home:
+        return goHome();
+    case Qt::Key_A:
+        return viewAll();
+    case Qt::Key_F:
         emit viewSelectedRequested();
-    else
+        return;
+    case Qt::Key_Left:
+        return (this->*go)(-KeyStep, 0);
+    case Qt::Key_Right:
+        return (this->*go)(KeyStep, 0);
+    case Qt::Key_Up:
+        return (this->*go)(0, KeyStep);
+    case Qt::Key_Down:
+        return (this->*go)(0, -KeyStep);
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return zoom(WheelStep); // plus without Shift, on many keyboards
+    case Qt::Key_Minus:
+        return zoom(1 / WheelStep);
+    default:
         QWidget::keyPressEvent(event);
+    }
 }
 
 void SceneView::resizeEvent(QResizeEvent* /*event*/)
@@ -254,6 +381,6 @@ void SceneView::resizeEvent(QResizeEvent* /*event*/)
 void SceneView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)
-        m_surface->redraw();
+        redraw();
     QWidget::changeEvent(event);
 }

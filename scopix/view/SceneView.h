@@ -1,15 +1,20 @@
-// The live 3D view. Draws again only when the scene, the camera or the size changed. Left button turns, middle button
-// (or Shift and the left one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a
-// double click or F shows all of what is selected, Home shows all. GUI thread only.
+// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause only
+// while something in the scene turns as time goes by. Left button turns, middle button (or Shift and the left
+// one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double click or F
+// shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with Shift they
+// move, plus and minus come nearer and go away. GUI thread only.
 #pragma once
 
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/nodes/SoPerspectiveCamera.h>
 #include <xsg/sensors/SoNodeSensor.h>
 
+#include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QWidget>
 
+class QLabel;
 class ViewSurface;
 struct ViewContent;
 class SoRenderer;
@@ -26,9 +31,17 @@ public:
 
     // Shows all of it. Null gives the empty ground.
     void setScene(SoNode* root);
-    // Marks the node in the picture; null marks none. Only compared with, never looked into.
+    // Marks the node in the picture; null marks none. The node may go at any time.
     void setHighlight(const SoNode* node);
 
+    // Edges instead of surfaces.
+    void setWireframe(bool on);
+    bool isWireframe() const { return m_wireframe; }
+    // In a corner of the picture, what it took to draw it.
+    void setShowsStatistics(bool on);
+
+    // Where a new scene is looked at from.
+    void goHome();
     void viewAll();
     // Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
@@ -39,6 +52,11 @@ public:
     std::optional<SoPickedPoint> pick(const QPoint& place);
     // Pictures drawn so far.
     int getDrawCount() const;
+    // Whether time may go by in the scene, as it does from the start; without it a picture is the same
+    // whenever it is taken.
+    void setAnimated(bool on);
+    // Whether time goes by in the scene.
+    bool isAnimating() const { return m_ticks.isActive(); }
 
     QSize sizeHint() const override { return {720, 560}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
@@ -57,22 +75,37 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     enum class Drag { None, Orbit, Pan };
 
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
+    void drawn(const SoRenderer& renderer);
+    void redraw();
+    void turn(float right, float up);
+    void pan(float right, float up);
+    void zoom(float factor);
+    void animateWhereNeeded();
     void frame(const SbBox3f& box);
     void cameraMoved();
     float aspect() const;
 
     SoRef<SoNode> m_root;
     SoRef<SoPerspectiveCamera> m_camera;
-    const SoNode* m_highlight = nullptr;
+    std::uint64_t m_highlight = 0; // a node's number: the node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
     ViewSurface* m_surface;
+    QLabel* m_statistics;
+    bool m_statisticsAreOld = true;
+    bool m_wireframe = false;
+    bool m_isAnimated = true;
+    QBasicTimer m_ticks; // runs while something turns
+    QElapsedTimer m_sinceTick;
     Drag m_drag = Drag::None;
     bool m_moved = false;    // since the press, by more than a click's trembling
     bool m_framed = false;   // the person has not moved since all was shown

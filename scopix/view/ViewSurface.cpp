@@ -23,6 +23,8 @@ QSurfaceFormat surfaceFormat()
     format.setProfile(QSurfaceFormat::CoreProfile);
     format.setDepthBufferSize(24);
     format.setSamples(Samples);
+    format.setOption(QSurfaceFormat::DeprecatedFunctions); // without it, no line is wider than one pixel
+    format.setOption(QSurfaceFormat::DebugContext, SoRenderer::wantsDebugContext());
     return format;
 }
 
@@ -34,9 +36,10 @@ QSize pixelSize(const QWidget& widget)
 class GlSurface : public QOpenGLWidget, public ViewSurface
 {
 public:
-    GlSurface(QWidget* parent, Prepare prepare)
+    GlSurface(QWidget* parent, Prepare prepare, Drawn drawn)
         : QOpenGLWidget(parent)
         , m_prepare(std::move(prepare))
+        , m_drawn(std::move(drawn))
     {
         setFormat(surfaceFormat());
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -64,6 +67,7 @@ protected:
         const ViewContent content = m_prepare(m_renderer);
         m_renderer.render(content.root, content.camera, size.width(), size.height());
         ++m_drawCount;
+        m_drawn(m_renderer);
     }
 
 private:
@@ -77,6 +81,7 @@ private:
     }
 
     Prepare m_prepare;
+    Drawn m_drawn;
     SoRenderer m_renderer;
     QMetaObject::Connection m_contextGoes;
     int m_drawCount = 0;
@@ -85,9 +90,10 @@ private:
 class ImageSurface : public QWidget, public ViewSurface
 {
 public:
-    ImageSurface(QWidget* parent, Prepare prepare)
+    ImageSurface(QWidget* parent, Prepare prepare, Drawn drawn)
         : QWidget(parent)
         , m_prepare(std::move(prepare))
+        , m_drawn(std::move(drawn))
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_OpaquePaintEvent);
@@ -129,9 +135,11 @@ private:
                                QImage::Format_RGBX8888);
         m_pixels.width = size.width();
         m_pixels.height = size.height();
+        m_drawn(m_renderer.getRenderer());
     }
 
     Prepare m_prepare;
+    Drawn m_drawn;
     SoOffscreenRenderer m_renderer;
     SoPixels m_pixels; // what m_picture shows
     QImage m_picture;
@@ -164,9 +172,9 @@ bool ViewSurface::hasOpenGL()
     return known;
 }
 
-ViewSurface* ViewSurface::make(QWidget* parent, Prepare prepare, bool withOpenGL)
+ViewSurface* ViewSurface::make(QWidget* parent, Prepare prepare, Drawn drawn, bool withOpenGL)
 {
     if (withOpenGL && hasOpenGL())
-        return new GlSurface(parent, std::move(prepare));
-    return new ImageSurface(parent, std::move(prepare));
+        return new GlSurface(parent, std::move(prepare), std::move(drawn));
+    return new ImageSurface(parent, std::move(prepare), std::move(drawn));
 }

@@ -20,6 +20,8 @@ class ViewSurface
 {
 public:
     using Prepare = std::function<ViewContent(SoRenderer& renderer)>;
+    // Runs after every picture.
+    using Drawn = std::function<void(const SoRenderer& renderer)>;
 
     virtual ~ViewSurface() = default;
     // Lets the mouse through to its parent. The parent owns it.
@@ -30,7 +32,7 @@ public:
     virtual int getDrawCount() const = 0;
 
     // `withOpenGL` false takes pictures in any case.
-    static ViewSurface* make(QWidget* parent, Prepare prepare, bool withOpenGL);
+    static ViewSurface* make(QWidget* parent, Prepare prepare, Drawn drawn, bool withOpenGL);
     // Whether this platform can draw the scene with OpenGL inside of windows.
     static bool hasOpenGL();
 };

@@ -164,6 +164,45 @@ TEST_F(Window, AClickInThePictureSelectsInTreeAndList)
     EXPECT_EQ(window.getFields().getModel().rowCount(), 0);
 }
 
+TEST_F(Window, TheViewIsSteeredByMenuShortcutAndToolBar)
+{
+    auto* bar = window.findChild<QToolBar*>("mainToolBar");
+    ASSERT_TRUE(bar);
+    for (const char* text : {"View All", "View Selected", "Wireframe", "Statistics"}) {
+        ASSERT_TRUE(action(text)) << text;
+        EXPECT_TRUE(bar->actions().contains(action(text))) << text;
+        EXPECT_FALSE(action(text)->shortcut().isEmpty()) << text;
+    }
+    ASSERT_TRUE(action("Home"));
+    SceneView& view = window.getView();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_F3);
+    EXPECT_TRUE(view.isWireframe());
+    QTest::mouseClick(bar->widgetForAction(action("Wireframe")), Qt::LeftButton);
+    EXPECT_FALSE(view.isWireframe());
+    auto* statistics = view.findChild<QLabel*>("statistics");
+    QTest::keyClick(&window, Qt::Key_F4);
+    EXPECT_TRUE(statistics->isVisible());
+    QTest::mouseClick(bar->widgetForAction(action("Statistics")), Qt::LeftButton);
+    EXPECT_FALSE(statistics->isVisible());
+
+    const auto eye = [&] { return view.getCamera().position.getValue(); };
+    const SbVec3f home = eye();
+    ASSERT_TRUE(window.selectField("Sphere", "radius"));
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    const SbVec3f near = eye();
+    EXPECT_NE(near, home);
+    QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+    EXPECT_NE(eye(), near);
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_NE(eye(), home);
+    QTest::keyClick(&window, Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(eye(), home);
+    QTest::mouseClick(bar->widgetForAction(action("View Selected")), Qt::LeftButton);
+    EXPECT_NE(eye(), home);
+}
+
 TEST_F(Window, AClickOnAFieldSelectsIt)
 {
     ASSERT_TRUE(window.selectField("Glass", "shininess"));

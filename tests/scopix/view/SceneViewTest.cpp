@@ -4,6 +4,7 @@
 #include <xsg/nodes/SoCube.h>
 #include <xsg/nodes/SoMaterial.h>
 #include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/SoSpin.h>
 #include <xsg/nodes/SoTransform.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -157,6 +158,156 @@ TEST_F(View, HomeShowsEverythingAgain)
     EXPECT_NE(picture(), before);
     QTest::keyClick(&view, Qt::Key_Home);
     EXPECT_EQ(picture(), before);
+}
+
+TEST_F(View, HomeLooksAsAtFirst)
+{
+    const QImage before = picture();
+    drag(Qt::LeftButton, {150, 100}, {220, 130});
+    QTest::keyClick(&view, Qt::Key_A);
+    EXPECT_NE(picture(), before); // everything, from where it is looked at now
+    QTest::keyClick(&view, Qt::Key_Home);
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(View, ArrowKeysTurnAndMove)
+{
+    const auto eye = [this] { return view.getCamera().position.getValue(); };
+    const SbVec3f middle = view.getCamera().getFocalPoint();
+    for (const auto& [there, back] :
+         {std::make_pair(Qt::Key_Left, Qt::Key_Right), std::make_pair(Qt::Key_Up, Qt::Key_Down)}) {
+        const SbVec3f before = eye();
+        const QPoint place = placeOf(middle);
+        QTest::keyClick(&view, there);
+        EXPECT_GT((eye() - before).length(), 0.5F);
+        EXPECT_LT((view.getCamera().getFocalPoint() - middle).length(), 1e-3F);
+        QTest::keyClick(&view, back);
+        EXPECT_LT((eye() - before).length(), 1e-3F);
+        QTest::keyClick(&view, there, Qt::ShiftModifier);
+        const QPoint moved = placeOf(middle) - place;
+        EXPECT_NEAR(moved.x(), there == Qt::Key_Left ? -view.height() / 12 : 0, 2);
+        EXPECT_NEAR(moved.y(), there == Qt::Key_Up ? -view.height() / 12 : 0, 2);
+        QTest::keyClick(&view, back, Qt::ShiftModifier);
+        EXPECT_LT((eye() - before).length(), 1e-3F);
+    }
+}
+
+TEST_F(View, PlusAndMinusComeNearerAndGoAway)
+{
+    const auto distance = [this] { return view.getCamera().focalDistance.getValue(); };
+    const float before = distance();
+    QTest::keyClick(&view, Qt::Key_Plus);
+    EXPECT_NEAR(distance(), before * 0.85F, 1e-3F * before);
+    QTest::keyClick(&view, Qt::Key_Minus);
+    EXPECT_NEAR(distance(), before, 1e-3F * before);
+    QTest::keyClick(&view, Qt::Key_Minus);
+    EXPECT_GT(distance(), before * 1.1F);
+}
+
+TEST_F(View, FAndADoubleClickAskForTheSelection)
+{
+    QSignalSpy asked(&view, &SceneView::viewSelectedRequested);
+    QTest::keyClick(&view, Qt::Key_F);
+    EXPECT_EQ(asked.size(), 1);
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, placeOf({-2, 0, 0}));
+    EXPECT_EQ(asked.size(), 2);
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(asked.size(), 2);
+}
+
+TEST_F(View, WireframeShowsEdgesOnly)
+{
+    const QImage before = picture();
+    const QPoint inside = placeOf({-2.3F, 0.2F, 1});
+    EXPECT_NE(before.pixelColor(inside), before.pixelColor(2, 2));
+    view.setWireframe(true);
+    EXPECT_EQ(picture().pixelColor(inside), before.pixelColor(2, 2));
+    view.setWireframe(false);
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(View, StatisticsTellOfThePictureAndComeToRest)
+{
+    auto* text = view.findChild<QLabel*>("statistics");
+    ASSERT_TRUE(text);
+    EXPECT_FALSE(text->isVisible());
+    view.setShowsStatistics(true);
+    picture();
+    EXPECT_TRUE(text->isVisible());
+    EXPECT_TRUE(text->text().startsWith("Shapes: 2,")) << qPrintable(text->text());
+    const QString shown = text->text();
+    const int drawn = view.getDrawCount();
+    for (int turn = 0; turn < 20; ++turn)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(view.getDrawCount(), drawn);
+    scene->removeChild(0);
+    picture();
+    EXPECT_TRUE(text->text().startsWith("Shapes: 1,")) << qPrintable(text->text());
+    view.setShowsStatistics(false);
+    EXPECT_FALSE(text->isVisible());
+}
+
+TEST_F(View, DrawsWithoutAPauseOnlyWhileSomethingTurns)
+{
+    picture();
+    EXPECT_FALSE(view.isAnimating());
+    auto* spin = new SoSpin;
+    scene->insertChild(spin, 0);
+    picture();
+    EXPECT_TRUE(view.isAnimating());
+    const auto turnedFurther = [&, from = spin->time.getValue()] {
+        SoSensorQueue::getInstance().process();
+        return from < spin->time.getValue();
+    };
+    const int drawn = view.getDrawCount();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return turnedFurther() && view.getDrawCount() > drawn + 3; }));
+    spin->on.setValue(false);
+    picture();
+    EXPECT_FALSE(view.isAnimating());
+    const auto rests = [&] {
+        const int before = view.getDrawCount();
+        for (int turn = 0; turn < 20; ++turn) {
+            SoSensorQueue::getInstance().process();
+            QCoreApplication::processEvents();
+        }
+        return view.getDrawCount() == before;
+    };
+    EXPECT_TRUE(rests());
+    spin->on.setValue(true);
+    picture();
+    EXPECT_TRUE(view.isAnimating());
+    view.hide();
+    EXPECT_FALSE(view.isAnimating());
+    view.show();
+    EXPECT_TRUE(view.isAnimating());
+    spin->turnsPerSecond.setValue(0);
+    picture();
+    EXPECT_FALSE(view.isAnimating());
+    spin->turnsPerSecond.setValue(1);
+    picture();
+    EXPECT_TRUE(view.isAnimating());
+    view.setAnimated(false);
+    EXPECT_FALSE(view.isAnimating());
+    view.setAnimated(true);
+    EXPECT_TRUE(view.isAnimating());
+    scene->removeChild(0);
+    picture();
+    EXPECT_FALSE(view.isAnimating());
+    EXPECT_TRUE(rests());
+}
+
+TEST_F(View, WhatTurnsElsewhereIsNoneOfItsBusiness)
+{
+    SoRef<SoSeparator> other(new SoSeparator);
+    auto* spin = new SoSpin;
+    other->addChild(spin);
+    picture();
+    EXPECT_FALSE(view.isAnimating());
+    EXPECT_TRUE(SoSpin::isAnyTurning());
+    EXPECT_FALSE(SoSpin::isAnyTurning(scene.get()));
+    EXPECT_FALSE(SoSpin::advanceAll(1.0, scene.get()));
+    EXPECT_TRUE(SoSpin::advanceAll(1.0, other.get()));
+    EXPECT_EQ(spin->time.getValue(), SbTime(1.0));
 }
 
 TEST_F(View, AResizedWindowKeepsEverythingInSightUntilThePersonMoves)
