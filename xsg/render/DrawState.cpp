@@ -27,8 +27,14 @@ void xsg::DrawState::begin(int width, int height, const std::vector<SoLightSourc
     glVertexAttrib3f(NormalAttribute, 0, 0, 0);
     glVertexAttrib2f(TextureAttribute, 0, 0);
     glVertexAttrib3f(ColorAttribute, -1, -1, -1);
-    if (m_lineWidths[1] == 0)
+    if (m_lineWidths[1] == 0) {
         glGetFloatv(GL_ALIASED_LINE_WIDTH_RANGE, m_lineWidths);
+        GLint flags = 0;
+        glGetIntegerv(GL_CONTEXT_FLAGS, &flags);
+        // Such a context refuses wide lines, whatever range it names.
+        if ((static_cast<GLuint>(flags) & GL_CONTEXT_FLAG_FORWARD_COMPATIBLE_BIT) != 0)
+            m_lineWidths[1] = std::min(m_lineWidths[1], 1.0F);
+    }
 }
 
 void xsg::DrawState::end()

@@ -4,6 +4,9 @@
 #include "view/MainWindow.h"
 #include "view/SceneView.h"
 
+#include <xsg/errors/SoGLError.h>
+
+#include <QOpenGLContext>
 #include <QOpenGLWidget>
 #include <QScreen>
 #include <QWindow>
@@ -77,6 +80,21 @@ TEST_F(OpenGLView, ShowsTheModelInTheWindow)
     EXPECT_GT(colors(shown), 50);
     const QImage drawn = surface()->grabFramebuffer().convertToFormat(shown.format());
     EXPECT_EQ(drawn, shown);
+}
+
+// Wide lines were an error in each frame of the window, and nowhere else.
+TEST_F(OpenGLView, ShowsTheShippedSceneWithoutAnErrorOfOpenGL)
+{
+    ASSERT_TRUE(surface());
+    SoErrorCB* before = SoGLError::getHandlerCallback();
+    void* data = SoGLError::getHandlerData();
+    int errors = 0;
+    SoGLError::setHandlerCallback([](const SoError*, void* count) { ++*static_cast<int*>(count); }, &errors);
+    EXPECT_TRUE(open("../scenes/showcase.xsg"));
+    EXPECT_GT(colors(waitForAnotherThan(QImage())), 200);
+    SoGLError::setHandlerCallback(before, data);
+    EXPECT_EQ(errors, 0);
+    EXPECT_TRUE(surface()->context()->format().testOption(QSurfaceFormat::DeprecatedFunctions));
 }
 
 TEST_F(OpenGLView, FollowsAnEditAndItsUndo)
