@@ -50,20 +50,3 @@ bool xsg::readPixmap(const char* path, SoSFImage& image)
     image.setValue(width, height, components, bottomUp.data());
     return true;
 }
-
-bool xsg::writePixmap(const char* path, const SoSFImage& image)
-{
-    int width = 0;
-    int height = 0;
-    int components = 0;
-    const unsigned char* bytes = image.getValue(width, height, components);
-    if (!bytes || (components != 1 && components != 3))
-        return false;
-    std::ofstream out(path, std::ios::binary);
-    out.imbue(std::locale::classic());
-    out << (components == 1 ? "P5\n" : "P6\n") << width << ' ' << height << "\n255\n";
-    const std::streamsize row = std::streamsize{width} * components;
-    for (int y = height; y-- > 0;)
-        out.write(reinterpret_cast<const char*>(bytes) + y * row, row);
-    return static_cast<bool>(out.flush());
-}

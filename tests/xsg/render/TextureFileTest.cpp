@@ -1,0 +1,73 @@
+// Pictures that a texture reads from its file.
+#include "Picture.h"
+
+#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/SoPoints.h>
+#include <xsg/nodes/SoTexture2.h>
+#include <xsg/nodes/SoTextureCoordinates.h>
+#include <xsg/nodes/SoTriangleStripSet.h>
+
+#include <fstream>
+
+namespace
+{
+
+class TextureFile : public Picture
+{
+protected:
+    void SetUp() override
+    {
+        const unsigned char blue[] = {0, 0, 255};
+        texture = add<SoTexture2>();
+        texture->image.setValue(1, 1, 3, blue); // where the file cannot be read
+        texture->model.setValue(SoTexture2::Replace);
+        add<SoMaterial>()->ambientColor.setValue(SbColor(0, 0, 0));
+        add<SoPoints>()->points.setValues({{-1, -1, 0}, {1, -1, 0}, {-1, 1, 0}, {1, 1, 0}});
+        add<SoTextureCoordinates>()->points.setValues({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
+        add<SoTriangleStripSet>();
+        renderer().getRenderer().setBackground({0, 0, 0});
+    }
+
+    // A quarter from the lower left corner, and one from the upper right.
+    std::pair<Pixel, Pixel> drawFile(const std::string& content)
+    {
+        const std::string path =
+            testing::TempDir() + testing::UnitTest::GetInstance()->current_test_info()->name() + ".ppm";
+        std::ofstream(path, std::ios::binary) << content;
+        texture->fileName.setValue("");
+        texture->fileName.setValue(path.c_str());
+        const SoPixels pixels = draw();
+        std::remove(path.c_str());
+        return {at(pixels, 25, 39), at(pixels, 39, 24)};
+    }
+
+    SoTexture2* texture = nullptr;
+};
+
+} // namespace
+
+TEST_F(TextureFile, OfColoursStandsUpright)
+{
+    // The upper row comes first.
+    const auto [low, high] =
+        drawFile(std::string("P6\n# by hand\n1 2\n255\n") + "\xFF\x80\x01" + "\x01\xFF\x80");
+    EXPECT_PIXEL(low, (Pixel{1, 255, 128}));
+    EXPECT_PIXEL(high, (Pixel{255, 128, 1}));
+}
+
+TEST_F(TextureFile, OfGreysIsGrey)
+{
+    const auto [low, high] = drawFile(std::string("P5 1 2 255\n") + "\x20" + "\xC0");
+    EXPECT_PIXEL(low, (Pixel{0xC0, 0xC0, 0xC0}));
+    EXPECT_PIXEL(high, (Pixel{0x20, 0x20, 0x20}));
+}
+
+TEST_F(TextureFile, ThatIsDamagedGivesWayToTheImage)
+{
+    for (const char* damaged :
+         {"", "P6", "P6\n1 2\n255\nabc", "P6\n-1 2\n255\nabcdef", "P6\n999999999 999999999\n255\n",
+          "P6\n1 1\n65535\nabcdef", "P3\n1 1\n255\n1 2 3\n", "P6\n1 0\n255\n", "P6\nx y\n255\nabc"}) {
+        SCOPED_TRACE(damaged);
+        EXPECT_PIXEL(drawFile(damaged).first, (Pixel{0, 0, 255}));
+    }
+}
