@@ -33,6 +33,12 @@ bool EdMFMatrixWidget::checkField(SoField* field)
     return field && field->isOfType(SoMFMatrix::getClassTypeId());
 }
 
+void EdMFMatrixWidget::setField(SoField* field)
+{
+    m_textField = nullptr; // a field may be made where another one was
+    EdTablePopupWidget::setField(field);
+}
+
 const QString& EdMFMatrixWidget::wholeText() const
 {
     const SoMFMatrix* field = matrices();
@@ -54,7 +60,16 @@ QString EdMFMatrixWidget::getFieldValue(int /*row*/, int /*column*/) const
 
 QString EdMFMatrixWidget::getCellText(int /*row*/, int /*column*/, int length) const
 {
-    return editedField() ? wholeText().left(length) : QString();
+    if (!editedField())
+        return {};
+    QString text = QStringLiteral("[ ");
+    const int count = matrices()->getNum();
+    for (int i = 0; i < count && text.size() < length; ++i) {
+        SbString element;
+        matrices()->get1(i, element);
+        text += toQString(element) + (i + 1 < count ? QStringLiteral(", ") : QStringLiteral(" "));
+    }
+    return (text + QLatin1Char(']')).left(length);
 }
 
 QString EdMFMatrixWidget::getPopupValue(int row, int index)

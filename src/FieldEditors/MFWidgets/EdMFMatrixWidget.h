@@ -14,9 +14,11 @@ public:
 
     void load() override;
     bool checkField(SoField* field) override;
+    void setField(SoField* field) override;
     int getTextFlags() override { return Qt::AlignLeft; }
     // The text of the whole field, whatever the row; that is meant. Made once per change of the field.
     QString getFieldValue(int row, int column) const override;
+    // The start of it, read from as many elements as that takes: a long list is not walked to be drawn.
     QString getCellText(int row, int column, int length) const override;
     QString getPopupValue(int row, int index) override;
     // Takes the numbers from the popup; column and text are not read.

@@ -1,6 +1,7 @@
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
+#include "ColumnShares.h"
 #include "CurrentRowHeader.h"
 #include "EdMFieldTableItemDelegate.h"
 #include "EdMFieldWidget.h"
@@ -28,10 +29,19 @@ void EdMFieldTable::initClass()
 {
     installDelegate(new EdMFieldTableItemDelegate(m_owner, this));
     setVerticalHeader(new CurrentRowHeader(this));
+    m_columns = new ColumnShares(this);
+    // Always there, so that the columns do not jump when a row too many comes.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(QAbstractItemView::NoSelection);
     setCurrentCell(0, 0);
+}
+
+void EdMFieldTable::updateGeometries()
+{
+    QTableWidget::updateGeometries();
+    if (m_columns)
+        m_columns->fit();
 }
 
 void EdMFieldTable::installDelegate(EdMFieldTableItemDelegate* delegate)

@@ -6,6 +6,7 @@
 #include <QPersistentModelIndex>
 #include <QTableWidget>
 
+class ColumnShares;
 class EdMFieldTableItemDelegate;
 class EdMFieldWidget;
 
@@ -61,6 +62,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void updateGeometries() override;
 
     // For a table that brings a delegate of its own; the one before is deleted.
     void installDelegate(EdMFieldTableItemDelegate* delegate);
@@ -75,6 +77,7 @@ private:
 
     EdMFieldWidget* m_owner;
     EdMFieldTableItemDelegate* m_delegate = nullptr;
+    ColumnShares* m_columns = nullptr;
     bool m_multiSelection = false;
     // The few cells that hold an item: clearing them must not cost the table's size.
     QList<QPersistentModelIndex> m_items;

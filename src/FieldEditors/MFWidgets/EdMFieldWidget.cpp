@@ -65,7 +65,7 @@ void EdMFieldWidget::load()
     container->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
     container->setLineWidth(setting("frameLineWidth"));
     m_globalLayout = new QGridLayout(container);
-    setMargin(m_globalLayout, setting("MFGlobalLayoutMarging"));
+    setMargin(m_globalLayout, setting("MFGlobalLayoutMarging")); // spelt so in the settings that people have
     m_globalLayout->setSpacing(setting("MFGlobalLayoutSpacing"));
     m_globalLayout->setObjectName(QStringLiteral("m_globalLayout"));
 
@@ -190,6 +190,7 @@ void EdMFieldWidget::setFieldName(const QString& name)
 {
     if (!m_label)
         m_label = new QLabel(getWidgetContainer());
+    // A caption that is shown stays, whatever name comes later; that is meant.
     if (m_label->text().isEmpty())
         m_label->setText(tr("<p align=\"center\">") + name + tr("</p>"));
 }
@@ -206,9 +207,7 @@ void EdMFieldWidget::initColumns(const QStringList& captions, int columns)
 {
     m_table->setColumnCount(columns);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    if (captions.isEmpty())
-        m_table->horizontalHeader()->setStretchLastSection(true);
-    else
+    if (!captions.isEmpty())
         m_table->setHorizontalHeaderLabels(captions);
     m_table->setNumRows(0);
 }

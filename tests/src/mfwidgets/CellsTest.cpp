@@ -31,6 +31,8 @@
 #include <QColorDialog>
 #include <QTimer>
 
+#include <limits>
+
 namespace
 {
 
@@ -78,6 +80,48 @@ TEST(Cells, AThirtyTwoBitLineAcceptsNothing)
 {
     for (const char* text : {"0", "1", "-1", "5", "-", "12"})
         EXPECT_NE(stateInCell<EdMFInt32Widget>(EdMFieldTable::CELL_INT32, text), QValidator::Acceptable) << text;
+}
+
+// No editor shows unsigned integers of 32 bits in a line, so the validator itself is asked.
+TEST(Cells, EveryTypeOfCellHasItsValidator)
+{
+    using Table = EdMFieldTable;
+    constexpr auto Yes = QValidator::Acceptable;
+    const struct {
+        int type;
+        const char* text;
+        bool accepted;
+    } cases[] = {
+        {Table::CELL_USHORT, "0", true},
+        {Table::CELL_USHORT, "65535", true},
+        {Table::CELL_USHORT, "65536", false},
+        {Table::CELL_USHORT, "-1", false},
+        {Table::CELL_INT, "-2147483648", true},
+        {Table::CELL_INT, "2147483647", true},
+        {Table::CELL_INT, "2147483648", false},
+        {Table::CELL_UINT, "4294967295", true},
+        {Table::CELL_UINT, "", true},
+        {Table::CELL_UINT, "4294967296", false},
+        {Table::CELL_UINT32, "4294967295", true},
+        {Table::CELL_UINT32, "4294967296", false},
+        {Table::CELL_UINT32, "18446744073709551615", false},
+        {Table::CELL_FLOAT, "0.123456", true},
+        {Table::CELL_FLOAT, "0.1234567", false},
+        {Table::CELL_FLOAT, "1e39", false},
+        {Table::CELL_DOUBLE, "1e300", true},
+        {Table::CELL_DOUBLE, "0.1234567890123456789", true},
+        {Table::CELL_DOUBLE, "abc", false},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(stateInCell<EdMFShortWidget>(c.type, c.text) == Yes, c.accepted) << c.type << ' ' << c.text;
+    EdMFShortWidget editor(nullptr);
+    EdMFieldTableItemDelegate delegate(&editor, editor.table());
+    QLineEdit line;
+    for (int none : {int(Table::CELL_NONE), 9, -1}) {
+        delegate.setCellType(none);
+        delegate.setValidator(&line);
+        EXPECT_FALSE(line.validator()) << none;
+    }
 }
 
 TEST(Cells, UnsignedValidatorsParseThirtyTwoBits)
@@ -230,6 +274,15 @@ TEST(Cells, BeyondTheElementThereIsNoText)
     EXPECT_EQ(f.editor.getFieldValue(-1, 0), "");
 }
 
+TEST(Cells, ASingleColumnHasNoSecond)
+{
+    MultiFixture<EdMFFloatWidget, SoMFFloat> f("[ 1, 2 ]");
+    f.open();
+    EXPECT_EQ(f.editor.getFieldValue(1, 0), "2");
+    EXPECT_EQ(f.editor.getFieldValue(1, 1), "");
+    EXPECT_EQ(f.editor.getFieldValue(2, 0), "");
+}
+
 TEST(Cells, ATextIsShownAndWrittenBare)
 {
     MultiFixture<EdMFStringWidget, SoMFString> f("[ \"say \\\"hi\\\"\" ]");
@@ -295,6 +348,15 @@ TEST(Colors, OutsideZeroToOneIsIgnored)
     f.type(f.openLine(0, 1), "0.5");
     EXPECT_EQ(f.text(), "[ 0.5 0.4 0.6 ]");
     EXPECT_EQ(f.host.takeLog(), Log{"executeCommand SpxMFSetValueCommand"});
+}
+
+TEST(Colors, WhatIsNoNumberIsIgnored)
+{
+    MultiFixture<EdMFColorWidget, SoMFColor> f("[ 0.2 0.4 0.6 ]");
+    f.open();
+    f.editor.setSingleFieldValue(std::numeric_limits<float>::quiet_NaN(), 0, 1);
+    EXPECT_EQ(f.text(), "[ 0.2 0.4 0.6 ]");
+    EXPECT_TRUE(f.host.takeLog().empty());
 }
 
 TEST(Colors, TheDialogStartsOneComponentFurtherOn)
@@ -377,6 +439,21 @@ TEST(Matrices, EveryRowShowsTheWholeField)
     EXPECT_FALSE(f.table().isEnabled());
     EXPECT_EQ(f.editor.getFieldValue(0, 0).toStdString(), f.text());
     EXPECT_EQ(f.editor.getFieldValue(1, 0).toStdString(), f.text());
+}
+
+TEST(Matrices, ARowShowsTheStartOfTheWholeFieldWithoutItsEnd)
+{
+    MultiFixture<EdMFMatrixWidget, SoMFMatrix> f;
+    f.open();
+    for (int count : {0, 1, 2, 5}) {
+        f.field.setNum(count);
+        if (count > 3)
+            f.field.set1(3, "1.5 0 0 0 0 2.5 0 0 0 0 1e-20 0 7 8 9 1");
+        const QString whole = f.editor.getFieldValue(0, 0);
+        EXPECT_EQ(whole.toStdString(), f.text());
+        for (int length = 0; length < whole.size() + 2; ++length)
+            ASSERT_EQ(f.editor.getCellText(0, 0, length), whole.left(length)) << count << ' ' << length;
+    }
 }
 
 TEST(Matrices, OpeningThePopupRecordsSixteenCommandsAndChangesNoBit)

@@ -1,5 +1,6 @@
 // A list of a million elements: whatever is done with it asks for the visible rows alone.
-#include "EdMFFloatWidget.h"
+#include "EdMFDoubleWidget.h"
+#include "EdMFMatrixWidget.h"
 #include "EdMFVec3fWidget.h"
 #include "MultiFixture.h"
 
@@ -107,4 +108,72 @@ TEST_F(LargeList, FollowsAFieldThatChangesAllTheTime)
         },
         Changes);
     EXPECT_GT(f.editor.asked, 0);
+}
+
+// The fields themselves tell how many of their elements are read as text.
+namespace
+{
+
+template <class Field>
+class CountingField : public Field
+{
+public:
+    mutable int read = 0;
+
+protected:
+    void writeValue(std::string& out, int index) const override
+    {
+        ++read;
+        Field::writeValue(out, index);
+    }
+    void writeValues(std::string& out) const override
+    {
+        read += this->count();
+        Field::writeValues(out);
+    }
+};
+
+template <class Editor, class Field>
+void expectFewReads(int readsOfOneRow, const char* element)
+{
+    MultiFixture<Editor, CountingField<Field>> f;
+    f.field.setNum(Million);
+    f.open();
+    f.table().setCurrentCell(Million / 2, 0);
+    TestHost::pump();
+    const int rows = 2 * (f.table().viewport()->height() / f.table().rowHeight(0) + 2);
+    const auto reads = [&](auto act, int repaints) {
+        f.field.read = 0;
+        act();
+        TestHost::pump();
+        f.table().viewport()->repaint();
+        EXPECT_GT(f.field.read, 0);
+        EXPECT_LE(f.field.read, readsOfOneRow * rows * (repaints + 2));
+    };
+    reads([&] { f.open(); }, 1);
+    reads([&] { f.box().setValue(Million - 3); }, 1);
+    reads([&] { f.click("m_upButton"); }, 2);
+    reads([&] { f.click("m_addButton"); }, 1);
+    reads([&] { f.click("m_deleteButton"); }, 1);
+    reads([&] { f.host.undo(); }, 1);
+    const auto follow = [&] {
+        for (int i = 0; i < 60; ++i) {
+            EXPECT_TRUE(f.field.set1(Million / 2, element));
+            TestHost::pump();
+        }
+    };
+    reads(follow, 60);
+}
+
+} // namespace
+
+TEST(LargeLists, OnlyWhatIsSeenOfAMillionNumbersIsRead)
+{
+    expectFewReads<EdMFDoubleWidget, SoMFDouble>(1, "2");
+}
+
+// Every row shows the text of the whole field, of which no more is made than a row has room for.
+TEST(LargeLists, OnlyTheStartOfAMillionMatricesIsRead)
+{
+    expectFewReads<EdMFMatrixWidget, SoMFMatrix>(40, "2 0 0 0 0 2 0 0 0 0 2 0 0 0 0 2");
 }

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr int DockWidth = 420;
-constexpr int PictureHeight = 150;
+constexpr int PictureHeight = 170;
 
 // The text that the gallery's field of this type has.
 SbString galleryText(SoType type)

@@ -170,6 +170,33 @@ TEST(Rows, TheFirstDoesNotMoveUpNorTheLastDown)
     EXPECT_TRUE(f.host.takeLog().empty());
 }
 
+TEST(Rows, AMoveThatCannotBeIsTracedAllTheSame)
+{
+    Floats f;
+    f.open();
+    testing::internal::CaptureStderr();
+    f.click("m_upButton");
+    f.click("m_downButton");
+    const std::string trace = testing::internal::GetCapturedStderr();
+    EXPECT_NE(trace.find("EdMFieldTable::swapUpRow() -1\n"), std::string::npos);
+    EXPECT_NE(trace.find("EdMFieldTable::swapDownRow() -1\n"), std::string::npos);
+    EXPECT_TRUE(f.host.takeLog().empty());
+}
+
+TEST(Rows, EveryKeyIsTakenByTheTable)
+{
+    Floats f("[ 1, 2 ]");
+    f.open();
+    for (int key : {int(Qt::Key_F7), int(Qt::Key_Shift), int(Qt::Key_Home), int(Qt::Key_Minus)}) {
+        for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, {});
+            event.ignore();
+            QApplication::sendEvent(&f.table(), &event);
+            EXPECT_TRUE(event.isAccepted()) << key << ' ' << type;
+        }
+    }
+}
+
 TEST(Rows, TheAccessBoxPassesItsNumberUnchanged)
 {
     Floats f("[ 1, 2, 3, 4 ]");
@@ -182,12 +209,21 @@ TEST(Rows, TheAccessBoxPassesItsNumberUnchanged)
 
 TEST(Rows, EnterInTheAccessBoxShowsTheRowAgain)
 {
-    Floats f("[ 1, 2, 3, 4 ]");
+    Floats f;
+    f.field.setNum(100);
     f.open();
-    f.box().setValue(2);
+    f.editor.getWidgetContainer()->resize(400, 200);
+    TestHost::pump();
+    f.box().setValue(80);
     f.table().setCurrentCell(0, 0);
+    ASSERT_TRUE(f.table().visualRect(f.table().model()->index(80, 0)).top() > f.table().viewport()->height());
+    QSignalSpy told(&f.box(), qOverload<int>(&QSpinBox::valueChanged));
     QTest::keyClick(&f.box(), Qt::Key_Return);
-    EXPECT_EQ(f.table().currentRow(), 2);
+    EXPECT_EQ(f.table().currentRow(), 80);
+    EXPECT_TRUE(f.table().viewport()->rect().contains(f.table().visualRect(f.table().currentIndex())));
+    QTest::keyClick(&f.box(), Qt::Key_Enter);
+    ASSERT_EQ(told.size(), 2);
+    EXPECT_EQ(told[1], QList<QVariant>{80});
 }
 
 TEST(Rows, AFieldThatShrinksElsewhereTakesTheOpenCellAlong)
