@@ -1,5 +1,8 @@
 #include <xsg/actions/RayTests.h>
 
+#include <algorithm>
+#include <cmath>
+
 bool xsg::meetsBox(const SbRay& ray, const SbBox3f& box)
 {
     float enter = 0;

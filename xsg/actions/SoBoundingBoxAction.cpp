@@ -5,6 +5,8 @@
 #include <xsg/nodes/SoPoints.h>
 #include <xsg/nodes/SoShape.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -7,6 +7,8 @@
 #include <xsg/nodes/SoSeparator.h>
 #include <xsg/nodes/SoShape.h>
 
+#include <algorithm>
+
 struct SoRayPickAction::Hit {
     float distance = std::numeric_limits<float>::max(); // along the local ray, which need not be of length 1
     SbVec3f normal;

@@ -4,6 +4,9 @@
 
 #include <Eigen/Dense>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 

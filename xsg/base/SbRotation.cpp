@@ -2,6 +2,9 @@
 
 #include <Eigen/Geometry>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 

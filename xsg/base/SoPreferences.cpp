@@ -4,6 +4,7 @@
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoReadError.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <map>

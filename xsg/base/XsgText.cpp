@@ -2,6 +2,8 @@
 
 #include <xsg/base/Utf.h>
 
+#include <algorithm>
+
 bool XsgTextReader::isWordByte(char c)
 {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||

@@ -2,7 +2,9 @@
 
 #include <xsg/counters/SoPerfCounterManager.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <unordered_map>
 
 namespace

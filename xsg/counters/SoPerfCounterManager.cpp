@@ -4,6 +4,7 @@
 #include <xsg/errors/SoDebugError.h>
 
 #include <algorithm>
+#include <cmath>
 #include <unordered_set>
 
 namespace

@@ -5,6 +5,8 @@
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoUnknownNode.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -6,6 +6,9 @@
 #include <xsg/io/SoSceneFile.h>
 #include <xsg/nodes/SoUnknownNode.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace
 {
 

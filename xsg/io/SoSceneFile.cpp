@@ -5,6 +5,7 @@
 #include <xsg/io/SceneReader.h>
 #include <xsg/io/SceneWriter.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fstream>

@@ -4,6 +4,9 @@
 #include <xsg/base/SbRotation.h>
 #include <xsg/core/SoTypedImpl.h>
 
+#include <algorithm>
+#include <cmath>
+
 template class SoTyped<SoCamera, SoNode>;
 
 void SoCamera::apply(SoState& state) const

@@ -3,6 +3,8 @@
 #include <xsg/actions/SoState.h>
 #include <xsg/core/SoTypedImpl.h>
 
+#include <algorithm>
+
 template class SoTyped<SoLevelOfDetail, SoSeparator>;
 
 SoChildRange SoLevelOfDetail::getChosenChildren(const SoState& state) const

@@ -2,6 +2,9 @@
 
 #include <xsg/core/SoTypedImpl.h>
 
+#include <algorithm>
+#include <cmath>
+
 template class SoTyped<SoPerspectiveCamera, SoCamera>;
 
 // A field can hold any number; a picture needs an angle between nothing and a half turn.

@@ -3,6 +3,9 @@
 #include <xsg/core/SoTypedImpl.h>
 #include <xsg/nodes/DotFont.h>
 
+#include <algorithm>
+#include <cmath>
+
 template class SoTyped<SoScreenText, SoShape>;
 
 namespace

@@ -2,6 +2,9 @@
 
 #include <xsg/core/SoTypedImpl.h>
 
+#include <algorithm>
+#include <cmath>
+
 template class SoTyped<SoSolid, SoShape>;
 
 SbBox3f SoSolid::getBox(const SoState& /*state*/) const

@@ -3,6 +3,8 @@
 #include <xsg/core/SoTypedImpl.h>
 #include <xsg/nodes/SolidBuilder.h>
 
+#include <cmath>
+
 template class SoTyped<SoSphere, SoSolid>;
 
 SbVec3f SoSphere::getExtent() const

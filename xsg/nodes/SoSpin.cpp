@@ -4,6 +4,8 @@
 #include <xsg/core/SoTypedImpl.h>
 #include <xsg/nodes/SoGroup.h>
 
+#include <algorithm>
+#include <cmath>
 #include <unordered_set>
 
 template class SoTyped<SoSpin, SoTransformation>;

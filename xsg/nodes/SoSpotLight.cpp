@@ -3,6 +3,8 @@
 #include <xsg/actions/SoState.h>
 #include <xsg/core/SoTypedImpl.h>
 
+#include <cmath>
+
 template class SoTyped<SoSpotLight, SoLight>;
 
 SoLightSource SoSpotLight::getSource(const SbMatrix& toWorld) const

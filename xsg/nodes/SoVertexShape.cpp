@@ -6,6 +6,7 @@
 #include <xsg/nodes/SoPoints.h>
 #include <xsg/nodes/SoTextureCoordinates.h>
 
+#include <algorithm>
 #include <numeric>
 
 template class SoTyped<SoVertexShape, SoShape>;

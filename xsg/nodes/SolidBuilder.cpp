@@ -1,5 +1,7 @@
 #include <xsg/nodes/SolidBuilder.h>
 
+#include <cmath>
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoFog.h>
 
+#include <algorithm>
+
 void xsg::DrawState::begin(int width, int height, const std::vector<SoLightSource>& headlights)
 {
     m_headlights = &headlights;

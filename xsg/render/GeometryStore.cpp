@@ -3,6 +3,8 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/render/Shader.h>
 
+#include <algorithm>
+
 namespace
 {
 

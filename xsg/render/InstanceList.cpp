@@ -1,5 +1,7 @@
 #include <xsg/render/InstanceList.h>
 
+#include <algorithm>
+
 namespace
 {
 

@@ -6,6 +6,7 @@
 #include <xsg/nodes/SoLight.h>
 #include <xsg/nodes/SoTexture2.h>
 
+#include <algorithm>
 #include <tuple>
 
 namespace

@@ -2,6 +2,8 @@
 
 #include <xsg/render/ShaderText.h>
 
+#include <algorithm>
+
 namespace
 {
 

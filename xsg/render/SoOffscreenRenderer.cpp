@@ -3,6 +3,7 @@
 #include <xsg/render/GlFunctions.h>
 #include <xsg/render/GlThread.h>
 
+#include <algorithm>
 #include <array>
 
 namespace

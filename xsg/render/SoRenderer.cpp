@@ -8,6 +8,8 @@
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
 
+#include <algorithm>
+
 namespace
 {
 

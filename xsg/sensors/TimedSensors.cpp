@@ -2,6 +2,7 @@
 #include <xsg/sensors/SoSensorQueue.h>
 #include <xsg/sensors/SoTimerSensor.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
