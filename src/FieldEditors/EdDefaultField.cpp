@@ -12,7 +12,7 @@ SoRef<SoFieldContainer> freshInstanceOf(SoType type)
     std::unique_ptr<SoTypedObject> object(type.createInstance());
     auto* container = dynamic_cast<SoFieldContainer*>(object.get());
     if (container)
-        object.release();
+        static_cast<void>(object.release()); // counted from here on
     return container;
 }
 

@@ -3,6 +3,7 @@
 #include <xsg/fields/SoSFImage.h>
 
 #include <fstream>
+#include <limits>
 
 namespace
 {
