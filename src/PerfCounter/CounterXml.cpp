@@ -59,12 +59,14 @@ bool parse(const QByteArray& bytes, QDomDocument& document, QString& problem)
 }
 
 // The document is saved in the encoding that it declares, which a file may have in any other; the parser has
-// its characters by now.
+// its characters by now. It takes whatever begins with "xml" for a declaration.
 void declareUtf8(QDomDocument& document)
 {
-    QDomProcessingInstruction declaration = document.firstChild().toProcessingInstruction();
-    if (declaration.target() == QLatin1String("xml"))
-        declaration.setData(QStringLiteral("version='1.0' encoding='UTF-8'"));
+    const QDomProcessingInstruction declaration = document.firstChild().toProcessingInstruction();
+    if (declaration.target().startsWith(QLatin1String("xml"), Qt::CaseInsensitive))
+        document.replaceChild(document.createProcessingInstruction(
+                                  QStringLiteral("xml"), QStringLiteral("version='1.0' encoding='UTF-8'")),
+                              declaration);
 }
 
 // XML allows no control characters but these three; the parser takes them, and loses them in what was saved.
