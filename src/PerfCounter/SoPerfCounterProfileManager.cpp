@@ -1,8 +1,8 @@
 #include "SoPerfCounterProfileManager.h"
 
 #include "CounterProfileFile.h"
+#include "CounterText.h"
 #include "CustomCounter.h"
-#include "EdText.h"
 #include "SoPerfCounterCreateCounter.h"
 #include "SoPerfCounterCreateProfile.h"
 #include "SoPerfCounterPage.h"
@@ -34,7 +34,7 @@ void appendCounter(QTableWidget& table, const SoPerfCounter& counter)
     const QString texts[] = {
         toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
         toQString(counter.getTypeText()), toQString(counter.getStringLevel()),
-        toQString(counter.getModule()), toQString(counter.getDescription())};
+        beginningOf(counter.getModule()), beginningOf(counter.getDescription())};
     int column = 0;
     for (const QString& text : texts)
         table.setItem(row, column++, new QTableWidgetItem(text));

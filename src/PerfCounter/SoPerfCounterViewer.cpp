@@ -1,8 +1,8 @@
 #include "SoPerfCounterViewer.h"
 
+#include "CounterText.h"
 #include "CurveColors.h"
 #include "CustomCounter.h"
-#include "EdText.h"
 #include "PlotToolTip.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
@@ -46,7 +46,7 @@ double finiteOf(double value)
     return std::isfinite(value) ? value : 0;
 }
 
-// Where nothing is counted the toolkit shows a span around 0, below which no counter falls.
+// Where nothing is counted the toolkit shows a span around 0, though few counters ever fall below it.
 class CountScaleEngine : public QwtLinearScaleEngine
 {
 public:
@@ -332,8 +332,8 @@ void SoPerfCounterViewer::setupLegend()
         m_legend->item(row, 0)->setBackground(m_curvePlot->canvasBackground()); // as readable as the curve
         setText(*m_legend, row, 1, counter ? toQString(counter->getTypeText()) : QString());
         setText(*m_legend, row, 2, counter ? toQString(counter->getStringLevel()) : QString());
-        setText(*m_legend, row, 3, counter ? toQString(counter->getModule()) : QString());
-        setText(*m_legend, row, 4, counter ? toQString(counter->getDescription()) : tr("No such counter"));
+        setText(*m_legend, row, 3, counter ? beginningOf(counter->getModule()) : QString());
+        setText(*m_legend, row, 4, counter ? beginningOf(counter->getDescription()) : tr("No such counter"));
         if (viewed.getName() == selected)
             m_legend->selectRow(row);
     }

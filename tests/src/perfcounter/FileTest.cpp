@@ -168,6 +168,37 @@ TEST_F(CounterFile, OnlyTheFirstSectionOfAKindCounts)
     EXPECT_EQ(profileNames(), QStringList{"one"});
 }
 
+TEST_F(CounterFile, HugeTextsAreReadAndShownByTheirBeginning)
+{
+    constexpr int Huge = 1024 * 1024;
+    writeFile(
+        "<perfCounterModule><customPC><counter name='wordy' type='A'><description>" + QByteArray(Huge, 'd') +
+        "</description></counter></customPC><profiles><profile name='p'/></profiles></perfCounterModule>");
+    open();
+    EXPECT_EQ(boxes.take(), QStringList());
+    const SbString& description = SoPerfCounterManager::getInstance()->getCounter("wordy")->getDescription();
+    EXPECT_EQ(int(description.getLength()), Huge);
+    SoPerfCounterProfileManager* manager = openManager();
+    const int row = manager->m_listCounter->findItems("wordy", Qt::MatchExactly).constFirst()->row();
+    const QString beginning = QString(1000, 'd') + QChar(0x2026);
+    EXPECT_EQ(manager->m_listCounter->item(row, 5)->text(), beginning);
+    dock->m_viewer->doubleClickEvent("wordy");
+    EXPECT_EQ(dock->m_viewer->m_legend->item(0, 4)->text(), beginning);
+}
+
+TEST_F(CounterFile, AThousandProfilesAreRead)
+{
+    QByteArray content = "<perfCounterModule><profiles>";
+    for (int i = 0; i < 1000; ++i)
+        content += "<profile name='p" + QByteArray::number(i) +
+                   "'><listcounters><pc>testA</pc></listcounters></profile>";
+    writeFile(content + "</profiles><profileview name='p999'/></perfCounterModule>");
+    open();
+    EXPECT_EQ(boxes.take(), QStringList());
+    EXPECT_EQ(dock->m_listConfig->count(), 1000);
+    EXPECT_EQ(dock->getCurrentProfile(), 999);
+}
+
 TEST_F(CounterFile, AFileThatCannotBeWrittenIsTold)
 {
     writeExample();
