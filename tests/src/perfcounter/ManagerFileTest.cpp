@@ -5,6 +5,7 @@
 #include <QDomDocument>
 #include <QSignalSpy>
 
+#include <cerrno>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -120,7 +121,7 @@ TEST_F(CounterManagerFile, OneThatCannotBeReadIsTold)
     manager->openProfile();
     close(handle);
     EXPECT_EQ(boxes.take(),
-              QStringList{refused + "Cannot read file " + other() + ":\nNo such device or address."});
+              QStringList{refused + "Cannot read file " + other() + ":\n" + qt_error_string(ENXIO) + '.'});
     EXPECT_EQ(tabs(), (QStringList{"first", "second"}));
     EXPECT_EQ(dock->getFilepath(), path());
 }

@@ -178,5 +178,7 @@ TEST_F(CounterManagerOrder, ARowTellsWhatTheCounterIs)
     QStringList names;
     for (int row = 0; row < table.rowCount(); ++row)
         names.append(table.item(row, 0)->text());
-    EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
+    EXPECT_TRUE(std::is_sorted(names.begin(), names.end(), [](const QString& left, const QString& right) {
+        return left.localeAwareCompare(right) < 0;
+    }));
 }
