@@ -63,8 +63,7 @@ void UndoHistory::record(std::unique_ptr<SpxCommand> command, const Note& note)
 bool UndoHistory::goesOn(const Note& note) const
 {
     return m_openStep && note.gesture != 0 && m_openStep->gesture() == note.gesture && m_stack.count() > 0 &&
-           m_stack.index() == m_stack.count() && stepAt(m_stack.count() - 1) == m_openStep &&
-           !m_stack.isClean();
+           stepAt(m_stack.count() - 1) == m_openStep && !m_stack.isClean();
 }
 
 void UndoHistory::forget(const SoFieldContainer* container)

@@ -114,9 +114,12 @@ void SoPerfCounterProfileManager::addTab(const SoPerfCounterProfile& profile)
 
 void SoPerfCounterProfileManager::dropProfiles()
 {
+    // From the back, so that no tab moves and none becomes the current one only to go next.
+    m_tabProfile->setCurrentIndex(0);
     while (m_tabProfile->count() > 0) {
-        QWidget* page = m_tabProfile->widget(0);
-        m_tabProfile->removeTab(0);
+        const int last = m_tabProfile->count() - 1;
+        QWidget* page = m_tabProfile->widget(last);
+        m_tabProfile->removeTab(last);
         delete page;
     }
     if (!m_profiles)

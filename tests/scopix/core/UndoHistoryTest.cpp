@@ -51,6 +51,25 @@ private:
     std::string m_in;
 };
 
+// Its undo lets go of the last reference to a node.
+class Dropping : public LoggingCommand
+{
+public:
+    Dropping(Log& log, SoMaterial* material)
+        : LoggingCommand(log, "drop")
+        , m_material(material)
+    {
+    }
+    void undo() override
+    {
+        LoggingCommand::undo();
+        m_material->unref();
+    }
+
+private:
+    SoMaterial* m_material;
+};
+
 TEST_F(History, RunsACommandOnceAndThenUndoesAndRedoesIt)
 {
     log("a");
@@ -195,19 +214,6 @@ TEST_F(History, AStepThatTouchesAnotherNodeOutlivesAFreshInstance)
 
 TEST_F(History, ANodeMayGoInsideAnUndo)
 {
-    struct Dropping : LoggingCommand {
-        Dropping(Log& log, SoMaterial* material)
-            : LoggingCommand(log, "drop")
-            , material(material)
-        {
-        }
-        void undo() override
-        {
-            LoggingCommand::undo();
-            material->unref();
-        }
-        SoMaterial* material;
-    };
     SoMaterial* material = newMaterial();
     setTransparency(*material, 0.5F);
     m_services.executeCommand(new Dropping(m_log, material));
@@ -216,6 +222,23 @@ TEST_F(History, ANodeMayGoInsideAnUndo)
     pump();
     EXPECT_EQ(stack().count(), 0);
     EXPECT_FALSE(stack().canUndo());
+}
+
+TEST_F(History, AStepWhoseNodeGoesInItsMiddleStopsThere)
+{
+    SoMaterial* material = newMaterial();
+    m_services.select(material);
+    QWidget widget;
+    widget.show();
+    QTest::mousePress(widget.windowHandle(), Qt::LeftButton);
+    log("on the node");
+    m_services.executeCommand(new Dropping(m_log, material));
+    QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
+    ASSERT_EQ(stack().count(), 1);
+    stack().undo();
+    EXPECT_EQ(m_log.back(), "undo drop") << "what comes next would reach for the node";
+    pump();
+    EXPECT_EQ(stack().count(), 0);
 }
 
 TEST_F(History, ACommandHandedOverInsideAnUndoIsKeptATurnLater)
