@@ -76,6 +76,16 @@ bool hasForbiddenCharacters(const QByteArray& saved)
                        [](char c) { return uchar(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; });
 }
 
+// The parser may skip an entity that nothing declares in one place and refuse it in another.
+bool hasOpenReferences(const QDomNode& node)
+{
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isEntityReference() || hasOpenReferences(child))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
@@ -87,7 +97,8 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
     saved.open(QIODevice::WriteOnly);
     write(&saved, document);
     QDomDocument again;
-    if (!hasForbiddenCharacters(saved.data()) && parse(saved.data(), again, problem) &&
+    if (!hasForbiddenCharacters(saved.data()) && !hasOpenReferences(document) &&
+        parse(saved.data(), again, problem) &&
         again.documentElement().tagName() == document.documentElement().tagName())
         return true;
     problem = QCoreApplication::translate("PerfCounter",
