@@ -201,7 +201,7 @@ bool TestHost::waitFor(const std::function<bool()>& condition)
     QElapsedTimer timer;
     timer.start();
     while (!condition()) {
-        if (timer.hasExpired(10000))
+        if (timer.hasExpired(60000))
             return false;
         pump();
         QThread::msleep(1);

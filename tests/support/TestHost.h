@@ -73,7 +73,7 @@ public:
 
     // Runs the event loop until no event and no sensor is waiting.
     static void pump();
-    // Runs the event loop until `condition` holds; false when it does not come true within ten seconds.
+    // Runs the event loop until `condition` holds; false when it does not come true within a minute.
     static bool waitFor(const std::function<bool()>& condition);
 
     void executeCommand(SpxCommand* command) override;

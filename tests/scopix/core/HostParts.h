@@ -66,13 +66,13 @@ inline void pump()
     }
 }
 
-// False when the condition does not come true within ten seconds.
+// False when the condition does not come true within a minute.
 inline bool waitFor(const std::function<bool()>& condition)
 {
     QElapsedTimer clock;
     clock.start();
     while (!condition()) {
-        if (clock.hasExpired(10000))
+        if (clock.hasExpired(60000))
             return false;
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
         QThread::yieldCurrentThread();
