@@ -1,6 +1,7 @@
-// A plug-in that acts in the program as a person does, as the environment's SCOPIX_TEST_ACT says: "edit" sets the
-// selected field to 0.5; "recover" answers the question after a crash, saves and closes the window.
-#include <scopix/SpxCommand.h>
+// A plug-in that acts in the program as a person does, as the environment's SCOPIX_TEST_ACT says: "edit" sets
+// the selected field to 0.5; "recover" answers the question after a crash, saves and closes the window.
+#include "support/SetText.h"
+
 #include <scopix/SpxPlugin.h>
 #include <scopix/SpxServices.h>
 #include <xsg/fields/SoField.h>
@@ -14,26 +15,6 @@
 
 namespace
 {
-
-class SetText : public SpxCommand
-{
-public:
-    SetText(SoField* field, const char* text)
-        : m_field(field)
-        , m_after(text)
-    {
-        field->get(m_before);
-        field->set(m_after);
-    }
-    void execute() override { m_field->set(m_after); }
-    void undo() override { m_field->set(m_before); }
-    void redo() override { execute(); }
-
-private:
-    SoField* m_field;
-    SbString m_before;
-    SbString m_after;
-};
 
 class Plugin : public SpxPlugin
 {

@@ -1,6 +1,7 @@
 // What a person does with files, in the window.
 #include "HostServices.h"
 #include "Messages.h"
+#include "support/SetText.h"
 #include "view/MainWindow.h"
 #include "view/SceneView.h"
 
@@ -9,8 +10,6 @@
 #include <xsg/nodes/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
-#include <scopix/SpxCommand.h>
-
 namespace
 {
 
@@ -18,26 +17,6 @@ QString shipped(const char* name)
 {
     return QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/") + QLatin1String(name);
 }
-
-class SetText : public SpxCommand
-{
-public:
-    SetText(SoField* field, const char* text)
-        : m_field(field)
-        , m_after(text)
-    {
-        field->get(m_before);
-        field->set(m_after);
-    }
-    void execute() override { m_field->set(m_after); }
-    void undo() override { m_field->set(m_before); }
-    void redo() override { execute(); }
-
-private:
-    SoField* m_field;
-    SbString m_before;
-    SbString m_after;
-};
 
 // Does something to the next modal dialog once it is there. The progress of a model that takes long to read asks nothing.
 class WithDialog : public QObject

@@ -16,6 +16,21 @@ QLineEdit* focusedLine()
     return qobject_cast<QLineEdit*>(QApplication::focusWidget());
 }
 
+// Types into the current cell and, wherever Tab leads, into the next ones.
+template <class List>
+void typeEachAndTab(List& f, std::initializer_list<const char*> texts)
+{
+    for (const char* typed : texts) {
+        if (!focusedLine())
+            f.key(Qt::Key_F2);
+        ASSERT_TRUE(focusedLine()) << typed;
+        focusedLine()->selectAll();
+        QTest::keyClicks(focusedLine(), QLatin1String(typed));
+        QTest::keyClick(focusedLine(), Qt::Key_Tab);
+        TestHost::pump();
+    }
+}
+
 } // namespace
 
 TEST(Keyboard, PlusAddsAndMinusAndDeleteDelete)
@@ -72,15 +87,7 @@ TEST(Keyboard, TabAppliesAndGoesOnToTheNextCell)
     Points f("[ 1 2 3, 4 5 6 ]");
     f.open();
     f.table().setCurrentCell(0, 2);
-    for (const char* typed : {"7", "8", "9"}) {
-        if (!focusedLine())
-            f.key(Qt::Key_F2);
-        ASSERT_TRUE(focusedLine()) << typed;
-        focusedLine()->selectAll();
-        QTest::keyClicks(focusedLine(), QLatin1String(typed));
-        QTest::keyClick(focusedLine(), Qt::Key_Tab);
-        TestHost::pump();
-    }
+    ASSERT_NO_FATAL_FAILURE(typeEachAndTab(f, {"7", "8", "9"}));
     EXPECT_EQ(f.text(), "[ 1 2 7, 8 9 6 ]");
     EXPECT_EQ(f.table().currentRow(), 1);
     EXPECT_EQ(f.table().currentColumn(), 2);
@@ -91,15 +98,7 @@ TEST(Keyboard, TabLeavesASliderCellForTheNextRow)
     Integers f("[ 1, 2, 3 ]");
     f.open();
     f.table().setCurrentCell(0, 0);
-    for (const char* typed : {"7", "8"}) {
-        if (!focusedLine())
-            f.key(Qt::Key_F2);
-        ASSERT_TRUE(focusedLine()) << typed;
-        focusedLine()->selectAll();
-        QTest::keyClicks(focusedLine(), QLatin1String(typed));
-        QTest::keyClick(focusedLine(), Qt::Key_Tab);
-        TestHost::pump();
-    }
+    ASSERT_NO_FATAL_FAILURE(typeEachAndTab(f, {"7", "8"}));
     EXPECT_EQ(f.text(), "[ 7, 8, 3 ]");
     EXPECT_EQ(f.table().currentRow(), 2);
 }
