@@ -80,18 +80,15 @@ void SoPerfCounterGraph::draw(QPainter* painter, const QwtScaleMap& xMap, const 
 void SoPerfCounterGraph::drawBar(QPainter* painter, Qt::Orientation /*orientation*/, const QRect& rect,
                                  QColor color) const
 {
-    painter->save();
     painter->fillRect(rect, color);
-    // Light from the top left makes the bar look raised.
+    // Light from the top left makes the bar look raised. Strips, since the ends of pens would stick out.
     const QColor light = color.lighter(OutlineFactor);
     const QColor dark = color.darker(OutlineFactor);
-    painter->setPen(QPen(light, 2));
-    painter->drawLine(rect.left() + 1, rect.top(), rect.left() + 1, rect.bottom());
-    painter->setPen(QPen(dark, 2));
-    painter->drawLine(rect.right(), rect.top(), rect.right(), rect.bottom());
-    painter->setPen(QPen(light, 1));
-    painter->drawLine(rect.left(), rect.top(), rect.right(), rect.top());
-    painter->setPen(QPen(dark, 1));
-    painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
-    painter->restore();
+    const auto strip = [&](int left, int top, int width, int height, const QColor& shade) {
+        painter->fillRect(rect.intersected(QRect(left, top, width, height)), shade);
+    };
+    strip(rect.left(), rect.top(), 2, rect.height(), light);
+    strip(rect.right() - 1, rect.top(), 2, rect.height(), dark);
+    strip(rect.left(), rect.top(), rect.width(), 1, light);
+    strip(rect.left(), rect.bottom(), rect.width(), 1, dark);
 }
