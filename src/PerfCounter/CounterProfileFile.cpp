@@ -12,6 +12,7 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QMessageBox>
+#include <QSet>
 
 #include <memory>
 
@@ -255,11 +256,12 @@ void writeView(QDomDocument& document, const SoPerfCounterProfile& profile)
         QDomElement view = element.firstChildElement(ListView);
         if (view.isNull())
             view = element.appendChild(document.createElement(ListView)).toElement();
-        QList<QString> present;
+        const QSet<QString> wanted(profile.getView()->begin(), profile.getView()->end());
+        QSet<QString> present;
         for (QDomElement e = view.lastChildElement(PcViewed); !e.isNull();) {
             const QDomElement before = e.previousSiblingElement(PcViewed);
-            if (profile.getView()->contains(e.text()))
-                present.append(e.text());
+            if (wanted.contains(e.text()))
+                present.insert(e.text());
             else
                 view.removeChild(e);
             e = before;

@@ -1,12 +1,21 @@
-// What tables show of what a counter says of itself.
+// What is shown of texts that a file may make as long as it likes: to lay out megabytes takes seconds. The texts
+// themselves stay whole.
 #pragma once
 
 #include "EdText.h"
 
-// The beginning of a text that is very long: to lay out megabytes takes seconds.
+constexpr int LongestInCell = 1000;
+constexpr int LongestInLine = 100; // where nothing scrolls: in tabs, boxes, labels and tool tips
+
+inline QString beginningOf(const QString& text, int longest = LongestInCell)
+{
+    return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
+}
+
+// The same, without first making a whole text of another kind.
 inline QString beginningOf(const SbString& text)
 {
-    constexpr int Longest = 1000;
-    const QString whole = toQString(text);
-    return whole.size() <= Longest ? whole : whole.left(Longest) + QChar(0x2026);
+    constexpr int MostBytes = 4 * (LongestInCell + 1); // of as many characters, and of one that may be cut
+    const std::string_view whole(text.str());
+    return beginningOf(toQString(SbString(whole.substr(0, MostBytes))));
 }

@@ -3,8 +3,11 @@
 
 #include <QColor>
 
-#include <functional>
+#include <vector>
 
-// A random colour, each of whose components is 0, 85, 127, 170 or 255: one that can be seen on white and is
-// not used yet, as long as there is any.
-QColor randomCurveColor(const std::function<bool(const QColor&)>& isUsed);
+// How many colours there are to choose from.
+constexpr int CurveColorCount = 5 * 5 * 5;
+
+// A random colour, each of whose components is 0, 85, 127, 170 or 255: one that can be seen on white and, as long as
+// there is any, told from those that are used.
+QColor randomCurveColor(const std::vector<QColor>& used);

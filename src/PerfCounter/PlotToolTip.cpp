@@ -1,8 +1,11 @@
 #include "PlotToolTip.h"
 
+#include "CounterText.h"
+
 #include <qwt_plot.h>
 
 #include <QHelpEvent>
+#include <QTextDocument>
 #include <QToolTip>
 
 PlotToolTip::PlotToolTip(QwtPlot* plot, TextAt textAt)
@@ -12,11 +15,19 @@ PlotToolTip::PlotToolTip(QwtPlot* plot, TextAt textAt)
     plot->canvas()->installEventFilter(this);
 }
 
+QString PlotToolTip::textOf(const QString& counter, double value)
+{
+    return QStringLiteral("%1: %2").arg(beginningOf(counter, LongestInLine), QString::number(value, 'g', 6));
+}
+
 bool PlotToolTip::eventFilter(QObject* canvas, QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QObject::eventFilter(canvas, event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), m_textAt(help->pos()), qobject_cast<QWidget*>(canvas));
+    QString text = m_textAt(help->pos());
+    if (Qt::mightBeRichText(text)) // a tip would take such a name for markup
+        text = QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+    QToolTip::showText(help->globalPos(), text, qobject_cast<QWidget*>(canvas));
     return true;
 }

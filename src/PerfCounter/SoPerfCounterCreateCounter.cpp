@@ -1,5 +1,6 @@
 #include "SoPerfCounterCreateCounter.h"
 
+#include "CounterText.h"
 #include "CustomCounter.h"
 
 #include <QMessageBox>
@@ -7,11 +8,13 @@
 SoPerfCounterCreateCounter::SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter,
                                                        QWidget* parent)
     : QDialog(parent)
+    , m_firstCounter(firstCounter)
+    , m_secondCounter(secondCounter)
 {
     setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
-    m_firstLabel->setText(firstCounter);
-    m_secondLabel->setText(secondCounter);
+    m_firstLabel->setText(beginningOf(firstCounter, LongestInLine));
+    m_secondLabel->setText(beginningOf(secondCounter, LongestInLine));
     connect(m_buttonBox, &QDialogButtonBox::accepted, this, &SoPerfCounterCreateCounter::okButtonAction);
     connect(m_buttonBox, &QDialogButtonBox::rejected, this, &QWidget::close);
 }
@@ -28,8 +31,8 @@ void SoPerfCounterCreateCounter::okButtonAction()
     counter.description = m_description->toPlainText();
     counter.module = m_module->text();
     counter.level = m_level->currentIndex();
-    counter.firstParent = m_firstLabel->text();
-    counter.secondParent = m_secondLabel->text();
+    counter.firstParent = m_firstCounter;
+    counter.secondParent = m_secondCounter;
     counter.operation = m_operation->currentText();
     if (!counter.registerIt()) {
         QMessageBox::warning(this, windowTitle(),

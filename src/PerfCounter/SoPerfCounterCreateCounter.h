@@ -18,4 +18,8 @@ signals:
 
 public slots:
     void okButtonAction();
+
+private:
+    QString m_firstCounter;
+    QString m_secondCounter;
 };

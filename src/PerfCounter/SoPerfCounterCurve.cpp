@@ -110,6 +110,12 @@ void SoPerfCounterCurve::removeCurve(int index)
     delete curve;
 }
 
+void SoPerfCounterCurve::order(const std::vector<int>& indices)
+{
+    const QList<Curve*> before = m_curves;
+    std::transform(indices.begin(), indices.end(), m_curves.begin(), [&](int i) { return before.at(i); });
+}
+
 void SoPerfCounterCurve::setRawSamples(int index, const double* x, const double* y, int count)
 {
     m_curves[index]->setData(new RawHistory(x, y, std::size_t(count)));
@@ -124,8 +130,7 @@ QString SoPerfCounterCurve::textAt(const QPoint& position) const
     for (const Curve* curve : m_curves) {
         const int index = sampleAt(*curve, position, x, y, best);
         if (index >= 0)
-            text = QStringLiteral("%1: %2").arg(curve->title().text(),
-                                                QString::number(curve->sample(std::size_t(index)).y(), 'g', 6));
+            text = PlotToolTip::textOf(curve->title().text(), curve->sample(std::size_t(index)).y());
     }
     return text;
 }

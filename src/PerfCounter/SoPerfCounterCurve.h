@@ -6,6 +6,8 @@
 
 #include <QList>
 
+#include <vector>
+
 class Curve : public QwtPlotCurve
 {
 public:
@@ -25,7 +27,8 @@ public:
     void newCurve(const QString& name, int r, int g, int b);
     void setColor(int index, const QColor& color);
     void removeCurve(int index);
-    void moveCurve(int from, int to) { m_curves.move(from, to); }
+    // Curve i becomes the one whose index stands at i.
+    void order(const std::vector<int>& indices);
     // Draws the curve from these arrays, which stay the caller's and have to live until the next call for this curve.
     // The newest sample comes first.
     void setRawSamples(int index, const double* x, const double* y, int count);

@@ -1,6 +1,8 @@
 #include "SoPerfCounterDockWin.h"
 
 #include "CounterProfileFile.h"
+#include "CounterTable.h"
+#include "CounterText.h"
 #include "CustomCounter.h"
 #include "SoPerfCounterPcViewed.h"
 #include "SoPerfCounterProfile.h"
@@ -12,6 +14,8 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace
 {
@@ -30,6 +34,7 @@ SoPerfCounterDockWin::SoPerfCounterDockWin(QWidget* parent, Qt::WindowFlags flag
     auto* content = new QWidget(this);
     setupUi(content);
     setWidget(content);
+    counterTable::showBeginnings(*m_preSelectedListView);
     setupConnections();
     openDefaultFile();
     m_propertiesGroupBox->setEnabled(false);
@@ -96,9 +101,10 @@ void SoPerfCounterDockWin::parseViewElement()
         return;
     QString name;
     const bool told = counterProfileFile::readViewedProfile(m_document, name);
-    const int index = told ? m_listConfig->findData(name, Qt::DisplayRole) : -1;
-    if (index >= 0)
-        selectInComboBox(index);
+    const auto found = std::find_if(m_profiles->begin(), m_profiles->end(),
+                                    [&](const SoPerfCounterProfile* p) { return told && p->getName() == name; });
+    if (found != m_profiles->end())
+        selectInComboBox(int(found - m_profiles->begin()));
     else
         updateCurrentProfile(0);
 }
@@ -107,8 +113,10 @@ void SoPerfCounterDockWin::setupProfileComboBox()
 {
     disconnect(m_listConfig, SIGNAL(currentIndexChanged(int)), this, SLOT(updateCurrentProfile(int)));
     m_listConfig->clear();
+    QStringList names;
     for (const SoPerfCounterProfile* p : qAsConst(*m_profiles))
-        m_listConfig->addItem(p->getName());
+        names.append(beginningOf(p->getName(), LongestInLine));
+    m_listConfig->addItems(names);
     connect(m_listConfig, SIGNAL(currentIndexChanged(int)), this, SLOT(updateCurrentProfile(int)));
 }
 

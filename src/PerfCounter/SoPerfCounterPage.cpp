@@ -1,7 +1,44 @@
 #include "SoPerfCounterPage.h"
 
-SoPerfCounterPage::SoPerfCounterPage(QWidget* parent)
+#include "CounterTable.h"
+#include "CustomCounter.h"
+#include "SoPerfCounterProfile.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+
+SoPerfCounterPage::SoPerfCounterPage(const SoPerfCounterProfile& profile, QWidget* parent)
     : QWidget(parent)
+    , m_profile(profile)
 {
-    setupUi(this);
+    m_tableProfile = nullptr;
+}
+
+QTableWidget* SoPerfCounterPage::getTableProfile()
+{
+    if (!m_tableProfile) {
+        setupUi(this);
+        counterTable::showBeginnings(*m_tableProfile);
+        refill();
+    }
+    return m_tableProfile;
+}
+
+void SoPerfCounterPage::refill()
+{
+    if (!m_tableProfile)
+        return; // it will be full as soon as there is one
+    const auto* registry = SoPerfCounterManager::getInstance();
+    std::vector<const SoPerfCounter*> counters;
+    for (const QString& name : qAsConst(*m_profile.getList())) {
+        const SoPerfCounter* counter = registry->getCounter(toCounterName(name));
+        if (counter && counter->isEnabled())
+            counters.push_back(counter);
+    }
+    counterTable::fill(*m_tableProfile, counters);
+}
+
+void SoPerfCounterPage::showEvent(QShowEvent* event)
+{
+    getTableProfile();
+    QWidget::showEvent(event);
 }

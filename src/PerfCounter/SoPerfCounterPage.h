@@ -1,16 +1,28 @@
-// One tab of the profile manager: the counters of one profile.
+// One tab of the profile manager: the counters of one profile. Its table is made when it is first seen or asked for,
+// so that a file may hold thousands of profiles.
 #pragma once
 
 #include "ui_SoPerfCounterPage.h"
 
 #include <QWidget>
 
+class SoPerfCounterProfile;
+
 class SoPerfCounterPage : public QWidget, public Ui_QPerfCounterPage
 {
     Q_OBJECT
 
 public:
-    explicit SoPerfCounterPage(QWidget* parent = nullptr);
+    // The profile stays its owner's and has to live as long as the page is shown.
+    explicit SoPerfCounterPage(const SoPerfCounterProfile& profile, QWidget* parent = nullptr);
 
-    QTableWidget* getTableProfile() const { return m_tableProfile; }
+    QTableWidget* getTableProfile();
+    // Takes the profile's counters anew.
+    void refill();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    const SoPerfCounterProfile& m_profile;
 };

@@ -1,5 +1,21 @@
 #include "SoPerfCounterProfile.h"
 
+#include <QSet>
+
+#include <algorithm>
+
+namespace
+{
+
+void removeAll(QList<QString>& names, const QStringList& unwanted)
+{
+    const QSet<QString> gone(unwanted.begin(), unwanted.end());
+    names.erase(std::remove_if(names.begin(), names.end(), [&](const QString& name) { return gone.contains(name); }),
+                names.end());
+}
+
+} // namespace
+
 SoPerfCounterProfile::SoPerfCounterProfile(const QString& name)
     : m_name(name)
     , m_list(std::make_unique<QList<QString>>())
@@ -11,6 +27,18 @@ void SoPerfCounterProfile::removeCounter(const QString& counter)
 {
     m_list->removeAll(counter);
     m_view->removeAll(counter);
+}
+
+void SoPerfCounterProfile::removeCounters(const QStringList& counters)
+{
+    removeAll(*m_list, counters);
+    removeAll(*m_view, counters);
+}
+
+void SoPerfCounterProfile::moveToEnd(const QStringList& counters)
+{
+    removeAll(*m_list, counters);
+    m_list->append(counters);
 }
 
 std::unique_ptr<SoPerfCounterProfile> SoPerfCounterProfile::copy() const

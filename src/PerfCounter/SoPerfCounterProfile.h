@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -16,8 +17,11 @@ public:
     QList<QString>* getList() const { return m_list.get(); }
     QList<QString>* getView() const { return m_view.get(); }
 
-    // Takes a counter out of both lists.
+    // Take counters out of both lists.
     void removeCounter(const QString& counter);
+    void removeCounters(const QStringList& counters);
+    // Puts counters, each of which is named once, at the end of those that are offered, in their order.
+    void moveToEnd(const QStringList& counters);
     std::unique_ptr<SoPerfCounterProfile> copy() const;
 
 private:

@@ -1,6 +1,7 @@
 #include "SoPerfCounterProfileManager.h"
 
 #include "CounterProfileFile.h"
+#include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
 #include "SoPerfCounterCreateCounter.h"
@@ -19,31 +20,10 @@
 namespace
 {
 
-QStringList selectedNames(const QTableWidget& table)
+// In a tab "&" would underline the next letter.
+QString labelOf(const SoPerfCounterProfile& profile)
 {
-    QStringList names;
-    for (const QModelIndex& index : table.selectionModel()->selectedRows())
-        names.append(table.item(index.row(), 0)->text());
-    return names;
-}
-
-void appendCounter(QTableWidget& table, const SoPerfCounter& counter)
-{
-    const int row = table.rowCount();
-    table.insertRow(row);
-    const QString texts[] = {
-        toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
-        toQString(counter.getTypeText()), toQString(counter.getStringLevel()),
-        beginningOf(counter.getModule()), beginningOf(counter.getDescription())};
-    int column = 0;
-    for (const QString& text : texts)
-        table.setItem(row, column++, new QTableWidgetItem(text));
-}
-
-void finishTable(QTableWidget& table)
-{
-    table.sortItems(0, Qt::AscendingOrder);
-    table.resizeColumnsToContents();
+    return beginningOf(profile.getName(), LongestInLine).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace
@@ -56,6 +36,7 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
     setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
+    counterTable::showBeginnings(*m_listCounter);
     setupConnections();
     setupListCounter();
 }
@@ -108,8 +89,7 @@ void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounter
 
 void SoPerfCounterProfileManager::addTab(const SoPerfCounterProfile& profile)
 {
-    m_tabProfile->addTab(new SoPerfCounterPage(m_tabProfile), profile.getName());
-    setupPreSelectedList(m_tabProfile->count() - 1);
+    m_tabProfile->addTab(new SoPerfCounterPage(profile, m_tabProfile), labelOf(profile));
 }
 
 void SoPerfCounterProfileManager::dropProfiles()
@@ -128,38 +108,30 @@ void SoPerfCounterProfileManager::dropProfiles()
     m_profiles->clear();
 }
 
-QTableWidget* SoPerfCounterProfileManager::tableOf(int index) const
+SoPerfCounterPage* SoPerfCounterProfileManager::currentPage() const
 {
-    return static_cast<SoPerfCounterPage*>(m_tabProfile->widget(index))->getTableProfile();
+    return static_cast<SoPerfCounterPage*>(m_tabProfile->currentWidget());
 }
 
 void SoPerfCounterProfileManager::setupListCounter()
 {
-    m_listCounter->setRowCount(0);
+    std::vector<const SoPerfCounter*> counters;
     for (const SoPerfCounter* counter : m_registry->getCounters()) {
         if (counter->isEnabled())
-            appendCounter(*m_listCounter, *counter);
+            counters.push_back(counter);
     }
-    finishTable(*m_listCounter);
+    counterTable::fill(*m_listCounter, counters);
 }
 
-void SoPerfCounterProfileManager::setupPreSelectedList(int index)
+void SoPerfCounterProfileManager::setupPreSelectedList()
 {
-    if (index < 0 || index >= m_profiles->size())
-        return;
-    QTableWidget* table = tableOf(index);
-    table->setRowCount(0);
-    for (const QString& name : qAsConst(*m_profiles->at(index)->getList())) {
-        const SoPerfCounter* counter = m_registry->getCounter(toCounterName(name));
-        if (counter && counter->isEnabled())
-            appendCounter(*table, *counter);
-    }
-    finishTable(*table);
+    if (SoPerfCounterPage* page = currentPage())
+        page->refill();
 }
 
 void SoPerfCounterProfileManager::createCounter()
 {
-    const QStringList names = selectedNames(*m_listCounter);
+    const QStringList names = counterTable::selectedNames(*m_listCounter);
     if (names.size() != 2) {
         QMessageBox::warning(
             this, windowTitle(),
@@ -186,13 +158,13 @@ void SoPerfCounterProfileManager::deleteCounter()
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     if (question.exec() != QMessageBox::Ok)
         return;
-    for (const QString& name : selectedNames(*m_listCounter)) {
+    for (const QString& name : counterTable::selectedNames(*m_listCounter)) {
         const SoPerfCounter* counter = m_registry->getCounter(toCounterName(name));
         if (counter && counter->isCustom())
             m_registry->disableCounter(toCounterName(name));
     }
     setupListCounter();
-    setupPreSelectedList(m_tabProfile->currentIndex());
+    setupPreSelectedList();
 }
 
 SoPerfCounterProfile* SoPerfCounterProfileManager::currentProfile(const QString& otherwise)
@@ -210,11 +182,8 @@ void SoPerfCounterProfileManager::downArrowAction()
         = currentProfile(tr("You have to create al least one profile before adding counters."));
     if (!profile)
         return;
-    for (const QString& name : selectedNames(*m_listCounter)) {
-        profile->getList()->removeAll(name);
-        profile->getList()->append(name);
-    }
-    setupPreSelectedList(m_tabProfile->currentIndex());
+    profile->moveToEnd(counterTable::selectedNames(*m_listCounter));
+    setupPreSelectedList();
 }
 
 void SoPerfCounterProfileManager::upArrowAction()
@@ -223,9 +192,8 @@ void SoPerfCounterProfileManager::upArrowAction()
         = currentProfile(tr("There is no profile from which you can remove a counter."));
     if (!profile)
         return;
-    for (const QString& name : selectedNames(*tableOf(m_tabProfile->currentIndex())))
-        profile->removeCounter(name);
-    setupPreSelectedList(m_tabProfile->currentIndex());
+    profile->removeCounters(counterTable::selectedNames(*currentPage()->getTableProfile()));
+    setupPreSelectedList();
 }
 
 void SoPerfCounterProfileManager::createProfile()
@@ -249,9 +217,7 @@ void SoPerfCounterProfileManager::deleteProfile()
     if (!currentProfile(tr("There is no profile you can remove.")))
         return;
     const int index = m_tabProfile->currentIndex();
-    QWidget* page = m_tabProfile->widget(index);
-    m_tabProfile->removeTab(index);
-    delete page;
+    delete currentPage(); // its tab goes with it
     delete m_profiles->takeAt(index);
 }
 
@@ -262,7 +228,7 @@ void SoPerfCounterProfileManager::resetProfile()
         return;
     profile->getList()->clear();
     profile->getView()->clear();
-    setupPreSelectedList(m_tabProfile->currentIndex());
+    setupPreSelectedList();
 }
 
 void SoPerfCounterProfileManager::removeFromProfiles(QString name)
@@ -299,7 +265,7 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
             m_registry->disableCounter(counter->getName());
     }
     m_registry->removeDisabledCounters();
-    m_tabProfile->hide(); // shown, it lays all tabs out anew for each that comes or goes
+    m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
     dropProfiles();
     counterProfileFile::readCustomCounters(m_document);
     setupListCounter();

@@ -11,6 +11,7 @@
 #include <memory>
 
 class SoPerfCounterManager;
+class SoPerfCounterPage;
 class SoPerfCounterProfile;
 
 class SoPerfCounterProfileManager : public QMainWindow, public Ui_QPerfCounterProfileManager
@@ -60,7 +61,7 @@ protected:
 private:
     void setupConnections();
     void setupListCounter();
-    void setupPreSelectedList(int index);
+    void setupPreSelectedList(); // of the current tab
     void addTab(const SoPerfCounterProfile& profile);
     void dropProfiles();
     bool read(QIODevice* device);
@@ -70,7 +71,7 @@ private:
     void undoCounterChanges();
     // The profile of the current tab; says `otherwise` in a box where there is none.
     SoPerfCounterProfile* currentProfile(const QString& otherwise);
-    QTableWidget* tableOf(int index) const;
+    SoPerfCounterPage* currentPage() const;
 
     SoPerfCounterManager* m_registry;
     QList<QString> m_created; // counters made since the window was opened

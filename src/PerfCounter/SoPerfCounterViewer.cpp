@@ -1,5 +1,6 @@
 #include "SoPerfCounterViewer.h"
 
+#include "CounterTable.h"
 #include "CounterText.h"
 #include "CurveColors.h"
 #include "CustomCounter.h"
@@ -10,9 +11,11 @@
 
 #include <xsg/counters/SoPerfCounterManager.h>
 
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QTimer>
 
@@ -91,6 +94,8 @@ SoPerfCounterViewer::SoPerfCounterViewer(QWidget* parent)
     , m_manager(SoPerfCounterManager::getInstance())
 {
     setupUi(this);
+    counterTable::showBeginnings(*m_textView);
+    counterTable::showBeginnings(*m_legend);
     std::srand(unsigned(std::time(nullptr)));
     setAcceptDrops(true);
     m_manager->setInterval(SbTime(0.0));
@@ -300,7 +305,7 @@ QString SoPerfCounterViewer::barTextAt(const QPoint& place) const
 {
     const double x = m_graphPlot->canvasMap(QwtPlot::xBottom).invTransform(place.x());
     const SoPerfCounterPcViewed* viewed = x >= 0 ? m_viewed->value(int(std::min(x, 1e6))) : nullptr;
-    return viewed ? QStringLiteral("%1: %2").arg(viewed->getName(), numberText(viewed->getHistory()[0])) : QString();
+    return viewed ? PlotToolTip::textOf(viewed->getName(), viewed->getHistory()[0]) : QString();
 }
 
 void SoPerfCounterViewer::setRawSamples()
@@ -337,6 +342,7 @@ void SoPerfCounterViewer::setupLegend()
         if (viewed.getName() == selected)
             m_legend->selectRow(row);
     }
+    counterTable::fitColumns(*m_legend);
     // Told once, when the rows are complete again.
     quiet.unblock();
     emit m_legend->itemSelectionChanged();
@@ -350,29 +356,30 @@ int SoPerfCounterViewer::selectedIndex() const
 
 QColor SoPerfCounterViewer::newColor() const
 {
-    return randomCurveColor([this](const QColor& color) {
-        return std::any_of(m_viewed->begin(), m_viewed->end(),
-                           [&](const SoPerfCounterPcViewed* v) { return v->getColor() == color; });
-    });
+    std::vector<QColor> used;
+    if (m_viewed->size() < CurveColorCount) {
+        for (const SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
+            used.push_back(viewed->getColor());
+    }
+    return randomCurveColor(used);
 }
 
-bool SoPerfCounterViewer::add(const QString& name)
+void SoPerfCounterViewer::add(const QString& name)
 {
-    if (findViewed(name))
-        return false;
     const QColor color = newColor();
     auto* viewed = new SoPerfCounterPcViewed(name, m_historyLength);
     viewed->setColor(color.red(), color.green(), color.blue());
     m_curvePlot->newCurve(name, color.red(), color.green(), color.blue());
     m_viewed->append(viewed);
-    return true;
 }
 
 void SoPerfCounterViewer::addAndShow(const QStringList& names)
 {
     for (const QString& name : names) {
-        if (add(name))
-            emit newPcViewed(name);
+        if (findViewed(name))
+            continue;
+        add(name);
+        emit newPcViewed(name);
     }
     setupViews();
     setupLegend();
@@ -504,25 +511,33 @@ void SoPerfCounterViewer::resetHistory()
 
 void SoPerfCounterViewer::setViewList(const QList<QString>* list)
 {
-    for (int i = m_viewed->size() - 1; i >= 0; --i) {
-        if (!list->contains(m_viewed->at(i)->getName())) {
-            m_curvePlot->removeCurve(i);
-            delete m_viewed->takeAt(i);
-        }
-    }
-    for (int i = 0; i < list->size(); ++i)
-        add(list->at(i));
-    // Into the order of the list: an insertion of each where it belongs.
-    QList<QString> wanted;
+    QHash<QString, int> places; // of each name in the list
     for (const QString& name : *list) {
-        if (!wanted.contains(name))
-            wanted.append(name);
+        if (!places.contains(name))
+            places.insert(name, places.size());
     }
-    for (int i = 0; i < wanted.size(); ++i) {
-        const int at = int(m_viewed->indexOf(findViewed(wanted[i])));
-        m_viewed->move(at, i);
-        m_curvePlot->moveCurve(at, i);
+    QSet<QString> stay;
+    for (int i = m_viewed->size() - 1; i >= 0; --i) {
+        if (places.contains(m_viewed->at(i)->getName())) {
+            stay.insert(m_viewed->at(i)->getName());
+            continue;
+        }
+        m_curvePlot->removeCurve(i);
+        delete m_viewed->takeAt(i);
     }
+    for (const QString& name : *list) {
+        if (stay.contains(name))
+            continue;
+        stay.insert(name);
+        add(name);
+    }
+    // Into the order of the list.
+    std::vector<int> order(std::size_t(m_viewed->size()));
+    for (int i = 0; i < m_viewed->size(); ++i)
+        order[std::size_t(places[m_viewed->at(i)->getName()])] = i;
+    const QList<SoPerfCounterPcViewed*> before = *m_viewed;
+    std::transform(order.begin(), order.end(), m_viewed->begin(), [&](int i) { return before.at(i); });
+    m_curvePlot->order(order);
 }
 
 void SoPerfCounterViewer::clearViewer()

@@ -91,7 +91,7 @@ private:
     void resetElapsed();
     void sample(SoPerfCounterPcViewed& viewed, double elapsed) const;
     QColor newColor() const;
-    bool add(const QString& name);
+    void add(const QString& name);
     void addAndShow(const QStringList& names);
     void remove(int index);
     void showView(QWidget* view);
