@@ -46,14 +46,10 @@ void EdSFBitMaskWidget::setField(SoField* field)
 
 void EdSFBitMaskWidget::clearEditor()
 {
-    for (QCheckBox* box : m_boxes) {
-        box->disconnect();
-        delete box;
-    }
+    qDeleteAll(m_boxes);
     m_boxes.clear();
     delete m_boxLayout;
     m_boxLayout = nullptr;
-    m_clicked.reset();
 }
 
 void EdSFBitMaskWidget::initClass()
@@ -89,15 +85,14 @@ void EdSFBitMaskWidget::checkBoxes(const SoSFBitMask& field)
 {
     for (QCheckBox* box : m_boxes)
         box->setChecked(valueOf(field, box->text()) & field.getValue());
+    m_shown = field.getValue();
 }
 
 void EdSFBitMaskWidget::refresh()
 {
     if (const auto* field = getFieldAs<SoSFBitMask>()) {
-        if (m_clicked != field->getValue()) {
-            m_clicked.reset();
+        if (m_shown != field->getValue())
             checkBoxes(*field);
-        }
     }
     EdSFieldWidget::refresh();
 }
@@ -115,6 +110,6 @@ void EdSFBitMaskWidget::setBitMaskValue()
         if (box->isChecked())
             value |= valueOf(*field, box->text());
     }
-    m_clicked = value;
+    m_shown = value; // the boxes stay as the person left them
     field->SoSFEnum::setValue(value);
 }

@@ -35,5 +35,5 @@ private:
 
     std::vector<QCheckBox*> m_boxes;
     QVBoxLayout* m_boxLayout = nullptr;
-    std::optional<int> m_clicked; // the value that the last click made
+    std::optional<int> m_shown; // the value that the boxes stand for
 };
