@@ -49,6 +49,18 @@ struct Docked {
 using FieldDock = Docked<SpxFieldEditorDockWin>;
 using NodeDock = Docked<SpxNodeEditor>;
 
+// The dock with one editor, and a field for it.
+class FieldEditorDock : public testing::Test
+{
+protected:
+    FieldEditorDock() { fields.load({&editor}); }
+    void TearDown() override { fields.host.select(NoField); }
+
+    ProbeEditor editor;
+    FieldDock fields;
+    SoSFFloat field;
+};
+
 } // namespace
 
 // --- Life of the dock, the same for both
@@ -112,29 +124,20 @@ TEST(EditorDock, DeletesItsDockWhenUnloaded)
     EXPECT_FALSE(fields.host.window().findChild<QDockWidget*>());
 }
 
-TEST(EditorDock, ListensOnlyWhileActive)
+TEST_F(FieldEditorDock, ListensOnlyWhileActive)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.extension.deactivate();
     fields.host.select(&field);
     EXPECT_EQ(editor.takeCalls(), "");
     fields.extension.activate();
     fields.host.select(&field);
     EXPECT_TRUE(fields.dock->isVisible());
-    fields.host.select(NoField);
 }
 
 // --- What is shown
 
-TEST(FieldEditorDock, ShowsTheEditorOfTheSelectedField)
+TEST_F(FieldEditorDock, ShowsTheEditorOfTheSelectedField)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.host.select(&field);
     EXPECT_EQ(editor.takeCalls(), "docked activate setField refresh show ");
     EXPECT_EQ(editor.getEditedObject(), &field);
@@ -142,15 +145,10 @@ TEST(FieldEditorDock, ShowsTheEditorOfTheSelectedField)
     EXPECT_TRUE(fields.dock->isVisible());
     EXPECT_TRUE(editor.getWidget()->isVisible());
     EXPECT_TRUE(fields.extension.isShown());
-    fields.host.select(NoField);
 }
 
-TEST(FieldEditorDock, LetsGoOfTheEditorWhenNothingIsSelected)
+TEST_F(FieldEditorDock, LetsGoOfTheEditorWhenNothingIsSelected)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.host.select(&field);
     editor.takeCalls();
     fields.host.select(NoField);
@@ -166,41 +164,28 @@ TEST(FieldEditorDock, LetsGoOfTheEditorWhenNothingIsSelected)
     EXPECT_EQ(editor.takeCalls(), "");
 }
 
-TEST(FieldEditorDock, TakesUpTheSameFieldAgain)
+TEST_F(FieldEditorDock, TakesUpTheSameFieldAgain)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.host.select(&field);
     editor.takeCalls();
     fields.host.select(&field);
     EXPECT_EQ(editor.takeCalls(), "deactivate hide docked activate setField refresh show ");
     EXPECT_TRUE(fields.dock->isVisible());
-    fields.host.select(NoField);
 }
 
-TEST(FieldEditorDock, AppliesWhatWasTypedWhenTheSelectionMoves)
+TEST_F(FieldEditorDock, AppliesWhatWasTypedWhenTheSelectionMoves)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
     SoSFFloat first;
-    SoSFFloat second;
     fields.host.select(&first);
     editor.type("0.5");
-    fields.host.select(&second);
+    fields.host.select(&field);
     EXPECT_EQ(first.getValue(), 0.5F);
-    EXPECT_EQ(second.getValue(), 0.F);
+    EXPECT_EQ(field.getValue(), 0.F);
     EXPECT_EQ(fields.host.undoCount(), 1);
-    fields.host.select(NoField);
 }
 
-TEST(FieldEditorDock, LetsGoOfANodeThatGoes)
+TEST_F(FieldEditorDock, LetsGoOfANodeThatGoes)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
     SoRef<SoMaterial> material(new SoMaterial);
     fields.host.select(&material->transparency);
     editor.type("0.5");
@@ -213,12 +198,8 @@ TEST(FieldEditorDock, LetsGoOfANodeThatGoes)
     EXPECT_EQ(fields.host.undoCount(), 0);
 }
 
-TEST(FieldEditorDock, ReleasesTheEditorWhenDeactivated)
+TEST_F(FieldEditorDock, ReleasesTheEditorWhenDeactivated)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.host.select(&field);
     editor.takeCalls();
     fields.extension.deactivate();
@@ -228,12 +209,8 @@ TEST(FieldEditorDock, ReleasesTheEditorWhenDeactivated)
               (TestHost::Log{"removeDockWidget \"Field Editor\"", "detachExtension \"Field Editor\""}));
 }
 
-TEST(FieldEditorDock, SparesTheEditorsWidgetWhenItGoes)
+TEST_F(FieldEditorDock, SparesTheEditorsWidgetWhenItGoes)
 {
-    ProbeEditor editor;
-    FieldDock fields;
-    fields.load({&editor});
-    SoSFFloat field;
     fields.host.select(&field);
     const QPointer<QWidget> widget = editor.getWidget();
     fields.host.stop(fields.extension);
