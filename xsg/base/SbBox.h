@@ -58,6 +58,14 @@ public:
     }
     constexpr SbVec3f getCenter() const { return (m_min + m_max) * 0.5F; }
     constexpr SbVec3f getSize() const { return isEmpty() ? SbVec3f() : m_max - m_min; }
+    constexpr bool contains(const SbVec3f& point) const
+    {
+        for (int i = 0; i < 3; ++i) {
+            if (!(m_min[i] <= point[i] && point[i] <= m_max[i]))
+                return false;
+        }
+        return true;
+    }
     constexpr void extendBy(const SbVec3f& point)
     {
         for (int i = 0; i < 3; ++i) {

@@ -50,6 +50,19 @@ SbRotation SbRotation::between(const SbVec3f& from, const SbVec3f& to)
     return fromEigen(Eigen::Quaterniond::FromTwoVectors(wide(from), wide(to)));
 }
 
+SbRotation SbRotation::looking(const SbVec3f& direction, const SbVec3f& up)
+{
+    const Eigen::Vector3d back = -wide(direction).normalized();
+    const Eigen::Vector3d right = wide(up).normalized().cross(back);
+    if (!(right.norm() > 1e-6))
+        return between({0, 0, -1}, direction);
+    Eigen::Matrix3d axes;
+    axes.col(0) = right.normalized();
+    axes.col(1) = back.cross(axes.col(0));
+    axes.col(2) = back;
+    return fromEigen(Eigen::Quaterniond(axes));
+}
+
 void SbRotation::setValue(const float four[4])
 {
     std::copy_n(four, 4, m_values);

@@ -14,6 +14,8 @@ public:
     SbRotation(const SbVec3f& axis, float radians);
     // The shortest turn that takes one direction to the other.
     static SbRotation between(const SbVec3f& from, const SbVec3f& to);
+    // Takes the negative z axis to `direction`, and the y axis as near to `up` as that allows.
+    static SbRotation looking(const SbVec3f& direction, const SbVec3f& up);
 
     const float* getValue() const { return m_values; }
     void setValue(const float four[4]);

@@ -9,6 +9,39 @@
 
 template class SoTyped<SoCamera, SoNode>;
 
+namespace
+{
+
+// How much of the picture a framed box fills, from the middle to the edge.
+constexpr float Filled = 0.88F;
+// What is flat or but a point is framed as if it had some thickness.
+constexpr float Thinnest = 1e-6F;
+constexpr float ThinnestPart = 0.01F;
+
+std::vector<SoCamera*>& allCameras()
+{
+    static auto& cameras = *new std::vector<SoCamera*>;
+    return cameras;
+}
+
+} // namespace
+
+SoCamera::SoCamera()
+{
+    allCameras().push_back(this);
+}
+
+SoCamera::~SoCamera()
+{
+    auto& cameras = allCameras();
+    cameras.erase(std::find(cameras.begin(), cameras.end(), this));
+}
+
+const std::vector<SoCamera*>& SoCamera::getAll()
+{
+    return allCameras();
+}
+
 void SoCamera::apply(SoState& state) const
 {
     state.camera = this;
@@ -43,10 +76,19 @@ void SoCamera::viewAll(const SbBox3f& box, float aspect)
 {
     if (box.isEmpty())
         return;
-    const SbVec3f center = box.getCenter();
-    const float radius = std::max(box.getSize().length() * 0.5F, 1e-6F);
-    frame(radius, std::min(1.0F, aspect));
-    position.setValue(center - getDirection() * focalDistance.getValue());
+    const SbVec3f half = box.getSize() * 0.5F;
+    const float thinnest = std::max({half[0] * ThinnestPart, half[1] * ThinnestPart, half[2] * ThinnestPart, Thinnest});
+    const SbRotation toEye = orientation.getValue().inverse();
+    Corners corners;
+    for (unsigned corner = 0; corner < corners.size(); ++corner) {
+        SbVec3f point;
+        for (int i = 0; i < 3; ++i)
+            point[i] = ((corner >> i) & 1U ? 1.0F : -1.0F) * std::max(half[i], thinnest);
+        corners[corner] = toEye.multVec(point);
+    }
+    const SbVec3f place = frame(corners, aspect, Filled);
+    focalDistance.setValue(place[2]);
+    position.setValue(box.getCenter() + orientation.getValue().multVec(place));
     fitDepthRange(box);
 }
 

@@ -10,6 +10,8 @@
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/SoNode.h>
 
+#include <array>
+
 class XSG_API SoCamera : public SoTyped<SoCamera, SoNode>
 {
 public:
@@ -21,6 +23,10 @@ public:
     SoSFFloat farDistance{this, "farDistance", 1000.0F};  // what is farther is not seen
     SoSFFloat focalDistance{this, "focalDistance", 5.0F}; // to the point that it turns around
 
+    SoCamera();
+    // All that live, whether they stand in a scene or not, the oldest first.
+    static const std::vector<SoCamera*>& getAll();
+
     void apply(SoState& state) const override;
 
     // `aspect`: width of the picture divided by its height.
@@ -31,8 +37,8 @@ public:
     // The ray through a place in the picture: (0, 0) is its lower left corner, (1, 1) its upper right.
     SbRay getRay(float x, float y, float aspect) const;
 
-    // Moves back or forth, without turning, until the box fills the picture; adapts focal and clipping
-    // distances.
+    // Moves, without turning, until the box fills the picture but for a small margin, in its middle; adapts focal
+    // and clipping distances.
     void viewAll(const SbBox3f& box, float aspect);
     void pointAt(const SbVec3f& target);
     // Puts the clipping distances around the box, so that all of it is seen.
@@ -46,11 +52,14 @@ public:
     void zoom(float factor, float x = 0.5F, float y = 0.5F, float aspect = 1.0F);
 
 protected:
+    ~SoCamera() override;
     // Height of what is seen at the focal point.
     virtual float getFocalHeight() const = 0;
-    // Adapts distance or size until a ball of this radius fills the picture, whose smaller side is `part` of
-    // its height.
-    virtual void frame(float radius, float part) = 0;
+    // Corners of a box around the origin, along the camera's axes.
+    using Corners = std::array<SbVec3f, 8>;
+    // Where the camera stands, along its axes, to have these corners fill `filled` of the picture; adapts the size of
+    // what it sees where that does not follow from where it stands.
+    virtual SbVec3f frame(const Corners& corners, float aspect, float filled) = 0;
     virtual void scaleView(float factor) = 0;
 };
 

@@ -2,6 +2,9 @@
 
 #include <xsg/core/SoTypedImpl.h>
 
+#include <algorithm>
+#include <cmath>
+
 template class SoTyped<SoOrthographicCamera, SoCamera>;
 
 SbMatrix SoOrthographicCamera::getProjectionMatrix(float aspect) const
@@ -18,10 +21,14 @@ float SoOrthographicCamera::getFocalHeight() const
     return value > 1e-9F ? value : 1e-9F;
 }
 
-void SoOrthographicCamera::frame(float radius, float part)
+// A box around the origin is seen around the middle, from whatever side.
+SbVec3f SoOrthographicCamera::frame(const Corners& corners, float aspect, float filled)
 {
-    height.setValue(2 * radius / part);
-    focalDistance.setValue(2 * radius);
+    float half = 0;
+    for (const SbVec3f& corner : corners)
+        half = std::max({half, std::abs(corner[1]), std::abs(corner[0]) / aspect});
+    height.setValue(2 * half / filled);
+    return {0, 0, 2 * corners.front().length()};
 }
 
 void SoOrthographicCamera::scaleView(float factor)

@@ -15,7 +15,7 @@ public:
 
 protected:
     float getFocalHeight() const override;
-    void frame(float radius, float part) override;
+    SbVec3f frame(const Corners& corners, float aspect, float filled) override;
     void scaleView(float factor) override;
 };
 

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <xsg/base/SbRotation.h>
+#include <xsg/nodes/SoOrthographicCamera.h>
 #include <xsg/nodes/SoPerspectiveCamera.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -17,22 +21,89 @@ SbVec3f project(const SoCamera& camera, const SbVec3f& point, float aspect)
     return (camera.getViewMatrix() * camera.getProjectionMatrix(aspect)).multPoint(point);
 }
 
+SbBox3f projectCorners(const SoCamera& camera, const SbBox3f& box, float aspect)
+{
+    SbBox3f seen;
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        SbVec3f point;
+        for (int i = 0; i < 3; ++i)
+            point[i] = (corner >> i) & 1U ? box.getMax()[i] : box.getMin()[i];
+        seen.extendBy(project(camera, point, aspect));
+    }
+    return seen;
+}
+
 } // namespace
 
-TEST(Camera, ViewAllBringsEveryCornerIntoThePicture)
+// All eight corners in the picture, as large as they can be but for the margin, with equal margins at both sides.
+template <class Camera>
+class ViewAll : public testing::Test
 {
-    const SbBox3f box(-3, 1, 5, 9, 2, 30);
-    for (const float aspect : {0.4F, 1.0F, 2.5F}) {
-        const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
-        camera->orientation.setValue(SbRotation({1, 2, 3}, 1));
-        camera->viewAll(box, aspect);
-        for (unsigned corner = 0; corner < 8; ++corner) {
-            const SbVec3f p((corner & 1U) ? -3.0F : 9.0F, (corner & 2U) ? 1.0F : 2.0F,
-                            (corner & 4U) ? 5.0F : 30.0F);
-            const SbVec3f seen = project(*camera, p, aspect);
-            for (int i = 0; i < 3; ++i)
-                EXPECT_LE(std::abs(seen[i]), 1.0F);
+};
+using Cameras = testing::Types<SoPerspectiveCamera, SoOrthographicCamera>;
+TYPED_TEST_SUITE(ViewAll, Cameras);
+
+TYPED_TEST(ViewAll, FillsThePictureFromWhereverItLooks)
+{
+    const SbBox3f boxes[] = {{-3, 1, 5, 9, 2, 30}, {1000, 1000, 1000, 1001, 1001, 1001}, {-1, 0, -1, 1, 0, 1}};
+    const SbRotation views[] = {SbRotation(), SbRotation({1, 2, 3}, 1), SbRotation({-1, 0.3F, 0}, 2.5F)};
+    for (const SbBox3f& box : boxes) {
+        for (const SbRotation& view : views) {
+            for (const float aspect : {0.3F, 1.0F, 4.0F}) {
+                const SoRef<TypeParam> camera(new TypeParam);
+                camera->orientation.setValue(view);
+                camera->viewAll(box, aspect);
+                const SbBox3f seen = projectCorners(*camera, box, aspect);
+                // What is flat is framed as if it were a hundredth as thick as wide.
+                EXPECT_NEAR(std::max(seen.getMax()[0], seen.getMax()[1]), 0.88F, 0.02F) << aspect;
+                for (int i = 0; i < 2; ++i) {
+                    EXPECT_LE(seen.getMax()[i], 0.881F);
+                    EXPECT_NEAR(seen.getMin()[i], -seen.getMax()[i], 0.02F) << aspect;
+                }
+                EXPECT_GE(seen.getMin()[2], -1.0F);
+                EXPECT_LE(seen.getMax()[2], 1.0F);
+            }
         }
+    }
+}
+
+TYPED_TEST(ViewAll, APointAndALineSeenFromItsEndAreInThePicture)
+{
+    for (const SbBox3f& box : {SbBox3f(5, 6, 7, 5, 6, 7), SbBox3f(0, 0, -10, 0, 0, 10)}) {
+        const SoRef<TypeParam> camera(new TypeParam);
+        camera->viewAll(box, 1);
+        const SbBox3f seen = projectCorners(*camera, box, 1);
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_GE(seen.getMin()[i], -1.0F);
+            EXPECT_LE(seen.getMax()[i], 1.0F);
+        }
+    }
+}
+
+TEST(Camera, AllThatLiveAreListed)
+{
+    const auto isListed = [](const SoCamera* camera) {
+        const auto& all = SoCamera::getAll();
+        return std::count(all.begin(), all.end(), camera) == 1;
+    };
+    SoRef<SoPerspectiveCamera> one(new SoPerspectiveCamera);
+    const SoRef<SoOrthographicCamera> other(new SoOrthographicCamera);
+    const SoCamera* gone = one.get();
+    EXPECT_TRUE(isListed(one.get()) && isListed(other.get()));
+    one = {};
+    EXPECT_FALSE(isListed(gone));
+    EXPECT_TRUE(isListed(other.get()));
+}
+
+TEST(Rotation, LooksThereWithTheRightSideUp)
+{
+    const SbRotation turned = SbRotation::looking({5, 0, 0}, {1, 0, 2});
+    expectNear(turned.multVec({0, 0, -1}), {1, 0, 0});
+    expectNear(turned.multVec({0, 1, 0}), {0, 0, 1});
+    expectNear(SbRotation::looking({0, 3, 0}, {0, 2, 0}).multVec({0, 0, -1}), {0, 1, 0});
+    for (const float number : {0.0F, std::nanf("")}) {
+        const SbVec3f direction = SbRotation::looking({number, 0, 0}, {0, number, 0}).multVec({0, 0, -1});
+        EXPECT_TRUE(std::isfinite(direction[0] + direction[1] + direction[2]));
     }
 }
 
