@@ -205,7 +205,7 @@ void MainWindow::makeHelpMenu()
                "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
                "Select: click. The selected part shows its edges.\n"
                "See all of the selected part: double-click, or F.\n"
-               "See everything: A. As at first: Home.\n"
+               "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
                "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

@@ -2,8 +2,7 @@
 
 #include "view/Colors.h"
 #include "view/ViewSurface.h"
-#include <xsg/actions/SoBoundingBoxAction.h>
-#include <xsg/actions/SoSearchAction.h>
+
 #include <xsg/nodes/SoSpin.h>
 #include <xsg/render/SoRenderer.h>
 
@@ -18,73 +17,15 @@
 namespace
 {
 
-constexpr float Pi = 3.14159265F;
 constexpr float WheelStep = 0.85F; // per notch of 120
 constexpr int TickMs = 16;         // between pictures of something that turns
 // What a key does, as part of the picture's height; turning, that is half a turn.
 constexpr float KeyStep = 1.0F / 12;
-// How much of the picture, from its middle to its edge, a framed box fills.
-constexpr float Filled = 0.88F;
-// Where a new scene is looked at from: a little from the side and from above.
-constexpr float StartTurn = -0.55F;
-constexpr float StartTilt = -0.32F;
-
-SbBox3f boxOf(SoNode* root)
-{
-    return root ? SoBoundingBoxAction().getBox(root) : SbBox3f();
-}
-
-// How far the camera has to go to have all corners of the box in the picture and no more: a factor of the distance
-// from which it looks at the box's centre now.
-float distanceFactor(const SoPerspectiveCamera& camera, const SbBox3f& box, float aspect)
-{
-    const SbMatrix view = camera.getViewMatrix();
-    const float high = std::tan(camera.heightAngle.getValue() / 2) * Filled;
-    const float present = camera.focalDistance.getValue();
-    float wanted = 0;
-    for (unsigned corner = 0; corner < 8; ++corner) {
-        SbVec3f point;
-        for (int i = 0; i < 3; ++i)
-            point[i] = (corner >> i) & 1U ? box.getMax()[i] : box.getMin()[i];
-        point = view.multPoint(point);
-        const float behindCenter = -point[2] - present;
-        const float needed = std::max(std::abs(point[0]) / (high * aspect), std::abs(point[1]) / high);
-        wanted = std::max(wanted, needed - behindCenter);
-    }
-    return wanted > 0 ? wanted / present : 1;
-}
-
-// Around the node, in the coordinates of the root.
-SbBox3f boxOfPart(SoNode* root, SoNode* part)
-{
-    SoSearchAction search;
-    search.setNode(part);
-    search.apply(root);
-    if (search.getPaths().empty())
-        return {};
-    // A scene of nothing but the way to the node and what is set before it on that way.
-    const SoPath& path = search.getPaths().front();
-    SoRef<SoNode> below(path.getTail());
-    for (int i = path.getLength() - 2; i >= 0; --i) {
-        SoRef<SoGroup> level(new SoGroup);
-        const SoGroup* group = path.getNode(i)->asGroup();
-        const int end = group->findChild(path.getNode(i + 1));
-        for (int c = 0; c < end; ++c) {
-            SoNode* child = group->getChild(c);
-            if (!child->asGroup() && !child->asShape())
-                level->addChild(child);
-        }
-        level->addChild(below.get());
-        below = SoRef<SoNode>(level.get());
-    }
-    return boxOf(below.get());
-}
 
 } // namespace
 
 SceneView::SceneView(QWidget* parent, Drawing drawing)
     : QWidget(parent)
-    , m_camera(new SoPerspectiveCamera)
     , m_sensor(sceneChanged, this)
     , m_surface(ViewSurface::make(
           this, [this](SoRenderer& renderer) { return prepare(renderer); },
@@ -107,16 +48,15 @@ void SceneView::setScene(SoNode* root)
     m_root = SoRef<SoNode>(root);
     m_highlight = 0;
     m_sensor.attach(root);
-    goHome();
+    m_camera.setScene(root);
+    redraw();
     animateWhereNeeded();
 }
 
 void SceneView::goHome()
 {
-    m_camera->orientation.setValue(SbRotation());
-    viewAll();
-    m_camera->orbit(StartTurn, StartTilt);
-    viewAll();
+    m_camera.goHome();
+    redraw();
 }
 
 void SceneView::redraw()
@@ -199,15 +139,14 @@ void SceneView::setHighlight(const SoNode* node)
 void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
 {
     auto* view = static_cast<SceneView*>(self);
+    view->m_camera.follow();
     view->redraw();
     view->animateWhereNeeded();
 }
 
 ViewContent SceneView::prepare(SoRenderer& renderer)
 {
-    const SbBox3f box = boxOf(m_root.get());
-    if (!box.isEmpty())
-        m_camera->fitDepthRange(box);
+    m_camera.fitDepth();
     const auto toColor = [](const QColor& c) {
         return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
     };
@@ -215,7 +154,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     renderer.setWireframe(m_wireframe);
     renderer.setHighlightedNumber(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
-    return {m_root.get(), m_camera.get()};
+    return {m_root.get(), &m_camera.get()};
 }
 
 int SceneView::getDrawCount() const
@@ -223,38 +162,15 @@ int SceneView::getDrawCount() const
     return m_surface->getDrawCount();
 }
 
-float SceneView::aspect() const
-{
-    return static_cast<float>(std::max(1, width())) / static_cast<float>(std::max(1, height()));
-}
-
-void SceneView::frame(const SbBox3f& box)
-{
-    if (!box.isEmpty()) {
-        m_camera->viewAll(box, aspect());
-        m_camera->zoom(distanceFactor(*m_camera, box, aspect()));
-    }
-    cameraMoved();
-}
-
 void SceneView::viewAll()
 {
-    frame(boxOf(m_root.get()));
-    m_framed = true;
+    m_camera.viewAll();
+    redraw();
 }
 
 void SceneView::viewNode(SoNode* node)
 {
-    const SbBox3f box = m_root && node ? boxOfPart(m_root.get(), node) : SbBox3f();
-    if (box.isEmpty())
-        viewAll();
-    else
-        frame(box);
-}
-
-void SceneView::cameraMoved()
-{
-    m_framed = false;
+    m_camera.viewNode(node);
     redraw();
 }
 
@@ -264,7 +180,7 @@ std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
         return std::nullopt;
     const float x = (static_cast<float>(place.x()) + 0.5F) / static_cast<float>(std::max(1, width()));
     const float y = 1 - (static_cast<float>(place.y()) + 0.5F) / static_cast<float>(std::max(1, height()));
-    return m_pickAction.pick(m_root.get(), m_camera->getRay(x, y, aspect()));
+    return m_pickAction.pick(m_root.get(), m_camera.get().getRay(x, y, m_camera.getAspect()));
 }
 
 void SceneView::mousePressEvent(QMouseEvent* event)
@@ -296,23 +212,22 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
         pan(right, up);
 }
 
-// Both carry what is seen along, by parts of the picture's height.
 void SceneView::turn(float right, float up)
 {
-    m_camera->orbit(-right * Pi, up * Pi);
-    cameraMoved();
+    m_camera.turn(right, up);
+    redraw();
 }
 
 void SceneView::pan(float right, float up)
 {
-    m_camera->pan(-right, -up);
-    cameraMoved();
+    m_camera.pan(right, up);
+    redraw();
 }
 
 void SceneView::zoom(float factor)
 {
-    m_camera->zoom(factor);
-    cameraMoved();
+    m_camera.zoom(factor);
+    redraw();
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
@@ -337,8 +252,8 @@ void SceneView::wheelEvent(QWheelEvent* event)
     const float notches = static_cast<float>(event->angleDelta().y()) / 120.0F;
     const float x = static_cast<float>(place.x()) / static_cast<float>(std::max(1, width()));
     const float y = 1 - static_cast<float>(place.y()) / static_cast<float>(std::max(1, height()));
-    m_camera->zoom(std::pow(WheelStep, notches), x, y, aspect());
-    cameraMoved();
+    m_camera.zoom(std::pow(WheelStep, notches), x, y);
+    redraw();
     event->accept();
 }
 
@@ -374,8 +289,8 @@ void SceneView::keyPressEvent(QKeyEvent* event)
 void SceneView::resizeEvent(QResizeEvent* /*event*/)
 {
     m_surface->getWidget()->setGeometry(rect());
-    if (m_framed)
-        viewAll(); // until the person looks around, everything stays in sight
+    m_camera.setAspect(static_cast<float>(std::max(1, width())) / static_cast<float>(std::max(1, height())));
+    redraw();
 }
 
 void SceneView::changeEvent(QEvent* event)

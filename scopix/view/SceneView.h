@@ -5,8 +5,9 @@
 // move, plus and minus come nearer and go away. GUI thread only.
 #pragma once
 
+#include "view/ViewCamera.h"
+
 #include <xsg/actions/SoRayPickAction.h>
-#include <xsg/nodes/SoPerspectiveCamera.h>
 #include <xsg/sensors/SoNodeSensor.h>
 
 #include <QBasicTimer>
@@ -29,7 +30,7 @@ public:
     explicit SceneView(QWidget* parent = nullptr, Drawing drawing = Drawing::Best);
     ~SceneView() override;
 
-    // Shows all of it. Null gives the empty ground.
+    // Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
     // Marks the node in the picture; null marks none. The node may go at any time.
     void setHighlight(const SoNode* node);
@@ -40,14 +41,14 @@ public:
     // In a corner of the picture, what it took to draw it.
     void setShowsStatistics(bool on);
 
-    // Where a new scene is looked at from.
+    // How a new scene is seen: through its own camera, or else everything. See ViewCamera.
     void goHome();
     void viewAll();
     // Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
 
-    // The view's own; not part of the scene.
-    SoPerspectiveCamera& getCamera() { return *m_camera; }
+    // The view's own, never part of the scene. Going home and a change of the scene may put another in its place.
+    SoCamera& getCamera() { return m_camera.get(); }
     // What is at this place of the widget.
     std::optional<SoPickedPoint> pick(const QPoint& place);
     // Pictures drawn so far.
@@ -90,12 +91,9 @@ private:
     void pan(float right, float up);
     void zoom(float factor);
     void animateWhereNeeded();
-    void frame(const SbBox3f& box);
-    void cameraMoved();
-    float aspect() const;
 
     SoRef<SoNode> m_root;
-    SoRef<SoPerspectiveCamera> m_camera;
+    ViewCamera m_camera;
     std::uint64_t m_highlight = 0; // a node's number: the node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
@@ -107,8 +105,7 @@ private:
     QBasicTimer m_ticks; // runs while something turns
     QElapsedTimer m_sinceTick;
     Drag m_drag = Drag::None;
-    bool m_moved = false;    // since the press, by more than a click's trembling
-    bool m_framed = false;   // the person has not moved since all was shown
+    bool m_moved = false; // since the press, by more than a click's trembling
     QPoint m_pressed;
     QPoint m_last;
 };
