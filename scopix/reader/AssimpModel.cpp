@@ -122,7 +122,8 @@ ModelData::Light toLight(const aiLight& light, ModelData::LightKind kind)
     return result;
 }
 
-// The importer of these multiplies the angle of the height by the aspect, which is no angle of the width.
+// The importer of these multiplies the angle of the height by the aspect, which is no angle of the width, and gives
+// the camera its node's place for a second time.
 bool isGltf(const aiScene& scene)
 {
     aiString format;
@@ -133,8 +134,9 @@ bool isGltf(const aiScene& scene)
 ModelData::Camera toCamera(const aiCamera& camera, bool isGltf)
 {
     ModelData::Camera result;
-    result.position = toVec(camera.mPosition);
-    result.orientation = SbRotation::between({0, 0, -1}, toVec(camera.mLookAt));
+    if (!isGltf)
+        result.position = toVec(camera.mPosition);
+    result.orientation = SbRotation::looking(toVec(camera.mLookAt), toVec(camera.mUp));
     const float aspect = camera.mAspect > 0 ? camera.mAspect : 1;
     result.height = std::max(2 * camera.mOrthographicWidth / aspect, 0.0F);
     if (camera.mHorizontalFOV > 0 && isGltf)

@@ -2,7 +2,9 @@
 #include "ModelFiles.h"
 
 #include "import/SceneBuilder.h"
+#include "reader/AssimpModel.h"
 #include "reader/ModelReader.h"
+#include "view/SceneCamera.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/SoAmbientLight.h>
@@ -10,6 +12,8 @@
 #include <xsg/nodes/SoPerspectiveCamera.h>
 #include <xsg/nodes/SoPointLight.h>
 #include <xsg/nodes/SoSpotLight.h>
+
+#include <assimp/scene.h>
 
 #include <cmath>
 
@@ -132,6 +136,35 @@ TEST_F(Lights, ACameraWithPerspectiveKeepsItsAngle)
     auto* camera = find<SoPerspectiveCamera>(scene.get());
     ASSERT_TRUE(camera);
     EXPECT_NEAR(camera->heightAngle.getValue(), 0.8F, 1e-4F);
+}
+
+TEST_F(Lights, ACameraStandsWhereItsNodeDoes)
+{
+    const auto scene = open(R"({"cameras":[{"type":"perspective","perspective":{"yfov":0.8,"znear":0.5}}]})",
+                            R"({"camera":0})");
+    const scopix::SceneCamera seen = scopix::findSceneCamera(scene.get());
+    ASSERT_TRUE(seen.camera);
+    EXPECT_EQ(seen.toWorld.multPoint(seen.camera->position.getValue()), SbVec3f(2, 4, 6));
+}
+
+TEST(SceneCameras, StandUpright)
+{
+    aiScene scene;
+    scene.mRootNode = new aiNode("Eye");
+    scene.mNumCameras = 1;
+    scene.mCameras = new aiCamera*[1];
+    auto* eye = scene.mCameras[0] = new aiCamera;
+    eye->mName = "Eye";
+    eye->mPosition = {1, 2, 3};
+    eye->mLookAt = {0, 5, 0};
+    eye->mUp = {2, 0, 0};
+    ModelData model = scopix::fromAssimp(scene, {});
+    const auto built = scopix::buildScene(model, "eye");
+    auto* camera = find<SoPerspectiveCamera>(built.get());
+    ASSERT_TRUE(camera);
+    EXPECT_EQ(camera->position.getValue(), SbVec3f(1, 2, 3));
+    EXPECT_LT((camera->getDirection() - SbVec3f(0, 1, 0)).length(), 1e-6F);
+    EXPECT_LT((camera->orientation.getValue().multVec({0, 1, 0}) - SbVec3f(1, 0, 0)).length(), 1e-6F);
 }
 
 TEST(SceneLights, EveryKindHasItsNode)
