@@ -2,6 +2,7 @@
 
 #include "PlotToolTip.h"
 
+#include <qwt_painter.h>
 #include <qwt_point_data.h>
 #include <qwt_scale_map.h>
 
@@ -17,6 +18,8 @@ namespace
 
 // How far from a curve the pointer still means it, in pixels.
 constexpr double NearestDistance = 12.0;
+// Points whose outlines are drawn within a tenth of the shortest time between two samples.
+constexpr std::size_t MostOutlined = 1000;
 
 // Looking for the limits point by point, as the toolkit does, takes longer than drawing the curve.
 class RawHistory : public QwtCPointerData
@@ -119,6 +122,36 @@ void SoPerfCounterCurve::order(const std::vector<int>& indices)
 void SoPerfCounterCurve::setRawSamples(int index, const double* x, const double* y, int count)
 {
     m_curves[index]->setData(new RawHistory(x, y, std::size_t(count)));
+}
+
+bool SoPerfCounterCurve::isFast(const QPen& pen) const
+{
+    return pen.isCosmetic() || devicePixelRatioF() <= 1;
+}
+
+void SoPerfCounterCurve::replot()
+{
+    // Lines that are several pixels of a dense screen wide are for as many points as can be drawn in time.
+    std::size_t points = 0;
+    for (const Curve* curve : qAsConst(m_curves))
+        points += curve->dataSize();
+    const bool isFine = devicePixelRatioF() > 1 && points > MostOutlined;
+    for (Curve* curve : qAsConst(m_curves)) {
+        QPen pen = curve->pen();
+        pen.setCosmetic(isFine);
+        curve->setPen(pen);
+    }
+    QwtPlot::replot();
+}
+
+void SoPerfCounterCurve::drawCanvas(QPainter* painter)
+{
+    // The toolkit cuts lines into short pieces, which is good for outlines and costs time otherwise.
+    const bool isCut = QwtPainter::polylineSplitting();
+    if (!m_curves.isEmpty())
+        QwtPainter::setPolylineSplitting(!isFast(m_curves.first()->pen()));
+    QwtPlot::drawCanvas(painter);
+    QwtPainter::setPolylineSplitting(isCut);
 }
 
 QString SoPerfCounterCurve::textAt(const QPoint& position) const

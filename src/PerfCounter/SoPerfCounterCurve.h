@@ -36,6 +36,15 @@ public:
     // Name and value of the curve under a point of the canvas; empty where no curve is near.
     QString textAt(const QPoint& canvasPosition) const;
 
+public slots:
+    void replot() override;
+
+protected:
+    void drawCanvas(QPainter* painter) override;
+
 private:
+    // Whether Qt draws lines of this pen without first making outlines of them, which takes twenty times as long.
+    bool isFast(const QPen& pen) const;
+
     QList<Curve*> m_curves;
 };

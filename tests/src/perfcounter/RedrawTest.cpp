@@ -5,6 +5,7 @@
 
 #include <QHelpEvent>
 #include <QMainWindow>
+#include <QProcess>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
@@ -202,6 +203,38 @@ TEST_F(CounterRedraw, TheCurveIsDrawnInItsColourUpToItsNewestSample)
     };
     EXPECT_GT(redIn(image.width() * 3 / 4, image.width() - 3), image.width() / 8);
     EXPECT_GT(redIn(3, image.width() / 4), image.width() / 8);
+}
+
+TEST_F(CounterRedraw, ManyPointsAreDrawnInFineLinesOnADenseScreen)
+{
+    if (viewer.devicePixelRatioF() < 2) { // the screen is what it is from the start, so this runs once more
+        viewer.m_freqBox->setCurrentText("8");
+        viewer.m_timeBox->setCurrentText("120");
+        for (int i = 0; i < 2000; ++i)
+            viewer.viewTimer();
+        EXPECT_FALSE(viewer.getCurvePlot()->getCurveList()[0]->pen().isCosmetic()) << "here they all are fine";
+        QProcess dense;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_SCALE_FACTOR", "2");
+        dense.setProcessEnvironment(environment);
+        dense.start(QCoreApplication::applicationFilePath(),
+                    {"--gtest_filter=CounterRedraw.ManyPointsAreDrawnInFineLinesOnADenseScreen"});
+        ASSERT_TRUE(dense.waitForFinished(200'000));
+        EXPECT_EQ(dense.exitCode(), 0) << dense.readAllStandardOutput().toStdString();
+        return;
+    }
+    const auto isFine = [this] { return viewer.getCurvePlot()->getCurveList()[0]->pen().isCosmetic(); };
+    EXPECT_FALSE(isFine());
+    viewer.m_freqBox->setCurrentText("8");
+    viewer.m_timeBox->setCurrentText("120");
+    show({"testB"});
+    while (viewer.getFilled() < 501)
+        viewer.viewTimer();
+    EXPECT_TRUE(isFine());
+    const QColor color = viewer.findViewed("testA")->getColor();
+    EXPECT_EQ(viewer.getCurvePlot()->getCurveList()[0]->pen().color(), color);
+    viewer.resetHistory();
+    EXPECT_FALSE(isFine());
 }
 
 TEST_F(CounterRedraw, TheVerticalAxisFitsTheSamples)
