@@ -3,7 +3,6 @@
 
 #include <xsg/nodes/SoCamera.h>
 
-class SoCamera;
 class SoNode;
 
 namespace scopix
