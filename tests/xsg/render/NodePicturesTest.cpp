@@ -263,6 +263,20 @@ TEST_F(NodePicture, ClipPlaneMovesWithItsTransform)
     EXPECT_PIXEL(at(pixels, 46, 32), Background);
 }
 
+// What is cut off of a body stays cut off however the two are stretched together.
+TEST_F(NodePicture, ClipPlaneIsStretchedWithItsTransform)
+{
+    add<SoTransform>()->scaleFactor.setValue(4, 1, 1);
+    add<SoClipPlane>()->plane.setValue(SbPlane({-1, 1, 0}, 0));
+    addGlow({1, 0, 0});
+    add<SoCube>()->depth.setValue(0);
+    const SoPixels pixels = draw();
+    EXPECT_PIXEL(at(pixels, 40, 26), Red); // 0.53 to the right, 0.39 above the middle
+    EXPECT_PIXEL(at(pixels, 40, 36), Background);
+    EXPECT_PIXEL(at(pixels, 24, 30), Red);
+    EXPECT_PIXEL(at(pixels, 24, 38), Background);
+}
+
 TEST_F(NodePicture, SwitchShowsWhatIsChosen)
 {
     addGlow({1, 0, 0});
@@ -367,6 +381,22 @@ TEST_F(NodePicture, TextureTransformMovesThePicture)
     transform->scaleFactor.setValue(0, 0);
     transform->rotation.setValue(0);
     EXPECT_PIXEL(at(draw(), 24, 32), at(draw(), 40, 32));
+}
+
+TEST_F(NodePicture, TextureTransformsWorkFromTheLastToTheFirst)
+{
+    const unsigned char bytes[] = {255, 0, 0, 0, 255, 0};
+    add<SoTexture2>()->image.setValue(2, 1, 3, bytes);
+    add<SoComplexity>()->textureQuality.setValue(0.2F);
+    add<SoTextureTransform>()->translation.setValue(0.5F, 0);
+    add<SoTextureTransform>()->scaleFactor.setValue(2, 1);
+    addDull({1, 1, 1});
+    addSquareCorners();
+    add<SoTextureCoordinates>()->points.setValues({{0, 0}, {1, 0}, {0, 1}, {1, 1}});
+    add<SoTriangleStripSet>();
+    const SoPixels pixels = draw(); // twice the picture, which begins in its middle
+    for (const auto& [x, isRed] : {std::make_pair(20, false), {28, true}, {36, false}, {44, true}})
+        EXPECT_PIXEL(at(pixels, x, 32), (isRed ? Red : Pixel{0, 255, 0}));
 }
 
 TEST_F(NodePicture, SpinTurnsAsTimePasses)
