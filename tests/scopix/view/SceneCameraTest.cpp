@@ -160,6 +160,19 @@ TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
     EXPECT_TRUE(seesThrough(*first));
 }
 
+// How far away what is chosen by distance is, only the camera could tell that is looked for in it.
+TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
+{
+    auto* choice = new SoLevelOfDetail;
+    choice->distances.setValue(100);
+    choice->addChild(new SoCube);
+    choice->addChild(camera.get());
+    scene->removeChild(0);
+    scene->addChild(choice);
+    view.setScene(scene.get());
+    EXPECT_TRUE(seesThrough(*camera));
+}
+
 TEST_F(SceneWithCamera, HomeGoesBackToIt)
 {
     view.setScene(scene.get());

@@ -94,6 +94,11 @@ TEST_F(View, DrawsOnlyWhenSomethingChanged)
     left->height.setValue(1);
     picture();
     EXPECT_EQ(view.getDrawCount(), drawn + 1);
+    for (int times = 0; times < 3; ++times) {
+        view.setHighlight(left.get());
+        picture();
+        EXPECT_EQ(view.getDrawCount(), drawn + 2);
+    }
 }
 
 TEST_F(View, FollowsTheScene)

@@ -148,6 +148,22 @@ TEST_F(SceneFile, KeepsEveryBitOfEveryNodesFields)
     }
 }
 
+TEST_F(SceneFile, KeepsTheMarkOfAnIgnoredFieldWhateverItsValue)
+{
+    const SoRef<SoCube> cube(new SoCube);
+    cube->width.setIgnored(true);
+    cube->height.setValue(3);
+    cube->height.setIgnored(true);
+    const auto copy = read(SoSceneFile::writeText(cube.get()));
+    ASSERT_TRUE(copy) << error;
+    const auto& copied = dynamic_cast<const SoCube&>(*copy);
+    EXPECT_TRUE(copied.width.isIgnored());
+    EXPECT_TRUE(copied.width.isDefault());
+    EXPECT_TRUE(copied.height.isIgnored());
+    EXPECT_EQ(copied.height.getValue(), 3.0F);
+    EXPECT_FALSE(copied.depth.isIgnored());
+}
+
 TEST_F(SceneFile, KeepsConnectionsAlsoToWhatComesLater)
 {
     const SoRef<SoSeparator> root(new SoSeparator);

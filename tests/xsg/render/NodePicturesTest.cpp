@@ -345,6 +345,21 @@ TEST_F(NodePicture, InstancesShowTheirChildrenOncePerMatrix)
     EXPECT_EQ(renderer().getRenderer().getStatistics().triangles, 48);
 }
 
+TEST_F(NodePicture, InstancesStandInWhatMovesThem)
+{
+    add<SoTransform>()->rotation.setValue(SbRotation({0, 0, 1}, 1.5707963F));
+    addGlow({1, 0, 0});
+    auto* instances = add<SoInstances>();
+    instances->matrices.setValue(SbMatrix::translation({1.5F, 0, 0}));
+    auto* small = new SoTransform;
+    small->scaleFactor.setValue(0.2F, 0.2F, 0.2F);
+    instances->addChild(small);
+    instances->addChild(new SoCube);
+    const SoPixels pixels = draw();
+    EXPECT_PIXEL(at(pixels, 32, 32 - 23), Red);
+    EXPECT_PIXEL(at(pixels, 32 + 23, 32), Background);
+}
+
 TEST_F(NodePicture, InstancesWithinInstancesMultiply)
 {
     auto* outer = new SoInstances;
