@@ -6,7 +6,7 @@
 //   - one live step of a slider: write, command, undo stack, sensor and refresh, against a bare slider, line
 //     edit and undo stack.
 //
-//     sf_editors [rounds]
+//     sf_editors [rounds [type]]
 #include "EdSFBitMaskWidget.h"
 #include "EdSFBoolWidget.h"
 #include "EdSFBox3sWidget.h"
@@ -133,14 +133,13 @@ struct BareInputs {
     QLineEdit* line = nullptr;
 };
 
-// The same inputs as an editor, with nothing behind them.
+// The same inputs as an editor, in the same rows, with nothing behind them.
 class BareCopy
 {
 public:
     explicit BareCopy(const QWidget& editor)
         : m_frame(new QFrame)
     {
-        new QHBoxLayout(m_frame);
         copy<QLabel>(editor);
         copy<QCheckBox>(editor);
         copy<QSlider>(editor);
@@ -148,6 +147,7 @@ public:
         copy<QSpinBox>(editor);
         copy<QComboBox>(editor);
         copy<QPushButton>(editor);
+        arrange();
     }
     QFrame* frame() const { return m_frame; }
     void show(int number) const
@@ -165,9 +165,26 @@ private:
             if (isInner || !original->isVisible())
                 continue;
             auto* widget = new Widget(m_frame);
-            m_frame->layout()->addWidget(widget);
+            m_places.push_back({QRect(original->mapTo(&editor, QPoint()), original->size()), widget});
             start(*widget, *original);
             m_inputs.push_back([widget](int number) { set(*widget, number); });
+        }
+    }
+    // A row holds what begins above the middle of its first input.
+    void arrange()
+    {
+        auto* rows = new QVBoxLayout(m_frame);
+        std::sort(m_places.begin(), m_places.end(),
+                  [](const Place& a, const Place& b) { return a.rect.top() < b.rect.top(); });
+        for (auto first = m_places.begin(); first != m_places.end();) {
+            const int middle = first->rect.center().y();
+            const auto next = std::find_if(first, m_places.end(),
+                                           [&](const Place& place) { return place.rect.top() >= middle; });
+            std::sort(first, next, [](const Place& a, const Place& b) { return a.rect.left() < b.rect.left(); });
+            auto* row = new QHBoxLayout;
+            rows->addLayout(row);
+            for (; first != next; ++first)
+                row->addWidget(first->widget);
         }
     }
     static void start(QLabel& label, const QLabel& original) { label.setText(original.text()); }
@@ -176,6 +193,8 @@ private:
     static void start(QAbstractButton& button, const QAbstractButton& original)
     {
         button.setText(original.text());
+        button.setIcon(original.icon());
+        button.setIconSize(original.iconSize());
     }
     static void start(QLineEdit&, const QLineEdit&) {}
     static void start(QSpinBox&, const QSpinBox&) {}
@@ -187,7 +206,13 @@ private:
     static void set(QSpinBox& box, int number) { box.setValue(number); }
     static void set(QComboBox& box, int number) { box.setCurrentIndex(number); }
 
+    struct Place {
+        QRect rect; // in the editor
+        QWidget* widget;
+    };
+
     QFrame* m_frame; // the dock's
+    std::vector<Place> m_places;
     std::vector<std::function<void(int)>> m_inputs;
 };
 
@@ -248,7 +273,7 @@ private:
 };
 
 // All editors stand ready, and the dock finds the one for the field.
-void compareSelections(int rounds)
+void compareSelections(int rounds, const std::string& only)
 {
     UndoStackHost host;
     const Editors editors = allEditors();
@@ -264,7 +289,7 @@ void compareSelections(int rounds)
     host.window().show();
     const Node nodes[2];
     for (const EditorRow& row : editorRows()) {
-        if (row.isInGrid())
+        if (row.isInGrid() || (!only.empty() && only != row.type))
             continue;
         SoField* fields[] = {nodes[0].field(row.type), nodes[1].field(row.type)};
         fields[0]->set(row.values[0].c_str());
@@ -343,6 +368,6 @@ int main(int argc, char** argv)
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 200;
     const double ours = liveStep(rounds);
     print("one live step of a slider", ours, bareStep(rounds));
-    compareSelections(rounds);
+    compareSelections(rounds, argc > 2 ? argv[2] : "");
     return 0;
 }
