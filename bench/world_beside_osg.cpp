@@ -88,7 +88,9 @@ void ourBoxAfresh(benchmark::State& state)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));
     for (auto _ : state) {
+        state.PauseTiming();
         forgetBoxes(*world);
+        state.ResumeTiming();
         benchmark::DoNotOptimize(SoBoundingBoxAction().getBox(world.get()));
     }
     perSeparator(state);

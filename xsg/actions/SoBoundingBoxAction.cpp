@@ -36,8 +36,11 @@ SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
     state().chooseAll = true;
     m_open.clear();
     m_open.emplace_back();
+    m_hits = m_misses = 0;
     if (root)
         traverse(root);
+    xsg::feeds.boxHits.add(m_hits);
+    xsg::feeds.boxMisses.add(m_misses);
     return m_open.front().box;
 }
 
@@ -46,7 +49,7 @@ bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
     const SoSeparator* separator = group->asSeparator();
     if (!separator || !isValid(*separator, state()))
         return true;
-    xsg::feeds.boxHits.add();
+    ++m_hits;
     keepChild(separator->boxCache().box);
     return false;
 }
@@ -56,7 +59,7 @@ void SoBoundingBoxAction::enterGroup(SoGroup* group)
     const SoSeparator* separator = group->asSeparator();
     if (!separator)
         return;
-    xsg::feeds.boxMisses.add();
+    ++m_misses;
     Open& open = m_open.emplace_back();
     if (separator->getNumChildren() >= SoGroup::ManyChildren)
         openChildren(*separator, open);
@@ -90,21 +93,20 @@ void SoBoundingBoxAction::openChildren(const SoSeparator& separator, Open& open)
     }
     open.isAfresh = true;
     cache.isValid = false; // the walk may end before it is back here
-    open.children->boxes.assign(static_cast<std::size_t>(separator.getNumChildren()), {});
+    open.children->boxes.clear();
+    open.children->boxes.reserve(static_cast<std::size_t>(separator.getNumChildren()));
     open.children->others.clear();
-    for (std::uint32_t place = 0; place < open.children->boxes.size(); ++place) {
-        if (!isSeparator(place))
-            open.children->others.push_back(place);
-    }
 }
 
-void SoBoundingBoxAction::closeChildren(Open& open) const
+void SoBoundingBoxAction::closeChildren(const SoSeparator& separator, Open& open)
 {
     if (!open.children)
         return;
-    if (open.isAfresh)
+    if (open.isAfresh) {
+        passOthers(*open.children, static_cast<std::size_t>(separator.getNumChildren()));
         open.children->chunks.build(open.children->boxes.size(),
                                     [&](std::size_t place) { return open.children->boxes[place]; });
+    }
     open.box.extendBy(open.children->chunks.getWhole());
 }
 
@@ -113,7 +115,7 @@ void SoBoundingBoxAction::leaveGroup(SoGroup* group)
     const SoSeparator* separator = group->asSeparator();
     if (!separator)
         return;
-    closeChildren(m_open.back());
+    closeChildren(*separator, m_open.back());
     const SbBox3f box = m_open.back().box;
     m_open.pop_back();
     auto& cache = separator->boxCache();
@@ -153,8 +155,21 @@ void SoBoundingBoxAction::keepChild(const SbBox3f& box)
         return;
     }
     const auto place = static_cast<std::size_t>(getFrames().back().child);
+    if (around.isAfresh) {
+        passOthers(*around.children, place);
+        around.children->boxes.push_back(placed(box));
+        return;
+    }
     around.children->boxes[place] = placed(box);
-    if (!around.isAfresh)
-        around.children->chunks.refresh(xsg::ChunkBoxes::chunkOf(place),
-                                        [&](std::size_t i) { return around.children->boxes[i]; });
+    around.children->chunks.refresh(xsg::ChunkBoxes::chunkOf(place),
+                                    [&](std::size_t i) { return around.children->boxes[i]; });
+}
+
+// The children up to this place that gave no box of their own, on a walk over all of them.
+void SoBoundingBoxAction::passOthers(SoSeparator::ChildBoxes& children, std::size_t end)
+{
+    while (children.boxes.size() < end) {
+        children.others.push_back(static_cast<std::uint32_t>(children.boxes.size()));
+        children.boxes.emplace_back();
+    }
 }

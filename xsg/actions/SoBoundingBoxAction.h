@@ -32,8 +32,11 @@ private:
         bool isAfresh = false; // all children are visited
     };
     void openChildren(const SoSeparator& separator, Open& open);
-    void closeChildren(Open& open) const;
+    static void closeChildren(const SoSeparator& separator, Open& open);
+    static void passOthers(SoSeparator::ChildBoxes& children, std::size_t end);
     SbBox3f placed(const SbBox3f& box);
     void keepChild(const SbBox3f& box);
     std::vector<Open> m_open;
+    std::int64_t m_hits = 0;
+    std::int64_t m_misses = 0;
 };

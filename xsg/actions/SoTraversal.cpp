@@ -2,6 +2,36 @@
 
 #include <xsg/nodes/SoShape.h>
 
+namespace
+{
+
+void askFor(const void* place, int bytes)
+{
+    constexpr int Line = 64; // what a processor fetches at once
+    for (int at = 0; at < bytes; at += Line)
+        __builtin_prefetch(static_cast<const char*>(place) + at);
+}
+
+// A large scene is walked faster than memory answers, so what the walk will meet soon is asked for now: first the
+// child itself, then where its own children stand, then those.
+void lookAhead(const std::vector<SoNode*>& children, std::size_t child)
+{
+    constexpr std::size_t Steps = 3;
+    constexpr std::size_t MostGrandchildren = 4;
+    if (child + 3 * Steps >= children.size())
+        return;
+    askFor(children[child + 3 * Steps], sizeof(SoGroup));
+    if (const SoGroup* group = children[child + 2 * Steps]->asGroup())
+        askFor(group->getChildren().data(), 1);
+    if (const SoGroup* group = children[child + Steps]->asGroup()) {
+        const auto& grandchildren = group->getChildren();
+        for (std::size_t i = 0; i < std::min(grandchildren.size(), MostGrandchildren); ++i)
+            askFor(grandchildren[i], 3 * sizeof(SoNode));
+    }
+}
+
+} // namespace
+
 SoTraversal::SoTraversal() = default;
 SoTraversal::~SoTraversal() = default;
 
@@ -18,7 +48,7 @@ void SoTraversal::visitProperty(SoNode* /*node*/) {}
 void SoTraversal::traverse(SoNode* root)
 {
     m_frames.clear();
-    m_saved.clear();
+    m_savedCount = 0;
     m_plans.clear();
     m_hasNewPlan = false;
     m_stopped = false;
@@ -35,8 +65,13 @@ void SoTraversal::traverse(SoNode* root)
 
 bool SoTraversal::goToNextChild(Frame& frame)
 {
-    if (frame.planned == NoPlan)
-        return ++frame.child < frame.end;
+    if (frame.planned == NoPlan) {
+        if (++frame.child >= frame.end)
+            return false;
+        if (frame.end >= SoGroup::ManyChildren)
+            lookAhead(frame.group->getChildren(), static_cast<std::size_t>(frame.child));
+        return true;
+    }
     const std::vector<std::uint32_t>& plan = m_plans.back();
     if (frame.planned == plan.size())
         return false;
@@ -69,7 +104,7 @@ void SoTraversal::openGroup(SoGroup* group)
         return;
     const bool isolates = group->isIsolating();
     if (isolates)
-        m_saved.push_back(m_state);
+        saveState();
     group->apply(m_state);
     const SoChildRange range = group->getChosenChildren(m_state);
     enterGroup(group);
@@ -88,8 +123,17 @@ void SoTraversal::closeGroup()
     leaveGroup(frame.group);
 }
 
+// The places stay, since the next group on this level needs one again.
+void SoTraversal::saveState()
+{
+    if (m_savedCount == m_saved.size())
+        m_saved.push_back(m_state);
+    else
+        m_saved[m_savedCount] = m_state;
+    ++m_savedCount;
+}
+
 void SoTraversal::restoreState()
 {
-    m_state = std::move(m_saved.back());
-    m_saved.pop_back();
+    m_state = std::move(m_saved[--m_savedCount]);
 }

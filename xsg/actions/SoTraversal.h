@@ -56,10 +56,12 @@ private:
     bool goToNextChild(Frame& frame);
     void openGroup(SoGroup* group);
     void closeGroup();
+    void saveState();
     void restoreState();
 
     SoState m_state;
-    std::vector<SoState> m_saved;
+    std::vector<SoState> m_saved; // the first m_savedCount count
+    std::size_t m_savedCount = 0;
     std::vector<Frame> m_frames;
     std::vector<std::vector<std::uint32_t>> m_plans; // of the open groups that have one
     bool m_hasNewPlan = false;

@@ -116,6 +116,35 @@ SbBox3f SbMatrix::transform(const SbBox3f& box) const
 {
     if (box.isEmpty())
         return box;
+    return isAffine() ? transformAffine(box) : transformCorners(box);
+}
+
+bool SbMatrix::isAffine() const
+{
+    const float* m = m_values;
+    return m[3] == 0 && m[7] == 0 && m[11] == 0 && m[15] == 1;
+}
+
+// Each side of the result takes, of each side of the box, what leads farther that way.
+SbBox3f SbMatrix::transformAffine(const SbBox3f& box) const
+{
+    const auto m = view(*this).array();
+    using Row = Eigen::Array<float, 1, 4>;
+    Row low = Row::Zero();
+    Row high = Row::Zero();
+    for (int r = 0; r < 3; ++r) {
+        const Row a = m.row(r) * box.getMin()[r];
+        const Row b = m.row(r) * box.getMax()[r];
+        low += a.min(b);
+        high += a.max(b);
+    }
+    low += m.row(3);
+    high += m.row(3);
+    return {SbVec3f(low.data()), SbVec3f(high.data())};
+}
+
+SbBox3f SbMatrix::transformCorners(const SbBox3f& box) const
+{
     SbBox3f result;
     for (unsigned corner = 0; corner < 8; ++corner) {
         SbVec3f p;

@@ -37,5 +37,9 @@ public:
     friend bool operator!=(const SbMatrix& a, const SbMatrix& b) { return !(a == b); }
 
 private:
+    bool isAffine() const;
+    SbBox3f transformAffine(const SbBox3f& box) const;
+    SbBox3f transformCorners(const SbBox3f& box) const;
+
     float m_values[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 };

@@ -40,6 +40,10 @@ public:
     // The field of this name, or null.
     SoField* getField(SbName name) const;
 
+    // Grows whenever a field of this very container changes, before anybody is told; a cache made from the fields
+    // compares it.
+    std::uint32_t getFieldChangeCount() const { return m_fieldChangeCount; }
+
     // Called by fields and children; tells everyone who listens.
     virtual void notify(const SoNotification& change);
 
@@ -64,6 +68,7 @@ private:
     SoFieldData m_fields;
     std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;
     SbName m_name;
+    std::uint32_t m_fieldChangeCount = 0;
     mutable int m_refCount = 0;
     mutable bool m_dying = false;
     mutable bool m_listed = false; // among the names

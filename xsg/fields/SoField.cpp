@@ -203,6 +203,8 @@ void SoField::notify(int start, int count, Followers followers)
 void SoField::tellOwn(int start, int count)
 {
     ++m_changeCount;
+    if (m_container)
+        ++m_container->m_fieldChangeCount;
     xsg::feeds.fieldChanges.add();
     SoNotification change;
     change.field = this;

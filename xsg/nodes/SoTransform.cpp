@@ -7,6 +7,13 @@ template class SoTyped<SoTransform, SoTransformation>;
 
 SbMatrix SoTransform::getMatrix() const
 {
+    if (!m_made.isValid || m_made.fieldChanges != getFieldChangeCount())
+        m_made = {makeMatrix(), getFieldChangeCount(), true};
+    return m_made.matrix;
+}
+
+SbMatrix SoTransform::makeMatrix() const
+{
     const SbVec3f fixed = xsg::used(center, {});
     const SbRotation along = xsg::used(scaleOrientation, {});
     SbMatrix m = SbMatrix::scale(xsg::used(scaleFactor, {1, 1, 1}));

@@ -17,6 +17,16 @@ public:
     SoSFVec3f center{this, "center"};                        // stays in place while turning and scaling
 
     SbMatrix getMatrix() const override;
+
+private:
+    SbMatrix makeMatrix() const;
+
+    struct Made {
+        SbMatrix matrix;
+        std::uint32_t fieldChanges = 0; // for which it holds
+        bool isValid = false;
+    };
+    mutable Made m_made;
 };
 
 extern template class SoTyped<SoTransform, SoTransformation>;

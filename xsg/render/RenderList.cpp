@@ -19,17 +19,6 @@ auto ordered(const xsg::Surroundings& s)
                            s.textureMatrix.get(), s.fog, s.drawStyle, a[0], a[1], a[2]);
 }
 
-// How often the group's own fields changed; what happens to its children is not in it.
-std::uint32_t ownChanges(const SoGroup& group)
-{
-    std::uint32_t sum = 0;
-    const SoFieldData* data = group.getFieldData();
-    const int count = data->getNumFields();
-    for (int i = 0; i < count; ++i)
-        sum += data->getField(&group, i)->getChangeCount();
-    return sum;
-}
-
 void put(float* four, const SbVec3f& color, float fourth)
 {
     std::copy_n(color.getValue(), 3, four);
@@ -185,7 +174,7 @@ bool xsg::RenderList::wantsGroup(SoGroup* group)
         return wantsToPatch(group);
     m_isViewDependent = m_isViewDependent || group->isViewDependent();
     m_openRecords.push_back(static_cast<std::uint32_t>(m_records.size()));
-    record(group, ownChanges(*group), group->isIsolating());
+    record(group, group->getFieldChangeCount(), group->isIsolating());
     return true;
 }
 
@@ -200,7 +189,7 @@ bool xsg::RenderList::wantsToPatch(const SoGroup* group)
         return false;
     }
     // A group's own fields choose or repeat its children.
-    if (!isSame && known.changeCount != ownChanges(*group)) {
+    if (!isSame && known.changeCount != group->getFieldChangeCount()) {
         giveUp();
         return false;
     }
