@@ -60,6 +60,10 @@ void xsg::DrawState::setEdgesOnly(bool on)
 void xsg::DrawState::setSurroundings(const Surroundings& now)
 {
     static const std::vector<SbPlane> noPlanes;
+    if (m_shader.setClipped(now.clipPlanes != nullptr)) {
+        ++m_changes;
+        m_isKnown = false;
+    }
     if (!m_isKnown || now.lights != m_now.lights || now.ambientLight != m_now.ambientLight) {
         m_shader.setLights(now.lights ? *now.lights : *m_headlights, now.ambientLight);
         ++m_changes;

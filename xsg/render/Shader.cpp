@@ -17,10 +17,11 @@ std::string logOf(GLuint object, bool isProgram)
     return text;
 }
 
-bool compile(GLuint program, GLenum kind, const char* text, std::string& error)
+bool compile(GLuint program, GLenum kind, bool isClipped, const char* text, std::string& error)
 {
     const GLuint shader = glCreateShader(kind);
-    glShaderSource(shader, 1, &text, nullptr);
+    const char* const parts[] = {xsg::VersionText, isClipped ? xsg::ClippedText : "", text};
+    glShaderSource(shader, 3, parts, nullptr);
     glCompileShader(shader);
     GLint good = 0;
     glGetShaderiv(shader, GL_COMPILE_STATUS, &good);
@@ -36,48 +37,77 @@ bool compile(GLuint program, GLenum kind, const char* text, std::string& error)
 
 bool xsg::Shader::prepare(std::string& error)
 {
-    if (m_program)
-        return true;
-    const GLuint program = m_program.get();
-    GLint linked = 0;
-    if (compile(program, GL_VERTEX_SHADER, VertexShaderText, error) &&
-        compile(program, GL_FRAGMENT_SHADER, FragmentShaderText, error)) {
-        glLinkProgram(program);
-        glGetProgramiv(program, GL_LINK_STATUS, &linked);
-        if (!linked)
-            error = "OpenGL could not link a drawing program: " + logOf(program, true);
-    }
-    if (!linked) {
-        m_program.release();
+    if (!m_plain.program && (!build(m_plain, false, error) || !build(m_clipped, true, error))) {
+        release();
         return false;
     }
-    m_at = {location("viewProjection"), location("eye"),
-            location("viewport"),       location("lightCount"),
-            location("lightColor"),     location("lightLocation"),
-            location("lightDirection"), location("lightAttenuation"),
-            location("ambientLight"),   location("clipCount"),
-            location("clipPlanes"),     location("textureModel"),
-            location("textureMatrix"),  location("fogKind"),
-            location("fogColor"),       location("overrideColor"),
-            location("screenSpace")};
     return true;
 }
 
-GLint xsg::Shader::location(const char* name)
+bool xsg::Shader::build(Program& program, bool isClipped, std::string& error)
 {
-    return glGetUniformLocation(m_program.get(), name);
+    const GLuint name = program.program.get();
+    if (!compile(name, GL_VERTEX_SHADER, isClipped, VertexShaderText, error) ||
+        !compile(name, GL_FRAGMENT_SHADER, isClipped, FragmentShaderText, error))
+        return false;
+    glLinkProgram(name);
+    GLint linked = 0;
+    glGetProgramiv(name, GL_LINK_STATUS, &linked);
+    if (!linked) {
+        error = "OpenGL could not link a drawing program: " + logOf(name, true);
+        return false;
+    }
+    const auto location = [&](const char* uniform) { return glGetUniformLocation(name, uniform); };
+    program.at = {location("viewProjection"), location("eye"),
+                  location("viewport"),       location("lightCount"),
+                  location("lightColor"),     location("lightLocation"),
+                  location("lightDirection"), location("lightAttenuation"),
+                  location("ambientLight"),   location("clipCount"),
+                  location("clipPlanes"),     location("textureModel"),
+                  location("textureMatrix"),  location("fogKind"),
+                  location("fogColor"),       location("overrideColor"),
+                  location("screenSpace")};
+    return true;
+}
+
+void xsg::Shader::release()
+{
+    m_plain.program.release();
+    m_clipped.program.release();
 }
 
 void xsg::Shader::use()
 {
-    glUseProgram(m_program.get());
+    glUseProgram(m_now->program.get());
+}
+
+bool xsg::Shader::setClipped(bool on)
+{
+    Program* wanted = on ? &m_clipped : &m_plain;
+    if (wanted == m_now)
+        return false;
+    m_now = wanted;
+    use();
+    sendCommon();
+    return true;
+}
+
+void xsg::Shader::sendCommon()
+{
+    const Program::Locations& at = m_now->at;
+    glUniformMatrix4fv(at.viewProjection, 1, GL_FALSE, m_common.viewProjection.getValue());
+    glUniform4fv(at.eye, 1, m_common.eye.getValue());
+    glUniform2fv(at.viewport, 1, m_common.viewport.getValue());
+    glUniform4fv(at.override, 1, m_common.override.getValue());
+    glUniform1i(at.screenSpace, m_common.isScreenSpace ? 1 : 0);
 }
 
 void xsg::Shader::setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height)
 {
-    glUniformMatrix4fv(m_at.viewProjection, 1, GL_FALSE, viewProjection.getValue());
-    glUniform4fv(m_at.eye, 1, eye.getValue());
-    glUniform2f(m_at.viewport, static_cast<float>(width), static_cast<float>(height));
+    m_common.viewProjection = viewProjection;
+    m_common.eye = eye;
+    m_common.viewport = SbVec2f(static_cast<float>(width), static_cast<float>(height));
+    sendCommon();
 }
 
 void xsg::Shader::setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient)
@@ -96,14 +126,14 @@ void xsg::Shader::setLights(const std::vector<SoLightSource>& lights, const SbCo
         direction[i] = four(light.direction, spot ? light.cutOffCosine : -2.0F);
         attenuation[i] = four(light.attenuation, spot ? light.dropOff : 0.0F);
     }
-    glUniform1i(m_at.lightCount, count);
-    glUniform3fv(m_at.ambientLight, 1, ambient.getValue());
+    glUniform1i(m_now->at.lightCount, count);
+    glUniform3fv(m_now->at.ambientLight, 1, ambient.getValue());
     if (count == 0)
         return;
-    glUniform3fv(m_at.lightColor, count, color[0].getValue());
-    glUniform4fv(m_at.lightLocation, count, location[0].getValue());
-    glUniform4fv(m_at.lightDirection, count, direction[0].getValue());
-    glUniform4fv(m_at.lightAttenuation, count, attenuation[0].getValue());
+    glUniform3fv(m_now->at.lightColor, count, color[0].getValue());
+    glUniform4fv(m_now->at.lightLocation, count, location[0].getValue());
+    glUniform4fv(m_now->at.lightDirection, count, direction[0].getValue());
+    glUniform4fv(m_now->at.lightAttenuation, count, attenuation[0].getValue());
 }
 
 void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
@@ -115,9 +145,9 @@ void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
         const SbVec3f& n = plane.getNormal();
         values[i] = SbVec4f(n[0], n[1], n[2], plane.getDistanceFromOrigin());
     }
-    glUniform1i(m_at.clipCount, count);
+    glUniform1i(m_now->at.clipCount, count);
     if (count > 0)
-        glUniform4fv(m_at.clipPlanes, count, values[0].getValue());
+        glUniform4fv(m_now->at.clipPlanes, count, values[0].getValue());
     for (int i = 0; i < MaxClipPlanes; ++i) {
         const auto plane = static_cast<GLenum>(GL_CLIP_DISTANCE0 + i);
         if (i < count)
@@ -129,23 +159,25 @@ void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
 
 void xsg::Shader::setTexture(int model, const SbMatrix& matrix)
 {
-    glUniform1i(m_at.textureModel, model);
+    glUniform1i(m_now->at.textureModel, model);
     if (model >= 0)
-        glUniformMatrix4fv(m_at.textureMatrix, 1, GL_FALSE, matrix.getValue());
+        glUniformMatrix4fv(m_now->at.textureMatrix, 1, GL_FALSE, matrix.getValue());
 }
 
 void xsg::Shader::setFog(int kind, const SbColor& color, float range)
 {
-    glUniform1i(m_at.fogKind, kind);
-    glUniform4f(m_at.fogColor, color[0], color[1], color[2], range);
+    glUniform1i(m_now->at.fogKind, kind);
+    glUniform4f(m_now->at.fogColor, color[0], color[1], color[2], range);
 }
 
 void xsg::Shader::setOverride(const SbVec4f& color)
 {
-    glUniform4fv(m_at.override, 1, color.getValue());
+    m_common.override = color;
+    glUniform4fv(m_now->at.override, 1, color.getValue());
 }
 
 void xsg::Shader::setScreenSpace(bool on)
 {
-    glUniform1i(m_at.screenSpace, on ? 1 : 0);
+    m_common.isScreenSpace = on;
+    glUniform1i(m_now->at.screenSpace, on ? 1 : 0);
 }

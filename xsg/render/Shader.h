@@ -31,11 +31,14 @@ public:
     static constexpr int MaxLights = 8;
     static constexpr int MaxClipPlanes = 6;
 
-    // Builds the program at first use; false with a sentence where OpenGL refuses.
+    // Builds the programs at first use; false with a sentence where OpenGL refuses.
     bool prepare(std::string& error);
-    void release() { m_program.release(); }
+    void release();
 
     void use();
+    // Draws with clipping planes from now on, or without them. True where that is another program, which knows
+    // nothing of lights, planes, textures and fog that were set before.
+    bool setClipped(bool on);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
     void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
     void setClipPlanes(const std::vector<SbPlane>& planes);
@@ -48,14 +51,28 @@ public:
     void setScreenSpace(bool on);
 
 private:
-    GLint location(const char* name);
+    struct Program {
+        GlProgram program;
+        struct Locations {
+            GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
+                lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
+                fogColor, override, screenSpace;
+        } at{};
+    };
+    static bool build(Program& program, bool isClipped, std::string& error);
+    void sendCommon();
 
-    GlProgram m_program;
-    struct Locations {
-        GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
-            lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
-            fogColor, override, screenSpace;
-    } m_at{};
+    Program m_plain;
+    Program m_clipped;
+    Program* m_now = &m_plain;
+    // What stays when the program changes.
+    struct Common {
+        SbMatrix viewProjection;
+        SbVec4f eye;
+        SbVec2f viewport;
+        SbVec4f override;
+        bool isScreenSpace = false;
+    } m_common;
 };
 
 } // namespace xsg

@@ -1,10 +1,14 @@
-// The text of the drawing program.
+// The text of the drawing programs. The one for scenes with clipping planes has CLIPPED defined: to write the
+// distances to planes that are not there would cost each vertex a good deal.
 #pragma once
 
 namespace xsg
 {
 
-constexpr const char* VertexShaderText = R"(#version 330 core
+constexpr const char* VersionText = "#version 330 core\n";
+constexpr const char* ClippedText = "#define CLIPPED\n";
+
+constexpr const char* VertexShaderText = R"(
 layout(location = 0) in vec3 point;
 layout(location = 1) in vec3 normal;
 layout(location = 2) in vec2 texturePoint;
@@ -19,8 +23,11 @@ uniform mat4 viewProjection;
 uniform mat4 textureMatrix;
 uniform vec2 viewport;
 uniform bool screenSpace;
+#ifdef CLIPPED
 uniform int clipCount;
 uniform vec4 clipPlanes[6];
+out float gl_ClipDistance[6];
+#endif
 
 out vec3 worldPoint;
 out vec3 worldNormal;
@@ -30,7 +37,6 @@ out vec4 vertexDiffuse;
 flat out vec4 vertexAmbient;
 flat out vec3 vertexSpecular;
 flat out vec3 vertexEmissive;
-out float gl_ClipDistance[6];
 
 void main()
 {
@@ -51,12 +57,14 @@ void main()
     vertexAmbient = ambient;
     vertexSpecular = specular.rgb;
     vertexEmissive = emissive.rgb;
+#ifdef CLIPPED
     for (int i = 0; i < 6; ++i)
         gl_ClipDistance[i] = i < clipCount ? dot(clipPlanes[i].xyz, worldPoint) - clipPlanes[i].w : 1.0;
+#endif
 }
 )";
 
-constexpr const char* FragmentShaderText = R"(#version 330 core
+constexpr const char* FragmentShaderText = R"(
 in vec3 worldPoint;
 in vec3 worldNormal;
 in vec2 textureAt;
