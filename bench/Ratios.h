@@ -63,8 +63,10 @@ inline int run(int argc, char** argv, const std::vector<Ratio>& ratios)
     benchmark::RunSpecifiedBenchmarks(&times);
     std::printf("\n");
     for (const Ratio& ratio : ratios) {
-        if (times[ratio.under] > 0)
+        if (times[ratio.over] > 0 && times[ratio.under] > 0)
             std::printf("%-64s %6.2f x  %s\n", ratio.what, times[ratio.over] / times[ratio.under], ratio.aim);
+        else
+            std::printf("%-64s   not measured\n", ratio.what);
     }
     return 0;
 }
