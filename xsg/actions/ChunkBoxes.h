@@ -1,4 +1,5 @@
-// Boxes around runs of neighbours, so that most of a long list is judged by a few of them.
+// Boxes around runs of neighbours, and around runs of those runs up to the whole, so that a long list is judged by a
+// few of them, and a change in it costs only those above it.
 #pragma once
 
 #include <xsg/base/SbBox.h>
@@ -19,33 +20,71 @@ public:
     void build(std::size_t count, const BoxOf& boxOf)
     {
         m_count = count;
-        m_boxes.resize((count + Size - 1) / Size);
-        for (std::size_t chunk = 0; chunk < m_boxes.size(); ++chunk)
-            refresh(chunk, boxOf);
+        m_levels.clear();
+        for (std::size_t below = count; below > 0 && (m_levels.empty() || below > 1);) {
+            below = (below + Size - 1) / Size;
+            m_levels.emplace_back(below);
+            for (std::size_t run = 0; run < below; ++run)
+                refreshRun(m_levels.size() - 1, run, boxOf);
+        }
     }
-    // The run that a place lies in, after its box has changed.
+    // The run that a place lies in.
     static std::size_t chunkOf(std::size_t place) { return place / Size; }
+    // After the box of a place in this run has changed.
     template <class BoxOf>
     void refresh(std::size_t chunk, const BoxOf& boxOf)
     {
-        SbBox3f& box = m_boxes[chunk] = {};
-        for (std::size_t i = chunk * Size; i < endOf(chunk); ++i)
-            box.extendBy(boxOf(i));
+        for (std::size_t level = 0; level < m_levels.size(); ++level, chunk /= Size)
+            refreshRun(level, chunk, boxOf);
     }
 
-    std::size_t getNumChunks() const { return m_boxes.size(); }
-    const SbBox3f& getBox(std::size_t chunk) const { return m_boxes[chunk]; }
-    std::size_t endOf(std::size_t chunk) const { return std::min(m_count, (chunk + 1) * Size); }
-    SbBox3f getWhole() const
+    std::size_t getNumChunks() const { return m_levels.empty() ? 0 : m_levels.front().size(); }
+    SbBox3f getWhole() const { return m_levels.empty() ? SbBox3f() : m_levels.back().front(); }
+
+    // How much of what is in a box is looked for.
+    enum class Found { Nothing, Some, Everything };
+    // Calls `take(first, end, isEverything)`, in order, with the places where something may be that is looked for.
+    // `judge(box)` gives a Found.
+    template <class Judge, class Take>
+    void find(const Judge& judge, const Take& take) const
     {
-        SbBox3f whole;
-        for (const SbBox3f& box : m_boxes)
-            whole.extendBy(box);
-        return whole;
+        if (!m_levels.empty())
+            findIn(m_levels.size() - 1, 0, judge, take);
     }
 
 private:
-    std::vector<SbBox3f> m_boxes;
+    template <class BoxOf>
+    void refreshRun(std::size_t level, std::size_t run, const BoxOf& boxOf)
+    {
+        SbBox3f box;
+        const std::size_t end = std::min((run + 1) * Size, level == 0 ? m_count : m_levels[level - 1].size());
+        for (std::size_t i = run * Size; i < end; ++i) {
+            if (level == 0)
+                box.extendBy(boxOf(i));
+            else
+                box.extendBy(m_levels[level - 1][i]);
+        }
+        m_levels[level][run] = box;
+    }
+    template <class Judge, class Take>
+    void findIn(std::size_t level, std::size_t run, const Judge& judge, const Take& take) const
+    {
+        const Found found = judge(m_levels[level][run]);
+        if (found == Found::Nothing)
+            return;
+        if (level > 0 && found == Found::Some) {
+            const std::size_t end = std::min((run + 1) * Size, m_levels[level - 1].size());
+            for (std::size_t i = run * Size; i < end; ++i)
+                findIn(level - 1, i, judge, take);
+            return;
+        }
+        std::size_t width = Size;
+        for (std::size_t i = 0; i < level; ++i)
+            width *= Size;
+        take(run * width, std::min(m_count, (run + 1) * width), found == Found::Everything);
+    }
+
+    std::vector<std::vector<SbBox3f>> m_levels; // of runs of places, of runs of those, ..., of the whole
     std::size_t m_count = 0;
 };
 

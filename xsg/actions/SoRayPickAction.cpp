@@ -61,14 +61,14 @@ std::vector<std::uint32_t> SoRayPickAction::findChildren(const SoSeparator& sepa
 {
     const SoSeparator::ChildBoxes& known = *separator.boxCache().children;
     std::vector<std::uint32_t> places;
-    for (std::size_t chunk = 0; chunk < known.chunks.getNumChunks(); ++chunk) {
-        if (!mayMeetAny(known.chunks.getBox(chunk)))
-            continue;
-        for (std::size_t i = chunk * xsg::ChunkBoxes::Size; i < known.chunks.endOf(chunk); ++i) {
+    using Found = xsg::ChunkBoxes::Found;
+    const auto judge = [&](const SbBox3f& box) { return mayMeetAny(box) ? Found::Some : Found::Nothing; };
+    known.chunks.find(judge, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
+        for (std::size_t i = first; i < end; ++i) {
             if (mayMeetAny(known.boxes[i]))
                 places.push_back(static_cast<std::uint32_t>(i));
         }
-    }
+    });
     const auto middle = static_cast<std::ptrdiff_t>(places.size());
     places.insert(places.end(), known.others.begin(), known.others.end());
     std::inplace_merge(places.begin(), places.begin() + middle, places.end());

@@ -43,8 +43,10 @@ bool SoGroup::insertChild(SoNode* child, int index)
 {
     if (!child || wouldLoop(child))
         return false;
+    const int place = std::clamp(index, 0, getNumChildren());
     adopt(child);
-    m_children.insert(m_children.begin() + std::clamp(index, 0, getNumChildren()), child);
+    child->m_placeHint = static_cast<std::uint32_t>(place);
+    m_children.insert(m_children.begin() + place, child);
     childrenChanged();
     return true;
 }
@@ -134,15 +136,28 @@ bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& place
     std::vector<const SoNode*> touched;
     if (!m_touched || !m_touched->collectSince(since, touched))
         return false;
-    for (const SoNode* child : touched) {
-        if (!child)
-            return false;
-        for (auto at = std::find(m_children.begin(), m_children.end(), child); at != m_children.end();
-             at = std::find(at + 1, m_children.end(), child))
-            places.push_back(static_cast<std::uint32_t>(at - m_children.begin()));
-    }
+    // The group itself changed, so that the others may be gone.
+    if (std::find(touched.begin(), touched.end(), nullptr) != touched.end())
+        return false;
+    for (const SoNode* child : touched)
+        findPlaces(child, places);
     std::sort(places.begin(), places.end());
     return true;
+}
+
+void SoGroup::findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const
+{
+    // With one parent it stands in one place, most likely where it was put.
+    const std::uint32_t hint = child->m_placeHint;
+    if (child->m_parents.size() == 1 && hint < m_children.size() && m_children[hint] == child) {
+        places.push_back(hint);
+        return;
+    }
+    for (auto at = std::find(m_children.begin(), m_children.end(), child); at != m_children.end();
+         at = std::find(at + 1, m_children.end(), child)) {
+        places.push_back(static_cast<std::uint32_t>(at - m_children.begin()));
+        (*at)->m_placeHint = places.back();
+    }
 }
 
 SoGroup::~SoGroup()

@@ -62,6 +62,7 @@ private:
     bool wouldLoop(const SoNode* child) const;
 
     void noteTouched(const SoNode* child, std::uint64_t serial);
+    void findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const;
 
     std::vector<SoNode*> m_children; // one reference each
     mutable std::unique_ptr<xsg::TouchLog> m_touched;

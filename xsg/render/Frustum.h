@@ -1,6 +1,7 @@
 // What a camera can see, as planes.
 #pragma once
 
+#include <xsg/actions/ChunkBoxes.h>
 #include <xsg/base/SbBox.h>
 #include <xsg/base/SbMatrix.h>
 
@@ -10,8 +11,7 @@ namespace xsg
 class Frustum
 {
 public:
-    // Outside and Inside are certain.
-    enum class Sight { Outside, Partly, Inside };
+    using Found = ChunkBoxes::Found;
 
     explicit Frustum(const SbMatrix& viewProjection)
     {
@@ -25,11 +25,12 @@ public:
         }
     }
 
-    Sight judge(const SbBox3f& box) const
+    // What of the box is in sight; nothing and everything are certain.
+    Found judge(const SbBox3f& box) const
     {
         const SbVec3f& low = box.getMin();
         const SbVec3f& high = box.getMax();
-        Sight sight = Sight::Inside;
+        Found sight = Found::Everything;
         for (const auto& plane : m_planes) {
             float most = plane[3];
             float least = plane[3];
@@ -38,13 +39,13 @@ public:
                 least += plane[i] * (plane[i] > 0 ? low[i] : high[i]);
             }
             if (most < 0)
-                return Sight::Outside;
+                return Found::Nothing;
             if (!(least >= 0))
-                sight = Sight::Partly;
+                sight = Found::Some;
         }
         return sight;
     }
-    bool mayShow(const SbBox3f& box) const { return judge(box) != Sight::Outside; }
+    bool mayShow(const SbBox3f& box) const { return judge(box) != Found::Nothing; }
 
 private:
     float m_planes[6][4];

@@ -20,9 +20,9 @@ SbBox3f sightBoxOf(const xsg::RenderItem& item)
 } // namespace
 
 void xsg::InstanceList::update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
-                               const RenderList::Changes& changes)
+                               const RenderList::Changes& changes, bool isSameOrder)
 {
-    if (changes.all || order != m_order) {
+    if (changes.all || (!isSameOrder && order != m_order)) {
         for (const std::uint32_t i : m_order) {
             if (i < m_places.size())
                 m_places[i] = Nowhere;
@@ -124,19 +124,15 @@ void xsg::InstanceList::findVisible(const Frustum& frustum, const std::vector<Re
         else
             visible.push_back({static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(end)});
     };
-    for (std::size_t chunk = 0; chunk < m_chunks.getNumChunks(); ++chunk) {
-        const Frustum::Sight sight = frustum.judge(m_chunks.getBox(chunk));
-        const std::size_t first = chunk * ChunkBoxes::Size;
-        const std::size_t end = m_chunks.endOf(chunk);
-        if (sight == Frustum::Sight::Inside) {
-            add(first, end);
-            continue;
-        }
-        for (std::size_t place = first; sight == Frustum::Sight::Partly && place < end; ++place) {
-            if (frustum.mayShow(boxAt(place)))
-                add(place, place + 1);
-        }
-    }
+    m_chunks.find([&](const SbBox3f& box) { return frustum.judge(box); },
+                  [&](std::size_t first, std::size_t end, bool isEverything) {
+                      if (isEverything)
+                          add(first, end);
+                      for (std::size_t place = first; !isEverything && place < end; ++place) {
+                          if (frustum.mayShow(boxAt(place)))
+                              add(place, place + 1);
+                      }
+                  });
 }
 
 void xsg::InstanceList::bind(std::uint32_t place)

@@ -18,9 +18,10 @@ struct Run {
 class InstanceList
 {
 public:
-    // Brings the list to this order of items; needs to be told of all changes to the items.
+    // Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`: it is
+    // known to be the one of the last time, which need not be looked at then.
     void update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
-                const RenderList::Changes& changes);
+                const RenderList::Changes& changes, bool isSameOrder = false);
     bool isEmpty() const { return m_order.empty(); }
     std::uint32_t getSize() const { return static_cast<std::uint32_t>(m_order.size()); }
 

@@ -397,6 +397,8 @@ void xsg::RenderList::sort()
         // By the geometry's index buffer, since addresses would differ from run to run.
         return std::make_tuple(m_items[i].surroundings, m_items[i].geometry->indices.get(), i);
     };
-    std::sort(m_opaque.begin(), m_opaque.end(),
-              [&](std::uint32_t a, std::uint32_t b) { return key(a) < key(b); });
+    const auto isBefore = [&](std::uint32_t a, std::uint32_t b) { return key(a) < key(b); };
+    // Mostly they are in order as they come.
+    if (!std::is_sorted(m_opaque.begin(), m_opaque.end(), isBefore))
+        std::sort(m_opaque.begin(), m_opaque.end(), isBefore);
 }

@@ -96,6 +96,29 @@ TEST_F(LargeGroup, AChangeCostsWhatChanged)
     EXPECT_EQ(action.getNumVisited(), 4);
 }
 
+// So large that there are runs of runs of children.
+TEST_F(LargeGroup, OfThousandsIsLookedAtWhereItChanged)
+{
+    for (int i = Many; i < 5000; ++i)
+        root->addChild(makeCube(static_cast<float>(3 * i)));
+    SoBoundingBoxAction box;
+    box.getBox(root.get());
+    for (const int place : {4999, 4100, 0}) {
+        transformIn(root->getChild(place)).translation.setValue(static_cast<float>(3 * place), 500, 0);
+        EXPECT_EQ(box.getBox(root.get()).getMax()[1], 501);
+        EXPECT_EQ(box.getNumVisited(), 4);
+        EXPECT_TRUE(action.pick(root.get(), Down(static_cast<float>(3 * place), 500)));
+        EXPECT_EQ(action.getNumVisited(), 4);
+        EXPECT_FALSE(action.pick(root.get(), Down(static_cast<float>(3 * place), 0)));
+        transformIn(root->getChild(place)).translation.setValue(static_cast<float>(3 * place), 0, 0);
+        EXPECT_EQ(box.getBox(root.get()).getMax()[1], 1);
+    }
+    root->removeChild(4999);
+    EXPECT_EQ(box.getBox(root.get()).getMax()[0], 3 * 4998 + 1);
+    root->addChild(makeCube(20000));
+    EXPECT_EQ(box.getBox(root.get()).getMax()[0], 20001);
+}
+
 TEST_F(LargeGroup, WhatChangedAFewTimesIsRememberedOnce)
 {
     SoBoundingBoxAction box;

@@ -57,3 +57,24 @@ TEST(Transform, ByMatrix)
     t->matrix.setValue(SbMatrix::translation({1, 2, 3}));
     EXPECT_EQ(t->getMatrix(), SbMatrix::translation({1, 2, 3}));
 }
+
+// Its matrix is remembered; every way in which a field changes has to reach it.
+TEST(Transform, FollowsItsFieldsHoweverTheyChange)
+{
+    const SoRef<SoTransform> t(new SoTransform);
+    const SoRef<SoTransform> master(new SoTransform);
+    EXPECT_EQ(t->getMatrix(), SbMatrix());
+    t->translation.setValue(1, 0, 0);
+    EXPECT_EQ(t->getMatrix(), SbMatrix::translation({1, 0, 0}));
+    t->translation.set("2 0 0");
+    EXPECT_EQ(t->getMatrix(), SbMatrix::translation({2, 0, 0}));
+    master->translation.setValue(3, 0, 0);
+    t->translation.connectFrom(&master->translation);
+    EXPECT_EQ(t->getMatrix(), SbMatrix::translation({3, 0, 0}));
+    master->translation.setValue(4, 0, 0);
+    EXPECT_EQ(t->getMatrix(), SbMatrix::translation({4, 0, 0}));
+    t->translation.setIgnored(true);
+    EXPECT_EQ(t->getMatrix(), SbMatrix());
+    t->translation.setIgnored(false);
+    EXPECT_EQ(t->getMatrix(), SbMatrix::translation({4, 0, 0}));
+}

@@ -1,6 +1,7 @@
 #include "Picture.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/nodes/SoClipPlane.h>
 #include <xsg/nodes/SoComplexity.h>
 #include <xsg/nodes/SoCone.h>
 #include <xsg/nodes/SoCube.h>
@@ -15,6 +16,7 @@
 #include <xsg/nodes/SoNormals.h>
 #include <xsg/nodes/SoPoints.h>
 #include <xsg/nodes/SoSphere.h>
+#include <xsg/nodes/SoSwitch.h>
 #include <xsg/nodes/SoTexture2.h>
 #include <xsg/nodes/SoTextureCoordinates.h>
 #include <xsg/nodes/SoTransform.h>
@@ -327,6 +329,96 @@ TEST_F(Renderer, WhatIsOutOfSightIsNotDrawn)
     EXPECT_EQ(statistics.shapes, 2);
     EXPECT_EQ(statistics.culled, 1);
     EXPECT_EQ(statistics.triangles, 12);
+}
+
+// So many that there are runs of runs of shapes.
+TEST_F(Renderer, OfThousandsOnlyWhatIsInSightIsDrawn)
+{
+    std::vector<SoTransform*> moves;
+    for (int i = 0; i < 5000; ++i) {
+        auto* group = new SoSeparator;
+        moves.push_back(new SoTransform);
+        moves.back()->translation.setValue(static_cast<float>(20 * i), 0, 0);
+        group->addChild(moves.back());
+        group->addChild(new SoCube);
+        root->addChild(group);
+    }
+    const auto& statistics = renderer().getRenderer().getStatistics();
+    const auto lookAt = [&](float x) {
+        camera->position.setValue(x, 0, 5);
+        return draw();
+    };
+    for (const int place : {0, 63, 64, 4095, 4096, 4999}) {
+        EXPECT_GT(center(lookAt(static_cast<float>(20 * place)))[0], 100) << place;
+        EXPECT_EQ(statistics.culled, 4999) << place;
+    }
+    moves[4500]->translation.setValue(-5000, 0, 0);
+    EXPECT_EQ(center(lookAt(20 * 4500))[0], 0);
+    EXPECT_EQ(statistics.culled, 5000);
+    EXPECT_GT(center(lookAt(-5000))[0], 100);
+    EXPECT_EQ(statistics.culled, 4999);
+    camera->position.setValue(50000, 0, 5000);
+    camera->farDistance.setValue(10000);
+    EXPECT_EQ(draw().rgba, drawAfresh().rgba);
+}
+
+TEST_F(Renderer, AClippedPartLeavesTheOthersAsTheyWere)
+{
+    add<SoDirectionalLight>()->direction.setValue(1, -2, -3);
+    auto* fog = add<SoFog>();
+    fog->visibility.setValue(20);
+    fog->color.setValue(SbColor(1, 1, 0));
+    SoClipPlane* clips[2];
+    for (int i = 0; i < 2; ++i) {
+        auto* group = new SoSeparator;
+        auto* move = new SoTransform;
+        move->translation.setValue(i == 0 ? -1.0F : 1.0F, 0, 0);
+        move->scaleFactor.setValue(0.8F, 0.8F, 0.8F);
+        clips[i] = new SoClipPlane;
+        clips[i]->plane.setValue(SbPlane({0, 1, 0}, 0));
+        clips[i]->on.setValue(false);
+        for (SoNode* node : std::initializer_list<SoNode*>{move, clips[i], new SoSphere})
+            group->addChild(node);
+        root->addChild(group);
+    }
+    renderer().setSamples(1);
+    const SoPixels whole = draw();
+    for (const bool isLeft : {true, false}) {
+        SoClipPlane* clip = clips[isLeft ? 0 : 1];
+        clip->on.setValue(true);
+        const SoPixels cut = draw();
+        int differing = 0;
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x) {
+                const bool isCutAway = isLeft == (x < 32) && y >= 31;
+                if (!isCutAway)
+                    EXPECT_EQ(at(cut, x, y), at(whole, x, y)) << x << ' ' << y;
+                else
+                    differing += at(cut, x, y) != at(whole, x, y) ? 1 : 0;
+            }
+        }
+        EXPECT_GT(differing, 50);
+        clip->on.setValue(false);
+        EXPECT_EQ(draw().rgba, whole.rgba);
+    }
+}
+
+TEST_F(Renderer, AChoiceAmongManyShowsAtOnce)
+{
+    auto* choice = add<SoSwitch>();
+    for (int i = 0; i < 100; ++i) {
+        auto* group = new SoSeparator;
+        auto* move = new SoTransform;
+        move->translation.setValue(i == 70 ? 0.0F : 100.0F, 0, 0);
+        group->addChild(move);
+        group->addChild(new SoCube);
+        choice->addChild(group);
+    }
+    for (const int which : {3, 70, 4, int{SoSwitch::All}, int{SoSwitch::None}}) {
+        choice->whichChild.setValue(which);
+        const bool isShown = which == 70 || which == SoSwitch::All;
+        EXPECT_EQ(center(draw())[0] > 100, isShown) << which;
+    }
 }
 
 TEST_F(Renderer, GeometryIsUploadedOnlyWhenItsFieldsChange)
