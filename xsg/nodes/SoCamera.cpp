@@ -112,9 +112,7 @@ void SoCamera::fitDepthRange(const SbBox3f& box)
     const SbBox3f seen = getViewMatrix().transform(box);
     const float slack = std::max(seen.getSize().length() * 0.01F, 1e-6F);
     const float far = std::max(-seen.getMin()[2] + slack, 2 * slack);
-    // Depth is kept precise by never letting the near plane come too close.
-    const float near = std::max(-seen.getMax()[2] - slack, far * 0.001F);
-    nearDistance.setValue(near);
+    nearDistance.setValue(usableNear(-seen.getMax()[2] - slack, far));
     farDistance.setValue(far);
 }
 

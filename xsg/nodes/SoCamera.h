@@ -61,6 +61,8 @@ protected:
     // what it sees where that does not follow from where it stands.
     virtual SbVec3f frame(const Corners& corners, float aspect, float filled) = 0;
     virtual void scaleView(float factor) = 0;
+    // As close as that may come; depth is kept precise by not letting it come too close.
+    virtual float usableNear(float near, float far) const = 0;
 };
 
 extern template class SoTyped<SoCamera, SoNode>;

@@ -35,3 +35,9 @@ void SoOrthographicCamera::scaleView(float factor)
 {
     height.setValue(getFocalHeight() * factor);
 }
+
+// What is behind it is seen as well as what is before it.
+float SoOrthographicCamera::usableNear(float near, float /*far*/) const
+{
+    return near;
+}

@@ -78,3 +78,8 @@ void SoPerspectiveCamera::scaleView(float factor)
     focalDistance.setValue(focalDistance.getValue() * factor);
     position.setValue(focus - getDirection() * focalDistance.getValue());
 }
+
+float SoPerspectiveCamera::usableNear(float near, float far) const
+{
+    return std::max(near, far * 0.001F);
+}

@@ -16,6 +16,7 @@ protected:
     float getFocalHeight() const override;
     SbVec3f frame(const Corners& corners, float aspect, float filled) override;
     void scaleView(float factor) override;
+    float usableNear(float near, float far) const override;
 
 private:
     float usableAngle() const;

@@ -80,6 +80,19 @@ TYPED_TEST(ViewAll, APointAndALineSeenFromItsEndAreInThePicture)
     }
 }
 
+TEST(Camera, WithoutPerspectiveItSeesWhatIsBehindItToo)
+{
+    const SoRef<SoOrthographicCamera> camera(new SoOrthographicCamera);
+    const SbBox3f box(-3, -3, -3, 3, 3, 3);
+    for (const float z : {-20.0F, 0.0F, 1.0F, 20.0F}) {
+        camera->position.setValue(0, 0, z);
+        camera->fitDepthRange(box);
+        const SbBox3f seen = projectCorners(*camera, box, 1);
+        EXPECT_GE(seen.getMin()[2], -1.0F) << z;
+        EXPECT_LE(seen.getMax()[2], 1.0F) << z;
+    }
+}
+
 TEST(Camera, AllThatLiveAreListed)
 {
     const auto isListed = [](const SoCamera* camera) {
