@@ -232,6 +232,7 @@ TEST_F(CounterDock, AnotherColourReachesTheCurveAndTheButton)
     QTest::mouseClick(dock->m_colorButton, Qt::LeftButton);
     EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), QColor(1, 2, 3));
     EXPECT_EQ(dock->m_colorButton->styleSheet(), "background-color: rgb(1,2,3);");
+    EXPECT_EQ(dock->m_colorButton->grab().toImage().pixelColor(7, 7), QColor(1, 2, 3)) << "just as the curve";
     EXPECT_EQ(dock->m_viewer->m_legend->selectedItems().size(), 5) << "the row stays selected";
 }
 

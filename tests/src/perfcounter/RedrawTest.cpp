@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <qwt_plot_canvas.h>
@@ -310,6 +311,48 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueOfABar)
     EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6");
     EXPECT_EQ(tipAt(*plot, place(-0.5)), "");
     EXPECT_EQ(tipAt(*plot, place(2.5)), "");
+}
+
+TEST_F(CounterRedraw, AToolTipTakesNoNameForMarkup)
+{
+    viewer.clearViewer();
+    show({"<b>bold</b>"});
+    viewer.viewTimer();
+    viewer.graphView();
+    QwtPlot* plot = viewer.getGraphPlot();
+    QTextDocument shown;
+    shown.setHtml(tipAt(*plot, QPointF(plot->transform(QwtPlot::xBottom, 0.5), 20).toPoint()));
+    EXPECT_EQ(shown.toPlainText(), "<b>bold</b>: 0");
+}
+
+TEST_F(CounterRedraw, TheLegendShowsNamesInWhole)
+{
+    const QString name = "aCounterWithALongName";
+    show({name});
+    EXPECT_GE(viewer.m_legend->columnWidth(0), viewer.m_legend->fontMetrics().horizontalAdvance(name));
+}
+
+TEST_F(CounterRedraw, ABarStaysWithinItsInterval)
+{
+    for (int i = 0; i < 2; ++i) {
+        a->increment(50);
+        viewer.viewTimer();
+    }
+    viewer.graphView();
+    viewer.m_legend->selectRow(0);
+    viewer.changeColor(QColor(200, 0, 0));
+    QCoreApplication::processEvents();
+    QwtPlot* plot = viewer.getGraphPlot();
+    const QImage image = plot->canvas()->grab().toImage();
+    const auto colorAt = [&](double x, double y) {
+        return image.pixelColor(qRound(plot->transform(QwtPlot::xBottom, x)),
+                                qRound(plot->transform(QwtPlot::yLeft, y)));
+    };
+    EXPECT_EQ(colorAt(0.5, 50), QColor(200, 0, 0));
+    EXPECT_EQ(colorAt(0.05, 50), QColor(Qt::white));
+    const int top = qRound(plot->transform(QwtPlot::yLeft, 100));
+    for (int x = 4; x < image.width() - 4; ++x)
+        ASSERT_EQ(image.pixelColor(x, top - 1), QColor(Qt::white)) << "over the bar, at " << x;
 }
 
 TEST_F(CounterRedraw, ColoursCanBeSeenAndToldApart)
