@@ -76,11 +76,27 @@ bool hasForbiddenCharacters(const QByteArray& saved)
                        [](char c) { return uchar(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; });
 }
 
-// The parser may skip an entity that nothing declares in one place and refuse it in another.
-bool hasOpenReferences(const QDomNode& node)
+// Each reading takes a prefix off that nothing declares, until nothing of such a name is left.
+bool isBrokenName(const QDomNode& node)
+{
+    return node.localName().isEmpty() || node.localName().contains(QLatin1Char(':'));
+}
+
+bool hasBrokenName(const QDomNode& node)
+{
+    const QDomNamedNodeMap attributes = node.attributes();
+    bool isBroken = node.isElement() && isBrokenName(node);
+    for (int i = 0; i < attributes.size() && !isBroken; ++i)
+        isBroken = isBrokenName(attributes.item(i));
+    return isBroken;
+}
+
+// Whether anything in it reads otherwise once it was saved. The parser may skip an entity that nothing declares in
+// one place and refuse it in another.
+bool isUnstable(const QDomNode& node)
 {
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isEntityReference() || hasOpenReferences(child))
+        if (child.isEntityReference() || hasBrokenName(child) || isUnstable(child))
             return true;
     }
     return false;
@@ -97,7 +113,7 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
     saved.open(QIODevice::WriteOnly);
     write(&saved, document);
     QDomDocument again;
-    if (!hasForbiddenCharacters(saved.data()) && !hasOpenReferences(document) &&
+    if (!hasForbiddenCharacters(saved.data()) && !isUnstable(document) &&
         parse(saved.data(), again, problem) &&
         again.documentElement().tagName() == document.documentElement().tagName())
         return true;

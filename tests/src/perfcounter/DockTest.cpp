@@ -133,7 +133,8 @@ TEST_F(CounterDock, ElementsNestedWithoutEndAreRefused)
 TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
 {
     for (const char* file :
-         {"<n:perfCounterModule xmlnsn:='u'/>", "<perfCounterModule>\x01</perfCounterModule>"}) {
+         {"<n:perfCounterModule xmlnsn:='u'/>", "<perfCounterModule>\x01</perfCounterModule>",
+          "<perfCounterModule x:y:='u'/>", "<perfCounterModule><a:b:c/></perfCounterModule>"}) {
         writeFile(file);
         open();
         EXPECT_EQ(boxes.take(),
@@ -226,13 +227,13 @@ TEST_F(CounterDock, AnotherColourReachesTheCurveAndTheButton)
     QTimer::singleShot(0, qApp, [] {
         auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(dialog);
-        dialog->setCurrentColor(QColor(1, 2, 3));
+        dialog->setCurrentColor(QColor(200, 100, 50));
         dialog->accept();
     });
     QTest::mouseClick(dock->m_colorButton, Qt::LeftButton);
-    EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), QColor(1, 2, 3));
-    EXPECT_EQ(dock->m_colorButton->styleSheet(), "background-color: rgb(1,2,3);");
-    EXPECT_EQ(dock->m_colorButton->grab().toImage().pixelColor(7, 7), QColor(1, 2, 3)) << "just as the curve";
+    EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), QColor(200, 100, 50));
+    EXPECT_EQ(dock->m_colorButton->styleSheet(), "background-color: rgb(200,100,50);");
+    EXPECT_EQ(dock->m_colorButton->grab().toImage().pixelColor(7, 3), QColor(200, 100, 50)) << "just as the curve";
     EXPECT_EQ(dock->m_viewer->m_legend->selectedItems().size(), 5) << "the row stays selected";
 }
 
