@@ -76,6 +76,16 @@ bool hasForbiddenCharacters(const QByteArray& saved)
                        [](char c) { return uchar(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; });
 }
 
+// Stricter than the document's own parser, which lets an element have two attributes of one name.
+bool isWellFormed(const QByteArray& saved)
+{
+    QXmlStreamReader reader(saved);
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd())
+        reader.readNext();
+    return !reader.hasError();
+}
+
 // Each reading takes a prefix off that nothing declares, until nothing of such a name is left.
 bool isBrokenName(const QDomNode& node)
 {
@@ -113,7 +123,7 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
     saved.open(QIODevice::WriteOnly);
     write(&saved, document);
     QDomDocument again;
-    if (!hasForbiddenCharacters(saved.data()) && !isUnstable(document) &&
+    if (!hasForbiddenCharacters(saved.data()) && isWellFormed(saved.data()) && !isUnstable(document) &&
         parse(saved.data(), again, problem) &&
         again.documentElement().tagName() == document.documentElement().tagName())
         return true;

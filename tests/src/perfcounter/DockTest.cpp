@@ -134,7 +134,8 @@ TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
 {
     for (const char* file :
          {"<n:perfCounterModule xmlnsn:='u'/>", "<perfCounterModule>\x01</perfCounterModule>",
-          "<perfCounterModule x:y:='u'/>", "<perfCounterModule><a:b:c/></perfCounterModule>"}) {
+          "<perfCounterModule x:y:='u'/>", "<perfCounterModule><a:b:c/></perfCounterModule>",
+          "<perfCounterModule><a b='1' b='2'/></perfCounterModule>"}) {
         writeFile(file);
         open();
         EXPECT_EQ(boxes.take(),
