@@ -245,8 +245,11 @@ bool xsg::SceneReader::readField(std::string_view name, std::size_t at)
 
 bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, std::size_t at)
 {
+    // Who writes by hand may well go on with the next field.
+    const bool goesOn = value.find(": ") != std::string_view::npos;
     return fail(at, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
-                        field.getTypeId().getName().getString());
+                        field.getTypeId().getName().getString() +
+                        (goesOn ? "; each field has a line of its own" : ""));
 }
 
 // The value's text as it stands. It begins on the line of the field's name; where it does not, there is none.

@@ -382,6 +382,8 @@ INSTANTIATE_TEST_SUITE_P(
         Wrong{"Cube {} Cube {}", "scene.xsg:2: Column 9:", "its end was expected"},
         Wrong{"Cube {\n  width: many\n}",
               "scene.xsg:3: Column 10:", "\"many\" is no value of width, which is a SFFloat"},
+        Wrong{"Cube { width: 1 height: 2 }", "scene.xsg:2: Column 15:",
+              "\"1 height: 2\" is no value of width, which is a SFFloat; each field has a line of its own"},
         Wrong{"Cube {\n  breadth: 1\n}", "scene.xsg:3: Column 3:", "a Cube has no field \"breadth\""},
         Wrong{"Cube { Sphere {} }", "scene.xsg:2: Column 8:", "a Cube has no children"},
         Wrong{"Cube \"name {}", "scene.xsg:2: Column 6:", "has no end"},
