@@ -170,6 +170,20 @@ TEST_F(LargeGroup, AMoveBesideTheChildrenMovesThoseAfterIt)
     expectAsAfresh("it went");
 }
 
+TEST_F(LargeGroup, WhatStandsAfterAMoveChangesWithinIt)
+{
+    auto* move = new SoTransform;
+    move->translation.setValue(0, 100, 0);
+    root->insertChild(move, 5);
+    SoBoundingBoxAction box;
+    EXPECT_EQ(box.getBox(root.get()).getMax()[1], 101);
+    transformIn(root->getChild(150)).translation.setValue(0, 500, 0);
+    EXPECT_EQ(box.getBox(root.get()).getMax()[1], 601);
+    EXPECT_EQ(box.getNumVisited(), 5);
+    transformIn(root->getChild(4)).translation.setValue(0, 800, 0);
+    EXPECT_EQ(box.getBox(root.get()).getMax()[1], 801);
+}
+
 TEST_F(LargeGroup, ThatIsNoLongerLargeIsWalkedAgain)
 {
     expectAsAfresh("start");

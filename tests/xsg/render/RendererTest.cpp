@@ -11,6 +11,7 @@
 #include <xsg/nodes/SoDrawingCallback.h>
 #include <xsg/nodes/SoFog.h>
 #include <xsg/nodes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/SoInstances.h>
 #include <xsg/nodes/SoMaterial.h>
 #include <xsg/nodes/SoMatrixTransform.h>
 #include <xsg/nodes/SoNormals.h>
@@ -419,6 +420,26 @@ TEST_F(Renderer, AChoiceAmongManyShowsAtOnce)
         const bool isShown = which == 70 || which == SoSwitch::All;
         EXPECT_EQ(center(draw())[0] > 100, isShown) << which;
     }
+}
+
+TEST_F(Renderer, CopiesStandWhereTheirListPutsThem)
+{
+    auto* copies = add<SoInstances>();
+    copies->addChild(new SoCube);
+    for (const float x : {50.0F, 0.0F, 60.0F}) {
+        copies->matrices.set1Value(0, SbMatrix::translation({x, 0, 0}));
+        EXPECT_EQ(center(draw())[0] > 100, x == 0) << x;
+    }
+}
+
+TEST_F(Renderer, AnotherChildInTheSamePlaceIsSeen)
+{
+    add<SoCube>()->width.setValue(0.1F);
+    const SoRef<SoCube> wide(new SoCube);
+    wide->width.setValue(4);
+    draw();
+    root->replaceChild(0, wide.get());
+    EXPECT_EQ(draw().rgba, drawAfresh().rgba);
 }
 
 TEST_F(Renderer, GeometryIsUploadedOnlyWhenItsFieldsChange)
