@@ -39,6 +39,6 @@ void SoPerfCounterPage::refill()
 
 void SoPerfCounterPage::showEvent(QShowEvent* event)
 {
-    getTableProfile();
+    getTableProfile()->show(); // what is made in here would otherwise be shown a turn of the event loop later
     QWidget::showEvent(event);
 }

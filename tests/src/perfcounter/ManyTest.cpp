@@ -62,6 +62,7 @@ TEST_F(CounterMany, ATabThatComesForwardBecauseAnotherGoesShowsItsOwnCounters)
         manager.deleteProfile();
         auto* page = static_cast<SoPerfCounterPage*>(manager.m_tabProfile->currentWidget());
         ASSERT_TRUE(page->m_tableProfile);
+        EXPECT_TRUE(page->m_tableProfile->isVisible());
         EXPECT_EQ(page->m_tableProfile->item(0, 0)->text(), expected);
     }
     press(manager, QDialogButtonBox::Ok);
