@@ -37,8 +37,10 @@ void SoPerfCounterPage::refill()
     counterTable::fill(*m_tableProfile, counters);
 }
 
-void SoPerfCounterPage::showEvent(QShowEvent* event)
+void SoPerfCounterPage::setVisible(bool visible)
 {
-    getTableProfile()->show(); // what is made in here would otherwise be shown a turn of the event loop later
-    QWidget::showEvent(event);
+    // Not when it is shown: what is made then is laid out a turn of the event loop later.
+    if (visible)
+        getTableProfile();
+    QWidget::setVisible(visible);
 }

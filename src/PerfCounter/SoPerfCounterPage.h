@@ -19,9 +19,7 @@ public:
     QTableWidget* getTableProfile();
     // Takes the profile's counters anew.
     void refill();
-
-protected:
-    void showEvent(QShowEvent* event) override;
+    void setVisible(bool visible) override;
 
 private:
     const SoPerfCounterProfile& m_profile;

@@ -63,6 +63,7 @@ TEST_F(CounterMany, ATabThatComesForwardBecauseAnotherGoesShowsItsOwnCounters)
         auto* page = static_cast<SoPerfCounterPage*>(manager.m_tabProfile->currentWidget());
         ASSERT_TRUE(page->m_tableProfile);
         EXPECT_TRUE(page->m_tableProfile->isVisible());
+        EXPECT_GT(page->m_tableProfile->width(), page->width() - 10) << "and laid out";
         EXPECT_EQ(page->m_tableProfile->item(0, 0)->text(), expected);
     }
     press(manager, QDialogButtonBox::Ok);
