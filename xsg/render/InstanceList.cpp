@@ -34,8 +34,10 @@ void xsg::InstanceList::update(const std::vector<std::uint32_t>& order, const st
         uploadAll(items);
         return;
     }
-    if (changes.grouping)
+    if (changes.orders)
         collectBatches(items);
+    else
+        regroup(items, changes.regrouped);
     if (!changes.items.empty())
         uploadChanged(items, changes.items);
 }
@@ -50,13 +52,48 @@ void xsg::InstanceList::collectPlaces(std::size_t itemCount)
 void xsg::InstanceList::collectBatches(const std::vector<RenderItem>& items)
 {
     m_batches.clear();
-    const RenderItem* before = nullptr;
     for (std::uint32_t place = 0; place < getSize(); ++place) {
-        const RenderItem& item = getItem(items, place);
-        if (!before || before->geometry != item.geometry || before->surroundings != item.surroundings)
+        if (!isLikeBefore(items, place))
             m_batches.push_back({place, place});
         m_batches.back().end = place + 1;
-        before = &item;
+    }
+}
+
+// Whether one call can draw what is at this place together with what is before it.
+bool xsg::InstanceList::isLikeBefore(const std::vector<RenderItem>& items, std::uint32_t place) const
+{
+    if (place == 0)
+        return false;
+    const RenderItem& before = getItem(items, place - 1);
+    const RenderItem& item = getItem(items, place);
+    return before.geometry == item.geometry && before.surroundings == item.surroundings;
+}
+
+void xsg::InstanceList::regroup(const std::vector<RenderItem>& items, const std::vector<std::uint32_t>& changed)
+{
+    for (const std::uint32_t i : changed) {
+        if (i < m_places.size() && m_places[i] != Nowhere)
+            regroupAt(items, m_places[i]);
+    }
+}
+
+// Cuts the batch on both sides of the place and joins what is alike now. That a neighbour may have changed too, and
+// still counts as one of its batch, does no harm: its turn comes.
+void xsg::InstanceList::regroupAt(const std::vector<RenderItem>& items, std::uint32_t place)
+{
+    for (const std::uint32_t cut : {place, place + 1}) {
+        const auto batch = std::upper_bound(m_batches.begin(), m_batches.end(), cut,
+                                            [](std::uint32_t at, const Run& run) { return at < run.end; });
+        if (batch == m_batches.end() || cut == 0)
+            continue;
+        const bool isJoined = isLikeBefore(items, cut);
+        if (batch->first < cut && !isJoined) {
+            const std::uint32_t first = std::exchange(batch->first, cut);
+            m_batches.insert(batch, {first, cut});
+        } else if (batch->first == cut && isJoined) {
+            batch->first = std::prev(batch)->first;
+            m_batches.erase(std::prev(batch));
+        }
     }
 }
 

@@ -44,6 +44,9 @@ private:
     void uploadAll(const std::vector<RenderItem>& items);
     void uploadChanged(const std::vector<RenderItem>& items, const std::vector<std::uint32_t>& changed);
     void collectBatches(const std::vector<RenderItem>& items);
+    void regroup(const std::vector<RenderItem>& items, const std::vector<std::uint32_t>& changed);
+    void regroupAt(const std::vector<RenderItem>& items, std::uint32_t place);
+    bool isLikeBefore(const std::vector<RenderItem>& items, std::uint32_t place) const;
     void collectPlaces(std::size_t itemCount);
 
     static constexpr std::uint32_t Nowhere = 0xFFFFFFFF;

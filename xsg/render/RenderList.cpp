@@ -12,6 +12,8 @@
 namespace
 {
 
+constexpr std::size_t MostOutOfOrder = 64;
+
 auto ordered(const xsg::Surroundings& s)
 {
     const SbColor& a = s.ambientLight;
@@ -111,8 +113,9 @@ bool xsg::RenderList::patch(SoNode* root)
         return false;
     m_geometry->removeUnused();
     patchBoxes();
-    if (m_needsSorting) {
-        m_changes.grouping = true;
+    // To put many into order costs more than to draw a few apart from their like.
+    if (m_needsSorting || m_outOfOrder > MostOutOfOrder + m_opaque.size() / 8) {
+        m_changes.orders = true;
         sort();
     }
     return true;
@@ -321,10 +324,15 @@ void xsg::RenderList::patchItem(std::uint32_t index, const SoShape* shape, const
     GpuGeometry* geometry = item.geometry;
     const int surroundings = item.surroundings;
     const bool isTransparent = item.isTransparent;
+    const bool isDrawn = geometry->indexCount > 0;
     fillItem(item, shape, toWorld);
     m_geometry->giveBack(geometry);
-    if (item.geometry != geometry || item.surroundings != surroundings || item.isTransparent != isTransparent)
+    if (item.isTransparent != isTransparent || (item.geometry->indexCount > 0) != isDrawn)
         m_needsSorting = true;
+    if (item.geometry == geometry && item.surroundings == surroundings)
+        return;
+    m_changes.regrouped.push_back(index);
+    ++m_outOfOrder;
 }
 
 std::uint32_t xsg::RenderList::firstItemAfter(std::size_t recordIndex) const
@@ -387,6 +395,7 @@ int xsg::RenderList::surroundingsNow()
 
 void xsg::RenderList::sort()
 {
+    m_outOfOrder = 0;
     m_opaque.clear();
     m_transparent.clear();
     for (std::uint32_t i = 0; i < m_items.size(); ++i) {

@@ -58,8 +58,9 @@ public:
     // What is different from what was there when changes were last taken.
     struct Changes {
         bool all = false;
-        bool grouping = false; // what an item shares with its neighbours; the orders may be others
+        bool orders = false; // they may be others
         std::vector<std::uint32_t> items;
+        std::vector<std::uint32_t> regrouped; // of the items those that share something else with their neighbours now
     };
 
     // What a scene unfolds to beyond this is left out.
@@ -73,7 +74,7 @@ public:
     void collectItemsOf(std::uint64_t nodeId, std::vector<std::uint32_t>& items) const;
 
     const std::vector<RenderItem>& getItems() const { return m_items; }
-    // Items by surroundings, then geometry.
+    // Items by surroundings, then geometry; but for a few that have changed since they were put into order.
     const std::vector<std::uint32_t>& getOpaque() const { return m_opaque; }
     const std::vector<std::uint32_t>& getTransparent() const { return m_transparent; }
     const std::vector<CallbackItem>& getCallbacks() const { return m_callbacks; }
@@ -163,6 +164,7 @@ private:
     bool m_gaveUp = false;
     bool m_reaches = false; // a change before this place reaches what is visited
     bool m_needsSorting = false;
+    std::size_t m_outOfOrder = 0; // items that have been regrouped since they were put into order
     std::size_t m_firstPatched = 0; // among the items of m_changes
     std::size_t m_cursor = 0;
     std::vector<char> m_reachesBefore; // of the isolating groups that are open

@@ -227,7 +227,7 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
 
 void SoRenderer::Impl::drawOpaque(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum)
 {
-    m_opaque.update(list.getOpaque(), list.getItems(), changes, !changes.grouping);
+    m_opaque.update(list.getOpaque(), list.getItems(), changes, !changes.orders);
     m_opaque.findVisible(frustum, list.getItems(), m_visible);
     std::uint32_t seen = 0;
     for (const xsg::Run& run : m_visible)

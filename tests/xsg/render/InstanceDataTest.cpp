@@ -3,6 +3,7 @@
 
 #include <xsg/base/SbRotation.h>
 #include <xsg/nodes/SoCube.h>
+#include <xsg/nodes/SoCylinder.h>
 #include <xsg/nodes/SoDirectionalLight.h>
 #include <xsg/nodes/SoDrawStyle.h>
 #include <xsg/nodes/SoIndexedTriangleSet.h>
@@ -21,7 +22,8 @@ constexpr std::int64_t BytesOfACopy = 128;
 class InstanceData : public Picture
 {
 protected:
-    // A row of small cubes along x, -`half` to `half`.
+    // A row of small shapes along x, -`half` to `half`.
+    template <class Shape = SoCube>
     void addRow(int count, float half)
     {
         for (int i = 0; i < count; ++i) {
@@ -29,7 +31,7 @@ protected:
             auto* transform = new SoTransform;
             transform->translation.setValue(half * (2 * static_cast<float>(i) / static_cast<float>(count - 1) - 1), 0, 0);
             transform->scaleFactor.setValue(0.05F, 0.05F, 0.05F);
-            for (SoNode* node : std::initializer_list<SoNode*>{transform, new SoMaterial, new SoCube})
+            for (SoNode* node : std::initializer_list<SoNode*>{transform, new SoMaterial, new Shape})
                 group->addChild(node);
             root->addChild(group);
         }
@@ -41,6 +43,7 @@ protected:
     }
     SoTransform& transformOf(int place) { return part<SoTransform>(place, 0); }
     SoMaterial& materialOf(int place) { return part<SoMaterial>(place, 1); }
+    SoSFBitMask& partsOf(int place) { return part<SoCylinder>(place, 2).parts; }
     static const SoRenderer::Statistics& statistics() { return renderer().getRenderer().getStatistics(); }
 
     void expectUploads(std::int64_t uploads, std::int64_t copies)
@@ -221,9 +224,55 @@ TEST_F(InstanceData, ManyTransparentCopiesAreDrawnTogether)
     EXPECT_EQ(statistics().triangles, 1200);
 }
 
+TEST_F(InstanceData, AShapeThatChangesLeavesItsLikeAndComesBackToThem)
+{
+    addRow<SoCylinder>(9, 1);
+    const SoPixels before = draw();
+    constexpr int Whole = SoCylinder::All;
+    constexpr int Pipe = SoCylinder::Sides;
+    constexpr int Cup = SoCylinder::Sides | SoCylinder::Bottom;
+    struct Step {
+        int place;
+        int parts;
+        int calls;
+    };
+    for (const Step& step : std::initializer_list<Step>{
+             {4, Pipe, 3}, {5, Pipe, 3}, {7, Pipe, 5}, {6, Pipe, 3}, {0, Pipe, 4}, {8, Pipe, 3}, {5, Cup, 5}, {5, Pipe, 3},
+             {0, Whole, 2}, {6, Whole, 4}, {4, Whole, 4}, {5, Whole, 2}, {7, Whole, 2}, {8, Whole, 1}, {4, 0, 1},
+             {4, Whole, 1}}) {
+        partsOf(step.place).setValue(step.parts);
+        EXPECT_EQ(draw().rgba, drawAfresh().rgba);
+        EXPECT_EQ(statistics().drawCalls, step.calls) << step.place << ' ' << step.parts;
+    }
+    EXPECT_EQ(draw().rgba, before.rgba);
+}
+
+// Nothing is uploaded but its geometry and its own copy, however many others there are.
+TEST_F(InstanceData, AShapeThatChangesLeavesTheOthersAlone)
+{
+    addRow<SoCylinder>(1000, 1);
+    draw();
+    partsOf(500).setValue(SoCylinder::Sides);
+    draw();
+    EXPECT_EQ(statistics().bufferUploads, 2);
+    EXPECT_LT(statistics().uploadedBytes, 200 * BytesOfACopy);
+}
+
+// They would need a call each where they stand.
+TEST_F(InstanceData, ManyShapesThatChangeOneByOneAreGroupedAgain)
+{
+    addRow<SoCylinder>(200, 1);
+    draw();
+    for (int place = 0; place < 200; place += 2) {
+        partsOf(place).setValue(SoCylinder::Sides);
+        draw();
+    }
+    EXPECT_LE(statistics().drawCalls, 64);
+}
+
 TEST_F(InstanceData, AnyRowOfEditsLooksAsIfDrawnAfresh)
 {
-    addRow(80, 1.5F);
+    addRow<SoCylinder>(80, 1.5F);
     std::mt19937 random(7);
     const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     const auto fraction = [&] { return static_cast<float>(below(100)) / 50 - 1; };
@@ -232,7 +281,7 @@ TEST_F(InstanceData, AnyRowOfEditsLooksAsIfDrawnAfresh)
         std::string done;
         for (int edits = below(round % 8 == 0 ? 25 : 3); edits >= 0; --edits) {
             const int place = below(root->getNumChildren());
-            const int what = below(8);
+            const int what = below(10);
             done += std::to_string(what) + '@' + std::to_string(place) + ' ';
             if (what == 0)
                 root->insertChild(new SoMaterial, place);
@@ -246,6 +295,8 @@ TEST_F(InstanceData, AnyRowOfEditsLooksAsIfDrawnAfresh)
                 materialOf(place).transparency.setValue(below(2) == 0 ? 0 : 0.4F);
             else if (what == 4)
                 materialOf(place).diffuseColor.setValue(SbColor(1, 0, 1));
+            else if (what == 5)
+                partsOf(place).setValue(below(4)); // none at all among them
             else
                 transformOf(place).translation.setValue(3 * fraction(), fraction(), fraction());
         }
