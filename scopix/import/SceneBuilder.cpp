@@ -12,6 +12,7 @@
 #include <xsg/nodes/SoPointLight.h>
 #include <xsg/nodes/SoPoints.h>
 #include <xsg/nodes/SoSpotLight.h>
+#include <xsg/nodes/SoSwitch.h>
 #include <xsg/nodes/SoTexture2.h>
 #include <xsg/nodes/SoTextureCoordinates.h>
 #include <xsg/nodes/SoTransformation.h>
@@ -230,13 +231,17 @@ private:
         return shining(node, light);
     }
 
+    // Within a switch that leaves it out: many models carry a camera from when they were made, which shows nothing or too
+    // little of them.
     static SoNode* makeCamera(const ModelData::Camera& camera)
     {
-        SoCamera* result = makeLens(camera);
-        result->position.setValue(camera.position);
-        result->orientation.setValue(camera.orientation);
-        result->nearDistance.setValue(camera.nearDistance);
-        result->farDistance.setValue(camera.farDistance);
+        SoCamera* eye = makeLens(camera);
+        eye->position.setValue(camera.position);
+        eye->orientation.setValue(camera.orientation);
+        eye->nearDistance.setValue(camera.nearDistance);
+        eye->farDistance.setValue(camera.farDistance);
+        auto* result = new SoSwitch;
+        result->addChild(eye);
         return result;
     }
 

@@ -12,6 +12,7 @@
 #include <xsg/nodes/SoPerspectiveCamera.h>
 #include <xsg/nodes/SoPointLight.h>
 #include <xsg/nodes/SoSpotLight.h>
+#include <xsg/nodes/SoSwitch.h>
 
 #include <assimp/scene.h>
 
@@ -138,10 +139,14 @@ TEST_F(Lights, ACameraWithPerspectiveKeepsItsAngle)
     EXPECT_NEAR(camera->heightAngle.getValue(), 0.8F, 1e-4F);
 }
 
-TEST_F(Lights, ACameraStandsWhereItsNodeDoes)
+TEST_F(Lights, ACameraIsLookedThroughOnceChosenAndStandsWhereItsNodeDoes)
 {
     const auto scene = open(R"({"cameras":[{"type":"perspective","perspective":{"yfov":0.8,"znear":0.5}}]})",
                             R"({"camera":0})");
+    EXPECT_FALSE(scopix::findSceneCamera(scene.get()).camera);
+    auto* choice = find<SoSwitch>(scene.get());
+    ASSERT_TRUE(choice);
+    choice->whichChild.setValue(0);
     const scopix::SceneCamera seen = scopix::findSceneCamera(scene.get());
     ASSERT_TRUE(seen.camera);
     EXPECT_EQ(seen.toWorld.multPoint(seen.camera->position.getValue()), SbVec3f(2, 4, 6));
