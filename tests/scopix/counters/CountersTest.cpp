@@ -148,18 +148,19 @@ TEST(Counters, EachViewShowsEachCounterInItsColour)
          {std::array{"m_curve", "m_curvePlot", "counters-curves"}, std::array{"m_graph", "m_graphPlot", "counters-bars"},
           std::array{"m_text", "m_textView", "counters-text"}}) {
         session.click(button);
-        const int next = samples.count() + 2;
-        session.orbit([&] { return samples.count() >= next; });
+        const bool isPlot = session.part(view)->findChild<QWidget*>("QwtPlotCanvas");
         for (const char* name : {"Frames", "DrawCalls"}) {
-            if (session.part(view)->findChild<QWidget*>("QwtPlotCanvas")) {
-                // Curves that run together hide one another for a while.
-                const auto isSeen = [&] { return session.pixelsOf(view, session.legendColor(name)) > 5; };
-                const int most = samples.count() + 100;
-                session.orbit([&] { return isSeen() || samples.count() >= most; });
-                EXPECT_TRUE(isSeen()) << name << " in " << view;
-            } else {
-                EXPECT_GT(session.shownValue(name), 0) << name;
-            }
+            // Curves that run together hide one another now and then, and on a busy machine a sample may see no frame.
+            bool isSeen = false;
+            const int next = samples.count() + 2;
+            const int most = samples.count() + 100;
+            session.orbit([&] {
+                isSeen = isSeen || (samples.count() >= next &&
+                                    (isPlot ? session.pixelsOf(view, session.legendColor(name)) > 5
+                                            : session.shownValue(name) > 0));
+                return isSeen || samples.count() >= most;
+            });
+            EXPECT_TRUE(isSeen) << name << " in " << view;
         }
         savePicture(*session.dock(), picture);
     }
