@@ -52,14 +52,6 @@ protected:
         EXPECT_EQ(statistics().bufferUploads, uploads);
         EXPECT_EQ(statistics().uploadedBytes, copies * BytesOfACopy);
     }
-    SoPixels drawAfresh()
-    {
-        SoOffscreenRenderer fresh;
-        fresh.getRenderer().setBackground({0, 0, 1});
-        SoPixels pixels;
-        EXPECT_TRUE(fresh.render(root.get(), camera.get(), 64, 64, pixels)) << fresh.getErrorText();
-        return pixels;
-    }
 };
 
 } // namespace

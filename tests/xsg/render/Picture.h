@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <xsg/nodes/SoMaterial.h>
 #include <xsg/nodes/SoPerspectiveCamera.h>
 #include <xsg/nodes/SoSeparator.h>
 #include <xsg/render/SoOffscreenRenderer.h>
@@ -42,11 +43,29 @@ protected:
         return node;
     }
 
+    SoMaterial* addMaterial(const SbColor& color)
+    {
+        auto* material = add<SoMaterial>();
+        material->ambientColor.setValue(SbColor(0, 0, 0));
+        material->diffuseColor.setValue(color);
+        return material;
+    }
+
     SoPixels draw(int width = 64, int height = 64)
     {
         SoPixels pixels;
         EXPECT_TRUE(renderer().render(root.get(), camera.get(), width, height, pixels))
             << renderer().getErrorText();
+        return pixels;
+    }
+
+    // By a renderer that has not seen the scene before.
+    SoPixels drawAfresh()
+    {
+        SoOffscreenRenderer fresh;
+        fresh.getRenderer().setBackground({0, 0, 1});
+        SoPixels pixels;
+        EXPECT_TRUE(fresh.render(root.get(), camera.get(), 64, 64, pixels)) << fresh.getErrorText();
         return pixels;
     }
 
