@@ -18,9 +18,9 @@ constexpr float Filled = 0.88F;
 constexpr float Thinnest = 1e-6F;
 constexpr float ThinnestPart = 0.01F;
 
-std::vector<SoCamera*>& allCameras()
+std::unordered_set<SoCamera*>& allCameras()
 {
-    static auto& cameras = *new std::vector<SoCamera*>;
+    static auto& cameras = *new std::unordered_set<SoCamera*>;
     return cameras;
 }
 
@@ -28,16 +28,15 @@ std::vector<SoCamera*>& allCameras()
 
 SoCamera::SoCamera()
 {
-    allCameras().push_back(this);
+    allCameras().insert(this);
 }
 
 SoCamera::~SoCamera()
 {
-    auto& cameras = allCameras();
-    cameras.erase(std::find(cameras.begin(), cameras.end(), this));
+    allCameras().erase(this);
 }
 
-const std::vector<SoCamera*>& SoCamera::getAll()
+const std::unordered_set<SoCamera*>& SoCamera::getAll()
 {
     return allCameras();
 }

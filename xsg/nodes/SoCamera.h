@@ -11,6 +11,7 @@
 #include <xsg/nodes/SoNode.h>
 
 #include <array>
+#include <unordered_set>
 
 class XSG_API SoCamera : public SoTyped<SoCamera, SoNode>
 {
@@ -24,8 +25,8 @@ public:
     SoSFFloat focalDistance{this, "focalDistance", 5.0F}; // to the point that it turns around
 
     SoCamera();
-    // All that live, whether they stand in a scene or not, the oldest first.
-    static const std::vector<SoCamera*>& getAll();
+    // All that live, whether they stand in a scene or not.
+    static const std::unordered_set<SoCamera*>& getAll();
 
     void apply(SoState& state) const override;
 

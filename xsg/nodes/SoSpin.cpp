@@ -13,9 +13,9 @@ template class SoTyped<SoSpin, SoTransformation>;
 namespace
 {
 
-std::vector<SoSpin*>& allSpins()
+std::unordered_set<SoSpin*>& allSpins()
 {
-    static auto& spins = *new std::vector<SoSpin*>;
+    static auto& spins = *new std::unordered_set<SoSpin*>;
     return spins;
 }
 
@@ -23,13 +23,12 @@ std::vector<SoSpin*>& allSpins()
 
 SoSpin::SoSpin()
 {
-    allSpins().push_back(this);
+    allSpins().insert(this);
 }
 
 SoSpin::~SoSpin()
 {
-    auto& spins = allSpins();
-    spins.erase(std::find(spins.begin(), spins.end(), this));
+    allSpins().erase(this);
 }
 
 SbMatrix SoSpin::getMatrix() const
@@ -65,7 +64,7 @@ bool SoSpin::isAnyTurning(const SoNode* root)
 bool SoSpin::advanceAll(SbTime elapsed, const SoNode* root)
 {
     bool any = false;
-    for (SoSpin* spin : std::vector<SoSpin*>(allSpins())) {
+    for (SoSpin* spin : std::vector<SoSpin*>(allSpins().begin(), allSpins().end())) {
         if (!spin->isTurning(root))
             continue;
         spin->time.setValue(spin->time.getValue().getValue() + elapsed.getValue());
