@@ -3,8 +3,8 @@
 #include "Ratios.h"
 #include "world_scene.h"
 
-#include <xsg/io/SoSceneFile.h>
-#include <xsg/nodes/SoPoints.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/properties/SoPoints.h>
 
 #include <cstdlib>
 #include <malloc.h>

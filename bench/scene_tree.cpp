@@ -3,11 +3,11 @@
 // are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
 #include "Ratios.h"
 
-#include "view/SceneTreeModel.h"
-#include "view/SceneTreeView.h"
+#include "panels/SceneTreeModel.h"
+#include "panels/SceneTreeView.h"
 
-#include <xsg/nodes/SoCube.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QApplication>

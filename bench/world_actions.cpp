@@ -7,7 +7,7 @@
 #include "Ratios.h"
 #include "world_measures.h"
 
-#include <xsg/io/SoSceneFile.h>
+#include <xsg/files/SoSceneFile.h>
 
 namespace
 {

@@ -3,8 +3,8 @@
 
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/SoFieldGallery.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>

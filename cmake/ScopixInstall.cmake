@@ -27,7 +27,7 @@ scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_install_headers(extender scopix)
 
 scopix_install_library(ScopixHost Host)
-scopix_install_headers(scopix scopix-host)
+scopix_install_headers(host scopix-host)
 set_property(TARGET ScopixHost APPEND PROPERTY
   INTERFACE_INCLUDE_DIRECTORIES "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/scopix-host>")
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <scopix/SpxExtension.h>
-#include <xsg/core/SoTypedObject.h>
+#include <xsg/types/SoTypedObject.h>
 
 class QWidget;
 

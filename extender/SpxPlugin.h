@@ -7,7 +7,7 @@
 #pragma once
 
 #include <scopix/SpxExport.h>
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 #include <QList>
 

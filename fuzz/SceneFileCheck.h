@@ -5,9 +5,9 @@
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
-#include <xsg/io/SoSceneFile.h>
-#include <xsg/nodes/SoFieldGallery.h>
-#include <xsg/nodes/SoGroup.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
+#include <xsg/nodes/groups/SoGroup.h>
 
 #include <algorithm>
 #include <set>

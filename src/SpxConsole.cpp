@@ -5,7 +5,7 @@
 #include "ui_SpxConsole.h"
 
 #include <scopix/SpxShell.h>
-#include <xsg/base/SoPreferences.h>
+#include <xsg/support/SoPreferences.h>
 #include <xsg/errors/SoDebugError.h>
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "SpxFieldEditorDockWin.h"
 
 #include <scopix/SpxServices.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 SpxFieldEditorDockWin::SpxFieldEditorDockWin()
     : SpxEditorDock("Field Editor")

@@ -3,7 +3,7 @@
 #include "SetFieldCommand.h"
 
 #include <scopix/SpxServices.h>
-#include <xsg/nodes/SoDirectionalLight.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 
 #include <QFormLayout>
 #include <QSignalBlocker>

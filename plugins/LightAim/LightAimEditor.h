@@ -3,7 +3,7 @@
 #pragma once
 
 #include <scopix/SpxEditor.h>
-#include <xsg/base/SbVec.h>
+#include <xsg/values/SbVec.h>
 #include <xsg/sensors/SoFieldSensor.h>
 
 #include <memory>

@@ -3,7 +3,7 @@
 
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoFieldContainer.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 class SetFieldCommand : public SpxCommand
 {

@@ -1,6 +1,6 @@
 #include "EdDefaultField.h"
 
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 #include <memory>
 

@@ -5,7 +5,7 @@
 #include "SpxFieldSetDefaultCommand.h"
 
 #include <scopix/SpxServices.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 void EdFieldEdits::record(std::unique_ptr<SpxCommand> command)
 {

@@ -6,7 +6,7 @@
 #include "SpxSFSetValueCommand.h"
 
 #include <scopix/SpxCommand.h>
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 #include <memory>
 #include <utility>

@@ -2,10 +2,10 @@
 
 #include "EdRangeSettings.h"
 
-#include <xsg/fields/SoField.h>
-#include <xsg/nodes/SoComplexity.h>
-#include <xsg/nodes/SoDirectionalLight.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/core/SoField.h>
+#include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 EdRangeComponent rangeOfField(const SoField& field, const char* defaultField)
 {

@@ -1,8 +1,8 @@
 // Texts between the scene graph and Qt, and numbers out of them. Always the C locale.
 #pragma once
 
-#include <xsg/base/SbName.h>
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbName.h>
+#include <xsg/values/SbString.h>
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "SpxFieldIgnoredCommand.h"
 
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 SpxFieldIgnoredCommand::SpxFieldIgnoredCommand(SoField* field, bool ignored)
     : m_field(field)

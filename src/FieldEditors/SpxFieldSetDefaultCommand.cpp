@@ -1,6 +1,6 @@
 #include "SpxFieldSetDefaultCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 SpxFieldSetDefaultCommand::SpxFieldSetDefaultCommand(SoField* field, SoField* defaultField)
     : m_field(field)

@@ -1,6 +1,6 @@
 #include "SpxMFAddRowsCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 SpxMFAddRowsCommand::SpxMFAddRowsCommand(SoMField* field, int start, int count)
     : m_field(field)

@@ -1,6 +1,6 @@
 #include "SpxMFDeleteRowsCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "SpxMFSetFieldValueCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 SpxMFSetFieldValueCommand::SpxMFSetFieldValueCommand(SoMField* field, int index)
     : m_field(field)

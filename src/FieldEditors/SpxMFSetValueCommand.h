@@ -3,7 +3,7 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 class SoMField;
 

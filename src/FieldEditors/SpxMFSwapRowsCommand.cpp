@@ -1,6 +1,6 @@
 #include "SpxMFSwapRowsCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 SpxMFSwapRowsCommand::SpxMFSwapRowsCommand(SoMField* field, int first, int second)
     : m_field(field)

@@ -1,6 +1,6 @@
 #include "SpxSFSetValueCommand.h"
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 #include <utility>
 

@@ -5,7 +5,7 @@
 #include "EdText.h"
 #include "SoPerfCounterProfile.h"
 
-#include <xsg/base/SoPreferences.h>
+#include <xsg/support/SoPreferences.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <QCoreApplication>

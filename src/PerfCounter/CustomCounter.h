@@ -1,7 +1,7 @@
 // What makes a counter that is computed from two others: as the file has it, as the dialog asks for it.
 #pragma once
 
-#include <xsg/base/SbName.h>
+#include <xsg/values/SbName.h>
 
 #include <QString>
 

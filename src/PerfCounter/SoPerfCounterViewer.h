@@ -4,7 +4,7 @@
 
 #include "ui_SoPerfCounterViewer.h"
 
-#include <xsg/base/SbTime.h>
+#include <xsg/values/SbTime.h>
 
 #include <QList>
 #include <QWidget>

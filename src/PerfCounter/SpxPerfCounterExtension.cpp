@@ -3,7 +3,7 @@
 #include "SoPerfCounterDockWin.h"
 
 #include <scopix/SpxShell.h>
-#include <xsg/base/SoPreferences.h>
+#include <xsg/support/SoPreferences.h>
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -140,7 +140,7 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "src", "scopix"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
 
 TEST(SceneGraph, KnowsNeitherQtNorTheContract)

@@ -1,9 +1,9 @@
 // A running host with the real plug-in and a node to edit, and ways to act in it as a person does.
 #pragma once
 
-#include "HostApplication.h"
+#include "app/HostApplication.h"
 
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QCheckBox>

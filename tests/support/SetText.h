@@ -3,7 +3,7 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 class SetText : public SpxCommand
 {

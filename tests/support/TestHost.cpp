@@ -1,7 +1,7 @@
 #include "TestHost.h"
 
 #include <xsg/core/SoFieldContainer.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QCoreApplication>

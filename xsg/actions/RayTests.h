@@ -1,8 +1,8 @@
 // Where a ray meets simple things. Distances are in units of the ray's direction.
 #pragma once
 
-#include <xsg/base/SbBox.h>
-#include <xsg/base/SbRay.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/values/SbRay.h>
 
 namespace xsg
 {

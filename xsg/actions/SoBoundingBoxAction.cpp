@@ -1,9 +1,9 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoShape.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoShape.h>
 
 #include <algorithm>
 

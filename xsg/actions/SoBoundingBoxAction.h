@@ -4,8 +4,8 @@
 #pragma once
 
 #include <xsg/actions/SoTraversal.h>
-#include <xsg/base/SbBox.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 
 class XSG_API SoBoundingBoxAction : private SoTraversal
 {

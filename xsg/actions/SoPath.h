@@ -1,7 +1,7 @@
 // The way from a root down to a node: each node is a child of the one before. Keeps a reference to each.
 #pragma once
 
-#include <xsg/nodes/SoGroup.h>
+#include <xsg/nodes/groups/SoGroup.h>
 
 class SoPath
 {

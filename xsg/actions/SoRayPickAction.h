@@ -1,10 +1,10 @@
 // Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
 #pragma once
 
-#include <xsg/actions/SoGeometry.h>
+#include <xsg/nodes/base/SoGeometry.h>
 #include <xsg/actions/SoPath.h>
 #include <xsg/actions/SoTraversal.h>
-#include <xsg/base/SbRay.h>
+#include <xsg/values/SbRay.h>
 
 #include <optional>
 #include <unordered_map>

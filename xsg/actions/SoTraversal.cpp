@@ -1,6 +1,6 @@
 #include <xsg/actions/SoTraversal.h>
 
-#include <xsg/nodes/SoShape.h>
+#include <xsg/nodes/shapes/SoShape.h>
 
 namespace
 {

@@ -3,8 +3,8 @@
 // reaches.
 #pragma once
 
-#include <xsg/actions/SoState.h>
-#include <xsg/nodes/SoGroup.h>
+#include <xsg/nodes/base/SoState.h>
+#include <xsg/nodes/groups/SoGroup.h>
 
 class SoShape;
 

@@ -1,7 +1,7 @@
 // Who has which name. Knows living containers only. Belongs to the graph's thread.
 #pragma once
 
-#include <xsg/base/SbName.h>
+#include <xsg/values/SbName.h>
 
 #include <cstdint>
 #include <unordered_map>

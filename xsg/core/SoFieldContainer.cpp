@@ -1,8 +1,8 @@
 #include <xsg/core/SoFieldContainer.h>
 
 #include <xsg/core/ContainerNames.h>
-#include <xsg/core/SoTypedImpl.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/core/SoField.h>
 #include <xsg/sensors/SoDataSensor.h>
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 
 #include <xsg/core/SoFieldData.h>
 #include <xsg/core/SoNotification.h>
-#include <xsg/core/SoTyped.h>
+#include <xsg/types/SoTyped.h>
 
 #include <memory>
 #include <vector>

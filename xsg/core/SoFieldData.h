@@ -1,7 +1,7 @@
 // The fields of a container, in the order in which its class declares them.
 #pragma once
 
-#include <xsg/base/SbName.h>
+#include <xsg/values/SbName.h>
 
 class SoField;
 class SoFieldContainer;

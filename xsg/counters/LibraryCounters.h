@@ -2,7 +2,7 @@
 // feed as a counter. A new counter is one feed here and one line of the table in the source.
 #pragma once
 
-#include <xsg/base/XsgExport.h>
+#include <xsg/values/XsgExport.h>
 #include <xsg/counters/SoPerfFeed.h>
 
 #include <memory>

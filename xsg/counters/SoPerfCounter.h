@@ -7,7 +7,7 @@
 // was removed.
 #pragma once
 
-#include <xsg/base/SbName.h>
+#include <xsg/values/SbName.h>
 #include <xsg/counters/SoPerfFeed.h>
 
 class XSG_API SoPerfCounter

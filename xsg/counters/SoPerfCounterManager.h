@@ -2,7 +2,7 @@
 // applications and tools add theirs. All operations are safe from any thread.
 #pragma once
 
-#include <xsg/base/SbTime.h>
+#include <xsg/values/SbTime.h>
 #include <xsg/counters/SoPerfAccumCounter.h>
 #include <xsg/counters/SoPerfStateCounter.h>
 

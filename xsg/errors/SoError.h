@@ -6,8 +6,8 @@
 // errors.
 #pragma once
 
-#include <xsg/base/SbString.h>
-#include <xsg/core/SoTyped.h>
+#include <xsg/values/SbString.h>
+#include <xsg/types/SoTyped.h>
 #include <xsg/errors/SoErrorHandler.h>
 
 // Gives an error class its type and its handler.

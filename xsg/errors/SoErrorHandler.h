@@ -1,7 +1,7 @@
 // The handler of one error class: a callback and its data. Every operation is safe from any thread.
 #pragma once
 
-#include <xsg/base/XsgExport.h>
+#include <xsg/values/XsgExport.h>
 
 #include <condition_variable>
 #include <memory>

@@ -1,4 +1,4 @@
-#include <xsg/core/SoTypedImpl.h>
+#include <xsg/types/SoTypedImpl.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoErrorStack.h>
 #include <xsg/errors/SoGLError.h>

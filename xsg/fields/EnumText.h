@@ -1,7 +1,7 @@
 // The text forms of enumeration and bit-mask values, shared by the single- and multi-value fields.
 #pragma once
 
-#include <xsg/base/XsgText.h>
+#include <xsg/values/XsgText.h>
 #include <xsg/fields/SoEnumTable.h>
 
 namespace xsg

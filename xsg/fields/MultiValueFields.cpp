@@ -7,7 +7,7 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
-#include <xsg/fields/SoMFNode.h>
+#include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>

@@ -1,8 +1,8 @@
 // The text of lists of numbers and of vectors, as fast as the numbers' own.
 #pragma once
 
-#include <xsg/base/XsgNumbers.h>
-#include <xsg/base/XsgText.h>
+#include <xsg/values/XsgNumbers.h>
+#include <xsg/values/XsgText.h>
 
 #include <vector>
 

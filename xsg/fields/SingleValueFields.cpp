@@ -9,7 +9,7 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
-#include <xsg/fields/SoSFNode.h>
+#include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>

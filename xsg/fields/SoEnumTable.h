@@ -2,7 +2,7 @@
 // class.
 #pragma once
 
-#include <xsg/base/SbName.h>
+#include <xsg/values/SbName.h>
 
 #include <initializer_list>
 #include <memory>

@@ -1,8 +1,8 @@
 // The template behind every multi-value field whose values are a plain type with an XsgText.
 #pragma once
 
-#include <xsg/base/XsgText.h>
-#include <xsg/fields/SoMField.h>
+#include <xsg/values/XsgText.h>
+#include <xsg/core/SoMField.h>
 
 #include <initializer_list>
 #include <vector>

@@ -1,7 +1,7 @@
 #include <xsg/fields/SoSFEnum.h>
 
-#include <xsg/base/XsgNumbers.h>
-#include <xsg/core/SoTypedImpl.h>
+#include <xsg/values/XsgNumbers.h>
+#include <xsg/types/SoTypedImpl.h>
 #include <xsg/fields/EnumText.h>
 #include <xsg/fields/SoSFBitMask.h>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/fields/SoEnumTable.h>
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 class XSG_API SoSFEnum : public SoTyped<SoSFEnum, SoSField>
 {

@@ -1,7 +1,7 @@
 #include <xsg/fields/SoSFImage.h>
 
-#include <xsg/base/XsgText.h>
-#include <xsg/core/SoTypedImpl.h>
+#include <xsg/values/XsgText.h>
+#include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoSFImage, SoSField>;
 

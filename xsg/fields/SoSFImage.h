@@ -3,7 +3,7 @@
 // picture.
 #pragma once
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 class XSG_API SoSFImage : public SoTyped<SoSFImage, SoSField>
 {

@@ -1,8 +1,8 @@
 // The template behind every single-value field whose value is a plain type with an XsgText.
 #pragma once
 
-#include <xsg/base/XsgText.h>
-#include <xsg/fields/SoSField.h>
+#include <xsg/values/XsgText.h>
+#include <xsg/core/SoSField.h>
 
 // Base lets a field derive from another field's class; it is SoSField for most.
 template <class T, class Base = SoSField>

@@ -4,8 +4,8 @@
 //     template class SoTyped<SoSFFloat, SoSValue<float>>;
 #pragma once
 
-#include <xsg/base/XsgNumbers.h>
-#include <xsg/core/SoTypedImpl.h>
+#include <xsg/values/XsgNumbers.h>
+#include <xsg/types/SoTypedImpl.h>
 #include <xsg/fields/NumberLists.h>
 #include <xsg/fields/SoMValue.h>
 #include <xsg/fields/SoSValue.h>

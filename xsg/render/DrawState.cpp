@@ -1,7 +1,7 @@
 #include <xsg/render/DrawState.h>
 
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoFog.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoFog.h>
 
 #include <algorithm>
 

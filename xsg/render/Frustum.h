@@ -1,9 +1,9 @@
 // What a camera can see, as planes.
 #pragma once
 
-#include <xsg/actions/ChunkBoxes.h>
-#include <xsg/base/SbBox.h>
-#include <xsg/base/SbMatrix.h>
+#include <xsg/nodes/base/ChunkBoxes.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/values/SbMatrix.h>
 
 namespace xsg
 {

@@ -1,8 +1,8 @@
 // Geometry in vertex buffers, made once per key and kept while scenes use it.
 #pragma once
 
-#include <xsg/actions/SoGeometry.h>
-#include <xsg/nodes/SoShape.h>
+#include <xsg/nodes/base/SoGeometry.h>
+#include <xsg/nodes/shapes/SoShape.h>
 #include <xsg/render/GlFunctions.h>
 
 #include <unordered_map>

@@ -1,6 +1,6 @@
 #include <xsg/render/GlMessages.h>
 
-#include <xsg/base/SoPreferences.h>
+#include <xsg/support/SoPreferences.h>
 #include <xsg/errors/SoGLError.h>
 
 #include <cstring>

@@ -2,7 +2,7 @@
 // there again only where it changed.
 #pragma once
 
-#include <xsg/actions/ChunkBoxes.h>
+#include <xsg/nodes/base/ChunkBoxes.h>
 #include <xsg/render/Frustum.h>
 #include <xsg/render/RenderList.h>
 

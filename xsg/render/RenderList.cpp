@@ -1,10 +1,10 @@
 #include <xsg/render/RenderList.h>
 
-#include <xsg/nodes/SoCamera.h>
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoDrawingCallback.h>
-#include <xsg/nodes/SoLight.h>
-#include <xsg/nodes/SoTexture2.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/nodes/lights/SoLight.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 
 #include <algorithm>
 #include <tuple>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <xsg/actions/SoTraversal.h>
-#include <xsg/base/SbBox.h>
-#include <xsg/actions/ChunkBoxes.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/nodes/base/ChunkBoxes.h>
 #include <xsg/render/GeometryStore.h>
 #include <xsg/render/Shader.h>
 #include <xsg/render/SharedLists.h>

@@ -1,7 +1,7 @@
 // The one program that draws everything, and its settings.
 #pragma once
 
-#include <xsg/actions/SoState.h>
+#include <xsg/nodes/base/SoState.h>
 #include <xsg/render/GlFunctions.h>
 
 namespace xsg

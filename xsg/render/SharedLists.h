@@ -1,7 +1,7 @@
 // Makes equal lists one and the same, so that comparing two of them is comparing two pointers.
 #pragma once
 
-#include <xsg/actions/SoState.h>
+#include <xsg/nodes/base/SoState.h>
 
 #include <unordered_map>
 

@@ -1,9 +1,9 @@
 #include <xsg/render/SoRenderer.h>
 
-#include <xsg/base/SbTime.h>
+#include <xsg/values/SbTime.h>
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/nodes/SoDrawingCallback.h>
-#include <xsg/nodes/SoPerspectiveCamera.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/render/DrawState.h>
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>

@@ -7,9 +7,9 @@
 // current, on the scene's thread. Several renderers, each with its context, may show the same scene.
 #pragma once
 
-#include <xsg/base/SbBox.h>
-#include <xsg/base/SbMatrix.h>
-#include <xsg/base/XsgExport.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/values/SbMatrix.h>
+#include <xsg/values/XsgExport.h>
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 // Pictures as OpenGL textures, made once per texture node and quality and kept while scenes use them.
 #pragma once
 
-#include <xsg/nodes/SoTexture2.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/render/GlFunctions.h>
 
 #include <map>

@@ -1,7 +1,7 @@
 #include <xsg/sensors/SoDataSensor.h>
 
 #include <xsg/core/SoFieldContainer.h>
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>

@@ -3,7 +3,7 @@
 // re-attaching a sensor is safe at any time, inside any callback too. Belongs to the graph's thread.
 #pragma once
 
-#include <xsg/base/XsgExport.h>
+#include <xsg/values/XsgExport.h>
 
 #include <cstddef>
 

@@ -8,7 +8,7 @@
 // Belongs to the graph's thread.
 #pragma once
 
-#include <xsg/base/SbTime.h>
+#include <xsg/values/SbTime.h>
 #include <xsg/sensors/SoSensor.h>
 
 #include <functional>

@@ -1,7 +1,7 @@
 // A sensor that waits for a moment of the queue's clock and then runs in the turn that follows.
 #pragma once
 
-#include <xsg/base/SbTime.h>
+#include <xsg/values/SbTime.h>
 #include <xsg/sensors/SoSensor.h>
 
 class XSG_API SoTimedSensor : public SoSensor

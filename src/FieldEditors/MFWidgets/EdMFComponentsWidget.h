@@ -16,7 +16,7 @@
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 namespace componentText
 {

@@ -2,7 +2,7 @@
 
 #include "EdFieldEdits.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 EdMFDefaultFieldWidget::EdMFDefaultFieldWidget(const char* name)
     : EdMFLineWidget(name)

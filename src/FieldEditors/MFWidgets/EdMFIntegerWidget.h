@@ -4,7 +4,7 @@
 #include "EdMFLineWidget.h"
 #include "EdMFieldTable.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 template <class Traits>
 class EdMFIntegerWidget : public EdMFLineWidget

@@ -2,7 +2,7 @@
 
 #include "EdText.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 EdMFLineWidget::EdMFLineWidget(const char* name)
     : EdMFieldWidget(name)

@@ -6,7 +6,7 @@
 #include "EdMFieldTable.h"
 #include "EdFieldRange.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 template <class Traits>
 class EdMFRealWidget : public EdMFLineWidget

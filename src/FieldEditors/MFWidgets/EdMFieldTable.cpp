@@ -10,7 +10,7 @@
 #include "SpxMFDeleteRowsCommand.h"
 #include "SpxMFSwapRowsCommand.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -7,7 +7,7 @@
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 #include <QFrame>
 #include <QGridLayout>

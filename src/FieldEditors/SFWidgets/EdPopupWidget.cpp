@@ -6,7 +6,7 @@
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 #include <QFrame>
 #include <QGridLayout>

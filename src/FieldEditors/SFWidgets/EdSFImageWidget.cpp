@@ -3,7 +3,7 @@
 #include "EdSFImageLabel.h"
 #include "FieldEditorSettings.h"
 
-#include <xsg/base/XsgMalloc.h>
+#include <xsg/support/XsgMalloc.h>
 #include <xsg/fields/SoSFImage.h>
 
 #include <QBoxLayout>

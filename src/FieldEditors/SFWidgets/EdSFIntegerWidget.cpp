@@ -4,7 +4,7 @@
 #include "EdRangeSettings.h"
 #include "EdText.h"
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 template <class Slider>
 EdSFIntegerWidget<Slider>::EdSFIntegerWidget(SFFrameType frameType, const char* name)

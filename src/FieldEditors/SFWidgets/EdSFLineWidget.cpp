@@ -4,7 +4,7 @@
 #include "EdLineEdit.h"
 #include "EdText.h"
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 #include <QBoxLayout>
 #include <QFrame>

@@ -4,7 +4,7 @@
 
 #include "EdSFieldWidget.h"
 
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 class EdLineEdit;
 

@@ -8,7 +8,7 @@
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
 
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -3,7 +3,7 @@
 // one. What the program shows or moves never does. The variants carry the number; GUI thread only.
 #pragma once
 
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 #include <QFrame>
 

@@ -2,7 +2,7 @@
 #include "support/TestHost.h"
 
 #include <scopix/SpxPlugin.h>
-#include <xsg/nodes/SoDirectionalLight.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 
 #include <support/TestHost.h>
 #include <xsg/fields/SoMFInt32.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "ProbeEditor.h"
 
 #include <support/TestHost.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The plug-in as the host gets it: a library loaded by name.
 #include <support/TestHost.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <scopix/SpxPlugin.h>
 

@@ -26,7 +26,7 @@
 
 #include <xsg/fields/SoMFBool.h>
 #include <xsg/fields/SoMFColor.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QColorDialog>
 #include <QTimer>

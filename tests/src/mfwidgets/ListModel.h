@@ -2,7 +2,7 @@
 // type only how one element is written.
 #pragma once
 
-#include <xsg/base/SbString.h>
+#include <xsg/values/SbString.h>
 
 #include <algorithm>
 #include <functional>

@@ -7,7 +7,7 @@
 #include "EdText.h"
 #include "support/TestHost.h"
 
-#include <xsg/fields/SoMField.h>
+#include <xsg/core/SoMField.h>
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "Person.h"
 #include "support/TestHost.h"
 
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 #include <QCheckBox>
 #include <QFrame>

@@ -6,7 +6,7 @@
 #include "SpxFieldEditorDockWin.h"
 
 #include <xsg/core/SoFieldContainer.h>
-#include <xsg/fields/SoSField.h>
+#include <xsg/core/SoSField.h>
 
 #include <memory>
 #include <vector>

@@ -2,7 +2,7 @@
 #include "EdSFImageWidget.h"
 #include "EditedField.h"
 
-#include <xsg/base/XsgMalloc.h>
+#include <xsg/support/XsgMalloc.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFImage.h>
 

@@ -13,9 +13,9 @@
 #include <xsg/fields/SoSFShort.h>
 #include <xsg/fields/SoSFUInt32.h>
 #include <xsg/fields/SoSFUShort.h>
-#include <xsg/nodes/SoComplexity.h>
-#include <xsg/nodes/SoDirectionalLight.h>
-#include <xsg/nodes/SoMaterial.h>
+#include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QTest>
 

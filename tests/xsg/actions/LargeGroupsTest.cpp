@@ -4,14 +4,14 @@
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
-#include <xsg/nodes/SoCube.h>
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoIndexedPointSet.h>
-#include <xsg/nodes/SoLevelOfDetail.h>
-#include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoSeparator.h>
-#include <xsg/nodes/SoSphere.h>
-#include <xsg/nodes/SoTransform.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/shapes/SoIndexedPointSet.h>
+#include <xsg/nodes/groups/SoLevelOfDetail.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 #include <random>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoNodeSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>
 

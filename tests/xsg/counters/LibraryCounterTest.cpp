@@ -1,11 +1,11 @@
 // The library's own counters count where the work happens.
 #include <gtest/gtest.h>
 
-#include <xsg/base/XsgMalloc.h>
+#include <xsg/support/XsgMalloc.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/SoFieldGallery.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>
 

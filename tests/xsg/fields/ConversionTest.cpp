@@ -7,7 +7,7 @@
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFString.h>
-#include <xsg/nodes/SoFieldGallery.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
 
 #include "FieldSamples.h"
 

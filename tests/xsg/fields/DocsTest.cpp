@@ -1,7 +1,7 @@
 // Holds docs/fields.md against the registered field types.
 #include <gtest/gtest.h>
 
-#include <xsg/nodes/SoFieldGallery.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
 
 #include "FieldSamples.h"
 

@@ -1,7 +1,7 @@
 // What every field type reads and refuses, made from one row per type.
 #pragma once
 
-#include <xsg/fields/SoField.h>
+#include <xsg/core/SoField.h>
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <xsg/base/SbRotation.h>
-#include <xsg/nodes/SoOrthographicCamera.h>
-#include <xsg/nodes/SoPerspectiveCamera.h>
+#include <xsg/values/SbRotation.h>
+#include <xsg/nodes/cameras/SoOrthographicCamera.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <xsg/fields/SoSFBox3f.h>
-#include <xsg/nodes/SoNode.h>
+#include <xsg/nodes/base/SoNode.h>
 
 #include <fstream>
 #include <set>

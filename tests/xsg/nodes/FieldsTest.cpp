@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <xsg/fields/SoField.h>
-#include <xsg/nodes/SoNode.h>
+#include <xsg/core/SoField.h>
+#include <xsg/nodes/base/SoNode.h>
 
 namespace
 {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <xsg/base/SbRotation.h>
-#include <xsg/nodes/SoMatrixTransform.h>
-#include <xsg/nodes/SoTransform.h>
+#include <xsg/values/SbRotation.h>
+#include <xsg/nodes/transforms/SoMatrixTransform.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 namespace
 {

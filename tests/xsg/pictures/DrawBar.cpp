@@ -1,6 +1,6 @@
 #include "DrawBar.h"
 
-#include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
 
 #include <epoxy/gl.h>
 

@@ -4,9 +4,9 @@
 #include "DrawBar.h"
 
 #include <xsg/actions/SoSearchAction.h>
-#include <xsg/core/SoDB.h>
-#include <xsg/io/SoSceneFile.h>
-#include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/registry/SoDB.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 namespace

@@ -5,10 +5,10 @@
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/counters/SoPerfCounterManager.h>
-#include <xsg/io/SoSceneFile.h>
-#include <xsg/nodes/SoCube.h>
-#include <xsg/nodes/SoTexture2.h>
-#include <xsg/nodes/SoTransform.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 #include <map>
 

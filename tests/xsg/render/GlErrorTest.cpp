@@ -2,7 +2,7 @@
 #include "Picture.h"
 
 #include <xsg/errors/SoGLError.h>
-#include <xsg/nodes/SoDrawingCallback.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
 
 #include <epoxy/gl.h>
 

@@ -1,16 +1,16 @@
 // What is given to OpenGL again, and what is not: by the renderer's own counts.
 #include "Picture.h"
 
-#include <xsg/base/SbRotation.h>
-#include <xsg/nodes/SoCube.h>
-#include <xsg/nodes/SoCylinder.h>
-#include <xsg/nodes/SoDirectionalLight.h>
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/SoMaterial.h>
-#include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoSphere.h>
-#include <xsg/nodes/SoTransform.h>
+#include <xsg/values/SbRotation.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoCylinder.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 #include <random>
 

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <xsg/nodes/SoMaterial.h>
-#include <xsg/nodes/SoPerspectiveCamera.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <array>

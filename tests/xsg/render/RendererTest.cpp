@@ -1,19 +1,19 @@
 #include "Picture.h"
 
-#include <xsg/nodes/SoComplexity.h>
-#include <xsg/nodes/SoCone.h>
-#include <xsg/nodes/SoCube.h>
-#include <xsg/nodes/SoCylinder.h>
-#include <xsg/nodes/SoDirectionalLight.h>
-#include <xsg/nodes/SoDrawStyle.h>
-#include <xsg/nodes/SoDrawingCallback.h>
-#include <xsg/nodes/SoFog.h>
-#include <xsg/nodes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoSphere.h>
-#include <xsg/nodes/SoTexture2.h>
-#include <xsg/nodes/SoTextureCoordinates.h>
-#include <xsg/nodes/SoTransform.h>
+#include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/shapes/SoCone.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoCylinder.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/nodes/properties/SoFog.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 #include <epoxy/gl.h>
 

@@ -3,8 +3,8 @@
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/errors/SoGLError.h>
-#include <xsg/io/SoSceneFile.h>
-#include <xsg/nodes/SoUnknownNode.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <set>
 

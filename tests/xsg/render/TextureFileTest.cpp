@@ -1,11 +1,11 @@
 // Pictures that a texture reads from its file.
 #include "Picture.h"
 
-#include <xsg/nodes/SoMaterial.h>
-#include <xsg/nodes/SoPoints.h>
-#include <xsg/nodes/SoTexture2.h>
-#include <xsg/nodes/SoTextureCoordinates.h>
-#include <xsg/nodes/SoTriangleStripSet.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/nodes/shapes/SoTriangleStripSet.h>
 
 #include <fstream>
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/SoFieldGallery.h>
-#include <xsg/nodes/SoSeparator.h>
+#include <xsg/nodes/base/SoFieldGallery.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoAlarmSensor.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoIdleSensor.h>

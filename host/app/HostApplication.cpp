@@ -1,0 +1,127 @@
+#include "app/HostApplication.h"
+
+#include "import/PictureReader.h"
+#include "plugins/PluginFolders.h"
+#include "profiles/ProfilesMenu.h"
+#include "settings/UserHome.h"
+#include "settings/UserSettings.h"
+#include "shell/ViewMenu.h"
+
+#include <xsg/support/SoPreferences.h>
+
+#include <QApplication>
+#include <QSettings>
+
+namespace
+{
+
+constexpr auto CounterSwitch = "XSG_PERFCOUNTER_ENABLE";
+
+} // namespace
+
+HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profiles)
+    : m_window(makeWindow(m_services, m_messages))
+    , m_shell(*m_window)
+    , m_plugins(m_services, m_shell, std::move(profiles))
+    , m_undoKeys(m_services.undoStack(), *m_window)
+{
+    PictureReader::install();
+    // Icons are painted in the density of the screen.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    m_messages.setWindow(m_window.get());
+    connect(&m_services, &HostServices::commandFailed, &m_messages, &Messages::error);
+    connect(&m_shell, &HostShell::failed, &m_messages, &Messages::error);
+    connect(&m_plugins, &HostPluginsManager::failed, &m_messages, &Messages::error);
+    connect(m_window.get(), &HostWindow::fileDone, this, &HostApplication::fileDone);
+    new ViewMenu(m_shell, *m_window->viewMenu());
+    new ProfilesMenu(m_plugins, *m_window->profilesMenu());
+}
+
+HostApplication::~HostApplication()
+{
+    if (m_keepsLayout)
+        saveLayout();
+    m_plugins.unloadAll();
+    m_services.clearSelection();
+    m_services.history().clear();
+}
+
+void HostApplication::loadStandardPlugins()
+{
+    for (const QString& path : PluginFolders::findAll())
+        m_plugins.loadPlugin(path);
+}
+
+int HostApplication::run(const CommandLine& line)
+{
+    connect(this, &HostApplication::finished, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    start(line);
+    QApplication::exec();
+    return m_status;
+}
+
+void HostApplication::start(const CommandLine& line)
+{
+    m_asked = line;
+    m_messages.setAttended(!line.isUnattended());
+    if (line.counters)
+        qputenv(CounterSwitch, "1");
+    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the window.
+    if (!SoPreferences::getBool(CounterSwitch, false))
+        m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
+    const QString homeTrouble = UserHome::provide();
+    if (!homeTrouble.isEmpty())
+        m_messages.error(homeTrouble);
+    m_plugins.readProfiles();
+    if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
+        m_messages.error(tr("There is no profile named \"%1\".").arg(line.profile));
+    loadStandardPlugins();
+    for (const QString& path : line.plugins)
+        m_plugins.loadPlugin(path);
+    if (!line.isUnattended())
+        restoreLayout();
+    m_window->show();
+    if (line.file.isEmpty())
+        fileDone();
+    else
+        m_window->openFile(line.file);
+}
+
+void HostApplication::fileDone()
+{
+    if (!m_asked)
+        return; // a file that the person opened later
+    const CommandLine line = *m_asked;
+    m_asked.reset();
+    if (!line.selectNode.isEmpty())
+        m_window->selectField(line.selectNode, line.selectField);
+    // A turn later, when profile and editors stand.
+    QMetaObject::invokeMethod(
+        this, [this, line] { finish(line); }, Qt::QueuedConnection);
+}
+
+void HostApplication::finish(const CommandLine& line)
+{
+    if (!line.screenshot.isEmpty())
+        m_window->saveScreenshot(line.screenshot);
+    m_status = m_messages.errorCount() > 0 ? 1 : 0;
+    if (line.isUnattended())
+        emit finished();
+    else
+        m_window->beginSession();
+}
+
+void HostApplication::restoreLayout()
+{
+    m_keepsLayout = true;
+    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
+}
+
+void HostApplication::saveLayout() const
+{
+    QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
+    settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+}

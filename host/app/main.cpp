@@ -1,0 +1,69 @@
+// The program: reads the command line, chooses the window system and hands over to the host.
+#include "app/CommandLine.h"
+#include "app/HostApplication.h"
+#include "window/MainWindow.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace
+{
+
+QStringList argumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
+void print(std::FILE* out, const QString& text)
+{
+    std::fprintf(out, "%s\n", qPrintable(text));
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+// A picture looks the same everywhere when it is drawn off the screen.
+bool chooseWindowSystem(const CommandLine& line)
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return true;
+    if (!line.screenshot.isEmpty() || (line.isUnattended() && !hasDisplay()))
+        return qputenv("QT_QPA_PLATFORM", "offscreen");
+    return hasDisplay();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const CommandLine line = CommandLine::parse(argumentsOf(argc, argv));
+    if (!line.error.isEmpty()) {
+        print(stderr, QStringLiteral("scopix: ") + line.error);
+        return 2;
+    }
+    if (line.help || line.version) {
+        print(stdout, line.help ? CommandLine::helpText() : CommandLine::versionText());
+        return 0;
+    }
+    if (!chooseWindowSystem(line)) {
+        print(stderr, QStringLiteral("scopix: There is no display to open a window on; --screenshot OUT.png writes a "
+                                     "picture of the window without one."));
+        return 1;
+    }
+    int noOptions = 1; // "--plugin" means something else to Qt
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication application(noOptions, argv);
+    QApplication::setApplicationName(QStringLiteral("scopix"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
+    QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
+    HostApplication host([](HostServices& services, Messages& messages) {
+        return std::make_unique<MainWindow>(services, messages);
+    });
+    return host.run(line);
+}

@@ -1,0 +1,127 @@
+#include "document/SceneDocument.h"
+
+#include "services/HostServices.h"
+#include "document/PicturePaths.h"
+#include "import/ModelFormats.h"
+
+#include <xsg/core/SoField.h>
+#include <xsg/files/SoSceneFile.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+SceneDocument::SceneDocument(HostServices& services)
+    : m_services(services)
+    , m_sensor(selectedFieldTouched, this)
+{
+    connect(&services.history(), &UndoHistory::acted, this, &SceneDocument::acted);
+    connect(&services.undoStack(), &QUndoStack::cleanChanged, this, &SceneDocument::stateChanged);
+    connect(&services, &SpxServices::selectedFieldChanged, this, &SceneDocument::watch);
+}
+
+SceneDocument::~SceneDocument()
+{
+    m_services.disconnect(this);
+    m_services.undoStack().disconnect(this);
+    m_services.history().disconnect(this);
+}
+
+QString SceneDocument::sceneEnding()
+{
+    return QStringLiteral("xsg");
+}
+
+QStringList SceneDocument::endings()
+{
+    return QStringList(sceneEnding()) + scopix::modelEndings();
+}
+
+void SceneDocument::begin(SoNode* root, const QString& path, const QString& title)
+{
+    m_services.clearSelection();
+    m_services.history().clear();
+    m_services.undoStack().setClean();
+    const SoRef<SoNode> before = m_root;
+    m_root = SoRef<SoNode>(root);
+    m_touched = false;
+    if (!path.isEmpty())
+        scopix::setPictureFolder(root, QFileInfo(path).absolutePath());
+    emit rootChanged(root);
+    setState(path, title);
+}
+
+void SceneDocument::beginModified(SoNode* root, const QString& path, const QString& title)
+{
+    begin(root, path, title);
+    m_services.undoStack().resetClean();
+}
+
+bool SceneDocument::hasSceneFile() const
+{
+    return QFileInfo(m_path).suffix().toLower() == sceneEnding();
+}
+
+bool SceneDocument::isModified() const
+{
+    return m_touched || !m_services.undoStack().isClean();
+}
+
+QString SceneDocument::save(const QString& path)
+{
+    // A link stays one; what it leads to is replaced.
+    const QFileInfo target(path);
+    const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
+    if (QFileInfo(real).dir().exists())
+        scopix::movePictures(m_root.get(), QFileInfo(real).absolutePath());
+    std::string error;
+    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(real).toStdString(), error))
+        return QString::fromStdString(error);
+    m_touched = false;
+    knowField(); // the name of a picture may have been moved
+    m_services.undoStack().setClean();
+    setState(path, target.fileName());
+    return {};
+}
+
+void SceneDocument::setState(const QString& path, const QString& title)
+{
+    m_path = path;
+    m_title = title;
+    emit stateChanged();
+}
+
+void SceneDocument::watch(SoField* field)
+{
+    if (!field) {
+        m_sensor.detach();
+        return;
+    }
+    m_sensor.attach(field);
+    knowField();
+}
+
+void SceneDocument::knowField()
+{
+    if (const SoField* field = m_sensor.getAttachedField())
+        m_knownCount = field->getChangeCount();
+}
+
+void SceneDocument::acted()
+{
+    knowField();
+    ++m_editCount;
+    emit edited();
+}
+
+void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
+{
+    auto& document = *static_cast<SceneDocument*>(self);
+    const SoField* field = document.m_sensor.getAttachedField();
+    // What follows another field is nobody's edit.
+    if (!field || field->isConnected() || field->getChangeCount() == document.m_knownCount)
+        return;
+    document.m_touched = true;
+    document.acted();
+    emit document.stateChanged();
+}

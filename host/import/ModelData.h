@@ -1,0 +1,83 @@
+// A model as it was read from a file, before it becomes nodes: plain data, so that a thread of its own can read it.
+// Places in the lists stand for references; -1 is none.
+#pragma once
+
+#include <xsg/values/SbMatrix.h>
+#include <xsg/values/SbRotation.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+struct ModelData {
+    struct Mesh {
+        std::string name;
+        int material = -1;
+        std::vector<SbVec3f> points;
+        std::vector<SbVec3f> normals;            // one per point, or none
+        std::vector<SbVec2f> textureCoordinates; // one per point, or none
+        std::vector<SbVec3f> colors;             // one per point, or none
+        std::vector<std::int32_t> index;         // three per triangle
+    };
+
+    struct Material {
+        std::string name;
+        SbColor ambient{0.2F, 0.2F, 0.2F};
+        SbColor diffuse{0.8F, 0.8F, 0.8F};
+        SbColor specular;
+        SbColor emissive;
+        float shininess = 0.2F;
+        float transparency = 0;
+        int picture = -1;
+        bool clampS = false;
+        bool clampT = false;
+    };
+
+    // Rows from the bottom up.
+    struct Picture {
+        std::string name;
+        int width = 0;
+        int height = 0;
+        int components = 0;
+        std::vector<unsigned char> bytes;
+    };
+
+    enum class LightKind : std::int32_t { Ambient, Directional, Point, Spot };
+
+    struct Light {
+        LightKind kind = LightKind::Directional;
+        SbColor color{1, 1, 1};
+        float intensity = 1;
+        SbVec3f location;
+        SbVec3f direction{0, 0, -1};
+        SbVec3f attenuation{1, 0, 0};
+        float cutOffAngle = 0.785398F;
+        float dropOff = 0;
+    };
+
+    struct Camera {
+        SbVec3f position;
+        SbRotation orientation;
+        float heightAngle = 0.785398F;
+        float height = 0; // above 0: everything is seen in its size, this much of it
+        float nearDistance = 0.1F;
+        float farDistance = 1000;
+    };
+
+    // Node 0 is the root; children stand behind their parents.
+    struct Node {
+        std::string name;
+        SbMatrix matrix;
+        std::vector<int> meshes;
+        std::vector<int> children;
+        int light = -1;
+        int camera = -1;
+    };
+
+    std::vector<Mesh> meshes;
+    std::vector<Material> materials;
+    std::vector<Picture> pictures;
+    std::vector<Light> lights;
+    std::vector<Camera> cameras;
+    std::vector<Node> nodes;
+};

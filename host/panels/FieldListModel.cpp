@@ -1,0 +1,160 @@
+#include "panels/FieldListModel.h"
+
+#include "panels/FieldMarks.h"
+#include "panels/NodeText.h"
+#include "panels/ValueText.h"
+#include <xsg/core/SoField.h>
+#include <xsg/sensors/SoFieldSensor.h>
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPalette>
+
+namespace
+{
+
+constexpr int ToolTipLength = 1000;
+
+} // namespace
+
+struct FieldListModel::Row {
+    Row(FieldListModel* itsModel, int itsNumber, SoField* itsField)
+        : model(itsModel)
+        , number(itsNumber)
+        , field(itsField)
+        , sensor(fieldChanged, this)
+    {
+        sensor.attach(field);
+    }
+
+    FieldListModel* model;
+    int number;
+    SoField* field;
+    SoFieldSensor sensor;
+};
+
+FieldListModel::FieldListModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{
+    SoFieldContainer::addDyingCallback(containerDying, this);
+}
+
+FieldListModel::~FieldListModel()
+{
+    SoFieldContainer::removeDyingCallback(containerDying, this);
+}
+
+void FieldListModel::containerDying(void* self, SoFieldContainer* dying)
+{
+    auto* model = static_cast<FieldListModel*>(self);
+    if (model->m_container == dying)
+        model->setContainer(nullptr);
+}
+
+void FieldListModel::setContainer(SoFieldContainer* container)
+{
+    if (container == m_container)
+        return;
+    beginResetModel();
+    m_container = container;
+    m_rows.clear();
+    const int count = container ? container->getFieldData()->getNumFields() : 0;
+    for (int i = 0; i < count; ++i)
+        m_rows.push_back(std::make_unique<Row>(this, i, container->getFieldData()->getField(container, i)));
+    endResetModel();
+}
+
+SoField* FieldListModel::fieldAt(const QModelIndex& index) const
+{
+    return index.isValid() ? m_rows[static_cast<std::size_t>(index.row())]->field : nullptr;
+}
+
+QModelIndex FieldListModel::indexOf(const SoField* field) const
+{
+    const int row = m_container && field ? m_container->getFieldData()->getIndex(m_container, field) : -1;
+    return row < 0 ? QModelIndex() : index(row, NameColumn);
+}
+
+int FieldListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int FieldListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant FieldListModel::text(const SoField& field, int column) const
+{
+    switch (column) {
+    case NameColumn:
+        return scopix::toQString(field.getName());
+    case TypeColumn:
+        return scopix::toQString(field.getTypeId().getName());
+    default:
+        return scopix::valueText(field);
+    }
+}
+
+QString FieldListModel::toolTip(const SoField& field) const
+{
+    QString text = tr("%1 (%2)").arg(scopix::toQString(field.getName()), scopix::toQString(field.getTypeId().getName()));
+    if (field.isDefault())
+        text += tr(", default");
+    if (field.isIgnored())
+        text += tr(", ignored");
+    if (field.isConnected())
+        text += tr(", follows another field");
+    return text + QLatin1Char('\n') + scopix::valueText(field, ToolTipLength);
+}
+
+QVariant FieldListModel::data(const QModelIndex& index, int role) const
+{
+    const SoField* field = fieldAt(index);
+    if (!field)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(*field, index.column());
+    case Qt::ToolTipRole:
+        return toolTip(*field);
+    case Qt::DecorationRole:
+        if (index.column() == NameColumn)
+            return scopix::fieldMark(*field);
+        return index.column() == ValueColumn ? scopix::valueSwatch(*field) : QVariant();
+    case Qt::ForegroundRole:
+        if (field->isIgnored() || index.column() == TypeColumn)
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return {};
+    case DefaultRole:
+        return field->isDefault();
+    case IgnoredRole:
+        return field->isIgnored();
+    case ConnectedRole:
+        return field->isConnected();
+    default:
+        return {};
+    }
+}
+
+QVariant FieldListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case NameColumn:
+        return tr("Field");
+    case TypeColumn:
+        return tr("Type");
+    default:
+        return tr("Value");
+    }
+}
+
+void FieldListModel::fieldChanged(void* data, SoSensor* /*sensor*/)
+{
+    const Row* row = static_cast<Row*>(data);
+    FieldListModel* model = row->model;
+    emit model->dataChanged(model->index(row->number, NameColumn), model->index(row->number, ValueColumn));
+}

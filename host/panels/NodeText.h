@@ -1,0 +1,19 @@
+// How a node is called where people read it.
+#pragma once
+
+#include <xsg/values/SbName.h>
+
+#include <QString>
+
+class SoFieldContainer;
+
+namespace scopix
+{
+
+// Names hold Latin-1.
+QString toQString(SbName name);
+SbName toName(const QString& text);
+// The node's name, or its type's where it has none.
+QString nodeText(const SoFieldContainer& node);
+
+} // namespace scopix

@@ -1,0 +1,65 @@
+// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when somebody asks
+// for its rows. A node that stands in several places has a row at each. Follows the scene once per turn of the
+// sensor queue, and keeps every node that has a row alive until then. GUI thread only.
+#pragma once
+
+#include <xsg/nodes/base/SoNode.h>
+#include <xsg/sensors/SoNodeSensor.h>
+
+#include <QAbstractItemModel>
+
+#include <memory>
+#include <vector>
+
+class SoGroup;
+class SoPath;
+
+class SceneTreeModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, TypeColumn, ColumnCount };
+
+    explicit SceneTreeModel(QObject* parent = nullptr);
+    ~SceneTreeModel() override;
+
+    // The one top row; null empties the model.
+    void setRoot(SoNode* root);
+    SoNode* getRoot() const;
+
+    // Null for an invalid index.
+    SoNode* nodeAt(const QModelIndex& index) const;
+    // The first place where the node stands below the root, or an invalid index. Looks upwards from the node, so it
+    // costs the node's depth and not the size of the scene.
+    QModelIndex indexOf(const SoNode* node) const;
+    // The row at the end of a path that starts at the root.
+    QModelIndex indexOf(const SoPath& path) const;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& child) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+private:
+    struct Place;
+
+    static void sceneChanged(void* self, SoSensor* sensor);
+    void followScene();
+    void followChildren(Place& place);
+    void followName(Place& place);
+    void removePlaces(Place& place, int first, int count);
+    void insertPlaces(Place& place, int first, int count);
+    bool followExpandable(Place& place) const;
+
+    QModelIndex indexDownwards(const std::vector<const SoNode*>& nodes) const;
+    Place* placeAt(const QModelIndex& index) const;
+    QModelIndex indexOfPlace(Place& place, int column = NameColumn) const;
+    static void listChildren(Place& place);
+
+    std::unique_ptr<Place> m_root;
+    SoNodeSensor m_sensor;
+};

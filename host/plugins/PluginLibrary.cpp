@@ -1,0 +1,90 @@
+#include "plugins/PluginLibrary.h"
+
+#include "support/Guarded.h"
+
+#include <scopix/SpxPlugin.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace
+{
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PluginLibrary", text);
+}
+
+// What can be told without asking the linker, whose words are for programmers.
+QString whyNoLibrary(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return tr("there is no such file");
+    if (file.isDir())
+        return tr("it is a folder, and a plug-in library was expected");
+    if (!file.isReadable())
+        return tr("the file may not be read");
+    return {};
+}
+
+template <class Function>
+QString resolve(QLibrary& library, const char* name, Function& function)
+{
+    function = reinterpret_cast<Function>(library.resolve(name));
+    return function ? QString() : tr("it has no entry point \"%1\"").arg(QLatin1String(name));
+}
+
+} // namespace
+
+PluginLibrary::PluginLibrary(const QString& path)
+    : m_library(path)
+{
+    // What the library lacks is found now and not in the middle of the work.
+    m_library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
+}
+
+PluginLibrary::~PluginLibrary()
+{
+    if (m_plugin)
+        Guarded::call([this] { m_unload(); });
+    if (m_library.isLoaded())
+        m_library.unload();
+}
+
+std::unique_ptr<PluginLibrary> PluginLibrary::load(const QString& path, QString& error)
+{
+    QString why = whyNoLibrary(path);
+    if (why.isEmpty()) {
+        std::unique_ptr<PluginLibrary> library(new PluginLibrary(QFileInfo(path).canonicalFilePath()));
+        why = library->open();
+        if (why.isEmpty())
+            why = library->makePlugin();
+        if (why.isEmpty())
+            return library;
+    }
+    error = tr("The plug-in \"%1\" was not loaded: %2.").arg(path, why);
+    return nullptr;
+}
+
+QString PluginLibrary::name() const
+{
+    const QString own = QString::fromUtf8(m_plugin->getName().getString());
+    return own.isEmpty() ? QFileInfo(path()).completeBaseName() : own;
+}
+
+QString PluginLibrary::open()
+{
+    if (!m_library.load())
+        return tr("it is no library that this program can load (%1)").arg(m_library.errorString());
+    const QString missing = resolve(m_library, "loadPlugin", m_load);
+    return missing.isEmpty() ? resolve(m_library, "unloadPlugin", m_unload) : missing;
+}
+
+QString PluginLibrary::makePlugin()
+{
+    const QString thrown = Guarded::call([this] { m_plugin = m_load(); });
+    if (!thrown.isEmpty())
+        return tr("its loadPlugin failed: %1").arg(thrown);
+    return m_plugin ? QString() : tr("its loadPlugin returned no plug-in");
+}

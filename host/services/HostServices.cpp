@@ -1,0 +1,77 @@
+#include "services/HostServices.h"
+
+#include <scopix/SpxCommand.h>
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/core/SoField.h>
+
+#include <algorithm>
+
+namespace
+{
+
+QString text(SbName name)
+{
+    return QString::fromLatin1(name.getString());
+}
+
+} // namespace
+
+HostServices::HostServices()
+{
+    connect(&m_selection, &Selection::nodeChanged, this, &SpxServices::selectedNodeChanged);
+    connect(&m_selection, &Selection::fieldChanged, this, &SpxServices::selectedFieldChanged);
+    connect(&m_history, &UndoHistory::failed, this, &HostServices::commandFailed);
+    SoFieldContainer::addDyingCallback(dyingCallback, this);
+}
+
+HostServices::~HostServices()
+{
+    SoFieldContainer::removeDyingCallback(dyingCallback, this);
+}
+
+void HostServices::executeCommand(SpxCommand* command)
+{
+    if (command)
+        m_history.execute(std::unique_ptr<SpxCommand>(command), noteNow());
+}
+
+UndoHistory::Note HostServices::noteNow() const
+{
+    UndoHistory::Note note;
+    note.text = stepText();
+    note.gesture = m_gestures.current();
+    // While a selection is let go, what it edited goes with the old one.
+    const auto touch = [&note](const SoFieldContainer* container) {
+        auto& touched = note.touched;
+        if (container && std::find(touched.begin(), touched.end(), container) == touched.end())
+            touched.push_back(container);
+    };
+    touch(m_selection.lastNode());
+    touch(m_selection.node());
+    for (const SoField* field : {m_selection.lastField(), m_selection.field()})
+        touch(field ? field->getContainer() : nullptr);
+    return note;
+}
+
+QString HostServices::stepText() const
+{
+    const SoField* field = m_selection.lastField();
+    const SoFieldContainer* node =
+        field && field->getContainer() ? field->getContainer() : m_selection.lastNode();
+    const QString type = node ? text(node->getTypeId().getName()) : QString();
+    if (!field)
+        return type.isEmpty() ? tr("Change") : tr("Change %1").arg(type);
+    const QString name = text(field->getName());
+    return tr("Change %1").arg(type.isEmpty() ? name : type + QLatin1Char('.') + name);
+}
+
+void HostServices::containerDies(SoFieldContainer* container)
+{
+    m_selection.forget(container);
+    m_history.forget(container);
+}
+
+void HostServices::dyingCallback(void* services, SoFieldContainer* container)
+{
+    static_cast<HostServices*>(services)->containerDies(container);
+}

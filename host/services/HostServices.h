@@ -1,0 +1,45 @@
+// The services that the host offers to extensions: selection, and undo through the history of edits. Names
+// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
+#pragma once
+
+#include "undo/GestureGrouper.h"
+#include "services/Selection.h"
+#include "undo/UndoHistory.h"
+
+#include <scopix/SpxServices.h>
+
+class HostServices : public SpxServices
+{
+    Q_OBJECT
+
+public:
+    HostServices();
+    ~HostServices() override;
+
+    // As Selection does; the signals of SpxServices tell it.
+    void select(SoFieldContainer* node) { m_selection.select(node); }
+    void select(SoField* field) { m_selection.select(field); }
+    void clearSelection() { m_selection.clear(); }
+    void tellSelectionAgain() { m_selection.tellAgain(); }
+    SoFieldContainer* selectedNode() const { return m_selection.node(); }
+    SoField* selectedField() const { return m_selection.field(); }
+
+    void executeCommand(SpxCommand* command) override;
+
+    UndoHistory& history() { return m_history; }
+    QUndoStack& undoStack() { return m_history.stack(); }
+
+signals:
+    // A command threw; one sentence.
+    void commandFailed(const QString& sentence);
+
+private:
+    UndoHistory::Note noteNow() const;
+    QString stepText() const;
+    void containerDies(SoFieldContainer* container);
+    static void dyingCallback(void* services, SoFieldContainer* container);
+
+    GestureGrouper m_gestures;
+    Selection m_selection;
+    UndoHistory m_history;
+};

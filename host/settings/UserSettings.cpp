@@ -1,0 +1,13 @@
+#include "settings/UserSettings.h"
+
+#include <QStandardPaths>
+
+QString UserSettings::path(const QString& name)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/scopix/") + name;
+}
+
+QString UserSettings::windowFile()
+{
+    return path(QStringLiteral("window.ini"));
+}

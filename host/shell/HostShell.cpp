@@ -1,0 +1,265 @@
+#include "shell/HostShell.h"
+
+#include "support/Guarded.h"
+
+#include <scopix/SpxExtension.h>
+
+#include <QAction>
+#include <QDataStream>
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr qint32 LayoutVersion = 1;
+
+QString nameOf(const SpxExtension* extension)
+{
+    return QString::fromUtf8(extension->getName().getString());
+}
+
+bool hiddenOnPurpose(const QWidget* widget)
+{
+    return widget->testAttribute(Qt::WA_WState_ExplicitShowHide) && widget->isHidden();
+}
+
+} // namespace
+
+HostShell::HostShell(QMainWindow& window)
+    : m_window(window)
+{
+}
+
+HostShell::~HostShell() = default;
+
+void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
+{
+    if (!dock)
+        return;
+    nameWidget(dock);
+    const bool shown = m_dockShown.take(dock->objectName()) || !hiddenOnPurpose(dock);
+    if (!m_window.restoreDockWidget(dock)) {
+        m_window.addDockWidget(area, dock);
+        stackOnAnother(dock, area);
+    }
+    dock->setVisible(shown);
+    own(dock, dock->toggleViewAction());
+    dock->installEventFilter(this);
+}
+
+// Docks side by side would leave each of them little room.
+void HostShell::stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area)
+{
+    for (const Owned& each : m_owned) {
+        auto* other = qobject_cast<QDockWidget*>(each.widget);
+        if (other && other != dock && !other->isFloating() && m_window.dockWidgetArea(other) == area)
+            return m_window.tabifyDockWidget(other, dock);
+    }
+}
+
+void HostShell::removeDockWidget(QDockWidget* dock)
+{
+    if (!dock || dock->parentWidget() != &m_window)
+        return;
+    dock->removeEventFilter(this);
+    disown(dock);
+    m_dockShown[dock->objectName()] = !dock->isHidden();
+    // The window keeps a gap of the dock's name, where it comes back to.
+    m_window.removeDockWidget(dock);
+    dock->setParent(nullptr);
+}
+
+void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
+{
+    if (!toolBar)
+        return;
+    nameWidget(toolBar);
+    const ToolBarPlace place =
+        m_toolBarPlaces.value(toolBar->objectName(), ToolBarPlace{area, !hiddenOnPurpose(toolBar)});
+    m_window.addToolBar(place.area, toolBar);
+    toolBar->setVisible(place.shown);
+    own(toolBar, toolBar->toggleViewAction());
+}
+
+void HostShell::removeToolBar(QToolBar* toolBar)
+{
+    if (!toolBar || toolBar->parentWidget() != &m_window)
+        return;
+    disown(toolBar);
+    m_toolBarPlaces[toolBar->objectName()] = {m_window.toolBarArea(toolBar), !toolBar->isHidden()};
+    m_window.removeToolBar(toolBar);
+    toolBar->setParent(nullptr);
+}
+
+void HostShell::attachExtension(SpxExtension* extension, bool attach)
+{
+    if (!attach) {
+        detachExtension(extension);
+        return;
+    }
+    if (!extension || m_extensions.contains(extension))
+        return;
+    m_extensions.append(extension);
+    emit extensionsChanged();
+}
+
+void HostShell::detachExtension(SpxExtension* extension)
+{
+    if (m_extensions.removeOne(extension))
+        emit extensionsChanged();
+}
+
+void HostShell::forget(const SpxExtension* extension)
+{
+    const QList<Owned> owned = m_owned;
+    for (const Owned& each : owned) {
+        if (each.owner == extension && each.widget)
+            takeOut(each.widget);
+    }
+    detachExtension(const_cast<SpxExtension*>(extension));
+}
+
+void HostShell::takeOut(QWidget* widget)
+{
+    if (auto* dock = qobject_cast<QDockWidget*>(widget))
+        removeDockWidget(dock);
+    else if (auto* toolBar = qobject_cast<QToolBar*>(widget))
+        removeToolBar(toolBar);
+}
+
+void HostShell::setShown(SpxExtension* extension, bool shown)
+{
+    if (!m_extensions.contains(extension))
+        return;
+    const QString name = nameOf(extension);
+    m_waiting.remove(name);
+    if (shown)
+        m_hiddenByPerson.remove(name);
+    else
+        m_hiddenByPerson.insert(name);
+    const QString failure = Guarded::call([&] { shown ? extension->show() : extension->hide(); });
+    if (!failure.isEmpty())
+        emit failed(
+            tr("The extension \"%1\" failed when it was to be shown or hidden: %2").arg(name, failure));
+}
+
+bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
+{
+    return m_hiddenByPerson.contains(nameOf(extension));
+}
+
+bool HostShell::comesUpHidden(const SpxExtension* extension) const
+{
+    return isHiddenByPerson(extension) || m_waiting.contains(nameOf(extension));
+}
+
+QByteArray HostShell::saveLayout() const
+{
+    QByteArray layout;
+    QDataStream out(&layout, QIODevice::WriteOnly);
+    out.setVersion(QDataStream::Qt_5_15);
+    out << LayoutVersion << m_window.saveState() << m_hiddenByPerson;
+    return layout;
+}
+
+bool HostShell::restoreLayout(const QByteArray& layout)
+{
+    QDataStream in(layout);
+    in.setVersion(QDataStream::Qt_5_15);
+    qint32 version = 0;
+    QByteArray state;
+    QSet<QString> hidden;
+    in >> version;
+    if (version != LayoutVersion)
+        return false;
+    in >> state >> hidden;
+    if (in.status() != QDataStream::Ok)
+        return false;
+    // Places come from the layout; what is visible is the extensions' and, below, the person's.
+    QList<QPair<QWidget*, bool>> shown;
+    for (const Owned& each : qAsConst(m_owned)) {
+        if (each.widget)
+            shown.append({each.widget, !each.widget->isHidden()});
+    }
+    if (!m_window.restoreState(state))
+        return false;
+    for (const auto& each : qAsConst(shown))
+        each.first->setVisible(each.second);
+    m_hiddenByPerson = hidden;
+    const QList<SpxExtension*> extensions = m_extensions;
+    for (SpxExtension* extension : extensions) {
+        if (extension->isShown() && isHiddenByPerson(extension))
+            setShown(extension, false);
+    }
+    return true;
+}
+
+bool HostShell::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        if (SpxExtension* owner = ownerOf(watched)) {
+            const QPointer<SpxExtension> extension = owner;
+            QMetaObject::invokeMethod(
+                this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
+        }
+    }
+    // What an extension shows should be seen, also where it shares its place with others.
+    if (event->type() == QEvent::ShowToParent)
+        QMetaObject::invokeMethod(watched, "raise", Qt::QueuedConnection);
+    return false;
+}
+
+void HostShell::personClosed(SpxExtension* extension)
+{
+    if (extension)
+        setShown(extension, false);
+}
+
+void HostShell::own(QWidget* widget, const QAction* toggle)
+{
+    disown(widget);
+    // The window's own context menu shows and hides docks and tool bars too.
+    SpxExtension* owner = m_activating;
+    const auto toggled = [this, owner](bool shown) { setShown(owner, shown); };
+    m_owned.append({widget, owner, connect(toggle, &QAction::triggered, this, toggled)});
+}
+
+void HostShell::disown(const QWidget* widget)
+{
+    for (int i = m_owned.size() - 1; i >= 0; --i) {
+        if (m_owned.at(i).widget && m_owned.at(i).widget != widget)
+            continue;
+        disconnect(m_owned.at(i).toggled);
+        m_owned.removeAt(i);
+    }
+}
+
+SpxExtension* HostShell::ownerOf(const QObject* widget) const
+{
+    for (const Owned& each : m_owned) {
+        if (each.widget == widget)
+            return each.owner;
+    }
+    return nullptr;
+}
+
+// A name that no other dock or tool bar of the window has, the same in every session.
+void HostShell::nameWidget(QWidget* widget) const
+{
+    const QString wanted = !widget->objectName().isEmpty() ? widget->objectName()
+                           : m_activating                  ? nameOf(m_activating)
+                                                           : widget->windowTitle();
+    const auto taken = [&](const QString& name) {
+        const auto others = m_window.findChildren<QWidget*>(name, Qt::FindDirectChildrenOnly);
+        return std::any_of(others.begin(), others.end(), [&](QWidget* other) { return other != widget; });
+    };
+    QString name = wanted.isEmpty() ? QStringLiteral("extension") : wanted;
+    for (int number = 2; taken(name); ++number)
+        name = QStringLiteral("%1 %2").arg(wanted).arg(number);
+    widget->setObjectName(name);
+}

@@ -1,0 +1,74 @@
+// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
+// gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
+#pragma once
+
+#include "undo/GestureGrouper.h"
+
+#include <QObject>
+#include <QUndoStack>
+
+#include <memory>
+#include <unordered_set>
+#include <vector>
+
+class SoFieldContainer;
+class SpxCommand;
+class UndoStep;
+class UndoEntry;
+
+class UndoHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    // What the host notes with each command.
+    struct Note {
+        QString text;                                 // names the step
+        std::vector<const SoFieldContainer*> touched; // empty: not known
+        GestureGrouper::Gesture gesture = 0;          // 0: a step of its own
+    };
+
+    explicit UndoHistory(QObject* parent = nullptr);
+    ~UndoHistory() override;
+
+    QUndoStack& stack() { return m_stack; }
+
+    // Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
+    // is being undone or redone right now.
+    void execute(std::unique_ptr<SpxCommand> command, const Note& note);
+    // Drops the steps that touch the container, and those of which it is not known what they touch.
+    void forget(const SoFieldContainer* container);
+    // Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
+    void clear();
+
+signals:
+    // A command was executed, or steps were undone or redone.
+    void acted();
+    // A command threw; the sentence names the step.
+    void failed(const QString& sentence);
+
+private:
+    friend class UndoStep;
+    friend class UndoEntry;
+    using StepPtr = std::shared_ptr<UndoStep>;
+    struct Deferred {
+        std::unique_ptr<SpxCommand> command;
+        Note note;
+    };
+
+    void record(std::unique_ptr<SpxCommand> command, const Note& note);
+    void recordDeferred();
+    bool goesOn(const Note& note) const;
+    bool dropSteps(const SoFieldContainer* container);
+    void sweep();
+    int cleanIndexAfterSweep() const;
+    StepPtr stepAt(int index) const;
+
+    QUndoStack m_stack;
+    StepPtr m_openStep;                                    // the last one, while its gesture may add to it
+    std::unordered_set<const SoFieldContainer*> m_touched; // by any step since the last clear
+    bool m_mayTouchAnything = false;                       // some step does not know what it touches
+    std::vector<Deferred> m_deferred;
+    bool m_busy = false; // inside a step's undo or redo
+    bool m_sweeping = false;
+};

@@ -1,0 +1,301 @@
+#include "viewport/SceneView.h"
+
+#include "theme/Colors.h"
+#include "viewport/ViewSurface.h"
+
+#include <xsg/nodes/transforms/SoSpin.h>
+#include <xsg/render/SoRenderer.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QResizeEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr float WheelStep = 0.85F; // per notch of 120
+constexpr int TickMs = 16;         // between pictures of something that turns
+// What a key does, as part of the picture's height; turning, that is half a turn.
+constexpr float KeyStep = 1.0F / 12;
+
+} // namespace
+
+SceneView::SceneView(QWidget* parent, Drawing drawing)
+    : QWidget(parent)
+    , m_sensor(sceneChanged, this)
+    , m_surface(ViewSurface::make(
+          this, [this](SoRenderer& renderer) { return prepare(renderer); },
+          [this](const SoRenderer& renderer) { drawn(renderer); }, drawing == Drawing::Best))
+    , m_statistics(new QLabel(this))
+{
+    m_statistics->setObjectName(QStringLiteral("statistics"));
+    m_statistics->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_statistics->setAutoFillBackground(true);
+    m_statistics->setMargin(4);
+    m_statistics->hide();
+    setObjectName(QStringLiteral("sceneView"));
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+SceneView::~SceneView() = default;
+
+void SceneView::setScene(SoNode* root)
+{
+    m_root = SoRef<SoNode>(root);
+    m_highlight = 0;
+    m_sensor.attach(root);
+    m_camera.setScene(root);
+    redraw();
+    animateWhereNeeded();
+}
+
+void SceneView::goHome()
+{
+    m_camera.goHome();
+    redraw();
+}
+
+void SceneView::redraw()
+{
+    m_statisticsAreOld = true;
+    m_surface->redraw();
+}
+
+void SceneView::setWireframe(bool on)
+{
+    m_wireframe = on;
+    redraw();
+}
+
+void SceneView::setShowsStatistics(bool on)
+{
+    m_statistics->setVisible(on);
+    redraw();
+}
+
+// Only after a picture that was asked for: the text itself may have the picture painted again.
+void SceneView::drawn(const SoRenderer& renderer)
+{
+    if (!std::exchange(m_statisticsAreOld, false) || m_statistics->isHidden())
+        return;
+    const SoRenderer::Statistics& frame = renderer.getStatistics();
+    m_statistics->setText(tr("Shapes: %L1, of them out of sight: %L2\n"
+                             "Triangles: %L3, draw calls: %L4\n"
+                             "Uploaded bytes: %L5, processor: %L6 ms")
+                              .arg(frame.shapes)
+                              .arg(frame.culled)
+                              .arg(frame.triangles)
+                              .arg(frame.drawCalls)
+                              .arg(frame.uploadedBytes + frame.textureBytes)
+                              .arg(frame.seconds * 1000, 0, 'f', 1));
+    m_statistics->adjustSize();
+}
+
+void SceneView::setAnimated(bool on)
+{
+    m_isAnimated = on;
+    animateWhereNeeded();
+}
+
+void SceneView::animateWhereNeeded()
+{
+    const bool isNeeded = m_isAnimated && isVisible() && m_root && SoSpin::isAnyTurning(m_root.get());
+    if (isNeeded && !m_ticks.isActive()) {
+        m_sinceTick.start();
+        m_ticks.start(TickMs, this);
+    } else if (!isNeeded) {
+        m_ticks.stop();
+    }
+}
+
+void SceneView::timerEvent(QTimerEvent* /*event*/)
+{
+    SoSpin::advanceAll(static_cast<double>(m_sinceTick.restart()) / 1000, m_root.get());
+}
+
+void SceneView::showEvent(QShowEvent* /*event*/)
+{
+    animateWhereNeeded();
+}
+
+void SceneView::hideEvent(QHideEvent* /*event*/)
+{
+    animateWhereNeeded();
+}
+
+void SceneView::setHighlight(const SoNode* node)
+{
+    const std::uint64_t number = node ? node->getNodeId() : 0;
+    if (number == m_highlight)
+        return;
+    m_highlight = number;
+    redraw();
+}
+
+void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
+{
+    auto* view = static_cast<SceneView*>(self);
+    view->m_camera.follow();
+    view->redraw();
+    view->animateWhereNeeded();
+}
+
+ViewContent SceneView::prepare(SoRenderer& renderer)
+{
+    m_camera.fitDepth();
+    const auto toColor = [](const QColor& c) {
+        return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
+    };
+    renderer.setBackground(toColor(scopix::groundColor(palette())));
+    renderer.setWireframe(m_wireframe);
+    renderer.setHighlightedNumber(m_highlight);
+    renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
+    return {m_root.get(), &m_camera.get()};
+}
+
+int SceneView::getDrawCount() const
+{
+    return m_surface->getDrawCount();
+}
+
+void SceneView::viewAll()
+{
+    m_camera.viewAll();
+    redraw();
+}
+
+void SceneView::viewNode(SoNode* node)
+{
+    m_camera.viewNode(node);
+    redraw();
+}
+
+std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
+{
+    if (!m_root)
+        return std::nullopt;
+    const float x = (static_cast<float>(place.x()) + 0.5F) / static_cast<float>(std::max(1, width()));
+    const float y = 1 - (static_cast<float>(place.y()) + 0.5F) / static_cast<float>(std::max(1, height()));
+    return m_pickAction.pick(m_root.get(), m_camera.get().getRay(x, y, m_camera.getAspect()));
+}
+
+void SceneView::mousePressEvent(QMouseEvent* event)
+{
+    const bool shifted = event->modifiers() & Qt::ShiftModifier;
+    if (event->button() == Qt::LeftButton)
+        m_drag = shifted ? Drag::Pan : Drag::Orbit;
+    else if (event->button() == Qt::MiddleButton || event->button() == Qt::RightButton)
+        m_drag = Drag::Pan;
+    m_moved = false;
+    m_pressed = m_last = event->pos();
+}
+
+void SceneView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_drag == Drag::None)
+        return;
+    if (!m_moved && (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+        return;
+    m_moved = true;
+    const QPoint by = event->pos() - m_last;
+    m_last = event->pos();
+    const float scale = 1 / static_cast<float>(std::max(1, height()));
+    const float right = static_cast<float>(by.x()) * scale;
+    const float up = static_cast<float>(-by.y()) * scale;
+    if (m_drag == Drag::Orbit)
+        turn(right, up);
+    else
+        pan(right, up);
+}
+
+void SceneView::turn(float right, float up)
+{
+    m_camera.turn(right, up);
+    redraw();
+}
+
+void SceneView::pan(float right, float up)
+{
+    m_camera.pan(right, up);
+    redraw();
+}
+
+void SceneView::zoom(float factor)
+{
+    m_camera.zoom(factor);
+    redraw();
+}
+
+void SceneView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool clicked = m_drag == Drag::Orbit && !m_moved && event->button() == Qt::LeftButton;
+    m_drag = Drag::None;
+    if (!clicked)
+        return;
+    const auto hit = pick(event->pos());
+    emit picked(hit ? hit->path : SoPath());
+}
+
+void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && pick(event->pos()))
+        emit viewSelectedRequested();
+}
+
+void SceneView::wheelEvent(QWheelEvent* event)
+{
+    const QPointF place = event->position();
+    const float notches = static_cast<float>(event->angleDelta().y()) / 120.0F;
+    const float x = static_cast<float>(place.x()) / static_cast<float>(std::max(1, width()));
+    const float y = 1 - static_cast<float>(place.y()) / static_cast<float>(std::max(1, height()));
+    m_camera.zoom(std::pow(WheelStep, notches), x, y);
+    redraw();
+    event->accept();
+}
+
+void SceneView::keyPressEvent(QKeyEvent* event)
+{
+    const auto go = event->modifiers() & Qt::ShiftModifier ? &SceneView::pan : &SceneView::turn;
+    switch (event->key()) {
+    case Qt::Key_Home:
+        return goHome();
+    case Qt::Key_A:
+        return viewAll();
+    case Qt::Key_F:
+        emit viewSelectedRequested();
+        return;
+    case Qt::Key_Left:
+        return (this->*go)(-KeyStep, 0);
+    case Qt::Key_Right:
+        return (this->*go)(KeyStep, 0);
+    case Qt::Key_Up:
+        return (this->*go)(0, KeyStep);
+    case Qt::Key_Down:
+        return (this->*go)(0, -KeyStep);
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return zoom(WheelStep); // plus without Shift, on many keyboards
+    case Qt::Key_Minus:
+        return zoom(1 / WheelStep);
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void SceneView::resizeEvent(QResizeEvent* /*event*/)
+{
+    m_surface->getWidget()->setGeometry(rect());
+    m_camera.setAspect(static_cast<float>(std::max(1, width())) / static_cast<float>(std::max(1, height())));
+    redraw();
+}
+
+void SceneView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        redraw();
+    QWidget::changeEvent(event);
+}

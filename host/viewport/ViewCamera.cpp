@@ -1,0 +1,138 @@
+#include "viewport/ViewCamera.h"
+
+#include "viewport/PartBox.h"
+#include "viewport/SceneCamera.h"
+
+#include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/values/SbRotation.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/render/Frustum.h>
+
+namespace
+{
+
+constexpr float Pi = 3.14159265F;
+// Where a scene without a camera is looked at from: a little from the side and from above.
+constexpr float StartTurn = -0.55F;
+constexpr float StartTilt = -0.32F;
+constexpr float StartAngle = Pi / 4;
+
+SbBox3f boxOf(SoNode* root)
+{
+    return root ? SoBoundingBoxAction().getBox(root) : SbBox3f();
+}
+
+} // namespace
+
+ViewCamera::ViewCamera()
+    : m_camera(new SoPerspectiveCamera)
+{
+}
+
+ViewCamera::~ViewCamera() = default;
+
+void ViewCamera::setScene(SoNode* root)
+{
+    m_root = SoRef<SoNode>(root);
+    goHome();
+}
+
+void ViewCamera::setAspect(float aspect)
+{
+    m_aspect = aspect;
+    if (m_look == Look::Framed)
+        viewAll();
+    follow();
+}
+
+void ViewCamera::goHome()
+{
+    m_look = Look::ThroughScene;
+    if (follow() && seesAnything())
+        return;
+    scopix::becomeKind<SoPerspectiveCamera>(m_camera).heightAngle.setValue(StartAngle);
+    m_camera->orientation.setValue(SbRotation());
+    m_camera->orbit(StartTurn, StartTilt);
+    viewAll();
+}
+
+bool ViewCamera::follow()
+{
+    if (m_look != Look::ThroughScene)
+        return false;
+    const scopix::SceneCamera original = scopix::findSceneCamera(m_root.get());
+    if (!original.camera)
+        return false; // stays where the last one was, which may come back by an undo
+    scopix::seeAs(original, m_aspect, m_camera);
+    return true;
+}
+
+bool ViewCamera::seesAnything() const
+{
+    const SbBox3f box = boxOf(m_root.get());
+    const xsg::Frustum frustum(m_camera->getViewMatrix() * m_camera->getProjectionMatrix(m_aspect));
+    return box.isEmpty() || frustum.mayShow(box);
+}
+
+void ViewCamera::frame(const SbBox3f& box)
+{
+    m_camera->viewAll(box, m_aspect); // an empty one changes nothing
+}
+
+void ViewCamera::viewAll()
+{
+    frame(boxOf(m_root.get()));
+    m_look = Look::Framed;
+}
+
+void ViewCamera::viewNode(SoNode* node)
+{
+    const SbBox3f box = scopix::findPartBox(m_root.get(), node);
+    if (box.isEmpty())
+        return viewAll();
+    frame(box);
+    m_look = Look::Around;
+}
+
+void ViewCamera::lookAround()
+{
+    if (m_look == Look::ThroughScene)
+        findPivot();
+    m_look = Look::Around;
+}
+
+// Files seldom tell what their camera looks at. Where the point they name is outside of the scene, the view turns
+// around the point of the line of sight that is the nearest to the scene's middle.
+void ViewCamera::findPivot()
+{
+    const SbBox3f box = boxOf(m_root.get());
+    if (box.isEmpty() || box.contains(m_camera->getFocalPoint()))
+        return;
+    const float distance = (box.getCenter() - m_camera->position.getValue()).dot(m_camera->getDirection());
+    if (distance > 0)
+        m_camera->focalDistance.setValue(distance);
+}
+
+void ViewCamera::turn(float right, float up)
+{
+    lookAround();
+    m_camera->orbit(-right * Pi, up * Pi);
+}
+
+void ViewCamera::pan(float right, float up)
+{
+    lookAround();
+    m_camera->pan(-right, -up);
+}
+
+void ViewCamera::zoom(float factor, float x, float y)
+{
+    lookAround();
+    m_camera->zoom(factor, x, y, m_aspect);
+}
+
+void ViewCamera::fitDepth()
+{
+    if (m_look != Look::ThroughScene)
+        m_camera->fitDepthRange(boxOf(m_root.get()));
+}

@@ -1,0 +1,43 @@
+#include "window/FileMenu.h"
+
+#include "theme/ActionIcons.h"
+#include "window/SceneFiles.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMenu>
+
+FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
+    : QObject(&menu)
+    , m_files(files)
+{
+    menu.addAction(tr("&New"), &files, &SceneFiles::startAnew, QKeySequence::New);
+    m_open = menu.addAction(scopix::openIcon(), tr("&Open …"), &files, &SceneFiles::askForFile, QKeySequence::Open);
+    m_open->setToolTip(tr("Open a scene or model"));
+    m_recent = menu.addMenu(tr("Open &Recent"));
+    m_recent->setObjectName(QStringLiteral("recentFiles"));
+    m_recent->setToolTipsVisible(true);
+    connect(m_recent, &QMenu::aboutToShow, this, &FileMenu::fillRecent);
+    menu.addSeparator();
+    menu.addAction(tr("&Save"), &files, &SceneFiles::save, QKeySequence::Save);
+    menu.addAction(tr("Save &As …"), &files, &SceneFiles::saveAs, QKeySequence::SaveAs);
+}
+
+void FileMenu::fillRecent()
+{
+    m_recent->clear();
+    int number = 0;
+    for (const QString& path : m_files.getRecent().list()) {
+        QString name = QDir::toNativeSeparators(path);
+        name.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        const QString digit = ++number < 10 ? QStringLiteral("&%1  ").arg(number) : QString();
+        QAction* action = m_recent->addAction(digit + name, &m_files, [this, path] { m_files.openRecent(path); });
+        action->setData(path);
+    }
+    if (number == 0) {
+        m_recent->addAction(tr("None Yet"))->setEnabled(false);
+        return;
+    }
+    m_recent->addSeparator();
+    m_recent->addAction(tr("&Clear This List"), this, [this] { m_files.getRecent().clear(); });
+}

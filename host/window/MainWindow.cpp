@@ -1,0 +1,353 @@
+#include "window/MainWindow.h"
+
+#include "services/HostServices.h"
+#include "support/Messages.h"
+#include "settings/UserSettings.h"
+#include "theme/ActionIcons.h"
+#include "window/DefaultScene.h"
+#include "panels/FieldListView.h"
+#include "window/FileMenu.h"
+#include "panels/NodeText.h"
+#include "panels/SceneTreeModel.h"
+#include "panels/SceneTreeView.h"
+#include "viewport/SceneView.h"
+#include "viewport/Screenshot.h"
+
+#include <xsg/actions/SoSearchAction.h>
+#include <xsg/core/SoField.h>
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUndoView>
+
+namespace
+{
+
+constexpr int SideWidth = 330;
+constexpr int MessageMs = 8000;
+
+QSettings settings()
+{
+    return QSettings(UserSettings::windowFile(), QSettings::IniFormat);
+}
+
+scopix::Theme wantedTheme()
+{
+    const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
+    return scopix::themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
+                                                           : fromEnvironment);
+}
+
+// To the first node, from the top, that has this name, or else this type.
+SoPath findNode(SoNode* root, const QString& text)
+{
+    SoSearchAction byName;
+    byName.setName(scopix::toName(text));
+    if (!byName.apply(root).empty())
+        return byName.getPaths().front();
+    SoSearchAction byType;
+    const SoType type = SoType::fromName(scopix::toName(text));
+    byType.setType(type);
+    return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
+}
+
+} // namespace
+
+MainWindow::MainWindow(HostServices& services, Messages& messages)
+    : m_services(services)
+    , m_messages(messages)
+    , m_files(*this, services, messages)
+    , m_tree(new SceneTreeView)
+    , m_fields(new FieldListView)
+    , m_view(new SceneView)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    scopix::applyTheme(wantedTheme());
+    setAcceptDrops(true);
+    setDockNestingEnabled(true);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    setCentralWidget(m_view);
+    makeDocks();
+    makeFileMenu();
+    makeEditMenu();
+    makeViewMenu();
+    makeHelpMenu();
+    makeToolBar();
+    connectSelection();
+    connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
+    connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
+    connect(&m_files, &SceneFiles::opened, this, &MainWindow::fileDone);
+    connect(&m_messages, &Messages::told, this, [this](const QString& text) {
+        statusBar()->showMessage(text, MessageMs);
+    });
+    statusBar()->show();
+    resize(sizeHint());
+    setScene(scopix::makeDefaultScene().get(), tr("Welcome"));
+}
+
+MainWindow::~MainWindow()
+{
+    // What the views still tell while they go is nobody's business any more.
+    m_tree->disconnect(this);
+    m_fields->disconnect(this);
+    m_view->disconnect(this);
+    m_services.disconnect(this);
+    m_files.getDocument().disconnect(this);
+}
+
+QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    return dock;
+}
+
+void MainWindow::makeDocks()
+{
+    m_treeDock = addDock(m_tree, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
+    m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
+    auto* history = new QUndoView(&m_services.undoStack());
+    history->setObjectName(QStringLiteral("history"));
+    history->setEmptyLabel(tr("Unchanged"));
+    history->setFrameShape(QFrame::NoFrame);
+    m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_fieldsDock, m_historyDock);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    m_fieldsDock->raise();
+    resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
+    resizeDocks({m_treeDock, m_fieldsDock}, {430, 290}, Qt::Vertical);
+}
+
+void MainWindow::makeFileMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
+    menu->addAction(tr("Save &Picture of the Window …"), this, &MainWindow::askForScreenshot);
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::makeEditMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    QUndoStack& stack = m_services.undoStack();
+    m_undoAction = stack.createUndoAction(this, tr("Undo"));
+    m_undoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
+    m_undoAction->setIcon(scopix::undoIcon());
+    m_redoAction = stack.createRedoAction(this, tr("Redo"));
+    m_redoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
+    m_redoAction->setIcon(scopix::redoIcon());
+    menu->addActions({m_undoAction, m_redoAction});
+}
+
+void MainWindow::makeViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    m_viewAllAction = menu->addAction(scopix::viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
+                                           QKeySequence(Qt::CTRL + Qt::Key_F));
+    connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
+    menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
+    menu->addSeparator();
+    m_wireframeAction = menu->addAction(scopix::wireframeIcon(), tr("&Wireframe"));
+    m_wireframeAction->setShortcut(Qt::Key_F3);
+    m_statisticsAction = menu->addAction(scopix::statisticsIcon(), tr("S&tatistics"));
+    m_statisticsAction->setShortcut(Qt::Key_F4);
+    for (QAction* toggle : {m_wireframeAction, m_statisticsAction})
+        toggle->setCheckable(true);
+    connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
+    connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
+    menu->addSeparator();
+    for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
+        menu->addAction(dock->toggleViewAction());
+    menu->addSeparator();
+    m_toolsMenu = menu->addMenu(tr("&Tools"));
+    m_profilesMenu = menu->addMenu(tr("&Profile"));
+    makeThemeMenu(*menu->addMenu(tr("&Colours")));
+}
+
+void MainWindow::makeThemeMenu(QMenu& menu)
+{
+    auto* group = new QActionGroup(&menu);
+    const std::pair<scopix::Theme, QString> entries[] = {{scopix::Theme::System, tr("As the &System")},
+                                                         {scopix::Theme::Dark, tr("&Dark")},
+                                                         {scopix::Theme::Light, tr("&Light")}};
+    for (const auto& [theme, text] : entries) {
+        QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setCheckable(true);
+        action->setChecked(theme == wantedTheme());
+        group->addAction(action);
+    }
+}
+
+void MainWindow::makeHelpMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    menu->addAction(tr("&Moving in the 3D View"), this, [this] {
+        QMessageBox::information(
+            this, tr("Moving in the 3D View"),
+            tr("Turn: drag with the left button.\n"
+               "Move: drag with the middle or right button, or with Shift and the left one.\n"
+               "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
+               "Select: click. The selected part shows its edges.\n"
+               "See all of the selected part: double-click, or F.\n"
+               "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
+               "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "Edges only: F3. What a picture costs: F4."));
+    });
+    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Scopix"),
+                       tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
+                          "undo everything and see what it costs.")
+                           .arg(QApplication::applicationVersion()));
+}
+
+void MainWindow::makeToolBar()
+{
+    QToolBar* bar = addToolBar(tr("Main"));
+    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->setMovable(false);
+    bar->setIconSize({18, 18});
+    bar->addAction(m_openAction);
+    bar->addSeparator();
+    bar->addActions({m_undoAction, m_redoAction});
+    bar->addSeparator();
+    bar->addActions({m_viewAllAction, m_viewSelectedAction});
+    bar->addSeparator();
+    bar->addActions({m_wireframeAction, m_statisticsAction});
+}
+
+void MainWindow::connectSelection()
+{
+    connect(m_tree, &SceneTreeView::nodeSelected, this, [this](SoNode* node) {
+        m_services.select(static_cast<SoFieldContainer*>(node));
+    });
+    connect(m_fields, &FieldListView::fieldSelected, this, [this](SoField* field) { m_services.select(field); });
+    connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
+    connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
+    connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
+}
+
+void MainWindow::showNode(SoFieldContainer* container)
+{
+    auto* node = dynamic_cast<SoNode*>(container);
+    m_tree->showNode(node);
+    // Marks would cover the very look that the person tunes in a material.
+    const bool canBeSeen = node && (node->asGroup() || node->asShape());
+    m_view->setHighlight(canBeSeen ? node : nullptr);
+    m_fields->setContainer(container);
+}
+
+void MainWindow::showField(SoField* field)
+{
+    m_fields->showField(field);
+}
+
+void MainWindow::setScene(SoNode* root, const QString& title)
+{
+    m_files.getDocument().begin(root, {}, title);
+}
+
+void MainWindow::showScene(SoNode* root)
+{
+    m_tree->setScene(root);
+    m_view->setAnimated(m_messages.isAttended()); // pictures made by a script are to be the same each time
+    m_view->setScene(root);
+}
+
+void MainWindow::showTitle()
+{
+    const SceneDocument& document = m_files.getDocument();
+    setWindowTitle(document.getTitle() + QStringLiteral("[*]")); // the toolkit adds mark and program's name
+    setWindowModified(document.isModified());
+}
+
+void MainWindow::openFile(const QString& path)
+{
+    m_files.open(path);
+}
+
+bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
+{
+    const SoPath path = findNode(getScene(), nodeText);
+    const SoNode* node = path.getTail();
+    if (!node) {
+        m_messages.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
+        return false;
+    }
+    SoField* field = node->getField(scopix::toName(fieldText));
+    if (!field) {
+        m_messages.error(tr("“%1”, a %2, has no field “%3”.")
+                             .arg(nodeText, scopix::toQString(node->getTypeId().getName()), fieldText));
+        return false;
+    }
+    m_tree->selectPath(path);
+    m_services.select(field);
+    return true;
+}
+
+bool MainWindow::saveScreenshot(const QString& path)
+{
+    const QString error = scopix::saveScreenshot(*this, path);
+    if (!error.isEmpty())
+        m_messages.error(error);
+    return error.isEmpty();
+}
+
+void MainWindow::askForScreenshot()
+{
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Picture"), QStringLiteral("scopix.png"),
+                                                      tr("Pictures (*.png)"));
+    if (!path.isEmpty())
+        saveScreenshot(path);
+}
+
+void MainWindow::viewSelected()
+{
+    m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
+}
+
+void MainWindow::setTheme(scopix::Theme theme)
+{
+    settings().setValue(QStringLiteral("palette"), scopix::themeName(theme));
+    scopix::applyTheme(theme);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    event->accept();
+    // A turn later: the other program waits for the drop to end, and the person may be asked something.
+    const QString path = event->mimeData()->urls().first().toLocalFile();
+    QMetaObject::invokeMethod(
+        this, [this, path] { m_files.openAnother(path); }, Qt::QueuedConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(m_files.mayClose());
+}

@@ -1,0 +1,88 @@
+// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
+// around it. Opens scenes and models. GUI thread only.
+#pragma once
+
+#include "app/HostWindow.h"
+#include "theme/Colors.h"
+#include "window/SceneFiles.h"
+
+#include <xsg/nodes/base/SoNode.h>
+
+class FieldListView;
+class HostServices;
+class Messages;
+class SceneTreeView;
+class SceneView;
+class SoField;
+
+class MainWindow : public HostWindow
+{
+    Q_OBJECT
+
+public:
+    // Both must outlive the window. Starts with the shipped scene.
+    MainWindow(HostServices& services, Messages& messages);
+    ~MainWindow() override;
+
+    // Shows this scene, which comes from no file, instead of the one before; `title` names it.
+    void setScene(SoNode* root, const QString& title);
+    SoNode* getScene() const { return m_files.getDocument().getRoot(); }
+    SceneFiles& getFiles() { return m_files; }
+
+    QMenu* viewMenu() override { return m_toolsMenu; }
+    QMenu* profilesMenu() override { return m_profilesMenu; }
+    void openFile(const QString& path) override;
+    bool selectField(const QString& node, const QString& field) override;
+    bool saveScreenshot(const QString& path) override;
+    void beginSession() override { m_files.beginSession(); }
+
+    SceneTreeView& getTree() { return *m_tree; }
+    FieldListView& getFields() { return *m_fields; }
+    SceneView& getView() { return *m_view; }
+
+    QSize sizeHint() const override { return {1280, 800}; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void makeDocks();
+    void makeFileMenu();
+    void makeEditMenu();
+    void makeViewMenu();
+    void makeThemeMenu(QMenu& menu);
+    void makeHelpMenu();
+    void makeToolBar();
+    void connectSelection();
+    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area);
+
+    void showScene(SoNode* root);
+    void showTitle();
+    void askForScreenshot();
+    void showAbout();
+    void viewSelected();
+    void showNode(SoFieldContainer* node);
+    void showField(SoField* field);
+    void setTheme(scopix::Theme theme);
+
+    HostServices& m_services;
+    Messages& m_messages;
+    SceneFiles m_files;
+    SceneTreeView* m_tree;
+    FieldListView* m_fields;
+    SceneView* m_view;
+    QDockWidget* m_treeDock = nullptr;
+    QDockWidget* m_fieldsDock = nullptr;
+    QDockWidget* m_historyDock = nullptr;
+    QMenu* m_toolsMenu = nullptr;
+    QMenu* m_profilesMenu = nullptr;
+    QAction* m_openAction = nullptr;
+    QAction* m_undoAction = nullptr;
+    QAction* m_redoAction = nullptr;
+    QAction* m_viewAllAction = nullptr;
+    QAction* m_viewSelectedAction = nullptr;
+    QAction* m_wireframeAction = nullptr;
+    QAction* m_statisticsAction = nullptr;
+};

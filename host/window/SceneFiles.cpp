@@ -1,0 +1,277 @@
+#include "window/SceneFiles.h"
+
+#include "services/HostServices.h"
+#include "support/Messages.h"
+#include "undo/TextInput.h"
+#include "settings/UserSettings.h"
+#include "import/FileChecks.h"
+#include "import/ModelImport.h"
+#include "window/DefaultScene.h"
+
+#include <xsg/files/SoSceneFile.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+
+namespace
+{
+
+QString nameFilter()
+{
+    QStringList patterns;
+    for (const QString& ending : SceneDocument::endings())
+        patterns << QStringLiteral("*.") + ending;
+    return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
+}
+
+SoRef<SoNode> readScene(const QString& path, QString& error)
+{
+    std::string sentence;
+    SoRef<SoNode> scene = SoSceneFile::read(QFile::encodeName(path).toStdString(), sentence);
+    error = QString::fromStdString(sentence);
+    return scene;
+}
+
+} // namespace
+
+SceneFiles::SceneFiles(QWidget& window, HostServices& services, Messages& messages)
+    : m_window(window)
+    , m_messages(messages)
+    , m_document(services)
+    , m_recent(UserSettings::windowFile())
+    , m_autosave(m_document)
+{
+    connect(&m_autosave, &Autosave::failed, &m_messages, &Messages::error);
+}
+
+SceneFiles::~SceneFiles() = default;
+
+void SceneFiles::open(const QString& path)
+{
+    if (m_import)
+        m_import->cancel(); // the person has changed their mind
+    m_droppable = m_document.getEditCount();
+    const QString error = scopix::checkFile(path, SceneDocument::endings());
+    if (!error.isEmpty())
+        return refuse(error);
+    if (QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding())
+        openScene(path);
+    else
+        importModel(path);
+}
+
+void SceneFiles::openScene(const QString& path)
+{
+    QString error;
+    const SoRef<SoNode> scene = readScene(path, error);
+    if (scene)
+        show(scene.get(), path);
+    else
+        refuse(error);
+}
+
+void SceneFiles::importModel(const QString& path)
+{
+    auto* import = new ModelImport(&m_window, this);
+    m_import = import;
+    connect(import, &ModelImport::finished, this, [this, path](const SoRef<SoSeparator>& scene) {
+        modelRead(scene.get(), path);
+    });
+    connect(import, &ModelImport::failed, this, &SceneFiles::refuse);
+    connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
+    import->start(path);
+}
+
+void SceneFiles::modelRead(SoNode* root, const QString& path)
+{
+    // The person may have gone on editing until the model was there.
+    if (m_document.getEditCount() == m_droppable || mayDrop())
+        show(root, path);
+    else
+        cancelled(path);
+}
+
+void SceneFiles::forgetImport()
+{
+    if (m_import)
+        m_import->deleteLater();
+    m_import.clear();
+}
+
+void SceneFiles::cancelled(const QString& path)
+{
+    forgetImport();
+    m_messages.info(tr("Reading “%1” was cancelled.").arg(path));
+    emit opened(false);
+}
+
+void SceneFiles::show(SoNode* root, const QString& path)
+{
+    forgetImport();
+    m_document.begin(root, path, QFileInfo(path).fileName());
+    if (m_messages.isAttended())
+        m_recent.add(path);
+    m_messages.info(tr("Opened “%1”.").arg(path));
+    emit opened(true);
+}
+
+void SceneFiles::refuse(const QString& sentence)
+{
+    forgetImport();
+    m_messages.error(sentence);
+    emit opened(false);
+}
+
+void SceneFiles::startAnew()
+{
+    if (mayDrop())
+        m_document.begin(scopix::makeDefaultScene().get(), {}, tr("Welcome"));
+}
+
+void SceneFiles::openAnother(const QString& path)
+{
+    if (mayDrop())
+        open(path);
+}
+
+void SceneFiles::askForFile()
+{
+    if (!mayDrop())
+        return;
+    const QString path =
+        QFileDialog::getOpenFileName(&m_window, tr("Open"), QFileInfo(m_document.getPath()).path(), nameFilter());
+    if (!path.isEmpty())
+        open(path);
+}
+
+void SceneFiles::openRecent(const QString& path)
+{
+    if (QFileInfo::exists(path))
+        return openAnother(path);
+    m_recent.remove(path);
+    m_messages.error(tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
+}
+
+bool SceneFiles::save()
+{
+    return m_document.hasSceneFile() ? saveTo(m_document.getPath()) : saveAs();
+}
+
+bool SceneFiles::saveAs()
+{
+    QFileDialog dialog(&m_window, tr("Save Scene"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(tr("Scenes (*.%1)").arg(SceneDocument::sceneEnding()));
+    dialog.setDefaultSuffix(SceneDocument::sceneEnding());
+    const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
+    dialog.setDirectory(origin.path());
+    dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + SceneDocument::sceneEnding());
+    return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().value(0));
+}
+
+bool SceneFiles::saveTo(const QString& path)
+{
+    applyTyping();
+    const QString error = m_document.save(path);
+    if (!error.isEmpty()) {
+        m_messages.error(error);
+        return false;
+    }
+    if (m_messages.isAttended())
+        m_recent.add(path);
+    m_messages.info(tr("Saved “%1”.").arg(path));
+    return true;
+}
+
+bool SceneFiles::mayClose()
+{
+    if (!mayDrop())
+        return false;
+    if (m_import)
+        m_import->cancel();
+    m_autosave.drop();
+    return true;
+}
+
+bool SceneFiles::mayDrop()
+{
+    applyTyping();
+    const bool may = !m_document.isModified() || !m_messages.isAttended() || askWhetherToDrop();
+    if (may)
+        m_droppable = m_document.getEditCount();
+    return may;
+}
+
+bool SceneFiles::askWhetherToDrop()
+{
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
+                    tr("Save the changes to “%1”?").arg(m_document.getTitle()),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
+    box.setObjectName(QStringLiteral("unsavedChanges"));
+    box.setInformativeText(tr("Without saving, they are lost."));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Save);
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.setWindowModality(Qt::WindowModal);
+    const int answer = box.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+// What was typed and not yet confirmed counts as an edit too; editors take it over when their input is left.
+void SceneFiles::applyTyping()
+{
+    QWidget* input = QApplication::focusWidget();
+    if (!input || !TextInput::holdsUnappliedTyping(input))
+        return;
+    const QPointer<QWidget> stays = input;
+    input->clearFocus();
+    if (stays)
+        stays->setFocus();
+}
+
+void SceneFiles::beginSession()
+{
+    m_autosave.start();
+    if (!m_document.getPath().isEmpty())
+        m_recent.add(m_document.getPath());
+    offerRecovery();
+}
+
+void SceneFiles::offerRecovery()
+{
+    std::unique_ptr<RecoverySlot> slot = RecoverySlot::findLost(m_autosave.getFolder());
+    if (!slot)
+        return;
+    QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
+                    tr("The last session ended without saving its changes to “%1”. Recover them?")
+                        .arg(slot->getOrigin().title),
+                    QMessageBox::NoButton, &m_window);
+    box.setObjectName(QStringLiteral("recovery"));
+    box.setInformativeText(
+        tr("They were kept on %1.").arg(QLocale().toString(slot->getTime(), QLocale::ShortFormat)));
+    box.setTextFormat(Qt::PlainText);
+    QAbstractButton* yes = box.addButton(tr("&Recover"), QMessageBox::AcceptRole);
+    box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    box.setWindowModality(Qt::WindowModal);
+    box.exec();
+    if (box.clickedButton() == yes)
+        recover(std::move(slot));
+    else if (box.clickedButton())
+        slot->remove();
+}
+
+void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
+{
+    QString error;
+    const SoRef<SoNode> scene = readScene(slot->scenePath(), error);
+    if (!scene)
+        return m_messages.error(error);
+    const RecoverySlot::Origin origin = slot->getOrigin();
+    m_document.beginModified(scene.get(), origin.path, origin.title);
+    m_autosave.adopt(std::move(slot));
+    m_messages.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
+}

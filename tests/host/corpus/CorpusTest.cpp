@@ -1,0 +1,146 @@
+// Every model of the importer's own test files opens with as many triangles as the importer finds in it, or is refused
+// in one sentence; none crashes the host or keeps it waiting. One test for each of the files' folders.
+#include "import/ModelFormats.h"
+#include "import/ModelImport.h"
+#include "reader/MemoryLimit.h"
+
+#include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+
+#include <assimp/Importer.hpp>
+#include <assimp/postprocess.h>
+#include <assimp/scene.h>
+
+#include <locale.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+const QString Corpus = QStringLiteral(SCOPIX_MODEL_CORPUS "/");
+
+// Refused although the importer finds triangles in them, each for a reason.
+const QSet<QString> RefusedWithReason{
+    "ASE/ThreeCubesGreen_UTF16BE.ASE",                              // triangles without a surface
+    "ASE/ThreeCubesGreen_UTF16LE.ASE",                              // the same
+    "OFF/invalid.off",                                              // triangles without a surface
+    "STL/triangle_with_empty_solid.stl",                            // a mesh without points
+    "glTF2/BoxWithInfinites-glTF-Binary/BoxWithInfinites.glb",      // points at infinity
+};
+
+long trianglesIn(const aiNode& node, const aiScene& scene)
+{
+    long count = 0;
+    for (unsigned i = 0; i < node.mNumMeshes; ++i) {
+        const aiMesh& mesh = *scene.mMeshes[node.mMeshes[i]];
+        count += std::count_if(mesh.mFaces, mesh.mFaces + mesh.mNumFaces,
+                               [](const aiFace& face) { return face.mNumIndices == 3; });
+    }
+    for (unsigned i = 0; i < node.mNumChildren; ++i)
+        count += trianglesIn(*node.mChildren[i], scene);
+    return count;
+}
+
+// As the importer itself counts them, in a process of its own, which it may end; 0 where it opens nothing.
+long trianglesByImporter(const QString& path)
+{
+    int ends[2];
+    if (pipe(ends) != 0)
+        return 0;
+    const pid_t child = fork();
+    if (child == 0) {
+        scopix::limitMemoryFor(path);
+        uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
+        Assimp::Importer importer;
+        const aiScene* scene = importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);
+        const long count = scene && scene->mRootNode ? trianglesIn(*scene->mRootNode, *scene) : 0;
+        _exit(write(ends[1], &count, sizeof count) == sizeof count ? 0 : 1);
+    }
+    close(ends[1]);
+    long count = 0;
+    const bool told = read(ends[0], &count, sizeof count) == sizeof count;
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return told ? count : 0;
+}
+
+long trianglesIn(SoNode* scene)
+{
+    SoSearchAction search;
+    search.setType(SoIndexedTriangleSet::getClassTypeId());
+    search.setLimit(-1);
+    long count = 0;
+    for (const SoPath& path : search.apply(scene))
+        count += static_cast<SoIndexedTriangleSet*>(path.getTail())->index.getNum() / 3;
+    return count;
+}
+
+struct Outcome {
+    SoRef<SoSeparator> scene;
+    QString error;
+};
+
+Outcome open(const QString& path)
+{
+    Outcome outcome;
+    bool done = false;
+    QWidget window;
+    ModelImport import(&window);
+    QObject::connect(&import, &ModelImport::finished, [&](const SoRef<SoSeparator>& scene) {
+        outcome.scene = scene;
+        done = true;
+    });
+    QObject::connect(&import, &ModelImport::failed, [&](const QString& sentence) {
+        outcome.error = sentence;
+        done = true;
+    });
+    import.start(path);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 120000)) << qPrintable(path);
+    return outcome;
+}
+
+void check(const QString& path)
+{
+    SCOPED_TRACE(path.toStdString());
+    const long expected = trianglesByImporter(path);
+    const Outcome outcome = open(path);
+    if (outcome.scene) {
+        EXPECT_EQ(trianglesIn(outcome.scene.get()), expected);
+        return;
+    }
+    EXPECT_TRUE(outcome.error.contains(path)) << qPrintable(outcome.error);
+    EXPECT_TRUE(outcome.error.endsWith('.') && !outcome.error.contains('\n')) << qPrintable(outcome.error);
+    EXPECT_EQ(expected > 0, RefusedWithReason.contains(path.mid(Corpus.size()))) << qPrintable(outcome.error);
+}
+
+class CorpusFolder : public testing::TestWithParam<std::string>
+{
+};
+
+TEST_P(CorpusFolder, OpensOrIsRefused)
+{
+    const QStringList endings = scopix::modelEndings();
+    QDirIterator files(Corpus + QString::fromStdString(GetParam()), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        files.next();
+        if (endings.contains(files.fileInfo().suffix().toLower()))
+            check(files.filePath());
+    }
+}
+
+std::vector<std::string> folders()
+{
+    std::vector<std::string> names;
+    for (const QString& name : QDir(Corpus).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        names.push_back(name.toStdString());
+    return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CorpusFolder, testing::ValuesIn(folders()), [](const auto& test) {
+    std::string name = test.param;
+    std::replace_if(name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+    return name;
+});
+
+} // namespace

@@ -1,0 +1,140 @@
+#include "SessionFiles.h"
+
+#include <xsg/nodes/properties/SoComplexity.h>
+
+#include <QSignalSpy>
+
+namespace
+{
+
+using SceneDocumentTest = SessionFiles;
+
+TEST_F(SceneDocumentTest, FollowsTheHistory)
+{
+    EXPECT_FALSE(document.isModified());
+    QSignalSpy told(&document, &SceneDocument::stateChanged);
+    edit(0.5F);
+    EXPECT_TRUE(document.isModified());
+    EXPECT_FALSE(told.isEmpty());
+    services.undoStack().undo();
+    EXPECT_FALSE(document.isModified());
+    services.undoStack().redo();
+    EXPECT_TRUE(document.isModified());
+}
+
+TEST_F(SceneDocumentTest, AnEditWithoutAStepCountsToo)
+{
+    QSignalSpy told(&document, &SceneDocument::stateChanged);
+    editWithoutStep(0.5F);
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(told.size(), 1);
+    EXPECT_EQ(document.save(folder.filePath("scene.xsg")), "");
+    EXPECT_FALSE(document.isModified());
+}
+
+TEST_F(SceneDocumentTest, AnEditWithItsStepIsTakenBackWhole)
+{
+    edit(0.5F);
+    edit(0.7F);
+    services.undoStack().undo();
+    SoSensorQueue::getInstance().process();
+    services.undoStack().undo();
+    SoSensorQueue::getInstance().process();
+    EXPECT_FALSE(document.isModified());
+}
+
+TEST_F(SceneDocumentTest, WhatFollowsAnotherFieldIsNoEdit)
+{
+    SoRef<SoComplexity> master(new SoComplexity);
+    ASSERT_TRUE(material->transparency.connectFrom(&master->value));
+    services.select(&material->transparency);
+    SoSensorQueue::getInstance().process();
+    master->value.setValue(0.125F);
+    SoSensorQueue::getInstance().process();
+    EXPECT_FALSE(document.isModified());
+}
+
+TEST_F(SceneDocumentTest, EveryActIsCounted)
+{
+    const quint64 before = document.getEditCount();
+    edit(0.5F);
+    const quint64 edited = document.getEditCount();
+    EXPECT_GT(edited, before);
+    services.undoStack().undo();
+    EXPECT_GT(document.getEditCount(), edited);
+}
+
+TEST_F(SceneDocumentTest, SavingIsTheNewUnmodifiedState)
+{
+    edit(0.5F);
+    const QString path = folder.filePath("other.xsg");
+    EXPECT_EQ(document.save(path), "");
+    EXPECT_FALSE(document.isModified());
+    EXPECT_EQ(document.getPath(), path);
+    EXPECT_EQ(document.getTitle(), "other.xsg");
+    EXPECT_EQ(filesIn(folder.path()), QStringList{"other.xsg"});
+    services.undoStack().undo();
+    EXPECT_TRUE(document.isModified()) << "the file has the edit";
+}
+
+TEST_F(SceneDocumentTest, WhatCannotBeSavedStaysModified)
+{
+    edit(0.5F);
+    const QString error = document.save(folder.filePath("nowhere/scene.xsg"));
+    EXPECT_TRUE(error.contains("nowhere/scene.xsg")) << qPrintable(error);
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(document.getTitle(), "scene.xsg");
+}
+
+TEST_F(SceneDocumentTest, ALinkStaysALink)
+{
+    const QString real = folder.filePath("real.xsg");
+    ASSERT_EQ(document.save(real), "");
+    const QString link = folder.filePath("link.xsg");
+    ASSERT_TRUE(QFile::link(real, link));
+    edit(0.25F);
+    ASSERT_EQ(document.save(link), "");
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(contentOf(real).contains("transparency: 0.25"));
+}
+
+TEST_F(SceneDocumentTest, AModelHasNoSceneFileYet)
+{
+    const SoRef<SoNode> root(new SoSeparator);
+    EXPECT_TRUE(document.hasSceneFile());
+    document.begin(root.get(), "/somewhere/crate.gltf", "crate.gltf");
+    EXPECT_FALSE(document.hasSceneFile());
+    document.begin(root.get(), {}, "Welcome");
+    EXPECT_FALSE(document.hasSceneFile());
+}
+
+TEST_F(SceneDocumentTest, AnotherSceneBeginsUnmodified)
+{
+    editWithoutStep(0.5F);
+    edit(0.75F);
+    begin();
+    EXPECT_FALSE(document.isModified());
+    EXPECT_EQ(services.undoStack().count(), 0);
+    EXPECT_EQ(services.selectedNode(), nullptr);
+}
+
+TEST_F(SceneDocumentTest, RecoveredEditsAreUnsavedWhateverIsUndone)
+{
+    const SoRef<SoNode> root(document.getRoot());
+    document.beginModified(root.get(), "/somewhere/a.xsg", "a.xsg");
+    EXPECT_TRUE(document.isModified());
+    edit(0.5F);
+    services.undoStack().undo();
+    EXPECT_TRUE(document.isModified());
+    ASSERT_EQ(document.save(folder.filePath("a.xsg")), "");
+    EXPECT_FALSE(document.isModified());
+}
+
+TEST_F(SceneDocumentTest, EditsSurviveTheEndOfTheirHistory)
+{
+    edit(0.5F);
+    services.history().clear();
+    EXPECT_TRUE(document.isModified()) << "the field still has the new value";
+}
+
+} // namespace

@@ -1,0 +1,192 @@
+// The host as a program embeds it, around a window of its own.
+#include "PluginParts.h"
+
+#include "app/HostApplication.h"
+
+#include <scopix/SpxExtension.h>
+
+#include <gtest/gtest.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace
+{
+
+class TestWindow : public HostWindow
+{
+public:
+    explicit TestWindow(Messages& messages)
+        : m_messages(messages)
+    {
+    }
+    QMenu* viewMenu() override { return &m_view; }
+    QMenu* profilesMenu() override { return &m_profiles; }
+    void openFile(const QString& path) override
+    {
+        m_acts += "open " + path;
+        const bool good = path.startsWith("good");
+        if (!good)
+            m_messages.error("There is no file \"" + path + "\".");
+        emit fileDone(good);
+    }
+    bool selectField(const QString& node, const QString& field) override
+    {
+        m_acts += "select " + node + " " + field;
+        return true;
+    }
+    bool saveScreenshot(const QString& path) override
+    {
+        m_acts += "screenshot " + path;
+        return true;
+    }
+    void beginSession() override { m_acts += "session"; }
+
+    Messages& m_messages;
+    QMenu m_view;
+    QMenu m_profiles;
+    QStringList m_acts;
+};
+
+class ApplicationTest : public ::testing::Test
+{
+protected:
+    ApplicationTest()
+    {
+        qputenv("XDG_CONFIG_HOME", m_home.path().toLocal8Bit());
+        qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
+        takePluginLog();
+        ::testing::internal::CaptureStderr();
+        m_host = std::make_unique<HostApplication>([this](HostServices&, Messages& messages) {
+            auto window = std::make_unique<TestWindow>(messages);
+            m_window = window.get();
+            return window;
+        });
+    }
+    ~ApplicationTest() override
+    {
+        m_host.reset();
+        ::testing::internal::GetCapturedStderr();
+    }
+    int run(const QStringList& arguments)
+    {
+        return m_host->run(CommandLine::parse(QStringList{"scopix"} + arguments));
+    }
+
+    QTemporaryDir m_home;
+    TestWindow* m_window = nullptr;
+    std::unique_ptr<HostApplication> m_host;
+};
+
+TEST_F(ApplicationTest, DoesWhatTheCommandLineAsksInOrder)
+{
+    EXPECT_EQ(run({"good.glb", "--plugin", testPlugin("Good"), "--select", "Material.transparency",
+                   "--screenshot", "out.png"}),
+              0);
+    EXPECT_EQ(m_window->m_acts,
+              (QStringList{"open good.glb", "select Material transparency", "screenshot out.png"}));
+    EXPECT_TRUE(m_host->plugins().pluginNames().contains("Test"));
+}
+
+TEST_F(ApplicationTest, BadInputMakesTheExitStatusOne)
+{
+    EXPECT_EQ(run({"missing.glb", "--quit"}), 1);
+    EXPECT_EQ(m_window->m_acts, QStringList{"open missing.glb"});
+}
+
+TEST_F(ApplicationTest, ABadPluginOrProfileMakesTheExitStatusOne)
+{
+    EXPECT_EQ(run({"--plugin", "/nowhere.so", "--quit"}), 1);
+}
+
+TEST_F(ApplicationTest, AnUnknownProfileIsTold)
+{
+    EXPECT_EQ(run({"--profile", "No such", "--quit"}), 1);
+    EXPECT_EQ(m_host->messages().errorCount(), 1);
+}
+
+TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
+{
+    m_host.reset();
+    QDir(m_home.path()).mkpath("scopix");
+    QFile file(m_home.filePath("scopix/profiles.json"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{");
+    file.close();
+    m_host = std::make_unique<HostApplication>(
+        [](HostServices&, Messages& messages) { return std::make_unique<TestWindow>(messages); });
+    EXPECT_EQ(run({"--quit"}), 1);
+}
+
+TEST_F(ApplicationTest, UsesTheProfileOfTheCommandLine)
+{
+    EXPECT_EQ(run({"--profile", "Measure", "--plugin", testPlugin("Good"), "--quit"}), 0);
+    EXPECT_EQ(m_host->plugins().activeProfile()->name(), "Measure");
+    EXPECT_EQ(takePluginLog().filter("activate"), QStringList());
+}
+
+TEST_F(ApplicationTest, SwitchesTheCountersOn)
+{
+    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+    run({"--counters", "--quit"});
+    EXPECT_EQ(qgetenv("XSG_PERFCOUNTER_ENABLE"), "1");
+    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+}
+
+TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)
+{
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, m_window, [this] {
+        if (m_window->m_acts.contains("session"))
+            QCoreApplication::quit();
+    });
+    waiting.start(1);
+    EXPECT_EQ(run({"good.glb"}), 0);
+    EXPECT_EQ(m_window->m_acts, (QStringList{"open good.glb", "session"}));
+    m_window->m_acts.clear();
+    run({"good.glb", "--quit"});
+    EXPECT_EQ(m_window->m_acts, QStringList{"open good.glb"});
+}
+
+TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
+{
+    QTimer::singleShot(0, m_window, [this] {
+        m_host->shell().setShown(m_host->shell().extensions().last(), false);
+        QCoreApplication::quit();
+    });
+    run({"--plugin", testPlugin("Other")});
+    m_host.reset();
+    m_host = std::make_unique<HostApplication>(
+        [](HostServices&, Messages& messages) { return std::make_unique<TestWindow>(messages); });
+    QTimer::singleShot(0, m_host.get(), [] { QCoreApplication::quit(); });
+    run({"--plugin", testPlugin("Other")});
+    SpxExtension* third = m_host->shell().extensions().last();
+    EXPECT_TRUE(m_host->shell().isHiddenByPerson(third));
+    EXPECT_FALSE(third->isShown());
+}
+
+TEST_F(ApplicationTest, UnloadsThePluginsWhileTheWindowStands)
+{
+    run({"--plugin", testPlugin("Good"), "--quit"});
+    QPointer<QDockWidget> dock = m_window->findChild<QDockWidget*>("First");
+    ASSERT_TRUE(dock);
+    QStringList atEnd;
+    QObject::connect(m_window, &QObject::destroyed, [&] { atEnd = takePluginLog(); });
+    m_host.reset();
+    EXPECT_FALSE(dock);
+    EXPECT_TRUE(atEnd.contains("Test destroyed"));
+}
+
+TEST_F(ApplicationTest, TheMenusFollowExtensionsAndProfiles)
+{
+    run({"--plugin", testPlugin("Good"), "--quit"});
+    QStringList tools;
+    for (const QAction* action : m_window->m_view.actions())
+        tools += action->text();
+    EXPECT_TRUE(tools.contains("First") && tools.contains("Second")) << tools.join(' ').toStdString();
+    m_window->m_profiles.actions().at(1)->trigger();
+    EXPECT_EQ(m_host->plugins().activeProfile()->name(), "Edit");
+    EXPECT_TRUE(m_window->m_profiles.actions().at(1)->isChecked());
+}
+
+} // namespace

@@ -1,0 +1,255 @@
+#include "PluginParts.h"
+
+#include "shell/ViewMenu.h"
+
+#include <scopix/SpxEditor.h>
+
+#include <gtest/gtest.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace
+{
+
+class Panel : public SpxExtension
+{
+public:
+    explicit Panel(const char* name) { setName(name); }
+    void load() override {}
+    void unload() override {}
+    void activate() override
+    {
+        SpxExtension::activate();
+        m_shell->addDockWidget(&m_dock, Qt::RightDockWidgetArea);
+        m_shell->attachExtension(this, true);
+        show();
+    }
+    void deactivate() override
+    {
+        SpxExtension::deactivate();
+        m_shell->removeDockWidget(&m_dock);
+        m_shell->detachExtension(this);
+    }
+    void show() override
+    {
+        SpxExtension::show();
+        m_dock.show();
+    }
+    void hide() override
+    {
+        SpxExtension::hide();
+        m_dock.hide();
+    }
+    void start(HostShell& shell)
+    {
+        m_shell = &shell;
+        shell.setActivating(this);
+        activate();
+        shell.setActivating(nullptr);
+    }
+
+    HostShell* m_shell = nullptr;
+    QDockWidget m_dock;
+};
+
+class PanelEditor : public SpxEditor
+{
+public:
+    void load() override {}
+    void unload() override {}
+};
+
+class ShellTest : public ::testing::Test
+{
+protected:
+    ShellTest()
+    {
+        m_window.resize(900, 600);
+        m_window.setCentralWidget(new QWidget);
+        m_window.show();
+    }
+    Qt::DockWidgetArea areaOf(const Panel& panel) const
+    {
+        return m_window.dockWidgetArea(const_cast<QDockWidget*>(&panel.m_dock));
+    }
+
+    QMainWindow m_window;
+    HostShell m_shell{m_window};
+    Panel m_one{"One"};
+    Panel m_two{"Two"};
+};
+
+TEST_F(ShellTest, NamesEveryDockAndToolBarDifferently)
+{
+    m_one.start(m_shell);
+    QDockWidget same("One");
+    QDockWidget nameless;
+    QToolBar bar("Bar");
+    m_shell.addDockWidget(&same, Qt::LeftDockWidgetArea);
+    m_shell.addDockWidget(&nameless, Qt::LeftDockWidgetArea);
+    m_shell.addToolBar(&bar, Qt::TopToolBarArea);
+    QSet<QString> names;
+    for (const QObject* each : std::initializer_list<QObject*>{&m_one.m_dock, &same, &nameless, &bar})
+        names.insert(each->objectName());
+    EXPECT_EQ(names.size(), 4);
+    EXPECT_FALSE(names.contains(QString()));
+    m_shell.removeDockWidget(&same);
+    m_shell.removeDockWidget(&nameless);
+    m_shell.removeToolBar(&bar);
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, HandsWidgetsBackWithoutAParent)
+{
+    m_one.start(m_shell);
+    QToolBar bar("Bar");
+    m_shell.addToolBar(&bar, Qt::TopToolBarArea);
+    m_shell.removeToolBar(&bar);
+    m_one.deactivate();
+    EXPECT_EQ(m_one.m_dock.parent(), nullptr);
+    EXPECT_EQ(bar.parent(), nullptr);
+    EXPECT_FALSE(m_one.m_dock.isVisible());
+}
+
+TEST_F(ShellTest, KeepsAnExplicitlyHiddenDockHidden)
+{
+    QDockWidget dock("Field Editor");
+    dock.setVisible(false);
+    m_shell.addDockWidget(&dock, Qt::RightDockWidgetArea);
+    EXPECT_TRUE(dock.isHidden());
+    m_shell.removeDockWidget(&dock);
+    m_shell.addDockWidget(&dock, Qt::RightDockWidgetArea);
+    EXPECT_TRUE(dock.isHidden());
+    m_shell.removeDockWidget(&dock);
+}
+
+TEST_F(ShellTest, ADockComesBackWhereItWas)
+{
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    m_window.addDockWidget(Qt::LeftDockWidgetArea, &m_one.m_dock);
+    m_window.tabifyDockWidget(&m_one.m_dock, &m_two.m_dock);
+    m_two.deactivate();
+    m_one.deactivate();
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    EXPECT_EQ(areaOf(m_one), Qt::LeftDockWidgetArea);
+    EXPECT_EQ(areaOf(m_two), Qt::LeftDockWidgetArea);
+    EXPECT_EQ(m_window.tabifiedDockWidgets(&m_one.m_dock), QList<QDockWidget*>{&m_two.m_dock});
+    m_one.m_dock.setFloating(true);
+    m_one.deactivate();
+    m_one.start(m_shell);
+    EXPECT_TRUE(m_one.m_dock.isFloating());
+    m_two.deactivate();
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, AToolBarComesBackWhereItWas)
+{
+    QToolBar bar("Bar");
+    m_shell.addToolBar(&bar, Qt::TopToolBarArea);
+    m_window.addToolBar(Qt::LeftToolBarArea, &bar);
+    m_shell.removeToolBar(&bar);
+    m_shell.addToolBar(&bar, Qt::TopToolBarArea);
+    EXPECT_EQ(m_window.toolBarArea(&bar), Qt::LeftToolBarArea);
+    EXPECT_TRUE(bar.isVisible());
+    m_shell.removeToolBar(&bar);
+}
+
+TEST_F(ShellTest, SavesAndRestoresPlacesAndWhatThePersonHid)
+{
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    m_window.addDockWidget(Qt::BottomDockWidgetArea, &m_one.m_dock);
+    m_shell.setShown(&m_two, false);
+    const QByteArray layout = m_shell.saveLayout();
+    m_shell.setShown(&m_two, true);
+    m_window.addDockWidget(Qt::LeftDockWidgetArea, &m_one.m_dock);
+
+    EXPECT_TRUE(m_shell.restoreLayout(layout));
+    EXPECT_EQ(areaOf(m_one), Qt::BottomDockWidgetArea);
+    EXPECT_TRUE(m_one.m_dock.isVisible());
+    EXPECT_FALSE(m_two.isShown());
+    EXPECT_FALSE(m_two.m_dock.isVisible());
+    EXPECT_TRUE(m_shell.isHiddenByPerson(&m_two));
+    m_two.deactivate();
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, OneThatWaitsComesUpHiddenUntilItIsAskedFor)
+{
+    m_shell.keepHiddenAtFirst("Two");
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_one));
+    EXPECT_TRUE(m_shell.comesUpHidden(&m_two));
+    EXPECT_FALSE(m_shell.isHiddenByPerson(&m_two)) << "no layout remembers it";
+    m_shell.setShown(&m_two, true);
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_two));
+    m_two.deactivate();
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, ALayoutThatIsNoneChangesNothing)
+{
+    m_one.start(m_shell);
+    for (const QByteArray& text :
+         {QByteArray(), QByteArray("nonsense"), QByteArray(1000, '\xff'), m_shell.saveLayout().left(20),
+          QByteArray("\0\0\0\1\0\0\0\4abcd\0\0\0\0", 16)})
+        EXPECT_FALSE(m_shell.restoreLayout(text));
+    EXPECT_EQ(areaOf(m_one), Qt::RightDockWidgetArea);
+    EXPECT_TRUE(m_one.m_dock.isVisible());
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, ClosingADockHidesItsExtension)
+{
+    m_one.start(m_shell);
+    m_one.m_dock.close();
+    runLoop();
+    EXPECT_FALSE(m_one.isShown());
+    EXPECT_TRUE(m_shell.isHiddenByPerson(&m_one));
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, TheWindowsOwnMenuKeepsTheExtensionInformed)
+{
+    m_one.start(m_shell);
+    m_one.m_dock.toggleViewAction()->trigger();
+    runLoop();
+    EXPECT_FALSE(m_one.isShown());
+    m_one.m_dock.toggleViewAction()->trigger();
+    runLoop();
+    EXPECT_TRUE(m_one.isShown());
+    EXPECT_TRUE(m_one.m_dock.isVisible());
+    m_one.deactivate();
+}
+
+TEST_F(ShellTest, TheViewMenuShowsAndHidesExtensionsButEditors)
+{
+    QMenu menu;
+    QAction* before = menu.addAction("Something else");
+    new ViewMenu(m_shell, menu);
+    PanelEditor editor;
+    m_shell.attachExtension(&editor, true);
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    ASSERT_EQ(menu.actions().size(), 3);
+    EXPECT_EQ(menu.actions().at(0), before);
+    QAction* one = menu.actions().at(1);
+    EXPECT_EQ(one->text(), "One");
+    EXPECT_TRUE(one->isChecked());
+    one->trigger();
+    EXPECT_FALSE(m_one.isShown());
+    EXPECT_FALSE(one->isChecked());
+    m_one.show();
+    EXPECT_TRUE(one->isChecked());
+    m_one.deactivate();
+    EXPECT_EQ(menu.actions().size(), 2);
+    m_two.deactivate();
+    m_shell.detachExtension(&editor);
+    EXPECT_EQ(menu.actions().size(), 1);
+}
+
+} // namespace

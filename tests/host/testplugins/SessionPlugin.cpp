@@ -1,0 +1,83 @@
+// A plug-in that acts in the program as a person does, as the environment's SCOPIX_TEST_ACT says: "edit" sets
+// the selected field to 0.5; "recover" answers the question after a crash, saves and closes the window.
+#include "support/SetText.h"
+
+#include <scopix/SpxPlugin.h>
+#include <scopix/SpxServices.h>
+#include <xsg/core/SoField.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace
+{
+
+class Plugin : public SpxPlugin
+{
+public:
+    Plugin() { setName("Session"); }
+    bool load() override
+    {
+        const QByteArray act = qgetenv("SCOPIX_TEST_ACT");
+        if (act == "edit")
+            QObject::connect(SpxServices::getInstance(), &SpxServices::selectedFieldChanged, &m_timer, edit);
+        if (act == "recover") {
+            QObject::connect(&m_timer, &QTimer::timeout, recover);
+            m_timer.start(10);
+        }
+        return SpxPlugin::load();
+    }
+
+private:
+    static void edit(SoField* field)
+    {
+        if (field)
+            SpxServices::getInstance()->executeCommand(new SetText(field, "0.5"));
+    }
+    static void recover()
+    {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || box->objectName() != QLatin1String("recovery"))
+            return;
+        QWidget* window = box->parentWidget();
+        QTimer::singleShot(0, window, [window] { saveAndClose(*window); });
+        for (QAbstractButton* button : box->buttons()) {
+            if (box->buttonRole(button) == QMessageBox::AcceptRole)
+                return button->click();
+        }
+    }
+    static void saveAndClose(QWidget& window)
+    {
+        for (QAction* action : window.findChildren<QAction*>()) {
+            if (action->shortcut() == QKeySequence(QKeySequence::Save))
+                action->trigger();
+        }
+        window.close();
+    }
+
+    QTimer m_timer;
+};
+
+Plugin* s_plugin = nullptr;
+
+} // namespace
+
+#define ENTRY extern "C" __attribute__((visibility("default")))
+
+ENTRY SpxPlugin* loadPlugin();
+SpxPlugin* loadPlugin()
+{
+    s_plugin = new Plugin;
+    return s_plugin;
+}
+
+ENTRY void unloadPlugin();
+void unloadPlugin()
+{
+    delete s_plugin;
+    s_plugin = nullptr;
+}

@@ -1,0 +1,111 @@
+#include "HostParts.h"
+
+#include <gtest/gtest.h>
+
+#include <xsg/nodes/properties/SoComplexity.h>
+
+namespace
+{
+
+class SelectionTest : public ::testing::Test
+{
+protected:
+    SelectionTest()
+    {
+        QObject::connect(&m_services, &SpxServices::selectedNodeChanged,
+                         [this](SoFieldContainer* node) { m_log.push_back("node " + nameOf(node)); });
+        QObject::connect(&m_services, &SpxServices::selectedFieldChanged, [this](SoField* field) {
+            m_log.push_back(field ? std::string("field ") + field->getName().getString() : "field none");
+        });
+    }
+    static std::string nameOf(SoFieldContainer* node)
+    {
+        return node ? node->getTypeId().getName().getString() : "none";
+    }
+    Log take() { return std::exchange(m_log, {}); }
+
+    Log m_log; // nodes that go at the end are still told
+    HostServices m_services;
+    SoRef<SoMaterial> m_material = new SoMaterial;
+    SoRef<SoComplexity> m_complexity = new SoComplexity;
+};
+
+TEST_F(SelectionTest, AFieldBringsItsNode)
+{
+    m_services.select(&m_material->transparency);
+    EXPECT_EQ(take(), (Log{"node Material", "field transparency"}));
+    EXPECT_EQ(m_services.selectedNode(), m_material.get());
+}
+
+TEST_F(SelectionTest, TheSameIsToldAgain)
+{
+    m_services.select(&m_material->transparency);
+    take();
+    m_services.select(&m_material->transparency);
+    EXPECT_EQ(take(), (Log{"field transparency"}));
+    m_services.select(m_material.get());
+    EXPECT_EQ(take(), (Log{"node Material"}));
+    EXPECT_EQ(m_services.selectedField(), &m_material->transparency);
+    m_services.tellSelectionAgain();
+    EXPECT_EQ(take(), (Log{"node Material", "field transparency"}));
+}
+
+TEST_F(SelectionTest, AnotherNodeDropsTheFieldFirst)
+{
+    m_services.select(&m_material->transparency);
+    take();
+    m_services.select(m_complexity.get());
+    EXPECT_EQ(take(), (Log{"field none", "node Complexity"}));
+    m_services.clearSelection();
+    EXPECT_EQ(take(), (Log{"node none"}));
+}
+
+TEST_F(SelectionTest, NoFieldKeepsTheNode)
+{
+    m_services.select(&m_material->transparency);
+    take();
+    m_services.select(static_cast<SoField*>(nullptr));
+    EXPECT_EQ(take(), (Log{"field none"}));
+    EXPECT_EQ(m_services.selectedNode(), m_material.get());
+}
+
+TEST_F(SelectionTest, ASelectionMadeWhileOneIsToldFollowsIt)
+{
+    bool answered = false;
+    QObject listener;
+    QObject::connect(&m_services, &SpxServices::selectedNodeChanged, &listener, [&](SoFieldContainer* node) {
+        if (node && !std::exchange(answered, true))
+            m_services.select(&m_complexity->value);
+    });
+    m_services.select(&m_material->transparency);
+    EXPECT_EQ(take(),
+              (Log{"node Material", "field transparency", "field none", "node Complexity", "field value"}));
+}
+
+TEST_F(SelectionTest, ASelectedNodeThatNobodyReferencesIsLeftAsItIs)
+{
+    auto* loose = new SoMaterial;
+    m_services.select(loose);
+    m_services.clearSelection();
+    EXPECT_EQ(loose->getRefCount(), 0);
+    loose->ref();
+    loose->unref();
+}
+
+TEST_F(SelectionTest, ANodeWithASelectionWaitingForItMayGo)
+{
+    auto* going = new SoMaterial;
+    going->ref();
+    bool answered = false;
+    QObject listener;
+    QObject::connect(&m_services, &SpxServices::selectedNodeChanged, &listener, [&](SoFieldContainer*) {
+        if (std::exchange(answered, true))
+            return;
+        m_services.select(&going->transparency);
+        going->unref();
+    });
+    m_services.select(m_complexity.get());
+    EXPECT_EQ(m_services.selectedNode(), m_complexity.get());
+}
+
+} // namespace

@@ -1,0 +1,73 @@
+#include "panels/FieldListView.h"
+#include "panels/FieldListModel.h"
+#include <xsg/nodes/base/SoFieldGallery.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace
+{
+
+class FieldListViewTest : public testing::Test
+{
+protected:
+    void show(int width, int pointSize)
+    {
+        QFont font;
+        font.setPointSize(pointSize);
+        view.setFont(font);
+        view.resize(width, 300);
+        view.setContainer(gallery.get());
+        view.show();
+        QCoreApplication::processEvents();
+    }
+    int widthOf(int column) const { return view.header()->sectionSize(column); }
+
+    SoRef<SoFieldGallery> gallery{new SoFieldGallery};
+    FieldListView view;
+};
+
+} // namespace
+
+TEST_F(FieldListViewTest, ShowsEveryColumnWithoutScrollingSideways)
+{
+    for (const int pointSize : {9, 14, 30}) {
+        for (const int width : {200, 330, 900}) {
+            show(width, pointSize);
+            EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0) << width << ' ' << pointSize;
+            EXPECT_FALSE(view.horizontalScrollBar()->isVisible());
+            for (int column = 0; column < FieldListModel::ColumnCount; ++column)
+                EXPECT_GE(widthOf(column), 50) << column;
+            EXPECT_GE(widthOf(FieldListModel::ValueColumn), view.viewport()->width() / 3);
+        }
+    }
+    EXPECT_EQ(view.textElideMode(), Qt::ElideRight);
+}
+
+TEST_F(FieldListViewTest, GivesNamesAndTypesWhatTheyNeedWhereThereIsRoom)
+{
+    show(900, 9);
+    const int name = widthOf(FieldListModel::NameColumn);
+    const int type = widthOf(FieldListModel::TypeColumn);
+    const QFontMetrics metrics(view.font());
+    EXPECT_GT(name, metrics.horizontalAdvance("sfFilePathString"));
+    EXPECT_GT(type, metrics.horizontalAdvance("SFFilePathString"));
+    EXPECT_LT(name + type, 600);
+
+    const SoRef<SoMaterial> material(new SoMaterial);
+    view.setContainer(material.get());
+    QCoreApplication::processEvents();
+    EXPECT_LT(widthOf(FieldListModel::TypeColumn), type) << "another node, other widths";
+}
+
+TEST_F(FieldListViewTest, ToolTipHasWhatIsCutOff)
+{
+    show(200, 14);
+    const QModelIndex index = view.getModel().indexOf(&gallery->sfFilePathString);
+    for (int column = 0; column < FieldListModel::ColumnCount; ++column) {
+        const QString tip = view.getModel().data(index.siblingAtColumn(column), Qt::ToolTipRole).toString();
+        for (const char* part : {"sfFilePathString", "SFFilePathString", "textures/wood.png"})
+            EXPECT_TRUE(tip.contains(part)) << part;
+    }
+}

@@ -1,0 +1,242 @@
+#include <xsg/core/SoField.h>
+
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/counters/LibraryCounters.h>
+#include <xsg/sensors/SoDataSensor.h>
+
+#include <algorithm>
+
+template class SoTyped<SoField, SoTypedObject>;
+
+SoField::SoField(SoFieldContainer* owner, const char* name)
+    : m_container(owner)
+    , m_name(name)
+{
+    if (owner)
+        owner->m_fields.append(this);
+    xsg::feeds.fieldsAlive.add();
+}
+
+SoField::~SoField()
+{
+    leaveMaster();
+    if (m_listeners) {
+        // The value is gone already: whoever follows keeps what it has.
+        while (!m_listeners->followers.empty())
+            m_listeners->followers.back()->leaveMaster();
+        while (!m_listeners->sensors.empty())
+            m_listeners->sensors.back()->detach();
+    }
+    if (m_isTrigger)
+        SoDataSensor::forget(this);
+    if (m_container)
+        m_container->m_fields.remove(this);
+    xsg::feeds.fieldsAlive.add(-1);
+}
+
+bool SoField::set(const SbString& text)
+{
+    if (!parse(text.str()))
+        return false;
+    valueWritten();
+    return true;
+}
+
+bool SoField::setAlone(const SbString& text)
+{
+    if (!parse(text.str()))
+        return false;
+    m_default = false;
+    m_needsEvaluation = false;
+    notify(0, -1, Followers::DoNot);
+    return true;
+}
+
+bool SoField::copyFrom(const SoField& other)
+{
+    if (!canConvertFrom(other))
+        return false;
+    other.evaluate();
+    if (!take(other))
+        return false;
+    valueWritten();
+    return true;
+}
+
+void SoField::setIgnored(bool ignored)
+{
+    m_ignored = ignored;
+    // The value is the same as before, so that what was written to a follower stands.
+    notify(0, -1, Followers::DoNot);
+}
+
+bool SoField::canConvertFrom(const SoField& other) const
+{
+    return other.getTypeId() == getTypeId() || hasSameValues(other) ||
+           (numbersPerValue() > 0 && numbersPerValue() == other.numbersPerValue()) || isTextual() ||
+           other.isTextual();
+}
+
+bool SoField::take(const SoField& other)
+{
+    if (other.getTypeId() == getTypeId()) {
+        assign(other);
+        return true;
+    }
+    if (hasSameValues(other))
+        return takeSameValues(other);
+    if (numbersPerValue() == 0 || numbersPerValue() != other.numbersPerValue())
+        return takeText(other);
+    if (!isList() && other.valueCount() == 0)
+        return false;
+    takeNumbers(other);
+    return true;
+}
+
+bool SoField::takeText(const SoField& other)
+{
+    // A list and a single text stand for each other as a whole.
+    if (isList() && !isTextual() && !other.isList()) {
+        std::string whole;
+        other.writePlain(whole, 0);
+        return parse(whole);
+    }
+    if (!isList() && !other.isTextual()) {
+        SbString whole;
+        other.get(whole);
+        return takePlain({whole.str()});
+    }
+    const int count = isList() ? other.valueCount() : std::min(other.valueCount(), 1);
+    std::vector<std::string> texts(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        other.writePlain(texts[static_cast<std::size_t>(i)], i);
+    return takePlain(texts);
+}
+
+bool SoField::connectFrom(SoField* master)
+{
+    if (!master || !canConvertFrom(*master))
+        return false;
+    if (isFollowedBy(*master))
+        return false;
+    disconnect();
+    m_master = master;
+    auto& followers = master->listeners().followers;
+    m_followerSlot = static_cast<std::uint32_t>(followers.size());
+    followers.push_back(this);
+    m_needsEvaluation = true;
+    notify(0, -1, Followers::Hear);
+    return true;
+}
+
+// Whether `other` is this field or takes its value from it, directly or not.
+bool SoField::isFollowedBy(const SoField& other) const
+{
+    if (&other == this)
+        return true;
+    const bool hasFollowers = m_listeners && !m_listeners->followers.empty();
+    const SoField* field = hasFollowers ? &other : nullptr;
+    while (field && field != this)
+        field = field->m_master;
+    return field != nullptr;
+}
+
+void SoField::disconnect()
+{
+    evaluate();
+    leaveMaster();
+}
+
+void SoField::leaveMaster()
+{
+    if (!m_master)
+        return;
+    // The last one takes the place, so that a field leaves at once however many others follow the same one.
+    auto& followers = m_master->m_listeners->followers;
+    followers[m_followerSlot] = followers.back();
+    followers[m_followerSlot]->m_followerSlot = m_followerSlot;
+    followers.pop_back();
+    m_master = nullptr;
+    m_needsEvaluation = false;
+}
+
+void SoField::releaseFollowers()
+{
+    while (m_listeners && !m_listeners->followers.empty())
+        m_listeners->followers.back()->disconnect();
+}
+
+// From the first field up the chain that is up to date down to this one; a walk, since chains may be long.
+void SoField::fetch() const
+{
+    std::vector<const SoField*> stale;
+    for (const SoField* field = this; field->m_needsEvaluation; field = field->m_master)
+        stale.push_back(field);
+    for (auto at = stale.rbegin(); at != stale.rend(); ++at) {
+        auto* field = const_cast<SoField*>(*at);
+        field->m_needsEvaluation = false;
+        if (field->take(*field->m_master))
+            field->m_default = false;
+    }
+}
+
+void SoField::touch()
+{
+    notify(0, -1, Followers::Hear);
+}
+
+void SoField::valueWritten(int start, int count)
+{
+    m_default = false;
+    m_needsEvaluation = false;
+    notify(start, count, Followers::Hear);
+}
+
+void SoField::notify(int start, int count, Followers followers)
+{
+    tellOwn(start, count);
+    if (followers == Followers::Hear && m_listeners && !m_listeners->followers.empty())
+        tellFollowers();
+}
+
+void SoField::tellOwn(int start, int count)
+{
+    ++m_changeCount;
+    if (m_container)
+        ++m_container->m_fieldChangeCount;
+    xsg::feeds.fieldChanges.add();
+    SoNotification change;
+    change.field = this;
+    change.start = start;
+    change.count = count;
+    if (m_listeners) {
+        for (SoDataSensor* sensor : m_listeners->sensors)
+            sensor->notified(change);
+    }
+    if (m_container) {
+        change.serial = SoFieldContainer::nextSerial();
+        m_container->notify(change);
+    }
+}
+
+void SoField::tellFollowers()
+{
+    std::vector<SoField*> open = m_listeners->followers;
+    while (!open.empty()) {
+        SoField* field = open.back();
+        open.pop_back();
+        field->m_needsEvaluation = true;
+        field->tellOwn(0, -1);
+        if (field->m_listeners)
+            open.insert(open.end(), field->m_listeners->followers.begin(),
+                        field->m_listeners->followers.end());
+    }
+}
+
+SoField::Listeners& SoField::listeners()
+{
+    if (!m_listeners)
+        m_listeners = std::make_unique<Listeners>();
+    return *m_listeners;
+}

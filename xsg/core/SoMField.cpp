@@ -1,0 +1,128 @@
+#include <xsg/core/SoMField.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/errors/SoMemoryError.h>
+#include <xsg/core/SoSField.h>
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+template class SoTyped<SoSField, SoField>;
+template class SoTyped<SoMField, SoField>;
+
+void SoSField::writePlain(std::string& out, int /*value*/) const
+{
+    SbString text;
+    get(text);
+    out += text.str();
+}
+
+bool SoSField::takePlain(const std::vector<std::string>& texts)
+{
+    return !texts.empty() && parse(texts.front());
+}
+
+void SoMField::get(SbString& text) const
+{
+    evaluate();
+    std::string& out = text.edit();
+    out = "[ ";
+    writeValues(out);
+    out += count() > 0 ? " ]" : "]";
+}
+
+int SoMField::getNum() const
+{
+    evaluate();
+    return count();
+}
+
+// False, with an SoMemoryError, where there is no memory to change the field to `wanted` values.
+template <class Change>
+bool SoMField::hasMemoryTo(Change change, int wanted)
+{
+    try {
+        change();
+        return true;
+    } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
+    }
+    SoMemoryError::post(std::string("the values of the field \"") + getName().getString() + '"',
+                        static_cast<std::size_t>(wanted) * bytesPerValue());
+    return false;
+}
+
+bool SoMField::grow(int wanted)
+{
+    return hasMemoryTo([&] { resize(wanted); }, wanted);
+}
+
+void SoMField::valuesGrown(int before, int first, int last)
+{
+    const int start = std::min(before, first);
+    valueWritten(start, last - start + 1);
+}
+
+void SoMField::setNum(int wanted)
+{
+    evaluate();
+    const int before = count();
+    if (grow(std::max(wanted, 0)))
+        valueWritten(std::min(before, count()), -1);
+}
+
+bool SoMField::get1(int index, SbString& text) const
+{
+    evaluate();
+    std::string& out = text.edit();
+    out.clear();
+    if (index < 0 || index >= count())
+        return false;
+    writeValue(out, index);
+    return true;
+}
+
+bool SoMField::set1(int index, const SbString& text)
+{
+    if (index < 0 || index == std::numeric_limits<int>::max())
+        return false;
+    evaluate();
+    const int before = count();
+    if (!parseValue(text.str(), index))
+        return false;
+    valuesGrown(before, index, index);
+    return true;
+}
+
+void SoMField::insertSpace(int start, int number)
+{
+    evaluate();
+    const int before = count();
+    if (number <= 0 || number > std::numeric_limits<int>::max() - before)
+        return;
+    const int first = std::clamp(start, 0, before);
+    if (hasMemoryTo([&] { open(first, number); }, before + number))
+        valueWritten(first, -1);
+}
+
+void SoMField::deleteValues(int start, int number)
+{
+    evaluate();
+    const int n = count();
+    const long long last = number < 0 ? n : std::min<long long>(n, static_cast<long long>(start) + number);
+    const int first = std::clamp(start, 0, n);
+    if (last <= first)
+        return;
+    close(first, static_cast<int>(last) - first);
+    valueWritten(first, -1);
+}
+
+void SoMField::valueChanged(int start, int number, bool isWritten)
+{
+    const bool wasDefault = isDefault();
+    valueWritten(start, number);
+    if (!isWritten)
+        setDefault(wasDefault);
+}

@@ -1,9 +1,0 @@
-#include <xsg/core/SoTypedObject.h>
-
-SoTypedObject::~SoTypedObject() = default;
-
-SoType SoTypedObject::getClassTypeId()
-{
-    static const SoType type = SoType::createType(SoType(), "TypedObject");
-    return type;
-}

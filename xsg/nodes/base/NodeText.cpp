@@ -1,0 +1,36 @@
+#include <xsg/nodes/base/NodeText.h>
+
+namespace
+{
+
+// Written bare, this is no reference; a node of this name takes quotes.
+constexpr const char* NoNode = "NULL";
+
+} // namespace
+
+void XsgText<SoRef<SoNode>>::write(std::string& out, const SoRef<SoNode>& node)
+{
+    const SbName name = node ? node->getReferenceName() : SbName(NoNode);
+    if (node && name == SbName(NoNode))
+        xsgAppendQuoted(out, NoNode);
+    else
+        XsgText<SbName>::write(out, name);
+}
+
+bool XsgText<SoRef<SoNode>>::read(XsgTextReader& in, SoRef<SoNode>& node)
+{
+    in.skipBlanks();
+    const bool isQuoted = in.peek() == '"';
+    SbName name;
+    if (!XsgText<SbName>::read(in, name))
+        return false;
+    if (!isQuoted && name == SbName(NoNode)) {
+        node = nullptr;
+        return true;
+    }
+    auto* found = dynamic_cast<SoNode*>(SoFieldContainer::getByName(name));
+    if (!found || found->isDying())
+        return false;
+    node = found;
+    return true;
+}

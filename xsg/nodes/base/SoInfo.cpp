@@ -1,0 +1,5 @@
+#include <xsg/nodes/base/SoInfo.h>
+
+#include <xsg/types/SoTypedImpl.h>
+
+template class SoTyped<SoInfo, SoNode>;

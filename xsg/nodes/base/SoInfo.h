@@ -1,0 +1,15 @@
+// A comment: a text for people, without effect on the picture.
+#pragma once
+
+#include <xsg/fields/SoSFString.h>
+#include <xsg/nodes/base/SoNode.h>
+
+class XSG_API SoInfo : public SoTyped<SoInfo, SoNode>
+{
+public:
+    static constexpr const char* ClassName = "Info";
+
+    SoSFString text{this, "text"};
+};
+
+extern template class SoTyped<SoInfo, SoNode>;

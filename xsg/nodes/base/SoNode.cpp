@@ -1,0 +1,69 @@
+#include <xsg/nodes/base/SoNode.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/counters/LibraryCounters.h>
+#include <xsg/nodes/groups/SoGroup.h>
+
+#include <atomic>
+
+template class SoTyped<SoNode, SoFieldContainer>;
+
+namespace
+{
+
+std::uint64_t nextNodeId()
+{
+    static std::atomic<std::uint64_t> last{0};
+    return ++last;
+}
+
+} // namespace
+
+SoNode::SoNode()
+    : m_id(nextNodeId())
+{
+    xsg::feeds.nodesAlive.add();
+}
+
+SoNode::~SoNode()
+{
+    xsg::feeds.nodesAlive.add(-1);
+}
+
+void SoNode::apply(SoState& /*state*/) const {}
+
+void SoNode::notify(const SoNotification& change)
+{
+    // A walk instead of a recursion, since a scene may be nested deeper than the stack is. Only branching
+    // needs memory; the serial lets a shared node pass each change on once.
+    std::vector<SoNode*> branches;
+    SoNotification passed = change;
+    passed.node = passed.node ? passed.node : this;
+    SoNode* node = this;
+    std::int64_t told = 0;
+    if (SoGroup* group = asGroup())
+        group->noteTouched(nullptr, change.serial);
+    while (node) {
+        SoNode* next = nullptr;
+        if (node->m_lastSerial != change.serial) {
+            node->m_lastSerial = change.serial;
+            ++node->m_changeCount;
+            ++told;
+            if (node->hasSensors())
+                node->SoFieldContainer::notify(passed);
+            const auto& parents = node->m_parents;
+            for (SoGroup* parent : parents)
+                parent->noteTouched(node, change.serial);
+            if (!parents.empty()) {
+                next = parents.front();
+                branches.insert(branches.end(), parents.begin() + 1, parents.end());
+            }
+        }
+        if (!next && !branches.empty()) {
+            next = branches.back();
+            branches.pop_back();
+        }
+        node = next;
+    }
+    xsg::feeds.notifications.add(told);
+}

@@ -1,0 +1,22 @@
+// A reference to a node, or to none. The field keeps the node alive; a node that refers to one of its own
+// ancestors keeps both alive for ever.
+#pragma once
+
+#include <xsg/nodes/base/NodeText.h>
+#include <xsg/fields/SoSValue.h>
+
+class XSG_API SoSFNode : public SoTyped<SoSFNode, SoSValue<SoRef<SoNode>>>
+{
+public:
+    static constexpr const char* ClassName = "SFNode";
+
+    SoSFNode() = default;
+    SoSFNode(SoFieldContainer* owner, const char* name, SoNode* value = nullptr)
+        : SoTyped(owner, name, SoRef<SoNode>(value))
+    {
+    }
+    SoNode* getNode() const { return getValue().get(); }
+};
+
+extern template class SoSValue<SoRef<SoNode>>;
+extern template class SoTyped<SoSFNode, SoSValue<SoRef<SoNode>>>;

@@ -1,0 +1,169 @@
+#include <xsg/nodes/groups/SoGroup.h>
+
+#include <xsg/types/SoTypedImpl.h>
+
+#include <algorithm>
+#include <unordered_set>
+
+template class SoTyped<SoGroup, SoNode>;
+
+SoNode* SoGroup::getChild(int index) const
+{
+    return index < 0 || index >= getNumChildren() ? nullptr : m_children[static_cast<std::size_t>(index)];
+}
+
+int SoGroup::findChild(const SoNode* child) const
+{
+    const auto found = std::find(m_children.begin(), m_children.end(), child);
+    return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
+}
+
+bool SoGroup::wouldLoop(const SoNode* child) const
+{
+    // Upwards, since a group has few ancestors and may have many descendants.
+    if (child == this)
+        return true;
+    const auto* group = dynamic_cast<const SoGroup*>(child);
+    if (!group || group->m_children.empty())
+        return false;
+    std::vector<const SoNode*> pending{this};
+    std::unordered_set<const SoNode*> seen;
+    while (!pending.empty()) {
+        const SoNode* node = pending.back();
+        pending.pop_back();
+        if (node == child)
+            return true;
+        if (seen.insert(node).second)
+            pending.insert(pending.end(), node->m_parents.begin(), node->m_parents.end());
+    }
+    return false;
+}
+
+bool SoGroup::insertChild(SoNode* child, int index)
+{
+    if (!child || wouldLoop(child))
+        return false;
+    const int place = std::clamp(index, 0, getNumChildren());
+    adopt(child);
+    child->m_placeHint = static_cast<std::uint32_t>(place);
+    m_children.insert(m_children.begin() + place, child);
+    childrenChanged();
+    return true;
+}
+
+void SoGroup::removeChild(int index)
+{
+    SoNode* child = getChild(index);
+    if (!child)
+        return;
+    m_children.erase(m_children.begin() + index);
+    childrenChanged();
+    release(child);
+}
+
+void SoGroup::removeAllChildren()
+{
+    std::vector<SoNode*> children;
+    children.swap(m_children);
+    if (children.empty())
+        return;
+    childrenChanged();
+    disownAll(children);
+    std::for_each(children.rbegin(), children.rend(), [](const SoNode* child) { child->unref(); });
+}
+
+bool SoGroup::replaceChild(int index, SoNode* child)
+{
+    SoNode* old = getChild(index);
+    if (!old || !child || wouldLoop(child))
+        return false;
+    adopt(child);
+    m_children[static_cast<std::size_t>(index)] = child;
+    childrenChanged();
+    release(old);
+    return true;
+}
+
+void SoGroup::adopt(SoNode* child)
+{
+    child->ref();
+    child->m_parents.push_back(this);
+}
+
+void SoGroup::release(SoNode* child)
+{
+    auto& parents = child->m_parents;
+    parents.erase(std::find(parents.begin(), parents.end(), this));
+    child->unref();
+}
+
+// When everything goes, this group's places are a child's last ones; where they are not, all of them leave in
+// one pass.
+void SoGroup::disownAll(const std::vector<SoNode*>& children)
+{
+    std::unordered_set<const SoNode*> swept;
+    std::for_each(children.rbegin(), children.rend(), [&](SoNode* child) {
+        auto& parents = child->m_parents;
+        if (!parents.empty() && parents.back() == this)
+            parents.pop_back();
+        else if (swept.insert(child).second)
+            parents.erase(std::remove(parents.begin(), parents.end(), this), parents.end());
+    });
+}
+
+void SoGroup::childrenChanged()
+{
+    SoNotification change;
+    change.serial = nextSerial();
+    notify(change);
+}
+
+void SoGroup::rememberTouched() const
+{
+    if (!m_touched)
+        m_touched = std::make_unique<xsg::TouchLog>(getChangeCount());
+}
+
+void SoGroup::noteTouched(const SoNode* child, std::uint64_t serial)
+{
+    // Two children may bring the same change; it counts once.
+    if (m_touched)
+        m_touched->add(child, getChangeCount() + (m_lastSerial == serial ? 0 : 1));
+}
+
+bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const
+{
+    std::vector<const SoNode*> touched;
+    if (!m_touched || !m_touched->collectSince(since, touched))
+        return false;
+    // The group itself changed, so that the others may be gone.
+    if (std::find(touched.begin(), touched.end(), nullptr) != touched.end())
+        return false;
+    for (const SoNode* child : touched)
+        findPlaces(child, places);
+    std::sort(places.begin(), places.end());
+    return true;
+}
+
+void SoGroup::findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const
+{
+    // With one parent it stands in one place, most likely where it was put.
+    const std::uint32_t hint = child->m_placeHint;
+    if (child->m_parents.size() == 1 && hint < m_children.size() && m_children[hint] == child) {
+        places.push_back(hint);
+        return;
+    }
+    for (auto at = std::find(m_children.begin(), m_children.end(), child); at != m_children.end();
+         at = std::find(at + 1, m_children.end(), child)) {
+        places.push_back(static_cast<std::uint32_t>(at - m_children.begin()));
+        (*at)->m_placeHint = places.back();
+    }
+}
+
+SoGroup::~SoGroup()
+{
+    disownAll(m_children);
+    // They go once this one is gone, and the last one first.
+    for (const SoNode* child : m_children)
+        child->unref();
+}

@@ -1,0 +1,24 @@
+#include <xsg/nodes/groups/SoInstances.h>
+
+#include <xsg/nodes/base/SoState.h>
+#include <xsg/types/SoTypedImpl.h>
+
+template class SoTyped<SoInstances, SoGroup>;
+
+void SoInstances::apply(SoState& state) const
+{
+    auto all = std::make_shared<std::vector<SbMatrix>>();
+    const int count = matrices.getNum();
+    for (int i = 0; i < count && all->size() < MostCopies; ++i)
+        state.forEachInstance([&](const SbMatrix& toWorld) {
+            if (all->size() < MostCopies)
+                all->push_back(matrices[i] * toWorld);
+        });
+    state.instances = std::move(all);
+    state.modelMatrix = SbMatrix();
+}
+
+SoChildRange SoInstances::getChosenChildren(const SoState& /*state*/) const
+{
+    return {0, matrices.getNum() > 0 ? getNumChildren() : 0};
+}

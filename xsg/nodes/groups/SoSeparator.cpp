@@ -1,0 +1,5 @@
+#include <xsg/nodes/groups/SoSeparator.h>
+
+#include <xsg/types/SoTypedImpl.h>
+
+template class SoTyped<SoSeparator, SoGroup>;

@@ -1,0 +1,17 @@
+// Light that comes from far away, everywhere from the same direction.
+#pragma once
+
+#include <xsg/fields/SoSFVec3f.h>
+#include <xsg/nodes/lights/SoLight.h>
+
+class XSG_API SoDirectionalLight : public SoTyped<SoDirectionalLight, SoLight>
+{
+public:
+    static constexpr const char* ClassName = "DirectionalLight";
+
+    SoSFVec3f direction{this, "direction", {0, 0, -1}}; // the way the light goes
+
+    SoLightSource getSource(const SbMatrix& toWorld) const override;
+};
+
+extern template class SoTyped<SoDirectionalLight, SoLight>;

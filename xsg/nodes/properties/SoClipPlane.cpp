@@ -1,0 +1,20 @@
+#include <xsg/nodes/properties/SoClipPlane.h>
+
+#include <xsg/nodes/base/SoState.h>
+#include <xsg/types/SoTypedImpl.h>
+
+template class SoTyped<SoClipPlane, SoNode>;
+
+void SoClipPlane::apply(SoState& state) const
+{
+    const SbVec3f normal = plane.getValue().getNormal();
+    const float length = normal.length();
+    // Without a normal there is no side to keep.
+    if (!on.getValue() || !(length > 0))
+        return;
+    const SbVec3f unit = normal * (1 / length);
+    const SbVec3f point =
+        state.modelMatrix.multPoint(unit * (plane.getValue().getDistanceFromOrigin() / length));
+    const SbVec3f turned = state.modelMatrix.inverse().transposed().multDirection(unit).normalized();
+    state.addClipPlane(SbPlane(turned, turned.dot(point)));
+}

@@ -1,0 +1,17 @@
+// The corners of the vertex shapes that follow.
+#pragma once
+
+#include <xsg/fields/SoMFVec3f.h>
+#include <xsg/nodes/base/SoNode.h>
+
+class XSG_API SoPoints : public SoTyped<SoPoints, SoNode>
+{
+public:
+    static constexpr const char* ClassName = "Points";
+
+    SoMFVec3f points{this, "points"};
+
+    void apply(SoState& state) const override;
+};
+
+extern template class SoTyped<SoPoints, SoNode>;

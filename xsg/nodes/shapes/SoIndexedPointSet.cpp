@@ -1,0 +1,11 @@
+#include <xsg/nodes/shapes/SoIndexedPointSet.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/nodes/shapes/IndexedCorners.h>
+
+template class SoTyped<SoIndexedPointSet, SoVertexShape>;
+
+void SoIndexedPointSet::collectCorners(std::uint32_t pointCount, Corners& corners) const
+{
+    xsg::appendGroups(index, 1, pointCount, corners.index, corners.faces);
+}

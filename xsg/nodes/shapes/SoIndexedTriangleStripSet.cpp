@@ -1,0 +1,11 @@
+#include <xsg/nodes/shapes/SoIndexedTriangleStripSet.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/nodes/shapes/IndexedCorners.h>
+
+template class SoTyped<SoIndexedTriangleStripSet, SoVertexShape>;
+
+void SoIndexedTriangleStripSet::collectCorners(std::uint32_t pointCount, Corners& corners) const
+{
+    xsg::appendIndexedRuns(index, pointCount, xsg::appendStrip, corners.index, corners.faces);
+}

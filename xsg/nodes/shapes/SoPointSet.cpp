@@ -1,0 +1,11 @@
+#include <xsg/nodes/shapes/SoPointSet.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/nodes/shapes/IndexedCorners.h>
+
+template class SoTyped<SoPointSet, SoVertexShape>;
+
+void SoPointSet::collectCorners(std::uint32_t pointCount, Corners& corners) const
+{
+    xsg::appendAll(1, pointCount, corners.index);
+}

@@ -1,0 +1,5 @@
+#include <xsg/nodes/shapes/SoShape.h>
+
+#include <xsg/types/SoTypedImpl.h>
+
+template class SoTyped<SoShape, SoNode>;

@@ -1,0 +1,11 @@
+#include <xsg/nodes/shapes/SoTriangleSet.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/nodes/shapes/IndexedCorners.h>
+
+template class SoTyped<SoTriangleSet, SoVertexShape>;
+
+void SoTriangleSet::collectCorners(std::uint32_t pointCount, Corners& corners) const
+{
+    xsg::appendAll(3, pointCount, corners.index);
+}

@@ -1,0 +1,16 @@
+// Triangles, each of the next three points.
+#pragma once
+
+#include <xsg/nodes/shapes/SoVertexShape.h>
+
+class XSG_API SoTriangleSet : public SoTyped<SoTriangleSet, SoVertexShape>
+{
+public:
+    static constexpr const char* ClassName = "TriangleSet";
+
+protected:
+    SoGeometry::Kind getKind() const override { return SoGeometry::Kind::Triangles; }
+    void collectCorners(std::uint32_t pointCount, Corners& corners) const override;
+};
+
+extern template class SoTyped<SoTriangleSet, SoVertexShape>;

@@ -1,0 +1,13 @@
+#include <xsg/nodes/shapes/SoTriangleStripSet.h>
+
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/nodes/shapes/IndexedCorners.h>
+
+template class SoTyped<SoTriangleStripSet, SoVertexShape>;
+
+void SoTriangleStripSet::collectCorners(std::uint32_t pointCount, Corners& corners) const
+{
+    xsg::forEachRun(counts, pointCount, [&](std::uint32_t first, std::uint32_t count, std::uint32_t run) {
+        xsg::appendStrip(first, count, run, corners.index, corners.faces);
+    });
+}

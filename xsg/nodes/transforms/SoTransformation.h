@@ -1,0 +1,17 @@
+// Moves what follows it in its group. What kinds of movement there are, derived classes say.
+#pragma once
+
+#include <xsg/values/SbMatrix.h>
+#include <xsg/nodes/base/SoNode.h>
+
+class XSG_API SoTransformation : public SoTyped<SoTransformation, SoNode>
+{
+public:
+    static constexpr const char* ClassName = "Transformation";
+
+    // From the coordinates of what follows to those of what went before.
+    virtual SbMatrix getMatrix() const = 0;
+    void apply(SoState& state) const override;
+};
+
+extern template class SoTyped<SoTransformation, SoNode>;

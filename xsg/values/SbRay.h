@@ -1,0 +1,10 @@
+// A half line: where it starts, and the way it goes (of length 1 where distances along it are to be lengths).
+#pragma once
+
+#include <xsg/values/SbVec.h>
+
+struct SbRay {
+    SbVec3f origin;
+    SbVec3f direction;
+    SbVec3f at(float distance) const { return origin + direction * distance; }
+};

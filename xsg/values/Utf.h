@@ -1,0 +1,16 @@
+// Conversions between UTF-8 and UTF-16; whatever is malformed becomes U+FFFD, one per bad unit.
+#pragma once
+
+#include <xsg/values/XsgExport.h>
+
+#include <string>
+#include <string_view>
+
+namespace xsg
+{
+
+XSG_API std::string utf16ToUtf8(std::u16string_view text);
+XSG_API std::u16string utf8ToUtf16(std::string_view text);
+XSG_API void appendUtf8(std::string& out, char32_t codePoint);
+
+} // namespace xsg
