@@ -14,6 +14,8 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 
+using namespace scopix;
+
 namespace
 {
 

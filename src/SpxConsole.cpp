@@ -1,7 +1,7 @@
 #include "SpxConsole.h"
 
 #include "ConsoleText.h"
-#include "SavedErrorHandlers.h"
+#include "ScopedErrorHandlers.h"
 #include "ui_SpxConsole.h"
 
 #include <scopix/SpxShell.h>
@@ -106,7 +106,7 @@ void SpxConsole::load()
     const int maxLines = maxLinesFor(preference);
     m_inbox.setMaxLines(maxLines);
     m_text = std::make_unique<ConsoleText>(*m_form->m_consoleOutput, maxLines);
-    m_savedHandlers = std::make_unique<SavedErrorHandlers>(errorHandlerCB, this);
+    m_savedHandlers = std::make_unique<ScopedErrorHandlers>(errorHandlerCB, this);
     if (maxLines != preference)
         complainAboutMaxLines(preference);
 }

@@ -6,7 +6,7 @@
 // Text may come from any thread: the GUI thread's is printed at once, that of others from the event loop.
 #pragma once
 
-#include "ConsoleInbox.h"
+#include "ConsoleMessageQueue.h"
 #include "ConsoleMessage.h"
 #include "StdStreamRedirector.h"
 
@@ -23,7 +23,7 @@
 class ConsoleText;
 class QDockWidget;
 class QFrame;
-class SavedErrorHandlers;
+class ScopedErrorHandlers;
 class SoError;
 class Ui_m_consoleFrame;
 
@@ -84,8 +84,8 @@ private:
     QDockWidget* m_dock = nullptr;
     QFrame* m_frame = nullptr;           // child of the dock
     std::unique_ptr<ConsoleText> m_text; // null while not loaded
-    ConsoleInbox m_inbox;                // outlives those that write to it
-    std::unique_ptr<SavedErrorHandlers> m_savedHandlers;
+    ConsoleMessageQueue m_inbox;                // outlives those that write to it
+    std::unique_ptr<ScopedErrorHandlers> m_savedHandlers;
     std::unique_ptr<Redirector> m_stderrRedirector; // null while inactive
     std::unique_ptr<Redirector> m_stdoutRedirector;
     // Closed ones; another thread may still be about to write to them.

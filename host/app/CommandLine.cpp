@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <iterator>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -131,3 +134,5 @@ QString CommandLine::versionText()
 {
     return QStringLiteral("scopix " SCOPIX_VERSION "\n");
 }
+
+} // namespace scopix

@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+namespace scopix
+{
+
 struct CommandLine {
     QString file;
     QStringList plugins;
@@ -27,3 +30,5 @@ struct CommandLine {
     static QString helpText();
     static QString versionText();
 };
+
+} // namespace scopix

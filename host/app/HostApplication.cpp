@@ -1,16 +1,19 @@
 #include "app/HostApplication.h"
 
-#include "import/PictureReader.h"
-#include "plugins/PluginFolders.h"
+#include "import/TextureImageLoader.h"
+#include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
-#include "settings/UserHome.h"
+#include "settings/DataDirectory.h"
 #include "settings/UserSettings.h"
-#include "shell/ViewMenu.h"
+#include "shell/ToolsMenu.h"
 
 #include <xsg/support/SoPreferences.h>
 
 #include <QApplication>
 #include <QSettings>
+
+namespace scopix
+{
 
 namespace
 {
@@ -20,20 +23,20 @@ constexpr auto CounterSwitch = "XSG_PERFCOUNTER_ENABLE";
 } // namespace
 
 HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profiles)
-    : m_window(makeWindow(m_services, m_messages))
+    : m_window(makeWindow(m_services, m_notifier))
     , m_shell(*m_window)
     , m_plugins(m_services, m_shell, std::move(profiles))
-    , m_undoKeys(m_services.undoStack(), *m_window)
+    , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
-    PictureReader::install();
+    TextureImageLoader::install();
     // Icons are painted in the density of the screen.
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    m_messages.setWindow(m_window.get());
-    connect(&m_services, &HostServices::commandFailed, &m_messages, &Messages::error);
-    connect(&m_shell, &HostShell::failed, &m_messages, &Messages::error);
-    connect(&m_plugins, &HostPluginsManager::failed, &m_messages, &Messages::error);
-    connect(m_window.get(), &HostWindow::fileDone, this, &HostApplication::fileDone);
-    new ViewMenu(m_shell, *m_window->viewMenu());
+    m_notifier.setWindow(m_window.get());
+    connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
+    connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
+    connect(m_window.get(), &HostWindow::openFinished, this, &HostApplication::openFinished);
+    new ToolsMenu(m_shell, *m_window->viewMenu());
     new ProfilesMenu(m_plugins, *m_window->profilesMenu());
 }
 
@@ -48,7 +51,7 @@ HostApplication::~HostApplication()
 
 void HostApplication::loadStandardPlugins()
 {
-    for (const QString& path : PluginFolders::findAll())
+    for (const QString& path : PluginSearchPath::findAll())
         m_plugins.loadPlugin(path);
 }
 
@@ -63,18 +66,18 @@ int HostApplication::run(const CommandLine& line)
 void HostApplication::start(const CommandLine& line)
 {
     m_asked = line;
-    m_messages.setAttended(!line.isUnattended());
+    m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
         qputenv(CounterSwitch, "1");
     // Switched off, the counters have only to tell how they are switched on, which is worth no place in the window.
     if (!SoPreferences::getBool(CounterSwitch, false))
         m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
-    const QString homeTrouble = UserHome::provide();
+    const QString homeTrouble = DataDirectory::ensure();
     if (!homeTrouble.isEmpty())
-        m_messages.error(homeTrouble);
+        m_notifier.error(homeTrouble);
     m_plugins.readProfiles();
     if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
-        m_messages.error(tr("There is no profile named \"%1\".").arg(line.profile));
+        m_notifier.error(tr("There is no profile named \"%1\".").arg(line.profile));
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
@@ -82,12 +85,12 @@ void HostApplication::start(const CommandLine& line)
         restoreLayout();
     m_window->show();
     if (line.file.isEmpty())
-        fileDone();
+        openFinished();
     else
         m_window->openFile(line.file);
 }
 
-void HostApplication::fileDone()
+void HostApplication::openFinished()
 {
     if (!m_asked)
         return; // a file that the person opened later
@@ -104,11 +107,11 @@ void HostApplication::finish(const CommandLine& line)
 {
     if (!line.screenshot.isEmpty())
         m_window->saveScreenshot(line.screenshot);
-    m_status = m_messages.errorCount() > 0 ? 1 : 0;
+    m_status = m_notifier.errorCount() > 0 ? 1 : 0;
     if (line.isUnattended())
         emit finished();
     else
-        m_window->beginSession();
+        m_window->enterInteractiveMode();
 }
 
 void HostApplication::restoreLayout()
@@ -125,3 +128,5 @@ void HostApplication::saveLayout() const
     settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
     settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
 }
+
+} // namespace scopix

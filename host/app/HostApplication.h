@@ -8,20 +8,23 @@
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
 #include "app/HostWindow.h"
-#include "support/Messages.h"
+#include "support/UserNotifier.h"
 #include "app/SensorPump.h"
-#include "undo/UndoKeys.h"
+#include "undo/UndoShortcutFilter.h"
 
 #include <functional>
 #include <memory>
 #include <optional>
+
+namespace scopix
+{
 
 class HostApplication : public QObject
 {
     Q_OBJECT
 
 public:
-    using MakeWindow = std::function<std::unique_ptr<HostWindow>(HostServices&, Messages&)>;
+    using MakeWindow = std::function<std::unique_ptr<HostWindow>(HostServices&, UserNotifier&)>;
 
     explicit HostApplication(const MakeWindow& makeWindow,
                              ProfileFile profiles = ProfileFile(ProfileFile::standardPath()));
@@ -29,7 +32,7 @@ public:
     ~HostApplication() override;
 
     HostServices& services() { return m_services; }
-    Messages& messages() { return m_messages; }
+    UserNotifier& notifier() { return m_notifier; }
     HostWindow& window() { return *m_window; }
     HostShell& shell() { return m_shell; }
     HostPluginsManager& plugins() { return m_plugins; }
@@ -46,19 +49,21 @@ signals:
     void finished();
 
 private:
-    void fileDone();
+    void openFinished();
     void finish(const CommandLine& line);
     void restoreLayout();
     void saveLayout() const;
 
     SensorPump m_pump;
-    Messages m_messages;
+    UserNotifier m_notifier;
     HostServices m_services;
     std::unique_ptr<HostWindow> m_window;
     HostShell m_shell;
     HostPluginsManager m_plugins;
-    UndoKeys m_undoKeys;
+    UndoShortcutFilter m_undoShortcuts;
     std::optional<CommandLine> m_asked; // until its file has been opened
     bool m_keepsLayout = false;         // a person's session
     int m_status = 0;
 };
+
+} // namespace scopix

@@ -5,6 +5,9 @@
 
 class QMenu;
 
+namespace scopix
+{
+
 class HostWindow : public QMainWindow
 {
     Q_OBJECT
@@ -16,7 +19,7 @@ public:
     virtual QMenu* viewMenu() = 0;
     virtual QMenu* profilesMenu() = 0;
 
-    // Opens a scene or model, perhaps in the background; fileDone() follows, once, also before this returns.
+    // Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this returns.
     // What was open stays open when it fails. Problems are told through Messages.
     virtual void openFile(const QString& path) = 0;
     // Selects a field by its node's name or type. False when there is none, which is told through Messages.
@@ -24,8 +27,10 @@ public:
     // Writes a picture of the window. False when it cannot be written, which is told through Messages.
     virtual bool saveScreenshot(const QString& path) = 0;
     // What was asked for at the start has been done, and a person works with the window from now on.
-    virtual void beginSession() {}
+    virtual void enterInteractiveMode() {}
 
 signals:
-    void fileDone(bool opened);
+    void openFinished(bool opened);
 };
+
+} // namespace scopix

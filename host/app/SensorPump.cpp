@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <cmath>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -59,3 +62,5 @@ void SensorPump::wakeUp(void* pump)
 {
     QCoreApplication::postEvent(static_cast<SensorPump*>(pump), new QEvent(TurnType));
 }
+
+} // namespace scopix

@@ -5,6 +5,9 @@
 #include <QObject>
 #include <QTimer>
 
+namespace scopix
+{
+
 class SensorPump : public QObject
 {
     Q_OBJECT
@@ -22,3 +25,5 @@ private:
 
     QTimer m_due;
 };
+
+} // namespace scopix

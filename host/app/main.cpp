@@ -29,7 +29,7 @@ bool hasDisplay()
 }
 
 // A picture looks the same everywhere when it is drawn off the screen.
-bool chooseWindowSystem(const CommandLine& line)
+bool chooseWindowSystem(const scopix::CommandLine& line)
 {
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
@@ -42,13 +42,13 @@ bool chooseWindowSystem(const CommandLine& line)
 
 int main(int argc, char** argv)
 {
-    const CommandLine line = CommandLine::parse(argumentsOf(argc, argv));
+    const scopix::CommandLine line = scopix::CommandLine::parse(argumentsOf(argc, argv));
     if (!line.error.isEmpty()) {
         print(stderr, QStringLiteral("scopix: ") + line.error);
         return 2;
     }
     if (line.help || line.version) {
-        print(stdout, line.help ? CommandLine::helpText() : CommandLine::versionText());
+        print(stdout, line.help ? scopix::CommandLine::helpText() : scopix::CommandLine::versionText());
         return 0;
     }
     if (!chooseWindowSystem(line)) {
@@ -62,8 +62,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
     QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
-    HostApplication host([](HostServices& services, Messages& messages) {
-        return std::make_unique<MainWindow>(services, messages);
+    scopix::HostApplication host([](scopix::HostServices& services, scopix::UserNotifier& notifier) {
+        return std::make_unique<scopix::MainWindow>(services, notifier);
     });
     return host.run(line);
 }

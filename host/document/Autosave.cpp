@@ -5,6 +5,9 @@
 
 #include <QGuiApplication>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -60,7 +63,7 @@ void Autosave::drop()
     m_pending = false;
     m_pause.stop();
     m_limit.stop();
-    m_writer.abandon();
+    m_writer.cancel();
     if (m_slot)
         m_slot->remove();
     m_slot.reset();
@@ -121,3 +124,5 @@ void Autosave::fail(const QString& sentence)
     if (!std::exchange(m_failed, true))
         emit failed(tr("Unsaved edits would not survive a crash. %1").arg(sentence));
 }
+
+} // namespace scopix

@@ -9,6 +9,9 @@
 #include <QObject>
 #include <QTimer>
 
+namespace scopix
+{
+
 class SceneDocument;
 
 class Autosave : public QObject
@@ -57,3 +60,5 @@ private:
     bool m_pending = false; // edits since the last writing began
     bool m_failed = false;
 };
+
+} // namespace scopix

@@ -3,6 +3,9 @@
 #include <QFileInfo>
 #include <QSettings>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -50,3 +53,5 @@ void RecentFiles::write(const QStringList& paths) const
 {
     QSettings(m_file, QSettings::IniFormat).setValue(key(), paths);
 }
+
+} // namespace scopix

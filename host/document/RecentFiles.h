@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+namespace scopix
+{
+
 class RecentFiles
 {
 public:
@@ -23,3 +26,5 @@ private:
 
     QString m_file;
 };
+
+} // namespace scopix

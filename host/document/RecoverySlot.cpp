@@ -7,6 +7,9 @@
 #include <QSaveFile>
 #include <QUuid>
 
+namespace scopix
+{
+
 RecoverySlot::RecoverySlot(const QString& base)
     : m_base(base)
     , m_lock(base + QStringLiteral(".lock"))
@@ -25,7 +28,7 @@ std::unique_ptr<RecoverySlot> RecoverySlot::make(const QString& folder)
     return slot->m_lock.tryLock() ? std::move(slot) : nullptr;
 }
 
-std::unique_ptr<RecoverySlot> RecoverySlot::findLost(const QString& folder)
+std::unique_ptr<RecoverySlot> RecoverySlot::findOrphaned(const QString& folder)
 {
     std::unique_ptr<RecoverySlot> newest;
     const QFileInfoList origins = QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files);
@@ -75,3 +78,5 @@ void RecoverySlot::remove()
     m_lock.unlock();
     folder.rmdir(folder.path()); // where this was the last one
 }
+
+} // namespace scopix

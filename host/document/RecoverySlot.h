@@ -8,6 +8,9 @@
 
 #include <memory>
 
+namespace scopix
+{
+
 class RecoverySlot
 {
 public:
@@ -21,7 +24,7 @@ public:
     static std::unique_ptr<RecoverySlot> make(const QString& folder);
     // What a session left behind that did not end by itself, locked for this one; the newest where there are several,
     // null where there is none. What sessions that live have is left alone.
-    static std::unique_ptr<RecoverySlot> findLost(const QString& folder);
+    static std::unique_ptr<RecoverySlot> findOrphaned(const QString& folder);
 
     // Lets the lock go. The files stay: whoever comes next finds them as lost.
     ~RecoverySlot() = default;
@@ -42,3 +45,5 @@ private:
     QString m_base;
     QLockFile m_lock;
 };
+
+} // namespace scopix

@@ -1,7 +1,7 @@
 #include "document/SceneDocument.h"
 
 #include "services/HostServices.h"
-#include "document/PicturePaths.h"
+#include "document/TexturePaths.h"
 #include "import/ModelFormats.h"
 
 #include <xsg/core/SoField.h>
@@ -10,6 +10,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+namespace scopix
+{
 
 SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
@@ -32,9 +35,9 @@ QString SceneDocument::sceneEnding()
     return QStringLiteral("xsg");
 }
 
-QStringList SceneDocument::endings()
+QStringList SceneDocument::fileExtensions()
 {
-    return QStringList(sceneEnding()) + scopix::modelEndings();
+    return QStringList(sceneEnding()) + modelEndings();
 }
 
 void SceneDocument::begin(SoNode* root, const QString& path, const QString& title)
@@ -46,7 +49,7 @@ void SceneDocument::begin(SoNode* root, const QString& path, const QString& titl
     m_root = SoRef<SoNode>(root);
     m_touched = false;
     if (!path.isEmpty())
-        scopix::setPictureFolder(root, QFileInfo(path).absolutePath());
+        setPictureFolder(root, QFileInfo(path).absolutePath());
     emit rootChanged(root);
     setState(path, title);
 }
@@ -73,7 +76,7 @@ QString SceneDocument::save(const QString& path)
     const QFileInfo target(path);
     const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
     if (QFileInfo(real).dir().exists())
-        scopix::movePictures(m_root.get(), QFileInfo(real).absolutePath());
+        movePictures(m_root.get(), QFileInfo(real).absolutePath());
     std::string error;
     if (!SoSceneFile::write(m_root.get(), QFile::encodeName(real).toStdString(), error))
         return QString::fromStdString(error);
@@ -125,3 +128,5 @@ void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
     document.acted();
     emit document.stateChanged();
 }
+
+} // namespace scopix

@@ -7,8 +7,12 @@
 #include <QObject>
 #include <QString>
 
-class HostServices;
 class SoField;
+
+namespace scopix
+{
+
+class HostServices;
 
 class SceneDocument : public QObject
 {
@@ -21,7 +25,7 @@ public:
 
     // The endings of the names of scene files and of everything that can be opened, in lower case.
     static QString sceneEnding();
-    static QStringList endings();
+    static QStringList fileExtensions();
 
     // Opens another scene in place of the one before: selection and history go. `path` is the scene file or model it
     // came from, or empty; `title` names it.
@@ -67,3 +71,5 @@ private:
     bool m_touched = false;         // by such an edit
     quint64 m_editCount = 0;
 };
+
+} // namespace scopix

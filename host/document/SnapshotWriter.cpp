@@ -11,6 +11,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -41,7 +44,7 @@ SnapshotWriter::SnapshotWriter(QObject* parent)
 
 SnapshotWriter::~SnapshotWriter()
 {
-    abandon();
+    cancel();
 }
 
 void SnapshotWriter::write(const SoNode* root, const QString& path)
@@ -98,7 +101,7 @@ void SnapshotWriter::end(const QString& error)
     emit finished(error);
 }
 
-void SnapshotWriter::abandon()
+void SnapshotWriter::cancel()
 {
     if (!isBusy())
         return;
@@ -116,3 +119,5 @@ void SnapshotWriter::reap()
     m_child = 0;
     m_answer = -1;
 }
+
+} // namespace scopix

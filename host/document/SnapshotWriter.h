@@ -13,6 +13,9 @@
 
 class SoNode;
 
+namespace scopix
+{
+
 class SnapshotWriter : public QObject
 {
     Q_OBJECT
@@ -26,7 +29,7 @@ public:
     void write(const SoNode* root, const QString& path);
     bool isBusy() const { return m_child > 0; }
     // finished() does not follow. The file is the old or the new one; one under a temporary name may be left.
-    void abandon();
+    void cancel();
 
 signals:
     // An empty text when the file stands, or one sentence that says why it does not.
@@ -44,3 +47,5 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     QTimer m_patience;
 };
+
+} // namespace scopix

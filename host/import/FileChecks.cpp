@@ -5,6 +5,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -15,10 +18,10 @@ QString tr(const char* text)
     return QCoreApplication::translate("FileChecks", text);
 }
 
-QString endingsText(const QStringList& endings)
+QString fileExtensionsText(const QStringList& fileExtensions)
 {
     QStringList dotted;
-    for (const QString& ending : endings)
+    for (const QString& ending : fileExtensions)
         dotted << QLatin1Char('.') + ending;
     if (dotted.size() > MostNamed) // those that most have heard of
         return tr("%1, or that of another kind of model").arg(dotted.mid(0, MostNamed).join(QStringLiteral(", ")));
@@ -26,7 +29,7 @@ QString endingsText(const QStringList& endings)
     return dotted.isEmpty() ? last : tr("%1 or %2").arg(dotted.join(QStringLiteral(", ")), last);
 }
 
-QString reasonAgainst(const QString& path, const QStringList& endings)
+QString reasonAgainst(const QString& path, const QStringList& fileExtensions)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -35,8 +38,8 @@ QString reasonAgainst(const QString& path, const QStringList& endings)
         return tr("it is a folder, and a file was expected");
     if (!info.isFile()) // a device or a pipe may have no end, or keep who opens it waiting
         return tr("it is no file with an end, and one was expected");
-    if (!endings.contains(info.suffix().toLower()))
-        return tr("its name was expected to end in %1").arg(endingsText(endings));
+    if (!fileExtensions.contains(info.suffix().toLower()))
+        return tr("its name was expected to end in %1").arg(fileExtensionsText(fileExtensions));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tr("it cannot be read (%1)").arg(file.errorString());
@@ -47,13 +50,15 @@ QString reasonAgainst(const QString& path, const QStringList& endings)
 
 } // namespace
 
-QString scopix::cannotOpen(const QString& path, const QString& reason)
+QString cannotOpen(const QString& path, const QString& reason)
 {
     return tr("“%1” cannot be opened: %2.").arg(QDir::toNativeSeparators(path), reason);
 }
 
-QString scopix::checkFile(const QString& path, const QStringList& endings)
+QString checkFile(const QString& path, const QStringList& fileExtensions)
 {
-    const QString reason = reasonAgainst(path, endings);
+    const QString reason = reasonAgainst(path, fileExtensions);
     return reason.isEmpty() ? QString() : cannotOpen(path, reason);
 }
+
+} // namespace scopix

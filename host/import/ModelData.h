@@ -9,6 +9,9 @@
 #include <string>
 #include <vector>
 
+namespace scopix
+{
+
 struct ModelData {
     struct Mesh {
         std::string name;
@@ -81,3 +84,5 @@ struct ModelData {
     std::vector<Camera> cameras;
     std::vector<Node> nodes;
 };
+
+} // namespace scopix

@@ -1,12 +1,15 @@
 #include "import/ModelFile.h"
 
-#include "import/ReadModel.h"
+#include "import/ModelReadResult.h"
 
 #include <QIODevice>
 
 #include <algorithm>
 #include <cstring>
 #include <type_traits>
+
+namespace scopix
+{
 
 namespace
 {
@@ -80,10 +83,10 @@ private:
 
 // What a model consists of, told once for both ways.
 template <class Way>
-class Passing
+class Archive
 {
 public:
-    explicit Passing(Way& way)
+    explicit Archive(Way& way)
         : m_way(way)
     {
     }
@@ -156,25 +159,27 @@ bool isConsistent(const ModelData& model)
 
 } // namespace
 
-bool scopix::writeModelFile(const ReadModel& model, QIODevice& file)
+bool writeModelFile(const ModelReadResult& model, QIODevice& file)
 {
     Writer writer(file);
     std::uint32_t mark = Mark;
     std::string error = model.error.toStdString();
     // Writing changes nothing; the other way does.
-    Passing<Writer> pass(writer);
+    Archive<Writer> pass(writer);
     pass(mark, error, const_cast<ModelData&>(model.data), mark);
     return writer.isGood();
 }
 
-bool scopix::readModelFile(const char* bytes, std::size_t size, ReadModel& model)
+bool readModelFile(const char* bytes, std::size_t size, ModelReadResult& model)
 {
     Reader reader(bytes, size);
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
     std::string error;
-    Passing<Reader> pass(reader);
+    Archive<Reader> pass(reader);
     pass(begin, error, model.data, end);
     model.error = QString::fromStdString(error);
     return reader.isGood() && reader.isAtEnd() && begin == Mark && end == Mark && isConsistent(model.data);
 }
+
+} // namespace scopix

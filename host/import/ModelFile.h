@@ -9,11 +9,11 @@ class QIODevice;
 namespace scopix
 {
 
-struct ReadModel;
+struct ModelReadResult;
 
 // False where it cannot be written.
-bool writeModelFile(const ReadModel& model, QIODevice& file);
+bool writeModelFile(const ModelReadResult& model, QIODevice& file);
 // Takes `size` bytes apart. False, and a model of no use, where they are not what was written.
-bool readModelFile(const char* bytes, std::size_t size, ReadModel& model);
+bool readModelFile(const char* bytes, std::size_t size, ModelReadResult& model);
 
 } // namespace scopix

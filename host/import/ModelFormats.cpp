@@ -1,6 +1,9 @@
 #include "import/ModelFormats.h"
 
-QStringList scopix::modelEndings()
+namespace scopix
+{
+
+QStringList modelEndings()
 {
     static const QString all = QStringLiteral(
         "gltf glb obj stl ply dae fbx 3ds 3mf blend x x3d dxf off lwo lws lxo ac ac3d acc amf ase ask b3d bsp bvh cob "
@@ -8,3 +11,5 @@ QStringList scopix::modelEndings()
         "smd ter uc x3db xgl xml zae zgl 3d");
     return all.split(QLatin1Char(' '));
 }
+
+} // namespace scopix

@@ -2,7 +2,7 @@
 
 #include "import/FileChecks.h"
 #include "import/ModelFile.h"
-#include "import/ReadModel.h"
+#include "import/ModelReadResult.h"
 #include "import/SceneBuilder.h"
 
 #include <QDir>
@@ -11,6 +11,9 @@
 
 #include <csignal>
 #include <dlfcn.h>
+
+namespace scopix
+{
 
 namespace
 {
@@ -89,16 +92,16 @@ void ModelImport::readerEnded()
 
 void ModelImport::tell()
 {
-    scopix::ReadModel model;
+    ModelReadResult model;
     QFile result(m_result.fileName());
     const bool ended = m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
     const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
-    if (!bytes || !scopix::readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
-        model.error = scopix::cannotOpen(m_path, whyItEnded());
+    if (!bytes || !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+        model.error = cannotOpen(m_path, whyItEnded());
     end();
     if (model.error.isEmpty())
-        emit finished(scopix::buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
+        emit finished(buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
     else
         emit failed(model.error);
 }
@@ -126,3 +129,5 @@ void ModelImport::end()
     m_dialog->deleteLater();
     m_dialog = nullptr;
 }
+
+} // namespace scopix

@@ -13,6 +13,9 @@
 class QProgressDialog;
 class QWidget;
 
+namespace scopix
+{
+
 class ModelImport : public QObject
 {
     Q_OBJECT
@@ -49,3 +52,5 @@ private:
     QPointer<QProgressDialog> m_dialog;
     bool m_told = false;
 };
+
+} // namespace scopix

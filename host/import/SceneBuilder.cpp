@@ -1,6 +1,6 @@
 #include "import/SceneBuilder.h"
 
-#include "import/Placement.h"
+#include "import/TransformBuilder.h"
 #include "panels/NodeText.h"
 #include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
@@ -19,13 +19,16 @@
 
 #include <QFileInfo>
 
+namespace scopix
+{
+
 namespace
 {
 
 void setName(SoNode& node, const std::string& utf8)
 {
     if (!utf8.empty())
-        node.setName(scopix::toName(QString::fromStdString(utf8)));
+        node.setName(toName(QString::fromStdString(utf8)));
 }
 
 template <class Items>
@@ -83,7 +86,7 @@ private:
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, node.name);
         if (node.matrix != SbMatrix())
-            result->addChild(scopix::makePlacement(node.matrix));
+            result->addChild(makePlacement(node.matrix));
         if (node.camera >= 0)
             result->addChild(makeCamera(at(m_model.cameras, node.camera)));
         for (const int mesh : node.meshes)
@@ -265,10 +268,12 @@ private:
 
 } // namespace
 
-SoRef<SoSeparator> scopix::buildScene(ModelData model, const std::string& name)
+SoRef<SoSeparator> buildScene(ModelData model, const std::string& name)
 {
     SoRef<SoSeparator> scene = Builder(model).build();
     if (scene->getName().getLength() == 0)
         setName(*scene, name);
     return scene;
 }
+
+} // namespace scopix

@@ -1,6 +1,6 @@
 #include "panels/FieldListModel.h"
 
-#include "panels/FieldMarks.h"
+#include "panels/FieldStateIcons.h"
 #include "panels/NodeText.h"
 #include "panels/ValueText.h"
 #include <xsg/core/SoField.h>
@@ -9,6 +9,9 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPalette>
+
+namespace scopix
+{
 
 namespace
 {
@@ -89,24 +92,24 @@ QVariant FieldListModel::text(const SoField& field, int column) const
 {
     switch (column) {
     case NameColumn:
-        return scopix::toQString(field.getName());
+        return toQString(field.getName());
     case TypeColumn:
-        return scopix::toQString(field.getTypeId().getName());
+        return toQString(field.getTypeId().getName());
     default:
-        return scopix::valueText(field);
+        return valueText(field);
     }
 }
 
 QString FieldListModel::toolTip(const SoField& field) const
 {
-    QString text = tr("%1 (%2)").arg(scopix::toQString(field.getName()), scopix::toQString(field.getTypeId().getName()));
+    QString text = tr("%1 (%2)").arg(toQString(field.getName()), toQString(field.getTypeId().getName()));
     if (field.isDefault())
         text += tr(", default");
     if (field.isIgnored())
         text += tr(", ignored");
     if (field.isConnected())
         text += tr(", follows another field");
-    return text + QLatin1Char('\n') + scopix::valueText(field, ToolTipLength);
+    return text + QLatin1Char('\n') + valueText(field, ToolTipLength);
 }
 
 QVariant FieldListModel::data(const QModelIndex& index, int role) const
@@ -121,8 +124,8 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
         return toolTip(*field);
     case Qt::DecorationRole:
         if (index.column() == NameColumn)
-            return scopix::fieldMark(*field);
-        return index.column() == ValueColumn ? scopix::valueSwatch(*field) : QVariant();
+            return fieldMark(*field);
+        return index.column() == ValueColumn ? valueSwatch(*field) : QVariant();
     case Qt::ForegroundRole:
         if (field->isIgnored() || index.column() == TypeColumn)
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
@@ -158,3 +161,5 @@ void FieldListModel::fieldChanged(void* data, SoSensor* /*sensor*/)
     FieldListModel* model = row->model;
     emit model->dataChanged(model->index(row->number, NameColumn), model->index(row->number, ValueColumn));
 }
+
+} // namespace scopix

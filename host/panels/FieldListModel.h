@@ -11,6 +11,9 @@
 
 class SoSensor;
 
+namespace scopix
+{
+
 class FieldListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -47,3 +50,5 @@ private:
     SoFieldContainer* m_container = nullptr;
     std::vector<std::unique_ptr<Row>> m_rows;
 };
+
+} // namespace scopix

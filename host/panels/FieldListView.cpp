@@ -8,6 +8,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 FieldListView::FieldListView(QWidget* parent)
     : QTreeView(parent)
     , m_model(new FieldListModel(this))
@@ -78,3 +81,5 @@ void FieldListView::selectionChanged(const QItemSelection& selected, const QItem
     if (!m_quiet)
         emit fieldSelected(selected.isEmpty() ? nullptr : m_model->fieldAt(selected.indexes().first()));
 }
+
+} // namespace scopix

@@ -3,9 +3,13 @@
 
 #include <QTreeView>
 
-class FieldListModel;
 class SoField;
 class SoFieldContainer;
+
+namespace scopix
+{
+
+class FieldListModel;
 
 class FieldListView : public QTreeView
 {
@@ -34,3 +38,5 @@ private:
     FieldListModel* m_model;
     bool m_quiet = false;
 };
+
+} // namespace scopix

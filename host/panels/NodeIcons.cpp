@@ -6,6 +6,9 @@
 #include <QHash>
 #include <QPainterPath>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -122,7 +125,7 @@ QIcon drawIcon(SoType type)
     for (const Kind& kind : Kinds) {
         if (!type.isDerivedFrom(SoType::fromName(kind.type)))
             continue;
-        return scopix::drawnIcon(16, [&](QPainter& p) {
+        return drawnIcon(16, [&](QPainter& p) {
             p.setBrush(QColor(kind.color));
             kind.draw(p);
         });
@@ -132,10 +135,12 @@ QIcon drawIcon(SoType type)
 
 } // namespace
 
-QIcon scopix::nodeIcon(SoType type)
+QIcon nodeIcon(SoType type)
 {
     static QHash<QString, QIcon> icons;
     const QString name = toQString(type.getName());
     const auto known = icons.constFind(name);
     return known != icons.constEnd() ? *known : *icons.insert(name, drawIcon(type));
 }
+
+} // namespace scopix

@@ -2,18 +2,23 @@
 
 #include <xsg/core/SoFieldContainer.h>
 
-QString scopix::toQString(SbName name)
+namespace scopix
+{
+
+QString toQString(SbName name)
 {
     return QString::fromLatin1(name.getString());
 }
 
-SbName scopix::toName(const QString& text)
+SbName toName(const QString& text)
 {
     return SbName(text.toLatin1().constData());
 }
 
-QString scopix::nodeText(const SoFieldContainer& node)
+QString nodeText(const SoFieldContainer& node)
 {
     const SbName name = node.getName();
     return toQString(name.getLength() > 0 ? name : node.getTypeId().getName());
 }
+
+} // namespace scopix

@@ -12,6 +12,9 @@
 #include <unordered_set>
 #include <utility>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -47,35 +50,35 @@ std::vector<const SoNode*> pathUpwards(const SoNode* node, const SoNode* root)
 } // namespace
 
 // One row: a node at one place of the scene.
-struct SceneTreeModel::Place {
-    Place(SoNode* itsNode, Place* itsParent, int itsRow)
+struct SceneTreeModel::Item {
+    Item(SoNode* itsNode, Item* itsParent, int itsRow)
         : node(itsNode)
         , parent(itsParent)
         , row(itsRow)
         , toldName(itsNode->getName())
     {
     }
-    ~Place() { takeDown(std::move(children)); }
+    ~Item() { finalize(std::move(children)); }
 
     // Level by level, since scenes may be nested deeper than the stack is.
-    static void takeDown(std::vector<std::unique_ptr<Place>> places)
+    static void finalize(std::vector<std::unique_ptr<Item>> items)
     {
-        while (!places.empty()) {
-            const std::unique_ptr<Place> place = std::move(places.back());
-            places.pop_back();
-            std::move(place->children.begin(), place->children.end(), std::back_inserter(places));
-            place->children.clear();
+        while (!items.empty()) {
+            const std::unique_ptr<Item> item = std::move(items.back());
+            items.pop_back();
+            std::move(item->children.begin(), item->children.end(), std::back_inserter(items));
+            item->children.clear();
         }
     }
 
     SoRef<SoNode> node;
-    Place* parent;
+    Item* parent;
     int row;
     bool listed = false; // its children have rows
     bool toldExpandable = false; // what hasChildren() told last
     SbName toldName;
     std::uint32_t seenChange = 0; // the node's count when its children were looked at last
-    std::vector<std::unique_ptr<Place>> children;
+    std::vector<std::unique_ptr<Item>> children;
 };
 
 SceneTreeModel::SceneTreeModel(QObject* parent)
@@ -89,9 +92,9 @@ SceneTreeModel::~SceneTreeModel() = default;
 void SceneTreeModel::setRoot(SoNode* root)
 {
     // The old rows go after everybody was told: with them may go the last reference to a node.
-    const std::unique_ptr<Place> old = std::move(m_root);
+    const std::unique_ptr<Item> old = std::move(m_root);
     beginResetModel();
-    m_root = root ? std::make_unique<Place>(root, nullptr, 0) : nullptr;
+    m_root = root ? std::make_unique<Item>(root, nullptr, 0) : nullptr;
     m_sensor.attach(root);
     endResetModel();
 }
@@ -101,33 +104,33 @@ SoNode* SceneTreeModel::getRoot() const
     return m_root ? m_root->node.get() : nullptr;
 }
 
-SceneTreeModel::Place* SceneTreeModel::placeAt(const QModelIndex& index) const
+SceneTreeModel::Item* SceneTreeModel::itemAt(const QModelIndex& index) const
 {
-    return index.isValid() ? static_cast<Place*>(index.internalPointer()) : nullptr;
+    return index.isValid() ? static_cast<Item*>(index.internalPointer()) : nullptr;
 }
 
-QModelIndex SceneTreeModel::indexOfPlace(Place& place, int column) const
+QModelIndex SceneTreeModel::indexOfItem(Item& item, int column) const
 {
-    return createIndex(place.row, column, &place);
+    return createIndex(item.row, column, &item);
 }
 
 SoNode* SceneTreeModel::nodeAt(const QModelIndex& index) const
 {
-    const Place* place = placeAt(index);
-    return place ? place->node.get() : nullptr;
+    const Item* item = itemAt(index);
+    return item ? item->node.get() : nullptr;
 }
 
-void SceneTreeModel::listChildren(Place& place)
+void SceneTreeModel::listChildren(Item& item)
 {
-    if (place.listed)
+    if (item.listed)
         return;
-    place.listed = true;
-    place.seenChange = place.node->getChangeCount();
-    const SoGroup* group = place.node->asGroup();
-    const int count = childCount(place.node.get());
-    place.children.reserve(static_cast<std::size_t>(count));
+    item.listed = true;
+    item.seenChange = item.node->getChangeCount();
+    const SoGroup* group = item.node->asGroup();
+    const int count = childCount(item.node.get());
+    item.children.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
-        place.children.push_back(std::make_unique<Place>(group->getChild(i), &place, i));
+        item.children.push_back(std::make_unique<Item>(group->getChild(i), &item, i));
 }
 
 QModelIndex SceneTreeModel::indexOf(const SoNode* node) const
@@ -152,30 +155,30 @@ QModelIndex SceneTreeModel::indexDownwards(const std::vector<const SoNode*>& nod
 {
     if (nodes.empty() || nodes.front() != getRoot())
         return {};
-    Place* place = m_root.get();
+    Item* item = m_root.get();
     for (std::size_t step = 1; step < nodes.size(); ++step) {
-        listChildren(*place);
-        const auto is = [&](const std::unique_ptr<Place>& child) { return child->node.get() == nodes[step]; };
-        const auto child = std::find_if(place->children.begin(), place->children.end(), is);
-        if (child == place->children.end())
+        listChildren(*item);
+        const auto is = [&](const std::unique_ptr<Item>& child) { return child->node.get() == nodes[step]; };
+        const auto child = std::find_if(item->children.begin(), item->children.end(), is);
+        if (child == item->children.end())
             return {}; // added in this turn: the row comes with the next one
-        place = child->get();
+        item = child->get();
     }
-    return indexOfPlace(*place);
+    return indexOfItem(*item);
 }
 
 QModelIndex SceneTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
     if (row < 0 || column < 0 || column >= ColumnCount || parent.column() > 0 || row >= rowCount(parent))
         return {};
-    const Place* place = placeAt(parent);
-    return indexOfPlace(place ? *place->children[static_cast<std::size_t>(row)] : *m_root, column);
+    const Item* item = itemAt(parent);
+    return indexOfItem(item ? *item->children[static_cast<std::size_t>(row)] : *m_root, column);
 }
 
 QModelIndex SceneTreeModel::parent(const QModelIndex& child) const
 {
-    const Place* place = placeAt(child);
-    return place && place->parent ? indexOfPlace(*place->parent) : QModelIndex();
+    const Item* item = itemAt(child);
+    return item && item->parent ? indexOfItem(*item->parent) : QModelIndex();
 }
 
 int SceneTreeModel::rowCount(const QModelIndex& parent) const
@@ -184,9 +187,9 @@ int SceneTreeModel::rowCount(const QModelIndex& parent) const
         return m_root ? 1 : 0;
     if (parent.column() != NameColumn)
         return 0;
-    Place* place = placeAt(parent);
-    listChildren(*place);
-    return static_cast<int>(place->children.size());
+    Item* item = itemAt(parent);
+    listChildren(*item);
+    return static_cast<int>(item->children.size());
 }
 
 int SceneTreeModel::columnCount(const QModelIndex& /*parent*/) const
@@ -200,28 +203,28 @@ bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
         return m_root != nullptr;
     if (parent.column() != NameColumn)
         return false;
-    Place* place = placeAt(parent);
-    if (place->listed)
-        return !place->children.empty();
-    place->toldExpandable = childCount(place->node.get()) > 0;
-    return place->toldExpandable;
+    Item* item = itemAt(parent);
+    if (item->listed)
+        return !item->children.empty();
+    item->toldExpandable = childCount(item->node.get()) > 0;
+    return item->toldExpandable;
 }
 
 QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
 {
-    const Place* place = placeAt(index);
-    if (!place)
+    const Item* item = itemAt(index);
+    if (!item)
         return {};
-    const SoNode& node = *place->node;
-    const QString type = scopix::toQString(node.getTypeId().getName());
+    const SoNode& node = *item->node;
+    const QString type = toQString(node.getTypeId().getName());
     const bool named = node.getName().getLength() > 0;
     switch (role) {
     case Qt::DisplayRole:
-        return index.column() == TypeColumn ? type : scopix::nodeText(node);
+        return index.column() == TypeColumn ? type : nodeText(node);
     case Qt::ToolTipRole:
-        return named ? tr("%1 “%2”").arg(type, scopix::nodeText(node)) : type;
+        return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
-        return index.column() == NameColumn ? QVariant(scopix::nodeIcon(node.getTypeId())) : QVariant();
+        return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId())) : QVariant();
     case Qt::FontRole: {
         QFont font;
         font.setItalic(!named);
@@ -249,20 +252,20 @@ void SceneTreeModel::sceneChanged(void* self, SoSensor* sensor)
 void SceneTreeModel::followScene()
 {
     bool expandableChanged = false;
-    std::vector<Place*> pending{m_root.get()};
+    std::vector<Item*> pending{m_root.get()};
     while (!pending.empty()) {
-        Place& place = *pending.back();
+        Item& item = *pending.back();
         pending.pop_back();
-        followName(place);
-        if (!place.listed) {
-            expandableChanged |= followExpandable(place);
+        followName(item);
+        if (!item.listed) {
+            expandableChanged |= followExpandable(item);
             continue;
         }
-        if (place.seenChange == place.node->getChangeCount())
+        if (item.seenChange == item.node->getChangeCount())
             continue;
-        place.seenChange = place.node->getChangeCount();
-        followChildren(place);
-        for (const std::unique_ptr<Place>& child : place.children)
+        item.seenChange = item.node->getChangeCount();
+        followChildren(item);
+        for (const std::unique_ptr<Item>& child : item.children)
             pending.push_back(child.get());
     }
     if (expandableChanged) {
@@ -272,22 +275,22 @@ void SceneTreeModel::followScene()
     }
 }
 
-bool SceneTreeModel::followExpandable(Place& place) const
+bool SceneTreeModel::followExpandable(Item& item) const
 {
-    const bool expandable = childCount(place.node.get()) > 0;
-    return std::exchange(place.toldExpandable, expandable) != expandable;
+    const bool expandable = childCount(item.node.get()) > 0;
+    return std::exchange(item.toldExpandable, expandable) != expandable;
 }
 
-void SceneTreeModel::followChildren(Place& place)
+void SceneTreeModel::followChildren(Item& item)
 {
-    const SoGroup* group = place.node->asGroup();
+    const SoGroup* group = item.node->asGroup();
     if (!group)
         return;
     // What stayed at both ends keeps its rows, and with them what is expanded and selected there.
-    const int before = static_cast<int>(place.children.size());
+    const int before = static_cast<int>(item.children.size());
     const int now = group->getNumChildren();
     const auto stayed = [&](int old, int current) {
-        return place.children[static_cast<std::size_t>(old)]->node.get() == group->getChild(current);
+        return item.children[static_cast<std::size_t>(old)]->node.get() == group->getChild(current);
     };
     int head = 0;
     while (head < std::min(before, now) && stayed(head, head))
@@ -295,45 +298,47 @@ void SceneTreeModel::followChildren(Place& place)
     int tail = 0;
     while (tail < std::min(before, now) - head && stayed(before - 1 - tail, now - 1 - tail))
         ++tail;
-    removePlaces(place, head, before - head - tail);
-    insertPlaces(place, head, now - head - tail);
+    removeItems(item, head, before - head - tail);
+    insertItems(item, head, now - head - tail);
 }
 
-void SceneTreeModel::removePlaces(Place& place, int first, int count)
+void SceneTreeModel::removeItems(Item& item, int first, int count)
 {
     if (count <= 0)
         return;
-    beginRemoveRows(indexOfPlace(place), first, first + count - 1);
-    const auto begin = place.children.begin() + first;
-    std::vector<std::unique_ptr<Place>> removed(std::make_move_iterator(begin),
+    beginRemoveRows(indexOfItem(item), first, first + count - 1);
+    const auto begin = item.children.begin() + first;
+    std::vector<std::unique_ptr<Item>> removed(std::make_move_iterator(begin),
                                                 std::make_move_iterator(begin + count));
-    place.children.erase(begin, begin + count);
-    for (std::size_t i = static_cast<std::size_t>(first); i < place.children.size(); ++i)
-        place.children[i]->row = static_cast<int>(i);
+    item.children.erase(begin, begin + count);
+    for (std::size_t i = static_cast<std::size_t>(first); i < item.children.size(); ++i)
+        item.children[i]->row = static_cast<int>(i);
     endRemoveRows();
     // Only now may the last reference to a node go: whoever hears of it may look at this model.
-    Place::takeDown(std::move(removed));
+    Item::finalize(std::move(removed));
 }
 
-void SceneTreeModel::insertPlaces(Place& place, int first, int count)
+void SceneTreeModel::insertItems(Item& item, int first, int count)
 {
     if (count <= 0)
         return;
-    const SoGroup* group = place.node->asGroup();
-    beginInsertRows(indexOfPlace(place), first, first + count - 1);
-    std::vector<std::unique_ptr<Place>> added;
+    const SoGroup* group = item.node->asGroup();
+    beginInsertRows(indexOfItem(item), first, first + count - 1);
+    std::vector<std::unique_ptr<Item>> added;
     for (int i = first; i < first + count; ++i)
-        added.push_back(std::make_unique<Place>(group->getChild(i), &place, i));
-    place.children.insert(place.children.begin() + first, std::make_move_iterator(added.begin()),
+        added.push_back(std::make_unique<Item>(group->getChild(i), &item, i));
+    item.children.insert(item.children.begin() + first, std::make_move_iterator(added.begin()),
                           std::make_move_iterator(added.end()));
-    for (std::size_t i = static_cast<std::size_t>(first + count); i < place.children.size(); ++i)
-        place.children[i]->row = static_cast<int>(i);
+    for (std::size_t i = static_cast<std::size_t>(first + count); i < item.children.size(); ++i)
+        item.children[i]->row = static_cast<int>(i);
     endInsertRows();
 }
 
-void SceneTreeModel::followName(Place& place)
+void SceneTreeModel::followName(Item& item)
 {
-    const SbName name = place.node->getName();
-    if (std::exchange(place.toldName, name) != name)
-        emit dataChanged(indexOfPlace(place), indexOfPlace(place, TypeColumn));
+    const SbName name = item.node->getName();
+    if (std::exchange(item.toldName, name) != name)
+        emit dataChanged(indexOfItem(item), indexOfItem(item, TypeColumn));
 }
+
+} // namespace scopix

@@ -14,6 +14,9 @@
 class SoGroup;
 class SoPath;
 
+namespace scopix
+{
+
 class SceneTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -45,21 +48,23 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
-    struct Place;
+    struct Item;
 
     static void sceneChanged(void* self, SoSensor* sensor);
     void followScene();
-    void followChildren(Place& place);
-    void followName(Place& place);
-    void removePlaces(Place& place, int first, int count);
-    void insertPlaces(Place& place, int first, int count);
-    bool followExpandable(Place& place) const;
+    void followChildren(Item& item);
+    void followName(Item& item);
+    void removeItems(Item& item, int first, int count);
+    void insertItems(Item& item, int first, int count);
+    bool followExpandable(Item& item) const;
 
     QModelIndex indexDownwards(const std::vector<const SoNode*>& nodes) const;
-    Place* placeAt(const QModelIndex& index) const;
-    QModelIndex indexOfPlace(Place& place, int column = NameColumn) const;
-    static void listChildren(Place& place);
+    Item* itemAt(const QModelIndex& index) const;
+    QModelIndex indexOfItem(Item& item, int column = NameColumn) const;
+    static void listChildren(Item& item);
 
-    std::unique_ptr<Place> m_root;
+    std::unique_ptr<Item> m_root;
     SoNodeSensor m_sensor;
 };
+
+} // namespace scopix

@@ -5,6 +5,9 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
+namespace scopix
+{
+
 SceneTreeView::SceneTreeView(QWidget* parent)
     : QTreeView(parent)
     , m_model(new SceneTreeModel(this))
@@ -82,3 +85,5 @@ void SceneTreeView::resizeEvent(QResizeEvent* event)
     QTreeView::resizeEvent(event);
     header()->resizeSection(SceneTreeModel::NameColumn, viewport()->width() * 62 / 100);
 }
+
+} // namespace scopix

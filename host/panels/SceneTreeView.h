@@ -3,9 +3,13 @@
 
 #include <QTreeView>
 
-class SceneTreeModel;
 class SoPath;
 class SoNode;
+
+namespace scopix
+{
+
+class SceneTreeModel;
 
 class SceneTreeView : public QTreeView
 {
@@ -39,3 +43,5 @@ private:
     SceneTreeModel* m_model;
     bool m_quiet = false;
 };
+
+} // namespace scopix

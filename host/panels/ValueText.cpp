@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -62,7 +65,7 @@ QString listText(const SoMField& field, int limit)
 
 } // namespace
 
-QString scopix::valueText(const SoField& field, int limit)
+QString valueText(const SoField& field, int limit)
 {
     if (const auto* list = dynamic_cast<const SoMField*>(&field))
         return shortened(listText(*list, limit), limit);
@@ -74,3 +77,5 @@ QString scopix::valueText(const SoField& field, int limit)
     field.get(text);
     return shortened(startOf(text.str(), limit), limit);
 }
+
+} // namespace scopix

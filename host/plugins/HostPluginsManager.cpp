@@ -1,6 +1,6 @@
 #include "plugins/HostPluginsManager.h"
 
-#include "support/Guarded.h"
+#include "support/CatchExceptions.h"
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
 
@@ -11,6 +11,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+
+namespace scopix
+{
 
 HostPluginsManager::HostPluginsManager(HostServices& services, HostShell& shell, ProfileFile file)
     : m_services(services)
@@ -69,13 +72,13 @@ bool HostPluginsManager::isLoaded(const QString& path) const
 bool HostPluginsManager::startPlugin(PluginLibrary& library)
 {
     bool usable = false;
-    QString why = Guarded::call([&] { usable = library.plugin()->load(); });
+    QString why = catchExceptions([&] { usable = library.plugin()->load(); });
     if (usable && why.isEmpty())
         return true;
     if (why.isEmpty())
         why = tr("it says that it cannot be used");
     emit failed(tr("The plug-in \"%1\" was not loaded: its load() failed: %2.").arg(library.path(), why));
-    Guarded::call([&] { library.plugin()->unload(); });
+    catchExceptions([&] { library.plugin()->unload(); });
     return false;
 }
 
@@ -92,11 +95,11 @@ void HostPluginsManager::unloadAll()
 {
     m_switch.cancel();
     deactivateAll();
-    std::for_each(m_extensions.rbegin(), m_extensions.rend(), [](ExtensionCare& each) { each.unload(); });
+    std::for_each(m_extensions.rbegin(), m_extensions.rend(), [](ManagedExtension& each) { each.unload(); });
     m_extensions.clear();
     fillSettings();
     for (auto library = m_plugins.rbegin(); library != m_plugins.rend(); ++library)
-        Guarded::call([&] { (*library)->plugin()->unload(); });
+        catchExceptions([&] { (*library)->plugin()->unload(); });
     // Code of the plug-ins that would run later would run after they are gone.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_services.history().clear();
@@ -144,7 +147,7 @@ void HostPluginsManager::makeActive(HostProfile* profile, bool remember)
 
 const SpxProfileSetting* HostPluginsManager::getProfileSetting(const SpxExtension* extension) const
 {
-    const auto is = [extension](const ExtensionCare& each) { return each.extension() == extension; };
+    const auto is = [extension](const ManagedExtension& each) { return each.extension() == extension; };
     return std::any_of(m_extensions.begin(), m_extensions.end(), is) ? &m_active->setting() : nullptr;
 }
 
@@ -207,7 +210,7 @@ void HostPluginsManager::fillSettings()
 {
     for (const auto& profile : m_profiles) {
         QList<SpxExtension*> controlled;
-        for (const ExtensionCare& extension : m_extensions) {
+        for (const ManagedExtension& extension : m_extensions) {
             if (controls(*profile, extension))
                 controlled += extension.extension();
         }
@@ -215,7 +218,7 @@ void HostPluginsManager::fillSettings()
     }
 }
 
-bool HostPluginsManager::controls(const HostProfile& profile, const ExtensionCare& extension) const
+bool HostPluginsManager::controls(const HostProfile& profile, const ManagedExtension& extension) const
 {
     const ProfileChoice& choice = profile.choice();
     return extension.isLoaded() &&
@@ -225,7 +228,7 @@ bool HostPluginsManager::controls(const HostProfile& profile, const ExtensionCar
 void HostPluginsManager::applyProfile()
 {
     deactivateAll();
-    for (ExtensionCare& extension : m_extensions) {
+    for (ManagedExtension& extension : m_extensions) {
         if (controls(*m_active, extension))
             extension.activate();
     }
@@ -236,7 +239,7 @@ void HostPluginsManager::applyProfile()
 
 void HostPluginsManager::deactivateAll()
 {
-    std::for_each(m_extensions.rbegin(), m_extensions.rend(), [](ExtensionCare& each) { each.deactivate(); });
+    std::for_each(m_extensions.rbegin(), m_extensions.rend(), [](ManagedExtension& each) { each.deactivate(); });
 }
 
 std::vector<ProfileChoice> HostPluginsManager::choices() const
@@ -253,3 +256,5 @@ void HostPluginsManager::save()
     if (!problem.isEmpty())
         emit failed(problem);
 }
+
+} // namespace scopix

@@ -3,15 +3,18 @@
 // deletion. GUI thread only.
 #pragma once
 
-#include "plugins/ExtensionCare.h"
+#include "plugins/ManagedExtension.h"
 #include "plugins/PluginLibrary.h"
 #include "profiles/ProfileFile.h"
-#include "support/WhenUndisturbed.h"
+#include "support/DeferredUntilNonModal.h"
 
 #include <scopix/SpxPluginsManager.h>
 
 #include <memory>
 #include <vector>
+
+namespace scopix
+{
 
 class HostServices;
 class HostShell;
@@ -49,7 +52,7 @@ public:
     void setProfiles(std::vector<ProfileChoice> choices, const QString& active);
     // Makes a profile of this name active for this session only, without writing it down.
     bool useProfile(const QString& name);
-    const std::vector<ExtensionCare>& extensions() const { return m_extensions; }
+    const std::vector<ManagedExtension>& extensions() const { return m_extensions; }
 
 signals:
     // The list, a name or a choice changed.
@@ -69,7 +72,7 @@ private:
     void fillSettings();
     void makeActive(HostProfile* profile, bool remember);
     void applyProfile();
-    bool controls(const HostProfile& profile, const ExtensionCare& extension) const;
+    bool controls(const HostProfile& profile, const ManagedExtension& extension) const;
     void deactivateAll();
     void save();
     std::vector<ProfileChoice> choices() const;
@@ -82,6 +85,8 @@ private:
     HostProfile* m_active = nullptr;
     QString m_rememberedActive; // by the settings file
     std::vector<std::unique_ptr<PluginLibrary>> m_plugins;
-    std::vector<ExtensionCare> m_extensions; // in order of registration
-    WhenUndisturbed m_switch;
+    std::vector<ManagedExtension> m_extensions; // in order of registration
+    DeferredUntilNonModal m_switch;
 };
+
+} // namespace scopix

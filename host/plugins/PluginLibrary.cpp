@@ -1,11 +1,14 @@
 #include "plugins/PluginLibrary.h"
 
-#include "support/Guarded.h"
+#include "support/CatchExceptions.h"
 
 #include <scopix/SpxPlugin.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+namespace scopix
+{
 
 namespace
 {
@@ -47,7 +50,7 @@ PluginLibrary::PluginLibrary(const QString& path)
 PluginLibrary::~PluginLibrary()
 {
     if (m_plugin)
-        Guarded::call([this] { m_unload(); });
+        catchExceptions([this] { m_unload(); });
     if (m_library.isLoaded())
         m_library.unload();
 }
@@ -83,8 +86,10 @@ QString PluginLibrary::open()
 
 QString PluginLibrary::makePlugin()
 {
-    const QString thrown = Guarded::call([this] { m_plugin = m_load(); });
+    const QString thrown = catchExceptions([this] { m_plugin = m_load(); });
     if (!thrown.isEmpty())
         return tr("its loadPlugin failed: %1").arg(thrown);
     return m_plugin ? QString() : tr("its loadPlugin returned no plug-in");
 }
+
+} // namespace scopix

@@ -10,6 +10,9 @@
 
 class SpxPlugin;
 
+namespace scopix
+{
+
 class PluginLibrary
 {
 public:
@@ -37,3 +40,5 @@ private:
     LoadPlugin m_load = nullptr;
     UnloadPlugin m_unload = nullptr;
 };
+
+} // namespace scopix

@@ -1,5 +1,8 @@
 #include "profiles/HostProfile.h"
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -21,3 +24,5 @@ void HostProfile::setChoice(ProfileChoice choice)
     setName(profileName(choice));
     m_choice = std::move(choice);
 }
+
+} // namespace scopix

@@ -6,6 +6,9 @@
 
 #include <QStringList>
 
+namespace scopix
+{
+
 // Either all extensions of a kind or those named.
 struct ExtensionChoice {
     bool all = false;
@@ -39,3 +42,5 @@ private:
     ProfileChoice m_choice;
     SpxProfileSetting m_setting;
 };
+
+} // namespace scopix

@@ -13,6 +13,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -215,3 +218,5 @@ QString ProfileFile::nameProblem(const QString& name, const std::vector<ProfileC
         return tr("there already is a profile named \"%1\"").arg(name);
     return {};
 }
+
+} // namespace scopix

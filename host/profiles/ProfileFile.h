@@ -12,6 +12,9 @@
 
 #include <vector>
 
+namespace scopix
+{
+
 struct ProfileSettings {
     std::vector<ProfileChoice> profiles; // "Default" among them
     QString active;
@@ -43,3 +46,5 @@ private:
 
     QString m_path;
 };
+
+} // namespace scopix

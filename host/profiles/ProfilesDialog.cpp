@@ -13,6 +13,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -102,7 +105,7 @@ QTreeWidgetItem* ProfilesDialog::makeGroup(const QString& title, bool editors)
 {
     auto* group = new QTreeWidgetItem(m_tree, {title});
     group->setFlags(group->flags() | Qt::ItemIsUserCheckable | Qt::ItemIsAutoTristate);
-    for (const ExtensionCare& extension : m_manager.extensions()) {
+    for (const ManagedExtension& extension : m_manager.extensions()) {
         if (extension.isEditor() != editors)
             continue;
         auto* item = new QTreeWidgetItem(group, {extension.name().section(QLatin1Char('/'), 1)});
@@ -272,3 +275,5 @@ void ProfilesDialog::accept()
     m_manager.setProfiles(m_profiles, active);
     QDialog::accept();
 }
+
+} // namespace scopix

@@ -8,13 +8,17 @@
 
 #include <vector>
 
-class HostPluginsManager;
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
+
+namespace scopix
+{
+
+class HostPluginsManager;
 
 class ProfilesDialog : public QDialog
 {
@@ -57,3 +61,5 @@ private:
     QPushButton* m_deleteButton = nullptr;
     QLabel* m_problem;
 };
+
+} // namespace scopix

@@ -6,6 +6,9 @@
 #include <QActionGroup>
 #include <QMenu>
 
+namespace scopix
+{
+
 ProfilesMenu::ProfilesMenu(HostPluginsManager& manager, QMenu& menu)
     : QObject(&menu)
     , m_manager(manager)
@@ -45,3 +48,5 @@ void ProfilesMenu::manage()
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->open();
 }
+
+} // namespace scopix

@@ -5,10 +5,14 @@
 #include <QObject>
 #include <QPointer>
 
-class HostPluginsManager;
-class ProfilesDialog;
 class QActionGroup;
 class QMenu;
+
+namespace scopix
+{
+
+class HostPluginsManager;
+class ProfilesDialog;
 
 class ProfilesMenu : public QObject
 {
@@ -27,3 +31,5 @@ private:
     QActionGroup* m_group = nullptr;
     QPointer<ProfilesDialog> m_dialog;
 };
+
+} // namespace scopix

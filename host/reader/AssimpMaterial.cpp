@@ -1,6 +1,6 @@
 #include "reader/AssimpMaterial.h"
 
-#include "import/Pixels.h"
+#include "import/ImageConversion.h"
 
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
@@ -14,6 +14,9 @@
 
 #include <algorithm>
 #include <cmath>
+
+namespace scopix
+{
 
 namespace
 {
@@ -62,7 +65,7 @@ float transparencyOf(const aiMaterial& material)
 }
 
 // Physically based: a base colour, how metallic and how rough.
-void takePhysical(const aiMaterial& material, float metallic, ModelData::Material& result)
+void applyPbr(const aiMaterial& material, float metallic, ModelData::Material& result)
 {
     const float rough = std::clamp(numberOf(material, AI_MATKEY_ROUGHNESS_FACTOR, 1), 0.0F, 1.0F);
     metallic = std::clamp(metallic, 0.0F, 1.0F);
@@ -125,7 +128,7 @@ int addPicture(const aiString& path, const aiScene& scene, const QString& folder
     if (known == model.pictures.end()) {
         const aiTexture* embedded = scene.GetEmbeddedTexture(path.C_Str());
         const QImage image = embedded ? decode(*embedded) : readBeside(folder, QString::fromUtf8(path.C_Str()));
-        model.pictures.push_back(scopix::toPicture(image));
+        model.pictures.push_back(toPicture(image));
         model.pictures.back().name = name; // one that cannot be read stays empty, and is not tried again
         return static_cast<int>(model.pictures.size()) - 1;
     }
@@ -134,7 +137,7 @@ int addPicture(const aiString& path, const aiScene& scene, const QString& folder
 
 } // namespace
 
-ModelData::Material scopix::fromAssimp(const aiMaterial& material, const aiScene& scene, const QString& folder,
+ModelData::Material fromAssimp(const aiMaterial& material, const aiScene& scene, const QString& folder,
                                        ModelData& model)
 {
     ModelData::Material result;
@@ -145,7 +148,7 @@ ModelData::Material scopix::fromAssimp(const aiMaterial& material, const aiScene
     result.emissive = colorOf(material, AI_MATKEY_COLOR_EMISSIVE, {});
     ai_real metallic = 0;
     if (material.Get(AI_MATKEY_METALLIC_FACTOR, metallic) == aiReturn_SUCCESS)
-        takePhysical(material, static_cast<float>(metallic), result);
+        applyPbr(material, static_cast<float>(metallic), result);
     else
         takeClassic(material, result);
     result.ambient = rounded(result.diffuse * AmbientPart);
@@ -158,3 +161,5 @@ ModelData::Material scopix::fromAssimp(const aiMaterial& material, const aiScene
     }
     return result;
 }
+
+} // namespace scopix

@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <cmath>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -217,7 +220,7 @@ private:
 
 } // namespace
 
-ModelData scopix::fromAssimp(const aiScene& scene, const QString& folder)
+ModelData fromAssimp(const aiScene& scene, const QString& folder)
 {
     ModelData model;
     for (unsigned i = 0; i < scene.mNumMeshes; ++i)
@@ -228,3 +231,5 @@ ModelData scopix::fromAssimp(const aiScene& scene, const QString& folder)
         NodeCollector(scene, model).collect();
     return model;
 }
+
+} // namespace scopix

@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QtEndian>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -16,7 +19,7 @@ QString tr(const char* text)
 
 } // namespace
 
-QString scopix::checkBinaryGltf(const QString& path)
+QString checkBinaryGltf(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -31,3 +34,5 @@ QString scopix::checkBinaryGltf(const QString& path)
                                     .arg(promised));
     return {};
 }
+
+} // namespace scopix

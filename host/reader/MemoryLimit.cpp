@@ -7,6 +7,9 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -38,7 +41,7 @@ rlim_t bytesBeside(const QString& path)
 
 } // namespace
 
-void scopix::limitMemoryFor(const QString& path)
+void limitMemoryFor(const QString& path)
 {
     constexpr rlim_t Least = rlim_t{4} << 30;
     constexpr rlim_t PerByte = 64; // text grows some tenfold, a packed model several times that
@@ -48,3 +51,5 @@ void scopix::limitMemoryFor(const QString& path)
     const rlimit limit{most, most};
     setrlimit(RLIMIT_DATA, &limit);
 }
+
+} // namespace scopix

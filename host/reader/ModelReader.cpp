@@ -3,7 +3,7 @@
 #include "import/FileChecks.h"
 #include "import/ModelFormats.h"
 #include "reader/AssimpModel.h"
-#include "reader/CNumbers.h"
+#include "reader/ScopedCLocale.h"
 #include "reader/FormatChecks.h"
 
 #include <assimp/Importer.hpp>
@@ -18,6 +18,9 @@
 
 #include <algorithm>
 #include <memory>
+
+namespace scopix
+{
 
 namespace
 {
@@ -34,7 +37,7 @@ constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertic
 class Progress : public Assimp::ProgressHandler
 {
 public:
-    explicit Progress(const scopix::ReadProgress& tell)
+    explicit Progress(const ReadProgress& tell)
         : m_tell(tell)
     {
     }
@@ -46,7 +49,7 @@ public:
     }
 
 private:
-    const scopix::ReadProgress& m_tell;
+    const ReadProgress& m_tell;
 };
 
 // The importer's words as the end of a sentence: one line, without its file name prefixes and full stop.
@@ -60,9 +63,9 @@ QString reasonOf(const Assimp::Importer& importer)
     return text.isEmpty() ? tr("it holds no model that can be read") : tr("it is not a whole model (%1)").arg(text);
 }
 
-scopix::ReadModel failed(const QString& sentence)
+ModelReadResult failed(const QString& sentence)
 {
-    scopix::ReadModel result;
+    ModelReadResult result;
     result.error = sentence;
     return result;
 }
@@ -75,7 +78,7 @@ bool hasTriangles(const ModelData& model)
 
 // What lights or sees from nowhere is not worth refusing the rest of a model for.
 template <class Thing>
-void dropHomeless(aiNode& root, Thing** things, unsigned& count)
+void removeUnreferenced(aiNode& root, Thing** things, unsigned& count)
 {
     Thing** end = std::remove_if(things, things + count, [&](Thing* thing) {
         const bool homeless = !root.FindNode(thing->mName);
@@ -92,30 +95,30 @@ const aiScene* read(Assimp::Importer& importer, const QString& path)
     auto* scene = const_cast<aiScene*>(importer.ReadFile(QFile::encodeName(path).constData(), 0));
     if (!scene || !scene->mRootNode)
         return nullptr;
-    dropHomeless(*scene->mRootNode, scene->mLights, scene->mNumLights);
-    dropHomeless(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
+    removeUnreferenced(*scene->mRootNode, scene->mLights, scene->mNumLights);
+    removeUnreferenced(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
     return importer.ApplyPostProcessing(Steps);
 }
 
-scopix::ReadModel import(const QString& path, const scopix::ReadProgress& progress)
+ModelReadResult import(const QString& path, const ReadProgress& progress)
 {
     Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
-    const CNumbers numbers;
+    const ScopedCLocale numbers;
     const aiScene* scene = read(importer, path);
     if (!scene)
-        return failed(scopix::cannotOpen(path, reasonOf(importer)));
-    scopix::ReadModel result;
-    result.data = scopix::fromAssimp(*scene, QFileInfo(path).absolutePath());
+        return failed(cannotOpen(path, reasonOf(importer)));
+    ModelReadResult result;
+    result.data = fromAssimp(*scene, QFileInfo(path).absolutePath());
     if (!hasTriangles(result.data))
-        return failed(scopix::cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
+        return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
     return result;
 }
 
 } // namespace
 
-scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& progress)
+ModelReadResult readModel(const QString& path, const ReadProgress& progress)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
     QString error = checkFile(path, modelEndings());
@@ -133,3 +136,5 @@ scopix::ReadModel scopix::readModel(const QString& path, const ReadProgress& pro
         return failed(cannotOpen(path, tr("reading it failed (%1)").arg(QString::fromUtf8(e.what()))));
     }
 }
+
+} // namespace scopix

@@ -2,7 +2,7 @@
 // or end the process on a bad file: let a process of its own read (see ModelImport).
 #pragma once
 
-#include "import/ReadModel.h"
+#include "import/ModelReadResult.h"
 
 #include <functional>
 
@@ -12,6 +12,6 @@ namespace scopix
 // How far the reading is, 0 to 1.
 using ReadProgress = std::function<void(float done)>;
 
-ReadModel readModel(const QString& path, const ReadProgress& progress = {});
+ModelReadResult readModel(const QString& path, const ReadProgress& progress = {});
 
 } // namespace scopix

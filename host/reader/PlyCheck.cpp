@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <limits>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -100,7 +103,7 @@ QString reasonAgainst(QFile& file)
 
 } // namespace
 
-QString scopix::checkPly(const QString& path)
+QString checkPly(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -108,3 +111,5 @@ QString scopix::checkPly(const QString& path)
     const QString reason = reasonAgainst(file);
     return reason.isEmpty() ? QString() : cannotOpen(path, reason);
 }
+
+} // namespace scopix

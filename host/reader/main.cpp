@@ -46,7 +46,7 @@ int main(int argc, char** argv)
     }
     limitItself(arguments[1]);
     int told = 0;
-    const scopix::ReadModel model = scopix::readModel(arguments[1], [&](float done) {
+    const scopix::ModelReadResult model = scopix::readModel(arguments[1], [&](float done) {
         const int percent = static_cast<int>(100 * done);
         if (percent != told) {
             std::printf("%d\n", percent);

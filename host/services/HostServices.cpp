@@ -6,6 +6,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -32,17 +35,17 @@ HostServices::~HostServices()
 void HostServices::executeCommand(SpxCommand* command)
 {
     if (command)
-        m_history.execute(std::unique_ptr<SpxCommand>(command), noteNow());
+        m_history.execute(std::unique_ptr<SpxCommand>(command), currentContext());
 }
 
-UndoHistory::Note HostServices::noteNow() const
+UndoHistory::CommandContext HostServices::currentContext() const
 {
-    UndoHistory::Note note;
-    note.text = stepText();
-    note.gesture = m_gestures.current();
+    UndoHistory::CommandContext context;
+    context.text = stepText();
+    context.gesture = m_gestures.current();
     // While a selection is let go, what it edited goes with the old one.
-    const auto touch = [&note](const SoFieldContainer* container) {
-        auto& touched = note.touched;
+    const auto touch = [&context](const SoFieldContainer* container) {
+        auto& touched = context.touched;
         if (container && std::find(touched.begin(), touched.end(), container) == touched.end())
             touched.push_back(container);
     };
@@ -50,7 +53,7 @@ UndoHistory::Note HostServices::noteNow() const
     touch(m_selection.node());
     for (const SoField* field : {m_selection.lastField(), m_selection.field()})
         touch(field ? field->getContainer() : nullptr);
-    return note;
+    return context;
 }
 
 QString HostServices::stepText() const
@@ -75,3 +78,5 @@ void HostServices::dyingCallback(void* services, SoFieldContainer* container)
 {
     static_cast<HostServices*>(services)->containerDies(container);
 }
+
+} // namespace scopix

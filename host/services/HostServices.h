@@ -2,11 +2,14 @@
 // each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
 #pragma once
 
-#include "undo/GestureGrouper.h"
+#include "undo/GestureTracker.h"
 #include "services/Selection.h"
 #include "undo/UndoHistory.h"
 
 #include <scopix/SpxServices.h>
+
+namespace scopix
+{
 
 class HostServices : public SpxServices
 {
@@ -20,7 +23,7 @@ public:
     void select(SoFieldContainer* node) { m_selection.select(node); }
     void select(SoField* field) { m_selection.select(field); }
     void clearSelection() { m_selection.clear(); }
-    void tellSelectionAgain() { m_selection.tellAgain(); }
+    void tellSelectionAgain() { m_selection.reemit(); }
     SoFieldContainer* selectedNode() const { return m_selection.node(); }
     SoField* selectedField() const { return m_selection.field(); }
 
@@ -34,12 +37,14 @@ signals:
     void commandFailed(const QString& sentence);
 
 private:
-    UndoHistory::Note noteNow() const;
+    UndoHistory::CommandContext currentContext() const;
     QString stepText() const;
     void containerDies(SoFieldContainer* container);
     static void dyingCallback(void* services, SoFieldContainer* container);
 
-    GestureGrouper m_gestures;
+    GestureTracker m_gestures;
     Selection m_selection;
     UndoHistory m_history;
 };
+
+} // namespace scopix

@@ -7,6 +7,9 @@
 
 #include <algorithm>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -52,12 +55,12 @@ Selection::Selection(QObject* parent)
 
 void Selection::select(SoFieldContainer* node)
 {
-    wish({Wish::Node, node});
+    request({Request::Node, node});
 }
 
 void Selection::select(SoField* field)
 {
-    wish({Wish::Field, containerOf(field), field});
+    request({Request::Field, containerOf(field), field});
 }
 
 void Selection::clear()
@@ -65,41 +68,41 @@ void Selection::clear()
     select(static_cast<SoFieldContainer*>(nullptr));
 }
 
-void Selection::tellAgain()
+void Selection::reemit()
 {
-    wish({Wish::Again});
+    request({Request::Again});
 }
 
-void Selection::wish(const Wish& wish)
+void Selection::request(const Request& request)
 {
-    m_wishes.push_back(wish);
+    m_requests.push_back(request);
     if (m_telling)
         return;
-    while (!m_wishes.empty()) {
-        const Wish next = m_wishes.front();
-        m_wishes.erase(m_wishes.begin());
-        fulfil(next);
+    while (!m_requests.empty()) {
+        const Request next = m_requests.front();
+        m_requests.erase(m_requests.begin());
+        process(next);
     }
 }
 
-void Selection::fulfil(const Wish& wish)
+void Selection::process(const Request& request)
 {
-    switch (wish.kind) {
-    case Wish::Node:
-        change({Wish::Node, wish.node, wish.node == m_node ? m_field : nullptr}, true);
+    switch (request.kind) {
+    case Request::Node:
+        change({Request::Node, request.node, request.node == m_node ? m_field : nullptr}, true);
         break;
-    case Wish::Field: {
-        SoFieldContainer* node = wish.node ? wish.node : m_node;
-        change({Wish::Field, node, wish.field}, node != m_node);
+    case Request::Field: {
+        SoFieldContainer* node = request.node ? request.node : m_node;
+        change({Request::Field, node, request.field}, node != m_node);
         break;
     }
-    case Wish::Again:
-        change({Wish::Again, m_node, m_field}, true);
+    case Request::Again:
+        change({Request::Again, m_node, m_field}, true);
         break;
     }
 }
 
-void Selection::change(const Wish& to, bool tellNode)
+void Selection::change(const Request& to, bool tellNode)
 {
     const Keep keepFormer(m_node);
     const Keep keepNew(to.node);
@@ -114,16 +117,18 @@ void Selection::change(const Wish& to, bool tellNode)
     m_field = to.field;
     if (tellNode)
         emit nodeChanged(m_node);
-    if (to.kind != Wish::Node || (to.field && to.node != m_formerNode))
+    if (to.kind != Request::Node || (to.field && to.node != m_formerNode))
         emit fieldChanged(m_field);
 }
 
 void Selection::forget(const SoFieldContainer* dying)
 {
-    const auto concerns = [dying](const Wish& wish) { return wish.node == dying; };
-    m_wishes.erase(std::remove_if(m_wishes.begin(), m_wishes.end(), concerns), m_wishes.end());
+    const auto concerns = [dying](const Request& request) { return request.node == dying; };
+    m_requests.erase(std::remove_if(m_requests.begin(), m_requests.end(), concerns), m_requests.end());
     if (dying == m_node)
-        change({Wish::Node}, true);
+        change({Request::Node}, true);
     else if (dying == containerOf(m_field))
-        change({Wish::Field, m_node}, false);
+        change({Request::Field, m_node}, false);
 }
+
+} // namespace scopix

@@ -10,6 +10,9 @@
 class SoField;
 class SoFieldContainer;
 
+namespace scopix
+{
+
 class Selection : public QObject
 {
     Q_OBJECT
@@ -23,7 +26,7 @@ public:
     void select(SoField* field);
     void clear();
     // Tells the present selection once more.
-    void tellAgain();
+    void reemit();
     // The container is about to go.
     void forget(const SoFieldContainer* dying);
 
@@ -40,19 +43,21 @@ signals:
     void fieldChanged(SoField* field);
 
 private:
-    struct Wish {
+    struct Request {
         enum Kind { Node, Field, Again } kind;
         SoFieldContainer* node = nullptr;
         SoField* field = nullptr;
     };
-    void wish(const Wish& wish);
-    void fulfil(const Wish& wish);
-    void change(const Wish& to, bool tellNode);
+    void request(const Request& request);
+    void process(const Request& request);
+    void change(const Request& to, bool tellNode);
 
     SoFieldContainer* m_node = nullptr;
     SoField* m_field = nullptr;
     SoFieldContainer* m_formerNode = nullptr;
     SoField* m_formerField = nullptr;
-    std::vector<Wish> m_wishes; // that came while another was told
+    std::vector<Request> m_requests; // that came while another was told
     bool m_telling = false;
 };
+
+} // namespace scopix

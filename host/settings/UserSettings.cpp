@@ -2,6 +2,9 @@
 
 #include <QStandardPaths>
 
+namespace scopix
+{
+
 QString UserSettings::path(const QString& name)
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/scopix/") + name;
@@ -11,3 +14,5 @@ QString UserSettings::windowFile()
 {
     return path(QStringLiteral("window.ini"));
 }
+
+} // namespace scopix

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+namespace scopix
+{
+
 namespace UserSettings
 {
 
@@ -13,3 +16,5 @@ QString path(const QString& name);
 QString windowFile();
 
 } // namespace UserSettings
+
+} // namespace scopix

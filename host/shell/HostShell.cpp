@@ -1,6 +1,6 @@
 #include "shell/HostShell.h"
 
-#include "support/Guarded.h"
+#include "support/CatchExceptions.h"
 
 #include <scopix/SpxExtension.h>
 
@@ -12,6 +12,9 @@
 #include <QToolBar>
 
 #include <algorithm>
+
+namespace scopix
+{
 
 namespace
 {
@@ -48,7 +51,7 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
         stackOnAnother(dock, area);
     }
     dock->setVisible(shown);
-    own(dock, dock->toggleViewAction());
+    track(dock, dock->toggleViewAction());
     dock->installEventFilter(this);
 }
 
@@ -67,7 +70,7 @@ void HostShell::removeDockWidget(QDockWidget* dock)
     if (!dock || dock->parentWidget() != &m_window)
         return;
     dock->removeEventFilter(this);
-    disown(dock);
+    untrack(dock);
     m_dockShown[dock->objectName()] = !dock->isHidden();
     // The window keeps a gap of the dock's name, where it comes back to.
     m_window.removeDockWidget(dock);
@@ -83,14 +86,14 @@ void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
         m_toolBarPlaces.value(toolBar->objectName(), ToolBarPlace{area, !hiddenOnPurpose(toolBar)});
     m_window.addToolBar(place.area, toolBar);
     toolBar->setVisible(place.shown);
-    own(toolBar, toolBar->toggleViewAction());
+    track(toolBar, toolBar->toggleViewAction());
 }
 
 void HostShell::removeToolBar(QToolBar* toolBar)
 {
     if (!toolBar || toolBar->parentWidget() != &m_window)
         return;
-    disown(toolBar);
+    untrack(toolBar);
     m_toolBarPlaces[toolBar->objectName()] = {m_window.toolBarArea(toolBar), !toolBar->isHidden()};
     m_window.removeToolBar(toolBar);
     toolBar->setParent(nullptr);
@@ -119,12 +122,12 @@ void HostShell::forget(const SpxExtension* extension)
     const QList<Owned> owned = m_owned;
     for (const Owned& each : owned) {
         if (each.owner == extension && each.widget)
-            takeOut(each.widget);
+            removeWidget(each.widget);
     }
     detachExtension(const_cast<SpxExtension*>(extension));
 }
 
-void HostShell::takeOut(QWidget* widget)
+void HostShell::removeWidget(QWidget* widget)
 {
     if (auto* dock = qobject_cast<QDockWidget*>(widget))
         removeDockWidget(dock);
@@ -142,7 +145,7 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
         m_hiddenByPerson.remove(name);
     else
         m_hiddenByPerson.insert(name);
-    const QString failure = Guarded::call([&] { shown ? extension->show() : extension->hide(); });
+    const QString failure = catchExceptions([&] { shown ? extension->show() : extension->hide(); });
     if (!failure.isEmpty())
         emit failed(
             tr("The extension \"%1\" failed when it was to be shown or hidden: %2").arg(name, failure));
@@ -220,16 +223,16 @@ void HostShell::personClosed(SpxExtension* extension)
         setShown(extension, false);
 }
 
-void HostShell::own(QWidget* widget, const QAction* toggle)
+void HostShell::track(QWidget* widget, const QAction* toggle)
 {
-    disown(widget);
+    untrack(widget);
     // The window's own context menu shows and hides docks and tool bars too.
     SpxExtension* owner = m_activating;
     const auto toggled = [this, owner](bool shown) { setShown(owner, shown); };
     m_owned.append({widget, owner, connect(toggle, &QAction::triggered, this, toggled)});
 }
 
-void HostShell::disown(const QWidget* widget)
+void HostShell::untrack(const QWidget* widget)
 {
     for (int i = m_owned.size() - 1; i >= 0; --i) {
         if (m_owned.at(i).widget && m_owned.at(i).widget != widget)
@@ -263,3 +266,5 @@ void HostShell::nameWidget(QWidget* widget) const
         name = QStringLiteral("%1 %2").arg(wanted).arg(number);
     widget->setObjectName(name);
 }
+
+} // namespace scopix

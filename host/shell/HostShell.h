@@ -15,6 +15,9 @@ class QAction;
 class QMainWindow;
 class QWidget;
 
+namespace scopix
+{
+
 class HostShell : public QObject, public SpxShell
 {
     Q_OBJECT
@@ -70,11 +73,11 @@ private:
     };
 
     void stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area);
-    void own(QWidget* widget, const QAction* toggle);
-    void disown(const QWidget* widget);
+    void track(QWidget* widget, const QAction* toggle);
+    void untrack(const QWidget* widget);
     SpxExtension* ownerOf(const QObject* widget) const;
     void nameWidget(QWidget* widget) const;
-    void takeOut(QWidget* widget);
+    void removeWidget(QWidget* widget);
     void personClosed(SpxExtension* extension);
 
     QMainWindow& m_window;
@@ -86,3 +89,5 @@ private:
     QSet<QString> m_waiting;        // names of those that nobody has asked for yet
     SpxExtension* m_activating = nullptr;
 };
+
+} // namespace scopix

@@ -4,6 +4,9 @@
 
 #include <QPainterPath>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -40,7 +43,7 @@ void drawCorners(QPainter& p)
 
 } // namespace
 
-QIcon scopix::openIcon()
+QIcon openIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         p.setBrush(QColor(0xe0, 0xa8, 0x3a));
@@ -50,12 +53,12 @@ QIcon scopix::openIcon()
     });
 }
 
-QIcon scopix::undoIcon()
+QIcon undoIcon()
 {
     return drawnIcon(Size, drawBackArrow);
 }
 
-QIcon scopix::redoIcon()
+QIcon redoIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         p.translate(Size, 0);
@@ -64,7 +67,7 @@ QIcon scopix::redoIcon()
     });
 }
 
-QIcon scopix::viewAllIcon()
+QIcon viewAllIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         drawCorners(p);
@@ -75,7 +78,7 @@ QIcon scopix::viewAllIcon()
     });
 }
 
-QIcon scopix::viewSelectedIcon()
+QIcon viewSelectedIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         drawCorners(p);
@@ -85,7 +88,7 @@ QIcon scopix::viewSelectedIcon()
     });
 }
 
-QIcon scopix::wireframeIcon()
+QIcon wireframeIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         p.setBrush(Qt::NoBrush);
@@ -97,7 +100,7 @@ QIcon scopix::wireframeIcon()
     });
 }
 
-QIcon scopix::statisticsIcon()
+QIcon statisticsIcon()
 {
     return drawnIcon(Size, [](QPainter& p) {
         p.setPen(Qt::NoPen);
@@ -108,3 +111,5 @@ QIcon scopix::statisticsIcon()
         p.drawRect(QRectF(7.5, 3, 3, 12.5));
     });
 }
+
+} // namespace scopix

@@ -7,6 +7,9 @@
 #include <QTextDocument>
 #include <QTextEdit>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -42,10 +45,12 @@ bool TextInput::isTextInput(const QWidget* widget)
     return documentOf(widget) != nullptr;
 }
 
-bool TextInput::holdsUnappliedTyping(const QWidget* widget)
+bool TextInput::hasPendingEdit(const QWidget* widget)
 {
     if (const QLineEdit* line = lineEditOf(widget))
         return !line->isReadOnly() && line->isModified();
     const QTextDocument* document = documentOf(widget);
     return document && document->isModified();
 }
+
+} // namespace scopix

@@ -3,6 +3,9 @@
 
 class QWidget;
 
+namespace scopix
+{
+
 namespace TextInput
 {
 
@@ -11,6 +14,8 @@ bool isTextInput(const QWidget* widget);
 
 // True when the input holds typing that nobody has applied: its modified mark is on. Who applies it takes the
 // mark off.
-bool holdsUnappliedTyping(const QWidget* widget);
+bool hasPendingEdit(const QWidget* widget);
 
 } // namespace TextInput
+
+} // namespace scopix

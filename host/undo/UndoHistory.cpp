@@ -1,6 +1,6 @@
 #include "undo/UndoHistory.h"
 
-#include "support/Guarded.h"
+#include "support/CatchExceptions.h"
 #include "undo/UndoStep.h"
 
 #include <scopix/SpxCommand.h>
@@ -8,6 +8,9 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+
+namespace scopix
+{
 
 UndoHistory::UndoHistory(QObject* parent)
     : QObject(parent)
@@ -20,18 +23,18 @@ UndoHistory::~UndoHistory()
     clear();
 }
 
-void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const Note& note)
+void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandContext& context)
 {
-    const QString failure = Guarded::call([&] { command->execute(); });
+    const QString failure = catchExceptions([&] { command->execute(); });
     if (!failure.isEmpty()) {
-        emit failed(tr("\"%1\" failed: %2").arg(note.text, failure));
+        emit failed(tr("\"%1\" failed: %2").arg(context.text, failure));
         return;
     }
     if (!m_busy) {
-        record(std::move(command), note);
+        record(std::move(command), context);
         return;
     }
-    m_deferred.push_back({std::move(command), note});
+    m_deferred.push_back({std::move(command), context});
     if (m_deferred.size() == 1)
         QMetaObject::invokeMethod(
             this, [this] { recordDeferred(); }, Qt::QueuedConnection);
@@ -42,34 +45,34 @@ void UndoHistory::recordDeferred()
     std::vector<Deferred> deferred;
     deferred.swap(m_deferred);
     for (Deferred& each : deferred)
-        record(std::move(each.command), each.note);
+        record(std::move(each.command), each.context);
 }
 
-void UndoHistory::record(std::unique_ptr<SpxCommand> command, const Note& note)
+void UndoHistory::record(std::unique_ptr<SpxCommand> command, const CommandContext& context)
 {
-    m_touched.insert(note.touched.begin(), note.touched.end());
-    m_mayTouchAnything |= note.touched.empty();
-    if (goesOn(note)) {
-        m_openStep->append(std::move(command), note);
+    m_touched.insert(context.touched.begin(), context.touched.end());
+    m_mayTouchAnything |= context.touched.empty();
+    if (goesOn(context)) {
+        m_openStep->append(std::move(command), context);
         emit acted();
         return;
     }
-    auto step = std::make_shared<UndoStep>(*this, note);
-    step->append(std::move(command), note);
+    auto step = std::make_shared<UndoStep>(*this, context);
+    step->append(std::move(command), context);
     m_openStep = step;
     m_stack.push(new UndoEntry(*this, std::move(step)));
 }
 
-bool UndoHistory::goesOn(const Note& note) const
+bool UndoHistory::goesOn(const CommandContext& context) const
 {
-    return m_openStep && note.gesture != 0 && m_openStep->gesture() == note.gesture && m_stack.count() > 0 &&
+    return m_openStep && context.gesture != 0 && m_openStep->gesture() == context.gesture && m_stack.count() > 0 &&
            stepAt(m_stack.count() - 1) == m_openStep && !m_stack.isClean();
 }
 
 void UndoHistory::forget(const SoFieldContainer* container)
 {
     const auto touches = [&](const Deferred& deferred) {
-        const auto& touched = deferred.note.touched;
+        const auto& touched = deferred.context.touched;
         return touched.empty() || std::find(touched.begin(), touched.end(), container) != touched.end();
     };
     m_deferred.erase(std::remove_if(m_deferred.begin(), m_deferred.end(), touches), m_deferred.end());
@@ -80,9 +83,9 @@ void UndoHistory::forget(const SoFieldContainer* container)
         return;
     if (m_busy)
         QMetaObject::invokeMethod(
-            this, [this] { sweep(); }, Qt::QueuedConnection);
+            this, [this] { rebuildStack(); }, Qt::QueuedConnection);
     else
-        sweep();
+        rebuildStack();
 }
 
 bool UndoHistory::dropSteps(const SoFieldContainer* container)
@@ -116,7 +119,7 @@ int UndoHistory::cleanIndexAfterSweep() const
 }
 
 // QUndoStack cannot take a step out of its middle, so the others are put on an empty one.
-void UndoHistory::sweep()
+void UndoHistory::rebuildStack()
 {
     const QScopedValueRollback<bool> sweeping(m_sweeping, true);
     const int clean = cleanIndexAfterSweep();
@@ -157,3 +160,5 @@ UndoHistory::StepPtr UndoHistory::stepAt(int index) const
 {
     return static_cast<const UndoEntry*>(m_stack.command(index))->step();
 }
+
+} // namespace scopix

@@ -2,7 +2,7 @@
 // gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
 #pragma once
 
-#include "undo/GestureGrouper.h"
+#include "undo/GestureTracker.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -13,6 +13,10 @@
 
 class SoFieldContainer;
 class SpxCommand;
+
+namespace scopix
+{
+
 class UndoStep;
 class UndoEntry;
 
@@ -22,10 +26,10 @@ class UndoHistory : public QObject
 
 public:
     // What the host notes with each command.
-    struct Note {
+    struct CommandContext {
         QString text;                                 // names the step
         std::vector<const SoFieldContainer*> touched; // empty: not known
-        GestureGrouper::Gesture gesture = 0;          // 0: a step of its own
+        GestureTracker::Gesture gesture = 0;          // 0: a step of its own
     };
 
     explicit UndoHistory(QObject* parent = nullptr);
@@ -35,7 +39,7 @@ public:
 
     // Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
     // is being undone or redone right now.
-    void execute(std::unique_ptr<SpxCommand> command, const Note& note);
+    void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
     // Drops the steps that touch the container, and those of which it is not known what they touch.
     void forget(const SoFieldContainer* container);
     // Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
@@ -53,14 +57,14 @@ private:
     using StepPtr = std::shared_ptr<UndoStep>;
     struct Deferred {
         std::unique_ptr<SpxCommand> command;
-        Note note;
+        CommandContext context;
     };
 
-    void record(std::unique_ptr<SpxCommand> command, const Note& note);
+    void record(std::unique_ptr<SpxCommand> command, const CommandContext& context);
     void recordDeferred();
-    bool goesOn(const Note& note) const;
+    bool goesOn(const CommandContext& context) const;
     bool dropSteps(const SoFieldContainer* container);
-    void sweep();
+    void rebuildStack();
     int cleanIndexAfterSweep() const;
     StepPtr stepAt(int index) const;
 
@@ -72,3 +76,5 @@ private:
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;
 };
+
+} // namespace scopix

@@ -1,12 +1,15 @@
 #include "undo/UndoStep.h"
 
-#include "support/Guarded.h"
+#include "support/CatchExceptions.h"
 
 #include <scopix/SpxCommand.h>
 
 #include <QScopedValueRollback>
 
 #include <algorithm>
+
+namespace scopix
+{
 
 namespace
 {
@@ -21,22 +24,22 @@ struct Reversed {
 
 } // namespace
 
-UndoStep::UndoStep(UndoHistory& history, UndoHistory::Note note)
+UndoStep::UndoStep(UndoHistory& history, UndoHistory::CommandContext context)
     : m_history(history)
-    , m_note(std::move(note))
+    , m_context(std::move(context))
 {
 }
 
 UndoStep::~UndoStep() = default;
 
-void UndoStep::append(std::unique_ptr<SpxCommand> command, const UndoHistory::Note& note)
+void UndoStep::append(std::unique_ptr<SpxCommand> command, const UndoHistory::CommandContext& context)
 {
     m_commands.push_back(std::move(command));
-    if (note.touched.empty())
-        m_note.touched.clear();
-    for (const SoFieldContainer* container : note.touched) {
+    if (context.touched.empty())
+        m_context.touched.clear();
+    for (const SoFieldContainer* container : context.touched) {
         if (!touches(container))
-            m_note.touched.push_back(container);
+            m_context.touched.push_back(container);
     }
 }
 
@@ -59,7 +62,7 @@ void UndoStep::run(const Commands& commands, Act act)
     for (const auto& command : commands) {
         if (m_dropped)
             break;
-        const QString failure = Guarded::call([&] { act(*command); });
+        const QString failure = catchExceptions([&] { act(*command); });
         if (!failure.isEmpty())
             emit m_history.failed(UndoHistory::tr("\"%1\" failed: %2").arg(text(), failure));
     }
@@ -67,7 +70,7 @@ void UndoStep::run(const Commands& commands, Act act)
 
 bool UndoStep::touches(const SoFieldContainer* container) const
 {
-    const auto& touched = m_note.touched;
+    const auto& touched = m_context.touched;
     return touched.empty() || std::find(touched.begin(), touched.end(), container) != touched.end();
 }
 
@@ -102,3 +105,5 @@ void UndoEntry::redo()
     const std::shared_ptr<UndoStep> step = m_step;
     step->redo();
 }
+
+} // namespace scopix

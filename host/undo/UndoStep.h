@@ -5,31 +5,34 @@
 
 #include <QUndoCommand>
 
+namespace scopix
+{
+
 class UndoStep
 {
 public:
-    UndoStep(UndoHistory& history, UndoHistory::Note note);
+    UndoStep(UndoHistory& history, UndoHistory::CommandContext context);
     ~UndoStep();
 
-    void append(std::unique_ptr<SpxCommand> command, const UndoHistory::Note& note);
+    void append(std::unique_ptr<SpxCommand> command, const UndoHistory::CommandContext& context);
     void undo();
     void redo();
 
     bool touches(const SoFieldContainer* container) const;
-    bool touchesUnknown() const { return m_note.touched.empty(); }
+    bool touchesUnknown() const { return m_context.touched.empty(); }
     // Never runs its commands again.
     void drop();
     bool isDropped() const { return m_dropped; }
 
-    const QString& text() const { return m_note.text; }
-    GestureGrouper::Gesture gesture() const { return m_note.gesture; }
+    const QString& text() const { return m_context.text; }
+    GestureTracker::Gesture gesture() const { return m_context.gesture; }
 
 private:
     template <class Commands, class Act>
     void run(const Commands& commands, Act act);
 
     UndoHistory& m_history;
-    UndoHistory::Note m_note;
+    UndoHistory::CommandContext m_context;
     std::vector<std::unique_ptr<SpxCommand>> m_commands;
     bool m_running = false;
     bool m_dropped = false;
@@ -51,3 +54,5 @@ private:
     const bool& m_sweeping;
     bool m_taken = false;
 };
+
+} // namespace scopix

@@ -1,6 +1,6 @@
 #include "viewport/SceneCamera.h"
 
-#include "viewport/WayTo.h"
+#include "viewport/TargetedTraversal.h"
 
 #include <xsg/values/SbRotation.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -9,17 +9,20 @@
 #include <algorithm>
 #include <cmath>
 
+namespace scopix
+{
+
 namespace
 {
 
-class CameraFinder : private WayTo
+class CameraFinder : private TargetedTraversal
 {
 public:
     CameraFinder()
-        : WayTo({SoCamera::getAll().begin(), SoCamera::getAll().end()})
+        : TargetedTraversal({SoCamera::getAll().begin(), SoCamera::getAll().end()})
     {
     }
-    scopix::SceneCamera find(SoNode* root)
+    SceneCamera find(SoNode* root)
     {
         if (root && root->asGroup() && leadsThere(root->asGroup()))
             traverse(root);
@@ -36,7 +39,7 @@ private:
         stop();
     }
 
-    scopix::SceneCamera m_found;
+    SceneCamera m_found;
 };
 
 // Puts it where the other one stands in the world.
@@ -56,11 +59,11 @@ void place(SoCamera& copy, const SoCamera& original, const SbMatrix& toWorld)
 void takeLens(const SoCamera& original, float grown, SoRef<SoCamera>& view)
 {
     if (const auto* parallel = dynamic_cast<const SoOrthographicCamera*>(&original)) {
-        auto& copy = scopix::becomeKind<SoOrthographicCamera>(view);
+        auto& copy = ensureType<SoOrthographicCamera>(view);
         copy.height.setValue(parallel->height.getValue() * grown);
         return;
     }
-    auto& copy = scopix::becomeKind<SoPerspectiveCamera>(view);
+    auto& copy = ensureType<SoPerspectiveCamera>(view);
     if (const auto* perspective = dynamic_cast<const SoPerspectiveCamera*>(&original))
         copy.heightAngle.setValue(perspective->heightAngle.getValue());
     if (grown > 1)
@@ -69,12 +72,12 @@ void takeLens(const SoCamera& original, float grown, SoRef<SoCamera>& view)
 
 } // namespace
 
-scopix::SceneCamera scopix::findSceneCamera(SoNode* root)
+SceneCamera findSceneCamera(SoNode* root)
 {
     return CameraFinder().find(root);
 }
 
-void scopix::seeAs(const SceneCamera& original, float aspect, SoRef<SoCamera>& view)
+void matchCamera(const SceneCamera& original, float aspect, SoRef<SoCamera>& view)
 {
     const SoCamera& camera = *original.camera;
     takeLens(camera, std::max(1.0F, LeastAspect / aspect), view);
@@ -86,3 +89,5 @@ void scopix::seeAs(const SceneCamera& original, float aspect, SoRef<SoCamera>& v
     if (original.toWorld != SbMatrix())
         place(*view, camera, original.toWorld);
 }
+
+} // namespace scopix

@@ -21,13 +21,13 @@ SceneCamera findSceneCamera(SoNode* root);
 // height of its picture and not how wide the picture was meant: in one narrower than LeastAspect more is seen above and
 // below, so that as much is seen at the sides. Where the kinds differ another camera takes the place of `view`; for a
 // kind not known here that is a perspective one.
-void seeAs(const SceneCamera& original, float aspect, SoRef<SoCamera>& view);
+void matchCamera(const SceneCamera& original, float aspect, SoRef<SoCamera>& view);
 constexpr float LeastAspect = 1.5F;
 
 // This camera, if it is of that kind, or another in its place. A renderer that is given another one looks at the whole
 // scene anew.
 template <class Kind>
-Kind& becomeKind(SoRef<SoCamera>& camera)
+Kind& ensureType(SoRef<SoCamera>& camera)
 {
     if (auto* same = dynamic_cast<Kind*>(camera.get()))
         return *same;

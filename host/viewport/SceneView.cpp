@@ -1,6 +1,6 @@
 #include "viewport/SceneView.h"
 
-#include "theme/Colors.h"
+#include "theme/Theme.h"
 #include "viewport/ViewSurface.h"
 
 #include <xsg/nodes/transforms/SoSpin.h>
@@ -13,6 +13,9 @@
 
 #include <algorithm>
 #include <cmath>
+
+namespace scopix
+{
 
 namespace
 {
@@ -150,7 +153,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     const auto toColor = [](const QColor& c) {
         return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
     };
-    renderer.setBackground(toColor(scopix::groundColor(palette())));
+    renderer.setBackground(toColor(groundColor(palette())));
     renderer.setWireframe(m_wireframe);
     renderer.setHighlightedNumber(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
@@ -299,3 +302,5 @@ void SceneView::changeEvent(QEvent* event)
         redraw();
     QWidget::changeEvent(event);
 }
+
+} // namespace scopix

@@ -16,9 +16,13 @@
 #include <QWidget>
 
 class QLabel;
+class SoRenderer;
+
+namespace scopix
+{
+
 class ViewSurface;
 struct ViewContent;
-class SoRenderer;
 
 class SceneView : public QWidget
 {
@@ -109,3 +113,5 @@ private:
     QPoint m_pressed;
     QPoint m_last;
 };
+
+} // namespace scopix

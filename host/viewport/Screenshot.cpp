@@ -8,6 +8,9 @@
 #include <QSaveFile>
 #include <QWidget>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -30,7 +33,7 @@ void settle()
 
 } // namespace
 
-QString scopix::saveScreenshot(QWidget& window, const QString& path)
+QString saveScreenshot(QWidget& window, const QString& path)
 {
     settle();
     const QPixmap picture = window.grab();
@@ -41,3 +44,5 @@ QString scopix::saveScreenshot(QWidget& window, const QString& path)
         return cannotWrite(path, file.errorString());
     return {};
 }
+
+} // namespace scopix

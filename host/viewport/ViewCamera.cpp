@@ -1,12 +1,15 @@
 #include "viewport/ViewCamera.h"
 
-#include "viewport/PartBox.h"
+#include "viewport/NodeBounds.h"
 #include "viewport/SceneCamera.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/values/SbRotation.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/render/Frustum.h>
+
+namespace scopix
+{
 
 namespace
 {
@@ -50,7 +53,7 @@ void ViewCamera::goHome()
     m_look = Look::ThroughScene;
     if (follow() && seesAnything())
         return;
-    scopix::becomeKind<SoPerspectiveCamera>(m_camera).heightAngle.setValue(StartAngle);
+    ensureType<SoPerspectiveCamera>(m_camera).heightAngle.setValue(StartAngle);
     m_camera->orientation.setValue(SbRotation());
     m_camera->orbit(StartTurn, StartTilt);
     viewAll();
@@ -60,10 +63,10 @@ bool ViewCamera::follow()
 {
     if (m_look != Look::ThroughScene)
         return false;
-    const scopix::SceneCamera original = scopix::findSceneCamera(m_root.get());
+    const SceneCamera original = findSceneCamera(m_root.get());
     if (!original.camera)
         return false; // stays where the last one was, which may come back by an undo
-    scopix::seeAs(original, m_aspect, m_camera);
+    matchCamera(original, m_aspect, m_camera);
     return true;
 }
 
@@ -87,7 +90,7 @@ void ViewCamera::viewAll()
 
 void ViewCamera::viewNode(SoNode* node)
 {
-    const SbBox3f box = scopix::findPartBox(m_root.get(), node);
+    const SbBox3f box = findPartBox(m_root.get(), node);
     if (box.isEmpty())
         return viewAll();
     frame(box);
@@ -136,3 +139,5 @@ void ViewCamera::fitDepth()
     if (m_look != Look::ThroughScene)
         m_camera->fitDepthRange(boxOf(m_root.get()));
 }
+
+} // namespace scopix

@@ -6,6 +6,9 @@
 #include <xsg/values/SbBox.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 
+namespace scopix
+{
+
 class ViewCamera
 {
 public:
@@ -60,3 +63,5 @@ private:
     Look m_look = Look::Framed;
     float m_aspect = 1;
 };
+
+} // namespace scopix

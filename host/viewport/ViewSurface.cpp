@@ -11,6 +11,9 @@
 
 #include <cmath>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -178,3 +181,5 @@ ViewSurface* ViewSurface::make(QWidget* parent, Prepare prepare, Drawn drawn, bo
         return new GlSurface(parent, std::move(prepare), std::move(drawn));
     return new ImageSurface(parent, std::move(prepare), std::move(drawn));
 }
+
+} // namespace scopix

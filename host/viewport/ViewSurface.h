@@ -10,6 +10,9 @@ class SoCamera;
 class SoNode;
 class SoRenderer;
 
+namespace scopix
+{
+
 // Who draws sets up the renderer in `prepare`, which runs before every picture and names what is drawn.
 struct ViewContent {
     SoNode* root = nullptr;
@@ -36,3 +39,5 @@ public:
     // Whether this platform can draw the scene with OpenGL inside of windows.
     static bool hasOpenGL();
 };
+
+} // namespace scopix

@@ -9,6 +9,9 @@
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -62,7 +65,7 @@ SoDirectionalLight* light(const char* name, const SbVec3f& direction, float inte
 
 } // namespace
 
-SoRef<SoSeparator> scopix::makeDefaultScene()
+SoRef<SoSeparator> makeDefaultScene()
 {
     SoRef<SoSeparator> scene(new SoSeparator);
     scene->setName("Welcome");
@@ -85,3 +88,5 @@ SoRef<SoSeparator> scopix::makeDefaultScene()
     }
     return scene;
 }
+
+} // namespace scopix

@@ -7,12 +7,15 @@
 #include <QDir>
 #include <QMenu>
 
+namespace scopix
+{
+
 FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     : QObject(&menu)
     , m_files(files)
 {
-    menu.addAction(tr("&New"), &files, &SceneFiles::startAnew, QKeySequence::New);
-    m_open = menu.addAction(scopix::openIcon(), tr("&Open …"), &files, &SceneFiles::askForFile, QKeySequence::Open);
+    menu.addAction(tr("&New"), &files, &SceneFiles::newScene, QKeySequence::New);
+    m_open = menu.addAction(openIcon(), tr("&Open …"), &files, &SceneFiles::askForFile, QKeySequence::Open);
     m_open->setToolTip(tr("Open a scene or model"));
     m_recent = menu.addMenu(tr("Open &Recent"));
     m_recent->setObjectName(QStringLiteral("recentFiles"));
@@ -41,3 +44,5 @@ void FileMenu::fillRecent()
     m_recent->addSeparator();
     m_recent->addAction(tr("&Clear This List"), this, [this] { m_files.getRecent().clear(); });
 }
+
+} // namespace scopix

@@ -5,6 +5,10 @@
 
 class QAction;
 class QMenu;
+
+namespace scopix
+{
+
 class SceneFiles;
 
 class FileMenu : public QObject
@@ -23,3 +27,5 @@ private:
     QAction* m_open;
     QMenu* m_recent;
 };
+
+} // namespace scopix

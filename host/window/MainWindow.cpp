@@ -1,7 +1,7 @@
 #include "window/MainWindow.h"
 
 #include "services/HostServices.h"
-#include "support/Messages.h"
+#include "support/UserNotifier.h"
 #include "settings/UserSettings.h"
 #include "theme/ActionIcons.h"
 #include "window/DefaultScene.h"
@@ -31,6 +31,9 @@
 #include <QToolBar>
 #include <QUndoView>
 
+namespace scopix
+{
+
 namespace
 {
 
@@ -42,10 +45,10 @@ QSettings settings()
     return QSettings(UserSettings::windowFile(), QSettings::IniFormat);
 }
 
-scopix::Theme wantedTheme()
+Theme wantedTheme()
 {
     const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
-    return scopix::themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
+    return themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
                                                            : fromEnvironment);
 }
 
@@ -53,27 +56,27 @@ scopix::Theme wantedTheme()
 SoPath findNode(SoNode* root, const QString& text)
 {
     SoSearchAction byName;
-    byName.setName(scopix::toName(text));
+    byName.setName(toName(text));
     if (!byName.apply(root).empty())
         return byName.getPaths().front();
     SoSearchAction byType;
-    const SoType type = SoType::fromName(scopix::toName(text));
+    const SoType type = SoType::fromName(toName(text));
     byType.setType(type);
     return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
 }
 
 } // namespace
 
-MainWindow::MainWindow(HostServices& services, Messages& messages)
+MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     : m_services(services)
-    , m_messages(messages)
-    , m_files(*this, services, messages)
+    , m_notifier(notifier)
+    , m_files(*this, services, notifier)
     , m_tree(new SceneTreeView)
     , m_fields(new FieldListView)
     , m_view(new SceneView)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    scopix::applyTheme(wantedTheme());
+    applyTheme(wantedTheme());
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -88,13 +91,13 @@ MainWindow::MainWindow(HostServices& services, Messages& messages)
     connectSelection();
     connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
     connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
-    connect(&m_files, &SceneFiles::opened, this, &MainWindow::fileDone);
-    connect(&m_messages, &Messages::told, this, [this](const QString& text) {
+    connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
+    connect(&m_notifier, &UserNotifier::told, this, [this](const QString& text) {
         statusBar()->showMessage(text, MessageMs);
     });
     statusBar()->show();
     resize(sizeHint());
-    setScene(scopix::makeDefaultScene().get(), tr("Welcome"));
+    setScene(makeDefaultScene().get(), tr("Welcome"));
 }
 
 MainWindow::~MainWindow()
@@ -147,25 +150,25 @@ void MainWindow::makeEditMenu()
     QUndoStack& stack = m_services.undoStack();
     m_undoAction = stack.createUndoAction(this, tr("Undo"));
     m_undoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
-    m_undoAction->setIcon(scopix::undoIcon());
+    m_undoAction->setIcon(undoIcon());
     m_redoAction = stack.createRedoAction(this, tr("Redo"));
     m_redoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
-    m_redoAction->setIcon(scopix::redoIcon());
+    m_redoAction->setIcon(redoIcon());
     menu->addActions({m_undoAction, m_redoAction});
 }
 
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    m_viewAllAction = menu->addAction(scopix::viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_viewSelectedAction = menu->addAction(scopix::viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
+    m_viewAllAction = menu->addAction(viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewSelectedAction = menu->addAction(viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
                                            QKeySequence(Qt::CTRL + Qt::Key_F));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
     menu->addSeparator();
-    m_wireframeAction = menu->addAction(scopix::wireframeIcon(), tr("&Wireframe"));
+    m_wireframeAction = menu->addAction(wireframeIcon(), tr("&Wireframe"));
     m_wireframeAction->setShortcut(Qt::Key_F3);
-    m_statisticsAction = menu->addAction(scopix::statisticsIcon(), tr("S&tatistics"));
+    m_statisticsAction = menu->addAction(statisticsIcon(), tr("S&tatistics"));
     m_statisticsAction->setShortcut(Qt::Key_F4);
     for (QAction* toggle : {m_wireframeAction, m_statisticsAction})
         toggle->setCheckable(true);
@@ -183,9 +186,9 @@ void MainWindow::makeViewMenu()
 void MainWindow::makeThemeMenu(QMenu& menu)
 {
     auto* group = new QActionGroup(&menu);
-    const std::pair<scopix::Theme, QString> entries[] = {{scopix::Theme::System, tr("As the &System")},
-                                                         {scopix::Theme::Dark, tr("&Dark")},
-                                                         {scopix::Theme::Light, tr("&Light")}};
+    const std::pair<Theme, QString> entries[] = {{Theme::System, tr("As the &System")},
+                                                         {Theme::Dark, tr("&Dark")},
+                                                         {Theme::Light, tr("&Light")}};
     for (const auto& [theme, text] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
         action->setCheckable(true);
@@ -269,7 +272,7 @@ void MainWindow::setScene(SoNode* root, const QString& title)
 void MainWindow::showScene(SoNode* root)
 {
     m_tree->setScene(root);
-    m_view->setAnimated(m_messages.isAttended()); // pictures made by a script are to be the same each time
+    m_view->setAnimated(m_notifier.isAttended()); // pictures made by a script are to be the same each time
     m_view->setScene(root);
 }
 
@@ -290,13 +293,13 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
     const SoPath path = findNode(getScene(), nodeText);
     const SoNode* node = path.getTail();
     if (!node) {
-        m_messages.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
+        m_notifier.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
         return false;
     }
-    SoField* field = node->getField(scopix::toName(fieldText));
+    SoField* field = node->getField(toName(fieldText));
     if (!field) {
-        m_messages.error(tr("“%1”, a %2, has no field “%3”.")
-                             .arg(nodeText, scopix::toQString(node->getTypeId().getName()), fieldText));
+        m_notifier.error(tr("“%1”, a %2, has no field “%3”.")
+                             .arg(nodeText, toQString(node->getTypeId().getName()), fieldText));
         return false;
     }
     m_tree->selectPath(path);
@@ -306,9 +309,9 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 
 bool MainWindow::saveScreenshot(const QString& path)
 {
-    const QString error = scopix::saveScreenshot(*this, path);
+    const QString error = saveScreenshot(*this, path);
     if (!error.isEmpty())
-        m_messages.error(error);
+        m_notifier.error(error);
     return error.isEmpty();
 }
 
@@ -325,10 +328,10 @@ void MainWindow::viewSelected()
     m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
 }
 
-void MainWindow::setTheme(scopix::Theme theme)
+void MainWindow::setTheme(Theme theme)
 {
-    settings().setValue(QStringLiteral("palette"), scopix::themeName(theme));
-    scopix::applyTheme(theme);
+    settings().setValue(QStringLiteral("palette"), themeName(theme));
+    applyTheme(theme);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -349,5 +352,7 @@ void MainWindow::dropEvent(QDropEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(m_files.mayClose());
+    event->setAccepted(m_files.confirmClose());
 }
+
+} // namespace scopix

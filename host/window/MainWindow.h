@@ -3,17 +3,21 @@
 #pragma once
 
 #include "app/HostWindow.h"
-#include "theme/Colors.h"
+#include "theme/Theme.h"
 #include "window/SceneFiles.h"
 
 #include <xsg/nodes/base/SoNode.h>
 
+class SoField;
+
+namespace scopix
+{
+
 class FieldListView;
 class HostServices;
-class Messages;
+class UserNotifier;
 class SceneTreeView;
 class SceneView;
-class SoField;
 
 class MainWindow : public HostWindow
 {
@@ -21,7 +25,7 @@ class MainWindow : public HostWindow
 
 public:
     // Both must outlive the window. Starts with the shipped scene.
-    MainWindow(HostServices& services, Messages& messages);
+    MainWindow(HostServices& services, UserNotifier& notifier);
     ~MainWindow() override;
 
     // Shows this scene, which comes from no file, instead of the one before; `title` names it.
@@ -34,7 +38,7 @@ public:
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
-    void beginSession() override { m_files.beginSession(); }
+    void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
 
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
@@ -65,10 +69,10 @@ private:
     void viewSelected();
     void showNode(SoFieldContainer* node);
     void showField(SoField* field);
-    void setTheme(scopix::Theme theme);
+    void setTheme(Theme theme);
 
     HostServices& m_services;
-    Messages& m_messages;
+    UserNotifier& m_notifier;
     SceneFiles m_files;
     SceneTreeView* m_tree;
     FieldListView* m_fields;
@@ -86,3 +90,5 @@ private:
     QAction* m_wireframeAction = nullptr;
     QAction* m_statisticsAction = nullptr;
 };
+
+} // namespace scopix

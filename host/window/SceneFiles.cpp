@@ -1,7 +1,7 @@
 #include "window/SceneFiles.h"
 
 #include "services/HostServices.h"
-#include "support/Messages.h"
+#include "support/UserNotifier.h"
 #include "undo/TextInput.h"
 #include "settings/UserSettings.h"
 #include "import/FileChecks.h"
@@ -17,13 +17,16 @@
 #include <QLocale>
 #include <QMessageBox>
 
+namespace scopix
+{
+
 namespace
 {
 
 QString nameFilter()
 {
     QStringList patterns;
-    for (const QString& ending : SceneDocument::endings())
+    for (const QString& ending : SceneDocument::fileExtensions())
         patterns << QStringLiteral("*.") + ending;
     return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
 }
@@ -38,14 +41,14 @@ SoRef<SoNode> readScene(const QString& path, QString& error)
 
 } // namespace
 
-SceneFiles::SceneFiles(QWidget& window, HostServices& services, Messages& messages)
+SceneFiles::SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier)
     : m_window(window)
-    , m_messages(messages)
+    , m_notifier(notifier)
     , m_document(services)
     , m_recent(UserSettings::windowFile())
     , m_autosave(m_document)
 {
-    connect(&m_autosave, &Autosave::failed, &m_messages, &Messages::error);
+    connect(&m_autosave, &Autosave::failed, &m_notifier, &UserNotifier::error);
 }
 
 SceneFiles::~SceneFiles() = default;
@@ -55,9 +58,9 @@ void SceneFiles::open(const QString& path)
     if (m_import)
         m_import->cancel(); // the person has changed their mind
     m_droppable = m_document.getEditCount();
-    const QString error = scopix::checkFile(path, SceneDocument::endings());
+    const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
-        return refuse(error);
+        return reportFailure(error);
     if (QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding())
         openScene(path);
     else
@@ -71,7 +74,7 @@ void SceneFiles::openScene(const QString& path)
     if (scene)
         show(scene.get(), path);
     else
-        refuse(error);
+        reportFailure(error);
 }
 
 void SceneFiles::importModel(const QString& path)
@@ -81,7 +84,7 @@ void SceneFiles::importModel(const QString& path)
     connect(import, &ModelImport::finished, this, [this, path](const SoRef<SoSeparator>& scene) {
         modelRead(scene.get(), path);
     });
-    connect(import, &ModelImport::failed, this, &SceneFiles::refuse);
+    connect(import, &ModelImport::failed, this, &SceneFiles::reportFailure);
     connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
     import->start(path);
 }
@@ -89,7 +92,7 @@ void SceneFiles::importModel(const QString& path)
 void SceneFiles::modelRead(SoNode* root, const QString& path)
 {
     // The person may have gone on editing until the model was there.
-    if (m_document.getEditCount() == m_droppable || mayDrop())
+    if (m_document.getEditCount() == m_droppable || confirmDiscard())
         show(root, path);
     else
         cancelled(path);
@@ -105,7 +108,7 @@ void SceneFiles::forgetImport()
 void SceneFiles::cancelled(const QString& path)
 {
     forgetImport();
-    m_messages.info(tr("Reading “%1” was cancelled.").arg(path));
+    m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
     emit opened(false);
 }
 
@@ -113,34 +116,34 @@ void SceneFiles::show(SoNode* root, const QString& path)
 {
     forgetImport();
     m_document.begin(root, path, QFileInfo(path).fileName());
-    if (m_messages.isAttended())
+    if (m_notifier.isAttended())
         m_recent.add(path);
-    m_messages.info(tr("Opened “%1”.").arg(path));
+    m_notifier.info(tr("Opened “%1”.").arg(path));
     emit opened(true);
 }
 
-void SceneFiles::refuse(const QString& sentence)
+void SceneFiles::reportFailure(const QString& sentence)
 {
     forgetImport();
-    m_messages.error(sentence);
+    m_notifier.error(sentence);
     emit opened(false);
 }
 
-void SceneFiles::startAnew()
+void SceneFiles::newScene()
 {
-    if (mayDrop())
-        m_document.begin(scopix::makeDefaultScene().get(), {}, tr("Welcome"));
+    if (confirmDiscard())
+        m_document.begin(makeDefaultScene().get(), {}, tr("Welcome"));
 }
 
 void SceneFiles::openAnother(const QString& path)
 {
-    if (mayDrop())
+    if (confirmDiscard())
         open(path);
 }
 
 void SceneFiles::askForFile()
 {
-    if (!mayDrop())
+    if (!confirmDiscard())
         return;
     const QString path =
         QFileDialog::getOpenFileName(&m_window, tr("Open"), QFileInfo(m_document.getPath()).path(), nameFilter());
@@ -153,7 +156,7 @@ void SceneFiles::openRecent(const QString& path)
     if (QFileInfo::exists(path))
         return openAnother(path);
     m_recent.remove(path);
-    m_messages.error(tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
+    m_notifier.error(tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
 }
 
 bool SceneFiles::save()
@@ -178,18 +181,18 @@ bool SceneFiles::saveTo(const QString& path)
     applyTyping();
     const QString error = m_document.save(path);
     if (!error.isEmpty()) {
-        m_messages.error(error);
+        m_notifier.error(error);
         return false;
     }
-    if (m_messages.isAttended())
+    if (m_notifier.isAttended())
         m_recent.add(path);
-    m_messages.info(tr("Saved “%1”.").arg(path));
+    m_notifier.info(tr("Saved “%1”.").arg(path));
     return true;
 }
 
-bool SceneFiles::mayClose()
+bool SceneFiles::confirmClose()
 {
-    if (!mayDrop())
+    if (!confirmDiscard())
         return false;
     if (m_import)
         m_import->cancel();
@@ -197,10 +200,10 @@ bool SceneFiles::mayClose()
     return true;
 }
 
-bool SceneFiles::mayDrop()
+bool SceneFiles::confirmDiscard()
 {
     applyTyping();
-    const bool may = !m_document.isModified() || !m_messages.isAttended() || askWhetherToDrop();
+    const bool may = !m_document.isModified() || !m_notifier.isAttended() || askWhetherToDrop();
     if (may)
         m_droppable = m_document.getEditCount();
     return may;
@@ -225,7 +228,7 @@ bool SceneFiles::askWhetherToDrop()
 void SceneFiles::applyTyping()
 {
     QWidget* input = QApplication::focusWidget();
-    if (!input || !TextInput::holdsUnappliedTyping(input))
+    if (!input || !TextInput::hasPendingEdit(input))
         return;
     const QPointer<QWidget> stays = input;
     input->clearFocus();
@@ -233,7 +236,7 @@ void SceneFiles::applyTyping()
         stays->setFocus();
 }
 
-void SceneFiles::beginSession()
+void SceneFiles::enterInteractiveMode()
 {
     m_autosave.start();
     if (!m_document.getPath().isEmpty())
@@ -243,7 +246,7 @@ void SceneFiles::beginSession()
 
 void SceneFiles::offerRecovery()
 {
-    std::unique_ptr<RecoverySlot> slot = RecoverySlot::findLost(m_autosave.getFolder());
+    std::unique_ptr<RecoverySlot> slot = RecoverySlot::findOrphaned(m_autosave.getFolder());
     if (!slot)
         return;
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
@@ -269,9 +272,11 @@ void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
     QString error;
     const SoRef<SoNode> scene = readScene(slot->scenePath(), error);
     if (!scene)
-        return m_messages.error(error);
+        return m_notifier.error(error);
     const RecoverySlot::Origin origin = slot->getOrigin();
     m_document.beginModified(scene.get(), origin.path, origin.title);
     m_autosave.adopt(std::move(slot));
-    m_messages.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
+    m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
 }
+
+} // namespace scopix

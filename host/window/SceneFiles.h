@@ -9,8 +9,11 @@
 #include <QObject>
 #include <QPointer>
 
+namespace scopix
+{
+
 class HostServices;
-class Messages;
+class UserNotifier;
 class ModelImport;
 
 class SceneFiles : public QObject
@@ -19,7 +22,7 @@ class SceneFiles : public QObject
 
 public:
     // All must outlive it. Nobody is asked anything while `messages` says that nobody is there.
-    SceneFiles(QWidget& window, HostServices& services, Messages& messages);
+    SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier);
     ~SceneFiles() override;
 
     SceneDocument& getDocument() { return m_document; }
@@ -34,10 +37,10 @@ public:
     bool saveTo(const QString& path);
 
     // The person works with this window from now on: offers what a crashed session left, and keeps unsaved edits safe.
-    void beginSession();
+    void enterInteractiveMode();
 
     // What the menu offers. All but save() first ask about unsaved edits.
-    void startAnew();
+    void newScene();
     void askForFile();
     void openAnother(const QString& path);
     void openRecent(const QString& path);
@@ -45,30 +48,32 @@ public:
     bool save();
     bool saveAs();
     // False when the window is to stay open.
-    bool mayClose();
+    bool confirmClose();
 
 signals:
     void opened(bool good);
 
 private:
-    bool mayDrop();
+    bool confirmDiscard();
     bool askWhetherToDrop();
     void applyTyping();
     void openScene(const QString& path);
     void importModel(const QString& path);
     void modelRead(SoNode* root, const QString& path);
     void show(SoNode* root, const QString& path);
-    void refuse(const QString& sentence);
+    void reportFailure(const QString& sentence);
     void forgetImport();
     void cancelled(const QString& path);
     void offerRecovery();
     void recover(std::unique_ptr<RecoverySlot> slot);
 
     QWidget& m_window;
-    Messages& m_messages;
+    UserNotifier& m_notifier;
     SceneDocument m_document;
     RecentFiles m_recent;
     Autosave m_autosave;
     QPointer<ModelImport> m_import;
     quint64 m_droppable = 0; // the count of the edits that the person agreed to lose
 };
+
+} // namespace scopix

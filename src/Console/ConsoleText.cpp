@@ -1,8 +1,8 @@
 #include "ConsoleText.h"
 
-#include "ConsolePieces.h"
+#include "ConsoleLineSplitter.h"
 #include "ConsoleTextLayout.h"
-#include "ScrollFollower.h"
+#include "AutoScroller.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -98,7 +98,7 @@ private:
 ConsoleText::ConsoleText(QTextEdit& edit, int maxLines)
     : m_edit(edit)
     , m_layout(new ConsoleTextLayout(edit.document()))
-    , m_follower(new ScrollFollower(edit.verticalScrollBar()))
+    , m_follower(new AutoScroller(edit.verticalScrollBar()))
     , m_maxLines(maxLines)
 {
     m_edit.document()->setDocumentLayout(m_layout);

@@ -10,7 +10,7 @@
 class ConsoleTextLayout;
 class QTextCursor;
 class QTextEdit;
-class ScrollFollower;
+class AutoScroller;
 
 class ConsoleText
 {
@@ -35,6 +35,6 @@ private:
 
     QTextEdit& m_edit;
     ConsoleTextLayout* m_layout; // the document's
-    ScrollFollower* m_follower;  // the scroll bar's
+    AutoScroller* m_follower;  // the scroll bar's
     int m_maxLines;
 };

@@ -1,6 +1,6 @@
 #include "EdFieldEdits.h"
 
-#include "EdDefaultField.h"
+#include "EdFreshDefault.h"
 #include "SpxFieldIgnoredCommand.h"
 #include "SpxFieldSetDefaultCommand.h"
 
@@ -15,7 +15,7 @@ void EdFieldEdits::record(std::unique_ptr<SpxCommand> command)
 
 void EdFieldEdits::setToDefault(SoField* field)
 {
-    auto fresh = std::make_unique<EdDefaultField>(field);
+    auto fresh = std::make_unique<EdFreshDefault>(field);
     if (!fresh->get())
         return;
     auto command = std::make_unique<SpxFieldSetDefaultCommand>(field, fresh->get());

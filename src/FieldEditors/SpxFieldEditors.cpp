@@ -11,7 +11,7 @@ namespace
 bool isGoing(const SoField* field)
 {
     const SoFieldContainer* container = field->getContainer();
-    return container && container->isDying();
+    return container && container->isBeingDestroyed();
 }
 
 } // namespace

@@ -21,6 +21,8 @@
 
 #include <memory>
 
+using namespace scopix;
+
 // The least that a host's window is.
 class BareWindow : public HostWindow
 {
@@ -32,7 +34,7 @@ public:
     }
     QMenu* viewMenu() override { return &m_view; }
     QMenu* profilesMenu() override { return &m_profiles; }
-    void openFile(const QString&) override { emit fileDone(false); }
+    void openFile(const QString&) override { emit openFinished(false); }
     bool selectField(const QString&, const QString&) override { return false; }
     bool saveScreenshot(const QString&) override { return false; }
 
@@ -46,7 +48,7 @@ class Session
 public:
     explicit Session(
         const HostApplication::MakeWindow& makeWindow
-        = [](HostServices&, Messages&) { return std::make_unique<BareWindow>(); })
+        = [](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); })
         : host(makeWindow, ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
     {
         host.messages().setAttended(false);

@@ -161,7 +161,7 @@ void SoBoundingBoxAction::keepChild(const SbBox3f& box)
         return;
     }
     around.children->boxes[place] = placed(box);
-    around.children->chunks.refresh(xsg::ChunkBoxes::chunkOf(place),
+    around.children->chunks.refresh(xsg::BoundingBoxTree::chunkOf(place),
                                     [&](std::size_t i) { return around.children->boxes[i]; });
 }
 

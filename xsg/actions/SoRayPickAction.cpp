@@ -61,9 +61,9 @@ std::vector<std::uint32_t> SoRayPickAction::findChildren(const SoSeparator& sepa
 {
     const SoSeparator::ChildBoxes& known = *separator.boxCache().children;
     std::vector<std::uint32_t> places;
-    using Found = xsg::ChunkBoxes::Found;
-    const auto judge = [&](const SbBox3f& box) { return mayMeetAny(box) ? Found::Some : Found::Nothing; };
-    known.chunks.find(judge, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
+    using Found = xsg::BoundingBoxTree::Found;
+    const auto classify = [&](const SbBox3f& box) { return mayMeetAny(box) ? Found::Some : Found::Nothing; };
+    known.chunks.find(classify, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
         for (std::size_t i = first; i < end; ++i) {
             if (mayMeetAny(known.boxes[i]))
                 places.push_back(static_cast<std::uint32_t>(i));

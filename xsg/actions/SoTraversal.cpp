@@ -102,7 +102,7 @@ void SoTraversal::openGroup(SoGroup* group)
 {
     if (!wantsGroup(group))
         return;
-    const bool isolates = group->isIsolating();
+    const bool isolates = group->isStateScope();
     if (isolates)
         saveState();
     group->apply(m_state);

@@ -20,11 +20,11 @@ SoField::SoField(SoFieldContainer* owner, const char* name)
 
 SoField::~SoField()
 {
-    leaveMaster();
+    leaveSource();
     if (m_listeners) {
         // The value is gone already: whoever follows keeps what it has.
-        while (!m_listeners->followers.empty())
-            m_listeners->followers.back()->leaveMaster();
+        while (!m_listeners->dependents.empty())
+            m_listeners->dependents.back()->leaveSource();
         while (!m_listeners->sensors.empty())
             m_listeners->sensors.back()->detach();
     }
@@ -43,13 +43,13 @@ bool SoField::set(const SbString& text)
     return true;
 }
 
-bool SoField::setAlone(const SbString& text)
+bool SoField::setWithoutPropagation(const SbString& text)
 {
     if (!parse(text.str()))
         return false;
     m_default = false;
     m_needsEvaluation = false;
-    notify(0, -1, Followers::DoNot);
+    notify(0, -1, Dependents::DoNot);
     return true;
 }
 
@@ -68,7 +68,7 @@ void SoField::setIgnored(bool ignored)
 {
     m_ignored = ignored;
     // The value is the same as before, so that what was written to a follower stands.
-    notify(0, -1, Followers::DoNot);
+    notify(0, -1, Dependents::DoNot);
 }
 
 bool SoField::canConvertFrom(const SoField& other) const
@@ -105,102 +105,102 @@ bool SoField::takeText(const SoField& other)
     if (!isList() && !other.isTextual()) {
         SbString whole;
         other.get(whole);
-        return takePlain({whole.str()});
+        return assignFromText({whole.str()});
     }
     const int count = isList() ? other.valueCount() : std::min(other.valueCount(), 1);
     std::vector<std::string> texts(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         other.writePlain(texts[static_cast<std::size_t>(i)], i);
-    return takePlain(texts);
+    return assignFromText(texts);
 }
 
-bool SoField::connectFrom(SoField* master)
+bool SoField::connectFrom(SoField* source)
 {
-    if (!master || !canConvertFrom(*master))
+    if (!source || !canConvertFrom(*source))
         return false;
-    if (isFollowedBy(*master))
+    if (isSourceOf(*source))
         return false;
     disconnect();
-    m_master = master;
-    auto& followers = master->listeners().followers;
-    m_followerSlot = static_cast<std::uint32_t>(followers.size());
-    followers.push_back(this);
+    m_source = source;
+    auto& dependents = source->listeners().dependents;
+    m_dependentSlot = static_cast<std::uint32_t>(dependents.size());
+    dependents.push_back(this);
     m_needsEvaluation = true;
-    notify(0, -1, Followers::Hear);
+    notify(0, -1, Dependents::Hear);
     return true;
 }
 
 // Whether `other` is this field or takes its value from it, directly or not.
-bool SoField::isFollowedBy(const SoField& other) const
+bool SoField::isSourceOf(const SoField& other) const
 {
     if (&other == this)
         return true;
-    const bool hasFollowers = m_listeners && !m_listeners->followers.empty();
-    const SoField* field = hasFollowers ? &other : nullptr;
+    const bool hasDependents = m_listeners && !m_listeners->dependents.empty();
+    const SoField* field = hasDependents ? &other : nullptr;
     while (field && field != this)
-        field = field->m_master;
+        field = field->m_source;
     return field != nullptr;
 }
 
 void SoField::disconnect()
 {
     evaluate();
-    leaveMaster();
+    leaveSource();
 }
 
-void SoField::leaveMaster()
+void SoField::leaveSource()
 {
-    if (!m_master)
+    if (!m_source)
         return;
     // The last one takes the place, so that a field leaves at once however many others follow the same one.
-    auto& followers = m_master->m_listeners->followers;
-    followers[m_followerSlot] = followers.back();
-    followers[m_followerSlot]->m_followerSlot = m_followerSlot;
-    followers.pop_back();
-    m_master = nullptr;
+    auto& dependents = m_source->m_listeners->dependents;
+    dependents[m_dependentSlot] = dependents.back();
+    dependents[m_dependentSlot]->m_dependentSlot = m_dependentSlot;
+    dependents.pop_back();
+    m_source = nullptr;
     m_needsEvaluation = false;
 }
 
-void SoField::releaseFollowers()
+void SoField::releaseDependents()
 {
-    while (m_listeners && !m_listeners->followers.empty())
-        m_listeners->followers.back()->disconnect();
+    while (m_listeners && !m_listeners->dependents.empty())
+        m_listeners->dependents.back()->disconnect();
 }
 
 // From the first field up the chain that is up to date down to this one; a walk, since chains may be long.
 void SoField::fetch() const
 {
     std::vector<const SoField*> stale;
-    for (const SoField* field = this; field->m_needsEvaluation; field = field->m_master)
+    for (const SoField* field = this; field->m_needsEvaluation; field = field->m_source)
         stale.push_back(field);
     for (auto at = stale.rbegin(); at != stale.rend(); ++at) {
         auto* field = const_cast<SoField*>(*at);
         field->m_needsEvaluation = false;
-        if (field->take(*field->m_master))
+        if (field->take(*field->m_source))
             field->m_default = false;
     }
 }
 
 void SoField::touch()
 {
-    notify(0, -1, Followers::Hear);
+    notify(0, -1, Dependents::Hear);
 }
 
 void SoField::valueWritten(int start, int count)
 {
     m_default = false;
     m_needsEvaluation = false;
-    notify(start, count, Followers::Hear);
+    notify(start, count, Dependents::Hear);
 }
 
-void SoField::notify(int start, int count, Followers followers)
+void SoField::notify(int start, int count, Dependents dependents)
 {
-    tellOwn(start, count);
-    if (followers == Followers::Hear && m_listeners && !m_listeners->followers.empty())
-        tellFollowers();
+    notifyOwnListeners(start, count);
+    if (dependents == Dependents::Hear && m_listeners && !m_listeners->dependents.empty())
+        notifyDependents();
 }
 
-void SoField::tellOwn(int start, int count)
+void SoField::notifyOwnListeners(int start, int count)
 {
     ++m_changeCount;
     if (m_container)
@@ -220,17 +220,17 @@ void SoField::tellOwn(int start, int count)
     }
 }
 
-void SoField::tellFollowers()
+void SoField::notifyDependents()
 {
-    std::vector<SoField*> open = m_listeners->followers;
+    std::vector<SoField*> open = m_listeners->dependents;
     while (!open.empty()) {
         SoField* field = open.back();
         open.pop_back();
         field->m_needsEvaluation = true;
-        field->tellOwn(0, -1);
+        field->notifyOwnListeners(0, -1);
         if (field->m_listeners)
-            open.insert(open.end(), field->m_listeners->followers.begin(),
-                        field->m_listeners->followers.end());
+            open.insert(open.end(), field->m_listeners->dependents.begin(),
+                        field->m_listeners->dependents.end());
     }
 }
 

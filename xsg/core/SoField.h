@@ -51,10 +51,10 @@ public:
     // Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
     // the types do not convert or a loop would close. A direct write stands until the master changes again.
     // What the master holds that does not convert (a text that is no number) leaves the value.
-    bool connectFrom(SoField* master);
+    bool connectFrom(SoField* source);
     void disconnect();
-    SoField* getConnectedField() const { return m_master; }
-    bool isConnected() const { return m_master != nullptr; }
+    SoField* getConnectedField() const { return m_source; }
+    bool isConnected() const { return m_source != nullptr; }
     // Fields convert when their values have the same type or the same count of numbers, or when one of them
     // is a string or a name: then by text. A list converts to a single value by its first one. Numbers that
     // the type cannot hold become its nearest one, fractions are cut off, and what is no number becomes 0.
@@ -98,7 +98,7 @@ protected:
     // One value as a string field would hold it, without quotes.
     virtual void writePlain(std::string& out, int value) const = 0;
     // The texts, one per value, as values; false, without a change, where one does not parse.
-    virtual bool takePlain(const std::vector<std::string>& texts) = 0;
+    virtual bool assignFromText(const std::vector<std::string>& texts) = 0;
     // Takes the value of a field of another class whose values have the same C++ type.
     virtual bool takeSameValues(const SoField& /*other*/) { return false; }
     virtual bool hasSameValues(const SoField& /*other*/) const { return false; }
@@ -112,34 +112,34 @@ private:
     friend class xsg::SceneReader;
     struct Listeners {
         std::vector<SoDataSensor*> sensors;
-        std::vector<SoField*> followers;
+        std::vector<SoField*> dependents;
     };
 
-    enum class Followers { Hear, DoNot };
+    enum class Dependents { Hear, DoNot };
     void fetch() const;
     // As set(), but those that follow this field keep what they have.
-    bool setAlone(const SbString& text);
+    bool setWithoutPropagation(const SbString& text);
     bool take(const SoField& other);
     bool takeText(const SoField& other);
-    bool isFollowedBy(const SoField& other) const;
-    void notify(int start, int count, Followers followers);
-    void tellFollowers();
-    void tellOwn(int start, int count);
-    void leaveMaster();
-    void releaseFollowers();
+    bool isSourceOf(const SoField& other) const;
+    void notify(int start, int count, Dependents dependents);
+    void notifyDependents();
+    void notifyOwnListeners(int start, int count);
+    void leaveSource();
+    void releaseDependents();
     Listeners& listeners();
 
     SoFieldContainer* m_container = nullptr;
     const char* m_name = nullptr;
     SoField* m_next = nullptr; // in the container
-    SoField* m_master = nullptr;
+    SoField* m_source = nullptr;
     std::unique_ptr<Listeners> m_listeners;
     std::uint32_t m_changeCount = 0;
     bool m_isTrigger = false; // of a sensor, at some time
     bool m_ignored = false;
     bool m_default = true;
     mutable bool m_needsEvaluation = false;
-    std::uint32_t m_followerSlot = 0; // among the master's followers
+    std::uint32_t m_dependentSlot = 0; // among the master's followers
 };
 
 extern template class SoTyped<SoField, SoTypedObject>;

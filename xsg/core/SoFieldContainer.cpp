@@ -54,12 +54,12 @@ void SoFieldContainer::destroy() const
     while (!own.empty()) {
         const SoFieldContainer* next = own.back();
         own.pop_back();
-        next->takeDown();
+        next->finalize();
     }
     going = nullptr;
 }
 
-void SoFieldContainer::takeDown() const
+void SoFieldContainer::finalize() const
 {
     // A listener may take and give back references while it looks at the dying container.
     m_refCount = 1;
@@ -68,7 +68,7 @@ void SoFieldContainer::takeDown() const
         listener.callback(listener.data, const_cast<SoFieldContainer*>(this));
     // Fields that follow one of these take its last value while it is there.
     for (SoField* field = m_fields.m_first; field; field = field->m_next)
-        field->releaseFollowers();
+        field->releaseDependents();
     delete this;
 }
 

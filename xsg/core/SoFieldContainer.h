@@ -26,7 +26,7 @@ public:
     void unrefNoDelete() const { --m_refCount; }
     int getRefCount() const { return m_refCount; }
     // True once the last reference is gone: who is told of it has no business writing the fields any more.
-    bool isDying() const { return m_dying; }
+    bool isBeingDestroyed() const { return m_dying; }
 
     SbName getName() const { return m_name; }
     void setName(SbName name);
@@ -63,7 +63,7 @@ private:
     friend class SoFieldData;
     friend class SoDataSensor;
     void destroy() const;
-    void takeDown() const;
+    void finalize() const;
 
     SoFieldData m_fields;
     std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;

@@ -19,7 +19,7 @@ void SoSField::writePlain(std::string& out, int /*value*/) const
     out += text.str();
 }
 
-bool SoSField::takePlain(const std::vector<std::string>& texts)
+bool SoSField::assignFromText(const std::vector<std::string>& texts)
 {
     return !texts.empty() && parse(texts.front());
 }

@@ -13,7 +13,7 @@ protected:
     bool isList() const final { return false; }
     int valueCount() const final { return 1; }
     void writePlain(std::string& out, int value) const override;
-    bool takePlain(const std::vector<std::string>& texts) override;
+    bool assignFromText(const std::vector<std::string>& texts) override;
 };
 
 extern template class SoTyped<SoSField, SoField>;

@@ -62,7 +62,7 @@ bool SoMFEnum::parse(std::string_view text)
     return true;
 }
 
-bool SoMFEnum::takePlain(const std::vector<std::string>& texts)
+bool SoMFEnum::assignFromText(const std::vector<std::string>& texts)
 {
     std::vector<int> values(texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {

@@ -33,7 +33,7 @@ protected:
     void writeValues(std::string& out) const override;
     bool parseValue(std::string_view text, int index) override;
     bool parse(std::string_view text) override;
-    bool takePlain(const std::vector<std::string>& texts) override;
+    bool assignFromText(const std::vector<std::string>& texts) override;
     // The names may differ, so that a list of plain numbers is taken over as numbers.
     bool hasSameValues(const SoField& /*other*/) const override { return false; }
 

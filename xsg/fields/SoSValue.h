@@ -44,7 +44,7 @@ protected:
     void takeNumbers(const SoField& sameShape) override;
     bool isTextual() const override;
     void writePlain(std::string& out, int value) const override;
-    bool takePlain(const std::vector<std::string>& texts) override;
+    bool assignFromText(const std::vector<std::string>& texts) override;
     bool hasSameValues(const SoField& other) const override;
     bool takeSameValues(const SoField& other) override;
 

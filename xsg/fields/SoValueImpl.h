@@ -173,7 +173,7 @@ void SoSValue<T, Base>::writePlain(std::string& out, int value) const
 }
 
 template <class T, class Base>
-bool SoSValue<T, Base>::takePlain(const std::vector<std::string>& texts)
+bool SoSValue<T, Base>::assignFromText(const std::vector<std::string>& texts)
 {
     if constexpr (xsg::isTextual<T>) {
         if (texts.empty())
@@ -181,7 +181,7 @@ bool SoSValue<T, Base>::takePlain(const std::vector<std::string>& texts)
         m_value = T(SbString(texts.front()));
         return true;
     } else {
-        return Base::takePlain(texts);
+        return Base::assignFromText(texts);
     }
 }
 
@@ -337,7 +337,7 @@ void SoMValue<T, Base>::writePlain(std::string& out, int value) const
 }
 
 template <class T, class Base>
-bool SoMValue<T, Base>::takePlain(const std::vector<std::string>& texts)
+bool SoMValue<T, Base>::assignFromText(const std::vector<std::string>& texts)
 {
     std::vector<T> values(texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {

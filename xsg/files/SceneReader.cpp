@@ -132,7 +132,7 @@ SoRef<SoNode> xsg::SceneReader::read()
                                 std::string(m_open.back().node->getTypeId().getName().getString()));
     else if (!m_root)
         fail(m_text.size(), "the file has no node: a type such as Separator was expected");
-    else if (!refer() || !connect())
+    else if (!resolveReferences() || !connect())
         forgetReferences();
     return m_problem.empty() ? m_root : nullptr;
 }
@@ -284,7 +284,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
             wanted.label = readWord();
             if (!accept('.'))
                 return fail(start, "\"<- @label.field\" was expected");
-            wanted.masterName = readWord();
+            wanted.sourceName = readWord();
             m_connections.push_back(wanted);
         } else {
             return true;
@@ -293,7 +293,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
 }
 
 // A field may refer to a node that comes later, so all references are made at the end.
-bool xsg::SceneReader::refer()
+bool xsg::SceneReader::resolveReferences()
 {
     for (const NodeValue& wanted : m_nodeValues) {
         XsgTextReader in(wanted.text);
@@ -344,24 +344,24 @@ bool xsg::SceneReader::connect()
 {
     for (Connection& wanted : m_connections) {
         const auto node = m_labels.find(wanted.label);
-        wanted.master = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.masterName);
-        if (!wanted.master)
+        wanted.source = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.sourceName);
+        if (!wanted.source)
             return fail(wanted.at, "there is no field @" + std::string(wanted.label) + "." +
-                                       std::string(wanted.masterName) + " to connect from");
+                                       std::string(wanted.sourceName) + " to connect from");
         if (!wanted.field->isDefault())
             wanted.field->get(wanted.value);
     }
     for (const Connection* wanted : mastersFirst()) {
-        if (!wanted->field->connectFrom(wanted->master))
+        if (!wanted->field->connectFrom(wanted->source))
             return fail(wanted->at, std::string(wanted->field->getName().getString()) +
                                         " cannot be connected from a " +
-                                        std::string(wanted->master->getTypeId().getName().getString()) +
+                                        std::string(wanted->source->getTypeId().getName().getString()) +
                                         ", or would in the end be connected from itself");
     }
     // A connected field may have been written since its master last changed, and then keeps that value.
     for (const Connection& made : m_connections) {
         if (!made.value.isNull())
-            made.field->setAlone(made.value);
+            made.field->setWithoutPropagation(made.value);
     }
     return true;
 }
@@ -377,7 +377,7 @@ std::vector<const xsg::SceneReader::Connection*> xsg::SceneReader::mastersFirst(
     std::vector<const Connection*> row;
     for (const Connection& connection : m_connections) {
         for (auto next = pending.find(connection.field); next != pending.end();
-             next = pending.find(row.back()->master)) {
+             next = pending.find(row.back()->source)) {
             row.push_back(next->second);
             pending.erase(next);
         }

@@ -37,9 +37,9 @@ private:
     struct Connection {
         SoField* field;
         std::string_view label;
-        std::string_view masterName;
+        std::string_view sourceName;
         std::size_t at;
-        SoField* master;
+        SoField* source;
         SbString value; // as written; null where it was not
     };
 
@@ -67,7 +67,7 @@ private:
     bool readField(std::string_view name, std::size_t at);
     bool readValue(std::string_view& value, std::size_t& start);
     bool readMarks(SoField* field);
-    bool refer();
+    bool resolveReferences();
     void forgetReferences();
     bool readNode(XsgTextReader& in, SoRef<SoNode>& node) const;
     bool refuseValue(const SoField& field, std::string_view value, std::size_t at);

@@ -30,10 +30,10 @@ void forEachField(const SoNode* node, Visit visit)
         visit(*field);
 }
 
-const SoNode* masterNodeOf(const SoField& field)
+const SoNode* sourceNodeOf(const SoField& field)
 {
-    const SoField* master = field.getConnectedField();
-    return master ? dynamic_cast<const SoNode*>(master->getContainer()) : nullptr;
+    const SoField* source = field.getConnectedField();
+    return source ? dynamic_cast<const SoNode*>(source->getContainer()) : nullptr;
 }
 
 } // namespace
@@ -100,8 +100,8 @@ void xsg::SceneWriter::addReferences(const SoNode* node)
     forEachField(node, [&](const SoField& field) {
         if (!isWorthWriting(field))
             return;
-        if (const SoNode* master = masterNodeOf(field))
-            m_labels.emplace(master, 0);
+        if (const SoNode* source = sourceNodeOf(field))
+            m_labels.emplace(source, 0);
         if (const auto* single = dynamic_cast<const SoSFNode*>(&field))
             m_labels.emplace(single->getNode(), 0);
         else if (const auto* list = dynamic_cast<const SoMFNode*>(&field))
@@ -113,8 +113,8 @@ void xsg::SceneWriter::addReferences(const SoNode* node)
 // A master outside of the scene cannot be named in its file.
 bool xsg::SceneWriter::isConnectionKept(const SoField& field) const
 {
-    const SoNode* master = masterNodeOf(field);
-    return master && m_reached.count(master) > 0;
+    const SoNode* source = sourceNodeOf(field);
+    return source && m_reached.count(source) > 0;
 }
 
 void xsg::SceneWriter::beginNode(const SoNode* node, std::size_t depth)
@@ -178,7 +178,7 @@ void xsg::SceneWriter::writeField(const SoField& field)
     if (!keepsConnection)
         return;
     m_out += " <- ";
-    writeLabel(masterNodeOf(field));
+    writeLabel(sourceNodeOf(field));
     m_out += std::string(".") + field.getConnectedField()->getName().getString();
 }
 

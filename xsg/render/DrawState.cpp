@@ -57,7 +57,7 @@ void xsg::DrawState::setEdgesOnly(bool on)
     m_isKnown = false;
 }
 
-void xsg::DrawState::setSurroundings(const Surroundings& now)
+void xsg::DrawState::setState(const DrawStateKey& now)
 {
     static const std::vector<SbPlane> noPlanes;
     if (m_shader.setClipped(now.clipPlanes != nullptr)) {
@@ -83,7 +83,7 @@ void xsg::DrawState::setSurroundings(const Surroundings& now)
     m_isKnown = true;
 }
 
-void xsg::DrawState::setTexture(const Surroundings& now)
+void xsg::DrawState::setTexture(const DrawStateKey& now)
 {
     ++m_changes;
     if (now.texture)

@@ -24,7 +24,7 @@ public:
     void end();
 
     void setEdgesOnly(bool on);
-    void setSurroundings(const Surroundings& now);
+    void setState(const DrawStateKey& now);
     void setGeometry(GpuGeometry& geometry);
     void setFaces(Faces faces, bool isMirrored);
 
@@ -32,13 +32,13 @@ public:
     std::int64_t getChanges() const { return m_changes; }
 
 private:
-    void setTexture(const Surroundings& now);
+    void setTexture(const DrawStateKey& now);
     void setFog(const SoFog* fog);
     void setDrawStyle(const SoDrawStyle* style);
 
     Shader& m_shader;
     const std::vector<SoLightSource>* m_headlights = nullptr;
-    Surroundings m_now;
+    DrawStateKey m_now;
     bool m_isKnown = false; // m_now is what is set
     GpuGeometry* m_geometry = nullptr;
     Faces m_faces = Faces::Both;

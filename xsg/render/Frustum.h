@@ -1,7 +1,7 @@
 // What a camera can see, as planes.
 #pragma once
 
-#include <xsg/nodes/base/ChunkBoxes.h>
+#include <xsg/nodes/base/BoundingBoxTree.h>
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbMatrix.h>
 
@@ -11,7 +11,7 @@ namespace xsg
 class Frustum
 {
 public:
-    using Found = ChunkBoxes::Found;
+    using Found = BoundingBoxTree::Found;
 
     explicit Frustum(const SbMatrix& viewProjection)
     {
@@ -26,7 +26,7 @@ public:
     }
 
     // What of the box is in sight; nothing and everything are certain.
-    Found judge(const SbBox3f& box) const
+    Found classify(const SbBox3f& box) const
     {
         const SbVec3f& low = box.getMin();
         const SbVec3f& high = box.getMax();
@@ -45,7 +45,7 @@ public:
         }
         return sight;
     }
-    bool mayShow(const SbBox3f& box) const { return judge(box) != Found::Nothing; }
+    bool mayShow(const SbBox3f& box) const { return classify(box) != Found::Nothing; }
 
 private:
     float m_planes[6][4];

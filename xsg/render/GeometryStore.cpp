@@ -79,7 +79,7 @@ void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
     ++m_uploads;
 }
 
-void xsg::GeometryStore::giveBack(GpuGeometry* geometry)
+void xsg::GeometryStore::release(GpuGeometry* geometry)
 {
     if (--geometry->users == 0)
         m_unused.push_back(geometry);

@@ -28,7 +28,7 @@ public:
     // The shape's geometry, uploaded where it was not there, with one user more.
     GpuGeometry* get(const SoShape& shape, const SoState& state);
     // One user less; what has no user any more goes with removeUnused().
-    void giveBack(GpuGeometry* geometry);
+    void release(GpuGeometry* geometry);
     void giveAllBack();
     void removeUnused();
     void release();

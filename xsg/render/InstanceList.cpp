@@ -124,8 +124,8 @@ void xsg::InstanceList::uploadChanged(const std::vector<RenderItem>& items,
         const auto boxAt = [&](std::size_t place) { return sightBoxOf(items[m_order[place]]); };
         std::size_t last = m_chunks.getNumChunks();
         for (const std::uint32_t place : m_changedPlaces) {
-            if (ChunkBoxes::chunkOf(place) != last)
-                m_chunks.refresh(last = ChunkBoxes::chunkOf(place), boxAt);
+            if (BoundingBoxTree::chunkOf(place) != last)
+                m_chunks.refresh(last = BoundingBoxTree::chunkOf(place), boxAt);
         }
     }
     // Many small pieces cost more than the whole.
@@ -161,7 +161,7 @@ void xsg::InstanceList::findVisible(const Frustum& frustum, const std::vector<Re
         else
             visible.push_back({static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(end)});
     };
-    m_chunks.find([&](const SbBox3f& box) { return frustum.judge(box); },
+    m_chunks.find([&](const SbBox3f& box) { return frustum.classify(box); },
                   [&](std::size_t first, std::size_t end, bool isEverything) {
                       if (isEverything)
                           add(first, end);

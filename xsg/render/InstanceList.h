@@ -2,7 +2,7 @@
 // there again only where it changed.
 #pragma once
 
-#include <xsg/nodes/base/ChunkBoxes.h>
+#include <xsg/nodes/base/BoundingBoxTree.h>
 #include <xsg/render/Frustum.h>
 #include <xsg/render/RenderList.h>
 
@@ -53,7 +53,7 @@ private:
     std::vector<std::uint32_t> m_order;
     std::vector<std::uint32_t> m_places; // of each item in the order, or Nowhere
     std::vector<Run> m_batches;
-    ChunkBoxes m_chunks;
+    BoundingBoxTree m_chunks;
     bool m_hasChunks = false;
     GlBuffer m_buffer;
     std::vector<InstanceData> m_staging;

@@ -14,7 +14,7 @@ namespace
 
 constexpr std::size_t MostOutOfOrder = 64;
 
-auto ordered(const xsg::Surroundings& s)
+auto ordered(const xsg::DrawStateKey& s)
 {
     const SbColor& a = s.ambientLight;
     return std::make_tuple(s.texture, s.textureModel, s.lights.get(), s.clipPlanes.get(),
@@ -29,7 +29,7 @@ void put(float* four, const SbVec3f& color, float fourth)
 
 } // namespace
 
-bool xsg::Surroundings::operator<(const Surroundings& other) const
+bool xsg::DrawStateKey::operator<(const DrawStateKey& other) const
 {
     return ordered(*this) < ordered(other);
 }
@@ -58,10 +58,10 @@ void xsg::RenderList::clear()
     m_callbacks.clear();
     m_records.clear();
     m_childRecords.clear();
-    m_surroundingsIndex.clear();
-    m_surroundings.clear();
+    m_stateIndex.clear();
+    m_states.clear();
     m_lastSurroundingsIndex = -1;
-    m_lastSurroundings = {};
+    m_lastState = {};
     m_lights.clear();
     m_clipPlanes.clear();
     m_textureMatrices.clear();
@@ -86,7 +86,7 @@ void xsg::RenderList::build(SoNode* root)
     traverse(root);
     m_geometry->removeUnused();
     m_textures->endRound();
-    m_builtSurroundings = m_surroundings.size();
+    m_builtSurroundings = m_states.size();
     m_boxes.build(m_items.size(), [this](std::size_t i) { return m_items[i].box; });
     m_box = m_boxes.getWhole();
     sort();
@@ -95,7 +95,7 @@ void xsg::RenderList::build(SoNode* root)
 bool xsg::RenderList::patch(SoNode* root)
 {
     // Surroundings that are not used any more stay until the next build.
-    if (m_records.empty() || m_surroundings.size() > 2 * m_builtSurroundings + 64)
+    if (m_records.empty() || m_states.size() > 2 * m_builtSurroundings + 64)
         return false;
     m_isPatching = true;
     m_gaveUp = false;
@@ -125,7 +125,7 @@ void xsg::RenderList::patchBoxes()
 {
     std::size_t last = m_boxes.getNumChunks();
     for (std::size_t i = m_firstPatched; i < m_changes.items.size(); ++i) {
-        const std::size_t chunk = ChunkBoxes::chunkOf(m_changes.items[i]);
+        const std::size_t chunk = BoundingBoxTree::chunkOf(m_changes.items[i]);
         if (chunk != last)
             m_boxes.refresh(last = chunk, [this](std::size_t item) { return m_items[item].box; });
     }
@@ -150,17 +150,17 @@ void xsg::RenderList::giveUp()
     stop();
 }
 
-void xsg::RenderList::record(const SoNode* node, std::uint32_t changeCount, bool isIsolating)
+void xsg::RenderList::record(const SoNode* node, std::uint32_t changeCount, bool isStateScope)
 {
     m_records.push_back({node->getNodeId(), changeCount, node->getChangeCount(),
-                         static_cast<std::uint32_t>(m_items.size()), 0, isIsolating});
+                         static_cast<std::uint32_t>(m_items.size()), 0, isStateScope});
 }
 
 void xsg::RenderList::recordChildren(const SoGroup& group, std::uint32_t record)
 {
     ChildRecords children;
     for (std::uint32_t i = record + 1; i < m_records.size(); i = std::max(m_records[i].end, i + 1)) {
-        if (!m_records[i].isIsolating)
+        if (!m_records[i].isStateScope)
             children.reaching.push_back(static_cast<std::uint32_t>(children.records.size()));
         children.records.push_back(i);
     }
@@ -177,7 +177,7 @@ bool xsg::RenderList::wantsGroup(SoGroup* group)
         return wantsToPatch(group);
     m_isViewDependent = m_isViewDependent || group->isViewDependent();
     m_openRecords.push_back(static_cast<std::uint32_t>(m_records.size()));
-    record(group, group->getFieldChangeCount(), group->isIsolating());
+    record(group, group->getFieldChangeCount(), group->isStateScope());
     return true;
 }
 
@@ -187,7 +187,7 @@ bool xsg::RenderList::wantsToPatch(const SoGroup* group)
         return false;
     Record& known = m_records[m_cursor];
     const bool isSame = known.wholeCount == group->getChangeCount();
-    if (!m_reaches && isSame && group->isIsolating()) {
+    if (!m_reaches && isSame && group->isStateScope()) {
         m_cursor = known.end;
         return false;
     }
@@ -212,8 +212,8 @@ void xsg::RenderList::planPatch(const SoGroup& group, std::uint32_t since)
     if (known == m_childRecords.end() || !group.findTouched(since, m_plan))
         return;
     const ChildRecords& children = known->second;
-    const auto isIsolating = [&](std::uint32_t place) { return m_records[children.records[place]].isIsolating; };
-    if (!std::all_of(m_plan.begin(), m_plan.end(), isIsolating))
+    const auto isStateScope = [&](std::uint32_t place) { return m_records[children.records[place]].isStateScope; };
+    if (!std::all_of(m_plan.begin(), m_plan.end(), isStateScope))
         return;
     const auto middle = static_cast<std::ptrdiff_t>(m_plan.size());
     m_plan.insert(m_plan.end(), children.reaching.begin(), children.reaching.end());
@@ -225,7 +225,7 @@ void xsg::RenderList::enterGroup(SoGroup* group)
 {
     if (!m_isPatching)
         return;
-    if (group->isIsolating())
+    if (group->isStateScope())
         m_reachesBefore.push_back(m_reaches ? 1 : 0);
     m_openPatches.push_back(m_nextPatch);
     if (m_nextPatch.children)
@@ -245,7 +245,7 @@ void xsg::RenderList::leaveGroup(SoGroup* group)
     if (m_openPatches.back().children)
         m_cursor = m_records[m_openPatches.back().record].end;
     m_openPatches.pop_back();
-    if (group->isIsolating()) {
+    if (group->isStateScope()) {
         m_reaches = m_reachesBefore.back() != 0;
         m_reachesBefore.pop_back();
     }
@@ -326,7 +326,7 @@ void xsg::RenderList::patchItem(std::uint32_t index, const SoShape* shape, const
     const bool isTransparent = item.isTransparent;
     const bool isDrawn = geometry->indexCount > 0;
     fillItem(item, shape, toWorld);
-    m_geometry->giveBack(geometry);
+    m_geometry->release(geometry);
     if (item.isTransparent != isTransparent || (item.geometry->indexCount > 0) != isDrawn)
         m_needsSorting = true;
     if (item.geometry == geometry && item.surroundings == surroundings)
@@ -352,7 +352,7 @@ void xsg::RenderList::fillItem(RenderItem& item, const SoShape* shape, const SbM
     item.box = toWorld.transform(shape->getBox(state()));
     item.geometry = m_geometry->get(*shape, state());
     item.surroundings = surroundingsNow();
-    const GpuTexture* texture = m_lastSurroundings.texture;
+    const GpuTexture* texture = m_lastState.texture;
     item.isTransparent = material.transparency > 0 || (texture && texture->hasAlpha);
 }
 
@@ -372,7 +372,7 @@ void xsg::RenderList::collectItemsOf(std::uint64_t nodeId, std::vector<std::uint
 int xsg::RenderList::surroundingsNow()
 {
     const SoState& s = state();
-    Surroundings now;
+    DrawStateKey now;
     now.lights = m_lights.get(s.lights);
     now.clipPlanes = m_clipPlanes.get(s.clipPlanes);
     now.ambientLight = s.ambientLight;
@@ -383,12 +383,12 @@ int xsg::RenderList::surroundingsNow()
     }
     now.fog = s.fog;
     now.drawStyle = s.drawStyle;
-    if (m_lastSurroundingsIndex >= 0 && now == m_lastSurroundings)
+    if (m_lastSurroundingsIndex >= 0 && now == m_lastState)
         return m_lastSurroundingsIndex;
-    const auto [place, isNew] = m_surroundingsIndex.emplace(now, static_cast<int>(m_surroundings.size()));
+    const auto [place, isNew] = m_stateIndex.emplace(now, static_cast<int>(m_states.size()));
     if (isNew)
-        m_surroundings.push_back(&place->first);
-    m_lastSurroundings = now;
+        m_states.push_back(&place->first);
+    m_lastState = now;
     m_lastSurroundingsIndex = place->second;
     return place->second;
 }

@@ -3,10 +3,10 @@
 
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/values/SbBox.h>
-#include <xsg/nodes/base/ChunkBoxes.h>
+#include <xsg/nodes/base/BoundingBoxTree.h>
 #include <xsg/render/GeometryStore.h>
 #include <xsg/render/Shader.h>
-#include <xsg/render/SharedLists.h>
+#include <xsg/render/ListInterner.h>
 #include <xsg/render/TextureStore.h>
 
 #include <map>
@@ -18,7 +18,7 @@ namespace xsg
 {
 
 // What drawn things have in common; switching from one to the next is what costs.
-struct Surroundings {
+struct DrawStateKey {
     SoShared<SoLightSource> lights;
     SoShared<SbPlane> clipPlanes;
     SoShared<SbMatrix> textureMatrix;
@@ -27,8 +27,8 @@ struct Surroundings {
     int textureModel = -1;
     const SoFog* fog = nullptr;
     const SoDrawStyle* drawStyle = nullptr;
-    bool operator<(const Surroundings& other) const;
-    bool operator==(const Surroundings& other) const { return !(*this < other) && !(other < *this); }
+    bool operator<(const DrawStateKey& other) const;
+    bool operator==(const DrawStateKey& other) const { return !(*this < other) && !(other < *this); }
 };
 
 struct RenderItem {
@@ -78,9 +78,9 @@ public:
     const std::vector<std::uint32_t>& getOpaque() const { return m_opaque; }
     const std::vector<std::uint32_t>& getTransparent() const { return m_transparent; }
     const std::vector<CallbackItem>& getCallbacks() const { return m_callbacks; }
-    const Surroundings& getSurroundings(int index) const
+    const DrawStateKey& getState(int index) const
     {
-        return *m_surroundings[static_cast<std::size_t>(index)];
+        return *m_states[static_cast<std::size_t>(index)];
     }
     const SbBox3f& getBox() const { return m_box; }
     const SoCamera* getCamera() const { return m_camera; }
@@ -102,7 +102,7 @@ private:
         std::uint32_t wholeCount;  // of a group: with everything below
         std::uint32_t firstItem;   // what a shape added
         std::uint32_t end;         // of a group: the place after its last descendant
-        bool isIsolating;
+        bool isStateScope;
     };
     // Where the children of a group with many of them are recorded.
     struct ChildRecords {
@@ -119,7 +119,7 @@ private:
     bool patch(SoNode* root);
     bool follow(const SoNode* node);
     void giveUp();
-    void record(const SoNode* node, std::uint32_t changeCount, bool isIsolating = false);
+    void record(const SoNode* node, std::uint32_t changeCount, bool isStateScope = false);
     void recordChildren(const SoGroup& group, std::uint32_t record);
     void planPatch(const SoGroup& group, std::uint32_t since);
     bool wantsToPatch(const SoGroup* group);
@@ -136,11 +136,11 @@ private:
     std::vector<std::uint32_t> m_opaque;
     std::vector<std::uint32_t> m_transparent;
     std::vector<CallbackItem> m_callbacks;
-    std::map<Surroundings, int> m_surroundingsIndex;
-    std::vector<const Surroundings*> m_surroundings;
-    Surroundings m_lastSurroundings;
+    std::map<DrawStateKey, int> m_stateIndex;
+    std::vector<const DrawStateKey*> m_states;
+    DrawStateKey m_lastState;
     int m_lastSurroundingsIndex = -1;
-    ChunkBoxes m_boxes; // of the items
+    BoundingBoxTree m_boxes; // of the items
     SbBox3f m_box;
     Changes m_changes;
     const SoCamera* m_camera = nullptr;
@@ -150,9 +150,9 @@ private:
 
     // Lists that shapes have in common, so that equal ones are the same one however often the scene is
     // walked.
-    SharedLists<SoLightSource> m_lights;
-    SharedLists<SbPlane> m_clipPlanes;
-    SharedLists<SbMatrix> m_textureMatrices;
+    ListInterner<SoLightSource> m_lights;
+    ListInterner<SbPlane> m_clipPlanes;
+    ListInterner<SbMatrix> m_textureMatrices;
 
     std::vector<Record> m_records;
     std::vector<std::uint32_t> m_openRecords; // of the groups that are open

@@ -345,7 +345,7 @@ void SoRenderer::Impl::drawRun(xsg::InstanceList& instances, const xsg::Run& run
 {
     const xsg::RenderItem& first = instances.getItem(list.getItems(), run.first);
     const xsg::GpuGeometry& geometry = *first.geometry;
-    m_state.setSurroundings(list.getSurroundings(first.surroundings));
+    m_state.setState(list.getState(first.surroundings));
     m_state.setGeometry(*first.geometry);
     instances.bind(run.first);
     glDrawElementsInstanced(Primitives[static_cast<int>(geometry.kind)], geometry.indexCount, GL_UNSIGNED_INT,

@@ -44,7 +44,7 @@ xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality)
 
 void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture& to)
 {
-    SoPicture picture;
+    SoImageView picture;
     if (!node.getPicture(picture))
         return;
     GLint largest = 0;

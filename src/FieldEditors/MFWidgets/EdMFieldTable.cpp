@@ -1,7 +1,7 @@
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
-#include "ColumnShares.h"
+#include "ProportionalColumns.h"
 #include "CurrentRowHeader.h"
 #include "EdMFieldTableItemDelegate.h"
 #include "EdMFieldWidget.h"
@@ -29,7 +29,7 @@ void EdMFieldTable::initClass()
 {
     installDelegate(new EdMFieldTableItemDelegate(m_owner, this));
     setVerticalHeader(new CurrentRowHeader(this));
-    m_columns = new ColumnShares(this);
+    m_columns = new ProportionalColumns(this);
     // Always there, so that the columns do not jump when a row too many comes.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

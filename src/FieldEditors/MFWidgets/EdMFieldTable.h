@@ -6,7 +6,7 @@
 #include <QPersistentModelIndex>
 #include <QTableWidget>
 
-class ColumnShares;
+class ProportionalColumns;
 class EdMFieldTableItemDelegate;
 class EdMFieldWidget;
 
@@ -77,7 +77,7 @@ private:
 
     EdMFieldWidget* m_owner;
     EdMFieldTableItemDelegate* m_delegate = nullptr;
-    ColumnShares* m_columns = nullptr;
+    ProportionalColumns* m_columns = nullptr;
     bool m_multiSelection = false;
     // The few cells that hold an item: clearing them must not cost the table's size.
     QList<QPersistentModelIndex> m_items;

@@ -1,7 +1,7 @@
 #include "EdPopupWidget.h"
 
 #include "EdFieldEdits.h"
-#include "EdFittedFont.h"
+#include "EdFontFitting.h"
 #include "EdGridValidator.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"

@@ -2,7 +2,7 @@
 // for each.
 #pragma once
 
-#include "EdInputs.h"
+#include "EdLineEditGroup.h"
 #include "EdSFLineWidget.h"
 
 class QGridLayout;
@@ -35,7 +35,7 @@ protected:
     // The texts of the field's numbers, row by row; empty without a field of the right type.
     virtual QStringList cellTexts() const = 0;
     // Writes the field, with what was changed in the cells.
-    virtual void writeCells(const EdInputs& cells) = 0;
+    virtual void writeCells(const EdLineEditGroup& cells) = 0;
 
 private:
     void buildButton();
@@ -45,7 +45,7 @@ private:
     QPushButton* m_editButton = nullptr;
     QFrame* m_popup = nullptr;
     QGridLayout* m_popupFrameLayout = nullptr;
-    EdInputs m_cells;
+    EdLineEditGroup m_cells;
     int m_rows;
     int m_columns;
 };

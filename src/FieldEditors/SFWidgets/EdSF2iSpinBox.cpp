@@ -1,7 +1,7 @@
 #include "EdSF2iSpinBox.h"
 
 #include "EdFieldEdits.h"
-#include "EdWheelGuard.h"
+#include "EdWheelFocusFilter.h"
 
 #include <QFrame>
 #include <QKeyEvent>
@@ -53,7 +53,7 @@ QWidget* EdSF2iSpinBox::buildInput()
 {
     auto* box = new SpinBox(editionFrame());
     box->setLocale(QLocale::c());
-    EdWheelGuard::install(box);
+    EdWheelFocusFilter::install(box);
     connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &EdSF2iSpinBox::setCommandValue);
     m_boxes.append(box);
     return box;

@@ -37,7 +37,7 @@ QStringList EdSFBox3sWidget::cellTexts() const
     return texts;
 }
 
-void EdSFBox3sWidget::writeCells(const EdInputs& cells)
+void EdSFBox3sWidget::writeCells(const EdLineEditGroup& cells)
 {
     auto* field = getFieldAs<SoSFBox3s>();
     std::vector<short> n = numbersOf(field->getValue());

@@ -14,5 +14,5 @@ public:
 
 protected:
     QStringList cellTexts() const override;
-    void writeCells(const EdInputs& cells) override;
+    void writeCells(const EdLineEditGroup& cells) override;
 };

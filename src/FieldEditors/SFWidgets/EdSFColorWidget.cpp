@@ -2,7 +2,7 @@
 
 #include "EdColor.h"
 #include "EdFieldEdits.h"
-#include "EdFittedFont.h"
+#include "EdFontFitting.h"
 #include "EdText.h"
 #include "FieldEditorSettings.h"
 

@@ -2,7 +2,7 @@
 // dialog.
 #pragma once
 
-#include "EdInputs.h"
+#include "EdLineEditGroup.h"
 #include "EdSFieldWidget.h"
 
 #include <array>
@@ -37,5 +37,5 @@ private:
     std::array<QLabel*, 3> m_labels{};
     std::array<float, 3> m_components{}; // as last typed or read
     std::array<float, 3> m_shown{};      // as last read
-    EdInputs m_inputs;
+    EdLineEditGroup m_inputs;
 };

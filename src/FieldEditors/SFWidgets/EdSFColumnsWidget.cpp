@@ -1,6 +1,6 @@
 #include "EdSFColumnsWidget.h"
 
-#include "EdFittedFont.h"
+#include "EdFontFitting.h"
 #include "FieldEditorSettings.h"
 
 #include <QFrame>

@@ -2,7 +2,7 @@
 
 #include "EdFieldEdits.h"
 #include "EdText.h"
-#include "EdWheelGuard.h"
+#include "EdWheelFocusFilter.h"
 
 #include <xsg/fields/SoSFEnum.h>
 
@@ -22,7 +22,7 @@ void EdSFEnumWidget::load()
     m_comboBox = new QComboBox(editionFrame());
     m_comboBox->setObjectName(QStringLiteral("comboBox"));
     m_comboBox->setAccessibleName(tr("Value"));
-    EdWheelGuard::install(m_comboBox);
+    EdWheelFocusFilter::install(m_comboBox);
     editLayout()->addWidget(m_comboBox, 1);
     connect(m_comboBox, qOverload<int>(&QComboBox::activated), this, &EdSFEnumWidget::setCommandValue);
 }

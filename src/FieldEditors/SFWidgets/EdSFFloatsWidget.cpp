@@ -1,7 +1,7 @@
 #include "EdSFFloatsWidget.h"
 
 #include "EdFieldEdits.h"
-#include "EdFittedFont.h"
+#include "EdFontFitting.h"
 #include "EdText.h"
 #include "EdValidators.h"
 

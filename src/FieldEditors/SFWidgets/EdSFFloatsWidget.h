@@ -4,7 +4,7 @@
 //     class EdSFVec3fWidget : public EdSFVectorOf<EdSFFloatsWidget, SoSFVec3f> { ... };
 #pragma once
 
-#include "EdInputs.h"
+#include "EdLineEditGroup.h"
 #include "EdSFColumnsWidget.h"
 
 #include <vector>
@@ -32,7 +32,7 @@ protected:
 private:
     QWidget* buildInput() override;
 
-    EdInputs m_inputs;
+    EdLineEditGroup m_inputs;
 };
 
 // For a field whose value is a vector of floats.

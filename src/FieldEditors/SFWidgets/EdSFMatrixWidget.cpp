@@ -44,7 +44,7 @@ QStringList EdSFMatrixWidget::cellTexts() const
     return texts;
 }
 
-void EdSFMatrixWidget::writeCells(const EdInputs& cells)
+void EdSFMatrixWidget::writeCells(const EdLineEditGroup& cells)
 {
     auto* field = getFieldAs<SoSFMatrix>();
     std::vector<float> numbers = transposed(field->getValue().getValue());

@@ -1,9 +1,9 @@
 #include "EdSlider.h"
 
-#include "EdFittedFont.h"
+#include "EdFontFitting.h"
 #include "EdLineEdit.h"
-#include "EdWheelGuard.h"
-#include "EdWideRangeStyle.h"
+#include "EdWheelFocusFilter.h"
+#include "EdFullRangeSliderStyle.h"
 #include "SpxFieldEditors.h"
 
 #include <QCheckBox>
@@ -58,7 +58,7 @@ void EdSlider::build(SliderParentType parentType)
     setRoomFor(m_lineEdit, inTable ? "-0.000000" : "-2147483648");
     m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lineEdit->setEscapePassed(inTable);
-    EdWheelGuard::install(m_slider);
+    EdWheelFocusFilter::install(m_slider);
 
     m_layout->addWidget(m_checkBox);
     m_layout->addWidget(m_slider, 3);
@@ -138,7 +138,7 @@ void EdSlider::updateSlider()
 void EdSlider::setSliderRange(int minimum, int maximum)
 {
     if (qint64(maximum) - minimum > std::numeric_limits<int>::max())
-        EdWideRangeStyle::install(m_slider);
+        EdFullRangeSliderStyle::install(m_slider);
     const QScopedValueRollback<bool> quiet(m_notify, false);
     m_slider->setRange(minimum, maximum);
     m_slider->setValue(m_position);

@@ -15,6 +15,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -50,7 +52,7 @@ long trianglesByImporter(const QString& path)
         return 0;
     const pid_t child = fork();
     if (child == 0) {
-        scopix::limitMemoryFor(path);
+        limitMemoryFor(path);
         uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
         Assimp::Importer importer;
         const aiScene* scene = importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);
@@ -120,7 +122,7 @@ class CorpusFolder : public testing::TestWithParam<std::string>
 
 TEST_P(CorpusFolder, OpensOrIsRefused)
 {
-    const QStringList endings = scopix::modelEndings();
+    const QStringList endings = modelEndings();
     QDirIterator files(Corpus + QString::fromStdString(GetParam()), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         files.next();

@@ -12,6 +12,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using namespace scopix;
+
 // A home of its own for the profile file and the window's layout; it outlives the sessions in it.
 class CounterHome
 {
@@ -60,11 +62,11 @@ class CounterSession
 {
 public:
     CounterSession()
-        : m_host([](HostServices& services, Messages& messages) {
-            return std::make_unique<MainWindow>(services, messages);
+        : m_host([](HostServices& services, UserNotifier& notifier) {
+            return std::make_unique<MainWindow>(services, notifier);
         })
     {
-        QSignalSpy opened(&m_host.window(), &HostWindow::fileDone);
+        QSignalSpy opened(&m_host.window(), &HostWindow::openFinished);
         m_host.window().resize(1240, 820);
         m_host.start(CommandLine::parse({"scopix", SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"}));
         EXPECT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }, 60000));

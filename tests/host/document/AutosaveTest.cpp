@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QWidget>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -124,7 +126,7 @@ TEST_F(AutosaveTest, EditsThatNobodyAgreedToDropStay)
         edit(0.5F);
         ASSERT_TRUE(waitFor([&] { return !QDir(folder.filePath("other")).entryList({"*.xsg"}).isEmpty(); }));
     }
-    EXPECT_TRUE(RecoverySlot::findLost(folder.filePath("other")));
+    EXPECT_TRUE(RecoverySlot::findOrphaned(folder.filePath("other")));
     autosave.drop();
     EXPECT_FALSE(QDir(path).exists());
 }

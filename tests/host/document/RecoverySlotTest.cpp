@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -39,9 +41,9 @@ TEST_F(Slots, AreThePersonsOwn)
 
 TEST_F(Slots, WhatIsLostIsFoundWithItsOrigin)
 {
-    EXPECT_FALSE(RecoverySlot::findLost(path)) << "no folder yet";
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path)) << "no folder yet";
     crash("a.xsg");
-    const auto slot = RecoverySlot::findLost(path);
+    const auto slot = RecoverySlot::findOrphaned(path);
     ASSERT_TRUE(slot);
     EXPECT_EQ(slot->getOrigin().title, "a.xsg");
     EXPECT_EQ(slot->getOrigin().path, "/somewhere/a.xsg");
@@ -52,12 +54,12 @@ TEST_F(Slots, TheLivingAreLeftAlone)
 {
     const auto living = RecoverySlot::make(path);
     fill(*living, "mine.xsg");
-    EXPECT_FALSE(RecoverySlot::findLost(path));
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path));
     crash("theirs.xsg");
-    const auto lost = RecoverySlot::findLost(path);
+    const auto lost = RecoverySlot::findOrphaned(path);
     ASSERT_TRUE(lost);
     EXPECT_EQ(lost->getOrigin().title, "theirs.xsg");
-    EXPECT_FALSE(RecoverySlot::findLost(path)) << "who finds it has it";
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path)) << "who finds it has it";
 }
 
 TEST_F(Slots, ThoseOfAKilledProcessAreFound)
@@ -65,14 +67,14 @@ TEST_F(Slots, ThoseOfAKilledProcessAreFound)
     const pid_t child = fork();
     if (child == 0) {
         crash("killed.xsg");
-        const auto held = RecoverySlot::findLost(path);
+        const auto held = RecoverySlot::findOrphaned(path);
         kill(getpid(), SIGKILL);
     }
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     ASSERT_TRUE(WIFSIGNALED(status));
     ASSERT_FALSE(QDir(path).entryList({"*.lock"}).isEmpty()) << "the lock outlives its process";
-    const auto slot = RecoverySlot::findLost(path);
+    const auto slot = RecoverySlot::findOrphaned(path);
     ASSERT_TRUE(slot);
     EXPECT_EQ(slot->getOrigin().title, "killed.xsg");
 }
@@ -92,12 +94,12 @@ TEST_F(Slots, TheNewestComesFirst)
         scene.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime);
     }
     for (const char* title : {"new.xsg", "old.xsg", "older.xsg"}) {
-        const auto slot = RecoverySlot::findLost(path);
+        const auto slot = RecoverySlot::findOrphaned(path);
         ASSERT_TRUE(slot);
         EXPECT_EQ(slot->getOrigin().title, title);
         slot->remove();
     }
-    EXPECT_FALSE(RecoverySlot::findLost(path));
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path));
 }
 
 TEST_F(Slots, NothingIsLeftWhereOneIsRemoved)
@@ -125,7 +127,7 @@ TEST_F(Slots, RemovingOneLeavesTheOthers)
 TEST_F(Slots, ACrashBeforeTheFirstWritingLeavesNothingToAskAbout)
 {
     RecoverySlot::make(path)->setOrigin({"/a.xsg", "a.xsg"});
-    EXPECT_FALSE(RecoverySlot::findLost(path));
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path));
     EXPECT_FALSE(QDir(path).exists());
 }
 
@@ -134,7 +136,7 @@ TEST_F(Slots, AFolderThatCannotBeMadeGivesNone)
     QFile inTheWay(path);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     EXPECT_FALSE(RecoverySlot::make(path));
-    EXPECT_FALSE(RecoverySlot::findLost(path));
+    EXPECT_FALSE(RecoverySlot::findOrphaned(path));
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 
 #include <xsg/files/SoSceneFile.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -57,7 +59,7 @@ TEST_F(Snapshot, CanBeGivenUp)
         large->addChild(new SoMaterial);
     for (int i = 0; i < 5; ++i) {
         writer.write(large.get(), path);
-        writer.abandon();
+        writer.cancel();
         EXPECT_FALSE(writer.isBusy());
     }
     pump();

@@ -2,7 +2,7 @@
 // documentation come from here: SCOPIX_PICTURES names the folder that they go to.
 #include <support/Session.h>
 
-#include "theme/Colors.h"
+#include "theme/Theme.h"
 #include "window/MainWindow.h"
 
 #include <xsg/errors/SoDebugError.h>
@@ -16,6 +16,8 @@
 
 #include <iostream>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -23,16 +25,16 @@ class ConsoleWindow : public ::testing::TestWithParam<const char*>
 {
 protected:
     ConsoleWindow()
-        : m_session([](HostServices& services, Messages& messages) {
-            return std::make_unique<MainWindow>(services, messages);
+        : m_session([](HostServices& services, UserNotifier& notifier) {
+            return std::make_unique<MainWindow>(services, notifier);
         })
     {
-        scopix::applyTheme(scopix::themeFromName(GetParam()));
+        applyTheme(themeFromName(GetParam()));
         m_session.host.plugins().readProfiles();
         window().resize(1280, 700);
         Session::settle();
     }
-    ~ConsoleWindow() override { scopix::applyTheme(scopix::Theme::System); }
+    ~ConsoleWindow() override { applyTheme(Theme::System); }
 
     QMainWindow& window() { return m_session.host.window(); }
     QTextEdit* output() { return window().findChild<QTextEdit*>("m_consoleOutput"); }

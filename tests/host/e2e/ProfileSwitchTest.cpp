@@ -165,7 +165,7 @@ TEST_F(ProfileSwitch, AThousandTimesWithEditorsOpenLeavesNothingBehind)
     EXPECT_EQ(docksOf["Default"].size(), docksOf["Edit"].size() + docksOf["Measure"].size());
     EXPECT_EQ(changes(), before);
     EXPECT_EQ(m_session.stack().count(), 0);
-    EXPECT_EQ(m_session.host.messages().errorCount(), 0);
+    EXPECT_EQ(m_session.host.notifier().errorCount(), 0);
 }
 
 TEST_F(ProfileSwitch, ThePlugInComesAndGoesWithAnEditorOpen)

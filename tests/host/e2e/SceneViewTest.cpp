@@ -11,6 +11,8 @@
 
 #include <QFile>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -32,7 +34,7 @@ protected:
 
     bool open(const QString& path)
     {
-        QSignalSpy done(&window(), &HostWindow::fileDone);
+        QSignalSpy done(&window(), &HostWindow::openFinished);
         window().openFile(path);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !done.isEmpty(); }, 60000));
         Session::settle();
@@ -64,8 +66,8 @@ protected:
     }
 
     QTemporaryDir folder;
-    Session session{[](HostServices& services, Messages& messages) {
-        return std::make_unique<MainWindow>(services, messages);
+    Session session{[](HostServices& services, UserNotifier& notifier) {
+        return std::make_unique<MainWindow>(services, notifier);
     }};
 };
 

@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -15,7 +17,7 @@ class BadModel : public testing::Test
 protected:
     void expectRefusal(const QString& path, const char* reason)
     {
-        const scopix::ReadModel model = scopix::readModel(path);
+        const ModelReadResult model = readModel(path);
         EXPECT_TRUE(model.error.contains(path)) << qPrintable(model.error);
         EXPECT_TRUE(model.error.contains(QLatin1String(reason))) << qPrintable(model.error);
         EXPECT_EQ(model.error.count(QLatin1Char('\n')), 0) << qPrintable(model.error);
@@ -105,7 +107,7 @@ TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
         const QByteArray whole = contentOf(shippedModel(name));
         for (int part = 0; part < 10; ++part) {
             const QString path = files.write(name, whole.left(whole.size() * part / 10 + 20));
-            const scopix::ReadModel model = scopix::readModel(path);
+            const ModelReadResult model = readModel(path);
             EXPECT_NE(model.error.isEmpty(), model.data.nodes.empty());
         }
     }

@@ -3,7 +3,7 @@
 
 #include "import/ModelFormats.h"
 #include "import/SceneBuilder.h"
-#include "reader/CNumbers.h"
+#include "reader/ScopedCLocale.h"
 #include "reader/ModelReader.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
@@ -12,6 +12,8 @@
 #include <assimp/Importer.hpp>
 #include <assimp/postprocess.h>
 #include <assimp/scene.h>
+
+using namespace scopix;
 
 namespace
 {
@@ -44,7 +46,7 @@ protected:
         Assimp::Importer importer;
         const aiScene* scene = importer.ReadFile(shippedModel(model).toStdString(), aiProcess_Triangulate);
         dropNotes(*scene->mRootNode);
-        const CNumbers numbers;
+        const ScopedCLocale numbers;
         Assimp::Exporter exporter;
         const QString path = files.path(GetParam().file);
         exporter.Export(scene, GetParam().exporter, path.toStdString());
@@ -55,10 +57,10 @@ protected:
 
 TEST_P(Formats, ReadTheSameModel)
 {
-    const scopix::ReadModel model = scopix::readModel(exported("lighthouse.glb"));
+    const ModelReadResult model = readModel(exported("lighthouse.glb"));
     ASSERT_TRUE(model.error.isEmpty()) << qPrintable(model.error);
-    const auto scene = scopix::buildScene(model.data, "lighthouse");
-    const auto original = scopix::buildScene(scopix::readModel(shippedModel("lighthouse.glb")).data, "lighthouse");
+    const auto scene = buildScene(model.data, "lighthouse");
+    const auto original = buildScene(readModel(shippedModel("lighthouse.glb")).data, "lighthouse");
     SbVec3f size = SoBoundingBoxAction().getBox(scene.get()).getSize();
     const SbVec3f expected = SoBoundingBoxAction().getBox(original.get()).getSize();
     if (QLatin1String(GetParam().exporter) == QLatin1String("fbxa"))
@@ -71,7 +73,7 @@ TEST_P(Formats, KeepNamesOfNodes)
 {
     if (!GetParam().keepsNodes)
         return;
-    const scopix::ReadModel model = scopix::readModel(exported("lighthouse.glb"));
+    const ModelReadResult model = readModel(exported("lighthouse.glb"));
     const auto is = [](const ModelData::Node& node) { return node.name == "Lantern"; };
     EXPECT_TRUE(std::any_of(model.data.nodes.begin(), model.data.nodes.end(), is));
 }
@@ -85,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(All, Formats,
 TEST(ModelFormats, AreKnownToTheImporter)
 {
     const Assimp::Importer importer;
-    for (const QString& ending : scopix::modelEndings())
+    for (const QString& ending : modelEndings())
         EXPECT_TRUE(importer.IsExtensionSupported('.' + ending.toStdString())) << qPrintable(ending);
 }
 
@@ -95,9 +97,9 @@ class ShippedModels : public testing::TestWithParam<const char*>
 
 TEST_P(ShippedModels, Open)
 {
-    const scopix::ReadModel model = scopix::readModel(shippedModel(GetParam()));
+    const ModelReadResult model = readModel(shippedModel(GetParam()));
     ASSERT_TRUE(model.error.isEmpty()) << qPrintable(model.error);
-    const auto scene = scopix::buildScene(model.data, "model");
+    const auto scene = buildScene(model.data, "model");
     EXPECT_FALSE(SoBoundingBoxAction().getBox(scene.get()).isEmpty());
 }
 

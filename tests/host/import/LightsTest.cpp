@@ -18,6 +18,8 @@
 
 #include <cmath>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -58,10 +60,10 @@ protected:
             model[key] = more[key];
         for (const char* beside : {"crate.bin", "crate.png"})
             files.write(beside, contentOf(shippedModel(beside)));
-        const scopix::ReadModel read =
-            scopix::readModel(files.write("lit.gltf", QJsonDocument(model).toJson()));
+        const ModelReadResult read =
+            readModel(files.write("lit.gltf", QJsonDocument(model).toJson()));
         EXPECT_EQ(read.error, "");
-        return scopix::buildScene(read.data, "lit");
+        return buildScene(read.data, "lit");
     }
     SoRef<SoSeparator> openLight(const QByteArray& light)
     {
@@ -143,11 +145,11 @@ TEST_F(Lights, ACameraIsLookedThroughOnceChosenAndStandsWhereItsNodeDoes)
 {
     const auto scene = open(R"({"cameras":[{"type":"perspective","perspective":{"yfov":0.8,"znear":0.5}}]})",
                             R"({"camera":0})");
-    EXPECT_FALSE(scopix::findSceneCamera(scene.get()).camera);
+    EXPECT_FALSE(findSceneCamera(scene.get()).camera);
     auto* choice = find<SoSwitch>(scene.get());
     ASSERT_TRUE(choice);
     choice->whichChild.setValue(0);
-    const scopix::SceneCamera seen = scopix::findSceneCamera(scene.get());
+    const SceneCamera seen = findSceneCamera(scene.get());
     ASSERT_TRUE(seen.camera);
     EXPECT_EQ(seen.toWorld.multPoint(seen.camera->position.getValue()), SbVec3f(2, 4, 6));
 }
@@ -163,8 +165,8 @@ TEST(SceneCameras, StandUpright)
     eye->mPosition = {1, 2, 3};
     eye->mLookAt = {0, 5, 0};
     eye->mUp = {2, 0, 0};
-    ModelData model = scopix::fromAssimp(scene, {});
-    const auto built = scopix::buildScene(model, "eye");
+    ModelData model = fromAssimp(scene, {});
+    const auto built = buildScene(model, "eye");
     auto* camera = find<SoPerspectiveCamera>(built.get());
     ASSERT_TRUE(camera);
     EXPECT_EQ(camera->position.getValue(), SbVec3f(1, 2, 3));
@@ -182,7 +184,7 @@ TEST(SceneLights, EveryKindHasItsNode)
     model.lights[0].kind = ModelData::LightKind::Ambient;
     model.lights[0].color = {0.5F, 1, 0};
     model.lights[0].intensity = 0.25F;
-    const auto scene = scopix::buildScene(model, "ambient");
+    const auto scene = buildScene(model, "ambient");
     auto* light = find<SoAmbientLight>(scene.get());
     ASSERT_TRUE(light);
     EXPECT_EQ(light->color.getValue(), SbVec3f(0.5F, 1, 0));

@@ -4,29 +4,31 @@
 #include "import/ModelFile.h"
 #include "reader/ModelReader.h"
 
+using namespace scopix;
+
 namespace
 {
 
-QByteArray written(const scopix::ReadModel& model)
+QByteArray written(const ModelReadResult& model)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(scopix::writeModelFile(model, buffer));
+    EXPECT_TRUE(writeModelFile(model, buffer));
     return buffer.data();
 }
 
-bool read(const QByteArray& bytes, scopix::ReadModel& model)
+bool read(const QByteArray& bytes, ModelReadResult& model)
 {
     model = {};
-    return scopix::readModelFile(bytes.constData(), static_cast<std::size_t>(bytes.size()), model);
+    return readModelFile(bytes.constData(), static_cast<std::size_t>(bytes.size()), model);
 }
 
 TEST(ModelFile, BringsEveryBitOver)
 {
     for (const char* name : {"lighthouse.glb", "crate.gltf", "rainbow.ply"}) {
-        const scopix::ReadModel model = scopix::readModel(shippedModel(name));
+        const ModelReadResult model = readModel(shippedModel(name));
         const QByteArray bytes = written(model);
-        scopix::ReadModel again;
+        ModelReadResult again;
         ASSERT_TRUE(read(bytes, again));
         EXPECT_EQ(written(again), bytes);
         EXPECT_EQ(again.data.meshes.size(), model.data.meshes.size());
@@ -38,17 +40,17 @@ TEST(ModelFile, BringsEveryBitOver)
 
 TEST(ModelFile, BringsAnErrorOver)
 {
-    scopix::ReadModel model;
+    ModelReadResult model;
     model.error = QStringLiteral("“ä” cannot be opened: ….");
-    scopix::ReadModel again;
+    ModelReadResult again;
     ASSERT_TRUE(read(written(model), again));
     EXPECT_EQ(again.error, model.error);
 }
 
 TEST(ModelFile, ACutOneIsRefused)
 {
-    const QByteArray bytes = written(scopix::readModel(shippedModel("crate.gltf")));
-    scopix::ReadModel model;
+    const QByteArray bytes = written(readModel(shippedModel("crate.gltf")));
+    ModelReadResult model;
     for (int size = 0; size < bytes.size(); size += size < 400 ? 1 : 97)
         EXPECT_FALSE(read(bytes.left(size), model)) << size;
     EXPECT_FALSE(read(bytes + 'x', model));
@@ -58,19 +60,19 @@ TEST(ModelFile, AWrongCountAsksForNoMemory)
 {
     QByteArray bytes = written({});
     bytes.replace(4, 8, QByteArray(8, '\x7f'));
-    scopix::ReadModel model;
+    ModelReadResult model;
     EXPECT_FALSE(read(bytes, model));
 }
 
 TEST(ModelFile, ReferencesToNothingAreRefused)
 {
     const auto isRefused = [](auto spoil) {
-        scopix::ReadModel model;
+        ModelReadResult model;
         model.data.nodes.resize(2);
         model.data.nodes[0].children = {1};
         model.data.meshes.resize(1);
         model.data.materials.resize(1);
-        scopix::ReadModel again;
+        ModelReadResult again;
         EXPECT_TRUE(read(written(model), again));
         spoil(model.data);
         return !read(written(model), again);

@@ -5,6 +5,8 @@
 
 #include <csignal>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -120,7 +122,7 @@ TEST(BadModels, GarbageInEveryFormatIsRefused)
     for (int i = 0; i < 3000; ++i)
         garbage += static_cast<char>((i * 7919) >> 3);
     QWidget window;
-    for (const QString& ending : scopix::modelEndings()) {
+    for (const QString& ending : modelEndings()) {
         const QString path = files.write(qPrintable("garbage." + ending), garbage);
         ModelImport import(&window);
         QString error;

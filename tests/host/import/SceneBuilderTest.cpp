@@ -1,6 +1,6 @@
 #include "ModelFiles.h"
 
-#include "import/Placement.h"
+#include "import/TransformBuilder.h"
 #include "import/SceneBuilder.h"
 #include "reader/ModelReader.h"
 
@@ -12,12 +12,14 @@
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+using namespace scopix;
+
 namespace
 {
 
 SoRef<SoSeparator> open(const char* name)
 {
-    return scopix::buildScene(scopix::readModel(shippedModel(name)).data, name);
+    return buildScene(readModel(shippedModel(name)).data, name);
 }
 
 template <class Node>
@@ -134,9 +136,9 @@ TEST(SceneBuilder, AMissingTextureLeavesTheModel)
     const ModelFiles files;
     for (const char* name : {"crate.obj", "crate.mtl"})
         files.write(name, contentOf(shippedModel(name)));
-    const scopix::ReadModel model = scopix::readModel(files.path("crate.obj"));
+    const ModelReadResult model = readModel(files.path("crate.obj"));
     ASSERT_TRUE(model.error.isEmpty());
-    const auto scene = scopix::buildScene(model.data, "crate");
+    const auto scene = buildScene(model.data, "crate");
     EXPECT_FALSE(find<SoTexture2>(scene.get()));
     EXPECT_TRUE(find<SoIndexedTriangleSet>(scene.get()));
 }
@@ -150,13 +152,13 @@ TEST(SceneBuilder, ColoursAtCornersBecomeColoursPerVertex)
     EXPECT_GT(find<SoMaterial>(scene.get())->diffuseColor.getNum(), 100);
 }
 
-TEST(Placement, MovesTurnsAndStretchesCanBeTunedOneByOne)
+TEST(TransformBuilder, MovesTurnsAndStretchesCanBeTunedOneByOne)
 {
     SoRef<SoTransform> wanted(new SoTransform);
     wanted->translation.setValue(1, 2, 3);
     wanted->rotation.setValue(SbRotation({0.3F, -0.5F, 0.8F}, 2.9F));
     wanted->scaleFactor.setValue(2, 0.5F, -3);
-    const SoRef<SoNode> made(scopix::makePlacement(wanted->getMatrix()));
+    const SoRef<SoNode> made(makePlacement(wanted->getMatrix()));
     auto* transform = dynamic_cast<SoTransform*>(made.get());
     ASSERT_TRUE(transform);
     EXPECT_EQ(transform->translation.getValue(), SbVec3f(1, 2, 3));
@@ -164,11 +166,11 @@ TEST(Placement, MovesTurnsAndStretchesCanBeTunedOneByOne)
         EXPECT_NEAR(transform->getMatrix().getValue()[i], wanted->getMatrix().getValue()[i], 1e-5F);
 }
 
-TEST(Placement, EveryHalfTurnIsFound)
+TEST(TransformBuilder, EveryHalfTurnIsFound)
 {
     for (const SbVec3f& axis : {SbVec3f(1, 0, 0), SbVec3f(0, 1, 0), SbVec3f(0, 0, 1)}) {
         const SbMatrix matrix = SbMatrix::rotation(SbRotation(axis, 3.14159265F));
-        const SoRef<SoNode> made(scopix::makePlacement(matrix));
+        const SoRef<SoNode> made(makePlacement(matrix));
         auto* transform = dynamic_cast<SoTransform*>(made.get());
         ASSERT_TRUE(transform);
         for (int i = 0; i < 16; ++i)
@@ -176,17 +178,17 @@ TEST(Placement, EveryHalfTurnIsFound)
     }
 }
 
-TEST(Placement, AShearedMatrixStaysAMatrix)
+TEST(TransformBuilder, AShearedMatrixStaysAMatrix)
 {
     SbMatrix sheared;
     sheared[0][1] = 0.7F;
-    const SoRef<SoNode> made(scopix::makePlacement(sheared));
+    const SoRef<SoNode> made(makePlacement(sheared));
     auto* transform = dynamic_cast<SoMatrixTransform*>(made.get());
     ASSERT_TRUE(transform);
     EXPECT_EQ(transform->matrix.getValue(), sheared);
     SbMatrix collapsed;
     collapsed[1][1] = 0;
-    const SoRef<SoNode> flat(scopix::makePlacement(collapsed));
+    const SoRef<SoNode> flat(makePlacement(collapsed));
     EXPECT_TRUE(dynamic_cast<SoMatrixTransform*>(flat.get()));
 }
 

@@ -10,14 +10,16 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using namespace scopix;
+
 namespace
 {
 
 class TestWindow : public HostWindow
 {
 public:
-    explicit TestWindow(Messages& messages)
-        : m_messages(messages)
+    explicit TestWindow(UserNotifier& notifier)
+        : m_messages(notifier)
     {
     }
     QMenu* viewMenu() override { return &m_view; }
@@ -28,7 +30,7 @@ public:
         const bool good = path.startsWith("good");
         if (!good)
             m_messages.error("There is no file \"" + path + "\".");
-        emit fileDone(good);
+        emit openFinished(good);
     }
     bool selectField(const QString& node, const QString& field) override
     {
@@ -40,9 +42,9 @@ public:
         m_acts += "screenshot " + path;
         return true;
     }
-    void beginSession() override { m_acts += "session"; }
+    void enterInteractiveMode() override { m_acts += "session"; }
 
-    Messages& m_messages;
+    UserNotifier& m_messages;
     QMenu m_view;
     QMenu m_profiles;
     QStringList m_acts;
@@ -57,8 +59,8 @@ protected:
         qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
         takePluginLog();
         ::testing::internal::CaptureStderr();
-        m_host = std::make_unique<HostApplication>([this](HostServices&, Messages& messages) {
-            auto window = std::make_unique<TestWindow>(messages);
+        m_host = std::make_unique<HostApplication>([this](HostServices&, UserNotifier& notifier) {
+            auto window = std::make_unique<TestWindow>(notifier);
             m_window = window.get();
             return window;
         });
@@ -102,7 +104,7 @@ TEST_F(ApplicationTest, ABadPluginOrProfileMakesTheExitStatusOne)
 TEST_F(ApplicationTest, AnUnknownProfileIsTold)
 {
     EXPECT_EQ(run({"--profile", "No such", "--quit"}), 1);
-    EXPECT_EQ(m_host->messages().errorCount(), 1);
+    EXPECT_EQ(m_host->notifier().errorCount(), 1);
 }
 
 TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
@@ -114,7 +116,7 @@ TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
     file.write("{");
     file.close();
     m_host = std::make_unique<HostApplication>(
-        [](HostServices&, Messages& messages) { return std::make_unique<TestWindow>(messages); });
+        [](HostServices&, UserNotifier& notifier) { return std::make_unique<TestWindow>(notifier); });
     EXPECT_EQ(run({"--quit"}), 1);
 }
 
@@ -157,7 +159,7 @@ TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
     run({"--plugin", testPlugin("Other")});
     m_host.reset();
     m_host = std::make_unique<HostApplication>(
-        [](HostServices&, Messages& messages) { return std::make_unique<TestWindow>(messages); });
+        [](HostServices&, UserNotifier& notifier) { return std::make_unique<TestWindow>(notifier); });
     QTimer::singleShot(0, m_host.get(), [] { QCoreApplication::quit(); });
     run({"--plugin", testPlugin("Other")});
     SpxExtension* third = m_host->shell().extensions().last();

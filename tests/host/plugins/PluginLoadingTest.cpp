@@ -1,6 +1,6 @@
 #include "PluginParts.h"
 
-#include "plugins/PluginFolders.h"
+#include "plugins/PluginSearchPath.h"
 
 #include <scopix/SpxCommand.h>
 #include <scopix/SpxExtension.h>
@@ -13,6 +13,8 @@
 
 #include <fstream>
 #include <string>
+
+using namespace scopix;
 
 namespace
 {
@@ -175,10 +177,10 @@ TEST(PluginFoldersTest, FindsThePluginBesideTheProgramAndInTheUsersFolder)
 {
     QTemporaryDir home;
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    ASSERT_TRUE(QDir().mkpath(PluginFolders::ofUser()));
-    const QString mine = PluginFolders::ofUser() + "/mine.so";
+    ASSERT_TRUE(QDir().mkpath(PluginSearchPath::ofUser()));
+    const QString mine = PluginSearchPath::ofUser() + "/mine.so";
     ASSERT_TRUE(QFile::copy(testPlugin("Good"), mine));
-    const QStringList found = PluginFolders::findAll();
+    const QStringList found = PluginSearchPath::findAll();
     EXPECT_TRUE(found.contains(QDir::cleanPath(SCOPIX_PLUGIN))) << found.join(' ').toStdString();
     EXPECT_EQ(found.last(), mine);
     for (const QString& path : found)

@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+using namespace scopix;
+
 inline QString testPlugin(const char* variant)
 {
     return QStringLiteral(TEST_PLUGINS "TestPlugin") + QLatin1String(variant) + QStringLiteral(".so");

@@ -8,6 +8,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using namespace scopix;
+
 namespace
 {
 

@@ -1,6 +1,6 @@
 #include "PluginParts.h"
 
-#include "shell/ViewMenu.h"
+#include "shell/ToolsMenu.h"
 
 #include <scopix/SpxEditor.h>
 
@@ -8,6 +8,8 @@
 
 #include <QtTest>
 #include <QtWidgets>
+
+using namespace scopix;
 
 namespace
 {
@@ -230,7 +232,7 @@ TEST_F(ShellTest, TheViewMenuShowsAndHidesExtensionsButEditors)
 {
     QMenu menu;
     QAction* before = menu.addAction("Something else");
-    new ViewMenu(m_shell, menu);
+    new ToolsMenu(m_shell, menu);
     PanelEditor editor;
     m_shell.attachExtension(&editor, true);
     m_one.start(m_shell);

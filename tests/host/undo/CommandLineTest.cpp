@@ -5,6 +5,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using namespace scopix;
+
 namespace
 {
 

@@ -18,6 +18,8 @@
 #include <string>
 #include <vector>
 
+using namespace scopix;
+
 using Log = std::vector<std::string>;
 
 class LoggingCommand : public SpxCommand

@@ -8,6 +8,8 @@
 #include <xsg/sensors/SoIdleSensor.h>
 #include <xsg/sensors/SoTimerSensor.h>
 
+using namespace scopix;
+
 namespace
 {
 

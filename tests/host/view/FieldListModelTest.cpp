@@ -7,6 +7,8 @@
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -110,14 +112,14 @@ TEST(ValueText, ShortensLongListsWithoutReadingThemThrough)
 {
     SoRef<SoPoints> points(new SoPoints);
     points->points.setValues(std::vector<SbVec3f>(1000000));
-    const QString text = scopix::valueText(points->points);
+    const QString text = valueText(points->points);
     EXPECT_TRUE(text.startsWith("1000000 × [0 0 0, 0 0 0")) << qPrintable(text);
     EXPECT_TRUE(text.endsWith(QChar(0x2026)));
     EXPECT_LE(text.size(), 160);
     points->points.setValues(std::vector<SbVec3f>{});
-    EXPECT_EQ(scopix::valueText(points->points), "empty");
+    EXPECT_EQ(valueText(points->points), "empty");
     points->points.setValue({1, 2, 3});
-    EXPECT_EQ(scopix::valueText(points->points), "1 2 3");
+    EXPECT_EQ(valueText(points->points), "1 2 3");
 }
 
 // A list that counts the values it turns into text.
@@ -138,7 +140,7 @@ TEST(ValueText, AsksAListOnlyForWhatIsShown)
 {
     CountingList list;
     list.setValues(std::vector<float>(100000, 1.0F));
-    scopix::valueText(list);
+    valueText(list);
     EXPECT_GT(list.written, 0);
     EXPECT_LT(list.written, 200);
 }
@@ -147,19 +149,19 @@ TEST(ValueText, CutsTextsBetweenCharacters)
 {
     SoSFString field;
     field.setValue(SbString(QString(300, QChar(0x20ac)).toUtf8().constData()));
-    const QString text = scopix::valueText(field, 10);
+    const QString text = valueText(field, 10);
     EXPECT_EQ(text, QString(9, QChar(0x20ac)) + QChar(0x2026));
     field.setValue("two\nlines");
-    EXPECT_EQ(scopix::valueText(field), QStringLiteral("two⏎lines"));
+    EXPECT_EQ(valueText(field), QStringLiteral("two⏎lines"));
 }
 
 TEST(ValueText, ShowsAPicturesSizes)
 {
     SoRef<SoTexture2> texture(new SoTexture2);
-    EXPECT_EQ(scopix::valueText(texture->image), "no picture");
+    EXPECT_EQ(valueText(texture->image), "no picture");
     const std::vector<unsigned char> bytes(2 * 3 * 4);
     texture->image.setValue(2, 3, 4, bytes.data());
-    EXPECT_EQ(scopix::valueText(texture->image), QStringLiteral("2 × 3, RGBA"));
+    EXPECT_EQ(valueText(texture->image), QStringLiteral("2 × 3, RGBA"));
 }
 
 // Counts the values that a view asks for.

@@ -6,6 +6,8 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
+using namespace scopix;
+
 namespace
 {
 

@@ -1,5 +1,5 @@
 #include "services/HostServices.h"
-#include "support/Messages.h"
+#include "support/UserNotifier.h"
 #include "panels/FieldListModel.h"
 #include "panels/FieldListView.h"
 #include "window/MainWindow.h"
@@ -14,6 +14,8 @@
 
 #include <scopix/SpxCommand.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -27,9 +29,9 @@ class Window : public testing::Test
 protected:
     Window()
     {
-        messages.setAttended(false);
-        QObject::connect(&messages, &Messages::told, [this](const QString& text) { told << text; });
-        QObject::connect(&window, &HostWindow::fileDone, [this](bool opened) { done << opened; });
+        notifier.setAttended(false);
+        QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
+        QObject::connect(&window, &HostWindow::openFinished, [this](bool opened) { done << opened; });
         window.show();
     }
     bool open(const QString& path)
@@ -49,9 +51,9 @@ protected:
         return nullptr;
     }
     QTemporaryDir folder;
-    Messages messages;
+    UserNotifier notifier;
     HostServices services;
-    MainWindow window{services, messages};
+    MainWindow window{services, notifier};
     QStringList told;
     QList<bool> done;
 };
@@ -118,7 +120,7 @@ TEST_F(Window, SaysWhatCannotBeSelected)
     EXPECT_TRUE(told.value(0).contains("Nobody")) << qPrintable(told.join('|'));
     EXPECT_FALSE(window.selectField("Glass", "colour"));
     EXPECT_TRUE(told.value(1).contains("colour") && told.value(1).contains("Glass"));
-    EXPECT_EQ(messages.errorCount(), 2);
+    EXPECT_EQ(notifier.errorCount(), 2);
 }
 
 TEST_F(Window, WhatCannotBeOpenedLeavesWhatWasOpen)
@@ -139,7 +141,7 @@ TEST_F(Window, WhatCannotBeOpenedLeavesWhatWasOpen)
     }
     EXPECT_EQ(window.getScene(), scene);
     EXPECT_STREQ(services.selectedField()->getName().getString(), "transparency");
-    EXPECT_EQ(messages.errorCount(), 3);
+    EXPECT_EQ(notifier.errorCount(), 3);
 }
 
 TEST_F(Window, ASecondFileTakesTheFirstOnesPlace)
@@ -294,18 +296,18 @@ TEST_F(Window, TheSceneMayChangeUnderTheSelection)
 
 TEST(Themes, AreReadableBoth)
 {
-    for (const scopix::Theme theme : {scopix::Theme::Dark, scopix::Theme::Light}) {
-        scopix::applyTheme(theme);
+    for (const Theme theme : {Theme::Dark, Theme::Light}) {
+        applyTheme(theme);
         const QPalette p = QApplication::palette();
-        EXPECT_EQ(scopix::isDark(p), theme == scopix::Theme::Dark);
+        EXPECT_EQ(isDark(p), theme == Theme::Dark);
         for (const auto& [ground, text] :
              {std::make_pair(QPalette::Window, QPalette::WindowText), std::make_pair(QPalette::Base, QPalette::Text),
               std::make_pair(QPalette::Button, QPalette::ButtonText),
               std::make_pair(QPalette::Highlight, QPalette::HighlightedText)})
             EXPECT_GT(std::abs(p.color(ground).lightness() - p.color(text).lightness()), 90);
     }
-    EXPECT_EQ(scopix::themeFromName("dark"), scopix::Theme::Dark);
-    EXPECT_EQ(scopix::themeFromName("nonsense"), scopix::Theme::System);
+    EXPECT_EQ(themeFromName("dark"), Theme::Dark);
+    EXPECT_EQ(themeFromName("nonsense"), Theme::System);
 }
 
 } // namespace

@@ -14,6 +14,8 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
+using namespace scopix;
+
 namespace
 {
 

@@ -1,6 +1,6 @@
 // What a person does with files, in the window.
 #include "services/HostServices.h"
-#include "support/Messages.h"
+#include "support/UserNotifier.h"
 #include "support/SetText.h"
 #include "window/MainWindow.h"
 #include "viewport/SceneView.h"
@@ -9,6 +9,8 @@
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
+
+using namespace scopix;
 
 namespace
 {
@@ -65,8 +67,8 @@ auto answer(const QString& button)
 struct Program {
     Program()
     {
-        QObject::connect(&messages, &Messages::told, [this](const QString& text) { told << text; });
-        QObject::connect(&window, &HostWindow::fileDone, [this](bool good) { done << good; });
+        QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
+        QObject::connect(&window, &HostWindow::openFinished, [this](bool good) { done << good; });
         window.getFiles().getAutosave().setPause(20);
         window.show();
     }
@@ -106,9 +108,9 @@ struct Program {
         return nullptr;
     }
 
-    Messages messages;
+    UserNotifier notifier;
     HostServices services;
-    MainWindow window{services, messages};
+    MainWindow window{services, notifier};
     QStringList told;
     QList<bool> done;
 };
@@ -248,7 +250,7 @@ TEST_F(Files, NobodyIsAskedWithoutEditsOrWithoutAPerson)
     program->action("New")->trigger();
     openScene();
     program->edit("Planks", "transparency", "0.5");
-    program->messages.setAttended(false);
+    program->notifier.setAttended(false);
     EXPECT_TRUE(program->window.close());
     QCoreApplication::processEvents();
     EXPECT_FALSE(none.hasCome()) << qPrintable(none.text());
@@ -352,7 +354,7 @@ TEST_F(Files, ARecentFileThatIsGoneIsNamedAndTakenOut)
 
 TEST_F(Files, WithoutAPersonNothingIsRemembered)
 {
-    program->messages.setAttended(false);
+    program->notifier.setAttended(false);
     openScene();
     EXPECT_TRUE(program->window.getFiles().getRecent().list().isEmpty());
 }
@@ -360,7 +362,7 @@ TEST_F(Files, WithoutAPersonNothingIsRemembered)
 TEST_F(Files, ACrashLosesNothing)
 {
     const QString path = openScene();
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     program->edit("Planks", "transparency", "0.5");
     ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
     program.reset(); // nobody agreed to drop the edits
@@ -368,7 +370,7 @@ TEST_F(Files, ACrashLosesNothing)
 
     program = std::make_unique<Program>();
     WithDialog box(answer("Recover"));
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     EXPECT_TRUE(box.hasCome());
     EXPECT_TRUE(box.text().contains("scene.xsg")) << qPrintable(box.text());
     EXPECT_EQ(program->value("Planks", "transparency"), "0.5");
@@ -387,33 +389,33 @@ TEST_F(Files, ACrashLosesNothing)
 TEST_F(Files, WhatIsDiscardedAfterACrashIsNotOfferedAgain)
 {
     openScene();
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     program->edit("Planks", "transparency", "0.5");
     ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
     program.reset();
     program = std::make_unique<Program>();
     {
         WithDialog box(answer("Discard"));
-        program->window.beginSession();
+        program->window.enterInteractiveMode();
         EXPECT_TRUE(box.hasCome());
     }
     EXPECT_FALSE(program->window.isWindowModified());
     EXPECT_FALSE(QFileInfo::exists(home.filePath("scopix/recovery")));
     program = std::make_unique<Program>();
     WithDialog none([](QDialog& dialog) { dialog.reject(); });
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     EXPECT_FALSE(none.hasCome());
 }
 
 TEST_F(Files, WhatALivingSessionKeepsIsItsOwn)
 {
     openScene();
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     program->edit("Planks", "transparency", "0.5");
     ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
     Program second;
     WithDialog none([](QDialog& dialog) { dialog.reject(); });
-    second.window.beginSession();
+    second.window.enterInteractiveMode();
     EXPECT_FALSE(none.hasCome());
     EXPECT_TRUE(second.window.close());
     EXPECT_EQ(kept().size(), 1);
@@ -422,7 +424,7 @@ TEST_F(Files, WhatALivingSessionKeepsIsItsOwn)
 TEST_F(Files, ACleanEndLeavesNothing)
 {
     openScene();
-    program->window.beginSession();
+    program->window.enterInteractiveMode();
     program->edit("Planks", "transparency", "0.5");
     ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
     WithDialog box(answer("Discard"));

@@ -5,6 +5,8 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
+using namespace scopix;
+
 namespace
 {
 

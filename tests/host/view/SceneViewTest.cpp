@@ -10,6 +10,8 @@
 #include <xsg/nodes/transforms/SoSpin.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -388,7 +390,7 @@ TEST(ViewOfTheShippedScene, IsNotTrivial)
 {
     SceneView view;
     view.resize(400, 300);
-    view.setScene(scopix::makeDefaultScene().get());
+    view.setScene(makeDefaultScene().get());
     view.show();
     QCoreApplication::processEvents();
     const QImage image = view.grab().toImage();

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace scopix;
+
 // As it is once everything that changed has been told.
 inline QImage pictureOf(SceneView& view)
 {

@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <QWindow>
 
+using namespace scopix;
+
 namespace
 {
 
@@ -24,7 +26,7 @@ protected:
     {
         bool done = false;
         bool opened = false;
-        const auto connection = QObject::connect(&window(), &HostWindow::fileDone, [&](bool success) {
+        const auto connection = QObject::connect(&window(), &HostWindow::openFinished, [&](bool success) {
             done = true;
             opened = success;
         });
@@ -64,8 +66,8 @@ protected:
         return colors.size();
     }
 
-    Session session{[](HostServices& services, Messages& messages) {
-        return std::make_unique<MainWindow>(services, messages);
+    Session session{[](HostServices& services, UserNotifier& notifier) {
+        return std::make_unique<MainWindow>(services, notifier);
     }};
 };
 

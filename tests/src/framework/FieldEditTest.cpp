@@ -1,5 +1,5 @@
 // The road of one edit: command, write, undo stack.
-#include "EdDefaultField.h"
+#include "EdFreshDefault.h"
 #include "EdFieldEdits.h"
 
 #include <support/TestHost.h>
@@ -135,7 +135,7 @@ TEST(DefaultField, IsThatOfAFreshNode)
 {
     const SoRef<SoMaterial> material(new SoMaterial);
     material->shininess.setValue(0.9F);
-    const EdDefaultField fresh(&material->shininess);
+    const EdFreshDefault fresh(&material->shininess);
     auto* field = dynamic_cast<SoSFFloat*>(fresh.get());
     ASSERT_TRUE(field);
     EXPECT_NE(field, &material->shininess);

@@ -242,9 +242,9 @@ TEST_F(Renderer, FogHidesWhatIsFar)
     addMaterial({1, 0, 0});
     addSquare(0);
     EXPECT_PIXEL(center(draw()), (Pixel{255, 128, 128}));
-    fog->kind.setValue(SoFog::Thickening);
+    fog->kind.setValue(SoFog::Exp);
     EXPECT_PIXEL(center(draw()), (Pixel{255, 220, 220}));
-    fog->kind.setValue(SoFog::Sudden);
+    fog->kind.setValue(SoFog::Exp2);
     EXPECT_PIXEL(center(draw()), (Pixel{255, 182, 182}));
     fog->kind.setValue(SoFog::None);
     EXPECT_PIXEL(center(draw()), (Pixel{255, 0, 0}));

@@ -29,7 +29,7 @@ bool XsgText<SoRef<SoNode>>::read(XsgTextReader& in, SoRef<SoNode>& node)
         return true;
     }
     auto* found = dynamic_cast<SoNode*>(SoFieldContainer::getByName(name));
-    if (!found || found->isDying())
+    if (!found || found->isBeingDestroyed())
         return false;
     node = found;
     return true;

@@ -27,7 +27,7 @@ protected:
     void assign(const SoField& sameType) override;
     bool isTextual() const override { return true; }
     void writePlain(std::string& out, int value) const override;
-    bool takePlain(const std::vector<std::string>& /*texts*/) override { return false; }
+    bool assignFromText(const std::vector<std::string>& /*texts*/) override { return false; }
 
 private:
     std::string m_text;

@@ -121,7 +121,7 @@ void SoGroup::childrenChanged()
 void SoGroup::rememberTouched() const
 {
     if (!m_touched)
-        m_touched = std::make_unique<xsg::TouchLog>(getChangeCount());
+        m_touched = std::make_unique<xsg::ChangeLog>(getChangeCount());
 }
 
 void SoGroup::noteTouched(const SoNode* child, std::uint64_t serial)

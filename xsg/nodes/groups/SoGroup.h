@@ -3,7 +3,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/nodes/groups/TouchLog.h>
+#include <xsg/nodes/groups/ChangeLog.h>
 
 // Children first to last - 1.
 struct SoChildRange {
@@ -36,7 +36,7 @@ public:
     // This group as one that remembers its box, or null; cheaper than a cast.
     virtual const SoSeparator* asSeparator() const { return nullptr; }
     // Whether what the children set ends with the group.
-    virtual bool isIsolating() const { return false; }
+    virtual bool isStateScope() const { return false; }
     // Whether the choice below depends on where the camera is.
     virtual bool isViewDependent() const { return false; }
     // The children that count at present; a group that chooses among its children narrows it.
@@ -65,7 +65,7 @@ private:
     void findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const;
 
     std::vector<SoNode*> m_children; // one reference each
-    mutable std::unique_ptr<xsg::TouchLog> m_touched;
+    mutable std::unique_ptr<xsg::ChangeLog> m_touched;
 };
 
 extern template class SoTyped<SoGroup, SoNode>;

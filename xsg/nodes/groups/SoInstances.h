@@ -15,7 +15,7 @@ public:
 
     SoMFMatrix matrices{this, "matrices"}; // where each copy stands; none: nothing is shown
 
-    bool isIsolating() const override { return true; }
+    bool isStateScope() const override { return true; }
     void apply(SoState& state) const override;
     SoChildRange getChosenChildren(const SoState& state) const override;
 };

@@ -1,7 +1,7 @@
 // A group that isolates state: what its children set does not reach what follows the group.
 #pragma once
 
-#include <xsg/nodes/base/ChunkBoxes.h>
+#include <xsg/nodes/base/BoundingBoxTree.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
 class XSG_API SoSeparator : public SoTyped<SoSeparator, SoGroup>
@@ -9,7 +9,7 @@ class XSG_API SoSeparator : public SoTyped<SoSeparator, SoGroup>
 public:
     static constexpr const char* ClassName = "Separator";
 
-    bool isIsolating() const override { return true; }
+    bool isStateScope() const override { return true; }
     const SoSeparator* asSeparator() const override { return this; }
 
     // What shapes below take from before the separator, as far as it matters to their boxes.
@@ -26,7 +26,7 @@ public:
     struct ChildBoxes {
         std::vector<SbBox3f> boxes; // in the coordinates at the separator; empty for the others:
         std::vector<std::uint32_t> others; // places of children that are no separators
-        xsg::ChunkBoxes chunks;     // of `boxes`
+        xsg::BoundingBoxTree chunks;     // of `boxes`
     };
     // The box around what is below, in the coordinates at the separator. It holds as long as nothing below nor
     // outside changes.

@@ -8,7 +8,7 @@ template class SoTyped<SoFog, SoNode>;
 SoEnumTablePtr SoFog::getKindNames()
 {
     static const auto names = std::make_shared<const SoEnumTable>(
-        SoEnumTable{{"EVEN", Even}, {"THICKENING", Thickening}, {"SUDDEN", Sudden}, {"NONE", None}});
+        SoEnumTable{{"EVEN", Linear}, {"THICKENING", Exp}, {"SUDDEN", Exp2}, {"NONE", None}});
     return names;
 }
 

@@ -10,9 +10,9 @@ class XSG_API SoFog : public SoTyped<SoFog, SoNode>
 {
 public:
     static constexpr const char* ClassName = "Fog";
-    enum Kind { Even = 0, Thickening = 1, Sudden = 2, None = 3 };
+    enum Kind { Linear = 0, Exp = 1, Exp2 = 2, None = 3 };
 
-    SoSFEnum kind{this, "kind", getKindNames(), Even}; // how it grows with distance
+    SoSFEnum kind{this, "kind", getKindNames(), Linear}; // how it grows with distance
     SoSFColor color{this, "color", {1, 1, 1}};
     SoSFFloat visibility{this, "visibility", 100.0F}; // the distance at which nothing else is seen
 

@@ -65,7 +65,7 @@ std::string SoTexture2::resolved(const std::string& path) const
     return m_folder.empty() || path.front() == '/' ? path : m_folder + '/' + path;
 }
 
-bool SoTexture2::getPicture(SoPicture& picture) const
+bool SoTexture2::getPicture(SoImageView& picture) const
 {
     readFile();
     const auto take = [&](const SoSFImage& from) {

@@ -10,7 +10,7 @@
 #include <string>
 
 // Pixels of 1 to 4 bytes, rows from the bottom up.
-struct SoPicture {
+struct SoImageView {
     int width = 0;
     int height = 0;
     int components = 0;
@@ -37,7 +37,7 @@ public:
     void apply(SoState& state) const override;
 
     // The picture to show, valid until a field changes; false for none.
-    bool getPicture(SoPicture& picture) const;
+    bool getPicture(SoImageView& picture) const;
 
     // Where a relative file name starts from; where it is empty, as at first, the folder that the process works in. No
     // field: a scene takes it from where its file is.

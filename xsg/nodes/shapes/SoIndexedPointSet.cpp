@@ -1,7 +1,7 @@
 #include <xsg/nodes/shapes/SoIndexedPointSet.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/nodes/shapes/IndexedCorners.h>
+#include <xsg/nodes/shapes/IndexBuilder.h>
 
 template class SoTyped<SoIndexedPointSet, SoVertexShape>;
 

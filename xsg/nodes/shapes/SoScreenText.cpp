@@ -1,7 +1,7 @@
 #include <xsg/nodes/shapes/SoScreenText.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/nodes/shapes/DotFont.h>
+#include <xsg/nodes/shapes/BitmapFont.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,11 @@
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/nodes/base/FieldUse.h>
+#include <xsg/nodes/base/EffectiveValue.h>
 
 template class SoTyped<SoMatrixTransform, SoTransformation>;
 
 SbMatrix SoMatrixTransform::getMatrix() const
 {
-    return xsg::used(matrix, {});
+    return xsg::effectiveValue(matrix, {});
 }

@@ -1,0 +1,15 @@
+// Textures of every kind of picture file that the toolkit reads.
+#pragma once
+
+namespace scopix
+{
+
+namespace TextureImageLoader
+{
+
+// From now on the scene-graph library reads its textures' files through the toolkit.
+void install();
+
+} // namespace TextureImageLoader
+
+} // namespace scopix

@@ -1,0 +1,44 @@
+#include "shell/ToolsMenu.h"
+
+#include "shell/HostShell.h"
+
+#include <scopix/SpxEditor.h>
+
+#include <QMenu>
+
+namespace scopix
+{
+
+ToolsMenu::ToolsMenu(HostShell& shell, QMenu& menu)
+    : QObject(&menu)
+    , m_shell(shell)
+    , m_menu(menu)
+{
+    connect(&shell, &HostShell::extensionsChanged, this, &ToolsMenu::refill);
+    refill();
+}
+
+void ToolsMenu::refill()
+{
+    qDeleteAll(m_entries);
+    m_entries.clear();
+    for (SpxExtension* extension : m_shell.extensions()) {
+        if (!qobject_cast<SpxEditor*>(extension))
+            m_entries.append(makeEntry(extension));
+    }
+    m_menu.addActions(m_entries);
+}
+
+QAction* ToolsMenu::makeEntry(SpxExtension* extension)
+{
+    auto* entry = new QAction(QString::fromUtf8(extension->getName().getString()), &m_menu);
+    entry->setStatusTip(QString::fromUtf8(extension->getDescription().getString()));
+    entry->setCheckable(true);
+    entry->setChecked(extension->isShown());
+    connect(extension, &SpxExtension::shownChanged, entry, &QAction::setChecked);
+    connect(entry, &QAction::triggered, extension,
+            [this, extension](bool checked) { m_shell.setShown(extension, checked); });
+    return entry;
+}
+
+} // namespace scopix

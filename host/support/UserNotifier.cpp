@@ -1,0 +1,122 @@
+#include "support/UserNotifier.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTextDocumentFragment>
+
+#include <cstdio>
+
+namespace scopix
+{
+
+namespace
+{
+
+void print(const QString& text)
+{
+    std::fprintf(stderr, "scopix: %s\n", qPrintable(text));
+    std::fflush(stderr);
+}
+
+QString plain(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
+QString textOf(const QMessageBox& box)
+{
+    QStringList parts{plain(box.text())};
+    if (!box.informativeText().isEmpty())
+        parts += plain(box.informativeText());
+    return parts.join(QLatin1Char(' '));
+}
+
+// The button of a person who wants to be left alone and changes nothing.
+QAbstractButton* wayOut(const QMessageBox& box)
+{
+    if (box.escapeButton())
+        return box.escapeButton();
+    const QList<QAbstractButton*> buttons = box.buttons();
+    for (const auto role : {QMessageBox::RejectRole, QMessageBox::NoRole}) {
+        for (QAbstractButton* button : buttons) {
+            if (box.buttonRole(button) == role)
+                return button;
+        }
+    }
+    return buttons.size() == 1 ? buttons.first() : box.defaultButton();
+}
+
+void dismiss(QMessageBox& box)
+{
+    if (QAbstractButton* button = wayOut(box))
+        button->click();
+    else
+        box.done(-1);
+}
+
+} // namespace
+
+UserNotifier::UserNotifier(QObject* parent)
+    : QObject(parent)
+{
+}
+
+UserNotifier::~UserNotifier()
+{
+    delete m_box;
+}
+
+void UserNotifier::setAttended(bool attended)
+{
+    if (m_attended == attended)
+        return;
+    m_attended = attended;
+    if (attended)
+        qApp->removeEventFilter(this);
+    else
+        qApp->installEventFilter(this);
+}
+
+void UserNotifier::error(const QString& sentence)
+{
+    ++m_errorCount;
+    print(sentence);
+    emit told(sentence);
+    if (m_attended)
+        showInBox(sentence);
+}
+
+void UserNotifier::info(const QString& sentence)
+{
+    emit told(sentence);
+}
+
+// One box for all that goes wrong until the person closes it.
+void UserNotifier::showInBox(const QString& sentence)
+{
+    if (m_box && m_box->isVisible()) {
+        m_box->setText(m_box->text() + QLatin1Char('\n') + sentence);
+        return;
+    }
+    delete m_box;
+    m_box = new QMessageBox(QMessageBox::Warning, QApplication::applicationDisplayName(), sentence,
+                            QMessageBox::Ok, m_window);
+    m_box->setTextFormat(Qt::PlainText);
+    m_box->open();
+}
+
+bool UserNotifier::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Show)
+        return false;
+    if (auto* box = qobject_cast<QMessageBox*>(watched)) {
+        print(textOf(*box));
+        QMetaObject::invokeMethod(
+            box, [box] { dismiss(*box); }, Qt::QueuedConnection);
+    }
+    return false;
+}
+
+} // namespace scopix

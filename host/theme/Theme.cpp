@@ -1,0 +1,102 @@
+#include "theme/Theme.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QStyleFactory>
+
+namespace scopix
+{
+
+namespace
+{
+
+struct PaletteColors {
+    QRgb window;
+    QRgb base;
+    QRgb button;
+    QRgb text;
+    QRgb quiet;
+    QRgb accent;
+    QRgb light;
+    QRgb mid;
+    QRgb dark;
+};
+
+constexpr PaletteColors DarkColors{0xff2b2e33, 0xff212327, 0xff363a40, 0xffdfe3e8, 0xff878e97,
+                          0xff3d7ec9, 0xff464b52, 0xff3a3e45, 0xff1a1c1f};
+constexpr PaletteColors LightColors{0xfff1f3f5, 0xffffffff, 0xfff8f9fa, 0xff1d2126, 0xff7b838c,
+                           0xff2f74c0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
+
+QPalette paletteOf(const PaletteColors& t)
+{
+    const QColor text(t.text);
+    const QColor quiet(t.quiet);
+    QPalette p;
+    p.setColor(QPalette::Window, QColor(t.window));
+    p.setColor(QPalette::WindowText, text);
+    p.setColor(QPalette::Base, QColor(t.base));
+    p.setColor(QPalette::AlternateBase, QColor(t.window));
+    p.setColor(QPalette::ToolTipBase, QColor(t.button));
+    p.setColor(QPalette::ToolTipText, text);
+    p.setColor(QPalette::PlaceholderText, quiet);
+    p.setColor(QPalette::Text, text);
+    p.setColor(QPalette::Button, QColor(t.button));
+    p.setColor(QPalette::ButtonText, text);
+    p.setColor(QPalette::BrightText, Qt::white);
+    p.setColor(QPalette::Light, QColor(t.light));
+    p.setColor(QPalette::Midlight, QColor(t.light));
+    p.setColor(QPalette::Mid, QColor(t.mid));
+    p.setColor(QPalette::Dark, QColor(t.dark));
+    p.setColor(QPalette::Shadow, QColor(t.dark).darker(150));
+    p.setColor(QPalette::Highlight, QColor(t.accent));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::Link, QColor(t.accent).lighter(120));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        p.setColor(QPalette::Disabled, role, quiet);
+    p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(t.mid));
+    return p;
+}
+
+} // namespace
+
+Theme themeFromName(const QString& name)
+{
+    if (name == QLatin1String("dark"))
+        return Theme::Dark;
+    return name == QLatin1String("light") ? Theme::Light : Theme::System;
+}
+
+QString themeName(Theme theme)
+{
+    switch (theme) {
+    case Theme::Dark:
+        return QStringLiteral("dark");
+    case Theme::Light:
+        return QStringLiteral("light");
+    default:
+        return QStringLiteral("system");
+    }
+}
+
+void applyTheme(Theme theme)
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    static const bool systemIsDark = isDark(QApplication::palette());
+    // Off the screen there is no desktop that would say how large text is.
+    if (QApplication::platformName() == QLatin1String("offscreen"))
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    const bool dark = theme == Theme::Dark || (theme == Theme::System && systemIsDark);
+    QApplication::setPalette(paletteOf(dark ? DarkColors : LightColors));
+}
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+QColor groundColor(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(0x2e, 0x33, 0x3a) : QColor(0xdd, 0xe3, 0xea);
+}
+
+} // namespace scopix

@@ -1,0 +1,24 @@
+// Walks a scene only as far as the way to some of its nodes goes, and what is set on that way: what a separator beside
+// the way holds is passed by. Cheap however large the scene is. A derived class says what to do at the nodes.
+#pragma once
+
+#include <xsg/actions/SoTraversal.h>
+
+#include <unordered_set>
+
+namespace scopix
+{
+
+class TargetedTraversal : protected SoTraversal
+{
+protected:
+    explicit TargetedTraversal(const std::vector<const SoNode*>& nodes);
+
+    bool leadsThere(const SoGroup* group) const { return m_above.count(group) != 0; }
+    bool wantsGroup(SoGroup* group) override { return !group->isStateScope() || leadsThere(group); }
+
+private:
+    std::unordered_set<const SoGroup*> m_above; // the nodes, in whatever scene
+};
+
+} // namespace scopix

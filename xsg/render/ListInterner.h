@@ -1,0 +1,52 @@
+// Makes equal lists one and the same, so that comparing two of them is comparing two pointers.
+#pragma once
+
+#include <xsg/nodes/base/SoState.h>
+
+#include <unordered_map>
+
+namespace xsg
+{
+
+template <class T>
+class ListInterner
+{
+public:
+    // The list that stands for all that are equal to this one; null stays null.
+    const SoShared<T>& get(const SoShared<T>& list)
+    {
+        static const SoShared<T> none;
+        if (!list)
+            return none;
+        if (list == m_asked)
+            return m_answer;
+        m_asked = list;
+        const auto [begin, end] = m_known.equal_range(hash(*list));
+        for (auto it = begin; it != end; ++it) {
+            if (*it->second == *list)
+                return m_answer = it->second;
+        }
+        m_known.emplace(hash(*list), list);
+        return m_answer = list;
+    }
+    void clear()
+    {
+        m_known.clear();
+        m_asked = m_answer = nullptr;
+    }
+
+private:
+    // Equal lists may differ in their bytes (0 and -0); they are then kept twice, which does no harm.
+    static std::size_t hash(const std::vector<T>& list)
+    {
+        const auto* bytes = reinterpret_cast<const char*>(list.data());
+        return std::hash<std::string_view>()({bytes, list.size() * sizeof(T)});
+    }
+
+    std::unordered_multimap<std::size_t, SoShared<T>> m_known;
+    // Neighbours in a scene mostly ask the same.
+    SoShared<T> m_asked;
+    SoShared<T> m_answer;
+};
+
+} // namespace xsg
