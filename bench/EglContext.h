@@ -1,6 +1,4 @@
-// An OpenGL context without a window or a display, current on the thread that makes it, for libraries that bring
-// none of their own. Not the one that the scene-graph library draws with off the screen: that is a core context, on a
-// thread of its own and without a surface; what OpenSceneGraph draws with here is older than that.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <epoxy/egl.h>
@@ -9,6 +7,9 @@
 namespace bench
 {
 
+/// An OpenGL context without a window or a display, current on the thread that makes it, for libraries that bring
+/// none of their own. Not the one that the scene-graph library draws with off the screen: that is a core context, on a
+/// thread of its own and without a surface; what OpenSceneGraph draws with here is older than that.
 class EglContext
 {
 public:

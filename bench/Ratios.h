@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs the registered benchmarks and then prints ratios between them: what a piece of the library costs, as a
 // multiple of the plain thing.
 #pragma once
@@ -19,7 +20,7 @@ struct Ratio {
     const char* aim; // in words; empty for none
 };
 
-// Remembers the shortest time of each benchmark.
+/// Remembers the shortest time of each benchmark.
 class Recorder : public benchmark::ConsoleReporter
 {
 public:

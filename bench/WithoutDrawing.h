@@ -1,6 +1,4 @@
-// Lets OpenGL's draw calls return at once, so that the time of a frame is that of all the work up to them: looking
-// for what is in sight, setting state, filling buffers, making the calls. Without a graphics card the processor
-// fills the pictures, which hides that work.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <epoxy/gl.h>
@@ -10,10 +8,14 @@ enum class Drawing { Done, LeftOut };
 namespace bench
 {
 
-// Whether calls that do not go through epoxy should return at once, too.
+/// Whether calls that do not go through epoxy should return at once, too.
 inline bool areDrawCallsLeftOut = false;
 
-// While it lives, where it was asked for.
+/// Lets OpenGL's draw calls return at once, so that the time of a frame is that of all the work up to them: looking
+/// for what is in sight, setting state, filling buffers, making the calls. Without a graphics card the processor
+/// fills the pictures, which hides that work.
+///
+/// While it lives, where it was asked for.
 class WithoutDrawing
 {
 public:

@@ -1,2 +1,3 @@
+# SPDX-License-Identifier: MIT
 scopix_add_bench(console_lines SpxDefaultsObjects)
 target_sources(bench_console_lines PRIVATE "${PROJECT_SOURCE_DIR}/tests/support/TestHost.cpp")

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the console costs: lines per second that the GUI thread writes to std::cout against a bare
 // QPlainTextEdit::appendPlainText fed the same lines, both holding the same number of them; how that grows
 // with their number; and the longest time that the event loop is held up while four threads write and two

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the profile manager costs, and how that grows with the number of profiles: to open it, against bare tabs of the
 // same labels, and to let it read a file anew, as Cancel does while the window is still there. Then what long names
 // cost.

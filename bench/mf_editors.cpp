@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the editor of a list costs, against a bare table and a bare vector that do the same, and how that grows with the
 // length of the list.
 #include "AccessButtonPrivate.h"

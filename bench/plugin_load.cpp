@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the default plug-in adds to a program's start: the library, its extensions and their widgets, against the start
 // of an empty Qt program. Each is measured as a process of its own.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scene files: nodes read and written per second and their size, as scenes grow, and the memory that a large
 // file takes while it is read.
 #include "Ratios.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What it costs to open a group of many children in the scene tree, beside Qt's own model with as many rows, and
 // how the cost grows with their number; and what it costs to follow a child that comes and goes beside groups that
 // are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What an editor of a single value costs, against plain widgets that do the same:
 //
 //   - selecting a field of each kind: from the signal to the shown editor, against building the same inputs

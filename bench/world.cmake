@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 scopix_add_bench(world_actions Scopix::xsg benchmark::benchmark Epoxy::Epoxy)
 
 # Beside OpenSceneGraph where it is installed; the product knows nothing of it.

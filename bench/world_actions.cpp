@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What it costs to measure, pick, draw, read and write a world of separators, each with a transform and a
 // cube. The argument is the number of separators; time per separator should not grow with it.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The world of the other benchmarks beside the same one in OpenSceneGraph: what it costs to draw it, to find its
 // box and to pick in it. Both draw the same cubes into pictures of the same size, all of them in sight, with one
 // light and without smoothed edges, leave out what is out of sight and nothing else, and read the picture back.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the benchmarks of a world of separators measure of this library, shared by the one that looks at growth
 // with size and the one that stands beside another library. The argument is the number of separators.
 #pragma once
@@ -11,7 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
-// Of the pictures, in pixels a side: small, so that filling them is little of the work.
+/// Of the pictures, in pixels a side: small, so that filling them is little of the work.
 constexpr int PictureSize = 64;
 
 inline void perSeparator(benchmark::State& state)
@@ -21,7 +22,7 @@ inline void perSeparator(benchmark::State& state)
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
-// No box is remembered anywhere.
+/// No box is remembered anywhere.
 inline void boxAfresh(benchmark::State& state)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));
@@ -59,7 +60,7 @@ inline void pick(benchmark::State& state)
     perSeparator(state);
 }
 
-// What happens before each frame that is measured.
+/// What happens before each frame that is measured.
 enum class Before {
     Nothing,
     OneField,
@@ -80,8 +81,8 @@ inline void prepareFrame(Before before, SoSeparator& world, SoCamera& camera, fl
         camera.pan(0.001F * (step - 0.25F), 0);
 }
 
-// A frame from the change to the picture in memory. Without drawing, OpenGL's draw calls return at once: what
-// remains is all the work up to them.
+/// A frame from the change to the picture in memory. Without drawing, OpenGL's draw calls return at once: what
+/// remains is all the work up to them.
 inline void frame(benchmark::State& state, Before before, Drawing drawing)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scene that the world benchmarks share: separators, each with a transform and a cube.
 #pragma once
 
@@ -41,7 +42,7 @@ inline SoTransform& lastTransform(SoSeparator& world)
     return *static_cast<SoTransform*>(group->getChild(0));
 }
 
-// As if nobody had asked for a box before.
+/// As if nobody had asked for a box before.
 inline void forgetBoxes(const SoSeparator& world)
 {
     for (SoNode* child : world.getChildren())
@@ -49,7 +50,7 @@ inline void forgetBoxes(const SoSeparator& world)
     world.boxCache().isValid = false;
 }
 
-// Whether a picture is more than its background.
+/// Whether a picture is more than its background.
 inline bool hasPicture(const std::vector<unsigned char>& rgba)
 {
     return std::any_of(rgba.begin() + 4, rgba.end(), [&](const unsigned char& c) {

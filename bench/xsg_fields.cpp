@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What fields cost beside the plain thing: text of numbers, inserting, notifying.
 #include "Ratios.h"
 

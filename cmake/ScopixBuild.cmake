@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Compiler settings, carried by one interface library that every target of the project links.
 
 set(CMAKE_CXX_STANDARD 17)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Every outside library, all from Debian 12 packages; the reasons stand in docs/architecture.md.
 
 find_package(Threads REQUIRED)

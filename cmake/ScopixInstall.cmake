@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # What an installed Scopix consists of: the program, its libraries, the default plug-in, the scenes, and
 # the SDK (headers and the CMake package Scopix) that another plug-in or an embedding program builds on:
 #

@@ -1,8 +1,9 @@
-// One undoable edit. Who makes it hands it to SpxServices::executeCommand and never touches it again.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExport.h>
 
+/// One undoable edit. Who makes it hands it to SpxServices::executeCommand and never touches it again.
 class SPX_API SpxCommand
 {
 public:
@@ -10,9 +11,9 @@ public:
     SpxCommand(const SpxCommand&) = delete;
     SpxCommand& operator=(const SpxCommand&) = delete;
 
-    // Called once, when the services take the command over.
+    /// Called once, when the services take the command over.
     virtual void execute() = 0;
-    // Then called in turn, as often as the person goes back and forth.
+    /// Then called in turn, as often as the person goes back and forth.
     virtual void undo() = 0;
     virtual void redo() = 0;
     virtual ~SpxCommand();

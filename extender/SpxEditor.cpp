@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxEditor.h"
 
 SpxEditor::SpxEditor() = default;

@@ -1,5 +1,4 @@
-// An extension that edits one kind of object. The dock that hosts editors picks one by its handled type, gives it the
-// object, takes its widget and activates it. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExtension.h>
@@ -7,6 +6,8 @@
 
 class QWidget;
 
+/// An extension that edits one kind of object. The dock that hosts editors picks one by its handled type, gives it the
+/// object, takes its widget and activates it. GUI thread only.
 class SPX_API SpxEditor : public SpxExtension
 {
     Q_OBJECT
@@ -14,12 +15,12 @@ class SPX_API SpxEditor : public SpxExtension
 public:
     ~SpxEditor() override;
 
-    // The type whose objects, derived ones included, this editor edits.
+    /// The type whose objects, derived ones included, this editor edits.
     virtual SoType getHandledType();
-    // Not owned; null releases the object.
+    /// Not owned; null releases the object.
     virtual void setEditedObject(SoTypedObject* object);
     virtual SoTypedObject* getEditedObject() const;
-    // The editor's top widget; stays the editor's own.
+    /// The editor's top widget; stays the editor's own.
     virtual QWidget* getWidget() const;
 
 protected:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Marks what libScopixExtenderAPI offers to hosts and plug-ins.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxExtension.h"
 
 #include "SpxPluginsManager.h"

@@ -1,5 +1,4 @@
-// A tool that a plug-in adds to the host. The host drives it: load() once, then activate() and deactivate() as
-// profiles ask for it, show() and hide() as the person does, unload() once at the end. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExport.h>
@@ -7,6 +6,8 @@
 
 #include <QObject>
 
+/// A tool that a plug-in adds to the host. The host drives it: load() once, then activate() and deactivate() as
+/// profiles ask for it, show() and hide() as the person does, unload() once at the end. GUI thread only.
 class SPX_API SpxExtension : public QObject
 {
     Q_OBJECT
@@ -14,7 +15,7 @@ class SPX_API SpxExtension : public QObject
 public:
     ~SpxExtension() override;
 
-    // Overrides call the base's activate, deactivate, hide and show, which keep the books below.
+    /// Overrides call the base's activate, deactivate, hide and show, which keep the books below.
     virtual void activate();
     virtual void deactivate();
     virtual void hide();
@@ -27,7 +28,7 @@ public:
     SbString getVendor() const { return m_vendor; }
     SbString getVersion() const { return m_version; }
 
-    // What the active profile holds for this extension; never null.
+    /// What the active profile holds for this extension; never null.
     const SpxProfileSetting* getProfileSetting() const;
 
     bool isActive() const { return m_active; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxPlugin.h"
 
 SpxPlugin::SpxPlugin() = default;

@@ -1,9 +1,4 @@
-// What a plug-in library hands to the host. The library exports two entry points under plain names:
-//
-//     extern "C" SpxPlugin* loadPlugin();      // makes the plug-in object
-//     extern "C" void unloadPlugin();          // deletes it
-//
-// The host then calls load(), reads the extensions, and calls unload() before unloadPlugin(). GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExport.h>
@@ -13,6 +8,12 @@
 
 class SpxExtension;
 
+/// What a plug-in library hands to the host. The library exports two entry points under plain names:
+///
+///     extern "C" SpxPlugin* loadPlugin();      // makes the plug-in object
+///     extern "C" void unloadPlugin();          // deletes it
+///
+/// The host then calls load(), reads the extensions, and calls unload() before unloadPlugin(). GUI thread only.
 class SPX_API SpxPlugin
 {
 public:
@@ -20,12 +21,12 @@ public:
     SpxPlugin(const SpxPlugin&) = delete;
     SpxPlugin& operator=(const SpxPlugin&) = delete;
 
-    // Overrides add their extensions, then call this one. False: the plug-in cannot be used.
+    /// Overrides add their extensions, then call this one. False: the plug-in cannot be used.
     virtual bool load();
     virtual void unload();
     virtual ~SpxPlugin();
 
-    // The plug-in keeps ownership. Order of adding is the order in which the host drives the extensions.
+    /// The plug-in keeps ownership. Order of adding is the order in which the host drives the extensions.
     void addExtension(SpxExtension* extension);
     const QList<SpxExtension*>& getExtensions() const { return m_extensions; }
 

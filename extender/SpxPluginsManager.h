@@ -1,13 +1,14 @@
-// What the host tells about its profiles. The host derives from it; its instance is the one that lives.
-// GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxProfile.h>
 
+/// What the host tells about its profiles. The host derives from it; its instance is the one that lives.
+/// GUI thread only.
 class SPX_API SpxPluginsManager
 {
 public:
-    // Null while no host has made one.
+    /// Null while no host has made one.
     static SpxPluginsManager* getInstance();
 
     SpxPluginsManager(const SpxPluginsManager&) = delete;
@@ -15,9 +16,9 @@ public:
 
     virtual QList<SpxProfile*> getProfilesList() const = 0;
     virtual SpxProfile* getActiveProfile() const = 0;
-    // Changes getActiveProfile() at once; extensions are switched when the caller has returned to the event loop.
+    /// Changes getActiveProfile() at once; extensions are switched when the caller has returned to the event loop.
     virtual void setActiveProfile(SpxProfile* profile) = 0;
-    // What the active profile holds for this extension; null for one that it does not know.
+    /// What the active profile holds for this extension; null for one that it does not know.
     virtual const SpxProfileSetting* getProfileSetting(const SpxExtension* extension) const = 0;
 
 protected:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxProfile.h"
 
 SpxProfile::~SpxProfile() = default;

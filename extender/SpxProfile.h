@@ -1,4 +1,4 @@
-// A named choice of extensions, and what one extension may use while it is active. Owned by the host.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExport.h>
@@ -8,11 +8,11 @@
 
 class SpxExtension;
 
-// What a profile holds for one extension.
+/// What a profile holds for one extension.
 class SPX_API SpxProfileSetting
 {
 public:
-    // The extensions that the profile controls, in the order in which the plug-ins registered them. Not owned.
+    /// The extensions that the profile controls, in the order in which the plug-ins registered them. Not owned.
     const QList<SpxExtension*>& getControlledExtensions() const { return m_controlled; }
     void setControlledExtensions(QList<SpxExtension*> extensions) { m_controlled = std::move(extensions); }
 
@@ -20,6 +20,7 @@ private:
     QList<SpxExtension*> m_controlled;
 };
 
+/// A named choice of extensions, and what one extension may use while it is active. Owned by the host.
 class SPX_API SpxProfile
 {
 public:
@@ -31,7 +32,7 @@ public:
     SpxProfile& operator=(const SpxProfile&) = delete;
     virtual ~SpxProfile();
 
-    // Latin-1.
+    /// Latin-1.
     SbString getName() const { return m_name; }
     void setName(SbString name) { m_name = std::move(name); }
 

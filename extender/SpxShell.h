@@ -1,6 +1,4 @@
-// The host's main window as extensions see it. The host derives from it; its instance is the one that lives.
-// Dock widgets and tool bars stay the extension's own: what is removed comes back without a parent.
-// GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExport.h>
@@ -11,10 +9,13 @@ class QDockWidget;
 class QToolBar;
 class SpxExtension;
 
+/// The host's main window as extensions see it. The host derives from it; its instance is the one that lives.
+/// Dock widgets and tool bars stay the extension's own: what is removed comes back without a parent.
+/// GUI thread only.
 class SPX_API SpxShell
 {
 public:
-    // Null while no host has made one.
+    /// Null while no host has made one.
     static SpxShell* getInstance();
 
     SpxShell(const SpxShell&) = delete;
@@ -22,7 +23,7 @@ public:
 
     virtual void addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area) = 0;
     virtual void removeDockWidget(QDockWidget* dock) = 0;
-    // Every extension announces itself at the end of its activate() and takes leave at the end of its deactivate().
+    /// Every extension announces itself at the end of its activate() and takes leave at the end of its deactivate().
     virtual void attachExtension(SpxExtension* extension, bool attach) = 0;
     virtual void detachExtension(SpxExtension* extension) = 0;
     virtual void addToolBar(QToolBar* toolBar, Qt::ToolBarArea area) = 0;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the checks share that the fuzzers and the tests that replay their corpora run.
 #pragma once
 
@@ -23,7 +24,7 @@ inline void require(bool holds, const std::string& what)
     std::abort();
 }
 
-// Every file of a folder.
+/// Every file of a folder.
 inline std::vector<Input> inputsOf(const std::string& folder)
 {
     std::vector<Input> inputs;
@@ -34,7 +35,7 @@ inline std::vector<Input> inputsOf(const std::string& folder)
     return inputs;
 }
 
-// Each fuzzer is one check, kept from input to input.
+/// Each fuzzer is one check, kept from input to input.
 template <class Check>
 int runCheck(const std::uint8_t* data, std::size_t size)
 {

@@ -1,5 +1,4 @@
-// What must hold whatever a counter-profile file has in it. The fuzzer and the test that replays its corpus
-// share this.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "Check.h"
@@ -18,10 +17,12 @@
 namespace fuzz
 {
 
+/// What must hold whatever a counter-profile file has in it. The fuzzer and the test that replays its corpus
+/// share this.
 class CounterProfileCheck
 {
 public:
-    // Counters that would be computed from themselves are told of as errors; here they are no news.
+    /// Counters that would be computed from themselves are told of as errors; here they are no news.
     CounterProfileCheck()
         : m_callback(SoDebugError::getHandlerCallback())
         , m_data(SoDebugError::getHandlerData())
@@ -32,7 +33,7 @@ public:
     CounterProfileCheck(const CounterProfileCheck&) = delete;
     CounterProfileCheck& operator=(const CounterProfileCheck&) = delete;
 
-    // A file that is accepted is the same once it was written and read.
+    /// A file that is accepted is the same once it was written and read.
     void operator()(const std::uint8_t* data, std::size_t size)
     {
         QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));

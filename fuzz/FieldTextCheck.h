@@ -1,4 +1,4 @@
-// What must hold whatever text a field is given. The fuzzer and the test that replays its corpus share this.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "Check.h"
@@ -24,11 +24,13 @@ inline std::string written(const SoField& field)
     return text.str();
 }
 
-// Each field of one gallery reads what another wrote of it; they have the same names for their enumerations.
+/// What must hold whatever text a field is given. The fuzzer and the test that replays its corpus share this.
+///
+/// Each field of one gallery reads what another wrote of it; they have the same names for their enumerations.
 class FieldTextCheck
 {
 public:
-    // The first byte chooses the field, the second what is done with the rest.
+    /// The first byte chooses the field, the second what is done with the rest.
     void operator()(const std::uint8_t* data, std::size_t size)
     {
         if (size < 2)

@@ -1,4 +1,4 @@
-// What must hold whatever a scene file has in it. The fuzzer and the test that replays its corpus share this.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "Check.h"
@@ -15,6 +15,7 @@
 namespace fuzz
 {
 
+/// What must hold whatever a scene file has in it. The fuzzer and the test that replays its corpus share this.
 class SceneFileCheck
 {
 public:
@@ -34,7 +35,7 @@ public:
     SceneFileCheck(const SceneFileCheck&) = delete;
     SceneFileCheck& operator=(const SceneFileCheck&) = delete;
 
-    // The first line is given, so that what comes after it is met at once.
+    /// The first line is given, so that what comes after it is met at once.
     void operator()(const std::uint8_t* data, std::size_t size)
     {
         std::string text(SoSceneFile::FirstLine);
@@ -55,7 +56,7 @@ public:
     }
 
 private:
-    // A node that refers to one that it stands in would keep both alive.
+    /// A node that refers to one that it stands in would keep both alive.
     static void forgetReferences(SoNode* root)
     {
         std::set<SoNode*> seen;
@@ -74,7 +75,7 @@ private:
         }
     }
 
-    // A scene and no error, or one error that names its place.
+    /// A scene and no error, or one error that names its place.
     SoRef<SoNode> read(const std::string& text)
     {
         m_errors = 0;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FieldTextCheck.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SceneFileCheck.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

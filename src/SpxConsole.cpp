@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxConsole.h"
 
 #include "ConsoleText.h"

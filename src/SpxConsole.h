@@ -1,9 +1,4 @@
-// Shows, in a dock at the bottom, what the application writes to std::cout and std::cerr while the console is
-// active, and what the scene-graph library reports while it is loaded: coloured by kind, filtered, cleared
-// and saved by buttons. It holds the newest lines, as many as the preference XSG_CONSOLE_MAX_LINES tells
-// (100,000 unless set).
-//
-// Text may come from any thread: the GUI thread's is printed at once, that of others from the event loop.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "ConsoleMessageQueue.h"
@@ -27,6 +22,12 @@ class ScopedErrorHandlers;
 class SoError;
 class Ui_m_consoleFrame;
 
+/// Shows, in a dock at the bottom, what the application writes to std::cout and std::cerr while the console is
+/// active, and what the scene-graph library reports while it is loaded: coloured by kind, filtered, cleared
+/// and saved by buttons. It holds the newest lines, as many as the preference XSG_CONSOLE_MAX_LINES tells
+/// (100,000 unless set).
+///
+/// Text may come from any thread: the GUI thread's is printed at once, that of others from the event loop.
 class SpxConsole : public SpxExtension
 {
     Q_OBJECT
@@ -45,12 +46,12 @@ public:
     void unload() override;
     bool event(QEvent* event) override;
 
-    // GUI thread. What is printed while its kind is switched off is gone.
+    /// GUI thread. What is printed while its kind is switched off is gone.
     void printError(const QString& text);
     void printInfo(const QString& text);
     void printWarning(const QString& text);
 
-    // The callbacks; data is the console. Any thread.
+    /// The callbacks; data is the console. Any thread.
     static void stdoutcb(const char* text, long length, void* console);
     static void stderrcb(const char* text, long length, void* console);
     static void errorHandlerCB(const SoError* error, void* console);
@@ -88,13 +89,13 @@ private:
     std::unique_ptr<ScopedErrorHandlers> m_savedHandlers;
     std::unique_ptr<Redirector> m_stderrRedirector; // null while inactive
     std::unique_ptr<Redirector> m_stdoutRedirector;
-    // Closed ones; another thread may still be about to write to them.
+    /// Closed ones; another thread may still be about to write to them.
     std::vector<std::unique_ptr<Redirector>> m_retiredRedirectors;
     QTimer m_inboxTimer;
     bool m_printing = false;
 };
 
-// Carries a message to the GUI thread.
+/// Carries a message to the GUI thread.
 class SpxConsole::ConsoleEvent : public QEvent
 {
 public:

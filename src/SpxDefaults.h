@@ -1,8 +1,4 @@
-// The plug-in object: holds every default extension and editor by value and hands them to the host.
-//
-// A new editor or extension takes two lines: a member in the table below, which decides the order of
-// construction, and its place in the table of load(), which decides the order that the host sees. The two
-// orders differ on purpose.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFColorWidget.h"
@@ -54,6 +50,11 @@
 
 #include <scopix/SpxPlugin.h>
 
+/// The plug-in object: holds every default extension and editor by value and hands them to the host.
+///
+/// A new editor or extension takes two lines: a member in the table below, which decides the order of
+/// construction, and its place in the table of load(), which decides the order that the host sees. The two
+/// orders differ on purpose.
 class SpxDefaults : public SpxPlugin
 {
 public:
@@ -63,12 +64,12 @@ public:
     bool load() override;
 
 private:
-    // Extensions: profile selector, performance counters, console.
+    /// Extensions: profile selector, performance counters, console.
     SpxProfileSelectorExtension m_profileSelector;
     SpxPerfCounterExtension m_perfCounters;
     SpxConsole m_console;
 
-    // Editors of multi-value fields.
+    /// Editors of multi-value fields.
     EdMFColorWidget m_mfColor;
     EdMFDefaultFieldWidget m_mfDefault;
     EdMFDoubleWidget m_mfDouble;
@@ -87,7 +88,7 @@ private:
     EdMFVec3fWidget m_mfVec3f;
     EdMFVec4fWidget m_mfVec4f;
 
-    // Editors of single-value fields; Enum before Double, FilePathString before Float.
+    /// Editors of single-value fields; Enum before Double, FilePathString before Float.
     EdSFBitMaskWidget m_sfBitMask;
     EdSFBoolWidget m_sfBool;
     EdSFBox3sWidget m_sfBox3s;
@@ -113,7 +114,7 @@ private:
     EdSFVec3fWidget m_sfVec3f;
     EdSFVec4fWidget m_sfVec4f;
 
-    // The docks that show editors.
+    /// The docks that show editors.
     SpxFieldEditorDockWin m_fieldEditorDock;
     SpxNodeEditor m_nodeEditor;
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxEditorDock.h"
 
 #include "EdText.h"

@@ -1,5 +1,4 @@
-// Base of the extensions that show an editor for what the person selected: a dock widget at the right, and
-// the choice of the most specific editor among those that the active profile controls. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxEditor.h>
@@ -9,6 +8,8 @@
 class QDockWidget;
 class SpxServices;
 
+/// Base of the extensions that show an editor for what the person selected: a dock widget at the right, and
+/// the choice of the most specific editor among those that the active profile controls. GUI thread only.
 class SpxEditorDock : public SpxExtension
 {
     Q_OBJECT
@@ -24,11 +25,11 @@ public:
     void unload() override;
 
 protected:
-    // `title` names the extension and its dock.
+    /// `title` names the extension and its dock.
     explicit SpxEditorDock(const char* title);
 
-    // Puts the editor for this object into the dock, after the one that was there has been released. Without
-    // an object or an editor the dock stays hidden.
+    /// Puts the editor for this object into the dock, after the one that was there has been released. Without
+    /// an object or an editor the dock stays hidden.
     void showEditorOf(SoTypedObject* object);
 
 private:

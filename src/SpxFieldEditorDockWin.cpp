@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxFieldEditorDockWin.h"
 
 #include <scopix/SpxServices.h>

@@ -1,10 +1,11 @@
-// The dock that shows the editor of the selected field.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "SpxEditorDock.h"
 
 class SoField;
 
+/// The dock that shows the editor of the selected field.
 class SpxFieldEditorDockWin : public SpxEditorDock
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxNodeEditor.h"
 
 #include <scopix/SpxServices.h>

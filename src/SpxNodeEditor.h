@@ -1,10 +1,11 @@
-// The dock that shows an editor of the selected node, where a plug-in brings one.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "SpxEditorDock.h"
 
 class SoFieldContainer;
 
+/// The dock that shows an editor of the selected node, where a plug-in brings one.
 class SpxNodeEditor : public SpxEditorDock
 {
     Q_OBJECT

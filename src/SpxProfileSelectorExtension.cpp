@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxProfileSelectorExtension.h"
 
 #include <scopix/SpxPluginsManager.h>

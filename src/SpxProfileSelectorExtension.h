@@ -1,4 +1,4 @@
-// A tool bar with a box of the host's profiles: choosing one makes it the active profile. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExtension.h>
@@ -6,6 +6,7 @@
 class QComboBox;
 class QToolBar;
 
+/// A tool bar with a box of the host's profiles: choosing one makes it the active profile. GUI thread only.
 class SpxProfileSelectorExtension : public SpxExtension
 {
     Q_OBJECT

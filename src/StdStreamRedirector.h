@@ -1,10 +1,4 @@
-// Stands in for the buffer of a stream and hands what is written to it to a callback: blocks unsplit, single
-// characters line by line, collected for each thread apart. Any thread may write; the callback runs on that
-// thread.
-//
-// The thread that makes a redirector also closes it, which puts the stream's previous buffer back. A thread
-// that found this buffer on the stream just before may still write to it a moment later, so keep a closed
-// redirector alive for a while: it passes such text on to the previous buffer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <atomic>
@@ -15,14 +9,21 @@
 #include <string>
 #include <thread>
 
+/// Stands in for the buffer of a stream and hands what is written to it to a callback: blocks unsplit, single
+/// characters line by line, collected for each thread apart. Any thread may write; the callback runs on that
+/// thread.
+///
+/// The thread that makes a redirector also closes it, which puts the stream's previous buffer back. A thread
+/// that found this buffer on the stream just before may still write to it a moment later, so keep a closed
+/// redirector alive for a while: it passes such text on to the previous buffer.
 template <class Char, class Traits = std::char_traits<Char>>
 class StdStreamRedirector : public std::basic_streambuf<Char, Traits>
 {
 public:
     using Stream = std::basic_ostream<Char, Traits>;
     using Buffer = std::basic_streambuf<Char, Traits>;
-    // text ends in NUL. The length is that of a block, and 1 for a collected line, whatever its length; meant
-    // so.
+    /// text ends in NUL. The length is that of a block, and 1 for a collected line, whatever its length; meant
+    /// so.
     using Callback = void(const Char* text, long length, void* data);
 
     StdStreamRedirector(Stream& stream, Callback* callback, void* data)
@@ -43,8 +44,8 @@ public:
         waitForVisitors();
     }
 
-    // Puts the previous buffer back, waits until no other thread is inside the callback, and hands over what
-    // no newline has ended yet. May be called from inside the callback; a second call does nothing.
+    /// Puts the previous buffer back, waits until no other thread is inside the callback, and hands over what
+    /// no newline has ended yet. May be called from inside the callback; a second call does nothing.
     void close()
     {
         if (!m_open)
@@ -67,7 +68,7 @@ protected:
         return length;
     }
 
-    // Returns the character, 0 for the end of the file.
+    /// Returns the character, 0 for the end of the file.
     Int overflow(Int character) override
     {
         const Visit visit(*this);
@@ -86,7 +87,7 @@ protected:
 private:
     using Line = std::basic_string<Char, Traits>;
 
-    // While one lives, close() waits: for every thread but the owner, which cannot wait for itself.
+    /// While one lives, close() waits: for every thread but the owner, which cannot wait for itself.
     class Visit
     {
     public:
@@ -108,7 +109,7 @@ private:
         StdStreamRedirector* m_visited;
     };
 
-    // m_open first: it makes what the constructor wrote visible to this thread.
+    /// m_open first: it makes what the constructor wrote visible to this thread.
     bool isOwner() const { return m_open && std::this_thread::get_id() == m_owner; }
 
     void waitForVisitors() const

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Draws the five icons of the console, each at one, two and three times its size, as PNG files.
 
     tools/make_console_icons.py src/Icons

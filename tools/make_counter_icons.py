@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Draws the icons of the performance-counter tool into src/PerfCounter/Icons, each also at twice its size.
 
 Colours are middle tones, so that the icons read on light and on dark palettes. Only Python's own library is needed.

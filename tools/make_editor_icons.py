@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Draws the 16 x 16 pictograms of the field editors and writes them as XPM data.
 
     tools/make_editor_icons.py > src/FieldEditors/EditorIconData.h

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Writes PNG images with nothing but Python's own library."""
 import struct
 import zlib

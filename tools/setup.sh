@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034
 # Shared by ./run and ./test: brings a Debian 12 machine to where Scopix builds, and builds it.
 # Sourced, never run. Works from any folder; everything it says goes to standard error.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
 """Makes the models in this folder. Needs nothing but Python 3:  ./make_models.py
 
 lighthouse.glb   the model of the pictures in the documentation: named parts, glass, a texture inside the file

@@ -1,4 +1,4 @@
-// What the command line asks for.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QString>
@@ -7,6 +7,7 @@
 namespace scopix
 {
 
+/// What the command line asks for.
 struct CommandLine {
     QString file;
     QStringList plugins;
@@ -21,11 +22,11 @@ struct CommandLine {
 
     QString error; // one sentence; empty when all is well
 
-    // Nobody is there to answer a box.
+    /// Nobody is there to answer a box.
     bool isUnattended() const { return quit || !screenshot.isEmpty(); }
 
-    // `arguments` begin with the program's name. What only concerns the window system (such as -platform) is
-    // passed over.
+    /// `arguments` begin with the program's name. What only concerns the window system (such as -platform) is
+    /// passed over.
     static CommandLine parse(const QStringList& arguments);
     static QString helpText();
     static QString versionText();

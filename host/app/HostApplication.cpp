@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/HostApplication.h"
 
 #include "import/TextureImageLoader.h"

@@ -1,6 +1,4 @@
-// The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in the
-// reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
-// calling start() with an empty command line. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "app/CommandLine.h"
@@ -19,6 +17,9 @@
 namespace scopix
 {
 
+/// The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in the
+/// reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
+/// calling start() with an empty command line. GUI thread only.
 class HostApplication : public QObject
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ public:
 
     explicit HostApplication(const MakeWindow& makeWindow,
                              ProfileFile profiles = ProfileFile(ProfileFile::standardPath()));
-    // Unloads the plug-ins while the window still stands.
+    /// Unloads the plug-ins while the window still stands.
     ~HostApplication() override;
 
     HostServices& services() { return m_services; }
@@ -37,12 +38,12 @@ public:
     HostShell& shell() { return m_shell; }
     HostPluginsManager& plugins() { return m_plugins; }
 
-    // Loads the plug-ins that lie in the standard folders.
+    /// Loads the plug-ins that lie in the standard folders.
     void loadStandardPlugins();
-    // Does what the command line asks for; finished() follows when it is done.
+    /// Does what the command line asks for; finished() follows when it is done.
     void start(const CommandLine& line);
-    // start(), and the event loop until the window is closed or everything is done. Returns the exit status:
-    // 1 when something of the command line could not be done.
+    /// start(), and the event loop until the window is closed or everything is done. Returns the exit status:
+    /// 1 when something of the command line could not be done.
     int run(const CommandLine& line);
 
 signals:

@@ -1,4 +1,4 @@
-// What the host needs of its main window, whatever else the window shows. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QMainWindow>
@@ -8,6 +8,7 @@ class QMenu;
 namespace scopix
 {
 
+/// What the host needs of its main window, whatever else the window shows. GUI thread only.
 class HostWindow : public QMainWindow
 {
     Q_OBJECT
@@ -15,18 +16,18 @@ class HostWindow : public QMainWindow
 public:
     using QMainWindow::QMainWindow;
 
-    // Where the host puts the entries of the extensions, and the profiles. Owned by the window.
+    /// Where the host puts the entries of the extensions, and the profiles. Owned by the window.
     virtual QMenu* viewMenu() = 0;
     virtual QMenu* profilesMenu() = 0;
 
-    // Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this returns.
-    // What was open stays open when it fails. Problems are told through Messages.
+    /// Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this returns.
+    /// What was open stays open when it fails. Problems are told through Messages.
     virtual void openFile(const QString& path) = 0;
-    // Selects a field by its node's name or type. False when there is none, which is told through Messages.
+    /// Selects a field by its node's name or type. False when there is none, which is told through Messages.
     virtual bool selectField(const QString& node, const QString& field) = 0;
-    // Writes a picture of the window. False when it cannot be written, which is told through Messages.
+    /// Writes a picture of the window. False when it cannot be written, which is told through Messages.
     virtual bool saveScreenshot(const QString& path) = 0;
-    // What was asked for at the start has been done, and a person works with the window from now on.
+    /// What was asked for at the start has been done, and a person works with the window from now on.
     virtual void enterInteractiveMode() {}
 
 signals:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/SensorPump.h"
 
 #include <xsg/sensors/SoSensorQueue.h>

@@ -1,5 +1,4 @@
-// Runs the queue of triggered sensors, once per turn of the event loop, and again when a timed one is due.
-// One lives while the host does. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -8,6 +7,8 @@
 namespace scopix
 {
 
+/// Runs the queue of triggered sensors, once per turn of the event loop, and again when a timed one is due.
+/// One lives while the host does. GUI thread only.
 class SensorPump : public QObject
 {
     Q_OBJECT

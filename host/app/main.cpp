@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program: reads the command line, chooses the window system and hands over to the host.
 #include "app/CommandLine.h"
 #include "app/HostApplication.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "document/Autosave.h"
 
 #include "settings/UserSettings.h"

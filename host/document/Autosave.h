@@ -1,6 +1,4 @@
-// Keeps unsaved edits in a file of the user's, so that a crash loses the last seconds and no more: written once the
-// person pauses, taken away when there is nothing unsaved any more. What a crashed session left can be taken up.
-// GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "document/RecoverySlot.h"
@@ -14,32 +12,35 @@ namespace scopix
 
 class SceneDocument;
 
+/// Keeps unsaved edits in a file of the user's, so that a crash loses the last seconds and no more: written once the
+/// person pauses, taken away when there is nothing unsaved any more. What a crashed session left can be taken up.
+/// GUI thread only.
 class Autosave : public QObject
 {
     Q_OBJECT
 
 public:
-    // Of a person: beside their settings.
+    /// Of a person: beside their settings.
     static QString standardFolder();
 
-    // `document` must outlive it. Does nothing until it is started.
+    /// `document` must outlive it. Does nothing until it is started.
     explicit Autosave(SceneDocument& document, QString folder = standardFolder());
-    // Leaves nothing behind, unless there are edits that nobody agreed to drop.
+    /// Leaves nothing behind, unless there are edits that nobody agreed to drop.
     ~Autosave() override;
 
     void start();
-    // How long a person must have paused, in milliseconds; 3000 unless set.
+    /// How long a person must have paused, in milliseconds; 3000 unless set.
     void setPause(int ms) { m_pause.setInterval(ms); }
-    // After how long someone who never pauses is saved too, in milliseconds; 60000 unless set.
+    /// After how long someone who never pauses is saved too, in milliseconds; 60000 unless set.
     void setLimit(int ms) { m_limit.setInterval(ms); }
-    // The edits go on from what another session left: its place becomes this one's.
+    /// The edits go on from what another session left: its place becomes this one's.
     void adopt(std::unique_ptr<RecoverySlot> slot);
-    // The person agreed to lose the edits, or there are none.
+    /// The person agreed to lose the edits, or there are none.
     void drop();
     const QString& getFolder() const { return m_folder; }
 
 signals:
-    // The edits cannot be kept; one sentence. Told once until it works again.
+    /// The edits cannot be kept; one sentence. Told once until it works again.
     void failed(const QString& sentence);
 
 private:

@@ -1,5 +1,4 @@
-// The files that the person opened or saved last, newest first, kept in their configuration and shared by all their
-// sessions. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QStringList>
@@ -7,16 +6,18 @@
 namespace scopix
 {
 
+/// The files that the person opened or saved last, newest first, kept in their configuration and shared by all their
+/// sessions. GUI thread only.
 class RecentFiles
 {
 public:
     static constexpr int Most = 10;
 
-    // `file`: the settings file to keep them in.
+    /// `file`: the settings file to keep them in.
     explicit RecentFiles(QString file);
 
     QStringList list() const;
-    // Puts it first.
+    /// Puts it first.
     void add(const QString& path);
     void remove(const QString& path);
     void clear();

@@ -1,5 +1,4 @@
-// The place of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file that says
-// whose edits these are, and a lock that tells the living from the crashed. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QDateTime>
@@ -11,31 +10,33 @@
 namespace scopix
 {
 
+/// The place of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file that says
+/// whose edits these are, and a lock that tells the living from the crashed. GUI thread only.
 class RecoverySlot
 {
 public:
-    // Of the scene that is edited.
+    /// Of the scene that is edited.
     struct Origin {
         QString path; // of the file it came from, or empty
         QString title;
     };
 
-    // A new place, locked for this session; null where the folder cannot be written.
+    /// A new place, locked for this session; null where the folder cannot be written.
     static std::unique_ptr<RecoverySlot> make(const QString& folder);
-    // What a session left behind that did not end by itself, locked for this one; the newest where there are several,
-    // null where there is none. What sessions that live have is left alone.
+    /// What a session left behind that did not end by itself, locked for this one; the newest where there are several,
+    /// null where there is none. What sessions that live have is left alone.
     static std::unique_ptr<RecoverySlot> findOrphaned(const QString& folder);
 
-    // Lets the lock go. The files stay: whoever comes next finds them as lost.
+    /// Lets the lock go. The files stay: whoever comes next finds them as lost.
     ~RecoverySlot() = default;
 
     QString scenePath() const { return m_base + QStringLiteral(".xsg"); }
     Origin getOrigin() const;
-    // False where it cannot be written.
+    /// False where it cannot be written.
     bool setOrigin(const Origin& origin) const;
     QDateTime getTime() const; // when the edits were written last
 
-    // Takes the files away; the place is of no use any more.
+    /// Takes the files away; the place is of no use any more.
     void remove();
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "document/SceneDocument.h"
 
 #include "services/HostServices.h"

@@ -1,4 +1,4 @@
-// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
@@ -14,45 +14,46 @@ namespace scopix
 
 class HostServices;
 
+/// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread only.
 class SceneDocument : public QObject
 {
     Q_OBJECT
 
 public:
-    // `services` must outlive the document.
+    /// `services` must outlive the document.
     explicit SceneDocument(HostServices& services);
     ~SceneDocument() override;
 
-    // The endings of the names of scene files and of everything that can be opened, in lower case.
+    /// The endings of the names of scene files and of everything that can be opened, in lower case.
     static QString sceneEnding();
     static QStringList fileExtensions();
 
-    // Opens another scene in place of the one before: selection and history go. `path` is the scene file or model it
-    // came from, or empty; `title` names it.
+    /// Opens another scene in place of the one before: selection and history go. `path` is the scene file or model it
+    /// came from, or empty; `title` names it.
     void begin(SoNode* root, const QString& path, const QString& title);
-    // As begin(), with edits that are in no file.
+    /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title);
 
     SoNode* getRoot() const { return m_root.get(); }
     const QString& getPath() const { return m_path; }
     const QString& getTitle() const { return m_title; }
-    // True when it came from a scene file or was saved as one, so that saving needs no name.
+    /// True when it came from a scene file or was saved as one, so that saving needs no name.
     bool hasSceneFile() const;
 
-    // There are edits since it was opened or saved that undoing has not taken back.
+    /// There are edits since it was opened or saved that undoing has not taken back.
     bool isModified() const;
-    // Grows with every edit, undo and redo.
+    /// Grows with every edit, undo and redo.
     quint64 getEditCount() const { return m_editCount; }
 
-    // Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever happens.
-    // One sentence where it cannot be written, else an empty text.
+    /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever happens.
+    /// One sentence where it cannot be written, else an empty text.
     QString save(const QString& path);
 
 signals:
-    // The views show this root now; the one before is alive until all have been told.
+    /// The views show this root now; the one before is alive until all have been told.
     void rootChanged(SoNode* root);
     void edited();
-    // Path, title or whether it is modified.
+    /// Path, title or whether it is modified.
     void stateChanged();
 
 private:

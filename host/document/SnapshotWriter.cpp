@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "document/SnapshotWriter.h"
 
 #include <xsg/files/SoSceneFile.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "document/TexturePaths.h"
 
 #include <xsg/nodes/groups/SoGroup.h>

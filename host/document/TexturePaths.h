@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names of picture files in a scene, which may be relative to the folder of the scene's own file.
 #pragma once
 
@@ -7,10 +8,10 @@ class SoNode;
 namespace scopix
 {
 
-// Relative names start from this folder.
+/// Relative names start from this folder.
 void setPictureFolder(SoNode* root, const QString& folder);
-// The same, and names that started from another folder are changed to lead to the same files as before. Names that lead
-// nowhere, and absolute ones, stay as they are.
+/// The same, and names that started from another folder are changed to lead to the same files as before. Names that lead
+/// nowhere, and absolute ones, stay as they are.
 void movePictures(SoNode* root, const QString& folder);
 
 } // namespace scopix

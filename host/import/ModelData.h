@@ -1,5 +1,4 @@
-// A model as it was read from a file, before it becomes nodes: plain data, so that a thread of its own can read it.
-// Places in the lists stand for references; -1 is none.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbMatrix.h>
@@ -12,6 +11,8 @@
 namespace scopix
 {
 
+/// A model as it was read from a file, before it becomes nodes: plain data, so that a thread of its own can read it.
+/// Places in the lists stand for references; -1 is none.
 struct ModelData {
     struct Mesh {
         std::string name;
@@ -36,7 +37,7 @@ struct ModelData {
         bool clampT = false;
     };
 
-    // Rows from the bottom up.
+    /// Rows from the bottom up.
     struct Picture {
         std::string name;
         int width = 0;
@@ -67,7 +68,7 @@ struct ModelData {
         float farDistance = 1000;
     };
 
-    // Node 0 is the root; children stand behind their parents.
+    /// Node 0 is the root; children stand behind their parents.
     struct Node {
         std::string name;
         SbMatrix matrix;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import/ModelFile.h"
 
 #include "import/ModelReadResult.h"

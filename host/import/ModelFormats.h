@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The kinds of model files that can be opened.
 #pragma once
 
@@ -6,7 +7,7 @@
 namespace scopix
 {
 
-// The endings of file names that can be read, in lower case, the most common first.
+/// The endings of file names that can be read, in lower case, the most common first.
 QStringList modelEndings();
 
 } // namespace scopix

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import/ModelImport.h"
 
 #include "import/FileChecks.h"

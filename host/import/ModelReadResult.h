@@ -1,4 +1,4 @@
-// What reading a model file gave.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "import/ModelData.h"
@@ -8,6 +8,7 @@
 namespace scopix
 {
 
+/// What reading a model file gave.
 struct ModelReadResult {
     ModelData data;
     QString error; // one sentence, or empty

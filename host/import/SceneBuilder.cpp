@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import/SceneBuilder.h"
 
 #include "import/TransformBuilder.h"

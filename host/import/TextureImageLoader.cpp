@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import/TextureImageLoader.h"
 
 #include "import/ImageConversion.h"

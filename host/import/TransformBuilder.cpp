@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "import/TransformBuilder.h"
 
 #include <xsg/nodes/transforms/SoMatrixTransform.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/FieldListModel.h"
 
 #include "panels/FieldStateIcons.h"

@@ -1,5 +1,4 @@
-// The fields of one node, a row each: name, type and value. A value becomes text only when a view asks for it.
-// Follows the fields once per turn of the sensor queue. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoFieldContainer.h>
@@ -14,23 +13,25 @@ class SoSensor;
 namespace scopix
 {
 
+/// The fields of one node, a row each: name, type and value. A value becomes text only when a view asks for it.
+/// Follows the fields once per turn of the sensor queue. GUI thread only.
 class FieldListModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
     enum Column { NameColumn, TypeColumn, ValueColumn, ColumnCount };
-    // Bool each.
+    /// Bool each.
     enum Role { DefaultRole = Qt::UserRole, IgnoredRole, ConnectedRole };
 
     explicit FieldListModel(QObject* parent = nullptr);
     ~FieldListModel() override;
 
-    // Null shows nothing. Not kept alive: the model empties itself before the container goes.
+    /// Null shows nothing. Not kept alive: the model empties itself before the container goes.
     void setContainer(SoFieldContainer* container);
     SoFieldContainer* getContainer() const { return m_container; }
 
-    // Null for an invalid index.
+    /// Null for an invalid index.
     SoField* fieldAt(const QModelIndex& index) const;
     QModelIndex indexOf(const SoField* field) const;
 

@@ -1,4 +1,4 @@
-// Shows the fields of the selected node and tells which one the person selects.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QTreeView>
@@ -11,6 +11,7 @@ namespace scopix
 
 class FieldListModel;
 
+/// Shows the fields of the selected node and tells which one the person selects.
 class FieldListView : public QTreeView
 {
     Q_OBJECT
@@ -21,11 +22,11 @@ public:
     void setContainer(SoFieldContainer* container);
     FieldListModel& getModel() const { return *m_model; }
 
-    // Selects the field's row, showing its node first where it is another one. Emits nothing.
+    /// Selects the field's row, showing its node first where it is another one. Emits nothing.
     void showField(const SoField* field);
 
 signals:
-    // Null when the selection is taken away.
+    /// Null when the selection is taken away.
     void fieldSelected(SoField* field);
 
 protected:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/NodeIcons.h"
 
 #include "theme/DrawnIcon.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Small pictures that tell kinds of nodes apart at a glance. Readable on light and dark grounds.
 #pragma once
 
@@ -8,7 +9,7 @@ class QIcon;
 namespace scopix
 {
 
-// Drawn once per type and kept.
+/// Drawn once per type and kept.
 QIcon nodeIcon(SoType type);
 
 } // namespace scopix

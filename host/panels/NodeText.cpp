@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/NodeText.h"
 
 #include <xsg/core/SoFieldContainer.h>

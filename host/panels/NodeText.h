@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How a node is called where people read it.
 #pragma once
 
@@ -10,10 +11,10 @@ class SoFieldContainer;
 namespace scopix
 {
 
-// Names hold Latin-1.
+/// Names hold Latin-1.
 QString toQString(SbName name);
 SbName toName(const QString& text);
-// The node's name, or its type's where it has none.
+/// The node's name, or its type's where it has none.
 QString nodeText(const SoFieldContainer& node);
 
 } // namespace scopix

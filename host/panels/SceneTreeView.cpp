@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/SceneTreeView.h"
 
 #include "panels/SceneTreeModel.h"

@@ -1,4 +1,4 @@
-// Shows the scene's tree and tells which node the person selects in it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QTreeView>
@@ -11,6 +11,7 @@ namespace scopix
 
 class SceneTreeModel;
 
+/// Shows the scene's tree and tells which node the person selects in it.
 class SceneTreeView : public QTreeView
 {
     Q_OBJECT
@@ -18,18 +19,18 @@ class SceneTreeView : public QTreeView
 public:
     explicit SceneTreeView(QWidget* parent = nullptr);
 
-    // Starts at the root, with its first level open. Null empties the tree.
+    /// Starts at the root, with its first level open. Null empties the tree.
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
 
-    // Selects the node's row and opens the way to it. A row of the same node that is selected already stays, whichever
-    // of its places it is. Emits nothing.
+    /// Selects the node's row and opens the way to it. A row of the same node that is selected already stays, whichever
+    /// of its places it is. Emits nothing.
     void showNode(const SoNode* node);
-    // As if the person had clicked the row at the end of this path, which starts at the root.
+    /// As if the person had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);
 
 signals:
-    // Null when the selected node left the scene; it is still alive then.
+    /// Null when the selected node left the scene; it is still alive then.
     void nodeSelected(SoNode* node);
 
 protected:

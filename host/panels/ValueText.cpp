@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/ValueText.h"
 
 #include <xsg/fields/SoMFString.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plugins/HostPluginsManager.h"
 
 #include "support/CatchExceptions.h"

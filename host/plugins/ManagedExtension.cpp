@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "plugins/ManagedExtension.h"
 
 #include "support/CatchExceptions.h"

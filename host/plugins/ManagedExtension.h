@@ -1,5 +1,4 @@
-// One extension of a loaded plug-in, and how far the host has brought it: loaded, active. Every call into it
-// is guarded; one that throws is told in a sentence. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QString>
@@ -13,6 +12,8 @@ namespace scopix
 
 class HostShell;
 
+/// One extension of a loaded plug-in, and how far the host has brought it: loaded, active. Every call into it
+/// is guarded; one that throws is told in a sentence. GUI thread only.
 class ManagedExtension
 {
 public:
@@ -21,9 +22,9 @@ public:
     ManagedExtension(SpxExtension* extension, const QString& plugin, HostShell& shell, Report report);
 
     SpxExtension* extension() const { return m_extension; }
-    // "Plug-in/Extension".
+    /// "Plug-in/Extension".
     const QString& name() const { return m_name; }
-    // Editors are activated by the docks that show them, never by the host.
+    /// Editors are activated by the docks that show them, never by the host.
     bool isEditor() const { return m_editor; }
     bool isActive() const { return m_active; }
     bool isLoaded() const { return m_loaded; }

@@ -1,6 +1,4 @@
-// One loaded plug-in library and the plug-in object that it made. Unloading runs the library's unloadPlugin
-// and takes the library out of the process; everything of the plug-in must have been let go before. GUI
-// thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QLibrary>
@@ -13,10 +11,13 @@ class SpxPlugin;
 namespace scopix
 {
 
+/// One loaded plug-in library and the plug-in object that it made. Unloading runs the library's unloadPlugin
+/// and takes the library out of the process; everything of the plug-in must have been let go before. GUI
+/// thread only.
 class PluginLibrary
 {
 public:
-    // Null when the library cannot be used; `error` then names the file and what was expected of it.
+    /// Null when the library cannot be used; `error` then names the file and what was expected of it.
     static std::unique_ptr<PluginLibrary> load(const QString& path, QString& error);
     ~PluginLibrary();
     PluginLibrary(const PluginLibrary&) = delete;
@@ -24,7 +25,7 @@ public:
 
     SpxPlugin* plugin() const { return m_plugin; }
     QString path() const { return m_library.fileName(); }
-    // The plug-in's own name, or the file's where it gives none.
+    /// The plug-in's own name, or the file's where it gives none.
     QString name() const;
 
 private:

@@ -1,5 +1,4 @@
-// A profile and its choice of extensions. The choice is kept by name, so that it outlives a plug-in that is
-// missing today. Extensions are named "Plug-in/Extension".
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxProfile.h>
@@ -9,7 +8,7 @@
 namespace scopix
 {
 
-// Either all extensions of a kind or those named.
+/// Either all extensions of a kind or those named.
 struct ExtensionChoice {
     bool all = false;
     QStringList names;
@@ -23,6 +22,8 @@ struct ProfileChoice {
     ExtensionChoice tools; // extensions other than editors
 };
 
+/// A profile and its choice of extensions. The choice is kept by name, so that it outlives a plug-in that is
+/// missing today. Extensions are named "Plug-in/Extension".
 class HostProfile : public SpxProfile
 {
 public:
@@ -31,7 +32,7 @@ public:
     const ProfileChoice& choice() const { return m_choice; }
     void setChoice(ProfileChoice choice);
     QString name() const { return m_choice.name; }
-    // The profile that controls everything; it cannot be changed or deleted.
+    /// The profile that controls everything; it cannot be changed or deleted.
     bool isDefault() const { return m_choice.name == defaultName(); }
     static QString defaultName() { return QStringLiteral("Default"); }
 

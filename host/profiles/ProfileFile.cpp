@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "profiles/ProfileFile.h"
 
 #include "settings/UserSettings.h"

@@ -1,9 +1,4 @@
-// The settings file of the profiles: JSON, to be read and edited by a person.
-//
-//     { "active": "Edit",
-//       "profiles": [
-//         { "name": "Default", "editors": "all", "tools": "all" },
-//         { "name": "Edit", "editors": "all", "tools": [ "SpxDefaults/Field Editor" ] } ] }
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "profiles/HostProfile.h"
@@ -20,6 +15,12 @@ struct ProfileSettings {
     QString active;
 };
 
+/// The settings file of the profiles: JSON, to be read and edited by a person.
+///
+///     { "active": "Edit",
+///       "profiles": [
+///         { "name": "Default", "editors": "all", "tools": "all" },
+///         { "name": "Edit", "editors": "all", "tools": [ "SpxDefaults/Field Editor" ] } ] }
 class ProfileFile
 {
 public:
@@ -27,18 +28,18 @@ public:
         : m_path(std::move(path))
     {
     }
-    // In the user's configuration folder.
+    /// In the user's configuration folder.
     static QString standardPath();
-    // What holds until somebody changes it: "Default", "Edit" and "Measure".
+    /// What holds until somebody changes it: "Default", "Edit" and "Measure".
     static ProfileSettings shipped();
 
-    // The file's settings, or the shipped ones. A damaged file is kept under another name, and `error` says
-    // so.
+    /// The file's settings, or the shipped ones. A damaged file is kept under another name, and `error` says
+    /// so.
     ProfileSettings read(QString& error) const;
-    // Empty when written, else why not, in one sentence.
+    /// Empty when written, else why not, in one sentence.
     QString write(const ProfileSettings& settings) const;
 
-    // Why the text cannot be a profile's name beside the others; empty when it can.
+    /// Why the text cannot be a profile's name beside the others; empty when it can.
     static QString nameProblem(const QString& name, const std::vector<ProfileChoice>& others);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "profiles/ProfilesDialog.h"
 
 #include "plugins/HostPluginsManager.h"

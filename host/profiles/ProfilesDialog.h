@@ -1,5 +1,4 @@
-// Manages the profiles: makes one from the active one, renames, deletes, and chooses the extensions that each
-// controls. Nothing changes before OK. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "profiles/HostProfile.h"
@@ -20,12 +19,14 @@ namespace scopix
 
 class HostPluginsManager;
 
+/// Manages the profiles: makes one from the active one, renames, deletes, and chooses the extensions that each
+/// controls. Nothing changes before OK. GUI thread only.
 class ProfilesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // The manager must outlive the dialog.
+    /// The manager must outlive the dialog.
     explicit ProfilesDialog(HostPluginsManager& manager, QWidget* parent = nullptr);
 
     void accept() override;

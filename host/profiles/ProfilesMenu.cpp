@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "profiles/ProfilesMenu.h"
 
 #include "plugins/HostPluginsManager.h"

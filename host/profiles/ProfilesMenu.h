@@ -1,5 +1,4 @@
-// Fills a menu with the profiles, the active one marked, and with the way to the dialog that manages them, so
-// that a profile whose extensions offer no way out is no trap. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -14,12 +13,14 @@ namespace scopix
 class HostPluginsManager;
 class ProfilesDialog;
 
+/// Fills a menu with the profiles, the active one marked, and with the way to the dialog that manages them, so
+/// that a profile whose extensions offer no way out is no trap. GUI thread only.
 class ProfilesMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    // The manager must outlive this; the menu becomes its parent.
+    /// The manager must outlive this; the menu becomes its parent.
     ProfilesMenu(HostPluginsManager& manager, QMenu& menu);
 
 private:

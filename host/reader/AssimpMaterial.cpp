@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reader/AssimpMaterial.h"
 
 #include "import/ImageConversion.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reader/AssimpModel.h"
 
 #include "reader/AssimpMaterial.h"

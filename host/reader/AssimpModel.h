@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the importer's scene to a model's plain data.
 #pragma once
 
@@ -10,7 +11,7 @@ struct aiScene;
 namespace scopix
 {
 
-// `folder`: where the model's file is, for pictures beside it.
+/// `folder`: where the model's file is, for pictures beside it.
 ModelData fromAssimp(const aiScene& scene, const QString& folder);
 
 } // namespace scopix

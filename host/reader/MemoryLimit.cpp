@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reader/MemoryLimit.h"
 
 #include <QDirIterator>

@@ -1,5 +1,4 @@
-// While it lives, the calling thread works in the C locale, numbers with a decimal point, whatever the user's: the
-// model formats want that, and the importer's number routines follow the locale.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <locale.h>
@@ -7,11 +6,13 @@
 namespace scopix
 {
 
+/// While it lives, the calling thread works in the C locale, numbers with a decimal point, whatever the user's: the
+/// model formats want that, and the importer's number routines follow the locale.
 class ScopedCLocale
 {
 public:
     ScopedCLocale()
-        // The whole "C" locale is there already; one for the numbers alone would have to be made.
+        /// The whole "C" locale is there already; one for the numbers alone would have to be made.
         : m_before(uselocale(newlocale(LC_ALL_MASK, "C", nullptr)))
     {
     }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "services/HostServices.h"
 
 #include <scopix/SpxCommand.h>

@@ -1,5 +1,4 @@
-// The services that the host offers to extensions: selection, and undo through the history of edits. Names
-// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "undo/GestureTracker.h"
@@ -11,6 +10,8 @@
 namespace scopix
 {
 
+/// The services that the host offers to extensions: selection, and undo through the history of edits. Names
+/// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
 class HostServices : public SpxServices
 {
     Q_OBJECT
@@ -19,7 +20,7 @@ public:
     HostServices();
     ~HostServices() override;
 
-    // As Selection does; the signals of SpxServices tell it.
+    /// As Selection does; the signals of SpxServices tell it.
     void select(SoFieldContainer* node) { m_selection.select(node); }
     void select(SoField* field) { m_selection.select(field); }
     void clearSelection() { m_selection.clear(); }
@@ -33,7 +34,7 @@ public:
     QUndoStack& undoStack() { return m_history.stack(); }
 
 signals:
-    // A command threw; one sentence.
+    /// A command threw; one sentence.
     void commandFailed(const QString& sentence);
 
 private:

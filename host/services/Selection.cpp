@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "services/Selection.h"
 
 #include <xsg/core/SoFieldContainer.h>

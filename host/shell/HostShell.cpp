@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/HostShell.h"
 
 #include "support/CatchExceptions.h"

@@ -1,6 +1,4 @@
-// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
-// saved; keeps the place of one that goes until it comes back; hands every widget back without a parent.
-// Knows which extension owns which widget and lets the person show and hide them. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxShell.h>
@@ -18,12 +16,15 @@ class QWidget;
 namespace scopix
 {
 
+/// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
+/// saved; keeps the place of one that goes until it comes back; hands every widget back without a parent.
+/// Knows which extension owns which widget and lets the person show and hide them. GUI thread only.
 class HostShell : public QObject, public SpxShell
 {
     Q_OBJECT
 
 public:
-    // The window must outlive the shell.
+    /// The window must outlive the shell.
     explicit HostShell(QMainWindow& window);
     ~HostShell() override;
 
@@ -34,31 +35,31 @@ public:
     void addToolBar(QToolBar* toolBar, Qt::ToolBarArea area) override;
     void removeToolBar(QToolBar* toolBar) override;
 
-    // Those that are active now, in the order in which they were attached.
+    /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
 
-    // The extension whose activate() runs now, to which the widgets belong that it adds; null afterwards.
+    /// The extension whose activate() runs now, to which the widgets belong that it adds; null afterwards.
     void setActivating(SpxExtension* extension) { m_activating = extension; }
-    // Takes out what the extension left behind. It may already be gone.
+    /// Takes out what the extension left behind. It may already be gone.
     void forget(const SpxExtension* extension);
 
-    // The person shows or hides what an extension has.
+    /// The person shows or hides what an extension has.
     void setShown(SpxExtension* extension, bool shown);
     bool isHiddenByPerson(const SpxExtension* extension) const;
-    // The extension of this name comes up hidden and waits in the menu for the person; in this session only.
+    /// The extension of this name comes up hidden and waits in the menu for the person; in this session only.
     void keepHiddenAtFirst(const QString& name) { m_waiting.insert(name); }
     bool comesUpHidden(const SpxExtension* extension) const;
 
-    // Where everything stands, and which tools the person has hidden.
+    /// Where everything stands, and which tools the person has hidden.
     QByteArray saveLayout() const;
-    // False when the text is no layout; nothing changes then.
+    /// False when the text is no layout; nothing changes then.
     bool restoreLayout(const QByteArray& layout);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void extensionsChanged();
-    // An extension threw; one sentence.
+    /// An extension threw; one sentence.
     void failed(const QString& sentence);
 
 private:

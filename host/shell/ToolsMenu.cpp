@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "shell/ToolsMenu.h"
 
 #include "shell/HostShell.h"

@@ -1,5 +1,4 @@
-// Fills the end of a menu with an entry for each active extension that is not an editor, checked while it is
-// shown. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QList>
@@ -14,12 +13,14 @@ namespace scopix
 
 class HostShell;
 
+/// Fills the end of a menu with an entry for each active extension that is not an editor, checked while it is
+/// shown. GUI thread only.
 class ToolsMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    // The shell must outlive this; the menu becomes its parent.
+    /// The shell must outlive this; the menu becomes its parent.
     ToolsMenu(HostShell& shell, QMenu& menu);
 
 private:

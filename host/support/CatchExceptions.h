@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Calls into plug-in code, out of which no exception may come.
 #pragma once
 
@@ -8,7 +9,7 @@
 namespace scopix
 {
 
-// Empty when the call returned, else what it threw, in words.
+/// Empty when the call returned, else what it threw, in words.
 template <class Call>
 QString catchExceptions(Call&& what)
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/DeferredUntilNonModal.h"
 
 #include <QApplication>

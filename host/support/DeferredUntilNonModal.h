@@ -1,5 +1,4 @@
-// Runs a callback in a coming turn of the event loop, once no modal dialog is open. Asked again before it
-// ran, it still runs once. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -9,6 +8,8 @@
 namespace scopix
 {
 
+/// Runs a callback in a coming turn of the event loop, once no modal dialog is open. Asked again before it
+/// ran, it still runs once. GUI thread only.
 class DeferredUntilNonModal : public QObject
 {
     Q_OBJECT
@@ -17,7 +18,7 @@ public:
     explicit DeferredUntilNonModal(std::function<void()> callback, QObject* parent = nullptr);
 
     void request();
-    // Runs now what was requested; nothing otherwise.
+    /// Runs now what was requested; nothing otherwise.
     void runNow();
     void cancel();
     bool isRequested() const { return m_requested; }

@@ -1,6 +1,4 @@
-// What the host has to say to the person: on standard error, in the status bar and, for what went wrong while
-// somebody watches, in a message box. Without a person, every message box of the program, a plug-in's too, is
-// closed at once and its text printed to standard error. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -12,6 +10,9 @@ class QWidget;
 namespace scopix
 {
 
+/// What the host has to say to the person: on standard error, in the status bar and, for what went wrong while
+/// somebody watches, in a message box. Without a person, every message box of the program, a plug-in's too, is
+/// closed at once and its text printed to standard error. GUI thread only.
 class UserNotifier : public QObject
 {
     Q_OBJECT
@@ -20,22 +21,22 @@ public:
     explicit UserNotifier(QObject* parent = nullptr);
     ~UserNotifier() override;
 
-    // True, as at first, when somebody is there to read and close a box.
+    /// True, as at first, when somebody is there to read and close a box.
     void setAttended(bool attended);
     bool isAttended() const { return m_attended; }
-    // The window over which boxes open; not owned.
+    /// The window over which boxes open; not owned.
     void setWindow(QWidget* window) { m_window = window; }
 
-    // Something went wrong; one clear sentence.
+    /// Something went wrong; one clear sentence.
     void error(const QString& sentence);
-    // Good to know; shown in the status bar only.
+    /// Good to know; shown in the status bar only.
     void info(const QString& sentence);
     int errorCount() const { return m_errorCount; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    // For the status bar.
+    /// For the status bar.
     void told(const QString& sentence);
 
 private:

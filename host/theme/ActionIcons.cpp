@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "theme/ActionIcons.h"
 
 #include "theme/DrawnIcon.h"

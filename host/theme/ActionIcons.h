@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The icons of the tool bar, readable on light and dark grounds.
 #pragma once
 

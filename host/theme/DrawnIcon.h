@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes icons out of a few strokes of a painter, sharp at normal and at double density.
 #pragma once
 
@@ -7,7 +8,7 @@
 namespace scopix
 {
 
-// `draw` paints on a square of `size` by `size`, without a pen at first.
+/// `draw` paints on a square of `size` by `size`, without a pen at first.
 template <class Draw>
 void addDrawing(QIcon& icon, QIcon::Mode mode, int size, Draw draw)
 {
@@ -24,7 +25,7 @@ void addDrawing(QIcon& icon, QIcon::Mode mode, int size, Draw draw)
     }
 }
 
-// An icon that keeps its colours in a selected row, which styles would tint.
+/// An icon that keeps its colours in a selected row, which styles would tint.
 template <class Draw>
 QIcon drawnIcon(int size, Draw draw)
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "theme/Theme.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The colours of the program, dark and light.
 #pragma once
 
@@ -11,14 +12,14 @@ namespace scopix
 
 enum class Theme { System, Dark, Light };
 
-// "dark", "light", anything else: the system's.
+/// "dark", "light", anything else: the system's.
 Theme themeFromName(const QString& name);
 QString themeName(Theme theme);
-// Gives the whole program this look.
+/// Gives the whole program this look.
 void applyTheme(Theme theme);
 
 bool isDark(const QPalette& palette);
-// Behind the scene.
+/// Behind the scene.
 QColor groundColor(const QPalette& palette);
 
 } // namespace scopix

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "undo/GestureTracker.h"
 
 #include "undo/TextInput.h"

@@ -1,15 +1,4 @@
-// Tells which acts of the person belong together. It watches every event of the program and gives each
-// gesture a number, from its begin to its end and never by a clock:
-//
-//   mouse     from the press until the release of the last button has been delivered;
-//   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends
-//   the run
-//             at the next key;
-//   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
-//   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
-//   dialog    what is done in a modal dialog belongs to the gesture that opened it.
-//
-// GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -24,19 +13,31 @@ class QWidget;
 namespace scopix
 {
 
+/// Tells which acts of the person belong together. It watches every event of the program and gives each
+/// gesture a number, from its begin to its end and never by a clock:
+///
+///   mouse     from the press until the release of the last button has been delivered;
+///   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends
+///   the run
+///             at the next key;
+///   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
+///   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
+///   dialog    what is done in a modal dialog belongs to the gesture that opened it.
+///
+/// GUI thread only.
 class GestureTracker : public QObject
 {
     Q_OBJECT
 
 public:
-    // 0: no gesture.
+    /// 0: no gesture.
     using Gesture = quint64;
 
-    // Watches the running QApplication.
+    /// Watches the running QApplication.
     explicit GestureTracker(QObject* parent = nullptr);
     ~GestureTracker() override;
 
-    // The gesture to which what happens now belongs.
+    /// The gesture to which what happens now belongs.
     Gesture current() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "undo/TextInput.h"
 
 #include <QAbstractSpinBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "undo/UndoHistory.h"
 
 #include "support/CatchExceptions.h"

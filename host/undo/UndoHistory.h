@@ -1,5 +1,4 @@
-// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
-// gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "undo/GestureTracker.h"
@@ -20,12 +19,14 @@ namespace scopix
 class UndoStep;
 class UndoEntry;
 
+/// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
+/// gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
 class UndoHistory : public QObject
 {
     Q_OBJECT
 
 public:
-    // What the host notes with each command.
+    /// What the host notes with each command.
     struct CommandContext {
         QString text;                                 // names the step
         std::vector<const SoFieldContainer*> touched; // empty: not known
@@ -37,18 +38,18 @@ public:
 
     QUndoStack& stack() { return m_stack; }
 
-    // Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
-    // is being undone or redone right now.
+    /// Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
+    /// is being undone or redone right now.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
-    // Drops the steps that touch the container, and those of which it is not known what they touch.
+    /// Drops the steps that touch the container, and those of which it is not known what they touch.
     void forget(const SoFieldContainer* container);
-    // Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
+    /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
 
 signals:
-    // A command was executed, or steps were undone or redone.
+    /// A command was executed, or steps were undone or redone.
     void acted();
-    // A command threw; the sentence names the step.
+    /// A command threw; the sentence names the step.
     void failed(const QString& sentence);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "undo/UndoShortcutFilter.h"
 
 #include "undo/TextInput.h"

@@ -1,6 +1,4 @@
-// Gives Ctrl+Z and Ctrl+Shift+Z to the undo stack wherever the focus is in the window, its floating docks and
-// popups, except while the focused input holds typing that has not been applied: then they are the input's.
-// GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -13,12 +11,15 @@ class QWidget;
 namespace scopix
 {
 
+/// Gives Ctrl+Z and Ctrl+Shift+Z to the undo stack wherever the focus is in the window, its floating docks and
+/// popups, except while the focused input holds typing that has not been applied: then they are the input's.
+/// GUI thread only.
 class UndoShortcutFilter : public QObject
 {
     Q_OBJECT
 
 public:
-    // Both must outlive this.
+    /// Both must outlive this.
     UndoShortcutFilter(QUndoStack& stack, QWidget& window, QObject* parent = nullptr);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "undo/UndoStep.h"
 
 #include "support/CatchExceptions.h"

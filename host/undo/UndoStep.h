@@ -1,4 +1,4 @@
-// One step of the undo history: the commands of one gesture. Part of UndoHistory.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "undo/UndoHistory.h"
@@ -8,6 +8,7 @@
 namespace scopix
 {
 
+/// One step of the undo history: the commands of one gesture. Part of UndoHistory.
 class UndoStep
 {
 public:
@@ -20,7 +21,7 @@ public:
 
     bool touches(const SoFieldContainer* container) const;
     bool touchesUnknown() const { return m_context.touched.empty(); }
-    // Never runs its commands again.
+    /// Never runs its commands again.
     void drop();
     bool isDropped() const { return m_dropped; }
 
@@ -38,14 +39,14 @@ private:
     bool m_dropped = false;
 };
 
-// The step's place on the stack; the stack may be rebuilt around it.
+/// The step's place on the stack; the stack may be rebuilt around it.
 class UndoEntry : public QUndoCommand
 {
 public:
     UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step);
 
     void undo() override;
-    // Does nothing the first time, when the stack takes it in: its commands have been executed.
+    /// Does nothing the first time, when the stack takes it in: its commands have been executed.
     void redo() override;
     const std::shared_ptr<UndoStep>& step() const { return m_step; }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/SceneCamera.h"
 
 #include "viewport/TargetedTraversal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/SceneView.h"
 
 #include "theme/Theme.h"

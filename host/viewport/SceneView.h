@@ -1,8 +1,4 @@
-// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause only
-// while something in the scene turns as time goes by. Left button turns, middle button (or Shift and the left
-// one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double click or F
-// shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with Shift they
-// move, plus and minus come nearer and go away. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "viewport/ViewCamera.h"
@@ -24,6 +20,11 @@ namespace scopix
 class ViewSurface;
 struct ViewContent;
 
+/// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause only
+/// while something in the scene turns as time goes by. Left button turns, middle button (or Shift and the left
+/// one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double click or F
+/// shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with Shift they
+/// move, plus and minus come nearer and go away. GUI thread only.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -34,40 +35,40 @@ public:
     explicit SceneView(QWidget* parent = nullptr, Drawing drawing = Drawing::Best);
     ~SceneView() override;
 
-    // Goes home in it. Null gives the empty ground.
+    /// Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
-    // Marks the node in the picture; null marks none. The node may go at any time.
+    /// Marks the node in the picture; null marks none. The node may go at any time.
     void setHighlight(const SoNode* node);
 
-    // Edges instead of surfaces.
+    /// Edges instead of surfaces.
     void setWireframe(bool on);
     bool isWireframe() const { return m_wireframe; }
-    // In a corner of the picture, what it took to draw it.
+    /// In a corner of the picture, what it took to draw it.
     void setShowsStatistics(bool on);
 
-    // How a new scene is seen: through its own camera, or else everything. See ViewCamera.
+    /// How a new scene is seen: through its own camera, or else everything. See ViewCamera.
     void goHome();
     void viewAll();
-    // Shows all of the node, or of everything where it has nothing to see.
+    /// Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
 
-    // The view's own, never part of the scene. Going home and a change of the scene may put another in its place.
+    /// The view's own, never part of the scene. Going home and a change of the scene may put another in its place.
     SoCamera& getCamera() { return m_camera.get(); }
-    // What is at this place of the widget.
+    /// What is at this place of the widget.
     std::optional<SoPickedPoint> pick(const QPoint& place);
-    // Pictures drawn so far.
+    /// Pictures drawn so far.
     int getDrawCount() const;
-    // Whether time may go by in the scene, as it does from the start; without it a picture is the same
-    // whenever it is taken.
+    /// Whether time may go by in the scene, as it does from the start; without it a picture is the same
+    /// whenever it is taken.
     void setAnimated(bool on);
-    // Whether time goes by in the scene.
+    /// Whether time goes by in the scene.
     bool isAnimating() const { return m_ticks.isActive(); }
 
     QSize sizeHint() const override { return {720, 560}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
 
 signals:
-    // An empty path: the ground was clicked.
+    /// An empty path: the ground was clicked.
     void picked(const SoPath& path);
     void viewSelectedRequested();
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/Screenshot.h"
 
 #include <xsg/sensors/SoSensorQueue.h>

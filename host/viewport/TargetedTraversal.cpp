@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/TargetedTraversal.h"
 
 namespace scopix

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/ViewCamera.h"
 
 #include "viewport/NodeBounds.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "viewport/ViewSurface.h"
 
 #include <xsg/render/SoOffscreenRenderer.h>

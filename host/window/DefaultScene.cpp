@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/DefaultScene.h"
 
 #include <xsg/nodes/properties/SoComplexity.h>

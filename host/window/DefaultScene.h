@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scene that is open when no file is.
 #pragma once
 
@@ -6,7 +7,7 @@
 namespace scopix
 {
 
-// A few lit solids, and a node that has a field of every type, so that every editor can be tried.
+/// A few lit solids, and a node that has a field of every type, so that every editor can be tried.
 SoRef<SoSeparator> makeDefaultScene();
 
 } // namespace scopix

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/FileMenu.h"
 
 #include "theme/ActionIcons.h"

@@ -1,4 +1,4 @@
-// The menu of what can be done with files, with the recent ones. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -11,12 +11,13 @@ namespace scopix
 
 class SceneFiles;
 
+/// The menu of what can be done with files, with the recent ones. GUI thread only.
 class FileMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    // Fills `menu`, which owns it; the files must outlive it.
+    /// Fills `menu`, which owns it; the files must outlive it.
     FileMenu(QMenu& menu, SceneFiles& files);
     QAction* getOpenAction() const { return m_open; }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/MainWindow.h"
 
 #include "services/HostServices.h"

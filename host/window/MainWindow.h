@@ -1,5 +1,4 @@
-// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
-// around it. Opens scenes and models. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "app/HostWindow.h"
@@ -19,16 +18,18 @@ class UserNotifier;
 class SceneTreeView;
 class SceneView;
 
+/// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
+/// around it. Opens scenes and models. GUI thread only.
 class MainWindow : public HostWindow
 {
     Q_OBJECT
 
 public:
-    // Both must outlive the window. Starts with the shipped scene.
+    /// Both must outlive the window. Starts with the shipped scene.
     MainWindow(HostServices& services, UserNotifier& notifier);
     ~MainWindow() override;
 
-    // Shows this scene, which comes from no file, instead of the one before; `title` names it.
+    /// Shows this scene, which comes from no file, instead of the one before; `title` names it.
     void setScene(SoNode* root, const QString& title);
     SoNode* getScene() const { return m_files.getDocument().getRoot(); }
     SceneFiles& getFiles() { return m_files; }

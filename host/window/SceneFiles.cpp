@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "window/SceneFiles.h"
 
 #include "services/HostServices.h"

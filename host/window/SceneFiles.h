@@ -1,5 +1,4 @@
-// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are dropped,
-// and gets back those of a session that crashed. Questions open over the window. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "document/Autosave.h"
@@ -16,12 +15,14 @@ class HostServices;
 class UserNotifier;
 class ModelImport;
 
+/// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are dropped,
+/// and gets back those of a session that crashed. Questions open over the window. GUI thread only.
 class SceneFiles : public QObject
 {
     Q_OBJECT
 
 public:
-    // All must outlive it. Nobody is asked anything while `messages` says that nobody is there.
+    /// All must outlive it. Nobody is asked anything while `messages` says that nobody is there.
     SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier);
     ~SceneFiles() override;
 
@@ -30,24 +31,24 @@ public:
     RecentFiles& getRecent() { return m_recent; }
     Autosave& getAutosave() { return m_autosave; }
 
-    // Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once, also before
-    // this returns. What was open stays when it fails. Problems are told.
+    /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once, also before
+    /// this returns. What was open stays when it fails. Problems are told.
     void open(const QString& path);
-    // False when it cannot be written, which is told.
+    /// False when it cannot be written, which is told.
     bool saveTo(const QString& path);
 
-    // The person works with this window from now on: offers what a crashed session left, and keeps unsaved edits safe.
+    /// The person works with this window from now on: offers what a crashed session left, and keeps unsaved edits safe.
     void enterInteractiveMode();
 
-    // What the menu offers. All but save() first ask about unsaved edits.
+    /// What the menu offers. All but save() first ask about unsaved edits.
     void newScene();
     void askForFile();
     void openAnother(const QString& path);
     void openRecent(const QString& path);
-    // False when it was not saved: it could not be written, or the person gave no name.
+    /// False when it was not saved: it could not be written, or the person gave no name.
     bool save();
     bool saveAs();
-    // False when the window is to stay open.
+    /// False when the window is to stay open.
     bool confirmClose();
 
 signals:

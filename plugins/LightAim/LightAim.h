@@ -1,10 +1,11 @@
-// The plug-in object: adds an editor that aims directional lights.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "LightAimEditor.h"
 
 #include <scopix/SpxPlugin.h>
 
+/// The plug-in object: adds an editor that aims directional lights.
 class LightAim : public SpxPlugin
 {
 public:

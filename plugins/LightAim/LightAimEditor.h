@@ -1,5 +1,4 @@
-// Two sliders, in degrees, that say where a directional light comes from. The node editor shows it for every selected
-// light.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxEditor.h>
@@ -12,6 +11,8 @@ class QSlider;
 class QWidget;
 class SoDirectionalLight;
 
+/// Two sliders, in degrees, that say where a directional light comes from. The node editor shows it for every selected
+/// light.
 class LightAimEditor : public SpxEditor
 {
     Q_OBJECT

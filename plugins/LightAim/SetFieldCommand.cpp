@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SetFieldCommand.h"
 
 SetFieldCommand::SetFieldCommand(SoField* field, const SbString& text)

@@ -1,10 +1,11 @@
-// Writes a text into a field, undoably. Keeps the field's node alive for as long as it can be undone.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
 
+/// Writes a text into a field, undoably. Keeps the field's node alive for as long as it can be undone.
 class SetFieldCommand : public SpxCommand
 {
 public:

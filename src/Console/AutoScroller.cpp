@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "AutoScroller.h"
 
 #include <QScrollBar>

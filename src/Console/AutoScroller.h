@@ -1,11 +1,12 @@
-// Keeps a scroll bar at its end while what it scrolls grows, until the person scrolls away from the end;
-// coming back to the end resumes. Lives with its scroll bar.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
 
 class QScrollBar;
 
+/// Keeps a scroll bar at its end while what it scrolls grows, until the person scrolls away from the end;
+/// coming back to the end resumes. Lives with its scroll bar.
 class AutoScroller : public QObject
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConsoleLineSplitter.h"
 
 #include <algorithm>

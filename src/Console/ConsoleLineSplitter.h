@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Cuts a text into the paragraphs that the console shows: at its line ends, and lines that are too long for a
 // text layout into pieces.
 #pragma once
@@ -7,7 +8,7 @@
 namespace console
 {
 
-// UTF-16 units; a longer line is shown in pieces.
+/// UTF-16 units; a longer line is shown in pieces.
 constexpr qsizetype PieceLength = 1000;
 
 struct Piece {
@@ -17,7 +18,7 @@ struct Piece {
 
 bool isLineEnd(QChar c);
 
-// The piece at the start of rest, which loses it and the line end after it. atEnd: no piece is left.
+/// The piece at the start of rest, which loses it and the line end after it. atEnd: no piece is left.
 class PieceReader
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConsoleMessageQueue.h"
 
 #include "ConsoleLineSplitter.h"

@@ -1,6 +1,4 @@
-// What the console's text edit holds: paragraphs of plain text in the colour of their kind, the newest
-// maxLines of them. Leaves the person's selection alone, and what the person looks at in its place. GUI
-// thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QColor>
@@ -12,6 +10,9 @@ class QTextCursor;
 class QTextEdit;
 class AutoScroller;
 
+/// What the console's text edit holds: paragraphs of plain text in the colour of their kind, the newest
+/// maxLines of them. Leaves the person's selection alone, and what the person looks at in its place. GUI
+/// thread only.
 class ConsoleText
 {
 public:
@@ -20,12 +21,12 @@ public:
         QColor color;
     };
 
-    // The edit outlives this object. A piece of a line that is too long to be shown in one counts as a line.
+    /// The edit outlives this object. A piece of a line that is too long to be shown in one counts as a line.
     ConsoleText(QTextEdit& edit, int maxLines);
 
     void append(const QVector<Paragraphs>& texts);
     void clear();
-    // With the pieces of long lines joined again.
+    /// With the pieces of long lines joined again.
     QString plainText() const;
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ScopedErrorHandlers.h"
 
 #include <xsg/errors/SoDebugError.h>

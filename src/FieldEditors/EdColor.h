@@ -1,9 +1,10 @@
+// SPDX-License-Identifier: MIT
 // From colour components, normally 0 to 1, to what Qt paints.
 #pragma once
 
 #include <QColor>
 
-// Truncated and clamped to 0..255; what is no number counts as 0.
+/// Truncated and clamped to 0..255; what is no number counts as 0.
 inline int colorChannel(float component)
 {
     const double scaled = double(component) * 255.0;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdFieldEdits.h"
 
 #include "EdFreshDefault.h"

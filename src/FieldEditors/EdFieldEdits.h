@@ -1,5 +1,4 @@
-// The road of one edit, the same for every editor: the command is built while the field still has its old
-// value, then the field is written, then the command goes to the host's undo stack.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "SpxMFSetValueCommand.h"
@@ -15,14 +14,16 @@ class SoField;
 class SoMField;
 class SoSField;
 
+/// The road of one edit, the same for every editor: the command is built while the field still has its old
+/// value, then the field is written, then the command goes to the host's undo stack.
 namespace EdFieldEdits
 {
 
-// Hands a command to the host. Without a host there is nobody to keep it, and it goes.
+/// Hands a command to the host. Without a host there is nobody to keep it, and it goes.
 void record(std::unique_ptr<SpxCommand> command);
 
-// `write` writes the field. `saved` is the text that undo restores, empty for what the field gives now; it is
-// consumed.
+/// `write` writes the field. `saved` is the text that undo restores, empty for what the field gives now; it is
+/// consumed.
 template <class Write>
 void write(SoSField* field, SbString& saved, Write&& write)
 {
@@ -38,7 +39,7 @@ void write(SoSField* field, Write&& write)
     EdFieldEdits::write(field, nothingSaved, std::forward<Write>(write));
 }
 
-// The same for one value of a multi-value field.
+/// The same for one value of a multi-value field.
 template <class Write>
 void write1(SoMField* field, int index, Write&& write)
 {
@@ -48,9 +49,9 @@ void write1(SoMField* field, int index, Write&& write)
     record(std::move(command));
 }
 
-// Gives the field the value that it has in a fresh node; nothing where no fresh node can be made.
+/// Gives the field the value that it has in a fresh node; nothing where no fresh node can be made.
 void setToDefault(SoField* field);
-// Nothing where the field's flag is so already.
+/// Nothing where the field's flag is so already.
 void setIgnored(SoField* field, bool ignored);
 
 } // namespace EdFieldEdits

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdFieldRange.h"
 
 #include "EdRangeSettings.h"

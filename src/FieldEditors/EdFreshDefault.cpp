@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdFreshDefault.h"
 
 #include <xsg/core/SoField.h>

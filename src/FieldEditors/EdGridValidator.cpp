@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdGridValidator.h"
 
 #include "EdValidators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdRangeComponent.h"
 
 EdRangeComponent::EdRangeComponent(int minimum, int maximum, bool boundFixed)

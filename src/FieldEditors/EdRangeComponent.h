@@ -1,17 +1,18 @@
-// The range of values that an editor offers for a numeric field: one pair for each kind of number, and
-// whether the person may go beyond.
+// SPDX-License-Identifier: MIT
 #pragma once
 
+/// The range of values that an editor offers for a numeric field: one pair for each kind of number, and
+/// whether the person may go beyond.
 class EdRangeComponent
 {
 public:
-    // Each constructor fills one pair and leaves the others at 0.
+    /// Each constructor fills one pair and leaves the others at 0.
     EdRangeComponent() = default;
     EdRangeComponent(int minimum, int maximum, bool boundFixed);
     EdRangeComponent(float minimum, float maximum, bool boundFixed);
     EdRangeComponent(double minimum, double maximum, bool boundFixed);
 
-    // Each setter writes its own pair only.
+    /// Each setter writes its own pair only.
     void setfRange(float minimum, float maximum);
     void setdRange(double minimum, double maximum);
     void setiRange(int minimum, int maximum);
@@ -19,12 +20,12 @@ public:
 
     float getfMin() const { return m_floatMinimum; }
     float getfMax() const { return m_floatMaximum; }
-    // Single precision is meant: the range of a double field holds no more.
+    /// Single precision is meant: the range of a double field holds no more.
     float getdMin() const { return m_doubleMinimum; }
     float getdMax() const { return m_doubleMaximum; }
     int getiMin() const { return m_intMinimum; }
     int getiMax() const { return m_intMaximum; }
-    // True for a hard bound; false where the range only says what the slider starts with.
+    /// True for a hard bound; false where the range only says what the slider starts with.
     bool isBoundFixed() const { return m_boundFixed; }
 
     bool operator==(const EdRangeComponent& other) const;

@@ -1,5 +1,4 @@
-// The ranges known for fields of well-known node types, and those of the pseudo node type "DefaultNode"
-// ("floatField", "doubleField", "intField") for all others.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdRangeComponent.h"
@@ -7,15 +6,17 @@
 #include <QMap>
 #include <QString>
 
+/// The ranges known for fields of well-known node types, and those of the pseudo node type "DefaultNode"
+/// ("floatField", "doubleField", "intField") for all others.
 class EdRangeSettings
 {
 public:
     EdRangeSettings();
 
     bool isBounded(const char* nodeType, const char* fieldName) const;
-    // All zero and not fixed where nothing is known.
+    /// All zero and not fixed where nothing is known.
     EdRangeComponent getFieldRange(const char* nodeType, const char* fieldName) const;
-    // The number base of an integer's text. Only texts of two characters are read as octal; that is meant.
+    /// The number base of an integer's text. Only texts of two characters are read as octal; that is meant.
     static int checkBase(const QString& text);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts between the scene graph and Qt, and numbers out of them. Always the C locale.
 #pragma once
 
@@ -11,7 +12,7 @@ inline QString toQString(const SbString& text)
     return QString::fromStdU16String(text.toUtf16());
 }
 
-// Names are Latin-1.
+/// Names are Latin-1.
 inline QString toQString(SbName name)
 {
     return QString::fromLatin1(name.getString(), name.getLength());
@@ -22,7 +23,7 @@ inline SbString toSbString(const QString& text)
     return SbString::fromUtf16(text.toStdU16String());
 }
 
-// 0 for a text that is no number, and for one that is too large to be held.
+/// 0 for a text that is no number, and for one that is too large to be held.
 inline float toFloatOr0(const QString& text)
 {
     bool ok = false;

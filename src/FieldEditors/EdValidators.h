@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Validators for typed numbers: C locale, no group separators, and nothing beyond their range can be typed,
 // where the stock ones take a number that is too large as "not finished yet".
 #pragma once
@@ -5,13 +6,13 @@
 #include <QDoubleValidator>
 #include <QIntValidator>
 
-// Reads and refuses numbers as the C locale without group separators does.
+/// Reads and refuses numbers as the C locale without group separators does.
 void useCLocale(QValidator& validator);
 
 class EdIntValidator : public QIntValidator
 {
 public:
-    // Every int.
+    /// Every int.
     explicit EdIntValidator(QObject* parent = nullptr);
     EdIntValidator(int bottom, int top, QObject* parent = nullptr);
 
@@ -22,7 +23,7 @@ class EdRealValidator : public QDoubleValidator
 {
 public:
     EdRealValidator(double bottom, double top, int decimals, QObject* parent = nullptr);
-    // What the type holds, with the decimals that the editors let a person type.
+    /// What the type holds, with the decimals that the editors let a person type.
     static EdRealValidator* forFloat(QObject* parent);
     static EdRealValidator* forDouble(QObject* parent);
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Made by tools/make_editor_icons.py; change the shapes there.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EditorIcons.h"
 
 #include "EditorIconData.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The small grey pictograms of the field editors' buttons, 16 by 16 pixels, held in the program.
 #pragma once
 
@@ -8,7 +9,7 @@ namespace fieldEditor
 
 enum class Icon { Add, Delete, Up, Down, Default, Ignore, Edit };
 
-// Needs a QGuiApplication.
+/// Needs a QGuiApplication.
 QPixmap icon(Icon which);
 
 } // namespace fieldEditor

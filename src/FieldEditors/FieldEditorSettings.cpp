@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FieldEditorSettings.h"
 
 #include <QHash>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxFieldEditors.h"
 
 #include <xsg/core/SoFieldContainer.h>

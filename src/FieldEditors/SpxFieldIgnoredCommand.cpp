@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxFieldIgnoredCommand.h"
 
 #include <xsg/core/SoField.h>

@@ -1,10 +1,11 @@
-// Sets or clears a field's ignore flag.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
 
 class SoField;
 
+/// Sets or clears a field's ignore flag.
 class SpxFieldIgnoredCommand : public SpxCommand
 {
 public:

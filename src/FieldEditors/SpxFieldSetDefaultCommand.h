@@ -1,4 +1,4 @@
-// Gives a field its default value. Made before the field is written, so that it knows what undo brings back.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
@@ -6,10 +6,11 @@
 
 class SoField;
 
+/// Gives a field its default value. Made before the field is written, so that it knows what undo brings back.
 class SpxFieldSetDefaultCommand : public SpxCommand
 {
 public:
-    // `defaultField` is the same field of a fresh instance; it is read here and not kept.
+    /// `defaultField` is the same field of a fresh instance; it is read here and not kept.
     SpxFieldSetDefaultCommand(SoField* field, SoField* defaultField);
 
     void execute() override;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxMFAddRowsCommand.h"
 
 #include <xsg/core/SoMField.h>

@@ -1,10 +1,11 @@
-// Opens new values in a multi-value field.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
 
 class SoMField;
 
+/// Opens new values in a multi-value field.
 class SpxMFAddRowsCommand : public SpxCommand
 {
 public:

@@ -1,4 +1,4 @@
-// Removes values from a multi-value field and keeps them for undo.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
@@ -8,6 +8,7 @@
 
 class SoMField;
 
+/// Removes values from a multi-value field and keeps them for undo.
 class SpxMFDeleteRowsCommand : public SpxCommand
 {
 public:

@@ -1,5 +1,4 @@
-// Records that one value of a multi-value field was written, without making it reversible: made after the
-// write, it holds the new value twice. This is meant.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
@@ -7,6 +6,8 @@
 
 class SoMField;
 
+/// Records that one value of a multi-value field was written, without making it reversible: made after the
+/// write, it holds the new value twice. This is meant.
 class SpxMFSetFieldValueCommand : public SpxCommand
 {
 public:

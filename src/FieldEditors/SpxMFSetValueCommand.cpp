@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxMFSetValueCommand.h"
 
 #include <xsg/core/SoMField.h>

@@ -1,5 +1,4 @@
-// Records that one value of a multi-value field was written. Made before the write, handed over
-// after it: execute() only reads the value that the editor wrote.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
@@ -7,11 +6,13 @@
 
 class SoMField;
 
+/// Records that one value of a multi-value field was written. Made before the write, handed over
+/// after it: execute() only reads the value that the editor wrote.
 class SpxMFSetValueCommand : public SpxCommand
 {
 public:
-    // `previous` is the text from before the edit, which the editor saved; it is taken over and made null, so
-    // that one command consumes it. A null or empty one stands for what the field gives now.
+    /// `previous` is the text from before the edit, which the editor saved; it is taken over and made null, so
+    /// that one command consumes it. A null or empty one stands for what the field gives now.
     SpxMFSetValueCommand(SoMField* field, int index, SbString& previous);
 
     void execute() override;

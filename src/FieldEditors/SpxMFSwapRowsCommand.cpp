@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxMFSwapRowsCommand.h"
 
 #include <xsg/core/SoMField.h>

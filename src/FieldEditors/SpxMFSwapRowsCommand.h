@@ -1,10 +1,11 @@
-// Exchanges two values of a multi-value field.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
 
 class SoMField;
 
+/// Exchanges two values of a multi-value field.
 class SpxMFSwapRowsCommand : public SpxCommand
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxSFSetValueCommand.h"
 
 #include <xsg/core/SoSField.h>

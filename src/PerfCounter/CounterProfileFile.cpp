@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CounterProfileFile.h"
 
 #include "CounterXml.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The counter-profile file: its place, its elements, and what reading and writing do to the shared document.
 // The dock window and the profile manager differ only in what they do around these steps.
 #pragma once
@@ -15,37 +16,37 @@ class SoPerfCounterProfile;
 namespace counterProfileFile
 {
 
-// Root folder of the installation, from the preference XSGHOME, and the file under it.
+/// Root folder of the installation, from the preference XSGHOME, and the file under it.
 QString defaultPath();
-// Filter of the file dialogs.
+/// Filter of the file dialogs.
 QString dialogFilter();
-// Title of the message boxes about the file.
+/// Title of the message boxes about the file.
 QString title();
 
-// Whether the device's content can replace the document; else `problem` says why not. The document, and every
-// one that shares its tree, changes only when this returns true.
+/// Whether the device's content can replace the document; else `problem` says why not. The document, and every
+/// one that shares its tree, changes only when this returns true.
 bool parse(QIODevice* device, QDomDocument& document, QString& problem);
-// The same; says why not in a box over `parent`.
+/// The same; says why not in a box over `parent`.
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
-// Saves the whole document, indented by two spaces per level.
+/// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if anything.
+/// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if anything.
 bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write);
-// Starts an empty document afresh and saves it to the device.
+/// Starts an empty document afresh and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 
-// Registers the custom counters of the document. A counter whose name is taken is left alone.
+/// Registers the custom counters of the document. A counter whose name is taken is left alone.
 void readCustomCounters(const QDomDocument& document);
-// Makes the document's custom counters those of the registry that are custom and enabled.
+/// Makes the document's custom counters those of the registry that are custom and enabled.
 void writeCustomCounters(QDomDocument& document);
 
-// New profiles, owned by the caller.
+/// New profiles, owned by the caller.
 QList<SoPerfCounterProfile*> readProfiles(const QDomDocument& document);
 void writeProfiles(QDomDocument& document, const QList<SoPerfCounterProfile*>& profiles);
 
-// The profile that was on screen; false when the document does not say.
+/// The profile that was on screen; false when the document does not say.
 bool readViewedProfile(const QDomDocument& document, QString& name);
-// Updates the one profile's view list, and notes it as the one on screen.
+/// Updates the one profile's view list, and notes it as the one on screen.
 void writeView(QDomDocument& document, const SoPerfCounterProfile& profile);
 
 } // namespace counterProfileFile

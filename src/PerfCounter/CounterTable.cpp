@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CounterTable.h"
 
 #include "CounterText.h"

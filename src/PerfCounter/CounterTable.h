@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tables of counters have in common, and the rows of those in the profile manager: one per counter, sorted
 // by name.
 #pragma once
@@ -13,13 +14,13 @@ class SoPerfCounter;
 namespace counterTable
 {
 
-// Replaces the rows, and fits the columns to what they hold.
+/// Replaces the rows, and fits the columns to what they hold.
 void fill(QTableWidget& table, const std::vector<const SoPerfCounter*>& counters);
-// To what is seen of their contents, none wider than a window. One that stretches takes the rest.
+/// To what is seen of their contents, none wider than a window. One that stretches takes the rest.
 void fitColumns(QTableWidget& table);
-// The names of the selected rows.
+/// The names of the selected rows.
 QStringList selectedNames(const QTableWidget& table);
-// Makes a view show of each text no more than its beginning.
+/// Makes a view show of each text no more than its beginning.
 void showBeginnings(QAbstractItemView& view);
 
 } // namespace counterTable

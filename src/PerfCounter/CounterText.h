@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is shown of texts that a file may make as long as it likes: to lay out megabytes takes seconds. The texts
 // themselves stay whole.
 #pragma once
@@ -12,7 +13,7 @@ inline QString beginningOf(const QString& text, int longest = LongestInCell)
     return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
 }
 
-// The same, without first making a whole text of another kind.
+/// The same, without first making a whole text of another kind.
 inline QString beginningOf(const SbString& text)
 {
     constexpr int MostBytes = 4 * (LongestInCell + 1); // of as many characters, and of one that may be cut

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CounterXml.h"
 
 #include <QBuffer>

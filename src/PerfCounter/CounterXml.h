@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // XML that comes from a file, read so that whatever is in it can be walked, kept and saved again.
 #pragma once
 
@@ -9,10 +10,10 @@ class QString;
 namespace counterXml
 {
 
-// Replaces an empty document; false, and a sentence, where the bytes are no XML, are nested too deeply or
-// would be no XML once they were saved.
+/// Replaces an empty document; false, and a sentence, where the bytes are no XML, are nested too deeply or
+/// would be no XML once they were saved.
 bool read(const QByteArray& bytes, QDomDocument& document, QString& problem);
-// Saves the whole document, indented by two spaces per level.
+/// Saves the whole document, indented by two spaces per level.
 void write(QIODevice* device, const QDomDocument& document);
 
 } // namespace counterXml

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CustomCounter.h"
 
 #include "EdText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "PlotToolTip.h"
 
 #include "CounterText.h"

@@ -1,4 +1,4 @@
-// Gives the canvas of a plot a tool tip that depends on the place under the pointer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -7,16 +7,17 @@
 
 class QwtPlot;
 
+/// Gives the canvas of a plot a tool tip that depends on the place under the pointer.
 class PlotToolTip : public QObject
 {
 public:
-    // The text for a place of the canvas, in its pixels; an empty text shows none.
+    /// The text for a place of the canvas, in its pixels; an empty text shows none.
     using TextAt = std::function<QString(const QPoint& place)>;
 
-    // What a tip tells of a counter.
+    /// What a tip tells of a counter.
     static QString textOf(const QString& counter, double value);
 
-    // Belongs to the plot, with which it goes.
+    /// Belongs to the plot, with which it goes.
     PlotToolTip(QwtPlot* plot, TextAt textAt);
 
 protected:

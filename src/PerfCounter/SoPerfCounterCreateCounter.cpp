@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterCreateCounter.h"
 
 #include "CounterText.h"

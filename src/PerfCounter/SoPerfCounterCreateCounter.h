@@ -1,10 +1,11 @@
-// Defines a custom counter from two others. Deletes itself when closed.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "ui_SoPerfCounterCreateCounter.h"
 
 #include <QDialog>
 
+/// Defines a custom counter from two others. Deletes itself when closed.
 class SoPerfCounterCreateCounter : public QDialog, public Ui_QPerfCounterCreateCounter
 {
     Q_OBJECT
@@ -13,7 +14,7 @@ public:
     SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter, QWidget* parent = nullptr);
 
 signals:
-    // The counter of this name is registered by now.
+    /// The counter of this name is registered by now.
     void createNow(QString name);
 
 public slots:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterCreateProfile.h"
 
 SoPerfCounterCreateProfile::SoPerfCounterCreateProfile(QWidget* parent)

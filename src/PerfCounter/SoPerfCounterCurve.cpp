@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterCurve.h"
 
 #include "PlotToolTip.h"

@@ -1,4 +1,4 @@
-// The plot of the viewed counters over time, one curve each, drawn from the counters' own histories.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <qwt_plot.h>
@@ -15,6 +15,7 @@ public:
     ~Curve() override;
 };
 
+/// The plot of the viewed counters over time, one curve each, drawn from the counters' own histories.
 class SoPerfCounterCurve : public QwtPlot
 {
     Q_OBJECT
@@ -22,18 +23,18 @@ class SoPerfCounterCurve : public QwtPlot
 public:
     explicit SoPerfCounterCurve(QWidget* parent = nullptr);
 
-    // In the order of the viewed counters.
+    /// In the order of the viewed counters.
     const QList<Curve*>& getCurveList() const { return m_curves; }
     void newCurve(const QString& name, int r, int g, int b);
     void setColor(int index, const QColor& color);
     void removeCurve(int index);
-    // Curve i becomes the one whose index stands at i.
+    /// Curve i becomes the one whose index stands at i.
     void order(const std::vector<int>& indices);
-    // Draws the curve from these arrays, which stay the caller's and have to live until the next call for this curve.
-    // The newest sample comes first.
+    /// Draws the curve from these arrays, which stay the caller's and have to live until the next call for this curve.
+    /// The newest sample comes first.
     void setRawSamples(int index, const double* x, const double* y, int count);
 
-    // Name and value of the curve under a point of the canvas; empty where no curve is near.
+    /// Name and value of the curve under a point of the canvas; empty where no curve is near.
     QString textAt(const QPoint& canvasPosition) const;
 
 public slots:
@@ -43,7 +44,7 @@ protected:
     void drawCanvas(QPainter* painter) override;
 
 private:
-    // Whether Qt draws lines of this pen without first making outlines of them, which takes twenty times as long.
+    /// Whether Qt draws lines of this pen without first making outlines of them, which takes twenty times as long.
     bool isFast(const QPen& pen) const;
 
     QList<Curve*> m_curves;

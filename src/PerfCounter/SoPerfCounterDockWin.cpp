@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterDockWin.h"
 
 #include "CounterProfileFile.h"

@@ -1,5 +1,4 @@
-// The dock of the performance-counter tool: the profiles, the counters of the selected one, the viewer and the
-// properties of the counter selected in its legend. Owns the profiles and the document of their file. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "ui_SoPerfCounterDockWin.h"
@@ -15,6 +14,8 @@ class SoPerfCounterManager;
 class SoPerfCounterProfile;
 class SoPerfCounterProfileManager;
 
+/// The dock of the performance-counter tool: the profiles, the counters of the selected one, the viewer and the
+/// properties of the counter selected in its legend. Owns the profiles and the document of their file. GUI thread only.
 class SoPerfCounterDockWin : public QDockWidget, public Ui_QPerfCounterModule
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterGraph.h"
 
 #include <qwt_scale_map.h>

@@ -1,4 +1,4 @@
-// The bars of the graph view: one interval, one value and one colour per counter.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <qwt_plot_item.h>
@@ -13,6 +13,7 @@
 
 using QwtIntervalData = QVector<QwtIntervalSample>;
 
+/// The bars of the graph view: one interval, one value and one colour per counter.
 class SoPerfCounterGraph : public QwtPlotItem
 {
 public:
@@ -22,7 +23,7 @@ public:
     const QwtIntervalData& data() const { return m_data; }
     double baseline() const { return m_baseline; }
 
-    // Colour i paints bar i; the graph takes it over.
+    /// Colour i paints bar i; the graph takes it over.
     void addColor(QColor* color);
     void clearColor();
 

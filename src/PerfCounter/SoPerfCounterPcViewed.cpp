@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterPcViewed.h"
 
 SoPerfCounterPcViewed::SoPerfCounterPcViewed(const QString& name, int historyLength)

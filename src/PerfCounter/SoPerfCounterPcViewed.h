@@ -1,4 +1,4 @@
-// One counter in the viewer: its name, its colour and its samples, the newest first.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QColor>
@@ -6,10 +6,11 @@
 
 #include <memory>
 
+/// One counter in the viewer: its name, its colour and its samples, the newest first.
 class SoPerfCounterPcViewed
 {
 public:
-    // All samples start at 0.
+    /// All samples start at 0.
     SoPerfCounterPcViewed(const QString& name, int historyLength);
 
     QString getName() const { return m_name; }
@@ -17,7 +18,7 @@ public:
     void setColor(int red, int green, int blue);
 
     double* getHistory() const { return m_history.get(); }
-    // Takes the array over and frees the one before.
+    /// Takes the array over and frees the one before.
     void setHistory(double* history) { m_history.reset(history); }
 
 private:

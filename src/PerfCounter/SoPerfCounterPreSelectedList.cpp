@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterPreSelectedList.h"
 
 #include <QDrag>

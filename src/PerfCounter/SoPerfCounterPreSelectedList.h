@@ -1,8 +1,9 @@
-// The counters of the profile, to be dragged into the viewer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QListWidget>
 
+/// The counters of the profile, to be dragged into the viewer.
 class SoPerfCounterPreSelectedList : public QListWidget
 {
     Q_OBJECT
@@ -10,7 +11,7 @@ class SoPerfCounterPreSelectedList : public QListWidget
 public:
     using QListWidget::QListWidget;
 
-    // What a drag carries: the selected names in the order of selection, each followed by "##".
+    /// What a drag carries: the selected names in the order of selection, each followed by "##".
     QString dragText() const;
 
 protected:

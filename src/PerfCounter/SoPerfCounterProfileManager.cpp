@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterProfileManager.h"
 
 #include "CounterProfileFile.h"

@@ -1,5 +1,4 @@
-// The window in which profiles and custom counters are made, changed, opened and saved. It works on copies: OK hands
-// them over, Cancel drops them and undoes what was done to the counters. Deletes itself when closed. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "ui_SoPerfCounterProfileManager.h"
@@ -14,6 +13,8 @@ class SoPerfCounterManager;
 class SoPerfCounterPage;
 class SoPerfCounterProfile;
 
+/// The window in which profiles and custom counters are made, changed, opened and saved. It works on copies: OK hands
+/// them over, Cancel drops them and undoes what was done to the counters. Deletes itself when closed. GUI thread only.
 class SoPerfCounterProfileManager : public QMainWindow, public Ui_QPerfCounterProfileManager
 {
     Q_OBJECT
@@ -22,15 +23,15 @@ public:
     explicit SoPerfCounterProfileManager(QWidget* parent = nullptr);
     ~SoPerfCounterProfileManager() override;
 
-    // The file in use; told to the dock window.
+    /// The file in use; told to the dock window.
     void setFilepath(const QString& path);
-    // The file to read again on Cancel.
+    /// The file to read again on Cancel.
     void setFilepathTemp(const QString& path) { m_fallbackPath = path; }
-    // A copy that shares the dock window's tree.
+    /// A copy that shares the dock window's tree.
     void setDomDocument(const QDomDocument& document) { m_document = document; }
 
 signals:
-    // Hands the profiles over, with the selected one; the receiver owns the list and what is in it.
+    /// Hands the profiles over, with the selected one; the receiver owns the list and what is in it.
     void okProfile(QList<SoPerfCounterProfile*>* profiles, int index);
     void okProfile();
     void cancelProfile();
@@ -69,7 +70,7 @@ private:
     void okAction();
     void cancelAction();
     void undoCounterChanges();
-    // The profile of the current tab; says `otherwise` in a box where there is none.
+    /// The profile of the current tab; says `otherwise` in a box where there is none.
     SoPerfCounterProfile* currentProfile(const QString& otherwise);
     SoPerfCounterPage* currentPage() const;
 

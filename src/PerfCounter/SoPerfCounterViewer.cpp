@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SoPerfCounterViewer.h"
 
 #include "CounterTable.h"

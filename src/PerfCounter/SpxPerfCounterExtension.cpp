@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxPerfCounterExtension.h"
 
 #include "SoPerfCounterDockWin.h"

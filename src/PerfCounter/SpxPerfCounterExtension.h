@@ -1,10 +1,11 @@
-// The extension that docks the performance-counter tool, or, where it is not switched on, a message that tells how.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxExtension.h>
 
 class QDockWidget;
 
+/// The extension that docks the performance-counter tool, or, where it is not switched on, a message that tells how.
 class SpxPerfCounterExtension : public SpxExtension
 {
     Q_OBJECT
@@ -15,7 +16,7 @@ public:
     void activate() override;
     void deactivate() override;
     void hide() override;
-    // Reads the switch, the preference XSG_PERFCOUNTER_ENABLE.
+    /// Reads the switch, the preference XSG_PERFCOUNTER_ENABLE.
     void load() override;
     void show() override;
     void unload() override;

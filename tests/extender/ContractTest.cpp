@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the classes of the contract keep by themselves, and how the test host keeps its side.
 #include <support/TestHost.h>
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # cmake -Dbuild=FOLDER -Dprefix=FOLDER -P Install.cmake: installs afresh, so that nothing stale hides a gap.
 file(REMOVE_RECURSE "${prefix}")
 execute_process(COMMAND "${CMAKE_COMMAND}" --install "${build}" --prefix "${prefix}"

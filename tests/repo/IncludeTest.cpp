@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arrows between the folders, as the sources' own include lines draw them.
 #include <gtest/gtest.h>
 

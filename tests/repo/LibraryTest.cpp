@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arrows between the folders, and what the plug-in exports, as the built libraries show them.
 #include <gtest/gtest.h>
 

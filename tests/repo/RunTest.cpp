@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ./run hands to the program, told by a program that only prints it.
 #include <gtest/gtest.h>
 

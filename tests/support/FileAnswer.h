@@ -1,9 +1,4 @@
-// Answers the file dialog that is about to open, as a person types a name and presses Enter, and keeps what
-// the dialog asked for. An empty name closes it. A question about writing over a file is answered with yes.
-//
-//     FileAnswer answer(folder.filePath("new.xml"));
-//     ... what opens the dialog ...
-//     EXPECT_EQ(answer.caption, "Save the profiles");
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QApplication>
@@ -13,6 +8,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+/// Answers the file dialog that is about to open, as a person types a name and presses Enter, and keeps what
+/// the dialog asked for. An empty name closes it. A question about writing over a file is answered with yes.
+///
+///     FileAnswer answer(folder.filePath("new.xml"));
+///     ... what opens the dialog ...
+///     EXPECT_EQ(answer.caption, "Save the profiles");
 class FileAnswer : public QObject
 {
 public:

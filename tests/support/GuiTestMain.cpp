@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // main() of the tests that need a QApplication.
 #include <gtest/gtest.h>
 

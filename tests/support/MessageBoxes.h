@@ -1,9 +1,4 @@
-// Answers every message box that opens while it lives, and keeps what the boxes said.
-//
-//     MessageBoxes boxes;                                // answers each with its default button
-//     boxes.answer(QMessageBox::Cancel);                 // from now on with this one
-//     ... what opens a box ...
-//     EXPECT_EQ(boxes.take(), (QStringList{"title: text"}));
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QApplication>
@@ -12,6 +7,12 @@
 #include <QStringList>
 #include <QTimer>
 
+/// Answers every message box that opens while it lives, and keeps what the boxes said.
+///
+///     MessageBoxes boxes;                                // answers each with its default button
+///     boxes.answer(QMessageBox::Cancel);                 // from now on with this one
+///     ... what opens a box ...
+///     EXPECT_EQ(boxes.take(), (QStringList{"title: text"}));
 class MessageBoxes : public QObject
 {
 public:

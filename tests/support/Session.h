@@ -1,4 +1,4 @@
-// A running host with the real plug-in and a node to edit, and ways to act in it as a person does.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "app/HostApplication.h"
@@ -23,7 +23,7 @@
 
 using namespace scopix;
 
-// The least that a host's window is.
+/// The least that a host's window is.
 class BareWindow : public HostWindow
 {
 public:
@@ -43,6 +43,7 @@ private:
     QMenu m_profiles;
 };
 
+/// A running host with the real plug-in and a node to edit, and ways to act in it as a person does.
 class Session
 {
 public:
@@ -69,7 +70,7 @@ public:
     }
     void selectNothing() { select(static_cast<SoField*>(nullptr)); }
 
-    // The dock of this title, or null.
+    /// The dock of this title, or null.
     QDockWidget* dock(const QString& title = QStringLiteral("Field Editor"))
     {
         for (auto* dock : host.window().findChildren<QDockWidget*>()) {
@@ -99,7 +100,7 @@ public:
         settle();
     }
 
-    // The middle of the slider's handle.
+    /// The middle of the slider's handle.
     QPoint handle()
     {
         auto* slider = inEditor<QSlider>();
@@ -114,7 +115,7 @@ public:
             ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
             .center();
     }
-    // Presses the handle, moves it in steps of `step` pixels, calls `during` after each, and releases it.
+    /// Presses the handle, moves it in steps of `step` pixels, calls `during` after each, and releases it.
     template <class During>
     void drag(int steps, int step, During during)
     {
@@ -133,7 +134,7 @@ public:
         settle();
     }
 
-    // What is posted and queued has run, by the host's own means.
+    /// What is posted and queued has run, by the host's own means.
     static void settle()
     {
         for (int round = 0; round < 3; ++round) {

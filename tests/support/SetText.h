@@ -1,10 +1,11 @@
-// An edit as an extension makes one: it gives a field its new text at once, and then stands for it in the
-// history.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoField.h>
 
+/// An edit as an extension makes one: it gives a field its new text at once, and then stands for it in the
+/// history.
 class SetText : public SpxCommand
 {
 public:

@@ -1,16 +1,4 @@
-// A host for tests: keeps the whole contract, and writes down every call that an extension makes, in order.
-//
-//     TestHost host;
-//     EdSFFloatWidget editor(nullptr);
-//     SoSFFloat field;
-//     host.edit(editor, &field);                        // loaded, given the field, activated
-//     ... keys and mouse events ...
-//     host.undo();
-//     host.pump();                                      // sensors and everything posted have run
-//     EXPECT_EQ(host.takeLog(), (TestHost::Log{"executeCommand SpxSFSetValueCommand"}));
-//
-// Docks and tool bars go into window(), which is not shown until a test shows it. One host at a time; GUI
-// thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <scopix/SpxCommand.h>
@@ -30,6 +18,19 @@
 class SoField;
 class SoFieldContainer;
 
+/// A host for tests: keeps the whole contract, and writes down every call that an extension makes, in order.
+///
+///     TestHost host;
+///     EdSFFloatWidget editor(nullptr);
+///     SoSFFloat field;
+///     host.edit(editor, &field);                        // loaded, given the field, activated
+///     ... keys and mouse events ...
+///     host.undo();
+///     host.pump();                                      // sensors and everything posted have run
+///     EXPECT_EQ(host.takeLog(), (TestHost::Log{"executeCommand SpxSFSetValueCommand"}));
+///
+/// Docks and tool bars go into window(), which is not shown until a test shows it. One host at a time; GUI
+/// thread only.
 class TestHost : public SpxServices, public SpxShell, public SpxPluginsManager
 {
 public:
@@ -38,42 +39,42 @@ public:
     TestHost();
     ~TestHost() override;
 
-    // The calls so far: "executeCommand SpxSFSetValueCommand", "addDockWidget \"Field Editor\" 2",
-    // "attachExtension \"Field Editor\" true", "setActiveProfile Default", ...
+    /// The calls so far: "executeCommand SpxSFSetValueCommand", "addDockWidget \"Field Editor\" 2",
+    /// "attachExtension \"Field Editor\" true", "setActiveProfile Default", ...
     const Log& log() const { return m_log; }
     Log takeLog();
 
-    // The person's choices. The same object may be selected again.
+    /// The person's choices. The same object may be selected again.
     void select(SoField* field);
     void select(SoFieldContainer* node);
     SoField* selectedField() const { return m_selectedField; }
 
-    // The undo list; one step for each command, nothing is grouped.
+    /// The undo list; one step for each command, nothing is grouped.
     bool undo();
     bool redo();
     int undoCount() const { return m_done; }
     int redoCount() const { return int(m_steps.size()) - m_done; }
     void clearUndo();
 
-    // Profiles. There is one named "Default" from the start, and it is active.
+    /// Profiles. There is one named "Default" from the start, and it is active.
     SpxProfile* addProfile(const SbString& name);
-    // What every extension finds in its profile setting.
+    /// What every extension finds in its profile setting.
     void control(QList<SpxExtension*> extensions);
 
-    // Loads the extension if need be, and activates it.
+    /// Loads the extension if need be, and activates it.
     void start(SpxExtension& extension);
-    // Deactivates the extension if it is active, and unloads it.
+    /// Deactivates the extension if it is active, and unloads it.
     void stop(SpxExtension& extension);
-    // Lets the editor edit the object the way a dock does, but with its widget as a window of its own.
+    /// Lets the editor edit the object the way a dock does, but with its widget as a window of its own.
     void edit(SpxEditor& editor, SoTypedObject* object);
-    // Ends that.
+    /// Ends that.
     void release(SpxEditor& editor);
 
     QMainWindow& window() { return m_window; }
 
-    // Runs the event loop until no event and no sensor is waiting.
+    /// Runs the event loop until no event and no sensor is waiting.
     static void pump();
-    // Runs the event loop until `condition` holds; false when it does not come true within a minute.
+    /// Runs the event loop until `condition` holds; false when it does not come true within a minute.
     static bool waitFor(const std::function<bool()>& condition);
 
     void executeCommand(SpxCommand* command) override;

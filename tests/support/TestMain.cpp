@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // main() of the tests that need no window.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/actions/RayTests.h>
 
 #include <algorithm>

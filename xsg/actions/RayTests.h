@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a ray meets simple things. Distances are in units of the ray's direction.
 #pragma once
 
@@ -8,11 +9,11 @@ namespace xsg
 {
 
 bool meetsBox(const SbRay& ray, const SbBox3f& box);
-// From either side; the normal is not of length 1.
+/// From either side; the normal is not of length 1.
 bool meetsTriangle(const SbRay& ray, const SbVec3f& a, const SbVec3f& b, const SbVec3f& c, float& distance,
                    SbVec3f& normal);
-// Whether the ray, its direction of length 1, passes a segment (or a point, a == b) within `tolerance` times
-// the distance.
+/// Whether the ray, its direction of length 1, passes a segment (or a point, a == b) within `tolerance` times
+/// the distance.
 bool passesSegment(const SbRay& ray, const SbVec3f& a, const SbVec3f& b, float tolerance, float& distance);
 
 } // namespace xsg

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/actions/SoBoundingBoxAction.h>
 
 #include <xsg/counters/LibraryCounters.h>

@@ -1,15 +1,16 @@
-// The way from a root down to a node: each node is a child of the one before. Keeps a reference to each.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/groups/SoGroup.h>
 
+/// The way from a root down to a node: each node is a child of the one before. Keeps a reference to each.
 class SoPath
 {
 public:
     void append(SoNode* node) { m_nodes.emplace_back(node); }
     int getLength() const { return static_cast<int>(m_nodes.size()); }
     bool isEmpty() const { return m_nodes.empty(); }
-    // Null out of range.
+    /// Null out of range.
     SoNode* getNode(int index) const
     {
         return index < 0 || index >= getLength() ? nullptr : m_nodes[static_cast<std::size_t>(index)].get();

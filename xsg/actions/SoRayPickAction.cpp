@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/actions/SoRayPickAction.h>
 
 #include <xsg/actions/RayTests.h>

@@ -1,4 +1,4 @@
-// Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoGeometry.h>
@@ -18,17 +18,18 @@ struct SoPickedPoint {
 
 class SoSeparator;
 
+/// Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
 class XSG_API SoRayPickAction : private SoTraversal
 {
 public:
     SoRayPickAction();
     ~SoRayPickAction() override;
 
-    // How far beside a line or a point a ray may pass, as part of the distance from its origin.
+    /// How far beside a line or a point a ray may pass, as part of the distance from its origin.
     void setTolerance(float tolerance) { m_tolerance = tolerance; }
-    // `ray` in the coordinates the root stands in; its direction need not be of length 1.
+    /// `ray` in the coordinates the root stands in; its direction need not be of length 1.
     std::optional<SoPickedPoint> pick(SoNode* root, const SbRay& ray);
-    // How many nodes the last pick looked at.
+    /// How many nodes the last pick looked at.
     using SoTraversal::getNumVisited;
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/actions/SoSearchAction.h>
 
 #include <xsg/actions/SoTraversal.h>

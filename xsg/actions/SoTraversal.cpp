@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/actions/SoTraversal.h>
 
 #include <xsg/nodes/shapes/SoShape.h>

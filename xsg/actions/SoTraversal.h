@@ -1,6 +1,4 @@
-// Walks a scene in order and carries the state along. The base of everything that looks at a whole scene; a
-// derived class says what to do at each node. Keeps its own stack, so a scene may be nested as deep as memory
-// reaches.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoState.h>
@@ -8,6 +6,9 @@
 
 class SoShape;
 
+/// Walks a scene in order and carries the state along. The base of everything that looks at a whole scene; a
+/// derived class says what to do at each node. Keeps its own stack, so a scene may be nested as deep as memory
+/// reaches.
 class XSG_API SoTraversal
 {
 public:
@@ -16,31 +17,31 @@ public:
     SoTraversal& operator=(const SoTraversal&) = delete;
     virtual ~SoTraversal();
 
-    // The scene must not change until it returns. Groups that hold shared groups, again and again, can unfold
-    // a short file to more visits than a lifetime has seconds for: the walk ends after MostVisits.
+    /// The scene must not change until it returns. Groups that hold shared groups, again and again, can unfold
+    /// a short file to more visits than a lifetime has seconds for: the walk ends after MostVisits.
     void traverse(SoNode* root);
     static constexpr int MostVisits = 1 << 22;
 
 protected:
-    // Before a group, with the state as it is there; false skips the group and leaves the state.
+    /// Before a group, with the state as it is there; false skips the group and leaves the state.
     virtual bool wantsGroup(SoGroup* group);
-    // With the state as the group's children will see it.
+    /// With the state as the group's children will see it.
     virtual void enterGroup(SoGroup* group);
-    // With the state as what follows the group will see it.
+    /// With the state as what follows the group will see it.
     virtual void leaveGroup(SoGroup* group);
     virtual void visitShape(SoShape* shape);
-    // Any other node, after it has changed the state.
+    /// Any other node, after it has changed the state.
     virtual void visitProperty(SoNode* node);
 
     SoState& state() { return m_state; }
     void resetState() { m_state = SoState(); }
-    // In enterGroup(): of the group's children only those at these places are visited, in this order.
+    /// In enterGroup(): of the group's children only those at these places are visited, in this order.
     void visitOnly(std::vector<std::uint32_t> places);
-    // Ends the walk; groups that are open are not left.
+    /// Ends the walk; groups that are open are not left.
     void stop() { m_stopped = true; }
     int getNumVisited() const { return m_visited; }
 
-    // A group on the way to the present node, and the child that is visited.
+    /// A group on the way to the present node, and the child that is visited.
     struct Frame {
         SoGroup* group;
         int child;

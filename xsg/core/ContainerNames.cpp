@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/core/ContainerNames.h>
 
 #include <xsg/core/SoFieldContainer.h>

@@ -1,4 +1,4 @@
-// Who has which name. Knows living containers only. Belongs to the graph's thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbName.h>
@@ -12,16 +12,17 @@ class SoFieldContainer;
 namespace xsg
 {
 
+/// Who has which name. Knows living containers only. Belongs to the graph's thread.
 class ContainerNames
 {
 public:
     static ContainerNames& get();
 
     void rename(SbName name, const SoFieldContainer* container);
-    // Takes the container out under all its names.
+    /// Takes the container out under all its names.
     void remove(const SoFieldContainer* container);
     SoFieldContainer* find(SbName name) const;
-    // A name that the container has for itself; the same one each time.
+    /// A name that the container has for itself; the same one each time.
     SbName substituteFor(const SoFieldContainer* container);
 
 private:

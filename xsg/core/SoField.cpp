@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/core/SoField.h>
 
 #include <xsg/core/SoFieldContainer.h>

@@ -1,5 +1,4 @@
-// A value of a node: readable and writable as text, watched by sensors, and able to follow another field.
-// A field with an owner belongs to it; one without stands alone. Belongs to the graph's thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbName.h>
@@ -18,6 +17,8 @@ namespace xsg
 class SceneReader;
 } // namespace xsg
 
+/// A value of a node: readable and writable as text, watched by sensors, and able to follow another field.
+/// A field with an owner belongs to it; one without stands alone. Belongs to the graph's thread.
 class XSG_API SoField : public SoTyped<SoField, SoTypedObject>
 {
 public:
@@ -27,40 +28,40 @@ public:
     SoField& operator=(const SoField&) = delete;
     ~SoField() override;
 
-    // The value as text that set() reads back to the same bits; evaluates first; never an empty text.
+    /// The value as text that set() reads back to the same bits; evaluates first; never an empty text.
     virtual void get(SbString& text) const = 0;
-    // Takes a value from text. Text that does not parse: false, the value stays and nobody is notified.
-    // A write notifies even when the value is the same.
+    /// Takes a value from text. Text that does not parse: false, the value stays and nobody is notified.
+    /// A write notifies even when the value is the same.
     virtual bool set(const SbString& text);
-    // True when both have the same type and value.
+    /// True when both have the same type and value.
     virtual bool isSame(const SoField& other) const = 0;
-    // Takes over the value of a field of the same or a convertible type; false, without a change, where there
-    // is no conversion or the other's text does not parse.
+    /// Takes over the value of a field of the same or a convertible type; false, without a change, where there
+    /// is no conversion or the other's text does not parse.
     bool copyFrom(const SoField& other);
 
     bool isIgnored() const { return m_ignored; }
     void setIgnored(bool ignored);
-    // True until the value is written.
+    /// True until the value is written.
     bool isDefault() const { return m_default; }
     void setDefault(bool isDefault) { m_default = isDefault; }
 
-    // Null for a field that stands alone.
+    /// Null for a field that stands alone.
     SoFieldContainer* getContainer() const { return m_container; }
     SbName getName() const { return m_name ? SbName(m_name) : SbName(); }
 
-    // Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
-    // the types do not convert or a loop would close. A direct write stands until the master changes again.
-    // What the master holds that does not convert (a text that is no number) leaves the value.
+    /// Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
+    /// the types do not convert or a loop would close. A direct write stands until the master changes again.
+    /// What the master holds that does not convert (a text that is no number) leaves the value.
     bool connectFrom(SoField* source);
     void disconnect();
     SoField* getConnectedField() const { return m_source; }
     bool isConnected() const { return m_source != nullptr; }
-    // Fields convert when their values have the same type or the same count of numbers, or when one of them
-    // is a string or a name: then by text. A list converts to a single value by its first one. Numbers that
-    // the type cannot hold become its nearest one, fractions are cut off, and what is no number becomes 0.
+    /// Fields convert when their values have the same type or the same count of numbers, or when one of them
+    /// is a string or a name: then by text. A list converts to a single value by its first one. Numbers that
+    /// the type cannot hold become its nearest one, fractions are cut off, and what is no number becomes 0.
     bool canConvertFrom(const SoField& other) const;
 
-    // Fetches the connected value if there is a newer one.
+    /// Fetches the connected value if there is a newer one.
     void evaluate() const
     {
         if (m_needsEvaluation)
@@ -68,38 +69,38 @@ public:
     }
     bool needsEvaluation() const { return m_needsEvaluation; }
 
-    // Tells listeners as if the value had been written.
+    /// Tells listeners as if the value had been written.
     void touch();
-    // Grows with every change; a cache made from this field compares it.
+    /// Grows with every change; a cache made from this field compares it.
     std::uint32_t getChangeCount() const { return m_changeCount; }
 
 protected:
-    // `name` must outlive the field; the fields of a class pass a literal.
+    /// `name` must outlive the field; the fields of a class pass a literal.
     explicit SoField(SoFieldContainer* owner = nullptr, const char* name = nullptr);
 
-    // After the value was written: marks it and tells listeners. A multi-value field names the elements.
+    /// After the value was written: marks it and tells listeners. A multi-value field names the elements.
     void valueWritten(int start = 0, int count = -1);
 
-    // Takes the value from text without telling anybody; text that does not parse: false, and the value
-    // stays.
+    /// Takes the value from text without telling anybody; text that does not parse: false, and the value
+    /// stays.
     virtual bool parse(std::string_view text) = 0;
-    // Takes the value of a field of exactly this class, without telling anybody.
+    /// Takes the value of a field of exactly this class, without telling anybody.
     virtual void assign(const SoField& sameType) = 0;
 
     // --- What conversions are made of. None of these evaluates or notifies.
     virtual bool isList() const = 0;
     virtual int valueCount() const = 0;
-    // Values that are numbers in a row, such as a vector's, convert number by number; 0 for other values.
+    /// Values that are numbers in a row, such as a vector's, convert number by number; 0 for other values.
     virtual int numbersPerValue() const { return 0; }
     virtual double number(int /*value*/, int /*which*/) const { return 0; }
     virtual void takeNumbers(const SoField& /*sameShape*/) {}
-    // Strings and names convert from and to text.
+    /// Strings and names convert from and to text.
     virtual bool isTextual() const { return false; }
-    // One value as a string field would hold it, without quotes.
+    /// One value as a string field would hold it, without quotes.
     virtual void writePlain(std::string& out, int value) const = 0;
-    // The texts, one per value, as values; false, without a change, where one does not parse.
+    /// The texts, one per value, as values; false, without a change, where one does not parse.
     virtual bool assignFromText(const std::vector<std::string>& texts) = 0;
-    // Takes the value of a field of another class whose values have the same C++ type.
+    /// Takes the value of a field of another class whose values have the same C++ type.
     virtual bool takeSameValues(const SoField& /*other*/) { return false; }
     virtual bool hasSameValues(const SoField& /*other*/) const { return false; }
     static int countOf(const SoField& field) { return field.valueCount(); }
@@ -117,7 +118,7 @@ private:
 
     enum class Dependents { Hear, DoNot };
     void fetch() const;
-    // As set(), but those that follow this field keep what they have.
+    /// As set(), but those that follow this field keep what they have.
     bool setWithoutPropagation(const SbString& text);
     bool take(const SoField& other);
     bool takeText(const SoField& other);

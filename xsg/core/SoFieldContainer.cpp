@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/core/SoFieldContainer.h>
 
 #include <xsg/core/ContainerNames.h>

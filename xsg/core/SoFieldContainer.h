@@ -1,5 +1,4 @@
-// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones start
-// at 0 and go when the last reference does. Belongs to the graph's thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoFieldData.h>
@@ -12,6 +11,8 @@
 class SoDataSensor;
 class SoField;
 
+/// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones start
+/// at 0 and go when the last reference does. Belongs to the graph's thread.
 class XSG_API SoFieldContainer : public SoTyped<SoFieldContainer, SoTypedObject>
 {
 public:
@@ -22,32 +23,32 @@ public:
 
     void ref() const { ++m_refCount; }
     void unref() const;
-    // Gives a reference back without ever deleting, to hand an object on.
+    /// Gives a reference back without ever deleting, to hand an object on.
     void unrefNoDelete() const { --m_refCount; }
     int getRefCount() const { return m_refCount; }
-    // True once the last reference is gone: who is told of it has no business writing the fields any more.
+    /// True once the last reference is gone: who is told of it has no business writing the fields any more.
     bool isBeingDestroyed() const { return m_dying; }
 
     SbName getName() const { return m_name; }
     void setName(SbName name);
-    // The living container of this name, the one named last where there are several, or null.
+    /// The living container of this name, the one named last where there are several, or null.
     static SoFieldContainer* getByName(SbName name);
-    // A text by which getByName() finds this very container while it lives: the name or, where there is none
-    // or another one was given it later, the type with a number, such as "Sphere#12".
+    /// A text by which getByName() finds this very container while it lives: the name or, where there is none
+    /// or another one was given it later, the type with a number, such as "Sphere#12".
     SbName getReferenceName() const;
 
     const SoFieldData* getFieldData() const { return &m_fields; }
-    // The field of this name, or null.
+    /// The field of this name, or null.
     SoField* getField(SbName name) const;
 
-    // Grows whenever a field of this very container changes, before anybody is told; a cache made from the fields
-    // compares it.
+    /// Grows whenever a field of this very container changes, before anybody is told; a cache made from the fields
+    /// compares it.
     std::uint32_t getFieldChangeCount() const { return m_fieldChangeCount; }
 
-    // Called by fields and children; tells everyone who listens.
+    /// Called by fields and children; tells everyone who listens.
     virtual void notify(const SoNotification& change);
 
-    // `callback` is told of every container right before its memory goes, while its fields are still there.
+    /// `callback` is told of every container right before its memory goes, while its fields are still there.
     using DyingCallback = void (*)(void* data, SoFieldContainer* dying);
     static void addDyingCallback(DyingCallback callback, void* data);
     static void removeDyingCallback(DyingCallback callback, void* data);
@@ -76,7 +77,7 @@ private:
 
 extern template class SoTyped<SoFieldContainer, SoTypedObject>;
 
-// Holds one reference; the smallest thing that keeps a node alive.
+/// Holds one reference; the smallest thing that keeps a node alive.
 template <class T>
 class XSG_API SoRef
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/core/SoMField.h>
 
 #include <xsg/types/SoTypedImpl.h>

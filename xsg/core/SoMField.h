@@ -1,11 +1,12 @@
-// A field of any number of values. Its text is "[ a, b, c ]", "[ ]" when empty; a single value is read bare
-// too.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoField.h>
 
 #include <string>
 
+/// A field of any number of values. Its text is "[ a, b, c ]", "[ ]" when empty; a single value is read bare
+/// too.
 class XSG_API SoMField : public SoTyped<SoMField, SoField>
 {
 public:
@@ -14,25 +15,25 @@ public:
 
     void get(SbString& text) const final;
 
-    // The number of values; evaluates first.
+    /// The number of values; evaluates first.
     int getNum() const;
-    // Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0. Where there is no
-    // memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make it
-    // grow.
+    /// Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0. Where there is no
+    /// memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make it
+    /// grow.
     void setNum(int count);
 
-    // The text of one value. Outside: false, and the text is empty. Costs that one value only.
+    /// The text of one value. Outside: false, and the text is empty. Costs that one value only.
     bool get1(int index, SbString& text) const;
-    // Writes one value from text; an index past the end grows the field. Refused text or a negative index:
-    // false, values and count stay.
+    /// Writes one value from text; an index past the end grows the field. Refused text or a negative index:
+    /// false, values and count stay.
     bool set1(int index, const SbString& text);
 
-    // Opens `count` new values before `start`; `start` is clamped to 0..getNum().
+    /// Opens `count` new values before `start`; `start` is clamped to 0..getNum().
     virtual void insertSpace(int start, int count);
-    // Removes values; -1 removes all from `start` on. The range is clamped.
+    /// Removes values; -1 removes all from `start` on. The range is clamped.
     virtual void deleteValues(int start, int count = -1);
 
-    // Tells listeners that values start..start+count-1 changed; `isWritten` false leaves the default flag.
+    /// Tells listeners that values start..start+count-1 changed; `isWritten` false leaves the default flag.
     void valueChanged(int start, int count, bool isWritten = true);
 
 protected:
@@ -41,19 +42,19 @@ protected:
     virtual void open(int start, int count) = 0;
     virtual void close(int start, int count) = 0;
     virtual std::size_t bytesPerValue() const = 0;
-    // The text of one value, and of all with ", " between them.
+    /// The text of one value, and of all with ", " between them.
     virtual void writeValue(std::string& out, int index) const = 0;
     virtual void writeValues(std::string& out) const = 0;
-    // Parses text that is one value and nothing else, and then only stores it at `index`, growing the field
-    // where it must.
+    /// Parses text that is one value and nothing else, and then only stores it at `index`, growing the field
+    /// where it must.
     virtual bool parseValue(std::string_view text, int index) = 0;
 
     bool isList() const final { return true; }
     int valueCount() const final { return count(); }
     void writePlain(std::string& out, int value) const override { writeValue(out, value); }
-    // Makes the field larger; false, with an SoMemoryError, where there is no memory.
+    /// Makes the field larger; false, with an SoMemoryError, where there is no memory.
     bool grow(int count);
-    // Tells of values first..last, and of those between the old end and them.
+    /// Tells of values first..last, and of those between the old end and them.
     void valuesGrown(int before, int first, int last);
 
 private:

@@ -1,4 +1,4 @@
-// What a change tells on its way from a field through its node to the root. Lives on the stack of the change.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -6,6 +6,7 @@
 class SoField;
 class SoNode;
 
+/// What a change tells on its way from a field through its node to the root. Lives on the stack of the change.
 struct SoNotification {
     SoField* field = nullptr; // the field that changed, or null when a node's children did
     SoNode* node = nullptr; // the first node that the change reached

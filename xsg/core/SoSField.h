@@ -1,8 +1,9 @@
-// A field of one value.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoField.h>
 
+/// A field of one value.
 class XSG_API SoSField : public SoTyped<SoSField, SoField>
 {
 public:

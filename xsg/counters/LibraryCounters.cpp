@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/counters/LibraryCounters.h>
 
 #include <xsg/counters/SoPerfAccumCounter.h>

@@ -1,5 +1,4 @@
-// What the library counts about itself. The code that does the work adds to a feed; the manager shows each
-// feed as a counter. A new counter is one feed here and one line of the table in the source.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgExport.h>
@@ -13,6 +12,8 @@ class SoPerfCounter;
 namespace xsg
 {
 
+/// What the library counts about itself. The code that does the work adds to a feed; the manager shows each
+/// feed as a counter. A new counter is one feed here and one line of the table in the source.
 struct LibraryFeeds {
     SoPerfFeed fieldChanges;
     SoPerfFeed notifications;
@@ -44,7 +45,7 @@ struct LibraryFeeds {
 };
 extern XSG_API LibraryFeeds feeds;
 
-// One counter per feed, in the order of the table.
+/// One counter per feed, in the order of the table.
 std::vector<std::unique_ptr<SoPerfCounter>> makeLibraryCounters();
 
 } // namespace xsg

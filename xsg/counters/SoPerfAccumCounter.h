@@ -1,12 +1,13 @@
-// Adds up what happened since it was last reset: frames, bytes, microseconds.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/counters/SoPerfCounter.h>
 
+/// Adds up what happened since it was last reset: frames, bytes, microseconds.
 class XSG_API SoPerfAccumCounter : public SoPerfCounter
 {
 public:
-    // custom: computed from two others instead of fed.
+    /// custom: computed from two others instead of fed.
     SoPerfAccumCounter(SbName name, const SbString& description, const SbString& module, int level,
                        bool custom = false, SoPerfFeed* feed = nullptr);
 
@@ -14,7 +15,7 @@ public:
     SbString getTypeText() const override;
 
     void increment(std::int64_t amount = 1) { feed().add(amount); }
-    // Loses nothing of what other threads add meanwhile.
+    /// Loses nothing of what other threads add meanwhile.
     void reset() override;
 
 protected:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/counters/SoPerfCounter.h>
 
 #include <xsg/counters/SoPerfCounterManager.h>

@@ -1,19 +1,20 @@
-// A named number that tells what something costs. Two kinds: SoPerfAccumCounter adds up what happened since
-// its last reset, SoPerfStateCounter tells how things stand. A custom counter counts nothing itself: it is
-// computed, when read, from the raw values of two others.
-//
-// Reading, feeding, resetting and every setter are safe from any thread; reading takes no lock. A counter
-// that was handed to SoPerfCounterManager belongs to it and stays valid until the process ends, also once it
-// was removed.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbName.h>
 #include <xsg/counters/SoPerfFeed.h>
 
+/// A named number that tells what something costs. Two kinds: SoPerfAccumCounter adds up what happened since
+/// its last reset, SoPerfStateCounter tells how things stand. A custom counter counts nothing itself: it is
+/// computed, when read, from the raw values of two others.
+///
+/// Reading, feeding, resetting and every setter are safe from any thread; reading takes no lock. A counter
+/// that was handed to SoPerfCounterManager belongs to it and stays valid until the process ends, also once it
+/// was removed.
 class XSG_API SoPerfCounter
 {
 public:
-    // How often a reader wants to see the counter: low ones are of interest to everybody, high ones to few.
+    /// How often a reader wants to see the counter: low ones are of interest to everybody, high ones to few.
     enum LevelEnum { LOW, MEDIUM, HIGH };
 
     SoPerfCounter(const SoPerfCounter&) = delete;
@@ -28,43 +29,43 @@ public:
     virtual SbString getTypeCode() const = 0; // as files have it: "A", "S"
     virtual SbString getTypeText() const = 0; // as people read it: "Accumulation", "State"
 
-    // The raw value divided by the scale factor; always finite.
+    /// The raw value divided by the scale factor; always finite.
     double getValue() const;
-    // What was counted or, for a custom counter, what its parents' raw values give. 0 for a missing parent,
-    // an unknown operation, a division by zero, and where a counter would need its own value.
+    /// What was counted or, for a custom counter, what its parents' raw values give. 0 for a missing parent,
+    /// an unknown operation, a division by zero, and where a counter would need its own value.
     double getRawValue() const;
-    // Starts counting anew. Of no effect on states and on custom counters, whose parents are the ones to
-    // reset.
+    /// Starts counting anew. Of no effect on states and on custom counters, whose parents are the ones to
+    /// reset.
     virtual void reset();
 
     double getScaleFactor() const { return m_scale.load(std::memory_order_relaxed); }
-    // Ignored unless finite and above 0.
+    /// Ignored unless finite and above 0.
     void setScaleFactor(double factor);
 
-    // The two counters, by name, that a custom counter is computed from; they may be registered later than
-    // it.
+    /// The two counters, by name, that a custom counter is computed from; they may be registered later than
+    /// it.
     SbName getFirstParent() const { return m_parents[0].name.load(); }
     SbName getSecondParent() const { return m_parents[1].name.load(); }
-    // Refused with an SoDebugError, the old parent being kept, where a registered counter would come to
-    // depend on itself.
+    /// Refused with an SoDebugError, the old parent being kept, where a registered counter would come to
+    /// depend on itself.
     void setFirstParent(SbName name) { setParent(0, name); }
     void setSecondParent(SbName name) { setParent(1, name); }
-    // "+", "-", "*" or "/"; any other text is kept and computes 0.
+    /// "+", "-", "*" or "/"; any other text is kept and computes 0.
     SbString getOperation() const { return SbString(m_operation.load().getString()); }
     void setOperation(const SbString& operation) { m_operation = SbName(operation); }
 
     bool isCustom() const { return m_custom; }
-    // A disabled counter still counts, until SoPerfCounterManager::removeDisabledCounters() takes it out.
+    /// A disabled counter still counts, until SoPerfCounterManager::removeDisabledCounters() takes it out.
     bool isEnabled() const { return m_enabled.load(std::memory_order_relaxed); }
 
 protected:
-    // level: a LevelEnum; a number beyond counts as the nearest one. `feed` is where the counter finds its
-    // number; null gives it one of its own.
+    /// level: a LevelEnum; a number beyond counts as the nearest one. `feed` is where the counter finds its
+    /// number; null gives it one of its own.
     SoPerfCounter(SbName name, SbString description, SbString module, int level, bool custom,
                   SoPerfFeed* feed);
 
     SoPerfFeed& feed() const { return *m_feed; }
-    // The number counted, without regard to parents.
+    /// The number counted, without regard to parents.
     virtual std::int64_t counted() const { return m_feed->get(); }
     void forgetSample();
 
@@ -90,7 +91,7 @@ private:
     Parent m_parents[2];
     SoPerfFeed m_ownFeed;
     SoPerfFeed* const m_feed;
-    // The last value read, for an interval above 0. Two threads that read at once may sample twice.
+    /// The last value read, for an interval above 0. Two threads that read at once may sample twice.
     mutable std::atomic<double> m_sample{0};
     mutable std::atomic<double> m_sampleTime{-1};
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <xsg/counters/LibraryCounters.h>

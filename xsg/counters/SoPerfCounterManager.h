@@ -1,5 +1,4 @@
-// The one registry of performance counters. It starts with the library's own (LibraryCounters.h);
-// applications and tools add theirs. All operations are safe from any thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbTime.h>
@@ -11,29 +10,31 @@
 #include <unordered_map>
 #include <vector>
 
+/// The one registry of performance counters. It starts with the library's own (LibraryCounters.h);
+/// applications and tools add theirs. All operations are safe from any thread.
 class XSG_API SoPerfCounterManager
 {
 public:
     static SoPerfCounterManager* getInstance();
 
-    // All counters in the order of registration, the disabled ones included.
+    /// All counters in the order of registration, the disabled ones included.
     std::vector<SoPerfCounter*> getCounters() const;
-    // The counter of this name, or null.
+    /// The counter of this name, or null.
     SoPerfCounter* getCounter(SbName name) const;
 
-    // Takes the counter over. False for a null pointer, an empty name and a name already taken: the counter
-    // then stays with the caller.
+    /// Takes the counter over. False for a null pointer, an empty name and a name already taken: the counter
+    /// then stays with the caller.
     bool registerCounter(SoPerfCounter* counter);
 
-    // Marks a counter; an unknown name does nothing.
+    /// Marks a counter; an unknown name does nothing.
     void disableCounter(SbName name) { setEnabled(name, false); }
     void enableCounter(SbName name) { setEnabled(name, true); }
-    // Takes every disabled counter out of the registry, its name being free again. Counters computed from it
-    // then read 0. Pointers to it stay valid.
+    /// Takes every disabled counter out of the registry, its name being free again. Counters computed from it
+    /// then read 0. Pointers to it stay valid.
     void removeDisabledCounters();
 
-    // How long a value that was read stays good: within it, reading again gives the same value. 0 (the
-    // default) reads anew each time; negative or not finite counts as 0.
+    /// How long a value that was read stays good: within it, reading again gives the same value. 0 (the
+    /// default) reads anew each time; negative or not finite counts as 0.
     void setInterval(SbTime interval);
     SbTime getInterval() const { return m_interval.load(std::memory_order_relaxed); }
 
@@ -51,10 +52,10 @@ private:
     mutable std::mutex m_mutex;
     std::vector<SoPerfCounter*> m_counters;
     std::unordered_map<const char*, SoPerfCounter*> m_byName;
-    // Who names whom as a parent. Entries are never taken out; a look at the counter tells whether one still
-    // holds.
+    /// Who names whom as a parent. Entries are never taken out; a look at the counter tells whether one still
+    /// holds.
     std::unordered_map<const char*, std::vector<SoPerfCounter*>> m_children;
-    // Never shrinks: whoever still feeds or reads a removed counter needs no lock.
+    /// Never shrinks: whoever still feeds or reads a removed counter needs no lock.
     std::vector<std::unique_ptr<SoPerfCounter>> m_owned;
     std::atomic<SbTime> m_interval{SbTime()};
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/counters/SoPerfAccumCounter.h>
 #include <xsg/counters/SoPerfStateCounter.h>
 

@@ -1,12 +1,13 @@
-// Tells how things stand: nodes alive, sensors queued. A reset does not change it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/counters/SoPerfCounter.h>
 
+/// Tells how things stand: nodes alive, sensors queued. A reset does not change it.
 class XSG_API SoPerfStateCounter : public SoPerfCounter
 {
 public:
-    // custom: computed from two others instead of fed.
+    /// custom: computed from two others instead of fed.
     SoPerfStateCounter(SbName name, const SbString& description, const SbString& module, int level,
                        bool custom = false, SoPerfFeed* feed = nullptr);
 

@@ -1,8 +1,9 @@
-// A remark for whoever builds on the library: it was used wrongly, or something deserves attention.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/errors/SoError.h>
 
+/// A remark for whoever builds on the library: it was used wrongly, or something deserves attention.
 class XSG_API SoDebugError : public SoErrorClass<SoDebugError, SoError>
 {
 public:
@@ -10,7 +11,7 @@ public:
 
     enum Severity { ERROR = 0, WARNING = 1, INFO = 2 };
 
-    // source: the operation that has something to say.
+    /// source: the operation that has something to say.
     static void post(const char* source, const SbString& sentence) { post(ERROR, source, sentence); }
     static void postWarning(const char* source, const SbString& sentence) { post(WARNING, source, sentence); }
     static void postInfo(const char* source, const SbString& sentence) { post(INFO, source, sentence); }

@@ -1,23 +1,18 @@
-// Something went wrong, and one sentence tells what. An error is built, handed to the handler of its class
-// and gone: nothing is thrown. Posting is safe from any thread; the handler runs on the thread that posts.
-//
-// Each class of errors has a handler of its own: a callback with a data pointer. The handler that is there at
-// the start writes the debug string to standard error, one line per error; a null callback drops the class's
-// errors.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbString.h>
 #include <xsg/types/SoTyped.h>
 #include <xsg/errors/SoErrorHandler.h>
 
-// Gives an error class its type and its handler.
+/// Gives an error class its type and its handler.
 template <class Self, class Base>
 class XSG_API SoErrorClass : public SoTyped<Self, Base>
 {
 public:
     using SoTyped<Self, Base>::SoTyped;
 
-    // Returns when the callback that was replaced runs on no thread any more.
+    /// Returns when the callback that was replaced runs on no thread any more.
     static void setHandlerCallback(SoErrorCB* callback, void* data) { handler().set(callback, data); }
     static SoErrorCB* getHandlerCallback() { return handler().getCallback(); }
     static void* getHandlerData() { return handler().getData(); }
@@ -26,6 +21,12 @@ protected:
     static SoErrorHandler& handler();
 };
 
+/// Something went wrong, and one sentence tells what. An error is built, handed to the handler of its class
+/// and gone: nothing is thrown. Posting is safe from any thread; the handler runs on the thread that posts.
+///
+/// Each class of errors has a handler of its own: a callback with a data pointer. The handler that is there at
+/// the start writes the debug string to standard error, one line per error; a null callback drops the class's
+/// errors.
 class XSG_API SoError : public SoErrorClass<SoError, SoTypedObject>
 {
 public:
@@ -34,7 +35,7 @@ public:
     static void post(const SbString& sentence);
     const SbString& getDebugString() const { return m_text; }
 
-    // The callback that every class has at the start; it needs no data.
+    /// The callback that every class has at the start; it needs no data.
     static void defaultHandler(const SoError* error, void* data);
 
 protected:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/errors/SoErrorHandler.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The handler of one error class: a callback and its data. Every operation is safe from any thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgExport.h>
@@ -10,6 +10,7 @@
 class SoError;
 using SoErrorCB = void(const SoError* error, void* data);
 
+/// The handler of one error class: a callback and its data. Every operation is safe from any thread.
 class XSG_API SoErrorHandler
 {
 public:
@@ -17,14 +18,14 @@ public:
     SoErrorHandler(const SoErrorHandler&) = delete;
     SoErrorHandler& operator=(const SoErrorHandler&) = delete;
 
-    // Returns when the callback that was replaced runs on no thread any more, so that what it uses may go.
-    // Called from inside that callback, it waits for the other threads only.
+    /// Returns when the callback that was replaced runs on no thread any more, so that what it uses may go.
+    /// Called from inside that callback, it waits for the other threads only.
     void set(SoErrorCB* callback, void* data);
     SoErrorCB* getCallback() const;
     void* getData() const;
 
-    // Runs the callback on this thread. A callback may post errors itself, down to a depth that ends a
-    // callback which answers each of its own errors with another one.
+    /// Runs the callback on this thread. A callback may post errors itself, down to a depth that ends a
+    /// callback which answers each of its own errors with another one.
     void handle(const SoError& error);
 
 private:

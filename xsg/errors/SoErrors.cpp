@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/types/SoTypedImpl.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoErrorStack.h>

@@ -1,14 +1,15 @@
-// There is no memory for something.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/errors/SoError.h>
 
+/// There is no memory for something.
 class XSG_API SoMemoryError : public SoErrorClass<SoMemoryError, SoError>
 {
 public:
     static constexpr const char* ClassName = "MemoryError";
 
-    // wanted: what it was for; bytes: how much was asked for.
+    /// wanted: what it was for; bytes: how much was asked for.
     static void post(const SbString& wanted, std::size_t bytes);
 
     std::size_t getBytes() const { return m_bytes; }

@@ -1,15 +1,16 @@
-// A file that cannot be read as what it should be.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/errors/SoError.h>
 
+/// A file that cannot be read as what it should be.
 class XSG_API SoReadError : public SoErrorClass<SoReadError, SoError>
 {
 public:
     static constexpr const char* ClassName = "ReadError";
 
-    // Line and column: counted from 1, the column in bytes; 0 where there is none. The sentence says what is
-    // wrong and what was expected.
+    /// Line and column: counted from 1, the column in bytes; 0 where there is none. The sentence says what is
+    /// wrong and what was expected.
     static void post(const SbString& file, int line, const SbString& sentence)
     {
         post(file, line, 0, sentence);

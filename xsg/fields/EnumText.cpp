@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/fields/EnumText.h>
 
 #include <xsg/fields/SoValueImpl.h>

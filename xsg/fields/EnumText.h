@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text forms of enumeration and bit-mask values, shared by the single- and multi-value fields.
 #pragma once
 
@@ -7,13 +8,13 @@
 namespace xsg
 {
 
-// Alone, a name is written as it stands, blanks inside included; in a list, one that is no word takes quotes.
+/// Alone, a name is written as it stands, blanks inside included; in a list, one that is no word takes quotes.
 void writeEnum(std::string& out, const SoEnumTable& table, int value);
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value);
 void writeListedEnum(std::string& out, const SoEnumTable& table, int value);
 bool readListedEnum(XsgTextReader& in, const SoEnumTable& table, int& value);
 
-// A bit mask has the same text alone and in a list.
+/// A bit mask has the same text alone and in a list.
 void writeBitMask(std::string& out, const SoEnumTable& table, int value);
 bool readBitMask(std::string_view text, const SoEnumTable& table, int& value);
 bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value);

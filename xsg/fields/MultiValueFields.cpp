@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Instantiates the multi-value fields that share SoMValue.
 #include <xsg/fields/SoMFBool.h>
 #include <xsg/fields/SoMFBox3f.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text of lists of numbers and of vectors, as fast as the numbers' own.
 #pragma once
 
@@ -9,7 +10,7 @@
 namespace xsg
 {
 
-// The numbers of a value that is nothing but a row of them.
+/// The numbers of a value that is nothing but a row of them.
 template <class T>
 const T* numbersOf(const T& value)
 {
@@ -37,7 +38,7 @@ constexpr bool isRowOfNumbers =
     std::is_arithmetic_v<std::remove_pointer_t<decltype(numbersOf(std::declval<T>()))>> &&
     !std::is_same_v<T, SbBool>;
 
-// Through a buffer of its own, since a string takes its time for every piece that it is given.
+/// Through a buffer of its own, since a string takes its time for every piece that it is given.
 template <class T>
 void writeNumbers(std::string& out, const std::vector<T>& values)
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Instantiates the single-value fields that share SoSValue.
 #include <xsg/fields/SoSFBool.h>
 #include <xsg/fields/SoSFBox3f.h>

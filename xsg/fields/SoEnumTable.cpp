@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/fields/SoEnumTable.h>
 
 #include <algorithm>

@@ -1,8 +1,9 @@
-// Any number of values, each any combination of named bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFEnum.h>
 
+/// Any number of values, each any combination of named bits.
 class XSG_API SoMFBitMask : public SoTyped<SoMFBitMask, SoMFEnum>
 {
 public:

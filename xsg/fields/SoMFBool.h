@@ -1,8 +1,9 @@
-// Any number of values, each true or false.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each true or false.
 class XSG_API SoMFBool : public SoTyped<SoMFBool, SoMValue<SbBool>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each a box of floats: minimum corner, maximum corner.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a box of floats: minimum corner, maximum corner.
 class XSG_API SoMFBox3f : public SoTyped<SoMFBox3f, SoMValue<SbBox3f>>
 {
 public:

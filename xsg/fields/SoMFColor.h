@@ -1,8 +1,9 @@
-// Any number of values, each a colour: red, green, blue.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFVec3f.h>
 
+/// Any number of values, each a colour: red, green, blue.
 class XSG_API SoMFColor : public SoTyped<SoMFColor, SoMFVec3f>
 {
 public:

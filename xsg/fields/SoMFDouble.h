@@ -1,8 +1,9 @@
-// Any number of values, each a double-precision number.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a double-precision number.
 class XSG_API SoMFDouble : public SoTyped<SoMFDouble, SoMValue<double>>
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/fields/SoMFEnum.h>
 
 #include <xsg/fields/EnumText.h>

@@ -1,9 +1,10 @@
-// Any number of values, each one of a set of named numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoEnumTable.h>
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each one of a set of named numbers.
 class XSG_API SoMFEnum : public SoTyped<SoMFEnum, SoMValue<std::int32_t>>
 {
 public:
@@ -17,16 +18,16 @@ public:
     {
     }
 
-    // The names in order; the pointers are valid until setEnums().
+    /// The names in order; the pointers are valid until setEnums().
     void getEnums(int& count, const int*& values, const SbName*& names) const;
     void setEnums(int count, const int* values, const SbName* names);
     const SoEnumTable& getTable() const { return *m_table; }
 
 protected:
-    // The text of one value in a list.
+    /// The text of one value in a list.
     virtual void writeListed(std::string& out, int value) const;
     virtual bool readListed(XsgTextReader& in, int& value) const;
-    // The text of one value that stands alone.
+    /// The text of one value that stands alone.
     virtual bool readAlone(std::string_view text, int& value) const;
 
     void writeValue(std::string& out, int index) const override;
@@ -34,7 +35,7 @@ protected:
     bool parseValue(std::string_view text, int index) override;
     bool parse(std::string_view text) override;
     bool assignFromText(const std::vector<std::string>& texts) override;
-    // The names may differ, so that a list of plain numbers is taken over as numbers.
+    /// The names may differ, so that a list of plain numbers is taken over as numbers.
     bool hasSameValues(const SoField& /*other*/) const override { return false; }
 
 private:

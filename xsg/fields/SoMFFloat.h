@@ -1,8 +1,9 @@
-// Any number of values, each a single-precision number.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a single-precision number.
 class XSG_API SoMFFloat : public SoTyped<SoMFFloat, SoMValue<float>>
 {
 public:

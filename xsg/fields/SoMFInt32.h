@@ -1,10 +1,11 @@
-// Any number of values, each a 32-bit signed integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
 #include <cstdint>
 
+/// Any number of values, each a 32-bit signed integer.
 class XSG_API SoMFInt32 : public SoTyped<SoMFInt32, SoMValue<std::int32_t>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each a 4 by 4 matrix, row after row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a 4 by 4 matrix, row after row.
 class XSG_API SoMFMatrix : public SoTyped<SoMFMatrix, SoMValue<SbMatrix>>
 {
 public:

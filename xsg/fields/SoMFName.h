@@ -1,8 +1,9 @@
-// Any number of values, each an interned name.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each an interned name.
 class XSG_API SoMFName : public SoTyped<SoMFName, SoMValue<SbName>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each a plane: normal and distance from the origin.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a plane: normal and distance from the origin.
 class XSG_API SoMFPlane : public SoTyped<SoMFPlane, SoMValue<SbPlane>>
 {
 public:

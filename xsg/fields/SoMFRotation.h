@@ -1,8 +1,9 @@
-// Any number of values, each a rotation: the four stored numbers of a quaternion.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a rotation: the four stored numbers of a quaternion.
 class XSG_API SoMFRotation : public SoTyped<SoMFRotation, SoMValue<SbRotation>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each a 16-bit signed integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a 16-bit signed integer.
 class XSG_API SoMFShort : public SoTyped<SoMFShort, SoMValue<short>>
 {
 public:

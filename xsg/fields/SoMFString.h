@@ -1,8 +1,9 @@
-// Any number of values, each a text.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a text.
 class XSG_API SoMFString : public SoTyped<SoMFString, SoMValue<SbString>>
 {
 public:

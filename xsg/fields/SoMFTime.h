@@ -1,8 +1,9 @@
-// Any number of values, each a time in seconds.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a time in seconds.
 class XSG_API SoMFTime : public SoTyped<SoMFTime, SoMValue<SbTime>>
 {
 public:

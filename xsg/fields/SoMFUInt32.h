@@ -1,10 +1,11 @@
-// Any number of values, each a 32-bit unsigned integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
 #include <cstdint>
 
+/// Any number of values, each a 32-bit unsigned integer.
 class XSG_API SoMFUInt32 : public SoTyped<SoMFUInt32, SoMValue<std::uint32_t>>
 {
 public:

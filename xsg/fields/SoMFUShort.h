@@ -1,8 +1,9 @@
-// Any number of values, each a 16-bit unsigned integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a 16-bit unsigned integer.
 class XSG_API SoMFUShort : public SoTyped<SoMFUShort, SoMValue<unsigned short>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each two doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each two doubles.
 class XSG_API SoMFVec2d : public SoTyped<SoMFVec2d, SoMValue<SbVec2d>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each two floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each two floats.
 class XSG_API SoMFVec2f : public SoTyped<SoMFVec2f, SoMValue<SbVec2f>>
 {
 public:

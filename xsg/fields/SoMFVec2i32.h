@@ -1,8 +1,9 @@
-// Any number of values, each two 32-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each two 32-bit integers.
 class XSG_API SoMFVec2i32 : public SoTyped<SoMFVec2i32, SoMValue<SbVec2i32>>
 {
 public:

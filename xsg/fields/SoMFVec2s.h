@@ -1,8 +1,9 @@
-// Any number of values, each two 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each two 16-bit integers.
 class XSG_API SoMFVec2s : public SoTyped<SoMFVec2s, SoMValue<SbVec2s>>
 {
 public:

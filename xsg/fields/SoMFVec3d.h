@@ -1,8 +1,9 @@
-// Any number of values, each three doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each three doubles.
 class XSG_API SoMFVec3d : public SoTyped<SoMFVec3d, SoMValue<SbVec3d>>
 {
 public:

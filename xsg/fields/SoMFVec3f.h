@@ -1,8 +1,9 @@
-// Any number of values, each three floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each three floats.
 class XSG_API SoMFVec3f : public SoTyped<SoMFVec3f, SoMValue<SbVec3f>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each three 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each three 16-bit integers.
 class XSG_API SoMFVec3s : public SoTyped<SoMFVec3s, SoMValue<SbVec3s>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each four doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each four doubles.
 class XSG_API SoMFVec4d : public SoTyped<SoMFVec4d, SoMValue<SbVec4d>>
 {
 public:

@@ -1,8 +1,9 @@
-// Any number of values, each four floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each four floats.
 class XSG_API SoMFVec4f : public SoTyped<SoMFVec4f, SoMValue<SbVec4f>>
 {
 public:

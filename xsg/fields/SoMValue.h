@@ -1,4 +1,4 @@
-// The template behind every multi-value field whose values are a plain type with an XsgText.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgText.h>
@@ -7,13 +7,14 @@
 #include <initializer_list>
 #include <vector>
 
+/// The template behind every multi-value field whose values are a plain type with an XsgText.
 template <class T, class Base = SoMField>
 class XSG_API SoMValue : public Base
 {
 public:
     using Value = T;
 
-    // Pointer to value `start`; the values lie one after the other. Valid until the field changes.
+    /// Pointer to value `start`; the values lie one after the other. Valid until the field changes.
     const T* getValues(int start = 0) const
     {
         this->evaluate();
@@ -24,22 +25,22 @@ public:
         this->evaluate();
         return m_values[static_cast<std::size_t>(index)];
     }
-    // Makes this the only value.
+    /// Makes this the only value.
     void setValue(const T& value)
     {
         m_values.assign(1, value);
         this->valueWritten();
     }
-    // An index past the end grows the field; a negative one does nothing.
+    /// An index past the end grows the field; a negative one does nothing.
     void set1Value(int index, const T& value);
     void setValues(int start, int number, const T* values);
-    // Takes over the whole list without copying it.
+    /// Takes over the whole list without copying it.
     void setValues(std::vector<T> values)
     {
         m_values = std::move(values);
         this->valueWritten();
     }
-    // Direct writing of many values: change what startEditing() gives, then call finishEditing().
+    /// Direct writing of many values: change what startEditing() gives, then call finishEditing().
     T* startEditing()
     {
         this->evaluate();
@@ -75,7 +76,7 @@ protected:
     bool hasSameValues(const SoField& other) const override;
     bool takeSameValues(const SoField& other) override;
 
-    // For a class whose values have a text form of its own.
+    /// For a class whose values have a text form of its own.
     const std::vector<T>& rawValues() const { return m_values; }
     void takeRawValues(std::vector<T> values) { m_values = std::move(values); }
     bool storeAt(int index, T value);

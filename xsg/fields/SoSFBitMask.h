@@ -1,9 +1,10 @@
-// Any combination of named bits. Its text is the names joined by " | ", bits without a name as one number,
-// and 0 (or the name of a zero entry) when no bit is set.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFEnum.h>
 
+/// Any combination of named bits. Its text is the names joined by " | ", bits without a name as one number,
+/// and 0 (or the name of a zero entry) when no bit is set.
 class XSG_API SoSFBitMask : public SoTyped<SoSFBitMask, SoSFEnum>
 {
 public:

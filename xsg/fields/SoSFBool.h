@@ -1,8 +1,9 @@
-// True or false.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// True or false.
 class XSG_API SoSFBool : public SoTyped<SoSFBool, SoSValue<bool>>
 {
 public:

@@ -1,8 +1,9 @@
-// A box of floats: minimum corner, maximum corner.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A box of floats: minimum corner, maximum corner.
 class XSG_API SoSFBox3f : public SoTyped<SoSFBox3f, SoSValue<SbBox3f>>
 {
 public:

@@ -1,8 +1,9 @@
-// A box of 16-bit integers: minimum corner, maximum corner.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A box of 16-bit integers: minimum corner, maximum corner.
 class XSG_API SoSFBox3s : public SoTyped<SoSFBox3s, SoSValue<SbBox3s>>
 {
 public:

@@ -1,8 +1,9 @@
-// A colour: red, green, blue.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A colour: red, green, blue.
 class XSG_API SoSFColor : public SoTyped<SoSFColor, SoSValue<SbColor>>
 {
 public:

@@ -1,8 +1,9 @@
-// A double-precision number.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A double-precision number.
 class XSG_API SoSFDouble : public SoTyped<SoSFDouble, SoSValue<double>>
 {
 public:

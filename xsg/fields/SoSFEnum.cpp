@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/fields/SoSFEnum.h>
 
 #include <xsg/values/XsgNumbers.h>

@@ -1,9 +1,10 @@
-// One of a set of named numbers. Its text is the bare name, or the number where no name has the value.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoEnumTable.h>
 #include <xsg/core/SoSField.h>
 
+/// One of a set of named numbers. Its text is the bare name, or the number where no name has the value.
 class XSG_API SoSFEnum : public SoTyped<SoSFEnum, SoSField>
 {
 public:
@@ -19,10 +20,10 @@ public:
     }
     void setValue(int value);   // any number, named or not
     void setValue(SbName name); // an unknown name leaves the value
-    // The value behind a name; false for an unknown one.
+    /// The value behind a name; false for an unknown one.
     bool findValue(SbName name, int& value) const { return m_table->findValue(name, value); }
 
-    // The names in order; the pointers are valid until setEnums().
+    /// The names in order; the pointers are valid until setEnums().
     void getEnums(int& count, const int*& values, const SbName*& names) const;
     void setEnums(int count, const int* values, const SbName* names);
     const SoEnumTable& getTable() const { return *m_table; }

@@ -1,8 +1,9 @@
-// The path of a file.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFString.h>
 
+/// The path of a file.
 class XSG_API SoSFFilePathString : public SoTyped<SoSFFilePathString, SoSFString>
 {
 public:

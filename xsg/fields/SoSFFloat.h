@@ -1,8 +1,9 @@
-// A single-precision number.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A single-precision number.
 class XSG_API SoSFFloat : public SoTyped<SoSFFloat, SoSValue<float>>
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/fields/SoSFImage.h>
 
 #include <xsg/values/XsgText.h>

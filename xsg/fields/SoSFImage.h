@@ -1,10 +1,11 @@
-// A picture: width x height pixels of 1 to 4 bytes, rows from the bottom up, no padding.
-// Its text is "width height components", then each pixel as one hexadecimal number; "0 0 0" is the empty
-// picture.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoSField.h>
 
+/// A picture: width x height pixels of 1 to 4 bytes, rows from the bottom up, no padding.
+/// Its text is "width height components", then each pixel as one hexadecimal number; "0 0 0" is the empty
+/// picture.
 class XSG_API SoSFImage : public SoTyped<SoSFImage, SoSField>
 {
 public:
@@ -16,10 +17,10 @@ public:
     {
     }
 
-    // The bytes, or null when there are none; sizes in pixels.
+    /// The bytes, or null when there are none; sizes in pixels.
     const unsigned char* getValue(int& width, int& height, int& components) const;
-    // Copies the bytes; a null pointer keeps the sizes without data. Negative sizes, or more than 4
-    // components, make the picture empty.
+    /// Copies the bytes; a null pointer keeps the sizes without data. Negative sizes, or more than 4
+    /// components, make the picture empty.
     void setValue(int width, int height, int components, const unsigned char* bytes);
 
     void get(SbString& text) const override;

@@ -1,10 +1,11 @@
-// A 32-bit signed integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
 #include <cstdint>
 
+/// A 32-bit signed integer.
 class XSG_API SoSFInt32 : public SoTyped<SoSFInt32, SoSValue<std::int32_t>>
 {
 public:

@@ -1,8 +1,9 @@
-// A 4 by 4 matrix, row after row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A 4 by 4 matrix, row after row.
 class XSG_API SoSFMatrix : public SoTyped<SoSFMatrix, SoSValue<SbMatrix>>
 {
 public:

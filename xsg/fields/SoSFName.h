@@ -1,8 +1,9 @@
-// An interned name.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// An interned name.
 class XSG_API SoSFName : public SoTyped<SoSFName, SoSValue<SbName>>
 {
 public:

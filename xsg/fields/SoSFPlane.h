@@ -1,8 +1,9 @@
-// A plane: normal and distance from the origin.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A plane: normal and distance from the origin.
 class XSG_API SoSFPlane : public SoTyped<SoSFPlane, SoSValue<SbPlane>>
 {
 public:

@@ -1,8 +1,9 @@
-// A rotation: the four stored numbers of a quaternion.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A rotation: the four stored numbers of a quaternion.
 class XSG_API SoSFRotation : public SoTyped<SoSFRotation, SoSValue<SbRotation>>
 {
 public:

@@ -1,8 +1,9 @@
-// A 16-bit signed integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A 16-bit signed integer.
 class XSG_API SoSFShort : public SoTyped<SoSFShort, SoSValue<short>>
 {
 public:

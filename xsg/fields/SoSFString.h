@@ -1,8 +1,9 @@
-// A text.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A text.
 class XSG_API SoSFString : public SoTyped<SoSFString, SoSValue<SbString>>
 {
 public:

@@ -1,8 +1,9 @@
-// A time in seconds.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A time in seconds.
 class XSG_API SoSFTime : public SoTyped<SoSFTime, SoSValue<SbTime>>
 {
 public:

@@ -1,10 +1,11 @@
-// A 32-bit unsigned integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
 #include <cstdint>
 
+/// A 32-bit unsigned integer.
 class XSG_API SoSFUInt32 : public SoTyped<SoSFUInt32, SoSValue<std::uint32_t>>
 {
 public:

@@ -1,8 +1,9 @@
-// A 16-bit unsigned integer.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// A 16-bit unsigned integer.
 class XSG_API SoSFUShort : public SoTyped<SoSFUShort, SoSValue<unsigned short>>
 {
 public:

@@ -1,8 +1,9 @@
-// Two doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Two doubles.
 class XSG_API SoSFVec2d : public SoTyped<SoSFVec2d, SoSValue<SbVec2d>>
 {
 public:

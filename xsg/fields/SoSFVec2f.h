@@ -1,8 +1,9 @@
-// Two floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Two floats.
 class XSG_API SoSFVec2f : public SoTyped<SoSFVec2f, SoSValue<SbVec2f>>
 {
 public:

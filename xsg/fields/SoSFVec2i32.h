@@ -1,8 +1,9 @@
-// Two 32-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Two 32-bit integers.
 class XSG_API SoSFVec2i32 : public SoTyped<SoSFVec2i32, SoSValue<SbVec2i32>>
 {
 public:

@@ -1,8 +1,9 @@
-// Two 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Two 16-bit integers.
 class XSG_API SoSFVec2s : public SoTyped<SoSFVec2s, SoSValue<SbVec2s>>
 {
 public:

@@ -1,8 +1,9 @@
-// Three doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Three doubles.
 class XSG_API SoSFVec3d : public SoTyped<SoSFVec3d, SoSValue<SbVec3d>>
 {
 public:

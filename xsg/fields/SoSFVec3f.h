@@ -1,8 +1,9 @@
-// Three floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Three floats.
 class XSG_API SoSFVec3f : public SoTyped<SoSFVec3f, SoSValue<SbVec3f>>
 {
 public:

@@ -1,8 +1,9 @@
-// Three 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Three 16-bit integers.
 class XSG_API SoSFVec3s : public SoTyped<SoSFVec3s, SoSValue<SbVec3s>>
 {
 public:

@@ -1,8 +1,9 @@
-// Four doubles.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Four doubles.
 class XSG_API SoSFVec4d : public SoTyped<SoSFVec4d, SoSValue<SbVec4d>>
 {
 public:

@@ -1,8 +1,9 @@
-// Four floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
 
+/// Four floats.
 class XSG_API SoSFVec4f : public SoTyped<SoSFVec4f, SoSValue<SbVec4f>>
 {
 public:

@@ -1,10 +1,12 @@
-// The template behind every single-value field whose value is a plain type with an XsgText.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgText.h>
 #include <xsg/core/SoSField.h>
 
-// Base lets a field derive from another field's class; it is SoSField for most.
+/// The template behind every single-value field whose value is a plain type with an XsgText.
+///
+/// Base lets a field derive from another field's class; it is SoSField for most.
 template <class T, class Base = SoSField>
 class XSG_API SoSValue : public Base
 {
@@ -21,7 +23,7 @@ public:
         m_value = value;
         this->valueWritten();
     }
-    // The components one by one: setValue(x, y), setValue(xmin, ymin, zmin, xmax, ymax, zmax), ...
+    /// The components one by one: setValue(x, y), setValue(xmin, ymin, zmin, xmax, ymax, zmax), ...
     template <class A, class B, class... Rest>
     void setValue(A a, B b, Rest... rest)
     {

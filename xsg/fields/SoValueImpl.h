@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The bodies of SoSValue and SoMValue, for the source files that instantiate fields:
 //
 //     template class SoSValue<float>;
@@ -29,7 +30,7 @@ inline std::string_view plainText(SbName name)
     return name.getString();
 }
 
-// A text without quotes stands for itself, blanks inside included.
+/// A text without quotes stands for itself, blanks inside included.
 template <class T>
 bool readWholeText(std::string_view text, T& value)
 {
@@ -44,7 +45,7 @@ bool readWholeText(std::string_view text, T& value)
     }
 }
 
-// One value and nothing after it.
+/// One value and nothing after it.
 template <class T>
 bool readOnly(std::string_view text, T& value)
 {
@@ -56,8 +57,8 @@ bool readOnly(std::string_view text, T& value)
     return true;
 }
 
-// A list in brackets, or one value without them. readOne(in, value) reads one value of a list,
-// readAlone(text, value) one that stands alone. False leaves `values` as they were.
+/// A list in brackets, or one value without them. readOne(in, value) reads one value of a list,
+/// readAlone(text, value) one that stands alone. False leaves `values` as they were.
 template <class T, class ReadOne, class ReadAlone>
 bool readValues(std::string_view text, std::vector<T>& values, ReadOne readOne, ReadAlone readAlone)
 {
@@ -95,7 +96,7 @@ void writeValues(std::string& out, const std::vector<T>& values, WriteOne writeO
     }
 }
 
-// Bit for bit for plain numbers, so that a field of NaN equals itself.
+/// Bit for bit for plain numbers, so that a field of NaN equals itself.
 template <class T>
 bool sameValue(const T& a, const T& b)
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/files/SceneReader.h>
 
 #include <xsg/nodes/base/SoMFNode.h>

@@ -1,4 +1,4 @@
-// Reads the text of a scene; see SoSceneFile for its form.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgText.h>
@@ -13,6 +13,7 @@
 namespace xsg
 {
 
+/// Reads the text of a scene; see SoSceneFile for its form.
 class SceneReader
 {
 public:
@@ -21,10 +22,10 @@ public:
     {
     }
 
-    // Null on the first error.
+    /// Null on the first error.
     SoRef<SoNode> read();
 
-    // After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
+    /// After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
     int getLine() const;
     int getColumn() const;
     const std::string& getProblem() const { return m_problem; }
@@ -43,7 +44,7 @@ private:
         SbString value; // as written; null where it was not
     };
 
-    // Nodes that a field refers to by their labels.
+    /// Nodes that a field refers to by their labels.
     struct NodeValue {
         SoField* field;
         std::string_view text;

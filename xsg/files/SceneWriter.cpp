@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/files/SceneWriter.h>
 
 #include <xsg/values/XsgText.h>

@@ -1,4 +1,4 @@
-// Writes a scene as text; see SoSceneFile for its form.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbString.h>
@@ -14,10 +14,11 @@ class SoField;
 namespace xsg
 {
 
+/// Writes a scene as text; see SoSceneFile for its form.
 class SceneWriter
 {
 public:
-    // Is handed the text piece by piece.
+    /// Is handed the text piece by piece.
     using Sink = std::function<void(const std::string&)>;
     explicit SceneWriter(Sink sink)
         : m_sink(std::move(sink))

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/files/SoSceneFile.h>
 
 #include <xsg/counters/LibraryCounters.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/registry/FieldTypes.h>
 
 #include <xsg/fields/SoMFBitMask.h>

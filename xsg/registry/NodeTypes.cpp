@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/registry/NodeTypes.h>
 
 #include <xsg/nodes/lights/SoAmbientLight.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Registers every built-in node type, so that it can be found by name.
 #pragma once
 

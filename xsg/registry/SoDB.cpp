@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/registry/SoDB.h>
 
 #include <xsg/registry/FieldTypes.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/DrawState.h>
 
 #include <xsg/nodes/properties/SoDrawStyle.h>

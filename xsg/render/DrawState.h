@@ -1,5 +1,4 @@
-// OpenGL's settings while a frame is drawn: sets what the next thing needs, and only what differs from what is set
-// already.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/render/RenderList.h>
@@ -7,20 +6,22 @@
 namespace xsg
 {
 
+/// OpenGL's settings while a frame is drawn: sets what the next thing needs, and only what differs from what is set
+/// already.
 class DrawState
 {
 public:
-    // Which sides of surfaces are drawn.
+    /// Which sides of surfaces are drawn.
     enum class Faces { Both, Back, Front };
 
     explicit DrawState(Shader& shader)
         : m_shader(shader)
     {
     }
-    // Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene has
-    // no light; they stay as they are as long as the frame is drawn.
+    /// Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene has
+    /// no light; they stay as they are as long as the frame is drawn.
     void begin(int width, int height, const std::vector<SoLightSource>& headlights);
-    // Puts back what would surprise others.
+    /// Puts back what would surprise others.
     void end();
 
     void setEdgesOnly(bool on);
@@ -28,7 +29,7 @@ public:
     void setGeometry(GpuGeometry& geometry);
     void setFaces(Faces faces, bool isMirrored);
 
-    // Settings that were changed since begin().
+    /// Settings that were changed since begin().
     std::int64_t getChanges() const { return m_changes; }
 
 private:

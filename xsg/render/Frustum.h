@@ -1,4 +1,4 @@
-// What a camera can see, as planes.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/BoundingBoxTree.h>
@@ -8,6 +8,7 @@
 namespace xsg
 {
 
+/// What a camera can see, as planes.
 class Frustum
 {
 public:
@@ -25,7 +26,7 @@ public:
         }
     }
 
-    // What of the box is in sight; nothing and everything are certain.
+    /// What of the box is in sight; nothing and everything are certain.
     Found classify(const SbBox3f& box) const
     {
         const SbVec3f& low = box.getMin();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/GeometryStore.h>
 
 #include <xsg/counters/LibraryCounters.h>

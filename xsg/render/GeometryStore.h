@@ -1,4 +1,4 @@
-// Geometry in vertex buffers, made once per key and kept while scenes use it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoGeometry.h>
@@ -22,12 +22,13 @@ struct GpuGeometry {
     SoGeometryKey key;
 };
 
+/// Geometry in vertex buffers, made once per key and kept while scenes use it.
 class GeometryStore
 {
 public:
-    // The shape's geometry, uploaded where it was not there, with one user more.
+    /// The shape's geometry, uploaded where it was not there, with one user more.
     GpuGeometry* get(const SoShape& shape, const SoState& state);
-    // One user less; what has no user any more goes with removeUnused().
+    /// One user less; what has no user any more goes with removeUnused().
     void release(GpuGeometry* geometry);
     void giveAllBack();
     void removeUnused();

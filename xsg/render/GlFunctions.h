@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // OpenGL, and small owners of its objects. Everything here needs the context current in which it was made;
 // what is left when the context has gone went with it.
 #pragma once
@@ -10,7 +11,7 @@
 namespace xsg
 {
 
-// Owns one OpenGL object; `Traits` says how to give it back.
+/// Owns one OpenGL object; `Traits` says how to give it back.
 template <class Traits>
 class GlObject
 {
@@ -29,7 +30,7 @@ public:
         std::swap(m_name, other.m_name);
         return *this;
     }
-    // Gives nothing back: without its context current, OpenGL would take another context's object.
+    /// Gives nothing back: without its context current, OpenGL would take another context's object.
     ~GlObject() = default;
 
     GLuint get()

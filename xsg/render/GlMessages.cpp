@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/GlMessages.h>
 
 #include <xsg/support/SoPreferences.h>

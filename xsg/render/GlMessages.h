@@ -1,5 +1,4 @@
-// What OpenGL has to say, as SoGLError: by its debug output where the context was made for debugging, else by asking
-// for errors once a frame.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/render/GlFunctions.h>
@@ -7,15 +6,17 @@
 namespace xsg
 {
 
+/// What OpenGL has to say, as SoGLError: by its debug output where the context was made for debugging, else by asking
+/// for errors once a frame.
 class GlMessages
 {
 public:
-    // Whether new contexts should be made for debugging: the preference XSG_GL_DEBUG, on at first in debug builds.
+    /// Whether new contexts should be made for debugging: the preference XSG_GL_DEBUG, on at first in debug builds.
     static bool areWanted();
 
-    // Before a frame, with its context current.
+    /// Before a frame, with its context current.
     void listen();
-    // After the frame: `source` is what drew it.
+    /// After the frame: `source` is what drew it.
     void collect(const char* source);
 
 private:

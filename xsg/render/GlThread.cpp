@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/GlThread.h>
 
 #include <xsg/render/GlMessages.h>

@@ -1,5 +1,4 @@
-// A thread with an OpenGL context of its own that needs neither a window nor a display. Work given to it runs
-// there while the caller waits, so the contexts that the caller has current stay untouched.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <condition_variable>
@@ -11,6 +10,8 @@
 namespace xsg
 {
 
+/// A thread with an OpenGL context of its own that needs neither a window nor a display. Work given to it runs
+/// there while the caller waits, so the contexts that the caller has current stay untouched.
 class GlThread
 {
 public:
@@ -19,9 +20,9 @@ public:
     GlThread(const GlThread&) = delete;
     GlThread& operator=(const GlThread&) = delete;
 
-    // Empty when the context is there, else one sentence.
+    /// Empty when the context is there, else one sentence.
     const std::string& getErrorText() const { return m_error; }
-    // Runs `work` with the context current and returns when it is done. Nothing runs without a context.
+    /// Runs `work` with the context current and returns when it is done. Nothing runs without a context.
     void run(std::function<void()> work);
 
 private:

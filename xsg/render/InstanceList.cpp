@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/InstanceList.h>
 
 #include <algorithm>

@@ -1,5 +1,4 @@
-// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is given
-// there again only where it changed.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/BoundingBoxTree.h>
@@ -9,31 +8,33 @@
 namespace xsg
 {
 
-// Neighbours in an order.
+/// Neighbours in an order.
 struct Run {
     std::uint32_t first = 0;
     std::uint32_t end = 0;
 };
 
+/// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is given
+/// there again only where it changed.
 class InstanceList
 {
 public:
-    // Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`: it is
-    // known to be the one of the last time, which need not be looked at then.
+    /// Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`: it is
+    /// known to be the one of the last time, which need not be looked at then.
     void update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
                 const RenderList::Changes& changes, bool isSameOrder = false);
     bool isEmpty() const { return m_order.empty(); }
     std::uint32_t getSize() const { return static_cast<std::uint32_t>(m_order.size()); }
 
-    // Neighbours that share surroundings and geometry, so that one call can draw them.
+    /// Neighbours that share surroundings and geometry, so that one call can draw them.
     const std::vector<Run>& getBatches() const { return m_batches; }
-    // What may be in sight, in order.
+    /// What may be in sight, in order.
     void findVisible(const Frustum& frustum, const std::vector<RenderItem>& items, std::vector<Run>& visible);
     const RenderItem& getItem(const std::vector<RenderItem>& items, std::uint32_t place) const
     {
         return items[m_order[place]];
     }
-    // Lets the vertex array that is bound read its instances from this place on.
+    /// Lets the vertex array that is bound read its instances from this place on.
     void bind(std::uint32_t place);
     void release();
 

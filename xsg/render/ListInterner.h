@@ -1,4 +1,4 @@
-// Makes equal lists one and the same, so that comparing two of them is comparing two pointers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoState.h>
@@ -8,11 +8,12 @@
 namespace xsg
 {
 
+/// Makes equal lists one and the same, so that comparing two of them is comparing two pointers.
 template <class T>
 class ListInterner
 {
 public:
-    // The list that stands for all that are equal to this one; null stays null.
+    /// The list that stands for all that are equal to this one; null stays null.
     const SoShared<T>& get(const SoShared<T>& list)
     {
         static const SoShared<T> none;
@@ -36,7 +37,7 @@ public:
     }
 
 private:
-    // Equal lists may differ in their bytes (0 and -0); they are then kept twice, which does no harm.
+    /// Equal lists may differ in their bytes (0 and -0); they are then kept twice, which does no harm.
     static std::size_t hash(const std::vector<T>& list)
     {
         const auto* bytes = reinterpret_cast<const char*>(list.data());
@@ -44,7 +45,7 @@ private:
     }
 
     std::unordered_multimap<std::size_t, SoShared<T>> m_known;
-    // Neighbours in a scene mostly ask the same.
+    /// Neighbours in a scene mostly ask the same.
     SoShared<T> m_asked;
     SoShared<T> m_answer;
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/RenderList.h>
 
 #include <xsg/nodes/cameras/SoCamera.h>

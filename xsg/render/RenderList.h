@@ -1,4 +1,4 @@
-// A scene flattened into what is drawn: built by a walk over the scene, kept until the scene changes.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/actions/SoTraversal.h>
@@ -17,7 +17,7 @@ class SoDrawingCallback;
 namespace xsg
 {
 
-// What drawn things have in common; switching from one to the next is what costs.
+/// What drawn things have in common; switching from one to the next is what costs.
 struct DrawStateKey {
     SoShared<SoLightSource> lights;
     SoShared<SbPlane> clipPlanes;
@@ -39,15 +39,17 @@ struct RenderItem {
     bool isTransparent = false;
 };
 
-// An application's own drawing, between the things before it and after it.
+/// An application's own drawing, between the things before it and after it.
 struct CallbackItem {
     const SoDrawingCallback* node;
     SbMatrix modelMatrix;
 };
 
-// After a change of fields only the items that the change reaches are made anew, on a walk that skips every
-// isolating group without a change in it; the walk is compared with a record of the one before. Whatever else
-// changed (children, choices, lights, textures) has the list built again as a whole.
+/// A scene flattened into what is drawn: built by a walk over the scene, kept until the scene changes.
+///
+/// After a change of fields only the items that the change reaches are made anew, on a walk that skips every
+/// isolating group without a change in it; the walk is compared with a record of the one before. Whatever else
+/// changed (children, choices, lights, textures) has the list built again as a whole.
 class RenderList : private SoTraversal
 {
 public:
@@ -55,7 +57,7 @@ public:
         const SoCamera* camera = nullptr; // null: the first camera in the scene
         SbVec3f eye;
     };
-    // What is different from what was there when changes were last taken.
+    /// What is different from what was there when changes were last taken.
     struct Changes {
         bool all = false;
         bool orders = false; // they may be others
@@ -63,18 +65,18 @@ public:
         std::vector<std::uint32_t> regrouped; // of the items those that share something else with their neighbours now
     };
 
-    // What a scene unfolds to beyond this is left out.
+    /// What a scene unfolds to beyond this is left out.
     static constexpr std::size_t MostItems = 1U << 22U;
 
-    // Brings the list up to date; true when something had changed.
+    /// Brings the list up to date; true when something had changed.
     bool update(SoNode* root, const View& view, GeometryStore& geometry, TextureStore& textures);
     void clear();
     Changes takeChanges() { return std::exchange(m_changes, {}); }
-    // Appends what the node, or what is below it, has drawn.
+    /// Appends what the node, or what is below it, has drawn.
     void collectItemsOf(std::uint64_t nodeId, std::vector<std::uint32_t>& items) const;
 
     const std::vector<RenderItem>& getItems() const { return m_items; }
-    // Items by surroundings, then geometry; but for a few that have changed since they were put into order.
+    /// Items by surroundings, then geometry; but for a few that have changed since they were put into order.
     const std::vector<std::uint32_t>& getOpaque() const { return m_opaque; }
     const std::vector<std::uint32_t>& getTransparent() const { return m_transparent; }
     const std::vector<CallbackItem>& getCallbacks() const { return m_callbacks; }
@@ -95,7 +97,7 @@ private:
     void visitShape(SoShape* shape) override;
     void visitProperty(SoNode* node) override;
 
-    // A node as the last walk met it.
+    /// A node as the last walk met it.
     struct Record {
         std::uint64_t nodeId;
         std::uint32_t changeCount; // of a group: of its own fields only
@@ -104,12 +106,12 @@ private:
         std::uint32_t end;         // of a group: the place after its last descendant
         bool isStateScope;
     };
-    // Where the children of a group with many of them are recorded.
+    /// Where the children of a group with many of them are recorded.
     struct ChildRecords {
         std::vector<std::uint32_t> records;
         std::vector<std::uint32_t> reaching; // places of children that others depend on
     };
-    // A group that is open while patching; without `children` all of them are visited.
+    /// A group that is open while patching; without `children` all of them are visited.
     struct OpenPatch {
         const ChildRecords* children;
         std::uint32_t record;
@@ -148,8 +150,8 @@ private:
     bool m_hasLights = false;
     bool m_isViewDependent = false;
 
-    // Lists that shapes have in common, so that equal ones are the same one however often the scene is
-    // walked.
+    /// Lists that shapes have in common, so that equal ones are the same one however often the scene is
+    /// walked.
     ListInterner<SoLightSource> m_lights;
     ListInterner<SbPlane> m_clipPlanes;
     ListInterner<SbMatrix> m_textureMatrices;

@@ -1,4 +1,4 @@
-// The one program that draws everything, and its settings.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoState.h>
@@ -7,7 +7,7 @@
 namespace xsg
 {
 
-// The numbers of the vertex attributes.
+/// The numbers of the vertex attributes.
 enum Attribute : GLuint {
     PointAttribute = 0,
     NormalAttribute = 1,
@@ -16,7 +16,7 @@ enum Attribute : GLuint {
     InstanceAttribute = 4, // eight of four floats: see InstanceData
 };
 
-// What differs from copy to copy of a geometry that is drawn.
+/// What differs from copy to copy of a geometry that is drawn.
 struct InstanceData {
     float matrix[16];
     float diffuse[4]; // and opacity
@@ -25,29 +25,30 @@ struct InstanceData {
     float emissive[4];
 };
 
+/// The one program that draws everything, and its settings.
 class Shader
 {
 public:
     static constexpr int MaxLights = 8;
     static constexpr int MaxClipPlanes = 6;
 
-    // Builds the programs at first use; false with a sentence where OpenGL refuses.
+    /// Builds the programs at first use; false with a sentence where OpenGL refuses.
     bool prepare(std::string& error);
     void release();
 
     void use();
-    // Draws with clipping planes from now on, or without them. True where that is another program, which knows
-    // nothing of lights, planes, textures and fog that were set before.
+    /// Draws with clipping planes from now on, or without them. True where that is another program, which knows
+    /// nothing of lights, planes, textures and fog that were set before.
     bool setClipped(bool on);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
     void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
     void setClipPlanes(const std::vector<SbPlane>& planes);
     void setTexture(int model, const SbMatrix& matrix); // model: -1 for none
-    // kind: -1 for none, else as SoFog::Kind.
+    /// kind: -1 for none, else as SoFog::Kind.
     void setFog(int kind, const SbColor& color, float range);
-    // Draws in one colour, without light, while its fourth number is above 0.
+    /// Draws in one colour, without light, while its fourth number is above 0.
     void setOverride(const SbVec4f& color);
-    // Points are then pixels beside the projected origin of the model.
+    /// Points are then pixels beside the projected origin of the model.
     void setScreenSpace(bool on);
 
 private:
@@ -65,7 +66,7 @@ private:
     Program m_plain;
     Program m_clipped;
     Program* m_now = &m_plain;
-    // What stays when the program changes.
+    /// What stays when the program changes.
     struct Common {
         SbMatrix viewProjection;
         SbVec4f eye;

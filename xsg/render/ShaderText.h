@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text of the drawing programs. The one for scenes with clipping planes has CLIPPED defined: to write the
 // distances to planes that are not there would cost each vertex a good deal.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <xsg/render/GlFunctions.h>

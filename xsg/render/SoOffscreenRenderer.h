@@ -1,6 +1,4 @@
-// Draws pictures of scenes into memory, with an OpenGL context of its own: no window, no display and no X
-// server needed. For screenshots and tests. Whatever context the caller has current stays as it is. The scene
-// must not change while render() runs.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/render/SoRenderer.h>
@@ -18,6 +16,9 @@ struct SoPixels {
     }
 };
 
+/// Draws pictures of scenes into memory, with an OpenGL context of its own: no window, no display and no X
+/// server needed. For screenshots and tests. Whatever context the caller has current stays as it is. The scene
+/// must not change while render() runs.
 class XSG_API SoOffscreenRenderer
 {
 public:
@@ -26,13 +27,13 @@ public:
     SoOffscreenRenderer(const SoOffscreenRenderer&) = delete;
     SoOffscreenRenderer& operator=(const SoOffscreenRenderer&) = delete;
 
-    // Background, highlight, statistics and so on are set and read there; only render() is not for callers.
+    /// Background, highlight, statistics and so on are set and read there; only render() is not for callers.
     SoRenderer& getRenderer();
-    // How many samples smooth the edges: 1 for none, 4 at first; fewer where the system has no more.
+    /// How many samples smooth the edges: 1 for none, 4 at first; fewer where the system has no more.
     void setSamples(int samples);
 
-    // A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
-    // sentence.
+    /// A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
+    /// sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
     const std::string& getErrorText() const;
 

@@ -1,10 +1,4 @@
-// Draws a scene with OpenGL 3.3 into the framebuffer of the context that is current:
-//
-//     void paintGL() { m_renderer.render(m_root, m_camera, width, height); }
-//
-// Geometry and textures stay in OpenGL's memory and are made again only when their fields change. One
-// renderer belongs to one context (or to several that share objects): render() and releaseGL() need it
-// current, on the scene's thread. Several renderers, each with its context, may show the same scene.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -18,41 +12,48 @@
 class SoCamera;
 class SoNode;
 
+/// Draws a scene with OpenGL 3.3 into the framebuffer of the context that is current:
+///
+///     void paintGL() { m_renderer.render(m_root, m_camera, width, height); }
+///
+/// Geometry and textures stay in OpenGL's memory and are made again only when their fields change. One
+/// renderer belongs to one context (or to several that share objects): render() and releaseGL() need it
+/// current, on the scene's thread. Several renderers, each with its context, may show the same scene.
 class XSG_API SoRenderer
 {
 public:
     SoRenderer();
-    // Touches no OpenGL: objects not given back by releaseGL() go with their context.
+    /// Touches no OpenGL: objects not given back by releaseGL() go with their context.
     ~SoRenderer();
     SoRenderer(const SoRenderer&) = delete;
     SoRenderer& operator=(const SoRenderer&) = delete;
 
-    // Clears and draws. `camera` may stand in the scene or outside of it; null takes the first one in the
-    // scene or, where there is none, a view of everything. A null root gives the empty background. Size in
-    // pixels. False where OpenGL cannot draw it; getErrorText() then says why in one sentence.
+    /// Clears and draws. `camera` may stand in the scene or outside of it; null takes the first one in the
+    /// scene or, where there is none, a view of everything. A null root gives the empty background. Size in
+    /// pixels. False where OpenGL cannot draw it; getErrorText() then says why in one sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     const std::string& getErrorText() const;
 
-    // Gives all OpenGL objects back; the next render() makes them again. Call it before the context goes.
+    /// Gives all OpenGL objects back; the next render() makes them again. Call it before the context goes.
     void releaseGL();
 
     void setBackground(const SbColor& color, float opacity = 1);
-    // Draws the edges of everything instead of surfaces.
+    /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
-    // Marks this node and what is below it with its edges drawn in a colour; null for none. The node may go at
-    // any time.
+    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may go at
+    /// any time.
     void setHighlight(const SoNode* node);
-    // The same by SoNode::getNodeId(); 0 for none.
+    /// The same by SoNode::getNodeId(); 0 for none.
     void setHighlightedNumber(std::uint64_t nodeId);
     void setHighlightColor(const SbColor& color);
-    // Whether contexts for drawing are best made for debugging, so that OpenGL tells its errors by itself, as
-    // SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says otherwise.
+    /// Whether contexts for drawing are best made for debugging, so that OpenGL tells its errors by itself, as
+    /// SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says otherwise.
     static bool wantsDebugContext();
 
-    // A light beside the eye in scenes without a light of their own; on from the start.
+    /// A light beside the eye in scenes without a light of their own; on from the start.
     void setHeadlight(bool on);
 
-    // What the last render() saw and did.
+    /// What the last render() saw and did.
     struct Statistics {
         std::int64_t nodes = 0;  // visited; 0 where nothing had changed
         std::int64_t shapes = 0; // in the scene
@@ -67,7 +68,7 @@ public:
         double seconds = 0;            // spent by the processor
     };
     const Statistics& getStatistics() const;
-    // Around everything in the scene, as of the last render().
+    /// Around everything in the scene, as of the last render().
     SbBox3f getSceneBox() const;
 
 private:

@@ -1,4 +1,4 @@
-// Pictures as OpenGL textures, made once per texture node and quality and kept while scenes use them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/properties/SoTexture2.h>
@@ -17,10 +17,11 @@ struct GpuTexture {
     std::uint64_t usedAt = 0;
 };
 
+/// Pictures as OpenGL textures, made once per texture node and quality and kept while scenes use them.
 class TextureStore
 {
 public:
-    // Null where there is no picture, or the quality asks for none.
+    /// Null where there is no picture, or the quality asks for none.
     GpuTexture* get(const SoTexture2* node, float quality);
     void beginRound() { ++m_round; }
     void endRound();

@@ -1,14 +1,15 @@
-// Runs its callback once, at a moment.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/sensors/SoTimedSensor.h>
 
+/// Runs its callback once, at a moment.
 class XSG_API SoAlarmSensor : public SoTimedSensor
 {
 public:
     using SoTimedSensor::SoTimedSensor;
 
-    // Takes effect with the next schedule(). A time that is not finite is ignored.
+    /// Takes effect with the next schedule(). A time that is not finite is ignored.
     void setTime(SbTime moment);
     void setTimeFromNow(SbTime duration);
     SbTime getTime() const { return m_time; }

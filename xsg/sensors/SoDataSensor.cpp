@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoDataSensor.h>
 
 #include <xsg/core/SoFieldContainer.h>

@@ -1,4 +1,4 @@
-// A sensor that watches a field or a container.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoNotification.h>
@@ -7,16 +7,17 @@
 class SoField;
 class SoFieldContainer;
 
+/// A sensor that watches a field or a container.
 class XSG_API SoDataSensor : public SoSensor
 {
 public:
     using SoSensor::SoSensor;
-    // Stops watching and cancels what is queued.
+    /// Stops watching and cancels what is queued.
     virtual void detach() = 0;
-    // The field whose change triggered the sensor last, or null where it is gone since. For use in the
-    // callback.
+    /// The field whose change triggered the sensor last, or null where it is gone since. For use in the
+    /// callback.
     SoField* getTriggerField() const { return m_triggerField; }
-    // Good inside the callback: something else than fields changed too, a list of children or a name.
+    /// Good inside the callback: something else than fields changed too, a list of children or a name.
     bool isStructureChanged() const { return m_structureChanged; }
 
 protected:
@@ -31,7 +32,7 @@ private:
     friend class SoField;
     friend class SoFieldContainer;
     void notified(const SoNotification& change);
-    // Called by a field that goes, where it ever triggered a sensor.
+    /// Called by a field that goes, where it ever triggered a sensor.
     static void forget(const SoField* field);
 
     SoField* m_triggerField = nullptr;

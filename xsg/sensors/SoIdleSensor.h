@@ -1,8 +1,9 @@
-// Runs its callback once, in the first turn of the queue in which nothing else waits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/sensors/SoSensor.h>
 
+/// Runs its callback once, in the first turn of the queue in which nothing else waits.
 class XSG_API SoIdleSensor : public SoSensor
 {
 public:

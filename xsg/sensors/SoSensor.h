@@ -1,6 +1,4 @@
-// A callback that waits for something. It never runs inside the change that triggers it: it is put on the
-// queue and runs once in the queue's next turn, however often it was triggered. Deleting, detaching or
-// re-attaching a sensor is safe at any time, inside any callback too. Belongs to the graph's thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgExport.h>
@@ -10,6 +8,9 @@
 class SoSensor;
 using SoSensorCB = void(void* data, SoSensor* sensor);
 
+/// A callback that waits for something. It never runs inside the change that triggers it: it is put on the
+/// queue and runs once in the queue's next turn, however often it was triggered. Deleting, detaching or
+/// re-attaching a sensor is safe at any time, inside any callback too. Belongs to the graph's thread.
 class XSG_API SoSensor
 {
 public:
@@ -25,12 +26,12 @@ public:
     void setFunction(SoSensorCB* callback) { m_callback = callback; }
     void setData(void* data) { m_data = data; }
 
-    // Lower numbers run earlier in a turn; sensors of the same priority run in the order of their triggering.
+    /// Lower numbers run earlier in a turn; sensors of the same priority run in the order of their triggering.
     void setPriority(int priority) { m_priority = priority; }
     int getPriority() const { return m_priority; }
 
-    // Makes the sensor wait for its moment, which for most is the queue's next turn. One that waits already
-    // is left alone.
+    /// Makes the sensor wait for its moment, which for most is the queue's next turn. One that waits already
+    /// is left alone.
     virtual void schedule();
     virtual void unschedule();
     virtual bool isScheduled() const { return isQueued(); }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <xsg/counters/LibraryCounters.h>

@@ -1,11 +1,4 @@
-// The one queue of triggered sensors, driven by the host:
-//
-//   - the wake-up hook tells the host that something waits; it then calls process() in a turn of its event
-//   loop;
-//   - after process(), and when woken, the host sets a timer for getDeadline() and calls process() again by
-//   then.
-//
-// Belongs to the graph's thread.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbTime.h>
@@ -17,35 +10,43 @@
 
 class SoTimedSensor;
 
+/// The one queue of triggered sensors, driven by the host:
+///
+///   - the wake-up hook tells the host that something waits; it then calls process() in a turn of its event
+///   loop;
+///   - after process(), and when woken, the host sets a timer for getDeadline() and calls process() again by
+///   then.
+///
+/// Belongs to the graph's thread.
 class XSG_API SoSensorQueue
 {
 public:
     static SoSensorQueue& getInstance();
 
-    // One turn: runs what waits now, each sensor once; idle sensors only when nothing else waits. What a
-    // callback triggers waits for the next turn, so a turn always ends. A call from inside a turn does
-    // nothing.
+    /// One turn: runs what waits now, each sensor once; idle sensors only when nothing else waits. What a
+    /// callback triggers waits for the next turn, so a turn always ends. A call from inside a turn does
+    /// nothing.
     void process();
-    // Whether the next turn has something to do, timed sensors that are not due left aside.
+    /// Whether the next turn has something to do, timed sensors that are not due left aside.
     bool isEmpty() const { return getLength() == 0; }
     std::size_t getLength() const { return m_next.count + m_idle.count; }
 
     void forEachWaiting(const std::function<void(SoSensor&)>& visit) const;
 
-    // When the earliest timed sensor is due, on the queue's clock; false where none waits.
+    /// When the earliest timed sensor is due, on the queue's clock; false where none waits.
     bool getDeadline(SbTime& moment) const;
-    // Seconds until then, 0 when it has passed; false where none waits.
+    /// Seconds until then, 0 when it has passed; false where none waits.
     bool getTimeToDeadline(SbTime& duration) const;
 
-    // Called whenever the queue turns from empty to not empty, after a turn that left something queued, and
-    // when a new deadline is earlier than all others.
+    /// Called whenever the queue turns from empty to not empty, after a turn that left something queued, and
+    /// when a new deadline is earlier than all others.
     using WakeUp = void (*)(void* data);
     void setWakeUp(WakeUp callback, void* data);
 
-    // The clock of timed sensors, in seconds since the Unix epoch. It never runs backwards.
+    /// The clock of timed sensors, in seconds since the Unix epoch. It never runs backwards.
     SbTime getTime() const { return m_clock(); }
-    // Another clock, for an application that makes its own time, as when it renders to files. Null: the usual
-    // one.
+    /// Another clock, for an application that makes its own time, as when it renders to files. Null: the usual
+    /// one.
     using Clock = SbTime (*)();
     void setClock(Clock clock);
 

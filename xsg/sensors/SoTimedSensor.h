@@ -1,9 +1,10 @@
-// A sensor that waits for a moment of the queue's clock and then runs in the turn that follows.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbTime.h>
 #include <xsg/sensors/SoSensor.h>
 
+/// A sensor that waits for a moment of the queue's clock and then runs in the turn that follows.
 class XSG_API SoTimedSensor : public SoSensor
 {
 public:
@@ -14,7 +15,7 @@ public:
     bool isScheduled() const override { return m_armed || isQueued(); }
 
 protected:
-    // Waits for `moment`; one that has passed comes with the next turn.
+    /// Waits for `moment`; one that has passed comes with the next turn.
     void arm(SbTime moment);
     SbTime getMoment() const { return m_moment; }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoAlarmSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>
 #include <xsg/sensors/SoTimerSensor.h>

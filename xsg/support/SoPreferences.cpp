@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/support/SoPreferences.h>
 
 #include <xsg/values/XsgText.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/support/XsgMalloc.h>
 
 #include <xsg/counters/LibraryCounters.h>

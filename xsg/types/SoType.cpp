@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/types/SoType.h>
 
 #include <xsg/registry/SoDB.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/types/SoTypedObject.h>
 
 SoTypedObject::~SoTypedObject() = default;

@@ -1,8 +1,9 @@
-// Root of everything that knows its run-time type.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/types/SoType.h>
 
+/// Root of everything that knows its run-time type.
 class XSG_API SoTypedObject
 {
 public:

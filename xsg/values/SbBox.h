@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Axis-aligned boxes. The float box starts empty (minimum above maximum) and grows with what it is given;
 // the short box is a plain pair of corners, as its field edits it.
 #pragma once

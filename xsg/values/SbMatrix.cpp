@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/values/SbMatrix.h>
 
 #include <xsg/values/SbRotation.h>

@@ -1,5 +1,4 @@
-// A 4 by 4 matrix, rows first: element [r][c] is number 4r + c in storage. Points are row vectors (p' = p M),
-// so the last row holds the translation. A default one is the identity.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -8,6 +7,8 @@
 
 class SbRotation;
 
+/// A 4 by 4 matrix, rows first: element [r][c] is number 4r + c in storage. Points are row vectors (p' = p M),
+/// so the last row holds the translation. A default one is the identity.
 class XSG_API SbMatrix
 {
 public:
@@ -16,7 +17,7 @@ public:
     static SbMatrix translation(const SbVec3f& by);
     static SbMatrix scale(const SbVec3f& by);
     static SbMatrix rotation(const SbRotation& by);
-    // OpenGL projections, depth -1 to 1. fieldOfView: full vertical angle in radians.
+    /// OpenGL projections, depth -1 to 1. fieldOfView: full vertical angle in radians.
     static SbMatrix perspective(float fieldOfView, float aspect, float nearDistance, float farDistance);
     static SbMatrix orthographic(float height, float aspect, float nearDistance, float farDistance);
 
@@ -25,7 +26,7 @@ public:
     const float* getValue() const { return m_values; }
     void setValue(const float* sixteen);
 
-    // The identity where there is no inverse.
+    /// The identity where there is no inverse.
     SbMatrix inverse() const;
     SbMatrix transposed() const;
     SbVec3f multPoint(const SbVec3f& point) const; // with the perspective division

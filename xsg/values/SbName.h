@@ -1,11 +1,12 @@
-// An interned name: comparing two names compares two pointers. Bytes above 127 are kept as they are (Latin-1).
-// Interning is safe from any thread; the text of a name lives until the process ends.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbString.h>
 
 #include <cstring>
 
+/// An interned name: comparing two names compares two pointers. Bytes above 127 are kept as they are (Latin-1).
+/// Interning is safe from any thread; the text of a name lives until the process ends.
 class XSG_API SbName
 {
 public:

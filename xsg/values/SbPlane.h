@@ -1,9 +1,10 @@
-// A plane: the points p with normal . p = distance. Keeps the numbers it is given; who needs a unit normal
-// normalises where it is used.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbVec.h>
 
+/// A plane: the points p with normal . p = distance. Keeps the numbers it is given; who needs a unit normal
+/// normalises where it is used.
 class XSG_API SbPlane
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/values/SbRotation.h>
 
 #include <Eigen/Geometry>

@@ -1,8 +1,9 @@
-// A time or a duration in seconds.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgExport.h>
 
+/// A time or a duration in seconds.
 class XSG_API SbTime
 {
 public:
@@ -11,7 +12,7 @@ public:
         : m_seconds(seconds)
     {
     }
-    // Seconds since the Unix epoch, now.
+    /// Seconds since the Unix epoch, now.
     static SbTime getTimeOfDay();
 
     constexpr double getValue() const { return m_seconds; }
@@ -23,13 +24,13 @@ private:
     double m_seconds = 0;
 };
 
-// A stop-watch on the steady clock; starts when built.
+/// A stop-watch on the steady clock; starts when built.
 class XSG_API SbElapsedTime
 {
 public:
     SbElapsedTime();
     void reset();
-    // Seconds since built or reset; may be 0 when asked at once.
+    /// Seconds since built or reset; may be 0 when asked at once.
     double getElapsed() const;
 
 private:

@@ -1,4 +1,4 @@
-// Small vectors of numbers. Plain values: components in order x, y, z, w; a default one is all zero.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/XsgExport.h>
@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 
+/// Small vectors of numbers. Plain values: components in order x, y, z, w; a default one is all zero.
 template <class T, int N>
 class XSG_API SbVec
 {
@@ -44,7 +45,7 @@ public:
         return sum;
     }
     T length() const { return static_cast<T>(std::sqrt(static_cast<double>(dot(*this)))); }
-    // A vector without a direction stays as it is.
+    /// A vector without a direction stays as it is.
     SbVec normalized() const
     {
         const T l = length();
@@ -92,7 +93,7 @@ constexpr SbVec<T, 3> cross(const SbVec<T, 3>& a, const SbVec<T, 3>& b)
     return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
 }
 
-// Red, green, blue, normally 0 to 1; values beyond are kept.
+/// Red, green, blue, normally 0 to 1; values beyond are kept.
 class XSG_API SbColor : public SbVec3f
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/values/Utf.h>
 
 namespace xsg

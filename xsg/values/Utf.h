@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversions between UTF-8 and UTF-16; whatever is malformed becomes U+FFFD, one per bad unit.
 #pragma once
 

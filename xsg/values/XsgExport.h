@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Marks what libxsg offers to other libraries; everything else stays hidden.
 #pragma once
 

@@ -1,4 +1,4 @@
-// How a value is seen as a row of numbers, for conversions between types that have the same count of them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -14,7 +14,7 @@
 namespace xsg
 {
 
-// The nearest number that T can hold; fractions are cut off for integers, and what is no number becomes 0.
+/// The nearest number that T can hold; fractions are cut off for integers, and what is no number becomes 0.
 template <class T>
 T toNumber(double value)
 {
@@ -41,7 +41,9 @@ T toNumber(double value)
 
 } // namespace xsg
 
-// No numbers: strings, names, references.
+/// How a value is seen as a row of numbers, for conversions between types that have the same count of them.
+///
+/// No numbers: strings, names, references.
 template <class T, class = void>
 struct XsgNumbers {
     static constexpr int Count = 0;

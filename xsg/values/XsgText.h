@@ -1,5 +1,4 @@
-// How values are written as text and read back. Numbers take the shortest form that reads back to the same
-// bits, in every locale. Reading is tolerant of blanks around and between numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -15,7 +14,7 @@
 #include <string_view>
 #include <type_traits>
 
-// A place in a text that is being read.
+/// A place in a text that is being read.
 class XSG_API XsgTextReader
 {
 public:
@@ -30,9 +29,9 @@ public:
         while (m_at != m_end && isBlank(*m_at))
             ++m_at;
     }
-    // Whether a value of a list may end here.
+    /// Whether a value of a list may end here.
     bool atValueEnd() const { return atEnd() || isBlank(*m_at) || *m_at == ',' || *m_at == ']'; }
-    // After a value: blanks and at most one comma.
+    /// After a value: blanks and at most one comma.
     void skipSeparator()
     {
         skipBlanks();
@@ -58,12 +57,12 @@ public:
 
     template <class T>
     bool readNumber(T& value);
-    // Letters, digits, '_' and every byte above 127.
+    /// Letters, digits, '_' and every byte above 127.
     std::string_view readWord();
-    // A text in double quotes; \" \\ \n \r \t \0 \xHH \uHHHH are understood inside.
+    /// A text in double quotes; \" \\ \n \r \t \0 \xHH \uHHHH are understood inside.
     bool readQuoted(std::string& out);
 
-    // Whether what follows a number would belong to it, as in "1.5.2", "7up" or "3-4".
+    /// Whether what follows a number would belong to it, as in "1.5.2", "7up" or "3-4".
     static bool continuesNumber(char c) { return isWordByte(c) || c == '.' || c == '-' || c == '+'; }
     static bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
     static bool isWordByte(char c);
@@ -78,9 +77,9 @@ private:
     const char* m_end;
 };
 
-// How far a field's value goes at the start of a text, as scene files have it: a list up to its bracket,
-// anything else up to the line's end, a mark, a brace or a comment. `open` is where a list or a text in
-// quotes begins that has no end.
+/// How far a field's value goes at the start of a text, as scene files have it: a list up to its bracket,
+/// anything else up to the line's end, a mark, a brace or a comment. `open` is where a list or a text in
+/// quotes begins that has no end.
 struct XSG_API XsgValueExtent {
     explicit XsgValueExtent(std::string_view text);
     bool isWhole() const { return open == std::string_view::npos; }
@@ -89,7 +88,7 @@ struct XSG_API XsgValueExtent {
     std::size_t open = std::string_view::npos;
 };
 
-// Without the blanks around it.
+/// Without the blanks around it.
 XSG_API std::string_view xsgTrimmed(std::string_view text);
 
 XSG_API void xsgAppendQuoted(std::string& out, std::string_view text);
@@ -136,10 +135,12 @@ bool XsgTextReader::readPrefixedInteger(const char* digits, bool negative, T& va
     return true;
 }
 
-// One specialisation per value type: write() appends the text, read() takes it from a reader.
+/// One specialisation per value type: write() appends the text, read() takes it from a reader.
 template <class T, class = void>
 struct XsgText;
 
+/// How values are written as text and read back. Numbers take the shortest form that reads back to the same
+/// bits, in every locale. Reading is tolerant of blanks around and between numbers.
 template <class T>
 struct XsgText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
                                    !std::is_same_v<T, unsigned char>>> {
@@ -152,7 +153,7 @@ struct XsgText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T,
     static bool read(XsgTextReader& in, T& value) { return in.readNumber(value); }
 };
 
-// Several numbers one after the other, as most of the geometric types are.
+/// Several numbers one after the other, as most of the geometric types are.
 template <class T, int N>
 struct XsgNumbersText {
     static void write(std::string& out, const T* values)
@@ -175,13 +176,13 @@ struct XsgNumbersText {
     }
 };
 
-// TRUE and FALSE; 1 and 0 and small letters are read too.
+/// TRUE and FALSE; 1 and 0 and small letters are read too.
 template <>
 struct XSG_API XsgText<bool> {
     static void write(std::string& out, bool value);
     static bool read(XsgTextReader& in, bool& value);
 };
-// The stored form of a bool in a list: std::vector<bool> has no addressable elements.
+/// The stored form of a bool in a list: std::vector<bool> has no addressable elements.
 using SbBool = unsigned char;
 template <>
 struct XSG_API XsgText<SbBool> {
@@ -233,14 +234,14 @@ struct XSG_API XsgText<SbTime> { // seconds
     static void write(std::string& out, SbTime t);
     static bool read(XsgTextReader& in, SbTime& t);
 };
-// A string is written in double quotes. Without quotes a text is read as it stands: alone it is taken whole,
-// in a list it ends at a blank, a comma or the closing bracket.
+/// A string is written in double quotes. Without quotes a text is read as it stands: alone it is taken whole,
+/// in a list it ends at a blank, a comma or the closing bracket.
 template <>
 struct XSG_API XsgText<SbString> {
     static void write(std::string& out, const SbString& s);
     static bool read(XsgTextReader& in, SbString& s);
 };
-// A name is written bare where it is a word, otherwise as a string.
+/// A name is written bare where it is a word, otherwise as a string.
 template <>
 struct XSG_API XsgText<SbName> {
     static void write(std::string& out, SbName n);

@@ -1,10 +1,11 @@
-// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it is.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QHeaderView>
 
 class QTableView;
 
+/// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it is.
 class CurrentRowHeader : public QHeaderView
 {
     Q_OBJECT

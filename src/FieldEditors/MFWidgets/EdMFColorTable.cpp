@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFColorTable.h"
 
 #include "EdMFColorTableItemDelegate.h"

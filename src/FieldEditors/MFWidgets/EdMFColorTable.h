@@ -1,8 +1,9 @@
-// The table of a colour list: a click on a swatch opens the colour dialog.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFieldTable.h"
 
+/// The table of a colour list: a click on a swatch opens the colour dialog.
 class EdMFColorTable : public EdMFieldTable
 {
     Q_OBJECT

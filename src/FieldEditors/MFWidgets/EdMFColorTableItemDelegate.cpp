@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFColorTableItemDelegate.h"
 
 #include "EdMFieldWidget.h"

@@ -1,8 +1,9 @@
-// Column 0 is the swatch; the columns after it show the components, so every component is one column further on.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFieldTableItemDelegate.h"
 
+/// Column 0 is the swatch; the columns after it show the components, so every component is one column further on.
 class EdMFColorTableItemDelegate : public EdMFieldTableItemDelegate
 {
     Q_OBJECT

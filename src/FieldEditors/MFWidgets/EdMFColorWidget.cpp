@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFColorWidget.h"
 
 #include "SpxMFSetFieldValueCommand.h"

@@ -1,8 +1,9 @@
-// Edits lists of colours: a swatch that opens the colour dialog, and the components red, green and blue.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFVec3fWidget.h"
 
+/// Edits lists of colours: a swatch that opens the colour dialog, and the components red, green and blue.
 class EdMFColorWidget : public EdMFVec3fWidget
 {
     Q_OBJECT
@@ -12,9 +13,9 @@ public:
 
     void load() override;
     bool checkField(SoField* field) override;
-    // A value outside 0 to 1 is ignored.
+    /// A value outside 0 to 1 is ignored.
     void setSingleFieldValue(float value, int row, int column) override;
-    // `rgb`: three floats, 0 to 1. Recorded, but not undoable; that is meant.
+    /// `rgb`: three floats, 0 to 1. Recorded, but not undoable; that is meant.
     void setValue(int row, const void* rgb) override;
 
 protected:

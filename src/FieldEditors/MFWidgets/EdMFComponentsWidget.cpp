@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFComponentsWidget.h"
 
 #include "EdText.h"

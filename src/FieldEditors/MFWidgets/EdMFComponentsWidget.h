@@ -1,15 +1,4 @@
-// Base of the lists whose elements have several numbers: one element per row, one number per column. What makes a
-// concrete editor is its Traits:
-//
-//     struct Vec2fTraits {
-//         using Field = SoMFVec2f;
-//         using Component = float;
-//         static constexpr const char* Name = "MFVec2f";                       // extension name and caption
-//         static constexpr EdMFieldTable::MFTableTypeCell Cell = EdMFieldTable::CELL_FLOAT;
-//         static QStringList captions();                                        // one per column
-//         static Component get(const Field::Value& element, int column);
-//         static Field::Value with(const Field::Value& element, int column, Component value);
-//     };
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdFieldEdits.h"
@@ -21,7 +10,7 @@
 namespace componentText
 {
 
-// 'g' with 6 digits for reals, decimal for integers; a text that does not convert gives 0.
+/// 'g' with 6 digits for reals, decimal for integers; a text that does not convert gives 0.
 QString toText(float value);
 QString toText(int value);
 void fromText(const QString& text, float& value);
@@ -30,6 +19,18 @@ void fromText(const QString& text, short& value);
 
 } // namespace componentText
 
+/// Base of the lists whose elements have several numbers: one element per row, one number per column. What makes a
+/// concrete editor is its Traits:
+///
+///     struct Vec2fTraits {
+///         using Field = SoMFVec2f;
+///         using Component = float;
+///         static constexpr const char* Name = "MFVec2f";                       // extension name and caption
+///         static constexpr EdMFieldTable::MFTableTypeCell Cell = EdMFieldTable::CELL_FLOAT;
+///         static QStringList captions();                                        // one per column
+///         static Component get(const Field::Value& element, int column);
+///         static Field::Value with(const Field::Value& element, int column, Component value);
+///     };
 template <class Traits>
 class EdMFComponentsWidget : public EdMFieldWidget
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFDefaultFieldWidget.h"
 
 #include "EdFieldEdits.h"

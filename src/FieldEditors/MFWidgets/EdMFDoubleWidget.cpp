@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFDoubleWidget.h"
 
 EdMFDoubleWidget::EdMFDoubleWidget(const char* name)

@@ -1,4 +1,4 @@
-// Edits lists of double-precision numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFRealWidget.h"
@@ -14,6 +14,7 @@ struct MFDoubleTraits {
     static double maximum(const EdRangeComponent& range) { return double(range.getdMax()); }
 };
 
+/// Edits lists of double-precision numbers.
 class EdMFDoubleWidget : public EdMFRealWidget<MFDoubleTraits>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFFloatWidget.h"
 
 EdMFFloatWidget::EdMFFloatWidget(const char* name)

@@ -1,4 +1,4 @@
-// Edits lists of single-precision numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFRealWidget.h"
@@ -14,6 +14,7 @@ struct MFFloatTraits {
     static double maximum(const EdRangeComponent& range) { return double(range.getfMax()); }
 };
 
+/// Edits lists of single-precision numbers.
 class EdMFFloatWidget : public EdMFRealWidget<MFFloatTraits>
 {
     Q_OBJECT

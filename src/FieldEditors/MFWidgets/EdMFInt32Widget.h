@@ -1,4 +1,4 @@
-// Edits lists of 32-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFIntegerWidget.h"
@@ -11,6 +11,7 @@ struct MFInt32Traits {
     static constexpr auto Cell = EdMFieldTable::CELL_INT32;
 };
 
+/// Edits lists of 32-bit integers.
 class EdMFInt32Widget : public EdMFIntegerWidget<MFInt32Traits>
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// The four lists of integers; Traits name the field class, the caption and the cell type.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFLineWidget.h"
@@ -6,6 +6,7 @@
 
 #include <xsg/core/SoMField.h>
 
+/// The four lists of integers; Traits name the field class, the caption and the cell type.
 template <class Traits>
 class EdMFIntegerWidget : public EdMFLineWidget
 {

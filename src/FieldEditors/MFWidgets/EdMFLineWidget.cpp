@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFLineWidget.h"
 
 #include "EdText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFMatrixWidget.h"
 
 #include "EdTablePopupLineEdit.h"

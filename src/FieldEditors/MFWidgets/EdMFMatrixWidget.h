@@ -1,10 +1,11 @@
-// Edits lists of matrices, each in a popup of 4 by 4 numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdTablePopupWidget.h"
 
 #include <xsg/fields/SoMFMatrix.h>
 
+/// Edits lists of matrices, each in a popup of 4 by 4 numbers.
 class EdMFMatrixWidget : public EdTablePopupWidget
 {
     Q_OBJECT
@@ -16,12 +17,12 @@ public:
     bool checkField(SoField* field) override;
     void setField(SoField* field) override;
     int getTextFlags() override { return Qt::AlignLeft; }
-    // The text of the whole field, whatever the row; that is meant. Made once per change of the field.
+    /// The text of the whole field, whatever the row; that is meant. Made once per change of the field.
     QString getFieldValue(int row, int column) const override;
-    // The start of it, read from as many elements as that takes: a long list is not walked to be drawn.
+    /// The start of it, read from as many elements as that takes: a long list is not walked to be drawn.
     QString getCellText(int row, int column, int length) const override;
     QString getPopupValue(int row, int index) override;
-    // Takes the numbers from the popup; column and text are not read.
+    /// Takes the numbers from the popup; column and text are not read.
     void set1Value(int row, int column, QString text) override;
     void swapRows(int row1, int row2) override;
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFPlaneWidget.h"
 
 EdMFPlaneWidget::EdMFPlaneWidget(const char* name)

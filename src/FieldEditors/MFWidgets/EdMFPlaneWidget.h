@@ -1,4 +1,4 @@
-// Edits lists of planes, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -25,6 +25,7 @@ struct MFPlaneTraits {
     }
 };
 
+/// Edits lists of planes, one per row.
 class EdMFPlaneWidget : public EdMFComponentsWidget<MFPlaneTraits>
 {
     Q_OBJECT

@@ -1,5 +1,4 @@
-// The two lists of reals: their sliders take the range that the field's node gives. Traits name the field class, the
-// caption, the cell type and where the range's ends are.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFLineWidget.h"
@@ -8,6 +7,8 @@
 
 #include <xsg/core/SoMField.h>
 
+/// The two lists of reals: their sliders take the range that the field's node gives. Traits name the field class, the
+/// caption, the cell type and where the range's ends are.
 template <class Traits>
 class EdMFRealWidget : public EdMFLineWidget
 {
@@ -17,7 +18,7 @@ public:
         setFieldName(QString::fromLatin1(Traits::Name));
         EdMFLineWidget::load();
     }
-    // Runs for every field that is set, so the range follows the node of the current one.
+    /// Runs for every field that is set, so the range follows the node of the current one.
     bool checkField(SoField* field) override
     {
         if (!field || !field->isOfType(Traits::Field::getClassTypeId()))

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFRotationWidget.h"
 
 EdMFRotationWidget::EdMFRotationWidget(const char* name)

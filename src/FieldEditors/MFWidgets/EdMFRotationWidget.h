@@ -1,4 +1,4 @@
-// Edits lists of rotations, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -13,7 +13,7 @@ struct MFRotationTraits {
     static constexpr const char* Name = "MFRotation";
     static constexpr auto Cell = EdMFieldTable::CELL_FLOAT;
     static QStringList captions() { return {"x", "y", "z", "radians"}; }
-    // The stored numbers of the rotation, although the last caption speaks of radians; that is meant.
+    /// The stored numbers of the rotation, although the last caption speaks of radians; that is meant.
     static Component get(const SbRotation& rotation, int column) { return rotation.getValue()[column]; }
     static SbRotation with(SbRotation rotation, int column, Component value)
     {
@@ -25,6 +25,7 @@ struct MFRotationTraits {
     }
 };
 
+/// Edits lists of rotations, one per row.
 class EdMFRotationWidget : public EdMFComponentsWidget<MFRotationTraits>
 {
     Q_OBJECT

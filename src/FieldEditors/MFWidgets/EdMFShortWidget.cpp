@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFShortWidget.h"
 
 EdMFShortWidget::EdMFShortWidget(const char* name)

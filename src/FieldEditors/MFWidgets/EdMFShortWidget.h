@@ -1,4 +1,4 @@
-// Edits lists of 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFIntegerWidget.h"
@@ -11,6 +11,7 @@ struct MFShortTraits {
     static constexpr auto Cell = EdMFieldTable::CELL_SHORT;
 };
 
+/// Edits lists of 16-bit integers.
 class EdMFShortWidget : public EdMFIntegerWidget<MFShortTraits>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFStringWidget.h"
 
 #include "EdFieldEdits.h"

@@ -1,10 +1,11 @@
-// Edits lists of texts, one bare text per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFieldWidget.h"
 
 #include <xsg/fields/SoMFString.h>
 
+/// Edits lists of texts, one bare text per row.
 class EdMFStringWidget : public EdMFieldWidget
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// Edits lists of unsigned 32-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFIntegerWidget.h"
@@ -11,6 +11,7 @@ struct MFUInt32Traits {
     static constexpr auto Cell = EdMFieldTable::CELL_UINT32;
 };
 
+/// Edits lists of unsigned 32-bit integers.
 class EdMFUInt32Widget : public EdMFIntegerWidget<MFUInt32Traits>
 {
     Q_OBJECT

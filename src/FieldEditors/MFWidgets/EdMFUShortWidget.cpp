@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFUShortWidget.h"
 
 EdMFUShortWidget::EdMFUShortWidget(const char* name)

@@ -1,4 +1,4 @@
-// Edits lists of unsigned 16-bit integers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFIntegerWidget.h"
@@ -11,6 +11,7 @@ struct MFUShortTraits {
     static constexpr auto Cell = EdMFieldTable::CELL_USHORT;
 };
 
+/// Edits lists of unsigned 16-bit integers.
 class EdMFUShortWidget : public EdMFIntegerWidget<MFUShortTraits>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFVec2fWidget.h"
 
 EdMFVec2fWidget::EdMFVec2fWidget(const char* name)

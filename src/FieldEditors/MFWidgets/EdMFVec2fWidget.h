@@ -1,4 +1,4 @@
-// Edits lists of two floats, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -19,6 +19,7 @@ struct MFVec2fTraits {
     }
 };
 
+/// Edits lists of two floats, one per row.
 class EdMFVec2fWidget : public EdMFComponentsWidget<MFVec2fTraits>
 {
     Q_OBJECT

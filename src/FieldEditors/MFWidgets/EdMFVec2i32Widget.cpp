@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFVec2i32Widget.h"
 
 EdMFVec2i32Widget::EdMFVec2i32Widget(const char* name)

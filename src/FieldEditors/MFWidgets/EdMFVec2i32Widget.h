@@ -1,4 +1,4 @@
-// Edits lists of two 32-bit integers, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -19,6 +19,7 @@ struct MFVec2i32Traits {
     }
 };
 
+/// Edits lists of two 32-bit integers, one per row.
 class EdMFVec2i32Widget : public EdMFComponentsWidget<MFVec2i32Traits>
 {
     Q_OBJECT

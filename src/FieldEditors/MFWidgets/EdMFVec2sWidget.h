@@ -1,4 +1,4 @@
-// Edits lists of two 16-bit integers, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -9,7 +9,7 @@ struct MFVec2sTraits {
     using Field = SoMFVec2s;
     using Component = short;
     static constexpr const char* Name = "MFVec2s";
-    // No validator: any text can be typed, and what does not convert gives 0; that is meant.
+    /// No validator: any text can be typed, and what does not convert gives 0; that is meant.
     static constexpr auto Cell = EdMFieldTable::CELL_NONE;
     static QStringList captions() { return {"x", "y"}; }
     static Component get(const Field::Value& element, int column) { return element[column]; }
@@ -20,6 +20,7 @@ struct MFVec2sTraits {
     }
 };
 
+/// Edits lists of two 16-bit integers, one per row.
 class EdMFVec2sWidget : public EdMFComponentsWidget<MFVec2sTraits>
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// Edits lists of three floats, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -19,6 +19,7 @@ struct MFVec3fTraits {
     }
 };
 
+/// Edits lists of three floats, one per row.
 class EdMFVec3fWidget : public EdMFComponentsWidget<MFVec3fTraits>
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-// Edits lists of four floats, one per row.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFComponentsWidget.h"
@@ -19,6 +19,7 @@ struct MFVec4fTraits {
     }
 };
 
+/// Edits lists of four floats, one per row.
 class EdMFVec4fWidget : public EdMFComponentsWidget<MFVec4fTraits>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"

@@ -1,6 +1,4 @@
-// The table of a multi-value editor: one element per row, one component per column. It holds no values: the delegate
-// draws each visible cell from the editor's text for it, so its cost follows what is visible. Row operations become
-// undoable commands. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QPersistentModelIndex>
@@ -10,12 +8,15 @@ class ProportionalColumns;
 class EdMFieldTableItemDelegate;
 class EdMFieldWidget;
 
+/// The table of a multi-value editor: one element per row, one component per column. It holds no values: the delegate
+/// draws each visible cell from the editor's text for it, so its cost follows what is visible. Row operations become
+/// undoable commands. GUI thread only.
 class EdMFieldTable : public QTableWidget
 {
     Q_OBJECT
 
 public:
-    // What a column holds; picks the validator or the slider of its cells. The numbers are part of the interface.
+    /// What a column holds; picks the validator or the slider of its cells. The numbers are part of the interface.
     enum MFTableTypeCell {
         CELL_NONE = 0,
         CELL_SHORT = 1,
@@ -38,11 +39,11 @@ public:
 
     EdMFieldWidget* owner() const { return m_owner; }
 
-    // An empty item in the cell; cells without one are drawn and edited all the same.
+    /// An empty item in the cell; cells without one are drawn and edited all the same.
     void putItem(int row, int column, Qt::ItemFlags flags);
     void putItem(int row, int column);
 
-    // Whether a cell is open whose text was changed.
+    /// Whether a cell is open whose text was changed.
     bool hasTypedCell() const;
     void commitOpenEditor();
     void dropOpenEditor();
@@ -64,7 +65,7 @@ protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void updateGeometries() override;
 
-    // For a table that brings a delegate of its own; the one before is deleted.
+    /// For a table that brings a delegate of its own; the one before is deleted.
     void installDelegate(EdMFieldTableItemDelegate* delegate);
 
 private:
@@ -79,6 +80,6 @@ private:
     EdMFieldTableItemDelegate* m_delegate = nullptr;
     ProportionalColumns* m_columns = nullptr;
     bool m_multiSelection = false;
-    // The few cells that hold an item: clearing them must not cost the table's size.
+    /// The few cells that hold an item: clearing them must not cost the table's size.
     QList<QPersistentModelIndex> m_items;
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFieldTableItemDelegate.h"
 
 #include "EdIntSlider.h"

@@ -1,4 +1,4 @@
-// Draws a multi-value editor's cells from the editor's text, and makes and reads the cell editors.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QItemDelegate>
@@ -7,6 +7,7 @@ class EdMFieldWidget;
 class EdSlider;
 class QLineEdit;
 
+/// Draws a multi-value editor's cells from the editor's text, and makes and reads the cell editors.
 class EdMFieldTableItemDelegate : public QItemDelegate
 {
     Q_OBJECT
@@ -31,7 +32,7 @@ public:
 
 protected:
     EdMFieldWidget* owner() const { return m_owner; }
-    // The component that a table column shows.
+    /// The component that a table column shows.
     virtual int componentOf(int column) const { return column; }
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdMFieldWidget.h"
 
 #include "AccessButtonPrivate.h"

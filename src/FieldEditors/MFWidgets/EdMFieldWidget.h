@@ -1,5 +1,4 @@
-// The common base of every editor of a multi-value field: caption, buttons, count and the table of elements. A
-// subclass turns one element into text and back; see EdMFLineWidget and EdMFComponentsWidget. GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "SpxFieldEditors.h"
@@ -15,13 +14,15 @@ class QPushButton;
 class QSpacerItem;
 class SoMField;
 
+/// The common base of every editor of a multi-value field: caption, buttons, count and the table of elements. A
+/// subclass turns one element into text and back; see EdMFLineWidget and EdMFComponentsWidget. GUI thread only.
 class EdMFieldWidget : public SpxFieldEditors
 {
     Q_OBJECT
 
 public:
     explicit EdMFieldWidget(const char* name = nullptr);
-    // tableKind 1 makes the colour table, any other value the plain one.
+    /// tableKind 1 makes the colour table, any other value the plain one.
     EdMFieldWidget(int tableKind, const char* name);
     ~EdMFieldWidget() override;
 
@@ -34,24 +35,24 @@ public:
     void swapColumns(int column1, int column2) override;
     void set1Value(int row, int column, QString text) override;
     void setValue(int row, const void* value) override;
-    // What is typed in an open cell.
+    /// What is typed in an open cell.
     bool edited() override;
     void applyChanges() override;
     virtual QString getFieldValue(int row, int column) const;
     virtual int getTextFlags();
-    // True for a field that this editor edits.
+    /// True for a field that this editor edits.
     virtual bool checkField(SoField* field);
 
     void setFieldName(const QString& name);
     void updateNumElementLabel();
 
-    // Null once the field was let go or is gone.
+    /// Null once the field was let go or is gone.
     SoMField* editedField() const;
     AccessButtonPrivate* accessBox() const { return m_accessBox; }
     EdMFieldTable* table() const { return m_table; }
-    // Whether the field, as it is now, has this element.
+    /// Whether the field, as it is now, has this element.
     bool hasRow(int row) const;
-    // The start of a cell's text, at least `length` characters where there are as many; for those who draw it.
+    /// The start of a cell's text, at least `length` characters where there are as many; for those who draw it.
     virtual QString getCellText(int row, int column, int length) const;
 
 public slots:
@@ -62,7 +63,7 @@ public slots:
 protected:
     static constexpr int ColorTableKind = 1;
 
-    // Exchanges two elements of the edited field; nothing unless it has both.
+    /// Exchanges two elements of the edited field; nothing unless it has both.
     template <class Field>
     void swapElements(Field* field, int row1, int row2) const
     {
@@ -75,7 +76,7 @@ protected:
     }
     QHBoxLayout* buttonsLayout() const { return m_buttonsLayout; }
     QSpacerItem* accessMoveSpacer() const { return m_accessMoveSpacer; }
-    // Column captions (one column without a caption when empty), no rows, columns that a person can resize.
+    /// Column captions (one column without a caption when empty), no rows, columns that a person can resize.
     void initColumns(const QStringList& captions, int columns);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdTablePopupLineEdit.h"
 
 #include "EdTablePopupWidget.h"

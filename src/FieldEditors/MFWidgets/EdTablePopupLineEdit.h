@@ -1,10 +1,11 @@
-// One number of the grid in which a table popup editor edits an element.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QLineEdit>
 
 class EdTablePopupWidget;
 
+/// One number of the grid in which a table popup editor edits an element.
 class EdTablePopupLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -13,12 +14,12 @@ public:
     EdTablePopupLineEdit(int index, EdTablePopupWidget* owner, QWidget* parent, const char* name);
 
     int index() const { return m_index; }
-    // Shows a text that stands for the element's own number until the person changes it.
+    /// Shows a text that stands for the element's own number until the person changes it.
     void showText(const QString& text);
     bool isUntouched() const { return text() == m_shown; }
 
 public slots:
-    // Writes the element; the owner reads all the numbers itself.
+    /// Writes the element; the owner reads all the numbers itself.
     void setCurrentValue(QString text);
 
 private:

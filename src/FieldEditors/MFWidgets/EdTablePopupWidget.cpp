@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdTablePopupWidget.h"
 
 #include "AccessButtonPrivate.h"

@@ -1,5 +1,4 @@
-// A list whose elements are too large for a table row: the table only lists them, and a popup edits the element that
-// the access box names, as a grid of numbers.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFieldWidget.h"
@@ -7,6 +6,8 @@
 class EdTablePopupLineEdit;
 class QFrame;
 
+/// A list whose elements are too large for a table row: the table only lists them, and a popup edits the element that
+/// the access box names, as a grid of numbers.
 class EdTablePopupWidget : public EdMFieldWidget
 {
     Q_OBJECT
@@ -16,16 +17,16 @@ public:
 
     void load() override;
     void refresh() override;
-    // The text of number `index` of an element.
+    /// The text of number `index` of an element.
     virtual QString getPopupValue(int row, int index);
 
     void setValidator(int kind);
-    // Row -1 is the row to edit. Every change of a text writes the element and records a command; that is meant.
+    /// Row -1 is the row to edit. Every change of a text writes the element and records a command; that is meant.
     void updatePopupLines(int row);
     void managePopFramePos();
     void revertCursorPosition();
 
-    // The table cannot be clicked, so the access box names the row.
+    /// The table cannot be clicked, so the access box names the row.
     int rowToEdit() const;
 
 public slots:

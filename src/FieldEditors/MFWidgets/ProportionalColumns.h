@@ -1,5 +1,4 @@
-// Lets the columns of a table fill its width, whatever that is: a table without a horizontal scroll bar hides what does
-// not fit. Dragging the border between two columns moves that border; the shares found so survive every resize.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QObject>
@@ -8,19 +7,21 @@
 class QHeaderView;
 class QTableView;
 
+/// Lets the columns of a table fill its width, whatever that is: a table without a horizontal scroll bar hides what does
+/// not fit. Dragging the border between two columns moves that border; the shares found so survive every resize.
 class ProportionalColumns : public QObject
 {
     Q_OBJECT
 
 public:
-    // Belongs to the table.
+    /// Belongs to the table.
     explicit ProportionalColumns(QTableView* table);
 
-    // To be called when the table's room for its columns may have changed.
+    /// To be called when the table's room for its columns may have changed.
     void fit();
 
 private:
-    // After a person made this column wider or narrower.
+    /// After a person made this column wider or narrower.
     void moveBorder(int column, int before, int now);
 
     QTableView* m_table;

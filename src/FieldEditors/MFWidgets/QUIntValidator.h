@@ -1,10 +1,10 @@
-// Accepts unsigned decimal integers within a range; an empty text counts as acceptable.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QValidator>
 
-// Bounds is the type of the range. The text is parsed as a 32-bit number whatever the range, on purpose, so that an
-// input above 4294967295 is invalid even where the range would hold it.
+/// Bounds is the type of the range. The text is parsed as a 32-bit number whatever the range, on purpose, so that an
+/// input above 4294967295 is invalid even where the range would hold it.
 template <class Bounds>
 class UnsignedValidator : public QValidator
 {
@@ -39,6 +39,7 @@ private:
     Bounds m_top;
 };
 
+/// Accepts unsigned decimal integers within a range; an empty text counts as acceptable.
 class QUIntValidator : public UnsignedValidator<quint32>
 {
     Q_OBJECT

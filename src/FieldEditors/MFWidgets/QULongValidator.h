@@ -1,8 +1,9 @@
-// The validator of unsigned 64-bit ranges; see UnsignedValidator for what it still refuses.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "QUIntValidator.h"
 
+/// The validator of unsigned 64-bit ranges; see UnsignedValidator for what it still refuses.
 class QULongValidator : public UnsignedValidator<quint64>
 {
     Q_OBJECT

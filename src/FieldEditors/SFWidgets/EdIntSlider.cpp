@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdIntSlider.h"
 
 #include "EdLineEdit.h"

@@ -1,9 +1,10 @@
-// Slider of a signed integer of 32 or 16 bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdIntegerSlider.h"
 #include "EdSliderValidator.h"
 
+/// Slider of a signed integer of 32 or 16 bits.
 class EdIntSlider : public EdIntegerSlider<int>
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ public:
     EdIntSlider(SliderType type, SliderParentType parentType, SpxFieldEditors* owner, QWidget* parent,
                 int row, int column);
 
-    // A fixed range clamps what is entered; another is only where the slider starts.
+    /// A fixed range clamps what is entered; another is only where the slider starts.
     void setValidLimits(int min, int max, bool boundFixed);
 
     void setValueFromEdit() override;

@@ -1,9 +1,10 @@
-// What the sliders of signed and unsigned integers share: the number base. It is chosen by the first value
-// shown ("0x1F" is base 16, "07" base 8) and then stays.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdNumberSlider.h"
 
+/// What the sliders of signed and unsigned integers share: the number base. It is chosen by the first value
+/// shown ("0x1F" is base 16, "07" base 8) and then stays.
 template <class Integer>
 class EdIntegerSlider : public EdNumberSlider<Integer>
 {
@@ -25,7 +26,7 @@ protected:
     QString numberText() const { return QString::number(this->getNumber(), this->radix()); }
 
 private:
-    // Only a text of exactly two characters is read as octal; that is meant.
+    /// Only a text of exactly two characters is read as octal; that is meant.
     void chooseRadix(const QString& text)
     {
         if (text.size() > 2 && text.startsWith(QLatin1String("0x")))
@@ -34,7 +35,7 @@ private:
             this->setRadix(8);
         radixChosen();
     }
-    // A text without the prefix of the slider's base is a decimal one.
+    /// A text without the prefix of the slider's base is a decimal one.
     QString inRadix(const QString& text) const
     {
         const int radix = this->radix();

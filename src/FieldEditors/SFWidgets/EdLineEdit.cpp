@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdLineEdit.h"
 
 #include <QFocusEvent>

@@ -1,9 +1,10 @@
-// The line edit of the field editors. It remembers the text that the field last gave it, so that a refresh
-// leaves alone what the person is typing, and Escape takes the typing back. Showing emits no signal.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QLineEdit>
 
+/// The line edit of the field editors. It remembers the text that the field last gave it, so that a refresh
+/// leaves alone what the person is typing, and Escape takes the typing back. Showing emits no signal.
 class EdLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -11,20 +12,20 @@ class EdLineEdit : public QLineEdit
 public:
     explicit EdLineEdit(QWidget* parent = nullptr);
 
-    // The field gives `text`. Nothing moves where it stands already, nor while typing waits to be applied and
-    // the field still gives what it gave before.
+    /// The field gives `text`. Nothing moves where it stands already, nor while typing waits to be applied and
+    /// the field still gives what it gave before.
     void showText(const QString& text);
-    // Puts `text` here whatever stands here now; Escape still goes back to what showText() was given.
+    /// Puts `text` here whatever stands here now; Escape still goes back to what showText() was given.
     void putText(const QString& text);
-    // What showText() was last given; null before.
+    /// What showText() was last given; null before.
     const QString& shownText() const { return m_shownText; }
     bool isChanged() const { return text() != m_shownText; }
-    // Another field comes: what was shown and typed for the last one is over.
+    /// Another field comes: what was shown and typed for the last one is over.
     void forget();
 
-    // Emits editingFinished() also when it is left with its text unchanged.
+    /// Emits editingFinished() also when it is left with its text unchanged.
     void setFinishingAlways(bool always) { m_finishingAlways = always; }
-    // Lets Escape go on to the parent after the typing was taken back, as a cell of a table needs it.
+    /// Lets Escape go on to the parent after the typing was taken back, as a cell of a table needs it.
     void setEscapePassed(bool passed) { m_escapePassed = passed; }
 
 signals:

@@ -1,5 +1,4 @@
-// The line edits of an editor of several numbers. An input whose text is still as last shown stands for the
-// number that the field has; only what the person changed is converted.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdLineEdit.h"
@@ -9,24 +8,26 @@
 
 #include <vector>
 
+/// The line edits of an editor of several numbers. An input whose text is still as last shown stands for the
+/// number that the field has; only what the person changed is converted.
 class EdLineEditGroup
 {
 public:
-    // Not owned.
+    /// Not owned.
     void add(EdLineEdit* input) { m_inputs.append(input); }
     void clear() { m_inputs.clear(); }
     const QList<EdLineEdit*>& all() const { return m_inputs; }
     EdLineEdit* at(int index) const { return m_inputs.at(index); }
 
     void show(const QStringList& texts) const;
-    // True when the person typed in one of them.
+    /// True when the person typed in one of them.
     bool isEdited() const;
-    // True when there is something to apply.
+    /// True when there is something to apply.
     bool isChanged() const;
-    // Back to their beginnings, so that long numbers show it.
+    /// Back to their beginnings, so that long numbers show it.
     void revertCursorPosition() const;
 
-    // Puts what was changed in place of the field's present numbers. The inputs are then taken as applied.
+    /// Puts what was changed in place of the field's present numbers. The inputs are then taken as applied.
     template <class Number, class Convert>
     void read(std::vector<Number>& numbers, Convert convert) const
     {

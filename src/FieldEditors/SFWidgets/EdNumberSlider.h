@@ -1,18 +1,19 @@
-// The range and the value of a slider, for every type of number. The range takes in each value that is typed
-// or shown, unless it is fixed: then it only clamps.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSlider.h"
 
 #include <algorithm>
 
+/// The range and the value of a slider, for every type of number. The range takes in each value that is typed
+/// or shown, unless it is fixed: then it only clamps.
 template <class Number>
 class EdNumberSlider : public EdSlider
 {
 public:
     using EdSlider::EdSlider;
 
-    // One end of the range; ignored while the range is fixed.
+    /// One end of the range; ignored while the range is fixed.
     void setTop(Number top)
     {
         if (m_boundFixed)
@@ -30,7 +31,7 @@ public:
     Number getTop() const { return m_top; }
     Number getBottom() const { return m_bottom; }
     bool isBoundFixed() const { return m_boundFixed; }
-    // The number that the slider holds.
+    /// The number that the slider holds.
     Number getNumber() const { return m_value; }
 
     void setValueFromSlider(int position) override
@@ -50,7 +51,7 @@ protected:
         m_top = top;
         rangeChanged();
     }
-    // Takes a value into the range, or the range to the value.
+    /// Takes a value into the range, or the range to the value.
     void take(Number value)
     {
         m_value = m_boundFixed ? std::max(m_bottom, std::min(value, m_top)) : value;
@@ -60,7 +61,7 @@ protected:
             setBottom(m_value);
         setPosition(positionOf(m_value));
     }
-    // A value that no range can hold.
+    /// A value that no range can hold.
     void takeOutside(Number value)
     {
         m_value = value;

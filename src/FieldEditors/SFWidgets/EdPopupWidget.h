@@ -1,5 +1,4 @@
-// Edits a value of many numbers: a line with its text, and a button that opens a small grid with one input
-// for each.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdLineEditGroup.h"
@@ -7,6 +6,8 @@
 
 class QGridLayout;
 
+/// Edits a value of many numbers: a line with its text, and a button that opens a small grid with one input
+/// for each.
 class EdPopupWidget : public EdSFLineWidget
 {
     Q_OBJECT
@@ -18,23 +19,23 @@ public:
     using EdSFLineWidget::applyChanges;
 
 public slots:
-    // Applies the grid.
+    /// Applies the grid.
     void applyChanges() override;
 
 protected slots:
-    // Opens the grid beside the button, or closes it.
+    /// Opens the grid beside the button, or closes it.
     void managePopFramePos();
 
 protected:
     EdPopupWidget(int rows, int columns, const char* name);
 
-    // kind 0: none; 1: 16 bits; 2: integers; 3: floats; 4: doubles. Others change nothing.
+    /// kind 0: none; 1: 16 bits; 2: integers; 3: floats; 4: doubles. Others change nothing.
     void setValidator(int kind);
     void revertCursorPosition() { m_cells.revertCursorPosition(); }
 
-    // The texts of the field's numbers, row by row; empty without a field of the right type.
+    /// The texts of the field's numbers, row by row; empty without a field of the right type.
     virtual QStringList cellTexts() const = 0;
-    // Writes the field, with what was changed in the cells.
+    /// Writes the field, with what was changed in the cells.
     virtual void writeCells(const EdLineEditGroup& cells) = 0;
 
 private:

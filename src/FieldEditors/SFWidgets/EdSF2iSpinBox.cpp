@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSF2iSpinBox.h"
 
 #include "EdFieldEdits.h"

@@ -1,4 +1,4 @@
-// Two integers in spin boxes; every step is applied at once.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFColumnsWidget.h"
@@ -7,6 +7,7 @@
 
 class QSpinBox;
 
+/// Two integers in spin boxes; every step is applied at once.
 class EdSF2iSpinBox : public EdSFColumnsWidget
 {
     Q_OBJECT
@@ -21,9 +22,9 @@ protected:
 
     EdSF2iSpinBox(const char* name, int limits);
 
-    // kind 0: 16 bits; 1 and 2: 32 bits. Others change nothing.
+    /// kind 0: 16 bits; 1 and 2: 32 bits. Others change nothing.
     void setLimits(int kind);
-    // The field's numbers; false without a field of the right type.
+    /// The field's numbers; false without a field of the right type.
     virtual bool read(Pair& numbers) const = 0;
     virtual void write(const Pair& numbers) = 0;
 
@@ -35,7 +36,7 @@ private:
     Pair m_shown{}; // a box that still has its number stands for what the field has
 };
 
-// Field is the class of the edited field.
+/// Field is the class of the edited field.
 template <class Field>
 class EdSF2iSpinBoxOf : public EdSF2iSpinBox
 {

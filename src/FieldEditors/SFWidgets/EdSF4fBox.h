@@ -1,8 +1,9 @@
-// Four floats in line edits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFFloatsWidget.h"
 
+/// Four floats in line edits.
 class EdSF4fBox : public EdSFFloatsWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFBitMaskWidget.h"
 
 #include "EdText.h"

@@ -1,5 +1,4 @@
-// Edits a set of named bits with one check box for each. Its clicks are not recorded for undo, unlike those
-// of every other editor; that is meant.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
@@ -11,6 +10,8 @@ class QCheckBox;
 class QVBoxLayout;
 class SoSFBitMask;
 
+/// Edits a set of named bits with one check box for each. Its clicks are not recorded for undo, unlike those
+/// of every other editor; that is meant.
 class EdSFBitMaskWidget : public EdSFieldWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFBoolWidget.h"
 
 #include "EdFieldEdits.h"

@@ -1,10 +1,11 @@
-// Edits a truth value with a check box.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
 
 class QCheckBox;
 
+/// Edits a truth value with a check box.
 class EdSFBoolWidget : public EdSFieldWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFBox3sWidget.h"
 
 #include <xsg/fields/SoSFBox3s.h>

@@ -1,8 +1,9 @@
-// Edits a box of integers: its lowest corner in the first row, its highest in the second.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdPopupWidget.h"
 
+/// Edits a box of integers: its lowest corner in the first row, its highest in the second.
 class EdSFBox3sWidget : public EdPopupWidget
 {
     Q_OBJECT

@@ -1,5 +1,4 @@
-// Edits a colour: red, green and blue, normally 0 to 1, and a swatch that shows them and opens the colour
-// dialog.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdLineEditGroup.h"
@@ -7,6 +6,8 @@
 
 #include <array>
 
+/// Edits a colour: red, green and blue, normally 0 to 1, and a swatch that shows them and opens the colour
+/// dialog.
 class EdSFColorWidget : public EdSFieldWidget
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFColumnsWidget.h"
 
 #include "EdFontFitting.h"

@@ -1,12 +1,11 @@
-// What the editors of several numbers share: one column for each component, its caption above its input, side
-// by side.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
 
 #include <QStringList>
 
-// Object names, and keys of the layout metrics.
+/// Object names, and keys of the layout metrics.
 struct EdColumnLook {
     const char* layoutName;
     const char* columnSpacingKey;
@@ -17,6 +16,8 @@ struct EdColumnLook {
     bool hasColumnMargin;
 };
 
+/// What the editors of several numbers share: one column for each component, its caption above its input, side
+/// by side.
 class EdSFColumnsWidget : public EdSFieldWidget
 {
     Q_OBJECT
@@ -25,11 +26,11 @@ public:
     void load() override;
 
 protected:
-    // One caption for each component, in order.
+    /// One caption for each component, in order.
     EdSFColumnsWidget(const char* name, const EdColumnLook& look, const QStringList& captions);
 
     virtual QWidget* buildInput() = 0;
-    // As many names as components.
+    /// As many names as components.
     void setNameLabels(const QString* names);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFDoubleWidget.h"
 
 EdSFDoubleWidget::EdSFDoubleWidget(const char* name)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFEnumWidget.h"
 
 #include "EdFieldEdits.h"

@@ -1,10 +1,11 @@
-// Edits one of a set of named values with a combo box.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
 
 class QComboBox;
 
+/// Edits one of a set of named values with a combo box.
 class EdSFEnumWidget : public EdSFieldWidget
 {
     Q_OBJECT
@@ -14,7 +15,7 @@ public:
 
     void load() override;
     void setField(SoField* field) override;
-    // A value without a name shows no selection.
+    /// A value without a name shows no selection.
     void refresh() override;
     void applyChanges() override;
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFFilePathStringWidget.h"
 
 #include "EdLineEdit.h"

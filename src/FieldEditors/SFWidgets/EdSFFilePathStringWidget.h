@@ -1,10 +1,11 @@
-// Edits the path of a file; a button opens the file dialog.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFTextWidget.h"
 
 #include <xsg/fields/SoSFFilePathString.h>
 
+/// Edits the path of a file; a button opens the file dialog.
 class EdSFFilePathStringWidget : public EdSFTextWidget<SoSFFilePathString>
 {
     Q_OBJECT
@@ -18,6 +19,6 @@ public slots:
     bool edited() override;
 
 protected slots:
-    // Starts in the folder of the present value.
+    /// Starts in the folder of the present value.
     void openFileDialog();
 };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFFloatWidget.h"
 
 EdSFFloatWidget::EdSFFloatWidget(const char* name)

@@ -1,10 +1,11 @@
-// Edits a number of single precision.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFRealWidget.h"
 
 #include <xsg/fields/SoSFFloat.h>
 
+/// Edits a number of single precision.
 class EdSFFloatWidget : public EdSFRealWidget<SoSFFloat>
 {
     Q_OBJECT

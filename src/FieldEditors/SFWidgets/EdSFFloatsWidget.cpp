@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFFloatsWidget.h"
 
 #include "EdFieldEdits.h"

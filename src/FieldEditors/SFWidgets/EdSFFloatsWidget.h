@@ -1,7 +1,4 @@
-// What the editors of several floats share: a line edit for each. A further one says only which numbers its
-// field has:
-//
-//     class EdSFVec3fWidget : public EdSFVectorOf<EdSFFloatsWidget, SoSFVec3f> { ... };
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdLineEditGroup.h"
@@ -9,6 +6,10 @@
 
 #include <vector>
 
+/// What the editors of several floats share: a line edit for each. A further one says only which numbers its
+/// field has:
+///
+///     class EdSFVec3fWidget : public EdSFVectorOf<EdSFFloatsWidget, SoSFVec3f> { ... };
 class EdSFFloatsWidget : public EdSFColumnsWidget
 {
     Q_OBJECT
@@ -23,10 +24,10 @@ protected:
     using Floats = std::vector<float>;
     using EdSFColumnsWidget::EdSFColumnsWidget;
 
-    // The field's numbers, in the order of the captions; empty without a field of the right type.
+    /// The field's numbers, in the order of the captions; empty without a field of the right type.
     virtual Floats read() const = 0;
     virtual void write(const Floats& numbers) = 0;
-    // Moves every cursor to the beginning, so that long numbers show it.
+    /// Moves every cursor to the beginning, so that long numbers show it.
     void revertCursorPosition() { m_inputs.revertCursorPosition(); }
 
 private:
@@ -35,7 +36,7 @@ private:
     EdLineEditGroup m_inputs;
 };
 
-// For a field whose value is a vector of floats.
+/// For a field whose value is a vector of floats.
 template <class Base, class Field>
 class EdSFVectorOf : public Base
 {

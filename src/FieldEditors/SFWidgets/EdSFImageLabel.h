@@ -1,9 +1,10 @@
-// A thumbnail. While the pointer is over it, a larger view of the picture (at most 256 by 256) stands beside
-// it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QLabel>
 
+/// A thumbnail. While the pointer is over it, a larger view of the picture (at most 256 by 256) stands beside
+/// it.
 class EdSFImageLabel : public QLabel
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ public:
     EdSFImageLabel(int width, int height, QWidget* parent, const char* name = nullptr);
     ~EdSFImageLabel() override;
 
-    // An empty picture has no larger view.
+    /// An empty picture has no larger view.
     void setPixmap(const QPixmap& pixmap);
     QLabel* enlargedView() const { return m_view; }
 

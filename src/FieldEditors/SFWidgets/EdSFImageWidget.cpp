@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFImageWidget.h"
 
 #include "EdSFImageLabel.h"

@@ -1,10 +1,11 @@
-// Shows a picture; it edits nothing.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
 
 class EdSFImageLabel;
 
+/// Shows a picture; it edits nothing.
 class EdSFImageWidget : public EdSFieldWidget
 {
     Q_OBJECT
@@ -16,9 +17,9 @@ public:
     void refresh() override;
     void applyChanges() override;
 
-    // Leaves the pixmap as it is where the field holds no picture that can be shown.
+    /// Leaves the pixmap as it is where the field holds no picture that can be shown.
     static void getPixmapFromField(SoField* field, QPixmap& pixmap);
-    // A copy that XsgFree() gives back; null for a size below 1.
+    /// A copy that XsgFree() gives back; null for a size below 1.
     static unsigned char* copyBuffer(const unsigned char* data, int size);
 
 private:

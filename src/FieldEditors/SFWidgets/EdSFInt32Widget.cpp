@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFInt32Widget.h"
 
 #include <xsg/fields/SoSFInt32.h>

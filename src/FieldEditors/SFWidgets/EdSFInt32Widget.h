@@ -1,8 +1,9 @@
-// Edits a signed integer of 32 bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFIntegerWidget.h"
 
+/// Edits a signed integer of 32 bits.
 class EdSFInt32Widget : public EdSFIntegerWidget<EdIntSlider>
 {
     Q_OBJECT

@@ -1,12 +1,14 @@
-// What the four editors of integers share. They read and write the field's text, which leaves checking and
-// narrowing to the field, and take one range for all nodes.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdIntSlider.h"
 #include "EdSFieldWidget.h"
 #include "EdUIntSlider.h"
 
-// Slider is the class of the slider that the frame type makes.
+/// What the four editors of integers share. They read and write the field's text, which leaves checking and
+/// narrowing to the field, and take one range for all nodes.
+///
+/// Slider is the class of the slider that the frame type makes.
 template <class Slider>
 class EdSFIntegerWidget : public EdSFieldWidget
 {

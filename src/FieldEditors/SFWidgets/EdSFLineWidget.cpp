@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFLineWidget.h"
 
 #include "EdFieldEdits.h"

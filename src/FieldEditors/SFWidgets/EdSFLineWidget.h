@@ -1,5 +1,4 @@
-// Edits any single-value field as its text. Each keystroke is applied; a text that the field refuses stays
-// for the person to mend.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
@@ -8,6 +7,8 @@
 
 class EdLineEdit;
 
+/// Edits any single-value field as its text. Each keystroke is applied; a text that the field refuses stays
+/// for the person to mend.
 class EdSFLineWidget : public EdSFieldWidget
 {
     Q_OBJECT

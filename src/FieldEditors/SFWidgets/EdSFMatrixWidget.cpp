@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFMatrixWidget.h"
 
 #include "EdText.h"

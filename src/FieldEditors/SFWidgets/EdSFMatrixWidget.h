@@ -1,8 +1,9 @@
-// Edits a matrix, shown transposed: the translation, its last row, stands in the last column.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdPopupWidget.h"
 
+/// Edits a matrix, shown transposed: the translation, its last row, stands in the last column.
 class EdSFMatrixWidget : public EdPopupWidget
 {
     Q_OBJECT

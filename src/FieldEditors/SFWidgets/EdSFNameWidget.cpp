@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFNameWidget.h"
 
 EdSFNameWidget::EdSFNameWidget(const char* name)

@@ -1,10 +1,11 @@
-// Edits a name.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFTextWidget.h"
 
 #include <xsg/fields/SoSFName.h>
 
+/// Edits a name.
 class EdSFNameWidget : public EdSFTextWidget<SoSFName>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFPlaneWidget.h"
 
 #include <xsg/fields/SoSFPlane.h>

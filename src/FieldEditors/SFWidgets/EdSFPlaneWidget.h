@@ -1,8 +1,9 @@
-// Edits a plane: its normal and its distance from the origin.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSF4fBox.h"
 
+/// Edits a plane: its normal and its distance from the origin.
 class EdSFPlaneWidget : public EdSF4fBox
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFRealWidget.h"
 
 #include "EdFieldEdits.h"

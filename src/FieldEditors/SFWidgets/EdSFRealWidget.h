@@ -1,10 +1,12 @@
-// What the editors of single and double precision share: a slider over the range known for the field.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdRealSlider.h"
 #include "EdSFieldWidget.h"
 
-// Field is the class of the edited field.
+/// What the editors of single and double precision share: a slider over the range known for the field.
+///
+/// Field is the class of the edited field.
 template <class Field>
 class EdSFRealWidget : public EdSFieldWidget
 {

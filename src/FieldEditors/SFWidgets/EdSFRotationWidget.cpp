@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFRotationWidget.h"
 
 #include <xsg/fields/SoSFRotation.h>

@@ -1,10 +1,11 @@
-// Edits a rotation: its axis and its angle in radians.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSF4fBox.h"
 
 class QFocusEvent;
 
+/// Edits a rotation: its axis and its angle in radians.
 class EdSFRotationWidget : public EdSF4fBox
 {
     Q_OBJECT
@@ -12,7 +13,7 @@ class EdSFRotationWidget : public EdSF4fBox
 public:
     explicit EdSFRotationWidget(const char* name = nullptr);
 
-    // Applies what was typed when the editor is left.
+    /// Applies what was typed when the editor is left.
     virtual void focusOutEvent(QFocusEvent* event);
 
 protected:

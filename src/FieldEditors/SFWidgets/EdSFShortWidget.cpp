@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFShortWidget.h"
 
 #include <xsg/fields/SoSFShort.h>

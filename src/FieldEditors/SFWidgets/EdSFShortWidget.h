@@ -1,8 +1,9 @@
-// Edits a signed integer of 16 bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFIntegerWidget.h"
 
+/// Edits a signed integer of 16 bits.
 class EdSFShortWidget : public EdSFIntegerWidget<EdIntSlider>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFStringWidget.h"
 
 EdSFStringWidget::EdSFStringWidget(const char* name)

@@ -1,10 +1,11 @@
-// Edits a text.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFTextWidget.h"
 
 #include <xsg/fields/SoSFString.h>
 
+/// Edits a text.
 class EdSFStringWidget : public EdSFTextWidget<SoSFString>
 {
     Q_OBJECT

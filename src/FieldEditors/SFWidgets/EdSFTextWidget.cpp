@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFTextWidget.h"
 
 #include "EdFieldEdits.h"

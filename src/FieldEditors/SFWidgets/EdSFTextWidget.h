@@ -1,12 +1,14 @@
-// What the editors of texts share: a line edit that shows the bare text and applies it whenever editing ends,
-// changed or not.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFieldWidget.h"
 
 class EdLineEdit;
 
-// Field is the class of the edited field.
+/// What the editors of texts share: a line edit that shows the bare text and applies it whenever editing ends,
+/// changed or not.
+///
+/// Field is the class of the edited field.
 template <class Field>
 class EdSFTextWidget : public EdSFieldWidget
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFUInt32Widget.h"
 
 #include <xsg/fields/SoSFUInt32.h>

@@ -1,8 +1,9 @@
-// Edits an unsigned integer of 32 bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSFIntegerWidget.h"
 
+/// Edits an unsigned integer of 32 bits.
 class EdSFUInt32Widget : public EdSFIntegerWidget<EdUIntSlider>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFUShortWidget.h"
 
 #include <xsg/fields/SoSFUShort.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFVec2fWidget.h"
 
 namespace

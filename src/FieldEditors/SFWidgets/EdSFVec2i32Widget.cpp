@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFVec2i32Widget.h"
 
 EdSFVec2i32Widget::EdSFVec2i32Widget(const char* name)

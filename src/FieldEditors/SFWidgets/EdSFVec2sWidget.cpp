@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFVec2sWidget.h"
 
 EdSFVec2sWidget::EdSFVec2sWidget(const char* name)

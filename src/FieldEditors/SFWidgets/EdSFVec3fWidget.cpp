@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFVec3fWidget.h"
 
 namespace

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFVec4fWidget.h"
 
 EdSFVec4fWidget::EdSFVec4fWidget(const char* name)

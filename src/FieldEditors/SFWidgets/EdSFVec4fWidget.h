@@ -1,10 +1,11 @@
-// Edits a vector of four floats.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdSF4fBox.h"
 
 #include <xsg/fields/SoSFVec4f.h>
 
+/// Edits a vector of four floats.
 class EdSFVec4fWidget : public EdSFVectorOf<EdSF4fBox, SoSFVec4f>
 {
     Q_OBJECT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFieldWidget.h"
 
 #include "EdFieldEdits.h"

@@ -1,6 +1,4 @@
-// Base of the editors of single-value fields: the caption with the field's type, the place for the value's
-// inputs (or a slider, for numbers), and the buttons that set the default and ignore the field. GUI thread
-// only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "SpxFieldEditors.h"
@@ -14,7 +12,7 @@ class QPushButton;
 class QSpacerItem;
 class SoSField;
 
-// What fills the place for the value.
+/// What fills the place for the value.
 enum SFFrameType : int {
     PlainFrame = 0, // the subclass's own inputs
     FloatFrame = 1,
@@ -25,20 +23,23 @@ enum SFFrameType : int {
     UShortFrame = 6
 };
 
+/// Base of the editors of single-value fields: the caption with the field's type, the place for the value's
+/// inputs (or a slider, for numbers), and the buttons that set the default and ignore the field. GUI thread
+/// only.
 class EdSFieldWidget : public SpxFieldEditors
 {
     Q_OBJECT
 
 public:
     explicit EdSFieldWidget(const char* name = nullptr);
-    // A null name stands for the class's.
+    /// A null name stands for the class's.
     explicit EdSFieldWidget(SFFrameType frameType, const char* name = nullptr);
     ~EdSFieldWidget() override;
 
-    // Subclasses then add their inputs to editLayout(). Loading again builds all inputs anew.
+    /// Subclasses then add their inputs to editLayout(). Loading again builds all inputs anew.
     void load() override;
     void setField(SoField* field) override;
-    // Subclasses show the field's value first.
+    /// Subclasses show the field's value first.
     void refresh() override;
     void setRefresh(bool enabled) override;
     void swapRows(int first, int second) override;
@@ -47,7 +48,7 @@ public:
     void setValue(int index, const void* value) override;
     bool edited() override;
 
-    // The caption; the first one stays.
+    /// The caption; the first one stays.
     void setFieldName(const QString& name);
 
 public slots:
@@ -61,17 +62,17 @@ protected slots:
     virtual void setDefaultFieldValue();
 
 protected:
-    // For a subclass's constructor: the type it edits, and the names that follow from it. A null name stands
-    // for the class's.
+    /// For a subclass's constructor: the type it edits, and the names that follow from it. A null name stands
+    /// for the class's.
     void setFieldType(SoType type, const char* name);
 
     SoSField* getSField() const;
-    // Null without a slider.
+    /// Null without a slider.
     EdSlider* slider() const { return m_slider; }
     QFrame* editionFrame() const { return m_editionFrame; }
     QBoxLayout* editLayout() const { return m_editLayout; }
     void setSpacers(int width, int height);
-    // Another number for each field that came: a dialog compares it when it returns.
+    /// Another number for each field that came: a dialog compares it when it returns.
     int editingRound() const { return m_editingRound; }
 
 private:

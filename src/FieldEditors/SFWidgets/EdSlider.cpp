@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSlider.h"
 
 #include "EdFontFitting.h"

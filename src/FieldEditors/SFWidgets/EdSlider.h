@@ -1,6 +1,4 @@
-// One number as a check box (apply while dragging), a slider and a line edit. What the person enters goes to
-// the owner editor: through applyChanges() of a single-value editor, through set1Value() of a multi-value
-// one. What the program shows or moves never does. The variants carry the number; GUI thread only.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbString.h>
@@ -13,47 +11,50 @@ class QHBoxLayout;
 class QSlider;
 class SpxFieldEditors;
 
-// The kind of integer that an integer slider holds.
+/// The kind of integer that an integer slider holds.
 enum SliderType { Int32Slider = 1, UInt32Slider = 2, Int16Slider = 3, UInt16Slider = 4 };
 enum SliderParentType { SingleValueParent = 0, MultiValueParent = 1 };
 
+/// One number as a check box (apply while dragging), a slider and a line edit. What the person enters goes to
+/// the owner editor: through applyChanges() of a single-value editor, through set1Value() of a multi-value
+/// one. What the program shows or moves never does. The variants carry the number; GUI thread only.
 class EdSlider : public QFrame
 {
     Q_OBJECT
 
 public:
-    // `owner` must outlive the slider. row, column: the element and component of a multi-value owner.
+    /// `owner` must outlive the slider. row, column: the element and component of a multi-value owner.
     EdSlider(SliderParentType parentType, SpxFieldEditors* owner, QWidget* parent, int row, int column);
     ~EdSlider() override;
 
-    // Shows a value that comes from the field, as text.
+    /// Shows a value that comes from the field, as text.
     virtual void setValue(QString text);
     virtual void updateEdit();
     virtual void setValueFromEdit();
     virtual void setValueFromSlider(int position);
-    // Keeps the value as it is before a drag.
+    /// Keeps the value as it is before a drag.
     virtual void saveDataFromField();
 
-    // With the prefix "0" in radix 8 and "0x" in radix 16.
+    /// With the prefix "0" in radix 8 and "0x" in radix 16.
     QString getText() const;
-    // The slider's position.
+    /// The slider's position.
     int getValue() const;
     QString getValueFromEdit() const;
     void setText(const QString& text);
-    // True when the input holds something that has not been applied.
+    /// True when the input holds something that has not been applied.
     bool isEdited() const;
     bool isChecked() const;
     void setChecked(bool checked);
-    // Moves the slider to the position of the value, silently.
+    /// Moves the slider to the position of the value, silently.
     void updateSlider();
 
-    // The text that saveDataFromField() kept; the command of the next edit consumes it.
+    /// The text that saveDataFromField() kept; the command of the next edit consumes it.
     SbString& savedText() { return m_savedText; }
-    // Reads what was typed and not applied. False where it cannot be read yet, as "-" alone.
+    /// Reads what was typed and not applied. False where it cannot be read yet, as "-" alone.
     bool takeTyping();
-    // While the person holds the handle, nothing from the field moves the slider.
+    /// While the person holds the handle, nothing from the field moves the slider.
     bool isHeld() const;
-    // Another field comes: nothing typed or saved is for it.
+    /// Another field comes: nothing typed or saved is for it.
     void forget();
 
 public slots:
@@ -73,11 +74,11 @@ protected:
     int radix() const { return m_radix; }
     void setRadix(int radix) { m_radix = radix; }
     void setPosition(int position) { m_position = position; }
-    // Limits the slider and puts it back to its position, silently.
+    /// Limits the slider and puts it back to its position, silently.
     void setSliderRange(int minimum, int maximum);
-    // Shows a text of the field and takes its value over; while the handle is held, afterwards.
+    /// Shows a text of the field and takes its value over; while the handle is held, afterwards.
     void showFieldText(const QString& text);
-    // The text of the value for display only: what the field last gave stays what Escape returns to.
+    /// The text of the value for display only: what the field last gave stays what Escape returns to.
     void displayText(const QString& text);
 
 private:

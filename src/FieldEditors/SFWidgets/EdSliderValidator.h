@@ -1,9 +1,10 @@
-// The validator of a slider's line edit. Its range is what the slider clamps to; what may be typed is
-// whatever the type of the number holds.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdValidators.h"
 
+/// The validator of a slider's line edit. Its range is what the slider clamps to; what may be typed is
+/// whatever the type of the number holds.
 template <class Validator>
 class EdSliderValidator : public Validator
 {

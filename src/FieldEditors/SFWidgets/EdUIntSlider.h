@@ -1,8 +1,9 @@
-// Slider of an unsigned integer of 32 or 16 bits.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdIntegerSlider.h"
 
+/// Slider of an unsigned integer of 32 or 16 bits.
 class EdUIntSlider : public EdIntegerSlider<unsigned int>
 {
     Q_OBJECT
@@ -11,8 +12,8 @@ public:
     EdUIntSlider(SliderType type, SliderParentType parentType, SpxFieldEditors* owner, QWidget* parent,
                  int row, int column);
 
-    // Unlike in the other sliders, a fixed range narrows only what is accepted and leaves the slider's range
-    // where it was; that is meant.
+    /// Unlike in the other sliders, a fixed range narrows only what is accepted and leaves the slider's range
+    /// where it was; that is meant.
     void setValidLimits(unsigned int min, unsigned int max, bool boundFixed);
 
     void setValueFromEdit() override;

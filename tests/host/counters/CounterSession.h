@@ -1,5 +1,4 @@
-// The program with a model and its counters switched on, on a real display, and ways to act in it as a person does:
-// with mouse and keys, which go to the window as the window system would send them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "app/HostApplication.h"
@@ -14,7 +13,7 @@
 
 using namespace scopix;
 
-// A home of its own for the profile file and the window's layout; it outlives the sessions in it.
+/// A home of its own for the profile file and the window's layout; it outlives the sessions in it.
 class CounterHome
 {
 public:
@@ -37,7 +36,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-// Counts the events of a type that reach an object.
+/// Counts the events of a type that reach an object.
 class EventCount : public QObject
 {
 public:
@@ -58,6 +57,8 @@ private:
     int m_count = 0;
 };
 
+/// The program with a model and its counters switched on, on a real display, and ways to act in it as a person does:
+/// with mouse and keys, which go to the window as the window system would send them.
 class CounterSession
 {
 public:
@@ -76,7 +77,7 @@ public:
 
     MainWindow& window() { return static_cast<MainWindow&>(m_host.window()); }
     QDockWidget* dock() { return window().findChild<QDockWidget*>(QStringLiteral("PerfCounter")); }
-    // A part of the dock, by its name.
+    /// A part of the dock, by its name.
     template <class Widget = QWidget>
     Widget* part(const char* name)
     {
@@ -105,7 +106,7 @@ public:
         click(inWindow(legend()->viewport(), legend()->visualItemRect(item).center()));
     }
 
-    // Presses in one place, drags to the middle of a part, and lets go once the part has noticed.
+    /// Presses in one place, drags to the middle of a part, and lets go once the part has noticed.
     void drag(QPoint from, const char* target)
     {
         QWidget* to = part(target);
@@ -124,7 +125,7 @@ public:
         EXPECT_TRUE(QTest::qWaitFor([&] { return moves.count() >= 2 && !QGuiApplication::mouseButtons(); }));
     }
 
-    // Turns the model by one long drag, to and fro, until `enough` is true.
+    /// Turns the model by one long drag, to and fro, until `enough` is true.
     template <class Enough>
     void orbit(Enough enough)
     {
@@ -153,14 +154,14 @@ public:
         const QTableWidgetItem* item = legend()->findItems(name, Qt::MatchExactly).value(0);
         return item ? item->foreground().color() : QColor();
     }
-    // What the text view says about a counter.
+    /// What the text view says about a counter.
     double shownValue(const QString& name)
     {
         auto* table = part<QTableWidget>("m_textView");
         const QTableWidgetItem* item = table->findItems(name, Qt::MatchExactly).value(0);
         return item ? table->item(item->row(), 1)->text().toDouble() : -1;
     }
-    // How many pixels of a plot have about this colour.
+    /// How many pixels of a plot have about this colour.
     int pixelsOf(const char* plot, const QColor& color)
     {
         const QImage image = part(plot)->findChild<QWidget*>(QStringLiteral("QwtPlotCanvas"))->grab().toImage();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does with the counters, from the first drag to the next start of the program.
 #include "CounterSession.h"
 

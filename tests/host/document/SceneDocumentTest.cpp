@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SessionFiles.h"
 
 #include <xsg/nodes/properties/SoComplexity.h>

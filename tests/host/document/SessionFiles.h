@@ -1,4 +1,4 @@
-// A scene that is open and edited, in a home of its own.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "HostParts.h"
@@ -16,6 +16,7 @@
 
 using namespace scopix;
 
+/// A scene that is open and edited, in a home of its own.
 class SessionFiles : public testing::Test
 {
 protected:
@@ -27,14 +28,14 @@ protected:
         root->addChild(material);
         document.begin(root.get(), folder.filePath("scene.xsg"), "scene.xsg");
     }
-    // As an editor does it.
+    /// As an editor does it.
     void edit(float transparency)
     {
         services.select(&material->transparency);
         services.executeCommand(new SetFloat(material->transparency, transparency));
         SoSensorQueue::getInstance().process();
     }
-    // By an editor that leaves no step in the history.
+    /// By an editor that leaves no step in the history.
     void editWithoutStep(float transparency)
     {
         services.select(&material->transparency);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SessionFiles.h"
 
 #include "document/SnapshotWriter.h"

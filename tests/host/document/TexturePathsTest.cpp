@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures beside a scene are found wherever the program was started, and go along when the scene is saved elsewhere.
 #include "SessionFiles.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The console, the tool bar of profiles and their dialog in the program's own window. The pictures of the
 // documentation come from here: SCOPIX_PICTURES names the folder that they go to.
 #include <support/Session.h>

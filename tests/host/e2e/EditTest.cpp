@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The whole road of an edit: selection, editor, input, field, undo history.
 #include <support/Session.h>
 

@@ -1,4 +1,4 @@
-// The field gallery in a session: what its fields hold, and whether undoing brings all of it back.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <support/Session.h>
@@ -8,10 +8,11 @@
 #include <string>
 #include <vector>
 
+/// The field gallery in a session: what its fields hold, and whether undoing brings all of it back.
 class GallerySession : public Session
 {
 public:
-    // What undo has to restore, to the last byte.
+    /// What undo has to restore, to the last byte.
     struct State {
         std::string text;
         bool ignored;
@@ -60,7 +61,7 @@ public:
             stack().redo();
         settle();
     }
-    // Everything edited so far goes back, forth and back again.
+    /// Everything edited so far goes back, forth and back again.
     void expectUndone(const std::vector<State>& before)
     {
         const std::vector<State> after = states();

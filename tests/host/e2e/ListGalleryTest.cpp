@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every list of the gallery is edited by hand: each operation on its rows, and a cell.
 #include "Gallery.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The 3D view of a running host, while the scene is edited, saved, and changed by the application.
 #include <support/Session.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every single-value field of the gallery is edited by hand, in every input that its editor has.
 #include "Gallery.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What cannot be opened is named in one sentence that says what was expected.
 #include "ModelFiles.h"
 

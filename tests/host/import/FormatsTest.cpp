@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every format, written by the exporter from a shipped model, reads as the same model.
 #include "ModelFiles.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lights and cameras of a file become nodes that light and see the same.
 #include "ModelFiles.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The way from the process that reads models to the host.
 #include "ModelFiles.h"
 

@@ -1,4 +1,4 @@
-// Model files for the tests: the shipped ones, and others made from them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QDir>
@@ -16,7 +16,9 @@ inline QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// A folder of files that goes with it.
+/// Model files for the tests: the shipped ones, and others made from them.
+///
+/// A folder of files that goes with it.
 class ModelFiles
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host as a program embeds it, around a window of its own.
 #include "PluginParts.h"
 

@@ -1,4 +1,4 @@
-// The test plug-ins, and a host around them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "plugins/HostPluginsManager.h"
@@ -32,7 +32,9 @@ inline void runLoop()
     }
 }
 
-// Services, window, shell and manager, with the profiles in a folder of their own.
+/// The test plug-ins, and a host around them.
+///
+/// Services, window, shell and manager, with the profiles in a folder of their own.
 struct PluginHost {
     PluginHost()
     {

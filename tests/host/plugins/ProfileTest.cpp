@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "PluginParts.h"
 
 #include <scopix/SpxExtension.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program is killed in the middle of unsaved edits, and gives them back.
 #include <gtest/gtest.h>
 

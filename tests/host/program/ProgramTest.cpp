@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program as people start it, on a machine without a display.
 #include <gtest/gtest.h>
 

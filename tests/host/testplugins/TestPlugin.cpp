@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A plug-in for the tests of the host. It writes down what the host asks of it, in the application's property
 // "pluginLog". Variants, chosen by a definition, break the contract each in its own way.
 #include <scopix/SpxEditor.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One gesture, one undo step: with the events that a person's acts make.
 #include "HostParts.h"
 

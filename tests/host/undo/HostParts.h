@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests of the host share: a command that writes down what is asked of it, and ways to act as a
 // person does.
 #pragma once
@@ -39,7 +40,7 @@ private:
     std::string m_name;
 };
 
-// Sets a float field, as an editor does: the field is written first.
+/// Sets a float field, as an editor does: the field is written first.
 class SetFloat : public SpxCommand
 {
 public:
@@ -68,7 +69,7 @@ inline void pump()
     }
 }
 
-// False when the condition does not come true within a minute.
+/// False when the condition does not come true within a minute.
 inline bool waitFor(const std::function<bool()>& condition)
 {
     QElapsedTimer clock;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "HostParts.h"
 
 #include <gtest/gtest.h>

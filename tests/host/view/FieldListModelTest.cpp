@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/FieldListModel.h"
 #include "panels/FieldListView.h"
 #include "panels/ValueText.h"

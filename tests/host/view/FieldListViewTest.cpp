@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/FieldListView.h"
 #include "panels/FieldListModel.h"
 #include <xsg/nodes/base/SoFieldGallery.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
 #include "panels/FieldListModel.h"

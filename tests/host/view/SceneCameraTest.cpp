@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the 3D view and the camera that a scene brings along go together.
 #include "ViewPictures.h"
 

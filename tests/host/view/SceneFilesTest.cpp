@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does with files, in the window.
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"

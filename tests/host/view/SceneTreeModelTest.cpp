@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include <xsg/nodes/shapes/SoCube.h>

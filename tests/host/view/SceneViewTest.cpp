@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ViewPictures.h"
 
 #include "window/DefaultScene.h"

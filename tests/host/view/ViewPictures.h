@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Helps tests to look at what a 3D view shows.
 #pragma once
 
@@ -11,7 +12,7 @@
 
 using namespace scopix;
 
-// As it is once everything that changed has been told.
+/// As it is once everything that changed has been told.
 inline QImage pictureOf(SceneView& view)
 {
     SoSensorQueue::getInstance().process();
@@ -19,7 +20,7 @@ inline QImage pictureOf(SceneView& view)
     return view.grab().toImage();
 }
 
-// The smallest part of the picture that has everything that differs from its corner's ground.
+/// The smallest part of the picture that has everything that differs from its corner's ground.
 inline QRect partOf(const QImage& picture)
 {
     const QRgb ground = picture.pixel(0, 0);
@@ -33,7 +34,7 @@ inline QRect partOf(const QImage& picture)
     return part;
 }
 
-// Where a camera sees a point.
+/// Where a camera sees a point.
 inline QPoint placeOf(SceneView& view, const SbVec3f& point)
 {
     const float aspect = float(view.width()) / float(view.height());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The way of a picture to the screen: from a model's file over OpenGL inside the window, and through an edit.
 #include <support/Session.h>
 

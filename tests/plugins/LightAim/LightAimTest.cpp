@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sample plug-in, loaded and driven as the program does it.
 #include "support/TestHost.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A console in a host, and what the tests look at.
 #pragma once
 
@@ -16,7 +17,7 @@
 #include <iostream>
 #include <sstream>
 
-// Gives a stream another buffer while it lives, so that what the console does not take can be read.
+/// Gives a stream another buffer while it lives, so that what the console does not take can be read.
 class CapturedStream
 {
 public:

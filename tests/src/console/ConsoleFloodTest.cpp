@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The console under a flood of text from seven threads at once.
 #include "ConsoleFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines that no layout likes, writes in answer to a print, and streams that are taken and given back while
 // others write to them.
 #include "ConsoleFixture.h"

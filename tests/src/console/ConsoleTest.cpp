@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConsoleFixture.h"
 #include "support/FileAnswer.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Flood.h"
 
 #include <xsg/errors/SoDebugError.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxFieldIgnoredCommand.h"
 #include "SpxFieldSetDefaultCommand.h"
 #include "SpxMFAddRowsCommand.h"

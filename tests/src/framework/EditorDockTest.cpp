@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProbeEditor.h"
 #include "SpxFieldEditorDockWin.h"
 #include "SpxNodeEditor.h"

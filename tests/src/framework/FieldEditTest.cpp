@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The road of one edit: command, write, undo stack.
 #include "EdFreshDefault.h"
 #include "EdFieldEdits.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProbeEditor.h"
 
 #include <support/TestHost.h>

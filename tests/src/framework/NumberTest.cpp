@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts and numbers between person, Qt and scene graph.
 #include "EdText.h"
 #include "EdValidators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-in as the host gets it: a library loaded by name.
 #include <support/TestHost.h>
 #include <xsg/nodes/properties/SoMaterial.h>

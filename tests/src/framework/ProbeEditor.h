@@ -1,5 +1,4 @@
-// A field editor with one line of text and a window of its own, which writes down what the framework asks of
-// it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdFieldEdits.h"
@@ -13,6 +12,8 @@
 
 #include <string>
 
+/// A field editor with one line of text and a window of its own, which writes down what the framework asks of
+/// it.
 class ProbeEditor : public SpxFieldEditors
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What must do nothing: rows that are not there, empty lists, text that no validator accepts.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Cells: what can be typed into them, what reaches the field, and what can be undone.
 #include "EdIntSlider.h"
 #include "EdMFColorTable.h"

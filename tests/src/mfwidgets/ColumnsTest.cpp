@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The columns of a list: all of them are seen, however narrow the dock is.
 #include "ListEditors.h"
 #include "MultiFixture.h"

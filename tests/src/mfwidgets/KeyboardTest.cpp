@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table by keyboard alone, and what it tells those who do not see it.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"

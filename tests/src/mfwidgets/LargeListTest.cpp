@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A list of a million elements: whatever is done with it asks for the visible rows alone.
 #include "EdMFDoubleWidget.h"
 #include "EdMFMatrixWidget.h"

@@ -1,4 +1,4 @@
-// Every editor of lists with a type of field that it edits, for the tests that all of them pass.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EdMFColorWidget.h"
@@ -24,6 +24,7 @@
 
 #include <gtest/gtest.h>
 
+/// Every editor of lists with a type of field that it edits, for the tests that all of them pass.
 template <class EditorType, class FieldType>
 struct Kind {
     using Editor = EditorType;

@@ -1,5 +1,4 @@
-// A list as a test thinks of it: the texts of its elements, and the edits that can be taken back. Knows of the field's
-// type only how one element is written.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbString.h>
@@ -11,11 +10,13 @@
 #include <utility>
 #include <vector>
 
+/// A list as a test thinks of it: the texts of its elements, and the edits that can be taken back. Knows of the field's
+/// type only how one element is written.
 class ListModel
 {
 public:
     using Texts = std::vector<std::string>;
-    // The text as the type writes it, or nothing where the type refuses it.
+    /// The text as the type writes it, or nothing where the type refuses it.
     using Normalise = std::function<std::optional<std::string>(const std::string&)>;
 
     ListModel(std::string fresh, Normalise normalise)
@@ -26,10 +27,10 @@ public:
 
     const Texts& elements() const { return m_elements; }
     int count() const { return int(m_elements.size()); }
-    // Empty outside.
+    /// Empty outside.
     std::string at(int index) const { return index < count() ? m_elements[std::size_t(index)] : std::string(); }
 
-    // What happens elsewhere: nothing of it can be taken back.
+    /// What happens elsewhere: nothing of it can be taken back.
     void insert(int start, int howMany)
     {
         m_elements.insert(m_elements.begin() + std::min(start, count()), std::size_t(howMany), m_fresh);
@@ -51,7 +52,7 @@ public:
         return true;
     }
 
-    // Edits.
+    /// Edits.
     void addRow(int row)
     {
         record([this, row] { insert(row, 1), write(row, "\"\""); }, [this, row] { remove(row, 1); });

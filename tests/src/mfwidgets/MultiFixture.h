@@ -1,4 +1,4 @@
-// An editor of a list, loaded in the test host, shown in a window of its own, and its parts at hand.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "AccessButtonPrivate.h"
@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTest>
 
+/// An editor of a list, loaded in the test host, shown in a window of its own, and its parts at hand.
 template <class Editor, class Field>
 struct MultiFixture {
     MultiFixture() = default;
@@ -51,7 +52,7 @@ struct MultiFixture {
         QTest::keyClick(&table(), which);
         TestHost::pump();
     }
-    // Half of a key click: Shift is to stay down while other keys are used.
+    /// Half of a key click: Shift is to stay down while other keys are used.
     void sendKey(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers)
     {
         QKeyEvent event(type, key, modifiers);
@@ -64,7 +65,7 @@ struct MultiFixture {
         field.get(text);
         return text.getString();
     }
-    // Opens the editor of a cell the way a person does: a click, then a double click.
+    /// Opens the editor of a cell the way a person does: a click, then a double click.
     QWidget* openCell(int row, int column)
     {
         table().setCurrentCell(row, column);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a cell looks like: the text as much of it as fits, the selection, the swatch.
 #include "EdMFColorWidget.h"
 #include "EdMFStringWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Rows: adding, deleting and moving them, with keys and buttons, and undoing it.
 #include "EdMFColorWidget.h"
 #include "EdMFFloatWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sliders that cells of numbers open: how they are made, and when they stay open.
 #include "EdIntSlider.h"
 #include "EdMFDoubleWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A long random walk over each editor: row operations, cells, undo, redo and changes from elsewhere. After each step
 // field, table, count and access box are what a simple model of the list says. SCOPIX_WALK_SEED walks another way.
 #include "EdTablePopupLineEdit.h"

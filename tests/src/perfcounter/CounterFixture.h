@@ -1,4 +1,4 @@
-// A home folder with a profile file in it, counters of the test's own, and the dock on them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "CustomCounter.h"
@@ -33,6 +33,7 @@ inline bool isRegistered(const char* name)
     return SoPerfCounterManager::getInstance()->getCounter(name) != nullptr;
 }
 
+/// A home folder with a profile file in it, counters of the test's own, and the dock on them.
 class CounterHome : public testing::Test
 {
 protected:
@@ -74,7 +75,7 @@ protected:
         QFile file(where);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    // Two profiles, the second one on screen, and one custom counter.
+    /// Two profiles, the second one on screen, and one custom counter.
     void writeExample()
     {
         writeFile("<?xml version='1.0' encoding='UTF-8'?>\n"

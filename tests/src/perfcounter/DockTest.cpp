@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dock with its file: what is read at start, what is saved, and what the boxes say.
 #include "CounterFixture.h"
 #include "CounterProfileFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile file as people write it by hand: broken, huge, in other encodings; and as the tool writes it.
 #include "CounterFixture.h"
 

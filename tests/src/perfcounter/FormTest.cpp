@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the forms are known by: the names of their parts, their texts, tool tips, sizes and keys.
 #include "CounterFixture.h"
 #include "SoPerfCounterCreateCounter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Replays the fuzzer's corpus, so that the sanitizers see it in every run.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile manager's own files: what it opens, saves and refuses, and what becomes of the counters.
 #include "CounterFixture.h"
 #include "support/FileAnswer.h"

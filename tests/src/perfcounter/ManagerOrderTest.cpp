@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile manager: who is told what, in which order, and that nothing is left half done.
 #include "CounterFixture.h"
 

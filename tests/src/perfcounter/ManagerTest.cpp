@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile manager: what OK hands over, what Cancel takes back, and every refusal.
 #include "CounterFixture.h"
 #include "CounterProfileFile.h"

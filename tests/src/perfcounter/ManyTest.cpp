@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files with very many or very long things in them: what they hold is kept, and no more is made of it than is seen.
 #include "CounterFixture.h"
 #include "SoPerfCounterCreateCounter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the viewer draws, and when it draws nothing.
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"

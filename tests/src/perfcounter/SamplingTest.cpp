@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The arithmetic of sampling: rates, what is reset, what stays when the length changes.
 #include "ViewerFixture.h"
 

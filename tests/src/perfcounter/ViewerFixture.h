@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A viewer with a clock of the test's own, whose samples come when the test wants them.
 #pragma once
 

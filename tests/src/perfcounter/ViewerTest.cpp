@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The viewer: sampling with a clock of the test's own, the three views, the legend, scales and lengths.
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SpxProfileSelectorExtension.h"
 
 #include <support/TestHost.h>

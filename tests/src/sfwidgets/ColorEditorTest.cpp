@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFColorWidget.h"
 #include "EditedField.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFPlaneWidget.h"
 #include "EdSFRotationWidget.h"
 #include "EdSFVec2fWidget.h"

@@ -1,4 +1,4 @@
-// An editor in a host, on a field of a node or on a field that stands alone.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "Person.h"
@@ -24,9 +24,10 @@ inline std::string textOf(const SoField& field)
     return text.str();
 }
 
+/// An editor in a host, on a field of a node or on a field that stands alone.
 template <class Editor, class Field>
 struct EditedField {
-    // The field stands alone.
+    /// The field stands alone.
     EditedField() = default;
     explicit EditedField(const char* text) { begin(text); }
 
@@ -52,7 +53,7 @@ struct EditedField {
     std::string text() const { return textOf(field); }
     std::string shown() { return edit()->text().toStdString(); }
     int commands() const { return int(host.log().size()); }
-    // A change from elsewhere, seen by the editor.
+    /// A change from elsewhere, seen by the editor.
     void change(const char* text)
     {
         ASSERT_TRUE(field.set(text));

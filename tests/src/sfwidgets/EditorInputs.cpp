@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EditorRows.h"
 
 #include "Person.h"

@@ -1,4 +1,4 @@
-// What a person sees and does in the editor of each type: one row for each place where a value is edited.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QList>
@@ -10,6 +10,7 @@
 
 class QWidget;
 
+/// What a person sees and does in the editor of each type: one row for each place where a value is edited.
 struct EditorRow {
     enum Place { Own, General, Grid }; // an editor of its own, the general one, or the grid of its own
     enum Applied { AtTheEnd, AtEachKey };
@@ -25,26 +26,26 @@ struct EditorRow {
     Applied when;
 
     std::string name() const { return std::string(type) + (isInGrid() ? "Grid" : ""); }
-    // The extension name of the editor.
+    /// The extension name of the editor.
     std::string editor() const { return place == General ? "SField" : type; }
     bool isInGrid() const { return place == Grid; }
-    // Nothing that is typed ever waits.
+    /// Nothing that is typed ever waits.
     bool isEachKeyApplied() const { return when == AtEachKey; }
 };
 
 const std::vector<EditorRow>& editorRows();
 
-// The inputs for the row's value, in reading order.
+/// The inputs for the row's value, in reading order.
 QList<QWidget*> inputsOf(const EditorRow& row, QWidget* editor);
-// The same, for the lines among them that somebody types into.
+/// The same, for the lines among them that somebody types into.
 QList<QWidget*> linesOf(const EditorRow& row, QWidget* editor);
-// Everything that the keyboard goes through, in reading order.
+/// Everything that the keyboard goes through, in reading order.
 QList<QWidget*> stopsOf(const EditorRow& row, QWidget* editor);
 std::string shownIn(const EditorRow& row, QWidget* editor);
 
-// Opens the grid where the row is in one, as a person does.
+/// Opens the grid where the row is in one, as a person does.
 void open(const EditorRow& row, QWidget* editor);
-// Types without ending it. Every key counts: what stood there is replaced.
+/// Types without ending it. Every key counts: what stood there is replaced.
 void typeInto(QWidget* input, const QString& keys);
 
 std::ostream& operator<<(std::ostream& out, const EditorRow& row);

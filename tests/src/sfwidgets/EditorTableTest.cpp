@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What holds for every editor, in each place where one edits a value.
 #include "EditorRows.h"
 #include "Gallery.h"

@@ -1,5 +1,4 @@
-// Every editor of single values in a host, with the dock that picks among them, and nodes that have a field
-// of every type.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "EditedField.h"
@@ -11,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+/// Every editor of single values in a host, with the dock that picks among them, and nodes that have a field
+/// of every type.
 class Gallery : public testing::Test
 {
 protected:
@@ -19,16 +20,16 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    // A further node; it lives as long as the test.
+    /// A further node; it lives as long as the test.
     SoFieldContainer* addNode();
     static std::vector<SoSField*> singleFieldsOf(const SoFieldContainer* node);
     static SoSField* fieldOf(const SoFieldContainer* node, const std::string& type);
     static std::string typeOf(const SoField* field) { return field->getTypeId().getName().getString(); }
 
-    // Shows the field; its editor's widget.
+    /// Shows the field; its editor's widget.
     QWidget* show(SoSField* field);
     void showNothing();
-    // Unloads all editors and loads them again.
+    /// Unloads all editors and loads them again.
     void reload();
 
     int commands() const { return int(m_host.log().size()); }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every single-value field of the field gallery in the dock, with the editor that the dock picks for it.
 #include "Gallery.h"
 #include "EdSlider.h"

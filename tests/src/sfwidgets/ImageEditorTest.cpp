@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFImageLabel.h"
 #include "EdSFImageWidget.h"
 #include "EditedField.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFBox3sWidget.h"
 #include "EdSFLineWidget.h"
 #include "EdSFMatrixWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdRealSlider.h"
 #include "EdSFDoubleWidget.h"
 #include "EdSFFloatWidget.h"

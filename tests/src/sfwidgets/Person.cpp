@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Person.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does to the inputs of an editor, through real mouse and key events.
 #pragma once
 
@@ -11,19 +12,19 @@ class QWidget;
 namespace person
 {
 
-// Brings the input's window to the front and gives the input the focus.
+/// Brings the input's window to the front and gives the input the focus.
 void focus(QWidget* input);
-// Replaces the text of a line edit.
+/// Replaces the text of a line edit.
 void type(QLineEdit* edit, const QString& text);
 void typeAndEnter(QLineEdit* edit, const QString& text);
-// One key that gives `text`, in place of what is selected: letters of any script.
+/// One key that gives `text`, in place of what is selected: letters of any script.
 void typeKey(QLineEdit* edit, const QString& text);
-// Goes to the next input.
+/// Goes to the next input.
 void tab(QWidget* input);
-// Clicks into another line, which stands in the same window for as long as that takes.
+/// Clicks into another line, which stands in the same window for as long as that takes.
 void clickElsewhere(QWidget* input);
 
-// Takes the handle, moves it over the given positions and lets it go.
+/// Takes the handle, moves it over the given positions and lets it go.
 void drag(QSlider* slider, const QList<int>& positions);
 void pressHandle(QSlider* slider);
 void moveHandle(QSlider* slider, int position);

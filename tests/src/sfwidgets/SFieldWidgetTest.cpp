@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFFloatWidget.h"
 #include "EdSlider.h"
 #include "EditedField.h"

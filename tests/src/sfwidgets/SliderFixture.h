@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One slider in front of a person, with an owner that writes down what it hands over.
 #pragma once
 
@@ -14,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-// Writes down what a slider hands to its owner.
+/// Writes down what a slider hands to its owner.
 class SliderOwner : public SpxFieldEditors
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a slider makes of numbers: their texts and bases, its range and its positions.
 #include "EdLineEdit.h"
 #include "SliderFixture.h"

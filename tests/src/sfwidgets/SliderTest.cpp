@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does with a slider: dragging, stepping, typing, leaving, and the same in the cell of a table.
 #include "SliderFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EdSFFilePathStringWidget.h"
 #include "EdSFNameWidget.h"
 #include "EdSFStringWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random text into every line input of every editor. SCOPIX_TYPING_SECONDS lengthens it; `./test --asan` runs
 // it for a minute.
 #include "EditorRows.h"

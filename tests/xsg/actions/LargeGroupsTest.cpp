@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Groups with many children are not walked as a whole after a change: whatever happens to them, boxes and picks have
 // to be those of a walk that remembers nothing.
 #include <gtest/gtest.h>

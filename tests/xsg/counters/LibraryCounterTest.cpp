@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The library's own counters count where the work happens.
 #include <gtest/gtest.h>
 

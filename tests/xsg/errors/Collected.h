@@ -1,4 +1,4 @@
-// Collects the errors of one class while it lives, and puts the handler back that was there.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/errors/SoError.h>
@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// Collects the errors of one class while it lives, and puts the handler back that was there.
 template <class Error>
 class Collected
 {

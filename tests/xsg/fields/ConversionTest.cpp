@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Values that cross from one field type to another.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Holds docs/fields.md against the registered field types.
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Walks the table of samples.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +7,7 @@
 
 #include <functional>
 
+/// Walks the table of samples.
 class EveryField : public testing::Test
 {
 protected:
@@ -27,7 +28,7 @@ private:
     const FieldSample* m_sample = nullptr;
 };
 
-// Counts how often a field told of a change.
+/// Counts how often a field told of a change.
 inline int changesOf(const SoField& field)
 {
     return static_cast<int>(field.getChangeCount());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What holds for every field type, walked by the table of samples.
 #include <gtest/gtest.h>
 

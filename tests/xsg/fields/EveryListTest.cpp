@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What holds for every type of lists.
 #include <gtest/gtest.h>
 

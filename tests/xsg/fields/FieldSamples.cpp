@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FieldSamples.h"
 
 #include <xsg/fields/SoMFEnum.h>

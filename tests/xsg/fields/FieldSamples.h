@@ -1,4 +1,4 @@
-// What every field type reads and refuses, made from one row per type.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoField.h>
@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+/// What every field type reads and refuses, made from one row per type.
 struct FieldSample {
     std::string type; // as SoType names it: "SFFloat"
     bool isList = false;
@@ -15,11 +16,11 @@ struct FieldSample {
         values; // texts of one value as the field writes them, edges of the range among them
     std::vector<std::string> badValues; // texts that are no value
 
-    // Texts of the whole field that get() gives back letter by letter.
+    /// Texts of the whole field that get() gives back letter by letter.
     std::vector<std::string> goodTexts() const;
-    // Texts that set() refuses.
+    /// Texts that set() refuses.
     std::vector<std::string> badTexts() const;
-    // A new field that stands alone; enumerations know the names RED, "DARK GREEN", BLUE, 2D.
+    /// A new field that stands alone; enumerations know the names RED, "DARK GREEN", BLUE, 2D.
     std::unique_ptr<SoField> create() const;
 };
 

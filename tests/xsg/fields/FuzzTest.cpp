@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Replays the fuzzer's corpus and what random mutations make of it, so that the sanitizers see both in every
 // run.
 #include <gtest/gtest.h>

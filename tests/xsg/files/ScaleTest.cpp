@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Scenes that are deep, long or cut off.
 #include <gtest/gtest.h>
 

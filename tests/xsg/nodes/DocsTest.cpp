@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Holds docs/nodes.md against the registered node types.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DrawBar.h"
 
 #include <xsg/nodes/shapes/SoDrawingCallback.h>

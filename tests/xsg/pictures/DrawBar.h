@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An application's own drawing: a bar from edge to edge. Apart, since Qt and libepoxy each declare OpenGL.
 #pragma once
 

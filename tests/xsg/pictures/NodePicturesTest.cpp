@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every kind of node looks as it did: a small scene for each, beside this file, against a picture that people
 // have looked at, which docs/nodes.md shows. SCOPIX_PICTURES names the folder that the pictures are made in
 // again.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The counters of drawing, actions and files count where the work happens.
 #include "Picture.h"
 

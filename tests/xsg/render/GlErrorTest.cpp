@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // OpenGL's errors arrive as SoGLError.
 #include "Picture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is given to OpenGL again, and what is not: by the renderer's own counts.
 #include "Picture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What each node does to a picture.
 #include "Picture.h"
 

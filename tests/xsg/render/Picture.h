@@ -1,4 +1,4 @@
-// Helps tests to look at pictures of scenes.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,7 +10,9 @@
 
 #include <array>
 
-// A scene seen from z = 5, with the renderer that draws it.
+/// Helps tests to look at pictures of scenes.
+///
+/// A scene seen from z = 5, with the renderer that draws it.
 class Picture : public testing::Test
 {
 protected:
@@ -59,7 +61,7 @@ protected:
         return pixels;
     }
 
-    // By a renderer that has not seen the scene before.
+    /// By a renderer that has not seen the scene before.
     SoPixels drawAfresh()
     {
         SoOffscreenRenderer fresh;

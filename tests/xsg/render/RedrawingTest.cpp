@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is done again for another picture after a change, and what is not drawn at all.
 #include "Picture.h"
 

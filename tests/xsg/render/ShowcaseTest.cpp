@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scene that the program opens when it is given none.
 #include "Picture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pictures that a texture reads from its file.
 #include "Picture.h"
 

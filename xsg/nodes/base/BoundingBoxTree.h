@@ -1,5 +1,4 @@
-// Boxes around runs of neighbours, and around runs of those runs up to the whole, so that a long list is judged by a
-// few of them, and a change in it costs only those above it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -10,12 +9,14 @@
 namespace xsg
 {
 
+/// Boxes around runs of neighbours, and around runs of those runs up to the whole, so that a long list is judged by a
+/// few of them, and a change in it costs only those above it.
 class BoundingBoxTree
 {
 public:
     static constexpr std::size_t Size = 64; // neighbours in a run
 
-    // `boxOf(i)` gives the box of each of `count`.
+    /// `boxOf(i)` gives the box of each of `count`.
     template <class BoxOf>
     void build(std::size_t count, const BoxOf& boxOf)
     {
@@ -28,9 +29,9 @@ public:
                 refreshRun(m_levels.size() - 1, run, boxOf);
         }
     }
-    // The run that a place lies in.
+    /// The run that a place lies in.
     static std::size_t chunkOf(std::size_t place) { return place / Size; }
-    // After the box of a place in this run has changed.
+    /// After the box of a place in this run has changed.
     template <class BoxOf>
     void refresh(std::size_t chunk, const BoxOf& boxOf)
     {
@@ -41,10 +42,10 @@ public:
     std::size_t getNumChunks() const { return m_levels.empty() ? 0 : m_levels.front().size(); }
     SbBox3f getWhole() const { return m_levels.empty() ? SbBox3f() : m_levels.back().front(); }
 
-    // How much of what is in a box is looked for.
+    /// How much of what is in a box is looked for.
     enum class Found { Nothing, Some, Everything };
-    // Calls `take(first, end, isEverything)`, in order, with the places where something may be that is looked for.
-    // `judge(box)` gives a Found.
+    /// Calls `take(first, end, isEverything)`, in order, with the places where something may be that is looked for.
+    /// `judge(box)` gives a Found.
     template <class Classify, class Take>
     void find(const Classify& classify, const Take& take) const
     {

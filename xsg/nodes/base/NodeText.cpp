@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/NodeText.h>
 
 namespace

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/SoFieldGallery.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,5 +1,4 @@
-// One field of every type, each with a default that tells what the type holds: to try editors on, and to see
-// in a file how each type is written. Draws nothing.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFBitMask.h>
@@ -61,6 +60,8 @@
 #include <xsg/fields/SoSFVec4f.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// One field of every type, each with a default that tells what the type holds: to try editors on, and to see
+/// in a file how each type is written. Draws nothing.
 class XSG_API SoFieldGallery : public SoTyped<SoFieldGallery, SoNode>
 {
 public:

@@ -1,4 +1,4 @@
-// What a shape looks like, as drawing, picking and boxes use it: corners and how they are joined.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbBox.h>
@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+/// What a shape looks like, as drawing, picking and boxes use it: corners and how they are joined.
 struct SoGeometry {
     enum class Kind { Triangles, Lines, Points };
     Kind kind = Kind::Triangles;
@@ -19,10 +20,10 @@ struct SoGeometry {
     std::vector<std::uint32_t> index; // three per triangle, two per line, one per point; all within points
 };
 
-// Two shapes with the same key have the same geometry, so that it is made and kept once.
+/// Two shapes with the same key have the same geometry, so that it is made and kept once.
 struct SoGeometryKey {
-    // What it is made of: up to five nodes by number, each with its change count, or a solid's kind and
-    // fineness.
+    /// What it is made of: up to five nodes by number, each with its change count, or a solid's kind and
+    /// fineness.
     std::uint64_t parts[10] = {};
     void add(std::uint64_t id, std::uint64_t version)
     {

@@ -1,9 +1,10 @@
-// A comment: a text for people, without effect on the picture.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFString.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// A comment: a text for people, without effect on the picture.
 class XSG_API SoInfo : public SoTyped<SoInfo, SoNode>
 {
 public:

@@ -1,9 +1,10 @@
-// Any number of values, each a reference to a node, or to none. The field keeps the nodes alive.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/NodeText.h>
 #include <xsg/fields/SoMValue.h>
 
+/// Any number of values, each a reference to a node, or to none. The field keeps the nodes alive.
 class XSG_API SoMFNode : public SoTyped<SoMFNode, SoMValue<SoRef<SoNode>>>
 {
 public:

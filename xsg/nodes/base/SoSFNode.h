@@ -1,10 +1,11 @@
-// A reference to a node, or to none. The field keeps the node alive; a node that refers to one of its own
-// ancestors keeps both alive for ever.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/NodeText.h>
 #include <xsg/fields/SoSValue.h>
 
+/// A reference to a node, or to none. The field keeps the node alive; a node that refers to one of its own
+/// ancestors keeps both alive for ever.
 class XSG_API SoSFNode : public SoTyped<SoSFNode, SoSValue<SoRef<SoNode>>>
 {
 public:

@@ -1,5 +1,4 @@
-// What the nodes met so far have set: a traversal carries one along, and a separator puts it back. Nodes
-// change it in SoNode::apply(); shapes and the renderer read it. A plain value, made to be copied.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbMatrix.h>
@@ -29,7 +28,7 @@ struct SoMaterialState {
         nullptr; // where the list of diffuse colours is, for shapes that use several
 };
 
-// A light in world coordinates.
+/// A light in world coordinates.
 struct SoLightSource {
     enum class Kind { Directional, Point, Spot };
     Kind kind = Kind::Directional;
@@ -50,10 +49,12 @@ struct SoLightSource {
 static_assert(sizeof(SoLightSource) == sizeof(int) + 14 * sizeof(float),
               "without padding, so that bytes tell it apart");
 
-// Lists that a separator puts back are shared, never changed: adding makes a longer copy.
+/// Lists that a separator puts back are shared, never changed: adding makes a longer copy.
 template <class T>
 using SoShared = std::shared_ptr<const std::vector<T>>;
 
+/// What the nodes met so far have set: a traversal carries one along, and a separator puts it back. Nodes
+/// change it in SoNode::apply(); shapes and the renderer read it. A plain value, made to be copied.
 class SoState
 {
 public:
@@ -72,8 +73,8 @@ public:
     SbColor ambientLight{0.2F, 0.2F, 0.2F};
     SoShared<SoLightSource> lights; // null for none
     SoShared<SbPlane> clipPlanes;   // in world coordinates; what lies on a plane's normal's side stays
-    // Where an instancing group repeats what is below: from the coordinates at the group to the world's, the
-    // model matrix then ending at the group. Null: once.
+    /// Where an instancing group repeats what is below: from the coordinates at the group to the world's, the
+    /// model matrix then ending at the group. Null: once.
     SoShared<SbMatrix> instances;
     SbVec3f eye; // of the camera, in world coordinates; what chooses by distance compares with it
     bool chooseAll =
@@ -82,7 +83,7 @@ public:
     void addLight(const SoLightSource& light) { append(lights, light); }
     void addClipPlane(const SbPlane& plane) { append(clipPlanes, plane); }
 
-    // Calls `visit` with each matrix that takes a shape here to the world.
+    /// Calls `visit` with each matrix that takes a shape here to the world.
     template <class Visit>
     void forEachInstance(Visit visit) const
     {

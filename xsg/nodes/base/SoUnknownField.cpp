@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/SoUnknownField.h>
 
 #include <xsg/values/XsgText.h>

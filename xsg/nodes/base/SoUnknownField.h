@@ -1,12 +1,13 @@
-// A field of a node of a type that this program does not know: its value is the text that a file has after
-// the field's name. Connected from a field of a known type it keeps that text, since nobody knows how to
-// convert; what is connected from it takes the text.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/core/SoSField.h>
 
 #include <string>
 
+/// A field of a node of a type that this program does not know: its value is the text that a file has after
+/// the field's name. Connected from a field of a known type it keeps that text, since nobody knows how to
+/// convert; what is connected from it takes the text.
 class XSG_API SoUnknownField : public SoTyped<SoUnknownField, SoSField>
 {
 public:
@@ -17,12 +18,12 @@ public:
     {
     }
 
-    // An empty string in quotes where the file has no value.
+    /// An empty string in quotes where the file has no value.
     void get(SbString& text) const override;
     bool isSame(const SoField& other) const override;
 
 protected:
-    // Refuses what a file could not have as one value.
+    /// Refuses what a file could not have as one value.
     bool parse(std::string_view text) override;
     void assign(const SoField& sameType) override;
     bool isTextual() const override { return true; }

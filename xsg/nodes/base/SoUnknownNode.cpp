@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <xsg/types/SoTypedImpl.h>

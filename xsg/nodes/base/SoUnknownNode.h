@@ -1,5 +1,4 @@
-// Stands for a node of a type that this program does not know, as a file had it, so that writing the file
-// again loses nothing. Its fields are those that the file has; its children are shown as a separator's.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/groups/SoSeparator.h>
@@ -8,6 +7,8 @@
 #include <memory>
 #include <unordered_map>
 
+/// Stands for a node of a type that this program does not know, as a file had it, so that writing the file
+/// again loses nothing. Its fields are those that the file has; its children are shown as a separator's.
 class XSG_API SoUnknownNode : public SoTyped<SoUnknownNode, SoSeparator>
 {
 public:
@@ -18,7 +19,7 @@ public:
     {
     }
     SbName getTypeName() const { return m_typeName; }
-    // The field of this name, made where there is none yet.
+    /// The field of this name, made where there is none yet.
     SoUnknownField* addField(SbName name);
 
 private:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/cameras/SoCamera.h>
 
 #include <xsg/nodes/base/SoState.h>

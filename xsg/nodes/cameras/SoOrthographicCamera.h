@@ -1,9 +1,10 @@
-// Sees everything in its size, however far it is.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 
+/// Sees everything in its size, however far it is.
 class XSG_API SoOrthographicCamera : public SoTyped<SoOrthographicCamera, SoCamera>
 {
 public:

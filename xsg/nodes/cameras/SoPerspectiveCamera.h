@@ -1,8 +1,9 @@
-// Sees as an eye does: what is far is small.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/cameras/SoCamera.h>
 
+/// Sees as an eye does: what is far is small.
 class XSG_API SoPerspectiveCamera : public SoTyped<SoPerspectiveCamera, SoCamera>
 {
 public:

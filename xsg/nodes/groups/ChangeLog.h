@@ -1,5 +1,4 @@
-// Which children of a group changed lately, so that what was remembered of a large group can be brought up to date
-// without looking at each of them.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -11,16 +10,18 @@ class SoNode;
 namespace xsg
 {
 
+/// Which children of a group changed lately, so that what was remembered of a large group can be brought up to date
+/// without looking at each of them.
 class ChangeLog
 {
 public:
-    // Knows of everything after the group's change count `now`.
+    /// Knows of everything after the group's change count `now`.
     explicit ChangeLog(std::uint32_t now)
         : m_completeSince(now)
     {
     }
 
-    // The child, or what is below it, changed; null: the group itself. `count`: of the group, with this change.
+    /// The child, or what is below it, changed; null: the group itself. `count`: of the group, with this change.
     void add(const SoNode* child, std::uint32_t count)
     {
         Entry* place = &m_entries[0];
@@ -36,7 +37,7 @@ public:
             m_completeSince = place->count;
         *place = {child, count};
     }
-    // Appends who changed after the count was `since`, each once. False where that is forgotten.
+    /// Appends who changed after the count was `since`, each once. False where that is forgotten.
     bool collectSince(std::uint32_t since, std::vector<const SoNode*>& touched) const
     {
         if (since < m_completeSince)

@@ -1,11 +1,12 @@
-// Shows one of its children by the distance of the eye: the first when nearer than the first distance, the
-// second when nearer than the second, and so on; the last child beyond all distances.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 
+/// Shows one of its children by the distance of the eye: the first when nearer than the first distance, the
+/// second when nearer than the second, and so on; the last child beyond all distances.
 class XSG_API SoLevelOfDetail : public SoTyped<SoLevelOfDetail, SoSeparator>
 {
 public:

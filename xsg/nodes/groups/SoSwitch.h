@@ -1,9 +1,10 @@
-// Shows one of its children, all, or none.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
+/// Shows one of its children, all, or none.
 class XSG_API SoSwitch : public SoTyped<SoSwitch, SoGroup>
 {
 public:

@@ -1,10 +1,11 @@
-// Light that comes evenly from everywhere; takes the place of an earlier one.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFColor.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// Light that comes evenly from everywhere; takes the place of an earlier one.
 class XSG_API SoAmbientLight : public SoTyped<SoAmbientLight, SoNode>
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/lights/SoDirectionalLight.h>
 
 #include <xsg/nodes/base/SoState.h>

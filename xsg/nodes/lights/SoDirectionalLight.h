@@ -1,9 +1,10 @@
-// Light that comes from far away, everywhere from the same direction.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/lights/SoLight.h>
 
+/// Light that comes from far away, everywhere from the same direction.
 class XSG_API SoDirectionalLight : public SoTyped<SoDirectionalLight, SoLight>
 {
 public:

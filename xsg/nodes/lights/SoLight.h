@@ -1,4 +1,4 @@
-// Lights what follows it, to the end of the separator it stands in.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoState.h>
@@ -7,6 +7,7 @@
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// Lights what follows it, to the end of the separator it stands in.
 class XSG_API SoLight : public SoTyped<SoLight, SoNode>
 {
 public:
@@ -16,7 +17,7 @@ public:
     SoSFFloat intensity{this, "intensity", 1.0F}; // 0 dark to 1 full
     SoSFColor color{this, "color", {1, 1, 1}};
 
-    // The light as the renderer uses it, `toWorld` being the coordinates it stands in.
+    /// The light as the renderer uses it, `toWorld` being the coordinates it stands in.
     virtual SoLightSource getSource(const SbMatrix& toWorld) const = 0;
     void apply(SoState& state) const override;
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/lights/SoPointLight.h>
 
 #include <xsg/nodes/base/SoState.h>

@@ -1,9 +1,10 @@
-// Light that goes out from a place in all directions.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/lights/SoLight.h>
 
+/// Light that goes out from a place in all directions.
 class XSG_API SoPointLight : public SoTyped<SoPointLight, SoLight>
 {
 public:

@@ -1,10 +1,11 @@
-// Light that goes out from a place within a cone.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/lights/SoLight.h>
 
+/// Light that goes out from a place within a cone.
 class XSG_API SoSpotLight : public SoTyped<SoSpotLight, SoLight>
 {
 public:

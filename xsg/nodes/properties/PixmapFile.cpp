@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/properties/PixmapFile.h>
 
 #include <xsg/fields/SoSFImage.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/properties/SoClipPlane.h>
 
 #include <xsg/nodes/base/SoState.h>

@@ -1,9 +1,10 @@
-// How finely what follows is drawn.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// How finely what follows is drawn.
 class XSG_API SoComplexity : public SoTyped<SoComplexity, SoNode>
 {
 public:

@@ -1,10 +1,11 @@
-// Whether what follows is drawn filled, as its edges, as its points, or not at all.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFEnum.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// Whether what follows is drawn filled, as its edges, as its points, or not at all.
 class XSG_API SoDrawStyle : public SoTyped<SoDrawStyle, SoNode>
 {
 public:

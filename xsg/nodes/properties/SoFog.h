@@ -1,4 +1,4 @@
-// Lets what follows fade into a colour with its distance from the eye.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFColor.h>
@@ -6,6 +6,7 @@
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// Lets what follows fade into a colour with its distance from the eye.
 class XSG_API SoFog : public SoTyped<SoFog, SoNode>
 {
 public:

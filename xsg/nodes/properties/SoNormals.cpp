@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/properties/SoNormals.h>
 
 #include <xsg/nodes/base/SoState.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/properties/SoPoints.h>
 
 #include <xsg/nodes/base/SoState.h>

@@ -1,9 +1,10 @@
-// The corners of the vertex shapes that follow.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFVec3f.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// The corners of the vertex shapes that follow.
 class XSG_API SoPoints : public SoTyped<SoPoints, SoNode>
 {
 public:

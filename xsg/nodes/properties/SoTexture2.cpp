@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/properties/SoTexture2.h>
 
 #include <xsg/nodes/base/SoState.h>

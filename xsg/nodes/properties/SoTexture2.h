@@ -1,5 +1,4 @@
-// The picture on the surface of what follows. A file, where one is named and can be read, wins over the
-// image.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFEnum.h>
@@ -9,7 +8,7 @@
 
 #include <string>
 
-// Pixels of 1 to 4 bytes, rows from the bottom up.
+/// Pixels of 1 to 4 bytes, rows from the bottom up.
 struct SoImageView {
     int width = 0;
     int height = 0;
@@ -17,6 +16,8 @@ struct SoImageView {
     const unsigned char* bytes = nullptr;
 };
 
+/// The picture on the surface of what follows. A file, where one is named and can be read, wins over the
+/// image.
 class XSG_API SoTexture2 : public SoTyped<SoTexture2, SoNode>
 {
 public:
@@ -36,16 +37,16 @@ public:
     static SoEnumTablePtr getModelNames();
     void apply(SoState& state) const override;
 
-    // The picture to show, valid until a field changes; false for none.
+    /// The picture to show, valid until a field changes; false for none.
     bool getPicture(SoImageView& picture) const;
 
-    // Where a relative file name starts from; where it is empty, as at first, the folder that the process works in. No
-    // field: a scene takes it from where its file is.
+    /// Where a relative file name starts from; where it is empty, as at first, the folder that the process works in. No
+    /// field: a scene takes it from where its file is.
     void setFolder(const std::string& folder);
     const std::string& getFolder() const { return m_folder; }
 
-    // How pictures are read from files: fills `image` and returns true, or returns false. The library itself
-    // reads portable pixmaps (PGM, PPM); an application that knows more kinds puts its own reader here.
+    /// How pictures are read from files: fills `image` and returns true, or returns false. The library itself
+    /// reads portable pixmaps (PGM, PPM); an application that knows more kinds puts its own reader here.
     using FileReader = bool (*)(const char* path, SoSFImage& image);
     static void setFileReader(FileReader reader);
 

@@ -1,10 +1,11 @@
-// Moves the texture on what follows: scales, then turns, then moves its coordinates.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFVec2f.h>
 #include <xsg/nodes/base/SoNode.h>
 
+/// Moves the texture on what follows: scales, then turns, then moves its coordinates.
 class XSG_API SoTextureTransform : public SoTyped<SoTextureTransform, SoNode>
 {
 public:

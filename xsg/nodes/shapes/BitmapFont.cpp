@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/BitmapFont.h>
 
 namespace

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small font of 5 by 7 dots.
 #pragma once
 
@@ -7,7 +8,7 @@ namespace xsg
 constexpr int DotFontColumns = 5;
 constexpr int DotFontRows = 7;
 
-// Seven rows from the top down, the leftmost dot in the highest of five bits.
+/// Seven rows from the top down, the leftmost dot in the highest of five bits.
 const unsigned char* dotLetter(char16_t letter);
 
 } // namespace xsg

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Turns indices, counts and plain lists of points into corners, leaving out what names a point that is not
 // there.
 #pragma once
@@ -11,8 +12,8 @@
 namespace xsg
 {
 
-// Appends each group of `size` indices that lies wholly within the points, and the number of the group to
-// `faces`.
+/// Appends each group of `size` indices that lies wholly within the points, and the number of the group to
+/// `faces`.
 inline void appendGroups(const SoMFInt32& index, std::size_t size, std::uint32_t pointCount,
                          std::vector<std::uint32_t>& out, std::vector<std::uint32_t>& faces)
 {
@@ -29,14 +30,14 @@ inline void appendGroups(const SoMFInt32& index, std::size_t size, std::uint32_t
     }
 }
 
-// Every point in order, as far as groups of `size` are full.
+/// Every point in order, as far as groups of `size` are full.
 inline void appendAll(std::uint32_t size, std::uint32_t pointCount, std::vector<std::uint32_t>& out)
 {
     for (std::uint32_t i = 0; i < pointCount - pointCount % size; ++i)
         out.push_back(i);
 }
 
-// The corners of a line through `count` points from `first` on: two for each piece.
+/// The corners of a line through `count` points from `first` on: two for each piece.
 inline void appendLine(std::uint32_t first, std::uint32_t count, std::uint32_t line,
                        std::vector<std::uint32_t>& out, std::vector<std::uint32_t>& faces)
 {
@@ -46,7 +47,7 @@ inline void appendLine(std::uint32_t first, std::uint32_t count, std::uint32_t l
     }
 }
 
-// The corners of a strip of triangles: every second one is turned over, so that all show the same side.
+/// The corners of a strip of triangles: every second one is turned over, so that all show the same side.
 inline void appendStrip(std::uint32_t first, std::uint32_t count, std::uint32_t /*strip*/,
                         std::vector<std::uint32_t>& out, std::vector<std::uint32_t>& faces)
 {
@@ -57,8 +58,8 @@ inline void appendStrip(std::uint32_t first, std::uint32_t count, std::uint32_t 
     }
 }
 
-// Calls append(first, count, number) for each run of points that the counts make; no counts make one run of
-// all.
+/// Calls append(first, count, number) for each run of points that the counts make; no counts make one run of
+/// all.
 template <class Append>
 void forEachRun(const SoMFInt32& counts, std::uint32_t pointCount, Append append)
 {
@@ -75,8 +76,8 @@ void forEachRun(const SoMFInt32& counts, std::uint32_t pointCount, Append append
     }
 }
 
-// The same for lists of indices in which a negative one ends a run. A run that names a missing point is left
-// out.
+/// The same for lists of indices in which a negative one ends a run. A run that names a missing point is left
+/// out.
 template <class Append>
 void appendIndexedRuns(const SoMFInt32& index, std::uint32_t pointCount, Append append,
                        std::vector<std::uint32_t>& out, std::vector<std::uint32_t>& faces)

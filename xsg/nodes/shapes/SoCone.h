@@ -1,10 +1,11 @@
-// A cone around the y axis, its tip up.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/shapes/SoSolid.h>
 
+/// A cone around the y axis, its tip up.
 class XSG_API SoCone : public SoTyped<SoCone, SoSolid>
 {
 public:

@@ -1,9 +1,10 @@
-// A box around the origin.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/shapes/SoSolid.h>
 
+/// A box around the origin.
 class XSG_API SoCube : public SoTyped<SoCube, SoSolid>
 {
 public:

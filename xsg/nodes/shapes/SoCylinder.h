@@ -1,10 +1,11 @@
-// A cylinder around the y axis.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/shapes/SoSolid.h>
 
+/// A cylinder around the y axis.
 class XSG_API SoCylinder : public SoTyped<SoCylinder, SoSolid>
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,11 +1,10 @@
-// A place in the scene where an application draws by itself, with OpenGL 3.3. Draws nothing until a callback
-// is set.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFBox3f.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
-// What a drawing callback is told. All matrices as SbMatrix has them: points are rows.
+/// What a drawing callback is told. All matrices as SbMatrix has them: points are rows.
 struct SoDrawingContext {
     SbMatrix modelMatrix;
     SbMatrix viewMatrix;
@@ -14,6 +13,8 @@ struct SoDrawingContext {
     int height = 0;
 };
 
+/// A place in the scene where an application draws by itself, with OpenGL 3.3. Draws nothing until a callback
+/// is set.
 class XSG_API SoDrawingCallback : public SoTyped<SoDrawingCallback, SoShape>
 {
 public:
@@ -22,9 +23,9 @@ public:
 
     SoSFBox3f box{this, "box"}; // around what is drawn; empty: takes no part in boxes
 
-    // Called in each frame after the opaque shapes, on the rendering thread, with the context current. It may
-    // change any OpenGL setting but the framebuffer; the renderer sets its own anew. Must not change the
-    // scene.
+    /// Called in each frame after the opaque shapes, on the rendering thread, with the context current. It may
+    /// change any OpenGL setting but the framebuffer; the renderer sets its own anew. Must not change the
+    /// scene.
     void setCallback(Callback callback);
     const Callback& getCallback() const { return m_callback; }
 

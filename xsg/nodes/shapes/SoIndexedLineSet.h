@@ -1,9 +1,10 @@
-// Lines from point to point, the points named by their places in the list.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Lines from point to point, the points named by their places in the list.
 class XSG_API SoIndexedLineSet : public SoTyped<SoIndexedLineSet, SoVertexShape>
 {
 public:

@@ -1,9 +1,10 @@
-// Some of the points, drawn as dots.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Some of the points, drawn as dots.
 class XSG_API SoIndexedPointSet : public SoTyped<SoIndexedPointSet, SoVertexShape>
 {
 public:

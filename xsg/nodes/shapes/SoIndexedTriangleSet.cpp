@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoIndexedTriangleStripSet.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,9 +1,10 @@
-// Strips of triangles, the points named by their places in the list.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Strips of triangles, the points named by their places in the list.
 class XSG_API SoIndexedTriangleStripSet : public SoTyped<SoIndexedTriangleStripSet, SoVertexShape>
 {
 public:

@@ -1,10 +1,11 @@
-// Lines from point to point. Each joins as many of the next points as its count says; without counts one line
-// joins all.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Lines from point to point. Each joins as many of the next points as its count says; without counts one line
+/// joins all.
 class XSG_API SoLineSet : public SoTyped<SoLineSet, SoVertexShape>
 {
 public:

@@ -1,8 +1,9 @@
-// Each of the points, drawn as a dot.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Each of the points, drawn as a dot.
 class XSG_API SoPointSet : public SoTyped<SoPointSet, SoVertexShape>
 {
 public:

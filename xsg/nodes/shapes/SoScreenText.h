@@ -1,5 +1,4 @@
-// Text that keeps its size on the screen and stands where the origin is. Lines run downwards. Latin letters,
-// digits and signs; what the font does not have is shown as a box.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFString.h>
@@ -7,6 +6,8 @@
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
+/// Text that keeps its size on the screen and stands where the origin is. Lines run downwards. Latin letters,
+/// digits and signs; what the font does not have is shown as a box.
 class XSG_API SoScreenText : public SoTyped<SoScreenText, SoShape>
 {
 public:

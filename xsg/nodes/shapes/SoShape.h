@@ -1,4 +1,4 @@
-// Something to see: a leaf that has geometry.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoGeometry.h>
@@ -7,18 +7,19 @@
 
 class SoDrawingCallback;
 
+/// Something to see: a leaf that has geometry.
 class XSG_API SoShape : public SoTyped<SoShape, SoNode>
 {
 public:
     static constexpr const char* ClassName = "Shape";
 
-    // Fills `geometry`, which comes empty.
+    /// Fills `geometry`, which comes empty.
     virtual void generate(const SoState& state, SoGeometry& geometry) const = 0;
-    // Equal keys promise equal geometry.
+    /// Equal keys promise equal geometry.
     virtual SoGeometryKey getGeometryKey(const SoState& state) const = 0;
-    // From the coordinates of the geometry to those of the shape; solids of all sizes share one geometry.
+    /// From the coordinates of the geometry to those of the shape; solids of all sizes share one geometry.
     virtual SbMatrix getPlacement() const { return {}; }
-    // In the shape's coordinates.
+    /// In the shape's coordinates.
     virtual SbBox3f getBox(const SoState& state) const = 0;
 
     SoShape* asShape() override { return this; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoSolid.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,9 +1,10 @@
-// A ball around the origin.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/shapes/SoSolid.h>
 
+/// A ball around the origin.
 class XSG_API SoSphere : public SoTyped<SoSphere, SoSolid>
 {
 public:

@@ -1,8 +1,9 @@
-// Triangles, each of the next three points.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Triangles, each of the next three points.
 class XSG_API SoTriangleSet : public SoTyped<SoTriangleSet, SoVertexShape>
 {
 public:

@@ -1,10 +1,11 @@
-// Strips of triangles: each point after the second makes a triangle with the two before it. Each strip takes
-// as many of the next points as its count says; without counts one strip takes all.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
+/// Strips of triangles: each point after the second makes a triangle with the two before it. Each strip takes
+/// as many of the next points as its count says; without counts one strip takes all.
 class XSG_API SoTriangleStripSet : public SoTyped<SoTriangleStripSet, SoVertexShape>
 {
 public:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
 #include <xsg/types/SoTypedImpl.h>

@@ -1,16 +1,17 @@
-// A shape whose corners come from the points, normals and texture coordinates before it.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFEnum.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
+/// A shape whose corners come from the points, normals and texture coordinates before it.
 class XSG_API SoVertexShape : public SoTyped<SoVertexShape, SoShape>
 {
 public:
     static constexpr const char* ClassName = "VertexShape";
     enum ColorBinding { Overall = 0, PerFace = 1, PerVertex = 2 };
 
-    // What takes the material's diffuse colours: the whole, each face (line, point), or each point.
+    /// What takes the material's diffuse colours: the whole, each face (line, point), or each point.
     SoSFEnum colorBinding{this, "colorBinding", getColorBindingNames(), Overall};
 
     static SoEnumTablePtr getColorBindingNames();
@@ -19,14 +20,14 @@ public:
     SbBox3f getBox(const SoState& state) const override;
 
 protected:
-    // Corners by their place among the points, three per triangle, two per line, one per point. `faces` is
-    // left empty where each such group is a face, else it names the face of each group.
+    /// Corners by their place among the points, three per triangle, two per line, one per point. `faces` is
+    /// left empty where each such group is a face, else it names the face of each group.
     struct Corners {
         std::vector<std::uint32_t> index;
         std::vector<std::uint32_t> faces;
     };
     virtual SoGeometry::Kind getKind() const = 0;
-    // `pointCount`: how many points there are. What lies outside of them is left out.
+    /// `pointCount`: how many points there are. What lies outside of them is left out.
     virtual void collectCorners(std::uint32_t pointCount, Corners& corners) const = 0;
 
 private:

@@ -1,4 +1,4 @@
-// Builds the unit solids out of turned profiles and flat discs.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/nodes/base/SoGeometry.h>
@@ -6,7 +6,9 @@
 namespace xsg
 {
 
-// A ring of a turned solid: its height, its radius, and its normal in the plane of the profile.
+/// Builds the unit solids out of turned profiles and flat discs.
+///
+/// A ring of a turned solid: its height, its radius, and its normal in the plane of the profile.
 struct ProfileRing {
     float y;
     float radius;
@@ -14,9 +16,9 @@ struct ProfileRing {
     float v;        // texture coordinate
 };
 
-// Turns the rings, given from the bottom up, around the y axis.
+/// Turns the rings, given from the bottom up, around the y axis.
 void turn(SoGeometry& geometry, const std::vector<ProfileRing>& rings, int segments);
-// A disc of radius 1 at a height, seen from above or from below.
+/// A disc of radius 1 at a height, seen from above or from below.
 void disc(SoGeometry& geometry, float y, bool upward, int segments);
 
 } // namespace xsg

@@ -1,9 +1,10 @@
-// Moves what follows it by a matrix.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
 
+/// Moves what follows it by a matrix.
 class XSG_API SoMatrixTransform : public SoTyped<SoMatrixTransform, SoTransformation>
 {
 public:

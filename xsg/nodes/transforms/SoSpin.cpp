@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <xsg/nodes/transforms/SoSpin.h>
 
 #include <xsg/values/SbRotation.h>

@@ -1,5 +1,4 @@
-// Turns what follows it, faster or slower, as time goes by. Whoever shows a scene calls advanceAll() now and
-// then; nothing turns by itself.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/values/SbMatrix.h>
@@ -9,6 +8,8 @@
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
 
+/// Turns what follows it, faster or slower, as time goes by. Whoever shows a scene calls advanceAll() now and
+/// then; nothing turns by itself.
 class XSG_API SoSpin : public SoTyped<SoSpin, SoTransformation>
 {
 public:
@@ -22,10 +23,10 @@ public:
     SoSpin();
     SbMatrix getMatrix() const override;
 
-    // Lets `elapsed` pass for every one that is on and stands below `root`, or anywhere where that is null;
-    // true when there was one, so that a picture needs to be drawn.
+    /// Lets `elapsed` pass for every one that is on and stands below `root`, or anywhere where that is null;
+    /// true when there was one, so that a picture needs to be drawn.
     static bool advanceAll(SbTime elapsed, const SoNode* root = nullptr);
-    // Whether time would turn anything there.
+    /// Whether time would turn anything there.
     static bool isAnyTurning(const SoNode* root = nullptr);
 
 protected:

@@ -1,10 +1,11 @@
-// Scales, then turns, then moves what follows it. An ignored field takes no part.
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
 
+/// Scales, then turns, then moves what follows it. An ignored field takes no part.
 class XSG_API SoTransform : public SoTyped<SoTransform, SoTransformation>
 {
 public:
