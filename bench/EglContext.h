@@ -7,16 +7,17 @@
 namespace bench
 {
 
-/// An OpenGL context without a window or a display, current on the thread that makes it, for libraries that bring
-/// none of their own. Not the one that the scene-graph library draws with off the screen: that is a core context, on a
-/// thread of its own and without a surface; what OpenSceneGraph draws with here is older than that.
+/// An OpenGL context without a window or a display, current on the thread that makes it, for libraries that
+/// bring none of their own. Not the one that the scene-graph library draws with off the screen: that is a
+/// core context, on a thread of its own and without a surface; what OpenSceneGraph draws with here is older
+/// than that.
 class EglContext
 {
 public:
     EglContext()
     {
-        static constexpr EGLint configWanted[] = {EGL_SURFACE_TYPE,  EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE,
-                                                  EGL_OPENGL_BIT,    EGL_DEPTH_SIZE,  24,
+        static constexpr EGLint configWanted[] = {EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE,
+                                                  EGL_OPENGL_BIT,   EGL_DEPTH_SIZE,  24,
                                                   EGL_NONE};
         static constexpr EGLint surfaceWanted[] = {EGL_WIDTH, Size, EGL_HEIGHT, Size, EGL_NONE};
         m_display = eglGetPlatformDisplayEXT(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr);

@@ -11,9 +11,9 @@ namespace bench
 /// Whether calls that do not go through epoxy should return at once, too.
 inline bool areDrawCallsLeftOut = false;
 
-/// Lets OpenGL's draw calls return at once, so that the time of a frame is that of all the work up to them: looking
-/// for what is in sight, setting state, filling buffers, making the calls. Without a graphics card the processor
-/// fills the pictures, which hides that work.
+/// Lets OpenGL's draw calls return at once, so that the time of a frame is that of all the work up to them:
+/// looking for what is in sight, setting state, filling buffers, making the calls. Without a graphics card
+/// the processor fills the pictures, which hides that work.
 ///
 /// While it lives, where it was asked for.
 class WithoutDrawing

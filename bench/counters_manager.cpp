@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the profile manager costs, and how that grows with the number of profiles: to open it, against bare tabs of the
-// same labels, and to let it read a file anew, as Cancel does while the window is still there. Then what long names
-// cost.
+// What the profile manager costs, and how that grows with the number of profiles: to open it, against bare
+// tabs of the same labels, and to let it read a file anew, as Cancel does while the window is still there.
+// Then what long names cost.
 #include "SoPerfCounterProfile.h"
 #include "SoPerfCounterProfileManager.h"
 
@@ -181,14 +181,15 @@ int main(int argc, char** argv)
     add("read again", readAgain, {More, Many});
     add("leaf to the next tab", leaf, {More, Many});
     add("create a profile", create, {More, Many});
-    return bench::run(argc, argv,
-                      {{"open 1000 profiles, over 100", "open/1000/10", "open/100/10", "aim: at most 10"},
-                       {"open 1000 profiles, over bare tabs", "open/1000/10", "bare tabs/1000", ""},
-                       {"read 1000 profiles again, over 100", "read again/1000", "read again/100", "aim: at most 10"},
-                       {"leaf among 1000 tabs, over 100", "leaf to the next tab/1000", "leaf to the next tab/100",
-                        "aim: at most 10"},
-                       {"create a profile beside 1000, over 100", "create a profile/1000", "create a profile/100",
-                        "aim: at most 10"},
-                       {"open 10 profiles with names of 4 MB, over short ones", "open/10/4000000", "open/10/10",
-                        "aim: at most 10"}});
+    return bench::run(
+        argc, argv,
+        {{"open 1000 profiles, over 100", "open/1000/10", "open/100/10", "aim: at most 10"},
+         {"open 1000 profiles, over bare tabs", "open/1000/10", "bare tabs/1000", ""},
+         {"read 1000 profiles again, over 100", "read again/1000", "read again/100", "aim: at most 10"},
+         {"leaf among 1000 tabs, over 100", "leaf to the next tab/1000", "leaf to the next tab/100",
+          "aim: at most 10"},
+         {"create a profile beside 1000, over 100", "create a profile/1000", "create a profile/100",
+          "aim: at most 10"},
+         {"open 10 profiles with names of 4 MB, over short ones", "open/10/4000000", "open/10/10",
+          "aim: at most 10"}});
 }

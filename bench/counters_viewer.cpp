@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What one sample of the performance counters costs with its redraw: the viewer with 1, 10 and 100 counters and 60 to
-// 960 points, against a bare plot of the toolkit that shows the same points over the same time, and as a share of the
-// time between two samples. Then what a sample costs that nobody sees. QT_SCALE_FACTOR=2 tells it of a dense screen.
+// What one sample of the performance counters costs with its redraw: the viewer with 1, 10 and 100 counters
+// and 60 to 960 points, against a bare plot of the toolkit that shows the same points over the same time, and
+// as a share of the time between two samples. Then what a sample costs that nobody sees. QT_SCALE_FACTOR=2
+// tells it of a dense screen.
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterPcViewed.h"
 #include "SoPerfCounterViewer.h"
@@ -155,7 +156,8 @@ void measureSamples(benchmark::State& state, Plot& plot, int frequency)
     }
     // Of the time between two samples; 0.1 is the aim.
     using benchmark::Counter;
-    state.counters["ofPeriod"] = Counter(double(state.iterations()) / frequency, Counter::kIsRate | Counter::kInvert);
+    state.counters["ofPeriod"] =
+        Counter(double(state.iterations()) / frequency, Counter::kIsRate | Counter::kInvert);
 }
 
 using Prepare = void (*)(SoPerfCounterViewer& viewer);
@@ -177,7 +179,8 @@ void showCurves(SoPerfCounterViewer& viewer)
 // Both draw the same points; returns the ratio to print.
 bench::Ratio registerPair(int counters, Shown shown, std::string& what)
 {
-    what = std::to_string(counters) + " counters of " + std::to_string(shown.points()) + " points, over a bare plot";
+    what = std::to_string(counters) + " counters of " + std::to_string(shown.points()) +
+           " points, over a bare plot";
     const std::string size = std::to_string(counters) + "x" + std::to_string(shown.points());
     registerViewer("curves/" + size, counters, shown, showCurves);
     benchmark::RegisterBenchmark(("bare plot/" + size).c_str(), [=](benchmark::State& state) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the editor of a list costs, against a bare table and a bare vector that do the same, and how that grows with the
-// length of the list.
+// What the editor of a list costs, against a bare table and a bare vector that do the same, and how that
+// grows with the length of the list.
 #include "AccessButtonPrivate.h"
 #include "EdMFFloatWidget.h"
 #include "EdMFStringWidget.h"
@@ -191,9 +191,12 @@ std::vector<bench::Ratio> ratios()
         all.push_back({what, at(ours, Largest), at(ours, Smallest), aim});
     };
     against("open 1,000,000 elements / setRowCount", "open", "bareOpen", "");
-    against("add a row in the middle / insertRow and vector insert", "addRow", "bareAddRow", "aim: at most 1.5");
-    against("delete a row in the middle / removeRow and vector erase", "deleteRow", "bareDeleteRow", "aim: at most 1.5");
-    against("move a row in the middle / insertRow and vector insert", "moveRow", "bareAddRow", "aim: at most 1.5");
+    against("add a row in the middle / insertRow and vector insert", "addRow", "bareAddRow",
+            "aim: at most 1.5");
+    against("delete a row in the middle / removeRow and vector erase", "deleteRow", "bareDeleteRow",
+            "aim: at most 1.5");
+    against("move a row in the middle / insertRow and vector insert", "moveRow", "bareAddRow",
+            "aim: at most 1.5");
     against("repaint the visible rows / those of a bare table", "repaint", "bareRepaint", "");
     growth("refresh after a change, 1,000,000 / 1,000 elements", "refresh", "aim: 1");
     growth("repaint the visible rows, 1,000,000 / 1,000 elements", "repaint", "aim: 1");
@@ -208,7 +211,10 @@ std::vector<bench::Ratio> ratios()
 
 void add(const char* name, void (*measure)(benchmark::State&))
 {
-    benchmark::RegisterBenchmark(name, measure)->RangeMultiplier(1000)->Range(Smallest, Largest)->MinTime(0.05);
+    benchmark::RegisterBenchmark(name, measure)
+        ->RangeMultiplier(1000)
+        ->Range(Smallest, Largest)
+        ->MinTime(0.05);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the default plug-in adds to a program's start: the library, its extensions and their widgets, against the start
-// of an empty Qt program. Each is measured as a process of its own.
+// What the default plug-in adds to a program's start: the library, its extensions and their widgets, against
+// the start of an empty Qt program. Each is measured as a process of its own.
 //
 //     plugin_load [runs]
 #include "support/TestHost.h"

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// What it costs to open a group of many children in the scene tree, beside Qt's own model with as many rows, and
-// how the cost grows with their number; and what it costs to follow a child that comes and goes beside groups that
-// are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
+// What it costs to open a group of many children in the scene tree, beside Qt's own model with as many rows,
+// and how the cost grows with their number; and what it costs to follow a child that comes and goes beside
+// groups that are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
 #include "Ratios.h"
 
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QApplication>
@@ -51,7 +51,8 @@ void plainTree(benchmark::State& state)
         QStandardItemModel model;
         auto* root = new QStandardItem(QStringLiteral("Separator"));
         for (int i = 0; i < state.range(0); ++i)
-            root->appendRow({new QStandardItem(QStringLiteral("Cube")), new QStandardItem(QStringLiteral("Cube"))});
+            root->appendRow(
+                {new QStandardItem(QStringLiteral("Cube")), new QStandardItem(QStringLiteral("Cube"))});
         model.appendRow(root);
         QTreeView view;
         view.setUniformRowHeights(true);
@@ -94,8 +95,8 @@ int main(int argc, char** argv)
     return bench::run(argc, argv,
                       {{"scene tree, 100,000 children of one group, over Qt's items", "sceneTree/100000",
                         "plainTree/100000", "at most 1"},
-                       {"scene tree, 100,000 children over 10,000 (growth)", "sceneTree/100000", "sceneTree/10000",
-                        "about 10: linear"},
+                       {"scene tree, 100,000 children over 10,000 (growth)", "sceneTree/100000",
+                        "sceneTree/10000", "about 10: linear"},
                        {"a child that comes and goes beside 1,000 open groups of 100, over one such group",
                         "followOne/1000", "followOne/1", "far below 1000"}});
 }

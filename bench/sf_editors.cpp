@@ -195,7 +195,8 @@ private:
             const int middle = first->rect.center().y();
             const auto next = std::find_if(first, m_places.end(),
                                            [&](const Place& place) { return place.rect.top() >= middle; });
-            std::sort(first, next, [](const Place& a, const Place& b) { return a.rect.left() < b.rect.left(); });
+            std::sort(first, next,
+                      [](const Place& a, const Place& b) { return a.rect.left() < b.rect.left(); });
             auto* row = new QHBoxLayout;
             rows->addLayout(row);
             for (; first != next; ++first)

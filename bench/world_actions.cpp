@@ -2,9 +2,9 @@
 // What it costs to measure, pick, draw, read and write a world of separators, each with a transform and a
 // cube. The argument is the number of separators; time per separator should not grow with it.
 //
-// A frame after one change stands beside a full redraw: the scene is as new as after its file was opened, so that
-// the list of what to draw and all buffers are made. Both are measured as whole frames and without drawing, since
-// the processor's filling of the picture is the same for both and hides the rest.
+// A frame after one change stands beside a full redraw: the scene is as new as after its file was opened, so
+// that the list of what to draw and all buffers are made. Both are measured as whole frames and without
+// drawing, since the processor's filling of the picture is the same for both and hides the rest.
 #include "Ratios.h"
 #include "world_measures.h"
 
@@ -65,10 +65,12 @@ int main(int argc, char** argv)
     };
     return bench::run(
         argc, argv,
-        {{"redraw of 100,000: full over one field", "frame/opened/100000", "frame/oneField/100000", "aim: above 1"},
+        {{"redraw of 100,000: full over one field", "frame/opened/100000", "frame/oneField/100000",
+          "aim: above 1"},
          {"redraw of 100,000, drawing left out: full over one field", "frame/openedUndrawn/100000",
           "frame/oneFieldUndrawn/100000", "aim: above 100"},
-         {"redraw of 100,000: another child over one field", "frame/oneChild/100000", "frame/oneField/100000", ""},
+         {"redraw of 100,000: another child over one field", "frame/oneChild/100000", "frame/oneField/100000",
+          ""},
          {"boxes of 100,000: all afresh over one field", "boxAfresh/100000", "boxAfterOneChange/100000", ""},
          growth("redraw after one field, drawing left out, growth with size", "frame/oneFieldUndrawn"),
          growth("box afresh, growth with size", "boxAfresh"),

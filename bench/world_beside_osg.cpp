@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The world of the other benchmarks beside the same one in OpenSceneGraph: what it costs to draw it, to find its
-// box and to pick in it. Both draw the same cubes into pictures of the same size, all of them in sight, with one
-// light and without smoothed edges, leave out what is out of sight and nothing else, and read the picture back.
+// The world of the other benchmarks beside the same one in OpenSceneGraph: what it costs to draw it, to find
+// its box and to pick in it. Both draw the same cubes into pictures of the same size, all of them in sight,
+// with one light and without smoothed edges, leave out what is out of sight and nothing else, and read the
+// picture back.
 //
-// Frames are measured twice. Whole ones are what a person waits for; where the processor is the graphics card, it
-// is mostly its filling of the picture that they show. The others show the render traversal: on both sides
-// OpenGL's draw calls return at once, so that all the work up to them is left: finding what is in sight, sorting
-// it, setting state, filling buffers and making the calls.
+// Frames are measured twice. Whole ones are what a person waits for; where the processor is the graphics
+// card, it is mostly its filling of the picture that they show. The others show the render traversal: on both
+// sides OpenGL's draw calls return at once, so that all the work up to them is left: finding what is in
+// sight, sorting it, setting state, filling buffers and making the calls.
 //
-// For the box, no separator of ours remembers anything; OpenSceneGraph's cubes each go on knowing their own box.
+// For the box, no separator of ours remembers anything; OpenSceneGraph's cubes each go on knowing their own
+// box.
 #include "EglContext.h"
 #include "Ratios.h"
 #include "world_measures.h"
@@ -66,7 +68,8 @@ osg::ref_ptr<osg::Geometry> makeOsgCube()
         const osg::Vec3 right(side[1][0], side[1][1], side[1][2]);
         const osg::Vec3 up(side[2][0], side[2][1], side[2][2]);
         const auto first = static_cast<GLushort>(points->size());
-        for (const auto& corner : {normal - right - up, normal + right - up, normal + right + up, normal - right + up}) {
+        for (const auto& corner :
+             {normal - right - up, normal + right - up, normal + right + up, normal - right + up}) {
             points->push_back(corner);
             normals->push_back(normal);
         }
@@ -226,10 +229,13 @@ int main(int argc, char** argv)
     return bench::run(
         argc, argv,
         {beside("box of 100,000, afresh: OpenSceneGraph over ours", "osgBoxAfresh", "boxAfresh"),
-         beside("box of 100,000, one change: OpenSceneGraph over ours", "osgBoxAfterOneChange", "boxAfterOneChange"),
+         beside("box of 100,000, one change: OpenSceneGraph over ours", "osgBoxAfterOneChange",
+                "boxAfterOneChange"),
          beside("picking in 100,000: OpenSceneGraph over ours", "osgPick", "pick"),
-         beside("frame of 100,000, unchanged: OpenSceneGraph over ours", "osgFrame/unchanged", "frame/unchanged"),
-         beside("frame of 100,000, one change: OpenSceneGraph over ours", "osgFrame/oneField", "frame/oneField"),
+         beside("frame of 100,000, unchanged: OpenSceneGraph over ours", "osgFrame/unchanged",
+                "frame/unchanged"),
+         beside("frame of 100,000, one change: OpenSceneGraph over ours", "osgFrame/oneField",
+                "frame/oneField"),
          beside("frame of 100,000, eye moved: OpenSceneGraph over ours", "osgFrame/eye", "frame/eye"),
          beside("traversal of 100,000, unchanged: OpenSceneGraph over ours", "osgFrame/unchangedUndrawn",
                 "frame/unchangedUndrawn"),

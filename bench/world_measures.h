@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the benchmarks of a world of separators measure of this library, shared by the one that looks at growth
-// with size and the one that stands beside another library. The argument is the number of separators.
+// What the benchmarks of a world of separators measure of this library, shared by the one that looks at
+// growth with size and the one that stands beside another library. The argument is the number of separators.
 #pragma once
 
 #include "WithoutDrawing.h"
@@ -81,8 +81,8 @@ inline void prepareFrame(Before before, SoSeparator& world, SoCamera& camera, fl
         camera.pan(0.001F * (step - 0.25F), 0);
 }
 
-/// A frame from the change to the picture in memory. Without drawing, OpenGL's draw calls return at once: what
-/// remains is all the work up to them.
+/// A frame from the change to the picture in memory. Without drawing, OpenGL's draw calls return at once:
+/// what remains is all the work up to them.
 inline void frame(benchmark::State& state, Before before, Drawing drawing)
 {
     const auto world = makeWorld(static_cast<int>(state.range(0)));

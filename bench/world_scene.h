@@ -2,9 +2,9 @@
 // The scene that the world benchmarks share: separators, each with a transform and a cube.
 #pragma once
 
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <algorithm>

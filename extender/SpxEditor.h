@@ -6,8 +6,8 @@
 
 class QWidget;
 
-/// An extension that edits one kind of object. The dock that hosts editors picks one by its handled type, gives it the
-/// object, takes its widget and activates it. GUI thread only.
+/// An extension that edits one kind of object. The dock that hosts editors picks one by its handled type,
+/// gives it the object, takes its widget and activates it. GUI thread only.
 class SPX_API SpxEditor : public SpxExtension
 {
     Q_OBJECT

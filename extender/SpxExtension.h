@@ -6,8 +6,8 @@
 
 #include <QObject>
 
-/// A tool that a plug-in adds to the host. The host drives it: load() once, then activate() and deactivate() as
-/// profiles ask for it, show() and hide() as the person does, unload() once at the end. GUI thread only.
+/// A tool that a plug-in adds to the host. The host drives it: load() once, then activate() and deactivate()
+/// as profiles ask for it, show() and hide() as the person does, unload() once at the end. GUI thread only.
 class SPX_API SpxExtension : public QObject
 {
     Q_OBJECT

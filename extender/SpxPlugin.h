@@ -13,7 +13,8 @@ class SpxExtension;
 ///     extern "C" SpxPlugin* loadPlugin();      // makes the plug-in object
 ///     extern "C" void unloadPlugin();          // deletes it
 ///
-/// The host then calls load(), reads the extensions, and calls unload() before unloadPlugin(). GUI thread only.
+/// The host then calls load(), reads the extensions, and calls unload() before unloadPlugin(). GUI thread
+/// only.
 class SPX_API SpxPlugin
 {
 public:

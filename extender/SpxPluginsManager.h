@@ -16,7 +16,8 @@ public:
 
     virtual QList<SpxProfile*> getProfilesList() const = 0;
     virtual SpxProfile* getActiveProfile() const = 0;
-    /// Changes getActiveProfile() at once; extensions are switched when the caller has returned to the event loop.
+    /// Changes getActiveProfile() at once; extensions are switched when the caller has returned to the event
+    /// loop.
     virtual void setActiveProfile(SpxProfile* profile) = 0;
     /// What the active profile holds for this extension; null for one that it does not know.
     virtual const SpxProfileSetting* getProfileSetting(const SpxExtension* extension) const = 0;

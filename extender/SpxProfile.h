@@ -12,7 +12,8 @@ class SpxExtension;
 class SPX_API SpxProfileSetting
 {
 public:
-    /// The extensions that the profile controls, in the order in which the plug-ins registered them. Not owned.
+    /// The extensions that the profile controls, in the order in which the plug-ins registered them. Not
+    /// owned.
     const QList<SpxExtension*>& getControlledExtensions() const { return m_controlled; }
     void setControlledExtensions(QList<SpxExtension*> extensions) { m_controlled = std::move(extensions); }
 

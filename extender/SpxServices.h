@@ -9,8 +9,8 @@ class SoField;
 class SoFieldContainer;
 class SpxCommand;
 
-/// Selection and undo, as the host offers them to extensions. The host derives from it; its instance is the one that
-/// lives. GUI thread only.
+/// Selection and undo, as the host offers them to extensions. The host derives from it; its instance is the
+/// one that lives. GUI thread only.
 class SPX_API SpxServices : public QObject
 {
     Q_OBJECT
@@ -19,13 +19,13 @@ public:
     /// Null while no host has made one.
     static SpxServices* getInstance();
 
-    /// Takes the command over: runs execute() once and keeps it on the undo stack, which deletes it. The only way by
-    /// which an edit becomes undoable.
+    /// Takes the command over: runs execute() once and keeps it on the undo stack, which deletes it. The only
+    /// way by which an edit becomes undoable.
     virtual void executeCommand(SpxCommand* command) = 0;
 
 signals:
-    /// The person selected a node or a field, or nothing (null). The same one may be told again. A field's null comes
-    /// before its node goes.
+    /// The person selected a node or a field, or nothing (null). The same one may be told again. A field's
+    /// null comes before its node goes.
     void selectedNodeChanged(SoFieldContainer* node);
     void selectedFieldChanged(SoField* field);
 

@@ -23,7 +23,8 @@ public:
 
     virtual void addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area) = 0;
     virtual void removeDockWidget(QDockWidget* dock) = 0;
-    /// Every extension announces itself at the end of its activate() and takes leave at the end of its deactivate().
+    /// Every extension announces itself at the end of its activate() and takes leave at the end of its
+    /// deactivate().
     virtual void attachExtension(SpxExtension* extension, bool attach) = 0;
     virtual void detachExtension(SpxExtension* extension) = 0;
     virtual void addToolBar(QToolBar* toolBar, Qt::ToolBarArea area) = 0;

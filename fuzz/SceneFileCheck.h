@@ -15,7 +15,8 @@
 namespace fuzz
 {
 
-/// What must hold whatever a scene file has in it. The fuzzer and the test that replays its corpus share this.
+/// What must hold whatever a scene file has in it. The fuzzer and the test that replays its corpus share
+/// this.
 class SceneFileCheck
 {
 public:

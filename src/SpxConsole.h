@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ConsoleMessageQueue.h"
 #include "ConsoleMessage.h"
+#include "ConsoleMessageQueue.h"
 #include "StdStreamRedirector.h"
 
 #include <scopix/SpxExtension.h>
@@ -22,10 +22,10 @@ class ScopedErrorHandlers;
 class SoError;
 class Ui_m_consoleFrame;
 
-/// Shows, in a dock at the bottom, what the application writes to std::cout and std::cerr while the console is
-/// active, and what the scene-graph library reports while it is loaded: coloured by kind, filtered, cleared
-/// and saved by buttons. It holds the newest lines, as many as the preference XSG_CONSOLE_MAX_LINES tells
-/// (100,000 unless set).
+/// Shows, in a dock at the bottom, what the application writes to std::cout and std::cerr while the console
+/// is active, and what the scene-graph library reports while it is loaded: coloured by kind, filtered,
+/// cleared and saved by buttons. It holds the newest lines, as many as the preference XSG_CONSOLE_MAX_LINES
+/// tells (100,000 unless set).
 ///
 /// Text may come from any thread: the GUI thread's is printed at once, that of others from the event loop.
 class SpxConsole : public SpxExtension
@@ -85,7 +85,7 @@ private:
     QDockWidget* m_dock = nullptr;
     QFrame* m_frame = nullptr;           // child of the dock
     std::unique_ptr<ConsoleText> m_text; // null while not loaded
-    ConsoleMessageQueue m_inbox;                // outlives those that write to it
+    ConsoleMessageQueue m_inbox;         // outlives those that write to it
     std::unique_ptr<ScopedErrorHandlers> m_savedHandlers;
     std::unique_ptr<Redirector> m_stderrRedirector; // null while inactive
     std::unique_ptr<Redirector> m_stdoutRedirector;

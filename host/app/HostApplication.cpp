@@ -70,7 +70,8 @@ void HostApplication::start(const CommandLine& line)
     m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
         qputenv(CounterSwitch, "1");
-    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the window.
+    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the
+    // window.
     if (!SoPreferences::getBool(CounterSwitch, false))
         m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
     const QString homeTrouble = DataDirectory::ensure();

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "app/CommandLine.h"
+#include "app/HostWindow.h"
+#include "app/SensorPump.h"
 #include "plugins/HostPluginsManager.h"
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
-#include "app/HostWindow.h"
 #include "support/UserNotifier.h"
-#include "app/SensorPump.h"
 #include "undo/UndoShortcutFilter.h"
 
 #include <functional>
@@ -17,8 +17,8 @@
 namespace scopix
 {
 
-/// The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in the
-/// reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
+/// The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in
+/// the reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
 /// calling start() with an empty command line. GUI thread only.
 class HostApplication : public QObject
 {

@@ -20,8 +20,8 @@ public:
     virtual QMenu* viewMenu() = 0;
     virtual QMenu* profilesMenu() = 0;
 
-    /// Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this returns.
-    /// What was open stays open when it fails. Problems are told through Messages.
+    /// Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this
+    /// returns. What was open stays open when it fails. Problems are told through Messages.
     virtual void openFile(const QString& path) = 0;
     /// Selects a field by its node's name or type. False when there is none, which is told through Messages.
     virtual bool selectField(const QString& node, const QString& field) = 0;

@@ -53,8 +53,9 @@ int main(int argc, char** argv)
         return 0;
     }
     if (!chooseWindowSystem(line)) {
-        print(stderr, QStringLiteral("scopix: There is no display to open a window on; --screenshot OUT.png writes a "
-                                     "picture of the window without one."));
+        print(stderr,
+              QStringLiteral("scopix: There is no display to open a window on; --screenshot OUT.png writes a "
+                             "picture of the window without one."));
         return 1;
     }
     int noOptions = 1; // "--plugin" means something else to Qt

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/Autosave.h"
 
-#include "settings/UserSettings.h"
 #include "document/SceneDocument.h"
+#include "settings/UserSettings.h"
 
 #include <QGuiApplication>
 

@@ -12,9 +12,9 @@ namespace scopix
 
 class SceneDocument;
 
-/// Keeps unsaved edits in a file of the user's, so that a crash loses the last seconds and no more: written once the
-/// person pauses, taken away when there is nothing unsaved any more. What a crashed session left can be taken up.
-/// GUI thread only.
+/// Keeps unsaved edits in a file of the user's, so that a crash loses the last seconds and no more: written
+/// once the person pauses, taken away when there is nothing unsaved any more. What a crashed session left can
+/// be taken up. GUI thread only.
 class Autosave : public QObject
 {
     Q_OBJECT

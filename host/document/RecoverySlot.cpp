@@ -52,7 +52,8 @@ RecoverySlot::Origin RecoverySlot::getOrigin() const
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
-    return {object.value(QStringLiteral("path")).toString(), object.value(QStringLiteral("title")).toString()};
+    return {object.value(QStringLiteral("path")).toString(),
+            object.value(QStringLiteral("title")).toString()};
 }
 
 bool RecoverySlot::setOrigin(const Origin& origin) const

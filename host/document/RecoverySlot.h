@@ -10,8 +10,8 @@
 namespace scopix
 {
 
-/// The place of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file that says
-/// whose edits these are, and a lock that tells the living from the crashed. GUI thread only.
+/// The place of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file
+/// that says whose edits these are, and a lock that tells the living from the crashed. GUI thread only.
 class RecoverySlot
 {
 public:
@@ -23,8 +23,8 @@ public:
 
     /// A new place, locked for this session; null where the folder cannot be written.
     static std::unique_ptr<RecoverySlot> make(const QString& folder);
-    /// What a session left behind that did not end by itself, locked for this one; the newest where there are several,
-    /// null where there is none. What sessions that live have is left alone.
+    /// What a session left behind that did not end by itself, locked for this one; the newest where there are
+    /// several, null where there is none. What sessions that live have is left alone.
     static std::unique_ptr<RecoverySlot> findOrphaned(const QString& folder);
 
     /// Lets the lock go. The files stay: whoever comes next finds them as lost.

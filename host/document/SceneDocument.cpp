@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "document/SceneDocument.h"
 
-#include "services/HostServices.h"
 #include "document/TexturePaths.h"
 #include "import/ModelFormats.h"
+#include "services/HostServices.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>

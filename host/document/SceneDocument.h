@@ -14,7 +14,8 @@ namespace scopix
 
 class HostServices;
 
-/// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread only.
+/// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread
+/// only.
 class SceneDocument : public QObject
 {
     Q_OBJECT
@@ -28,8 +29,8 @@ public:
     static QString sceneEnding();
     static QStringList fileExtensions();
 
-    /// Opens another scene in place of the one before: selection and history go. `path` is the scene file or model it
-    /// came from, or empty; `title` names it.
+    /// Opens another scene in place of the one before: selection and history go. `path` is the scene file or
+    /// model it came from, or empty; `title` names it.
     void begin(SoNode* root, const QString& path, const QString& title);
     /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title);
@@ -45,8 +46,8 @@ public:
     /// Grows with every edit, undo and redo.
     quint64 getEditCount() const { return m_editCount; }
 
-    /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever happens.
-    /// One sentence where it cannot be written, else an empty text.
+    /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever
+    /// happens. One sentence where it cannot be written, else an empty text.
     QString save(const QString& path);
 
 signals:

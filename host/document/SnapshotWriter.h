@@ -14,9 +14,9 @@ class SoNode;
 namespace scopix
 {
 
-/// Writes a scene as it is now, while the program goes on and may change it: a child process, which shares the memory
-/// until either side writes to it, holds the scene still. What the person waits for is the child's start alone, however
-/// long the writing takes. GUI thread only.
+/// Writes a scene as it is now, while the program goes on and may change it: a child process, which shares
+/// the memory until either side writes to it, holds the scene still. What the person waits for is the child's
+/// start alone, however long the writing takes. GUI thread only.
 class SnapshotWriter : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,8 @@ public:
     /// Begins; finished() follows from the event loop. Not while it is busy.
     void write(const SoNode* root, const QString& path);
     bool isBusy() const { return m_child > 0; }
-    /// finished() does not follow. The file is the old or the new one; one under a temporary name may be left.
+    /// finished() does not follow. The file is the old or the new one; one under a temporary name may be
+    /// left.
     void cancel();
 
 signals:

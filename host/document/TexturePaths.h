@@ -10,8 +10,8 @@ namespace scopix
 
 /// Relative names start from this folder.
 void setPictureFolder(SoNode* root, const QString& folder);
-/// The same, and names that started from another folder are changed to lead to the same files as before. Names that lead
-/// nowhere, and absolute ones, stay as they are.
+/// The same, and names that started from another folder are changed to lead to the same files as before.
+/// Names that lead nowhere, and absolute ones, stay as they are.
 void movePictures(SoNode* root, const QString& folder);
 
 } // namespace scopix

@@ -25,7 +25,8 @@ QString fileExtensionsText(const QStringList& fileExtensions)
     for (const QString& ending : fileExtensions)
         dotted << QLatin1Char('.') + ending;
     if (dotted.size() > MostNamed) // those that most have heard of
-        return tr("%1, or that of another kind of model").arg(dotted.mid(0, MostNamed).join(QStringLiteral(", ")));
+        return tr("%1, or that of another kind of model")
+            .arg(dotted.mid(0, MostNamed).join(QStringLiteral(", ")));
     const QString last = dotted.takeLast();
     return dotted.isEmpty() ? last : tr("%1 or %2").arg(dotted.join(QStringLiteral(", ")), last);
 }

@@ -9,7 +9,8 @@ class QImage;
 namespace scopix
 {
 
-/// 1 component for grey, 3 for colours, 4 where it lets something through; empty for a null image. Has no name.
+/// 1 component for grey, 3 for colours, 4 where it lets something through; empty for a null image. Has no
+/// name.
 ModelData::Picture toPicture(const QImage& image);
 
 } // namespace scopix

@@ -11,8 +11,8 @@
 namespace scopix
 {
 
-/// A model as it was read from a file, before it becomes nodes: plain data, so that a thread of its own can read it.
-/// Places in the lists stand for references; -1 is none.
+/// A model as it was read from a file, before it becomes nodes: plain data, so that a thread of its own can
+/// read it. Places in the lists stand for references; -1 is none.
 struct ModelData {
     struct Mesh {
         std::string name;

@@ -69,9 +69,8 @@ public:
         std::uint64_t count = 0;
         bytes(&count, sizeof count);
         // An element takes a byte or more, so a wrong count asks for no memory that is not there.
-        constexpr std::size_t Least = std::is_trivially_copyable_v<typename List::value_type>
-                                          ? sizeof(typename List::value_type)
-                                          : 1;
+        constexpr std::size_t Least =
+            std::is_trivially_copyable_v<typename List::value_type> ? sizeof(typename List::value_type) : 1;
         m_good = m_good && count <= m_rest / Least;
         list.resize(m_good ? count : 0);
     }
@@ -128,8 +127,8 @@ private:
     }
     void pass(ModelData::Material& m)
     {
-        (*this)(m.name, m.ambient, m.diffuse, m.specular, m.emissive, m.shininess, m.transparency, m.picture, m.clampS,
-                m.clampT);
+        (*this)(m.name, m.ambient, m.diffuse, m.specular, m.emissive, m.shininess, m.transparency, m.picture,
+                m.clampS, m.clampT);
     }
     void pass(ModelData::Picture& p) { (*this)(p.name, p.width, p.height, p.components, p.bytes); }
     void pass(ModelData::Node& n) { (*this)(n.name, n.matrix, n.meshes, n.children, n.light, n.camera); }
@@ -146,7 +145,9 @@ bool isPlace(int place, const List& list)
 
 bool isConsistent(const ModelData& model)
 {
-    const auto allOf = [](const auto& list, auto good) { return std::all_of(list.begin(), list.end(), good); };
+    const auto allOf = [](const auto& list, auto good) {
+        return std::all_of(list.begin(), list.end(), good);
+    };
     const auto isNode = [&](const ModelData::Node& node) {
         const auto place = &node - model.nodes.data();
         return isPlace(node.light, model.lights) && isPlace(node.camera, model.cameras) &&

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A model's plain data as a file of bytes, in which the process that reads models hands it over. Of this machine and
-// this version only, and gone once it has been taken in.
+// A model's plain data as a file of bytes, in which the process that reads models hands it over. Of this
+// machine and this version only, and gone once it has been taken in.
 #pragma once
 
 #include "import/ModelData.h"

@@ -39,11 +39,15 @@ ModelImport::ModelImport(QWidget* window, QObject* parent)
 {
     m_reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     connect(&m_reader, &QProcess::readyReadStandardOutput, this, &ModelImport::showProgress);
-    connect(&m_reader, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this, &ModelImport::readerEnded);
-    connect(&m_reader, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            readerEnded();
-    }, Qt::QueuedConnection);
+    connect(&m_reader, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+            &ModelImport::readerEnded);
+    connect(
+        &m_reader, &QProcess::errorOccurred, this,
+        [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                readerEnded();
+        },
+        Qt::QueuedConnection);
 }
 
 ModelImport::~ModelImport()
@@ -54,7 +58,8 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1 …").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100, m_window);
+    m_dialog = new QProgressDialog(tr("Reading %1 …").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
+                                   m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));
     m_dialog->setWindowModality(Qt::WindowModal);
     m_dialog->setMinimumDuration(PatienceMs);
@@ -95,10 +100,12 @@ void ModelImport::tell()
 {
     ModelReadResult model;
     QFile result(m_result.fileName());
-    const bool ended = m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
+    const bool ended =
+        m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
     const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
-    if (!bytes || !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+    if (!bytes ||
+        !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
     if (model.error.isEmpty())

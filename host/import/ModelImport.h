@@ -14,9 +14,9 @@ class QWidget;
 namespace scopix
 {
 
-/// Reads one model file in a process of its own, so that a file which makes the reader crash, hang or ask for all memory
-/// ends that process and nothing else; shows how far it is once that takes noticeable time. Made for one file; deleting
-/// it ends the process at once. GUI thread only.
+/// Reads one model file in a process of its own, so that a file which makes the reader crash, hang or ask for
+/// all memory ends that process and nothing else; shows how far it is once that takes noticeable time. Made
+/// for one file; deleting it ends the process at once. GUI thread only.
 class ModelImport : public QObject
 {
     Q_OBJECT

@@ -3,19 +3,19 @@
 
 #include "import/TransformBuilder.h"
 #include "panels/NodeText.h"
-#include <xsg/nodes/lights/SoAmbientLight.h>
-#include <xsg/nodes/lights/SoDirectionalLight.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/properties/SoMaterial.h>
-#include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
-#include <xsg/nodes/lights/SoPointLight.h>
-#include <xsg/nodes/properties/SoPoints.h>
-#include <xsg/nodes/lights/SoSpotLight.h>
 #include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/lights/SoAmbientLight.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/lights/SoPointLight.h>
+#include <xsg/nodes/lights/SoSpotLight.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoNormals.h>
+#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
 
 #include <QFileInfo>
@@ -51,7 +51,8 @@ public:
 
     SoRef<SoSeparator> build()
     {
-        // Children stand behind their parents, so from behind every child is ready before its parent needs it.
+        // Children stand behind their parents, so from behind every child is ready before its parent needs
+        // it.
         std::vector<SoRef<SoSeparator>> nodes(m_model.nodes.size());
         for (std::size_t i = nodes.size(); i > 0; --i)
             nodes[i - 1] = buildNode(m_model.nodes[i - 1], nodes);
@@ -142,8 +143,8 @@ private:
     // The points' own colours stand in a material of the mesh's own.
     SoMaterial* makeColored(ModelData::Mesh& mesh)
     {
-        SoMaterial* material = makeMaterial(mesh.material >= 0 ? at(m_model.materials, mesh.material)
-                                                               : ModelData::Material());
+        SoMaterial* material =
+            makeMaterial(mesh.material >= 0 ? at(m_model.materials, mesh.material) : ModelData::Material());
         material->diffuseColor.setValues(std::move(mesh.colors));
         return material;
     }
@@ -235,8 +236,8 @@ private:
         return shining(node, light);
     }
 
-    // Within a switch that leaves it out: many models carry a camera from when they were made, which shows nothing or too
-    // little of them.
+    // Within a switch that leaves it out: many models carry a camera from when they were made, which shows
+    // nothing or too little of them.
     static SoNode* makeCamera(const ModelData::Camera& camera)
     {
         SoCamera* eye = makeLens(camera);

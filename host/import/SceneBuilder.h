@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Makes nodes out of a model's plain data. A mesh or material that is used several times becomes one shared node.
+// Makes nodes out of a model's plain data. A mesh or material that is used several times becomes one shared
+// node.
 #pragma once
 
 #include "import/ModelData.h"

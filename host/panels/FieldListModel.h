@@ -13,8 +13,8 @@ class SoSensor;
 namespace scopix
 {
 
-/// The fields of one node, a row each: name, type and value. A value becomes text only when a view asks for it.
-/// Follows the fields once per turn of the sensor queue. GUI thread only.
+/// The fields of one node, a row each: name, type and value. A value becomes text only when a view asks for
+/// it. Follows the fields once per turn of the sensor queue. GUI thread only.
 class FieldListModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panels/NodeIcons.h"
 
-#include "theme/DrawnIcon.h"
 #include "panels/NodeText.h"
+#include "theme/DrawnIcon.h"
 
 #include <QHash>
 #include <QPainterPath>
@@ -93,7 +93,8 @@ void drawCheckers(QPainter& p)
 
 void drawDots(QPainter& p)
 {
-    for (const QPointF& dot : {QPointF(4, 4), QPointF(11, 3.5), QPointF(7.5, 8), QPointF(3.5, 12), QPointF(12, 12)})
+    for (const QPointF& dot :
+         {QPointF(4, 4), QPointF(11, 3.5), QPointF(7.5, 8), QPointF(3.5, 12), QPointF(12, 12)})
         p.drawEllipse(dot, 1.7, 1.7);
 }
 

@@ -75,7 +75,7 @@ struct SceneTreeModel::Item {
     SoRef<SoNode> node;
     Item* parent;
     int row;
-    bool listed = false; // its children have rows
+    bool listed = false;         // its children have rows
     bool toldExpandable = false; // what hasChildren() told last
     SbName toldName;
     std::uint32_t seenChange = 0; // the node's count when its children were looked at last
@@ -310,7 +310,7 @@ void SceneTreeModel::removeItems(Item& item, int first, int count)
     beginRemoveRows(indexOfItem(item), first, first + count - 1);
     const auto begin = item.children.begin() + first;
     std::vector<std::unique_ptr<Item>> removed(std::make_move_iterator(begin),
-                                                std::make_move_iterator(begin + count));
+                                               std::make_move_iterator(begin + count));
     item.children.erase(begin, begin + count);
     for (std::size_t i = static_cast<std::size_t>(first); i < item.children.size(); ++i)
         item.children[i]->row = static_cast<int>(i);
@@ -329,7 +329,7 @@ void SceneTreeModel::insertItems(Item& item, int first, int count)
     for (int i = first; i < first + count; ++i)
         added.push_back(std::make_unique<Item>(group->getChild(i), &item, i));
     item.children.insert(item.children.begin() + first, std::make_move_iterator(added.begin()),
-                          std::make_move_iterator(added.end()));
+                         std::make_move_iterator(added.end()));
     for (std::size_t i = static_cast<std::size_t>(first + count); i < item.children.size(); ++i)
         item.children[i]->row = static_cast<int>(i);
     endInsertRows();

@@ -15,9 +15,9 @@ class SoPath;
 namespace scopix
 {
 
-/// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when somebody asks
-/// for its rows. A node that stands in several places has a row at each. Follows the scene once per turn of the
-/// sensor queue, and keeps every node that has a row alive until then. GUI thread only.
+/// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when
+/// somebody asks for its rows. A node that stands in several places has a row at each. Follows the scene once
+/// per turn of the sensor queue, and keeps every node that has a row alive until then. GUI thread only.
 class SceneTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -34,8 +34,8 @@ public:
 
     /// Null for an invalid index.
     SoNode* nodeAt(const QModelIndex& index) const;
-    /// The first place where the node stands below the root, or an invalid index. Looks upwards from the node, so it
-    /// costs the node's depth and not the size of the scene.
+    /// The first place where the node stands below the root, or an invalid index. Looks upwards from the
+    /// node, so it costs the node's depth and not the size of the scene.
     QModelIndex indexOf(const SoNode* node) const;
     /// The row at the end of a path that starts at the root.
     QModelIndex indexOf(const SoPath& path) const;

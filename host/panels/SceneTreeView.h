@@ -23,8 +23,8 @@ public:
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
 
-    /// Selects the node's row and opens the way to it. A row of the same node that is selected already stays, whichever
-    /// of its places it is. Emits nothing.
+    /// Selects the node's row and opens the way to it. A row of the same node that is selected already stays,
+    /// whichever of its places it is. Emits nothing.
     void showNode(const SoNode* node);
     /// As if the person had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/HostPluginsManager.h"
 
-#include "support/CatchExceptions.h"
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
+#include "support/CatchExceptions.h"
 
 #include <scopix/SpxPlugin.h>
 
@@ -240,7 +240,8 @@ void HostPluginsManager::applyProfile()
 
 void HostPluginsManager::deactivateAll()
 {
-    std::for_each(m_extensions.rbegin(), m_extensions.rend(), [](ManagedExtension& each) { each.deactivate(); });
+    std::for_each(m_extensions.rbegin(), m_extensions.rend(),
+                  [](ManagedExtension& each) { each.deactivate(); });
 }
 
 std::vector<ProfileChoice> HostPluginsManager::choices() const

@@ -17,9 +17,9 @@ namespace scopix
 class HostServices;
 class HostShell;
 
-/// Plug-ins, their extensions and the profiles that say which of them are active. Plug-ins are unloaded in the
-/// reverse order of their loading, when nothing of theirs is left: no active extension, no edit, no deferred
-/// deletion. GUI thread only.
+/// Plug-ins, their extensions and the profiles that say which of them are active. Plug-ins are unloaded in
+/// the reverse order of their loading, when nothing of theirs is left: no active extension, no edit, no
+/// deferred deletion. GUI thread only.
 class HostPluginsManager : public QObject, public SpxPluginsManager
 {
     Q_OBJECT

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/ManagedExtension.h"
 
-#include "support/CatchExceptions.h"
 #include "shell/HostShell.h"
+#include "support/CatchExceptions.h"
 
 #include <scopix/SpxEditor.h>
 
 namespace scopix
 {
 
-ManagedExtension::ManagedExtension(SpxExtension* extension, const QString& plugin, HostShell& shell, Report report)
+ManagedExtension::ManagedExtension(SpxExtension* extension, const QString& plugin, HostShell& shell,
+                                   Report report)
     : m_extension(extension)
     , m_name(plugin + QLatin1Char('/') + QString::fromUtf8(extension->getName().getString()))
     , m_shell(&shell)

@@ -19,8 +19,8 @@ namespace scopix
 
 class HostPluginsManager;
 
-/// Manages the profiles: makes one from the active one, renames, deletes, and chooses the extensions that each
-/// controls. Nothing changes before OK. GUI thread only.
+/// Manages the profiles: makes one from the active one, renames, deletes, and chooses the extensions that
+/// each controls. Nothing changes before OK. GUI thread only.
 class ProfilesDialog : public QDialog
 {
     Q_OBJECT

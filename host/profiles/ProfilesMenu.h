@@ -13,8 +13,8 @@ namespace scopix
 class HostPluginsManager;
 class ProfilesDialog;
 
-/// Fills a menu with the profiles, the active one marked, and with the way to the dialog that manages them, so
-/// that a profile whose extensions offer no way out is no trap. GUI thread only.
+/// Fills a menu with the profiles, the active one marked, and with the way to the dialog that manages them,
+/// so that a profile whose extensions offer no way out is no trap. GUI thread only.
 class ProfilesMenu : public QObject
 {
     Q_OBJECT

@@ -24,8 +24,8 @@ namespace
 
 // The exponent of a highlight that counts as fully sharp.
 constexpr float SharpestExponent = 128;
-// How much of a metal's colour is left to the light that is not mirrored: without surroundings to mirror, a true
-// metal would be black.
+// How much of a metal's colour is left to the light that is not mirrored: without surroundings to mirror, a
+// true metal would be black.
 constexpr float MetalDiffuse = 0.45F;
 // Of the diffuse colour, where a file knows of no ambient one.
 constexpr float AmbientPart = 0.6F;
@@ -42,7 +42,8 @@ SbColor toColor(const aiColor4D& c)
     return {c.r, c.g, c.b};
 }
 
-SbColor colorOf(const aiMaterial& material, const char* key, unsigned type, unsigned index, const SbColor& otherwise)
+SbColor colorOf(const aiMaterial& material, const char* key, unsigned type, unsigned index,
+                const SbColor& otherwise)
 {
     aiColor4D color;
     return material.Get(key, type, index, color) == aiReturn_SUCCESS ? toColor(color) : otherwise;
@@ -93,7 +94,8 @@ struct TextureUse {
 bool findTexture(const aiMaterial& material, TextureUse& use)
 {
     for (const aiTextureType type : {aiTextureType_BASE_COLOR, aiTextureType_DIFFUSE}) {
-        if (material.GetTexture(type, 0, &use.path, nullptr, nullptr, nullptr, nullptr, use.mode) == aiReturn_SUCCESS)
+        if (material.GetTexture(type, 0, &use.path, nullptr, nullptr, nullptr, nullptr, use.mode) ==
+            aiReturn_SUCCESS)
             return true;
     }
     return false;
@@ -102,7 +104,8 @@ bool findTexture(const aiMaterial& material, TextureUse& use)
 QImage decode(const aiTexture& texture)
 {
     if (texture.mHeight == 0) // a whole picture file
-        return QImage::fromData(reinterpret_cast<const uchar*>(texture.pcData), static_cast<int>(texture.mWidth));
+        return QImage::fromData(reinterpret_cast<const uchar*>(texture.pcData),
+                                static_cast<int>(texture.mWidth));
     const QImage pixels(reinterpret_cast<const uchar*>(texture.pcData), static_cast<int>(texture.mWidth),
                         static_cast<int>(texture.mHeight), QImage::Format_ARGB32);
     return pixels.copy();
@@ -128,7 +131,8 @@ int addPicture(const aiString& path, const aiScene& scene, const QString& folder
                                     [&](const ModelData::Picture& p) { return p.name == name; });
     if (known == model.pictures.end()) {
         const aiTexture* embedded = scene.GetEmbeddedTexture(path.C_Str());
-        const QImage image = embedded ? decode(*embedded) : readBeside(folder, QString::fromUtf8(path.C_Str()));
+        const QImage image =
+            embedded ? decode(*embedded) : readBeside(folder, QString::fromUtf8(path.C_Str()));
         model.pictures.push_back(toPicture(image));
         model.pictures.back().name = name; // one that cannot be read stays empty, and is not tried again
         return static_cast<int>(model.pictures.size()) - 1;
@@ -139,7 +143,7 @@ int addPicture(const aiString& path, const aiScene& scene, const QString& folder
 } // namespace
 
 ModelData::Material fromAssimp(const aiMaterial& material, const aiScene& scene, const QString& folder,
-                                       ModelData& model)
+                               ModelData& model)
 {
     ModelData::Material result;
     aiString name;

@@ -53,12 +53,10 @@ ModelData::Mesh toMesh(const aiMesh& mesh)
     const unsigned count = mesh.mNumVertices;
     result.points = converted<SbVec3f>(mesh.mVertices, count, toVec);
     result.normals = converted<SbVec3f>(mesh.mNormals, count, toVec);
-    result.textureCoordinates = converted<SbVec2f>(mesh.mTextureCoords[0], count, [](const aiVector3D& v) {
-        return SbVec2f(v.x, v.y);
-    });
-    result.colors = converted<SbVec3f>(mesh.mColors[0], count, [](const aiColor4D& c) {
-        return SbVec3f(c.r, c.g, c.b);
-    });
+    result.textureCoordinates = converted<SbVec2f>(mesh.mTextureCoords[0], count,
+                                                   [](const aiVector3D& v) { return SbVec2f(v.x, v.y); });
+    result.colors =
+        converted<SbVec3f>(mesh.mColors[0], count, [](const aiColor4D& c) { return SbVec3f(c.r, c.g, c.b); });
     result.index.reserve(3 * std::size_t{mesh.mNumFaces});
     for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
         const aiFace& face = mesh.mFaces[i];
@@ -77,12 +75,21 @@ bool isFinite(const SbVec3f& v)
 bool findKind(aiLightSourceType type, ModelData::LightKind& kind)
 {
     switch (type) {
-    case aiLightSource_AMBIENT: kind = ModelData::LightKind::Ambient; return true;
-    case aiLightSource_DIRECTIONAL: kind = ModelData::LightKind::Directional; return true;
+    case aiLightSource_AMBIENT:
+        kind = ModelData::LightKind::Ambient;
+        return true;
+    case aiLightSource_DIRECTIONAL:
+        kind = ModelData::LightKind::Directional;
+        return true;
     case aiLightSource_AREA: // seen from afar, where most of a scene is
-    case aiLightSource_POINT: kind = ModelData::LightKind::Point; return true;
-    case aiLightSource_SPOT: kind = ModelData::LightKind::Spot; return true;
-    default: return false;
+    case aiLightSource_POINT:
+        kind = ModelData::LightKind::Point;
+        return true;
+    case aiLightSource_SPOT:
+        kind = ModelData::LightKind::Spot;
+        return true;
+    default:
+        return false;
     }
 }
 
@@ -126,8 +133,8 @@ ModelData::Light toLight(const aiLight& light, ModelData::LightKind kind)
     return result;
 }
 
-// The importer of these multiplies the angle of the height by the aspect, which is no angle of the width, and gives
-// the camera its node's place for a second time.
+// The importer of these multiplies the angle of the height by the aspect, which is no angle of the width, and
+// gives the camera its node's place for a second time.
 bool isGltf(const aiScene& scene)
 {
     aiString format;
@@ -163,7 +170,8 @@ public:
 
     void collect()
     {
-        // A list of what is still to do instead of a recursion, since files may be nested deeper than the stack is.
+        // A list of what is still to do instead of a recursion, since files may be nested deeper than the
+        // stack is.
         std::vector<std::pair<const aiNode*, int>> pending{{m_scene.mRootNode, -1}};
         while (!pending.empty()) {
             const auto [node, parent] = pending.back();

@@ -30,9 +30,9 @@ QString checkBinaryGltf(const QString& path)
         return cannotOpen(path, tr("it is no binary glTF file, which starts with the four letters “glTF”"));
     const auto promised = head.size() == 12 ? qFromLittleEndian<quint32>(head.constData() + 8) : 12;
     if (file.size() < promised)
-        return cannotOpen(path, tr("it ends after %1 of the %2 bytes that its header announces")
-                                    .arg(file.size())
-                                    .arg(promised));
+        return cannotOpen(
+            path,
+            tr("it ends after %1 of the %2 bytes that its header announces").arg(file.size()).arg(promised));
     return {};
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One sentence when a file of this format is not whole, as far as its header tells; else empty. The importer does not
-// notice by itself: cut files keep it busy for ever.
+// One sentence when a file of this format is not whole, as far as its header tells; else empty. The importer
+// does not notice by itself: cut files keep it busy for ever.
 #pragma once
 
 class QString;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Keeps what a model may take of the machine's memory in proportion to its file: a bad one may ask for anything.
+// Keeps what a model may take of the machine's memory in proportion to its file: a bad one may ask for
+// anything.
 #pragma once
 
 class QString;
@@ -7,8 +8,9 @@ class QString;
 namespace scopix
 {
 
-/// From here on this process can have some gigabytes more than it has, and many times the bytes of the file at `path`
-/// and of those beside it, in which its buffers may be; no more than the machine has. Memory refused is std::bad_alloc.
+/// From here on this process can have some gigabytes more than it has, and many times the bytes of the file
+/// at `path` and of those beside it, in which its buffers may be; no more than the machine has. Memory
+/// refused is std::bad_alloc.
 void limitMemoryFor(const QString& path);
 
 } // namespace scopix

@@ -4,8 +4,8 @@
 #include "import/FileChecks.h"
 #include "import/ModelFormats.h"
 #include "reader/AssimpModel.h"
-#include "reader/ScopedCLocale.h"
 #include "reader/FormatChecks.h"
+#include "reader/ScopedCLocale.h"
 
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
@@ -31,8 +31,9 @@ QString tr(const char* text)
     return QCoreApplication::translate("ModelReader", text);
 }
 
-constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices | aiProcess_GenSmoothNormals |
-                           aiProcess_SortByPType | aiProcess_ValidateDataStructure | aiProcess_FindInvalidData |
+constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices |
+                           aiProcess_GenSmoothNormals | aiProcess_SortByPType |
+                           aiProcess_ValidateDataStructure | aiProcess_FindInvalidData |
                            aiProcess_TransformUVCoords;
 
 class Progress : public Assimp::ProgressHandler
@@ -61,7 +62,8 @@ QString reasonOf(const Assimp::Importer& importer)
         return tr("it asks for more memory than a file of its size can need");
     while (text.endsWith(QLatin1Char('.')))
         text.chop(1);
-    return text.isEmpty() ? tr("it holds no model that can be read") : tr("it is not a whole model (%1)").arg(text);
+    return text.isEmpty() ? tr("it holds no model that can be read")
+                          : tr("it is not a whole model (%1)").arg(text);
 }
 
 ModelReadResult failed(const QString& sentence)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reads a model file into plain data. Needs no event loop and touches no node. The importer underneath may crash, hang
-// or end the process on a bad file: let a process of its own read (see ModelImport).
+// Reads a model file into plain data. Needs no event loop and touches no node. The importer underneath may
+// crash, hang or end the process on a bad file: let a process of its own read (see ModelImport).
 #pragma once
 
 #include "import/ModelReadResult.h"

@@ -37,9 +37,10 @@ struct Header {
 
 int sizeOfType(const QByteArray& type)
 {
-    static const QHash<QByteArray, int> sizes{
-        {"char", 1},  {"uchar", 1},  {"int8", 1},   {"uint8", 1}, {"short", 2},   {"ushort", 2},  {"int16", 2}, {"uint16", 2},
-        {"int", 4},   {"uint", 4},   {"int32", 4},  {"uint32", 4}, {"float", 4}, {"float32", 4}, {"double", 8}, {"float64", 8}};
+    static const QHash<QByteArray, int> sizes{{"char", 1},  {"uchar", 1},   {"int8", 1},   {"uint8", 1},
+                                              {"short", 2}, {"ushort", 2},  {"int16", 2},  {"uint16", 2},
+                                              {"int", 4},   {"uint", 4},    {"int32", 4},  {"uint32", 4},
+                                              {"float", 4}, {"float32", 4}, {"double", 8}, {"float64", 8}};
     return sizes.value(type, 0);
 }
 
@@ -61,7 +62,8 @@ Header readHeader(QFile& file)
             bool isNumber = false;
             count = words.value(2).toLongLong(&isNumber);
             if (!isNumber || count < 0 || count > std::numeric_limits<int>::max()) {
-                header.reason = tr("its line “%1” should end in a count").arg(QString::fromLatin1(words.join(' ')));
+                header.reason =
+                    tr("its line “%1” should end in a count").arg(QString::fromLatin1(words.join(' ')));
                 return header;
             }
             header.entries += count;

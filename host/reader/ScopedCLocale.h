@@ -6,8 +6,8 @@
 namespace scopix
 {
 
-/// While it lives, the calling thread works in the C locale, numbers with a decimal point, whatever the user's: the
-/// model formats want that, and the importer's number routines follow the locale.
+/// While it lives, the calling thread works in the C locale, numbers with a decimal point, whatever the
+/// user's: the model formats want that, and the importer's number routines follow the locale.
 class ScopedCLocale
 {
 public:

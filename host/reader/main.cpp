@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The program that reads a model for the host, in a process of its own: scopix-read-model MODEL RESULT. Prints how far
-// it is, one line for each percent, and writes the model, or why there is none, to the file RESULT.
+// The program that reads a model for the host, in a process of its own: scopix-read-model MODEL RESULT.
+// Prints how far it is, one line for each percent, and writes the model, or why there is none, to the file
+// RESULT.
 #include "import/ModelFile.h"
 #include "reader/MemoryLimit.h"
 #include "reader/ModelReader.h"
@@ -26,7 +27,8 @@ void limit(int resource, rlim_t most)
     setrlimit(resource, &soft);
 }
 
-// A bad file may ask for anything. What it cannot have is an error that the reader survives or dies of, alone.
+// A bad file may ask for anything. What it cannot have is an error that the reader survives or dies of,
+// alone.
 void limitItself(const QString& path)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody waits for the model any more
@@ -56,6 +58,7 @@ int main(int argc, char** argv)
         told = percent;
     });
     QFile result(arguments[2]);
-    const bool written = result.open(QIODevice::WriteOnly) && scopix::writeModelFile(model, result) && result.flush();
+    const bool written =
+        result.open(QIODevice::WriteOnly) && scopix::writeModelFile(model, result) && result.flush();
     std::_Exit(written ? 0 : 1); // all memory goes at once
 }

@@ -2,8 +2,8 @@
 #include "services/HostServices.h"
 
 #include <scopix/SpxCommand.h>
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 
 #include <algorithm>
 

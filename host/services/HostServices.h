@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "undo/GestureTracker.h"
 #include "services/Selection.h"
+#include "undo/GestureTracker.h"
 #include "undo/UndoHistory.h"
 
 #include <scopix/SpxServices.h>

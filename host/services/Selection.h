@@ -34,8 +34,8 @@ public:
     SoFieldContainer* node() const { return m_node; }
     SoField* field() const { return m_field; }
 
-    /// What was selected until the change that is being told right now: edits that are applied while it is let
-    /// go belong to it. The present selection between changes.
+    /// What was selected until the change that is being told right now: edits that are applied while it is
+    /// let go belong to it. The present selection between changes.
     SoFieldContainer* lastNode() const { return m_telling ? m_formerNode : m_node; }
     SoField* lastField() const { return m_telling ? m_formerField : m_field; }
 

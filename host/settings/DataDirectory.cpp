@@ -29,7 +29,8 @@ QString copyMissing(const QDir& home)
         if (!home.mkpath(QFileInfo(target).path()) || !QFile::copy(source, target))
             return target;
         // A copy of a resource is read-only.
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+        QFile::setPermissions(target,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
     return {};
 }
@@ -40,13 +41,14 @@ QString DataDirectory::ensure()
 {
     if (qEnvironmentVariableIsSet(Variable))
         return {};
-    const QDir home(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                    + QStringLiteral("/scopix"));
+    const QDir home(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                    QStringLiteral("/scopix"));
     qputenv(Variable, QFile::encodeName(home.path()));
     const QString failed = copyMissing(home);
     if (failed.isEmpty())
         return {};
-    return QCoreApplication::translate("DataDirectory", "Cannot write \"%1\", a file that the extensions start with.")
+    return QCoreApplication::translate("DataDirectory",
+                                       "Cannot write \"%1\", a file that the extensions start with.")
         .arg(failed);
 }
 

@@ -8,7 +8,8 @@ namespace scopix
 
 QString UserSettings::path(const QString& name)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/scopix/") + name;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/scopix/") + name;
 }
 
 QString UserSettings::windowFile()

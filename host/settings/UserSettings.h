@@ -10,8 +10,8 @@ namespace scopix
 namespace UserSettings
 {
 
-/// The path of a file or folder of this name in the user's configuration. Asked anew each time, since the environment
-/// says where that is.
+/// The path of a file or folder of this name in the user's configuration. Asked anew each time, since the
+/// environment says where that is.
 QString path(const QString& name);
 /// The file with what the window remembers: places, colours, recent files.
 QString windowFile();

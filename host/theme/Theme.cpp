@@ -24,9 +24,9 @@ struct PaletteColors {
 };
 
 constexpr PaletteColors DarkColors{0xff2b2e33, 0xff212327, 0xff363a40, 0xffdfe3e8, 0xff878e97,
-                          0xff3d7ec9, 0xff464b52, 0xff3a3e45, 0xff1a1c1f};
+                                   0xff3d7ec9, 0xff464b52, 0xff3a3e45, 0xff1a1c1f};
 constexpr PaletteColors LightColors{0xfff1f3f5, 0xffffffff, 0xfff8f9fa, 0xff1d2126, 0xff7b838c,
-                           0xff2f74c0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
+                                    0xff2f74c0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
 
 QPalette paletteOf(const PaletteColors& t)
 {

@@ -66,8 +66,8 @@ void UndoHistory::record(std::unique_ptr<SpxCommand> command, const CommandConte
 
 bool UndoHistory::goesOn(const CommandContext& context) const
 {
-    return m_openStep && context.gesture != 0 && m_openStep->gesture() == context.gesture && m_stack.count() > 0 &&
-           stepAt(m_stack.count() - 1) == m_openStep && !m_stack.isClean();
+    return m_openStep && context.gesture != 0 && m_openStep->gesture() == context.gesture &&
+           m_stack.count() > 0 && stepAt(m_stack.count() - 1) == m_openStep && !m_stack.isClean();
 }
 
 void UndoHistory::forget(const SoFieldContainer* container)
@@ -102,8 +102,8 @@ bool UndoHistory::dropSteps(const SoFieldContainer* container)
     return any;
 }
 
-// Where the saved state is reached once the dropped steps are gone: -1, nowhere, where one of them lies between it and
-// the present state, since that edit can be neither undone nor done again.
+// Where the saved state is reached once the dropped steps are gone: -1, nowhere, where one of them lies
+// between it and the present state, since that edit can be neither undone nor done again.
 int UndoHistory::cleanIndexAfterSweep() const
 {
     const int clean = m_stack.cleanIndex();

@@ -38,8 +38,8 @@ public:
 
     QUndoStack& stack() { return m_stack; }
 
-    /// Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a step
-    /// is being undone or redone right now.
+    /// Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a
+    /// step is being undone or redone right now.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
     /// Drops the steps that touch the container, and those of which it is not known what they touch.
     void forget(const SoFieldContainer* container);

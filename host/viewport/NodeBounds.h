@@ -9,8 +9,8 @@ class SoNode;
 namespace scopix
 {
 
-/// Around everything that can be seen of the node, wherever below the root it stands, in the root's coordinates. Empty
-/// where there is nothing of it to see.
+/// Around everything that can be seen of the node, wherever below the root it stands, in the root's
+/// coordinates. Empty where there is nothing of it to see.
 SbBox3f findPartBox(SoNode* root, SoNode* part);
 
 } // namespace scopix

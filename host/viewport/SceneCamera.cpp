@@ -3,9 +3,9 @@
 
 #include "viewport/TargetedTraversal.h"
 
-#include <xsg/values/SbRotation.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/values/SbRotation.h>
 
 #include <algorithm>
 #include <cmath>

@@ -152,7 +152,8 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
 {
     m_camera.fitDepth();
     const auto toColor = [](const QColor& c) {
-        return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()), static_cast<float>(c.blueF()));
+        return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()),
+                       static_cast<float>(c.blueF()));
     };
     renderer.setBackground(toColor(groundColor(palette())));
     renderer.setWireframe(m_wireframe);

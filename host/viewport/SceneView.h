@@ -20,11 +20,11 @@ namespace scopix
 class ViewSurface;
 struct ViewContent;
 
-/// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause only
-/// while something in the scene turns as time goes by. Left button turns, middle button (or Shift and the left
-/// one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double click or F
-/// shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with Shift they
-/// move, plus and minus come nearer and go away. GUI thread only.
+/// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause
+/// only while something in the scene turns as time goes by. Left button turns, middle button (or Shift and
+/// the left one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double
+/// click or F shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with
+/// Shift they move, plus and minus come nearer and go away. GUI thread only.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -52,7 +52,8 @@ public:
     /// Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
 
-    /// The view's own, never part of the scene. Going home and a change of the scene may put another in its place.
+    /// The view's own, never part of the scene. Going home and a change of the scene may put another in its
+    /// place.
     SoCamera& getCamera() { return m_camera.get(); }
     /// What is at this place of the widget.
     std::optional<SoPickedPoint> pick(const QPoint& place);

@@ -9,8 +9,8 @@ class QWidget;
 namespace scopix
 {
 
-/// Lets the window come to rest first: layout, selection and live values. One sentence where the picture cannot be
-/// written, which leaves no file behind; else empty.
+/// Lets the window come to rest first: layout, selection and live values. One sentence where the picture
+/// cannot be written, which leaves no file behind; else empty.
 QString saveScreenshot(QWidget& window, const QString& path);
 
 } // namespace scopix

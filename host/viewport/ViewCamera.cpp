@@ -5,9 +5,9 @@
 #include "viewport/SceneCamera.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
-#include <xsg/values/SbRotation.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/render/Frustum.h>
+#include <xsg/values/SbRotation.h>
 
 namespace scopix
 {
@@ -105,8 +105,8 @@ void ViewCamera::lookAround()
     m_look = Look::Around;
 }
 
-// Files seldom tell what their camera looks at. Where the point they name is outside of the scene, the view turns
-// around the point of the line of sight that is the nearest to the scene's middle.
+// Files seldom tell what their camera looks at. Where the point they name is outside of the scene, the view
+// turns around the point of the line of sight that is the nearest to the scene's middle.
 void ViewCamera::findPivot()
 {
     const SbBox3f box = boxOf(m_root.get());

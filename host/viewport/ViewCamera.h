@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbBox.h>
 #include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/values/SbBox.h>
 
 namespace scopix
 {
 
-/// From where a 3D view looks at its scene. The camera is the view's own and never part of the scene, so looking around
-/// edits nothing. A scene that brings a camera along is seen through it, and followed when it is edited, until the person
-/// looks around; home leads back to it. GUI thread only.
+/// From where a 3D view looks at its scene. The camera is the view's own and never part of the scene, so
+/// looking around edits nothing. A scene that brings a camera along is seen through it, and followed when it
+/// is edited, until the person looks around; home leads back to it. GUI thread only.
 class ViewCamera
 {
 public:
@@ -27,22 +27,23 @@ public:
     void setAspect(float aspect);
     float getAspect() const { return m_aspect; }
 
-    /// Through the scene's own camera or, where it has none or one that sees nothing of the scene, at everything a little
-    /// from the side and from above.
+    /// Through the scene's own camera or, where it has none or one that sees nothing of the scene, at
+    /// everything a little from the side and from above.
     void goHome();
     /// From where it looks now.
     void viewAll();
     /// All of the node, or everything where it has nothing to see.
     void viewNode(SoNode* node);
 
-    /// Both carry what is seen along, by parts of the picture's height; turning, the whole height is half a turn.
+    /// Both carry what is seen along, by parts of the picture's height; turning, the whole height is half a
+    /// turn.
     void turn(float right, float up);
     void pan(float right, float up);
     /// Below 1 comes nearer to this place of the picture, above 1 goes away; (0, 0) is its lower left corner.
     void zoom(float factor, float x = 0.5F, float y = 0.5F);
 
-    /// Goes along with the scene's camera where it is seen through that. To be called when the scene has changed. False
-    /// where the scene has none, or is not seen through it.
+    /// Goes along with the scene's camera where it is seen through that. To be called when the scene has
+    /// changed. False where the scene has none, or is not seen through it.
     bool follow();
     /// Sees all of the scene's depth, or what the scene's camera sees. To be called before a picture.
     void fitDepth();

@@ -62,8 +62,8 @@ protected:
     void initializeGL() override
     {
         // Comes again with a new context when the widget moves to another window.
-        m_contextGoes
-            = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { releaseGl(); });
+        m_contextGoes =
+            connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { releaseGl(); });
     }
     void paintGL() override
     {
@@ -121,7 +121,8 @@ protected:
         QPainter painter(this);
         if (m_picture.isNull()) {
             painter.fillRect(rect(), palette().window());
-            painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, QString::fromStdString(m_renderer.getErrorText()));
+            painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                             QString::fromStdString(m_renderer.getErrorText()));
         } else {
             painter.drawImage(rect(), m_picture);
         }

@@ -19,7 +19,8 @@ struct ViewContent {
     const SoCamera* camera = nullptr;
 };
 
-/// What a 3D view draws on: OpenGL in the window where the platform has it, else pictures drawn off the screen.
+/// What a 3D view draws on: OpenGL in the window where the platform has it, else pictures drawn off the
+/// screen.
 class ViewSurface
 {
 public:

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "window/DefaultScene.h"
 
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/shapes/SoCone.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoCylinder.h>
-#include <xsg/nodes/lights/SoDirectionalLight.h>
-#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
@@ -75,12 +75,15 @@ SoRef<SoSeparator> makeDefaultScene()
     auto* complexity = new SoComplexity;
     complexity->value.setValue(0.8F);
     scene->addChild(complexity);
-    addPart(*scene, "Plate", placed({0, -1.1F, 0}), material("Slate", {0.42F, 0.46F, 0.52F}, 0.1F), disc(4.2F, 0.2F));
+    addPart(*scene, "Plate", placed({0, -1.1F, 0}), material("Slate", {0.42F, 0.46F, 0.52F}, 0.1F),
+            disc(4.2F, 0.2F));
     addPart(*scene, "Cube", placed({-2, 0, 0.6F}, SbRotation({0, 1, 0}, 0.6F)),
             material("Copper", {0.85F, 0.45F, 0.2F}, 0.5F), new SoCube);
     addPart(*scene, "Cone", placed({2, 0, 0.4F}), material("Leaf", {0.25F, 0.62F, 0.32F}, 0.3F), new SoCone);
-    addPart(*scene, "Pillar", placed({0.1F, 0.1F, -2}), material("Sand", {0.86F, 0.76F, 0.5F}, 0.2F), disc(0.8F, 2.2F));
-    addPart(*scene, "Bubble", placed({0, 0.1F, 1}), material("Glass", {0.3F, 0.6F, 0.95F}, 0.9F, 0.45F), new SoSphere);
+    addPart(*scene, "Pillar", placed({0.1F, 0.1F, -2}), material("Sand", {0.86F, 0.76F, 0.5F}, 0.2F),
+            disc(0.8F, 2.2F));
+    addPart(*scene, "Bubble", placed({0, 0.1F, 1}), material("Glass", {0.3F, 0.6F, 0.95F}, 0.9F, 0.45F),
+            new SoSphere);
     // Known by name only: a build of the scene library without it still opens.
     if (SoTypedObject* gallery = SoType::fromName("FieldGallery").createInstance()) {
         auto* node = static_cast<SoNode*>(gallery);

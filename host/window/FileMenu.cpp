@@ -35,7 +35,8 @@ void FileMenu::fillRecent()
         QString name = QDir::toNativeSeparators(path);
         name.replace(QLatin1Char('&'), QStringLiteral("&&"));
         const QString digit = ++number < 10 ? QStringLiteral("&%1  ").arg(number) : QString();
-        QAction* action = m_recent->addAction(digit + name, &m_files, [this, path] { m_files.openRecent(path); });
+        QAction* action =
+            m_recent->addAction(digit + name, &m_files, [this, path] { m_files.openRecent(path); });
         action->setData(path);
     }
     if (number == 0) {

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "window/MainWindow.h"
 
-#include "services/HostServices.h"
-#include "support/UserNotifier.h"
-#include "settings/UserSettings.h"
-#include "theme/ActionIcons.h"
-#include "window/DefaultScene.h"
 #include "panels/FieldListView.h"
-#include "window/FileMenu.h"
 #include "panels/NodeText.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
+#include "settings/UserSettings.h"
+#include "support/UserNotifier.h"
+#include "theme/ActionIcons.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
+#include "window/DefaultScene.h"
+#include "window/FileMenu.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -50,7 +50,7 @@ Theme wantedTheme()
 {
     const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
     return themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
-                                                           : fromEnvironment);
+                                                   : fromEnvironment);
 }
 
 // To the first node, from the top, that has this name, or else this type.
@@ -93,9 +93,8 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
     connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
-    connect(&m_notifier, &UserNotifier::told, this, [this](const QString& text) {
-        statusBar()->showMessage(text, MessageMs);
-    });
+    connect(&m_notifier, &UserNotifier::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     statusBar()->show();
     resize(sizeHint());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -111,7 +110,8 @@ MainWindow::~MainWindow()
     m_files.getDocument().disconnect(this);
 }
 
-QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area)
+QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name,
+                                 Qt::DockWidgetArea area)
 {
     auto* dock = new QDockWidget(title, this);
     dock->setObjectName(name);
@@ -161,9 +161,10 @@ void MainWindow::makeEditMenu()
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    m_viewAllAction = menu->addAction(viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_viewSelectedAction = menu->addAction(viewSelectedIcon(), tr("View &Selected"), this, &MainWindow::viewSelected,
-                                           QKeySequence(Qt::CTRL + Qt::Key_F));
+    m_viewAllAction = menu->addAction(viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll,
+                                      QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewSelectedAction = menu->addAction(viewSelectedIcon(), tr("View &Selected"), this,
+                                           &MainWindow::viewSelected, QKeySequence(Qt::CTRL + Qt::Key_F));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
     menu->addSeparator();
@@ -187,9 +188,8 @@ void MainWindow::makeViewMenu()
 void MainWindow::makeThemeMenu(QMenu& menu)
 {
     auto* group = new QActionGroup(&menu);
-    const std::pair<Theme, QString> entries[] = {{Theme::System, tr("As the &System")},
-                                                         {Theme::Dark, tr("&Dark")},
-                                                         {Theme::Light, tr("&Light")}};
+    const std::pair<Theme, QString> entries[] = {
+        {Theme::System, tr("As the &System")}, {Theme::Dark, tr("&Dark")}, {Theme::Light, tr("&Light")}};
     for (const auto& [theme, text] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
         action->setCheckable(true);
@@ -218,10 +218,11 @@ void MainWindow::makeHelpMenu()
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(this, tr("About Scopix"),
-                       tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
-                          "undo everything and see what it costs.")
-                           .arg(QApplication::applicationVersion()));
+    QMessageBox::about(
+        this, tr("About Scopix"),
+        tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
+           "undo everything and see what it costs.")
+            .arg(QApplication::applicationVersion()));
 }
 
 void MainWindow::makeToolBar()
@@ -241,10 +242,10 @@ void MainWindow::makeToolBar()
 
 void MainWindow::connectSelection()
 {
-    connect(m_tree, &SceneTreeView::nodeSelected, this, [this](SoNode* node) {
-        m_services.select(static_cast<SoFieldContainer*>(node));
-    });
-    connect(m_fields, &FieldListView::fieldSelected, this, [this](SoField* field) { m_services.select(field); });
+    connect(m_tree, &SceneTreeView::nodeSelected, this,
+            [this](SoNode* node) { m_services.select(static_cast<SoFieldContainer*>(node)); });
+    connect(m_fields, &FieldListView::fieldSelected, this,
+            [this](SoField* field) { m_services.select(field); });
     connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
     connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
     connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);

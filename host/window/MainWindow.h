@@ -18,8 +18,8 @@ class UserNotifier;
 class SceneTreeView;
 class SceneView;
 
-/// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the extensions
-/// around it. Opens scenes and models. GUI thread only.
+/// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
+/// extensions around it. Opens scenes and models. GUI thread only.
 class MainWindow : public HostWindow
 {
     Q_OBJECT
@@ -61,7 +61,8 @@ private:
     void makeHelpMenu();
     void makeToolBar();
     void connectSelection();
-    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name, Qt::DockWidgetArea area);
+    QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
+                         Qt::DockWidgetArea area);
 
     void showScene(SoNode* root);
     void showTitle();

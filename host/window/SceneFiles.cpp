@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "window/SceneFiles.h"
 
-#include "services/HostServices.h"
-#include "support/UserNotifier.h"
-#include "undo/TextInput.h"
-#include "settings/UserSettings.h"
 #include "import/FileChecks.h"
 #include "import/ModelImport.h"
+#include "services/HostServices.h"
+#include "settings/UserSettings.h"
+#include "support/UserNotifier.h"
+#include "undo/TextInput.h"
 #include "window/DefaultScene.h"
 
 #include <xsg/files/SoSceneFile.h>
@@ -82,9 +82,8 @@ void SceneFiles::importModel(const QString& path)
 {
     auto* import = new ModelImport(&m_window, this);
     m_import = import;
-    connect(import, &ModelImport::finished, this, [this, path](const SoRef<SoSeparator>& scene) {
-        modelRead(scene.get(), path);
-    });
+    connect(import, &ModelImport::finished, this,
+            [this, path](const SoRef<SoSeparator>& scene) { modelRead(scene.get(), path); });
     connect(import, &ModelImport::failed, this, &SceneFiles::reportFailure);
     connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
     import->start(path);
@@ -146,8 +145,8 @@ void SceneFiles::askForFile()
 {
     if (!confirmDiscard())
         return;
-    const QString path =
-        QFileDialog::getOpenFileName(&m_window, tr("Open"), QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open"),
+                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
     if (!path.isEmpty())
         open(path);
 }
@@ -157,7 +156,8 @@ void SceneFiles::openRecent(const QString& path)
     if (QFileInfo::exists(path))
         return openAnother(path);
     m_recent.remove(path);
-    m_notifier.error(tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
+    m_notifier.error(
+        tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
 }
 
 bool SceneFiles::save()

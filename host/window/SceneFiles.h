@@ -15,8 +15,8 @@ class HostServices;
 class UserNotifier;
 class ModelImport;
 
-/// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are dropped,
-/// and gets back those of a session that crashed. Questions open over the window. GUI thread only.
+/// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are
+/// dropped, and gets back those of a session that crashed. Questions open over the window. GUI thread only.
 class SceneFiles : public QObject
 {
     Q_OBJECT
@@ -31,13 +31,14 @@ public:
     RecentFiles& getRecent() { return m_recent; }
     Autosave& getAutosave() { return m_autosave; }
 
-    /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once, also before
-    /// this returns. What was open stays when it fails. Problems are told.
+    /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once,
+    /// also before this returns. What was open stays when it fails. Problems are told.
     void open(const QString& path);
     /// False when it cannot be written, which is told.
     bool saveTo(const QString& path);
 
-    /// The person works with this window from now on: offers what a crashed session left, and keeps unsaved edits safe.
+    /// The person works with this window from now on: offers what a crashed session left, and keeps unsaved
+    /// edits safe.
     void enterInteractiveMode();
 
     /// What the menu offers. All but save() first ask about unsaved edits.

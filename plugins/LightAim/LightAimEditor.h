@@ -2,8 +2,8 @@
 #pragma once
 
 #include <scopix/SpxEditor.h>
-#include <xsg/values/SbVec.h>
 #include <xsg/sensors/SoFieldSensor.h>
+#include <xsg/values/SbVec.h>
 
 #include <memory>
 
@@ -11,8 +11,8 @@ class QSlider;
 class QWidget;
 class SoDirectionalLight;
 
-/// Two sliders, in degrees, that say where a directional light comes from. The node editor shows it for every selected
-/// light.
+/// Two sliders, in degrees, that say where a directional light comes from. The node editor shows it for every
+/// selected light.
 class LightAimEditor : public SpxEditor
 {
     Q_OBJECT

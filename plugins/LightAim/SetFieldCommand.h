@@ -2,8 +2,8 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 
 /// Writes a text into a field, undoably. Keeps the field's node alive for as long as it can be undone.
 class SetFieldCommand : public SpxCommand

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ConsoleText.h"
 
+#include "AutoScroller.h"
 #include "ConsoleLineSplitter.h"
 #include "ConsoleTextLayout.h"
-#include "AutoScroller.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

@@ -36,6 +36,6 @@ private:
 
     QTextEdit& m_edit;
     ConsoleTextLayout* m_layout; // the document's
-    AutoScroller* m_follower;  // the scroll bar's
+    AutoScroller* m_follower;    // the scroll bar's
     int m_maxLines;
 };

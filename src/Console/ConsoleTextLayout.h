@@ -5,10 +5,10 @@
 #include <QTextBlock>
 #include <QTimer>
 
-/// Lays out a long text of plain paragraphs for a QTextEdit: a paragraph only when it is looked at, in rows of
-/// one height, so that adding and dropping paragraphs costs the same however many there are. What changed is
-/// announced to the view once per turn of the event loop. On a dark background it paints the texts in the light
-/// shades of their colours, which the document keeps as they are.
+/// Lays out a long text of plain paragraphs for a QTextEdit: a paragraph only when it is looked at, in rows
+/// of one height, so that adding and dropping paragraphs costs the same however many there are. What changed
+/// is announced to the view once per turn of the event loop. On a dark background it paints the texts in the
+/// light shades of their colours, which the document keeps as they are.
 class ConsoleTextLayout : public QAbstractTextDocumentLayout
 {
     Q_OBJECT

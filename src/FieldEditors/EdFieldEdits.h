@@ -22,8 +22,8 @@ namespace EdFieldEdits
 /// Hands a command to the host. Without a host there is nobody to keep it, and it goes.
 void record(std::unique_ptr<SpxCommand> command);
 
-/// `write` writes the field. `saved` is the text that undo restores, empty for what the field gives now; it is
-/// consumed.
+/// `write` writes the field. `saved` is the text that undo restores, empty for what the field gives now; it
+/// is consumed.
 template <class Write>
 void write(SoSField* field, SbString& saved, Write&& write)
 {

@@ -4,8 +4,8 @@
 #include "EdRangeSettings.h"
 
 #include <xsg/core/SoField.h>
-#include <xsg/nodes/properties/SoComplexity.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoComplexity.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
 EdRangeComponent rangeOfField(const SoField& field, const char* defaultField)
@@ -14,8 +14,8 @@ EdRangeComponent rangeOfField(const SoField& field, const char* defaultField)
     const auto isIn = [container](SoType type) { return container && container->isOfType(type); };
     const EdRangeSettings settings;
     // One range for the three kinds of node alike, though each has a row of its own; that is meant.
-    if (isIn(SoComplexity::getClassTypeId()) || isIn(SoMaterial::getClassTypeId())
-        || isIn(SoDirectionalLight::getClassTypeId()))
+    if (isIn(SoComplexity::getClassTypeId()) || isIn(SoMaterial::getClassTypeId()) ||
+        isIn(SoDirectionalLight::getClassTypeId()))
         return settings.getFieldRange("Complexity", "value");
     return settings.getFieldRange("DefaultNode", defaultField);
 }

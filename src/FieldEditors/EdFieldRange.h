@@ -6,6 +6,6 @@
 
 class SoField;
 
-/// By the type of the field's node; `defaultField` names the row of "DefaultNode" for all nodes without one of their
-/// own, and for a field that stands alone.
+/// By the type of the field's node; `defaultField` names the row of "DefaultNode" for all nodes without one
+/// of their own, and for a field that stands alone.
 EdRangeComponent rangeOfField(const SoField& field, const char* defaultField);

@@ -4,5 +4,6 @@
 
 class QLineEdit;
 
-/// kind 0: none; 1: -32768 to 32767; 2: every int; 3: every float, 6 decimals; 4: every double. Others change nothing.
+/// kind 0: none; 1: -32768 to 32767; 2: every int; 3: every float, 6 decimals; 4: every double. Others change
+/// nothing.
 void setGridValidator(QLineEdit& edit, int kind);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SpxFieldEditors.h"
 
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 
 #include <QFrame>
 

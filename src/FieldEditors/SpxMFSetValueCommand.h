@@ -11,8 +11,8 @@ class SoMField;
 class SpxMFSetValueCommand : public SpxCommand
 {
 public:
-    /// `previous` is the text from before the edit, which the editor saved; it is taken over and made null, so
-    /// that one command consumes it. A null or empty one stands for what the field gives now.
+    /// `previous` is the text from before the edit, which the editor saved; it is taken over and made null,
+    /// so that one command consumes it. A null or empty one stands for what the field gives now.
     SpxMFSetValueCommand(SoMField* field, int index, SbString& previous);
 
     void execute() override;

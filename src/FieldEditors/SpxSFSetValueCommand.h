@@ -11,8 +11,8 @@ class SoSField;
 class SpxSFSetValueCommand : public SpxCommand
 {
 public:
-    /// `previous` is the text from before the edit, which the editor saved; it is taken over and made null, so
-    /// that one command consumes it. A null or empty one stands for what the field gives now.
+    /// `previous` is the text from before the edit, which the editor saved; it is taken over and made null,
+    /// so that one command consumes it. A null or empty one stands for what the field gives now.
     SpxSFSetValueCommand(SoSField* field, SbString& previous);
 
     void execute() override;

@@ -6,8 +6,8 @@
 #include "EdText.h"
 #include "SoPerfCounterProfile.h"
 
-#include <xsg/support/SoPreferences.h>
 #include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/support/SoPreferences.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>

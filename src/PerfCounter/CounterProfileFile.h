@@ -23,14 +23,15 @@ QString dialogFilter();
 /// Title of the message boxes about the file.
 QString title();
 
-/// Whether the device's content can replace the document; else `problem` says why not. The document, and every
-/// one that shares its tree, changes only when this returns true.
+/// Whether the device's content can replace the document; else `problem` says why not. The document, and
+/// every one that shares its tree, changes only when this returns true.
 bool parse(QIODevice* device, QDomDocument& document, QString& problem);
 /// The same; says why not in a box over `parent`.
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
 /// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-/// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if anything.
+/// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if
+/// anything.
 bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write);
 /// Starts an empty document afresh and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);

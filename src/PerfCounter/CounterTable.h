@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the tables of counters have in common, and the rows of those in the profile manager: one per counter, sorted
-// by name.
+// What the tables of counters have in common, and the rows of those in the profile manager: one per counter,
+// sorted by name.
 #pragma once
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What is shown of texts that a file may make as long as it likes: to lay out megabytes takes seconds. The texts
-// themselves stay whole.
+// What is shown of texts that a file may make as long as it likes: to lay out megabytes takes seconds. The
+// texts themselves stay whole.
 #pragma once
 
 #include "EdText.h"

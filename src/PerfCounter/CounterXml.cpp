@@ -102,8 +102,8 @@ bool hasBrokenName(const QDomNode& node)
     return isBroken;
 }
 
-// Whether anything in it reads otherwise once it was saved. The parser may skip an entity that nothing declares in
-// one place and refuse it in another.
+// Whether anything in it reads otherwise once it was saved. The parser may skip an entity that nothing
+// declares in one place and refuse it in another.
 bool isUnstable(const QDomNode& node)
 {
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {

@@ -48,8 +48,8 @@ QColor randomCurveColor(const std::vector<QColor>& used)
     QColor color = randomColor();
     for (int tries = 0; tries < MostTries; ++tries) {
         const double wanted = WantedDistance * (MostTries - 1 - tries) / MostTries;
-        const bool isNear = std::any_of(used.begin(), used.end(),
-                                        [&](const QColor& other) { return distance(color, other) <= wanted; });
+        const bool isNear = std::any_of(
+            used.begin(), used.end(), [&](const QColor& other) { return distance(color, other) <= wanted; });
         if (contrastToWhite(color) >= LeastContrast && !isNear)
             break;
         color = randomColor();

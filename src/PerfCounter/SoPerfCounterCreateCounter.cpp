@@ -6,8 +6,8 @@
 
 #include <QMessageBox>
 
-SoPerfCounterCreateCounter::SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter,
-                                                       QWidget* parent)
+SoPerfCounterCreateCounter::SoPerfCounterCreateCounter(const QString& firstCounter,
+                                                       const QString& secondCounter, QWidget* parent)
     : QDialog(parent)
     , m_firstCounter(firstCounter)
     , m_secondCounter(secondCounter)

@@ -11,7 +11,8 @@ class SoPerfCounterCreateCounter : public QDialog, public Ui_QPerfCounterCreateC
     Q_OBJECT
 
 public:
-    SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter, QWidget* parent = nullptr);
+    SoPerfCounterCreateCounter(const QString& firstCounter, const QString& secondCounter,
+                               QWidget* parent = nullptr);
 
 signals:
     /// The counter of this name is registered by now.

@@ -52,7 +52,8 @@ double distance(const QPointF& point, const QLineF& segment)
 }
 
 // The sample of a curve that a place of the canvas means; further than `best` away none is.
-int sampleAt(const Curve& curve, const QPointF& place, const QwtScaleMap& x, const QwtScaleMap& y, double& best)
+int sampleAt(const Curve& curve, const QPointF& place, const QwtScaleMap& x, const QwtScaleMap& y,
+             double& best)
 {
     const auto pointOf = [&](int i) {
         const QPointF sample = curve.sample(i);

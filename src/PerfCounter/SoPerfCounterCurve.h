@@ -30,8 +30,8 @@ public:
     void removeCurve(int index);
     /// Curve i becomes the one whose index stands at i.
     void order(const std::vector<int>& indices);
-    /// Draws the curve from these arrays, which stay the caller's and have to live until the next call for this curve.
-    /// The newest sample comes first.
+    /// Draws the curve from these arrays, which stay the caller's and have to live until the next call for
+    /// this curve. The newest sample comes first.
     void setRawSamples(int index, const double* x, const double* y, int count);
 
     /// Name and value of the curve under a point of the canvas; empty where no curve is near.
@@ -44,7 +44,8 @@ protected:
     void drawCanvas(QPainter* painter) override;
 
 private:
-    /// Whether Qt draws lines of this pen without first making outlines of them, which takes twenty times as long.
+    /// Whether Qt draws lines of this pen without first making outlines of them, which takes twenty times as
+    /// long.
     bool isFast(const QPen& pen) const;
 
     QList<Curve*> m_curves;

@@ -102,8 +102,9 @@ void SoPerfCounterDockWin::parseViewElement()
         return;
     QString name;
     const bool told = counterProfileFile::readViewedProfile(m_document, name);
-    const auto found = std::find_if(m_profiles->begin(), m_profiles->end(),
-                                    [&](const SoPerfCounterProfile* p) { return told && p->getName() == name; });
+    const auto found =
+        std::find_if(m_profiles->begin(), m_profiles->end(),
+                     [&](const SoPerfCounterProfile* p) { return told && p->getName() == name; });
     if (found != m_profiles->end())
         selectInComboBox(int(found - m_profiles->begin()));
     else
@@ -124,7 +125,7 @@ void SoPerfCounterDockWin::setupProfileComboBox()
 SoPerfCounterProfile* SoPerfCounterDockWin::profile() const
 {
     return m_currentProfile >= 0 && m_currentProfile < m_profiles->size() ? m_profiles->at(m_currentProfile)
-                                                                         : nullptr;
+                                                                          : nullptr;
 }
 
 void SoPerfCounterDockWin::updateCurrentProfile(int index)
@@ -190,8 +191,8 @@ void SoPerfCounterDockWin::colorClicked()
 void SoPerfCounterDockWin::updateProperties()
 {
     const QList<QTableWidgetItem*> selected = m_viewer->m_legend->selectedItems();
-    const QTableWidgetItem* first
-        = selected.size() == LegendColumns ? m_viewer->m_legend->item(selected.first()->row(), 0) : nullptr;
+    const QTableWidgetItem* first =
+        selected.size() == LegendColumns ? m_viewer->m_legend->item(selected.first()->row(), 0) : nullptr;
     const SoPerfCounterPcViewed* viewed = first ? m_viewer->findViewed(first->text()) : nullptr;
     const bool isViewed = viewed && profile() && profile()->getView()->contains(viewed->getName());
     m_propertiesGroupBox->setEnabled(isViewed);
@@ -219,8 +220,8 @@ void SoPerfCounterDockWin::openProfileManager()
             &SoPerfCounterDockWin::recoveryListFromProfileManager);
     connect(manager, qOverload<>(&Manager::okProfile), m_viewer, &SoPerfCounterViewer::start);
     connect(manager, &Manager::cancelProfile, m_viewer, &SoPerfCounterViewer::start);
-    connect(this, qOverload<QList<SoPerfCounterProfile*>*, int>(&SoPerfCounterDockWin::openingProfile), manager,
-            &Manager::recoveryListFromMainWindow);
+    connect(this, qOverload<QList<SoPerfCounterProfile*>*, int>(&SoPerfCounterDockWin::openingProfile),
+            manager, &Manager::recoveryListFromMainWindow);
     connect(manager, &Manager::filepathChanged, this, &SoPerfCounterDockWin::changeFilepath);
     manager->setFilepath(m_filePath);
     manager->setFilepathTemp(m_filePath);

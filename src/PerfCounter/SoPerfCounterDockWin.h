@@ -14,8 +14,9 @@ class SoPerfCounterManager;
 class SoPerfCounterProfile;
 class SoPerfCounterProfileManager;
 
-/// The dock of the performance-counter tool: the profiles, the counters of the selected one, the viewer and the
-/// properties of the counter selected in its legend. Owns the profiles and the document of their file. GUI thread only.
+/// The dock of the performance-counter tool: the profiles, the counters of the selected one, the viewer and
+/// the properties of the counter selected in its legend. Owns the profiles and the document of their file.
+/// GUI thread only.
 class SoPerfCounterDockWin : public QDockWidget, public Ui_QPerfCounterModule
 {
     Q_OBJECT

@@ -73,7 +73,8 @@ void SoPerfCounterGraph::draw(QPainter* painter, const QwtScaleMap& xMap, const 
         const int left = qRound(xMap.transform(bar.interval.minValue() + gap));
         const int right = qRound(xMap.transform(bar.interval.maxValue() - gap));
         const int top = qRound(yMap.transform(bar.value));
-        const QColor color = std::size_t(i) < m_colors.size() ? *m_colors[std::size_t(i)] : QColor(Qt::darkGray);
+        const QColor color =
+            std::size_t(i) < m_colors.size() ? *m_colors[std::size_t(i)] : QColor(Qt::darkGray);
         drawBar(painter, Qt::Vertical, QRect(QPoint(left, top), QPoint(right, bottom)).normalized(), color);
     }
 }

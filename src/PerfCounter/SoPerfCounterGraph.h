@@ -33,7 +33,8 @@ public:
               const QRectF& canvasRect) const override;
 
 protected:
-    virtual void drawBar(QPainter* painter, Qt::Orientation orientation, const QRect& rect, QColor color) const;
+    virtual void drawBar(QPainter* painter, Qt::Orientation orientation, const QRect& rect,
+                         QColor color) const;
 
 private:
     QwtIntervalData m_data;

@@ -7,8 +7,8 @@
 
 class SoPerfCounterProfile;
 
-/// One tab of the profile manager: the counters of one profile. Its table is made when it is first seen or asked for,
-/// so that a file may hold thousands of profiles.
+/// One tab of the profile manager: the counters of one profile. Its table is made when it is first seen or
+/// asked for, so that a file may hold thousands of profiles.
 class SoPerfCounterPage : public QWidget, public Ui_QPerfCounterPage
 {
     Q_OBJECT

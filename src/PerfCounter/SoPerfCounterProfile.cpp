@@ -11,8 +11,9 @@ namespace
 void removeAll(QList<QString>& names, const QStringList& unwanted)
 {
     const QSet<QString> gone(unwanted.begin(), unwanted.end());
-    names.erase(std::remove_if(names.begin(), names.end(), [&](const QString& name) { return gone.contains(name); }),
-                names.end());
+    names.erase(
+        std::remove_if(names.begin(), names.end(), [&](const QString& name) { return gone.contains(name); }),
+        names.end());
 }
 
 } // namespace

@@ -7,7 +7,8 @@
 
 #include <memory>
 
-/// A named profile of the performance-counter tool: the counters that it offers and those that it shows in the viewer.
+/// A named profile of the performance-counter tool: the counters that it offers and those that it shows in
+/// the viewer.
 class SoPerfCounterProfile
 {
 public:

@@ -78,7 +78,8 @@ void SoPerfCounterProfileManager::setFilepath(const QString& path)
     emit filepathChanged(path);
 }
 
-void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles, int index)
+void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles,
+                                                             int index)
 {
     m_handedOver = profiles;
     for (const SoPerfCounterProfile* profile : qAsConst(*profiles)) {
@@ -140,7 +141,8 @@ void SoPerfCounterProfileManager::createCounter()
         return;
     }
     auto* dialog = new SoPerfCounterCreateCounter(names[0], names[1], this);
-    connect(dialog, &SoPerfCounterCreateCounter::createNow, this, &SoPerfCounterProfileManager::updateCounterList);
+    connect(dialog, &SoPerfCounterCreateCounter::createNow, this,
+            &SoPerfCounterProfileManager::updateCounterList);
     dialog->setWindowModality(Qt::WindowModal);
     dialog->show();
 }
@@ -153,10 +155,11 @@ void SoPerfCounterProfileManager::updateCounterList(QString name)
 
 void SoPerfCounterProfileManager::deleteCounter()
 {
-    QMessageBox question(QMessageBox::Question, windowTitle(),
-                         tr("Do you really want to delete definitively these counters ?\n\nNote that only custom "
-                            "counters will be affected."),
-                         QMessageBox::Ok | QMessageBox::Cancel, this);
+    QMessageBox question(
+        QMessageBox::Question, windowTitle(),
+        tr("Do you really want to delete definitively these counters ?\n\nNote that only custom "
+           "counters will be affected."),
+        QMessageBox::Ok | QMessageBox::Cancel, this);
     if (question.exec() != QMessageBox::Ok)
         return;
     for (const QString& name : counterTable::selectedNames(*m_listCounter)) {
@@ -179,8 +182,8 @@ SoPerfCounterProfile* SoPerfCounterProfileManager::currentProfile(const QString&
 
 void SoPerfCounterProfileManager::downArrowAction()
 {
-    SoPerfCounterProfile* profile
-        = currentProfile(tr("You have to create al least one profile before adding counters."));
+    SoPerfCounterProfile* profile =
+        currentProfile(tr("You have to create al least one profile before adding counters."));
     if (!profile)
         return;
     profile->moveToEnd(counterTable::selectedNames(*m_listCounter));
@@ -189,8 +192,8 @@ void SoPerfCounterProfileManager::downArrowAction()
 
 void SoPerfCounterProfileManager::upArrowAction()
 {
-    SoPerfCounterProfile* profile
-        = currentProfile(tr("There is no profile from which you can remove a counter."));
+    SoPerfCounterProfile* profile =
+        currentProfile(tr("There is no profile from which you can remove a counter."));
     if (!profile)
         return;
     profile->removeCounters(counterTable::selectedNames(*currentPage()->getTableProfile()));
@@ -240,8 +243,8 @@ void SoPerfCounterProfileManager::removeFromProfiles(QString name)
 
 void SoPerfCounterProfileManager::openProfile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open performance counter profile"), m_filePath,
-                                                      counterProfileFile::dialogFilter());
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open performance counter profile"),
+                                                      m_filePath, counterProfileFile::dialogFilter());
     if (path.isEmpty())
         return;
     QFile file(path);
@@ -289,8 +292,8 @@ bool SoPerfCounterProfileManager::saveTo(const QString& path)
 
 void SoPerfCounterProfileManager::saveAsProfile()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save performance counter profile"), m_filePath,
-                                                      counterProfileFile::dialogFilter());
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save performance counter profile"),
+                                                      m_filePath, counterProfileFile::dialogFilter());
     if (!path.isEmpty() && saveTo(path))
         setFilepath(path);
 }
@@ -356,8 +359,8 @@ void SoPerfCounterProfileManager::cancelAction()
 void SoPerfCounterProfileManager::closeEvent(QCloseEvent* event)
 {
     if (m_accepted && m_filePath.isEmpty()) {
-        // The flag stays, so that every later close is refused too until there is a path: edits are never lost
-        // in silence.
+        // The flag stays, so that every later close is refused too until there is a path: edits are never
+        // lost in silence.
         QMessageBox::warning(this, tr("Path invalid"),
                              tr("Please choose a new path where you want to save your modifications with the "
                                 "\"save as\" action"));

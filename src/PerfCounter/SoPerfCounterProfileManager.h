@@ -13,8 +13,9 @@ class SoPerfCounterManager;
 class SoPerfCounterPage;
 class SoPerfCounterProfile;
 
-/// The window in which profiles and custom counters are made, changed, opened and saved. It works on copies: OK hands
-/// them over, Cancel drops them and undoes what was done to the counters. Deletes itself when closed. GUI thread only.
+/// The window in which profiles and custom counters are made, changed, opened and saved. It works on copies:
+/// OK hands them over, Cancel drops them and undoes what was done to the counters. Deletes itself when
+/// closed. GUI thread only.
 class SoPerfCounterProfileManager : public QMainWindow, public Ui_QPerfCounterProfileManager
 {
     Q_OBJECT
@@ -75,8 +76,8 @@ private:
     SoPerfCounterPage* currentPage() const;
 
     SoPerfCounterManager* m_registry;
-    QList<QString> m_created; // counters made since the window was opened
-    QList<SoPerfCounterProfile*>* m_handedOver = nullptr; // the dock window's
+    QList<QString> m_created;                                 // counters made since the window was opened
+    QList<SoPerfCounterProfile*>* m_handedOver = nullptr;     // the dock window's
     std::unique_ptr<QList<SoPerfCounterProfile*>> m_profiles; // the working copies, one tab each
     QString m_filePath;
     QString m_fallbackPath;

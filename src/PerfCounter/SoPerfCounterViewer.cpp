@@ -190,8 +190,8 @@ void SoPerfCounterViewer::setupXValues()
 
 void SoPerfCounterViewer::viewTimer()
 {
-    const double elapsed
-        = m_elapsedSource.seconds ? m_elapsedSource.seconds(m_elapsedSource.data) : m_elapsed.getElapsed();
+    const double elapsed =
+        m_elapsedSource.seconds ? m_elapsedSource.seconds(m_elapsedSource.data) : m_elapsed.getElapsed();
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         sample(*viewed, elapsed);
     m_filled = std::min(m_filled + 1, m_historyLength);
@@ -282,7 +282,8 @@ void SoPerfCounterViewer::setupTextView()
         const SoPerfCounter* counter = counterOf(viewed);
         setText(*m_textView, row, 0, viewed.getName());
         setText(*m_textView, row, 1, numberText(viewed.getHistory()[0]));
-        setText(*m_textView, row, 2, QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
+        setText(*m_textView, row, 2,
+                QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
     }
     m_textView->resizeColumnsToContents();
 }
@@ -293,8 +294,8 @@ void SoPerfCounterViewer::setupGraphView()
     QwtIntervalData bars;
     for (int i = 0; i < m_viewed->size(); ++i) {
         const SoPerfCounterPcViewed& viewed = *m_viewed->at(i);
-        bars.append(QwtIntervalSample(viewed.getHistory()[0],
-                                      QwtInterval(i, i + 1, QwtInterval::ExcludeMaximum)));
+        bars.append(
+            QwtIntervalSample(viewed.getHistory()[0], QwtInterval(i, i + 1, QwtInterval::ExcludeMaximum)));
         m_bars->addColor(new QColor(viewed.getColor()));
     }
     m_bars->setData(bars);
@@ -399,8 +400,8 @@ void SoPerfCounterViewer::dragEnterEvent(QDragEnterEvent* event)
 void SoPerfCounterViewer::dropEvent(QDropEvent* event)
 {
     const QMimeData* data = event->mimeData();
-    if (!data->hasFormat(QStringLiteral("text/plain")) || !event->source()
-        || event->source()->objectName() != QLatin1String(DragSource)) {
+    if (!data->hasFormat(QStringLiteral("text/plain")) || !event->source() ||
+        event->source()->objectName() != QLatin1String(DragSource)) {
         event->ignore();
         return;
     }
@@ -465,7 +466,8 @@ void SoPerfCounterViewer::changeScale(const QString& text)
     counter->setScaleFactor(scale);
     const double ratio = old / counter->getScaleFactor();
     double* history = m_viewed->at(index)->getHistory();
-    std::for_each(history, history + m_historyLength, [ratio](double& sample) { sample = finiteOf(sample * ratio); });
+    std::for_each(history, history + m_historyLength,
+                  [ratio](double& sample) { sample = finiteOf(sample * ratio); });
     redrawViews();
 }
 

@@ -19,8 +19,8 @@ class SoPerfCounterGraph;
 class SoPerfCounterManager;
 class SoPerfCounterPcViewed;
 
-/// Samples the viewed performance counters on a timer and shows them as curves, bars or text, with a legend. Every
-/// sample is a rate per second since the one before. GUI thread only.
+/// Samples the viewed performance counters on a timer and shows them as curves, bars or text, with a legend.
+/// Every sample is a rate per second since the one before. GUI thread only.
 class SoPerfCounterViewer : public QWidget, public Ui_QPerfCounterViewer
 {
     Q_OBJECT
@@ -44,7 +44,8 @@ public:
 
     /// Shows these counters, in this order. Those that were shown already keep their samples and colour.
     void setViewList(const QList<QString>* list);
-    /// Where the time between samples comes from; seconds. For tests and for hosts that have a clock of their own.
+    /// Where the time between samples comes from; seconds. For tests and for hosts that have a clock of their
+    /// own.
     void setElapsedSource(double (*secondsSinceReset)(void* data), void (*reset)(void* data), void* data);
 
 signals:

@@ -22,9 +22,10 @@ QDockWidget* newMessageDock()
     auto* contents = new QWidget;
     contents->setObjectName(QStringLiteral("dockWidgetContents"));
     auto* layout = new QHBoxLayout(contents);
-    auto* label = new QLabel(SpxPerfCounterExtension::tr(
-        "To enable the performance counter extension, you need set the XSG_PERFCOUNTER_ENABLE environment variable to "
-        "1 and restart the application."));
+    auto* label =
+        new QLabel(SpxPerfCounterExtension::tr("To enable the performance counter extension, you need set "
+                                               "the XSG_PERFCOUNTER_ENABLE environment variable to "
+                                               "1 and restart the application."));
     label->setWordWrap(true);
     layout->addWidget(label);
     dock->setWidget(contents);

@@ -5,7 +5,8 @@
 
 class QDockWidget;
 
-/// The extension that docks the performance-counter tool, or, where it is not switched on, a message that tells how.
+/// The extension that docks the performance-counter tool, or, where it is not switched on, a message that
+/// tells how.
 class SpxPerfCounterExtension : public SpxExtension
 {
     Q_OBJECT

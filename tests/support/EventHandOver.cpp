@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Part of GUI programs under ThreadSanitizer: tells it that whoever receives an event or a queued call comes
-// after whoever posted it. Qt orders them by a QMutex, which is invisible to it; without this, what one thread
-// hands to another would look like a race.
+// after whoever posted it. Qt orders them by a QMutex, which is invisible to it; without this, what one
+// thread hands to another would look like a race.
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -40,8 +40,7 @@ Function* qtsOwn(const char* symbol)
 // In place of Qt's, for all calls from outside of Qt.
 void QCoreApplication::postEvent(QObject* receiver, QEvent* event, int priority)
 {
-    static const auto own =
-        qtsOwn<decltype(postEvent)>("_ZN16QCoreApplication9postEventEP7QObjectP6QEventi");
+    static const auto own = qtsOwn<decltype(postEvent)>("_ZN16QCoreApplication9postEventEP7QObjectP6QEventi");
     __tsan_release(receiver);
     own(receiver, event, priority);
 }

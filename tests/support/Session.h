@@ -47,9 +47,8 @@ private:
 class Session
 {
 public:
-    explicit Session(
-        const HostApplication::MakeWindow& makeWindow
-        = [](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); })
+    explicit Session(const HostApplication::MakeWindow& makeWindow =
+                         [](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); })
         : host(makeWindow, ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
     {
         host.messages().setAttended(false);

@@ -28,7 +28,8 @@ SoSeparator::Outside outsideOf(const SoState& state)
 bool SoBoundingBoxAction::isValid(const SoSeparator& separator, const SoState& stateAt)
 {
     const auto& cache = separator.boxCache();
-    return cache.isValid && cache.changeCount == separator.getChangeCount() && cache.outside == outsideOf(stateAt);
+    return cache.isValid && cache.changeCount == separator.getChangeCount() &&
+           cache.outside == outsideOf(stateAt);
 }
 
 SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
@@ -83,7 +84,8 @@ void SoBoundingBoxAction::openChildren(const SoSeparator& separator, Open& open)
         return group && group->asSeparator();
     };
     std::vector<std::uint32_t> places;
-    if (cache.isValid && cache.outside == outsideOf(state()) && separator.findTouched(cache.changeCount, places) &&
+    if (cache.isValid && cache.outside == outsideOf(state()) &&
+        separator.findTouched(cache.changeCount, places) &&
         std::all_of(places.begin(), places.end(), isSeparator)) {
         const auto& others = open.children->others;
         const auto middle = static_cast<std::ptrdiff_t>(places.size());

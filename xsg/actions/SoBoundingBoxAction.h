@@ -2,12 +2,12 @@
 #pragma once
 
 #include <xsg/actions/SoTraversal.h>
-#include <xsg/values/SbBox.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/values/SbBox.h>
 
 /// Finds the box around what can be seen of a scene. Separators remember the box of what is below them, so
-/// that after a change only those above it are looked at again. Where separators are turned inside one another
-/// the box may be larger than the tightest one; it always encloses.
+/// that after a change only those above it are looked at again. Where separators are turned inside one
+/// another the box may be larger than the tightest one; it always encloses.
 class XSG_API SoBoundingBoxAction : private SoTraversal
 {
 public:

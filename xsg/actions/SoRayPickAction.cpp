@@ -4,8 +4,8 @@
 #include <xsg/actions/RayTests.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/base/SoGeometry.h>
 #include <xsg/actions/SoPath.h>
 #include <xsg/actions/SoTraversal.h>
+#include <xsg/nodes/base/SoGeometry.h>
 #include <xsg/values/SbRay.h>
 
 #include <optional>

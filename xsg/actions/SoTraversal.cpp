@@ -13,8 +13,8 @@ void askFor(const void* place, int bytes)
         __builtin_prefetch(static_cast<const char*>(place) + at);
 }
 
-// A large scene is walked faster than memory answers, so what the walk will meet soon is asked for now: first the
-// child itself, then where its own children stand, then those.
+// A large scene is walked faster than memory answers, so what the walk will meet soon is asked for now: first
+// the child itself, then where its own children stand, then those.
 void lookAhead(const std::vector<SoNode*>& children, std::size_t child)
 {
     constexpr std::size_t Steps = 3;

@@ -2,9 +2,9 @@
 #include <xsg/core/SoField.h>
 
 #include <xsg/core/SoFieldContainer.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/sensors/SoDataSensor.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/types/SoTyped.h>
 #include <xsg/values/SbName.h>
 #include <xsg/values/SbString.h>
-#include <xsg/types/SoTyped.h>
 
 #include <cstdint>
 #include <memory>
@@ -35,8 +35,8 @@ public:
     virtual bool set(const SbString& text);
     /// True when both have the same type and value.
     virtual bool isSame(const SoField& other) const = 0;
-    /// Takes over the value of a field of the same or a convertible type; false, without a change, where there
-    /// is no conversion or the other's text does not parse.
+    /// Takes over the value of a field of the same or a convertible type; false, without a change, where
+    /// there is no conversion or the other's text does not parse.
     bool copyFrom(const SoField& other);
 
     bool isIgnored() const { return m_ignored; }
@@ -49,9 +49,9 @@ public:
     SoFieldContainer* getContainer() const { return m_container; }
     SbName getName() const { return m_name ? SbName(m_name) : SbName(); }
 
-    /// Follows `master`: whenever it changes, this field takes its value when next read. Refused (false) where
-    /// the types do not convert or a loop would close. A direct write stands until the master changes again.
-    /// What the master holds that does not convert (a text that is no number) leaves the value.
+    /// Follows `master`: whenever it changes, this field takes its value when next read. Refused (false)
+    /// where the types do not convert or a loop would close. A direct write stands until the master changes
+    /// again. What the master holds that does not convert (a text that is no number) leaves the value.
     bool connectFrom(SoField* source);
     void disconnect();
     SoField* getConnectedField() const { return m_source; }

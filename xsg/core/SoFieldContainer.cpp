@@ -2,9 +2,9 @@
 #include <xsg/core/SoFieldContainer.h>
 
 #include <xsg/core/ContainerNames.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/core/SoField.h>
 #include <xsg/sensors/SoDataSensor.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
 

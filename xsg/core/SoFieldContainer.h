@@ -11,8 +11,8 @@
 class SoDataSensor;
 class SoField;
 
-/// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones start
-/// at 0 and go when the last reference does. Belongs to the graph's thread.
+/// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones
+/// start at 0 and go when the last reference does. Belongs to the graph's thread.
 class XSG_API SoFieldContainer : public SoTyped<SoFieldContainer, SoTypedObject>
 {
 public:
@@ -41,8 +41,8 @@ public:
     /// The field of this name, or null.
     SoField* getField(SbName name) const;
 
-    /// Grows whenever a field of this very container changes, before anybody is told; a cache made from the fields
-    /// compares it.
+    /// Grows whenever a field of this very container changes, before anybody is told; a cache made from the
+    /// fields compares it.
     std::uint32_t getFieldChangeCount() const { return m_fieldChangeCount; }
 
     /// Called by fields and children; tells everyone who listens.

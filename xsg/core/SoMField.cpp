@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/core/SoMField.h>
 
-#include <xsg/types/SoTypedImpl.h>
-#include <xsg/errors/SoMemoryError.h>
 #include <xsg/core/SoSField.h>
+#include <xsg/errors/SoMemoryError.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
 #include <limits>

@@ -18,8 +18,8 @@ public:
     /// The number of values; evaluates first.
     int getNum() const;
     /// Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0. Where there is no
-    /// memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make it
-    /// grow.
+    /// memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make
+    /// it grow.
     void setNum(int count);
 
     /// The text of one value. Outside: false, and the text is empty. Costs that one value only.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/XsgExport.h>
 #include <xsg/counters/SoPerfFeed.h>
+#include <xsg/values/XsgExport.h>
 
 #include <memory>
 #include <vector>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbName.h>
 #include <xsg/counters/SoPerfFeed.h>
+#include <xsg/values/SbName.h>
 
 /// A named number that tells what something costs. Two kinds: SoPerfAccumCounter adds up what happened since
 /// its last reset, SoPerfStateCounter tells how things stand. A custom counter counts nothing itself: it is

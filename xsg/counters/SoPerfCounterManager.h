@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbTime.h>
 #include <xsg/counters/SoPerfAccumCounter.h>
 #include <xsg/counters/SoPerfStateCounter.h>
+#include <xsg/values/SbTime.h>
 
 #include <memory>
 #include <mutex>

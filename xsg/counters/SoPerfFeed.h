@@ -4,8 +4,8 @@
 #include <atomic>
 #include <cstdint>
 
-/// What a counter counts: one number that any thread adds to with a single relaxed atomic addition, whether or
-/// not anybody reads it. Constant-initialised, so that it can be fed before main() and while libraries go.
+/// What a counter counts: one number that any thread adds to with a single relaxed atomic addition, whether
+/// or not anybody reads it. Constant-initialised, so that it can be fed before main() and while libraries go.
 class SoPerfFeed
 {
 public:

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbString.h>
-#include <xsg/types/SoTyped.h>
 #include <xsg/errors/SoErrorHandler.h>
+#include <xsg/types/SoTyped.h>
+#include <xsg/values/SbString.h>
 
 /// Gives an error class its type and its handler.
 template <class Self, class Base>
@@ -24,9 +24,9 @@ protected:
 /// Something went wrong, and one sentence tells what. An error is built, handed to the handler of its class
 /// and gone: nothing is thrown. Posting is safe from any thread; the handler runs on the thread that posts.
 ///
-/// Each class of errors has a handler of its own: a callback with a data pointer. The handler that is there at
-/// the start writes the debug string to standard error, one line per error; a null callback drops the class's
-/// errors.
+/// Each class of errors has a handler of its own: a callback with a data pointer. The handler that is there
+/// at the start writes the debug string to standard error, one line per error; a null callback drops the
+/// class's errors.
 class XSG_API SoError : public SoErrorClass<SoError, SoTypedObject>
 {
 public:

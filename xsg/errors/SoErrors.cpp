@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoErrorStack.h>
 #include <xsg/errors/SoGLError.h>
 #include <xsg/errors/SoMemoryError.h>
 #include <xsg/errors/SoReadError.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <array>
 #include <charconv>

@@ -2,13 +2,14 @@
 // The text forms of enumeration and bit-mask values, shared by the single- and multi-value fields.
 #pragma once
 
-#include <xsg/values/XsgText.h>
 #include <xsg/fields/SoEnumTable.h>
+#include <xsg/values/XsgText.h>
 
 namespace xsg
 {
 
-/// Alone, a name is written as it stands, blanks inside included; in a list, one that is no word takes quotes.
+/// Alone, a name is written as it stands, blanks inside included; in a list, one that is no word takes
+/// quotes.
 void writeEnum(std::string& out, const SoEnumTable& table, int value);
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value);
 void writeListedEnum(std::string& out, const SoEnumTable& table, int value);

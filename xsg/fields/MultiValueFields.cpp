@@ -8,7 +8,6 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
-#include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>
@@ -26,6 +25,7 @@
 #include <xsg/fields/SoMFVec4d.h>
 #include <xsg/fields/SoMFVec4f.h>
 #include <xsg/fields/SoValueImpl.h>
+#include <xsg/nodes/base/SoMFNode.h>
 
 template class SoMValue<float>;
 template class SoTyped<SoMFFloat, SoMValue<float>>;

@@ -10,7 +10,6 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
-#include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>
@@ -28,6 +27,7 @@
 #include <xsg/fields/SoSFVec4d.h>
 #include <xsg/fields/SoSFVec4f.h>
 #include <xsg/fields/SoValueImpl.h>
+#include <xsg/nodes/base/SoSFNode.h>
 
 template class SoSValue<float>;
 template class SoTyped<SoSFFloat, SoSValue<float>>;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/XsgText.h>
 #include <xsg/core/SoMField.h>
+#include <xsg/values/XsgText.h>
 
 #include <initializer_list>
 #include <vector>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/fields/SoSFEnum.h>
 
-#include <xsg/values/XsgNumbers.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/fields/EnumText.h>
 #include <xsg/fields/SoSFBitMask.h>
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/XsgNumbers.h>
 
 template class SoTyped<SoSFEnum, SoSField>;
 template class SoTyped<SoSFBitMask, SoSFEnum>;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/fields/SoEnumTable.h>
 #include <xsg/core/SoSField.h>
+#include <xsg/fields/SoEnumTable.h>
 
 /// One of a set of named numbers. Its text is the bare name, or the number where no name has the value.
 class XSG_API SoSFEnum : public SoTyped<SoSFEnum, SoSField>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/fields/SoSFImage.h>
 
-#include <xsg/values/XsgText.h>
 #include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/XsgText.h>
 
 template class SoTyped<SoSFImage, SoSField>;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/XsgText.h>
 #include <xsg/core/SoSField.h>
+#include <xsg/values/XsgText.h>
 
 /// The template behind every single-value field whose value is a plain type with an XsgText.
 ///

@@ -5,11 +5,11 @@
 //     template class SoTyped<SoSFFloat, SoSValue<float>>;
 #pragma once
 
-#include <xsg/values/XsgNumbers.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/fields/NumberLists.h>
 #include <xsg/fields/SoMValue.h>
 #include <xsg/fields/SoSValue.h>
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/XsgNumbers.h>
 
 #include <algorithm>
 #include <cstring>

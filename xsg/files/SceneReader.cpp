@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/files/SceneReader.h>
 
+#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
-#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <algorithm>

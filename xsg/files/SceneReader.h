@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/XsgText.h>
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/XsgText.h>
 
 #include <string>
 #include <string_view>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/files/SceneWriter.h>
 
-#include <xsg/values/XsgText.h>
+#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
-#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
+#include <xsg/values/XsgText.h>
 
 #include <algorithm>
 #include <cmath>

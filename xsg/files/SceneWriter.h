@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbString.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbString.h>
 
 #include <functional>
 #include <string>

@@ -21,8 +21,9 @@
 ///         @paint
 ///     }
 ///
-/// A node is its type, perhaps its name in quotes, perhaps a label after "@", and braces around its fields and
-/// children. A label alone stands for the node that has it, as a child and as the value of a field of nodes
+/// A node is its type, perhaps its name in quotes, perhaps a label after "@", and braces around its fields
+/// and children. A label alone stands for the node that has it, as a child and as the value of a field of
+/// nodes
 /// ("NULL" for none, and for a node that is not in the scene). A field is its name, a colon, on the same line
 /// its value as text where it is not the default one, and marks: "!ignored", and "<- @label.field" for the
 /// field it is connected from. What follows a "#" up to the end of the line is for people.
@@ -37,8 +38,8 @@ public:
     /// The same from memory; `name` stands for the file in errors.
     static SoRef<SoNode> readText(std::string_view text, const std::string& name, std::string& error);
 
-    /// Writes to a temporary file beside it and renames it, so that the file is either the old or the new one.
-    /// False, and a sentence, where that cannot be done.
+    /// Writes to a temporary file beside it and renames it, so that the file is either the old or the new
+    /// one. False, and a sentence, where that cannot be done.
     static bool write(const SoNode* root, const std::string& path, std::string& error);
     static std::string writeText(const SoNode* root);
 };

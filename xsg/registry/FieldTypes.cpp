@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/registry/FieldTypes.h>
 
+#include <xsg/core/SoMField.h>
+#include <xsg/core/SoSField.h>
 #include <xsg/fields/SoMFBitMask.h>
 #include <xsg/fields/SoMFBool.h>
 #include <xsg/fields/SoMFBox3f.h>
@@ -11,7 +13,6 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
-#include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>
@@ -28,7 +29,6 @@
 #include <xsg/fields/SoMFVec3s.h>
 #include <xsg/fields/SoMFVec4d.h>
 #include <xsg/fields/SoMFVec4f.h>
-#include <xsg/core/SoMField.h>
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/fields/SoSFBool.h>
 #include <xsg/fields/SoSFBox3f.h>
@@ -42,7 +42,6 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
-#include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>
@@ -59,7 +58,8 @@
 #include <xsg/fields/SoSFVec3s.h>
 #include <xsg/fields/SoSFVec4d.h>
 #include <xsg/fields/SoSFVec4f.h>
-#include <xsg/core/SoSField.h>
+#include <xsg/nodes/base/SoMFNode.h>
+#include <xsg/nodes/base/SoSFNode.h>
 
 namespace
 {

@@ -6,8 +6,8 @@
 namespace xsg
 {
 
-/// OpenGL's settings while a frame is drawn: sets what the next thing needs, and only what differs from what is set
-/// already.
+/// OpenGL's settings while a frame is drawn: sets what the next thing needs, and only what differs from what
+/// is set already.
 class DrawState
 {
 public:
@@ -18,8 +18,8 @@ public:
         : m_shader(shader)
     {
     }
-    /// Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene has
-    /// no light; they stay as they are as long as the frame is drawn.
+    /// Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene
+    /// has no light; they stay as they are as long as the frame is drawn.
     void begin(int width, int height, const std::vector<SoLightSource>& headlights);
     /// Puts back what would surprise others.
     void end();

@@ -6,12 +6,13 @@
 namespace xsg
 {
 
-/// What OpenGL has to say, as SoGLError: by its debug output where the context was made for debugging, else by asking
-/// for errors once a frame.
+/// What OpenGL has to say, as SoGLError: by its debug output where the context was made for debugging, else
+/// by asking for errors once a frame.
 class GlMessages
 {
 public:
-    /// Whether new contexts should be made for debugging: the preference XSG_GL_DEBUG, on at first in debug builds.
+    /// Whether new contexts should be made for debugging: the preference XSG_GL_DEBUG, on at first in debug
+    /// builds.
     static bool areWanted();
 
     /// Before a frame, with its context current.

@@ -10,8 +10,8 @@
 namespace xsg
 {
 
-/// A thread with an OpenGL context of its own that needs neither a window nor a display. Work given to it runs
-/// there while the caller waits, so the contexts that the caller has current stay untouched.
+/// A thread with an OpenGL context of its own that needs neither a window nor a display. Work given to it
+/// runs there while the caller waits, so the contexts that the caller has current stay untouched.
 class GlThread
 {
 public:

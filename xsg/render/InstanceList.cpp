@@ -70,7 +70,8 @@ bool xsg::InstanceList::isLikeBefore(const std::vector<RenderItem>& items, std::
     return before.geometry == item.geometry && before.surroundings == item.surroundings;
 }
 
-void xsg::InstanceList::regroup(const std::vector<RenderItem>& items, const std::vector<std::uint32_t>& changed)
+void xsg::InstanceList::regroup(const std::vector<RenderItem>& items,
+                                const std::vector<std::uint32_t>& changed)
 {
     for (const std::uint32_t i : changed) {
         if (i < m_places.size() && m_places[i] != Nowhere)
@@ -78,8 +79,8 @@ void xsg::InstanceList::regroup(const std::vector<RenderItem>& items, const std:
     }
 }
 
-// Cuts the batch on both sides of the place and joins what is alike now. That a neighbour may have changed too, and
-// still counts as one of its batch, does no harm: its turn comes.
+// Cuts the batch on both sides of the place and joins what is alike now. That a neighbour may have changed
+// too, and still counts as one of its batch, does no harm: its turn comes.
 void xsg::InstanceList::regroupAt(const std::vector<RenderItem>& items, std::uint32_t place)
 {
     for (const std::uint32_t cut : {place, place + 1}) {

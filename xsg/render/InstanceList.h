@@ -14,13 +14,13 @@ struct Run {
     std::uint32_t end = 0;
 };
 
-/// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is given
-/// there again only where it changed.
+/// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is
+/// given there again only where it changed.
 class InstanceList
 {
 public:
-    /// Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`: it is
-    /// known to be the one of the last time, which need not be looked at then.
+    /// Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`:
+    /// it is known to be the one of the last time, which need not be looked at then.
     void update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
                 const RenderList::Changes& changes, bool isSameOrder = false);
     bool isEmpty() const { return m_order.empty(); }

@@ -2,10 +2,10 @@
 #include <xsg/render/RenderList.h>
 
 #include <xsg/nodes/cameras/SoCamera.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/shapes/SoDrawingCallback.h>
 #include <xsg/nodes/lights/SoLight.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
 
 #include <algorithm>
 #include <tuple>
@@ -213,7 +213,9 @@ void xsg::RenderList::planPatch(const SoGroup& group, std::uint32_t since)
     if (known == m_childRecords.end() || !group.findTouched(since, m_plan))
         return;
     const ChildRecords& children = known->second;
-    const auto isStateScope = [&](std::uint32_t place) { return m_records[children.records[place]].isStateScope; };
+    const auto isStateScope = [&](std::uint32_t place) {
+        return m_records[children.records[place]].isStateScope;
+    };
     if (!std::all_of(m_plan.begin(), m_plan.end(), isStateScope))
         return;
     const auto middle = static_cast<std::ptrdiff_t>(m_plan.size());

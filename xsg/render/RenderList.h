@@ -2,12 +2,12 @@
 #pragma once
 
 #include <xsg/actions/SoTraversal.h>
-#include <xsg/values/SbBox.h>
 #include <xsg/nodes/base/BoundingBoxTree.h>
 #include <xsg/render/GeometryStore.h>
-#include <xsg/render/Shader.h>
 #include <xsg/render/ListInterner.h>
+#include <xsg/render/Shader.h>
 #include <xsg/render/TextureStore.h>
+#include <xsg/values/SbBox.h>
 
 #include <map>
 
@@ -48,8 +48,8 @@ struct CallbackItem {
 /// A scene flattened into what is drawn: built by a walk over the scene, kept until the scene changes.
 ///
 /// After a change of fields only the items that the change reaches are made anew, on a walk that skips every
-/// isolating group without a change in it; the walk is compared with a record of the one before. Whatever else
-/// changed (children, choices, lights, textures) has the list built again as a whole.
+/// isolating group without a change in it; the walk is compared with a record of the one before. Whatever
+/// else changed (children, choices, lights, textures) has the list built again as a whole.
 class RenderList : private SoTraversal
 {
 public:
@@ -62,7 +62,8 @@ public:
         bool all = false;
         bool orders = false; // they may be others
         std::vector<std::uint32_t> items;
-        std::vector<std::uint32_t> regrouped; // of the items those that share something else with their neighbours now
+        std::vector<std::uint32_t>
+            regrouped; // of the items those that share something else with their neighbours now
     };
 
     /// What a scene unfolds to beyond this is left out.
@@ -80,10 +81,7 @@ public:
     const std::vector<std::uint32_t>& getOpaque() const { return m_opaque; }
     const std::vector<std::uint32_t>& getTransparent() const { return m_transparent; }
     const std::vector<CallbackItem>& getCallbacks() const { return m_callbacks; }
-    const DrawStateKey& getState(int index) const
-    {
-        return *m_states[static_cast<std::size_t>(index)];
-    }
+    const DrawStateKey& getState(int index) const { return *m_states[static_cast<std::size_t>(index)]; }
     const SbBox3f& getBox() const { return m_box; }
     const SoCamera* getCamera() const { return m_camera; }
     const SbMatrix& getCameraMatrix() const { return m_cameraMatrix; }
@@ -157,7 +155,7 @@ private:
     ListInterner<SbMatrix> m_textureMatrices;
 
     std::vector<Record> m_records;
-    std::vector<std::uint32_t> m_openRecords; // of the groups that are open
+    std::vector<std::uint32_t> m_openRecords;                       // of the groups that are open
     std::unordered_map<std::uint32_t, ChildRecords> m_childRecords; // by the group's record
     std::vector<OpenPatch> m_openPatches;
     OpenPatch m_nextPatch{};
@@ -166,7 +164,7 @@ private:
     bool m_gaveUp = false;
     bool m_reaches = false; // a change before this place reaches what is visited
     bool m_needsSorting = false;
-    std::size_t m_outOfOrder = 0; // items that have been regrouped since they were put into order
+    std::size_t m_outOfOrder = 0;   // items that have been regrouped since they were put into order
     std::size_t m_firstPatched = 0; // among the items of m_changes
     std::size_t m_cursor = 0;
     std::vector<char> m_reachesBefore; // of the isolating groups that are open

@@ -45,7 +45,8 @@ public:
         glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer.get());
         attach(m_color.get(), GL_COLOR_ATTACHMENT0, GL_RGBA8, width, height, samples);
         attach(m_depth.get(), GL_DEPTH_ATTACHMENT, GL_DEPTH_COMPONENT24, width, height, samples);
-        if (glCheckFramebufferStatus(GL_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE || glGetError() != GL_NO_ERROR)
+        if (glCheckFramebufferStatus(GL_FRAMEBUFFER) != GL_FRAMEBUFFER_COMPLETE ||
+            glGetError() != GL_NO_ERROR)
             return false;
         m_made = wanted;
         return true;

@@ -17,8 +17,8 @@ struct SoPixels {
 };
 
 /// Draws pictures of scenes into memory, with an OpenGL context of its own: no window, no display and no X
-/// server needed. For screenshots and tests. Whatever context the caller has current stays as it is. The scene
-/// must not change while render() runs.
+/// server needed. For screenshots and tests. Whatever context the caller has current stays as it is. The
+/// scene must not change while render() runs.
 class XSG_API SoOffscreenRenderer
 {
 public:

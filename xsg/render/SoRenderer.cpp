@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/render/SoRenderer.h>
 
-#include <xsg/values/SbTime.h>
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/nodes/shapes/SoDrawingCallback.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
 #include <xsg/render/DrawState.h>
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
+#include <xsg/values/SbTime.h>
 
 #include <algorithm>
 
@@ -246,9 +246,11 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
         while (run != m_visible.end() && run->first < batch.end) {
             xsg::Run part{std::max(run->first, batch.first), std::min(run->end, batch.end)};
             const auto isCloseBehind = [&](const xsg::Run& next) {
-                return next.first < batch.end && std::int64_t{next.first - part.end} * geometry.indexCount <= CheapCorners;
+                return next.first < batch.end &&
+                       std::int64_t{next.first - part.end} * geometry.indexCount <= CheapCorners;
             };
-            while (run->end < batch.end && std::next(run) != m_visible.end() && isCloseBehind(*std::next(run)))
+            while (run->end < batch.end && std::next(run) != m_visible.end() &&
+                   isCloseBehind(*std::next(run)))
                 part.end = std::min((++run)->end, batch.end);
             drawRun(instances, part);
             countDrawn(geometry, part.end - part.first);

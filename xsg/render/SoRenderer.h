@@ -40,14 +40,15 @@ public:
     void setBackground(const SbColor& color, float opacity = 1);
     /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
-    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may go at
-    /// any time.
+    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may go
+    /// at any time.
     void setHighlight(const SoNode* node);
     /// The same by SoNode::getNodeId(); 0 for none.
     void setHighlightedNumber(std::uint64_t nodeId);
     void setHighlightColor(const SbColor& color);
-    /// Whether contexts for drawing are best made for debugging, so that OpenGL tells its errors by itself, as
-    /// SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says otherwise.
+    /// Whether contexts for drawing are best made for debugging, so that OpenGL tells its errors by itself,
+    /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
+    /// otherwise.
     static bool wantsDebugContext();
 
     /// A light beside the eye in scenes without a light of their own; on from the start.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoDataSensor.h>
 
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>

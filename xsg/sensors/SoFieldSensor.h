@@ -3,7 +3,8 @@
 
 #include <xsg/sensors/SoDataSensor.h>
 
-/// Runs its callback after the field it is attached to changed, by writing, by connection or by its ignore flag.
+/// Runs its callback after the field it is attached to changed, by writing, by connection or by its ignore
+/// flag.
 class XSG_API SoFieldSensor : public SoDataSensor
 {
 public:

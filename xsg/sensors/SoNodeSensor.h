@@ -3,8 +3,8 @@
 
 #include <xsg/sensors/SoDataSensor.h>
 
-/// Runs its callback after anything changed in the container it is attached to: a field, the name, a child, or,
-/// for a node, anything below it.
+/// Runs its callback after anything changed in the container it is attached to: a field, the name, a child,
+/// or, for a node, anything below it.
 class XSG_API SoNodeSensor : public SoDataSensor
 {
 public:

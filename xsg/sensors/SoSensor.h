@@ -26,7 +26,8 @@ public:
     void setFunction(SoSensorCB* callback) { m_callback = callback; }
     void setData(void* data) { m_data = data; }
 
-    /// Lower numbers run earlier in a turn; sensors of the same priority run in the order of their triggering.
+    /// Lower numbers run earlier in a turn; sensors of the same priority run in the order of their
+    /// triggering.
     void setPriority(int priority) { m_priority = priority; }
     int getPriority() const { return m_priority; }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbTime.h>
 #include <xsg/sensors/SoSensor.h>
+#include <xsg/values/SbTime.h>
 
 #include <functional>
 #include <map>
@@ -45,8 +45,8 @@ public:
 
     /// The clock of timed sensors, in seconds since the Unix epoch. It never runs backwards.
     SbTime getTime() const { return m_clock(); }
-    /// Another clock, for an application that makes its own time, as when it renders to files. Null: the usual
-    /// one.
+    /// Another clock, for an application that makes its own time, as when it renders to files. Null: the
+    /// usual one.
     using Clock = SbTime (*)();
     void setClock(Clock clock);
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbTime.h>
 #include <xsg/sensors/SoSensor.h>
+#include <xsg/values/SbTime.h>
 
 /// A sensor that waits for a moment of the queue's clock and then runs in the turn that follows.
 class XSG_API SoTimedSensor : public SoSensor

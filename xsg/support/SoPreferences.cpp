@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/support/SoPreferences.h>
 
-#include <xsg/values/XsgText.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoReadError.h>
+#include <xsg/values/XsgText.h>
 
 #include <algorithm>
 #include <cstdlib>

@@ -17,7 +17,8 @@
 ///     #include <xsg/types/SoTypedImpl.h>                      // in the one .cpp
 ///     template class SoTyped<SoSphere, SoShape>;
 ///
-/// The type's name is the class's name without "So". A class that can be default-constructed can be created by name.
+/// The type's name is the class's name without "So". A class that can be default-constructed can be created
+/// by name.
 template <class Self, class Base>
 class XSG_API SoTyped : public Base
 {

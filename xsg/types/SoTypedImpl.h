@@ -9,8 +9,8 @@
 namespace xsg
 {
 
-/// Asks for `new T`, since std::is_default_constructible also asks for a public destructor, which nodes do not
-/// have.
+/// Asks for `new T`, since std::is_default_constructible also asks for a public destructor, which nodes do
+/// not have.
 template <class T, class = void>
 constexpr bool canBeMade = false;
 template <class T>

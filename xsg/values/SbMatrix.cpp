@@ -13,7 +13,10 @@ namespace
 
 using RowMajor = Eigen::Matrix<float, 4, 4, Eigen::RowMajor>;
 
-Eigen::Map<const RowMajor> view(const SbMatrix& m) { return Eigen::Map<const RowMajor>(m.getValue()); }
+Eigen::Map<const RowMajor> view(const SbMatrix& m)
+{
+    return Eigen::Map<const RowMajor>(m.getValue());
+}
 
 template <class Expression>
 SbMatrix fromEigen(const Expression& expression)
@@ -62,8 +65,22 @@ SbMatrix SbMatrix::perspective(float fieldOfView, float aspect, float nearDistan
 {
     const float f = 1.0F / std::tan(fieldOfView * 0.5F);
     const float depth = nearDistance - farDistance;
-    const float values[16] = {f / aspect, 0, 0, 0, 0, f, 0, 0, 0, 0, (farDistance + nearDistance) / depth, -1,
-                              0,          0, 2 * farDistance * nearDistance / depth, 0};
+    const float values[16] = {f / aspect,
+                              0,
+                              0,
+                              0,
+                              0,
+                              f,
+                              0,
+                              0,
+                              0,
+                              0,
+                              (farDistance + nearDistance) / depth,
+                              -1,
+                              0,
+                              0,
+                              2 * farDistance * nearDistance / depth,
+                              0};
     return SbMatrix(values);
 }
 

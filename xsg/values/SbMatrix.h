@@ -7,8 +7,8 @@
 
 class SbRotation;
 
-/// A 4 by 4 matrix, rows first: element [r][c] is number 4r + c in storage. Points are row vectors (p' = p M),
-/// so the last row holds the translation. A default one is the identity.
+/// A 4 by 4 matrix, rows first: element [r][c] is number 4r + c in storage. Points are row vectors (p' = p
+/// M), so the last row holds the translation. A default one is the identity.
 class XSG_API SbMatrix
 {
 public:

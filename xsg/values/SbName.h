@@ -5,13 +5,13 @@
 
 #include <cstring>
 
-/// An interned name: comparing two names compares two pointers. Bytes above 127 are kept as they are (Latin-1).
-/// Interning is safe from any thread; the text of a name lives until the process ends.
+/// An interned name: comparing two names compares two pointers. Bytes above 127 are kept as they are
+/// (Latin-1). Interning is safe from any thread; the text of a name lives until the process ends.
 class XSG_API SbName
 {
 public:
-    SbName(); // the empty name
-    SbName(const char* text); // NOLINT(google-explicit-constructor): a null pointer gives the empty name
+    SbName();                     // the empty name
+    SbName(const char* text);     // NOLINT(google-explicit-constructor): a null pointer gives the empty name
     SbName(const SbString& text); // NOLINT(google-explicit-constructor)
 
     const char* getString() const { return m_text; }

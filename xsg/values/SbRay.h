@@ -3,7 +3,8 @@
 
 #include <xsg/values/SbVec.h>
 
-/// A half line: where it starts, and the way it goes (of length 1 where distances along it are to be lengths).
+/// A half line: where it starts, and the way it goes (of length 1 where distances along it are to be
+/// lengths).
 struct SbRay {
     SbVec3f origin;
     SbVec3f direction;

@@ -28,7 +28,10 @@ SbRotation fromEigen(const Eigen::Quaterniond& q)
     return SbRotation(four);
 }
 
-Eigen::Vector3d wide(const SbVec3f& v) { return {v[0], v[1], v[2]}; }
+Eigen::Vector3d wide(const SbVec3f& v)
+{
+    return {v[0], v[1], v[2]};
+}
 
 SbVec3f narrow(const Eigen::Vector3d& v)
 {

@@ -11,9 +11,9 @@
 class XSG_API SbString
 {
 public:
-    SbString() = default; // null
-    SbString(const char* text); // NOLINT(google-explicit-constructor): null pointer gives the null text
-    SbString(std::string text); // NOLINT(google-explicit-constructor)
+    SbString() = default;            // null
+    SbString(const char* text);      // NOLINT(google-explicit-constructor): null pointer gives the null text
+    SbString(std::string text);      // NOLINT(google-explicit-constructor)
     SbString(std::string_view text); // NOLINT(google-explicit-constructor)
     /// Lone surrogates become U+FFFD.
     static SbString fromUtf16(std::u16string_view text);

@@ -8,9 +8,18 @@ namespace
 
 constexpr char32_t Replacement = 0xFFFD;
 
-bool isHighSurrogate(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
-bool isLowSurrogate(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
-bool isSurrogate(char32_t c) { return c >= 0xD800 && c < 0xE000; }
+bool isHighSurrogate(char32_t c)
+{
+    return c >= 0xD800 && c < 0xDC00;
+}
+bool isLowSurrogate(char32_t c)
+{
+    return c >= 0xDC00 && c < 0xE000;
+}
+bool isSurrogate(char32_t c)
+{
+    return c >= 0xD800 && c < 0xE000;
+}
 
 void appendUtf16(std::u16string& out, char32_t c)
 {
@@ -22,8 +31,7 @@ void appendUtf16(std::u16string& out, char32_t c)
     out += static_cast<char16_t>(0xDC00 + (c & 0x3FF));
 }
 
-struct Sequence
-{
+struct Sequence {
     int continuationBytes;
     char32_t leadBits;
     char32_t smallest; // below it the encoding is overlong

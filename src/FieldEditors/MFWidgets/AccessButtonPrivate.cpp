@@ -10,7 +10,8 @@ AccessButtonPrivate::AccessButtonPrivate(QWidget* parent, const char* name)
     setObjectName(QString::fromLatin1(name));
 }
 
-AccessButtonPrivate::AccessButtonPrivate(int minimum, int maximum, int step, QWidget* parent, const char* name)
+AccessButtonPrivate::AccessButtonPrivate(int minimum, int maximum, int step, QWidget* parent,
+                                         const char* name)
     : AccessButtonPrivate(parent, name)
 {
     setRange(minimum, maximum);

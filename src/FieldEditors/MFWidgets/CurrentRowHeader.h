@@ -5,7 +5,8 @@
 
 class QTableView;
 
-/// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it is.
+/// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it
+/// is.
 class CurrentRowHeader : public QHeaderView
 {
     Q_OBJECT

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFColorTable.h"
 
+#include "EdColor.h"
 #include "EdMFColorTableItemDelegate.h"
 #include "EdMFieldWidget.h"
-#include "EdColor.h"
 #include "EdText.h"
 
 #include <QColorDialog>
@@ -22,17 +22,19 @@ void EdMFColorTable::getColorFromEditor(int row, int col)
 {
     if (col != 0 || !owner()->hasRow(row))
         return;
-    // The table's columns stand for components here, so the dialog starts one component further on; that is meant.
+    // The table's columns stand for components here, so the dialog starts one component further on; that is
+    // meant.
     const auto channel = [&](int column) {
         return colorChannel(toFloatOr0(owner()->getFieldValue(row, column)));
     };
     const QPointer<EdMFColorTable> alive(this);
     const SoMField* field = owner()->editedField();
-    const QColor color
-        = QColorDialog::getColor(QColor(channel(1), channel(2), channel(3)), this, tr("color dialog"));
+    const QColor color =
+        QColorDialog::getColor(QColor(channel(1), channel(2), channel(3)), this, tr("color dialog"));
     // Another field may be shown by now, or none.
     if (!alive || !color.isValid() || owner()->editedField() != field || !owner()->hasRow(row))
         return;
-    const float rgb[3] = {float(color.red()) / 255.F, float(color.green()) / 255.F, float(color.blue()) / 255.F};
+    const float rgb[3] = {float(color.red()) / 255.F, float(color.green()) / 255.F,
+                          float(color.blue()) / 255.F};
     owner()->setValue(row, rgb);
 }

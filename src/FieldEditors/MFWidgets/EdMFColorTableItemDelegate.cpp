@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFColorTableItemDelegate.h"
 
-#include "EdMFieldWidget.h"
 #include "EdColor.h"
+#include "EdMFieldWidget.h"
 #include "EdText.h"
 
 #include <QPainter>
@@ -15,8 +15,7 @@ void EdMFColorTableItemDelegate::paint(QPainter* painter, const QStyleOptionView
         return;
     }
     const auto channel = [&](int component) {
-        return colorChannel(
-            toFloatOr0(owner()->getFieldValue(index.row(), component)));
+        return colorChannel(toFloatOr0(owner()->getFieldValue(index.row(), component)));
     };
     painter->save();
     painter->fillRect(option.rect, QColor(channel(0), channel(1), channel(2), 255));

@@ -3,7 +3,8 @@
 
 #include "EdMFieldTableItemDelegate.h"
 
-/// Column 0 is the swatch; the columns after it show the components, so every component is one column further on.
+/// Column 0 is the swatch; the columns after it show the components, so every component is one column further
+/// on.
 class EdMFColorTableItemDelegate : public EdMFieldTableItemDelegate
 {
     Q_OBJECT
@@ -11,7 +12,8 @@ class EdMFColorTableItemDelegate : public EdMFieldTableItemDelegate
 public:
     using EdMFieldTableItemDelegate::EdMFieldTableItemDelegate;
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
 

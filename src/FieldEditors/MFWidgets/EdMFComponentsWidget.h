@@ -19,8 +19,8 @@ void fromText(const QString& text, short& value);
 
 } // namespace componentText
 
-/// Base of the lists whose elements have several numbers: one element per row, one number per column. What makes a
-/// concrete editor is its Traits:
+/// Base of the lists whose elements have several numbers: one element per row, one number per column. What
+/// makes a concrete editor is its Traits:
 ///
 ///     struct Vec2fTraits {
 ///         using Field = SoMFVec2f;
@@ -66,9 +66,8 @@ public:
     {
         if (!hasComponent(row, column))
             return;
-        EdFieldEdits::write1(values(), row, [&] {
-            values()->set1Value(row, Traits::with((*values())[row], column, value));
-        });
+        EdFieldEdits::write1(
+            values(), row, [&] { values()->set1Value(row, Traits::with((*values())[row], column, value)); });
     }
     Component getSingleFieldValue(int row, int column) const { return Traits::get((*values())[row], column); }
 

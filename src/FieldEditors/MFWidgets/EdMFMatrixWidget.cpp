@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFMatrixWidget.h"
 
-#include "EdTablePopupLineEdit.h"
 #include "EdFieldEdits.h"
+#include "EdTablePopupLineEdit.h"
 #include "EdText.h"
 
 namespace
@@ -87,8 +87,7 @@ void EdMFMatrixWidget::set1Value(int row, int /*column*/, QString /*text*/)
     float numbers[GridSize * GridSize];
     const float* present = (*matrices())[row].getValue();
     for (const EdTablePopupLineEdit* line : lines()) {
-        numbers[line->index()]
-            = line->isUntouched() ? present[line->index()] : toFloatOr0(line->text());
+        numbers[line->index()] = line->isUntouched() ? present[line->index()] : toFloatOr0(line->text());
     }
     EdFieldEdits::write1(matrices(), row, [&] { matrices()->set1Value(row, SbMatrix(numbers)); });
 }

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EdFieldRange.h"
 #include "EdMFLineWidget.h"
 #include "EdMFieldTable.h"
-#include "EdFieldRange.h"
 
 #include <xsg/core/SoMField.h>
 
-/// The two lists of reals: their sliders take the range that the field's node gives. Traits name the field class, the
-/// caption, the cell type and where the range's ends are.
+/// The two lists of reals: their sliders take the range that the field's node gives. Traits name the field
+/// class, the caption, the cell type and where the range's ends are.
 template <class Traits>
 class EdMFRealWidget : public EdMFLineWidget
 {

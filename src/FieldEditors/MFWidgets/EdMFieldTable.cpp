@@ -2,11 +2,11 @@
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
-#include "ProportionalColumns.h"
 #include "CurrentRowHeader.h"
+#include "EdFieldEdits.h"
 #include "EdMFieldTableItemDelegate.h"
 #include "EdMFieldWidget.h"
-#include "EdFieldEdits.h"
+#include "ProportionalColumns.h"
 #include "SpxMFAddRowsCommand.h"
 #include "SpxMFDeleteRowsCommand.h"
 #include "SpxMFSwapRowsCommand.h"
@@ -206,14 +206,19 @@ void EdMFieldTable::showTableRow(int row)
 void EdMFieldTable::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
-    case Qt::Key_Plus: addRow(); break;
+    case Qt::Key_Plus:
+        addRow();
+        break;
     case Qt::Key_Minus:
-    case Qt::Key_Delete: deleteRow(); break;
+    case Qt::Key_Delete:
+        deleteRow();
+        break;
     case Qt::Key_Shift:
         setSelectionMode(QAbstractItemView::ContiguousSelection);
         m_multiSelection = true;
         break;
-    default: QTableWidget::keyPressEvent(event);
+    default:
+        QTableWidget::keyPressEvent(event);
     }
     event->accept();
 }
@@ -265,8 +270,8 @@ void EdMFieldTable::dropOpenEditor()
 
 bool EdMFieldTable::keepsOpen(const QWidget* editor) const
 {
-    return editor->inherits("EdSlider")
-        && (editor->rect().contains(editor->mapFromGlobal(QCursor::pos())) || editor->hasFocus());
+    return editor->inherits("EdSlider") &&
+           (editor->rect().contains(editor->mapFromGlobal(QCursor::pos())) || editor->hasFocus());
 }
 
 void EdMFieldTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)

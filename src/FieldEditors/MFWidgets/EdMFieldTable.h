@@ -8,15 +8,16 @@ class ProportionalColumns;
 class EdMFieldTableItemDelegate;
 class EdMFieldWidget;
 
-/// The table of a multi-value editor: one element per row, one component per column. It holds no values: the delegate
-/// draws each visible cell from the editor's text for it, so its cost follows what is visible. Row operations become
-/// undoable commands. GUI thread only.
+/// The table of a multi-value editor: one element per row, one component per column. It holds no values: the
+/// delegate draws each visible cell from the editor's text for it, so its cost follows what is visible. Row
+/// operations become undoable commands. GUI thread only.
 class EdMFieldTable : public QTableWidget
 {
     Q_OBJECT
 
 public:
-    /// What a column holds; picks the validator or the slider of its cells. The numbers are part of the interface.
+    /// What a column holds; picks the validator or the slider of its cells. The numbers are part of the
+    /// interface.
     enum MFTableTypeCell {
         CELL_NONE = 0,
         CELL_SHORT = 1,

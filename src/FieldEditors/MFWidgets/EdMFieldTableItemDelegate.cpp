@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFieldTableItemDelegate.h"
 
+#include "EdGridValidator.h"
 #include "EdIntSlider.h"
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
-#include "EdUIntSlider.h"
-#include "EdGridValidator.h"
 #include "EdText.h"
+#include "EdUIntSlider.h"
 #include "EdValidators.h"
 #include "QULongValidator.h"
 
@@ -23,8 +23,8 @@ constexpr int TextMargin = 4;
 constexpr int AnyReal = 4; // the grid validator of all doubles
 constexpr int ShortestMeasured = 64;
 
-// No cell shows more characters than it has pixels: measuring a text of megabytes for each repaint would cost what
-// nobody sees.
+// No cell shows more characters than it has pixels: measuring a text of megabytes for each repaint would cost
+// what nobody sees.
 int longestShown(int width)
 {
     return std::max(width, ShortestMeasured);
@@ -46,15 +46,16 @@ QString nameOf(const QModelIndex& index)
     const QString element = EdMFieldTable::tr("Element %1").arg(index.row() + 1);
     if (index.model()->columnCount() == 1)
         return element;
-    return element + QStringLiteral(", ") + index.model()->headerData(index.column(), Qt::Horizontal).toString();
+    return element + QStringLiteral(", ") +
+           index.model()->headerData(index.column(), Qt::Horizontal).toString();
 }
 
 bool hasSlider(int cellType)
 {
     // Not for doubles, though they are numbers too; that is meant.
-    return cellType == EdMFieldTable::CELL_SHORT || cellType == EdMFieldTable::CELL_USHORT
-        || cellType == EdMFieldTable::CELL_INT32 || cellType == EdMFieldTable::CELL_UINT32
-        || cellType == EdMFieldTable::CELL_FLOAT;
+    return cellType == EdMFieldTable::CELL_SHORT || cellType == EdMFieldTable::CELL_USHORT ||
+           cellType == EdMFieldTable::CELL_INT32 || cellType == EdMFieldTable::CELL_UINT32 ||
+           cellType == EdMFieldTable::CELL_FLOAT;
 }
 
 } // namespace
@@ -127,8 +128,8 @@ QLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QStr
 EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, const QString& text) const
 {
     if (m_cellType == EdMFieldTable::CELL_FLOAT) {
-        // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is applied
-        // from it reaches element 0; that is meant.
+        // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
+        // applied from it reaches element 0; that is meant.
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
         slider->setRealValue(double(toFloatOr0(text)));
@@ -136,12 +137,14 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
     }
     const bool isShort = m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_USHORT;
     if (m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_INT32) {
-        auto* slider = new EdIntSlider(isShort ? Int16Slider : Int32Slider, MultiValueParent, m_owner, parent, row, 0);
+        auto* slider =
+            new EdIntSlider(isShort ? Int16Slider : Int32Slider, MultiValueParent, m_owner, parent, row, 0);
         slider->setValidLimits(m_intMinimum, m_intMaximum, m_bounded);
         slider->setValue(text);
         return slider;
     }
-    auto* slider = new EdUIntSlider(isShort ? UInt16Slider : UInt32Slider, MultiValueParent, m_owner, parent, row, 0);
+    auto* slider =
+        new EdUIntSlider(isShort ? UInt16Slider : UInt32Slider, MultiValueParent, m_owner, parent, row, 0);
     slider->setValidLimits(unsigned(m_intMinimum), unsigned(m_intMaximum), m_bounded);
     slider->setValue(text);
     return slider;
@@ -171,7 +174,8 @@ void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
         QItemDelegate::setModelData(editor, model, index);
 }
 
-void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* model, const QModelIndex& index) const
+void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* model,
+                                       const QModelIndex& index) const
 {
     if (!edit->isModified() || !m_owner->hasRow(index.row()))
         return;
@@ -197,18 +201,29 @@ void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
         // -32767 and not -32768; that is meant.
         edit->setValidator(new EdIntValidator(-32767, 32767, edit));
         break;
-    case EdMFieldTable::CELL_USHORT: edit->setValidator(new EdIntValidator(0, 65535, edit)); break;
+    case EdMFieldTable::CELL_USHORT:
+        edit->setValidator(new EdIntValidator(0, 65535, edit));
+        break;
     case EdMFieldTable::CELL_INT:
         edit->setValidator(new EdIntValidator(edit));
         break;
-    case EdMFieldTable::CELL_UINT: edit->setValidator(new QUIntValidator(edit)); break;
+    case EdMFieldTable::CELL_UINT:
+        edit->setValidator(new QUIntValidator(edit));
+        break;
     case EdMFieldTable::CELL_INT32:
         // Bottom above top, so nothing is ever acceptable; that is meant.
         edit->setValidator(new EdIntValidator(1, -1, edit));
         break;
-    case EdMFieldTable::CELL_UINT32: edit->setValidator(new QULongValidator(edit)); break;
-    case EdMFieldTable::CELL_FLOAT: edit->setValidator(EdRealValidator::forFloat(edit)); break;
-    case EdMFieldTable::CELL_DOUBLE: setGridValidator(*edit, AnyReal); break;
-    default: break;
+    case EdMFieldTable::CELL_UINT32:
+        edit->setValidator(new QULongValidator(edit));
+        break;
+    case EdMFieldTable::CELL_FLOAT:
+        edit->setValidator(EdRealValidator::forFloat(edit));
+        break;
+    case EdMFieldTable::CELL_DOUBLE:
+        setGridValidator(*edit, AnyReal);
+        break;
+    default:
+        break;
     }
 }

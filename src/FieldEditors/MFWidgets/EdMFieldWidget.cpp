@@ -133,8 +133,8 @@ void EdMFieldWidget::buildButtons()
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidgetContainer(), "m_accessBox");
     m_accessBox->setMaximumSize(setting("MFAccessWidth"), height);
     m_buttonsLayout->addWidget(m_accessBox);
-    m_accessMoveSpacer = new QSpacerItem(setting("MFAccessMoveSpacerWidth"), setting("MFAccessMoveSpacerHeight"),
-                                         QSizePolicy::Expanding);
+    m_accessMoveSpacer = new QSpacerItem(setting("MFAccessMoveSpacerWidth"),
+                                         setting("MFAccessMoveSpacerHeight"), QSizePolicy::Expanding);
     m_buttonsLayout->addItem(m_accessMoveSpacer);
     m_buttonsLayout->addItem(new QSpacerItem(0, 4));
     m_labelNumElement = new QLabel(getWidgetContainer());
@@ -200,8 +200,8 @@ void EdMFieldWidget::updateNumElementLabel()
 {
     const SoMField* field = editedField();
     if (field && m_labelNumElement)
-        m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum())
-                                   + QStringLiteral(" elements") + tr("</p>"));
+        m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
+                                   QStringLiteral(" elements") + tr("</p>"));
 }
 
 void EdMFieldWidget::initColumns(const QStringList& captions, int columns)

@@ -14,8 +14,9 @@ class QPushButton;
 class QSpacerItem;
 class SoMField;
 
-/// The common base of every editor of a multi-value field: caption, buttons, count and the table of elements. A
-/// subclass turns one element into text and back; see EdMFLineWidget and EdMFComponentsWidget. GUI thread only.
+/// The common base of every editor of a multi-value field: caption, buttons, count and the table of elements.
+/// A subclass turns one element into text and back; see EdMFLineWidget and EdMFComponentsWidget. GUI thread
+/// only.
 class EdMFieldWidget : public SpxFieldEditors
 {
     Q_OBJECT
@@ -52,7 +53,8 @@ public:
     EdMFieldTable* table() const { return m_table; }
     /// Whether the field, as it is now, has this element.
     bool hasRow(int row) const;
-    /// The start of a cell's text, at least `length` characters where there are as many; for those who draw it.
+    /// The start of a cell's text, at least `length` characters where there are as many; for those who draw
+    /// it.
     virtual QString getCellText(int row, int column, int length) const;
 
 public slots:

@@ -3,7 +3,8 @@
 
 #include "EdTablePopupWidget.h"
 
-EdTablePopupLineEdit::EdTablePopupLineEdit(int index, EdTablePopupWidget* owner, QWidget* parent, const char* name)
+EdTablePopupLineEdit::EdTablePopupLineEdit(int index, EdTablePopupWidget* owner, QWidget* parent,
+                                           const char* name)
     : QLineEdit(parent)
     , m_index(index)
     , m_owner(owner)

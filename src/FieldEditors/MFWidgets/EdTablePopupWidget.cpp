@@ -2,12 +2,12 @@
 #include "EdTablePopupWidget.h"
 
 #include "AccessButtonPrivate.h"
+#include "EdGridValidator.h"
 #include "EdMFieldTable.h"
 #include "EdTablePopupLineEdit.h"
+#include "EdText.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
-#include "EdGridValidator.h"
-#include "EdText.h"
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -76,7 +76,7 @@ void EdTablePopupWidget::buildPopup()
             auto* line = new EdTablePopupLineEdit(index, this, m_popup, "lineEdit");
             line->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
             m_popupFrameLayout->addWidget(line, row, column);
-            connect(line, SIGNAL(textChanged ( const QString & )), line, SLOT(setCurrentValue(const QString&)));
+            connect(line, SIGNAL(textChanged(const QString&)), line, SLOT(setCurrentValue(const QString&)));
             m_lines[index] = line;
         }
     }

@@ -6,8 +6,8 @@
 class EdTablePopupLineEdit;
 class QFrame;
 
-/// A list whose elements are too large for a table row: the table only lists them, and a popup edits the element that
-/// the access box names, as a grid of numbers.
+/// A list whose elements are too large for a table row: the table only lists them, and a popup edits the
+/// element that the access box names, as a grid of numbers.
 class EdTablePopupWidget : public EdMFieldWidget
 {
     Q_OBJECT
@@ -21,7 +21,8 @@ public:
     virtual QString getPopupValue(int row, int index);
 
     void setValidator(int kind);
-    /// Row -1 is the row to edit. Every change of a text writes the element and records a command; that is meant.
+    /// Row -1 is the row to edit. Every change of a text writes the element and records a command; that is
+    /// meant.
     void updatePopupLines(int row);
     void managePopFramePos();
     void revertCursorPosition();

@@ -7,8 +7,9 @@
 class QHeaderView;
 class QTableView;
 
-/// Lets the columns of a table fill its width, whatever that is: a table without a horizontal scroll bar hides what does
-/// not fit. Dragging the border between two columns moves that border; the shares found so survive every resize.
+/// Lets the columns of a table fill its width, whatever that is: a table without a horizontal scroll bar
+/// hides what does not fit. Dragging the border between two columns moves that border; the shares found so
+/// survive every resize.
 class ProportionalColumns : public QObject
 {
     Q_OBJECT

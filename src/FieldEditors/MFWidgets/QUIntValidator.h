@@ -3,8 +3,8 @@
 
 #include <QValidator>
 
-/// Bounds is the type of the range. The text is parsed as a 32-bit number whatever the range, on purpose, so that an
-/// input above 4294967295 is invalid even where the range would hold it.
+/// Bounds is the type of the range. The text is parsed as a 32-bit number whatever the range, on purpose, so
+/// that an input above 4294967295 is invalid even where the range would hold it.
 template <class Bounds>
 class UnsignedValidator : public QValidator
 {

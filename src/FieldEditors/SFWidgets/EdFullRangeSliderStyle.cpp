@@ -45,7 +45,7 @@ void EdFullRangeSliderStyle::install(QWidget* slider)
 }
 
 QRect EdFullRangeSliderStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
-                                       SubControl subControl, const QWidget* widget) const
+                                             SubControl subControl, const QWidget* widget) const
 {
     return askHalved(control, option, [&](const QStyleOptionComplex* o) {
         return QProxyStyle::subControlRect(control, o, subControl, widget);
@@ -53,7 +53,7 @@ QRect EdFullRangeSliderStyle::subControlRect(ComplexControl control, const QStyl
 }
 
 void EdFullRangeSliderStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                                          QPainter* painter, const QWidget* widget) const
+                                                QPainter* painter, const QWidget* widget) const
 {
     askHalved(control, option, [&](const QStyleOptionComplex* o) {
         QProxyStyle::drawComplexControl(control, o, painter, widget);
@@ -61,9 +61,9 @@ void EdFullRangeSliderStyle::drawComplexControl(ComplexControl control, const QS
 }
 
 QStyle::SubControl EdFullRangeSliderStyle::hitTestComplexControl(ComplexControl control,
-                                                           const QStyleOptionComplex* option,
-                                                           const QPoint& position,
-                                                           const QWidget* widget) const
+                                                                 const QStyleOptionComplex* option,
+                                                                 const QPoint& position,
+                                                                 const QWidget* widget) const
 {
     return askHalved(control, option, [&](const QStyleOptionComplex* o) {
         return QProxyStyle::hitTestComplexControl(control, o, position, widget);

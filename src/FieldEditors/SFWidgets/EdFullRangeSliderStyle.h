@@ -3,9 +3,9 @@
 
 #include <QProxyStyle>
 
-/// Draws sliders whose range is wider than an int can count. Qt's own styles divide by zero, or put the handle
-/// in a wrong place, where maximum - minimum exceeds the largest int; this one asks them with halved numbers
-/// instead.
+/// Draws sliders whose range is wider than an int can count. Qt's own styles divide by zero, or put the
+/// handle in a wrong place, where maximum - minimum exceeds the largest int; this one asks them with halved
+/// numbers instead.
 class EdFullRangeSliderStyle : public QProxyStyle
 {
 public:

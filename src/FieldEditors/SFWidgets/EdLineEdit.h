@@ -12,8 +12,8 @@ class EdLineEdit : public QLineEdit
 public:
     explicit EdLineEdit(QWidget* parent = nullptr);
 
-    /// The field gives `text`. Nothing moves where it stands already, nor while typing waits to be applied and
-    /// the field still gives what it gave before.
+    /// The field gives `text`. Nothing moves where it stands already, nor while typing waits to be applied
+    /// and the field still gives what it gave before.
     void showText(const QString& text);
     /// Puts `text` here whatever stands here now; Escape still goes back to what showText() was given.
     void putText(const QString& text);

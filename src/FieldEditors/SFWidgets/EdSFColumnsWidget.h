@@ -16,8 +16,8 @@ struct EdColumnLook {
     bool hasColumnMargin;
 };
 
-/// What the editors of several numbers share: one column for each component, its caption above its input, side
-/// by side.
+/// What the editors of several numbers share: one column for each component, its caption above its input,
+/// side by side.
 class EdSFColumnsWidget : public EdSFieldWidget
 {
     Q_OBJECT

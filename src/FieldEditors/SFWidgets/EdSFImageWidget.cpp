@@ -4,8 +4,8 @@
 #include "EdSFImageLabel.h"
 #include "FieldEditorSettings.h"
 
-#include <xsg/support/XsgMalloc.h>
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/support/XsgMalloc.h>
 
 #include <QBoxLayout>
 #include <QFrame>

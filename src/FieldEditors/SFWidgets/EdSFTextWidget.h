@@ -5,8 +5,8 @@
 
 class EdLineEdit;
 
-/// What the editors of texts share: a line edit that shows the bare text and applies it whenever editing ends,
-/// changed or not.
+/// What the editors of texts share: a line edit that shows the bare text and applies it whenever editing
+/// ends, changed or not.
 ///
 /// Field is the class of the edited field.
 template <class Field>

@@ -2,9 +2,9 @@
 #include "EdSlider.h"
 
 #include "EdFontFitting.h"
+#include "EdFullRangeSliderStyle.h"
 #include "EdLineEdit.h"
 #include "EdWheelFocusFilter.h"
-#include "EdFullRangeSliderStyle.h"
 #include "SpxFieldEditors.h"
 
 #include <QCheckBox>

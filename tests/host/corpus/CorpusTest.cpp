@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Every model of the importer's own test files opens with as many triangles as the importer finds in it, or is refused
-// in one sentence; none crashes the host or keeps it waiting. One test for each of the files' folders.
+// Every model of the importer's own test files opens with as many triangles as the importer finds in it, or
+// is refused in one sentence; none crashes the host or keeps it waiting. One test for each of the files'
+// folders.
 #include "import/ModelFormats.h"
 #include "import/ModelImport.h"
 #include "reader/MemoryLimit.h"
@@ -25,11 +26,11 @@ const QString Corpus = QStringLiteral(SCOPIX_MODEL_CORPUS "/");
 
 // Refused although the importer finds triangles in them, each for a reason.
 const QSet<QString> RefusedWithReason{
-    "ASE/ThreeCubesGreen_UTF16BE.ASE",                              // triangles without a surface
-    "ASE/ThreeCubesGreen_UTF16LE.ASE",                              // the same
-    "OFF/invalid.off",                                              // triangles without a surface
-    "STL/triangle_with_empty_solid.stl",                            // a mesh without points
-    "glTF2/BoxWithInfinites-glTF-Binary/BoxWithInfinites.glb",      // points at infinity
+    "ASE/ThreeCubesGreen_UTF16BE.ASE",                         // triangles without a surface
+    "ASE/ThreeCubesGreen_UTF16LE.ASE",                         // the same
+    "OFF/invalid.off",                                         // triangles without a surface
+    "STL/triangle_with_empty_solid.stl",                       // a mesh without points
+    "glTF2/BoxWithInfinites-glTF-Binary/BoxWithInfinites.glb", // points at infinity
 };
 
 long trianglesIn(const aiNode& node, const aiScene& scene)
@@ -56,7 +57,8 @@ long trianglesByImporter(const QString& path)
         limitMemoryFor(path);
         uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
         Assimp::Importer importer;
-        const aiScene* scene = importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);
+        const aiScene* scene =
+            importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);
         const long count = scene && scene->mRootNode ? trianglesIn(*scene->mRootNode, *scene) : 0;
         _exit(write(ends[1], &count, sizeof count) == sizeof count ? 0 : 1);
     }
@@ -124,7 +126,8 @@ class CorpusFolder : public testing::TestWithParam<std::string>
 TEST_P(CorpusFolder, OpensOrIsRefused)
 {
     const QStringList endings = modelEndings();
-    QDirIterator files(Corpus + QString::fromStdString(GetParam()), QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(Corpus + QString::fromStdString(GetParam()), QDir::Files,
+                       QDirIterator::Subdirectories);
     while (files.hasNext()) {
         files.next();
         if (endings.contains(files.fileInfo().suffix().toLower()))
@@ -142,7 +145,8 @@ std::vector<std::string> folders()
 
 INSTANTIATE_TEST_SUITE_P(All, CorpusFolder, testing::ValuesIn(folders()), [](const auto& test) {
     std::string name = test.param;
-    std::replace_if(name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+    std::replace_if(
+        name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
     return name;
 });
 

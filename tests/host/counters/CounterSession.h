@@ -3,8 +3,8 @@
 
 #include "app/HostApplication.h"
 #include "support/MessageBoxes.h"
-#include "window/MainWindow.h"
 #include "viewport/SceneView.h"
+#include "window/MainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,8 @@ public:
             qputenv(name, m_folder.path().toLocal8Bit());
         qputenv("XSG_PERFCOUNTER_ENABLE", "1");
         QDir(m_folder.path()).mkpath(QStringLiteral("data/Scopix"));
-        EXPECT_TRUE(QFile::copy(QStringLiteral(SCOPIX_SOURCE_DIR "/data/Scopix/PerfCounter.xml"), profileFile()));
+        EXPECT_TRUE(
+            QFile::copy(QStringLiteral(SCOPIX_SOURCE_DIR "/data/Scopix/PerfCounter.xml"), profileFile()));
     }
     ~CounterHome()
     {
@@ -57,8 +58,8 @@ private:
     int m_count = 0;
 };
 
-/// The program with a model and its counters switched on, on a real display, and ways to act in it as a person does:
-/// with mouse and keys, which go to the window as the window system would send them.
+/// The program with a model and its counters switched on, on a real display, and ways to act in it as a
+/// person does: with mouse and keys, which go to the window as the window system would send them.
 class CounterSession
 {
 public:
@@ -92,7 +93,10 @@ public:
         list()->scrollToItem(item);
         return inWindow(list()->viewport(), list()->visualItemRect(item).center());
     }
-    QListWidgetItem* listed(const QString& name) { return list()->findItems(name, Qt::MatchExactly).value(0); }
+    QListWidgetItem* listed(const QString& name)
+    {
+        return list()->findItems(name, Qt::MatchExactly).value(0);
+    }
 
     void click(QPoint place, Qt::KeyboardModifiers keys = {})
     {
@@ -164,12 +168,14 @@ public:
     /// How many pixels of a plot have about this colour.
     int pixelsOf(const char* plot, const QColor& color)
     {
-        const QImage image = part(plot)->findChild<QWidget*>(QStringLiteral("QwtPlotCanvas"))->grab().toImage();
+        const QImage image =
+            part(plot)->findChild<QWidget*>(QStringLiteral("QwtPlotCanvas"))->grab().toImage();
         int count = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
                 const QColor pixel = image.pixelColor(x, y);
-                count += std::abs(pixel.red() - color.red()) < 40 && std::abs(pixel.green() - color.green()) < 40 &&
+                count += std::abs(pixel.red() - color.red()) < 40 &&
+                         std::abs(pixel.green() - color.green()) < 40 &&
                          std::abs(pixel.blue() - color.blue()) < 40;
             }
         }

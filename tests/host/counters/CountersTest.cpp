@@ -145,13 +145,14 @@ TEST(Counters, EachViewShowsEachCounterInItsColour)
         session.orbit([&] { return samples.count() >= until; });
         ASSERT_TRUE(QTest::qWaitFor([&] { return samples.count() >= until + 3; }));
     }
-    for (const auto& [button, view, picture] :
-         {std::array{"m_curve", "m_curvePlot", "counters-curves"}, std::array{"m_graph", "m_graphPlot", "counters-bars"},
-          std::array{"m_text", "m_textView", "counters-text"}}) {
+    for (const auto& [button, view, picture] : {std::array{"m_curve", "m_curvePlot", "counters-curves"},
+                                                std::array{"m_graph", "m_graphPlot", "counters-bars"},
+                                                std::array{"m_text", "m_textView", "counters-text"}}) {
         session.click(button);
         const bool isPlot = session.part(view)->findChild<QWidget*>("QwtPlotCanvas");
         for (const char* name : {"Frames", "DrawCalls"}) {
-            // Curves that run together hide one another now and then, and on a busy machine a sample may see no frame.
+            // Curves that run together hide one another now and then, and on a busy machine a sample may see
+            // no frame.
             bool isSeen = false;
             const int next = samples.count() + 2;
             const int most = samples.count() + 100;

@@ -21,7 +21,10 @@ protected:
         autosave.start();
     }
     QStringList scenes() const { return QDir(path).entryList({"*.xsg"}); }
-    QByteArray saved() const { return scenes().isEmpty() ? QByteArray() : contentOf(path + '/' + scenes()[0]); }
+    QByteArray saved() const
+    {
+        return scenes().isEmpty() ? QByteArray() : contentOf(path + '/' + scenes()[0]);
+    }
     bool waitForSaved(const char* text)
     {
         return waitFor([&] { return saved().contains(text); });

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Pictures beside a scene are found wherever the program was started, and go along when the scene is saved elsewhere.
+// Pictures beside a scene are found wherever the program was started, and go along when the scene is saved
+// elsewhere.
 #include "SessionFiles.h"
 
 #include "import/TextureImageLoader.h"
@@ -43,8 +44,9 @@ protected:
     {
         SoImageView picture;
         // The file's first row is the picture's last.
-        return texture->getPicture(picture) && picture.width == 3 && picture.height == 2 && picture.components == 3 &&
-               picture.bytes[9] > 240 && picture.bytes[10] < 20 && picture.bytes[0] < 20;
+        return texture->getPicture(picture) && picture.width == 3 && picture.height == 2 &&
+               picture.components == 3 && picture.bytes[9] > 240 && picture.bytes[10] < 20 &&
+               picture.bytes[0] < 20;
     }
     std::string name() const { return texture->fileName.getValue().str(); }
 

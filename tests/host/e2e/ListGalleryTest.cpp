@@ -14,14 +14,23 @@
 namespace
 {
 
-// What to type into the cells of a list, by its type: for a list without an editor of its own a text of the element.
+// What to type into the cells of a list, by its type: for a list without an editor of its own a text of the
+// element.
 const char* cellText(const std::string& type)
 {
     static const std::map<std::string, const char*> texts{
-        {"MFBitMask", "RIGHT"},         {"MFBool", "FALSE"},         {"MFBox3f", "1 2 3 4 5 6"},
-        {"MFColor", "0.125"},           {"MFEnum", "AUTUMN"},        {"MFName", "Foot"},
-        {"MFString", "a \"new\" text"}, {"MFTime", "2.5"},           {"MFVec2d", "0.5 0.25"},
-        {"MFVec3d", "0.5 0.25 1"},      {"MFVec3s", "7 8 9"},        {"MFVec4d", "0.5 0.25 1 2"},
+        {"MFBitMask", "RIGHT"},
+        {"MFBool", "FALSE"},
+        {"MFBox3f", "1 2 3 4 5 6"},
+        {"MFColor", "0.125"},
+        {"MFEnum", "AUTUMN"},
+        {"MFName", "Foot"},
+        {"MFString", "a \"new\" text"},
+        {"MFTime", "2.5"},
+        {"MFVec2d", "0.5 0.25"},
+        {"MFVec3d", "0.5 0.25 1"},
+        {"MFVec3s", "7 8 9"},
+        {"MFVec4d", "0.5 0.25 1 2"},
         {"MFNode", "nothing of a node can be typed"},
     };
     const auto own = texts.find(type);
@@ -30,8 +39,8 @@ const char* cellText(const std::string& type)
 
 bool isPlainNumber(const std::string& type)
 {
-    return type == "MFFloat" || type == "MFDouble" || type == "MFInt32" || type == "MFUInt32" || type == "MFShort" ||
-           type == "MFUShort";
+    return type == "MFFloat" || type == "MFDouble" || type == "MFInt32" || type == "MFUInt32" ||
+           type == "MFShort" || type == "MFUShort";
 }
 
 class ListGallery : public testing::Test
@@ -58,7 +67,8 @@ protected:
         EXPECT_EQ(m_box->maximum(), count);
         EXPECT_EQ(m_box->minimum(), count > 0 ? 1 : 0);
         auto* label = m_session.inEditor<QLabel>("m_labelNumElement");
-        EXPECT_TRUE(label->text().contains(QStringLiteral(">%1 elements<").arg(count))) << label->text().toStdString();
+        EXPECT_TRUE(label->text().contains(QStringLiteral(">%1 elements<").arg(count)))
+            << label->text().toStdString();
     }
     // One act: it is one step of the undo history, and what is shown agrees afterwards.
     template <class Act>

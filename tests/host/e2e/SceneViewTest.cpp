@@ -2,12 +2,12 @@
 // The 3D view of a running host, while the scene is edited, saved, and changed by the application.
 #include <support/Session.h>
 
-#include "window/MainWindow.h"
 #include "viewport/SceneView.h"
+#include "window/MainWindow.h"
 
 #include <xsg/actions/SoSearchAction.h>
-#include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 
 #include <QFile>
@@ -128,9 +128,10 @@ TEST_F(LiveView, WhatIsTakenOutIsGoneAndPutBackLooksAsBefore)
     window().resize(1400, 700); // all of it is in the picture
     ASSERT_TRUE(open(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
     const QImage before = picture();
-    for (const char* name : {"camera", "sun", "sky", "haze", "stage", "solids", "stage light", "polished", "glass",
-                             "knife", "lamp", "leaning", "ring", "pick one", "near and far", "planks", "tiles", "corners",
-                             "palette", "thick", "steps", "caption"}) {
+    for (const char* name :
+         {"camera", "sun",     "sky",     "haze",    "stage", "solids",   "stage light",  "polished",
+          "glass",  "knife",   "lamp",    "leaning", "ring",  "pick one", "near and far", "planks",
+          "tiles",  "corners", "palette", "thick",   "steps", "caption"}) {
         const SoPath path = pathTo(name);
         ASSERT_GE(path.getLength(), 2) << name;
         const SoRef<SoNode> node(path.getTail());

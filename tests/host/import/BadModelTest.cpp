@@ -87,10 +87,12 @@ TEST_F(BadModel, GltfWithoutItsGeometryFile)
 TEST_F(BadModel, TruncatedPly)
 {
     const QByteArray whole = contentOf(shippedModel("rainbow.ply"));
-    expectRefusal(files.write("cut.ply", whole.left(whole.size() / 2)), "lines follow its header, which announces");
+    expectRefusal(files.write("cut.ply", whole.left(whole.size() / 2)),
+                  "lines follow its header, which announces");
     expectRefusal(files.write("cut.ply", whole.left(60)), "end_header");
-    expectRefusal(files.write("cut.ply", "ply\nformat binary_little_endian 1.0\nelement vertex 5\nproperty float x\n"
-                                         "end_header\n0123"),
+    expectRefusal(files.write("cut.ply",
+                              "ply\nformat binary_little_endian 1.0\nelement vertex 5\nproperty float x\n"
+                              "end_header\n0123"),
                   "4 bytes follow its header, which announces at least 20");
     expectRefusal(files.write("cut.ply", "ply\nelement vertex many\nend_header\n"), "should end in a count");
 }

@@ -4,8 +4,8 @@
 
 #include "import/ModelFormats.h"
 #include "import/SceneBuilder.h"
-#include "reader/ScopedCLocale.h"
 #include "reader/ModelReader.h"
+#include "reader/ScopedCLocale.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 
@@ -80,9 +80,11 @@ TEST_P(Formats, KeepNamesOfNodes)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Formats,
-                         testing::Values(Format{"gltf2", "model.gltf", true}, Format{"glb2", "model.glb", true},
-                                         Format{"obj", "model.obj", false}, Format{"stlb", "model.stl", false},
-                                         Format{"ply", "model.ply", false}, Format{"collada", "model.dae", true},
+                         testing::Values(Format{"gltf2", "model.gltf", true},
+                                         Format{"glb2", "model.glb", true}, Format{"obj", "model.obj", false},
+                                         Format{"stlb", "model.stl", false},
+                                         Format{"ply", "model.ply", false},
+                                         Format{"collada", "model.dae", true},
                                          Format{"fbxa", "model.fbx", true}));
 
 TEST(ModelFormats, AreKnownToTheImporter)
@@ -105,6 +107,7 @@ TEST_P(ShippedModels, Open)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ShippedModels,
-                         testing::Values("lighthouse.glb", "crate.gltf", "crate.obj", "knot.stl", "rainbow.ply"));
+                         testing::Values("lighthouse.glb", "crate.gltf", "crate.obj", "knot.stl",
+                                         "rainbow.ply"));
 
 } // namespace

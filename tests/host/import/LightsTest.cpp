@@ -8,12 +8,12 @@
 #include "viewport/SceneCamera.h"
 
 #include <xsg/actions/SoSearchAction.h>
-#include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/lights/SoSpotLight.h>
-#include <xsg/nodes/groups/SoSwitch.h>
 
 #include <assimp/scene.h>
 
@@ -32,8 +32,8 @@ Node* find(SoNode* root)
     return search.apply(root).empty() ? nullptr : static_cast<Node*>(search.getPaths().front().getTail());
 }
 
-// The crate, with lights and cameras of this text, each on a node that is moved by (1, 2, 3) within one that is
-// stretched twofold.
+// The crate, with lights and cameras of this text, each on a node that is moved by (1, 2, 3) within one that
+// is stretched twofold.
 class Lights : public testing::Test
 {
 protected:
@@ -45,9 +45,8 @@ protected:
         own["name"] = "Own";
         own["translation"] = QJsonArray{1, 2, 3};
         nodes.append(own);
-        nodes.append(QJsonObject{{"name", "Outer"},
-                                 {"scale", QJsonArray{2, 2, 2}},
-                                 {"children", QJsonArray{nodes.size() - 1}}});
+        nodes.append(QJsonObject{
+            {"name", "Outer"}, {"scale", QJsonArray{2, 2, 2}}, {"children", QJsonArray{nodes.size() - 1}}});
         model["nodes"] = nodes;
         QJsonArray scenes = model["scenes"].toArray();
         QJsonObject scene = scenes[0].toObject();
@@ -61,16 +60,16 @@ protected:
             model[key] = more[key];
         for (const char* beside : {"crate.bin", "crate.png"})
             files.write(beside, contentOf(shippedModel(beside)));
-        const ModelReadResult read =
-            readModel(files.write("lit.gltf", QJsonDocument(model).toJson()));
+        const ModelReadResult read = readModel(files.write("lit.gltf", QJsonDocument(model).toJson()));
         EXPECT_EQ(read.error, "");
         return buildScene(read.data, "lit");
     }
     SoRef<SoSeparator> openLight(const QByteArray& light)
     {
-        return open(R"({"extensionsUsed":["KHR_lights_punctual"],"extensions":{"KHR_lights_punctual":{"lights":[)" +
-                        light + "]}}}",
-                    R"({"extensions":{"KHR_lights_punctual":{"light":0}}})");
+        return open(
+            R"({"extensionsUsed":["KHR_lights_punctual"],"extensions":{"KHR_lights_punctual":{"lights":[)" +
+                light + "]}}}",
+            R"({"extensions":{"KHR_lights_punctual":{"light":0}}})");
     }
     ModelFiles files;
 };
@@ -94,15 +93,16 @@ TEST_F(Lights, ABrighterLightReachesFarther)
         auto* light = find<SoPointLight>(scene.get());
         const SbVec3f fading = light->attenuation.getValue();
         EXPECT_LE(light->intensity.getValue(), 1);
-        return light->intensity.getValue() / (fading[0] + fading[1] * distance + fading[2] * distance * distance);
+        return light->intensity.getValue() /
+               (fading[0] + fading[1] * distance + fading[2] * distance * distance);
     };
     EXPECT_NEAR(strengthAt("80", 4) / strengthAt("0.8", 4), 100, 0.1);
 }
 
 TEST_F(Lights, ASpotLightShinesWithinItsCone)
 {
-    const auto scene = openLight(
-        R"({"type":"spot","intensity":0.75,"spot":{"innerConeAngle":0.2,"outerConeAngle":0.6}})");
+    const auto scene =
+        openLight(R"({"type":"spot","intensity":0.75,"spot":{"innerConeAngle":0.2,"outerConeAngle":0.6}})");
     auto* light = find<SoSpotLight>(scene.get());
     ASSERT_TRUE(light);
     EXPECT_EQ(light->location.getValue(), SbVec3f(2, 4, 6));
@@ -113,8 +113,8 @@ TEST_F(Lights, ASpotLightShinesWithinItsCone)
 
 TEST_F(Lights, ASpotLightWithoutASoftEdgeHasNoDropOff)
 {
-    const auto scene = openLight(
-        R"({"type":"spot","intensity":0.75,"spot":{"innerConeAngle":0.6,"outerConeAngle":0.6}})");
+    const auto scene =
+        openLight(R"({"type":"spot","intensity":0.75,"spot":{"innerConeAngle":0.6,"outerConeAngle":0.6}})");
     auto* light = find<SoSpotLight>(scene.get());
     ASSERT_TRUE(light);
     EXPECT_EQ(light->dropOff.getValue(), 0);
@@ -134,9 +134,9 @@ TEST_F(Lights, ACameraWithoutPerspectiveKeepsItsHeight)
 
 TEST_F(Lights, ACameraWithPerspectiveKeepsItsAngle)
 {
-    const auto scene = open(
-        R"({"cameras":[{"type":"perspective","perspective":{"aspectRatio":2,"yfov":0.8,"znear":0.5}}]})",
-        R"({"camera":0})");
+    const auto scene =
+        open(R"({"cameras":[{"type":"perspective","perspective":{"aspectRatio":2,"yfov":0.8,"znear":0.5}}]})",
+             R"({"camera":0})");
     auto* camera = find<SoPerspectiveCamera>(scene.get());
     ASSERT_TRUE(camera);
     EXPECT_NEAR(camera->heightAngle.getValue(), 0.8F, 1e-4F);

@@ -26,7 +26,10 @@ protected:
         });
         QObject::connect(&import, &ModelImport::cancelled, [this] { told << "cancelled"; });
     }
-    bool waitForEnd() { return QTest::qWaitFor([this] { return !told.isEmpty(); }, 60000); }
+    bool waitForEnd()
+    {
+        return QTest::qWaitFor([this] { return !told.isEmpty(); }, 60000);
+    }
     QProcess* reader() { return import.findChild<QProcess*>(); }
     QProgressDialog* dialog() { return window.findChild<QProgressDialog*>("importProgress"); }
 
@@ -77,7 +80,8 @@ TEST_F(Import, AReaderThatDiesIsToldInOneSentence)
     kill(static_cast<pid_t>(reader()->processId()), SIGKILL);
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(told, QStringList{"failed"});
-    EXPECT_TRUE(error.contains("lighthouse.glb” cannot be opened: it contradicts itself")) << qPrintable(error);
+    EXPECT_TRUE(error.contains("lighthouse.glb” cannot be opened: it contradicts itself"))
+        << qPrintable(error);
 }
 
 TEST_F(Import, AReaderThatComputesForEverIsToldToo)
@@ -107,7 +111,8 @@ TEST_F(Import, AFewBytesThatAskForAllMemoryAreRefused)
     const ModelFiles files;
     import.start(files.write("many.off", "OFF\n1400000000 1 0\n0 0 0\n0 0 1\n0 1 0\n3 0 1 2\n"));
     ASSERT_TRUE(waitForEnd());
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) // which end the reader before it can tell why
+#if defined(__SANITIZE_ADDRESS__) ||                                                                         \
+    defined(__SANITIZE_THREAD__) // which end the reader before it can tell why
     const char* const sentence = "many.off” cannot be opened";
 #else
     const char* const sentence = "many.off” cannot be opened: it asks for more memory";

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ModelFiles.h"
 
-#include "import/TransformBuilder.h"
 #include "import/SceneBuilder.h"
+#include "import/TransformBuilder.h"
 #include "reader/ModelReader.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/properties/SoMaterial.h>
-#include <xsg/nodes/transforms/SoMatrixTransform.h>
 #include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/transforms/SoMatrixTransform.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 using namespace scopix;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/DataDirectory.h"
 
-#include <xsg/support/SoPreferences.h>
 #include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/support/SoPreferences.h>
 
 #include <gtest/gtest.h>
 
@@ -84,8 +84,8 @@ TEST_F(Home, TheShippedProfilesNameOnlyCountersThatExist)
         EXPECT_GT(names.size(), 0);
         for (int i = 0; i < names.size(); ++i) {
             const QString name = names.at(i).toElement().text();
-            EXPECT_TRUE(custom.contains(name)
-                        || SoPerfCounterManager::getInstance()->getCounter(name.toLatin1().constData()))
+            EXPECT_TRUE(custom.contains(name) ||
+                        SoPerfCounterManager::getInstance()->getCounter(name.toLatin1().constData()))
                 << name.toStdString();
         }
     }

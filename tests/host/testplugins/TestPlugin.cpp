@@ -5,8 +5,8 @@
 #include <scopix/SpxPlugin.h>
 #include <scopix/SpxServices.h>
 #include <scopix/SpxShell.h>
-#include <xsg/core/SoFieldContainer.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 
 #include <QApplication>
 #include <QDockWidget>

@@ -281,7 +281,8 @@ TEST_F(History, ACommandThatThrowsIsToldAndDropped)
     EXPECT_EQ(stack().index(), 0);
 }
 
-// What was saved and what was not must not be mixed up by steps that go, or edits would be lost without a question.
+// What was saved and what was not must not be mixed up by steps that go, or edits would be lost without a
+// question.
 TEST_F(History, TheSavedStateIsKeptWhereAStepBeforeItGoes)
 {
     SoMaterial* gone = newMaterial();

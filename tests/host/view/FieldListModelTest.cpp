@@ -22,8 +22,14 @@ class FieldList : public testing::Test
 {
 protected:
     FieldList() { model.setContainer(material.get()); }
-    QModelIndex cell(const SoField& field, int column) const { return model.indexOf(&field).siblingAtColumn(column); }
-    QString value(const SoField& field) const { return model.data(cell(field, FieldListModel::ValueColumn)).toString(); }
+    QModelIndex cell(const SoField& field, int column) const
+    {
+        return model.indexOf(&field).siblingAtColumn(column);
+    }
+    QString value(const SoField& field) const
+    {
+        return model.data(cell(field, FieldListModel::ValueColumn)).toString();
+    }
 
     SoRef<SoMaterial> material{new SoMaterial};
     FieldListModel model;
@@ -55,7 +61,10 @@ TEST_F(FieldList, MarksDefaultIgnoredAndConnected)
 {
     const auto flag = [&](int role) { return model.data(cell(material->transparency, 0), role).toBool(); };
     const auto icon = [&] {
-        return model.data(cell(material->transparency, 0), Qt::DecorationRole).value<QIcon>().pixmap(14).toImage();
+        return model.data(cell(material->transparency, 0), Qt::DecorationRole)
+            .value<QIcon>()
+            .pixmap(14)
+            .toImage();
     };
     EXPECT_TRUE(flag(FieldListModel::DefaultRole));
     const QImage asDefault = icon();
@@ -84,14 +93,18 @@ TEST_F(FieldList, MarksAndPatchesAreSeenInASelectedRowToo)
     const QImage mark = icon(material->transparency, 0, QIcon::Selected);
     EXPECT_GT(qGray(mark.pixel(mark.rect().center())), 200) << "light on the highlight";
     const int value = FieldListModel::ValueColumn;
-    EXPECT_EQ(icon(material->emissiveColor, value, QIcon::Selected), icon(material->emissiveColor, value, QIcon::Normal));
+    EXPECT_EQ(icon(material->emissiveColor, value, QIcon::Selected),
+              icon(material->emissiveColor, value, QIcon::Normal));
 }
 
 TEST_F(FieldList, ShowsColoursAsPatches)
 {
     material->emissiveColor.setValue(1, 0, 0);
     const auto patch = [&](const SoField& field) {
-        return model.data(cell(field, FieldListModel::ValueColumn), Qt::DecorationRole).value<QIcon>().pixmap(14).toImage();
+        return model.data(cell(field, FieldListModel::ValueColumn), Qt::DecorationRole)
+            .value<QIcon>()
+            .pixmap(14)
+            .toImage();
     };
     EXPECT_EQ(patch(material->emissiveColor).pixelColor(7, 7), QColor(Qt::red));
     EXPECT_FALSE(patch(material->diffuseColor).isNull());

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "services/HostServices.h"
-#include "support/UserNotifier.h"
+#include "window/MainWindow.h"
 #include "panels/FieldListModel.h"
 #include "panels/FieldListView.h"
-#include "window/MainWindow.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
+#include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
 
 #include <xsg/core/SoField.h>
-#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <scopix/SpxCommand.h>
@@ -76,7 +76,8 @@ TEST_F(Window, OpensAModelAndSelectsAField)
     auto* node = window.getTree().getModel().nodeAt(window.getTree().currentIndex());
     EXPECT_EQ(node, services.selectedNode());
     EXPECT_EQ(window.getFields().getModel().getContainer(), node);
-    EXPECT_EQ(window.getFields().getModel().fieldAt(window.getFields().currentIndex()), services.selectedField());
+    EXPECT_EQ(window.getFields().getModel().fieldAt(window.getFields().currentIndex()),
+              services.selectedField());
 }
 
 TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
@@ -301,10 +302,10 @@ TEST(Themes, AreReadableBoth)
         applyTheme(theme);
         const QPalette p = QApplication::palette();
         EXPECT_EQ(isDark(p), theme == Theme::Dark);
-        for (const auto& [ground, text] :
-             {std::make_pair(QPalette::Window, QPalette::WindowText), std::make_pair(QPalette::Base, QPalette::Text),
-              std::make_pair(QPalette::Button, QPalette::ButtonText),
-              std::make_pair(QPalette::Highlight, QPalette::HighlightedText)})
+        for (const auto& [ground, text] : {std::make_pair(QPalette::Window, QPalette::WindowText),
+                                           std::make_pair(QPalette::Base, QPalette::Text),
+                                           std::make_pair(QPalette::Button, QPalette::ButtonText),
+                                           std::make_pair(QPalette::Highlight, QPalette::HighlightedText)})
             EXPECT_GT(std::abs(p.color(ground).lightness() - p.color(text).lightness()), 90);
     }
     EXPECT_EQ(themeFromName("dark"), Theme::Dark);

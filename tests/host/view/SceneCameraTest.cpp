@@ -4,16 +4,16 @@
 
 #include "viewport/ViewCamera.h"
 
-#include <xsg/values/SbRotation.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/groups/SoGroup.h>
-#include <xsg/nodes/groups/SoLevelOfDetail.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/nodes/groups/SoLevelOfDetail.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/render/SoOffscreenRenderer.h>
+#include <xsg/values/SbRotation.h>
 
 using namespace scopix;
 
@@ -46,8 +46,9 @@ protected:
     {
         const SbMatrix own = seen().getViewMatrix() * seen().getProjectionMatrix(1.5F);
         const SbMatrix wanted = other.getViewMatrix() * other.getProjectionMatrix(1.5F);
-        return std::equal(own.getValue(), own.getValue() + 16, wanted.getValue(),
-                          [](float a, float b) { return std::abs(a - b) <= Near * std::max(1.0F, std::abs(b)); });
+        return std::equal(own.getValue(), own.getValue() + 16, wanted.getValue(), [](float a, float b) {
+            return std::abs(a - b) <= Near * std::max(1.0F, std::abs(b));
+        });
     }
     QImage picture() { return pictureOf(view); }
 
@@ -97,7 +98,9 @@ TEST_F(SceneWithCamera, OpensSeenThroughOneWithoutPerspective)
 TEST_F(SceneWithCamera, ANarrowViewSeesAsMuchAtItsSides)
 {
     view.setScene(scene.get());
-    const auto wide = [this] { return float((placeOf(view, {1, 0, 1}) - placeOf(view, {-1, 0, -1})).x()) / float(view.width()); };
+    const auto wide = [this] {
+        return float((placeOf(view, {1, 0, 1}) - placeOf(view, {-1, 0, -1})).x()) / float(view.width());
+    };
     const float part = wide();
     view.resize(900, 600);
     EXPECT_NEAR(wide(), part, 0.01F);

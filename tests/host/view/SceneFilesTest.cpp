@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What a person does with files, in the window.
 #include "services/HostServices.h"
-#include "support/UserNotifier.h"
 #include "support/SetText.h"
-#include "window/MainWindow.h"
+#include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
+#include "window/MainWindow.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
@@ -21,7 +21,8 @@ QString shipped(const char* name)
     return QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/") + QLatin1String(name);
 }
 
-// Does something to the next modal dialog once it is there. The progress of a model that takes long to read asks nothing.
+// Does something to the next modal dialog once it is there. The progress of a model that takes long to read
+// asks nothing.
 class WithDialog : public QObject
 {
 public:
@@ -147,7 +148,8 @@ protected:
     {
         return QTest::qWaitFor(
             [&] {
-                return !kept().isEmpty() && contentOf(home.filePath("scopix/recovery/") + kept()[0]).contains(text);
+                return !kept().isEmpty() &&
+                       contentOf(home.filePath("scopix/recovery/") + kept()[0]).contains(text);
             },
             20000);
     }
@@ -445,7 +447,8 @@ TEST_F(Files, WithoutASessionNothingIsKept)
 QImage pictureOf(Program& program)
 {
     program.window.getView().viewAll();
-    const QString path = QDir::temp().filePath(QStringLiteral("scopix-%1.png").arg(QCoreApplication::applicationPid()));
+    const QString path =
+        QDir::temp().filePath(QStringLiteral("scopix-%1.png").arg(QCoreApplication::applicationPid()));
     program.services.clearSelection();
     EXPECT_TRUE(program.window.saveScreenshot(path));
     QImage picture(path);
@@ -456,7 +459,8 @@ QImage pictureOf(Program& program)
 
 TEST_F(Files, AModelThatWasTunedLooksTheSameWhenSavedAndOpenedAgain)
 {
-    const std::pair<const char*, const char*> models[] = {{"crate.gltf", "Planks"}, {"lighthouse.glb", "RoofRed"}};
+    const std::pair<const char*, const char*> models[] = {{"crate.gltf", "Planks"},
+                                                          {"lighthouse.glb", "RoofRed"}};
     for (const auto& [model, material] : models) {
         ASSERT_TRUE(program->open(shipped(model)));
         const QImage untuned = pictureOf(*program);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -297,7 +297,8 @@ protected:
         root->addChild(first.get());
         root->addChild(second.get());
         view.setScene(root.get());
-        QObject::connect(&view, &SceneTreeView::nodeSelected, [this](SoNode* node) { selected.push_back(node); });
+        QObject::connect(&view, &SceneTreeView::nodeSelected,
+                         [this](SoNode* node) { selected.push_back(node); });
         view.resize(300, 300);
         view.show();
     }

@@ -3,10 +3,10 @@
 
 #include "window/DefaultScene.h"
 
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/groups/SoInstances.h>
-#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoSpin.h>
 #include <xsg/nodes/transforms/SoTransform.h>
@@ -58,8 +58,8 @@ protected:
     void drag(Qt::MouseButton button, const QPoint& from, const QPoint& to, Qt::KeyboardModifiers keys = {})
     {
         const auto send = [&](QEvent::Type type, const QPoint& at, Qt::MouseButtons held) {
-            QMouseEvent event(type, at, view.mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : button, held,
-                              keys);
+            QMouseEvent event(type, at, view.mapToGlobal(at),
+                              type == QEvent::MouseMove ? Qt::NoButton : button, held, keys);
             QCoreApplication::sendEvent(&view, &event);
         };
         send(QEvent::MouseButtonPress, from, button);
@@ -355,7 +355,8 @@ TEST_F(View, ShowsAllOfOneNode)
 TEST_F(View, ShowsAllOfANodeThatIsRepeated)
 {
     auto* copies = new SoInstances;
-    copies->matrices.setValues(std::vector<SbMatrix>{SbMatrix::translation({0, 5, 0}), SbMatrix::translation({0, 9, 0})});
+    copies->matrices.setValues(
+        std::vector<SbMatrix>{SbMatrix::translation({0, 5, 0}), SbMatrix::translation({0, 9, 0})});
     SoRef<SoSphere> ball(new SoSphere);
     auto* group = new SoGroup; // does not isolate: what follows is moved too
     auto* moved = new SoTransform;

@@ -38,7 +38,8 @@ inline QRect partOf(const QImage& picture)
 inline QPoint placeOf(SceneView& view, const SbVec3f& point)
 {
     const float aspect = float(view.width()) / float(view.height());
-    const SbMatrix toPicture = view.getCamera().getViewMatrix() * view.getCamera().getProjectionMatrix(aspect);
+    const SbMatrix toPicture =
+        view.getCamera().getViewMatrix() * view.getCamera().getProjectionMatrix(aspect);
     const SbVec3f p = toPicture.multPoint(point);
     return {int((p[0] + 1) / 2 * float(view.width())), int((1 - p[1]) / 2 * float(view.height()))};
 }

@@ -2,8 +2,8 @@
 // The way of a picture to the screen: from a model's file over OpenGL inside the window, and through an edit.
 #include <support/Session.h>
 
-#include "window/MainWindow.h"
 #include "viewport/SceneView.h"
+#include "window/MainWindow.h"
 
 #include <xsg/errors/SoGLError.h>
 

@@ -11,8 +11,6 @@
 #include <QSlider>
 #include <QtTest>
 
-
-
 namespace
 {
 

@@ -6,10 +6,10 @@
 #include <thread>
 #include <vector>
 
-/// A flood of text: four threads write to std::cout and std::cerr, in blocks and by single characters, and two
-/// report scene-graph errors, while the GUI thread may write its own share. Every writer numbers its lines,
-/// and now and then writes what no console is glad of: NUL, control characters, bytes that are no UTF-8, line
-/// ends of all kinds, and once a line of ten megabytes.
+/// A flood of text: four threads write to std::cout and std::cerr, in blocks and by single characters, and
+/// two report scene-graph errors, while the GUI thread may write its own share. Every writer numbers its
+/// lines, and now and then writes what no console is glad of: NUL, control characters, bytes that are no
+/// UTF-8, line ends of all kinds, and once a line of ten megabytes.
 class Flood
 {
 public:

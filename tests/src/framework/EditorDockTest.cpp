@@ -7,8 +7,8 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/fields/SoSFEnum.h>
-#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QDockWidget>
 

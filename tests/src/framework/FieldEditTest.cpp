@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The road of one edit: command, write, undo stack.
-#include "EdFreshDefault.h"
 #include "EdFieldEdits.h"
+#include "EdFreshDefault.h"
 
 #include <support/TestHost.h>
 #include <xsg/fields/SoMFInt32.h>

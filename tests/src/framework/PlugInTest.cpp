@@ -96,22 +96,15 @@ TestHost::Log namesOf(const SpxPlugin& plugin)
 }
 
 // Every name in the order in which the host is to see it.
-const TestHost::Log Registration = {"Profile Selector", "Console",    "PerfCounter",
-                                    "MFColor",          "MField",     "MFDouble",
-                                    "SFFilePathString", "MFFloat",    "MFInt32",
-                                    "MFMatrix",         "MFPlane",    "MFRotation",
-                                    "MFShort",          "MFString",   "MFUInt32",
-                                    "MFUShort",         "MFVec2f",    "MFVec2i32",
-                                    "MFVec2s",          "MFVec3f",    "MFVec4f",
-                                    "SFBitMask",        "SFBool",     "SFBox3s",
-                                    "SFColor",          "SFEnum",     "SFDouble",
-                                    "SFFloat",          "SFImage",    "SFInt32",
-                                    "SField",           "SFMatrix",   "SFName",
-                                    "SFPlane",          "SFRotation", "SFShort",
-                                    "SFString",         "SFUInt32",   "SFUShort",
-                                    "SFVec2f",          "SFVec2i32",  "SFVec2s",
-                                    "SFVec3f",          "SFVec4f",    "Field Editor",
-                                    "Node Editor"};
+const TestHost::Log Registration = {
+    "Profile Selector", "Console",  "PerfCounter",  "MFColor",    "MField",     "MFDouble",
+    "SFFilePathString", "MFFloat",  "MFInt32",      "MFMatrix",   "MFPlane",    "MFRotation",
+    "MFShort",          "MFString", "MFUInt32",     "MFUShort",   "MFVec2f",    "MFVec2i32",
+    "MFVec2s",          "MFVec3f",  "MFVec4f",      "SFBitMask",  "SFBool",     "SFBox3s",
+    "SFColor",          "SFEnum",   "SFDouble",     "SFFloat",    "SFImage",    "SFInt32",
+    "SField",           "SFMatrix", "SFName",       "SFPlane",    "SFRotation", "SFShort",
+    "SFString",         "SFUInt32", "SFUShort",     "SFVec2f",    "SFVec2i32",  "SFVec2s",
+    "SFVec3f",          "SFVec4f",  "Field Editor", "Node Editor"};
 
 } // namespace
 

@@ -80,7 +80,8 @@ TEST(Cells, ASixteenBitCellRefusesTheLowestNumber)
 TEST(Cells, AThirtyTwoBitLineAcceptsNothing)
 {
     for (const char* text : {"0", "1", "-1", "5", "-", "12"})
-        EXPECT_NE(stateInCell<EdMFInt32Widget>(EdMFieldTable::CELL_INT32, text), QValidator::Acceptable) << text;
+        EXPECT_NE(stateInCell<EdMFInt32Widget>(EdMFieldTable::CELL_INT32, text), QValidator::Acceptable)
+            << text;
 }
 
 // No editor shows unsigned integers of 32 bits in a line, so the validator itself is asked.
@@ -130,7 +131,8 @@ TEST(Cells, UnsignedValidatorsParseThirtyTwoBits)
     const QUIntValidator narrow;
     const QULongValidator wide;
     EXPECT_EQ(wide.top(), 18446744073709551615ULL);
-    for (const QValidator* v : {static_cast<const QValidator*>(&narrow), static_cast<const QValidator*>(&wide)}) {
+    for (const QValidator* v :
+         {static_cast<const QValidator*>(&narrow), static_cast<const QValidator*>(&wide)}) {
         EXPECT_EQ(stateOf(*v, ""), QValidator::Acceptable);
         EXPECT_EQ(stateOf(*v, "4294967295"), QValidator::Acceptable);
         EXPECT_EQ(stateOf(*v, "4294967296"), QValidator::Invalid);

@@ -76,7 +76,8 @@ TYPED_TEST(Columns, FillTheTableWhateverItsWidth)
     EXPECT_EQ(this->widthOfAll(), f.table().viewport()->width());
 }
 
-// Columns can be made wider by hand; the bar below is always off and the one beside always on, which is meant.
+// Columns can be made wider by hand; the bar below is always off and the one beside always on, which is
+// meant.
 TYPED_TEST(Columns, CanBeResizedAndHaveOnlyTheBarBeside)
 {
     auto& f = this->f;

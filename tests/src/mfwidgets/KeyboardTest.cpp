@@ -143,7 +143,8 @@ TYPED_TEST(EveryListEditor, OpensACellThatHasAName)
     this->f.key(Qt::Key_F2);
     ASSERT_TRUE(QApplication::focusWidget());
     const QString name = table.indexWidget(table.currentIndex())->accessibleName();
-    const QString caption = table.columnCount() > 1 ? ", " + table.horizontalHeaderItem(column)->text() : QString();
+    const QString caption =
+        table.columnCount() > 1 ? ", " + table.horizontalHeaderItem(column)->text() : QString();
     EXPECT_EQ(name.toStdString(), ("Element 1" + caption).toStdString());
     EXPECT_FALSE(QApplication::focusWidget()->accessibleName().isEmpty());
 }

@@ -67,7 +67,8 @@ TEST_F(LargeList, OpensAndScrollsToAnyRow)
         expectCheap("scroll", [&] { f.box().setValue(row); });
         if (row > 0) {
             EXPECT_EQ(f.table().currentRow(), std::min(row, Million - 1));
-            EXPECT_TRUE(f.table().viewport()->rect().intersects(f.table().visualRect(f.table().currentIndex())));
+            EXPECT_TRUE(
+                f.table().viewport()->rect().intersects(f.table().visualRect(f.table().currentIndex())));
         }
         f.table().viewport()->repaint();
         EXPECT_GT(f.editor.asked, 0) << "what is visible is drawn";

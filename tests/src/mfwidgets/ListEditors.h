@@ -31,10 +31,12 @@ struct Kind {
     using Field = FieldType;
 };
 
-using ListEditors = testing::Types<
-    Kind<EdMFColorWidget, SoMFColor>, Kind<EdMFDefaultFieldWidget, SoMFBool>, Kind<EdMFDoubleWidget, SoMFDouble>,
-    Kind<EdMFFloatWidget, SoMFFloat>, Kind<EdMFInt32Widget, SoMFInt32>, Kind<EdMFMatrixWidget, SoMFMatrix>,
-    Kind<EdMFPlaneWidget, SoMFPlane>, Kind<EdMFRotationWidget, SoMFRotation>, Kind<EdMFShortWidget, SoMFShort>,
-    Kind<EdMFStringWidget, SoMFString>, Kind<EdMFUInt32Widget, SoMFUInt32>, Kind<EdMFUShortWidget, SoMFUShort>,
-    Kind<EdMFVec2fWidget, SoMFVec2f>, Kind<EdMFVec2i32Widget, SoMFVec2i32>, Kind<EdMFVec2sWidget, SoMFVec2s>,
-    Kind<EdMFVec3fWidget, SoMFVec3f>, Kind<EdMFVec4fWidget, SoMFVec4f>>;
+using ListEditors = testing::Types<Kind<EdMFColorWidget, SoMFColor>, Kind<EdMFDefaultFieldWidget, SoMFBool>,
+                                   Kind<EdMFDoubleWidget, SoMFDouble>, Kind<EdMFFloatWidget, SoMFFloat>,
+                                   Kind<EdMFInt32Widget, SoMFInt32>, Kind<EdMFMatrixWidget, SoMFMatrix>,
+                                   Kind<EdMFPlaneWidget, SoMFPlane>, Kind<EdMFRotationWidget, SoMFRotation>,
+                                   Kind<EdMFShortWidget, SoMFShort>, Kind<EdMFStringWidget, SoMFString>,
+                                   Kind<EdMFUInt32Widget, SoMFUInt32>, Kind<EdMFUShortWidget, SoMFUShort>,
+                                   Kind<EdMFVec2fWidget, SoMFVec2f>, Kind<EdMFVec2i32Widget, SoMFVec2i32>,
+                                   Kind<EdMFVec2sWidget, SoMFVec2s>, Kind<EdMFVec3fWidget, SoMFVec3f>,
+                                   Kind<EdMFVec4fWidget, SoMFVec4f>>;

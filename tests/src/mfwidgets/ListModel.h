@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-/// A list as a test thinks of it: the texts of its elements, and the edits that can be taken back. Knows of the field's
-/// type only how one element is written.
+/// A list as a test thinks of it: the texts of its elements, and the edits that can be taken back. Knows of
+/// the field's type only how one element is written.
 class ListModel
 {
 public:
@@ -28,7 +28,10 @@ public:
     const Texts& elements() const { return m_elements; }
     int count() const { return int(m_elements.size()); }
     /// Empty outside.
-    std::string at(int index) const { return index < count() ? m_elements[std::size_t(index)] : std::string(); }
+    std::string at(int index) const
+    {
+        return index < count() ? m_elements[std::size_t(index)] : std::string();
+    }
 
     /// What happens elsewhere: nothing of it can be taken back.
     void insert(int start, int howMany)
@@ -79,7 +82,8 @@ public:
     }
     void edit(int row, const std::string& text)
     {
-        record([this, row, text] { write(row, text); }, [this, row, before = at(row)] { write(row, before); });
+        record([this, row, text] { write(row, text); },
+               [this, row, before = at(row)] { write(row, before); });
     }
 
     int undoCount() const { return int(m_done); }

@@ -58,7 +58,10 @@ struct MultiFixture {
         QKeyEvent event(type, key, modifiers);
         QApplication::sendEvent(&table(), &event);
     }
-    QString count() { return editor.getWidgetContainer()->template findChild<QLabel*>("m_labelNumElement")->text(); }
+    QString count()
+    {
+        return editor.getWidgetContainer()->template findChild<QLabel*>("m_labelNumElement")->text();
+    }
     std::string text() const
     {
         SbString text;

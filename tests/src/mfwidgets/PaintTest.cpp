@@ -45,7 +45,8 @@ QImage drawn(const QString& text, int width, const QColor& pen, const QBrush& ba
     return image;
 }
 
-// As many characters as stay strictly narrower than the cell, less four pixels, together with the dots; at least one.
+// As many characters as stay strictly narrower than the cell, less four pixels, together with the dots; at
+// least one.
 QString fitting(const QString& text, int width)
 {
     QImage image = blank(1);

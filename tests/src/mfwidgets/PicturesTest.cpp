@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Each editor as a person sees it, with what the gallery of fields holds. The pictures of the documentation come from
-// here: SCOPIX_PICTURES names the folder that they go to.
+// Each editor as a person sees it, with what the gallery of fields holds. The pictures of the documentation
+// come from here: SCOPIX_PICTURES names the folder that they go to.
 #include "ListEditors.h"
 #include "MultiFixture.h"
 

@@ -144,16 +144,19 @@ TEST(Rows, MovesActOnTheRowOfTheAccessBoxAndTraceIt)
     f.table().setCurrentCell(0, 0);
     testing::internal::CaptureStderr();
     f.click("m_upButton");
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("EdMFieldTable::swapUpRow() 2\n"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("EdMFieldTable::swapUpRow() 2\n"),
+              std::string::npos);
     EXPECT_EQ(f.text(), "[ 1, 3, 2 ]");
     EXPECT_EQ(f.table().currentRow(), 1);
     EXPECT_EQ(f.box().value(), 2);
     testing::internal::CaptureStderr();
     f.click("m_downButton");
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("EdMFieldTable::swapDownRow() 1\n"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("EdMFieldTable::swapDownRow() 1\n"),
+              std::string::npos);
     EXPECT_EQ(f.text(), "[ 1, 2, 3 ]");
     EXPECT_EQ(f.table().currentRow(), 2);
-    EXPECT_EQ(f.host.takeLog(), (Log{"executeCommand SpxMFSwapRowsCommand", "executeCommand SpxMFSwapRowsCommand"}));
+    EXPECT_EQ(f.host.takeLog(),
+              (Log{"executeCommand SpxMFSwapRowsCommand", "executeCommand SpxMFSwapRowsCommand"}));
     f.host.undo();
     TestHost::pump();
     EXPECT_EQ(f.text(), "[ 1, 3, 2 ]");

@@ -74,7 +74,8 @@ TEST(SliderCells, UnsignedShortIntegers)
     expectSliderOfItsRow<EdUIntSlider>(f, 10);
 }
 
-// The row stands where the precision goes: row 0 has a slider of doubles, all others one of floats. That is meant.
+// The row stands where the precision goes: row 0 has a slider of doubles, all others one of floats. That is
+// meant.
 TEST(SliderCells, TheRowOfAFloatIsTakenForItsPrecision)
 {
     Floats f("[ 0.123456789, 0.123456789, 0.123456789 ]");

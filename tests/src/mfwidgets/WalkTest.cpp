@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A long random walk over each editor: row operations, cells, undo, redo and changes from elsewhere. After each step
-// field, table, count and access box are what a simple model of the list says. SCOPIX_WALK_SEED walks another way.
+// A long random walk over each editor: row operations, cells, undo, redo and changes from elsewhere. After
+// each step field, table, count and access box are what a simple model of the list says. SCOPIX_WALK_SEED
+// walks another way.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"
 #include "ListModel.h"
@@ -58,8 +59,8 @@ protected:
     using Editor = typename Kind::Editor;
     using Field = typename Kind::Field;
     static constexpr bool HasPopup = std::is_same_v<Editor, EdMFMatrixWidget>;
-    static constexpr bool IsLine = std::is_base_of_v<EdMFLineWidget, Editor> &&
-                                   !std::is_same_v<Editor, EdMFDefaultFieldWidget>;
+    static constexpr bool IsLine =
+        std::is_base_of_v<EdMFLineWidget, Editor> && !std::is_same_v<Editor, EdMFDefaultFieldWidget>;
 
     Walk()
         : m_type(Field::getClassTypeId().getName().getString())
@@ -234,7 +235,8 @@ private:
             const int first = m_type == "MFColor" ? 1 : 0;
             const int column = first + pick(f.table().columnCount() - first);
             const QString text = pick(m_typed);
-            m_what = "type " + text.toStdString() + " at " + std::to_string(row) + ", " + std::to_string(column);
+            m_what =
+                "type " + text.toStdString() + " at " + std::to_string(row) + ", " + std::to_string(column);
             QLineEdit* line = openByKey(row, column);
             ASSERT_TRUE(line);
             line->selectAll();

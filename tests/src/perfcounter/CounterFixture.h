@@ -78,22 +78,24 @@ protected:
     /// Two profiles, the second one on screen, and one custom counter.
     void writeExample()
     {
-        writeFile("<?xml version='1.0' encoding='UTF-8'?>\n"
-                  "<perfCounterModule>\n"
-                  " <customPC>\n"
-                  "  <counter name=\"perFrame\" type=\"A\"><description>d</description><module>m</module>"
-                  "<level>2</level><firstparent>testA</firstparent><secondparent>testB</secondparent>"
-                  "<operation>/</operation></counter>\n"
-                  "  <counter name=\"odd\" type=\"X\"/>\n"
-                  "  <counter name=\"testA\" type=\"A\"><description>taken</description></counter>\n"
-                  " </customPC>\n"
-                  " <profiles>\n"
-                  "  <profile name=\"first\"><listcounters><pc>testA</pc></listcounters><listview/></profile>\n"
-                  "  <profile name=\"second\"><listcounters><pc>testC</pc><pc>testA</pc><pc>testB</pc></listcounters>"
-                  "<listview><pcviewed>testB</pcviewed></listview></profile>\n"
-                  " </profiles>\n"
-                  " <profileview name=\"second\"/>\n"
-                  "</perfCounterModule>\n");
+        writeFile(
+            "<?xml version='1.0' encoding='UTF-8'?>\n"
+            "<perfCounterModule>\n"
+            " <customPC>\n"
+            "  <counter name=\"perFrame\" type=\"A\"><description>d</description><module>m</module>"
+            "<level>2</level><firstparent>testA</firstparent><secondparent>testB</secondparent>"
+            "<operation>/</operation></counter>\n"
+            "  <counter name=\"odd\" type=\"X\"/>\n"
+            "  <counter name=\"testA\" type=\"A\"><description>taken</description></counter>\n"
+            " </customPC>\n"
+            " <profiles>\n"
+            "  <profile name=\"first\"><listcounters><pc>testA</pc></listcounters><listview/></profile>\n"
+            "  <profile "
+            "name=\"second\"><listcounters><pc>testC</pc><pc>testA</pc><pc>testB</pc></listcounters>"
+            "<listview><pcviewed>testB</pcviewed></listview></profile>\n"
+            " </profiles>\n"
+            " <profileview name=\"second\"/>\n"
+            "</perfCounterModule>\n");
     }
     SoPerfCounterDockWin& open()
     {

@@ -235,7 +235,8 @@ TEST_F(CounterDock, AnotherColourReachesTheCurveAndTheButton)
     QTest::mouseClick(dock->m_colorButton, Qt::LeftButton);
     EXPECT_EQ(dock->m_viewer->findViewed("testB")->getColor(), QColor(200, 100, 50));
     EXPECT_EQ(dock->m_colorButton->styleSheet(), "background-color: rgb(200,100,50);");
-    EXPECT_EQ(dock->m_colorButton->grab().toImage().pixelColor(7, 3), QColor(200, 100, 50)) << "just as the curve";
+    EXPECT_EQ(dock->m_colorButton->grab().toImage().pixelColor(7, 3), QColor(200, 100, 50))
+        << "just as the curve";
     EXPECT_EQ(dock->m_viewer->m_legend->selectedItems().size(), 5) << "the row stays selected";
 }
 

@@ -88,9 +88,10 @@ TEST_F(CounterProfileManager, ACustomCounterNeedsExactlyTwoOthers)
     openBoth();
     for (const QStringList& parents : {QStringList{"testA"}, QStringList{"testA", "testB", "testC"}}) {
         EXPECT_EQ(createDialog(parents), nullptr);
-        EXPECT_EQ(boxes.take(), QStringList{"Profile Manager - " + path()
-                                            + ": To create a custom counter you have to select exactly TWO counters "
-                                              "from the list."});
+        EXPECT_EQ(boxes.take(),
+                  QStringList{"Profile Manager - " + path() +
+                              ": To create a custom counter you have to select exactly TWO counters "
+                              "from the list."});
     }
 }
 
@@ -104,8 +105,8 @@ TEST_F(CounterProfileManager, TheCreateDialogWantsAFreeName)
     EXPECT_TRUE(boxes.take().constFirst().endsWith("You have to give a name to your counter."));
     dialog->m_name->setText("testC");
     dialog->okButtonAction();
-    EXPECT_TRUE(boxes.take().constFirst().endsWith(
-        "There is already a counter with this name. Please rename it."));
+    EXPECT_TRUE(
+        boxes.take().constFirst().endsWith("There is already a counter with this name. Please rename it."));
     EXPECT_TRUE(dialog->isVisible());
     dialog->m_name->setText("product");
     dialog->m_statRadio->setChecked(true);
@@ -137,7 +138,8 @@ TEST_F(CounterProfileManager, OkHandsOverAndSaves)
     QDomDocument document;
     ASSERT_TRUE(document.setContent(readFile(path())));
     EXPECT_EQ(document.elementsByTagName("profile").size(), 3);
-    const QDomNodeList counters = document.documentElement().firstChildElement("customPC").elementsByTagName("counter");
+    const QDomNodeList counters =
+        document.documentElement().firstChildElement("customPC").elementsByTagName("counter");
     ASSERT_EQ(counters.size(), 2) << "only what is custom is written";
     EXPECT_EQ(counters.at(1).toElement().attribute("name"), "product");
     EXPECT_EQ(counters.at(1).firstChildElement("operation").text(), "*");
@@ -175,8 +177,9 @@ TEST_F(CounterProfileManager, OnlyCustomCountersAreDeletedAndOnlyOnOk)
     boxes.answer(QMessageBox::Ok);
     select(*manager->m_listCounter, {"testA", "perFrame"});
     QTest::mouseClick(manager->m_deleteCounter, Qt::LeftButton);
-    EXPECT_TRUE(boxes.take().constFirst().endsWith("Do you really want to delete definitively these counters ?\n\nNote "
-                                                   "that only custom counters will be affected."));
+    EXPECT_TRUE(boxes.take().constFirst().endsWith(
+        "Do you really want to delete definitively these counters ?\n\nNote "
+        "that only custom counters will be affected."));
     EXPECT_FALSE(namesIn(*manager->m_listCounter).contains("perFrame"));
     EXPECT_TRUE(isRegistered("perFrame"));
     EXPECT_TRUE(isRegistered("testA"));
@@ -243,8 +246,9 @@ TEST_F(CounterProfileManager, WithoutAPathOkIsRefusedUntilThereIsOne)
     boxes.take();
     manager = openManager();
     press(QDialogButtonBox::Ok);
-    const QString refusal = "Path invalid: Please choose a new path where you want to save your modifications with the "
-                            "\"save as\" action";
+    const QString refusal =
+        "Path invalid: Please choose a new path where you want to save your modifications with the "
+        "\"save as\" action";
     EXPECT_EQ(boxes.take(), QStringList{refusal});
     ASSERT_TRUE(manager);
     EXPECT_FALSE(manager->close());
@@ -277,15 +281,17 @@ TEST_F(CounterProfileManager, HundredsOfProfilesAndCountersSurviveTheRoundTrip)
 {
     QByteArray content = "<perfCounterModule><customPC>";
     for (int i = 0; i < 200; ++i) {
-        content += "<counter name=\"custom" + QByteArray::number(i)
-            + "\" type=\"A\"><description>&lt;d&gt; \xc3\xa4</description><module/><level>1</level>"
-              "<firstparent>testA</firstparent><secondparent>testB</secondparent><operation>-</operation></counter>";
+        content += "<counter name=\"custom" + QByteArray::number(i) +
+                   "\" type=\"A\"><description>&lt;d&gt; \xc3\xa4</description><module/><level>1</level>"
+                   "<firstparent>testA</firstparent><secondparent>testB</secondparent><operation>-</"
+                   "operation></counter>";
     }
     content += "</customPC><profiles>";
     for (int i = 0; i < 200; ++i) {
-        content += "<profile name=\"p" + QByteArray::number(i)
-            + "\"><listcounters><pc>testA</pc><pc>custom1</pc></listcounters><listview><pcviewed>testA</pcviewed>"
-              "</listview></profile>";
+        content += "<profile name=\"p" + QByteArray::number(i) +
+                   "\"><listcounters><pc>testA</pc><pc>custom1</pc></listcounters><listview><pcviewed>testA</"
+                   "pcviewed>"
+                   "</listview></profile>";
     }
     content += "</profiles><profileview name=\"p7\"/></perfCounterModule>";
     writeFile(content);
@@ -300,8 +306,8 @@ TEST_F(CounterProfileManager, HundredsOfProfilesAndCountersSurviveTheRoundTrip)
         const QDomNodeList all = document.elementsByTagName("*");
         for (int i = 0; i < all.size(); ++i) {
             const QDomElement e = all.at(i).toElement();
-            texts.append(e.tagName() + "|" + e.attribute("name") + "|" + e.attribute("type") + "|"
-                         + (e.firstChildElement().isNull() ? e.text() : QString()));
+            texts.append(e.tagName() + "|" + e.attribute("name") + "|" + e.attribute("type") + "|" +
+                         (e.firstChildElement().isNull() ? e.text() : QString()));
         }
         return texts;
     };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Files with very many or very long things in them: what they hold is kept, and no more is made of it than is seen.
+// Files with very many or very long things in them: what they hold is kept, and no more is made of it than is
+// seen.
 #include "CounterFixture.h"
 #include "SoPerfCounterCreateCounter.h"
 #include "SoPerfCounterCurve.h"
@@ -17,7 +18,8 @@ class CounterMany : public CounterHome
 protected:
     static QByteArray profileOf(const QByteArray& name, const QByteArray& counters = "<pc>testA</pc>")
     {
-        return "<profile name='" + name + "'><listcounters>" + counters + "</listcounters><listview/></profile>";
+        return "<profile name='" + name + "'><listcounters>" + counters +
+               "</listcounters><listview/></profile>";
     }
     void openProfiles(const QByteArray& profiles, const QByteArray& custom = {})
     {
@@ -57,7 +59,8 @@ TEST_F(CounterMany, OnlyTheTabsThatWereSeenHaveATable)
 
 TEST_F(CounterMany, ATabThatComesForwardBecauseAnotherGoesShowsItsOwnCounters)
 {
-    openProfiles(profileOf("one") + profileOf("two", "<pc>testB</pc>") + profileOf("three", "<pc>testC</pc>"));
+    openProfiles(profileOf("one") + profileOf("two", "<pc>testB</pc>") +
+                 profileOf("three", "<pc>testC</pc>"));
     SoPerfCounterProfileManager& manager = *openManager();
     for (const char* expected : {"testB", "testC"}) {
         manager.deleteProfile();
@@ -74,7 +77,8 @@ TEST_F(CounterMany, ATabThatComesForwardBecauseAnotherGoesShowsItsOwnCounters)
 TEST_F(CounterMany, NamesOfMegabytesAreKeptAndShownByTheirBeginning)
 {
     const QByteArray name(4'000'000, 'n');
-    openProfiles(profileOf("one") + profileOf(name, "<pc>" + name + "</pc>"), "<counter name='" + name + "' type='A'/>");
+    openProfiles(profileOf("one") + profileOf(name, "<pc>" + name + "</pc>"),
+                 "<counter name='" + name + "' type='A'/>");
     dock->m_listConfig->setCurrentIndex(1);
     EXPECT_LT(dock->m_listConfig->currentText().size(), 200);
     EXPECT_LT(dock->m_listConfig->minimumSizeHint().width(), 300) << "nor does it make the dock wide";
@@ -122,8 +126,9 @@ TEST_F(CounterMany, ACounterIsMadeFromTheWholeNamesOfItsParents)
 TEST_F(CounterMany, ProfilesWithTheSameBeginningAreToldApart)
 {
     const QByteArray same(5000, 's');
-    writeFile("<perfCounterModule><profiles>" + profileOf(same + "1") + profileOf(same + "2", "<pc>testB</pc>") +
-              "</profiles><profileview name='" + same + "2'/></perfCounterModule>");
+    writeFile("<perfCounterModule><profiles>" + profileOf(same + "1") +
+              profileOf(same + "2", "<pc>testB</pc>") + "</profiles><profileview name='" + same +
+              "2'/></perfCounterModule>");
     open();
     EXPECT_EQ(dock->getCurrentProfile(), 1);
     EXPECT_EQ(offered(), QStringList{"testB"});
@@ -156,6 +161,7 @@ TEST_F(CounterMany, AViewOfThousandsKeepsItsOrder)
     for (int i = 0; i < 2999; ++i) {
         ASSERT_EQ(viewer.getViewed()->at(i)->getName(), names[i]);
         ASSERT_EQ(viewer.getCurvePlot()->getCurveList()[i]->title().text(), names[i]);
-        ASSERT_EQ(viewer.getCurvePlot()->getCurveList()[i]->pen().color(), viewer.getViewed()->at(i)->getColor());
+        ASSERT_EQ(viewer.getCurvePlot()->getCurveList()[i]->pen().color(),
+                  viewer.getViewed()->at(i)->getColor());
     }
 }

@@ -87,7 +87,8 @@ TEST_F(CounterRedraw, AHiddenViewerDrawsNothingUntilItIsSeen)
     EXPECT_DOUBLE_EQ(sample("testA"), 10.0) << "but it samples";
     viewer.show();
     EXPECT_EQ(redraws->take(), 1);
-    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(), 1e-9);
+    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(),
+                1e-9);
 }
 
 TEST_F(CounterRedraw, AViewerBehindAnotherTabDrawsNothingUntilItIsSeen)
@@ -108,7 +109,8 @@ TEST_F(CounterRedraw, AViewerBehindAnotherTabDrawsNothingUntilItIsSeen)
     EXPECT_EQ(redraws->take(), 0);
     back.raise();
     EXPECT_TRUE(QTest::qWaitFor([this] { return redraws->take() > 0; }));
-    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(), 1e-9);
+    EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(),
+                1e-9);
     sampleThrice();
     EXPECT_EQ(redraws->take(), 3);
     viewer.setParent(nullptr);
@@ -214,7 +216,8 @@ TEST_F(CounterRedraw, ManyPointsAreDrawnInFineLinesOnADenseScreen)
         viewer.m_timeBox->setCurrentText("120");
         for (int i = 0; i < 2000; ++i)
             viewer.viewTimer();
-        EXPECT_FALSE(viewer.getCurvePlot()->getCurveList()[0]->pen().isCosmetic()) << "here they all are fine";
+        EXPECT_FALSE(viewer.getCurvePlot()->getCurveList()[0]->pen().isCosmetic())
+            << "here they all are fine";
         QProcess dense;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("QT_SCALE_FACTOR", "2");
@@ -295,7 +298,8 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
     const auto place = [&](double x, double y) {
         return QPointF(plot->transform(QwtPlot::xBottom, x), plot->transform(QwtPlot::yLeft, y)).toPoint();
     };
-    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16") << "far from the samples at 8 and 9, near to the line";
+    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16")
+        << "far from the samples at 8 and 9, near to the line";
     EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8");
     EXPECT_EQ(tipAt(*plot, place(2, 14)), "") << "no line here";
 }
@@ -368,11 +372,13 @@ TEST_F(CounterRedraw, ColoursCanBeSeenAndToldApart)
         const QColor color = viewed->getColor();
         // The brightest greens and yellows are lost on white.
         EXPECT_LE(color.green() + color.red() / 4, 175) << color.name().toStdString();
-        EXPECT_TRUE(levels.contains(color.red()) && levels.contains(color.green()) && levels.contains(color.blue()));
+        EXPECT_TRUE(levels.contains(color.red()) && levels.contains(color.green()) &&
+                    levels.contains(color.blue()));
         EXPECT_FALSE(colors.contains(color.rgb()));
         colors.insert(color.rgb());
     }
-    EXPECT_EQ(viewer.m_legend->item(1, 0)->background().color(), QColor(Qt::white)) << "as readable as the curve";
+    EXPECT_EQ(viewer.m_legend->item(1, 0)->background().color(), QColor(Qt::white))
+        << "as readable as the curve";
 }
 
 TEST_F(CounterRedraw, MoreCountersThanColoursAreShownToo)

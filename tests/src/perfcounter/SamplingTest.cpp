@@ -201,8 +201,8 @@ TEST_F(CounterViewer, ACounterThatVanishesReadsZeroAndIsShownSo)
     viewer.viewTimer();
     EXPECT_EQ(sample("fleeting"), 0.0);
     EXPECT_DOUBLE_EQ(sample("fleeting", 1), 6.0);
-    for (const auto view : {&SoPerfCounterViewer::textView, &SoPerfCounterViewer::graphView,
-                            &SoPerfCounterViewer::curveView}) {
+    for (const auto view :
+         {&SoPerfCounterViewer::textView, &SoPerfCounterViewer::graphView, &SoPerfCounterViewer::curveView}) {
         (viewer.*view)();
         viewer.updateViewer();
         viewer.viewTimer();

@@ -184,7 +184,8 @@ TEST_F(CounterViewer, TheLegendHasFiveTextsInTheCurvesColour)
     show({"testA"});
     ASSERT_EQ(viewer.m_legend->columnCount(), 5);
     EXPECT_EQ(viewer.m_legend->item(0, 0)->foreground().color(), viewer.findViewed("testA")->getColor());
-    EXPECT_EQ(viewer.getCurvePlot()->getCurveList()[0]->pen().color(), viewer.findViewed("testA")->getColor());
+    EXPECT_EQ(viewer.getCurvePlot()->getCurveList()[0]->pen().color(),
+              viewer.findViewed("testA")->getColor());
     EXPECT_EQ(viewer.m_legend->item(0, 2)->text(), "Low");
     EXPECT_EQ(viewer.m_legend->item(0, 3)->text(), "Tests");
     EXPECT_EQ(viewer.m_legend->rowHeight(0), 15);

@@ -3,9 +3,9 @@
 #include "EdSFImageWidget.h"
 #include "EditedField.h"
 
-#include <xsg/support/XsgMalloc.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/support/XsgMalloc.h>
 
 #include <QTest>
 

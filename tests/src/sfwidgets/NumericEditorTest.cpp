@@ -14,8 +14,8 @@
 #include <xsg/fields/SoSFShort.h>
 #include <xsg/fields/SoSFUInt32.h>
 #include <xsg/fields/SoSFUShort.h>
-#include <xsg/nodes/properties/SoComplexity.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoComplexity.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QTest>

@@ -4,14 +4,14 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/actions/SoSearchAction.h>
-#include <xsg/values/SbRotation.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/values/SbRotation.h>
 
 namespace
 {

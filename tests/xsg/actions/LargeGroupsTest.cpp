@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Groups with many children are not walked as a whole after a change: whatever happens to them, boxes and picks have
-// to be those of a walk that remembers nothing.
+// Groups with many children are not walked as a whole after a change: whatever happens to them, boxes and
+// picks have to be those of a walk that remembers nothing.
 #include <gtest/gtest.h>
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/shapes/SoIndexedPointSet.h>
 #include <xsg/nodes/groups/SoLevelOfDetail.h>
-#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoIndexedPointSet.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
@@ -254,7 +254,8 @@ TEST_F(LargeGroup, AnyRowOfEditsGivesWhatAWalkAfreshGives)
             else if (auto* transform = dynamic_cast<SoTransform*>(child))
                 transform->translation.setValue(static_cast<float>(below(5)), 0, 0);
             else if (child->asGroup())
-                transformIn(child).translation.setValue(static_cast<float>(below(600)), 0, static_cast<float>(below(9)));
+                transformIn(child).translation.setValue(static_cast<float>(below(600)), 0,
+                                                        static_cast<float>(below(9)));
         }
         expectAsAfresh(done);
     }

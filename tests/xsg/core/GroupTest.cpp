@@ -8,7 +8,10 @@
 namespace
 {
 
-void count(void* data, SoSensor*) { ++*static_cast<int*>(data); }
+void count(void* data, SoSensor*)
+{
+    ++*static_cast<int*>(data);
+}
 
 } // namespace
 

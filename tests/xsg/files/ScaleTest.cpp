@@ -6,9 +6,9 @@
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SoSceneFile.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 
 #include <iterator>

@@ -4,17 +4,17 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SoSceneFile.h>
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/base/SoInfo.h>
+#include <xsg/nodes/base/SoUnknownNode.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
-#include <xsg/nodes/shapes/SoScreenText.h>
-#include <xsg/nodes/groups/SoSeparator.h>
-#include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoScreenText.h>
+#include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
-#include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <filesystem>
 #include <fstream>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <xsg/values/SbRotation.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/values/SbRotation.h>
 
 #include <algorithm>
 #include <cmath>
@@ -36,7 +36,8 @@ SbBox3f projectCorners(const SoCamera& camera, const SbBox3f& box, float aspect)
 
 } // namespace
 
-// All eight corners in the picture, as large as they can be but for the margin, with equal margins at both sides.
+// All eight corners in the picture, as large as they can be but for the margin, with equal margins at both
+// sides.
 template <class Camera>
 class ViewAll : public testing::Test
 {
@@ -46,7 +47,8 @@ TYPED_TEST_SUITE(ViewAll, Cameras);
 
 TYPED_TEST(ViewAll, FillsThePictureFromWhereverItLooks)
 {
-    const SbBox3f boxes[] = {{-3, 1, 5, 9, 2, 30}, {1000, 1000, 1000, 1001, 1001, 1001}, {-1, 0, -1, 1, 0, 1}};
+    const SbBox3f boxes[] = {
+        {-3, 1, 5, 9, 2, 30}, {1000, 1000, 1000, 1001, 1001, 1001}, {-1, 0, -1, 1, 0, 1}};
     const SbRotation views[] = {SbRotation(), SbRotation({1, 2, 3}, 1), SbRotation({-1, 0.3F, 0}, 2.5F)};
     for (const SbBox3f& box : boxes) {
         for (const SbRotation& view : views) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <xsg/values/SbRotation.h>
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/values/SbRotation.h>
 
 namespace
 {

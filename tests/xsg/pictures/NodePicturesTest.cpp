@@ -5,9 +5,9 @@
 #include "DrawBar.h"
 
 #include <xsg/actions/SoSearchAction.h>
-#include <xsg/registry/SoDB.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/registry/SoDB.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 namespace

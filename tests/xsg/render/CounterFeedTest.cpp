@@ -7,8 +7,8 @@
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/files/SoSceneFile.h>
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <map>
@@ -46,14 +46,16 @@ protected:
     void drawNew()
     {
         SoPixels pixels;
-        ASSERT_TRUE(newRenderer.render(root.get(), camera.get(), 64, 64, pixels)) << newRenderer.getErrorText();
+        ASSERT_TRUE(newRenderer.render(root.get(), camera.get(), 64, 64, pixels))
+            << newRenderer.getErrorText();
     }
     SoOffscreenRenderer newRenderer;
 
-    static constexpr const char* Names[] = {
-        "Frames", "RenderTime", "NodesTraversed", "DrawCalls", "Triangles", "Vertices", "ShapesCulled",
-        "StateChanges", "BufferUploads", "BufferBytes", "TextureBytes", "GeometryHits", "GeometryMisses",
-        "Picks", "Searches", "BoxHits", "BoxMisses", "FilesRead", "BytesParsed"};
+    static constexpr const char* Names[] = {"Frames",         "RenderTime",  "NodesTraversed", "DrawCalls",
+                                            "Triangles",      "Vertices",    "ShapesCulled",   "StateChanges",
+                                            "BufferUploads",  "BufferBytes", "TextureBytes",   "GeometryHits",
+                                            "GeometryMisses", "Picks",       "Searches",       "BoxHits",
+                                            "BoxMisses",      "FilesRead",   "BytesParsed"};
 };
 
 } // namespace
@@ -79,14 +81,25 @@ TEST_F(CounterFeed, DrawingIsCounted)
     add<SoCube>();
     const double time = read()["RenderTime"];
     // A cube: 24 points of 8 numbers, 36 indices; three copies of 128 bytes.
-    EXPECT_EQ(growth([&] { drawNew(); }),
-              (Values{{"Frames", 1}, {"NodesTraversed", 6}, {"DrawCalls", 1}, {"Triangles", 24}, {"Vertices", 48},
-                      {"ShapesCulled", 1}, {"StateChanges", 5}, {"BufferUploads", 2},
-                      {"BufferBytes", 24 * 32 + 36 * 4 + 3 * 128}, {"TextureBytes", 6}, {"GeometryHits", 2},
-                      {"GeometryMisses", 1}}));
+    EXPECT_EQ(growth([&] { drawNew(); }), (Values{{"Frames", 1},
+                                                  {"NodesTraversed", 6},
+                                                  {"DrawCalls", 1},
+                                                  {"Triangles", 24},
+                                                  {"Vertices", 48},
+                                                  {"ShapesCulled", 1},
+                                                  {"StateChanges", 5},
+                                                  {"BufferUploads", 2},
+                                                  {"BufferBytes", 24 * 32 + 36 * 4 + 3 * 128},
+                                                  {"TextureBytes", 6},
+                                                  {"GeometryHits", 2},
+                                                  {"GeometryMisses", 1}}));
     EXPECT_GT(read()["RenderTime"], time);
-    EXPECT_EQ(growth([&] { drawNew(); }), (Values{{"Frames", 1}, {"DrawCalls", 1}, {"Triangles", 24}, {"Vertices", 48},
-                                               {"ShapesCulled", 1}, {"StateChanges", 5}}));
+    EXPECT_EQ(growth([&] { drawNew(); }), (Values{{"Frames", 1},
+                                                  {"DrawCalls", 1},
+                                                  {"Triangles", 24},
+                                                  {"Vertices", 48},
+                                                  {"ShapesCulled", 1},
+                                                  {"StateChanges", 5}}));
 }
 
 TEST_F(CounterFeed, ActionsAreCounted)
@@ -96,7 +109,9 @@ TEST_F(CounterFeed, ActionsAreCounted)
     root->addChild(group);
     EXPECT_EQ(growth([&] { SoBoundingBoxAction().getBox(root.get()); }), (Values{{"BoxMisses", 2}}));
     EXPECT_EQ(growth([&] { SoBoundingBoxAction().getBox(root.get()); }), (Values{{"BoxHits", 1}}));
-    EXPECT_EQ(growth([&] { SoRayPickAction().pick(root.get(), {{0, 0, 9}, {0, 0, -1}}); }),
+    EXPECT_EQ(growth([&] {
+                  SoRayPickAction().pick(root.get(), {{0, 0, 9}, {0, 0, -1}});
+              }),
               (Values{{"BoxHits", 1}, {"Picks", 1}}));
     EXPECT_EQ(growth([&] { SoSearchAction().find(root.get()); }), (Values{{"Searches", 1}}));
 }
@@ -109,5 +124,6 @@ TEST_F(CounterFeed, FilesAreCounted)
     ASSERT_TRUE(SoSceneFile::write(SoSceneFile::readText(text, "text", error).get(), path, error)) << error;
     const auto grown = growth([&] { ASSERT_TRUE(SoSceneFile::read(path, error)) << error; });
     EXPECT_EQ(grown.at("FilesRead"), 1);
-    EXPECT_EQ(grown.at("BytesParsed"), static_cast<double>(SoSceneFile::writeText(SoSceneFile::read(path, error).get()).size()));
+    EXPECT_EQ(grown.at("BytesParsed"),
+              static_cast<double>(SoSceneFile::writeText(SoSceneFile::read(path, error).get()).size()));
 }

@@ -2,16 +2,16 @@
 // What is given to OpenGL again, and what is not: by the renderer's own counts.
 #include "Picture.h"
 
-#include <xsg/values/SbRotation.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/shapes/SoCylinder.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoCylinder.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/values/SbRotation.h>
 
 #include <random>
 
@@ -30,7 +30,8 @@ protected:
         for (int i = 0; i < count; ++i) {
             auto* group = new SoSeparator;
             auto* transform = new SoTransform;
-            transform->translation.setValue(half * (2 * static_cast<float>(i) / static_cast<float>(count - 1) - 1), 0, 0);
+            transform->translation.setValue(
+                half * (2 * static_cast<float>(i) / static_cast<float>(count - 1) - 1), 0, 0);
             transform->scaleFactor.setValue(0.05F, 0.05F, 0.05F);
             for (SoNode* node : std::initializer_list<SoNode*>{transform, new SoMaterial, new Shape})
                 group->addChild(node);
@@ -184,7 +185,8 @@ TEST_F(InstanceData, ABodysFarSideIsBlendedBeforeItsNearSide)
 {
     // Two squares facing away from each other, the near one red, the far one green.
     auto* points = new SoPoints;
-    points->points.setValues({{-1, -1, 1}, {1, -1, 1}, {1, 1, 1}, {-1, 1, 1}, {-1, -1, -1}, {1, -1, -1}, {1, 1, -1}, {-1, 1, -1}});
+    points->points.setValues(
+        {{-1, -1, 1}, {1, -1, 1}, {1, 1, 1}, {-1, 1, 1}, {-1, -1, -1}, {1, -1, -1}, {1, 1, -1}, {-1, 1, -1}});
     auto* material = new SoMaterial;
     const SbColor red(1, 0, 0);
     const SbColor green(0, 1, 0);
@@ -229,10 +231,22 @@ TEST_F(InstanceData, AShapeThatChangesLeavesItsLikeAndComesBackToThem)
         int parts;
         int calls;
     };
-    for (const Step& step : std::initializer_list<Step>{
-             {4, Pipe, 3}, {5, Pipe, 3}, {7, Pipe, 5}, {6, Pipe, 3}, {0, Pipe, 4}, {8, Pipe, 3}, {5, Cup, 5}, {5, Pipe, 3},
-             {0, Whole, 2}, {6, Whole, 4}, {4, Whole, 4}, {5, Whole, 2}, {7, Whole, 2}, {8, Whole, 1}, {4, 0, 1},
-             {4, Whole, 1}}) {
+    for (const Step& step : std::initializer_list<Step>{{4, Pipe, 3},
+                                                        {5, Pipe, 3},
+                                                        {7, Pipe, 5},
+                                                        {6, Pipe, 3},
+                                                        {0, Pipe, 4},
+                                                        {8, Pipe, 3},
+                                                        {5, Cup, 5},
+                                                        {5, Pipe, 3},
+                                                        {0, Whole, 2},
+                                                        {6, Whole, 4},
+                                                        {4, Whole, 4},
+                                                        {5, Whole, 2},
+                                                        {7, Whole, 2},
+                                                        {8, Whole, 1},
+                                                        {4, 0, 1},
+                                                        {4, Whole, 1}}) {
         partsOf(step.place).setValue(step.parts);
         EXPECT_EQ(draw().rgba, drawAfresh().rgba);
         EXPECT_EQ(statistics().drawCalls, step.calls) << step.place << ' ' << step.parts;

@@ -2,38 +2,38 @@
 // What each node does to a picture.
 #include "Picture.h"
 
-#include <xsg/values/SbRotation.h>
-#include <xsg/nodes/lights/SoAmbientLight.h>
-#include <xsg/nodes/properties/SoClipPlane.h>
-#include <xsg/nodes/properties/SoComplexity.h>
-#include <xsg/nodes/shapes/SoCone.h>
-#include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/shapes/SoCylinder.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/shapes/SoIndexedLineSet.h>
-#include <xsg/nodes/shapes/SoIndexedPointSet.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleStripSet.h>
+#include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoLevelOfDetail.h>
-#include <xsg/nodes/shapes/SoLineSet.h>
-#include <xsg/nodes/properties/SoMaterial.h>
-#include <xsg/nodes/transforms/SoMatrixTransform.h>
-#include <xsg/nodes/properties/SoNormals.h>
-#include <xsg/nodes/cameras/SoOrthographicCamera.h>
-#include <xsg/nodes/lights/SoPointLight.h>
-#include <xsg/nodes/shapes/SoPointSet.h>
-#include <xsg/nodes/properties/SoPoints.h>
-#include <xsg/nodes/shapes/SoScreenText.h>
-#include <xsg/nodes/shapes/SoSphere.h>
-#include <xsg/nodes/transforms/SoSpin.h>
-#include <xsg/nodes/lights/SoSpotLight.h>
 #include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/lights/SoAmbientLight.h>
+#include <xsg/nodes/lights/SoPointLight.h>
+#include <xsg/nodes/lights/SoSpotLight.h>
+#include <xsg/nodes/properties/SoClipPlane.h>
+#include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoNormals.h>
+#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTextureTransform.h>
-#include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/nodes/shapes/SoCone.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoCylinder.h>
+#include <xsg/nodes/shapes/SoIndexedLineSet.h>
+#include <xsg/nodes/shapes/SoIndexedPointSet.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleStripSet.h>
+#include <xsg/nodes/shapes/SoLineSet.h>
+#include <xsg/nodes/shapes/SoPointSet.h>
+#include <xsg/nodes/shapes/SoScreenText.h>
+#include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/shapes/SoTriangleSet.h>
 #include <xsg/nodes/shapes/SoTriangleStripSet.h>
+#include <xsg/nodes/transforms/SoMatrixTransform.h>
+#include <xsg/nodes/transforms/SoSpin.h>
+#include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/values/SbRotation.h>
 
 class NodePicture : public Picture
 {

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <array>

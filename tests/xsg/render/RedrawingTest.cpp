@@ -3,17 +3,17 @@
 #include "Picture.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
-#include <xsg/nodes/properties/SoClipPlane.h>
-#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/groups/SoInstances.h>
+#include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoClipPlane.h>
 #include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoFog.h>
-#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/shapes/SoSphere.h>
-#include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 using Redrawing = Picture;

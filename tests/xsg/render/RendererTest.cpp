@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "Picture.h"
 
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/properties/SoComplexity.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoFog.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/shapes/SoCone.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoCylinder.h>
-#include <xsg/nodes/lights/SoDirectionalLight.h>
-#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
-#include <xsg/nodes/properties/SoFog.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
-#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/shapes/SoSphere.h>
-#include <xsg/nodes/properties/SoTexture2.h>
-#include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <epoxy/gl.h>

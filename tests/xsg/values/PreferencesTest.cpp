@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <xsg/support/SoPreferences.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoReadError.h>
+#include <xsg/support/SoPreferences.h>
 
 #include "xsg/errors/Collected.h"
 

@@ -11,7 +11,6 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFMatrix.h>
 #include <xsg/fields/SoMFName.h>
-#include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/fields/SoMFPlane.h>
 #include <xsg/fields/SoMFRotation.h>
 #include <xsg/fields/SoMFShort.h>
@@ -41,7 +40,6 @@
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFName.h>
-#include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/fields/SoSFPlane.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFShort.h>
@@ -58,7 +56,9 @@
 #include <xsg/fields/SoSFVec3s.h>
 #include <xsg/fields/SoSFVec4d.h>
 #include <xsg/fields/SoSFVec4f.h>
+#include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/nodes/base/SoSFNode.h>
 
 /// One field of every type, each with a default that tells what the type holds: to try editors on, and to see
 /// in a file how each type is written. Draws nothing.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/base/NodeText.h>
 #include <xsg/fields/SoMValue.h>
+#include <xsg/nodes/base/NodeText.h>
 
 /// Any number of values, each a reference to a node, or to none. The field keeps the nodes alive.
 class XSG_API SoMFNode : public SoTyped<SoMFNode, SoMValue<SoRef<SoNode>>>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/SoNode.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <atomic>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/base/NodeText.h>
 #include <xsg/fields/SoSValue.h>
+#include <xsg/nodes/base/NodeText.h>
 
 /// A reference to a node, or to none. The field keeps the node alive; a node that refers to one of its own
 /// ancestors keeps both alive for ever.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/base/SoUnknownField.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 
 #include <memory>
 #include <unordered_map>

@@ -2,8 +2,8 @@
 #include <xsg/nodes/cameras/SoCamera.h>
 
 #include <xsg/nodes/base/SoState.h>
-#include <xsg/values/SbRotation.h>
 #include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/SbRotation.h>
 
 #include <algorithm>
 #include <cmath>
@@ -77,7 +77,8 @@ void SoCamera::viewAll(const SbBox3f& box, float aspect)
     if (box.isEmpty())
         return;
     const SbVec3f half = box.getSize() * 0.5F;
-    const float thinnest = std::max({half[0] * ThinnestPart, half[1] * ThinnestPart, half[2] * ThinnestPart, Thinnest});
+    const float thinnest =
+        std::max({half[0] * ThinnestPart, half[1] * ThinnestPart, half[2] * ThinnestPart, Thinnest});
     const SbRotation toEye = orientation.getValue().inverse();
     Corners corners;
     for (unsigned corner = 0; corner < corners.size(); ++corner) {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbBox.h>
-#include <xsg/values/SbMatrix.h>
-#include <xsg/values/SbRay.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbBox.h>
+#include <xsg/values/SbMatrix.h>
+#include <xsg/values/SbRay.h>
 
 #include <array>
 #include <unordered_set>
@@ -39,8 +39,8 @@ public:
     /// The ray through a place in the picture: (0, 0) is its lower left corner, (1, 1) its upper right.
     SbRay getRay(float x, float y, float aspect) const;
 
-    /// Moves, without turning, until the box fills the picture but for a small margin, in its middle; adapts focal
-    /// and clipping distances.
+    /// Moves, without turning, until the box fills the picture but for a small margin, in its middle; adapts
+    /// focal and clipping distances.
     void viewAll(const SbBox3f& box, float aspect);
     void pointAt(const SbVec3f& target);
     /// Puts the clipping distances around the box, so that all of it is seen.
@@ -59,8 +59,8 @@ protected:
     virtual float getFocalHeight() const = 0;
     /// Corners of a box around the origin, along the camera's axes.
     using Corners = std::array<SbVec3f, 8>;
-    /// Where the camera stands, along its axes, to have these corners fill `filled` of the picture; adapts the size of
-    /// what it sees where that does not follow from where it stands.
+    /// Where the camera stands, along its axes, to have these corners fill `filled` of the picture; adapts
+    /// the size of what it sees where that does not follow from where it stands.
     virtual SbVec3f frame(const Corners& corners, float aspect, float filled) = 0;
     virtual void scaleView(float factor) = 0;
     /// As close as that may come; depth is kept precise by not letting it come too close.

@@ -14,8 +14,8 @@ namespace
 
 constexpr int Halvings = 40; // until two distances are one
 
-// Across the picture along one of its axes: how the eye stands for two planes through it, of this slope, to touch the
-// corners between them.
+// Across the picture along one of its axes: how the eye stands for two planes through it, of this slope, to
+// touch the corners between them.
 struct Wedge {
     float distance;
     float middle;
@@ -32,7 +32,8 @@ Wedge touch(const std::array<SbVec3f, 8>& corners, int axis, float slope)
     return {(high + low) / (2 * slope), (high - low) / 2};
 }
 
-// Where the corners have equal margins, seen from this distance, which is none too near for planes of this slope.
+// Where the corners have equal margins, seen from this distance, which is none too near for planes of this
+// slope.
 float middleAt(const std::array<SbVec3f, 8>& corners, int axis, float slope, float distance)
 {
     float steep = slope;

@@ -10,8 +10,8 @@ class SoNode;
 namespace xsg
 {
 
-/// Which children of a group changed lately, so that what was remembered of a large group can be brought up to date
-/// without looking at each of them.
+/// Which children of a group changed lately, so that what was remembered of a large group can be brought up
+/// to date without looking at each of them.
 class ChangeLog
 {
 public:
@@ -21,7 +21,8 @@ public:
     {
     }
 
-    /// The child, or what is below it, changed; null: the group itself. `count`: of the group, with this change.
+    /// The child, or what is below it, changed; null: the group itself. `count`: of the group, with this
+    /// change.
     void add(const SoNode* child, std::uint32_t count)
     {
         Entry* place = &m_entries[0];

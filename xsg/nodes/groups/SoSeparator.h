@@ -25,12 +25,12 @@ public:
     };
     /// The box of each child of a separator with many of them.
     struct ChildBoxes {
-        std::vector<SbBox3f> boxes; // in the coordinates at the separator; empty for the others:
+        std::vector<SbBox3f> boxes;        // in the coordinates at the separator; empty for the others:
         std::vector<std::uint32_t> others; // places of children that are no separators
-        xsg::BoundingBoxTree chunks;     // of `boxes`
+        xsg::BoundingBoxTree chunks;       // of `boxes`
     };
-    /// The box around what is below, in the coordinates at the separator. It holds as long as nothing below nor
-    /// outside changes.
+    /// The box around what is below, in the coordinates at the separator. It holds as long as nothing below
+    /// nor outside changes.
     struct BoxCache {
         SbBox3f box;
         bool isValid = false;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/base/SoState.h>
 #include <xsg/fields/SoSFBool.h>
 #include <xsg/fields/SoSFColor.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/nodes/base/SoState.h>
 
 /// Lights what follows it, to the end of the separator it stands in.
 class XSG_API SoLight : public SoTyped<SoLight, SoNode>

@@ -2,8 +2,8 @@
 #include <xsg/nodes/properties/SoTexture2.h>
 
 #include <xsg/nodes/base/SoState.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/properties/PixmapFile.h>
+#include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoTexture2, SoNode>;
 

@@ -40,8 +40,8 @@ public:
     /// The picture to show, valid until a field changes; false for none.
     bool getPicture(SoImageView& picture) const;
 
-    /// Where a relative file name starts from; where it is empty, as at first, the folder that the process works in. No
-    /// field: a scene takes it from where its file is.
+    /// Where a relative file name starts from; where it is empty, as at first, the folder that the process
+    /// works in. No field: a scene takes it from where its file is.
     void setFolder(const std::string& folder);
     const std::string& getFolder() const { return m_folder; }
 

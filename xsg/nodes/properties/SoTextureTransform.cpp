@@ -2,8 +2,8 @@
 #include <xsg/nodes/properties/SoTextureTransform.h>
 
 #include <xsg/nodes/base/SoState.h>
-#include <xsg/values/SbRotation.h>
 #include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/SbRotation.h>
 
 template class SoTyped<SoTextureTransform, SoNode>;
 

@@ -23,8 +23,8 @@ public:
 
     SoSFBox3f box{this, "box"}; // around what is drawn; empty: takes no part in boxes
 
-    /// Called in each frame after the opaque shapes, on the rendering thread, with the context current. It may
-    /// change any OpenGL setting but the framebuffer; the renderer sets its own anew. Must not change the
+    /// Called in each frame after the opaque shapes, on the rendering thread, with the context current. It
+    /// may change any OpenGL setting but the framebuffer; the renderer sets its own anew. Must not change the
     /// scene.
     void setCallback(Callback callback);
     const Callback& getCallback() const { return m_callback; }

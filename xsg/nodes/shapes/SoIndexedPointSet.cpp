@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoIndexedPointSet.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/shapes/IndexBuilder.h>
+#include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoIndexedPointSet, SoVertexShape>;
 

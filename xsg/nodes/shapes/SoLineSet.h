@@ -4,8 +4,8 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
-/// Lines from point to point. Each joins as many of the next points as its count says; without counts one line
-/// joins all.
+/// Lines from point to point. Each joins as many of the next points as its count says; without counts one
+/// line joins all.
 class XSG_API SoLineSet : public SoTyped<SoLineSet, SoVertexShape>
 {
 public:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoScreenText.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/shapes/BitmapFont.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
 #include <cmath>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <xsg/nodes/base/SoGeometry.h>
-#include <xsg/nodes/base/SoState.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/nodes/base/SoState.h>
 
 class SoDrawingCallback;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoSphere.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/shapes/SolidBuilder.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <cmath>
 

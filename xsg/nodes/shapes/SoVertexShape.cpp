@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/shapes/SoVertexShape.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
 #include <numeric>

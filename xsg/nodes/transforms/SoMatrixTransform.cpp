@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/base/EffectiveValue.h>
+#include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoMatrixTransform, SoTransformation>;
 

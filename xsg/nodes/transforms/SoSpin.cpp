@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/transforms/SoSpin.h>
 
-#include <xsg/values/SbRotation.h>
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/SbRotation.h>
 
 #include <algorithm>
 #include <cmath>

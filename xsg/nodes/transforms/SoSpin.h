@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbMatrix.h>
 #include <xsg/fields/SoSFBool.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFTime.h>
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
+#include <xsg/values/SbMatrix.h>
 
 /// Turns what follows it, faster or slower, as time goes by. Whoever shows a scene calls advanceAll() now and
 /// then; nothing turns by itself.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/transforms/SoTransform.h>
 
-#include <xsg/types/SoTypedImpl.h>
 #include <xsg/nodes/base/EffectiveValue.h>
+#include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoTransform, SoTransformation>;
 

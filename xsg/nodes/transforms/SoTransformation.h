@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbMatrix.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbMatrix.h>
 
 /// Moves what follows it in its group. What kinds of movement there are, derived classes say.
 class XSG_API SoTransformation : public SoTyped<SoTransformation, SoNode>
