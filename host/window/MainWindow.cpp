@@ -311,7 +311,7 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 
 bool MainWindow::saveScreenshot(const QString& path)
 {
-    const QString error = saveScreenshot(*this, path);
+    const QString error = scopix::saveScreenshot(*this, path);
     if (!error.isEmpty())
         m_notifier.error(error);
     return error.isEmpty();

@@ -51,7 +51,7 @@ public:
                          [](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); })
         : host(makeWindow, ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
     {
-        host.messages().setAttended(false);
+        host.notifier().setAttended(false);
         EXPECT_TRUE(host.plugins().loadPlugin(QStringLiteral(SCOPIX_PLUGIN)));
         QMainWindow& window = host.window();
         window.resize(1000, 700);
