@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A long random walk over each editor: row operations, cells, undo, redo and changes from elsewhere. After
 // each step field, table, count and access box are what a simple model of the list says. SCOPIX_WALK_SEED
-// walks another way.
+// walks another way, SCOPIX_WALK_STEPS another length.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"
 #include "ListModel.h"
@@ -16,7 +16,13 @@
 namespace
 {
 
-constexpr int Steps = 10'000;
+int stepCount()
+{
+    bool isSet = false;
+    const int steps = qEnvironmentVariableIntValue("SCOPIX_WALK_STEPS", &isSet);
+    return isSet ? steps : 10'000;
+}
+
 constexpr int LargestList = 9;
 
 // Numbers that every type of that name holds and that a cell takes.
@@ -395,7 +401,7 @@ TYPED_TEST_SUITE(Walk, ListEditors, );
 TYPED_TEST(Walk, FieldTableCountAndBoxAgreeAfterEveryStep)
 {
     testing::internal::CaptureStderr(); // the trace lines of the moves
-    for (int i = 0; i < Steps && !this->HasFailure(); ++i) {
+    for (int i = 0, steps = stepCount(); i < steps && !this->HasFailure(); ++i) {
         this->step();
         this->agree();
         if (this->HasFailure())
