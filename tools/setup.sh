@@ -33,6 +33,13 @@ scopix_fuzz_packages=(
   "clang|compiles the fuzzers, which GCC has no counterpart for"
   "libclang-rt-14-dev|the fuzzing engine and clang's sanitizers"
 )
+# For tools/check.
+scopix_check_packages=(
+  "git|names the files of the tree and their changes"
+  "clang-format|compares the tree with .clang-format"
+  "clang-tidy|finds mistakes that compilers let pass"
+  "python3|reads the levels and their includes"
+)
 scopix_bench_packages=(
   "libbenchmark-dev|the benchmark framework"
 )
