@@ -1,69 +1,103 @@
 // SPDX-License-Identifier: MIT
+#include "EdMFieldTable.h"
 #include "FieldEditorSettings.h"
+#include "SpxDefaults.h"
+#include "support/TestHost.h"
 
-#include <QString>
+#include <xsg/fields/SoMFFloat.h>
+#include <xsg/fields/SoSFBool.h>
+#include <xsg/fields/SoSFColor.h>
+#include <xsg/fields/SoSFMatrix.h>
+#include <xsg/fields/SoSFVec3f.h>
+
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLayout>
+#include <QPushButton>
+#include <QSpinBox>
 
 #include <gtest/gtest.h>
 
-TEST(FieldEditorSettings, GiveTheMetricsOfEveryKey)
+namespace
 {
-    const struct {
-        const char* key;
-        int value;
-    } settings[] = {
-        {"frameLineWidth", 0},
-        {"labelLineWidth", 0},
-        {"labelPointSize", 10},
-        {"labelHeight", 20},
-        {"buttonWidth", 20},
-        {"buttonHeight", 20},
-        {"PopupFrameWidth", 260},
-        {"PopupFrameHeight", 100},
-        {"PopupLayoutMargin", 6},
-        {"PopupLayoutSpacing", 8},
-        {"SFieldLayoutMargin", 4},
-        {"SFieldLayoutSpacing", 6},
-        {"SFieldEditLayoutMargin", 0},
-        {"SFieldEditLayoutSpacing", 0},
-        {"SFButtonLayoutMargin", 2},
-        {"SFButtonLayoutSpacing", 0},
-        {"SFEditionAreaLayMargin", 0},
-        {"SFEditionAreaLaySpacing", 2},
-        {"SFComponentHeight", 18},
-        {"SFBoolWidth", 16},
-        {"SFColorSpacing", 6},
-        {"SFColorMargin", 0},
-        {"SFColorInterSpacing", 2},
-        {"SFColorDispWidth", 20},
-        {"SFVecLineHeight", 16},
-        {"SFVecLabelHeight", 14},
-        {"SF4fBoxVSpacing", 4},
-        {"SF4fBoxHSpacing", 4},
-        {"SF4fBoxHMargin", 2},
-        {"SF3fBoxVSpacing", 4},
-        {"SF3fBoxHSpacing", 20},
-        {"SF3fBoxHMargin", 2},
-        {"SF2BoxHSpacing", 25},
-        {"SF2BoxHMargin", 2},
-        {"SF2BoxVSpacing", 4},
-        {"MFGlobalLayoutSpacing", 2},
-        {"MFGlobalLayoutMarging", 6},
-        {"MFGlobalButtonsLayoutMargin", 0},
-        {"MFGlobalButtonsLayoutSpacing", 5},
-        {"MFButtonLayoutMargin", 0},
-        {"MFButtonLayoutSpacing", 0},
-        {"MFAccessWidth", 60},
-        {"MFManageAccessSpacerWidth", 0},
-        {"MFManageAccessSpacerHeight", 0},
-        {"MFAccessMoveSpacerHeight", 0},
-        {"MFAccessMoveSpacerWidth", 0},
-        {"MFTableMinHeightWin", 43},
-        {"MFTableMinHeightUnix", 46},
-    };
-    for (int round = 0; round < 2; ++round) { // the second time from the cache
-        for (const auto& [key, value] : settings)
-            EXPECT_EQ(xsgsettings_fieldEditor(key), value) << key;
+
+/// The plug-in's own editor of a field, loaded and shown.
+class Metrics : public testing::Test
+{
+protected:
+    QWidget& edit(SoField& field)
+    {
+        for (SpxExtension* extension : m_plugin.getExtensions()) {
+            auto* editor = dynamic_cast<SpxEditor*>(extension);
+            if (editor && editor->getHandledType() == field.getTypeId()) {
+                m_host.edit(*editor, &field);
+                TestHost::pump();
+                return *editor->getWidget();
+            }
+        }
+        throw std::runtime_error("no editor of this type");
     }
+    template <class Child>
+    static const Child& in(const QWidget& editor, const char* name)
+    {
+        const auto* child = editor.findChild<Child*>(QLatin1String(name));
+        if (!child)
+            throw std::runtime_error(name);
+        return *child;
+    }
+
+private:
+    void SetUp() override { ASSERT_TRUE(m_plugin.load()); }
+    void TearDown() override { m_plugin.unload(); }
+
+    TestHost m_host;
+    SpxDefaults m_plugin;
+};
+
+} // namespace
+
+TEST_F(Metrics, AreThoseOfTheFrameAroundEveryInput)
+{
+    SoSFBool field;
+    const QWidget& editor = edit(field);
+    EXPECT_EQ(editor.layout()->contentsMargins(), QMargins(4, 4, 4, 4));
+    EXPECT_EQ(editor.layout()->spacing(), 6);
+    EXPECT_EQ(in<QLabel>(editor, "m_label").font().pointSize(), 10);
+    for (const char* button : {"m_defaultButton", "m_ignoreButton"})
+        EXPECT_EQ(in<QPushButton>(editor, button).maximumSize(), QSize(20, 20)) << button;
+    EXPECT_EQ(in<QCheckBox>(editor, "m_box").size(), QSize(16, 18));
+}
+
+TEST_F(Metrics, GiveAColourItsSwatch)
+{
+    SoSFColor field;
+    EXPECT_EQ(in<QWidget>(edit(field), "m_colorDisp").size(), QSize(20, 18));
+}
+
+TEST_F(Metrics, GiveAMatrixItsPopup)
+{
+    SoSFMatrix field;
+    const QWidget& editor = edit(field);
+    EXPECT_EQ(in<QPushButton>(editor, "m_editButton").size(), QSize(20, 20));
+    const auto* grid = editor.findChild<QLayout*>("m_popupFrameLayout");
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->contentsMargins(), QMargins(6, 6, 6, 6));
+    EXPECT_EQ(grid->spacing(), 8);
+    EXPECT_EQ(grid->parentWidget()->size(), QSize(260, 100));
+}
+
+TEST_F(Metrics, GiveAListItsTableAndAccessBox)
+{
+    SoMFFloat field;
+    const QWidget& editor = edit(field);
+    EXPECT_EQ(editor.layout()->contentsMargins(), QMargins(6, 6, 6, 6));
+    EXPECT_EQ(editor.layout()->spacing(), 2);
+    const auto* table = editor.findChild<EdMFieldTable*>();
+    const auto* box = editor.findChild<QSpinBox*>();
+    ASSERT_TRUE(table && box);
+    EXPECT_EQ(table->minimumHeight(), 46);
+    EXPECT_EQ(box->maximumWidth(), 60);
 }
 
 TEST(FieldEditorSettings, GiveZeroForAnUnknownKeyEveryTime)
