@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The include lines of the sources. That no level of xsg includes a higher one, nor Qt, the build enforces:
-// each level is a target that sees the headers below it only (scopix_add_level).
+// The arrows between the folders, as the sources' own include lines draw them.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -90,6 +91,31 @@ std::set<std::string> fileNamesIn(const fs::path& folder)
     return names;
 }
 
+bool isQt(const std::string& target)
+{
+    static const std::regex pattern(R"(^(Q[A-Z]|Qt|q[a-z]+\.h$|qwt))");
+    return std::regex_search(target, pattern);
+}
+
+// The levels of a library from the bottom up, as its CMakeLists.txt lists them.
+std::vector<std::string> levelsOf(const std::string& folder)
+{
+    std::ifstream stream(root() / folder / "CMakeLists.txt");
+    const std::string text((std::istreambuf_iterator<char>(stream)), {});
+    std::smatch match;
+    if (!std::regex_search(text, match, std::regex(R"(set\(levels\s+([^)]*)\))")))
+        return {};
+    std::istringstream list(match[1]);
+    return {std::istream_iterator<std::string>(list), {}};
+}
+
+// "fields" of "xsg/fields/SoSFFloat.h"
+std::string levelIn(const std::string& path)
+{
+    const auto start = path.find('/') + 1;
+    return path.substr(start, path.find('/', start) - start);
+}
+
 class Layer : public ::testing::TestWithParam<const char*>
 {
 };
@@ -138,3 +164,30 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
 
 INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
+
+TEST(SceneGraph, KnowsNeitherQtNorTheContract)
+{
+    for (const Include& include : includesIn("xsg")) {
+        EXPECT_FALSE(isQt(include.target)) << include;
+        EXPECT_FALSE(startsWith(include.target, "scopix/")) << include;
+    }
+}
+
+// The build enforces it for every file that a level compiles; this finds headers that only higher levels
+// include.
+TEST(SceneGraph, EachLevelIncludesOnlyItselfAndThoseBelow)
+{
+    const std::vector<std::string> levels = levelsOf("xsg");
+    ASSERT_FALSE(levels.empty());
+    std::set<std::string> seen;
+    for (const std::string& level : levels) {
+        seen.insert(level);
+        for (const Include& include : includesIn("xsg/" + level)) {
+            if (startsWith(include.target, "xsg/")) {
+                EXPECT_TRUE(seen.count(levelIn(include.target))) << include;
+            }
+        }
+    }
+    for (const fs::path& file : sourcesIn("xsg"))
+        EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
+}
