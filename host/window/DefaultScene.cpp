@@ -84,12 +84,6 @@ SoRef<SoSeparator> makeDefaultScene()
             disc(0.8F, 2.2F));
     addPart(*scene, "Bubble", placed({0, 0.1F, 1}), material("Glass", {0.3F, 0.6F, 0.95F}, 0.9F, 0.45F),
             new SoSphere);
-    // Known by name only: a build of the scene library without it still opens.
-    if (SoTypedObject* gallery = SoType::fromName("FieldGallery").createInstance()) {
-        auto* node = static_cast<SoNode*>(gallery);
-        scene->addChild(node);
-        node->setName("EveryField");
-    }
     return scene;
 }
 

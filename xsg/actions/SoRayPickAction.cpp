@@ -10,6 +10,14 @@
 
 #include <algorithm>
 
+namespace
+{
+
+// How far beside a line or a point a ray may pass, as part of the distance from its origin.
+constexpr float Tolerance = 0.005F;
+
+} // namespace
+
 struct SoRayPickAction::Hit {
     float distance = std::numeric_limits<float>::max(); // along the local ray, which need not be of length 1
     SbVec3f normal;
@@ -89,19 +97,22 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
         return false;
     // Lines and points are met from beside, so the box grows by as much as they may be missed at its
     // distance.
-    const SbRay ray = localRay(toWorld);
-    const float reach = ((box.getCenter() - ray.origin).length() + box.getSize().length()) * m_tolerance;
+    const auto& ray = localRay(toWorld);
+    if (!ray)
+        return false;
+    const float reach = ((box.getCenter() - ray->origin).length() + box.getSize().length()) * Tolerance;
     const SbVec3f slack(reach, reach, reach);
-    return xsg::meetsBox(ray, SbBox3f(box.getMin() - slack, box.getMax() + slack));
+    return xsg::meetsBox(*ray, SbBox3f(box.getMin() - slack, box.getMax() + slack));
 }
 
-SbRay SoRayPickAction::localRay(const SbMatrix& toWorld)
+const std::optional<SbRay>& SoRayPickAction::localRay(const SbMatrix& toWorld)
 {
     // Siblings share their coordinates: the last answer mostly serves again.
     if (toWorld != m_localMatrix) {
         m_localMatrix = toWorld;
-        const SbMatrix toLocal = toWorld.inverse();
-        m_localRay = {toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+        m_localRay.reset();
+        if (const auto toLocal = toWorld.inverse())
+            m_localRay = {toLocal->multPoint(m_ray.origin), toLocal->multDirection(m_ray.direction)};
     }
     return m_localRay;
 }
@@ -118,16 +129,15 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     if (!mayMeet(shape->getBox(state()), matrix))
         return;
     const SbMatrix toWorld = shape->getPlacement() * matrix;
-    const SbMatrix toLocal = toWorld.inverse();
-    // A shape squeezed flat has no inside to look from; the inverse says so by being the identity.
-    if (toLocal == SbMatrix() && toWorld != SbMatrix())
+    const auto toLocal = toWorld.inverse();
+    if (!toLocal) // a shape squeezed flat has no inside to look from
         return;
-    const SbRay ray{toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+    const SbRay ray{toLocal->multPoint(m_ray.origin), toLocal->multDirection(m_ray.direction)};
     const SoGeometry& g = geometryOf(shape);
     const auto corner = [&](std::size_t i) { return g.points[g.index[i]]; };
     const auto offer = [&](const Hit& hit) {
         if (hit.distance >= 0 && !isClipped(m_ray.at(hit.distance)))
-            take(shape, hit, toWorld);
+            take(shape, hit, *toLocal);
     };
     if (g.kind == SoGeometry::Kind::Triangles) {
         for (std::size_t i = 0; i + 2 < g.index.size(); i += 3) {
@@ -142,12 +152,12 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     for (std::size_t i = 0; i + step <= g.index.size(); i += step) {
         Hit hit;
         if (xsg::passesSegment(m_ray, toWorld.multPoint(corner(i)), toWorld.multPoint(corner(i + step - 1)),
-                               m_tolerance, hit.distance))
+                               Tolerance, hit.distance))
             offer(hit);
     }
 }
 
-void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld)
+void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toLocal)
 {
     // Directions were not normalised on their way into the shape's coordinates, so distances are still the
     // world's.
@@ -156,7 +166,7 @@ void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWor
     SoPickedPoint& found = m_nearest.emplace();
     found.distance = hit.distance;
     found.point = m_ray.at(hit.distance);
-    const SbVec3f normal = toWorld.inverse().transposed().multDirection(hit.normal).normalized();
+    const SbVec3f normal = toLocal.transposed().multDirection(hit.normal).normalized();
     found.normal = normal == SbVec3f() ? m_ray.direction * -1.0F : normal;
     if (found.normal.dot(m_ray.direction) > 0)
         found.normal = found.normal * -1.0F;

@@ -213,7 +213,7 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
     EyeView eye;
     // The identity where the camera stands outside of the scene.
     const SbMatrix& toWorld = list.getCameraMatrix();
-    eye.view = toWorld.inverse() * camera->getViewMatrix();
+    eye.view = toWorld.inverse().value_or(SbMatrix()) * camera->getViewMatrix();
     eye.projection = camera->getProjectionMatrix(aspect);
     eye.viewProjection = eye.view * eye.projection;
     const bool isParallel = eye.projection[2][3] == 0;

@@ -9,11 +9,15 @@
 #include <vector>
 
 class SoTimedSensor;
+namespace xsg
+{
+class Context;
+} // namespace xsg
 
 /// The one queue of triggered sensors, driven by the host:
 ///
-///   - the wake-up hook tells the host that something waits; it then calls process() in a turn of its event
-///   loop;
+///   - the wake-up hook notifies the host that something waits; it then calls process() in a turn of its
+///   event loop;
 ///   - after process(), and when woken, the host sets a timer for getDeadline() and calls process() again by
 ///   then.
 ///
@@ -53,6 +57,7 @@ public:
 private:
     friend class SoSensor;
     friend class SoTimedSensor;
+    friend class xsg::Context;
     using Place = SoSensor::Place;
     struct List {
         std::vector<SoSensor*> sensors; // those taken out are null

@@ -3,7 +3,7 @@
 
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoReadError.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -60,7 +60,7 @@ struct BadLine {
 std::string_view withoutComment(std::string_view line)
 {
     for (std::size_t at = line.find('#'); at != std::string_view::npos; at = line.find('#', at + 1)) {
-        if (at == 0 || XsgTextReader::isBlank(line[at - 1]))
+        if (at == 0 || xsg::TextReader::isBlank(line[at - 1]))
             return line.substr(0, at);
     }
     return line;
@@ -68,16 +68,16 @@ std::string_view withoutComment(std::string_view line)
 
 bool readLine(std::string_view line, Settings& settings)
 {
-    line = xsgTrimmed(withoutComment(line));
+    line = xsg::trimmed(withoutComment(line));
     if (line.empty())
         return true;
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos)
         return false;
-    const std::string_view name = xsgTrimmed(line.substr(0, equals));
-    if (name.empty() || !std::all_of(name.begin(), name.end(), XsgTextReader::isWordByte))
+    const std::string_view name = xsg::trimmed(line.substr(0, equals));
+    if (name.empty() || !std::all_of(name.begin(), name.end(), xsg::TextReader::isWordByte))
         return false;
-    settings[std::string(name)] = xsgTrimmed(line.substr(equals + 1));
+    settings[std::string(name)] = xsg::trimmed(line.substr(equals + 1));
     return true;
 }
 
@@ -153,8 +153,8 @@ T parsed(const char* name, T fallback, const char* expected)
     if (!text)
         return fallback;
     T value{};
-    XsgTextReader in(*text);
-    if (XsgText<T>::read(in, value) && in.onlyBlanksLeft())
+    xsg::TextReader in(*text);
+    if (xsg::ValueText<T>::read(in, value) && in.onlyBlanksLeft())
         return value;
     warnOnce(name, *text, expected);
     return fallback;

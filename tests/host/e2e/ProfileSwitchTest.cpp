@@ -3,8 +3,8 @@
 // whole, and nothing of the editor stays behind.
 #include <support/Session.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/fields/SoMFVec3f.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/properties/SoPoints.h>
 
 #include <QTableWidget>

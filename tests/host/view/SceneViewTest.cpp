@@ -3,6 +3,7 @@
 
 #include "window/DefaultScene.h"
 
+#include <xsg/nodes/base/SoTimeSource.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -313,10 +314,10 @@ TEST_F(View, WhatTurnsElsewhereIsNoneOfItsBusiness)
     other->addChild(spin);
     picture();
     EXPECT_FALSE(view.isAnimating());
-    EXPECT_TRUE(SoSpin::isAnyTurning());
-    EXPECT_FALSE(SoSpin::isAnyTurning(scene.get()));
-    EXPECT_FALSE(SoSpin::advanceAll(1.0, scene.get()));
-    EXPECT_TRUE(SoSpin::advanceAll(1.0, other.get()));
+    EXPECT_TRUE(SoTimeSource::getInstance().isNeeded());
+    EXPECT_FALSE(SoTimeSource::getInstance().isNeeded(scene.get()));
+    EXPECT_FALSE(SoTimeSource::getInstance().advance(1.0, scene.get()));
+    EXPECT_TRUE(SoTimeSource::getInstance().advance(1.0, other.get()));
     EXPECT_EQ(spin->time.getValue(), SbTime(1.0));
 }
 

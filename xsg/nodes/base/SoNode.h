@@ -18,8 +18,8 @@ public:
 
     /// Grows whenever this node or anything below it changes; a cache made from it compares this number.
     std::uint32_t getChangeCount() const { return m_changeCount; }
-    /// A number that no other node of this process has or had; a cache can keep it where a pointer could go
-    /// stale.
+    /// A number that no other node of this process has or had; a cache can keep it where a pointer could
+    /// dangle.
     std::uint64_t getNodeId() const { return m_id; }
 
     /// Each place where the node stands, a group that holds it twice being listed twice.

@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/nodes/base/SoFieldGallery.h>
+#include "SoFieldGallery.h"
 
 #include <xsg/types/SoTypedImpl.h>
 
 template class SoTyped<SoFieldGallery, SoNode>;
+
+namespace
+{
+
+[[maybe_unused]] const SoType registered = SoFieldGallery::getClassTypeId();
+
+} // namespace
 
 SoFieldGallery::SoFieldGallery()
 {

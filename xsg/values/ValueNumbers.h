@@ -39,20 +39,18 @@ T toNumber(double value)
     }
 }
 
-} // namespace xsg
-
 /// How a value is seen as a row of numbers, for conversions between types that have the same count of them.
 ///
 /// No numbers: strings, names, references.
 template <class T, class = void>
-struct XsgNumbers {
+struct ValueNumbers {
     static constexpr int Count = 0;
     static double get(const T& /*value*/, int /*which*/) { return 0; }
     static void set(T& /*value*/, int /*which*/, double /*number*/) {}
 };
 
 template <class T>
-struct XsgNumbers<T, std::enable_if_t<std::is_arithmetic_v<T>>> {
+struct ValueNumbers<T, std::enable_if_t<std::is_arithmetic_v<T>>> {
     static constexpr int Count = 1;
     static double get(T value, int /*which*/) { return static_cast<double>(value); }
     static void set(T& value, int /*which*/, double number)
@@ -61,42 +59,39 @@ struct XsgNumbers<T, std::enable_if_t<std::is_arithmetic_v<T>>> {
         if constexpr (std::is_same_v<T, unsigned char>)
             value = number != 0;
         else
-            value = xsg::toNumber<T>(number);
+            value = toNumber<T>(number);
     }
 };
 
 template <>
-struct XsgNumbers<SbTime> {
+struct ValueNumbers<SbTime> {
     static constexpr int Count = 1;
     static double get(SbTime value, int /*which*/) { return value.getValue(); }
     static void set(SbTime& value, int /*which*/, double number) { value = number; }
 };
 
 template <class T, int N>
-struct XsgNumbers<SbVec<T, N>> {
+struct ValueNumbers<SbVec<T, N>> {
     static constexpr int Count = N;
     static double get(const SbVec<T, N>& value, int which) { return static_cast<double>(value[which]); }
-    static void set(SbVec<T, N>& value, int which, double number) { value[which] = xsg::toNumber<T>(number); }
+    static void set(SbVec<T, N>& value, int which, double number) { value[which] = toNumber<T>(number); }
 };
 template <>
-struct XsgNumbers<SbColor> : XsgNumbers<SbVec3f> {
+struct ValueNumbers<SbColor> : ValueNumbers<SbVec3f> {
 };
 
 template <>
-struct XsgNumbers<SbMatrix> {
+struct ValueNumbers<SbMatrix> {
     static constexpr int Count = 16;
     static double get(const SbMatrix& value, int which)
     {
         return static_cast<double>(value.getValue()[which]);
     }
-    static void set(SbMatrix& value, int which, double number)
-    {
-        value[0][which] = xsg::toNumber<float>(number);
-    }
+    static void set(SbMatrix& value, int which, double number) { value[0][which] = toNumber<float>(number); }
 };
 
 template <>
-struct XsgNumbers<SbRotation> {
+struct ValueNumbers<SbRotation> {
     static constexpr int Count = 4;
     static double get(const SbRotation& value, int which)
     {
@@ -106,13 +101,13 @@ struct XsgNumbers<SbRotation> {
     {
         float four[4];
         std::copy_n(value.getValue(), 4, four);
-        four[which] = xsg::toNumber<float>(number);
+        four[which] = toNumber<float>(number);
         value.setValue(four);
     }
 };
 
 template <>
-struct XsgNumbers<SbPlane> {
+struct ValueNumbers<SbPlane> {
     static constexpr int Count = 4;
     static double get(const SbPlane& value, int which)
     {
@@ -122,13 +117,13 @@ struct XsgNumbers<SbPlane> {
     {
         SbVec3f normal = value.getNormal();
         float distance = value.getDistanceFromOrigin();
-        (which < 3 ? normal[which] : distance) = xsg::toNumber<float>(number);
+        (which < 3 ? normal[which] : distance) = toNumber<float>(number);
         value = SbPlane(normal, distance);
     }
 };
 
 template <class Box, class Corner>
-struct XsgBoxNumbers {
+struct BoxNumbers {
     static constexpr int Count = 6;
     static double get(const Box& value, int which)
     {
@@ -138,13 +133,15 @@ struct XsgBoxNumbers {
     {
         Corner min = value.getMin();
         Corner max = value.getMax();
-        (which < 3 ? min[which] : max[which - 3]) = xsg::toNumber<typename Corner::Scalar>(number);
+        (which < 3 ? min[which] : max[which - 3]) = toNumber<typename Corner::Scalar>(number);
         value = Box(min, max);
     }
 };
 template <>
-struct XsgNumbers<SbBox3s> : XsgBoxNumbers<SbBox3s, SbVec3s> {
+struct ValueNumbers<SbBox3s> : BoxNumbers<SbBox3s, SbVec3s> {
 };
 template <>
-struct XsgNumbers<SbBox3f> : XsgBoxNumbers<SbBox3f, SbVec3f> {
+struct ValueNumbers<SbBox3f> : BoxNumbers<SbBox3f, SbVec3f> {
 };
+
+} // namespace xsg

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 #include <xsg/values/Utf.h>
 
 #include <algorithm>
 
-bool XsgTextReader::isWordByte(char c)
+bool xsg::TextReader::isWordByte(char c)
 {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
            static_cast<unsigned char>(c) > 127;
 }
 
-std::string_view XsgTextReader::readWord()
+std::string_view xsg::TextReader::readWord()
 {
     const char* start = m_at;
     while (m_at != m_end && isWordByte(*m_at))
@@ -19,7 +19,7 @@ std::string_view XsgTextReader::readWord()
     return {start, static_cast<std::size_t>(m_at - start)};
 }
 
-bool XsgTextReader::readHex(int digits, unsigned& value)
+bool xsg::TextReader::readHex(int digits, unsigned& value)
 {
     if (m_end - m_at < digits)
         return false;
@@ -31,7 +31,7 @@ bool XsgTextReader::readHex(int digits, unsigned& value)
     return true;
 }
 
-bool XsgTextReader::readEscape(std::string& out)
+bool xsg::TextReader::readEscape(std::string& out)
 {
     if (atEnd())
         return false;
@@ -68,7 +68,7 @@ bool XsgTextReader::readEscape(std::string& out)
     }
 }
 
-bool XsgTextReader::readQuoted(std::string& out)
+bool xsg::TextReader::readQuoted(std::string& out)
 {
     if (!accept('"'))
         return false;
@@ -101,7 +101,7 @@ std::size_t afterQuoted(std::string_view text, std::size_t at)
 
 } // namespace
 
-XsgValueExtent::XsgValueExtent(std::string_view text)
+xsg::ValueExtent::ValueExtent(std::string_view text)
 {
     const bool isList = !text.empty() && text.front() == '[';
     const std::string_view ends = isList ? "\"]" : "\"\n!<}#";
@@ -124,16 +124,16 @@ XsgValueExtent::XsgValueExtent(std::string_view text)
         ++length;
 }
 
-std::string_view xsgTrimmed(std::string_view text)
+std::string_view xsg::trimmed(std::string_view text)
 {
-    while (!text.empty() && XsgTextReader::isBlank(text.front()))
+    while (!text.empty() && xsg::TextReader::isBlank(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && XsgTextReader::isBlank(text.back()))
+    while (!text.empty() && xsg::TextReader::isBlank(text.back()))
         text.remove_suffix(1);
     return text;
 }
 
-void xsgAppendQuoted(std::string& out, std::string_view text)
+void xsg::appendQuoted(std::string& out, std::string_view text)
 {
     out.reserve(out.size() + text.size() + 2);
     out += '"';
@@ -176,11 +176,11 @@ bool equalsIgnoringCase(std::string_view word, std::string_view lower)
 }
 
 // Text without quotes, up to what can end it inside a list.
-std::string_view readBare(XsgTextReader& in)
+std::string_view readBare(xsg::TextReader& in)
 {
     const std::string_view rest = in.rest();
     std::size_t size = 0;
-    while (size < rest.size() && !XsgTextReader::isBlank(rest[size]) && rest[size] != ',' &&
+    while (size < rest.size() && !xsg::TextReader::isBlank(rest[size]) && rest[size] != ',' &&
            rest[size] != ']' && rest[size] != '[' && rest[size] != '"')
         ++size;
     in.skip(size);
@@ -188,19 +188,19 @@ std::string_view readBare(XsgTextReader& in)
 }
 
 template <int N>
-bool readFloats(XsgTextReader& in, float (&values)[N])
+bool readFloats(xsg::TextReader& in, float (&values)[N])
 {
-    return XsgNumbersText<float, N>::read(in, values);
+    return xsg::NumbersText<float, N>::read(in, values);
 }
 
 } // namespace
 
-void XsgText<bool>::write(std::string& out, bool value)
+void xsg::ValueText<bool>::write(std::string& out, bool value)
 {
     out += value ? "TRUE" : "FALSE";
 }
 
-bool XsgText<bool>::read(XsgTextReader& in, bool& value)
+bool xsg::ValueText<bool>::read(xsg::TextReader& in, bool& value)
 {
     in.skipBlanks();
     const std::string_view word = in.readWord();
@@ -211,21 +211,21 @@ bool XsgText<bool>::read(XsgTextReader& in, bool& value)
     return true;
 }
 
-bool XsgText<SbBool>::read(XsgTextReader& in, SbBool& value)
+bool xsg::ValueText<SbBool>::read(xsg::TextReader& in, SbBool& value)
 {
     bool parsed = false;
-    if (!XsgText<bool>::read(in, parsed))
+    if (!xsg::ValueText<bool>::read(in, parsed))
         return false;
     value = parsed ? 1 : 0;
     return true;
 }
 
-void XsgText<SbRotation>::write(std::string& out, const SbRotation& r)
+void xsg::ValueText<SbRotation>::write(std::string& out, const SbRotation& r)
 {
-    XsgNumbersText<float, 4>::write(out, r.getValue());
+    xsg::NumbersText<float, 4>::write(out, r.getValue());
 }
 
-bool XsgText<SbRotation>::read(XsgTextReader& in, SbRotation& r)
+bool xsg::ValueText<SbRotation>::read(xsg::TextReader& in, SbRotation& r)
 {
     float four[4];
     if (!readFloats(in, four))
@@ -234,14 +234,14 @@ bool XsgText<SbRotation>::read(XsgTextReader& in, SbRotation& r)
     return true;
 }
 
-void XsgText<SbPlane>::write(std::string& out, const SbPlane& p)
+void xsg::ValueText<SbPlane>::write(std::string& out, const SbPlane& p)
 {
-    XsgText<SbVec3f>::write(out, p.getNormal());
+    xsg::ValueText<SbVec3f>::write(out, p.getNormal());
     out += ' ';
-    XsgText<float>::write(out, p.getDistanceFromOrigin());
+    xsg::ValueText<float>::write(out, p.getDistanceFromOrigin());
 }
 
-bool XsgText<SbPlane>::read(XsgTextReader& in, SbPlane& p)
+bool xsg::ValueText<SbPlane>::read(xsg::TextReader& in, SbPlane& p)
 {
     float four[4];
     if (!readFloats(in, four))
@@ -250,30 +250,30 @@ bool XsgText<SbPlane>::read(XsgTextReader& in, SbPlane& p)
     return true;
 }
 
-void XsgText<SbBox3s>::write(std::string& out, const SbBox3s& b)
+void xsg::ValueText<SbBox3s>::write(std::string& out, const SbBox3s& b)
 {
-    XsgText<SbVec3s>::write(out, b.getMin());
+    xsg::ValueText<SbVec3s>::write(out, b.getMin());
     out += ' ';
-    XsgText<SbVec3s>::write(out, b.getMax());
+    xsg::ValueText<SbVec3s>::write(out, b.getMax());
 }
 
-bool XsgText<SbBox3s>::read(XsgTextReader& in, SbBox3s& b)
+bool xsg::ValueText<SbBox3s>::read(xsg::TextReader& in, SbBox3s& b)
 {
     short six[6];
-    if (!XsgNumbersText<short, 6>::read(in, six))
+    if (!xsg::NumbersText<short, 6>::read(in, six))
         return false;
     b = SbBox3s(SbVec3s(six), SbVec3s(six + 3));
     return true;
 }
 
-void XsgText<SbBox3f>::write(std::string& out, const SbBox3f& b)
+void xsg::ValueText<SbBox3f>::write(std::string& out, const SbBox3f& b)
 {
-    XsgText<SbVec3f>::write(out, b.getMin());
+    xsg::ValueText<SbVec3f>::write(out, b.getMin());
     out += ' ';
-    XsgText<SbVec3f>::write(out, b.getMax());
+    xsg::ValueText<SbVec3f>::write(out, b.getMax());
 }
 
-bool XsgText<SbBox3f>::read(XsgTextReader& in, SbBox3f& b)
+bool xsg::ValueText<SbBox3f>::read(xsg::TextReader& in, SbBox3f& b)
 {
     float six[6];
     if (!readFloats(in, six))
@@ -282,26 +282,26 @@ bool XsgText<SbBox3f>::read(XsgTextReader& in, SbBox3f& b)
     return true;
 }
 
-void XsgText<SbTime>::write(std::string& out, SbTime t)
+void xsg::ValueText<SbTime>::write(std::string& out, SbTime t)
 {
-    XsgText<double>::write(out, t.getValue());
+    xsg::ValueText<double>::write(out, t.getValue());
 }
 
-bool XsgText<SbTime>::read(XsgTextReader& in, SbTime& t)
+bool xsg::ValueText<SbTime>::read(xsg::TextReader& in, SbTime& t)
 {
     double seconds = 0;
-    if (!XsgText<double>::read(in, seconds))
+    if (!xsg::ValueText<double>::read(in, seconds))
         return false;
     t = seconds;
     return true;
 }
 
-void XsgText<SbString>::write(std::string& out, const SbString& s)
+void xsg::ValueText<SbString>::write(std::string& out, const SbString& s)
 {
-    xsgAppendQuoted(out, s.str());
+    xsg::appendQuoted(out, s.str());
 }
 
-bool XsgText<SbString>::read(XsgTextReader& in, SbString& s)
+bool xsg::ValueText<SbString>::read(xsg::TextReader& in, SbString& s)
 {
     in.skipBlanks();
     std::string text;
@@ -317,20 +317,20 @@ bool XsgText<SbString>::read(XsgTextReader& in, SbString& s)
     return true;
 }
 
-void XsgText<SbName>::write(std::string& out, SbName n)
+void xsg::ValueText<SbName>::write(std::string& out, SbName n)
 {
     const std::string_view text = n.getString();
-    const bool isWord = !text.empty() && std::all_of(text.begin(), text.end(), XsgTextReader::isWordByte);
+    const bool isWord = !text.empty() && std::all_of(text.begin(), text.end(), xsg::TextReader::isWordByte);
     if (isWord)
         out += text;
     else
-        xsgAppendQuoted(out, text);
+        xsg::appendQuoted(out, text);
 }
 
-bool XsgText<SbName>::read(XsgTextReader& in, SbName& n)
+bool xsg::ValueText<SbName>::read(xsg::TextReader& in, SbName& n)
 {
     SbString text;
-    if (!XsgText<SbString>::read(in, text))
+    if (!xsg::ValueText<SbString>::read(in, text))
         return false;
     // A name ends at its first NUL; a text that has one is no name.
     if (text.str().find('\0') != std::string::npos)

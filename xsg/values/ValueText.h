@@ -14,11 +14,17 @@
 #include <string_view>
 #include <type_traits>
 
+/// The stored form of a bool in a list: std::vector<bool> has no addressable elements.
+using SbBool = unsigned char;
+
+namespace xsg
+{
+
 /// A place in a text that is being read.
-class XSG_API XsgTextReader
+class XSG_API TextReader
 {
 public:
-    explicit XsgTextReader(std::string_view text)
+    explicit TextReader(std::string_view text)
         : m_at(text.data())
         , m_end(text.data() + text.size())
     {
@@ -77,11 +83,11 @@ private:
     const char* m_end;
 };
 
-/// How far a field's value goes at the start of a text, as scene files have it: a list up to its bracket,
+/// How long a field's value at the start of a text is, as scene files have it: a list up to its bracket,
 /// anything else up to the line's end, a mark, a brace or a comment. `open` is where a list or a text in
 /// quotes begins that has no end.
-struct XSG_API XsgValueExtent {
-    explicit XsgValueExtent(std::string_view text);
+struct XSG_API ValueExtent {
+    explicit ValueExtent(std::string_view text);
     bool isWhole() const { return open == std::string_view::npos; }
 
     std::size_t length = 0;
@@ -89,12 +95,12 @@ struct XSG_API XsgValueExtent {
 };
 
 /// Without the blanks around it.
-XSG_API std::string_view xsgTrimmed(std::string_view text);
+XSG_API std::string_view trimmed(std::string_view text);
 
-XSG_API void xsgAppendQuoted(std::string& out, std::string_view text);
+XSG_API void appendQuoted(std::string& out, std::string_view text);
 
 template <class T>
-bool XsgTextReader::readNumber(T& value)
+bool TextReader::readNumber(T& value)
 {
     skipBlanks();
     const char* start = m_at;
@@ -121,7 +127,7 @@ bool XsgTextReader::readNumber(T& value)
 }
 
 template <class T>
-bool XsgTextReader::readPrefixedInteger(const char* digits, bool negative, T& value)
+bool TextReader::readPrefixedInteger(const char* digits, bool negative, T& value)
 {
     unsigned long long magnitude = 0;
     const auto [end, error] = std::from_chars(digits, m_end, magnitude, 16);
@@ -137,39 +143,39 @@ bool XsgTextReader::readPrefixedInteger(const char* digits, bool negative, T& va
 
 /// One specialisation per value type: write() appends the text, read() takes it from a reader.
 template <class T, class = void>
-struct XsgText;
+struct ValueText;
 
 /// How values are written as text and read back. Numbers take the shortest form that reads back to the same
 /// bits, in every locale. Reading is tolerant of blanks around and between numbers.
 template <class T>
-struct XsgText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
-                                   !std::is_same_v<T, unsigned char>>> {
+struct ValueText<T, std::enable_if_t<std::is_arithmetic_v<T> && !std::is_same_v<T, bool> &&
+                                     !std::is_same_v<T, unsigned char>>> {
     static void write(std::string& out, T value)
     {
         char buffer[32];
         const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
         out.append(buffer, result.ptr);
     }
-    static bool read(XsgTextReader& in, T& value) { return in.readNumber(value); }
+    static bool read(TextReader& in, T& value) { return in.readNumber(value); }
 };
 
 /// Several numbers one after the other, as most of the geometric types are.
 template <class T, int N>
-struct XsgNumbersText {
+struct NumbersText {
     static void write(std::string& out, const T* values)
     {
         for (int i = 0; i < N; ++i) {
             if (i > 0)
                 out += ' ';
-            XsgText<T>::write(out, values[i]);
+            ValueText<T>::write(out, values[i]);
         }
     }
-    static bool read(XsgTextReader& in, T* values)
+    static bool read(TextReader& in, T* values)
     {
         for (int i = 0; i < N; ++i) {
             if (i > 0)
                 in.skipBlanks();
-            if (!XsgText<T>::read(in, values[i]))
+            if (!ValueText<T>::read(in, values[i]))
                 return false;
         }
         return true;
@@ -178,72 +184,69 @@ struct XsgNumbersText {
 
 /// TRUE and FALSE; 1 and 0 and small letters are read too.
 template <>
-struct XSG_API XsgText<bool> {
+struct XSG_API ValueText<bool> {
     static void write(std::string& out, bool value);
-    static bool read(XsgTextReader& in, bool& value);
+    static bool read(TextReader& in, bool& value);
 };
-/// The stored form of a bool in a list: std::vector<bool> has no addressable elements.
-using SbBool = unsigned char;
 template <>
-struct XSG_API XsgText<SbBool> {
-    static void write(std::string& out, SbBool value) { XsgText<bool>::write(out, value != 0); }
-    static bool read(XsgTextReader& in, SbBool& value);
+struct XSG_API ValueText<SbBool> {
+    static void write(std::string& out, SbBool value) { ValueText<bool>::write(out, value != 0); }
+    static bool read(TextReader& in, SbBool& value);
 };
 
 template <class T, int N>
-struct XsgText<SbVec<T, N>> {
-    static void write(std::string& out, const SbVec<T, N>& v)
-    {
-        XsgNumbersText<T, N>::write(out, v.getValue());
-    }
-    static bool read(XsgTextReader& in, SbVec<T, N>& v) { return XsgNumbersText<T, N>::read(in, &v[0]); }
+struct ValueText<SbVec<T, N>> {
+    static void write(std::string& out, const SbVec<T, N>& v) { NumbersText<T, N>::write(out, v.getValue()); }
+    static bool read(TextReader& in, SbVec<T, N>& v) { return NumbersText<T, N>::read(in, &v[0]); }
 };
 template <>
-struct XsgText<SbColor> : XsgText<SbVec3f> {
+struct ValueText<SbColor> : ValueText<SbVec3f> {
 };
 template <>
-struct XSG_API XsgText<SbMatrix> {
+struct XSG_API ValueText<SbMatrix> {
     static void write(std::string& out, const SbMatrix& m)
     {
-        XsgNumbersText<float, 16>::write(out, m.getValue());
+        NumbersText<float, 16>::write(out, m.getValue());
     }
-    static bool read(XsgTextReader& in, SbMatrix& m) { return XsgNumbersText<float, 16>::read(in, m[0]); }
+    static bool read(TextReader& in, SbMatrix& m) { return NumbersText<float, 16>::read(in, m[0]); }
 };
 template <>
-struct XSG_API XsgText<SbRotation> { // the four stored numbers
+struct XSG_API ValueText<SbRotation> { // the four stored numbers
     static void write(std::string& out, const SbRotation& r);
-    static bool read(XsgTextReader& in, SbRotation& r);
+    static bool read(TextReader& in, SbRotation& r);
 };
 template <>
-struct XSG_API XsgText<SbPlane> { // normal, then distance
+struct XSG_API ValueText<SbPlane> { // normal, then distance
     static void write(std::string& out, const SbPlane& p);
-    static bool read(XsgTextReader& in, SbPlane& p);
+    static bool read(TextReader& in, SbPlane& p);
 };
 template <>
-struct XSG_API XsgText<SbBox3s> { // minimum corner, then maximum corner
+struct XSG_API ValueText<SbBox3s> { // minimum corner, then maximum corner
     static void write(std::string& out, const SbBox3s& b);
-    static bool read(XsgTextReader& in, SbBox3s& b);
+    static bool read(TextReader& in, SbBox3s& b);
 };
 template <>
-struct XSG_API XsgText<SbBox3f> {
+struct XSG_API ValueText<SbBox3f> {
     static void write(std::string& out, const SbBox3f& b);
-    static bool read(XsgTextReader& in, SbBox3f& b);
+    static bool read(TextReader& in, SbBox3f& b);
 };
 template <>
-struct XSG_API XsgText<SbTime> { // seconds
+struct XSG_API ValueText<SbTime> { // seconds
     static void write(std::string& out, SbTime t);
-    static bool read(XsgTextReader& in, SbTime& t);
+    static bool read(TextReader& in, SbTime& t);
 };
 /// A string is written in double quotes. Without quotes a text is read as it stands: alone it is taken whole,
 /// in a list it ends at a blank, a comma or the closing bracket.
 template <>
-struct XSG_API XsgText<SbString> {
+struct XSG_API ValueText<SbString> {
     static void write(std::string& out, const SbString& s);
-    static bool read(XsgTextReader& in, SbString& s);
+    static bool read(TextReader& in, SbString& s);
 };
 /// A name is written bare where it is a word, otherwise as a string.
 template <>
-struct XSG_API XsgText<SbName> {
+struct XSG_API ValueText<SbName> {
     static void write(std::string& out, SbName n);
-    static bool read(XsgTextReader& in, SbName& n);
+    static bool read(TextReader& in, SbName& n);
 };
+
+} // namespace xsg
