@@ -20,7 +20,7 @@
 /// where loading it would crash. The note needs no symbol, so a plug-in exports its two entry points only.
 ///
 /// The text is a line "key=value" for each property. It is text and not a struct so that any version of the
-/// host can read the note of any other, and so can a person: readelf -p .note.scopix FILE.
+/// host can read the note of any other, and so can you: readelf -p .note.scopix FILE.
 template <std::size_t Size>
 struct SpxPluginNote {
     std::uint32_t ownerSize;
@@ -39,12 +39,16 @@ struct SpxPluginNote {
 #define SPX_CXX_LIBRARY "libstdc++ with its strings from before C++11"
 #endif
 
-// Neither the compiler nor the linker may drop it for want of a user.
-#if __has_attribute(retain)
-#define SPX_PLUGIN_NOTE_SECTION __attribute__((section(".note.scopix"), aligned(4), used, retain))
+// Neither the compiler nor the linker may drop it for want of a user, and no sanitizer may pad it.
+#if defined __clang__
+#define SPX_PLUGIN_NOTE_KEPT retain, no_sanitize("address")
+#elif __has_attribute(retain)
+#define SPX_PLUGIN_NOTE_KEPT retain
 #else
-#define SPX_PLUGIN_NOTE_SECTION __attribute__((section(".note.scopix"), aligned(4), used))
+#define SPX_PLUGIN_NOTE_KEPT
 #endif
+#define SPX_PLUGIN_NOTE_SECTION                                                                              \
+    __attribute__((section(".note.scopix"), aligned(4), used, SPX_PLUGIN_NOTE_KEPT))
 
 #define SPX_PLUGIN_NOTE_TEXT(name, version)                                                                  \
     "name=" name "\n"                                                                                        \

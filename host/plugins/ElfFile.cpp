@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/ElfFile.h"
 
+#include "plugins/ElfNoteReader.h"
 #include "plugins/OwnLibrary.h"
 
 #include <QCoreApplication>
@@ -66,53 +67,6 @@ QString notForThisMachine(unsigned machine)
     return tr("it was built for another kind of machine (%1), this program runs on %2")
         .arg(machineName(machine), machineName(OwnLibrary::header().e_machine));
 }
-
-quint64 filledUp(quint64 size, quint64 alignment)
-{
-    return (size + alignment - 1) / alignment * alignment;
-}
-
-struct Note {
-    QByteArray owner;
-    QByteArray content;
-    quint32 type;
-};
-
-// Notes lie one behind the other, each part filled up to the segment's alignment.
-class NoteReader
-{
-public:
-    NoteReader(const QByteArray& notes, quint64 alignment)
-        : m_notes(notes)
-        , m_alignment(alignment == 8 ? 8 : 4)
-    {
-    }
-
-    bool isAtEnd() const { return m_next >= quint64(m_notes.size()); }
-
-    // Nothing where what follows is no note. The filling behind the last one may be missing.
-    std::optional<Note> take()
-    {
-        const quint64 size = quint64(m_notes.size());
-        if (size - m_next < sizeof(ElfNote))
-            return {};
-        const auto header = structAt<ElfNote>(m_notes, qsizetype(m_next));
-        const quint64 owner = m_next + sizeof(header);
-        const quint64 content = m_next + filledUp(sizeof(header) + quint64(header.n_namesz), m_alignment);
-        if (content > size || header.n_descsz > size - content)
-            return {};
-        m_next = m_next + filledUp(content - m_next + header.n_descsz, m_alignment);
-        return Note{m_notes.mid(int(owner), int(header.n_namesz)),
-                    m_notes.mid(int(content), int(header.n_descsz)), header.n_type};
-    }
-
-private:
-    using ElfNote = ElfW(Nhdr);
-
-    const QByteArray& m_notes;
-    quint64 m_alignment;
-    quint64 m_next = 0;
-};
 
 } // namespace
 
@@ -213,7 +167,7 @@ std::optional<QByteArray> ElfFile::findNote(const QByteArray& owner, quint32 typ
 std::optional<QByteArray> ElfFile::findNoteIn(const QByteArray& notes, quint64 alignment,
                                               const QByteArray& owner, quint32 type)
 {
-    NoteReader reader(notes, alignment);
+    ElfNoteReader reader(notes, alignment);
     while (!reader.isAtEnd()) {
         const auto note = reader.take();
         if (!note) {

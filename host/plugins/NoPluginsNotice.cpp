@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/NoPluginsNotice.h"
 
-#include <QLabel>
 #include <QMainWindow>
+#include <QPlainTextEdit>
 
 namespace scopix
 {
@@ -19,14 +19,15 @@ NoPluginsNotice::NoPluginsNotice(QMainWindow& window, const QStringList& searche
 {
     setObjectName(QStringLiteral("noPlugins"));
     setFeatures(QDockWidget::DockWidgetClosable);
-    auto* text = new QLabel(tr("No plug-in is loaded, so there are no editors and no tools. Plug-ins were "
-                               "looked for in these folders:\n\n%1")
-                                .arg(searchedFolders.join(QLatin1Char('\n'))));
-    text->setTextFormat(Qt::PlainText);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    text->setWordWrap(true);
-    text->setMargin(Margin);
+    auto* text =
+        new QPlainTextEdit(tr("No plug-in is loaded, so there are no editors and no tools. Plug-ins were "
+                              "looked for in these folders:\n\n%1")
+                               .arg(searchedFolders.join(QLatin1Char('\n'))));
+    // Unlike a label, it wraps long paths too, so that they do not widen the window.
+    text->setReadOnly(true);
+    text->setFrameShape(QFrame::NoFrame);
+    text->viewport()->setAutoFillBackground(false);
+    text->document()->setDocumentMargin(Margin);
     setWidget(text);
     window.addDockWidget(Qt::RightDockWidgetArea, this);
 }

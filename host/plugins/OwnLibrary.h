@@ -17,7 +17,7 @@ using Header = ElfW(Ehdr);
 /// Its folder, with symbolic links resolved.
 QString folder();
 
-/// Its ELF header as it lies in memory, which tells what kind of machine this process runs on.
+/// Its ELF header as it lies in memory, which shows what kind of machine this process runs on.
 const Header& header();
 
 } // namespace OwnLibrary

@@ -26,7 +26,7 @@ bool fits(const QVersionNumber& needed, const QVersionNumber& here)
     return needed.majorVersion() == here.majorVersion() && needed.minorVersion() <= here.minorVersion();
 }
 
-// The major number alone where that tells the difference.
+// The major number alone where that makes the difference.
 QString shortest(const QVersionNumber& version, const QVersionNumber& other)
 {
     return version.majorVersion() == other.majorVersion()

@@ -86,7 +86,7 @@ TEST(NoPlugins, TheWindowSaysWhereTheyWereLookedFor)
     window.show();
     EXPECT_EQ(window.dockWidgetArea(window.findChild<QDockWidget*>("noPlugins")), Qt::RightDockWidgetArea);
     EXPECT_TRUE(notice->isVisible());
-    const QString text = notice->findChild<QLabel*>()->text();
+    const QString text = notice->findChild<QPlainTextEdit*>()->toPlainText();
     for (const QString& folder : path.folders())
         EXPECT_TRUE(text.contains(folder)) << text.toStdString();
 }
