@@ -2,6 +2,7 @@
 #include "app/HostApplication.h"
 
 #include "import/TextureImageLoader.h"
+#include "plugins/NoPluginsNotice.h"
 #include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
@@ -52,7 +53,7 @@ HostApplication::~HostApplication()
 
 void HostApplication::loadStandardPlugins()
 {
-    for (const QString& path : PluginSearchPath::findAll())
+    for (const QString& path : PluginSearchPath().findAll())
         m_plugins.loadPlugin(path);
 }
 
@@ -83,6 +84,8 @@ void HostApplication::start(const CommandLine& line)
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
+    if (m_plugins.pluginNames().isEmpty())
+        new NoPluginsNotice(*m_window, PluginSearchPath().folders());
     if (!line.isUnattended())
         restoreLayout();
     m_window->show();
