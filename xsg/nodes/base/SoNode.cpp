@@ -41,20 +41,20 @@ void SoNode::notify(const SoNotification& change)
     SoNotification passed = change;
     passed.node = passed.node ? passed.node : this;
     SoNode* node = this;
-    std::int64_t told = 0;
+    std::int64_t notified = 0;
     if (SoGroup* group = asGroup())
-        group->noteTouched(nullptr, change.serial);
+        group->reportChange(nullptr, change.serial);
     while (node) {
         SoNode* next = nullptr;
         if (node->m_lastSerial != change.serial) {
             node->m_lastSerial = change.serial;
             ++node->m_changeCount;
-            ++told;
+            ++notified;
             if (node->hasSensors())
                 node->SoFieldContainer::notify(passed);
             const auto& parents = node->m_parents;
             for (SoGroup* parent : parents)
-                parent->noteTouched(node, change.serial);
+                parent->reportChange(node, change.serial);
             if (!parents.empty()) {
                 next = parents.front();
                 branches.insert(branches.end(), parents.begin() + 1, parents.end());
@@ -66,5 +66,5 @@ void SoNode::notify(const SoNotification& change)
         }
         node = next;
     }
-    xsg::feeds.notifications.add(told);
+    xsg::feeds.notifications.add(notified);
 }
