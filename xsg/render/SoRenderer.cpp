@@ -58,6 +58,7 @@ class SoRenderer::Impl
 public:
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     void releaseGL();
+    void setImageReader(SoImageReader reader);
 
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
@@ -365,6 +366,12 @@ void SoRenderer::Impl::countDrawn(const xsg::GpuGeometry& geometry, std::int64_t
         statistics.triangles += geometry.indexCount / 3 * copies;
 }
 
+void SoRenderer::Impl::setImageReader(SoImageReader reader)
+{
+    m_textures.setImageReader(std::move(reader));
+    m_updater.invalidate();
+}
+
 void SoRenderer::Impl::releaseGL()
 {
     m_updater.clear();
@@ -431,6 +438,11 @@ bool SoRenderer::wantsDebugContext()
 void SoRenderer::setHeadlight(bool on)
 {
     m_impl->headlight = on;
+}
+
+void SoRenderer::setImageReader(SoImageReader reader)
+{
+    m_impl->setImageReader(std::move(reader));
 }
 
 const SoRenderer::Statistics& SoRenderer::getStatistics() const
