@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/HostApplication.h"
 
-#include "import/TextureImageLoader.h"
 #include "plugins/NoPluginsNotice.h"
 #include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
@@ -30,7 +29,6 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
-    TextureImageLoader::install();
     // Icons are painted in the density of the screen.
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_notifier.setWindow(m_window.get());

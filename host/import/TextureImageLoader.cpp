@@ -3,7 +3,7 @@
 
 #include "import/ImageConversion.h"
 
-#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/fields/SoSFImage.h>
 
 #include <QFile>
 #include <QImageReader>
@@ -17,7 +17,9 @@ namespace
 // A file of a few bytes can announce a picture that no memory holds.
 constexpr qint64 MostPixels = qint64{1} << 28;
 
-bool read(const char* path, SoSFImage& image)
+} // namespace
+
+bool TextureImageLoader::read(const char* path, SoSFImage& image)
 {
     QImageReader reader(QFile::decodeName(path));
     const QSize size = reader.size();
@@ -28,13 +30,6 @@ bool read(const char* path, SoSFImage& image)
         return false;
     image.setValue(picture.width, picture.height, picture.components, picture.bytes.data());
     return true;
-}
-
-} // namespace
-
-void TextureImageLoader::install()
-{
-    SoTexture2::setFileReader(read);
 }
 
 } // namespace scopix

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class SoSFImage;
+
 namespace scopix
 {
 
-/// Textures of every kind of picture file that the toolkit reads.
+/// Reads textures from every kind of image file that Qt reads.
 namespace TextureImageLoader
 {
 
-/// From now on the scene-graph library reads its textures' files through the toolkit.
-void install();
+/// An SoImageReader, for the renderers of the host's own views and pictures. False, and the image untouched,
+/// where the file cannot be read. Any thread.
+bool read(const char* path, SoSFImage& image);
 
 } // namespace TextureImageLoader
 

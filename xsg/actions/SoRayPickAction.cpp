@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/actions/SoRayPickAction.h>
 
+#include <xsg/actions/GroupCache.h>
 #include <xsg/actions/RayTests.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/counters/LibraryCounters.h>
@@ -53,34 +54,32 @@ std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ra
 
 bool SoRayPickAction::wantsGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    m_knowsBox = separator && SoBoundingBoxAction::isValid(*separator, state());
-    return !m_knowsBox || mayMeetAny(separator->boxCache().box);
+    xsg::GroupCache* cache = group->asSeparator() ? xsg::GroupCache::find(*group) : nullptr;
+    m_box = cache && cache->hasBox(*group, xsg::BoxInputs::of(state())) ? cache : nullptr;
+    return !m_box || mayMeetAny(m_box->getBox());
 }
 
 void SoRayPickAction::enterGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    if (m_knowsBox && separator->boxCache().children && !group->isViewDependent())
-        visitOnly(findChildren(*separator));
+    xsg::LargeGroupCache* large = m_box ? m_box->asLarge() : nullptr;
+    if (large && !group->isViewDependent())
+        visitOnly(findChildren(*large));
 }
 
-// The children of a separator with many of them that the ray may meet, and those that the others depend on.
-std::vector<std::uint32_t> SoRayPickAction::findChildren(const SoSeparator& separator)
+// The children of a large separator that the ray may meet, and those that the others depend on.
+std::vector<std::uint32_t> SoRayPickAction::findChildren(xsg::LargeGroupCache& cache)
 {
-    const SoSeparator::ChildBoxes& known = *separator.boxCache().children;
+    const xsg::LargeGroupCache::ChildBoxes& known = cache.childBoxes();
     std::vector<std::uint32_t> places;
     using Found = xsg::BoundingBoxTree::Found;
     const auto classify = [&](const SbBox3f& box) { return mayMeetAny(box) ? Found::Some : Found::Nothing; };
-    known.chunks.find(classify, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
+    known.tree.find(classify, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
         for (std::size_t i = first; i < end; ++i) {
             if (mayMeetAny(known.boxes[i]))
                 places.push_back(static_cast<std::uint32_t>(i));
         }
     });
-    const auto middle = static_cast<std::ptrdiff_t>(places.size());
-    places.insert(places.end(), known.others.begin(), known.others.end());
-    std::inplace_merge(places.begin(), places.begin() + middle, places.end());
+    xsg::mergePlaces(places, known.others);
     return places;
 }
 
@@ -95,8 +94,7 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
 {
     if (box.isEmpty())
         return false;
-    // Lines and points are met from beside, so the box grows by as much as they may be missed at its
-    // distance.
+    // A ray may pass beside lines and points, so the box grows by the tolerance at its distance.
     const auto& ray = localRay(toWorld);
     if (!ray)
         return false;
@@ -107,7 +105,7 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
 
 const std::optional<SbRay>& SoRayPickAction::localRay(const SbMatrix& toWorld)
 {
-    // Siblings share their coordinates: the last answer mostly serves again.
+    // Siblings share their coordinates: the last result can mostly be used again.
     if (toWorld != m_localMatrix) {
         m_localMatrix = toWorld;
         m_localRay.reset();

@@ -16,7 +16,11 @@ struct SoPickedPoint {
     float distance = 0; // along the ray
 };
 
-class SoSeparator;
+namespace xsg
+{
+class GroupCache;
+class LargeGroupCache;
+} // namespace xsg
 
 /// Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
 class XSG_API SoRayPickAction : private SoTraversal
@@ -40,14 +44,14 @@ private:
     bool isClipped(const SbVec3f& point);
     bool mayMeet(const SbBox3f& box, const SbMatrix& toWorld);
     bool mayMeetAny(const SbBox3f& box);
-    std::vector<std::uint32_t> findChildren(const SoSeparator& separator);
+    std::vector<std::uint32_t> findChildren(xsg::LargeGroupCache& cache);
     const std::optional<SbRay>& localRay(const SbMatrix& toWorld);
     const SoGeometry& geometryOf(SoShape* shape);
 
     SbRay m_ray;
     SbMatrix m_localMatrix;
-    std::optional<SbRay> m_localRay; // nothing where space is squeezed flat
-    bool m_knowsBox = false;         // of the separator that is about to be entered
+    std::optional<SbRay> m_localRay;  // nothing where space is squeezed flat
+    xsg::GroupCache* m_box = nullptr; // of the separator that is about to be entered, where it is known
     std::optional<SoPickedPoint> m_nearest;
     struct Kept;
     std::unordered_map<SoGeometryKey, Kept, SoGeometryKeyHash> m_geometry;

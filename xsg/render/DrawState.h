@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/render/RenderList.h>
+#include <xsg/render/DrawStateTable.h>
+#include <xsg/render/GeometryStore.h>
+#include <xsg/render/Shader.h>
 
 namespace xsg
 {

@@ -21,7 +21,7 @@ SbBox3f sightBoxOf(const xsg::RenderItem& item)
 } // namespace
 
 void xsg::InstanceList::update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
-                               const RenderList::Changes& changes, bool isSameOrder)
+                               const RenderChanges& changes, bool isSameOrder)
 {
     if (changes.all || (!isSameOrder && order != m_order)) {
         for (const std::uint32_t i : m_order) {
@@ -67,7 +67,7 @@ bool xsg::InstanceList::isLikeBefore(const std::vector<RenderItem>& items, std::
         return false;
     const RenderItem& before = getItem(items, place - 1);
     const RenderItem& item = getItem(items, place);
-    return before.geometry == item.geometry && before.surroundings == item.surroundings;
+    return before.geometry == item.geometry && before.drawState == item.drawState;
 }
 
 void xsg::InstanceList::regroup(const std::vector<RenderItem>& items,

@@ -29,7 +29,7 @@ void SoNode::notify(const SoNotification& change)
     SoNode* node = this;
     std::int64_t notified = 0;
     if (SoGroup* group = asGroup())
-        group->noteTouched(nullptr, change.serial);
+        group->reportChange(nullptr, change.serial);
     while (node) {
         SoNode* next = nullptr;
         if (node->m_lastSerial != change.serial) {
@@ -40,7 +40,7 @@ void SoNode::notify(const SoNotification& change)
                 node->SoFieldContainer::notify(change);
             const auto& parents = node->m_parents;
             for (SoGroup* parent : parents)
-                parent->noteTouched(node, change.serial);
+                parent->reportChange(node, change.serial);
             if (!parents.empty()) {
                 next = parents.front();
                 branches.insert(branches.end(), parents.begin() + 1, parents.end());

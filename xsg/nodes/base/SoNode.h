@@ -43,7 +43,6 @@ private:
     std::uint64_t m_lastSerial = 0;
     std::uint64_t m_id;
     std::uint32_t m_changeCount = 0;
-    std::uint32_t m_placeHint = 0; // where it stood among its last parent's children; perhaps no longer
 };
 
 extern template class SoTyped<SoNode, SoFieldContainer>;

@@ -9,8 +9,8 @@
 namespace xsg
 {
 
-/// Boxes around runs of neighbours, and around runs of those runs up to the whole, so that a long list is
-/// judged by a few of them, and a change in it costs only those above it.
+/// Boxes around runs of neighbours, around runs of those runs, and so on up to the whole: a few of them
+/// suffice to search a long list, and a change in the list costs only the boxes above it.
 class BoundingBoxTree
 {
 public:
@@ -45,7 +45,7 @@ public:
     /// How much of what is in a box is looked for.
     enum class Found { Nothing, Some, Everything };
     /// Calls `take(first, end, isEverything)`, in order, with the places where something may be that is
-    /// looked for. `judge(box)` gives a Found.
+    /// looked for. `classify(box)` gives a Found.
     template <class Classify, class Take>
     void find(const Classify& classify, const Take& take) const
     {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/nodes/properties/PixmapFile.h>
+#include <xsg/render/PixmapFile.h>
 
 #include <xsg/fields/SoSFImage.h>
 

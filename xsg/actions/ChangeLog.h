@@ -10,8 +10,8 @@ class SoNode;
 namespace xsg
 {
 
-/// Which children of a group changed lately, so that what was remembered of a large group can be brought up
-/// to date without looking at each of them.
+/// Which children of a group changed lately, so that what is remembered about a large group can be brought up
+/// to date without looking at each child.
 class ChangeLog
 {
 public:
@@ -38,21 +38,21 @@ public:
             m_completeSince = place->count;
         *place = {child, count};
     }
-    /// Appends who changed after the count was `since`, each once. False where that is forgotten.
-    bool collectSince(std::uint32_t since, std::vector<const SoNode*>& touched) const
+    /// Appends what changed after the count was `since`, each once. False where that is no longer known.
+    bool collectSince(std::uint32_t since, std::vector<const SoNode*>& changed) const
     {
         if (since < m_completeSince)
             return false;
         for (const Entry& entry : m_entries) {
             if (entry.count > since)
-                touched.push_back(entry.child);
+                changed.push_back(entry.child);
         }
         return true;
     }
 
 private:
     struct Entry {
-        const SoNode* child = nullptr; // only compared with: it may be gone
+        const SoNode* child = nullptr; // only compared with: it may have been destroyed
         std::uint32_t count = 0;       // 0: free
     };
     std::array<Entry, 16> m_entries{};
