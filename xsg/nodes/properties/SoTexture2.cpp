@@ -42,6 +42,14 @@ void SoTexture2::setFileReader(FileReader reader)
     fileReader() = reader ? reader : xsg::readPixmap;
 }
 
+void SoTexture2::useFileReader(FileReader reader)
+{
+    if (reader == m_reader)
+        return;
+    m_reader = reader;
+    m_readAt = 0;
+}
+
 void SoTexture2::readFile() const
 {
     const std::uint32_t now = fileName.getChangeCount() + 1;
@@ -49,7 +57,8 @@ void SoTexture2::readFile() const
         return;
     m_readAt = now;
     const std::string& path = fileName.getValue().str();
-    if (path.empty() || fileName.isIgnored() || !fileReader()(resolved(path).c_str(), m_fromFile))
+    const FileReader read = m_reader ? m_reader : fileReader();
+    if (path.empty() || fileName.isIgnored() || !read(resolved(path).c_str(), m_fromFile))
         m_fromFile.setValue(0, 0, 0, nullptr);
 }
 

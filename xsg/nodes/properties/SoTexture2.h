@@ -49,12 +49,15 @@ public:
     /// reads portable pixmaps (PGM, PPM); an application that knows more kinds puts its own reader here.
     using FileReader = bool (*)(const char* path, SoSFImage& image);
     static void setFileReader(FileReader reader);
+    /// A reader for this texture alone; null, as at first, for the one of all textures.
+    void useFileReader(FileReader reader);
 
 private:
     void readFile() const;
     std::string resolved(const std::string& path) const;
 
     std::string m_folder;
+    FileReader m_reader = nullptr;
     mutable SoSFImage m_fromFile;
     mutable std::uint32_t m_readAt = 0; // the file name field's change count, plus 1, when the file was read
 };
