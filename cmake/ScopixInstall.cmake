@@ -28,9 +28,8 @@ scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_install_headers(extender scopix)
 
 scopix_install_library(ScopixHost Host)
-scopix_install_headers(host scopix-host)
-set_property(TARGET ScopixHost APPEND PROPERTY
-  INTERFACE_INCLUDE_DIRECTORIES "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/scopix-host>")
+get_target_property(host_headers ScopixHost SCOPIX_PUBLIC_HEADERS)
+install(FILES ${host_headers} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/scopix-host")
 
 set_target_properties(scopix PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS scopix RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")

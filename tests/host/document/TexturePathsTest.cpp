@@ -3,8 +3,6 @@
 // elsewhere.
 #include "SessionFiles.h"
 
-#include "import/TextureImageLoader.h"
-
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 
@@ -20,7 +18,6 @@ class Pictures : public SessionFiles
 protected:
     Pictures()
     {
-        TextureImageLoader::install();
         QDir(folder.path()).mkpath("a/pictures");
         QDir(folder.path()).mkpath("b");
         paint("a/pictures/red.png", Qt::red);
@@ -32,7 +29,6 @@ protected:
         root->addChild(inner.get());
         document.begin(SoRef<SoNode>(root).get(), folder.filePath("a/scene.xsg"), "scene.xsg");
     }
-    ~Pictures() override { SoTexture2::setFileReader(nullptr); }
     void paint(const char* name, const QColor& color) const
     {
         QImage image(3, 2, QImage::Format_RGB32);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "import/TextureImageLoader.h"
+#include "document/TextureImageLoader.h"
 
-#include "import/ImageConversion.h"
-
-#include <xsg/nodes/properties/SoTexture2.h>
+#include "document/Textures.h"
+#include "model/ImageConversion.h"
 
 #include <QFile>
 #include <QImageReader>
@@ -32,9 +31,9 @@ bool read(const char* path, SoSFImage& image)
 
 } // namespace
 
-void TextureImageLoader::install()
+void TextureImageLoader::useFor(SoNode* root)
 {
-    SoTexture2::setFileReader(read);
+    forEachTexture(root, [](SoTexture2& texture) { texture.useFileReader(read); });
 }
 
 } // namespace scopix
