@@ -49,34 +49,6 @@ function(scopix_include_root target prefix folder)
     $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endfunction()
 
-# A library in levels, named from the bottom up:
-#
-#     add_library(xsg SHARED)
-#     scopix_add_level(xsg values PREFIX xsg)
-#     scopix_add_level(xsg types PREFIX xsg)
-#
-# Each level is a folder and an OBJECT library (xsg_types) that is joined into the library. Its include roots hold its
-# own headers and those of the levels below it, as <xsg/types/...> or, without a PREFIX, "types/...". So an include of
-# a higher level does not compile. What a level links besides is added by target_link_libraries(xsg_types ...).
-function(scopix_add_level library level)
-  cmake_parse_arguments(arg "" "PREFIX" "" ${ARGN})
-  set(target ${library}_${level})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${level}/*.cpp ${level}/*.h)
-  add_library(${target} OBJECT ${sources})
-  get_property(levels TARGET ${library} PROPERTY SCOPIX_LEVELS)
-  set(below "")
-  if(levels)
-    list(GET levels -1 below)
-  endif()
-  target_link_libraries(${target} PUBLIC ${below} PRIVATE Scopix::settings)
-  set(root "${PROJECT_BINARY_DIR}/include/${target}")
-  file(MAKE_DIRECTORY "${root}/${arg_PREFIX}")
-  file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${level}" "${root}/${arg_PREFIX}/${level}" SYMBOLIC)
-  target_include_directories(${target} PUBLIC "${root}")
-  target_link_libraries(${library} PRIVATE ${target})
-  set_property(TARGET ${library} APPEND PROPERTY SCOPIX_LEVELS ${target})
-endfunction()
-
 # CMake 3.25 does not run moc again when a file joins a target or leaves it; without its time stamp it
 # does. Call it once all targets are there.
 function(scopix_watch_sources folder)

@@ -8,7 +8,6 @@
 # Each library is a component; cmake/ScopixPublicHeaders.cmake lists what is installed of its headers.
 include(CMakePackageConfigHelpers)
 include(ScopixHeaders)
-include(ScopixPublicHeaders)
 
 set(SCOPIX_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/scopix/plugins")
 set(SCOPIX_INSTALL_PACKAGE "${CMAKE_INSTALL_LIBDIR}/cmake/Scopix")
@@ -32,6 +31,7 @@ scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
 
 scopix_install_library(ScopixHost Host)
+scopix_public_headers(ScopixHost scopix-host "${PROJECT_SOURCE_DIR}/host/app" ${SCOPIX_HOST_HEADERS})
 
 set_target_properties(scopix PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS scopix RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")

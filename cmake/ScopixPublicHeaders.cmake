@@ -48,3 +48,6 @@ set(SCOPIX_XSG_HEADERS
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
   SpxProfile.h SpxServices.h SpxShell.h SpxVersion.h)
+
+set(SCOPIX_HOST_HEADERS
+  CommandLine.h HostApplication.h HostExport.h)

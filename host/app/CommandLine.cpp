@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/CommandLine.h"
+#include <scopix-host/CommandLine.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

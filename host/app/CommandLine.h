@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <scopix-host/HostExport.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -8,7 +10,7 @@ namespace scopix
 {
 
 /// What the command line asks for.
-struct CommandLine {
+struct SCOPIX_HOST_API CommandLine {
     QString file;
     QStringList plugins;
     QString profile;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program: reads the command line, chooses the window system and hands over to the host.
-#include "app/CommandLine.h"
-#include "app/HostApplication.h"
-#include "window/MainWindow.h"
+#include <scopix-host/HostApplication.h>
 
 #include <QApplication>
 
@@ -60,12 +58,11 @@ int main(int argc, char** argv)
     }
     int noOptions = 1; // "--plugin" means something else to Qt
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // icons in the density of the screen
     QApplication application(noOptions, argv);
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
     QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
-    scopix::HostApplication host([](scopix::HostServices& services, scopix::UserNotifier& notifier) {
-        return std::make_unique<scopix::MainWindow>(services, notifier);
-    });
+    scopix::HostApplication host;
     return host.run(line);
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "import/ModelImport.h"
 
-#include "import/FileChecks.h"
-#include "import/ModelFile.h"
-#include "import/ModelReadResult.h"
 #include "import/SceneBuilder.h"
+#include "model/FileChecks.h"
+#include "model/ModelFile.h"
+#include "model/ModelReadResult.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,8 +28,12 @@ QString ModelImport::readerProgram()
     static const char inThisLibrary = 0;
     Dl_info library{};
     dladdr(&inThisLibrary, &library);
-    const QFileInfo file(QFile::decodeName(library.dli_fname));
-    return QDir::cleanPath(QDir(file.canonicalPath()).filePath(QStringLiteral("scopix/scopix-read-model")));
+    const QDir folder(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath());
+    const QString beside = folder.filePath(QStringLiteral("scopix/scopix-read-model"));
+    // A program that has the host built in lies beside the folder of the libraries.
+    return QFileInfo::exists(beside)
+               ? beside
+               : QDir::cleanPath(folder.filePath(QStringLiteral("../lib/scopix/scopix-read-model")));
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)

@@ -2,8 +2,8 @@
 #include "panels/FieldListModel.h"
 
 #include "panels/FieldStateIcons.h"
-#include "panels/NodeText.h"
-#include "panels/ValueText.h"
+#include "text/NodeText.h"
+#include "text/ValueText.h"
 #include <xsg/core/SoField.h>
 #include <xsg/sensors/SoFieldSensor.h>
 

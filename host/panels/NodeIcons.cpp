@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/NodeIcons.h"
 
-#include "panels/NodeText.h"
+#include "text/NodeText.h"
 #include "theme/DrawnIcon.h"
 
 #include <QHash>

@@ -2,7 +2,7 @@
 #include "panels/SceneTreeModel.h"
 
 #include "panels/NodeIcons.h"
-#include "panels/NodeText.h"
+#include "text/NodeText.h"
 #include <xsg/actions/SoPath.h>
 #include <xsg/nodes/groups/SoGroup.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/ViewSurface.h"
 
-#include "import/TextureImageLoader.h"
+#include "viewport/TextureImageLoader.h"
 
 #include <xsg/render/SoOffscreenRenderer.h>
 

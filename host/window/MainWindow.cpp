@@ -2,12 +2,12 @@
 #include "window/MainWindow.h"
 
 #include "panels/FieldListView.h"
-#include "panels/NodeText.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
+#include "text/NodeText.h"
 #include "theme/ActionIcons.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
@@ -102,7 +102,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
 
 MainWindow::~MainWindow()
 {
-    // What the views still tell while they go is nobody's business any more.
+    // The views still emit signals while they are destroyed, when the slots' objects are gone.
     m_tree->disconnect(this);
     m_fields->disconnect(this);
     m_view->disconnect(this);
@@ -271,10 +271,25 @@ void MainWindow::setScene(SoNode* root, const QString& title)
     m_files.getDocument().begin(root, {}, title);
 }
 
+bool MainWindow::inspect(SoNode* root, const QString& title)
+{
+    if (root == getScene() && m_files.getDocument().isExternal())
+        return true;
+    if (!m_files.confirmDiscard())
+        return false;
+    if (root)
+        m_files.getDocument().beginExternal(root, title.isEmpty() ? tr("Running Scene") : title);
+    else
+        setScene(makeDefaultScene().get(), tr("Welcome"));
+    return true;
+}
+
 void MainWindow::showScene(SoNode* root)
 {
     m_tree->setScene(root);
-    m_view->setAnimated(m_notifier.isAttended()); // pictures made by a script are to be the same each time
+    // Pictures made by a script are the same each time; and time in an application's scene is the
+    // application's.
+    m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
 }
 
@@ -355,6 +370,8 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files.confirmClose());
+    if (event->isAccepted())
+        emit closed();
 }
 
 } // namespace scopix

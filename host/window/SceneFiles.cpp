@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "window/SceneFiles.h"
 
-#include "import/FileChecks.h"
 #include "import/ModelImport.h"
+#include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
@@ -240,6 +240,8 @@ void SceneFiles::applyTyping()
 void SceneFiles::enterInteractiveMode()
 {
     m_autosave.start();
+    if (m_document.isExternal())
+        return; // recovered edits would take the place of the scene that the application shows
     if (!m_document.getPath().isEmpty())
         m_recent.add(m_document.getPath());
     offerRecovery();

@@ -51,12 +51,13 @@ public:
     bool saveAs();
     /// False when the window is to stay open.
     bool confirmClose();
+    /// False when the user wants to keep unsaved edits.
+    bool confirmDiscard();
 
 signals:
     void opened(bool good);
 
 private:
-    bool confirmDiscard();
     bool askWhetherToDrop();
     void applyTyping();
     void openScene(const QString& path);

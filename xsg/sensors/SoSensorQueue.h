@@ -46,6 +46,12 @@ public:
     /// when a new deadline is earlier than all others.
     using WakeUp = void (*)(void* data);
     void setWakeUp(WakeUp callback, void* data);
+    /// Whether the queue is driven already, and whether by this hook.
+    bool hasWakeUp() const { return m_wakeUp != nullptr; }
+    bool hasWakeUp(WakeUp callback, const void* data) const
+    {
+        return m_wakeUp == callback && m_wakeUpData == data;
+    }
 
     /// The clock of timed sensors, in seconds since the Unix epoch. It never runs backwards.
     SbTime getTime() const { return m_clock(); }

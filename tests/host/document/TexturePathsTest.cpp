@@ -3,7 +3,7 @@
 // elsewhere.
 #include "SessionFiles.h"
 
-#include "import/TextureImageLoader.h"
+#include "viewport/TextureImageLoader.h"
 
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/properties/SoTexture2.h>

@@ -31,7 +31,7 @@ protected:
         })
     {
         applyTheme(themeFromName(GetParam()));
-        m_session.host.plugins().readProfiles();
+        m_session.host.plugins().profiles().read();
         window().resize(1280, 700);
         Session::settle();
     }

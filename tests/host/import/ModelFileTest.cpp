@@ -2,7 +2,7 @@
 // The way from the process that reads models to the host.
 #include "ModelFiles.h"
 
-#include "import/ModelFile.h"
+#include "model/ModelFile.h"
 #include "reader/ModelReader.h"
 
 using namespace scopix;

@@ -149,37 +149,38 @@ TEST_F(ProfileFileTest, WhatCannotBeWrittenIsTold)
 TEST(Profiles, AreRememberedFromOneSessionToTheNext)
 {
     PluginHost first;
-    first.manager.setProfiles({only("Mine", {"Test/First"})}, "Mine");
+    first.manager.profiles().setProfiles({only("Mine", {"Test/First"})}, "Mine");
     HostPluginsManager second(first.services, first.shell, ProfileFile(first.profilesPath()));
-    second.readProfiles();
+    second.profiles().read();
     EXPECT_EQ(names(second), (QStringList{"Default", "Mine"}));
-    EXPECT_EQ(second.activeProfile()->name(), "Mine");
+    EXPECT_EQ(second.profiles().activeProfile()->name(), "Mine");
     EXPECT_EQ(first.failures, QStringList());
 }
 
 TEST(Profiles, ASessionsProfileIsNotRemembered)
 {
     PluginHost host;
-    host.manager.readProfiles();
-    EXPECT_TRUE(host.manager.useProfile("Edit"));
-    EXPECT_FALSE(host.manager.useProfile("No such"));
-    EXPECT_EQ(host.manager.activeProfile()->name(), "Edit");
+    host.manager.profiles().read();
+    EXPECT_TRUE(host.manager.profiles().useProfile("Edit"));
+    EXPECT_FALSE(host.manager.profiles().useProfile("No such"));
+    EXPECT_EQ(host.manager.profiles().activeProfile()->name(), "Edit");
     EXPECT_FALSE(QFile::exists(host.profilesPath()));
 }
 
 TEST(Profiles, ControlTheirExtensionsInTheOrderOfRegistration)
 {
     PluginHost host;
-    host.manager.setProfiles({only("Mine", {"Other/Third", "Test/First"})}, "Mine");
+    host.manager.profiles().setProfiles({only("Mine", {"Other/Third", "Test/First"})}, "Mine");
     host.manager.loadPlugin(testPlugin("Good"));
     host.manager.loadPlugin(testPlugin("Other"));
     QStringList controlled;
-    for (const SpxExtension* each : host.manager.activeProfile()->setting().getControlledExtensions())
+    for (const SpxExtension* each :
+         host.manager.profiles().activeProfile()->setting().getControlledExtensions())
         controlled += text(each->getName());
     EXPECT_EQ(controlled, (QStringList{"First", "Editor", "Third"}));
     const SpxExtension* second = host.manager.extensions()[2].extension();
     EXPECT_FALSE(second->isActive());
-    EXPECT_EQ(second->getProfileSetting(), &host.manager.activeProfile()->setting());
+    EXPECT_EQ(second->getProfileSetting(), &host.manager.profiles().activeProfile()->setting());
 }
 
 class Switching : public ::testing::Test
@@ -187,12 +188,15 @@ class Switching : public ::testing::Test
 protected:
     Switching()
     {
-        m_host.manager.setProfiles({only("Mine", {"Test/Second"})}, "Default");
+        m_host.manager.profiles().setProfiles({only("Mine", {"Test/Second"})}, "Default");
         m_host.manager.loadPlugin(testPlugin("Good"));
         runLoop();
         takePluginLog();
     }
-    void switchTo(const QString& name) { m_host.manager.setActiveProfile(m_host.manager.findProfile(name)); }
+    void switchTo(const QString& name)
+    {
+        m_host.manager.setActiveProfile(m_host.manager.profiles().findProfile(name));
+    }
 
     PluginHost m_host;
 };
@@ -203,7 +207,7 @@ TEST_F(Switching, TakesHoldInTheNextTurnAndTellsTheSelectionAgain)
     m_host.services.select(material.get());
     takePluginLog();
     switchTo("Mine");
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Mine");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Mine");
     EXPECT_EQ(takePluginLog(), QStringList());
     runLoop();
     EXPECT_EQ(takePluginLog(), (QStringList{"Second deactivate", "First deactivate", "Second activate",
@@ -248,7 +252,7 @@ TEST_F(Switching, AnUnknownProfileIsIgnored)
     m_host.manager.setActiveProfile(&stranger);
     m_host.manager.setActiveProfile(nullptr);
     runLoop();
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Default");
     EXPECT_EQ(takePluginLog(), QStringList());
 }
 
@@ -256,7 +260,7 @@ TEST_F(Switching, DeletingTheActiveProfileFallsBackToDefault)
 {
     switchTo("Mine");
     runLoop();
-    m_host.manager.setProfiles({}, "Mine");
+    m_host.manager.profiles().setProfiles({}, "Mine");
     runLoop();
     EXPECT_EQ(names(m_host.manager), QStringList{"Default"});
     EXPECT_EQ(m_host.manager.getActiveProfile(), m_host.manager.getProfilesList().first());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/ImageConversion.h"
+#include "model/ImageConversion.h"
 
 #include <QImage>
 

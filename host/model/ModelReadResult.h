@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "panels/ValueText.h"
+#include "text/ValueText.h"
 
 #include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFImage.h>

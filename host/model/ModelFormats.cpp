@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/ModelFormats.h"
+#include "model/ModelFormats.h"
 
 namespace scopix
 {

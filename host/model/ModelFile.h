@@ -3,7 +3,7 @@
 // machine and this version only, and gone once it has been taken in.
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 class QIODevice;
 

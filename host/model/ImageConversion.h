@@ -2,7 +2,7 @@
 // From the toolkit's pictures to those of a scene.
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 class QImage;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "panels/NodeText.h"
+#include "text/NodeText.h"
 
 #include <xsg/core/SoFieldContainer.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "import/TextureImageLoader.h"
+#include "viewport/TextureImageLoader.h"
 
-#include "import/ImageConversion.h"
+#include "model/ImageConversion.h"
 
 #include <xsg/fields/SoSFImage.h>
 

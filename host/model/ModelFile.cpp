@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "import/ModelFile.h"
+#include "model/ModelFile.h"
 
-#include "import/ModelReadResult.h"
+#include "model/ModelReadResult.h"
 
 #include <QIODevice>
 

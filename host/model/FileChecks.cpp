@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "import/FileChecks.h"
+#include "model/FileChecks.h"
 
 #include <QCoreApplication>
 #include <QDir>
