@@ -5,6 +5,7 @@
 #include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
+#include "settings/Preferences.h"
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
@@ -29,9 +30,8 @@ HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profi
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
+    Preferences::feed();
     TextureImageLoader::install();
-    // Icons are painted in the density of the screen.
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     m_notifier.setWindow(m_window.get());
     connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
     connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
@@ -69,9 +69,8 @@ void HostApplication::start(const CommandLine& line)
     m_asked = line;
     m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
-        qputenv(CounterSwitch, "1");
-    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the
-    // window.
+        SoPreferences::setValue(CounterSwitch, "1");
+    // Switched off, the counters only say how to switch them on, which is not worth a place in the window.
     if (!SoPreferences::getBool(CounterSwitch, false))
         m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
     const QString homeTrouble = DataDirectory::ensure();
@@ -79,7 +78,7 @@ void HostApplication::start(const CommandLine& line)
         m_notifier.error(homeTrouble);
     m_plugins.readProfiles();
     if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
-        m_notifier.error(tr("There is no profile named \"%1\".").arg(line.profile));
+        m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
@@ -95,12 +94,12 @@ void HostApplication::start(const CommandLine& line)
 void HostApplication::openFinished()
 {
     if (!m_asked)
-        return; // a file that the person opened later
+        return; // a file that the user opened later
     const CommandLine line = *m_asked;
     m_asked.reset();
     if (!line.selectNode.isEmpty())
         m_window->selectField(line.selectNode, line.selectField);
-    // A turn later, when profile and editors stand.
+    // From the event loop, when profile and editors are set up.
     QMetaObject::invokeMethod(
         this, [this, line] { finish(line); }, Qt::QueuedConnection);
 }
