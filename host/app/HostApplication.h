@@ -29,7 +29,7 @@ public:
 
     explicit HostApplication(const MakeWindow& makeWindow,
                              ProfileFile profiles = ProfileFile(ProfileFile::standardPath()));
-    /// Unloads the plug-ins while the window still stands.
+    /// Unloads the plug-ins while the window still exists.
     ~HostApplication() override;
 
     HostServices& services() { return m_services; }
@@ -63,7 +63,7 @@ private:
     HostPluginsManager m_plugins;
     UndoShortcutFilter m_undoShortcuts;
     std::optional<CommandLine> m_asked; // until its file has been opened
-    bool m_keepsLayout = false;         // a person's session
+    bool m_keepsLayout = false;         // somebody works with the window
     int m_status = 0;
 };
 
