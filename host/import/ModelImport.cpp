@@ -62,7 +62,7 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1 …").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
+    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
                                    m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));
     m_dialog->setWindowModality(Qt::WindowModal);
@@ -107,9 +107,7 @@ void ModelImport::tell()
     const bool ended =
         m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
-    const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
-    if (!bytes ||
-        !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+    if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
     if (model.error.isEmpty())

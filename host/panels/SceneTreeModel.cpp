@@ -8,6 +8,7 @@
 
 #include <QFont>
 #include <QIcon>
+#include <QWidget>
 
 #include <algorithm>
 #include <unordered_set>
@@ -211,6 +212,12 @@ bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
     return item->toldExpandable;
 }
 
+// The view, whose palette colours the icons.
+const QWidget* SceneTreeModel::surface() const
+{
+    return qobject_cast<const QWidget*>(QObject::parent());
+}
+
 QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
 {
     const Item* item = itemAt(index);
@@ -225,7 +232,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
-        return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId())) : QVariant();
+        return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId(), surface())) : QVariant();
     case Qt::FontRole: {
         QFont font;
         font.setItalic(!named);

@@ -30,12 +30,11 @@ protected:
             return std::make_unique<MainWindow>(services, notifier);
         })
     {
-        applyTheme(themeFromName(GetParam()));
+        applyTheme(window(), themeFromName(GetParam()));
         m_session.host.plugins().profiles().read();
         window().resize(1280, 700);
         Session::settle();
     }
-    ~ConsoleWindow() override { applyTheme(Theme::System); }
 
     QMainWindow& window() { return m_session.host.window(); }
     QTextEdit* output() { return window().findChild<QTextEdit*>("m_consoleOutput"); }
