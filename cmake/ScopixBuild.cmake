@@ -43,8 +43,10 @@ endif()
 # include roots it links, so an include against the arrows does not compile.
 function(scopix_include_root target prefix folder)
   set(root "${PROJECT_BINARY_DIR}/include/${target}")
-  file(MAKE_DIRECTORY "${root}")
-  file(CREATE_LINK "${folder}" "${root}/${prefix}" SYMBOLIC)
+  cmake_path(SET link "${root}/${prefix}")
+  cmake_path(GET link PARENT_PATH link_folder)
+  file(MAKE_DIRECTORY "${link_folder}")
+  file(CREATE_LINK "${folder}" "${link}" SYMBOLIC)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endfunction()

@@ -27,6 +27,10 @@ scopix_install_headers(xsg xsg)
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_install_headers(extender scopix)
 
+scopix_install_library(ScopixEditing Editing)
+list(TRANSFORM SCOPIX_EDITING_HEADERS PREPEND "${PROJECT_SOURCE_DIR}/editing/" OUTPUT_VARIABLE editing_headers)
+install(FILES ${editing_headers} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/scopix/editing")
+
 scopix_install_library(ScopixHost Host)
 scopix_install_headers(host scopix-host)
 set_property(TARGET ScopixHost APPEND PROPERTY

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SpxEditorDock.h"
 
-#include "EdText.h"
+#include <scopix/editing/SpxText.h>
 
 #include <scopix/SpxServices.h>
 #include <scopix/SpxShell.h>
@@ -22,7 +22,7 @@ void SpxEditorDock::load()
 {
     m_dock = new QDockWidget;
     m_dock->setAcceptDrops(false);
-    m_dock->setWindowTitle(toQString(getName()));
+    m_dock->setWindowTitle(SpxText::toQString(getName()));
     m_dock->setVisible(false);
 }
 

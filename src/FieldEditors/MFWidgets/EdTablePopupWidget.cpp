@@ -5,9 +5,9 @@
 #include "EdGridValidator.h"
 #include "EdMFieldTable.h"
 #include "EdTablePopupLineEdit.h"
-#include "EdText.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
+#include <scopix/editing/SpxText.h>
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -149,7 +149,7 @@ void EdTablePopupWidget::refresh()
     // A change from elsewhere is shown; what already shows the value, or was just typed, stays as it is.
     for (EdTablePopupLineEdit* line : qAsConst(m_lines)) {
         const QString text = getPopupValue(rowToEdit(), line->index());
-        if (toFloatOr0(line->text()) == toFloatOr0(text))
+        if (SpxText::toFloatOr0(line->text()) == SpxText::toFloatOr0(text))
             continue;
         const QSignalBlocker quiet(line);
         line->showText(text);
