@@ -17,6 +17,16 @@ QString shortest(Number number)
     return QString::fromLatin1(text.data(), int(end.ptr - text.data()));
 }
 
+// Qt takes the shortest text of the largest float, which is a little above that number, for an overflow.
+float roundedToFloat(const QString& text)
+{
+    const QByteArray bytes = text.toLatin1();
+    const char* end = bytes.data() + bytes.size();
+    float value = 0;
+    const std::from_chars_result result = std::from_chars(bytes.data(), end, value);
+    return result.ec == std::errc() && result.ptr == end ? value : 0.F;
+}
+
 } // namespace
 
 QString SpxText::toQString(const SbString& text)
@@ -55,7 +65,7 @@ float SpxText::toFloatOr0(const QString& text)
 {
     bool ok = false;
     const float value = text.toFloat(&ok);
-    return ok ? value : 0.F;
+    return ok ? value : roundedToFloat(text);
 }
 
 double SpxText::toDoubleOr0(const QString& text)

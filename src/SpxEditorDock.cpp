@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "SpxEditorDock.h"
 
-#include <scopix/editing/SpxText.h>
-
 #include <scopix/SpxServices.h>
 #include <scopix/SpxShell.h>
+#include <scopix/editing/SpxText.h>
 
 #include <QDockWidget>
 

@@ -4,8 +4,8 @@
 #include "CounterXml.h"
 #include "CustomCounter.h"
 #include "SoPerfCounterProfile.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/support/SoPreferences.h>
 

@@ -2,7 +2,6 @@
 #include "CustomCounter.h"
 
 #include <scopix/editing/SpxText.h>
-
 #include <xsg/counters/SoPerfCounterManager.h>
 
 SbName toCounterName(const QString& text)

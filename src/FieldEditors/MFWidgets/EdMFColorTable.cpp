@@ -4,6 +4,7 @@
 #include "EdColor.h"
 #include "EdMFColorTableItemDelegate.h"
 #include "EdMFieldWidget.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QColorDialog>

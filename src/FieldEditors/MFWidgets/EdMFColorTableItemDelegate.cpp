@@ -3,6 +3,7 @@
 
 #include "EdColor.h"
 #include "EdMFieldWidget.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QPainter>

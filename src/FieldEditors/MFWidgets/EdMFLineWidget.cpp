@@ -2,7 +2,6 @@
 #include "EdMFLineWidget.h"
 
 #include <scopix/editing/SpxText.h>
-
 #include <xsg/core/SoMField.h>
 
 EdMFLineWidget::EdMFLineWidget(const char* name)

@@ -3,6 +3,7 @@
 
 #include "EdFieldEdits.h"
 #include "EdTablePopupLineEdit.h"
+
 #include <scopix/editing/SpxText.h>
 
 namespace

@@ -2,6 +2,7 @@
 #include "EdMFStringWidget.h"
 
 #include "EdFieldEdits.h"
+
 #include <scopix/editing/SpxText.h>
 
 namespace

@@ -9,6 +9,7 @@
 #include "EdUIntSlider.h"
 #include "EdValidators.h"
 #include "QULongValidator.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QLineEdit>

@@ -2,11 +2,13 @@
 #include "EdTablePopupWidget.h"
 
 #include "AccessButtonPrivate.h"
+#include "EdFieldFrame.h"
 #include "EdGridValidator.h"
 #include "EdMFieldTable.h"
 #include "EdTablePopupLineEdit.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QBoxLayout>
@@ -35,15 +37,11 @@ EdTablePopupWidget::EdTablePopupWidget(int rows, int columns, const char* name)
 void EdTablePopupWidget::load()
 {
     EdMFieldWidget::load();
-    const int width = xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
-    m_editButton = new QPushButton(getWidgetContainer());
-    m_editButton->setObjectName(QStringLiteral("m_editButton"));
-    m_editButton->setMaximumSize(width, xsgsettings_fieldEditor(QStringLiteral("buttonHeight")));
-    m_editButton->setIcon(fieldEditor::icon(fieldEditor::Icon::Edit));
-    m_editButton->setToolTip(tr("Edit the element in a grid"));
-    m_editButton->setAccessibleName(m_editButton->toolTip());
-    m_editButton->setFocusPolicy(Qt::NoFocus);
+    m_editButton = EdFieldFrame(getWidgetContainer())
+                       .newButton("m_editButton", fieldEditor::icon(fieldEditor::Icon::Edit));
+    EdFieldFrame::name(m_editButton, tr("Edit the element in a grid"));
     buttonsLayout()->insertWidget(EditButtonPosition, m_editButton);
+    const int width = xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
     accessMoveSpacer()->changeSize(xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) - width,
                                    xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerHeight")),
                                    QSizePolicy::Expanding);

@@ -2,6 +2,7 @@
 #include "EdIntSlider.h"
 
 #include "EdLineEdit.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <limits>

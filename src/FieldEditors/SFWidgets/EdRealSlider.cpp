@@ -2,6 +2,7 @@
 #include "EdRealSlider.h"
 
 #include "EdLineEdit.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <cmath>

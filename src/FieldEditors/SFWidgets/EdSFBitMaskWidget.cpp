@@ -2,7 +2,6 @@
 #include "EdSFBitMaskWidget.h"
 
 #include <scopix/editing/SpxText.h>
-
 #include <xsg/fields/SoSFBitMask.h>
 
 #include <QCheckBox>

@@ -5,8 +5,8 @@
 #include "EdFieldEdits.h"
 #include "EdFontFitting.h"
 #include "FieldEditorSettings.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFColor.h>
 
 #include <QColorDialog>

@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdWheelFocusFilter.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFEnum.h>
 
 #include <QBoxLayout>

@@ -4,6 +4,7 @@
 #include "EdFieldEdits.h"
 #include "EdFontFitting.h"
 #include "EdValidators.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QFrame>

@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdRangeSettings.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoSField.h>
 
 template <class Slider>

@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdLineEdit.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoSField.h>
 
 #include <QBoxLayout>

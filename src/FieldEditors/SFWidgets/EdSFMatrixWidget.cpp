@@ -2,7 +2,6 @@
 #include "EdSFMatrixWidget.h"
 
 #include <scopix/editing/SpxText.h>
-
 #include <xsg/fields/SoSFMatrix.h>
 
 namespace

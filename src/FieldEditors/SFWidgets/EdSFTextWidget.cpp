@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdLineEdit.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFFilePathString.h>
 #include <xsg/fields/SoSFName.h>
 #include <xsg/fields/SoSFString.h>

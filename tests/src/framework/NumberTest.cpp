@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts and numbers between person, Qt and scene graph.
 #include "EdValidators.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QLineEdit>

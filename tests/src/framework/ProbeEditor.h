@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "SpxFieldEditors.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFFloat.h>
 
 #include <QFrame>

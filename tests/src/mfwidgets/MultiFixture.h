@@ -5,8 +5,8 @@
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "support/TestHost.h"
-#include <scopix/editing/SpxText.h>
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 
 #include <gtest/gtest.h>

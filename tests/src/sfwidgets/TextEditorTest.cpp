@@ -3,6 +3,7 @@
 #include "EdSFNameWidget.h"
 #include "EdSFStringWidget.h"
 #include "EditedField.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QFileDialog>
