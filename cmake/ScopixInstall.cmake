@@ -30,6 +30,9 @@ scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
 
+scopix_install_library(ScopixEditing Editing)
+scopix_public_headers(ScopixEditing scopix/editing "${PROJECT_SOURCE_DIR}/editing" ${SCOPIX_EDITING_HEADERS})
+
 scopix_install_library(ScopixHost Host)
 scopix_public_headers(ScopixHost scopix-host "${PROJECT_SOURCE_DIR}/host/app" ${SCOPIX_HOST_HEADERS})
 

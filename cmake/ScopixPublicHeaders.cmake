@@ -27,7 +27,7 @@ set(SCOPIX_XSG_HEADERS
   SoTimedSensor.h SoTimerSensor.h
   # Nodes
   BoundingBoxTree.h NodeText.h SoGeometry.h SoInfo.h SoMFNode.h SoNode.h SoSFNode.h SoState.h
-  ChangeLog.h SoGroup.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
+  SoGroup.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
   SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
   SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h
   SoSolid.h SoSphere.h SoTriangleSet.h SoTriangleStripSet.h SoVertexShape.h
@@ -51,3 +51,7 @@ set(SCOPIX_EXTENDER_HEADERS
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)
+
+set(SCOPIX_EDITING_HEADERS
+  SpxEditingExport.h SpxFieldEdit.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)

@@ -33,9 +33,9 @@ public:
 void setRow(QTableWidget& table, int row, const SoPerfCounter& counter)
 {
     const QString texts[] = {
-        toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
-        toQString(counter.getTypeText()), toQString(counter.getStringLevel()),
-        beginningOf(counter.getModule()), beginningOf(counter.getDescription())};
+        SpxText::toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
+        SpxText::toQString(counter.getTypeText()), SpxText::toQString(counter.getStringLevel()),
+        beginningOf(counter.getModule()),          beginningOf(counter.getDescription())};
     int column = 0;
     for (const QString& text : texts)
         table.setItem(row, column++, new QTableWidgetItem(text));

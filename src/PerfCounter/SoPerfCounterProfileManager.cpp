@@ -319,7 +319,7 @@ void SoPerfCounterProfileManager::okAction()
 {
     for (const SoPerfCounter* counter : m_registry->getCounters()) {
         if (!counter->isEnabled())
-            emit deletedCounter(toQString(counter->getName()));
+            emit deletedCounter(SpxText::toQString(counter->getName()));
     }
     m_registry->removeDisabledCounters();
     m_created.clear();

@@ -337,8 +337,8 @@ void SoPerfCounterViewer::setupLegend()
         setText(*m_legend, row, 0, viewed.getName());
         m_legend->item(row, 0)->setForeground(viewed.getColor());
         m_legend->item(row, 0)->setBackground(m_curvePlot->canvasBackground()); // as readable as the curve
-        setText(*m_legend, row, 1, counter ? toQString(counter->getTypeText()) : QString());
-        setText(*m_legend, row, 2, counter ? toQString(counter->getStringLevel()) : QString());
+        setText(*m_legend, row, 1, counter ? SpxText::toQString(counter->getTypeText()) : QString());
+        setText(*m_legend, row, 2, counter ? SpxText::toQString(counter->getStringLevel()) : QString());
         setText(*m_legend, row, 3, counter ? beginningOf(counter->getModule()) : QString());
         setText(*m_legend, row, 4, counter ? beginningOf(counter->getDescription()) : tr("No such counter"));
         if (viewed.getName() == selected)

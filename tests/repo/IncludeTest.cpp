@@ -137,6 +137,8 @@ TEST_P(Layer, FindsTheSceneGraphInXsgAndTheContractInExtender)
     for (const Include& include : includesIn(GetParam())) {
         if (startsWith(include.target, "xsg/")) {
             EXPECT_TRUE(fs::exists(root() / include.target)) << include;
+        } else if (startsWith(include.target, "scopix/editing/")) {
+            EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
         } else if (startsWith(include.target, "scopix/")) {
             EXPECT_TRUE(fs::exists(root() / "extender" / include.target.substr(7))) << include;
         }
@@ -162,8 +164,14 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "src", "host"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "editing", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
+
+TEST(Contract, KnowsNothingOfEditing)
+{
+    for (const Include& include : includesIn("extender"))
+        EXPECT_FALSE(startsWith(include.target, "scopix/editing/")) << include;
+}
 
 TEST(SceneGraph, KnowsNeitherQtNorTheContract)
 {

@@ -80,6 +80,14 @@ TEST(Linking, TheContractKnowsNoPlugIn)
     EXPECT_FALSE(mentions(needs, "libSpxDefaults")) << needs;
 }
 
+TEST(Linking, TheEditingLibraryKnowsTheContractAndNoPlugIn)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_ScopixEditing);
+    EXPECT_TRUE(mentions(needs, "libScopixExtenderAPI")) << needs;
+    for (const char* other : {"libSpxDefaults", "libScopixHost", "libqwt"})
+        EXPECT_FALSE(mentions(needs, other)) << needs;
+}
+
 #ifdef SCOPIX_FILE_scopix
 TEST(Linking, TheProgramFindsItsPlugInsAtRunTime)
 {

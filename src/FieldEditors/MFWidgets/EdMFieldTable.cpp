@@ -125,7 +125,7 @@ void EdMFieldTable::addRow()
         putItem(added, column);
     AccessButtonPrivate* box = m_owner->accessBox();
     box->setSilentRange(1, box->maximum() + 1);
-    EdFieldEdits::record(std::make_unique<SpxMFAddRowsCommand>(field, added, 1));
+    SpxFieldEdit::record(std::make_unique<SpxMFAddRowsCommand>(field, added, 1));
     // The new row comes after the current one and does not become current; that is meant.
     if (added < 1) {
         setCurrentCell(added, 0);
@@ -156,7 +156,7 @@ void EdMFieldTable::deleteRows(int first, int count)
     AccessButtonPrivate* box = m_owner->accessBox();
     const int left = box->maximum() - count;
     box->setSilentRange(std::min(box->minimum(), left), left);
-    EdFieldEdits::record(std::make_unique<SpxMFDeleteRowsCommand>(field, first, count));
+    SpxFieldEdit::record(std::make_unique<SpxMFDeleteRowsCommand>(field, first, count));
     if (rowCount() == count)
         box->setSilentRange(0, left);
     model()->removeRows(first, count);
@@ -191,7 +191,7 @@ void EdMFieldTable::swapRows(int row1, int row2)
     const int rows = rowsOfField();
     if (row1 < 0 || row2 < 0 || row1 >= rows || row2 >= rows)
         return;
-    EdFieldEdits::record(std::make_unique<SpxMFSwapRowsCommand>(field, row1, row2));
+    SpxFieldEdit::record(std::make_unique<SpxMFSwapRowsCommand>(field, row1, row2));
 }
 
 void EdMFieldTable::showTableRow(int row)

@@ -6,10 +6,11 @@
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
-#include "EdText.h"
 #include "EdUIntSlider.h"
 #include "EdValidators.h"
 #include "QULongValidator.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QLineEdit>
 #include <QPainter>
@@ -132,7 +133,7 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
         // applied from it reaches element 0; that is meant.
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
-        slider->setRealValue(double(toFloatOr0(text)));
+        slider->setRealValue(double(SpxText::toFloatOr0(text)));
         return slider;
     }
     const bool isShort = m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_USHORT;
@@ -156,7 +157,7 @@ void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
     if (auto* edit = qobject_cast<QLineEdit*>(editor))
         edit->setText(text);
     else if (auto* real = qobject_cast<EdRealSlider*>(editor))
-        real->setRealValue(double(toFloatOr0(text)));
+        real->setRealValue(double(SpxText::toFloatOr0(text)));
     else if (auto* slider = qobject_cast<EdSlider*>(editor))
         slider->setValue(text);
 }

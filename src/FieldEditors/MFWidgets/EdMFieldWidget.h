@@ -3,6 +3,8 @@
 
 #include "SpxFieldEditors.h"
 
+#include <scopix/editing/SpxFieldPointer.h>
+
 #include <QPixmap>
 
 class AccessButtonPrivate;
@@ -82,8 +84,6 @@ protected:
     void initColumns(const QStringList& captions, int columns);
 
 private:
-    QPushButton* newButton(const char* objectName, const QPixmap& icon, int width, int height);
-    QHBoxLayout* newButtonLayout(const char* objectName);
     void buildButtons();
     void connectButtons();
 
@@ -109,5 +109,5 @@ private:
     QPixmap m_defaultIcon;
     QPixmap m_ignoreIcon;
     bool m_refresh = true;
-    SoFieldSensor m_field; // holds the accepted field without keeping it from going
+    SpxFieldPointer m_field; // the accepted field
 };

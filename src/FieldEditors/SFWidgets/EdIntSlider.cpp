@@ -2,7 +2,8 @@
 #include "EdIntSlider.h"
 
 #include "EdLineEdit.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <limits>
 
@@ -48,7 +49,7 @@ void EdIntSlider::setValueFromEdit()
 
 void EdIntSlider::saveDataFromField()
 {
-    savedText() = toSbString(numberText());
+    savedText() = SpxText::toSbString(numberText());
 }
 
 // Only decimal digits can be checked while they are typed.

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdSFBitMaskWidget.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFBitMask.h>
 
 #include <QCheckBox>
@@ -66,7 +65,7 @@ void EdSFBitMaskWidget::initClass()
     m_boxLayout = new QVBoxLayout;
     for (int i = 0; i < count; ++i) {
         if (values[i] != 0)
-            addBox(toQString(names[i]));
+            addBox(SpxText::toQString(names[i]));
     }
     editLayout()->addLayout(m_boxLayout);
     checkBoxes(*field);

@@ -81,7 +81,6 @@ private:
     void styleLabel();
     void buildEditionFrame();
     void buildButtons();
-    QPushButton* buildButton(const char* objectName, const QPixmap& icon);
 
     QLabel* m_label = nullptr;
     QPushButton* m_defaultButton = nullptr;

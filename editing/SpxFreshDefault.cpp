@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "EdFreshDefault.h"
+#include "SpxFreshDefault.h"
 
 #include <xsg/core/SoField.h>
 
@@ -19,7 +19,7 @@ SoRef<SoFieldContainer> freshInstanceOf(SoType type)
 
 } // namespace
 
-EdFreshDefault::EdFreshDefault(const SoField* field)
+SpxFreshDefault::SpxFreshDefault(const SoField* field)
 {
     const SoFieldContainer* container = field->getContainer();
     if (!container)
