@@ -4,6 +4,8 @@
 #include <xsg/fields/SoSFBox3f.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
+#include <functional>
+
 /// What a drawing callback receives. All matrices as SbMatrix has them: points are rows.
 struct SoDrawingContext {
     SbMatrix modelMatrix;
