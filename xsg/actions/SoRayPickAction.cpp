@@ -147,8 +147,7 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
 
 void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld)
 {
-    // Directions were not normalised on their way into the shape's coordinates, so distances are still the
-    // world's.
+    // The local ray's direction was not normalised, so distances are still the world's.
     if (m_nearest && m_nearest->distance <= hit.distance)
         return;
     SoPickedPoint& found = m_nearest.emplace();
