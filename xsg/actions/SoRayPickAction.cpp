@@ -86,7 +86,8 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
 {
     if (box.isEmpty())
         return false;
-    // A ray may pass beside lines and points, so the box grows by the tolerance at its distance.
+    // Lines and points are met from beside, so the box grows by as much as they may be missed at its
+    // distance.
     const SbRay ray = localRay(toWorld);
     const float reach = ((box.getCenter() - ray.origin).length() + box.getSize().length()) * m_tolerance;
     const SbVec3f slack(reach, reach, reach);
@@ -95,7 +96,7 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
 
 SbRay SoRayPickAction::localRay(const SbMatrix& toWorld)
 {
-    // Siblings share their coordinates: the last result can mostly be used again.
+    // Siblings share their coordinates: the last answer mostly serves again.
     if (toWorld != m_localMatrix) {
         m_localMatrix = toWorld;
         const SbMatrix toLocal = toWorld.inverse();
@@ -117,7 +118,7 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
         return;
     const SbMatrix toWorld = shape->getPlacement() * matrix;
     const SbMatrix toLocal = toWorld.inverse();
-    // A matrix without an inverse, as of a shape scaled to nothing, gives the identity.
+    // A shape squeezed flat has no inside to look from; the inverse says so by being the identity.
     if (toLocal == SbMatrix() && toWorld != SbMatrix())
         return;
     const SbRay ray{toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
@@ -147,7 +148,8 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
 
 void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld)
 {
-    // The local ray's direction was not normalised, so distances are still the world's.
+    // Directions were not normalised on their way into the shape's coordinates, so distances are still the
+    // world's.
     if (m_nearest && m_nearest->distance <= hit.distance)
         return;
     SoPickedPoint& found = m_nearest.emplace();
