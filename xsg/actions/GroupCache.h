@@ -4,8 +4,8 @@
 #include <xsg/actions/BoundingBoxTree.h>
 #include <xsg/actions/ChangeLog.h>
 #include <xsg/actions/ChildPlaces.h>
-#include <xsg/nodes/groups/GroupExtension.h>
 #include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/nodes/groups/SoGroupExtension.h>
 #include <xsg/values/SbBox.h>
 
 namespace xsg
@@ -30,7 +30,7 @@ struct BoxInputs {
 /// coordinates at the group. It holds as long as neither something below nor the inputs change.
 ///
 /// Lives in the group's extension slot, which this level alone uses, and so lives as long as the group does.
-class GroupCache : public GroupExtension
+class GroupCache : public SoGroupExtension
 {
 public:
     /// From this many children on, looking only at those that changed is worth remembering which they were.

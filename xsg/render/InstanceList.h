@@ -14,8 +14,8 @@ struct Run {
     std::uint32_t end = 0;
 };
 
-/// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is
-/// given there again only where it changed.
+/// Items in the order of drawing. Their instance data lies in OpenGL's memory and is uploaded again only
+/// where it changed.
 class InstanceList
 {
 public:

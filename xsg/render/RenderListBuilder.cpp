@@ -17,7 +17,7 @@ xsg::RenderListBuilder::RenderListBuilder(RenderList& list, GeometryStore& geome
 void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
 {
     m_list.clear();
-    m_geometry.giveAllBack();
+    m_geometry.releaseAllUsers();
     m_textures.beginRound();
     m_openGroups.clear();
     m_wantedCamera = view.camera;

@@ -18,7 +18,7 @@ namespace
 constexpr GLenum Primitives[] = {GL_TRIANGLES, GL_LINES, GL_POINTS};
 // Drawing this many corners that are out of sight costs less than another call.
 constexpr std::int64_t CheapCorners = 256;
-// Of more copies than this in a row nobody sees which of one's sides was blended first.
+// With more copies than this in a row, it is not visible which of a body's sides was blended first.
 constexpr std::uint32_t FewCopies = 64;
 
 void feedCounters(const SoRenderer::Statistics& frame)
@@ -36,14 +36,14 @@ void feedCounters(const SoRenderer::Statistics& frame)
     xsg::feeds.textureBytes.add(frame.textureBytes);
 }
 
-// Whether the sides of what this places are turned inside out.
+// Whether the matrix mirrors, which turns front faces into back faces.
 bool isMirrored(const xsg::InstanceData& instance)
 {
     const float* m = instance.matrix;
     return cross(SbVec3f(m[0], m[1], m[2]), SbVec3f(m[4], m[5], m[6])).dot(SbVec3f(m[8], m[9], m[10])) < 0;
 }
 
-// Where a point is drawn from: the eye's matrices for one frame.
+// The eye's matrices for one frame.
 struct EyeView {
     SbMatrix view;
     SbMatrix projection;
@@ -63,7 +63,7 @@ public:
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
-    std::uint64_t highlight = 0; // number of a node
+    std::uint64_t highlight = 0; // a node's id
     SbColor highlightColor{1, 0.6F, 0.1F};
     bool headlight = true;
     std::string error;
@@ -188,7 +188,7 @@ void SoRenderer::Impl::clearPicture()
 void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
 {
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
-    // distance: a second walk then sees it where it is. The camera of the last walk may be gone by now.
+    // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
         if (!m_updater.update(root, {camera, eye}))
@@ -258,7 +258,7 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
             drawRun(instances, part);
             countDrawn(geometry, part.end - part.first);
             if (run->end > batch.end)
-                break; // goes on in the next batch
+                break; // the run continues in the next batch
             ++run;
         }
     }

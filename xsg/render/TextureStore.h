@@ -21,8 +21,8 @@ struct GpuTexture {
 class TextureStore
 {
 public:
-    /// How files are read from now on; null: by the library's own reader. Textures that are there already are
-    /// made again when they are next asked for.
+    /// How files are read from now on; null: by the library's own reader. Textures that exist already are
+    /// made again when get() is next called for them.
     void setImageReader(SoImageReader reader);
     /// Null where there is no image, or the quality asks for none.
     GpuTexture* get(const SoTexture2* node, float quality);

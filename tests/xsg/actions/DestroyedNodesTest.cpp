@@ -39,7 +39,7 @@ bool isPicked(SoRayPickAction& action, SoNode* root, float y)
 }
 
 // Counts how many live.
-class CountedExtension : public xsg::GroupExtension
+class CountedExtension : public SoGroupExtension
 {
 public:
     explicit CountedExtension(int& living)

@@ -39,10 +39,10 @@ protected:
 
 private:
     friend class SoGroup;
+    std::uint32_t m_changeCount = 0; // first, where it fills up the padding after the base
     std::vector<SoGroup*> m_parents;
     std::uint64_t m_lastSerial = 0;
     std::uint64_t m_id;
-    std::uint32_t m_changeCount = 0;
 };
 
 extern template class SoTyped<SoNode, SoFieldContainer>;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/nodes/groups/GroupExtension.h>
+#include <xsg/nodes/groups/SoGroupExtension.h>
 
 /// Children first to last - 1.
 struct SoChildRange {
@@ -45,9 +45,9 @@ public:
 
     /// A place for what the level above the nodes remembers about the group, for that level alone; null at
     /// first.
-    xsg::GroupExtension* getExtension() { return m_extension.get(); }
+    SoGroupExtension* getExtension() { return m_extension.get(); }
     /// Destroys the one before.
-    void setExtension(std::unique_ptr<xsg::GroupExtension> extension) { m_extension = std::move(extension); }
+    void setExtension(std::unique_ptr<SoGroupExtension> extension) { m_extension = std::move(extension); }
 
 protected:
     ~SoGroup() override;
@@ -64,7 +64,7 @@ private:
     void reportChange(const SoNode* child, std::uint64_t serial);
 
     std::vector<SoNode*> m_children; // one reference each
-    std::unique_ptr<xsg::GroupExtension> m_extension;
+    std::unique_ptr<SoGroupExtension> m_extension;
 };
 
 extern template class SoTyped<SoGroup, SoNode>;

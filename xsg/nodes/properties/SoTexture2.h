@@ -29,12 +29,12 @@ public:
     static SoEnumTablePtr getModelNames();
     void apply(SoState& state) const override;
 
-    /// Where a relative file name starts from; where it is empty, as at first, the folder that the process
-    /// works in. No field: a scene takes it from where its file is.
+    /// What a relative file name is relative to; empty, as at first, for the process's working directory. Not
+    /// a field, as it depends on where the scene's file is.
     void setFolder(const std::string& folder) { m_folder = folder; }
     const std::string& getFolder() const { return m_folder; }
-    /// The file to read, from the root folder or, without a folder, from where the process works; empty where
-    /// none is named or the name is ignored.
+    /// The file to read, a relative name being put after the folder; empty where none is named, or the name
+    /// is ignored.
     std::string getFilePath() const;
 
 private:
