@@ -87,7 +87,7 @@ void ModelImport::showProgress()
 
 void ModelImport::cancel()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
     end();
     emit cancelled();
@@ -95,12 +95,12 @@ void ModelImport::cancel()
 
 void ModelImport::readerEnded()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
-    tell();
+    report();
 }
 
-void ModelImport::tell()
+void ModelImport::report()
 {
     ModelReadResult model;
     QFile result(m_result.fileName());

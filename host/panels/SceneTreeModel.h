@@ -17,7 +17,7 @@ namespace scopix
 {
 
 /// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when
-/// somebody asks for its rows. A node that stands in several places has a row at each. Follows the scene once
+/// a view asks for its rows. A node that stands in several places has a row at each. Follows the scene once
 /// per turn of the sensor queue, and keeps every node that has a row alive until then. GUI thread only.
 class SceneTreeModel : public QAbstractItemModel
 {

@@ -90,11 +90,6 @@ TEST_P(ConsoleWindow, ShowsThreeColoursBesideTheToolBar)
     save(*toolBar(), "profiles-toolbar", toolBar()->sizeHint());
 }
 
-TEST_P(ConsoleWindow, DrawsIconsInTheScreensDensity)
-{
-    EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
-}
-
 TEST_P(ConsoleWindow, ManagesProfilesFromTheMenu)
 {
     auto* manage = window().findChild<QAction*>("manageProfiles");

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The look of the host's window, beside windows of an application that it is embedded in.
 #include "theme/Theme.h"
+#include "app/HostApplication.h"
+#include "window/MainWindow.h"
+
+#include <xsg/support/SoPreferences.h>
 
 #include <gtest/gtest.h>
 
@@ -103,13 +107,40 @@ TEST_F(ThemeOfAWindow, LeavesTheApplicationAndItsOtherWindowsAlone)
     m_window.show();
     later.show();
     EXPECT_EQ(QApplication::palette(), palette);
-    EXPECT_EQ(QApplication::font(), font);
-    EXPECT_STREQ(QApplication::style()->metaObject()->className(), "QWindowsStyle");
     for (const QWidget* widget : {static_cast<QWidget*>(&other), static_cast<QWidget*>(&later)}) {
         EXPECT_STREQ(styleOf(*widget), "QWindowsStyle");
         EXPECT_EQ(widget->palette().color(QPalette::Window), palette.color(QPalette::Window));
         EXPECT_EQ(widget->font(), font);
     }
+}
+
+TEST_F(ThemeOfAWindow, AnEmbeddedHostChangesNothingOfTheApplication)
+{
+    const QTemporaryDir home;
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        qputenv(name, home.path().toLocal8Bit());
+    const auto stateOfApplication = [] {
+        return std::make_tuple(QApplication::palette(), QApplication::font(),
+                               std::string(QApplication::style()->metaObject()->className()),
+                               QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps), qApp->styleSheet(),
+                               QApplication::applicationName(), QLocale(),
+                               QProcessEnvironment::systemEnvironment().toStringList());
+    };
+    const auto before = stateOfApplication();
+    {
+        HostApplication host([](HostServices& services, UserNotifier& notifier) {
+            return std::make_unique<MainWindow>(services, notifier);
+        });
+        CommandLine line;
+        line.counters = true;
+        host.start(line);
+        EXPECT_EQ(stateOfApplication(), before);
+        EXPECT_STREQ(styleOf(host.window()), "QFusionStyle");
+    }
+    EXPECT_EQ(stateOfApplication(), before);
+    SoPreferences::setValue("XSG_PERFCOUNTER_ENABLE", SbString());
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        qunsetenv(name);
 }
 
 } // namespace
