@@ -4,6 +4,7 @@
 #include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
+#include "settings/Preferences.h"
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
@@ -28,6 +29,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
+    Preferences::feed();
     // Closing this window never ends the application around it; run() waits for finished().
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_notifier.setWindow(m_window.get());
@@ -73,7 +75,7 @@ void HostSession::start(const CommandLine& line)
     m_asked = line;
     m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
-        qputenv(CounterSwitch, "1");
+        SoPreferences::setValue(CounterSwitch, "1");
     // Switched off, the counters can only say how they are switched on, which is worth no place in the
     // window.
     if (!SoPreferences::getBool(CounterSwitch, false))
@@ -95,7 +97,7 @@ void HostSession::loadPlugins(const CommandLine& line)
 {
     m_plugins.profiles().read();
     if (!line.profile.isEmpty() && !m_plugins.profiles().useProfile(line.profile))
-        m_notifier.error(tr("There is no profile named \"%1\".").arg(line.profile));
+        m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
@@ -109,7 +111,7 @@ void HostSession::openFinished()
     m_asked.reset();
     if (!line.selectNode.isEmpty())
         m_window->selectField(line.selectNode, line.selectField);
-    // A turn later, when profile and editors stand.
+    // From the event loop, when profile and editors are set up.
     QMetaObject::invokeMethod(
         this, [this, line] { finish(line); }, Qt::QueuedConnection);
 }

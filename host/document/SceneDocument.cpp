@@ -142,7 +142,7 @@ void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
 {
     auto& document = *static_cast<SceneDocument*>(self);
     const SoField* field = document.m_sensor.getAttachedField();
-    // What follows another field is nobody's edit.
+    // A value that comes over a connection is no edit.
     if (!field || field->isConnected() || field->getChangeCount() == document.m_knownCount)
         return;
     document.m_touched = true;

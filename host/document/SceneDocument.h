@@ -25,12 +25,12 @@ public:
     explicit SceneDocument(HostServices& services);
     ~SceneDocument() override;
 
-    /// The endings of the names of scene files and of everything that can be opened, in lower case.
+    /// The suffixes of scene files and of everything that can be opened, in lower case.
     static QString sceneEnding();
     static QStringList fileExtensions();
 
-    /// Opens another scene in place of the one before: selection and history go. `path` is the scene file or
-    /// model it came from, or empty; `title` names it.
+    /// Opens another scene in place of the one before, and clears selection and history. `path` is the scene
+    /// file or model it came from, or empty; `title` names it.
     void begin(SoNode* root, const QString& path, const QString& title);
     /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title);
@@ -57,10 +57,10 @@ public:
     QString save(const QString& path);
 
 signals:
-    /// The views show this root now; the one before is alive until all slots have returned.
+    /// The views are to show this root; the one before is alive until all have been notified.
     void rootChanged(SoNode* root);
     void edited();
-    /// Path, title or whether it is modified.
+    /// Path, title or the modified state.
     void stateChanged();
 
 private:

@@ -62,7 +62,7 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1 …").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
+    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
                                    m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));
     m_dialog->setWindowModality(Qt::WindowModal);
@@ -87,7 +87,7 @@ void ModelImport::showProgress()
 
 void ModelImport::cancel()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
     end();
     emit cancelled();
@@ -95,21 +95,19 @@ void ModelImport::cancel()
 
 void ModelImport::readerEnded()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
-    tell();
+    report();
 }
 
-void ModelImport::tell()
+void ModelImport::report()
 {
     ModelReadResult model;
     QFile result(m_result.fileName());
     const bool ended =
         m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
-    const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
-    if (!bytes ||
-        !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+    if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
     if (model.error.isEmpty())

@@ -3,10 +3,10 @@
 
 #include "model/ModelReadResult.h"
 
-#include <QIODevice>
+#include <QDataStream>
 
 #include <algorithm>
-#include <cstring>
+#include <tuple>
 #include <type_traits>
 
 namespace scopix
@@ -17,125 +17,103 @@ namespace
 
 constexpr std::uint32_t Mark = 0x5370784D;
 
-class Writer
+// The members of each part of a model, for both directions: `Part` is const where it is written.
+template <class Part>
+auto membersOf(Part& part)
 {
-public:
-    explicit Writer(QIODevice& file)
-        : m_file(file)
-    {
+    using Plain = std::remove_const_t<Part>;
+    if constexpr (std::is_same_v<Plain, ModelData::Mesh>) {
+        return std::tie(part.name, part.material, part.points, part.normals, part.textureCoordinates,
+                        part.colors, part.index);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Material>) {
+        return std::tie(part.name, part.ambient, part.diffuse, part.specular, part.emissive, part.shininess,
+                        part.transparency, part.picture, part.clampS, part.clampT);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Picture>) {
+        return std::tie(part.name, part.width, part.height, part.components, part.bytes);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Node>) {
+        return std::tie(part.name, part.matrix, part.meshes, part.children, part.light, part.camera);
+    } else {
+        static_assert(std::is_same_v<Plain, ModelData>);
+        return std::tie(part.meshes, part.materials, part.pictures, part.lights, part.cameras, part.nodes);
     }
-    bool isGood() const { return m_good; }
+}
 
-    void bytes(const void* from, std::size_t size)
-    {
-        const auto wanted = static_cast<qint64>(size);
-        m_good = m_good && m_file.write(static_cast<const char*>(from), wanted) == wanted;
-    }
-    template <class List>
-    void resize(const List& list)
-    {
-        const std::uint64_t count = list.size();
-        bytes(&count, sizeof count);
-    }
+// What can be handed over as the bytes that it has in memory.
+template <class T>
+constexpr bool isPlain = std::is_trivially_copyable_v<T>;
 
-private:
-    QIODevice& m_file;
-    bool m_good = true;
+template <class T>
+struct IsList : std::false_type {
+};
+template <>
+struct IsList<std::string> : std::true_type {
+};
+template <class T>
+struct IsList<std::vector<T>> : std::true_type {
 };
 
-class Reader
+// QDataStream counts in int; a model may be larger than that.
+void writeBytes(QDataStream& stream, const void* from, std::size_t size)
 {
-public:
-    Reader(const char* bytes, std::size_t size)
-        : m_at(bytes)
-        , m_rest(size)
-    {
-    }
-    bool isGood() const { return m_good; }
-    bool isAtEnd() const { return m_rest == 0; }
+    const auto* at = static_cast<const char*>(from);
+    const auto wanted = static_cast<qint64>(size);
+    if (stream.status() == QDataStream::Ok && stream.device()->write(at, wanted) != wanted)
+        stream.setStatus(QDataStream::WriteFailed);
+}
 
-    void bytes(void* to, std::size_t size)
-    {
-        m_good = m_good && size <= m_rest;
-        if (!m_good || size == 0)
-            return;
-        std::memcpy(to, m_at, size);
-        m_at += size;
-        m_rest -= size;
-    }
-    template <class List>
-    void resize(List& list)
-    {
-        std::uint64_t count = 0;
-        bytes(&count, sizeof count);
-        // An element takes a byte or more, so a wrong count asks for no memory that is not there.
-        constexpr std::size_t Least =
-            std::is_trivially_copyable_v<typename List::value_type> ? sizeof(typename List::value_type) : 1;
-        m_good = m_good && count <= m_rest / Least;
-        list.resize(m_good ? count : 0);
-    }
-
-private:
-    const char* m_at;
-    std::size_t m_rest;
-    bool m_good = true;
-};
-
-// What a model consists of, told once for both ways.
-template <class Way>
-class Archive
+void readBytes(QDataStream& stream, void* to, std::size_t size)
 {
-public:
-    explicit Archive(Way& way)
-        : m_way(way)
-    {
-    }
+    const auto wanted = static_cast<qint64>(size);
+    if (stream.status() == QDataStream::Ok && stream.device()->read(static_cast<char*>(to), wanted) != wanted)
+        stream.setStatus(QDataStream::ReadPastEnd);
+}
 
-    template <class... Parts>
-    void operator()(Parts&... parts)
-    {
-        (pass(parts), ...);
+template <class T>
+void write(QDataStream& stream, const T& value)
+{
+    if constexpr (isPlain<T>) {
+        writeBytes(stream, &value, sizeof value);
+    } else if constexpr (IsList<T>::value) {
+        stream << static_cast<quint64>(value.size());
+        if constexpr (isPlain<typename T::value_type>)
+            writeBytes(stream, value.data(), value.size() * sizeof(typename T::value_type));
+        else
+            for (const auto& each : value)
+                write(stream, each);
+    } else {
+        std::apply([&](const auto&... member) { (write(stream, member), ...); }, membersOf(value));
     }
+}
 
-private:
-    template <class T>
-    std::enable_if_t<std::is_trivially_copyable_v<T>> pass(T& value)
-    {
-        m_way.bytes(&value, sizeof value);
-    }
-    void pass(std::string& text) { passList(text); }
-    template <class T>
-    void pass(std::vector<T>& list)
-    {
-        passList(list);
-    }
-    template <class List>
-    void passList(List& list)
-    {
-        m_way.resize(list);
-        if constexpr (std::is_trivially_copyable_v<typename List::value_type>) {
-            m_way.bytes(list.data(), list.size() * sizeof(typename List::value_type));
-        } else {
-            for (auto& each : list)
-                pass(each);
-        }
-    }
+// An element takes a byte or more, so that a wrong count asks for no memory that is not there.
+template <class List>
+void readSize(QDataStream& stream, List& list)
+{
+    using Element = typename List::value_type;
+    quint64 count = 0;
+    stream >> count;
+    if (count >
+        static_cast<quint64>(stream.device()->bytesAvailable()) / (isPlain<Element> ? sizeof(Element) : 1))
+        stream.setStatus(QDataStream::ReadCorruptData);
+    list.resize(stream.status() == QDataStream::Ok ? count : 0);
+}
 
-    void pass(ModelData::Mesh& m)
-    {
-        (*this)(m.name, m.material, m.points, m.normals, m.textureCoordinates, m.colors, m.index);
+template <class T>
+void read(QDataStream& stream, T& value)
+{
+    if constexpr (isPlain<T>) {
+        readBytes(stream, &value, sizeof value);
+    } else if constexpr (IsList<T>::value) {
+        readSize(stream, value);
+        if constexpr (isPlain<typename T::value_type>)
+            readBytes(stream, value.data(), value.size() * sizeof(typename T::value_type));
+        else
+            for (auto& each : value)
+                read(stream, each);
+    } else {
+        std::apply([&](auto&... member) { (read(stream, member), ...); }, membersOf(value));
     }
-    void pass(ModelData::Material& m)
-    {
-        (*this)(m.name, m.ambient, m.diffuse, m.specular, m.emissive, m.shininess, m.transparency, m.picture,
-                m.clampS, m.clampT);
-    }
-    void pass(ModelData::Picture& p) { (*this)(p.name, p.width, p.height, p.components, p.bytes); }
-    void pass(ModelData::Node& n) { (*this)(n.name, n.matrix, n.meshes, n.children, n.light, n.camera); }
-    void pass(ModelData& m) { (*this)(m.meshes, m.materials, m.pictures, m.lights, m.cameras, m.nodes); }
-
-    Way& m_way;
-};
+}
 
 template <class List>
 bool isPlace(int place, const List& list)
@@ -163,25 +141,23 @@ bool isConsistent(const ModelData& model)
 
 bool writeModelFile(const ModelReadResult& model, QIODevice& file)
 {
-    Writer writer(file);
-    std::uint32_t mark = Mark;
-    std::string error = model.error.toStdString();
-    // Writing changes nothing; the other way does.
-    Archive<Writer> pass(writer);
-    pass(mark, error, const_cast<ModelData&>(model.data), mark);
-    return writer.isGood();
+    QDataStream stream(&file);
+    stream << Mark << model.error;
+    write(stream, model.data);
+    stream << Mark;
+    return stream.status() == QDataStream::Ok;
 }
 
-bool readModelFile(const char* bytes, std::size_t size, ModelReadResult& model)
+bool readModelFile(QIODevice& file, ModelReadResult& model)
 {
-    Reader reader(bytes, size);
+    QDataStream stream(&file);
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
-    std::string error;
-    Archive<Reader> pass(reader);
-    pass(begin, error, model.data, end);
-    model.error = QString::fromStdString(error);
-    return reader.isGood() && reader.isAtEnd() && begin == Mark && end == Mark && isConsistent(model.data);
+    stream >> begin >> model.error;
+    read(stream, model.data);
+    stream >> end;
+    return stream.status() == QDataStream::Ok && stream.atEnd() && begin == Mark && end == Mark &&
+           isConsistent(model.data);
 }
 
 } // namespace scopix

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A model's plain data as a file of bytes, in which the process that reads models hands it over. Of this
-// machine and this version only, and gone once it has been taken in.
+// A model's plain data as a binary file, in which the process that reads models hands it over. The format is
+// that of this machine and this version only; the file is removed once it has been read.
 #pragma once
 
 #include "model/ModelData.h"
@@ -14,7 +14,7 @@ struct ModelReadResult;
 
 /// False where it cannot be written.
 bool writeModelFile(const ModelReadResult& model, QIODevice& file);
-/// Takes `size` bytes apart. False, and a model of no use, where they are not what was written.
-bool readModelFile(const char* bytes, std::size_t size, ModelReadResult& model);
+/// Reads the file to its end. False, and a model of no use, where it is not what was written.
+bool readModelFile(QIODevice& file, ModelReadResult& model);
 
 } // namespace scopix

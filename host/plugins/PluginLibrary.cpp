@@ -36,7 +36,7 @@ template <class Function>
 QString resolve(QLibrary& library, const char* name, Function& function)
 {
     function = reinterpret_cast<Function>(library.resolve(name));
-    return function ? QString() : tr("it has no entry point \"%1\"").arg(QLatin1String(name));
+    return function ? QString() : tr("it has no entry point “%1”").arg(QLatin1String(name));
 }
 
 } // namespace
@@ -67,7 +67,7 @@ std::unique_ptr<PluginLibrary> PluginLibrary::load(const QString& path, QString&
         if (why.isEmpty())
             return library;
     }
-    error = tr("The plug-in \"%1\" was not loaded: %2.").arg(path, why);
+    error = tr("The plug-in “%1” was not loaded: %2.").arg(path, why);
     return nullptr;
 }
 

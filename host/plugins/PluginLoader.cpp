@@ -54,7 +54,7 @@ bool PluginLoader::startPlugin(PluginLibrary& library)
         return true;
     if (why.isEmpty())
         why = tr("it says that it cannot be used");
-    emit failed(tr("The plug-in \"%1\" was not loaded: its load() failed: %2.").arg(library.path(), why));
+    emit failed(tr("The plug-in “%1” was not loaded: its load() failed: %2.").arg(library.path(), why));
     catchExceptions([&] { library.plugin()->unload(); });
     return false;
 }

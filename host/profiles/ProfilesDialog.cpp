@@ -205,7 +205,7 @@ void ProfilesDialog::showProfile(int row)
     const QSignalBlocker silent(m_tree);
     const ProfileChoice* profile = current();
     const bool ours = profile && profile->name != HostProfile::defaultName();
-    m_problem->setText(ours ? QString() : tr("\"Default\" controls every extension and stays as it is."));
+    m_problem->setText(ours ? QString() : tr("“Default” controls every extension and stays as it is."));
     m_renameButton->setEnabled(ours);
     m_deleteButton->setEnabled(ours);
     for (QTreeWidgetItem* group : {m_tools, m_editors})

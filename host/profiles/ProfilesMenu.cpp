@@ -36,7 +36,7 @@ void ProfilesMenu::refill()
                 [this, name] { m_profiles.setActiveProfile(m_profiles.findProfile(name)); });
     }
     m_menu.addSeparator();
-    QAction* manageEntry = m_menu.addAction(tr("&Manage Profiles..."), this, &ProfilesMenu::manage);
+    QAction* manageEntry = m_menu.addAction(tr("&Manage Profiles…"), this, &ProfilesMenu::manage);
     manageEntry->setObjectName(QStringLiteral("manageProfiles"));
 }
 

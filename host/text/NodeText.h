@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a node is called where people read it.
+// The name of a node in the user interface.
 #pragma once
 
 #include <xsg/values/SbName.h>

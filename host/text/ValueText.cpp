@@ -13,6 +13,11 @@ namespace scopix
 namespace
 {
 
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ValueText", text);
+}
+
 QString shortened(QString text, int limit)
 {
     text.replace(QLatin1Char('\n'), QChar(0x23ce));
@@ -39,9 +44,9 @@ QString imageText(const SoSFImage& field)
     int components = 0;
     const bool hasBytes = field.getValue(width, height, components) != nullptr;
     if (!hasBytes)
-        return QStringLiteral("no picture");
-    static constexpr const char* Names[] = {"", "grey", "grey, alpha", "RGB", "RGBA"};
-    return QStringLiteral("%1 × %2, %3").arg(width).arg(height).arg(QLatin1String(Names[components]));
+        return tr("no picture");
+    const QString names[] = {{}, tr("grey"), tr("grey, alpha"), tr("RGB"), tr("RGBA")};
+    return tr("%1 × %2, %3").arg(width).arg(height).arg(names[components]);
 }
 
 QString elementText(const SoMField& field, int index, int limit)
@@ -61,7 +66,7 @@ QString listText(const SoMField& field, int limit)
         text += (i > 0 ? QStringLiteral(", ") : QString()) + elementText(field, i, limit);
     if (count == 1)
         return text;
-    return count == 0 ? QStringLiteral("empty") : QStringLiteral("%1 × [%2]").arg(count).arg(text);
+    return count == 0 ? tr("empty") : tr("%1 × [%2]").arg(count).arg(text);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A field's value as a short line that people read.
+// A field's value as a short line for the user interface.
 #pragma once
 
 #include <QString>

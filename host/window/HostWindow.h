@@ -20,15 +20,15 @@ public:
     virtual QMenu* viewMenu() = 0;
     virtual QMenu* profilesMenu() = 0;
 
-    /// Opens a scene or model, perhaps in the background; openFinished() follows, once, also before this
-    /// returns. What was open stays open when it fails. Problems are reported to the
-    /// UserNotifier.
+    /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
+    /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
     /// Selects a field by its node's name or type. False when there is none, which is reported.
     virtual bool selectField(const QString& node, const QString& field) = 0;
-    /// Writes a picture of the window. False when it cannot be written, which is reported.
+    /// Writes a picture of the window. False when it cannot be written, which is
+    /// reported.
     virtual bool saveScreenshot(const QString& path) = 0;
-    /// What was asked for at the start has been done, and a user works with the window from now on.
+    /// What the command line asks for has been done, and the user works with the window from now on.
     virtual void enterInteractiveMode() {}
 
 signals:

@@ -5,6 +5,7 @@
 #include "app/HostSession.h"
 
 #include <scopix/SpxExtension.h>
+#include <xsg/support/SoPreferences.h>
 
 #include <gtest/gtest.h>
 
@@ -132,8 +133,9 @@ TEST_F(ApplicationTest, SwitchesTheCountersOn)
 {
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
     run({"--counters", "--quit"});
-    EXPECT_EQ(qgetenv("XSG_PERFCOUNTER_ENABLE"), "1");
-    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+    EXPECT_TRUE(SoPreferences::getBool("XSG_PERFCOUNTER_ENABLE", false));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XSG_PERFCOUNTER_ENABLE")) << "the process's own is left alone";
+    SoPreferences::setValue("XSG_PERFCOUNTER_ENABLE", SbString());
 }
 
 TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)

@@ -132,31 +132,31 @@ TEST_P(BadPluginTest, IsNamedInOneSentenceAndTheRestGoesOn)
     ASSERT_EQ(host.failures.size(), 1);
     const QString sentence = host.failures.first();
     EXPECT_TRUE(sentence.contains(GetParam().path)) << sentence.toStdString();
-    EXPECT_TRUE(sentence.contains(QLatin1String(GetParam().expected))) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(QString::fromUtf8(GetParam().expected))) << sentence.toStdString();
     EXPECT_EQ(sentence.count('\n'), 0);
     EXPECT_EQ(host.manager.pluginNames(), QStringList{"Other"});
     EXPECT_FALSE(isMapped(GetParam().path));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, BadPluginTest,
-    ::testing::Values(BadPlugin{"/nowhere/libSpx.so", "no such file"}, BadPlugin{TEST_PLUGINS, "a folder"},
-                      BadPlugin{SCOPIX_SOURCE_DIR "/README.md", "no library"},
-                      BadPlugin{testPlugin("NoEntry"), "no entry point \"loadPlugin\""},
-                      BadPlugin{testPlugin("NoUnload"), "no entry point \"unloadPlugin\""},
-                      BadPlugin{testPlugin("Throws"), "loadPlugin failed: out of luck"},
-                      BadPlugin{testPlugin("ThrowsNothing"), "unknown type"},
-                      BadPlugin{testPlugin("Null"), "returned no plug-in"},
-                      BadPlugin{testPlugin("LoadFalse"), "cannot be used"},
-                      BadPlugin{testPlugin("LoadThrows"), "no licence"}));
+INSTANTIATE_TEST_SUITE_P(Cases, BadPluginTest,
+                         ::testing::Values(BadPlugin{"/nowhere/libSpx.so", "no such file"},
+                                           BadPlugin{TEST_PLUGINS, "a folder"},
+                                           BadPlugin{SCOPIX_SOURCE_DIR "/README.md", "no library"},
+                                           BadPlugin{testPlugin("NoEntry"), "no entry point “loadPlugin”"},
+                                           BadPlugin{testPlugin("NoUnload"), "no entry point “unloadPlugin”"},
+                                           BadPlugin{testPlugin("Throws"), "loadPlugin failed: out of luck"},
+                                           BadPlugin{testPlugin("ThrowsNothing"), "unknown type"},
+                                           BadPlugin{testPlugin("Null"), "returned no plug-in"},
+                                           BadPlugin{testPlugin("LoadFalse"), "cannot be used"},
+                                           BadPlugin{testPlugin("LoadThrows"), "no licence"}));
 
 TEST(BadExtensions, AreToldOneByOneAndLeaveNothingBehind)
 {
     PluginHost host;
     EXPECT_TRUE(host.manager.loadPlugin(testPlugin("BadExtensions")));
     ASSERT_EQ(host.failures.size(), 2);
-    EXPECT_TRUE(host.failures.at(0).contains("\"Test/InLoad\" failed in load(): broken in load"));
-    EXPECT_TRUE(host.failures.at(1).contains("\"Test/InActivate\" failed in activate()"));
+    EXPECT_TRUE(host.failures.at(0).contains("“Test/InLoad” failed in load(): broken in load"));
+    EXPECT_TRUE(host.failures.at(1).contains("“Test/InActivate” failed in activate()"));
     EXPECT_FALSE(host.window.findChild<QDockWidget*>("InActivate"));
 
     SpxExtension* inHide = nullptr;

@@ -103,7 +103,7 @@ TEST_P(DamagedFile, IsToldAndKeptBesideUnderAnotherName)
     const ProfileSettings settings = m_file.read(m_error);
     EXPECT_EQ(settings.profiles.size(), 3U);
     EXPECT_TRUE(m_error.contains(m_path)) << m_error.toStdString();
-    EXPECT_TRUE(m_error.contains(QLatin1String(GetParam().expected))) << m_error.toStdString();
+    EXPECT_TRUE(m_error.contains(QString::fromUtf8(GetParam().expected))) << m_error.toStdString();
     EXPECT_TRUE(m_error.contains("profiles.damaged.json"));
     EXPECT_EQ(m_error.count('\n'), 0);
     ASSERT_EQ(files(), QStringList{"profiles.damaged.json"});
@@ -118,15 +118,15 @@ INSTANTIATE_TEST_SUITE_P(
     Cases, DamagedFile,
     ::testing::Values(
         Damaged{"", "line 1"}, Damaged{"{\n\"active\": \"A\",\n oops }", "line 3"},
-        Damaged{"[]", "one object"}, Damaged{"{}", "\"profiles\" must be a list"},
+        Damaged{"[]", "one object"}, Damaged{"{}", "“profiles” must be a list"},
         Damaged{R"({"active":"A","profiles":[7]})", "profile 1 must be an object"},
-        Damaged{R"({"active":"A","profiles":[{}]})", "\"name\" of profile 1"},
+        Damaged{R"({"active":"A","profiles":[{}]})", "“name” of profile 1"},
         Damaged{R"({"active":"A","profiles":[{"name":""}]})", "profile 1"},
-        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":"some","tools":[]}]})", "\"editors\""},
-        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":[],"tools":[1]}]})", "\"tools\""},
+        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":"some","tools":[]}]})", "“editors”"},
+        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":[],"tools":[1]}]})", "“tools”"},
         Damaged{R"({"active":"A","profiles":[{"name":" ","editors":[],"tools":[]}]})", "needs a name"},
         Damaged{QByteArray(R"({"active":"A","profiles":[)") + Good + "," + Good + "]}", "already"},
-        Damaged{QByteArray(R"({"profiles":[)") + Good + "]}", "\"active\""},
+        Damaged{QByteArray(R"({"profiles":[)") + Good + "]}", "“active”"},
         Damaged{QByteArray(5 * 1024 * 1024, 'x'), "larger"}, Damaged{QByteArray(100000, '['), "line 1"}));
 
 TEST_F(ProfileFileTest, DamagedTwiceKeepsBoth)

@@ -2,13 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <xsg/errors/SoDebugError.h>
-#include <xsg/errors/SoReadError.h>
 #include <xsg/support/SoPreferences.h>
 
 #include "xsg/errors/Collected.h"
 
 #include <cstdlib>
-#include <fstream>
 
 namespace
 {
@@ -18,38 +16,35 @@ class Preferences : public testing::Test
 protected:
     ~Preferences() override
     {
-        SoPreferences::setFile(SbString());
-        for (const char* name : {"XSG_TEST_SETTING", "XSG_PREFERENCES"})
-            unsetenv(name);
-        std::remove(path.c_str());
+        unsetenv("XSG_TEST_SETTING");
+        for (const char* name : {"XSG_TEST_SETTING", "YES", "NO", "COUNT", "RATIO", "PATH_1"})
+            SoPreferences::setValue(name, SbString());
     }
-    void useFile(const std::string& text)
-    {
-        std::ofstream(path, std::ios::binary) << text;
-        SoPreferences::setFile(path);
-    }
-    const std::string path = testing::TempDir() + "xsg_preferences_" +
-                             testing::UnitTest::GetInstance()->current_test_info()->name() + ".conf";
     const Collected<SoDebugError> warnings;
-    const Collected<SoReadError> readErrors;
 };
 
 } // namespace
 
-TEST_F(Preferences, TheEnvironmentComesFirstThenTheFileThenTheDefault)
+TEST_F(Preferences, TheEnvironmentComesFirstThenTheValueThatWasSetThenTheDefault)
 {
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 7);
-    useFile("XSG_TEST_SETTING = 8\n");
+    SoPreferences::setValue("XSG_TEST_SETTING", "8");
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 8);
     setenv("XSG_TEST_SETTING", "9", 1);
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 9);
     setenv("XSG_TEST_SETTING", "", 1);
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 8);
+    SoPreferences::setValue("XSG_TEST_SETTING", SbString());
+    EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 7);
 }
 
 TEST_F(Preferences, EachKindIsRead)
 {
-    useFile("# a comment\n\nYES = TRUE\nNO=0\n  COUNT = -12  # twelve\nRATIO = 0.5\r\nPATH_1 = /a b/c#1.xsg");
+    SoPreferences::setValue("YES", "TRUE");
+    SoPreferences::setValue("NO", "0");
+    SoPreferences::setValue("COUNT", " -12 ");
+    SoPreferences::setValue("RATIO", "0.5");
+    SoPreferences::setValue("PATH_1", "/a b/c#1.xsg");
     EXPECT_TRUE(SoPreferences::getBool("YES", false));
     EXPECT_FALSE(SoPreferences::getBool("NO", true));
     EXPECT_EQ(SoPreferences::getInt("COUNT", 0), -12);
@@ -58,7 +53,6 @@ TEST_F(Preferences, EachKindIsRead)
     EXPECT_EQ(SoPreferences::getString("ABSENT", "default"), SbString("default"));
     EXPECT_TRUE(SoPreferences::getString("ABSENT", SbString()).isNull());
     EXPECT_TRUE(warnings.texts.empty());
-    EXPECT_TRUE(readErrors.texts.empty());
 }
 
 TEST_F(Preferences, TextThatIsNoNumberGivesTheDefaultAndOneWarning)
@@ -75,35 +69,11 @@ TEST_F(Preferences, TextThatIsNoNumberGivesTheDefaultAndOneWarning)
     EXPECT_EQ(warnings.texts.size(), 3U);
 }
 
-TEST_F(Preferences, ABadLineIsNamedAndTheRestIsRead)
-{
-    useFile("XSG_TEST_SETTING = 1\nnonsense\n = 4\nLATER = 2\n");
-    EXPECT_EQ(SoPreferences::getInt("LATER", 0), 2);
-    EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 0), 1);
-    ASSERT_EQ(readErrors.texts.size(), 2U);
-    EXPECT_EQ(readErrors.texts[0], path + ":2: The line is no setting; expected NAME = value.");
-    EXPECT_EQ(readErrors.texts[1], path + ":3: The line is no setting; expected NAME = value.");
-}
-
-TEST_F(Preferences, AFileThatIsTooLargeIsRefused)
-{
-    useFile("XSG_TEST_SETTING = 1\n" + std::string(2'000'000, '#'));
-    EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 5), 5);
-    EXPECT_EQ(readErrors.texts.size(), 1U);
-}
-
-TEST_F(Preferences, TheEnvironmentNamesTheFile)
-{
-    std::ofstream(path) << "XSG_TEST_SETTING = 21";
-    setenv("XSG_PREFERENCES", path.c_str(), 1);
-    SoPreferences::setFile(SbString());
-    EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 0), 21);
-}
-
-TEST_F(Preferences, NoNameAndAFolderGiveTheDefault)
+TEST_F(Preferences, NoNameGivesTheDefault)
 {
     EXPECT_EQ(SoPreferences::getInt(nullptr, 1), 1);
     EXPECT_EQ(SoPreferences::getInt("", 2), 2);
-    SoPreferences::setFile(testing::TempDir());
-    EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 3), 3);
+    SoPreferences::setValue(nullptr, "3");
+    SoPreferences::setValue("", "3");
+    EXPECT_EQ(SoPreferences::getInt("", 2), 2);
 }
