@@ -114,7 +114,7 @@ void HostSession::openFinished()
     m_asked.reset();
     if (!line.selectNode.isEmpty())
         m_window->selectField(line.selectNode, line.selectField);
-    // A turn later, when profile and editors stand.
+    // From the event loop, when profile and editors are set up.
     QMetaObject::invokeMethod(
         this, [this, line] { finish(line); }, Qt::QueuedConnection);
 }

@@ -32,6 +32,21 @@ QStringList attributes()
     return set;
 }
 
+/// What an inspector must leave as it is, taken before the first one was made.
+struct ApplicationState {
+    QString style = QApplication::style()->objectName();
+    QPalette palette = QApplication::palette();
+    QString font = QApplication::font().toString();
+    QString styleSheet = qApp->styleSheet();
+    QString attributes = ::attributes().join(' ');
+    QString environment = QProcessEnvironment::systemEnvironment().toStringList().join('\n');
+    QString name = QApplication::applicationName() + ' ' + QApplication::applicationDisplayName() + ' ' +
+                   QApplication::applicationVersion();
+    bool quitsOnLastWindow = QApplication::quitOnLastWindowClosed();
+};
+
+const ApplicationState* before = nullptr;
+
 QMainWindow* inspectorWindow()
 {
     for (QWidget* each : QApplication::topLevelWidgets()) {
@@ -80,36 +95,29 @@ TEST_F(Embedded, OpensOnAKeyAndShowsTheApplicationsScene)
 TEST_F(Embedded, KeepsTheApplicationsLook)
 {
     const QStyle* style = QApplication::style();
-    const QPalette palette = QApplication::palette();
-    const QFont font = QApplication::font();
     const QStyle* windowStyle = m_window.style();
     const QPalette windowPalette = m_window.palette();
+    const QFont windowFont = m_window.font();
     ASSERT_TRUE(openByKey());
+    const ApplicationState now;
+    EXPECT_EQ(text(now.style), text(before->style));
+    EXPECT_TRUE(now.palette == before->palette);
+    EXPECT_EQ(text(now.font), text(before->font));
+    EXPECT_EQ(text(now.styleSheet), text(before->styleSheet));
     EXPECT_EQ(QApplication::style(), style);
-    EXPECT_EQ(text(QApplication::style()->objectName()), "windows");
-    EXPECT_TRUE(QApplication::palette() == palette);
-    EXPECT_EQ(text(QApplication::font().toString()), text(font.toString()));
-    EXPECT_EQ(text(qApp->styleSheet()), "");
     EXPECT_EQ(m_window.style(), windowStyle);
     EXPECT_TRUE(m_window.palette() == windowPalette);
+    EXPECT_TRUE(m_window.font() == windowFont);
 }
 
-TEST_F(Embedded, KeepsTheEnvironment)
+TEST_F(Embedded, KeepsEnvironmentAndAttributes)
 {
-    const QStringList before = QProcessEnvironment::systemEnvironment().toStringList();
     ASSERT_TRUE(openByKey());
-    EXPECT_EQ(text(QProcessEnvironment::systemEnvironment().toStringList().join('\n')),
-              text(before.join('\n')));
-}
-
-TEST_F(Embedded, KeepsTheApplicationsAttributes)
-{
-    const QStringList before = attributes();
-    ASSERT_TRUE(openByKey());
-    EXPECT_EQ(text(attributes().join(' ')), text(before.join(' ')));
-    EXPECT_EQ(text(QApplication::applicationName()), "turntable");
-    EXPECT_EQ(text(QApplication::applicationVersion()), "");
-    EXPECT_TRUE(QApplication::quitOnLastWindowClosed());
+    const ApplicationState now;
+    EXPECT_EQ(text(now.environment), text(before->environment));
+    EXPECT_EQ(text(now.attributes), text(before->attributes));
+    EXPECT_EQ(text(now.name), text(before->name));
+    EXPECT_EQ(now.quitsOnLastWindow, before->quitsOnLastWindow);
 }
 
 TEST_F(Embedded, ItsMainWindowIsItsOwn)
@@ -162,5 +170,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("turntable"));
     applyLook();
+    const ApplicationState atStart;
+    before = &atStart;
     return RUN_ALL_TESTS();
 }
