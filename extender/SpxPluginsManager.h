@@ -3,7 +3,7 @@
 
 #include <scopix/SpxProfile.h>
 
-/// What the host tells about its profiles. The host derives from it; its instance is the one that lives.
+/// What the host offers about its profiles. The host derives from it; its instance is the one that lives.
 /// GUI thread only.
 class SPX_API SpxPluginsManager
 {

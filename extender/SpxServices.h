@@ -24,8 +24,8 @@ public:
     virtual void executeCommand(SpxCommand* command) = 0;
 
 signals:
-    /// The person selected a node or a field, or nothing (null). The same one may be told again. A field's
-    /// null comes before its node goes.
+    /// The user selected a node or a field, or nothing (null). The same one may be reported again. A field's
+    /// null comes before its node is destroyed.
     void selectedNodeChanged(SoFieldContainer* node);
     void selectedFieldChanged(SoField* field);
 
