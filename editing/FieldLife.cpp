@@ -11,9 +11,10 @@ namespace
 
 using Lives = QHash<const SoFieldContainer*, std::weak_ptr<FieldLife>>;
 
+// Never destroyed: what refers to a field may outlive this library's own objects at the end of the process.
 Lives& lives()
 {
-    static Lives lives;
+    static auto& lives = *new Lives;
     return lives;
 }
 

@@ -54,6 +54,14 @@ void fill(QTableWidget& table, const std::vector<const SoPerfCounter*>& counters
     fitColumns(table);
 }
 
+void setText(QTableWidget& table, int row, int column, const QString& text)
+{
+    if (QTableWidgetItem* item = table.item(row, column))
+        item->setText(text);
+    else
+        table.setItem(row, column, new QTableWidgetItem(text));
+}
+
 void fitColumns(QTableWidget& table)
 {
     const int columns = table.columnCount() - int(table.horizontalHeader()->stretchLastSection());

@@ -13,7 +13,12 @@ inline QString beginningOf(const QString& text, int longest = LongestInCell)
     return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
 }
 
-/// The same, without first making a whole text of another kind.
+inline QString numberText(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+/// The same as the first, without first making a whole text of another kind.
 inline QString beginningOf(const SbString& text)
 {
     constexpr int MostBytes = 4 * (LongestInCell + 1); // of as many characters, and of one that may be cut

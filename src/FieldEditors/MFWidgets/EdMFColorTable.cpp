@@ -23,8 +23,8 @@ void EdMFColorTable::getColorFromEditor(int row, int col)
 {
     if (col != 0 || !owner()->hasRow(row))
         return;
-    // The table's columns stand for components here, so the dialog starts one component further on; that is
-    // meant.
+    // The table's columns stand for components here, so the dialog starts one component further on
+    // (decisions.md: color-dialog-shift).
     const auto channel = [&](int column) {
         return colorChannel(SpxText::toFloatOr0(owner()->getFieldValue(row, column)));
     };

@@ -50,7 +50,7 @@ EdMFieldWidget::EdMFieldWidget(int tableKind, const char* name)
 
 EdMFieldWidget::~EdMFieldWidget()
 {
-    // An open cell may still hand its value over while it goes; it must find an editor.
+    // An open cell may still hand its value over while it is destroyed; it must find an editor.
     if (getWidgetContainer())
         delete m_table;
 }
@@ -161,7 +161,7 @@ void EdMFieldWidget::updateNumElementLabel()
     const SoMField* field = editedField();
     if (field && m_labelNumElement)
         m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
-                                   QStringLiteral(" elements") + tr("</p>"));
+                                   tr(" elements") + tr("</p>"));
 }
 
 void EdMFieldWidget::initColumns(const QStringList& captions, int columns)

@@ -49,7 +49,7 @@ public:
     void setFieldName(const QString& name);
     void updateNumElementLabel();
 
-    /// Null once the field was let go or is gone.
+    /// Null once the field was released or destroyed.
     SoMField* editedField() const;
     AccessButtonPrivate* accessBox() const { return m_accessBox; }
     EdMFieldTable* table() const { return m_table; }
@@ -80,7 +80,7 @@ protected:
     }
     QHBoxLayout* buttonsLayout() const { return m_buttonsLayout; }
     QSpacerItem* accessMoveSpacer() const { return m_accessMoveSpacer; }
-    /// Column captions (one column without a caption when empty), no rows, columns that a person can resize.
+    /// Column captions (one column without a caption when empty), no rows, columns that the user can resize.
     void initColumns(const QStringList& captions, int columns);
 
 private:

@@ -67,7 +67,7 @@ void EdTablePopupWidget::buildPopup()
     m_popupFrameLayout->setContentsMargins(margin, margin, margin, margin);
     m_popupFrameLayout->setSpacing(xsgsettings_fieldEditor(QStringLiteral("PopupLayoutSpacing")));
     m_lines.resize(m_rows * m_columns);
-    // Numbered down the columns, so that the grid shows the element transposed; that is meant.
+    // Numbered down the columns, so that the grid shows the element transposed (decisions.md: popup-columns).
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             const int index = m_columns * column + row;

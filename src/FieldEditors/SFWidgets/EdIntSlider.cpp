@@ -44,7 +44,7 @@ void EdIntSlider::setValueFromEdit()
     int value = toInteger(getValueFromEdit(), radix(), ok);
     if (ok && radix() != 10)
         value = std::max(m_validator->bottom(), std::min(value, m_validator->top()));
-    take(value); // a text that is no number counts as 0; that is meant
+    take(value); // a text that is no number counts as 0 (decisions.md: no-number-is-0)
 }
 
 void EdIntSlider::saveDataFromField()

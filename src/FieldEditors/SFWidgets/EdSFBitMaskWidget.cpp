@@ -80,7 +80,7 @@ void EdSFBitMaskWidget::addBox(const QString& name)
     m_boxes.push_back(box);
 }
 
-// A name of several bits is checked already when one of them is set; that is meant.
+// A name of several bits is checked already when one of them is set (decisions.md: bit-mask-partial).
 void EdSFBitMaskWidget::checkBoxes(const SoSFBitMask& field)
 {
     for (QCheckBox* box : m_boxes)
@@ -99,7 +99,7 @@ void EdSFBitMaskWidget::refresh()
 
 void EdSFBitMaskWidget::applyChanges() {}
 
-// Bits that no box stands for are lost; that is meant.
+// Bits that no box stands for are lost (decisions.md: bit-mask-unnamed-bits).
 void EdSFBitMaskWidget::setBitMaskValue()
 {
     auto* field = getFieldAs<SoSFBitMask>();
@@ -110,6 +110,6 @@ void EdSFBitMaskWidget::setBitMaskValue()
         if (box->isChecked())
             value |= valueOf(*field, box->text());
     }
-    m_shown = value; // the boxes stay as the person left them
+    m_shown = value; // the boxes stay as the user left them
     field->SoSFEnum::setValue(value);
 }

@@ -26,7 +26,7 @@ void EdSFLineWidget::load()
     using Line = EdSFLineWidget;
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &Line::setFocusLeaveEvent);
     connect(m_lineEdit, &QLineEdit::returnPressed, this, qOverload<>(&Line::applyChanges));
-    // Both: each keystroke is applied twice, which is meant.
+    // Both: each keystroke is applied twice (decisions.md: line-applied-twice).
     connect(m_lineEdit, &QLineEdit::textChanged, this, qOverload<const QString&>(&Line::applyChanges));
     connect(m_lineEdit, &QLineEdit::textEdited, this, qOverload<const QString&>(&Line::applyChanges));
     connect(m_lineEdit, &QLineEdit::cursorPositionChanged, this, &Line::setCursorPosition);

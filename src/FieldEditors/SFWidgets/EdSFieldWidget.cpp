@@ -40,7 +40,7 @@ EdSFieldWidget::EdSFieldWidget(SFFrameType frameType, const char* name)
 
 EdSFieldWidget::~EdSFieldWidget()
 {
-    // An input that loses the focus while the container goes must not apply anything.
+    // An input that loses the focus while the container is destroyed must not apply anything.
     delete m_slider;
     if (QFrame* container = getWidgetContainer()) {
         const QList<QWidget*> inputs = container->findChildren<QWidget*>();

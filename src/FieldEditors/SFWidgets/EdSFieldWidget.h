@@ -36,7 +36,7 @@ public:
     explicit EdSFieldWidget(SFFrameType frameType, const char* name = nullptr);
     ~EdSFieldWidget() override;
 
-    /// Subclasses then add their inputs to editLayout(). Loading again builds all inputs anew.
+    /// Subclasses then add their inputs to editLayout(). Loading again builds all inputs again.
     void load() override;
     void setField(SoField* field) override;
     /// Subclasses show the field's value first.
