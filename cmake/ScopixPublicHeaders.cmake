@@ -27,7 +27,7 @@ set(SCOPIX_XSG_HEADERS
   SoTimedSensor.h SoTimerSensor.h
   # Nodes
   NodeText.h SoGeometry.h SoInfo.h SoMFNode.h SoNode.h SoSFNode.h SoState.h SoTimeSource.h
-  GroupExtension.h SoGroup.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
+  SoGroup.h SoGroupExtension.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
   SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
   SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h
   SoSolid.h SoSphere.h SoTriangleSet.h SoTriangleStripSet.h SoVertexShape.h
