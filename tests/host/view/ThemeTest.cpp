@@ -122,8 +122,8 @@ TEST_F(ThemeOfAWindow, AnEmbeddedHostChangesNothingOfTheApplication)
     const auto stateOfApplication = [] {
         return std::make_tuple(QApplication::palette(), QApplication::font(),
                                std::string(QApplication::style()->metaObject()->className()),
-                               QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps),
-                               qApp->styleSheet(), QApplication::applicationName(), QLocale(),
+                               QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps), qApp->styleSheet(),
+                               QApplication::applicationName(), QLocale(),
                                QProcessEnvironment::systemEnvironment().toStringList());
     };
     const auto before = stateOfApplication();
