@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/HostSession.h"
 
+#include "plugins/NoPluginsNotice.h"
 #include "plugins/PluginSearchPath.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
@@ -58,7 +59,7 @@ HostSession::~HostSession()
 
 void HostSession::loadStandardPlugins()
 {
-    for (const QString& path : PluginSearchPath::findAll())
+    for (const QString& path : PluginSearchPath().findAll())
         m_plugins.loadPlugin(path);
 }
 
@@ -101,6 +102,8 @@ void HostSession::loadPlugins(const CommandLine& line)
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
+    if (m_plugins.pluginNames().isEmpty())
+        new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }
 
 void HostSession::openFinished()

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginLibrary.h"
 
+#include "plugins/PluginNote.h"
 #include "support/CatchExceptions.h"
 
 #include <scopix/SpxPlugin.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 namespace scopix
@@ -19,17 +21,17 @@ QString tr(const char* text)
     return QCoreApplication::translate("PluginLibrary", text);
 }
 
-// What can be told without asking the linker, whose words are for programmers.
+// What can be said before the library is loaded, which runs its initialisers.
 QString whyNoLibrary(const QString& path)
 {
-    const QFileInfo file(path);
-    if (!file.exists())
+    if (!QFileInfo::exists(path))
         return tr("there is no such file");
-    if (file.isDir())
+    if (QFileInfo(path).isDir())
         return tr("it is a folder, and a plug-in library was expected");
-    if (!file.isReadable())
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         return tr("the file may not be read");
-    return {};
+    return whyNotLoadable(file);
 }
 
 template <class Function>

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "LightAim.h"
 
+#include <scopix/SpxPluginNote.h>
+
 #include <memory>
+
+SPX_PLUGIN_NOTE("LightAim", "1.0.0")
 
 namespace
 {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PluginParts.h"
 
-#include "plugins/PluginSearchPath.h"
-
 #include <scopix/SpxCommand.h>
 #include <scopix/SpxExtension.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -150,6 +148,20 @@ INSTANTIATE_TEST_SUITE_P(Cases, BadPluginTest,
                                            BadPlugin{testPlugin("LoadFalse"), "cannot be used"},
                                            BadPlugin{testPlugin("LoadThrows"), "no licence"}));
 
+TEST(PluginForAnotherVersion, IsRefusedBeforeItsCodeRuns)
+{
+    PluginHost host;
+    qunsetenv("TEST_PLUGIN_RAN");
+    EXPECT_FALSE(host.manager.loadPlugin(testPlugin("OtherContract")));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("TEST_PLUGIN_RAN"));
+    EXPECT_EQ(host.failures,
+              QStringList("The plug-in “" + testPlugin("OtherContract") +
+                          "” was not loaded: it was made for version 2 of the plug-in interface, this "
+                          "program has version 1."));
+    EXPECT_TRUE(host.manager.loadPlugin(testPlugin("Other")));
+    EXPECT_TRUE(qEnvironmentVariableIsSet("TEST_PLUGIN_RAN")) << "a trace that nothing leaves shows nothing";
+}
+
 TEST(BadExtensions, AreToldOneByOneAndLeaveNothingBehind)
 {
     PluginHost host;
@@ -172,20 +184,6 @@ TEST(BadExtensions, AreToldOneByOneAndLeaveNothingBehind)
     EXPECT_EQ(host.failures.size(), 5);
     EXPECT_FALSE(host.window.findChild<QDockWidget*>("InDeactivate"));
     EXPECT_FALSE(isMapped(testPlugin("BadExtensions")));
-}
-
-TEST(PluginFoldersTest, FindsThePluginBesideTheProgramAndInTheUsersFolder)
-{
-    QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    ASSERT_TRUE(QDir().mkpath(PluginSearchPath::ofUser()));
-    const QString mine = PluginSearchPath::ofUser() + "/mine.so";
-    ASSERT_TRUE(QFile::copy(testPlugin("Good"), mine));
-    const QStringList found = PluginSearchPath::findAll();
-    EXPECT_TRUE(found.contains(QDir::cleanPath(SCOPIX_PLUGIN))) << found.join(' ').toStdString();
-    EXPECT_EQ(found.last(), mine);
-    for (const QString& path : found)
-        EXPECT_FALSE(path.contains("libScopixHost")) << path.toStdString();
 }
 
 } // namespace
