@@ -5,6 +5,8 @@
 #include <xsg/fields/SoSFImage.h>
 #include <xsg/fields/SoSFString.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace scopix

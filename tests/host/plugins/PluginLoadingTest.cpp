@@ -155,8 +155,8 @@ TEST(PluginForAnotherVersion, IsRefusedBeforeItsCodeRuns)
     EXPECT_FALSE(host.manager.loadPlugin(testPlugin("OtherContract")));
     EXPECT_FALSE(qEnvironmentVariableIsSet("TEST_PLUGIN_RAN"));
     EXPECT_EQ(host.failures,
-              QStringList("The plug-in \"" + testPlugin("OtherContract") +
-                          "\" was not loaded: it was made for version 2 of the plug-in interface, this "
+              QStringList("The plug-in “" + testPlugin("OtherContract") +
+                          "” was not loaded: it was made for version 2 of the plug-in interface, this "
                           "program has version 1."));
     EXPECT_TRUE(host.manager.loadPlugin(testPlugin("Other")));
     EXPECT_TRUE(qEnvironmentVariableIsSet("TEST_PLUGIN_RAN")) << "a trace that nothing leaves shows nothing";

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The look of the host's window, beside windows of an application that it is embedded in.
 #include "theme/Theme.h"
-#include "app/HostApplication.h"
+#include "app/HostSession.h"
 #include "window/MainWindow.h"
 
 #include <xsg/support/SoPreferences.h>
@@ -128,7 +128,7 @@ TEST_F(ThemeOfAWindow, AnEmbeddedHostChangesNothingOfTheApplication)
     };
     const auto before = stateOfApplication();
     {
-        HostApplication host([](HostServices& services, UserNotifier& notifier) {
+        HostSession host([](HostServices& services, UserNotifier& notifier) {
             return std::make_unique<MainWindow>(services, notifier);
         });
         CommandLine line;
