@@ -3,7 +3,7 @@
 
 set(SCOPIX_XSG_HEADERS
   # Plain values and their texts
-  SbBox.h SbMatrix.h SbName.h SbPlane.h SbRay.h SbRotation.h SbString.h SbTime.h SbVec.h ValueText.h XsgExport.h
+  SbBox.h SbMatrix.h SbName.h SbPlane.h SbRay.h SbRotation.h SbString.h SbTime.h SbVec.h SbValueText.h XsgExport.h
   # Run-time types
   SoType.h SoTyped.h SoTypedImpl.h SoTypedObject.h
   # Errors
@@ -13,7 +13,7 @@ set(SCOPIX_XSG_HEADERS
   # Preferences, memory
   SoPreferences.h XsgMalloc.h
   # Fields and what holds them
-  ChangeListener.h SoField.h SoFieldContainer.h SoFieldData.h SoMField.h SoNotification.h SoSField.h
+  SoChangeListener.h SoField.h SoFieldContainer.h SoFieldData.h SoMField.h SoNotification.h SoSField.h
   # The types of fields
   SoEnumTable.h SoMFBitMask.h SoMFBool.h SoMFBox3f.h SoMFColor.h SoMFDouble.h SoMFEnum.h SoMFFloat.h
   SoMFInt32.h SoMFMatrix.h SoMFName.h SoMFPlane.h SoMFRotation.h SoMFShort.h SoMFString.h SoMFTime.h
@@ -26,7 +26,7 @@ set(SCOPIX_XSG_HEADERS
   SoAlarmSensor.h SoDataSensor.h SoFieldSensor.h SoIdleSensor.h SoNodeSensor.h SoSensor.h SoSensorQueue.h
   SoTimedSensor.h SoTimerSensor.h
   # Nodes
-  NodeText.h SoGeometry.h SoInfo.h SoMFNode.h SoNode.h SoSFNode.h SoState.h SoTimeSource.h
+  SoNodeText.h SoGeometry.h SoInfo.h SoMFNode.h SoNode.h SoSFNode.h SoState.h SoTimeSource.h
   SoGroup.h SoGroupExtension.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
   SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
   SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h

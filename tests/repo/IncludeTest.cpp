@@ -97,16 +97,26 @@ bool isQt(const std::string& target)
     return std::regex_search(target, pattern);
 }
 
-// The levels of a library from the bottom up, as its CMakeLists.txt lists them.
-std::vector<std::string> levelsOf(const std::string& folder)
+std::string buildFileOf(const std::string& folder)
 {
     std::ifstream stream(root() / folder / "CMakeLists.txt");
-    const std::string text((std::istreambuf_iterator<char>(stream)), {});
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// Each level of a library, from the bottom up, as its build file declares them.
+std::vector<std::string> levelsOf(const std::string& folder)
+{
+    const std::string text = buildFileOf(folder);
     std::smatch match;
-    if (!std::regex_search(text, match, std::regex(R"(set\(levels\s+([^)]*)\))")))
-        return {};
-    std::istringstream list(match[1]);
-    return {std::istream_iterator<std::string>(list), {}};
+    if (std::regex_search(text, match, std::regex(R"(set\(levels\s+([^)]*)\))"))) {
+        std::istringstream list(match[1]);
+        return {std::istream_iterator<std::string>(list), {}};
+    }
+    const std::regex declared(R"(scopix_add_level\(\w+ (\w+))");
+    std::vector<std::string> levels;
+    for (std::sregex_iterator it(text.begin(), text.end(), declared), end; it != end; ++it)
+        levels.push_back((*it)[1]);
+    return levels;
 }
 
 // "fields" of "xsg/fields/SoSFFloat.h"
@@ -197,5 +207,24 @@ TEST(SceneGraph, EachLevelIncludesOnlyItselfAndThoseBelow)
         }
     }
     for (const fs::path& file : sourcesIn("xsg"))
+        EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
+}
+
+// Headers of the host are included by their level: "undo/UndoHistory.h".
+TEST(Host, EachLevelIncludesOnlyItselfAndThoseBelow)
+{
+    const std::vector<std::string> levels = levelsOf("host");
+    ASSERT_GT(levels.size(), 10U);
+    std::set<std::string> seen;
+    for (const std::string& level : levels) {
+        seen.insert(level);
+        for (const Include& include : includesIn("host/" + level)) {
+            if (include.quoted && !isGenerated(include.target)) {
+                EXPECT_TRUE(seen.count(include.target.substr(0, include.target.find('/')))) << include;
+            }
+        }
+    }
+    seen.insert("reader"); // a program of its own
+    for (const fs::path& file : sourcesIn("host"))
         EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
 }

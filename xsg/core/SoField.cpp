@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/core/SoField.h>
 
-#include <xsg/core/ChangeListener.h>
+#include <xsg/core/SoChangeListener.h>
 #include <xsg/core/Context.h>
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/counters/LibraryCounters.h>
@@ -213,7 +213,7 @@ void SoField::notifyOwnListeners(int start, int count)
     change.start = start;
     change.count = count;
     if (m_listeners) {
-        for (xsg::ChangeListener* sensor : m_listeners->sensors)
+        for (SoChangeListener* sensor : m_listeners->sensors)
             sensor->changed(change);
     }
     if (m_container) {
@@ -243,12 +243,12 @@ SoField::Listeners& SoField::listeners()
     return *m_listeners;
 }
 
-void SoField::addListener(xsg::ChangeListener* listener)
+void SoField::addListener(SoChangeListener* listener)
 {
     listeners().sensors.push_back(listener);
 }
 
-void SoField::removeListener(xsg::ChangeListener* listener)
+void SoField::removeListener(SoChangeListener* listener)
 {
     auto& all = listeners().sensors;
     all.erase(std::remove(all.begin(), all.end(), listener), all.end());

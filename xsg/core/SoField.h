@@ -10,11 +10,8 @@
 #include <string_view>
 #include <vector>
 
+class SoChangeListener;
 class SoFieldContainer;
-namespace xsg
-{
-class ChangeListener;
-} // namespace xsg
 
 /// A value of a node: readable and writable as text, watched by sensors, and able to follow another field.
 /// A field with an owner belongs to it; one without stands alone. Belongs to the graph's thread.
@@ -77,8 +74,8 @@ public:
     std::uint32_t getChangeCount() const { return m_changeCount; }
 
     /// For sensors. The field calls its listeners with every change and when it is destroyed.
-    void addListener(xsg::ChangeListener* listener);
-    void removeListener(xsg::ChangeListener* listener);
+    void addListener(SoChangeListener* listener);
+    void removeListener(SoChangeListener* listener);
     /// For sensors that keep a pointer to the field that triggered them: its end is then reported to their
     /// level.
     void markAsTrigger() { m_isTrigger = true; }
@@ -119,7 +116,7 @@ private:
     friend class SoFieldData;
     friend class SoFieldContainer;
     struct Listeners {
-        std::vector<xsg::ChangeListener*> sensors;
+        std::vector<SoChangeListener*> sensors;
         std::vector<SoField*> dependents;
     };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/core/SoFieldContainer.h>
 
-#include <xsg/core/ChangeListener.h>
+#include <xsg/core/SoChangeListener.h>
 #include <xsg/core/Context.h>
 #include <xsg/core/SoField.h>
 #include <xsg/types/SoTypedImpl.h>
@@ -93,7 +93,7 @@ void SoFieldContainer::notify(const SoNotification& change)
 {
     if (!m_sensors)
         return;
-    for (xsg::ChangeListener* sensor : *m_sensors)
+    for (SoChangeListener* sensor : *m_sensors)
         sensor->changed(change);
 }
 
@@ -114,14 +114,14 @@ void SoFieldContainer::removeDyingCallback(DyingCallback callback, void* data)
     listeners.erase(std::remove_if(listeners.begin(), listeners.end(), is), listeners.end());
 }
 
-void SoFieldContainer::addListener(xsg::ChangeListener* listener)
+void SoFieldContainer::addListener(SoChangeListener* listener)
 {
     if (!m_sensors)
-        m_sensors = std::make_unique<std::vector<xsg::ChangeListener*>>();
+        m_sensors = std::make_unique<std::vector<SoChangeListener*>>();
     m_sensors->push_back(listener);
 }
 
-void SoFieldContainer::removeListener(xsg::ChangeListener* listener)
+void SoFieldContainer::removeListener(SoChangeListener* listener)
 {
     if (m_sensors)
         m_sensors->erase(std::remove(m_sensors->begin(), m_sensors->end(), listener), m_sensors->end());

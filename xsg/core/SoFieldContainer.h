@@ -9,11 +9,8 @@
 #include <utility>
 #include <vector>
 
+class SoChangeListener;
 class SoField;
-namespace xsg
-{
-class ChangeListener;
-} // namespace xsg
 
 /// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones
 /// start at 0 and are destroyed with the last reference. Belongs to the graph's thread.
@@ -53,8 +50,8 @@ public:
     virtual void notify(const SoNotification& change);
 
     /// For sensors. The container calls its listeners with every change and when it is destroyed.
-    void addListener(xsg::ChangeListener* listener);
-    void removeListener(xsg::ChangeListener* listener);
+    void addListener(SoChangeListener* listener);
+    void removeListener(SoChangeListener* listener);
 
     /// `callback` is called for every container right before it is destroyed, while its fields still exist.
     using DyingCallback = void (*)(void* data, SoFieldContainer* dying);
@@ -74,7 +71,7 @@ private:
     void finalize() const;
 
     SoFieldData m_fields;
-    std::unique_ptr<std::vector<xsg::ChangeListener*>> m_sensors;
+    std::unique_ptr<std::vector<SoChangeListener*>> m_sensors;
     SbName m_name;
     std::uint32_t m_fieldChangeCount = 0;
     mutable int m_refCount = 0;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <xsg/fields/SoEnumTable.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 namespace xsg
 {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <xsg/values/ValueNumbers.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <vector>
 

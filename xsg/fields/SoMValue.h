@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/core/SoMField.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <initializer_list>
 #include <vector>

@@ -2,7 +2,7 @@
 #include <xsg/fields/SoSFImage.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 template class SoTyped<SoSFImage, SoSField>;
 

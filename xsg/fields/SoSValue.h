@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/core/SoSField.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 /// The template behind every single-value field whose value is a plain type with an xsg::ValueText.
 ///

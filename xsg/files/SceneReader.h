@@ -3,7 +3,7 @@
 
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <string>
 #include <string_view>

@@ -5,7 +5,7 @@
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <algorithm>
 #include <cmath>

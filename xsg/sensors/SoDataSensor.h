@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/core/ChangeListener.h>
+#include <xsg/core/SoChangeListener.h>
 #include <xsg/sensors/SoSensor.h>
 
 class SoField;
 class SoFieldContainer;
 
 /// A sensor that watches a field or a container.
-class XSG_API SoDataSensor : public SoSensor, private xsg::ChangeListener
+class XSG_API SoDataSensor : public SoSensor, private SoChangeListener
 {
 public:
     using SoSensor::SoSensor;

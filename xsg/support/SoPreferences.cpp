@@ -2,7 +2,7 @@
 #include <xsg/support/SoPreferences.h>
 
 #include <xsg/errors/SoDebugError.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <cstdlib>
 #include <map>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <xsg/core/ChangeListener.h>
+#include <xsg/core/SoChangeListener.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
@@ -38,7 +38,7 @@ void expectAccessByIndex(const SoUnknownNode* node, int count)
     EXPECT_EQ(data->getIndex(node, nullptr), -1);
 }
 
-struct Listener final : xsg::ChangeListener {
+struct Listener final : SoChangeListener {
     explicit Listener(SoFieldContainer* subject)
         : container(subject)
     {

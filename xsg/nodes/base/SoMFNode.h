@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/fields/SoMValue.h>
-#include <xsg/nodes/base/NodeText.h>
+#include <xsg/nodes/base/SoNodeText.h>
 
 /// Any number of values, each a reference to a node, or to none. The field keeps the nodes alive.
 class XSG_API SoMFNode : public SoTyped<SoMFNode, SoMValue<SoRef<SoNode>>>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/fields/SoSValue.h>
-#include <xsg/nodes/base/NodeText.h>
+#include <xsg/nodes/base/SoNodeText.h>
 
 /// A reference to a node, or to none. The field keeps the node alive; a node that refers to one of its own
 /// ancestors keeps both alive for ever.

@@ -2,7 +2,7 @@
 #include <xsg/nodes/base/SoUnknownField.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 template class SoTyped<SoUnknownField, SoSField>;
 

@@ -4,12 +4,9 @@
 #include <xsg/core/SoNotification.h>
 #include <xsg/values/XsgExport.h>
 
-namespace xsg
-{
-
 /// What a field or a container calls when it changes. A listener adds itself, is not owned, and must take
 /// itself out before it is destroyed. Belongs to the graph's thread.
-class XSG_API ChangeListener
+class XSG_API SoChangeListener
 {
 public:
     /// Called in the middle of the change: nothing may be written here, and no listener added or removed.
@@ -18,7 +15,5 @@ public:
     virtual void subjectDestroyed() = 0;
 
 protected:
-    ~ChangeListener() = default;
+    ~SoChangeListener() = default;
 };
-
-} // namespace xsg

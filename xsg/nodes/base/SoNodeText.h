@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 namespace xsg
 {

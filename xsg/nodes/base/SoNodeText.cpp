@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/nodes/base/NodeText.h>
+#include <xsg/nodes/base/SoNodeText.h>
 
 namespace
 {

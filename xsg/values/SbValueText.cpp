@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/values/ValueText.h>
+#include <xsg/values/SbValueText.h>
 
 #include <xsg/values/Utf.h>
 
