@@ -68,7 +68,7 @@ private:
     HostPluginsManager m_plugins;
     UndoShortcutFilter m_undoShortcuts;
     std::optional<CommandLine> m_asked; // until its file has been opened
-    bool m_keepsLayout = false; // a user works with the window
+    bool m_keepsLayout = false;         // a user works with the window
     int m_status = 0;
 };
 

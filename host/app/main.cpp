@@ -63,7 +63,7 @@ int main(int argc, char** argv)
     int noOptions = 1;                       // "--plugin" means something else to Qt
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // icons in the density of the screen
-    QApplication::setStyle(QStringLiteral("Fusion"));         // what the window would set for each of its widgets
+    QApplication::setStyle(QStringLiteral("Fusion")); // what the window would set for each of its widgets
     QApplication application(noOptions, argv);
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/core/SoFieldContainer.h>
 
-#include <xsg/core/SoChangeListener.h>
 #include <xsg/core/Context.h>
+#include <xsg/core/SoChangeListener.h>
 #include <xsg/core/SoField.h>
 #include <xsg/types/SoTypedImpl.h>
 

@@ -3,8 +3,8 @@
 // {fmt} the separators of vectors in lists would still be placed here.
 #pragma once
 
-#include <xsg/values/ValueNumbers.h>
 #include <xsg/values/SbValueText.h>
+#include <xsg/values/ValueNumbers.h>
 
 #include <vector>
 
