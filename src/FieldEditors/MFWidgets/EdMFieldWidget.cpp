@@ -63,6 +63,7 @@ void EdMFieldWidget::load()
 {
     SpxFieldEditors::load();
     QFrame* container = getWidgetContainer();
+    discardWidgets();
     container->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
     container->setLineWidth(setting("frameLineWidth"));
     m_globalLayout = new QGridLayout(container);
@@ -79,6 +80,8 @@ void EdMFieldWidget::load()
     m_label->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
     m_label->setLineWidth(setting("labelLineWidth"));
     m_label->setScaledContents(true);
+    m_label->setMinimumWidth(1);
+    m_label->setToolTip(m_label->text());
     m_globalLayout->addWidget(m_label, 0, 0);
     m_globalLayout->addItem(new QSpacerItem(0, 4), 1, 0);
     m_globalLayout->addItem(new QSpacerItem(6, 0), 0, 1);
@@ -90,6 +93,20 @@ void EdMFieldWidget::load()
     m_table->setAccessibleName(tr("Elements"));
     connectButtons();
     languageChange();
+}
+
+// What an earlier load() built is built again; the caption and the table stay.
+void EdMFieldWidget::discardWidgets()
+{
+    delete getWidgetContainer()->layout();
+    const QList<QWidget*> inside =
+        getWidgetContainer()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* widget : inside) {
+        if (widget != m_label && widget != m_table)
+            delete widget;
+    }
+    m_accessBox = nullptr;
+    m_labelNumElement = nullptr;
 }
 
 QPushButton* EdMFieldWidget::newButton(const char* objectName, const QPixmap& icon, int width, int height)
@@ -131,7 +148,7 @@ void EdMFieldWidget::buildButtons()
                                            setting("MFManageAccessSpacerHeight"), QSizePolicy::Expanding);
     m_buttonsLayout->addItem(m_manageAccessSpacer);
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidgetContainer(), "m_accessBox");
-    m_accessBox->setMaximumSize(setting("MFAccessWidth"), height);
+    m_accessBox->setLeastMaximumSize(setting("MFAccessWidth"), height);
     m_buttonsLayout->addWidget(m_accessBox);
     m_accessMoveSpacer = new QSpacerItem(setting("MFAccessMoveSpacerWidth"),
                                          setting("MFAccessMoveSpacerHeight"), QSizePolicy::Expanding);
@@ -140,6 +157,7 @@ void EdMFieldWidget::buildButtons()
     m_labelNumElement = new QLabel(getWidgetContainer());
     m_labelNumElement->setObjectName(QStringLiteral("m_labelNumElement"));
     updateNumElementLabel();
+    m_labelNumElement->setMinimumWidth(1); // a narrow dock cuts it; the tool tip has all of it
     m_buttonsLayout->addWidget(m_labelNumElement);
 
     m_upButton = newButton("m_upButton", m_upIcon, width, height);
@@ -199,9 +217,11 @@ void EdMFieldWidget::setFieldName(const QString& name)
 void EdMFieldWidget::updateNumElementLabel()
 {
     const SoMField* field = editedField();
-    if (field && m_labelNumElement)
-        m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
-                                   QStringLiteral(" elements") + tr("</p>"));
+    if (!field || !m_labelNumElement)
+        return;
+    m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
+                               QStringLiteral(" elements") + tr("</p>"));
+    m_labelNumElement->setToolTip(m_labelNumElement->text());
 }
 
 void EdMFieldWidget::initColumns(const QStringList& captions, int columns)
@@ -221,8 +241,9 @@ bool EdMFieldWidget::hasRow(int row) const
 
 void EdMFieldWidget::setField(SoField* field)
 {
-    if (checkField(field))
+    if (checkField(field)) {
         m_field.attach(field);
+    }
     SpxFieldEditors::setField(field);
 }
 

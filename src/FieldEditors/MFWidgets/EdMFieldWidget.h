@@ -82,6 +82,7 @@ protected:
     void initColumns(const QStringList& captions, int columns);
 
 private:
+    void discardWidgets();
     QPushButton* newButton(const char* objectName, const QPixmap& icon, int width, int height);
     QHBoxLayout* newButtonLayout(const char* objectName);
     void buildButtons();
