@@ -3,6 +3,7 @@
 
 #include "EdGridValidator.h"
 #include "EdIntSlider.h"
+#include "EdLineEdit.h"
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
@@ -11,10 +12,8 @@
 #include "EdValidators.h"
 #include "QULongValidator.h"
 
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QPainter>
-
-#include <limits>
 
 namespace
 {
@@ -48,6 +47,12 @@ QString nameOf(const QModelIndex& index)
         return element;
     return element + QStringLiteral(", ") +
            index.model()->headerData(index.column(), Qt::Horizontal).toString();
+}
+
+EdLineEdit* lineOf(QWidget* editor)
+{
+    QWidget* proxy = editor->focusProxy();
+    return qobject_cast<EdLineEdit*>(proxy ? proxy : editor);
 }
 
 bool hasSlider(int cellType)
@@ -114,13 +119,13 @@ QWidget* EdMFieldTableItemDelegate::createEditor(QWidget* parent, const QStyleOp
     return editor;
 }
 
-QLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QString& text) const
+EdLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QString& text) const
 {
-    auto* edit = new QLineEdit(parent);
+    auto* edit = new EdLineEdit(parent);
     edit->setObjectName(QStringLiteral("qt_lineeditor"));
     edit->setFrame(false);
-    edit->setMaxLength(std::numeric_limits<int>::max());
-    edit->setText(text);
+    edit->setEscapePassed(true);
+    edit->showText(text);
     setValidator(edit);
     return edit;
 }
@@ -131,6 +136,7 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
         // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
         // applied from it reaches element 0; that is meant.
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
+        slider->limitToFloat();
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
         slider->setRealValue(double(toFloatOr0(text)));
         return slider;
@@ -153,12 +159,19 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
 void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     const QString text = m_owner->getFieldValue(index.row(), componentOf(index.column()));
-    if (auto* edit = qobject_cast<QLineEdit*>(editor))
-        edit->setText(text);
-    else if (auto* real = qobject_cast<EdRealSlider*>(editor))
+    EdLineEdit* line = lineOf(editor);
+    if (!line || isTyped(editor))
+        return;
+    const bool isSelected = line->hasSelectedText() && line->selectedText() == line->text();
+    if (auto* real = qobject_cast<EdRealSlider*>(editor))
         real->setRealValue(double(toFloatOr0(text)));
     else if (auto* slider = qobject_cast<EdSlider*>(editor))
         slider->setValue(text);
+    else
+        line->showText(text);
+    // A text that is selected whole, as it is in a cell just opened, is so afterwards.
+    if (isSelected)
+        line->selectAll();
 }
 
 void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
@@ -168,16 +181,29 @@ void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
     auto* table = static_cast<EdMFieldTable*>(parent());
     if (table->cellWidget(index.row(), index.column()) != editor)
         table->removeCellWidget(index.row(), index.column());
-    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+    if (auto* edit = qobject_cast<EdLineEdit*>(editor)) {
         commit(edit, model, index);
-    else
-        QItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    if (auto* slider = qobject_cast<EdSlider*>(editor))
+        slider->changeValueFromEdit();
+    QItemDelegate::setModelData(editor, model, index);
 }
 
-void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* model,
+bool EdMFieldTableItemDelegate::isTyped(const QWidget* editor)
+{
+    if (const auto* edit = qobject_cast<const EdLineEdit*>(editor))
+        return edit->isModified() && edit->isChanged();
+    const auto* slider = qobject_cast<const EdSlider*>(editor);
+    return slider && slider->isEdited();
+}
+
+void EdMFieldTableItemDelegate::commit(EdLineEdit* edit, QAbstractItemModel* model,
                                        const QModelIndex& index) const
 {
-    if (!edit->isModified() || !m_owner->hasRow(index.row()))
+    // The text of a number that ends as it was shown stands for the value, of which it may say less.
+    const bool isNew = edit->isChanged() || m_cellType == EdMFieldTable::CELL_NONE;
+    if (!edit->isModified() || !isNew || !m_owner->hasRow(index.row()))
         return;
     QString text = edit->text();
     int position = 0;
@@ -186,6 +212,32 @@ void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* mode
     edit->setModified(false);
     m_owner->set1Value(index.row(), componentOf(index.column()), text);
     model->setData(index, text, Qt::DisplayRole);
+}
+
+bool EdMFieldTableItemDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* editor = qobject_cast<QWidget*>(watched);
+    const bool isHandled =
+        editor && event->type() == QEvent::KeyPress && handleTab(editor, *static_cast<QKeyEvent*>(event));
+    return isHandled || QItemDelegate::eventFilter(watched, event);
+}
+
+bool EdMFieldTableItemDelegate::handleTab(QWidget* editor, const QKeyEvent& event)
+{
+    const bool isNext = event.key() == Qt::Key_Tab;
+    if (!isNext && event.key() != Qt::Key_Backtab)
+        return false;
+    auto* table = static_cast<EdMFieldTable*>(parent());
+    if (event.modifiers() & Qt::ControlModifier) {
+        table->finishOpenEditor();
+        return table->leaveByTab(isNext);
+    }
+    const auto* edit = qobject_cast<EdLineEdit*>(editor);
+    if (!edit || edit->hasAcceptableInput())
+        return false;
+    // A text that cannot be taken does not hold back who goes on to the next cell.
+    emit closeEditor(editor, isNext ? EditNextItem : EditPreviousItem);
+    return true;
 }
 
 void EdMFieldTableItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

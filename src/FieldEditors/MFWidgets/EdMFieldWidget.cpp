@@ -242,6 +242,7 @@ bool EdMFieldWidget::hasRow(int row) const
 void EdMFieldWidget::setField(SoField* field)
 {
     if (checkField(field)) {
+        m_table->forgetRows();
         m_field.attach(field);
     }
     SpxFieldEditors::setField(field);
@@ -274,6 +275,7 @@ void EdMFieldWidget::refresh()
     if (!m_table || !m_refresh || !field)
         return;
     m_table->setNumRows(field->getNum());
+    m_table->followField();
     m_table->viewport()->update();
     {
         const QSignalBlocker quiet(m_ignoreButton);
@@ -312,12 +314,14 @@ bool EdMFieldWidget::checkField(SoField* /*field*/)
 
 void EdMFieldWidget::ignoreButtonStateChanged()
 {
+    m_table->finishOpenEditor();
     if (SoMField* field = editedField())
         EdFieldEdits::setIgnored(field, m_ignoreButton->isChecked());
 }
 
 void EdMFieldWidget::setDefaultFieldValue()
 {
+    m_table->finishOpenEditor();
     if (SoMField* field = editedField())
         EdFieldEdits::setToDefault(field);
 }
