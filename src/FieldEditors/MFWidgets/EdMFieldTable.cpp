@@ -16,6 +16,7 @@
 #include <xsg/core/SoMField.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 
 #include <cstdio>
@@ -214,6 +215,11 @@ void EdMFieldTable::showTableRow(int row)
 
 void EdMFieldTable::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        copyCell();
+        event->accept();
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
@@ -236,6 +242,17 @@ void EdMFieldTable::keyPressEvent(QKeyEvent* event)
         QTableWidget::keyPressEvent(event);
     }
     event->accept();
+}
+
+void EdMFieldTable::copyCell()
+{
+    if (currentIndex().isValid())
+        QApplication::clipboard()->setText(textOf(currentIndex()));
+}
+
+QString EdMFieldTable::textOf(const QModelIndex& index) const
+{
+    return m_delegate->textOf(index);
 }
 
 // Tab walks through the cells and leaves the table after the last one, back before the first.

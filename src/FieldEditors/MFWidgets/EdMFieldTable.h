@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EdTableAccessible.h"
+
 #include <QPersistentModelIndex>
 #include <QTableWidget>
 
@@ -39,6 +41,9 @@ public:
     void setBoundedValue(bool bounded);
 
     EdMFieldWidget* owner() const { return m_owner; }
+
+    /// What a cell says, for those who do not see it.
+    QString textOf(const QModelIndex& index) const;
 
     /// An empty item in the cell; cells without one are drawn and edited all the same.
     void putItem(int row, int column, Qt::ItemFlags flags);
@@ -90,12 +95,14 @@ private:
     void deleteRows(int first, int count);
     void enterMultiSelection();
     void leaveMultiSelection();
+    void copyCell();
     bool isLastCell(bool next) const;
     QWidget* openEditor() const;
     bool keepsOpen(const QWidget* editor) const;
     void takeFocusFrom(const QWidget* editor);
     QStringList textsAround(int row) const;
 
+    EdTableAccessibility m_accessibility;
     EdMFieldWidget* m_owner;
     EdMFieldTableItemDelegate* m_delegate = nullptr;
     ProportionalColumns* m_columns = nullptr;

@@ -190,6 +190,11 @@ void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
     QItemDelegate::setModelData(editor, model, index);
 }
 
+QString EdMFieldTableItemDelegate::textOf(const QModelIndex& index) const
+{
+    return m_owner->getFieldValue(index.row(), componentOf(index.column()));
+}
+
 bool EdMFieldTableItemDelegate::isTyped(const QWidget* editor)
 {
     if (const auto* edit = qobject_cast<const EdLineEdit*>(editor))

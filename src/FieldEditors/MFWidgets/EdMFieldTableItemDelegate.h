@@ -35,6 +35,8 @@ public:
 
     virtual void setValidator(QLineEdit* edit) const;
 
+    /// The text of a cell for those who do not see it: as the field gives it now.
+    virtual QString textOf(const QModelIndex& index) const;
     /// Whether a cell's editor holds what was typed and not applied.
     static bool isTyped(const QWidget* editor);
 
