@@ -2,7 +2,7 @@
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
-#include "CurrentRowHeader.h"
+#include "CurrentCellHeader.h"
 #include "EdFieldEdits.h"
 #include "EdMFieldTableItemDelegate.h"
 #include "EdMFieldWidget.h"
@@ -32,7 +32,8 @@ EdMFieldTable::EdMFieldTable(EdMFieldWidget* owner, QWidget* parent, const char*
 void EdMFieldTable::initClass()
 {
     installDelegate(new EdMFieldTableItemDelegate(m_owner, this));
-    setVerticalHeader(new CurrentRowHeader(this));
+    setVerticalHeader(new CurrentCellHeader(Qt::Vertical, this));
+    setHorizontalHeader(new CurrentCellHeader(Qt::Horizontal, this));
     m_columns = new ProportionalColumns(this);
     // Always there, so that the columns do not jump when a row too many comes.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

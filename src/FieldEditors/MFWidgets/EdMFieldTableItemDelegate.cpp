@@ -14,6 +14,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTextBoundaryFinder>
 
 namespace
 {
@@ -34,9 +35,24 @@ QString shortened(const QString& text, const QFontMetrics& metrics, int width)
 {
     const QString dots = QStringLiteral("...");
     int kept = 0;
-    while (kept < text.size() && metrics.horizontalAdvance(dots + text.left(kept + 1)) < width)
-        ++kept;
-    return text.left(std::max(kept, 1)) + dots;
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+    int next = characters.toNextBoundary();
+    const int first = std::max(next, 0);
+    while (next > kept && metrics.horizontalAdvance(dots + text.left(next)) < width) {
+        kept = next;
+        next = characters.toNextBoundary();
+    }
+    return text.left(std::max(kept, first)) + dots;
+}
+
+// A cell is one line high: what begins a new line is drawn as a blank.
+QString inOneLine(QString text)
+{
+    for (QChar& character : text) {
+        if (character.isSpace())
+            character = QLatin1Char(' ');
+    }
+    return text;
 }
 
 // For those who do not see where the cell is: "Element 2, x".
@@ -91,7 +107,8 @@ void EdMFieldTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewI
     if (selected)
         painter->fillRect(option.rect, option.palette.highlight());
     const int width = option.rect.width() - TextMargin;
-    QString text = m_owner->getCellText(index.row(), componentOf(index.column()), longestShown(width));
+    QString text =
+        inOneLine(m_owner->getCellText(index.row(), componentOf(index.column()), longestShown(width)));
     const QFontMetrics metrics = painter->fontMetrics();
     if (metrics.horizontalAdvance(text) > width)
         text = shortened(text, metrics, width);
@@ -114,6 +131,7 @@ QWidget* EdMFieldTableItemDelegate::createEditor(QWidget* parent, const QStyleOp
         editor = createSlider(parent, index.row(), text);
     else
         editor = createLineEdit(parent, text);
+    editor->setAutoFillBackground(true); // the cell's own text does not show through
     editor->setFocusPolicy(Qt::WheelFocus);
     editor->setAccessibleName(nameOf(index));
     return editor;
