@@ -18,6 +18,8 @@
 #include <QScreen>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -47,7 +49,9 @@ void EdTablePopupWidget::load()
     m_editButton->setAccessibleName(m_editButton->toolTip());
     m_editButton->setFocusPolicy(Qt::NoFocus);
     buttonsLayout()->insertWidget(EditButtonPosition, m_editButton);
-    accessMoveSpacer()->changeSize(xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) - width,
+    // The button takes its width from the space before it; less than none would lay it over the access box.
+    const int space = xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) - width;
+    accessMoveSpacer()->changeSize(std::max(space, 0),
                                    xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerHeight")),
                                    QSizePolicy::Expanding);
     buttonsLayout()->invalidate();

@@ -55,8 +55,11 @@ TYPED_TEST(Look, TheSmallestWidthFitsIntoANarrowDock)
     EXPECT_LE(editor->minimumSizeHint().width(), NarrowDock);
     editor->resize(NarrowDock, 160);
     TestHost::pump();
-    for (const auto* button : editor->template findChildren<QPushButton*>())
+    for (const auto* button : editor->template findChildren<QPushButton*>()) {
         EXPECT_TRUE(editor->rect().contains(button->geometry())) << button->objectName().toStdString();
+        EXPECT_FALSE(button->geometry().intersects(this->f.box().geometry()))
+            << button->objectName().toStdString();
+    }
     EXPECT_TRUE(this->f.editor.getWidgetContainer()
                     ->template findChild<QLabel*>("m_labelNumElement")
                     ->toolTip()
