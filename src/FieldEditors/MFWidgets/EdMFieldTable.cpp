@@ -270,7 +270,8 @@ bool EdMFieldTable::focusNextPrevChild(bool next)
 
 bool EdMFieldTable::leaveByTab(bool next)
 {
-    return QAbstractScrollArea::focusNextPrevChild(next);
+    // The view's own would go on to the next cell.
+    return QAbstractScrollArea::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool EdMFieldTable::isLastCell(bool next) const
