@@ -3,9 +3,9 @@
 
 #include "CounterXml.h"
 #include "CustomCounter.h"
-#include "EdText.h"
 #include "SoPerfCounterProfile.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/support/SoPreferences.h>
 
@@ -100,17 +100,17 @@ void readCounter(const QDomElement& element)
 void appendCounter(QDomElement parent, const SoPerfCounter& counter)
 {
     QDomElement element = parent.ownerDocument().createElement(Counter);
-    element.setAttribute(Name, toQString(counter.getName()));
-    element.setAttribute(Type, toQString(counter.getTypeCode()));
+    element.setAttribute(Name, SpxText::toQString(counter.getName()));
+    element.setAttribute(Type, SpxText::toQString(counter.getTypeCode()));
     const auto text = [&](const char* name, const QString& value) {
         appendText(element, QLatin1String(name), value);
     };
-    text("description", toQString(counter.getDescription()));
-    text("module", toQString(counter.getModule()));
+    text("description", SpxText::toQString(counter.getDescription()));
+    text("module", SpxText::toQString(counter.getModule()));
     text("level", QString::number(int(counter.getLevel())));
-    text("firstparent", toQString(counter.getFirstParent()));
-    text("secondparent", toQString(counter.getSecondParent()));
-    text("operation", toQString(counter.getOperation()));
+    text("firstparent", SpxText::toQString(counter.getFirstParent()));
+    text("secondparent", SpxText::toQString(counter.getSecondParent()));
+    text("operation", SpxText::toQString(counter.getOperation()));
     parent.appendChild(element);
 }
 
@@ -119,7 +119,7 @@ void appendCounter(QDomElement parent, const SoPerfCounter& counter)
 QString defaultPath()
 {
     const SbString home = SoPreferences::getString("XSGHOME", "");
-    return toQString(home) + QStringLiteral("/data/Scopix/PerfCounter.xml");
+    return SpxText::toQString(home) + QStringLiteral("/data/Scopix/PerfCounter.xml");
 }
 
 QString dialogFilter()

@@ -30,10 +30,10 @@ bool parse(QIODevice* device, QDomDocument& document, QString& problem);
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
 /// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-/// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if
-/// anything.
+/// Opens the file of this name again and lets `write` fill it; says in a box over `parent` what went wrong,
+/// if anything.
 bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write);
-/// Starts an empty document afresh and saves it to the device.
+/// Makes the document empty again and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 
 /// Registers the custom counters of the document. A counter whose name is taken is left alone.

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CustomCounter.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 
 SbName toCounterName(const QString& text)
@@ -13,8 +12,8 @@ SbName toCounterName(const QString& text)
 bool CustomCounter::registerIt() const
 {
     const SbName counterName = toCounterName(name);
-    const SbString text = toSbString(description);
-    const SbString moduleName = toSbString(module);
+    const SbString text = SpxText::toSbString(description);
+    const SbString moduleName = SpxText::toSbString(module);
     std::unique_ptr<SoPerfCounter> counter;
     if (isAccumulation)
         counter = std::make_unique<SoPerfAccumCounter>(counterName, text, moduleName, level, true);
@@ -25,6 +24,6 @@ bool CustomCounter::registerIt() const
     SoPerfCounter* registered = counter.release();
     registered->setFirstParent(toCounterName(firstParent));
     registered->setSecondParent(toCounterName(secondParent));
-    registered->setOperation(toSbString(operation));
+    registered->setOperation(SpxText::toSbString(operation));
     return true;
 }

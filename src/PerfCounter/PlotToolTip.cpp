@@ -18,7 +18,7 @@ PlotToolTip::PlotToolTip(QwtPlot* plot, TextAt textAt)
 
 QString PlotToolTip::textOf(const QString& counter, double value)
 {
-    return QStringLiteral("%1: %2").arg(beginningOf(counter, LongestInLine), QString::number(value, 'g', 6));
+    return QStringLiteral("%1: %2").arg(beginningOf(counter, LongestInLine), numberText(value));
 }
 
 bool PlotToolTip::eventFilter(QObject* canvas, QEvent* event)

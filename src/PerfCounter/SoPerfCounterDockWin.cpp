@@ -76,7 +76,7 @@ void SoPerfCounterDockWin::openDefaultFile()
         QMessageBox::warning(this, tr("DOM Bookmarks"),
                              tr("Cannot read file %1:\n%2.").arg(m_filePath, file.errorString()));
     }
-    // Read even where it could not be opened, which says so a second time; that is meant.
+    // Read even where it could not be opened (decisions.md: counters-file-read-twice).
     if (!read(&file)) {
         m_filePath.clear();
         file.close();
@@ -101,10 +101,10 @@ void SoPerfCounterDockWin::parseViewElement()
     if (m_listConfig->currentIndex() < 0)
         return;
     QString name;
-    const bool told = counterProfileFile::readViewedProfile(m_document, name);
+    const bool isNamed = counterProfileFile::readViewedProfile(m_document, name);
     const auto found =
         std::find_if(m_profiles->begin(), m_profiles->end(),
-                     [&](const SoPerfCounterProfile* p) { return told && p->getName() == name; });
+                     [&](const SoPerfCounterProfile* p) { return isNamed && p->getName() == name; });
     if (found != m_profiles->end())
         selectInComboBox(int(found - m_profiles->begin()));
     else
@@ -247,7 +247,7 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
     }
     m_viewer->setViewList(m_profiles->at(index)->getView());
     if (index == 0) {
-        // The box shows this one already and will not tell of it.
+        // The box shows this one already and will not report it.
         m_currentProfile = 0;
         setupPreSelectedList();
     }

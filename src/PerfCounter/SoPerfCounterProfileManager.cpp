@@ -44,7 +44,7 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
 
 SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
 {
-    // Where the dock goes first, the window is never closed.
+    // Where the dock is destroyed first, the window is never closed.
     undoCounterChanges();
     dropProfiles();
 }
@@ -221,7 +221,7 @@ void SoPerfCounterProfileManager::deleteProfile()
     if (!currentProfile(tr("There is no profile you can remove.")))
         return;
     const int index = m_tabProfile->currentIndex();
-    delete currentPage(); // its tab goes with it
+    delete currentPage(); // together with its tab
     delete m_profiles->takeAt(index);
 }
 
@@ -269,7 +269,7 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
             m_registry->disableCounter(counter->getName());
     }
     m_registry->removeDisabledCounters();
-    m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
+    m_tabProfile->hide(); // shown, it would lay out all tabs again for each that is added or removed
     dropProfiles();
     counterProfileFile::readCustomCounters(m_document);
     setupListCounter();
@@ -319,7 +319,7 @@ void SoPerfCounterProfileManager::okAction()
 {
     for (const SoPerfCounter* counter : m_registry->getCounters()) {
         if (!counter->isEnabled())
-            emit deletedCounter(toQString(counter->getName()));
+            emit deletedCounter(SpxText::toQString(counter->getName()));
     }
     m_registry->removeDisabledCounters();
     m_created.clear();

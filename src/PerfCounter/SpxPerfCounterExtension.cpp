@@ -81,6 +81,6 @@ void SpxPerfCounterExtension::hide()
 
 void SpxPerfCounterExtension::unload()
 {
-    // The pointer stays as it is; nobody uses it after this.
+    // The pointer stays as it is (decisions.md: counters-dock-pointer).
     delete m_dock;
 }

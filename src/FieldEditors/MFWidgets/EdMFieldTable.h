@@ -42,7 +42,7 @@ public:
 
     EdMFieldWidget* owner() const { return m_owner; }
 
-    /// What a cell says, for those who do not see it.
+    /// The text of a cell, for assistive tools and the clipboard.
     QString textOf(const QModelIndex& index) const;
 
     /// An empty item in the cell; cells without one are drawn and edited all the same.

@@ -7,10 +7,11 @@
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
-#include "EdText.h"
 #include "EdUIntSlider.h"
 #include "EdValidators.h"
 #include "QULongValidator.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -24,7 +25,7 @@ constexpr int AnyReal = 4; // the grid validator of all doubles
 constexpr int ShortestMeasured = 64;
 
 // No cell shows more characters than it has pixels: measuring a text of megabytes for each repaint would cost
-// what nobody sees.
+// what cannot be seen.
 int longestShown(int width)
 {
     return std::max(width, ShortestMeasured);
@@ -73,7 +74,7 @@ EdLineEdit* lineOf(QWidget* editor)
 
 bool hasSlider(int cellType)
 {
-    // Not for doubles, though they are numbers too; that is meant.
+    // Not for doubles, though they are numbers too (decisions.md: no-double-slider).
     return cellType == EdMFieldTable::CELL_SHORT || cellType == EdMFieldTable::CELL_USHORT ||
            cellType == EdMFieldTable::CELL_INT32 || cellType == EdMFieldTable::CELL_UINT32 ||
            cellType == EdMFieldTable::CELL_FLOAT;
@@ -152,11 +153,11 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
 {
     if (m_cellType == EdMFieldTable::CELL_FLOAT) {
         // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
-        // applied from it reaches element 0; that is meant.
+        // applied from it reaches element 0 (decisions.md: slider-first-element).
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
         slider->limitToFloat();
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
-        slider->setRealValue(double(toFloatOr0(text)));
+        slider->setRealValue(double(SpxText::toFloatOr0(text)));
         return slider;
     }
     const bool isShort = m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_USHORT;
@@ -182,7 +183,7 @@ void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
         return;
     const bool isSelected = line->hasSelectedText() && line->selectedText() == line->text();
     if (auto* real = qobject_cast<EdRealSlider*>(editor))
-        real->setRealValue(double(toFloatOr0(text)));
+        real->setRealValue(double(SpxText::toFloatOr0(text)));
     else if (auto* slider = qobject_cast<EdSlider*>(editor))
         slider->setValue(text);
     else
@@ -195,7 +196,7 @@ void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
 void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                              const QModelIndex& index) const
 {
-    // The view keeps books on the editor being committed; only a widget that somebody else put there goes.
+    // The view itself manages the editor being committed; only a widget of another origin is removed.
     auto* table = static_cast<EdMFieldTable*>(parent());
     if (table->cellWidget(index.row(), index.column()) != editor)
         table->removeCellWidget(index.row(), index.column());
@@ -258,7 +259,7 @@ bool EdMFieldTableItemDelegate::handleTab(QWidget* editor, const QKeyEvent& even
     const auto* edit = qobject_cast<EdLineEdit*>(editor);
     if (!edit || edit->hasAcceptableInput())
         return false;
-    // A text that cannot be taken does not hold back who goes on to the next cell.
+    // An unacceptable text does not keep the user from moving on to the next cell.
     emit closeEditor(editor, isNext ? EditNextItem : EditPreviousItem);
     return true;
 }
@@ -273,7 +274,7 @@ void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
 {
     switch (m_cellType) {
     case EdMFieldTable::CELL_SHORT:
-        // -32767 and not -32768; that is meant.
+        // -32767 and not -32768 (decisions.md: short-bottom).
         edit->setValidator(new EdIntValidator(-32767, 32767, edit));
         break;
     case EdMFieldTable::CELL_USHORT:
@@ -286,7 +287,7 @@ void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
         edit->setValidator(new QUIntValidator(edit));
         break;
     case EdMFieldTable::CELL_INT32:
-        // Bottom above top, so nothing is ever acceptable; that is meant.
+        // Bottom above top, so nothing is ever acceptable (decisions.md: int32-cells).
         edit->setValidator(new EdIntValidator(1, -1, edit));
         break;
     case EdMFieldTable::CELL_UINT32:

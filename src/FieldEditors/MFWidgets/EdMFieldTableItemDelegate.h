@@ -35,7 +35,7 @@ public:
 
     virtual void setValidator(QLineEdit* edit) const;
 
-    /// The text of a cell for those who do not see it: as the field gives it now.
+    /// The text of a cell as the field gives it now, for assistive tools and the clipboard.
     virtual QString textOf(const QModelIndex& index) const;
     /// Whether a cell's editor holds what was typed and not applied.
     static bool isTyped(const QWidget* editor);

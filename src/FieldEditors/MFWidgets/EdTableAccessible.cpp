@@ -102,8 +102,8 @@ private:
     int m_column;
 };
 
-// Its children are numbered as the toolkit numbers those of its own tables, which it tells of by number: row
-// by row, the headers first.
+// Its children are numbered as in Qt's own tables, since Qt's events name them by number: row by row, the
+// headers first.
 class Table : public QAccessibleWidget, public QAccessibleTableInterface
 {
 public:

@@ -219,7 +219,7 @@ TEST(LookOfCells, TheDotsSplitNoCharacter)
     // The same pictures as of a text whose characters have the same width and are one unit long.
     MultiFixture<EdMFStringWidget, SoMFString> f;
     const QString face = QString::fromUtf8("\360\237\230\200");
-    f.field.set1Value(0, toSbString(face.repeated(30)));
+    f.field.set1Value(0, SpxText::toSbString(face.repeated(30)));
     f.open();
     QStyleOptionViewItem option;
     option.palette = f.table().palette();

@@ -5,7 +5,8 @@
 #include "ListElements.h"
 #include "MultiFixture.h"
 
-#include <xsg/nodes/base/SoFieldGallery.h>
+#include <support/QtWarnings.h>
+#include <support/SoFieldGallery.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -55,27 +56,6 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_FALSE(f.table().viewport()->template findChild<QLineEdit*>());
     }
-};
-
-// Remembers the warnings of the toolkit while it lives.
-class Warnings
-{
-public:
-    Warnings() { m_before = qInstallMessageHandler(note); }
-    ~Warnings() { qInstallMessageHandler(m_before); }
-    static QStringList& all()
-    {
-        static QStringList texts;
-        return texts;
-    }
-
-private:
-    static void note(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
-    {
-        if (type != QtDebugMsg && !text.contains("propagateSizeHints"))
-            all().append(text);
-    }
-    QtMessageHandler m_before;
 };
 
 } // namespace
@@ -260,12 +240,11 @@ TYPED_TEST(OpenCell, AfterBeingUnloadedTheEditorIsLoadedAgainQuietly)
     typename TestFixture::Fixture f;
     this->show(f);
     f.host.stop(f.editor);
-    Warnings::all().clear();
     {
-        const Warnings watch;
+        const QtWarnings warnings;
         f.open();
+        EXPECT_EQ(warnings.all(), "");
     }
-    EXPECT_EQ(Warnings::all().join('\n').toStdString(), "");
     EXPECT_EQ(f.editor.getWidgetContainer()->template findChildren<QPushButton*>("m_addButton").size(), 1);
     f.click("m_addButton");
     EXPECT_EQ(f.field.getNum(), Count + 1);
@@ -343,7 +322,7 @@ TYPED_TEST(OpenSlider, WithTheFocusInItsCheckBoxClosesInOrder)
     this->template closesInOrder<QCheckBox>();
 }
 
-TYPED_TEST(OpenSlider, WhoseRowGoesElsewhereGivesTheFocusBack)
+TYPED_TEST(OpenSlider, WhoseRowIsRemovedGivesTheFocusBack)
 {
     typename TestFixture::Fixture f;
     this->template openPart<QSlider>(f);

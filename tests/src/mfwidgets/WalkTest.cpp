@@ -278,7 +278,7 @@ private:
             return false;
         }
     }
-    // The focus goes to the handle or the check box of a cell, which is then closed by a key or a button.
+    // The focus moves to the handle or the check box of a cell, which is then closed by a key or a button.
     void focusPartOfCell()
     {
         const int row = pick(m_model.count());
