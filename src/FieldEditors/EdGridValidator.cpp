@@ -31,3 +31,8 @@ void setGridValidator(QLineEdit& edit, int kind)
         break;
     }
 }
+
+bool isRealGrid(int kind)
+{
+    return kind == 3 || kind == 4;
+}

@@ -22,6 +22,27 @@ void AccessButtonPrivate::setSilentRange(int minimum, int maximum)
 {
     const QSignalBlocker quiet(this);
     setRange(minimum, maximum);
+    fitSize();
+}
+
+void AccessButtonPrivate::setLeastMaximumSize(int width, int height)
+{
+    m_leastMaximum = QSize(width, height);
+    fitSize();
+}
+
+void AccessButtonPrivate::fitSize()
+{
+    constexpr int FrameHeight = 4;
+    const QSize needed(minimumSizeHint().width(), fontMetrics().height() + FrameHeight);
+    setMaximumSize(m_leastMaximum.expandedTo(needed));
+}
+
+void AccessButtonPrivate::changeEvent(QEvent* event)
+{
+    QSpinBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitSize();
 }
 
 void AccessButtonPrivate::setNewValue(int row)

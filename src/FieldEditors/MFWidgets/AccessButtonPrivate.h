@@ -14,6 +14,8 @@ public:
 
     /// Moves the range without a signal: only what the user does in the box reaches the table.
     void setSilentRange(int minimum, int maximum);
+    /// At most so large, but never smaller than its font and its largest number need.
+    void setLeastMaximumSize(int width, int height);
 
 public slots:
     /// Shows a row of the table, which counts from 0; silent too.
@@ -22,4 +24,10 @@ public slots:
 protected:
     /// Enter shows the chosen row again even when the number did not change.
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void fitSize();
+
+    QSize m_leastMaximum{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
 };

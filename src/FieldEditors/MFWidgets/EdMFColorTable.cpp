@@ -16,7 +16,10 @@ EdMFColorTable::EdMFColorTable(EdMFieldWidget* owner, QWidget* parent, const cha
     installDelegate(new EdMFColorTableItemDelegate(owner, this));
     setCellType(CELL_FLOAT);
     setDoubleEditorRange(0.0, 1.0);
-    connect(this, &QTableWidget::cellClicked, this, &EdMFColorTable::getColorFromEditor);
+    connect(this, &QTableWidget::cellClicked, this, [this](int row, int column) {
+        if (!isPressedWithShift())
+            getColorFromEditor(row, column);
+    });
 }
 
 void EdMFColorTable::getColorFromEditor(int row, int col)

@@ -23,6 +23,16 @@ void EdMFColorTableItemDelegate::paint(QPainter* painter, const QStyleOptionView
     painter->restore();
 }
 
+QString EdMFColorTableItemDelegate::textOf(const QModelIndex& index) const
+{
+    if (index.column() != 0)
+        return EdMFieldTableItemDelegate::textOf(index);
+    QStringList numbers;
+    for (int component = 0; component < 3; ++component)
+        numbers.append(owner()->getFieldValue(index.row(), component));
+    return numbers.join(QLatin1Char(' '));
+}
+
 QWidget* EdMFColorTableItemDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                                   const QModelIndex& index) const
 {

@@ -16,6 +16,7 @@ public:
                const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
+    QString textOf(const QModelIndex& index) const override;
 
 protected:
     int componentOf(int column) const override { return column - 1; }

@@ -88,8 +88,8 @@ void EdMFMatrixWidget::set1Value(int row, int /*column*/, QString /*text*/)
     float numbers[GridSize * GridSize];
     const float* present = (*matrices())[row].getValue();
     for (const EdTablePopupLineEdit* line : lines()) {
-        numbers[line->index()] =
-            line->isUntouched() ? present[line->index()] : SpxText::toFloatOr0(line->text());
+        const bool isTaken = !line->isUntouched() && line->isNumber();
+        numbers[line->index()] = isTaken ? SpxText::toFloatOr0(line->text()) : present[line->index()];
     }
     EdFieldEdits::write1(matrices(), row, [&] { matrices()->set1Value(row, SbMatrix(numbers)); });
 }

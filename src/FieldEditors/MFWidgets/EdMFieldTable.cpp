@@ -2,19 +2,22 @@
 #include "EdMFieldTable.h"
 
 #include "AccessButtonPrivate.h"
-#include "CurrentRowHeader.h"
+#include "CurrentCellHeader.h"
 #include "EdFieldEdits.h"
 #include "EdMFieldTableItemDelegate.h"
 #include "EdMFieldWidget.h"
+#include "EdSlider.h"
 #include "ProportionalColumns.h"
 #include "SpxMFAddRowsCommand.h"
 #include "SpxMFDeleteRowsCommand.h"
 #include "SpxMFSwapRowsCommand.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
-#include <QLineEdit>
 
 #include <cstdio>
 
@@ -29,7 +32,8 @@ EdMFieldTable::EdMFieldTable(EdMFieldWidget* owner, QWidget* parent, const char*
 void EdMFieldTable::initClass()
 {
     installDelegate(new EdMFieldTableItemDelegate(m_owner, this));
-    setVerticalHeader(new CurrentRowHeader(this));
+    setVerticalHeader(new CurrentCellHeader(Qt::Vertical, this));
+    setHorizontalHeader(new CurrentCellHeader(Qt::Horizontal, this));
     m_columns = new ProportionalColumns(this);
     // Always there, so that the columns do not jump when a row too many comes.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -115,6 +119,7 @@ void EdMFieldTable::addRow()
     SoMField* field = m_owner->editedField();
     if (!field)
         return;
+    finishOpenEditor();
     const int row = currentRow();
     if (row >= field->getNum())
         return;
@@ -153,6 +158,10 @@ void EdMFieldTable::deleteRows(int first, int count)
     SoMField* field = m_owner->editedField();
     if (!field || first < 0 || count < 1 || first + count > rowCount() || first + count > field->getNum())
         return;
+    // What is typed for a deleted element is dropped with it.
+    if (openEditor() && m_editedIndex.row() >= first && m_editedIndex.row() < first + count)
+        dropOpenEditor();
+    finishOpenEditor();
     AccessButtonPrivate* box = m_owner->accessBox();
     const int left = box->maximum() - count;
     box->setSilentRange(std::min(box->minimum(), left), left);
@@ -169,6 +178,7 @@ void EdMFieldTable::swapUpRow()
     std::fprintf(stderr, "EdMFieldTable::swapUpRow() %d\n", row);
     if (row < 1 || row >= rowCount())
         return;
+    finishOpenEditor();
     swapRows(row, row - 1);
     setCurrentCell(row - 1, 0);
     m_owner->accessBox()->setNewValue(row - 1);
@@ -180,6 +190,7 @@ void EdMFieldTable::swapDownRow()
     std::fprintf(stderr, "EdMFieldTable::swapDownRow() %d\n", row);
     if (row < 0 || row >= rowCount() - 1)
         return;
+    finishOpenEditor();
     swapRows(row, row + 1);
     setCurrentCell(row + 1, 0);
     m_owner->accessBox()->setNewValue(row + 1);
@@ -205,7 +216,19 @@ void EdMFieldTable::showTableRow(int row)
 
 void EdMFieldTable::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        copyCell();
+        event->accept();
+        return;
+    }
     switch (event->key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        if (event->modifiers() & Qt::ControlModifier)
+            leaveByTab(event->key() == Qt::Key_Tab);
+        else
+            QTableWidget::keyPressEvent(event);
+        break;
     case Qt::Key_Plus:
         addRow();
         break;
@@ -214,13 +237,65 @@ void EdMFieldTable::keyPressEvent(QKeyEvent* event)
         deleteRow();
         break;
     case Qt::Key_Shift:
-        setSelectionMode(QAbstractItemView::ContiguousSelection);
-        m_multiSelection = true;
+        enterMultiSelection();
         break;
     default:
         QTableWidget::keyPressEvent(event);
     }
     event->accept();
+}
+
+void EdMFieldTable::copyCell()
+{
+    if (currentIndex().isValid())
+        QApplication::clipboard()->setText(textOf(currentIndex()));
+}
+
+QString EdMFieldTable::textOf(const QModelIndex& index) const
+{
+    return m_delegate->textOf(index);
+}
+
+// Tab walks through the cells and leaves the table after the last one, back before the first.
+bool EdMFieldTable::focusNextPrevChild(bool next)
+{
+    if (!isLastCell(next))
+        return QTableWidget::focusNextPrevChild(next);
+    if (!openEditor())
+        return leaveByTab(next);
+    finishOpenEditor();
+    setFocus();
+    return true;
+}
+
+bool EdMFieldTable::leaveByTab(bool next)
+{
+    // The view's own would go on to the next cell.
+    return QAbstractScrollArea::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
+}
+
+bool EdMFieldTable::isLastCell(bool next) const
+{
+    if (rowCount() == 0)
+        return true;
+    if (!next)
+        return currentRow() <= 0 && currentColumn() <= 0;
+    return currentRow() == rowCount() - 1 && currentColumn() == columnCount() - 1;
+}
+
+void EdMFieldTable::mousePressEvent(QMouseEvent* event)
+{
+    // Shift may have been pressed while another input had the focus.
+    m_pressedWithShift = event->modifiers() & Qt::ShiftModifier;
+    if (m_pressedWithShift)
+        enterMultiSelection();
+    QTableWidget::mousePressEvent(event);
+}
+
+void EdMFieldTable::enterMultiSelection()
+{
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    m_multiSelection = true;
 }
 
 void EdMFieldTable::keyReleaseEvent(QKeyEvent* event)
@@ -247,13 +322,24 @@ void EdMFieldTable::leaveMultiSelection()
 
 QWidget* EdMFieldTable::openEditor() const
 {
-    return state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    return m_editedIndex.isValid() ? indexWidget(m_editedIndex) : nullptr;
+}
+
+bool EdMFieldTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool isOpen = QTableWidget::edit(index, trigger, event);
+    if (isOpen && state() == EditingState && indexWidget(index)) {
+        m_editedIndex = index;
+        m_editedCount = rowsOfField();
+        m_editedTexts = textsAround(index.row());
+    }
+    return isOpen;
 }
 
 bool EdMFieldTable::hasTypedCell() const
 {
-    const auto* edit = qobject_cast<QLineEdit*>(openEditor());
-    return edit && edit->isModified();
+    const QWidget* editor = openEditor();
+    return editor && EdMFieldTableItemDelegate::isTyped(editor);
 }
 
 void EdMFieldTable::commitOpenEditor()
@@ -262,10 +348,62 @@ void EdMFieldTable::commitOpenEditor()
         commitData(editor);
 }
 
+void EdMFieldTable::finishOpenEditor()
+{
+    commitOpenEditor();
+    if (QWidget* editor = openEditor())
+        closeEditor(editor, QAbstractItemDelegate::SubmitModelCache);
+}
+
 void EdMFieldTable::dropOpenEditor()
 {
     if (QWidget* editor = openEditor())
-        QTableWidget::closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+}
+
+void EdMFieldTable::followField()
+{
+    QWidget* editor = openEditor();
+    if (!editor)
+        return;
+    const int count = rowsOfField();
+    const QStringList texts = textsAround(m_editedIndex.row());
+    if (!EdMFieldTableItemDelegate::isTyped(editor))
+        m_delegate->setEditorData(editor, m_editedIndex);
+    else if (count != m_editedCount && texts != m_editedTexts)
+        dropOpenEditor();
+    m_editedCount = count;
+    m_editedTexts = texts;
+}
+
+// Rows inserted or removed above a row leave another element there, with another neighbour or value. The row
+// below counts only where there was one: a list may grow at its end.
+QStringList EdMFieldTable::textsAround(int row) const
+{
+    QStringList texts;
+    for (int i = row - 1; i <= row + 1; ++i) {
+        SbString text;
+        if (m_owner->hasRow(i))
+            m_owner->editedField()->get1(i, text);
+        texts.append(SpxText::toQString(text));
+    }
+    if (row + 1 >= m_editedCount)
+        texts.removeLast();
+    return texts;
+}
+
+void EdMFieldTable::forgetRows()
+{
+    dropOpenEditor();
+    if (m_owner->accessBox())
+        setNumRows(0);
+}
+
+void EdMFieldTable::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
+{
+    if (openEditor() && m_editedIndex.row() >= start && m_editedIndex.row() <= end)
+        dropOpenEditor();
+    QTableWidget::rowsAboutToBeRemoved(parent, start, end);
 }
 
 bool EdMFieldTable::keepsOpen(const QWidget* editor) const
@@ -276,10 +414,29 @@ bool EdMFieldTable::keepsOpen(const QWidget* editor) const
 
 void EdMFieldTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
 {
+    // Enter asks for it later, when the editor may have been deleted.
+    if (editor && !viewport()->children().contains(editor))
+        return;
     // A slider that is being dragged stays; Enter, Escape and Tab come with a hint and close it.
     if (hint == QAbstractItemDelegate::NoHint && editor && keepsOpen(editor))
         return;
+    if (auto* slider = qobject_cast<EdSlider*>(editor)) {
+        if (hint == QAbstractItemDelegate::RevertModelCache)
+            slider->dropTyping();
+        takeFocusFrom(slider);
+    }
+    const bool isNext = hint == QAbstractItemDelegate::EditNextItem;
+    if ((isNext || hint == QAbstractItemDelegate::EditPreviousItem) && isLastCell(isNext))
+        hint = QAbstractItemDelegate::SubmitModelCache; // the next Tab leaves the table
     QTableWidget::closeEditor(editor, hint);
+}
+
+// An input that is hidden while it has the focus passes it on as Tab does, which moves the current cell.
+void EdMFieldTable::takeFocusFrom(const QWidget* editor)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    if (focused && editor->isAncestorOf(focused))
+        setFocus();
 }
 
 void EdMFieldTable::editorDestroyed(QObject* editor)

@@ -3,6 +3,7 @@
 
 #include "EdGridValidator.h"
 #include "EdIntSlider.h"
+#include "EdLineEdit.h"
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
@@ -12,10 +13,9 @@
 
 #include <scopix/editing/SpxText.h>
 
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QPainter>
-
-#include <limits>
+#include <QTextBoundaryFinder>
 
 namespace
 {
@@ -36,9 +36,24 @@ QString shortened(const QString& text, const QFontMetrics& metrics, int width)
 {
     const QString dots = QStringLiteral("...");
     int kept = 0;
-    while (kept < text.size() && metrics.horizontalAdvance(dots + text.left(kept + 1)) < width)
-        ++kept;
-    return text.left(std::max(kept, 1)) + dots;
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+    int next = characters.toNextBoundary();
+    const int first = std::max(next, 0);
+    while (next > kept && metrics.horizontalAdvance(dots + text.left(next)) < width) {
+        kept = next;
+        next = characters.toNextBoundary();
+    }
+    return text.left(std::max(kept, first)) + dots;
+}
+
+// A cell is one line high: what begins a new line is drawn as a blank.
+QString inOneLine(QString text)
+{
+    for (QChar& character : text) {
+        if (character.isSpace())
+            character = QLatin1Char(' ');
+    }
+    return text;
 }
 
 // For those who do not see where the cell is: "Element 2, x".
@@ -49,6 +64,12 @@ QString nameOf(const QModelIndex& index)
         return element;
     return element + QStringLiteral(", ") +
            index.model()->headerData(index.column(), Qt::Horizontal).toString();
+}
+
+EdLineEdit* lineOf(QWidget* editor)
+{
+    QWidget* proxy = editor->focusProxy();
+    return qobject_cast<EdLineEdit*>(proxy ? proxy : editor);
 }
 
 bool hasSlider(int cellType)
@@ -87,7 +108,8 @@ void EdMFieldTableItemDelegate::paint(QPainter* painter, const QStyleOptionViewI
     if (selected)
         painter->fillRect(option.rect, option.palette.highlight());
     const int width = option.rect.width() - TextMargin;
-    QString text = m_owner->getCellText(index.row(), componentOf(index.column()), longestShown(width));
+    QString text =
+        inOneLine(m_owner->getCellText(index.row(), componentOf(index.column()), longestShown(width)));
     const QFontMetrics metrics = painter->fontMetrics();
     if (metrics.horizontalAdvance(text) > width)
         text = shortened(text, metrics, width);
@@ -110,18 +132,19 @@ QWidget* EdMFieldTableItemDelegate::createEditor(QWidget* parent, const QStyleOp
         editor = createSlider(parent, index.row(), text);
     else
         editor = createLineEdit(parent, text);
+    editor->setAutoFillBackground(true); // the cell's own text does not show through
     editor->setFocusPolicy(Qt::WheelFocus);
     editor->setAccessibleName(nameOf(index));
     return editor;
 }
 
-QLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QString& text) const
+EdLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QString& text) const
 {
-    auto* edit = new QLineEdit(parent);
+    auto* edit = new EdLineEdit(parent);
     edit->setObjectName(QStringLiteral("qt_lineeditor"));
     edit->setFrame(false);
-    edit->setMaxLength(std::numeric_limits<int>::max());
-    edit->setText(text);
+    edit->setEscapePassed(true);
+    edit->showText(text);
     setValidator(edit);
     return edit;
 }
@@ -132,6 +155,7 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
         // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
         // applied from it reaches element 0 (decisions.md: slider-first-element).
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
+        slider->limitToFloat();
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
         slider->setRealValue(double(SpxText::toFloatOr0(text)));
         return slider;
@@ -154,12 +178,19 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
 void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
     const QString text = m_owner->getFieldValue(index.row(), componentOf(index.column()));
-    if (auto* edit = qobject_cast<QLineEdit*>(editor))
-        edit->setText(text);
-    else if (auto* real = qobject_cast<EdRealSlider*>(editor))
+    EdLineEdit* line = lineOf(editor);
+    if (!line || isTyped(editor))
+        return;
+    const bool isSelected = line->hasSelectedText() && line->selectedText() == line->text();
+    if (auto* real = qobject_cast<EdRealSlider*>(editor))
         real->setRealValue(double(SpxText::toFloatOr0(text)));
     else if (auto* slider = qobject_cast<EdSlider*>(editor))
         slider->setValue(text);
+    else
+        line->showText(text);
+    // A text that is selected whole, as it is in a cell just opened, is so afterwards.
+    if (isSelected)
+        line->selectAll();
 }
 
 void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
@@ -169,16 +200,34 @@ void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
     auto* table = static_cast<EdMFieldTable*>(parent());
     if (table->cellWidget(index.row(), index.column()) != editor)
         table->removeCellWidget(index.row(), index.column());
-    if (auto* edit = qobject_cast<QLineEdit*>(editor))
+    if (auto* edit = qobject_cast<EdLineEdit*>(editor)) {
         commit(edit, model, index);
-    else
-        QItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    if (auto* slider = qobject_cast<EdSlider*>(editor))
+        slider->changeValueFromEdit();
+    QItemDelegate::setModelData(editor, model, index);
 }
 
-void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* model,
+QString EdMFieldTableItemDelegate::textOf(const QModelIndex& index) const
+{
+    return m_owner->getFieldValue(index.row(), componentOf(index.column()));
+}
+
+bool EdMFieldTableItemDelegate::isTyped(const QWidget* editor)
+{
+    if (const auto* edit = qobject_cast<const EdLineEdit*>(editor))
+        return edit->isModified() && edit->isChanged();
+    const auto* slider = qobject_cast<const EdSlider*>(editor);
+    return slider && slider->isEdited();
+}
+
+void EdMFieldTableItemDelegate::commit(EdLineEdit* edit, QAbstractItemModel* model,
                                        const QModelIndex& index) const
 {
-    if (!edit->isModified() || !m_owner->hasRow(index.row()))
+    // The text of a number that ends as it was shown stands for the value, of which it may say less.
+    const bool isNew = edit->isChanged() || m_cellType == EdMFieldTable::CELL_NONE;
+    if (!edit->isModified() || !isNew || !m_owner->hasRow(index.row()))
         return;
     QString text = edit->text();
     int position = 0;
@@ -187,6 +236,32 @@ void EdMFieldTableItemDelegate::commit(QLineEdit* edit, QAbstractItemModel* mode
     edit->setModified(false);
     m_owner->set1Value(index.row(), componentOf(index.column()), text);
     model->setData(index, text, Qt::DisplayRole);
+}
+
+bool EdMFieldTableItemDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* editor = qobject_cast<QWidget*>(watched);
+    const bool isHandled =
+        editor && event->type() == QEvent::KeyPress && handleTab(editor, *static_cast<QKeyEvent*>(event));
+    return isHandled || QItemDelegate::eventFilter(watched, event);
+}
+
+bool EdMFieldTableItemDelegate::handleTab(QWidget* editor, const QKeyEvent& event)
+{
+    const bool isNext = event.key() == Qt::Key_Tab;
+    if (!isNext && event.key() != Qt::Key_Backtab)
+        return false;
+    auto* table = static_cast<EdMFieldTable*>(parent());
+    if (event.modifiers() & Qt::ControlModifier) {
+        table->finishOpenEditor();
+        return table->leaveByTab(isNext);
+    }
+    const auto* edit = qobject_cast<EdLineEdit*>(editor);
+    if (!edit || edit->hasAcceptableInput())
+        return false;
+    // An unacceptable text does not keep the user from moving on to the next cell.
+    emit closeEditor(editor, isNext ? EditNextItem : EditPreviousItem);
+    return true;
 }
 
 void EdMFieldTableItemDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

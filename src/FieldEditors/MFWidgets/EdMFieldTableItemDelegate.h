@@ -3,8 +3,10 @@
 
 #include <QItemDelegate>
 
+class EdLineEdit;
 class EdMFieldWidget;
 class EdSlider;
+class QKeyEvent;
 class QLineEdit;
 
 /// Draws a multi-value editor's cells from the editor's text, and makes and reads the cell editors.
@@ -29,7 +31,14 @@ public:
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     virtual void setValidator(QLineEdit* edit) const;
+
+    /// The text of a cell as the field gives it now, for assistive tools and the clipboard.
+    virtual QString textOf(const QModelIndex& index) const;
+    /// Whether a cell's editor holds what was typed and not applied.
+    static bool isTyped(const QWidget* editor);
 
 protected:
     EdMFieldWidget* owner() const { return m_owner; }
@@ -38,8 +47,9 @@ protected:
 
 private:
     EdSlider* createSlider(QWidget* parent, int row, const QString& text) const;
-    QLineEdit* createLineEdit(QWidget* parent, const QString& text) const;
-    void commit(QLineEdit* edit, QAbstractItemModel* model, const QModelIndex& index) const;
+    EdLineEdit* createLineEdit(QWidget* parent, const QString& text) const;
+    bool handleTab(QWidget* editor, const QKeyEvent& event);
+    void commit(EdLineEdit* edit, QAbstractItemModel* model, const QModelIndex& index) const;
 
     EdMFieldWidget* m_owner;
     int m_cellType = 0;

@@ -61,6 +61,8 @@ void EdMFieldWidget::load()
     QFrame* container = getWidgetContainer();
     const EdFieldFrame frame(container);
     frame.discard({m_label, m_table}); // of an earlier load()
+    m_accessBox = nullptr;
+    m_labelNumElement = nullptr;
     EdFieldFrame::setBox(container, "frameLineWidth");
     m_globalLayout = new QGridLayout(container);
     // "Marging" is the key's spelling (decisions.md: metric-names).
@@ -70,6 +72,8 @@ void EdMFieldWidget::load()
     if (!m_label)
         m_label = frame.newLabel("m_label");
     EdFieldFrame::styleCaption(m_label);
+    m_label->setMinimumWidth(1);
+    m_label->setToolTip(m_label->text());
     m_globalLayout->addWidget(m_label, 0, 0);
     m_globalLayout->addItem(new QSpacerItem(0, 4), 1, 0);
     m_globalLayout->addItem(new QSpacerItem(6, 0), 0, 1);
@@ -103,7 +107,7 @@ void EdMFieldWidget::buildButtons()
                                            setting("MFManageAccessSpacerHeight"), QSizePolicy::Expanding);
     m_buttonsLayout->addItem(m_manageAccessSpacer);
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidgetContainer(), "m_accessBox");
-    m_accessBox->setMaximumSize(setting("MFAccessWidth"), setting("buttonHeight"));
+    m_accessBox->setLeastMaximumSize(setting("MFAccessWidth"), setting("buttonHeight"));
     m_buttonsLayout->addWidget(m_accessBox);
     m_accessMoveSpacer = new QSpacerItem(setting("MFAccessMoveSpacerWidth"),
                                          setting("MFAccessMoveSpacerHeight"), QSizePolicy::Expanding);
@@ -111,6 +115,7 @@ void EdMFieldWidget::buildButtons()
     m_buttonsLayout->addItem(new QSpacerItem(0, 4));
     m_labelNumElement = frame.newLabel("m_labelNumElement");
     updateNumElementLabel();
+    m_labelNumElement->setMinimumWidth(1); // a narrow dock cuts it; the tool tip has all of it
     m_buttonsLayout->addWidget(m_labelNumElement);
 
     m_upButton = frame.newButton("m_upButton", m_upIcon);
@@ -159,9 +164,11 @@ void EdMFieldWidget::setFieldName(const QString& name)
 void EdMFieldWidget::updateNumElementLabel()
 {
     const SoMField* field = editedField();
-    if (field && m_labelNumElement)
-        m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
-                                   tr(" elements") + tr("</p>"));
+    if (!field || !m_labelNumElement)
+        return;
+    m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
+                               tr(" elements") + tr("</p>"));
+    m_labelNumElement->setToolTip(m_labelNumElement->text());
 }
 
 void EdMFieldWidget::initColumns(const QStringList& captions, int columns)
@@ -181,8 +188,10 @@ bool EdMFieldWidget::hasRow(int row) const
 
 void EdMFieldWidget::setField(SoField* field)
 {
-    if (checkField(field))
+    if (checkField(field)) {
+        m_table->forgetRows();
         m_field = field;
+    }
     SpxFieldEditors::setField(field);
 }
 
@@ -213,6 +222,7 @@ void EdMFieldWidget::refresh()
     if (!m_table || !m_refresh || !field)
         return;
     m_table->setNumRows(field->getNum());
+    m_table->followField();
     m_table->viewport()->update();
     {
         const QSignalBlocker quiet(m_ignoreButton);
@@ -251,12 +261,14 @@ bool EdMFieldWidget::checkField(SoField* /*field*/)
 
 void EdMFieldWidget::ignoreButtonStateChanged()
 {
+    m_table->finishOpenEditor();
     if (SoMField* field = editedField())
         EdFieldEdits::setIgnored(field, m_ignoreButton->isChecked());
 }
 
 void EdMFieldWidget::setDefaultFieldValue()
 {
+    m_table->finishOpenEditor();
     if (SoMField* field = editedField())
         EdFieldEdits::setToDefault(field);
 }

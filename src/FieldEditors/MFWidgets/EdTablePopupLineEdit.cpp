@@ -3,6 +3,8 @@
 
 #include "EdTablePopupWidget.h"
 
+#include <QSignalBlocker>
+
 EdTablePopupLineEdit::EdTablePopupLineEdit(int index, EdTablePopupWidget* owner, QWidget* parent,
                                            const char* name)
     : QLineEdit(parent)
@@ -17,6 +19,22 @@ void EdTablePopupLineEdit::showText(const QString& text)
 {
     m_shown = text;
     setText(text);
+}
+
+bool EdTablePopupLineEdit::isNumber() const
+{
+    bool ok = false;
+    text().toFloat(&ok);
+    return ok;
+}
+
+void EdTablePopupLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (isNumber())
+        return;
+    const QSignalBlocker quiet(this);
+    showText(m_owner->getPopupValue(m_owner->rowToEdit(), m_index));
 }
 
 void EdTablePopupLineEdit::setCurrentValue(QString /*text*/)

@@ -17,10 +17,16 @@ public:
     /// Shows a text that stands for the element's own number until the user changes it.
     void showText(const QString& text);
     bool isUntouched() const { return text() == m_shown; }
+    /// False for what is half typed, as "-".
+    bool isNumber() const;
 
 public slots:
     /// Writes the element; the owner reads all the numbers itself.
     void setCurrentValue(QString text);
+
+protected:
+    /// Shows the element's number in place of what is no number.
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     int m_index;

@@ -3,8 +3,10 @@
 
 #include "AccessButtonPrivate.h"
 #include "EdFieldFrame.h"
+#include "EdFontFitting.h"
 #include "EdGridValidator.h"
 #include "EdMFieldTable.h"
+#include "EdPopupFrame.h"
 #include "EdTablePopupLineEdit.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
@@ -13,9 +15,12 @@
 
 #include <QBoxLayout>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
+
+#include <algorithm>
 
 namespace
 {
@@ -41,20 +46,23 @@ void EdTablePopupWidget::load()
                        .newButton("m_editButton", fieldEditor::icon(fieldEditor::Icon::Edit));
     EdFieldFrame::name(m_editButton, tr("Edit the element in a grid"));
     buttonsLayout()->insertWidget(EditButtonPosition, m_editButton);
-    const int width = xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
-    accessMoveSpacer()->changeSize(xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) - width,
+    // The button takes its width from the space before it; less than none would lay it over the access box.
+    const int space = xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) -
+                      xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
+    accessMoveSpacer()->changeSize(std::max(space, 0),
                                    xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerHeight")),
                                    QSizePolicy::Expanding);
     buttonsLayout()->invalidate();
     table()->setEnabled(false);
     buildPopup();
+    accessBox()->installEventFilter(this);
     initColumns({}, 1);
     connect(m_editButton, &QPushButton::clicked, this, &EdTablePopupWidget::setEditFrame);
 }
 
 void EdTablePopupWidget::buildPopup()
 {
-    m_popup = new QFrame(getWidgetContainer(), Qt::Popup);
+    m_popup = new EdPopupFrame(getWidgetContainer());
     addWindow(m_popup);
     m_popup->setFrameStyle(int(QFrame::WinPanel) | int(QFrame::Raised));
     m_popup->setFrameShape(QFrame::StyledPanel);
@@ -73,6 +81,7 @@ void EdTablePopupWidget::buildPopup()
             const int index = m_columns * column + row;
             auto* line = new EdTablePopupLineEdit(index, this, m_popup, "lineEdit");
             line->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
+            setRoomFor(line, "-2.34567e-08");
             m_popupFrameLayout->addWidget(line, row, column);
             connect(line, SIGNAL(textChanged(const QString&)), line, SLOT(setCurrentValue(const QString&)));
             m_lines[index] = line;
@@ -120,13 +129,40 @@ void EdTablePopupWidget::managePopFramePos()
     // Beside the editor's frame: at its left where the screen has no room at its right.
     const QWidget* container = getWidgetContainer();
     const QRect frame(container->mapToGlobal(QPoint(0, 0)), container->size());
-    const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+    const QRect desktop = screenBeside(frame);
+    m_popupFrameLayout->activate();
+    m_popup->resize(m_popup->size().expandedTo(m_popupFrameLayout->totalMinimumSize()));
     const int right = frame.right() + 1;
     const bool fits = right + m_popup->width() <= desktop.right();
     m_popup->move(fits ? right : std::max(desktop.left(), frame.left() - m_popup->width()),
                   std::max(desktop.top(), std::min(frame.top(), desktop.bottom() - m_popup->height())));
     revertCursorPosition();
     m_popup->show();
+    EdTablePopupLineEdit* first = m_lines.first();
+    first->setFocus();
+    first->selectAll();
+}
+
+QRect EdTablePopupWidget::screenBeside(const QRect& frame) const
+{
+    const QScreen* screen = QGuiApplication::screenAt(frame.center());
+    return (screen ? screen : getWidgetContainer()->screen())->availableGeometry();
+}
+
+bool EdTablePopupWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isOpening =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2;
+    if (isOpening)
+        setEditFrame();
+    return isOpening || EdMFieldWidget::eventFilter(watched, event);
+}
+
+void EdTablePopupWidget::setField(SoField* field)
+{
+    if (m_popup)
+        m_popup->hide();
+    EdMFieldWidget::setField(field);
 }
 
 void EdTablePopupWidget::revertCursorPosition()
@@ -147,7 +183,8 @@ void EdTablePopupWidget::refresh()
     // A change from elsewhere is shown; what already shows the value, or was just typed, stays as it is.
     for (EdTablePopupLineEdit* line : qAsConst(m_lines)) {
         const QString text = getPopupValue(rowToEdit(), line->index());
-        if (SpxText::toFloatOr0(line->text()) == SpxText::toFloatOr0(text))
+        const bool isHalfTyped = line->hasFocus() && !line->isNumber();
+        if (isHalfTyped || SpxText::toFloatOr0(line->text()) == SpxText::toFloatOr0(text))
             continue;
         const QSignalBlocker quiet(line);
         line->showText(text);

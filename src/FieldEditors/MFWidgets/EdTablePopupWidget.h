@@ -16,7 +16,10 @@ public:
     EdTablePopupWidget(int rows, int columns, const char* name);
 
     void load() override;
+    void setField(SoField* field) override;
     void refresh() override;
+    /// F2 in the access box opens the grid: neither the button nor the table takes the keyboard.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// The text of number `index` of an element.
     virtual QString getPopupValue(int row, int index);
 
@@ -38,6 +41,7 @@ protected:
 
 private:
     void buildPopup();
+    QRect screenBeside(const QRect& frame) const;
 
     int m_rows;
     int m_columns;

@@ -24,6 +24,13 @@ protected:
     virtual Integer toInteger(const QString& text, int radix, bool& ok) const = 0;
     virtual void radixChosen() {}
     QString numberText() const { return QString::number(this->getNumber(), this->radix()); }
+    bool isNumberTyped() const override
+    {
+        bool ok = false;
+        toInteger(this->getValueFromEdit(), this->radix(), ok);
+        return ok;
+    }
+    bool isTextTaken() const override { return this->getValueFromEdit() == numberText(); }
 
 private:
     /// Only a text of exactly two characters is read as octal (decisions.md: two-character-octal).

@@ -4,6 +4,7 @@
 #include "EdFieldEdits.h"
 #include "EdFontFitting.h"
 #include "EdGridValidator.h"
+#include "EdPopupFrame.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
 
@@ -46,7 +47,7 @@ void EdPopupWidget::buildButton()
 
 void EdPopupWidget::buildPopup()
 {
-    m_popup = new QFrame(getWidgetContainer(), Qt::Popup);
+    m_popup = new EdPopupFrame(getWidgetContainer());
     m_popup->setAttribute(Qt::WA_NoMouseReplay); // the click that closes it must not open it again
     m_popup->setFrameStyle(int(QFrame::Panel) | int(QFrame::Raised));
     m_popup->setFrameShape(QFrame::StyledPanel);
@@ -69,13 +70,8 @@ EdLineEdit* EdPopupWidget::buildCell(int row, int column)
 {
     auto* cell = new EdLineEdit(m_popup);
     cell->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
-    cell->setMinimumSize(1, 1);
-    const int spacing = m_popupFrameLayout->spacing();
-    const int height =
-        (m_popup->height() - 2 * m_popupFrameLayout->contentsMargins().top() - (m_rows - 1) * spacing) /
-        m_rows;
     constexpr int InputFrame = 4;
-    fitFont(cell, height - InputFrame);
+    cell->setMinimumSize(1, cell->fontMetrics().height() + InputFrame);
     connect(cell, &QLineEdit::editingFinished, this, &EdPopupWidget::setFocusLeaveEvent);
     connect(cell, &QLineEdit::returnPressed, this, qOverload<>(&EdPopupWidget::applyChanges));
     m_cells.add(cell);
@@ -84,8 +80,11 @@ EdLineEdit* EdPopupWidget::buildCell(int row, int column)
 
 void EdPopupWidget::setValidator(int kind)
 {
-    for (EdLineEdit* cell : m_cells.all())
+    for (EdLineEdit* cell : m_cells.all()) {
         setGridValidator(*cell, kind);
+        setRoomFor(cell, isRealGrid(kind) ? "-2.34567e-08" : "-32768");
+    }
+    m_popup->setFixedSize(m_popup->size().expandedTo(m_popupFrameLayout->totalMinimumSize()));
 }
 
 void EdPopupWidget::managePopFramePos()

@@ -52,6 +52,24 @@ void EdRealSlider::setValidLimits(double min, double max, bool boundFixed)
     setRange(min, max);
 }
 
+void EdRealSlider::limitToFloat()
+{
+    constexpr double Limit = std::numeric_limits<float>::max();
+    m_validator->setWholeRange(-Limit, Limit);
+}
+
+bool EdRealSlider::isNumberTyped() const
+{
+    bool ok = false;
+    getValueFromEdit().toDouble(&ok);
+    return ok && lineEdit()->hasAcceptableInput();
+}
+
+bool EdRealSlider::isTextTaken() const
+{
+    return numberOf(getValueFromEdit()) == getNumber();
+}
+
 void EdRealSlider::setRealValue(double value)
 {
     showFieldText(numberText(value));

@@ -15,6 +15,8 @@ public:
 
     /// A fixed range clamps what is entered; another is only where the slider starts.
     void setValidLimits(double min, double max, bool boundFixed);
+    /// Whatever the precision it shows, nothing that a float cannot hold can be typed.
+    void limitToFloat();
     /// Shows a value that comes from the field. The slider keeps what the shown text says, so a value of
     /// single precision is rounded to 6 decimals.
     void setRealValue(double value);
@@ -30,6 +32,8 @@ public:
 protected:
     int positionOf(double value) const override { return sliderToInt(value); }
     double numberAt(int position) const override { return sliderToDouble(position); }
+    bool isNumberTyped() const override;
+    bool isTextTaken() const override;
 
 private:
     QString numberText(double value) const;

@@ -189,12 +189,25 @@ void EdSlider::forget()
     m_heldBack = false;
 }
 
+void EdSlider::dropTyping()
+{
+    m_lineEdit->putText(m_lineEdit->shownText());
+    takeTypingBack();
+}
+
 void EdSlider::changeValueFromEdit()
 {
     if (!isEdited())
         return;
+    if (m_parentType != SingleValueParent && (!m_lineEdit->isChanged() || !isNumberTyped())) {
+        dropTyping();
+        return;
+    }
     setValueFromEdit();
     updateSlider();
+    // A list takes the line's text, not the number.
+    if (m_parentType != SingleValueParent && !isTextTaken())
+        updateEdit();
     apply();
 }
 
@@ -225,7 +238,7 @@ void EdSlider::finishCallback()
 // meanwhile.
 void EdSlider::showHeldBack()
 {
-    if (m_heldBack && m_parentType == SingleValueParent)
+    if (m_heldBack)
         m_owner->refresh();
 }
 

@@ -56,6 +56,8 @@ public:
     bool isHeld() const;
     /// Another field comes: nothing typed or saved is for it.
     void forget();
+    /// Shows the field's value in place of what was typed.
+    void dropTyping();
 
 public slots:
     void changeValueFromEdit();
@@ -69,6 +71,11 @@ protected slots:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+
+    /// Whether the line holds a complete number.
+    virtual bool isNumberTyped() const { return true; }
+    /// Whether the line says the number that was taken from it: it may lie outside of a fixed range.
+    virtual bool isTextTaken() const { return true; }
 
     EdLineEdit* lineEdit() const { return m_lineEdit; }
     int radix() const { return m_radix; }

@@ -27,6 +27,14 @@ public:
         this->setBottom(bottom);
         this->setTop(top);
     }
+    /// Narrows what may be typed, and the range with it.
+    template <class Number>
+    void setWholeRange(Number bottom, Number top)
+    {
+        m_whole.setBottom(bottom);
+        m_whole.setTop(top);
+        limitToWholeType();
+    }
     void limitToWholeType() { limitTo(m_whole.bottom(), m_whole.top()); }
 
 private:

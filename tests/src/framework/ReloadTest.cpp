@@ -2,6 +2,7 @@
 // Editors that are loaded, unloaded and loaded again, as when a plug-in is switched off and on.
 #include "SpxDefaults.h"
 
+#include <support/QtWarnings.h>
 #include <support/TestHost.h>
 
 #include <gtest/gtest.h>
@@ -10,14 +11,6 @@
 
 namespace
 {
-
-QStringList s_warnings;
-
-void keepWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
-{
-    if (type == QtWarningMsg)
-        s_warnings.append(text);
-}
 
 // Every object in the editor's frame, as class and name.
 QStringList partsOf(const SpxFieldEditors& editor)
@@ -41,15 +34,13 @@ TEST(EditorReload, BuildsEachEditorAnewAndLeavesNothingOfTheFirst)
         auto* editor = dynamic_cast<SpxFieldEditors*>(extension);
         if (!editor)
             continue;
-        s_warnings.clear();
-        const QtMessageHandler previous = qInstallMessageHandler(keepWarning);
+        const QtWarnings warnings;
         editor->load();
         const QStringList once = partsOf(*editor);
         editor->unload();
         editor->load();
-        qInstallMessageHandler(previous);
         EXPECT_EQ(partsOf(*editor), once) << editor->getName().getString();
-        EXPECT_EQ(s_warnings, QStringList()) << s_warnings.join('\n').toStdString();
+        EXPECT_EQ(warnings.all(), "") << editor->getName().getString();
         editor->unload();
         ++count;
     }

@@ -7,6 +7,7 @@
 #include "ListModel.h"
 #include "MultiFixture.h"
 
+#include <QApplication>
 #include <QPointer>
 
 #include <map>
@@ -67,6 +68,11 @@ protected:
     static constexpr bool HasPopup = std::is_same_v<Editor, EdMFMatrixWidget>;
     static constexpr bool IsLine =
         std::is_base_of_v<EdMFLineWidget, Editor> && !std::is_same_v<Editor, EdMFDefaultFieldWidget>;
+    static constexpr bool HasSlider = IsLine && !std::is_same_v<Editor, EdMFDoubleWidget>;
+    /// A text is a value of its own also where it is typed again; a number is not.
+    static constexpr bool IsText = std::is_same_v<Editor, EdMFStringWidget> ||
+                                   std::is_same_v<Editor, EdMFDefaultFieldWidget> ||
+                                   std::is_same_v<Editor, EdMFVec2sWidget>;
 
     Walk()
         : m_type(Field::getClassTypeId().getName().getString())
@@ -236,6 +242,8 @@ private:
             return;
         if constexpr (HasPopup) {
             editInPopup();
+        } else if (HasSlider && pick(4) == 0) {
+            focusPartOfCell();
         } else {
             const int row = pick(m_model.count());
             const int first = m_type == "MFColor" ? 1 : 0;
@@ -245,11 +253,51 @@ private:
                 "type " + text.toStdString() + " at " + std::to_string(row) + ", " + std::to_string(column);
             QLineEdit* line = openByKey(row, column);
             ASSERT_TRUE(line);
+            const bool isShown = line->text() == text;
             line->selectAll();
             QTest::keyClicks(line, text);
-            QTest::keyClick(line, Qt::Key_Return);
-            expectTyped(row, column - first, text);
+            const bool isAdded = finishCell(*line);
+            if (!isShown || IsText)
+                expectTyped(row, column - first, text);
+            if (isAdded)
+                m_model.addRow(row + 1);
         }
+    }
+    // Enter, Tab out of the table, or a button that comes upon the open cell. True where that added a row.
+    bool finishCell(QLineEdit& line)
+    {
+        switch (pick(4)) {
+        case 0:
+            f.click("m_addButton");
+            return true;
+        case 1:
+            QTest::keyClick(&line, Qt::Key_Tab, Qt::ControlModifier);
+            return false;
+        default:
+            QTest::keyClick(&line, Qt::Key_Return);
+            return false;
+        }
+    }
+    // The focus moves to the handle or the check box of a cell, which is then closed by a key or a button.
+    void focusPartOfCell()
+    {
+        const int row = pick(m_model.count());
+        QLineEdit* line = openByKey(row, 0);
+        ASSERT_TRUE(line);
+        const auto parts = line->parentWidget()->findChildren<QWidget*>();
+        QWidget* part = parts[pick(parts.size())];
+        part->setFocus();
+        m_what = "close the cell at " + std::to_string(row) + " with the focus in its " +
+                 part->metaObject()->className();
+        if (pick(2)) {
+            QTest::keyClick(part, Qt::Key_Escape);
+        } else {
+            f.click("m_addButton");
+            m_model.addRow(row + 1);
+        }
+        TestHost::pump();
+        EXPECT_EQ(f.table().currentRow(), row);
+        EXPECT_EQ(QApplication::focusWidget(), &f.table());
     }
     void expectTyped(int row, int column, const QString& text)
     {

@@ -9,6 +9,7 @@
 #include <xsg/fields/SoSFMatrix.h>
 #include <xsg/fields/SoSFVec3d.h>
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QScreen>
@@ -143,6 +144,21 @@ TEST(LineEditorTest, UndoReplacesWhatWasTyped)
     edited.undo();
     EXPECT_EQ(edited.shown(), "1");
     EXPECT_EQ(edited.commands(), 2);
+}
+
+TEST(PopupEditorTest, EveryNumberOfAMatrixIsReadWhole)
+{
+    EditedMatrix edited("1 0 0 0 0 1 0 0 0 0 1 0 0 0 -2.34567e-08 1");
+    open(edited);
+    EXPECT_GE(popupOf(edited)->width(), 260);
+    EXPECT_GE(popupOf(edited)->height(), 100);
+    constexpr int Frame = 4;
+    for (int i = 0; i < 16; ++i) {
+        const QLineEdit& input = *cell(edited, i / 4, i % 4);
+        EXPECT_EQ(input.fontInfo().pixelSize(), QFontInfo(QApplication::font()).pixelSize());
+        EXPECT_GE(input.width(), input.fontMetrics().horizontalAdvance("-2.34567e-08") + 2 * Frame);
+        EXPECT_GE(input.height(), input.fontMetrics().height() + Frame);
+    }
 }
 
 TEST(PopupEditorTest, SecondClickHidesTheGrid)
