@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What the classes of the contract keep by themselves, and how the test host keeps its side.
+// What the classes of the contract keep by themselves.
 #include <support/TestHost.h>
 
 #include <scopix/SpxPlugin.h>
 #include <xsg/fields/SoSFFloat.h>
 
-#include <QDockWidget>
 #include <QSignalSpy>
-#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -62,25 +60,6 @@ public:
         setCopyright("Somebody");
         setHomepage("example.org");
     }
-};
-
-class Add : public SpxCommand
-{
-public:
-    explicit Add(std::string& trace, int& alive)
-        : m_trace(trace)
-        , m_alive(alive)
-    {
-        ++m_alive;
-    }
-    ~Add() override { --m_alive; }
-    void execute() override { m_trace += "execute "; }
-    void undo() override { m_trace += "undo "; }
-    void redo() override { m_trace += "redo "; }
-
-private:
-    std::string& m_trace;
-    int& m_alive;
 };
 
 } // namespace
@@ -169,71 +148,4 @@ TEST(Singletons, LiveAsLongAsTheHost)
     EXPECT_FALSE(SpxServices::getInstance());
     EXPECT_FALSE(SpxShell::getInstance());
     EXPECT_FALSE(SpxPluginsManager::getInstance());
-}
-
-// --- The test host's side
-
-TEST(TestHost, RunsUndoesRedoesAndDeletesCommands)
-{
-    std::string trace;
-    int alive = 0;
-    {
-        TestHost host;
-        host.executeCommand(new Add(trace, alive));
-        EXPECT_FALSE(host.redo());
-        EXPECT_TRUE(host.undo());
-        EXPECT_FALSE(host.undo());
-        EXPECT_TRUE(host.redo());
-        EXPECT_EQ(trace, "execute undo redo ");
-        host.executeCommand(new Add(trace, alive));
-        EXPECT_EQ(alive, 2);
-        host.undo();
-        host.undo();
-        EXPECT_EQ(host.redoCount(), 2);
-        host.executeCommand(new Add(trace, alive)); // drops what was undone
-        EXPECT_EQ(alive, 1);
-        EXPECT_EQ(host.undoCount(), 1);
-        EXPECT_EQ(host.redoCount(), 0);
-    }
-    EXPECT_EQ(alive, 0);
-}
-
-TEST(TestHost, GivesWidgetsBackWithoutAParent)
-{
-    TestHost host;
-    QDockWidget dock;
-    QToolBar bar;
-    host.addDockWidget(&dock, Qt::BottomDockWidgetArea);
-    host.addToolBar(&bar, Qt::TopToolBarArea);
-    EXPECT_EQ(dock.parentWidget(), &host.window());
-    EXPECT_EQ(bar.parentWidget(), &host.window());
-    host.removeDockWidget(&dock);
-    host.removeToolBar(&bar);
-    EXPECT_FALSE(dock.parentWidget());
-    EXPECT_FALSE(bar.parentWidget());
-    EXPECT_EQ(host.takeLog(), (TestHost::Log{"addDockWidget \"\" 8", "addToolBar \"\" 4",
-                                             "removeDockWidget \"\"", "removeToolBar \"\""}));
-}
-
-TEST(TestHost, TellsOfSelectionsEachTime)
-{
-    TestHost host;
-    std::vector<SoField*> told;
-    QObject::connect(&host, &SpxServices::selectedFieldChanged,
-                     [&](SoField* field) { told.push_back(field); });
-    SoSFFloat field;
-    host.select(&field);
-    host.select(&field);
-    EXPECT_EQ(told, (std::vector<SoField*>{&field, &field}));
-}
-
-TEST(TestHost, ChangesTheProfileAtOnce)
-{
-    TestHost host;
-    SpxProfile* other = host.addProfile("Other");
-    EXPECT_EQ(host.getProfilesList().size(), 2);
-    EXPECT_EQ(host.getActiveProfile()->getName(), SbString("Default"));
-    host.setActiveProfile(other);
-    EXPECT_EQ(host.getActiveProfile(), other);
-    EXPECT_EQ(host.takeLog(), (TestHost::Log{"setActiveProfile Other"}));
 }
