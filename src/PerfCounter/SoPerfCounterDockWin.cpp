@@ -54,6 +54,7 @@ void SoPerfCounterDockWin::setupConnections()
     connect(m_openConfigButton, &QPushButton::clicked, this, &Dock::openProfileManager);
     connect(m_saveView, &QPushButton::clicked, this, &Dock::saveView);
     connect(this, qOverload<>(&Dock::openingProfile), m_viewer->getTimer(), &QTimer::stop);
+    connect(this, qOverload<>(&Dock::openingProfile), m_viewer->m_stop, qOverload<>(&QWidget::update));
     connect(m_viewer->m_legend, &QTableWidget::itemSelectionChanged, this, &Dock::updateProperties);
     connect(m_viewer, &Viewer::newPcViewed, this, &Dock::addPcViewed);
     connect(m_viewer, &Viewer::deletedPcViewed, this, &Dock::removePcViewed);

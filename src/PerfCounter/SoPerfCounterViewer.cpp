@@ -5,6 +5,7 @@
 #include "CounterText.h"
 #include "CurveColors.h"
 #include "CustomCounter.h"
+#include "PlayPauseIcon.h"
 #include "PlotToolTip.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
@@ -106,6 +107,7 @@ SoPerfCounterViewer::SoPerfCounterViewer(QWidget* parent)
     m_timer = new QTimer(this);
     m_timer->setTimerType(Qt::PreciseTimer);
     m_timer->setInterval(m_interval);
+    m_stop->setIcon(playPauseIcon(*m_timer));
     start();
     setupConnections();
 }
@@ -261,17 +263,16 @@ void SoPerfCounterViewer::start()
     resetAll();
     resetElapsed();
     m_timer->start();
+    m_stop->update();
 }
 
 void SoPerfCounterViewer::freezeView()
 {
-    const bool running = m_timer->isActive();
-    if (running)
+    if (m_timer->isActive())
         m_timer->stop();
     else
         start();
-    m_stop->setIcon(QIcon(running ? QStringLiteral(":/PerfCounter_icons/Icons/player_play.png")
-                                  : QStringLiteral(":/PerfCounter_icons/Icons/player_pause.png")));
+    m_stop->update();
 }
 
 void SoPerfCounterViewer::setupTextView()

@@ -171,6 +171,37 @@ TEST_F(CounterRedraw, TheButtonShowsWhatItWillDo)
     EXPECT_EQ(imageOf(viewer.m_stop->icon()), pause);
 }
 
+TEST_F(CounterRedraw, TheButtonFollowsTheTimerWhoeverStopsOrStartsIt)
+{
+    writeExample();
+    open();
+    SoPerfCounterViewer& shown = *dock->m_viewer;
+    const auto isPause = [&] {
+        const QImage image = shown.m_stop->icon().pixmap(16).toImage();
+        const auto of = [](const char* file) {
+            return QIcon(QStringLiteral(":/PerfCounter_icons/Icons/") + file).pixmap(16).toImage();
+        };
+        EXPECT_TRUE(image == of("player_pause.png") || image == of("player_play.png"));
+        return image == of("player_pause.png");
+    };
+    const QImage asRunning = shown.m_stop->grab().toImage();
+    EXPECT_TRUE(isPause());
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
+        QTest::mouseClick(shown.m_stop, Qt::LeftButton);
+        EXPECT_FALSE(isPause());
+        EXPECT_NE(shown.m_stop->grab().toImage(), asRunning) << "what is seen too";
+        SoPerfCounterProfileManager* manager = openManager();
+        EXPECT_FALSE(isPause());
+        QTest::mouseClick(manager->m_buttonBox->button(button), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_TRUE(shown.getTimer()->isActive());
+        EXPECT_TRUE(isPause());
+        EXPECT_EQ(shown.m_stop->grab().toImage(), asRunning);
+    }
+    openManager();
+    EXPECT_FALSE(isPause()) << "nothing is sampled while the manager is open";
+}
+
 TEST_F(CounterRedraw, CurvesAreDrawnFromTheHistoriesThemselves)
 {
     const auto pointsOf = [this](int index) {
