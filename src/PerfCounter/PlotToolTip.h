@@ -14,9 +14,6 @@ public:
     /// The text for a place of the canvas, in its pixels; an empty text shows none.
     using TextAt = std::function<QString(const QPoint& place)>;
 
-    /// What a tip tells of a counter.
-    static QString textOf(const QString& counter, double value);
-
     /// Belongs to the plot, with which it goes.
     PlotToolTip(QwtPlot* plot, TextAt textAt);
 

@@ -131,6 +131,8 @@ SoPerfCounterProfile* SoPerfCounterDockWin::profile() const
 
 void SoPerfCounterDockWin::updateCurrentProfile(int index)
 {
+    if (index != m_currentProfile)
+        m_viewer->clearViewer(); // another profile keeps nothing of this one
     m_currentProfile = index;
     if (!profile())
         return;
@@ -247,11 +249,9 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
         return;
     }
     m_viewer->setViewList(m_profiles->at(index)->getView());
-    if (index == 0) {
-        // The box shows this one already and will not tell of it.
-        m_currentProfile = 0;
-        setupPreSelectedList();
-    }
+    m_currentProfile = index; // which the box is to choose as the one that it is
+    if (index == 0)
+        setupPreSelectedList(); // the box shows this one already and will not tell of it
     m_listConfig->setCurrentIndex(index);
     emit needUpdateViewer();
 }

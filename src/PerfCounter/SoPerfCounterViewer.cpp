@@ -7,6 +7,7 @@
 #include "CustomCounter.h"
 #include "PlayPauseIcon.h"
 #include "PlotToolTip.h"
+#include "SampleText.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
 #include "SoPerfCounterPcViewed.h"
@@ -42,7 +43,7 @@ constexpr auto DragSource = "m_preSelectedListView";
 
 QString numberText(double value)
 {
-    return QString().setNum(value, 'g', 6);
+    return std::isnan(value) ? QString() : QString().setNum(value, 'g', 6);
 }
 
 // No plot can show a number beyond all numbers.
@@ -124,6 +125,7 @@ void SoPerfCounterViewer::buildPlots()
     preparePlot(*m_curvePlot);
     setAxisTitle(*m_curvePlot, QwtPlot::xBottom, tr("Time (s)"));
     m_curvePlot->setAxisScale(QwtPlot::xBottom, 0, m_timeShown - 1);
+    m_curvePlot->setPeriods(m_periods);
     verticalLayout->insertWidget(PlotPosition, m_curvePlot);
     m_graphPlot = new QwtPlot(this);
     m_graphPlot->setObjectName(QStringLiteral("m_graphPlot"));
@@ -197,6 +199,8 @@ void SoPerfCounterViewer::viewTimer()
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         sample(*viewed, elapsed);
     m_filled = std::min(m_filled + 1, m_historyLength);
+    m_periods.push_front(elapsed);
+    m_periods.resize(std::size_t(m_filled));
     // The time axis drifts with the samples until the display is reset.
     for (double& x : m_xValues)
         x += 1.0 / m_frequency;
@@ -220,6 +224,14 @@ void SoPerfCounterViewer::setupViews()
     redrawViews();
     resetAll();
     resetElapsed();
+}
+
+// Counts from here on: the next sample comes a whole period later, or it would be one of a moment.
+void SoPerfCounterViewer::startPeriod()
+{
+    setupViews();
+    if (m_timer->isActive())
+        m_timer->start();
 }
 
 void SoPerfCounterViewer::redrawViews()
@@ -283,6 +295,7 @@ void SoPerfCounterViewer::setupTextView()
         const SoPerfCounter* counter = counterOf(viewed);
         setText(*m_textView, row, 0, viewed.getName());
         setText(*m_textView, row, 1, numberText(viewed.getHistory()[0]));
+        m_textView->item(row, 1)->setToolTip(undividedText(viewed.getHistory()[0], newestPeriod()));
         setText(*m_textView, row, 2,
                 QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
     }
@@ -308,7 +321,12 @@ QString SoPerfCounterViewer::barTextAt(const QPoint& place) const
 {
     const double x = m_graphPlot->canvasMap(QwtPlot::xBottom).invTransform(place.x());
     const SoPerfCounterPcViewed* viewed = x >= 0 ? m_viewed->value(int(std::min(x, 1e6))) : nullptr;
-    return viewed ? PlotToolTip::textOf(viewed->getName(), viewed->getHistory()[0]) : QString();
+    return viewed ? sampleText(viewed->getName(), viewed->getHistory()[0], newestPeriod()) : QString();
+}
+
+double SoPerfCounterViewer::newestPeriod() const
+{
+    return m_periods.empty() ? 0 : m_periods.front();
 }
 
 void SoPerfCounterViewer::setRawSamples()
@@ -372,6 +390,7 @@ void SoPerfCounterViewer::add(const QString& name)
     const QColor color = newColor();
     auto* viewed = new SoPerfCounterPcViewed(name, m_historyLength);
     viewed->setColor(color.red(), color.green(), color.blue());
+    viewed->setUnknown(m_filled);
     m_curvePlot->newCurve(name, color.red(), color.green(), color.blue());
     m_viewed->append(viewed);
 }
@@ -384,7 +403,7 @@ void SoPerfCounterViewer::addAndShow(const QStringList& names)
         add(name);
         emit newPcViewed(name);
     }
-    setupViews();
+    startPeriod();
     setupLegend();
 }
 
@@ -467,8 +486,9 @@ void SoPerfCounterViewer::changeScale(const QString& text)
     counter->setScaleFactor(scale);
     const double ratio = old / counter->getScaleFactor();
     double* history = m_viewed->at(index)->getHistory();
-    std::for_each(history, history + m_historyLength,
-                  [ratio](double& sample) { sample = finiteOf(sample * ratio); });
+    std::for_each(history, history + m_historyLength, [ratio](double& sample) {
+        sample = std::isnan(sample) ? sample : finiteOf(sample * ratio);
+    });
     redrawViews();
 }
 
@@ -491,6 +511,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     m_frequency = frequency;
     m_historyLength = timeShown * frequency;
     m_filled = std::min(m_filled, m_historyLength);
+    m_periods.resize(std::size_t(m_filled));
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
         auto longer = std::make_unique<double[]>(std::size_t(m_historyLength));
         std::copy_n(viewed->getHistory(), std::min(oldLength, m_historyLength), longer.get());
@@ -501,7 +522,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     setRawSamples();
     m_interval = 1000 / m_frequency;
     m_timer->setInterval(m_interval);
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::resetHistory()
@@ -509,8 +530,9 @@ void SoPerfCounterViewer::resetHistory()
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         std::fill_n(viewed->getHistory(), m_historyLength, 0.0);
     m_filled = 0;
+    m_periods.clear();
     setupXValues();
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::setViewList(const QList<QString>* list)
@@ -555,7 +577,7 @@ void SoPerfCounterViewer::clearViewer()
 void SoPerfCounterViewer::updateViewer()
 {
     setupLegend();
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::showView(QWidget* view)

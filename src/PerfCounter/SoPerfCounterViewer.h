@@ -8,6 +8,7 @@
 #include <QList>
 #include <QWidget>
 
+#include <deque>
 #include <memory>
 #include <vector>
 
@@ -81,12 +82,14 @@ private:
     void buildPlots();
     void setupConnections();
     void setupViews();
+    void startPeriod();
     void redrawViews();
     void setupTextView();
     void setupGraphView();
     void setupCurveView();
     void setRawSamples();
     QString barTextAt(const QPoint& place) const;
+    double newestPeriod() const;
     void setupLegend();
     void setupXValues();
     void resetAll();
@@ -112,7 +115,8 @@ private:
     int m_historyLength = 60;
     int m_filled = 0;
     std::vector<double> m_xValues;
-    int m_interval = 500; // milliseconds
+    std::deque<double> m_periods; // the seconds that each sample was divided by, the newest first
+    int m_interval = 500;         // milliseconds
     QTimer* m_timer = nullptr;
     SbElapsedTime m_elapsed;
     ElapsedSource m_elapsedSource;

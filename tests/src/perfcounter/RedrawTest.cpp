@@ -264,6 +264,7 @@ TEST_F(CounterRedraw, ManyPointsAreDrawnInFineLinesOnADenseScreen)
     viewer.m_freqBox->setCurrentText("8");
     viewer.m_timeBox->setCurrentText("120");
     show({"testB"});
+    viewer.resetHistory();
     while (viewer.getFilled() < 501)
         viewer.viewTimer();
     EXPECT_TRUE(isFine());
@@ -329,9 +330,9 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
     const auto place = [&](double x, double y) {
         return QPointF(plot->transform(QwtPlot::xBottom, x), plot->transform(QwtPlot::yLeft, y)).toPoint();
     };
-    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16")
+    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16 (undivided: 8)")
         << "far from the samples at 8 and 9, near to the line";
-    EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8");
+    EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8 (undivided: 4)");
     EXPECT_EQ(tipAt(*plot, place(2, 14)), "") << "no line here";
 }
 
@@ -343,8 +344,8 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueOfABar)
     viewer.graphView();
     QwtPlot* plot = viewer.getGraphPlot();
     const auto place = [&](double x) { return QPointF(plot->transform(QwtPlot::xBottom, x), 20).toPoint(); };
-    EXPECT_EQ(tipAt(*plot, place(0.5)), "testA: 0");
-    EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6");
+    EXPECT_EQ(tipAt(*plot, place(0.5)), "testA: 0 (undivided: 0)");
+    EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6 (undivided: 3)");
     EXPECT_EQ(tipAt(*plot, place(-0.5)), "");
     EXPECT_EQ(tipAt(*plot, place(2.5)), "");
 }
@@ -358,7 +359,7 @@ TEST_F(CounterRedraw, AToolTipTakesNoNameForMarkup)
     QwtPlot* plot = viewer.getGraphPlot();
     QTextDocument shown;
     shown.setHtml(tipAt(*plot, QPointF(plot->transform(QwtPlot::xBottom, 0.5), 20).toPoint()));
-    EXPECT_EQ(shown.toPlainText(), "<b>bold</b>: 0");
+    EXPECT_EQ(shown.toPlainText(), "<b>bold</b>: 0 (undivided: 0)");
 }
 
 TEST_F(CounterRedraw, TheLegendShowsNamesInWhole)
