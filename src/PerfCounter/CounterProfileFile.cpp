@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CounterProfileFile.h"
 
+#include "CounterText.h"
 #include "CounterXml.h"
 #include "CustomCounter.h"
-#include "EdText.h"
 #include "SoPerfCounterProfile.h"
 
 #include <xsg/counters/SoPerfCounterManager.h>
@@ -77,7 +77,7 @@ void readTexts(const QDomElement& parent, const QString& name, QList<QString>& t
         texts.append(e.text());
 }
 
-void readCounter(const QDomElement& element)
+void readCounter(const QDomElement& element, QStringList& leftOut)
 {
     const QString type = element.attribute(Type);
     if (type != QLatin1String("A") && type != QLatin1String("S"))
@@ -94,6 +94,12 @@ void readCounter(const QDomElement& element)
     counter.firstParent = text("firstparent");
     counter.secondParent = text("secondparent");
     counter.operation = text("operation");
+    for (const QString& counterName : {counter.name, counter.firstParent, counter.secondParent}) {
+        if (!isCounterName(counterName)) {
+            leftOut.append(beginningOf(counter.name, LongestInLine));
+            return;
+        }
+    }
     counter.registerIt();
 }
 
@@ -192,11 +198,22 @@ void initDocument(QIODevice* device, QDomDocument& document)
     writeDocument(device, document);
 }
 
-void readCustomCounters(const QDomDocument& document)
+QStringList readCustomCounters(const QDomDocument& document)
 {
+    QStringList leftOut;
     const QDomElement all = section(document, CustomCounters);
     for (QDomElement e = all.firstChildElement(Counter); !e.isNull(); e = e.nextSiblingElement(Counter))
-        readCounter(e);
+        readCounter(e, leftOut);
+    return leftOut;
+}
+
+void reportLeftOut(const QStringList& counters, QWidget* parent)
+{
+    if (counters.isEmpty())
+        return;
+    const QString text = translated("Custom counters are left out whose names, or those of what they are "
+                                    "computed from, have characters beyond Latin-1: %1.");
+    QMessageBox::information(parent, title(), text.arg(beginningOf(counters.join(QStringLiteral(", ")))));
 }
 
 void writeCustomCounters(QDomDocument& document)

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -36,8 +37,11 @@ bool writeFile(const QString& path, QWidget* parent, const std::function<void(QI
 /// Starts an empty document afresh and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 
-/// Registers the custom counters of the document. A counter whose name is taken is left alone.
-void readCustomCounters(const QDomDocument& document);
+/// Registers the custom counters of the document. A counter whose name is taken is left alone; the names of
+/// those that no counter can be called by are returned.
+QStringList readCustomCounters(const QDomDocument& document);
+/// Lists such names in a box over `parent`, if there are any.
+void reportLeftOut(const QStringList& counters, QWidget* parent);
 /// Makes the document's custom counters those of the registry that are custom and enabled.
 void writeCustomCounters(QDomDocument& document);
 

@@ -90,10 +90,11 @@ bool SoPerfCounterDockWin::read(QIODevice* device)
 {
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
-    counterProfileFile::readCustomCounters(m_document);
+    const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
     m_profiles->append(counterProfileFile::readProfiles(m_document));
     setupProfileComboBox();
     parseViewElement();
+    counterProfileFile::reportLeftOut(leftOut, this);
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "ProfileText.h"
 #include "SoPerfCounterCreateCounter.h"
 #include "SoPerfCounterCreateProfile.h"
 #include "SoPerfCounterPage.h"
@@ -186,7 +187,15 @@ void SoPerfCounterProfileManager::downArrowAction()
         currentProfile(tr("You have to create al least one profile before adding counters."));
     if (!profile)
         return;
-    profile->moveToEnd(counterTable::selectedNames(*m_listCounter));
+    QStringList names;
+    for (const QString& name : counterTable::selectedNames(*m_listCounter)) {
+        const QString refusal = profileText::listedNameRefusal(tr("The name of the counter"), name);
+        if (refusal.isEmpty())
+            names.append(name);
+        else
+            QMessageBox::warning(this, windowTitle(), refusal);
+    }
+    profile->moveToEnd(names);
     setupPreSelectedList();
 }
 
@@ -271,13 +280,14 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
     m_registry->removeDisabledCounters();
     m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
     dropProfiles();
-    counterProfileFile::readCustomCounters(m_document);
+    const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
     setupListCounter();
     for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(m_document)) {
         m_profiles->append(profile);
         addTab(*profile);
     }
     m_tabProfile->show();
+    counterProfileFile::reportLeftOut(leftOut, this);
     return true;
 }
 
