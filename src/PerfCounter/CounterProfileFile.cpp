@@ -103,20 +103,20 @@ void readCounter(const QDomElement& element, QStringList& leftOut)
     counter.registerIt();
 }
 
-void appendCounter(QDomElement parent, const SoPerfCounter& counter)
+void appendCounter(QDomElement parent, const CustomCounter& counter)
 {
     QDomElement element = parent.ownerDocument().createElement(Counter);
-    element.setAttribute(Name, toQString(counter.getName()));
-    element.setAttribute(Type, toQString(counter.getTypeCode()));
+    element.setAttribute(Name, counter.name);
+    element.setAttribute(Type, counter.isAccumulation ? QStringLiteral("A") : QStringLiteral("S"));
     const auto text = [&](const char* name, const QString& value) {
         appendText(element, QLatin1String(name), value);
     };
-    text("description", toQString(counter.getDescription()));
-    text("module", toQString(counter.getModule()));
-    text("level", QString::number(int(counter.getLevel())));
-    text("firstparent", toQString(counter.getFirstParent()));
-    text("secondparent", toQString(counter.getSecondParent()));
-    text("operation", toQString(counter.getOperation()));
+    text("description", counter.description);
+    text("module", counter.module);
+    text("level", QString::number(counter.level));
+    text("firstparent", counter.firstParent);
+    text("secondparent", counter.secondParent);
+    text("operation", counter.operation);
     parent.appendChild(element);
 }
 
@@ -151,11 +151,16 @@ bool parse(QIODevice* device, QDomDocument& document, QString& problem)
         problem = translated("The file does not contain information about performance counters.");
         return false;
     }
+    replace(document, parsed);
+    return true;
+}
+
+void replace(QDomDocument& document, const QDomDocument& by)
+{
     while (document.hasChildNodes())
         document.removeChild(document.firstChild());
-    for (QDomNode node = parsed.firstChild(); !node.isNull(); node = node.nextSibling())
+    for (QDomNode node = by.firstChild(); !node.isNull(); node = node.nextSibling())
         document.appendChild(document.importNode(node, true));
-    return true;
 }
 
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
@@ -172,15 +177,16 @@ void writeDocument(QIODevice* device, const QDomDocument& document)
     counterXml::write(device, document);
 }
 
-bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write)
+bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent)
 {
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        write(&file);
-        if (file.flush())
+    QString reason = flaw;
+    if (reason.isEmpty()) {
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text) &&
+            file.write(content) == content.size() && file.flush())
             return true;
+        reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
     }
-    const QString reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
     QMessageBox::warning(parent, title(), translated("Cannot write file %1:\n%2.").arg(path, reason));
     return false;
 }
@@ -222,7 +228,7 @@ void writeCustomCounters(QDomDocument& document)
     removeChildren(all, Counter);
     for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
         if (counter->isCustom() && counter->isEnabled())
-            appendCounter(all, *counter);
+            appendCounter(all, CustomCounter::of(*counter));
     }
 }
 

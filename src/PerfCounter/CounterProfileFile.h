@@ -7,8 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-
+class QByteArray;
 class QDomDocument;
 class QIODevice;
 class QWidget;
@@ -29,11 +28,13 @@ QString title();
 bool parse(QIODevice* device, QDomDocument& document, QString& problem);
 /// The same; says why not in a box over `parent`.
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
+/// Gives a document, and every one that shares its tree, the content of another.
+void replace(QDomDocument& document, const QDomDocument& by);
 /// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-/// Opens the file of this name anew and lets `write` fill it; says in a box over `parent` what went wrong, if
-/// anything.
-bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write);
+/// Opens the file of this name anew and writes all of it; says in a box over `parent` what went wrong, if
+/// anything. Content with a flaw is not written, and the file stays as it is.
+bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent);
 /// Starts an empty document afresh and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 

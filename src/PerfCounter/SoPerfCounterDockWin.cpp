@@ -5,6 +5,7 @@
 #include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "OwedSaves.h"
 #include "SoPerfCounterPcViewed.h"
 #include "SoPerfCounterProfile.h"
 #include "SoPerfCounterProfileManager.h"
@@ -31,6 +32,7 @@ SoPerfCounterDockWin::SoPerfCounterDockWin(QWidget* parent, Qt::WindowFlags flag
     , m_preSelected(std::make_unique<QList<QString>>())
     , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
     , m_manager(SoPerfCounterManager::getInstance())
+    , m_owed(std::make_shared<OwedSaves>())
 {
     auto* content = new QWidget(this);
     setupUi(content);
@@ -230,6 +232,7 @@ void SoPerfCounterDockWin::openProfileManager()
     manager->setFilepath(m_filePath);
     manager->setFilepathTemp(m_filePath);
     manager->setDomDocument(m_document);
+    manager->setOwedSaves(m_owed);
     emit openingProfile(m_profiles.get(), m_currentProfile);
     emit openingProfile();
     manager->show();
@@ -264,9 +267,12 @@ void SoPerfCounterDockWin::changeFilepath(QString path)
 
 void SoPerfCounterDockWin::saveView()
 {
-    counterProfileFile::writeFile(m_filePath, this, [this](QIODevice* device) {
-        if (profile())
-            counterProfileFile::writeView(m_document, *profile());
-        counterProfileFile::writeDocument(device, m_document);
-    });
+    if (profile())
+        counterProfileFile::writeView(m_document, *profile());
+    m_owed->save(m_filePath, m_document, this);
+}
+
+void SoPerfCounterDockWin::saveOwed()
+{
+    m_owed->retry(this);
 }

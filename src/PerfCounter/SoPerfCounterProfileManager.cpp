@@ -5,6 +5,7 @@
 #include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "OwedSaves.h"
 #include "ProfileText.h"
 #include "SoPerfCounterCreateCounter.h"
 #include "SoPerfCounterCreateProfile.h"
@@ -34,6 +35,7 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
     : QMainWindow(parent)
     , m_registry(SoPerfCounterManager::getInstance())
     , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
+    , m_owed(std::make_shared<OwedSaves>())
 {
     setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -46,7 +48,10 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
 SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
 {
     // Where the dock goes first, the window is never closed.
-    undoCounterChanges();
+    if (!m_isDone) {
+        undoCounterChanges();
+        m_atOpening.restore(m_document);
+    }
     dropProfiles();
 }
 
@@ -77,6 +82,12 @@ void SoPerfCounterProfileManager::setFilepath(const QString& path)
     m_filePath = path;
     setWindowTitle(tr("Profile Manager - ") + path);
     emit filepathChanged(path);
+}
+
+void SoPerfCounterProfileManager::setDomDocument(const QDomDocument& document)
+{
+    m_document = document;
+    m_atOpening = CounterSnapshot(document);
 }
 
 void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles,
@@ -265,7 +276,9 @@ void SoPerfCounterProfileManager::openProfile()
     const QString before = m_filePath;
     setFilepath(path);
     // OK would write over a file that holds something else.
-    if (!read(&file))
+    if (read(&file))
+        m_owed->turnToAnotherDocument();
+    else
         setFilepath(before);
 }
 
@@ -273,11 +286,7 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
 {
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
-    for (const SoPerfCounter* counter : m_registry->getCounters()) {
-        if (counter->isCustom())
-            m_registry->disableCounter(counter->getName());
-    }
-    m_registry->removeDisabledCounters();
+    removeCustomCounters();
     m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
     dropProfiles();
     const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
@@ -291,26 +300,28 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
     return true;
 }
 
-bool SoPerfCounterProfileManager::saveTo(const QString& path)
+// Whatever becomes of the file: what is saved later must not lack what was done here.
+void SoPerfCounterProfileManager::updateDom()
 {
-    return counterProfileFile::writeFile(path, this, [this](QIODevice* device) {
-        counterProfileFile::writeCustomCounters(m_document);
-        counterProfileFile::writeProfiles(m_document, *m_profiles);
-        counterProfileFile::writeDocument(device, m_document);
-    });
+    counterProfileFile::writeCustomCounters(m_document);
+    counterProfileFile::writeProfiles(m_document, *m_profiles);
 }
 
 void SoPerfCounterProfileManager::saveAsProfile()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Save performance counter profile"),
                                                       m_filePath, counterProfileFile::dialogFilter());
-    if (!path.isEmpty() && saveTo(path))
+    if (path.isEmpty())
+        return;
+    updateDom();
+    if (m_owed->saveOnce(path, m_document, this))
         setFilepath(path);
 }
 
 void SoPerfCounterProfileManager::saveProfile()
 {
-    saveTo(m_filePath);
+    updateDom();
+    m_owed->save(m_filePath, m_document, this);
 }
 
 void SoPerfCounterProfileManager::okButtonAction()
@@ -335,6 +346,7 @@ void SoPerfCounterProfileManager::okAction()
     m_created.clear();
     m_fallbackPath.clear();
     saveProfile();
+    m_isDone = true;
     const int index = m_tabProfile->currentIndex();
     // The dock lets go of the old profiles while they still live.
     const QList<SoPerfCounterProfile*> old = m_handedOver ? *m_handedOver : QList<SoPerfCounterProfile*>();
@@ -359,11 +371,13 @@ void SoPerfCounterProfileManager::cancelAction()
     undoCounterChanges();
     emit cancelProfile();
     setFilepath(m_fallbackPath);
-    if (m_filePath.isEmpty())
-        return;
+    m_isDone = true;
     QFile file(m_filePath);
-    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        read(&file);
+    const bool isRead =
+        !m_filePath.isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Text) && read(&file);
+    // A file that lacks what could not be saved does not say how things were.
+    if (!isRead || m_owed->isOwed(m_filePath))
+        m_atOpening.restore(m_document);
 }
 
 void SoPerfCounterProfileManager::closeEvent(QCloseEvent* event)

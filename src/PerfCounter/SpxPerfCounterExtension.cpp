@@ -81,6 +81,8 @@ void SpxPerfCounterExtension::hide()
 
 void SpxPerfCounterExtension::unload()
 {
+    if (auto* tool = qobject_cast<SoPerfCounterDockWin*>(m_dock))
+        tool->saveOwed();
     // The pointer stays as it is; nobody uses it after this.
     delete m_dock;
 }

@@ -202,6 +202,33 @@ TEST_F(CounterSavable, ACounterThatWouldBeComputedFromItselfIsRefused)
     EXPECT_EQ(boxes.take(), QStringList());
 }
 
+TEST_F(CounterSavable, NamesThatAnApplicationGaveAreRefusedAndNeverBreakTheFile)
+{
+    auto* counter = accumCounter("bad\x01name");
+    openBoth();
+    const QByteArray before = readFile(path());
+    select(*manager->m_listCounter, {"bad\x01name", "testB"});
+    QTest::mouseClick(manager->m_downArrow, Qt::LeftButton);
+    EXPECT_TRUE(
+        boxes.take().join('|').endsWith("The name of the counter contains the character U+0001, which cannot "
+                                        "be saved. Please remove it."));
+    press(QDialogButtonBox::Ok);
+    EXPECT_EQ(*dock->getProfiles()[1]->getList(), (QStringList{"testC", "testA", "testB"}))
+        << "the other one is added";
+    EXPECT_EQ(boxes.take(), QStringList());
+    const QByteArray good = readFile(path());
+    dock->m_viewer->doubleClickEvent("bad\x01name");
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: Cannot write file " + path() +
+                                        ":\nthe character U+0001 cannot be saved."});
+    EXPECT_EQ(readFile(path()), good) << "what was there stays";
+    dock->m_viewer->m_legend->selectRow(1);
+    QTest::keyClick(dock->m_viewer->m_legend, Qt::Key_Backspace);
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    EXPECT_EQ(boxes.take(), QStringList());
+    SoPerfCounterManager::getInstance()->disableCounter(counter->getName());
+}
+
 TEST_F(CounterSavable, CountersOfAFileThatCannotBeNamedAreLeftOutAloud)
 {
     writeFile(
