@@ -143,6 +143,13 @@ void SoPerfCounterProfileManager::setupPreSelectedList()
         page->refill();
 }
 
+// What becomes of a counter is seen in every profile that has it.
+void SoPerfCounterProfileManager::refillPages()
+{
+    for (int i = 0; i < m_tabProfile->count(); ++i)
+        static_cast<SoPerfCounterPage*>(m_tabProfile->widget(i))->refill();
+}
+
 void SoPerfCounterProfileManager::createCounter()
 {
     const QStringList names = counterTable::selectedNames(*m_listCounter);
@@ -163,6 +170,7 @@ void SoPerfCounterProfileManager::updateCounterList(QString name)
 {
     m_created.append(name);
     setupListCounter();
+    refillPages();
 }
 
 void SoPerfCounterProfileManager::deleteCounter()
@@ -180,7 +188,7 @@ void SoPerfCounterProfileManager::deleteCounter()
             m_registry->disableCounter(toCounterName(name));
     }
     setupListCounter();
-    setupPreSelectedList();
+    refillPages();
 }
 
 SoPerfCounterProfile* SoPerfCounterProfileManager::currentProfile(const QString& otherwise)
@@ -290,6 +298,7 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
     m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
     dropProfiles();
     const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
+    m_atOpening.restoreScales();
     setupListCounter();
     for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(m_document)) {
         m_profiles->append(profile);

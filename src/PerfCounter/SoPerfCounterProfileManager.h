@@ -69,6 +69,7 @@ private:
     void setupConnections();
     void setupListCounter();
     void setupPreSelectedList(); // of the current tab
+    void refillPages();
     void addTab(const SoPerfCounterProfile& profile);
     void dropProfiles();
     bool read(QIODevice* device);
