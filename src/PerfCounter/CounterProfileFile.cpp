@@ -291,8 +291,10 @@ void writeView(QDomDocument& document, const SoPerfCounterProfile& profile)
             e = before;
         }
         for (const QString& name : *profile.getView()) {
-            if (!present.contains(name))
-                appendText(view, PcViewed, name);
+            if (present.contains(name))
+                continue;
+            present.insert(name);
+            appendText(view, PcViewed, name);
         }
     }
     sectionToWrite(document, ProfileView).setAttribute(Name, profile.getName());
