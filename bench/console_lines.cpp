@@ -3,8 +3,7 @@
 // QPlainTextEdit::appendPlainText fed the same lines, both holding the same number of them; how that grows
 // with their number; and the longest time that the event loop is held up while four threads write and two
 // report scene-graph errors, and by one line of ten megabytes.
-//
-//     console_lines [lines]
+#include "Ratios.h"
 #include "SpxConsole.h"
 
 #include "support/TestHost.h"
@@ -19,8 +18,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <string>
@@ -30,7 +27,8 @@
 namespace
 {
 
-constexpr int MaxLines = 100000;
+constexpr int MaxLines = 100'000;
+constexpr int Many = 1'000'000;
 
 std::string lineNumbered(int number)
 {
@@ -38,64 +36,70 @@ std::string lineNumbered(int number)
            ": 16.6 ms, 1204 nodes drawn, 0 errors, camera (1.5, 2.25, -3)";
 }
 
-double secondsOf(const std::function<void()>& work)
+void appendPlainText(benchmark::State& state)
 {
-    QElapsedTimer clock;
-    clock.start();
-    work();
-    return double(clock.nsecsElapsed()) * 1e-9;
-}
-
-double plainSeconds(int lines)
-{
-    QPlainTextEdit edit;
-    edit.setReadOnly(true);
-    edit.setMaximumBlockCount(MaxLines);
-    edit.resize(640, 220);
-    edit.show();
-    QCoreApplication::processEvents();
-    return secondsOf([&] {
-        for (int i = 0; i < lines; ++i)
-            edit.appendPlainText(QString::fromStdString(lineNumbered(i)));
-        QCoreApplication::processEvents();
-    });
-}
-
-double consoleSeconds(int lines)
-{
-    TestHost host;
-    SpxConsole console;
-    host.start(console);
-    host.window().show();
-    QCoreApplication::processEvents();
-    const double seconds = secondsOf([&] {
-        for (int i = 0; i < lines; ++i)
-            std::cout << lineNumbered(i);
-        QCoreApplication::processEvents();
-    });
-    host.stop(console);
-    return seconds;
-}
-
-void compare(int lines)
-{
-    // Millions take long enough to be measured once.
-    const int rounds = lines < MaxLines ? 3 : 1;
-    double plain = 1e9;
-    double console = 1e9;
-    for (int round = 0; round < rounds; ++round) {
-        plain = std::min(plain, plainSeconds(lines));
-        console = std::min(console, consoleSeconds(lines));
+    const int lines = int(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            QPlainTextEdit edit;
+            edit.setReadOnly(true);
+            edit.setMaximumBlockCount(MaxLines);
+            edit.resize(640, 220);
+            edit.show();
+            QCoreApplication::processEvents();
+            state.ResumeTiming();
+            for (int i = 0; i < lines; ++i)
+                edit.appendPlainText(QString::fromStdString(lineNumbered(i)));
+            QCoreApplication::processEvents();
+            state.PauseTiming();
+        }
+        state.ResumeTiming();
     }
-    std::printf("%9d lines from the GUI thread: console %7.0f lines/s, appendPlainText %7.0f lines/s, cost "
-                "ratio %.2f (aim: at most 2)\n",
-                lines, lines / console, lines / plain, console / plain);
-    std::fflush(stdout);
+    state.SetItemsProcessed(state.iterations() * lines);
 }
 
-std::vector<std::thread> flood(int lines)
+/// A console in a window.
+class ShownConsole
 {
-    std::vector<std::thread> threads;
+public:
+    ShownConsole()
+    {
+        m_host.start(m_console);
+        m_host.window().show();
+        QCoreApplication::processEvents();
+    }
+    ~ShownConsole() { m_host.stop(m_console); }
+    QTextEdit& output() { return *m_host.window().findChild<QTextEdit*>("m_consoleOutput"); }
+
+private:
+    TestHost m_host;
+    SpxConsole m_console;
+};
+
+void console(benchmark::State& state)
+{
+    const int lines = int(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            ShownConsole shown;
+            state.ResumeTiming();
+            for (int i = 0; i < lines; ++i)
+                std::cout << lineNumbered(i);
+            QCoreApplication::processEvents();
+            state.PauseTiming();
+        }
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * lines);
+}
+
+using Threads = std::vector<std::thread>;
+
+Threads flood(int lines)
+{
+    Threads threads;
     for (int worker = 0; worker < 4; ++worker)
         threads.emplace_back([lines] {
             for (int i = 0; i < lines; ++i)
@@ -109,16 +113,17 @@ std::vector<std::thread> flood(int lines)
     return threads;
 }
 
-// Runs the threads and the event loop until all that they wrote is shown, and tells the longest time between
-// two turns of the loop, in milliseconds.
-double longestTurn(const std::function<std::vector<std::thread>()>& startThreads, double* seconds)
+Threads longLine()
 {
-    TestHost host;
-    SpxConsole console;
-    host.start(console);
-    host.window().show();
-    QCoreApplication::processEvents();
+    Threads threads;
+    threads.emplace_back([] { std::cout << std::string(10 * 1024 * 1024, 'x'); });
+    return threads;
+}
 
+/// Runs the threads, and the event loop until all that they wrote is shown. Returns the longest time between
+/// two turns of the loop, in seconds.
+double longestTurn(ShownConsole& shown, const std::function<Threads()>& startThreads)
+{
     qint64 longest = 0;
     QElapsedTimer turn;
     QTimer beat;
@@ -128,14 +133,13 @@ double longestTurn(const std::function<std::vector<std::thread>()>& startThreads
     });
     std::atomic<bool> over{false};
     QTimer end;
-    auto* output = host.window().findChild<QTextEdit*>("m_consoleOutput");
     int quiet = 0;
-    QObject::connect(output, &QTextEdit::textChanged, [&] { quiet = 0; });
+    QObject::connect(&shown.output(), &QTextEdit::textChanged, &end, [&] { quiet = 0; });
     QObject::connect(&end, &QTimer::timeout, [&] {
         if (over && ++quiet > 3)
             QCoreApplication::quit();
     });
-    std::vector<std::thread> threads = startThreads();
+    Threads threads = startThreads();
     std::thread joiner([&] {
         for (std::thread& thread : threads)
             thread.join();
@@ -144,25 +148,23 @@ double longestTurn(const std::function<std::vector<std::thread>()>& startThreads
     turn.start();
     beat.start(0);
     end.start(50);
-    *seconds = secondsOf([] { QCoreApplication::exec(); });
+    QCoreApplication::exec();
     joiner.join();
-    host.stop(console);
-    return double(longest) * 1e-6;
+    return double(longest) * 1e-9;
 }
 
-void measureLoop(int lines)
+/// The time that is measured is the longest for which the event loop was held up.
+void eventLoopHeldUp(benchmark::State& state, const std::function<Threads()>& startThreads)
 {
-    double seconds = 0;
-    const double flooded = longestTurn([lines] { return flood(lines); }, &seconds);
-    std::printf("6 threads x %d lines: %.0f lines/s, longest time that the event loop was held up: %.1f ms\n",
-                lines, 6 * lines / seconds, flooded);
-    const auto longLine = [] {
-        std::vector<std::thread> threads;
-        threads.emplace_back([] { std::cout << std::string(10 * 1024 * 1024, 'x'); });
-        return threads;
-    };
-    const double held = longestTurn(longLine, &seconds);
-    std::printf("a line of ten megabytes from another thread: event loop held up for %.1f ms\n", held);
+    for (auto _ : state) {
+        ShownConsole shown;
+        state.SetIterationTime(longestTurn(shown, startThreads));
+    }
+}
+
+benchmark::internal::Benchmark* once(benchmark::internal::Benchmark* measure)
+{
+    return measure->Iterations(1)->Repetitions(1)->Unit(benchmark::kMillisecond);
 }
 
 } // namespace
@@ -171,9 +173,28 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
-    const int lines = argc > 1 ? std::atoi(argv[1]) : 1000000;
-    for (int count = lines / 100; count <= lines; count *= 10)
-        compare(count);
-    measureLoop(lines / 6);
-    return 0;
+    for (auto [name, measure] :
+         {std::pair{"appendPlainText", appendPlainText}, std::pair{"console", console}}) {
+        benchmark::RegisterBenchmark(name, measure)
+            ->Unit(benchmark::kMillisecond)
+            ->Arg(10'000)
+            ->Iterations(1)
+            ->Repetitions(3)
+            ->UseRealTime();
+        // These take long enough to be measured once.
+        once(benchmark::RegisterBenchmark(name, measure)->Arg(100'000)->Arg(Many))->UseRealTime();
+    }
+    const auto flooded = [](benchmark::State& state) {
+        eventLoopHeldUp(state, [] { return flood(Many / 6); });
+    };
+    once(benchmark::RegisterBenchmark("heldUpBySixThreads", flooded))->UseManualTime();
+    const auto held = [](benchmark::State& state) { eventLoopHeldUp(state, longLine); };
+    once(benchmark::RegisterBenchmark("heldUpByALineOfTenMegabytes", held))->UseManualTime();
+    return bench::run(
+        argc, argv,
+        {{"10,000 lines / appendPlainText", "console/10000", "appendPlainText/10000", "aim: at most 2"},
+         {"100,000 lines / appendPlainText", "console/100000", "appendPlainText/100000", "aim: at most 2"},
+         {"1,000,000 lines / appendPlainText", "console/1000000", "appendPlainText/1000000",
+          "aim: at most 2"},
+         {"1,000,000 lines / 10,000 lines", "console/1000000", "console/10000", "aim: 100"}});
 }

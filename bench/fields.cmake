@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: MIT
-scopix_add_bench(xsg_fields Scopix::xsg benchmark::benchmark)
+scopix_add_bench(xsg_fields Scopix::xsg FieldGallery benchmark::benchmark)

@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: MIT
 // What the default plug-in adds to a program's start: the library, its extensions and their widgets, against
 // the start of an empty Qt program. Each is measured as a process of its own.
-//
-//     plugin_load [runs]
+#include "Ratios.h"
 #include "support/TestHost.h"
 
 #include <scopix/SpxPlugin.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLibrary>
 #include <QProcess>
 #include <QWidget>
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
-#include <vector>
+#include <string>
 
 namespace
 {
@@ -55,19 +50,14 @@ int startWithPlugin(int argc, char** argv)
     return extensions.isEmpty() ? 1 : 0;
 }
 
-// The median of several runs, in milliseconds; negative where the program failed.
-double milliseconds(const QString& program, const QString& what, int runs)
+/// A process of its own, from its start to its end.
+void start(benchmark::State& state, const char* what)
 {
-    std::vector<double> times;
-    for (int i = 0; i < runs; ++i) {
-        QElapsedTimer clock;
-        clock.start();
-        if (QProcess::execute(program, {what}) != 0)
-            return -1;
-        times.push_back(double(clock.nsecsElapsed()) / 1e6);
+    const QString self = QCoreApplication::applicationFilePath();
+    for (auto _ : state) {
+        if (QProcess::execute(self, {QString::fromLatin1(what)}) != 0)
+            state.SkipWithError("The program that is measured failed.");
     }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 } // namespace
@@ -78,16 +68,13 @@ int main(int argc, char** argv)
         return startEmpty(argc, argv);
     if (argc > 1 && std::strcmp(argv[1], "--plugin") == 0)
         return startWithPlugin(argc, argv);
-    const int runs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 9;
-    const QString self = QString::fromLocal8Bit(argv[0]);
-    const double empty = milliseconds(self, QStringLiteral("--empty"), runs);
-    const double loaded = milliseconds(self, QStringLiteral("--plugin"), runs);
-    if (empty <= 0 || loaded <= 0) {
-        std::fprintf(stderr, "plugin_load: a program that was to be measured failed\n");
-        return 1;
+    const QCoreApplication application(argc, argv);
+    for (const char* name : {"empty", "plugin"}) {
+        const std::string option = std::string("--") + name;
+        const auto measure = [option](benchmark::State& state) { start(state, option.c_str()); };
+        benchmark::RegisterBenchmark(name, measure)->Unit(benchmark::kMillisecond)->UseRealTime();
     }
-    std::printf("start of an empty Qt program            %8.1f ms\n", empty);
-    std::printf("the same with the plug-in and all it has %8.1f ms\n", loaded);
-    std::printf("ratio                                    %8.2f\n", loaded / empty);
-    return 0;
+    return bench::run(
+        argc, argv,
+        {{"start with the plug-in and all it has / of an empty Qt program", "plugin", "empty", ""}});
 }

@@ -1,2 +1,2 @@
 # SPDX-License-Identifier: MIT
-scopix_add_bench(scene_tree Scopix::Host Qt5::Widgets benchmark::benchmark)
+scopix_add_bench(scene_tree ScopixHostInternals Qt5::Widgets benchmark::benchmark)

@@ -6,8 +6,8 @@
 //     showing the same texts;
 //   - one live step of a slider: write, command, undo stack, sensor and refresh, against a bare slider, line
 //     edit and undo stack.
-//
-//     sf_editors [rounds [type]]
+#include "Ratios.h"
+
 #include "EdSFBitMaskWidget.h"
 #include "EdSFBoolWidget.h"
 #include "EdSFBox3sWidget.h"
@@ -42,7 +42,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
-#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -60,26 +59,6 @@
 
 namespace
 {
-
-// The median of several runs, in microseconds for each round.
-double microseconds(int rounds, const std::function<void(int)>& work)
-{
-    std::vector<double> runs;
-    for (int run = 0; run < 7; ++run) {
-        QElapsedTimer clock;
-        clock.start();
-        for (int i = 0; i < rounds; ++i)
-            work(i);
-        runs.push_back(double(clock.nsecsElapsed()) / 1000.0 / rounds);
-    }
-    std::sort(runs.begin(), runs.end());
-    return runs[runs.size() / 2];
-}
-
-void print(const char* what, double ours, double bare)
-{
-    std::printf("%-34s %8.1f us   bare %8.1f us   ratio %.2f\n", what, ours, bare, ours / bare);
-}
 
 // A host whose undo history is the toolkit's.
 class UndoStackHost : public TestHost
@@ -232,21 +211,23 @@ private:
     std::vector<std::function<void(int)>> m_inputs;
 };
 
-// Takes the inputs out of a dock and shows them there again with other values, as a selection does.
-double bareSelection(QMainWindow& window, BareCopy& copy, int rounds)
+/// Takes the inputs out of a dock and shows them there again with other values, as a selection does.
+void selectBare(benchmark::State& state, QMainWindow& window, BareCopy& copy)
 {
     QDockWidget dock;
     window.addDockWidget(Qt::RightDockWidgetArea, &dock);
-    return microseconds(rounds, [&](int i) {
+    int number = 0;
+    for (auto _ : state) {
+        number = 1 - number;
         dock.setWidget(nullptr);
         copy.frame()->setParent(nullptr);
         dock.hide();
-        copy.show(i % 2);
+        copy.show(number);
         dock.setWidget(copy.frame());
         copy.frame()->show();
         dock.show();
         TestHost::pump();
-    });
+    }
 }
 
 using Editors = std::vector<std::unique_ptr<SpxEditor>>;
@@ -288,43 +269,62 @@ private:
         dynamic_cast<SoFieldContainer*>(SoType::fromName("FieldGallery").createInstance())};
 };
 
-// All editors stand ready, and the dock finds the one for the field.
-void compareSelections(int rounds, const std::string& only)
+/// All editors stand ready, and the dock finds the one for the field.
+class Selections
 {
-    UndoStackHost host;
-    const Editors editors = allEditors();
-    QList<SpxExtension*> extensions;
-    for (const auto& editor : editors) {
-        editor->load();
-        extensions << editor.get();
+public:
+    Selections()
+    {
+        QList<SpxExtension*> extensions;
+        for (const auto& editor : m_editors) {
+            editor->load();
+            extensions << editor.get();
+        }
+        m_host.control(extensions);
+        m_host.start(m_dock);
+        m_host.window().resize(800, 300);
+        m_host.window().show();
     }
-    SpxFieldEditorDockWin dock;
-    host.control(extensions);
-    host.start(dock);
-    host.window().resize(800, 300);
-    host.window().show();
-    const Node nodes[2];
-    for (const EditorRow& row : editorRows()) {
-        if (row.isInGrid() || (!only.empty() && only != row.type))
-            continue;
-        SoField* fields[] = {nodes[0].field(row.type), nodes[1].field(row.type)};
-        fields[0]->set(row.values[0].c_str());
-        fields[1]->set(row.values[1].c_str());
-        const double ours = microseconds(rounds, [&](int i) {
-            host.select(fields[i % 2]);
+    ~Selections()
+    {
+        m_host.stop(m_dock);
+        for (const auto& editor : m_editors)
+            editor->unload();
+    }
+    void measure(benchmark::State& state, const EditorRow& row)
+    {
+        SoField* fields[] = {fieldOf(0, row), fieldOf(1, row)};
+        int next = 0;
+        for (auto _ : state) {
+            next = 1 - next;
+            m_host.select(fields[next]);
             TestHost::pump();
-        });
-        BareCopy copy(*host.window().findChild<QDockWidget*>()->widget());
-        host.select(static_cast<SoField*>(nullptr));
-        const std::string what = std::string("select ") + row.type;
-        print(what.c_str(), ours, bareSelection(host.window(), copy, rounds));
+        }
     }
-    host.stop(dock);
-    for (const auto& editor : editors)
-        editor->unload();
-}
+    void measureBare(benchmark::State& state, const EditorRow& row)
+    {
+        m_host.select(fieldOf(0, row));
+        TestHost::pump();
+        BareCopy copy(*m_host.window().findChild<QDockWidget*>()->widget());
+        m_host.select(static_cast<SoField*>(nullptr));
+        selectBare(state, m_host.window(), copy);
+    }
 
-double liveStep(int rounds)
+private:
+    SoField* fieldOf(int node, const EditorRow& row) const
+    {
+        SoField* field = m_nodes[node].field(row.type);
+        field->set(row.values[std::size_t(node)].c_str());
+        return field;
+    }
+
+    UndoStackHost m_host;
+    const Editors m_editors = allEditors();
+    SpxFieldEditorDockWin m_dock;
+    const Node m_nodes[2];
+};
+
+void liveStep(benchmark::State& state)
 {
     UndoStackHost host;
     EdSFFloatWidget editor(nullptr);
@@ -332,15 +332,15 @@ double liveStep(int rounds)
     host.edit(editor, &field);
     editor.getWidget()->resize(420, 40);
     auto* slider = editor.getWidget()->findChild<QSlider*>();
-    const double time = microseconds(rounds, [&](int i) {
-        slider->setValue(i % 100);
+    int position = 0;
+    for (auto _ : state) {
+        slider->setValue(++position % 100);
         TestHost::pump();
-    });
+    }
     host.release(editor);
-    return time;
 }
 
-double bareStep(int rounds)
+void bareLiveStep(benchmark::State& state)
 {
     class Step : public QUndoCommand
     {
@@ -368,12 +368,17 @@ double bareStep(int rounds)
         stack.push(new Step(value, float(position) / 10));
         bare.line->setText(QString::number(double(value), 'f', 6));
     });
-    const double time = microseconds(rounds, [&](int i) {
-        bare.slider->setValue(i % 100);
+    int position = 0;
+    for (auto _ : state) {
+        bare.slider->setValue(++position % 100);
         TestHost::pump();
-    });
+    }
     delete bare.frame;
-    return time;
+}
+
+void add(const std::string& name, const std::function<void(benchmark::State&)>& measure)
+{
+    benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMicrosecond)->MinTime(0.05);
 }
 
 } // namespace
@@ -381,9 +386,17 @@ double bareStep(int rounds)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 200;
-    const double ours = liveStep(rounds);
-    print("one live step of a slider", ours, bareStep(rounds));
-    compareSelections(rounds, argc > 2 ? argv[2] : "");
-    return 0;
+    std::vector<bench::Ratio> ratios{
+        {"one live step of a slider / of bare widgets", "liveStep", "bareLiveStep", ""}};
+    add("liveStep", liveStep);
+    add("bareLiveStep", bareLiveStep);
+    for (const EditorRow& row : editorRows()) {
+        if (row.isInGrid())
+            continue;
+        const std::string name = std::string("select ") + row.type;
+        add(name, [&row](benchmark::State& state) { Selections().measure(state, row); });
+        add("bare " + name, [&row](benchmark::State& state) { Selections().measureBare(state, row); });
+        ratios.push_back({row.type, name, "bare " + name, "of selecting bare widgets"});
+    }
+    return bench::run(argc, argv, ratios);
 }

@@ -43,11 +43,11 @@ inline SoTransform& lastTransform(SoSeparator& world)
 }
 
 /// As if nobody had asked for a box before.
-inline void forgetBoxes(const SoSeparator& world)
+inline void forgetBoxes(SoSeparator& world)
 {
     for (SoNode* child : world.getChildren())
-        static_cast<SoSeparator*>(child)->boxCache().isValid = false;
-    world.boxCache().isValid = false;
+        child->asGroup()->setExtension(nullptr);
+    world.setExtension(nullptr);
 }
 
 /// Whether a picture is more than its background.

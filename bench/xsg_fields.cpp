@@ -2,9 +2,9 @@
 // What fields cost beside the plain thing: text of numbers, inserting, notifying.
 #include "Ratios.h"
 
+#include <support/SoFieldGallery.h>
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>

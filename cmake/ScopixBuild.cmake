@@ -43,7 +43,8 @@ endif()
 # include roots it links, so an include against the arrows does not compile.
 function(scopix_include_root target prefix folder)
   set(root "${PROJECT_BINARY_DIR}/include/${target}")
-  file(MAKE_DIRECTORY "${root}")
+  get_filename_component(parent "${root}/${prefix}" DIRECTORY)
+  file(MAKE_DIRECTORY "${parent}")
   file(CREATE_LINK "${folder}" "${root}/${prefix}" SYMBOLIC)
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)

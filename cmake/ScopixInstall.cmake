@@ -2,35 +2,39 @@
 # What an installed Scopix consists of: the program, its libraries, the default plug-in, the scenes, and
 # the SDK (headers and the CMake package Scopix) that another plug-in or an embedding program builds on:
 #
-#     find_package(Scopix 1.0 REQUIRED)
+#     find_package(Scopix 1.0 REQUIRED COMPONENTS ExtenderAPI)
 #     target_link_libraries(mine PRIVATE Scopix::ExtenderAPI)
+#
+# Each library is a component; cmake/ScopixPublicHeaders.cmake lists what is installed of its headers.
 include(CMakePackageConfigHelpers)
+include(ScopixHeaders)
 
 set(SCOPIX_INSTALL_PLUGINS "${CMAKE_INSTALL_LIBDIR}/scopix/plugins")
 set(SCOPIX_INSTALL_PACKAGE "${CMAKE_INSTALL_LIBDIR}/cmake/Scopix")
+set(SCOPIX_COMPONENTS) # in the order of the calls: each one needs none but those before it
 
-# Each library finds the others wherever the whole is put.
-function(scopix_install_library target exported_name)
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported_name} INSTALL_RPATH "$ORIGIN")
-  install(TARGETS ${target} EXPORT ScopixTargets
+# Each library finds the others wherever the whole is put. Its targets are in a file of their own, so that a component
+# can be used where what the others need is missing.
+macro(scopix_install_library target component)
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${component} INSTALL_RPATH "$ORIGIN")
+  target_compile_features(${target} INTERFACE cxx_std_17)
+  install(TARGETS ${target} EXPORT Scopix${component}Targets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-endfunction()
-
-function(scopix_install_headers folder prefix)
-  install(DIRECTORY "${PROJECT_SOURCE_DIR}/${folder}/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${prefix}"
-    FILES_MATCHING PATTERN "*.h")
-endfunction()
+  install(EXPORT Scopix${component}Targets NAMESPACE Scopix:: DESTINATION "${SCOPIX_INSTALL_PACKAGE}")
+  list(APPEND SCOPIX_COMPONENTS ${component})
+endmacro()
 
 scopix_install_library(xsg xsg)
-scopix_install_headers(xsg xsg)
+scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
-scopix_install_headers(extender scopix)
+scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
+
+scopix_install_library(ScopixEditing Editing)
+scopix_public_headers(ScopixEditing scopix/editing "${PROJECT_SOURCE_DIR}/editing" ${SCOPIX_EDITING_HEADERS})
 
 scopix_install_library(ScopixHost Host)
-scopix_install_headers(host scopix-host)
-set_property(TARGET ScopixHost APPEND PROPERTY
-  INTERFACE_INCLUDE_DIRECTORIES "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/scopix-host>")
+scopix_public_headers(ScopixHost scopix-host "${PROJECT_SOURCE_DIR}/host/app" ${SCOPIX_HOST_HEADERS})
 
 set_target_properties(scopix PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS scopix RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
@@ -48,4 +52,3 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/cmake/ScopixConfigVersio
   COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake" "${PROJECT_BINARY_DIR}/cmake/ScopixConfigVersion.cmake"
   DESTINATION "${SCOPIX_INSTALL_PACKAGE}")
-install(EXPORT ScopixTargets NAMESPACE Scopix:: DESTINATION "${SCOPIX_INSTALL_PACKAGE}")

@@ -13,7 +13,7 @@ public:
 
     /// Called once, when the services take the command over.
     virtual void execute() = 0;
-    /// Then called in turn, as often as the person goes back and forth.
+    /// Then called in turn, each time the user undoes or redoes.
     virtual void undo() = 0;
     virtual void redo() = 0;
     virtual ~SpxCommand();

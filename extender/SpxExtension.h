@@ -7,7 +7,7 @@
 #include <QObject>
 
 /// A tool that a plug-in adds to the host. The host drives it: load() once, then activate() and deactivate()
-/// as profiles ask for it, show() and hide() as the person does, unload() once at the end. GUI thread only.
+/// as profiles ask for it, show() and hide() as the user does, unload() once at the end. GUI thread only.
 class SPX_API SpxExtension : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class SPX_API SpxExtension : public QObject
 public:
     ~SpxExtension() override;
 
-    /// Overrides call the base's activate, deactivate, hide and show, which keep the books below.
+    /// Overrides call the base's activate, deactivate, hide and show, which update isActive() and isShown().
     virtual void activate();
     virtual void deactivate();
     virtual void hide();

@@ -13,6 +13,9 @@ class SpxExtension;
 ///     extern "C" SpxPlugin* loadPlugin();      // makes the plug-in object
 ///     extern "C" void unloadPlugin();          // deletes it
 ///
+/// and states by SPX_PLUGIN_NOTE (SpxPluginNote.h) what it was made for, which the host checks before it runs
+/// any code of the library; a library without that note is loaded unchecked.
+///
 /// The host then calls load(), reads the extensions, and calls unload() before unloadPlugin(). GUI thread
 /// only.
 class SPX_API SpxPlugin

@@ -3,7 +3,7 @@
 
 #include <scopix/SpxProfile.h>
 
-/// What the host tells about its profiles. The host derives from it; its instance is the one that lives.
+/// The host's profiles, as extensions see them. The host derives from it and makes one instance.
 /// GUI thread only.
 class SPX_API SpxPluginsManager
 {

@@ -9,8 +9,8 @@ class SoField;
 class SoFieldContainer;
 class SpxCommand;
 
-/// Selection and undo, as the host offers them to extensions. The host derives from it; its instance is the
-/// one that lives. GUI thread only.
+/// Selection and undo, as the host offers them to extensions. The host derives from it and makes
+/// one instance. GUI thread only.
 class SPX_API SpxServices : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
     virtual void executeCommand(SpxCommand* command) = 0;
 
 signals:
-    /// The person selected a node or a field, or nothing (null). The same one may be told again. A field's
-    /// null comes before its node goes.
+    /// The user selected a node or a field, or nothing (null). May be emitted again for the same one. A
+    /// field's null comes before its node is destroyed.
     void selectedNodeChanged(SoFieldContainer* node);
     void selectedFieldChanged(SoField* field);
 

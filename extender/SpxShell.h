@@ -9,8 +9,8 @@ class QDockWidget;
 class QToolBar;
 class SpxExtension;
 
-/// The host's main window as extensions see it. The host derives from it; its instance is the one that lives.
-/// Dock widgets and tool bars stay the extension's own: what is removed comes back without a parent.
+/// The host's main window as extensions see it. The host derives from it and makes one instance.
+/// Dock widgets and tool bars are owned by the extension: what is removed has no parent afterwards.
 /// GUI thread only.
 class SPX_API SpxShell
 {
@@ -23,7 +23,7 @@ public:
 
     virtual void addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area) = 0;
     virtual void removeDockWidget(QDockWidget* dock) = 0;
-    /// Every extension announces itself at the end of its activate() and takes leave at the end of its
+    /// Every extension attaches itself at the end of its activate() and detaches itself at the end of its
     /// deactivate().
     virtual void attachExtension(SpxExtension* extension, bool attach) = 0;
     virtual void detachExtension(SpxExtension* extension) = 0;

@@ -23,7 +23,7 @@ namespace fuzz
 class CounterProfileCheck
 {
 public:
-    /// Counters that would be computed from themselves are told of as errors; here they are no news.
+    /// Counters that would be computed from themselves are reported as errors, which are expected here.
     CounterProfileCheck()
         : m_callback(SoDebugError::getHandlerCallback())
         , m_data(SoDebugError::getHandlerData())

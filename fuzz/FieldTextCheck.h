@@ -3,8 +3,8 @@
 
 #include "Check.h"
 
+#include <support/SoFieldGallery.h>
 #include <xsg/core/SoMField.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 
 #include <algorithm>
 

@@ -3,10 +3,10 @@
 
 #include "Check.h"
 
+#include <support/SoFieldGallery.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SoSceneFile.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
 #include <algorithm>

@@ -128,7 +128,7 @@ void SpxConsole::unload()
 
 void SpxConsole::activate()
 {
-    // Before the base's; meant so.
+    // Before the base's activate() (decisions.md: console-attached-first).
     SpxShell::getInstance()->attachExtension(this, true);
     SpxExtension::activate();
 
@@ -235,12 +235,12 @@ void SpxConsole::save()
     if (name.isEmpty() || !m_text)
         return;
     QFile file(name);
-    // An existing longer file keeps its tail; meant so.
+    // An existing longer file keeps its tail (decisions.md: console-saved-over).
     if (file.open(QIODevice::ReadWrite | QIODevice::Text))
         file.write(m_text->plainText().toLatin1());
 }
 
-// Inverts, whatever the button shows; meant so.
+// Inverts, whatever the button shows (decisions.md: console-toggles).
 void SpxConsole::toggle(ConsoleMessage::Kind kind)
 {
     m_outputs[kind].shown = !m_outputs[kind].shown;

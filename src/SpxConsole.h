@@ -25,7 +25,7 @@ class Ui_m_consoleFrame;
 /// Shows, in a dock at the bottom, what the application writes to std::cout and std::cerr while the console
 /// is active, and what the scene-graph library reports while it is loaded: coloured by kind, filtered,
 /// cleared and saved by buttons. It holds the newest lines, as many as the preference XSG_CONSOLE_MAX_LINES
-/// tells (100,000 unless set).
+/// says (100,000 unless set).
 ///
 /// Text may come from any thread: the GUI thread's is printed at once, that of others from the event loop.
 class SpxConsole : public SpxExtension
@@ -46,7 +46,7 @@ public:
     void unload() override;
     bool event(QEvent* event) override;
 
-    /// GUI thread. What is printed while its kind is switched off is gone.
+    /// GUI thread. What is printed while its kind is switched off is lost.
     void printError(const QString& text);
     void printInfo(const QString& text);
     void printWarning(const QString& text);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SpxDefaults.h"
 
+#include <scopix/SpxPluginNote.h>
+
+SPX_PLUGIN_NOTE("SpxDefaults", "1.0.0")
+
 namespace
 {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "SpxEditorDock.h"
 
-#include "EdText.h"
-
 #include <scopix/SpxServices.h>
 #include <scopix/SpxShell.h>
+#include <scopix/editing/SpxText.h>
 
 #include <QDockWidget>
 
@@ -22,7 +21,7 @@ void SpxEditorDock::load()
 {
     m_dock = new QDockWidget;
     m_dock->setAcceptDrops(false);
-    m_dock->setWindowTitle(toQString(getName()));
+    m_dock->setWindowTitle(SpxText::toQString(getName()));
     m_dock->setVisible(false);
 }
 

@@ -8,7 +8,7 @@
 class QDockWidget;
 class SpxServices;
 
-/// Base of the extensions that show an editor for what the person selected: a dock widget at the right, and
+/// Base of the extensions that show an editor for what the user selected: a dock widget at the right, and
 /// the choice of the most specific editor among those that the active profile controls. GUI thread only.
 class SpxEditorDock : public SpxExtension
 {

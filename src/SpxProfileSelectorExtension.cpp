@@ -45,7 +45,7 @@ void SpxProfileSelectorExtension::activate()
     SpxShell::getInstance()->addToolBar(m_toolBar, Qt::TopToolBarArea);
     SpxShell::getInstance()->attachExtension(this, true);
     show();
-    SpxExtension::activate(); // last; meant so
+    SpxExtension::activate(); // last (decisions.md: selector-active-last)
 }
 
 void SpxProfileSelectorExtension::deactivate()
@@ -73,7 +73,7 @@ void SpxProfileSelectorExtension::s_currentIndexChanged(int index)
     SpxPluginsManager* manager = SpxPluginsManager::getInstance();
     const QList<SpxProfile*> profiles = manager->getProfilesList();
     for (int position = 0; position < profiles.size(); ++position) {
-        // The names are appended again, and stay until the next activate(); meant so.
+        // All names once more, until the next activate() (decisions.md: selector-appends).
         appendProfile(*profiles[position]);
         if (position == index)
             manager->setActiveProfile(profiles[position]);

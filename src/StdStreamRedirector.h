@@ -22,8 +22,8 @@ class StdStreamRedirector : public std::basic_streambuf<Char, Traits>
 public:
     using Stream = std::basic_ostream<Char, Traits>;
     using Buffer = std::basic_streambuf<Char, Traits>;
-    /// text ends in NUL. The length is that of a block, and 1 for a collected line, whatever its length;
-    /// meant so.
+    /// text ends in NUL. The length is that of a block, and 1 for a collected line, whatever its length
+    /// (decisions.md: redirector-length).
     using Callback = void(const Char* text, long length, void* data);
 
     StdStreamRedirector(Stream& stream, Callback* callback, void* data)

@@ -12,6 +12,7 @@ scopix_build_packages=(
   "ninja-build|runs the build"
   "ccache|makes every later build short"
   "qtbase5-dev|windows, widgets, XML files"
+  "libqt5svg5-dev|icons, sharp at every pixel density"
   "libqwt-qt5-dev|plots of the performance counters"
   "libepoxy-dev|calls OpenGL"
   "libassimp-dev|reads model files"

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/CommandLine.h"
+#include <scopix-host/CommandLine.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-
-#include <algorithm>
-#include <iterator>
 
 namespace scopix
 {
@@ -18,35 +15,39 @@ QString tr(const char* text)
     return QCoreApplication::translate("CommandLine", text);
 }
 
-struct Option {
-    const char* name;
-    const char* value; // null: a switch
-    const char* help;
-};
+QCommandLineOption option(const char* name, const char* help, const QString& value = {})
+{
+    return {QLatin1String(name), tr(help), value};
+}
 
-constexpr Option Options[] = {
-    {"plugin", "PATH",
-     QT_TRANSLATE_NOOP("CommandLine", "Load this plug-in too; may be given several times.")},
-    {"profile", "NAME", QT_TRANSLATE_NOOP("CommandLine", "Use this profile in this session.")},
-    {"select", "NODE.FIELD",
-     QT_TRANSLATE_NOOP("CommandLine", "Select this field; NODE is a node's name or type.")},
-    {"screenshot", "OUT.png",
-     QT_TRANSLATE_NOOP("CommandLine", "Write a picture of the window and end; needs no display.")},
-    {"quit", nullptr, QT_TRANSLATE_NOOP("CommandLine", "End when everything asked for is done.")},
-    {"counters", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Switch the performance counters on.")},
-    {"help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show this text and end.")},
-    {"version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show the version and end.")},
-};
+QList<QCommandLineOption> options()
+{
+    return {
+        option("plugin", "Load this plug-in too; may be given several times.", tr("PATH")),
+        option("profile", "Use this profile in this session.", tr("NAME")),
+        option("select", "Select this field; NODE is a node's name or type.", tr("NODE.FIELD")),
+        option("screenshot", "Write a picture of the window and end; needs no display.", tr("OUT.png")),
+        option("quit", "End when everything asked for is done."),
+        option("counters", "Switch the performance counters on."),
+        option("help", "Show this text and end."),
+        option("version", "Show the version and end."),
+    };
+}
 
-// Options that the toolkit takes for itself, each followed by a value.
-constexpr const char* ToolkitOptions[] = {"-platform", "-style", "-stylesheet", "-display", "-geometry"};
+// Options of Qt itself, each followed by a value.
+const QStringList& toolkitOptions()
+{
+    static const QStringList names{QStringLiteral("-platform"), QStringLiteral("-style"),
+                                   QStringLiteral("-stylesheet"), QStringLiteral("-display"),
+                                   QStringLiteral("-geometry")};
+    return names;
+}
 
 QStringList withoutToolkitOptions(const QStringList& arguments)
 {
     QStringList rest;
     for (int i = 0; i < arguments.size(); ++i) {
-        const auto is = [&](const char* option) { return arguments.at(i) == QLatin1String(option); };
-        if (std::any_of(std::begin(ToolkitOptions), std::end(ToolkitOptions), is))
+        if (toolkitOptions().contains(arguments.at(i)))
             ++i;
         else
             rest += arguments.at(i);
@@ -54,13 +55,10 @@ QStringList withoutToolkitOptions(const QStringList& arguments)
     return rest;
 }
 
-void addOptions(QCommandLineParser& parser)
+void describe(QCommandLineParser& parser)
 {
-    for (const Option& option : Options) {
-        const QString name = QLatin1String(option.name);
-        const QString value = option.value ? QString::fromLatin1(option.value) : QString();
-        parser.addOption({name, tr(option.help), value});
-    }
+    parser.setApplicationDescription(tr("Inspects and tunes the 3D scene or model in FILE."));
+    parser.addOptions(options());
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("The scene or model to open."),
                                  QStringLiteral("[FILE]"));
 }
@@ -70,7 +68,7 @@ QString takeSelect(CommandLine& line, const QString& value)
 {
     const int dot = value.lastIndexOf(QLatin1Char('.'));
     if (dot <= 0 || dot == value.size() - 1)
-        return tr("--select expects NODE.FIELD, such as Material.transparency, and not \"%1\".").arg(value);
+        return tr("--select expects NODE.FIELD, such as Material.transparency, and not “%1”.").arg(value);
     line.selectNode = value.left(dot);
     line.selectField = value.mid(dot + 1);
     return {};
@@ -80,12 +78,12 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
 {
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
-        return tr("Only one FILE can be opened, and %1 were given, the second being \"%2\".")
+        return tr("Only one FILE can be opened, and %1 were given, the second being “%2”.")
             .arg(QString::number(files.size()), files.at(1));
-    for (const Option& option : Options) {
-        const QString name = QLatin1String(option.name);
-        if (option.value && parser.isSet(name) && parser.values(name).contains(QString()))
-            return tr("--%1 expects %2, and nothing was given.").arg(name, QLatin1String(option.value));
+    for (const QCommandLineOption& option : options()) {
+        if (!option.valueName().isEmpty() && parser.values(option).contains(QString()))
+            return tr("--%1 expects %2, and nothing was given.")
+                .arg(option.names().first(), option.valueName());
     }
     if (files.value(0).isEmpty() && !files.isEmpty())
         return tr("FILE expects the path of a scene or model, and nothing was given.");
@@ -100,9 +98,9 @@ CommandLine CommandLine::parse(const QStringList& arguments)
 {
     CommandLine line;
     QCommandLineParser parser;
-    addOptions(parser);
+    describe(parser);
     if (!parser.parse(withoutToolkitOptions(arguments))) {
-        line.error = parser.errorText() + tr(" (scopix --help tells the options.)");
+        line.error = tr("%1 (scopix --help lists the options.)").arg(parser.errorText());
         return line;
     }
     line.plugins = parser.values(QStringLiteral("plugin"));
@@ -118,17 +116,9 @@ CommandLine CommandLine::parse(const QStringList& arguments)
 
 QString CommandLine::helpText()
 {
-    QString text =
-        QStringLiteral("scopix [FILE] [--plugin PATH] [--profile NAME] [--select NODE.FIELD]\n"
-                       "       [--screenshot OUT.png] [--quit] [--counters] [--help] [--version]\n\n");
-    text += tr("Inspects and tunes the 3D scene or model in FILE.") + QStringLiteral("\n\n");
-    for (const Option& option : Options) {
-        QString usage = QStringLiteral("  --") + QLatin1String(option.name);
-        if (option.value)
-            usage += QLatin1Char(' ') + QLatin1String(option.value);
-        text += usage.leftJustified(26) + tr(option.help) + QLatin1Char('\n');
-    }
-    return text;
+    QCommandLineParser parser;
+    describe(parser);
+    return parser.helpText();
 }
 
 QString CommandLine::versionText()

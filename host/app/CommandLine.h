@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <scopix-host/HostExport.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -8,7 +10,7 @@ namespace scopix
 {
 
 /// What the command line asks for.
-struct CommandLine {
+struct SCOPIX_HOST_API CommandLine {
     QString file;
     QStringList plugins;
     QString profile;
@@ -22,12 +24,12 @@ struct CommandLine {
 
     QString error; // one sentence; empty when all is well
 
-    /// Nobody is there to answer a box.
+    /// Nobody is there to answer a message box.
     bool isUnattended() const { return quit || !screenshot.isEmpty(); }
 
-    /// `arguments` begin with the program's name. What only concerns the window system (such as -platform) is
-    /// passed over.
+    /// `arguments` begin with the program's name. Qt's own options, such as -platform, are skipped.
     static CommandLine parse(const QStringList& arguments);
+    /// Needs a QCoreApplication, whose first argument it names.
     static QString helpText();
     static QString versionText();
 };

@@ -1,17 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/HostApplication.h"
+#include <scopix-host/HostApplication.h>
 
-#include "import/TextureImageLoader.h"
-#include "plugins/PluginSearchPath.h"
-#include "profiles/ProfilesMenu.h"
-#include "settings/DataDirectory.h"
-#include "settings/UserSettings.h"
-#include "shell/ToolsMenu.h"
-
-#include <xsg/support/SoPreferences.h>
-
-#include <QApplication>
-#include <QSettings>
+#include "app/HostSession.h"
+#include "window/MainWindow.h"
 
 namespace scopix
 {
@@ -19,116 +10,59 @@ namespace scopix
 namespace
 {
 
-constexpr auto CounterSwitch = "XSG_PERFCOUNTER_ENABLE";
+std::unique_ptr<HostWindow> makeWindow(HostServices& services, UserNotifier& notifier)
+{
+    return std::make_unique<MainWindow>(services, notifier);
+}
 
 } // namespace
 
-HostApplication::HostApplication(const MakeWindow& makeWindow, ProfileFile profiles)
-    : m_window(makeWindow(m_services, m_notifier))
-    , m_shell(*m_window)
-    , m_plugins(m_services, m_shell, std::move(profiles))
-    , m_undoShortcuts(m_services.undoStack(), *m_window)
+struct HostApplication::Private {
+    HostSession session{makeWindow};
+    MainWindow& window = static_cast<MainWindow&>(session.window());
+};
+
+HostApplication::HostApplication()
+    : m_private(std::make_unique<Private>())
 {
-    TextureImageLoader::install();
-    // Icons are painted in the density of the screen.
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    m_notifier.setWindow(m_window.get());
-    connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
-    connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
-    connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
-    connect(m_window.get(), &HostWindow::openFinished, this, &HostApplication::openFinished);
-    new ToolsMenu(m_shell, *m_window->viewMenu());
-    new ProfilesMenu(m_plugins, *m_window->profilesMenu());
+    connect(&m_private->session, &HostSession::finished, this, &HostApplication::finished);
 }
 
-HostApplication::~HostApplication()
-{
-    if (m_keepsLayout)
-        saveLayout();
-    m_plugins.unloadAll();
-    m_services.clearSelection();
-    m_services.history().clear();
-}
+HostApplication::~HostApplication() = default;
 
-void HostApplication::loadStandardPlugins()
+void HostApplication::start(const CommandLine& line)
 {
-    for (const QString& path : PluginSearchPath::findAll())
-        m_plugins.loadPlugin(path);
+    m_private->session.start(line);
 }
 
 int HostApplication::run(const CommandLine& line)
 {
-    connect(this, &HostApplication::finished, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    start(line);
-    QApplication::exec();
-    return m_status;
+    return m_private->session.run(line);
 }
 
-void HostApplication::start(const CommandLine& line)
+bool HostApplication::inspect(SoNode* scene, const QString& title)
 {
-    m_asked = line;
-    m_notifier.setAttended(!line.isUnattended());
-    if (line.counters)
-        qputenv(CounterSwitch, "1");
-    // Switched off, the counters have only to tell how they are switched on, which is worth no place in the
-    // window.
-    if (!SoPreferences::getBool(CounterSwitch, false))
-        m_shell.keepHiddenAtFirst(QStringLiteral("PerfCounter"));
-    const QString homeTrouble = DataDirectory::ensure();
-    if (!homeTrouble.isEmpty())
-        m_notifier.error(homeTrouble);
-    m_plugins.readProfiles();
-    if (!line.profile.isEmpty() && !m_plugins.useProfile(line.profile))
-        m_notifier.error(tr("There is no profile named \"%1\".").arg(line.profile));
-    loadStandardPlugins();
-    for (const QString& path : line.plugins)
-        m_plugins.loadPlugin(path);
-    if (!line.isUnattended())
-        restoreLayout();
-    m_window->show();
-    if (line.file.isEmpty())
-        openFinished();
-    else
-        m_window->openFile(line.file);
+    return m_private->window.inspect(scene, title);
 }
 
-void HostApplication::openFinished()
+bool HostApplication::isVisible() const
 {
-    if (!m_asked)
-        return; // a file that the person opened later
-    const CommandLine line = *m_asked;
-    m_asked.reset();
-    if (!line.selectNode.isEmpty())
-        m_window->selectField(line.selectNode, line.selectField);
-    // A turn later, when profile and editors stand.
-    QMetaObject::invokeMethod(
-        this, [this, line] { finish(line); }, Qt::QueuedConnection);
+    return m_private->window.isVisible();
 }
 
-void HostApplication::finish(const CommandLine& line)
+void HostApplication::show()
 {
-    if (!line.screenshot.isEmpty())
-        m_window->saveScreenshot(line.screenshot);
-    m_status = m_notifier.errorCount() > 0 ? 1 : 0;
-    if (line.isUnattended())
-        emit finished();
-    else
-        m_window->enterInteractiveMode();
+    MainWindow& window = m_private->window;
+    if (window.isMinimized())
+        window.showNormal();
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
-void HostApplication::restoreLayout()
+bool HostApplication::close()
 {
-    m_keepsLayout = true;
-    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
-    m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
-}
-
-void HostApplication::saveLayout() const
-{
-    QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
-    settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+    return m_private->window.close();
 }
 
 } // namespace scopix

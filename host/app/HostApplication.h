@@ -1,70 +1,67 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/CommandLine.h"
-#include "app/HostWindow.h"
-#include "app/SensorPump.h"
-#include "plugins/HostPluginsManager.h"
-#include "services/HostServices.h"
-#include "shell/HostShell.h"
-#include "support/UserNotifier.h"
-#include "undo/UndoShortcutFilter.h"
+#include <scopix-host/CommandLine.h>
+#include <scopix-host/HostExport.h>
 
-#include <functional>
+#include <QObject>
+
 #include <memory>
-#include <optional>
+
+class SoNode;
 
 namespace scopix
 {
 
-/// The whole host: services, window, shell, plug-ins and profiles, set up in their order and taken down in
-/// the reverse one. Needs a QApplication; a program that has one embeds the host by making one of these and
-/// calling start() with an empty command line. GUI thread only.
-class HostApplication : public QObject
+/// The inspector: its window, its plug-ins and its profiles, either as the program `scopix` or inside of an
+/// application that has a QApplication and shows a scene of its own:
+///
+///     scopix::HostApplication inspector;
+///     inspector.inspect(scene, "Engine");
+///     inspector.start();
+///
+/// The application stays as it is: its style, palette, font, environment and attributes are not touched, it
+/// goes on when the inspector's window is closed, and its scene is neither animated nor saved by the
+/// inspector. One at a time; GUI thread only, and destroyed before the QApplication.
+///
+/// Plug-ins that are active may change the process: the default extensions redirect its output and error
+/// handlers to their console.
+class SCOPIX_HOST_API HostApplication : public QObject
 {
     Q_OBJECT
 
 public:
-    using MakeWindow = std::function<std::unique_ptr<HostWindow>(HostServices&, UserNotifier&)>;
-
-    explicit HostApplication(const MakeWindow& makeWindow,
-                             ProfileFile profiles = ProfileFile(ProfileFile::standardPath()));
+    HostApplication();
     /// Unloads the plug-ins while the window still stands.
     ~HostApplication() override;
 
-    HostServices& services() { return m_services; }
-    UserNotifier& notifier() { return m_notifier; }
-    HostWindow& window() { return *m_window; }
-    HostShell& shell() { return m_shell; }
-    HostPluginsManager& plugins() { return m_plugins; }
+    /// Loads profiles and plug-ins, shows the window and does what the command line asks for. Call it once.
+    void start(const CommandLine& line = {});
+    /// start(), and the event loop until finished(). Returns the exit status: 1 when something of the command
+    /// line could not be done.
+    int run(const CommandLine& line = {});
 
-    /// Loads the plug-ins that lie in the standard folders.
-    void loadStandardPlugins();
-    /// Does what the command line asks for; finished() follows when it is done.
-    void start(const CommandLine& line);
-    /// start(), and the event loop until the window is closed or everything is done. Returns the exit status:
-    /// 1 when something of the command line could not be done.
-    int run(const CommandLine& line);
+    /// Shows a scene of the application's under this title, in place of what was open. Edits act on the scene
+    /// at once and can be undone; they are never "unsaved", since the scene belongs to no file. Holds a
+    /// reference to the scene until another one is shown; null shows the shipped scene. False when the user
+    /// keeps unsaved edits of what is open, which stays then.
+    bool inspect(SoNode* scene, const QString& title = {});
+
+    bool isVisible() const;
+    /// Shows the window again, in front of others, with the scene and the selection that it had.
+    void show();
+    /// Closes the window as its user would, who is asked about unsaved edits of a file. False when it stays
+    /// open.
+    bool close();
 
 signals:
+    /// The user has closed the window, or everything that the command line asks for is done and nobody is
+    /// there to go on.
     void finished();
 
 private:
-    void openFinished();
-    void finish(const CommandLine& line);
-    void restoreLayout();
-    void saveLayout() const;
-
-    SensorPump m_pump;
-    UserNotifier m_notifier;
-    HostServices m_services;
-    std::unique_ptr<HostWindow> m_window;
-    HostShell m_shell;
-    HostPluginsManager m_plugins;
-    UndoShortcutFilter m_undoShortcuts;
-    std::optional<CommandLine> m_asked; // until its file has been opened
-    bool m_keepsLayout = false;         // a person's session
-    int m_status = 0;
+    struct Private;
+    const std::unique_ptr<Private> m_private;
 };
 
 } // namespace scopix

@@ -33,13 +33,16 @@ SensorPump::SensorPump(QObject* parent)
     m_due.setSingleShot(true);
     m_due.setTimerType(Qt::PreciseTimer);
     connect(&m_due, &QTimer::timeout, this, &SensorPump::turn);
+    if (SoSensorQueue::getInstance().hasWakeUp())
+        return;
     SoSensorQueue::getInstance().setWakeUp(wakeUp, this);
     turn();
 }
 
 SensorPump::~SensorPump()
 {
-    SoSensorQueue::getInstance().setWakeUp(nullptr, nullptr);
+    if (SoSensorQueue::getInstance().hasWakeUp(wakeUp, this))
+        SoSensorQueue::getInstance().setWakeUp(nullptr, nullptr);
 }
 
 bool SensorPump::event(QEvent* event)

@@ -8,7 +8,8 @@ namespace scopix
 {
 
 /// Runs the queue of triggered sensors, once per turn of the event loop, and again when a timed one is due.
-/// One lives while the host does. GUI thread only.
+/// Leaves the queue alone where the application already drives it. One lives while the host does. GUI thread
+/// only.
 class SensorPump : public QObject
 {
     Q_OBJECT

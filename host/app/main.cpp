@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program: reads the command line, chooses the window system and hands over to the host.
-#include "app/CommandLine.h"
-#include "app/HostApplication.h"
-#include "window/MainWindow.h"
+#include <scopix-host/HostApplication.h>
 
 #include <QApplication>
 
@@ -49,23 +47,27 @@ int main(int argc, char** argv)
         return 2;
     }
     if (line.help || line.version) {
+        const QCoreApplication application(argc, argv);
         print(stdout, line.help ? scopix::CommandLine::helpText() : scopix::CommandLine::versionText());
         return 0;
     }
     if (!chooseWindowSystem(line)) {
         print(stderr,
-              QStringLiteral("scopix: There is no display to open a window on; --screenshot OUT.png writes a "
-                             "picture of the window without one."));
+              QCoreApplication::translate(
+                  "main", "scopix: There is no display to open a window on; --screenshot OUT.png writes a "
+                          "picture of the window without one."));
         return 1;
     }
-    int noOptions = 1; // "--plugin" means something else to Qt
+    if (line.counters)
+        qunsetenv("XSG_PERFCOUNTER_ENABLE"); // which would win over what the option asks for
+    int noOptions = 1;                       // "--plugin" means something else to Qt
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // icons in the density of the screen
+    QApplication::setStyle(QStringLiteral("Fusion"));         // what the window would set for each of its widgets
     QApplication application(noOptions, argv);
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
     QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
-    scopix::HostApplication host([](scopix::HostServices& services, scopix::UserNotifier& notifier) {
-        return std::make_unique<scopix::MainWindow>(services, notifier);
-    });
+    scopix::HostApplication host;
     return host.run(line);
 }

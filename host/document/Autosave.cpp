@@ -6,6 +6,9 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+#include <utility>
+
 namespace scopix
 {
 
@@ -14,6 +17,7 @@ namespace
 
 constexpr int PauseMs = 3000;
 constexpr int LimitMs = 60000; // of editing without a pause
+constexpr int LeastRatio = 20; // of the time between two writings to the time that one keeps the user waiting
 
 } // namespace
 
@@ -25,14 +29,14 @@ QString Autosave::standardFolder()
 Autosave::Autosave(SceneDocument& document, QString folder)
     : m_document(document)
     , m_folder(std::move(folder))
+    , m_pauseMs(PauseMs)
+    , m_limitMs(LimitMs)
 {
     for (QTimer* timer : {&m_pause, &m_limit}) {
         timer->setSingleShot(true);
         connect(timer, &QTimer::timeout, this, &Autosave::writeWhenUndisturbed);
     }
     m_pause.setObjectName(QStringLiteral("pause"));
-    m_pause.setInterval(PauseMs);
-    m_limit.setInterval(LimitMs);
     connect(&m_writer, &SnapshotWriter::finished, this, &Autosave::written);
 }
 
@@ -47,7 +51,7 @@ void Autosave::start()
     if (std::exchange(m_started, true))
         return;
     connect(&m_document, &SceneDocument::edited, this, &Autosave::edited);
-    // A turn later: what rebuilds the history is clean for a moment.
+    // From the event loop: a history that is being rebuilt is clean for a moment.
     connect(&m_document, &SceneDocument::stateChanged, this, &Autosave::stateChanged, Qt::QueuedConnection);
     if (m_document.isModified())
         edited();
@@ -75,9 +79,14 @@ void Autosave::edited()
     if (!m_document.isModified())
         return;
     m_pending = true;
-    m_pause.start();
+    startTimer(m_pause, m_pauseMs);
     if (!m_limit.isActive())
-        m_limit.start();
+        startTimer(m_limit, m_limitMs);
+}
+
+void Autosave::startTimer(QTimer& timer, int ms)
+{
+    timer.start(static_cast<int>(std::max<qint64>(ms, LeastRatio * m_writer.getLastBlockedMs())));
 }
 
 void Autosave::stateChanged()
@@ -88,13 +97,13 @@ void Autosave::stateChanged()
         edited();
 }
 
-// A held button is an edit under way; the pause begins with its release.
+// While a button is held, an edit is in progress; the pause begins with its release.
 void Autosave::writeWhenUndisturbed()
 {
     if (!m_pending)
         return;
     if (m_writer.isBusy() || QGuiApplication::mouseButtons() != Qt::NoButton)
-        m_pause.start();
+        startTimer(m_pause, m_pauseMs);
     else
         write();
 }

@@ -23,7 +23,7 @@ RecentFiles::RecentFiles(QString file)
 {
 }
 
-// Read anew each time: another session may have added to it.
+// Read on each call: another session may have added to it.
 QStringList RecentFiles::list() const
 {
     return QSettings(m_file, QSettings::IniFormat).value(key()).toStringList().mid(0, Most);

@@ -6,8 +6,8 @@
 namespace scopix
 {
 
-/// The files that the person opened or saved last, newest first, kept in their configuration and shared by
-/// all their sessions. GUI thread only.
+/// The files that the user opened or saved last, newest first, kept in the configuration and shared by all
+/// sessions. GUI thread only.
 class RecentFiles
 {
 public:

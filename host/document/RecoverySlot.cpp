@@ -22,7 +22,7 @@ std::unique_ptr<RecoverySlot> RecoverySlot::make(const QString& folder)
 {
     if (!QDir().mkpath(folder))
         return nullptr;
-    // What a person has not saved is nobody else's business.
+    // Unsaved edits are private to the user.
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QString name = QUuid::createUuid().toString(QUuid::Id128);
     std::unique_ptr<RecoverySlot> slot(new RecoverySlot(folder + QLatin1Char('/') + name));
@@ -72,7 +72,7 @@ void RecoverySlot::remove()
 {
     const QFileInfo base(m_base);
     QDir folder(base.path());
-    // Also what a write that was cut short left under a temporary name.
+    // Also what an interrupted write left under a temporary name.
     for (const QString& name : folder.entryList({base.fileName() + QStringLiteral(".*")}, QDir::Files)) {
         if (!name.endsWith(QStringLiteral(".lock")))
             folder.remove(name);

@@ -10,8 +10,9 @@
 namespace scopix
 {
 
-/// The place of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file
-/// that says whose edits these are, and a lock that tells the living from the crashed. GUI thread only.
+/// The files of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file
+/// that says what was edited, and a lock that distinguishes running sessions from crashed ones. GUI thread
+/// only.
 class RecoverySlot
 {
 public:
@@ -21,13 +22,13 @@ public:
         QString title;
     };
 
-    /// A new place, locked for this session; null where the folder cannot be written.
+    /// A new slot, locked for this session; null where the folder cannot be written.
     static std::unique_ptr<RecoverySlot> make(const QString& folder);
-    /// What a session left behind that did not end by itself, locked for this one; the newest where there are
-    /// several, null where there is none. What sessions that live have is left alone.
+    /// What a crashed session left behind, locked for this one; the newest where there are several, null
+    /// where there is none. Slots of running sessions are left alone.
     static std::unique_ptr<RecoverySlot> findOrphaned(const QString& folder);
 
-    /// Lets the lock go. The files stay: whoever comes next finds them as lost.
+    /// Releases the lock. The files stay, for the next session to find.
     ~RecoverySlot() = default;
 
     QString scenePath() const { return m_base + QStringLiteral(".xsg"); }
@@ -36,7 +37,7 @@ public:
     bool setOrigin(const Origin& origin) const;
     QDateTime getTime() const; // when the edits were written last
 
-    /// Takes the files away; the place is of no use any more.
+    /// Removes the files and releases the lock; the slot is of no use any more.
     void remove();
 
 private:

@@ -2,7 +2,7 @@
 #include "document/SceneDocument.h"
 
 #include "document/TexturePaths.h"
-#include "import/ModelFormats.h"
+#include "model/ModelFormats.h"
 #include "services/HostServices.h"
 
 #include <xsg/core/SoField.h>
@@ -43,16 +43,28 @@ QStringList SceneDocument::fileExtensions()
 
 void SceneDocument::begin(SoNode* root, const QString& path, const QString& title)
 {
+    if (!path.isEmpty())
+        setPictureFolder(root, QFileInfo(path).absolutePath());
+    replaceRoot(root, false);
+    setState(path, title);
+}
+
+void SceneDocument::beginExternal(SoNode* root, const QString& title)
+{
+    replaceRoot(root, true);
+    setState({}, title);
+}
+
+void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
+{
     m_services.clearSelection();
     m_services.history().clear();
     m_services.undoStack().setClean();
     const SoRef<SoNode> before = m_root;
     m_root = SoRef<SoNode>(root);
+    m_isExternal = isExternal;
     m_touched = false;
-    if (!path.isEmpty())
-        setPictureFolder(root, QFileInfo(path).absolutePath());
     emit rootChanged(root);
-    setState(path, title);
 }
 
 void SceneDocument::beginModified(SoNode* root, const QString& path, const QString& title)
@@ -68,7 +80,7 @@ bool SceneDocument::hasSceneFile() const
 
 bool SceneDocument::isModified() const
 {
-    return m_touched || !m_services.undoStack().isClean();
+    return !m_isExternal && (m_touched || !m_services.undoStack().isClean());
 }
 
 QString SceneDocument::save(const QString& path)
@@ -76,16 +88,22 @@ QString SceneDocument::save(const QString& path)
     // A link stays one; what it leads to is replaced.
     const QFileInfo target(path);
     const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
-    if (QFileInfo(real).dir().exists())
+    if (!m_isExternal && QFileInfo(real).dir().exists())
         movePictures(m_root.get(), QFileInfo(real).absolutePath());
     std::string error;
     if (!SoSceneFile::write(m_root.get(), QFile::encodeName(real).toStdString(), error))
         return QString::fromStdString(error);
+    if (!m_isExternal)
+        adoptFile(path);
+    return {};
+}
+
+void SceneDocument::adoptFile(const QString& path)
+{
     m_touched = false;
     knowField(); // the name of a picture may have been moved
     m_services.undoStack().setClean();
-    setState(path, target.fileName());
-    return {};
+    setState(path, QFileInfo(path).fileName());
 }
 
 void SceneDocument::setState(const QString& path, const QString& title)
@@ -122,7 +140,7 @@ void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
 {
     auto& document = *static_cast<SceneDocument*>(self);
     const SoField* field = document.m_sensor.getAttachedField();
-    // What follows another field is nobody's edit.
+    // A value that comes over a connection is no edit.
     if (!field || field->isConnected() || field->getChangeCount() == document.m_knownCount)
         return;
     document.m_touched = true;

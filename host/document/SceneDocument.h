@@ -25,15 +25,20 @@ public:
     explicit SceneDocument(HostServices& services);
     ~SceneDocument() override;
 
-    /// The endings of the names of scene files and of everything that can be opened, in lower case.
+    /// The suffixes of scene files and of everything that can be opened, in lower case.
     static QString sceneEnding();
     static QStringList fileExtensions();
 
-    /// Opens another scene in place of the one before: selection and history go. `path` is the scene file or
-    /// model it came from, or empty; `title` names it.
+    /// Opens another scene in place of the one before, and clears selection and history. `path` is the scene
+    /// file or model it came from, or empty; `title` names it.
     void begin(SoNode* root, const QString& path, const QString& title);
     /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title);
+
+    /// As begin(), with a scene that belongs to the application around the host. It is never modified in the
+    /// sense of isModified(), and saving writes a copy of it.
+    void beginExternal(SoNode* root, const QString& title);
+    bool isExternal() const { return m_isExternal; }
 
     SoNode* getRoot() const { return m_root.get(); }
     const QString& getPath() const { return m_path; }
@@ -47,14 +52,15 @@ public:
     quint64 getEditCount() const { return m_editCount; }
 
     /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever
-    /// happens. One sentence where it cannot be written, else an empty text.
+    /// happens. An external scene stays external, and the names of its pictures stay as they are. Returns one
+    /// sentence where it cannot be written, else an empty text.
     QString save(const QString& path);
 
 signals:
-    /// The views show this root now; the one before is alive until all have been told.
+    /// The views are to show this root; the one before is alive until all have been notified.
     void rootChanged(SoNode* root);
     void edited();
-    /// Path, title or whether it is modified.
+    /// Path, title or the modified state.
     void stateChanged();
 
 private:
@@ -62,10 +68,13 @@ private:
     void watch(SoField* field);
     void knowField();
     void acted();
+    void replaceRoot(SoNode* root, bool isExternal);
+    void adoptFile(const QString& path);
     void setState(const QString& path, const QString& title);
 
     HostServices& m_services;
     SoRef<SoNode> m_root;
+    bool m_isExternal = false;
     QString m_path;
     QString m_title;
     SoFieldSensor m_sensor;         // of the selected field: some edits leave no step in the history

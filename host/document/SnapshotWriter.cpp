@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "document/SnapshotWriter.h"
 
+#include "support/CatchExceptions.h"
+
 #include <xsg/files/SoSceneFile.h>
 
-#include <QFile>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSaveFile>
 
-#include <cerrno>
-#include <csignal>
-#include <fcntl.h>
+#include <algorithm>
+#include <mutex>
 #include <string>
-#include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace scopix
@@ -18,29 +21,98 @@ namespace scopix
 namespace
 {
 
-// A child that takes longer hangs: in a lock that another thread held when it was made.
-constexpr int PatienceMs = 300 * 1000;
+constexpr std::size_t BlockBytes = 1 << 20; // after each, the thread looks whether it is still wanted
 
-constexpr char Written = '+';
-
-std::string writeHere(const SoNode* root, const std::string& path)
+QString cannotWrite(const QString& path, const QString& reason)
 {
-    std::string error;
-    SoSceneFile::write(root, path, error);
-    return error;
+    return SnapshotWriter::tr("%1: The file cannot be written: %2.")
+        .arg(QDir::toNativeSeparators(path), reason);
 }
 
 } // namespace
 
+/// One snapshot on its way to the file. Owned by the writer and by the thread that runs it.
+class SnapshotWriter::Job : public std::enable_shared_from_this<Job>
+{
+public:
+    Job(SnapshotWriter& writer, const SoNode* root, QString path)
+        : m_path(std::move(path))
+        , m_writer(&writer)
+    {
+        m_problem = catchExceptions([&] { m_text = SoSceneFile::writeText(root); });
+    }
+
+    /// On the thread.
+    void run()
+    {
+        QString problem = m_problem;
+        if (problem.isEmpty()) {
+            const QString failure = catchExceptions([&] { problem = writeFile(); });
+            problem = failure.isEmpty() ? problem : failure;
+        }
+        report(problem.isEmpty() ? QString() : cannotWrite(m_path, problem));
+    }
+
+    /// Waits no longer than renaming a file takes.
+    void cancel()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_writer = nullptr;
+    }
+
+private:
+    // While the lock is held, the writer neither cancels nor is destroyed. False where it has cancelled.
+    template <class Act>
+    bool unlessCancelled(Act act)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_writer)
+            act();
+        return m_writer != nullptr;
+    }
+
+    // Returns why it cannot be written, or an empty text.
+    QString writeFile()
+    {
+        QSaveFile file(m_path);
+        bool good = false;
+        unlessCancelled([&] { good = file.open(QIODevice::WriteOnly); });
+        good = good && writeText(file) && file.flush();
+        if (good)
+            fsync(file.handle()); // here, since commit() would do it while the lock is held
+        unlessCancelled([&] { good = good && file.commit(); });
+        return good ? QString() : file.errorString();
+    }
+
+    bool writeText(QSaveFile& file)
+    {
+        for (std::size_t at = 0; at < m_text.size(); at += BlockBytes) {
+            const auto size = static_cast<qint64>(std::min(BlockBytes, m_text.size() - at));
+            if (!unlessCancelled([] {}) || file.write(m_text.data() + at, size) != size)
+                return false;
+        }
+        return true;
+    }
+
+    void report(const QString& error)
+    {
+        unlessCancelled([&] {
+            QMetaObject::invokeMethod(
+                m_writer, [writer = m_writer, job = shared_from_this(), error] { writer->end(job, error); },
+                Qt::QueuedConnection);
+        });
+    }
+
+    const QString m_path;
+    std::string m_text;
+    QString m_problem; // of making the text
+    std::mutex m_mutex;
+    SnapshotWriter* m_writer; // null once cancelled
+};
+
 SnapshotWriter::SnapshotWriter(QObject* parent)
     : QObject(parent)
 {
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(PatienceMs);
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        kill(m_child, SIGKILL);
-        end(tr("“%1” cannot be written: writing it took too long.").arg(m_path));
-    });
 }
 
 SnapshotWriter::~SnapshotWriter()
@@ -50,75 +122,41 @@ SnapshotWriter::~SnapshotWriter()
 
 void SnapshotWriter::write(const SoNode* root, const QString& path)
 {
-    m_path = path;
-    const std::string encoded = QFile::encodeName(path).toStdString();
-    int ends[2] = {-1, -1};
-    m_child = pipe2(ends, O_CLOEXEC) == 0 ? fork() : -1;
-    if (m_child == 0)
-        writeInChild(root, encoded, ends[1]);
-    close(ends[1]);
-    if (m_child < 0) { // no memory, or too many processes: better late than never
-        close(ends[0]);
-        m_child = 0;
-        const QString error = QString::fromStdString(writeHere(root, encoded));
-        QMetaObject::invokeMethod(
-            this, [this, error] { emit finished(error); }, Qt::QueuedConnection);
-        return;
+    QElapsedTimer clock;
+    clock.start();
+    m_job = std::make_shared<Job>(*this, root, path);
+    begin(m_job);
+    m_lastBlockedMs = clock.elapsed();
+}
+
+// A cancelled thread that still runs comes first: both may write to the same file.
+void SnapshotWriter::begin(const std::shared_ptr<Job>& job)
+{
+    try {
+        m_allThreads = std::async(std::launch::async, [job, before = std::move(m_allThreads)]() mutable {
+            if (before.valid())
+                before.wait();
+            job->run();
+        });
+    } catch (const std::system_error&) {
+        job->run(); // there is no thread to be had: better late than never
     }
-    m_answer = ends[0];
-    m_notifier = std::make_unique<QSocketNotifier>(m_answer, QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SnapshotWriter::childAnswers);
-    m_patience.start();
 }
 
-// Nothing here may wait for another thread, since there is none any more, nor end in the parent's clean-up.
-void SnapshotWriter::writeInChild(const SoNode* root, const std::string& path, int answer)
+// A report may have been on its way when its job was cancelled.
+void SnapshotWriter::end(const std::shared_ptr<Job>& job, const QString& error)
 {
-    const std::string error = writeHere(root, path);
-    const std::string text = error.empty() ? std::string(1, Written) : error;
-    const ssize_t told = ::write(answer, text.data(), text.size());
-    _exit(told == static_cast<ssize_t>(text.size()) ? 0 : 1);
-}
-
-// One short text, which a pipe hands over whole; or the pipe's end, when the child died.
-void SnapshotWriter::childAnswers()
-{
-    char text[4096];
-    ssize_t size = 0;
-    do {
-        size = read(m_answer, text, sizeof text);
-    } while (size < 0 && errno == EINTR);
-    if (size == 1 && text[0] == Written)
-        end({});
-    else if (size > 0)
-        end(QString::fromUtf8(text, static_cast<int>(size)));
-    else
-        end(tr("“%1” cannot be written: the process that wrote it ended early.").arg(m_path));
-}
-
-void SnapshotWriter::end(const QString& error)
-{
-    reap();
+    if (job != m_job)
+        return;
+    m_job.reset();
     emit finished(error);
 }
 
 void SnapshotWriter::cancel()
 {
-    if (!isBusy())
-        return;
-    kill(m_child, SIGKILL);
-    reap();
-}
-
-void SnapshotWriter::reap()
-{
-    m_patience.stop();
-    m_notifier.reset();
-    close(m_answer);
-    while (waitpid(m_child, nullptr, 0) < 0 && errno == EINTR) {
-    }
-    m_child = 0;
-    m_answer = -1;
+    if (m_job)
+        m_job->cancel();
+    m_job.reset();
 }
 
 } // namespace scopix

@@ -2,52 +2,47 @@
 #pragma once
 
 #include <QObject>
-#include <QSocketNotifier>
-#include <QTimer>
 
+#include <future>
 #include <memory>
-
-#include <sys/types.h>
 
 class SoNode;
 
 namespace scopix
 {
 
-/// Writes a scene as it is now, while the program goes on and may change it: a child process, which shares
-/// the memory until either side writes to it, holds the scene still. What the person waits for is the child's
-/// start alone, however long the writing takes. GUI thread only.
+/// Writes a scene to a file as it is now, while the program continues and may change it: the scene becomes
+/// text at once, which the caller waits for, and a thread writes the text to the file. GUI thread only.
 class SnapshotWriter : public QObject
 {
     Q_OBJECT
 
 public:
     explicit SnapshotWriter(QObject* parent = nullptr);
-    /// Gives up what is being written.
+    /// Cancels what is being written, and waits until its thread has noticed.
     ~SnapshotWriter() override;
 
     /// Begins; finished() follows from the event loop. Not while it is busy.
     void write(const SoNode* root, const QString& path);
-    bool isBusy() const { return m_child > 0; }
-    /// finished() does not follow. The file is the old or the new one; one under a temporary name may be
-    /// left.
+    bool isBusy() const { return m_job != nullptr; }
+    /// finished() does not follow. The file is the old or the new one, and is not replaced any more when this
+    /// returns; one under a temporary name may be left for a moment.
     void cancel();
+    /// How long the last write() took, in milliseconds.
+    qint64 getLastBlockedMs() const { return m_lastBlockedMs; }
 
 signals:
-    /// An empty text when the file stands, or one sentence that says why it does not.
+    /// Empty when the file is complete, or one sentence that says why it is not.
     void finished(const QString& error);
 
 private:
-    [[noreturn]] static void writeInChild(const SoNode* root, const std::string& path, int answer);
-    void childAnswers();
-    void end(const QString& error);
-    void reap();
+    class Job;
+    void begin(const std::shared_ptr<Job>& job);
+    void end(const std::shared_ptr<Job>& job, const QString& error);
 
-    pid_t m_child = 0;
-    int m_answer = -1; // the end of the pipe through which the child tells
-    QString m_path;
-    std::unique_ptr<QSocketNotifier> m_notifier;
-    QTimer m_patience;
+    std::shared_ptr<Job> m_job;     // null when not busy
+    std::future<void> m_allThreads; // ready when no thread writes any more
+    qint64 m_lastBlockedMs = 0;
 };
 
 } // namespace scopix

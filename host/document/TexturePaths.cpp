@@ -1,38 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "document/TexturePaths.h"
 
-#include <xsg/nodes/groups/SoGroup.h>
-#include <xsg/nodes/properties/SoTexture2.h>
+#include "document/Textures.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <unordered_set>
-#include <vector>
 
 namespace scopix
 {
 
 namespace
 {
-
-template <class Visit>
-void forEachTexture(SoNode* root, Visit visit)
-{
-    std::unordered_set<const SoNode*> shared;
-    std::vector<SoNode*> pending{root};
-    while (!pending.empty()) {
-        SoNode* node = pending.back();
-        pending.pop_back();
-        if (node->getRefCount() > 1 && !shared.insert(node).second)
-            continue; // seen already; what has one reference is met once
-        if (node->getTypeId() == SoTexture2::getClassTypeId())
-            visit(static_cast<SoTexture2&>(*node));
-        if (SoGroup* group = node->asGroup())
-            pending.insert(pending.end(), group->getChildren().begin(), group->getChildren().end());
-    }
-}
 
 // Empty where it is to stay as it is.
 QString movedName(const QString& name, const QString& from, const QString& to)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "import/ModelImport.h"
 
-#include "import/FileChecks.h"
-#include "import/ModelFile.h"
-#include "import/ModelReadResult.h"
 #include "import/SceneBuilder.h"
+#include "model/FileChecks.h"
+#include "model/ModelFile.h"
+#include "model/ModelReadResult.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,8 +28,12 @@ QString ModelImport::readerProgram()
     static const char inThisLibrary = 0;
     Dl_info library{};
     dladdr(&inThisLibrary, &library);
-    const QFileInfo file(QFile::decodeName(library.dli_fname));
-    return QDir::cleanPath(QDir(file.canonicalPath()).filePath(QStringLiteral("scopix/scopix-read-model")));
+    const QDir folder(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath());
+    const QString beside = folder.filePath(QStringLiteral("scopix/scopix-read-model"));
+    // A program that has the host built in lies beside the folder of the libraries.
+    return QFileInfo::exists(beside)
+               ? beside
+               : QDir::cleanPath(folder.filePath(QStringLiteral("../lib/scopix/scopix-read-model")));
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
@@ -58,7 +62,7 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1 …").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
+    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
                                    m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));
     m_dialog->setWindowModality(Qt::WindowModal);
@@ -83,7 +87,7 @@ void ModelImport::showProgress()
 
 void ModelImport::cancel()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
     end();
     emit cancelled();
@@ -91,21 +95,19 @@ void ModelImport::cancel()
 
 void ModelImport::readerEnded()
 {
-    if (std::exchange(m_told, true))
+    if (std::exchange(m_hasEnded, true))
         return;
-    tell();
+    report();
 }
 
-void ModelImport::tell()
+void ModelImport::report()
 {
     ModelReadResult model;
     QFile result(m_result.fileName());
     const bool ended =
         m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
-    const uchar* bytes = opened ? result.map(0, result.size()) : nullptr;
-    if (!bytes ||
-        !readModelFile(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(result.size()), model))
+    if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
     if (model.error.isEmpty())

@@ -42,7 +42,7 @@ signals:
 private:
     void showProgress();
     void readerEnded();
-    void tell();
+    void report();
     QString whyItEnded() const;
     void end();
 
@@ -51,7 +51,7 @@ private:
     QProcess m_reader;
     QTemporaryFile m_result;
     QPointer<QProgressDialog> m_dialog;
-    bool m_told = false;
+    bool m_hasEnded = false;
 };
 
 } // namespace scopix

@@ -2,7 +2,7 @@
 #include "import/SceneBuilder.h"
 
 #include "import/TransformBuilder.h"
-#include "panels/NodeText.h"
+#include "text/NodeText.h"
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSwitch.h>

@@ -3,7 +3,7 @@
 // node.
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 #include <xsg/nodes/groups/SoSeparator.h>
 

@@ -78,13 +78,8 @@ SoTransformation* makePlacement(const SbMatrix& matrix)
             transform->rotation.setValue(turn);
         if (scale != SbVec3f(1, 1, 1))
             transform->scaleFactor.setValue(scale);
-        if (isNear(transform->getMatrix(), matrix)) {
-            SoTransform* result = transform.get();
-            result->ref();
-            transform = {};
-            result->unrefNoDelete();
-            return result;
-        }
+        if (isNear(transform->getMatrix(), matrix))
+            return transform.release();
     }
     auto* exact = new SoMatrixTransform;
     exact->matrix.setValue(matrix);

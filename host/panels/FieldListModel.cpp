@@ -2,14 +2,14 @@
 #include "panels/FieldListModel.h"
 
 #include "panels/FieldStateIcons.h"
-#include "panels/NodeText.h"
-#include "panels/ValueText.h"
+#include "text/NodeText.h"
+#include "text/ValueText.h"
+#include "theme/SvgIcon.h"
+
 #include <xsg/core/SoField.h>
 #include <xsg/sensors/SoFieldSensor.h>
 
-#include <QGuiApplication>
-#include <QIcon>
-#include <QPalette>
+#include <QWidget>
 
 namespace scopix
 {
@@ -103,14 +103,29 @@ QVariant FieldListModel::text(const SoField& field, int column) const
 
 QString FieldListModel::toolTip(const SoField& field) const
 {
-    QString text = tr("%1 (%2)").arg(toQString(field.getName()), toQString(field.getTypeId().getName()));
+    QStringList parts{tr("%1 (%2)").arg(toQString(field.getName()), toQString(field.getTypeId().getName()))};
     if (field.isDefault())
-        text += tr(", default");
+        parts += tr("default");
     if (field.isIgnored())
-        text += tr(", ignored");
+        parts += tr("ignored");
     if (field.isConnected())
-        text += tr(", follows another field");
-    return text + QLatin1Char('\n') + valueText(field, ToolTipLength);
+        parts += tr("follows another field");
+    return parts.join(QStringLiteral(", ")) + QLatin1Char('\n') + valueText(field, ToolTipLength);
+}
+
+// A null icon would take up the room of one.
+QVariant FieldListModel::icon(const SoField& field, int column) const
+{
+    if (column == NameColumn)
+        return fieldStateIcon(field, surface());
+    const QIcon swatch = column == ValueColumn ? valueSwatch(field, surface()) : QIcon();
+    return swatch.isNull() ? QVariant() : swatch;
+}
+
+// The view, whose palette colours icons and text.
+const QWidget* FieldListModel::surface() const
+{
+    return qobject_cast<const QWidget*>(QObject::parent());
 }
 
 QVariant FieldListModel::data(const QModelIndex& index, int role) const
@@ -124,12 +139,10 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return toolTip(*field);
     case Qt::DecorationRole:
-        if (index.column() == NameColumn)
-            return fieldMark(*field);
-        return index.column() == ValueColumn ? valueSwatch(*field) : QVariant();
+        return icon(*field, index.column());
     case Qt::ForegroundRole:
         if (field->isIgnored() || index.column() == TypeColumn)
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return paletteOf(surface()).brush(QPalette::Disabled, QPalette::Text);
         return {};
     case DefaultRole:
         return field->isDefault();

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class QWidget;
 class SoSensor;
 
 namespace scopix
@@ -24,10 +25,11 @@ public:
     /// Bool each.
     enum Role { DefaultRole = Qt::UserRole, IgnoredRole, ConnectedRole };
 
+    /// Where the parent is a widget, its palette colours icons and text.
     explicit FieldListModel(QObject* parent = nullptr);
     ~FieldListModel() override;
 
-    /// Null shows nothing. Not kept alive: the model empties itself before the container goes.
+    /// Null shows nothing. Not kept alive: the model empties itself before the container is destroyed.
     void setContainer(SoFieldContainer* container);
     SoFieldContainer* getContainer() const { return m_container; }
 
@@ -47,6 +49,8 @@ private:
     static void containerDying(void* self, SoFieldContainer* dying);
     QVariant text(const SoField& field, int column) const;
     QString toolTip(const SoField& field) const;
+    QVariant icon(const SoField& field, int column) const;
+    const QWidget* surface() const;
 
     SoFieldContainer* m_container = nullptr;
     std::vector<std::unique_ptr<Row>> m_rows;

@@ -39,7 +39,7 @@ void FieldListView::resizeEvent(QResizeEvent* event)
 }
 
 // Types and names get what they need as long as a third of the width is left for the values; what is cut off
-// stands in the tool tip.
+// is in the tool tip.
 void FieldListView::fitColumns()
 {
     const auto wanted = [this](int column) {

@@ -11,7 +11,7 @@ namespace scopix
 
 class FieldListModel;
 
-/// Shows the fields of the selected node and tells which one the person selects.
+/// Shows the fields of the selected node and reports which one the user selects.
 class FieldListView : public QTreeView
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     void showField(const SoField* field);
 
 signals:
-    /// Null when the selection is taken away.
+    /// Null when the selection is cleared.
     void fieldSelected(SoField* field);
 
 protected:

@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: MIT
-// What a field's row shows besides text.
+// The icons in a field's row.
 #pragma once
 
-#include <QVariant>
+#include <QIcon>
 
+class QWidget;
 class SoField;
 
 namespace scopix
 {
 
-/// An icon: a ring for the default value, a filled dot for a changed one, a struck ring for an ignored field,
-/// an arrow for one that follows another.
-QVariant fieldMark(const SoField& field);
-/// A patch of the colour, for fields that hold one; nothing for others.
-QVariant valueSwatch(const SoField& field);
+/// A ring for the default value, a filled dot for a changed one, a struck ring for an ignored field, an arrow
+/// for a connected one. `surface` as for svgIcon().
+QIcon fieldStateIcon(const SoField& field, const QWidget* surface);
+/// A patch of the colour, for fields that hold one; null for others.
+QIcon valueSwatch(const SoField& field, const QWidget* surface);
 
 } // namespace scopix

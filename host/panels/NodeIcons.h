@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Small pictures that tell kinds of nodes apart at a glance. Readable on light and dark grounds.
+// Icons that distinguish the families of nodes.
 #pragma once
 
 #include <xsg/types/SoType.h>
 
 class QIcon;
+class QWidget;
 
 namespace scopix
 {
 
-/// Drawn once per type and kept.
-QIcon nodeIcon(SoType type);
+/// The icon of the type, or of the nearest base type that has one. `surface` as for svgIcon().
+QIcon nodeIcon(SoType type, const QWidget* surface);
 
 } // namespace scopix

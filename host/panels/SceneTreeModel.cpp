@@ -2,12 +2,13 @@
 #include "panels/SceneTreeModel.h"
 
 #include "panels/NodeIcons.h"
-#include "panels/NodeText.h"
+#include "text/NodeText.h"
 #include <xsg/actions/SoPath.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
 #include <QFont>
 #include <QIcon>
+#include <QWidget>
 
 #include <algorithm>
 #include <unordered_set>
@@ -56,7 +57,7 @@ struct SceneTreeModel::Item {
         : node(itsNode)
         , parent(itsParent)
         , row(itsRow)
-        , toldName(itsNode->getName())
+        , reportedName(itsNode->getName())
     {
     }
     ~Item() { finalize(std::move(children)); }
@@ -75,9 +76,9 @@ struct SceneTreeModel::Item {
     SoRef<SoNode> node;
     Item* parent;
     int row;
-    bool listed = false;         // its children have rows
-    bool toldExpandable = false; // what hasChildren() told last
-    SbName toldName;
+    bool listed = false;             // its children have rows
+    bool reportedExpandable = false; // by hasChildren() when it was asked last
+    SbName reportedName;
     std::uint32_t seenChange = 0; // the node's count when its children were looked at last
     std::vector<std::unique_ptr<Item>> children;
 };
@@ -92,7 +93,8 @@ SceneTreeModel::~SceneTreeModel() = default;
 
 void SceneTreeModel::setRoot(SoNode* root)
 {
-    // The old rows go after everybody was told: with them may go the last reference to a node.
+    // The old rows are destroyed after the views have been notified: they may hold the last reference to a
+    // node.
     const std::unique_ptr<Item> old = std::move(m_root);
     beginResetModel();
     m_root = root ? std::make_unique<Item>(root, nullptr, 0) : nullptr;
@@ -162,7 +164,7 @@ QModelIndex SceneTreeModel::indexDownwards(const std::vector<const SoNode*>& nod
         const auto is = [&](const std::unique_ptr<Item>& child) { return child->node.get() == nodes[step]; };
         const auto child = std::find_if(item->children.begin(), item->children.end(), is);
         if (child == item->children.end())
-            return {}; // added in this turn: the row comes with the next one
+            return {}; // added since the sensor ran last: its row follows
         item = child->get();
     }
     return indexOfItem(*item);
@@ -207,8 +209,14 @@ bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
     Item* item = itemAt(parent);
     if (item->listed)
         return !item->children.empty();
-    item->toldExpandable = childCount(item->node.get()) > 0;
-    return item->toldExpandable;
+    item->reportedExpandable = childCount(item->node.get()) > 0;
+    return item->reportedExpandable;
+}
+
+// The view, whose palette colours the icons.
+const QWidget* SceneTreeModel::surface() const
+{
+    return qobject_cast<const QWidget*>(QObject::parent());
 }
 
 QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
@@ -225,7 +233,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
-        return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId())) : QVariant();
+        return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId(), surface())) : QVariant();
     case Qt::FontRole: {
         QFont font;
         font.setItalic(!named);
@@ -245,7 +253,7 @@ QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, in
 
 void SceneTreeModel::sceneChanged(void* self, SoSensor* sensor)
 {
-    // Fields come and go by the thousand while a slider is dragged; rows only follow children and names.
+    // A dragged slider changes fields thousands of times; rows only follow children and names.
     if (static_cast<SoNodeSensor*>(sensor)->isStructureChanged())
         static_cast<SceneTreeModel*>(self)->followScene();
 }
@@ -270,7 +278,7 @@ void SceneTreeModel::followScene()
             pending.push_back(child.get());
     }
     if (expandableChanged) {
-        // Rows that nobody asked for came or went: views learn whether to draw an arrow.
+        // Rows that no view asked for were added or removed: the views draw an arrow or none.
         emit layoutAboutToBeChanged();
         emit layoutChanged();
     }
@@ -279,7 +287,7 @@ void SceneTreeModel::followScene()
 bool SceneTreeModel::followExpandable(Item& item) const
 {
     const bool expandable = childCount(item.node.get()) > 0;
-    return std::exchange(item.toldExpandable, expandable) != expandable;
+    return std::exchange(item.reportedExpandable, expandable) != expandable;
 }
 
 void SceneTreeModel::followChildren(Item& item)
@@ -287,7 +295,7 @@ void SceneTreeModel::followChildren(Item& item)
     const SoGroup* group = item.node->asGroup();
     if (!group)
         return;
-    // What stayed at both ends keeps its rows, and with them what is expanded and selected there.
+    // Children that are unchanged at both ends keep their rows, with what is expanded and selected there.
     const int before = static_cast<int>(item.children.size());
     const int now = group->getNumChildren();
     const auto stayed = [&](int old, int current) {
@@ -315,7 +323,7 @@ void SceneTreeModel::removeItems(Item& item, int first, int count)
     for (std::size_t i = static_cast<std::size_t>(first); i < item.children.size(); ++i)
         item.children[i]->row = static_cast<int>(i);
     endRemoveRows();
-    // Only now may the last reference to a node go: whoever hears of it may look at this model.
+    // Only now may the last reference to a node be released: whoever is notified of that may use this model.
     Item::finalize(std::move(removed));
 }
 
@@ -338,7 +346,7 @@ void SceneTreeModel::insertItems(Item& item, int first, int count)
 void SceneTreeModel::followName(Item& item)
 {
     const SbName name = item.node->getName();
-    if (std::exchange(item.toldName, name) != name)
+    if (std::exchange(item.reportedName, name) != name)
         emit dataChanged(indexOfItem(item), indexOfItem(item, TypeColumn));
 }
 

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+class QWidget;
 class SoGroup;
 class SoPath;
 
@@ -16,7 +17,7 @@ namespace scopix
 {
 
 /// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when
-/// somebody asks for its rows. A node that stands in several places has a row at each. Follows the scene once
+/// a view asks for its rows. A node that stands in several places has a row at each. Follows the scene once
 /// per turn of the sensor queue, and keeps every node that has a row alive until then. GUI thread only.
 class SceneTreeModel : public QAbstractItemModel
 {
@@ -25,6 +26,7 @@ class SceneTreeModel : public QAbstractItemModel
 public:
     enum Column { NameColumn, TypeColumn, ColumnCount };
 
+    /// Where the parent is a widget, its palette colours the icons.
     explicit SceneTreeModel(QObject* parent = nullptr);
     ~SceneTreeModel() override;
 
@@ -63,6 +65,7 @@ private:
     Item* itemAt(const QModelIndex& index) const;
     QModelIndex indexOfItem(Item& item, int column = NameColumn) const;
     static void listChildren(Item& item);
+    const QWidget* surface() const;
 
     std::unique_ptr<Item> m_root;
     SoNodeSensor m_sensor;

@@ -71,8 +71,7 @@ void SceneTreeView::selectionChanged(const QItemSelection& selected, const QItem
 
 void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
 {
-    // Nothing is selected in place of what goes: a neighbour that nobody chose must not be edited by
-    // accident.
+    // No neighbour is selected in place of a removed row: it must not be edited by accident.
     for (QModelIndex at = currentIndex(); at.isValid(); at = at.parent()) {
         if (at.parent() == parent && at.row() >= first && at.row() <= last) {
             dropSelection();

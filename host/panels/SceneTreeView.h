@@ -11,7 +11,7 @@ namespace scopix
 
 class SceneTreeModel;
 
-/// Shows the scene's tree and tells which node the person selects in it.
+/// Shows the scene's tree and reports which node the user selects in it.
 class SceneTreeView : public QTreeView
 {
     Q_OBJECT
@@ -23,10 +23,10 @@ public:
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
 
-    /// Selects the node's row and opens the way to it. A row of the same node that is selected already stays,
+    /// Selects the node's row and expands its parents. A row of the same node that is selected already stays,
     /// whichever of its places it is. Emits nothing.
     void showNode(const SoNode* node);
-    /// As if the person had clicked the row at the end of this path, which starts at the root.
+    /// As if the user had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);
 
 signals:

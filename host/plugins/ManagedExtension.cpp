@@ -61,7 +61,7 @@ bool ManagedExtension::tryCall(const char* act, const std::function<void()>& cal
     if (failure.isEmpty())
         return true;
     m_report(
-        HostShell::tr("The extension \"%1\" failed in %2(): %3.").arg(m_name, QLatin1String(act), failure));
+        HostShell::tr("The extension “%1” failed in %2(): %3.").arg(m_name, QLatin1String(act), failure));
     return false;
 }
 

@@ -12,8 +12,8 @@ namespace scopix
 
 class HostShell;
 
-/// One extension of a loaded plug-in, and how far the host has brought it: loaded, active. Every call into it
-/// is guarded; one that throws is told in a sentence. GUI thread only.
+/// One extension of a loaded plug-in, and its state: loaded, active. Every call into it catches
+/// exceptions and reports them in a sentence. GUI thread only.
 class ManagedExtension
 {
 public:

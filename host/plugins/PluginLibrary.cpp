@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginLibrary.h"
 
+#include "plugins/PluginNote.h"
 #include "support/CatchExceptions.h"
 
 #include <scopix/SpxPlugin.h>
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 namespace scopix
@@ -19,24 +21,24 @@ QString tr(const char* text)
     return QCoreApplication::translate("PluginLibrary", text);
 }
 
-// What can be told without asking the linker, whose words are for programmers.
+// What can be said before the library is loaded, which runs its initialisers.
 QString whyNoLibrary(const QString& path)
 {
-    const QFileInfo file(path);
-    if (!file.exists())
+    if (!QFileInfo::exists(path))
         return tr("there is no such file");
-    if (file.isDir())
+    if (QFileInfo(path).isDir())
         return tr("it is a folder, and a plug-in library was expected");
-    if (!file.isReadable())
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         return tr("the file may not be read");
-    return {};
+    return whyNotLoadable(file);
 }
 
 template <class Function>
 QString resolve(QLibrary& library, const char* name, Function& function)
 {
     function = reinterpret_cast<Function>(library.resolve(name));
-    return function ? QString() : tr("it has no entry point \"%1\"").arg(QLatin1String(name));
+    return function ? QString() : tr("it has no entry point “%1”").arg(QLatin1String(name));
 }
 
 } // namespace
@@ -67,7 +69,7 @@ std::unique_ptr<PluginLibrary> PluginLibrary::load(const QString& path, QString&
         if (why.isEmpty())
             return library;
     }
-    error = tr("The plug-in \"%1\" was not loaded: %2.").arg(path, why);
+    error = tr("The plug-in “%1” was not loaded: %2.").arg(path, why);
     return nullptr;
 }
 

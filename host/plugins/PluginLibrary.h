@@ -12,12 +12,14 @@ namespace scopix
 {
 
 /// One loaded plug-in library and the plug-in object that it made. Unloading runs the library's unloadPlugin
-/// and takes the library out of the process; everything of the plug-in must have been let go before. GUI
+/// and takes the library out of the process; everything of the plug-in must have been released before. GUI
 /// thread only.
 class PluginLibrary
 {
 public:
-    /// Null when the library cannot be used; `error` then names the file and what was expected of it.
+    /// Null when the library cannot be used; `error` then names the file and what is wrong with it. A file
+    /// that is no whole library, or was made for something else than this host, is refused before its code
+    /// runs.
     static std::unique_ptr<PluginLibrary> load(const QString& path, QString& error);
     ~PluginLibrary();
     PluginLibrary(const PluginLibrary&) = delete;

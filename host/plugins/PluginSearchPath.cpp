@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginSearchPath.h"
 
+#include "plugins/OwnLibrary.h"
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QSet>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace scopix
 {
@@ -12,48 +17,77 @@ namespace scopix
 namespace
 {
 
-struct Place {
-    QString folder;
-    QString pattern;
-};
+// Programs and libraries lie beside others of every kind: there, only what is named like a plug-in is looked
+// at.
+constexpr QLatin1String AmongOthers("libSpx*.so");
+constexpr QLatin1String Any("*.so");
+constexpr QLatin1String Plugins("/scopix/plugins");
 
-// Beside the program lie libraries of every kind: only those that are named like a plug-in are looked at.
-QList<Place> places()
+bool isDefaultExtensions(const QString& path)
 {
-    const QString sharedPattern = QStringLiteral("libSpx*.so");
-    const QString ownPattern = QStringLiteral("*.so");
-    const QDir program(QCoreApplication::applicationDirPath());
-    return {
-        {program.path(), sharedPattern},
-        {program.filePath(QStringLiteral("../lib")), sharedPattern},
-        {program.filePath(QStringLiteral("../" SCOPIX_LIBRARY_FOLDER "/scopix/plugins")), ownPattern},
-        {program.filePath(QStringLiteral("../lib/scopix/plugins")), ownPattern},
-        {PluginSearchPath::ofUser(), ownPattern},
-    };
+    return QFileInfo(path).fileName() == QLatin1String("libSpxDefaults.so");
 }
 
 } // namespace
 
-QString PluginSearchPath::ofUser()
+PluginSearchPath::PluginSearchPath()
+    : PluginSearchPath(QCoreApplication::applicationDirPath(), OwnLibrary::folder())
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-           QStringLiteral("/scopix/plugins");
 }
 
-QStringList PluginSearchPath::findAll()
+PluginSearchPath::PluginSearchPath(const QString& programFolder, const QString& libraryFolder)
+{
+    add(programFolder, AmongOthers);
+    add(programFolder + QStringLiteral("/../lib"), AmongOthers);
+    add(programFolder + QStringLiteral("/../" SCOPIX_LIBRARY_FOLDER) + Plugins, Any);
+    add(programFolder + QStringLiteral("/../lib") + Plugins, Any);
+    add(libraryFolder, AmongOthers);
+    add(libraryFolder + Plugins, Any);
+    add(ofUser(), Any);
+}
+
+void PluginSearchPath::add(const QString& folder, const QString& pattern)
+{
+    m_places += Place{QDir::cleanPath(folder), pattern};
+}
+
+QString PluginSearchPath::ofUser()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + Plugins;
+}
+
+QStringList PluginSearchPath::folders() const
+{
+    QStringList folders;
+    for (const Place& place : m_places)
+        folders += place.folder;
+    folders.removeDuplicates();
+    return folders;
+}
+
+QStringList PluginSearchPath::filesIn(const Place& place)
+{
+    const QDir folder(place.folder);
+    QStringList files = folder.entryList({place.pattern}, QDir::Files, QDir::Name);
+    for (QString& file : files)
+        file = QDir::cleanPath(folder.absoluteFilePath(file));
+    return files;
+}
+
+QStringList PluginSearchPath::findAll() const
 {
     QStringList found;
-    QSet<QString> names;
-    for (const Place& place : places()) {
-        const QDir folder(place.folder);
-        const QStringList files = folder.entryList({place.pattern}, QDir::Files, QDir::Name);
-        for (const QString& file : files) {
-            if (names.contains(file))
+    QSet<QString> known;
+    for (const Place& place : m_places) {
+        for (const QString& path : filesIn(place)) {
+            const QFileInfo file(path);
+            if (known.contains(file.canonicalFilePath()) || known.contains(file.fileName()))
                 continue;
-            names.insert(file);
-            found += QDir::cleanPath(folder.absoluteFilePath(file));
+            known << file.canonicalFilePath() << file.fileName();
+            found += path;
         }
     }
+    std::stable_partition(found.begin(), found.end(), isDefaultExtensions);
     return found;
 }
 

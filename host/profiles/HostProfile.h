@@ -3,6 +3,7 @@
 
 #include <scopix/SpxProfile.h>
 
+#include <QSet>
 #include <QStringList>
 
 namespace scopix
@@ -12,8 +13,6 @@ namespace scopix
 struct ExtensionChoice {
     bool all = false;
     QStringList names;
-
-    bool contains(const QString& name) const { return all || names.contains(name); }
 };
 
 struct ProfileChoice {
@@ -31,6 +30,8 @@ public:
 
     const ProfileChoice& choice() const { return m_choice; }
     void setChoice(ProfileChoice choice);
+    /// Whether the choice names the extension; `name` is "Plug-in/Extension".
+    bool controls(const QString& name, bool isEditor) const;
     QString name() const { return m_choice.name; }
     /// The profile that controls everything; it cannot be changed or deleted.
     bool isDefault() const { return m_choice.name == defaultName(); }
@@ -41,6 +42,8 @@ public:
 
 private:
     ProfileChoice m_choice;
+    QSet<QString> m_editors; // the names of m_choice, to look them up in
+    QSet<QString> m_tools;
     SpxProfileSetting m_setting;
 };
 

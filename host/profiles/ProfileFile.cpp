@@ -67,11 +67,11 @@ QJsonArray arrayIn(const QJsonValue& value, const QString& where, const QString&
 ExtensionChoice choiceIn(const QJsonObject& profile, const QString& key, const QString& where)
 {
     const QJsonValue value = profile.value(key);
-    const QString here = tr("\"%1\" of %2").arg(key, where);
+    const QString here = tr("“%1” of %2").arg(key, where);
     if (value == QJsonValue(All))
         return {true, {}};
     ExtensionChoice choice;
-    for (const QJsonValue& name : arrayIn(value, here, tr("\"all\" or a list of names")))
+    for (const QJsonValue& name : arrayIn(value, here, tr("“all” or a list of names")))
         choice.names += textIn(name, tr("each name in %1").arg(here));
     return choice;
 }
@@ -82,7 +82,7 @@ ProfileChoice profileIn(const QJsonValue& value, const QString& where)
         throw Damage{tr("%1 must be an object in braces").arg(where)};
     const QJsonObject object = value.toObject();
     ProfileChoice profile;
-    profile.name = textIn(object.value(QStringLiteral("name")), tr("\"name\" of %1").arg(where));
+    profile.name = textIn(object.value(QStringLiteral("name")), tr("“name” of %1").arg(where));
     profile.editors = choiceIn(object, QStringLiteral("editors"), where);
     profile.tools = choiceIn(object, QStringLiteral("tools"), where);
     return profile;
@@ -107,7 +107,7 @@ void addDefault(std::vector<ProfileChoice>& profiles)
 ProfileSettings settingsIn(const QJsonObject& root)
 {
     ProfileSettings settings;
-    const QJsonArray list = arrayIn(root.value(QStringLiteral("profiles")), QStringLiteral("\"profiles\""),
+    const QJsonArray list = arrayIn(root.value(QStringLiteral("profiles")), QStringLiteral("“profiles”"),
                                     tr("a list of profiles"));
     for (int i = 0; i < list.size(); ++i) {
         ProfileChoice profile = profileIn(list.at(i), place(i));
@@ -117,7 +117,7 @@ ProfileSettings settingsIn(const QJsonObject& root)
         settings.profiles.push_back(std::move(profile));
     }
     addDefault(settings.profiles);
-    settings.active = textIn(root.value(QStringLiteral("active")), QStringLiteral("\"active\""));
+    settings.active = textIn(root.value(QStringLiteral("active")), QStringLiteral("“active”"));
     return settings;
 }
 
@@ -163,7 +163,7 @@ ProfileSettings ProfileFile::read(QString& error) const
     if (!file.exists())
         return shipped();
     if (!file.open(QIODevice::ReadOnly)) {
-        error = tr("The profiles file \"%1\" cannot be read (%2); the shipped profiles are used.")
+        error = tr("The profiles file “%1” cannot be read (%2); the shipped profiles are used.")
                     .arg(m_path, file.errorString());
         return shipped();
     }
@@ -173,7 +173,7 @@ ProfileSettings ProfileFile::read(QString& error) const
         return parse(file.read(LargestFile));
     } catch (const Damage& damage) {
         file.close();
-        error = tr("The profiles file \"%1\" is damaged: %2; %3, and the shipped profiles are used.")
+        error = tr("The profiles file “%1” is damaged: %2; %3, and the shipped profiles are used.")
                     .arg(m_path, damage.text, setAside());
         return shipped();
     }
@@ -188,7 +188,7 @@ QString ProfileFile::setAside() const
                              QStringLiteral(".") + info.suffix();
         const QString path = info.dir().filePath(name);
         if (!QFile::exists(path) && QFile::rename(m_path, path))
-            return tr("it was kept as \"%1\"").arg(path);
+            return tr("it was kept as “%1”").arg(path);
     }
     return tr("it could not be renamed");
 }
@@ -205,7 +205,7 @@ QString ProfileFile::write(const ProfileSettings& settings) const
     const QByteArray text = QJsonDocument(root).toJson();
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return {};
-    return tr("The profiles file \"%1\" cannot be written: %2.").arg(m_path, file.errorString());
+    return tr("The profiles file “%1” cannot be written: %2.").arg(m_path, file.errorString());
 }
 
 QString ProfileFile::nameProblem(const QString& name, const std::vector<ProfileChoice>& others)
@@ -213,10 +213,10 @@ QString ProfileFile::nameProblem(const QString& name, const std::vector<ProfileC
     if (name.trimmed().isEmpty())
         return tr("a profile needs a name");
     if (name != QString::fromLatin1(name.toLatin1()))
-        return tr("the name \"%1\" has letters that a profile's name cannot have (Latin-1 only)").arg(name);
+        return tr("the name “%1” has letters that a profile's name cannot have (Latin-1 only)").arg(name);
     const auto same = [&name](const ProfileChoice& other) { return other.name == name; };
     if (std::any_of(others.begin(), others.end(), same))
-        return tr("there already is a profile named \"%1\"").arg(name);
+        return tr("there already is a profile named “%1”").arg(name);
     return {};
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "profiles/ProfilesDialog.h"
 
-#include "plugins/HostPluginsManager.h"
+#include "profiles/ProfileList.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -34,9 +34,9 @@ void showCheckBoxes(QTreeWidget& tree)
 
 } // namespace
 
-ProfilesDialog::ProfilesDialog(HostPluginsManager& manager, QWidget* parent)
+ProfilesDialog::ProfilesDialog(ProfileList& profiles, QWidget* parent)
     : QDialog(parent)
-    , m_manager(manager)
+    , m_source(profiles)
     , m_list(new QListWidget)
     , m_tree(new QTreeWidget)
     , m_problem(new QLabel)
@@ -68,9 +68,9 @@ ProfilesDialog::ProfilesDialog(HostPluginsManager& manager, QWidget* parent)
 void ProfilesDialog::makeList()
 {
     m_list->setObjectName(QStringLiteral("profiles"));
-    for (const auto& profile : m_manager.profiles()) {
+    for (const auto& profile : m_source.profiles()) {
         auto* item = new QListWidgetItem(profile->name(), m_list);
-        if (profile.get() == m_manager.activeProfile()) {
+        if (profile.get() == m_source.activeProfile()) {
             m_active = m_profiles.size();
             markActive(*item);
         }
@@ -106,12 +106,12 @@ QTreeWidgetItem* ProfilesDialog::makeGroup(const QString& title, bool editors)
 {
     auto* group = new QTreeWidgetItem(m_tree, {title});
     group->setFlags(group->flags() | Qt::ItemIsUserCheckable | Qt::ItemIsAutoTristate);
-    for (const ManagedExtension& extension : m_manager.extensions()) {
-        if (extension.isEditor() != editors)
+    for (const ProfiledExtension& extension : m_source.extensions()) {
+        if (extension.isEditor != editors)
             continue;
-        auto* item = new QTreeWidgetItem(group, {extension.name().section(QLatin1Char('/'), 1)});
-        item->setData(0, NameRole, extension.name());
-        item->setToolTip(0, extension.name());
+        auto* item = new QTreeWidgetItem(group, {extension.name.section(QLatin1Char('/'), 1)});
+        item->setData(0, NameRole, extension.name);
+        item->setToolTip(0, extension.name);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     }
     return group;
@@ -205,7 +205,7 @@ void ProfilesDialog::showProfile(int row)
     const QSignalBlocker silent(m_tree);
     const ProfileChoice* profile = current();
     const bool ours = profile && profile->name != HostProfile::defaultName();
-    m_problem->setText(ours ? QString() : tr("\"Default\" controls every extension and stays as it is."));
+    m_problem->setText(ours ? QString() : tr("“Default” controls every extension and stays as it is."));
     m_renameButton->setEnabled(ours);
     m_deleteButton->setEnabled(ours);
     for (QTreeWidgetItem* group : {m_tools, m_editors})
@@ -220,9 +220,10 @@ void ProfilesDialog::showGroup(QTreeWidgetItem& group, const ExtensionChoice& ch
 {
     if (group.childCount() == 0)
         group.setCheckState(0, choice.all ? Qt::Checked : Qt::Unchecked);
+    const QSet<QString> names(choice.names.begin(), choice.names.end());
     for (int i = 0; i < group.childCount(); ++i) {
         QTreeWidgetItem* item = group.child(i);
-        const bool chosen = choice.contains(item->data(0, NameRole).toString());
+        const bool chosen = choice.all || names.contains(item->data(0, NameRole).toString());
         item->setCheckState(0, chosen ? Qt::Checked : Qt::Unchecked);
     }
 }
@@ -241,10 +242,10 @@ ExtensionChoice ProfilesDialog::groupChoice(const QTreeWidgetItem& group, const 
     if (group.checkState(0) == Qt::Checked)
         return {true, former.names};
     ExtensionChoice choice;
-    QStringList known;
+    QSet<QString> known;
     for (int i = 0; i < group.childCount(); ++i) {
         const QString name = group.child(i)->data(0, NameRole).toString();
-        known += name;
+        known.insert(name);
         if (group.child(i)->checkState(0) == Qt::Checked)
             choice.names += name;
     }
@@ -273,7 +274,7 @@ ProfileChoice* ProfilesDialog::current()
 void ProfilesDialog::accept()
 {
     const QString active = m_profiles[m_active].name;
-    m_manager.setProfiles(m_profiles, active);
+    m_source.setProfiles(m_profiles, active);
     QDialog::accept();
 }
 

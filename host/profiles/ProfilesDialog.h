@@ -17,7 +17,7 @@ class QTreeWidgetItem;
 namespace scopix
 {
 
-class HostPluginsManager;
+class ProfileList;
 
 /// Manages the profiles: makes one from the active one, renames, deletes, and chooses the extensions that
 /// each controls. Nothing changes before OK. GUI thread only.
@@ -26,8 +26,8 @@ class ProfilesDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// The manager must outlive the dialog.
-    explicit ProfilesDialog(HostPluginsManager& manager, QWidget* parent = nullptr);
+    /// The list must outlive the dialog.
+    explicit ProfilesDialog(ProfileList& profiles, QWidget* parent = nullptr);
 
     void accept() override;
 
@@ -51,7 +51,7 @@ private:
     QString freeName() const;
     ProfileChoice* current();
 
-    HostPluginsManager& m_manager;
+    ProfileList& m_source;
     std::vector<ProfileChoice> m_profiles;
     std::size_t m_active = 0;
     QListWidget* m_list;

@@ -10,7 +10,7 @@ class QMenu;
 namespace scopix
 {
 
-class HostPluginsManager;
+class ProfileList;
 class ProfilesDialog;
 
 /// Fills a menu with the profiles, the active one marked, and with the way to the dialog that manages them,
@@ -20,14 +20,14 @@ class ProfilesMenu : public QObject
     Q_OBJECT
 
 public:
-    /// The manager must outlive this; the menu becomes its parent.
-    ProfilesMenu(HostPluginsManager& manager, QMenu& menu);
+    /// The list must outlive this; the menu becomes its parent.
+    ProfilesMenu(ProfileList& profiles, QMenu& menu);
 
 private:
     void refill();
     void manage();
 
-    HostPluginsManager& m_manager;
+    ProfileList& m_profiles;
     QMenu& m_menu;
     QActionGroup* m_group = nullptr;
     QPointer<ProfilesDialog> m_dialog;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reader/AssimpMaterial.h"
 
-#include "import/ImageConversion.h"
+#include "model/ImageConversion.h"
 
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>

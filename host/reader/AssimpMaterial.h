@@ -2,7 +2,7 @@
 // From the importer's materials and pictures to those of a model's plain data.
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 // From the importer's scene to a model's plain data.
 #pragma once
 
-#include "import/ModelData.h"
+#include "model/ModelData.h"
 
 #include <QString>
 

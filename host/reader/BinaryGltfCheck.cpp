@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reader/FormatChecks.h"
 
-#include "import/FileChecks.h"
+#include "model/FileChecks.h"
 
 #include <QCoreApplication>
 #include <QFile>

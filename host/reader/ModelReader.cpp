@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reader/ModelReader.h"
 
-#include "import/FileChecks.h"
-#include "import/ModelFormats.h"
+#include "model/FileChecks.h"
+#include "model/ModelFormats.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
 #include "reader/ScopedCLocale.h"

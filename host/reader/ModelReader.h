@@ -3,7 +3,7 @@
 // crash, hang or end the process on a bad file: let a process of its own read (see ModelImport).
 #pragma once
 
-#include "import/ModelReadResult.h"
+#include "model/ModelReadResult.h"
 
 #include <functional>
 

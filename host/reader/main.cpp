@@ -2,7 +2,7 @@
 // The program that reads a model for the host, in a process of its own: scopix-read-model MODEL RESULT.
 // Prints how far it is, one line for each percent, and writes the model, or why there is none, to the file
 // RESULT.
-#include "import/ModelFile.h"
+#include "model/ModelFile.h"
 #include "reader/MemoryLimit.h"
 #include "reader/ModelReader.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/DataDirectory.h"
 
+#include <xsg/support/SoPreferences.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -15,6 +17,19 @@ namespace
 
 constexpr auto Variable = "XSGHOME";
 constexpr auto Shipped = ":/scopix/home/";
+
+// The folder that was set here, and not by the user.
+SbString& fed()
+{
+    static SbString folder;
+    return folder;
+}
+
+bool isChosenByUser()
+{
+    const SbString folder = SoPreferences::getString(Variable, SbString());
+    return !folder.isNull() && folder != fed();
+}
 
 // The first file that could not be written, or an empty text.
 QString copyMissing(const QDir& home)
@@ -39,16 +54,17 @@ QString copyMissing(const QDir& home)
 
 QString DataDirectory::ensure()
 {
-    if (qEnvironmentVariableIsSet(Variable))
+    if (isChosenByUser())
         return {};
     const QDir home(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                     QStringLiteral("/scopix"));
-    qputenv(Variable, QFile::encodeName(home.path()));
+    fed() = SbString(QFile::encodeName(home.path()).toStdString());
+    SoPreferences::setValue(Variable, fed());
     const QString failed = copyMissing(home);
     if (failed.isEmpty())
         return {};
     return QCoreApplication::translate("DataDirectory",
-                                       "Cannot write \"%1\", a file that the extensions start with.")
+                                       "“%1”, a file that the extensions need, cannot be written.")
         .arg(failed);
 }
 

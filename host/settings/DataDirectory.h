@@ -10,9 +10,9 @@ namespace scopix
 namespace DataDirectory
 {
 
-/// Where XSGHOME is not set, sets it to a folder of the user's own, and on first use fills that with the
-/// files shipped with the program. A XSGHOME that is set is left alone. Call before plug-ins are loaded.
-/// Returns an empty text, or one sentence that says what could not be written.
+/// Where the user has set no XSGHOME, sets the preference to a folder of the user's own, and on first use
+/// fills that with the files shipped with the program. Call after the preferences have been read and before
+/// plug-ins are loaded. Returns an empty text, or one sentence that says what could not be written.
 QString ensure();
 
 } // namespace DataDirectory

@@ -6,14 +6,14 @@
 namespace scopix
 {
 
-/// Where the host keeps what belongs to one person: settings, profiles, recent files, unsaved edits.
+/// Where the host keeps what belongs to one user: settings, profiles, recent files, unsaved edits.
 namespace UserSettings
 {
 
-/// The path of a file or folder of this name in the user's configuration. Asked anew each time, since the
+/// The path of a file or folder of this name in the user's configuration. Computed on each call, since the
 /// environment says where that is.
 QString path(const QString& name);
-/// The file with what the window remembers: places, colours, recent files.
+/// The file with what the window remembers: geometry, layout, palette, recent files.
 QString windowFile();
 
 } // namespace UserSettings

@@ -148,8 +148,7 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
         m_hiddenByPerson.insert(name);
     const QString failure = catchExceptions([&] { shown ? extension->show() : extension->hide(); });
     if (!failure.isEmpty())
-        emit failed(
-            tr("The extension \"%1\" failed when it was to be shown or hidden: %2").arg(name, failure));
+        emit failed(tr("The extension “%1” failed when it was to be shown or hidden: %2").arg(name, failure));
 }
 
 bool HostShell::isHiddenByPerson(const SpxExtension* extension) const

@@ -2,6 +2,7 @@
 // Calls into plug-in code, out of which no exception may come.
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <exception>
@@ -18,9 +19,10 @@ QString catchExceptions(Call&& what)
         return {};
     } catch (const std::exception& error) {
         const QString text = QString::fromLocal8Bit(error.what());
-        return text.isEmpty() ? QStringLiteral("an exception without a text") : text;
+        return text.isEmpty() ? QCoreApplication::translate("Exceptions", "an exception without a text")
+                              : text;
     } catch (...) {
-        return QStringLiteral("an exception of an unknown type");
+        return QCoreApplication::translate("Exceptions", "an exception of an unknown type");
     }
 }
 

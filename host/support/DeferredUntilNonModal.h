@@ -21,7 +21,6 @@ public:
     /// Runs now what was requested; nothing otherwise.
     void runNow();
     void cancel();
-    bool isRequested() const { return m_requested; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

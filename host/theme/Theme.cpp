@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "theme/Theme.h"
 
+#include "theme/WindowTheme.h"
+
 #include <QApplication>
-#include <QFont>
-#include <QStyleFactory>
 
 namespace scopix
 {
@@ -28,7 +28,7 @@ constexpr PaletteColors DarkColors{0xff2b2e33, 0xff212327, 0xff363a40, 0xffdfe3e
 constexpr PaletteColors LightColors{0xfff1f3f5, 0xffffffff, 0xfff8f9fa, 0xff1d2126, 0xff7b838c,
                                     0xff2f74c0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
 
-QPalette paletteOf(const PaletteColors& t)
+QPalette paletteFrom(const PaletteColors& t)
 {
     const QColor text(t.text);
     const QColor quiet(t.quiet);
@@ -52,6 +52,7 @@ QPalette paletteOf(const PaletteColors& t)
     p.setColor(QPalette::Highlight, QColor(t.accent));
     p.setColor(QPalette::HighlightedText, Qt::white);
     p.setColor(QPalette::Link, QColor(t.accent).lighter(120));
+    p.setColor(QPalette::LinkVisited, QColor(t.accent).darker(120));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         p.setColor(QPalette::Disabled, role, quiet);
     p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(t.mid));
@@ -79,15 +80,18 @@ QString themeName(Theme theme)
     }
 }
 
-void applyTheme(Theme theme)
+QPalette themePalette(Theme theme)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    static const bool systemIsDark = isDark(QApplication::palette());
-    // Off the screen there is no desktop that would say how large text is.
-    if (QApplication::platformName() == QLatin1String("offscreen"))
-        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    const bool dark = theme == Theme::Dark || (theme == Theme::System && systemIsDark);
-    QApplication::setPalette(paletteOf(dark ? DarkColors : LightColors));
+    const bool dark = theme == Theme::Dark || (theme == Theme::System && isDark(QApplication::palette()));
+    return paletteFrom(dark ? DarkColors : LightColors);
+}
+
+void applyTheme(QWidget& window, Theme theme)
+{
+    auto* keeper = window.findChild<WindowTheme*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!keeper)
+        keeper = new WindowTheme(window);
+    keeper->apply(theme);
 }
 
 bool isDark(const QPalette& palette)

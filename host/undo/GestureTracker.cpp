@@ -210,8 +210,8 @@ void GestureTracker::typed(QWidget* input, bool enter)
     if (dialogOpen())
         return;
     const ActiveGesture* open = visibleTop();
-    const bool goesOn = open && open->id == m_run.id && m_run.input == input && !m_run.entered;
-    if (!goesOn) {
+    const bool continues = open && open->id == m_run.id && m_run.input == input && !m_run.entered;
+    if (!continues) {
         begin(Kind::Typing, input);
         m_run = {input, m_last, false};
     }
@@ -223,9 +223,9 @@ void GestureTracker::wheelTurned(QWidget* widget)
     if (dialogOpen())
         return;
     const ActiveGesture* open = visibleTop();
-    const bool goesOn = open && open->kind == Kind::Wheel && open->receiver &&
-                        (open->receiver == widget || widget->isAncestorOf(open->receiver));
-    if (!goesOn)
+    const bool continues = open && open->kind == Kind::Wheel && open->receiver &&
+                           (open->receiver == widget || widget->isAncestorOf(open->receiver));
+    if (!continues)
         begin(Kind::Wheel, widget);
 }
 
@@ -244,7 +244,7 @@ void GestureTracker::focusLeaves(QWidget* widget)
     const bool insideDialog = dialogOpen() && isModalWindow(widget->window());
     if (insideDialog)
         return;
-    // What was typed belongs to its run, whatever took the focus away. A text that came without typing,
+    // What was typed belongs to its run, whatever took the focus away. Text that came without typing, such as
     // pasted with the mouse, is a gesture of its own.
     m_leaving = m_run.input == widget ? m_run.id : ++m_last;
     m_leavingInput = widget;
@@ -271,8 +271,8 @@ void GestureTracker::dialogShown(QWidget* dialog)
 void GestureTracker::dialogHidden(const QWidget* dialog)
 {
     const auto is = [&](const ActiveDialog& open) { return !open.dialog || open.dialog == dialog; };
-    const auto gone = std::find_if(m_dialogs.begin(), m_dialogs.end(), is);
-    if (gone == m_dialogs.end())
+    const auto hidden = std::find_if(m_dialogs.begin(), m_dialogs.end(), is);
+    if (hidden == m_dialogs.end())
         return;
     const Gesture opener = m_dialogs.front().opener;
     m_dialogs.erase(std::remove_if(m_dialogs.begin(), m_dialogs.end(), is), m_dialogs.end());
@@ -285,7 +285,7 @@ void GestureTracker::dialogHidden(const QWidget* dialog)
         postEnd(opener);
 }
 
-// Reached from an event loop only: whatever was released on this level has been delivered.
+// Only an event loop sends these events: whatever was released on this level has been delivered.
 void GestureTracker::eventLoopIterated()
 {
     m_leaving = 0;
@@ -333,10 +333,12 @@ void GestureTracker::postEnd(Gesture id)
 void GestureTracker::close(Gesture id)
 {
     const auto is = [id](const ActiveGesture& open) { return open.id == id; };
-    m_open.erase(std::find_if(m_open.begin(), m_open.end(), is), m_open.end());
+    const auto closed = std::find_if(m_open.begin(), m_open.end(), is);
+    if (closed != m_open.end())
+        m_open.erase(closed); // those behind it belong to event loops inside of its own
 }
 
-// What an event loop that has ended since left behind no longer counts.
+// Gestures of event loops that have ended since do not count.
 const GestureTracker::ActiveGesture* GestureTracker::visibleTop() const
 {
     const int level = loopLevel();

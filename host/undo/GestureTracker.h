@@ -13,13 +13,12 @@ class QWidget;
 namespace scopix
 {
 
-/// Tells which acts of the person belong together. It watches every event of the program and gives each
-/// gesture a number, from its begin to its end and never by a clock:
+/// Determines which inputs of the user belong together. It watches every event of the program and gives each
+/// gesture a number, from its beginning to its end, without any time limits:
 ///
 ///   mouse     from the press until the release of the last button has been delivered;
-///   typing    a run of keys in one text input, with what the loss of focus that ends it applies; Enter ends
-///   the run
-///             at the next key;
+///   typing    a run of keys in one text input, with what the loss of focus that ends it applies; after
+///             Enter, the next key begins another run;
 ///   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
 ///   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
 ///   dialog    what is done in a modal dialog belongs to the gesture that opened it.
@@ -53,7 +52,7 @@ private:
         Kind kind;
         int level; // depth of event loops in which its input arrived
         QPointer<QWidget> receiver;
-        bool released = false;     // ends when what released it has been delivered
+        bool released = false;     // ends when the event that released it has been delivered
         bool waitsForLoop = false; // released, but its handler still runs an event loop of its own
     };
 
@@ -94,7 +93,7 @@ private:
     std::vector<ActiveGesture> m_open; // the innermost event loop's last
     std::vector<ActiveDialog> m_dialogs;
     TypingRun m_run;
-    Gesture m_leaving = 0; // whose typing a focus loss is applying right now
+    Gesture m_leaving = 0; // whose typing is being applied by a loss of focus
     QPointer<QWidget> m_leavingInput;
     QPointer<QWidget> m_keyReceiver; // of the key press being passed up to its parents
     const void* m_keyEvent = nullptr;

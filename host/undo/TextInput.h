@@ -6,15 +6,15 @@ class QWidget;
 namespace scopix
 {
 
-/// What the host knows of the inputs that a person types into, whoever made them.
+/// What the host knows of text inputs, whoever made them.
 namespace TextInput
 {
 
 /// A line edit, text edit, spin box or editable combo box that takes typing.
 bool isTextInput(const QWidget* widget);
 
-/// True when the input holds typing that nobody has applied: its modified mark is on. Who applies it takes
-/// the mark off.
+/// True when the input holds typing that has not been applied: its modified flag is set. Code that applies it
+/// clears the flag.
 bool hasPendingEdit(const QWidget* widget);
 
 } // namespace TextInput

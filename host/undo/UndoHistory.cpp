@@ -28,7 +28,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
 {
     const QString failure = catchExceptions([&] { command->execute(); });
     if (!failure.isEmpty()) {
-        emit failed(tr("\"%1\" failed: %2").arg(context.text, failure));
+        emit failed(tr("“%1” failed: %2").arg(context.text, failure));
         return;
     }
     if (!m_busy) {
@@ -53,21 +53,7 @@ void UndoHistory::record(std::unique_ptr<SpxCommand> command, const CommandConte
 {
     m_touched.insert(context.touched.begin(), context.touched.end());
     m_mayTouchAnything |= context.touched.empty();
-    if (goesOn(context)) {
-        m_openStep->append(std::move(command), context);
-        emit acted();
-        return;
-    }
-    auto step = std::make_shared<UndoStep>(*this, context);
-    step->append(std::move(command), context);
-    m_openStep = step;
-    m_stack.push(new UndoEntry(*this, std::move(step)));
-}
-
-bool UndoHistory::goesOn(const CommandContext& context) const
-{
-    return m_openStep && context.gesture != 0 && m_openStep->gesture() == context.gesture &&
-           m_stack.count() > 0 && stepAt(m_stack.count() - 1) == m_openStep && !m_stack.isClean();
+    m_stack.push(new UndoEntry(*this, std::make_shared<UndoStep>(*this, std::move(command), context)));
 }
 
 void UndoHistory::forget(const SoFieldContainer* container)
@@ -102,8 +88,8 @@ bool UndoHistory::dropSteps(const SoFieldContainer* container)
     return any;
 }
 
-// Where the saved state is reached once the dropped steps are gone: -1, nowhere, where one of them lies
-// between it and the present state, since that edit can be neither undone nor done again.
+// The index of the saved state once the dropped steps are removed: -1, none, where one of them lies between
+// it and the present state, since that edit can be neither undone nor redone.
 int UndoHistory::cleanIndexAfterSweep() const
 {
     const int clean = m_stack.cleanIndex();
@@ -119,7 +105,8 @@ int UndoHistory::cleanIndexAfterSweep() const
     return after;
 }
 
-// QUndoStack cannot take a step out of its middle, so the others are put on an empty one.
+// QUndoStack removes commands, obsolete ones too, only from its end, so the stack is emptied and the
+// remaining steps are pushed again.
 void UndoHistory::rebuildStack()
 {
     const QScopedValueRollback<bool> sweeping(m_sweeping, true);
@@ -133,10 +120,11 @@ void UndoHistory::rebuildStack()
         index += i < m_stack.index() ? 1 : 0;
         kept.push_back(std::move(step));
     }
-    m_openStep.reset();
     m_stack.clear();
-    for (StepPtr& step : kept)
+    for (StepPtr& step : kept) {
+        step->close();
         m_stack.push(new UndoEntry(*this, std::move(step)));
+    }
     m_stack.resetClean();
     if (clean >= 0) {
         m_stack.setIndex(clean);
@@ -148,7 +136,6 @@ void UndoHistory::rebuildStack()
 void UndoHistory::clear()
 {
     m_deferred.clear();
-    m_openStep.reset();
     m_touched.clear();
     m_mayTouchAnything = false;
     const bool wasClean = m_stack.isClean();

@@ -20,7 +20,7 @@ class UndoStep;
 class UndoEntry;
 
 /// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
-/// gesture in one step. Undoing a step undoes its commands in reverse order. GUI thread only.
+/// gesture merged into one step. Undoing a step undoes its commands in reverse order. GUI thread only.
 class UndoHistory : public QObject
 {
     Q_OBJECT
@@ -38,10 +38,10 @@ public:
 
     QUndoStack& stack() { return m_stack; }
 
-    /// Runs the command's execute() and keeps the command. Comes to rest on the stack a turn later when a
-    /// step is being undone or redone right now.
+    /// Runs the command's execute() and keeps the command. While a step is being undone or redone, the
+    /// command is pushed from the event loop.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
-    /// Drops the steps that touch the container, and those of which it is not known what they touch.
+    /// Drops the steps that touch the container, and those with unknown effects.
     void forget(const SoFieldContainer* container);
     /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
@@ -63,16 +63,14 @@ private:
 
     void record(std::unique_ptr<SpxCommand> command, const CommandContext& context);
     void recordDeferred();
-    bool goesOn(const CommandContext& context) const;
     bool dropSteps(const SoFieldContainer* container);
     void rebuildStack();
     int cleanIndexAfterSweep() const;
     StepPtr stepAt(int index) const;
 
     QUndoStack m_stack;
-    StepPtr m_openStep;                                    // the last one, while its gesture may add to it
     std::unordered_set<const SoFieldContainer*> m_touched; // by any step since the last clear
-    bool m_mayTouchAnything = false;                       // some step does not know what it touches
+    bool m_mayTouchAnything = false;                       // there is a step with unknown effects
     std::vector<Deferred> m_deferred;
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;

@@ -15,7 +15,7 @@ namespace
 {
 
 // True for an input that holds unapplied typing, and for the parents to which it passes the key up.
-bool isInputs(const QWidget& widget)
+bool belongsToInput(const QWidget& widget)
 {
     const QWidget* focus = QApplication::focusWidget();
     return TextInput::hasPendingEdit(&widget) ||
@@ -54,7 +54,7 @@ bool UndoShortcutFilter::eventFilter(QObject* watched, QEvent* event)
     const auto& widget = *static_cast<const QWidget*>(watched);
     if (!concerns(widget))
         return false;
-    if (isInputs(widget)) {
+    if (belongsToInput(widget)) {
         event->accept(); // before the menu's shortcut sees it
         return false;
     }
@@ -64,7 +64,7 @@ bool UndoShortcutFilter::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
-// The window itself and whatever hangs on it, unless a modal dialog keeps the person away from it.
+// The window itself and its descendants, unless a modal dialog blocks it.
 bool UndoShortcutFilter::concerns(const QWidget& widget) const
 {
     if (QApplication::activeModalWidget())

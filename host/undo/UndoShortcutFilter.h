@@ -12,8 +12,8 @@ namespace scopix
 {
 
 /// Gives Ctrl+Z and Ctrl+Shift+Z to the undo stack wherever the focus is in the window, its floating docks
-/// and popups, except while the focused input holds typing that has not been applied: then they are the
-/// input's. GUI thread only.
+/// and popups, except while the focused input holds typing that has not been applied: then the input
+/// gets them. GUI thread only.
 class UndoShortcutFilter : public QObject
 {
     Q_OBJECT

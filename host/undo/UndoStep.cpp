@@ -8,6 +8,8 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <climits>
+#include <iterator>
 
 namespace scopix
 {
@@ -25,23 +27,29 @@ struct Reversed {
 
 } // namespace
 
-UndoStep::UndoStep(UndoHistory& history, UndoHistory::CommandContext context)
+UndoStep::UndoStep(UndoHistory& history, std::unique_ptr<SpxCommand> command,
+                   UndoHistory::CommandContext context)
     : m_history(history)
     , m_context(std::move(context))
 {
+    m_commands.push_back(std::move(command));
 }
 
 UndoStep::~UndoStep() = default;
 
-void UndoStep::append(std::unique_ptr<SpxCommand> command, const UndoHistory::CommandContext& context)
+bool UndoStep::merge(UndoStep& next)
 {
-    m_commands.push_back(std::move(command));
-    if (context.touched.empty())
+    if (!m_open || gesture() != next.gesture())
+        return false;
+    std::move(next.m_commands.begin(), next.m_commands.end(), std::back_inserter(m_commands));
+    const auto& touched = next.m_context.touched;
+    if (touched.empty())
         m_context.touched.clear();
-    for (const SoFieldContainer* container : context.touched) {
+    for (const SoFieldContainer* container : touched) {
         if (!touches(container))
             m_context.touched.push_back(container);
     }
+    return true;
 }
 
 void UndoStep::undo()
@@ -57,7 +65,7 @@ void UndoStep::redo()
 template <class Commands, class Act>
 void UndoStep::run(const Commands& commands, Act act)
 {
-    m_history.m_openStep.reset();
+    close();
     const QScopedValueRollback<bool> busy(m_history.m_busy, true);
     const QScopedValueRollback<bool> running(m_running, true);
     for (const auto& command : commands) {
@@ -65,7 +73,7 @@ void UndoStep::run(const Commands& commands, Act act)
             break;
         const QString failure = catchExceptions([&] { act(*command); });
         if (!failure.isEmpty())
-            emit m_history.failed(UndoHistory::tr("\"%1\" failed: %2").arg(text(), failure));
+            emit m_history.failed(UndoHistory::tr("“%1” failed: %2").arg(text(), failure));
     }
 }
 
@@ -87,6 +95,17 @@ UndoEntry::UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step)
     , m_step(std::move(step))
     , m_sweeping(history.m_sweeping)
 {
+}
+
+int UndoEntry::id() const
+{
+    return m_step->gesture() == 0 ? -1 : static_cast<int>(m_step->gesture() % INT_MAX);
+}
+
+// While the stack is rebuilt, the steps stay as they were.
+bool UndoEntry::mergeWith(const QUndoCommand* next)
+{
+    return !m_sweeping && m_step->merge(*static_cast<const UndoEntry*>(next)->m_step);
 }
 
 void UndoEntry::undo()

@@ -12,15 +12,18 @@ namespace scopix
 class UndoStep
 {
 public:
-    UndoStep(UndoHistory& history, UndoHistory::CommandContext context);
+    UndoStep(UndoHistory& history, std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context);
     ~UndoStep();
 
-    void append(std::unique_ptr<SpxCommand> command, const UndoHistory::CommandContext& context);
+    /// Takes over the commands of the step that follows, when both are of one gesture and this one has not
+    /// been undone since. False, and nothing changes, otherwise.
+    bool merge(UndoStep& next);
+    /// Nothing is merged into it any more.
+    void close() { m_open = false; }
     void undo();
     void redo();
 
     bool touches(const SoFieldContainer* container) const;
-    bool touchesUnknown() const { return m_context.touched.empty(); }
     /// Never runs its commands again.
     void drop();
     bool isDropped() const { return m_dropped; }
@@ -35,6 +38,7 @@ private:
     UndoHistory& m_history;
     UndoHistory::CommandContext m_context;
     std::vector<std::unique_ptr<SpxCommand>> m_commands;
+    bool m_open = true;
     bool m_running = false;
     bool m_dropped = false;
 };
@@ -46,8 +50,11 @@ public:
     UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step);
 
     void undo() override;
-    /// Does nothing the first time, when the stack takes it in: its commands have been executed.
+    /// Does nothing the first time, when it is pushed: its commands have been executed.
     void redo() override;
+    /// Steps of one gesture have the same id; a step of its own has none.
+    int id() const override;
+    bool mergeWith(const QUndoCommand* next) override;
     const std::shared_ptr<UndoStep>& step() const { return m_step; }
 
 private:

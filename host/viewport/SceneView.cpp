@@ -4,7 +4,7 @@
 #include "theme/Theme.h"
 #include "viewport/ViewSurface.h"
 
-#include <xsg/nodes/transforms/SoSpin.h>
+#include <xsg/nodes/base/SoTimeSource.h>
 #include <xsg/render/SoRenderer.h>
 
 #include <QApplication>
@@ -22,7 +22,7 @@ namespace
 {
 
 constexpr float WheelStep = 0.85F; // per notch of 120
-constexpr int TickMs = 16;         // between pictures of something that turns
+constexpr int TickMs = 16;         // between pictures of something that moves with time
 // What a key does, as part of the picture's height; turning, that is half a turn.
 constexpr float KeyStep = 1.0F / 12;
 
@@ -107,7 +107,8 @@ void SceneView::setAnimated(bool on)
 
 void SceneView::animateWhereNeeded()
 {
-    const bool isNeeded = m_isAnimated && isVisible() && m_root && SoSpin::isAnyTurning(m_root.get());
+    const bool isNeeded =
+        m_isAnimated && isVisible() && m_root && SoTimeSource::getInstance().isNeeded(m_root.get());
     if (isNeeded && !m_ticks.isActive()) {
         m_sinceTick.start();
         m_ticks.start(TickMs, this);
@@ -118,7 +119,7 @@ void SceneView::animateWhereNeeded()
 
 void SceneView::timerEvent(QTimerEvent* /*event*/)
 {
-    SoSpin::advanceAll(static_cast<double>(m_sinceTick.restart()) / 1000, m_root.get());
+    SoTimeSource::getInstance().advance(static_cast<double>(m_sinceTick.restart()) / 1000, m_root.get());
 }
 
 void SceneView::showEvent(QShowEvent* /*event*/)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/ViewSurface.h"
 
+#include "viewport/TextureImageLoader.h"
+
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <QGuiApplication>
@@ -45,6 +47,7 @@ public:
         , m_prepare(std::move(prepare))
         , m_drawn(std::move(drawn))
     {
+        m_renderer.setImageReader(TextureImageLoader::read);
         setFormat(surfaceFormat());
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -102,6 +105,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_OpaquePaintEvent);
         m_renderer.setSamples(Samples);
+        m_renderer.getRenderer().setImageReader(TextureImageLoader::read);
     }
 
     QWidget* getWidget() override { return this; }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/FileMenu.h"
 
-#include "theme/ActionIcons.h"
+#include "theme/SvgIcon.h"
 #include "window/SceneFiles.h"
 
 #include <QAction>
@@ -16,7 +16,8 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     , m_files(files)
 {
     menu.addAction(tr("&New"), &files, &SceneFiles::newScene, QKeySequence::New);
-    m_open = menu.addAction(openIcon(), tr("&Open …"), &files, &SceneFiles::askForFile, QKeySequence::Open);
+    m_open = menu.addAction(svgIcon(QStringLiteral("action-open"), &menu), tr("&Open…"), &files,
+                            &SceneFiles::askForFile, QKeySequence::Open);
     m_open->setToolTip(tr("Open a scene or model"));
     m_recent = menu.addMenu(tr("Open &Recent"));
     m_recent->setObjectName(QStringLiteral("recentFiles"));
@@ -24,7 +25,7 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     connect(m_recent, &QMenu::aboutToShow, this, &FileMenu::fillRecent);
     menu.addSeparator();
     menu.addAction(tr("&Save"), &files, &SceneFiles::save, QKeySequence::Save);
-    menu.addAction(tr("Save &As …"), &files, &SceneFiles::saveAs, QKeySequence::SaveAs);
+    menu.addAction(tr("Save &As…"), &files, &SceneFiles::saveAs, QKeySequence::SaveAs);
 }
 
 void FileMenu::fillRecent()

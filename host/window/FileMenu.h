@@ -11,7 +11,7 @@ namespace scopix
 
 class SceneFiles;
 
-/// The menu of what can be done with files, with the recent ones. GUI thread only.
+/// The file menu, with the recent files. GUI thread only.
 class FileMenu : public QObject
 {
     Q_OBJECT

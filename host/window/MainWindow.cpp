@@ -2,13 +2,13 @@
 #include "window/MainWindow.h"
 
 #include "panels/FieldListView.h"
-#include "panels/NodeText.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
-#include "theme/ActionIcons.h"
+#include "text/NodeText.h"
+#include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
 #include "window/DefaultScene.h"
@@ -77,7 +77,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_view(new SceneView)
 {
     setObjectName(QStringLiteral("mainWindow"));
-    applyTheme(wantedTheme());
+    applyTheme(*this, wantedTheme());
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -102,7 +102,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
 
 MainWindow::~MainWindow()
 {
-    // What the views still tell while they go is nobody's business any more.
+    // Nothing may react to what the views emit while they are destroyed.
     m_tree->disconnect(this);
     m_fields->disconnect(this);
     m_view->disconnect(this);
@@ -140,7 +140,7 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
-    menu->addAction(tr("Save &Picture of the Window …"), this, &MainWindow::askForScreenshot);
+    menu->addAction(tr("Save &Picture of the Window…"), this, &MainWindow::askForScreenshot);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 }
@@ -151,26 +151,29 @@ void MainWindow::makeEditMenu()
     QUndoStack& stack = m_services.undoStack();
     m_undoAction = stack.createUndoAction(this, tr("Undo"));
     m_undoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
-    m_undoAction->setIcon(undoIcon());
+    m_undoAction->setIcon(svgIcon(QStringLiteral("action-undo"), this));
     m_redoAction = stack.createRedoAction(this, tr("Redo"));
     m_redoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
-    m_redoAction->setIcon(redoIcon());
+    m_redoAction->setIcon(svgIcon(QStringLiteral("action-redo"), this));
     menu->addActions({m_undoAction, m_redoAction});
 }
 
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    m_viewAllAction = menu->addAction(viewAllIcon(), tr("View &All"), m_view, &SceneView::viewAll,
-                                      QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_viewSelectedAction = menu->addAction(viewSelectedIcon(), tr("View &Selected"), this,
-                                           &MainWindow::viewSelected, QKeySequence(Qt::CTRL + Qt::Key_F));
+    m_viewAllAction =
+        menu->addAction(tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
+    m_viewAllAction->setIcon(svgIcon(QStringLiteral("action-view-all"), this));
+    m_viewSelectedAction = menu->addAction(tr("View &Selected"), this, &MainWindow::viewSelected,
+                                           QKeySequence(Qt::CTRL + Qt::Key_F));
+    m_viewSelectedAction->setIcon(svgIcon(QStringLiteral("action-view-selected"), this));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
     menu->addSeparator();
-    m_wireframeAction = menu->addAction(wireframeIcon(), tr("&Wireframe"));
+    m_wireframeAction = menu->addAction(svgIcon(QStringLiteral("action-wireframe"), this), tr("&Wireframe"));
     m_wireframeAction->setShortcut(Qt::Key_F3);
-    m_statisticsAction = menu->addAction(statisticsIcon(), tr("S&tatistics"));
+    m_statisticsAction =
+        menu->addAction(svgIcon(QStringLiteral("action-statistics"), this), tr("S&tatistics"));
     m_statisticsAction->setShortcut(Qt::Key_F4);
     for (QAction* toggle : {m_wireframeAction, m_statisticsAction})
         toggle->setCheckable(true);
@@ -230,7 +233,7 @@ void MainWindow::makeToolBar()
     QToolBar* bar = addToolBar(tr("Main"));
     bar->setObjectName(QStringLiteral("mainToolBar"));
     bar->setMovable(false);
-    bar->setIconSize({18, 18});
+    bar->setIconSize({16, 16}); // the grid that the icons are drawn on
     bar->addAction(m_openAction);
     bar->addSeparator();
     bar->addActions({m_undoAction, m_redoAction});
@@ -255,7 +258,7 @@ void MainWindow::showNode(SoFieldContainer* container)
 {
     auto* node = dynamic_cast<SoNode*>(container);
     m_tree->showNode(node);
-    // Marks would cover the very look that the person tunes in a material.
+    // The highlight would cover the very look that the user tunes in a material.
     const bool canBeSeen = node && (node->asGroup() || node->asShape());
     m_view->setHighlight(canBeSeen ? node : nullptr);
     m_fields->setContainer(container);
@@ -271,17 +274,32 @@ void MainWindow::setScene(SoNode* root, const QString& title)
     m_files.getDocument().begin(root, {}, title);
 }
 
+bool MainWindow::inspect(SoNode* root, const QString& title)
+{
+    if (root == getScene() && m_files.getDocument().isExternal())
+        return true;
+    if (!m_files.confirmDiscard())
+        return false;
+    if (root)
+        m_files.getDocument().beginExternal(root, title.isEmpty() ? tr("Running Scene") : title);
+    else
+        setScene(makeDefaultScene().get(), tr("Welcome"));
+    return true;
+}
+
 void MainWindow::showScene(SoNode* root)
 {
     m_tree->setScene(root);
-    m_view->setAnimated(m_notifier.isAttended()); // pictures made by a script are to be the same each time
+    // Pictures made by a script are the same each time; and time in an application's scene is the
+    // application's.
+    m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
 }
 
 void MainWindow::showTitle()
 {
     const SceneDocument& document = m_files.getDocument();
-    setWindowTitle(document.getTitle() + QStringLiteral("[*]")); // the toolkit adds mark and program's name
+    setWindowTitle(document.getTitle() + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
 }
 
@@ -333,7 +351,7 @@ void MainWindow::viewSelected()
 void MainWindow::setTheme(Theme theme)
 {
     settings().setValue(QStringLiteral("palette"), themeName(theme));
-    applyTheme(theme);
+    applyTheme(*this, theme);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -346,7 +364,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 void MainWindow::dropEvent(QDropEvent* event)
 {
     event->accept();
-    // A turn later: the other program waits for the drop to end, and the person may be asked something.
+    // From the event loop: the other program waits for the drop to end, and the user may be asked something.
     const QString path = event->mimeData()->urls().first().toLocalFile();
     QMetaObject::invokeMethod(
         this, [this, path] { m_files.openAnother(path); }, Qt::QueuedConnection);
@@ -355,6 +373,8 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files.confirmClose());
+    if (event->isAccepted())
+        emit closed();
 }
 
 } // namespace scopix

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/HostWindow.h"
 #include "theme/Theme.h"
+#include "window/HostWindow.h"
 #include "window/SceneFiles.h"
 
 #include <xsg/nodes/base/SoNode.h>
@@ -25,12 +25,15 @@ class MainWindow : public HostWindow
     Q_OBJECT
 
 public:
-    /// Both must outlive the window. Starts with the shipped scene.
+    /// Both must outlive the window. Starts with the welcome scene.
     MainWindow(HostServices& services, UserNotifier& notifier);
     ~MainWindow() override;
 
-    /// Shows this scene, which comes from no file, instead of the one before; `title` names it.
+    /// Replaces the scene by one that comes from no file; `title` names it.
     void setScene(SoNode* root, const QString& title);
+    /// Shows a scene that belongs to the application around the window; null: the shipped scene. False when
+    /// the user does not want to lose unsaved edits of what is open.
+    bool inspect(SoNode* root, const QString& title);
     SoNode* getScene() const { return m_files.getDocument().getRoot(); }
     SceneFiles& getFiles() { return m_files; }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "window/SceneFiles.h"
 
-#include "import/FileChecks.h"
 #include "import/ModelImport.h"
+#include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
@@ -57,7 +57,7 @@ SceneFiles::~SceneFiles() = default;
 void SceneFiles::open(const QString& path)
 {
     if (m_import)
-        m_import->cancel(); // the person has changed their mind
+        m_import->cancel(); // the user has changed their mind
     m_droppable = m_document.getEditCount();
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
@@ -91,7 +91,7 @@ void SceneFiles::importModel(const QString& path)
 
 void SceneFiles::modelRead(SoNode* root, const QString& path)
 {
-    // The person may have gone on editing until the model was there.
+    // The user may have continued to edit while the model was read.
     if (m_document.getEditCount() == m_droppable || confirmDiscard())
         show(root, path);
     else
@@ -157,7 +157,7 @@ void SceneFiles::openRecent(const QString& path)
         return openAnother(path);
     m_recent.remove(path);
     m_notifier.error(
-        tr("“%1” is not there any more, and has been taken off the list of recent files.").arg(path));
+        tr("“%1” does not exist any more and was removed from the list of recent files.").arg(path));
 }
 
 bool SceneFiles::save()
@@ -225,21 +225,23 @@ bool SceneFiles::askWhetherToDrop()
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-// What was typed and not yet confirmed counts as an edit too; editors take it over when their input is left.
+// What was typed and not yet confirmed counts as an edit too; editors apply it when their input loses focus.
 void SceneFiles::applyTyping()
 {
     QWidget* input = QApplication::focusWidget();
     if (!input || !TextInput::hasPendingEdit(input))
         return;
-    const QPointer<QWidget> stays = input;
+    const QPointer<QWidget> survivor = input;
     input->clearFocus();
-    if (stays)
-        stays->setFocus();
+    if (survivor)
+        survivor->setFocus();
 }
 
 void SceneFiles::enterInteractiveMode()
 {
     m_autosave.start();
+    if (m_document.isExternal())
+        return; // recovered edits would take the place of the scene that the application shows
     if (!m_document.getPath().isEmpty())
         m_recent.add(m_document.getPath());
     offerRecovery();

@@ -15,14 +15,14 @@ class HostServices;
 class UserNotifier;
 class ModelImport;
 
-/// What the person does with files: opens and saves scenes, imports models, is asked before unsaved edits are
-/// dropped, and gets back those of a session that crashed. Questions open over the window. GUI thread only.
+/// What the user does with files: opens and saves scenes, imports models, asks before unsaved edits are
+/// dropped, and recovers those of a session that crashed. Questions open over the window. GUI thread only.
 class SceneFiles : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All must outlive it. Nobody is asked anything while `messages` says that nobody is there.
+    /// All must outlive it. No question is asked while `notifier` is unattended.
     SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier);
     ~SceneFiles() override;
 
@@ -32,13 +32,13 @@ public:
     Autosave& getAutosave() { return m_autosave; }
 
     /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once,
-    /// also before this returns. What was open stays when it fails. Problems are told.
+    /// possibly before this returns. What was open stays when it fails. Problems are reported.
     void open(const QString& path);
-    /// False when it cannot be written, which is told.
+    /// False when it cannot be written, which is reported.
     bool saveTo(const QString& path);
 
-    /// The person works with this window from now on: offers what a crashed session left, and keeps unsaved
-    /// edits safe.
+    /// The user works with this window from now on: offers what a crashed session left, and starts keeping
+    /// unsaved edits.
     void enterInteractiveMode();
 
     /// What the menu offers. All but save() first ask about unsaved edits.
@@ -46,17 +46,18 @@ public:
     void askForFile();
     void openAnother(const QString& path);
     void openRecent(const QString& path);
-    /// False when it was not saved: it could not be written, or the person gave no name.
+    /// False when it was not saved: it could not be written, or the user gave no name.
     bool save();
     bool saveAs();
     /// False when the window is to stay open.
     bool confirmClose();
+    /// False when the user wants to keep unsaved edits.
+    bool confirmDiscard();
 
 signals:
     void opened(bool good);
 
 private:
-    bool confirmDiscard();
     bool askWhetherToDrop();
     void applyTyping();
     void openScene(const QString& path);
@@ -75,7 +76,7 @@ private:
     RecentFiles m_recent;
     Autosave m_autosave;
     QPointer<ModelImport> m_import;
-    quint64 m_droppable = 0; // the count of the edits that the person agreed to lose
+    quint64 m_droppable = 0; // the edit count up to which the user agreed to lose edits
 };
 
 } // namespace scopix

@@ -5,7 +5,7 @@
 
 class QScrollBar;
 
-/// Keeps a scroll bar at its end while what it scrolls grows, until the person scrolls away from the end;
+/// Keeps a scroll bar at its end while what it scrolls grows, until the user scrolls away from the end;
 /// coming back to the end resumes. Lives with its scroll bar.
 class AutoScroller : public QObject
 {

@@ -28,7 +28,7 @@ public:
     void push(ConsoleMessage&& message);
 
     /// GUI thread, after it has delivered what was posted: the oldest waiting messages, about maxLines lines
-    /// of them. When none is left, posting begins anew, so the caller has printed those that it took before.
+    /// of them. When none is left, posting begins again, so the caller has printed those that it took before.
     std::vector<ConsoleMessage> take(int maxLines);
     std::size_t size() const;
 

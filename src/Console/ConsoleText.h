@@ -11,7 +11,7 @@ class QTextEdit;
 class AutoScroller;
 
 /// What the console's text edit holds: paragraphs of plain text in the colour of their kind, the newest
-/// maxLines of them. Leaves the person's selection alone, and what the person looks at in its place. GUI
+/// maxLines of them. Leaves the user's selection alone, and what the user looks at in its place. GUI
 /// thread only.
 class ConsoleText
 {

@@ -4,32 +4,25 @@
 #include "SpxMFSetValueCommand.h"
 #include "SpxSFSetValueCommand.h"
 
-#include <scopix/SpxCommand.h>
-#include <xsg/values/SbString.h>
+#include <scopix/editing/SpxFieldEdit.h>
+#include <xsg/core/SoMField.h>
+#include <xsg/core/SoSField.h>
 
 #include <memory>
 #include <utility>
 
-class SoField;
-class SoMField;
-class SoSField;
-
-/// The road of one edit, the same for every editor: the command is built while the field still has its old
-/// value, then the field is written, then the command goes to the host's undo stack.
+/// The edits of the default editors: each builds its own command, which keeps values as text, and takes the
+/// steps of SpxFieldEdit with it.
 namespace EdFieldEdits
 {
-
-/// Hands a command to the host. Without a host there is nobody to keep it, and it goes.
-void record(std::unique_ptr<SpxCommand> command);
 
 /// `write` writes the field. `saved` is the text that undo restores, empty for what the field gives now; it
 /// is consumed.
 template <class Write>
 void write(SoSField* field, SbString& saved, Write&& write)
 {
-    auto command = std::make_unique<SpxSFSetValueCommand>(field, saved);
-    write();
-    record(std::move(command));
+    SpxFieldEdit::apply(field, std::make_unique<SpxSFSetValueCommand>(field, saved),
+                        std::forward<Write>(write));
 }
 
 template <class Write>
@@ -44,9 +37,8 @@ template <class Write>
 void write1(SoMField* field, int index, Write&& write)
 {
     SbString nothingSaved;
-    auto command = std::make_unique<SpxMFSetValueCommand>(field, index, nothingSaved);
-    write();
-    record(std::move(command));
+    SpxFieldEdit::apply(field, std::make_unique<SpxMFSetValueCommand>(field, index, nothingSaved),
+                        std::forward<Write>(write));
 }
 
 /// Gives the field the value that it has in a fresh node; nothing where no fresh node can be made.

@@ -13,7 +13,8 @@ EdRangeComponent rangeOfField(const SoField& field, const char* defaultField)
     const SoFieldContainer* container = field.getContainer();
     const auto isIn = [container](SoType type) { return container && container->isOfType(type); };
     const EdRangeSettings settings;
-    // One range for the three kinds of node alike, though each has a row of its own; that is meant.
+    // One range for the three kinds of node alike, though each has a row of its own (decisions.md:
+    // range-shared).
     if (isIn(SoComplexity::getClassTypeId()) || isIn(SoMaterial::getClassTypeId()) ||
         isIn(SoDirectionalLight::getClassTypeId()))
         return settings.getFieldRange("Complexity", "value");

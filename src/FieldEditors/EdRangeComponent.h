@@ -2,7 +2,7 @@
 #pragma once
 
 /// The range of values that an editor offers for a numeric field: one pair for each kind of number, and
-/// whether the person may go beyond.
+/// whether the user may go beyond.
 class EdRangeComponent
 {
 public:
@@ -20,7 +20,7 @@ public:
 
     float getfMin() const { return m_floatMinimum; }
     float getfMax() const { return m_floatMaximum; }
-    /// Single precision is meant: the range of a double field holds no more.
+    /// In single precision (decisions.md: range-precision).
     float getdMin() const { return m_doubleMinimum; }
     float getdMax() const { return m_doubleMaximum; }
     int getiMin() const { return m_intMinimum; }

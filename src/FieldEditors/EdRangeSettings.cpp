@@ -23,7 +23,7 @@ constexpr RangeRow Rows[] = {
     {"Material", "transparency", "0.0", "1.0", 'f', "1"},
 };
 
-// No separator, which is meant: "Complex" + "ityvalue" finds "Complexity" + "value".
+// No separator: "Complex" + "ityvalue" finds "Complexity" + "value" (decisions.md: range-keys).
 QString keyOf(const char* nodeType, const char* fieldName)
 {
     return QString::fromLatin1(nodeType) + QString::fromLatin1(fieldName);

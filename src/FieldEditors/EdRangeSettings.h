@@ -16,7 +16,8 @@ public:
     bool isBounded(const char* nodeType, const char* fieldName) const;
     /// All zero and not fixed where nothing is known.
     EdRangeComponent getFieldRange(const char* nodeType, const char* fieldName) const;
-    /// The number base of an integer's text. Only texts of two characters are read as octal; that is meant.
+    /// The number base of an integer's text. Only texts of two characters are read as octal (decisions.md:
+    /// two-character-octal).
     static int checkBase(const QString& text);
 
 private:

@@ -23,7 +23,7 @@ class EdRealValidator : public QDoubleValidator
 {
 public:
     EdRealValidator(double bottom, double top, int decimals, QObject* parent = nullptr);
-    /// What the type holds, with the decimals that the editors let a person type.
+    /// What the type holds, with the decimals that the editors let the user type.
     static EdRealValidator* forFloat(QObject* parent);
     static EdRealValidator* forDouble(QObject* parent);
 

@@ -14,7 +14,7 @@ struct Setting {
     int value;
 };
 
-// Some names are misspelt or shortened; they are meant as they stand.
+// Some names are misspelt or shortened (decisions.md: metric-names).
 constexpr Setting Settings[] = {
     {"frameLineWidth", 0},
     {"labelLineWidth", 0},

@@ -9,7 +9,7 @@
 namespace
 {
 
-bool isGoing(const SoField* field)
+bool isEnding(const SoField* field)
 {
     const SoFieldContainer* container = field->getContainer();
     return container && container->isBeingDestroyed();
@@ -54,7 +54,7 @@ void SpxFieldEditors::deactivate()
 void SpxFieldEditors::applyPending()
 {
     const SoField* field = getField();
-    if (field && !isGoing(field) && edited())
+    if (field && !isEnding(field) && edited())
         applyChanges();
 }
 

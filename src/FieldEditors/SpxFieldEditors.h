@@ -14,11 +14,11 @@
 class QFrame;
 class SoField;
 
-/// Base of every field editor: owns the frame for the editor's widgets, watches the edited field, and lets it
-/// go safely.
+/// Base of every field editor: owns the frame for the editor's widgets, watches the edited field, and
+/// releases it safely.
 ///
-/// One round of editing: setEditedObject(field), the widget goes into a dock, activate() (which calls
-/// setField(), refresh() and show()), the person edits, changes from elsewhere call refresh(), deactivate(),
+/// One round of editing: setEditedObject(field), the widget is put into a dock, activate() (which calls
+/// setField(), refresh() and show()), the user edits, changes from elsewhere call refresh(), deactivate(),
 /// setEditedObject(null). GUI thread only.
 class SpxFieldEditors : public SpxEditor
 {
@@ -28,8 +28,8 @@ public:
     ~SpxFieldEditors() override;
 
     void activate() override;
-    /// Applies what edited() reports, then lets the field go and hides everything: a signal or a dialog that
-    /// comes back later finds no field. Where the field is going away itself, what was typed is dropped.
+    /// Applies what edited() reports, then releases the field and hides everything: a signal or a dialog that
+    /// comes back later finds no field. Where the field itself is being destroyed, what was typed is dropped.
     void deactivate() override;
     void hide() override;
     /// Overrides call this one first.
@@ -37,7 +37,7 @@ public:
     void show() override;
     void unload() override;
 
-    /// Watches the field; null lets it go. Overrides end with this one.
+    /// Watches the field; null releases it. Overrides end with this one.
     virtual void setField(SoField* field);
     /// Reads the field into the widgets. Never writes it.
     virtual void refresh() = 0;
@@ -62,7 +62,7 @@ protected:
     SpxFieldEditors();
 
     /// The field that is being edited. Null outside activate() and deactivate(), before load(), and from the
-    /// moment at which the field is gone, so ask anew each time rather than keep it.
+    /// moment at which the field is destroyed, so ask each time rather than keep it.
     SoField* getField() const;
     /// The same as its class, or null where it is of another.
     template <class Field>

@@ -13,7 +13,8 @@ SpxMFAddRowsCommand::SpxMFAddRowsCommand(SoMField* field, int start, int count)
 void SpxMFAddRowsCommand::execute()
 {
     m_field->insertSpace(m_start, m_count);
-    // An empty quoted text; types that cannot read it keep what the insertion left there, which is meant.
+    // An empty quoted text; types that cannot read it keep what the insertion left there (decisions.md:
+    // add-rows-text).
     const SbString initial("\"\"");
     for (int i = 0; i < m_count; ++i)
         m_field->set1(m_start + i, initial);

@@ -7,7 +7,7 @@
 class SoMField;
 
 /// Records that one value of a multi-value field was written, without making it reversible: made after the
-/// write, it holds the new value twice. This is meant.
+/// write, it holds the new value twice (decisions.md: redo-only-command).
 class SpxMFSetFieldValueCommand : public SpxCommand
 {
 public:

@@ -6,6 +6,7 @@
 #include "CustomCounter.h"
 #include "SoPerfCounterProfile.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/support/SoPreferences.h>
 
@@ -125,7 +126,7 @@ void appendCounter(QDomElement parent, const CustomCounter& counter)
 QString defaultPath()
 {
     const SbString home = SoPreferences::getString("XSGHOME", "");
-    return toQString(home) + QStringLiteral("/data/Scopix/PerfCounter.xml");
+    return SpxText::toQString(home) + QStringLiteral("/data/Scopix/PerfCounter.xml");
 }
 
 QString dialogFilter()

@@ -32,10 +32,10 @@ bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
 void replace(QDomDocument& document, const QDomDocument& by);
 /// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-/// Opens the file of this name anew and writes all of it; says in a box over `parent` what went wrong, if
+/// Opens the file of this name again and writes all of it; says in a box over `parent` what went wrong, if
 /// anything. Content with a flaw is not written, and the file stays as it is.
 bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent);
-/// Starts an empty document afresh and saves it to the device.
+/// Makes the document empty again and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 
 /// Registers the custom counters of the document. A counter whose name is taken is left alone; the names of

@@ -33,9 +33,9 @@ public:
 void setRow(QTableWidget& table, int row, const SoPerfCounter& counter)
 {
     const QString texts[] = {
-        toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
-        toQString(counter.getTypeText()), toQString(counter.getStringLevel()),
-        beginningOf(counter.getModule()), beginningOf(counter.getDescription())};
+        SpxText::toQString(counter.getName()),     counter.isCustom() ? QStringLiteral("c") : QString(),
+        SpxText::toQString(counter.getTypeText()), SpxText::toQString(counter.getStringLevel()),
+        beginningOf(counter.getModule()),          beginningOf(counter.getDescription())};
     int column = 0;
     for (const QString& text : texts)
         table.setItem(row, column++, new QTableWidgetItem(text));
@@ -52,6 +52,14 @@ void fill(QTableWidget& table, const std::vector<const SoPerfCounter*>& counters
         setRow(table, row++, *counter);
     table.sortItems(0, Qt::AscendingOrder);
     fitColumns(table);
+}
+
+void setText(QTableWidget& table, int row, int column, const QString& text)
+{
+    if (QTableWidgetItem* item = table.item(row, column))
+        item->setText(text);
+    else
+        table.setItem(row, column, new QTableWidgetItem(text));
 }
 
 void fitColumns(QTableWidget& table)

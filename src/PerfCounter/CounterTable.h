@@ -16,6 +16,8 @@ namespace counterTable
 
 /// Replaces the rows, and fits the columns to what they hold.
 void fill(QTableWidget& table, const std::vector<const SoPerfCounter*>& counters);
+/// Makes an item only where there is none yet.
+void setText(QTableWidget& table, int row, int column, const QString& text);
 /// To what is seen of their contents, none wider than a window. One that stretches takes the rest.
 void fitColumns(QTableWidget& table);
 /// The names of the selected rows.

@@ -10,5 +10,5 @@
 constexpr int CurveColorCount = 5 * 5 * 5;
 
 /// A random colour, each of whose components is 0, 85, 127, 170 or 255: one that can be seen on white and, as
-/// long as there is any, told from those that are used.
+/// long as there is any, distinguishable from those that are used.
 QColor randomCurveColor(const std::vector<QColor>& used);

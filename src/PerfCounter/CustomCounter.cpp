@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CustomCounter.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <unordered_set>
@@ -31,14 +30,14 @@ void removeCustomCounters()
 CustomCounter CustomCounter::of(const SoPerfCounter& counter)
 {
     CustomCounter made;
-    made.name = toQString(counter.getName());
+    made.name = SpxText::toQString(counter.getName());
     made.isAccumulation = counter.getTypeCode() == SbString("A");
-    made.description = toQString(counter.getDescription());
-    made.module = toQString(counter.getModule());
+    made.description = SpxText::toQString(counter.getDescription());
+    made.module = SpxText::toQString(counter.getModule());
     made.level = counter.getLevel();
-    made.firstParent = toQString(counter.getFirstParent());
-    made.secondParent = toQString(counter.getSecondParent());
-    made.operation = toQString(counter.getOperation());
+    made.firstParent = SpxText::toQString(counter.getFirstParent());
+    made.secondParent = SpxText::toQString(counter.getSecondParent());
+    made.operation = SpxText::toQString(counter.getOperation());
     return made;
 }
 
@@ -65,8 +64,8 @@ bool CustomCounter::wouldLoop() const
 bool CustomCounter::registerIt() const
 {
     const SbName counterName = toCounterName(name);
-    const SbString text = toSbString(description);
-    const SbString moduleName = toSbString(module);
+    const SbString text = SpxText::toSbString(description);
+    const SbString moduleName = SpxText::toSbString(module);
     std::unique_ptr<SoPerfCounter> counter;
     if (isAccumulation)
         counter = std::make_unique<SoPerfAccumCounter>(counterName, text, moduleName, level, true);
@@ -77,6 +76,6 @@ bool CustomCounter::registerIt() const
     SoPerfCounter* registered = counter.release();
     registered->setFirstParent(toCounterName(firstParent));
     registered->setSecondParent(toCounterName(secondParent));
-    registered->setOperation(toSbString(operation));
+    registered->setOperation(SpxText::toSbString(operation));
     return true;
 }

@@ -9,7 +9,7 @@ class QDomDocument;
 class QWidget;
 
 /// The profile files that could not be written, with what they are to hold: each is tried again whenever one
-/// is saved, until it is there. Every failure is reported in a box over `parent`. GUI thread only.
+/// is saved, until it is written. Every failure is reported in a box over `parent`. GUI thread only.
 class OwedSaves
 {
 public:

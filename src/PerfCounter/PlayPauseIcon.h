@@ -5,6 +5,6 @@
 
 class QTimer;
 
-/// An icon that is asked of the timer whenever it is drawn: pause while it runs, play while it does not.
-/// Whoever shows it has only to draw it anew.
+/// An icon that asks the timer whenever it is drawn: pause while it runs, play while it does not. A widget
+/// that shows it is up to date as soon as it is repainted.
 QIcon playPauseIcon(const QTimer& timer);

@@ -7,16 +7,6 @@
 
 #include <cmath>
 
-namespace
-{
-
-QString numberText(double value)
-{
-    return QString::number(value, 'g', 6);
-}
-
-} // namespace
-
 QString undividedText(double rate, double seconds)
 {
     if (std::isnan(rate))

@@ -79,7 +79,7 @@ void SoPerfCounterDockWin::openDefaultFile()
         QMessageBox::warning(this, tr("DOM Bookmarks"),
                              tr("Cannot read file %1:\n%2.").arg(m_filePath, file.errorString()));
     }
-    // Read even where it could not be opened, which says so a second time; that is meant.
+    // Read even where it could not be opened (decisions.md: counters-file-read-twice).
     if (!read(&file)) {
         m_filePath.clear();
         file.close();
@@ -105,10 +105,10 @@ void SoPerfCounterDockWin::parseViewElement()
     if (m_listConfig->currentIndex() < 0)
         return;
     QString name;
-    const bool told = counterProfileFile::readViewedProfile(m_document, name);
+    const bool isNamed = counterProfileFile::readViewedProfile(m_document, name);
     const auto found =
         std::find_if(m_profiles->begin(), m_profiles->end(),
-                     [&](const SoPerfCounterProfile* p) { return told && p->getName() == name; });
+                     [&](const SoPerfCounterProfile* p) { return isNamed && p->getName() == name; });
     if (found != m_profiles->end())
         selectInComboBox(int(found - m_profiles->begin()));
     else
@@ -135,7 +135,7 @@ SoPerfCounterProfile* SoPerfCounterDockWin::profile() const
 void SoPerfCounterDockWin::updateCurrentProfile(int index)
 {
     if (index != m_currentProfile)
-        m_viewer->clearViewer(); // another profile keeps nothing of this one
+        m_viewer->clearViewer(); // nothing of this profile stays
     m_currentProfile = index;
     if (!profile())
         return;
@@ -253,9 +253,9 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
         return;
     }
     m_viewer->setViewList(m_profiles->at(index)->getView());
-    m_currentProfile = index; // which the box is to choose as the one that it is
+    m_currentProfile = index; // so that the box selects it as the profile already shown
     if (index == 0)
-        setupPreSelectedList(); // the box shows this one already and will not tell of it
+        setupPreSelectedList(); // the box shows this one already and will not report it
     m_listConfig->setCurrentIndex(index);
     emit needUpdateViewer();
 }

@@ -18,7 +18,7 @@ public:
     explicit SoPerfCounterPage(const SoPerfCounterProfile& profile, QWidget* parent = nullptr);
 
     QTableWidget* getTableProfile();
-    /// Takes the profile's counters anew.
+    /// Takes the profile's counters over again.
     void refill();
     void setVisible(bool visible) override;
 

@@ -10,10 +10,10 @@ namespace
 
 void removeAll(QList<QString>& names, const QStringList& unwanted)
 {
-    const QSet<QString> gone(unwanted.begin(), unwanted.end());
-    names.erase(
-        std::remove_if(names.begin(), names.end(), [&](const QString& name) { return gone.contains(name); }),
-        names.end());
+    const QSet<QString> removed(unwanted.begin(), unwanted.end());
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [&](const QString& name) { return removed.contains(name); }),
+                names.end());
 }
 
 } // namespace

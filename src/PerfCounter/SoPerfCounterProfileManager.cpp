@@ -47,7 +47,7 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
 
 SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
 {
-    // Where the dock goes first, the window is never closed.
+    // Where the dock is destroyed first, the window is never closed.
     if (!m_isDone) {
         undoCounterChanges();
         m_atOpening.restore(m_document);
@@ -249,7 +249,7 @@ void SoPerfCounterProfileManager::deleteProfile()
     if (!currentProfile(tr("There is no profile you can remove.")))
         return;
     const int index = m_tabProfile->currentIndex();
-    delete currentPage(); // its tab goes with it
+    delete currentPage(); // together with its tab
     delete m_profiles->takeAt(index);
 }
 
@@ -295,7 +295,7 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
     removeCustomCounters();
-    m_tabProfile->hide(); // shown, it would lay all tabs out anew for each that comes or goes
+    m_tabProfile->hide(); // shown, it would lay out all tabs again for each that is added or removed
     dropProfiles();
     const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
     m_atOpening.restoreScales();
@@ -349,7 +349,7 @@ void SoPerfCounterProfileManager::okAction()
 {
     for (const SoPerfCounter* counter : m_registry->getCounters()) {
         if (!counter->isEnabled())
-            emit deletedCounter(toQString(counter->getName()));
+            emit deletedCounter(SpxText::toQString(counter->getName()));
     }
     m_registry->removeDisabledCounters();
     m_created.clear();

@@ -26,7 +26,7 @@ public:
     explicit SoPerfCounterProfileManager(QWidget* parent = nullptr);
     ~SoPerfCounterProfileManager() override;
 
-    /// The file in use; told to the dock window.
+    /// The file in use; reported to the dock window.
     void setFilepath(const QString& path);
     /// The file to read again on Cancel.
     void setFilepathTemp(const QString& path) { m_fallbackPath = path; }

@@ -1,34 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "SoPerfCounterViewer.h"
 
-#include "CounterTable.h"
-#include "CounterText.h"
+#include "CounterPlot.h"
 #include "CurveColors.h"
-#include "CustomCounter.h"
 #include "PlayPauseIcon.h"
 #include "PlotToolTip.h"
-#include "SampleText.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
 #include "SoPerfCounterPcViewed.h"
 
-#include <xsg/counters/SoPerfCounterManager.h>
-
 #include <QHash>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSet>
-#include <QSignalBlocker>
 #include <QTimer>
 
-#include <qwt_scale_draw.h>
-#include <qwt_scale_engine.h>
-#include <qwt_scale_map.h>
-#include <qwt_text.h>
+#include <qwt_plot.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <ctime>
 
@@ -36,72 +25,19 @@ namespace
 {
 
 constexpr int PlotPosition = 1;
-constexpr int AxisPenWidth = 2;
 constexpr QSize PlotMinimum(240, 140);
 constexpr auto Separator = "##";
 constexpr auto DragSource = "m_preSelectedListView";
-
-QString numberText(double value)
-{
-    return std::isnan(value) ? QString() : QString().setNum(value, 'g', 6);
-}
-
-// No plot can show a number beyond all numbers.
-double finiteOf(double value)
-{
-    return std::isfinite(value) ? value : 0;
-}
-
-// Where nothing is counted the toolkit shows a span around 0, though few counters ever fall below it.
-class CountScaleEngine : public QwtLinearScaleEngine
-{
-public:
-    void autoScale(int maxSteps, double& from, double& to, double& step) const override
-    {
-        if (from == 0 && to == 0)
-            to = 1;
-        QwtLinearScaleEngine::autoScale(maxSteps, from, to, step);
-    }
-};
-
-void setAxisTitle(QwtPlot& plot, int axis, const QString& text)
-{
-    QwtText title(text);
-    title.setFont(plot.font()); // the toolkit's own is large and bold
-    plot.setAxisTitle(axis, title);
-}
-
-void preparePlot(QwtPlot& plot)
-{
-    plot.setAutoReplot(false);
-    plot.setCanvasBackground(Qt::white);
-    for (const int axis : {int(QwtPlot::yLeft), int(QwtPlot::xBottom)})
-        plot.axisScaleDraw(axis)->setPenWidth(AxisPenWidth);
-    plot.setAxisScaleEngine(QwtPlot::yLeft, new CountScaleEngine); // the plot's
-    setAxisTitle(plot, QwtPlot::yLeft, SoPerfCounterViewer::tr("Per second"));
-}
-
-void setText(QTableWidget& table, int row, int column, const QString& text)
-{
-    if (QTableWidgetItem* item = table.item(row, column))
-        item->setText(text);
-    else
-        table.setItem(row, column, new QTableWidgetItem(text));
-}
 
 } // namespace
 
 SoPerfCounterViewer::SoPerfCounterViewer(QWidget* parent)
     : QWidget(parent)
     , m_viewed(std::make_unique<QList<SoPerfCounterPcViewed*>>())
-    , m_manager(SoPerfCounterManager::getInstance())
 {
     setupUi(this);
-    counterTable::showBeginnings(*m_textView);
-    counterTable::showBeginnings(*m_legend);
     std::srand(unsigned(std::time(nullptr)));
     setAcceptDrops(true);
-    m_manager->setInterval(SbTime(0.0));
     buildPlots();
     setupXValues();
     curveView();
@@ -122,20 +58,20 @@ void SoPerfCounterViewer::buildPlots()
 {
     m_curvePlot = new SoPerfCounterCurve(this);
     m_curvePlot->setObjectName(QStringLiteral("m_curvePlot"));
-    preparePlot(*m_curvePlot);
-    setAxisTitle(*m_curvePlot, QwtPlot::xBottom, tr("Time (s)"));
+    counterPlot::prepare(*m_curvePlot);
+    counterPlot::setAxisTitle(*m_curvePlot, QwtPlot::xBottom, tr("Time (s)"));
     m_curvePlot->setAxisScale(QwtPlot::xBottom, 0, m_timeShown - 1);
-    m_curvePlot->setPeriods(m_periods);
+    m_curvePlot->setPeriods(m_sampler.periods());
     verticalLayout->insertWidget(PlotPosition, m_curvePlot);
     m_graphPlot = new QwtPlot(this);
     m_graphPlot->setObjectName(QStringLiteral("m_graphPlot"));
-    preparePlot(*m_graphPlot);
-    m_graphPlot->axisScaleDraw(QwtPlot::xBottom)->enableComponent(QwtAbstractScaleDraw::Labels, false);
-    m_graphPlot->setAxisMaxMinor(QwtPlot::xBottom, 0);
-    new PlotToolTip(m_graphPlot, [this](const QPoint& place) { return barTextAt(place); });
     verticalLayout->insertWidget(PlotPosition, m_graphPlot);
     m_bars = new SoPerfCounterGraph(QString());
-    m_bars->attach(m_graphPlot);
+    m_barView = std::make_unique<CounterBarView>(*m_graphPlot, *m_bars, m_sampler);
+    new PlotToolTip(m_graphPlot, [this](const QPoint& place) { return m_barView->textAt(place, *m_viewed); });
+    m_texts = std::make_unique<CounterTextView>(*m_textView, m_sampler);
+    m_legendRows =
+        std::make_unique<CounterLegend>(*m_legend, m_sampler, m_curvePlot->canvasBackground().color());
     for (QWidget* view : {static_cast<QWidget*>(m_curvePlot), static_cast<QWidget*>(m_graphPlot),
                           static_cast<QWidget*>(m_textView)}) {
         view->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the tool bar says how wide
@@ -161,19 +97,7 @@ void SoPerfCounterViewer::setupConnections()
 
 void SoPerfCounterViewer::setElapsedSource(double (*seconds)(void*), void (*reset)(void*), void* data)
 {
-    m_elapsedSource = {seconds, reset, data};
-}
-
-void SoPerfCounterViewer::resetElapsed()
-{
-    if (m_elapsedSource.reset)
-        m_elapsedSource.reset(m_elapsedSource.data);
-    m_elapsed.reset();
-}
-
-SoPerfCounter* SoPerfCounterViewer::counterOf(const SoPerfCounterPcViewed& viewed) const
-{
-    return m_manager->getCounter(toCounterName(viewed.getName()));
+    m_sampler.setElapsedSource(seconds, reset, data);
 }
 
 SoPerfCounterPcViewed* SoPerfCounterViewer::findViewed(const QString& name) const
@@ -185,7 +109,7 @@ SoPerfCounterPcViewed* SoPerfCounterViewer::findViewed(const QString& name) cons
 
 void SoPerfCounterViewer::setupXValues()
 {
-    // Samples that are kept stay where they are on the axis; without any it starts anew.
+    // Samples that are kept stay where they are on the axis; without any it starts again.
     const double newest = m_filled > 0 ? m_xValues.front() : -1.0 / m_frequency;
     m_xValues.resize(std::size_t(m_historyLength));
     for (std::size_t i = 0; i < m_xValues.size(); ++i)
@@ -194,27 +118,12 @@ void SoPerfCounterViewer::setupXValues()
 
 void SoPerfCounterViewer::viewTimer()
 {
-    const double elapsed =
-        m_elapsedSource.seconds ? m_elapsedSource.seconds(m_elapsedSource.data) : m_elapsed.getElapsed();
-    for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
-        sample(*viewed, elapsed);
+    m_sampler.sample(*m_viewed, m_filled, m_historyLength);
     m_filled = std::min(m_filled + 1, m_historyLength);
-    m_periods.push_front(elapsed);
-    m_periods.resize(std::size_t(m_filled));
-    // The time axis drifts with the samples until the display is reset.
+    // Until the display is reset (decisions.md: counters-drifting-axis).
     for (double& x : m_xValues)
         x += 1.0 / m_frequency;
     setupViews();
-}
-
-void SoPerfCounterViewer::sample(SoPerfCounterPcViewed& viewed, double elapsed) const
-{
-    double* history = viewed.getHistory();
-    const int kept = std::min(m_filled, m_historyLength - 1);
-    std::copy_backward(history, history + kept, history + kept + 1);
-    const SoPerfCounter* counter = counterOf(viewed);
-    // A counter that is gone reads 0, and so does one sampled twice at the same moment.
-    history[0] = counter && elapsed > 0 ? finiteOf(counter->getValue() / elapsed) : 0;
 }
 
 void SoPerfCounterViewer::setupViews()
@@ -223,7 +132,7 @@ void SoPerfCounterViewer::setupViews()
         return;
     redrawViews();
     resetAll();
-    resetElapsed();
+    m_sampler.resetElapsed();
 }
 
 // Counts from here on: the next sample comes a whole period later, or it would be one of a moment.
@@ -241,28 +150,16 @@ void SoPerfCounterViewer::redrawViews()
     if (m_outdated)
         return;
     if (m_textView->isVisible())
-        setupTextView();
+        m_texts->show(*m_viewed);
     if (m_graphPlot->isVisible())
-        setupGraphView();
+        m_barView->show(*m_viewed);
     if (m_curvePlot->isVisible())
         setupCurveView();
 }
 
 void SoPerfCounterViewer::resetAll()
 {
-    const auto reset = [this](SbName name) {
-        if (SoPerfCounter* counter = m_manager->getCounter(name))
-            counter->reset();
-    };
-    for (const SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
-        const SoPerfCounter* counter = counterOf(*viewed);
-        if (counter && counter->isCustom()) {
-            reset(counter->getFirstParent());
-            reset(counter->getSecondParent());
-        } else {
-            reset(toCounterName(viewed->getName()));
-        }
-    }
+    m_sampler.resetCounters(*m_viewed);
 }
 
 void SoPerfCounterViewer::resetView()
@@ -273,7 +170,7 @@ void SoPerfCounterViewer::resetView()
 void SoPerfCounterViewer::start()
 {
     resetAll();
-    resetElapsed();
+    m_sampler.resetElapsed();
     m_timer->start();
     m_stop->update();
 }
@@ -285,48 +182,6 @@ void SoPerfCounterViewer::freezeView()
     else
         start();
     m_stop->update();
-}
-
-void SoPerfCounterViewer::setupTextView()
-{
-    m_textView->setRowCount(m_viewed->size());
-    for (int row = 0; row < m_viewed->size(); ++row) {
-        const SoPerfCounterPcViewed& viewed = *m_viewed->at(row);
-        const SoPerfCounter* counter = counterOf(viewed);
-        setText(*m_textView, row, 0, viewed.getName());
-        setText(*m_textView, row, 1, numberText(viewed.getHistory()[0]));
-        m_textView->item(row, 1)->setToolTip(undividedText(viewed.getHistory()[0], newestPeriod()));
-        setText(*m_textView, row, 2,
-                QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
-    }
-    m_textView->resizeColumnsToContents();
-}
-
-void SoPerfCounterViewer::setupGraphView()
-{
-    m_bars->clearColor();
-    QwtIntervalData bars;
-    for (int i = 0; i < m_viewed->size(); ++i) {
-        const SoPerfCounterPcViewed& viewed = *m_viewed->at(i);
-        bars.append(
-            QwtIntervalSample(viewed.getHistory()[0], QwtInterval(i, i + 1, QwtInterval::ExcludeMaximum)));
-        m_bars->addColor(new QColor(viewed.getColor()));
-    }
-    m_bars->setData(bars);
-    m_graphPlot->setAxisScale(QwtPlot::xBottom, 0, m_viewed->size(), 1);
-    m_graphPlot->replot();
-}
-
-QString SoPerfCounterViewer::barTextAt(const QPoint& place) const
-{
-    const double x = m_graphPlot->canvasMap(QwtPlot::xBottom).invTransform(place.x());
-    const SoPerfCounterPcViewed* viewed = x >= 0 ? m_viewed->value(int(std::min(x, 1e6))) : nullptr;
-    return viewed ? sampleText(viewed->getName(), viewed->getHistory()[0], newestPeriod()) : QString();
-}
-
-double SoPerfCounterViewer::newestPeriod() const
-{
-    return m_periods.empty() ? 0 : m_periods.front();
 }
 
 void SoPerfCounterViewer::setRawSamples()
@@ -346,33 +201,13 @@ void SoPerfCounterViewer::setupCurveView()
 
 void SoPerfCounterViewer::setupLegend()
 {
-    const QString selected = selectedIndex() < 0 ? QString() : m_legend->item(selectedIndex(), 0)->text();
-    QSignalBlocker quiet(m_legend);
-    m_legend->setRowCount(m_viewed->size());
-    m_legend->clearSelection();
-    for (int row = 0; row < m_viewed->size(); ++row) {
-        const SoPerfCounterPcViewed& viewed = *m_viewed->at(row);
-        const SoPerfCounter* counter = counterOf(viewed);
-        setText(*m_legend, row, 0, viewed.getName());
-        m_legend->item(row, 0)->setForeground(viewed.getColor());
-        m_legend->item(row, 0)->setBackground(m_curvePlot->canvasBackground()); // as readable as the curve
-        setText(*m_legend, row, 1, counter ? toQString(counter->getTypeText()) : QString());
-        setText(*m_legend, row, 2, counter ? toQString(counter->getStringLevel()) : QString());
-        setText(*m_legend, row, 3, counter ? beginningOf(counter->getModule()) : QString());
-        setText(*m_legend, row, 4, counter ? beginningOf(counter->getDescription()) : tr("No such counter"));
-        if (viewed.getName() == selected)
-            m_legend->selectRow(row);
-    }
-    counterTable::fitColumns(*m_legend);
-    // Told once, when the rows are complete again.
-    quiet.unblock();
-    emit m_legend->itemSelectionChanged();
+    m_legendRows->show(*m_viewed);
 }
 
 int SoPerfCounterViewer::selectedIndex() const
 {
-    const QModelIndexList rows = m_legend->selectionModel()->selectedRows();
-    return rows.size() == 1 && rows.first().row() < m_viewed->size() ? rows.first().row() : -1;
+    const int row = m_legendRows->selectedRow();
+    return row < m_viewed->size() ? row : -1;
 }
 
 QColor SoPerfCounterViewer::newColor() const
@@ -433,24 +268,21 @@ void SoPerfCounterViewer::remove(int index)
 {
     if (index < 0 || index >= m_viewed->size())
         return;
-    const std::unique_ptr<SoPerfCounterPcViewed> gone(m_viewed->at(index));
-    emit deletedPcViewed(gone->getName());
+    const std::unique_ptr<SoPerfCounterPcViewed> removed(m_viewed->at(index));
+    emit deletedPcViewed(removed->getName());
     m_curvePlot->removeCurve(index);
     m_viewed->removeAt(index);
 }
 
 void SoPerfCounterViewer::keyPressEvent(QKeyEvent* event)
 {
-    // Not Delete: meant so.
+    // Not Delete (decisions.md: counters-backspace).
     if (event->key() != Qt::Key_Backspace) {
         QWidget::keyPressEvent(event);
         return;
     }
-    QList<int> rows;
-    for (const QModelIndex& index : m_legend->selectionModel()->selectedRows())
-        rows.append(index.row());
-    std::sort(rows.begin(), rows.end(), std::greater<>());
-    for (const int row : qAsConst(rows))
+    const QList<int> rows = m_legendRows->selectedRows();
+    for (const int row : rows)
         remove(row);
     updateViewer();
 }
@@ -479,16 +311,7 @@ void SoPerfCounterViewer::changeScale(const QString& text)
     const int index = selectedIndex();
     if (!ok || !(scale > 0) || index < 0)
         return;
-    SoPerfCounter* counter = counterOf(*m_viewed->at(index));
-    if (!counter)
-        return;
-    const double old = counter->getScaleFactor();
-    counter->setScaleFactor(scale);
-    const double ratio = old / counter->getScaleFactor();
-    double* history = m_viewed->at(index)->getHistory();
-    std::for_each(history, history + m_historyLength, [ratio](double& sample) {
-        sample = std::isnan(sample) ? sample : finiteOf(sample * ratio);
-    });
+    m_sampler.rescale(*m_viewed->at(index), scale, m_historyLength);
     redrawViews();
 }
 
@@ -511,7 +334,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     m_frequency = frequency;
     m_historyLength = timeShown * frequency;
     m_filled = std::min(m_filled, m_historyLength);
-    m_periods.resize(std::size_t(m_filled));
+    m_sampler.keepPeriods(m_filled);
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
         auto longer = std::make_unique<double[]>(std::size_t(m_historyLength));
         std::copy_n(viewed->getHistory(), std::min(oldLength, m_historyLength), longer.get());
@@ -530,7 +353,7 @@ void SoPerfCounterViewer::resetHistory()
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         std::fill_n(viewed->getHistory(), m_historyLength, 0.0);
     m_filled = 0;
-    m_periods.clear();
+    m_sampler.keepPeriods(m_filled);
     setupXValues();
     startPeriod();
 }

@@ -1,23 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CounterBarView.h"
+#include "CounterLegend.h"
+#include "CounterSampler.h"
+#include "CounterTextView.h"
 #include "ui_SoPerfCounterViewer.h"
-
-#include <xsg/values/SbTime.h>
 
 #include <QList>
 #include <QWidget>
 
-#include <deque>
 #include <memory>
 #include <vector>
 
 class QTimer;
 class QwtPlot;
-class SoPerfCounter;
 class SoPerfCounterCurve;
 class SoPerfCounterGraph;
-class SoPerfCounterManager;
 class SoPerfCounterPcViewed;
 
 /// Samples the viewed performance counters on a timer and shows them as curves, bars or text, with a legend.
@@ -84,17 +83,11 @@ private:
     void setupViews();
     void startPeriod();
     void redrawViews();
-    void setupTextView();
-    void setupGraphView();
     void setupCurveView();
     void setRawSamples();
-    QString barTextAt(const QPoint& place) const;
-    double newestPeriod() const;
     void setupLegend();
     void setupXValues();
     void resetAll();
-    void resetElapsed();
-    void sample(SoPerfCounterPcViewed& viewed, double elapsed) const;
     QColor newColor() const;
     void add(const QString& name);
     void addAndShow(const QStringList& names);
@@ -102,29 +95,22 @@ private:
     void showView(QWidget* view);
     void changeHistory(int timeShown, int frequency);
     int selectedIndex() const;
-    SoPerfCounter* counterOf(const SoPerfCounterPcViewed& viewed) const;
-
-    struct ElapsedSource {
-        double (*seconds)(void*) = nullptr;
-        void (*reset)(void*) = nullptr;
-        void* data = nullptr;
-    };
 
     int m_timeShown = 30;
     int m_frequency = 2;
     int m_historyLength = 60;
     int m_filled = 0;
     std::vector<double> m_xValues;
-    std::deque<double> m_periods; // the seconds that each sample was divided by, the newest first
-    int m_interval = 500;         // milliseconds
+    int m_interval = 500; // milliseconds
     QTimer* m_timer = nullptr;
-    SbElapsedTime m_elapsed;
-    ElapsedSource m_elapsedSource;
+    CounterSampler m_sampler;
     int m_running = 1;
-    bool m_outdated = false; // the views miss what was sampled while nobody saw them
+    bool m_outdated = false; // the views miss what was sampled while they were hidden
     std::unique_ptr<QList<SoPerfCounterPcViewed*>> m_viewed;
     SoPerfCounterCurve* m_curvePlot = nullptr;
     QwtPlot* m_graphPlot = nullptr;
     SoPerfCounterGraph* m_bars = nullptr; // the plot's
-    SoPerfCounterManager* m_manager;
+    std::unique_ptr<CounterBarView> m_barView;
+    std::unique_ptr<CounterTextView> m_texts;
+    std::unique_ptr<CounterLegend> m_legendRows;
 };

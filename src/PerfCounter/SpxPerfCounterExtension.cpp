@@ -83,6 +83,6 @@ void SpxPerfCounterExtension::unload()
 {
     if (auto* tool = qobject_cast<SoPerfCounterDockWin*>(m_dock))
         tool->saveOwed();
-    // The pointer stays as it is; nobody uses it after this.
+    // The pointer stays as it is (decisions.md: counters-dock-pointer).
     delete m_dock;
 }

@@ -6,7 +6,7 @@
 class QDockWidget;
 
 /// The extension that docks the performance-counter tool, or, where it is not switched on, a message that
-/// tells how.
+/// says how.
 class SpxPerfCounterExtension : public SpxExtension
 {
     Q_OBJECT

@@ -6,8 +6,10 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -95,6 +97,25 @@ bool isQt(const std::string& target)
     return std::regex_search(target, pattern);
 }
 
+// The levels of a library from the bottom up, as its CMakeLists.txt lists them.
+std::vector<std::string> levelsOf(const std::string& folder)
+{
+    std::ifstream stream(root() / folder / "CMakeLists.txt");
+    const std::string text((std::istreambuf_iterator<char>(stream)), {});
+    std::smatch match;
+    if (!std::regex_search(text, match, std::regex(R"(set\(levels\s+([^)]*)\))")))
+        return {};
+    std::istringstream list(match[1]);
+    return {std::istream_iterator<std::string>(list), {}};
+}
+
+// "fields" of "xsg/fields/SoSFFloat.h"
+std::string levelIn(const std::string& path)
+{
+    const auto start = path.find('/') + 1;
+    return path.substr(start, path.find('/', start) - start);
+}
+
 class Layer : public ::testing::TestWithParam<const char*>
 {
 };
@@ -116,6 +137,8 @@ TEST_P(Layer, FindsTheSceneGraphInXsgAndTheContractInExtender)
     for (const Include& include : includesIn(GetParam())) {
         if (startsWith(include.target, "xsg/")) {
             EXPECT_TRUE(fs::exists(root() / include.target)) << include;
+        } else if (startsWith(include.target, "scopix/editing/")) {
+            EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
         } else if (startsWith(include.target, "scopix/")) {
             EXPECT_TRUE(fs::exists(root() / "extender" / include.target.substr(7))) << include;
         }
@@ -141,8 +164,14 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "src", "host"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "editing", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
+
+TEST(Contract, KnowsNothingOfEditing)
+{
+    for (const Include& include : includesIn("extender"))
+        EXPECT_FALSE(startsWith(include.target, "scopix/editing/")) << include;
+}
 
 TEST(SceneGraph, KnowsNeitherQtNorTheContract)
 {
@@ -150,4 +179,23 @@ TEST(SceneGraph, KnowsNeitherQtNorTheContract)
         EXPECT_FALSE(isQt(include.target)) << include;
         EXPECT_FALSE(startsWith(include.target, "scopix/")) << include;
     }
+}
+
+// The build enforces it for every file that a level compiles; this finds headers that only higher levels
+// include.
+TEST(SceneGraph, EachLevelIncludesOnlyItselfAndThoseBelow)
+{
+    const std::vector<std::string> levels = levelsOf("xsg");
+    ASSERT_FALSE(levels.empty());
+    std::set<std::string> seen;
+    for (const std::string& level : levels) {
+        seen.insert(level);
+        for (const Include& include : includesIn("xsg/" + level)) {
+            if (startsWith(include.target, "xsg/")) {
+                EXPECT_TRUE(seen.count(levelIn(include.target))) << include;
+            }
+        }
+    }
+    for (const fs::path& file : sourcesIn("xsg"))
+        EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
 }

@@ -52,6 +52,12 @@ std::string needsOf(const std::string& file)
     return needs;
 }
 
+// The text of the note that the host reads before it loads a plug-in.
+std::string noteOf(const std::string& file)
+{
+    return outputOf("readelf -p .note.scopix '" + file + "' 2>&1");
+}
+
 bool mentions(const std::string& text, const std::string& part)
 {
     return text.find(part) != std::string::npos;
@@ -74,6 +80,14 @@ TEST(Linking, TheContractKnowsNoPlugIn)
     EXPECT_FALSE(mentions(needs, "libSpxDefaults")) << needs;
 }
 
+TEST(Linking, TheEditingLibraryKnowsTheContractAndNoPlugIn)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_ScopixEditing);
+    EXPECT_TRUE(mentions(needs, "libScopixExtenderAPI")) << needs;
+    for (const char* other : {"libSpxDefaults", "libScopixHost", "libqwt"})
+        EXPECT_FALSE(mentions(needs, other)) << needs;
+}
+
 #ifdef SCOPIX_FILE_scopix
 TEST(Linking, TheProgramFindsItsPlugInsAtRunTime)
 {
@@ -87,4 +101,23 @@ TEST(Exports, ThePlugInOffersItsTwoEntryPointsAndNothingElse)
 {
     const std::vector<std::string> expected = {"loadPlugin", "unloadPlugin"};
     EXPECT_EQ(exportsOf(SCOPIX_FILE_SpxDefaults), expected);
+}
+
+TEST(Note, EveryPlugInSaysWhatItWasMadeFor)
+{
+    EXPECT_TRUE(mentions(noteOf(SCOPIX_FILE_SpxDefaults), "name=SpxDefaults"))
+        << noteOf(SCOPIX_FILE_SpxDefaults);
+    EXPECT_TRUE(mentions(noteOf(SCOPIX_FILE_LightAim), "name=LightAim")) << noteOf(SCOPIX_FILE_LightAim);
+    for (const char* plugin : {SCOPIX_FILE_SpxDefaults, SCOPIX_FILE_LightAim})
+        EXPECT_TRUE(mentions(noteOf(plugin), "contract=")) << noteOf(plugin);
+}
+
+TEST(Note, OutlivesTheLinkersClearingAndStripping)
+{
+    EXPECT_TRUE(mentions(noteOf(SCOPIX_FILE_TestPluginGood), "contract="))
+        << noteOf(SCOPIX_FILE_TestPluginGood);
+    const std::string stripped = "stripped-plugin.so";
+    outputOf(std::string("strip -o " + stripped + " '") + SCOPIX_FILE_TestPluginGood + "'");
+    EXPECT_TRUE(mentions(noteOf(stripped), "contract=")) << noteOf(stripped);
+    std::remove(stripped.c_str());
 }

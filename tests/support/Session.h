@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/HostApplication.h"
+#include "app/HostSession.h"
 
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
@@ -47,7 +47,7 @@ private:
 class Session
 {
 public:
-    explicit Session(const HostApplication::MakeWindow& makeWindow =
+    explicit Session(const HostSession::MakeWindow& makeWindow =
                          [](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); })
         : host(makeWindow, ProfileFile(m_folder.filePath(QStringLiteral("profiles.json"))))
     {
@@ -148,5 +148,5 @@ private:
 
 public:
     SoRef<SoMaterial> material{new SoMaterial};
-    HostApplication host;
+    HostSession host;
 };

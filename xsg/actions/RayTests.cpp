@@ -14,7 +14,7 @@ bool xsg::meetsBox(const SbRay& ray, const SbBox3f& box)
         float far = (box.getMax()[i] - ray.origin[i]) * inverse;
         if (near > far)
             std::swap(near, far);
-        // Written so that 0/0, a ray within a side's plane, narrows nothing.
+        // Written so that NaN (0/0: the ray lies in the plane of a side) changes nothing.
         enter = near > enter ? near : enter;
         leave = far < leave ? far : leave;
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where a ray meets simple things. Distances are in units of the ray's direction.
+// Where a ray meets simple things. Distances are in units of the ray's direction. Own code: Eigen has no such
+// tests for triangles and segments, and its minimum and maximum do not treat 0/0 as meetsBox() needs it.
 #pragma once
 
 #include <xsg/values/SbBox.h>

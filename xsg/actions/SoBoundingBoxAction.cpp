@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/actions/SoBoundingBoxAction.h>
 
+#include <xsg/actions/GroupCache.h>
 #include <xsg/counters/LibraryCounters.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoDrawStyle.h>
-#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 #include <algorithm>
@@ -11,26 +12,18 @@
 namespace
 {
 
-bool isVisible(const SoState& state)
-{
-    return !state.drawStyle || state.drawStyle->isVisible();
-}
+using ChildBoxes = xsg::LargeGroupCache::ChildBoxes;
 
-SoSeparator::Outside outsideOf(const SoState& state)
+// On a walk over all children: those up to this place that gave no box of their own.
+void passOthers(ChildBoxes& children, std::size_t end)
 {
-    if (!state.points)
-        return {0, 0, isVisible(state)};
-    return {state.points->getNodeId(), state.points->getChangeCount(), isVisible(state)};
+    while (children.boxes.size() < end) {
+        children.others.push_back(static_cast<std::uint32_t>(children.boxes.size()));
+        children.boxes.emplace_back();
+    }
 }
 
 } // namespace
-
-bool SoBoundingBoxAction::isValid(const SoSeparator& separator, const SoState& stateAt)
-{
-    const auto& cache = separator.boxCache();
-    return cache.isValid && cache.changeCount == separator.getChangeCount() &&
-           cache.outside == outsideOf(stateAt);
-}
 
 SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
 {
@@ -48,90 +41,77 @@ SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
 
 bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    if (!separator || !isValid(*separator, state()))
+    const xsg::GroupCache* cache = group->asSeparator() ? xsg::GroupCache::find(*group) : nullptr;
+    if (!cache || !cache->hasBox(*group, xsg::BoxInputs::of(state())))
         return true;
     ++m_hits;
-    keepChild(separator->boxCache().box);
+    keepChild(cache->getBox());
     return false;
 }
 
 void SoBoundingBoxAction::enterGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    if (!separator)
+    if (!group->asSeparator())
         return;
     ++m_misses;
     Open& open = m_open.emplace_back();
-    if (separator->getNumChildren() >= SoGroup::ManyChildren)
-        openChildren(*separator, open);
-    else
-        separator->boxCache().children.reset();
+    open.large = xsg::GroupCache::of(*group).asLarge();
+    if (open.large)
+        openChildren(*group, open);
     state().modelMatrix = SbMatrix();
     state().instances = nullptr;
 }
 
-// Visits only what changed, where that is known and reaches nothing beside it.
-void SoBoundingBoxAction::openChildren(const SoSeparator& separator, Open& open)
+// Visits only what changed, where that is known and affects nothing beside it.
+void SoBoundingBoxAction::openChildren(SoGroup& separator, Open& open)
 {
-    auto& cache = separator.boxCache();
-    if (!cache.children)
-        cache.children = std::make_unique<SoSeparator::ChildBoxes>();
-    separator.rememberTouched();
-    open.children = cache.children.get();
+    xsg::LargeGroupCache& cache = *open.large;
+    ChildBoxes& children = cache.childBoxes();
     const auto isSeparator = [&](std::uint32_t place) {
         const SoGroup* group = separator.getChildren()[place]->asGroup();
         return group && group->asSeparator();
     };
     std::vector<std::uint32_t> places;
-    if (cache.isValid && cache.outside == outsideOf(state()) &&
-        separator.findTouched(cache.changeCount, places) &&
+    if (cache.wasMadeWith(xsg::BoxInputs::of(state())) &&
+        cache.findChanged(separator, cache.getChangeCount(), places) &&
         std::all_of(places.begin(), places.end(), isSeparator)) {
-        const auto& others = open.children->others;
-        const auto middle = static_cast<std::ptrdiff_t>(places.size());
-        places.insert(places.end(), others.begin(), others.end());
-        std::inplace_merge(places.begin(), places.begin() + middle, places.end());
+        xsg::mergePlaces(places, children.others);
         visitOnly(std::move(places));
         return;
     }
-    open.isAfresh = true;
-    cache.isValid = false; // the walk may end before it is back here
-    open.children->boxes.clear();
-    open.children->boxes.reserve(static_cast<std::size_t>(separator.getNumChildren()));
-    open.children->others.clear();
+    open.visitsAll = true;
+    cache.dropBox(); // the walk may end before it is back here
+    children.boxes.clear();
+    children.boxes.reserve(static_cast<std::size_t>(separator.getNumChildren()));
+    children.others.clear();
 }
 
-void SoBoundingBoxAction::closeChildren(const SoSeparator& separator, Open& open)
+void SoBoundingBoxAction::closeChildren(const SoGroup& separator, Open& open)
 {
-    if (!open.children)
+    if (!open.large)
         return;
-    if (open.isAfresh) {
-        passOthers(*open.children, static_cast<std::size_t>(separator.getNumChildren()));
-        open.children->chunks.build(open.children->boxes.size(),
-                                    [&](std::size_t place) { return open.children->boxes[place]; });
+    ChildBoxes& children = open.large->childBoxes();
+    if (open.visitsAll) {
+        passOthers(children, static_cast<std::size_t>(separator.getNumChildren()));
+        children.tree.build(children.boxes.size(), [&](std::size_t place) { return children.boxes[place]; });
     }
-    open.box.extendBy(open.children->chunks.getWhole());
+    open.box.extendBy(children.tree.getWhole());
 }
 
 void SoBoundingBoxAction::leaveGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    if (!separator)
+    if (!group->asSeparator())
         return;
-    closeChildren(*separator, m_open.back());
+    closeChildren(*group, m_open.back());
     const SbBox3f box = m_open.back().box;
     m_open.pop_back();
-    auto& cache = separator->boxCache();
-    cache.box = box;
-    cache.isValid = true;
-    cache.changeCount = separator->getChangeCount();
-    cache.outside = outsideOf(state());
+    xsg::GroupCache::of(*group).setBox(box, *group, xsg::BoxInputs::of(state()));
     keepChild(box);
 }
 
 void SoBoundingBoxAction::visitShape(SoShape* shape)
 {
-    if (isVisible(state()))
+    if (!state().drawStyle || state().drawStyle->isVisible())
         extend(shape->getBox(state()));
 }
 
@@ -152,27 +132,19 @@ void SoBoundingBoxAction::extend(const SbBox3f& box)
 void SoBoundingBoxAction::keepChild(const SbBox3f& box)
 {
     Open& around = m_open.back();
-    // Through a group in between it is no child of the separator that is open.
-    if (!around.children || !getFrames().back().group->asSeparator()) {
+    // Where another group stands in between, it is no child of the separator that is open.
+    if (!around.large || !getFrames().back().group->asSeparator()) {
         extend(box);
         return;
     }
+    ChildBoxes& children = around.large->childBoxes();
     const auto place = static_cast<std::size_t>(getFrames().back().child);
-    if (around.isAfresh) {
-        passOthers(*around.children, place);
-        around.children->boxes.push_back(placed(box));
+    if (around.visitsAll) {
+        passOthers(children, place);
+        children.boxes.push_back(placed(box));
         return;
     }
-    around.children->boxes[place] = placed(box);
-    around.children->chunks.refresh(xsg::BoundingBoxTree::chunkOf(place),
-                                    [&](std::size_t i) { return around.children->boxes[i]; });
-}
-
-// The children up to this place that gave no box of their own, on a walk over all of them.
-void SoBoundingBoxAction::passOthers(SoSeparator::ChildBoxes& children, std::size_t end)
-{
-    while (children.boxes.size() < end) {
-        children.others.push_back(static_cast<std::uint32_t>(children.boxes.size()));
-        children.boxes.emplace_back();
-    }
+    children.boxes[place] = placed(box);
+    children.tree.refresh(xsg::BoundingBoxTree::chunkOf(place),
+                          [&](std::size_t i) { return children.boxes[i]; });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/actions/SoRayPickAction.h>
 
+#include <xsg/actions/GroupCache.h>
 #include <xsg/actions/RayTests.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/counters/LibraryCounters.h>
@@ -9,6 +10,14 @@
 #include <xsg/nodes/shapes/SoShape.h>
 
 #include <algorithm>
+
+namespace
+{
+
+// How far beside a line or a point a ray may pass, as part of the distance from its origin.
+constexpr float Tolerance = 0.005F;
+
+} // namespace
 
 struct SoRayPickAction::Hit {
     float distance = std::numeric_limits<float>::max(); // along the local ray, which need not be of length 1
@@ -45,34 +54,32 @@ std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ra
 
 bool SoRayPickAction::wantsGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    m_knowsBox = separator && SoBoundingBoxAction::isValid(*separator, state());
-    return !m_knowsBox || mayMeetAny(separator->boxCache().box);
+    xsg::GroupCache* cache = group->asSeparator() ? xsg::GroupCache::find(*group) : nullptr;
+    m_box = cache && cache->hasBox(*group, xsg::BoxInputs::of(state())) ? cache : nullptr;
+    return !m_box || mayMeetAny(m_box->getBox());
 }
 
 void SoRayPickAction::enterGroup(SoGroup* group)
 {
-    const SoSeparator* separator = group->asSeparator();
-    if (m_knowsBox && separator->boxCache().children && !group->isViewDependent())
-        visitOnly(findChildren(*separator));
+    xsg::LargeGroupCache* large = m_box ? m_box->asLarge() : nullptr;
+    if (large && !group->isViewDependent())
+        visitOnly(findChildren(*large));
 }
 
-// The children of a separator with many of them that the ray may meet, and those that the others depend on.
-std::vector<std::uint32_t> SoRayPickAction::findChildren(const SoSeparator& separator)
+// The children of a large separator that the ray may meet, and those that the others depend on.
+std::vector<std::uint32_t> SoRayPickAction::findChildren(xsg::LargeGroupCache& cache)
 {
-    const SoSeparator::ChildBoxes& known = *separator.boxCache().children;
+    const xsg::LargeGroupCache::ChildBoxes& known = cache.childBoxes();
     std::vector<std::uint32_t> places;
     using Found = xsg::BoundingBoxTree::Found;
     const auto classify = [&](const SbBox3f& box) { return mayMeetAny(box) ? Found::Some : Found::Nothing; };
-    known.chunks.find(classify, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
+    known.tree.find(classify, [&](std::size_t first, std::size_t end, bool /*isEverything*/) {
         for (std::size_t i = first; i < end; ++i) {
             if (mayMeetAny(known.boxes[i]))
                 places.push_back(static_cast<std::uint32_t>(i));
         }
     });
-    const auto middle = static_cast<std::ptrdiff_t>(places.size());
-    places.insert(places.end(), known.others.begin(), known.others.end());
-    std::inplace_merge(places.begin(), places.begin() + middle, places.end());
+    xsg::mergePlaces(places, known.others);
     return places;
 }
 
@@ -87,21 +94,23 @@ bool SoRayPickAction::mayMeet(const SbBox3f& box, const SbMatrix& toWorld)
 {
     if (box.isEmpty())
         return false;
-    // Lines and points are met from beside, so the box grows by as much as they may be missed at its
-    // distance.
-    const SbRay ray = localRay(toWorld);
-    const float reach = ((box.getCenter() - ray.origin).length() + box.getSize().length()) * m_tolerance;
+    // A ray may pass beside lines and points, so the box grows by the tolerance at its distance.
+    const auto& ray = localRay(toWorld);
+    if (!ray)
+        return false;
+    const float reach = ((box.getCenter() - ray->origin).length() + box.getSize().length()) * Tolerance;
     const SbVec3f slack(reach, reach, reach);
-    return xsg::meetsBox(ray, SbBox3f(box.getMin() - slack, box.getMax() + slack));
+    return xsg::meetsBox(*ray, SbBox3f(box.getMin() - slack, box.getMax() + slack));
 }
 
-SbRay SoRayPickAction::localRay(const SbMatrix& toWorld)
+const std::optional<SbRay>& SoRayPickAction::localRay(const SbMatrix& toWorld)
 {
-    // Siblings share their coordinates: the last answer mostly serves again.
+    // Siblings share their coordinates: the last result can mostly be used again.
     if (toWorld != m_localMatrix) {
         m_localMatrix = toWorld;
-        const SbMatrix toLocal = toWorld.inverse();
-        m_localRay = {toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+        m_localRay.reset();
+        if (const auto toLocal = toWorld.inverse())
+            m_localRay = {toLocal->multPoint(m_ray.origin), toLocal->multDirection(m_ray.direction)};
     }
     return m_localRay;
 }
@@ -118,16 +127,15 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     if (!mayMeet(shape->getBox(state()), matrix))
         return;
     const SbMatrix toWorld = shape->getPlacement() * matrix;
-    const SbMatrix toLocal = toWorld.inverse();
-    // A shape squeezed flat has no inside to look from; the inverse says so by being the identity.
-    if (toLocal == SbMatrix() && toWorld != SbMatrix())
+    const auto toLocal = toWorld.inverse();
+    if (!toLocal) // a shape squeezed flat has no inside to look from
         return;
-    const SbRay ray{toLocal.multPoint(m_ray.origin), toLocal.multDirection(m_ray.direction)};
+    const SbRay ray{toLocal->multPoint(m_ray.origin), toLocal->multDirection(m_ray.direction)};
     const SoGeometry& g = geometryOf(shape);
     const auto corner = [&](std::size_t i) { return g.points[g.index[i]]; };
     const auto offer = [&](const Hit& hit) {
         if (hit.distance >= 0 && !isClipped(m_ray.at(hit.distance)))
-            take(shape, hit, toWorld);
+            take(shape, hit, *toLocal);
     };
     if (g.kind == SoGeometry::Kind::Triangles) {
         for (std::size_t i = 0; i + 2 < g.index.size(); i += 3) {
@@ -142,12 +150,12 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     for (std::size_t i = 0; i + step <= g.index.size(); i += step) {
         Hit hit;
         if (xsg::passesSegment(m_ray, toWorld.multPoint(corner(i)), toWorld.multPoint(corner(i + step - 1)),
-                               m_tolerance, hit.distance))
+                               Tolerance, hit.distance))
             offer(hit);
     }
 }
 
-void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld)
+void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toLocal)
 {
     // Directions were not normalised on their way into the shape's coordinates, so distances are still the
     // world's.
@@ -156,7 +164,7 @@ void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWor
     SoPickedPoint& found = m_nearest.emplace();
     found.distance = hit.distance;
     found.point = m_ray.at(hit.distance);
-    const SbVec3f normal = toWorld.inverse().transposed().multDirection(hit.normal).normalized();
+    const SbVec3f normal = toLocal.transposed().multDirection(hit.normal).normalized();
     found.normal = normal == SbVec3f() ? m_ray.direction * -1.0F : normal;
     if (found.normal.dot(m_ray.direction) > 0)
         found.normal = found.normal * -1.0F;

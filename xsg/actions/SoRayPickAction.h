@@ -16,7 +16,11 @@ struct SoPickedPoint {
     float distance = 0; // along the ray
 };
 
-class SoSeparator;
+namespace xsg
+{
+class GroupCache;
+class LargeGroupCache;
+} // namespace xsg
 
 /// Finds what a ray meets first. Keep one action for many picks: it remembers geometry between them.
 class XSG_API SoRayPickAction : private SoTraversal
@@ -25,8 +29,6 @@ public:
     SoRayPickAction();
     ~SoRayPickAction() override;
 
-    /// How far beside a line or a point a ray may pass, as part of the distance from its origin.
-    void setTolerance(float tolerance) { m_tolerance = tolerance; }
     /// `ray` in the coordinates the root stands in; its direction need not be of length 1.
     std::optional<SoPickedPoint> pick(SoNode* root, const SbRay& ray);
     /// How many nodes the last pick looked at.
@@ -38,20 +40,19 @@ private:
     void enterGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void pickShape(SoShape* shape, const SbMatrix& toWorld);
-    void take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld);
+    void take(SoShape* shape, const Hit& hit, const SbMatrix& toLocal);
     bool isClipped(const SbVec3f& point);
     bool mayMeet(const SbBox3f& box, const SbMatrix& toWorld);
     bool mayMeetAny(const SbBox3f& box);
-    std::vector<std::uint32_t> findChildren(const SoSeparator& separator);
-    SbRay localRay(const SbMatrix& toWorld);
+    std::vector<std::uint32_t> findChildren(xsg::LargeGroupCache& cache);
+    const std::optional<SbRay>& localRay(const SbMatrix& toWorld);
     const SoGeometry& geometryOf(SoShape* shape);
 
     SbRay m_ray;
     SbMatrix m_localMatrix;
-    SbRay m_localRay;
-    bool m_knowsBox = false; // of the separator that is about to be entered
+    std::optional<SbRay> m_localRay;  // nothing where space is squeezed flat
+    xsg::GroupCache* m_box = nullptr; // of the separator that is about to be entered, where it is known
     std::optional<SoPickedPoint> m_nearest;
-    float m_tolerance = 0.005F;
     struct Kept;
     std::unordered_map<SoGeometryKey, Kept, SoGeometryKeyHash> m_geometry;
     int m_pickNumber = 0;

@@ -1,33 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/actions/SoTraversal.h>
 
+#include <xsg/actions/GroupCache.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 namespace
 {
 
-void askFor(const void* place, int bytes)
+void prefetch(const void* place, int bytes)
 {
     constexpr int Line = 64; // what a processor fetches at once
     for (int at = 0; at < bytes; at += Line)
         __builtin_prefetch(static_cast<const char*>(place) + at);
 }
 
-// A large scene is walked faster than memory answers, so what the walk will meet soon is asked for now: first
-// the child itself, then where its own children stand, then those.
+// A large scene is walked faster than memory delivers it, so what the walk will meet soon is prefetched:
+// first the child itself, then its list of children, then those and what is remembered about it.
 void lookAhead(const std::vector<SoNode*>& children, std::size_t child)
 {
     constexpr std::size_t Steps = 3;
     constexpr std::size_t MostGrandchildren = 4;
     if (child + 3 * Steps >= children.size())
         return;
-    askFor(children[child + 3 * Steps], sizeof(SoGroup));
+    prefetch(children[child + 3 * Steps], sizeof(SoGroup));
     if (const SoGroup* group = children[child + 2 * Steps]->asGroup())
-        askFor(group->getChildren().data(), 1);
-    if (const SoGroup* group = children[child + Steps]->asGroup()) {
+        prefetch(group->getChildren().data(), 1);
+    if (SoGroup* group = children[child + Steps]->asGroup()) {
+        prefetch(group->getExtension(), sizeof(xsg::GroupCache));
         const auto& grandchildren = group->getChildren();
         for (std::size_t i = 0; i < std::min(grandchildren.size(), MostGrandchildren); ++i)
-            askFor(grandchildren[i], 3 * sizeof(SoNode));
+            prefetch(grandchildren[i], 3 * sizeof(SoNode));
     }
 }
 
@@ -69,7 +71,7 @@ bool SoTraversal::goToNextChild(Frame& frame)
     if (frame.planned == NoPlan) {
         if (++frame.child >= frame.end)
             return false;
-        if (frame.end >= SoGroup::ManyChildren)
+        if (frame.end >= xsg::GroupCache::ManyChildren)
             lookAhead(frame.group->getChildren(), static_cast<std::size_t>(frame.child));
         return true;
     }
@@ -124,7 +126,7 @@ void SoTraversal::closeGroup()
     leaveGroup(frame.group);
 }
 
-// The places stay, since the next group on this level needs one again.
+// Saved states are kept for reuse, since the next group on this level needs one too.
 void SoTraversal::saveState()
 {
     if (m_savedCount == m_saved.size())

@@ -6,9 +6,9 @@
 
 class SoShape;
 
-/// Walks a scene in order and carries the state along. The base of everything that looks at a whole scene; a
-/// derived class says what to do at each node. Keeps its own stack, so a scene may be nested as deep as
-/// memory reaches.
+/// Walks a scene in order and carries the state along: the base of everything that looks at a whole scene. A
+/// derived class says what to do at each node. It keeps its own stack, so that only memory limits how deep a
+/// scene may be nested.
 class XSG_API SoTraversal
 {
 public:
@@ -17,8 +17,8 @@ public:
     SoTraversal& operator=(const SoTraversal&) = delete;
     virtual ~SoTraversal();
 
-    /// The scene must not change until it returns. Groups that hold shared groups, again and again, can
-    /// unfold a short file to more visits than a lifetime has seconds for: the walk ends after MostVisits.
+    /// The scene must not change until it returns. A short file of groups that share groups, level after
+    /// level, can unfold to more visits than any computer could finish: the walk ends after MostVisits.
     void traverse(SoNode* root);
     static constexpr int MostVisits = 1 << 22;
 

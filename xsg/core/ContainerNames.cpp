@@ -5,12 +5,6 @@
 
 #include <algorithm>
 
-xsg::ContainerNames& xsg::ContainerNames::get()
-{
-    static auto& names = *new ContainerNames;
-    return names;
-}
-
 void xsg::ContainerNames::rename(SbName name, const SoFieldContainer* container)
 {
     Names& names = m_names[container];

@@ -12,12 +12,10 @@ class SoFieldContainer;
 namespace xsg
 {
 
-/// Who has which name. Knows living containers only. Belongs to the graph's thread.
+/// The living containers by their names. Belongs to the graph's thread.
 class ContainerNames
 {
 public:
-    static ContainerNames& get();
-
     void rename(SbName name, const SoFieldContainer* container);
     /// Takes the container out under all its names.
     void remove(const SoFieldContainer* container);

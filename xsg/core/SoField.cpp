@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/core/SoField.h>
 
+#include <xsg/core/ChangeListener.h>
+#include <xsg/core/Context.h>
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/counters/LibraryCounters.h>
-#include <xsg/sensors/SoDataSensor.h>
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
@@ -23,14 +24,14 @@ SoField::~SoField()
 {
     leaveSource();
     if (m_listeners) {
-        // The value is gone already: whoever follows keeps what it has.
+        // The value is destroyed already: the fields that follow keep theirs.
         while (!m_listeners->dependents.empty())
             m_listeners->dependents.back()->leaveSource();
         while (!m_listeners->sensors.empty())
-            m_listeners->sensors.back()->detach();
+            m_listeners->sensors.back()->subjectDestroyed();
     }
     if (m_isTrigger)
-        SoDataSensor::forget(this);
+        xsg::Context::get().triggerDestroyed(this);
     if (m_container)
         m_container->m_fields.remove(this);
     xsg::feeds.fieldsAlive.add(-1);
@@ -68,7 +69,7 @@ bool SoField::copyFrom(const SoField& other)
 void SoField::setIgnored(bool ignored)
 {
     m_ignored = ignored;
-    // The value is the same as before, so that what was written to a follower stands.
+    // The value is the same as before, so that what was written to a dependent field stands.
     notify(0, -1, Dependents::DoNot);
 }
 
@@ -212,8 +213,8 @@ void SoField::notifyOwnListeners(int start, int count)
     change.start = start;
     change.count = count;
     if (m_listeners) {
-        for (SoDataSensor* sensor : m_listeners->sensors)
-            sensor->notified(change);
+        for (xsg::ChangeListener* sensor : m_listeners->sensors)
+            sensor->changed(change);
     }
     if (m_container) {
         change.serial = SoFieldContainer::nextSerial();
@@ -240,4 +241,15 @@ SoField::Listeners& SoField::listeners()
     if (!m_listeners)
         m_listeners = std::make_unique<Listeners>();
     return *m_listeners;
+}
+
+void SoField::addListener(xsg::ChangeListener* listener)
+{
+    listeners().sensors.push_back(listener);
+}
+
+void SoField::removeListener(xsg::ChangeListener* listener)
+{
+    auto& all = listeners().sensors;
+    all.erase(std::remove(all.begin(), all.end(), listener), all.end());
 }

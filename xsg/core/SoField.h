@@ -10,11 +10,10 @@
 #include <string_view>
 #include <vector>
 
-class SoDataSensor;
 class SoFieldContainer;
 namespace xsg
 {
-class SceneReader;
+class ChangeListener;
 } // namespace xsg
 
 /// A value of a node: readable and writable as text, watched by sensors, and able to follow another field.
@@ -30,9 +29,12 @@ public:
 
     /// The value as text that set() reads back to the same bits; evaluates first; never an empty text.
     virtual void get(SbString& text) const = 0;
-    /// Takes a value from text. Text that does not parse: false, the value stays and nobody is notified.
+    /// Takes a value from text. Text that does not parse: false, the value stays and no listener is notified.
     /// A write notifies even when the value is the same.
     virtual bool set(const SbString& text);
+    /// As set(), but the fields that follow this one keep their values and fetch nothing, as for a file that
+    /// holds values of their own for them.
+    bool setWithoutPropagation(const SbString& text);
     /// True when both have the same type and value.
     virtual bool isSame(const SoField& other) const = 0;
     /// Takes over the value of a field of the same or a convertible type; false, without a change, where
@@ -49,9 +51,9 @@ public:
     SoFieldContainer* getContainer() const { return m_container; }
     SbName getName() const { return m_name ? SbName(m_name) : SbName(); }
 
-    /// Follows `master`: whenever it changes, this field takes its value when next read. Refused (false)
-    /// where the types do not convert or a loop would close. A direct write stands until the master changes
-    /// again. What the master holds that does not convert (a text that is no number) leaves the value.
+    /// Follows `source`: whenever it changes, this field takes its value when next read. Refused (false)
+    /// where the types do not convert or a loop would close. A direct write stands until the source changes
+    /// again. A value of the source that does not convert (a text that is no number) leaves this one's.
     bool connectFrom(SoField* source);
     void disconnect();
     SoField* getConnectedField() const { return m_source; }
@@ -69,22 +71,29 @@ public:
     }
     bool needsEvaluation() const { return m_needsEvaluation; }
 
-    /// Tells listeners as if the value had been written.
+    /// Notifies listeners as if the value had been written.
     void touch();
     /// Grows with every change; a cache made from this field compares it.
     std::uint32_t getChangeCount() const { return m_changeCount; }
+
+    /// For sensors. The field calls its listeners with every change and when it is destroyed.
+    void addListener(xsg::ChangeListener* listener);
+    void removeListener(xsg::ChangeListener* listener);
+    /// For sensors that keep a pointer to the field that triggered them: its end is then reported to their
+    /// level.
+    void markAsTrigger() { m_isTrigger = true; }
 
 protected:
     /// `name` must outlive the field; the fields of a class pass a literal.
     explicit SoField(SoFieldContainer* owner = nullptr, const char* name = nullptr);
 
-    /// After the value was written: marks it and tells listeners. A multi-value field names the elements.
+    /// After the value was written: marks it and notifies listeners. A multi-value field names the elements.
     void valueWritten(int start = 0, int count = -1);
 
-    /// Takes the value from text without telling anybody; text that does not parse: false, and the value
+    /// Takes the value from text without notifying; text that does not parse: false, and the value
     /// stays.
     virtual bool parse(std::string_view text) = 0;
-    /// Takes the value of a field of exactly this class, without telling anybody.
+    /// Takes the value of a field of exactly this class, without notifying.
     virtual void assign(const SoField& sameType) = 0;
 
     // --- What conversions are made of. None of these evaluates or notifies.
@@ -108,18 +117,14 @@ protected:
 
 private:
     friend class SoFieldData;
-    friend class SoDataSensor;
     friend class SoFieldContainer;
-    friend class xsg::SceneReader;
     struct Listeners {
-        std::vector<SoDataSensor*> sensors;
+        std::vector<xsg::ChangeListener*> sensors;
         std::vector<SoField*> dependents;
     };
 
     enum class Dependents { Hear, DoNot };
     void fetch() const;
-    /// As set(), but those that follow this field keep what they have.
-    bool setWithoutPropagation(const SbString& text);
     bool take(const SoField& other);
     bool takeText(const SoField& other);
     bool isSourceOf(const SoField& other) const;
@@ -140,7 +145,8 @@ private:
     bool m_ignored = false;
     bool m_default = true;
     mutable bool m_needsEvaluation = false;
-    std::uint32_t m_dependentSlot = 0; // among the master's followers
+    std::uint32_t m_dependentSlot = 0; // among the source's dependents
+    std::uint32_t m_index = 0;         // in the container, once that has an index of its fields
 };
 
 extern template class SoTyped<SoField, SoTypedObject>;

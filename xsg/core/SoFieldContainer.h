@@ -6,13 +6,17 @@
 #include <xsg/types/SoTyped.h>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
-class SoDataSensor;
 class SoField;
+namespace xsg
+{
+class ChangeListener;
+} // namespace xsg
 
 /// Something that has fields: a node, or another object with tunable values. Reference-counted: new ones
-/// start at 0 and go when the last reference does. Belongs to the graph's thread.
+/// start at 0 and are destroyed with the last reference. Belongs to the graph's thread.
 class XSG_API SoFieldContainer : public SoTyped<SoFieldContainer, SoTypedObject>
 {
 public:
@@ -26,7 +30,7 @@ public:
     /// Gives a reference back without ever deleting, to hand an object on.
     void unrefNoDelete() const { --m_refCount; }
     int getRefCount() const { return m_refCount; }
-    /// True once the last reference is gone: who is told of it has no business writing the fields any more.
+    /// True once the last reference is given back: nobody may write the fields any more.
     bool isBeingDestroyed() const { return m_dying; }
 
     SbName getName() const { return m_name; }
@@ -41,14 +45,18 @@ public:
     /// The field of this name, or null.
     SoField* getField(SbName name) const;
 
-    /// Grows whenever a field of this very container changes, before anybody is told; a cache made from the
-    /// fields compares it.
+    /// Grows whenever a field of this very container changes, before any listener is called; a cache made
+    /// from the fields compares it.
     std::uint32_t getFieldChangeCount() const { return m_fieldChangeCount; }
 
-    /// Called by fields and children; tells everyone who listens.
+    /// Called by fields and children; notifies every listener.
     virtual void notify(const SoNotification& change);
 
-    /// `callback` is told of every container right before its memory goes, while its fields are still there.
+    /// For sensors. The container calls its listeners with every change and when it is destroyed.
+    void addListener(xsg::ChangeListener* listener);
+    void removeListener(xsg::ChangeListener* listener);
+
+    /// `callback` is called for every container right before it is destroyed, while its fields still exist.
     using DyingCallback = void (*)(void* data, SoFieldContainer* dying);
     static void addDyingCallback(DyingCallback callback, void* data);
     static void removeDyingCallback(DyingCallback callback, void* data);
@@ -62,12 +70,11 @@ protected:
 private:
     friend class SoField;
     friend class SoFieldData;
-    friend class SoDataSensor;
     void destroy() const;
     void finalize() const;
 
     SoFieldData m_fields;
-    std::unique_ptr<std::vector<SoDataSensor*>> m_sensors;
+    std::unique_ptr<std::vector<xsg::ChangeListener*>> m_sensors;
     SbName m_name;
     std::uint32_t m_fieldChangeCount = 0;
     mutable int m_refCount = 0;
@@ -108,6 +115,14 @@ public:
             m_object->unref();
     }
     T* get() const { return m_object; }
+    /// Gives the reference back without ever deleting, and becomes null: hands a new object on with no
+    /// references.
+    [[nodiscard]] T* release() noexcept
+    {
+        if (m_object)
+            m_object->unrefNoDelete();
+        return std::exchange(m_object, nullptr);
+    }
     T* operator->() const { return m_object; }
     T& operator*() const { return *m_object; }
     explicit operator bool() const { return m_object != nullptr; }

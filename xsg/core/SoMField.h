@@ -18,8 +18,8 @@ public:
     /// The number of values; evaluates first.
     int getNum() const;
     /// Cuts or grows at the end; new values are 0, "", the identity. Negative counts as 0. Where there is no
-    /// memory for so many, an SoMemoryError tells and the field stays; so do the other operations that make
-    /// it grow.
+    /// memory for so many, an SoMemoryError is posted and the field stays; so do the other operations that
+    /// make it grow.
     void setNum(int count);
 
     /// The text of one value. Outside: false, and the text is empty. Costs that one value only.
@@ -33,7 +33,8 @@ public:
     /// Removes values; -1 removes all from `start` on. The range is clamped.
     virtual void deleteValues(int start, int count = -1);
 
-    /// Tells listeners that values start..start+count-1 changed; `isWritten` false leaves the default flag.
+    /// Notifies listeners that values start..start+count-1 changed; `isWritten` false leaves the default
+    /// flag.
     void valueChanged(int start, int count, bool isWritten = true);
 
 protected:
@@ -54,7 +55,7 @@ protected:
     void writePlain(std::string& out, int value) const override { writeValue(out, value); }
     /// Makes the field larger; false, with an SoMemoryError, where there is no memory.
     bool grow(int count);
-    /// Tells of values first..last, and of those between the old end and them.
+    /// Notifies of values first..last, and of those between the old end and them.
     void valuesGrown(int before, int first, int last);
 
 private:

@@ -4,14 +4,11 @@
 #include <cstdint>
 
 class SoField;
-class SoNode;
 
-/// What a change tells on its way from a field through its node to the root. Lives on the stack of the
-/// change.
+/// A change on its way from a field through its node to the root. Lives on the stack of the change.
 struct SoNotification {
     SoField* field = nullptr; // the field that changed, or null when a node's children did
-    SoNode* node = nullptr;   // the first node that the change reached
     int start = 0;            // elements that changed in a multi-value field
     int count = -1;           // -1: all of them
-    std::uint64_t serial = 0; // one per change: who has seen it once need not pass it on again
+    std::uint64_t serial = 0; // one per change: a receiver that has seen it need not pass it on again
 };

@@ -4,9 +4,9 @@
 #include <xsg/counters/SoPerfFeed.h>
 #include <xsg/values/SbName.h>
 
-/// A named number that tells what something costs. Two kinds: SoPerfAccumCounter adds up what happened since
-/// its last reset, SoPerfStateCounter tells how things stand. A custom counter counts nothing itself: it is
-/// computed, when read, from the raw values of two others.
+/// A named number that measures what something costs. Two kinds: SoPerfAccumCounter adds up what happened
+/// since its last reset, SoPerfStateCounter holds a quantity as it is now. A custom counter counts nothing
+/// itself: it is computed, when read, from the raw values of two others.
 ///
 /// Reading, feeding, resetting and every setter are safe from any thread; reading takes no lock. A counter
 /// that was handed to SoPerfCounterManager belongs to it and stays valid until the process ends, also once it
@@ -27,14 +27,14 @@ public:
     LevelEnum getLevel() const { return m_level; }
     SbString getStringLevel() const;          // "Low", "Medium", "High"
     virtual SbString getTypeCode() const = 0; // as files have it: "A", "S"
-    virtual SbString getTypeText() const = 0; // as people read it: "Accumulation", "State"
+    virtual SbString getTypeText() const = 0; // for display: "Accumulation", "State"
 
     /// The raw value divided by the scale factor; always finite.
     double getValue() const;
     /// What was counted or, for a custom counter, what its parents' raw values give. 0 for a missing parent,
     /// an unknown operation, a division by zero, and where a counter would need its own value.
     double getRawValue() const;
-    /// Starts counting anew. A state keeps what it is; a custom counter resets the counters that it is
+    /// Starts counting from 0. A state keeps what it is; a custom counter resets the counters that it is
     /// computed from, through however many others.
     virtual void reset();
 

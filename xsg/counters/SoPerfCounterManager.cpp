@@ -88,7 +88,7 @@ void SoPerfCounterManager::link(SoPerfCounter* counter)
     }
 }
 
-// Tells all who name `name` as a parent that it now stands for `counter`, or for nothing.
+// From now on `name` as a parent stands for `counter`, or for nothing.
 void SoPerfCounterManager::relink(SbName name, SoPerfCounter* counter)
 {
     const auto found = m_children.find(name.getString());

@@ -34,7 +34,7 @@ public:
     void removeDisabledCounters();
 
     /// How long a value that was read stays good: within it, reading again gives the same value. 0 (the
-    /// default) reads anew each time; negative or not finite counts as 0.
+    /// default) reads again each time; negative or not finite counts as 0.
     void setInterval(SbTime interval);
     SbTime getInterval() const { return m_interval.load(std::memory_order_relaxed); }
 
@@ -52,10 +52,10 @@ private:
     mutable std::mutex m_mutex;
     std::vector<SoPerfCounter*> m_counters;
     std::unordered_map<const char*, SoPerfCounter*> m_byName;
-    /// Who names whom as a parent. Entries are never taken out; a look at the counter tells whether one still
-    /// holds.
+    /// The counters that name each parent. Entries are never removed; the counter itself says whether one
+    /// still holds.
     std::unordered_map<const char*, std::vector<SoPerfCounter*>> m_children;
-    /// Never shrinks: whoever still feeds or reads a removed counter needs no lock.
+    /// Never shrinks, so that a removed counter may still be fed and read without a lock.
     std::vector<std::unique_ptr<SoPerfCounter>> m_owned;
     std::atomic<SbTime> m_interval{SbTime()};
 };

@@ -5,7 +5,8 @@
 #include <cstdint>
 
 /// What a counter counts: one number that any thread adds to with a single relaxed atomic addition, whether
-/// or not anybody reads it. Constant-initialised, so that it can be fed before main() and while libraries go.
+/// or not it is read. Constant-initialised, so that it can be fed before main() and while libraries are
+/// unloaded.
 class SoPerfFeed
 {
 public:

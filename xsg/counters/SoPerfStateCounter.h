@@ -3,7 +3,7 @@
 
 #include <xsg/counters/SoPerfCounter.h>
 
-/// Tells how things stand: nodes alive, sensors queued. A reset does not change it.
+/// A quantity as it is now: nodes alive, sensors queued. A reset does not change it.
 class XSG_API SoPerfStateCounter : public SoPerfCounter
 {
 public:

@@ -3,7 +3,8 @@
 
 #include <xsg/errors/SoError.h>
 
-/// A remark for whoever builds on the library: it was used wrongly, or something deserves attention.
+/// A message to the developer of an application: the library was used wrongly, or something deserves
+/// attention.
 class XSG_API SoDebugError : public SoErrorClass<SoDebugError, SoError>
 {
 public:

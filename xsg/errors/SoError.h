@@ -21,8 +21,8 @@ protected:
     static SoErrorHandler& handler();
 };
 
-/// Something went wrong, and one sentence tells what. An error is built, handed to the handler of its class
-/// and gone: nothing is thrown. Posting is safe from any thread; the handler runs on the thread that posts.
+/// A failure, described in one sentence. An error is built, passed to the handler of its class and destroyed:
+/// nothing is thrown. Posting is safe from any thread; the handler runs on the thread that posts.
 ///
 /// Each class of errors has a handler of its own: a callback with a data pointer. The handler that is there
 /// at the start writes the debug string to standard error, one line per error; a null callback drops the

@@ -18,8 +18,8 @@ public:
     SoErrorHandler(const SoErrorHandler&) = delete;
     SoErrorHandler& operator=(const SoErrorHandler&) = delete;
 
-    /// Returns when the callback that was replaced runs on no thread any more, so that what it uses may go.
-    /// Called from inside that callback, it waits for the other threads only.
+    /// Returns when the callback that was replaced runs on no thread any more, so that what it uses may be
+    /// destroyed. Called from inside that callback, it waits for the other threads only.
     void set(SoErrorCB* callback, void* data);
     SoErrorCB* getCallback() const;
     void* getData() const;

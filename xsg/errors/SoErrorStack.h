@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// Several things that went wrong together, from the cause to what failed because of it. Its debug string has
+/// Several failures that belong together, from the cause to what failed because of it. Its debug string has
 /// one line for each:
 ///
 ///     SoErrorStack::Builder errors;
@@ -24,19 +24,15 @@ public:
     public:
         void add(const SbString& sentence) { m_sentences.push_back(sentence); }
         bool isEmpty() const { return m_sentences.empty(); }
-        /// Posts what was added, and starts anew.
+        /// Posts what was added, and is empty again.
         void post();
 
     private:
         std::vector<SbString> m_sentences;
     };
 
-    const std::vector<SbString>& getSentences() const { return m_sentences; }
-
 private:
-    explicit SoErrorStack(std::vector<SbString> sentences);
-
-    std::vector<SbString> m_sentences;
+    explicit SoErrorStack(const std::vector<SbString>& sentences);
 };
 
 extern template class SoTyped<SoErrorStack, SoError>;

@@ -99,7 +99,6 @@ void SoReadError::post(const SbString& file, int line, int column, const SbStrin
 SoMemoryError::SoMemoryError(const SbString& wanted, std::size_t bytes)
     : SoErrorClass(
           SbString("No memory for " + wanted.str() + ": " + std::to_string(bytes) + " bytes were asked for."))
-    , m_bytes(bytes)
 {
 }
 
@@ -134,9 +133,8 @@ void SoGLError::post(unsigned code, const char* source)
     handler().handle(SoGLError(code, source));
 }
 
-SoErrorStack::SoErrorStack(std::vector<SbString> sentences)
+SoErrorStack::SoErrorStack(const std::vector<SbString>& sentences)
     : SoErrorClass(SbString(joined(sentences)))
-    , m_sentences(std::move(sentences))
 {
 }
 
@@ -146,5 +144,5 @@ void SoErrorStack::Builder::post()
         return;
     std::vector<SbString> sentences;
     sentences.swap(m_sentences);
-    handler().handle(SoErrorStack(std::move(sentences)));
+    handler().handle(SoErrorStack(sentences));
 }

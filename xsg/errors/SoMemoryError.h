@@ -12,12 +12,8 @@ public:
     /// wanted: what it was for; bytes: how much was asked for.
     static void post(const SbString& wanted, std::size_t bytes);
 
-    std::size_t getBytes() const { return m_bytes; }
-
 private:
     SoMemoryError(const SbString& wanted, std::size_t bytes);
-
-    std::size_t m_bytes;
 };
 
 extern template class SoTyped<SoMemoryError, SoError>;

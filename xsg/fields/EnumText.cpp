@@ -9,7 +9,7 @@ namespace
 {
 
 // A name of the table in quotes.
-bool readQuotedName(XsgTextReader& in, const SoEnumTable& table, int& value)
+bool readQuotedName(TextReader& in, const SoEnumTable& table, int& value)
 {
     std::string name;
     if (!in.readQuoted(name) || name.find('\0') != std::string::npos)
@@ -18,9 +18,9 @@ bool readQuotedName(XsgTextReader& in, const SoEnumTable& table, int& value)
 }
 
 // A name is taken for a number only where the table does not have it ("2D", "32").
-bool readBareName(XsgTextReader& in, const SoEnumTable& table, int& value)
+bool readBareName(TextReader& in, const SoEnumTable& table, int& value)
 {
-    XsgTextReader ahead = in;
+    TextReader ahead = in;
     const SbString word(ahead.readWord());
     if (word == SbString("") || !table.findValue(SbName(word), value))
         return false;
@@ -30,7 +30,7 @@ bool readBareName(XsgTextReader& in, const SoEnumTable& table, int& value)
 
 bool isBareText(std::string_view name)
 {
-    return !name.empty() && name.front() != '"' && xsgTrimmed(name) == name;
+    return !name.empty() && name.front() != '"' && trimmed(name) == name;
 }
 
 } // namespace
@@ -47,13 +47,13 @@ void writeEnum(std::string& out, const SoEnumTable& table, int value)
 
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value)
 {
-    const std::string_view bare = xsgTrimmed(text);
+    const std::string_view bare = trimmed(text);
     if (bare.find('\0') != std::string_view::npos)
         return false;
     if (isBareText(bare) && table.findValue(SbName(SbString(bare)), value))
         return true;
     int read = 0;
-    XsgTextReader in(bare);
+    TextReader in(bare);
     if (!readListedEnum(in, table, read) || !in.atEnd())
         return false;
     value = read;
@@ -64,12 +64,12 @@ void writeListedEnum(std::string& out, const SoEnumTable& table, int value)
 {
     const int index = table.indexOf(value);
     if (index < 0)
-        XsgText<int>::write(out, value);
+        ValueText<int>::write(out, value);
     else
-        XsgText<SbName>::write(out, table.names[static_cast<std::size_t>(index)]);
+        ValueText<SbName>::write(out, table.names[static_cast<std::size_t>(index)]);
 }
 
-bool readListedEnum(XsgTextReader& in, const SoEnumTable& table, int& value)
+bool readListedEnum(TextReader& in, const SoEnumTable& table, int& value)
 {
     in.skipBlanks();
     if (in.peek() == '"')
@@ -90,18 +90,18 @@ void writeBitMask(std::string& out, const SoEnumTable& table, int value)
         if (bits == 0 || (bits & left) != bits)
             continue;
         separate();
-        XsgText<SbName>::write(out, table.names[i]);
+        ValueText<SbName>::write(out, table.names[i]);
         left &= ~bits;
     }
     if (left != 0) {
         separate();
-        XsgText<int>::write(out, static_cast<int>(left));
+        ValueText<int>::write(out, static_cast<int>(left));
     } else if (out.size() == start) {
         writeListedEnum(out, table, 0);
     }
 }
 
-bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value)
+bool readListedBitMask(TextReader& in, const SoEnumTable& table, int& value)
 {
     unsigned all = 0;
     while (true) {
@@ -109,7 +109,7 @@ bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value)
         if (!readListedEnum(in, table, bits))
             return false;
         all |= static_cast<unsigned>(bits);
-        XsgTextReader ahead = in;
+        TextReader ahead = in;
         ahead.skipBlanks();
         if (!ahead.accept('|'))
             break;
@@ -122,7 +122,7 @@ bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value)
 bool readBitMask(std::string_view text, const SoEnumTable& table, int& value)
 {
     int read = 0;
-    XsgTextReader in(text);
+    TextReader in(text);
     if (!readListedBitMask(in, table, read) || !in.onlyBlanksLeft())
         return false;
     value = read;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <xsg/fields/SoEnumTable.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 namespace xsg
 {
@@ -13,11 +13,11 @@ namespace xsg
 void writeEnum(std::string& out, const SoEnumTable& table, int value);
 bool readEnum(std::string_view text, const SoEnumTable& table, int& value);
 void writeListedEnum(std::string& out, const SoEnumTable& table, int value);
-bool readListedEnum(XsgTextReader& in, const SoEnumTable& table, int& value);
+bool readListedEnum(TextReader& in, const SoEnumTable& table, int& value);
 
 /// A bit mask has the same text alone and in a list.
 void writeBitMask(std::string& out, const SoEnumTable& table, int value);
 bool readBitMask(std::string_view text, const SoEnumTable& table, int& value);
-bool readListedBitMask(XsgTextReader& in, const SoEnumTable& table, int& value);
+bool readListedBitMask(TextReader& in, const SoEnumTable& table, int& value);
 
 } // namespace xsg

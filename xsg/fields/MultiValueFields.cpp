@@ -25,7 +25,6 @@
 #include <xsg/fields/SoMFVec4d.h>
 #include <xsg/fields/SoMFVec4f.h>
 #include <xsg/fields/SoValueImpl.h>
-#include <xsg/nodes/base/SoMFNode.h>
 
 template class SoMValue<float>;
 template class SoTyped<SoMFFloat, SoMValue<float>>;
@@ -74,5 +73,3 @@ template class SoTyped<SoMFMatrix, SoMValue<SbMatrix>>;
 template class SoMValue<SbBox3f>;
 template class SoTyped<SoMFBox3f, SoMValue<SbBox3f>>;
 template class SoTyped<SoMFColor, SoMFVec3f>;
-template class SoMValue<SoRef<SoNode>>;
-template class SoTyped<SoMFNode, SoMValue<SoRef<SoNode>>>;

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The text of lists of numbers and of vectors, as fast as the numbers' own.
+// The text of lists of numbers and of vectors, as fast as std::to_chars writes the numbers themselves: with
+// {fmt} the separators of vectors in lists would still be placed here.
 #pragma once
 
-#include <xsg/values/XsgNumbers.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueNumbers.h>
+#include <xsg/values/ValueText.h>
 
 #include <vector>
 
@@ -48,7 +49,7 @@ void writeNumbers(std::string& out, const std::vector<T>& values)
     char* const full = buffer + sizeof buffer - LongestNumber - 2;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const auto* numbers = numbersOf(values[i]);
-        for (int k = 0; k < XsgNumbers<T>::Count; ++k) {
+        for (int k = 0; k < ValueNumbers<T>::Count; ++k) {
             if (k > 0) {
                 *at++ = ' ';
             } else if (i > 0) {

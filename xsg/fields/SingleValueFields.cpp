@@ -27,7 +27,6 @@
 #include <xsg/fields/SoSFVec4d.h>
 #include <xsg/fields/SoSFVec4f.h>
 #include <xsg/fields/SoValueImpl.h>
-#include <xsg/nodes/base/SoSFNode.h>
 
 template class SoSValue<float>;
 template class SoTyped<SoSFFloat, SoSValue<float>>;
@@ -80,5 +79,3 @@ template class SoTyped<SoSFBox3s, SoSValue<SbBox3s>>;
 template class SoSValue<SbBox3f>;
 template class SoTyped<SoSFBox3f, SoSValue<SbBox3f>>;
 template class SoTyped<SoSFFilePathString, SoSFString>;
-template class SoSValue<SoRef<SoNode>>;
-template class SoTyped<SoSFNode, SoSValue<SoRef<SoNode>>>;

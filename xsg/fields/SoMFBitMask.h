@@ -18,7 +18,7 @@ public:
 
 protected:
     void writeListed(std::string& out, int value) const override;
-    bool readListed(XsgTextReader& in, int& value) const override;
+    bool readListed(xsg::TextReader& in, int& value) const override;
     bool readAlone(std::string_view text, int& value) const override;
 };
 

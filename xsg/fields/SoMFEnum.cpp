@@ -26,7 +26,7 @@ void SoMFEnum::writeListed(std::string& out, int value) const
     xsg::writeListedEnum(out, *m_table, value);
 }
 
-bool SoMFEnum::readListed(XsgTextReader& in, int& value) const
+bool SoMFEnum::readListed(xsg::TextReader& in, int& value) const
 {
     return xsg::readListedEnum(in, *m_table, value);
 }
@@ -55,7 +55,7 @@ bool SoMFEnum::parseValue(std::string_view text, int index)
 bool SoMFEnum::parse(std::string_view text)
 {
     std::vector<int> values;
-    const auto readOne = [this](XsgTextReader& in, int& value) { return readListed(in, value); };
+    const auto readOne = [this](xsg::TextReader& in, int& value) { return readListed(in, value); };
     const auto readLone = [this](std::string_view lone, int& value) { return readAlone(lone, value); };
     if (!xsg::readValues(text, values, readOne, readLone))
         return false;
@@ -79,7 +79,7 @@ void SoMFBitMask::writeListed(std::string& out, int value) const
     xsg::writeBitMask(out, getTable(), value);
 }
 
-bool SoMFBitMask::readListed(XsgTextReader& in, int& value) const
+bool SoMFBitMask::readListed(xsg::TextReader& in, int& value) const
 {
     return xsg::readListedBitMask(in, getTable(), value);
 }

@@ -26,7 +26,7 @@ public:
 protected:
     /// The text of one value in a list.
     virtual void writeListed(std::string& out, int value) const;
-    virtual bool readListed(XsgTextReader& in, int& value) const;
+    virtual bool readListed(xsg::TextReader& in, int& value) const;
     /// The text of one value that stands alone.
     virtual bool readAlone(std::string_view text, int& value) const;
 

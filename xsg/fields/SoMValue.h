@@ -2,12 +2,12 @@
 #pragma once
 
 #include <xsg/core/SoMField.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 #include <initializer_list>
 #include <vector>
 
-/// The template behind every multi-value field whose values are a plain type with an XsgText.
+/// The template behind every multi-value field whose values are a plain type with an xsg::ValueText.
 template <class T, class Base = SoMField>
 class XSG_API SoMValue : public Base
 {

@@ -4,7 +4,7 @@
 #include <xsg/fields/EnumText.h>
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/XsgNumbers.h>
+#include <xsg/values/ValueNumbers.h>
 
 template class SoTyped<SoSFEnum, SoSField>;
 template class SoTyped<SoSFBitMask, SoSFEnum>;

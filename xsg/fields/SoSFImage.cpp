@@ -2,7 +2,7 @@
 #include <xsg/fields/SoSFImage.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 template class SoTyped<SoSFImage, SoSField>;
 
@@ -52,7 +52,7 @@ void SoSFImage::get(SbString& text) const
     std::string& out = text.edit();
     out.clear();
     const int head[3] = {m_image.width, m_image.height, m_image.components};
-    XsgNumbersText<int, 3>::write(out, head);
+    xsg::NumbersText<int, 3>::write(out, head);
     const auto step = static_cast<std::size_t>(m_image.components);
     for (std::size_t at = 0; step > 0 && at + step <= m_image.bytes.size(); at += step)
         writePixel(out, m_image.bytes.data() + at, m_image.components);
@@ -60,9 +60,9 @@ void SoSFImage::get(SbString& text) const
 
 bool SoSFImage::read(std::string_view text, Image& image)
 {
-    XsgTextReader in(text);
+    xsg::TextReader in(text);
     int head[3];
-    if (!XsgNumbersText<int, 3>::read(in, head) || head[0] < 0 || head[1] < 0 || head[2] < 0 ||
+    if (!xsg::NumbersText<int, 3>::read(in, head) || head[0] < 0 || head[1] < 0 || head[2] < 0 ||
         head[2] > MaxComponents)
         return false;
     image.width = head[0];

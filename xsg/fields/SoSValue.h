@@ -2,9 +2,9 @@
 #pragma once
 
 #include <xsg/core/SoSField.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
-/// The template behind every single-value field whose value is a plain type with an XsgText.
+/// The template behind every single-value field whose value is a plain type with an xsg::ValueText.
 ///
 /// Base lets a field derive from another field's class; it is SoSField for most.
 template <class T, class Base = SoSField>

@@ -9,7 +9,7 @@
 #include <xsg/fields/SoMValue.h>
 #include <xsg/fields/SoSValue.h>
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/XsgNumbers.h>
+#include <xsg/values/ValueNumbers.h>
 
 #include <algorithm>
 #include <cstring>
@@ -35,7 +35,7 @@ template <class T>
 bool readWholeText(std::string_view text, T& value)
 {
     if constexpr (isTextual<T>) {
-        const std::string_view bare = xsgTrimmed(text);
+        const std::string_view bare = trimmed(text);
         if (bare.empty() || bare.front() == '"' || bare.find('\0') != std::string_view::npos)
             return false;
         value = T(SbString(bare));
@@ -50,8 +50,8 @@ template <class T>
 bool readOnly(std::string_view text, T& value)
 {
     T parsed{};
-    XsgTextReader in(text);
-    if (!readWholeText(text, parsed) && !(XsgText<T>::read(in, parsed) && in.onlyBlanksLeft()))
+    TextReader in(text);
+    if (!readWholeText(text, parsed) && !(ValueText<T>::read(in, parsed) && in.onlyBlanksLeft()))
         return false;
     value = std::move(parsed);
     return true;
@@ -63,7 +63,7 @@ template <class T, class ReadOne, class ReadAlone>
 bool readValues(std::string_view text, std::vector<T>& values, ReadOne readOne, ReadAlone readAlone)
 {
     std::vector<T> parsed;
-    XsgTextReader in(text);
+    TextReader in(text);
     in.skipBlanks();
     if (!in.accept('[')) {
         T value{};
@@ -114,7 +114,7 @@ void SoSValue<T, Base>::get(SbString& text) const
     this->evaluate();
     std::string& out = text.edit();
     out.clear();
-    XsgText<T>::write(out, m_value);
+    xsg::ValueText<T>::write(out, m_value);
 }
 
 template <class T, class Base>
@@ -142,20 +142,20 @@ void SoSValue<T, Base>::assign(const SoField& sameType)
 template <class T, class Base>
 int SoSValue<T, Base>::numbersPerValue() const
 {
-    return XsgNumbers<T>::Count;
+    return xsg::ValueNumbers<T>::Count;
 }
 
 template <class T, class Base>
 double SoSValue<T, Base>::number(int /*value*/, int which) const
 {
-    return XsgNumbers<T>::get(m_value, which);
+    return xsg::ValueNumbers<T>::get(m_value, which);
 }
 
 template <class T, class Base>
 void SoSValue<T, Base>::takeNumbers(const SoField& sameShape)
 {
-    for (int i = 0; i < XsgNumbers<T>::Count; ++i)
-        XsgNumbers<T>::set(m_value, i, this->numberOf(sameShape, 0, i));
+    for (int i = 0; i < xsg::ValueNumbers<T>::Count; ++i)
+        xsg::ValueNumbers<T>::set(m_value, i, this->numberOf(sameShape, 0, i));
 }
 
 template <class T, class Base>
@@ -255,7 +255,7 @@ void SoMValue<T, Base>::close(int start, int number)
 template <class T, class Base>
 void SoMValue<T, Base>::writeValue(std::string& out, int index) const
 {
-    XsgText<T>::write(out, m_values[static_cast<std::size_t>(index)]);
+    xsg::ValueText<T>::write(out, m_values[static_cast<std::size_t>(index)]);
 }
 
 template <class T, class Base>
@@ -265,7 +265,7 @@ void SoMValue<T, Base>::writeValues(std::string& out) const
         xsg::writeNumbers(out, m_values);
     else
         xsg::writeValues(out, m_values,
-                         [](std::string& text, const T& value) { XsgText<T>::write(text, value); });
+                         [](std::string& text, const T& value) { xsg::ValueText<T>::write(text, value); });
 }
 
 template <class T, class Base>
@@ -278,7 +278,7 @@ bool SoMValue<T, Base>::parseValue(std::string_view text, int index)
 template <class T, class Base>
 bool SoMValue<T, Base>::parse(std::string_view text)
 {
-    const auto readOne = [](XsgTextReader& in, T& value) { return XsgText<T>::read(in, value); };
+    const auto readOne = [](xsg::TextReader& in, T& value) { return xsg::ValueText<T>::read(in, value); };
     return xsg::readValues(text, m_values, readOne, xsg::readOnly<T>);
 }
 
@@ -302,13 +302,13 @@ void SoMValue<T, Base>::assign(const SoField& sameType)
 template <class T, class Base>
 int SoMValue<T, Base>::numbersPerValue() const
 {
-    return XsgNumbers<T>::Count;
+    return xsg::ValueNumbers<T>::Count;
 }
 
 template <class T, class Base>
 double SoMValue<T, Base>::number(int value, int which) const
 {
-    return XsgNumbers<T>::get(m_values[static_cast<std::size_t>(value)], which);
+    return xsg::ValueNumbers<T>::get(m_values[static_cast<std::size_t>(value)], which);
 }
 
 template <class T, class Base>
@@ -316,9 +316,9 @@ void SoMValue<T, Base>::takeNumbers(const SoField& sameShape)
 {
     m_values.resize(static_cast<std::size_t>(this->countOf(sameShape)));
     for (int value = 0; value < count(); ++value) {
-        for (int i = 0; i < XsgNumbers<T>::Count; ++i)
-            XsgNumbers<T>::set(m_values[static_cast<std::size_t>(value)], i,
-                               this->numberOf(sameShape, value, i));
+        for (int i = 0; i < xsg::ValueNumbers<T>::Count; ++i)
+            xsg::ValueNumbers<T>::set(m_values[static_cast<std::size_t>(value)], i,
+                                      this->numberOf(sameShape, value, i));
     }
 }
 

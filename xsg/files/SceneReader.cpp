@@ -67,7 +67,7 @@ void xsg::SceneReader::skipBlanks()
     while (!atEnd()) {
         if (peek() == '#')
             m_at = std::min(m_text.find('\n', m_at), m_text.size());
-        else if (XsgTextReader::isBlank(peek()))
+        else if (xsg::TextReader::isBlank(peek()))
             ++m_at;
         else
             return;
@@ -86,14 +86,14 @@ bool xsg::SceneReader::accept(char c)
 std::string_view xsg::SceneReader::readWord()
 {
     const std::size_t start = m_at;
-    while (!atEnd() && XsgTextReader::isWordByte(peek()))
+    while (!atEnd() && xsg::TextReader::isWordByte(peek()))
         ++m_at;
     return m_text.substr(start, m_at - start);
 }
 
 bool xsg::SceneReader::readQuoted(std::string& out)
 {
-    XsgTextReader reader(m_text.substr(m_at));
+    xsg::TextReader reader(m_text.substr(m_at));
     const std::size_t start = m_at;
     if (!reader.readQuoted(out))
         return fail(start,
@@ -106,7 +106,7 @@ bool xsg::SceneReader::readFirstLine()
 {
     const std::string_view wanted = SoSceneFile::FirstLine;
     const std::string_view line = m_text.substr(0, std::min(m_text.find('\n'), wanted.size() + ShownLength));
-    if (line.substr(0, wanted.size()) != wanted || !xsgTrimmed(line.substr(wanted.size())).empty())
+    if (line.substr(0, wanted.size()) != wanted || !xsg::trimmed(line.substr(wanted.size())).empty())
         return fail(0, "this is no scene file: its first line must be \"" + std::string(wanted) + "\"");
     m_at = line.size();
     return true;
@@ -190,7 +190,7 @@ bool xsg::SceneReader::openNode(std::string_view typeName, std::size_t at)
 
 bool xsg::SceneReader::closeNode()
 {
-    // Children come into their group when they are complete, so that no change has far to go.
+    // Children come into their group when they are complete, so that each change passes few groups.
     const OpenNode closed = std::move(m_open.back());
     m_open.pop_back();
     if (!closed.label.empty() && !m_labels.emplace(closed.label, closed.node).second)
@@ -246,7 +246,7 @@ bool xsg::SceneReader::readField(std::string_view name, std::size_t at)
 
 bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, std::size_t at)
 {
-    // Who writes by hand may well go on with the next field.
+    // In a file written by hand the next field may well follow on the same line.
     const bool goesOn = value.find(": ") != std::string_view::npos;
     return fail(at, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
                         field.getTypeId().getName().getString() +
@@ -256,16 +256,16 @@ bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value,
 // The value's text as it stands. It begins on the line of the field's name; where it does not, there is none.
 bool xsg::SceneReader::readValue(std::string_view& value, std::size_t& start)
 {
-    while (peek() != '\n' && XsgTextReader::isBlank(peek()))
+    while (peek() != '\n' && xsg::TextReader::isBlank(peek()))
         ++m_at;
     start = m_at;
-    const XsgValueExtent extent(m_text.substr(start));
+    const xsg::ValueExtent extent(m_text.substr(start));
     if (!extent.isWhole())
         return fail(start + extent.open, m_text[start + extent.open] == '['
                                              ? "the list that starts here has no \"]\""
                                              : "the text in quotes that starts here has no end");
     m_at = start + extent.length;
-    value = xsgTrimmed(m_text.substr(start, extent.length));
+    value = xsg::trimmed(m_text.substr(start, extent.length));
     return true;
 }
 
@@ -297,7 +297,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
 bool xsg::SceneReader::resolveReferences()
 {
     for (const NodeValue& wanted : m_nodeValues) {
-        XsgTextReader in(wanted.text);
+        xsg::TextReader in(wanted.text);
         auto* list = dynamic_cast<SoMFNode*>(wanted.field);
         const bool isList = list && in.accept('[');
         std::vector<SoRef<SoNode>> nodes;
@@ -329,10 +329,10 @@ void xsg::SceneReader::forgetReferences()
     }
 }
 
-bool xsg::SceneReader::readNode(XsgTextReader& in, SoRef<SoNode>& node) const
+bool xsg::SceneReader::readNode(xsg::TextReader& in, SoRef<SoNode>& node) const
 {
     if (!in.accept('@'))
-        return XsgText<SoRef<SoNode>>::read(in, node) && in.atValueEnd();
+        return xsg::ValueText<SoRef<SoNode>>::read(in, node) && in.atValueEnd();
     const auto known = m_labels.find(in.readWord());
     if (known == m_labels.end() || !in.atValueEnd())
         return false;
@@ -352,14 +352,14 @@ bool xsg::SceneReader::connect()
         if (!wanted.field->isDefault())
             wanted.field->get(wanted.value);
     }
-    for (const Connection* wanted : mastersFirst()) {
+    for (const Connection* wanted : sourcesFirst()) {
         if (!wanted->field->connectFrom(wanted->source))
             return fail(wanted->at, std::string(wanted->field->getName().getString()) +
                                         " cannot be connected from a " +
                                         std::string(wanted->source->getTypeId().getName().getString()) +
                                         ", or would in the end be connected from itself");
     }
-    // A connected field may have been written since its master last changed, and then keeps that value.
+    // A connected field may have been written since its source last changed, and then keeps that value.
     for (const Connection& made : m_connections) {
         if (!made.value.isNull())
             made.field->setWithoutPropagation(made.value);
@@ -367,9 +367,9 @@ bool xsg::SceneReader::connect()
     return true;
 }
 
-// A field that is connected tells all that follow it. In this order nobody does so yet, however long the row
+// A field that is connected notifies its dependents. In this order it has none yet, however long the chain
 // is.
-std::vector<const xsg::SceneReader::Connection*> xsg::SceneReader::mastersFirst() const
+std::vector<const xsg::SceneReader::Connection*> xsg::SceneReader::sourcesFirst() const
 {
     std::unordered_map<const SoField*, const Connection*> pending;
     for (const Connection& connection : m_connections)

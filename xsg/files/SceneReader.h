@@ -3,7 +3,7 @@
 
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 #include <string>
 #include <string_view>
@@ -70,10 +70,10 @@ private:
     bool readMarks(SoField* field);
     bool resolveReferences();
     void forgetReferences();
-    bool readNode(XsgTextReader& in, SoRef<SoNode>& node) const;
+    bool readNode(TextReader& in, SoRef<SoNode>& node) const;
     bool refuseValue(const SoField& field, std::string_view value, std::size_t at);
     bool connect();
-    std::vector<const Connection*> mastersFirst() const;
+    std::vector<const Connection*> sourcesFirst() const;
 
     std::string_view m_text;
     std::size_t m_at = 0;

@@ -5,7 +5,7 @@
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 #include <algorithm>
 #include <cmath>
@@ -111,7 +111,7 @@ void xsg::SceneWriter::addReferences(const SoNode* node)
     });
 }
 
-// A master outside of the scene cannot be named in its file.
+// A source outside of the scene cannot be named in its file.
 bool xsg::SceneWriter::isConnectionKept(const SoField& field) const
 {
     const SoNode* source = sourceNodeOf(field);
@@ -125,7 +125,7 @@ void xsg::SceneWriter::beginNode(const SoNode* node, std::size_t depth)
     m_out += (unknown ? unknown->getTypeName() : node->getTypeId().getName()).getString();
     if (node->getName().getLength() > 0) {
         m_out += ' ';
-        xsgAppendQuoted(m_out, node->getName().getString());
+        xsg::appendQuoted(m_out, node->getName().getString());
     }
     const auto label = m_labels.find(node);
     if (label != m_labels.end()) {

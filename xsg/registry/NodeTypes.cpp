@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/registry/NodeTypes.h>
 
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -64,9 +63,9 @@ void registerAll()
 void xsg::registerNodeTypes()
 {
     registerAll<SoAmbientLight, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
-                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFieldGallery, SoFog, SoGroup,
-                SoIndexedLineSet, SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo,
-                SoInstances, SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
+                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFog, SoGroup, SoIndexedLineSet,
+                SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo, SoInstances,
+                SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
                 SoOrthographicCamera, SoPerspectiveCamera, SoPointLight, SoPointSet, SoPoints, SoScreenText,
                 SoSeparator, SoShape, SoSolid, SoSphere, SoSpin, SoSpotLight, SoSwitch, SoTexture2,
                 SoTextureCoordinates, SoTextureTransform, SoTransform, SoTransformation, SoTriangleSet,

@@ -3,8 +3,16 @@
 
 #include <xsg/registry/FieldTypes.h>
 #include <xsg/registry/NodeTypes.h>
+#include <xsg/types/TypeRegistration.h>
 
 #include <mutex>
+
+namespace
+{
+
+[[maybe_unused]] const bool isHooked = (xsg::setTypeRegistration(SoDB::init), true);
+
+} // namespace
 
 void SoDB::init()
 {

@@ -26,7 +26,8 @@ void xsg::DrawState::begin(int width, int height, const std::vector<SoLightSourc
     glDisable(GL_BLEND);
     glFrontFace(GL_CCW);
     glActiveTexture(GL_TEXTURE0);
-    // What a geometry lacks: no normal is drawn without light, a red below 0 takes the material's colour.
+    // For geometry without these attributes: without a normal there is no lighting, and a red below 0 selects
+    // the material's colour.
     glVertexAttrib3f(NormalAttribute, 0, 0, 0);
     glVertexAttrib2f(TextureAttribute, 0, 0);
     glVertexAttrib3f(ColorAttribute, -1, -1, -1);

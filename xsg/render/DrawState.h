@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/render/RenderList.h>
+#include <xsg/render/DrawStateTable.h>
+#include <xsg/render/GeometryStore.h>
+#include <xsg/render/Shader.h>
 
 namespace xsg
 {
@@ -18,10 +20,10 @@ public:
         : m_shader(shader)
     {
     }
-    /// Nothing is known of the settings: others may have drawn since. `headlights` are used where the scene
-    /// has no light; they stay as they are as long as the frame is drawn.
+    /// Assumes nothing about the settings, since others may have drawn in between. `headlights` are used
+    /// where the scene has no light; they must not change until the frame is drawn.
     void begin(int width, int height, const std::vector<SoLightSource>& headlights);
-    /// Puts back what would surprise others.
+    /// Resets what would affect others that draw in this context.
     void end();
 
     void setEdgesOnly(bool on);

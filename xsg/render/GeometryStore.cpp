@@ -86,7 +86,7 @@ void xsg::GeometryStore::release(GpuGeometry* geometry)
         m_unused.push_back(geometry);
 }
 
-void xsg::GeometryStore::giveAllBack()
+void xsg::GeometryStore::releaseAllUsers()
 {
     m_unused.clear();
     for (auto& [key, geometry] : m_geometry) {
@@ -97,7 +97,7 @@ void xsg::GeometryStore::giveAllBack()
 
 void xsg::GeometryStore::removeUnused()
 {
-    // The same one may be listed twice: it was taken up and given back in between.
+    // The same one may be listed twice: it was used and released again in between.
     std::sort(m_unused.begin(), m_unused.end());
     m_unused.erase(std::unique(m_unused.begin(), m_unused.end()), m_unused.end());
     for (GpuGeometry* geometry : m_unused) {

@@ -18,7 +18,7 @@ struct GpuGeometry {
     GlVertexArray vertexArray;
     GlBuffer vertices;
     GlBuffer indices;
-    std::int64_t users = 0; // things to draw that use it
+    std::int64_t users = 0; // render items that use it
     SoGeometryKey key;
 };
 
@@ -28,10 +28,12 @@ class GeometryStore
 public:
     /// The shape's geometry, uploaded where it was not there, with one user more.
     GpuGeometry* get(const SoShape& shape, const SoState& state);
-    /// One user less; what has no user any more goes with removeUnused().
+    /// One user less; removeUnused() frees what has no user any more.
     void release(GpuGeometry* geometry);
-    void giveAllBack();
+    /// Nothing has a user any more.
+    void releaseAllUsers();
     void removeUnused();
+    /// Frees everything.
     void release();
     std::int64_t getUploadedBytes() const { return m_uploadedBytes; }
     std::int64_t getUploads() const { return m_uploads; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// OpenGL, and small owners of its objects. Everything here needs the context current in which it was made;
-// what is left when the context has gone went with it.
+// OpenGL, and small owners of its objects. Everything here needs the context current in which it was made; a
+// context that is destroyed takes the objects that are left with it.
 #pragma once
 
 #include <epoxy/gl.h>
@@ -11,7 +11,7 @@
 namespace xsg
 {
 
-/// Owns one OpenGL object; `Traits` says how to give it back.
+/// Owns one OpenGL object; `Traits` says how to create and delete it.
 template <class Traits>
 class GlObject
 {
@@ -30,7 +30,7 @@ public:
         std::swap(m_name, other.m_name);
         return *this;
     }
-    /// Gives nothing back: without its context current, OpenGL would take another context's object.
+    /// Deletes nothing: without its context current, OpenGL would delete another context's object.
     ~GlObject() = default;
 
     GLuint get()

@@ -9,9 +9,9 @@
 namespace
 {
 
-// A fault in each of a thousand draw calls, frame by frame, would bury what matters.
+// The same error in each of a thousand draw calls, frame by frame, would bury everything else.
 constexpr int MostPerFrame = 8;
-thread_local int toldInFrame = 0;
+thread_local int postedInFrame = 0;
 
 constexpr GLenum FirstCode = GL_INVALID_ENUM;
 constexpr GLenum LastCode = GL_INVALID_FRAMEBUFFER_OPERATION;
@@ -26,16 +26,16 @@ GLenum codeOf(GLuint id, const std::string& text)
     return id;
 }
 
-void GLAPIENTRY tell(GLenum /*source*/, GLenum /*type*/, GLuint id, GLenum /*severity*/, GLsizei length,
-                     const GLchar* message, const void* /*user*/)
+void GLAPIENTRY postMessage(GLenum /*source*/, GLenum /*type*/, GLuint id, GLenum /*severity*/,
+                            GLsizei length, const GLchar* message, const void* /*user*/)
 {
-    if (++toldInFrame > MostPerFrame)
+    if (++postedInFrame > MostPerFrame)
         return;
     const std::string text(message, length < 0 ? std::strlen(message) : static_cast<std::size_t>(length));
     SoGLError::post(codeOf(id, text), text.c_str());
 }
 
-bool isMadeForDebugging()
+bool isDebugContext()
 {
     GLint flags = 0;
     glGetIntegerv(GL_CONTEXT_FLAGS, &flags);
@@ -43,20 +43,20 @@ bool isMadeForDebugging()
            (epoxy_gl_version() >= 43 || epoxy_has_gl_extension("GL_KHR_debug"));
 }
 
-// False where an application listens already: its way of hearing is left alone.
+// False where the application has a callback of its own, which stays.
 bool install()
 {
     void* listener = nullptr;
     glGetPointerv(GL_DEBUG_CALLBACK_FUNCTION, &listener);
     if (listener)
-        return listener == reinterpret_cast<void*>(tell);
+        return listener == reinterpret_cast<void*>(postMessage);
     glEnable(GL_DEBUG_OUTPUT);
-    glEnable(GL_DEBUG_OUTPUT_SYNCHRONOUS); // on this thread, inside of the call that is at fault
+    glEnable(GL_DEBUG_OUTPUT_SYNCHRONOUS); // on this thread, inside the call that causes it
     // Hints on speed and the like are not errors.
     glDebugMessageControl(GL_DONT_CARE, GL_DONT_CARE, GL_DONT_CARE, 0, nullptr, GL_FALSE);
     for (const GLenum type : {GLenum{GL_DEBUG_TYPE_ERROR}, GLenum{GL_DEBUG_TYPE_UNDEFINED_BEHAVIOR}})
         glDebugMessageControl(GL_DONT_CARE, type, GL_DONT_CARE, 0, nullptr, GL_TRUE);
-    glDebugMessageCallback(tell, nullptr);
+    glDebugMessageCallback(postMessage, nullptr);
     return true;
 }
 
@@ -74,15 +74,15 @@ bool xsg::GlMessages::areWanted()
 
 void xsg::GlMessages::listen()
 {
-    toldInFrame = 0;
-    m_isTold = isMadeForDebugging() && install();
+    postedInFrame = 0;
+    m_isListening = isDebugContext() && install();
 }
 
 void xsg::GlMessages::collect(const char* source)
 {
-    if (m_isTold)
+    if (m_isListening)
         return;
-    // One error a frame is told; more of them would only repeat it.
+    // One error is posted a frame; more would mostly repeat it.
     const GLenum first = glGetError();
     for (int i = 0; i < 16 && glGetError() != GL_NO_ERROR; ++i) {
     }

@@ -6,12 +6,12 @@
 namespace xsg
 {
 
-/// What OpenGL has to say, as SoGLError: by its debug output where the context was made for debugging, else
-/// by asking for errors once a frame.
+/// Posts OpenGL's errors as SoGLError: from its debug output in a debug context, and otherwise by looking for
+/// errors once a frame.
 class GlMessages
 {
 public:
-    /// Whether new contexts should be made for debugging: the preference XSG_GL_DEBUG, on at first in debug
+    /// Whether new contexts should be debug contexts: the preference XSG_GL_DEBUG, on by default in debug
     /// builds.
     static bool areWanted();
 
@@ -21,7 +21,7 @@ public:
     void collect(const char* source);
 
 private:
-    bool m_isTold = false; // the context tells by itself
+    bool m_isListening = false; // to the context's debug output
 };
 
 } // namespace xsg

@@ -20,7 +20,7 @@ public:
     GlThread(const GlThread&) = delete;
     GlThread& operator=(const GlThread&) = delete;
 
-    /// Empty when the context is there, else one sentence.
+    /// Empty when there is a context, else why not, in one sentence.
     const std::string& getErrorText() const { return m_error; }
     /// Runs `work` with the context current and returns when it is done. Nothing runs without a context.
     void run(std::function<void()> work);

@@ -21,7 +21,7 @@ SbBox3f sightBoxOf(const xsg::RenderItem& item)
 } // namespace
 
 void xsg::InstanceList::update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
-                               const RenderList::Changes& changes, bool isSameOrder)
+                               const RenderChanges& changes, bool isSameOrder)
 {
     if (changes.all || (!isSameOrder && order != m_order)) {
         for (const std::uint32_t i : m_order) {
@@ -67,7 +67,7 @@ bool xsg::InstanceList::isLikeBefore(const std::vector<RenderItem>& items, std::
         return false;
     const RenderItem& before = getItem(items, place - 1);
     const RenderItem& item = getItem(items, place);
-    return before.geometry == item.geometry && before.surroundings == item.surroundings;
+    return before.geometry == item.geometry && before.drawState == item.drawState;
 }
 
 void xsg::InstanceList::regroup(const std::vector<RenderItem>& items,
@@ -79,8 +79,9 @@ void xsg::InstanceList::regroup(const std::vector<RenderItem>& items,
     }
 }
 
-// Cuts the batch on both sides of the place and joins what is alike now. That a neighbour may have changed
-// too, and still counts as one of its batch, does no harm: its turn comes.
+// Cuts the batch on both sides of the place and joins what is alike now. A neighbour that has changed too may
+// still be in the wrong batch here; it is among the changed items itself, so this function is called for it
+// as well.
 void xsg::InstanceList::regroupAt(const std::vector<RenderItem>& items, std::uint32_t place)
 {
     for (const std::uint32_t cut : {place, place + 1}) {
@@ -130,7 +131,7 @@ void xsg::InstanceList::uploadChanged(const std::vector<RenderItem>& items,
                 m_chunks.refresh(last = BoundingBoxTree::chunkOf(place), boxAt);
         }
     }
-    // Many small pieces cost more than the whole.
+    // Many small uploads cost more than one large one.
     if (m_changedPlaces.size() > 64 && m_changedPlaces.size() > m_order.size() / 4) {
         uploadAll(items);
         return;

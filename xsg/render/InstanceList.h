@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/base/BoundingBoxTree.h>
+#include <xsg/actions/BoundingBoxTree.h>
 #include <xsg/render/Frustum.h>
-#include <xsg/render/RenderList.h>
+#include <xsg/render/RenderItem.h>
 
 namespace xsg
 {
@@ -14,19 +14,19 @@ struct Run {
     std::uint32_t end = 0;
 };
 
-/// Things to draw, in the order of drawing. What differs from copy to copy lies in OpenGL's memory and is
-/// given there again only where it changed.
+/// Items in the order of drawing. Their instance data lies in OpenGL's memory and is uploaded again only
+/// where it changed.
 class InstanceList
 {
 public:
-    /// Brings the list to this order of items; needs to be told of all changes to the items. `isSameOrder`:
-    /// it is known to be the one of the last time, which need not be looked at then.
+    /// Brings the list to this order of items; `changes` are all changes to the items since the last call.
+    /// `isSameOrder`: the order is known to be the one of the last call, and is not compared.
     void update(const std::vector<std::uint32_t>& order, const std::vector<RenderItem>& items,
-                const RenderList::Changes& changes, bool isSameOrder = false);
+                const RenderChanges& changes, bool isSameOrder = false);
     bool isEmpty() const { return m_order.empty(); }
     std::uint32_t getSize() const { return static_cast<std::uint32_t>(m_order.size()); }
 
-    /// Neighbours that share surroundings and geometry, so that one call can draw them.
+    /// Neighbours that share draw state and geometry, so that one call can draw them.
     const std::vector<Run>& getBatches() const { return m_batches; }
     /// What may be in sight, in order.
     void findVisible(const Frustum& frustum, const std::vector<RenderItem>& items, std::vector<Run>& visible);

@@ -3,6 +3,7 @@
 
 #include <xsg/nodes/base/SoState.h>
 
+#include <string_view>
 #include <unordered_map>
 
 namespace xsg
@@ -45,7 +46,7 @@ private:
     }
 
     std::unordered_multimap<std::size_t, SoShared<T>> m_known;
-    /// Neighbours in a scene mostly ask the same.
+    /// The last question: neighbours in a scene mostly have the same list.
     SoShared<T> m_asked;
     SoShared<T> m_answer;
 };

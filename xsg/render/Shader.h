@@ -37,8 +37,8 @@ public:
     void release();
 
     void use();
-    /// Draws with clipping planes from now on, or without them. True where that is another program, which
-    /// knows nothing of lights, planes, textures and fog that were set before.
+    /// Draws with clipping planes from now on, or without them. True where that switches to another program,
+    /// for which lights, planes, textures and fog have to be set again.
     bool setClipped(bool on);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
     void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);

@@ -29,7 +29,7 @@ struct FramebufferTraits {
     static void destroy(GLuint name) { glDeleteFramebuffers(1, &name); }
 };
 
-// A picture in OpenGL's memory, with depth.
+// A framebuffer with colour and depth.
 class Canvas
 {
 public:
@@ -39,7 +39,7 @@ public:
         if (wanted == m_made)
             return true;
         m_made = {};
-        // What an application's drawing left unasked is none of ours.
+        // Errors that an application's drawing callback has left behind are not this function's.
         for (int i = 0; i < 16 && glGetError() != GL_NO_ERROR; ++i) {
         }
         glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer.get());
@@ -128,7 +128,7 @@ private:
         pixels.rgba.resize(row * static_cast<std::size_t>(height));
         glPixelStorei(GL_PACK_ALIGNMENT, 4);
         glReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, pixels.rgba.data());
-        // OpenGL's rows go from the bottom up.
+        // OpenGL's rows are ordered from the bottom up.
         for (std::size_t top = 0, low = static_cast<std::size_t>(height) - 1; top < low; ++top, --low)
             std::swap_ranges(pixels.rgba.data() + top * row, pixels.rgba.data() + (top + 1) * row,
                              pixels.rgba.data() + low * row);

@@ -27,7 +27,7 @@ public:
     SoOffscreenRenderer(const SoOffscreenRenderer&) = delete;
     SoOffscreenRenderer& operator=(const SoOffscreenRenderer&) = delete;
 
-    /// Background, highlight, statistics and so on are set and read there; only render() is not for callers.
+    /// For background, highlight, image reader, statistics and so on; do not call its render().
     SoRenderer& getRenderer();
     /// How many samples smooth the edges: 1 for none, 4 at first; fewer where the system has no more.
     void setSamples(int samples);

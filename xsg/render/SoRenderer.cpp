@@ -7,6 +7,7 @@
 #include <xsg/render/DrawState.h>
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
+#include <xsg/render/RenderListUpdater.h>
 #include <xsg/values/SbTime.h>
 
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace
 constexpr GLenum Primitives[] = {GL_TRIANGLES, GL_LINES, GL_POINTS};
 // Drawing this many corners that are out of sight costs less than another call.
 constexpr std::int64_t CheapCorners = 256;
-// Of more copies than this in a row nobody sees which of one's sides was blended first.
+// With more copies than this in a row, it is not visible which of a body's sides was blended first.
 constexpr std::uint32_t FewCopies = 64;
 
 void feedCounters(const SoRenderer::Statistics& frame)
@@ -35,14 +36,14 @@ void feedCounters(const SoRenderer::Statistics& frame)
     xsg::feeds.textureBytes.add(frame.textureBytes);
 }
 
-// Whether the sides of what this places are turned inside out.
+// Whether the matrix mirrors, which turns front faces into back faces.
 bool isMirrored(const xsg::InstanceData& instance)
 {
     const float* m = instance.matrix;
     return cross(SbVec3f(m[0], m[1], m[2]), SbVec3f(m[4], m[5], m[6])).dot(SbVec3f(m[8], m[9], m[10])) < 0;
 }
 
-// Where a point is drawn from: the eye's matrices for one frame.
+// The eye's matrices for one frame.
 struct EyeView {
     SbMatrix view;
     SbMatrix projection;
@@ -57,16 +58,17 @@ class SoRenderer::Impl
 public:
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     void releaseGL();
+    void setImageReader(SoImageReader reader);
 
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
-    std::uint64_t highlight = 0; // number of a node
+    std::uint64_t highlight = 0; // a node's id
     SbColor highlightColor{1, 0.6F, 0.1F};
     bool headlight = true;
     std::string error;
     Statistics statistics;
-    xsg::RenderList list;
+    const xsg::RenderList& getList() const { return m_list; }
 
 private:
     using Faces = xsg::DrawState::Faces;
@@ -82,10 +84,9 @@ private:
     void updateList(SoNode* root, const SoCamera* camera);
     SbVec3f eyeOf(const SoCamera& camera) const;
     EyeView lookThrough(const SoCamera* camera, float aspect);
-    void drawOpaque(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum);
-    void drawTransparent(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum,
-                         const EyeView& eye);
-    void drawHighlighted(const xsg::RenderList::Changes& changes);
+    void drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum);
+    void drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum, const EyeView& eye);
+    void drawHighlighted(const xsg::RenderChanges& changes);
     void drawCallbacks(const EyeView& eye, int width, int height);
     void drawVisible(xsg::InstanceList& instances);
     void drawBothSides(xsg::InstanceList& instances, const xsg::Run& run);
@@ -98,6 +99,8 @@ private:
     xsg::DrawState m_state{m_shader};
     xsg::GeometryStore m_geometry;
     xsg::TextureStore m_textures;
+    xsg::RenderListUpdater m_updater{m_geometry, m_textures};
+    const xsg::RenderList& m_list = m_updater.getList();
     xsg::InstanceList m_opaque;
     xsg::InstanceList m_transparent;
     xsg::InstanceList m_highlighted;
@@ -146,7 +149,7 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
 {
     const Uploads before = countUploads();
     updateList(root, camera);
-    const xsg::RenderList::Changes changes = list.takeChanges();
+    const xsg::RenderChanges changes = m_updater.takeChanges();
     const EyeView eye = lookThrough(camera, static_cast<float>(width) / static_cast<float>(height));
     const xsg::Frustum frustum(eye.viewProjection);
     m_shader.use();
@@ -157,7 +160,7 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     drawCallbacks(eye, width, height);
     drawTransparent(changes, frustum, eye);
     drawHighlighted(changes);
-    statistics.shapes = static_cast<std::int64_t>(list.getOpaque().size() + list.getTransparent().size());
+    statistics.shapes = static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size());
     statistics.stateChanges += m_state.getChanges();
     const Uploads after = countUploads();
     statistics.bufferUploads = after.buffers - before.buffers;
@@ -185,35 +188,35 @@ void SoRenderer::Impl::clearPicture()
 void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
 {
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
-    // distance: a second walk then sees it where it is. The camera of the last walk may be gone by now.
+    // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
-        if (!list.update(root, {camera, eye}, m_geometry, m_textures))
+        if (!m_updater.update(root, {camera, eye}))
             return;
-        m_sceneEye = list.getCamera() ? eyeOf(*list.getCamera()) : SbVec3f();
-        statistics.nodes += list.getNumVisited();
+        m_sceneEye = m_list.camera ? eyeOf(*m_list.camera) : SbVec3f();
+        statistics.nodes += m_updater.getNumVisited();
     }
 }
 
 SbVec3f SoRenderer::Impl::eyeOf(const SoCamera& camera) const
 {
-    return list.getCameraMatrix().multPoint(camera.position.getValue());
+    return m_list.cameraMatrix.multPoint(camera.position.getValue());
 }
 
 EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
 {
     if (!camera)
-        camera = list.getCamera();
+        camera = m_list.camera;
     if (!camera) {
         if (!m_ownCamera)
             m_ownCamera = SoRef<SoPerspectiveCamera>(new SoPerspectiveCamera);
-        m_ownCamera->viewAll(list.getBox(), aspect);
+        m_ownCamera->viewAll(m_list.box, aspect);
         camera = m_ownCamera.get();
     }
     EyeView eye;
     // The identity where the camera stands outside of the scene.
-    const SbMatrix& toWorld = list.getCameraMatrix();
-    eye.view = toWorld.inverse() * camera->getViewMatrix();
+    const SbMatrix& toWorld = m_list.cameraMatrix;
+    eye.view = toWorld.inverse().value_or(SbMatrix()) * camera->getViewMatrix();
     eye.projection = camera->getProjectionMatrix(aspect);
     eye.viewProjection = eye.view * eye.projection;
     const bool isParallel = eye.projection[2][3] == 0;
@@ -222,14 +225,14 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
     eye.eye = SbVec4f(place[0], place[1], place[2], isParallel ? 0.0F : 1.0F);
     SoLightSource light;
     light.direction = toWorld.multDirection(camera->getDirection()).normalized();
-    m_headlights.assign(headlight && !list.hasLights() ? 1 : 0, light);
+    m_headlights.assign(headlight && !m_list.hasLights ? 1 : 0, light);
     return eye;
 }
 
-void SoRenderer::Impl::drawOpaque(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum)
+void SoRenderer::Impl::drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum)
 {
-    m_opaque.update(list.getOpaque(), list.getItems(), changes, !changes.orders);
-    m_opaque.findVisible(frustum, list.getItems(), m_visible);
+    m_opaque.update(m_list.opaque, m_list.items, changes, !changes.orders);
+    m_opaque.findVisible(frustum, m_list.items, m_visible);
     std::uint32_t seen = 0;
     for (const xsg::Run& run : m_visible)
         seen += run.end - run.first;
@@ -242,7 +245,7 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
 {
     auto run = m_visible.begin();
     for (const xsg::Run& batch : instances.getBatches()) {
-        const xsg::GpuGeometry& geometry = *instances.getItem(list.getItems(), batch.first).geometry;
+        const xsg::GpuGeometry& geometry = *instances.getItem(m_list.items, batch.first).geometry;
         while (run != m_visible.end() && run->first < batch.end) {
             xsg::Run part{std::max(run->first, batch.first), std::min(run->end, batch.end)};
             const auto isCloseBehind = [&](const xsg::Run& next) {
@@ -255,18 +258,18 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
             drawRun(instances, part);
             countDrawn(geometry, part.end - part.first);
             if (run->end > batch.end)
-                break; // goes on in the next batch
+                break; // the run continues in the next batch
             ++run;
         }
     }
 }
 
-void SoRenderer::Impl::drawTransparent(const xsg::RenderList::Changes& changes, const xsg::Frustum& frustum,
+void SoRenderer::Impl::drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum,
                                        const EyeView& eye)
 {
-    const auto& items = list.getItems();
+    const auto& items = m_list.items;
     m_depths.clear();
-    for (const std::uint32_t i : list.getTransparent()) {
+    for (const std::uint32_t i : m_list.transparent) {
         if (items[i].geometry->isScreenSpace || frustum.mayShow(items[i].box))
             m_depths.emplace_back(eye.view.multPoint(items[i].box.getCenter())[2], i);
         else
@@ -294,7 +297,7 @@ void SoRenderer::Impl::drawTransparent(const xsg::RenderList::Changes& changes, 
 // A body's far side is blended before its near side.
 void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Run& run)
 {
-    const auto& items = list.getItems();
+    const auto& items = m_list.items;
     const bool isFlat = instances.getItem(items, run.first).geometry->kind != SoGeometry::Kind::Triangles;
     if (isFlat || run.end - run.first > FewCopies) {
         m_state.setFaces(Faces::Both, false);
@@ -310,15 +313,15 @@ void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Ru
     }
 }
 
-void SoRenderer::Impl::drawHighlighted(const xsg::RenderList::Changes& changes)
+void SoRenderer::Impl::drawHighlighted(const xsg::RenderChanges& changes)
 {
     if (changes.all || highlight != m_highlightCollected) {
         m_highlightOrder.clear();
         if (highlight != 0)
-            list.collectItemsOf(highlight, m_highlightOrder);
+            m_list.collectItemsOf(highlight, m_highlightOrder);
         m_highlightCollected = highlight;
     }
-    m_highlighted.update(m_highlightOrder, list.getItems(), changes);
+    m_highlighted.update(m_highlightOrder, m_list.items, changes);
     if (m_highlighted.isEmpty())
         return;
     m_shader.setOverride(SbVec4f(highlightColor[0], highlightColor[1], highlightColor[2], 1));
@@ -327,14 +330,14 @@ void SoRenderer::Impl::drawHighlighted(const xsg::RenderList::Changes& changes)
     glPolygonOffset(-1, -1);
     for (const xsg::Run& batch : m_highlighted.getBatches()) {
         drawRun(m_highlighted, batch);
-        countDrawn(*m_highlighted.getItem(list.getItems(), batch.first).geometry, batch.end - batch.first);
+        countDrawn(*m_highlighted.getItem(m_list.items, batch.first).geometry, batch.end - batch.first);
     }
     glDisable(GL_POLYGON_OFFSET_LINE);
 }
 
 void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
 {
-    for (const xsg::CallbackItem& item : list.getCallbacks()) {
+    for (const xsg::CallbackItem& item : m_list.callbacks) {
         if (!item.node->getCallback())
             continue;
         item.node->getCallback()({item.modelMatrix, eye.view, eye.projection, width, height});
@@ -346,9 +349,9 @@ void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
 
 void SoRenderer::Impl::drawRun(xsg::InstanceList& instances, const xsg::Run& run)
 {
-    const xsg::RenderItem& first = instances.getItem(list.getItems(), run.first);
+    const xsg::RenderItem& first = instances.getItem(m_list.items, run.first);
     const xsg::GpuGeometry& geometry = *first.geometry;
-    m_state.setState(list.getState(first.surroundings));
+    m_state.setState(m_list.drawStates.get(first.drawState));
     m_state.setGeometry(*first.geometry);
     instances.bind(run.first);
     glDrawElementsInstanced(Primitives[static_cast<int>(geometry.kind)], geometry.indexCount, GL_UNSIGNED_INT,
@@ -363,9 +366,15 @@ void SoRenderer::Impl::countDrawn(const xsg::GpuGeometry& geometry, std::int64_t
         statistics.triangles += geometry.indexCount / 3 * copies;
 }
 
+void SoRenderer::Impl::setImageReader(SoImageReader reader)
+{
+    m_textures.setImageReader(std::move(reader));
+    m_updater.invalidate();
+}
+
 void SoRenderer::Impl::releaseGL()
 {
-    list.clear();
+    m_updater.clear();
     m_shader.release();
     m_geometry.release();
     m_textures.release();
@@ -431,6 +440,11 @@ void SoRenderer::setHeadlight(bool on)
     m_impl->headlight = on;
 }
 
+void SoRenderer::setImageReader(SoImageReader reader)
+{
+    m_impl->setImageReader(std::move(reader));
+}
+
 const SoRenderer::Statistics& SoRenderer::getStatistics() const
 {
     return m_impl->statistics;
@@ -438,5 +452,5 @@ const SoRenderer::Statistics& SoRenderer::getStatistics() const
 
 SbBox3f SoRenderer::getSceneBox() const
 {
-    return m_impl->list.getBox();
+    return m_impl->getList().box;
 }

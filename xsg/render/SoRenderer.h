@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/render/SoImageReader.h>
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/XsgExport.h>
@@ -23,7 +24,7 @@ class XSG_API SoRenderer
 {
 public:
     SoRenderer();
-    /// Touches no OpenGL: objects not given back by releaseGL() go with their context.
+    /// Touches no OpenGL: objects that releaseGL() has not freed are destroyed with their context.
     ~SoRenderer();
     SoRenderer(const SoRenderer&) = delete;
     SoRenderer& operator=(const SoRenderer&) = delete;
@@ -34,25 +35,29 @@ public:
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     const std::string& getErrorText() const;
 
-    /// Gives all OpenGL objects back; the next render() makes them again. Call it before the context goes.
+    /// Frees all OpenGL objects; the next render() makes them again. Call it before the context is destroyed.
     void releaseGL();
 
     void setBackground(const SbColor& color, float opacity = 1);
     /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
-    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may go
-    /// at any time.
+    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may be
+    /// destroyed at any time.
     void setHighlight(const SoNode* node);
     /// The same by SoNode::getNodeId(); 0 for none.
     void setHighlightedNumber(std::uint64_t nodeId);
     void setHighlightColor(const SbColor& color);
-    /// Whether contexts for drawing are best made for debugging, so that OpenGL tells its errors by itself,
+    /// Whether contexts for drawing should be debug contexts, in which OpenGL reports its errors by itself,
     /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
     /// otherwise.
     static bool wantsDebugContext();
 
     /// A light beside the eye in scenes without a light of their own; on from the start.
     void setHeadlight(bool on);
+
+    /// How this renderer reads the image files of textures, from the next render() on. Null, as at first: by
+    /// the library's own reader, which knows portable pixmaps (PGM, PPM). Other renderers are not affected.
+    void setImageReader(SoImageReader reader);
 
     /// What the last render() saw and did.
     struct Statistics {

@@ -30,12 +30,19 @@ void set(GLenum parameter, GLint value)
 
 } // namespace
 
+void xsg::TextureStore::setImageReader(SoImageReader reader)
+{
+    m_images.setReader(std::move(reader));
+    ++m_readers;
+}
+
 xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality)
 {
     if (!node || !(quality > 0))
         return nullptr;
     const Filter filter = quality < 0.5F ? Blocky : quality > 0.5F ? Smoothest : Smooth;
-    const auto [place, isNew] = m_textures.try_emplace({node->getNodeId(), node->getChangeCount(), filter});
+    const auto [place, isNew] =
+        m_textures.try_emplace({node->getNodeId(), node->getChangeCount(), m_readers, filter});
     GpuTexture& kept = place->second;
     if (isNew)
         upload(*node, filter, kept);
@@ -45,18 +52,18 @@ xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality)
 
 void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture& to)
 {
-    SoImageView picture;
-    if (!node.getPicture(picture))
+    const SoImageView image = m_images.find(node);
+    if (image.isEmpty())
         return;
     GLint largest = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
-    if (picture.width > largest || picture.height > largest)
+    if (image.width > largest || image.height > largest)
         return;
-    const PixelFormat& format = Formats[picture.components - 1];
+    const PixelFormat& format = Formats[image.components - 1];
     glBindTexture(GL_TEXTURE_2D, to.texture.get());
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, format.internal, picture.width, picture.height, 0, format.external,
-                 GL_UNSIGNED_BYTE, picture.bytes);
+    glTexImage2D(GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.external,
+                 GL_UNSIGNED_BYTE, image.bytes);
     glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, format.swizzle);
     set(GL_TEXTURE_WRAP_S, wrapOf(node.wrapS));
     set(GL_TEXTURE_WRAP_T, wrapOf(node.wrapT));
@@ -67,8 +74,8 @@ void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture
     if (filter == Smoothest)
         glGenerateMipmap(GL_TEXTURE_2D);
     to.isEmpty = false;
-    to.hasAlpha = picture.components == 2 || picture.components == 4;
-    m_uploadedBytes += std::int64_t{picture.width} * picture.height * picture.components;
+    to.hasAlpha = image.components == 2 || image.components == 4;
+    m_uploadedBytes += std::int64_t{image.width} * image.height * image.components;
 }
 
 void xsg::TextureStore::endRound()
@@ -81,6 +88,10 @@ void xsg::TextureStore::endRound()
         it->second.texture.release();
         it = m_textures.erase(it);
     }
+    m_images.keepOnly([this](std::uint64_t nodeId) {
+        const auto first = m_textures.lower_bound({nodeId, 0, 0, Blocky});
+        return first != m_textures.end() && std::get<0>(first->first) == nodeId;
+    });
 }
 
 void xsg::TextureStore::release()

@@ -1,31 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoDataSensor.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoNodeSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
-#include <algorithm>
 #include <utility>
 
-namespace
-{
-
-void eraseFrom(std::vector<SoDataSensor*>& sensors, SoDataSensor* sensor)
-{
-    sensors.erase(std::remove(sensors.begin(), sensors.end(), sensor), sensors.end());
-}
-
-} // namespace
-
-void SoDataSensor::notified(const SoNotification& change)
+void SoDataSensor::changed(const SoNotification& change)
 {
     m_triggerField = change.field;
     m_structureTriggered |= !change.field;
     if (change.field)
-        change.field->m_isTrigger = true;
+        change.field->markAsTrigger();
     schedule();
 }
 
@@ -35,13 +25,7 @@ void SoDataSensor::run()
     SoSensor::run(); // may delete this sensor
 }
 
-void SoDataSensor::forgetTrigger()
-{
-    m_triggerField = nullptr;
-    m_structureTriggered = false;
-}
-
-void SoDataSensor::forget(const SoField* field)
+void SoDataSensor::forgetTrigger(const SoField* field)
 {
     SoSensorQueue::getInstance().forEachWaiting([field](SoSensor& sensor) {
         auto* data = dynamic_cast<SoDataSensor*>(&sensor);
@@ -50,26 +34,22 @@ void SoDataSensor::forget(const SoField* field)
     });
 }
 
-void SoDataSensor::add(SoField* field, SoDataSensor* sensor)
+template <class Subject>
+void SoDataSensor::listenTo(Subject* subject)
 {
-    field->listeners().sensors.push_back(sensor);
+    xsg::Context::get().triggerDestroyed = forgetTrigger;
+    if (subject)
+        subject->addListener(this);
 }
 
-void SoDataSensor::remove(SoField* field, SoDataSensor* sensor)
+template <class Subject>
+void SoDataSensor::stopListeningTo(Subject*& subject)
 {
-    eraseFrom(field->listeners().sensors, sensor);
-}
-
-void SoDataSensor::add(SoFieldContainer* container, SoDataSensor* sensor)
-{
-    if (!container->m_sensors)
-        container->m_sensors = std::make_unique<std::vector<SoDataSensor*>>();
-    container->m_sensors->push_back(sensor);
-}
-
-void SoDataSensor::remove(SoFieldContainer* container, SoDataSensor* sensor)
-{
-    eraseFrom(*container->m_sensors, sensor);
+    unschedule();
+    m_triggerField = nullptr;
+    m_structureTriggered = false;
+    if (Subject* former = std::exchange(subject, nullptr))
+        former->removeListener(this);
 }
 
 SoFieldSensor::~SoFieldSensor()
@@ -81,18 +61,12 @@ void SoFieldSensor::attach(SoField* field)
 {
     detach();
     m_field = field;
-    if (field)
-        add(field, this);
+    listenTo(field);
 }
 
 void SoFieldSensor::detach()
 {
-    unschedule();
-    forgetTrigger();
-    if (SoField* field = m_field) {
-        m_field = nullptr;
-        remove(field, this);
-    }
+    stopListeningTo(m_field);
 }
 
 SoNodeSensor::~SoNodeSensor()
@@ -104,16 +78,10 @@ void SoNodeSensor::attach(SoFieldContainer* container)
 {
     detach();
     m_container = container;
-    if (container)
-        add(container, this);
+    listenTo(container);
 }
 
 void SoNodeSensor::detach()
 {
-    unschedule();
-    forgetTrigger();
-    if (SoFieldContainer* container = m_container) {
-        m_container = nullptr;
-        remove(container, this);
-    }
+    stopListeningTo(m_container);
 }

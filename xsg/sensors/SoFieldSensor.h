@@ -11,7 +11,8 @@ public:
     using SoDataSensor::SoDataSensor;
     ~SoFieldSensor() override;
 
-    /// Watches this field and no other; a null field detaches. The field's end detaches by itself.
+    /// Watches this field and no other; a null field detaches. The sensor detaches itself when the field is
+    /// destroyed.
     void attach(SoField* field);
     void detach() override;
     SoField* getAttachedField() const { return m_field; }

@@ -29,7 +29,6 @@ public:
     /// Lower numbers run earlier in a turn; sensors of the same priority run in the order of their
     /// triggering.
     void setPriority(int priority) { m_priority = priority; }
-    int getPriority() const { return m_priority; }
 
     /// Makes the sensor wait for its moment, which for most is the queue's next turn. One that waits already
     /// is left alone.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/sensors/SoSensorQueue.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/sensors/SoTimedSensor.h>
 
@@ -41,7 +42,7 @@ void SoSensor::run()
 
 SoSensorQueue& SoSensorQueue::getInstance()
 {
-    static auto& queue = *new SoSensorQueue;
+    static auto& queue = xsg::Context::get().state<SoSensorQueue>();
     return queue;
 }
 

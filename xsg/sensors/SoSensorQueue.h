@@ -9,11 +9,15 @@
 #include <vector>
 
 class SoTimedSensor;
+namespace xsg
+{
+class Context;
+} // namespace xsg
 
 /// The one queue of triggered sensors, driven by the host:
 ///
-///   - the wake-up hook tells the host that something waits; it then calls process() in a turn of its event
-///   loop;
+///   - the wake-up hook notifies the host that something waits; it then calls process() in a turn of its
+///   event loop;
 ///   - after process(), and when woken, the host sets a timer for getDeadline() and calls process() again by
 ///   then.
 ///
@@ -42,6 +46,12 @@ public:
     /// when a new deadline is earlier than all others.
     using WakeUp = void (*)(void* data);
     void setWakeUp(WakeUp callback, void* data);
+    /// Whether the queue is driven already, and whether by this hook.
+    bool hasWakeUp() const { return m_wakeUp != nullptr; }
+    bool hasWakeUp(WakeUp callback, const void* data) const
+    {
+        return m_wakeUp == callback && m_wakeUpData == data;
+    }
 
     /// The clock of timed sensors, in seconds since the Unix epoch. It never runs backwards.
     SbTime getTime() const { return m_clock(); }
@@ -53,6 +63,7 @@ public:
 private:
     friend class SoSensor;
     friend class SoTimedSensor;
+    friend class xsg::Context;
     using Place = SoSensor::Place;
     struct List {
         std::vector<SoSensor*> sensors; // those taken out are null

@@ -3,18 +3,12 @@
 
 #include <xsg/values/SbString.h>
 
-/// Settings by name, for the library and what is built on it. Each is looked for in the environment, then in
-/// the settings file, and falls back on the default that the caller gives. An environment variable that is
-/// empty counts as not set.
+/// Settings by name, for the library and what is built on it. Each is looked for in the environment, then
+/// among the values that the application has set, and falls back on the default that the caller gives. An
+/// environment variable that is empty counts as not set. Where values are kept from one run to the next is
+/// the application's business.
 ///
-/// The settings file is the one named by the environment variable XSG_PREFERENCES, or
-/// "scopix/preferences.conf" in the user's configuration folder (XDG_CONFIG_HOME, else ~/.config). It has
-/// lines of the form
-///
-///     XSG_PERFCOUNTER_ENABLE = 1      # up to here
-///
-/// A line that is none of these is named by one SoReadError and skipped; a file that does not exist is no
-/// error. Text that is no number or bool where one is asked for gives the default and, once, an SoDebugError
+/// Text that is no number or bool where one is asked for gives the default and, once, an SoDebugError
 /// warning. Safe from any thread.
 class XSG_API SoPreferences
 {
@@ -24,6 +18,6 @@ public:
     static float getFloat(const char* name, float fallback);
     static SbString getString(const char* name, const SbString& fallback);
 
-    /// Reads another settings file, or the same again; a null text goes back to the usual one.
-    static void setFile(const SbString& path);
+    /// Sets the value that holds where the environment has none; a null text takes it away.
+    static void setValue(const char* name, const SbString& value);
 };

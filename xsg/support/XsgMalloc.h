@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Allocation with the place that asked for it, so that counters can tell who holds memory. Safe from any
-// thread.
+// Allocation with the place that asked for it, for debugging; counted by the library's counters. Safe from
+// any thread.
 #pragma once
 
 #include <xsg/values/XsgExport.h>

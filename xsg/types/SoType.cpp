@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/types/SoType.h>
 
-#include <xsg/registry/SoDB.h>
+#include <xsg/types/TypeRegistration.h>
 
-#include <atomic>
 #include <deque>
 #include <mutex>
 #include <unordered_map>
@@ -11,8 +10,7 @@
 struct SoType::Data {
     SbName name;
     SoType parent;
-    mutable std::atomic<Factory> factory{nullptr};
-    bool removed = false;
+    Factory factory = nullptr;
 };
 
 namespace
@@ -24,7 +22,20 @@ std::mutex& registryMutex()
     return mutex;
 }
 
+void (*registration)() = nullptr;
+
+void registerBuiltInTypes()
+{
+    if (registration)
+        registration();
+}
+
 } // namespace
+
+void xsg::setTypeRegistration(void (*registerTypes)())
+{
+    registration = registerTypes;
+}
 
 // Entries are never freed: an SoType is a plain pointer that anyone may hold.
 template <class Data>
@@ -55,22 +66,9 @@ SoType SoType::createType(SoType parent, SbName name, Factory factory)
     return SoType(&data);
 }
 
-bool SoType::removeType(SbName name)
-{
-    const std::lock_guard<std::mutex> lock(registryMutex());
-    auto& all = registry<Data>();
-    const auto known = all.byName.find(name.getString());
-    if (known == all.byName.end())
-        return false;
-    known->second->factory = nullptr;
-    known->second->removed = true;
-    all.byName.erase(known);
-    return true;
-}
-
 SoType SoType::fromName(SbName name)
 {
-    SoDB::init();
+    registerBuiltInTypes();
     const std::lock_guard<std::mutex> lock(registryMutex());
     const auto& byName = registry<Data>().byName;
     const auto known = byName.find(name.getString());
@@ -79,12 +77,12 @@ SoType SoType::fromName(SbName name)
 
 std::vector<SoType> SoType::getAllDerivedFrom(SoType type)
 {
-    SoDB::init();
+    registerBuiltInTypes();
     const std::lock_guard<std::mutex> lock(registryMutex());
     std::vector<SoType> found;
     for (const Data& data : registry<Data>().entries) {
         const SoType candidate(&data);
-        if (!data.removed && candidate.isDerivedFrom(type))
+        if (candidate.isDerivedFrom(type))
             found.push_back(candidate);
     }
     return found;
@@ -93,11 +91,6 @@ std::vector<SoType> SoType::getAllDerivedFrom(SoType type)
 SbName SoType::getName() const
 {
     return m_data ? m_data->name : SbName("BadType");
-}
-
-SoType SoType::getParent() const
-{
-    return m_data ? m_data->parent : SoType();
 }
 
 bool SoType::isDerivedFrom(SoType ancestor) const
@@ -113,11 +106,11 @@ bool SoType::isDerivedFrom(SoType ancestor) const
 
 bool SoType::canCreateInstance() const
 {
-    return m_data && m_data->factory.load();
+    return m_data && m_data->factory;
 }
 
 SoTypedObject* SoType::createInstance() const
 {
-    const Factory factory = m_data ? m_data->factory.load() : nullptr;
+    const Factory factory = m_data ? m_data->factory : nullptr;
     return factory ? factory() : nullptr;
 }

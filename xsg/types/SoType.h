@@ -20,15 +20,11 @@ public:
     static SoType fromName(SbName name);
     /// Registers a type at run time; a name already taken gives the type that has it.
     static SoType createType(SoType parent, SbName name, Factory factory = nullptr);
-    /// Takes a run-time type out again, before the library that made it goes. SoTypes that still name it stay
-    /// valid as values but create nothing. Returns false for an unknown name.
-    static bool removeType(SbName name);
     /// All types derived from `type`, itself included, in order of registration.
     static std::vector<SoType> getAllDerivedFrom(SoType type);
 
     bool isBad() const { return !m_data; }
     SbName getName() const;
-    SoType getParent() const;
     /// True for the type itself; false whenever one of the two is bad.
     bool isDerivedFrom(SoType ancestor) const;
     bool canCreateInstance() const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Axis-aligned boxes. The float box starts empty (minimum above maximum) and grows with what it is given;
-// the short box is a plain pair of corners, as its field edits it.
+// the short box is a plain pair of corners, as its field edits it. Own code: Eigen's AlignedBox would show in
+// this public header, and is no constant expression.
 #pragma once
 
 #include <xsg/values/SbVec.h>

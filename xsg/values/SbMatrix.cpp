@@ -91,7 +91,7 @@ SbMatrix SbMatrix::orthographic(float height, float aspect, float nearDistance, 
     return m;
 }
 
-SbMatrix SbMatrix::inverse() const
+std::optional<SbMatrix> SbMatrix::inverse() const
 {
     bool invertible = false;
     RowMajor result;
@@ -102,7 +102,7 @@ SbMatrix SbMatrix::inverse() const
     double determinant = 0;
     wide.computeInverseAndDetWithCheck(inverted, determinant, invertible, 1e-300);
     if (!invertible || !inverted.allFinite())
-        return {};
+        return std::nullopt;
     return fromEigen(inverted.cast<float>());
 }
 

@@ -5,6 +5,8 @@
 #include <xsg/values/SbVec.h>
 #include <xsg/values/XsgExport.h>
 
+#include <optional>
+
 class SbRotation;
 
 /// A 4 by 4 matrix, rows first: element [r][c] is number 4r + c in storage. Points are row vectors (p' = p
@@ -26,8 +28,9 @@ public:
     const float* getValue() const { return m_values; }
     void setValue(const float* sixteen);
 
-    /// The identity where there is no inverse.
-    SbMatrix inverse() const;
+    /// Nothing for a matrix that has no inverse: one that squeezes space flat, or with numbers that are not
+    /// finite.
+    std::optional<SbMatrix> inverse() const;
     SbMatrix transposed() const;
     SbVec3f multPoint(const SbVec3f& point) const; // with the perspective division
     SbVec3f multDirection(const SbVec3f& direction) const;

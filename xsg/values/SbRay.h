@@ -3,7 +3,7 @@
 
 #include <xsg/values/SbVec.h>
 
-/// A half line: where it starts, and the way it goes (of length 1 where distances along it are to be
+/// A half line: its origin and its direction (of length 1 where distances along it are to be
 /// lengths).
 struct SbRay {
     SbVec3f origin;

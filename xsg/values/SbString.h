@@ -27,7 +27,7 @@ public:
 
     bool isNull() const { return m_null; }
     void makeNull();
-    /// For those who build a text in place: the text is no longer null.
+    /// To build a text in place: the text is no longer null.
     std::string& edit();
 
     friend bool operator==(const SbString& a, const SbString& b) { return a.m_text == b.m_text; }

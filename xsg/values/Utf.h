@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Conversions between UTF-8 and UTF-16; whatever is malformed becomes U+FFFD, one per bad unit.
+// Conversions between UTF-8 and UTF-16; whatever is malformed becomes U+FFFD, one per bad unit. Written here,
+// since utfcpp replaces malformed sequences as a whole in UTF-8 and throws in UTF-16, so that the loops would
+// stay.
 #pragma once
 
 #include <xsg/values/XsgExport.h>

@@ -12,7 +12,7 @@ public:
     AccessButtonPrivate(QWidget* parent, const char* name);
     AccessButtonPrivate(int minimum, int maximum, int step, QWidget* parent, const char* name);
 
-    /// Moves the range without telling anybody: only what a person does in the box reaches the table.
+    /// Moves the range without a signal: only what the user does in the box reaches the table.
     void setSilentRange(int minimum, int maximum);
 
 public slots:

@@ -5,7 +5,7 @@
 
 class QTableView;
 
-/// The row numbers of a table, the current row's marked: without a selection nothing else tells which row it
+/// The row numbers of a table, the current row's marked: without a selection nothing else shows which row it
 /// is.
 class CurrentRowHeader : public QHeaderView
 {

@@ -4,7 +4,8 @@
 #include "EdColor.h"
 #include "EdMFColorTableItemDelegate.h"
 #include "EdMFieldWidget.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QColorDialog>
 #include <QPointer>
@@ -22,10 +23,10 @@ void EdMFColorTable::getColorFromEditor(int row, int col)
 {
     if (col != 0 || !owner()->hasRow(row))
         return;
-    // The table's columns stand for components here, so the dialog starts one component further on; that is
-    // meant.
+    // The table's columns stand for components here, so the dialog starts one component further on
+    // (decisions.md: color-dialog-shift).
     const auto channel = [&](int column) {
-        return colorChannel(toFloatOr0(owner()->getFieldValue(row, column)));
+        return colorChannel(SpxText::toFloatOr0(owner()->getFieldValue(row, column)));
     };
     const QPointer<EdMFColorTable> alive(this);
     const SoMField* field = owner()->editedField();

@@ -3,7 +3,8 @@
 
 #include "EdColor.h"
 #include "EdMFieldWidget.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QPainter>
 
@@ -15,7 +16,7 @@ void EdMFColorTableItemDelegate::paint(QPainter* painter, const QStyleOptionView
         return;
     }
     const auto channel = [&](int component) {
-        return colorChannel(toFloatOr0(owner()->getFieldValue(index.row(), component)));
+        return colorChannel(SpxText::toFloatOr0(owner()->getFieldValue(index.row(), component)));
     };
     painter->save();
     painter->fillRect(option.rect, QColor(channel(0), channel(1), channel(2), 255));

@@ -43,5 +43,5 @@ void EdMFColorWidget::setValue(int row, const void* rgb)
         return;
     values()->set1Value(row, SbVec3f(static_cast<const float*>(rgb)));
     // Built after the write, so that both its texts hold the new colour.
-    EdFieldEdits::record(std::make_unique<SpxMFSetFieldValueCommand>(values(), row));
+    SpxFieldEdit::record(std::make_unique<SpxMFSetFieldValueCommand>(values(), row));
 }

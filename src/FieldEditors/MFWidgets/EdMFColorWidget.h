@@ -15,7 +15,7 @@ public:
     bool checkField(SoField* field) override;
     /// A value outside 0 to 1 is ignored.
     void setSingleFieldValue(float value, int row, int column) override;
-    /// `rgb`: three floats, 0 to 1. Recorded, but not undoable; that is meant.
+    /// `rgb`: three floats, 0 to 1. Recorded, but not undoable (decisions.md: color-list-no-undo).
     void setValue(int row, const void* rgb) override;
 
 protected:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFComponentsWidget.h"
 
-#include "EdText.h"
+#include <scopix/editing/SpxText.h>
 
 namespace componentText
 {
@@ -18,7 +18,7 @@ QString toText(int value)
 
 void fromText(const QString& text, float& value)
 {
-    value = toFloatOr0(text);
+    value = SpxText::toFloatOr0(text);
 }
 
 void fromText(const QString& text, int& value)

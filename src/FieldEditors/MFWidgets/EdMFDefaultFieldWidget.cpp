@@ -22,9 +22,6 @@ void EdMFDefaultFieldWidget::load()
 
 void EdMFDefaultFieldWidget::setSingleFieldValue(const SbString& value, int row, int /*column*/)
 {
-    SbString previous;
-    auto command = std::make_unique<SpxMFSetValueCommand>(editedField(), row, previous);
     // Text that the field refuses changes nothing, so there is nothing to undo.
-    if (editedField()->set1(row, value))
-        EdFieldEdits::record(std::move(command));
+    EdFieldEdits::write1(editedField(), row, [&] { return editedField()->set1(row, value); });
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdMFLineWidget.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 
 EdMFLineWidget::EdMFLineWidget(const char* name)
@@ -27,13 +26,13 @@ QString EdMFLineWidget::getFieldValue(int row, int column) const
 {
     if (column >= 1 || !hasRow(row))
         return {};
-    return toQString(getSingleFieldValue(row, column));
+    return SpxText::toQString(getSingleFieldValue(row, column));
 }
 
 void EdMFLineWidget::set1Value(int row, int column, QString text)
 {
     if (hasRow(row))
-        setSingleFieldValue(toSbString(text), row, column);
+        setSingleFieldValue(SpxText::toSbString(text), row, column);
 }
 
 SbString EdMFLineWidget::getSingleFieldValue(int row, int /*column*/) const

@@ -16,8 +16,8 @@ public:
     void load() override;
     bool checkField(SoField* field) override;
     QString getFieldValue(int row, int column) const override;
-    /// Writes straight into the field and leaves nothing to undo, unlike the lists of several columns; that
-    /// is meant.
+    /// Writes straight into the field and leaves nothing to undo, unlike the lists of several columns
+    /// (decisions.md: single-column-no-undo).
     void set1Value(int row, int column, QString text) override;
     void swapRows(int row1, int row2) override;
 

@@ -3,7 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdTablePopupLineEdit.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 namespace
 {
@@ -47,7 +48,7 @@ const QString& EdMFMatrixWidget::wholeText() const
     if (m_textField != field || m_textChange != field->getChangeCount()) {
         SbString text;
         field->get(text);
-        m_text = toQString(text);
+        m_text = SpxText::toQString(text);
         m_textField = field;
         m_textChange = field->getChangeCount();
     }
@@ -68,7 +69,7 @@ QString EdMFMatrixWidget::getCellText(int /*row*/, int /*column*/, int length) c
     for (int i = 0; i < count && text.size() < length; ++i) {
         SbString element;
         matrices()->get1(i, element);
-        text += toQString(element) + (i + 1 < count ? QStringLiteral(", ") : QStringLiteral(" "));
+        text += SpxText::toQString(element) + (i + 1 < count ? QStringLiteral(", ") : QStringLiteral(" "));
     }
     return (text + QLatin1Char(']')).left(length);
 }
@@ -87,7 +88,8 @@ void EdMFMatrixWidget::set1Value(int row, int /*column*/, QString /*text*/)
     float numbers[GridSize * GridSize];
     const float* present = (*matrices())[row].getValue();
     for (const EdTablePopupLineEdit* line : lines()) {
-        numbers[line->index()] = line->isUntouched() ? present[line->index()] : toFloatOr0(line->text());
+        numbers[line->index()] =
+            line->isUntouched() ? present[line->index()] : SpxText::toFloatOr0(line->text());
     }
     EdFieldEdits::write1(matrices(), row, [&] { matrices()->set1Value(row, SbMatrix(numbers)); });
 }

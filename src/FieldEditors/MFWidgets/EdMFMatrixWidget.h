@@ -17,7 +17,8 @@ public:
     bool checkField(SoField* field) override;
     void setField(SoField* field) override;
     int getTextFlags() override { return Qt::AlignLeft; }
-    /// The text of the whole field, whatever the row; that is meant. Made once per change of the field.
+    /// The text of the whole field, whatever the row (decisions.md: matrix-text). Made once per change of the
+    /// field.
     QString getFieldValue(int row, int column) const override;
     /// The start of it, read from as many elements as that takes: a long list is not walked to be drawn.
     QString getCellText(int row, int column, int length) const override;

@@ -13,7 +13,8 @@ struct MFRotationTraits {
     static constexpr const char* Name = "MFRotation";
     static constexpr auto Cell = EdMFieldTable::CELL_FLOAT;
     static QStringList captions() { return {"x", "y", "z", "radians"}; }
-    /// The stored numbers of the rotation, although the last caption speaks of radians; that is meant.
+    /// The stored numbers of the rotation, although the last caption speaks of radians (decisions.md:
+    /// rotation-captions).
     static Component get(const SbRotation& rotation, int column) { return rotation.getValue()[column]; }
     static SbRotation with(SbRotation rotation, int column, Component value)
     {

@@ -2,7 +2,8 @@
 #include "EdMFStringWidget.h"
 
 #include "EdFieldEdits.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 namespace
 {
@@ -42,7 +43,7 @@ QString EdMFStringWidget::getFieldValue(int row, int column) const
 {
     if (column != 0 || !hasRow(row))
         return {};
-    return toQString(getSingleFieldValue(row, column));
+    return SpxText::toQString(getSingleFieldValue(row, column));
 }
 
 QString EdMFStringWidget::getCellText(int row, int column, int length) const
@@ -56,7 +57,7 @@ QString EdMFStringWidget::getCellText(int row, int column, int length) const
 
 void EdMFStringWidget::set1Value(int row, int column, QString text)
 {
-    setSingleFieldValue(toSbString(text), row, column);
+    setSingleFieldValue(SpxText::toSbString(text), row, column);
 }
 
 void EdMFStringWidget::setSingleFieldValue(const SbString& value, int row, int /*column*/)

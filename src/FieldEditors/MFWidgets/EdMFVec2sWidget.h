@@ -9,7 +9,8 @@ struct MFVec2sTraits {
     using Field = SoMFVec2s;
     using Component = short;
     static constexpr const char* Name = "MFVec2s";
-    /// No validator: any text can be typed, and what does not convert gives 0; that is meant.
+    /// No validator: any text can be typed, and what does not convert gives 0 (decisions.md:
+    /// vec2s-free-text).
     static constexpr auto Cell = EdMFieldTable::CELL_NONE;
     static QStringList captions() { return {"x", "y"}; }
     static Component get(const Field::Value& element, int column) { return element[column]; }

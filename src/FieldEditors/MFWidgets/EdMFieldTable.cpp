@@ -125,8 +125,8 @@ void EdMFieldTable::addRow()
         putItem(added, column);
     AccessButtonPrivate* box = m_owner->accessBox();
     box->setSilentRange(1, box->maximum() + 1);
-    EdFieldEdits::record(std::make_unique<SpxMFAddRowsCommand>(field, added, 1));
-    // The new row comes after the current one and does not become current; that is meant.
+    SpxFieldEdit::record(std::make_unique<SpxMFAddRowsCommand>(field, added, 1));
+    // The new row comes after the current one, which stays current (decisions.md: added-row).
     if (added < 1) {
         setCurrentCell(added, 0);
         emit currentCellChanged(added, 0, 0, 0);
@@ -142,7 +142,7 @@ void EdMFieldTable::deleteRow()
         deleteRows(currentRow(), 1);
         return;
     }
-    // Only the first block goes, whatever else is selected.
+    // Only the first block is removed, whatever else is selected.
     const QList<QTableWidgetSelectionRange> ranges = selectedRanges();
     if (!ranges.isEmpty())
         deleteRows(ranges.first().topRow(), ranges.first().rowCount());
@@ -156,7 +156,7 @@ void EdMFieldTable::deleteRows(int first, int count)
     AccessButtonPrivate* box = m_owner->accessBox();
     const int left = box->maximum() - count;
     box->setSilentRange(std::min(box->minimum(), left), left);
-    EdFieldEdits::record(std::make_unique<SpxMFDeleteRowsCommand>(field, first, count));
+    SpxFieldEdit::record(std::make_unique<SpxMFDeleteRowsCommand>(field, first, count));
     if (rowCount() == count)
         box->setSilentRange(0, left);
     model()->removeRows(first, count);
@@ -164,7 +164,7 @@ void EdMFieldTable::deleteRows(int first, int count)
 
 void EdMFieldTable::swapUpRow()
 {
-    // The row of the access box, not the table's current one; that is meant.
+    // The row of the access box, not the table's current one (decisions.md: moved-row).
     const int row = m_owner->accessBox()->value() - 1;
     std::fprintf(stderr, "EdMFieldTable::swapUpRow() %d\n", row);
     if (row < 1 || row >= rowCount())
@@ -191,12 +191,12 @@ void EdMFieldTable::swapRows(int row1, int row2)
     const int rows = rowsOfField();
     if (row1 < 0 || row2 < 0 || row1 >= rows || row2 >= rows)
         return;
-    EdFieldEdits::record(std::make_unique<SpxMFSwapRowsCommand>(field, row1, row2));
+    SpxFieldEdit::record(std::make_unique<SpxMFSwapRowsCommand>(field, row1, row2));
 }
 
 void EdMFieldTable::showTableRow(int row)
 {
-    // The access box counts from 1 and passes its number unchanged; that is meant.
+    // The access box counts from 1 and passes its number unchanged (decisions.md: access-box-number).
     if (row < 0 || row >= rowCount())
         return;
     setCurrentCell(row, 0);

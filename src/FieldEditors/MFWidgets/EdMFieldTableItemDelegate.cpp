@@ -6,10 +6,11 @@
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
 #include "EdRealSlider.h"
-#include "EdText.h"
 #include "EdUIntSlider.h"
 #include "EdValidators.h"
 #include "QULongValidator.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QLineEdit>
 #include <QPainter>
@@ -24,7 +25,7 @@ constexpr int AnyReal = 4; // the grid validator of all doubles
 constexpr int ShortestMeasured = 64;
 
 // No cell shows more characters than it has pixels: measuring a text of megabytes for each repaint would cost
-// what nobody sees.
+// what cannot be seen.
 int longestShown(int width)
 {
     return std::max(width, ShortestMeasured);
@@ -52,7 +53,7 @@ QString nameOf(const QModelIndex& index)
 
 bool hasSlider(int cellType)
 {
-    // Not for doubles, though they are numbers too; that is meant.
+    // Not for doubles, though they are numbers too (decisions.md: no-double-slider).
     return cellType == EdMFieldTable::CELL_SHORT || cellType == EdMFieldTable::CELL_USHORT ||
            cellType == EdMFieldTable::CELL_INT32 || cellType == EdMFieldTable::CELL_UINT32 ||
            cellType == EdMFieldTable::CELL_FLOAT;
@@ -129,10 +130,10 @@ EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, cons
 {
     if (m_cellType == EdMFieldTable::CELL_FLOAT) {
         // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
-        // applied from it reaches element 0; that is meant.
+        // applied from it reaches element 0 (decisions.md: slider-first-element).
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);
-        slider->setRealValue(double(toFloatOr0(text)));
+        slider->setRealValue(double(SpxText::toFloatOr0(text)));
         return slider;
     }
     const bool isShort = m_cellType == EdMFieldTable::CELL_SHORT || m_cellType == EdMFieldTable::CELL_USHORT;
@@ -156,7 +157,7 @@ void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
     if (auto* edit = qobject_cast<QLineEdit*>(editor))
         edit->setText(text);
     else if (auto* real = qobject_cast<EdRealSlider*>(editor))
-        real->setRealValue(double(toFloatOr0(text)));
+        real->setRealValue(double(SpxText::toFloatOr0(text)));
     else if (auto* slider = qobject_cast<EdSlider*>(editor))
         slider->setValue(text);
 }
@@ -164,7 +165,7 @@ void EdMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
 void EdMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                              const QModelIndex& index) const
 {
-    // The view keeps books on the editor being committed; only a widget that somebody else put there goes.
+    // The view itself manages the editor being committed; only a widget of another origin is removed.
     auto* table = static_cast<EdMFieldTable*>(parent());
     if (table->cellWidget(index.row(), index.column()) != editor)
         table->removeCellWidget(index.row(), index.column());
@@ -198,7 +199,7 @@ void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
 {
     switch (m_cellType) {
     case EdMFieldTable::CELL_SHORT:
-        // -32767 and not -32768; that is meant.
+        // -32767 and not -32768 (decisions.md: short-bottom).
         edit->setValidator(new EdIntValidator(-32767, 32767, edit));
         break;
     case EdMFieldTable::CELL_USHORT:
@@ -211,7 +212,7 @@ void EdMFieldTableItemDelegate::setValidator(QLineEdit* edit) const
         edit->setValidator(new QUIntValidator(edit));
         break;
     case EdMFieldTable::CELL_INT32:
-        // Bottom above top, so nothing is ever acceptable; that is meant.
+        // Bottom above top, so nothing is ever acceptable (decisions.md: int32-cells).
         edit->setValidator(new EdIntValidator(1, -1, edit));
         break;
     case EdMFieldTable::CELL_UINT32:

@@ -3,6 +3,7 @@
 
 #include "AccessButtonPrivate.h"
 #include "EdFieldEdits.h"
+#include "EdFieldFrame.h"
 #include "EdMFColorTable.h"
 #include "EdMFieldTable.h"
 #include "EditorIcons.h"
@@ -23,11 +24,6 @@ namespace
 int setting(const char* key)
 {
     return xsgsettings_fieldEditor(QString::fromLatin1(key));
-}
-
-void setMargin(QLayout* layout, int margin)
-{
-    layout->setContentsMargins(margin, margin, margin, margin);
 }
 
 } // namespace
@@ -54,7 +50,7 @@ EdMFieldWidget::EdMFieldWidget(int tableKind, const char* name)
 
 EdMFieldWidget::~EdMFieldWidget()
 {
-    // An open cell may still hand its value over while it goes; it must find an editor.
+    // An open cell may still hand its value over while it is destroyed; it must find an editor.
     if (getWidgetContainer())
         delete m_table;
 }
@@ -63,22 +59,17 @@ void EdMFieldWidget::load()
 {
     SpxFieldEditors::load();
     QFrame* container = getWidgetContainer();
-    container->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
-    container->setLineWidth(setting("frameLineWidth"));
+    const EdFieldFrame frame(container);
+    frame.discard({m_label, m_table}); // of an earlier load()
+    EdFieldFrame::setBox(container, "frameLineWidth");
     m_globalLayout = new QGridLayout(container);
-    setMargin(m_globalLayout, setting("MFGlobalLayoutMarging")); // spelt so in the settings that people have
-    m_globalLayout->setSpacing(setting("MFGlobalLayoutSpacing"));
-    m_globalLayout->setObjectName(QStringLiteral("m_globalLayout"));
+    // "Marging" is the key's spelling (decisions.md: metric-names).
+    EdFieldFrame::setMetrics(m_globalLayout, "m_globalLayout", "MFGlobalLayoutMarging",
+                             "MFGlobalLayoutSpacing");
 
     if (!m_label)
-        m_label = new QLabel(container);
-    m_label->setObjectName(QStringLiteral("m_label"));
-    QFont font = m_label->font();
-    font.setPointSize(setting("labelPointSize"));
-    m_label->setFont(font);
-    m_label->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
-    m_label->setLineWidth(setting("labelLineWidth"));
-    m_label->setScaledContents(true);
+        m_label = frame.newLabel("m_label");
+    EdFieldFrame::styleCaption(m_label);
     m_globalLayout->addWidget(m_label, 0, 0);
     m_globalLayout->addItem(new QSpacerItem(0, 4), 1, 0);
     m_globalLayout->addItem(new QSpacerItem(6, 0), 0, 1);
@@ -92,37 +83,18 @@ void EdMFieldWidget::load()
     languageChange();
 }
 
-QPushButton* EdMFieldWidget::newButton(const char* objectName, const QPixmap& icon, int width, int height)
-{
-    auto* button = new QPushButton(getWidgetContainer());
-    button->setObjectName(QString::fromLatin1(objectName));
-    button->setMaximumSize(width, height);
-    button->setIcon(icon);
-    button->setFocusPolicy(Qt::NoFocus); // the keyboard stays in the table
-    return button;
-}
-
-QHBoxLayout* EdMFieldWidget::newButtonLayout(const char* objectName)
-{
-    auto* layout = new QHBoxLayout;
-    setMargin(layout, setting("MFButtonLayoutMargin"));
-    layout->setSpacing(setting("MFButtonLayoutSpacing"));
-    layout->setObjectName(QString::fromLatin1(objectName));
-    return layout;
-}
-
 void EdMFieldWidget::buildButtons()
 {
-    const int width = setting("buttonWidth");
-    const int height = setting("buttonHeight");
-    m_buttonsLayout = new QHBoxLayout;
-    m_buttonsLayout->setObjectName(QStringLiteral("m_buttonsLayout"));
-    setMargin(m_buttonsLayout, setting("MFGlobalButtonsLayoutMargin"));
-    m_buttonsLayout->setSpacing(setting("MFGlobalButtonsLayoutSpacing"));
+    const EdFieldFrame frame(getWidgetContainer());
+    const auto newGroup = [](const char* objectName) {
+        return EdFieldFrame::newRow(objectName, "MFButtonLayoutMargin", "MFButtonLayoutSpacing");
+    };
+    m_buttonsLayout = EdFieldFrame::newRow("m_buttonsLayout", "MFGlobalButtonsLayoutMargin",
+                                           "MFGlobalButtonsLayoutSpacing");
 
-    m_addButton = newButton("m_addButton", m_addIcon, width, height);
-    m_deleteButton = newButton("m_deleteButton", m_deleteIcon, width, height);
-    m_manageButtonsLayout = newButtonLayout("m_manageButtonsLayout");
+    m_addButton = frame.newButton("m_addButton", m_addIcon);
+    m_deleteButton = frame.newButton("m_deleteButton", m_deleteIcon);
+    m_manageButtonsLayout = newGroup("m_manageButtonsLayout");
     m_manageButtonsLayout->addWidget(m_addButton);
     m_manageButtonsLayout->addWidget(m_deleteButton);
     m_buttonsLayout->addLayout(m_manageButtonsLayout);
@@ -131,28 +103,26 @@ void EdMFieldWidget::buildButtons()
                                            setting("MFManageAccessSpacerHeight"), QSizePolicy::Expanding);
     m_buttonsLayout->addItem(m_manageAccessSpacer);
     m_accessBox = new AccessButtonPrivate(0, 0, 1, getWidgetContainer(), "m_accessBox");
-    m_accessBox->setMaximumSize(setting("MFAccessWidth"), height);
+    m_accessBox->setMaximumSize(setting("MFAccessWidth"), setting("buttonHeight"));
     m_buttonsLayout->addWidget(m_accessBox);
     m_accessMoveSpacer = new QSpacerItem(setting("MFAccessMoveSpacerWidth"),
                                          setting("MFAccessMoveSpacerHeight"), QSizePolicy::Expanding);
     m_buttonsLayout->addItem(m_accessMoveSpacer);
     m_buttonsLayout->addItem(new QSpacerItem(0, 4));
-    m_labelNumElement = new QLabel(getWidgetContainer());
-    m_labelNumElement->setObjectName(QStringLiteral("m_labelNumElement"));
+    m_labelNumElement = frame.newLabel("m_labelNumElement");
     updateNumElementLabel();
     m_buttonsLayout->addWidget(m_labelNumElement);
 
-    m_upButton = newButton("m_upButton", m_upIcon, width, height);
-    m_downButton = newButton("m_downButton", m_downIcon, width, height);
-    QHBoxLayout* movement = newButtonLayout("movementButtonLayout");
+    m_upButton = frame.newButton("m_upButton", m_upIcon);
+    m_downButton = frame.newButton("m_downButton", m_downIcon);
+    QHBoxLayout* movement = newGroup("movementButtonLayout");
     movement->addWidget(m_upButton);
     movement->addWidget(m_downButton);
     m_buttonsLayout->addLayout(movement);
 
-    m_defaultButton = newButton("m_defaultButton", m_defaultIcon, width, height);
-    m_ignoreButton = newButton("m_ignoreButton", m_ignoreIcon, width, height);
-    m_ignoreButton->setCheckable(true);
-    QHBoxLayout* state = newButtonLayout("movementButtonLayout");
+    m_defaultButton = frame.newDefaultButton(m_defaultIcon);
+    m_ignoreButton = frame.newIgnoreButton(m_ignoreIcon);
+    QHBoxLayout* state = newGroup("movementButtonLayout");
     state->addWidget(m_defaultButton);
     state->addWidget(m_ignoreButton);
     m_buttonsLayout->addLayout(state);
@@ -171,29 +141,19 @@ void EdMFieldWidget::connectButtons()
 
 void EdMFieldWidget::languageChange()
 {
-    const auto name = [](QWidget* widget, const QString& toolTip) {
-        widget->setToolTip(toolTip);
-        widget->setAccessibleName(toolTip);
-    };
-    for (QPushButton* button :
-         {m_deleteButton, m_upButton, m_downButton, m_defaultButton, m_ignoreButton, m_addButton})
+    for (QPushButton* button : {m_deleteButton, m_upButton, m_downButton, m_addButton})
         button->setText(QString());
-    name(m_deleteButton, tr("Delete current row"));
-    name(m_accessBox, tr("Quick access to rows"));
-    name(m_upButton, tr("Bring up current row"));
-    name(m_downButton, tr("Bring down current row"));
-    name(m_defaultButton, tr("Set to default"));
-    name(m_ignoreButton, tr("Ignore this field"));
-    name(m_addButton, tr("Add a row"));
+    EdFieldFrame::nameStateButtons(m_defaultButton, m_ignoreButton);
+    EdFieldFrame::name(m_deleteButton, tr("Delete current row"));
+    EdFieldFrame::name(m_accessBox, tr("Quick access to rows"));
+    EdFieldFrame::name(m_upButton, tr("Bring up current row"));
+    EdFieldFrame::name(m_downButton, tr("Bring down current row"));
+    EdFieldFrame::name(m_addButton, tr("Add a row"));
 }
 
 void EdMFieldWidget::setFieldName(const QString& name)
 {
-    if (!m_label)
-        m_label = new QLabel(getWidgetContainer());
-    // A caption that is shown stays, whatever name comes later; that is meant.
-    if (m_label->text().isEmpty())
-        m_label->setText(tr("<p align=\"center\">") + name + tr("</p>"));
+    m_label = EdFieldFrame(getWidgetContainer()).captioned(m_label, name);
 }
 
 void EdMFieldWidget::updateNumElementLabel()
@@ -201,7 +161,7 @@ void EdMFieldWidget::updateNumElementLabel()
     const SoMField* field = editedField();
     if (field && m_labelNumElement)
         m_labelNumElement->setText(tr("<p align=\"center\">") + QString::number(field->getNum()) +
-                                   QStringLiteral(" elements") + tr("</p>"));
+                                   tr(" elements") + tr("</p>"));
 }
 
 void EdMFieldWidget::initColumns(const QStringList& captions, int columns)
@@ -222,7 +182,7 @@ bool EdMFieldWidget::hasRow(int row) const
 void EdMFieldWidget::setField(SoField* field)
 {
     if (checkField(field))
-        m_field.attach(field);
+        m_field = field;
     SpxFieldEditors::setField(field);
 }
 
@@ -244,7 +204,7 @@ void EdMFieldWidget::applyChanges()
 
 SoMField* EdMFieldWidget::editedField() const
 {
-    return getField() ? static_cast<SoMField*>(m_field.getAttachedField()) : nullptr;
+    return getField() ? static_cast<SoMField*>(m_field.get()) : nullptr;
 }
 
 void EdMFieldWidget::refresh()

@@ -3,6 +3,8 @@
 
 #include "SpxFieldEditors.h"
 
+#include <scopix/editing/SpxFieldPointer.h>
+
 #include <QPixmap>
 
 class AccessButtonPrivate;
@@ -47,7 +49,7 @@ public:
     void setFieldName(const QString& name);
     void updateNumElementLabel();
 
-    /// Null once the field was let go or is gone.
+    /// Null once the field was released or destroyed.
     SoMField* editedField() const;
     AccessButtonPrivate* accessBox() const { return m_accessBox; }
     EdMFieldTable* table() const { return m_table; }
@@ -78,12 +80,10 @@ protected:
     }
     QHBoxLayout* buttonsLayout() const { return m_buttonsLayout; }
     QSpacerItem* accessMoveSpacer() const { return m_accessMoveSpacer; }
-    /// Column captions (one column without a caption when empty), no rows, columns that a person can resize.
+    /// Column captions (one column without a caption when empty), no rows, columns that the user can resize.
     void initColumns(const QStringList& captions, int columns);
 
 private:
-    QPushButton* newButton(const char* objectName, const QPixmap& icon, int width, int height);
-    QHBoxLayout* newButtonLayout(const char* objectName);
     void buildButtons();
     void connectButtons();
 
@@ -109,5 +109,5 @@ private:
     QPixmap m_defaultIcon;
     QPixmap m_ignoreIcon;
     bool m_refresh = true;
-    SoFieldSensor m_field; // holds the accepted field without keeping it from going
+    SpxFieldPointer m_field; // the accepted field
 };

@@ -14,7 +14,7 @@ public:
     EdTablePopupLineEdit(int index, EdTablePopupWidget* owner, QWidget* parent, const char* name);
 
     int index() const { return m_index; }
-    /// Shows a text that stands for the element's own number until the person changes it.
+    /// Shows a text that stands for the element's own number until the user changes it.
     void showText(const QString& text);
     bool isUntouched() const { return text() == m_shown; }
 

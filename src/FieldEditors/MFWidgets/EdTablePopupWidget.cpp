@@ -2,12 +2,14 @@
 #include "EdTablePopupWidget.h"
 
 #include "AccessButtonPrivate.h"
+#include "EdFieldFrame.h"
 #include "EdGridValidator.h"
 #include "EdMFieldTable.h"
 #include "EdTablePopupLineEdit.h"
-#include "EdText.h"
 #include "EditorIcons.h"
 #include "FieldEditorSettings.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QBoxLayout>
 #include <QGuiApplication>
@@ -35,15 +37,11 @@ EdTablePopupWidget::EdTablePopupWidget(int rows, int columns, const char* name)
 void EdTablePopupWidget::load()
 {
     EdMFieldWidget::load();
-    const int width = xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
-    m_editButton = new QPushButton(getWidgetContainer());
-    m_editButton->setObjectName(QStringLiteral("m_editButton"));
-    m_editButton->setMaximumSize(width, xsgsettings_fieldEditor(QStringLiteral("buttonHeight")));
-    m_editButton->setIcon(fieldEditor::icon(fieldEditor::Icon::Edit));
-    m_editButton->setToolTip(tr("Edit the element in a grid"));
-    m_editButton->setAccessibleName(m_editButton->toolTip());
-    m_editButton->setFocusPolicy(Qt::NoFocus);
+    m_editButton = EdFieldFrame(getWidgetContainer())
+                       .newButton("m_editButton", fieldEditor::icon(fieldEditor::Icon::Edit));
+    EdFieldFrame::name(m_editButton, tr("Edit the element in a grid"));
     buttonsLayout()->insertWidget(EditButtonPosition, m_editButton);
+    const int width = xsgsettings_fieldEditor(QStringLiteral("buttonWidth"));
     accessMoveSpacer()->changeSize(xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerWidth")) - width,
                                    xsgsettings_fieldEditor(QStringLiteral("MFAccessMoveSpacerHeight")),
                                    QSizePolicy::Expanding);
@@ -69,7 +67,7 @@ void EdTablePopupWidget::buildPopup()
     m_popupFrameLayout->setContentsMargins(margin, margin, margin, margin);
     m_popupFrameLayout->setSpacing(xsgsettings_fieldEditor(QStringLiteral("PopupLayoutSpacing")));
     m_lines.resize(m_rows * m_columns);
-    // Numbered down the columns, so that the grid shows the element transposed; that is meant.
+    // Numbered down the columns, so that the grid shows the element transposed (decisions.md: popup-columns).
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
             const int index = m_columns * column + row;
@@ -149,7 +147,7 @@ void EdTablePopupWidget::refresh()
     // A change from elsewhere is shown; what already shows the value, or was just typed, stays as it is.
     for (EdTablePopupLineEdit* line : qAsConst(m_lines)) {
         const QString text = getPopupValue(rowToEdit(), line->index());
-        if (toFloatOr0(line->text()) == toFloatOr0(text))
+        if (SpxText::toFloatOr0(line->text()) == SpxText::toFloatOr0(text))
             continue;
         const QSignalBlocker quiet(line);
         line->showText(text);

@@ -21,8 +21,8 @@ public:
     virtual QString getPopupValue(int row, int index);
 
     void setValidator(int kind);
-    /// Row -1 is the row to edit. Every change of a text writes the element and records a command; that is
-    /// meant.
+    /// Row -1 is the row to edit. Every change of a text writes the element and records a command
+    /// (decisions.md: popup-every-change).
     void updatePopupLines(int row);
     void managePopFramePos();
     void revertCursorPosition();

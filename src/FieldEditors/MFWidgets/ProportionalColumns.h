@@ -22,7 +22,7 @@ public:
     void fit();
 
 private:
-    /// After a person made this column wider or narrower.
+    /// After the user made this column wider or narrower.
     void moveBorder(int column, int before, int now);
 
     QTableView* m_table;

@@ -2,7 +2,8 @@
 #include "EdIntSlider.h"
 
 #include "EdLineEdit.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <limits>
 
@@ -43,12 +44,12 @@ void EdIntSlider::setValueFromEdit()
     int value = toInteger(getValueFromEdit(), radix(), ok);
     if (ok && radix() != 10)
         value = std::max(m_validator->bottom(), std::min(value, m_validator->top()));
-    take(value); // a text that is no number counts as 0; that is meant
+    take(value); // a text that is no number counts as 0 (decisions.md: no-number-is-0)
 }
 
 void EdIntSlider::saveDataFromField()
 {
-    savedText() = toSbString(numberText());
+    savedText() = SpxText::toSbString(numberText());
 }
 
 // Only decimal digits can be checked while they are typed.

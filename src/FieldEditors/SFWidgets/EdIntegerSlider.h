@@ -26,7 +26,7 @@ protected:
     QString numberText() const { return QString::number(this->getNumber(), this->radix()); }
 
 private:
-    /// Only a text of exactly two characters is read as octal; that is meant.
+    /// Only a text of exactly two characters is read as octal (decisions.md: two-character-octal).
     void chooseRadix(const QString& text)
     {
         if (text.size() > 2 && text.startsWith(QLatin1String("0x")))

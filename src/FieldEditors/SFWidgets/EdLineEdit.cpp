@@ -55,7 +55,7 @@ void EdLineEdit::takeTypingBack()
 
 void EdLineEdit::focusOutEvent(QFocusEvent* event)
 {
-    if (isKeptByPerson(event) && !isModified()) {
+    if (isKeptByUser(event) && !isModified()) {
         const QSignalBlocker quiet(this);
         QLineEdit::focusOutEvent(event);
         return;
@@ -64,12 +64,12 @@ void EdLineEdit::focusOutEvent(QFocusEvent* event)
     const auto watch = connect(this, &QLineEdit::editingFinished, this, [&finished] { finished = true; });
     QLineEdit::focusOutEvent(event);
     disconnect(watch);
-    if (m_finishingAlways && !finished && !isKeptByPerson(event) && hasAcceptableInput())
+    if (m_finishingAlways && !finished && !isKeptByUser(event) && hasAcceptableInput())
         emit editingFinished();
 }
 
 // Another window or a popup takes the focus for a while; it will come back.
-bool EdLineEdit::isKeptByPerson(const QFocusEvent* event) const
+bool EdLineEdit::isKeptByUser(const QFocusEvent* event) const
 {
     return event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
 }

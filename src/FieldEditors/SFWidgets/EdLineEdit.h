@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 /// The line edit of the field editors. It remembers the text that the field last gave it, so that a refresh
-/// leaves alone what the person is typing, and Escape takes the typing back. Showing emits no signal.
+/// leaves alone what the user is typing, and Escape takes the typing back. Showing emits no signal.
 class EdLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     /// The field gives `text`. Nothing moves where it stands already, nor while typing waits to be applied
     /// and the field still gives what it gave before.
     void showText(const QString& text);
-    /// Puts `text` here whatever stands here now; Escape still goes back to what showText() was given.
+    /// Puts `text` here whatever stands here now; Escape still returns to what showText() was given.
     void putText(const QString& text);
     /// What showText() was last given; null before.
     const QString& shownText() const { return m_shownText; }
@@ -37,7 +37,7 @@ protected:
 
 private:
     void takeTypingBack();
-    bool isKeptByPerson(const QFocusEvent* event) const;
+    bool isKeptByUser(const QFocusEvent* event) const;
 
     QString m_shownText;
     bool m_finishingAlways = false;

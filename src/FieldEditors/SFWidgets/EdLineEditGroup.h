@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The line edits of an editor of several numbers. An input whose text is still as last shown stands for the
-/// number that the field has; only what the person changed is converted.
+/// number that the field has; only what the user changed is converted.
 class EdLineEditGroup
 {
 public:
@@ -20,7 +20,7 @@ public:
     EdLineEdit* at(int index) const { return m_inputs.at(index); }
 
     void show(const QStringList& texts) const;
-    /// True when the person typed in one of them.
+    /// True when the user typed in one of them.
     bool isEdited() const;
     /// True when there is something to apply.
     bool isChanged() const;

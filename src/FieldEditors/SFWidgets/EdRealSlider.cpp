@@ -2,7 +2,8 @@
 #include "EdRealSlider.h"
 
 #include "EdLineEdit.h"
-#include "EdText.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <cmath>
 #include <limits>
@@ -98,7 +99,7 @@ void EdRealSlider::setValueFromEdit()
 
 void EdRealSlider::saveDataFromField()
 {
-    savedText() = toSbString(numberText(getNumber()));
+    savedText() = SpxText::toSbString(numberText(getNumber()));
 }
 
 QString EdRealSlider::numberText(double value) const

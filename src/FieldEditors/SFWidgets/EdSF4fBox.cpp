@@ -4,7 +4,7 @@
 namespace
 {
 
-// The names of the labels and inputs are meant as they are.
+// Irregular names, which style sheets and scripts use (decisions.md: layout-names).
 constexpr EdColumnLook Look{"SF4FvLayout",     "SF4fBoxVSpacing", "SF4flabel", "SF4fine",
                             "SF4fBoxHSpacing", "SF4fBoxHMargin",  false};
 

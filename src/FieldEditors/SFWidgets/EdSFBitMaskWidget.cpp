@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdSFBitMaskWidget.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFBitMask.h>
 
 #include <QCheckBox>
@@ -66,7 +65,7 @@ void EdSFBitMaskWidget::initClass()
     m_boxLayout = new QVBoxLayout;
     for (int i = 0; i < count; ++i) {
         if (values[i] != 0)
-            addBox(toQString(names[i]));
+            addBox(SpxText::toQString(names[i]));
     }
     editLayout()->addLayout(m_boxLayout);
     checkBoxes(*field);
@@ -81,7 +80,7 @@ void EdSFBitMaskWidget::addBox(const QString& name)
     m_boxes.push_back(box);
 }
 
-// A name of several bits is checked already when one of them is set; that is meant.
+// A name of several bits is checked already when one of them is set (decisions.md: bit-mask-partial).
 void EdSFBitMaskWidget::checkBoxes(const SoSFBitMask& field)
 {
     for (QCheckBox* box : m_boxes)
@@ -100,7 +99,7 @@ void EdSFBitMaskWidget::refresh()
 
 void EdSFBitMaskWidget::applyChanges() {}
 
-// Bits that no box stands for are lost; that is meant.
+// Bits that no box stands for are lost (decisions.md: bit-mask-unnamed-bits).
 void EdSFBitMaskWidget::setBitMaskValue()
 {
     auto* field = getFieldAs<SoSFBitMask>();
@@ -111,6 +110,6 @@ void EdSFBitMaskWidget::setBitMaskValue()
         if (box->isChecked())
             value |= valueOf(*field, box->text());
     }
-    m_shown = value; // the boxes stay as the person left them
+    m_shown = value; // the boxes stay as the user left them
     field->SoSFEnum::setValue(value);
 }

@@ -11,7 +11,7 @@ class QVBoxLayout;
 class SoSFBitMask;
 
 /// Edits a set of named bits with one check box for each. Its clicks are not recorded for undo, unlike those
-/// of every other editor; that is meant.
+/// of every other editor (decisions.md: bit-mask-no-undo).
 class EdSFBitMaskWidget : public EdSFieldWidget
 {
     Q_OBJECT

@@ -4,9 +4,9 @@
 #include "EdColor.h"
 #include "EdFieldEdits.h"
 #include "EdFontFitting.h"
-#include "EdText.h"
 #include "FieldEditorSettings.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFColor.h>
 
 #include <QColorDialog>
@@ -100,7 +100,7 @@ void EdSFColorWidget::changeBValue(const QString& text)
 void EdSFColorWidget::change(std::size_t component, const QString& text)
 {
     const bool asShown = text == m_edits[component]->shownText();
-    m_components[component] = asShown ? m_shown[component] : toFloatOr0(text);
+    m_components[component] = asShown ? m_shown[component] : SpxText::toFloatOr0(text);
     displayColor();
 }
 

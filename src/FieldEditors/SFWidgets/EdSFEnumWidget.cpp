@@ -2,9 +2,9 @@
 #include "EdSFEnumWidget.h"
 
 #include "EdFieldEdits.h"
-#include "EdText.h"
 #include "EdWheelFocusFilter.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFEnum.h>
 
 #include <QBoxLayout>
@@ -37,7 +37,7 @@ void EdSFEnumWidget::setField(SoField* field)
         const SbName* names = nullptr;
         enumeration->getEnums(count, values, names);
         for (int i = 0; i < count; ++i)
-            m_comboBox->addItem(toQString(names[i]), values[i]);
+            m_comboBox->addItem(SpxText::toQString(names[i]), values[i]);
     }
     EdSFieldWidget::setField(field);
 }
@@ -49,7 +49,7 @@ void EdSFEnumWidget::refresh()
         return;
     SbString text;
     field->get(text);
-    m_comboBox->setCurrentIndex(m_comboBox->findText(toQString(SbName(text))));
+    m_comboBox->setCurrentIndex(m_comboBox->findText(SpxText::toQString(SbName(text))));
     EdSFieldWidget::refresh();
 }
 

@@ -3,8 +3,9 @@
 
 #include "EdFieldEdits.h"
 #include "EdFontFitting.h"
-#include "EdText.h"
 #include "EdValidators.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QFrame>
 
@@ -43,7 +44,7 @@ void EdSFFloatsWidget::applyChanges()
     Floats numbers = read();
     if (numbers.empty() || !m_inputs.isChanged())
         return;
-    m_inputs.read(numbers, toFloatOr0);
+    m_inputs.read(numbers, SpxText::toFloatOr0);
     EdFieldEdits::write(getSField(), [&] { write(numbers); });
 }
 

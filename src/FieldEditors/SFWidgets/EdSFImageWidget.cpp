@@ -32,7 +32,7 @@ struct Picture {
     const unsigned char* bytes = nullptr;
 };
 
-// Beyond this nobody looks at a thumbnail for what its copies would take.
+// A thumbnail of more than this is not worth the memory that its copies take.
 constexpr qint64 MostPixels = 1 << 25;
 
 bool isShowable(const Picture& picture)
@@ -49,7 +49,8 @@ QVector<QRgb> greys()
     return table;
 }
 
-// Rows stay in the field's order here: such pictures stand upside down against coloured ones, which is meant.
+// Rows stay in the field's order here: such pictures stand upside down against coloured ones (decisions.md:
+// image-row-order).
 QPixmap toPixmap(const Picture& picture, QImage::Format format)
 {
     const int rowBytes = picture.width * picture.components;
@@ -129,7 +130,7 @@ void EdSFImageWidget::getPixmapFromField(SoField* field, QPixmap& pixmap)
         break;
     case 2:
         pixmap = toPixmap(picture, QImage::Format_RGB16);
-        break; // not luminance and alpha; that is meant
+        break; // not luminance and alpha (decisions.md: image-two-components)
     case 3:
     case 4:
         pixmap = toColoredPixmap(picture);

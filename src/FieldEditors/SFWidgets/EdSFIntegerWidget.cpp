@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdRangeSettings.h"
-#include "EdText.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoSField.h>
 
 template <class Slider>
@@ -32,7 +32,7 @@ void EdSFIntegerWidget<Slider>::refresh()
         return;
     SbString text;
     field->get(text);
-    m_slider->setValue(toQString(text));
+    m_slider->setValue(SpxText::toQString(text));
     EdSFieldWidget::refresh();
 }
 
@@ -43,7 +43,7 @@ void EdSFIntegerWidget<Slider>::applyChanges()
     if (!field || !m_slider->takeTyping())
         return;
     // Decimal, whatever the slider shows.
-    const SbString text = toSbString(QString::number(m_slider->getNumber()));
+    const SbString text = SpxText::toSbString(QString::number(m_slider->getNumber()));
     EdFieldEdits::write(field, m_slider->savedText(), [&] { field->set(text); });
 }
 

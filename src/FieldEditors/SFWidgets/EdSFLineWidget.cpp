@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdLineEdit.h"
-#include "EdText.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoSField.h>
 
 #include <QBoxLayout>
@@ -26,7 +26,7 @@ void EdSFLineWidget::load()
     using Line = EdSFLineWidget;
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &Line::setFocusLeaveEvent);
     connect(m_lineEdit, &QLineEdit::returnPressed, this, qOverload<>(&Line::applyChanges));
-    // Both: each keystroke is applied twice, which is meant.
+    // Both: each keystroke is applied twice (decisions.md: line-applied-twice).
     connect(m_lineEdit, &QLineEdit::textChanged, this, qOverload<const QString&>(&Line::applyChanges));
     connect(m_lineEdit, &QLineEdit::textEdited, this, qOverload<const QString&>(&Line::applyChanges));
     connect(m_lineEdit, &QLineEdit::cursorPositionChanged, this, &Line::setCursorPosition);
@@ -51,14 +51,13 @@ void EdSFLineWidget::applyChanges(const QString& /*text*/)
     if (!field)
         return;
     m_cursorPosition = m_lineEdit->cursorPosition();
-    SbString nothingSaved;
-    auto command = std::make_unique<SpxSFSetValueCommand>(field, nothingSaved);
-    const bool taken = field->set(toSbString(m_lineEdit->text()));
-    field->get(m_writtenText);
-    m_lineEdit->setCursorPosition(m_cursorPosition);
-    m_lineEdit->setModified(!taken);
-    if (taken)
-        EdFieldEdits::record(std::move(command));
+    EdFieldEdits::write(field, [&] {
+        const bool isTaken = field->set(SpxText::toSbString(m_lineEdit->text()));
+        field->get(m_writtenText);
+        m_lineEdit->setCursorPosition(m_cursorPosition);
+        m_lineEdit->setModified(!isTaken);
+        return isTaken;
+    });
 }
 
 void EdSFLineWidget::refresh()
@@ -84,7 +83,7 @@ void EdSFLineWidget::showFieldText()
     m_writtenText.makeNull();
     const int cursor = m_cursorPosition;
     m_lineEdit->setModified(false);
-    m_lineEdit->showText(toQString(text));
+    m_lineEdit->showText(SpxText::toQString(text));
     if (m_lineEdit->cursorPosition() != cursor)
         m_lineEdit->setCursorPosition(cursor);
 }

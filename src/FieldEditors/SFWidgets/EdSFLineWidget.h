@@ -8,7 +8,7 @@
 class EdLineEdit;
 
 /// Edits any single-value field as its text. Each keystroke is applied; a text that the field refuses stays
-/// for the person to mend.
+/// for the user to correct.
 class EdSFLineWidget : public EdSFieldWidget
 {
     Q_OBJECT

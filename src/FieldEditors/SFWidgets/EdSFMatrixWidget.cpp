@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdSFMatrixWidget.h"
 
-#include "EdText.h"
-
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFMatrix.h>
 
 namespace
@@ -49,6 +48,6 @@ void EdSFMatrixWidget::writeCells(const EdLineEditGroup& cells)
 {
     auto* field = getFieldAs<SoSFMatrix>();
     std::vector<float> numbers = transposed(field->getValue().getValue());
-    cells.read(numbers, toFloatOr0);
+    cells.read(numbers, SpxText::toFloatOr0);
     field->setValue(SbMatrix(transposed(numbers.data()).data()));
 }

@@ -3,8 +3,8 @@
 
 #include "EdFieldEdits.h"
 #include "EdLineEdit.h"
-#include "EdText.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFFilePathString.h>
 #include <xsg/fields/SoSFName.h>
 #include <xsg/fields/SoSFString.h>
@@ -17,7 +17,7 @@ namespace
 
 void setText(SoSFString& field, const QString& text)
 {
-    field.setValue(toSbString(text));
+    field.setValue(SpxText::toSbString(text));
 }
 
 // A name is Latin-1; other characters become question marks.
@@ -53,11 +53,11 @@ void EdSFTextWidget<Field>::refresh()
     if (!field)
         return;
     if (const auto* own = getFieldAs<Field>()) {
-        m_lineEdit->showText(toQString(own->getValue()));
+        m_lineEdit->showText(SpxText::toQString(own->getValue()));
     } else {
         SbString text;
         field->get(text);
-        m_lineEdit->showText(toQString(text));
+        m_lineEdit->showText(SpxText::toQString(text));
     }
     EdSFieldWidget::refresh();
 }
@@ -73,7 +73,7 @@ void EdSFTextWidget<Field>::applyChanges()
         if (auto* own = getFieldAs<Field>())
             write(*own);
         else
-            field->set(toSbString(m_lineEdit->text()));
+            field->set(SpxText::toSbString(m_lineEdit->text()));
     });
 }
 

@@ -2,12 +2,12 @@
 #include "EdSFieldWidget.h"
 
 #include "EdFieldEdits.h"
+#include "EdFieldFrame.h"
 #include "EdIntSlider.h"
 #include "EdLineEdit.h"
 #include "EdRealSlider.h"
 #include "EdUIntSlider.h"
 #include "EditorIcons.h"
-#include "FieldEditorSettings.h"
 
 #include <xsg/core/SoSField.h>
 
@@ -17,29 +17,6 @@
 
 namespace
 {
-
-void setMargin(QLayout* layout, const char* key)
-{
-    const int margin = xsgsettings_fieldEditor(QLatin1String(key));
-    layout->setContentsMargins(margin, margin, margin, margin);
-}
-
-QHBoxLayout* buildLayout(QWidget* parent, const char* objectName, const char* marginKey,
-                         const char* spacingKey)
-{
-    auto* layout = new QHBoxLayout(parent);
-    layout->setObjectName(QLatin1String(objectName));
-    setMargin(layout, marginKey);
-    layout->setSpacing(xsgsettings_fieldEditor(QLatin1String(spacingKey)));
-    return layout;
-}
-
-void setBoxStyle(QFrame* frame, const char* lineWidthKey)
-{
-    frame->setFrameShape(QFrame::Box);
-    frame->setFrameShadow(QFrame::Plain);
-    frame->setLineWidth(xsgsettings_fieldEditor(QLatin1String(lineWidthKey)));
-}
 
 QSpacerItem* addSpacer(QBoxLayout* layout)
 {
@@ -63,7 +40,7 @@ EdSFieldWidget::EdSFieldWidget(SFFrameType frameType, const char* name)
 
 EdSFieldWidget::~EdSFieldWidget()
 {
-    // An input that loses the focus while the container goes must not apply anything.
+    // An input that loses the focus while the container is destroyed must not apply anything.
     delete m_slider;
     if (QFrame* container = getWidgetContainer()) {
         const QList<QWidget*> inputs = container->findChildren<QWidget*>();
@@ -123,15 +100,15 @@ void EdSFieldWidget::load()
         setFieldName(QLatin1String(getName().getString()));
     SpxFieldEditors::load();
     discardWidgets();
-    setBoxStyle(getWidgetContainer(), "frameLineWidth");
-    m_mainLayout =
-        buildLayout(getWidgetContainer(), "SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing");
+    EdFieldFrame::setBox(getWidgetContainer(), "frameLineWidth");
+    m_mainLayout = EdFieldFrame::newRow("SFieldLayout", "SFieldLayoutMargin", "SFieldLayoutSpacing",
+                                        getWidgetContainer());
     styleLabel();
     m_mainLayout->addWidget(m_label);
     m_labelSpacer = addSpacer(m_mainLayout);
 
     m_editionAreaLayout =
-        buildLayout(nullptr, "SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
+        EdFieldFrame::newRow("SFieldEditionAreaLayout", "SFEditionAreaLayMargin", "SFEditionAreaLaySpacing");
     buildEditionFrame();
     m_editionAreaLayout->addWidget(m_editionFrame, 1);
     m_editionSpacer = addSpacer(m_editionAreaLayout);
@@ -148,37 +125,22 @@ void EdSFieldWidget::load()
     connect(m_ignoreButton, &QPushButton::released, this, &EdSFieldWidget::ignoreButtonStateChanged);
 }
 
-// What an earlier load() built goes. The caption, which is kept, and the slider, which comes with the
+// Removes what an earlier load() built. The caption, which is kept, and the slider, which comes with the
 // constructor, stay.
 void EdSFieldWidget::discardWidgets()
 {
-    QFrame* container = getWidgetContainer();
-    delete container->layout();
-    const QList<QWidget*> inside = container->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* widget : inside) {
-        if (widget != m_label && widget != m_slider)
-            delete widget;
-    }
+    EdFieldFrame(getWidgetContainer()).discard({m_label, m_slider});
     m_editionFrame = m_slider;
 }
 
 void EdSFieldWidget::setFieldName(const QString& name)
 {
-    if (!m_label) {
-        m_label = new QLabel(getWidgetContainer());
-        m_label->setObjectName(QStringLiteral("m_label"));
-    }
-    if (m_label->text().isEmpty())
-        m_label->setText(tr("<p align=\"center\">") + name + tr("</p>"));
+    m_label = EdFieldFrame(getWidgetContainer()).captioned(m_label, name);
 }
 
 void EdSFieldWidget::styleLabel()
 {
-    QFont font = m_label->font();
-    font.setPointSize(xsgsettings_fieldEditor(QStringLiteral("labelPointSize")));
-    m_label->setFont(font);
-    setBoxStyle(m_label, "labelLineWidth");
-    m_label->setScaledContents(true);
+    EdFieldFrame::styleCaption(m_label);
     // As high as a row of inputs, so that the caption stands level with them.
     m_label->setMinimumHeight(QLineEdit().sizeHint().height() + 4);
 }
@@ -191,31 +153,21 @@ void EdSFieldWidget::buildEditionFrame()
     }
     m_editionFrame = new QFrame(getWidgetContainer());
     m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
-    setBoxStyle(m_editionFrame, "frameLineWidth");
-    m_editLayout =
-        buildLayout(m_editionFrame, "editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing");
+    EdFieldFrame::setBox(m_editionFrame, "frameLineWidth");
+    m_editLayout = EdFieldFrame::newRow("editLayout", "SFieldEditLayoutMargin", "SFieldEditLayoutSpacing",
+                                        m_editionFrame);
     m_editLayout->addStrut(m_label->minimumHeight()); // what is lower stands level with the caption
 }
 
 void EdSFieldWidget::buildButtons()
 {
-    // The same object name as the main layout's; it is meant.
-    m_buttonLayout = buildLayout(nullptr, "SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
-    m_defaultButton = buildButton("m_defaultButton", fieldEditor::icon(fieldEditor::Icon::Default));
-    m_ignoreButton = buildButton("m_ignoreButton", fieldEditor::icon(fieldEditor::Icon::Ignore));
-    m_ignoreButton->setCheckable(true);
-}
-
-QPushButton* EdSFieldWidget::buildButton(const char* objectName, const QPixmap& icon)
-{
-    auto* button = new QPushButton(getWidgetContainer());
-    button->setObjectName(QLatin1String(objectName));
-    button->setMaximumSize(xsgsettings_fieldEditor(QStringLiteral("buttonWidth")),
-                           xsgsettings_fieldEditor(QStringLiteral("buttonHeight")));
-    button->setIcon(icon);
-    button->setFocusPolicy(Qt::NoFocus); // a click leaves the focus in the value's input
-    m_buttonLayout->addWidget(button);
-    return button;
+    const EdFieldFrame frame(getWidgetContainer());
+    // The main layout's object name once more (decisions.md: layout-names).
+    m_buttonLayout = EdFieldFrame::newRow("SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
+    m_defaultButton = frame.newDefaultButton(fieldEditor::icon(fieldEditor::Icon::Default));
+    m_buttonLayout->addWidget(m_defaultButton);
+    m_ignoreButton = frame.newIgnoreButton(fieldEditor::icon(fieldEditor::Icon::Ignore));
+    m_buttonLayout->addWidget(m_ignoreButton);
 }
 
 void EdSFieldWidget::setSpacers(int width, int height)
@@ -270,12 +222,7 @@ bool EdSFieldWidget::edited()
 
 void EdSFieldWidget::languageChange()
 {
-    m_defaultButton->setText(QString());
-    m_ignoreButton->setText(QString());
-    m_defaultButton->setToolTip(tr("Set to default"));
-    m_ignoreButton->setToolTip(tr("Ignore this field"));
-    m_defaultButton->setAccessibleName(tr("Set to default"));
-    m_ignoreButton->setAccessibleName(tr("Ignore this field"));
+    EdFieldFrame::nameStateButtons(m_defaultButton, m_ignoreButton);
 }
 
 void EdSFieldWidget::setCommandValue()

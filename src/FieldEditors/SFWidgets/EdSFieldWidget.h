@@ -36,7 +36,7 @@ public:
     explicit EdSFieldWidget(SFFrameType frameType, const char* name = nullptr);
     ~EdSFieldWidget() override;
 
-    /// Subclasses then add their inputs to editLayout(). Loading again builds all inputs anew.
+    /// Subclasses then add their inputs to editLayout(). Loading again builds all inputs again.
     void load() override;
     void setField(SoField* field) override;
     /// Subclasses show the field's value first.
@@ -81,7 +81,6 @@ private:
     void styleLabel();
     void buildEditionFrame();
     void buildButtons();
-    QPushButton* buildButton(const char* objectName, const QPixmap& icon);
 
     QLabel* m_label = nullptr;
     QPushButton* m_defaultButton = nullptr;

@@ -34,7 +34,7 @@ EdSlider::EdSlider(SliderParentType parentType, SpxFieldEditors* owner, QWidget*
 
 EdSlider::~EdSlider()
 {
-    // A child that loses the focus while it goes must not apply anything.
+    // A child that loses the focus while it is destroyed must not apply anything.
     for (QWidget* input : {static_cast<QWidget*>(m_lineEdit), static_cast<QWidget*>(m_slider),
                            static_cast<QWidget*>(m_checkBox)})
         input->disconnect(this);

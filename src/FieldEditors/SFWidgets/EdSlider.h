@@ -15,7 +15,7 @@ class SpxFieldEditors;
 enum SliderType { Int32Slider = 1, UInt32Slider = 2, Int16Slider = 3, UInt16Slider = 4 };
 enum SliderParentType { SingleValueParent = 0, MultiValueParent = 1 };
 
-/// One number as a check box (apply while dragging), a slider and a line edit. What the person enters goes to
+/// One number as a check box (apply while dragging), a slider and a line edit. What the user enters reaches
 /// the owner editor: through applyChanges() of a single-value editor, through set1Value() of a multi-value
 /// one. What the program shows or moves never does. The variants carry the number; GUI thread only.
 class EdSlider : public QFrame
@@ -52,7 +52,7 @@ public:
     SbString& savedText() { return m_savedText; }
     /// Reads what was typed and not applied. False where it cannot be read yet, as "-" alone.
     bool takeTyping();
-    /// While the person holds the handle, nothing from the field moves the slider.
+    /// While the user holds the handle, nothing from the field moves the slider.
     bool isHeld() const;
     /// Another field comes: nothing typed or saved is for it.
     void forget();

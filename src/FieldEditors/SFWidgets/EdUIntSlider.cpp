@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdUIntSlider.h"
 
-#include "EdText.h"
+#include <scopix/editing/SpxText.h>
 
 #include <limits>
 
@@ -50,7 +50,7 @@ void EdUIntSlider::setValueFromEdit()
 
 void EdUIntSlider::saveDataFromField()
 {
-    savedText() = toSbString(getText());
+    savedText() = SpxText::toSbString(getText());
 }
 
 int EdUIntSlider::positionOf(unsigned int value) const

@@ -13,7 +13,7 @@ public:
                  int row, int column);
 
     /// Unlike in the other sliders, a fixed range narrows only what is accepted and leaves the slider's range
-    /// where it was; that is meant.
+    /// where it was (decisions.md: unsigned-limits).
     void setValidLimits(unsigned int min, unsigned int max, bool boundFixed);
 
     void setValueFromEdit() override;

@@ -2,8 +2,8 @@
 // Every model of the importer's own test files opens with as many triangles as the importer finds in it, or
 // is refused in one sentence; none crashes the host or keeps it waiting. One test for each of the files'
 // folders.
-#include "import/ModelFormats.h"
 #include "import/ModelImport.h"
+#include "model/ModelFormats.h"
 #include "reader/MemoryLimit.h"
 
 #include <xsg/actions/SoSearchAction.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/HostApplication.h"
+#include "app/HostSession.h"
 #include "support/MessageBoxes.h"
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
@@ -190,5 +190,5 @@ private:
     QPoint middleOf(const QWidget* widget) { return inWindow(widget, widget->rect().center()); }
 
     MessageBoxes m_boxes;
-    HostApplication m_host;
+    HostSession m_host;
 };

@@ -55,6 +55,18 @@ TEST_F(AutosaveTest, ManyEditsAreWrittenOnce)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
+TEST_F(AutosaveTest, ASceneThatTakesLongIsWrittenLessOften)
+{
+    for (int i = 0; i < 20000; ++i)
+        static_cast<SoSeparator*>(document.getRoot())->addChild(new SoMaterial);
+    edit(0.5F);
+    const auto* pause = autosave.findChild<QTimer*>("pause");
+    EXPECT_EQ(pause->interval(), 20);
+    ASSERT_TRUE(waitForSaved("transparency: 0.5"));
+    edit(0.75F);
+    EXPECT_GT(pause->interval(), 20);
+}
+
 TEST_F(AutosaveTest, WaitsForTheReleaseOfAHeldButton)
 {
     QWidget widget;

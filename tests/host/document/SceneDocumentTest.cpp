@@ -138,4 +138,24 @@ TEST_F(SceneDocumentTest, EditsSurviveTheEndOfTheirHistory)
     EXPECT_TRUE(document.isModified()) << "the field still has the new value";
 }
 
+TEST_F(SceneDocumentTest, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
+{
+    SoRef<SoSeparator> scene(new SoSeparator);
+    material = new SoMaterial;
+    scene->addChild(material);
+    document.beginExternal(scene.get(), "Engine");
+    EXPECT_TRUE(document.isExternal());
+    edit(0.5F);
+    editWithoutStep(0.75F);
+    EXPECT_FALSE(document.isModified());
+    const QString copy = folder.filePath("copy.xsg");
+    EXPECT_EQ(document.save(copy), "");
+    EXPECT_TRUE(contentOf(copy).contains("0.75"));
+    EXPECT_EQ(document.getTitle(), "Engine");
+    EXPECT_EQ(document.getPath(), "");
+    begin();
+    EXPECT_FALSE(document.isExternal());
+    EXPECT_EQ(scene->getRefCount(), 1) << "the document has let go of it";
+}
+
 } // namespace

@@ -53,6 +53,25 @@ TEST_F(Snapshot, TellsWhyItCannotBeWritten)
     EXPECT_TRUE(error.contains("nowhere/snapshot.xsg: The file cannot be written")) << qPrintable(error);
 }
 
+TEST_F(Snapshot, ReplacesNothingOnceItWasCancelled)
+{
+    SoRef<SoSeparator> large(new SoSeparator);
+    for (int i = 0; i < 20000; ++i)
+        large->addChild(new SoMaterial);
+    QByteArray before;
+    {
+        SnapshotWriter other;
+        other.write(document.getRoot(), path);
+        ASSERT_TRUE(waitFor([&] { return !other.isBusy(); }));
+        other.write(large.get(), path);
+        other.cancel();
+        before = contentOf(path);
+    } // waits for the thread
+    EXPECT_FALSE(before.isEmpty());
+    EXPECT_EQ(contentOf(path), before);
+    EXPECT_EQ(filesIn(folder.path()), QStringList{"snapshot.xsg"});
+}
+
 TEST_F(Snapshot, CanBeGivenUp)
 {
     SoRef<SoSeparator> large(new SoSeparator);

@@ -3,10 +3,11 @@
 // elsewhere.
 #include "SessionFiles.h"
 
-#include "import/TextureImageLoader.h"
+#include "viewport/TextureImageLoader.h"
 
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/render/TextureImages.h>
 
 #include <QImage>
 
@@ -20,7 +21,7 @@ class Pictures : public SessionFiles
 protected:
     Pictures()
     {
-        TextureImageLoader::install();
+        images.setReader(TextureImageLoader::read);
         QDir(folder.path()).mkpath("a/pictures");
         QDir(folder.path()).mkpath("b");
         paint("a/pictures/red.png", Qt::red);
@@ -32,7 +33,6 @@ protected:
         root->addChild(inner.get());
         document.begin(SoRef<SoNode>(root).get(), folder.filePath("a/scene.xsg"), "scene.xsg");
     }
-    ~Pictures() override { SoTexture2::setFileReader(nullptr); }
     void paint(const char* name, const QColor& color) const
     {
         QImage image(3, 2, QImage::Format_RGB32);
@@ -40,16 +40,16 @@ protected:
         image.setPixelColor(0, 0, color);
         ASSERT_TRUE(image.save(folder.filePath(name)));
     }
-    bool isRed() const
+    bool isRed()
     {
-        SoImageView picture;
+        const SoImageView picture = images.find(*texture);
         // The file's first row is the picture's last.
-        return texture->getPicture(picture) && picture.width == 3 && picture.height == 2 &&
-               picture.components == 3 && picture.bytes[9] > 240 && picture.bytes[10] < 20 &&
-               picture.bytes[0] < 20;
+        return !picture.isEmpty() && picture.width == 3 && picture.height == 2 && picture.components == 3 &&
+               picture.bytes[9] > 240 && picture.bytes[10] < 20 && picture.bytes[0] < 20;
     }
     std::string name() const { return texture->fileName.getValue().str(); }
 
+    xsg::TextureImages images;
     SoTexture2* texture = nullptr;
 };
 
@@ -108,8 +108,8 @@ TEST_F(Pictures, ThatAreNoneGiveWayToTheImage)
     const unsigned char grey[] = {7};
     texture->image.setValue(1, 1, 1, grey);
     texture->fileName.setValue("bad.png");
-    SoImageView picture;
-    ASSERT_TRUE(texture->getPicture(picture));
+    const SoImageView picture = images.find(*texture);
+    ASSERT_FALSE(picture.isEmpty());
     EXPECT_EQ(picture.width, 1);
 }
 

@@ -30,12 +30,11 @@ protected:
             return std::make_unique<MainWindow>(services, notifier);
         })
     {
-        applyTheme(themeFromName(GetParam()));
-        m_session.host.plugins().readProfiles();
+        applyTheme(window(), themeFromName(GetParam()));
+        m_session.host.plugins().profiles().read();
         window().resize(1280, 700);
         Session::settle();
     }
-    ~ConsoleWindow() override { applyTheme(Theme::System); }
 
     QMainWindow& window() { return m_session.host.window(); }
     QTextEdit* output() { return window().findChild<QTextEdit*>("m_consoleOutput"); }
@@ -89,11 +88,6 @@ TEST_P(ConsoleWindow, ShowsThreeColoursBesideTheToolBar)
     EXPECT_EQ(toolBar()->findChild<QComboBox*>()->currentText(), "Default");
     save(*output()->window()->findChild<QDockWidget*>("Console"), "console");
     save(*toolBar(), "profiles-toolbar", toolBar()->sizeHint());
-}
-
-TEST_P(ConsoleWindow, DrawsIconsInTheScreensDensity)
-{
-    EXPECT_TRUE(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
 }
 
 TEST_P(ConsoleWindow, ManagesProfilesFromTheMenu)

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <support/Session.h>
+#include <support/SoFieldGallery.h>
 
-#include <xsg/nodes/base/SoFieldGallery.h>
+#include <support/Session.h>
 
 #include <string>
 #include <vector>

@@ -3,8 +3,8 @@
 // whole, and nothing of the editor stays behind.
 #include <support/Session.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/fields/SoMFVec3f.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/properties/SoPoints.h>
 
 #include <QTableWidget>
@@ -18,7 +18,7 @@ class ProfileSwitch : public ::testing::Test
 protected:
     ProfileSwitch()
     {
-        m_session.host.plugins().readProfiles();
+        m_session.host.plugins().profiles().read();
         m_points->points.setValues({{1, 2, 3}, {4, 5, 6}, {7, 8, 9}});
         Session::settle();
     }
@@ -28,7 +28,7 @@ protected:
     void switchTo(const char* profile)
     {
         HostPluginsManager& plugins = m_session.host.plugins();
-        plugins.setActiveProfile(plugins.findProfile(profile));
+        plugins.setActiveProfile(plugins.profiles().findProfile(profile));
         Session::settle();
     }
     // Types into a cell and leaves it open.

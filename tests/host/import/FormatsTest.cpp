@@ -2,8 +2,8 @@
 // Every format, written by the exporter from a shipped model, reads as the same model.
 #include "ModelFiles.h"
 
-#include "import/ModelFormats.h"
 #include "import/SceneBuilder.h"
+#include "model/ModelFormats.h"
 #include "reader/ModelReader.h"
 #include "reader/ScopedCLocale.h"
 

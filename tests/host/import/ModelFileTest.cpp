@@ -2,7 +2,7 @@
 // The way from the process that reads models to the host.
 #include "ModelFiles.h"
 
-#include "import/ModelFile.h"
+#include "model/ModelFile.h"
 #include "reader/ModelReader.h"
 
 using namespace scopix;
@@ -21,7 +21,10 @@ QByteArray written(const ModelReadResult& model)
 bool read(const QByteArray& bytes, ModelReadResult& model)
 {
     model = {};
-    return readModelFile(bytes.constData(), static_cast<std::size_t>(bytes.size()), model);
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return readModelFile(buffer, model);
 }
 
 TEST(ModelFile, BringsEveryBitOver)
@@ -59,10 +62,12 @@ TEST(ModelFile, ACutOneIsRefused)
 
 TEST(ModelFile, AWrongCountAsksForNoMemory)
 {
-    QByteArray bytes = written({});
-    bytes.replace(4, 8, QByteArray(8, '\x7f'));
     ModelReadResult model;
-    EXPECT_FALSE(read(bytes, model));
+    for (const int place : {4, 8}) { // the length of the error, the number of meshes
+        QByteArray bytes = written({});
+        bytes.replace(place, 8, QByteArray(8, '\x7e'));
+        EXPECT_FALSE(read(bytes, model));
+    }
 }
 
 TEST(ModelFile, ReferencesToNothingAreRefused)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ModelFiles.h"
 
-#include "import/ModelFormats.h"
 #include "import/ModelImport.h"
+#include "model/ModelFormats.h"
 
 #include <csignal>
 

@@ -2,9 +2,10 @@
 // The host as a program embeds it, around a window of its own.
 #include "PluginParts.h"
 
-#include "app/HostApplication.h"
+#include "app/HostSession.h"
 
 #include <scopix/SpxExtension.h>
+#include <xsg/support/SoPreferences.h>
 
 #include <gtest/gtest.h>
 
@@ -60,7 +61,7 @@ protected:
         qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
         takePluginLog();
         ::testing::internal::CaptureStderr();
-        m_host = std::make_unique<HostApplication>([this](HostServices&, UserNotifier& notifier) {
+        m_host = std::make_unique<HostSession>([this](HostServices&, UserNotifier& notifier) {
             auto window = std::make_unique<TestWindow>(notifier);
             m_window = window.get();
             return window;
@@ -78,7 +79,7 @@ protected:
 
     QTemporaryDir m_home;
     TestWindow* m_window = nullptr;
-    std::unique_ptr<HostApplication> m_host;
+    std::unique_ptr<HostSession> m_host;
 };
 
 TEST_F(ApplicationTest, DoesWhatTheCommandLineAsksInOrder)
@@ -116,7 +117,7 @@ TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("{");
     file.close();
-    m_host = std::make_unique<HostApplication>(
+    m_host = std::make_unique<HostSession>(
         [](HostServices&, UserNotifier& notifier) { return std::make_unique<TestWindow>(notifier); });
     EXPECT_EQ(run({"--quit"}), 1);
 }
@@ -124,7 +125,7 @@ TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
 TEST_F(ApplicationTest, UsesTheProfileOfTheCommandLine)
 {
     EXPECT_EQ(run({"--profile", "Measure", "--plugin", testPlugin("Good"), "--quit"}), 0);
-    EXPECT_EQ(m_host->plugins().activeProfile()->name(), "Measure");
+    EXPECT_EQ(m_host->plugins().profiles().activeProfile()->name(), "Measure");
     EXPECT_EQ(takePluginLog().filter("activate"), QStringList());
 }
 
@@ -132,8 +133,9 @@ TEST_F(ApplicationTest, SwitchesTheCountersOn)
 {
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
     run({"--counters", "--quit"});
-    EXPECT_EQ(qgetenv("XSG_PERFCOUNTER_ENABLE"), "1");
-    qunsetenv("XSG_PERFCOUNTER_ENABLE");
+    EXPECT_TRUE(SoPreferences::getBool("XSG_PERFCOUNTER_ENABLE", false));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XSG_PERFCOUNTER_ENABLE")) << "the process's own is left alone";
+    SoPreferences::setValue("XSG_PERFCOUNTER_ENABLE", SbString());
 }
 
 TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)
@@ -159,7 +161,7 @@ TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
     });
     run({"--plugin", testPlugin("Other")});
     m_host.reset();
-    m_host = std::make_unique<HostApplication>(
+    m_host = std::make_unique<HostSession>(
         [](HostServices&, UserNotifier& notifier) { return std::make_unique<TestWindow>(notifier); });
     QTimer::singleShot(0, m_host.get(), [] { QCoreApplication::quit(); });
     run({"--plugin", testPlugin("Other")});
@@ -188,7 +190,7 @@ TEST_F(ApplicationTest, TheMenusFollowExtensionsAndProfiles)
         tools += action->text();
     EXPECT_TRUE(tools.contains("First") && tools.contains("Second")) << tools.join(' ').toStdString();
     m_window->m_profiles.actions().at(1)->trigger();
-    EXPECT_EQ(m_host->plugins().activeProfile()->name(), "Edit");
+    EXPECT_EQ(m_host->plugins().profiles().activeProfile()->name(), "Edit");
     EXPECT_TRUE(m_window->m_profiles.actions().at(1)->isChecked());
 }
 

@@ -103,7 +103,7 @@ TEST_P(DamagedFile, IsToldAndKeptBesideUnderAnotherName)
     const ProfileSettings settings = m_file.read(m_error);
     EXPECT_EQ(settings.profiles.size(), 3U);
     EXPECT_TRUE(m_error.contains(m_path)) << m_error.toStdString();
-    EXPECT_TRUE(m_error.contains(QLatin1String(GetParam().expected))) << m_error.toStdString();
+    EXPECT_TRUE(m_error.contains(QString::fromUtf8(GetParam().expected))) << m_error.toStdString();
     EXPECT_TRUE(m_error.contains("profiles.damaged.json"));
     EXPECT_EQ(m_error.count('\n'), 0);
     ASSERT_EQ(files(), QStringList{"profiles.damaged.json"});
@@ -118,15 +118,15 @@ INSTANTIATE_TEST_SUITE_P(
     Cases, DamagedFile,
     ::testing::Values(
         Damaged{"", "line 1"}, Damaged{"{\n\"active\": \"A\",\n oops }", "line 3"},
-        Damaged{"[]", "one object"}, Damaged{"{}", "\"profiles\" must be a list"},
+        Damaged{"[]", "one object"}, Damaged{"{}", "“profiles” must be a list"},
         Damaged{R"({"active":"A","profiles":[7]})", "profile 1 must be an object"},
-        Damaged{R"({"active":"A","profiles":[{}]})", "\"name\" of profile 1"},
+        Damaged{R"({"active":"A","profiles":[{}]})", "“name” of profile 1"},
         Damaged{R"({"active":"A","profiles":[{"name":""}]})", "profile 1"},
-        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":"some","tools":[]}]})", "\"editors\""},
-        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":[],"tools":[1]}]})", "\"tools\""},
+        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":"some","tools":[]}]})", "“editors”"},
+        Damaged{R"({"active":"A","profiles":[{"name":"A","editors":[],"tools":[1]}]})", "“tools”"},
         Damaged{R"({"active":"A","profiles":[{"name":" ","editors":[],"tools":[]}]})", "needs a name"},
         Damaged{QByteArray(R"({"active":"A","profiles":[)") + Good + "," + Good + "]}", "already"},
-        Damaged{QByteArray(R"({"profiles":[)") + Good + "]}", "\"active\""},
+        Damaged{QByteArray(R"({"profiles":[)") + Good + "]}", "“active”"},
         Damaged{QByteArray(5 * 1024 * 1024, 'x'), "larger"}, Damaged{QByteArray(100000, '['), "line 1"}));
 
 TEST_F(ProfileFileTest, DamagedTwiceKeepsBoth)
@@ -149,37 +149,38 @@ TEST_F(ProfileFileTest, WhatCannotBeWrittenIsTold)
 TEST(Profiles, AreRememberedFromOneSessionToTheNext)
 {
     PluginHost first;
-    first.manager.setProfiles({only("Mine", {"Test/First"})}, "Mine");
+    first.manager.profiles().setProfiles({only("Mine", {"Test/First"})}, "Mine");
     HostPluginsManager second(first.services, first.shell, ProfileFile(first.profilesPath()));
-    second.readProfiles();
+    second.profiles().read();
     EXPECT_EQ(names(second), (QStringList{"Default", "Mine"}));
-    EXPECT_EQ(second.activeProfile()->name(), "Mine");
+    EXPECT_EQ(second.profiles().activeProfile()->name(), "Mine");
     EXPECT_EQ(first.failures, QStringList());
 }
 
 TEST(Profiles, ASessionsProfileIsNotRemembered)
 {
     PluginHost host;
-    host.manager.readProfiles();
-    EXPECT_TRUE(host.manager.useProfile("Edit"));
-    EXPECT_FALSE(host.manager.useProfile("No such"));
-    EXPECT_EQ(host.manager.activeProfile()->name(), "Edit");
+    host.manager.profiles().read();
+    EXPECT_TRUE(host.manager.profiles().useProfile("Edit"));
+    EXPECT_FALSE(host.manager.profiles().useProfile("No such"));
+    EXPECT_EQ(host.manager.profiles().activeProfile()->name(), "Edit");
     EXPECT_FALSE(QFile::exists(host.profilesPath()));
 }
 
 TEST(Profiles, ControlTheirExtensionsInTheOrderOfRegistration)
 {
     PluginHost host;
-    host.manager.setProfiles({only("Mine", {"Other/Third", "Test/First"})}, "Mine");
+    host.manager.profiles().setProfiles({only("Mine", {"Other/Third", "Test/First"})}, "Mine");
     host.manager.loadPlugin(testPlugin("Good"));
     host.manager.loadPlugin(testPlugin("Other"));
     QStringList controlled;
-    for (const SpxExtension* each : host.manager.activeProfile()->setting().getControlledExtensions())
+    for (const SpxExtension* each :
+         host.manager.profiles().activeProfile()->setting().getControlledExtensions())
         controlled += text(each->getName());
     EXPECT_EQ(controlled, (QStringList{"First", "Editor", "Third"}));
     const SpxExtension* second = host.manager.extensions()[2].extension();
     EXPECT_FALSE(second->isActive());
-    EXPECT_EQ(second->getProfileSetting(), &host.manager.activeProfile()->setting());
+    EXPECT_EQ(second->getProfileSetting(), &host.manager.profiles().activeProfile()->setting());
 }
 
 class Switching : public ::testing::Test
@@ -187,12 +188,15 @@ class Switching : public ::testing::Test
 protected:
     Switching()
     {
-        m_host.manager.setProfiles({only("Mine", {"Test/Second"})}, "Default");
+        m_host.manager.profiles().setProfiles({only("Mine", {"Test/Second"})}, "Default");
         m_host.manager.loadPlugin(testPlugin("Good"));
         runLoop();
         takePluginLog();
     }
-    void switchTo(const QString& name) { m_host.manager.setActiveProfile(m_host.manager.findProfile(name)); }
+    void switchTo(const QString& name)
+    {
+        m_host.manager.setActiveProfile(m_host.manager.profiles().findProfile(name));
+    }
 
     PluginHost m_host;
 };
@@ -203,7 +207,7 @@ TEST_F(Switching, TakesHoldInTheNextTurnAndTellsTheSelectionAgain)
     m_host.services.select(material.get());
     takePluginLog();
     switchTo("Mine");
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Mine");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Mine");
     EXPECT_EQ(takePluginLog(), QStringList());
     runLoop();
     EXPECT_EQ(takePluginLog(), (QStringList{"Second deactivate", "First deactivate", "Second activate",
@@ -248,7 +252,7 @@ TEST_F(Switching, AnUnknownProfileIsIgnored)
     m_host.manager.setActiveProfile(&stranger);
     m_host.manager.setActiveProfile(nullptr);
     runLoop();
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Default");
     EXPECT_EQ(takePluginLog(), QStringList());
 }
 
@@ -256,7 +260,7 @@ TEST_F(Switching, DeletingTheActiveProfileFallsBackToDefault)
 {
     switchTo("Mine");
     runLoop();
-    m_host.manager.setProfiles({}, "Mine");
+    m_host.manager.profiles().setProfiles({}, "Mine");
     runLoop();
     EXPECT_EQ(names(m_host.manager), QStringList{"Default"});
     EXPECT_EQ(m_host.manager.getActiveProfile(), m_host.manager.getProfilesList().first());

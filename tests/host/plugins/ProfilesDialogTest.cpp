@@ -20,9 +20,10 @@ protected:
     Dialog()
     {
         m_host.manager.loadPlugin(testPlugin("Good"));
-        m_host.manager.setProfiles({{"Mine", {true, {}}, {false, {"Test/First", "Absent/Tool"}}}}, "Mine");
+        m_host.manager.profiles().setProfiles({{"Mine", {true, {}}, {false, {"Test/First", "Absent/Tool"}}}},
+                                              "Mine");
         runLoop();
-        m_dialog = std::make_unique<ProfilesDialog>(m_host.manager);
+        m_dialog = std::make_unique<ProfilesDialog>(m_host.manager.profiles());
         m_dialog->show();
     }
     QListWidget& list() { return *m_dialog->findChild<QListWidget*>("profiles"); }
@@ -45,7 +46,7 @@ protected:
     QStringList names() const
     {
         QStringList list;
-        for (const auto& profile : m_host.manager.profiles())
+        for (const auto& profile : m_host.manager.profiles().profiles())
             list += profile->name();
         return list;
     }
@@ -71,10 +72,10 @@ TEST_F(Dialog, MakesAProfileFromTheActiveOneAndNamesIt)
     EXPECT_EQ(names(), (QStringList{"Default", "Mine"}));
     m_dialog->accept();
     EXPECT_EQ(names(), (QStringList{"Default", "Mine", "Other"}));
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Mine");
-    EXPECT_EQ(m_host.manager.findProfile("Other")->choice().tools.names,
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Mine");
+    EXPECT_EQ(m_host.manager.profiles().findProfile("Other")->choice().tools.names,
               (QStringList{"Test/Second", "Absent/Tool"}));
-    EXPECT_EQ(m_host.manager.findProfile("Mine")->choice().tools.names,
+    EXPECT_EQ(m_host.manager.profiles().findProfile("Mine")->choice().tools.names,
               (QStringList{"Test/First", "Absent/Tool"}));
     EXPECT_EQ(m_host.failures, QStringList());
 }
@@ -86,7 +87,7 @@ TEST_F(Dialog, RenamesTheActiveProfileWhichStaysActive)
     m_dialog->accept();
     runLoop();
     EXPECT_EQ(names(), (QStringList{"Default", "Renamed"}));
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Renamed");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Renamed");
 }
 
 TEST_F(Dialog, RefusesANameThatIsTakenEmptyOrOutsideLatin1)
@@ -104,17 +105,17 @@ TEST_F(Dialog, DeletesTheActiveProfile)
     m_dialog->accept();
     runLoop();
     EXPECT_EQ(names(), QStringList{"Default"});
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Default");
 }
 
 TEST_F(Dialog, DeletesAProfileBetweenOthers)
 {
-    m_host.manager.setProfiles({{"First", {true, {}}, {false, {"Test/First"}}},
-                                {"Second", {true, {}}, {false, {"Test/Second"}}},
-                                {"Default", {true, {}}, {true, {}}},
-                                {"Last", {true, {}}, {false, {}}}},
-                               "Last");
-    m_dialog = std::make_unique<ProfilesDialog>(m_host.manager);
+    m_host.manager.profiles().setProfiles({{"First", {true, {}}, {false, {"Test/First"}}},
+                                           {"Second", {true, {}}, {false, {"Test/Second"}}},
+                                           {"Default", {true, {}}, {true, {}}},
+                                           {"Last", {true, {}}, {false, {}}}},
+                                          "Last");
+    m_dialog = std::make_unique<ProfilesDialog>(m_host.manager.profiles());
     m_dialog->show();
     EXPECT_TRUE(list().item(3)->font().bold());
     list().setCurrentRow(0);
@@ -128,7 +129,7 @@ TEST_F(Dialog, DeletesAProfileBetweenOthers)
     EXPECT_TRUE(list().item(1)->font().bold());
     m_dialog->accept();
     EXPECT_EQ(names(), (QStringList{"Second", "Default"}));
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Default");
 }
 
 TEST_F(Dialog, NewCopiesTheActiveProfileWhicheverIsShown)
@@ -157,7 +158,7 @@ TEST_F(Dialog, AllToolsMeansThoseOfLaterPluginsToo)
 {
     tool("Second").setCheckState(0, Qt::Checked);
     m_dialog->accept();
-    EXPECT_TRUE(m_host.manager.findProfile("Mine")->choice().tools.all);
+    EXPECT_TRUE(m_host.manager.profiles().findProfile("Mine")->choice().tools.all);
 }
 
 TEST_F(Dialog, CancelChangesNothing)
@@ -171,11 +172,11 @@ TEST_F(Dialog, TheMenuOpensItAndSwitchesProfiles)
 {
     QMainWindow window;
     QMenu menu(&window);
-    new ProfilesMenu(m_host.manager, menu);
+    new ProfilesMenu(m_host.manager.profiles(), menu);
     ASSERT_EQ(menu.actions().size(), 4);
     EXPECT_TRUE(menu.actions().at(1)->isChecked());
     menu.actions().at(0)->trigger();
-    EXPECT_EQ(m_host.manager.activeProfile()->name(), "Default");
+    EXPECT_EQ(m_host.manager.profiles().activeProfile()->name(), "Default");
     EXPECT_TRUE(menu.actions().at(0)->isChecked());
     menu.findChild<QAction*>("manageProfiles")->trigger();
     auto* dialog = qobject_cast<ProfilesDialog*>(QApplication::activeModalWidget());

@@ -70,6 +70,24 @@ TEST_F(Program, WritesAPictureOfTheWindowWithoutADisplay)
     EXPECT_GT(colors.size(), 500);
 }
 
+// The buttons of the console, which a plug-in draws.
+TEST_F(Program, DrawsIconsInTheScreensDensity)
+{
+    const QString path = folder.filePath("out.png");
+    qputenv("QT_SCALE_FACTOR", "2");
+    const Outcome outcome = run({"--screenshot", path});
+    qunsetenv("QT_SCALE_FACTOR");
+    EXPECT_EQ(outcome.status, 0);
+    const QImage picture(path);
+    ASSERT_EQ(picture.size(), QSize(2560, 1600));
+    int detailed = 0; // squares of what would be one pixel in the picture of half the size
+    for (int y = 1160; y < 1200; y += 2) {
+        for (int x = 2492; x < 2540; x += 2)
+            detailed += picture.pixel(x, y) != picture.pixel(x + 1, y + 1) ? 1 : 0;
+    }
+    EXPECT_GT(detailed, 20);
+}
+
 TEST_F(Program, OpensAndEnds)
 {
     const Outcome outcome = run({model(), "--quit"});

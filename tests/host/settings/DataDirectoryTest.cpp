@@ -28,6 +28,7 @@ protected:
     {
         qunsetenv("XSGHOME");
         qunsetenv("XDG_DATA_HOME");
+        SoPreferences::setValue("XSGHOME", SbString());
     }
     QString file() const { return folder.path() + "/scopix/data/Scopix/PerfCounter.xml"; }
 
@@ -45,7 +46,6 @@ TEST_F(Home, IsFilledOnFirstUseAndKeptAfterwards)
     saved.resize(0);
     saved.write("mine");
     saved.close();
-    qunsetenv("XSGHOME");
     EXPECT_EQ(DataDirectory::ensure(), "");
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_EQ(saved.readAll(), "mine");
@@ -57,6 +57,20 @@ TEST_F(Home, OneThatIsSetIsLeftAlone)
     EXPECT_EQ(DataDirectory::ensure(), "");
     EXPECT_EQ(qgetenv("XSGHOME"), "/somewhere/else");
     EXPECT_FALSE(QFile::exists(file()));
+}
+
+TEST_F(Home, OneOfThePreferencesIsLeftAlone)
+{
+    SoPreferences::setValue("XSGHOME", "/somewhere/else");
+    EXPECT_EQ(DataDirectory::ensure(), "");
+    EXPECT_EQ(SoPreferences::getString("XSGHOME", ""), SbString("/somewhere/else"));
+    EXPECT_FALSE(QFile::exists(file()));
+}
+
+TEST_F(Home, TheEnvironmentOfTheProcessStaysAsItIs)
+{
+    EXPECT_EQ(DataDirectory::ensure(), "");
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XSGHOME"));
 }
 
 TEST_F(Home, AFolderThatCannotBeMadeIsNamed)

@@ -3,6 +3,7 @@
 // "pluginLog". Variants, chosen by a definition, break the contract each in its own way.
 #include <scopix/SpxEditor.h>
 #include <scopix/SpxPlugin.h>
+#include <scopix/SpxPluginNote.h>
 #include <scopix/SpxServices.h>
 #include <scopix/SpxShell.h>
 #include <xsg/core/SoField.h>
@@ -13,10 +14,21 @@
 #include <QLabel>
 #include <QToolBar>
 
+#include <cstdlib>
 #include <stdexcept>
+
+#if defined TEST_PLUGIN_Good
+SPX_PLUGIN_NOTE("Test", "1.2.3")
+#elif defined TEST_PLUGIN_OtherContract
+SPX_PLUGIN_NOTE_OF("contract=2.0\nqt=" QT_VERSION_STR "\ncxx=" SPX_CXX_LIBRARY "\n")
+#endif
+// The other variants have no note.
 
 namespace
 {
+
+// Seen by a host that lets code of the library run, before it asks for anything.
+[[maybe_unused]] const int s_trace = setenv("TEST_PLUGIN_RAN", "1", 1);
 
 void write(const QString& entry)
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/CommandLine.h"
+#include <scopix-host/CommandLine.h>
 
 #include <gtest/gtest.h>
 
@@ -43,8 +43,8 @@ TEST(CommandLineTest, AsksForNothingByItself)
 
 TEST(CommandLineTest, ToldOptionsAreInTheHelp)
 {
-    for (const char* option : {"--plugin PATH", "--profile NAME", "--select NODE.FIELD",
-                               "--screenshot OUT.png", "--quit", "--counters", "--help", "--version"})
+    for (const char* option : {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>",
+                               "--screenshot <OUT.png>", "--quit", "--counters", "--help", "--version"})
         EXPECT_TRUE(CommandLine::helpText().contains(QLatin1String(option))) << option;
     EXPECT_TRUE(CommandLine::versionText().contains(QRegularExpression("^scopix \\d+\\.\\d+\\.\\d+\n$")));
     EXPECT_TRUE(parse({"--help"}).help);

@@ -402,6 +402,27 @@ TEST_F(Gesture, AReleaseInsideALoopThatThePressRunsEndsTheGestureAfterThePress)
     EXPECT_EQ(steps(), 2);
 }
 
+TEST_F(Gesture, TypingThatEndsLeavesTheGestureOfAnInnerLoopAlone)
+{
+    m_button.setFocusPolicy(Qt::NoFocus);
+    QObject::connect(&m_button, &QPushButton::pressed, [this] {
+        m_line.clearFocus();
+        const int before = steps();
+        edit("one");
+        edit("and one more");
+        EXPECT_EQ(steps(), before + 1);
+    });
+    QTest::keyClicks(&m_line, "a");
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        QTest::mouseClick(&m_button, Qt::LeftButton);
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_EQ(count("execute finished"), 1);
+    EXPECT_EQ(count("execute and one more"), 1);
+}
+
 TEST_F(Gesture, WithoutAGestureEachEditIsAStep)
 {
     edit("one");

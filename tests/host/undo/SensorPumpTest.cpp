@@ -7,6 +7,7 @@
 #include <xsg/sensors/SoAlarmSensor.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoIdleSensor.h>
+#include <xsg/sensors/SoSensorQueue.h>
 #include <xsg/sensors/SoTimerSensor.h>
 
 using namespace scopix;
@@ -107,6 +108,27 @@ TEST(SensorPumpTest, AnEarlierAlarmIsNotHeldUpByALaterOne)
     sooner.schedule();
     EXPECT_TRUE(waitFor([&] { return early == 1; }));
     EXPECT_EQ(late, 0);
+}
+
+TEST(SensorPumpTest, LeavesAQueueAloneThatTheApplicationDrives)
+{
+    int wakeUps = 0;
+    const auto wakeUp = [](void* data) { ++*static_cast<int*>(data); };
+    SoSensorQueue& queue = SoSensorQueue::getInstance();
+    queue.setWakeUp(wakeUp, &wakeUps);
+    SoRef<SoMaterial> material = new SoMaterial;
+    int fired = 0;
+    SoFieldSensor sensor(count, &fired);
+    sensor.attach(&material->transparency);
+    {
+        const SensorPump pump;
+        material->transparency.setValue(0.25F);
+        EXPECT_EQ(wakeUps, 1);
+        queue.process();
+        EXPECT_EQ(fired, 1);
+    }
+    EXPECT_TRUE(queue.hasWakeUp(wakeUp, &wakeUps));
+    queue.setWakeUp(nullptr, nullptr);
 }
 
 } // namespace

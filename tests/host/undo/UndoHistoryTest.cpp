@@ -273,7 +273,7 @@ TEST_F(History, ACommandThatThrowsIsToldAndDropped)
     QSignalSpy failures(&m_services, &HostServices::commandFailed);
     m_services.executeCommand(new Throwing(m_log, "execute"));
     ASSERT_EQ(failures.count(), 1);
-    EXPECT_EQ(failures.at(0).at(0).toString(), "\"Change\" failed: no more");
+    EXPECT_EQ(failures.at(0).at(0).toString(), "“Change” failed: no more");
     EXPECT_EQ(stack().count(), 0);
     m_services.executeCommand(new Throwing(m_log, "undo"));
     stack().undo();

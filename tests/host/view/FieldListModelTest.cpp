@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/FieldListModel.h"
 #include "panels/FieldListView.h"
-#include "panels/ValueText.h"
+#include "text/ValueText.h"
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>

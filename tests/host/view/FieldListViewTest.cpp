@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/FieldListView.h"
 #include "panels/FieldListModel.h"
-#include <xsg/nodes/base/SoFieldGallery.h>
+#include <support/SoFieldGallery.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QHeaderView>

@@ -296,11 +296,18 @@ TEST_F(Window, TheSceneMayChangeUnderTheSelection)
     EXPECT_FALSE(window.getTree().currentIndex().isValid());
 }
 
+TEST_F(Window, EveryActionOfTheToolBarHasAnIcon)
+{
+    for (const QToolBar* bar : window.findChildren<QToolBar*>()) {
+        for (const QAction* action : bar->actions())
+            EXPECT_EQ(action->icon().isNull(), action->isSeparator()) << qPrintable(action->text());
+    }
+}
+
 TEST(Themes, AreReadableBoth)
 {
     for (const Theme theme : {Theme::Dark, Theme::Light}) {
-        applyTheme(theme);
-        const QPalette p = QApplication::palette();
+        const QPalette p = themePalette(theme);
         EXPECT_EQ(isDark(p), theme == Theme::Dark);
         for (const auto& [ground, text] : {std::make_pair(QPalette::Window, QPalette::WindowText),
                                            std::make_pair(QPalette::Base, QPalette::Text),

@@ -185,7 +185,7 @@ TEST_F(Files, CancelKeepsTheEditsAndWhatWasOpen)
     SoNode* scene = program->window.getScene();
     for (const auto& act : std::initializer_list<std::function<void()>>{
              [this] { program->window.getFiles().openAnother(shipped("rainbow.ply")); },
-             [this] { program->action("New")->trigger(); }, [this] { program->action("Open …")->trigger(); },
+             [this] { program->action("New")->trigger(); }, [this] { program->action("Open…")->trigger(); },
              [this] { EXPECT_FALSE(program->window.close()); }}) {
         WithDialog box(answer("Cancel"));
         act();

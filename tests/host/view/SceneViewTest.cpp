@@ -3,13 +3,16 @@
 
 #include "window/DefaultScene.h"
 
+#include <xsg/nodes/base/SoTimeSource.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoSpin.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/render/SoOffscreenRenderer.h>
 
 using namespace scopix;
 
@@ -82,6 +85,27 @@ TEST_F(View, ShowsTheScene)
     const QColor green = image.pixelColor(placeOf({2, 0, 1}));
     EXPECT_GT(red.red(), red.green() + 40);
     EXPECT_GT(green.green(), green.red() + 40);
+}
+
+// What Qt reads is more than what the scene-graph library reads by itself.
+TEST_F(View, ReadsTexturesByQtAndLeavesOtherRenderersAlone)
+{
+    const QTemporaryDir folder;
+    QImage blue(2, 2, QImage::Format_RGB32);
+    blue.fill(Qt::blue);
+    ASSERT_TRUE(blue.save(folder.filePath("blue.png")));
+    auto* texture = new SoTexture2;
+    texture->fileName.setValue(SbString(folder.filePath("blue.png").toStdString()));
+    texture->model.setValue(SoTexture2::Replace);
+    scene->insertChild(texture, 0);
+    const QPoint place = placeOf({-2, 0, 1});
+    const QColor inView = picture().pixelColor(place);
+    EXPECT_GT(inView.blue(), inView.red() + 40);
+    SoOffscreenRenderer other;
+    SoPixels pixels;
+    ASSERT_TRUE(other.render(scene.get(), &view.getCamera(), view.width(), view.height(), pixels));
+    const unsigned char* pixel = pixels.at(place.x(), place.y());
+    EXPECT_GT(pixel[0], pixel[2] + 40);
 }
 
 TEST_F(View, DrawsOnlyWhenSomethingChanged)
@@ -313,10 +337,10 @@ TEST_F(View, WhatTurnsElsewhereIsNoneOfItsBusiness)
     other->addChild(spin);
     picture();
     EXPECT_FALSE(view.isAnimating());
-    EXPECT_TRUE(SoSpin::isAnyTurning());
-    EXPECT_FALSE(SoSpin::isAnyTurning(scene.get()));
-    EXPECT_FALSE(SoSpin::advanceAll(1.0, scene.get()));
-    EXPECT_TRUE(SoSpin::advanceAll(1.0, other.get()));
+    EXPECT_TRUE(SoTimeSource::getInstance().isNeeded());
+    EXPECT_FALSE(SoTimeSource::getInstance().isNeeded(scene.get()));
+    EXPECT_FALSE(SoTimeSource::getInstance().advance(1.0, scene.get()));
+    EXPECT_TRUE(SoTimeSource::getInstance().advance(1.0, other.get()));
     EXPECT_EQ(spin->time.getValue(), SbTime(1.0));
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The road of one edit: command, write, undo stack.
 #include "EdFieldEdits.h"
-#include "EdFreshDefault.h"
 
+#include <scopix/editing/SpxFreshDefault.h>
 #include <support/TestHost.h>
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -136,7 +136,7 @@ TEST(DefaultField, IsThatOfAFreshNode)
 {
     const SoRef<SoMaterial> material(new SoMaterial);
     material->shininess.setValue(0.9F);
-    const EdFreshDefault fresh(&material->shininess);
+    const SpxFreshDefault fresh(&material->shininess);
     auto* field = dynamic_cast<SoSFFloat*>(fresh.get());
     ASSERT_TRUE(field);
     EXPECT_NE(field, &material->shininess);

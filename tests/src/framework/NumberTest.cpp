@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Texts and numbers between person, Qt and scene graph.
-#include "EdText.h"
 #include "EdValidators.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QLineEdit>
 #include <QLocale>
@@ -42,20 +43,20 @@ struct GermanLocale {
 TEST(Texts, KeepEveryCharacterBothWays)
 {
     const QString text = QString::fromUtf8("plain äöü € \xf0\x9f\x8e\xa8");
-    EXPECT_EQ(toQString(toSbString(text)), text);
-    EXPECT_EQ(toSbString(text).str(), text.toStdString());
-    EXPECT_EQ(toQString(SbName("caf\xe9")), QString::fromUtf8("café"));
+    EXPECT_EQ(SpxText::toQString(SpxText::toSbString(text)), text);
+    EXPECT_EQ(SpxText::toSbString(text).str(), text.toStdString());
+    EXPECT_EQ(SpxText::toQString(SbName("caf\xe9")), QString::fromUtf8("café"));
 }
 
 TEST(Numbers, ThatAreNoneGiveZero)
 {
-    EXPECT_EQ(toFloatOr0("1.5"), 1.5F);
-    EXPECT_EQ(toFloatOr0("abc"), 0.F);
-    EXPECT_EQ(toFloatOr0(""), 0.F);
-    EXPECT_EQ(toFloatOr0("1,5"), 0.F);
-    EXPECT_EQ(toFloatOr0("1e39"), 0.F);
-    EXPECT_EQ(toDoubleOr0("1e39"), 1e39);
-    EXPECT_EQ(toDoubleOr0("1e400"), 0.0);
+    EXPECT_EQ(SpxText::toFloatOr0("1.5"), 1.5F);
+    EXPECT_EQ(SpxText::toFloatOr0("abc"), 0.F);
+    EXPECT_EQ(SpxText::toFloatOr0(""), 0.F);
+    EXPECT_EQ(SpxText::toFloatOr0("1,5"), 0.F);
+    EXPECT_EQ(SpxText::toFloatOr0("1e39"), 0.F);
+    EXPECT_EQ(SpxText::toDoubleOr0("1e39"), 1e39);
+    EXPECT_EQ(SpxText::toDoubleOr0("1e400"), 0.0);
 }
 
 TEST(IntValidator, RefusesWhileTypingWhatTheTypeCannotHold)

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "EdFieldEdits.h"
-#include "EdText.h"
 #include "SpxFieldEditors.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFFloat.h>
 
 #include <QFrame>
@@ -66,7 +66,7 @@ public:
         calls += "refresh ";
         SbString text;
         getField()->get(text);
-        input->setText(toQString(text));
+        input->setText(SpxText::toQString(text));
     }
     void setRefresh(bool) override {}
     void swapRows(int, int) override {}
@@ -80,7 +80,7 @@ public:
         if (!field)
             return;
         calls += "apply ";
-        EdFieldEdits::write(field, [&] { field->setValue(toFloatOr0(input->text())); });
+        EdFieldEdits::write(field, [&] { field->setValue(SpxText::toFloatOr0(input->text())); });
         input->setModified(false);
     }
     void type(const QString& text)

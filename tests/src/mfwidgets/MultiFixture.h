@@ -4,9 +4,9 @@
 #include "AccessButtonPrivate.h"
 #include "EdMFieldTable.h"
 #include "EdMFieldWidget.h"
-#include "EdText.h"
 #include "support/TestHost.h"
 
+#include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 
 #include <gtest/gtest.h>

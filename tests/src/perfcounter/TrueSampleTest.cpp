@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Samples say what happened in their own period, and nothing of a time that nobody counted.
+// Samples say what happened in their own period, and nothing about the time before it.
 #include "ManagerFixture.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"

@@ -2,8 +2,9 @@
 #include "EdSFFilePathStringWidget.h"
 #include "EdSFNameWidget.h"
 #include "EdSFStringWidget.h"
-#include "EdText.h"
 #include "EditedField.h"
+
+#include <scopix/editing/SpxText.h>
 
 #include <QFileDialog>
 #include <QTemporaryDir>
@@ -169,7 +170,7 @@ TEST(FilePathEditorTest, ChosenFileIsApplied)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
     EditedPath edited;
-    edited.field.setValue(toSbString(folder.filePath("old.txt")));
+    edited.field.setValue(SpxText::toSbString(folder.filePath("old.txt")));
     edited.host.edit(edited.editor, &edited.field);
     QString startedIn;
     inFileDialog(edited, [&](QFileDialog& dialog) {

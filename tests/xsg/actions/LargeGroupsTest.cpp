@@ -3,6 +3,7 @@
 // picks have to be those of a walk that remembers nothing.
 #include <gtest/gtest.h>
 
+#include <xsg/actions/GroupCache.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/nodes/groups/SoLevelOfDetail.h>
@@ -50,11 +51,10 @@ protected:
 
     static void forget(SoNode* node)
     {
-        const SoGroup* group = node->asGroup();
+        SoGroup* group = node->asGroup();
         if (!group)
             return;
-        if (const SoSeparator* separator = group->asSeparator())
-            separator->boxCache() = {};
+        group->setExtension(nullptr);
         for (SoNode* child : group->getChildren())
             forget(child);
     }
@@ -188,9 +188,9 @@ TEST_F(LargeGroup, WhatStandsAfterAMoveChangesWithinIt)
 TEST_F(LargeGroup, ThatIsNoLongerLargeIsWalkedAgain)
 {
     expectAsAfresh("start");
-    while (root->getNumChildren() > SoGroup::ManyChildren - 2) {
+    while (root->getNumChildren() > xsg::GroupCache::ManyChildren - 2) {
         root->removeChild(0);
-        if (root->getNumChildren() < SoGroup::ManyChildren + 2)
+        if (root->getNumChildren() < xsg::GroupCache::ManyChildren + 2)
             expectAsAfresh("fewer");
     }
 }

@@ -2,9 +2,9 @@
 // The library's own counters count where the work happens.
 #include <gtest/gtest.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoFieldSensor.h>
 #include <xsg/sensors/SoSensorQueue.h>

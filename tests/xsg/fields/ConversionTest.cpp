@@ -2,13 +2,13 @@
 // Values that cross from one field type to another.
 #include <gtest/gtest.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/fields/SoSFInt32.h>
 #include <xsg/fields/SoSFString.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 
 #include "FieldSamples.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SoSceneFile.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/nodes/groups/SoSeparator.h>

@@ -21,7 +21,7 @@ constexpr int Tolerance = 12;
 constexpr int OthersInThousand = 5;
 
 // They stand for something else than a look.
-const std::set<std::string> WithoutALook{"FieldGallery", "Info", "UnknownNode"};
+const std::set<std::string> WithoutALook{"Info", "UnknownNode"};
 
 SoOffscreenRenderer& renderer()
 {

@@ -38,24 +38,6 @@ TEST_F(Showcase, HasEveryKindOfNode)
     EXPECT_EQ(used.count("UnknownNode"), 0U);
 }
 
-TEST_F(Showcase, HasEveryTypeOfField)
-{
-    std::set<std::string> used;
-    SoSearchAction all;
-    all.setLimit(-1);
-    for (const SoPath& path : all.apply(scene.get())) {
-        const SoFieldData* data = path.getTail()->getFieldData();
-        for (int i = 0; i < data->getNumFields(); ++i)
-            used.insert(data->getField(path.getTail(), i)->getTypeId().getName().getString());
-    }
-    for (const SoType type : SoType::getAllDerivedFrom(SoField::getClassTypeId())) {
-        if (!type.canCreateInstance())
-            continue;
-        EXPECT_EQ(used.count(type.getName().getString()), 1U)
-            << "data/scenes/showcase.xsg has no " << type.getName().getString();
-    }
-}
-
 TEST_F(Showcase, IsDrawnWithoutAnError)
 {
     static int errors = 0;

@@ -72,3 +72,80 @@ TEST_F(TextureFile, ThatIsDamagedGivesWayToTheImage)
         EXPECT_PIXEL(drawFile(damaged).first, (Pixel{0, 0, 255}));
     }
 }
+
+namespace
+{
+
+class ImageReader : public TextureFile
+{
+protected:
+    void SetUp() override
+    {
+        TextureFile::SetUp();
+        texture->fileName.setValue("picture.any");
+    }
+    ~ImageReader() override { renderer().getRenderer().setImageReader(nullptr); }
+    // Reads a pixel of this colour from whatever file.
+    SoImageReader readerOf(unsigned char red, unsigned char green)
+    {
+        return [this, red, green](const char* path, SoSFImage& image) {
+            paths.emplace_back(path);
+            const unsigned char pixel[] = {red, green, 0};
+            image.setValue(1, 1, 3, pixel);
+            return true;
+        };
+    }
+    Pixel draw(SoOffscreenRenderer& by)
+    {
+        SoPixels pixels;
+        EXPECT_TRUE(by.render(root.get(), camera.get(), 64, 64, pixels)) << by.getErrorText();
+        return center(pixels);
+    }
+
+    std::vector<std::string> paths; // that were read
+};
+
+} // namespace
+
+TEST_F(ImageReader, BelongsToOneRenderer)
+{
+    SoOffscreenRenderer other;
+    EXPECT_PIXEL(draw(renderer()), (Pixel{0, 0, 255})); // the file is not there
+    renderer().getRenderer().setImageReader(readerOf(255, 0));
+    EXPECT_PIXEL(draw(other), (Pixel{0, 0, 255}));
+    EXPECT_PIXEL(draw(renderer()), (Pixel{255, 0, 0}));
+    other.getRenderer().setImageReader(readerOf(0, 255));
+    EXPECT_PIXEL(draw(other), (Pixel{0, 255, 0}));
+    EXPECT_PIXEL(draw(renderer()), (Pixel{255, 0, 0}));
+    renderer().getRenderer().setImageReader(nullptr);
+    EXPECT_PIXEL(draw(renderer()), (Pixel{0, 0, 255}));
+    EXPECT_PIXEL(draw(other), (Pixel{0, 255, 0}));
+}
+
+TEST_F(ImageReader, ReadsAFileOnceForEachName)
+{
+    renderer().getRenderer().setImageReader(readerOf(255, 0));
+    texture->setFolder("/pictures");
+    draw(renderer());
+    texture->wrapS.setValue(SoTexture2::Clamp);
+    draw(renderer());
+    add<SoMaterial>();
+    draw(renderer());
+    EXPECT_EQ(paths, std::vector<std::string>({"/pictures/picture.any"}));
+    texture->fileName.setValue("/elsewhere/picture.any");
+    EXPECT_PIXEL(draw(renderer()), (Pixel{255, 0, 0}));
+    ASSERT_EQ(paths.size(), 2U);
+    EXPECT_EQ(paths.back(), "/elsewhere/picture.any");
+    texture->fileName.setIgnored(true);
+    EXPECT_PIXEL(draw(renderer()), (Pixel{0, 0, 255}));
+    texture->fileName.setIgnored(false);
+    EXPECT_PIXEL(draw(renderer()), (Pixel{255, 0, 0}));
+    // Out of the scene and in again: it is not kept for ever.
+    const SoRef<SoTexture2> kept(texture);
+    const std::size_t before = paths.size();
+    root->removeChild(0);
+    draw(renderer());
+    root->insertChild(texture, 0);
+    EXPECT_PIXEL(draw(renderer()), (Pixel{255, 0, 0}));
+    EXPECT_EQ(paths.size(), before + 1);
+}

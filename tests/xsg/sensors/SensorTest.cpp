@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <support/SoFieldGallery.h>
 #include <xsg/fields/SoSFFloat.h>
-#include <xsg/nodes/base/SoFieldGallery.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/sensors/SoAlarmSensor.h>
 #include <xsg/sensors/SoFieldSensor.h>

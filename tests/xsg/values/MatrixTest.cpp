@@ -4,6 +4,8 @@
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbRotation.h>
 
+#include <cmath>
+
 namespace
 {
 
@@ -39,4 +41,22 @@ TEST(Matrix, ABoxGoesWhereItsCornersGo)
 TEST(Matrix, ABoxOfNothingStaysEmpty)
 {
     EXPECT_TRUE(SbMatrix::translation({1, 2, 3}).transform(SbBox3f()).isEmpty());
+}
+
+TEST(Matrix, TheInverseLeadsBack)
+{
+    const SbMatrix turned = SbMatrix::rotation(SbRotation({1, 2, 3}, 2)) * SbMatrix::translation({5, -7, 9});
+    const auto back = turned.inverse();
+    ASSERT_TRUE(back);
+    const SbVec3f point = back->multPoint(turned.multPoint({1, 2, 3}));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NEAR(point[i], i + 1, 1e-5);
+    EXPECT_EQ(SbMatrix().inverse(), SbMatrix());
+    EXPECT_TRUE(SbMatrix::scale({1e-6F, 1e-6F, 1e-6F}).inverse());
+}
+
+TEST(Matrix, WhatIsSqueezedFlatHasNoInverse)
+{
+    EXPECT_FALSE(SbMatrix::scale({1, 0, 1}).inverse());
+    EXPECT_FALSE(SbMatrix::translation({std::nanf(""), 0, 0}).inverse());
 }

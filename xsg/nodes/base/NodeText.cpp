@@ -9,21 +9,21 @@ constexpr const char* NoNode = "NULL";
 
 } // namespace
 
-void XsgText<SoRef<SoNode>>::write(std::string& out, const SoRef<SoNode>& node)
+void xsg::ValueText<SoRef<SoNode>>::write(std::string& out, const SoRef<SoNode>& node)
 {
     const SbName name = node ? node->getReferenceName() : SbName(NoNode);
     if (node && name == SbName(NoNode))
-        xsgAppendQuoted(out, NoNode);
+        xsg::appendQuoted(out, NoNode);
     else
-        XsgText<SbName>::write(out, name);
+        xsg::ValueText<SbName>::write(out, name);
 }
 
-bool XsgText<SoRef<SoNode>>::read(XsgTextReader& in, SoRef<SoNode>& node)
+bool xsg::ValueText<SoRef<SoNode>>::read(xsg::TextReader& in, SoRef<SoNode>& node)
 {
     in.skipBlanks();
     const bool isQuoted = in.peek() == '"';
     SbName name;
-    if (!XsgText<SbName>::read(in, name))
+    if (!xsg::ValueText<SbName>::read(in, name))
         return false;
     if (!isQuoted && name == SbName(NoNode)) {
         node = nullptr;

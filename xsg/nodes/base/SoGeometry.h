@@ -4,8 +4,9 @@
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbVec.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 /// What a shape looks like, as drawing, picking and boxes use it: corners and how they are joined.
@@ -21,32 +22,40 @@ struct SoGeometry {
 };
 
 /// Two shapes with the same key have the same geometry, so that it is made and kept once.
-struct SoGeometryKey {
-    /// What it is made of: up to five nodes by number, each with its change count, or a solid's kind and
-    /// fineness.
-    std::uint64_t parts[10] = {};
+class SoGeometryKey
+{
+public:
+    /// One part that it is made of: a node's number with its change count, or a solid's kind and fineness.
+    /// The library's shapes have up to five; further ones are mixed into the last.
     void add(std::uint64_t id, std::uint64_t version)
     {
-        parts[used++] = id;
-        parts[used++] = version;
+        const std::size_t at = std::min(2 * m_count++, m_parts.size() - 2);
+        m_parts[at] = mixed(m_parts[at], id);
+        m_parts[at + 1] = mixed(m_parts[at + 1], version);
     }
-    int used = 0;
+    std::size_t hash() const
+    {
+        std::uint64_t all = Seed;
+        for (std::size_t i = 0; i < std::min(2 * m_count, m_parts.size()); ++i)
+            all = mixed(all, m_parts[i]);
+        return static_cast<std::size_t>(all ^ (all >> 32));
+    }
     friend bool operator==(const SoGeometryKey& a, const SoGeometryKey& b)
     {
-        for (int i = 0; i < 10; ++i) {
-            if (a.parts[i] != b.parts[i])
-                return false;
-        }
-        return true;
+        return a.m_count == b.m_count && a.m_parts == b.m_parts;
     }
+
+private:
+    static constexpr std::uint64_t Seed = 0xcbf29ce484222325ULL;
+    static std::uint64_t mixed(std::uint64_t before, std::uint64_t part)
+    {
+        return before == 0 ? part : (before ^ part) * 0x9E3779B97F4A7C15ULL;
+    }
+
+    std::array<std::uint64_t, 10> m_parts{};
+    std::size_t m_count = 0;
 };
 
 struct SoGeometryKeyHash {
-    std::size_t operator()(const SoGeometryKey& key) const
-    {
-        std::uint64_t hash = 0xcbf29ce484222325ULL;
-        for (int i = 0; i < key.used; ++i)
-            hash = (hash ^ key.parts[i]) * 0x9E3779B97F4A7C15ULL;
-        return static_cast<std::size_t>(hash ^ (hash >> 32));
-    }
+    std::size_t operator()(const SoGeometryKey& key) const { return key.hash(); }
 };

@@ -4,7 +4,7 @@
 #include <xsg/fields/SoSFString.h>
 #include <xsg/nodes/base/SoNode.h>
 
-/// A comment: a text for people, without effect on the picture.
+/// A comment: a text for the reader, without effect on the picture.
 class XSG_API SoInfo : public SoTyped<SoInfo, SoNode>
 {
 public:

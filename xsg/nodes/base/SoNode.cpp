@@ -1,27 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/base/SoNode.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/types/SoTypedImpl.h>
 
-#include <atomic>
-
 template class SoTyped<SoNode, SoFieldContainer>;
 
-namespace
-{
-
-std::uint64_t nextNodeId()
-{
-    static std::atomic<std::uint64_t> last{0};
-    return ++last;
-}
-
-} // namespace
-
 SoNode::SoNode()
-    : m_id(nextNodeId())
+    : m_id(++xsg::Context::get().lastNodeId)
 {
     xsg::feeds.nodesAlive.add();
 }
@@ -38,23 +26,21 @@ void SoNode::notify(const SoNotification& change)
     // A walk instead of a recursion, since a scene may be nested deeper than the stack is. Only branching
     // needs memory; the serial lets a shared node pass each change on once.
     std::vector<SoNode*> branches;
-    SoNotification passed = change;
-    passed.node = passed.node ? passed.node : this;
     SoNode* node = this;
-    std::int64_t told = 0;
+    std::int64_t notified = 0;
     if (SoGroup* group = asGroup())
-        group->noteTouched(nullptr, change.serial);
+        group->reportChange(nullptr, change.serial);
     while (node) {
         SoNode* next = nullptr;
         if (node->m_lastSerial != change.serial) {
             node->m_lastSerial = change.serial;
             ++node->m_changeCount;
-            ++told;
+            ++notified;
             if (node->hasSensors())
-                node->SoFieldContainer::notify(passed);
+                node->SoFieldContainer::notify(change);
             const auto& parents = node->m_parents;
             for (SoGroup* parent : parents)
-                parent->noteTouched(node, change.serial);
+                parent->reportChange(node, change.serial);
             if (!parents.empty()) {
                 next = parents.front();
                 branches.insert(branches.end(), parents.begin() + 1, parents.end());
@@ -66,5 +52,5 @@ void SoNode::notify(const SoNotification& change)
         }
         node = next;
     }
-    xsg::feeds.notifications.add(told);
+    xsg::feeds.notifications.add(notified);
 }

@@ -18,8 +18,8 @@ public:
 
     /// Grows whenever this node or anything below it changes; a cache made from it compares this number.
     std::uint32_t getChangeCount() const { return m_changeCount; }
-    /// A number that no other node of this process has or had; a cache can keep it where a pointer could go
-    /// stale.
+    /// A number that no other node of this process has or had; a cache can keep it where a pointer could
+    /// dangle.
     std::uint64_t getNodeId() const { return m_id; }
 
     /// Each place where the node stands, a group that holds it twice being listed twice.
@@ -39,11 +39,10 @@ protected:
 
 private:
     friend class SoGroup;
+    std::uint32_t m_changeCount = 0; // first, where it fills up the padding after the base
     std::vector<SoGroup*> m_parents;
     std::uint64_t m_lastSerial = 0;
     std::uint64_t m_id;
-    std::uint32_t m_changeCount = 0;
-    std::uint32_t m_placeHint = 0; // where it stood among its last parent's children; perhaps no longer
 };
 
 extern template class SoTyped<SoNode, SoFieldContainer>;

@@ -2,7 +2,7 @@
 #include <xsg/nodes/base/SoUnknownField.h>
 
 #include <xsg/types/SoTypedImpl.h>
-#include <xsg/values/XsgText.h>
+#include <xsg/values/ValueText.h>
 
 template class SoTyped<SoUnknownField, SoSField>;
 
@@ -19,8 +19,8 @@ bool SoUnknownField::isSame(const SoField& other) const
 
 bool SoUnknownField::parse(std::string_view text)
 {
-    const std::string_view value = xsgTrimmed(text);
-    const XsgValueExtent extent(value);
+    const std::string_view value = xsg::trimmed(text);
+    const xsg::ValueExtent extent(value);
     if (value.empty() || !extent.isWhole() || extent.length != value.size())
         return false;
     m_text = value;

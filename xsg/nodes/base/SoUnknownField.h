@@ -6,8 +6,8 @@
 #include <string>
 
 /// A field of a node of a type that this program does not know: its value is the text that a file has after
-/// the field's name. Connected from a field of a known type it keeps that text, since nobody knows how to
-/// convert; what is connected from it takes the text.
+/// the field's name. Connected from a field of a known type it keeps that text, since there is no known
+/// conversion; what is connected from it takes the text.
 class XSG_API SoUnknownField : public SoTyped<SoUnknownField, SoSField>
 {
 public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/cameras/SoCamera.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/nodes/base/SoState.h>
 #include <xsg/types/SoTypedImpl.h>
 #include <xsg/values/SbRotation.h>
@@ -19,10 +20,14 @@ constexpr float Filled = 0.88F;
 constexpr float Thinnest = 1e-6F;
 constexpr float ThinnestPart = 0.01F;
 
+struct Cameras {
+    std::unordered_set<SoCamera*> living;
+};
+
 std::unordered_set<SoCamera*>& allCameras()
 {
-    static auto& cameras = *new std::unordered_set<SoCamera*>;
-    return cameras;
+    static auto& cameras = xsg::Context::get().state<Cameras>();
+    return cameras.living;
 }
 
 } // namespace
@@ -65,10 +70,12 @@ SbVec3f SoCamera::getFocalPoint() const
 
 SbRay SoCamera::getRay(float x, float y, float aspect) const
 {
-    const SbMatrix toWorld = (getViewMatrix() * getProjectionMatrix(aspect)).inverse();
-    const SbVec3f near = toWorld.multPoint({2 * x - 1, 2 * y - 1, -1});
+    const auto toWorld = (getViewMatrix() * getProjectionMatrix(aspect)).inverse();
+    if (!toWorld) // it sees no space at all: an angle, a height or an aspect of 0
+        return {position.getValue(), getDirection()};
+    const SbVec3f near = toWorld->multPoint({2 * x - 1, 2 * y - 1, -1});
     // Halfway in depth: a far plane at a great distance would lose the digits.
-    const SbVec3f beyond = toWorld.multPoint({2 * x - 1, 2 * y - 1, 0});
+    const SbVec3f beyond = toWorld->multPoint({2 * x - 1, 2 * y - 1, 0});
     return {near, (beyond - near).normalized()};
 }
 

@@ -50,7 +50,7 @@ public:
     void orbit(float aroundY, float aroundX);
     /// Moves sideways by parts of the picture's height, at the focal point.
     void pan(float right, float up);
-    /// Below 1 comes nearer, above 1 goes away. Keeps the place (x, y) of the picture where it is.
+    /// Below 1 comes nearer, above 1 moves away. Keeps the place (x, y) of the picture where it is.
     void zoom(float factor, float x = 0.5F, float y = 0.5F, float aspect = 1.0F);
 
 protected:

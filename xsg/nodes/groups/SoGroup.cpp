@@ -46,7 +46,6 @@ bool SoGroup::insertChild(SoNode* child, int index)
         return false;
     const int place = std::clamp(index, 0, getNumChildren());
     adopt(child);
-    child->m_placeHint = static_cast<std::uint32_t>(place);
     m_children.insert(m_children.begin() + place, child);
     childrenChanged();
     return true;
@@ -98,8 +97,8 @@ void SoGroup::release(SoNode* child)
     child->unref();
 }
 
-// When everything goes, this group's places are a child's last ones; where they are not, all of them leave in
-// one pass.
+// When a whole scene is destroyed, this group is mostly the last of a child's parents; where it is not, all
+// of the child's entries for this group are removed in one pass.
 void SoGroup::disownAll(const std::vector<SoNode*>& children)
 {
     std::unordered_set<const SoNode*> swept;
@@ -119,52 +118,17 @@ void SoGroup::childrenChanged()
     notify(change);
 }
 
-void SoGroup::rememberTouched() const
-{
-    if (!m_touched)
-        m_touched = std::make_unique<xsg::ChangeLog>(getChangeCount());
-}
-
-void SoGroup::noteTouched(const SoNode* child, std::uint64_t serial)
+void SoGroup::reportChange(const SoNode* child, std::uint64_t serial)
 {
     // Two children may bring the same change; it counts once.
-    if (m_touched)
-        m_touched->add(child, getChangeCount() + (m_lastSerial == serial ? 0 : 1));
-}
-
-bool SoGroup::findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const
-{
-    std::vector<const SoNode*> touched;
-    if (!m_touched || !m_touched->collectSince(since, touched))
-        return false;
-    // The group itself changed, so that the others may be gone.
-    if (std::find(touched.begin(), touched.end(), nullptr) != touched.end())
-        return false;
-    for (const SoNode* child : touched)
-        findPlaces(child, places);
-    std::sort(places.begin(), places.end());
-    return true;
-}
-
-void SoGroup::findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const
-{
-    // With one parent it stands in one place, most likely where it was put.
-    const std::uint32_t hint = child->m_placeHint;
-    if (child->m_parents.size() == 1 && hint < m_children.size() && m_children[hint] == child) {
-        places.push_back(hint);
-        return;
-    }
-    for (auto at = std::find(m_children.begin(), m_children.end(), child); at != m_children.end();
-         at = std::find(at + 1, m_children.end(), child)) {
-        places.push_back(static_cast<std::uint32_t>(at - m_children.begin()));
-        (*at)->m_placeHint = places.back();
-    }
+    if (m_extension)
+        m_extension->noteChange(child, getChangeCount() + (m_lastSerial == serial ? 0 : 1));
 }
 
 SoGroup::~SoGroup()
 {
     disownAll(m_children);
-    // They go once this one is gone, and the last one first.
+    // Children are destroyed after their group (see SoFieldContainer::destroy()), the last one first.
     for (const SoNode* child : m_children)
         child->unref();
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/nodes/groups/ChangeLog.h>
+#include <xsg/nodes/groups/SoGroupExtension.h>
 
 /// Children first to last - 1.
 struct SoChildRange {
@@ -34,7 +34,7 @@ public:
     bool replaceChild(int index, SoNode* child);
 
     SoGroup* asGroup() override { return this; }
-    /// This group as one that remembers its box, or null; cheaper than a cast.
+    /// This group as a separator, or null; cheaper than a cast.
     virtual const SoSeparator* asSeparator() const { return nullptr; }
     /// Whether what the children set ends with the group.
     virtual bool isStateScope() const { return false; }
@@ -43,13 +43,11 @@ public:
     /// The children that count at present; a group that chooses among its children narrows it.
     virtual SoChildRange getChosenChildren(const SoState& /*state*/) const { return {0, getNumChildren()}; }
 
-    /// From this many children on, looking only at those that changed is worth remembering which they were.
-    static constexpr int ManyChildren = 64;
-    /// Remembers from now on.
-    void rememberTouched() const;
-    /// The places of the children that changed (they, or what is below them) since getChangeCount() was
-    /// `since`, in order. False where that is not known, or where the group itself changed.
-    bool findTouched(std::uint32_t since, std::vector<std::uint32_t>& places) const;
+    /// A place for what the level above the nodes remembers about the group, for that level alone; null at
+    /// first.
+    SoGroupExtension* getExtension() { return m_extension.get(); }
+    /// Destroys the one before.
+    void setExtension(std::unique_ptr<SoGroupExtension> extension) { m_extension = std::move(extension); }
 
 protected:
     ~SoGroup() override;
@@ -62,11 +60,11 @@ private:
     void childrenChanged();
     bool wouldLoop(const SoNode* child) const;
 
-    void noteTouched(const SoNode* child, std::uint64_t serial);
-    void findPlaces(const SoNode* child, std::vector<std::uint32_t>& places) const;
+    /// `child`: null for the group itself.
+    void reportChange(const SoNode* child, std::uint64_t serial);
 
     std::vector<SoNode*> m_children; // one reference each
-    mutable std::unique_ptr<xsg::ChangeLog> m_touched;
+    std::unique_ptr<SoGroupExtension> m_extension;
 };
 
 extern template class SoTyped<SoGroup, SoNode>;

@@ -10,7 +10,7 @@ class XSG_API SoDirectionalLight : public SoTyped<SoDirectionalLight, SoLight>
 public:
     static constexpr const char* ClassName = "DirectionalLight";
 
-    SoSFVec3f direction{this, "direction", {0, 0, -1}}; // the way the light goes
+    SoSFVec3f direction{this, "direction", {0, 0, -1}}; // in which the light shines
 
     SoLightSource getSource(const SbMatrix& toWorld) const override;
 };

@@ -4,7 +4,7 @@
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/lights/SoLight.h>
 
-/// Light that goes out from a place in all directions.
+/// Light that shines from a place in all directions.
 class XSG_API SoPointLight : public SoTyped<SoPointLight, SoLight>
 {
 public:

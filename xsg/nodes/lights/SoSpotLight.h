@@ -5,7 +5,7 @@
 #include <xsg/fields/SoSFVec3f.h>
 #include <xsg/nodes/lights/SoLight.h>
 
-/// Light that goes out from a place within a cone.
+/// Light that shines from a place within a cone.
 class XSG_API SoSpotLight : public SoTyped<SoSpotLight, SoLight>
 {
 public:

@@ -10,12 +10,13 @@ void SoClipPlane::apply(SoState& state) const
 {
     const SbVec3f normal = plane.getValue().getNormal();
     const float length = normal.length();
-    // Without a normal there is no side to keep.
-    if (!on.getValue() || !(length > 0))
+    const auto toLocal = state.modelMatrix.inverse();
+    // Without a normal there is no side to keep, nor where space is squeezed flat.
+    if (!on.getValue() || !(length > 0) || !toLocal)
         return;
     const SbVec3f unit = normal * (1 / length);
     const SbVec3f point =
         state.modelMatrix.multPoint(unit * (plane.getValue().getDistanceFromOrigin() / length));
-    const SbVec3f turned = state.modelMatrix.inverse().transposed().multDirection(unit).normalized();
+    const SbVec3f turned = toLocal->transposed().multDirection(unit).normalized();
     state.addClipPlane(SbPlane(turned, turned.dot(point)));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A small font of 5 by 7 dots.
+// A small font of 5 by 7 dots, for ASCII. Own code: a font library would bring files to find and install, for
+// labels in scenes.
 #pragma once
 
 namespace xsg

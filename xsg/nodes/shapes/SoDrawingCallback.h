@@ -4,7 +4,9 @@
 #include <xsg/fields/SoSFBox3f.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
-/// What a drawing callback is told. All matrices as SbMatrix has them: points are rows.
+#include <functional>
+
+/// What a drawing callback receives. All matrices as SbMatrix has them: points are rows.
 struct SoDrawingContext {
     SbMatrix modelMatrix;
     SbMatrix viewMatrix;
@@ -24,7 +26,7 @@ public:
     SoSFBox3f box{this, "box"}; // around what is drawn; empty: takes no part in boxes
 
     /// Called in each frame after the opaque shapes, on the rendering thread, with the context current. It
-    /// may change any OpenGL setting but the framebuffer; the renderer sets its own anew. Must not change the
+    /// may change any OpenGL setting but the framebuffer; the renderer restores its own. Must not change the
     /// scene.
     void setCallback(Callback callback);
     const Callback& getCallback() const { return m_callback; }

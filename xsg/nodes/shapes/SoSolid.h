@@ -17,7 +17,7 @@ public:
 protected:
     /// How many pieces a full turn is drawn with: 8 to 128, 32 at a complexity of 0.5.
     static int getSegments(const SoState& state);
-    /// `variant` tells apart what the type and the segments do not.
+    /// `variant` distinguishes what the type and the segments do not.
     SoGeometryKey makeKey(int segments, int variant = 0) const;
 };
 

@@ -101,7 +101,7 @@ void SoVertexShape::addColors(const SoState& state, const Corners& corners, SoGe
     if (!material || (binding != PerFace && binding != PerVertex))
         return;
     const auto count = static_cast<std::size_t>(material->diffuseColor.getNum());
-    // More faces than colours: the list starts anew.
+    // More faces than colours: the list starts again.
     const auto color = [&](std::size_t i) { return material->diffuseColor[static_cast<int>(i % count)]; };
     if (binding == PerFace)
         separateCorners(g);

@@ -10,7 +10,7 @@ class XSG_API SoTransformation : public SoTyped<SoTransformation, SoNode>
 public:
     static constexpr const char* ClassName = "Transformation";
 
-    /// From the coordinates of what follows to those of what went before.
+    /// From the coordinates of what follows to those of what precedes it.
     virtual SbMatrix getMatrix() const = 0;
     void apply(SoState& state) const override;
 };

@@ -1,0 +1,57 @@
+# SPDX-License-Identifier: MIT
+# The SDK, header by header. What is not listed here is not installed.
+
+set(SCOPIX_XSG_HEADERS
+  # Plain values and their texts
+  SbBox.h SbMatrix.h SbName.h SbPlane.h SbRay.h SbRotation.h SbString.h SbTime.h SbVec.h ValueText.h XsgExport.h
+  # Run-time types
+  SoType.h SoTyped.h SoTypedImpl.h SoTypedObject.h
+  # Errors
+  SoDebugError.h SoError.h SoErrorHandler.h SoErrorStack.h SoGLError.h SoMemoryError.h SoReadError.h
+  # Performance counters
+  SoPerfAccumCounter.h SoPerfCounter.h SoPerfCounterManager.h SoPerfFeed.h SoPerfStateCounter.h
+  # Preferences, memory
+  SoPreferences.h XsgMalloc.h
+  # Fields and what holds them
+  ChangeListener.h SoField.h SoFieldContainer.h SoFieldData.h SoMField.h SoNotification.h SoSField.h
+  # The types of fields
+  SoEnumTable.h SoMFBitMask.h SoMFBool.h SoMFBox3f.h SoMFColor.h SoMFDouble.h SoMFEnum.h SoMFFloat.h
+  SoMFInt32.h SoMFMatrix.h SoMFName.h SoMFPlane.h SoMFRotation.h SoMFShort.h SoMFString.h SoMFTime.h
+  SoMFUInt32.h SoMFUShort.h SoMFVec2d.h SoMFVec2f.h SoMFVec2i32.h SoMFVec2s.h SoMFVec3d.h SoMFVec3f.h
+  SoMFVec3s.h SoMFVec4d.h SoMFVec4f.h SoMValue.h SoSFBitMask.h SoSFBool.h SoSFBox3f.h SoSFBox3s.h SoSFColor.h
+  SoSFDouble.h SoSFEnum.h SoSFFilePathString.h SoSFFloat.h SoSFImage.h SoSFInt32.h SoSFMatrix.h SoSFName.h
+  SoSFPlane.h SoSFRotation.h SoSFShort.h SoSFString.h SoSFTime.h SoSFUInt32.h SoSFUShort.h SoSFVec2d.h
+  SoSFVec2f.h SoSFVec2i32.h SoSFVec2s.h SoSFVec3d.h SoSFVec3f.h SoSFVec3s.h SoSFVec4d.h SoSFVec4f.h SoSValue.h
+  # Sensors
+  SoAlarmSensor.h SoDataSensor.h SoFieldSensor.h SoIdleSensor.h SoNodeSensor.h SoSensor.h SoSensorQueue.h
+  SoTimedSensor.h SoTimerSensor.h
+  # Nodes
+  NodeText.h SoGeometry.h SoInfo.h SoMFNode.h SoNode.h SoSFNode.h SoState.h SoTimeSource.h
+  SoGroup.h SoGroupExtension.h SoInstances.h SoLevelOfDetail.h SoSeparator.h SoSwitch.h
+  SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
+  SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h
+  SoSolid.h SoSphere.h SoTriangleSet.h SoTriangleStripSet.h SoVertexShape.h
+  SoAmbientLight.h SoDirectionalLight.h SoLight.h SoPointLight.h SoSpotLight.h
+  SoCamera.h SoOrthographicCamera.h SoPerspectiveCamera.h
+  SoMatrixTransform.h SoSpin.h SoTransform.h SoTransformation.h
+  SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
+  SoTextureCoordinates.h SoTextureTransform.h
+  # Actions
+  SoBoundingBoxAction.h SoPath.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  # Drawing
+  SoImageReader.h SoOffscreenRenderer.h SoRenderer.h
+  # Scene files
+  SoSceneFile.h
+  # The library as a whole
+  SoDB.h)
+
+set(SCOPIX_EXTENDER_HEADERS
+  SpxCommand.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
+  SpxProfile.h SpxServices.h SpxShell.h SpxVersion.h)
+
+set(SCOPIX_HOST_HEADERS
+  CommandLine.h HostApplication.h HostExport.h)
+
+set(SCOPIX_EDITING_HEADERS
+  SpxEditingExport.h SpxFieldEdit.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)

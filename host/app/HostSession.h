@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/SensorPump.h"
+#include "plugins/HostPluginsManager.h"
+#include "services/HostServices.h"
+#include "shell/HostShell.h"
+#include "support/UserNotifier.h"
+#include "undo/UndoShortcutFilter.h"
+#include "window/HostWindow.h"
+
+#include <scopix-host/CommandLine.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace scopix
+{
+
+/// What HostApplication consists of, around any window: services, shell, plug-ins and profiles, set up in
+/// their order and taken down in the reverse one. Needs a QApplication, of which it changes nothing. GUI
+/// thread only.
+class HostSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    using MakeWindow = std::function<std::unique_ptr<HostWindow>(HostServices&, UserNotifier&)>;
+
+    explicit HostSession(const MakeWindow& makeWindow,
+                         ProfileFile profiles = ProfileFile(ProfileFile::standardPath()));
+    /// Unloads the plug-ins while the window still stands.
+    ~HostSession() override;
+
+    HostServices& services() { return m_services; }
+    UserNotifier& notifier() { return m_notifier; }
+    HostWindow& window() { return *m_window; }
+    HostShell& shell() { return m_shell; }
+    HostPluginsManager& plugins() { return m_plugins; }
+
+    /// Loads the plug-ins that lie in the standard folders.
+    void loadStandardPlugins();
+    /// Does what the command line asks for.
+    void start(const CommandLine& line);
+    /// start(), and the event loop until finished() or the application quits. Returns the exit status: 1 when
+    /// something of the command line could not be done.
+    int run(const CommandLine& line);
+
+signals:
+    /// The window was closed, or everything that the command line asks for is done and nobody is there to go
+    /// on.
+    void finished();
+
+private:
+    void connectParts();
+    void loadPlugins(const CommandLine& line);
+    void openFinished();
+    void finish(const CommandLine& line);
+    void restoreLayout();
+    void saveLayout() const;
+
+    SensorPump m_pump;
+    UserNotifier m_notifier;
+    HostServices m_services;
+    std::unique_ptr<HostWindow> m_window;
+    HostShell m_shell;
+    HostPluginsManager m_plugins;
+    UndoShortcutFilter m_undoShortcuts;
+    std::optional<CommandLine> m_asked; // until its file has been opened
+    bool m_keepsLayout = false; // a user works with the window
+    int m_status = 0;
+};
+
+} // namespace scopix

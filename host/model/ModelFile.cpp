@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "model/ModelFile.h"
+
+#include "model/ModelReadResult.h"
+
+#include <QDataStream>
+
+#include <algorithm>
+#include <tuple>
+#include <type_traits>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr std::uint32_t Mark = 0x5370784D;
+
+// The members of each part of a model, for both directions: `Part` is const where it is written.
+template <class Part>
+auto membersOf(Part& part)
+{
+    using Plain = std::remove_const_t<Part>;
+    if constexpr (std::is_same_v<Plain, ModelData::Mesh>) {
+        return std::tie(part.name, part.material, part.points, part.normals, part.textureCoordinates,
+                        part.colors, part.index);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Material>) {
+        return std::tie(part.name, part.ambient, part.diffuse, part.specular, part.emissive, part.shininess,
+                        part.transparency, part.picture, part.clampS, part.clampT);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Picture>) {
+        return std::tie(part.name, part.width, part.height, part.components, part.bytes);
+    } else if constexpr (std::is_same_v<Plain, ModelData::Node>) {
+        return std::tie(part.name, part.matrix, part.meshes, part.children, part.light, part.camera);
+    } else {
+        static_assert(std::is_same_v<Plain, ModelData>);
+        return std::tie(part.meshes, part.materials, part.pictures, part.lights, part.cameras, part.nodes);
+    }
+}
+
+// What can be handed over as the bytes that it has in memory.
+template <class T>
+constexpr bool isPlain = std::is_trivially_copyable_v<T>;
+
+template <class T>
+struct IsList : std::false_type {
+};
+template <>
+struct IsList<std::string> : std::true_type {
+};
+template <class T>
+struct IsList<std::vector<T>> : std::true_type {
+};
+
+// QDataStream counts in int; a model may be larger than that.
+void writeBytes(QDataStream& stream, const void* from, std::size_t size)
+{
+    const auto* at = static_cast<const char*>(from);
+    const auto wanted = static_cast<qint64>(size);
+    if (stream.status() == QDataStream::Ok && stream.device()->write(at, wanted) != wanted)
+        stream.setStatus(QDataStream::WriteFailed);
+}
+
+void readBytes(QDataStream& stream, void* to, std::size_t size)
+{
+    const auto wanted = static_cast<qint64>(size);
+    if (stream.status() == QDataStream::Ok && stream.device()->read(static_cast<char*>(to), wanted) != wanted)
+        stream.setStatus(QDataStream::ReadPastEnd);
+}
+
+template <class T>
+void write(QDataStream& stream, const T& value)
+{
+    if constexpr (isPlain<T>) {
+        writeBytes(stream, &value, sizeof value);
+    } else if constexpr (IsList<T>::value) {
+        stream << static_cast<quint64>(value.size());
+        if constexpr (isPlain<typename T::value_type>)
+            writeBytes(stream, value.data(), value.size() * sizeof(typename T::value_type));
+        else
+            for (const auto& each : value)
+                write(stream, each);
+    } else {
+        std::apply([&](const auto&... member) { (write(stream, member), ...); }, membersOf(value));
+    }
+}
+
+// An element takes a byte or more, so that a wrong count asks for no memory that is not there.
+template <class List>
+void readSize(QDataStream& stream, List& list)
+{
+    using Element = typename List::value_type;
+    quint64 count = 0;
+    stream >> count;
+    if (count >
+        static_cast<quint64>(stream.device()->bytesAvailable()) / (isPlain<Element> ? sizeof(Element) : 1))
+        stream.setStatus(QDataStream::ReadCorruptData);
+    list.resize(stream.status() == QDataStream::Ok ? count : 0);
+}
+
+template <class T>
+void read(QDataStream& stream, T& value)
+{
+    if constexpr (isPlain<T>) {
+        readBytes(stream, &value, sizeof value);
+    } else if constexpr (IsList<T>::value) {
+        readSize(stream, value);
+        if constexpr (isPlain<typename T::value_type>)
+            readBytes(stream, value.data(), value.size() * sizeof(typename T::value_type));
+        else
+            for (auto& each : value)
+                read(stream, each);
+    } else {
+        std::apply([&](auto&... member) { (read(stream, member), ...); }, membersOf(value));
+    }
+}
+
+template <class List>
+bool isPlace(int place, const List& list)
+{
+    return place >= -1 && place < static_cast<int>(list.size());
+}
+
+bool isConsistent(const ModelData& model)
+{
+    const auto allOf = [](const auto& list, auto good) {
+        return std::all_of(list.begin(), list.end(), good);
+    };
+    const auto isNode = [&](const ModelData::Node& node) {
+        const auto place = &node - model.nodes.data();
+        return isPlace(node.light, model.lights) && isPlace(node.camera, model.cameras) &&
+               allOf(node.meshes, [&](int mesh) { return mesh >= 0 && isPlace(mesh, model.meshes); }) &&
+               allOf(node.children, [&](int child) { return child > place && isPlace(child, model.nodes); });
+    };
+    return allOf(model.nodes, isNode) &&
+           allOf(model.meshes, [&](const auto& mesh) { return isPlace(mesh.material, model.materials); }) &&
+           allOf(model.materials, [&](const auto& look) { return isPlace(look.picture, model.pictures); });
+}
+
+} // namespace
+
+bool writeModelFile(const ModelReadResult& model, QIODevice& file)
+{
+    QDataStream stream(&file);
+    stream << Mark << model.error;
+    write(stream, model.data);
+    stream << Mark;
+    return stream.status() == QDataStream::Ok;
+}
+
+bool readModelFile(QIODevice& file, ModelReadResult& model)
+{
+    QDataStream stream(&file);
+    std::uint32_t begin = 0;
+    std::uint32_t end = 0;
+    stream >> begin >> model.error;
+    read(stream, model.data);
+    stream >> end;
+    return stream.status() == QDataStream::Ok && stream.atEnd() && begin == Mark && end == Mark &&
+           isConsistent(model.data);
+}
+
+} // namespace scopix

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/ModelData.h"
+
+#include <QString>
+
+namespace scopix
+{
+
+/// What reading a model file gave.
+struct ModelReadResult {
+    ModelData data;
+    QString error; // one sentence, or empty
+};
+
+} // namespace scopix

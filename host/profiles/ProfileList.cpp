@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "profiles/ProfileList.h"
+
+#include <algorithm>
+#include <map>
+
+namespace scopix
+{
+
+namespace
+{
+
+void addDefault(std::vector<ProfileChoice>& choices)
+{
+    const auto isDefault = [](const ProfileChoice& each) { return each.name == HostProfile::defaultName(); };
+    if (std::none_of(choices.begin(), choices.end(), isDefault))
+        choices.insert(choices.begin(), ProfileFile::shipped().profiles.front());
+}
+
+} // namespace
+
+ProfileList::ProfileList(ProfileFile file)
+    : m_file(std::move(file))
+{
+    adopt({}, HostProfile::defaultName());
+}
+
+ProfileList::~ProfileList() = default;
+
+void ProfileList::read()
+{
+    QString error;
+    ProfileSettings settings = m_file.read(error);
+    adopt(std::move(settings.profiles), settings.active);
+    if (!error.isEmpty())
+        emit failed(error);
+}
+
+HostProfile* ProfileList::findProfile(const QString& name) const
+{
+    return m_byName.value(name);
+}
+
+void ProfileList::setActiveProfile(const SpxProfile* profile)
+{
+    const auto is = [profile](const auto& each) { return each.get() == profile; };
+    const auto known = std::find_if(m_profiles.begin(), m_profiles.end(), is);
+    if (known != m_profiles.end())
+        makeActive(known->get(), true);
+}
+
+bool ProfileList::useProfile(const QString& name)
+{
+    HostProfile* profile = findProfile(name);
+    if (profile)
+        makeActive(profile, false);
+    return profile != nullptr;
+}
+
+void ProfileList::makeActive(HostProfile* profile, bool remember)
+{
+    const bool isAnother = m_active != profile;
+    m_active = profile;
+    if (remember && m_rememberedActive != profile->name()) {
+        m_rememberedActive = profile->name();
+        save();
+    }
+    if (isAnother)
+        emit activeChanged();
+}
+
+void ProfileList::setProfiles(std::vector<ProfileChoice> choices, const QString& active)
+{
+    adopt(std::move(choices), active);
+    save();
+}
+
+void ProfileList::adopt(std::vector<ProfileChoice> choices, const QString& active)
+{
+    addDefault(choices);
+    replaceProfiles(std::move(choices));
+    fillSettings();
+    HostProfile* wanted = findProfile(active);
+    m_active = wanted ? wanted : findProfile(HostProfile::defaultName());
+    m_rememberedActive = m_active->name();
+    emit changed();
+    emit activeChanged();
+}
+
+void ProfileList::replaceProfiles(std::vector<ProfileChoice> choices)
+{
+    std::map<QString, std::unique_ptr<HostProfile>> former;
+    for (auto& profile : m_profiles) {
+        const QString name = profile->name();
+        former[name] = std::move(profile);
+    }
+    m_profiles.clear();
+    m_byName.clear();
+    for (ProfileChoice& choice : choices) {
+        const QString name = choice.name;
+        std::unique_ptr<HostProfile> profile = std::move(former[name]);
+        if (!profile)
+            profile = std::make_unique<HostProfile>(std::move(choice));
+        else if (!profile->isDefault())
+            profile->setChoice(std::move(choice));
+        m_byName.insert(name, profile.get());
+        m_profiles.push_back(std::move(profile));
+    }
+    for (auto& [name, profile] : former) {
+        if (profile)
+            m_retired.push_back(std::move(profile));
+    }
+}
+
+void ProfileList::setExtensions(std::vector<ProfiledExtension> extensions)
+{
+    m_extensions = std::move(extensions);
+    fillSettings();
+}
+
+void ProfileList::fillSettings()
+{
+    for (const auto& profile : m_profiles) {
+        QList<SpxExtension*> controlled;
+        for (const ProfiledExtension& each : m_extensions) {
+            if (each.isLoaded && profile->controls(each.name, each.isEditor))
+                controlled += each.extension;
+        }
+        profile->setting().setControlledExtensions(controlled);
+    }
+}
+
+void ProfileList::save()
+{
+    ProfileSettings settings{{}, m_rememberedActive};
+    for (const auto& profile : m_profiles)
+        settings.profiles.push_back(profile->choice());
+    const QString problem = m_file.write(settings);
+    if (!problem.isEmpty())
+        emit failed(problem);
+}
+
+} // namespace scopix

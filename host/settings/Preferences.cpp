@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "settings/Preferences.h"
+
+#include "settings/UserSettings.h"
+
+#include <xsg/errors/SoReadError.h>
+#include <xsg/support/SoPreferences.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr qint64 LargestFile = 1 << 20;
+
+QString path()
+{
+    const QString chosen = qEnvironmentVariable("XSG_PREFERENCES");
+    return chosen.isEmpty() ? UserSettings::path(QStringLiteral("preferences.conf")) : chosen;
+}
+
+void report(const QIODevice& device, int line, const char* sentence)
+{
+    const auto* file = qobject_cast<const QFile*>(&device);
+    SoReadError::post(file ? file->fileName().toStdString() : std::string(), line, sentence);
+}
+
+// A '#' begins a comment at the start of a word; inside one, as in a file name, it stands for itself.
+bool readLine(QString line, QSettings::SettingsMap& values)
+{
+    static const QRegularExpression comment(QStringLiteral("(^|\\s)#.*$"));
+    static const QRegularExpression blank(QStringLiteral("^\\s*$"));
+    static const QRegularExpression setting(QStringLiteral("^\\s*(\\w+)\\s*=\\s*(.*?)\\s*$"));
+    line.remove(QLatin1Char('\n')).remove(comment);
+    const QRegularExpressionMatch match = setting.match(line);
+    if (match.hasMatch())
+        values.insert(match.captured(1), match.captured(2));
+    return match.hasMatch() || blank.match(line).hasMatch();
+}
+
+// The bytes of a value are kept as they are, whatever their encoding: each is one Latin-1 character.
+bool readPreferences(QIODevice& device, QSettings::SettingsMap& values)
+{
+    if (device.size() > LargestFile) {
+        report(device, 0, "The settings file is too large; expected at most 1 MiB.");
+        return true;
+    }
+    for (int number = 1; !device.atEnd(); ++number) {
+        if (!readLine(QString::fromLatin1(device.readLine()), values))
+            report(device, number, "The line is no setting; expected NAME = value.");
+    }
+    return true;
+}
+
+bool refuseToWrite(QIODevice& /*device*/, const QSettings::SettingsMap& /*values*/)
+{
+    return false; // only the user writes this file
+}
+
+QSettings::Format format()
+{
+    static const QSettings::Format registered =
+        QSettings::registerFormat(QStringLiteral("conf"), readPreferences, refuseToWrite, Qt::CaseSensitive);
+    return registered;
+}
+
+} // namespace
+
+void Preferences::feed()
+{
+    const QSettings preferences(path(), format());
+    for (const QString& name : preferences.allKeys())
+        SoPreferences::setValue(name.toLatin1().constData(),
+                                preferences.value(name).toString().toLatin1().toStdString());
+}
+
+} // namespace scopix

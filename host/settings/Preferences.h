@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace scopix
+{
+
+/// The user's preferences, kept by the host and handed to SoPreferences, which the scene-graph library and
+/// the plug-ins ask. They are in the file that the environment variable XSG_PREFERENCES names, or else in
+/// preferences.conf among the user's settings, in lines of the form
+///
+///     XSG_PERFCOUNTER_ENABLE = 1      # up to here
+///
+/// A line that is none of these is reported by one SoReadError with its number, and skipped. A file that does
+/// not exist is no error.
+namespace Preferences
+{
+
+/// Reads the file and sets its values. Call before plug-ins are loaded. GUI thread only.
+void feed();
+
+} // namespace Preferences
+
+} // namespace scopix

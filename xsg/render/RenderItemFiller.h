@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/render/RenderList.h>
+
+namespace xsg
+{
+
+/// Fills in what is drawn of a shape, with the state at it; takes geometry and texture from their stores.
+class RenderItemFiller
+{
+public:
+    RenderItemFiller(DrawStateTable& drawStates, GeometryStore& geometry, TextureStore& textures)
+        : m_drawStates(drawStates)
+        , m_geometry(geometry)
+        , m_textures(textures)
+    {
+    }
+    /// The item becomes a user of its geometry; the one it had before is not released.
+    void fill(RenderItem& item, const SoShape& shape, const SoState& state, const SbMatrix& toWorld);
+
+private:
+    DrawStateTable& m_drawStates;
+    GeometryStore& m_geometry;
+    TextureStore& m_textures;
+};
+
+} // namespace xsg

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include <xsg/render/RenderListBuilder.h>
+
+#include <xsg/actions/GroupCache.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/shapes/SoDrawingCallback.h>
+
+xsg::RenderListBuilder::RenderListBuilder(RenderList& list, GeometryStore& geometry, TextureStore& textures)
+    : m_list(list)
+    , m_geometry(geometry)
+    , m_textures(textures)
+    , m_filler(list.drawStates, geometry, textures)
+{
+}
+
+void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
+{
+    m_list.clear();
+    m_geometry.releaseAllUsers();
+    m_textures.beginRound();
+    m_openGroups.clear();
+    m_wantedCamera = view.camera;
+    resetState();
+    state().eye = view.eye;
+    traverse(root);
+    m_geometry.removeUnused();
+    m_textures.endRound();
+    m_list.statesWhenBuilt = m_list.drawStates.getSize();
+    m_list.boxes.build(m_list.items.size(), [this](std::size_t i) { return m_list.items[i].box; });
+    m_list.box = m_list.boxes.getWhole();
+    m_list.sort();
+}
+
+bool xsg::RenderListBuilder::wantsGroup(SoGroup* group)
+{
+    m_list.isViewDependent = m_list.isViewDependent || group->isViewDependent();
+    m_openGroups.push_back(m_list.record.openGroup(group, m_list.items.size()));
+    return true;
+}
+
+void xsg::RenderListBuilder::leaveGroup(SoGroup* group)
+{
+    const std::uint32_t place = m_openGroups.back();
+    m_openGroups.pop_back();
+    m_list.record.closeGroup(place);
+    if (group->getNumChildren() >= GroupCache::ManyChildren && m_list.record.addChildren(place, *group))
+        GroupCache::of(*group); // keeps track of changes from now on
+}
+
+void xsg::RenderListBuilder::visitProperty(SoNode* node)
+{
+    if (state().camera == node)
+        m_list.noteCamera(state(), m_wantedCamera);
+    m_list.hasLights = m_list.hasLights || state().lights;
+    m_list.record.add(node, m_list.items.size());
+}
+
+void xsg::RenderListBuilder::visitShape(SoShape* shape)
+{
+    m_list.record.add(shape, m_list.items.size());
+    if (state().drawStyle && !state().drawStyle->isVisible())
+        return;
+    if (const SoDrawingCallback* callback = shape->asDrawingCallback())
+        m_list.callbacks.push_back({callback, state().modelMatrix});
+    state().forEachInstance([&](const SbMatrix& matrix) {
+        if (m_list.items.size() < MostItems)
+            m_filler.fill(m_list.items.emplace_back(), *shape, state(), matrix);
+    });
+}
