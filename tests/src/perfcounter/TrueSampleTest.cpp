@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Samples say what happened in their own period, and nothing about the time before it.
+#include "CounterSampler.h"
 #include "ManagerFixture.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
@@ -251,4 +252,19 @@ TEST(CounterShipped, ProfilesHoldOnlyCountersThatAreTrueAsRates)
             EXPECT_TRUE(custom.contains(name) || isRate(name)) << name.toStdString();
         }
     }
+}
+
+TEST_F(CounterTruth, AsManyPeriodsAreKeptAsSamples)
+{
+    CounterSampler sampler;
+    for (int filled = 0; filled < 3; ++filled)
+        sampler.sample({}, filled, 5);
+    EXPECT_EQ(sampler.periods().size(), 3U);
+    for (int more = 0; more < 4; ++more)
+        sampler.sample({}, 5, 5);
+    EXPECT_EQ(sampler.periods().size(), 5U);
+    sampler.keepPeriods(2);
+    EXPECT_EQ(sampler.periods().size(), 2U);
+    sampler.keepPeriods(0);
+    EXPECT_EQ(sampler.newestPeriod(), 0.0);
 }
