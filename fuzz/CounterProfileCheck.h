@@ -4,6 +4,7 @@
 #include "Check.h"
 
 #include "CounterProfileFile.h"
+#include "ProfileText.h"
 #include "SoPerfCounterProfile.h"
 
 #include <xsg/counters/SoPerfCounterManager.h>
@@ -22,7 +23,7 @@ namespace fuzz
 class CounterProfileCheck
 {
 public:
-    /// Counters that would be computed from themselves are told of as errors; here they are no news.
+    /// Counters that would be computed from themselves are reported as errors, which are expected here.
     CounterProfileCheck()
         : m_callback(SoDebugError::getHandlerCallback())
         , m_data(SoDebugError::getHandlerData())
@@ -36,6 +37,8 @@ public:
     /// A file that is accepted is the same once it was written and read.
     void operator()(const std::uint8_t* data, std::size_t size)
     {
+        checkTyped(QString(reinterpret_cast<const QChar*>(Input(data, data + size - size % 2).data()),
+                           static_cast<int>(size / 2)));
         QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
         QDomDocument document;
         QString problem;
@@ -59,6 +62,30 @@ public:
     }
 
 private:
+    /// A text that a dialog would take is the same once it was written and read.
+    static void checkTyped(const QString& text)
+    {
+        if (!profileText::listedNameRefusal(QString(), text).isEmpty())
+            return;
+        SoPerfCounterProfile profile(text);
+        profile.getList()->append(text);
+        profile.getView()->append(text);
+        QDomDocument document;
+        QBuffer nowhere;
+        nowhere.open(QIODevice::WriteOnly);
+        counterProfileFile::initDocument(&nowhere, document);
+        counterProfileFile::writeProfiles(document, {&profile});
+        QByteArray written = bytesOf(document);
+        QDomDocument again;
+        QString problem;
+        require(parse(written, again, problem),
+                "a text that was taken cannot be read: " + problem.toStdString());
+        const Content same(again);
+        const QStringList texts{text};
+        require(same.lists() == QList<QStringList>{texts, texts, texts},
+                "a text changes when written and read");
+    }
+
     struct Content {
         explicit Content(const QDomDocument& document)
         {

@@ -2,7 +2,7 @@
 #include "CounterBarView.h"
 
 #include "CounterPlot.h"
-#include "PlotToolTip.h"
+#include "SampleText.h"
 #include "SoPerfCounterGraph.h"
 #include "SoPerfCounterPcViewed.h"
 
@@ -12,9 +12,10 @@
 
 #include <algorithm>
 
-CounterBarView::CounterBarView(QwtPlot& plot, SoPerfCounterGraph& bars)
+CounterBarView::CounterBarView(QwtPlot& plot, SoPerfCounterGraph& bars, const CounterSampler& sampler)
     : m_plot(plot)
     , m_bars(bars)
+    , m_sampler(sampler)
 {
     counterPlot::prepare(plot);
     plot.axisScaleDraw(QwtPlot::xBottom)->enableComponent(QwtAbstractScaleDraw::Labels, false);
@@ -40,5 +41,5 @@ QString CounterBarView::textAt(const QPoint& place, const CounterSampler::Viewed
 {
     const double x = m_plot.canvasMap(QwtPlot::xBottom).invTransform(place.x());
     const SoPerfCounterPcViewed* bar = x >= 0 ? viewed.value(int(std::min(x, 1e6))) : nullptr;
-    return bar ? PlotToolTip::textOf(bar->getName(), bar->getHistory()[0]) : QString();
+    return bar ? sampleText(bar->getName(), bar->getHistory()[0], m_sampler.newestPeriod()) : QString();
 }

@@ -12,14 +12,15 @@ class SoPerfCounterGraph;
 class CounterBarView
 {
 public:
-    /// Neither is owned; the plot owns the bars.
-    CounterBarView(QwtPlot& plot, SoPerfCounterGraph& bars);
+    /// None is owned; the plot owns the bars.
+    CounterBarView(QwtPlot& plot, SoPerfCounterGraph& bars, const CounterSampler& sampler);
 
     void show(const CounterSampler::Viewed& viewed);
-    /// Name and value of the bar at a place of the canvas; empty where there is none.
+    /// The tool tip of the bar at a place of the canvas; empty where there is none.
     QString textAt(const QPoint& place, const CounterSampler::Viewed& viewed) const;
 
 private:
     QwtPlot& m_plot;
     SoPerfCounterGraph& m_bars;
+    const CounterSampler& m_sampler;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CounterProfileFile.h"
 
+#include "CounterText.h"
 #include "CounterXml.h"
 #include "CustomCounter.h"
 #include "SoPerfCounterProfile.h"
@@ -77,7 +78,7 @@ void readTexts(const QDomElement& parent, const QString& name, QList<QString>& t
         texts.append(e.text());
 }
 
-void readCounter(const QDomElement& element)
+void readCounter(const QDomElement& element, QStringList& leftOut)
 {
     const QString type = element.attribute(Type);
     if (type != QLatin1String("A") && type != QLatin1String("S"))
@@ -94,23 +95,29 @@ void readCounter(const QDomElement& element)
     counter.firstParent = text("firstparent");
     counter.secondParent = text("secondparent");
     counter.operation = text("operation");
+    for (const QString& counterName : {counter.name, counter.firstParent, counter.secondParent}) {
+        if (!isCounterName(counterName)) {
+            leftOut.append(beginningOf(counter.name, LongestInLine));
+            return;
+        }
+    }
     counter.registerIt();
 }
 
-void appendCounter(QDomElement parent, const SoPerfCounter& counter)
+void appendCounter(QDomElement parent, const CustomCounter& counter)
 {
     QDomElement element = parent.ownerDocument().createElement(Counter);
-    element.setAttribute(Name, SpxText::toQString(counter.getName()));
-    element.setAttribute(Type, SpxText::toQString(counter.getTypeCode()));
+    element.setAttribute(Name, counter.name);
+    element.setAttribute(Type, counter.isAccumulation ? QStringLiteral("A") : QStringLiteral("S"));
     const auto text = [&](const char* name, const QString& value) {
         appendText(element, QLatin1String(name), value);
     };
-    text("description", SpxText::toQString(counter.getDescription()));
-    text("module", SpxText::toQString(counter.getModule()));
-    text("level", QString::number(int(counter.getLevel())));
-    text("firstparent", SpxText::toQString(counter.getFirstParent()));
-    text("secondparent", SpxText::toQString(counter.getSecondParent()));
-    text("operation", SpxText::toQString(counter.getOperation()));
+    text("description", counter.description);
+    text("module", counter.module);
+    text("level", QString::number(counter.level));
+    text("firstparent", counter.firstParent);
+    text("secondparent", counter.secondParent);
+    text("operation", counter.operation);
     parent.appendChild(element);
 }
 
@@ -145,11 +152,16 @@ bool parse(QIODevice* device, QDomDocument& document, QString& problem)
         problem = translated("The file does not contain information about performance counters.");
         return false;
     }
+    replace(document, parsed);
+    return true;
+}
+
+void replace(QDomDocument& document, const QDomDocument& by)
+{
     while (document.hasChildNodes())
         document.removeChild(document.firstChild());
-    for (QDomNode node = parsed.firstChild(); !node.isNull(); node = node.nextSibling())
+    for (QDomNode node = by.firstChild(); !node.isNull(); node = node.nextSibling())
         document.appendChild(document.importNode(node, true));
-    return true;
 }
 
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
@@ -166,15 +178,16 @@ void writeDocument(QIODevice* device, const QDomDocument& document)
     counterXml::write(device, document);
 }
 
-bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write)
+bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent)
 {
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        write(&file);
-        if (file.flush())
+    QString reason = flaw;
+    if (reason.isEmpty()) {
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text) &&
+            file.write(content) == content.size() && file.flush())
             return true;
+        reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
     }
-    const QString reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
     QMessageBox::warning(parent, title(), translated("Cannot write file %1:\n%2.").arg(path, reason));
     return false;
 }
@@ -192,11 +205,22 @@ void initDocument(QIODevice* device, QDomDocument& document)
     writeDocument(device, document);
 }
 
-void readCustomCounters(const QDomDocument& document)
+QStringList readCustomCounters(const QDomDocument& document)
 {
+    QStringList leftOut;
     const QDomElement all = section(document, CustomCounters);
     for (QDomElement e = all.firstChildElement(Counter); !e.isNull(); e = e.nextSiblingElement(Counter))
-        readCounter(e);
+        readCounter(e, leftOut);
+    return leftOut;
+}
+
+void reportLeftOut(const QStringList& counters, QWidget* parent)
+{
+    if (counters.isEmpty())
+        return;
+    const QString text = translated("Custom counters are left out whose names, or those of what they are "
+                                    "computed from, have characters beyond Latin-1: %1.");
+    QMessageBox::information(parent, title(), text.arg(beginningOf(counters.join(QStringLiteral(", ")))));
 }
 
 void writeCustomCounters(QDomDocument& document)
@@ -205,7 +229,7 @@ void writeCustomCounters(QDomDocument& document)
     removeChildren(all, Counter);
     for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
         if (counter->isCustom() && counter->isEnabled())
-            appendCounter(all, *counter);
+            appendCounter(all, CustomCounter::of(*counter));
     }
 }
 
@@ -268,8 +292,10 @@ void writeView(QDomDocument& document, const SoPerfCounterProfile& profile)
             e = before;
         }
         for (const QString& name : *profile.getView()) {
-            if (!present.contains(name))
-                appendText(view, PcViewed, name);
+            if (present.contains(name))
+                continue;
+            present.insert(name);
+            appendText(view, PcViewed, name);
         }
     }
     sectionToWrite(document, ProfileView).setAttribute(Name, profile.getName());

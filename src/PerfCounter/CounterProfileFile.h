@@ -5,9 +5,9 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
-#include <functional>
-
+class QByteArray;
 class QDomDocument;
 class QIODevice;
 class QWidget;
@@ -28,16 +28,21 @@ QString title();
 bool parse(QIODevice* device, QDomDocument& document, QString& problem);
 /// The same; says why not in a box over `parent`.
 bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent);
+/// Gives a document, and every one that shares its tree, the content of another.
+void replace(QDomDocument& document, const QDomDocument& by);
 /// Saves the whole document, indented by two spaces per level.
 void writeDocument(QIODevice* device, const QDomDocument& document);
-/// Opens the file of this name again and lets `write` fill it; says in a box over `parent` what went wrong,
-/// if anything.
-bool writeFile(const QString& path, QWidget* parent, const std::function<void(QIODevice*)>& write);
+/// Opens the file of this name again and writes all of it; says in a box over `parent` what went wrong, if
+/// anything. Content with a flaw is not written, and the file stays as it is.
+bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent);
 /// Makes the document empty again and saves it to the device.
 void initDocument(QIODevice* device, QDomDocument& document);
 
-/// Registers the custom counters of the document. A counter whose name is taken is left alone.
-void readCustomCounters(const QDomDocument& document);
+/// Registers the custom counters of the document. A counter whose name is taken is left alone; the names of
+/// those that no counter can be called by are returned.
+QStringList readCustomCounters(const QDomDocument& document);
+/// Lists such names in a box over `parent`, if there are any.
+void reportLeftOut(const QStringList& counters, QWidget* parent);
 /// Makes the document's custom counters those of the registry that are custom and enabled.
 void writeCustomCounters(QDomDocument& document);
 

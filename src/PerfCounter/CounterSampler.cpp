@@ -31,7 +31,7 @@ SoPerfCounter* CounterSampler::counterOf(const SoPerfCounterPcViewed& viewed) co
     return m_manager->getCounter(toCounterName(viewed.getName()));
 }
 
-void CounterSampler::sample(const Viewed& viewed, int filled, int length) const
+void CounterSampler::sample(const Viewed& viewed, int filled, int length)
 {
     const double seconds = elapsed();
     const int kept = std::min(filled, length - 1);
@@ -42,6 +42,8 @@ void CounterSampler::sample(const Viewed& viewed, int filled, int length) const
         // A counter that no longer exists reads 0, and so does one sampled twice at the same moment.
         history[0] = counter && seconds > 0 ? finiteOf(counter->getValue() / seconds) : 0;
     }
+    m_periods.push_front(seconds);
+    keepPeriods(std::min(filled + 1, length));
 }
 
 void CounterSampler::rescale(const SoPerfCounterPcViewed& viewed, double factor, int length) const
@@ -52,8 +54,9 @@ void CounterSampler::rescale(const SoPerfCounterPcViewed& viewed, double factor,
     const double old = counter->getScaleFactor();
     counter->setScaleFactor(factor);
     const double ratio = old / counter->getScaleFactor();
-    std::for_each(viewed.getHistory(), viewed.getHistory() + length,
-                  [ratio](double& sample) { sample = finiteOf(sample * ratio); });
+    std::for_each(viewed.getHistory(), viewed.getHistory() + length, [ratio](double& sample) {
+        sample = std::isnan(sample) ? sample : finiteOf(sample * ratio);
+    });
 }
 
 void CounterSampler::resetCounters(const Viewed& viewed) const

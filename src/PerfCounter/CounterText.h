@@ -5,6 +5,8 @@
 
 #include <scopix/editing/SpxText.h>
 
+#include <cmath>
+
 constexpr int LongestInCell = 1000;
 constexpr int LongestInLine = 100; // where nothing scrolls: in tabs, boxes, labels and tool tips
 
@@ -13,9 +15,10 @@ inline QString beginningOf(const QString& text, int longest = LongestInCell)
     return text.size() <= longest ? text : text.left(longest) + QChar(0x2026);
 }
 
+/// Empty for NaN, which stands for a sample that was never taken.
 inline QString numberText(double value)
 {
-    return QString::number(value, 'g', 6);
+    return std::isnan(value) ? QString() : QString::number(value, 'g', 6);
 }
 
 /// The same as the first, without first making a whole text of another kind.

@@ -3,6 +3,7 @@
 
 #include "CounterTable.h"
 #include "CounterText.h"
+#include "SampleText.h"
 #include "SoPerfCounterPcViewed.h"
 
 #include <xsg/counters/SoPerfCounter.h>
@@ -22,7 +23,9 @@ void CounterTextView::show(const CounterSampler::Viewed& viewed)
     for (int row = 0; row < viewed.size(); ++row) {
         const SoPerfCounter* counter = m_sampler.counterOf(*viewed.at(row));
         counterTable::setText(m_table, row, 0, viewed.at(row)->getName());
-        counterTable::setText(m_table, row, 1, numberText(viewed.at(row)->getHistory()[0]));
+        const double newest = viewed.at(row)->getHistory()[0];
+        counterTable::setText(m_table, row, 1, numberText(newest));
+        m_table.item(row, 1)->setToolTip(undividedText(newest, m_sampler.newestPeriod()));
         counterTable::setText(m_table, row, 2,
                               QStringLiteral("x ") + numberText(counter ? counter->getScaleFactor() : 1));
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CounterXml.h"
 
+#include "ProfileText.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -70,8 +72,8 @@ void declareUtf8(QDomDocument& document)
                               declaration);
 }
 
-// XML allows no control characters but these three; the parser takes them, and loses them in what was saved.
-bool hasForbiddenCharacters(const QByteArray& saved)
+// Also where no node of the document holds them.
+bool hasControlCharacters(const QByteArray& saved)
 {
     return std::any_of(saved.begin(), saved.end(),
                        [](char c) { return uchar(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; });
@@ -93,24 +95,87 @@ bool isBrokenName(const QDomNode& node)
     return node.localName().isEmpty() || node.localName().contains(QLatin1Char(':'));
 }
 
-bool hasBrokenName(const QDomNode& node)
+QString brokenNameIn(const QDomNode& node)
 {
     const QDomNamedNodeMap attributes = node.attributes();
-    bool isBroken = node.isElement() && isBrokenName(node);
-    for (int i = 0; i < attributes.size() && !isBroken; ++i)
-        isBroken = isBrokenName(attributes.item(i));
-    return isBroken;
+    for (int i = 0; i < attributes.size(); ++i) {
+        if (isBrokenName(attributes.item(i)))
+            return attributes.item(i).nodeName();
+    }
+    return node.isElement() && isBrokenName(node) ? node.nodeName() : QString();
 }
 
-// Whether anything in it reads otherwise once it was saved. The parser may skip an entity that nothing
-// declares in one place and refuse it in another.
-bool isUnstable(const QDomNode& node)
+QString unsavableCharacterIn(const QDomNode& node)
+{
+    QString texts = node.nodeValue();
+    const QDomNamedNodeMap attributes = node.attributes();
+    for (int i = 0; i < attributes.size(); ++i)
+        texts += attributes.item(i).nodeValue() + QLatin1Char(' '); // halves of two values make no pair
+    return profileText::unsavableCharacter(texts);
+}
+
+using CauseOf = QString (*)(const QDomNode& node);
+
+QString causeOfCharacter(const QDomNode& node)
+{
+    const QString character = unsavableCharacterIn(node);
+    if (character.isEmpty())
+        return {};
+    return QCoreApplication::translate("PerfCounter", "the character %1 cannot be saved").arg(character);
+}
+
+// The parser may skip an entity that nothing declares in one place and refuse it in another.
+QString causeOfUnstable(const QDomNode& node)
+{
+    if (node.isEntityReference())
+        return QCoreApplication::translate("PerfCounter", "the entity \"%1\" is not declared")
+            .arg(node.nodeName());
+    const QString name = brokenNameIn(node);
+    if (!name.isNull())
+        return QCoreApplication::translate("PerfCounter", "\"%1\" is not a name that can be saved").arg(name);
+    return causeOfCharacter(node);
+}
+
+// The first node below this one for which there is a cause; `cause` is empty where there is none.
+QDomNode findFlaw(const QDomNode& node, CauseOf causeOf, QString& cause)
 {
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-        if (child.isEntityReference() || hasBrokenName(child) || isUnstable(child))
-            return true;
+        cause = causeOf(child);
+        if (!cause.isEmpty())
+            return child;
+        const QDomNode below = findFlaw(child, causeOf, cause);
+        if (!below.isNull())
+            return below;
     }
-    return false;
+    return {};
+}
+
+// Why what was read cannot be kept, at the place that a stricter parser finds fault with, else that of the
+// node.
+QString flawIn(const QByteArray& bytes, const QDomDocument& document)
+{
+    QString cause;
+    const QDomNode node = findFlaw(document, causeOfUnstable, cause);
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd())
+        reader.readNext();
+    if (reader.hasError())
+        return parseError(reader.lineNumber(), reader.columnNumber(),
+                          cause.isEmpty() ? reader.errorString() : cause);
+    return cause.isEmpty() ? QString() : parseError(node.lineNumber(), node.columnNumber(), cause);
+}
+
+bool isReadBack(const QDomDocument& document)
+{
+    QBuffer saved;
+    saved.open(QIODevice::WriteOnly);
+    write(&saved, document);
+    QDomDocument again;
+    QString cause;
+    return findFlaw(document, causeOfUnstable, cause).isNull() && !hasControlCharacters(saved.data()) &&
+           isWellFormed(saved.data()) && parse(saved.data(), again, cause) &&
+           again.documentElement().tagName() == document.documentElement().tagName();
 }
 
 } // namespace
@@ -120,17 +185,20 @@ bool read(const QByteArray& bytes, QDomDocument& document, QString& problem)
     if (!parse(bytes, document, problem))
         return false;
     declareUtf8(document);
-    QBuffer saved;
-    saved.open(QIODevice::WriteOnly);
-    write(&saved, document);
-    QDomDocument again;
-    if (!hasForbiddenCharacters(saved.data()) && isWellFormed(saved.data()) && !isUnstable(document) &&
-        parse(saved.data(), again, problem) &&
-        again.documentElement().tagName() == document.documentElement().tagName())
+    if (isReadBack(document))
         return true;
-    problem = QCoreApplication::translate("PerfCounter",
-                                          "The file contains XML that would be unreadable once saved.");
+    problem = flawIn(bytes, document);
+    if (problem.isEmpty())
+        problem = QCoreApplication::translate("PerfCounter",
+                                              "The file contains XML that would be unreadable once saved.");
     return false;
+}
+
+QString causeOfUnsavable(const QDomDocument& document)
+{
+    QString cause;
+    findFlaw(document, causeOfCharacter, cause);
+    return cause;
 }
 
 void write(QIODevice* device, const QDomDocument& document)

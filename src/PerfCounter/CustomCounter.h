@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class SoPerfCounter;
+
 /// What makes a counter that is computed from two others: as the file has it, as the dialog asks for it.
 struct CustomCounter {
     QString name;
@@ -16,9 +18,18 @@ struct CustomCounter {
     QString secondParent;
     QString operation;
 
+    /// What a counter of the registry is.
+    static CustomCounter of(const SoPerfCounter& counter);
     /// Makes the counter, which is the registry's from then on; false where the name is taken.
     bool registerIt() const;
+    /// Whether a registered counter that it would be computed from is waiting for one of its name.
+    bool wouldLoop() const;
 };
 
+/// Takes every custom counter out of the registry, and those that are disabled.
+void removeCustomCounters();
+
 /// Counters are named in Latin-1.
+bool isCounterName(const QString& text);
+/// The empty name, which no counter has, for a text that cannot name one.
 SbName toCounterName(const QString& text);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PlotToolTip.h"
 
-#include "CounterText.h"
-
 #include <qwt_plot.h>
 
 #include <QHelpEvent>
@@ -14,11 +12,6 @@ PlotToolTip::PlotToolTip(QwtPlot* plot, TextAt textAt)
     , m_textAt(std::move(textAt))
 {
     plot->canvas()->installEventFilter(this);
-}
-
-QString PlotToolTip::textOf(const QString& counter, double value)
-{
-    return QStringLiteral("%1: %2").arg(beginningOf(counter, LongestInLine), numberText(value));
 }
 
 bool PlotToolTip::eventFilter(QObject* canvas, QEvent* event)

@@ -16,9 +16,6 @@ public:
     /// The text for a place of the canvas, in its pixels; an empty text shows none.
     using TextAt = std::function<QString(const QPoint& place)>;
 
-    /// What a tip says about a counter.
-    static QString textOf(const QString& counter, double value);
-
     /// Becomes a child of the plot.
     PlotToolTip(QwtPlot* plot, TextAt textAt);
 

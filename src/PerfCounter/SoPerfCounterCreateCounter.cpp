@@ -3,8 +3,22 @@
 
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "ProfileText.h"
 
 #include <QMessageBox>
+
+#include <algorithm>
+
+namespace
+{
+
+// Spaces alone are lost when the file is read.
+QString textOrNothing(const QString& text)
+{
+    return text.trimmed().isEmpty() ? QString() : text;
+}
+
+} // namespace
 
 SoPerfCounterCreateCounter::SoPerfCounterCreateCounter(const QString& firstCounter,
                                                        const QString& secondCounter, QWidget* parent)
@@ -26,15 +40,12 @@ void SoPerfCounterCreateCounter::okButtonAction()
         QMessageBox::warning(this, windowTitle(), tr("You have to give a name to your counter."));
         return;
     }
-    CustomCounter counter;
-    counter.name = m_name->text();
-    counter.isAccumulation = m_accumRadio->isChecked();
-    counter.description = m_description->toPlainText();
-    counter.module = m_module->text();
-    counter.level = m_level->currentIndex();
-    counter.firstParent = m_firstCounter;
-    counter.secondParent = m_secondCounter;
-    counter.operation = m_operation->currentText();
+    const CustomCounter counter = typedCounter();
+    const QString refusal = refusalOf(counter);
+    if (!refusal.isEmpty()) {
+        QMessageBox::warning(this, windowTitle(), refusal);
+        return;
+    }
     if (!counter.registerIt()) {
         QMessageBox::warning(this, windowTitle(),
                              tr("There is already a counter with this name. Please rename it."));
@@ -42,4 +53,33 @@ void SoPerfCounterCreateCounter::okButtonAction()
     }
     emit createNow(counter.name);
     close();
+}
+
+CustomCounter SoPerfCounterCreateCounter::typedCounter() const
+{
+    CustomCounter counter;
+    counter.name = m_name->text();
+    counter.isAccumulation = m_accumRadio->isChecked();
+    counter.description = textOrNothing(m_description->toPlainText());
+    counter.module = textOrNothing(m_module->text());
+    counter.level = m_level->currentIndex();
+    counter.firstParent = m_firstCounter;
+    counter.secondParent = m_secondCounter;
+    counter.operation = m_operation->currentText();
+    return counter;
+}
+
+QString SoPerfCounterCreateCounter::refusalOf(const CustomCounter& counter)
+{
+    const QString refusals[] = {
+        profileText::counterNameRefusal(tr("The name"), counter.name),
+        profileText::refusal(tr("The description"), counter.description),
+        profileText::refusal(tr("The module"), counter.module),
+        profileText::listedNameRefusal(tr("The name of the first counter"), counter.firstParent),
+        profileText::listedNameRefusal(tr("The name of the second counter"), counter.secondParent),
+        counter.wouldLoop() ? tr("This counter would be computed from itself. Please rename it.")
+                            : QString()};
+    const auto* first = std::find_if_not(std::begin(refusals), std::end(refusals),
+                                         [](const QString& refusal) { return refusal.isEmpty(); });
+    return first == std::end(refusals) ? QString() : *first;
 }

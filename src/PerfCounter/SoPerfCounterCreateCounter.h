@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CustomCounter.h"
 #include "ui_SoPerfCounterCreateCounter.h"
 
 #include <QDialog>
@@ -22,6 +23,10 @@ public slots:
     void okButtonAction();
 
 private:
+    CustomCounter typedCounter() const;
+    /// Why this counter cannot be made or saved, in a sentence; empty where it can.
+    static QString refusalOf(const CustomCounter& counter);
+
     QString m_firstCounter;
     QString m_secondCounter;
 };

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SoPerfCounterCreateProfile.h"
 
+#include "ProfileText.h"
+
+#include <QMessageBox>
+
 SoPerfCounterCreateProfile::SoPerfCounterCreateProfile(QWidget* parent)
     : QDialog(parent)
 {
@@ -12,6 +16,11 @@ SoPerfCounterCreateProfile::SoPerfCounterCreateProfile(QWidget* parent)
 
 void SoPerfCounterCreateProfile::okButtonAction()
 {
+    const QString refusal = profileText::refusal(tr("The name"), m_name->text());
+    if (!refusal.isEmpty()) {
+        QMessageBox::warning(this, windowTitle(), refusal);
+        return;
+    }
     emit createdNewProfile(m_name->text());
     close();
 }

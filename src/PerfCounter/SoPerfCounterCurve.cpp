@@ -2,6 +2,7 @@
 #include "SoPerfCounterCurve.h"
 
 #include "PlotToolTip.h"
+#include "SampleText.h"
 
 #include <qwt_painter.h>
 #include <qwt_point_data.h>
@@ -123,6 +124,8 @@ void SoPerfCounterCurve::order(const std::vector<int>& indices)
 
 void SoPerfCounterCurve::setRawSamples(int index, const double* x, const double* y, int count)
 {
+    while (count > 0 && std::isnan(y[count - 1]))
+        --count;
     m_curves[index]->setData(new RawHistory(x, y, std::size_t(count)));
 }
 
@@ -156,6 +159,11 @@ void SoPerfCounterCurve::drawCanvas(QPainter* painter)
     QwtPainter::setPolylineSplitting(isCut);
 }
 
+double SoPerfCounterCurve::periodOf(int index) const
+{
+    return m_periods && std::size_t(index) < m_periods->size() ? (*m_periods)[std::size_t(index)] : 0;
+}
+
 QString SoPerfCounterCurve::textAt(const QPoint& position) const
 {
     const QwtScaleMap x = canvasMap(QwtPlot::xBottom);
@@ -165,7 +173,7 @@ QString SoPerfCounterCurve::textAt(const QPoint& position) const
     for (const Curve* curve : m_curves) {
         const int index = sampleAt(*curve, position, x, y, best);
         if (index >= 0)
-            text = PlotToolTip::textOf(curve->title().text(), curve->sample(std::size_t(index)).y());
+            text = sampleText(curve->title().text(), curve->sample(std::size_t(index)).y(), periodOf(index));
     }
     return text;
 }

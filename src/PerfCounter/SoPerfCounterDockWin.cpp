@@ -5,6 +5,7 @@
 #include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "OwedSaves.h"
 #include "SoPerfCounterPcViewed.h"
 #include "SoPerfCounterProfile.h"
 #include "SoPerfCounterProfileManager.h"
@@ -31,6 +32,7 @@ SoPerfCounterDockWin::SoPerfCounterDockWin(QWidget* parent, Qt::WindowFlags flag
     , m_preSelected(std::make_unique<QList<QString>>())
     , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
     , m_manager(SoPerfCounterManager::getInstance())
+    , m_owed(std::make_shared<OwedSaves>())
 {
     auto* content = new QWidget(this);
     setupUi(content);
@@ -54,6 +56,7 @@ void SoPerfCounterDockWin::setupConnections()
     connect(m_openConfigButton, &QPushButton::clicked, this, &Dock::openProfileManager);
     connect(m_saveView, &QPushButton::clicked, this, &Dock::saveView);
     connect(this, qOverload<>(&Dock::openingProfile), m_viewer->getTimer(), &QTimer::stop);
+    connect(this, qOverload<>(&Dock::openingProfile), m_viewer->m_stop, qOverload<>(&QWidget::update));
     connect(m_viewer->m_legend, &QTableWidget::itemSelectionChanged, this, &Dock::updateProperties);
     connect(m_viewer, &Viewer::newPcViewed, this, &Dock::addPcViewed);
     connect(m_viewer, &Viewer::deletedPcViewed, this, &Dock::removePcViewed);
@@ -89,10 +92,11 @@ bool SoPerfCounterDockWin::read(QIODevice* device)
 {
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
-    counterProfileFile::readCustomCounters(m_document);
+    const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
     m_profiles->append(counterProfileFile::readProfiles(m_document));
     setupProfileComboBox();
     parseViewElement();
+    counterProfileFile::reportLeftOut(leftOut, this);
     return true;
 }
 
@@ -130,6 +134,8 @@ SoPerfCounterProfile* SoPerfCounterDockWin::profile() const
 
 void SoPerfCounterDockWin::updateCurrentProfile(int index)
 {
+    if (index != m_currentProfile)
+        m_viewer->clearViewer(); // nothing of this profile stays
     m_currentProfile = index;
     if (!profile())
         return;
@@ -226,6 +232,7 @@ void SoPerfCounterDockWin::openProfileManager()
     manager->setFilepath(m_filePath);
     manager->setFilepathTemp(m_filePath);
     manager->setDomDocument(m_document);
+    manager->setOwedSaves(m_owed);
     emit openingProfile(m_profiles.get(), m_currentProfile);
     emit openingProfile();
     manager->show();
@@ -246,11 +253,9 @@ void SoPerfCounterDockWin::recoveryListFromProfileManager(QList<SoPerfCounterPro
         return;
     }
     m_viewer->setViewList(m_profiles->at(index)->getView());
-    if (index == 0) {
-        // The box shows this one already and will not report it.
-        m_currentProfile = 0;
-        setupPreSelectedList();
-    }
+    m_currentProfile = index; // so that the box selects it as the profile already shown
+    if (index == 0)
+        setupPreSelectedList(); // the box shows this one already and will not report it
     m_listConfig->setCurrentIndex(index);
     emit needUpdateViewer();
 }
@@ -262,9 +267,12 @@ void SoPerfCounterDockWin::changeFilepath(QString path)
 
 void SoPerfCounterDockWin::saveView()
 {
-    counterProfileFile::writeFile(m_filePath, this, [this](QIODevice* device) {
-        if (profile())
-            counterProfileFile::writeView(m_document, *profile());
-        counterProfileFile::writeDocument(device, m_document);
-    });
+    if (profile())
+        counterProfileFile::writeView(m_document, *profile());
+    m_owed->save(m_filePath, m_document, this);
+}
+
+void SoPerfCounterDockWin::saveOwed()
+{
+    m_owed->retry(this);
 }

@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class OwedSaves;
 class SoPerfCounterManager;
 class SoPerfCounterProfile;
 class SoPerfCounterProfileManager;
@@ -29,6 +30,8 @@ public:
     int getCurrentProfile() const { return m_currentProfile; } // -1 where there is none
     QString getFilepath() const { return m_filePath; }
     const QDomDocument& getDocument() const { return m_document; }
+    /// Tries once more to save what could not be saved.
+    void saveOwed();
 
 signals:
     void openingProfile(QList<SoPerfCounterProfile*>* profiles, int index);
@@ -67,5 +70,6 @@ private:
     QString m_filePath;
     SoPerfCounterManager* m_manager;
     QDomDocument m_document;
+    std::shared_ptr<OwedSaves> m_owed;
     QPointer<SoPerfCounterProfileManager> m_profileManager; // one at a time
 };

@@ -21,6 +21,9 @@ public:
     /// Takes the array over and frees the one before.
     void setHistory(double* history) { m_history.reset(history); }
 
+    /// Says of the newest samples that nothing is known of them, as of the time before a counter was added.
+    void setUnknown(int samples);
+
 private:
     QString m_name;
     int m_red = 0;

@@ -5,6 +5,8 @@
 #include "CounterTable.h"
 #include "CounterText.h"
 #include "CustomCounter.h"
+#include "OwedSaves.h"
+#include "ProfileText.h"
 #include "SoPerfCounterCreateCounter.h"
 #include "SoPerfCounterCreateProfile.h"
 #include "SoPerfCounterPage.h"
@@ -33,6 +35,7 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
     : QMainWindow(parent)
     , m_registry(SoPerfCounterManager::getInstance())
     , m_profiles(std::make_unique<QList<SoPerfCounterProfile*>>())
+    , m_owed(std::make_shared<OwedSaves>())
 {
     setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -45,7 +48,10 @@ SoPerfCounterProfileManager::SoPerfCounterProfileManager(QWidget* parent)
 SoPerfCounterProfileManager::~SoPerfCounterProfileManager()
 {
     // Where the dock is destroyed first, the window is never closed.
-    undoCounterChanges();
+    if (!m_isDone) {
+        undoCounterChanges();
+        m_atOpening.restore(m_document);
+    }
     dropProfiles();
 }
 
@@ -76,6 +82,12 @@ void SoPerfCounterProfileManager::setFilepath(const QString& path)
     m_filePath = path;
     setWindowTitle(tr("Profile Manager - ") + path);
     emit filepathChanged(path);
+}
+
+void SoPerfCounterProfileManager::setDomDocument(const QDomDocument& document)
+{
+    m_document = document;
+    m_atOpening = CounterSnapshot(document);
 }
 
 void SoPerfCounterProfileManager::recoveryListFromMainWindow(QList<SoPerfCounterProfile*>* profiles,
@@ -131,6 +143,13 @@ void SoPerfCounterProfileManager::setupPreSelectedList()
         page->refill();
 }
 
+// What becomes of a counter is seen in every profile that has it.
+void SoPerfCounterProfileManager::refillPages()
+{
+    for (int i = 0; i < m_tabProfile->count(); ++i)
+        static_cast<SoPerfCounterPage*>(m_tabProfile->widget(i))->refill();
+}
+
 void SoPerfCounterProfileManager::createCounter()
 {
     const QStringList names = counterTable::selectedNames(*m_listCounter);
@@ -151,6 +170,7 @@ void SoPerfCounterProfileManager::updateCounterList(QString name)
 {
     m_created.append(name);
     setupListCounter();
+    refillPages();
 }
 
 void SoPerfCounterProfileManager::deleteCounter()
@@ -168,7 +188,7 @@ void SoPerfCounterProfileManager::deleteCounter()
             m_registry->disableCounter(toCounterName(name));
     }
     setupListCounter();
-    setupPreSelectedList();
+    refillPages();
 }
 
 SoPerfCounterProfile* SoPerfCounterProfileManager::currentProfile(const QString& otherwise)
@@ -186,7 +206,15 @@ void SoPerfCounterProfileManager::downArrowAction()
         currentProfile(tr("You have to create al least one profile before adding counters."));
     if (!profile)
         return;
-    profile->moveToEnd(counterTable::selectedNames(*m_listCounter));
+    QStringList names;
+    for (const QString& name : counterTable::selectedNames(*m_listCounter)) {
+        const QString refusal = profileText::listedNameRefusal(tr("The name of the counter"), name);
+        if (refusal.isEmpty())
+            names.append(name);
+        else
+            QMessageBox::warning(this, windowTitle(), refusal);
+    }
+    profile->moveToEnd(names);
     setupPreSelectedList();
 }
 
@@ -256,7 +284,9 @@ void SoPerfCounterProfileManager::openProfile()
     const QString before = m_filePath;
     setFilepath(path);
     // OK would write over a file that holds something else.
-    if (!read(&file))
+    if (read(&file))
+        m_owed->turnToAnotherDocument();
+    else
         setFilepath(before);
 }
 
@@ -264,43 +294,43 @@ bool SoPerfCounterProfileManager::read(QIODevice* device)
 {
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
-    for (const SoPerfCounter* counter : m_registry->getCounters()) {
-        if (counter->isCustom())
-            m_registry->disableCounter(counter->getName());
-    }
-    m_registry->removeDisabledCounters();
+    removeCustomCounters();
     m_tabProfile->hide(); // shown, it would lay out all tabs again for each that is added or removed
     dropProfiles();
-    counterProfileFile::readCustomCounters(m_document);
+    const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
+    m_atOpening.restoreScales();
     setupListCounter();
     for (SoPerfCounterProfile* profile : counterProfileFile::readProfiles(m_document)) {
         m_profiles->append(profile);
         addTab(*profile);
     }
     m_tabProfile->show();
+    counterProfileFile::reportLeftOut(leftOut, this);
     return true;
 }
 
-bool SoPerfCounterProfileManager::saveTo(const QString& path)
+// Whatever becomes of the file: what is saved later must not lack what was done here.
+void SoPerfCounterProfileManager::updateDom()
 {
-    return counterProfileFile::writeFile(path, this, [this](QIODevice* device) {
-        counterProfileFile::writeCustomCounters(m_document);
-        counterProfileFile::writeProfiles(m_document, *m_profiles);
-        counterProfileFile::writeDocument(device, m_document);
-    });
+    counterProfileFile::writeCustomCounters(m_document);
+    counterProfileFile::writeProfiles(m_document, *m_profiles);
 }
 
 void SoPerfCounterProfileManager::saveAsProfile()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Save performance counter profile"),
                                                       m_filePath, counterProfileFile::dialogFilter());
-    if (!path.isEmpty() && saveTo(path))
+    if (path.isEmpty())
+        return;
+    updateDom();
+    if (m_owed->saveOnce(path, m_document, this))
         setFilepath(path);
 }
 
 void SoPerfCounterProfileManager::saveProfile()
 {
-    saveTo(m_filePath);
+    updateDom();
+    m_owed->save(m_filePath, m_document, this);
 }
 
 void SoPerfCounterProfileManager::okButtonAction()
@@ -325,6 +355,7 @@ void SoPerfCounterProfileManager::okAction()
     m_created.clear();
     m_fallbackPath.clear();
     saveProfile();
+    m_isDone = true;
     const int index = m_tabProfile->currentIndex();
     // The dock lets go of the old profiles while they still live.
     const QList<SoPerfCounterProfile*> old = m_handedOver ? *m_handedOver : QList<SoPerfCounterProfile*>();
@@ -349,11 +380,13 @@ void SoPerfCounterProfileManager::cancelAction()
     undoCounterChanges();
     emit cancelProfile();
     setFilepath(m_fallbackPath);
-    if (m_filePath.isEmpty())
-        return;
+    m_isDone = true;
     QFile file(m_filePath);
-    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        read(&file);
+    const bool isRead =
+        !m_filePath.isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Text) && read(&file);
+    // A file that lacks what could not be saved does not say how things were.
+    if (!isRead || m_owed->isOwed(m_filePath))
+        m_atOpening.restore(m_document);
 }
 
 void SoPerfCounterProfileManager::closeEvent(QCloseEvent* event)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "CounterSnapshot.h"
 #include "ui_SoPerfCounterProfileManager.h"
 
 #include <QDomDocument>
@@ -9,6 +10,7 @@
 
 #include <memory>
 
+class OwedSaves;
 class SoPerfCounterManager;
 class SoPerfCounterPage;
 class SoPerfCounterProfile;
@@ -28,8 +30,11 @@ public:
     void setFilepath(const QString& path);
     /// The file to read again on Cancel.
     void setFilepathTemp(const QString& path) { m_fallbackPath = path; }
-    /// A copy that shares the dock window's tree.
-    void setDomDocument(const QDomDocument& document) { m_document = document; }
+    /// A copy that shares the dock window's tree. What it holds, and the custom counters, are put back by a
+    /// Cancel that finds nothing to read again.
+    void setDomDocument(const QDomDocument& document);
+    /// Where saving is tried again; shared with the dock window.
+    void setOwedSaves(std::shared_ptr<OwedSaves> owed) { m_owed = std::move(owed); }
 
 signals:
     /// Hands the profiles over, with the selected one; the receiver owns the list and what is in it.
@@ -64,10 +69,11 @@ private:
     void setupConnections();
     void setupListCounter();
     void setupPreSelectedList(); // of the current tab
+    void refillPages();
     void addTab(const SoPerfCounterProfile& profile);
     void dropProfiles();
     bool read(QIODevice* device);
-    bool saveTo(const QString& path);
+    void updateDom();
     void okAction();
     void cancelAction();
     void undoCounterChanges();
@@ -82,5 +88,8 @@ private:
     QString m_filePath;
     QString m_fallbackPath;
     QDomDocument m_document;
+    CounterSnapshot m_atOpening;
+    std::shared_ptr<OwedSaves> m_owed;
     bool m_accepted = false;
+    bool m_isDone = false; // accepted or cancelled
 };

@@ -3,6 +3,7 @@
 
 #include "CounterPlot.h"
 #include "CurveColors.h"
+#include "PlayPauseIcon.h"
 #include "PlotToolTip.h"
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterGraph.h"
@@ -43,6 +44,7 @@ SoPerfCounterViewer::SoPerfCounterViewer(QWidget* parent)
     m_timer = new QTimer(this);
     m_timer->setTimerType(Qt::PreciseTimer);
     m_timer->setInterval(m_interval);
+    m_stop->setIcon(playPauseIcon(*m_timer));
     start();
     setupConnections();
 }
@@ -59,12 +61,13 @@ void SoPerfCounterViewer::buildPlots()
     counterPlot::prepare(*m_curvePlot);
     counterPlot::setAxisTitle(*m_curvePlot, QwtPlot::xBottom, tr("Time (s)"));
     m_curvePlot->setAxisScale(QwtPlot::xBottom, 0, m_timeShown - 1);
+    m_curvePlot->setPeriods(m_sampler.periods());
     verticalLayout->insertWidget(PlotPosition, m_curvePlot);
     m_graphPlot = new QwtPlot(this);
     m_graphPlot->setObjectName(QStringLiteral("m_graphPlot"));
     verticalLayout->insertWidget(PlotPosition, m_graphPlot);
     m_bars = new SoPerfCounterGraph(QString());
-    m_barView = std::make_unique<CounterBarView>(*m_graphPlot, *m_bars);
+    m_barView = std::make_unique<CounterBarView>(*m_graphPlot, *m_bars, m_sampler);
     new PlotToolTip(m_graphPlot, [this](const QPoint& place) { return m_barView->textAt(place, *m_viewed); });
     m_texts = std::make_unique<CounterTextView>(*m_textView, m_sampler);
     m_legendRows =
@@ -132,6 +135,14 @@ void SoPerfCounterViewer::setupViews()
     m_sampler.resetElapsed();
 }
 
+// Counts from here on: the next sample comes a whole period later, or it would be one of a moment.
+void SoPerfCounterViewer::startPeriod()
+{
+    setupViews();
+    if (m_timer->isActive())
+        m_timer->start();
+}
+
 void SoPerfCounterViewer::redrawViews()
 {
     // Only what can be seen is made. A viewer behind another tab counts as visible but has no region that is.
@@ -161,17 +172,16 @@ void SoPerfCounterViewer::start()
     resetAll();
     m_sampler.resetElapsed();
     m_timer->start();
+    m_stop->update();
 }
 
 void SoPerfCounterViewer::freezeView()
 {
-    const bool running = m_timer->isActive();
-    if (running)
+    if (m_timer->isActive())
         m_timer->stop();
     else
         start();
-    m_stop->setIcon(QIcon(running ? QStringLiteral(":/PerfCounter_icons/Icons/player_play.png")
-                                  : QStringLiteral(":/PerfCounter_icons/Icons/player_pause.png")));
+    m_stop->update();
 }
 
 void SoPerfCounterViewer::setRawSamples()
@@ -215,6 +225,7 @@ void SoPerfCounterViewer::add(const QString& name)
     const QColor color = newColor();
     auto* viewed = new SoPerfCounterPcViewed(name, m_historyLength);
     viewed->setColor(color.red(), color.green(), color.blue());
+    viewed->setUnknown(m_filled);
     m_curvePlot->newCurve(name, color.red(), color.green(), color.blue());
     m_viewed->append(viewed);
 }
@@ -227,7 +238,7 @@ void SoPerfCounterViewer::addAndShow(const QStringList& names)
         add(name);
         emit newPcViewed(name);
     }
-    setupViews();
+    startPeriod();
     setupLegend();
 }
 
@@ -323,6 +334,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     m_frequency = frequency;
     m_historyLength = timeShown * frequency;
     m_filled = std::min(m_filled, m_historyLength);
+    m_sampler.keepPeriods(m_filled);
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed)) {
         auto longer = std::make_unique<double[]>(std::size_t(m_historyLength));
         std::copy_n(viewed->getHistory(), std::min(oldLength, m_historyLength), longer.get());
@@ -333,7 +345,7 @@ void SoPerfCounterViewer::changeHistory(int timeShown, int frequency)
     setRawSamples();
     m_interval = 1000 / m_frequency;
     m_timer->setInterval(m_interval);
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::resetHistory()
@@ -341,8 +353,9 @@ void SoPerfCounterViewer::resetHistory()
     for (SoPerfCounterPcViewed* viewed : qAsConst(*m_viewed))
         std::fill_n(viewed->getHistory(), m_historyLength, 0.0);
     m_filled = 0;
+    m_sampler.keepPeriods(m_filled);
     setupXValues();
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::setViewList(const QList<QString>* list)
@@ -387,7 +400,7 @@ void SoPerfCounterViewer::clearViewer()
 void SoPerfCounterViewer::updateViewer()
 {
     setupLegend();
-    setupViews();
+    startPeriod();
 }
 
 void SoPerfCounterViewer::showView(QWidget* view)

@@ -81,6 +81,7 @@ private:
     void buildPlots();
     void setupConnections();
     void setupViews();
+    void startPeriod();
     void redrawViews();
     void setupCurveView();
     void setRawSamples();

@@ -81,6 +81,8 @@ void SpxPerfCounterExtension::hide()
 
 void SpxPerfCounterExtension::unload()
 {
+    if (auto* tool = qobject_cast<SoPerfCounterDockWin*>(m_dock))
+        tool->saveOwed();
     // The pointer stays as it is (decisions.md: counters-dock-pointer).
     delete m_dock;
 }

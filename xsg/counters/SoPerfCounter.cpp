@@ -7,6 +7,8 @@
 #include <chrono>
 #include <cmath>
 #include <unordered_map>
+#include <unordered_set>
+#include <vector>
 
 namespace
 {
@@ -65,7 +67,32 @@ void SoPerfCounter::forgetSample()
     m_sampleTime.store(NeverSampled, std::memory_order_relaxed);
 }
 
-void SoPerfCounter::reset() {}
+void SoPerfCounter::reset()
+{
+    if (m_custom)
+        resetLeaves();
+}
+
+// Like reading, a walk that visits each counter once, whatever the graph looks like.
+void SoPerfCounter::resetLeaves()
+{
+    std::unordered_set<const SoPerfCounter*> seen{this};
+    std::vector<SoPerfCounter*> open{this};
+    while (!open.empty()) {
+        SoPerfCounter* counter = open.back();
+        open.pop_back();
+        counter->forgetSample();
+        for (const Parent& parent : counter->m_parents) {
+            SoPerfCounter* next = parent.counter.load();
+            if (!next || !seen.insert(next).second)
+                continue;
+            if (next->m_custom)
+                open.push_back(next);
+            else
+                next->reset();
+        }
+    }
+}
 
 void SoPerfCounter::setScaleFactor(double factor)
 {

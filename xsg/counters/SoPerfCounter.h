@@ -34,8 +34,8 @@ public:
     /// What was counted or, for a custom counter, what its parents' raw values give. 0 for a missing parent,
     /// an unknown operation, a division by zero, and where a counter would need its own value.
     double getRawValue() const;
-    /// Starts counting from 0. Of no effect on states and on custom counters, whose parents are the ones to
-    /// reset.
+    /// Starts counting from 0. A state keeps what it is; a custom counter resets the counters that it is
+    /// computed from, through however many others.
     virtual void reset();
 
     double getScaleFactor() const { return m_scale.load(std::memory_order_relaxed); }
@@ -76,6 +76,7 @@ private:
         std::atomic<SoPerfCounter*> counter{nullptr}; // linked by the manager
     };
     void setParent(int which, SbName name);
+    void resetLeaves();
     double currentRawValue() const;
     double combine(double first, double second) const;
 

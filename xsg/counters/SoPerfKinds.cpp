@@ -20,6 +20,7 @@ SbString SoPerfAccumCounter::getTypeText() const
 
 void SoPerfAccumCounter::reset()
 {
+    SoPerfCounter::reset();
     m_atReset.store(feed().get(), std::memory_order_relaxed);
     forgetSample();
 }

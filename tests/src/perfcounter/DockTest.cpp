@@ -131,17 +131,30 @@ TEST_F(CounterDock, ElementsNestedWithoutEndAreRefused)
     EXPECT_TRUE(boxes.take().isEmpty());
 }
 
-TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefused)
+TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefusedWithItsPlaceAndCause)
 {
-    for (const char* file :
-         {"<n:perfCounterModule xmlnsn:='u'/>", "<perfCounterModule>\x01</perfCounterModule>",
-          "<perfCounterModule x:y:='u'/>", "<perfCounterModule><a:b:c/></perfCounterModule>",
-          "<perfCounterModule><a b='1' b='2'/></perfCounterModule>"}) {
+    const std::pair<const char*, const char*> files[] = {
+        {"<n:perfCounterModule xmlnsn:='u'/>", "1, column 29:\n\"xmlnsn:\" is not a name that can be saved"},
+        {"<perfCounterModule>\n\n <a/>b\x01</perfCounterModule>",
+         "3, column 7:\nthe character U+0001 cannot be saved"},
+        {"<perfCounterModule>\n<a n='&#12;'/></perfCounterModule>",
+         "2, column 11:\nthe character U+000C cannot be saved"},
+        {"<perfCounterModule>\n<a>&#xD800;</a></perfCounterModule>",
+         "2, column 11:\nthe character U+D800 cannot be saved"},
+        {"<perfCounterModule>\n<a>&#xFFFE;</a></perfCounterModule>",
+         "2, column 11:\nthe character U+FFFE cannot be saved"},
+        {"<perfCounterModule>\n<a>&gone;</a></perfCounterModule>",
+         "2, column 9:\nthe entity \"gone\" is not declared"},
+        {"<perfCounterModule x:y:='u'/>", "1, column 23:\n\"x:y:\" is not a name that can be saved"},
+        {"<perfCounterModule>\n<a:b:c/></perfCounterModule>",
+         "2, column 5:\n\"a:b:c\" is not a name that can be saved"},
+        {"<perfCounterModule>\n<a b='1'\n c='1' b='2'/></perfCounterModule>",
+         "3, column 14:\nAttribute 'b' redefined."}};
+    for (const auto& [file, expected] : files) {
         writeFile(file);
         open();
-        EXPECT_EQ(boxes.take(),
-                  QStringList{"Performance counter profile: The file contains XML that would be "
-                              "unreadable once saved."});
+        EXPECT_EQ(boxes.take().join('|').toStdString(),
+                  std::string("Performance counter profile: Parse error at line ") + expected);
     }
 }
 

@@ -213,3 +213,16 @@ TEST_F(CounterFile, AFileThatCannotBeWrittenIsTold)
     dock->saveView();
     EXPECT_EQ(boxes.take(), QStringList{Title + "Cannot write file /dev/full:\nNo space left on device."});
 }
+
+TEST_F(CounterFile, ANameThatTheViewHoldsTwiceIsSavedOnce)
+{
+    writeFile("<perfCounterModule><profiles><profile name='p'/></profiles></perfCounterModule>");
+    open();
+    for (const char* name : {"testB", "testA", "testB", "testA"})
+        dock->addPcViewed(name);
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    QTest::mouseClick(dock->m_saveView, Qt::LeftButton);
+    const QByteArray saved = readFile(path());
+    EXPECT_EQ(saved.count("<pcviewed>"), 2);
+    EXPECT_LT(saved.indexOf("testB"), saved.indexOf("testA"));
+}

@@ -1,69 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The profile manager: what OK hands over, what Cancel takes back, and every refusal.
-#include "CounterFixture.h"
-#include "CounterProfileFile.h"
-#include "SoPerfCounterCreateCounter.h"
-#include "SoPerfCounterCreateProfile.h"
-#include "SoPerfCounterPage.h"
+#include "ManagerFixture.h"
 
 #include <QDomDocument>
-#include <QPointer>
-#include <QPushButton>
-
-class CounterProfileManager : public CounterHome
-{
-protected:
-    void openBoth()
-    {
-        writeExample();
-        open();
-        manager = openManager();
-    }
-    // Selects these rows of a table, and only these.
-    static void select(QTableWidget& table, const QStringList& names)
-    {
-        table.clearSelection();
-        table.setSelectionMode(QAbstractItemView::MultiSelection);
-        for (int row = 0; row < table.rowCount(); ++row) {
-            if (names.contains(table.item(row, 0)->text()))
-                table.selectRow(row);
-        }
-    }
-    static QStringList namesIn(const QTableWidget& table)
-    {
-        QStringList names;
-        for (int row = 0; row < table.rowCount(); ++row)
-            names.append(table.item(row, 0)->text());
-        return names;
-    }
-    QTableWidget& page(int index)
-    {
-        return *static_cast<SoPerfCounterPage*>(manager->m_tabProfile->widget(index))->getTableProfile();
-    }
-    void press(QDialogButtonBox::StandardButton button)
-    {
-        QTest::mouseClick(manager->m_buttonBox->button(button), Qt::LeftButton);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    SoPerfCounterCreateCounter* createDialog(const QStringList& parents)
-    {
-        select(*manager->m_listCounter, parents);
-        QTest::mouseClick(manager->m_createCounter, Qt::LeftButton);
-        return manager->findChild<SoPerfCounterCreateCounter*>();
-    }
-    void createCounter(const char* name)
-    {
-        SoPerfCounterCreateCounter* dialog = createDialog({"testA", "testB"});
-        ASSERT_TRUE(dialog);
-        dialog->m_name->setText(name);
-        dialog->m_operation->setCurrentText("*");
-        dialog->m_level->setCurrentIndex(1);
-        dialog->okButtonAction();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    QPointer<SoPerfCounterProfileManager> manager;
-};
 
 TEST_F(CounterProfileManager, ShowsCopiesOfTheProfilesAndEveryCounter)
 {
@@ -313,4 +252,88 @@ TEST_F(CounterProfileManager, HundredsOfProfilesAndCountersSurviveTheRoundTrip)
     };
     EXPECT_EQ(sectionsOf(readFile(path())), sectionsOf(content));
     EXPECT_TRUE(boxes.take().isEmpty());
+}
+
+TEST_F(CounterProfileManager, WhatBecomesOfACounterIsSeenInEveryTab)
+{
+    openBoth();
+    select(*manager->m_listCounter, {"perFrame"});
+    for (const int tab : {0, 1}) {
+        manager->m_tabProfile->setCurrentIndex(tab);
+        QTest::mouseClick(manager->m_downArrow, Qt::LeftButton);
+        EXPECT_TRUE(namesIn(page(tab)).contains("perFrame"));
+    }
+    boxes.answer(QMessageBox::Ok);
+    select(*manager->m_listCounter, {"perFrame"});
+    QTest::mouseClick(manager->m_deleteCounter, Qt::LeftButton);
+    EXPECT_EQ(namesIn(page(1)), (QStringList{"testA", "testB", "testC"}));
+    EXPECT_EQ(namesIn(page(0)), QStringList{"testA"});
+    press(QDialogButtonBox::Cancel);
+}
+
+TEST_F(CounterProfileManager, ACounterThatProfilesWaitForIsSeenInEveryTabOnceItIsMade)
+{
+    writeFile(
+        "<perfCounterModule><profiles><profile "
+        "name='one'><listcounters><pc>late</pc></listcounters></profile>"
+        "<profile "
+        "name='two'><listcounters><pc>late</pc></listcounters></profile></profiles></perfCounterModule>");
+    open();
+    manager = openManager();
+    for (const int tab : {1, 0}) {
+        manager->m_tabProfile->setCurrentIndex(tab);
+        EXPECT_EQ(namesIn(page(tab)), QStringList());
+    }
+    createCounter("late");
+    for (const int tab : {0, 1})
+        EXPECT_EQ(namesIn(page(tab)), QStringList{"late"});
+    press(QDialogButtonBox::Cancel);
+}
+
+TEST_F(CounterProfileManager, ADeletedNameCanBeGivenAgainAfterOk)
+{
+    openBoth();
+    SoPerfCounterManager::getInstance()->getCounter("perFrame")->setScaleFactor(7);
+    boxes.answer(QMessageBox::Ok);
+    select(*manager->m_listCounter, {"perFrame"});
+    QTest::mouseClick(manager->m_deleteCounter, Qt::LeftButton);
+    boxes.take();
+    createCounter("perFrame");
+    EXPECT_TRUE(
+        boxes.take().join('|').endsWith("There is already a counter with this name. Please rename it."));
+    manager->findChild<SoPerfCounterCreateCounter*>()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    press(QDialogButtonBox::Ok);
+    manager = openManager();
+    createCounter("perFrame");
+    EXPECT_EQ(boxes.take(), QStringList());
+    press(QDialogButtonBox::Ok);
+    const SoPerfCounter* made = SoPerfCounterManager::getInstance()->getCounter("perFrame");
+    ASSERT_TRUE(made);
+    EXPECT_EQ(made->getOperation(), SbString("*"));
+    EXPECT_EQ(made->getScaleFactor(), 1.0) << "another counter than the one before";
+    EXPECT_TRUE(readFile(path()).contains("<operation>*</operation>"));
+}
+
+TEST_F(CounterProfileManager, ALookIntoItLeavesTheScales)
+{
+    openBoth();
+    press(QDialogButtonBox::Cancel);
+    const auto scaleOf = [](const char* name) {
+        return SoPerfCounterManager::getInstance()->getCounter(name)->getScaleFactor();
+    };
+    dock->m_viewer->doubleClickEvent("perFrame");
+    for (const char* name : {"perFrame", "testA"})
+        SoPerfCounterManager::getInstance()->getCounter(name)->setScaleFactor(3);
+    for (const auto button : {QDialogButtonBox::Cancel, QDialogButtonBox::Ok}) {
+        manager = openManager();
+        press(button);
+        EXPECT_EQ(scaleOf("perFrame"), 3.0);
+        EXPECT_EQ(scaleOf("testA"), 3.0);
+    }
+    // Nor does a file that is gone.
+    manager = openManager();
+    QFile::remove(path());
+    press(QDialogButtonBox::Cancel);
+    EXPECT_EQ(scaleOf("perFrame"), 3.0);
 }

@@ -171,6 +171,37 @@ TEST_F(CounterRedraw, TheButtonShowsWhatItWillDo)
     EXPECT_EQ(imageOf(viewer.m_stop->icon()), pause);
 }
 
+TEST_F(CounterRedraw, TheButtonFollowsTheTimerWhoeverStopsOrStartsIt)
+{
+    writeExample();
+    open();
+    SoPerfCounterViewer& shown = *dock->m_viewer;
+    const auto isPause = [&] {
+        const QImage image = shown.m_stop->icon().pixmap(16).toImage();
+        const auto of = [](const char* file) {
+            return QIcon(QStringLiteral(":/PerfCounter_icons/Icons/") + file).pixmap(16).toImage();
+        };
+        EXPECT_TRUE(image == of("player_pause.png") || image == of("player_play.png"));
+        return image == of("player_pause.png");
+    };
+    const QImage asRunning = shown.m_stop->grab().toImage();
+    EXPECT_TRUE(isPause());
+    for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
+        QTest::mouseClick(shown.m_stop, Qt::LeftButton);
+        EXPECT_FALSE(isPause());
+        EXPECT_NE(shown.m_stop->grab().toImage(), asRunning) << "what is seen too";
+        SoPerfCounterProfileManager* manager = openManager();
+        EXPECT_FALSE(isPause());
+        QTest::mouseClick(manager->m_buttonBox->button(button), Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_TRUE(shown.getTimer()->isActive());
+        EXPECT_TRUE(isPause());
+        EXPECT_EQ(shown.m_stop->grab().toImage(), asRunning);
+    }
+    openManager();
+    EXPECT_FALSE(isPause()) << "nothing is sampled while the manager is open";
+}
+
 TEST_F(CounterRedraw, CurvesAreDrawnFromTheHistoriesThemselves)
 {
     const auto pointsOf = [this](int index) {
@@ -233,6 +264,7 @@ TEST_F(CounterRedraw, ManyPointsAreDrawnInFineLinesOnADenseScreen)
     viewer.m_freqBox->setCurrentText("8");
     viewer.m_timeBox->setCurrentText("120");
     show({"testB"});
+    viewer.resetHistory();
     while (viewer.getFilled() < 501)
         viewer.viewTimer();
     EXPECT_TRUE(isFine());
@@ -298,9 +330,9 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
     const auto place = [&](double x, double y) {
         return QPointF(plot->transform(QwtPlot::xBottom, x), plot->transform(QwtPlot::yLeft, y)).toPoint();
     };
-    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16")
+    EXPECT_EQ(tipAt(*plot, place(8.4, 16)), "testA: 16 (undivided: 8)")
         << "far from the samples at 8 and 9, near to the line";
-    EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8");
+    EXPECT_EQ(tipAt(*plot, place(2, 8)), "testA: 8 (undivided: 4)");
     EXPECT_EQ(tipAt(*plot, place(2, 14)), "") << "no line here";
 }
 
@@ -312,8 +344,8 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueOfABar)
     viewer.graphView();
     QwtPlot* plot = viewer.getGraphPlot();
     const auto place = [&](double x) { return QPointF(plot->transform(QwtPlot::xBottom, x), 20).toPoint(); };
-    EXPECT_EQ(tipAt(*plot, place(0.5)), "testA: 0");
-    EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6");
+    EXPECT_EQ(tipAt(*plot, place(0.5)), "testA: 0 (undivided: 0)");
+    EXPECT_EQ(tipAt(*plot, place(1.5)), "testB: 6 (undivided: 3)");
     EXPECT_EQ(tipAt(*plot, place(-0.5)), "");
     EXPECT_EQ(tipAt(*plot, place(2.5)), "");
 }
@@ -327,7 +359,7 @@ TEST_F(CounterRedraw, AToolTipTakesNoNameForMarkup)
     QwtPlot* plot = viewer.getGraphPlot();
     QTextDocument shown;
     shown.setHtml(tipAt(*plot, QPointF(plot->transform(QwtPlot::xBottom, 0.5), 20).toPoint()));
-    EXPECT_EQ(shown.toPlainText(), "<b>bold</b>: 0");
+    EXPECT_EQ(shown.toPlainText(), "<b>bold</b>: 0 (undivided: 0)");
 }
 
 TEST_F(CounterRedraw, TheLegendShowsNamesInWhole)

@@ -270,6 +270,6 @@ TEST_F(CounterViewer, TheValueUnderThePointerIsNamed)
     SoPerfCounterCurve* plot = viewer.getCurvePlot();
     const double x = plot->transform(QwtPlot::xBottom, viewer.getXValues()[1]);
     const double y = plot->transform(QwtPlot::yLeft, 10.0);
-    EXPECT_EQ(plot->textAt(QPointF(x, y).toPoint()), "testA: 10");
+    EXPECT_EQ(plot->textAt(QPointF(x, y).toPoint()), "testA: 10 (undivided: 5)");
     EXPECT_EQ(plot->textAt(QPoint(-400, -400)), "");
 }

@@ -36,9 +36,10 @@ protected:
         names.push_back(name);
         return counter;
     }
+    template <class Counter = SoPerfAccumCounter>
     SoPerfCounter* addCustom(const char* name, const char* first, const char* operation, const char* second)
     {
-        SoPerfCounter* counter = add(name, true);
+        SoPerfCounter* counter = add<Counter>(name, true);
         counter->setFirstParent(first);
         counter->setSecondParent(second);
         counter->setOperation(operation);
@@ -165,10 +166,42 @@ TEST_F(Counters, CustomOnesComputeFromTheRawValuesOfTwoOthers)
     EXPECT_EQ(nested->getValue(), 48);
     nested->setScaleFactor(2);
     EXPECT_EQ(nested->getValue(), 24);
-    nested->reset(); // its parents are the ones to reset
-    EXPECT_EQ(nested->getValue(), 24);
+    nested->reset(); // and with it what it is computed from
+    EXPECT_EQ(nested->getValue(), 0);
+    EXPECT_EQ(a->getValue(), 0);
+    EXPECT_EQ(b->getRawValue(), 4) << "a state stays";
     b->setState(0);
     EXPECT_EQ(manager().getCounter("quotient")->getValue(), 0);
+}
+
+TEST_F(Counters, AResetReachesTheLeavesOfCustomOnes)
+{
+    auto* a = add("a");
+    auto* b = add("b");
+    addCustom("inner", "a", "+", "b");
+    addCustom<SoPerfStateCounter>("middle", "inner", "+", "missing");
+    SoPerfCounter* outer = addCustom("outer", "middle", "+", "inner");
+    for (SoPerfCounter* counter : {outer, manager().getCounter("middle"), manager().getCounter("inner")}) {
+        for (int round = 0; round < 3; ++round) {
+            a->increment(3);
+            b->increment(7);
+            EXPECT_EQ(manager().getCounter("inner")->getValue(), 10) << counter->getName().getString();
+            counter->reset();
+            EXPECT_EQ(a->getValue() + b->getValue(), 0) << counter->getName().getString();
+        }
+    }
+}
+
+TEST_F(Counters, AResetForgetsWhatWasReadWithinTheInterval)
+{
+    auto* a = add("a");
+    addCustom("inner", "a", "+", "missing");
+    SoPerfCounter* outer = addCustom("outer", "inner", "+", "missing");
+    manager().setInterval(3600.0);
+    a->increment(5);
+    EXPECT_EQ(outer->getValue() + manager().getCounter("inner")->getValue(), 10);
+    outer->reset();
+    EXPECT_EQ(outer->getValue() + manager().getCounter("inner")->getValue(), 0);
 }
 
 TEST_F(Counters, AMissingParentCountsAsZero)
@@ -225,6 +258,8 @@ TEST_F(Counters, ALoopThatRegisteringClosesIsReportedAndCutWhenRead)
     EXPECT_EQ(errors.texts.size(), 1U);
     EXPECT_EQ(first->getValue(), 2);  // a + (0 + a)
     EXPECT_EQ(second->getValue(), 2); // (a + 0) + a
+    second->reset();
+    EXPECT_EQ(second->getValue(), 0);
 }
 
 TEST_F(Counters, LongAndBranchingChainsAreComputedOnce)
@@ -243,6 +278,8 @@ TEST_F(Counters, LongAndBranchingChainsAreComputedOnce)
         names.emplace_back(name.c_str());
     }
     EXPECT_EQ(manager().getCounter(names.back())->getValue(), 1);
+    manager().getCounter(names.back())->reset();
+    EXPECT_EQ(manager().getCounter("link 0")->getValue(), 0);
 }
 
 TEST_F(Counters, AnIntervalKeepsWhatWasRead)
