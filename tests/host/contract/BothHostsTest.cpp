@@ -73,6 +73,10 @@ protected:
     SpxShell& shell() { return *SpxShell::getInstance(); }
     SpxPluginsManager& manager() { return *SpxPluginsManager::getInstance(); }
 
+    // Longer than the commands that count in them.
+    std::string trace;
+    int alive = 0;
+
     Host host;
 };
 
@@ -103,20 +107,19 @@ TYPED_TEST_SUITE(BothHosts, Hosts);
 
 TYPED_TEST(BothHosts, RunUndoRedoAndDeleteCommands)
 {
-    std::string trace;
-    int alive = 0;
-    this->services().executeCommand(new Add(trace, alive));
+    const auto add = [this] { this->services().executeCommand(new Add(this->trace, this->alive)); };
+    add();
     EXPECT_FALSE(this->host.redo());
     EXPECT_TRUE(this->host.undo());
     EXPECT_FALSE(this->host.undo());
     EXPECT_TRUE(this->host.redo());
-    EXPECT_EQ(trace, "execute undo redo ");
-    this->services().executeCommand(new Add(trace, alive));
-    EXPECT_EQ(alive, 2);
+    EXPECT_EQ(this->trace, "execute undo redo ");
+    add();
+    EXPECT_EQ(this->alive, 2);
     this->host.undo();
     this->host.undo();
-    this->services().executeCommand(new Add(trace, alive)); // drops what was undone
-    EXPECT_EQ(alive, 1);
+    add(); // drops what was undone
+    EXPECT_EQ(this->alive, 1);
     EXPECT_FALSE(this->host.redo());
 }
 
