@@ -3,6 +3,7 @@
 #include <scopix-host/HostApplication.h>
 
 #include <QApplication>
+#include <QFont>
 
 #include <cstdio>
 
@@ -68,6 +69,10 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("scopix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Scopix"));
     QApplication::setApplicationVersion(QStringLiteral(SCOPIX_VERSION));
+    // What the inspector gives its window off the screen, for what measures itself before it is in that
+    // window.
+    if (QApplication::platformName() == QLatin1String("offscreen"))
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     scopix::HostApplication host;
     return host.run(line);
 }
