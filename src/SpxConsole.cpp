@@ -7,7 +7,7 @@
 
 #include <scopix/SpxShell.h>
 #include <xsg/errors/SoDebugError.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QCoreApplication>
 #include <QDockWidget>

@@ -9,7 +9,7 @@
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QApplication>
 #include <QSettings>

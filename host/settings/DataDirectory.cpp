@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/DataDirectory.h"
 
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QCoreApplication>
 #include <QDir>

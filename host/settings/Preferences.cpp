@@ -4,7 +4,7 @@
 #include "settings/UserSettings.h"
 
 #include <xsg/errors/SoReadError.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QFile>
 #include <QRegularExpression>

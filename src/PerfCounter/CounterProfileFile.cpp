@@ -8,7 +8,7 @@
 
 #include <scopix/editing/SpxText.h>
 #include <xsg/counters/SoPerfCounterManager.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>

@@ -4,7 +4,7 @@
 #include "SoPerfCounterDockWin.h"
 
 #include <scopix/SpxShell.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -6,7 +6,11 @@
 
 #include <atomic>
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <mutex>
+#include <set>
+#include <string>
 #include <typeindex>
 #include <unordered_map>
 #include <vector>
@@ -17,8 +21,8 @@ namespace xsg
 /// The process-wide state of scene graphs, all in one place: this level's own as members, that of the levels
 /// above in slots, one per type. Made at first use and never destroyed, since nodes may outlive main().
 ///
-/// Belongs to the graph's thread. What other threads use as well is not here but keeps its own lock: the
-/// interned names (SbName), the types (SoType), the error handlers, the counters and the preferences.
+/// Belongs to the graph's thread, but for what says otherwise. What levels below keep is not here and has a
+/// lock of its own: the interned names (SbName), the types (SoType), the error handlers and the counters.
 class Context
 {
 public:
@@ -31,7 +35,15 @@ public:
         void* data;
     };
 
+    /// What SoPreferences holds. Any thread, under its lock.
+    struct Preferences {
+        std::mutex mutex;
+        std::map<std::string, std::string, std::less<>> values;
+        std::set<std::string> warned; // sentences
+    };
+
     ContainerNames names;
+    Preferences preferences;
     std::vector<DestructionListener> destructionListeners;
     /// Containers that wait for the destruction of the one before them, or null while nothing is destroyed.
     std::vector<const SoFieldContainer*>* pendingDestruction = nullptr;

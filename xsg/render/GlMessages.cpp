@@ -2,7 +2,7 @@
 #include <xsg/render/GlMessages.h>
 
 #include <xsg/errors/SoGLError.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <cstring>
 

@@ -5,7 +5,7 @@
 #include "app/HostSession.h"
 
 #include <scopix/SpxExtension.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "settings/DataDirectory.h"
 
 #include <xsg/counters/SoPerfCounterManager.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "xsg/errors/Collected.h"
 
 #include <xsg/errors/SoReadError.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <gtest/gtest.h>
 

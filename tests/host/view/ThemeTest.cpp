@@ -4,7 +4,7 @@
 #include "app/HostSession.h"
 #include "window/MainWindow.h"
 
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include <gtest/gtest.h>
 

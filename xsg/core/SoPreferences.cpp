@@ -1,29 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/values/SbValueText.h>
 
 #include <cstdlib>
-#include <map>
-#include <mutex>
 #include <optional>
-#include <set>
 
 namespace
 {
 
-struct Store {
-    std::mutex mutex;
-    std::map<std::string, std::string, std::less<>> values;
-    std::set<std::string> warned;
-};
-
-// Never destroyed: other static objects may ask while the process ends.
-Store& store()
+xsg::Context::Preferences& store()
 {
-    static auto& store = *new Store;
-    return store;
+    return xsg::Context::get().preferences;
 }
 
 std::optional<std::string> environment(const char* name)

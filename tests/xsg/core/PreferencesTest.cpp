@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <xsg/errors/SoDebugError.h>
-#include <xsg/support/SoPreferences.h>
+#include <xsg/core/SoPreferences.h>
 
 #include "xsg/errors/Collected.h"
 
