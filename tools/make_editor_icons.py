@@ -75,7 +75,7 @@ def xpm(name, shape, colours):
     return f"constexpr const char* {name}Xpm[] = {{\n    {body}}};\n"
 
 
-print("// Made by tools/make_editor_icons.py; change the shapes there.\n#pragma once\n")
+print("// SPDX-License-Identifier: MIT\n// Made by tools/make_editor_icons.py; change the shapes there.\n// clang-format off\n#pragma once\n")
 print("namespace editorIcons\n{\n")
 print("\n".join(xpm(*icon) for icon in ICONS))
 print("} // namespace editorIcons")
