@@ -6,8 +6,8 @@
 #include "ui_SpxConsole.h"
 
 #include <scopix/SpxShell.h>
-#include <xsg/errors/SoDebugError.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/errors/SoDebugError.h>
 
 #include <QCoreApplication>
 #include <QDockWidget>

@@ -3,8 +3,8 @@
 
 #include "settings/UserSettings.h"
 
-#include <xsg/errors/SoReadError.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/errors/SoReadError.h>
 
 #include <QFile>
 #include <QRegularExpression>

@@ -7,8 +7,8 @@
 #include "SoPerfCounterProfile.h"
 
 #include <scopix/editing/SpxText.h>
-#include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/counters/SoPerfCounterManager.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>

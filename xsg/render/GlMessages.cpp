@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/render/GlMessages.h>
 
-#include <xsg/errors/SoGLError.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/errors/SoGLError.h>
 
 #include <cstring>
 

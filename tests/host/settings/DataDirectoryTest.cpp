@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/DataDirectory.h"
 
-#include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/counters/SoPerfCounterManager.h>
 
 #include <gtest/gtest.h>
 

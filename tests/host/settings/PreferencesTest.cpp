@@ -3,8 +3,8 @@
 
 #include "xsg/errors/Collected.h"
 
-#include <xsg/errors/SoReadError.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/errors/SoReadError.h>
 
 #include <gtest/gtest.h>
 

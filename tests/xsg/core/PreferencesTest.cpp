@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <xsg/errors/SoDebugError.h>
 #include <xsg/core/SoPreferences.h>
+#include <xsg/errors/SoDebugError.h>
 
 #include "xsg/errors/Collected.h"
 
