@@ -271,7 +271,7 @@ void SpxConsole::append(const ConsoleMessage* begin, const ConsoleMessage* end)
     }
     QVector<ConsoleText::Paragraphs> paragraphs;
     for (; begin != end; ++begin) {
-        const Output& output = m_outputs[std::size_t(begin->kind)];
+        const Output& output = m_outputs[begin->printedKind()];
         if (output.shown)
             paragraphs.append({begin->text, output.color});
     }

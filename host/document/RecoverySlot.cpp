@@ -52,8 +52,9 @@ RecoverySlot::Origin RecoverySlot::getOrigin() const
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
-    return {object.value(QStringLiteral("path")).toString(),
-            object.value(QStringLiteral("title")).toString()};
+    const QString path = object.value(QStringLiteral("path")).toString();
+    // A relative path, as earlier builds wrote it, may mean another file by now.
+    return {QDir::isAbsolutePath(path) ? path : QString(), object.value(QStringLiteral("title")).toString()};
 }
 
 bool RecoverySlot::setOrigin(const Origin& origin) const

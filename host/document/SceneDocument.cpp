@@ -108,7 +108,8 @@ void SceneDocument::adoptFile(const QString& path)
 
 void SceneDocument::setState(const QString& path, const QString& title)
 {
-    m_path = path;
+    // The path outlives the folder that the program was started in: it is kept for recovery.
+    m_path = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
     m_title = title;
     emit stateChanged();
 }

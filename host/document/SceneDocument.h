@@ -41,6 +41,7 @@ public:
     bool isExternal() const { return m_isExternal; }
 
     SoNode* getRoot() const { return m_root.get(); }
+    /// Absolute, or empty.
     const QString& getPath() const { return m_path; }
     const QString& getTitle() const { return m_title; }
     /// True when it came from a scene file or was saved as one, so that saving needs no name.

@@ -10,4 +10,7 @@ struct ConsoleMessage {
 
     QString text;
     int kind;
+
+    /// What it is printed as: a message of an unknown kind is an error.
+    Kind printedKind() const { return kind == Info || kind == Warning ? static_cast<Kind>(kind) : Error; }
 };

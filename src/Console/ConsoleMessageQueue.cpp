@@ -60,7 +60,7 @@ std::size_t ConsoleMessageQueue::size() const
 
 void ConsoleMessageQueue::enqueue(ConsoleMessage&& message, int lines)
 {
-    Queue& queue = m_queues[std::size_t(message.kind)];
+    Queue& queue = m_queues[message.printedKind()];
     queue.waiting.push_back({std::move(message), lines, m_number++});
     queue.lines += lines;
     while (queue.lines - queue.waiting.front().lines >= m_maxLines)

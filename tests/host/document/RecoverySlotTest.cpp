@@ -140,4 +140,12 @@ TEST_F(Slots, AFolderThatCannotBeMadeGivesNone)
     EXPECT_FALSE(RecoverySlot::findOrphaned(path));
 }
 
+TEST_F(Slots, ARelativePathOfAnEarlierBuildNamesNoFile)
+{
+    const auto slot = RecoverySlot::make(path);
+    ASSERT_TRUE(slot->setOrigin({"scene.xsg", "scene.xsg"}));
+    EXPECT_EQ(slot->getOrigin().path, QString());
+    EXPECT_EQ(slot->getOrigin().title, "scene.xsg");
+}
+
 } // namespace

@@ -158,4 +158,16 @@ TEST_F(SceneDocumentTest, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
     EXPECT_EQ(scene->getRefCount(), 1) << "the document has let go of it";
 }
 
+// A relative path would mean another file once the program is started elsewhere.
+TEST_F(SceneDocumentTest, KeepsAbsolutePaths)
+{
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    document.begin(document.getRoot(), "typed.xsg", "typed.xsg");
+    QDir::setCurrent(before);
+    EXPECT_EQ(document.getPath(), QDir(folder.path()).absoluteFilePath("typed.xsg"));
+    document.begin(document.getRoot(), QString(), "untitled");
+    EXPECT_EQ(document.getPath(), QString());
+}
+
 } // namespace

@@ -83,3 +83,12 @@ TEST_F(Inbox, CountsTheLinesThatAMessageWillTake)
     m_inbox.push({QString(100, '\n') + "longer than all", ConsoleMessage::Info});
     EXPECT_EQ(m_inbox.size(), 1U);
 }
+
+TEST_F(Inbox, KeepsMessagesOfUnknownKindsAmongTheErrors)
+{
+    m_inbox.setMaxLines(2);
+    push(ConsoleMessage::Error, 40, "error");
+    for (const int kind : {-1, 3, 1000})
+        push(kind, 1, "unknown");
+    EXPECT_EQ(takeAll(), (QStringList{"unknown 0", "unknown 0"})) << "the newest two of one kind";
+}

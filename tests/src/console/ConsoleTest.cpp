@@ -538,3 +538,14 @@ TEST_F(Console, FreesItsWidgetsWhenUnloaded)
     EXPECT_TRUE(dock.isNull());
     EXPECT_TRUE(m_output.isNull());
 }
+
+TEST_F(Console, PrintsAnEventOfAnUnknownKindAsAnError)
+{
+    start();
+    for (const int kind : {-1, 3, 1000}) {
+        SpxConsole::ConsoleEvent event({QString("kind %1").arg(kind), kind});
+        QCoreApplication::sendEvent(&m_console, &event);
+        EXPECT_EQ(colorOf(output().document()->lastBlock()), Red) << kind;
+    }
+    EXPECT_EQ(lines(), (QStringList{"kind -1", "kind 3", "kind 1000"}));
+}
