@@ -4,6 +4,7 @@
 #include "document/TexturePaths.h"
 #include "model/ModelFormats.h"
 #include "services/HostServices.h"
+#include "support/OutputFile.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
@@ -88,6 +89,9 @@ QString SceneDocument::save(const QString& path)
     // A link stays one; what it leads to is replaced.
     const QFileInfo target(path);
     const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
+    const QString reason = reasonAgainstWriting(real, {sceneEnding()});
+    if (!reason.isEmpty())
+        return tr("The scene “%1” cannot be written: %2.").arg(path, reason);
     if (!m_isExternal && QFileInfo(real).dir().exists())
         movePictures(m_root.get(), QFileInfo(real).absolutePath());
     std::string error;

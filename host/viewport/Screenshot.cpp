@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/Screenshot.h"
 
+#include "support/OutputFile.h"
+
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QImageWriter>
 #include <QPixmap>
 #include <QSaveFile>
 #include <QWidget>
@@ -23,6 +27,17 @@ QString cannotWrite(const QString& path, const QString& reason)
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
+// The kinds of pictures that Qt writes; the ending chooses one.
+QStringList pictureExtensions()
+{
+    QStringList extensions{QStringLiteral("png")};
+    for (const QByteArray& format : QImageWriter::supportedImageFormats()) {
+        if (format != "png")
+            extensions += QString::fromLatin1(format);
+    }
+    return extensions;
+}
+
 void settle()
 {
     for (int turn = 0; turn < MaxTurns; ++turn) {
@@ -36,12 +51,15 @@ void settle()
 
 QString saveScreenshot(QWidget& window, const QString& path)
 {
+    const QString reason = reasonAgainstWriting(path, pictureExtensions());
+    if (!reason.isEmpty())
+        return cannotWrite(path, reason);
     settle();
     const QPixmap picture = window.grab();
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return cannotWrite(path, file.errorString());
-    if (!picture.save(&file, "PNG") || !file.commit())
+    if (!picture.save(&file, QFileInfo(path).suffix().toLatin1()) || !file.commit())
         return cannotWrite(path, file.errorString());
     return {};
 }

@@ -170,4 +170,21 @@ TEST_F(SceneDocumentTest, KeepsAbsolutePaths)
     EXPECT_EQ(document.getPath(), QString());
 }
 
+TEST_F(SceneDocumentTest, ReplacesNoFileOfAnotherKindAndNoneThatIsProtected)
+{
+    const QString model = folder.filePath("model.glb");
+    const QString scene = folder.filePath("protected.xsg");
+    for (const QString& path : {model, scene}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("precious");
+    }
+    QFile::setPermissions(scene, QFile::ReadOwner);
+    for (const QString& path : {model, scene}) {
+        const QString error = document.save(path);
+        EXPECT_TRUE(error.contains(path)) << qPrintable(error);
+        EXPECT_EQ(contentOf(path), "precious");
+    }
+}
+
 } // namespace

@@ -286,6 +286,36 @@ TEST_F(Window, ScreenshotThatCannotBeWrittenIsTold)
     EXPECT_TRUE(told[0].contains(path));
 }
 
+TEST_F(Window, ScreenshotReplacesNoFileOfAnotherKind)
+{
+    const QString scene = folder.filePath("scene.xsg");
+    QFile file(scene);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("precious");
+    file.close();
+    const QString picture = folder.filePath("picture.png");
+    QFile::copy(scene, picture);
+    QFile::setPermissions(picture, QFile::ReadOwner);
+    const QStringList paths{scene, picture, "/dev/full", folder.path()};
+    for (const QString& path : paths)
+        EXPECT_FALSE(window.saveScreenshot(path)) << qPrintable(path);
+    ASSERT_EQ(told.size(), paths.size());
+    for (int i = 0; i < paths.size(); ++i)
+        EXPECT_TRUE(told[i].contains(paths[i])) << qPrintable(told[i]);
+    for (const QString& path : {scene, picture}) {
+        QFile kept(path);
+        ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+        EXPECT_EQ(kept.readAll(), "precious") << qPrintable(path);
+    }
+}
+
+TEST_F(Window, ScreenshotIsOfTheKindThatItsNameSays)
+{
+    const QString path = folder.filePath("shot.JPG");
+    ASSERT_TRUE(window.saveScreenshot(path));
+    EXPECT_EQ(QImageReader(path).format(), "jpeg");
+}
+
 TEST_F(Window, TheSceneMayChangeUnderTheSelection)
 {
     ASSERT_TRUE(window.selectField("Glass", "transparency"));
