@@ -28,6 +28,8 @@ QString whyNoLibrary(const QString& path)
         return tr("there is no such file");
     if (QFileInfo(path).isDir())
         return tr("it is a folder, and a plug-in library was expected");
+    if (!QFileInfo(path).isFile()) // a pipe keeps whoever opens it waiting
+        return tr("it is no regular file");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return tr("the file may not be read");

@@ -5,6 +5,7 @@
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SceneReader.h>
 #include <xsg/files/SceneWriter.h>
+#include <xsg/support/SpecialFile.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -47,15 +48,15 @@ void readMore(std::FILE* file, std::size_t size, std::string& text)
 
 bool readAll(const std::string& path, std::string& text, std::string& error)
 {
+    if (xsg::isSpecialFile(path)) { // before it is opened, for which a pipe would wait
+        refuse(path, "A scene file was expected, but this is not a file.", error);
+        return false;
+    }
     const File file(std::fopen(path.c_str(), "rb"));
     struct stat about {
     };
     if (!file || fstat(fileno(file.get()), &about) != 0) {
         refuse(path, "The file cannot be read: " + std::string(std::strerror(errno)) + ".", error);
-        return false;
-    }
-    if (!S_ISREG(about.st_mode)) {
-        refuse(path, "A scene file was expected, but this is not a file.", error);
         return false;
     }
     const auto size = static_cast<std::size_t>(about.st_size);

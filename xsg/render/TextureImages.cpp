@@ -2,6 +2,7 @@
 #include <xsg/render/TextureImages.h>
 
 #include <xsg/render/PixmapFile.h>
+#include <xsg/support/SpecialFile.h>
 
 namespace
 {
@@ -31,6 +32,11 @@ SoImageView xsg::TextureImages::find(const SoTexture2& node)
     return node.image.isIgnored() ? SoImageView() : viewOf(node.image);
 }
 
+bool xsg::TextureImages::read(const std::string& path, SoSFImage& image) const
+{
+    return m_reader ? m_reader(path.c_str(), image) : readPixmap(path.c_str(), image);
+}
+
 // Null where none is named; empty where it cannot be read.
 const SoSFImage* xsg::TextureImages::readFile(const SoTexture2& node)
 {
@@ -45,7 +51,7 @@ const SoSFImage* xsg::TextureImages::readFile(const SoTexture2& node)
     if (isNew || file.version != version || file.path != path) {
         file.version = version;
         file.path = path;
-        if (!(m_reader ? m_reader(path.c_str(), file.image) : readPixmap(path.c_str(), file.image)))
+        if (isSpecialFile(path) || !read(path, file.image))
             file.image.setValue(0, 0, 0, nullptr);
     }
     return &file.image;

@@ -41,6 +41,7 @@ private:
         std::uint32_t version = 0; // the file name field's change count
         SoSFImage image;
     };
+    bool read(const std::string& path, SoSFImage& image) const;
     const SoSFImage* readFile(const SoTexture2& node);
 
     SoImageReader m_reader;                // null: the library's own

@@ -12,6 +12,7 @@
 
 #include <fstream>
 #include <string>
+#include <sys/stat.h>
 
 using namespace scopix;
 
@@ -147,6 +148,16 @@ INSTANTIATE_TEST_SUITE_P(Cases, BadPluginTest,
                                            BadPlugin{testPlugin("Null"), "returned no plug-in"},
                                            BadPlugin{testPlugin("LoadFalse"), "cannot be used"},
                                            BadPlugin{testPlugin("LoadThrows"), "no licence"}));
+
+TEST(PluginLoading, APipeIsRefusedWithoutWaiting)
+{
+    PluginHost host;
+    const QString pipe = host.folder.filePath("libPipe.so");
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    EXPECT_FALSE(host.manager.loadPlugin(pipe));
+    ASSERT_EQ(host.failures.size(), 1);
+    EXPECT_TRUE(host.failures[0].contains("no regular file")) << qPrintable(host.failures[0]);
+}
 
 TEST(PluginForAnotherVersion, IsRefusedBeforeItsCodeRuns)
 {

@@ -364,6 +364,17 @@ class SceneFileError : public SceneFile, public testing::WithParamInterface<Wron
 {
 };
 
+TEST(SceneFilePipe, IsRefusedWithoutWaiting)
+{
+    const std::string path = testing::TempDir() + "scene.xsg.pipe";
+    std::remove(path.c_str());
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    std::string error;
+    EXPECT_FALSE(SoSceneFile::read(path, error));
+    EXPECT_NE(error.find("not a file"), std::string::npos) << error;
+    std::remove(path.c_str());
+}
+
 TEST_P(SceneFileError, NamesFileLineColumnAndWhatWasExpected)
 {
     EXPECT_FALSE(read(Head + GetParam().text));

@@ -9,6 +9,7 @@
 #include <xsg/nodes/shapes/SoTriangleStripSet.h>
 
 #include <fstream>
+#include <sys/stat.h>
 
 namespace
 {
@@ -61,6 +62,17 @@ TEST_F(TextureFile, OfGreysIsGrey)
     const auto [low, high] = drawFile(std::string("P5 1 2 255\n") + "\x20" + "\xC0");
     EXPECT_PIXEL(low, (Pixel{0xC0, 0xC0, 0xC0}));
     EXPECT_PIXEL(high, (Pixel{0x20, 0x20, 0x20}));
+}
+
+// Opening it would wait for somebody who writes.
+TEST_F(TextureFile, ThatIsAPipeGivesWayToTheImage)
+{
+    const std::string path = testing::TempDir() + "texture.ppm.pipe";
+    std::remove(path.c_str());
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    texture->fileName.setValue(path.c_str());
+    EXPECT_PIXEL(at(draw(), 25, 39), (Pixel{0, 0, 255}));
+    std::remove(path.c_str());
 }
 
 TEST_F(TextureFile, ThatIsDamagedGivesWayToTheImage)
