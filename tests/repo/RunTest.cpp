@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What ./run hands to the program, told by a program that only prints it.
+// What ./run passes to the program, by a program that only prints it.
 #include <gtest/gtest.h>
 
 #include <cstdio>

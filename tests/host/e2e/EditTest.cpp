@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The whole road of an edit: selection, editor, input, field, undo history.
+// The whole path of an edit: selection, editor, input, field, undo history.
 #include <support/Session.h>
 
 #include <QFile>

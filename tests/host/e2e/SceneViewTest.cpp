@@ -94,7 +94,7 @@ TEST_F(LiveView, FollowsTheEditOfTheCameraThatItLooksThrough)
     const QImage turned = picture();
     EXPECT_NE(turned, before);
     session.stack().redo();
-    EXPECT_EQ(picture(), turned) << "the person had gone on looking around";
+    EXPECT_EQ(picture(), turned) << "the user had looked around since";
     QTest::keyClick(&view(), Qt::Key_Home);
     EXPECT_EQ(picture(), nearer);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One gesture, one undo step: with the events that a person's acts make.
+// One gesture, one undo step: with the events that the user's input makes.
 #include "HostParts.h"
 
 #include <gtest/gtest.h>

@@ -25,7 +25,7 @@ protected:
     }
     Log take() { return std::exchange(m_log, {}); }
 
-    Log m_log; // nodes that go at the end are still told
+    Log m_log; // nodes that are destroyed at the end are still reported
     HostServices m_services;
     SoRef<SoMaterial> m_material = new SoMaterial;
     SoRef<SoComplexity> m_complexity = new SoComplexity;

@@ -355,7 +355,7 @@ TEST_F(History, TellsEveryAct)
     EXPECT_EQ(acted.count(), 1);
     setTransparency(*material, 0.5F);
     ASSERT_EQ(stack().count(), 1);
-    EXPECT_EQ(acted.count(), 2) << "one that goes into the same step too";
+    EXPECT_EQ(acted.count(), 2) << "one that joins the same step too";
     QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
     stack().undo();
     EXPECT_EQ(acted.count(), 3);

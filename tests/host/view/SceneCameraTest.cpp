@@ -166,7 +166,7 @@ TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
     EXPECT_TRUE(seesThrough(*first));
 }
 
-// How far away what is chosen by distance is, only the camera could tell that is looked for in it.
+// The choice depends on the distance to the camera, which is not known while the camera is being searched.
 TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
 {
     auto* choice = new SoLevelOfDetail;
@@ -230,7 +230,7 @@ TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
     const SoCamera* same = &seen();
     cube->width.setValue(1);
     EXPECT_NE(picture(), before);
-    EXPECT_EQ(&seen(), same) << "for another camera the renderer would look at the whole scene anew";
+    EXPECT_EQ(&seen(), same) << "for another camera the renderer would traverse the whole scene again";
 
     QTest::keyClick(&view, Qt::Key_Left);
     const QImage moved = picture();
@@ -277,7 +277,8 @@ TEST_F(SceneWithCamera, TheViewTurnsAroundTheScene)
     camera->focalDistance.setValue(299.5F);
     QTest::keyClick(&view, Qt::Key_Home);
     QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_TRUE(isNear(seen().getFocalPoint(), {0, 0, 0.5F}, 1e-3F)) << "a point within the scene is meant";
+    EXPECT_TRUE(isNear(seen().getFocalPoint(), {0, 0, 0.5F}, 1e-3F))
+        << "the focal point must lie within the scene";
 }
 
 TEST_F(SceneWithCamera, OneThatSeesNothingOfTheSceneIsNotLookedThrough)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does with files, in the window.
+// What a user does with files, in the window.
 #include "services/HostServices.h"
 #include "support/SetText.h"
 #include "support/UserNotifier.h"
@@ -65,7 +65,7 @@ auto answer(const QString& button)
     };
 }
 
-// A program's window with a person before it, as HostApplication sets it up.
+// A program's window in an attended session, as HostApplication sets it up.
 struct Program {
     Program()
     {

@@ -273,7 +273,7 @@ TEST(SceneTreeDepth, TakesDownRowsNestedDeeperThanTheStack)
 {
     const auto root = named("root");
     const auto deepest = named("deepest");
-    SoRef<SoSeparator> top = deepest; // built from below, so that no addition has far to tell
+    SoRef<SoSeparator> top = deepest; // built from below, so that no addition notifies many ancestors
     for (int i = 0; i < 100000; ++i) {
         SoRef<SoSeparator> above(new SoSeparator);
         above->addChild(top.get());

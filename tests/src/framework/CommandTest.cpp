@@ -24,7 +24,7 @@ std::string textOf(const SoField& field)
     return text.str();
 }
 
-// A list that writes down how it is told of changes and asked to open and close places.
+// A list that records its notifications and the calls that insert and remove elements.
 class WatchedList : public SoMFInt32
 {
 public:

@@ -43,7 +43,7 @@ struct Docked {
     }
 
     Dock extension;
-    TestHost host; // goes first, and unloads the extension
+    TestHost host; // destroyed first, and unloads the extension
     QDockWidget* dock = nullptr;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The road of one edit: command, write, undo stack.
+// The path of one edit: command, write, undo stack.
 #include "EdFieldEdits.h"
 
 #include <scopix/editing/SpxFreshDefault.h>

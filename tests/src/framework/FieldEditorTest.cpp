@@ -233,7 +233,7 @@ TEST(FieldEditor, DropsWhatWasTypedWhenTheNodeGoes)
     EXPECT_EQ(editor.takeCalls(), "");
 }
 
-// Nobody tells of the end of a field that stands alone; the editor finds it gone.
+// Nobody reports the end of a field without a container; the editor notices it by itself.
 TEST(FieldEditor, OutlivesItsField)
 {
     TestHost host;

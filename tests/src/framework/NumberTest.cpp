@@ -15,7 +15,7 @@
 namespace
 {
 
-// What stands in an input with this validator after a person typed `keys`.
+// The text of an input with this validator after the user has typed `keys`.
 QString typed(QValidator* validator, const QString& keys)
 {
     QLineEdit input;

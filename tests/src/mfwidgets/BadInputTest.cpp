@@ -88,7 +88,7 @@ TYPED_TEST(AnyList, AListThatIsLetGoIsNotWritten)
     EXPECT_EQ(f.host.undoCount(), 0);
 }
 
-// An open cell, or the popup, of a row that goes away takes what was typed along; nothing of it stays.
+// When a row is deleted, what was typed into its open cell or its popup is dropped.
 TYPED_TEST(AnyList, TheRowThatIsBeingTypedMayBeDeleted)
 {
     auto& f = this->f;

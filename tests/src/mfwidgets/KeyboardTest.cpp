@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table by keyboard alone, and what it tells those who do not see it.
+// The table by keyboard alone, and what it reports to assistive technology.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"
 #include "MultiFixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The profile manager: who is told what, in which order, and that nothing is left half done.
+// The profile manager: the order of its signals, and that nothing is left half done.
 #include "CounterFixture.h"
 
 #include <QSignalSpy>

@@ -331,7 +331,7 @@ TEST_F(CounterProfileManager, ALookIntoItLeavesTheScales)
         EXPECT_EQ(scaleOf("perFrame"), 3.0);
         EXPECT_EQ(scaleOf("testA"), 3.0);
     }
-    // Nor does a file that is gone.
+    // Nor does a file that no longer exists.
     manager = openManager();
     QFile::remove(path());
     press(QDialogButtonBox::Cancel);

@@ -21,7 +21,7 @@
 namespace
 {
 
-// Counts how often a plot is made anew, by what each time changes in it: its time axis.
+// Counts how often a plot is redrawn, by what changes each time: its time axis.
 class Redraws
 {
 public:
@@ -211,7 +211,7 @@ TEST_F(CounterRedraw, CurvesAreDrawnFromTheHistoriesThemselves)
     EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());
     EXPECT_EQ(pointsOf(0)->xData(), viewer.getXValues().data());
     EXPECT_EQ(pointsOf(0)->size(), 60U);
-    // No curve keeps an array that is gone, also while nobody looks.
+    // No curve keeps an array that is freed, not even while the plot is hidden.
     viewer.hide();
     viewer.m_timeBox->setCurrentText("120");
     EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());

@@ -82,7 +82,7 @@ TEST_F(CounterViewer, WhatWasCountedBeforeTheStartIsNotShown)
 TEST_F(CounterViewer, EachSampleMovesTheTimeByOnePeriod)
 {
     viewer.m_freqBox->setCurrentText("4");
-    EXPECT_DOUBLE_EQ(viewer.getXValues().front(), -0.25) << "nothing sampled yet: the time starts anew";
+    EXPECT_DOUBLE_EQ(viewer.getXValues().front(), -0.25) << "nothing sampled yet: the time starts again";
     for (int i = 0; i < 3; ++i)
         viewer.viewTimer();
     for (std::size_t i = 0; i < viewer.getXValues().size(); ++i)
@@ -106,7 +106,7 @@ TEST_F(CounterViewer, SamplesStayWhenTheLengthChanges)
     EXPECT_EQ(viewer.getHistoryLength(), 120);
     EXPECT_EQ(viewer.getFilled(), 30);
     EXPECT_DOUBLE_EQ(sample("testA", 29), 22.0);
-    EXPECT_EQ(sample("testA", 30), 0.0) << "what was dropped is gone";
+    EXPECT_EQ(sample("testA", 30), 0.0) << "what was dropped does not come back";
     EXPECT_DOUBLE_EQ(viewer.getXValues().front(), newest);
     EXPECT_DOUBLE_EQ(viewer.getXValues()[30], newest - 15);
     a->increment(1);

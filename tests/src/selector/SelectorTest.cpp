@@ -52,7 +52,7 @@ protected:
             texts << box().itemText(i);
         return texts;
     }
-    // Opens the list and goes down to the entry with the keys, as a person does.
+    // Opens the list and goes down to the entry with the keys, as a user does.
     void choose(int index)
     {
         box().setFocus();

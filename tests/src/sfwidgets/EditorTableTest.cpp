@@ -63,7 +63,7 @@ protected:
             return QStringLiteral("-2147483648");
         return type == "SFColor" ? QStringLiteral("0.501961") : QStringLiteral("-0.123457");
     }
-    // What the person types, not ended where it can wait.
+    // What the user types, without Enter where the editor waits for it.
     void type()
     {
         if (canEdit())
@@ -134,7 +134,7 @@ TEST_P(EveryEditorTest, UndoRestoresAndRedoAppliesAgain)
 {
     typeAndEnter();
     if (row().commands == 0)
-        return; // nothing to edit, or not recorded, which is meant
+        return; // nothing to edit, or not recorded (decisions.md: bit-mask-no-undo)
     undoAll();
     EXPECT_EQ(text(), value(0));
     EXPECT_EQ(shown(), row().shown[0]);

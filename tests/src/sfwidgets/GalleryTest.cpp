@@ -18,7 +18,7 @@ namespace
 class GalleryTest : public Gallery
 {
 protected:
-    // Changes the value the way a person would.
+    // Changes the value the way a user would.
     static void edit(QWidget* editor)
     {
         if (auto* slider = editor->findChild<EdSlider*>())
@@ -86,7 +86,7 @@ TEST_F(GalleryTest, EveryEditIsUndoneByteForByteAndRedone)
         const std::string after = textOf(*field);
         const bool isFixed = type == "SFImage" || type == "SFNode"; // nothing that typing could change
         EXPECT_EQ(after == before, isFixed) << type << ' ' << after;
-        if (type == "SFBitMask") { // leaves nothing to undo, which is meant
+        if (type == "SFBitMask") { // decisions.md: bit-mask-no-undo
             EXPECT_EQ(commands(), 0);
             field->set(before.c_str());
             continue;

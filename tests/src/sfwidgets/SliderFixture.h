@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One slider in front of a person, with an owner that writes down what it hands over.
+// One slider as a user has it, with an owner that records what it is given.
 #pragma once
 
 #include "EdIntSlider.h"

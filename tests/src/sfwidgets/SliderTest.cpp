@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does with a slider: dragging, stepping, typing, leaving, and the same in the cell of a table.
+// What a user does with a slider: dragging, stepping, typing, leaving, and the same in the cell of a table.
 #include "SliderFixture.h"
 
 #include <QApplication>

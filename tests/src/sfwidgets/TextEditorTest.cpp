@@ -65,7 +65,7 @@ TYPED_TEST(TextEditorTest, LeavingWithoutAChangeAppliesTheSameValue)
     EXPECT_EQ(edited.commands(), 0);
     person::clickElsewhere(edited.edit());
     EXPECT_EQ(edited.commands(), 1);
-    // The toolkit's own line tells of leaving once, and then not before its text is another.
+    // QLineEdit reports leaving it once, and then not before its text has changed.
     person::focus(edited.edit());
     person::clickElsewhere(edited.edit());
     EXPECT_EQ(edited.commands(), 2);

@@ -84,7 +84,7 @@ TEST_F(SceneScale, AHundredThousandLevels)
     auto* cube = static_cast<SoCube*>(search.getPaths().front().getTail());
     cube->width.setValue(8);
     EXPECT_EQ(SoBoundingBoxAction().getBox(root.get()).getMax(), SbVec3f(4, 1, 1))
-        << "a change goes all the way up";
+        << "a change reaches the root";
 }
 
 TEST_F(SceneScale, AHundredThousandFieldsInARowFollowEachOther)

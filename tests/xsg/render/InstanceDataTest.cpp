@@ -122,7 +122,7 @@ TEST_F(InstanceData, AMarkCostsNoWalkOverTheScene)
     EXPECT_EQ(draw().rgba, unmarked.rgba);
 }
 
-// A toolkit asks for a mark by number, after the node may have gone.
+// A toolkit asks for a mark by number, after the node may have been destroyed.
 TEST_F(InstanceData, AMarkedNodeMayGo)
 {
     addRow(3, 1);
