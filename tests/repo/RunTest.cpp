@@ -49,7 +49,7 @@ protected:
 
 } // namespace
 
-TEST_F(Run, OpensTheShippedSceneWhereNoFileIsNamed)
+TEST_F(Run, OpensTheShippedSceneByDefault)
 {
     EXPECT_EQ(run(""), shown);
     EXPECT_EQ(run("--counters"), shown + "<--counters>");

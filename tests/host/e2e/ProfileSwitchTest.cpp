@@ -169,7 +169,7 @@ TEST_F(ProfileSwitch, AThousandTimesWithEditorsOpenLeavesNothingBehind)
     EXPECT_EQ(m_session.host.notifier().errorCount(), 0);
 }
 
-TEST_F(ProfileSwitch, ThePlugInComesAndGoesWithAnEditorOpen)
+TEST_F(ProfileSwitch, ThePlugInIsUnloadedAndLoadedWithAnEditorOpen)
 {
     m_session.select(&transparency());
     for (int i = 0; i < 3; ++i) {

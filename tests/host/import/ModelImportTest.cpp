@@ -51,7 +51,7 @@ TEST_F(Import, GivesTheSceneFromTheEventLoop)
     EXPECT_FALSE(dialog() && dialog()->isVisible());
 }
 
-TEST_F(Import, TellsWhatIsWrong)
+TEST_F(Import, ReportsWhatIsWrong)
 {
     import.start("/nowhere/none.glb");
     ASSERT_TRUE(waitForEnd());
@@ -73,7 +73,7 @@ TEST_F(Import, CancelEndsTheReaderAtOnce)
     EXPECT_FALSE(scene);
 }
 
-TEST_F(Import, AReaderThatDiesIsToldInOneSentence)
+TEST_F(Import, ReportsACrashedReaderInOneSentence)
 {
     import.start(shippedModel("lighthouse.glb"));
     ASSERT_TRUE(reader()->waitForStarted());
@@ -84,7 +84,7 @@ TEST_F(Import, AReaderThatDiesIsToldInOneSentence)
         << qPrintable(error);
 }
 
-TEST_F(Import, AReaderThatComputesForEverIsToldToo)
+TEST_F(Import, ReportsAReaderThatNeverEnds)
 {
     import.start(shippedModel("lighthouse.glb"));
     ASSERT_TRUE(reader()->waitForStarted());

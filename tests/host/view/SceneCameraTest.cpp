@@ -144,7 +144,7 @@ TEST_F(SceneWithCamera, StandsWhereItsTransformsPutIt)
     EXPECT_TRUE(isNear(seen().position.getValue(), {21, 5, 3})) << "it follows what carries its camera";
 }
 
-TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
+TEST_F(SceneWithCamera, UsesTheFirstActiveCamera)
 {
     auto* choice = new SoSwitch;
     SoRef<SoPerspectiveCamera> first(new SoPerspectiveCamera);
@@ -167,7 +167,7 @@ TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
 }
 
 // The choice depends on the distance to the camera, which is not known while the camera is being searched.
-TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
+TEST_F(SceneWithCamera, FindsACameraInALevelOfDetail)
 {
     auto* choice = new SoLevelOfDetail;
     choice->distances.setValue(100);
@@ -179,7 +179,7 @@ TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, HomeGoesBackToIt)
+TEST_F(SceneWithCamera, HomeReturnsToIt)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -214,7 +214,7 @@ TEST_F(SceneWithCamera, LookingAroundLeavesTheSceneAlone)
     EXPECT_NE(&seen(), camera.get());
 }
 
-TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
+TEST_F(SceneWithCamera, IsFollowedUntilTheUserLooksAround)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -241,7 +241,7 @@ TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, TakenOutAndPutBackItIsFollowedAgain)
+TEST_F(SceneWithCamera, IsFollowedAgainOncePutBack)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -253,7 +253,7 @@ TEST_F(SceneWithCamera, TakenOutAndPutBackItIsFollowedAgain)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, OneThatComesLaterMovesNothing)
+TEST_F(SceneWithCamera, ACameraAddedLaterKeepsTheView)
 {
     scene->removeChild(0);
     view.setScene(scene.get());
@@ -281,7 +281,7 @@ TEST_F(SceneWithCamera, TheViewTurnsAroundTheScene)
         << "the focal point must lie within the scene";
 }
 
-TEST_F(SceneWithCamera, OneThatSeesNothingOfTheSceneIsNotLookedThrough)
+TEST_F(SceneWithCamera, IgnoresACameraThatSeesNothingOfTheScene)
 {
     camera->position.setValue(0, 0, 9);
     camera->orientation.setValue(SbRotation({0, 1, 0}, 3.1415927F));

@@ -157,7 +157,7 @@ TEST(Ignoring, IsOneStepThatUndoUndoes)
     EXPECT_TRUE(field.isIgnored());
 }
 
-TEST(Ignoring, WhatIsIgnoredAlreadyIsNoStep)
+TEST(Ignoring, IgnoringAgainIsNoStep)
 {
     TestHost host;
     SoSFFloat field;

@@ -108,7 +108,7 @@ const TestHost::Log Registration = {
 
 } // namespace
 
-TEST(PlugIn, TellsWhoMadeIt)
+TEST(PlugIn, NamesItsMaker)
 {
     Library library;
     const SpxPlugin* plugin = library.load();
@@ -193,7 +193,7 @@ TEST(PlugIn, LeavesNoWidgetBehind)
 }
 
 // All that a host does with a plug-in, three times over, with the library really unloaded in between.
-TEST(PlugIn, LivesUnderAHostAgainAndAgain)
+TEST(PlugIn, CanBeLoadedRepeatedly)
 {
     for (int round = 0; round < 3; ++round) {
         TestHost host;

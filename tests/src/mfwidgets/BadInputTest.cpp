@@ -138,7 +138,7 @@ TEST(BadInput, LettersInAShortVectorGiveZero)
     EXPECT_EQ(f.text(), "[ 1 0 ]");
 }
 
-TEST(BadInput, APopupWhoseElementGoesIsHidden)
+TEST(BadInput, HidesThePopupOfARemovedElement)
 {
     MultiFixture<EdMFMatrixWidget, SoMFMatrix> f;
     f.field.setNum(1);

@@ -83,7 +83,7 @@ TEST(Keyboard, FTwoOrTypingOpensTheCell)
     EXPECT_EQ(QApplication::focusWidget(), &f.table());
 }
 
-TEST(Keyboard, TabAppliesAndGoesOnToTheNextCell)
+TEST(Keyboard, TabAppliesAndMovesToTheNextCell)
 {
     Points f("[ 1 2 3, 4 5 6 ]");
     f.open();

@@ -136,7 +136,7 @@ TEST(SliderCells, AwayFromTheMouseAndTheFocusItIsClosed)
     EXPECT_FALSE(slider);
 }
 
-TEST(SliderCells, TypingOpensItAndGoesIntoItsLine)
+TEST(SliderCells, TypingOpensItAndReachesItsLine)
 {
     Integers f("[ 1, 2, 3 ]");
     f.open();

@@ -41,7 +41,7 @@ TEST_F(CounterViewer, EverySampleIsDividedByItsOwnTime)
     EXPECT_EQ(sample("testA", 3), 0.0);
 }
 
-TEST_F(CounterViewer, TheClockStartsAnewWithEachSample)
+TEST_F(CounterViewer, EachSampleRestartsTheClock)
 {
     const int before = clock.resets;
     viewer.viewTimer();
@@ -65,7 +65,7 @@ TEST_F(CounterViewer, AStateIsReadAndNotReset)
     EXPECT_DOUBLE_EQ(sample("testState", 1), 14.0);
 }
 
-TEST_F(CounterViewer, WhatWasCountedBeforeTheStartIsNotShown)
+TEST_F(CounterViewer, IgnoresCountsFromBeforeTheStart)
 {
     show({"testA"});
     a->increment(1000);
@@ -145,7 +145,7 @@ TEST_F(CounterViewer, TheScaleChangesOnlyTheSelectedCounter)
     EXPECT_DOUBLE_EQ(sample("testB"), 20.0);
 }
 
-TEST_F(CounterViewer, ScalesBeyondAllBoundsDoNoHarm)
+TEST_F(CounterViewer, SurvivesExtremeScales)
 {
     show({"testA"});
     viewer.m_legend->selectRow(0);
@@ -256,7 +256,7 @@ TEST_F(CounterViewer, BackspaceRemovesAllSelectedRowsAtOnce)
     EXPECT_EQ(viewer.getViewed()->size(), 1) << "nothing is selected";
 }
 
-TEST_F(CounterViewer, TheRegistryIsReadAnewEachTime)
+TEST_F(CounterViewer, EachSampleReadsTheRegistryAgain)
 {
     SoPerfCounterManager::getInstance()->setInterval(SbTime(10.0));
     const SoPerfCounterViewer another;

@@ -37,11 +37,11 @@ public:
     int m_refreshes = 0;
 };
 
-class SliderTest : public testing::Test
+class Slider : public testing::Test
 {
 protected:
-    template <class Slider>
-    Slider* show(Slider* slider)
+    template <class Shown>
+    Shown* show(Shown* slider)
     {
         slider->resize(320, 30);
         slider->show();

@@ -100,7 +100,7 @@ TEST_F(SceneScale, AHundredThousandFieldsInARowFollowEachOther)
     ASSERT_TRUE(read(SoSceneFile::writeText(root.get()))) << error;
 }
 
-TEST_F(SceneScale, AHundredThousandFieldsFollowOneThatGoesBeforeOrAfterThem)
+TEST_F(SceneScale, AHundredThousandFieldsFollowOneDestroyedBeforeOrAfterThem)
 {
     constexpr int Count = 100'000;
     std::string followers;

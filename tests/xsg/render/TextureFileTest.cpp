@@ -63,7 +63,7 @@ TEST_F(TextureFile, OfGreysIsGrey)
     EXPECT_PIXEL(high, (Pixel{0x20, 0x20, 0x20}));
 }
 
-TEST_F(TextureFile, ThatIsDamagedGivesWayToTheImage)
+TEST_F(TextureFile, FallsBackToTheImageWhenDamaged)
 {
     for (const char* damaged :
          {"", "P6", "P6\n1 2\n255\nabc", "P6\n-1 2\n255\nabcdef", "P6\n999999999 999999999\n255\n",

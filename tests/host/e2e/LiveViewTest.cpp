@@ -123,7 +123,7 @@ TEST_F(LiveView, LookingAroundIsNoEdit)
 }
 
 // What an application does to its scene while the host looks at it.
-TEST_F(LiveView, WhatIsTakenOutIsGoneAndPutBackLooksAsBefore)
+TEST_F(LiveView, RemovingANodeChangesThePictureAndInsertingItRestoresIt)
 {
     window().resize(1400, 700); // all of it is in the picture
     ASSERT_TRUE(open(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
@@ -144,7 +144,7 @@ TEST_F(LiveView, WhatIsTakenOutIsGoneAndPutBackLooksAsBefore)
     }
 }
 
-TEST_F(LiveView, WhatIsPutInIsSeenUntilItIsTakenOut)
+TEST_F(LiveView, AnInsertedNodeIsVisibleUntilItIsRemoved)
 {
     ASSERT_TRUE(open(SCOPIX_SOURCE_DIR "/data/models/crate.gltf"));
     const QImage before = picture();
