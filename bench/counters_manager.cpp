@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the profile manager costs, and how that grows with the number of profiles: to open it, against bare
-// tabs of the same labels, and to let it read a file anew, as Cancel does while the window is still there.
+// tabs of the same labels, and to let it read a file again, as Cancel does while the window is still there.
 // Then what long names cost.
 #include "SoPerfCounterProfile.h"
 #include "SoPerfCounterProfileManager.h"

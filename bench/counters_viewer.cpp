@@ -2,7 +2,7 @@
 // What one sample of the performance counters costs with its redraw: the viewer with 1, 10 and 100 counters
 // and 60 to 960 points, against a bare plot of the toolkit that shows the same points over the same time, and
 // as a share of the time between two samples. Then what a sample costs that nobody sees. QT_SCALE_FACTOR=2
-// tells it of a dense screen.
+// measures as on a high-resolution screen.
 #include "SoPerfCounterCurve.h"
 #include "SoPerfCounterPcViewed.h"
 #include "SoPerfCounterViewer.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What it costs to open a group of many children in the scene tree, beside Qt's own model with as many rows,
-// and how the cost grows with their number; and what it costs to follow a child that comes and goes beside
-// groups that are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
+// and how the cost grows with their number; and what it costs to follow a child that is added and removed
+// beside groups that are open. Run it with QT_QPA_PLATFORM=offscreen where there is no display.
 #include "Ratios.h"
 
 #include "panels/SceneTreeModel.h"
@@ -62,7 +62,7 @@ void plainTree(benchmark::State& state)
     }
 }
 
-// One group's child comes and goes; the other groups, of 100 children each, are open too.
+// A child of one group is added and removed; the other groups, of 100 children each, are open too.
 void followOne(benchmark::State& state)
 {
     SoRef<SoSeparator> root(new SoSeparator);
@@ -92,11 +92,12 @@ BENCHMARK(followOne)->Arg(1)->Arg(1000)->Unit(benchmark::kMicrosecond);
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    return bench::run(argc, argv,
-                      {{"scene tree, 100,000 children of one group, over Qt's items", "sceneTree/100000",
-                        "plainTree/100000", "at most 1"},
-                       {"scene tree, 100,000 children over 10,000 (growth)", "sceneTree/100000",
-                        "sceneTree/10000", "about 10: linear"},
-                       {"a child that comes and goes beside 1,000 open groups of 100, over one such group",
-                        "followOne/1000", "followOne/1", "far below 1000"}});
+    return bench::run(
+        argc, argv,
+        {{"scene tree, 100,000 children of one group, over Qt's items", "sceneTree/100000",
+          "plainTree/100000", "at most 1"},
+         {"scene tree, 100,000 children over 10,000 (growth)", "sceneTree/100000", "sceneTree/10000",
+          "about 10: linear"},
+         {"a child that is added and removed beside 1,000 open groups of 100, over one such group",
+          "followOne/1000", "followOne/1", "far below 1000"}});
 }

@@ -154,7 +154,7 @@ private:
         }
     }
     static void renew(QWidget*) {}
-    // A box with a name stands for a bit of one field and is built anew with the next.
+    // A box with a name stands for a bit of one field and is created again with the next.
     static void renew(QCheckBox*& box)
     {
         if (box->text().isEmpty())

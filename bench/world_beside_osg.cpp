@@ -4,13 +4,12 @@
 // with one light and without smoothed edges, leave out what is out of sight and nothing else, and read the
 // picture back.
 //
-// Frames are measured twice. Whole ones are what a person waits for; where the processor is the graphics
-// card, it is mostly its filling of the picture that they show. The others show the render traversal: on both
+// Frames are measured twice. Whole ones are what a user waits for; with a software
+// renderer they mostly show how fast it fills the picture. The others show the render traversal: on both
 // sides OpenGL's draw calls return at once, so that all the work up to them is left: finding what is in
 // sight, sorting it, setting state, filling buffers and making the calls.
 //
-// For the box, no separator of ours remembers anything; OpenSceneGraph's cubes each go on knowing their own
-// box.
+// For the box, no separator of ours remembers anything; OpenSceneGraph's cubes each keep their own box.
 #include "EglContext.h"
 #include "Ratios.h"
 #include "world_measures.h"
@@ -228,7 +227,7 @@ int main(int argc, char** argv)
     };
     return bench::run(
         argc, argv,
-        {beside("box of 100,000, afresh: OpenSceneGraph over ours", "osgBoxAfresh", "boxAfresh"),
+        {beside("box of 100,000, computed again: OpenSceneGraph over ours", "osgBoxAfresh", "boxAfresh"),
          beside("box of 100,000, one change: OpenSceneGraph over ours", "osgBoxAfterOneChange",
                 "boxAfterOneChange"),
          beside("picking in 100,000: OpenSceneGraph over ours", "osgPick", "pick"),

@@ -64,7 +64,7 @@ inline void pick(benchmark::State& state)
 enum class Before {
     Nothing,
     OneField,
-    OneChild, // comes and goes
+    OneChild, // is added and removed
     EyeMoves,
     Opening, // the scene is new to the renderer: no list of what to draw, no buffer of it is there
 };

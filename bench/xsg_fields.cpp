@@ -210,7 +210,8 @@ int main(int argc, char** argv)
             {"insertSpace in the middle, to vector::insert", "insertSpace", "insertPlain",
              "aim: at most 1.1"},
             {"write of a field that nobody watches, to a virtual call", "writeAlone", "virtualCall", ""},
-            {"write told through a path of 10 nodes, to a virtual call", "notifyPath/10", "virtualCall", ""},
+            {"write notified through a path of 10 nodes, to a virtual call", "notifyPath/10", "virtualCall",
+             ""},
             {"the same, per node of the path from 10 to 100", "notifyPath/100", "notifyPath/10",
              "linear: 10"},
         });

@@ -64,7 +64,7 @@ private:
         if (field.set(text))
             return;
         require(written(field) == before, "refused text changed the value", field);
-        require(field.getChangeCount() == changes, "refused text told of a change", field);
+        require(field.getChangeCount() == changes, "refused text reported a change", field);
     }
     static void set1(SoMField& field, int index, const SbString& text)
     {
@@ -77,7 +77,7 @@ private:
             return;
         }
         require(written(field) == before, "a refused value changed the list", field);
-        require(field.getChangeCount() == changes, "a refused value told of a change", field);
+        require(field.getChangeCount() == changes, "a refused value reported a change", field);
     }
     static void checkRoundTrip(const SoField& field, SoField& copy)
     {

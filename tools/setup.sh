@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash disable=SC2034
 # Shared by ./run and ./test: brings a Debian 12 machine to where Scopix builds, and builds it.
-# Sourced, never run. Works from any folder; everything it says goes to standard error.
+# Sourced, never run. Works from any folder; all messages are written to standard error.
 
 scopix_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 

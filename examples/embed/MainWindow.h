@@ -15,7 +15,7 @@ class HostApplication;
 
 class SceneWidget;
 
-/// The application's window, with a scene that turns as time goes by. F12 opens the inspector on that scene.
+/// The application's window, with a scene that turns over time. F12 opens the inspector on that scene.
 /// GUI thread only.
 class MainWindow : public QMainWindow
 {

@@ -21,7 +21,7 @@ namespace scopix
 ///     inspector.start();
 ///
 /// The application stays as it is: its style, palette, font, environment and attributes are not touched, it
-/// goes on when the inspector's window is closed, and its scene is neither animated nor saved by the
+/// keeps running when the inspector's window is closed, and its scene is neither animated nor saved by the
 /// inspector. One at a time; GUI thread only, and destroyed before the QApplication.
 ///
 /// Plug-ins that are active may change the process: the default extensions redirect its output and error

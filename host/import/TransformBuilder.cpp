@@ -21,7 +21,7 @@ SbVec3f row(const SbMatrix& m, int r)
 // From three directions at right angles to each other.
 SbRotation rotationOf(const SbVec3f axes[3])
 {
-    // Row vectors: r[i][j] is component j of where axis i goes.
+    // Row vectors: r[i][j] is component j of the image of axis i.
     const auto r = [&](int i, int j) { return static_cast<double>(axes[i][j]); };
     double q[4];
     const double trace = r(0, 0) + r(1, 1) + r(2, 2);

@@ -15,7 +15,7 @@ struct ProfileSettings {
     QString active;
 };
 
-/// The settings file of the profiles: JSON, to be read and edited by a person.
+/// The settings file of the profiles: JSON, so that users can read and edit it.
 ///
 ///     { "active": "Edit",
 ///       "profiles": [

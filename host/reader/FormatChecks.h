@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One sentence when a file of this format is not whole, as far as its header tells; else empty. The importer
-// does not notice by itself: cut files keep it busy for ever.
+// One sentence when a file of this format is incomplete, judging by its header; else empty. The importer
+// does not check this itself: truncated files make it run forever.
 #pragma once
 
 class QString;

@@ -19,11 +19,11 @@
 namespace
 {
 
-constexpr rlim_t MostSeconds = 1200; // of computing; a file that takes longer is no model but a riddle
+constexpr rlim_t MostSeconds = 1200; // of processor time
 
 void limit(int resource, rlim_t most)
 {
-    const rlimit soft{most, most + 10}; // at the soft one the signal tells what it was
+    const rlimit soft{most, most + 10}; // at the soft one the signal shows which limit it was
     setrlimit(resource, &soft);
 }
 
@@ -60,5 +60,5 @@ int main(int argc, char** argv)
     QFile result(arguments[2]);
     const bool written =
         result.open(QIODevice::WriteOnly) && scopix::writeModelFile(model, result) && result.flush();
-    std::_Exit(written ? 0 : 1); // all memory goes at once
+    std::_Exit(written ? 0 : 1); // the system frees all memory at once
 }

@@ -44,7 +44,7 @@ UndoHistory::CommandContext HostServices::currentContext() const
     UndoHistory::CommandContext context;
     context.text = stepText();
     context.gesture = m_gestures.current();
-    // While a selection is let go, what it edited goes with the old one.
+    // An edit that is applied while the selection changes belongs to the old selection.
     const auto touch = [&context](const SoFieldContainer* container) {
         auto& touched = context.touched;
         if (container && std::find(touched.begin(), touched.end(), container) == touched.end())

@@ -20,7 +20,7 @@ public:
     HostServices();
     ~HostServices() override;
 
-    /// As Selection does; the signals of SpxServices tell it.
+    /// As in Selection; reported by the signals of SpxServices.
     void select(SoFieldContainer* node) { m_selection.select(node); }
     void select(SoField* field) { m_selection.select(field); }
     void clearSelection() { m_selection.clear(); }

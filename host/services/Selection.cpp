@@ -14,7 +14,8 @@ namespace scopix
 namespace
 {
 
-// Keeps a container while it is told about. One that nobody references yet is handed back as it was.
+// Keeps a container alive while its selection is reported. One that nobody references yet still has no
+// reference afterwards.
 class Keep
 {
 public:

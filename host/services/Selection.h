@@ -11,9 +11,9 @@ class SoFieldContainer;
 namespace scopix
 {
 
-/// The node and the field that the person has selected. Tells of a new selection only after what was told
-/// before has been heard by everybody, and drops what goes away before its memory does. Keeps no node alive.
-/// GUI thread only.
+/// The node and the field that the user has selected. A new selection is reported only after all receivers
+/// have handled the one before, and what is destroyed is dropped before its memory is freed. Keeps no node
+/// alive. GUI thread only.
 class Selection : public QObject
 {
     Q_OBJECT
@@ -21,21 +21,22 @@ class Selection : public QObject
 public:
     explicit Selection(QObject* parent = nullptr);
 
-    /// Null selects nothing. The same node may be selected again and is told again; its selected field stays.
+    /// Null selects nothing. The same node may be selected again and is reported again; its selected field
+    /// stays.
     void select(SoFieldContainer* node);
     /// Selects the field's node too, when it is another one. Null drops the field and keeps the node.
     void select(SoField* field);
     void clear();
-    /// Tells the present selection once more.
+    /// Reports the present selection once more.
     void reemit();
-    /// The container is about to go.
+    /// The container is about to be destroyed.
     void forget(const SoFieldContainer* dying);
 
     SoFieldContainer* node() const { return m_node; }
     SoField* field() const { return m_field; }
 
-    /// What was selected until the change that is being told right now: edits that are applied while it is
-    /// let go belong to it. The present selection between changes.
+    /// What was selected before the change that is being reported right now: edits that are applied meanwhile
+    /// belong to it. The present selection between changes.
     SoFieldContainer* lastNode() const { return m_telling ? m_formerNode : m_node; }
     SoField* lastField() const { return m_telling ? m_formerField : m_field; }
 
@@ -57,7 +58,7 @@ private:
     SoField* m_field = nullptr;
     SoFieldContainer* m_formerNode = nullptr;
     SoField* m_formerField = nullptr;
-    std::vector<Request> m_requests; // that came while another was told
+    std::vector<Request> m_requests; // that came while another was reported
     bool m_telling = false;
 };
 

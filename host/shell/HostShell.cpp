@@ -183,7 +183,7 @@ bool HostShell::restoreLayout(const QByteArray& layout)
     in >> state >> hidden;
     if (in.status() != QDataStream::Ok)
         return false;
-    // Places come from the layout; what is visible is the extensions' and, below, the person's.
+    // Places come from the layout; what is visible is decided by the extensions and, below, the user.
     QList<QPair<QWidget*, bool>> shown;
     for (const Owned& each : qAsConst(m_owned)) {
         if (each.widget)

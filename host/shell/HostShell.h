@@ -17,8 +17,8 @@ namespace scopix
 {
 
 /// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
-/// saved; keeps the place of one that goes until it comes back; hands every widget back without a parent.
-/// Knows which extension owns which widget and lets the person show and hide them. GUI thread only.
+/// saved; keeps the place of one that is removed for when it comes back; returns every widget without a
+/// parent. Knows which extension owns which widget and lets the user show and hide them. GUI thread only.
 class HostShell : public QObject, public SpxShell
 {
     Q_OBJECT
@@ -40,17 +40,17 @@ public:
 
     /// The extension whose activate() runs now, to which the widgets belong that it adds; null afterwards.
     void setActivating(SpxExtension* extension) { m_activating = extension; }
-    /// Takes out what the extension left behind. It may already be gone.
+    /// Removes what the extension left behind. The extension may already be destroyed.
     void forget(const SpxExtension* extension);
 
-    /// The person shows or hides what an extension has.
+    /// The user shows or hides the widgets of an extension.
     void setShown(SpxExtension* extension, bool shown);
     bool isHiddenByPerson(const SpxExtension* extension) const;
-    /// The extension of this name comes up hidden and waits in the menu for the person; in this session only.
+    /// The extension of this name stays hidden until the user shows it from the menu; in this session only.
     void keepHiddenAtFirst(const QString& name) { m_waiting.insert(name); }
     bool comesUpHidden(const SpxExtension* extension) const;
 
-    /// Where everything stands, and which tools the person has hidden.
+    /// Where everything stands, and which tools the user has hidden.
     QByteArray saveLayout() const;
     /// False when the text is no layout; nothing changes then.
     bool restoreLayout(const QByteArray& layout);

@@ -34,7 +34,7 @@ QString textOf(const QMessageBox& box)
     return parts.join(QLatin1Char(' '));
 }
 
-// The button of a person who wants to be left alone and changes nothing.
+// The button that closes the box and changes nothing.
 QAbstractButton* wayOut(const QMessageBox& box)
 {
     if (box.escapeButton())
@@ -94,7 +94,7 @@ void UserNotifier::info(const QString& sentence)
     emit told(sentence);
 }
 
-// One box for all that goes wrong until the person closes it.
+// One box collects all errors until the user closes it.
 void UserNotifier::showInBox(const QString& sentence)
 {
     if (m_box && m_box->isVisible()) {

@@ -10,9 +10,9 @@ class QWidget;
 namespace scopix
 {
 
-/// What the host has to say to the person: on standard error, in the status bar and, for what went wrong
-/// while somebody watches, in a message box. Without a person, every message box of the program, a plug-in's
-/// too, is closed at once and its text printed to standard error. GUI thread only.
+/// Shows the host's messages to the user: on standard error, in the status bar and, for errors in an attended
+/// session, in a message box. In an unattended session every message box of the program, those of plug-ins
+/// included, is closed at once and its text printed to standard error. GUI thread only.
 class UserNotifier : public QObject
 {
     Q_OBJECT

@@ -19,15 +19,15 @@ struct SceneCamera {
 /// is no camera.
 SceneCamera findSceneCamera(SoNode* root);
 
-/// Has `view`, which stands in the world, see what the scene's camera does in a picture of this aspect. A
-/// camera tells the height of its picture and not how wide the picture was meant: in one narrower than
-/// LeastAspect more is seen above and below, so that as much is seen at the sides. Where the kinds differ
-/// another camera takes the place of `view`; for a kind not known here that is a perspective one.
+/// Makes `view`, which is in world coordinates, show what the scene's camera does at this aspect ratio. A
+/// camera defines the height of its picture and not the width: a picture narrower than LeastAspect shows more
+/// above and below, so that it shows as much at the sides. Where the types differ, another camera replaces
+/// `view`; for a type not known here that is a perspective one.
 void matchCamera(const SceneCamera& original, float aspect, SoRef<SoCamera>& view);
 constexpr float LeastAspect = 1.5F;
 
-/// This camera, if it is of that kind, or another in its place. A renderer that is given another one looks at
-/// the whole scene anew.
+/// This camera, if it is of that type, or another in its place. A renderer that is given another camera
+/// traverses the whole scene again.
 template <class Kind>
 Kind& ensureType(SoRef<SoCamera>& camera)
 {

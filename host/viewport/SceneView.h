@@ -20,11 +20,11 @@ namespace scopix
 class ViewSurface;
 struct ViewContent;
 
-/// The live 3D view. Draws again only when the scene, the camera or the size changed, and without a pause
-/// only while something in the scene turns as time goes by. Left button turns, middle button (or Shift and
-/// the left one) moves, the wheel comes nearer to the pointer or goes away from it, a click picks, a double
-/// click or F shows all of what is selected, A shows all, Home shows it as at first. Arrow keys turn, with
-/// Shift they move, plus and minus come nearer and go away. GUI thread only.
+/// The live 3D view. Draws again only when the scene, the camera or the size changed, and continuously only
+/// while something in the scene is animated. The left button turns, the middle button (or Shift and the left
+/// one) moves, the wheel zooms at the pointer, a click picks, a double click or F shows all of what is
+/// selected, A shows all, Home restores the initial view. Arrow keys turn, with Shift they move, plus and
+/// minus zoom. GUI thread only.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
 
     /// Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
-    /// Marks the node in the picture; null marks none. The node may go at any time.
+    /// Marks the node in the picture; null marks none. The node may be destroyed at any time.
     void setHighlight(const SoNode* node);
 
     /// Edges instead of surfaces.
@@ -59,10 +59,10 @@ public:
     std::optional<SoPickedPoint> pick(const QPoint& place);
     /// Pictures drawn so far.
     int getDrawCount() const;
-    /// Whether time may go by in the scene, as it does from the start; without it a picture is the same
-    /// whenever it is taken.
+    /// Whether the scene may be animated, as it is by default; without that a picture is the same whenever it
+    /// is taken.
     void setAnimated(bool on);
-    /// Whether time goes by in the scene.
+    /// Whether the scene is being animated.
     bool isAnimating() const { return m_ticks.isActive(); }
 
     QSize sizeHint() const override { return {720, 560}; }

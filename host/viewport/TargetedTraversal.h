@@ -8,9 +8,8 @@
 namespace scopix
 {
 
-/// Walks a scene only as far as the way to some of its nodes goes, and what is set on that way: what a
-/// separator beside the way holds is passed by. Cheap however large the scene is. A derived class says what
-/// to do at the nodes.
+/// Traverses only the paths to some nodes of a scene and what sets state along them: separators beside the
+/// paths are skipped. Cheap however large the scene is. A derived class defines what to do at the nodes.
 class TargetedTraversal : protected SoTraversal
 {
 protected:

@@ -105,8 +105,8 @@ void ViewCamera::lookAround()
     m_look = Look::Around;
 }
 
-// Files seldom tell what their camera looks at. Where the point they name is outside of the scene, the view
-// turns around the point of the line of sight that is the nearest to the scene's middle.
+// Files seldom have a useful focal distance. Where the focal point is outside of the scene, the view turns
+// around the point of the line of sight that is nearest to the scene's centre.
 void ViewCamera::findPivot()
 {
     const SbBox3f box = boxOf(m_root.get());

@@ -9,7 +9,7 @@ namespace scopix
 
 /// From where a 3D view looks at its scene. The camera is the view's own and never part of the scene, so
 /// looking around edits nothing. A scene that brings a camera along is seen through it, and followed when it
-/// is edited, until the person looks around; home leads back to it. GUI thread only.
+/// is edited, until the user looks around; home leads back to it. GUI thread only.
 class ViewCamera
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     /// Goes home. Null: nothing to see.
     void setScene(SoNode* root);
-    /// Width of the picture divided by its height. What was framed stays so until the person looks around.
+    /// Width of the picture divided by its height. What was framed stays so until the user looks around.
     void setAspect(float aspect);
     float getAspect() const { return m_aspect; }
 
@@ -39,10 +39,10 @@ public:
     /// turn.
     void turn(float right, float up);
     void pan(float right, float up);
-    /// Below 1 comes nearer to this place of the picture, above 1 goes away; (0, 0) is its lower left corner.
+    /// Below 1 zooms in on this place of the picture, above 1 zooms out; (0, 0) is its lower left corner.
     void zoom(float factor, float x = 0.5F, float y = 0.5F);
 
-    /// Goes along with the scene's camera where it is seen through that. To be called when the scene has
+    /// Follows the scene's camera where the scene is seen through it. To be called when the scene has
     /// changed. False where the scene has none, or is not seen through it.
     bool follow();
     /// Sees all of the scene's depth, or what the scene's camera sees. To be called before a picture.
@@ -52,7 +52,7 @@ private:
     enum class Look {
         ThroughScene, // through the scene's camera
         Framed,       // everything is in sight
-        Around        // the person has moved
+        Around        // the user has moved
     };
 
     bool seesAnything() const;

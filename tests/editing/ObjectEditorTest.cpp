@@ -86,7 +86,7 @@ TEST_F(ObjectEditor, RefreshesOncePerTurn)
     EXPECT_EQ(m_editor.box->value(), 60);
 }
 
-TEST_F(ObjectEditor, LetsGoOfADestroyedNode)
+TEST_F(ObjectEditor, ReleasesADestroyedNode)
 {
     m_material = nullptr;
     EXPECT_EQ(m_editor.getEditedObject(), nullptr);
@@ -95,7 +95,7 @@ TEST_F(ObjectEditor, LetsGoOfADestroyedNode)
     EXPECT_EQ(m_host.undoCount(), 0);
 }
 
-TEST_F(ObjectEditor, HearsNothingOnceDeactivated)
+TEST_F(ObjectEditor, IgnoresChangesOnceDeactivated)
 {
     m_host.release(m_editor);
     const int before = m_editor.refreshes;
@@ -105,7 +105,7 @@ TEST_F(ObjectEditor, HearsNothingOnceDeactivated)
     EXPECT_FALSE(m_editor.getWidget()->isVisible());
 }
 
-TEST_F(ObjectEditor, IsBuiltAnewByEachLoad)
+TEST_F(ObjectEditor, IsBuiltAgainByEachLoad)
 {
     const QPointer<QSpinBox> first = m_editor.box;
     m_host.stop(m_editor);

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <limits>
 
-TEST(NumberText, IsTheShortestThatReadsBack)
+TEST(NumberText, IsTheShortestThatRoundTrips)
 {
     EXPECT_EQ(SpxText::ofNumber(0.1F), "0.1");
     EXPECT_EQ(SpxText::ofNumber(0.1), "0.1");

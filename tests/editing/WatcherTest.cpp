@@ -38,14 +38,14 @@ TEST_F(Watcher, ReportsManyChangesOnceAndNeverFromInsideTheChange)
     EXPECT_EQ(m_changes.count(), 1);
 }
 
-TEST_F(Watcher, OfAFieldHearsNothingOfItsNeighbours)
+TEST_F(Watcher, OfAFieldIgnoresItsNeighbours)
 {
     m_material->transparency.setValue(0.3F);
     m_host.pump();
     EXPECT_EQ(m_changes.count(), 0);
 }
 
-TEST_F(Watcher, OfANodeHearsEverythingBelow)
+TEST_F(Watcher, OfANodeReportsEverythingBelow)
 {
     const SoRef<SoGroup> group(new SoGroup);
     group->addChild(m_material.get());
@@ -112,7 +112,7 @@ TEST_F(Watcher, MayBeDeletedInsideItsSignals)
     EXPECT_TRUE(isDeleted);
 }
 
-TEST_F(Watcher, MayBeDeletedByWhoHearsOfTheSameEndFirst)
+TEST_F(Watcher, MayBeDeletedByAnEarlierListenerOfTheSameEnd)
 {
     SpxWatcher later;
     later.watch(&m_material->shininess);
@@ -136,7 +136,7 @@ TEST_F(Watcher, MayDestroyTheNodeInsideItsSignal)
     EXPECT_EQ(m_watcher->getObject(), nullptr);
 }
 
-TEST_F(Watcher, LetsAFieldWithoutANodeGo)
+TEST_F(Watcher, ReleasesAFieldWithoutANode)
 {
     auto alone = std::make_unique<SoSFFloat>();
     m_watcher->watch(alone.get());

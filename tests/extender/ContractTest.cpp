@@ -73,7 +73,7 @@ TEST(Extension, KeepsItsFourTexts)
     EXPECT_EQ(tool.getVersion(), SbString("2.0"));
 }
 
-TEST(Extension, TellsOnceOfEachChangeOfItsState)
+TEST(Extension, ReportsEachChangeOfItsStateOnce)
 {
     Tool tool;
     QSignalSpy active(&tool, &SpxExtension::activeChanged);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What ./run hands to the program, told by a program that only prints it.
+// What ./run passes to the program, by a program that only prints it.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -49,7 +49,7 @@ protected:
 
 } // namespace
 
-TEST_F(Run, OpensTheShippedSceneWhereNoFileIsNamed)
+TEST_F(Run, OpensTheShippedSceneByDefault)
 {
     EXPECT_EQ(run(""), shown);
     EXPECT_EQ(run("--counters"), shown + "<--counters>");

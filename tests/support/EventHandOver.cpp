@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Part of GUI programs under ThreadSanitizer: tells it that whoever receives an event or a queued call comes
-// after whoever posted it. Qt orders them by a QMutex, which is invisible to it; without this, what one
+// Part of GUI programs under ThreadSanitizer: reports to it that whoever receives an event or a queued call
+// comes after whoever posted it. Qt orders them by a QMutex, which is invisible to it; without this, what one
 // thread hands to another would look like a race.
 #include <QCoreApplication>
 #include <QEvent>

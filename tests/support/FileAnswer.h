@@ -8,7 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-/// Answers the file dialog that is about to open, as a person types a name and presses Enter, and keeps what
+/// Answers the file dialog that is about to open, as a user types a name and presses Enter, and keeps what
 /// the dialog asked for. An empty name closes it. A question about writing over a file is answered with yes.
 ///
 ///     FileAnswer answer(folder.filePath("new.xml"));

@@ -43,7 +43,7 @@ private:
     QMenu m_profiles;
 };
 
-/// A running host with the real plug-in and a node to edit, and ways to act in it as a person does.
+/// A running host with the real plug-in and a node to edit, and ways to act in it as a user does.
 class Session
 {
 public:

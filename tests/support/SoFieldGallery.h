@@ -60,7 +60,7 @@
 #include <xsg/nodes/base/SoNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 
-/// One field of every type, each with a default that tells what the type holds: to try editors on, and to see
+/// One field of every type, each with a default that shows what the type holds: to try editors on, and to see
 /// in a file how each type is written. Draws nothing.
 class XSG_API SoFieldGallery : public SoTyped<SoFieldGallery, SoNode>
 {

@@ -152,8 +152,8 @@ EdLineEdit* EdMFieldTableItemDelegate::createLineEdit(QWidget* parent, const QSt
 EdSlider* EdMFieldTableItemDelegate::createSlider(QWidget* parent, int row, const QString& text) const
 {
     if (m_cellType == EdMFieldTable::CELL_FLOAT) {
-        // The row stands where the precision goes, and the slider always edits row 0, column 1, so what is
-        // applied from it reaches element 0 (decisions.md: slider-first-element).
+        // The row is passed as the precision, and the slider always edits row 0, column 1, so what is applied
+        // from it reaches element 0 (decisions.md: slider-first-element).
         auto* slider = new EdRealSlider(MultiValueParent, m_owner, parent, row != 0, 0, 1);
         slider->limitToFloat();
         slider->setValidLimits(m_doubleMinimum, m_doubleMaximum, m_bounded);

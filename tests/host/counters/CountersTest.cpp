@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does with the counters, from the first drag to the next start of the program.
+// What a user does with the counters, from the first drag to the next start of the program.
 #include "CounterSession.h"
 
 #include <QColorDialog>
@@ -216,7 +216,7 @@ TEST(Counters, SwitchedOffTheyWaitInTheMenu)
     for (int start = 0; start < 2; ++start) {
         qunsetenv("XSG_PERFCOUNTER_ENABLE");
         CounterSession off;
-        EXPECT_FALSE(off.dock()->isVisible()) << "it has only to tell how it is switched on";
+        EXPECT_FALSE(off.dock()->isVisible()) << "it would only show how it is switched on";
         QAction* entry = entryOf(off);
         ASSERT_TRUE(entry);
         EXPECT_FALSE(entry->isChecked());
@@ -228,6 +228,6 @@ TEST(Counters, SwitchedOffTheyWaitInTheMenu)
     }
     qputenv("XSG_PERFCOUNTER_ENABLE", "1");
     CounterSession on;
-    EXPECT_TRUE(on.dock()->isVisible()) << "the person did not put it away";
+    EXPECT_TRUE(on.dock()->isVisible()) << "the user did not hide it";
     EXPECT_TRUE(on.part("m_viewer"));
 }

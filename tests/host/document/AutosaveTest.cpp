@@ -12,10 +12,10 @@ using namespace scopix;
 namespace
 {
 
-class AutosaveTest : public SessionFiles
+class Autosaving : public SessionFiles
 {
 protected:
-    AutosaveTest()
+    Autosaving()
     {
         autosave.setPause(20);
         autosave.start();
@@ -34,7 +34,7 @@ protected:
     Autosave autosave{document, path};
 };
 
-TEST_F(AutosaveTest, WritesOnceThePersonPauses)
+TEST_F(Autosaving, WritesOnceTheUserPauses)
 {
     edit(0.5F);
     EXPECT_FALSE(QDir(path).exists()) << "not at once";
@@ -46,7 +46,7 @@ TEST_F(AutosaveTest, WritesOnceThePersonPauses)
     EXPECT_EQ(scenes().size(), 1);
 }
 
-TEST_F(AutosaveTest, ManyEditsAreWrittenOnce)
+TEST_F(Autosaving, WritesManyEditsOnce)
 {
     for (int i = 1; i <= 50; ++i) {
         edit(static_cast<float>(i) / 100);
@@ -55,7 +55,7 @@ TEST_F(AutosaveTest, ManyEditsAreWrittenOnce)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(AutosaveTest, ASceneThatTakesLongIsWrittenLessOften)
+TEST_F(Autosaving, WritesASlowSceneLessOften)
 {
     for (int i = 0; i < 20000; ++i)
         static_cast<SoSeparator*>(document.getRoot())->addChild(new SoMaterial);
@@ -67,7 +67,7 @@ TEST_F(AutosaveTest, ASceneThatTakesLongIsWrittenLessOften)
     EXPECT_GT(pause->interval(), 20);
 }
 
-TEST_F(AutosaveTest, WaitsForTheReleaseOfAHeldButton)
+TEST_F(Autosaving, WaitsForTheReleaseOfAHeldButton)
 {
     QWidget widget;
     widget.show();
@@ -83,7 +83,7 @@ TEST_F(AutosaveTest, WaitsForTheReleaseOfAHeldButton)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(AutosaveTest, SomeoneWhoNeverPausesIsSavedToo)
+TEST_F(Autosaving, SavesDuringUninterruptedEdits)
 {
     autosave.setPause(1000000);
     autosave.setLimit(30);
@@ -91,13 +91,13 @@ TEST_F(AutosaveTest, SomeoneWhoNeverPausesIsSavedToo)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(AutosaveTest, AnEditWithoutAStepIsWrittenToo)
+TEST_F(Autosaving, WritesAnEditWithoutAnUndoStep)
 {
     editWithoutStep(0.5F);
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(AutosaveTest, WhatIsSavedLeavesNothing)
+TEST_F(Autosaving, SavingRemovesTheRecoveryFile)
 {
     edit(0.5F);
     ASSERT_TRUE(waitForSaved("transparency: 0.5"));
@@ -105,7 +105,7 @@ TEST_F(AutosaveTest, WhatIsSavedLeavesNothing)
     EXPECT_TRUE(waitFor([&] { return !QDir(path).exists(); }));
 }
 
-TEST_F(AutosaveTest, WhatIsUndoneLeavesNothing)
+TEST_F(Autosaving, UndoingEverythingRemovesTheRecoveryFile)
 {
     edit(0.5F);
     ASSERT_TRUE(waitForSaved("transparency: 0.5"));
@@ -115,7 +115,7 @@ TEST_F(AutosaveTest, WhatIsUndoneLeavesNothing)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(AutosaveTest, AnotherSceneLeavesNothing)
+TEST_F(Autosaving, AnotherSceneRemovesTheRecoveryFile)
 {
     edit(0.5F);
     ASSERT_TRUE(waitForSaved("transparency: 0.5"));
@@ -123,7 +123,7 @@ TEST_F(AutosaveTest, AnotherSceneLeavesNothing)
     EXPECT_TRUE(waitFor([&] { return !QDir(path).exists(); }));
 }
 
-TEST_F(AutosaveTest, AHistoryThatIsRebuiltKeepsTheFile)
+TEST_F(Autosaving, ClearingTheHistoryKeepsTheRecoveryFile)
 {
     edit(0.5F);
     ASSERT_TRUE(waitForSaved("transparency: 0.5"));
@@ -133,7 +133,7 @@ TEST_F(AutosaveTest, AHistoryThatIsRebuiltKeepsTheFile)
     EXPECT_EQ(scenes(), before);
 }
 
-TEST_F(AutosaveTest, EditsThatNobodyAgreedToDropStay)
+TEST_F(Autosaving, KeepsTheRecoveryFileOfEditsThatWereNotDiscarded)
 {
     {
         Autosave other(document, folder.filePath("other"));
@@ -147,7 +147,7 @@ TEST_F(AutosaveTest, EditsThatNobodyAgreedToDropStay)
     EXPECT_FALSE(QDir(path).exists());
 }
 
-TEST_F(AutosaveTest, AnAdoptedPlaceIsGoneOnWith)
+TEST_F(Autosaving, ContinuesWithAnAdoptedRecoveryFile)
 {
     auto lost = RecoverySlot::make(path);
     ASSERT_TRUE(lost->setOrigin({"/a.xsg", "a.xsg"}));
@@ -159,7 +159,7 @@ TEST_F(AutosaveTest, AnAdoptedPlaceIsGoneOnWith)
     EXPECT_EQ(scenes(), QStringList{QFileInfo(scene).fileName()});
 }
 
-TEST_F(AutosaveTest, TellsOnceThatNothingCanBeKept)
+TEST_F(Autosaving, ReportsOnceThatNothingCanBeSaved)
 {
     QFile inTheWay(path);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -174,7 +174,7 @@ TEST_F(AutosaveTest, TellsOnceThatNothingCanBeKept)
     EXPECT_EQ(failed.size(), 1);
 }
 
-TEST(AutosaveStart, DoesNothingBefore)
+TEST(AutosaveStart, WritesNothingBefore)
 {
     QTemporaryDir folder;
     HostServices services;

@@ -18,7 +18,7 @@ protected:
     RecentFiles files{folder.filePath("window.ini")};
 };
 
-TEST_F(Recent, TheNewestComesFirstAndOnce)
+TEST_F(Recent, ListsTheNewestFirstAndOnce)
 {
     files.add("/a, b.xsg");
     files.add("/c.xsg");
@@ -34,7 +34,7 @@ TEST_F(Recent, AreKeptForTheNextSessionAndSharedWithOthers)
     EXPECT_EQ(files.list(), QStringList({"/b.xsg", "/a.xsg"}));
 }
 
-TEST_F(Recent, AreTen)
+TEST_F(Recent, KeepsTheTenLatest)
 {
     for (int i = 0; i < 15; ++i)
         files.add(QString("/%1.xsg").arg(i));
@@ -42,13 +42,13 @@ TEST_F(Recent, AreTen)
     EXPECT_EQ(files.list().first(), "/14.xsg");
 }
 
-TEST_F(Recent, AreFoundFromEverywhere)
+TEST_F(Recent, StoresAbsolutePaths)
 {
     files.add("here.xsg");
     EXPECT_EQ(files.list(), QStringList{QDir::current().absoluteFilePath("here.xsg")});
 }
 
-TEST_F(Recent, CanBeTakenOut)
+TEST_F(Recent, RemovesAnEntry)
 {
     files.add("/a.xsg");
     files.add("/b.xsg");

@@ -33,14 +33,14 @@ protected:
     QString path = folder.filePath("recovery");
 };
 
-TEST_F(Slots, AreThePersonsOwn)
+TEST_F(Slots, AreAccessibleToTheUserOnly)
 {
     const auto slot = RecoverySlot::make(path);
     ASSERT_TRUE(slot);
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther), 0);
 }
 
-TEST_F(Slots, WhatIsLostIsFoundWithItsOrigin)
+TEST_F(Slots, FindsALostFileWithItsOrigin)
 {
     EXPECT_FALSE(RecoverySlot::findOrphaned(path)) << "no folder yet";
     crash("a.xsg");
@@ -51,7 +51,7 @@ TEST_F(Slots, WhatIsLostIsFoundWithItsOrigin)
     EXPECT_TRUE(slot->getTime().isValid());
 }
 
-TEST_F(Slots, TheLivingAreLeftAlone)
+TEST_F(Slots, IgnoresThoseOfRunningProcesses)
 {
     const auto living = RecoverySlot::make(path);
     fill(*living, "mine.xsg");
@@ -63,7 +63,7 @@ TEST_F(Slots, TheLivingAreLeftAlone)
     EXPECT_FALSE(RecoverySlot::findOrphaned(path)) << "who finds it has it";
 }
 
-TEST_F(Slots, ThoseOfAKilledProcessAreFound)
+TEST_F(Slots, FindsThoseOfAKilledProcess)
 {
     const pid_t child = fork();
     if (child == 0) {
@@ -80,7 +80,7 @@ TEST_F(Slots, ThoseOfAKilledProcessAreFound)
     EXPECT_EQ(slot->getOrigin().title, "killed.xsg");
 }
 
-TEST_F(Slots, TheNewestComesFirst)
+TEST_F(Slots, ListsTheNewestFirst)
 {
     crash("old.xsg");
     crash("new.xsg");
@@ -103,7 +103,7 @@ TEST_F(Slots, TheNewestComesFirst)
     EXPECT_FALSE(RecoverySlot::findOrphaned(path));
 }
 
-TEST_F(Slots, NothingIsLeftWhereOneIsRemoved)
+TEST_F(Slots, RemovalLeavesNoFileBehind)
 {
     const auto slot = RecoverySlot::make(path);
     fill(*slot, "a.xsg");
@@ -125,7 +125,7 @@ TEST_F(Slots, RemovingOneLeavesTheOthers)
     EXPECT_EQ(other->getOrigin().title, "other.xsg");
 }
 
-TEST_F(Slots, ACrashBeforeTheFirstWritingLeavesNothingToAskAbout)
+TEST_F(Slots, IgnoresACrashBeforeTheFirstWrite)
 {
     RecoverySlot::make(path)->setOrigin({"/a.xsg", "a.xsg"});
     EXPECT_FALSE(RecoverySlot::findOrphaned(path));

@@ -8,9 +8,9 @@
 namespace
 {
 
-using SceneDocumentTest = SessionFiles;
+using Document = SessionFiles;
 
-TEST_F(SceneDocumentTest, FollowsTheHistory)
+TEST_F(Document, FollowsTheHistory)
 {
     EXPECT_FALSE(document.isModified());
     QSignalSpy told(&document, &SceneDocument::stateChanged);
@@ -23,7 +23,7 @@ TEST_F(SceneDocumentTest, FollowsTheHistory)
     EXPECT_TRUE(document.isModified());
 }
 
-TEST_F(SceneDocumentTest, AnEditWithoutAStepCountsToo)
+TEST_F(Document, CountsAnEditWithoutAnUndoStep)
 {
     QSignalSpy told(&document, &SceneDocument::stateChanged);
     editWithoutStep(0.5F);
@@ -33,7 +33,7 @@ TEST_F(SceneDocumentTest, AnEditWithoutAStepCountsToo)
     EXPECT_FALSE(document.isModified());
 }
 
-TEST_F(SceneDocumentTest, AnEditWithItsStepIsTakenBackWhole)
+TEST_F(Document, AnEditWithItsStepIsTakenBackWhole)
 {
     edit(0.5F);
     edit(0.7F);
@@ -44,7 +44,7 @@ TEST_F(SceneDocumentTest, AnEditWithItsStepIsTakenBackWhole)
     EXPECT_FALSE(document.isModified());
 }
 
-TEST_F(SceneDocumentTest, WhatFollowsAnotherFieldIsNoEdit)
+TEST_F(Document, AConnectedFieldsUpdateIsNoEdit)
 {
     SoRef<SoComplexity> master(new SoComplexity);
     ASSERT_TRUE(material->transparency.connectFrom(&master->value));
@@ -55,7 +55,7 @@ TEST_F(SceneDocumentTest, WhatFollowsAnotherFieldIsNoEdit)
     EXPECT_FALSE(document.isModified());
 }
 
-TEST_F(SceneDocumentTest, EveryActIsCounted)
+TEST_F(Document, CountsEveryEdit)
 {
     const quint64 before = document.getEditCount();
     edit(0.5F);
@@ -65,7 +65,7 @@ TEST_F(SceneDocumentTest, EveryActIsCounted)
     EXPECT_GT(document.getEditCount(), edited);
 }
 
-TEST_F(SceneDocumentTest, SavingIsTheNewUnmodifiedState)
+TEST_F(Document, SavingIsTheNewUnmodifiedState)
 {
     edit(0.5F);
     const QString path = folder.filePath("other.xsg");
@@ -78,7 +78,7 @@ TEST_F(SceneDocumentTest, SavingIsTheNewUnmodifiedState)
     EXPECT_TRUE(document.isModified()) << "the file has the edit";
 }
 
-TEST_F(SceneDocumentTest, WhatCannotBeSavedStaysModified)
+TEST_F(Document, AFailedSaveStaysModified)
 {
     edit(0.5F);
     const QString error = document.save(folder.filePath("nowhere/scene.xsg"));
@@ -87,7 +87,7 @@ TEST_F(SceneDocumentTest, WhatCannotBeSavedStaysModified)
     EXPECT_EQ(document.getTitle(), "scene.xsg");
 }
 
-TEST_F(SceneDocumentTest, ALinkStaysALink)
+TEST_F(Document, ALinkStaysALink)
 {
     const QString real = folder.filePath("real.xsg");
     ASSERT_EQ(document.save(real), "");
@@ -99,7 +99,7 @@ TEST_F(SceneDocumentTest, ALinkStaysALink)
     EXPECT_TRUE(contentOf(real).contains("transparency: 0.25"));
 }
 
-TEST_F(SceneDocumentTest, AModelHasNoSceneFileYet)
+TEST_F(Document, AModelHasNoSceneFileYet)
 {
     const SoRef<SoNode> root(new SoSeparator);
     EXPECT_TRUE(document.hasSceneFile());
@@ -109,7 +109,7 @@ TEST_F(SceneDocumentTest, AModelHasNoSceneFileYet)
     EXPECT_FALSE(document.hasSceneFile());
 }
 
-TEST_F(SceneDocumentTest, AnotherSceneBeginsUnmodified)
+TEST_F(Document, AnotherSceneBeginsUnmodified)
 {
     editWithoutStep(0.5F);
     edit(0.75F);
@@ -119,7 +119,7 @@ TEST_F(SceneDocumentTest, AnotherSceneBeginsUnmodified)
     EXPECT_EQ(services.selectedNode(), nullptr);
 }
 
-TEST_F(SceneDocumentTest, RecoveredEditsAreUnsavedWhateverIsUndone)
+TEST_F(Document, RecoveredEditsAreUnsavedWhateverIsUndone)
 {
     const SoRef<SoNode> root(document.getRoot());
     document.beginModified(root.get(), "/somewhere/a.xsg", "a.xsg");
@@ -131,14 +131,14 @@ TEST_F(SceneDocumentTest, RecoveredEditsAreUnsavedWhateverIsUndone)
     EXPECT_FALSE(document.isModified());
 }
 
-TEST_F(SceneDocumentTest, EditsSurviveTheEndOfTheirHistory)
+TEST_F(Document, EditsSurviveTheEndOfTheirHistory)
 {
     edit(0.5F);
     services.history().clear();
     EXPECT_TRUE(document.isModified()) << "the field still has the new value";
 }
 
-TEST_F(SceneDocumentTest, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
+TEST_F(Document, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
 {
     SoRef<SoSeparator> scene(new SoSeparator);
     material = new SoMaterial;
@@ -159,7 +159,7 @@ TEST_F(SceneDocumentTest, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
 }
 
 // A relative path would mean another file once the program is started elsewhere.
-TEST_F(SceneDocumentTest, KeepsAbsolutePaths)
+TEST_F(Document, KeepsAbsolutePaths)
 {
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
@@ -170,7 +170,7 @@ TEST_F(SceneDocumentTest, KeepsAbsolutePaths)
     EXPECT_EQ(document.getPath(), QString());
 }
 
-TEST_F(SceneDocumentTest, ReplacesNoFileOfAnotherKindAndNoneThatIsProtected)
+TEST_F(Document, ReplacesNoFileOfAnotherKindAndNoneThatIsProtected)
 {
     const QString model = folder.filePath("model.glb");
     const QString scene = folder.filePath("protected.xsg");

@@ -45,7 +45,7 @@ TEST_F(Snapshot, CanBeMadeAgain)
     EXPECT_EQ(filesIn(folder.path()), QStringList{"snapshot.xsg"});
 }
 
-TEST_F(Snapshot, TellsWhyItCannotBeWritten)
+TEST_F(Snapshot, ReportsWhyItCannotBeWritten)
 {
     writer.write(document.getRoot(), folder.filePath("nowhere/snapshot.xsg"));
     ASSERT_TRUE(waitFor([&] { return !finished.isEmpty(); }));
@@ -72,7 +72,7 @@ TEST_F(Snapshot, ReplacesNothingOnceItWasCancelled)
     EXPECT_EQ(filesIn(folder.path()), QStringList{"snapshot.xsg"});
 }
 
-TEST_F(Snapshot, CanBeGivenUp)
+TEST_F(Snapshot, CanBeCancelledWhileWriting)
 {
     SoRef<SoSeparator> large(new SoSeparator);
     for (int i = 0; i < 20000; ++i)

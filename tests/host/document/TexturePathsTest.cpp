@@ -89,7 +89,7 @@ TEST_F(Pictures, AreFoundFromWhereTheSceneIsSaved)
     EXPECT_FALSE(document.isModified()) << "what saving itself changes is saved";
 }
 
-TEST_F(Pictures, WhoseNamesLeadNowhereKeepThem)
+TEST_F(Pictures, KeepNamesThatCannotBeFound)
 {
     texture->fileName.setValue("pictures/none.png");
     ASSERT_EQ(document.save(folder.filePath("b/scene.xsg")), "");
@@ -99,7 +99,7 @@ TEST_F(Pictures, WhoseNamesLeadNowhereKeepThem)
     EXPECT_EQ(name(), folder.filePath("a/pictures/red.png").toStdString());
 }
 
-TEST_F(Pictures, ThatAreNoneGiveWayToTheImage)
+TEST_F(Pictures, FallBackToTheImageWhenUnreadable)
 {
     QFile bad(folder.filePath("a/bad.png"));
     ASSERT_TRUE(bad.open(QIODevice::WriteOnly));

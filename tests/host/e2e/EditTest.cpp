@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The whole road of an edit: selection, editor, input, field, undo history.
+// The whole path of an edit: selection, editor, input, field, undo history.
 #include <support/Session.h>
 
 #include <QFile>
@@ -235,7 +235,7 @@ TEST(EndToEnd, IgnoringIsOneStepThatUndoes)
     EXPECT_TRUE(button->isChecked());
 }
 
-TEST(EndToEnd, ChangesFromElsewhereShow)
+TEST(EndToEnd, ShowsChangesFromElsewhere)
 {
     Session session;
     session.select(&session.material->transparency);
@@ -245,7 +245,7 @@ TEST(EndToEnd, ChangesFromElsewhereShow)
     EXPECT_EQ(session.stack().count(), 0);
 }
 
-TEST(EndToEnd, ANodeMayGoWhileItIsEdited)
+TEST(EndToEnd, ANodeMayBeDestroyedWhileItIsEdited)
 {
     Session session;
     session.select(&session.material->transparency);
@@ -260,7 +260,7 @@ TEST(EndToEnd, ANodeMayGoWhileItIsEdited)
 }
 
 // What was typed is applied on the way out, and nothing of the plug-in stays behind.
-TEST(EndToEnd, ThePlugInGoesWithTheHost)
+TEST(EndToEnd, ThePlugInIsUnloadedWithTheHost)
 {
     const SoRef<SoMaterial> material = [] {
         Session session;

@@ -61,7 +61,7 @@ public:
             stack().redo();
         settle();
     }
-    /// Everything edited so far goes back, forth and back again.
+    /// Everything edited so far is undone, redone and undone again.
     void expectUndone(const std::vector<State>& before)
     {
         const std::vector<State> after = states();

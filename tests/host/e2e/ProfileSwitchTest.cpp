@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Profiles are switched while a person is in the middle of an edit: the edit is applied or dropped, once and
+// Profiles are switched while the user is in the middle of an edit: the edit is applied or dropped, once and
 // whole, and nothing of the editor stays behind.
 #include <support/Session.h>
 
@@ -169,7 +169,7 @@ TEST_F(ProfileSwitch, AThousandTimesWithEditorsOpenLeavesNothingBehind)
     EXPECT_EQ(m_session.host.notifier().errorCount(), 0);
 }
 
-TEST_F(ProfileSwitch, ThePlugInComesAndGoesWithAnEditorOpen)
+TEST_F(ProfileSwitch, ThePlugInIsUnloadedAndLoadedWithAnEditorOpen)
 {
     m_session.select(&transparency());
     for (int i = 0; i < 3; ++i) {

@@ -26,7 +26,7 @@ void typeOver(QLineEdit* line, const QString& text)
     press(line, Qt::Key_Return);
 }
 
-// The inputs that a person sees in the editor: those of popups and inside of spin boxes aside.
+// The inputs that are visible in the editor, except those of popups and inside of spin boxes.
 QList<QLineEdit*> linesOf(QWidget* editor)
 {
     QList<QLineEdit*> lines;

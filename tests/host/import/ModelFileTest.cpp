@@ -27,7 +27,7 @@ bool read(const QByteArray& bytes, ModelReadResult& model)
     return readModelFile(buffer, model);
 }
 
-TEST(ModelFile, BringsEveryBitOver)
+TEST(ModelFile, TransfersEveryBit)
 {
     for (const char* name : {"lighthouse.glb", "crate.gltf", "rainbow.ply"}) {
         const ModelReadResult model = readModel(shippedModel(name));
@@ -42,7 +42,7 @@ TEST(ModelFile, BringsEveryBitOver)
     }
 }
 
-TEST(ModelFile, BringsAnErrorOver)
+TEST(ModelFile, TransfersAnError)
 {
     ModelReadResult model;
     model.error = QStringLiteral("“ä” cannot be opened: ….");
@@ -51,7 +51,7 @@ TEST(ModelFile, BringsAnErrorOver)
     EXPECT_EQ(again.error, model.error);
 }
 
-TEST(ModelFile, ACutOneIsRefused)
+TEST(ModelFile, RefusesATruncatedFile)
 {
     const QByteArray bytes = written(readModel(shippedModel("crate.gltf")));
     ModelReadResult model;
@@ -70,7 +70,7 @@ TEST(ModelFile, AWrongCountAsksForNoMemory)
     }
 }
 
-TEST(ModelFile, ReferencesToNothingAreRefused)
+TEST(ModelFile, RefusesInvalidReferences)
 {
     const auto isRefused = [](auto spoil) {
         ModelReadResult model;

@@ -16,9 +16,7 @@ inline QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Model files for the tests: the shipped ones, and others made from them.
-///
-/// A folder of files that goes with it.
+/// Model files for the tests in a temporary folder: the shipped ones, and others made from them.
 class ModelFiles
 {
 public:

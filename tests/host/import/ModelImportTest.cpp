@@ -51,7 +51,7 @@ TEST_F(Import, GivesTheSceneFromTheEventLoop)
     EXPECT_FALSE(dialog() && dialog()->isVisible());
 }
 
-TEST_F(Import, TellsWhatIsWrong)
+TEST_F(Import, ReportsWhatIsWrong)
 {
     import.start("/nowhere/none.glb");
     ASSERT_TRUE(waitForEnd());
@@ -73,7 +73,7 @@ TEST_F(Import, CancelEndsTheReaderAtOnce)
     EXPECT_FALSE(scene);
 }
 
-TEST_F(Import, AReaderThatDiesIsToldInOneSentence)
+TEST_F(Import, ReportsACrashedReaderInOneSentence)
 {
     import.start(shippedModel("lighthouse.glb"));
     ASSERT_TRUE(reader()->waitForStarted());
@@ -84,7 +84,7 @@ TEST_F(Import, AReaderThatDiesIsToldInOneSentence)
         << qPrintable(error);
 }
 
-TEST_F(Import, AReaderThatComputesForEverIsToldToo)
+TEST_F(Import, ReportsAReaderThatNeverEnds)
 {
     import.start(shippedModel("lighthouse.glb"));
     ASSERT_TRUE(reader()->waitForStarted());
@@ -112,7 +112,7 @@ TEST_F(Import, AFewBytesThatAskForAllMemoryAreRefused)
     import.start(files.write("many.off", "OFF\n1400000000 1 0\n0 0 0\n0 0 1\n0 1 0\n3 0 1 2\n"));
     ASSERT_TRUE(waitForEnd());
 #if defined(__SANITIZE_ADDRESS__) ||                                                                         \
-    defined(__SANITIZE_THREAD__) // which end the reader before it can tell why
+    defined(__SANITIZE_THREAD__) // which end the reader before it can report why
     const char* const sentence = "many.off” cannot be opened";
 #else
     const char* const sentence = "many.off” cannot be opened: it asks for more memory";

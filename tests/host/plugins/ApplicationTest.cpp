@@ -52,10 +52,10 @@ public:
     QStringList m_acts;
 };
 
-class ApplicationTest : public ::testing::Test
+class Application : public ::testing::Test
 {
 protected:
-    ApplicationTest()
+    Application()
     {
         qputenv("XDG_CONFIG_HOME", m_home.path().toLocal8Bit());
         qputenv("XDG_DATA_HOME", m_home.path().toLocal8Bit());
@@ -67,7 +67,7 @@ protected:
             return window;
         });
     }
-    ~ApplicationTest() override
+    ~Application() override
     {
         m_host.reset();
         ::testing::internal::GetCapturedStderr();
@@ -82,7 +82,7 @@ protected:
     std::unique_ptr<HostSession> m_host;
 };
 
-TEST_F(ApplicationTest, DoesWhatTheCommandLineAsksInOrder)
+TEST_F(Application, DoesWhatTheCommandLineAsksInOrder)
 {
     EXPECT_EQ(run({"good.glb", "--plugin", testPlugin("Good"), "--select", "Material.transparency",
                    "--screenshot", "out.png"}),
@@ -92,24 +92,24 @@ TEST_F(ApplicationTest, DoesWhatTheCommandLineAsksInOrder)
     EXPECT_TRUE(m_host->plugins().pluginNames().contains("Test"));
 }
 
-TEST_F(ApplicationTest, BadInputMakesTheExitStatusOne)
+TEST_F(Application, BadInputMakesTheExitStatusOne)
 {
     EXPECT_EQ(run({"missing.glb", "--quit"}), 1);
     EXPECT_EQ(m_window->m_acts, QStringList{"open missing.glb"});
 }
 
-TEST_F(ApplicationTest, ABadPluginOrProfileMakesTheExitStatusOne)
+TEST_F(Application, ABadPluginOrProfileMakesTheExitStatusOne)
 {
     EXPECT_EQ(run({"--plugin", "/nowhere.so", "--quit"}), 1);
 }
 
-TEST_F(ApplicationTest, AnUnknownProfileIsTold)
+TEST_F(Application, ReportsAnUnknownProfile)
 {
     EXPECT_EQ(run({"--profile", "No such", "--quit"}), 1);
     EXPECT_EQ(m_host->notifier().errorCount(), 1);
 }
 
-TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
+TEST_F(Application, ReportsADamagedProfilesFile)
 {
     m_host.reset();
     QDir(m_home.path()).mkpath("scopix");
@@ -122,14 +122,14 @@ TEST_F(ApplicationTest, ADamagedProfilesFileIsToldToo)
     EXPECT_EQ(run({"--quit"}), 1);
 }
 
-TEST_F(ApplicationTest, UsesTheProfileOfTheCommandLine)
+TEST_F(Application, UsesTheProfileOfTheCommandLine)
 {
     EXPECT_EQ(run({"--profile", "Measure", "--plugin", testPlugin("Good"), "--quit"}), 0);
     EXPECT_EQ(m_host->plugins().profiles().activeProfile()->name(), "Measure");
     EXPECT_EQ(takePluginLog().filter("activate"), QStringList());
 }
 
-TEST_F(ApplicationTest, SwitchesTheCountersOn)
+TEST_F(Application, SwitchesTheCountersOn)
 {
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
     run({"--counters", "--quit"});
@@ -138,7 +138,7 @@ TEST_F(ApplicationTest, SwitchesTheCountersOn)
     SoPreferences::setValue("XSG_PERFCOUNTER_ENABLE", SbString());
 }
 
-TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)
+TEST_F(Application, StartsASessionOnceTheFileIsOpenAndAttended)
 {
     QTimer waiting;
     QObject::connect(&waiting, &QTimer::timeout, m_window, [this] {
@@ -153,7 +153,7 @@ TEST_F(ApplicationTest, ASessionBeginsOnceTheFileIsOpenAndAPersonIsThere)
     EXPECT_EQ(m_window->m_acts, QStringList{"open good.glb"});
 }
 
-TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
+TEST_F(Application, KeepsTheLayoutOfAnAttendedSession)
 {
     QTimer::singleShot(0, m_window, [this] {
         m_host->shell().setShown(m_host->shell().extensions().last(), false);
@@ -170,7 +170,7 @@ TEST_F(ApplicationTest, KeepsTheLayoutOfAPersonsSession)
     EXPECT_FALSE(third->isShown());
 }
 
-TEST_F(ApplicationTest, UnloadsThePluginsWhileTheWindowStands)
+TEST_F(Application, UnloadsThePluginsBeforeDestroyingTheWindow)
 {
     run({"--plugin", testPlugin("Good"), "--quit"});
     QPointer<QDockWidget> dock = m_window->findChild<QDockWidget*>("First");
@@ -182,7 +182,7 @@ TEST_F(ApplicationTest, UnloadsThePluginsWhileTheWindowStands)
     EXPECT_TRUE(atEnd.contains("Test destroyed"));
 }
 
-TEST_F(ApplicationTest, TheMenusFollowExtensionsAndProfiles)
+TEST_F(Application, TheMenusFollowExtensionsAndProfiles)
 {
     run({"--plugin", testPlugin("Good"), "--quit"});
     QStringList tools;

@@ -119,11 +119,11 @@ struct BadPlugin {
     const char* expected;
 };
 
-class BadPluginTest : public ::testing::TestWithParam<BadPlugin>
+class BadPlugins : public ::testing::TestWithParam<BadPlugin>
 {
 };
 
-TEST_P(BadPluginTest, IsNamedInOneSentenceAndTheRestGoesOn)
+TEST_P(BadPlugins, IsReportedInOneSentenceAndTheOthersAreLoaded)
 {
     PluginHost host;
     host.manager.loadPlugin(testPlugin("Other"));
@@ -137,7 +137,7 @@ TEST_P(BadPluginTest, IsNamedInOneSentenceAndTheRestGoesOn)
     EXPECT_FALSE(isMapped(GetParam().path));
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, BadPluginTest,
+INSTANTIATE_TEST_SUITE_P(Cases, BadPlugins,
                          ::testing::Values(BadPlugin{"/nowhere/libSpx.so", "no such file"},
                                            BadPlugin{TEST_PLUGINS, "a folder"},
                                            BadPlugin{SCOPIX_SOURCE_DIR "/README.md", "no library"},
@@ -173,7 +173,7 @@ TEST(PluginForAnotherVersion, IsRefusedBeforeItsCodeRuns)
     EXPECT_TRUE(qEnvironmentVariableIsSet("TEST_PLUGIN_RAN")) << "a trace that nothing leaves shows nothing";
 }
 
-TEST(BadExtensions, AreToldOneByOneAndLeaveNothingBehind)
+TEST(BadExtensions, AreReportedOneByOneAndLeaveNothingBehind)
 {
     PluginHost host;
     EXPECT_TRUE(host.manager.loadPlugin(testPlugin("BadExtensions")));

@@ -95,7 +95,7 @@ TEST(PluginNote, ThePluginsHereFitThisHost)
     EXPECT_EQ(PluginNote::ofHost().value("contract"), SPX_CONTRACT_VERSION);
 }
 
-TEST(PluginNote, APluginWithoutOneIsLoadedUnchecked)
+TEST(PluginNote, LoadsAPluginWithoutNoteUnchecked)
 {
     EXPECT_EQ(whyNot(contentOf(testPlugin("Other"))), "");
     EXPECT_EQ(whyNot(libraryWithNotes(note("Other", "contract=9.0\n"))), "");
@@ -108,7 +108,7 @@ TEST(PluginNote, IsFoundBehindOtherNotes)
               "it was made for version 9 of the plug-in interface, this program has version 1");
 }
 
-TEST(PluginNote, SaysWhatDoesNotFit)
+TEST(PluginNote, ReportsWhatDoesNotFit)
 {
     EXPECT_EQ(whyUnfit("contract=1.2\nqt=5.15.0\ncxx=libstdc++\n"), "");
     EXPECT_EQ(whyUnfit("contract=1.0\nqt=5.6.1\ncxx=libstdc++\nlater=x\n"), "");
@@ -200,7 +200,7 @@ TEST(PluginFile, DamagedNotesAreRefused)
     }
 }
 
-TEST(PluginFile, NotesBeyondAllMeasureAreNotRead)
+TEST(PluginFile, DoesNotReadOversizedNotes)
 {
     const QByteArray small = QByteArray(12, '\0'); // a note without owner and content
     EXPECT_EQ(whyNot(libraryWithNotes(small.repeated(80000))), "");

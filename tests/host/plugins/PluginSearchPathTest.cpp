@@ -15,10 +15,10 @@ using namespace scopix;
 namespace
 {
 
-class PluginSearchPathTest : public ::testing::Test
+class SearchPath : public ::testing::Test
 {
 protected:
-    PluginSearchPathTest() { qputenv("XDG_DATA_HOME", at("home").toLocal8Bit()); }
+    SearchPath() { qputenv("XDG_DATA_HOME", at("home").toLocal8Bit()); }
 
     QString at(const QString& path) const { return QDir(m_folder.path()).filePath(path); }
     QString make(const QString& path) const
@@ -33,7 +33,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-TEST_F(PluginSearchPathTest, GoesFromTheProgramOverTheHostLibraryToTheUser)
+TEST_F(SearchPath, SearchesTheProgramThenTheHostLibraryThenTheUser)
 {
     const QString mine = make("home/scopix/plugins/mine.so");
     const QString installed = make("sdk/lib/scopix/plugins/a.so");
@@ -46,7 +46,7 @@ TEST_F(PluginSearchPathTest, GoesFromTheProgramOverTheHostLibraryToTheUser)
     EXPECT_EQ(find(), (QStringList{besideProgram, inLibraries, inTree, besideLibrary, installed, mine}));
 }
 
-TEST_F(PluginSearchPathTest, TheDefaultExtensionsComeFirst)
+TEST_F(SearchPath, TheDefaultExtensionsComeFirst)
 {
     const QString first = make("app/bin/libSpxA.so");
     const QString second = make("app/bin/libSpxB.so");
@@ -54,14 +54,14 @@ TEST_F(PluginSearchPathTest, TheDefaultExtensionsComeFirst)
     EXPECT_EQ(find(), (QStringList{defaults, first, second}));
 }
 
-TEST_F(PluginSearchPathTest, OfTwoFilesOfOneNameTheFirstCounts)
+TEST_F(SearchPath, TheFirstOfTwoFilesOfOneNameIsUsed)
 {
     const QString first = make("app/bin/libSpxDefaults.so");
     make("sdk/lib/libSpxDefaults.so");
     EXPECT_EQ(find(), QStringList{first});
 }
 
-TEST_F(PluginSearchPathTest, NoFileComesTwiceWhateverLinksLeadToIt)
+TEST_F(SearchPath, NoFileComesTwiceWhateverLinksLeadToIt)
 {
     const QString file = make("app/bin/libSpxA.so");
     QDir().mkpath(at("sdk"));
@@ -71,7 +71,7 @@ TEST_F(PluginSearchPathTest, NoFileComesTwiceWhateverLinksLeadToIt)
     EXPECT_EQ(find(), QStringList{file});
 }
 
-TEST_F(PluginSearchPathTest, ThisProgramFindsWhatLiesBesideIt)
+TEST_F(SearchPath, ThisProgramFindsWhatLiesBesideIt)
 {
     EXPECT_TRUE(PluginSearchPath().findAll().contains(QDir::cleanPath(SCOPIX_PLUGIN)));
     EXPECT_TRUE(PluginSearchPath().folders().contains(OwnLibrary::folder() + "/scopix/plugins"));

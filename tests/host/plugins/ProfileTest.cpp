@@ -30,7 +30,7 @@ ProfileChoice only(const QString& name, const QStringList& tools)
     return {name, {true, {}}, {false, tools}};
 }
 
-class ProfileFileTest : public ::testing::Test
+class ProfilesFile : public ::testing::Test
 {
 protected:
     void put(const QByteArray& content)
@@ -47,7 +47,7 @@ protected:
     QString m_error;
 };
 
-TEST_F(ProfileFileTest, ShipsThreeProfiles)
+TEST_F(ProfilesFile, ShipsThreeProfiles)
 {
     const ProfileSettings settings = m_file.read(m_error);
     ASSERT_EQ(settings.profiles.size(), 3U);
@@ -59,7 +59,7 @@ TEST_F(ProfileFileTest, ShipsThreeProfiles)
     EXPECT_EQ(m_error, "");
 }
 
-TEST_F(ProfileFileTest, ReadsBackWhatItWrote)
+TEST_F(ProfilesFile, ReadsBackWhatItWrote)
 {
     ProfileSettings settings = ProfileFile::shipped();
     settings.profiles.push_back({"Grün \"1\"", {false, {"A/b"}}, {false, {}}});
@@ -74,7 +74,7 @@ TEST_F(ProfileFileTest, ReadsBackWhatItWrote)
     EXPECT_EQ(back.active, "Edit");
 }
 
-TEST_F(ProfileFileTest, DefaultIsAlwaysThereAndWhole)
+TEST_F(ProfilesFile, DefaultIsAlwaysThereAndWhole)
 {
     put(R"({"active":"Mine","profiles":[{"name":"Mine","editors":[],"tools":"all"},)"
         R"({"name":"Default","editors":[],"tools":[]}]})");
@@ -93,11 +93,11 @@ struct Damaged {
     const char* expected;
 };
 
-class DamagedFile : public ProfileFileTest, public ::testing::WithParamInterface<Damaged>
+class DamagedFile : public ProfilesFile, public ::testing::WithParamInterface<Damaged>
 {
 };
 
-TEST_P(DamagedFile, IsToldAndKeptBesideUnderAnotherName)
+TEST_P(DamagedFile, IsReportedAndKeptUnderAnotherName)
 {
     put(GetParam().content);
     const ProfileSettings settings = m_file.read(m_error);
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damaged{QByteArray(R"({"profiles":[)") + Good + "]}", "“active”"},
         Damaged{QByteArray(5 * 1024 * 1024, 'x'), "larger"}, Damaged{QByteArray(100000, '['), "line 1"}));
 
-TEST_F(ProfileFileTest, DamagedTwiceKeepsBoth)
+TEST_F(ProfilesFile, DamagedTwiceKeepsBoth)
 {
     put("one");
     m_file.read(m_error);
@@ -138,7 +138,7 @@ TEST_F(ProfileFileTest, DamagedTwiceKeepsBoth)
     EXPECT_EQ(files(), (QStringList{"profiles.damaged-2.json", "profiles.damaged.json"}));
 }
 
-TEST_F(ProfileFileTest, WhatCannotBeWrittenIsTold)
+TEST_F(ProfilesFile, ReportsAFileThatCannotBeWritten)
 {
     put("a file where a folder should be");
     const ProfileFile below(m_path + "/profiles.json");
@@ -201,7 +201,7 @@ protected:
     PluginHost m_host;
 };
 
-TEST_F(Switching, TakesHoldInTheNextTurnAndTellsTheSelectionAgain)
+TEST_F(Switching, TakesEffectInTheNextTurnAndReportsTheSelectionAgain)
 {
     SoRef<SoMaterial> material = new SoMaterial;
     m_host.services.select(material.get());

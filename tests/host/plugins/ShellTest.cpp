@@ -63,10 +63,10 @@ public:
     void unload() override {}
 };
 
-class ShellTest : public ::testing::Test
+class Shell : public ::testing::Test
 {
 protected:
-    ShellTest()
+    Shell()
     {
         m_window.resize(900, 600);
         m_window.setCentralWidget(new QWidget);
@@ -83,7 +83,7 @@ protected:
     Panel m_two{"Two"};
 };
 
-TEST_F(ShellTest, NamesEveryDockAndToolBarDifferently)
+TEST_F(Shell, NamesEveryDockAndToolBarDifferently)
 {
     m_one.start(m_shell);
     QDockWidget same("One");
@@ -103,7 +103,7 @@ TEST_F(ShellTest, NamesEveryDockAndToolBarDifferently)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, HandsWidgetsBackWithoutAParent)
+TEST_F(Shell, HandsWidgetsBackWithoutAParent)
 {
     m_one.start(m_shell);
     QToolBar bar("Bar");
@@ -115,7 +115,7 @@ TEST_F(ShellTest, HandsWidgetsBackWithoutAParent)
     EXPECT_FALSE(m_one.m_dock.isVisible());
 }
 
-TEST_F(ShellTest, KeepsAnExplicitlyHiddenDockHidden)
+TEST_F(Shell, KeepsAnExplicitlyHiddenDockHidden)
 {
     QDockWidget dock("Field Editor");
     dock.setVisible(false);
@@ -127,7 +127,7 @@ TEST_F(ShellTest, KeepsAnExplicitlyHiddenDockHidden)
     m_shell.removeDockWidget(&dock);
 }
 
-TEST_F(ShellTest, ADockComesBackWhereItWas)
+TEST_F(Shell, ADockComesBackWhereItWas)
 {
     m_one.start(m_shell);
     m_two.start(m_shell);
@@ -148,7 +148,7 @@ TEST_F(ShellTest, ADockComesBackWhereItWas)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, AToolBarComesBackWhereItWas)
+TEST_F(Shell, AToolBarComesBackWhereItWas)
 {
     QToolBar bar("Bar");
     m_shell.addToolBar(&bar, Qt::TopToolBarArea);
@@ -160,7 +160,7 @@ TEST_F(ShellTest, AToolBarComesBackWhereItWas)
     m_shell.removeToolBar(&bar);
 }
 
-TEST_F(ShellTest, SavesAndRestoresPlacesAndWhatThePersonHid)
+TEST_F(Shell, SavesAndRestoresPlacesAndWhatTheUserHid)
 {
     m_one.start(m_shell);
     m_two.start(m_shell);
@@ -180,7 +180,7 @@ TEST_F(ShellTest, SavesAndRestoresPlacesAndWhatThePersonHid)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, OneThatWaitsComesUpHiddenUntilItIsAskedFor)
+TEST_F(Shell, AWaitingExtensionStaysHiddenUntilTheUserShowsIt)
 {
     m_shell.keepHiddenAtFirst("Two");
     m_one.start(m_shell);
@@ -194,7 +194,7 @@ TEST_F(ShellTest, OneThatWaitsComesUpHiddenUntilItIsAskedFor)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, ALayoutThatIsNoneChangesNothing)
+TEST_F(Shell, AnInvalidLayoutChangesNothing)
 {
     m_one.start(m_shell);
     for (const QByteArray& text :
@@ -206,7 +206,7 @@ TEST_F(ShellTest, ALayoutThatIsNoneChangesNothing)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, ClosingADockHidesItsExtension)
+TEST_F(Shell, ClosingADockHidesItsExtension)
 {
     m_one.start(m_shell);
     m_one.m_dock.close();
@@ -216,7 +216,7 @@ TEST_F(ShellTest, ClosingADockHidesItsExtension)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, TheWindowsOwnMenuKeepsTheExtensionInformed)
+TEST_F(Shell, TheWindowsOwnMenuKeepsTheExtensionInformed)
 {
     m_one.start(m_shell);
     m_one.m_dock.toggleViewAction()->trigger();
@@ -229,7 +229,7 @@ TEST_F(ShellTest, TheWindowsOwnMenuKeepsTheExtensionInformed)
     m_one.deactivate();
 }
 
-TEST_F(ShellTest, TheViewMenuShowsAndHidesExtensionsButEditors)
+TEST_F(Shell, TheViewMenuShowsAndHidesExtensionsButEditors)
 {
     QMenu menu;
     QAction* before = menu.addAction("Something else");

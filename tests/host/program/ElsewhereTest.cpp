@@ -59,7 +59,7 @@ TEST_F(Elsewhere, TheProgramTakesPluginsFromBesideItsLibrary)
     EXPECT_TRUE(loaded.contains(plugin)) << loaded.toStdString();
 }
 
-TEST_F(Elsewhere, TheWindowComesUpWithoutAnyPlugin)
+TEST_F(Elsewhere, OpensTheWindowWithoutAnyPlugin)
 {
     const QString loaded = loadedBy({"--screenshot", at("window.png")});
     EXPECT_FALSE(loaded.contains("libSpxDefaults.so"));

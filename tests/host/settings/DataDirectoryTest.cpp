@@ -51,7 +51,7 @@ TEST_F(Home, IsFilledOnFirstUseAndKeptAfterwards)
     EXPECT_EQ(saved.readAll(), "mine");
 }
 
-TEST_F(Home, OneThatIsSetIsLeftAlone)
+TEST_F(Home, KeepsOneThatIsSet)
 {
     qputenv("XSGHOME", "/somewhere/else");
     EXPECT_EQ(DataDirectory::ensure(), "");
@@ -59,7 +59,7 @@ TEST_F(Home, OneThatIsSetIsLeftAlone)
     EXPECT_FALSE(QFile::exists(file()));
 }
 
-TEST_F(Home, OneOfThePreferencesIsLeftAlone)
+TEST_F(Home, KeepsOneOfThePreferences)
 {
     SoPreferences::setValue("XSGHOME", "/somewhere/else");
     EXPECT_EQ(DataDirectory::ensure(), "");
@@ -73,7 +73,7 @@ TEST_F(Home, TheEnvironmentOfTheProcessStaysAsItIs)
     EXPECT_FALSE(qEnvironmentVariableIsSet("XSGHOME"));
 }
 
-TEST_F(Home, AFolderThatCannotBeMadeIsNamed)
+TEST_F(Home, ReportsAFolderThatCannotBeMade)
 {
     QFile inTheWay(folder.path() + "/scopix");
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A plug-in that acts in the program as a person does, as the environment's SCOPIX_TEST_ACT says: "edit" sets
+// A plug-in that acts in the program as a user does, as the environment's SCOPIX_TEST_ACT says: "edit" sets
 // the selected field to 0.5; "recover" answers the question after a crash, saves and closes the window.
 #include "support/SetText.h"
 

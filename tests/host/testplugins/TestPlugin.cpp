@@ -84,7 +84,7 @@ public:
     void unload() override
     {
         note("unload");
-        // Left to the event loop on purpose: the host delivers it before the code goes.
+        // Left to the event loop on purpose: the host delivers it before the code is unloaded.
         m_dock->deleteLater();
         delete m_bar;
     }

@@ -17,7 +17,7 @@ CommandLine parse(QStringList arguments)
     return CommandLine::parse(arguments);
 }
 
-TEST(CommandLineTest, TakesEveryOption)
+TEST(CommandLine, TakesEveryOption)
 {
     const CommandLine line =
         parse({"model.glb", "--plugin", "a.so", "--plugin", "b.so", "--profile", "Edit", "--select",
@@ -34,14 +34,14 @@ TEST(CommandLineTest, TakesEveryOption)
     EXPECT_TRUE(line.isUnattended());
 }
 
-TEST(CommandLineTest, AsksForNothingByItself)
+TEST(CommandLine, HasNoOptionsByDefault)
 {
     const CommandLine line = parse({});
     EXPECT_EQ(line.error, "");
     EXPECT_FALSE(line.isUnattended() || line.counters || line.help || line.version);
 }
 
-TEST(CommandLineTest, ToldOptionsAreInTheHelp)
+TEST(CommandLine, HelpListsEveryOption)
 {
     for (const char* option : {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>",
                                "--screenshot <OUT.png>", "--quit", "--counters", "--help", "--version"})
@@ -51,7 +51,7 @@ TEST(CommandLineTest, ToldOptionsAreInTheHelp)
     EXPECT_TRUE(parse({"--version"}).version);
 }
 
-TEST(CommandLineTest, PassesOverWhatTheToolkitTakes)
+TEST(CommandLine, IgnoresTheOptionsOfQt)
 {
     const CommandLine line = parse({"-platform", "offscreen", "model.glb", "-style", "fusion"});
     EXPECT_EQ(line.error, "");
@@ -67,7 +67,7 @@ class BadCommandLine : public ::testing::TestWithParam<Bad>
 {
 };
 
-TEST_P(BadCommandLine, IsToldInOneSentence)
+TEST_P(BadCommandLine, IsReportedInOneSentence)
 {
     const CommandLine line = parse(GetParam().arguments);
     EXPECT_TRUE(line.error.contains(QLatin1String(GetParam().expected))) << line.error.toStdString();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One gesture, one undo step: with the events that a person's acts make.
+// One gesture, one undo step: with the events that the user's input makes.
 #include "HostParts.h"
 
 #include <gtest/gtest.h>
@@ -98,7 +98,7 @@ TEST_F(Gesture, ADragIsOneStepHoweverManyEditsItMakes)
     EXPECT_EQ(steps(), 1);
 }
 
-TEST_F(Gesture, UndoOfAStepUndoesItsEditsInReverseAndRedoGoesForward)
+TEST_F(Gesture, UndoRunsTheEditsOfAStepInReverseAndRedoInOrder)
 {
     QTest::mousePress(&m_button, Qt::LeftButton);
     edit("between");
@@ -134,7 +134,7 @@ TEST_F(Gesture, ASecondButtonOfTheMouseDoesNotSplitADrag)
     EXPECT_EQ(steps(), 1);
 }
 
-TEST_F(Gesture, WhatComesAfterTheReleaseWasDeliveredIsNotPartOfIt)
+TEST_F(Gesture, AnEditAfterTheReleaseIsNotPartOfIt)
 {
     QTest::mouseClick(&m_button, Qt::LeftButton);
     pump();

@@ -8,10 +8,10 @@
 namespace
 {
 
-class SelectionTest : public ::testing::Test
+class Selecting : public ::testing::Test
 {
 protected:
-    SelectionTest()
+    Selecting()
     {
         QObject::connect(&m_services, &SpxServices::selectedNodeChanged,
                          [this](SoFieldContainer* node) { m_log.push_back("node " + nameOf(node)); });
@@ -25,20 +25,20 @@ protected:
     }
     Log take() { return std::exchange(m_log, {}); }
 
-    Log m_log; // nodes that go at the end are still told
+    Log m_log; // nodes that are destroyed at the end are still reported
     HostServices m_services;
     SoRef<SoMaterial> m_material = new SoMaterial;
     SoRef<SoComplexity> m_complexity = new SoComplexity;
 };
 
-TEST_F(SelectionTest, AFieldBringsItsNode)
+TEST_F(Selecting, AFieldBringsItsNode)
 {
     m_services.select(&m_material->transparency);
     EXPECT_EQ(take(), (Log{"node Material", "field transparency"}));
     EXPECT_EQ(m_services.selectedNode(), m_material.get());
 }
 
-TEST_F(SelectionTest, TheSameIsToldAgain)
+TEST_F(Selecting, ReportsTheSameSelectionAgain)
 {
     m_services.select(&m_material->transparency);
     take();
@@ -51,7 +51,7 @@ TEST_F(SelectionTest, TheSameIsToldAgain)
     EXPECT_EQ(take(), (Log{"node Material", "field transparency"}));
 }
 
-TEST_F(SelectionTest, AnotherNodeDropsTheFieldFirst)
+TEST_F(Selecting, AnotherNodeDropsTheFieldFirst)
 {
     m_services.select(&m_material->transparency);
     take();
@@ -61,7 +61,7 @@ TEST_F(SelectionTest, AnotherNodeDropsTheFieldFirst)
     EXPECT_EQ(take(), (Log{"node none"}));
 }
 
-TEST_F(SelectionTest, NoFieldKeepsTheNode)
+TEST_F(Selecting, NoFieldKeepsTheNode)
 {
     m_services.select(&m_material->transparency);
     take();
@@ -70,7 +70,7 @@ TEST_F(SelectionTest, NoFieldKeepsTheNode)
     EXPECT_EQ(m_services.selectedNode(), m_material.get());
 }
 
-TEST_F(SelectionTest, ASelectionMadeWhileOneIsToldFollowsIt)
+TEST_F(Selecting, QueuesASelectionMadeWhileOneIsReported)
 {
     bool answered = false;
     QObject listener;
@@ -83,7 +83,7 @@ TEST_F(SelectionTest, ASelectionMadeWhileOneIsToldFollowsIt)
               (Log{"node Material", "field transparency", "field none", "node Complexity", "field value"}));
 }
 
-TEST_F(SelectionTest, ASelectedNodeThatNobodyReferencesIsLeftAsItIs)
+TEST_F(Selecting, ASelectedNodeThatNobodyReferencesIsLeftAsItIs)
 {
     auto* loose = new SoMaterial;
     m_services.select(loose);
@@ -93,7 +93,7 @@ TEST_F(SelectionTest, ASelectedNodeThatNobodyReferencesIsLeftAsItIs)
     loose->unref();
 }
 
-TEST_F(SelectionTest, ANodeWithASelectionWaitingForItMayGo)
+TEST_F(Selecting, ANodeWithAQueuedSelectionMayBeDestroyed)
 {
     auto* going = new SoMaterial;
     going->ref();

@@ -20,7 +20,7 @@ void count(void* data, SoSensor*)
     ++*static_cast<int*>(data);
 }
 
-TEST(SensorPumpTest, AFieldSensorFiresOnceATurnHoweverOftenItsFieldChanged)
+TEST(SensorPump, AFieldSensorFiresOnceATurnHoweverOftenItsFieldChanged)
 {
     const SensorPump pump;
     SoRef<SoMaterial> material = new SoMaterial;
@@ -37,7 +37,7 @@ TEST(SensorPumpTest, AFieldSensorFiresOnceATurnHoweverOftenItsFieldChanged)
     EXPECT_EQ(fired, 2);
 }
 
-TEST(SensorPumpTest, ASensorThatTriggersItselfLeavesTheLoopItsOtherEvents)
+TEST(SensorPump, ASensorThatTriggersItselfLeavesTheLoopItsOtherEvents)
 {
     const SensorPump pump;
     SoRef<SoMaterial> material = new SoMaterial;
@@ -61,7 +61,7 @@ TEST(SensorPumpTest, ASensorThatTriggersItselfLeavesTheLoopItsOtherEvents)
     EXPECT_LE(loop.turns, 2);
 }
 
-TEST(SensorPumpTest, WhatWaitedBeforeThePumpCameIsRun)
+TEST(SensorPump, RunsWhatWasQueuedBeforeThePump)
 {
     SoRef<SoMaterial> material = new SoMaterial;
     int fired = 0;
@@ -76,7 +76,7 @@ TEST(SensorPumpTest, WhatWaitedBeforeThePumpCameIsRun)
     EXPECT_EQ(fired, 1);
 }
 
-TEST(SensorPumpTest, TimedAndIdleSensorsRunWithoutAnyOtherEvent)
+TEST(SensorPump, TimedAndIdleSensorsRunWithoutAnyOtherEvent)
 {
     const SensorPump pump;
     int alarms = 0;
@@ -94,7 +94,7 @@ TEST(SensorPumpTest, TimedAndIdleSensorsRunWithoutAnyOtherEvent)
     timer.unschedule();
 }
 
-TEST(SensorPumpTest, AnEarlierAlarmIsNotHeldUpByALaterOne)
+TEST(SensorPump, AnEarlierAlarmIsNotHeldUpByALaterOne)
 {
     const SensorPump pump;
     int late = 0;
@@ -110,7 +110,7 @@ TEST(SensorPumpTest, AnEarlierAlarmIsNotHeldUpByALaterOne)
     EXPECT_EQ(late, 0);
 }
 
-TEST(SensorPumpTest, LeavesAQueueAloneThatTheApplicationDrives)
+TEST(SensorPump, LeavesAQueueAloneThatTheApplicationDrives)
 {
     int wakeUps = 0;
     const auto wakeUp = [](void* data) { ++*static_cast<int*>(data); };

@@ -93,7 +93,7 @@ TEST_F(History, NamesAStepByTheSelectedField)
     EXPECT_EQ(stack().undoText(), "Change Material");
 }
 
-TEST_F(History, AnEditAppliedWhileItsFieldIsLetGoIsNamedByThatField)
+TEST_F(History, AnEditAppliedOnDeselectionIsNamedByThatField)
 {
     SoRef<SoMaterial> material = new SoMaterial;
     SoRef<SoComplexity> other = new SoComplexity;
@@ -109,7 +109,7 @@ TEST_F(History, AnEditAppliedWhileItsFieldIsLetGoIsNamedByThatField)
     EXPECT_EQ(stack().undoText(), "Change Material.transparency");
 }
 
-TEST_F(History, StepsOfANodeGoBeforeTheNodeDoesAndOthersStay)
+TEST_F(History, RemovesTheStepsOfADestroyedNodeAndKeepsOthers)
 {
     SoMaterial* first = newMaterial();
     SoMaterial* second = newMaterial();
@@ -133,7 +133,7 @@ TEST_F(History, StepsOfANodeGoBeforeTheNodeDoesAndOthersStay)
     EXPECT_EQ(stack().count(), 0);
 }
 
-TEST_F(History, AnEditAppliedWhileItsNodeIsLetGoGoesWithThatNode)
+TEST_F(History, AnEditAppliedOnDeselectionIsRemovedWithThatNode)
 {
     SoMaterial* first = newMaterial();
     SoRef<SoComplexity> other = new SoComplexity;
@@ -148,7 +148,7 @@ TEST_F(History, AnEditAppliedWhileItsNodeIsLetGoGoesWithThatNode)
     EXPECT_EQ(stack().count(), 0);
 }
 
-TEST_F(History, TheSelectedNodeMayGoWhileItIsEdited)
+TEST_F(History, TheSelectedNodeMayBeDestroyedWhileItIsEdited)
 {
     SoMaterial* material = newMaterial();
     setTransparency(*material, 0.5F);
@@ -168,7 +168,7 @@ TEST_F(History, TheSelectedNodeMayGoWhileItIsEdited)
     EXPECT_EQ(stack().count(), 0);
 }
 
-TEST_F(History, AStepThatMayTouchAnythingGoesWithAnyNode)
+TEST_F(History, AStepThatMayTouchAnythingIsRemovedWithAnyNode)
 {
     log("who knows what");
     SoMaterial* material = newMaterial();
@@ -191,7 +191,7 @@ TEST_F(History, AStepMayComeToTouchAnythingByALaterCommand)
     EXPECT_EQ(stack().count(), 0);
 }
 
-TEST_F(History, WhatAGestureDoesAfterSavingIsAStepOfItsOwn)
+TEST_F(History, SavingSplitsAGestureIntoTwoSteps)
 {
     SoRef<SoMaterial> material = new SoMaterial;
     QWidget widget;
@@ -213,7 +213,7 @@ TEST_F(History, AStepThatTouchesAnotherNodeOutlivesAFreshInstance)
     EXPECT_EQ(stack().count(), 1);
 }
 
-TEST_F(History, ANodeMayGoInsideAnUndo)
+TEST_F(History, ANodeMayBeDestroyedInsideAnUndo)
 {
     SoMaterial* material = newMaterial();
     setTransparency(*material, 0.5F);
@@ -225,7 +225,7 @@ TEST_F(History, ANodeMayGoInsideAnUndo)
     EXPECT_FALSE(stack().canUndo());
 }
 
-TEST_F(History, AStepWhoseNodeGoesInItsMiddleStopsThere)
+TEST_F(History, AStepStopsWhereItsNodeIsDestroyed)
 {
     SoMaterial* material = newMaterial();
     m_services.select(material);
@@ -268,7 +268,7 @@ TEST_F(History, ACommandHandedOverInsideAnUndoIsKeptATurnLater)
     EXPECT_EQ(m_log.back(), "undo inner");
 }
 
-TEST_F(History, ACommandThatThrowsIsToldAndDropped)
+TEST_F(History, ACommandThatThrowsIsReportedAndDropped)
 {
     QSignalSpy failures(&m_services, &HostServices::commandFailed);
     m_services.executeCommand(new Throwing(m_log, "execute"));
@@ -283,7 +283,7 @@ TEST_F(History, ACommandThatThrowsIsToldAndDropped)
 
 // What was saved and what was not must not be mixed up by steps that go, or edits would be lost without a
 // question.
-TEST_F(History, TheSavedStateIsKeptWhereAStepBeforeItGoes)
+TEST_F(History, RemovingAStepBeforeTheSavedStateKeepsIt)
 {
     SoMaterial* gone = newMaterial();
     SoRef<SoMaterial> stays = new SoMaterial;
@@ -300,7 +300,7 @@ TEST_F(History, TheSavedStateIsKeptWhereAStepBeforeItGoes)
     EXPECT_TRUE(stack().isClean());
 }
 
-TEST_F(History, AStepThatGoesAfterSavingLeavesUnsavedEdits)
+TEST_F(History, AStepRemovedAfterSavingLeavesUnsavedEdits)
 {
     for (const bool undone : {false, true}) {
         SoMaterial* gone = newMaterial();
@@ -318,7 +318,7 @@ TEST_F(History, AStepThatGoesAfterSavingLeavesUnsavedEdits)
     }
 }
 
-TEST_F(History, AStepBeyondTheSavedStateMayGo)
+TEST_F(History, AStepBeyondTheSavedStateMayBeRemoved)
 {
     SoMaterial* gone = newMaterial();
     SoRef<SoMaterial> stays = new SoMaterial;
@@ -344,7 +344,7 @@ TEST_F(History, ForgettingTheStepsForgetsNoEdits)
     EXPECT_TRUE(stack().isClean());
 }
 
-TEST_F(History, TellsEveryAct)
+TEST_F(History, ReportsEveryAction)
 {
     QSignalSpy acted(&m_services.history(), &UndoHistory::acted);
     SoRef<SoMaterial> material = new SoMaterial;
@@ -355,13 +355,13 @@ TEST_F(History, TellsEveryAct)
     EXPECT_EQ(acted.count(), 1);
     setTransparency(*material, 0.5F);
     ASSERT_EQ(stack().count(), 1);
-    EXPECT_EQ(acted.count(), 2) << "one that goes into the same step too";
+    EXPECT_EQ(acted.count(), 2) << "one that joins the same step too";
     QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
     stack().undo();
     EXPECT_EQ(acted.count(), 3);
 }
 
-TEST_F(History, NoCommandIsNothing)
+TEST_F(History, IgnoresANullCommand)
 {
     m_services.executeCommand(nullptr);
     EXPECT_EQ(stack().count(), 0);

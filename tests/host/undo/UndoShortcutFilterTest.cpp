@@ -12,10 +12,10 @@ using namespace scopix;
 namespace
 {
 
-class UndoKeysTest : public ::testing::Test
+class UndoKeys : public ::testing::Test
 {
 protected:
-    UndoKeysTest()
+    UndoKeys()
     {
         auto* centre = new QWidget(&m_window);
         auto* layout = new QVBoxLayout(centre);
@@ -31,7 +31,7 @@ protected:
         m_services.executeCommand(new LoggingCommand(m_log, "edit"));
         m_log.clear();
     }
-    ~UndoKeysTest() override
+    ~UndoKeys() override
     {
         m_dock.setWidget(nullptr);
         for (QWidget* widget :
@@ -58,7 +58,7 @@ protected:
 
 const Log UndoneAndRedone{"undo edit", "redo edit"};
 
-TEST_F(UndoKeysTest, BelongToTheHostInALineEditThatHoldsNoTyping)
+TEST_F(UndoKeys, BelongToTheHostInALineEditThatHoldsNoTyping)
 {
     m_line.setText("shown");
     undoAndRedoIn(m_line);
@@ -66,7 +66,7 @@ TEST_F(UndoKeysTest, BelongToTheHostInALineEditThatHoldsNoTyping)
     EXPECT_EQ(m_line.text(), "shown");
 }
 
-TEST_F(UndoKeysTest, BelongToTheHostInATableASpinBoxAndAFloatingDock)
+TEST_F(UndoKeys, BelongToTheHostInATableASpinBoxAndAFloatingDock)
 {
     undoAndRedoIn(m_table);
     EXPECT_EQ(m_log, UndoneAndRedone);
@@ -80,7 +80,7 @@ TEST_F(UndoKeysTest, BelongToTheHostInATableASpinBoxAndAFloatingDock)
 }
 
 // The console is such a text: it changes all the time, and nobody types into it.
-TEST_F(UndoKeysTest, BelongToTheHostInATextThatCannotBeTypedInto)
+TEST_F(UndoKeys, BelongToTheHostInATextThatCannotBeTypedInto)
 {
     auto* text = new QTextEdit;
     text->setReadOnly(true);
@@ -92,7 +92,7 @@ TEST_F(UndoKeysTest, BelongToTheHostInATextThatCannotBeTypedInto)
     delete text;
 }
 
-TEST_F(UndoKeysTest, BelongToTheInputWhileItHoldsTypingThatIsNotApplied)
+TEST_F(UndoKeys, BelongToTheInputWhileItHoldsTypingThatIsNotApplied)
 {
     m_line.setFocus();
     QTest::keyClicks(&m_line, "12");
@@ -106,7 +106,7 @@ TEST_F(UndoKeysTest, BelongToTheInputWhileItHoldsTypingThatIsNotApplied)
     EXPECT_EQ(m_log, (Log{"undo edit"}));
 }
 
-TEST_F(UndoKeysTest, BelongToTheHostAlsoWhenThereIsNothingToUndo)
+TEST_F(UndoKeys, BelongToTheHostAlsoWhenThereIsNothingToUndo)
 {
     m_services.history().clear();
     m_line.setFocus();
@@ -116,7 +116,7 @@ TEST_F(UndoKeysTest, BelongToTheHostAlsoWhenThereIsNothingToUndo)
     EXPECT_EQ(m_line.text(), "12");
 }
 
-TEST_F(UndoKeysTest, AReadOnlyInputHasNoTypingToTakeBack)
+TEST_F(UndoKeys, AReadOnlyInputHasNoTypingToTakeBack)
 {
     m_line.setModified(true);
     m_line.setReadOnly(true);
@@ -124,7 +124,7 @@ TEST_F(UndoKeysTest, AReadOnlyInputHasNoTypingToTakeBack)
     EXPECT_EQ(m_log, UndoneAndRedone);
 }
 
-TEST_F(UndoKeysTest, AreLeftAloneInAnotherWindowAndInAModalDialog)
+TEST_F(UndoKeys, AreLeftAloneInAnotherWindowAndInAModalDialog)
 {
     QLineEdit elsewhere;
     elsewhere.show();
@@ -137,7 +137,7 @@ TEST_F(UndoKeysTest, AreLeftAloneInAnotherWindowAndInAModalDialog)
     EXPECT_TRUE(m_log.empty());
 }
 
-TEST_F(UndoKeysTest, UndoOnceThoughTheMenuHasTheSameShortcut)
+TEST_F(UndoKeys, UndoOnceThoughTheMenuHasTheSameShortcut)
 {
     QAction* undo = m_services.undoStack().createUndoAction(&m_window);
     undo->setShortcut(Qt::CTRL | Qt::Key_Z);

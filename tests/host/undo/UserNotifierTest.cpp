@@ -23,7 +23,7 @@ bool starts(const std::string& text, const std::string& with)
     return text.compare(0, with.size(), with) == 0;
 }
 
-TEST(MessagesTest, AnErrorGoesToStandardErrorAndToTheStatusBar)
+TEST(Messages, AnErrorIsWrittenToStandardErrorAndTheStatusBar)
 {
     UserNotifier notifier;
     notifier.setAttended(false);
@@ -36,7 +36,7 @@ TEST(MessagesTest, AnErrorGoesToStandardErrorAndToTheStatusBar)
     EXPECT_FALSE(openBox());
 }
 
-TEST(MessagesTest, InformationIsNoError)
+TEST(Messages, InformationIsNoError)
 {
     UserNotifier notifier;
     QSignalSpy told(&notifier, &UserNotifier::told);
@@ -45,7 +45,7 @@ TEST(MessagesTest, InformationIsNoError)
     EXPECT_EQ(notifier.errorCount(), 0);
 }
 
-TEST(MessagesTest, APersonGetsOneBoxForAllThatGoesWrong)
+TEST(Messages, AttendedSessionsShowAllErrorsInOneBox)
 {
     UserNotifier notifier;
     notifier.error("First.");
@@ -58,14 +58,14 @@ TEST(MessagesTest, APersonGetsOneBoxForAllThatGoesWrong)
     EXPECT_EQ(openBox()->text(), "Third.");
 }
 
-class WithoutAPerson : public ::testing::Test
+class Unattended : public ::testing::Test
 {
 protected:
-    WithoutAPerson() { m_messages.setAttended(false); }
+    Unattended() { m_messages.setAttended(false); }
     UserNotifier m_messages;
 };
 
-TEST_F(WithoutAPerson, EveryMessageBoxIsClosedAndPrinted)
+TEST_F(Unattended, EveryMessageBoxIsClosedAndPrinted)
 {
     ::testing::internal::CaptureStderr();
     const auto answer = QMessageBox::warning(nullptr, "Title", "The <b>file</b> is gone.");
@@ -73,7 +73,7 @@ TEST_F(WithoutAPerson, EveryMessageBoxIsClosedAndPrinted)
     EXPECT_EQ(answer, QMessageBox::Ok);
 }
 
-TEST_F(WithoutAPerson, AQuestionIsAnsweredByWhatChangesNothing)
+TEST_F(Unattended, AQuestionIsAnsweredByWhatChangesNothing)
 {
     ::testing::internal::CaptureStderr();
     EXPECT_EQ(QMessageBox::question(nullptr, "", "Overwrite?", QMessageBox::Yes | QMessageBox::Cancel),
@@ -83,7 +83,7 @@ TEST_F(WithoutAPerson, AQuestionIsAnsweredByWhatChangesNothing)
     ::testing::internal::GetCapturedStderr();
 }
 
-TEST_F(WithoutAPerson, ABoxWithoutAnyWayOutIsClosedToo)
+TEST_F(Unattended, ABoxWithoutAnyWayOutIsClosedToo)
 {
     QMessageBox box;
     box.setText("No way out.");

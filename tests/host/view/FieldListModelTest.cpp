@@ -113,7 +113,7 @@ TEST_F(FieldList, ShowsColoursAsPatches)
     EXPECT_EQ(patch(material->emissiveColor).pixelColor(7, 7), QColor(Qt::green));
 }
 
-TEST_F(FieldList, EmptiesItselfBeforeItsNodeGoes)
+TEST_F(FieldList, EmptiesItselfBeforeItsNodeIsDestroyed)
 {
     material->transparency.setValue(0.5F);
     material = SoRef<SoMaterial>();
@@ -221,7 +221,7 @@ protected:
     std::vector<SoField*> selected;
 };
 
-TEST_F(FieldListSelection, TellsWhatThePersonClicks)
+TEST_F(FieldListSelection, ReportsWhatTheUserClicks)
 {
     const QRect row = view.visualRect(view.getModel().indexOf(&material->transparency));
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, row.center());
@@ -229,7 +229,7 @@ TEST_F(FieldListSelection, TellsWhatThePersonClicks)
     EXPECT_EQ(selected[0], &material->transparency);
 }
 
-TEST_F(FieldListSelection, ShowingAFieldBringsItsNodeAndTellsNothing)
+TEST_F(FieldListSelection, ShowingAFieldShowsItsNodeAndReportsNothing)
 {
     SoRef<SoPoints> points(new SoPoints);
     view.showField(&points->points);

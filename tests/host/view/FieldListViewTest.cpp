@@ -12,7 +12,7 @@ using namespace scopix;
 namespace
 {
 
-class FieldListViewTest : public testing::Test
+class FieldListColumns : public testing::Test
 {
 protected:
     void show(int width, int pointSize)
@@ -42,7 +42,7 @@ protected:
 
 } // namespace
 
-TEST_F(FieldListViewTest, ShowsEveryColumnWithoutScrollingSideways)
+TEST_F(FieldListColumns, ShowsEveryColumnWithoutScrollingSideways)
 {
     for (const int pointSize : {9, 14, 30}) {
         for (const int width : {200, 330, 900}) {
@@ -57,7 +57,7 @@ TEST_F(FieldListViewTest, ShowsEveryColumnWithoutScrollingSideways)
     EXPECT_EQ(view.textElideMode(), Qt::ElideRight);
 }
 
-TEST_F(FieldListViewTest, GivesNamesAndTypesWhatTheyNeedWhereThereIsRoom)
+TEST_F(FieldListColumns, GivesNamesAndTypesWhatTheyNeedWhereThereIsRoom)
 {
     show(2000, 9);
     EXPECT_EQ(widthOf(FieldListModel::NameColumn), neededBy(FieldListModel::NameColumn));
@@ -71,7 +71,7 @@ TEST_F(FieldListViewTest, GivesNamesAndTypesWhatTheyNeedWhereThereIsRoom)
     EXPECT_LT(widthOf(FieldListModel::TypeColumn), type) << "another node, other widths";
 }
 
-TEST_F(FieldListViewTest, ToolTipHasWhatIsCutOff)
+TEST_F(FieldListColumns, ToolTipHasWhatIsCutOff)
 {
     show(200, 14);
     const QModelIndex index = view.getModel().indexOf(&gallery->sfFilePathString);

@@ -97,7 +97,7 @@ TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
     EXPECT_TRUE(told.last().contains("nowhere/tuned.xsg")) << qPrintable(told.last());
 }
 
-TEST_F(Window, ABadSceneFileLeavesWhatWasOpen)
+TEST_F(Window, ABadSceneFileKeepsTheOpenScene)
 {
     SoNode* scene = window.getScene();
     QFile file(folder.filePath("bad.xsg"));
@@ -116,7 +116,7 @@ TEST_F(Window, SelectsByTypeTheFirstThatIsFound)
     EXPECT_STREQ(services.selectedNode()->getName().getString(), "Slate");
 }
 
-TEST_F(Window, SaysWhatCannotBeSelected)
+TEST_F(Window, ReportsWhatCannotBeSelected)
 {
     EXPECT_FALSE(window.selectField("Nobody", "x"));
     EXPECT_TRUE(told.value(0).contains("Nobody")) << qPrintable(told.join('|'));
@@ -125,7 +125,7 @@ TEST_F(Window, SaysWhatCannotBeSelected)
     EXPECT_EQ(notifier.errorCount(), 2);
 }
 
-TEST_F(Window, WhatCannotBeOpenedLeavesWhatWasOpen)
+TEST_F(Window, AFileThatCannotBeOpenedKeepsTheOpenScene)
 {
     ASSERT_TRUE(open(shippedModel("crate.gltf")));
     SoNode* scene = window.getScene();
@@ -278,7 +278,7 @@ TEST_F(Window, ScreenshotShowsTheWindowWithItsPicture)
     EXPECT_GT(colors.size(), 50);
 }
 
-TEST_F(Window, ScreenshotThatCannotBeWrittenIsTold)
+TEST_F(Window, ReportsAScreenshotThatCannotBeWritten)
 {
     const QString path = folder.filePath("nowhere/shot.png");
     EXPECT_FALSE(window.saveScreenshot(path));

@@ -144,7 +144,7 @@ TEST_F(SceneWithCamera, StandsWhereItsTransformsPutIt)
     EXPECT_TRUE(isNear(seen().position.getValue(), {21, 5, 3})) << "it follows what carries its camera";
 }
 
-TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
+TEST_F(SceneWithCamera, UsesTheFirstActiveCamera)
 {
     auto* choice = new SoSwitch;
     SoRef<SoPerspectiveCamera> first(new SoPerspectiveCamera);
@@ -166,8 +166,8 @@ TEST_F(SceneWithCamera, TheFirstThatCountsIsTaken)
     EXPECT_TRUE(seesThrough(*first));
 }
 
-// How far away what is chosen by distance is, only the camera could tell that is looked for in it.
-TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
+// The choice depends on the distance to the camera, which is not known while the camera is being searched.
+TEST_F(SceneWithCamera, FindsACameraInALevelOfDetail)
 {
     auto* choice = new SoLevelOfDetail;
     choice->distances.setValue(100);
@@ -179,7 +179,7 @@ TEST_F(SceneWithCamera, OneThatIsChosenByDistanceCounts)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, HomeGoesBackToIt)
+TEST_F(SceneWithCamera, HomeReturnsToIt)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -214,7 +214,7 @@ TEST_F(SceneWithCamera, LookingAroundLeavesTheSceneAlone)
     EXPECT_NE(&seen(), camera.get());
 }
 
-TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
+TEST_F(SceneWithCamera, IsFollowedUntilTheUserLooksAround)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -230,7 +230,7 @@ TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
     const SoCamera* same = &seen();
     cube->width.setValue(1);
     EXPECT_NE(picture(), before);
-    EXPECT_EQ(&seen(), same) << "for another camera the renderer would look at the whole scene anew";
+    EXPECT_EQ(&seen(), same) << "for another camera the renderer would traverse the whole scene again";
 
     QTest::keyClick(&view, Qt::Key_Left);
     const QImage moved = picture();
@@ -241,7 +241,7 @@ TEST_F(SceneWithCamera, IsFollowedUntilThePersonLooksAround)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, TakenOutAndPutBackItIsFollowedAgain)
+TEST_F(SceneWithCamera, IsFollowedAgainOncePutBack)
 {
     view.setScene(scene.get());
     const QImage before = picture();
@@ -253,7 +253,7 @@ TEST_F(SceneWithCamera, TakenOutAndPutBackItIsFollowedAgain)
     EXPECT_TRUE(seesThrough(*camera));
 }
 
-TEST_F(SceneWithCamera, OneThatComesLaterMovesNothing)
+TEST_F(SceneWithCamera, ACameraAddedLaterKeepsTheView)
 {
     scene->removeChild(0);
     view.setScene(scene.get());
@@ -277,10 +277,11 @@ TEST_F(SceneWithCamera, TheViewTurnsAroundTheScene)
     camera->focalDistance.setValue(299.5F);
     QTest::keyClick(&view, Qt::Key_Home);
     QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_TRUE(isNear(seen().getFocalPoint(), {0, 0, 0.5F}, 1e-3F)) << "a point within the scene is meant";
+    EXPECT_TRUE(isNear(seen().getFocalPoint(), {0, 0, 0.5F}, 1e-3F))
+        << "the focal point must lie within the scene";
 }
 
-TEST_F(SceneWithCamera, OneThatSeesNothingOfTheSceneIsNotLookedThrough)
+TEST_F(SceneWithCamera, IgnoresACameraThatSeesNothingOfTheScene)
 {
     camera->position.setValue(0, 0, 9);
     camera->orientation.setValue(SbRotation({0, 1, 0}, 3.1415927F));

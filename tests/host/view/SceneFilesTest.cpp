@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does with files, in the window.
+// What a user does with files, in the window.
 #include "services/HostServices.h"
 #include "support/SetText.h"
 #include "support/UserNotifier.h"
@@ -65,7 +65,7 @@ auto answer(const QString& button)
     };
 }
 
-// A program's window with a person before it, as HostApplication sets it up.
+// A program's window in an attended session, as HostApplication sets it up.
 struct Program {
     Program()
     {
@@ -221,7 +221,7 @@ TEST_F(Files, DiscardDropsTheEdits)
     EXPECT_FALSE(program->window.isWindowModified());
 }
 
-TEST_F(Files, SaveKeepsTheEditsAndGoesOn)
+TEST_F(Files, SaveKeepsTheEditsAndContinues)
 {
     const QString path = openScene();
     program->edit("Planks", "transparency", "0.5");
@@ -232,7 +232,7 @@ TEST_F(Files, SaveKeepsTheEditsAndGoesOn)
     EXPECT_TRUE(contentOf(path).contains("transparency: 0.5"));
 }
 
-TEST_F(Files, WhatCannotBeSavedIsNotDropped)
+TEST_F(Files, AFailedSaveKeepsTheEdits)
 {
     QDir(home.path()).mkdir("gone");
     openScene("gone/scene.xsg");
@@ -246,7 +246,7 @@ TEST_F(Files, WhatCannotBeSavedIsNotDropped)
     EXPECT_EQ(program->value("Planks", "transparency"), "0.5");
 }
 
-TEST_F(Files, NobodyIsAskedWithoutEditsOrWithoutAPerson)
+TEST_F(Files, AsksNothingWithoutEditsOrWhenUnattended)
 {
     openScene();
     WithDialog none([](QDialog& dialog) { dialog.reject(); });
@@ -291,7 +291,7 @@ TEST_F(Files, AModelIsSavedUnderANewName)
     EXPECT_EQ(program->document().getTitle(), "mine.xsg");
 }
 
-TEST_F(Files, NoNameIsNotSaved)
+TEST_F(Files, CancellingTheNameSavesNothing)
 {
     ASSERT_TRUE(program->open(shipped("crate.gltf")));
     program->edit("Planks", "transparency", "0.5");
@@ -344,7 +344,7 @@ TEST_F(Files, RecentOnesAreOfferedAndOpened)
     EXPECT_TRUE(program->window.getFiles().getRecent().list().isEmpty());
 }
 
-TEST_F(Files, ARecentFileThatIsGoneIsNamedAndTakenOut)
+TEST_F(Files, AMissingRecentFileIsReportedAndRemoved)
 {
     const QString path = openScene();
     ASSERT_TRUE(program->open(shipped("rainbow.ply")));
@@ -355,7 +355,7 @@ TEST_F(Files, ARecentFileThatIsGoneIsNamedAndTakenOut)
     EXPECT_FALSE(program->window.getFiles().getRecent().list().contains(path));
 }
 
-TEST_F(Files, WithoutAPersonNothingIsRemembered)
+TEST_F(Files, UnattendedSessionsRememberNothing)
 {
     program->notifier.setAttended(false);
     openScene();
@@ -389,7 +389,7 @@ TEST_F(Files, ACrashLosesNothing)
     EXPECT_FALSE(QFileInfo::exists(home.filePath("scopix/recovery")));
 }
 
-TEST_F(Files, WhatIsDiscardedAfterACrashIsNotOfferedAgain)
+TEST_F(Files, OffersDiscardedEditsOfACrashOnlyOnce)
 {
     openScene();
     program->window.enterInteractiveMode();
@@ -410,7 +410,7 @@ TEST_F(Files, WhatIsDiscardedAfterACrashIsNotOfferedAgain)
     EXPECT_FALSE(none.hasCome());
 }
 
-TEST_F(Files, WhatALivingSessionKeepsIsItsOwn)
+TEST_F(Files, DoesNotOfferTheFilesOfARunningSession)
 {
     openScene();
     program->window.enterInteractiveMode();

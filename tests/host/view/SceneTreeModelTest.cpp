@@ -100,7 +100,7 @@ TEST_F(SceneTree, FollowsNames)
     EXPECT_EQ(changed.count(), 2);
 }
 
-TEST_F(SceneTree, DoesNotStirForFields)
+TEST_F(SceneTree, IgnoresFieldChanges)
 {
     SoRef<SoTransform> transform(new SoTransform);
     first->addChild(transform.get());
@@ -111,7 +111,7 @@ TEST_F(SceneTree, DoesNotStirForFields)
     EXPECT_EQ(changed.count(), 0);
 }
 
-TEST_F(SceneTree, TellsWhenAnUnopenedGroupGetsItsFirstChildOrLosesItsLast)
+TEST_F(SceneTree, ReportsTheFirstAndTheLastChildOfAClosedGroup)
 {
     SceneTreeModel unopened; // the tester would open every group
     unopened.setRoot(root.get());
@@ -273,7 +273,7 @@ TEST(SceneTreeDepth, TakesDownRowsNestedDeeperThanTheStack)
 {
     const auto root = named("root");
     const auto deepest = named("deepest");
-    SoRef<SoSeparator> top = deepest; // built from below, so that no addition has far to tell
+    SoRef<SoSeparator> top = deepest; // built from below, so that no addition notifies many ancestors
     for (int i = 0; i < 100000; ++i) {
         SoRef<SoSeparator> above(new SoSeparator);
         above->addChild(top.get());
@@ -315,14 +315,14 @@ protected:
     std::vector<SoNode*> selected;
 };
 
-TEST_F(SceneTreeSelection, TellsWhatThePersonClicks)
+TEST_F(SceneTreeSelection, ReportsWhatTheUserClicks)
 {
     click(row(1));
     ASSERT_EQ(selected.size(), 1U);
     EXPECT_EQ(selected[0], second.get());
 }
 
-TEST_F(SceneTreeSelection, ShowingANodeTellsNothing)
+TEST_F(SceneTreeSelection, ShowingANodeReportsNothing)
 {
     view.showNode(second.get());
     EXPECT_EQ(view.currentIndex(), row(1));

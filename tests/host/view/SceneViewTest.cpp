@@ -174,7 +174,7 @@ TEST_F(View, MovingCarriesWhatIsUnderThePointerAlong)
     EXPECT_TRUE(picked.empty());
 }
 
-TEST_F(View, TheWheelComesNearerToThePointer)
+TEST_F(View, TheWheelZoomsAtThePointer)
 {
     const SbVec3f target(-2, 0, 1);
     const QPoint at = placeOf(target);
@@ -194,7 +194,7 @@ TEST_F(View, HomeShowsEverythingAgain)
     EXPECT_EQ(picture(), before);
 }
 
-TEST_F(View, HomeLooksAsAtFirst)
+TEST_F(View, HomeRestoresTheInitialView)
 {
     const QImage before = picture();
     drag(Qt::LeftButton, {150, 100}, {220, 130});
@@ -226,7 +226,7 @@ TEST_F(View, ArrowKeysTurnAndMove)
     }
 }
 
-TEST_F(View, PlusAndMinusComeNearerAndGoAway)
+TEST_F(View, PlusAndMinusZoom)
 {
     const auto distance = [this] { return view.getCamera().focalDistance.getValue(); };
     const float before = distance();
@@ -260,7 +260,7 @@ TEST_F(View, WireframeShowsEdgesOnly)
     EXPECT_EQ(picture(), before);
 }
 
-TEST_F(View, StatisticsTellOfThePictureAndComeToRest)
+TEST_F(View, StatisticsDescribeThePictureAndStopRedrawing)
 {
     auto* text = view.findChild<QLabel*>("statistics");
     ASSERT_TRUE(text);
@@ -281,7 +281,7 @@ TEST_F(View, StatisticsTellOfThePictureAndComeToRest)
     EXPECT_FALSE(text->isVisible());
 }
 
-TEST_F(View, DrawsWithoutAPauseOnlyWhileSomethingTurns)
+TEST_F(View, DrawsContinuouslyOnlyWhileSomethingTurns)
 {
     picture();
     EXPECT_FALSE(view.isAnimating());
@@ -330,7 +330,7 @@ TEST_F(View, DrawsWithoutAPauseOnlyWhileSomethingTurns)
     EXPECT_TRUE(rests());
 }
 
-TEST_F(View, WhatTurnsElsewhereIsNoneOfItsBusiness)
+TEST_F(View, IgnoresAnimationsOfOtherScenes)
 {
     SoRef<SoSeparator> other(new SoSeparator);
     auto* spin = new SoSpin;
@@ -344,7 +344,7 @@ TEST_F(View, WhatTurnsElsewhereIsNoneOfItsBusiness)
     EXPECT_EQ(spin->time.getValue(), SbTime(1.0));
 }
 
-TEST_F(View, AResizedWindowKeepsEverythingInSightUntilThePersonMoves)
+TEST_F(View, AResizedWindowKeepsEverythingInSightUntilTheUserMoves)
 {
     view.resize(120, 400);
     picture();

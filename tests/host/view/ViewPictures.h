@@ -12,7 +12,7 @@
 
 using namespace scopix;
 
-/// As it is once everything that changed has been told.
+/// As it is once all changes have been delivered.
 inline QImage pictureOf(SceneView& view)
 {
     SoSensorQueue::getInstance().process();

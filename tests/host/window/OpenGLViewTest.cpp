@@ -37,7 +37,7 @@ protected:
         Session::settle();
         return opened;
     }
-    // What a person sees in the view: the screen's own pixels.
+    // What the user sees in the view: the screen's own pixels.
     QImage onScreen()
     {
         const QRect place(surface()->mapTo(&window(), QPoint()), surface()->size());
@@ -47,7 +47,7 @@ protected:
     {
         return QTest::qWaitFor([&] { return onScreen() == picture; });
     }
-    // The picture that differs from this one and that the screen goes on showing.
+    // The first picture that differs from this one and stays on the screen.
     QImage waitForAnotherThan(const QImage& picture)
     {
         QImage last;

@@ -39,10 +39,10 @@ private:
     std::streambuf* m_previous;
 };
 
-class ConsoleTest : public ::testing::Test
+class ConsoleFixture : public ::testing::Test
 {
 protected:
-    ~ConsoleTest() override
+    ~ConsoleFixture() override
     {
         m_host.stop(m_console);
         qunsetenv("XSG_CONSOLE_MAX_LINES");

@@ -72,7 +72,7 @@ private:
     QEvent::Type m_type;
 };
 
-class ConsoleFlood : public ConsoleTest
+class ConsoleFlood : public ConsoleFixture
 {
 protected:
     QTextDocument& document() { return *output().document(); }
@@ -135,7 +135,7 @@ TEST_F(ConsoleFlood, HoldsNoMoreThanTheNewestLines)
         EXPECT_TRUE(std::is_sorted(numbers.begin(), numbers.end())) << who.toStdString();
 }
 
-TEST_F(ConsoleFlood, LetsAPersonGoOnWorking)
+TEST_F(ConsoleFlood, KeepsTheWindowResponsive)
 {
     holdLines(1000);
     auto* name = new QLineEdit;
@@ -165,7 +165,7 @@ TEST_F(ConsoleFlood, LetsAPersonGoOnWorking)
     EXPECT_FALSE(button("m_errorsButton").isChecked());
 }
 
-TEST_F(ConsoleFlood, OfAKindThatIsSwitchedOffPushesNothingOut)
+TEST_F(ConsoleFlood, OfAHiddenKindDiscardsNoOtherLines)
 {
     holdLines(100);
     start();

@@ -51,7 +51,7 @@ std::vector<Handler> handlers()
     return handlersOf<SoDebugError, SoError, SoErrorStack, SoGLError, SoMemoryError, SoReadError>();
 }
 
-class ConsoleLoad : public ConsoleTest
+class ConsoleLoad : public ConsoleFixture
 {
 protected:
     bool waitForText(const QString& wanted)
@@ -148,7 +148,7 @@ TEST_F(ConsoleLoad, AnAnswerToEveryPrintLeavesTheLoopTurning)
     QObject::disconnect(&output(), nullptr, nullptr, nullptr);
 }
 
-TEST_F(ConsoleLoad, LosesNothingWhileItComesAndGoes)
+TEST_F(ConsoleLoad, LosesNothingWhileActivatedAndDeactivated)
 {
     CountingBuffer outside;
     std::streambuf* const before = std::cout.rdbuf(&outside);

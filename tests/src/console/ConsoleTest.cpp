@@ -40,7 +40,7 @@ void fill(const QString& name, const QByteArray& content)
     file.write(content);
 }
 
-class Console : public ConsoleTest
+class Console : public ConsoleFixture
 {
 protected:
     // How many of the shown pixels are so.
@@ -58,7 +58,7 @@ protected:
 
 } // namespace
 
-TEST_F(Console, TellsWhoItIs)
+TEST_F(Console, HasItsNames)
 {
     EXPECT_EQ(m_console.getName(), "Console");
     EXPECT_EQ(m_console.getDescription(), "A console which prints the standard output and error.");
@@ -422,7 +422,7 @@ TEST_F(Console, PaintsItsColoursLightOnADarkBackground)
     EXPECT_GT(pixels([](const QColor& c) { return c == QColor(Qt::white); }), 20);
 }
 
-TEST_F(Console, FollowsTheEndUntilThePersonScrollsAway)
+TEST_F(Console, FollowsTheEndUntilTheUserScrollsAway)
 {
     start();
     QScrollBar& bar = *output().verticalScrollBar();
@@ -441,7 +441,7 @@ TEST_F(Console, FollowsTheEndUntilThePersonScrollsAway)
     EXPECT_EQ(bar.value(), bar.maximum());
 }
 
-TEST_F(Console, KeepsWhatIsLookedAtInItsPlaceWhileOldLinesGo)
+TEST_F(Console, KeepsTheVisibleLinesInPlaceWhileOldOnesAreRemoved)
 {
     holdLines(300);
     start();
@@ -524,7 +524,7 @@ TEST_F(Console, RefusesALimitThatIsNoNumberOfLines)
     EXPECT_EQ(output().document()->maximumBlockCount(), 100000);
 }
 
-TEST_F(Console, HoldsAHundredThousandLinesUnlessTold)
+TEST_F(Console, HoldsAHundredThousandLinesByDefault)
 {
     start();
     EXPECT_EQ(output().document()->maximumBlockCount(), 100000);

@@ -24,7 +24,7 @@ std::string textOf(const SoField& field)
     return text.str();
 }
 
-// A list that writes down how it is told of changes and asked to open and close places.
+// A list that records its notifications and the calls that insert and remove elements.
 class WatchedList : public SoMFInt32
 {
 public:
@@ -211,7 +211,7 @@ TEST(SetDefaultCommand, ServesListsOfAnyLength)
 
 // --- Rows
 
-TEST(AddRowsCommand, OpensPlacesAndTakesThemBack)
+TEST(AddRowsCommand, InsertsRowsAndUndoRemovesThem)
 {
     WatchedList field{1, 2, 3};
     SpxMFAddRowsCommand command(&field, 1, 2);
@@ -246,7 +246,7 @@ TEST(AddRowsCommand, RedoForgetsWhatWasTypedIntoTheNewRows)
     EXPECT_EQ(textOf(field), "[ 1, 0, 2 ]");
 }
 
-TEST(AddRowsCommand, OfNoRowsStillTellsOfAllValues)
+TEST(AddRowsCommand, NotifiesOfAllValuesEvenForNoRows)
 {
     WatchedList field{1, 2, 3};
     SpxMFAddRowsCommand command(&field, 1, 0);
@@ -258,7 +258,7 @@ TEST(AddRowsCommand, OfNoRowsStillTellsOfAllValues)
     EXPECT_EQ(textOf(field), "[ 1, 2, 3 ]");
 }
 
-TEST(AddRowsCommand, TellsOfAllValuesOnceTheyAreThere)
+TEST(AddRowsCommand, NotifiesOfAllValuesAfterInsertion)
 {
     SoMFInt32 field;
     SoMFInt32 follower;
@@ -268,7 +268,7 @@ TEST(AddRowsCommand, TellsOfAllValuesOnceTheyAreThere)
     EXPECT_EQ(follower.getNum(), 3);
 }
 
-TEST(DeleteRowsCommand, BringsBackTheValuesInTheirPlaces)
+TEST(DeleteRowsCommand, UndoRestoresTheValuesInTheirPlaces)
 {
     WatchedList field{1, 2, 3, 4};
     SpxMFDeleteRowsCommand command(&field, 1, 2);

@@ -43,7 +43,7 @@ struct Docked {
     }
 
     Dock extension;
-    TestHost host; // goes first, and unloads the extension
+    TestHost host; // destroyed first, and unloads the extension
     QDockWidget* dock = nullptr;
 };
 
@@ -66,7 +66,7 @@ protected:
 
 // --- Life of the dock, the same for both
 
-TEST(EditorDock, TellsItsNames)
+TEST(EditorDock, HasItsNames)
 {
     const SpxFieldEditorDockWin fields;
     EXPECT_EQ(fields.getName(), SbString("Field Editor"));
@@ -148,7 +148,7 @@ TEST_F(FieldEditorDock, ShowsTheEditorOfTheSelectedField)
     EXPECT_TRUE(fields.extension.isShown());
 }
 
-TEST_F(FieldEditorDock, LetsGoOfTheEditorWhenNothingIsSelected)
+TEST_F(FieldEditorDock, ReleasesTheEditorWhenNothingIsSelected)
 {
     fields.host.select(&field);
     editor.takeCalls();
@@ -185,7 +185,7 @@ TEST_F(FieldEditorDock, AppliesWhatWasTypedWhenTheSelectionMoves)
     EXPECT_EQ(fields.host.undoCount(), 1);
 }
 
-TEST_F(FieldEditorDock, LetsGoOfANodeThatGoes)
+TEST_F(FieldEditorDock, ReleasesADestroyedNode)
 {
     SoRef<SoMaterial> material(new SoMaterial);
     fields.host.select(&material->transparency);
@@ -210,7 +210,7 @@ TEST_F(FieldEditorDock, ReleasesTheEditorWhenDeactivated)
               (TestHost::Log{"removeDockWidget \"Field Editor\"", "detachExtension \"Field Editor\""}));
 }
 
-TEST_F(FieldEditorDock, SparesTheEditorsWidgetWhenItGoes)
+TEST_F(FieldEditorDock, KeepsTheEditorsWidgetWhenItIsDestroyed)
 {
     fields.host.select(&field);
     const QPointer<QWidget> widget = editor.getWidget();

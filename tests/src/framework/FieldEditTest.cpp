@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The road of one edit: command, write, undo stack.
+// The path of one edit: command, write, undo stack.
 #include "EdFieldEdits.h"
 
 #include <scopix/editing/SpxFreshDefault.h>
@@ -157,7 +157,7 @@ TEST(Ignoring, IsOneStepThatUndoUndoes)
     EXPECT_TRUE(field.isIgnored());
 }
 
-TEST(Ignoring, WhatIsIgnoredAlreadyIsNoStep)
+TEST(Ignoring, IgnoringAgainIsNoStep)
 {
     TestHost host;
     SoSFFloat field;

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(FieldEditor, TellsWhoMadeIt)
+TEST(FieldEditor, NamesItsMaker)
 {
     const ProbeEditor editor;
     EXPECT_EQ(editor.getName(), SbString("Probe"));
@@ -25,7 +25,7 @@ TEST(FieldEditor, OffersItsContainerAsItsWidget)
     EXPECT_FALSE(editor.getWidget()->isVisible());
 }
 
-TEST(FieldEditor, TakesItsWidgetsAlong)
+TEST(FieldEditor, DestroysItsWidgets)
 {
     auto editor = std::make_unique<ProbeEditor>();
     const QPointer<QWidget> container = editor->getWidget();
@@ -114,7 +114,7 @@ TEST(FieldEditor, RefreshesAfterItsOwnChangeToo)
     EXPECT_EQ(editor.takeCalls(), "apply refresh ");
 }
 
-TEST(FieldEditor, HearsNothingOfAFieldThatItHasLetGo)
+TEST(FieldEditor, IgnoresAFieldThatItHasReleased)
 {
     TestHost host;
     ProbeEditor editor;
@@ -163,7 +163,7 @@ TEST(FieldEditor, ListensToOneFieldOnly)
     EXPECT_EQ(editor.takeCalls(), "refresh ");
 }
 
-TEST(FieldEditor, AppliesWhatWasTypedBeforeItLetsTheFieldGo)
+TEST(FieldEditor, AppliesWhatWasTypedBeforeItReleasesTheField)
 {
     TestHost host;
     ProbeEditor editor;
@@ -216,7 +216,7 @@ TEST(FieldEditor, WritesNothingWhenASignalComesBackLate)
     EXPECT_TRUE(host.log().empty());
 }
 
-TEST(FieldEditor, DropsWhatWasTypedWhenTheNodeGoes)
+TEST(FieldEditor, DropsWhatWasTypedWhenTheNodeIsDestroyed)
 {
     TestHost host;
     ProbeEditor editor;
@@ -233,7 +233,7 @@ TEST(FieldEditor, DropsWhatWasTypedWhenTheNodeGoes)
     EXPECT_EQ(editor.takeCalls(), "");
 }
 
-// Nobody tells of the end of a field that stands alone; the editor finds it gone.
+// Nobody reports the end of a field without a container; the editor notices it by itself.
 TEST(FieldEditor, OutlivesItsField)
 {
     TestHost host;

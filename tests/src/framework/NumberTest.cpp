@@ -15,7 +15,7 @@
 namespace
 {
 
-// What stands in an input with this validator after a person typed `keys`.
+// The text of an input with this validator after the user has typed `keys`.
 QString typed(QValidator* validator, const QString& keys)
 {
     QLineEdit input;
@@ -48,7 +48,7 @@ TEST(Texts, KeepEveryCharacterBothWays)
     EXPECT_EQ(SpxText::toQString(SbName("caf\xe9")), QString::fromUtf8("café"));
 }
 
-TEST(Numbers, ThatAreNoneGiveZero)
+TEST(Numbers, InvalidTextGivesZero)
 {
     EXPECT_EQ(SpxText::toFloatOr0("1.5"), 1.5F);
     EXPECT_EQ(SpxText::toFloatOr0("abc"), 0.F);
@@ -99,7 +99,7 @@ TEST(RealValidator, TakesTheTextsThatEditorsShow)
         EXPECT_EQ(stateOf(validator, text), QValidator::Invalid) << text;
 }
 
-TEST(Validators, KnowNoGroupSeparatorAndNoDecimalComma)
+TEST(Validators, RefuseGroupSeparatorsAndDecimalCommas)
 {
     const GermanLocale german;
     const EdRealValidator real(-100.0, 100.0, 6);

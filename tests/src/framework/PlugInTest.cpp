@@ -23,7 +23,7 @@ std::size_t s_failingSize = 0;
 
 } // namespace
 
-// Lets a test make one allocation fail, told by its size.
+// Lets a test make one allocation fail, chosen by its size.
 void* operator new(std::size_t size)
 {
     if (s_failingSize > 0 && size == s_failingSize)
@@ -108,7 +108,7 @@ const TestHost::Log Registration = {
 
 } // namespace
 
-TEST(PlugIn, TellsWhoMadeIt)
+TEST(PlugIn, NamesItsMaker)
 {
     Library library;
     const SpxPlugin* plugin = library.load();
@@ -192,8 +192,8 @@ TEST(PlugIn, LeavesNoWidgetBehind)
     EXPECT_EQ(QApplication::allWidgets().size(), before);
 }
 
-// The whole road of a host, three times over, each time with the library really gone in between.
-TEST(PlugIn, LivesUnderAHostAgainAndAgain)
+// All that a host does with a plug-in, three times over, with the library really unloaded in between.
+TEST(PlugIn, CanBeLoadedRepeatedly)
 {
     for (int round = 0; round < 3; ++round) {
         TestHost host;

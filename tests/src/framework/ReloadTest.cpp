@@ -24,7 +24,7 @@ QStringList partsOf(const SpxFieldEditors& editor)
 
 } // namespace
 
-TEST(EditorReload, BuildsEachEditorAnewAndLeavesNothingOfTheFirst)
+TEST(EditorReload, BuildsEachEditorAgainAndLeavesNothingOfTheFirst)
 {
     TestHost host;
     SpxDefaults plugin;

@@ -109,7 +109,7 @@ TEST(FieldEditorSettings, GiveZeroForAnUnknownKeyEveryTime)
     EXPECT_EQ(xsgsettings_fieldEditor(QString()), 0);
 }
 
-TEST(FieldEditorSettings, TellUpperFromLowerCase)
+TEST(FieldEditorSettings, AreCaseSensitive)
 {
     EXPECT_EQ(xsgsettings_fieldEditor("sfboolwidth"), 0);
     EXPECT_EQ(xsgsettings_fieldEditor("SFBoolWidth"), 16);

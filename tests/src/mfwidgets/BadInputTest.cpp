@@ -88,7 +88,7 @@ TYPED_TEST(AnyList, AListThatIsLetGoIsNotWritten)
     EXPECT_EQ(f.host.undoCount(), 0);
 }
 
-// An open cell, or the popup, of a row that goes away takes what was typed along; nothing of it stays.
+// When a row is deleted, what was typed into its open cell or its popup is dropped.
 TYPED_TEST(AnyList, TheRowThatIsBeingTypedMayBeDeleted)
 {
     auto& f = this->f;
@@ -138,7 +138,7 @@ TEST(BadInput, LettersInAShortVectorGiveZero)
     EXPECT_EQ(f.text(), "[ 1 0 ]");
 }
 
-TEST(BadInput, APopupWhoseElementGoesIsHidden)
+TEST(BadInput, HidesThePopupOfARemovedElement)
 {
     MultiFixture<EdMFMatrixWidget, SoMFMatrix> f;
     f.field.setNum(1);

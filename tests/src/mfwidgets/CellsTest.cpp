@@ -299,7 +299,7 @@ TEST(Cells, ATextIsShownAndWrittenBare)
     EXPECT_EQ(f.text(), "[ \"say \\\"hi\\\"\" ]");
 }
 
-TEST(Cells, TheEditorOfLastResortGoesByText)
+TEST(Cells, TheGeneralEditorEditsText)
 {
     MultiFixture<EdMFDefaultFieldWidget, SoMFBool> f("[ TRUE, FALSE ]");
     f.open();
@@ -340,7 +340,7 @@ TEST(Cells, AListOfAMaterialTakesTheRangeFromZeroToOne)
     host.release(editor);
 }
 
-TEST(Colors, OutsideZeroToOneIsIgnored)
+TEST(Colors, IgnoresNumbersOutsideZeroToOne)
 {
     MultiFixture<EdMFColorWidget, SoMFColor> f("[ 0.2 0.4 0.6 ]");
     f.open();
@@ -353,7 +353,7 @@ TEST(Colors, OutsideZeroToOneIsIgnored)
     EXPECT_EQ(f.host.takeLog(), Log{"executeCommand SpxMFSetValueCommand"});
 }
 
-TEST(Colors, WhatIsNoNumberIsIgnored)
+TEST(Colors, IgnoresTextThatIsNoNumber)
 {
     MultiFixture<EdMFColorWidget, SoMFColor> f("[ 0.2 0.4 0.6 ]");
     f.open();
@@ -512,7 +512,7 @@ TEST(Matrices, WithoutAnElementNothingIsWritten)
 }
 
 // What was typed for one element stood in the grid when it was filled with the next one, and went into that.
-TEST(Matrices, WhatWasTypedForOneElementStaysOutOfTheNext)
+TEST(Matrices, TextTypedForOneElementIsNotWrittenToTheNext)
 {
     MultiFixture<EdMFMatrixWidget, SoMFMatrix> f;
     f.field.setNum(2);

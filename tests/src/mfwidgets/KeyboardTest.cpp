@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table by keyboard alone, and what it tells those who do not see it.
+// The table by keyboard alone, and what it reports to assistive technology.
 #include "EdTablePopupLineEdit.h"
 #include "ListEditors.h"
 #include "MultiFixture.h"
@@ -83,7 +83,7 @@ TEST(Keyboard, FTwoOrTypingOpensTheCell)
     EXPECT_EQ(QApplication::focusWidget(), &f.table());
 }
 
-TEST(Keyboard, TabAppliesAndGoesOnToTheNextCell)
+TEST(Keyboard, TabAppliesAndMovesToTheNextCell)
 {
     Points f("[ 1 2 3, 4 5 6 ]");
     f.open();

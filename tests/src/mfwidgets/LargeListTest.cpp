@@ -112,7 +112,7 @@ TEST_F(LargeList, FollowsAFieldThatChangesAllTheTime)
     EXPECT_GT(f.editor.asked, 0);
 }
 
-// The fields themselves tell how many of their elements are read as text.
+// The fields count how many of their elements are read as text.
 namespace
 {
 

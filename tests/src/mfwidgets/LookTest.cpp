@@ -261,7 +261,7 @@ TEST(LookOfCells, TheTextOfTheCellDoesNotShowThroughItsSlider)
     EXPECT_EQ(f.table().viewport()->grab(cell->geometry()).toImage(), before);
 }
 
-TEST(LookOfCells, WhatWasTypedIsStoredInTheTableButReadFromTheField)
+TEST(LookOfCells, StoresTypedTextInTheTableButReadsTheField)
 {
     MultiFixture<EdMFStringWidget, SoMFString> f("[ \"a\", \"b\" ]");
     f.open();
@@ -391,7 +391,7 @@ TEST(LookOfThePopup, ClosesWhenAnotherFieldComes)
     f.editor.setField(&f.field);
 }
 
-TEST(LookOfThePopup, WhatIsNoNumberYetLeavesTheElementAsItIs)
+TEST(LookOfThePopup, AnIncompleteNumberKeepsTheElement)
 {
     Matrices f;
     f.click("m_editButton");

@@ -68,7 +68,7 @@ struct MultiFixture {
         field.get(text);
         return text.getString();
     }
-    /// Opens the editor of a cell the way a person does: a click, then a double click.
+    /// Opens the editor of a cell the way a user does: a click, then a double click.
     QWidget* openCell(int row, int column)
     {
         table().setCurrentCell(row, column);

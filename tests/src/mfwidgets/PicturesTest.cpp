@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Each editor as a person sees it, with what the gallery of fields holds. The pictures of the documentation
+// Each editor as a user sees it, with what the gallery of fields holds. The pictures of the documentation
 // come from here: SCOPIX_PICTURES names the folder that they go to.
 #include "ListEditors.h"
 #include "MultiFixture.h"

@@ -84,7 +84,7 @@ TEST(Rows, WithoutACurrentRowNothingIsDeleted)
     EXPECT_TRUE(f.host.takeLog().empty());
 }
 
-TEST(Rows, ABlockSelectedWithShiftGoesInOneCommandAndASecondBlockStays)
+TEST(Rows, OneCommandDeletesABlockSelectedWithShiftAndKeepsASecondBlock)
 {
     Floats f("[ 0, 1, 2, 3, 4, 5, 6, 7, 8 ]");
     f.open();
@@ -245,7 +245,7 @@ TEST(Rows, AFieldThatShrinksElsewhereTakesTheOpenCellAlong)
     EXPECT_EQ(f.table().rowCount(), 1);
 }
 
-TEST(Rows, WhatIsTypedWhenTheFieldIsLetGoIsAppliedToItOnce)
+TEST(Rows, AppliesTypedTextOnceWhenTheFieldIsReleased)
 {
     MultiFixture<EdMFStringWidget, SoMFString> f("[ \"a\", \"b\" ]");
     f.open();

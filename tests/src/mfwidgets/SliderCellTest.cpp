@@ -74,8 +74,8 @@ TEST(SliderCells, UnsignedShortIntegers)
     expectSliderOfItsRow<EdUIntSlider>(f, 10);
 }
 
-// The row stands where the precision goes: row 0 has a slider of doubles, all others one of floats. That is
-// meant.
+// The row is passed as the precision: row 0 has a slider of doubles, all others one of floats
+// (decisions.md: slider-first-element).
 TEST(SliderCells, TheRowOfAFloatIsTakenForItsPrecision)
 {
     Floats f("[ 0.123456789, 0.123456789, 0.123456789 ]");
@@ -136,7 +136,7 @@ TEST(SliderCells, AwayFromTheMouseAndTheFocusItIsClosed)
     EXPECT_FALSE(slider);
 }
 
-TEST(SliderCells, TypingOpensItAndGoesIntoItsLine)
+TEST(SliderCells, TypingOpensItAndReachesItsLine)
 {
     Integers f("[ 1, 2, 3 ]");
     f.open();
@@ -149,7 +149,7 @@ TEST(SliderCells, TypingOpensItAndGoesIntoItsLine)
     EXPECT_EQ(f.text(), "[ 1, 7, 3 ]");
 }
 
-// Not for doubles, though they are numbers too; that is meant.
+// decisions.md: no-double-slider.
 TEST(SliderCells, ADoubleHasNone)
 {
     MultiFixture<EdMFDoubleWidget, SoMFDouble> f("[ 1, 2, 3 ]");

@@ -423,7 +423,7 @@ private:
         TestHost::pump();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (HasPopup && left > 0) {
-            EXPECT_TRUE(open->isVisible()) << "the box, and so the popup, goes on with the last element";
+            EXPECT_TRUE(open->isVisible()) << "the box, and so the popup, moves on to the last element";
             open->close();
         } else {
             EXPECT_FALSE(open && open->isVisible());

@@ -131,7 +131,7 @@ TEST_F(CounterDock, ElementsNestedWithoutEndAreRefused)
     EXPECT_TRUE(boxes.take().isEmpty());
 }
 
-TEST_F(CounterDock, WhatWouldBeUnreadableOnceSavedIsRefusedWithItsPlaceAndCause)
+TEST_F(CounterDock, RefusesAFileThatWouldBeUnreadableOnceSaved)
 {
     const std::pair<const char*, const char*> files[] = {
         {"<n:perfCounterModule xmlnsn:='u'/>", "1, column 29:\n\"xmlnsn:\" is not a name that can be saved"},
@@ -275,7 +275,7 @@ TEST_F(CounterDock, ACancelledColourChangesNothing)
     EXPECT_EQ(dock->m_colorButton->styleSheet(), sheet);
 }
 
-TEST(CounterExtension, TellsWhoItIs)
+TEST(CounterExtension, HasItsNames)
 {
     const SpxPerfCounterExtension extension;
     EXPECT_EQ(extension.getName(), SbString("PerfCounter"));
@@ -284,7 +284,7 @@ TEST(CounterExtension, TellsWhoItIs)
     EXPECT_EQ(extension.getVersion(), SbString("1.0.0"));
 }
 
-TEST(CounterExtension, WithoutTheSwitchItTellsHowToSetIt)
+TEST(CounterExtension, ShowsHowItIsSwitchedOn)
 {
     for (const char* value : {static_cast<const char*>(nullptr), "", "0"}) {
         if (value)

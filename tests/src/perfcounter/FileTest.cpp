@@ -18,7 +18,7 @@ QByteArray withProfile(const QByteArray& name)
 
 } // namespace
 
-TEST_F(CounterFile, BrokenXmlIsToldWithItsPlaceAndStartsAnew)
+TEST_F(CounterFile, ReportsWhereXmlIsBrokenAndStartsEmpty)
 {
     writeFile("<perfCounterModule>\n  <customPC>\n</perfCounterModule>\n");
     open();
@@ -40,7 +40,7 @@ TEST_F(CounterFile, BrokenXmlIsToldWithItsPlaceAndStartsAnew)
     EXPECT_EQ(declaration.data(), "version='1.0' encoding='UTF-8'");
 }
 
-TEST_F(CounterFile, AFolderInItsPlaceIsTold)
+TEST_F(CounterFile, ReportsAFolderInItsPlace)
 {
     QDir().mkpath(path());
     open();
@@ -200,7 +200,7 @@ TEST_F(CounterFile, AThousandProfilesAreRead)
     EXPECT_EQ(dock->getCurrentProfile(), 999);
 }
 
-TEST_F(CounterFile, AFileThatCannotBeWrittenIsTold)
+TEST_F(CounterFile, ReportsAFileThatCannotBeWritten)
 {
     writeExample();
     open();

@@ -108,7 +108,7 @@ TEST_F(CounterManagerFile, AFileWithoutCountersIsRefusedAndNotWrittenOver)
     EXPECT_EQ(namesOf(path(), "profile"), (QStringList{"first", "second"}));
 }
 
-TEST_F(CounterManagerFile, OneThatCannotBeReadIsTold)
+TEST_F(CounterManagerFile, ReportsAFileThatCannotBeRead)
 {
     // Nobody can open a socket as a file.
     sockaddr_un address{};
@@ -139,7 +139,7 @@ TEST_F(CounterManagerFile, NoChoiceOpensAndSavesNothing)
     EXPECT_EQ(dock->getFilepath(), path());
 }
 
-TEST_F(CounterManagerFile, SaveAsWritesWhatIsCustomAndEnabledAndGoesOnThere)
+TEST_F(CounterManagerFile, SaveAsWritesEnabledCustomCountersAndSwitchesToTheFile)
 {
     CustomCounter unwanted;
     unwanted.name = "unwanted";
@@ -158,7 +158,7 @@ TEST_F(CounterManagerFile, SaveAsWritesWhatIsCustomAndEnabledAndGoesOnThere)
     EXPECT_EQ(manager->windowTitle(), "Profile Manager - " + other());
 }
 
-TEST_F(CounterManagerFile, OneThatCannotBeWrittenIsTold)
+TEST_F(CounterManagerFile, ReportsAFileThatCannotBeWritten)
 {
     FileAnswer answer("/proc/counters.xml");
     manager->saveAsProfile();

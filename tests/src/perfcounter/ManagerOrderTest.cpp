@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The profile manager: who is told what, in which order, and that nothing is left half done.
+// The profile manager: the order of its signals, and that nothing is left half done.
 #include "CounterFixture.h"
 
 #include <QSignalSpy>
@@ -152,7 +152,7 @@ TEST_F(CounterManagerOrder, CancelTakesBackWhatWasCreatedAndDeleted)
     EXPECT_TRUE(dock->m_viewer->getTimer()->isActive());
 }
 
-TEST_F(CounterManagerOrder, ADockThatGoesFirstTakesItBackToo)
+TEST_F(CounterManagerOrder, DestroyingTheDockFirstCancelsToo)
 {
     openAt(1);
     createCustom("created");
@@ -163,7 +163,7 @@ TEST_F(CounterManagerOrder, ADockThatGoesFirstTakesItBackToo)
     EXPECT_TRUE(SoPerfCounterManager::getInstance()->getCounter("perFrame")->isEnabled());
 }
 
-TEST_F(CounterManagerOrder, ARowTellsWhatTheCounterIs)
+TEST_F(CounterManagerOrder, ARowDescribesItsCounter)
 {
     openAt(1);
     const QTableWidget& table = *manager->m_listCounter;

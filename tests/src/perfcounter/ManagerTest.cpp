@@ -209,7 +209,7 @@ TEST_F(CounterProfileManager, ClosingTheWindowIsCancelling)
     EXPECT_EQ(profileNames(), (QStringList{"first", "second"}));
 }
 
-TEST_F(CounterProfileManager, TheDockMayGoWhileTheManagerIsOpen)
+TEST_F(CounterProfileManager, SurvivesTheEndOfItsDock)
 {
     openBoth();
     dock.reset();
@@ -254,7 +254,7 @@ TEST_F(CounterProfileManager, HundredsOfProfilesAndCountersSurviveTheRoundTrip)
     EXPECT_TRUE(boxes.take().isEmpty());
 }
 
-TEST_F(CounterProfileManager, WhatBecomesOfACounterIsSeenInEveryTab)
+TEST_F(CounterProfileManager, UpdatesACounterInEveryTab)
 {
     openBoth();
     select(*manager->m_listCounter, {"perFrame"});
@@ -315,7 +315,7 @@ TEST_F(CounterProfileManager, ADeletedNameCanBeGivenAgainAfterOk)
     EXPECT_TRUE(readFile(path()).contains("<operation>*</operation>"));
 }
 
-TEST_F(CounterProfileManager, ALookIntoItLeavesTheScales)
+TEST_F(CounterProfileManager, OpeningItKeepsTheScales)
 {
     openBoth();
     press(QDialogButtonBox::Cancel);
@@ -331,7 +331,7 @@ TEST_F(CounterProfileManager, ALookIntoItLeavesTheScales)
         EXPECT_EQ(scaleOf("perFrame"), 3.0);
         EXPECT_EQ(scaleOf("testA"), 3.0);
     }
-    // Nor does a file that is gone.
+    // Nor does a file that no longer exists.
     manager = openManager();
     QFile::remove(path());
     press(QDialogButtonBox::Cancel);

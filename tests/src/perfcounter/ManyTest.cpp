@@ -36,7 +36,7 @@ protected:
     }
 };
 
-TEST_F(CounterMany, OnlyTheTabsThatWereSeenHaveATable)
+TEST_F(CounterMany, MakesTablesOnlyForTabsThatWereShown)
 {
     QByteArray profiles;
     for (int i = 0; i < 1000; ++i)
@@ -57,7 +57,7 @@ TEST_F(CounterMany, OnlyTheTabsThatWereSeenHaveATable)
     EXPECT_EQ(dock->getCurrentProfile(), 999);
 }
 
-TEST_F(CounterMany, ATabThatComesForwardBecauseAnotherGoesShowsItsOwnCounters)
+TEST_F(CounterMany, RemovingATabShowsTheNextOnesCounters)
 {
     openProfiles(profileOf("one") + profileOf("two", "<pc>testB</pc>") +
                  profileOf("three", "<pc>testC</pc>"));
@@ -123,7 +123,7 @@ TEST_F(CounterMany, ACounterIsMadeFromTheWholeNamesOfItsParents)
     EXPECT_EQ(made->getSecondParent(), SbName("testB"));
 }
 
-TEST_F(CounterMany, ProfilesWithTheSameBeginningAreToldApart)
+TEST_F(CounterMany, DistinguishesProfilesWithTheSameBeginning)
 {
     const QByteArray same(5000, 's');
     writeFile("<perfCounterModule><profiles>" + profileOf(same + "1") +
@@ -134,7 +134,7 @@ TEST_F(CounterMany, ProfilesWithTheSameBeginningAreToldApart)
     EXPECT_EQ(offered(), QStringList{"testB"});
 }
 
-TEST_F(CounterMany, AnAmpersandStandsInATabAsItIs)
+TEST_F(CounterMany, ShowsAnAmpersandInATab)
 {
     openProfiles(profileOf("R&amp;D"));
     SoPerfCounterProfileManager& manager = *openManager();

@@ -190,7 +190,7 @@ TEST_F(CounterOwed, UnloadingTriesOnceMore)
     qunsetenv("XSG_PERFCOUNTER_ENABLE");
 }
 
-TEST_F(CounterOwed, WhatIsSavedIsNotWrittenAgainAtTheEnd)
+TEST_F(CounterOwed, WritesNothingAtTheEndOnceSaved)
 {
     openBoth();
     press(QDialogButtonBox::Ok);
@@ -210,7 +210,7 @@ TEST_F(CounterOwed, CancelWithoutTheFilePutsBackWhatWasThereAtOpening)
     EXPECT_EQ(boxes.take(), QStringList());
 }
 
-TEST_F(CounterOwed, CancelOfAFileThatIsNoneAnyMoreToo)
+TEST_F(CounterOwed, CancelWithAFileOfAnotherKindPutsBackWhatWasThereAtOpening)
 {
     openBoth();
     openOther();
@@ -220,7 +220,7 @@ TEST_F(CounterOwed, CancelOfAFileThatIsNoneAnyMoreToo)
     EXPECT_EQ(boxes.take().size(), 1) << "the file is said to be another";
 }
 
-TEST_F(CounterOwed, CancelWithoutAnyFileToo)
+TEST_F(CounterOwed, CancelWithoutAnyFilePutsBackWhatWasThereAtOpening)
 {
     open();
     boxes.take();
@@ -233,7 +233,7 @@ TEST_F(CounterOwed, CancelWithoutAnyFileToo)
     EXPECT_EQ(dock->getDocument().documentElement().tagName(), "perfCounterModule");
 }
 
-TEST_F(CounterOwed, ADockThatGoesWithItsManagerLeavesNoOtherCounters)
+TEST_F(CounterOwed, DestroyingTheDockWithItsManagerLeavesNoOtherCounters)
 {
     openBoth();
     openOther();

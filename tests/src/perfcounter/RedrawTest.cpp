@@ -21,7 +21,7 @@
 namespace
 {
 
-// Counts how often a plot is made anew, by what each time changes in it: its time axis.
+// Counts how often a plot is redrawn, by what changes each time: its time axis.
 class Redraws
 {
 public:
@@ -211,7 +211,7 @@ TEST_F(CounterRedraw, CurvesAreDrawnFromTheHistoriesThemselves)
     EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());
     EXPECT_EQ(pointsOf(0)->xData(), viewer.getXValues().data());
     EXPECT_EQ(pointsOf(0)->size(), 60U);
-    // No curve keeps an array that is gone, also while nobody looks.
+    // No curve keeps an array that is freed, not even while the plot is hidden.
     viewer.hide();
     viewer.m_timeBox->setCurrentText("120");
     EXPECT_EQ(pointsOf(0)->yData(), viewer.findViewed("testA")->getHistory());
@@ -294,7 +294,7 @@ TEST_F(CounterRedraw, TheVerticalAxisFitsTheSamples)
     EXPECT_TRUE(bars.contains(6000.0) && bars.contains(0.0));
 }
 
-TEST_F(CounterRedraw, NothingIsShownAtTheBottom)
+TEST_F(CounterRedraw, TheAxisWithoutCountsIsFromZeroToOne)
 {
     for (const auto& [view, plot] :
          {std::pair{&SoPerfCounterViewer::curveView, static_cast<QwtPlot*>(viewer.getCurvePlot())},
@@ -317,7 +317,7 @@ TEST_F(CounterRedraw, TheAxesSayWhatTheyMeasure)
     }
 }
 
-TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
+TEST_F(CounterRedraw, AToolTipShowsTheValueAlsoBetweenTwoSamples)
 {
     viewer.m_timeBox->setCurrentText("15");
     viewer.m_freqBox->setCurrentText("1");
@@ -336,7 +336,7 @@ TEST_F(CounterRedraw, AToolTipTellsTheValueAlsoBetweenTwoSamples)
     EXPECT_EQ(tipAt(*plot, place(2, 14)), "") << "no line here";
 }
 
-TEST_F(CounterRedraw, AToolTipTellsTheValueOfABar)
+TEST_F(CounterRedraw, AToolTipShowsTheValueOfABar)
 {
     show({"testB"});
     b->increment(3);
@@ -392,7 +392,7 @@ TEST_F(CounterRedraw, ABarStaysWithinItsInterval)
         ASSERT_EQ(image.pixelColor(x, top - 1), QColor(Qt::white)) << "over the bar, at " << x;
 }
 
-TEST_F(CounterRedraw, ColoursCanBeSeenAndToldApart)
+TEST_F(CounterRedraw, ColoursAreVisibleAndDistinguishable)
 {
     QStringList names;
     for (int i = 0; i < 40; ++i)
@@ -422,7 +422,7 @@ TEST_F(CounterRedraw, MoreCountersThanColoursAreShownToo)
     EXPECT_EQ(viewer.getViewed()->size(), 151);
 }
 
-TEST_F(CounterRedraw, TheButtonsTellWhichViewIsShown)
+TEST_F(CounterRedraw, TheButtonsMarkTheCurrentView)
 {
     QTest::mouseClick(viewer.m_graph, Qt::LeftButton);
     EXPECT_TRUE(viewer.m_graph->isChecked());

@@ -41,7 +41,7 @@ TEST_F(CounterViewer, EverySampleIsDividedByItsOwnTime)
     EXPECT_EQ(sample("testA", 3), 0.0);
 }
 
-TEST_F(CounterViewer, TheClockStartsAnewWithEachSample)
+TEST_F(CounterViewer, EachSampleRestartsTheClock)
 {
     const int before = clock.resets;
     viewer.viewTimer();
@@ -65,7 +65,7 @@ TEST_F(CounterViewer, AStateIsReadAndNotReset)
     EXPECT_DOUBLE_EQ(sample("testState", 1), 14.0);
 }
 
-TEST_F(CounterViewer, WhatWasCountedBeforeTheStartIsNotShown)
+TEST_F(CounterViewer, IgnoresCountsFromBeforeTheStart)
 {
     show({"testA"});
     a->increment(1000);
@@ -82,7 +82,7 @@ TEST_F(CounterViewer, WhatWasCountedBeforeTheStartIsNotShown)
 TEST_F(CounterViewer, EachSampleMovesTheTimeByOnePeriod)
 {
     viewer.m_freqBox->setCurrentText("4");
-    EXPECT_DOUBLE_EQ(viewer.getXValues().front(), -0.25) << "nothing sampled yet: the time starts anew";
+    EXPECT_DOUBLE_EQ(viewer.getXValues().front(), -0.25) << "nothing sampled yet: the time starts again";
     for (int i = 0; i < 3; ++i)
         viewer.viewTimer();
     for (std::size_t i = 0; i < viewer.getXValues().size(); ++i)
@@ -106,7 +106,7 @@ TEST_F(CounterViewer, SamplesStayWhenTheLengthChanges)
     EXPECT_EQ(viewer.getHistoryLength(), 120);
     EXPECT_EQ(viewer.getFilled(), 30);
     EXPECT_DOUBLE_EQ(sample("testA", 29), 22.0);
-    EXPECT_EQ(sample("testA", 30), 0.0) << "what was dropped is gone";
+    EXPECT_EQ(sample("testA", 30), 0.0) << "what was dropped does not come back";
     EXPECT_DOUBLE_EQ(viewer.getXValues().front(), newest);
     EXPECT_DOUBLE_EQ(viewer.getXValues()[30], newest - 15);
     a->increment(1);
@@ -145,7 +145,7 @@ TEST_F(CounterViewer, TheScaleChangesOnlyTheSelectedCounter)
     EXPECT_DOUBLE_EQ(sample("testB"), 20.0);
 }
 
-TEST_F(CounterViewer, ScalesBeyondAllBoundsDoNoHarm)
+TEST_F(CounterViewer, SurvivesExtremeScales)
 {
     show({"testA"});
     viewer.m_legend->selectRow(0);
@@ -256,7 +256,7 @@ TEST_F(CounterViewer, BackspaceRemovesAllSelectedRowsAtOnce)
     EXPECT_EQ(viewer.getViewed()->size(), 1) << "nothing is selected";
 }
 
-TEST_F(CounterViewer, TheRegistryIsReadAnewEachTime)
+TEST_F(CounterViewer, EachSampleReadsTheRegistryAgain)
 {
     SoPerfCounterManager::getInstance()->setInterval(SbTime(10.0));
     const SoPerfCounterViewer another;

@@ -129,7 +129,7 @@ TEST_F(CounterSavable, ANameOfAProfile)
     EXPECT_EQ(boxes.take(), QStringList());
 }
 
-TEST_F(CounterSavable, WhatACustomCounterIsCalledAndSaysOfItself)
+TEST_F(CounterSavable, ANameAndADescriptionOfACustomCounter)
 {
     openBoth();
     const QPointer<SoPerfCounterCreateCounter> dialog = createDialog({"testA", "testB"});

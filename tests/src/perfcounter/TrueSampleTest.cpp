@@ -70,7 +70,7 @@ TEST_F(CounterTruth, ThePastStaysUnknownThroughScalesAndLengths)
     EXPECT_EQ(drawn(1), 1U);
 }
 
-TEST_F(CounterTruth, WhatIsUnknownIsShownAsNothing)
+TEST_F(CounterTruth, ShowsNothingForUnknownSamples)
 {
     show({"testA"});
     sampleTimes(10);
@@ -93,7 +93,7 @@ TEST_F(CounterTruth, ACounterFromTheStartHasAllOfIt)
     EXPECT_EQ(drawn(0), 1U);
 }
 
-TEST_F(CounterTruth, WhateverStartsTheCountAnewStartsThePeriodAnew)
+TEST_F(CounterTruth, EveryChangeOfTheViewRestartsThePeriod)
 {
     const std::pair<const char*, std::function<void()>> acts[] = {
         {"add", [&] { viewer.doubleClickEvent("testB"); }},
@@ -128,7 +128,7 @@ TEST_F(CounterTruth, WhateverStartsTheCountAnewStartsThePeriodAnew)
     }
 }
 
-TEST_F(CounterTruth, ASampleDoesNotShiftTheOnesAfterIt)
+TEST_F(CounterTruth, ALateSampleDoesNotShiftTheNext)
 {
     viewer.start();
     ASSERT_TRUE(QTest::qWaitFor([this] { return viewer.getTimer()->remainingTime() < 300; }, 60000));
@@ -165,7 +165,7 @@ TEST_F(CounterTruth, TheUndividedValueIsInTheToolTip)
     EXPECT_EQ(tipOf(1), "testState: 155 (undivided: 62)");
 }
 
-TEST_F(CounterTruth, ACounterOfCountersCountsEachPeriodAnew)
+TEST_F(CounterTruth, ACustomCounterStartsEachPeriodAtZero)
 {
     const auto makeSum = [](const char* name, const char* first, const char* second) {
         CustomCounter counter;

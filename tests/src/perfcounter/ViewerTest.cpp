@@ -234,7 +234,7 @@ TEST_F(CounterViewer, StopAndPlay)
     viewer.getTimer()->stop();
 }
 
-TEST_F(CounterViewer, ResettingStartsTheTimeAnew)
+TEST_F(CounterViewer, ResettingRestartsTheTime)
 {
     show({"testA"});
     a->increment(1);

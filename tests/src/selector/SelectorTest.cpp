@@ -52,7 +52,7 @@ protected:
             texts << box().itemText(i);
         return texts;
     }
-    // Opens the list and goes down to the entry with the keys, as a person does.
+    // Opens the list and moves to the entry with the keys, as a user does.
     void choose(int index)
     {
         box().setFocus();
@@ -69,7 +69,7 @@ const QStringList Names{"Default", "Edit", QString::fromLatin1("M\xe9trer")};
 
 } // namespace
 
-TEST_F(Selector, TellsWhoItIs)
+TEST_F(Selector, HasItsNames)
 {
     EXPECT_EQ(m_selector.getName(), "Profile Selector");
     EXPECT_EQ(m_selector.getDescription(), "A toolbar to select the active profile.");
@@ -95,7 +95,7 @@ TEST_F(Selector, ListsTheProfilesAndShowsTheActiveOne)
               (Log{"addToolBar \"Profile Selector\" 4", "attachExtension \"Profile Selector\" true"}));
 }
 
-TEST_F(Selector, TellsTheHostFirstAndTheBaseLast)
+TEST_F(Selector, NotifiesTheHostFirstAndTheBaseLast)
 {
     m_selector.load();
     QStringList order;
@@ -160,7 +160,7 @@ TEST_F(Selector, AnEntryBeyondTheListSetsNoProfile)
     EXPECT_EQ(items(), Names + Names + Names);
 }
 
-TEST_F(Selector, IsFilledAnewByTheNextActivation)
+TEST_F(Selector, TheNextActivationRefillsIt)
 {
     start();
     choose(2);

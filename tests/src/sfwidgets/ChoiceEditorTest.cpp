@@ -60,7 +60,7 @@ using EditedBool = EditedField<EdSFBoolWidget, SoSFBool>;
 
 } // namespace
 
-TEST(BoolEditorTest, ClickIsAppliedAndUndone)
+TEST(BoolEditor, ClickIsAppliedAndUndone)
 {
     EditedBool edited("FALSE");
     auto* box = edited.find<QCheckBox>("m_box");
@@ -76,7 +76,7 @@ TEST(BoolEditorTest, ClickIsAppliedAndUndone)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(EnumEditorTest, ListsTheNamesWithTheirValues)
+TEST(EnumEditor, ListsTheNamesWithTheirValues)
 {
     EditedEnum edited(2);
     ASSERT_EQ(edited.combo()->count(), 5);
@@ -88,7 +88,7 @@ TEST(EnumEditorTest, ListsTheNamesWithTheirValues)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(EnumEditorTest, ChoiceIsAppliedAndUndone)
+TEST(EnumEditor, ChoiceIsAppliedAndUndone)
 {
     EditedEnum edited(2);
     edited.choose(1);
@@ -99,7 +99,7 @@ TEST(EnumEditorTest, ChoiceIsAppliedAndUndone)
     EXPECT_EQ(edited.combo()->currentText(), "GREEN");
 }
 
-TEST(EnumEditorTest, ChoosingTheCurrentItemIsACommandToo)
+TEST(EnumEditor, ChoosingTheCurrentItemIsACommandToo)
 {
     EditedEnum edited(2);
     edited.choose(2);
@@ -107,7 +107,7 @@ TEST(EnumEditorTest, ChoosingTheCurrentItemIsACommandToo)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(EnumEditorTest, ValueWithoutANameShowsNoSelection)
+TEST(EnumEditor, ValueWithoutANameShowsNoSelection)
 {
     EditedEnum edited(77);
     EXPECT_EQ(edited.combo()->currentIndex(), -1);
@@ -116,7 +116,7 @@ TEST(EnumEditorTest, ValueWithoutANameShowsNoSelection)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(EnumEditorTest, FieldWithoutNamesIsEmpty)
+TEST(EnumEditor, FieldWithoutNamesIsEmpty)
 {
     EditedField<EdSFEnumWidget, SoSFEnum> edited;
     edited.host.edit(edited.editor, &edited.field);
@@ -126,7 +126,7 @@ TEST(EnumEditorTest, FieldWithoutNamesIsEmpty)
     EXPECT_EQ(mask.find<QCheckBox>(), nullptr);
 }
 
-TEST(BitMaskEditorTest, HasABoxForEveryNameThatIsNotZero)
+TEST(BitMaskEditor, HasABoxForEveryNameThatIsNotZero)
 {
     EditedMask edited(2);
     QStringList names;
@@ -138,7 +138,7 @@ TEST(BitMaskEditorTest, HasABoxForEveryNameThatIsNotZero)
     EXPECT_FALSE(edited.box("RED")->isChecked());
 }
 
-TEST(BitMaskEditorTest, ClicksAreWrittenWithoutACommand)
+TEST(BitMaskEditor, ClicksAreWrittenWithoutACommand)
 {
     EditedMask edited(1);
     edited.click("BLUE");
@@ -150,7 +150,7 @@ TEST(BitMaskEditorTest, ClicksAreWrittenWithoutACommand)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(BitMaskEditorTest, BitsWithoutANameAreLostAtTheFirstClick)
+TEST(BitMaskEditor, BitsWithoutANameAreLostAtTheFirstClick)
 {
     EditedMask edited(64 + 1);
     EXPECT_EQ(edited.field.getValue(), 65);
@@ -158,7 +158,7 @@ TEST(BitMaskEditorTest, BitsWithoutANameAreLostAtTheFirstClick)
     EXPECT_EQ(edited.field.getValue(), 3);
 }
 
-TEST(BitMaskEditorTest, BoxesFollowAChangeFromElsewhere)
+TEST(BitMaskEditor, BoxesFollowAChangeFromElsewhere)
 {
     EditedMask edited(1);
     edited.click("GREEN");
@@ -169,7 +169,7 @@ TEST(BitMaskEditorTest, BoxesFollowAChangeFromElsewhere)
     EXPECT_FALSE(edited.box("RED")->isChecked());
 }
 
-TEST(BitMaskEditorTest, AnotherFieldBringsItsOwnBoxes)
+TEST(BitMaskEditor, AnotherFieldBringsItsOwnBoxes)
 {
     EditedMask edited(1);
     SoSFBitMask other;

@@ -39,7 +39,7 @@ struct EditedColor : EditedField<EdSFColorWidget, SoSFColor> {
 
 } // namespace
 
-TEST(ColorEditorTest, KeystrokesChangeTheSwatchAndEnterTheField)
+TEST(ColorEditor, KeystrokesChangeTheSwatchAndEnterTheField)
 {
     EditedColor edited("0 0 0");
     person::type(edited.lines()[0], "0.5");
@@ -59,7 +59,7 @@ TEST(ColorEditorTest, KeystrokesChangeTheSwatchAndEnterTheField)
     EXPECT_EQ(edited.color(), QColor(0, 0, 0));
 }
 
-TEST(ColorEditorTest, UntouchedComponentsKeepEveryBit)
+TEST(ColorEditor, UntouchedComponentsKeepEveryBit)
 {
     EditedColor edited("0 0.123456791 2");
     const std::string before = edited.text();
@@ -69,7 +69,7 @@ TEST(ColorEditorTest, UntouchedComponentsKeepEveryBit)
     EXPECT_EQ(edited.text(), "1" + before.substr(1));
 }
 
-TEST(ColorEditorTest, ComponentsBeyondOneAreKeptAndTheSwatchClamps)
+TEST(ColorEditor, ComponentsBeyondOneAreKeptAndTheSwatchClamps)
 {
     EditedColor edited("0 0 0");
     person::typeAndEnter(edited.lines()[2], "3.5");
@@ -78,7 +78,7 @@ TEST(ColorEditorTest, ComponentsBeyondOneAreKeptAndTheSwatchClamps)
     EXPECT_EQ(edited.color(), QColor(0, 0, 255));
 }
 
-TEST(ColorEditorTest, TextThatIsNoNumberCountsAsZero)
+TEST(ColorEditor, TextThatIsNoNumberCountsAsZero)
 {
     EditedColor edited("0.5 0.5 0.5");
     for (const char* text : {"abc", "1e99", "nan"}) {
@@ -88,7 +88,7 @@ TEST(ColorEditorTest, TextThatIsNoNumberCountsAsZero)
     EXPECT_EQ(edited.lines()[0]->validator(), nullptr);
 }
 
-TEST(ColorEditorTest, ChoiceInTheDialogIsAppliedAtOnce)
+TEST(ColorEditor, ChoiceInTheDialogIsAppliedAtOnce)
 {
     EditedColor edited("0 0 0");
     edited.inDialog([](QColorDialog& dialog) {
@@ -105,7 +105,7 @@ TEST(ColorEditorTest, ChoiceInTheDialogIsAppliedAtOnce)
     EXPECT_EQ(edited.text(), "0 0 0");
 }
 
-TEST(ColorEditorTest, CancelledDialogChangesNothing)
+TEST(ColorEditor, CancelledDialogChangesNothing)
 {
     EditedColor edited("0.1 0.2 0.3");
     edited.inDialog([](QColorDialog& dialog) {
@@ -116,7 +116,7 @@ TEST(ColorEditorTest, CancelledDialogChangesNothing)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(ColorEditorTest, DialogThatReturnsForAnotherFieldWritesNothing)
+TEST(ColorEditor, DialogThatReturnsForAnotherFieldWritesNothing)
 {
     EditedColor edited("0.1 0.2 0.3");
     SoSFColor other;
@@ -133,7 +133,7 @@ TEST(ColorEditorTest, DialogThatReturnsForAnotherFieldWritesNothing)
     edited.host.release(edited.editor);
 }
 
-TEST(ColorEditorTest, ShowsChangesFromElsewhere)
+TEST(ColorEditor, ShowsChangesFromElsewhere)
 {
     EditedColor edited("0 0 0");
     edited.change("1 0.5 0.25");

@@ -46,11 +46,11 @@ QStringList captions(Edited& edited)
 }
 
 template <class Edited>
-class FloatsEditorTest : public testing::Test
+class FloatsEditor : public testing::Test
 {
 };
 using FloatsEditors = testing::Types<EditedVec2f, EditedVec3f, EditedVec4f, EditedPlane>;
-TYPED_TEST_SUITE(FloatsEditorTest, FloatsEditors);
+TYPED_TEST_SUITE(FloatsEditor, FloatsEditors);
 
 // "1.123456789 2 3 4", as many as the field has.
 template <class Edited>
@@ -65,7 +65,7 @@ std::string numbers(const char* first, const char* rest)
 
 } // namespace
 
-TYPED_TEST(FloatsEditorTest, EnterAppliesOneComponentAndKeepsEveryBitOfTheOthers)
+TYPED_TEST(FloatsEditor, EnterAppliesOneComponentAndKeepsEveryBitOfTheOthers)
 {
     TypeParam edited(numbers<TypeParam>("1", "2.12345672").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -83,7 +83,7 @@ TYPED_TEST(FloatsEditorTest, EnterAppliesOneComponentAndKeepsEveryBitOfTheOthers
     EXPECT_EQ(lines[0]->text(), "7.5");
 }
 
-TYPED_TEST(FloatsEditorTest, EnterAppliesWhatWasTypedInEveryInput)
+TYPED_TEST(FloatsEditor, EnterAppliesWhatWasTypedInEveryInput)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -97,7 +97,7 @@ TYPED_TEST(FloatsEditorTest, EnterAppliesWhatWasTypedInEveryInput)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TYPED_TEST(FloatsEditorTest, LeavingAppliesOnlyWhatWasModified)
+TYPED_TEST(FloatsEditor, LeavingAppliesOnlyWhatWasModified)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -111,7 +111,7 @@ TYPED_TEST(FloatsEditorTest, LeavingAppliesOnlyWhatWasModified)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TYPED_TEST(FloatsEditorTest, ComponentThatDoesNotConvertIsZero)
+TYPED_TEST(FloatsEditor, ComponentThatDoesNotConvertIsZero)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -121,7 +121,7 @@ TYPED_TEST(FloatsEditorTest, ComponentThatDoesNotConvertIsZero)
     EXPECT_EQ(edited.commands(), 1) << "what was typed in all inputs is applied at once";
 }
 
-TYPED_TEST(FloatsEditorTest, EscapeBringsTheShownValueBack)
+TYPED_TEST(FloatsEditor, EscapeBringsTheShownValueBack)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     QLineEdit* line = inputs<QLineEdit>(edited)[0];
@@ -132,7 +132,7 @@ TYPED_TEST(FloatsEditorTest, EscapeBringsTheShownValueBack)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TYPED_TEST(FloatsEditorTest, OutsideChangeSparesTypingInTheOtherInputs)
+TYPED_TEST(FloatsEditor, OutsideChangeSparesTypingInTheOtherInputs)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -144,7 +144,7 @@ TYPED_TEST(FloatsEditorTest, OutsideChangeSparesTypingInTheOtherInputs)
     EXPECT_EQ(edited.text(), numbers<TypeParam>("5", "3"));
 }
 
-TYPED_TEST(FloatsEditorTest, WaitingTypingGoesToTheOldFieldOnce)
+TYPED_TEST(FloatsEditor, UnappliedTypingIsWrittenToTheOldFieldOnce)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     decltype(edited.field) other;
@@ -159,7 +159,7 @@ TYPED_TEST(FloatsEditorTest, WaitingTypingGoesToTheOldFieldOnce)
     edited.host.release(edited.editor);
 }
 
-TYPED_TEST(FloatsEditorTest, EveryInputHasItsCaptionAsItsName)
+TYPED_TEST(FloatsEditor, EveryInputHasItsCaptionAsItsName)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
@@ -170,7 +170,7 @@ TYPED_TEST(FloatsEditorTest, EveryInputHasItsCaptionAsItsName)
     }
 }
 
-TEST(ComponentEditorTest, NamesFollowTheDesign)
+TEST(ComponentEditor, NamesFollowTheDesign)
 {
     EditedVec2f vec2("1 2");
     EXPECT_EQ(inputs<QLineEdit>(vec2)[0]->objectName(), "SFVec2fBox");
@@ -191,14 +191,14 @@ TEST(ComponentEditorTest, NamesFollowTheDesign)
     EXPECT_EQ(captions(rotation).last(), "<p>radians</p>");
 }
 
-TEST(ComponentEditorTest, PlaneKeepsTheNumbersTyped)
+TEST(ComponentEditor, PlaneKeepsTheNumbersTyped)
 {
     EditedPlane edited("0 0 1 2");
     person::typeAndEnter(inputs<QLineEdit>(edited)[2], "5");
     EXPECT_EQ(edited.text(), "0 0 5 2");
 }
 
-TEST(ComponentEditorTest, RotationIsShownAsAxisAndAngle)
+TEST(ComponentEditor, RotationIsShownAsAxisAndAngle)
 {
     EditedRotation edited("0 0 0 1");
     edited.field.setValue(SbRotation(SbVec3f(0, 0, 1), 1.5F));
@@ -216,7 +216,7 @@ TEST(ComponentEditorTest, RotationIsShownAsAxisAndAngle)
     EXPECT_EQ(lines[3]->text(), "1.5");
 }
 
-TEST(ComponentEditorTest, RotationLeftByAClickElsewhereIsApplied)
+TEST(ComponentEditor, RotationLeftByAClickElsewhereIsApplied)
 {
     EditedRotation edited("0 0 1 1.5");
     person::type(inputs<QLineEdit>(edited)[3], "0");
@@ -225,7 +225,7 @@ TEST(ComponentEditorTest, RotationLeftByAClickElsewhereIsApplied)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(ComponentEditorTest, RotationLeftByAFocusEventIsApplied)
+TEST(ComponentEditor, RotationLeftByAFocusEventIsApplied)
 {
     EditedRotation edited("0 0 1 1.5");
     person::type(inputs<QLineEdit>(edited)[3], "0.5");
@@ -235,7 +235,7 @@ TEST(ComponentEditorTest, RotationLeftByAFocusEventIsApplied)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(ComponentEditorTest, ShowingARotationNeverChangesItsBits)
+TEST(ComponentEditor, ShowingARotationNeverChangesItsBits)
 {
     EditedRotation edited("0.267261237 0.534522474 0.801783681 1.23456788");
     const std::string before = edited.text();
@@ -247,7 +247,7 @@ TEST(ComponentEditorTest, ShowingARotationNeverChangesItsBits)
 
 // --- Spin boxes
 
-TEST(SpinBoxEditorTest, EveryStepIsAppliedAtOnce)
+TEST(SpinBoxEditor, EveryStepIsAppliedAtOnce)
 {
     EditedVec2i32 edited("1 2");
     QSpinBox* box = inputs<QSpinBox>(edited)[0];
@@ -262,7 +262,7 @@ TEST(SpinBoxEditorTest, EveryStepIsAppliedAtOnce)
     EXPECT_EQ(edited.commands(), 2) << "showing is not editing";
 }
 
-TEST(SpinBoxEditorTest, ChangeFromElsewhereShowsBothNumbers)
+TEST(SpinBoxEditor, ChangeFromElsewhereShowsBothNumbers)
 {
     EditedVec2s edited("1 2");
     edited.change("5 6");
@@ -272,7 +272,7 @@ TEST(SpinBoxEditorTest, ChangeFromElsewhereShowsBothNumbers)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(SpinBoxEditorTest, StopsWhereTheTypeStops)
+TEST(SpinBoxEditor, StopsWhereTheTypeStops)
 {
     EditedVec2s shorts("32766 2");
     QSpinBox* box = inputs<QSpinBox>(shorts)[0];
@@ -292,7 +292,7 @@ TEST(SpinBoxEditorTest, StopsWhereTheTypeStops)
         << "Ctrl+Z would take back letters, not the edit";
 }
 
-TEST(SpinBoxEditorTest, UntouchedNeighbourKeepsWhatTheFieldHas)
+TEST(SpinBoxEditor, UntouchedNeighbourKeepsWhatTheFieldHas)
 {
     EditedVec2i32 edited("1 2");
     edited.field.set("1 99"); // not shown yet

@@ -10,7 +10,7 @@
 
 class QWidget;
 
-/// What a person sees and does in the editor of each type: one row for each place where a value is edited.
+/// What a user sees and does in the editor of each type: one row for each place where a value is edited.
 struct EditorRow {
     enum Place { Own, General, Grid }; // an editor of its own, the general one, or the grid of its own
     enum Applied { AtTheEnd, AtEachKey };
@@ -19,7 +19,7 @@ struct EditorRow {
     Place place;
     std::vector<std::string> values;
     std::vector<std::string> shown; // of the first two values: what the inputs show, with '|' between them
-    int input;                      // which of the inputs the person takes; -1 where there is none
+    int input;                      // which of the inputs the user takes; -1 where there is none
     const char* keys;               // what is typed into it
     const char* applied;            // what the first value becomes by that
     int commands;                   // that are recorded for it
@@ -39,11 +39,11 @@ const std::vector<EditorRow>& editorRows();
 QList<QWidget*> inputsOf(const EditorRow& row, QWidget* editor);
 /// The same, for the lines among them that somebody types into.
 QList<QWidget*> linesOf(const EditorRow& row, QWidget* editor);
-/// Everything that the keyboard goes through, in reading order.
+/// All stops of the Tab key, in reading order.
 QList<QWidget*> stopsOf(const EditorRow& row, QWidget* editor);
 std::string shownIn(const EditorRow& row, QWidget* editor);
 
-/// Opens the grid where the row is in one, as a person does.
+/// Opens the grid where the row is in one, as a user does.
 void open(const EditorRow& row, QWidget* editor);
 /// Types without ending it. Every key counts: what stood there is replaced.
 void typeInto(QWidget* input, const QString& keys);

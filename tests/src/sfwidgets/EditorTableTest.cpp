@@ -12,7 +12,7 @@
 namespace
 {
 
-class EveryEditorTest : public Gallery, public testing::WithParamInterface<EditorRow>
+class EveryEditor : public Gallery, public testing::WithParamInterface<EditorRow>
 {
 protected:
     void SetUp() override
@@ -63,7 +63,7 @@ protected:
             return QStringLiteral("-2147483648");
         return type == "SFColor" ? QStringLiteral("0.501961") : QStringLiteral("-0.123457");
     }
-    // What the person types, not ended where it can wait.
+    // What the user types, without Enter where the editor waits for it.
     void type()
     {
         if (canEdit())
@@ -82,16 +82,16 @@ protected:
     QWidget* m_editor = nullptr;
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, EveryEditorTest, testing::ValuesIn(editorRows()),
+INSTANTIATE_TEST_SUITE_P(Rows, EveryEditor, testing::ValuesIn(editorRows()),
                          [](const auto& info) { return info.param.name(); });
 
-class EditorRowsTest : public Gallery
+class EditorRows : public Gallery
 {
 };
 
 } // namespace
 
-TEST_F(EditorRowsTest, HaveEveryEditor)
+TEST_F(EditorRows, HaveEveryEditor)
 {
     std::set<std::string> editors;
     std::set<std::string> rows;
@@ -103,7 +103,7 @@ TEST_F(EditorRowsTest, HaveEveryEditor)
     EXPECT_EQ(rows.size(), 24U);
 }
 
-TEST_P(EveryEditorTest, ShowsTheValue)
+TEST_P(EveryEditor, ShowsTheValue)
 {
     EXPECT_EQ(m_editor->findChild<QLabel*>("m_label")->text().toStdString(),
               "<p align=\"center\">" + row().editor() + "</p>");
@@ -113,7 +113,7 @@ TEST_P(EveryEditorTest, ShowsTheValue)
     EXPECT_EQ(commands(), 0);
 }
 
-TEST_P(EveryEditorTest, AppliesWhatIsEntered)
+TEST_P(EveryEditor, AppliesWhatIsEntered)
 {
     typeAndEnter();
     EXPECT_EQ(text(), row().applied);
@@ -130,11 +130,11 @@ TEST_P(EveryEditorTest, AppliesWhatIsEntered)
     EXPECT_EQ(commands(), isText ? 1 : 0) << "only texts are applied whenever editing ends";
 }
 
-TEST_P(EveryEditorTest, UndoRestoresAndRedoAppliesAgain)
+TEST_P(EveryEditor, UndoRestoresAndRedoAppliesAgain)
 {
     typeAndEnter();
     if (row().commands == 0)
-        return; // nothing to edit, or not recorded, which is meant
+        return; // nothing to edit, or not recorded (decisions.md: bit-mask-no-undo)
     undoAll();
     EXPECT_EQ(text(), value(0));
     EXPECT_EQ(shown(), row().shown[0]);
@@ -144,7 +144,7 @@ TEST_P(EveryEditorTest, UndoRestoresAndRedoAppliesAgain)
     EXPECT_EQ(commands(), row().commands);
 }
 
-TEST_P(EveryEditorTest, ShowsAChangeFromElsewhere)
+TEST_P(EveryEditor, ShowsAChangeFromElsewhere)
 {
     m_field->set(value(1).c_str());
     TestHost::pump();
@@ -156,7 +156,7 @@ TEST_P(EveryEditorTest, ShowsAChangeFromElsewhere)
     EXPECT_EQ(text(), value(0));
 }
 
-TEST_P(EveryEditorTest, DefaultIsOneCommandThatUndoes)
+TEST_P(EveryEditor, DefaultIsOneCommandThatUndoes)
 {
     const std::string fresh = textOf(*fieldOf(addNode(), row().type));
     const int number = value(0) == fresh ? 1 : 0;
@@ -174,7 +174,7 @@ TEST_P(EveryEditorTest, DefaultIsOneCommandThatUndoes)
     EXPECT_EQ(text(), fresh);
 }
 
-TEST_P(EveryEditorTest, IgnoreIsOneCommandThatUndoes)
+TEST_P(EveryEditor, IgnoreIsOneCommandThatUndoes)
 {
     QPushButton* ignore = button("m_ignoreButton");
     QTest::mouseClick(ignore, Qt::LeftButton);
@@ -190,7 +190,7 @@ TEST_P(EveryEditorTest, IgnoreIsOneCommandThatUndoes)
     EXPECT_EQ(text(), value(0));
 }
 
-TEST_P(EveryEditorTest, ShowingTenFieldsInTurnRecordsNothing)
+TEST_P(EveryEditor, ShowingTenFieldsInTurnRecordsNothing)
 {
     std::vector<SoSField*> fields;
     std::vector<std::string> before;
@@ -206,7 +206,7 @@ TEST_P(EveryEditorTest, ShowingTenFieldsInTurnRecordsNothing)
     EXPECT_EQ(commands(), 0);
 }
 
-TEST_P(EveryEditorTest, TypingThatWaitsGoesToItsFieldOnceAndToNoOther)
+TEST_P(EveryEditor, UnappliedTypingIsWrittenOnceToItsOwnField)
 {
     SoSField* next = another(1);
     const std::string before = textOf(*next);
@@ -227,7 +227,7 @@ TEST_P(EveryEditorTest, TypingThatWaitsGoesToItsFieldOnceAndToNoOther)
     EXPECT_EQ(commands(), row().commands);
 }
 
-TEST_P(EveryEditorTest, TextThatIsNoNumberIsNotForTheNextField)
+TEST_P(EveryEditor, TextThatIsNoNumberIsNotWrittenToTheNextField)
 {
     for (QWidget* line : lines()) {
         if (!isNumbers())
@@ -241,7 +241,7 @@ TEST_P(EveryEditorTest, TextThatIsNoNumberIsNotForTheNextField)
     }
 }
 
-TEST_P(EveryEditorTest, TabGoesThroughTheInputsInReadingOrder)
+TEST_P(EveryEditor, TabMovesThroughTheInputsInReadingOrder)
 {
     const QList<QWidget*> stops = stopsOf(row(), m_editor);
     for (QWidget* input : inputsOf(row(), m_editor))
@@ -254,7 +254,7 @@ TEST_P(EveryEditorTest, TabGoesThroughTheInputsInReadingOrder)
     }
 }
 
-TEST_P(EveryEditorTest, EnterInEachLineApplies)
+TEST_P(EveryEditor, EnterInEachLineApplies)
 {
     for (QWidget* line : lines()) {
         const std::string before = text();
@@ -267,7 +267,7 @@ TEST_P(EveryEditorTest, EnterInEachLineApplies)
     }
 }
 
-TEST_P(EveryEditorTest, EscapeInEachLineBringsTheShownValueBack)
+TEST_P(EveryEditor, EscapeInEachLineBringsTheShownValueBack)
 {
     for (QWidget* line : lines()) {
         // Where each key is applied, what the field refuses is all that can be taken back.
@@ -282,7 +282,7 @@ TEST_P(EveryEditorTest, EscapeInEachLineBringsTheShownValueBack)
     }
 }
 
-TEST_P(EveryEditorTest, RefusedTextStaysForMendingAndLeavesTheField)
+TEST_P(EveryEditor, RefusedTextStaysForMendingAndLeavesTheField)
 {
     const QList<QWidget*> found = lines();
     auto* line = found.isEmpty() ? nullptr : qobject_cast<QLineEdit*>(found.first());
@@ -300,7 +300,7 @@ TEST_P(EveryEditorTest, RefusedTextStaysForMendingAndLeavesTheField)
     EXPECT_EQ(commands(), isOneNumber ? 4 : 0);
 }
 
-TEST_P(EveryEditorTest, HasRoomForItsNumbersInTheNarrowestDock)
+TEST_P(EveryEditor, HasRoomForItsNumbersInTheNarrowestDock)
 {
     m_editor->window()->resize(m_editor->window()->minimumSizeHint());
     TestHost::pump();
@@ -317,7 +317,7 @@ TEST_P(EveryEditorTest, HasRoomForItsNumbersInTheNarrowestDock)
     }
 }
 
-TEST_P(EveryEditorTest, EachInputHasAName)
+TEST_P(EveryEditor, EachInputHasAName)
 {
     const QList<QWidget*> inputs = inputsOf(row(), m_editor);
     ASSERT_FALSE(inputs.isEmpty());
@@ -325,7 +325,7 @@ TEST_P(EveryEditorTest, EachInputHasAName)
         EXPECT_FALSE(input->accessibleName().isEmpty()) << input->metaObject()->className();
 }
 
-TEST_P(EveryEditorTest, CanBeUnloadedAndLoadedAgain)
+TEST_P(EveryEditor, CanBeUnloadedAndLoadedAgain)
 {
     const int children = m_editor->findChildren<QObject*>().size();
     for (int i = 0; i < 2; ++i) {

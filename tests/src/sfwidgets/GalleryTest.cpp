@@ -15,10 +15,10 @@
 namespace
 {
 
-class GalleryTest : public Gallery
+class GalleryFields : public Gallery
 {
 protected:
-    // Changes the value the way a person would.
+    // Changes the value the way a user would.
     static void edit(QWidget* editor)
     {
         if (auto* slider = editor->findChild<EdSlider*>())
@@ -46,7 +46,7 @@ protected:
 
 } // namespace
 
-TEST_F(GalleryTest, EveryFieldOpensInItsOwnEditorOrInTheGeneralOne)
+TEST_F(GalleryFields, EveryFieldOpensInItsOwnEditorOrInTheGeneralOne)
 {
     std::map<std::string, std::string> expected;
     for (const auto& editor : m_editors)
@@ -59,7 +59,7 @@ TEST_F(GalleryTest, EveryFieldOpensInItsOwnEditorOrInTheGeneralOne)
     }
 }
 
-TEST_F(GalleryTest, ShowingEveryFieldWritesAndRecordsNothing)
+TEST_F(GalleryFields, ShowingEveryFieldWritesAndRecordsNothing)
 {
     std::vector<std::string> before;
     for (const SoSField* field : m_fields)
@@ -74,7 +74,7 @@ TEST_F(GalleryTest, ShowingEveryFieldWritesAndRecordsNothing)
     EXPECT_EQ(commands(), 0);
 }
 
-TEST_F(GalleryTest, EveryEditIsUndoneByteForByteAndRedone)
+TEST_F(GalleryFields, EveryEditIsUndoneByteForByteAndRedone)
 {
     for (SoSField* field : m_fields) {
         const std::string type = typeOf(field);
@@ -86,7 +86,7 @@ TEST_F(GalleryTest, EveryEditIsUndoneByteForByteAndRedone)
         const std::string after = textOf(*field);
         const bool isFixed = type == "SFImage" || type == "SFNode"; // nothing that typing could change
         EXPECT_EQ(after == before, isFixed) << type << ' ' << after;
-        if (type == "SFBitMask") { // leaves nothing to undo, which is meant
+        if (type == "SFBitMask") { // decisions.md: bit-mask-no-undo
             EXPECT_EQ(commands(), 0);
             field->set(before.c_str());
             continue;
@@ -102,7 +102,7 @@ TEST_F(GalleryTest, EveryEditIsUndoneByteForByteAndRedone)
 }
 
 // The pictures of the documentation come from here: SCOPIX_PICTURES names the folder that they go to.
-TEST_F(GalleryTest, EveryEditorFitsIntoANarrowDock)
+TEST_F(GalleryFields, EveryEditorFitsIntoANarrowDock)
 {
     const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
     for (SoSField* field : m_fields) {

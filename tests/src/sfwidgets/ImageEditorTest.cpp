@@ -44,7 +44,7 @@ std::vector<unsigned char> bytes(std::size_t count)
 
 } // namespace
 
-TEST(ImageEditorTest, ColouredRowsAreTurnedOver)
+TEST(ImageEditor, ColouredRowsAreTurnedOver)
 {
     EditedImage edited;
     edited.set(3, 2, 3, bytes(18));
@@ -55,7 +55,7 @@ TEST(ImageEditorTest, ColouredRowsAreTurnedOver)
     EXPECT_EQ(picture.pixelColor(2, 1), QColor(b[6], b[7], b[8]));
 }
 
-TEST(ImageEditorTest, FirstPixelOfTheLastRowIsAtTheTopLeftOnTheScreen)
+TEST(ImageEditor, FirstPixelOfTheLastRowIsAtTheTopLeftOnTheScreen)
 {
     constexpr int Size = 64;
     std::vector<unsigned char> pixels(std::size_t(Size * Size * 3));
@@ -72,7 +72,7 @@ TEST(ImageEditorTest, FirstPixelOfTheLastRowIsAtTheTopLeftOnTheScreen)
     EXPECT_EQ(screen.pixelColor(frame, frame + Size - 1), QColor(0, 0, 0));
 }
 
-TEST(ImageEditorTest, FourthComponentIsOpacity)
+TEST(ImageEditor, FourthComponentIsOpacity)
 {
     EditedImage edited;
     edited.set(1, 1, 4, {10, 20, 30, 255});
@@ -81,7 +81,7 @@ TEST(ImageEditorTest, FourthComponentIsOpacity)
     EXPECT_EQ(edited.picture().pixelColor(0, 0).alpha(), 0);
 }
 
-TEST(ImageEditorTest, GreyRowsStayAndMayHaveAnyWidth)
+TEST(ImageEditor, GreyRowsStayAndMayHaveAnyWidth)
 {
     EditedImage edited;
     edited.set(3, 3, 1, bytes(9));
@@ -91,7 +91,7 @@ TEST(ImageEditorTest, GreyRowsStayAndMayHaveAnyWidth)
     EXPECT_EQ(picture.pixelColor(2, 2), QColor(b[8], b[8], b[8]));
 }
 
-TEST(ImageEditorTest, TwoComponentsAreReadAs565)
+TEST(ImageEditor, TwoComponentsAreReadAs565)
 {
     EditedImage edited;
     edited.set(1, 2, 2, {0x00, 0xf8, 0x1f, 0x00});
@@ -99,7 +99,7 @@ TEST(ImageEditorTest, TwoComponentsAreReadAs565)
     EXPECT_EQ(edited.picture().pixelColor(0, 1), QColor(0, 0, 255));
 }
 
-TEST(ImageEditorTest, PictureWithoutDataOrTooLargeIsEmpty)
+TEST(ImageEditor, PictureWithoutDataOrTooLargeIsEmpty)
 {
     EditedImage edited;
     edited.set(4, 4, 3, {});
@@ -116,7 +116,7 @@ TEST(ImageEditorTest, PictureWithoutDataOrTooLargeIsEmpty)
     EXPECT_EQ(pixmap.size(), QSize(2, 2));
 }
 
-TEST(ImageEditorTest, ThumbnailForgetsThePictureBefore)
+TEST(ImageEditor, ThumbnailForgetsThePictureBefore)
 {
     EditedImage edited;
     for (const int size : {4, 30000}) {
@@ -132,14 +132,14 @@ TEST(ImageEditorTest, ThumbnailForgetsThePictureBefore)
     }
 }
 
-TEST(ImageEditorTest, PictureBeyondAnySenseIsNotCopied)
+TEST(ImageEditor, HugePictureIsNotCopied)
 {
     EditedImage edited;
     edited.set(40000, 1000, 1, std::vector<unsigned char>(40000000));
     EXPECT_TRUE(edited.picture().isNull());
 }
 
-TEST(ImageEditorTest, EnlargedViewIsAtMost256Wide)
+TEST(ImageEditor, EnlargedViewIsAtMost256Wide)
 {
     EditedImage edited;
     edited.set(512, 128, 3, bytes(512 * 128 * 3));
@@ -149,7 +149,7 @@ TEST(ImageEditorTest, EnlargedViewIsAtMost256Wide)
     EXPECT_EQ(edited.view()->windowType(), Qt::ToolTip) << "it takes no focus and counts as no window";
 }
 
-TEST(ImageEditorTest, ViewOpensUnderThePointerStaysAndGoesWithIt)
+TEST(ImageEditor, ViewOpensAndClosesWithThePointer)
 {
     EditedImage edited;
     edited.set(64, 64, 3, bytes(64 * 64 * 3));
@@ -164,7 +164,7 @@ TEST(ImageEditorTest, ViewOpensUnderThePointerStaysAndGoesWithIt)
     EXPECT_TRUE(TestHost::waitFor([&] { return !edited.view()->isVisible(); }));
 }
 
-TEST(ImageEditorTest, ViewGoesWithTheEditor)
+TEST(ImageEditor, ViewClosesWithTheEditor)
 {
     EditedImage edited;
     edited.set(64, 64, 3, bytes(64 * 64 * 3));
@@ -174,7 +174,7 @@ TEST(ImageEditorTest, ViewGoesWithTheEditor)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(ImageEditorTest, CopiesBuffers)
+TEST(ImageEditor, CopiesBuffers)
 {
     const std::vector<unsigned char> source = bytes(37);
     unsigned char* copy = EdSFImageWidget::copyBuffer(source.data(), 37);

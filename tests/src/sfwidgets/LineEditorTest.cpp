@@ -64,7 +64,7 @@ constexpr const char* Matrix = "1 2 3 4  5 6 7 8  9 10 11 12  13 14 15 16.000001
 
 } // namespace
 
-TEST(LineEditorTest, EveryKeystrokeIsAppliedTwice)
+TEST(LineEditor, EveryKeystrokeIsAppliedTwice)
 {
     TestHost host;
     NotingField field;
@@ -87,7 +87,7 @@ TEST(LineEditorTest, EveryKeystrokeIsAppliedTwice)
     host.release(editor);
 }
 
-TEST(LineEditorTest, IsTheEditorOfEveryFieldWithoutOne)
+TEST(LineEditor, IsTheEditorOfEveryFieldWithoutOne)
 {
     EditedField<EdSFLineWidget, SoSFVec3d> edited("1 2 3");
     EXPECT_EQ(edited.editor.getName().str(), "SField");
@@ -101,7 +101,7 @@ TEST(LineEditorTest, IsTheEditorOfEveryFieldWithoutOne)
     EXPECT_EQ(edited.shown(), "1 2 3");
 }
 
-TEST(LineEditorTest, RefusedTextStaysForMending)
+TEST(LineEditor, RefusedTextStaysForMending)
 {
     EditedLine edited("2.5");
     person::focus(edited.edit());
@@ -117,7 +117,7 @@ TEST(LineEditorTest, RefusedTextStaysForMending)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(LineEditorTest, CursorStaysWhereThePersonTypes)
+TEST(LineEditor, CursorStaysWhereTheUserTypes)
 {
     EditedLine edited("125");
     person::focus(edited.edit());
@@ -128,7 +128,7 @@ TEST(LineEditorTest, CursorStaysWhereThePersonTypes)
     EXPECT_EQ(edited.edit()->cursorPosition(), 2);
 }
 
-TEST(LineEditorTest, ChangeFromElsewhereReplacesTyping)
+TEST(LineEditor, ChangeFromElsewhereReplacesTyping)
 {
     EditedLine edited("1");
     person::type(edited.edit(), "x");
@@ -136,7 +136,7 @@ TEST(LineEditorTest, ChangeFromElsewhereReplacesTyping)
     EXPECT_EQ(edited.shown(), "7");
 }
 
-TEST(LineEditorTest, UndoReplacesWhatWasTyped)
+TEST(LineEditor, UndoReplacesWhatWasTyped)
 {
     EditedLine edited("1");
     person::type(edited.edit(), "7");
@@ -146,7 +146,7 @@ TEST(LineEditorTest, UndoReplacesWhatWasTyped)
     EXPECT_EQ(edited.commands(), 2);
 }
 
-TEST(PopupEditorTest, EveryNumberOfAMatrixIsReadWhole)
+TEST(PopupEditor, EveryNumberOfAMatrixIsReadWhole)
 {
     EditedMatrix edited("1 0 0 0 0 1 0 0 0 0 1 0 0 0 -2.34567e-08 1");
     open(edited);
@@ -161,7 +161,7 @@ TEST(PopupEditorTest, EveryNumberOfAMatrixIsReadWhole)
     }
 }
 
-TEST(PopupEditorTest, SecondClickHidesTheGrid)
+TEST(PopupEditor, SecondClickHidesTheGrid)
 {
     EditedBox edited("1 2 3 4 5 6");
     QFrame* popup = popupOf(edited);
@@ -174,7 +174,7 @@ TEST(PopupEditorTest, SecondClickHidesTheGrid)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(PopupEditorTest, OpensBesideTheButtonAndStaysOnTheDesktop)
+TEST(PopupEditor, OpensBesideTheButtonAndStaysOnTheDesktop)
 {
     EditedBox edited("1 2 3 4 5 6");
     QFrame* popup = popupOf(edited);
@@ -195,7 +195,7 @@ TEST(PopupEditorTest, OpensBesideTheButtonAndStaysOnTheDesktop)
     EXPECT_NEAR(moved.y(), -(popup->height() + button->height()), Tolerance);
 }
 
-TEST(PopupEditorTest, BoxShowsItsCornersInRows)
+TEST(PopupEditor, BoxShowsItsCornersInRows)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);
@@ -205,7 +205,7 @@ TEST(PopupEditorTest, BoxShowsItsCornersInRows)
     EXPECT_EQ(line(edited)->text(), "1 2 3 4 5 6");
 }
 
-TEST(PopupEditorTest, EnterInACellAppliesOnce)
+TEST(PopupEditor, EnterInACellAppliesOnce)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);
@@ -221,7 +221,7 @@ TEST(PopupEditorTest, EnterInACellAppliesOnce)
     EXPECT_EQ(cell(edited, 1, 1)->text(), "5");
 }
 
-TEST(PopupEditorTest, SixteenBitsStopTyping)
+TEST(PopupEditor, SixteenBitsStopTyping)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);
@@ -229,7 +229,7 @@ TEST(PopupEditorTest, SixteenBitsStopTyping)
     EXPECT_EQ(cell(edited, 0, 0)->text(), "4000");
 }
 
-TEST(PopupEditorTest, EmptyCellIsZero)
+TEST(PopupEditor, EmptyCellIsZero)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);
@@ -238,7 +238,7 @@ TEST(PopupEditorTest, EmptyCellIsZero)
     EXPECT_EQ(edited.text(), "0 9 3 4 5 6");
 }
 
-TEST(PopupEditorTest, OwnLineTakesTypingLikeTheGeneralOne)
+TEST(PopupEditor, OwnLineTakesTypingLikeTheGeneralOne)
 {
     EditedBox edited("1 2 3 4 5 6");
     person::type(line(edited), "9 2 3 4 5 6");
@@ -251,7 +251,7 @@ TEST(PopupEditorTest, OwnLineTakesTypingLikeTheGeneralOne)
     EXPECT_EQ(edited.commands(), commands);
 }
 
-TEST(PopupEditorTest, MatrixIsShownTransposed)
+TEST(PopupEditor, MatrixIsShownTransposed)
 {
     EditedMatrix edited(Matrix);
     open(edited);
@@ -266,7 +266,7 @@ TEST(PopupEditorTest, MatrixIsShownTransposed)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(PopupEditorTest, GridGoesWithTheEditor)
+TEST(PopupEditor, GridClosesWithTheEditor)
 {
     EditedMatrix edited(Matrix);
     open(edited);
@@ -277,7 +277,7 @@ TEST(PopupEditorTest, GridGoesWithTheEditor)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(PopupEditorTest, TabGoesThroughTheCellsInReadingOrder)
+TEST(PopupEditor, TabMovesThroughTheCellsInReadingOrder)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);

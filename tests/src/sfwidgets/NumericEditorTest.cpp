@@ -31,16 +31,16 @@ using EditedUInt32 = EditedField<EdSFUInt32Widget, SoSFUInt32>;
 using EditedUShort = EditedField<EdSFUShortWidget, SoSFUShort>;
 
 template <class Edited>
-class NumericEditorTest : public testing::Test
+class NumericEditor : public testing::Test
 {
 };
 using AllEditors =
     testing::Types<EditedFloat, EditedDouble, EditedInt32, EditedShort, EditedUInt32, EditedUShort>;
-TYPED_TEST_SUITE(NumericEditorTest, AllEditors);
+TYPED_TEST_SUITE(NumericEditor, AllEditors);
 
 } // namespace
 
-TYPED_TEST(NumericEditorTest, CarriesTheNamesOfItsFieldType)
+TYPED_TEST(NumericEditor, CarriesTheNamesOfItsFieldType)
 {
     TypeParam edited("5");
     const std::string type = edited.field.getTypeId().getName().getString();
@@ -51,7 +51,7 @@ TYPED_TEST(NumericEditorTest, CarriesTheNamesOfItsFieldType)
               "<p align=\"center\">" + type + "</p>");
 }
 
-TYPED_TEST(NumericEditorTest, AppliesTypingOnceAndUndoes)
+TYPED_TEST(NumericEditor, AppliesTypingOnceAndUndoes)
 {
     TypeParam edited("5");
     person::typeAndEnter(edited.edit(), "7");
@@ -68,7 +68,7 @@ TYPED_TEST(NumericEditorTest, AppliesTypingOnceAndUndoes)
     EXPECT_EQ(edited.edit()->text().toDouble(), 7);
 }
 
-TYPED_TEST(NumericEditorTest, AppliesADragAndUndoesItToTheValueBefore)
+TYPED_TEST(NumericEditor, AppliesADragAndUndoesItToTheValueBefore)
 {
     TypeParam edited("5");
     person::drag(edited.slider(), {edited.slider()->maximum()});
@@ -80,7 +80,7 @@ TYPED_TEST(NumericEditorTest, AppliesADragAndUndoesItToTheValueBefore)
     EXPECT_EQ(edited.text(), "5");
 }
 
-TYPED_TEST(NumericEditorTest, DragWithoutLiveUpdateIsOneCommand)
+TYPED_TEST(NumericEditor, DragWithoutLiveUpdateIsOneCommand)
 {
     TypeParam edited("5");
     QTest::mouseClick(edited.live(), Qt::LeftButton, {}, {5, edited.live()->height() / 2});
@@ -96,7 +96,7 @@ TYPED_TEST(NumericEditorTest, DragWithoutLiveUpdateIsOneCommand)
     EXPECT_EQ(edited.text(), "5");
 }
 
-TYPED_TEST(NumericEditorTest, ShowsChangesFromElsewhereAndRecordsNothing)
+TYPED_TEST(NumericEditor, ShowsChangesFromElsewhereAndRecordsNothing)
 {
     TypeParam edited("5");
     edited.change("9");
@@ -111,7 +111,7 @@ TYPED_TEST(NumericEditorTest, ShowsChangesFromElsewhereAndRecordsNothing)
     EXPECT_EQ(edited.text(), "200");
 }
 
-TYPED_TEST(NumericEditorTest, IgnoreButtonIsOneCommand)
+TYPED_TEST(NumericEditor, IgnoreButtonIsOneCommand)
 {
     TypeParam edited("5");
     QTest::mouseClick(edited.ignoreButton(), Qt::LeftButton);
@@ -123,7 +123,7 @@ TYPED_TEST(NumericEditorTest, IgnoreButtonIsOneCommand)
     EXPECT_TRUE(edited.field.isIgnored());
 }
 
-TYPED_TEST(NumericEditorTest, IgnoreButtonLeftWhilePressedRecordsNothing)
+TYPED_TEST(NumericEditor, IgnoreButtonLeftWhilePressedRecordsNothing)
 {
     TypeParam edited("5");
     QPushButton* button = edited.ignoreButton();
@@ -135,7 +135,7 @@ TYPED_TEST(NumericEditorTest, IgnoreButtonLeftWhilePressedRecordsNothing)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TYPED_TEST(NumericEditorTest, LeavingUntouchedAppliesNothing)
+TYPED_TEST(NumericEditor, LeavingUntouchedAppliesNothing)
 {
     TypeParam edited("5");
     person::focus(edited.edit());
@@ -143,7 +143,7 @@ TYPED_TEST(NumericEditorTest, LeavingUntouchedAppliesNothing)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TYPED_TEST(NumericEditorTest, TypingAWaitingValueGoesToTheOldFieldOnce)
+TYPED_TEST(NumericEditor, UnappliedTypingIsWrittenToTheOldFieldOnce)
 {
     TypeParam edited("5");
     auto other = std::make_unique<std::decay_t<decltype(edited.field)>>();
@@ -159,7 +159,7 @@ TYPED_TEST(NumericEditorTest, TypingAWaitingValueGoesToTheOldFieldOnce)
     edited.host.release(edited.editor);
 }
 
-TYPED_TEST(NumericEditorTest, UnfinishedTypingIsDroppedWithTheField)
+TYPED_TEST(NumericEditor, UnfinishedTypingIsDroppedWithTheField)
 {
     TypeParam edited("5");
     person::type(edited.edit(), "-");
@@ -168,7 +168,7 @@ TYPED_TEST(NumericEditorTest, UnfinishedTypingIsDroppedWithTheField)
     EXPECT_FALSE(edited.editor.getWidget()->isVisible());
 }
 
-TYPED_TEST(NumericEditorTest, WritesNothingWithoutAField)
+TYPED_TEST(NumericEditor, WritesNothingWithoutAField)
 {
     TypeParam edited("5");
     edited.host.release(edited.editor);
@@ -180,7 +180,7 @@ TYPED_TEST(NumericEditorTest, WritesNothingWithoutAField)
     EXPECT_EQ(edited.text(), "5");
 }
 
-TYPED_TEST(NumericEditorTest, SurvivesAFieldThatGoes)
+TYPED_TEST(NumericEditor, SurvivesTheEndOfItsField)
 {
     TypeParam edited("5");
     auto other = std::make_unique<std::decay_t<decltype(edited.field)>>();
@@ -193,7 +193,7 @@ TYPED_TEST(NumericEditorTest, SurvivesAFieldThatGoes)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TYPED_TEST(NumericEditorTest, GoesWhileItIsFocusedAndTyped)
+TYPED_TEST(NumericEditor, MayBeDestroyedWhileTheUserTypes)
 {
     auto field = std::make_unique<decltype(TypeParam::field)>();
     TestHost host;
@@ -221,7 +221,7 @@ public:
     }
 };
 
-TEST(RealEditorTest, TakesTheUnitRangeInThreeKindsOfNodes)
+TEST(RealEditor, TakesTheUnitRangeInThreeKindsOfNodes)
 {
     TestHost host;
     EdSFFloatWidget editor(nullptr);
@@ -243,7 +243,7 @@ TEST(RealEditorTest, TakesTheUnitRangeInThreeKindsOfNodes)
     host.release(editor);
 }
 
-TEST(RealEditorTest, RangeGrowsToTheValueAlsoWhenItIsFixed)
+TEST(RealEditor, RangeGrowsToTheValueAlsoWhenItIsFixed)
 {
     TestHost host;
     EdSFFloatWidget editor(nullptr);
@@ -257,7 +257,7 @@ TEST(RealEditorTest, RangeGrowsToTheValueAlsoWhenItIsFixed)
     host.release(editor);
 }
 
-TEST(RealEditorTest, DragInAMaterialIsUndoneToItsText)
+TEST(RealEditor, DragInAMaterialIsUndoneToItsText)
 {
     TestHost host;
     EdSFFloatWidget editor(nullptr);
@@ -273,7 +273,7 @@ TEST(RealEditorTest, DragInAMaterialIsUndoneToItsText)
     host.release(editor);
 }
 
-TEST(RealEditorTest, DefaultIsOneCommandThatUndoes)
+TEST(RealEditor, DefaultIsOneCommandThatUndoes)
 {
     TestHost host;
     EdSFFloatWidget editor(nullptr);
@@ -289,7 +289,7 @@ TEST(RealEditorTest, DefaultIsOneCommandThatUndoes)
     host.release(editor);
 }
 
-TEST(RealEditorTest, FieldOnItsOwnHasNoDefault)
+TEST(RealEditor, FieldOnItsOwnHasNoDefault)
 {
     EditedFloat edited("5");
     QTest::mouseClick(edited.defaultButton(), Qt::LeftButton);
@@ -297,7 +297,7 @@ TEST(RealEditorTest, FieldOnItsOwnHasNoDefault)
     EXPECT_EQ(edited.text(), "5");
 }
 
-TEST(RealEditorTest, ShowsSixDecimalsAndAppliesThem)
+TEST(RealEditor, ShowsSixDecimalsAndAppliesThem)
 {
     EditedFloat edited("4e-07");
     EXPECT_EQ(edited.shown(), "0.000000");
@@ -305,7 +305,7 @@ TEST(RealEditorTest, ShowsSixDecimalsAndAppliesThem)
     EXPECT_EQ(edited.text(), "0");
 }
 
-TEST(RealEditorTest, UndoOfTypingRestoresEveryBit)
+TEST(RealEditor, UndoOfTypingRestoresEveryBit)
 {
     EditedFloat edited("0.123456791");
     const float before = edited.field.getValue();
@@ -315,7 +315,7 @@ TEST(RealEditorTest, UndoOfTypingRestoresEveryBit)
     EXPECT_EQ(edited.field.getValue(), before);
 }
 
-TEST(RealEditorTest, ShowsWhatIsNotFinite)
+TEST(RealEditor, ShowsWhatIsNotFinite)
 {
     EditedDouble edited("5");
     edited.field.setValue(std::numeric_limits<double>::infinity());
@@ -328,7 +328,7 @@ TEST(RealEditorTest, ShowsWhatIsNotFinite)
     EXPECT_EQ(edited.commands(), 0);
 }
 
-TEST(RealEditorTest, UnfixedRangeOfAMaterialFieldClampsTyping)
+TEST(RealEditor, UnfixedRangeOfAMaterialFieldClampsTyping)
 {
     TestHost host;
     EdSFFloatWidget editor(nullptr);
@@ -342,7 +342,7 @@ TEST(RealEditorTest, UnfixedRangeOfAMaterialFieldClampsTyping)
     host.release(editor);
 }
 
-TEST(IntegerEditorTest, StartsWithTheRangeOfAllNodes)
+TEST(IntegerEditor, StartsWithTheRangeOfAllNodes)
 {
     EditedInt32 edited("5");
     EXPECT_EQ(edited.slider()->minimum(), 0);
@@ -351,7 +351,7 @@ TEST(IntegerEditorTest, StartsWithTheRangeOfAllNodes)
     EXPECT_EQ(edited.slider()->maximum(), 250);
 }
 
-TEST(IntegerEditorTest, FixedRangeKeepsTheTextAndClampsTheSlider)
+TEST(IntegerEditor, FixedRangeKeepsTheTextAndClampsTheSlider)
 {
     EditedInt32 edited("5");
     edited.find<EdIntSlider>()->setValidLimits(0, 100, true);
@@ -361,7 +361,7 @@ TEST(IntegerEditorTest, FixedRangeKeepsTheTextAndClampsTheSlider)
     EXPECT_EQ(edited.text(), "250");
 }
 
-TEST(IntegerEditorTest, ExtremesAreShownAndTyped)
+TEST(IntegerEditor, ExtremesAreShownAndTyped)
 {
     EditedInt32 signedField("-2147483648");
     EXPECT_EQ(signedField.shown(), "-2147483648");
@@ -376,7 +376,7 @@ TEST(IntegerEditorTest, ExtremesAreShownAndTyped)
     EXPECT_EQ(natural.text(), "2147483648");
 }
 
-TEST(IntegerEditorTest, HexadecimalTextIsAppliedInDecimal)
+TEST(IntegerEditor, HexadecimalTextIsAppliedInDecimal)
 {
     // A field that writes itself in base 16, as an application may have one.
     class HexField : public SoSFInt32

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person does to the inputs of an editor, through real mouse and key events.
+// What a user does to the inputs of an editor, through real mouse and key events.
 #pragma once
 
 #include <QList>

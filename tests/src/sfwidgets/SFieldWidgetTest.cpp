@@ -24,7 +24,7 @@ public:
 
 } // namespace
 
-TEST(SFieldWidgetTest, UnknownFrameTypeHasAPlainEditionFrame)
+TEST(SFieldWidget, UnknownFrameTypeHasAPlainEditionFrame)
 {
     for (int type : {0, 7, 1000}) {
         PlainEditor editor{SFFrameType(type)};
@@ -38,7 +38,7 @@ TEST(SFieldWidgetTest, UnknownFrameTypeHasAPlainEditionFrame)
     }
 }
 
-TEST(SFieldWidgetTest, FirstCaptionStays)
+TEST(SFieldWidget, FirstCaptionStays)
 {
     PlainEditor editor{PlainFrame};
     editor.setFieldName("First");
@@ -46,7 +46,7 @@ TEST(SFieldWidgetTest, FirstCaptionStays)
     EXPECT_EQ(editor.getWidget()->findChild<QLabel*>("m_label")->text(), "<p align=\"center\">First</p>");
 }
 
-TEST(SFieldWidgetTest, LayoutFollowsTheSettings)
+TEST(SFieldWidget, LayoutFollowsTheSettings)
 {
     EdSFFloatWidget editor(nullptr);
     editor.load();
@@ -79,7 +79,7 @@ TEST(SFieldWidgetTest, LayoutFollowsTheSettings)
     editor.unload();
 }
 
-TEST(SFieldWidgetTest, HiddenUntilActivated)
+TEST(SFieldWidget, HiddenUntilActivated)
 {
     SoSFFloat field;
     TestHost host;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One slider in front of a person, with an owner that writes down what it hands over.
+// One slider as a user has it, with an owner that records what it is given.
 #pragma once
 
 #include "EdIntSlider.h"
@@ -37,11 +37,11 @@ public:
     int m_refreshes = 0;
 };
 
-class SliderTest : public testing::Test
+class Slider : public testing::Test
 {
 protected:
-    template <class Slider>
-    Slider* show(Slider* slider)
+    template <class Shown>
+    Shown* show(Shown* slider)
     {
         slider->resize(320, 30);
         slider->show();

@@ -11,11 +11,11 @@ namespace
 constexpr int IntMin = std::numeric_limits<int>::min();
 constexpr int IntMax = std::numeric_limits<int>::max();
 
-using SliderNumberTest = SliderTest;
+using SliderNumber = Slider;
 
 } // namespace
 
-TEST_F(SliderNumberTest, FirstValueOfTwoCharactersWithAZeroIsOctal)
+TEST_F(SliderNumber, FirstValueOfTwoCharactersWithAZeroIsOctal)
 {
     EdIntSlider* slider = intSlider();
     slider->setValue("07");
@@ -27,7 +27,7 @@ TEST_F(SliderNumberTest, FirstValueOfTwoCharactersWithAZeroIsOctal)
     EXPECT_EQ(slider->getNumber(), 12);
 }
 
-TEST_F(SliderNumberTest, FirstValueOfThreeCharactersWithAZeroIsDecimal)
+TEST_F(SliderNumber, FirstValueOfThreeCharactersWithAZeroIsDecimal)
 {
     EdIntSlider* slider = intSlider();
     slider->setValue("017");
@@ -35,7 +35,7 @@ TEST_F(SliderNumberTest, FirstValueOfThreeCharactersWithAZeroIsDecimal)
     EXPECT_EQ(slider->getText(), m_edit->text());
 }
 
-TEST_F(SliderNumberTest, FirstValueWithAnXIsHexadecimalAndTheBaseStays)
+TEST_F(SliderNumber, FirstValueWithAnXIsHexadecimalAndTheBaseStays)
 {
     EdIntSlider* slider = intSlider();
     slider->setValue("0x1F");
@@ -50,7 +50,7 @@ TEST_F(SliderNumberTest, FirstValueWithAnXIsHexadecimalAndTheBaseStays)
     EXPECT_EQ(slider->getNumber(), 255);
 }
 
-TEST_F(SliderNumberTest, HexadecimalBeyondTheTypeIsClamped)
+TEST_F(SliderNumber, HexadecimalBeyondTheTypeIsClamped)
 {
     EdIntSlider* slider = intSlider(Int16Slider);
     slider->setValue("0x1F");
@@ -58,7 +58,7 @@ TEST_F(SliderNumberTest, HexadecimalBeyondTheTypeIsClamped)
     EXPECT_EQ(slider->getNumber(), 32767);
 }
 
-TEST_F(SliderNumberTest, TypingBeyondAnOpenRangeWidensIt)
+TEST_F(SliderNumber, TypingBeyondAnOpenRangeWidensIt)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -72,7 +72,7 @@ TEST_F(SliderNumberTest, TypingBeyondAnOpenRangeWidensIt)
     EXPECT_EQ(m_handle->minimum(), -3);
 }
 
-TEST_F(SliderNumberTest, TypingBeyondAFixedRangeIsClamped)
+TEST_F(SliderNumber, TypingBeyondAFixedRangeIsClamped)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, true);
@@ -84,7 +84,7 @@ TEST_F(SliderNumberTest, TypingBeyondAFixedRangeIsClamped)
     EXPECT_EQ(m_owner.applied(), 1);
 }
 
-TEST_F(SliderNumberTest, TypingBeyondAFixedRealRangeIsClampedToo)
+TEST_F(SliderNumber, TypingBeyondAFixedRealRangeIsClampedToo)
 {
     EdRealSlider* slider = realSlider(0, 1);
     slider->setValidLimits(0, 1, true);
@@ -95,7 +95,7 @@ TEST_F(SliderNumberTest, TypingBeyondAFixedRealRangeIsClampedToo)
     EXPECT_EQ(m_owner.applied(), 1);
 }
 
-TEST_F(SliderNumberTest, OpenRangeGivesTheValidatorItsWholeTypeBack)
+TEST_F(SliderNumber, OpenRangeGivesTheValidatorItsWholeTypeBack)
 {
     EdIntSlider* slider = intSlider(Int16Slider);
     slider->setValue("7");
@@ -107,7 +107,7 @@ TEST_F(SliderNumberTest, OpenRangeGivesTheValidatorItsWholeTypeBack)
     EXPECT_EQ(validator->top(), 32767);
 }
 
-TEST_F(SliderNumberTest, WhatTheTypeCannotHoldIsRefusedWhileTyping)
+TEST_F(SliderNumber, RefusesNumbersBeyondTheTypeWhileTyping)
 {
     intSlider(Int16Slider)->setValue("7");
     person::type(m_edit, "40000");
@@ -120,7 +120,7 @@ TEST_F(SliderNumberTest, WhatTheTypeCannotHoldIsRefusedWhileTyping)
     EXPECT_EQ(m_edit->text(), "1e3");
 }
 
-TEST_F(SliderNumberTest, NumbersHaveAPointAndNoGroups)
+TEST_F(SliderNumber, NumbersHaveAPointAndNoGroups)
 {
     realSlider(0, 1)->setRealValue(0);
     person::type(m_edit, "1,5");
@@ -129,7 +129,7 @@ TEST_F(SliderNumberTest, NumbersHaveAPointAndNoGroups)
     EXPECT_TRUE(m_edit->hasAcceptableInput());
 }
 
-TEST_F(SliderNumberTest, SignedTextThatIsNoNumberCountsAsZeroAndUnsignedIsIgnored)
+TEST_F(SliderNumber, SignedTextThatIsNoNumberCountsAsZeroAndUnsignedIsIgnored)
 {
     EdIntSlider* slider = intSlider();
     slider->setValue("0x1F");
@@ -144,7 +144,7 @@ TEST_F(SliderNumberTest, SignedTextThatIsNoNumberCountsAsZeroAndUnsignedIsIgnore
     EXPECT_EQ(natural->getNumber(), 17U);
 }
 
-TEST_F(SliderNumberTest, UnsignedPositionsHaveTheTopBitFlipped)
+TEST_F(SliderNumber, UnsignedPositionsHaveTheTopBitFlipped)
 {
     EdUIntSlider* slider = uintSlider();
     slider->setValidLimits(0, 4294967295U, false);
@@ -156,7 +156,7 @@ TEST_F(SliderNumberTest, UnsignedPositionsHaveTheTopBitFlipped)
     EXPECT_EQ(slider->getNumber(), 4294967295U);
 }
 
-TEST_F(SliderNumberTest, UnsignedSixteenBitsStopAt65535)
+TEST_F(SliderNumber, UnsignedSixteenBitsStopAt65535)
 {
     EdUIntSlider* slider = uintSlider(UInt16Slider);
     slider->setValidLimits(0, 100, false);
@@ -166,7 +166,7 @@ TEST_F(SliderNumberTest, UnsignedSixteenBitsStopAt65535)
     EXPECT_EQ(slider->getNumber(), 65535U);
 }
 
-TEST_F(SliderNumberTest, FixedUnsignedRangeNarrowsOnlyWhatIsAccepted)
+TEST_F(SliderNumber, FixedUnsignedRangeNarrowsOnlyWhatIsAccepted)
 {
     EdUIntSlider* slider = uintSlider();
     slider->setValidLimits(0, 200, false);
@@ -182,7 +182,7 @@ TEST_F(SliderNumberTest, FixedUnsignedRangeNarrowsOnlyWhatIsAccepted)
     EXPECT_EQ(slider->getNumber(), 10U);
 }
 
-TEST_F(SliderNumberTest, RealSliderHas101Positions)
+TEST_F(SliderNumber, RealSliderHas101Positions)
 {
     EdRealSlider* slider = realSlider(0, 10);
     EXPECT_EQ(m_handle->minimum(), 0);
@@ -193,7 +193,7 @@ TEST_F(SliderNumberTest, RealSliderHas101Positions)
     EXPECT_EQ(slider->sliderToInt(10), 100);
 }
 
-TEST_F(SliderNumberTest, RealTextHasTheDigitsOfItsPrecision)
+TEST_F(SliderNumber, RealTextHasTheDigitsOfItsPrecision)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(0.1F);
@@ -206,13 +206,13 @@ TEST_F(SliderNumberTest, RealTextHasTheDigitsOfItsPrecision)
     EXPECT_EQ(slider->getNumber(), 0.333333333333333);
 }
 
-TEST_F(SliderNumberTest, LongNumbersShowTheirBeginning)
+TEST_F(SliderNumber, LongNumbersShowTheirBeginning)
 {
     realSlider(0, 10)->setRealValue(123456789);
     EXPECT_EQ(m_edit->cursorPosition(), 0);
 }
 
-TEST_F(SliderNumberTest, EmptyRangePutsTheHandleAtZero)
+TEST_F(SliderNumber, EmptyRangePutsTheHandleAtZero)
 {
     EdRealSlider* slider = realSlider(5, 5);
     EXPECT_EQ(slider->sliderToInt(5), 0);
@@ -224,14 +224,14 @@ TEST_F(SliderNumberTest, EmptyRangePutsTheHandleAtZero)
     EXPECT_EQ(m_handle->value(), 100);
 }
 
-TEST_F(SliderNumberTest, RangeThatGrowsDownwardsFromNothingStillHas101Positions)
+TEST_F(SliderNumber, RangeThatGrowsDownwardsFromNothingStillHas101Positions)
 {
     realSlider(-5, 0)->setRealValue(-2.5);
     EXPECT_EQ(m_handle->maximum(), 100);
     EXPECT_EQ(m_handle->value(), 50);
 }
 
-TEST_F(SliderNumberTest, WhatIsNotFiniteShowsItsTextAndLeavesTheRange)
+TEST_F(SliderNumber, NumbersThatAreNotFiniteAreShownAndKeepTheRange)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(5);
@@ -244,7 +244,7 @@ TEST_F(SliderNumberTest, WhatIsNotFiniteShowsItsTextAndLeavesTheRange)
     EXPECT_EQ(m_handle->value(), 0);
 }
 
-TEST_F(SliderNumberTest, WidestRealRangeNeitherOverflowsNorLosesItsEnds)
+TEST_F(SliderNumber, WidestRealRangeNeitherOverflowsNorLosesItsEnds)
 {
     constexpr double Most = std::numeric_limits<double>::max();
     EdRealSlider* slider = realSlider(-Most, Most, false);
@@ -259,7 +259,7 @@ TEST_F(SliderNumberTest, WidestRealRangeNeitherOverflowsNorLosesItsEnds)
 }
 
 // Qt's styles divide by zero where the range is exactly 2^31 wide.
-TEST_F(SliderNumberTest, RangesWiderThanAnIntArePaintedAndHit)
+TEST_F(SliderNumber, RangesWiderThanAnIntArePaintedAndHit)
 {
     EdUIntSlider* slider = uintSlider();
     for (unsigned int top : {2147483648U, 2147483649U, 4294967295U}) {
@@ -276,7 +276,7 @@ TEST_F(SliderNumberTest, RangesWiderThanAnIntArePaintedAndHit)
     EXPECT_EQ(other->findChildren<EdLineEdit*>().size(), 1);
 }
 
-TEST_F(SliderNumberTest, MovingTheRangeAppliesNothing)
+TEST_F(SliderNumber, MovingTheRangeAppliesNothing)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -294,7 +294,7 @@ TEST_F(SliderNumberTest, MovingTheRangeAppliesNothing)
     EXPECT_TRUE(m_owner.m_calls.isEmpty()) << qPrintable(m_owner.m_calls.join(' '));
 }
 
-TEST_F(SliderNumberTest, FixedRangeIgnoresItsEnds)
+TEST_F(SliderNumber, FixedRangeIgnoresItsEnds)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, true);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What a person does with a slider: dragging, stepping, typing, leaving, and the same in the cell of a table.
+// What a user does with a slider: dragging, stepping, typing, leaving, and the same in the cell of a table.
 #include "SliderFixture.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
 
-TEST_F(SliderTest, IsBuiltOfACheckBoxASliderAndALineEdit)
+TEST_F(Slider, IsBuiltOfACheckBoxASliderAndALineEdit)
 {
     EdIntSlider* slider = intSlider();
     EXPECT_EQ(slider->objectName(), "EdSliderFrame");
@@ -21,14 +21,14 @@ TEST_F(SliderTest, IsBuiltOfACheckBoxASliderAndALineEdit)
     EXPECT_EQ(m_handle->orientation(), Qt::Horizontal);
 }
 
-TEST_F(SliderTest, IsTighterInATable)
+TEST_F(Slider, IsTighterInATable)
 {
     const EdIntSlider* slider = intSlider(Int32Slider, MultiValueParent);
     EXPECT_EQ(slider->layout()->contentsMargins(), QMargins(0, 0, 0, 0));
     EXPECT_EQ(slider->layout()->spacing(), 3);
 }
 
-TEST_F(SliderTest, NamesItsInputsForThoseWhoDoNotSeeThem)
+TEST_F(Slider, HasAccessibleNames)
 {
     intSlider();
     for (const QWidget* input :
@@ -36,7 +36,7 @@ TEST_F(SliderTest, NamesItsInputsForThoseWhoDoNotSeeThem)
         EXPECT_FALSE(input->accessibleName().isEmpty());
 }
 
-TEST_F(SliderTest, DragWithoutLiveUpdateAppliesOnceOnRelease)
+TEST_F(Slider, DragWithoutLiveUpdateAppliesOnceOnRelease)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(2.5);
@@ -52,14 +52,14 @@ TEST_F(SliderTest, DragWithoutLiveUpdateAppliesOnceOnRelease)
     EXPECT_DOUBLE_EQ(slider->getNumber(), slider->sliderToDouble(m_handle->value()));
 }
 
-TEST_F(SliderTest, DragWithLiveUpdateAppliesAtEveryStepAndOnRelease)
+TEST_F(Slider, DragWithLiveUpdateAppliesAtEveryStepAndOnRelease)
 {
     realSlider(0, 10)->setRealValue(2.5);
     person::drag(m_handle, {50, 70, 90});
     EXPECT_EQ(m_owner.applied(), 4);
 }
 
-TEST_F(SliderTest, SavesTheValueFromBeforeTheDrag)
+TEST_F(Slider, SavesTheValueFromBeforeTheDrag)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(2.5);
@@ -68,7 +68,7 @@ TEST_F(SliderTest, SavesTheValueFromBeforeTheDrag)
     person::releaseHandle(m_handle);
 }
 
-TEST_F(SliderTest, HandlePressedAndReleasedWithoutAMoveAppliesNothing)
+TEST_F(Slider, HandlePressedAndReleasedWithoutAMoveAppliesNothing)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(2.5037);
@@ -78,7 +78,7 @@ TEST_F(SliderTest, HandlePressedAndReleasedWithoutAMoveAppliesNothing)
     EXPECT_TRUE(slider->savedText().isNull()) << "the next edit would be undone to an old value";
 }
 
-TEST_F(SliderTest, HeldHandleIsLeftAloneAndShowsTheFieldAfterwards)
+TEST_F(Slider, HeldHandleIsLeftAloneAndShowsTheFieldAfterwards)
 {
     EdRealSlider* slider = realSlider(0, 10);
     slider->setRealValue(2.5);
@@ -91,7 +91,7 @@ TEST_F(SliderTest, HeldHandleIsLeftAloneAndShowsTheFieldAfterwards)
     EXPECT_EQ(m_owner.applied(), 0);
 }
 
-TEST_F(SliderTest, KeyStepsApplyWithLiveUpdate)
+TEST_F(Slider, KeyStepsApplyWithLiveUpdate)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -102,7 +102,7 @@ TEST_F(SliderTest, KeyStepsApplyWithLiveUpdate)
     EXPECT_EQ(m_owner.applied(), 1);
 }
 
-TEST_F(SliderTest, KeyStepsWithoutLiveUpdateWaitForEnterOrForEscape)
+TEST_F(Slider, KeyStepsWithoutLiveUpdateWaitForEnterOrForEscape)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -125,7 +125,7 @@ TEST_F(SliderTest, KeyStepsWithoutLiveUpdateWaitForEnterOrForEscape)
     EXPECT_EQ(slider->getNumber(), 8);
 }
 
-TEST_F(SliderTest, EnterAppliesOnceAndLeavingAppliesNothingMore)
+TEST_F(Slider, EnterAppliesOnceAndLeavingAppliesNothingMore)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -140,7 +140,7 @@ TEST_F(SliderTest, EnterAppliesOnceAndLeavingAppliesNothingMore)
     EXPECT_EQ(m_owner.applied(), 2);
 }
 
-TEST_F(SliderTest, RefreshLeavesTypingThatWaitsAndWhatIsShownAlready)
+TEST_F(Slider, RefreshLeavesTypingThatWaitsAndWhatIsShownAlready)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -158,7 +158,7 @@ TEST_F(SliderTest, RefreshLeavesTypingThatWaitsAndWhatIsShownAlready)
     EXPECT_FALSE(slider->isEdited());
 }
 
-TEST_F(SliderTest, EscapeBringsTheShownValueBack)
+TEST_F(Slider, EscapeBringsTheShownValueBack)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -171,7 +171,7 @@ TEST_F(SliderTest, EscapeBringsTheShownValueBack)
     EXPECT_EQ(slider->getNumber(), 50);
 }
 
-TEST_F(SliderTest, TabGoesFromTheCheckBoxToTheLineEdit)
+TEST_F(Slider, TabMovesFromTheCheckBoxToTheLineEdit)
 {
     intSlider();
     person::focus(m_live);
@@ -181,7 +181,7 @@ TEST_F(SliderTest, TabGoesFromTheCheckBoxToTheLineEdit)
     EXPECT_EQ(QApplication::focusWidget(), m_edit);
 }
 
-TEST_F(SliderTest, WheelChangesNothingWithoutTheFocus)
+TEST_F(Slider, WheelChangesNothingWithoutTheFocus)
 {
     EdIntSlider* slider = intSlider();
     slider->setValidLimits(0, 100, false);
@@ -203,7 +203,7 @@ TEST_F(SliderTest, WheelChangesNothingWithoutTheFocus)
 
 // --- As the cell of a table
 
-TEST_F(SliderTest, CellHandsItsElementOver)
+TEST_F(Slider, CellHandsItsElementOver)
 {
     EdIntSlider* slider = intSlider(Int32Slider, MultiValueParent);
     slider->setValidLimits(0, 100, false);
@@ -212,7 +212,7 @@ TEST_F(SliderTest, CellHandsItsElementOver)
     EXPECT_EQ(m_owner.m_calls, QStringList({"refresh 0", "value 3 2 0x2a", "refresh 1"}));
 }
 
-TEST_F(SliderTest, CellPassesItsFocusOnAndKeepsKeysFromTheTable)
+TEST_F(Slider, CellPassesItsFocusOnAndKeepsKeysFromTheTable)
 {
     class Table : public QWidget
     {

@@ -19,11 +19,11 @@ using EditedName = EditedField<EdSFNameWidget, SoSFName>;
 using EditedPath = EditedField<EdSFFilePathStringWidget, SoSFFilePathString>;
 
 template <class Edited>
-class TextEditorTest : public testing::Test
+class TextEditor : public testing::Test
 {
 };
 using TextEditors = testing::Types<EditedString, EditedName, EditedPath>;
-TYPED_TEST_SUITE(TextEditorTest, TextEditors);
+TYPED_TEST_SUITE(TextEditor, TextEditors);
 
 template <class Act>
 void inFileDialog(EditedPath& edited, Act act)
@@ -43,7 +43,7 @@ void inFileDialog(EditedPath& edited, Act act)
 
 } // namespace
 
-TYPED_TEST(TextEditorTest, AppliesOnEnterAndUndoes)
+TYPED_TEST(TextEditor, AppliesOnEnterAndUndoes)
 {
     TypeParam edited("before");
     EXPECT_EQ(edited.shown(), "before");
@@ -58,21 +58,21 @@ TYPED_TEST(TextEditorTest, AppliesOnEnterAndUndoes)
     EXPECT_EQ(edited.shown(), "after");
 }
 
-TYPED_TEST(TextEditorTest, LeavingWithoutAChangeAppliesTheSameValue)
+TYPED_TEST(TextEditor, LeavingWithoutAChangeAppliesTheSameValue)
 {
     TypeParam edited("before");
     person::focus(edited.edit());
     EXPECT_EQ(edited.commands(), 0);
     person::clickElsewhere(edited.edit());
     EXPECT_EQ(edited.commands(), 1);
-    // The toolkit's own line tells of leaving once, and then not before its text is another.
+    // QLineEdit reports leaving it once, and then not before its text has changed.
     person::focus(edited.edit());
     person::clickElsewhere(edited.edit());
     EXPECT_EQ(edited.commands(), 2);
     EXPECT_STREQ(edited.field.getValue().getString(), "before");
 }
 
-TYPED_TEST(TextEditorTest, ShowsChangesFromElsewhereAndSparesTyping)
+TYPED_TEST(TextEditor, ShowsChangesFromElsewhereAndSparesTyping)
 {
     TypeParam edited("before");
     edited.change("other");
@@ -87,7 +87,7 @@ TYPED_TEST(TextEditorTest, ShowsChangesFromElsewhereAndSparesTyping)
     EXPECT_EQ(edited.shown(), "other");
 }
 
-TYPED_TEST(TextEditorTest, WaitingTypingGoesToTheOldFieldOnce)
+TYPED_TEST(TextEditor, UnappliedTypingIsWrittenToTheOldFieldOnce)
 {
     TypeParam edited("before");
     decltype(edited.field) other;
@@ -103,7 +103,7 @@ TYPED_TEST(TextEditorTest, WaitingTypingGoesToTheOldFieldOnce)
     edited.host.release(edited.editor);
 }
 
-TEST(StringEditorTest, QuotesAreNeitherAddedNorLost)
+TEST(StringEditor, QuotesAreNeitherAddedNorLost)
 {
     EditedString edited;
     edited.field.setValue("say \"hi\" \\ there");
@@ -113,7 +113,7 @@ TEST(StringEditorTest, QuotesAreNeitherAddedNorLost)
     EXPECT_STREQ(edited.field.getValue().getString(), "\"quoted\"");
 }
 
-TEST(StringEditorTest, UntouchedTextKeepsEveryByte)
+TEST(StringEditor, UntouchedTextKeepsEveryByte)
 {
     EditedString edited;
     const std::string bytes = "line\nbreak \xff tab\t " + std::string(100000, 'x');
@@ -124,7 +124,7 @@ TEST(StringEditorTest, UntouchedTextKeepsEveryByte)
     EXPECT_EQ(edited.field.getValue().str(), bytes);
 }
 
-TEST(StringEditorTest, LongTextsAreNotCut)
+TEST(StringEditor, LongTextsAreNotCut)
 {
     EditedString edited;
     const std::string bytes(100000, 'x');
@@ -137,7 +137,7 @@ TEST(StringEditorTest, LongTextsAreNotCut)
     EXPECT_EQ(edited.field.getValue().str(), bytes + "y");
 }
 
-TEST(StringEditorTest, AnyCharacterIsKept)
+TEST(StringEditor, AnyCharacterIsKept)
 {
     EditedString edited("a");
     person::typeKey(edited.edit(), QString::fromUtf8("\u00e9\u4e2d\U0001F600"));
@@ -145,7 +145,7 @@ TEST(StringEditorTest, AnyCharacterIsKept)
     EXPECT_STREQ(edited.field.getValue().getString(), "\u00e9\u4e2d\U0001F600");
 }
 
-TEST(NameEditorTest, IsStoredThroughLatin1)
+TEST(NameEditor, IsStoredThroughLatin1)
 {
     EditedName edited("a");
     person::typeKey(edited.edit(), QString::fromUtf8("\u00e9\u4e2d"));
@@ -155,7 +155,7 @@ TEST(NameEditorTest, IsStoredThroughLatin1)
     EXPECT_EQ(edited.edit()->text(), QString::fromUtf8("\u00e9?"));
 }
 
-TEST(NameEditorTest, EmptyNameIsShownEmpty)
+TEST(NameEditor, EmptyNameIsShownEmpty)
 {
     EditedName edited("a");
     edited.field.setValue(SbName());
@@ -163,7 +163,7 @@ TEST(NameEditorTest, EmptyNameIsShownEmpty)
     EXPECT_EQ(edited.shown(), "");
 }
 
-TEST(FilePathEditorTest, ChosenFileIsApplied)
+TEST(FilePathEditor, ChosenFileIsApplied)
 {
     QTemporaryDir folder;
     QFile file(folder.filePath("model.txt"));
@@ -185,7 +185,7 @@ TEST(FilePathEditorTest, ChosenFileIsApplied)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TEST(FilePathEditorTest, CancelledDialogChangesNothing)
+TEST(FilePathEditor, CancelledDialogChangesNothing)
 {
     EditedPath edited("\"some/where.txt\"");
     inFileDialog(edited, [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });

@@ -74,7 +74,7 @@ private:
     std::mt19937 m_random{20};
 };
 
-class TypingTest : public Gallery
+class Typing : public Gallery
 {
 protected:
     // Beside the button of the grid, and in the grid.
@@ -110,7 +110,7 @@ protected:
 
 } // namespace
 
-TEST_F(TypingTest, ReachesEveryLineOfEveryEditor)
+TEST_F(Typing, ReachesEveryLineOfEveryEditor)
 {
     const std::map<std::string, int> expected{
         {"SFBool", 0},  {"SFInt32", 1},   {"SFUInt32", 1}, {"SFShort", 1},    {"SFUShort", 1},
@@ -132,7 +132,7 @@ TEST_F(TypingTest, ReachesEveryLineOfEveryEditor)
     EXPECT_EQ(found, expected);
 }
 
-TEST_F(TypingTest, NoTextThatSomebodyTypesBreaksAField)
+TEST_F(Typing, NoTextThatSomebodyTypesBreaksAField)
 {
     Typist typist;
     constexpr int FewestRounds = 40;

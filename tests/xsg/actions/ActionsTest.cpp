@@ -173,7 +173,7 @@ TEST(RayPick, FollowsChanges)
     EXPECT_NEAR(action.pick(root.get(), FromFront)->point[2], 4, 1e-4F);
 }
 
-TEST(RayPick, WhatIsSqueezedFlatIsNotMet)
+TEST(RayPick, MissesShapesUnderASingularTransform)
 {
     auto* transform = new SoTransform;
     transform->scaleFactor.setValue(0, 0, 0);
@@ -239,7 +239,7 @@ TEST(Search, AllCriteriaMustHoldAndNothingIsFoundInNothing)
 }
 
 // Forty groups, each holding the next one twice: two to the fortieth visits.
-TEST(Traversal, AShortSceneThatUnfoldsWithoutEndStillEnds)
+TEST(Traversal, EndsForASceneWithExponentiallyManyPaths)
 {
     SoRef<SoGroup> root(new SoGroup);
     root->addChild(new SoCube);

@@ -62,7 +62,7 @@ private:
 
 } // namespace
 
-TEST(GroupExtension, LivesAsLongAsItsGroupAndHearsOfItsChanges)
+TEST(GroupExtension, LivesAsLongAsItsGroupAndIsNotifiedOfItsChanges)
 {
     int living = 0;
     SoRef<SoGroup> group(new SoGroup);

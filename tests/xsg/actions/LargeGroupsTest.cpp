@@ -120,7 +120,7 @@ TEST_F(LargeGroup, OfThousandsIsLookedAtWhereItChanged)
     EXPECT_EQ(box.getBox(root.get()).getMax()[0], 20001);
 }
 
-TEST_F(LargeGroup, WhatChangedAFewTimesIsRememberedOnce)
+TEST_F(LargeGroup, RemembersRepeatedChangesOnce)
 {
     SoBoundingBoxAction box;
     box.getBox(root.get());
@@ -130,7 +130,7 @@ TEST_F(LargeGroup, WhatChangedAFewTimesIsRememberedOnce)
     EXPECT_EQ(box.getNumVisited(), 10);
 }
 
-TEST_F(LargeGroup, MoreChangesThanAreRemembered)
+TEST_F(LargeGroup, HandlesMoreChangesThanItRemembers)
 {
     SoBoundingBoxAction box;
     for (const int changes : {15, 16, 17, 18, 40}) {
@@ -171,7 +171,7 @@ TEST_F(LargeGroup, AMoveBesideTheChildrenMovesThoseAfterIt)
     expectAsAfresh("it went");
 }
 
-TEST_F(LargeGroup, WhatStandsAfterAMoveChangesWithinIt)
+TEST_F(LargeGroup, AChildAfterAMoveChangesWithinIt)
 {
     auto* move = new SoTransform;
     move->translation.setValue(0, 100, 0);
@@ -230,7 +230,7 @@ TEST_F(LargeGroup, WithLevelsOfDetailIsPickedByTheChosenLevel)
     EXPECT_TRUE(action.pick(levels.get(), {{0, 0, 20}, {0, 0, -1}}));
 }
 
-TEST_F(LargeGroup, AnyRowOfEditsGivesWhatAWalkAfreshGives)
+TEST_F(LargeGroup, AnySequenceOfEditsGivesWhatAFullTraversalGives)
 {
     std::mt19937 random(20);
     const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };

@@ -50,7 +50,7 @@ protected:
 
 } // namespace
 
-TEST_F(Counters, TellWhatTheyAre)
+TEST_F(Counters, HaveTheirDescriptions)
 {
     const SoPerfAccumCounter accum("Made", "Things made.", "Works", SoPerfCounter::HIGH, true);
     EXPECT_EQ(accum.getName(), SbName("Made"));

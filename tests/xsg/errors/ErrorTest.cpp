@@ -125,7 +125,7 @@ TYPED_TEST(EveryError, PostedByEightThreadsAtOnceArrivesEachTime)
     EXPECT_EQ(arrived, Threads * Posts);
 }
 
-TEST(DebugError, TellsItsSeverity)
+TEST(DebugError, HasItsSeverity)
 {
     const Collected<SoDebugError> keeper;
     std::vector<int> severities;
@@ -241,7 +241,7 @@ TEST(ErrorHandler, SetWaitsForTheOldCallback)
     poster.join();
 }
 
-TEST(ErrorHandler, WhatACallbackUsesMayGoOnceItIsReplaced)
+TEST(ErrorHandler, ACallbacksDataMayBeDestroyedOnceItIsReplaced)
 {
     const Collected<SoError> keeper;
     SoError::setHandlerCallback(nullptr, nullptr);

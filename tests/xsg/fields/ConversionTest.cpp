@@ -167,7 +167,7 @@ TEST(Connection, AChainOfAnyLengthIsEvaluatedWithoutTheStack)
     EXPECT_EQ(chain[Length / 2]->getValue(), 42);
 }
 
-TEST(Connection, OneOfAContainerGivesItsLastValueBeforeItGoes)
+TEST(Connection, AContainersFieldPassesItsLastValueBeforeItIsDestroyed)
 {
     SoSFFloat follower;
     {

@@ -28,7 +28,7 @@ private:
     const FieldSample* m_sample = nullptr;
 };
 
-/// Counts how often a field told of a change.
+/// How often a field has reported a change.
 inline int changesOf(const SoField& field)
 {
     return static_cast<int>(field.getChangeCount());

@@ -67,7 +67,7 @@ TEST_F(EveryField, RefusesMalformedTextAndKeepsItsValue)
 }
 
 // A comma parts the values of a list; between the numbers of one value it could as well be a decimal comma.
-TEST_F(EveryField, CommasDoNotPartTheNumbersOfAValue)
+TEST_F(EveryField, CommasDoNotSeparateTheNumbersOfAValue)
 {
     forEach([this] {
         if (sample().numbers < 2)
@@ -115,7 +115,7 @@ TEST_F(EveryField, IsDefaultUntilItIsWritten)
     });
 }
 
-TEST_F(EveryField, AWriteOfTheSameValueTells)
+TEST_F(EveryField, NotifiesOfAWriteOfTheSameValue)
 {
     forEach([this] {
         const auto field = sample().create();
@@ -126,7 +126,7 @@ TEST_F(EveryField, AWriteOfTheSameValueTells)
     });
 }
 
-TEST_F(EveryField, TheIgnoreFlagTellsAndLeavesTheValue)
+TEST_F(EveryField, TheIgnoreFlagNotifiesAndKeepsTheValue)
 {
     forEach([this] {
         const auto field = sample().create();
@@ -241,7 +241,7 @@ TEST_F(EveryField, OutlivesTheFieldItFollows)
     });
 }
 
-TEST_F(EveryField, TellsItsSensorOncePerTurn)
+TEST_F(EveryField, NotifiesItsSensorOncePerTurn)
 {
     forEach([this] {
         const auto field = sample().create();

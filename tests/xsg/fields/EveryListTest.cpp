@@ -47,7 +47,7 @@ TEST_F(EveryList, ReadsAndWritesSingleValues)
     });
 }
 
-TEST_F(EveryList, OutsideThereIsNoText)
+TEST_F(EveryList, HasNoTextBeyondItsEnd)
 {
     forEach([this] {
         const auto field = create();
@@ -223,7 +223,7 @@ protected:
 
 } // namespace
 
-TEST(NoMemory, LeavesTheFieldAndIsTold)
+TEST(NoMemory, LeavesTheFieldAndIsReported)
 {
     const Collected<SoMemoryError> errors;
     FullField field;

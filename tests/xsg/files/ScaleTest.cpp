@@ -84,7 +84,7 @@ TEST_F(SceneScale, AHundredThousandLevels)
     auto* cube = static_cast<SoCube*>(search.getPaths().front().getTail());
     cube->width.setValue(8);
     EXPECT_EQ(SoBoundingBoxAction().getBox(root.get()).getMax(), SbVec3f(4, 1, 1))
-        << "a change goes all the way up";
+        << "a change reaches the root";
 }
 
 TEST_F(SceneScale, AHundredThousandFieldsInARowFollowEachOther)
@@ -100,7 +100,7 @@ TEST_F(SceneScale, AHundredThousandFieldsInARowFollowEachOther)
     ASSERT_TRUE(read(SoSceneFile::writeText(root.get()))) << error;
 }
 
-TEST_F(SceneScale, AHundredThousandFieldsFollowOneThatGoesBeforeOrAfterThem)
+TEST_F(SceneScale, AHundredThousandFieldsFollowOneDestroyedBeforeOrAfterThem)
 {
     constexpr int Count = 100'000;
     std::string followers;

@@ -525,7 +525,7 @@ TEST_F(SceneFile, WritesAFileAsAWholeOrNotAtAll)
     std::filesystem::remove_all(folder);
 }
 
-TEST_F(SceneFile, WhatIsNoFileIsRefusedWithASentence)
+TEST_F(SceneFile, RefusesWhatIsNoFileWithASentence)
 {
     EXPECT_FALSE(SoSceneFile::read("/no/such/scene.xsg", error));
     EXPECT_NE(error.find("/no/such/scene.xsg: The file cannot be read"), std::string::npos) << error;

@@ -96,7 +96,7 @@ TEST(Camera, WithoutPerspectiveItSeesWhatIsBehindItToo)
     }
 }
 
-TEST(Camera, AllThatLiveAreListed)
+TEST(Camera, ListsAllLivingCameras)
 {
     const auto isListed = [](const SoCamera* camera) {
         const auto& all = SoCamera::getAll();

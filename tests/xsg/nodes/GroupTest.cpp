@@ -15,7 +15,7 @@ void count(void* data, SoSensor*)
 
 } // namespace
 
-TEST(Group, ASharedChildTellsEveryGroupAboveItOnce)
+TEST(Group, ASharedChildNotifiesEveryParentOnce)
 {
     const SoRef<SoGroup> root(new SoGroup);
     auto* left = new SoSeparator;
@@ -35,7 +35,7 @@ TEST(Group, ASharedChildTellsEveryGroupAboveItOnce)
     EXPECT_EQ(calls, 1);
 }
 
-TEST(Group, ItsOwnAncestorIsRefused)
+TEST(Group, RefusesItsOwnAncestor)
 {
     const SoRef<SoGroup> root(new SoGroup);
     auto* child = new SoGroup;

@@ -16,7 +16,7 @@ std::string textOf(const SoField& field)
 
 } // namespace
 
-TEST(NodeFields, TellTheirNodeByItsName)
+TEST(NodeFields, WriteTheirNodeByItsName)
 {
     const SoRef<SoFieldGallery> gallery(new SoFieldGallery);
     const SoRef<SoFieldGallery> other(new SoFieldGallery);
@@ -34,7 +34,7 @@ TEST(NodeFields, TellTheirNodeByItsName)
     EXPECT_EQ(gallery->mfNode[1].get(), nullptr);
 }
 
-TEST(NodeFields, TellNodesApartThatHaveNoNameOrTheSame)
+TEST(NodeFields, DistinguishNodesWithoutNameOrWithTheSame)
 {
     const SoRef<SoFieldGallery> a(new SoFieldGallery);
     const SoRef<SoFieldGallery> b(new SoFieldGallery);
@@ -52,7 +52,7 @@ TEST(NodeFields, TellNodesApartThatHaveNoNameOrTheSame)
     }
 }
 
-TEST(NodeFields, KeepTheirNodeAliveAndForgetNamesOfThoseThatWent)
+TEST(NodeFields, KeepTheirNodeAliveAndForgetNamesOfDestroyedOnes)
 {
     SoSFNode field;
     auto* node = new SoFieldGallery;
@@ -74,7 +74,7 @@ TEST(NodeFields, KeepTheirNodeAliveAndForgetNamesOfThoseThatWent)
     EXPECT_FALSE(field.set("Brief"));
 }
 
-TEST(NodeFields, ALongRowOfReferencesGoesWithoutTheStack)
+TEST(NodeFields, ALongChainOfReferencesIsDestroyedWithoutRecursion)
 {
     SoRef<SoFieldGallery> last(new SoFieldGallery);
     for (int i = 0; i < 20'000; ++i) {

@@ -60,7 +60,7 @@ protected:
 
 } // namespace
 
-TEST_F(CounterFeed, AreAtLeastTwentyFive)
+TEST_F(CounterFeed, HasAtLeastTwentyFiveCounters)
 {
     int library = 0;
     for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters())

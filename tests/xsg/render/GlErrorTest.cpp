@@ -71,14 +71,14 @@ TEST_F(GlErrors, AnOrdinaryContextIsAskedOnceAFrame)
     EXPECT_EQ(texts[0].find("glEnable"), std::string::npos) << texts[0];
 }
 
-TEST_F(GlErrors, AFrameFullOfErrorsIsNotToldInFull)
+TEST_F(GlErrors, LimitsTheReportsOfAFrame)
 {
     mistakes = 1000;
     drawWith("1");
     EXPECT_EQ(codes.size(), 16U);
 }
 
-TEST_F(GlErrors, NoMistakeNoError)
+TEST_F(GlErrors, AFrameWithoutErrorsReportsNone)
 {
     mistakes = 0;
     drawWith("1");

@@ -122,8 +122,8 @@ TEST_F(InstanceData, AMarkCostsNoWalkOverTheScene)
     EXPECT_EQ(draw().rgba, unmarked.rgba);
 }
 
-// A toolkit asks for a mark by number, after the node may have gone.
-TEST_F(InstanceData, AMarkedNodeMayGo)
+// A toolkit asks for a mark by number, after the node may have been destroyed.
+TEST_F(InstanceData, AMarkedNodeMayBeDestroyed)
 {
     addRow(3, 1);
     renderer().getRenderer().setHighlight(root->getChild(1));
@@ -219,7 +219,7 @@ TEST_F(InstanceData, ManyTransparentCopiesAreDrawnTogether)
     EXPECT_EQ(statistics().triangles, 1200);
 }
 
-TEST_F(InstanceData, AShapeThatChangesLeavesItsLikeAndComesBackToThem)
+TEST_F(InstanceData, AChangedShapeLeavesItsBatchAndRejoinsIt)
 {
     addRow<SoCylinder>(9, 1);
     const SoPixels before = draw();
@@ -277,7 +277,7 @@ TEST_F(InstanceData, ManyShapesThatChangeOneByOneAreGroupedAgain)
     EXPECT_LE(statistics().drawCalls, 64);
 }
 
-TEST_F(InstanceData, AnyRowOfEditsLooksAsIfDrawnAfresh)
+TEST_F(InstanceData, AnySequenceOfEditsLooksAsIfDrawnByANewRenderer)
 {
     addRow<SoCylinder>(80, 1.5F);
     std::mt19937 random(7);

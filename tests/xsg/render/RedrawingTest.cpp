@@ -18,7 +18,7 @@
 
 using Redrawing = Picture;
 
-TEST_F(Redrawing, WhatIsOutOfSightIsNotDrawn)
+TEST_F(Redrawing, DoesNotDrawWhatIsOutOfSight)
 {
     add<SoCube>();
     add<SoTransform>()->translation.setValue(1000, 0, 0);
@@ -198,7 +198,7 @@ TEST_F(Redrawing, AFieldChangeCostsTheNodesAboveItAndWhatItReaches)
     expectAsAfresh(12);
 }
 
-TEST_F(Redrawing, WhatAPatchCannotDoIsBuiltAnew)
+TEST_F(Redrawing, RebuildsWhatCannotBePatched)
 {
     auto* light = add<SoDirectionalLight>();
     auto* group = new SoSeparator;

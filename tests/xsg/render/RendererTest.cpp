@@ -113,7 +113,7 @@ TEST_F(Renderer, TransparencyLetsWhatIsBehindThrough)
     EXPECT_PIXEL(center(draw()), (Pixel{128, 64, 64}));
 }
 
-TEST_F(Renderer, WhatIsOpaqueHidesWhatIsTransparentBehindIt)
+TEST_F(Renderer, OpaqueShapesHideTransparentOnesBehindThem)
 {
     addMaterial({0, 1, 0})->transparency.setValue(0.5F);
     addSquare(0);
@@ -272,7 +272,7 @@ TEST_F(Renderer, TheFirstCameraOfTheSceneIsTakenWithTheTransformBeforeIt)
 }
 
 // A renderer that outlived a scene asked that scene's camera once more.
-TEST_F(Renderer, ACameraThatIsGoneIsForgotten)
+TEST_F(Renderer, ForgetsADestroyedCamera)
 {
     auto* away = add<SoPerspectiveCamera>();
     away->position.setValue(500, 0, 0);
@@ -308,7 +308,7 @@ TEST_F(Renderer, AHundredThousandLevelsAreDrawn)
     EXPECT_PIXEL(center(draw()), (Pixel{255, 0, 0}));
 }
 
-TEST_F(Renderer, BrokenShapesAreDrawnAsFarAsTheyGo)
+TEST_F(Renderer, DrawsTheValidPartOfBrokenShapes)
 {
     addMaterial({1, 0, 0});
     add<SoIndexedTriangleSet>()->index.setValues({0, 1, 2}); // no points before it

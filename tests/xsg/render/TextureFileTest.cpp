@@ -65,7 +65,7 @@ TEST_F(TextureFile, OfGreysIsGrey)
 }
 
 // Opening it would wait for somebody who writes.
-TEST_F(TextureFile, ThatIsAPipeGivesWayToTheImage)
+TEST_F(TextureFile, FallsBackToTheImageInsteadOfWaitingForAPipe)
 {
     const std::string path = testing::TempDir() + "texture.ppm.pipe";
     std::remove(path.c_str());
@@ -75,7 +75,7 @@ TEST_F(TextureFile, ThatIsAPipeGivesWayToTheImage)
     std::remove(path.c_str());
 }
 
-TEST_F(TextureFile, ThatIsDamagedGivesWayToTheImage)
+TEST_F(TextureFile, FallsBackToTheImageWhenDamaged)
 {
     for (const char* damaged :
          {"", "P6", "P6\n1 2\n255\nabc", "P6\n-1 2\n255\nabcdef", "P6\n999999999 999999999\n255\n",

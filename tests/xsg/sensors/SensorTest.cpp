@@ -136,7 +136,7 @@ TEST_F(Sensors, DetachingCancelsWhatIsQueued)
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(Sensors, AFieldThatGoesDetachesItsSensors)
+TEST_F(Sensors, DestroyingAFieldDetachesItsSensors)
 {
     int calls = 0;
     SoFieldSensor sensor(count, &calls);
@@ -326,7 +326,7 @@ TEST_F(Sensors, NodeSensorsHearFieldsAndChildrenBelow)
     EXPECT_TRUE(queue.isEmpty());
 }
 
-TEST_F(Sensors, ATriggerFieldThatIsGoneIsForgotten)
+TEST_F(Sensors, ForgetsADestroyedTriggerField)
 {
     const SoRef<SoSeparator> root(new SoSeparator);
     SoNodeSensor sensor;
@@ -348,7 +348,7 @@ TEST_F(Sensors, ATriggerFieldThatIsGoneIsForgotten)
     EXPECT_EQ(sensor.getTriggerField(), nullptr);
 }
 
-TEST_F(Sensors, ANodeThatGoesDetachesItsSensors)
+TEST_F(Sensors, DestroyingANodeDetachesItsSensors)
 {
     int calls = 0;
     SoNodeSensor sensor(count, &calls);
@@ -363,7 +363,7 @@ TEST_F(Sensors, ANodeThatGoesDetachesItsSensors)
     EXPECT_EQ(calls, 0);
 }
 
-TEST_F(Sensors, IdleOnesWaitUntilNothingElseDoes)
+TEST_F(Sensors, IdleSensorsRunLast)
 {
     SoSFFloat field;
     int fieldCalls = 0;

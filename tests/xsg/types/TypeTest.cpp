@@ -46,7 +46,7 @@ TEST(Type, AllDerivedTypesAreListedWithoutALookUpBefore)
     EXPECT_EQ(std::count_if(all.begin(), all.end(), isCube), 1);
 }
 
-TEST(Type, OneThatIsMadeAtRunTimeCreatesItsObjects)
+TEST(Type, ATypeMadeAtRunTimeCreatesObjects)
 {
     const SoType type = thingType();
     EXPECT_EQ(SoType::fromName("Thing"), type);

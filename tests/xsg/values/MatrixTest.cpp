@@ -55,7 +55,7 @@ TEST(Matrix, TheInverseLeadsBack)
     EXPECT_TRUE(SbMatrix::scale({1e-6F, 1e-6F, 1e-6F}).inverse());
 }
 
-TEST(Matrix, WhatIsSqueezedFlatHasNoInverse)
+TEST(Matrix, ASingularMatrixHasNoInverse)
 {
     EXPECT_FALSE(SbMatrix::scale({1, 0, 1}).inverse());
     EXPECT_FALSE(SbMatrix::translation({std::nanf(""), 0, 0}).inverse());

@@ -47,7 +47,7 @@ struct SoLightSource {
 };
 
 static_assert(sizeof(SoLightSource) == sizeof(int) + 14 * sizeof(float),
-              "without padding, so that bytes tell it apart");
+              "without padding, so that it can be compared by its bytes");
 
 /// Lists that a separator puts back are shared, never changed: adding makes a longer copy.
 template <class T>

@@ -149,7 +149,7 @@ TEST_F(Embedded, ClosingTheInspectorLeavesTheApplicationAndItsScene)
     EXPECT_TRUE(inspector->isVisible());
 }
 
-TEST_F(Embedded, TimeInTheSceneIsTheApplications)
+TEST_F(Embedded, LeavesAnimationToTheApplication)
 {
     ASSERT_TRUE(openByKey());
     const auto turned = [this, from = m_window.getScene().plate->rotation.getValue()] {

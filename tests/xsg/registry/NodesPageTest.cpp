@@ -81,5 +81,5 @@ TEST(NodesPage, ListsEveryNodeWithEveryField)
     }
     for (const Section& section : sections)
         EXPECT_EQ(known.count(section.name), 1U)
-            << "docs/nodes.md tells of a node that is not there: " << section.name;
+            << "docs/nodes.md has a node that does not exist: " << section.name;
 }

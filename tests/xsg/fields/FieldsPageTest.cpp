@@ -49,7 +49,7 @@ TEST(FieldsPage, HasEveryTypeWithAnExampleThatTheGalleryShows)
         page.erase(type);
     }
     for (const auto& [type, text] : page)
-        ADD_FAILURE() << "docs/fields.md tells of a type that is not in the gallery: " << type;
+        ADD_FAILURE() << "docs/fields.md has a type that is not in the gallery: " << type;
 }
 
 TEST(FieldGallery, HasOneFieldOfEveryType)

@@ -69,7 +69,7 @@ TEST_F(PreferencesFile, TheEnvironmentWins)
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 7), 8);
 }
 
-TEST_F(PreferencesFile, ABadLineIsNamedAndTheRestIsRead)
+TEST_F(PreferencesFile, ReportsABadLineAndReadsTheRest)
 {
     feed("XSG_TEST_SETTING = 1\nnonsense\n = 4\nLATER = 2\n");
     EXPECT_EQ(SoPreferences::getInt("LATER", 0), 2);
@@ -80,7 +80,7 @@ TEST_F(PreferencesFile, ABadLineIsNamedAndTheRestIsRead)
     EXPECT_EQ(readErrors.texts[1], path + ":3: The line is no setting; expected NAME = value.");
 }
 
-TEST_F(PreferencesFile, OneThatIsTooLargeIsRefused)
+TEST_F(PreferencesFile, RefusesAFileThatIsTooLarge)
 {
     feed("XSG_TEST_SETTING = 1\n" + QByteArray(2'000'000, '#'));
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 5), 5);

@@ -94,7 +94,7 @@ TEST_F(LiveView, FollowsTheEditOfTheCameraThatItLooksThrough)
     const QImage turned = picture();
     EXPECT_NE(turned, before);
     session.stack().redo();
-    EXPECT_EQ(picture(), turned) << "the person had gone on looking around";
+    EXPECT_EQ(picture(), turned) << "the user had looked around since";
     QTest::keyClick(&view(), Qt::Key_Home);
     EXPECT_EQ(picture(), nearer);
 }
@@ -123,7 +123,7 @@ TEST_F(LiveView, LookingAroundIsNoEdit)
 }
 
 // What an application does to its scene while the host looks at it.
-TEST_F(LiveView, WhatIsTakenOutIsGoneAndPutBackLooksAsBefore)
+TEST_F(LiveView, RemovingANodeChangesThePictureAndInsertingItRestoresIt)
 {
     window().resize(1400, 700); // all of it is in the picture
     ASSERT_TRUE(open(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
@@ -144,7 +144,7 @@ TEST_F(LiveView, WhatIsTakenOutIsGoneAndPutBackLooksAsBefore)
     }
 }
 
-TEST_F(LiveView, WhatIsPutInIsSeenUntilItIsTakenOut)
+TEST_F(LiveView, AnInsertedNodeIsVisibleUntilItIsRemoved)
 {
     ASSERT_TRUE(open(SCOPIX_SOURCE_DIR "/data/models/crate.gltf"));
     const QImage before = picture();
