@@ -6,17 +6,16 @@
 
 #include <QHash>
 
+#include <utility>
+
 namespace
 {
 
 using Lives = QHash<const SoFieldContainer*, std::weak_ptr<FieldLife>>;
 
-// Never destroyed: what refers to a field may outlive this library's own objects at the end of the process.
-Lives& lives()
-{
-    static auto& lives = *new Lives;
-    return lives;
-}
+// There while it holds any. No static object: what refers to a field may outlive those of this library at the end of
+// the process.
+Lives* s_lives = nullptr;
 
 } // namespace
 
@@ -28,13 +27,24 @@ std::shared_ptr<FieldLife> FieldLife::of(SoField& field)
 
 std::shared_ptr<FieldLife> FieldLife::of(SoFieldContainer& container)
 {
-    if (std::shared_ptr<FieldLife> known = lives().value(&container).lock())
+    if (!s_lives) {
+        s_lives = new Lives;
+        SoFieldContainer::addDyingCallback(dyingCB, nullptr);
+    }
+    if (std::shared_ptr<FieldLife> known = s_lives->value(&container).lock())
         return known;
     const std::shared_ptr<FieldLife> life(new FieldLife(container));
-    if (lives().isEmpty())
-        SoFieldContainer::addDyingCallback(dyingCB, nullptr);
-    lives().insert(&container, life);
+    s_lives->insert(&container, life);
     return life;
+}
+
+void FieldLife::forget(const SoFieldContainer* container)
+{
+    s_lives->remove(container);
+    if (!s_lives->isEmpty())
+        return;
+    SoFieldContainer::removeDyingCallback(dyingCB, nullptr);
+    delete std::exchange(s_lives, nullptr);
 }
 
 FieldLife::FieldLife(SoFieldContainer& container)
@@ -49,11 +59,8 @@ FieldLife::FieldLife(SoField& aloneField)
 
 FieldLife::~FieldLife()
 {
-    if (!m_container)
-        return;
-    lives().remove(m_container);
-    if (lives().isEmpty())
-        SoFieldContainer::removeDyingCallback(dyingCB, nullptr);
+    if (m_container)
+        forget(m_container);
 }
 
 bool FieldLife::isOver() const
@@ -63,12 +70,11 @@ bool FieldLife::isOver() const
 
 void FieldLife::dyingCB(void* /*data*/, SoFieldContainer* dying)
 {
-    const std::shared_ptr<FieldLife> life = lives().value(dying).lock();
+    // Another listener may have let go of the last one, while this one is still to be called.
+    const std::shared_ptr<FieldLife> life = s_lives ? s_lives->value(dying).lock() : nullptr;
     if (!life)
         return;
-    lives().remove(dying);
-    if (lives().isEmpty())
-        SoFieldContainer::removeDyingCallback(dyingCB, nullptr);
+    forget(dying);
     life->m_container = nullptr;
     emit life->over();
 }

@@ -30,6 +30,7 @@ signals:
 private:
     explicit FieldLife(SoFieldContainer& container);
     explicit FieldLife(SoField& aloneField);
+    static void forget(const SoFieldContainer* container);
     static void dyingCB(void*, SoFieldContainer* dying);
 
     SoFieldContainer* m_container = nullptr; // null once it was destroyed

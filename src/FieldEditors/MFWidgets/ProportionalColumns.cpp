@@ -46,6 +46,9 @@ void ProportionalColumns::moveBorder(int column, int before, int now)
 
 void ProportionalColumns::fit()
 {
+    // While the table is destroyed, its header still reports the removal of its columns.
+    if (!qobject_cast<QTableView*>(m_header->parentWidget()))
+        return;
     const int columns = m_header->count();
     if (m_shares.size() != columns)
         m_shares.fill(1, columns);
