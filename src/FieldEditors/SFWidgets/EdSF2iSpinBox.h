@@ -28,6 +28,8 @@ protected:
     virtual bool read(Pair& numbers) const = 0;
     virtual void write(const Pair& numbers) = 0;
 
+    void dropTyping() override;
+
 private:
     QWidget* buildInput() override;
 

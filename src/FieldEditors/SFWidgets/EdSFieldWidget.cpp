@@ -242,8 +242,19 @@ void EdSFieldWidget::ignoreButtonStateChanged()
         EdFieldEdits::setIgnored(field, m_ignoreButton->isChecked());
 }
 
+// What waits to be applied would otherwise replace the default when its input is left.
+void EdSFieldWidget::dropTyping()
+{
+    const QList<EdLineEdit*> inputs = getWidgetContainer()->findChildren<EdLineEdit*>();
+    for (EdLineEdit* input : inputs)
+        input->dropTyping();
+}
+
 void EdSFieldWidget::setDefaultFieldValue()
 {
-    if (SoField* field = getField())
-        EdFieldEdits::setToDefault(field);
+    SoField* field = getField();
+    if (!field)
+        return;
+    dropTyping();
+    EdFieldEdits::setToDefault(field);
 }

@@ -74,6 +74,8 @@ protected:
     void setSpacers(int width, int height);
     /// Another number for each field that came: a dialog compares it when it returns.
     int editingRound() const { return m_editingRound; }
+    /// Every input shows the field's value in place of what was typed into it.
+    virtual void dropTyping();
 
 private:
     void makeSlider(SFFrameType frameType);

@@ -111,13 +111,14 @@ TYPED_TEST(FloatsEditorTest, LeavingAppliesOnlyWhatWasModified)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TYPED_TEST(FloatsEditorTest, ComponentThatDoesNotConvertIsZero)
+TYPED_TEST(FloatsEditorTest, ComponentThatDoesNotConvertStandsForTheFieldsNumber)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
     person::type(lines[0], "-");
     person::typeAndEnter(lines[1], "5");
-    EXPECT_EQ(edited.text().substr(0, 3), "0 5");
+    EXPECT_EQ(edited.text().substr(0, 3), "1 5");
+    EXPECT_EQ(lines[0]->text(), "1");
     EXPECT_EQ(edited.commands(), 1) << "what was typed in all inputs is applied at once";
 }
 
