@@ -15,9 +15,9 @@ class EdSF2iSpinBox : public EdSFColumnsWidget
 public:
     void load() override;
     void refresh() override;
-    void applyChanges() override;
 
 protected:
+    void applyChanges() override;
     using Pair = std::array<int, 2>;
 
     EdSF2iSpinBox(const char* name, int limits);

@@ -51,10 +51,8 @@ public:
     /// The caption; the first one stays.
     void setFieldName(const QString& name);
 
-public slots:
-    void applyChanges() override;
-
 protected slots:
+    void applyChanges() override;
     virtual void languageChange();
     virtual void setCommandValue();
     void setFocusLeaveEvent();

@@ -240,7 +240,7 @@ TEST(ComponentEditorTest, ShowingARotationNeverChangesItsBits)
 {
     EditedRotation edited("0.267261237 0.534522474 0.801783681 1.23456788");
     const std::string before = edited.text();
-    edited.editor.applyChanges();
+    edited.apply();
     edited.host.release(edited.editor);
     EXPECT_EQ(edited.text(), before);
     EXPECT_EQ(edited.commands(), 0);
