@@ -7,15 +7,26 @@
 
 #include <QDockWidget>
 
+// An editor whose type covers both fields and nodes moves from one dock to another.
+QList<SpxEditorDock*>& SpxEditorDock::docks()
+{
+    static QList<SpxEditorDock*> all;
+    return all;
+}
+
 SpxEditorDock::SpxEditorDock(const char* title)
 {
     setName(title);
     setDescription(std::string(title) + " for Scopix.");
     setVendor("Arvex");
     setVersion("1.0.0");
+    docks().append(this);
 }
 
-SpxEditorDock::~SpxEditorDock() = default;
+SpxEditorDock::~SpxEditorDock()
+{
+    docks().removeOne(this);
+}
 
 void SpxEditorDock::load()
 {
@@ -66,29 +77,46 @@ void SpxEditorDock::hide()
 
 void SpxEditorDock::showEditorOf(SoTypedObject* object)
 {
+    const int round = ++m_round;
     releaseEditor();
+    if (round != m_round)
+        return; // what the released editor applied selected something else
     SpxEditor* editor = object ? editorFor(object->getTypeId()) : nullptr;
     if (!editor)
         return;
+    for (SpxEditorDock* dock : qAsConst(docks())) {
+        if (dock->m_editor == editor)
+            dock->releaseEditor();
+    }
+    m_editor = editor; // before activate(), which may select something else
     editor->setEditedObject(object);
     m_dock->setWidget(editor->getWidget());
     editor->activate();
-    m_editor = editor;
-    show();
+    if (m_editor == editor)
+        show();
 }
 
 void SpxEditorDock::releaseEditor()
 {
     if (!m_editor)
         return;
-    m_editor->deactivate();
-    m_editor->setEditedObject(nullptr);
+    const QPointer<SpxEditor> editor = m_editor;
+    m_editor = nullptr; // before deactivate(), which may select something else
+    editor->deactivate();
+    if (editor && editor != m_editor)
+        undock(editor);
+    if (!m_editor)
+        hide();
+}
+
+void SpxEditorDock::undock(SpxEditor* editor)
+{
+    editor->setEditedObject(nullptr);
     // The dock keeps what it held as its child; the editor owns its widget.
-    m_dock->setWidget(nullptr);
-    if (QWidget* widget = m_editor->getWidget())
+    if (!m_editor)
+        m_dock->setWidget(nullptr);
+    if (QWidget* widget = editor->getWidget())
         widget->setParent(nullptr);
-    m_editor = nullptr;
-    hide();
 }
 
 // The most derived handled type wins; among equal ones, the later editor.

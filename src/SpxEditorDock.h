@@ -3,6 +3,7 @@
 
 #include <scopix/SpxEditor.h>
 
+#include <QList>
 #include <QPointer>
 
 class QDockWidget;
@@ -28,16 +29,21 @@ protected:
     /// `title` names the extension and its dock.
     explicit SpxEditorDock(const char* title);
 
-    /// Puts the editor for this object into the dock, after the one that was there has been released. Without
-    /// an object or an editor the dock stays hidden.
+    /// Puts the editor for this object into the dock, after the one that was there has been released, and
+    /// the editor itself from another dock that shows it. Without an object or an editor the dock stays
+    /// hidden.
     void showEditorOf(SoTypedObject* object);
 
 private:
     virtual void connectTo(SpxServices* services) = 0;
     virtual void disconnectFrom(SpxServices* services) = 0;
+    /// Every dock there is.
+    static QList<SpxEditorDock*>& docks();
     SpxEditor* editorFor(SoType type) const;
     void releaseEditor();
+    void undock(SpxEditor* editor);
 
     QPointer<QDockWidget> m_dock; // the extension's own, also while the shell is its parent
     QPointer<SpxEditor> m_editor; // not owned
+    int m_round = 0;              // another one for each object to show
 };

@@ -4,7 +4,12 @@
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
 
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QFrame>
+#include <QMouseEvent>
+#include <QSignalBlocker>
 
 namespace
 {
@@ -13,6 +18,34 @@ bool isEnding(const SoField* field)
 {
     const SoFieldContainer* container = field->getContainer();
     return container && container->isBeingDestroyed();
+}
+
+template <class Control>
+QList<QWidget*> controlsIn(const QWidget* container)
+{
+    QList<QWidget*> controls;
+    for (Control* control : container->findChildren<Control*>())
+        controls << control;
+    return controls;
+}
+
+// Lets go of every button, slider and spin box that is held, in silence: what the user still does with the
+// pressed mouse button must not reach the next field. The release goes to the control alone, since for
+// everybody else the mouse button stays down.
+void releasePressed(const QWidget* container)
+{
+    if (!container)
+        return;
+    for (auto* button : container->findChildren<QAbstractButton*>())
+        button->setDown(false);
+    for (QWidget* control : controlsIn<QAbstractButton>(container) + controlsIn<QAbstractSlider>(container) +
+                                controlsIn<QAbstractSpinBox>(container)) {
+        const QSignalBlocker quiet(control);
+        const QPoint outside(-1, -1);
+        QMouseEvent release(QEvent::MouseButtonRelease, outside, control->mapToGlobal(outside),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        static_cast<QObject*>(control)->event(&release);
+    }
 }
 
 } // namespace
@@ -89,6 +122,8 @@ void SpxFieldEditors::unload()
 
 void SpxFieldEditors::setField(SoField* field)
 {
+    if (field != getField())
+        releasePressed(m_container);
     if (m_sensor)
         m_sensor->attach(field);
 }

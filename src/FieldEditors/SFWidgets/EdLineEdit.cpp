@@ -43,11 +43,11 @@ void EdLineEdit::keyPressEvent(QKeyEvent* event)
         QLineEdit::keyPressEvent(event);
         return;
     }
-    takeTypingBack();
+    dropTyping();
     event->setAccepted(!m_escapePassed);
 }
 
-void EdLineEdit::takeTypingBack()
+void EdLineEdit::dropTyping()
 {
     putText(m_shownText);
     emit typingTakenBack();
@@ -66,6 +66,8 @@ void EdLineEdit::focusOutEvent(QFocusEvent* event)
     disconnect(watch);
     if (m_finishingAlways && !finished && !isKeptByUser(event) && hasAcceptableInput())
         emit editingFinished();
+    if (!isKeptByUser(event) && isModified() && !hasAcceptableInput())
+        dropTyping();
 }
 
 // Another window or a popup takes the focus for a while; it will come back.

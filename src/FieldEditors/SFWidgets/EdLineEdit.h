@@ -4,7 +4,8 @@
 #include <QLineEdit>
 
 /// The line edit of the field editors. It remembers the text that the field last gave it, so that a refresh
-/// leaves alone what the user is typing, and Escape takes the typing back. Showing emits no signal.
+/// leaves alone what the user is typing, and Escape takes the typing back. So does leaving it with a text
+/// that its validator does not accept, as "-" alone. Showing emits no signal.
 class EdLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -20,6 +21,8 @@ public:
     /// What showText() was last given; null before.
     const QString& shownText() const { return m_shownText; }
     bool isChanged() const { return text() != m_shownText; }
+    /// Shows again what showText() was last given.
+    void dropTyping();
     /// Another field comes: what was shown and typed for the last one is over.
     void forget();
 
@@ -36,7 +39,6 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void takeTypingBack();
     bool isKeptByUser(const QFocusEvent* event) const;
 
     QString m_shownText;

@@ -2,6 +2,23 @@
 #include "EdLineEditGroup.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+// A complete one, and none that a float cannot hold.
+bool holdsNumber(const EdLineEdit& input)
+{
+    bool ok = false;
+    const double value = input.text().toDouble(&ok);
+    const bool isTooLarge =
+        std::isfinite(value) && std::abs(value) > double(std::numeric_limits<float>::max());
+    return ok && !isTooLarge && input.hasAcceptableInput();
+}
+
+} // namespace
 
 void EdLineEditGroup::show(const QStringList& texts) const
 {
@@ -16,10 +33,14 @@ bool EdLineEditGroup::isEdited() const
                        [](const EdLineEdit* input) { return input->isModified(); });
 }
 
-bool EdLineEditGroup::isChanged() const
+bool EdLineEditGroup::takeTyping() const
 {
-    const auto changed = [](const EdLineEdit* input) { return input->isModified() || input->isChanged(); };
-    return std::any_of(m_inputs.begin(), m_inputs.end(), changed);
+    for (EdLineEdit* input : m_inputs) {
+        if (input->isChanged() ? !holdsNumber(*input) : input->isModified())
+            input->dropTyping();
+    }
+    return std::any_of(m_inputs.begin(), m_inputs.end(),
+                       [](const EdLineEdit* input) { return input->isChanged(); });
 }
 
 void EdLineEditGroup::revertCursorPosition() const

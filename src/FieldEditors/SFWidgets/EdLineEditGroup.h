@@ -22,8 +22,9 @@ public:
     void show(const QStringList& texts) const;
     /// True when the user typed in one of them.
     bool isEdited() const;
-    /// True when there is something to apply.
-    bool isChanged() const;
+    /// Before applying: an input whose text is no number shows the field's number again, and one whose text
+    /// ended as it was shown counts as untouched. True when there is something left to apply.
+    bool takeTyping() const;
     /// Back to their beginnings, so that long numbers show it.
     void revertCursorPosition() const;
 

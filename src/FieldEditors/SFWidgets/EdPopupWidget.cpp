@@ -116,7 +116,7 @@ void EdPopupWidget::refresh()
 
 void EdPopupWidget::applyChanges()
 {
-    if (cellTexts().isEmpty() || !m_cells.isChanged())
+    if (cellTexts().isEmpty() || !m_cells.takeTyping())
         return;
     EdFieldEdits::write(getSField(), [this] { writeCells(m_cells); });
 }

@@ -67,7 +67,8 @@ bool EdRealSlider::isNumberTyped() const
 
 bool EdRealSlider::isTextTaken() const
 {
-    return numberOf(getValueFromEdit()) == getNumber();
+    const QString text = getValueFromEdit();
+    return numberOf(text) == getNumber() || text == numberText(getNumber());
 }
 
 void EdRealSlider::setRealValue(double value)

@@ -86,6 +86,13 @@ void EdSF2iSpinBox::refresh()
     EdSFColumnsWidget::refresh();
 }
 
+// Every number is applied as it is typed: only text that is none yet waits.
+void EdSF2iSpinBox::dropTyping()
+{
+    for (QSpinBox* box : qAsConst(m_boxes))
+        box->setValue(box->value());
+}
+
 void EdSF2iSpinBox::applyChanges()
 {
     Pair numbers;

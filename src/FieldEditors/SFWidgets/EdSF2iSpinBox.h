@@ -15,9 +15,9 @@ class EdSF2iSpinBox : public EdSFColumnsWidget
 public:
     void load() override;
     void refresh() override;
-    void applyChanges() override;
 
 protected:
+    void applyChanges() override;
     using Pair = std::array<int, 2>;
 
     EdSF2iSpinBox(const char* name, int limits);
@@ -27,6 +27,8 @@ protected:
     /// The field's numbers; false without a field of the right type.
     virtual bool read(Pair& numbers) const = 0;
     virtual void write(const Pair& numbers) = 0;
+
+    void dropTyping() override;
 
 private:
     QWidget* buildInput() override;

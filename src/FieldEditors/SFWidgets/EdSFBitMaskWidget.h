@@ -23,10 +23,12 @@ public:
     void unload() override;
     void setField(SoField* field) override;
     void refresh() override;
-    void applyChanges() override;
 
 protected slots:
     virtual void setBitMaskValue();
+
+protected:
+    void applyChanges() override;
 
 private:
     void initClass();

@@ -22,8 +22,9 @@ void EdSFBoolWidget::load()
     m_box = new QCheckBox(editionFrame());
     m_box->setObjectName(QStringLiteral("m_box"));
     m_box->setAccessibleName(tr("Value"));
-    m_box->setFixedHeight(xsgsettings_fieldEditor(QStringLiteral("SFComponentHeight")));
-    m_box->setFixedWidth(xsgsettings_fieldEditor(QStringLiteral("SFBoolWidth")));
+    const QSize stated(xsgsettings_fieldEditor(QStringLiteral("SFBoolWidth")),
+                       xsgsettings_fieldEditor(QStringLiteral("SFComponentHeight")));
+    m_box->setFixedSize(stated.expandedTo(m_box->sizeHint())); // the tick grows with the screen's resolution
     editLayout()->addWidget(m_box);
     editLayout()->addStretch(1);
     connect(m_box, &QCheckBox::clicked, this, &EdSFBoolWidget::setCommandValue);

@@ -15,6 +15,8 @@ public:
 
     void load() override;
     void refresh() override;
+
+protected:
     void applyChanges() override;
 
 private:

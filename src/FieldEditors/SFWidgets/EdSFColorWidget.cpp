@@ -149,7 +149,7 @@ void EdSFColorWidget::refresh()
 void EdSFColorWidget::applyChanges()
 {
     auto* field = getFieldAs<SoSFColor>();
-    if (!field || !m_inputs.isChanged())
+    if (!field || !m_inputs.takeTyping())
         return;
     SbColor color = field->getValue();
     for (std::size_t i = 0; i < m_edits.size(); ++i) {

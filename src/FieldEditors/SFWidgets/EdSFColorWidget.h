@@ -17,7 +17,6 @@ public:
 
     void load() override;
     void refresh() override;
-    void applyChanges() override;
     bool edited() override;
 
 protected slots:
@@ -25,6 +24,9 @@ protected slots:
     void changeGValue(const QString& text);
     void changeBValue(const QString& text);
     void getColorEditor();
+
+protected:
+    void applyChanges() override;
 
 private:
     void buildSwatch();

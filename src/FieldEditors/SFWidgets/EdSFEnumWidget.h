@@ -17,6 +17,8 @@ public:
     void setField(SoField* field) override;
     /// A value without a name shows no selection.
     void refresh() override;
+
+protected:
     void applyChanges() override;
 
 private:

@@ -15,10 +15,8 @@ public:
 
     void load() override;
 
-public slots:
-    bool edited() override;
-
 protected slots:
+    bool edited() override;
     /// Starts in the folder of the present value.
     void openFileDialog();
 };

@@ -42,7 +42,7 @@ void EdSFFloatsWidget::refresh()
 void EdSFFloatsWidget::applyChanges()
 {
     Floats numbers = read();
-    if (numbers.empty() || !m_inputs.isChanged())
+    if (numbers.empty() || !m_inputs.takeTyping())
         return;
     m_inputs.read(numbers, SpxText::toFloatOr0);
     EdFieldEdits::write(getSField(), [&] { write(numbers); });

@@ -17,10 +17,10 @@ class EdSFFloatsWidget : public EdSFColumnsWidget
 public:
     void load() override;
     void refresh() override;
-    void applyChanges() override;
     bool edited() override;
 
 protected:
+    void applyChanges() override;
     using Floats = std::vector<float>;
     using EdSFColumnsWidget::EdSFColumnsWidget;
 

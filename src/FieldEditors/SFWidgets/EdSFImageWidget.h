@@ -15,12 +15,14 @@ public:
 
     void load() override;
     void refresh() override;
-    void applyChanges() override;
 
     /// Leaves the pixmap as it is where the field holds no picture that can be shown.
     static void getPixmapFromField(SoField* field, QPixmap& pixmap);
     /// A copy that XsgFree() gives back; null for a size below 1.
     static unsigned char* copyBuffer(const unsigned char* data, int size);
+
+protected:
+    void applyChanges() override;
 
 private:
     EdSFImageLabel* m_imageBox = nullptr;

@@ -15,10 +15,10 @@ class EdSFIntegerWidget : public EdSFieldWidget
 public:
     void load() override;
     void refresh() override;
-    void applyChanges() override;
     bool edited() override;
 
 protected:
+    void applyChanges() override;
     EdSFIntegerWidget(SFFrameType frameType, const char* name);
 
 private:

@@ -13,10 +13,10 @@ class EdSFRealWidget : public EdSFieldWidget
 public:
     void setField(SoField* field) override;
     void refresh() override;
-    void applyChanges() override;
     bool edited() override;
 
 protected:
+    void applyChanges() override;
     EdSFRealWidget(SFFrameType frameType, const char* name);
 
 private:

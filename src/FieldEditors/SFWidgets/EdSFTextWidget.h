@@ -15,10 +15,10 @@ class EdSFTextWidget : public EdSFieldWidget
 public:
     void load() override;
     void refresh() override;
-    void applyChanges() override;
     bool edited() override;
 
 protected:
+    void applyChanges() override;
     explicit EdSFTextWidget(const char* name);
 
     EdLineEdit* lineEdit() const { return m_lineEdit; }

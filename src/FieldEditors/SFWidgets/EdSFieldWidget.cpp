@@ -114,6 +114,7 @@ void EdSFieldWidget::load()
     m_editionSpacer = addSpacer(m_editionAreaLayout);
     buildButtons();
     m_editionAreaLayout->addLayout(m_buttonLayout);
+    m_editionAreaLayout->setAlignment(m_buttonLayout, Qt::AlignTop);
     m_editionAreaLayout->setSizeConstraint(QLayout::SetMinimumSize);
     m_mainLayout->addLayout(m_editionAreaLayout, 1);
     // In a tall dock everything stands at the top.
@@ -164,6 +165,7 @@ void EdSFieldWidget::buildButtons()
     const EdFieldFrame frame(getWidgetContainer());
     // The main layout's object name once more (decisions.md: layout-names).
     m_buttonLayout = EdFieldFrame::newRow("SFieldLayout", "SFButtonLayoutMargin", "SFButtonLayoutSpacing");
+    m_buttonLayout->addStrut(m_label->minimumHeight()); // level with the caption, also beside many rows
     m_defaultButton = frame.newDefaultButton(fieldEditor::icon(fieldEditor::Icon::Default));
     m_buttonLayout->addWidget(m_defaultButton);
     m_ignoreButton = frame.newIgnoreButton(fieldEditor::icon(fieldEditor::Icon::Ignore));
@@ -242,8 +244,19 @@ void EdSFieldWidget::ignoreButtonStateChanged()
         EdFieldEdits::setIgnored(field, m_ignoreButton->isChecked());
 }
 
+// What waits to be applied would otherwise replace the default when its input is left.
+void EdSFieldWidget::dropTyping()
+{
+    const QList<EdLineEdit*> inputs = getWidgetContainer()->findChildren<EdLineEdit*>();
+    for (EdLineEdit* input : inputs)
+        input->dropTyping();
+}
+
 void EdSFieldWidget::setDefaultFieldValue()
 {
-    if (SoField* field = getField())
-        EdFieldEdits::setToDefault(field);
+    SoField* field = getField();
+    if (!field)
+        return;
+    dropTyping();
+    EdFieldEdits::setToDefault(field);
 }

@@ -51,10 +51,8 @@ public:
     /// The caption; the first one stays.
     void setFieldName(const QString& name);
 
-public slots:
-    void applyChanges() override;
-
 protected slots:
+    void applyChanges() override;
     virtual void languageChange();
     virtual void setCommandValue();
     void setFocusLeaveEvent();
@@ -74,6 +72,8 @@ protected:
     void setSpacers(int width, int height);
     /// Another number for each field that came: a dialog compares it when it returns.
     int editingRound() const { return m_editingRound; }
+    /// Every input shows the field's value in place of what was typed into it.
+    virtual void dropTyping();
 
 private:
     void makeSlider(SFFrameType frameType);

@@ -64,9 +64,19 @@ void EdSlider::build(SliderParentType parentType)
     m_layout->addWidget(m_checkBox);
     m_layout->addWidget(m_slider, 3);
     m_layout->addWidget(m_lineEdit, 2);
-    setTabOrder(m_checkBox, m_slider);
-    setTabOrder(m_slider, m_lineEdit);
+    orderInputs();
     setFocusProxy(m_lineEdit);
+}
+
+// The frame counts as a stop for its proxy, the line, so it stands just before the line: Tab from a widget
+// before the editor then comes to the check box first. Qt orders only widgets with a focus policy.
+void EdSlider::orderInputs()
+{
+    setFocusPolicy(Qt::TabFocus);
+    setTabOrder(this, m_checkBox);
+    setTabOrder(m_checkBox, m_slider);
+    setTabOrder(m_slider, this);
+    setFocusPolicy(Qt::NoFocus);
 }
 
 void EdSlider::connectInputs()
@@ -93,7 +103,11 @@ void EdSlider::saveDataFromField() {}
 
 QString EdSlider::getText() const
 {
-    const QString text = m_lineEdit->text();
+    return withPrefix(m_lineEdit->text());
+}
+
+QString EdSlider::withPrefix(const QString& text) const
+{
     if (m_radix == 8)
         return QLatin1Char('0') + text;
     return m_radix == 16 ? QLatin1String("0x") + text : text;
@@ -166,13 +180,20 @@ bool EdSlider::takeTyping()
 {
     if (!isEdited())
         return true;
-    if (!m_lineEdit->hasAcceptableInput())
+    if (!m_lineEdit->isChanged() || !isNumberTyped()) {
+        dropTyping();
         return false;
+    }
     setValueFromEdit();
     updateSlider();
     m_lineEdit->setModified(false);
-    m_unapplied = false;
     return true;
+}
+
+// What was moved without live update, unlike what was typed, is the slider's number already.
+bool EdSlider::isUnapplied() const
+{
+    return isEdited() && m_lineEdit->isChanged() && isTextTaken();
 }
 
 bool EdSlider::isHeld() const
@@ -185,28 +206,20 @@ void EdSlider::forget()
     m_savedText.makeNull();
     m_lineEdit->forget();
     m_moved = false;
-    m_unapplied = false;
     m_heldBack = false;
 }
 
 void EdSlider::dropTyping()
 {
-    m_lineEdit->putText(m_lineEdit->shownText());
-    takeTypingBack();
+    m_lineEdit->dropTyping();
 }
 
 void EdSlider::changeValueFromEdit()
 {
-    if (!isEdited())
+    if (!isEdited() || !takeTyping())
         return;
-    if (m_parentType != SingleValueParent && (!m_lineEdit->isChanged() || !isNumberTyped())) {
-        dropTyping();
-        return;
-    }
-    setValueFromEdit();
-    updateSlider();
     // A list takes the line's text, not the number.
-    if (m_parentType != SingleValueParent && !isTextTaken())
+    if (isInTable() && !isTextTaken())
         updateEdit();
     apply();
 }
@@ -220,14 +233,14 @@ void EdSlider::beginCallback()
 {
     m_sliding = true;
     m_moved = false;
-    if (!m_unapplied)
+    if (!isUnapplied())
         saveDataFromField();
 }
 
 void EdSlider::finishCallback()
 {
     m_sliding = false;
-    if (m_moved || m_unapplied)
+    if (m_moved || isUnapplied())
         changeValueAfterFinish(m_slider->value());
     else
         showHeldBack();
@@ -260,7 +273,6 @@ void EdSlider::changeValueFromSlider(int position)
         apply();
         return;
     }
-    m_unapplied = true;
     m_lineEdit->setModified(true);
 }
 
@@ -272,7 +284,6 @@ void EdSlider::changeValueAfterFinish(int position)
 
 void EdSlider::takeTypingBack()
 {
-    m_unapplied = false;
     setValueFromEdit();
     updateSlider();
 }
@@ -280,8 +291,7 @@ void EdSlider::takeTypingBack()
 void EdSlider::apply()
 {
     m_lineEdit->setModified(false);
-    m_unapplied = false;
-    if (m_parentType == SingleValueParent) {
+    if (!isInTable()) {
         m_owner->applyChanges();
         return;
     }
@@ -301,7 +311,7 @@ bool EdSlider::isKeptFromTable(const QKeyEvent* event) const
     case Qt::Key_Backtab:
         return false;
     default:
-        return m_parentType != SingleValueParent;
+        return isInTable();
     }
 }
 

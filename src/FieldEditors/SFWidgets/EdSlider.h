@@ -50,7 +50,8 @@ public:
 
     /// The text that saveDataFromField() kept; the command of the next edit consumes it.
     SbString& savedText() { return m_savedText; }
-    /// Reads what was typed and not applied. False where it cannot be read yet, as "-" alone.
+    /// Reads what was typed and not applied. False where that is no number or what the field shows already:
+    /// the line then shows the field's value again.
     bool takeTyping();
     /// While the user holds the handle, nothing from the field moves the slider.
     bool isHeld() const;
@@ -77,8 +78,11 @@ protected:
     /// Whether the line says the number that was taken from it: it may lie outside of a fixed range.
     virtual bool isTextTaken() const { return true; }
 
+    bool isInTable() const { return m_parentType != SingleValueParent; }
     EdLineEdit* lineEdit() const { return m_lineEdit; }
     int radix() const { return m_radix; }
+    /// The text of a number as a field of the slider's radix has it.
+    QString withPrefix(const QString& text) const;
     void setRadix(int radix) { m_radix = radix; }
     void setPosition(int position) { m_position = position; }
     /// Limits the slider and puts it back to its position, silently.
@@ -90,9 +94,12 @@ protected:
 
 private:
     void build(SliderParentType parentType);
+    void orderInputs();
     void connectInputs();
     void changeValueFromSlider(int position);
     void changeValueAfterFinish(int position);
+    /// Whether the slider shows a number that the field does not have.
+    bool isUnapplied() const;
     void showHeldBack();
     void takeTypingBack();
     void apply();
@@ -112,7 +119,6 @@ private:
     SpxFieldEditors* m_owner;
     int m_row;
     int m_column;
-    bool m_moved = false;     // since the handle was pressed
-    bool m_unapplied = false; // the slider shows a value that the field does not have
-    bool m_heldBack = false;  // the field changed while the handle was held
+    bool m_moved = false;    // since the handle was pressed
+    bool m_heldBack = false; // the field changed while the handle was held
 };

@@ -50,7 +50,7 @@ void EdUIntSlider::setValueFromEdit()
 
 void EdUIntSlider::saveDataFromField()
 {
-    savedText() = SpxText::toSbString(getText());
+    savedText() = SpxText::toSbString(withPrefix(numberText()));
 }
 
 int EdUIntSlider::positionOf(unsigned int value) const
@@ -61,6 +61,14 @@ int EdUIntSlider::positionOf(unsigned int value) const
 unsigned int EdUIntSlider::numberAt(int position) const
 {
     return static_cast<unsigned int>(position) ^ TopBit;
+}
+
+// Without a validator, a number beyond the type is refused when the typing ends; a list's cell clamps it.
+bool EdUIntSlider::isNumberTyped() const
+{
+    bool ok = false;
+    const unsigned int value = toInteger(getValueFromEdit(), radix(), ok);
+    return ok && (isInTable() || value <= m_wholeType);
 }
 
 unsigned int EdUIntSlider::toInteger(const QString& text, int radix, bool& ok) const

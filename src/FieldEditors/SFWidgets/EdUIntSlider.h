@@ -23,6 +23,7 @@ protected:
     int positionOf(unsigned int value) const override;
     unsigned int numberAt(int position) const override;
     unsigned int toInteger(const QString& text, int radix, bool& ok) const override;
+    bool isNumberTyped() const override;
 
 private:
     unsigned int m_wholeType;

@@ -7,12 +7,16 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/fields/SoSFBitMask.h>
 #include <xsg/fields/SoSFEnum.h>
+#include <xsg/fields/SoSFInt32.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QDockWidget>
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
 
 namespace
 {
@@ -216,6 +220,115 @@ TEST_F(FieldEditorDock, KeepsTheEditorsWidgetWhenItIsDestroyed)
     const QPointer<QWidget> widget = editor.getWidget();
     fields.host.stop(fields.extension);
     EXPECT_TRUE(widget);
+}
+
+// --- Selections that change while the dock is at work
+
+namespace
+{
+
+// Selects something else while it is activated or deactivated, once.
+class SelectingEditor : public ProbeEditor
+{
+public:
+    using ProbeEditor::ProbeEditor;
+
+    void activate() override
+    {
+        ProbeEditor::activate();
+        if (const auto select = std::exchange(whenActivated, {}))
+            select();
+    }
+    void deactivate() override
+    {
+        ProbeEditor::deactivate();
+        if (const auto select = std::exchange(whenDeactivated, {}))
+            select();
+    }
+
+    std::function<void()> whenActivated;
+    std::function<void()> whenDeactivated;
+};
+
+class NestedSelection : public testing::Test
+{
+protected:
+    NestedSelection() { fields.load({&selecting, &other}); }
+    void TearDown() override { fields.host.select(NoField); }
+    void expectOnlyTheOther()
+    {
+        EXPECT_EQ(fields.dock->widget(), other.getWidget());
+        EXPECT_TRUE(fields.dock->isVisible());
+        EXPECT_TRUE(other.getWidget()->isVisible());
+        EXPECT_EQ(other.field(), &count);
+        EXPECT_FALSE(selecting.field());
+        EXPECT_FALSE(selecting.getEditedObject());
+        EXPECT_FALSE(selecting.isActive());
+        EXPECT_FALSE(selecting.getWidget()->parentWidget());
+    }
+
+    SelectingEditor selecting;
+    ProbeEditor other{SoSFInt32::getClassTypeId()};
+    FieldDock fields;
+    SoSFFloat number;
+    SoSFInt32 count;
+};
+
+} // namespace
+
+TEST_F(NestedSelection, InActivateLeavesOneActiveEditor)
+{
+    selecting.whenActivated = [this] { fields.host.select(&count); };
+    fields.host.select(&number);
+    expectOnlyTheOther();
+}
+
+TEST_F(NestedSelection, OfNothingInActivateLeavesTheDockHidden)
+{
+    selecting.whenActivated = [this] { fields.host.select(NoField); };
+    fields.host.select(&number);
+    EXPECT_FALSE(fields.dock->isVisible());
+    EXPECT_FALSE(fields.dock->widget());
+    EXPECT_FALSE(selecting.field());
+    EXPECT_FALSE(selecting.isActive());
+}
+
+TEST_F(NestedSelection, InDeactivateIsTheOneThatStays)
+{
+    fields.host.select(&number);
+    selecting.whenDeactivated = [this] { fields.host.select(&count); };
+    fields.host.select(NoField);
+    expectOnlyTheOther();
+}
+
+TEST(EditorOfTwoDocks, IsReleasedByTheOneBeforeTheOtherTakesIt)
+{
+    ProbeEditor editor(SoTypedObject::getClassTypeId());
+    FieldDock fields;
+    fields.load({&editor});
+    SpxNodeEditor nodes;
+    fields.host.start(nodes);
+    SoSFFloat field;
+    const SoRef<SoMaterial> material(new SoMaterial);
+
+    fields.host.select(&field);
+    editor.type("0.5");
+    editor.takeCalls();
+    fields.host.select(material.get());
+    EXPECT_EQ(editor.takeCalls(), "deactivate apply hide docked activate ");
+    EXPECT_EQ(field.getValue(), 0.5F);
+    EXPECT_FALSE(fields.dock->isVisible());
+
+    fields.host.select(NoField); // nothing that the field's dock still shows
+    EXPECT_EQ(editor.takeCalls(), "");
+    EXPECT_EQ(editor.getEditedObject(), static_cast<SoTypedObject*>(material.get()));
+    fields.host.select(&field);
+    EXPECT_EQ(editor.takeCalls(), "deactivate hide docked activate setField refresh show ");
+    EXPECT_EQ(fields.dock->widget(), editor.getWidget());
+    fields.host.select(NoNode);
+    EXPECT_EQ(editor.takeCalls(), "");
+    fields.host.select(NoField);
+    fields.host.stop(nodes);
 }
 
 // --- The choice

@@ -8,7 +8,9 @@
 #include <xsg/fields/SoSFBool.h>
 #include <xsg/fields/SoSFEnum.h>
 
+#include <QApplication>
 #include <QComboBox>
+#include <QProxyStyle>
 #include <QTest>
 
 namespace
@@ -76,6 +78,29 @@ TEST(BoolEditor, ClickIsAppliedAndUndone)
     EXPECT_EQ(edited.commands(), 1);
 }
 
+// As on a screen of 168 dpi.
+TEST(BoolEditor, BoxIsAsLargeAsItsTick)
+{
+    class LargeTicks : public QProxyStyle
+    {
+    public:
+        int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+        {
+            const bool isTick = metric == PM_IndicatorWidth || metric == PM_IndicatorHeight;
+            return isTick ? 60 : QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    };
+    const QString style = QApplication::style()->objectName();
+    QApplication::setStyle(new LargeTicks);
+    {
+        EditedBool edited("FALSE");
+        const auto* box = edited.find<QCheckBox>("m_box");
+        EXPECT_GE(box->width(), 60);
+        EXPECT_GE(box->height(), 60);
+    }
+    QApplication::setStyle(style);
+}
+
 TEST(EnumEditor, ListsTheNamesWithTheirValues)
 {
     EditedEnum edited(2);
@@ -111,7 +136,7 @@ TEST(EnumEditor, ValueWithoutANameShowsNoSelection)
 {
     EditedEnum edited(77);
     EXPECT_EQ(edited.combo()->currentIndex(), -1);
-    edited.editor.applyChanges();
+    edited.apply();
     EXPECT_EQ(edited.text(), "77");
     EXPECT_EQ(edited.commands(), 0);
 }
@@ -167,6 +192,17 @@ TEST(BitMaskEditor, BoxesFollowAChangeFromElsewhere)
     EXPECT_TRUE(edited.box("BLUE")->isChecked());
     EXPECT_FALSE(edited.box("GREEN")->isChecked());
     EXPECT_FALSE(edited.box("RED")->isChecked());
+}
+
+TEST(BitMaskEditor, ButtonsOfATallMaskStandAtTheTop)
+{
+    EditedMask edited(1);
+    edited.editor.getWidget()->resize(420, 400);
+    TestHost::pump();
+    const QCheckBox* lowest = edited.boxes().last();
+    ASSERT_GT(lowest->mapTo(edited.editor.getWidget(), QPoint()).y(), 60);
+    for (const QPushButton* button : {edited.defaultButton(), edited.ignoreButton()})
+        EXPECT_LT(button->geometry().bottom(), 45);
 }
 
 TEST(BitMaskEditor, AnotherFieldBringsItsOwnBoxes)

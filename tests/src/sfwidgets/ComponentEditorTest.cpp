@@ -111,13 +111,14 @@ TYPED_TEST(FloatsEditor, LeavingAppliesOnlyWhatWasModified)
     EXPECT_EQ(edited.commands(), 1);
 }
 
-TYPED_TEST(FloatsEditor, ComponentThatDoesNotConvertIsZero)
+TYPED_TEST(FloatsEditor, ComponentThatDoesNotConvertStandsForTheFieldsNumber)
 {
     TypeParam edited(numbers<TypeParam>("1", "2").c_str());
     const QList<QLineEdit*> lines = inputs<QLineEdit>(edited);
     person::type(lines[0], "-");
     person::typeAndEnter(lines[1], "5");
-    EXPECT_EQ(edited.text().substr(0, 3), "0 5");
+    EXPECT_EQ(edited.text().substr(0, 3), "1 5");
+    EXPECT_EQ(lines[0]->text(), "1");
     EXPECT_EQ(edited.commands(), 1) << "what was typed in all inputs is applied at once";
 }
 
@@ -239,7 +240,7 @@ TEST(ComponentEditor, ShowingARotationNeverChangesItsBits)
 {
     EditedRotation edited("0.267261237 0.534522474 0.801783681 1.23456788");
     const std::string before = edited.text();
-    edited.editor.applyChanges();
+    edited.apply();
     edited.host.release(edited.editor);
     EXPECT_EQ(edited.text(), before);
     EXPECT_EQ(edited.commands(), 0);

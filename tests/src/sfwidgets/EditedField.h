@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Person.h"
+#include "SpxFieldEditors.h"
 #include "support/TestHost.h"
 
 #include <xsg/core/SoField.h>
@@ -50,6 +51,7 @@ struct EditedField {
     QPushButton* defaultButton() { return find<QPushButton>("m_defaultButton"); }
     QPushButton* ignoreButton() { return find<QPushButton>("m_ignoreButton"); }
 
+    void apply() { static_cast<SpxFieldEditors&>(editor).applyChanges(); }
     std::string text() const { return textOf(field); }
     std::string shown() { return edit()->text().toStdString(); }
     int commands() const { return int(host.log().size()); }

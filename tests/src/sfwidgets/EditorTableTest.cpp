@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What holds for every editor, in each place where one edits a value.
-#include "EditorRows.h"
-#include "Gallery.h"
+#include "EveryEditor.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -12,77 +11,11 @@
 namespace
 {
 
-class EveryEditor : public Gallery, public testing::WithParamInterface<EditorRow>
+class EditorTable : public EveryEditor
 {
-protected:
-    void SetUp() override
-    {
-        Gallery::SetUp();
-        m_field = fieldOf(m_gallery.get(), row().type);
-        ASSERT_TRUE(m_field->set(value(0).c_str())) << value(0);
-        open();
-    }
-    static const EditorRow& row() { return GetParam(); }
-    static const std::string& value(int index)
-    {
-        return row().values[std::size_t(index) % row().values.size()];
-    }
-    // Another field of the same type, with a value of its own.
-    SoSField* another(int index)
-    {
-        SoSField* field = fieldOf(addNode(), row().type);
-        EXPECT_TRUE(field->set(value(index).c_str()));
-        return field;
-    }
-    void open(SoSField* field)
-    {
-        m_editor = show(field);
-        ::open(row(), m_editor);
-        TestHost::pump();
-    }
-    void open() { open(m_field); }
-    std::string text() const { return textOf(*m_field); }
-    std::string shown() { return shownIn(row(), m_editor); }
-    QList<QWidget*> lines() { return linesOf(row(), m_editor); }
-    QPushButton* button(const char* name) { return m_editor->findChild<QPushButton*>(name); }
-    bool isLine(QWidget* input) { return lines().contains(input); }
-    // Each line is for one number, where the general one is for all the text there is.
-    static bool isNumbers()
-    {
-        return row().place != EditorRow::General &&
-               row().shown[0].find_first_not_of("0123456789.-|") == std::string::npos;
-    }
-    bool canEdit() const { return row().input >= 0; }
-    // The longest that the editor's lines have to show whole.
-    static QString longNumber()
-    {
-        const std::string type = row().type;
-        if (type == "SFVec2s" || type == "SFBox3s" || type == "SFShort" || type == "SFUShort")
-            return QStringLiteral("-32768");
-        if (type == "SFVec2i32" || type == "SFInt32" || type == "SFUInt32")
-            return QStringLiteral("-2147483648");
-        return type == "SFColor" ? QStringLiteral("0.501961") : QStringLiteral("-0.123457");
-    }
-    // What the user types, without Enter where the editor waits for it.
-    void type()
-    {
-        if (canEdit())
-            typeInto(inputsOf(row(), m_editor)[row().input], row().keys);
-        TestHost::pump();
-    }
-    void typeAndEnter()
-    {
-        type();
-        if (canEdit() && isLine(inputsOf(row(), m_editor)[row().input]))
-            QTest::keyClick(inputsOf(row(), m_editor)[row().input], Qt::Key_Return);
-        TestHost::pump();
-    }
-
-    SoSField* m_field = nullptr;
-    QWidget* m_editor = nullptr;
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, EveryEditor, testing::ValuesIn(editorRows()),
+INSTANTIATE_TEST_SUITE_P(Rows, EditorTable, testing::ValuesIn(editorRows()),
                          [](const auto& info) { return info.param.name(); });
 
 class EditorRows : public Gallery
@@ -103,7 +36,7 @@ TEST_F(EditorRows, HaveEveryEditor)
     EXPECT_EQ(rows.size(), 24U);
 }
 
-TEST_P(EveryEditor, ShowsTheValue)
+TEST_P(EditorTable, ShowsTheValue)
 {
     EXPECT_EQ(m_editor->findChild<QLabel*>("m_label")->text().toStdString(),
               "<p align=\"center\">" + row().editor() + "</p>");
@@ -113,7 +46,7 @@ TEST_P(EveryEditor, ShowsTheValue)
     EXPECT_EQ(commands(), 0);
 }
 
-TEST_P(EveryEditor, AppliesWhatIsEntered)
+TEST_P(EditorTable, AppliesWhatIsEntered)
 {
     typeAndEnter();
     EXPECT_EQ(text(), row().applied);
@@ -130,11 +63,11 @@ TEST_P(EveryEditor, AppliesWhatIsEntered)
     EXPECT_EQ(commands(), isText ? 1 : 0) << "only texts are applied whenever editing ends";
 }
 
-TEST_P(EveryEditor, UndoRestoresAndRedoAppliesAgain)
+TEST_P(EditorTable, UndoRestoresAndRedoAppliesAgain)
 {
     typeAndEnter();
     if (row().commands == 0)
-        return; // nothing to edit, or not recorded (decisions.md: bit-mask-no-undo)
+        return; // nothing to edit, or not recorded, which is meant
     undoAll();
     EXPECT_EQ(text(), value(0));
     EXPECT_EQ(shown(), row().shown[0]);
@@ -144,7 +77,7 @@ TEST_P(EveryEditor, UndoRestoresAndRedoAppliesAgain)
     EXPECT_EQ(commands(), row().commands);
 }
 
-TEST_P(EveryEditor, ShowsAChangeFromElsewhere)
+TEST_P(EditorTable, ShowsAChangeFromElsewhere)
 {
     m_field->set(value(1).c_str());
     TestHost::pump();
@@ -156,7 +89,7 @@ TEST_P(EveryEditor, ShowsAChangeFromElsewhere)
     EXPECT_EQ(text(), value(0));
 }
 
-TEST_P(EveryEditor, DefaultIsOneCommandThatUndoes)
+TEST_P(EditorTable, DefaultIsOneCommandThatUndoes)
 {
     const std::string fresh = textOf(*fieldOf(addNode(), row().type));
     const int number = value(0) == fresh ? 1 : 0;
@@ -174,7 +107,7 @@ TEST_P(EveryEditor, DefaultIsOneCommandThatUndoes)
     EXPECT_EQ(text(), fresh);
 }
 
-TEST_P(EveryEditor, IgnoreIsOneCommandThatUndoes)
+TEST_P(EditorTable, IgnoreIsOneCommandThatUndoes)
 {
     QPushButton* ignore = button("m_ignoreButton");
     QTest::mouseClick(ignore, Qt::LeftButton);
@@ -190,7 +123,7 @@ TEST_P(EveryEditor, IgnoreIsOneCommandThatUndoes)
     EXPECT_EQ(text(), value(0));
 }
 
-TEST_P(EveryEditor, ShowingTenFieldsInTurnRecordsNothing)
+TEST_P(EditorTable, ShowingTenFieldsInTurnRecordsNothing)
 {
     std::vector<SoSField*> fields;
     std::vector<std::string> before;
@@ -206,7 +139,7 @@ TEST_P(EveryEditor, ShowingTenFieldsInTurnRecordsNothing)
     EXPECT_EQ(commands(), 0);
 }
 
-TEST_P(EveryEditor, UnappliedTypingIsWrittenOnceToItsOwnField)
+TEST_P(EditorTable, UnappliedTypingIsWrittenOnceToItsOwnField)
 {
     SoSField* next = another(1);
     const std::string before = textOf(*next);
@@ -227,7 +160,7 @@ TEST_P(EveryEditor, UnappliedTypingIsWrittenOnceToItsOwnField)
     EXPECT_EQ(commands(), row().commands);
 }
 
-TEST_P(EveryEditor, TextThatIsNoNumberIsNotWrittenToTheNextField)
+TEST_P(EditorTable, TextThatIsNoNumberIsNotWrittenToTheNextField)
 {
     for (QWidget* line : lines()) {
         if (!isNumbers())
@@ -241,7 +174,7 @@ TEST_P(EveryEditor, TextThatIsNoNumberIsNotWrittenToTheNextField)
     }
 }
 
-TEST_P(EveryEditor, TabMovesThroughTheInputsInReadingOrder)
+TEST_P(EditorTable, TabMovesThroughTheInputsInReadingOrder)
 {
     const QList<QWidget*> stops = stopsOf(row(), m_editor);
     for (QWidget* input : inputsOf(row(), m_editor))
@@ -254,7 +187,7 @@ TEST_P(EveryEditor, TabMovesThroughTheInputsInReadingOrder)
     }
 }
 
-TEST_P(EveryEditor, EnterInEachLineApplies)
+TEST_P(EditorTable, EnterInEachLineApplies)
 {
     for (QWidget* line : lines()) {
         const std::string before = text();
@@ -267,7 +200,7 @@ TEST_P(EveryEditor, EnterInEachLineApplies)
     }
 }
 
-TEST_P(EveryEditor, EscapeInEachLineBringsTheShownValueBack)
+TEST_P(EditorTable, EscapeInEachLineBringsTheShownValueBack)
 {
     for (QWidget* line : lines()) {
         // Where each key is applied, what the field refuses is all that can be taken back.
@@ -282,7 +215,7 @@ TEST_P(EveryEditor, EscapeInEachLineBringsTheShownValueBack)
     }
 }
 
-TEST_P(EveryEditor, RefusedTextStaysForMendingAndLeavesTheField)
+TEST_P(EditorTable, RefusedTextStaysForMendingAndLeavesTheField)
 {
     const QList<QWidget*> found = lines();
     auto* line = found.isEmpty() ? nullptr : qobject_cast<QLineEdit*>(found.first());
@@ -300,7 +233,7 @@ TEST_P(EveryEditor, RefusedTextStaysForMendingAndLeavesTheField)
     EXPECT_EQ(commands(), isOneNumber ? 4 : 0);
 }
 
-TEST_P(EveryEditor, HasRoomForItsNumbersInTheNarrowestDock)
+TEST_P(EditorTable, HasRoomForItsNumbersInTheNarrowestDock)
 {
     m_editor->window()->resize(m_editor->window()->minimumSizeHint());
     TestHost::pump();
@@ -317,7 +250,7 @@ TEST_P(EveryEditor, HasRoomForItsNumbersInTheNarrowestDock)
     }
 }
 
-TEST_P(EveryEditor, EachInputHasAName)
+TEST_P(EditorTable, EachInputHasAName)
 {
     const QList<QWidget*> inputs = inputsOf(row(), m_editor);
     ASSERT_FALSE(inputs.isEmpty());
@@ -325,7 +258,7 @@ TEST_P(EveryEditor, EachInputHasAName)
         EXPECT_FALSE(input->accessibleName().isEmpty()) << input->metaObject()->className();
 }
 
-TEST_P(EveryEditor, CanBeUnloadedAndLoadedAgain)
+TEST_P(EditorTable, CanBeUnloadedAndLoadedAgain)
 {
     const int children = m_editor->findChildren<QObject*>().size();
     for (int i = 0; i < 2; ++i) {

@@ -229,13 +229,13 @@ TEST(PopupEditor, SixteenBitsStopTyping)
     EXPECT_EQ(cell(edited, 0, 0)->text(), "4000");
 }
 
-TEST(PopupEditor, EmptyCellIsZero)
+TEST(PopupEditor, EmptyCellStandsForTheNumberThatTheFieldHas)
 {
     EditedBox edited("1 2 3 4 5 6");
     open(edited);
     person::type(cell(edited, 0, 0), "");
     person::typeAndEnter(cell(edited, 0, 1), "9");
-    EXPECT_EQ(edited.text(), "0 9 3 4 5 6");
+    EXPECT_EQ(edited.text(), "1 9 3 4 5 6");
 }
 
 TEST(PopupEditor, OwnLineTakesTypingLikeTheGeneralOne)

@@ -173,7 +173,7 @@ TYPED_TEST(NumericEditor, WritesNothingWithoutAField)
     TypeParam edited("5");
     edited.host.release(edited.editor);
     edited.edit()->setText("8");
-    edited.editor.applyChanges();
+    edited.apply();
     edited.editor.refresh();
     QTest::mouseClick(edited.defaultButton(), Qt::LeftButton);
     EXPECT_EQ(edited.commands(), 0);
@@ -301,7 +301,7 @@ TEST(RealEditor, ShowsSixDecimalsAndAppliesThem)
 {
     EditedFloat edited("4e-07");
     EXPECT_EQ(edited.shown(), "0.000000");
-    edited.editor.applyChanges();
+    edited.apply();
     EXPECT_EQ(edited.text(), "0");
 }
 
@@ -398,7 +398,7 @@ TEST(IntegerEditor, HexadecimalTextIsAppliedInDecimal)
     EdSFInt32Widget editor(nullptr);
     host.edit(editor, &field);
     EXPECT_EQ(editor.getWidget()->findChild<QLineEdit*>()->text(), "10");
-    editor.applyChanges();
+    static_cast<SpxFieldEditors&>(editor).applyChanges();
     EXPECT_EQ(field.m_lastSet, "16");
     EXPECT_EQ(field.getValue(), 16);
     host.release(editor);

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "EdSFBoolWidget.h"
+#include "EdSFBox3sWidget.h"
+#include "EdSFFilePathStringWidget.h"
 #include "EdSFFloatWidget.h"
+#include "EdSFStringWidget.h"
+#include "EdSFVec2sWidget.h"
 #include "EdSlider.h"
 #include "EditedField.h"
 #include "FieldEditorSettings.h"
@@ -9,8 +14,24 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <type_traits>
+#include <utility>
+
 namespace
 {
+
+template <class Editor, class = void>
+struct CanApply : std::false_type {
+};
+template <class Editor>
+struct CanApply<Editor, std::void_t<decltype(std::declval<Editor&>().applyChanges())>> : std::true_type {
+};
+template <class Editor, class = void>
+struct CanAsk : std::false_type {
+};
+template <class Editor>
+struct CanAsk<Editor, std::void_t<decltype(std::declval<Editor&>().edited())>> : std::true_type {
+};
 
 // An editor with a plain line of its own.
 class PlainEditor : public EdSFieldWidget
@@ -90,4 +111,15 @@ TEST(SFieldWidget, HiddenUntilActivated)
     EXPECT_FALSE(editor.getWidget()->isHidden());
     host.release(editor);
     EXPECT_TRUE(editor.getWidget()->isHidden());
+}
+
+TEST(SFieldWidget, ApplyingIsForTheEditorsThemselves)
+{
+    EXPECT_FALSE(CanApply<EdSFieldWidget>::value);
+    EXPECT_FALSE((CanApply<EdSFBoolWidget>::value));
+    EXPECT_FALSE((CanApply<EdSFFloatWidget>::value));
+    EXPECT_FALSE((CanApply<EdSFVec2sWidget>::value));
+    EXPECT_TRUE(CanApply<EdSFBox3sWidget>::value);
+    EXPECT_TRUE(CanAsk<EdSFStringWidget>::value);
+    EXPECT_FALSE(CanAsk<EdSFFilePathStringWidget>::value);
 }

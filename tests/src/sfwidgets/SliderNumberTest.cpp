@@ -144,6 +144,39 @@ TEST_F(SliderNumber, SignedTextThatIsNoNumberCountsAsZeroAndUnsignedIsIgnored)
     EXPECT_EQ(natural->getNumber(), 17U);
 }
 
+TEST_F(SliderNumber, SavesItsNumberWhateverTheLineHolds)
+{
+    EdUIntSlider* natural = uintSlider();
+    natural->setValue("7");
+    m_edit->setText("abc");
+    natural->saveDataFromField();
+    EXPECT_STREQ(natural->savedText().getString(), "7");
+
+    natural = uintSlider(UInt16Slider);
+    natural->setValue("0x1F");
+    m_edit->setText("x");
+    natural->saveDataFromField();
+    EXPECT_STREQ(natural->savedText().getString(), "0x1f");
+
+    natural = uintSlider();
+    natural->setValue("07");
+    m_edit->setText("9");
+    natural->saveDataFromField();
+    EXPECT_STREQ(natural->savedText().getString(), "07");
+
+    EdIntSlider* integer = intSlider();
+    integer->setValue("-7");
+    m_edit->setText("");
+    integer->saveDataFromField();
+    EXPECT_STREQ(integer->savedText().getString(), "-7");
+
+    EdRealSlider* real = realSlider(0, 10);
+    real->setRealValue(2.5);
+    m_edit->setText("1e");
+    real->saveDataFromField();
+    EXPECT_STREQ(real->savedText().getString(), "2.500000");
+}
+
 TEST_F(SliderNumber, UnsignedPositionsHaveTheTopBitFlipped)
 {
     EdUIntSlider* slider = uintSlider();
@@ -162,8 +195,14 @@ TEST_F(SliderNumber, UnsignedSixteenBitsStopAt65535)
     slider->setValidLimits(0, 100, false);
     slider->setValue("7");
     EXPECT_EQ(m_edit->validator(), nullptr);
-    person::typeAndEnter(m_edit, "70000");
+    m_edit->setText("70000");
+    slider->setValueFromEdit();
     EXPECT_EQ(slider->getNumber(), 65535U);
+    slider->setValue("8");
+    person::typeAndEnter(m_edit, "70000");
+    EXPECT_EQ(slider->getNumber(), 8U) << "refused where it is typed";
+    EXPECT_EQ(m_edit->text(), "8");
+    EXPECT_EQ(m_owner.applied(), 0);
 }
 
 TEST_F(SliderNumber, FixedUnsignedRangeNarrowsOnlyWhatIsAccepted)
