@@ -13,8 +13,8 @@ namespace
 
 using Lives = QHash<const SoFieldContainer*, std::weak_ptr<FieldLife>>;
 
-// There while it holds any. No static object: what refers to a field may outlive those of this library at the end of
-// the process.
+// There while it holds any. No static object: what refers to a field may outlive those of this library at the
+// end of the process.
 Lives* s_lives = nullptr;
 
 } // namespace
