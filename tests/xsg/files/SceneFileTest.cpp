@@ -22,6 +22,7 @@
 #include <random>
 #include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -366,7 +367,7 @@ class SceneFileError : public SceneFile, public testing::WithParamInterface<Wron
 
 TEST(SceneFilePipe, IsRefusedWithoutWaiting)
 {
-    const std::string path = testing::TempDir() + "scene.xsg.pipe";
+    const std::string path = testing::TempDir() + "scene.xsg." + std::to_string(getpid());
     std::remove(path.c_str());
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
     std::string error;

@@ -10,6 +10,7 @@
 
 #include <fstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -67,7 +68,7 @@ TEST_F(TextureFile, OfGreysIsGrey)
 // Opening it would wait for somebody who writes.
 TEST_F(TextureFile, FallsBackToTheImageInsteadOfWaitingForAPipe)
 {
-    const std::string path = testing::TempDir() + "texture.ppm.pipe";
+    const std::string path = testing::TempDir() + "texture.ppm." + std::to_string(getpid());
     std::remove(path.c_str());
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
     texture->fileName.setValue(path.c_str());
