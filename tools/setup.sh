@@ -39,7 +39,6 @@ scopix_check_packages=(
   "git|names the files of the tree and their changes"
   "clang-format|compares the tree with .clang-format"
   "clang-tidy|finds mistakes that compilers let pass"
-  "python3|reads the levels and their includes"
 )
 scopix_bench_packages=(
   "libbenchmark-dev|the benchmark framework"
