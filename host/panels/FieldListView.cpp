@@ -2,9 +2,13 @@
 #include "panels/FieldListView.h"
 
 #include "panels/FieldListModel.h"
+#include "text/ValueText.h"
 #include <xsg/core/SoField.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -30,6 +34,15 @@ FieldListView::FieldListView(QWidget* parent)
     header()->setSectionsMovable(false);
     header()->setSectionResizeMode(QHeaderView::Fixed);
     connect(m_model, &QAbstractItemModel::modelReset, this, &FieldListView::fitColumns);
+}
+
+void FieldListView::keyPressEvent(QKeyEvent* event)
+{
+    if (!event->matches(QKeySequence::Copy))
+        return QTreeView::keyPressEvent(event);
+    if (const SoField* field = m_model->fieldAt(currentIndex()))
+        QApplication::clipboard()->setText(wholeValueText(*field));
+    event->accept();
 }
 
 void FieldListView::resizeEvent(QResizeEvent* event)

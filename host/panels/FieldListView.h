@@ -30,6 +30,8 @@ signals:
     void fieldSelected(SoField* field);
 
 protected:
+    /// Copying takes the whole value of the chosen field to the clipboard.
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 

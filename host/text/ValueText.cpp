@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "text/ValueText.h"
 
+#include "text/NodeText.h"
+
 #include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/fields/SoSFName.h>
 #include <xsg/fields/SoSFString.h>
 
 #include <QCoreApplication>
@@ -84,6 +87,17 @@ QString valueText(const SoField& field, int limit)
     SbString text;
     field.get(text);
     return shortened(startOf(text.str(), limit), limit);
+}
+
+QString wholeValueText(const SoField& field)
+{
+    if (const auto* string = dynamic_cast<const SoSFString*>(&field))
+        return QString::fromStdString(string->getValue().str());
+    if (const auto* name = dynamic_cast<const SoSFName*>(&field))
+        return toQString(name->getValue());
+    SbString text;
+    field.get(text);
+    return QString::fromStdString(text.str());
 }
 
 } // namespace scopix

@@ -27,8 +27,10 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 #include <QUndoView>
 
@@ -96,7 +98,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     statusBar()->show();
-    resize(sizeHint());
+    resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
 }
 
@@ -108,6 +110,16 @@ MainWindow::~MainWindow()
     m_view->disconnect(this);
     m_services.disconnect(this);
     m_files.getDocument().disconnect(this);
+}
+
+// No larger than the screen, which on a dense one has few of the pixels that sizes are counted in. Pictures
+// drawn off the screen have the same size everywhere.
+QSize MainWindow::firstSize() const
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        return sizeHint();
+    const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return sizeHint().boundedTo(screen()->availableSize() - frame);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const QString& name,

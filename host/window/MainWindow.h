@@ -56,6 +56,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    QSize firstSize() const;
     void makeDocks();
     void makeFileMenu();
     void makeEditMenu();

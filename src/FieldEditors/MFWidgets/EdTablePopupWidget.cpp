@@ -14,10 +14,8 @@
 #include <scopix/editing/SpxText.h>
 
 #include <QBoxLayout>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -129,7 +127,7 @@ void EdTablePopupWidget::managePopFramePos()
     // Beside the editor's frame: at its left where the screen has no room at its right.
     const QWidget* container = getWidgetContainer();
     const QRect frame(container->mapToGlobal(QPoint(0, 0)), container->size());
-    const QRect desktop = screenBeside(frame);
+    const QRect desktop = EdPopupFrame::screenOf(frame, *container);
     m_popupFrameLayout->activate();
     m_popup->resize(m_popup->size().expandedTo(m_popupFrameLayout->totalMinimumSize()));
     const int right = frame.right() + 1;
@@ -141,12 +139,6 @@ void EdTablePopupWidget::managePopFramePos()
     EdTablePopupLineEdit* first = m_lines.first();
     first->setFocus();
     first->selectAll();
-}
-
-QRect EdTablePopupWidget::screenBeside(const QRect& frame) const
-{
-    const QScreen* screen = QGuiApplication::screenAt(frame.center());
-    return (screen ? screen : getWidgetContainer()->screen())->availableGeometry();
 }
 
 bool EdTablePopupWidget::eventFilter(QObject* watched, QEvent* event)

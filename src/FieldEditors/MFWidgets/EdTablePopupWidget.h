@@ -41,7 +41,6 @@ protected:
 
 private:
     void buildPopup();
-    QRect screenBeside(const QRect& frame) const;
 
     int m_rows;
     int m_columns;

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Inputs of a fixed height: their text is made small enough to be read whole.
+// Sizes that are stated in pixels are the least: where the font needs more, as it may at any time, they grow.
 #pragma once
+
+#include <functional>
 
 class QWidget;
 
-/// `frame`: pixels that the input's own frame takes, above and below together.
-void setFixedHeightFitted(QWidget* widget, int height, int frame);
-void fitFont(QWidget* widget, int height);
-/// Makes a line at least so wide that `text` is read whole, in the font that it has.
+/// Calls `measure` now, and again whenever the widget's font changes, as it does in a window with a font of
+/// its own.
+void followFont(QWidget* widget, std::function<void()> measure);
+
+/// Makes a widget exactly `least` high, or as high as a line of its text needs. `frame`: pixels that the
+/// widget's own frame takes, above and below together.
+void setHeightFitted(QWidget* widget, int least, int frame);
+/// Makes a line at least so wide that `text`, a literal, is read whole.
 void setRoomFor(QWidget* line, const char* text);

@@ -12,9 +12,7 @@
 
 #include <QFrame>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QPushButton>
-#include <QScreen>
 
 EdPopupWidget::EdPopupWidget(int rows, int columns, const char* name)
     : EdSFLineWidget(name)
@@ -52,8 +50,6 @@ void EdPopupWidget::buildPopup()
     m_popup->setFrameStyle(int(QFrame::Panel) | int(QFrame::Raised));
     m_popup->setFrameShape(QFrame::StyledPanel);
     m_popup->setFrameShadow(QFrame::Raised);
-    m_popup->setFixedSize(xsgsettings_fieldEditor(QStringLiteral("PopupFrameWidth")),
-                          xsgsettings_fieldEditor(QStringLiteral("PopupFrameHeight")));
     addWindow(m_popup);
     m_popupFrameLayout = new QGridLayout(m_popup);
     m_popupFrameLayout->setObjectName(QStringLiteral("m_popupFrameLayout"));
@@ -70,8 +66,11 @@ EdLineEdit* EdPopupWidget::buildCell(int row, int column)
 {
     auto* cell = new EdLineEdit(m_popup);
     cell->setAccessibleName(tr("Row %1, column %2").arg(row + 1).arg(column + 1));
-    constexpr int InputFrame = 4;
-    cell->setMinimumSize(1, cell->fontMetrics().height() + InputFrame);
+    cell->setMinimumWidth(1);
+    followFont(cell, [cell] {
+        constexpr int InputFrame = 4;
+        cell->setMinimumHeight(cell->fontMetrics().height() + InputFrame);
+    });
     connect(cell, &QLineEdit::editingFinished, this, &EdPopupWidget::setFocusLeaveEvent);
     connect(cell, &QLineEdit::returnPressed, this, qOverload<>(&EdPopupWidget::applyChanges));
     m_cells.add(cell);
@@ -84,7 +83,15 @@ void EdPopupWidget::setValidator(int kind)
         setGridValidator(*cell, kind);
         setRoomFor(cell, isRealGrid(kind) ? "-2.34567e-08" : "-32768");
     }
-    m_popup->setFixedSize(m_popup->size().expandedTo(m_popupFrameLayout->totalMinimumSize()));
+    fitPopup();
+}
+
+void EdPopupWidget::fitPopup()
+{
+    const QSize stated(xsgsettings_fieldEditor(QStringLiteral("PopupFrameWidth")),
+                       xsgsettings_fieldEditor(QStringLiteral("PopupFrameHeight")));
+    m_popupFrameLayout->activate();
+    m_popup->setFixedSize(stated.expandedTo(m_popupFrameLayout->totalMinimumSize()));
 }
 
 void EdPopupWidget::managePopFramePos()
@@ -93,14 +100,10 @@ void EdPopupWidget::managePopFramePos()
         m_popup->hide();
         return;
     }
-    const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
-    const QWidget* container = getWidgetContainer();
-    QPoint at = container->mapToGlobal(m_editButton->mapTo(container, m_editButton->rect().bottomRight()));
-    if (desktop.width() - m_popup->width() - m_editButton->width() < at.x())
-        at.rx() -= m_popup->width() + m_editButton->width();
-    if (desktop.height() - m_editButton->height() - m_popup->height() < at.y())
-        at.ry() -= m_popup->height() + m_editButton->height();
-    m_popup->move(at);
+    const QRect button(m_editButton->mapToGlobal(QPoint(0, 0)), m_editButton->size());
+    fitPopup();
+    m_popup->move(
+        EdPopupFrame::placeBeside(button, m_popup->size(), EdPopupFrame::screenOf(button, *m_editButton)));
     refresh();
     m_popup->show();
     m_cells.at(0)->setFocus();

@@ -41,6 +41,7 @@ protected:
 private:
     void buildButton();
     void buildPopup();
+    void fitPopup();
     EdLineEdit* buildCell(int row, int column);
 
     QPushButton* m_editButton = nullptr;

@@ -65,13 +65,13 @@ void EdSFColorWidget::buildComponent(EdLineEdit*& edit, QLabel*& label)
     layout->setSpacing(xsgsettings_fieldEditor(QStringLiteral("SFColorInterSpacing")));
     label = new QLabel(editionFrame());
     label->setObjectName(QStringLiteral("SFColorLabel"));
-    setFixedHeightFitted(label, height, 0);
+    setHeightFitted(label, height, 0);
     layout->addWidget(label);
     edit = new EdLineEdit(editionFrame());
     edit->setObjectName(QStringLiteral("SFColorLine"));
     edit->setText(tr("0"));
     constexpr int InputFrame = 2;
-    setFixedHeightFitted(edit, height, InputFrame);
+    setHeightFitted(edit, height, InputFrame);
     setRoomFor(edit, "0.501961");
     layout->addWidget(edit, 1);
     connect(edit, &QLineEdit::returnPressed, this, &EdSFColorWidget::setCommandValue);

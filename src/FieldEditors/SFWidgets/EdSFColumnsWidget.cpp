@@ -38,7 +38,7 @@ void EdSFColumnsWidget::buildComponent(const QString& caption)
 
     auto* label = new QLabel(editionFrame());
     label->setObjectName(QLatin1String(m_look.labelName));
-    setFixedHeightFitted(label, xsgsettings_fieldEditor(QStringLiteral("SFVecLabelHeight")), 0);
+    setHeightFitted(label, xsgsettings_fieldEditor(QStringLiteral("SFVecLabelHeight")), 0);
     m_labels.append(label);
     column->addWidget(label);
 
@@ -46,7 +46,7 @@ void EdSFColumnsWidget::buildComponent(const QString& caption)
     input->setObjectName(QLatin1String(m_look.inputName));
     input->setAccessibleName(caption);
     constexpr int InputFrame = 2;
-    setFixedHeightFitted(input, xsgsettings_fieldEditor(QStringLiteral("SFVecLineHeight")), InputFrame);
+    setHeightFitted(input, xsgsettings_fieldEditor(QStringLiteral("SFVecLineHeight")), InputFrame);
     column->addWidget(input);
     editLayout()->addLayout(column);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EdSFFilePathStringWidget.h"
 
+#include "EdFontFitting.h"
 #include "EdLineEdit.h"
 
 #include <QBoxLayout>
@@ -24,7 +25,9 @@ void EdSFFilePathStringWidget::load()
     button->setAccessibleName(tr("Open File"));
     button->setToolTip(tr("Open File"));
     button->setFocusPolicy(Qt::TabFocus); // a click does not end the editing of the line
-    button->setMaximumWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("......")));
+    followFont(button, [button] {
+        button->setMaximumWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("......")));
+    });
     editLayout()->addWidget(button);
     connect(button, &QPushButton::clicked, this, &EdSFFilePathStringWidget::openFileDialog);
 }

@@ -3,7 +3,9 @@
 #include "panels/FieldListModel.h"
 #include <support/SoFieldGallery.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 
+#include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -80,4 +82,25 @@ TEST_F(FieldListColumns, ToolTipHasWhatIsCutOff)
         for (const char* part : {"sfFilePathString", "SFFilePathString", "textures/wood.png"})
             EXPECT_TRUE(tip.contains(part)) << part;
     }
+}
+
+TEST(FieldListClipboard, CopiesTheWholeValueOfTheChosenField)
+{
+    const SoRef<SoMaterial> material(new SoMaterial);
+    const SoRef<SoTexture2> texture(new SoTexture2);
+    material->diffuseColor.setValues(std::vector<SbVec3f>(400, SbVec3f(0.25F, 0.5F, 1)));
+    texture->fileName.setValue("two words.png");
+    FieldListView view;
+    QApplication::clipboard()->clear();
+    QTest::keySequence(&view, QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), "") << "nothing is chosen";
+    view.showField(&material->diffuseColor);
+    QTest::keySequence(&view, QKeySequence::Copy);
+    SbString text;
+    material->diffuseColor.get(text);
+    EXPECT_GT(text.getLength(), 1000);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), text.str());
+    view.showField(&texture->fileName);
+    QTest::keySequence(&view, QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), "two words.png");
 }

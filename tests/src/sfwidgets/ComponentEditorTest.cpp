@@ -167,7 +167,7 @@ TYPED_TEST(FloatsEditor, EveryInputHasItsCaptionAsItsName)
     const QStringList texts = captions(edited);
     for (int i = 0; i < lines.size(); ++i) {
         EXPECT_EQ(texts[i], "<p>" + lines[i]->accessibleName() + "</p>");
-        EXPECT_EQ(lines[i]->height(), 16);
+        EXPECT_EQ(lines[i]->height(), std::max(16, lines[i]->fontMetrics().height() + 2));
     }
 }
 
@@ -244,6 +244,25 @@ TEST(ComponentEditor, ShowingARotationNeverChangesItsBits)
     edited.host.release(edited.editor);
     EXPECT_EQ(edited.text(), before);
     EXPECT_EQ(edited.commands(), 0);
+}
+
+// The stated heights are the least.
+TYPED_TEST(FloatsEditor, GrowsWithTheFont)
+{
+    TypeParam edited(numbers<TypeParam>("1", "2").c_str());
+    QLineEdit* input = edited.edit();
+    EXPECT_EQ(input->font(), QApplication::font());
+    QFont large(QApplication::font());
+    large.setPixelSize(30);
+    edited.editor.getWidget()->setFont(large);
+    constexpr int Frame = 2;
+    EXPECT_GE(input->height(), QFontMetrics(large).height() + Frame);
+    EXPECT_EQ(input->fontInfo().pixelSize(), 30);
+    EXPECT_GE(inputs<QLabel>(edited)[0]->height(), QFontMetrics(large).height());
+    QFont small(large);
+    small.setPixelSize(7);
+    edited.editor.getWidget()->setFont(small);
+    EXPECT_EQ(input->height(), 16);
 }
 
 // --- Spin boxes

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "EdPopupFrame.h"
 #include "EdSFBox3sWidget.h"
 #include "EdSFLineWidget.h"
 #include "EdSFMatrixWidget.h"
@@ -193,6 +194,22 @@ TEST(PopupEditor, OpensBesideTheButtonAndStaysOnTheDesktop)
     const QPoint moved = openAt({desktop.width() - 430, desktop.height() - 60});
     EXPECT_NEAR(moved.x(), -(popup->width() + button->width()), Tolerance);
     EXPECT_NEAR(moved.y(), -(popup->height() + button->height()), Tolerance);
+}
+
+TEST(PopupEditor, OpensOnTheScreenOfItsButton)
+{
+    const QRect second(1920, -200, 1280, 1024);
+    const QSize popup(260, 100);
+    const auto at = [&](int x, int y) {
+        return EdPopupFrame::placeBeside(QRect(x, y, 20, 20), popup, second);
+    };
+    EXPECT_EQ(at(2000, 0), QPoint(2019, 19));
+    EXPECT_EQ(at(3100, 700), QPoint(3119 - 280, 719 - 120));
+    EXPECT_EQ(at(1920, -200), QPoint(1939, -181));
+    EXPECT_EQ(at(3190, 820), QPoint(3209 - 280, 839 - 120)) << "its button is half outside";
+    const QRect tiny(0, 0, 200, 80);
+    EXPECT_EQ(EdPopupFrame::placeBeside(QRect(100, 40, 20, 20), popup, tiny), QPoint(0, 0))
+        << "its beginning is seen where there is no room for all of it";
 }
 
 TEST(PopupEditor, BoxShowsItsCornersInRows)
