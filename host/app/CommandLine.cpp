@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <scopix-host/CommandLine.h>
 
+#include "support/Printable.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -100,7 +102,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     QCommandLineParser parser;
     describe(parser);
     if (!parser.parse(withoutToolkitOptions(arguments))) {
-        line.error = tr("%1 (scopix --help lists the options.)").arg(parser.errorText());
+        line.error = printable(tr("%1 (scopix --help lists the options.)").arg(parser.errorText()));
         return line;
     }
     line.plugins = parser.values(QStringLiteral("plugin"));
@@ -110,7 +112,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.counters = parser.isSet(QStringLiteral("counters"));
     line.help = parser.isSet(QStringLiteral("help"));
     line.version = parser.isSet(QStringLiteral("version"));
-    line.error = check(line, parser);
+    line.error = printable(check(line, parser));
     return line;
 }
 

@@ -5,6 +5,7 @@
 #include <xsg/errors/SoMemoryError.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/types/SoTypedImpl.h>
+#include <xsg/values/Printable.h>
 
 #include <array>
 #include <charconv>
@@ -84,7 +85,7 @@ void SoDebugError::post(Severity severity, const char* source, const SbString& s
 }
 
 SoReadError::SoReadError(const SbString& file, int line, int column, const SbString& sentence)
-    : SoErrorClass(SbString(place(file, line, column) + sentence.str()))
+    : SoErrorClass(SbString(xsg::printable(place(file, line, column) + sentence.str())))
     , m_file(file)
     , m_line(line)
     , m_column(column)

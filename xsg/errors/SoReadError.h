@@ -3,7 +3,8 @@
 
 #include <xsg/errors/SoError.h>
 
-/// A file that cannot be read as what it should be.
+/// A file that cannot be read as what it should be. Whatever bytes its name and the sentence have, the debug
+/// string is one line that is harmless on a terminal.
 class XSG_API SoReadError : public SoErrorClass<SoReadError, SoError>
 {
 public:

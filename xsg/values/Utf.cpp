@@ -50,26 +50,6 @@ Sequence sequenceOf(unsigned char lead)
     return {-1, 0, 0};
 }
 
-// Decodes one code point at `at` and moves past it; malformed input moves one byte.
-char32_t decode(std::string_view text, std::size_t& at)
-{
-    const Sequence s = sequenceOf(static_cast<unsigned char>(text[at]));
-    const std::size_t start = at++;
-    if (s.continuationBytes < 0)
-        return Replacement;
-    char32_t c = s.leadBits;
-    for (int i = 1; i <= s.continuationBytes; ++i) {
-        const std::size_t next = start + static_cast<std::size_t>(i);
-        if (next >= text.size() || (static_cast<unsigned char>(text[next]) & 0xC0U) != 0x80U)
-            return Replacement;
-        c = (c << 6) | (static_cast<unsigned char>(text[next]) & 0x3FU);
-    }
-    if (c < s.smallest || c > 0x10FFFF || isSurrogate(c))
-        return Replacement;
-    at = start + 1 + static_cast<std::size_t>(s.continuationBytes);
-    return c;
-}
-
 } // namespace
 
 void appendUtf8(std::string& out, char32_t c)
@@ -92,6 +72,25 @@ void appendUtf8(std::string& out, char32_t c)
     }
 }
 
+std::optional<char32_t> decodeUtf8(std::string_view text, std::size_t& at)
+{
+    const Sequence s = sequenceOf(static_cast<unsigned char>(text[at]));
+    const std::size_t start = at++;
+    if (s.continuationBytes < 0)
+        return std::nullopt;
+    char32_t c = s.leadBits;
+    for (int i = 1; i <= s.continuationBytes; ++i) {
+        const std::size_t next = start + static_cast<std::size_t>(i);
+        if (next >= text.size() || (static_cast<unsigned char>(text[next]) & 0xC0U) != 0x80U)
+            return std::nullopt;
+        c = (c << 6) | (static_cast<unsigned char>(text[next]) & 0x3FU);
+    }
+    if (c < s.smallest || c > 0x10FFFF || isSurrogate(c))
+        return std::nullopt;
+    at = start + 1 + static_cast<std::size_t>(s.continuationBytes);
+    return c;
+}
+
 std::string utf16ToUtf8(std::u16string_view text)
 {
     std::string out;
@@ -110,7 +109,7 @@ std::u16string utf8ToUtf16(std::string_view text)
     std::u16string out;
     out.reserve(text.size());
     for (std::size_t at = 0; at < text.size();)
-        appendUtf16(out, decode(text, at));
+        appendUtf16(out, decodeUtf8(text, at).value_or(Replacement));
     return out;
 }
 

@@ -6,6 +6,7 @@
 
 #include <xsg/values/XsgExport.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,7 @@ namespace xsg
 XSG_API std::string utf16ToUtf8(std::u16string_view text);
 XSG_API std::u16string utf8ToUtf16(std::string_view text);
 XSG_API void appendUtf8(std::string& out, char32_t codePoint);
+/// The code point at `at`, moving past it; nothing, moving past one byte, where that is malformed.
+XSG_API std::optional<char32_t> decodeUtf8(std::string_view text, std::size_t& at);
 
 } // namespace xsg

@@ -54,7 +54,7 @@ Flood::Flood(int lines)
     start(
         "warning", [](const std::string& text) { SoDebugError::postWarning("flood", text); }, lines);
     start(
-        "reading", [](const std::string& text) { SoReadError::post("flood", 1, text); }, lines);
+        "reading", [](const std::string& text) { SoError::post("flood: " + text); }, lines);
 }
 
 Flood::~Flood()

@@ -274,3 +274,11 @@ TEST(ErrorHandler, ACallbacksDataMayBeDestroyedOnceItIsReplaced)
     for (std::thread& thread : threads)
         thread.join();
 }
+
+TEST(ReadError, IsOneHarmlessLineWhateverTheFileHas)
+{
+    Collected<SoReadError> errors;
+    SoReadError::post(SbString("a\x1B[31m\nb.xsg"), 2, 3, SbString(std::string("\"\0\x07\" was read.", 14)));
+    ASSERT_EQ(errors.texts.size(), 1U);
+    EXPECT_EQ(errors.texts[0], "a\\x1B[31m\\x0Ab.xsg:2: Column 3: \"\\x00\\x07\" was read.");
+}
