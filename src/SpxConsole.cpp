@@ -62,6 +62,14 @@ ConsoleMessage::Kind kindOf(const SoError& error)
     }
 }
 
+// UTF-8, as the scene graph writes it, or else bytes of an application's own.
+QString textOf(const SoError& error)
+{
+    const char* bytes = error.getDebugString().getString();
+    const QString text = QString::fromUtf8(bytes);
+    return text.contains(QChar::ReplacementCharacter) ? QString::fromLatin1(bytes) : text;
+}
+
 // For what comes when there is no console any more.
 void passToStderr(const ConsoleMessage* begin, const ConsoleMessage* end)
 {
@@ -204,8 +212,7 @@ void SpxConsole::stderrcb(const char* text, long, void* console)
 
 void SpxConsole::errorHandlerCB(const SoError* error, void* console)
 {
-    static_cast<SpxConsole*>(console)->m_inbox.push(
-        {QString::fromLatin1(error->getDebugString().getString()), kindOf(*error)});
+    static_cast<SpxConsole*>(console)->m_inbox.push({textOf(*error), kindOf(*error)});
 }
 
 void SpxConsole::clear()

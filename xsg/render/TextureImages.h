@@ -5,6 +5,8 @@
 #include <xsg/render/SoImageReader.h>
 
 #include <map>
+#include <set>
+#include <string>
 
 /// Pixels of 1 to 4 bytes, rows from the bottom up.
 struct SoImageView {
@@ -19,7 +21,8 @@ namespace xsg
 {
 
 /// The images of texture nodes: a file, where one is named and can be read, wins over the node's image field.
-/// A file is read once, and again when its name changes; other fields of the node do not matter.
+/// A file is read once, and again when its name changes; other fields of the node do not matter. One that
+/// cannot be read is posted as a SoReadError.
 class XSG_API TextureImages
 {
 public:
@@ -43,9 +46,11 @@ private:
     };
     bool read(const std::string& path, SoSFImage& image) const;
     const SoSFImage* readFile(const SoTexture2& node);
+    void report(const std::string& path, bool isRead);
 
     SoImageReader m_reader;                // null: the library's own
     std::map<std::uint64_t, File> m_files; // by the node's id
+    std::set<std::string> m_reported;      // paths that could not be read
 };
 
 } // namespace xsg

@@ -2,6 +2,9 @@
 // Pictures that a texture reads from its file.
 #include "Picture.h"
 
+#include "../errors/Collected.h"
+
+#include <xsg/errors/SoReadError.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTexture2.h>
@@ -84,6 +87,27 @@ TEST_F(TextureFile, FallsBackToTheImageWhenDamaged)
         SCOPED_TRACE(damaged);
         EXPECT_PIXEL(drawFile(damaged).first, (Pixel{0, 0, 255}));
     }
+}
+
+TEST_F(TextureFile, ReportsOneThatCannotBeReadOnce)
+{
+    const Collected<SoReadError> errors;
+    const std::string path = testing::TempDir() + "no picture " + std::to_string(getpid()) + ".ppm";
+    texture->fileName.setValue(path.c_str());
+    for (const float wrap : {0.2F, 0.4F}) {
+        texture->image.setValue(0, 0, 0, nullptr); // the texture changes, and is asked for again
+        add<SoMaterial>()->shininess.setValue(wrap);
+        draw();
+    }
+    ASSERT_EQ(errors.texts.size(), 1U);
+    EXPECT_EQ(errors.texts[0],
+              path + ": The picture of a texture is missing; the texture is drawn without it.");
+    drawFile("P3");
+    ASSERT_EQ(errors.texts.size(), 2U);
+    EXPECT_NE(errors.texts[1].find("cannot be read"), std::string::npos);
+    drawFile(std::string("P5 1 2 255\n") + "\x20" + "\xC0");
+    drawFile("P3");
+    EXPECT_EQ(errors.texts.size(), 3U) << "it was good in between";
 }
 
 namespace
