@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QProgressDialog>
 
 #include <csignal>
@@ -65,6 +66,8 @@ void ModelImport::start(const QString& path)
     m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
                                    m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));
+    for (QLabel* label : m_dialog->findChildren<QLabel*>())
+        label->setTextFormat(Qt::PlainText); // a file may have any name
     m_dialog->setWindowModality(Qt::WindowModal);
     m_dialog->setMinimumDuration(PatienceMs);
     m_dialog->setAutoClose(false);
@@ -110,6 +113,7 @@ void ModelImport::report()
     if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
+    m_notes = model.notes;
     if (model.error.isEmpty())
         emit finished(buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
     else

@@ -33,6 +33,9 @@ public:
     /// cancelled() follows at once.
     void cancel();
 
+    /// Of a model that was read: what of it is left out, a sentence for each kind.
+    const QStringList& notes() const { return m_notes; }
+
 signals:
     /// Exactly one of the three, once; the first two from the event loop. It is of no more use then.
     void finished(const SoRef<SoSeparator>& scene);
@@ -51,6 +54,7 @@ private:
     QProcess m_reader;
     QTemporaryFile m_result;
     QPointer<QProgressDialog> m_dialog;
+    QStringList m_notes;
     bool m_hasEnded = false;
 };
 

@@ -15,10 +15,15 @@
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/nodes/shapes/SoIndexedLineSet.h>
+#include <xsg/nodes/shapes/SoIndexedPointSet.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/shapes/SoPointSet.h>
 #include <xsg/nodes/transforms/SoTransformation.h>
 
 #include <QFileInfo>
+
+#include <numeric>
 
 namespace scopix
 {
@@ -119,6 +124,7 @@ private:
             result->addChild(materialNode(mesh.material));
         if (mesh.material >= 0 && !mesh.textureCoordinates.empty())
             addTexture(*result, at(m_model.materials, mesh.material));
+        const std::size_t pointCount = mesh.points.size();
         auto* points = new SoPoints;
         result->addChild(points);
         points->points.setValues(std::move(mesh.points));
@@ -132,12 +138,52 @@ private:
             result->addChild(coordinates);
             coordinates->points.setValues(std::move(mesh.textureCoordinates));
         }
-        auto* triangles = new SoIndexedTriangleSet;
-        result->addChild(triangles);
-        triangles->index.setValues(std::move(mesh.index));
+        SoVertexShape* shape = makeShape(mesh, pointCount);
+        result->addChild(shape);
         if (colored)
-            triangles->colorBinding.setValue(SoIndexedTriangleSet::PerVertex);
+            shape->colorBinding.setValue(SoVertexShape::PerVertex);
         return result;
+    }
+
+    static SoVertexShape* makeShape(ModelData::Mesh& mesh, std::size_t pointCount)
+    {
+        if (mesh.corners == 1)
+            return makePoints(mesh, pointCount);
+        if (mesh.corners == 2)
+            return filled(new SoIndexedLineSet, joinedLines(mesh.index));
+        return filled(new SoIndexedTriangleSet, std::move(mesh.index));
+    }
+
+    template <class Shape>
+    static Shape* filled(Shape* shape, std::vector<std::int32_t> index)
+    {
+        shape->index.setValues(std::move(index));
+        return shape;
+    }
+
+    // Clouds, which are large, mostly have each point once and in order.
+    static SoVertexShape* makePoints(ModelData::Mesh& mesh, std::size_t pointCount)
+    {
+        std::vector<std::int32_t> all(mesh.index.size());
+        std::iota(all.begin(), all.end(), 0);
+        const bool hasAll = all == mesh.index && all.size() == pointCount;
+        return hasAll ? static_cast<SoVertexShape*>(new SoPointSet)
+                      : filled(new SoIndexedPointSet, std::move(mesh.index));
+    }
+
+    // Of pairs of points: each pair that begins where the one before ends goes on with its line.
+    static std::vector<std::int32_t> joinedLines(const std::vector<std::int32_t>& pairs)
+    {
+        std::vector<std::int32_t> lines;
+        for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
+            if (lines.empty() || lines.back() != pairs[i]) {
+                if (!lines.empty())
+                    lines.push_back(-1);
+                lines.push_back(pairs[i]);
+            }
+            lines.push_back(pairs[i + 1]);
+        }
+        return lines;
     }
 
     // The points' own colours stand in a material of the mesh's own.

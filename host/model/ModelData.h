@@ -17,11 +17,12 @@ struct ModelData {
     struct Mesh {
         std::string name;
         int material = -1;
+        int corners = 3; // of each part of the index: 1 for points, 2 for lines, 3 for triangles
         std::vector<SbVec3f> points;
         std::vector<SbVec3f> normals;            // one per point, or none
         std::vector<SbVec2f> textureCoordinates; // one per point, or none
         std::vector<SbVec3f> colors;             // one per point, or none
-        std::vector<std::int32_t> index;         // three per triangle
+        std::vector<std::int32_t> index;
     };
 
     struct Material {

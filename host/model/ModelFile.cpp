@@ -23,8 +23,8 @@ auto membersOf(Part& part)
 {
     using Plain = std::remove_const_t<Part>;
     if constexpr (std::is_same_v<Plain, ModelData::Mesh>) {
-        return std::tie(part.name, part.material, part.points, part.normals, part.textureCoordinates,
-                        part.colors, part.index);
+        return std::tie(part.name, part.material, part.corners, part.points, part.normals,
+                        part.textureCoordinates, part.colors, part.index);
     } else if constexpr (std::is_same_v<Plain, ModelData::Material>) {
         return std::tie(part.name, part.ambient, part.diffuse, part.specular, part.emissive, part.shininess,
                         part.transparency, part.picture, part.clampS, part.clampT);
@@ -133,7 +133,10 @@ bool isConsistent(const ModelData& model)
                allOf(node.children, [&](int child) { return child > place && isPlace(child, model.nodes); });
     };
     return allOf(model.nodes, isNode) &&
-           allOf(model.meshes, [&](const auto& mesh) { return isPlace(mesh.material, model.materials); }) &&
+           allOf(model.meshes,
+                 [&](const auto& mesh) {
+                     return isPlace(mesh.material, model.materials) && mesh.corners >= 1 && mesh.corners <= 3;
+                 }) &&
            allOf(model.materials, [&](const auto& look) { return isPlace(look.picture, model.pictures); });
 }
 
@@ -142,7 +145,7 @@ bool isConsistent(const ModelData& model)
 bool writeModelFile(const ModelReadResult& model, QIODevice& file)
 {
     QDataStream stream(&file);
-    stream << Mark << model.error;
+    stream << Mark << model.error << model.notes.join(QLatin1Char('\n'));
     write(stream, model.data);
     stream << Mark;
     return stream.status() == QDataStream::Ok;
@@ -153,7 +156,9 @@ bool readModelFile(QIODevice& file, ModelReadResult& model)
     QDataStream stream(&file);
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
-    stream >> begin >> model.error;
+    QString notes; // as one text, since a list's wrong count would ask for memory that is not there
+    stream >> begin >> model.error >> notes;
+    model.notes = notes.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     read(stream, model.data);
     stream >> end;
     return stream.status() == QDataStream::Ok && stream.atEnd() && begin == Mark && end == Mark &&

@@ -3,7 +3,7 @@
 
 #include "model/ModelData.h"
 
-#include <QString>
+#include <QStringList>
 
 namespace scopix
 {
@@ -11,7 +11,8 @@ namespace scopix
 /// What reading a model file gave.
 struct ModelReadResult {
     ModelData data;
-    QString error; // one sentence, or empty
+    QString error;     // one sentence, or empty
+    QStringList notes; // one sentence for each kind of thing in the file that the data has not
 };
 
 } // namespace scopix

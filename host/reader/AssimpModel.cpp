@@ -45,6 +45,14 @@ std::vector<Out> converted(const In* values, unsigned count, Convert convert)
     return result;
 }
 
+// Meshes have faces of one kind by now.
+int cornersOf(const aiMesh& mesh)
+{
+    if (mesh.mPrimitiveTypes & (aiPrimitiveType_TRIANGLE | aiPrimitiveType_POLYGON))
+        return 3;
+    return mesh.mPrimitiveTypes & aiPrimitiveType_LINE ? 2 : 1;
+}
+
 ModelData::Mesh toMesh(const aiMesh& mesh)
 {
     ModelData::Mesh result;
@@ -57,11 +65,13 @@ ModelData::Mesh toMesh(const aiMesh& mesh)
                                                    [](const aiVector3D& v) { return SbVec2f(v.x, v.y); });
     result.colors =
         converted<SbVec3f>(mesh.mColors[0], count, [](const aiColor4D& c) { return SbVec3f(c.r, c.g, c.b); });
-    result.index.reserve(3 * std::size_t{mesh.mNumFaces});
+    result.corners = cornersOf(mesh);
+    const auto corners = static_cast<unsigned>(result.corners);
+    result.index.reserve(corners * std::size_t{mesh.mNumFaces});
     for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
         const aiFace& face = mesh.mFaces[i];
-        if (face.mNumIndices == 3)
-            result.index.insert(result.index.end(), face.mIndices, face.mIndices + 3);
+        if (face.mNumIndices == corners)
+            result.index.insert(result.index.end(), face.mIndices, face.mIndices + corners);
     }
     return result;
 }

@@ -11,4 +11,8 @@ namespace scopix
 QString checkBinaryGltf(const QString& path);
 QString checkPly(const QString& path);
 
+/// Why a glTF file, as text or binary, that the importer does not recognize is none, as the end of a
+/// sentence; empty where it looks like one.
+QString gltfFault(const QString& path);
+
 } // namespace scopix

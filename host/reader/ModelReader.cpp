@@ -5,8 +5,10 @@
 #include "model/ModelFormats.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
+#include "reader/LeftOut.h"
 #include "reader/ScopedCLocale.h"
 
+#include <assimp/DefaultIOSystem.h>
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
@@ -54,12 +56,53 @@ private:
     const ReadProgress& m_tell;
 };
 
+// Remembers which files of materials a model names and are not there: the importer does without. Where one
+// is missing it tries the model's own name with their ending, of which the user knows nothing.
+class FileAccess : public Assimp::DefaultIOSystem
+{
+public:
+    FileAccess(const QString& model, QStringList& missing)
+        : m_guess(QFileInfo(model).completeBaseName() + QStringLiteral(".mtl"))
+        , m_missing(missing)
+    {
+    }
+    Assimp::IOStream* Open(const char* path, const char* mode) override
+    {
+        Assimp::IOStream* file = DefaultIOSystem::Open(path, mode);
+        if (!file)
+            note(QFileInfo(QFile::decodeName(path)).fileName());
+        return file;
+    }
+
+private:
+    void note(const QString& name)
+    {
+        const bool isGuess = name == m_guess && !m_missing.isEmpty();
+        if (name.endsWith(QLatin1String(".mtl"), Qt::CaseInsensitive) && !isGuess &&
+            !m_missing.contains(name))
+            m_missing += name;
+    }
+
+    QString m_guess;
+    QStringList& m_missing;
+};
+
+QString unrecognized(const QString& path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    const QString fault =
+        ending == QLatin1String("gltf") || ending == QLatin1String("glb") ? gltfFault(path) : QString();
+    return fault.isEmpty() ? tr("it is no file of the kind that its ending, .%1, says").arg(ending) : fault;
+}
+
 // The importer's words as the end of a sentence: one line, without its file name prefixes and full stop.
-QString reasonOf(const Assimp::Importer& importer)
+QString reasonOf(const Assimp::Importer& importer, const QString& path)
 {
     QString text = QString::fromUtf8(importer.GetErrorString()).section(QLatin1Char('\n'), 0, 0).trimmed();
     if (text.contains(QLatin1String("bad_alloc")))
         return tr("it asks for more memory than a file of its size can need");
+    if (text.startsWith(QLatin1String("No suitable reader")))
+        return unrecognized(path);
     while (text.endsWith(QLatin1Char('.')))
         text.chop(1);
     return text.isEmpty() ? tr("it holds no model that can be read")
@@ -73,7 +116,7 @@ ModelReadResult failed(const QString& sentence)
     return result;
 }
 
-bool hasTriangles(const ModelData& model)
+bool hasShapes(const ModelData& model)
 {
     return std::any_of(model.meshes.begin(), model.meshes.end(),
                        [](const ModelData::Mesh& mesh) { return !mesh.index.empty(); });
@@ -92,6 +135,30 @@ void removeUnreferenced(aiNode& root, Thing** things, unsigned& count)
     count = static_cast<unsigned>(end - things);
 }
 
+// Some importers give a cloud of points no faces, which the steps after them expect: one for each point.
+void giveFacesToPoints(aiMesh& mesh)
+{
+    if (mesh.mNumFaces > 0 || mesh.mNumVertices == 0)
+        return;
+    mesh.mPrimitiveTypes = aiPrimitiveType_POINT;
+    mesh.mNumFaces = mesh.mNumVertices;
+    mesh.mFaces = new aiFace[mesh.mNumFaces];
+    for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
+        mesh.mFaces[i].mNumIndices = 1;
+        mesh.mFaces[i].mIndices = new unsigned[1]{i};
+    }
+}
+
+QStringList emptyPictures(const ModelData& model)
+{
+    QStringList names;
+    for (const ModelData::Picture& picture : model.pictures) {
+        if (picture.bytes.empty())
+            names += QString::fromStdString(picture.name);
+    }
+    return names;
+}
+
 const aiScene* read(Assimp::Importer& importer, const QString& path)
 {
     // The importer owns the scene and hands it out to be read; in between its steps nobody else does.
@@ -100,22 +167,27 @@ const aiScene* read(Assimp::Importer& importer, const QString& path)
         return nullptr;
     removeUnreferenced(*scene->mRootNode, scene->mLights, scene->mNumLights);
     removeUnreferenced(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
+    for (unsigned i = 0; i < scene->mNumMeshes; ++i)
+        giveFacesToPoints(*scene->mMeshes[i]);
     return importer.ApplyPostProcessing(Steps);
 }
 
 ModelReadResult import(const QString& path, const ReadProgress& progress)
 {
     Assimp::Importer importer;
-    importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
-    importer.SetProgressHandler(new Progress(progress)); // the importer owns it
+    QStringList missingFiles;
+    importer.SetProgressHandler(new Progress(progress)); // the importer owns both
+    importer.SetIOHandler(new FileAccess(path, missingFiles));
     const ScopedCLocale numbers;
     const aiScene* scene = read(importer, path);
     if (!scene)
-        return failed(cannotOpen(path, reasonOf(importer)));
+        return failed(cannotOpen(path, reasonOf(importer, path)));
     ModelReadResult result;
     result.data = fromAssimp(*scene, QFileInfo(path).absolutePath());
-    if (!hasTriangles(result.data))
+    if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
+    result.notes = partsLeftOut(*scene) + missingMaterialFiles(missingFiles) +
+                   missingPictures(emptyPictures(result.data));
     return result;
 }
 

@@ -20,7 +20,7 @@ protected:
     {
         const ModelReadResult model = readModel(path);
         EXPECT_TRUE(model.error.contains(path)) << qPrintable(model.error);
-        EXPECT_TRUE(model.error.contains(QLatin1String(reason))) << qPrintable(model.error);
+        EXPECT_TRUE(model.error.contains(QString::fromUtf8(reason))) << qPrintable(model.error);
         EXPECT_EQ(model.error.count(QLatin1Char('\n')), 0) << qPrintable(model.error);
         EXPECT_TRUE(model.error.endsWith(QLatin1Char('.'))) << qPrintable(model.error);
         EXPECT_TRUE(model.data.nodes.empty());
@@ -81,6 +81,28 @@ TEST_F(BadModel, NoMeshes)
 TEST_F(BadModel, GltfWithoutItsGeometryFile)
 {
     expectRefusal(files.write("crate.gltf", contentOf(shippedModel("crate.gltf"))), "crate.bin");
+}
+
+TEST_F(BadModel, GltfThatIsBroken)
+{
+    const QByteArray whole = contentOf(shippedModel("crate.gltf"));
+    expectRefusal(files.write("cut.gltf", whole.left(whole.size() / 2)), "its JSON text is broken at line ");
+    expectRefusal(files.write("text.gltf", "{\n \"asset\": no"),
+                  "broken at line 2, column 12 (illegal value)");
+    expectRefusal(files.write("bare.gltf", "{}"), "its “asset” was expected to name a version of glTF");
+    expectRefusal(files.write("new.gltf", R"({"asset":{"version":"7.5"}})"), "its version of glTF is 7.5");
+    expectRefusal(
+        files.write("nodes.gltf", R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"nodes":[77]}]})"),
+        "it is not a whole model");
+    QByteArray binary("glTF\2\0\0\0....\4\0\0\0JSON{\"a\"", 24);
+    const auto size = static_cast<quint32>(binary.size());
+    std::memcpy(binary.data() + 8, &size, 4);
+    expectRefusal(files.write("chunk.glb", binary), "its JSON text is broken at line 1");
+}
+
+TEST_F(BadModel, OtherFileWithTheEndingOfAModel)
+{
+    expectRefusal(files.write("text.xml", "This is no model.\n"), "the kind that its ending, .xml, says");
 }
 
 // Once kept the importer busy for ever.

@@ -42,13 +42,15 @@ TEST(ModelFile, TransfersEveryBit)
     }
 }
 
-TEST(ModelFile, TransfersAnError)
+TEST(ModelFile, TransfersAnErrorAndNotes)
 {
     ModelReadResult model;
     model.error = QStringLiteral("“ä” cannot be opened: ….");
+    model.notes = QStringList{"One “ü”.", "Two."};
     ModelReadResult again;
     ASSERT_TRUE(read(written(model), again));
     EXPECT_EQ(again.error, model.error);
+    EXPECT_EQ(again.notes, model.notes);
 }
 
 TEST(ModelFile, RefusesATruncatedFile)

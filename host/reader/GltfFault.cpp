@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "reader/FormatChecks.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtEndian>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr qint64 LargestText = 64 << 20; // what is larger is not looked into for a fault
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("GltfFault", text);
+}
+
+// A binary file has the text in its first chunk, behind two headers.
+QByteArray textOf(QFile& file)
+{
+    constexpr int Headers = 20;
+    const QByteArray head = file.peek(Headers);
+    if (!head.startsWith("glTF"))
+        return file.read(LargestText);
+    file.skip(Headers);
+    const auto size = head.size() == Headers ? qFromLittleEndian<quint32>(head.constData() + 12) : 0;
+    return file.read(std::min<qint64>(size, LargestText));
+}
+
+QString parseFault(const QByteArray& text, const QJsonParseError& error)
+{
+    const QByteArray before = text.left(error.offset);
+    const int line = 1 + before.count('\n');
+    const int column = error.offset - before.lastIndexOf('\n');
+    return tr("its JSON text is broken at line %1, column %2 (%3)")
+        .arg(QString::number(line), QString::number(column), error.errorString());
+}
+
+QString versionFault(const QJsonObject& gltf)
+{
+    const QString version =
+        gltf.value(QLatin1String("asset")).toObject().value(QLatin1String("version")).toString();
+    if (version.isEmpty())
+        return tr("its “asset” was expected to name a version of glTF");
+    if (!version.startsWith(QLatin1String("1.")) && !version.startsWith(QLatin1String("2.")))
+        return tr("its version of glTF is %1, and 1.0 or 2.0 was expected").arg(version);
+    return {};
+}
+
+} // namespace
+
+QString gltfFault(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > LargestText)
+        return {};
+    const QByteArray text = textOf(file);
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    return error.error == QJsonParseError::NoError ? versionFault(document.object())
+                                                   : parseFault(text, error);
+}
+
+} // namespace scopix

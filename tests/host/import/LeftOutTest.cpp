@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+// What of a model does not come along is told, counted.
+#include "ModelFiles.h"
+
+#include "import/ModelImport.h"
+#include "reader/ModelReader.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace scopix;
+
+namespace
+{
+
+class LeftOut : public testing::Test
+{
+protected:
+    // A triangle as glTF, in which each list is what the tests change.
+    static QJsonObject triangle()
+    {
+        static const char text[] = R"({"asset": {"version": "2.0"}, "scene": 0, "scenes": [{"nodes": [0, 1]}],
+            "nodes": [{"mesh": 0}, {"name": "bone"}],
+            "buffers": [{"byteLength": 36, "uri": "triangle.bin"}],
+            "bufferViews": [{"buffer": 0, "byteLength": 36}],
+            "accessors": [{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3"},
+                          {"bufferView": 0, "componentType": 5121, "count": 3, "type": "VEC4"},
+                          {"bufferView": 0, "componentType": 5126, "count": 2, "type": "SCALAR"},
+                          {"bufferView": 0, "componentType": 5126, "count": 2, "type": "VEC3"}],
+            "images": [{"uri": "a.png"}, {"uri": "b.png"}], "textures": [{"source": 0}, {"source": 1}],
+            "materials": [{"name": "one"}, {"name": "two"}],
+            "meshes": [{"primitives": [{"attributes": {"POSITION": 0}, "material": 0}]},
+                       {"primitives": [{"attributes": {"POSITION": 0}, "material": 1}]}]})";
+        return QJsonDocument::fromJson(text).object();
+    }
+    static QJsonValue json(const char* text) { return QJsonDocument::fromJson(text).array().first(); }
+    QStringList notesOf(const QJsonObject& gltf)
+    {
+        const float corners[9] = {0, 0, 0, 1, 0, 0, 0, 1, 0};
+        files.write("triangle.bin", QByteArray(reinterpret_cast<const char*>(corners), sizeof corners));
+        return notesOf(files.write("model.gltf", QJsonDocument(gltf).toJson()));
+    }
+    static QStringList notesOf(const QString& path)
+    {
+        const ModelReadResult model = readModel(path);
+        EXPECT_EQ(model.error, "");
+        return model.notes;
+    }
+    ModelFiles files;
+};
+
+TEST_F(LeftOut, IsNothingOfWhatIsShipped)
+{
+    for (const char* name : {"lighthouse.glb", "crate.gltf", "crate.obj", "rainbow.ply", "knot.stl"})
+        EXPECT_EQ(notesOf(shippedModel(name)), QStringList()) << name;
+    EXPECT_EQ(notesOf(triangle()), QStringList());
+}
+
+TEST_F(LeftOut, CountsAnimations)
+{
+    QJsonObject gltf = triangle();
+    const QJsonValue animation = json(R"([{"samplers": [{"input": 2, "output": 3}],
+                  "channels": [{"sampler": 0, "target": {"node": 0, "path": "translation"}}]}])");
+    gltf["animations"] = QJsonArray{animation};
+    EXPECT_EQ(notesOf(gltf), QStringList("1 animation is left out."));
+    gltf["animations"] = QJsonArray{animation, animation, animation};
+    EXPECT_EQ(notesOf(gltf), QStringList("3 animations are left out."));
+}
+
+TEST_F(LeftOut, CountsMorphsAndSkins)
+{
+    QJsonObject gltf = triangle();
+    gltf["meshes"] = QJsonArray{json(R"([{"primitives": [{"attributes": {"POSITION": 0},
+                                          "targets": [{"POSITION": 0}, {"POSITION": 0}]}]}])")};
+    EXPECT_EQ(notesOf(gltf), QStringList("2 morph targets are left out."));
+    gltf = triangle();
+    gltf["skins"] = QJsonArray{json(R"([{"joints": [1]}])")};
+    gltf["nodes"] = QJsonArray{json(R"([{"mesh": 0, "skin": 0}])"), json(R"([{"name": "bone"}])")};
+    gltf["bufferViews"] = QJsonArray{json(R"([{"buffer": 0, "byteLength": 36}])"),
+                                     json(R"([{"buffer": 1, "byteLength": 48}])")};
+    const float weights[12] = {1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0};
+    files.write("weights.bin", QByteArray(reinterpret_cast<const char*>(weights), sizeof weights));
+    gltf["buffers"] = QJsonArray{json(R"([{"byteLength": 36, "uri": "triangle.bin"}])"),
+                                 json(R"([{"byteLength": 48, "uri": "weights.bin"}])")};
+    files.write("joints.bin", QByteArray(12, 0));
+    gltf["accessors"] =
+        QJsonArray{json(R"([{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3"}])"),
+                   json(R"([{"bufferView": 0, "componentType": 5121, "count": 3, "type": "VEC4"}])"),
+                   json(R"([{"bufferView": 1, "componentType": 5126, "count": 3, "type": "VEC4"}])")};
+    gltf["meshes"] = QJsonArray{
+        json(R"([{"primitives": [{"attributes": {"POSITION": 0, "JOINTS_0": 1, "WEIGHTS_0": 2}}]}])")};
+    EXPECT_EQ(notesOf(gltf),
+              QStringList("The skin of 1 mesh is left out, which keeps the pose that it was made in."));
+}
+
+TEST_F(LeftOut, CountsTheMapsOfMaterials)
+{
+    QJsonObject gltf = triangle();
+    gltf["materials"] =
+        QJsonArray{json(R"([{"normalTexture": {"index": 0}, "emissiveTexture": {"index": 1}}])"),
+                   json(R"([{"normalTexture": {"index": 1}}])")};
+    EXPECT_EQ(notesOf(gltf), (QStringList{"The normal maps of 2 materials are left out.",
+                                          "The emissive map of 1 material is left out."}));
+    gltf["materials"] = QJsonArray{json(
+        R"([{"occlusionTexture": {"index": 0}, "pbrMetallicRoughness": {"metallicRoughnessTexture": {"index": 1}}}])")};
+    EXPECT_EQ(notesOf(gltf), (QStringList{"The map of metal and roughness of 1 material is left out.",
+                                          "The occlusion map of 1 material is left out."}));
+}
+
+TEST_F(LeftOut, NamesMissingPictures)
+{
+    QJsonObject gltf = triangle();
+    gltf["materials"] = QJsonArray{json(R"([{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0}}}])"),
+                                   json(R"([{"pbrMetallicRoughness": {"baseColorTexture": {"index": 1}}}])")};
+    EXPECT_EQ(notesOf(gltf),
+              QStringList("2 pictures are missing or cannot be read, and are left out: “a.png”, “b.png”."));
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("a.png"));
+    files.write("b.png", "no picture");
+    EXPECT_EQ(notesOf(gltf),
+              QStringList("1 picture is missing or cannot be read, and is left out: “b.png”."));
+}
+
+TEST_F(LeftOut, NamesMissingFilesOfMaterials)
+{
+    const QByteArray mesh = "v 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl red\nf 1 2 3\n";
+    const QString path = files.write("tent.obj", "mtllib gone.mtl\n" + mesh);
+    const QStringList gone("1 file of materials is missing, so that default ones are used: “gone.mtl”.");
+    EXPECT_EQ(notesOf(path), gone);
+    files.write("tent.mtl", "newmtl red\nKd 1 0 0\n");
+    EXPECT_EQ(notesOf(path), gone) << "the importer guesses another one";
+    files.write("gone.mtl", "newmtl red\nKd 1 0 0\n");
+    EXPECT_EQ(notesOf(path), QStringList());
+    EXPECT_EQ(notesOf(files.write("plain.obj", mesh)), QStringList());
+}
+
+TEST_F(LeftOut, ComesWithTheScene)
+{
+    QWidget window;
+    ModelImport import(&window);
+    bool isFinished = false;
+    QObject::connect(&import, &ModelImport::finished, [&] { isFinished = true; });
+    import.start(files.write("tent.obj", "mtllib gone.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isFinished; }, 60000));
+    ASSERT_EQ(import.notes().size(), 1);
+    EXPECT_TRUE(import.notes().first().contains("gone.mtl"));
+}
+
+} // namespace
