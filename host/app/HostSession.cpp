@@ -52,6 +52,7 @@ HostSession::~HostSession()
 {
     if (m_keepsLayout)
         saveLayout();
+    m_notifier.setPrintsPostedErrors(false);
     m_plugins.unloadAll();
     m_services.clearSelection();
     m_services.history().clear();
@@ -85,11 +86,12 @@ void HostSession::start(const CommandLine& line)
     if (!homeTrouble.isEmpty())
         m_notifier.error(homeTrouble);
     loadPlugins(line);
+    m_notifier.setPrintsPostedErrors(line.isUnattended()); // the console is there now
     if (!line.isUnattended())
         restoreLayout();
     m_window->show();
     if (line.file.isEmpty())
-        openFinished();
+        openFinished(true);
     else
         m_window->openFile(line.file);
 }
@@ -106,22 +108,22 @@ void HostSession::loadPlugins(const CommandLine& line)
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }
 
-void HostSession::openFinished()
+void HostSession::openFinished(bool opened)
 {
     if (!m_asked)
         return; // a file that the user opened later
     const CommandLine line = *m_asked;
     m_asked.reset();
-    if (!line.selectNode.isEmpty())
+    if (opened && !line.selectNode.isEmpty())
         m_window->selectField(line.selectNode, line.selectField);
     // From the event loop, when profile and editors are set up.
     QMetaObject::invokeMethod(
-        this, [this, line] { finish(line); }, Qt::QueuedConnection);
+        this, [this, line, opened] { finish(line, opened); }, Qt::QueuedConnection);
 }
 
-void HostSession::finish(const CommandLine& line)
+void HostSession::finish(const CommandLine& line, bool opened)
 {
-    if (!line.screenshot.isEmpty())
+    if (opened && !line.screenshot.isEmpty()) // else it would show what was not asked for
         m_window->saveScreenshot(line.screenshot);
     m_status = m_notifier.errorCount() > 0 ? 1 : 0;
     if (line.isUnattended())

@@ -55,8 +55,8 @@ signals:
 private:
     void connectParts();
     void loadPlugins(const CommandLine& line);
-    void openFinished();
-    void finish(const CommandLine& line);
+    void openFinished(bool opened);
+    void finish(const CommandLine& line, bool opened);
     void restoreLayout();
     void saveLayout() const;
 

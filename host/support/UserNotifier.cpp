@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "support/UserNotifier.h"
 
+#include "support/PostedErrors.h"
+#include "support/Printable.h"
+#include "support/StandardError.h"
+
+#include <xsg/errors/SoDebugError.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTextDocumentFragment>
 
-#include <cstdio>
-
 namespace scopix
 {
 
 namespace
 {
-
-void print(const QString& text)
-{
-    std::fprintf(stderr, "scopix: %s\n", qPrintable(text));
-    std::fflush(stderr);
-}
 
 QString plain(const QString& text)
 {
@@ -31,7 +29,7 @@ QString textOf(const QMessageBox& box)
     QStringList parts{plain(box.text())};
     if (!box.informativeText().isEmpty())
         parts += plain(box.informativeText());
-    return parts.join(QLatin1Char(' '));
+    return parts.join(QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 // The button that closes the box and changes nothing.
@@ -80,18 +78,38 @@ void UserNotifier::setAttended(bool attended)
         qApp->installEventFilter(this);
 }
 
+void UserNotifier::setPrintsPostedErrors(bool on)
+{
+    m_postedErrors.reset();
+    if (on)
+        m_postedErrors = std::make_unique<PostedErrors>();
+}
+
 void UserNotifier::error(const QString& sentence)
 {
+    const QString shown = printable(sentence);
     ++m_errorCount;
-    print(sentence);
-    emit told(sentence);
+    print(shown);
+    emit told(shown);
     if (m_attended)
-        showInBox(sentence);
+        showInBox(shown);
 }
 
 void UserNotifier::info(const QString& sentence)
 {
-    emit told(sentence);
+    emit told(printable(sentence));
+}
+
+void UserNotifier::note(const QString& about, const QString& sentence)
+{
+    SoDebugError::postWarning(printable(about).toUtf8().constData(), printable(sentence).toStdString());
+}
+
+// The scene graph may just have posted the same.
+void UserNotifier::print(const QString& sentence) const
+{
+    if (!m_postedErrors || m_postedErrors->lastText() != sentence)
+        printOnStandardError(sentence);
 }
 
 // One box collects all errors until the user closes it.
@@ -113,7 +131,7 @@ bool UserNotifier::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::Show)
         return false;
     if (auto* box = qobject_cast<QMessageBox*>(watched)) {
-        print(textOf(*box));
+        print(printable(textOf(*box)));
         QMetaObject::invokeMethod(
             box, [box] { dismiss(*box); }, Qt::QueuedConnection);
     }

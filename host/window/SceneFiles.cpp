@@ -5,8 +5,10 @@
 #include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
+#include "support/Printable.h"
 #include "support/UserNotifier.h"
 #include "undo/TextInput.h"
+#include "viewport/NothingToSee.h"
 #include "window/DefaultScene.h"
 
 #include <xsg/files/SoSceneFile.h>
@@ -93,7 +95,7 @@ void SceneFiles::modelRead(SoNode* root, const QString& path)
 {
     // The user may have continued to edit while the model was read.
     if (m_document.getEditCount() == m_droppable || confirmDiscard())
-        show(root, path);
+        show(root, path, m_import ? m_import->notes() : QStringList());
     else
         cancelled(path);
 }
@@ -112,13 +114,24 @@ void SceneFiles::cancelled(const QString& path)
     emit opened(false);
 }
 
-void SceneFiles::show(SoNode* root, const QString& path)
+void SceneFiles::show(SoNode* root, const QString& path, const QStringList& notes)
 {
     forgetImport();
-    m_document.begin(root, path, QFileInfo(path).fileName());
+    const QString name = QFileInfo(path).fileName();
+    m_document.begin(root, path, name);
     if (m_notifier.isAttended())
         m_recent.add(path);
-    m_notifier.info(tr("Opened “%1”.").arg(path));
+    for (const QString& sentence : notes)
+        UserNotifier::note(name, sentence);
+    const QString reason = whyNothingIsSeen(root);
+    if (!reason.isEmpty()) {
+        UserNotifier::note(name, tr("Nothing of it can be seen: %1.").arg(reason));
+        m_notifier.info(tr("Opened “%1”, of which nothing can be seen: %2.").arg(path, reason));
+    } else if (!notes.isEmpty()) {
+        m_notifier.info(tr("Opened “%1”; the console says what is left out.").arg(path));
+    } else {
+        m_notifier.info(tr("Opened “%1”.").arg(path));
+    }
     emit opened(true);
 }
 
@@ -213,7 +226,7 @@ bool SceneFiles::confirmDiscard()
 bool SceneFiles::askWhetherToDrop()
 {
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
-                    tr("Save the changes to “%1”?").arg(m_document.getTitle()),
+                    tr("Save the changes to “%1”?").arg(printable(m_document.getTitle())),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
     box.setObjectName(QStringLiteral("unsavedChanges"));
     box.setInformativeText(tr("Without saving, they are lost."));
@@ -254,7 +267,7 @@ void SceneFiles::offerRecovery()
         return;
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
                     tr("The last session ended without saving its changes to “%1”. Recover them?")
-                        .arg(slot->getOrigin().title),
+                        .arg(printable(slot->getOrigin().title)),
                     QMessageBox::NoButton, &m_window);
     box.setObjectName(QStringLiteral("recovery"));
     box.setInformativeText(

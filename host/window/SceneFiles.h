@@ -63,7 +63,7 @@ private:
     void openScene(const QString& path);
     void importModel(const QString& path);
     void modelRead(SoNode* root, const QString& path);
-    void show(SoNode* root, const QString& path);
+    void show(SoNode* root, const QString& path, const QStringList& notes = {});
     void reportFailure(const QString& sentence);
     void forgetImport();
     void cancelled(const QString& path);

@@ -88,6 +88,75 @@ TEST_F(Program, DrawsIconsInTheScreensDensity)
     EXPECT_GT(detailed, 20);
 }
 
+TEST_F(Program, WritesNoPictureOfWhatItCannotOpen)
+{
+    const QString picture = folder.filePath("out.png");
+    for (const QString& file : {folder.filePath("none.xsg"), write("bad.xsg", "#Xsg V1.0 utf8\nNo {"),
+                                write("bad.glb", "no model at all\n")}) {
+        const Outcome outcome = run({file, "--select", "Nothing.here", "--screenshot", picture});
+        EXPECT_NE(outcome.status, 0);
+        EXPECT_EQ(outcome.said.count('\n'), 0) << qPrintable(outcome.said);
+        EXPECT_TRUE(outcome.said.contains(file)) << qPrintable(outcome.said);
+        EXPECT_FALSE(QFile::exists(picture));
+    }
+}
+
+TEST_F(Program, NamesTexturesThatAreMissingInAPicture)
+{
+    const QString scene =
+        write("wall.xsg", "#Xsg V1.0 utf8\nSeparator { Texture2 { fileName: \"gone.png\" } Cube {} }\n");
+    const Outcome outcome = run({scene, "--screenshot", folder.filePath("out.png")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.said, folder.filePath("gone.png") +
+                                ": The picture of a texture is missing; the texture is drawn without it.");
+}
+
+TEST_F(Program, SaysWhatOfAModelIsLeftOut)
+{
+    const QString model =
+        write("tent.obj", "mtllib gone.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl cloth\nf 1 2 3\n");
+    const Outcome outcome = run({model, "--quit"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.said,
+              "tent.obj: 1 file of materials is missing, so that default ones are used: “gone.mtl”.");
+}
+
+TEST_F(Program, SaysWhyNothingIsSeen)
+{
+    const std::pair<const char*, const char*> scenes[] = {
+        {"Material {}", "it has no shapes that are drawn"},
+        {"DrawStyle { style: INVISIBLE } Cube {}", "its draw styles make all of it invisible"},
+        {"Material { transparency: 1 } Cube {}", "all of it is fully transparent"},
+        {"Transform { scaleFactor: 1e30 1e30 1e30 } Cube {}",
+         "all of it is too large, too small or too far away to be shown"}};
+    for (const auto& [nodes, reason] : scenes) {
+        const QString scene = write("bare.xsg", "#Xsg V1.0 utf8\nSeparator { " + QByteArray(nodes) + " }\n");
+        const Outcome outcome = run({scene, "--quit"});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.said, QStringLiteral("bare.xsg: Nothing of it can be seen: %1.").arg(reason));
+    }
+}
+
+// What is in a file controls no terminal.
+TEST_F(Program, ShowsTheBytesOfAFileHarmlessly)
+{
+    const QByteArray token = "\x1b[31m" + QByteArray(20000, 'x') + '\0' + "\xe2\x80\xae";
+    const QString names[] = {"evil\x1b]0;\n.xsg", QString(200, 'n') + ".xsg"};
+    for (const QString& name : names) {
+        const QString scene = write(name, "#Xsg V1.0 utf8\nSeparator { " + token + " }\n");
+        const Outcome outcome = run({scene, "--select", token.left(9) + ".b", "--quit"});
+        EXPECT_NE(outcome.status, 0);
+        EXPECT_FALSE(outcome.said.isEmpty());
+        EXPECT_LT(outcome.said.size(), 4000);
+        for (const QChar c : outcome.said)
+            ASSERT_TRUE(c.isPrint()) << c.unicode() << qPrintable(outcome.said);
+    }
+    const Outcome outcome = run({"--\x1b[2J", "--quit"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_FALSE(outcome.said.contains(QChar(0x1b)));
+    EXPECT_TRUE(outcome.said.contains("\\x1B[2J")) << qPrintable(outcome.said);
+}
+
 TEST_F(Program, OpensAndEnds)
 {
     const Outcome outcome = run({model(), "--quit"});
