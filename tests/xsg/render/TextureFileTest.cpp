@@ -5,6 +5,7 @@
 #include "../errors/Collected.h"
 
 #include <xsg/errors/SoReadError.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTexture2.h>
@@ -94,9 +95,10 @@ TEST_F(TextureFile, ReportsOneThatCannotBeReadOnce)
     const Collected<SoReadError> errors;
     const std::string path = testing::TempDir() + "no picture " + std::to_string(getpid()) + ".ppm";
     texture->fileName.setValue(path.c_str());
-    for (const float wrap : {0.2F, 0.4F}) {
-        texture->image.setValue(0, 0, 0, nullptr); // the texture changes, and is asked for again
-        add<SoMaterial>()->shininess.setValue(wrap);
+    SoRef<SoDrawStyle> style(new SoDrawStyle);
+    root->insertChild(style.get(), 0);
+    for (const auto shown : {SoDrawStyle::Filled, SoDrawStyle::Invisible, SoDrawStyle::Filled}) {
+        style->style.setValue(shown); // what is not drawn is forgotten, and read again later
         draw();
     }
     ASSERT_EQ(errors.texts.size(), 1U);
