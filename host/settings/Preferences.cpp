@@ -43,6 +43,14 @@ bool readLine(QString line, QSettings::SettingsMap& values)
     return match.hasMatch() || blank.match(line).hasMatch();
 }
 
+// Some editors begin every file with it.
+void skipByteOrderMark(QIODevice& device)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    if (device.peek(mark.size()) == mark)
+        device.skip(mark.size());
+}
+
 // The bytes of a value are kept as they are, whatever their encoding: each is one Latin-1 character.
 bool readPreferences(QIODevice& device, QSettings::SettingsMap& values)
 {
@@ -50,6 +58,7 @@ bool readPreferences(QIODevice& device, QSettings::SettingsMap& values)
         report(device, 0, "The settings file is too large; expected at most 1 MiB.");
         return true;
     }
+    skipByteOrderMark(device);
     for (int number = 1; !device.atEnd(); ++number) {
         if (!readLine(QString::fromLatin1(device.readLine()), values))
             report(device, number, "The line is no setting; expected NAME = value.");

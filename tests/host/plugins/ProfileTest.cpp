@@ -74,6 +74,19 @@ TEST_F(ProfilesFile, ReadsBackWhatItWrote)
     EXPECT_EQ(back.active, "Edit");
 }
 
+TEST_F(ProfilesFile, MayBeginWithAByteOrderMark)
+{
+    ASSERT_EQ(m_file.write(ProfileFile::shipped()), "");
+    QFile file(m_path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray content = file.readAll();
+    file.close();
+    put("\xEF\xBB\xBF" + content);
+    EXPECT_EQ(m_file.read(m_error).profiles.size(), 3U);
+    EXPECT_EQ(m_error, "");
+    EXPECT_EQ(files(), QStringList("profiles.json")) << "it was taken for damaged";
+}
+
 TEST_F(ProfilesFile, DefaultIsAlwaysThereAndWhole)
 {
     put(R"({"active":"Mine","profiles":[{"name":"Mine","editors":[],"tools":"all"},)"

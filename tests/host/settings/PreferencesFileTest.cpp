@@ -47,6 +47,13 @@ protected:
     const Collected<SoReadError> readErrors;
 };
 
+TEST_F(PreferencesFile, MayBeginWithAByteOrderMark)
+{
+    feed("\xEF\xBB\xBFYES = TRUE\nNO = 0\n");
+    EXPECT_TRUE(SoPreferences::getBool("YES", false));
+    EXPECT_TRUE(readErrors.texts.empty());
+}
+
 TEST_F(PreferencesFile, OfAnOlderVersionIsReadAsItWas)
 {
     feed("# a comment\n\nYES = TRUE\nNO=0\n  COUNT = -12  # twelve\nRATIO = 0.5\r\n"
