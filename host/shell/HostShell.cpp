@@ -118,6 +118,15 @@ void HostShell::detachExtension(SpxExtension* extension)
         emit extensionsChanged();
 }
 
+QString HostShell::captionOf(const SpxExtension* extension) const
+{
+    for (const Owned& each : m_owned) {
+        if (each.owner == extension && each.widget && !each.widget->windowTitle().isEmpty())
+            return each.widget->windowTitle();
+    }
+    return nameOf(extension);
+}
+
 void HostShell::forget(const SpxExtension* extension)
 {
     const QList<Owned> owned = m_owned;

@@ -38,6 +38,9 @@ public:
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
 
+    /// What the user knows the extension by: the title of its dock or tool bar, or else its name.
+    QString captionOf(const SpxExtension* extension) const;
+
     /// The extension whose activate() runs now, to which the widgets belong that it adds; null afterwards.
     void setActivating(SpxExtension* extension) { m_activating = extension; }
     /// Removes what the extension left behind. The extension may already be destroyed.

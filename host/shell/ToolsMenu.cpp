@@ -32,7 +32,12 @@ void ToolsMenu::refill()
 
 QAction* ToolsMenu::makeEntry(SpxExtension* extension)
 {
-    auto* entry = new QAction(QString::fromUtf8(extension->getName().getString()), &m_menu);
+    auto* entry = new QAction(&m_menu);
+    const auto showCaption = [this, entry, extension] {
+        entry->setText(m_shell.captionOf(extension).replace(QLatin1Char('&'), QLatin1String("&&")));
+    };
+    showCaption();
+    connect(&m_menu, &QMenu::aboutToShow, entry, showCaption); // an extension may get its title later
     entry->setStatusTip(QString::fromUtf8(extension->getDescription().getString()));
     entry->setCheckable(true);
     entry->setChecked(extension->isShown());

@@ -207,8 +207,9 @@ TEST(Counters, SwitchedOffTheyWaitInTheMenu)
 {
     CounterHome home;
     const auto entryOf = [](CounterSession& session) {
+        emit session.window().viewMenu()->aboutToShow();
         for (QAction* action : session.window().viewMenu()->actions()) {
-            if (action->text() == "PerfCounter")
+            if (action->text() == "Performance Counter")
                 return action;
         }
         return static_cast<QAction*>(nullptr);
