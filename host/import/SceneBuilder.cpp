@@ -10,6 +10,7 @@
 #include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/lights/SoSpotLight.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/properties/SoPoints.h>
@@ -138,11 +139,21 @@ private:
             result->addChild(coordinates);
             coordinates->points.setValues(std::move(mesh.textureCoordinates));
         }
+        if (mesh.corners == 1)
+            result->addChild(makeDots());
         SoVertexShape* shape = makeShape(mesh, pointCount);
         result->addChild(shape);
         if (colored)
             shape->colorBinding.setValue(SoVertexShape::PerVertex);
         return result;
+    }
+
+    // Points of one pixel are hardly seen where they are few.
+    static SoDrawStyle* makeDots()
+    {
+        auto* style = new SoDrawStyle;
+        style->pointSize.setValue(3);
+        return style;
     }
 
     static SoVertexShape* makeShape(ModelData::Mesh& mesh, std::size_t pointCount)

@@ -8,6 +8,7 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/shapes/SoIndexedLineSet.h>
@@ -68,6 +69,8 @@ TEST_F(PointsAndLines, ACloudBecomesAPointSetWithItsColours)
     EXPECT_EQ(all<SoPoints>()[0]->points.getNum(), 3);
     EXPECT_EQ(all<SoPointSet>()[0]->colorBinding.getValue(), SoPointSet::PerVertex);
     EXPECT_EQ(all<SoMaterial>()[0]->diffuseColor[1], SbColor(0, 1, 0));
+    ASSERT_EQ(all<SoDrawStyle>().size(), 1U);
+    EXPECT_GT(all<SoDrawStyle>()[0]->pointSize.getValue(), 1) << "a dot of one pixel is hardly seen";
     const SbBox3f box = SoBoundingBoxAction().getBox(scene.get());
     EXPECT_EQ(box.getMax(), SbVec3f(1, 2, 0));
 }
