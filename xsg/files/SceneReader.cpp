@@ -553,7 +553,7 @@ bool xsg::SceneReader::restoreValue(const Connection& made)
     return true;
 }
 
-bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes)
+bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart part)
 {
     m_recorded = &nodes;
     m_phase = Phase::Items;
@@ -569,33 +569,53 @@ bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes)
     if (!field)
         return fail(start, "a field of the " + typeOf(*node) + " was expected");
     ++m_at;
-    if (field->isIgnored())
-        field->setIgnored(false); // unless the record says so
+    const bool wasIgnored = field->isIgnored();
+    field->setIgnored(false); // unless the record says so
     bool good = readField(name, start);
     while (good && m_pending)
         good = readValue();
     skipBlanks();
-    if (!good || (!atEnd() && !fail(m_at, "the end of the record was expected")))
-        return false;
-    return applyRecord(*field);
+    if (good && !atEnd())
+        good = fail(m_at, "the end of the record was expected");
+    if (!good)
+        field->setIgnored(wasIgnored);
+    return good && applyRecord(*field, part);
 }
 
-// A connection first: making one has the field fetch the source's value, and the recorded one is newer.
-bool xsg::SceneReader::applyRecord(SoField& field)
+bool xsg::SceneReader::applyRecord(SoField& field, RecordPart part)
 {
     const bool isConnected = !m_connections.empty();
     if (isConnected && !findSource(m_connections.front()))
         return false;
-    SoField* source = isConnected ? m_connections.front().source : nullptr;
-    if (field.getConnectedField() != source) {
+    const SoField* source = isConnected ? m_connections.front().source : nullptr;
+    if (part == RecordPart::Value)
+        return setRecorded(field);
+    if (field.getConnectedField() == source)
+        return true;
+    if (part == RecordPart::Disconnection)
         field.disconnect();
-        if (isConnected && !connect(&m_connections.front()))
-            return false;
-    }
-    if (!m_nodeValues.empty() && !resolve(m_nodeValues.front()))
+    return part == RecordPart::Disconnection || connect(&m_connections.front());
+}
+
+bool xsg::SceneReader::setRecorded(SoField& field)
+{
+    SbString text = m_value;
+    if (!m_nodeValues.empty() && !textOfNodes(m_nodeValues.front(), text))
         return false;
-    if (m_nodeValues.empty() && !field.setWithoutPropagation(m_value))
-        return false;
+    if (!field.setWithoutPropagation(text))
+        return refuseValue(field, text.str(), m_text.placeOf(0));
     field.setDefault(m_isDefault);
+    return true;
+}
+
+// As a field writes it that stands alone: by names that find the nodes while they live.
+bool xsg::SceneReader::textOfNodes(const NodeValue& wanted, SbString& text)
+{
+    SoSFNode single;
+    SoMFNode list;
+    SoField& field = dynamic_cast<SoMFNode*>(wanted.field) ? static_cast<SoField&>(list) : single;
+    if (!resolve({&field, wanted.text, wanted.place}))
+        return false;
+    field.get(text);
     return true;
 }

@@ -58,9 +58,12 @@ public:
     int getColumn() const { return m_problemPlace.column; }
     const std::string& getProblem() const { return m_problem; }
 
+    /// What of a field's state is to be taken: that it is not connected as it was, that it is connected, or
+    /// its value and marks.
+    enum class RecordPart { Disconnection, Connection, Value };
     /// Instead of a scene: the text is the state of one field of one of these nodes, as
-    /// SceneWriter::recordOf() wrote it. False, with an error, where it cannot be that.
-    bool readRecord(const std::vector<SoNode*>& nodes);
+    /// SceneWriter::recordOf() wrote it; see SceneRecords. False, with an error, where it cannot be that.
+    bool readRecord(const std::vector<SoNode*>& nodes, RecordPart part);
 
 private:
     enum class Phase { FirstLine, Items, References, Sources, Order, Connections, Values, Done };
@@ -134,7 +137,9 @@ private:
     bool orderSourcesFirst(const Connection& connection);
     bool connect(const Connection* wanted);
     bool restoreValue(const Connection& made);
-    bool applyRecord(SoField& field);
+    bool applyRecord(SoField& field, RecordPart part);
+    bool setRecorded(SoField& field);
+    bool textOfNodes(const NodeValue& wanted, SbString& text);
 
     SceneText m_text;
     std::size_t m_at = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/XsgExport.h>
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -12,7 +14,7 @@ namespace xsg
 /// The text of a scene while it is read: one that is in memory as a whole, or one that comes piece by piece,
 /// of which no more is kept than what was not passed yet. Positions count from the start of the text. It ends
 /// before its first byte 0, which no text has.
-class SceneText
+class XSG_API SceneText
 {
 public:
     /// Fills up to `size` bytes and returns how many; 0 at the end.
