@@ -4,44 +4,7 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/files/SceneReading.h>
 #include <xsg/files/SceneWriter.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
-
-namespace
-{
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-bool refuseWriting(const std::string& path, int code, std::string& error)
-{
-    error = path + ": The file cannot be written: " + std::strerror(code) + ".";
-    return false;
-}
-
-// Writes everything and makes sure that it is on the disk, so that the rename cannot outrun the data.
-int writeTo(int descriptor, const SoNode* root)
-{
-    const File file(fdopen(descriptor, "wb"));
-    int problem = 0;
-    xsg::SceneWriter writer([&](const std::string& piece) {
-        if (problem == 0 && std::fwrite(piece.data(), 1, piece.size(), file.get()) != piece.size())
-            problem = errno;
-    });
-    writer.write(root);
-    if (problem == 0 && (std::fflush(file.get()) != 0 || fsync(descriptor) != 0))
-        problem = errno;
-    return problem;
-}
-
-} // namespace
+#include <xsg/support/FileReplacement.h>
 
 SoRef<SoNode> SoSceneFile::read(const std::string& path, std::string& error)
 {
@@ -63,22 +26,15 @@ SoRef<SoNode> SoSceneFile::readText(std::string_view text, const std::string& na
 
 bool SoSceneFile::write(const SoNode* root, const std::string& path, std::string& error)
 {
-    // Beside the file, since a rename works only within one file system.
-    std::string temporary = path + ".XXXXXX";
-    const int descriptor = mkstemp(temporary.data());
-    if (descriptor < 0)
-        return refuseWriting(path, errno, error);
-    struct stat about {
-    };
-    const mode_t mode = stat(path.c_str(), &about) == 0 ? about.st_mode & 07777U : 0644U;
-    fchmod(descriptor, mode);
-    int problem = writeTo(descriptor, root);
-    if (problem == 0 && std::rename(temporary.c_str(), path.c_str()) != 0)
-        problem = errno;
-    if (problem == 0)
+    xsg::FileReplacement file(path);
+    bool isGood = file.open();
+    xsg::SceneWriter writer([&](const std::string& piece) { isGood = isGood && file.write(piece); });
+    if (isGood)
+        writer.write(root);
+    if (isGood && file.commit())
         return true;
-    std::remove(temporary.c_str());
-    return refuseWriting(path, problem, error);
+    error = path + ": The file cannot be written: " + file.getProblem() + ".";
+    return false;
 }
 
 std::string SoSceneFile::writeText(const SoNode* root)
