@@ -8,20 +8,12 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProgressDialog>
 
 #include <csignal>
 #include <dlfcn.h>
 
 namespace scopix
 {
-
-namespace
-{
-
-constexpr int PatienceMs = 400; // before a dialog opens
-
-} // namespace
 
 QString ModelImport::readerProgram()
 {
@@ -37,8 +29,7 @@ QString ModelImport::readerProgram()
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
-    : QObject(parent)
-    , m_window(window)
+    : FileImport(window, parent)
     , m_reader(this)
 {
     m_reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -62,15 +53,7 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
-                                   m_window);
-    m_dialog->setObjectName(QStringLiteral("importProgress"));
-    m_dialog->setWindowModality(Qt::WindowModal);
-    m_dialog->setMinimumDuration(PatienceMs);
-    m_dialog->setAutoClose(false);
-    m_dialog->setAutoReset(false);
-    m_dialog->setValue(0);
-    connect(m_dialog, &QProgressDialog::canceled, this, &ModelImport::cancel);
+    openDialog(path);
     m_result.open(); // where that fails, the reader says so
     m_reader.start(readerProgram(), {path, m_result.fileName()});
 }
@@ -81,8 +64,7 @@ void ModelImport::showProgress()
     int percent = 0;
     while (m_reader.canReadLine())
         percent = m_reader.readLine().trimmed().toInt();
-    if (m_dialog)
-        m_dialog->setValue(percent);
+    showPercent(percent);
 }
 
 void ModelImport::cancel()
@@ -132,12 +114,7 @@ void ModelImport::end()
     m_reader.disconnect(this);
     m_reader.kill();
     m_reader.waitForFinished(-1); // a killed process ends at once
-    if (!m_dialog)
-        return;
-    m_dialog->disconnect(this);
-    m_dialog->hide();
-    m_dialog->deleteLater();
-    m_dialog = nullptr;
+    closeDialog();
 }
 
 } // namespace scopix

@@ -2,6 +2,7 @@
 #include "window/SceneFiles.h"
 
 #include "import/ModelImport.h"
+#include "import/SceneImport.h"
 #include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
@@ -62,36 +63,33 @@ void SceneFiles::open(const QString& path)
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
         return reportFailure(error);
-    if (QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding())
-        openScene(path);
-    else
-        importModel(path);
-}
-
-void SceneFiles::openScene(const QString& path)
-{
-    QString error;
-    const SoRef<SoNode> scene = readScene(path, error);
-    if (scene)
-        show(scene.get(), path);
-    else
-        reportFailure(error);
-}
-
-void SceneFiles::importModel(const QString& path)
-{
-    auto* import = new ModelImport(&m_window, this);
+    const bool isScene = QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding();
+    FileImport* import = isScene ? importScene(path) : importModel(path);
     m_import = import;
-    connect(import, &ModelImport::finished, this,
-            [this, path](const SoRef<SoSeparator>& scene) { modelRead(scene.get(), path); });
-    connect(import, &ModelImport::failed, this, &SceneFiles::reportFailure);
-    connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
+    connect(import, &FileImport::failed, this, &SceneFiles::reportFailure);
+    connect(import, &FileImport::cancelled, this, [this, path] { cancelled(path); });
     import->start(path);
 }
 
-void SceneFiles::modelRead(SoNode* root, const QString& path)
+FileImport* SceneFiles::importScene(const QString& path)
 {
-    // The user may have continued to edit while the model was read.
+    auto* import = new SceneImport(&m_window, this);
+    connect(import, &SceneImport::finished, this,
+            [this, path](const SoRef<SoNode>& scene) { fileRead(scene.get(), path); });
+    return import;
+}
+
+FileImport* SceneFiles::importModel(const QString& path)
+{
+    auto* import = new ModelImport(&m_window, this);
+    connect(import, &ModelImport::finished, this,
+            [this, path](const SoRef<SoSeparator>& scene) { fileRead(scene.get(), path); });
+    return import;
+}
+
+void SceneFiles::fileRead(SoNode* root, const QString& path)
+{
+    // The user may have continued to edit while the file was read.
     if (m_document.getEditCount() == m_droppable || confirmDiscard())
         show(root, path);
     else

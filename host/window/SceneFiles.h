@@ -13,7 +13,7 @@ namespace scopix
 
 class HostServices;
 class UserNotifier;
-class ModelImport;
+class FileImport;
 
 /// What the user does with files: opens and saves scenes, imports models, asks before unsaved edits are
 /// dropped, and recovers those of a session that crashed. Questions open over the window. GUI thread only.
@@ -60,9 +60,9 @@ signals:
 private:
     bool askWhetherToDrop();
     void applyTyping();
-    void openScene(const QString& path);
-    void importModel(const QString& path);
-    void modelRead(SoNode* root, const QString& path);
+    FileImport* importScene(const QString& path);
+    FileImport* importModel(const QString& path);
+    void fileRead(SoNode* root, const QString& path);
     void show(SoNode* root, const QString& path);
     void reportFailure(const QString& sentence);
     void forgetImport();
@@ -75,7 +75,7 @@ private:
     SceneDocument m_document;
     RecentFiles m_recent;
     Autosave m_autosave;
-    QPointer<ModelImport> m_import;
+    QPointer<FileImport> m_import;
     quint64 m_droppable = 0; // the edit count up to which the user agreed to lose edits
 };
 
