@@ -10,8 +10,6 @@
 #include "undo/TextInput.h"
 #include "window/DefaultScene.h"
 
-#include <xsg/files/SoSceneFile.h>
-
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
@@ -31,14 +29,6 @@ QString nameFilter()
     for (const QString& ending : SceneDocument::fileExtensions())
         patterns << QStringLiteral("*.") + ending;
     return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
-}
-
-SoRef<SoNode> readScene(const QString& path, QString& error)
-{
-    std::string sentence;
-    SoRef<SoNode> scene = SoSceneFile::read(QFile::encodeName(path).toStdString(), sentence);
-    error = QString::fromStdString(sentence);
-    return scene;
 }
 
 } // namespace
@@ -270,14 +260,41 @@ void SceneFiles::offerRecovery()
 
 void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
 {
-    QString error;
-    const SoRef<SoNode> scene = readScene(slot->scenePath(), error);
-    if (!scene)
-        return m_notifier.error(error);
+    auto* import = new SceneImport(&m_window, this);
+    m_import = import;
+    import->keepNodes();
+    // Where it is not recovered, the slot stays for another session.
+    const std::shared_ptr<RecoverySlot> kept = std::move(slot);
+    connect(import, &FileImport::failed, this, [this, kept](const QString& sentence) {
+        forgetImport();
+        m_notifier.error(sentence);
+    });
+    connect(import, &FileImport::cancelled, this, &SceneFiles::forgetImport);
+    connect(import, &SceneImport::finished, this,
+            [this, kept](const SoRef<SoNode>& scene, const std::vector<SoNode*>& nodes) {
+                recovered(scene.get(), nodes, kept);
+            });
+    import->start(kept->scenePath());
+}
+
+void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
+                           const std::shared_ptr<RecoverySlot>& slot)
+{
+    forgetImport();
+    const std::string problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
     const RecoverySlot::Origin origin = slot->getOrigin();
-    m_document.beginModified(scene.get(), origin.path, origin.title);
-    m_autosave.adopt(std::move(slot));
+    m_document.beginModified(scene, origin.path, origin.title);
+    m_autosave.adopt(slot);
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
+    if (!problem.empty())
+        m_notifier.error(tr("The last changes to “%1” could not be recovered: %2")
+                             .arg(origin.title, QString::fromStdString(problem)));
+}
+
+void SceneFiles::keepEdits()
+{
+    applyTyping();
+    m_autosave.keepNow();
 }
 
 } // namespace scopix

@@ -53,6 +53,8 @@ public:
     bool confirmClose();
     /// False when the user wants to keep unsaved edits.
     bool confirmDiscard();
+    /// Nobody can be asked any more: the next session is to find the unsaved edits.
+    void keepEdits();
 
 signals:
     void opened(bool good);
@@ -69,6 +71,8 @@ private:
     void cancelled(const QString& path);
     void offerRecovery();
     void recover(std::unique_ptr<RecoverySlot> slot);
+    void recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
+                   const std::shared_ptr<RecoverySlot>& slot);
 
     QWidget& m_window;
     UserNotifier& m_notifier;

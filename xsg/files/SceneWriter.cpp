@@ -257,16 +257,25 @@ void xsg::SceneWriter::writeValue(const SoField& field)
             writeReference((*list)[i].get());
         }
         m_out += list->getNum() > 0 ? " ]" : "]";
-    } else if (isLong(field) && m_longValues && m_phase != Phase::Done) {
-        flush(0); // what comes before it
-        if (!m_longValues(field)) {
-            field.get(m_value);
-            m_out += m_value.str();
-        }
-    } else {
+    } else if (!leaveValue(field)) {
         field.get(m_value);
         m_out += m_value.str();
     }
+}
+
+// False where the text is to be made here.
+bool xsg::SceneWriter::leaveValue(const SoField& field)
+{
+    if (!m_longValues || !isLong(field))
+        return false;
+    if (m_phase != Phase::Done) {
+        flush(0); // what comes before it
+        return m_longValues(field);
+    }
+    if (!m_longValues(field))
+        return false;
+    m_recorded = std::exchange(m_out, {});
+    return true;
 }
 
 void xsg::SceneWriter::writeReference(const SoNode* node)
@@ -289,12 +298,13 @@ void xsg::SceneWriter::writeLabel(const SoNode* node)
 
 // A record stands alone and names nodes by their places. It says all there is to say about the field, since
 // what it is read into may hold another state.
-std::string xsg::SceneWriter::recordOf(const SoField& field)
+xsg::SceneWriter::Record xsg::SceneWriter::recordOf(const SoField& field)
 {
     const auto* node = dynamic_cast<const SoNode*>(field.getContainer());
     if (!node || m_notes.find(*node).place == 0)
         return {};
     m_out.clear();
+    m_recorded.clear();
     writeLabel(node);
     m_out += std::string(" ") + field.getName().getString() + ": ";
     field.evaluate();
@@ -302,7 +312,9 @@ std::string xsg::SceneWriter::recordOf(const SoField& field)
     if (field.isDefault())
         m_out += " !default";
     writeMarks(field);
-    return std::exchange(m_out, {});
+    if (m_recorded.empty())
+        m_recorded.swap(m_out);
+    return {std::exchange(m_recorded, {}), std::exchange(m_out, {})};
 }
 
 void xsg::SceneWriter::indent(std::size_t depth)

@@ -43,9 +43,14 @@ public:
     /// All at once.
     void write(const SoNode* root);
 
-    /// Once the scene is written: the state of a field as it is now, which SceneReader::readRecord() reads,
-    /// given the nodes in the order in which the text has them. Empty where the field's node is not in it.
-    std::string recordOf(const SoField& field);
+    /// The state of a field: `text`, the value that was left to the ValueSink, if any, and `rest`.
+    struct Record {
+        std::string text;
+        std::string rest;
+    };
+    /// Once the scene is written: the state of a field as it is now, for SceneRecords. Empty where the
+    /// field's node is not in the scene.
+    Record recordOf(const SoField& field);
 
 private:
     enum class Phase { Labels, Nodes, Done };
@@ -73,6 +78,7 @@ private:
     void writeField(const SoField& field);
     void writeMarks(const SoField& field);
     void writeValue(const SoField& field);
+    bool leaveValue(const SoField& field);
     void writeReference(const SoNode* node);
     void writeLabel(const SoNode* node);
     void indent(std::size_t depth);
@@ -84,6 +90,7 @@ private:
     Sink m_sink;
     ValueSink m_longValues;
     std::string m_out;
+    std::string m_recorded; // of a record, up to a value that is left to the sink
     SbString m_value;
     Phase m_phase = Phase::Done;
     const SoNode* m_root = nullptr;

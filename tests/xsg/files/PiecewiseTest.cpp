@@ -347,7 +347,7 @@ TEST_F(SceneRecords, CompleteASceneThatChangedWhileItWasWritten)
             edit();
         xsg::SceneRecords records;
         for (const SoField* field : changes.fields)
-            records.add(writer.recordOf(*field));
+            records.add(writer.recordOf(*field).text);
 
         xsg::SceneReader reader(base);
         reader.keepNodes();
@@ -371,12 +371,11 @@ TEST_F(SceneRecords, ThatAreDamagedAreRefused)
     writer.write(root.get());
     const SoField* connected = root->asGroup()->getChild(1)->asGroup()->getChild(1)->getField("size");
     ASSERT_TRUE(connected && connected->isConnected());
-    const std::string record = writer.recordOf(*connected);
-    EXPECT_EQ(record, "@4 size: 5 !ignored <- @1.width");
+    EXPECT_EQ(writer.recordOf(*connected).text, "@4 size: 5 !ignored <- @1.width");
     SoRef<SoSeparator> elsewhere(new SoSeparator);
     auto* stranger = new SoPoints;
     elsewhere->addChild(stranger);
-    EXPECT_EQ(writer.recordOf(stranger->points), "") << "of a node that is not in the scene";
+    EXPECT_EQ(writer.recordOf(stranger->points).text, "") << "of a node that is not in the scene";
 
     const std::string text = writeInPieces(root.get());
     xsg::SceneReader reader(text);
