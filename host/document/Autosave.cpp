@@ -19,11 +19,12 @@ namespace
 {
 
 constexpr int PauseMs = 3000;
-constexpr int LimitMs = 20000;  // of editing without a pause
-constexpr int RecordMs = 1000;  // from an edit to its record
-constexpr int TurnMs = 8;       // of making records, until the user's events are looked at again
-constexpr int ShortBreakMs = 4; // before it goes on
-constexpr int LeastRatio = 20;  // of a snapshot's pause to the time that one keeps the user waiting
+constexpr int LimitMs = 5000;     // of editing without a pause
+constexpr int MostWaitMs = 20000; // where a snapshot takes long
+constexpr int RecordMs = 1000;    // from an edit to its record
+constexpr int TurnMs = 8;         // of making records, until the user's events are looked at again
+constexpr int ShortBreakMs = 4;   // before it goes on
+constexpr int LeastRatio = 20;    // of a snapshot's pause to the time that one keeps the user waiting
 constexpr int MostInterruptions = 3;
 constexpr qint64 LargestJournal = 16 << 20; // a snapshot takes its place
 
@@ -125,12 +126,12 @@ void Autosave::askForSnapshot()
     m_pending = true;
     startTimer(m_pause, m_pauseMs);
     if (!m_limit.isActive())
-        m_limit.start(m_limitMs);
+        startTimer(m_limit, m_limitMs);
 }
 
 void Autosave::startTimer(QTimer& timer, int ms)
 {
-    const qint64 least = std::min<qint64>(LeastRatio * m_writer.getLastBlockedMs(), m_limitMs);
+    const qint64 least = std::min<qint64>(LeastRatio * m_writer.getLastBlockedMs(), MostWaitMs);
     timer.start(static_cast<int>(std::max<qint64>(ms, least)));
 }
 

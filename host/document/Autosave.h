@@ -34,7 +34,7 @@ public:
     void start();
     /// How long the user must have paused, in milliseconds; 3000 unless set.
     void setPause(int ms) { m_pauseMs = ms; }
-    /// After how long edits without a pause are written too, in milliseconds; 20000 unless set.
+    /// After how long edits without a pause are written too, in milliseconds; 5000 unless set.
     void setLimit(int ms) { m_limitMs = ms; }
     /// The edits continue what another session left: its slot becomes this one's.
     void adopt(std::shared_ptr<RecoverySlot> slot);

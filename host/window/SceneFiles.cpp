@@ -291,9 +291,10 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
                              .arg(origin.title, QString::fromStdString(problem)));
 }
 
-void SceneFiles::keepEdits()
+void SceneFiles::keepEdits(bool withTyping)
 {
-    applyTyping();
+    if (withTyping)
+        applyTyping();
     m_autosave.keepNow();
 }
 

@@ -53,8 +53,9 @@ public:
     bool confirmClose();
     /// False when the user wants to keep unsaved edits.
     bool confirmDiscard();
-    /// Nobody can be asked any more: the next session is to find the unsaved edits.
-    void keepEdits();
+    /// Nobody can be asked any more: the next session is to find the unsaved edits, and what is being typed,
+    /// for which the widgets must be usable.
+    void keepEdits(bool withTyping);
 
 signals:
     void opened(bool good);
