@@ -201,9 +201,9 @@ void Autosave::written(const QString& error)
         return fail(error);
     m_failed = false;
     m_interruptions = 0;
-    if (!takesRecords())
+    m_hasSnapshot = m_changes.isWatching() && !m_changes.isStructureChanged();
+    if (!m_hasSnapshot)
         return;
-    m_hasSnapshot = true;
     m_journal.begin(m_slot->journalPath(), m_snapshotId);
     recordChanges();
 }

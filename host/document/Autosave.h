@@ -73,7 +73,7 @@ private:
     QTimer m_limit{this}; // runs out when the user has not paused for long
     QTimer m_recordTimer{this};
     std::shared_ptr<RecoverySlot> m_slot;
-    SnapshotWriter m_writer;
+    SnapshotWriter m_writer{this};
     EditJournal m_journal;
     ChangedFields m_changes{[this] { structureChanged(); }}; // since the last snapshot began
     QByteArray m_snapshotId;                                 // of the last one that began

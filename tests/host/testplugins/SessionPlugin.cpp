@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QTimer>
@@ -32,9 +33,10 @@ public:
         const QByteArray act = qgetenv("SCOPIX_TEST_ACT");
         if (act == "edit" || act == "logout")
             QObject::connect(SpxServices::getInstance(), &SpxServices::selectedFieldChanged, &m_timer, edit);
-        if (act == "logout")
-            QObject::connect(SpxServices::getInstance(), &SpxServices::selectedFieldChanged, &m_timer,
-                             logout);
+        if (act == "logout") {
+            QObject::connect(&m_timer, &QTimer::timeout, logout);
+            m_timer.start(10);
+        }
         if (act == "count") {
             QObject::connect(SpxServices::getInstance(), &SpxServices::selectedFieldChanged, &m_timer,
                              [this](SoField* field) { m_counted = field; });
@@ -54,14 +56,15 @@ private:
         if (field)
             SpxServices::getInstance()->executeCommand(new SetText(field, "0.5"));
     }
-    // As the session manager does it.
-    static void logout(SoField* field)
+    // As the session manager does it. The edits must then be on the disk, and not by chance.
+    static void logout()
     {
+        const QString kept = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/scopix/recovery");
+        const bool wereKept = QFileInfo::exists(kept);
         char noManager = 0;
-        if (!field)
-            return;
         emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(noManager));
-        std::raise(SIGKILL);
+        if (QFileInfo::exists(kept))
+            std::raise(wereKept ? SIGABRT : SIGKILL);
     }
     void count()
     {
