@@ -175,6 +175,22 @@ void xsg::InstanceList::findVisible(const Frustum& frustum, const std::vector<Re
                   });
 }
 
+void xsg::InstanceList::findPlaces(const std::vector<std::uint32_t>& ofItems, std::vector<Run>& runs) const
+{
+    std::vector<std::uint32_t> places;
+    for (const std::uint32_t i : ofItems) {
+        if (i < m_places.size() && m_places[i] != Nowhere)
+            places.push_back(m_places[i]);
+    }
+    std::sort(places.begin(), places.end());
+    runs.clear();
+    for (const std::uint32_t place : places) {
+        if (runs.empty() || runs.back().end < place)
+            runs.push_back({place, place});
+        runs.back().end = place + 1;
+    }
+}
+
 void xsg::InstanceList::bind(std::uint32_t place)
 {
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());
