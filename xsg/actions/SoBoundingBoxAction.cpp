@@ -105,7 +105,10 @@ void SoBoundingBoxAction::leaveGroup(SoGroup* group)
     closeChildren(*group, m_open.back());
     const SbBox3f box = m_open.back().box;
     m_open.pop_back();
-    xsg::GroupCache::of(*group).setBox(box, *group, xsg::BoxInputs::of(state()));
+    if (isCut()) // what is remembered is the box of the whole group
+        xsg::GroupCache::of(*group).dropBox();
+    else
+        xsg::GroupCache::of(*group).setBox(box, *group, xsg::BoxInputs::of(state()));
     keepChild(box);
 }
 

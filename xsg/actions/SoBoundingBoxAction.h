@@ -19,6 +19,8 @@ public:
     SbBox3f getBox(SoNode* root);
     /// How many nodes the last call looked at.
     using SoTraversal::getNumVisited;
+    /// Whether the scene repeats so much that the last box is that of a part.
+    using SoTraversal::isCut;
 
 private:
     bool wantsGroup(SoGroup* group) override;
