@@ -45,6 +45,13 @@ void xsg::RenderList::clear()
     isPart = false;
 }
 
+void xsg::RenderList::fitMemory()
+{
+    if (items.capacity() > items.size() + items.size() / 8)
+        items.shrink_to_fit();
+    record.fitMemory();
+}
+
 // A group that holds another one twice, and so on level after level, would have thousands drawn in one place.
 void xsg::RenderList::findCopies()
 {

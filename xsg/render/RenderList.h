@@ -39,6 +39,8 @@ struct RenderList {
     std::size_t outOfOrder = 0; // items that have been regrouped since they were sorted
 
     void clear();
+    /// Gives back what the lists of items and of the walk have grown beyond their contents.
+    void fitMemory();
     /// Puts the items that are drawn into their orders.
     void sort();
     /// To be called with the state after a camera: keeps the first one, or the one that is wanted.

@@ -185,8 +185,8 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     drawCallbacks(eye, width, height);
     drawTransparent(changes, frustum, eye);
     drawHighlight(changes, width, height);
-    statistics.shapes = static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() +
-                                                  m_list.copies.size());
+    statistics.shapes =
+        static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
     statistics.stateChanges += m_state.getChanges();
     const Uploads after = countUploads();
     statistics.bufferUploads = after.buffers - before.buffers;

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The line around what is marked, and what drawing costs in software.
+// The line around what is marked.
 #include "Picture.h"
 
 #include <xsg/nodes/properties/SoClipPlane.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
-#include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/transforms/SoTransform.h>
-
-#include <malloc.h>
 
 namespace
 {
@@ -157,36 +154,4 @@ TEST_F(Outline, OfWhatIsOutOfSightCostsNothing)
     const SoPixels plain = draw();
     EXPECT_EQ(drawMarked(far).rgba, plain.rgba);
     EXPECT_EQ(renderer().getRenderer().getStatistics().triangles, 2);
-}
-
-// The rasterizer keeps what it has not filled yet: half a kilobyte a triangle, and more for each edge.
-TEST(SoftwareDrawing, OfManyTrianglesTakesNoMemoryForEach)
-{
-    const auto inUse = [] {
-        const struct mallinfo2 now = mallinfo2();
-        return now.uordblks + now.hblkhd;
-    };
-    constexpr int Cubes = 20'000;
-    SoRef<SoSeparator> root(new SoSeparator);
-    for (int i = 0; i < Cubes; ++i) {
-        auto* group = new SoSeparator;
-        auto* transform = new SoTransform;
-        transform->translation.setValue(3.0F * static_cast<float>(i % 200),
-                                        3.0F * static_cast<float>(i / 200), 0);
-        group->addChild(transform);
-        group->addChild(new SoCube);
-        root->addChild(group);
-    }
-    SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
-    camera->viewAll(SbBox3f(0, 0, -1, 600, 600, 1), 1);
-    SoOffscreenRenderer renderer;
-    renderer.getRenderer().setHighlight(root.get());
-    SoPixels pixels;
-    const SoRef<SoSeparator> nothing(new SoSeparator);
-    ASSERT_TRUE(renderer.render(nothing.get(), camera.get(), 400, 400, pixels)) << renderer.getErrorText();
-    const std::size_t before = inUse();
-    for (int picture = 0; picture < 3; ++picture)
-        ASSERT_TRUE(renderer.render(root.get(), camera.get(), 400, 400, pixels));
-    ASSERT_EQ(renderer.getRenderer().getStatistics().shapes, Cubes);
-    EXPECT_LT(inUse() - before, std::size_t{50} << 20);
 }
