@@ -5,10 +5,8 @@ bool xsg::RenderListUpdater::update(SoNode* root, const RenderView& view)
 {
     const bool isSameView = root->getNodeId() == m_rootId && view.camera == m_view.camera &&
                             (!m_list.isViewDependent || view.eye == m_view.eye);
-    if (isSameView && root->getChangeCount() == m_rootCount) {
-        m_list.fitMemory(); // not while it is built again and again
+    if (isSameView && root->getChangeCount() == m_rootCount)
         return false;
-    }
     m_view = view;
     const bool isPatched = isSameView && m_patcher.patch(root, view);
     if (!isPatched)

@@ -217,8 +217,11 @@ void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
-        if (!m_updater.update(root, {camera, eye}))
+        if (!m_updater.update(root, {camera, eye})) {
+            if (walk == 0)
+                m_updater.fitMemory();
             return;
+        }
         m_sceneEye = m_list.camera ? eyeOf(*m_list.camera) : SbVec3f();
         statistics.nodes += m_updater.getNumVisited();
     }
