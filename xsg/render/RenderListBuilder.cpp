@@ -18,7 +18,7 @@ void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
 {
     m_list.clear();
     m_geometry.releaseAllUsers();
-    m_textures.beginRound();
+    m_textures.beginRound(root->getNodeId());
     m_openGroups.clear();
     m_wantedCamera = view.camera;
     resetState();

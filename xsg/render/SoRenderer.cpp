@@ -77,7 +77,8 @@ class SoRenderer::Impl
 public:
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     void releaseGL();
-    void setImageReader(SoImageReader reader);
+    template <class Reader>
+    void setImageReader(Reader reader);
 
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
@@ -419,7 +420,8 @@ void SoRenderer::Impl::countDrawn(const xsg::GpuGeometry& geometry, std::int64_t
         statistics.triangles += geometry.indexCount / 3 * copies;
 }
 
-void SoRenderer::Impl::setImageReader(SoImageReader reader)
+template <class Reader>
+void SoRenderer::Impl::setImageReader(Reader reader)
 {
     m_textures.setImageReader(std::move(reader));
     m_updater.invalidate();
@@ -500,6 +502,11 @@ void SoRenderer::setHeadlight(bool on)
 }
 
 void SoRenderer::setImageReader(SoImageReader reader)
+{
+    m_impl->setImageReader(std::move(reader));
+}
+
+void SoRenderer::setFittingImageReader(SoFittingImageReader reader)
 {
     m_impl->setImageReader(std::move(reader));
 }

@@ -61,6 +61,10 @@ public:
     /// How this renderer reads the image files of textures, from the next render() on. Null, as at first: by
     /// the library's own reader, which knows portable pixmaps (PGM, PPM). Other renderers are not affected.
     void setImageReader(SoImageReader reader);
+    /// The same for a reader that makes pictures as small as they have to be, without decoding them whole
+    /// first. All pictures of a scene together take no more memory than the preference XSG_PICTURE_MEMORY
+    /// says in MiB, 512 without it: what does not fit is brought down or left out, and an SoError says so.
+    void setFittingImageReader(SoFittingImageReader reader);
 
     /// What the last render() saw and did.
     struct Statistics {
