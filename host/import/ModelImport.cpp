@@ -6,14 +6,32 @@
 #include "model/ModelFile.h"
 #include "model/ModelReadResult.h"
 
+#include <xsg/errors/SoError.h>
+#include <xsg/render/PictureBudget.h>
+
 #include <QDir>
 #include <QFileInfo>
+#include <QProcessEnvironment>
 
 #include <csignal>
 #include <dlfcn.h>
 
 namespace scopix
 {
+
+namespace
+{
+
+// With the preferences that matter to it: in its process nobody else sets them.
+QProcessEnvironment readerEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XSG_PICTURE_MEMORY"),
+                       QString::number(xsg::PictureBudget::preferred().getBytes() / xsg::PictureBudget::MiB));
+    return environment;
+}
+
+} // namespace
 
 QString ModelImport::readerProgram()
 {
@@ -55,6 +73,7 @@ void ModelImport::start(const QString& path)
     m_path = path;
     openDialog(path);
     m_result.open(); // where that fails, the reader says so
+    m_reader.setProcessEnvironment(readerEnvironment());
     m_reader.start(readerProgram(), {path, m_result.fileName()});
 }
 
@@ -92,6 +111,8 @@ void ModelImport::report()
     if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
+    for (const std::string& note : model.notes)
+        SoError::post(note.c_str());
     if (model.error.isEmpty())
         emit finished(buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
     else

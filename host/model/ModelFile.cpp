@@ -143,6 +143,7 @@ bool writeModelFile(const ModelReadResult& model, QIODevice& file)
 {
     QDataStream stream(&file);
     stream << Mark << model.error;
+    write(stream, model.notes);
     write(stream, model.data);
     stream << Mark;
     return stream.status() == QDataStream::Ok;
@@ -154,6 +155,7 @@ bool readModelFile(QIODevice& file, ModelReadResult& model)
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
     stream >> begin >> model.error;
+    read(stream, model.notes);
     read(stream, model.data);
     stream >> end;
     return stream.status() == QDataStream::Ok && stream.atEnd() && begin == Mark && end == Mark &&

@@ -11,7 +11,8 @@ namespace scopix
 /// What reading a model file gave.
 struct ModelReadResult {
     ModelData data;
-    QString error; // one sentence, or empty
+    QString error;                  // one sentence, or empty
+    std::vector<std::string> notes; // sentences about what is not as it is in the file
 };
 
 } // namespace scopix

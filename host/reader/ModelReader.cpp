@@ -5,6 +5,7 @@
 #include "model/ModelFormats.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
+#include "reader/ModelPictures.h"
 #include "reader/ScopedCLocale.h"
 
 #include <assimp/Importer.hpp>
@@ -113,7 +114,9 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
     if (!scene)
         return failed(cannotOpen(path, reasonOf(importer)));
     ModelReadResult result;
-    result.data = fromAssimp(*scene, QFileInfo(path).absolutePath());
+    ModelPictures pictures(*scene, QFileInfo(path).absolutePath(), xsg::PictureBudget::preferred());
+    result.data = fromAssimp(*scene, pictures);
+    result.notes = pictures.getNotes();
     if (!hasTriangles(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
     return result;
