@@ -6,6 +6,7 @@
 #include <support/SoFieldGallery.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/errors/SoReadError.h>
+#include <xsg/files/SceneReader.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
@@ -82,6 +83,7 @@ private:
         m_errors = 0;
         SoRef<SoNode> scene = SoSceneFile::readText(text, "fuzzed.xsg", m_error);
         require(m_errors == (scene ? 0 : 1), "there must be a scene or one error");
+        readInPieces(text, scene.get());
         if (scene)
             return scene;
         const auto lines = 1 + std::count(text.begin(), text.end(), '\n');
@@ -92,6 +94,32 @@ private:
         require(m_error.find('\n') == std::string::npos && m_error.back() == '.',
                 "the error is no single sentence: " + m_error);
         return scene;
+    }
+
+    /// Piece by piece it gives the same.
+    void readInPieces(const std::string& text, SoNode* whole) const
+    {
+        std::size_t at = 0;
+        xsg::SceneReader reader([&](char* to, std::size_t size) {
+            const std::size_t count = std::min({size, 1 + text.size() % 13, text.size() - at});
+            text.copy(to, count, at);
+            at += count;
+            return count;
+        });
+        while (!reader.advance(xsg::SceneReader::Clock::time_point::min())) {
+        }
+        const SoRef<SoNode> scene = reader.takeScene();
+        require(!scene == !whole, "in pieces it is no scene, or only so: " + m_error + reader.getProblem());
+        if (!scene) {
+            const std::string place =
+                std::to_string(reader.getLine()) + ": Column " + std::to_string(reader.getColumn()) + ": ";
+            require(m_error == "fuzzed.xsg:" + place + reader.getProblem() + ".",
+                    "in pieces the error is another one: " + m_error + " " + place + reader.getProblem());
+            return;
+        }
+        const std::string text1 = SoSceneFile::writeText(scene.get());
+        forgetReferences(scene.get());
+        require(text1 == SoSceneFile::writeText(whole), "in pieces it is another scene:\n" + text1);
     }
 
     SoErrorCB* m_callback;

@@ -65,4 +65,9 @@ bool HostApplication::close()
     return m_private->window.close();
 }
 
+void HostApplication::keepEdits(bool withTyping)
+{
+    m_private->window.getFiles().keepEdits(withTyping);
+}
+
 } // namespace scopix

@@ -53,6 +53,10 @@ public:
     /// Closes the window as its user would, who is asked about unsaved edits of a file. False when it stays
     /// open.
     bool close();
+    /// Writes unsaved edits of a file to where the next session finds and offers them, for a program that is
+    /// about to end and can ask nobody. All is on the disk when this returns. `withTyping`: what is being
+    /// typed and was not confirmed counts as an edit, for which the windows must be usable.
+    void keepEdits(bool withTyping = true);
 
 signals:
     /// The user has closed the window, or everything that the command line asks for is done and nobody is

@@ -8,8 +8,17 @@
 #include <QSaveFile>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace scopix
 {
+
+namespace
+{
+
+constexpr qint64 LongestComment = 128;
+
+} // namespace
 
 RecoverySlot::RecoverySlot(const QString& base)
     : m_base(base)
@@ -64,9 +73,20 @@ bool RecoverySlot::setOrigin(const Origin& origin) const
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0 && file.commit();
 }
 
+QByteArray RecoverySlot::getSnapshotId() const
+{
+    QFile file(scenePath());
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(std::max<qint64>(0, file.size() - LongestComment)))
+        return {};
+    const QByteArray start = snapshotComment({}).chopped(1);
+    const QByteArray tail = file.readAll();
+    const int at = tail.lastIndexOf(start);
+    return at >= 0 && tail.endsWith('\n') ? tail.mid(at + start.size()).chopped(1) : QByteArray();
+}
+
 QDateTime RecoverySlot::getTime() const
 {
-    return QFileInfo(scenePath()).lastModified();
+    return std::max(QFileInfo(scenePath()).lastModified(), QFileInfo(journalPath()).lastModified());
 }
 
 void RecoverySlot::remove()

@@ -11,8 +11,8 @@ namespace scopix
 {
 
 /// The files of one session's unsaved edits in a folder that the user's sessions share: a scene file, a file
-/// that says what was edited, and a lock that distinguishes running sessions from crashed ones. GUI thread
-/// only.
+/// that says what was edited, a journal, and a lock that distinguishes running sessions from crashed ones.
+/// GUI thread only.
 class RecoverySlot
 {
 public:
@@ -32,6 +32,11 @@ public:
     ~RecoverySlot() = default;
 
     QString scenePath() const { return m_base + QStringLiteral(".xsg"); }
+    /// Of what was edited after the scene was written.
+    QString journalPath() const { return m_base + QStringLiteral(".journal"); }
+    /// A comment that ends a scene file, by which its journal knows it, and the id in it.
+    static QByteArray snapshotComment(const QByteArray& id) { return "# snapshot " + id + '\n'; }
+    QByteArray getSnapshotId() const;
     Origin getOrigin() const;
     /// False where it cannot be written.
     bool setOrigin(const Origin& origin) const;

@@ -3,7 +3,8 @@
 
 #include "support/CatchExceptions.h"
 
-#include <xsg/files/SoSceneFile.h>
+#include <xsg/fields/SoMFBitMask.h>
+#include <xsg/fields/SoMFEnum.h>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@
 #include <string>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 namespace scopix
 {
@@ -22,6 +24,9 @@ namespace
 {
 
 constexpr std::size_t BlockBytes = 1 << 20; // after each, the thread looks whether it is still wanted
+constexpr auto FirstTime = std::chrono::milliseconds(20); // what takes no longer is written as it is
+constexpr auto TurnTime = std::chrono::milliseconds(8);   // until the user's events are looked at again
+constexpr int PauseMs = 4;                                // before it goes on
 
 QString cannotWrite(const QString& path, const QString& reason)
 {
@@ -35,12 +40,18 @@ QString cannotWrite(const QString& path, const QString& reason)
 class SnapshotWriter::Job : public std::enable_shared_from_this<Job>
 {
 public:
-    Job(SnapshotWriter& writer, const SoNode* root, QString path)
+    Job(SnapshotWriter& writer, QString path, const QByteArray& comment)
         : m_path(std::move(path))
+        , m_comment(comment.toStdString())
         , m_writer(&writer)
     {
-        m_problem = catchExceptions([&] { m_text = SoSceneFile::writeText(root); });
     }
+
+    // --- On the GUI thread, before the other one runs it.
+    void addText(const std::string& text) { m_parts.push_back({text, nullptr}); }
+    /// Text that the thread will make.
+    void addValue(std::shared_ptr<SoField> field) { m_parts.push_back({{}, std::move(field)}); }
+    void setProblem(const QString& problem) { m_problem = problem; }
 
     /// On the thread.
     void run()
@@ -77,18 +88,31 @@ private:
         QSaveFile file(m_path);
         bool good = false;
         unlessCancelled([&] { good = file.open(QIODevice::WriteOnly); });
-        good = good && writeText(file) && file.flush();
+        good = good && writeParts(file) && file.flush();
         if (good)
             fsync(file.handle()); // here, since commit() would do it while the lock is held
         unlessCancelled([&] { good = good && file.commit(); });
         return good ? QString() : file.errorString();
     }
 
-    bool writeText(QSaveFile& file)
+    bool writeParts(QSaveFile& file)
     {
-        for (std::size_t at = 0; at < m_text.size(); at += BlockBytes) {
-            const auto size = static_cast<qint64>(std::min(BlockBytes, m_text.size() - at));
-            if (!unlessCancelled([] {}) || file.write(m_text.data() + at, size) != size)
+        for (Part& part : m_parts) {
+            SbString value;
+            if (part.value)
+                part.value->get(value);
+            if (!writeText(file, part.value ? value.str() : part.text))
+                return false;
+            part = {}; // its memory
+        }
+        return writeText(file, m_comment);
+    }
+
+    bool writeText(QSaveFile& file, const std::string& text)
+    {
+        for (std::size_t at = 0; at < text.size(); at += BlockBytes) {
+            const auto size = static_cast<qint64>(std::min(BlockBytes, text.size() - at));
+            if (!unlessCancelled([] {}) || file.write(text.data() + at, size) != size)
                 return false;
         }
         return true;
@@ -103,8 +127,14 @@ private:
         });
     }
 
+    struct Part {
+        std::string text;
+        std::shared_ptr<SoField> value; // or null
+    };
+
     const QString m_path;
-    std::string m_text;
+    const std::string m_comment;
+    std::vector<Part> m_parts;
     QString m_problem; // of making the text
     std::mutex m_mutex;
     SnapshotWriter* m_writer; // null once cancelled
@@ -120,13 +150,69 @@ SnapshotWriter::~SnapshotWriter()
     cancel();
 }
 
-void SnapshotWriter::write(const SoNode* root, const QString& path)
+void SnapshotWriter::write(const SoNode* root, const QString& path, const QByteArray& comment)
+{
+    m_blockedNs = 0;
+    m_longestNs = 0;
+    m_job = std::make_shared<Job>(*this, path, comment);
+    m_scene =
+        std::make_unique<xsg::SceneWriter>([this](const std::string& text) { m_job->addText(text); },
+                                           [this](const SoField& field) { return takeLongValue(field); });
+    m_scene->begin(root);
+    m_turn.start(PauseMs, this);
+    advance(xsg::SceneWriter::Clock::now() + FirstTime);
+}
+
+void SnapshotWriter::timerEvent(QTimerEvent* /*event*/)
+{
+    advance(xsg::SceneWriter::Clock::now() + TurnTime);
+}
+
+void SnapshotWriter::advance(xsg::SceneWriter::Clock::time_point until)
 {
     QElapsedTimer clock;
     clock.start();
-    m_job = std::make_shared<Job>(*this, root, path);
-    begin(m_job);
-    m_lastBlockedMs = clock.elapsed();
+    bool isText = false;
+    const QString problem = catchExceptions([&] { isText = m_scene->advance(until); });
+    m_job->setProblem(problem);
+    if (isText || !problem.isEmpty()) {
+        m_turn.stop();
+        begin(m_job);
+    }
+    m_blockedNs += clock.nsecsElapsed();
+    m_longestNs = std::max(m_longestNs, clock.nsecsElapsed());
+}
+
+// A copy of the value takes a moment, its text does not. Lists of names need their field's own table of them.
+bool SnapshotWriter::takeLongValue(const SoField& field)
+{
+    if (dynamic_cast<const SoMFEnum*>(&field) || dynamic_cast<const SoMFBitMask*>(&field))
+        return false;
+    const std::shared_ptr<SoTypedObject> object(field.getTypeId().createInstance());
+    const std::shared_ptr<SoField> copy = std::dynamic_pointer_cast<SoField>(object);
+    if (!copy || !copy->copyFrom(field))
+        return false;
+    if (isReading())
+        m_job->addValue(copy);
+    else
+        m_recorded = copy;
+    return true;
+}
+
+FieldRecord SnapshotWriter::recordOf(const SoField& field)
+{
+    xsg::SceneWriter::Record record = m_scene->recordOf(field);
+    return {std::move(record.text), std::move(m_recorded), std::move(record.rest)};
+}
+
+void SnapshotWriter::finishNow()
+{
+    if (!m_job)
+        return;
+    if (m_turn.isActive())
+        advance(xsg::SceneWriter::Clock::time_point::max());
+    m_allThreads.wait();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall); // the thread's report
 }
 
 // A cancelled thread that still runs comes first: both may write to the same file.
@@ -154,6 +240,7 @@ void SnapshotWriter::end(const std::shared_ptr<Job>& job, const QString& error)
 
 void SnapshotWriter::cancel()
 {
+    m_turn.stop();
     if (m_job)
         m_job->cancel();
     m_job.reset();

@@ -6,10 +6,11 @@
 #include "model/ModelFile.h"
 #include "model/ModelReadResult.h"
 
+#include <xsg/render/PictureBudget.h>
+
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
-#include <QProgressDialog>
+#include <QProcessEnvironment>
 
 #include <csignal>
 #include <dlfcn.h>
@@ -20,7 +21,14 @@ namespace scopix
 namespace
 {
 
-constexpr int PatienceMs = 400; // before a dialog opens
+// With the preferences that matter to it: in its process nobody else sets them.
+QProcessEnvironment readerEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XSG_PICTURE_MEMORY"),
+                       QString::number(xsg::PictureBudget::preferred().getBytes() / xsg::PictureBudget::MiB));
+    return environment;
+}
 
 } // namespace
 
@@ -38,8 +46,7 @@ QString ModelImport::readerProgram()
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
-    : QObject(parent)
-    , m_window(window)
+    : FileImport(window, parent)
     , m_reader(this)
 {
     m_reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -63,18 +70,9 @@ ModelImport::~ModelImport()
 void ModelImport::start(const QString& path)
 {
     m_path = path;
-    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
-                                   m_window);
-    m_dialog->setObjectName(QStringLiteral("importProgress"));
-    for (QLabel* label : m_dialog->findChildren<QLabel*>())
-        label->setTextFormat(Qt::PlainText); // a file may have any name
-    m_dialog->setWindowModality(Qt::WindowModal);
-    m_dialog->setMinimumDuration(PatienceMs);
-    m_dialog->setAutoClose(false);
-    m_dialog->setAutoReset(false);
-    m_dialog->setValue(0);
-    connect(m_dialog, &QProgressDialog::canceled, this, &ModelImport::cancel);
+    openDialog(path);
     m_result.open(); // where that fails, the reader says so
+    m_reader.setProcessEnvironment(readerEnvironment());
     m_reader.start(readerProgram(), {path, m_result.fileName()});
 }
 
@@ -84,8 +82,7 @@ void ModelImport::showProgress()
     int percent = 0;
     while (m_reader.canReadLine())
         percent = m_reader.readLine().trimmed().toInt();
-    if (m_dialog)
-        m_dialog->setValue(percent);
+    showPercent(percent);
 }
 
 void ModelImport::cancel()
@@ -113,7 +110,8 @@ void ModelImport::report()
     if (!opened || !readModelFile(result, model))
         model.error = cannotOpen(m_path, whyItEnded());
     end();
-    m_notes = model.notes;
+    for (const std::string& note : model.notes)
+        addNote(QString::fromStdString(note));
     if (model.error.isEmpty())
         emit finished(buildScene(std::move(model.data), QFileInfo(m_path).completeBaseName().toStdString()));
     else
@@ -136,12 +134,7 @@ void ModelImport::end()
     m_reader.disconnect(this);
     m_reader.kill();
     m_reader.waitForFinished(-1); // a killed process ends at once
-    if (!m_dialog)
-        return;
-    m_dialog->disconnect(this);
-    m_dialog->hide();
-    m_dialog->deleteLater();
-    m_dialog = nullptr;
+    closeDialog();
 }
 
 } // namespace scopix

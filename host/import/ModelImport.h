@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "import/FileImport.h"
+
 #include <xsg/nodes/groups/SoSeparator.h>
 
-#include <QObject>
-#include <QPointer>
 #include <QProcess>
 #include <QTemporaryFile>
-
-class QProgressDialog;
-class QWidget;
 
 namespace scopix
 {
 
 /// Reads one model file in a process of its own, so that a file which makes the reader crash, hang or ask for
-/// all memory ends that process and nothing else; shows how far it is once that takes noticeable time. Made
-/// for one file; deleting it ends the process at once. GUI thread only.
-class ModelImport : public QObject
+/// all memory ends that process and nothing else. Deleting it ends the process at once. GUI thread only.
+class ModelImport : public FileImport
 {
     Q_OBJECT
 
@@ -29,18 +25,12 @@ public:
     /// The program that reads models: it belongs to this library and lies in a folder beside it.
     static QString readerProgram();
 
-    void start(const QString& path);
-    /// cancelled() follows at once.
-    void cancel();
-
-    /// Of a model that was read: what of it is left out, a sentence for each kind.
-    const QStringList& notes() const { return m_notes; }
+    void start(const QString& path) override;
+    void cancel() override;
 
 signals:
-    /// Exactly one of the three, once; the first two from the event loop. It is of no more use then.
+    /// From the event loop, as failed().
     void finished(const SoRef<SoSeparator>& scene);
-    void failed(const QString& sentence);
-    void cancelled();
 
 private:
     void showProgress();
@@ -49,12 +39,9 @@ private:
     QString whyItEnded() const;
     void end();
 
-    QWidget* m_window;
     QString m_path;
     QProcess m_reader;
     QTemporaryFile m_result;
-    QPointer<QProgressDialog> m_dialog;
-    QStringList m_notes;
     bool m_hasEnded = false;
 };
 

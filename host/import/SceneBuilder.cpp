@@ -229,12 +229,15 @@ private:
 
     void addTexture(SoSeparator& group, const ModelData::Material& material)
     {
-        if (material.picture < 0 || at(m_model.pictures, material.picture).bytes.empty())
+        if (material.picture < 0)
             return;
         SoRef<SoTexture2>& node = at(m_pictures, material.picture);
-        if (!node)
+        std::vector<unsigned char>& bytes = at(m_model.pictures, material.picture).bytes;
+        if (!node && !bytes.empty())
             node = SoRef<SoTexture2>(makeTexture(at(m_model.pictures, material.picture), material));
-        group.addChild(node.get());
+        std::vector<unsigned char>().swap(bytes); // the node has its own
+        if (node)
+            group.addChild(node.get());
     }
 
     static SoTexture2* makeTexture(const ModelData::Picture& picture, const ModelData::Material& material)

@@ -4,13 +4,13 @@
 
 #include "model/ModelData.h"
 
-class QImage;
+#include <QImage>
 
 namespace scopix
 {
 
 /// 1 component for grey, 3 for colours, 4 where it lets something through; empty for a null image. Has no
 /// name.
-ModelData::Picture toPicture(const QImage& image);
+ModelData::Picture toPicture(QImage image);
 
 } // namespace scopix

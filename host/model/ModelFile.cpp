@@ -145,7 +145,8 @@ bool isConsistent(const ModelData& model)
 bool writeModelFile(const ModelReadResult& model, QIODevice& file)
 {
     QDataStream stream(&file);
-    stream << Mark << model.error << model.notes.join(QLatin1Char('\n'));
+    stream << Mark << model.error;
+    write(stream, model.notes);
     write(stream, model.data);
     stream << Mark;
     return stream.status() == QDataStream::Ok;
@@ -156,9 +157,8 @@ bool readModelFile(QIODevice& file, ModelReadResult& model)
     QDataStream stream(&file);
     std::uint32_t begin = 0;
     std::uint32_t end = 0;
-    QString notes; // as one text, since a list's wrong count would ask for memory that is not there
-    stream >> begin >> model.error >> notes;
-    model.notes = notes.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    stream >> begin >> model.error;
+    read(stream, model.notes);
     read(stream, model.data);
     stream >> end;
     return stream.status() == QDataStream::Ok && stream.atEnd() && begin == Mark && end == Mark &&

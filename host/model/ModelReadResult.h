@@ -11,8 +11,8 @@ namespace scopix
 /// What reading a model file gave.
 struct ModelReadResult {
     ModelData data;
-    QString error;     // one sentence, or empty
-    QStringList notes; // one sentence for each kind of thing in the file that the data has not
+    QString error;                  // one sentence, or empty
+    std::vector<std::string> notes; // sentences about what is left out, or not as it is in the file
 };
 
 } // namespace scopix

@@ -1,17 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "reader/AssimpMaterial.h"
 
-#include "model/ImageConversion.h"
+#include "reader/ModelPictures.h"
 
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
-#include <assimp/scene.h>
-
-#include <QDir>
-#include <QFileInfo>
-#include <QImage>
-#include <QImageReader>
-#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -101,49 +94,9 @@ bool findTexture(const aiMaterial& material, TextureUse& use)
     return false;
 }
 
-QImage decode(const aiTexture& texture)
-{
-    if (texture.mHeight == 0) // a whole picture file
-        return QImage::fromData(reinterpret_cast<const uchar*>(texture.pcData),
-                                static_cast<int>(texture.mWidth));
-    const QImage pixels(reinterpret_cast<const uchar*>(texture.pcData), static_cast<int>(texture.mWidth),
-                        static_cast<int>(texture.mHeight), QImage::Format_ARGB32);
-    return pixels.copy();
-}
-
-QImage readBeside(const QString& folder, const QString& name)
-{
-    // Exporters write other systems' separators, absolute paths of other machines, or URLs.
-    QString plain = QUrl::fromPercentEncoding(name.toUtf8());
-    plain.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    for (const QString& candidate : {name, plain, QFileInfo(plain).fileName()}) {
-        const QString path = QDir(folder).filePath(candidate);
-        if (!candidate.isEmpty() && QFileInfo(path).isFile())
-            return QImageReader(path).read();
-    }
-    return {};
-}
-
-int addPicture(const aiString& path, const aiScene& scene, const QString& folder, ModelData& model)
-{
-    const std::string name = path.C_Str();
-    const auto known = std::find_if(model.pictures.begin(), model.pictures.end(),
-                                    [&](const ModelData::Picture& p) { return p.name == name; });
-    if (known == model.pictures.end()) {
-        const aiTexture* embedded = scene.GetEmbeddedTexture(path.C_Str());
-        const QImage image =
-            embedded ? decode(*embedded) : readBeside(folder, QString::fromUtf8(path.C_Str()));
-        model.pictures.push_back(toPicture(image));
-        model.pictures.back().name = name; // one that cannot be read stays empty, and is not tried again
-        return static_cast<int>(model.pictures.size()) - 1;
-    }
-    return static_cast<int>(known - model.pictures.begin());
-}
-
 } // namespace
 
-ModelData::Material fromAssimp(const aiMaterial& material, const aiScene& scene, const QString& folder,
-                               ModelData& model)
+ModelData::Material fromAssimp(const aiMaterial& material, ModelPictures& pictures)
 {
     ModelData::Material result;
     aiString name;
@@ -160,7 +113,7 @@ ModelData::Material fromAssimp(const aiMaterial& material, const aiScene& scene,
     result.transparency = transparencyOf(material);
     TextureUse use;
     if (findTexture(material, use)) {
-        result.picture = addPicture(use.path, scene, folder, model);
+        result.picture = pictures.add(use.path.C_Str());
         result.clampS = use.mode[0] == aiTextureMapMode_Clamp;
         result.clampT = use.mode[1] == aiTextureMapMode_Clamp;
     }

@@ -2,6 +2,7 @@
 #include "reader/AssimpModel.h"
 
 #include "reader/AssimpMaterial.h"
+#include "reader/ModelPictures.h"
 
 #include <assimp/commonMetaData.h>
 #include <assimp/scene.h>
@@ -239,13 +240,14 @@ private:
 
 } // namespace
 
-ModelData fromAssimp(const aiScene& scene, const QString& folder)
+ModelData fromAssimp(const aiScene& scene, ModelPictures& pictures)
 {
     ModelData model;
     for (unsigned i = 0; i < scene.mNumMeshes; ++i)
         model.meshes.push_back(toMesh(*scene.mMeshes[i]));
     for (unsigned i = 0; i < scene.mNumMaterials; ++i)
-        model.materials.push_back(fromAssimp(*scene.mMaterials[i], scene, folder, model));
+        model.materials.push_back(fromAssimp(*scene.mMaterials[i], pictures));
+    model.pictures = pictures.takePictures();
     if (scene.mRootNode)
         NodeCollector(scene, model).collect();
     return model;

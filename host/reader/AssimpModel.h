@@ -4,14 +4,13 @@
 
 #include "model/ModelData.h"
 
-#include <QString>
-
 struct aiScene;
 
 namespace scopix
 {
 
-/// `folder`: where the model's file is, for pictures beside it.
-ModelData fromAssimp(const aiScene& scene, const QString& folder);
+class ModelPictures;
+
+ModelData fromAssimp(const aiScene& scene, ModelPictures& pictures);
 
 } // namespace scopix

@@ -6,6 +6,7 @@
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
 #include "reader/LeftOut.h"
+#include "reader/ModelPictures.h"
 #include "reader/ScopedCLocale.h"
 
 #include <assimp/DefaultIOSystem.h>
@@ -149,16 +150,6 @@ void giveFacesToPoints(aiMesh& mesh)
     }
 }
 
-QStringList emptyPictures(const ModelData& model)
-{
-    QStringList names;
-    for (const ModelData::Picture& picture : model.pictures) {
-        if (picture.bytes.empty())
-            names += QString::fromStdString(picture.name);
-    }
-    return names;
-}
-
 const aiScene* read(Assimp::Importer& importer, const QString& path)
 {
     // The importer owns the scene and hands it out to be read; in between its steps nobody else does.
@@ -183,11 +174,14 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
     if (!scene)
         return failed(cannotOpen(path, reasonOf(importer, path)));
     ModelReadResult result;
-    result.data = fromAssimp(*scene, QFileInfo(path).absolutePath());
+    ModelPictures pictures(*scene, QFileInfo(path).absolutePath(), xsg::PictureBudget::preferred());
+    result.data = fromAssimp(*scene, pictures);
+    result.notes = pictures.getNotes();
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
-    result.notes = partsLeftOut(*scene) + missingMaterialFiles(missingFiles) +
-                   missingPictures(emptyPictures(result.data));
+    for (const QString& note :
+         partsLeftOut(*scene) + missingMaterialFiles(missingFiles) + missingPictures(pictures.getUnread()))
+        result.notes.push_back(note.toStdString());
     return result;
 }
 

@@ -59,7 +59,7 @@ public:
 
     QString reason() const
     {
-        if (m_isSeen || getNumVisited() >= MostVisits)
+        if (m_isSeen || isCut())
             return {};
         if (!m_hasShapes)
             return tr("it has no shapes that are drawn");

@@ -25,6 +25,8 @@ constexpr float WheelStep = 0.85F; // per notch of 120
 constexpr int TickMs = 16;         // between pictures of something that moves with time
 // What a key does, as part of the picture's height; turning, that is half a turn.
 constexpr float KeyStep = 1.0F / 12;
+// Of the line around what is selected, in pixels of the screen at a density of 1.
+constexpr float LineThickness = 2;
 
 } // namespace
 
@@ -160,6 +162,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     renderer.setWireframe(m_wireframe);
     renderer.setHighlightedNumber(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
+    renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
     return {m_root.get(), &m_camera.get()};
 }
 

@@ -2,6 +2,7 @@
 #include "viewport/TextureImageLoader.h"
 
 #include "model/ImageConversion.h"
+#include "model/PictureReading.h"
 
 #include <xsg/fields/SoSFImage.h>
 
@@ -11,21 +12,10 @@
 namespace scopix
 {
 
-namespace
-{
-
-// A file of a few bytes can announce a picture that no memory holds.
-constexpr qint64 MostPixels = qint64{1} << 28;
-
-} // namespace
-
-bool TextureImageLoader::read(const char* path, SoSFImage& image)
+bool TextureImageLoader::read(const char* path, const SoImageFit& fit, SoSFImage& image)
 {
     QImageReader reader(QFile::decodeName(path));
-    const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > MostPixels)
-        return false;
-    const ModelData::Picture picture = toPicture(reader.read());
+    const ModelData::Picture picture = toPicture(readPicture(reader, fit));
     if (picture.bytes.empty())
         return false;
     image.setValue(picture.width, picture.height, picture.components, picture.bytes.data());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-class SoSFImage;
+#include <xsg/render/SoImageReader.h>
 
 namespace scopix
 {
@@ -10,9 +10,9 @@ namespace scopix
 namespace TextureImageLoader
 {
 
-/// An SoImageReader, for the renderers of the host's own views and pictures. False, and the image untouched,
-/// where the file cannot be read. Any thread.
-bool read(const char* path, SoSFImage& image);
+/// An SoFittingImageReader, for the renderers of the host's own views and pictures. False, and the image
+/// untouched, where the file cannot be read or there is no room for it. Any thread.
+bool read(const char* path, const SoImageFit& fit, SoSFImage& image);
 
 } // namespace TextureImageLoader
 

@@ -47,7 +47,7 @@ public:
         , m_prepare(std::move(prepare))
         , m_drawn(std::move(drawn))
     {
-        m_renderer.setImageReader(TextureImageLoader::read);
+        m_renderer.setFittingImageReader(TextureImageLoader::read);
         setFormat(surfaceFormat());
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -105,7 +105,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_OpaquePaintEvent);
         m_renderer.setSamples(Samples);
-        m_renderer.getRenderer().setImageReader(TextureImageLoader::read);
+        m_renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
     }
 
     QWidget* getWidget() override { return this; }

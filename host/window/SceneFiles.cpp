@@ -2,6 +2,7 @@
 #include "window/SceneFiles.h"
 
 #include "import/ModelImport.h"
+#include "import/SceneImport.h"
 #include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
@@ -10,8 +11,6 @@
 #include "undo/TextInput.h"
 #include "viewport/NothingToSee.h"
 #include "window/DefaultScene.h"
-
-#include <xsg/files/SoSceneFile.h>
 
 #include <QApplication>
 #include <QFile>
@@ -32,14 +31,6 @@ QString nameFilter()
     for (const QString& ending : SceneDocument::fileExtensions())
         patterns << QStringLiteral("*.") + ending;
     return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
-}
-
-SoRef<SoNode> readScene(const QString& path, QString& error)
-{
-    std::string sentence;
-    SoRef<SoNode> scene = SoSceneFile::read(QFile::encodeName(path).toStdString(), sentence);
-    error = QString::fromStdString(sentence);
-    return scene;
 }
 
 } // namespace
@@ -64,36 +55,33 @@ void SceneFiles::open(const QString& path)
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
         return reportFailure(error);
-    if (QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding())
-        openScene(path);
-    else
-        importModel(path);
-}
-
-void SceneFiles::openScene(const QString& path)
-{
-    QString error;
-    const SoRef<SoNode> scene = readScene(path, error);
-    if (scene)
-        show(scene.get(), path);
-    else
-        reportFailure(error);
-}
-
-void SceneFiles::importModel(const QString& path)
-{
-    auto* import = new ModelImport(&m_window, this);
+    const bool isScene = QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding();
+    FileImport* import = isScene ? importScene(path) : importModel(path);
     m_import = import;
-    connect(import, &ModelImport::finished, this,
-            [this, path](const SoRef<SoSeparator>& scene) { modelRead(scene.get(), path); });
-    connect(import, &ModelImport::failed, this, &SceneFiles::reportFailure);
-    connect(import, &ModelImport::cancelled, this, [this, path] { cancelled(path); });
+    connect(import, &FileImport::failed, this, &SceneFiles::reportFailure);
+    connect(import, &FileImport::cancelled, this, [this, path] { cancelled(path); });
     import->start(path);
 }
 
-void SceneFiles::modelRead(SoNode* root, const QString& path)
+FileImport* SceneFiles::importScene(const QString& path)
 {
-    // The user may have continued to edit while the model was read.
+    auto* import = new SceneImport(&m_window, this);
+    connect(import, &SceneImport::finished, this,
+            [this, path](const SoRef<SoNode>& scene) { fileRead(scene.get(), path); });
+    return import;
+}
+
+FileImport* SceneFiles::importModel(const QString& path)
+{
+    auto* import = new ModelImport(&m_window, this);
+    connect(import, &ModelImport::finished, this,
+            [this, path](const SoRef<SoSeparator>& scene) { fileRead(scene.get(), path); });
+    return import;
+}
+
+void SceneFiles::fileRead(SoNode* root, const QString& path)
+{
+    // The user may have continued to edit while the file was read.
     if (m_document.getEditCount() == m_droppable || confirmDiscard())
         show(root, path, m_import ? m_import->notes() : QStringList());
     else
@@ -285,14 +273,42 @@ void SceneFiles::offerRecovery()
 
 void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
 {
-    QString error;
-    const SoRef<SoNode> scene = readScene(slot->scenePath(), error);
-    if (!scene)
-        return m_notifier.error(error);
+    auto* import = new SceneImport(&m_window, this);
+    m_import = import;
+    import->keepNodes();
+    // Where it is not recovered, the slot stays for another session.
+    const std::shared_ptr<RecoverySlot> kept = std::move(slot);
+    connect(import, &FileImport::failed, this, [this, kept](const QString& sentence) {
+        forgetImport();
+        m_notifier.error(sentence);
+    });
+    connect(import, &FileImport::cancelled, this, &SceneFiles::forgetImport);
+    connect(import, &SceneImport::finished, this,
+            [this, kept](const SoRef<SoNode>& scene, const std::vector<SoNode*>& nodes) {
+                recovered(scene.get(), nodes, kept);
+            });
+    import->start(kept->scenePath());
+}
+
+void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
+                           const std::shared_ptr<RecoverySlot>& slot)
+{
+    forgetImport();
+    const std::string problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
     const RecoverySlot::Origin origin = slot->getOrigin();
-    m_document.beginModified(scene.get(), origin.path, origin.title);
-    m_autosave.adopt(std::move(slot));
+    m_document.beginModified(scene, origin.path, origin.title);
+    m_autosave.adopt(slot);
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
+    if (!problem.empty())
+        m_notifier.error(tr("The last changes to “%1” could not be recovered: %2")
+                             .arg(origin.title, QString::fromStdString(problem)));
+}
+
+void SceneFiles::keepEdits(bool withTyping)
+{
+    if (withTyping)
+        applyTyping();
+    m_autosave.keepNow();
 }
 
 } // namespace scopix

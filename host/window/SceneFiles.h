@@ -13,7 +13,7 @@ namespace scopix
 
 class HostServices;
 class UserNotifier;
-class ModelImport;
+class FileImport;
 
 /// What the user does with files: opens and saves scenes, imports models, asks before unsaved edits are
 /// dropped, and recovers those of a session that crashed. Questions open over the window. GUI thread only.
@@ -53,6 +53,9 @@ public:
     bool confirmClose();
     /// False when the user wants to keep unsaved edits.
     bool confirmDiscard();
+    /// Nobody can be asked any more: the next session is to find the unsaved edits, and what is being typed,
+    /// for which the widgets must be usable.
+    void keepEdits(bool withTyping);
 
 signals:
     void opened(bool good);
@@ -60,22 +63,24 @@ signals:
 private:
     bool askWhetherToDrop();
     void applyTyping();
-    void openScene(const QString& path);
-    void importModel(const QString& path);
-    void modelRead(SoNode* root, const QString& path);
+    FileImport* importScene(const QString& path);
+    FileImport* importModel(const QString& path);
+    void fileRead(SoNode* root, const QString& path);
     void show(SoNode* root, const QString& path, const QStringList& notes = {});
     void reportFailure(const QString& sentence);
     void forgetImport();
     void cancelled(const QString& path);
     void offerRecovery();
     void recover(std::unique_ptr<RecoverySlot> slot);
+    void recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
+                   const std::shared_ptr<RecoverySlot>& slot);
 
     QWidget& m_window;
     UserNotifier& m_notifier;
     SceneDocument m_document;
     RecentFiles m_recent;
     Autosave m_autosave;
-    QPointer<ModelImport> m_import;
+    QPointer<FileImport> m_import;
     quint64 m_droppable = 0; // the edit count up to which the user agreed to lose edits
 };
 

@@ -27,16 +27,40 @@ void passOthers(ChildBoxes& children, std::size_t end)
 
 SbBox3f SoBoundingBoxAction::getBox(SoNode* root)
 {
+    prepare();
+    if (root)
+        traverse(root);
+    count();
+    return m_open.front().box;
+}
+
+void SoBoundingBoxAction::begin(SoNode* root)
+{
+    prepare();
+    SoTraversal::begin(root);
+}
+
+bool SoBoundingBoxAction::advance(std::chrono::steady_clock::time_point until)
+{
+    const bool isDone = SoTraversal::advance(until);
+    if (isDone)
+        count();
+    return isDone;
+}
+
+void SoBoundingBoxAction::prepare()
+{
     resetState();
     state().chooseAll = true;
     m_open.clear();
     m_open.emplace_back();
     m_hits = m_misses = 0;
-    if (root)
-        traverse(root);
+}
+
+void SoBoundingBoxAction::count() const
+{
     xsg::feeds.boxHits.add(m_hits);
     xsg::feeds.boxMisses.add(m_misses);
-    return m_open.front().box;
 }
 
 bool SoBoundingBoxAction::wantsGroup(SoGroup* group)
@@ -105,7 +129,10 @@ void SoBoundingBoxAction::leaveGroup(SoGroup* group)
     closeChildren(*group, m_open.back());
     const SbBox3f box = m_open.back().box;
     m_open.pop_back();
-    xsg::GroupCache::of(*group).setBox(box, *group, xsg::BoxInputs::of(state()));
+    if (isCut()) // what is remembered is the box of the whole group
+        xsg::GroupCache::of(*group).dropBox();
+    else
+        xsg::GroupCache::of(*group).setBox(box, *group, xsg::BoxInputs::of(state()));
     keepChild(box);
 }
 

@@ -17,10 +17,18 @@ class XSG_API SoBoundingBoxAction : private SoTraversal
 public:
     /// In the coordinates the root stands in; empty where there is nothing to see.
     SbBox3f getBox(SoNode* root);
+    /// The same in pieces, between which the scene must stay as it is: advance() returns true when the box is
+    /// known, or else when the time is up.
+    void begin(SoNode* root);
+    bool advance(std::chrono::steady_clock::time_point until);
     /// How many nodes the last call looked at.
     using SoTraversal::getNumVisited;
+    /// Whether the scene repeats so much that the last box is that of a part.
+    using SoTraversal::isCut;
 
 private:
+    void prepare();
+    void count() const;
     bool wantsGroup(SoGroup* group) override;
     void enterGroup(SoGroup* group) override;
     void leaveGroup(SoGroup* group) override;

@@ -2,6 +2,7 @@
 #include <xsg/actions/SoTraversal.h>
 
 #include <xsg/actions/GroupCache.h>
+#include <xsg/actions/RepeatBound.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 namespace
@@ -50,20 +51,66 @@ void SoTraversal::visitProperty(SoNode* /*node*/) {}
 
 void SoTraversal::traverse(SoNode* root)
 {
+    begin(root);
+    while (!m_frames.empty() && !m_stopped)
+        step();
+    end();
+}
+
+bool SoTraversal::advance(std::chrono::steady_clock::time_point until)
+{
+    constexpr int StepsBetweenLooks = 64; // at the clock
+    for (int steps = 1; !m_frames.empty() && !m_stopped; ++steps) {
+        step();
+        if (steps % StepsBetweenLooks == 0 && std::chrono::steady_clock::now() >= until)
+            return false;
+    }
+    end();
+    return true;
+}
+
+void SoTraversal::begin(SoNode* root)
+{
+    m_root = root;
     m_frames.clear();
     m_savedCount = 0;
     m_plans.clear();
     m_hasNewPlan = false;
     m_stopped = false;
     m_visited = 0;
+    m_met.clear();
+    m_repeating = 0;
+    m_repeats = 0;
+    m_isCut = false;
     visit(root);
-    while (!m_frames.empty() && !m_stopped && m_visited < MostVisits) {
-        Frame& frame = m_frames.back();
-        if (goToNextChild(frame))
-            visit(frame.group->getChildren()[static_cast<std::size_t>(frame.child)]);
-        else
-            closeGroup();
-    }
+}
+
+void SoTraversal::step()
+{
+    Frame& frame = m_frames.back();
+    if (goToNextChild(frame))
+        visit(frame.group->getChildren()[static_cast<std::size_t>(frame.child)]);
+    else
+        closeGroup();
+}
+
+void SoTraversal::end()
+{
+    if (m_isCut)
+        xsg::reportRepeats(*m_root);
+}
+
+bool SoTraversal::mayVisit()
+{
+    if (m_repeating == 0)
+        return true;
+    m_isCut = m_isCut || m_repeats == MostRepeats;
+    return !m_isCut && ++m_repeats > 0;
+}
+
+bool SoTraversal::hasMet(const SoGroup* group)
+{
+    return group->getParents().size() > 1 && !m_met.insert(group).second;
 }
 
 bool SoTraversal::goToNextChild(Frame& frame)
@@ -90,6 +137,8 @@ void SoTraversal::visitOnly(std::vector<std::uint32_t> places)
 
 void SoTraversal::visit(SoNode* node)
 {
+    if (!mayVisit())
+        return;
     ++m_visited;
     if (SoGroup* group = node->asGroup()) {
         openGroup(group);
@@ -112,13 +161,16 @@ void SoTraversal::openGroup(SoGroup* group)
     const SoChildRange range = group->getChosenChildren(m_state);
     enterGroup(group);
     const bool isPlanned = std::exchange(m_hasNewPlan, false);
-    m_frames.push_back({group, range.first - 1, range.last, isolates, isPlanned ? 0 : NoPlan});
+    const bool repeats = hasMet(group);
+    m_repeating += repeats ? 1 : 0;
+    m_frames.push_back({group, range.first - 1, range.last, isolates, repeats, isPlanned ? 0 : NoPlan});
 }
 
 void SoTraversal::closeGroup()
 {
     const Frame frame = m_frames.back();
     m_frames.pop_back();
+    m_repeating -= frame.repeats ? 1 : 0;
     if (frame.planned != NoPlan)
         m_plans.pop_back();
     if (frame.isolates)

@@ -4,6 +4,9 @@
 #include <xsg/nodes/base/SoState.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
+#include <chrono>
+#include <unordered_set>
+
 class SoShape;
 
 /// Walks a scene in order and carries the state along: the base of everything that looks at a whole scene. A
@@ -18,9 +21,15 @@ public:
     virtual ~SoTraversal();
 
     /// The scene must not change until it returns. A short file of groups that share groups, level after
-    /// level, can unfold to more visits than any computer could finish: the walk ends after MostVisits.
+    /// level, can unfold to more visits than any computer could finish: after MostRepeats visits below groups
+    /// that the walk has met before, such groups are left empty. An SoError says so, once for each root.
     void traverse(SoNode* root);
-    static constexpr int MostVisits = 1 << 22;
+    /// The same in pieces: advance() returns true when the walk is over, or else when the time is up.
+    void begin(SoNode* root);
+    bool advance(std::chrono::steady_clock::time_point until);
+    static constexpr int MostRepeats = 1 << 20;
+    /// Whether that happened to the last walk, or has happened to this one so far.
+    bool isCut() const { return m_isCut; }
 
 protected:
     /// Before a group, with the state as it is there; false skips the group and leaves the state.
@@ -40,6 +49,8 @@ protected:
     /// Ends the walk; groups that are open are not left.
     void stop() { m_stopped = true; }
     int getNumVisited() const { return m_visited; }
+    /// Whether the present node stands below a group that the walk has met before.
+    bool isRepeating() const { return m_repeating > 0; }
 
     /// A group on the way to the present node, and the child that is visited.
     struct Frame {
@@ -47,19 +58,25 @@ protected:
         int child;
         int end;
         bool isolates;
+        bool repeats;        // the walk has met it before
         std::size_t planned; // of the places to visit, those that were; NoPlan: all are visited
     };
     const std::vector<Frame>& getFrames() const { return m_frames; }
 
 private:
     static constexpr std::size_t NoPlan = static_cast<std::size_t>(-1);
+    void step();
+    void end();
     void visit(SoNode* node);
+    bool mayVisit();
+    bool hasMet(const SoGroup* group);
     bool goToNextChild(Frame& frame);
     void openGroup(SoGroup* group);
     void closeGroup();
     void saveState();
     void restoreState();
 
+    SoNode* m_root = nullptr;
     SoState m_state;
     std::vector<SoState> m_saved; // the first m_savedCount count
     std::size_t m_savedCount = 0;
@@ -68,4 +85,8 @@ private:
     bool m_hasNewPlan = false;
     bool m_stopped = false;
     int m_visited = 0;
+    std::unordered_set<const SoGroup*> m_met; // of the groups with several parents
+    int m_repeating = 0;                      // open groups that were met before
+    int m_repeats = 0;                        // visits below such groups
+    bool m_isCut = false;
 };

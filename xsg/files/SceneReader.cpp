@@ -7,12 +7,21 @@
 #include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <algorithm>
+#include <functional>
+#include <system_error>
 
 namespace
 {
 
 // How much of a wrong text an error shows.
 constexpr std::size_t ShownLength = 40;
+// What some editors put before a text.
+constexpr std::string_view ByteOrderMark = "\xef\xbb\xbf";
+// Longer values are read by another thread, as far as the reader is given little time.
+constexpr std::size_t LongValue = std::size_t{1} << 20U;
+// The text of a value is in memory as a whole.
+constexpr std::size_t LongestValue = std::size_t{1} << 30U;
+constexpr std::size_t LargestPiece = std::size_t{16} << 20U;
 
 std::string shown(std::string_view text)
 {
@@ -25,10 +34,14 @@ std::string quoted(std::string_view text)
     return "\"" + shown(text) + "\"";
 }
 
-// A node of an unknown type has whatever field a file names.
-SoField* fieldOf(SoNode* node, std::string_view name)
+std::string typeOf(const SoNode& node)
 {
-    const SbName fieldName{SbString(name)};
+    return node.getTypeId().getName().getString();
+}
+
+// A node of an unknown type has whatever field a file names.
+SoField* fieldOf(SoNode* node, SbName fieldName)
+{
     auto* unknown =
         node->getTypeId() == SoUnknownNode::getClassTypeId() ? static_cast<SoUnknownNode*>(node) : nullptr;
     return unknown ? unknown->addField(fieldName) : node->getField(fieldName);
@@ -42,34 +55,33 @@ bool isOfNodes(const SoField& field)
 
 } // namespace
 
-int xsg::SceneReader::getLine() const
+xsg::SceneReader::~SceneReader()
 {
-    const auto end = m_text.begin() + static_cast<std::ptrdiff_t>(std::min(m_problemAt, m_text.size()));
-    return 1 + static_cast<int>(std::count(m_text.begin(), end, '\n'));
-}
-
-int xsg::SceneReader::getColumn() const
-{
-    const std::size_t end = std::min(m_problemAt, m_text.size());
-    const std::size_t newline = end == 0 ? std::string_view::npos : m_text.rfind('\n', end - 1);
-    return static_cast<int>(newline == std::string_view::npos ? end + 1 : end - newline);
+    abandon();
 }
 
 bool xsg::SceneReader::fail(std::size_t at, std::string problem)
 {
-    m_problemAt = at;
+    if (m_text.isCutShort() && m_phase != Phase::FirstLine)
+        return failAt(m_text.placeOf(m_text.getEnd()),
+                      "a byte 0 stands here, which a text has not: the file is damaged, or no scene");
+    return failAt(m_text.placeOf(at), std::move(problem));
+}
+
+bool xsg::SceneReader::failAt(Place place, std::string problem)
+{
+    m_problemPlace = place;
     m_problem = std::move(problem);
     return false;
 }
 
 void xsg::SceneReader::skipBlanks()
 {
-    while (!atEnd()) {
-        if (peek() == '#')
-            m_at = std::min(m_text.find('\n', m_at), m_text.size());
-        else if (xsg::TextReader::isBlank(peek()))
-            ++m_at;
-        else
+    bool inComment = false;
+    for (; !atEnd(); ++m_at) {
+        const char c = peek();
+        inComment = c != '\n' && (inComment || c == '#');
+        if (!inComment && !xsg::TextReader::isBlank(c))
             return;
     }
 }
@@ -83,59 +95,152 @@ bool xsg::SceneReader::accept(char c)
     return true;
 }
 
-std::string_view xsg::SceneReader::readWord()
+std::string xsg::SceneReader::readWord()
 {
     const std::size_t start = m_at;
     while (!atEnd() && xsg::TextReader::isWordByte(peek()))
         ++m_at;
-    return m_text.substr(start, m_at - start);
+    return std::string(m_text.from(start).substr(0, m_at - start));
 }
 
 bool xsg::SceneReader::readQuoted(std::string& out)
 {
-    xsg::TextReader reader(m_text.substr(m_at));
-    const std::size_t start = m_at;
+    ValueScan scan;
+    const auto open = [&] { return scan.getOpen() != std::string_view::npos; };
+    while (!scan.advance(m_text.from(m_at)) && open() && m_text.load()) {
+    }
+    xsg::TextReader reader(m_text.from(m_at));
     if (!reader.readQuoted(out))
-        return fail(start,
-                    "the text in quotes that starts here has no end, or an escape that does not exist");
-    m_at = m_text.size() - reader.rest().size();
+        return fail(m_at, "the text in quotes that starts here has no end, or an escape that does not exist");
+    m_at = m_text.getEnd() - reader.rest().size();
     return true;
+}
+
+std::string xsg::SceneReader::quotedFrom(std::size_t at)
+{
+    m_text.has(at + ShownLength);
+    return quoted(m_text.from(at));
+}
+
+bool xsg::SceneReader::advance(Clock::time_point until)
+{
+    m_until = until;
+    while (m_phase != Phase::Done && !isWaiting()) {
+        if (!step()) {
+            forgetReferences();
+            m_phase = Phase::Done;
+        }
+        if (Clock::now() >= until)
+            break;
+    }
+    return m_phase == Phase::Done;
+}
+
+bool xsg::SceneReader::isWaiting()
+{
+    return m_pending && m_pending->isRead.valid() && m_until != Clock::time_point::max() &&
+           m_pending->isRead.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+// False on an error.
+bool xsg::SceneReader::step()
+{
+    switch (m_phase) {
+    case Phase::FirstLine:
+        return readFirstLine();
+    case Phase::Items:
+        return readItems();
+    case Phase::References: // a field may refer to a node that comes later, so all references are made now
+        return nextOf(m_nodeValues, Phase::Sources, &SceneReader::resolve);
+    case Phase::Sources: // and so are all connections
+        return nextOf(m_connections, Phase::Order, &SceneReader::findSource);
+    case Phase::Order:
+        return nextOf(m_connections, Phase::Connections, &SceneReader::orderSourcesFirst);
+    case Phase::Connections:
+        return nextOf(m_sourcesFirst, Phase::Values, &SceneReader::connect);
+    case Phase::Values:
+        return nextOf(m_connections, Phase::Done, &SceneReader::restoreValue);
+    case Phase::Done:
+        break;
+    }
+    return true;
+}
+
+template <class Items, class Act>
+bool xsg::SceneReader::nextOf(Items& items, Phase after, Act act)
+{
+    if (m_next < items.size())
+        return std::invoke(act, *this, items[m_next++]);
+    m_next = 0;
+    m_phase = after;
+    return true;
+}
+
+SoRef<SoNode> xsg::SceneReader::takeScene()
+{
+    return m_problem.empty() ? std::move(m_root) : nullptr;
+}
+
+SoRef<SoNode> xsg::SceneReader::read()
+{
+    advance(Clock::time_point::max());
+    return takeScene();
+}
+
+std::vector<SoRef<SoNode>> xsg::SceneReader::abandon()
+{
+    if (m_phase != Phase::Done || m_root)
+        forgetReferences();
+    m_phase = Phase::Done;
+    m_pending.reset();
+    m_labels.clear();
+    std::vector<SoRef<SoNode>> nodes;
+    for (OpenNode& open : m_open)
+        nodes.push_back(std::move(open.node));
+    m_open.clear();
+    if (m_root)
+        nodes.push_back(std::move(m_root));
+    return nodes;
 }
 
 bool xsg::SceneReader::readFirstLine()
 {
     const std::string_view wanted = SoSceneFile::FirstLine;
-    const std::string_view line = m_text.substr(0, std::min(m_text.find('\n'), wanted.size() + ShownLength));
+    m_text.has(ByteOrderMark.size() + wanted.size() + ShownLength);
+    if (m_text.from(0).substr(0, ByteOrderMark.size()) == ByteOrderMark)
+        m_at = ByteOrderMark.size();
+    std::string_view line = m_text.from(m_at).substr(0, wanted.size() + ShownLength);
+    line = line.substr(0, line.find('\n'));
     if (line.substr(0, wanted.size()) != wanted || !xsg::trimmed(line.substr(wanted.size())).empty())
         return fail(0, "this is no scene file: its first line must be \"" + std::string(wanted) + "\"");
-    m_at = line.size();
+    m_at += line.size();
+    m_phase = Phase::Items;
     return true;
 }
 
-SoRef<SoNode> xsg::SceneReader::read()
+bool xsg::SceneReader::readItems()
 {
-    if (!readFirstLine())
-        return nullptr;
-    while (true) {
-        skipBlanks();
-        if (atEnd())
-            break;
-        if (m_root && m_open.empty()) {
-            fail(m_at, "a file holds one node with everything in it, so its end was expected instead of " +
-                           quoted(m_text.substr(m_at)));
-            return nullptr;
-        }
-        if (!readItem())
-            return nullptr;
-    }
+    if (m_pending)
+        return readValue();
+    skipBlanks();
+    m_text.pass(m_at);
+    if (atEnd())
+        return endItems();
+    if (m_root && m_open.empty())
+        return fail(m_at, "a file holds one node with everything in it, so its end was expected instead of " +
+                              quotedFrom(m_at));
+    return readItem();
+}
+
+bool xsg::SceneReader::endItems()
+{
     if (!m_open.empty())
-        fail(m_text.size(), "the file ends too early: \"}\" was expected to close the " +
-                                std::string(m_open.back().node->getTypeId().getName().getString()));
-    else if (!m_root)
-        fail(m_text.size(), "the file has no node: a type such as Separator was expected");
-    else if (!resolveReferences() || !connect())
-        forgetReferences();
-    return m_problem.empty() ? m_root : nullptr;
+        return fail(m_at, "the file ends too early: \"}\" was expected to close the " +
+                              typeOf(*m_open.back().node));
+    if (!m_root)
+        return fail(m_at, "the file has no node: a type such as Separator was expected");
+    m_phase = Phase::References;
+    return !m_text.isCutShort() || fail(m_at, {});
 }
 
 bool xsg::SceneReader::readItem()
@@ -145,10 +250,10 @@ bool xsg::SceneReader::readItem()
         return m_open.empty() ? fail(start, "\"}\" closes nothing; a node was expected") : closeNode();
     if (peek() == '@')
         return readReference();
-    const std::string_view word = readWord();
+    const std::string word = readWord();
     if (word.empty())
         return fail(start, std::string(m_open.empty() ? "a node" : "a field, a node or \"}\"") +
-                               " was expected instead of " + quoted(m_text.substr(start)));
+                               " was expected instead of " + quotedFrom(start));
     if (peek() != ':')
         return openNode(word, start);
     ++m_at;
@@ -157,19 +262,19 @@ bool xsg::SceneReader::readItem()
     return readField(word, start);
 }
 
-bool xsg::SceneReader::openNode(std::string_view typeName, std::size_t at)
+bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
 {
     if (!m_open.empty() && !m_open.back().node->asGroup())
-        return fail(
-            at, "a " + std::string(m_open.back().node->getTypeId().getName().getString()) +
-                    " has no children; a field such as \"name: value\" or \"}\" was expected instead of " +
-                    quoted(typeName));
+        return fail(at, "a " + typeOf(*m_open.back().node) +
+                            " has no children; a field such as \"name: value\" or \"}\" was expected "
+                            "instead of " +
+                            quoted(typeName));
     std::string name;
     skipBlanks();
     const bool hasName = peek() == '"';
     if (hasName && !readQuoted(name))
         return false;
-    std::string_view label;
+    std::string label;
     if (accept('@')) {
         label = readWord();
         if (label.empty())
@@ -177,14 +282,16 @@ bool xsg::SceneReader::openNode(std::string_view typeName, std::size_t at)
     }
     if (!accept('{'))
         return fail(m_at, "\"{\" was expected after " + quoted(typeName));
-    const SoType type = SoType::fromName(SbName(SbString(typeName)));
-    const bool isKnown = type.isDerivedFrom(SoNode::getClassTypeId()) && type.canCreateInstance();
-    OpenNode open{isKnown ? static_cast<SoNode*>(type.createInstance())
-                          : new SoUnknownNode(SbName(SbString(typeName))),
-                  label};
+    const SbName type{SbString(typeName)};
+    const SoType known = SoType::fromName(type);
+    const bool isKnown = known.isDerivedFrom(SoNode::getClassTypeId()) && known.canCreateInstance();
+    m_open.push_back(
+        {isKnown ? static_cast<SoNode*>(known.createInstance()) : new SoUnknownNode(type), std::move(label)});
+    SoNode* node = m_open.back().node.get();
     if (hasName)
-        open.node->setName(SbName(SbString(name)));
-    m_open.push_back(std::move(open));
+        node->setName(SbName(SbString(name)));
+    if (m_keepsNodes)
+        m_nodes.push_back(node);
     return true;
 }
 
@@ -194,7 +301,7 @@ bool xsg::SceneReader::closeNode()
     const OpenNode closed = std::move(m_open.back());
     m_open.pop_back();
     if (!closed.label.empty() && !m_labels.emplace(closed.label, closed.node).second)
-        return fail(m_at - 1, "the label @" + std::string(closed.label) + " is already another node's");
+        return fail(m_at - 1, "the label @" + closed.label + " is already another node's");
     return place(closed.node, m_at);
 }
 
@@ -206,8 +313,7 @@ bool xsg::SceneReader::place(const SoRef<SoNode>& node, std::size_t at)
     }
     SoGroup* group = m_open.back().node->asGroup();
     if (!group)
-        return fail(at, "a " + std::string(m_open.back().node->getTypeId().getName().getString()) +
-                            " has no children");
+        return fail(at, "a " + typeOf(*m_open.back().node) + " has no children");
     group->addChild(node.get());
     return true;
 }
@@ -215,58 +321,113 @@ bool xsg::SceneReader::place(const SoRef<SoNode>& node, std::size_t at)
 bool xsg::SceneReader::readReference()
 {
     const std::size_t start = m_at++;
-    const std::string_view label = readWord();
-    const auto known = m_labels.find(label);
-    if (known == m_labels.end())
-        return fail(start,
-                    "the label @" + std::string(label) + " is not that of a node that is complete here");
-    return place(known->second, start);
+    const std::string label = readWord();
+    SoNode* known = findLabelled(label);
+    if (!known)
+        return fail(start, "the label @" + label + " is not that of a node that is complete here");
+    return place(known, start);
 }
 
-bool xsg::SceneReader::readField(std::string_view name, std::size_t at)
+SoNode* xsg::SceneReader::findLabelled(const std::string& label) const
+{
+    if (!m_recorded) {
+        const auto known = m_labels.find(label);
+        return known == m_labels.end() ? nullptr : known->second.get();
+    }
+    std::size_t place = 0;
+    const bool isNumber = xsg::TextReader(label).readNumber(place);
+    return isNumber && place < m_recorded->size() ? (*m_recorded)[place] : nullptr;
+}
+
+bool xsg::SceneReader::readField(const std::string& name, std::size_t at)
 {
     SoNode* node = m_open.back().node.get();
-    SoField* field = fieldOf(node, name);
+    SoField* field = fieldOf(node, SbName(SbString(name)));
     if (!field)
-        return fail(at, "a " + std::string(node->getTypeId().getName().getString()) + " has no field " +
-                            quoted(name) + "; a field of it, a node or \"}\" was expected");
-    std::string_view value;
-    std::size_t start = 0;
-    if (!readValue(value, start))
-        return false;
+        return fail(at, "a " + typeOf(*node) + " has no field " + quoted(name) +
+                            "; a field of it, a node or \"}\" was expected");
+    // The value begins on the line of the field's name; where it does not, there is none.
+    while (peek() != '\n' && xsg::TextReader::isBlank(peek()))
+        ++m_at;
+    m_pending.emplace(Value{field, m_at, {}, {}, {}});
+    return readValue();
+}
+
+bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, Place place)
+{
+    // In a file written by hand the next field may well follow on the same line.
+    const bool goesOn = value.find(": ") != std::string_view::npos;
+    return failAt(place, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
+                             field.getTypeId().getName().getString() +
+                             (goesOn ? "; each field has a line of its own" : ""));
+}
+
+// The pending one's, as far as it is there; what is long takes several calls.
+bool xsg::SceneReader::readValue()
+{
+    if (m_pending->isRead.valid())
+        return takeParsed();
+    ValueScan& scan = m_pending->scan;
+    const std::size_t start = m_pending->start;
+    if (!scan.advance(m_text.from(start))) {
+        if (scan.getLength() > LongestValue)
+            return fail(start, "the value that starts here is longer than 1 GiB, and is not read");
+        if (m_text.load(std::clamp(scan.getLength(), SceneText::PieceBytes, LargestPiece)))
+            return true;
+    }
+    const std::size_t open = scan.getOpen();
+    if (open != std::string_view::npos)
+        return fail(start + open, m_text.at(start + open) == '['
+                                      ? "the list that starts here has no \"]\""
+                                      : "the text in quotes that starts here has no end");
+    m_at = start + scan.getLength();
+    const std::string_view value = xsg::trimmed(m_text.from(start).substr(0, scan.getLength()));
+    return parseElsewhere(value) || takeValue(value);
+}
+
+bool xsg::SceneReader::takeValue(std::string_view value)
+{
+    SoField* field = m_pending->field;
+    const Place place = m_text.placeOf(m_pending->start);
+    m_pending.reset();
     if (!value.empty() && isOfNodes(*field)) {
-        m_nodeValues.push_back({field, value, start});
+        m_nodeValues.push_back({field, std::string(value), place});
     } else if (!value.empty()) {
         m_value.edit().assign(value);
-        if (!field->set(m_value))
-            return refuseValue(*field, value, start);
+        if (!m_recorded && !field->set(m_value))
+            return refuseValue(*field, value, place);
     }
     return readMarks(field);
 }
 
-bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, std::size_t at)
+bool xsg::SceneReader::parseElsewhere(std::string_view value)
 {
-    // In a file written by hand the next field may well follow on the same line.
-    const bool goesOn = value.find(": ") != std::string_view::npos;
-    return fail(at, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
-                        field.getTypeId().getName().getString() +
-                        (goesOn ? "; each field has a line of its own" : ""));
+    SoField* field = m_pending->field;
+    if (m_until == Clock::time_point::max() || value.size() < LongValue || isOfNodes(*field))
+        return false;
+    const std::shared_ptr<SoTypedObject> object(field->getTypeId().createInstance());
+    m_pending->copy = std::dynamic_pointer_cast<SoField>(object);
+    if (!m_pending->copy)
+        return false;
+    try {
+        m_pending->isRead =
+            std::async(std::launch::async, [copy = m_pending->copy, text = SbString(std::string(value))] {
+                return copy->set(text);
+            });
+    } catch (const std::system_error&) {
+        return false; // there is no thread to be had
+    }
+    return true;
 }
 
-// The value's text as it stands. It begins on the line of the field's name; where it does not, there is none.
-bool xsg::SceneReader::readValue(std::string_view& value, std::size_t& start)
+bool xsg::SceneReader::takeParsed()
 {
-    while (peek() != '\n' && xsg::TextReader::isBlank(peek()))
-        ++m_at;
-    start = m_at;
-    const xsg::ValueExtent extent(m_text.substr(start));
-    if (!extent.isWhole())
-        return fail(start + extent.open, m_text[start + extent.open] == '['
-                                             ? "the list that starts here has no \"]\""
-                                             : "the text in quotes that starts here has no end");
-    m_at = start + extent.length;
-    value = xsg::trimmed(m_text.substr(start, extent.length));
-    return true;
+    const std::size_t start = m_pending->start;
+    SoField* field = m_pending->field;
+    if (!m_pending->isRead.get() || !field->copyFrom(*m_pending->copy))
+        return takeValue(xsg::trimmed(m_text.from(start).substr(0, m_at - start))); // says why
+    m_pending.reset();
+    return readMarks(field);
 }
 
 bool xsg::SceneReader::readMarks(SoField* field)
@@ -275,52 +436,63 @@ bool xsg::SceneReader::readMarks(SoField* field)
         skipBlanks();
         const std::size_t start = m_at;
         if (accept('!')) {
-            if (readWord() != "ignored")
+            const std::string mark = readWord();
+            if (m_recorded && mark == "default")
+                m_isDefault = true;
+            else if (mark != "ignored")
                 return fail(start, "\"!ignored\" was expected");
-            field->setIgnored(true);
+            else
+                field->setIgnored(true);
         } else if (accept('<')) {
-            Connection wanted{field, {}, {}, start, nullptr, {}};
-            if (!accept('-') || !accept('@'))
-                return fail(start, "\"<- @label.field\" was expected");
-            wanted.label = readWord();
-            if (!accept('.'))
-                return fail(start, "\"<- @label.field\" was expected");
-            wanted.sourceName = readWord();
-            m_connections.push_back(wanted);
+            if (!readConnection(field, start))
+                return false;
         } else {
             return true;
         }
     }
 }
 
-// A field may refer to a node that comes later, so all references are made at the end.
-bool xsg::SceneReader::resolveReferences()
+bool xsg::SceneReader::readConnection(SoField* field, std::size_t start)
 {
-    for (const NodeValue& wanted : m_nodeValues) {
-        xsg::TextReader in(wanted.text);
-        auto* list = dynamic_cast<SoMFNode*>(wanted.field);
-        const bool isList = list && in.accept('[');
-        std::vector<SoRef<SoNode>> nodes;
-        in.skipBlanks();
-        while (isList ? !in.accept(']') : nodes.empty()) {
-            if (!readNode(in, nodes.emplace_back()))
-                return refuseValue(*wanted.field, wanted.text, wanted.at);
-            if (isList)
-                in.skipSeparator();
-        }
-        if (!in.onlyBlanksLeft())
-            return refuseValue(*wanted.field, wanted.text, wanted.at);
-        if (list)
-            list->setValues(std::move(nodes));
-        else
-            static_cast<SoSFNode*>(wanted.field)->setValue(nodes.front());
+    Connection wanted{field, {}, {}, m_text.placeOf(start), nullptr, {}};
+    bool good = accept('-') && accept('@');
+    if (good)
+        wanted.label = readWord();
+    good = good && accept('.');
+    if (!good)
+        return fail(start, "\"<- @label.field\" was expected");
+    wanted.sourceName = SbName(SbString(readWord()));
+    m_connections.push_back(std::move(wanted));
+    return true;
+}
+
+bool xsg::SceneReader::resolve(const NodeValue& wanted)
+{
+    xsg::TextReader in(wanted.text);
+    auto* list = dynamic_cast<SoMFNode*>(wanted.field);
+    const bool isList = list && in.accept('[');
+    std::vector<SoRef<SoNode>> nodes;
+    in.skipBlanks();
+    while (isList ? !in.accept(']') : nodes.empty()) {
+        if (!readNode(in, nodes.emplace_back()))
+            return refuseValue(*wanted.field, wanted.text, wanted.place);
+        if (isList)
+            in.skipSeparator();
     }
+    if (!in.onlyBlanksLeft())
+        return refuseValue(*wanted.field, wanted.text, wanted.place);
+    if (list)
+        list->setValues(std::move(nodes));
+    else
+        static_cast<SoSFNode*>(wanted.field)->setValue(nodes.front());
     return true;
 }
 
 // A scene that is given up must not keep itself alive.
 void xsg::SceneReader::forgetReferences()
 {
+    if (m_phase < Phase::References || m_recorded)
+        return;
     for (const NodeValue& wanted : m_nodeValues) {
         if (auto* list = dynamic_cast<SoMFNode*>(wanted.field))
             list->setNum(0);
@@ -333,57 +505,117 @@ bool xsg::SceneReader::readNode(xsg::TextReader& in, SoRef<SoNode>& node) const
 {
     if (!in.accept('@'))
         return xsg::ValueText<SoRef<SoNode>>::read(in, node) && in.atValueEnd();
-    const auto known = m_labels.find(in.readWord());
-    if (known == m_labels.end() || !in.atValueEnd())
-        return false;
-    node = known->second;
-    return true;
+    node = findLabelled(std::string(in.readWord()));
+    return node && in.atValueEnd();
 }
 
-// A connection may name a node that comes later, so all are made at the end.
-bool xsg::SceneReader::connect()
+bool xsg::SceneReader::findSource(Connection& wanted)
 {
-    for (Connection& wanted : m_connections) {
-        const auto node = m_labels.find(wanted.label);
-        wanted.source = node == m_labels.end() ? nullptr : fieldOf(node->second.get(), wanted.sourceName);
-        if (!wanted.source)
-            return fail(wanted.at, "there is no field @" + std::string(wanted.label) + "." +
-                                       std::string(wanted.sourceName) + " to connect from");
-        if (!wanted.field->isDefault())
-            wanted.field->get(wanted.value);
-    }
-    for (const Connection* wanted : sourcesFirst()) {
-        if (!wanted->field->connectFrom(wanted->source))
-            return fail(wanted->at, std::string(wanted->field->getName().getString()) +
-                                        " cannot be connected from a " +
-                                        std::string(wanted->source->getTypeId().getName().getString()) +
-                                        ", or would in the end be connected from itself");
-    }
-    // A connected field may have been written since its source last changed, and then keeps that value.
-    for (const Connection& made : m_connections) {
-        if (!made.value.isNull())
-            made.field->setWithoutPropagation(made.value);
-    }
+    SoNode* node = findLabelled(wanted.label);
+    wanted.source = node ? fieldOf(node, wanted.sourceName) : nullptr;
+    if (!wanted.source)
+        return failAt(wanted.place, "there is no field @" + wanted.label + "." +
+                                        wanted.sourceName.getString() + " to connect from");
+    if (!wanted.field->isDefault())
+        wanted.field->get(wanted.value);
+    m_unordered[wanted.field] = &wanted;
     return true;
 }
 
 // A field that is connected notifies its dependents. In this order it has none yet, however long the chain
 // is.
-std::vector<const xsg::SceneReader::Connection*> xsg::SceneReader::sourcesFirst() const
+bool xsg::SceneReader::orderSourcesFirst(const Connection& connection)
 {
-    std::unordered_map<const SoField*, const Connection*> pending;
-    for (const Connection& connection : m_connections)
-        pending[connection.field] = &connection;
-    std::vector<const Connection*> ordered;
-    std::vector<const Connection*> row;
-    for (const Connection& connection : m_connections) {
-        for (auto next = pending.find(connection.field); next != pending.end();
-             next = pending.find(row.back()->source)) {
-            row.push_back(next->second);
-            pending.erase(next);
-        }
-        ordered.insert(ordered.end(), row.rbegin(), row.rend());
-        row.clear();
+    const std::size_t before = m_sourcesFirst.size();
+    for (auto next = m_unordered.find(connection.field); next != m_unordered.end();
+         next = m_unordered.find(m_sourcesFirst.back()->source)) {
+        m_sourcesFirst.push_back(next->second);
+        m_unordered.erase(next);
     }
-    return ordered;
+    std::reverse(m_sourcesFirst.begin() + static_cast<std::ptrdiff_t>(before), m_sourcesFirst.end());
+    return true;
+}
+
+bool xsg::SceneReader::connect(const Connection* wanted)
+{
+    return wanted->field->connectFrom(wanted->source) ||
+           failAt(wanted->place, std::string(wanted->field->getName().getString()) +
+                                     " cannot be connected from a " +
+                                     wanted->source->getTypeId().getName().getString() +
+                                     ", or would in the end be connected from itself");
+}
+
+// A connected field may have been written since its source last changed, and then keeps that value.
+bool xsg::SceneReader::restoreValue(const Connection& made)
+{
+    if (!made.value.isNull())
+        made.field->setWithoutPropagation(made.value);
+    return true;
+}
+
+bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart part)
+{
+    m_recorded = &nodes;
+    m_phase = Phase::Items;
+    const std::string label = accept('@') ? readWord() : std::string();
+    SoNode* node = findLabelled(label);
+    if (!node)
+        return fail(0, "a record starts with \"@\" and the number of a node");
+    m_open.push_back({node, {}});
+    skipBlanks();
+    const std::size_t start = m_at;
+    const std::string name = readWord();
+    SoField* field = peek() == ':' ? fieldOf(node, SbName(SbString(name))) : nullptr;
+    if (!field)
+        return fail(start, "a field of the " + typeOf(*node) + " was expected");
+    ++m_at;
+    const bool wasIgnored = field->isIgnored();
+    field->setIgnored(false); // unless the record says so
+    bool good = readField(name, start);
+    while (good && m_pending)
+        good = readValue();
+    skipBlanks();
+    if (good && !atEnd())
+        good = fail(m_at, "the end of the record was expected");
+    if (!good)
+        field->setIgnored(wasIgnored);
+    return good && applyRecord(*field, part);
+}
+
+bool xsg::SceneReader::applyRecord(SoField& field, RecordPart part)
+{
+    const bool isConnected = !m_connections.empty();
+    if (isConnected && !findSource(m_connections.front()))
+        return false;
+    const SoField* source = isConnected ? m_connections.front().source : nullptr;
+    if (part == RecordPart::Value)
+        return setRecorded(field);
+    if (field.getConnectedField() == source)
+        return true;
+    if (part == RecordPart::Disconnection)
+        field.disconnect();
+    return part == RecordPart::Disconnection || connect(&m_connections.front());
+}
+
+bool xsg::SceneReader::setRecorded(SoField& field)
+{
+    SbString text = m_value;
+    if (!m_nodeValues.empty() && !textOfNodes(m_nodeValues.front(), text))
+        return false;
+    if (!field.setWithoutPropagation(text))
+        return refuseValue(field, text.str(), m_text.placeOf(0));
+    field.setDefault(m_isDefault);
+    return true;
+}
+
+// As a field writes it that stands alone: by names that find the nodes while they live.
+bool xsg::SceneReader::textOfNodes(const NodeValue& wanted, SbString& text)
+{
+    SoSFNode single;
+    SoMFNode list;
+    SoField& field = dynamic_cast<SoMFNode*>(wanted.field) ? static_cast<SoField&>(list) : single;
+    if (!resolve({&field, wanted.text, wanted.place}))
+        return false;
+    field.get(text);
+    return true;
 }

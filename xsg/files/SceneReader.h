@@ -2,9 +2,15 @@
 #pragma once
 
 #include <xsg/core/SoField.h>
+#include <xsg/files/SceneText.h>
 #include <xsg/nodes/base/SoNode.h>
 #include <xsg/values/SbValueText.h>
+#include <xsg/values/ValueScan.h>
 
+#include <chrono>
+#include <deque>
+#include <future>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -13,33 +19,65 @@
 namespace xsg
 {
 
-/// Reads the text of a scene; see SoSceneFile for its form.
-class SceneReader
+/// Reads the text of a scene, in pieces as long as the caller has time for; see SoSceneFile for its form.
+/// What is read stands alone until it is taken. Belongs to the graph's thread.
+class XSG_API SceneReader
 {
 public:
+    using Clock = std::chrono::steady_clock;
+
+    /// `text` must outlive the reader.
     explicit SceneReader(std::string_view text)
         : m_text(text)
     {
     }
+    explicit SceneReader(SceneText::Source source)
+        : m_text(std::move(source))
+    {
+    }
+    ~SceneReader();
+    SceneReader(const SceneReader&) = delete;
+    SceneReader& operator=(const SceneReader&) = delete;
 
-    /// Null on the first error.
+    /// Reads on until it is done, which is when this returns true, or the time is up. A very long value is
+    /// read by another thread; while that is waited for, this returns at once.
+    bool advance(Clock::time_point until);
+    /// The scene, once it is done; null on the first error.
+    SoRef<SoNode> takeScene();
+    /// All at once.
     SoRef<SoNode> read();
+    /// Gives up, and hands over what has been read so far: nodes that stand nowhere.
+    std::vector<SoRef<SoNode>> abandon();
+
+    /// From the start on, notes the nodes in the order in which the text has them.
+    void keepNodes() { m_keepsNodes = true; }
+    std::vector<SoNode*> takeNodes() { return std::move(m_nodes); }
 
     /// After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
-    int getLine() const;
-    int getColumn() const;
+    int getLine() const { return m_problemPlace.line; }
+    int getColumn() const { return m_problemPlace.column; }
     const std::string& getProblem() const { return m_problem; }
 
+    /// What of a field's state is to be taken: that it is not connected as it was, that it is connected, or
+    /// its value and marks.
+    enum class RecordPart { Disconnection, Connection, Value };
+    /// Instead of a scene: the text is the state of one field of one of these nodes, as
+    /// SceneWriter::recordOf() wrote it; see SceneRecords. False, with an error, where it cannot be that.
+    bool readRecord(const std::vector<SoNode*>& nodes, RecordPart part);
+
 private:
+    enum class Phase { FirstLine, Items, References, Sources, Order, Connections, Values, Done };
+    using Place = SceneText::Place;
+
     struct OpenNode {
         SoRef<SoNode> node;
-        std::string_view label;
+        std::string label;
     };
     struct Connection {
         SoField* field;
-        std::string_view label;
-        std::string_view sourceName;
-        std::size_t at;
+        std::string label;
+        SbName sourceName;
+        Place place;
         SoField* source;
         SbString value; // as written; null where it was not
     };
@@ -47,44 +85,82 @@ private:
     /// Nodes that a field refers to by their labels.
     struct NodeValue {
         SoField* field;
-        std::string_view text;
-        std::size_t at;
+        std::string text;
+        Place place;
+    };
+
+    /// A value that is being looked for or read by another thread.
+    struct Value {
+        SoField* field;
+        std::size_t start;
+        ValueScan scan;
+        std::shared_ptr<SoField> copy; // which the other thread writes
+        std::future<bool> isRead;
     };
 
     bool fail(std::size_t at, std::string problem);
+    bool failAt(Place place, std::string problem);
     void skipBlanks();
-    bool atEnd() const { return m_at >= m_text.size(); }
-    char peek() const { return atEnd() ? '\0' : m_text[m_at]; }
+    bool atEnd() { return !m_text.has(m_at); }
+    char peek() { return m_text.at(m_at); }
     bool accept(char c);
-    std::string_view readWord();
+    std::string readWord();
     bool readQuoted(std::string& out);
-    bool readFirstLine();
+    std::string quotedFrom(std::size_t at);
 
+    bool step();
+    bool isWaiting();
+    bool readFirstLine();
+    bool readItems();
+    bool endItems();
     bool readItem();
-    bool openNode(std::string_view type, std::size_t at);
+    bool openNode(const std::string& type, std::size_t at);
     bool closeNode();
     bool place(const SoRef<SoNode>& node, std::size_t at);
     bool readReference();
-    bool readField(std::string_view name, std::size_t at);
-    bool readValue(std::string_view& value, std::size_t& start);
+    bool readField(const std::string& name, std::size_t at);
+    bool readValue();
+    bool takeValue(std::string_view value);
+    bool parseElsewhere(std::string_view value);
+    bool takeParsed();
+    bool refuseValue(const SoField& field, std::string_view value, Place place);
     bool readMarks(SoField* field);
-    bool resolveReferences();
-    void forgetReferences();
-    bool readNode(TextReader& in, SoRef<SoNode>& node) const;
-    bool refuseValue(const SoField& field, std::string_view value, std::size_t at);
-    bool connect();
-    std::vector<const Connection*> sourcesFirst() const;
+    bool readConnection(SoField* field, std::size_t start);
+    SoNode* findLabelled(const std::string& label) const;
 
-    std::string_view m_text;
+    template <class Items, class Act>
+    bool nextOf(Items& items, Phase after, Act act);
+    bool resolve(const NodeValue& wanted);
+    bool readNode(TextReader& in, SoRef<SoNode>& node) const;
+    void forgetReferences();
+    bool findSource(Connection& wanted);
+    bool orderSourcesFirst(const Connection& connection);
+    bool connect(const Connection* wanted);
+    bool restoreValue(const Connection& made);
+    bool applyRecord(SoField& field, RecordPart part);
+    bool setRecorded(SoField& field);
+    bool textOfNodes(const NodeValue& wanted, SbString& text);
+
+    SceneText m_text;
     std::size_t m_at = 0;
-    std::size_t m_problemAt = 0;
+    Phase m_phase = Phase::FirstLine;
+    Clock::time_point m_until = Clock::time_point::max();
+    std::size_t m_next = 0; // of what the phase goes through
+    Place m_problemPlace{};
     std::string m_problem;
     SoRef<SoNode> m_root;
     std::vector<OpenNode> m_open;
-    std::unordered_map<std::string_view, SoRef<SoNode>> m_labels;
-    std::vector<NodeValue> m_nodeValues;
-    std::vector<Connection> m_connections;
+    std::optional<Value> m_pending;
+    std::unordered_map<std::string, SoRef<SoNode>> m_labels;
+    std::deque<NodeValue> m_nodeValues;
+    std::deque<Connection> m_connections;
+    std::unordered_map<const SoField*, const Connection*> m_unordered;
+    std::vector<const Connection*> m_sourcesFirst;
     SbString m_value; // keeps its memory from field to field
+    bool m_keepsNodes = false;
+    std::vector<SoNode*> m_nodes;
+    const std::vector<SoNode*>* m_recorded = nullptr; // which a record refers to by their places
+    bool m_isDefault = false;                         // says the record
 };
 
 } // namespace xsg

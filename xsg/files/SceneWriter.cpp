@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/files/SceneWriter.h>
 
+#include <xsg/fields/SoSFImage.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
@@ -9,12 +10,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
 
 // Deeper levels are written no deeper, or a deeply nested scene would be all blanks.
 constexpr std::size_t DeepestIndent = 16;
+constexpr std::size_t PieceBytes = std::size_t{1} << 20U;
+// Making the text of a longer value takes noticeable time.
+constexpr int LongList = 4096;
+constexpr int LongPicture = 128 * 128;
 
 const std::vector<SoNode*>& childrenOf(const SoNode* node)
 {
@@ -31,6 +37,17 @@ void forEachField(const SoNode* node, Visit visit)
         visit(*field);
 }
 
+bool isLong(const SoField& field)
+{
+    if (const auto* list = dynamic_cast<const SoMField*>(&field))
+        return list->getNum() > LongList;
+    const auto* image = dynamic_cast<const SoSFImage*>(&field);
+    int width = 0;
+    int height = 0;
+    int components = 0;
+    return image && image->getValue(width, height, components) && width > LongPicture / std::max(1, height);
+}
+
 const SoNode* sourceNodeOf(const SoField& field)
 {
     const SoField* source = field.getConnectedField();
@@ -39,61 +56,95 @@ const SoNode* sourceNodeOf(const SoField& field)
 
 } // namespace
 
+void xsg::SceneWriter::begin(const SoNode* root)
+{
+    m_root = root;
+    m_notes = {};
+    m_frames.clear();
+    m_pending = {root};
+    m_lastPlace = 0;
+    m_lastLabel = 0;
+    m_phase = Phase::Labels;
+}
+
+bool xsg::SceneWriter::advance(Clock::time_point until)
+{
+    while (m_phase != Phase::Done) {
+        step();
+        if (Clock::now() >= until)
+            break;
+    }
+    return m_phase == Phase::Done;
+}
+
 void xsg::SceneWriter::write(const SoNode* root)
 {
-    struct Frame {
-        const SoNode* node;
-        std::size_t child;
-        bool isEmpty;
-    };
-    findLabelled(root);
+    begin(root);
+    advance(Clock::time_point::max());
+}
+
+void xsg::SceneWriter::step()
+{
+    if (m_phase == Phase::Labels && !m_pending.empty())
+        return labelNext();
+    if (m_phase == Phase::Nodes)
+        return visitNext();
     m_out = std::string(SoSceneFile::FirstLine) + "\n";
-    std::vector<Frame> frames;
-    const auto visit = [&](const SoNode* node) {
-        const auto label = m_labels.find(node);
-        if (label != m_labels.end() && label->second > 0) {
-            indent(frames.size());
-            m_out += '@' + std::to_string(label->second) + '\n';
-            return;
-        }
-        beginNode(node, frames.size());
-        const bool hasFields = writeFields(node, frames.size() + 1);
-        const bool isEmpty = !hasFields && childrenOf(node).empty();
-        if (!hasFields && !isEmpty)
-            m_out += '\n';
-        frames.push_back({node, 0, isEmpty});
-    };
-    visit(root);
-    while (!frames.empty()) {
-        Frame& frame = frames.back();
-        const auto& children = childrenOf(frame.node);
-        if (frame.child < children.size()) {
-            visit(children[frame.child++]);
-        } else {
-            const bool isEmpty = frame.isEmpty;
-            frames.pop_back();
-            endNode(isEmpty, frames.size());
-        }
-        flush(1U << 20U);
-    }
-    flush(0);
+    m_phase = Phase::Nodes;
+    visit(m_root);
 }
 
 // Nodes that are met twice, those that fields refer to, and those whose fields others are connected from need
 // labels.
-void xsg::SceneWriter::findLabelled(const SoNode* root)
+void xsg::SceneWriter::labelNext()
 {
-    std::vector<const SoNode*> pending{root};
-    while (!pending.empty()) {
-        const SoNode* node = pending.back();
-        pending.pop_back();
-        if (!m_reached.insert(node).second) {
-            m_labels.emplace(node, 0);
-            continue;
-        }
-        addReferences(node);
-        pending.insert(pending.end(), childrenOf(node).begin(), childrenOf(node).end());
+    const SoNode* node = m_pending.back();
+    m_pending.pop_back();
+    Note& note = m_notes[*node];
+    if (std::exchange(note.isReached, true)) {
+        note.isLabelled = true;
+        return;
     }
+    addReferences(node);
+    m_pending.insert(m_pending.end(), childrenOf(node).begin(), childrenOf(node).end());
+}
+
+void xsg::SceneWriter::label(const SoNode* node)
+{
+    if (node)
+        m_notes[*node].isLabelled = true;
+}
+
+void xsg::SceneWriter::visit(const SoNode* node)
+{
+    const Note note = m_notes.find(*node);
+    if (note.label > 0) {
+        indent(m_frames.size());
+        m_out += '@' + std::to_string(note.label) + '\n';
+        return;
+    }
+    beginNode(node, m_frames.size());
+    const bool hasFields = writeFields(node, m_frames.size() + 1);
+    const bool isEmpty = !hasFields && childrenOf(node).empty();
+    if (!hasFields && !isEmpty)
+        m_out += '\n';
+    m_frames.push_back({node, 0, isEmpty});
+}
+
+void xsg::SceneWriter::visitNext()
+{
+    Frame& frame = m_frames.back();
+    const auto& children = childrenOf(frame.node);
+    if (frame.child < children.size()) {
+        visit(children[frame.child++]);
+    } else {
+        const bool isEmpty = frame.isEmpty;
+        m_frames.pop_back();
+        endNode(isEmpty, m_frames.size());
+    }
+    if (m_frames.empty())
+        m_phase = Phase::Done;
+    flush(m_frames.empty() ? 0 : PieceBytes);
 }
 
 void xsg::SceneWriter::addReferences(const SoNode* node)
@@ -101,21 +152,27 @@ void xsg::SceneWriter::addReferences(const SoNode* node)
     forEachField(node, [&](const SoField& field) {
         if (!isWorthWriting(field))
             return;
-        if (const SoNode* source = sourceNodeOf(field))
-            m_labels.emplace(source, 0);
+        label(sourceNodeOf(field));
         if (const auto* single = dynamic_cast<const SoSFNode*>(&field))
-            m_labels.emplace(single->getNode(), 0);
+            label(single->getNode());
         else if (const auto* list = dynamic_cast<const SoMFNode*>(&field))
             for (int i = 0; i < list->getNum(); ++i)
-                m_labels.emplace((*list)[i].get(), 0);
+                label((*list)[i].get());
     });
 }
 
-// A source outside of the scene cannot be named in its file.
+// Nothing outside of the scene can be named in its file, nor what fields refer to only since the labels were
+// found.
+bool xsg::SceneWriter::canBeNamed(const SoNode& node) const
+{
+    const Note note = m_notes.find(node);
+    return m_phase == Phase::Done ? note.place > 0 : note.isReached && note.isLabelled;
+}
+
 bool xsg::SceneWriter::isConnectionKept(const SoField& field) const
 {
     const SoNode* source = sourceNodeOf(field);
-    return source && m_reached.count(source) > 0;
+    return source && canBeNamed(*source);
 }
 
 void xsg::SceneWriter::beginNode(const SoNode* node, std::size_t depth)
@@ -127,11 +184,12 @@ void xsg::SceneWriter::beginNode(const SoNode* node, std::size_t depth)
         m_out += ' ';
         xsg::appendQuoted(m_out, node->getName().getString());
     }
-    const auto label = m_labels.find(node);
-    if (label != m_labels.end()) {
+    Note& note = m_notes[*node];
+    note.place = ++m_lastPlace;
+    if (note.isLabelled) {
         // A connection may have named it before it comes.
-        label->second = label->second < 0 ? -label->second : ++m_lastLabel;
-        m_out += " @" + std::to_string(label->second);
+        note.label = note.label < 0 ? -note.label : ++m_lastLabel;
+        m_out += " @" + std::to_string(note.label);
     }
     m_out += " {";
 }
@@ -168,15 +226,19 @@ void xsg::SceneWriter::writeField(const SoField& field)
 {
     m_out += field.getName().getString();
     m_out += ':';
-    const bool keepsConnection = isConnectionKept(field);
     field.evaluate();
     if (!field.isDefault()) {
         m_out += ' ';
         writeValue(field);
     }
+    writeMarks(field);
+}
+
+void xsg::SceneWriter::writeMarks(const SoField& field)
+{
     if (field.isIgnored())
         m_out += " !ignored";
-    if (!keepsConnection)
+    if (!isConnectionKept(field))
         return;
     m_out += " <- ";
     writeLabel(sourceNodeOf(field));
@@ -195,16 +257,30 @@ void xsg::SceneWriter::writeValue(const SoField& field)
             writeReference((*list)[i].get());
         }
         m_out += list->getNum() > 0 ? " ]" : "]";
-    } else {
+    } else if (!leaveValue(field)) {
         field.get(m_value);
         m_out += m_value.str();
     }
 }
 
-// A node outside of the scene cannot be named in its file.
+// False where the text is to be made here.
+bool xsg::SceneWriter::leaveValue(const SoField& field)
+{
+    if (!m_longValues || !isLong(field))
+        return false;
+    if (m_phase != Phase::Done) {
+        flush(0); // what comes before it
+        return m_longValues(field);
+    }
+    if (!m_longValues(field))
+        return false;
+    m_recorded = std::exchange(m_out, {});
+    return true;
+}
+
 void xsg::SceneWriter::writeReference(const SoNode* node)
 {
-    if (m_reached.count(node) > 0)
+    if (node && canBeNamed(*node))
         writeLabel(node);
     else
         m_out += "NULL";
@@ -212,10 +288,33 @@ void xsg::SceneWriter::writeReference(const SoNode* node)
 
 void xsg::SceneWriter::writeLabel(const SoNode* node)
 {
-    int& label = m_labels[node];
-    if (label == 0)
-        label = -++m_lastLabel;
-    m_out += '@' + std::to_string(std::abs(label));
+    Note& note = m_notes[*node];
+    if (m_phase != Phase::Done && note.label == 0)
+        note.label = -++m_lastLabel;
+    const auto label =
+        m_phase == Phase::Done ? note.place - 1 : static_cast<std::uint32_t>(std::abs(note.label));
+    m_out += '@' + std::to_string(label);
+}
+
+// A record stands alone and names nodes by their places. It says all there is to say about the field, since
+// what it is read into may hold another state.
+xsg::SceneWriter::Record xsg::SceneWriter::recordOf(const SoField& field)
+{
+    const auto* node = dynamic_cast<const SoNode*>(field.getContainer());
+    if (!node || m_notes.find(*node).place == 0)
+        return {};
+    m_out.clear();
+    m_recorded.clear();
+    writeLabel(node);
+    m_out += std::string(" ") + field.getName().getString() + ": ";
+    field.evaluate();
+    writeValue(field);
+    if (field.isDefault())
+        m_out += " !default";
+    writeMarks(field);
+    if (m_recorded.empty())
+        m_recorded.swap(m_out);
+    return {std::exchange(m_recorded, {}), std::exchange(m_out, {})};
 }
 
 void xsg::SceneWriter::indent(std::size_t depth)

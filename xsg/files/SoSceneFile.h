@@ -38,8 +38,8 @@ public:
     /// The same from memory; `name` stands for the file in errors.
     static SoRef<SoNode> readText(std::string_view text, const std::string& name, std::string& error);
 
-    /// Writes to a temporary file beside it and renames it, so that the file is either the old or the new
-    /// one. False, and a sentence, where that cannot be done.
+    /// Whatever happens, the file is either the old or the new one; xsg::FileReplacement says what becomes of
+    /// its mode and its links. False, and a sentence, where it cannot be written.
     static bool write(const SoNode* root, const std::string& path, std::string& error);
     static std::string writeText(const SoNode* root);
 };

@@ -77,6 +77,15 @@ struct GlTextureTraits {
     }
     static void destroy(GLuint name) { glDeleteTextures(1, &name); }
 };
+struct GlFramebufferTraits {
+    static GLuint create()
+    {
+        GLuint name = 0;
+        glGenFramebuffers(1, &name);
+        return name;
+    }
+    static void destroy(GLuint name) { glDeleteFramebuffers(1, &name); }
+};
 struct GlProgramTraits {
     static GLuint create() { return glCreateProgram(); }
     static void destroy(GLuint name) { glDeleteProgram(name); }
@@ -85,6 +94,7 @@ struct GlProgramTraits {
 using GlBuffer = GlObject<GlBufferTraits>;
 using GlVertexArray = GlObject<GlVertexArrayTraits>;
 using GlTexture = GlObject<GlTextureTraits>;
+using GlFramebuffer = GlObject<GlFramebufferTraits>;
 using GlProgram = GlObject<GlProgramTraits>;
 
 } // namespace xsg

@@ -100,18 +100,23 @@ void xsg::InstanceList::regroupAt(const std::vector<RenderItem>& items, std::uin
     }
 }
 
+// Piece by piece, so that there is no second copy of all of it on the way.
 void xsg::InstanceList::uploadAll(const std::vector<RenderItem>& items)
 {
+    constexpr std::size_t Piece = 4096;
     if (m_order.empty())
         return;
-    m_staging.clear();
-    m_staging.reserve(m_order.size());
-    for (const std::uint32_t i : m_order)
-        m_staging.push_back(items[i].instance);
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());
-    glBufferData(GL_ARRAY_BUFFER, bytesOf(m_staging.size()), m_staging.data(), GL_DYNAMIC_DRAW);
+    glBufferData(GL_ARRAY_BUFFER, bytesOf(m_order.size()), nullptr, GL_DYNAMIC_DRAW);
+    for (std::size_t first = 0; first < m_order.size(); first += m_staging.size()) {
+        m_staging.clear();
+        const std::size_t end = std::min(m_order.size(), first + Piece);
+        for (std::size_t place = first; place < end; ++place)
+            m_staging.push_back(items[m_order[place]].instance);
+        glBufferSubData(GL_ARRAY_BUFFER, bytesOf(first), bytesOf(m_staging.size()), m_staging.data());
+    }
     ++m_uploads;
-    m_uploadedBytes += bytesOf(m_staging.size());
+    m_uploadedBytes += bytesOf(m_order.size());
 }
 
 void xsg::InstanceList::uploadChanged(const std::vector<RenderItem>& items,
@@ -173,6 +178,22 @@ void xsg::InstanceList::findVisible(const Frustum& frustum, const std::vector<Re
                               add(place, place + 1);
                       }
                   });
+}
+
+void xsg::InstanceList::findPlaces(const std::vector<std::uint32_t>& ofItems, std::vector<Run>& runs) const
+{
+    std::vector<std::uint32_t> places;
+    for (const std::uint32_t i : ofItems) {
+        if (i < m_places.size() && m_places[i] != Nowhere)
+            places.push_back(m_places[i]);
+    }
+    std::sort(places.begin(), places.end());
+    runs.clear();
+    for (const std::uint32_t place : places) {
+        if (runs.empty() || runs.back().end < place)
+            runs.push_back({place, place});
+        runs.back().end = place + 1;
+    }
 }
 
 void xsg::InstanceList::bind(std::uint32_t place)

@@ -2,7 +2,9 @@
 #include <xsg/render/PixmapFile.h>
 
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/render/PixelScaling.h>
 
+#include <algorithm>
 #include <fstream>
 #include <limits>
 
@@ -19,9 +21,16 @@ bool readNumber(std::istream& in, int& value)
     return static_cast<bool>(in >> value);
 }
 
+// From the top down to from the bottom up.
+void turnOver(std::vector<unsigned char>& pixels, std::size_t row)
+{
+    for (std::size_t low = 0, high = pixels.size(); high - low >= 2 * row; low += row, high -= row)
+        std::swap_ranges(pixels.data() + low, pixels.data() + low + row, pixels.data() + high - row);
+}
+
 } // namespace
 
-bool xsg::readPixmap(const char* path, SoSFImage& image)
+bool xsg::readPixmap(const char* path, SoSFImage& image, const SoImageFit& fit)
 {
     std::ifstream in(path, std::ios::binary);
     in.imbue(std::locale::classic());
@@ -36,19 +45,18 @@ bool xsg::readPixmap(const char* path, SoSFImage& image)
         return false;
     in.get(); // the one blank before the pixels
     const int components = magic[1] == '5' ? 1 : 3;
-    const auto row = static_cast<std::size_t>(width) * static_cast<std::size_t>(components);
+    const SoImageSize size = fit({width, height}, components);
+    if (size.isEmpty())
+        return false;
     // Grows with what is really there, not with what the header claims.
-    std::vector<unsigned char> rows;
-    std::vector<unsigned char> line(row);
+    PixelScaling pixels({width, height}, size, components);
+    std::vector<unsigned char> line(static_cast<std::size_t>(width) * static_cast<std::size_t>(components));
     for (int y = 0; y < height; ++y) {
-        if (!in.read(reinterpret_cast<char*>(line.data()), static_cast<std::streamsize>(row)))
+        if (!in.read(reinterpret_cast<char*>(line.data()), static_cast<std::streamsize>(line.size())))
             return false;
-        rows.insert(rows.end(), line.begin(), line.end());
+        pixels.add(line.data());
     }
-    std::vector<unsigned char> bottomUp;
-    bottomUp.reserve(rows.size());
-    for (auto y = static_cast<std::size_t>(height); y-- > 0;)
-        bottomUp.insert(bottomUp.end(), rows.data() + y * row, rows.data() + (y + 1) * row);
-    image.setValue(width, height, components, bottomUp.data());
+    turnOver(pixels.getPixels(), static_cast<std::size_t>(size.width) * static_cast<std::size_t>(components));
+    image.setValue(size.width, size.height, components, pixels.getPixels().data());
     return true;
 }

@@ -4,6 +4,7 @@
 // never need; who wants more formats sets an SoImageReader.
 #pragma once
 
+#include <xsg/render/SoImageReader.h>
 #include <xsg/values/XsgExport.h>
 
 class SoSFImage;
@@ -11,7 +12,8 @@ class SoSFImage;
 namespace xsg
 {
 
-/// False, and the image untouched, where the file cannot be read or is none of these.
-XSG_API bool readPixmap(const char* path, SoSFImage& image);
+/// False, and the image untouched, where the file cannot be read or is none of these, or where `fit` has no
+/// room for it.
+XSG_API bool readPixmap(const char* path, SoSFImage& image, const SoImageFit& fit);
 
 } // namespace xsg

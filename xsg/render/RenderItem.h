@@ -18,6 +18,7 @@ struct RenderItem {
     GpuGeometry* geometry = nullptr;
     int drawState = 0; // its number in the list's DrawStateTable
     bool isTransparent = false;
+    bool isRepeat = false; // below a group that stands in several places, and not the first of them
     bool isDrawn() const { return geometry->indexCount > 0; }
 };
 

@@ -18,12 +18,13 @@ void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
 {
     m_list.clear();
     m_geometry.releaseAllUsers();
-    m_textures.beginRound();
+    m_textures.beginRound(root->getNodeId());
     m_openGroups.clear();
     m_wantedCamera = view.camera;
     resetState();
     state().eye = view.eye;
     traverse(root);
+    m_list.isPart = isCut();
     m_geometry.removeUnused();
     m_textures.endRound();
     m_list.statesWhenBuilt = m_list.drawStates.getSize();
@@ -64,7 +65,10 @@ void xsg::RenderListBuilder::visitShape(SoShape* shape)
     if (const SoDrawingCallback* callback = shape->asDrawingCallback())
         m_list.callbacks.push_back({callback, state().modelMatrix});
     state().forEachInstance([&](const SbMatrix& matrix) {
-        if (m_list.items.size() < MostItems)
-            m_filler.fill(m_list.items.emplace_back(), *shape, state(), matrix);
+        if (m_list.items.size() == MostItems)
+            return;
+        RenderItem& item = m_list.items.emplace_back();
+        item.isRepeat = isRepeating();
+        m_filler.fill(item, *shape, state(), matrix);
     });
 }

@@ -38,11 +38,11 @@ xsg::RenderListPatcher::RenderListPatcher(RenderList& list, GeometryStore& geome
 
 bool xsg::RenderListPatcher::patch(SoNode* root, const RenderView& view)
 {
-    if (m_list.record.isEmpty() || hasManyUnusedStates(m_list))
+    if (m_list.record.isEmpty() || m_list.isPart || hasManyUnusedStates(m_list))
         return false;
     begin(view);
     traverse(root);
-    if (m_gaveUp || m_cursor != m_list.record.getSize())
+    if (m_gaveUp || isCut() || m_cursor != m_list.record.getSize())
         return false;
     m_geometry.removeUnused();
     patchBoxes();
@@ -203,7 +203,7 @@ void xsg::RenderListPatcher::patchItem(std::uint32_t index, const SoShape& shape
     m_list.changes.items.push_back(index);
     m_filler.fill(item, shape, state(), toWorld);
     m_geometry.release(before.geometry);
-    if (item.isTransparent != before.isTransparent || item.isDrawn() != wasDrawn)
+    if (!m_list.copies.empty() || item.isTransparent != before.isTransparent || item.isDrawn() != wasDrawn)
         m_needsSorting = true;
     if (item.geometry == before.geometry && item.drawState == before.drawState)
         return;

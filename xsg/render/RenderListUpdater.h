@@ -23,6 +23,8 @@ public:
     bool update(SoNode* root, const RenderView& view);
     /// What has changed in the list since the last call.
     RenderChanges takeChanges() { return std::exchange(m_list.changes, {}); }
+    /// Gives back memory that only growing needs: to be called when nothing changes any more.
+    void fitMemory() { m_list.fitMemory(); }
     /// How many nodes the last update looked at.
     int getNumVisited() const { return m_visited; }
     /// The next update builds the list again.

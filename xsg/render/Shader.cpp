@@ -18,10 +18,10 @@ std::string logOf(GLuint object, bool isProgram)
     return text;
 }
 
-bool compile(GLuint program, GLenum kind, bool isClipped, const char* text, std::string& error)
+bool compile(GLuint program, GLenum kind, const std::string& defines, const char* text, std::string& error)
 {
     const GLuint shader = glCreateShader(kind);
-    const char* const parts[] = {xsg::VersionText, isClipped ? xsg::ClippedText : "", text};
+    const char* const parts[] = {xsg::VersionText, defines.c_str(), text};
     glShaderSource(shader, 3, parts, nullptr);
     glCompileShader(shader);
     GLint good = 0;
@@ -36,28 +36,42 @@ bool compile(GLuint program, GLenum kind, bool isClipped, const char* text, std:
 
 } // namespace
 
-bool xsg::Shader::prepare(std::string& error)
+bool xsg::buildProgram(GlProgram& program, const std::string& defines, const char* vertexText,
+                       const char* fragmentText, std::string& error)
 {
-    if (!m_plain.program && (!build(m_plain, false, error) || !build(m_clipped, true, error))) {
-        release();
-        return false;
-    }
-    return true;
-}
-
-bool xsg::Shader::build(Program& program, bool isClipped, std::string& error)
-{
-    const GLuint name = program.program.get();
-    if (!compile(name, GL_VERTEX_SHADER, isClipped, VertexShaderText, error) ||
-        !compile(name, GL_FRAGMENT_SHADER, isClipped, FragmentShaderText, error))
+    const GLuint name = program.get();
+    if (!compile(name, GL_VERTEX_SHADER, defines, vertexText, error) ||
+        !compile(name, GL_FRAGMENT_SHADER, defines, fragmentText, error))
         return false;
     glLinkProgram(name);
     GLint linked = 0;
     glGetProgramiv(name, GL_LINK_STATUS, &linked);
-    if (!linked) {
+    if (!linked)
         error = "OpenGL could not link a drawing program: " + logOf(name, true);
-        return false;
+    return linked != 0;
+}
+
+bool xsg::Shader::prepare(std::string& error)
+{
+    if (m_programs[0].program)
+        return true;
+    for (std::size_t i = 0; i < 4; ++i) {
+        if (!build(m_programs[i], i % 2 == 1, i >= 2, error)) {
+            release();
+            return false;
+        }
     }
+    return true;
+}
+
+bool xsg::Shader::build(Program& program, bool isClipped, bool isPlaceOnly, std::string& error)
+{
+    const std::string defines =
+        std::string(isClipped ? ClippedText : "") + (isPlaceOnly ? PlaceOnlyText : "");
+    if (!buildProgram(program.program, defines, VertexShaderText,
+                      isPlaceOnly ? NoFragmentText : FragmentShaderText, error))
+        return false;
+    const GLuint name = program.program.get();
     const auto location = [&](const char* uniform) { return glGetUniformLocation(name, uniform); };
     program.at = {location("viewProjection"), location("eye"),
                   location("viewport"),       location("lightCount"),
@@ -66,15 +80,14 @@ bool xsg::Shader::build(Program& program, bool isClipped, std::string& error)
                   location("ambientLight"),   location("clipCount"),
                   location("clipPlanes"),     location("textureModel"),
                   location("textureMatrix"),  location("fogKind"),
-                  location("fogColor"),       location("overrideColor"),
-                  location("screenSpace")};
+                  location("fogColor"),       location("screenSpace")};
     return true;
 }
 
 void xsg::Shader::release()
 {
-    m_plain.program.release();
-    m_clipped.program.release();
+    for (Program& each : m_programs)
+        each.program.release();
 }
 
 void xsg::Shader::use()
@@ -84,10 +97,21 @@ void xsg::Shader::use()
 
 bool xsg::Shader::setClipped(bool on)
 {
-    Program* wanted = on ? &m_clipped : &m_plain;
-    if (wanted == m_now)
+    return change(on, m_isPlaceOnly);
+}
+
+void xsg::Shader::setPlaceOnly(bool on)
+{
+    change(m_isClipped, on);
+}
+
+bool xsg::Shader::change(bool isClipped, bool isPlaceOnly)
+{
+    if (isClipped == m_isClipped && isPlaceOnly == m_isPlaceOnly)
         return false;
-    m_now = wanted;
+    m_isClipped = isClipped;
+    m_isPlaceOnly = isPlaceOnly;
+    m_now = &m_programs[(isClipped ? 1 : 0) + (isPlaceOnly ? 2 : 0)];
     use();
     sendCommon();
     return true;
@@ -99,7 +123,6 @@ void xsg::Shader::sendCommon()
     glUniformMatrix4fv(at.viewProjection, 1, GL_FALSE, m_common.viewProjection.getValue());
     glUniform4fv(at.eye, 1, m_common.eye.getValue());
     glUniform2fv(at.viewport, 1, m_common.viewport.getValue());
-    glUniform4fv(at.override, 1, m_common.override.getValue());
     glUniform1i(at.screenSpace, m_common.isScreenSpace ? 1 : 0);
 }
 
@@ -169,12 +192,6 @@ void xsg::Shader::setFog(int kind, const SbColor& color, float range)
 {
     glUniform1i(m_now->at.fogKind, kind);
     glUniform4f(m_now->at.fogColor, color[0], color[1], color[2], range);
-}
-
-void xsg::Shader::setOverride(const SbVec4f& color)
-{
-    m_common.override = color;
-    glUniform4fv(m_now->at.override, 1, color.getValue());
 }
 
 void xsg::Shader::setScreenSpace(bool on)

@@ -25,7 +25,12 @@ struct InstanceData {
     float emissive[4];
 };
 
-/// The one program that draws everything, and its settings.
+/// Builds a program of these texts, each after the version and `defines`. False with a sentence where OpenGL
+/// refuses.
+bool buildProgram(GlProgram& program, const std::string& defines, const char* vertexText,
+                  const char* fragmentText, std::string& error);
+
+/// The programs that draw scenes, and their settings.
 class Shader
 {
 public:
@@ -40,14 +45,15 @@ public:
     /// Draws with clipping planes from now on, or without them. True where that switches to another program,
     /// for which lights, planes, textures and fog have to be set again.
     bool setClipped(bool on);
+    /// Draws only where things are, without their looks: for a picture of depths. Settings are kept for the
+    /// other program.
+    void setPlaceOnly(bool on);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
     void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
     void setClipPlanes(const std::vector<SbPlane>& planes);
     void setTexture(int model, const SbMatrix& matrix); // model: -1 for none
     /// kind: -1 for none, else as SoFog::Kind.
     void setFog(int kind, const SbColor& color, float range);
-    /// Draws in one colour, without light, while its fourth number is above 0.
-    void setOverride(const SbVec4f& color);
     /// Points are then pixels beside the projected origin of the model.
     void setScreenSpace(bool on);
 
@@ -57,21 +63,22 @@ private:
         struct Locations {
             GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
                 lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
-                fogColor, override, screenSpace;
+                fogColor, screenSpace;
         } at{};
     };
-    static bool build(Program& program, bool isClipped, std::string& error);
+    static bool build(Program& program, bool isClipped, bool isPlaceOnly, std::string& error);
+    bool change(bool isClipped, bool isPlaceOnly);
     void sendCommon();
 
-    Program m_plain;
-    Program m_clipped;
-    Program* m_now = &m_plain;
+    Program m_programs[4]; // plain, clipped, and both of them for the place only
+    bool m_isClipped = false;
+    bool m_isPlaceOnly = false;
+    Program* m_now = &m_programs[0];
     /// What stays when the program changes.
     struct Common {
         SbMatrix viewProjection;
         SbVec4f eye;
         SbVec2f viewport;
-        SbVec4f override;
         bool isScreenSpace = false;
     } m_common;
 };

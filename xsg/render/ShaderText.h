@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The text of the drawing programs. The one for scenes with clipping planes has CLIPPED defined: to write the
-// distances to planes that are not there would cost each vertex a good deal.
+// distances to planes that are not there would cost each vertex a good deal. Those that draw a mask have
+// PLACE_ONLY defined: they need to know where things are, and nothing of their looks.
 #pragma once
 
 namespace xsg
@@ -8,6 +9,7 @@ namespace xsg
 
 constexpr const char* VersionText = "#version 330 core\n";
 constexpr const char* ClippedText = "#define CLIPPED\n";
+constexpr const char* PlaceOnlyText = "#define PLACE_ONLY\n";
 
 constexpr const char* VertexShaderText = R"(
 layout(location = 0) in vec3 point;
@@ -30,6 +32,7 @@ uniform vec4 clipPlanes[6];
 out float gl_ClipDistance[6];
 #endif
 
+#ifndef PLACE_ONLY
 out vec3 worldPoint;
 out vec3 worldNormal;
 out vec2 textureAt;
@@ -38,6 +41,7 @@ out vec4 vertexDiffuse;
 flat out vec4 vertexAmbient;
 flat out vec3 vertexSpecular;
 flat out vec3 vertexEmissive;
+#endif
 
 void main()
 {
@@ -48,7 +52,9 @@ void main()
         vec2 anchor = floor((gl_Position.xy / gl_Position.w * 0.5 + 0.5) * viewport + 0.5);
         gl_Position = vec4(((anchor + point.xy) / viewport * 2 - 1) * gl_Position.w, gl_Position.zw);
     }
-    worldPoint = world.xyz / world.w;
+    vec3 place = world.xyz / world.w;
+#ifndef PLACE_ONLY
+    worldPoint = place;
     // The cofactors turn normals right also where the model is stretched or mirrored.
     mat3 m = mat3(model);
     worldNormal = mat3(cross(m[1], m[2]), cross(m[2], m[0]), cross(m[0], m[1])) * normal;
@@ -58,9 +64,10 @@ void main()
     vertexAmbient = ambient;
     vertexSpecular = specular.rgb;
     vertexEmissive = emissive.rgb;
+#endif
 #ifdef CLIPPED
     for (int i = 0; i < 6; ++i)
-        gl_ClipDistance[i] = i < clipCount ? dot(clipPlanes[i].xyz, worldPoint) - clipPlanes[i].w : 1.0;
+        gl_ClipDistance[i] = i < clipCount ? dot(clipPlanes[i].xyz, place) - clipPlanes[i].w : 1.0;
 #endif
 }
 )";
@@ -86,7 +93,6 @@ uniform int textureModel;
 uniform sampler2D picture;
 uniform int fogKind;
 uniform vec4 fogColor; // fourth number: range
-uniform vec4 overrideColor;
 
 out vec4 result;
 
@@ -130,10 +136,6 @@ float fogAmount()
 
 void main()
 {
-    if (overrideColor.a > 0.0) {
-        result = overrideColor;
-        return;
-    }
     vec4 base = surfaceColor();
     vec3 color = base.rgb + vertexEmissive;
     if (isLit == 1) {
@@ -159,5 +161,7 @@ void main()
     result = vec4(color, base.a);
 }
 )";
+
+constexpr const char* NoFragmentText = "void main() {}\n";
 
 } // namespace xsg

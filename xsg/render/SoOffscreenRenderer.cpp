@@ -19,15 +19,6 @@ struct RenderbufferTraits {
     }
     static void destroy(GLuint name) { glDeleteRenderbuffers(1, &name); }
 };
-struct FramebufferTraits {
-    static GLuint create()
-    {
-        GLuint name = 0;
-        glGenFramebuffers(1, &name);
-        return name;
-    }
-    static void destroy(GLuint name) { glDeleteFramebuffers(1, &name); }
-};
 
 // A framebuffer with colour and depth.
 class Canvas
@@ -69,7 +60,7 @@ private:
     }
 
     std::array<int, 3> m_made{}; // width, height and samples
-    xsg::GlObject<FramebufferTraits> m_framebuffer;
+    xsg::GlFramebuffer m_framebuffer;
     xsg::GlObject<RenderbufferTraits> m_color;
     xsg::GlObject<RenderbufferTraits> m_depth;
 };

@@ -4,9 +4,11 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/render/DrawPacer.h>
 #include <xsg/render/DrawState.h>
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
+#include <xsg/render/Outline.h>
 #include <xsg/render/RenderListUpdater.h>
 #include <xsg/values/SbTime.h>
 
@@ -43,6 +45,23 @@ bool isMirrored(const xsg::InstanceData& instance)
     return cross(SbVec3f(m[0], m[1], m[2]), SbVec3f(m[4], m[5], m[6])).dot(SbVec3f(m[8], m[9], m[10])) < 0;
 }
 
+// The places that are in both; each in order.
+std::vector<xsg::Run> common(const std::vector<xsg::Run>& some, const std::vector<xsg::Run>& others)
+{
+    std::vector<xsg::Run> both;
+    auto other = others.begin();
+    for (auto one = some.begin(); one != some.end() && other != others.end();) {
+        const xsg::Run part{std::max(one->first, other->first), std::min(one->end, other->end)};
+        if (part.first < part.end)
+            both.push_back(part);
+        if (one->end < other->end)
+            ++one;
+        else
+            ++other;
+    }
+    return both;
+}
+
 // The eye's matrices for one frame.
 struct EyeView {
     SbMatrix view;
@@ -58,13 +77,15 @@ class SoRenderer::Impl
 public:
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     void releaseGL();
-    void setImageReader(SoImageReader reader);
+    template <class Reader>
+    void setImageReader(Reader reader);
 
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
     std::uint64_t highlight = 0; // a node's id
     SbColor highlightColor{1, 0.6F, 0.1F};
+    float highlightThickness = 2;
     bool headlight = true;
     std::string error;
     Statistics statistics;
@@ -86,7 +107,9 @@ private:
     EyeView lookThrough(const SoCamera* camera, float aspect);
     void drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum);
     void drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum, const EyeView& eye);
-    void drawHighlighted(const xsg::RenderChanges& changes);
+    void drawHighlight(const xsg::RenderChanges& changes, int width, int height);
+    void collectHighlighted(const xsg::RenderChanges& changes);
+    void drawMask(xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
     void drawCallbacks(const EyeView& eye, int width, int height);
     void drawVisible(xsg::InstanceList& instances);
     void drawBothSides(xsg::InstanceList& instances, const xsg::Run& run);
@@ -97,18 +120,20 @@ private:
     xsg::GlMessages m_messages;
     xsg::Shader m_shader;
     xsg::DrawState m_state{m_shader};
+    xsg::DrawPacer m_pacer;
     xsg::GeometryStore m_geometry;
     xsg::TextureStore m_textures;
     xsg::RenderListUpdater m_updater{m_geometry, m_textures};
     const xsg::RenderList& m_list = m_updater.getList();
     xsg::InstanceList m_opaque;
     xsg::InstanceList m_transparent;
-    xsg::InstanceList m_highlighted;
     std::vector<xsg::Run> m_visible;
     std::vector<std::pair<float, std::uint32_t>> m_depths;
     std::vector<std::uint32_t> m_order;
-    std::vector<std::uint32_t> m_highlightOrder;
+    xsg::Outline m_outline;
     std::uint64_t m_highlightCollected = 0;
+    std::vector<std::uint32_t> m_highlighted; // items
+    std::vector<xsg::Run> m_highlightedOpaque;
     SoRef<SoPerspectiveCamera> m_ownCamera;
     std::vector<SoLightSource> m_headlights;
     SbVec3f m_sceneEye; // of the scene's own camera
@@ -135,9 +160,11 @@ bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, i
     if (!prepare())
         return false;
     m_state.begin(width, height, m_headlights);
+    m_pacer.begin();
     clearPicture();
     if (root)
         drawScene(root, camera, width, height);
+    m_pacer.end();
     m_state.end();
     m_messages.collect("SoRenderer");
     statistics.seconds = time.getElapsed();
@@ -154,13 +181,13 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     const xsg::Frustum frustum(eye.viewProjection);
     m_shader.use();
     m_shader.setView(eye.viewProjection, eye.eye, width, height);
-    m_shader.setOverride({});
     m_state.setEdgesOnly(wireframe);
     drawOpaque(changes, frustum);
     drawCallbacks(eye, width, height);
     drawTransparent(changes, frustum, eye);
-    drawHighlighted(changes);
-    statistics.shapes = static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size());
+    drawHighlight(changes, width, height);
+    statistics.shapes =
+        static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
     statistics.stateChanges += m_state.getChanges();
     const Uploads after = countUploads();
     statistics.bufferUploads = after.buffers - before.buffers;
@@ -171,7 +198,7 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
 SoRenderer::Impl::Uploads SoRenderer::Impl::countUploads() const
 {
     Uploads sum{m_geometry.getUploads(), m_geometry.getUploadedBytes(), m_textures.getUploadedBytes()};
-    for (const xsg::InstanceList* each : {&m_opaque, &m_transparent, &m_highlighted}) {
+    for (const xsg::InstanceList* each : {&m_opaque, &m_transparent}) {
         sum.buffers += each->getUploads();
         sum.bytes += each->getUploadedBytes();
     }
@@ -191,8 +218,11 @@ void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
-        if (!m_updater.update(root, {camera, eye}))
+        if (!m_updater.update(root, {camera, eye})) {
+            if (walk == 0)
+                m_updater.fitMemory();
             return;
+        }
         m_sceneEye = m_list.camera ? eyeOf(*m_list.camera) : SbVec3f();
         statistics.nodes += m_updater.getNumVisited();
     }
@@ -313,26 +343,45 @@ void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Ru
     }
 }
 
-void SoRenderer::Impl::drawHighlighted(const xsg::RenderChanges& changes)
+void SoRenderer::Impl::collectHighlighted(const xsg::RenderChanges& changes)
 {
-    if (changes.all || highlight != m_highlightCollected) {
-        m_highlightOrder.clear();
+    const bool isOther = changes.all || highlight != m_highlightCollected;
+    if (isOther) {
+        m_highlighted.clear();
         if (highlight != 0)
-            m_list.collectItemsOf(highlight, m_highlightOrder);
+            m_list.collectItemsOf(highlight, m_highlighted);
         m_highlightCollected = highlight;
     }
-    m_highlighted.update(m_highlightOrder, m_list.items, changes);
-    if (m_highlighted.isEmpty())
+    if (isOther || changes.orders)
+        m_opaque.findPlaces(m_highlighted, m_highlightedOpaque);
+}
+
+void SoRenderer::Impl::drawHighlight(const xsg::RenderChanges& changes, int width, int height)
+{
+    collectHighlighted(changes);
+    std::vector<xsg::Run> opaque = common(m_highlightedOpaque, m_visible);
+    std::vector<xsg::Run> transparent;
+    if (!m_highlighted.empty())
+        m_transparent.findPlaces(m_highlighted, transparent);
+    if ((opaque.empty() && transparent.empty()) || !m_outline.prepare(width, height, error))
         return;
-    m_shader.setOverride(SbVec4f(highlightColor[0], highlightColor[1], highlightColor[2], 1));
-    m_state.setEdgesOnly(true);
-    glEnable(GL_POLYGON_OFFSET_LINE);
-    glPolygonOffset(-1, -1);
-    for (const xsg::Run& batch : m_highlighted.getBatches()) {
-        drawRun(m_highlighted, batch);
-        countDrawn(*m_highlighted.getItem(m_list.items, batch.first).geometry, batch.end - batch.first);
-    }
-    glDisable(GL_POLYGON_OFFSET_LINE);
+    m_outline.beginMask();
+    m_state.setEdgesOnly(false);
+    m_shader.use();
+    m_shader.setPlaceOnly(true);
+    drawMask(m_opaque, opaque);
+    drawMask(m_transparent, transparent);
+    m_outline.draw(highlightColor, highlightThickness);
+    m_shader.use();
+    m_shader.setPlaceOnly(false);
+}
+
+void SoRenderer::Impl::drawMask(xsg::InstanceList& instances, const std::vector<xsg::Run>& runs)
+{
+    instances.forEachPart(runs, [&](const xsg::Run& part) {
+        drawRun(instances, part);
+        countDrawn(*instances.getItem(m_list.items, part.first).geometry, part.end - part.first);
+    });
 }
 
 void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
@@ -353,9 +402,14 @@ void SoRenderer::Impl::drawRun(xsg::InstanceList& instances, const xsg::Run& run
     const xsg::GpuGeometry& geometry = *first.geometry;
     m_state.setState(m_list.drawStates.get(first.drawState));
     m_state.setGeometry(*first.geometry);
-    instances.bind(run.first);
-    glDrawElementsInstanced(Primitives[static_cast<int>(geometry.kind)], geometry.indexCount, GL_UNSIGNED_INT,
-                            nullptr, static_cast<GLsizei>(run.end - run.first));
+    const auto kind = static_cast<int>(geometry.kind);
+    m_pacer.draw(geometry.indexCount, static_cast<GLsizei>(run.end - run.first), 3 - kind,
+                 [&](const xsg::DrawPart& part) {
+                     instances.bind(run.first + static_cast<std::uint32_t>(part.firstCopy));
+                     const auto offset = static_cast<std::uintptr_t>(part.firstIndex) * sizeof(GLuint);
+                     glDrawElementsInstanced(Primitives[kind], part.indexCount, GL_UNSIGNED_INT,
+                                             reinterpret_cast<const void*>(offset), part.copies);
+                 });
     ++statistics.drawCalls;
 }
 
@@ -366,7 +420,8 @@ void SoRenderer::Impl::countDrawn(const xsg::GpuGeometry& geometry, std::int64_t
         statistics.triangles += geometry.indexCount / 3 * copies;
 }
 
-void SoRenderer::Impl::setImageReader(SoImageReader reader)
+template <class Reader>
+void SoRenderer::Impl::setImageReader(Reader reader)
 {
     m_textures.setImageReader(std::move(reader));
     m_updater.invalidate();
@@ -375,10 +430,11 @@ void SoRenderer::Impl::setImageReader(SoImageReader reader)
 void SoRenderer::Impl::releaseGL()
 {
     m_updater.clear();
+    m_outline.release();
     m_shader.release();
     m_geometry.release();
     m_textures.release();
-    for (xsg::InstanceList* each : {&m_opaque, &m_transparent, &m_highlighted})
+    for (xsg::InstanceList* each : {&m_opaque, &m_transparent})
         each->release();
 }
 
@@ -425,6 +481,11 @@ void SoRenderer::setHighlightedNumber(std::uint64_t nodeId)
     m_impl->highlight = nodeId;
 }
 
+void SoRenderer::setHighlightThickness(float pixels)
+{
+    m_impl->highlightThickness = pixels;
+}
+
 void SoRenderer::setHighlightColor(const SbColor& color)
 {
     m_impl->highlightColor = color;
@@ -441,6 +502,11 @@ void SoRenderer::setHeadlight(bool on)
 }
 
 void SoRenderer::setImageReader(SoImageReader reader)
+{
+    m_impl->setImageReader(std::move(reader));
+}
+
+void SoRenderer::setFittingImageReader(SoFittingImageReader reader)
 {
     m_impl->setImageReader(std::move(reader));
 }

@@ -41,12 +41,15 @@ public:
     void setBackground(const SbColor& color, float opacity = 1);
     /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
-    /// Marks this node and what is below it with its edges drawn in a colour; null for none. The node may be
-    /// destroyed at any time.
+    /// Marks this node and what is below it with a line around it; null for none. Where something else covers
+    /// it, the line is weaker. The node may be destroyed at any time.
     void setHighlight(const SoNode* node);
     /// The same by SoNode::getNodeId(); 0 for none.
     void setHighlightedNumber(std::uint64_t nodeId);
     void setHighlightColor(const SbColor& color);
+    /// How thick that line is, in pixels: 2 at first, 10 at most. A rim half as thick sets it off from what
+    /// is around it.
+    void setHighlightThickness(float pixels);
     /// Whether contexts for drawing should be debug contexts, in which OpenGL reports its errors by itself,
     /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
     /// otherwise.
@@ -58,6 +61,10 @@ public:
     /// How this renderer reads the image files of textures, from the next render() on. Null, as at first: by
     /// the library's own reader, which knows portable pixmaps (PGM, PPM). Other renderers are not affected.
     void setImageReader(SoImageReader reader);
+    /// The same for a reader that makes pictures as small as they have to be, without decoding them whole
+    /// first. All pictures of a scene together take no more memory than the preference XSG_PICTURE_MEMORY
+    /// says in MiB, 512 without it: what does not fit is brought down or left out, and an SoError says so.
+    void setFittingImageReader(SoFittingImageReader reader);
 
     /// What the last render() saw and did.
     struct Statistics {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/fields/SoSFImage.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/render/SoImageReader.h>
 
-#include <map>
+#include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 /// Pixels of 1 to 4 bytes, rows from the bottom up.
 struct SoImageView {
@@ -21,36 +23,31 @@ namespace xsg
 {
 
 /// The images of texture nodes: a file, where one is named and can be read, wins over the node's image field.
-/// A file is read once, and again when its name changes; other fields of the node do not matter. One that
-/// cannot be read is posted as a SoReadError.
+/// What is read is kept until drop() only, since a file can be read again. One that cannot be read is posted
+/// as a SoReadError.
 class XSG_API TextureImages
 {
 public:
-    /// Null: the library's own reader. Everything that was read is forgotten.
+    /// Null: the library's own reader.
     void setReader(SoImageReader reader);
-    /// Empty where there is none; valid until the next call that changes something here or in the node.
-    SoImageView find(const SoTexture2& node);
-    /// Forgets the files of nodes for which `isUsed(id)` is false.
-    template <class IsUsed>
-    void keepOnly(const IsUsed& isUsed)
-    {
-        for (auto it = m_files.begin(); it != m_files.end();)
-            it = isUsed(it->first) ? std::next(it) : m_files.erase(it);
-    }
+    void setReader(SoFittingImageReader reader);
+    void setReader(std::nullptr_t /*none*/) { setReader(SoFittingImageReader()); }
+
+    /// Empty where there is none, or no room for it; valid until the next call of this or drop(), and as long
+    /// as the node's field stays. `fit`, if any, says how large it may be.
+    SoImageView find(const SoTexture2& node, const SoImageFit& fit = {});
+    /// Frees what find() has read.
+    void drop();
 
 private:
-    struct File {
-        std::string path;
-        std::uint32_t version = 0; // the file name field's change count
-        SoSFImage image;
-    };
-    bool read(const std::string& path, SoSFImage& image) const;
-    const SoSFImage* readFile(const SoTexture2& node);
+    SoImageView readFile(const SoTexture2& node, const SoImageFit& fit);
     void report(const std::string& path, bool isRead);
+    SoImageView fitted(const SoImageView& image, const SoImageFit& fit);
 
-    SoImageReader m_reader;                // null: the library's own
-    std::map<std::uint64_t, File> m_files; // by the node's id
-    std::set<std::string> m_reported;      // paths that could not be read
+    SoFittingImageReader m_reader; // null: the library's own
+    std::vector<unsigned char> m_smaller;
+    std::unique_ptr<SoSFImage> m_file; // what was read
+    std::set<std::string> m_reported;  // paths that could not be read
 };
 
 } // namespace xsg

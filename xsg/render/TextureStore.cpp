@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/render/TextureStore.h>
 
+#include <xsg/errors/SoError.h>
+
 namespace
 {
 
@@ -30,52 +32,108 @@ void set(GLenum parameter, GLint value)
 
 } // namespace
 
-void xsg::TextureStore::setImageReader(SoImageReader reader)
-{
-    m_images.setReader(std::move(reader));
-    ++m_readers;
-}
-
 xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality)
 {
     if (!node || !(quality > 0))
         return nullptr;
     const Filter filter = quality < 0.5F ? Blocky : quality > 0.5F ? Smoothest : Smooth;
-    const auto [place, isNew] =
-        m_textures.try_emplace({node->getNodeId(), node->getChangeCount(), m_readers, filter});
+    const auto [place, isNew] = m_textures.try_emplace({node->getNodeId(), filter});
     GpuTexture& kept = place->second;
-    if (isNew)
-        upload(*node, filter, kept);
+    if (isNew || kept.nodeVersion != node->getChangeCount())
+        update(*node, filter, kept);
     kept.usedAt = m_round;
     return kept.isEmpty ? nullptr : &kept;
 }
 
+// Fields that say nothing of the image itself leave it where it is: its file is not read again.
+void xsg::TextureStore::update(const SoTexture2& node, Filter filter, GpuTexture& texture)
+{
+    const bool isNew = texture.usedAt == 0;
+    GpuTexture::Source source{node.getFilePath(), node.fileName.getChangeCount(),
+                              node.image.getChangeCount()};
+    texture.nodeVersion = node.getChangeCount();
+    if (isNew || !(source == texture.source)) {
+        texture.source = std::move(source);
+        forget(texture);
+        upload(node, filter, texture);
+    } else if (!texture.isEmpty) {
+        glBindTexture(GL_TEXTURE_2D, texture.texture.get());
+        setFilter(node, filter);
+    }
+}
+
+void xsg::TextureStore::forget(GpuTexture& texture)
+{
+    texture.texture.release();
+    m_budget.giveBack(std::exchange(texture.bytes, 0));
+    texture.isEmpty = true;
+    texture.hasAlpha = false;
+}
+
 void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture& to)
 {
-    const SoImageView image = m_images.find(node);
-    if (image.isEmpty())
-        return;
     GLint largest = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
-    if (image.width > largest || image.height > largest)
-        return;
+    SoImageSize whole;
+    bool isWhole = true;
+    const auto fit = [&](const SoImageSize& size, int bytesPerPixel) {
+        if (isWhole)
+            whole = size;
+        const SoImageSize fitted = m_budget.fit(size, bytesPerPixel, largest);
+        isWhole = isWhole && fitted == size;
+        return fitted;
+    };
+    const SoImageView image = m_images.find(node, fit);
+    if (!isWhole)
+        report(node, whole, {image.width, image.height}, largest);
+    if (image.isEmpty())
+        return m_images.drop();
     const PixelFormat& format = Formats[image.components - 1];
     glBindTexture(GL_TEXTURE_2D, to.texture.get());
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glTexImage2D(GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.external,
                  GL_UNSIGNED_BYTE, image.bytes);
     glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, format.swizzle);
+    setFilter(node, filter);
+    if (filter == Smoothest)
+        glGenerateMipmap(GL_TEXTURE_2D);
+    to.isEmpty = false;
+    to.hasAlpha = image.components == 2 || image.components == 4;
+    to.bytes = std::int64_t{image.width} * image.height * image.components;
+    m_budget.take(to.bytes);
+    m_uploadedBytes += to.bytes;
+    m_images.drop();
+}
+
+void xsg::TextureStore::setFilter(const SoTexture2& node, Filter filter) const
+{
     set(GL_TEXTURE_WRAP_S, wrapOf(node.wrapS));
     set(GL_TEXTURE_WRAP_T, wrapOf(node.wrapT));
     set(GL_TEXTURE_MAG_FILTER, filter == Blocky ? GL_NEAREST : GL_LINEAR);
     set(GL_TEXTURE_MIN_FILTER, filter == Blocky   ? GL_NEAREST
                                : filter == Smooth ? GL_LINEAR
                                                   : GL_LINEAR_MIPMAP_LINEAR);
-    if (filter == Smoothest)
-        glGenerateMipmap(GL_TEXTURE_2D);
-    to.isEmpty = false;
-    to.hasAlpha = image.components == 2 || image.components == 4;
-    m_uploadedBytes += std::int64_t{image.width} * image.height * image.components;
+}
+
+void xsg::TextureStore::report(const SoTexture2& node, const SoImageSize& size, const SoImageSize& fitted,
+                               int mostSide)
+{
+    const std::string path = node.getFilePath();
+    std::string name = path.substr(path.find_last_of('/') + 1);
+    if (name.empty())
+        name = node.getReferenceName().getString();
+    const std::string sentence = describeFit(name, size, fitted, m_budget, mostSide);
+    if (m_reported.insert(sentence).second)
+        SoError::post(sentence.c_str());
+}
+
+void xsg::TextureStore::beginRound(std::uint64_t sceneId)
+{
+    if (sceneId != m_sceneId || m_isOutdated)
+        release();
+    m_sceneId = sceneId;
+    m_isOutdated = false;
+    ++m_round;
 }
 
 void xsg::TextureStore::endRound()
@@ -85,13 +143,9 @@ void xsg::TextureStore::endRound()
             ++it;
             continue;
         }
-        it->second.texture.release();
+        forget(it->second);
         it = m_textures.erase(it);
     }
-    m_images.keepOnly([this](std::uint64_t nodeId) {
-        const auto first = m_textures.lower_bound({nodeId, 0, 0, Blocky});
-        return first != m_textures.end() && std::get<0>(first->first) == nodeId;
-    });
 }
 
 void xsg::TextureStore::release()
@@ -99,4 +153,5 @@ void xsg::TextureStore::release()
     for (auto& [key, texture] : m_textures)
         texture.texture.release();
     m_textures.clear();
+    m_budget = PictureBudget::preferred();
 }

@@ -11,6 +11,12 @@ void xsg::WalkRecord::clear()
     m_children.clear();
 }
 
+void xsg::WalkRecord::fitMemory()
+{
+    if (m_entries.capacity() > getSize() + getSize() / 8)
+        m_entries.shrink_to_fit();
+}
+
 void xsg::WalkRecord::add(const SoNode* node, std::size_t itemCount)
 {
     m_entries.push_back({node->getNodeId(), node->getChangeCount(), node->getChangeCount(),

@@ -32,6 +32,8 @@ public:
     };
 
     void clear();
+    /// Gives back what the record has grown beyond its contents.
+    void fitMemory();
     bool isEmpty() const { return m_entries.empty(); }
     std::size_t getSize() const { return m_entries.size(); }
     Entry& operator[](std::size_t place) { return m_entries[place]; }

@@ -2,6 +2,7 @@
 #include <xsg/values/SbValueText.h>
 
 #include <xsg/values/Utf.h>
+#include <xsg/values/ValueScan.h>
 
 #include <algorithm>
 
@@ -85,43 +86,12 @@ bool xsg::TextReader::readQuoted(std::string& out)
     return false;
 }
 
-namespace
-{
-
-std::size_t afterQuoted(std::string_view text, std::size_t at)
-{
-    for (++at; at < text.size(); ++at) {
-        if (text[at] == '"')
-            return at + 1;
-        if (text[at] == '\\')
-            ++at;
-    }
-    return std::string_view::npos;
-}
-
-} // namespace
-
 xsg::ValueExtent::ValueExtent(std::string_view text)
 {
-    const bool isList = !text.empty() && text.front() == '[';
-    const std::string_view ends = isList ? "\"]" : "\"\n!<}#";
-    while (true) {
-        length = std::min(text.find_first_of(ends, length), text.size());
-        if (length == text.size() || text[length] != '"')
-            break;
-        const std::size_t after = afterQuoted(text, length);
-        if (after == std::string_view::npos) {
-            open = length;
-            return;
-        }
-        length = after;
-    }
-    if (!isList)
-        return;
-    if (length == text.size())
-        open = 0;
-    else
-        ++length;
+    ValueScan scan;
+    scan.advance(text);
+    open = scan.getOpen();
+    length = isWhole() ? scan.getLength() : open;
 }
 
 std::string_view xsg::trimmed(std::string_view text)

@@ -3,6 +3,9 @@
 
 #include "document/Autosave.h"
 
+#include <xsg/files/SceneReader.h>
+#include <xsg/files/SoSceneFile.h>
+
 #include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
@@ -21,9 +24,36 @@ protected:
         autosave.start();
     }
     QStringList scenes() const { return QDir(path).entryList({"*.xsg"}); }
-    QByteArray saved() const
+    QByteArray snapshot() const
     {
         return scenes().isEmpty() ? QByteArray() : contentOf(path + '/' + scenes()[0]);
+    }
+    QByteArray journal() const
+    {
+        return contentOf(path + '/' + QDir(path).entryList({"*.journal"}).value(0, "none"));
+    }
+    QByteArray saved() const { return snapshot() + journal(); }
+    // As the next session reads it.
+    std::string recovered() const
+    {
+        const QByteArray text = snapshot();
+        xsg::SceneReader reader(std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
+        reader.keepNodes();
+        const SoRef<SoNode> scene = reader.read();
+        EXPECT_TRUE(scene) << reader.getProblem();
+        if (!scene)
+            return {};
+        const int comment = text.lastIndexOf("# snapshot ");
+        const QByteArray id = text.mid(comment).trimmed().mid(11);
+        const QString file = path + '/' + QDir(path).entryList({"*.journal"}).value(0, "none");
+        EXPECT_EQ(EditJournal::read(file, id).apply(reader.takeNodes()), "");
+        return SoSceneFile::writeText(scene.get());
+    }
+    std::string current() const { return SoSceneFile::writeText(document.getRoot()); }
+    void addMaterials(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            static_cast<SoSeparator*>(document.getRoot())->addChild(new SoMaterial);
     }
     bool waitForSaved(const char* text)
     {
@@ -57,12 +87,12 @@ TEST_F(Autosaving, WritesManyEditsOnce)
 
 TEST_F(Autosaving, WritesASlowSceneLessOften)
 {
-    for (int i = 0; i < 20000; ++i)
-        static_cast<SoSeparator*>(document.getRoot())->addChild(new SoMaterial);
+    addMaterials(20000);
     edit(0.5F);
     const auto* pause = autosave.findChild<QTimer*>("pause");
     EXPECT_EQ(pause->interval(), 20);
     ASSERT_TRUE(waitForSaved("transparency: 0.5"));
+    addMaterials(1);
     edit(0.75F);
     EXPECT_GT(pause->interval(), 20);
 }
@@ -81,6 +111,122 @@ TEST_F(Autosaving, WaitsForTheReleaseOfAHeldButton)
     EXPECT_TRUE(scenes().isEmpty());
     QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
+}
+
+TEST_F(Autosaving, AButtonThatIsHeldForLongDelaysNothing)
+{
+    autosave.setLimit(30);
+    QWidget widget;
+    widget.show();
+    QTest::mousePress(widget.windowHandle(), Qt::LeftButton);
+    edit(0.5F);
+    EXPECT_TRUE(waitForSaved("transparency: 0.5"));
+    edit(0.75F);
+    EXPECT_TRUE(waitForSaved("transparency: 0.75"));
+    EXPECT_EQ(QGuiApplication::mouseButtons(), Qt::LeftButton);
+    QTest::mouseRelease(widget.windowHandle(), Qt::LeftButton);
+}
+
+TEST_F(Autosaving, RecordsWhatChangesAfterASnapshot)
+{
+    edit(0.5F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.5"));
+    const QByteArray before = snapshot();
+    for (const float value : {0.625F, 0.75F, 0.875F}) {
+        edit(value);
+        ASSERT_TRUE(waitForSaved(QByteArray("transparency: ") + QByteArray::number(value)));
+    }
+    material->diffuseColor.set1Value(2, SbColor(1, 0, 0.5F)); // a list of many goes the same way
+    material->diffuseColor.setNum(5000);
+    edit(0.9375F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.9375"));
+    autosave.keepNow();
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_EQ(recovered(), current());
+}
+
+TEST_F(Autosaving, MoreThanFieldsTakesAnotherSnapshot)
+{
+    edit(0.5F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.5"));
+    edit(0.625F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.625"));
+    addMaterials(3);
+    material->setName("renamed");
+    edit(0.75F);
+    ASSERT_TRUE(waitFor([&] { return snapshot().contains("transparency: 0.75"); }));
+    EXPECT_EQ(recovered(), current()) << "and not what the journal of the first one says";
+    edit(0.875F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.875"));
+    EXPECT_EQ(recovered(), current());
+}
+
+TEST_F(Autosaving, WhatChangesWhileALargeSceneBecomesTextIsNotLost)
+{
+    addMaterials(20000);
+    edit(0.5F);
+    auto* last = static_cast<SoMaterial*>(document.getRoot()->asGroup()->getChild(20000));
+    const auto* writer = autosave.findChild<SnapshotWriter*>();
+    ASSERT_TRUE(waitFor([&] { return writer->isReading(); }));
+    int edits = 0;
+    while (writer->isReading()) {
+        last->shininess.setValue(static_cast<float>(++edits));
+        edit(static_cast<float>(edits) / 1024);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GT(edits, 2) << "there was time to edit";
+    autosave.keepNow();
+    EXPECT_EQ(recovered(), current());
+}
+
+TEST_F(Autosaving, AChangeOfChildrenInterruptsASnapshotButNotForEver)
+{
+    addMaterials(20000);
+    const auto* writer = autosave.findChild<SnapshotWriter*>();
+    int interruptions = 0;
+    while (scenes().isEmpty()) {
+        edit(static_cast<float>(++interruptions) / 1024);
+        ASSERT_TRUE(waitFor([&] { return writer->isReading() || !scenes().isEmpty(); }));
+        static_cast<SoSeparator*>(document.getRoot())->removeChild(1);
+    }
+    EXPECT_GE(interruptions, 3);
+    edit(0.5F);
+    autosave.keepNow();
+    EXPECT_EQ(recovered(), current());
+}
+
+TEST_F(Autosaving, KeepsEverythingAtOnceWhereThereIsNoTime)
+{
+    autosave.setPause(1000000);
+    autosave.keepNow();
+    EXPECT_TRUE(scenes().isEmpty()) << "nothing is unsaved";
+    edit(0.5F);
+    autosave.keepNow();
+    EXPECT_EQ(recovered(), current());
+    const QByteArray before = snapshot();
+    edit(0.625F);
+    autosave.keepNow();
+    EXPECT_EQ(recovered(), current());
+    EXPECT_EQ(snapshot(), before);
+    addMaterials(20000);
+    edit(0.75F);
+    autosave.keepNow();
+    EXPECT_EQ(recovered(), current());
+    ASSERT_EQ(document.save(folder.filePath("scene.xsg")), "");
+    EXPECT_TRUE(waitFor([&] { return !QDir(path).exists(); }));
+}
+
+TEST_F(Autosaving, ASceneThatIsReplacedIsNotLookedAtAnyMore)
+{
+    addMaterials(20000);
+    edit(0.5F);
+    const auto* writer = autosave.findChild<SnapshotWriter*>();
+    ASSERT_TRUE(waitFor([&] { return writer->isReading(); }));
+    begin();
+    EXPECT_FALSE(writer->isBusy());
+    edit(0.75F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.75"));
+    EXPECT_EQ(recovered(), current());
 }
 
 TEST_F(Autosaving, SavesDuringUninterruptedEdits)

@@ -45,7 +45,10 @@ protected:
     {
         const ModelReadResult model = readModel(path);
         EXPECT_EQ(model.error, "");
-        return model.notes.join('\n').toStdString();
+        std::string lines;
+        for (const std::string& note : model.notes)
+            lines += (lines.empty() ? "" : "\n") + note;
+        return lines;
     }
     ModelFiles files;
 };

@@ -4,6 +4,7 @@
 
 #include "import/SceneBuilder.h"
 #include "reader/AssimpModel.h"
+#include "reader/ModelPictures.h"
 #include "reader/ModelReader.h"
 #include "viewport/SceneCamera.h"
 
@@ -166,7 +167,8 @@ TEST(SceneCameras, StandUpright)
     eye->mPosition = {1, 2, 3};
     eye->mLookAt = {0, 5, 0};
     eye->mUp = {2, 0, 0};
-    ModelData model = fromAssimp(scene, {});
+    ModelPictures pictures(scene, {}, xsg::PictureBudget::preferred());
+    ModelData model = fromAssimp(scene, pictures);
     const auto built = buildScene(model, "eye");
     auto* camera = find<SoPerspectiveCamera>(built.get());
     ASSERT_TRUE(camera);

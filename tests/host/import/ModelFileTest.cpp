@@ -46,7 +46,7 @@ TEST(ModelFile, TransfersAnErrorAndNotes)
 {
     ModelReadResult model;
     model.error = QStringLiteral("“ä” cannot be opened: ….");
-    model.notes = QStringList{"One “ü”.", "Two."};
+    model.notes = {"One “ü”.", "Two."};
     ModelReadResult again;
     ASSERT_TRUE(read(written(model), again));
     EXPECT_EQ(again.error, model.error);

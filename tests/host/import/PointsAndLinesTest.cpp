@@ -30,7 +30,7 @@ protected:
     {
         ModelReadResult model = readModel(files.write(name, content));
         EXPECT_EQ(model.error, "");
-        EXPECT_EQ(model.notes, QStringList());
+        EXPECT_TRUE(model.notes.empty());
         scene = buildScene(std::move(model.data), name);
     }
     template <class Node>

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program: reads the command line, chooses the window system and hands over to the host.
+#include "program/EndOfSession.h"
+
 #include <scopix-host/HostApplication.h>
 
 #include <QApplication>
@@ -38,6 +40,15 @@ bool chooseWindowSystem(const scopix::CommandLine& line)
     return hasDisplay();
 }
 
+int run(const scopix::CommandLine& line)
+{
+    using scopix::EndOfSession;
+    scopix::HostApplication host;
+    const EndOfSession end(
+        [&host](EndOfSession::Widgets widgets) { host.keepEdits(widgets == EndOfSession::Widgets::Usable); });
+    return host.run(line);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -73,6 +84,5 @@ int main(int argc, char** argv)
     // window.
     if (QApplication::platformName() == QLatin1String("offscreen"))
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    scopix::HostApplication host;
-    return host.run(line);
+    return scopix::EndOfSession::endWith(run(line));
 }

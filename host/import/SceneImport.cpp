@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "import/SceneImport.h"
+
+#include "model/GradualRelease.h"
+
+#include <QFile>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr int FirstMs = 60; // what takes no longer is not worth a dialog, nor to come back for
+constexpr int TurnMs = 15;  // of reading, before the user's events are looked at again
+
+} // namespace
+
+SceneImport::SceneImport(QWidget* window, QObject* parent)
+    : FileImport(window, parent)
+{
+}
+
+SceneImport::~SceneImport()
+{
+    cancelReading();
+}
+
+void SceneImport::start(const QString& path)
+{
+    m_reading = std::make_unique<xsg::SceneReading>(QFile::encodeName(path).toStdString());
+    if (m_keepsNodes)
+        m_reading->getReader().keepNodes();
+    openDialog(path);
+    m_turn.start(0, this);
+    readOn(FirstMs);
+}
+
+void SceneImport::timerEvent(QTimerEvent* /*event*/)
+{
+    readOn(TurnMs);
+}
+
+void SceneImport::readOn(int ms)
+{
+    using Clock = xsg::SceneReader::Clock;
+    if (m_reading->advance(Clock::now() + std::chrono::milliseconds(ms)))
+        return report();
+    showPercent(static_cast<int>(m_reading->getProgress() * 100)); // may run the event loop, and so cancel
+}
+
+void SceneImport::report()
+{
+    const SoRef<SoNode> scene = m_reading->takeScene();
+    const std::vector<SoNode*> nodes = m_reading->getReader().takeNodes();
+    const QString error = QString::fromStdString(m_reading->getError());
+    cancelReading();
+    if (scene)
+        emit finished(scene, nodes);
+    else
+        emit failed(error);
+}
+
+void SceneImport::cancel()
+{
+    if (cancelReading())
+        emit cancelled();
+}
+
+// False where nothing is being read.
+bool SceneImport::cancelReading()
+{
+    m_turn.stop();
+    closeDialog();
+    const std::unique_ptr<xsg::SceneReading> reading = std::move(m_reading);
+    if (reading)
+        releaseGradually(reading->getReader().abandon());
+    return reading != nullptr;
+}
+
+} // namespace scopix
