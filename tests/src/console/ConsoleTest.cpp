@@ -279,6 +279,15 @@ TEST_F(Console, ShowsSceneGraphErrorsFromTheEventLoop)
     EXPECT_TRUE(lines()[7].contains("cause"));
 }
 
+TEST_F(Console, ShowsErrorsInUtf8OrElseByteByByte)
+{
+    start();
+    SoError::post("\xE2\x80\x9C\xC3\xA9\xE2\x80\x9D");
+    SoError::post("caf\xE9");
+    m_host.pump();
+    EXPECT_EQ(lines(), (QStringList{QString::fromUtf8("“é”"), QString::fromUtf8("café")}));
+}
+
 TEST_F(Console, TakesErrorsWhileInactive)
 {
     start();
