@@ -187,12 +187,11 @@ private:
     {
         std::vector<std::int32_t> lines;
         for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
-            if (lines.empty() || lines.back() != pairs[i]) {
-                if (!lines.empty())
-                    lines.push_back(-1);
-                lines.push_back(pairs[i]);
-            }
-            lines.push_back(pairs[i + 1]);
+            const bool goesOn = !lines.empty() && lines.back() == pairs[i];
+            if (!goesOn && !lines.empty())
+                lines.insert(lines.end(), -1);
+            const auto* pair = pairs.data() + i;
+            lines.insert(lines.end(), goesOn ? pair + 1 : pair, pair + 2);
         }
         return lines;
     }
