@@ -2,6 +2,7 @@
 #include <xsg/render/RenderListBuilder.h>
 
 #include <xsg/actions/GroupCache.h>
+#include <xsg/actions/RepeatBound.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
@@ -24,6 +25,9 @@ void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
     resetState();
     state().eye = view.eye;
     traverse(root);
+    if (m_list.items.size() == MostItems)
+        reportBound(*root, "has so many copies of shapes that only the first " + std::to_string(MostItems) +
+                               " of them are shown.");
     m_list.isPart = isCut();
     m_geometry.removeUnused();
     m_textures.endRound();
