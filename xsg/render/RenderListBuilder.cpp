@@ -73,6 +73,7 @@ void xsg::RenderListBuilder::visitShape(SoShape* shape)
             return;
         RenderItem& item = m_list.items.emplace_back();
         item.isRepeat = isRepeating();
+        m_list.hasRepeats = m_list.hasRepeats || item.isRepeat;
         m_filler.fill(item, *shape, state(), matrix);
     });
 }
