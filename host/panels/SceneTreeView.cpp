@@ -3,11 +3,45 @@
 
 #include "panels/SceneTreeModel.h"
 
+#include <xsg/errors/SoError.h>
+#include <xsg/nodes/groups/SoGroup.h>
+
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 namespace scopix
 {
+
+namespace
+{
+
+// Rows that are unfolded by one key: a scene may share its groups so often that all would be millions.
+constexpr std::size_t MostUnfolded = 50000;
+constexpr int AllLevels = -1;
+
+// How many levels below the node have no more rows than that together.
+int countLevels(SoNode* node)
+{
+    std::vector<SoNode*> level{node};
+    std::size_t rows = 0;
+    for (int depth = 0; !level.empty(); ++depth) {
+        std::vector<SoNode*> below;
+        for (SoNode* each : level) {
+            const SoGroup* group = each->asGroup();
+            if (!group)
+                continue;
+            rows += group->getChildren().size();
+            if (rows > MostUnfolded)
+                return depth;
+            below.insert(below.end(), group->getChildren().begin(), group->getChildren().end());
+        }
+        level.swap(below);
+    }
+    return AllLevels;
+}
+
+} // namespace
 
 SceneTreeView::SceneTreeView(QWidget* parent)
     : QTreeView(parent)
@@ -79,6 +113,27 @@ void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, i
         }
     }
     QTreeView::rowsAboutToBeRemoved(parent, first, last);
+}
+
+void SceneTreeView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Asterisk && currentIndex().isValid())
+        unfoldAll(currentIndex());
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void SceneTreeView::unfoldAll(const QModelIndex& index)
+{
+    const int levels = countLevels(m_model->nodeAt(index));
+    if (levels == AllLevels)
+        return expandRecursively(index);
+    expandRecursively(index, std::max(0, levels - 1));
+    SoError::post(tr("The tree was unfolded by %1 levels only, as all of them would have more than %L2 rows.")
+                      .arg(std::max(1, levels))
+                      .arg(MostUnfolded)
+                      .toUtf8()
+                      .constData());
 }
 
 void SceneTreeView::resizeEvent(QResizeEvent* event)

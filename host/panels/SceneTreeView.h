@@ -37,8 +37,10 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void unfoldAll(const QModelIndex& index);
     void dropSelection();
 
     SceneTreeModel* m_model;

@@ -23,14 +23,16 @@ std::string nameOf(const SoNode& root)
 
 } // namespace
 
-void xsg::reportRepeats(const SoNode& root)
+void xsg::reportBound(const SoNode& root, const std::string& rest)
 {
     static ReportedRoots& reported = Context::get().state<ReportedRoots>();
-    if (!reported.ids.insert(root.getNodeId()).second)
-        return;
-    SoError::post((nameOf(root) +
-                   " has groups that stand in so many places that only a part of it is shown, "
-                   "measured and searched: the first " +
-                   std::to_string(SoTraversal::MostRepeats) + " repeated nodes.")
-                      .c_str());
+    if (reported.ids.insert(root.getNodeId()).second)
+        SoError::post((nameOf(root) + ' ' + rest).c_str());
+}
+
+void xsg::reportRepeats(const SoNode& root)
+{
+    reportBound(root, "has groups that stand in so many places that only a part of it is shown, measured and "
+                      "searched: the first " +
+                          std::to_string(SoTraversal::MostRepeats) + " repeated nodes.");
 }

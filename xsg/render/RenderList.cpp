@@ -42,6 +42,7 @@ void xsg::RenderList::clear()
     cameraMatrix = {};
     hasLights = false;
     isViewDependent = false;
+    hasRepeats = false;
     isPart = false;
 }
 
@@ -56,6 +57,8 @@ void xsg::RenderList::fitMemory()
 void xsg::RenderList::findCopies()
 {
     copies.clear();
+    if (!hasRepeats)
+        return;
     std::unordered_multimap<std::size_t, std::uint32_t> known;
     for (std::uint32_t i = 0; i < items.size(); ++i) {
         if (!items[i].isRepeat || items[i].isTransparent || !items[i].isDrawn())

@@ -31,6 +31,7 @@ struct RenderList {
     SbMatrix cameraMatrix; // from the coordinates at the camera to the world's
     bool hasLights = false;
     bool isViewDependent = false;
+    bool hasRepeats = false;
     bool isPart = false; // of the scene, which repeats more than a walk follows
 
     RenderChanges changes;

@@ -2,6 +2,7 @@
 #include <xsg/render/RenderListBuilder.h>
 
 #include <xsg/actions/GroupCache.h>
+#include <xsg/actions/RepeatBound.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
@@ -24,6 +25,9 @@ void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
     resetState();
     state().eye = view.eye;
     traverse(root);
+    if (m_list.items.size() == MostItems)
+        reportBound(*root, "has so many copies of shapes that only the first " + std::to_string(MostItems) +
+                               " of them are shown.");
     m_list.isPart = isCut();
     m_geometry.removeUnused();
     m_textures.endRound();
@@ -69,6 +73,7 @@ void xsg::RenderListBuilder::visitShape(SoShape* shape)
             return;
         RenderItem& item = m_list.items.emplace_back();
         item.isRepeat = isRepeating();
+        m_list.hasRepeats = m_list.hasRepeats || item.isRepeat;
         m_filler.fill(item, *shape, state(), matrix);
     });
 }
