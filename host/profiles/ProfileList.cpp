@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "profiles/ProfileList.h"
 
+#include "profiles/ProfileMerge.h"
+
 #include <algorithm>
 #include <map>
 
@@ -61,18 +63,60 @@ void ProfileList::makeActive(HostProfile* profile, bool remember)
 {
     const bool isAnother = m_active != profile;
     m_active = profile;
-    if (remember && m_rememberedActive != profile->name()) {
-        m_rememberedActive = profile->name();
-        save();
-    }
+    if (remember && m_rememberedActive != profile->name())
+        rememberActive();
     if (isAnother)
         emit activeChanged();
 }
 
+// Another session may have removed the profile that is chosen here: then it is wanted again.
+void ProfileList::rememberActive()
+{
+    const ProfileChoice chosen = m_active->choice();
+    ProfileSettings settings{choices(), {}};
+    const std::vector<ProfileChoice> before = settings.profiles;
+    m_rememberedActive = chosen.name;
+    const QString problem = m_file.change(settings, [&](ProfileSettings& present) {
+        const auto isChosen = [&](const ProfileChoice& each) { return each.name == chosen.name; };
+        if (std::none_of(present.profiles.begin(), present.profiles.end(), isChosen))
+            present.profiles.push_back(chosen);
+        present.active = chosen.name;
+    });
+    if (!(settings.profiles == before)) {
+        replaceProfiles(std::move(settings.profiles));
+        fillSettings();
+        emit changed();
+    }
+    if (!problem.isEmpty())
+        emit failed(problem);
+}
+
 void ProfileList::setProfiles(std::vector<ProfileChoice> choices, const QString& active)
 {
-    adopt(std::move(choices), active);
-    save();
+    setProfiles(std::move(choices), active, this->choices());
+}
+
+void ProfileList::setProfiles(std::vector<ProfileChoice> wanted, const QString& active,
+                              const std::vector<ProfileChoice>& base)
+{
+    ProfileSettings settings{base, {}};
+    const QString problem = m_file.change(settings, [&](ProfileSettings& present) {
+        present.profiles = mergeProfiles(base, wanted, present.profiles);
+        addDefault(present.profiles);
+        if (present.active.isEmpty() || active != m_rememberedActive)
+            present.active = active;
+    });
+    adopt(std::move(settings.profiles), active);
+    if (!problem.isEmpty())
+        emit failed(problem);
+}
+
+std::vector<ProfileChoice> ProfileList::choices() const
+{
+    std::vector<ProfileChoice> all;
+    for (const auto& profile : m_profiles)
+        all.push_back(profile->choice());
+    return all;
 }
 
 void ProfileList::adopt(std::vector<ProfileChoice> choices, const QString& active)
@@ -128,16 +172,6 @@ void ProfileList::fillSettings()
         }
         profile->setting().setControlledExtensions(controlled);
     }
-}
-
-void ProfileList::save()
-{
-    ProfileSettings settings{{}, m_rememberedActive};
-    for (const auto& profile : m_profiles)
-        settings.profiles.push_back(profile->choice());
-    const QString problem = m_file.write(settings);
-    if (!problem.isEmpty())
-        emit failed(problem);
 }
 
 } // namespace scopix

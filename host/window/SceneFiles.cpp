@@ -7,6 +7,7 @@
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
 #include "undo/TextInput.h"
+#include "window/ChangedFileQuestion.h"
 #include "window/DefaultScene.h"
 
 #include <xsg/files/SoSceneFile.h>
@@ -44,12 +45,14 @@ SoRef<SoNode> readScene(const QString& path, QString& error)
 
 SceneFiles::SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier)
     : m_window(window)
+    , m_services(services)
     , m_notifier(notifier)
     , m_document(services)
     , m_recent(UserSettings::windowFile())
     , m_autosave(m_document)
 {
     connect(&m_autosave, &Autosave::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_watch, &FileWatch::noticed, &m_document, &SceneDocument::checkFile);
 }
 
 SceneFiles::~SceneFiles() = default;
@@ -59,6 +62,7 @@ void SceneFiles::open(const QString& path)
     if (m_import)
         m_import->cancel(); // the user has changed their mind
     m_droppable = m_document.getEditCount();
+    m_opening = FileStamp(path);
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
         return reportFailure(error);
@@ -108,6 +112,7 @@ void SceneFiles::forgetImport()
 void SceneFiles::cancelled(const QString& path)
 {
     forgetImport();
+    m_reselect = {};
     m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
     emit opened(false);
 }
@@ -115,16 +120,25 @@ void SceneFiles::cancelled(const QString& path)
 void SceneFiles::show(SoNode* root, const QString& path)
 {
     forgetImport();
-    m_document.begin(root, path, QFileInfo(path).fileName());
-    if (m_notifier.isAttended())
-        m_recent.add(path);
+    m_document.begin(root, path, QFileInfo(path).fileName(), m_opening);
+    m_reselect.restore(m_services, root);
+    m_reselect = {};
     m_notifier.info(tr("Opened “%1”.").arg(path));
+    remember(path);
     emit opened(true);
+}
+
+void SceneFiles::reload()
+{
+    const SelectionMemo selection(m_services, m_document.getRoot());
+    m_reselect = selection;
+    open(m_document.getPath());
 }
 
 void SceneFiles::reportFailure(const QString& sentence)
 {
     forgetImport();
+    m_reselect = {};
     m_notifier.error(sentence);
     emit opened(false);
 }
@@ -180,15 +194,59 @@ bool SceneFiles::saveAs()
 bool SceneFiles::saveTo(const QString& path)
 {
     applyTyping();
+    return mayReplace(path) ? write(path) : resolveConflict();
+}
+
+bool SceneFiles::write(const QString& path)
+{
     const QString error = m_document.save(path);
     if (!error.isEmpty()) {
         m_notifier.error(error);
         return false;
     }
-    if (m_notifier.isAttended())
-        m_recent.add(path);
     m_notifier.info(tr("Saved “%1”.").arg(path));
+    remember(path);
     return true;
+}
+
+void SceneFiles::remember(const QString& path)
+{
+    const QString problem = m_notifier.isAttended() ? m_recent.add(path) : QString();
+    if (!problem.isEmpty())
+        m_notifier.info(problem); // the file itself is as it should be
+}
+
+bool SceneFiles::mayReplace(const QString& path)
+{
+    const bool isOwn = QFileInfo(path) == QFileInfo(m_document.getPath());
+    return !isOwn || m_document.checkFile() != SceneDocument::FileState::Changed;
+}
+
+bool SceneFiles::resolveConflict()
+{
+    const QString path = m_document.getPath();
+    if (!m_notifier.isAttended()) {
+        m_notifier.error(
+            tr("“%1” is not saved: another program has changed it since it was opened.").arg(path));
+        return false;
+    }
+    switch (askAboutChangedFile(m_window, m_document.getTitle(), m_document.isModified())) {
+    case ChangedFileAnswer::Reload:
+        reload();
+        return false;
+    case ChangedFileAnswer::SaveElsewhere:
+        return saveAs();
+    case ChangedFileAnswer::Replace:
+        return write(path);
+    case ChangedFileAnswer::Cancel:
+        break;
+    }
+    return false;
+}
+
+void SceneFiles::watchFile()
+{
+    m_watch.watch(m_document.getPath());
 }
 
 bool SceneFiles::confirmClose()
@@ -240,10 +298,12 @@ void SceneFiles::applyTyping()
 void SceneFiles::enterInteractiveMode()
 {
     m_autosave.start();
+    connect(&m_document, &SceneDocument::stateChanged, this, &SceneFiles::watchFile);
+    watchFile();
     if (m_document.isExternal())
         return; // recovered edits would take the place of the scene that the application shows
     if (!m_document.getPath().isEmpty())
-        m_recent.add(m_document.getPath());
+        remember(m_document.getPath());
     offerRecovery();
 }
 
@@ -277,7 +337,10 @@ void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
     if (!scene)
         return m_notifier.error(error);
     const RecoverySlot::Origin origin = slot->getOrigin();
-    m_document.beginModified(scene.get(), origin.path, origin.title);
+    // What was edited may not be what the file holds by now.
+    const bool isOlder = QFileInfo(origin.path).lastModified() > slot->getTime();
+    m_document.beginModified(scene.get(), origin.path, origin.title,
+                             isOlder ? std::optional(FileStamp()) : std::nullopt);
     m_autosave.adopt(std::move(slot));
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
 }
