@@ -119,6 +119,19 @@ QString reasonAgainstTarget(const QString& path)
     return isProtected ? QString::fromLocal8Bit(std::strerror(EACCES)) : QString();
 }
 
+// Where the disk takes a part only, the next attempt says why.
+bool writeAll(QFile& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
 QString tryToWrite(const QString& path, const std::function<QByteArray()>& content)
 {
     const QString reason = reasonAgainstTarget(path);
@@ -129,8 +142,8 @@ QString tryToWrite(const QString& path, const std::function<QByteArray()>& conte
         return translated("Another program is using it");
     const QByteArray bytes = content();
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text) &&
-        file.write(bytes) == bytes.size() && file.flush())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text | QIODevice::Unbuffered) &&
+        writeAll(file, bytes))
         return {};
     return path.isEmpty() ? translated("No file name specified") : file.errorString();
 }
