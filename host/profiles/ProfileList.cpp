@@ -33,6 +33,7 @@ void ProfileList::read()
 {
     QString error;
     ProfileSettings settings = m_file.read(error);
+    m_inFile = settings.profiles;
     adopt(std::move(settings.profiles), settings.active);
     if (!error.isEmpty())
         emit failed(error);
@@ -73,10 +74,10 @@ void ProfileList::makeActive(HostProfile* profile, bool remember)
 void ProfileList::rememberActive()
 {
     const ProfileChoice chosen = m_active->choice();
-    ProfileSettings settings{choices(), {}};
-    const std::vector<ProfileChoice> before = settings.profiles;
+    const std::vector<ProfileChoice> before = choices();
+    ProfileSettings settings{before, {}};
     m_rememberedActive = chosen.name;
-    const QString problem = m_file.change(settings, [&](ProfileSettings& present) {
+    const QString problem = write(settings, before, [&](ProfileSettings& present) {
         const auto isChosen = [&](const ProfileChoice& each) { return each.name == chosen.name; };
         if (std::none_of(present.profiles.begin(), present.profiles.end(), isChosen))
             present.profiles.push_back(chosen);
@@ -99,16 +100,43 @@ void ProfileList::setProfiles(std::vector<ProfileChoice> choices, const QString&
 void ProfileList::setProfiles(std::vector<ProfileChoice> wanted, const QString& active,
                               const std::vector<ProfileChoice>& base)
 {
-    ProfileSettings settings{base, {}};
-    const QString problem = m_file.change(settings, [&](ProfileSettings& present) {
-        present.profiles = mergeProfiles(base, wanted, present.profiles);
-        addDefault(present.profiles);
+    ProfileSettings settings{std::move(wanted), {}};
+    const QString problem = write(settings, base, [&](ProfileSettings& present) {
         if (present.active.isEmpty() || active != m_rememberedActive)
             present.active = active;
     });
     adopt(std::move(settings.profiles), active);
     if (!problem.isEmpty())
         emit failed(problem);
+}
+
+// Of profiles that this session started from, those that the file has held, as it held them: what could not
+// be written is still to be added or changed.
+std::vector<ProfileChoice> ProfileList::inFile(const std::vector<ProfileChoice>& base) const
+{
+    std::vector<ProfileChoice> known;
+    for (const ProfileChoice& each : m_inFile) {
+        const auto isSame = [&](const ProfileChoice& other) { return other.name == each.name; };
+        if (std::any_of(base.begin(), base.end(), isSame))
+            known.push_back(each);
+    }
+    return known;
+}
+
+// Merges the profiles of `settings`, which this session has made of `base`, with those of the file, and
+// writes them.
+QString ProfileList::write(ProfileSettings& settings, const std::vector<ProfileChoice>& base,
+                           const std::function<void(ProfileSettings&)>& act)
+{
+    const std::vector<ProfileChoice> wanted = settings.profiles;
+    QString problem = m_file.change(settings, [&](ProfileSettings& present) {
+        present.profiles = mergeProfiles(inFile(base), wanted, present.profiles);
+        addDefault(present.profiles);
+        act(present);
+    });
+    if (problem.isEmpty())
+        m_inFile = settings.profiles;
+    return problem;
 }
 
 std::vector<ProfileChoice> ProfileList::choices() const

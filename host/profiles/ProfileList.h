@@ -74,8 +74,12 @@ private:
     void makeActive(HostProfile* profile, bool remember);
     void fillSettings();
     void rememberActive();
+    std::vector<ProfileChoice> inFile(const std::vector<ProfileChoice>& base) const;
+    QString write(ProfileSettings& settings, const std::vector<ProfileChoice>& base,
+                  const std::function<void(ProfileSettings&)>& act);
 
     ProfileFile m_file;
+    std::vector<ProfileChoice> m_inFile; // when it was last read or written
     std::vector<std::unique_ptr<HostProfile>> m_profiles;
     std::vector<std::unique_ptr<HostProfile>> m_retired;
     QHash<QString, HostProfile*> m_byName; // those of m_profiles

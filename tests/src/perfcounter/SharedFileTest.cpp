@@ -208,7 +208,7 @@ TEST_F(SharedCounterFile, ProcessesAtOnceLoseNothing)
 {
     writeExample();
     constexpr int Processes = 3;
-    constexpr int Steps = 25;
+    constexpr int Steps = 15;
     inProcesses(Processes, [&](int number) {
         using namespace counterProfileFile;
         std::mt19937 random(unsigned(number) + unsigned(qEnvironmentVariableIntValue("SCOPIX_WALK_SEED")));
