@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SpxConsole.h"
 
+#include "ConsoleFile.h"
 #include "ConsoleText.h"
 #include "ScopedErrorHandlers.h"
 #include "ui_SpxConsole.h"
@@ -239,7 +240,7 @@ void SpxConsole::save()
 {
     const QString name = QFileDialog::getSaveFileName(m_frame, tr("Save the content of the console"), ".",
                                                       tr("Console outputs (*.txt)"));
-    if (name.isEmpty() || !m_text)
+    if (name.isEmpty() || !m_text || !consoleFile::mayBeWritten(name))
         return;
     QFile file(name);
     // An existing longer file keeps its tail (decisions.md: console-saved-over).

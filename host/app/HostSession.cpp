@@ -6,12 +6,16 @@
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
 #include "settings/Preferences.h"
+#include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
 #include <xsg/core/SoPreferences.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLocale>
+#include <QMessageBox>
 #include <QSettings>
 
 namespace scopix
@@ -85,6 +89,8 @@ void HostSession::start(const CommandLine& line)
     const QString homeTrouble = DataDirectory::ensure();
     if (!homeTrouble.isEmpty())
         m_notifier.error(homeTrouble);
+    if (!line.isUnattended() && SoPreferences::getBool(CounterSwitch, false))
+        keepCounters();
     loadPlugins(line);
     m_notifier.setPrintsPostedErrors(line.isUnattended()); // the console is there now
     if (!line.isUnattended())
@@ -94,6 +100,34 @@ void HostSession::start(const CommandLine& line)
         openFinished(true);
     else
         m_window->openFile(line.file);
+}
+
+// Before their tool reads the file.
+void HostSession::keepCounters()
+{
+    m_counterBackup = std::make_unique<CounterBackup>(CounterBackup::standardFile());
+    if (m_counterBackup->hasCopy() && !m_counterBackup->findDamage().isEmpty())
+        offerCounterCopy();
+    m_counterBackup->start();
+}
+
+void HostSession::offerCounterCopy()
+{
+    QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(),
+                    tr("The file of the performance counters, “%1”, is damaged: %2.")
+                        .arg(m_counterBackup->getFile(), m_counterBackup->findDamage()),
+                    QMessageBox::NoButton, m_window.get());
+    box.setObjectName(QStringLiteral("counterCopy"));
+    box.setInformativeText(
+        tr("A good copy of it was kept on %1. The damaged file is kept, too, when that is put back.")
+            .arg(QLocale().toString(m_counterBackup->getTime(), QLocale::ShortFormat)));
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* yes = box.addButton(tr("&Put Back"), QMessageBox::AcceptRole);
+    box.addButton(tr("&Leave As It Is"), QMessageBox::RejectRole);
+    box.exec();
+    const QString problem = box.clickedButton() == yes ? m_counterBackup->restore() : QString();
+    if (!problem.isEmpty())
+        m_notifier.error(problem);
 }
 
 void HostSession::loadPlugins(const CommandLine& line)
@@ -135,16 +169,21 @@ void HostSession::finish(const CommandLine& line, bool opened)
 void HostSession::restoreLayout()
 {
     m_keepsLayout = true;
-    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    const SettingsFile settings(UserSettings::windowFile());
     m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
 }
 
-void HostSession::saveLayout() const
+void HostSession::saveLayout()
 {
-    QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
-    settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+    const QString problem = SettingsFile(UserSettings::windowFile()).change([this](QSettings& settings) {
+        settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
+        settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+    });
+    if (problem.isEmpty())
+        return;
+    m_notifier.setAttended(false); // a box would go with the window
+    m_notifier.error(problem);
 }
 
 } // namespace scopix

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/SensorPump.h"
+#include "document/CounterBackup.h"
 #include "plugins/HostPluginsManager.h"
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
@@ -55,10 +56,12 @@ signals:
 private:
     void connectParts();
     void loadPlugins(const CommandLine& line);
+    void keepCounters();
+    void offerCounterCopy();
     void openFinished(bool opened);
     void finish(const CommandLine& line, bool opened);
     void restoreLayout();
-    void saveLayout() const;
+    void saveLayout();
 
     SensorPump m_pump;
     UserNotifier m_notifier;
@@ -68,7 +71,9 @@ private:
     HostPluginsManager m_plugins;
     UndoShortcutFilter m_undoShortcuts;
     std::optional<CommandLine> m_asked; // until its file has been opened
-    bool m_keepsLayout = false;         // a user works with the window
+    std::unique_ptr<CounterBackup>
+        m_counterBackup;        // outlives the plug-ins, up to what they write at their end
+    bool m_keepsLayout = false; // a user works with the window
     int m_status = 0;
 };
 

@@ -18,41 +18,44 @@ const QString& key()
 
 } // namespace
 
-RecentFiles::RecentFiles(QString file)
-    : m_file(std::move(file))
+RecentFiles::RecentFiles(const QString& file)
+    : m_file(file)
 {
 }
 
 // Read on each call: another session may have added to it.
 QStringList RecentFiles::list() const
 {
-    return QSettings(m_file, QSettings::IniFormat).value(key()).toStringList().mid(0, Most);
+    return m_file.value(key()).toStringList().mid(0, Most);
 }
 
-void RecentFiles::add(const QString& path)
+template <class Change>
+QString RecentFiles::change(Change change)
+{
+    return m_file.change([&](QSettings& settings) {
+        QStringList paths = settings.value(key()).toStringList();
+        change(paths);
+        settings.setValue(key(), QStringList(paths.mid(0, Most)));
+    });
+}
+
+QString RecentFiles::add(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
-    QStringList paths = list();
-    paths.removeAll(absolute);
-    paths.prepend(absolute);
-    write(paths.mid(0, Most));
+    return change([&](QStringList& paths) {
+        paths.removeAll(absolute);
+        paths.prepend(absolute);
+    });
 }
 
-void RecentFiles::remove(const QString& path)
+QString RecentFiles::remove(const QString& path)
 {
-    QStringList paths = list();
-    paths.removeAll(path);
-    write(paths);
+    return change([&](QStringList& paths) { paths.removeAll(path); });
 }
 
-void RecentFiles::clear()
+QString RecentFiles::clear()
 {
-    write({});
-}
-
-void RecentFiles::write(const QStringList& paths) const
-{
-    QSettings(m_file, QSettings::IniFormat).setValue(key(), paths);
+    return change([](QStringList& paths) { paths.clear(); });
 }
 
 } // namespace scopix

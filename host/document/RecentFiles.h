@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/SettingsFile.h"
+
 #include <QStringList>
 
 namespace scopix
@@ -14,18 +16,20 @@ public:
     static constexpr int Most = 10;
 
     /// `file`: the settings file to keep them in.
-    explicit RecentFiles(QString file);
+    explicit RecentFiles(const QString& file);
 
     QStringList list() const;
-    /// Puts it first.
-    void add(const QString& path);
-    void remove(const QString& path);
-    void clear();
+    /// Puts it first. As the others, returns one sentence where the list cannot be changed, else an empty
+    /// text.
+    QString add(const QString& path);
+    QString remove(const QString& path);
+    QString clear();
 
 private:
-    void write(const QStringList& paths) const;
+    template <class Change>
+    QString change(Change change);
 
-    QString m_file;
+    SettingsFile m_file;
 };
 
 } // namespace scopix

@@ -8,13 +8,27 @@
 
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
+#include <xsg/support/FileReplacement.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace scopix
 {
+
+namespace
+{
+
+// The folder of the file itself, which relative names of pictures start from, by whatever link it is opened.
+QString folderOf(const QString& path)
+{
+    const std::string file = xsg::followLinks(QFile::encodeName(path).toStdString());
+    return QFileInfo(QFile::decodeName(file.c_str())).absolutePath();
+}
+
+} // namespace
 
 SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
@@ -42,12 +56,13 @@ QStringList SceneDocument::fileExtensions()
     return QStringList(sceneEnding()) + modelEndings();
 }
 
-void SceneDocument::begin(SoNode* root, const QString& path, const QString& title)
+void SceneDocument::begin(SoNode* root, const QString& path, const QString& title,
+                          const std::optional<FileStamp>& stamp)
 {
     if (!path.isEmpty())
-        setPictureFolder(root, QFileInfo(path).absolutePath());
+        setPictureFolder(root, folderOf(path));
     replaceRoot(root, false);
-    setState(path, title);
+    setState(path, title, stamp);
 }
 
 void SceneDocument::beginExternal(SoNode* root, const QString& title)
@@ -68,9 +83,10 @@ void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
     emit rootChanged(root);
 }
 
-void SceneDocument::beginModified(SoNode* root, const QString& path, const QString& title)
+void SceneDocument::beginModified(SoNode* root, const QString& path, const QString& title,
+                                  const std::optional<FileStamp>& stamp)
 {
-    begin(root, path, title);
+    begin(root, path, title, stamp);
     m_services.undoStack().resetClean();
 }
 
@@ -86,16 +102,13 @@ bool SceneDocument::isModified() const
 
 QString SceneDocument::save(const QString& path)
 {
-    // A link stays one; what it leads to is replaced.
-    const QFileInfo target(path);
-    const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
-    const QString reason = reasonAgainstWriting(real, {sceneEnding()});
+    const QString reason = reasonAgainstWriting(path, {sceneEnding()});
     if (!reason.isEmpty())
         return tr("The scene “%1” cannot be written: %2.").arg(path, reason);
-    if (!m_isExternal && QFileInfo(real).dir().exists())
-        movePictures(m_root.get(), QFileInfo(real).absolutePath());
+    if (!m_isExternal && QFileInfo::exists(folderOf(path)))
+        movePictures(m_root.get(), folderOf(path));
     std::string error;
-    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(real).toStdString(), error))
+    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error))
         return QString::fromStdString(error);
     if (!m_isExternal)
         adoptFile(path);
@@ -110,12 +123,34 @@ void SceneDocument::adoptFile(const QString& path)
     setState(path, QFileInfo(path).fileName());
 }
 
-void SceneDocument::setState(const QString& path, const QString& title)
+void SceneDocument::setState(const QString& path, const QString& title, const std::optional<FileStamp>& stamp)
 {
     // The path outlives the folder that the program was started in: it is kept for recovery.
     m_path = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
     m_title = title;
+    m_fileState = FileState::AsOpened;
+    m_stamp = stamp || m_path.isEmpty() ? stamp.value_or(FileStamp()) : FileStamp(m_path);
     emit stateChanged();
+}
+
+SceneDocument::FileState SceneDocument::checkFile()
+{
+    if (m_path.isEmpty())
+        return FileState::AsOpened;
+    FileState state = FileState::AsOpened;
+    switch (m_stamp.compare(m_path)) {
+    case FileStamp::Difference::None:
+        break;
+    case FileStamp::Difference::Changed:
+        state = FileState::Changed;
+        break;
+    case FileStamp::Difference::Deleted:
+        state = FileState::Deleted;
+        break;
+    }
+    if (std::exchange(m_fileState, state) != state)
+        emit stateChanged();
+    return state;
 }
 
 void SceneDocument::watch(SoField* field)

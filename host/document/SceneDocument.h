@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/FileStamp.h"
+
 #include <xsg/nodes/base/SoNode.h>
 #include <xsg/sensors/SoFieldSensor.h>
 
 #include <QObject>
 #include <QString>
+
+#include <optional>
 
 class SoField;
 
@@ -29,11 +33,16 @@ public:
     static QString sceneEnding();
     static QStringList fileExtensions();
 
+    enum class FileState { AsOpened, Changed, Deleted };
+
     /// Opens another scene in place of the one before, and clears selection and history. `path` is the scene
-    /// file or model it came from, or empty; `title` names it.
-    void begin(SoNode* root, const QString& path, const QString& title);
+    /// file or model it came from, or empty; `title` names it; `stamp` is that of the file before it was
+    /// read, otherwise that of now.
+    void begin(SoNode* root, const QString& path, const QString& title,
+               const std::optional<FileStamp>& stamp = {});
     /// As begin(), with edits that are in no file.
-    void beginModified(SoNode* root, const QString& path, const QString& title);
+    void beginModified(SoNode* root, const QString& path, const QString& title,
+                       const std::optional<FileStamp>& stamp = {});
 
     /// As begin(), with a scene that belongs to the application around the host. It is never modified in the
     /// sense of isModified(), and saving writes a copy of it.
@@ -46,6 +55,12 @@ public:
     const QString& getTitle() const { return m_title; }
     /// True when it came from a scene file or was saved as one, so that saving needs no name.
     bool hasSceneFile() const;
+
+    /// What other programs have done to the file since it was opened or saved, as far as checkFile() has
+    /// seen.
+    FileState getFileState() const { return m_fileState; }
+    /// Looks at the file now.
+    FileState checkFile();
 
     /// There are edits since it was opened or saved that undoing has not taken back.
     bool isModified() const;
@@ -61,7 +76,7 @@ signals:
     /// The views are to show this root; the one before is alive until all have been notified.
     void rootChanged(SoNode* root);
     void edited();
-    /// Path, title or the modified state.
+    /// Path, title, the modified state or that of the file.
     void stateChanged();
 
 private:
@@ -71,13 +86,15 @@ private:
     void acted();
     void replaceRoot(SoNode* root, bool isExternal);
     void adoptFile(const QString& path);
-    void setState(const QString& path, const QString& title);
+    void setState(const QString& path, const QString& title, const std::optional<FileStamp>& stamp = {});
 
     HostServices& m_services;
     SoRef<SoNode> m_root;
     bool m_isExternal = false;
     QString m_path;
     QString m_title;
+    FileStamp m_stamp;
+    FileState m_fileState = FileState::AsOpened;
     SoFieldSensor m_sensor;         // of the selected field: some edits leave no step in the history
     std::uint32_t m_knownCount = 0; // of that field's changes, up to the last act of the history
     bool m_touched = false;         // by such an edit

@@ -13,12 +13,19 @@ namespace scopix
 struct ExtensionChoice {
     bool all = false;
     QStringList names;
+
+    bool operator==(const ExtensionChoice& other) const { return all == other.all && names == other.names; }
 };
 
 struct ProfileChoice {
     QString name;
     ExtensionChoice editors;
     ExtensionChoice tools; // extensions other than editors
+
+    bool operator==(const ProfileChoice& other) const
+    {
+        return name == other.name && editors == other.editors && tools == other.tools;
+    }
 };
 
 /// A profile and its choice of extensions. The choice is kept by name, so that it outlives a plug-in that is

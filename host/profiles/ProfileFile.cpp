@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "profiles/ProfileFile.h"
 
+#include "settings/SettingsLock.h"
 #include "settings/UserSettings.h"
+#include "support/InputFile.h"
+#include "support/OutputFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,7 +13,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -159,24 +161,52 @@ ProfileSettings ProfileFile::shipped()
 
 ProfileSettings ProfileFile::read(QString& error) const
 {
-    QFile file(m_path);
-    if (!file.exists())
-        return shipped();
-    if (!file.open(QIODevice::ReadOnly)) {
-        error = tr("The profiles file “%1” cannot be read (%2); the shipped profiles are used.")
-                    .arg(m_path, file.errorString());
-        return shipped();
+    ProfileSettings settings = shipped();
+    if (!readPresent(settings, error) && !error.isEmpty())
+        error = tr("%1, and the shipped profiles are used.").arg(error);
+    return settings;
+}
+
+// False, and perhaps why, where the settings stay as they are.
+bool ProfileFile::readPresent(ProfileSettings& settings, QString& error) const
+{
+    if (!QFileInfo::exists(m_path))
+        return false;
+    QByteArray text;
+    const QFileInfo file(m_path);
+    const bool isTooLarge = file.isFile() && file.size() > LargestFile;
+    const QString reason = isTooLarge ? QString() : readFile(m_path, LargestFile, text);
+    if (!reason.isEmpty()) {
+        error = tr("The profiles file “%1” cannot be read: %2").arg(m_path, reason);
+        return false;
     }
     try {
-        if (file.size() > LargestFile)
+        if (isTooLarge)
             throw Damage{tr("it is larger than any profiles file can be")};
-        return parse(file.read(LargestFile));
+        settings = parse(text);
+        return true;
     } catch (const Damage& damage) {
-        file.close();
-        error = tr("The profiles file “%1” is damaged: %2; %3, and the shipped profiles are used.")
-                    .arg(m_path, damage.text, setAside());
-        return shipped();
+        error = tr("The profiles file “%1” is damaged: %2; %3").arg(m_path, damage.text, setAside());
+        return false;
     }
+}
+
+QString ProfileFile::change(ProfileSettings& settings, const std::function<void(ProfileSettings&)>& act) const
+{
+    const SettingsLock lock(m_path);
+    QString error;
+    if (lock.reasonAgainst().isEmpty())
+        readPresent(settings, error);
+    act(settings);
+    if (!lock.reasonAgainst().isEmpty())
+        return cannotWrite(lock.reasonAgainst());
+    // What could not be read must not be written over; a damaged file has been kept under another name.
+    return error.isEmpty() || !QFileInfo::exists(m_path) ? write(settings) : error + QLatin1Char('.');
+}
+
+QString ProfileFile::cannotWrite(const QString& reason) const
+{
+    return tr("The profiles file “%1” cannot be written: %2.").arg(m_path, reason);
 }
 
 QString ProfileFile::setAside() const
@@ -201,11 +231,8 @@ QString ProfileFile::write(const ProfileSettings& settings) const
     const QJsonObject root{{QStringLiteral("active"), settings.active},
                            {QStringLiteral("profiles"), profiles}};
     QDir().mkpath(QFileInfo(m_path).path());
-    QSaveFile file(m_path);
-    const QByteArray text = QJsonDocument(root).toJson();
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
-        return {};
-    return tr("The profiles file “%1” cannot be written: %2.").arg(m_path, file.errorString());
+    const QString reason = replaceFile(m_path, QJsonDocument(root).toJson());
+    return reason.isEmpty() ? QString() : cannotWrite(reason);
 }
 
 QString ProfileFile::nameProblem(const QString& name, const std::vector<ProfileChoice>& others)

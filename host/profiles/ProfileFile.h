@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace scopix
@@ -36,13 +37,20 @@ public:
     /// The file's settings, or the shipped ones. A damaged file is kept under another name, and `error` says
     /// so.
     ProfileSettings read(QString& error) const;
-    /// Empty when written, else why not, in one sentence.
+    /// Empty when written, else why not, in one sentence. Whatever other sessions have written is lost.
     QString write(const ProfileSettings& settings) const;
+    /// Reads the file again, lets `act` change what it holds, and writes it, while no other session can do
+    /// so; `settings` is what was written. Where there is no file, or none that can be used, `act` is handed
+    /// `settings` as it comes. Empty when written, else why not, in one sentence, and `settings` is as `act`
+    /// would have had it.
+    QString change(ProfileSettings& settings, const std::function<void(ProfileSettings&)>& act) const;
 
     /// Why the text cannot be a profile's name beside the others; empty when it can.
     static QString nameProblem(const QString& name, const std::vector<ProfileChoice>& others);
 
 private:
+    bool readPresent(ProfileSettings& settings, QString& error) const;
+    QString cannotWrite(const QString& reason) const;
     QString setAside() const;
 
     QString m_path;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "profiles/ProfileList.h"
 
+#include "profiles/ProfileMerge.h"
+
 #include <algorithm>
 #include <map>
 
@@ -31,6 +33,7 @@ void ProfileList::read()
 {
     QString error;
     ProfileSettings settings = m_file.read(error);
+    m_inFile = settings.profiles;
     adopt(std::move(settings.profiles), settings.active);
     if (!error.isEmpty())
         emit failed(error);
@@ -61,18 +64,87 @@ void ProfileList::makeActive(HostProfile* profile, bool remember)
 {
     const bool isAnother = m_active != profile;
     m_active = profile;
-    if (remember && m_rememberedActive != profile->name()) {
-        m_rememberedActive = profile->name();
-        save();
-    }
+    if (remember && m_rememberedActive != profile->name())
+        rememberActive();
     if (isAnother)
         emit activeChanged();
 }
 
+// Another session may have removed the profile that is chosen here: then it is wanted again.
+void ProfileList::rememberActive()
+{
+    const ProfileChoice chosen = m_active->choice();
+    const std::vector<ProfileChoice> before = choices();
+    ProfileSettings settings{before, {}};
+    m_rememberedActive = chosen.name;
+    const QString problem = write(settings, before, [&](ProfileSettings& present) {
+        const auto isChosen = [&](const ProfileChoice& each) { return each.name == chosen.name; };
+        if (std::none_of(present.profiles.begin(), present.profiles.end(), isChosen))
+            present.profiles.push_back(chosen);
+        present.active = chosen.name;
+    });
+    if (!(settings.profiles == before)) {
+        replaceProfiles(std::move(settings.profiles));
+        fillSettings();
+        emit changed();
+    }
+    if (!problem.isEmpty())
+        emit failed(problem);
+}
+
 void ProfileList::setProfiles(std::vector<ProfileChoice> choices, const QString& active)
 {
-    adopt(std::move(choices), active);
-    save();
+    setProfiles(std::move(choices), active, this->choices());
+}
+
+void ProfileList::setProfiles(std::vector<ProfileChoice> wanted, const QString& active,
+                              const std::vector<ProfileChoice>& base)
+{
+    ProfileSettings settings{std::move(wanted), {}};
+    const QString problem = write(settings, base, [&](ProfileSettings& present) {
+        if (present.active.isEmpty() || active != m_rememberedActive)
+            present.active = active;
+    });
+    adopt(std::move(settings.profiles), active);
+    if (!problem.isEmpty())
+        emit failed(problem);
+}
+
+// Of profiles that this session started from, those that the file has held, as it held them: what could not
+// be written is still to be added or changed.
+std::vector<ProfileChoice> ProfileList::inFile(const std::vector<ProfileChoice>& base) const
+{
+    std::vector<ProfileChoice> known;
+    for (const ProfileChoice& each : m_inFile) {
+        const auto isSame = [&](const ProfileChoice& other) { return other.name == each.name; };
+        if (std::any_of(base.begin(), base.end(), isSame))
+            known.push_back(each);
+    }
+    return known;
+}
+
+// Merges the profiles of `settings`, which this session has made of `base`, with those of the file, and
+// writes them.
+QString ProfileList::write(ProfileSettings& settings, const std::vector<ProfileChoice>& base,
+                           const std::function<void(ProfileSettings&)>& act)
+{
+    const std::vector<ProfileChoice> wanted = settings.profiles;
+    QString problem = m_file.change(settings, [&](ProfileSettings& present) {
+        present.profiles = mergeProfiles(inFile(base), wanted, present.profiles);
+        addDefault(present.profiles);
+        act(present);
+    });
+    if (problem.isEmpty())
+        m_inFile = settings.profiles;
+    return problem;
+}
+
+std::vector<ProfileChoice> ProfileList::choices() const
+{
+    std::vector<ProfileChoice> all;
+    for (const auto& profile : m_profiles)
+        all.push_back(profile->choice());
+    return all;
 }
 
 void ProfileList::adopt(std::vector<ProfileChoice> choices, const QString& active)
@@ -128,16 +200,6 @@ void ProfileList::fillSettings()
         }
         profile->setting().setControlledExtensions(controlled);
     }
-}
-
-void ProfileList::save()
-{
-    ProfileSettings settings{{}, m_rememberedActive};
-    for (const auto& profile : m_profiles)
-        settings.profiles.push_back(profile->choice());
-    const QString problem = m_file.write(settings);
-    if (!problem.isEmpty())
-        emit failed(problem);
 }
 
 } // namespace scopix

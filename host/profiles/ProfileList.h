@@ -38,13 +38,19 @@ public:
     const std::vector<std::unique_ptr<HostProfile>>& profiles() const { return m_profiles; }
     HostProfile* findProfile(const QString& name) const;
     HostProfile* activeProfile() const { return m_active; }
-    /// Makes the profile active and writes that down. One that is not in the list is ignored.
+    /// Makes the profile active and writes that down; profiles that other sessions have added by then join
+    /// the list. One that is not in the list is ignored.
     void setActiveProfile(const SpxProfile* profile);
     /// Makes a profile of this name active for this session only, without writing it down.
     bool useProfile(const QString& name);
     /// Replaces all choices and writes them down. Profiles of the same name stay the same objects; where the
-    /// active one is not among them, "Default" becomes active. "Default" itself always stays.
+    /// active one is not among them, "Default" becomes active. "Default" itself always stays. What other
+    /// sessions have changed since the choices were `base`, or those of this list, is kept; see
+    /// mergeProfiles().
     void setProfiles(std::vector<ProfileChoice> choices, const QString& active);
+    void setProfiles(std::vector<ProfileChoice> choices, const QString& active,
+                     const std::vector<ProfileChoice>& base);
+    std::vector<ProfileChoice> choices() const;
 
     /// The extensions that there are, in the order of their registration. Not owned.
     const std::vector<ProfiledExtension>& extensions() const { return m_extensions; }
@@ -67,15 +73,19 @@ private:
     void replaceProfiles(std::vector<ProfileChoice> choices);
     void makeActive(HostProfile* profile, bool remember);
     void fillSettings();
-    void save();
+    void rememberActive();
+    std::vector<ProfileChoice> inFile(const std::vector<ProfileChoice>& base) const;
+    QString write(ProfileSettings& settings, const std::vector<ProfileChoice>& base,
+                  const std::function<void(ProfileSettings&)>& act);
 
     ProfileFile m_file;
+    std::vector<ProfileChoice> m_inFile; // when it was last read or written
     std::vector<std::unique_ptr<HostProfile>> m_profiles;
     std::vector<std::unique_ptr<HostProfile>> m_retired;
     QHash<QString, HostProfile*> m_byName; // those of m_profiles
     std::vector<ProfiledExtension> m_extensions;
     HostProfile* m_active = nullptr;
-    QString m_rememberedActive; // by the file
+    QString m_rememberedActive; // the one that this session has written down, or found
 };
 
 } // namespace scopix

@@ -37,6 +37,7 @@ void showCheckBoxes(QTreeWidget& tree)
 ProfilesDialog::ProfilesDialog(ProfileList& profiles, QWidget* parent)
     : QDialog(parent)
     , m_source(profiles)
+    , m_base(profiles.choices())
     , m_list(new QListWidget)
     , m_tree(new QTreeWidget)
     , m_problem(new QLabel)
@@ -274,7 +275,7 @@ ProfileChoice* ProfilesDialog::current()
 void ProfilesDialog::accept()
 {
     const QString active = m_profiles[m_active].name;
-    m_source.setProfiles(m_profiles, active);
+    m_source.setProfiles(m_profiles, active, m_base);
     QDialog::accept();
 }
 

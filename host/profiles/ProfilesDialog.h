@@ -52,6 +52,7 @@ private:
     ProfileChoice* current();
 
     ProfileList& m_source;
+    const std::vector<ProfileChoice> m_base; // as they were when the dialog opened
     std::vector<ProfileChoice> m_profiles;
     std::size_t m_active = 0;
     QListWidget* m_list;

@@ -7,9 +7,9 @@
 #include "reader/FormatChecks.h"
 #include "reader/LeftOut.h"
 #include "reader/ModelPictures.h"
+#include "reader/RegularFiles.h"
 #include "reader/ScopedCLocale.h"
 
-#include <assimp/DefaultIOSystem.h>
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
@@ -59,7 +59,7 @@ private:
 
 // Remembers which files of materials a model names and are not there: the importer does without. Where one
 // is missing it tries the model's own name with their ending, of which the user knows nothing.
-class FileAccess : public Assimp::DefaultIOSystem
+class FileAccess : public RegularFiles
 {
 public:
     FileAccess(const QString& model, QStringList& missing)
@@ -69,7 +69,7 @@ public:
     }
     Assimp::IOStream* Open(const char* path, const char* mode) override
     {
-        Assimp::IOStream* file = DefaultIOSystem::Open(path, mode);
+        Assimp::IOStream* file = RegularFiles::Open(path, mode);
         if (!file)
             note(QFileInfo(QFile::decodeName(path)).fileName());
         return file;

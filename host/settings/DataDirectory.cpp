@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "settings/DataDirectory.h"
 
+#include "settings/UserSettings.h"
+#include "support/InputFile.h"
+#include "support/OutputFile.h"
+
 #include <xsg/core/SoPreferences.h>
 
 #include <QCoreApplication>
@@ -16,6 +20,7 @@ namespace
 {
 
 constexpr auto Variable = "XSGHOME";
+constexpr qint64 LargestFile = 1 << 20; // of those that are shipped
 constexpr auto Shipped = ":/scopix/home/";
 
 // The folder that was set here, and not by the user.
@@ -41,11 +46,10 @@ QString copyMissing(const QDir& home)
         const QString target = home.filePath(shipped.relativeFilePath(source));
         if (QFile::exists(target))
             continue;
-        if (!home.mkpath(QFileInfo(target).path()) || !QFile::copy(source, target))
+        QByteArray content;
+        if (!home.mkpath(QFileInfo(target).path()) || !readFile(source, LargestFile, content).isEmpty() ||
+            !replaceFile(target, content).isEmpty())
             return target;
-        // A copy of a resource is read-only.
-        QFile::setPermissions(target,
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     }
     return {};
 }
@@ -56,8 +60,9 @@ QString DataDirectory::ensure()
 {
     if (isChosenByUser())
         return {};
-    const QDir home(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                    QStringLiteral("/scopix"));
+    const QDir home(
+        UserSettings::absolute(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) +
+        QStringLiteral("/scopix"));
     fed() = SbString(QFile::encodeName(home.path()).toStdString());
     SoPreferences::setValue(Variable, fed());
     const QString failed = copyMissing(home);

@@ -5,8 +5,10 @@
 
 #include <xsg/core/SoPreferences.h>
 #include <xsg/errors/SoReadError.h>
+#include <xsg/support/SpecialFile.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -82,6 +84,12 @@ QSettings::Format format()
 
 void Preferences::feed()
 {
+    const std::string file = QFile::encodeName(path()).toStdString();
+    if (xsg::isSpecialFile(file)) { // before it is opened, for which a pipe would wait
+        if (!QFileInfo(path()).isDir())
+            SoReadError::post(file, 0, "A settings file was expected, but this is no regular file.");
+        return;
+    }
     const QSettings preferences(path(), format());
     for (const QString& name : preferences.allKeys())
         SoPreferences::setValue(name.toLatin1().constData(),

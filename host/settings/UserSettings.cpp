@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/UserSettings.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 namespace scopix
@@ -8,8 +9,13 @@ namespace scopix
 
 QString UserSettings::path(const QString& name)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+    return absolute(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) +
            QStringLiteral("/scopix/") + name;
+}
+
+QString UserSettings::absolute(const QString& folder)
+{
+    return QDir::isAbsolutePath(folder) ? folder : QDir::home().filePath(folder);
 }
 
 QString UserSettings::windowFile()

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "support/OutputFile.h"
 
+#include <xsg/support/FileReplacement.h>
+
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 
 namespace scopix
@@ -10,30 +13,41 @@ namespace scopix
 namespace
 {
 
-constexpr QFile::Permissions AnyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-
 QString tr(const char* text)
 {
     return QCoreApplication::translate("OutputFile", text);
+}
+
+std::string encoded(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+// What a link leads to may have a name without an ending.
+bool isOfAnotherKind(const QString& path, const QStringList& fileExtensions)
+{
+    const QString target = QFile::decodeName(xsg::followLinks(encoded(path)).c_str());
+    const QString ending = QFileInfo(target).suffix().toLower();
+    return !fileExtensions.contains(QFileInfo(path).suffix().toLower()) ||
+           (target != path && !ending.isEmpty() && !fileExtensions.contains(ending));
 }
 
 } // namespace
 
 QString reasonAgainstWriting(const QString& path, const QStringList& fileExtensions)
 {
-    const QFileInfo file(path); // of what a link leads to
-    if (!fileExtensions.contains(file.suffix().toLower()))
+    if (isOfAnotherKind(path, fileExtensions))
         return tr("its name was expected to end in .%1").arg(fileExtensions.join(tr(", .")));
-    if (!file.exists())
+    return tr(xsg::reasonAgainstReplacing(encoded(path)).c_str());
+}
+
+QString replaceFile(const QString& path, const QByteArray& content)
+{
+    xsg::FileReplacement file(encoded(path));
+    if (file.open() && file.write({content.constData(), static_cast<std::size_t>(content.size())}) &&
+        file.commit())
         return {};
-    if (file.isDir())
-        return tr("it is a folder");
-    if (!file.isFile())
-        return tr("it is no regular file");
-    // For root every file is writable; a file without write permission is still protected on purpose.
-    if (!file.isWritable() || !(file.permissions() & AnyWrite))
-        return tr("the file is write-protected");
-    return {};
+    return tr(file.getProblem().c_str());
 }
 
 } // namespace scopix

@@ -5,12 +5,12 @@
 
 #include <xsg/sensors/SoSensorQueue.h>
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QWidget>
 
 namespace scopix
@@ -56,12 +56,13 @@ QString saveScreenshot(QWidget& window, const QString& path)
         return cannotWrite(path, reason);
     settle();
     const QPixmap picture = window.grab();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return cannotWrite(path, file.errorString());
-    if (!picture.save(&file, QFileInfo(path).suffix().toLatin1()) || !file.commit())
-        return cannotWrite(path, file.errorString());
-    return {};
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, QFileInfo(path).suffix().toLatin1());
+    const QString problem =
+        writer.write(picture.toImage()) ? replaceFile(path, content) : writer.errorString();
+    return problem.isEmpty() ? QString() : cannotWrite(path, problem);
 }
 
 } // namespace scopix

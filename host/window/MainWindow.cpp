@@ -5,6 +5,7 @@
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
+#include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
@@ -13,6 +14,7 @@
 #include "viewport/Screenshot.h"
 #include "window/DefaultScene.h"
 #include "window/FileMenu.h"
+#include "window/ReloadBar.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -28,7 +30,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
-#include <QSettings>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -43,16 +44,18 @@ namespace
 constexpr int SideWidth = 330;
 constexpr int MessageMs = 8000;
 
-QSettings settings()
+const QString& paletteKey()
 {
-    return QSettings(UserSettings::windowFile(), QSettings::IniFormat);
+    static const QString key = QStringLiteral("palette");
+    return key;
 }
 
 Theme wantedTheme()
 {
     const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
-    return themeFromName(fromEnvironment.isEmpty() ? settings().value(QStringLiteral("palette")).toString()
-                                                   : fromEnvironment);
+    return themeFromName(fromEnvironment.isEmpty()
+                             ? SettingsFile(UserSettings::windowFile()).value(paletteKey()).toString()
+                             : fromEnvironment);
 }
 
 // To the first node, from the top, that has this name, or else this type.
@@ -97,6 +100,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
+    new ReloadBar(m_files, *m_view);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -311,7 +315,9 @@ void MainWindow::showScene(SoNode* root)
 void MainWindow::showTitle()
 {
     const SceneDocument& document = m_files.getDocument();
-    setWindowTitle(document.getTitle() + QStringLiteral("[*]")); // Qt adds the mark and the program's name
+    const bool isDeleted = document.getFileState() == SceneDocument::FileState::Deleted;
+    const QString title = isDeleted ? tr("%1 (deleted)").arg(document.getTitle()) : document.getTitle();
+    setWindowTitle(title + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
 }
 
@@ -362,8 +368,10 @@ void MainWindow::viewSelected()
 
 void MainWindow::setTheme(Theme theme)
 {
-    settings().setValue(QStringLiteral("palette"), themeName(theme));
     applyTheme(*this, theme);
+    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(paletteKey(), themeName(theme));
+    if (!problem.isEmpty())
+        m_notifier.error(problem);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

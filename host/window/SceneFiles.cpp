@@ -10,6 +10,7 @@
 #include "support/UserNotifier.h"
 #include "undo/TextInput.h"
 #include "viewport/NothingToSee.h"
+#include "window/ChangedFileQuestion.h"
 #include "window/DefaultScene.h"
 
 #include <QApplication>
@@ -37,12 +38,14 @@ QString nameFilter()
 
 SceneFiles::SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier)
     : m_window(window)
+    , m_services(services)
     , m_notifier(notifier)
     , m_document(services)
     , m_recent(UserSettings::windowFile())
     , m_autosave(m_document)
 {
     connect(&m_autosave, &Autosave::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_watch, &FileWatch::noticed, &m_document, &SceneDocument::checkFile);
 }
 
 SceneFiles::~SceneFiles() = default;
@@ -52,6 +55,7 @@ void SceneFiles::open(const QString& path)
     if (m_import)
         m_import->cancel(); // the user has changed their mind
     m_droppable = m_document.getEditCount();
+    m_opening = FileStamp(path);
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
         return reportFailure(error);
@@ -98,6 +102,7 @@ void SceneFiles::forgetImport()
 void SceneFiles::cancelled(const QString& path)
 {
     forgetImport();
+    m_reselect = {};
     m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
     emit opened(false);
 }
@@ -106,9 +111,10 @@ void SceneFiles::show(SoNode* root, const QString& path, const QStringList& note
 {
     forgetImport();
     const QString name = QFileInfo(path).fileName();
-    m_document.begin(root, path, name);
-    if (m_notifier.isAttended())
-        m_recent.add(path);
+    m_document.begin(root, path, name, m_opening);
+    m_reselect.restore(m_services, root);
+    m_reselect = {};
+    remember(path);
     for (const QString& sentence : notes)
         UserNotifier::note(name, sentence);
     const QString reason = whyNothingIsSeen(root);
@@ -123,9 +129,17 @@ void SceneFiles::show(SoNode* root, const QString& path, const QStringList& note
     emit opened(true);
 }
 
+void SceneFiles::reload()
+{
+    const SelectionMemo selection(m_services, m_document.getRoot());
+    m_reselect = selection;
+    open(m_document.getPath());
+}
+
 void SceneFiles::reportFailure(const QString& sentence)
 {
     forgetImport();
+    m_reselect = {};
     m_notifier.error(sentence);
     emit opened(false);
 }
@@ -181,15 +195,59 @@ bool SceneFiles::saveAs()
 bool SceneFiles::saveTo(const QString& path)
 {
     applyTyping();
+    return mayReplace(path) ? write(path) : resolveConflict();
+}
+
+bool SceneFiles::write(const QString& path)
+{
     const QString error = m_document.save(path);
     if (!error.isEmpty()) {
         m_notifier.error(error);
         return false;
     }
-    if (m_notifier.isAttended())
-        m_recent.add(path);
     m_notifier.info(tr("Saved “%1”.").arg(path));
+    remember(path);
     return true;
+}
+
+void SceneFiles::remember(const QString& path)
+{
+    const QString problem = m_notifier.isAttended() ? m_recent.add(path) : QString();
+    if (!problem.isEmpty())
+        m_notifier.info(problem); // the file itself is as it should be
+}
+
+bool SceneFiles::mayReplace(const QString& path)
+{
+    const bool isOwn = QFileInfo(path) == QFileInfo(m_document.getPath());
+    return !isOwn || m_document.checkFile() != SceneDocument::FileState::Changed;
+}
+
+bool SceneFiles::resolveConflict()
+{
+    const QString path = m_document.getPath();
+    if (!m_notifier.isAttended()) {
+        m_notifier.error(
+            tr("“%1” is not saved: another program has changed it since it was opened.").arg(path));
+        return false;
+    }
+    switch (askAboutChangedFile(m_window, m_document.getTitle(), m_document.isModified())) {
+    case ChangedFileAnswer::Reload:
+        reload();
+        return false;
+    case ChangedFileAnswer::SaveElsewhere:
+        return saveAs();
+    case ChangedFileAnswer::Replace:
+        return write(path);
+    case ChangedFileAnswer::Cancel:
+        break;
+    }
+    return false;
+}
+
+void SceneFiles::watchFile()
+{
+    m_watch.watch(m_document.getPath());
 }
 
 bool SceneFiles::confirmClose()
@@ -241,10 +299,12 @@ void SceneFiles::applyTyping()
 void SceneFiles::enterInteractiveMode()
 {
     m_autosave.start();
+    connect(&m_document, &SceneDocument::stateChanged, this, &SceneFiles::watchFile);
+    watchFile();
     if (m_document.isExternal())
         return; // recovered edits would take the place of the scene that the application shows
     if (!m_document.getPath().isEmpty())
-        m_recent.add(m_document.getPath());
+        remember(m_document.getPath());
     offerRecovery();
 }
 
@@ -296,7 +356,10 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
     forgetImport();
     const std::string problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
     const RecoverySlot::Origin origin = slot->getOrigin();
-    m_document.beginModified(scene, origin.path, origin.title);
+    // What was edited may not be what the file holds by now.
+    const bool isOlder = QFileInfo(origin.path).lastModified() > slot->getTime();
+    m_document.beginModified(scene, origin.path, origin.title,
+                             isOlder ? std::optional(FileStamp()) : std::nullopt);
     m_autosave.adopt(slot);
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
     if (!problem.empty())

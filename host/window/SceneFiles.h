@@ -2,8 +2,10 @@
 #pragma once
 
 #include "document/Autosave.h"
+#include "document/FileWatch.h"
 #include "document/RecentFiles.h"
 #include "document/SceneDocument.h"
+#include "window/SelectionMemo.h"
 
 #include <QObject>
 #include <QPointer>
@@ -34,8 +36,11 @@ public:
     /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once,
     /// possibly before this returns. What was open stays when it fails. Problems are reported.
     void open(const QString& path);
-    /// False when it cannot be written, which is reported.
+    /// False when it is not written: it cannot be, which is reported, or another program has changed the file
+    /// since it was opened, and the user does not want to replace it.
     bool saveTo(const QString& path);
+    /// Opens the same file again and drops all edits; the same part of the scene stays selected.
+    void reload();
 
     /// The user works with this window from now on: offers what a crashed session left, and starts keeping
     /// unsaved edits.
@@ -62,12 +67,17 @@ signals:
 
 private:
     bool askWhetherToDrop();
+    bool mayReplace(const QString& path);
+    bool write(const QString& path);
+    bool resolveConflict();
+    void watchFile();
     void applyTyping();
     FileImport* importScene(const QString& path);
     FileImport* importModel(const QString& path);
     void fileRead(SoNode* root, const QString& path);
     void show(SoNode* root, const QString& path, const QStringList& notes = {});
     void reportFailure(const QString& sentence);
+    void remember(const QString& path);
     void forgetImport();
     void cancelled(const QString& path);
     void offerRecovery();
@@ -76,11 +86,15 @@ private:
                    const std::shared_ptr<RecoverySlot>& slot);
 
     QWidget& m_window;
+    HostServices& m_services;
     UserNotifier& m_notifier;
     SceneDocument m_document;
     RecentFiles m_recent;
     Autosave m_autosave;
     QPointer<FileImport> m_import;
+    FileWatch m_watch;
+    FileStamp m_opening;      // of the file that is being opened, before it is read
+    SelectionMemo m_reselect; // of what is being reloaded
     quint64 m_droppable = 0; // the edit count up to which the user agreed to lose edits
 };
 

@@ -9,14 +9,21 @@
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoPreferences.h>
 #include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/support/FileLock.h>
+#include <xsg/support/FileReplacement.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QSet>
 
+#include <cerrno>
+#include <cstring>
 #include <memory>
+
+#include <sys/stat.h>
 
 namespace counterProfileFile
 {
@@ -72,10 +79,73 @@ void appendText(QDomElement parent, const QString& name, const QString& text)
     parent.appendChild(element);
 }
 
-void readTexts(const QDomElement& parent, const QString& name, QList<QString>& texts)
+QStringList readTexts(const QDomElement& parent, const QString& name)
 {
+    QStringList texts;
     for (QDomElement e = parent.firstChildElement(name); !e.isNull(); e = e.nextSiblingElement(name))
         texts.append(e.text());
+    return texts;
+}
+
+void appendTexts(QDomElement parent, const QString& list, const QString& name, const QStringList& texts)
+{
+    QDomElement element = parent.ownerDocument().createElement(list);
+    for (const QString& text : texts)
+        appendText(element, name, text);
+    parent.appendChild(element);
+}
+
+std::string encoded(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+// A pipe would keep who opens it waiting, and a device would take anything. What cannot be opened at all says
+// so itself.
+bool isNoFile(const QString& path)
+{
+    struct stat about {
+    };
+    return stat(encoded(path).c_str(), &about) == 0 && !S_ISREG(about.st_mode) && !S_ISDIR(about.st_mode) &&
+           !S_ISSOCK(about.st_mode);
+}
+
+// For root every file is writable; one without write permission is still protected on purpose.
+QString reasonAgainstTarget(const QString& path)
+{
+    if (isNoFile(path))
+        return translated("It is no regular file");
+    const bool isProtected = QFileInfo(path).isFile() && !xsg::reasonAgainstReplacing(encoded(path)).empty();
+    return isProtected ? QString::fromLocal8Bit(std::strerror(EACCES)) : QString();
+}
+
+// Where the disk takes a part only, the next attempt says why.
+bool writeAll(QFile& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+QString tryToWrite(const QString& path, const std::function<QByteArray()>& content)
+{
+    const QString reason = reasonAgainstTarget(path);
+    if (!reason.isEmpty())
+        return reason;
+    const xsg::FileLock lock(encoded(path), xsg::FileLock::Kind::Exclusive);
+    if (lock.isBusy())
+        return translated("Another program is using it");
+    const QByteArray bytes = content();
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text | QIODevice::Unbuffered) &&
+        writeAll(file, bytes))
+        return {};
+    return path.isEmpty() ? translated("No file name specified") : file.errorString();
 }
 
 void readCounter(const QDomElement& element, QStringList& leftOut)
@@ -139,13 +209,22 @@ QString title()
     return translated("Performance counter profile");
 }
 
+QString openToRead(QFile& file)
+{
+    if (isNoFile(file.fileName()))
+        return translated("It is no regular file");
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString() : file.errorString();
+}
+
 bool parse(QIODevice* device, QDomDocument& document, QString& problem)
 {
     // Parsed aside first, since a failed parse leaves what it has read so far in every document that shares
     // the tree.
     QDomDocument parsed;
     // A device that cannot be opened is an empty one; the caller has said so.
-    const bool isOpen = device->isOpen() || device->open(QIODevice::ReadOnly);
+    const auto* file = qobject_cast<QFile*>(device);
+    const bool canBeOpened = !file || !isNoFile(file->fileName());
+    const bool isOpen = device->isOpen() || (canBeOpened && device->open(QIODevice::ReadOnly));
     if (!counterXml::read(isOpen ? device->readAll() : QByteArray(), parsed, problem))
         return false;
     if (parsed.documentElement().tagName() != Root) {
@@ -178,16 +257,20 @@ void writeDocument(QIODevice* device, const QDomDocument& document)
     counterXml::write(device, document);
 }
 
-bool writeFile(const QString& path, const QByteArray& content, const QString& flaw, QWidget* parent)
+QString reasonAgainstName(const QString& path)
 {
-    QFile file(path);
-    QString reason = flaw;
-    if (reason.isEmpty()) {
-        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text) &&
-            file.write(content) == content.size() && file.flush())
-            return true;
-        reason = path.isEmpty() ? translated("No file name specified") : file.errorString();
-    }
+    const QString ending = QFileInfo(path).suffix().toLower();
+    return ending.isEmpty() || ending == QLatin1String("xml")
+               ? QString()
+               : translated("Its name was expected to end in .xml");
+}
+
+bool writeFile(const QString& path, const std::function<QByteArray()>& content, const QString& flaw,
+               QWidget* parent)
+{
+    const QString reason = flaw.isEmpty() ? tryToWrite(path, content) : flaw;
+    if (reason.isEmpty())
+        return true;
     QMessageBox::warning(parent, title(), translated("Cannot write file %1:\n%2.").arg(path, reason));
     return false;
 }
@@ -208,9 +291,8 @@ void initDocument(QIODevice* device, QDomDocument& document)
 QStringList readCustomCounters(const QDomDocument& document)
 {
     QStringList leftOut;
-    const QDomElement all = section(document, CustomCounters);
-    for (QDomElement e = all.firstChildElement(Counter); !e.isNull(); e = e.nextSiblingElement(Counter))
-        readCounter(e, leftOut);
+    for (const QDomElement& element : childrenOf(document, Section::Counters))
+        readCounter(element, leftOut);
     return leftOut;
 }
 
@@ -233,14 +315,48 @@ void writeCustomCounters(QDomDocument& document)
     }
 }
 
+QList<QDomElement> childrenOf(const QDomDocument& document, Section kind)
+{
+    const bool isCounters = kind == Section::Counters;
+    const QString name = isCounters ? Counter : Profile;
+    const QDomElement all = section(document, isCounters ? CustomCounters : Profiles);
+    QList<QDomElement> children;
+    for (QDomElement e = all.firstChildElement(name); !e.isNull(); e = e.nextSiblingElement(name))
+        children.append(e);
+    return children;
+}
+
+void appendCopy(QDomDocument& document, Section kind, const QDomElement& element)
+{
+    sectionToWrite(document, kind == Section::Counters ? CustomCounters : Profiles)
+        .appendChild(document.importNode(element, true));
+}
+
+QStringList readCounters(const QDomElement& profile)
+{
+    return readTexts(profile.firstChildElement(ListCounters), Pc);
+}
+
+QStringList readView(const QDomElement& profile)
+{
+    return readTexts(profile.firstChildElement(ListView), PcViewed);
+}
+
+void writeLists(QDomElement profile, const QStringList& counters, const QStringList& view)
+{
+    removeChildren(profile, ListCounters);
+    removeChildren(profile, ListView);
+    appendTexts(profile, ListCounters, Pc, counters);
+    appendTexts(profile, ListView, PcViewed, view);
+}
+
 QList<SoPerfCounterProfile*> readProfiles(const QDomDocument& document)
 {
     QList<SoPerfCounterProfile*> profiles;
-    const QDomElement all = section(document, Profiles);
-    for (QDomElement e = all.firstChildElement(Profile); !e.isNull(); e = e.nextSiblingElement(Profile)) {
-        auto profile = std::make_unique<SoPerfCounterProfile>(e.attribute(Name));
-        readTexts(e.firstChildElement(ListCounters), Pc, *profile->getList());
-        readTexts(e.firstChildElement(ListView), PcViewed, *profile->getView());
+    for (const QDomElement& element : childrenOf(document, Section::Profiles)) {
+        auto profile = std::make_unique<SoPerfCounterProfile>(element.attribute(Name));
+        *profile->getList() = readCounters(element);
+        *profile->getView() = readView(element);
         profiles.append(profile.release());
     }
     return profiles;
@@ -253,14 +369,7 @@ void writeProfiles(QDomDocument& document, const QList<SoPerfCounterProfile*>& p
     for (const SoPerfCounterProfile* profile : profiles) {
         QDomElement element = document.createElement(Profile);
         element.setAttribute(Name, profile->getName());
-        QDomElement counters = document.createElement(ListCounters);
-        for (const QString& name : *profile->getList())
-            appendText(counters, Pc, name);
-        QDomElement view = document.createElement(ListView);
-        for (const QString& name : *profile->getView())
-            appendText(view, PcViewed, name);
-        element.appendChild(counters);
-        element.appendChild(view);
+        writeLists(element, *profile->getList(), *profile->getView());
         all.appendChild(element);
     }
 }

@@ -11,6 +11,7 @@
 #include "SoPerfCounterProfileManager.h"
 
 #include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/support/FileLock.h>
 
 #include <QColorDialog>
 #include <QFile>
@@ -74,11 +75,12 @@ void SoPerfCounterDockWin::setupConnections()
 void SoPerfCounterDockWin::openDefaultFile()
 {
     m_filePath = counterProfileFile::defaultPath();
+    const xsg::FileLock lock(QFile::encodeName(m_filePath).toStdString(), xsg::FileLock::Kind::Shared);
     QFile file(m_filePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const QString reason = counterProfileFile::openToRead(file);
+    if (!reason.isEmpty())
         QMessageBox::warning(this, tr("DOM Bookmarks"),
-                             tr("Cannot read file %1:\n%2.").arg(m_filePath, file.errorString()));
-    }
+                             tr("Cannot read file %1:\n%2.").arg(m_filePath, reason));
     // Read even where it could not be opened (decisions.md: counters-file-read-twice).
     if (!read(&file)) {
         m_filePath.clear();
@@ -92,6 +94,7 @@ bool SoPerfCounterDockWin::read(QIODevice* device)
 {
     if (!counterProfileFile::readDocument(device, m_document, this))
         return false;
+    m_owed->noteRead(m_filePath, m_document);
     const QStringList leftOut = counterProfileFile::readCustomCounters(m_document);
     m_profiles->append(counterProfileFile::readProfiles(m_document));
     setupProfileComboBox();
@@ -228,6 +231,7 @@ void SoPerfCounterDockWin::openProfileManager()
     connect(manager, &Manager::cancelProfile, m_viewer, &SoPerfCounterViewer::start);
     connect(this, qOverload<QList<SoPerfCounterProfile*>*, int>(&SoPerfCounterDockWin::openingProfile),
             manager, &Manager::recoveryListFromMainWindow);
+    connect(manager, &Manager::joinedHandedOver, this, &SoPerfCounterDockWin::showJoinedProfiles);
     connect(manager, &Manager::filepathChanged, this, &SoPerfCounterDockWin::changeFilepath);
     manager->setFilepath(m_filePath);
     manager->setFilepathTemp(m_filePath);
@@ -269,7 +273,22 @@ void SoPerfCounterDockWin::saveView()
 {
     if (profile())
         counterProfileFile::writeView(m_document, *profile());
-    m_owed->save(m_filePath, m_document, this);
+    OwedSaves::JoinedProfiles joined;
+    m_owed->save(m_filePath, m_document, this, joined);
+    if (counterMerge::apply(joined, *m_profiles))
+        showJoinedProfiles();
+}
+
+// New ones are behind those that the box shows already.
+void SoPerfCounterDockWin::showJoinedProfiles()
+{
+    for (int i = m_listConfig->count(); i < m_profiles->size(); ++i)
+        m_listConfig->addItem(beginningOf(m_profiles->at(i)->getName(), LongestInLine));
+    if (!profile())
+        return;
+    m_viewer->setViewList(profile()->getView());
+    setupPreSelectedList();
+    emit needUpdateViewer();
 }
 
 void SoPerfCounterDockWin::saveOwed()

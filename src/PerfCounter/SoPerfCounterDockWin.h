@@ -61,6 +61,7 @@ private:
     void openDefaultFile();
     bool read(QIODevice* device);
     void parseViewElement();
+    void showJoinedProfiles();
     void selectInComboBox(int index);
     SoPerfCounterProfile* profile() const;
 

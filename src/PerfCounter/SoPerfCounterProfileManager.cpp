@@ -276,18 +276,21 @@ void SoPerfCounterProfileManager::openProfile()
     if (path.isEmpty())
         return;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    const QString reason = counterProfileFile::openToRead(file);
+    if (!reason.isEmpty()) {
         QMessageBox::warning(this, counterProfileFile::title(),
-                             tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+                             tr("Cannot read file %1:\n%2.").arg(path, reason));
         return;
     }
     const QString before = m_filePath;
     setFilepath(path);
     // OK would write over a file that holds something else.
-    if (read(&file))
+    if (read(&file)) {
         m_owed->turnToAnotherDocument();
-    else
+        m_owed->noteRead(path, m_document);
+    } else {
         setFilepath(before);
+    }
 }
 
 bool SoPerfCounterProfileManager::read(QIODevice* device)
@@ -323,14 +326,28 @@ void SoPerfCounterProfileManager::saveAsProfile()
     if (path.isEmpty())
         return;
     updateDom();
-    if (m_owed->saveOnce(path, m_document, this))
+    OwedSaves::JoinedProfiles joined;
+    if (m_owed->saveOnce(path, m_document, this, joined))
         setFilepath(path);
+    adopt(joined);
 }
 
 void SoPerfCounterProfileManager::saveProfile()
 {
     updateDom();
-    m_owed->save(m_filePath, m_document, this);
+    OwedSaves::JoinedProfiles joined;
+    m_owed->save(m_filePath, m_document, this, joined);
+    adopt(joined);
+}
+
+void SoPerfCounterProfileManager::adopt(const QList<counterMerge::JoinedProfile>& joined)
+{
+    if (!counterMerge::apply(joined, *m_profiles))
+        return;
+    for (int i = m_tabProfile->count(); i < m_profiles->size(); ++i)
+        addTab(*m_profiles->at(i));
+    setupListCounter();
+    refillPages();
 }
 
 void SoPerfCounterProfileManager::okButtonAction()
@@ -383,10 +400,12 @@ void SoPerfCounterProfileManager::cancelAction()
     m_isDone = true;
     QFile file(m_filePath);
     const bool isRead =
-        !m_filePath.isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Text) && read(&file);
+        !m_filePath.isEmpty() && counterProfileFile::openToRead(file).isEmpty() && read(&file);
     // A file that lacks what could not be saved does not say how things were.
     if (!isRead || m_owed->isOwed(m_filePath))
         m_atOpening.restore(m_document);
+    else if (m_handedOver && counterMerge::apply(m_owed->noteRead(m_filePath, m_document), *m_handedOver))
+        emit joinedHandedOver();
 }
 
 void SoPerfCounterProfileManager::closeEvent(QCloseEvent* event)

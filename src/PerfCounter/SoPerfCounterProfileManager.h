@@ -11,6 +11,10 @@
 #include <memory>
 
 class OwedSaves;
+namespace counterMerge
+{
+struct JoinedProfile;
+}
 class SoPerfCounterManager;
 class SoPerfCounterPage;
 class SoPerfCounterProfile;
@@ -41,6 +45,8 @@ signals:
     void okProfile(QList<SoPerfCounterProfile*>* profiles, int index);
     void okProfile();
     void cancelProfile();
+    /// The profiles that were handed over have changed: another program has changed the file.
+    void joinedHandedOver();
     void filepathChanged(QString path);
     void deletedCounter(QString name);
 
@@ -73,6 +79,7 @@ private:
     void addTab(const SoPerfCounterProfile& profile);
     void dropProfiles();
     bool read(QIODevice* device);
+    void adopt(const QList<counterMerge::JoinedProfile>& joined);
     void updateDom();
     void okAction();
     void cancelAction();

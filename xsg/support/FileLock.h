@@ -19,7 +19,7 @@ public:
         Shared,   // to read; needs the file
         Exclusive // to write; creates an empty file where there is none
     };
-    static constexpr std::chrono::milliseconds Patience{1000};
+    static constexpr std::chrono::milliseconds Patience{2000};
 
     FileLock(const std::string& path, Kind kind, std::chrono::milliseconds patience = Patience);
     ~FileLock();

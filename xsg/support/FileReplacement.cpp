@@ -162,9 +162,6 @@ bool xsg::FileReplacement::open()
     m_problem = reasonAgainstReplacing(m_target);
     if (!m_problem.empty())
         return false;
-    std::error_code ignored;
-    if (std::filesystem::is_symlink(m_target, ignored))
-        return fail(ELOOP);
     removeAbandoned(m_target);
     return makeTemporary();
 }

@@ -232,3 +232,37 @@ TEST(Counters, SwitchedOffTheyWaitInTheMenu)
     EXPECT_TRUE(on.dock()->isVisible()) << "the user did not hide it";
     EXPECT_TRUE(on.part("m_viewer"));
 }
+
+TEST(Counters, ADamagedFileIsReplacedByItsLastGoodCopy)
+{
+    const CounterHome home;
+    const auto content = [&] {
+        QFile file(home.profileFile());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray whole = content();
+    for (const char* button : {"", "Leave As It Is", "Put Back"}) {
+        QStringList asked;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            asked += box->objectName();
+            for (QAbstractButton* each : box->buttons()) {
+                if (box->buttons().size() == 1 || each->text().remove('&') == button)
+                    return QTest::mouseClick(each, Qt::LeftButton);
+            }
+        });
+        user.start(5);
+        HostSession host([](HostServices& services, UserNotifier& notifier) {
+            return std::make_unique<MainWindow>(services, notifier);
+        });
+        host.start(CommandLine::parse({"scopix"}));
+        const bool isWhole = content() == whole;
+        EXPECT_EQ(isWhole, QByteArray(button) != "Leave As It Is");
+        EXPECT_EQ(asked.contains("counterCopy"), QByteArray(button) != "");
+        EXPECT_EQ(asked.size() > 1, !isWhole) << "the tool says what it cannot read";
+        QFile::resize(home.profileFile(), whole.size() / 2);
+    }
+}

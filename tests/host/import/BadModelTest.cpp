@@ -138,4 +138,21 @@ TEST_F(BadModel, EveryCutOfATextFormatIsRefusedOrRead)
     }
 }
 
+// The importer opens whatever a model names.
+TEST_F(BadModel, PipesThatAModelIsMadeOf)
+{
+    ASSERT_EQ(mkfifo(QFile::encodeName(files.path("data.bin")).constData(), 0600), 0);
+    const QString gltf = files.write(
+        "piped.gltf", R"({"asset":{"version":"2.0"},"buffers":[{"uri":"data.bin","byteLength":36}],)"
+                      R"("bufferViews":[{"buffer":0,"byteLength":36}],)"
+                      R"("accessors":[{"bufferView":0,"componentType":5126,"count":3,"type":"VEC3"}],)"
+                      R"("meshes":[{"primitives":[{"attributes":{"POSITION":0}}]}],)"
+                      R"("nodes":[{"mesh":0}],"scenes":[{"nodes":[0]}],"scene":0})");
+    expectRefusal(gltf, "data.bin");
+    ASSERT_EQ(mkfifo(QFile::encodeName(files.path("look.mtl")).constData(), 0600), 0);
+    const ModelReadResult model = readModel(
+        files.write("piped.obj", "mtllib look.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl paint\nf 1 2 3\n"));
+    EXPECT_TRUE(model.error.isEmpty()) << qPrintable(model.error);
+}
+
 } // namespace

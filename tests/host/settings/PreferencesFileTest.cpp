@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 using namespace scopix;
 
 namespace
@@ -110,6 +112,20 @@ TEST_F(PreferencesFile, NoFileAndAFolderSetNothing)
     Preferences::feed();
     EXPECT_EQ(SoPreferences::getInt("XSG_TEST_SETTING", 3), 3);
     EXPECT_TRUE(readErrors.texts.empty());
+}
+
+TEST_F(PreferencesFile, APipeOrADeviceIsReportedAndNotRead)
+{
+    const QString pipe = folder.filePath("pipe.conf");
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    for (const QString& path : {pipe, QStringLiteral("/dev/zero")}) {
+        const std::size_t before = readErrors.texts.size();
+        qputenv("XSG_PREFERENCES", path.toLocal8Bit());
+        Preferences::feed();
+        ASSERT_EQ(readErrors.texts.size(), before + 1);
+        EXPECT_NE(readErrors.texts.back().find(path.toStdString()), std::string::npos);
+        EXPECT_NE(readErrors.texts.back().find("no regular file"), std::string::npos);
+    }
 }
 
 } // namespace

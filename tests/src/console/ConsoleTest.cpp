@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -520,6 +522,30 @@ TEST_F(Console, ACancelledOrImpossibleSaveWritesAndReportsNothing)
     FileAnswer answer("/proc/console.txt");
     click("m_saveButton");
     EXPECT_FALSE(answer.caption.isEmpty());
+    EXPECT_EQ(text(), "text");
+}
+
+TEST_F(Console, WritesSilentlyOverNoFileOfAnotherKindAndNoneThatIsProtected)
+{
+    start();
+    std::cout << "text";
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath("pipe.txt");
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    const QString isProtected = folder.filePath("protected.txt");
+    fill(isProtected, "precious");
+    QFile::setPermissions(isProtected, QFile::ReadOwner);
+    QStringList paths{pipe, isProtected};
+    for (const char* name : {"new.xsg", "new.xml", "new.png", "new.glb"})
+        paths += folder.filePath(name);
+    for (const QString& path : paths) {
+        FileAnswer answer(path);
+        click("m_saveButton");
+        EXPECT_FALSE(answer.caption.isEmpty());
+    }
+    EXPECT_EQ(contentOf(isProtected), "precious");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::System),
+              (QStringList{"pipe.txt", "protected.txt"}));
     EXPECT_EQ(text(), "text");
 }
 

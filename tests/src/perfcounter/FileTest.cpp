@@ -211,7 +211,7 @@ TEST_F(CounterFile, ReportsAFileThatCannotBeWritten)
                                   "directory."});
     dock->changeFilepath("/dev/full");
     dock->saveView();
-    EXPECT_EQ(boxes.take(), QStringList{Title + "Cannot write file /dev/full:\nNo space left on device."});
+    EXPECT_EQ(boxes.take(), QStringList{Title + "Cannot write file /dev/full:\nIt is no regular file."});
 }
 
 TEST_F(CounterFile, ANameThatTheViewHoldsTwiceIsSavedOnce)

@@ -167,7 +167,7 @@ TEST_F(CounterManagerFile, ReportsAFileThatCannotBeWritten)
     EXPECT_EQ(dock->getFilepath(), path());
     manager->setFilepath("/dev/full");
     manager->saveProfile();
-    EXPECT_EQ(boxes.take(), QStringList{refused + "Cannot write file /dev/full:\nNo space left on device."});
+    EXPECT_EQ(boxes.take(), QStringList{refused + "Cannot write file /dev/full:\nIt is no regular file."});
 }
 
 TEST_F(CounterManagerFile, AfterARefusedOkSaveAsLetsItClose)

@@ -10,6 +10,7 @@
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/sysmacros.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -140,7 +141,12 @@ TEST_F(Replacement, RefusesWhatIsNoRegularFile)
     EXPECT_EQ(replace(folder, "new"), "it is a folder");
     ASSERT_EQ(mkfifo(at("pipe").c_str(), 0666), 0);
     EXPECT_EQ(replace(at("pipe"), "new"), "it is no regular file");
-    EXPECT_EQ(replace("/dev/full", "new"), "it is no regular file");
+    // One of its own, since a mistake would replace it.
+    if (mknod(at("device").c_str(), S_IFCHR | 0600, makedev(1, 7)) == 0) {
+        EXPECT_EQ(replace(at("device"), "new"), "it is no regular file");
+        EXPECT_FALSE(std::filesystem::is_regular_file(at("device")));
+        std::filesystem::remove(at("device"));
+    }
     const int server = socket(AF_UNIX, SOCK_STREAM, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;

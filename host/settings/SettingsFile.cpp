@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "settings/SettingsFile.h"
+
+#include "settings/SettingsLock.h"
+#include "support/InputFile.h"
+#include "support/OutputFile.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryFile>
+
+#include <optional>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr qint64 LargestFile = 1 << 20;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("SettingsFile", text);
+}
+
+/// The settings in a text. QSettings reads and writes files only, waits for the locks of other programs, and
+/// leaves temporary files behind when it is killed: so it works on a private file.
+class IniText
+{
+public:
+    explicit IniText(const QByteArray& text)
+    {
+        if (!m_file.open() || m_file.write(text) != text.size() || !m_file.flush())
+            return;
+        m_settings.emplace(m_file.fileName(), QSettings::IniFormat);
+    }
+    // Lines that are no settings are left out.
+    bool isGood() const { return m_settings && m_settings->status() != QSettings::AccessError; }
+    QSettings& settings() { return *m_settings; }
+    bool getText(QByteArray& text)
+    {
+        m_settings->sync();
+        return isGood() && readFile(m_file.fileName(), LargestFile, text).isEmpty();
+    }
+
+private:
+    QTemporaryFile m_file;
+    std::optional<QSettings> m_settings;
+};
+
+// A file that is not there holds no settings.
+QString readText(const QString& path, QByteArray& text)
+{
+    return QFileInfo::exists(path) ? readFile(path, LargestFile, text) : QString();
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(QString path)
+    : m_path(std::move(path))
+{
+}
+
+QVariant SettingsFile::value(const QString& key) const
+{
+    QByteArray text;
+    if (!readText(m_path, text).isEmpty())
+        return {};
+    IniText ini(text);
+    return ini.isGood() ? ini.settings().value(key) : QVariant();
+}
+
+QString SettingsFile::setValue(const QString& key, const QVariant& value) const
+{
+    return change([&](QSettings& settings) { settings.setValue(key, value); });
+}
+
+QString SettingsFile::change(const std::function<void(QSettings&)>& act) const
+{
+    const QString reason = tryToChange(act);
+    return reason.isEmpty() ? QString()
+                            : tr("The settings file “%1” cannot be changed: %2.").arg(m_path, reason);
+}
+
+QString SettingsFile::tryToChange(const std::function<void(QSettings&)>& act) const
+{
+    const SettingsLock lock(m_path);
+    if (!lock.reasonAgainst().isEmpty())
+        return lock.reasonAgainst();
+    QByteArray before;
+    const QString reason = readText(m_path, before);
+    if (!reason.isEmpty())
+        return reason;
+    IniText ini(before);
+    if (ini.isGood())
+        act(ini.settings());
+    QByteArray after;
+    if (!ini.isGood() || !ini.getText(after))
+        return tr("no temporary file can be written");
+    return after == before ? QString() : replaceFile(m_path, after);
+}
+
+} // namespace scopix

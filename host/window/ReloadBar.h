@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+namespace scopix
+{
+
+class SceneFiles;
+
+/// Says at the top of the view that another program has changed the file that is shown, and offers to reload
+/// it, as long as nothing is edited; interrupts nobody. GUI thread only.
+class ReloadBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// Lies over `view`, which owns it. The files must outlive it, or be destroyed with the same window.
+    ReloadBar(SceneFiles& files, QWidget& view);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void update();
+    void dismiss();
+    void place();
+
+    SceneFiles& m_files;
+    QWidget& m_view;
+    QLabel* m_text;
+    bool m_isDismissed = false; // until the file is as it was opened
+};
+
+} // namespace scopix

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+// Several sessions that have the same window settings.
+#include "document/RecentFiles.h"
+#include "settings/SettingsFile.h"
+#include "support/Processes.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+using namespace scopix;
+
+namespace
+{
+
+// The others may keep it locked for all the time that one waits.
+template <class Change>
+void untilFree(Change change)
+{
+    while (!change().isEmpty())
+        continue;
+}
+
+class SharedSettings : public testing::Test
+{
+protected:
+    QString path() const { return folder.filePath("window.ini"); }
+    QStringList filesInFolder() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(SharedSettings, AreThoseOfEarlierBuilds)
+{
+    QSettings(path(), QSettings::IniFormat).setValue("palette", "dark");
+    const SettingsFile file(path());
+    EXPECT_EQ(file.value("palette").toString(), "dark");
+    EXPECT_EQ(file.setValue("geometry", QByteArray("\0\xff", 2)), "");
+    const QSettings settings(path(), QSettings::IniFormat);
+    EXPECT_EQ(settings.value("palette").toString(), "dark");
+    EXPECT_EQ(settings.value("geometry").toByteArray(), QByteArray("\0\xff", 2));
+}
+
+TEST_F(SharedSettings, LeaveNoOtherFileBehind)
+{
+    QFile left(folder.filePath("window.ini.scopix-q1w2e3"));
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    EXPECT_EQ(SettingsFile(path()).setValue("palette", "dark"), "");
+    EXPECT_EQ(filesInFolder(), (QStringList{"settings.lock", "window.ini"}));
+}
+
+TEST_F(SharedSettings, ThatCannotBeWrittenAreSaid)
+{
+    ASSERT_EQ(SettingsFile(path()).setValue("palette", "dark"), "");
+    QFile::setPermissions(path(), QFile::ReadOwner);
+    const QString problem = RecentFiles(path()).add("/a.xsg");
+    EXPECT_TRUE(problem.contains(path()) && problem.contains("write-protected")) << qPrintable(problem);
+    EXPECT_TRUE(RecentFiles(path()).list().isEmpty());
+}
+
+TEST_F(SharedSettings, ThatArePipesKeepNobodyWaiting)
+{
+    ASSERT_EQ(mkfifo(path().toLocal8Bit().constData(), 0600), 0);
+    EXPECT_FALSE(SettingsFile(path()).value("palette").isValid());
+    const QString problem = SettingsFile(path()).setValue("palette", "dark");
+    EXPECT_TRUE(problem.contains(path()) && problem.contains("no regular file")) << qPrintable(problem);
+    EXPECT_TRUE(RecentFiles(path()).list().isEmpty());
+}
+
+TEST_F(SharedSettings, OfProcessesAtOnceLoseNothing)
+{
+    constexpr int Processes = 3;
+    constexpr int Steps = 10;
+    inProcesses(Processes, [&](int number) {
+        RecentFiles recent(path());
+        const SettingsFile settings(path());
+        for (int step = 0; step < Steps; ++step) {
+            untilFree([&] { return recent.add(QString("/%1-%2.xsg").arg(number).arg(step % 3)); });
+            untilFree([&] { return settings.setValue(QString("key-%1-%2").arg(number).arg(step), step); });
+        }
+        return true;
+    });
+    const QStringList recent = RecentFiles(path()).list();
+    EXPECT_EQ(recent.size(), 9);
+    const SettingsFile settings(path());
+    for (int number = 0; number < Processes; ++number) {
+        for (int step = 0; step < Steps; ++step) {
+            EXPECT_EQ(settings.value(QString("key-%1-%2").arg(number).arg(step)).toInt(), step);
+            EXPECT_TRUE(recent.contains(QString("/%1-%2.xsg").arg(number).arg(step % 3)));
+        }
+    }
+}
+
+} // namespace
