@@ -3,6 +3,7 @@
 
 #include "plugins/NoPluginsNotice.h"
 #include "plugins/PluginSearchPath.h"
+#include "plugins/TryAgainMenu.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
 #include "settings/Preferences.h"
@@ -36,6 +37,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_notifier.setWindow(m_window.get());
     connectParts();
     new ToolsMenu(m_shell, *m_window->viewMenu());
+    new TryAgainMenu(m_plugins, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
 }
 
@@ -101,7 +103,7 @@ void HostSession::loadPlugins(const CommandLine& line)
         m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
     loadStandardPlugins();
     for (const QString& path : line.plugins)
-        m_plugins.loadPlugin(path);
+        m_plugins.loadPlugin(path, PluginGuard::Asked::Named);
     if (m_plugins.pluginNames().isEmpty())
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }

@@ -74,5 +74,6 @@ int main(int argc, char** argv)
     if (QApplication::platformName() == QLatin1String("offscreen"))
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     scopix::HostApplication host;
+    host.tryPluginsFirst();
     return host.run(line);
 }

@@ -5,13 +5,12 @@
 #include "model/FileChecks.h"
 #include "model/ModelFile.h"
 #include "model/ModelReadResult.h"
+#include "support/OwnLibrary.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QProgressDialog>
 
 #include <csignal>
-#include <dlfcn.h>
 
 namespace scopix
 {
@@ -25,15 +24,7 @@ constexpr int PatienceMs = 400; // before a dialog opens
 
 QString ModelImport::readerProgram()
 {
-    static const char inThisLibrary = 0;
-    Dl_info library{};
-    dladdr(&inThisLibrary, &library);
-    const QDir folder(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath());
-    const QString beside = folder.filePath(QStringLiteral("scopix/scopix-read-model"));
-    // A program that has the host built in lies beside the folder of the libraries.
-    return QFileInfo::exists(beside)
-               ? beside
-               : QDir::cleanPath(folder.filePath(QStringLiteral("../lib/scopix/scopix-read-model")));
+    return OwnLibrary::helperProgram(QStringLiteral("scopix-read-model"));
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
