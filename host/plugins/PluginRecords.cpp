@@ -108,7 +108,8 @@ void PluginRecords::write(const QString& library, const Record& record) const
                              {key("reason"), record.reason}};
     QDir().mkpath(m_folder);
     QSaveFile file(pathFor(library, ".json"));
-    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0)
+    // Flushed first: a failure to write in commit() itself goes unnoticed there.
+    if (file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0 && file.flush())
         file.commit();
 }
 
@@ -125,12 +126,15 @@ std::unique_ptr<PluginRecords::Start> PluginRecords::begin(const QString& librar
     const int descriptor = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (descriptor < 0)
         return nullptr;
+    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+        close(descriptor);
+        return nullptr;
+    }
+    std::unique_ptr<Start> start(new Start(path, descriptor));
     const QByteArray identity = identityOf(library);
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ftruncate(descriptor, 0) == 0 &&
-        ::write(descriptor, identity.constData(), size_t(identity.size())) == identity.size())
-        return std::unique_ptr<Start>(new Start(path, descriptor));
-    close(descriptor);
-    return nullptr;
+    const bool isNoted = ftruncate(descriptor, 0) == 0 && ::write(descriptor, identity.constData(),
+                                                                  size_t(identity.size())) == identity.size();
+    return isNoted ? std::move(start) : nullptr;
 }
 
 bool PluginRecords::takeBrokenStart(const QString& library) const
