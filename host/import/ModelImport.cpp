@@ -7,6 +7,8 @@
 #include "model/ModelReadResult.h"
 #include "support/OwnLibrary.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QProgressDialog>
 
@@ -63,7 +65,13 @@ void ModelImport::start(const QString& path)
     m_dialog->setValue(0);
     connect(m_dialog, &QProgressDialog::canceled, this, &ModelImport::cancel);
     m_result.open(); // where that fails, the reader says so
-    m_reader.start(readerProgram(), {path, m_result.fileName()});
+    m_reader.start(readerProgram(), {path, resultPath()});
+}
+
+// By its number, since a file without a name is gone with this process, however that ends.
+QString ModelImport::resultPath() const
+{
+    return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(m_result.handle());
 }
 
 // One line for each percent.
@@ -94,7 +102,7 @@ void ModelImport::readerEnded()
 void ModelImport::report()
 {
     ModelReadResult model;
-    QFile result(m_result.fileName());
+    QFile result(resultPath());
     const bool ended =
         m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
@@ -115,7 +123,7 @@ QString ModelImport::whyItEnded() const
     if (crashed && m_reader.exitCode() == SIGXCPU)
         return tr("reading it takes too long, and was given up");
     return crashed ? tr("it contradicts itself, and reading it was given up")
-                   : tr("what was read of it could not be written to “%1”").arg(m_result.fileName());
+                   : tr("what was read of it could not be written to “%1”").arg(QDir::tempPath());
 }
 
 void ModelImport::end()

@@ -40,6 +40,7 @@ signals:
     void cancelled();
 
 private:
+    QString resultPath() const;
     void showProgress();
     void readerEnded();
     void report();

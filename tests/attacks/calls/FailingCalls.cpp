@@ -41,12 +41,33 @@ Verdict next(Call call)
     return Verdict::Fails;
 }
 
+// The files below this folder, or all where it is empty.
+std::string s_folder;
+
+// What the machine tells of itself is no file on a disk.
+bool isMeant(const char* path)
+{
+    if (!s_folder.empty())
+        return std::strncmp(path, s_folder.c_str(), s_folder.size()) == 0;
+    return std::strncmp(path, "/proc/", 6) != 0 && std::strncmp(path, "/sys/", 5) != 0 &&
+           std::strncmp(path, "/dev/", 5) != 0;
+}
+
+bool isMeant(int descriptor)
+{
+    if (s_folder.empty())
+        return true;
+    std::array<char, 4096> path{};
+    const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+    return readlink(link.c_str(), path.data(), path.size() - 1) > 0 && isMeant(path.data());
+}
+
 bool isFile(int descriptor)
 {
     struct stat about {
     };
     const int before = errno;
-    const bool isRegular = fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode);
+    const bool isRegular = fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode) && isMeant(descriptor);
     errno = before;
     return isRegular;
 }
@@ -56,12 +77,14 @@ Verdict next(Call call, int descriptor)
     return s_isSet && isFile(descriptor) ? next(call) : Verdict::Passes;
 }
 
-// What the machine tells of itself is no file on a disk.
+Verdict nextFor(Call call, const char* path)
+{
+    return s_isSet && isMeant(path) ? next(call) : Verdict::Passes;
+}
+
 Verdict nextOpen(const char* path)
 {
-    const bool isDisk = std::strncmp(path, "/proc/", 6) != 0 && std::strncmp(path, "/sys/", 5) != 0 &&
-                        std::strncmp(path, "/dev/", 5) != 0;
-    return isDisk ? next(failing::Open) : Verdict::Passes;
+    return nextFor(failing::Open, path);
 }
 
 template <class Function>
@@ -107,6 +130,8 @@ void setFrom(const std::string& text)
 
 __attribute__((constructor)) void readEnvironment()
 {
+    if (const char* folder = std::getenv("SCOPIX_FAIL_IN"))
+        s_folder = folder;
     if (const char* text = std::getenv("SCOPIX_FAIL"))
         setFrom(text);
 }
@@ -255,7 +280,7 @@ SHOWN int fflush(std::FILE* file)
     SHOWN int name(int file)                                                                                 \
     {                                                                                                        \
         REAL(name);                                                                                          \
-        return next(failing::Sync) == Verdict::Fails ? -1 : next_##name(file);                               \
+        return next(failing::Sync, file) == Verdict::Fails ? -1 : next_##name(file);                         \
     }
 SYNCS(fsync)
 SYNCS(fdatasync)
@@ -264,7 +289,7 @@ SYNCS(fdatasync)
     SHOWN int name(const char* from, const char* to) noexcept                                                \
     {                                                                                                        \
         REAL(name);                                                                                          \
-        return next(failing::Rename) == Verdict::Fails ? -1 : next_##name(from, to);                         \
+        return nextFor(failing::Rename, to) == Verdict::Fails ? -1 : next_##name(from, to);                  \
     }
 RENAMES(rename)
 RENAMES(link)
@@ -272,20 +297,24 @@ RENAMES(link)
 SHOWN int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept
 {
     REAL(renameat);
-    return next(failing::Rename) == Verdict::Fails ? -1 : next_renameat(fromFolder, from, toFolder, to);
+    return nextFor(failing::Rename, to) == Verdict::Fails ? -1
+                                                          : next_renameat(fromFolder, from, toFolder, to);
 }
 
 SHOWN int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
 {
     REAL(renameat2);
-    return next(failing::Rename) == Verdict::Fails ? -1
-                                                   : next_renameat2(fromFolder, from, toFolder, to, flags);
+    return nextFor(failing::Rename, to) == Verdict::Fails
+               ? -1
+               : next_renameat2(fromFolder, from, toFolder, to, flags);
 }
 
 SHOWN int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept
 {
     REAL(linkat);
-    return next(failing::Rename) == Verdict::Fails ? -1 : next_linkat(fromFolder, from, toFolder, to, flags);
+    return nextFor(failing::Rename, to) == Verdict::Fails
+               ? -1
+               : next_linkat(fromFolder, from, toFolder, to, flags);
 }
 
 // What fails to close is closed nevertheless, as on Linux.

@@ -9,8 +9,8 @@
 /// why the functions of <stdio.h> are taken for the system calls behind them. Calls count only where they act
 /// on regular files: pipes and event loops do not fail in the ways of disks.
 ///
-/// Preloaded, it reads what to do from the environment: SCOPIX_FAIL=CALL:N:WHAT, such as "write:3:ENOSPC".
-/// Never installed.
+/// Preloaded, it reads what to do from the environment: SCOPIX_FAIL=CALL:N:WHAT, such as "write:3:ENOSPC",
+/// for files below the folder SCOPIX_FAIL_IN where that is given. Never installed.
 namespace failing
 {
 
