@@ -13,6 +13,7 @@
 #include <xsg/core/SoPreferences.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace scopix
@@ -59,10 +60,15 @@ HostSession::~HostSession()
     m_services.history().clear();
 }
 
-void HostSession::loadStandardPlugins()
+void HostSession::loadStandardPlugins(const QStringList& butThose)
 {
-    for (const QString& path : PluginSearchPath().findAll())
-        m_plugins.loadPlugin(path);
+    QStringList others;
+    for (const QString& path : butThose)
+        others += QFileInfo(path).canonicalFilePath();
+    for (const QString& path : PluginSearchPath().findAll()) {
+        if (!others.contains(QFileInfo(path).canonicalFilePath()))
+            m_plugins.loadPlugin(path);
+    }
 }
 
 int HostSession::run(const CommandLine& line)
@@ -101,7 +107,7 @@ void HostSession::loadPlugins(const CommandLine& line)
     m_plugins.profiles().read();
     if (!line.profile.isEmpty() && !m_plugins.profiles().useProfile(line.profile))
         m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
-    loadStandardPlugins();
+    loadStandardPlugins(line.plugins);
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path, PluginGuard::Asked::Named);
     if (m_plugins.pluginNames().isEmpty())

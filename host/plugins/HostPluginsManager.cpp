@@ -3,8 +3,6 @@
 
 #include "services/HostServices.h"
 
-#include <QTimer>
-
 namespace scopix
 {
 
@@ -16,6 +14,8 @@ HostPluginsManager::HostPluginsManager(HostServices& services, HostShell& shell,
     , m_plugins(services, shell)
     , m_switch([this] { applyProfile(); })
 {
+    m_settled.setSingleShot(true);
+    connect(&m_settled, &QTimer::timeout, this, [this] { m_guard.settle(); });
     connect(&m_profiles, &ProfileList::failed, this, &HostPluginsManager::failed);
     connect(&m_plugins, &PluginLoader::failed, this, &HostPluginsManager::failed);
     connect(&m_profiles, &ProfileList::activeChanged, this, &HostPluginsManager::requestSwitch);
@@ -42,7 +42,7 @@ bool HostPluginsManager::loadPlugin(const QString& path, PluginGuard::Asked aske
     const bool isLoaded = loadGuarded(path);
     m_guard.leave(path, isLoaded);
     // Behind everything that its code has posted or timed for the first turn of the event loop.
-    QTimer::singleShot(0, this, [this] { m_guard.settle(); });
+    m_settled.start();
     return isLoaded;
 }
 

@@ -8,6 +8,8 @@
 
 #include <scopix/SpxPluginsManager.h>
 
+#include <QTimer>
+
 namespace scopix
 {
 
@@ -61,6 +63,7 @@ private:
     HostServices& m_services;
     ProfileList m_profiles;
     PluginGuard m_guard;
+    QTimer m_settled;
     PluginLoader m_plugins;
     DeferredUntilNonModal m_switch;
 };

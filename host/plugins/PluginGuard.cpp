@@ -43,6 +43,8 @@ QString PluginGuard::enter(const QString& library, Asked asked)
     if (!why.isEmpty())
         return why;
     m_quarantined.removeAll(library);
+    for (Loading& each : m_loading)
+        each.start.reset(); // what ends now is not its doing
     m_loading.push_back({library, m_records.begin(library), isKnown});
     return {};
 }
@@ -70,6 +72,10 @@ void PluginGuard::leave(const QString& library, bool isLoaded)
         return each.library == library && (each.isKnown || !isLoaded);
     };
     m_loading.erase(std::remove_if(m_loading.begin(), m_loading.end(), isOver), m_loading.end());
+    for (Loading& each : m_loading) {
+        if (!each.start)
+            each.start = m_records.begin(each.library);
+    }
 }
 
 void PluginGuard::settle()

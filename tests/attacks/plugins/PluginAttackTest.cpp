@@ -127,6 +127,14 @@ TEST_F(PluginAttack, ALibraryThatIsNamed)
         expectOneSentence("its code", {"--plugin", home.filePath("libBad.so")});
 }
 
+// It lies where it is found, and is named too: one of the two is enough.
+TEST_F(PluginAttack, ALibraryThatIsFoundAndNamed)
+{
+    const QStringList named{"--plugin", add("LoadCrashes", "libBad.so")};
+    EXPECT_NE(start(named).status, 0);
+    expectOneSentence("the program ended the last time while it was being loaded", named);
+}
+
 // Its code is fine until the program itself calls load(): that ends one start, and no other.
 TEST_F(PluginAttack, ALoadThatCrashesEndsOneStartOnly)
 {
@@ -136,6 +144,14 @@ TEST_F(PluginAttack, ALoadThatCrashesEndsOneStartOnly)
     expectOneSentence("the program ended the last time while it was being loaded");
     add("Good", "libBad.so"); // mended
     EXPECT_EQ(start().status, 0);
+}
+
+TEST_F(PluginAttack, WhatItHasPutOffAndThenCrashesEndsOneStartOnly)
+{
+    EXPECT_EQ(start().status, 0); // the other one is known by then
+    add("CrashesLater", "libBad.so");
+    EXPECT_NE(start().status, 0);
+    expectOneSentence("the program ended the last time while it was being loaded");
 }
 
 TEST_F(PluginAttack, ALibraryThatEveryUserMayWriteTo)

@@ -77,9 +77,16 @@ TEST_P(PluginTrials, WhatWouldEndTheProgramIsRefusedInASentence)
 INSTANTIATE_TEST_SUITE_P(Cases, PluginTrials,
                          ::testing::Values(Harm{"InitThrows", "no luck from the start"},
                                            Harm{"InitCrashes", "its code"}, Harm{"Crashes", "its code"},
-                                           Harm{"Ends", "its code ended the process"},
                                            Harm{"Throws", "its loadPlugin failed: out of luck"},
                                            Harm{"NoEntry", "no entry point “loadPlugin”"}));
+
+// As if all were well.
+TEST_F(PluginGuarded, OneThatEndsTheProcessHasNotSucceeded)
+{
+    const PluginTrial::Outcome outcome = PluginTrial::run(copy("Ends"));
+    EXPECT_TRUE(outcome.isHarmful);
+    EXPECT_TRUE(outcome.reason.contains("its code ended the process")) << outcome.reason.toStdString();
+}
 
 TEST_F(PluginGuarded, AnEndlessLoopIsGivenUp)
 {

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QLabel>
+#include <QTimer>
 #include <QToolBar>
 
 #include <csignal>
@@ -180,6 +181,8 @@ public:
         throw std::runtime_error("no licence");
 #elif defined TEST_PLUGIN_LoadCrashes
         std::raise(SIGSEGV);
+#elif defined TEST_PLUGIN_CrashesLater
+        QTimer::singleShot(0, qApp, [] { std::raise(SIGSEGV); });
 #elif defined TEST_PLUGIN_BadExtensions
         addExtension(&m_inLoad);
         addExtension(&m_inActivate);
