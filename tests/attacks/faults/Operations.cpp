@@ -10,6 +10,8 @@
 #include "plugins/PluginRecords.h"
 #include "profiles/ProfileList.h"
 #include "services/HostServices.h"
+#include "settings/DataDirectory.h"
+#include "settings/Preferences.h"
 #include "viewport/Screenshot.h"
 #include "viewport/TextureImageLoader.h"
 
@@ -30,6 +32,7 @@ const QString Profiles = QStringLiteral("/profiles.json");
 const QString Picture = QStringLiteral("/picture.png");
 const QString Recent = QStringLiteral("/window.ini");
 const QString Library = QStringLiteral("/libPlugin.so");
+const QString PreferencesFile = QStringLiteral("/preferences.conf");
 const QString Model = QStringLiteral("/model.result");
 
 void write(const QString& path, const QByteArray& content)
@@ -241,6 +244,25 @@ Outcome writeModel(const QString& folder)
     return {isWritten, {}, {}};
 }
 
+void preparePreferences(const QString& folder)
+{
+    write(folder + PreferencesFile, "SCOPIX_TEST_VALUE = 17\n");
+}
+
+Outcome readPreferences(const QString& folder)
+{
+    qputenv("XSG_PREFERENCES", encoded(folder + PreferencesFile));
+    Preferences::feed();
+    return {true, {}, {}};
+}
+
+Outcome fillDataFolder(const QString& folder)
+{
+    qputenv("XDG_DATA_HOME", encoded(folder));
+    const QString error = DataDirectory::ensure();
+    return {error.isEmpty(), error, {}};
+}
+
 } // namespace
 
 std::vector<Operation> allOperations()
@@ -260,6 +282,8 @@ std::vector<Operation> allOperations()
         {"LoadPlugin", Operation::Reads, Operation::Speaks, prepareLibrary, loadLibrary},
         {"RememberPlugin", Operation::Writes, Operation::IsSilent, prepareLibrary, writeRecord},
         {"ReadModelResult", Operation::Reads, Operation::IsSilent, prepareModel, readModel},
+        {"ReadPreferences", Operation::Reads, Operation::IsSilent, preparePreferences, readPreferences},
+        {"FillDataFolder", Operation::Writes, Operation::Speaks, nothing, fillDataFolder},
         {"WriteModelResult", Operation::Writes, Operation::IsSilent, nothing, writeModel},
     };
 }

@@ -157,7 +157,8 @@ TEST_F(Allocations, OfWritingAFile)
         return SoSceneFile::write(root.get(), file, error);
     };
     const auto check = [&](bool isDone) {
-        EXPECT_EQ(contentOf(file), isDone ? after : before);
+        const std::string now = contentOf(file);
+        EXPECT_TRUE(now == after || (now == before && !isDone)) << now;
         const auto folder = fs::path(file).parent_path();
         EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "a temporary file is left";
         std::ofstream(file) << before;

@@ -114,6 +114,7 @@ Process::Process(const QString& home, const QStringList& command, const Environm
     if (m_process != 0)
         return;
     setpgid(0, 0);
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // whoever ends an attack ends all of it
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     const int out = open(log.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0600);

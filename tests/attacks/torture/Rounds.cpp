@@ -99,6 +99,7 @@ const QList<Round::Kind>& Round::table()
         {"model", &Round::openModel},
         {"picture", &Round::openPicture},
         {"profiles", &Round::readProfiles},
+        {"settings", &Round::readSettings},
         {"plugin", &Round::loadPlugin},
         {"kill-save", &Round::killWhileSaving},
         {"kill-autosave", &Round::killWhileEditing},
@@ -255,6 +256,17 @@ void Round::readProfiles()
     expect(isKept, "the profiles are gone");
 }
 
+// What cannot be understood is as if it were not there, or is told in a sentence for each file.
+void Round::readSettings()
+{
+    write("scopix/window.ini",
+          mutated("[General]\ngeometry=@ByteArray(\x1\xd9\xd0\xcb)\nrecentFiles=/a.xsg, /b.xsg\n", m_random));
+    open({});
+    QFile::remove(at("scopix/window.ini"));
+    write("scopix/preferences.conf", mutated("XSG_PERFCOUNTER_ENABLE = 1 # up to here\nA = b\n", m_random));
+    open({});
+}
+
 // A library that may be anything is given two starts: the first may end in its code.
 void Round::loadPlugin()
 {
@@ -318,6 +330,17 @@ void Round::killWhileEditing()
     for (const QString& name : QDir(at("scopix/recovery")).entryList({"*.xsg"}))
         expectScene("scopix/recovery/" + name);
     open({});
+    damageRecovery();
+    saveOnce();
+}
+
+// The next start finds what it cannot give back, and works nevertheless.
+void Round::damageRecovery()
+{
+    for (const QFileInfo& file : QDir(at("scopix/recovery")).entryInfoList(QDir::Files)) {
+        if (below(m_random, 2) == 0 && file.suffix() != "lock")
+            write("scopix/recovery/" + file.fileName(), mutated(contentOf(file.filePath()), m_random));
+    }
 }
 
 void Round::killWhileImporting()

@@ -35,9 +35,11 @@ private:
     void openModel();
     void openPicture();
     void readProfiles();
+    void readSettings();
     void loadPlugin();
     void killWhileSaving();
     void killWhileEditing();
+    void damageRecovery();
     void killWhileImporting();
     void killWhileProfilesAreWritten();
     void runTwo();
