@@ -150,6 +150,11 @@ void failing::failingSet(const Fault* fault)
     s_isSet = true;
 }
 
+void failing::failingBelow(const char* folder)
+{
+    s_folder = folder;
+}
+
 int failing::failingCount(Call call)
 {
     return s_counts[call];

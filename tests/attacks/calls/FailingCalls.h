@@ -26,6 +26,8 @@ struct Fault {
 extern "C" {
 /// Counts calls from now on, and lets them fail as `fault` says; null: lets all of them pass, uncounted.
 __attribute__((visibility("default"))) void failingSet(const Fault* fault);
+/// Only calls on files below this folder count from now on; null: on all. It must outlive its use.
+__attribute__((visibility("default"))) void failingBelow(const char* folder);
 /// How many calls of the kind there were.
 __attribute__((visibility("default"))) int failingCount(Call call);
 }

@@ -156,6 +156,9 @@ private:
     {
         alarm(MostSeconds);
         const int before = openFiles();
+        const QByteArray path = QFile::encodeName(folder);
+        // What the program itself has written to a private file a moment ago can be read.
+        failing::failingBelow(fault.call == failing::Read ? path.constData() : nullptr);
         failing::failingSet(&fault);
         const Outcome outcome = GetParam().act(folder);
         failing::failingSet(nullptr);
