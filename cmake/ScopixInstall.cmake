@@ -38,8 +38,8 @@ scopix_public_headers(ScopixHost scopix-host "${PROJECT_SOURCE_DIR}/host/app" ${
 
 set_target_properties(scopix PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 install(TARGETS scopix RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-set_target_properties(scopix-read-model PROPERTIES INSTALL_RPATH "$ORIGIN/..")
-install(TARGETS scopix-read-model RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/scopix")
+set_target_properties(scopix-read-model scopix-try-plugin PROPERTIES INSTALL_RPATH "$ORIGIN/..")
+install(TARGETS scopix-read-model scopix-try-plugin RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/scopix")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/data/" DESTINATION "${CMAKE_INSTALL_DATADIR}/scopix")
 
 set_target_properties(SpxDefaults PROPERTIES INSTALL_RPATH "$ORIGIN/../..")

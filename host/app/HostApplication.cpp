@@ -30,6 +30,11 @@ HostApplication::HostApplication()
 
 HostApplication::~HostApplication() = default;
 
+void HostApplication::tryPluginsFirst()
+{
+    m_private->session.plugins().setTriesFirst(true);
+}
+
 void HostApplication::start(const CommandLine& line)
 {
     m_private->session.start(line);

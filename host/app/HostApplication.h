@@ -35,6 +35,12 @@ public:
     /// Unloads the plug-ins while the window still stands.
     ~HostApplication() override;
 
+    /// Call it before start() to have each plug-in that is new or has changed loaded in a process of its own
+    /// first, as the program `scopix` has it: its initialisers and its loadPlugin() run there once more. What
+    /// would end or block the application is then refused in a sentence. Without it no other process is
+    /// started, and a plug-in that ends the application is left out at the next start.
+    void tryPluginsFirst();
+
     /// Loads profiles and plug-ins, shows the window and does what the command line asks for. Call it once.
     void start(const CommandLine& line = {});
     /// start(), and the event loop until finished(). Returns the exit status: 1 when something of the command

@@ -3,6 +3,7 @@
 
 #include "plugins/NoPluginsNotice.h"
 #include "plugins/PluginSearchPath.h"
+#include "plugins/TryAgainMenu.h"
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
 #include "settings/Preferences.h"
@@ -14,6 +15,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QSettings>
@@ -40,6 +42,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_notifier.setWindow(m_window.get());
     connectParts();
     new ToolsMenu(m_shell, *m_window->viewMenu());
+    new TryAgainMenu(m_plugins, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
 }
 
@@ -62,10 +65,15 @@ HostSession::~HostSession()
     m_services.history().clear();
 }
 
-void HostSession::loadStandardPlugins()
+void HostSession::loadStandardPlugins(const QStringList& butThose)
 {
-    for (const QString& path : PluginSearchPath().findAll())
-        m_plugins.loadPlugin(path);
+    QStringList others;
+    for (const QString& path : butThose)
+        others += QFileInfo(path).canonicalFilePath();
+    for (const QString& path : PluginSearchPath().findAll()) {
+        if (!others.contains(QFileInfo(path).canonicalFilePath()))
+            m_plugins.loadPlugin(path);
+    }
 }
 
 int HostSession::run(const CommandLine& line)
@@ -135,9 +143,9 @@ void HostSession::loadPlugins(const CommandLine& line)
     m_plugins.profiles().read();
     if (!line.profile.isEmpty() && !m_plugins.profiles().useProfile(line.profile))
         m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
-    loadStandardPlugins();
+    loadStandardPlugins(line.plugins);
     for (const QString& path : line.plugins)
-        m_plugins.loadPlugin(path);
+        m_plugins.loadPlugin(path, PluginGuard::Asked::Named);
     if (m_plugins.pluginNames().isEmpty())
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }

@@ -40,8 +40,8 @@ public:
     HostShell& shell() { return m_shell; }
     HostPluginsManager& plugins() { return m_plugins; }
 
-    /// Loads the plug-ins that lie in the standard folders.
-    void loadStandardPlugins();
+    /// Loads the plug-ins that lie in the standard folders, but for those that are named here.
+    void loadStandardPlugins(const QStringList& butThose = {});
     /// Does what the command line asks for.
     void start(const CommandLine& line);
     /// start(), and the event loop until finished() or the application quits. Returns the exit status: 1 when

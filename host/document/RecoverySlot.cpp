@@ -70,7 +70,9 @@ bool RecoverySlot::setOrigin(const Origin& origin) const
 {
     QSaveFile file(originPath());
     const QJsonObject object{{QStringLiteral("path"), origin.path}, {QStringLiteral("title"), origin.title}};
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0 && file.commit();
+    // Flushed first: a failure to write in commit() itself goes unnoticed there.
+    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) > 0 &&
+           file.flush() && file.commit();
 }
 
 QByteArray RecoverySlot::getSnapshotId() const

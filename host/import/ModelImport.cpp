@@ -5,15 +5,16 @@
 #include "model/FileChecks.h"
 #include "model/ModelFile.h"
 #include "model/ModelReadResult.h"
+#include "support/OwnLibrary.h"
 
 #include <xsg/render/PictureBudget.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcessEnvironment>
 
 #include <csignal>
-#include <dlfcn.h>
 
 namespace scopix
 {
@@ -34,15 +35,7 @@ QProcessEnvironment readerEnvironment()
 
 QString ModelImport::readerProgram()
 {
-    static const char inThisLibrary = 0;
-    Dl_info library{};
-    dladdr(&inThisLibrary, &library);
-    const QDir folder(QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath());
-    const QString beside = folder.filePath(QStringLiteral("scopix/scopix-read-model"));
-    // A program that has the host built in lies beside the folder of the libraries.
-    return QFileInfo::exists(beside)
-               ? beside
-               : QDir::cleanPath(folder.filePath(QStringLiteral("../lib/scopix/scopix-read-model")));
+    return OwnLibrary::helperProgram(QStringLiteral("scopix-read-model"));
 }
 
 ModelImport::ModelImport(QWidget* window, QObject* parent)
@@ -73,7 +66,13 @@ void ModelImport::start(const QString& path)
     openDialog(path);
     m_result.open(); // where that fails, the reader says so
     m_reader.setProcessEnvironment(readerEnvironment());
-    m_reader.start(readerProgram(), {path, m_result.fileName()});
+    m_reader.start(readerProgram(), {path, resultPath()});
+}
+
+// By its number, since a file without a name is gone with this process, however that ends.
+QString ModelImport::resultPath() const
+{
+    return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(m_result.handle());
 }
 
 // One line for each percent.
@@ -103,7 +102,7 @@ void ModelImport::readerEnded()
 void ModelImport::report()
 {
     ModelReadResult model;
-    QFile result(m_result.fileName());
+    QFile result(resultPath());
     const bool ended =
         m_reader.exitStatus() == QProcess::NormalExit && m_reader.error() != QProcess::FailedToStart;
     const bool opened = ended && result.open(QIODevice::ReadOnly);
@@ -126,7 +125,7 @@ QString ModelImport::whyItEnded() const
     if (crashed && m_reader.exitCode() == SIGXCPU)
         return tr("reading it takes too long, and was given up");
     return crashed ? tr("it contradicts itself, and reading it was given up")
-                   : tr("what was read of it could not be written to “%1”").arg(m_result.fileName());
+                   : tr("what was read of it could not be written to “%1”").arg(QDir::tempPath());
 }
 
 void ModelImport::end()

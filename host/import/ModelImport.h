@@ -33,6 +33,7 @@ signals:
     void finished(const SoRef<SoSeparator>& scene);
 
 private:
+    QString resultPath() const;
     void showProgress();
     void readerEnded();
     void report();

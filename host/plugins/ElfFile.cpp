@@ -2,7 +2,7 @@
 #include "plugins/ElfFile.h"
 
 #include "plugins/ElfNoteReader.h"
-#include "plugins/OwnLibrary.h"
+#include "support/OwnLibrary.h"
 
 #include <QCoreApplication>
 #include <QIODevice>
@@ -118,17 +118,41 @@ QString ElfFile::readSegments()
         return truncated();
     for (int i = 0; i < m_header.e_phnum; ++i)
         m_segments.push_back(structAt<Segment>(*table, i * int(sizeof(Segment))));
-    return isWhole() ? QString() : truncated();
+    if (!isWhole())
+        return truncated();
+    return isLoadable() ? QString() : tr("it is no library (its header is damaged)");
 }
 
-// The section table is the last thing in a file, so it shows best that the end is missing.
+// The section table is the last thing in a file, so it shows best that the end is missing, or is still zeros
+// where the room for a copy was taken before its content came.
 bool ElfFile::isWhole() const
 {
     const auto inFile = [this](const Segment& segment) {
         return contains(segment.p_offset, segment.p_filesz);
     };
-    return std::all_of(m_segments.begin(), m_segments.end(), inFile) &&
-           contains(m_header.e_shoff, quint64(m_header.e_shnum) * m_header.e_shentsize);
+    return std::all_of(m_segments.begin(), m_segments.end(), inFile) && hasSectionNames();
+}
+
+bool ElfFile::hasSectionNames() const
+{
+    if (m_header.e_shnum == 0)
+        return true; // stripped of them, which loading does not need
+    const quint64 size = quint64(m_header.e_shnum) * m_header.e_shentsize;
+    if (m_header.e_shentsize != sizeof(Section) || m_header.e_shstrndx >= m_header.e_shnum ||
+        !contains(m_header.e_shoff, size))
+        return false;
+    const auto bytes =
+        read(m_header.e_shoff + quint64(m_header.e_shstrndx) * sizeof(Section), sizeof(Section));
+    const Section names = bytes ? structAt<Section>(*bytes, 0) : Section{};
+    return names.sh_type == SHT_STRTAB && contains(names.sh_offset, names.sh_size);
+}
+
+// What the dynamic linker takes for granted.
+bool ElfFile::isLoadable() const
+{
+    return std::all_of(m_segments.begin(), m_segments.end(), [](const Segment& segment) {
+        return segment.p_type != PT_LOAD || segment.p_filesz <= segment.p_memsz;
+    });
 }
 
 bool ElfFile::contains(quint64 offset, quint64 size) const

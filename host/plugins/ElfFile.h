@@ -38,11 +38,14 @@ public:
 private:
     using Header = ElfW(Ehdr);
     using Segment = ElfW(Phdr);
+    using Section = ElfW(Shdr);
 
     QString readHeader();
     QString readSegments();
     QString checkKind(const QByteArray& identity) const;
     bool isWhole() const;
+    bool hasSectionNames() const;
+    bool isLoadable() const;
     bool contains(quint64 offset, quint64 size) const;
     std::optional<QByteArray> findNoteIn(const QByteArray& notes, quint64 alignment, const QByteArray& owner,
                                          quint32 type);

@@ -6,12 +6,16 @@
 namespace scopix
 {
 
-HostPluginsManager::HostPluginsManager(HostServices& services, HostShell& shell, ProfileFile file)
+HostPluginsManager::HostPluginsManager(HostServices& services, HostShell& shell, ProfileFile file,
+                                       PluginRecords records)
     : m_services(services)
     , m_profiles(std::move(file))
+    , m_guard(std::move(records))
     , m_plugins(services, shell)
     , m_switch([this] { applyProfile(); })
 {
+    m_settled.setSingleShot(true);
+    connect(&m_settled, &QTimer::timeout, this, [this] { m_guard.settle(); });
     connect(&m_profiles, &ProfileList::failed, this, &HostPluginsManager::failed);
     connect(&m_plugins, &PluginLoader::failed, this, &HostPluginsManager::failed);
     connect(&m_profiles, &ProfileList::activeChanged, this, &HostPluginsManager::requestSwitch);
@@ -23,16 +27,38 @@ HostPluginsManager::~HostPluginsManager()
     unloadAll();
 }
 
-bool HostPluginsManager::loadPlugin(const QString& path)
+bool HostPluginsManager::loadPlugin(const QString& path, PluginGuard::Asked asked)
 {
     if (m_plugins.isLoaded(path))
         return true;
+    QString reason = PluginLibrary::whyNot(path);
+    if (reason.isEmpty())
+        reason = m_guard.enter(path, asked);
+    emit quarantineChanged();
+    if (!reason.isEmpty()) {
+        emit failed(PluginLoader::notLoaded(path, reason));
+        return false;
+    }
+    const bool isLoaded = loadGuarded(path);
+    m_guard.leave(path, isLoaded);
+    // Behind everything that its code has posted or timed for the first turn of the event loop.
+    m_settled.start();
+    return isLoaded;
+}
+
+bool HostPluginsManager::loadGuarded(const QString& path)
+{
     const std::size_t first = m_plugins.extensions().size();
     if (!m_plugins.load(path))
         return false;
     activateFrom(first);
     m_services.tellSelectionAgain();
     return true;
+}
+
+bool HostPluginsManager::tryAgain(const QString& path)
+{
+    return loadPlugin(path, PluginGuard::Asked::Named);
 }
 
 void HostPluginsManager::unloadAll()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginLibrary.h"
 
+#include "plugins/LibraryTrust.h"
 #include "plugins/PluginNote.h"
 #include "support/CatchExceptions.h"
 
@@ -9,6 +10,8 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace scopix
 {
@@ -19,21 +22,6 @@ namespace
 QString tr(const char* text)
 {
     return QCoreApplication::translate("PluginLibrary", text);
-}
-
-// What can be said before the library is loaded, which runs its initialisers.
-QString whyNoLibrary(const QString& path)
-{
-    if (!QFileInfo::exists(path))
-        return tr("there is no such file");
-    if (QFileInfo(path).isDir())
-        return tr("it is a folder, and a plug-in library was expected");
-    if (!QFileInfo(path).isFile()) // a pipe keeps whoever opens it waiting
-        return tr("it is no regular file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return tr("the file may not be read");
-    return whyNotLoadable(file);
 }
 
 template <class Function>
@@ -54,25 +42,41 @@ PluginLibrary::PluginLibrary(const QString& path)
 
 PluginLibrary::~PluginLibrary()
 {
-    if (m_plugin)
-        catchExceptions([this] { m_unload(); });
+    unload();
     if (m_library.isLoaded())
         m_library.unload();
 }
 
-std::unique_ptr<PluginLibrary> PluginLibrary::load(const QString& path, QString& error)
+QString PluginLibrary::whyNot(const QString& path)
 {
-    QString why = whyNoLibrary(path);
-    if (why.isEmpty()) {
-        std::unique_ptr<PluginLibrary> library(new PluginLibrary(QFileInfo(path).canonicalFilePath()));
-        why = library->open();
-        if (why.isEmpty())
-            why = library->makePlugin();
-        if (why.isEmpty())
-            return library;
-    }
-    error = tr("The plug-in “%1” was not loaded: %2.").arg(path, why);
-    return nullptr;
+    if (!QFileInfo::exists(path))
+        return tr("there is no such file");
+    if (QFileInfo(path).isDir())
+        return tr("it is a folder, and a plug-in library was expected");
+    if (!QFileInfo(path).isFile()) // a pipe keeps whoever opens it waiting
+        return tr("it is no regular file");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return tr("the file may not be read");
+    const QString distrust = LibraryTrust().whyNot(path);
+    return distrust.isEmpty() ? whyNotLoadable(file) : distrust;
+}
+
+std::unique_ptr<PluginLibrary> PluginLibrary::load(const QString& path, QString& reason)
+{
+    reason = whyNot(path);
+    if (!reason.isEmpty())
+        return nullptr;
+    std::unique_ptr<PluginLibrary> library(new PluginLibrary(QFileInfo(path).canonicalFilePath()));
+    reason = library->open();
+    if (reason.isEmpty())
+        reason = library->makePlugin();
+    return reason.isEmpty() ? std::move(library) : nullptr;
+}
+
+QString PluginLibrary::unload()
+{
+    return std::exchange(m_plugin, nullptr) ? catchExceptions([this] { m_unload(); }) : QString();
 }
 
 QString PluginLibrary::name() const

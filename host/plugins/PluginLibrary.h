@@ -17,10 +17,11 @@ namespace scopix
 class PluginLibrary
 {
 public:
-    /// Null when the library cannot be used; `error` then names the file and what is wrong with it. A file
-    /// that is no whole library, or was made for something else than this host, is refused before its code
-    /// runs.
-    static std::unique_ptr<PluginLibrary> load(const QString& path, QString& error);
+    /// What can be said before any code of the library runs: empty where the file is a whole library from
+    /// somebody trusted, made for this host; else what is wrong, as the end of a sentence about "it".
+    static QString whyNot(const QString& path);
+    /// Null when the library cannot be used; `reason` then is that of whyNot(), or what its code did.
+    static std::unique_ptr<PluginLibrary> load(const QString& path, QString& reason);
     ~PluginLibrary();
     PluginLibrary(const PluginLibrary&) = delete;
     PluginLibrary& operator=(const PluginLibrary&) = delete;
@@ -29,6 +30,9 @@ public:
     QString path() const { return m_library.fileName(); }
     /// The plug-in's own name, or the file's where it gives none.
     QString name() const;
+
+    /// Runs unloadPlugin; the object is gone. Empty, or what was thrown.
+    QString unload();
 
 private:
     using LoadPlugin = SpxPlugin* (*)();

@@ -26,10 +26,10 @@ PluginLoader::~PluginLoader() = default;
 
 bool PluginLoader::load(const QString& path)
 {
-    QString error;
-    std::unique_ptr<PluginLibrary> library = PluginLibrary::load(path, error);
+    QString reason;
+    std::unique_ptr<PluginLibrary> library = PluginLibrary::load(path, reason);
     if (!library) {
-        emit failed(error);
+        emit failed(notLoaded(path, reason));
         return false;
     }
     if (!startPlugin(*library))
@@ -46,6 +46,11 @@ bool PluginLoader::isLoaded(const QString& path) const
     return m_paths.contains(QFileInfo(path).canonicalFilePath());
 }
 
+QString PluginLoader::notLoaded(const QString& path, const QString& reason)
+{
+    return tr("The plug-in “%1” was not loaded: %2.").arg(path, reason);
+}
+
 bool PluginLoader::startPlugin(PluginLibrary& library)
 {
     bool usable = false;
@@ -54,8 +59,8 @@ bool PluginLoader::startPlugin(PluginLibrary& library)
         return true;
     if (why.isEmpty())
         why = tr("it says that it cannot be used");
-    emit failed(tr("The plug-in “%1” was not loaded: its load() failed: %2.").arg(library.path(), why));
-    catchExceptions([&] { library.plugin()->unload(); });
+    emit failed(notLoaded(library.path(), tr("its load() failed: %1").arg(why)));
+    catchExceptions([&] { library.plugin()->unload(); }); // it has been reported already
     return false;
 }
 
@@ -73,13 +78,21 @@ void PluginLoader::unloadAll()
 {
     unloadExtensions();
     for (auto library = m_libraries.rbegin(); library != m_libraries.rend(); ++library)
-        catchExceptions([&] { (*library)->plugin()->unload(); });
+        reportUnload(**library, "unload", catchExceptions([&] { (*library)->plugin()->unload(); }));
     // Deletions that the plug-ins deferred run their code, which is about to leave the process.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_services.history().clear();
     m_paths.clear();
-    while (!m_libraries.empty())
+    while (!m_libraries.empty()) {
+        reportUnload(*m_libraries.back(), "unloadPlugin", m_libraries.back()->unload());
         m_libraries.pop_back();
+    }
+}
+
+void PluginLoader::reportUnload(const PluginLibrary& library, const char* act, const QString& why)
+{
+    if (!why.isEmpty())
+        emit failed(tr("The plug-in “%1” failed in %2(): %3.").arg(library.path(), QLatin1String(act), why));
 }
 
 void PluginLoader::unloadExtensions()

@@ -34,6 +34,7 @@ public:
     /// used, which failed() reports.
     bool load(const QString& path);
     bool isLoaded(const QString& path) const;
+    static QString notLoaded(const QString& path, const QString& reason);
     void unloadAll();
     QStringList names() const;
 
@@ -53,6 +54,7 @@ private:
     bool startPlugin(PluginLibrary& library);
     void adoptExtensions(const PluginLibrary& library);
     void unloadExtensions();
+    void reportUnload(const PluginLibrary& library, const char* act, const QString& why);
 
     HostServices& m_services;
     HostShell& m_shell;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginSearchPath.h"
 
-#include "plugins/OwnLibrary.h"
+#include "support/OwnLibrary.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -89,6 +89,15 @@ QStringList PluginSearchPath::findAll() const
     }
     std::stable_partition(found.begin(), found.end(), isDefaultExtensions);
     return found;
+}
+
+bool PluginSearchPath::isShipped(const QString& path) const
+{
+    const QString folder = QFileInfo(path).canonicalPath();
+    const auto isIt = [&](const Place& place) {
+        return place.folder != ofUser() && QFileInfo(place.folder).canonicalFilePath() == folder;
+    };
+    return isDefaultExtensions(path) && std::any_of(m_places.begin(), m_places.end(), isIt);
 }
 
 } // namespace scopix

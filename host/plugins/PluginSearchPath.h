@@ -28,6 +28,9 @@ public:
     /// of one name, the first found counts.
     QStringList findAll() const;
 
+    /// It is the default extensions of this program's own installation.
+    bool isShipped(const QString& path) const;
+
 private:
     struct Place {
         QString folder;

@@ -44,6 +44,7 @@ int run(const scopix::CommandLine& line)
 {
     using scopix::EndOfSession;
     scopix::HostApplication host;
+    host.tryPluginsFirst();
     const EndOfSession end(
         [&host](EndOfSession::Widgets widgets) { host.keepEdits(widgets == EndOfSession::Widgets::Usable); });
     return host.run(line);

@@ -62,7 +62,12 @@ bool readPreferences(QIODevice& device, QSettings::SettingsMap& values)
     }
     skipByteOrderMark(device);
     for (int number = 1; !device.atEnd(); ++number) {
-        if (!readLine(QString::fromLatin1(device.readLine()), values))
+        const QByteArray line = device.readLine();
+        if (line.isEmpty()) { // a disk that fails is never at its end
+            report(device, number, "The settings file cannot be read to its end.");
+            return true;
+        }
+        if (!readLine(QString::fromLatin1(line), values))
             report(device, number, "The line is no setting; expected NAME = value.");
     }
     return true;

@@ -8,6 +8,7 @@
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
+#include <new>
 
 template class SoTyped<SoField, SoTypedObject>;
 
@@ -123,10 +124,10 @@ bool SoField::connectFrom(SoField* source)
     if (isSourceOf(*source))
         return false;
     disconnect();
-    m_source = source;
     auto& dependents = source->listeners().dependents;
-    m_dependentSlot = static_cast<std::uint32_t>(dependents.size());
-    dependents.push_back(this);
+    dependents.push_back(this); // which may fail
+    m_dependentSlot = static_cast<std::uint32_t>(dependents.size() - 1);
+    m_source = source;
     m_needsEvaluation = true;
     notify(0, -1, Dependents::Hear);
     return true;
@@ -165,8 +166,14 @@ void SoField::leaveSource()
 
 void SoField::releaseDependents()
 {
-    while (m_listeners && !m_listeners->dependents.empty())
-        m_listeners->dependents.back()->disconnect();
+    while (m_listeners && !m_listeners->dependents.empty()) {
+        SoField* dependent = m_listeners->dependents.back();
+        try {
+            dependent->disconnect();
+        } catch (const std::bad_alloc&) {
+            dependent->leaveSource(); // without its last value: this one is about to be destroyed
+        }
+    }
 }
 
 // From the first field up the chain that is up to date down to this one; a walk, since chains may be long.

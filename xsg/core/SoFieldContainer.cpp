@@ -7,6 +7,7 @@
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
+#include <new>
 
 template class SoTyped<SoFieldContainer, SoTypedObject>;
 
@@ -31,11 +32,16 @@ void SoFieldContainer::destroy() const
     auto& pending = xsg::Context::get().pendingDestruction;
     m_dying = true;
     if (pending) {
-        pending->push_back(this);
+        try {
+            pending->push_back(this);
+        } catch (const std::bad_alloc&) {
+            finalize(); // which needs no memory, and the stack instead
+        }
         return;
     }
-    std::vector<const SoFieldContainer*> own{this};
+    std::vector<const SoFieldContainer*> own;
     pending = &own;
+    finalize();
     while (!own.empty()) {
         const SoFieldContainer* next = own.back();
         own.pop_back();

@@ -168,7 +168,7 @@ TEST_F(Import, NothingIsLeftInTheFolderOfTemporaryFiles)
         bool done = false;
         QObject::connect(&one, &ModelImport::finished, [&] { done = true; });
         one.start(shippedModel("rainbow.ply"));
-        EXPECT_EQ(QDir(temporary.path()).entryList(QDir::Files).size(), 1);
+        EXPECT_TRUE(QDir(temporary.path()).isEmpty()) << "nor while it reads, in case it is killed";
         ASSERT_TRUE(QTest::qWaitFor([&] { return done; }, 60000));
     }
     qunsetenv("TMPDIR");

@@ -52,5 +52,6 @@ struct PluginHost {
     HostServices services;
     QMainWindow window;
     HostShell shell{window};
-    HostPluginsManager manager{services, shell, ProfileFile(profilesPath())};
+    HostPluginsManager manager{services, shell, ProfileFile(profilesPath()),
+                               PluginRecords(folder.filePath(QStringLiteral("plugins")))};
 };

@@ -3,8 +3,8 @@
 #include "PluginParts.h"
 
 #include "plugins/NoPluginsNotice.h"
-#include "plugins/OwnLibrary.h"
 #include "plugins/PluginSearchPath.h"
+#include "support/OwnLibrary.h"
 
 #include <gtest/gtest.h>
 

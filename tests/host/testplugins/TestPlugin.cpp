@@ -12,8 +12,10 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QLabel>
+#include <QTimer>
 #include <QToolBar>
 
+#include <csignal>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -29,6 +31,16 @@ namespace
 
 // Seen by a host that lets code of the library run, before it asks for anything.
 [[maybe_unused]] const int s_trace = setenv("TEST_PLUGIN_RAN", "1", 1);
+
+#if defined TEST_PLUGIN_InitThrows
+int throwFromInitialiser()
+{
+    throw std::runtime_error("no luck from the start");
+}
+[[maybe_unused]] const int s_thrown = throwFromInitialiser();
+#elif defined TEST_PLUGIN_InitCrashes
+[[maybe_unused]] const int s_crash = std::raise(SIGSEGV);
+#endif
 
 void write(const QString& entry)
 {
@@ -167,6 +179,10 @@ public:
         return false;
 #elif defined TEST_PLUGIN_LoadThrows
         throw std::runtime_error("no licence");
+#elif defined TEST_PLUGIN_LoadCrashes
+        std::raise(SIGSEGV);
+#elif defined TEST_PLUGIN_CrashesLater
+        QTimer::singleShot(0, qApp, [] { std::raise(SIGSEGV); });
 #elif defined TEST_PLUGIN_BadExtensions
         addExtension(&m_inLoad);
         addExtension(&m_inActivate);
@@ -181,6 +197,13 @@ public:
         addExtension(&m_second);
 #endif
         return SpxPlugin::load();
+    }
+    void unload() override
+    {
+        SpxPlugin::unload();
+#if defined TEST_PLUGIN_UnloadThrows
+        throw std::runtime_error("not leaving");
+#endif
     }
 
 private:
@@ -209,6 +232,13 @@ SpxPlugin* loadPlugin()
     throw std::runtime_error("out of luck");
 #elif defined TEST_PLUGIN_ThrowsNothing
     throw 7;
+#elif defined TEST_PLUGIN_Endless
+    for (volatile bool again = true; again;) {
+    }
+#elif defined TEST_PLUGIN_Ends
+    std::_Exit(0);
+#elif defined TEST_PLUGIN_Crashes
+    std::raise(SIGSEGV);
 #elif !defined TEST_PLUGIN_Null
     s_plugin = new Plugin;
 #endif
@@ -222,5 +252,8 @@ void unloadPlugin()
 {
     delete s_plugin;
     s_plugin = nullptr;
+#if defined TEST_PLUGIN_UnloadThrows
+    throw std::runtime_error("not going");
+#endif
 }
 #endif

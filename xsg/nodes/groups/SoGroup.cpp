@@ -4,6 +4,7 @@
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
+#include <new>
 #include <unordered_set>
 
 template class SoTyped<SoGroup, SoNode>;
@@ -45,6 +46,8 @@ bool SoGroup::insertChild(SoNode* child, int index)
     if (!child || wouldLoop(child))
         return false;
     const int place = std::clamp(index, 0, getNumChildren());
+    if (m_children.size() == m_children.capacity())
+        m_children.reserve(2 * m_children.size() + 1); // what can fail comes first
     adopt(child);
     m_children.insert(m_children.begin() + place, child);
     childrenChanged();
@@ -86,8 +89,8 @@ bool SoGroup::replaceChild(int index, SoNode* child)
 
 void SoGroup::adopt(SoNode* child)
 {
-    child->ref();
     child->m_parents.push_back(this);
+    child->ref();
 }
 
 void SoGroup::release(SoNode* child)
@@ -102,11 +105,18 @@ void SoGroup::release(SoNode* child)
 void SoGroup::disownAll(const std::vector<SoNode*>& children)
 {
     std::unordered_set<const SoNode*> swept;
+    const auto isFirst = [&](const SoNode* child) {
+        try {
+            return swept.insert(child).second;
+        } catch (const std::bad_alloc&) {
+            return true; // sweeping twice is slower and nothing else
+        }
+    };
     std::for_each(children.rbegin(), children.rend(), [&](SoNode* child) {
         auto& parents = child->m_parents;
         if (!parents.empty() && parents.back() == this)
             parents.pop_back();
-        else if (swept.insert(child).second)
+        else if (isFirst(child))
             parents.erase(std::remove(parents.begin(), parents.end(), this), parents.end());
     });
 }

@@ -14,9 +14,13 @@ namespace OwnLibrary
 
 using Header = ElfW(Ehdr);
 
-/// Its folder, with symbolic links resolved.
+/// Its path and its folder, with symbolic links resolved.
+QString path();
 QString folder();
 
+/// The path of a program that the host starts for work that must not harm its own process, such as
+/// "scopix-read-model". They lie in the folder "scopix" beside the library.
+QString helperProgram(const QString& name);
 /// Its ELF header as it lies in memory, which shows what kind of machine this process runs on.
 const Header& header();
 

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "plugins/PluginTrial.h"
+
+#include "support/OwnLibrary.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <cstring>
+
+namespace scopix
+{
+
+namespace
+{
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PluginTrial", text);
+}
+
+constexpr int LongestReason = 1000;
+
+// The first line of what the program says.
+QString reasonIn(const QByteArray& said)
+{
+    return QString::fromUtf8(said).section(QLatin1Char('\n'), 0, 0).left(LongestReason);
+}
+
+PluginTrial::Outcome crashed(int signal)
+{
+    return {tr("its code crashed while it was tried in a process of its own (%1)")
+                .arg(QString::fromLocal8Bit(strsignal(signal))),
+            true};
+}
+
+PluginTrial::Outcome tooLong(int patienceMs)
+{
+    return {tr("it was tried in a process of its own and did not finish loading within %1 seconds")
+                .arg(patienceMs / 1000.0),
+            true};
+}
+
+} // namespace
+
+PluginTrial::Outcome PluginTrial::run(const QString& library, int patienceMs)
+{
+    QProcess trial;
+    trial.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    trial.start(OwnLibrary::helperProgram(QStringLiteral("scopix-try-plugin")), {library});
+    if (!trial.waitForStarted(patienceMs))
+        return {}; // an incomplete installation: the plug-in is loaded as it is
+    trial.closeWriteChannel();
+    if (!trial.waitForFinished(patienceMs)) {
+        trial.kill();
+        trial.waitForFinished(-1); // a killed process ends at once
+        return tooLong(patienceMs);
+    }
+    if (trial.exitStatus() == QProcess::CrashExit)
+        return crashed(trial.exitCode());
+    if (trial.exitCode() == Succeeded)
+        return {};
+    const QString reason = reasonIn(trial.readAllStandardOutput());
+    return reason.isEmpty() ? Outcome{tr("its code ended the process in which it was tried"), true}
+                            : Outcome{reason, false};
+}
+
+} // namespace scopix
