@@ -3,6 +3,7 @@
 
 #include "import/FileImport.h"
 
+#include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/files/SceneReading.h>
 
 #include <QBasicTimer>
@@ -13,8 +14,9 @@
 namespace scopix
 {
 
-/// Reads one scene file between the events of the user, so that the window stays alive. A small one is read
-/// before start() returns. GUI thread only.
+/// Reads one scene file between the events of the user, so that the window stays alive, and then looks for
+/// the box around the scene, which the views ask for first. A small one is read before start() returns. GUI
+/// thread only.
 class SceneImport : public FileImport
 {
     Q_OBJECT
@@ -35,11 +37,14 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    void readOn(int ms);
+    void goOn(int ms);
+    bool read(xsg::SceneReader::Clock::time_point until);
     void report();
     bool cancelReading();
 
     std::unique_ptr<xsg::SceneReading> m_reading; // null before and after
+    SoRef<SoNode> m_scene;                        // once it is read
+    SoBoundingBoxAction m_box;
     QBasicTimer m_turn;
     bool m_keepsNodes = false;
 };
