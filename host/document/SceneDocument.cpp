@@ -43,9 +43,12 @@ QStringList SceneDocument::fileExtensions()
     return QStringList(sceneEnding()) + modelEndings();
 }
 
-void SceneDocument::begin(SoNode* root, const QString& path, const QString& title)
+void SceneDocument::begin(SoNode* root, const QString& path, const QString& title,
+                          const std::vector<SoTexture2*>* textures)
 {
-    if (!path.isEmpty())
+    if (!path.isEmpty() && textures)
+        setPictureFolder(*textures, QFileInfo(path).absolutePath());
+    else if (!path.isEmpty())
         setPictureFolder(root, QFileInfo(path).absolutePath());
     replaceRoot(root, false);
     setState(path, title);

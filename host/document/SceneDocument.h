@@ -7,7 +7,10 @@
 #include <QObject>
 #include <QString>
 
+#include <vector>
+
 class SoField;
+class SoTexture2;
 
 namespace scopix
 {
@@ -30,8 +33,10 @@ public:
     static QStringList fileExtensions();
 
     /// Opens another scene in place of the one before, and clears selection and history. `path` is the scene
-    /// file or model it came from, or empty; `title` names it.
-    void begin(SoNode* root, const QString& path, const QString& title);
+    /// file or model it came from, or empty; `title` names it. `textures` are all textures in it, where the
+    /// caller knows them: a large scene need not be searched then.
+    void begin(SoNode* root, const QString& path, const QString& title,
+               const std::vector<SoTexture2*>* textures = nullptr);
     /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title);
 

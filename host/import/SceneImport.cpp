@@ -3,6 +3,8 @@
 
 #include "model/GradualRelease.h"
 
+#include <xsg/nodes/properties/SoTexture2.h>
+
 #include <QFile>
 
 namespace scopix
@@ -29,11 +31,18 @@ SceneImport::~SceneImport()
 void SceneImport::start(const QString& path)
 {
     m_reading = std::make_unique<xsg::SceneReading>(QFile::encodeName(path).toStdString());
-    if (m_keepsNodes)
-        m_reading->getReader().keepNodes();
+    m_reading->getReader().setNodeListener([this](SoNode* node) { note(node); });
     openDialog(path);
     m_turn.start(0, this);
     goOn(FirstMs);
+}
+
+void SceneImport::note(SoNode* node)
+{
+    if (m_keepsNodes)
+        m_nodes.push_back(node);
+    if (node->getTypeId() == SoTexture2::getClassTypeId())
+        m_textures.push_back(static_cast<SoTexture2*>(node));
 }
 
 void SceneImport::timerEvent(QTimerEvent* /*event*/)
@@ -65,11 +74,10 @@ bool SceneImport::read(xsg::SceneReader::Clock::time_point until)
 void SceneImport::report()
 {
     const SoRef<SoNode> scene = std::move(m_scene);
-    const std::vector<SoNode*> nodes = m_reading->getReader().takeNodes();
     const QString error = QString::fromStdString(m_reading->getError());
     cancelReading();
     if (scene)
-        emit finished(scene, nodes);
+        emit finished(scene);
     else
         emit failed(error);
 }

@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+class SoTexture2;
+
 namespace scopix
 {
 
@@ -25,18 +27,22 @@ public:
     explicit SceneImport(QWidget* window, QObject* parent = nullptr);
     ~SceneImport() override;
 
-    /// Has the nodes handed over too, in the order in which the file has them.
+    /// Has all nodes noted, in the order in which the file has them.
     void keepNodes() { m_keepsNodes = true; }
+    /// Those, and the textures among them: of use while the scene is.
+    const std::vector<SoNode*>& getNodes() const { return m_nodes; }
+    const std::vector<SoTexture2*>& getTextures() const { return m_textures; }
     void start(const QString& path) override;
     void cancel() override;
 
 signals:
-    void finished(const SoRef<SoNode>& scene, const std::vector<SoNode*>& nodes);
+    void finished(const SoRef<SoNode>& scene);
 
 protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    void note(SoNode* node);
     void goOn(int ms);
     bool read(xsg::SceneReader::Clock::time_point until);
     void report();
@@ -46,6 +52,8 @@ private:
     SoRef<SoNode> m_scene;                        // once it is read
     SoBoundingBoxAction m_box;
     QBasicTimer m_turn;
+    std::vector<SoNode*> m_nodes;
+    std::vector<SoTexture2*> m_textures;
     bool m_keepsNodes = false;
 };
 

@@ -65,8 +65,8 @@ private:
     void applyTyping();
     FileImport* importScene(const QString& path);
     FileImport* importModel(const QString& path);
-    void fileRead(SoNode* root, const QString& path);
-    void show(SoNode* root, const QString& path);
+    void fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures);
+    void show(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures);
     void reportFailure(const QString& sentence);
     void forgetImport();
     void cancelled(const QString& path);

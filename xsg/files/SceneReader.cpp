@@ -7,7 +7,6 @@
 #include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <algorithm>
-#include <functional>
 #include <system_error>
 
 namespace
@@ -290,8 +289,8 @@ bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
     SoNode* node = m_open.back().node.get();
     if (hasName)
         node->setName(SbName(SbString(name)));
-    if (m_keepsNodes)
-        m_nodes.push_back(node);
+    if (m_nodeListener)
+        m_nodeListener(node);
     return true;
 }
 

@@ -24,12 +24,11 @@ protected:
     SceneReadingInTurns()
     {
         SoReadError::setHandlerCallback(nullptr, nullptr);
-        QObject::connect(&import, &SceneImport::finished,
-                         [this](const SoRef<SoNode>& s, const std::vector<SoNode*>& n) {
-                             scene = s;
-                             nodes = n;
-                             told << "finished";
-                         });
+        QObject::connect(&import, &SceneImport::finished, [this](const SoRef<SoNode>& s) {
+            scene = s;
+            nodes = import.getNodes();
+            told << "finished";
+        });
         QObject::connect(&import, &FileImport::failed, [this](const QString& sentence) {
             error = sentence;
             told << "failed";

@@ -350,10 +350,10 @@ TEST_F(SceneRecords, CompleteASceneThatChangedWhileItWasWritten)
             records.add(writer.recordOf(*field).text);
 
         xsg::SceneReader reader(base);
-        reader.keepNodes();
+        std::vector<SoNode*> read;
+        reader.setNodeListener([&](SoNode* node) { read.push_back(node); });
         const SoRef<SoNode> scene = reader.read();
         ASSERT_TRUE(scene) << reader.getProblem() << "\n" << base;
-        const std::vector<SoNode*> read = reader.takeNodes();
         ASSERT_EQ(records.apply(read), "");
         const std::string is = settled(scene.get());
         forgetReferences(scene.get());
@@ -379,9 +379,9 @@ TEST_F(SceneRecords, ThatAreDamagedAreRefused)
 
     const std::string text = writeInPieces(root.get());
     xsg::SceneReader reader(text);
-    reader.keepNodes();
+    std::vector<SoNode*> read;
+    reader.setNodeListener([&](SoNode* node) { read.push_back(node); });
     const auto scene = reader.read();
-    const std::vector<SoNode*> read = reader.takeNodes();
     for (const char* wrong :
          {"", "@", "@4", "@4 size", "@4 size:", "@4 size: many", "@4 height: 5", "@99999 size: 5",
           "@-1 size: 5", "@4 size: 5 !loud", "@4 size: 5 <- @99999.width", "@4 size: 5 <- @1.nothing",
