@@ -101,6 +101,7 @@ private:
     bool fail(std::size_t at, std::string problem);
     bool failAt(Place place, std::string problem);
     void skipBlanks();
+    bool skipSomeBlanks();
     bool atEnd() { return !m_text.has(m_at); }
     char peek() { return m_text.at(m_at); }
     bool accept(char c);
@@ -143,6 +144,7 @@ private:
 
     SceneText m_text;
     std::size_t m_at = 0;
+    bool m_isInComment = false;
     Phase m_phase = Phase::FirstLine;
     Clock::time_point m_until = Clock::time_point::max();
     std::size_t m_next = 0; // of what the phase goes through

@@ -21,6 +21,7 @@
 #include <fstream>
 #include <random>
 #include <unistd.h>
+#include <utility>
 
 namespace
 {
@@ -155,6 +156,31 @@ TEST(ScenePieces, NothingIsReadBehindTheFirstError)
     }
     SoReadError::setHandlerCallback(SoError::defaultHandler, nullptr);
     std::remove(path.c_str());
+}
+
+// They are neither kept, nor passed in one go.
+TEST(ScenePieces, EndlessBlanksAndCommentsAreGivenBack)
+{
+    for (const char filler : {' ', '#'}) {
+        std::size_t left = std::size_t{4} << 20U;
+        std::string start = Head;
+        xsg::SceneReader reader([&](char* to, std::size_t size) {
+            if (!start.empty()) {
+                std::memcpy(to, start.data(), start.size());
+                return std::exchange(start, {}).size();
+            }
+            const std::size_t count = std::min(size, left);
+            std::memset(to, filler, count);
+            left -= count;
+            return count;
+        });
+        int turns = 1;
+        while (!reader.advance(NoTime))
+            ++turns;
+        EXPECT_GT(turns, 60) << filler;
+        EXPECT_EQ(reader.getProblem(), "the file has no node: a type such as Separator was expected");
+        EXPECT_EQ(reader.getLine(), 2);
+    }
 }
 
 TEST(ScenePieces, OfAReadingThatIsGivenUpComeBackToBeReleased)
