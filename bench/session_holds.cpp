@@ -96,7 +96,7 @@ public:
         QObject::connect(&m_window, &HostWindow::openFinished,
                          [this](bool good) { m_opened += good ? 1 : 0; });
         QObject::connect(&m_window.getFiles().getDocument(), &SceneDocument::rootChanged,
-                         [this](SoNode* /*root*/) { m_beat.end("  its text is read"); });
+                         [this](SoNode* /*root*/) { m_beat.end("  it is read, and the views have it"); });
         m_window.show();
         turns(10);
     }
@@ -106,9 +106,9 @@ public:
         m_beat.begin();
         m_window.openFile(path);
         runUntil([&] { return m_opened > before; });
-        m_beat.end("  the views have the scene");
+        m_beat.end("  what was open before goes");
         turns(20);
-        m_beat.end("  and have drawn it");
+        m_beat.end("  the views have drawn it");
     }
     void cancel(const QString& path)
     {
@@ -142,6 +142,7 @@ public:
         autosave.keepNow();
         m_beat.end("  another one, on the disk at once");
         autosave.drop();
+        turns(20); // the view draws what was edited
     }
 
 private:

@@ -85,6 +85,7 @@ void Autosave::adopt(std::shared_ptr<RecoverySlot> slot)
 
 void Autosave::drop()
 {
+    m_hasEdits = false;
     m_pending = false;
     m_pause.stop();
     m_limit.stop();
@@ -115,6 +116,7 @@ void Autosave::edited()
 {
     if (!m_document.isModified())
         return;
+    m_hasEdits = true;
     if (!takesRecords())
         askForSnapshot();
     else if (m_hasSnapshot && !m_recordTimer.isActive())
@@ -234,7 +236,7 @@ void Autosave::recordFor(int ms)
 
 void Autosave::keepNow()
 {
-    if (!m_started || !m_document.isModified())
+    if (!m_hasEdits || !m_document.isModified())
         return;
     m_writer.finishNow();
     if (!m_hasSnapshot || !takesRecords()) {

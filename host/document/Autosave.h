@@ -80,7 +80,8 @@ private:
     bool m_hasSnapshot = false;                              // which the journal continues
     int m_interruptions = 0;                                 // of snapshots, since one was completed
     bool m_started = false;
-    bool m_pending = false; // edits that wait for a snapshot
+    bool m_hasEdits = false; // that the user did not agree to lose
+    bool m_pending = false;  // edits that wait for a snapshot
     bool m_failed = false;
 };
 

@@ -2,6 +2,7 @@
 #include "document/SceneDocument.h"
 
 #include "document/TexturePaths.h"
+#include "model/GradualRelease.h"
 #include "model/ModelFormats.h"
 #include "services/HostServices.h"
 #include "support/OutputFile.h"
@@ -57,9 +58,11 @@ QStringList SceneDocument::fileExtensions()
 }
 
 void SceneDocument::begin(SoNode* root, const QString& path, const QString& title,
-                          const std::optional<FileStamp>& stamp)
+                          const std::optional<FileStamp>& stamp, const std::vector<SoTexture2*>* textures)
 {
-    if (!path.isEmpty())
+    if (!path.isEmpty() && textures)
+        setPictureFolder(*textures, folderOf(path));
+    else if (!path.isEmpty())
         setPictureFolder(root, folderOf(path));
     replaceRoot(root, false);
     setState(path, title, stamp);
@@ -76,11 +79,13 @@ void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
     m_services.clearSelection();
     m_services.history().clear();
     m_services.undoStack().setClean();
-    const SoRef<SoNode> before = m_root;
+    SoRef<SoNode> before = m_root;
     m_root = SoRef<SoNode>(root);
     m_isExternal = isExternal;
     m_touched = false;
     emit rootChanged(root);
+    if (before)
+        releaseGradually(std::move(before));
 }
 
 void SceneDocument::beginModified(SoNode* root, const QString& path, const QString& title,

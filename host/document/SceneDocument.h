@@ -10,8 +10,10 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 class SoField;
+class SoTexture2;
 
 namespace scopix
 {
@@ -37,9 +39,11 @@ public:
 
     /// Opens another scene in place of the one before, and clears selection and history. `path` is the scene
     /// file or model it came from, or empty; `title` names it; `stamp` is that of the file before it was
-    /// read, otherwise that of now.
+    /// read, otherwise that of now. `textures` are all textures in it, where the caller knows them: a large
+    /// scene need not be searched then.
     void begin(SoNode* root, const QString& path, const QString& title,
-               const std::optional<FileStamp>& stamp = {});
+               const std::optional<FileStamp>& stamp = {},
+               const std::vector<SoTexture2*>* textures = nullptr);
     /// As begin(), with edits that are in no file.
     void beginModified(SoNode* root, const QString& path, const QString& title,
                        const std::optional<FileStamp>& stamp = {});

@@ -30,6 +30,13 @@ void setPictureFolder(SoNode* root, const QString& folder)
     forEachTexture(root, [&](SoTexture2& texture) { texture.setFolder(encoded); });
 }
 
+void setPictureFolder(const std::vector<SoTexture2*>& textures, const QString& folder)
+{
+    const std::string encoded = QFile::encodeName(folder).toStdString();
+    for (SoTexture2* texture : textures)
+        texture->setFolder(encoded);
+}
+
 void movePictures(SoNode* root, const QString& folder)
 {
     const std::string encoded = QFile::encodeName(folder).toStdString();

@@ -3,6 +3,8 @@
 
 #include "model/GradualRelease.h"
 
+#include <xsg/nodes/properties/SoTexture2.h>
+
 #include <QFile>
 
 namespace scopix
@@ -29,34 +31,53 @@ SceneImport::~SceneImport()
 void SceneImport::start(const QString& path)
 {
     m_reading = std::make_unique<xsg::SceneReading>(QFile::encodeName(path).toStdString());
-    if (m_keepsNodes)
-        m_reading->getReader().keepNodes();
+    m_reading->getReader().setNodeListener([this](SoNode* node) { note(node); });
     openDialog(path);
     m_turn.start(0, this);
-    readOn(FirstMs);
+    goOn(FirstMs);
+}
+
+void SceneImport::note(SoNode* node)
+{
+    if (m_keepsNodes)
+        m_nodes.push_back(node);
+    if (node->getTypeId() == SoTexture2::getClassTypeId())
+        m_textures.push_back(static_cast<SoTexture2*>(node));
 }
 
 void SceneImport::timerEvent(QTimerEvent* /*event*/)
 {
-    readOn(TurnMs);
+    goOn(TurnMs);
 }
 
-void SceneImport::readOn(int ms)
+void SceneImport::goOn(int ms)
 {
-    using Clock = xsg::SceneReader::Clock;
-    if (m_reading->advance(Clock::now() + std::chrono::milliseconds(ms)))
+    const auto until = xsg::SceneReader::Clock::now() + std::chrono::milliseconds(ms);
+    if (read(until) && (!m_scene || m_box.advance(until)))
         return report();
     showPercent(static_cast<int>(m_reading->getProgress() * 100)); // may run the event loop, and so cancel
 }
 
+// True when there is nothing more to read.
+bool SceneImport::read(xsg::SceneReader::Clock::time_point until)
+{
+    if (m_scene)
+        return true;
+    if (!m_reading->advance(until))
+        return false;
+    m_scene = m_reading->takeScene();
+    if (m_scene)
+        m_box.begin(m_scene.get());
+    return true;
+}
+
 void SceneImport::report()
 {
-    const SoRef<SoNode> scene = m_reading->takeScene();
-    const std::vector<SoNode*> nodes = m_reading->getReader().takeNodes();
+    const SoRef<SoNode> scene = std::move(m_scene);
     const QString error = QString::fromStdString(m_reading->getError());
     cancelReading();
     if (scene)
-        emit finished(scene, nodes);
+        emit finished(scene);
     else
         emit failed(error);
 }
@@ -73,9 +94,13 @@ bool SceneImport::cancelReading()
     m_turn.stop();
     closeDialog();
     const std::unique_ptr<xsg::SceneReading> reading = std::move(m_reading);
-    if (reading)
-        releaseGradually(reading->getReader().abandon());
-    return reading != nullptr;
+    if (!reading)
+        return false;
+    std::vector<SoRef<SoNode>> nodes = reading->getReader().abandon();
+    if (m_scene)
+        nodes.push_back(std::move(m_scene));
+    releaseGradually(std::move(nodes));
+    return true;
 }
 
 } // namespace scopix

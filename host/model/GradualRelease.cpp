@@ -24,6 +24,7 @@ public:
         : QObject(QCoreApplication::instance())
         , m_open(std::move(nodes))
     {
+        setObjectName(QStringLiteral("gradualRelease"));
     }
     bool isDone() const { return m_open.empty(); }
     void advance()
@@ -68,6 +69,13 @@ void releaseGradually(std::vector<SoRef<SoNode>> nodes)
     release->advance();
     if (!release->isDone() && QCoreApplication::instance())
         release.release()->goOn();
+}
+
+void releaseGradually(SoRef<SoNode> node)
+{
+    std::vector<SoRef<SoNode>> nodes;
+    nodes.push_back(std::move(node)); // a braced list would hold it too
+    releaseGradually(std::move(nodes));
 }
 
 } // namespace scopix

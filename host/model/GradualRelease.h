@@ -12,5 +12,6 @@ namespace scopix
 /// Gives these references up. What nothing else holds is taken apart, a little at once and the rest between
 /// the events of the user. GUI thread only.
 void releaseGradually(std::vector<SoRef<SoNode>> nodes);
+void releaseGradually(SoRef<SoNode> node);
 
 } // namespace scopix

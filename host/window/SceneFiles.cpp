@@ -70,8 +70,9 @@ void SceneFiles::open(const QString& path)
 FileImport* SceneFiles::importScene(const QString& path)
 {
     auto* import = new SceneImport(&m_window, this);
-    connect(import, &SceneImport::finished, this,
-            [this, path](const SoRef<SoNode>& scene) { fileRead(scene.get(), path); });
+    connect(import, &SceneImport::finished, this, [this, path, import](const SoRef<SoNode>& scene) {
+        fileRead(scene.get(), path, &import->getTextures());
+    });
     return import;
 }
 
@@ -79,15 +80,15 @@ FileImport* SceneFiles::importModel(const QString& path)
 {
     auto* import = new ModelImport(&m_window, this);
     connect(import, &ModelImport::finished, this,
-            [this, path](const SoRef<SoSeparator>& scene) { fileRead(scene.get(), path); });
+            [this, path](const SoRef<SoSeparator>& scene) { fileRead(scene.get(), path, nullptr); });
     return import;
 }
 
-void SceneFiles::fileRead(SoNode* root, const QString& path)
+void SceneFiles::fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures)
 {
     // The user may have continued to edit while the file was read.
     if (m_document.getEditCount() == m_droppable || confirmDiscard())
-        show(root, path, m_import ? m_import->notes() : QStringList());
+        show(root, path, textures);
     else
         cancelled(path);
 }
@@ -107,11 +108,12 @@ void SceneFiles::cancelled(const QString& path)
     emit opened(false);
 }
 
-void SceneFiles::show(SoNode* root, const QString& path, const QStringList& notes)
+void SceneFiles::show(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures)
 {
-    forgetImport();
+    const QStringList notes = m_import ? m_import->notes() : QStringList();
+    forgetImport(); // later
     const QString name = QFileInfo(path).fileName();
-    m_document.begin(root, path, name, m_opening);
+    m_document.begin(root, path, name, m_opening, textures);
     m_reselect.restore(m_services, root);
     m_reselect = {};
     remember(path);
@@ -343,10 +345,9 @@ void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
         m_notifier.error(sentence);
     });
     connect(import, &FileImport::cancelled, this, &SceneFiles::forgetImport);
-    connect(import, &SceneImport::finished, this,
-            [this, kept](const SoRef<SoNode>& scene, const std::vector<SoNode*>& nodes) {
-                recovered(scene.get(), nodes, kept);
-            });
+    connect(import, &SceneImport::finished, this, [this, kept, import](const SoRef<SoNode>& scene) {
+        recovered(scene.get(), import->getNodes(), kept);
+    });
     import->start(kept->scenePath());
 }
 

@@ -74,8 +74,8 @@ private:
     void applyTyping();
     FileImport* importScene(const QString& path);
     FileImport* importModel(const QString& path);
-    void fileRead(SoNode* root, const QString& path);
-    void show(SoNode* root, const QString& path, const QStringList& notes = {});
+    void fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures);
+    void show(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures);
     void reportFailure(const QString& sentence);
     void remember(const QString& path);
     void forgetImport();

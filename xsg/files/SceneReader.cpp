@@ -7,7 +7,6 @@
 #include <xsg/nodes/base/SoUnknownNode.h>
 
 #include <algorithm>
-#include <functional>
 #include <system_error>
 
 namespace
@@ -21,6 +20,9 @@ constexpr std::string_view ByteOrderMark = "\xef\xbb\xbf";
 constexpr std::size_t LongValue = std::size_t{1} << 20U;
 // The text of a value is in memory as a whole.
 constexpr std::size_t LongestValue = std::size_t{1} << 30U;
+constexpr std::size_t LongestWord = std::size_t{64} << 10U;
+// Are skipped, in blanks or a comment, before what was passed is given back.
+constexpr std::size_t MostBlanks = std::size_t{64} << 10U;
 constexpr std::size_t LargestPiece = std::size_t{16} << 20U;
 
 std::string shown(std::string_view text)
@@ -77,13 +79,20 @@ bool xsg::SceneReader::failAt(Place place, std::string problem)
 
 void xsg::SceneReader::skipBlanks()
 {
-    bool inComment = false;
-    for (; !atEnd(); ++m_at) {
-        const char c = peek();
-        inComment = c != '\n' && (inComment || c == '#');
-        if (!inComment && !xsg::TextReader::isBlank(c))
-            return;
+    while (!skipSomeBlanks()) {
     }
+}
+
+// False where there may be more of them.
+bool xsg::SceneReader::skipSomeBlanks()
+{
+    for (const std::size_t most = m_at + MostBlanks; m_at < most; ++m_at) {
+        const char c = peek();
+        m_isInComment = c != '\n' && (m_isInComment || c == '#') && !atEnd();
+        if (atEnd() || (!m_isInComment && !xsg::TextReader::isBlank(c)))
+            return true;
+    }
+    return false;
 }
 
 bool xsg::SceneReader::accept(char c)
@@ -98,7 +107,7 @@ bool xsg::SceneReader::accept(char c)
 std::string xsg::SceneReader::readWord()
 {
     const std::size_t start = m_at;
-    while (!atEnd() && xsg::TextReader::isWordByte(peek()))
+    while (m_at - start < LongestWord && !atEnd() && xsg::TextReader::isWordByte(peek()))
         ++m_at;
     return std::string(m_text.from(start).substr(0, m_at - start));
 }
@@ -107,7 +116,7 @@ bool xsg::SceneReader::readQuoted(std::string& out)
 {
     ValueScan scan;
     const auto open = [&] { return scan.getOpen() != std::string_view::npos; };
-    while (!scan.advance(m_text.from(m_at)) && open() && m_text.load()) {
+    while (!scan.advance(m_text.from(m_at)) && open() && scan.getLength() < LongestValue && m_text.load()) {
     }
     xsg::TextReader reader(m_text.from(m_at));
     if (!reader.readQuoted(out))
@@ -222,8 +231,10 @@ bool xsg::SceneReader::readItems()
 {
     if (m_pending)
         return readValue();
-    skipBlanks();
+    const bool isSkipped = skipSomeBlanks();
     m_text.pass(m_at);
+    if (!isSkipped)
+        return true;
     if (atEnd())
         return endItems();
     if (m_root && m_open.empty())
@@ -290,8 +301,8 @@ bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
     SoNode* node = m_open.back().node.get();
     if (hasName)
         node->setName(SbName(SbString(name)));
-    if (m_keepsNodes)
-        m_nodes.push_back(node);
+    if (m_nodeListener)
+        m_nodeListener(node);
     return true;
 }
 

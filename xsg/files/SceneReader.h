@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <deque>
+#include <functional>
 #include <future>
 #include <optional>
 #include <string>
@@ -49,9 +50,8 @@ public:
     /// Gives up, and hands over what has been read so far: nodes that stand nowhere.
     std::vector<SoRef<SoNode>> abandon();
 
-    /// From the start on, notes the nodes in the order in which the text has them.
-    void keepNodes() { m_keepsNodes = true; }
-    std::vector<SoNode*> takeNodes() { return std::move(m_nodes); }
+    /// Is called for each node, in the order in which the text has them, before its fields are read.
+    void setNodeListener(std::function<void(SoNode*)> listener) { m_nodeListener = std::move(listener); }
 
     /// After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
     int getLine() const { return m_problemPlace.line; }
@@ -101,6 +101,7 @@ private:
     bool fail(std::size_t at, std::string problem);
     bool failAt(Place place, std::string problem);
     void skipBlanks();
+    bool skipSomeBlanks();
     bool atEnd() { return !m_text.has(m_at); }
     char peek() { return m_text.at(m_at); }
     bool accept(char c);
@@ -143,6 +144,7 @@ private:
 
     SceneText m_text;
     std::size_t m_at = 0;
+    bool m_isInComment = false;
     Phase m_phase = Phase::FirstLine;
     Clock::time_point m_until = Clock::time_point::max();
     std::size_t m_next = 0; // of what the phase goes through
@@ -156,9 +158,8 @@ private:
     std::deque<Connection> m_connections;
     std::unordered_map<const SoField*, const Connection*> m_unordered;
     std::vector<const Connection*> m_sourcesFirst;
-    SbString m_value; // keeps its memory from field to field
-    bool m_keepsNodes = false;
-    std::vector<SoNode*> m_nodes;
+    SbString m_value;                                 // keeps its memory from field to field
+    std::function<void(SoNode*)> m_nodeListener;      // or null
     const std::vector<SoNode*>* m_recorded = nullptr; // which a record refers to by their places
     bool m_isDefault = false;                         // says the record
 };

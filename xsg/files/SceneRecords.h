@@ -21,8 +21,8 @@ public:
     bool isEmpty() const { return m_last.empty(); }
 
     /// Gives the fields the recorded states. `nodes` are those of the scene, in the order in which its text
-    /// has them (SceneReader::keepNodes()). Returns one sentence where a record does not fit them, which
-    /// leaves the scene half changed; else an empty text.
+    /// has them (SceneReader::setNodeListener()). Returns one sentence where a record does not fit them,
+    /// which leaves the scene half changed; else an empty text.
     std::string apply(const std::vector<SoNode*>& nodes) const;
 
 private:

@@ -38,7 +38,8 @@ protected:
     {
         const QByteArray text = snapshot();
         xsg::SceneReader reader(std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
-        reader.keepNodes();
+        std::vector<SoNode*> nodes;
+        reader.setNodeListener([&](SoNode* node) { nodes.push_back(node); });
         const SoRef<SoNode> scene = reader.read();
         EXPECT_TRUE(scene) << reader.getProblem();
         if (!scene)
@@ -46,7 +47,7 @@ protected:
         const int comment = text.lastIndexOf("# snapshot ");
         const QByteArray id = text.mid(comment).trimmed().mid(11);
         const QString file = path + '/' + QDir(path).entryList({"*.journal"}).value(0, "none");
-        EXPECT_EQ(EditJournal::read(file, id).apply(reader.takeNodes()), "");
+        EXPECT_EQ(EditJournal::read(file, id).apply(nodes), "");
         return SoSceneFile::writeText(scene.get());
     }
     std::string current() const { return SoSceneFile::writeText(document.getRoot()); }

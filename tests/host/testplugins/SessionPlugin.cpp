@@ -61,7 +61,7 @@ private:
     {
         const QString kept = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/scopix/recovery");
         const bool wereKept = QFileInfo::exists(kept);
-        char noManager = 0;
+        alignas(16) char noManager[64] = {};
         emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(noManager));
         if (QFileInfo::exists(kept))
             std::raise(wereKept ? SIGABRT : SIGKILL);
