@@ -38,6 +38,10 @@ public:
     /// hold values of the same type. False, and nothing changes, for another type, for a range that does not
     /// lie in its field as a whole, and where there is no memory.
     bool replaceValues(int start, int removed, const SoMField& from, int fromStart, int inserted);
+    /// What one value takes in this object, without what it refers to, such as the characters of a string.
+    virtual std::size_t bytesPerValue() const = 0;
+    /// Whether two values have the same type and the same bits; false for an index outside.
+    bool isSameValue(int index, const SoMField& other, int otherIndex) const;
     /// An empty field of this field's class that stands alone, to hold a part of its values; null where the
     /// class cannot be instantiated.
     virtual std::unique_ptr<SoMField> makeSlice() const;
@@ -51,8 +55,8 @@ protected:
     virtual void resize(int count) = 0;
     virtual void open(int start, int count) = 0;
     virtual void close(int start, int count) = 0;
-    virtual std::size_t bytesPerValue() const = 0;
     virtual bool holdsSameValues(const SoMField& other) const = 0;
+    virtual bool isSameAt(int index, const SoMField& other, int otherIndex) const = 0;
     /// Replaces values within the field by ones of `from`, which holds values of the same type and may be
     /// this.
     virtual void splice(int start, int removed, const SoMField& from, int fromStart, int inserted) = 0;

@@ -213,6 +213,7 @@ void SoMValue<T, Base>::set1Value(int index, const T& value)
         return;
     this->evaluate();
     const int before = count();
+    this->aboutToWrite(std::min(index, before), index < before ? 1 : 0);
     // A copy: the value may be one of this field's own.
     if (storeAt(index, T(value)))
         this->valuesGrown(before, index, index);
@@ -234,6 +235,7 @@ void SoMValue<T, Base>::setValues(int start, int number, const T* values)
         return;
     this->evaluate();
     const int before = count();
+    this->aboutToWrite(std::min(start, before), std::clamp(before - start, 0, number));
     if (start + number > before && !this->grow(start + number))
         return;
     std::copy_n(values, number, m_values.begin() + start);
@@ -256,6 +258,14 @@ template <class T, class Base>
 bool SoMValue<T, Base>::holdsSameValues(const SoMField& other) const
 {
     return other.getTypeId() == this->getTypeId() || hasSameValues(other);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::isSameAt(int index, const SoMField& other, int otherIndex) const
+{
+    return xsg::sameValue(
+        m_values[static_cast<std::size_t>(index)],
+        dynamic_cast<const SoMValue&>(other).m_values[static_cast<std::size_t>(otherIndex)]);
 }
 
 template <class T, class Base>
