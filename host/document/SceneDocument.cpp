@@ -6,7 +6,6 @@
 #include "services/HostServices.h"
 #include "support/OutputFile.h"
 
-#include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
 
 #include <QDir>
@@ -18,16 +17,13 @@ namespace scopix
 
 SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
-    , m_sensor(selectedFieldTouched, this)
 {
     connect(&services.history(), &UndoHistory::acted, this, &SceneDocument::acted);
     connect(&services.undoStack(), &QUndoStack::cleanChanged, this, &SceneDocument::stateChanged);
-    connect(&services, &SpxServices::selectedFieldChanged, this, &SceneDocument::watch);
 }
 
 SceneDocument::~SceneDocument()
 {
-    m_services.disconnect(this);
     m_services.undoStack().disconnect(this);
     m_services.history().disconnect(this);
 }
@@ -64,7 +60,6 @@ void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
     const SoRef<SoNode> before = m_root;
     m_root = SoRef<SoNode>(root);
     m_isExternal = isExternal;
-    m_touched = false;
     emit rootChanged(root);
 }
 
@@ -81,11 +76,13 @@ bool SceneDocument::hasSceneFile() const
 
 bool SceneDocument::isModified() const
 {
-    return !m_isExternal && (m_touched || !m_services.undoStack().isClean());
+    return !m_isExternal && !m_services.undoStack().isClean();
 }
 
 QString SceneDocument::save(const QString& path)
 {
+    m_services.history().settle();
+    const UserInput::Scope scope(m_services.history().input(), UserInput::Scope::Other);
     // A link stays one; what it leads to is replaced.
     const QFileInfo target(path);
     const QString real = target.isSymLink() && target.exists() ? target.canonicalFilePath() : path;
@@ -104,8 +101,6 @@ QString SceneDocument::save(const QString& path)
 
 void SceneDocument::adoptFile(const QString& path)
 {
-    m_touched = false;
-    knowField(); // the name of a picture may have been moved
     m_services.undoStack().setClean();
     setState(path, QFileInfo(path).fileName());
 }
@@ -118,39 +113,10 @@ void SceneDocument::setState(const QString& path, const QString& title)
     emit stateChanged();
 }
 
-void SceneDocument::watch(SoField* field)
-{
-    if (!field) {
-        m_sensor.detach();
-        return;
-    }
-    m_sensor.attach(field);
-    knowField();
-}
-
-void SceneDocument::knowField()
-{
-    if (const SoField* field = m_sensor.getAttachedField())
-        m_knownCount = field->getChangeCount();
-}
-
 void SceneDocument::acted()
 {
-    knowField();
     ++m_editCount;
     emit edited();
-}
-
-void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
-{
-    auto& document = *static_cast<SceneDocument*>(self);
-    const SoField* field = document.m_sensor.getAttachedField();
-    // A value that comes over a connection is no edit.
-    if (!field || field->isConnected() || field->getChangeCount() == document.m_knownCount)
-        return;
-    document.m_touched = true;
-    document.acted();
-    emit document.stateChanged();
 }
 
 } // namespace scopix

@@ -2,12 +2,9 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/sensors/SoFieldSensor.h>
 
 #include <QObject>
 #include <QString>
-
-class SoField;
 
 namespace scopix
 {
@@ -65,9 +62,6 @@ signals:
     void stateChanged();
 
 private:
-    static void selectedFieldTouched(void* self, SoSensor* sensor);
-    void watch(SoField* field);
-    void knowField();
     void acted();
     void replaceRoot(SoNode* root, bool isExternal);
     void adoptFile(const QString& path);
@@ -78,9 +72,6 @@ private:
     bool m_isExternal = false;
     QString m_path;
     QString m_title;
-    SoFieldSensor m_sensor;         // of the selected field: some edits leave no step in the history
-    std::uint32_t m_knownCount = 0; // of that field's changes, up to the last act of the history
-    bool m_touched = false;         // by such an edit
     quint64 m_editCount = 0;
 };
 

@@ -7,6 +7,7 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+class QUndoView;
 class SoField;
 
 namespace scopix
@@ -57,6 +58,7 @@ protected:
 
 private:
     void makeDocks();
+    void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
     void makeViewMenu();
