@@ -52,13 +52,21 @@ void UndoHistory::inputChanged()
         return;
     listen();
     settle();
-    if (!m_input.isActing() && m_current && m_current->gesture() == 0)
-        finishCurrent();
+    finishLoneStep();
+}
+
+// What belongs to no gesture goes on no longer than what runs.
+void UndoHistory::finishLoneStep()
+{
+    if (m_input.isActing() || !m_current || m_current->gesture() != 0)
+        return;
+    finishCurrent();
+    releaseUnused();
 }
 
 void UndoHistory::listen()
 {
-    if (m_input.isActing() || m_executing)
+    if (m_input.mayAct() || m_executing)
         setActive(this);
     else if (getActive() == this)
         setActive(nullptr);
@@ -103,8 +111,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
     else
         emit failed(tr("“%1” failed: %2").arg(context.text, failure));
     settle();
-    if (context.gesture == 0 && !m_input.isActing())
-        finishCurrent();
+    finishLoneStep();
 }
 
 void UndoHistory::recordDeferred()
@@ -114,8 +121,7 @@ void UndoHistory::recordDeferred()
     for (Deferred& each : deferred) {
         stepFor(each.context).add(std::move(each.command), each.context, false);
         settle();
-        if (each.context.gesture == 0)
-            finishCurrent();
+        finishLoneStep();
     }
 }
 

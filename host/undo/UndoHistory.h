@@ -95,6 +95,7 @@ private:
     void settleCurrent();
     void settleEarlier();
     void finishCurrent();
+    void finishLoneStep();
     void pushCurrent();
     void takeCurrentOff();
     void showCurrent();

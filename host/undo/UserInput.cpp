@@ -105,8 +105,7 @@ void UserInput::setWindow(QWidget* window)
 
 bool UserInput::isActing() const
 {
-    return !m_deliveries.empty() && m_deliveries.back().who == Scope::User &&
-           m_deliveries.back().level == loopLevel();
+    return mayAct() && m_deliveries.back().level == loopLevel();
 }
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event)

@@ -26,7 +26,7 @@ class UserInput : public QObject
     Q_OBJECT
 
 public:
-    /// `changed` is called whenever isActing() may have changed.
+    /// `changed` is called whenever mayAct() may have changed.
     explicit UserInput(std::function<void()> changed, QObject* parent = nullptr);
     ~UserInput() override;
 
@@ -34,6 +34,8 @@ public:
     /// is opened by such input.
     void setWindow(QWidget* window);
     bool isActing() const;
+    /// As isActing(), or an event loop runs inside of the delivery, at whose end it is so again.
+    bool mayAct() const { return !m_deliveries.empty() && m_deliveries.back().who == Scope::User; }
 
     /// While it exists, what runs is done by the user, or by somebody else.
     class Scope
