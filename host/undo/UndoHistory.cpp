@@ -242,6 +242,7 @@ void UndoHistory::run(UndoStep& step, bool undoes)
                         : tr("“%1” cannot be redone and is no longer in the history: %2"))
                     .arg(step.text(), reason));
     step.drop();
+    m_stateIsUnknown = true;
     QMetaObject::invokeMethod(
         this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
 }
@@ -255,6 +256,8 @@ void UndoHistory::forget(const SoFieldContainer* container)
         return touched.empty() || std::find(touched.begin(), touched.end(), container) != touched.end();
     };
     m_deferred.erase(std::remove_if(m_deferred.begin(), m_deferred.end(), touches), m_deferred.end());
+    if (m_executing)
+        m_executing->letGo(container);
     const int dropped = dropSteps(container);
     if (dropped == 0)
         return;
@@ -328,7 +331,7 @@ int UndoHistory::cleanIndexAfterSweep() const
 
 void UndoHistory::restackWithoutDropped()
 {
-    const int clean = cleanIndexAfterSweep();
+    const int clean = std::exchange(m_stateIsUnknown, false) ? -1 : cleanIndexAfterSweep();
     Steps kept;
     int index = 0;
     for (int i = 0; i < m_stack.count(); ++i) {

@@ -127,7 +127,8 @@ private:
     bool m_hasDroppedOld = false;
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;
-    int m_lostCount = 0; // not yet told
+    bool m_stateIsUnknown = false; // a step failed half-way, so that nothing tells what was saved
+    int m_lostCount = 0;           // not yet told
     QString m_lostWith;
     UserInput m_input;
 };

@@ -12,6 +12,8 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace scopix
 {
@@ -36,7 +38,7 @@ public:
     {
         if (!field.getContainer())
             return;
-        m_containers.insert(field.getContainer());
+        watch(field);
         if (m_fields.count(&field) == 0)
             return;
         auto& edit = m_edits[&field];
@@ -45,6 +47,12 @@ public:
         edit->aboutToWrite(start, removed);
     }
     const std::set<const SoFieldContainer*>& containers() const { return m_containers; }
+    // A refused write notifies nobody.
+    bool hasWritten() const
+    {
+        const auto isWritten = [](const auto& each) { return each.first->getChangeCount() != each.second; };
+        return m_hasUnknown || std::any_of(m_counts.begin(), m_counts.end(), isWritten);
+    }
     void rewind()
     {
         setActive(nullptr);
@@ -55,8 +63,22 @@ public:
     }
 
 private:
+    void watch(const SoField& field)
+    {
+        SoFieldContainer* container = field.getContainer();
+        m_containers.insert(container);
+        // A node that nobody refers to may be on the stack.
+        if (container->getRefCount() == 0)
+            m_hasUnknown = true;
+        else if (m_counts.emplace(&field, field.getChangeCount()).second)
+            m_kept.emplace_back(container);
+    }
+
     const std::map<SoField*, std::unique_ptr<FieldEdit>>& m_fields;
     SoWriteRecorder* m_before;
+    std::map<const SoField*, std::uint32_t> m_counts;
+    std::vector<SoRef<SoFieldContainer>> m_kept;
+    bool m_hasUnknown = false;
     std::map<SoField*, std::unique_ptr<FieldEdit>> m_edits;
     std::set<const SoFieldContainer*> m_containers;
 };
@@ -89,6 +111,8 @@ void UndoStep::aboutToWrite(SoField& field, int start, int removed)
 void UndoStep::aboutToWriteInCommand(SoField& field, int start, int removed)
 {
     m_commandWrote = true;
+    if (m_touched.insert(field.getContainer()).second)
+        m_newInCommand.insert(field.getContainer());
     if (m_edits.count(&field) == 0)
         m_foundInCommand.insert(&field);
     aboutToWrite(field, start, removed);
@@ -116,6 +140,20 @@ void UndoStep::forgetUnchanged()
             m_edits.erase(found);
     }
     m_foundInCommand.clear();
+    m_newInCommand.clear();
+}
+
+void UndoStep::letGo(const SoFieldContainer* container)
+{
+    if (m_newInCommand.erase(container) == 0)
+        return;
+    m_touched.erase(container);
+    for (auto at = m_edits.begin(); at != m_edits.end();) {
+        const bool isOf = at->first->getContainer() == container;
+        if (isOf)
+            m_foundInCommand.erase(at->first);
+        at = isOf ? m_edits.erase(at) : std::next(at);
+    }
 }
 
 void UndoStep::noteTouched(const SpxCommand& command, const UndoHistory::CommandContext& context)
@@ -211,9 +249,10 @@ QString UndoStep::runCommand(Command& command, Direction direction)
     if (m_dropped)
         return {};
     m_touched.insert(written.containers().begin(), written.containers().end());
-    written.rewind();
     // A field that refuses a text says so to the command alone.
-    if (failure.isEmpty() && command.wrote && m_edits.empty() && written.containers().empty())
+    const bool isRefused = command.wrote && m_edits.empty() && !written.hasWritten();
+    written.rewind();
+    if (failure.isEmpty() && isRefused)
         return UndoHistory::tr("nothing could be written");
     return failure;
 }

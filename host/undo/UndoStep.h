@@ -28,6 +28,8 @@ public:
     void aboutToWrite(SoField& field, int start, int removed);
     /// Before a write inside of a command: the field is watched from now on, and the step touches its node.
     void aboutToWriteInCommand(SoField& field, int start, int removed);
+    /// A node goes while the command runs. One that only this command wrote was its own.
+    void letGo(const SoFieldContainer* container);
     /// Takes over a command that was executed. `isSeen`: its writes of watched fields were seen from the
     /// first on.
     void add(std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context, bool isSeen);
@@ -81,6 +83,7 @@ private:
     std::vector<Command> m_commands;
     Edits m_edits;
     std::set<SoField*> m_foundInCommand; // not watched before, since the command runs
+    std::set<const SoFieldContainer*> m_newInCommand;
     std::set<const SoFieldContainer*> m_touched;
     bool m_commandWrote = false;
     bool m_mayTouchAnything = false;

@@ -54,6 +54,7 @@ bool comesFromLoop(QEvent::Type type)
 
 bool goesUp(const QWidget& widget, QEvent::Type type)
 {
+    // Qt passes these on to the parents where nobody accepts them.
     if (widget.isWindow() || type == QEvent::FocusOut || type == QEvent::InputMethod || type == QEvent::Drop)
         return false;
     return type == QEvent::KeyPress || type == QEvent::KeyRelease ||
@@ -170,6 +171,8 @@ bool UserInput::isOurs(QObject* watched) const
 bool UserInput::deliver(QObject* watched, QEvent* event, Scope::Who who)
 {
     const QPointer<QObject> receiver = watched;
+    const bool isPassedOn =
+        isInput(event->type()) && (event->type() != QEvent::Wheel || event->spontaneous());
     {
         const Scope scope(*this, who);
         m_passing = event;
@@ -177,7 +180,7 @@ bool UserInput::deliver(QObject* watched, QEvent* event, Scope::Who who)
     }
     m_passing = nullptr;
     auto* widget = receiver && receiver->isWidgetType() ? static_cast<QWidget*>(receiver.data()) : nullptr;
-    if (widget && isInput(event->type()) && !event->isAccepted() && goesUp(*widget, event->type())) {
+    if (widget && isPassedOn && !event->isAccepted() && goesUp(*widget, event->type())) {
         m_upNext = widget->parentWidget();
         m_upType = event->type();
     }
