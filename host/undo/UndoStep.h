@@ -15,7 +15,7 @@ namespace scopix
 /// One step of the undo history: the commands of one gesture, and what they and the editors made of the
 /// fields that the history watched. Undoing runs the commands' undo first, for what they do beside these
 /// fields; then the fields get back every bit and flag, whatever the commands left in them. Part of
-/// UndoHistory.
+/// UndoHistory (decisions.md: undo-rewrites).
 class UndoStep
 {
 public:

@@ -20,7 +20,8 @@ namespace scopix
 /// and the queued calls of the delegates of item views (Enter in a cell).
 ///
 /// An event filter sees only beginnings, so this one delivers such an event itself, and so sees the end.
-/// Filters that are installed later see these events twice. GUI thread only.
+/// Filters that are installed later see these events twice (decisions.md: input-delivered-by-filter). GUI
+/// thread only.
 class UserInput : public QObject
 {
     Q_OBJECT
