@@ -143,8 +143,11 @@ void FieldEdit::coverList(int start, int removed)
     const int last = std::min(count, removed < 0 ? count : start + removed);
     SoMField& before = list(*m_before);
     if (start < m_start) {
-        before.replaceValues(0, 0, *m_list, start, m_start - start);
-        m_start = start;
+        // At least as many as there are, so that a walk towards the beginning moves each value a few times
+        // only.
+        const int first = std::max(0, std::min(start, m_start - before.getNum()));
+        before.replaceValues(0, 0, *m_list, first, m_start - first);
+        m_start = first;
     }
     const int end = m_start + coveredNow();
     if (last > end)

@@ -50,6 +50,7 @@ void UndoHistory::inputChanged()
 {
     if (m_busy || m_executing)
         return;
+    m_isOfInput = false;
     listen();
     settle();
     finishLoneStep();
@@ -79,7 +80,16 @@ void UndoHistory::aboutToWrite(SoField& field, int start, int removed)
     if (m_executing)
         m_executing->aboutToWriteInCommand(field, start, removed);
     else if (m_input.isActing() && m_isEdited(field))
-        stepFor(m_context()).aboutToWrite(field, start, removed);
+        stepOfInput().aboutToWrite(field, start, removed);
+}
+
+// Asked for with each write, of which there may be millions; the gesture is the same until other input comes.
+UndoStep& UndoHistory::stepOfInput()
+{
+    if (!m_current || !m_isOfInput)
+        stepFor(m_context());
+    m_isOfInput = true;
+    return *m_current;
 }
 
 void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandContext& context)
@@ -94,6 +104,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
                 this, [this] { recordDeferred(); }, Qt::QueuedConnection);
         return;
     }
+    m_isOfInput = false;
     settle();
     stepFor(context);
     const StepPtr step = m_current;

@@ -91,6 +91,7 @@ private:
     void inputChanged();
     void listen();
 
+    UndoStep& stepOfInput();
     UndoStep& stepFor(const CommandContext& context);
     void settleCurrent();
     void settleEarlier();
@@ -117,6 +118,7 @@ private:
     QUndoStack m_stack;
     StepPtr m_current;          // may still grow
     bool m_currentIsOn = false; // the stack, at its end
+    bool m_isOfInput = false;   // it belongs to the input that is being delivered
     Steps m_unsettled;          // edits of earlier gestures that are not on the stack yet
     Steps m_redoable;           // could be redone before it
     int m_cleanBefore = -1;     // index of the saved state before it

@@ -334,6 +334,6 @@ private:
 
 TEST_F(EditorWalk, UndoingEverythingEndsWhereItBegan)
 {
-    walk(fromEnvironment("SCOPIX_WALK_STEPS", 400));
+    walk(fromEnvironment("SCOPIX_WALK_STEPS", 1500));
     expectUndone();
 }

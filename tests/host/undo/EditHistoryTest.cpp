@@ -411,8 +411,11 @@ TEST_F(Acting, AHeldArrowOfASpinBoxIsTheUsersDoing)
     ASSERT_TRUE(waitFor([this] { return m_spin.value() > 3; }));
     QTest::mouseRelease(&m_spin, Qt::LeftButton, {}, up);
     ASSERT_EQ(stack().count(), 1);
+    const float last = transparency();
     stack().undo();
     EXPECT_EQ(transparency(), 0);
+    stack().redo();
+    EXPECT_EQ(transparency(), last);
 }
 
 TEST_F(Acting, ATimerOfTheApplicationDuringAGestureIsNot)

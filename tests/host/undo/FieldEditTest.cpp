@@ -139,10 +139,9 @@ Writes writesOf(SoField& field)
     writes["setDefault"] = [](SoField& written) { written.setDefault(!written.isDefault()); };
     const std::shared_ptr<SoTypedObject> fresh(field.getTypeId().createInstance());
     writes["copyFrom"] = [fresh](SoField& written) { written.copyFrom(dynamic_cast<SoField&>(*fresh)); };
-    addTyped<float, double, std::int32_t, std::uint32_t, short, unsigned short,
-             SbBool, SbString, SbName, SbTime, SbVec2f, SbVec3f, SbVec4f, SbVec2d, SbVec3d, SbVec4d,
-             SbVec2i32, SbVec2s, SbVec3s, SbPlane, SbRotation, SbMatrix, SbBox3f, SoRef<SoNode>>(writes,
-                                                                                                 field);
+    addTyped<float, double, std::int32_t, std::uint32_t, short, unsigned short, SbBool, SbString, SbName,
+             SbTime, SbVec2f, SbVec3f, SbVec4f, SbVec2d, SbVec3d, SbVec4d, SbVec2i32, SbVec2s, SbVec3s,
+             SbPlane, SbRotation, SbMatrix, SbBox3f, SoRef<SoNode>>(writes, field);
     addSingle<bool>(writes, field);
     addSingle<SbColor>(writes, field);
     addSingle<SbBox3s>(writes, field);
@@ -240,6 +239,24 @@ TEST(FieldEdit, KeepsOnlyWhatDiffers)
     EXPECT_EQ(field[999'999], 1);
     ASSERT_TRUE(recorder.edit.redo());
     EXPECT_EQ(field[999'999], 3);
+}
+
+TEST(FieldEdit, FollowsAWalkInEitherDirection)
+{
+    for (const bool backwards : {false, true}) {
+        SoMFInt32 field;
+        for (int i = 0; i < 1000; ++i)
+            field.set1Value(i, i);
+        Recorder recorder(field);
+        for (int i = 100; i < 900; ++i)
+            field.set1Value(backwards ? 999 - i : i, -i);
+        field.deleteValues(backwards ? 50 : 950, 10);
+        recorder.end();
+        ASSERT_TRUE(recorder.edit.undo());
+        ASSERT_EQ(field.getNum(), 1000);
+        for (int i = 0; i < 1000; ++i)
+            ASSERT_EQ(field[i], i);
+    }
 }
 
 TEST(FieldEdit, LeavesAListThatHasAnotherLength)
