@@ -14,6 +14,7 @@ set(SCOPIX_XSG_HEADERS
   SoPreferences.h XsgMalloc.h
   # Fields and what holds them
   SoChangeListener.h SoField.h SoFieldContainer.h SoFieldData.h SoMField.h SoNotification.h SoSField.h
+  SoWriteRecorder.h
   # The types of fields
   SoEnumTable.h SoMFBitMask.h SoMFBool.h SoMFBox3f.h SoMFColor.h SoMFDouble.h SoMFEnum.h SoMFFloat.h
   SoMFInt32.h SoMFMatrix.h SoMFName.h SoMFPlane.h SoMFRotation.h SoMFShort.h SoMFString.h SoMFTime.h
@@ -46,7 +47,7 @@ set(SCOPIX_XSG_HEADERS
   SoDB.h)
 
 set(SCOPIX_EXTENDER_HEADERS
-  SpxCommand.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
+  SpxCommand.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
   SpxProfile.h SpxServices.h SpxShell.h SpxVersion.h)
 
 set(SCOPIX_HOST_HEADERS

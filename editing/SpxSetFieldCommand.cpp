@@ -11,8 +11,18 @@ SpxSetFieldCommand::SpxSetFieldCommand(SoField* field)
 
 void SpxSetFieldCommand::execute()
 {
-    if (const SoField* field = m_field.get())
-        m_after = SpxFieldState(*field);
+    const SoField* field = m_field.get();
+    if (!field)
+        return;
+    m_after = SpxFieldState(*field);
+    m_isWithoutEffect = m_after.isSame(m_before);
+    SpxFieldState::keepDifference(m_before, m_after);
+}
+
+std::vector<SoField*> SpxSetFieldCommand::editedFields() const
+{
+    SoField* field = m_field.get();
+    return field ? std::vector<SoField*>{field} : std::vector<SoField*>{};
 }
 
 void SpxSetFieldCommand::undo()

@@ -2,13 +2,15 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
+#include <scopix/SpxEditedFields.h>
 #include <scopix/editing/SpxFieldPointer.h>
 #include <scopix/editing/SpxFieldState.h>
 
 /// Records that a field of any type was written. Make it before the write and hand it over after it, as
-/// SpxFieldEdit::write() does: the constructor keeps what undo restores, execute() keeps what redo restores.
-/// Once the field's node is destroyed, the command does nothing; it does not keep the node alive.
-class SPX_EDITING_API SpxSetFieldCommand : public SpxCommand
+/// SpxFieldEdit::write() does: the constructor keeps what undo restores, execute() keeps what redo restores,
+/// and of a list only what differs. Once the field's node is destroyed, the command does nothing; it does not
+/// keep the node alive.
+class SPX_EDITING_API SpxSetFieldCommand : public SpxCommand, public SpxEditedFields
 {
 public:
     explicit SpxSetFieldCommand(SoField* field);
@@ -19,6 +21,8 @@ public:
     void execute() override;
     void undo() override;
     void redo() override;
+    std::vector<SoField*> editedFields() const override;
+    bool isWithoutEffect() const override { return m_isWithoutEffect; }
 
 private:
     void restore(const SpxFieldState& state) const;
@@ -26,4 +30,5 @@ private:
     SpxFieldPointer m_field;
     SpxFieldState m_before;
     SpxFieldState m_after;
+    bool m_isWithoutEffect = false;
 };

@@ -30,3 +30,9 @@ void SpxSetIgnoredCommand::apply(bool ignored) const
     if (field && field->isIgnored() != ignored)
         field->setIgnored(ignored);
 }
+
+std::vector<SoField*> SpxSetIgnoredCommand::editedFields() const
+{
+    SoField* field = m_field.get();
+    return field ? std::vector<SoField*>{field} : std::vector<SoField*>{};
+}

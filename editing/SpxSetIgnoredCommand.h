@@ -2,12 +2,13 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
+#include <scopix/SpxEditedFields.h>
 #include <scopix/editing/SpxEditingExport.h>
 #include <scopix/editing/SpxFieldPointer.h>
 
 /// Sets or clears the ignore flag of a field, without copying its value. Once the field's node is destroyed,
 /// the command does nothing; it does not keep the node alive.
-class SPX_EDITING_API SpxSetIgnoredCommand : public SpxCommand
+class SPX_EDITING_API SpxSetIgnoredCommand : public SpxCommand, public SpxEditedFields
 {
 public:
     SpxSetIgnoredCommand(SoField* field, bool ignored);
@@ -15,6 +16,7 @@ public:
     void execute() override;
     void undo() override;
     void redo() override;
+    std::vector<SoField*> editedFields() const override;
 
 private:
     void apply(bool ignored) const;

@@ -37,6 +37,8 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
     Preferences::feed();
+    m_services.history().setMemoryLimit(Preferences::undoMemory());
+    m_services.history().input().setWindow(m_window.get());
     // Closing this window never ends the application around it; run() waits for finished().
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_notifier.setWindow(m_window.get());
@@ -49,6 +51,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
 void HostSession::connectParts()
 {
     connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
+    connect(&m_services, &HostServices::stepsLost, &m_notifier, &UserNotifier::info);
     connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
     connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
     connect(m_window.get(), &HostWindow::openFinished, this, &HostSession::openFinished);

@@ -7,7 +7,6 @@
 #include "services/HostServices.h"
 #include "support/OutputFile.h"
 
-#include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/support/FileReplacement.h>
 
@@ -33,16 +32,13 @@ QString folderOf(const QString& path)
 
 SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
-    , m_sensor(selectedFieldTouched, this)
 {
     connect(&services.history(), &UndoHistory::acted, this, &SceneDocument::acted);
     connect(&services.undoStack(), &QUndoStack::cleanChanged, this, &SceneDocument::stateChanged);
-    connect(&services, &SpxServices::selectedFieldChanged, this, &SceneDocument::watch);
 }
 
 SceneDocument::~SceneDocument()
 {
-    m_services.disconnect(this);
     m_services.undoStack().disconnect(this);
     m_services.history().disconnect(this);
 }
@@ -82,7 +78,6 @@ void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
     SoRef<SoNode> before = m_root;
     m_root = SoRef<SoNode>(root);
     m_isExternal = isExternal;
-    m_touched = false;
     emit rootChanged(root);
     if (before)
         releaseGradually(std::move(before));
@@ -102,11 +97,13 @@ bool SceneDocument::hasSceneFile() const
 
 bool SceneDocument::isModified() const
 {
-    return !m_isExternal && (m_touched || !m_services.undoStack().isClean());
+    return !m_isExternal && !m_services.undoStack().isClean();
 }
 
 QString SceneDocument::save(const QString& path)
 {
+    m_services.history().settle();
+    const UserInput::Scope scope(m_services.history().input(), UserInput::Scope::Other);
     const QString reason = reasonAgainstWriting(path, {sceneEnding()});
     if (!reason.isEmpty())
         return tr("The scene “%1” cannot be written: %2.").arg(path, reason);
@@ -122,8 +119,6 @@ QString SceneDocument::save(const QString& path)
 
 void SceneDocument::adoptFile(const QString& path)
 {
-    m_touched = false;
-    knowField(); // the name of a picture may have been moved
     m_services.undoStack().setClean();
     setState(path, QFileInfo(path).fileName());
 }
@@ -158,39 +153,10 @@ SceneDocument::FileState SceneDocument::checkFile()
     return state;
 }
 
-void SceneDocument::watch(SoField* field)
-{
-    if (!field) {
-        m_sensor.detach();
-        return;
-    }
-    m_sensor.attach(field);
-    knowField();
-}
-
-void SceneDocument::knowField()
-{
-    if (const SoField* field = m_sensor.getAttachedField())
-        m_knownCount = field->getChangeCount();
-}
-
 void SceneDocument::acted()
 {
-    knowField();
     ++m_editCount;
     emit edited();
-}
-
-void SceneDocument::selectedFieldTouched(void* self, SoSensor*)
-{
-    auto& document = *static_cast<SceneDocument*>(self);
-    const SoField* field = document.m_sensor.getAttachedField();
-    // A value that comes over a connection is no edit.
-    if (!field || field->isConnected() || field->getChangeCount() == document.m_knownCount)
-        return;
-    document.m_touched = true;
-    document.acted();
-    emit document.stateChanged();
 }
 
 } // namespace scopix

@@ -4,7 +4,6 @@
 #include "document/FileStamp.h"
 
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/sensors/SoFieldSensor.h>
 
 #include <QObject>
 #include <QString>
@@ -12,7 +11,6 @@
 #include <optional>
 #include <vector>
 
-class SoField;
 class SoTexture2;
 
 namespace scopix
@@ -84,9 +82,6 @@ signals:
     void stateChanged();
 
 private:
-    static void selectedFieldTouched(void* self, SoSensor* sensor);
-    void watch(SoField* field);
-    void knowField();
     void acted();
     void replaceRoot(SoNode* root, bool isExternal);
     void adoptFile(const QString& path);
@@ -99,9 +94,6 @@ private:
     QString m_title;
     FileStamp m_stamp;
     FileState m_fileState = FileState::AsOpened;
-    SoFieldSensor m_sensor;         // of the selected field: some edits leave no step in the history
-    std::uint32_t m_knownCount = 0; // of that field's changes, up to the last act of the history
-    bool m_touched = false;         // by such an edit
     quint64 m_editCount = 0;
 };
 

@@ -96,7 +96,11 @@ void HostPluginsManager::requestSwitch()
 
 void HostPluginsManager::applyProfile()
 {
-    m_plugins.deactivateAll();
+    {
+        // Editors that go apply what was typed.
+        const UserInput::Scope scope(m_services.history().input(), UserInput::Scope::User);
+        m_plugins.deactivateAll();
+    }
     activateFrom(0);
     m_profiles.deleteRetired();
     m_services.tellSelectionAgain();

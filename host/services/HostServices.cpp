@@ -18,6 +18,11 @@ QString text(SbName name)
     return QString::fromLatin1(name.getString());
 }
 
+const SoFieldContainer* containerOf(const SoField* field)
+{
+    return field ? field->getContainer() : nullptr;
+}
+
 } // namespace
 
 HostServices::HostServices()
@@ -25,6 +30,9 @@ HostServices::HostServices()
     connect(&m_selection, &Selection::nodeChanged, this, &SpxServices::selectedNodeChanged);
     connect(&m_selection, &Selection::fieldChanged, this, &SpxServices::selectedFieldChanged);
     connect(&m_history, &UndoHistory::failed, this, &HostServices::commandFailed);
+    connect(&m_history, &UndoHistory::lost, this, &HostServices::stepsLost);
+    m_history.setEdited([this] { return currentContext(); },
+                        [this](const SoField& field) { return isEdited(field); });
     SoFieldContainer::addDyingCallback(dyingCallback, this);
 }
 
@@ -53,8 +61,16 @@ UndoHistory::CommandContext HostServices::currentContext() const
     touch(m_selection.lastNode());
     touch(m_selection.node());
     for (const SoField* field : {m_selection.lastField(), m_selection.field()})
-        touch(field ? field->getContainer() : nullptr);
+        touch(containerOf(field));
     return context;
+}
+
+// Editors show the selected field, or fields of the selected node.
+bool HostServices::isEdited(const SoField& field) const
+{
+    const SoFieldContainer* container = field.getContainer();
+    return &field == m_selection.field() || &field == m_selection.lastField() ||
+           container == m_selection.node() || container == m_selection.lastNode();
 }
 
 QString HostServices::stepText() const
@@ -69,9 +85,39 @@ QString HostServices::stepText() const
     return tr("Change %1").arg(type.isEmpty() ? name : type + QLatin1Char('.') + name);
 }
 
+template <class Change>
+void HostServices::changeSelection(Change change)
+{
+    const UserInput::Scope scope(m_history.input(), UserInput::Scope::User);
+    change();
+}
+
+void HostServices::select(SoFieldContainer* node)
+{
+    changeSelection([&] { m_selection.select(node); });
+}
+
+void HostServices::select(SoField* field)
+{
+    changeSelection([&] { m_selection.select(field); });
+}
+
+void HostServices::clearSelection()
+{
+    changeSelection([this] { m_selection.clear(); });
+}
+
+void HostServices::tellSelectionAgain()
+{
+    changeSelection([this] { m_selection.reemit(); });
+}
+
 void HostServices::containerDies(SoFieldContainer* container)
 {
-    m_selection.forget(container);
+    if (container == m_selection.node() || container == containerOf(m_selection.field()))
+        changeSelection([&] { m_selection.forget(container); });
+    else
+        m_selection.forget(container);
     m_history.forget(container);
 }
 

@@ -20,11 +20,12 @@ public:
     HostServices();
     ~HostServices() override;
 
-    /// As in Selection; reported by the signals of SpxServices.
-    void select(SoFieldContainer* node) { m_selection.select(node); }
-    void select(SoField* field) { m_selection.select(field); }
-    void clearSelection() { m_selection.clear(); }
-    void tellSelectionAgain() { m_selection.reemit(); }
+    /// As in Selection; reported by the signals of SpxServices. Whoever changes it, an editor that then
+    /// applies what was typed edits for the user.
+    void select(SoFieldContainer* node);
+    void select(SoField* field);
+    void clearSelection();
+    void tellSelectionAgain();
     SoFieldContainer* selectedNode() const { return m_selection.node(); }
     SoField* selectedField() const { return m_selection.field(); }
 
@@ -34,12 +35,16 @@ public:
     QUndoStack& undoStack() { return m_history.stack(); }
 
 signals:
-    /// A command threw; one sentence.
+    /// As UndoHistory::failed and lost.
     void commandFailed(const QString& sentence);
+    void stepsLost(const QString& sentence);
 
 private:
     UndoHistory::CommandContext currentContext() const;
     QString stepText() const;
+    bool isEdited(const SoField& field) const;
+    template <class Change>
+    void changeSelection(Change change);
     void containerDies(SoFieldContainer* container);
     static void dyingCallback(void* services, SoFieldContainer* container);
 

@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace scopix
 {
 
@@ -99,6 +101,14 @@ void Preferences::feed()
     for (const QString& name : preferences.allKeys())
         SoPreferences::setValue(name.toLatin1().constData(),
                                 preferences.value(name).toString().toLatin1().toStdString());
+}
+
+std::size_t Preferences::undoMemory()
+{
+    constexpr int Usual = 256;
+    constexpr int Most = 1 << 20;
+    return static_cast<std::size_t>(std::clamp(SoPreferences::getInt("SCOPIX_UNDO_MEMORY", Usual), 0, Most))
+           << 20;
 }
 
 } // namespace scopix

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+
 namespace scopix
 {
 
@@ -17,6 +19,10 @@ namespace Preferences
 
 /// Reads the file and sets its values. Call before plug-ins are loaded. GUI thread only.
 void feed();
+
+/// What the steps of the undo history may take, in bytes: SCOPIX_UNDO_MEMORY, a number of MiB, 256 without
+/// it. A value that is no such number is reported by an SoReadError.
+std::size_t undoMemory();
 
 } // namespace Preferences
 

@@ -58,6 +58,12 @@ bool isEnter(int key)
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+// Changes the number in a spin box as a whole, as its arrows do.
+bool isStep(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
 bool isModalWindow(const QObject* object)
 {
     const auto* widget = qobject_cast<const QWidget*>(object);
@@ -187,7 +193,9 @@ void GestureTracker::keyPressed(QWidget* widget, const QKeyEvent& event)
         return;
     m_keyEvent = &event;
     m_keyReceiver = widget;
-    if (TextInput::isTextInput(widget)) {
+    const bool isInput = TextInput::isTextInput(widget);
+    const bool steps = isInput && isStep(event.key()) && TextInput::isSingleLine(widget);
+    if (isInput && !steps) {
         typed(widget, isEnter(event.key()));
         return;
     }
@@ -195,6 +203,9 @@ void GestureTracker::keyPressed(QWidget* widget, const QKeyEvent& event)
     const bool repeats = event.isAutoRepeat() && open && open->kind == Kind::Key && open->receiver == widget;
     if (!repeats)
         begin(Kind::Key, widget);
+    // What it steps to may be applied only when the focus leaves; what is typed next is another run.
+    if (steps)
+        m_run = {widget, m_last, true};
 }
 
 void GestureTracker::keyReleased(const QKeyEvent& event)

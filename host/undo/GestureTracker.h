@@ -18,7 +18,7 @@ namespace scopix
 ///
 ///   mouse     from the press until the release of the last button has been delivered;
 ///   typing    a run of keys in one text input, with what the loss of focus that ends it applies; after
-///             Enter, the next key begins another run;
+///             Enter, the next key begins another run; an arrow key of a spin box is a key;
 ///   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
 ///   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;
 ///   dialog    what is done in a modal dialog belongs to the gesture that opened it.

@@ -46,6 +46,11 @@ bool TextInput::isTextInput(const QWidget* widget)
     return documentOf(widget) != nullptr;
 }
 
+bool TextInput::isSingleLine(const QWidget* widget)
+{
+    return lineEditOf(widget) != nullptr;
+}
+
 bool TextInput::hasPendingEdit(const QWidget* widget)
 {
     if (const QLineEdit* line = lineEditOf(widget))

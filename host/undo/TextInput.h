@@ -13,6 +13,9 @@ namespace TextInput
 /// A line edit, text edit, spin box or editable combo box that takes typing.
 bool isTextInput(const QWidget* widget);
 
+/// One of these that is, or holds, a line edit.
+bool isSingleLine(const QWidget* widget);
+
 /// True when the input holds typing that has not been applied: its modified flag is set. Code that applies it
 /// clears the flag.
 bool hasPendingEdit(const QWidget* widget);

@@ -2,11 +2,15 @@
 #include "undo/UndoHistory.h"
 
 #include "support/CatchExceptions.h"
+#include "text/NodeText.h"
 #include "undo/UndoStep.h"
 
 #include <scopix/SpxCommand.h>
+#include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
 
 #include <QScopedValueRollback>
+#include <QThread>
 
 #include <algorithm>
 
@@ -15,8 +19,17 @@ namespace scopix
 
 UndoHistory::UndoHistory(QObject* parent)
     : QObject(parent)
+    , m_input([this] { inputChanged(); })
 {
-    connect(&m_stack, &QUndoStack::indexChanged, this, &UndoHistory::acted);
+    connect(&m_stack, &QUndoStack::indexChanged, this, [this] {
+        if (!m_sweeping)
+            emit acted();
+    });
+    // What follows is to be told apart from what was saved.
+    connect(&m_stack, &QUndoStack::cleanChanged, this, [this](bool isClean) {
+        if (isClean && !m_sweeping)
+            finishCurrent();
+    });
 }
 
 UndoHistory::~UndoHistory()
@@ -24,37 +37,228 @@ UndoHistory::~UndoHistory()
     clear();
 }
 
+void UndoHistory::setEdited(std::function<CommandContext()> context,
+                            std::function<bool(const SoField&)> isEdited)
+{
+    m_context = std::move(context);
+    m_isEdited = std::move(isEdited);
+}
+
+// --- Seeing edits
+
+void UndoHistory::inputChanged()
+{
+    if (m_busy || m_executing)
+        return;
+    m_isOfInput = false;
+    listen();
+    settle();
+    finishLoneStep();
+}
+
+// What belongs to no gesture goes on no longer than what runs.
+void UndoHistory::finishLoneStep()
+{
+    if (m_input.isActing() || !m_current || m_current->gesture() != 0)
+        return;
+    finishCurrent();
+    releaseUnused();
+}
+
+void UndoHistory::listen()
+{
+    if (m_input.mayAct() || m_executing)
+        setActive(this);
+    else if (getActive() == this)
+        setActive(nullptr);
+}
+
+void UndoHistory::aboutToWrite(SoField& field, int start, int removed)
+{
+    if (m_busy || !field.getContainer() || QThread::currentThread() != thread())
+        return;
+    if (m_executing)
+        m_executing->aboutToWriteInCommand(field, start, removed);
+    else if (m_input.isActing() && m_isEdited(field))
+        stepOfInput().aboutToWrite(field, start, removed);
+}
+
+// Asked for with each write, of which there may be millions; the gesture is the same until other input comes.
+UndoStep& UndoHistory::stepOfInput()
+{
+    if (!m_current || !m_isOfInput)
+        stepFor(m_context());
+    m_isOfInput = true;
+    return *m_current;
+}
+
 void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandContext& context)
 {
-    const QString failure = catchExceptions([&] { command->execute(); });
-    if (!failure.isEmpty()) {
+    if (m_busy) {
+        const QString failure = catchExceptions([&] { command->execute(); });
+        if (!failure.isEmpty())
+            return emit failed(tr("“%1” failed: %2").arg(context.text, failure));
+        m_deferred.push_back({std::move(command), context});
+        if (m_deferred.size() == 1)
+            QMetaObject::invokeMethod(
+                this, [this] { recordDeferred(); }, Qt::QueuedConnection);
+        return;
+    }
+    m_isOfInput = false;
+    settle();
+    stepFor(context);
+    const StepPtr step = m_current;
+    QString failure;
+    {
+        const QScopedValueRollback<UndoStep*> executing(m_executing, step.get());
+        listen();
+        failure = catchExceptions([&] { command->execute(); });
+    }
+    listen();
+    // It may have saved, which ends a step.
+    UndoStep& last = m_current == step ? *step : stepFor(context);
+    if (failure.isEmpty())
+        last.add(std::move(command), context, m_input.isActing());
+    else
         emit failed(tr("“%1” failed: %2").arg(context.text, failure));
-        return;
-    }
-    if (!m_busy) {
-        record(std::move(command), context);
-        return;
-    }
-    m_deferred.push_back({std::move(command), context});
-    if (m_deferred.size() == 1)
-        QMetaObject::invokeMethod(
-            this, [this] { recordDeferred(); }, Qt::QueuedConnection);
+    settle();
+    finishLoneStep();
 }
 
 void UndoHistory::recordDeferred()
 {
     std::vector<Deferred> deferred;
     deferred.swap(m_deferred);
-    for (Deferred& each : deferred)
-        record(std::move(each.command), each.context);
+    for (Deferred& each : deferred) {
+        stepFor(each.context).add(std::move(each.command), each.context, false);
+        settle();
+        finishLoneStep();
+    }
 }
 
-void UndoHistory::record(std::unique_ptr<SpxCommand> command, const CommandContext& context)
+// --- The step that may still grow
+
+UndoStep& UndoHistory::stepFor(const CommandContext& context)
 {
-    m_touched.insert(context.touched.begin(), context.touched.end());
-    m_mayTouchAnything |= context.touched.empty();
-    m_stack.push(new UndoEntry(*this, std::make_shared<UndoStep>(*this, std::move(command), context)));
+    if (m_current && m_current->gesture() == context.gesture)
+        return *m_current;
+    if (m_current)
+        finishCurrent();
+    m_current = std::make_shared<UndoStep>(*this, context);
+    return *m_current;
 }
+
+void UndoHistory::settle()
+{
+    if (m_busy || m_sweeping)
+        return;
+    settleEarlier();
+    settleCurrent();
+    releaseUnused();
+}
+
+void UndoHistory::settleEarlier()
+{
+    for (const StepPtr& earlier : std::exchange(m_unsettled, {})) {
+        const StepPtr current = std::exchange(m_current, earlier);
+        settleCurrent();
+        finishCurrent();
+        m_current = current;
+    }
+}
+
+// The step is on the stack while it makes a difference.
+void UndoHistory::settleCurrent()
+{
+    const StepPtr current = m_current;
+    if (!current || !current->isStale())
+        return;
+    current->compare();
+    const bool isOn = !current->isNothing();
+    if (isOn && m_currentIsOn)
+        showCurrent();
+    else if (isOn)
+        pushCurrent();
+    else if (m_currentIsOn)
+        takeCurrentOff();
+}
+
+void UndoHistory::pushCurrent()
+{
+    m_cleanBefore = m_stack.cleanIndex();
+    m_redoable.clear();
+    for (int i = m_stack.index(); i < m_stack.count(); ++i)
+        m_redoable.push_back(stepAt(i));
+    m_currentIsOn = true;
+    m_stack.push(new UndoEntry(*this, m_current));
+}
+
+void UndoHistory::takeCurrentOff()
+{
+    m_currentIsOn = false;
+    Steps kept = steps();
+    kept.pop_back();
+    const int index = static_cast<int>(kept.size());
+    std::move(m_redoable.begin(), m_redoable.end(), std::back_inserter(kept));
+    m_redoable.clear();
+    restack(std::move(kept), index, m_cleanBefore);
+    emit acted();
+}
+
+void UndoHistory::showCurrent()
+{
+    const auto* entry = static_cast<const UndoEntry*>(m_stack.command(m_stack.count() - 1));
+    const_cast<UndoEntry*>(entry)->setText(m_current->text());
+    emit m_stack.undoTextChanged(m_stack.undoText());
+    emit m_stack.indexChanged(m_stack.index()); // views read the text again
+}
+
+void UndoHistory::finishCurrent()
+{
+    const StepPtr current = std::exchange(m_current, nullptr);
+    if (!current)
+        return;
+    if (!m_currentIsOn && current->isStale())
+        return m_unsettled.push_back(current);
+    current->close();
+    m_unused.push_back(current);
+    std::move(m_redoable.begin(), m_redoable.end(), std::back_inserter(m_unused));
+    m_redoable.clear();
+    m_currentIsOn = false;
+}
+
+void UndoHistory::releaseUnused()
+{
+    if (m_unused.empty())
+        return;
+    const Steps unused = std::exchange(m_unused, {});
+    dropOldSteps();
+}
+
+// --- Undo and redo
+
+void UndoHistory::run(UndoStep& step, bool undoes)
+{
+    if (m_sweeping)
+        return;
+    finishCurrent();
+    QString reason;
+    {
+        const QScopedValueRollback<bool> busy(m_busy, true);
+        undoes ? step.undo(reason) : step.redo(reason);
+    }
+    if (reason.isEmpty())
+        return;
+    emit failed((undoes ? tr("“%1” cannot be undone and is no longer in the history: %2")
+                        : tr("“%1” cannot be redone and is no longer in the history: %2"))
+                    .arg(step.text(), reason));
+    step.drop();
+    m_stateIsUnknown = true;
+    QMetaObject::invokeMethod(
+        this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
+}
+
+// --- Steps that go
 
 void UndoHistory::forget(const SoFieldContainer* container)
 {
@@ -63,29 +267,60 @@ void UndoHistory::forget(const SoFieldContainer* container)
         return touched.empty() || std::find(touched.begin(), touched.end(), container) != touched.end();
     };
     m_deferred.erase(std::remove_if(m_deferred.begin(), m_deferred.end(), touches), m_deferred.end());
-    if (m_touched.erase(container) == 0 && !m_mayTouchAnything)
+    if (m_executing)
+        m_executing->letGo(container);
+    const int dropped = dropSteps(container);
+    if (dropped == 0)
         return;
-    m_mayTouchAnything = false; // all such steps are dropped now
-    if (!dropSteps(container))
-        return;
-    if (m_busy)
+    tellLost(dropped, *container);
+    if (m_busy || m_sweeping)
         QMetaObject::invokeMethod(
-            this, [this] { rebuildStack(); }, Qt::QueuedConnection);
+            this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
     else
-        rebuildStack();
+        restackWithoutDropped();
 }
 
-bool UndoHistory::dropSteps(const SoFieldContainer* container)
+// How many of them were on the stack.
+int UndoHistory::dropSteps(const SoFieldContainer* container)
 {
-    bool any = false;
-    for (int i = 0; i < m_stack.count(); ++i) {
-        const StepPtr step = stepAt(i);
-        if (!step->touches(container))
-            continue;
-        step->drop();
-        any = true;
+    const auto drop = [&](const StepPtr& step) {
+        const bool isMeant = !step->isDropped() && step->touches(container);
+        if (isMeant)
+            step->drop();
+        return isMeant;
+    };
+    const Steps onStack = m_sweeping ? Steps() : steps();
+    const auto count = std::count_if(onStack.begin(), onStack.end(), drop);
+    std::for_each(m_redoable.begin(), m_redoable.end(), drop);
+    std::for_each(m_unsettled.begin(), m_unsettled.end(), drop);
+    if (m_current && !m_currentIsOn)
+        drop(m_current);
+    if (m_current && m_current->isDropped()) {
+        m_unused.push_back(std::exchange(m_current, nullptr));
+        m_currentIsOn = false;
     }
-    return any;
+    return static_cast<int>(count);
+}
+
+// From the event loop, since a branch that goes takes many nodes along.
+void UndoHistory::tellLost(int count, const SoFieldContainer& container)
+{
+    m_lostWith = nodeText(container);
+    m_lostCount += count;
+    if (m_lostCount > count)
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const int lost = std::exchange(m_lostCount, 0);
+            emit this->lost(
+                lost == 1
+                    ? tr("A step of the history went with “%1”, which no longer exists.").arg(m_lostWith)
+                    : tr("%1 steps of the history went with “%2”, which no longer exists.")
+                          .arg(lost)
+                          .arg(m_lostWith));
+        },
+        Qt::QueuedConnection);
 }
 
 // The index of the saved state once the dropped steps are removed: -1, none, where one of them lies between
@@ -105,13 +340,10 @@ int UndoHistory::cleanIndexAfterSweep() const
     return after;
 }
 
-// QUndoStack removes commands, obsolete ones too, only from its end, so the stack is emptied and the
-// remaining steps are pushed again.
-void UndoHistory::rebuildStack()
+void UndoHistory::restackWithoutDropped()
 {
-    const QScopedValueRollback<bool> sweeping(m_sweeping, true);
-    const int clean = cleanIndexAfterSweep();
-    std::vector<StepPtr> kept;
+    const int clean = std::exchange(m_stateIsUnknown, false) ? -1 : cleanIndexAfterSweep();
+    Steps kept;
     int index = 0;
     for (int i = 0; i < m_stack.count(); ++i) {
         StepPtr step = stepAt(i);
@@ -120,28 +352,86 @@ void UndoHistory::rebuildStack()
         index += i < m_stack.index() ? 1 : 0;
         kept.push_back(std::move(step));
     }
-    m_stack.clear();
-    for (StepPtr& step : kept) {
-        step->close();
-        m_stack.push(new UndoEntry(*this, std::move(step)));
+    if (static_cast<int>(kept.size()) == m_stack.count())
+        return;
+    restack(std::move(kept), index, clean);
+    emit acted();
+}
+
+// QUndoStack removes commands, obsolete ones too, only from its end, so the stack is emptied and the
+// remaining steps are pushed again.
+void UndoHistory::restack(Steps wanted, int index, int clean)
+{
+    const Steps before = steps(); // until the stack stands again: with steps, nodes may go
+    {
+        const QScopedValueRollback<bool> sweeping(m_sweeping, true);
+        m_stack.clear();
+        for (StepPtr& step : wanted)
+            m_stack.push(new UndoEntry(*this, std::move(step)));
+        m_stack.resetClean();
+        if (clean >= 0) {
+            m_stack.setIndex(clean);
+            m_stack.setClean();
+        }
+        m_stack.setIndex(index);
     }
-    m_stack.resetClean();
-    if (clean >= 0) {
-        m_stack.setIndex(clean);
-        m_stack.setClean();
-    }
-    m_stack.setIndex(index);
 }
 
 void UndoHistory::clear()
 {
+    const Steps before = steps();
+    const Steps redoable = std::exchange(m_redoable, {});
+    const Steps unsettled = std::exchange(m_unsettled, {});
+    const Steps unused = std::exchange(m_unused, {});
+    const StepPtr current = std::exchange(m_current, nullptr);
+    m_currentIsOn = false;
     m_deferred.clear();
-    m_touched.clear();
-    m_mayTouchAnything = false;
+    m_hasDroppedOld = false;
     const bool wasClean = m_stack.isClean();
     m_stack.clear();
     if (!wasClean)
         m_stack.resetClean(); // the edits themselves are still there
+}
+
+// --- Memory
+
+void UndoHistory::setMemoryLimit(std::size_t bytes)
+{
+    m_memoryLimit = bytes;
+    dropOldSteps();
+}
+
+std::size_t UndoHistory::memoryUsed() const
+{
+    std::size_t sum = 0;
+    for (int i = 0; i < m_stack.count(); ++i)
+        sum += stepAt(i)->bytes();
+    return sum;
+}
+
+void UndoHistory::dropOldSteps()
+{
+    std::size_t used = memoryUsed();
+    if (used <= m_memoryLimit || m_busy || m_sweeping)
+        return;
+    // Some more than needed, so that not each edit has to.
+    const std::size_t wanted = m_memoryLimit - m_memoryLimit / 8;
+    for (int i = 0; i + 1 < m_stack.count() && used > wanted; ++i) {
+        const StepPtr step = stepAt(i);
+        used -= std::min(used, step->bytes());
+        step->drop();
+    }
+    m_hasDroppedOld = true;
+    restackWithoutDropped();
+    emit droppedOldSteps();
+}
+
+UndoHistory::Steps UndoHistory::steps() const
+{
+    Steps all;
+    for (int i = 0; i < m_stack.count(); ++i)
+        all.push_back(stepAt(i));
+    return all;
 }
 
 UndoHistory::StepPtr UndoHistory::stepAt(int index) const

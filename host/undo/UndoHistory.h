@@ -2,14 +2,18 @@
 #pragma once
 
 #include "undo/GestureTracker.h"
+#include "undo/UserInput.h"
+
+#include <xsg/core/SoWriteRecorder.h>
 
 #include <QObject>
 #include <QUndoStack>
 
+#include <functional>
 #include <memory>
-#include <unordered_set>
 #include <vector>
 
+class SoField;
 class SoFieldContainer;
 class SpxCommand;
 
@@ -20,60 +24,115 @@ class UndoStep;
 class UndoEntry;
 
 /// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
-/// gesture merged into one step. Undoing a step undoes its commands in reverse order. GUI thread only.
-class UndoHistory : public QObject
+/// gesture as one step. While the user acts it is told of every write of the edited fields too, so that a
+/// step gives back every bit, whatever the commands say or whether there is one; what anybody else writes is
+/// no edit. A step that leaves everything as it was is not on the stack, and what could be redone before it
+/// still can. GUI thread only.
+class UndoHistory : public QObject, private SoWriteRecorder
 {
     Q_OBJECT
 
 public:
-    /// What the host notes with each command.
+    /// What the host notes with each step.
     struct CommandContext {
-        QString text;                                 // names the step
-        std::vector<const SoFieldContainer*> touched; // empty: not known
+        QString text;                                 // names a step whose change is not known
+        std::vector<const SoFieldContainer*> touched; // by such a step; empty: not known
         GestureTracker::Gesture gesture = 0;          // 0: a step of its own
     };
+    static constexpr std::size_t DefaultMemoryLimit = std::size_t(256) << 20;
 
     explicit UndoHistory(QObject* parent = nullptr);
     ~UndoHistory() override;
 
     QUndoStack& stack() { return m_stack; }
+    UserInput& input() { return m_input; }
+    /// Asked for each new step, and for each field that is written while the user acts: whether it is an
+    /// edited one.
+    void setEdited(std::function<CommandContext()> context, std::function<bool(const SoField&)> isEdited);
 
     /// Runs the command's execute() and keeps the command. While a step is being undone or redone, the
     /// command is pushed from the event loop.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
     /// Drops the steps that touch the container, and those with unknown effects.
     void forget(const SoFieldContainer* container);
+    /// What was edited so far is on the stack; else it comes there when the event that edits has been
+    /// delivered.
+    void settle();
     /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
 
+    /// In bytes. When the steps take more, the oldest are dropped, but never the newest.
+    void setMemoryLimit(std::size_t bytes);
+    std::size_t memoryLimit() const { return m_memoryLimit; }
+    std::size_t memoryUsed() const;
+    /// Some were dropped for it since the last clear().
+    bool hasDroppedOldSteps() const { return m_hasDroppedOld; }
+
 signals:
-    /// A command was executed, or steps were undone or redone.
+    /// Something was edited, or steps were undone or redone.
     void acted();
-    /// A command threw; the sentence names the step.
+    /// A command threw, or a step could not be undone and was taken out; one sentence.
     void failed(const QString& sentence);
+    /// Steps went with a node that they touch; one sentence.
+    void lost(const QString& sentence);
+    void droppedOldSteps();
 
 private:
     friend class UndoStep;
     friend class UndoEntry;
     using StepPtr = std::shared_ptr<UndoStep>;
+    using Steps = std::vector<StepPtr>;
     struct Deferred {
         std::unique_ptr<SpxCommand> command;
         CommandContext context;
     };
 
-    void record(std::unique_ptr<SpxCommand> command, const CommandContext& context);
+    void aboutToWrite(SoField& field, int start, int removed) override;
+    void inputChanged();
+    void listen();
+
+    UndoStep& stepOfInput();
+    UndoStep& stepFor(const CommandContext& context);
+    void settleCurrent();
+    void settleEarlier();
+    void finishCurrent();
+    void finishLoneStep();
+    void pushCurrent();
+    void takeCurrentOff();
+    void showCurrent();
+    void releaseUnused();
+
+    void run(UndoStep& step, bool undoes);
     void recordDeferred();
-    bool dropSteps(const SoFieldContainer* container);
-    void rebuildStack();
+    int dropSteps(const SoFieldContainer* container);
+    void restackWithoutDropped();
+    void restack(Steps steps, int index, int clean);
     int cleanIndexAfterSweep() const;
+    void dropOldSteps();
+    void tellLost(int count, const SoFieldContainer& container);
+    Steps steps() const;
     StepPtr stepAt(int index) const;
 
+    std::function<CommandContext()> m_context = [] { return CommandContext(); };
+    std::function<bool(const SoField&)> m_isEdited = [](const SoField&) { return false; };
     QUndoStack m_stack;
-    std::unordered_set<const SoFieldContainer*> m_touched; // by any step since the last clear
-    bool m_mayTouchAnything = false;                       // there is a step with unknown effects
+    StepPtr m_current;          // may still grow
+    bool m_currentIsOn = false; // the stack, at its end
+    bool m_isOfInput = false;   // it belongs to the input that is being delivered
+    Steps m_unsettled;          // edits of earlier gestures that are not on the stack yet
+    Steps m_redoable;           // could be redone before it
+    int m_cleanBefore = -1;     // index of the saved state before it
+    Steps m_unused;             // released when no field is being written: with them nodes may go
+    UndoStep* m_executing = nullptr;
     std::vector<Deferred> m_deferred;
+    std::size_t m_memoryLimit = DefaultMemoryLimit;
+    bool m_hasDroppedOld = false;
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;
+    bool m_stateIsUnknown = false; // a step failed half-way, so that nothing tells what was saved
+    int m_lostCount = 0;           // not yet told
+    QString m_lostWith;
+    UserInput m_input;
 };
 
 } // namespace scopix

@@ -1,44 +1,94 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "undo/FieldEdit.h"
 #include "undo/UndoHistory.h"
 
 #include <QUndoCommand>
 
+#include <map>
+#include <set>
+
 namespace scopix
 {
 
-/// One step of the undo history: the commands of one gesture. Part of UndoHistory.
+/// One step of the undo history: the commands of one gesture, and what they and the editors made of the
+/// fields that the history watched. Undoing runs the commands' undo first, for what they do beside these
+/// fields; then the fields get back every bit and flag, whatever the commands left in them. Part of
+/// UndoHistory (decisions.md: undo-rewrites).
 class UndoStep
 {
 public:
-    UndoStep(UndoHistory& history, std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context);
+    UndoStep(UndoHistory& history, UndoHistory::CommandContext context);
     ~UndoStep();
 
-    /// Takes over the commands of the step that follows, when both are of one gesture and this one has not
-    /// been undone since. False, and nothing changes, otherwise.
-    bool merge(UndoStep& next);
-    /// Nothing is merged into it any more.
-    void close() { m_open = false; }
-    void undo();
-    void redo();
+    GestureTracker::Gesture gesture() const { return m_context.gesture; }
+
+    /// Before a write of a field that it watches.
+    void aboutToWrite(SoField& field, int start, int removed);
+    /// Before a write inside of a command: the field is watched from now on, and the step touches its node.
+    void aboutToWriteInCommand(SoField& field, int start, int removed);
+    /// A node goes while the command runs. One that only this command wrote was its own.
+    void letGo(const SoFieldContainer* container);
+    /// Takes over a command that was executed. `isSeen`: its writes of watched fields were seen from the
+    /// first on.
+    void add(std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context, bool isSeen);
+
+    /// Looks what the step made of its fields so far.
+    void compare();
+    /// Something was written or handed over since it was compared.
+    bool isStale() const { return m_isStale; }
+    /// Every field is as it was before, and the commands did nothing beside.
+    bool isNothing() const;
+    /// Nothing is added any more; what does not differ is let go of.
+    void close();
+
+    /// False where it could not be done, or not as a whole; `reason` then says why.
+    bool undo(QString& reason);
+    bool redo(QString& reason);
 
     bool touches(const SoFieldContainer* container) const;
+    const std::set<const SoFieldContainer*>& touched() const { return m_touched; }
+    /// What it touches is not known.
+    bool mayTouchAnything() const { return m_mayTouchAnything; }
     /// Never runs its commands again.
     void drop();
     bool isDropped() const { return m_dropped; }
 
-    const QString& text() const { return m_context.text; }
-    GestureTracker::Gesture gesture() const { return m_context.gesture; }
+    QString text() const;
+    /// Once it is closed.
+    std::size_t bytes() const { return m_bytes; }
 
 private:
-    template <class Commands, class Act>
-    void run(const Commands& commands, Act act);
+    struct Command {
+        std::unique_ptr<SpxCommand> command;
+        bool wrote = false;         // fields, when it was executed
+        bool isWithoutMore = false; // all that it did is seen in the fields
+    };
+    using Edits = std::map<SoField*, std::unique_ptr<FieldEdit>>;
+    enum class Direction { Undo, Redo };
+
+    FieldEdit& editOf(SoField& field);
+    void forgetUnchanged();
+    void noteTouched(const SpxCommand& command, const UndoHistory::CommandContext& context);
+    bool isSeenWhole(const SpxCommand& command, bool isSeen) const;
+    void run(Direction direction, QString& reason);
+    QString runCommands(Direction direction);
+    QString runCommand(Command& command, Direction direction);
+    bool restoreFields(Direction direction);
+    const FieldEdit* firstChange() const;
 
     UndoHistory& m_history;
     UndoHistory::CommandContext m_context;
-    std::vector<std::unique_ptr<SpxCommand>> m_commands;
-    bool m_open = true;
+    std::vector<Command> m_commands;
+    Edits m_edits;
+    std::set<SoField*> m_foundInCommand; // not watched before, since the command runs
+    std::set<const SoFieldContainer*> m_newInCommand;
+    std::set<const SoFieldContainer*> m_touched;
+    bool m_commandWrote = false;
+    bool m_mayTouchAnything = false;
+    bool m_isStale = true;
+    std::size_t m_bytes = 0; // once it is closed
     bool m_running = false;
     bool m_dropped = false;
 };
@@ -52,14 +102,11 @@ public:
     void undo() override;
     /// Does nothing the first time, when it is pushed: its commands have been executed.
     void redo() override;
-    /// Steps of one gesture have the same id; a step of its own has none.
-    int id() const override;
-    bool mergeWith(const QUndoCommand* next) override;
     const std::shared_ptr<UndoStep>& step() const { return m_step; }
 
 private:
+    UndoHistory& m_history;
     std::shared_ptr<UndoStep> m_step;
-    const bool& m_sweeping;
     bool m_taken = false;
 };
 

@@ -142,7 +142,11 @@ void MainWindow::makeDocks()
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
     auto* history = new QUndoView(&m_services.undoStack());
     history->setObjectName(QStringLiteral("history"));
-    history->setEmptyLabel(tr("Unchanged"));
+    showHistoryStart(*history);
+    connect(&m_services.history(), &UndoHistory::droppedOldSteps, history,
+            [this, history] { showHistoryStart(*history); });
+    connect(&m_files.getDocument(), &SceneDocument::rootChanged, history,
+            [this, history] { showHistoryStart(*history); });
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_fieldsDock, m_historyDock);
@@ -150,6 +154,16 @@ void MainWindow::makeDocks()
     m_fieldsDock->raise();
     resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
     resizeDocks({m_treeDock, m_fieldsDock}, {430, 290}, Qt::Vertical);
+}
+
+// The row before the first step.
+void MainWindow::showHistoryStart(QUndoView& view) const
+{
+    const UndoHistory& history = m_services.history();
+    const auto limit = static_cast<qulonglong>(history.memoryLimit() >> 20);
+    view.setEmptyLabel(history.hasDroppedOldSteps()
+                           ? tr("Older steps were dropped to keep within %1 MiB").arg(limit)
+                           : tr("Unchanged"));
 }
 
 void MainWindow::makeFileMenu()

@@ -7,6 +7,7 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+class QUndoView;
 class SoField;
 
 namespace scopix
@@ -58,6 +59,7 @@ protected:
 private:
     QSize firstSize() const;
     void makeDocks();
+    void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
     void makeViewMenu();

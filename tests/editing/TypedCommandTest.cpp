@@ -4,6 +4,7 @@
 #include <scopix/editing/SpxSetIgnoredCommand.h>
 
 #include <support/TestHost.h>
+#include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoSFTime.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/groups/SoGroup.h>
@@ -48,6 +49,62 @@ TEST(TypedCommand, KeepsWhatNoTextHolds)
     EXPECT_TRUE(std::signbit(field.getValue()));
     command.redo();
     EXPECT_EQ(field.getValue(), 1);
+}
+
+TEST(TypedCommand, KeepsOfAListWhatDiffers)
+{
+    SoMFFloat field;
+    field.setValues(std::vector<float>{1, 2, 3, 4});
+    SpxSetFieldCommand command(&field);
+    field.set1Value(1, 20);
+    command.execute();
+    EXPECT_FALSE(command.isWithoutEffect());
+    EXPECT_EQ(command.editedFields(), std::vector<SoField*>{&field});
+    field.set1Value(3, 40); // by somebody else
+    const auto expect = [&field](const std::vector<float>& values) {
+        EXPECT_EQ(std::vector<float>(field.getValues(), field.getValues() + field.getNum()), values);
+    };
+    command.undo();
+    expect({1, 2, 3, 40});
+    command.redo();
+    expect({1, 20, 3, 40});
+    field.setNum(3);
+    command.undo();
+    expect({1, 20, 3});
+}
+
+TEST(TypedCommand, PutsInsertedAndDeletedValuesBack)
+{
+    const std::vector<float> before{1, 2, 3, 4};
+    for (const auto& after : std::vector<std::vector<float>>{
+             {1, 2, 9, 9, 3, 4}, {1, 4}, {}, {1, 2, 3, 4, 5}, {1, 1, 2, 3, 4}, {1, 2, 3, 4}, {7}}) {
+        SoMFFloat field;
+        field.setValues(before);
+        SpxSetFieldCommand command(&field);
+        field.setValues(after);
+        command.execute();
+        for (int times = 0; times < 2; ++times) {
+            command.undo();
+            EXPECT_EQ(std::vector<float>(field.getValues(), field.getValues() + field.getNum()), before);
+            command.redo();
+            EXPECT_EQ(std::vector<float>(field.getValues(), field.getValues() + field.getNum()), after);
+        }
+    }
+}
+
+TEST(TypedCommand, SaysWhereItHasNoEffect)
+{
+    SoSFFloat field;
+    field.setValue(2);
+    SpxSetFieldCommand same(&field);
+    field.setValue(2);
+    same.execute();
+    EXPECT_TRUE(same.isWithoutEffect());
+    field.setDefault(true);
+    SpxSetFieldCommand flagOnly(&field);
+    field.setValue(2);
+    flagOnly.execute();
+    EXPECT_FALSE(flagOnly.isWithoutEffect());
 }
 
 TEST(TypedCommand, ServesEveryTypeOfField)

@@ -40,6 +40,7 @@ SoField::~SoField()
 
 bool SoField::set(const SbString& text)
 {
+    aboutToWrite();
     if (!parse(text.str()))
         return false;
     valueWritten();
@@ -48,6 +49,7 @@ bool SoField::set(const SbString& text)
 
 bool SoField::setWithoutPropagation(const SbString& text)
 {
+    aboutToWrite();
     if (!parse(text.str()))
         return false;
     m_default = false;
@@ -61,14 +63,22 @@ bool SoField::copyFrom(const SoField& other)
     if (!canConvertFrom(other))
         return false;
     other.evaluate();
+    aboutToWrite();
     if (!take(other))
         return false;
     valueWritten();
     return true;
 }
 
+void SoField::setDefault(bool isDefault)
+{
+    aboutToWrite(0, 0);
+    m_default = isDefault;
+}
+
 void SoField::setIgnored(bool ignored)
 {
+    aboutToWrite(0, 0);
     m_ignored = ignored;
     // The value is the same as before, so that what was written to a dependent field stands.
     notify(0, -1, Dependents::DoNot);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/core/SoWriteRecorder.h>
 #include <xsg/types/SoTyped.h>
 #include <xsg/values/SbName.h>
 #include <xsg/values/SbString.h>
@@ -42,7 +43,7 @@ public:
     void setIgnored(bool ignored);
     /// True until the value is written.
     bool isDefault() const { return m_default; }
-    void setDefault(bool isDefault) { m_default = isDefault; }
+    void setDefault(bool isDefault);
 
     /// Null for a field that stands alone.
     SoFieldContainer* getContainer() const { return m_container; }
@@ -84,6 +85,13 @@ protected:
     /// `name` must outlive the field; the fields of a class pass a literal.
     explicit SoField(SoFieldContainer* owner = nullptr, const char* name = nullptr);
 
+    /// Before the value is written, as SoWriteRecorder::aboutToWrite() has it. Whatever writes a value of its
+    /// own calls this first and valueWritten() afterwards; else the write cannot be undone.
+    void aboutToWrite(int start = 0, int removed = -1)
+    {
+        if (SoWriteRecorder* recorder = SoWriteRecorder::getActive())
+            recorder->aboutToWrite(*this, start, removed);
+    }
     /// After the value was written: marks it and notifies listeners. A multi-value field names the elements.
     void valueWritten(int start = 0, int count = -1);
 

@@ -70,6 +70,7 @@ void SoMField::setNum(int wanted)
 {
     evaluate();
     const int before = count();
+    aboutToWrite(std::min(before, std::max(wanted, 0)));
     if (grow(std::max(wanted, 0)))
         valueWritten(std::min(before, count()), -1);
 }
@@ -91,6 +92,7 @@ bool SoMField::set1(int index, const SbString& text)
         return false;
     evaluate();
     const int before = count();
+    aboutToWrite(std::min(index, before), index < before ? 1 : 0);
     if (!parseValue(text.str(), index))
         return false;
     valuesGrown(before, index, index);
@@ -104,6 +106,7 @@ void SoMField::insertSpace(int start, int number)
     if (number <= 0 || number > std::numeric_limits<int>::max() - before)
         return;
     const int first = std::clamp(start, 0, before);
+    aboutToWrite(first, 0);
     if (hasMemoryTo([&] { open(first, number); }, before + number))
         valueWritten(first, -1);
 }
@@ -116,12 +119,53 @@ void SoMField::deleteValues(int start, int number)
     const int first = std::clamp(start, 0, n);
     if (last <= first)
         return;
+    aboutToWrite(first, static_cast<int>(last) - first);
     close(first, static_cast<int>(last) - first);
     valueWritten(first, -1);
 }
 
+bool SoMField::holds(int start, int number) const
+{
+    return start >= 0 && number >= 0 && start <= count() && number <= count() - start;
+}
+
+bool SoMField::replaceValues(int start, int removed, const SoMField& from, int fromStart, int inserted)
+{
+    evaluate();
+    from.evaluate();
+    if (!holdsSameValues(from) || !from.holdsSameValues(*this) || !holds(start, removed) ||
+        !from.holds(fromStart, inserted))
+        return false;
+    const int others = count() - removed;
+    if (inserted > std::numeric_limits<int>::max() - others)
+        return false;
+    aboutToWrite(start, removed);
+    if (!hasMemoryTo([&] { splice(start, removed, from, fromStart, inserted); }, others + inserted))
+        return false;
+    valueWritten(start, removed == inserted ? inserted : -1);
+    return true;
+}
+
+bool SoMField::isSameValue(int index, const SoMField& other, int otherIndex) const
+{
+    evaluate();
+    other.evaluate();
+    return holdsSameValues(other) && other.holdsSameValues(*this) && holds(index, 1) &&
+           other.holds(otherIndex, 1) && isSameAt(index, other, otherIndex);
+}
+
+std::unique_ptr<SoMField> SoMField::makeSlice() const
+{
+    std::unique_ptr<SoTypedObject> object(getTypeId().createInstance());
+    auto* slice = dynamic_cast<SoMField*>(object.get());
+    if (slice)
+        static_cast<void>(object.release());
+    return std::unique_ptr<SoMField>(slice);
+}
+
 void SoMField::valueChanged(int start, int number, bool isWritten)
 {
+    aboutToWrite(start, 0);
     const bool wasDefault = isDefault();
     valueWritten(start, number);
     if (!isWritten)

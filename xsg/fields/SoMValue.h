@@ -28,6 +28,7 @@ public:
     /// Makes this the only value.
     void setValue(const T& value)
     {
+        this->aboutToWrite();
         m_values.assign(1, value);
         this->valueWritten();
     }
@@ -37,6 +38,7 @@ public:
     /// Takes over the whole list without copying it.
     void setValues(std::vector<T> values)
     {
+        this->aboutToWrite();
         m_values = std::move(values);
         this->valueWritten();
     }
@@ -44,11 +46,13 @@ public:
     T* startEditing()
     {
         this->evaluate();
+        this->aboutToWrite();
         return m_values.data();
     }
     void finishEditing() { this->valueWritten(); }
 
     bool isSame(const SoField& other) const override;
+    std::size_t bytesPerValue() const override { return sizeof(T); }
 
 protected:
     explicit SoMValue(SoFieldContainer* owner = nullptr, const char* name = nullptr,
@@ -61,7 +65,9 @@ protected:
     void resize(int count) override { m_values.resize(static_cast<std::size_t>(count)); }
     void open(int start, int count) override;
     void close(int start, int count) override;
-    std::size_t bytesPerValue() const override { return sizeof(T); }
+    bool holdsSameValues(const SoMField& other) const override;
+    bool isSameAt(int index, const SoMField& other, int otherIndex) const override;
+    void splice(int start, int removed, const SoMField& from, int fromStart, int inserted) override;
     void writeValue(std::string& out, int index) const override;
     void writeValues(std::string& out) const override;
     bool parseValue(std::string_view text, int index) override;

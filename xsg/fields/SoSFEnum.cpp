@@ -18,6 +18,7 @@ SoSFEnum::SoSFEnum(SoFieldContainer* owner, const char* name, SoEnumTablePtr tab
 
 void SoSFEnum::setValue(int value)
 {
+    aboutToWrite();
     m_value = value;
     valueWritten();
 }

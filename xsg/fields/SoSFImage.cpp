@@ -42,6 +42,7 @@ void SoSFImage::setValue(int width, int height, int components, const unsigned c
         if (bytes)
             image.bytes.assign(bytes, bytes + image.pixelCount() * static_cast<std::size_t>(components));
     }
+    aboutToWrite();
     m_image = std::move(image);
     valueWritten();
 }

@@ -20,6 +20,7 @@ public:
     }
     void setValue(const T& value)
     {
+        this->aboutToWrite();
         m_value = value;
         this->valueWritten();
     }

@@ -213,6 +213,7 @@ void SoMValue<T, Base>::set1Value(int index, const T& value)
         return;
     this->evaluate();
     const int before = count();
+    this->aboutToWrite(std::min(index, before), index < before ? 1 : 0);
     // A copy: the value may be one of this field's own.
     if (storeAt(index, T(value)))
         this->valuesGrown(before, index, index);
@@ -234,6 +235,7 @@ void SoMValue<T, Base>::setValues(int start, int number, const T* values)
         return;
     this->evaluate();
     const int before = count();
+    this->aboutToWrite(std::min(start, before), std::clamp(before - start, 0, number));
     if (start + number > before && !this->grow(start + number))
         return;
     std::copy_n(values, number, m_values.begin() + start);
@@ -250,6 +252,38 @@ template <class T, class Base>
 void SoMValue<T, Base>::close(int start, int number)
 {
     m_values.erase(m_values.begin() + start, m_values.begin() + start + number);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::holdsSameValues(const SoMField& other) const
+{
+    return other.getTypeId() == this->getTypeId() || hasSameValues(other);
+}
+
+template <class T, class Base>
+bool SoMValue<T, Base>::isSameAt(int index, const SoMField& other, int otherIndex) const
+{
+    return xsg::sameValue(
+        m_values[static_cast<std::size_t>(index)],
+        dynamic_cast<const SoMValue&>(other).m_values[static_cast<std::size_t>(otherIndex)]);
+}
+
+template <class T, class Base>
+void SoMValue<T, Base>::splice(int start, int removed, const SoMField& from, int fromStart, int inserted)
+{
+    const auto& source = dynamic_cast<const SoMValue&>(from).m_values;
+    // A copy of the field's own values: they move while they are replaced.
+    std::vector<T> own;
+    if (&source == &m_values)
+        own.assign(source.begin() + fromStart, source.begin() + fromStart + inserted);
+    const auto first = &source == &m_values ? own.cbegin() : source.cbegin() + fromStart;
+    // The common part is assigned, only the rest moves what lies behind it.
+    const int common = std::min(removed, inserted);
+    if (inserted > removed)
+        m_values.insert(m_values.begin() + start + removed, first + common, first + inserted);
+    else
+        close(start + inserted, removed - inserted);
+    std::copy_n(first, common, m_values.begin() + start);
 }
 
 template <class T, class Base>

@@ -238,9 +238,9 @@ TEST_F(Autosaving, SavesDuringUninterruptedEdits)
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 
-TEST_F(Autosaving, WritesAnEditWithoutAnUndoStep)
+TEST_F(Autosaving, WritesAnEditWithoutACommand)
 {
-    editWithoutStep(0.5F);
+    editWithoutCommand(0.5F);
     EXPECT_TRUE(waitForSaved("transparency: 0.5"));
 }
 

@@ -23,10 +23,10 @@ TEST_F(Document, FollowsTheHistory)
     EXPECT_TRUE(document.isModified());
 }
 
-TEST_F(Document, CountsAnEditWithoutAnUndoStep)
+TEST_F(Document, CountsAnEditWithoutACommand)
 {
     QSignalSpy told(&document, &SceneDocument::stateChanged);
-    editWithoutStep(0.5F);
+    editWithoutCommand(0.5F);
     EXPECT_TRUE(document.isModified());
     EXPECT_EQ(told.size(), 1);
     EXPECT_EQ(document.save(folder.filePath("scene.xsg")), "");
@@ -111,7 +111,7 @@ TEST_F(Document, AModelHasNoSceneFileYet)
 
 TEST_F(Document, AnotherSceneBeginsUnmodified)
 {
-    editWithoutStep(0.5F);
+    editWithoutCommand(0.5F);
     edit(0.75F);
     begin();
     EXPECT_FALSE(document.isModified());
@@ -146,7 +146,7 @@ TEST_F(Document, AnApplicationsSceneIsNeverUnsavedAndSavesACopy)
     document.beginExternal(scene.get(), "Engine");
     EXPECT_TRUE(document.isExternal());
     edit(0.5F);
-    editWithoutStep(0.75F);
+    editWithoutCommand(0.75F);
     EXPECT_FALSE(document.isModified());
     const QString copy = folder.filePath("copy.xsg");
     EXPECT_EQ(document.save(copy), "");

@@ -35,13 +35,13 @@ protected:
         services.executeCommand(new SetFloat(material->transparency, transparency));
         SoSensorQueue::getInstance().process();
     }
-    /// By an editor that leaves no step in the history.
-    void editWithoutStep(float transparency)
+    /// By an editor that hands over no command.
+    void editWithoutCommand(float transparency)
     {
         services.select(&material->transparency);
         SoSensorQueue::getInstance().process();
+        const UserInput::Scope scope(services.history().input(), UserInput::Scope::User);
         material->transparency.setValue(transparency);
-        SoSensorQueue::getInstance().process();
     }
     QStringList filesIn(const QString& path) const
     {

@@ -14,6 +14,13 @@ bool pluginIsMapped()
     return maps.readAll().contains("libSpxDefaults");
 }
 
+std::string textOf(const SoField& field)
+{
+    SbString text;
+    field.get(text);
+    return text.str();
+}
+
 // A value whose shortest text has many digits.
 constexpr float Exact = 0.1F + 0.0123456F;
 
@@ -72,7 +79,7 @@ TEST(EndToEnd, OneDragIsOneStep)
     const float after = field.getValue();
     EXPECT_EQ(after, seen.back());
     EXPECT_EQ(session.stack().count(), 1);
-    EXPECT_EQ(session.stack().undoText(), "Change Material.transparency");
+    EXPECT_EQ(session.stack().undoText().toStdString(), "Material.transparency: 0.25 → " + textOf(field));
 
     session.stack().undo();
     Session::settle();

@@ -16,10 +16,14 @@ public:
     struct State {
         std::string text;
         bool ignored;
-        bool operator==(const State& other) const { return text == other.text && ignored == other.ignored; }
+        bool isDefault;
+        bool operator==(const State& other) const
+        {
+            return text == other.text && ignored == other.ignored && isDefault == other.isDefault;
+        }
         friend void PrintTo(const State& state, std::ostream* out)
         {
-            *out << state.text << (state.ignored ? " ignored" : "");
+            *out << state.text << (state.ignored ? " ignored" : "") << (state.isDefault ? " default" : "");
         }
     };
 
@@ -45,7 +49,7 @@ public:
     {
         std::vector<State> all;
         for (const SoField* field : fields<SoField>())
-            all.push_back({textOf(field), field->isIgnored()});
+            all.push_back({textOf(field), field->isIgnored(), field->isDefault()});
         return all;
     }
 

@@ -37,12 +37,6 @@ const char* cellText(const std::string& type)
     return own == texts.end() ? "5" : own->second;
 }
 
-bool isPlainNumber(const std::string& type)
-{
-    return type == "MFFloat" || type == "MFDouble" || type == "MFInt32" || type == "MFUInt32" ||
-           type == "MFShort" || type == "MFUShort";
-}
-
 class ListGallery : public testing::Test
 {
 protected:
@@ -180,14 +174,6 @@ protected:
                 typeIntoCell(column);
                 EXPECT_EQ(text(), before);
                 EXPECT_EQ(m_session.stack().index(), steps);
-            } else if (isPlainNumber(type())) {
-                // A cell of a single column of numbers leaves nothing to undo; it is put back by hand.
-                const int steps = m_session.stack().index();
-                typeIntoCell(column);
-                EXPECT_NE(text(), before);
-                EXPECT_EQ(m_session.stack().index(), steps);
-                m_field->set(SbString(before.c_str()));
-                Session::settle();
             } else {
                 step("cell", [&] { typeIntoCell(column); });
                 EXPECT_NE(text(), before);
@@ -199,7 +185,9 @@ protected:
     {
         goTo(2);
         const std::string before = text();
-        step("popup", [&] { click("m_editButton"); });
+        const int steps = m_session.stack().index();
+        click("m_editButton");
+        EXPECT_EQ(m_session.stack().index(), steps) << "opening changes nothing";
         EXPECT_EQ(text(), before);
         QWidget* popup = QApplication::activePopupWidget();
         ASSERT_TRUE(popup);
@@ -213,7 +201,6 @@ protected:
         popup->close();
         Session::settle();
     }
-    // A chosen colour is a step of the history, but undoing it leaves the colour; it is put back by hand.
     void useColorDialog()
     {
         const std::string before = text();
@@ -228,13 +215,7 @@ protected:
             m_table->scrollTo(swatch);
             QTest::mouseClick(m_table->viewport(), Qt::LeftButton, {}, m_table->visualRect(swatch).center());
         });
-        const std::string chosen = text();
-        EXPECT_NE(chosen, before);
-        m_session.stack().undo();
-        Session::settle();
-        EXPECT_EQ(text(), chosen);
-        m_field->set(SbString(before.c_str()));
-        Session::settle();
+        EXPECT_NE(text(), before);
     }
 
     GallerySession m_session;

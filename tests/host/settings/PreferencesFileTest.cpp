@@ -27,8 +27,8 @@ protected:
     {
         for (const char* name : {"XDG_CONFIG_HOME", "XSG_PREFERENCES", "XSG_TEST_SETTING"})
             qunsetenv(name);
-        for (const char* name :
-             {"XSG_TEST_SETTING", "YES", "NO", "COUNT", "RATIO", "PATH_1", "LIST", "LATER"})
+        for (const char* name : {"XSG_TEST_SETTING", "YES", "NO", "COUNT", "RATIO", "PATH_1", "LIST", "LATER",
+                                 "SCOPIX_UNDO_MEMORY"})
             SoPreferences::setValue(name, SbString());
     }
     static void write(const QString& path, const QByteArray& text)
@@ -67,6 +67,17 @@ TEST_F(PreferencesFile, OfAnOlderVersionIsReadAsItWas)
     EXPECT_EQ(SoPreferences::getString("LIST", ""), SbString("a, b; \"c\" = \\d"));
     EXPECT_EQ(SoPreferences::getString("PATH_1", ""), SbString("/a b/c#1-\xc3\xa0.xsg"));
     EXPECT_TRUE(readErrors.texts.empty());
+}
+
+TEST_F(PreferencesFile, SayHowMuchUndoMayKeep)
+{
+    EXPECT_EQ(Preferences::undoMemory(), std::size_t(256) << 20);
+    feed("SCOPIX_UNDO_MEMORY = 3");
+    EXPECT_EQ(Preferences::undoMemory(), std::size_t(3) << 20);
+    feed("SCOPIX_UNDO_MEMORY = -1");
+    EXPECT_EQ(Preferences::undoMemory(), 0U);
+    feed("SCOPIX_UNDO_MEMORY = 2000000000");
+    EXPECT_EQ(Preferences::undoMemory(), std::size_t(1) << 40);
 }
 
 TEST_F(PreferencesFile, TheEnvironmentWins)

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+class SoField;
+class SoMField;
+
+namespace scopix
+{
+
+/// What an edit made of one field: its value before and after, as typed copies, and its two flags. Of a list
+/// it keeps the values that differ and no others, so it costs what changed. References to nodes are kept with
+/// the values. GUI thread only; the field must outlive it.
+class FieldEdit
+{
+public:
+    /// Made before the first write.
+    explicit FieldEdit(SoField& field);
+    ~FieldEdit();
+
+    SoField& field() const { return m_field; }
+    /// Before each write, as of SoWriteRecorder.
+    void aboutToWrite(int start, int removed);
+    /// Keeps what differs now; the writes so far are over. What others write later is not part of the edit.
+    void compare();
+    /// No bit and no flag differs, by the last compare().
+    bool isNothing() const { return m_runs.empty() && m_flagsBefore == m_flagsAfter; }
+    /// After the last write: lets go of all that does not differ.
+    void close();
+
+    /// Once it is closed. False, and nothing changes, where the list is no longer as this left it.
+    bool undo();
+    bool redo();
+
+    std::size_t bytes() const;
+    /// "transparency: 0.2 → 0.38", "points[3]: 1 0 0 → 1 2 0", by the last compare().
+    QString text() const;
+
+private:
+    struct Flags {
+        bool isIgnored;
+        bool isDefault;
+        bool operator==(const Flags& other) const
+        {
+            return isIgnored == other.isIgnored && isDefault == other.isDefault;
+        }
+    };
+    // Values that differ; until it is closed, `start` counts from m_start.
+    struct Run {
+        int start;
+        int before; // how many
+        int after;
+    };
+
+    Flags flags() const;
+    void coverList(int start, int removed);
+    int coveredNow() const;
+    void compareLists();
+    void compareSameCount(int count);
+    void compareOtherCount(int count);
+    void keepListAfter();
+    void keepListBefore();
+    bool fits(int Run::*present) const;
+    bool apply(const SoField* value, int Run::*present, int Run::*wanted, Flags wantedFlags);
+    bool write(const SoField& value, int Run::*present, int Run::*wanted);
+    void setFlags(Flags wanted, bool isWritten);
+    QString listText() const;
+    QString flagsText() const;
+
+    SoField& m_field;
+    SoMField* const m_list; // the same, where it is one
+    const Flags m_flagsBefore;
+    Flags m_flagsAfter;
+    std::unique_ptr<SoField> m_before; // of a list: the values of the part that was written, from m_start on
+    std::unique_ptr<SoField> m_after;  // of a list: the values of all runs, one after the other
+    int m_start = 0;
+    int m_countBefore = 0; // of the whole list
+    std::vector<Run> m_runs;
+    bool m_isStale = false; // written since it was compared
+    bool m_isClosed = false;
+};
+
+} // namespace scopix
