@@ -47,7 +47,7 @@ set(SCOPIX_XSG_HEADERS
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
-  SpxProfile.h SpxServices.h SpxShell.h SpxVersion.h)
+  SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)
