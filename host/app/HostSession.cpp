@@ -102,11 +102,27 @@ void HostSession::loadPlugins(const CommandLine& line)
     m_plugins.profiles().read();
     if (!line.profile.isEmpty() && !m_plugins.profiles().useProfile(line.profile))
         m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
+    chooseFirstLook(line.isUnattended());
     loadStandardPlugins();
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path);
     if (m_plugins.pluginNames().isEmpty())
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
+}
+
+// The panel shows what most people come for; the console is a menu entry away.
+void HostSession::chooseFirstLook(bool isUnattended)
+{
+    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    ProfileList& profiles = m_plugins.profiles();
+    const bool isKnown = !isUnattended && settings.contains(QStringLiteral("layout"));
+    if (isKnown || !profiles.activeProfile()->isDefault())
+        return;
+    m_shell.hideAtFirst(QStringLiteral("Console"));
+    connect(&profiles, &ProfileList::activeChanged, this, [this] {
+        if (!m_plugins.profiles().activeProfile()->isDefault())
+            m_shell.forgetFirstLook();
+    });
 }
 
 void HostSession::openFinished()

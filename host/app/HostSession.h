@@ -55,6 +55,7 @@ signals:
 private:
     void connectParts();
     void loadPlugins(const CommandLine& line);
+    void chooseFirstLook(bool isUnattended);
     void openFinished();
     void finish(const CommandLine& line);
     void restoreLayout();

@@ -3,7 +3,6 @@
 
 #include <scopix/SpxProfile.h>
 
-#include <QSet>
 #include <QStringList>
 
 namespace scopix
@@ -12,7 +11,9 @@ namespace scopix
 /// Either all extensions of a kind or those named.
 struct ExtensionChoice {
     bool all = false;
-    QStringList names;
+    QStringList names; // "Plug-in/Extension", or "Plug-in/*" for all of one
+
+    bool contains(const QString& name) const;
 };
 
 struct ProfileChoice {
@@ -42,8 +43,6 @@ public:
 
 private:
     ProfileChoice m_choice;
-    QSet<QString> m_editors; // the names of m_choice, to look them up in
-    QSet<QString> m_tools;
     SpxProfileSetting m_setting;
 };
 

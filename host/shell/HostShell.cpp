@@ -142,6 +142,7 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
         return;
     const QString name = nameOf(extension);
     m_waiting.remove(name);
+    m_hiddenAtFirst.remove(name);
     if (shown)
         m_hiddenByPerson.remove(name);
     else
@@ -149,6 +150,18 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
     const QString failure = catchExceptions([&] { shown ? extension->show() : extension->hide(); });
     if (!failure.isEmpty())
         emit failed(tr("The extension “%1” failed when it was to be shown or hidden: %2").arg(name, failure));
+}
+
+void HostShell::hideAtFirst(const QString& name)
+{
+    m_hiddenByPerson.insert(name);
+    m_hiddenAtFirst.insert(name);
+}
+
+void HostShell::forgetFirstLook()
+{
+    m_hiddenByPerson.subtract(m_hiddenAtFirst);
+    m_hiddenAtFirst.clear();
 }
 
 bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
@@ -194,6 +207,7 @@ bool HostShell::restoreLayout(const QByteArray& layout)
     for (const auto& each : qAsConst(shown))
         each.first->setVisible(each.second);
     m_hiddenByPerson = hidden;
+    m_hiddenAtFirst.clear();
     const QList<SpxExtension*> extensions = m_extensions;
     for (SpxExtension* extension : extensions) {
         if (extension->isShown() && isHiddenByPerson(extension))

@@ -56,6 +56,10 @@ public:
     bool isHiddenByPerson(const SpxExtension* extension) const;
     /// The extension of this name stays hidden until the user shows it from the menu; in this session only.
     void keepHiddenAtFirst(const QString& name) { m_waiting.insert(name); }
+    /// As if the user had hidden the extension of this name, as long as nothing else is known of what the
+    /// user wants: until then, forgetFirstLook() shows it again.
+    void hideAtFirst(const QString& name);
+    void forgetFirstLook();
     bool comesUpHidden(const SpxExtension* extension) const;
 
     /// Where everything stands, and which tools the user has hidden.
@@ -96,6 +100,7 @@ private:
     QHash<QString, bool> m_dockShown; // docks that went, by name
     QHash<QString, ToolBarPlace> m_toolBarPlaces;
     QSet<QString> m_hiddenByPerson; // names of extensions
+    QSet<QString> m_hiddenAtFirst;  // those of them that nobody has hidden
     QSet<QString> m_waiting;        // names of those that nobody has asked for yet
     SpxExtension* m_activating = nullptr;
     QPointer<QMenu> m_editMenu;

@@ -257,6 +257,21 @@ TEST_F(Shell, TheViewMenuShowsAndHidesExtensionsButEditors)
 
 } // namespace
 
+TEST_F(Shell, WhatIsHiddenAtFirstShowsWhenAskedForOrWhenTheFirstLookIsForgotten)
+{
+    m_shell.hideAtFirst("One");
+    m_shell.hideAtFirst("Two");
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    EXPECT_TRUE(m_shell.comesUpHidden(&m_one));
+    m_shell.setShown(&m_one, true);
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_one));
+    m_shell.setShown(&m_one, false);
+    m_shell.forgetFirstLook();
+    EXPECT_TRUE(m_shell.comesUpHidden(&m_one)); // by the user
+    EXPECT_FALSE(m_shell.comesUpHidden(&m_two));
+}
+
 TEST_F(Shell, PutsEntriesIntoTheMenusAndTakesThemOut)
 {
     QMenu edit;

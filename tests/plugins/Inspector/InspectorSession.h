@@ -14,12 +14,17 @@ class InspectorSession : public Session
 {
 public:
     explicit InspectorSession(int width = 340)
-        : Session()
+        : InspectorSession([](HostServices&, UserNotifier&) { return std::make_unique<BareWindow>(); }, width)
+    {
+    }
+    explicit InspectorSession(const HostSession::MakeWindow& makeWindow, int width = 340)
+        : Session(makeWindow)
+        , m_width(width)
     {
         EXPECT_TRUE(host.plugins().loadPlugin(QStringLiteral(INSPECTOR_FILE)));
-        m_width = width;
         for (auto* other : host.window().findChildren<QDockWidget*>()) {
-            if (!other->windowTitle().endsWith(QLatin1String("Editor")))
+            if (host.window().dockWidgetArea(other) == Qt::RightDockWidgetArea &&
+                !other->windowTitle().endsWith(QLatin1String("Editor")))
                 other->hide();
         }
     }
