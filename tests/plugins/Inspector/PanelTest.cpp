@@ -2,6 +2,7 @@
 // The panel in the real host: every kind of row, driven by keys and mouse.
 #include "plugins/Inspector/InspectorSession.h"
 
+#include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
@@ -12,6 +13,7 @@
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/types/SoTypedImpl.h>
 
 #include <QClipboard>
 #include <QColorDialog>
@@ -19,6 +21,20 @@
 
 namespace
 {
+
+// A node of as many fields as wanted.
+class ManyFields : public SoTyped<ManyFields, SoFieldContainer>
+{
+public:
+    static constexpr const char* ClassName = "ManyFields";
+    explicit ManyFields(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            fields.push_back(std::make_unique<SoSFFloat>(this, names[i % 4], float(i)));
+    }
+    static constexpr const char* names[] = {"first", "second", "third", "fourth"};
+    std::vector<std::unique_ptr<SoSFFloat>> fields;
+};
 
 constexpr float Exact = 0.1F + 0.0123456F;
 
@@ -485,4 +501,24 @@ TEST_F(Panel, EveryInputHasANameAndIsReachedInReadingOrder)
         for (const QString& name : expected)
             EXPECT_TRUE(names.contains(name)) << qPrintable(name);
     }
+}
+
+TEST_F(Panel, MakesTheRowsInViewOnlyAndReachesTheOthersByTab)
+{
+    const SoRef<ManyFields> node(new ManyFields(500));
+    session.selectNode(node.get());
+    const auto rows = [&] { return session.panel()->findChildren<QWidget*>("row").size(); };
+    const int atFirst = rows();
+    EXPECT_GT(atFirst, 5);
+    EXPECT_LT(atFirst, 40);
+    QWidget* first = session.panel()->findChildren<QWidget*>("number0").first();
+    first->setFocus();
+    for (int i = 0; i < 60; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), "60");
+    EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty());
+    EXPECT_LT(rows(), 100);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget())->text(), "59");
+    session.selectNode(nullptr);
 }
