@@ -37,6 +37,8 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     connectParts();
     m_services.setSceneSource(m_window.get());
     m_shell.setMenus(m_window->editMenu(), m_window->appearanceMenu());
+    if (!m_window->emptyHint().isEmpty())
+        m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     new ToolsMenu(m_shell, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
 }

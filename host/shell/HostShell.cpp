@@ -53,7 +53,9 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     }
     dock->setVisible(shown);
     track(dock, dock->toggleViewAction());
+    joinPlaceholder(dock);
     dock->installEventFilter(this);
+    updatePlaceholder();
 }
 
 // Docks side by side would leave each of them little room.
@@ -76,6 +78,7 @@ void HostShell::removeDockWidget(QDockWidget* dock)
     // The window keeps a gap of the dock's name, where it comes back to.
     m_window.removeDockWidget(dock);
     dock->setParent(nullptr);
+    updatePlaceholder();
 }
 
 void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
@@ -213,6 +216,7 @@ bool HostShell::restoreLayout(const QByteArray& layout)
         if (extension->isShown() && isHiddenByPerson(extension))
             setShown(extension, false);
     }
+    updatePlaceholder();
     return true;
 }
 
@@ -225,6 +229,8 @@ bool HostShell::eventFilter(QObject* watched, QEvent* event)
                 this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
         }
     }
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)
+        updatePlaceholder();
     // What an extension shows should be seen, also where it shares its place with others, but not in the
     // place of what the user works with.
     if (event->type() == QEvent::ShowToParent && !sharesPlaceWithFocus(qobject_cast<QDockWidget*>(watched)))

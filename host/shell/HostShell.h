@@ -62,6 +62,10 @@ public:
     void forgetFirstLook();
     bool comesUpHidden(const SpxExtension* extension) const;
 
+    /// While no dock of this area is shown, a sheet with these words keeps its place, so that what is in the
+    /// middle neither moves nor changes its size when docks come and go.
+    void keepPlaceOf(Qt::DockWidgetArea area, const QString& words);
+
     /// Where everything stands, and which tools the user has hidden.
     QByteArray saveLayout() const;
     /// False when the text is no layout; nothing changes then.
@@ -85,6 +89,9 @@ private:
         bool shown;
     };
 
+    bool isInPlaceholdersArea(const QDockWidget* dock) const;
+    void joinPlaceholder(QDockWidget* dock);
+    void updatePlaceholder();
     bool sharesPlaceWithFocus(QDockWidget* dock) const;
     void stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area);
     void track(QWidget* widget, const QAction* toggle);
@@ -103,6 +110,8 @@ private:
     QSet<QString> m_hiddenAtFirst;  // those of them that nobody has hidden
     QSet<QString> m_waiting;        // names of those that nobody has asked for yet
     SpxExtension* m_activating = nullptr;
+    QPointer<QDockWidget> m_placeholder; // the window's
+    Qt::DockWidgetArea m_placeholderArea = Qt::NoDockWidgetArea;
     QPointer<QMenu> m_editMenu;
     QPointer<QMenu> m_viewMenu;
 };

@@ -23,6 +23,8 @@ public:
     virtual QMenu* profilesMenu() = 0;
     /// Where entries of extensions go that act on the selection, or set how things are shown; null for none.
     virtual QMenu* editMenu() { return nullptr; }
+    /// What stands at the right while no dock does; empty for nothing.
+    virtual QString emptyHint() const { return {}; }
     virtual QMenu* appearanceMenu() { return nullptr; }
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this

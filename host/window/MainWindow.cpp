@@ -350,6 +350,11 @@ void MainWindow::viewSelected()
     m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
 }
 
+QString MainWindow::emptyHint() const
+{
+    return tr("Click something in the view or in the tree: its values appear here.");
+}
+
 SoPath MainWindow::selectedPath() const
 {
     return m_tree->getSelectedPath();

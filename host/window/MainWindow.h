@@ -40,6 +40,7 @@ public:
     QMenu* viewMenu() override { return m_toolsMenu; }
     QMenu* profilesMenu() override { return m_profilesMenu; }
     QMenu* editMenu() override { return m_editMenu; }
+    QString emptyHint() const override;
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;

@@ -101,6 +101,34 @@ TEST(Inspector, TheWayUpAndTheNodesThatGovernAShapeAreAClickAway)
     session.selectNode(nullptr);
 }
 
+TEST(Inspector, SelectingNeverMovesOrResizesTheView)
+{
+    InspectorSession session([](HostServices& services, UserNotifier& notifier) {
+        return std::make_unique<MainWindow>(services, notifier);
+    });
+    auto& window = static_cast<MainWindow&>(session.host.window());
+    auto* placeholder = window.findChild<QDockWidget*>("placeholder");
+    ASSERT_TRUE(placeholder);
+    window.resizeDocks({placeholder}, {330}, Qt::Horizontal);
+    session.settle();
+    const QRect before = window.centralWidget()->geometry();
+    EXPECT_TRUE(placeholder->isVisible());
+    HostServices& services = session.host.services();
+    for (int i = 0; i < 2; ++i) {
+        services.select(session.material.get());
+        session.settle();
+        ASSERT_TRUE(session.panel());
+        EXPECT_FALSE(placeholder->isVisible());
+        EXPECT_EQ(window.centralWidget()->geometry(), before);
+        session.click(session.number("shininess")); // the Field Editor too
+        EXPECT_EQ(window.centralWidget()->geometry(), before);
+        services.clearSelection();
+        session.settle();
+        EXPECT_TRUE(placeholder->isVisible());
+        EXPECT_EQ(window.centralWidget()->geometry(), before);
+    }
+}
+
 TEST(Inspector, WorkingInARowShowsItsFieldInTheFieldEditorBehindThePanel)
 {
     InspectorSession session;
