@@ -98,10 +98,8 @@ void PanelEditor::activate()
 void PanelEditor::deactivate()
 {
     m_later.stop();
-    if (m_panel) {
-        m_panel->finish();
+    if (m_panel)
         m_panel->setNode(nullptr);
-    }
     SpxObjectEditor::deactivate();
 }
 

@@ -17,7 +17,6 @@ NumberEdit* NumberInputsRow::addNumber(const NumberFormat& format, const QString
     auto* number = new NumberEdit(editor());
     number->setObjectName(QStringLiteral("number%1").arg(which));
     number->setFormat(format);
-    number->setToolTip(toolTip());
     addInput(number, part);
     number->setPresent([=] { return field() ? shownNumber(which) : 0; });
     connect(number, &NumberEdit::dragBegan, this, [this] { gesture().begin(field()); });

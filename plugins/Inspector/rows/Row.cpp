@@ -68,7 +68,6 @@ void Row::buildFrame()
 {
     setObjectName(QStringLiteral("row"));
     setAccessibleName(fieldName() + QStringLiteral(", ") + typeText());
-    setToolTip(toolTipText());
     m_mark = new Mark(this);
     m_mark->setAccessibleName(tr("State of %1").arg(fieldName()));
     connect(m_mark, &QToolButton::clicked, this,
@@ -344,6 +343,14 @@ void Row::pasteValue()
             mapToGlobal(QPoint(0, height())),
             tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);
     changedHere();
+}
+
+// Made when it is asked for, since it needs a fresh node; for the inputs too, which have none of their own.
+bool Row::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && field())
+        setToolTip(toolTipText());
+    return QWidget::event(event);
 }
 
 bool Row::eventFilter(QObject* watched, QEvent* event)

@@ -75,6 +75,7 @@ protected:
     const Description* description() const { return m_description; }
     QString fieldName() const;
 
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

@@ -94,7 +94,7 @@ void TextRow::showValue()
     text.replace(QLatin1Char('\n'), QChar(0x23CE));
     m_line->setReadOnly(hasLines);
     m_line->setToolTip(hasLines ? tr("Several lines: click the name and edit them in the Field Editor.")
-                                : toolTip());
+                                : QString());
     if (m_line->text() != text)
         m_line->setText(text);
     m_line->setModified(false);

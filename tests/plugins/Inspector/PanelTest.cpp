@@ -334,6 +334,16 @@ TEST_F(Panel, AValueIsCopiedAndPasted)
     EXPECT_EQ(steps(), 1);
 }
 
+TEST_F(Panel, TheToolTipSaysWhatAFieldMeans)
+{
+    QLineEdit* input = session.number("shininess");
+    QHelpEvent ask(QEvent::ToolTip, input->rect().center(), input->mapToGlobal(input->rect().center()));
+    QApplication::sendEvent(input, &ask);
+    const QString text = session.row("shininess")->toolTip();
+    for (const char* part : {"shininess", "SFFloat", "0 dull to 1 sharp", "Range: 0 to 1", "Default: 0.2"})
+        EXPECT_TRUE(text.contains(part)) << part << " in " << qPrintable(text);
+}
+
 TEST_F(Panel, AResetIsAStep)
 {
     session.enter(session.number("shininess"), "0.5");
