@@ -10,6 +10,9 @@
 #include <xsg/fields/SoSFImage.h>
 
 #include <QCoreApplication>
+#include <QLocale>
+
+#include <algorithm>
 
 namespace inspector
 {

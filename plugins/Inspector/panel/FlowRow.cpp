@@ -30,7 +30,6 @@ void FlowRow::clear()
 {
     for (QToolButton* button : qAsConst(m_buttons)) {
         button->hide();
-        button->setParent(nullptr);
         button->deleteLater();
     }
     m_buttons.clear();

@@ -74,6 +74,7 @@ void RowList::describe(Item& item) const
 
 void RowList::rebuild()
 {
+    finish();
     for (Item& item : m_items)
         delete item.row;
     placeItems();
@@ -87,6 +88,7 @@ void RowList::refresh()
             continue;
         if (item.kind !=
             int(kindOf(*item.field.get()))) { // a list of one value has become longer, or the like
+            item.row->finish();
             delete item.row;
             describe(item);
             isMoved = true;

@@ -6,7 +6,9 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPointer>
 #include <QToolButton>
+#include <QUrl>
 
 namespace inspector
 {
@@ -53,9 +55,11 @@ void FileRow::showValue()
 
 void FileRow::browse()
 {
-    const SpxFieldPointer edited(field());
+    if (!field())
+        return;
+    const QPointer<FileRow> self(this); // the row may go while the dialog is open
     const QString path = QFileDialog::getOpenFileName(window(), tr("Choose a File"), shownText());
-    if (edited && !path.isEmpty())
+    if (self && field() && !path.isEmpty())
         take(path);
 }
 

@@ -74,7 +74,7 @@ void RotationRow::placeNumbers()
 
 void RotationRow::setForm(RotationForm form)
 {
-    if (form == m_form)
+    if (form == m_form || !field())
         return;
     finish();
     m_form = form;

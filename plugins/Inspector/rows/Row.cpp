@@ -19,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPointer>
 #include <QToolTip>
 
 #include <algorithm>
@@ -258,12 +259,13 @@ void Row::showMenu(const QPoint& where)
 {
     if (!field())
         return;
-    QMenu menu(this);
-    menu.setObjectName(QStringLiteral("rowMenu"));
-    addStateEntries(menu);
-    menu.addSeparator();
-    addTextEntries(menu);
-    menu.exec(where);
+    auto* menu = new QMenu(this); // the row may go while it is open
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("rowMenu"));
+    addStateEntries(*menu);
+    menu->addSeparator();
+    addTextEntries(*menu);
+    menu->popup(where);
 }
 
 void Row::addStateEntries(QMenu& menu)
@@ -312,11 +314,15 @@ void Row::addTextEntries(QMenu& menu)
 
 void Row::connectField()
 {
+    if (!field())
+        return;
+    const QPointer<Row> self(this); // the row may go while the dialog is open
     const SpxFieldPointer edited = m_field;
     ConnectDialog dialog(*edited.get(), window());
     if (dialog.exec() == QDialog::Accepted && edited && dialog.chosen())
         SpxFieldEdit::setSource(edited.get(), dialog.chosen());
-    changedHere();
+    if (self)
+        changedHere();
 }
 
 void Row::reset()

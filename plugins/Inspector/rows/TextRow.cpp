@@ -6,8 +6,11 @@
 #include <xsg/fields/SoSFString.h>
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolTip>
+
+#include <functional>
 
 namespace inspector
 {

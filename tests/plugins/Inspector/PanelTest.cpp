@@ -344,6 +344,20 @@ TEST_F(Panel, TheToolTipSaysWhatAFieldMeans)
         EXPECT_TRUE(text.contains(part)) << part << " in " << qPrintable(text);
 }
 
+TEST_F(Panel, ARowThatGoesTakesItsMenuAlong)
+{
+    QWidget* row = session.row("diffuseColor");
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, row->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(row, &event);
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    const SbVec3f colors[] = {{1, 0, 0}, {0, 1, 0}};
+    material.diffuseColor.setValues(0, 2, colors);
+    EXPECT_TRUE(session.comesTrue([&] {
+        return session.row("diffuseColor") && session.row("diffuseColor")->findChild<QPushButton*>("link");
+    }));
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
 TEST_F(Panel, AResetIsAStep)
 {
     session.enter(session.number("shininess"), "0.5");
