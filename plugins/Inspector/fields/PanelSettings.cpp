@@ -18,29 +18,35 @@ QSettings settings()
     return QSettings(folder + QStringLiteral("/scopix/inspector.ini"), QSettings::IniFormat);
 }
 
-const QString Degrees = QStringLiteral("degrees");
-const QString Rotation = QStringLiteral("rotation");
+// Qt keeps the keys beyond the end of the plug-in: they must not lie in its memory, as literals would.
+QString key(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+constexpr const char* Degrees = "degrees";
+constexpr const char* Rotation = "rotation";
 
 } // namespace
 
 bool PanelSettings::showsDegrees()
 {
-    return settings().value(Degrees, true).toBool();
+    return settings().value(key(Degrees), true).toBool();
 }
 
 void PanelSettings::setShowsDegrees(bool degrees)
 {
-    settings().setValue(Degrees, degrees);
+    settings().setValue(key(Degrees), degrees);
 }
 
 RotationForm PanelSettings::rotationForm()
 {
-    return RotationForm(std::clamp(settings().value(Rotation, 0).toInt(), 0, 2));
+    return RotationForm(std::clamp(settings().value(key(Rotation), 0).toInt(), 0, 2));
 }
 
 void PanelSettings::setRotationForm(RotationForm form)
 {
-    settings().setValue(Rotation, int(form));
+    settings().setValue(key(Rotation), int(form));
 }
 
 } // namespace inspector

@@ -5,8 +5,7 @@
 
 #include <support/Session.h>
 
-#include <QSettings>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 
 /// A running host with the default plug-in and, after it, the Inspector; and ways to act in the panel as a
 /// user does.
@@ -21,6 +20,7 @@ public:
         : Session(makeWindow)
         , m_width(width)
     {
+        qputenv("XDG_CONFIG_HOME", m_settings.path().toLocal8Bit());
         EXPECT_TRUE(host.plugins().loadPlugin(QStringLiteral(INSPECTOR_FILE)));
         for (auto* other : host.window().findChildren<QDockWidget*>()) {
             if (host.window().dockWidgetArea(other) == Qt::RightDockWidgetArea &&
@@ -28,6 +28,8 @@ public:
                 other->hide();
         }
     }
+
+    ~InspectorSession() { qunsetenv("XDG_CONFIG_HOME"); }
 
     void selectNode(SoFieldContainer* node)
     {
@@ -139,5 +141,6 @@ public:
     }
 
 private:
+    QTemporaryDir m_settings; // what the user chose for all panels
     int m_width;
 };

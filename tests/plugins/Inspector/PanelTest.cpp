@@ -461,6 +461,30 @@ TEST_F(Panel, ARotationKeepsTheTypedAxisWhileTheAngleIsZero)
     EXPECT_EQ(session.number("rotation", 3)->text(), QString::fromUtf8("90°"));
 }
 
+TEST_F(Panel, TheFormOfRotationsAndTheUnitOfAnglesAreKept)
+{
+    const SoRef<SoTransform> transform(new SoTransform);
+    transform->rotation.setValue(SbRotation(SbVec3f(0, 0, 1), 0.5F));
+    session.selectNode(transform.get());
+    auto* form = session.in<QComboBox>("rotation", "form");
+    form->setFocus();
+    QTest::keyClick(form, Qt::Key_Down);
+    session.settle();
+    EXPECT_EQ(form->currentText(), "Euler");
+    EXPECT_EQ(session.number("rotation", 2)->text(), QString::fromUtf8("28.6479°"));
+    EXPECT_FALSE(session.number("rotation", 3)->isVisible());
+    for (QAction* action : session.host.window().actions()) {
+        if (QString(action->text()).remove('&').startsWith("Angles"))
+            action->trigger();
+    }
+    session.settle();
+    EXPECT_EQ(session.number("rotation", 2)->text(), "0.5");
+    session.selectNode(nullptr);
+    session.selectNode(transform.get());
+    EXPECT_EQ(session.number("rotation", 2)->text(), "0.5");
+    EXPECT_EQ(steps(), 0);
+}
+
 TEST_F(Panel, AMatrixIsAGrid)
 {
     const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
