@@ -42,8 +42,8 @@ set_target_properties(scopix-read-model scopix-try-plugin PROPERTIES INSTALL_RPA
 install(TARGETS scopix-read-model scopix-try-plugin RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/scopix")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/data/" DESTINATION "${CMAKE_INSTALL_DATADIR}/scopix")
 
-set_target_properties(SpxDefaults PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
-install(TARGETS SpxDefaults LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
+set_target_properties(SpxDefaults SpxInspector PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
+install(TARGETS SpxDefaults SpxInspector LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ScopixConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake"

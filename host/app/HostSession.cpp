@@ -43,6 +43,10 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_notifier.setWindow(m_window.get());
     connectParts();
+    m_services.setSceneSource(m_window.get());
+    m_shell.setMenus(m_window->editMenu(), m_window->appearanceMenu());
+    if (!m_window->emptyHint().isEmpty())
+        m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     new ToolsMenu(m_shell, *m_window->viewMenu());
     new TryAgainMenu(m_plugins, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
@@ -66,6 +70,7 @@ HostSession::~HostSession()
     m_plugins.unloadAll();
     m_services.clearSelection();
     m_services.history().clear();
+    m_services.setSceneSource(nullptr);
 }
 
 void HostSession::loadStandardPlugins(const QStringList& butThose)
@@ -146,11 +151,27 @@ void HostSession::loadPlugins(const CommandLine& line)
     m_plugins.profiles().read();
     if (!line.profile.isEmpty() && !m_plugins.profiles().useProfile(line.profile))
         m_notifier.error(tr("There is no profile named “%1”.").arg(line.profile));
+    chooseFirstLook(line.isUnattended());
     loadStandardPlugins(line.plugins);
     for (const QString& path : line.plugins)
         m_plugins.loadPlugin(path, PluginGuard::Asked::Named);
     if (m_plugins.pluginNames().isEmpty())
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
+}
+
+// The panel shows what most people come for; the console is a menu entry away.
+void HostSession::chooseFirstLook(bool isUnattended)
+{
+    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    ProfileList& profiles = m_plugins.profiles();
+    const bool isKnown = !isUnattended && settings.contains(QStringLiteral("layout"));
+    if (isKnown || !profiles.activeProfile()->isDefault())
+        return;
+    m_shell.hideAtFirst(QStringLiteral("Console"));
+    connect(&profiles, &ProfileList::activeChanged, this, [this] {
+        if (!m_plugins.profiles().activeProfile()->isDefault())
+            m_shell.forgetFirstLook();
+    });
 }
 
 void HostSession::openFinished(bool opened)

@@ -60,6 +60,7 @@ private:
     void offerCounterCopy();
     void openFinished(bool opened);
     void finish(const CommandLine& line, bool opened);
+    void chooseFirstLook(bool isUnattended);
     void restoreLayout();
     void saveLayout();
 

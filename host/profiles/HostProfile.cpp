@@ -12,12 +12,13 @@ SbString profileName(const ProfileChoice& choice)
     return SbString(choice.name.toLatin1().constData());
 }
 
-QSet<QString> asSet(const QStringList& names)
-{
-    return {names.begin(), names.end()};
-}
-
 } // namespace
+
+bool ExtensionChoice::contains(const QString& name) const
+{
+    return all || names.contains(name) ||
+           names.contains(name.section(QLatin1Char('/'), 0, 0) + QStringLiteral("/*"));
+}
 
 HostProfile::HostProfile(ProfileChoice choice)
     : SpxProfile(profileName(choice))
@@ -29,14 +30,11 @@ void HostProfile::setChoice(ProfileChoice choice)
 {
     setName(profileName(choice));
     m_choice = std::move(choice);
-    m_editors = asSet(m_choice.editors.names);
-    m_tools = asSet(m_choice.tools.names);
 }
 
 bool HostProfile::controls(const QString& name, bool isEditor) const
 {
-    return isEditor ? m_choice.editors.all || m_editors.contains(name)
-                    : m_choice.tools.all || m_tools.contains(name);
+    return isEditor ? m_choice.editors.contains(name) : m_choice.tools.contains(name);
 }
 
 } // namespace scopix

@@ -3,7 +3,6 @@
 
 #include <scopix/SpxProfile.h>
 
-#include <QSet>
 #include <QStringList>
 
 namespace scopix
@@ -12,8 +11,9 @@ namespace scopix
 /// Either all extensions of a kind or those named.
 struct ExtensionChoice {
     bool all = false;
-    QStringList names;
+    QStringList names; // "Plug-in/Extension", or "Plug-in/*" for all of one
 
+    bool contains(const QString& name) const;
     bool operator==(const ExtensionChoice& other) const { return all == other.all && names == other.names; }
 };
 
@@ -49,8 +49,6 @@ public:
 
 private:
     ProfileChoice m_choice;
-    QSet<QString> m_editors; // the names of m_choice, to look them up in
-    QSet<QString> m_tools;
     SpxProfileSetting m_setting;
 };
 

@@ -147,6 +147,7 @@ ProfileSettings ProfileFile::shipped()
 {
     const auto named = [](const char* name) { return QStringLiteral("SpxDefaults/") + QLatin1String(name); };
     const QString selector = named("Profile Selector");
+    const ExtensionChoice defaults{false, {named("*")}};
     ProfileSettings settings;
     settings.profiles = {
         everything(),
@@ -154,6 +155,7 @@ ProfileSettings ProfileFile::shipped()
          {true, {}},
          {false, {selector, named("Field Editor"), named("Node Editor")}}},
         {QStringLiteral("Measure"), {false, {}}, {false, {selector, named("PerfCounter"), named("Console")}}},
+        {QStringLiteral("Classic"), defaults, defaults},
     };
     settings.active = HostProfile::defaultName();
     return settings;

@@ -221,10 +221,9 @@ void ProfilesDialog::showGroup(QTreeWidgetItem& group, const ExtensionChoice& ch
 {
     if (group.childCount() == 0)
         group.setCheckState(0, choice.all ? Qt::Checked : Qt::Unchecked);
-    const QSet<QString> names(choice.names.begin(), choice.names.end());
     for (int i = 0; i < group.childCount(); ++i) {
         QTreeWidgetItem* item = group.child(i);
-        const bool chosen = choice.all || names.contains(item->data(0, NameRole).toString());
+        const bool chosen = choice.contains(item->data(0, NameRole).toString());
         item->setCheckState(0, chosen ? Qt::Checked : Qt::Unchecked);
     }
 }
@@ -251,7 +250,8 @@ ExtensionChoice ProfilesDialog::groupChoice(const QTreeWidgetItem& group, const 
             choice.names += name;
     }
     for (const QString& name : former.names) {
-        if (!known.contains(name))
+        const bool isWholePlugin = name.endsWith(QLatin1String("/*")); // whose extensions are named now
+        if (!known.contains(name) && !isWholePlugin)
             choice.names += name;
     }
     return choice;

@@ -53,7 +53,9 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     }
     dock->setVisible(shown);
     track(dock, dock->toggleViewAction());
+    joinPlaceholder(dock);
     dock->installEventFilter(this);
+    updatePlaceholder();
 }
 
 // Docks side by side would leave each of them little room.
@@ -76,6 +78,7 @@ void HostShell::removeDockWidget(QDockWidget* dock)
     // The window keeps a gap of the dock's name, where it comes back to.
     m_window.removeDockWidget(dock);
     dock->setParent(nullptr);
+    updatePlaceholder();
 }
 
 void HostShell::addToolBar(QToolBar* toolBar, Qt::ToolBarArea area)
@@ -151,6 +154,7 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
         return;
     const QString name = nameOf(extension);
     m_waiting.remove(name);
+    m_hiddenAtFirst.remove(name);
     if (shown)
         m_hiddenByPerson.remove(name);
     else
@@ -158,6 +162,18 @@ void HostShell::setShown(SpxExtension* extension, bool shown)
     const QString failure = catchExceptions([&] { shown ? extension->show() : extension->hide(); });
     if (!failure.isEmpty())
         emit failed(tr("The extension “%1” failed when it was to be shown or hidden: %2").arg(name, failure));
+}
+
+void HostShell::hideAtFirst(const QString& name)
+{
+    m_hiddenByPerson.insert(name);
+    m_hiddenAtFirst.insert(name);
+}
+
+void HostShell::forgetFirstLook()
+{
+    m_hiddenByPerson.subtract(m_hiddenAtFirst);
+    m_hiddenAtFirst.clear();
 }
 
 bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
@@ -203,11 +219,13 @@ bool HostShell::restoreLayout(const QByteArray& layout)
     for (const auto& each : qAsConst(shown))
         each.first->setVisible(each.second);
     m_hiddenByPerson = hidden;
+    m_hiddenAtFirst.clear();
     const QList<SpxExtension*> extensions = m_extensions;
     for (SpxExtension* extension : extensions) {
         if (extension->isShown() && isHiddenByPerson(extension))
             setShown(extension, false);
     }
+    updatePlaceholder();
     return true;
 }
 
@@ -220,8 +238,11 @@ bool HostShell::eventFilter(QObject* watched, QEvent* event)
                 this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
         }
     }
-    // What an extension shows should be seen, also where it shares its place with others.
-    if (event->type() == QEvent::ShowToParent)
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)
+        updatePlaceholder();
+    // What an extension shows should be seen, also where it shares its place with others, but not in the
+    // place of what the user works with.
+    if (event->type() == QEvent::ShowToParent && !sharesPlaceWithFocus(qobject_cast<QDockWidget*>(watched)))
         QMetaObject::invokeMethod(watched, "raise", Qt::QueuedConnection);
     return false;
 }

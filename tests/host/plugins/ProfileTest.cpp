@@ -47,16 +47,27 @@ protected:
     QString m_error;
 };
 
-TEST_F(ProfilesFile, ShipsThreeProfiles)
+TEST_F(ProfilesFile, ShipsFourProfiles)
 {
     const ProfileSettings settings = m_file.read(m_error);
-    ASSERT_EQ(settings.profiles.size(), 3U);
+    ASSERT_EQ(settings.profiles.size(), 4U);
     EXPECT_EQ(settings.profiles[0].name, "Default");
     EXPECT_TRUE(settings.profiles[0].editors.all && settings.profiles[0].tools.all);
     EXPECT_EQ(settings.profiles[1].name, "Edit");
     EXPECT_EQ(settings.profiles[2].name, "Measure");
+    EXPECT_EQ(settings.profiles[3].name, "Classic");
     EXPECT_EQ(settings.active, "Default");
     EXPECT_EQ(m_error, "");
+}
+
+TEST_F(ProfilesFile, ClassicHasTheDefaultExtensionsAndNoOthers)
+{
+    const HostProfile classic(ProfileFile::shipped().profiles.back());
+    for (const bool isEditor : {true, false}) {
+        EXPECT_TRUE(classic.controls("SpxDefaults/Console", isEditor));
+        EXPECT_FALSE(classic.controls("SpxDefaults2/Console", isEditor));
+        EXPECT_FALSE(classic.controls("Inspector/Panel", isEditor));
+    }
 }
 
 TEST_F(ProfilesFile, ReadsBackWhatItWrote)
@@ -67,10 +78,10 @@ TEST_F(ProfilesFile, ReadsBackWhatItWrote)
     ASSERT_EQ(m_file.write(settings), "");
     const ProfileSettings back = m_file.read(m_error);
     EXPECT_EQ(m_error, "");
-    ASSERT_EQ(back.profiles.size(), 4U);
-    EXPECT_EQ(back.profiles[3].name, "Grün \"1\"");
-    EXPECT_EQ(back.profiles[3].editors.names, QStringList{"A/b"});
-    EXPECT_FALSE(back.profiles[3].tools.all);
+    ASSERT_EQ(back.profiles.size(), 5U);
+    EXPECT_EQ(back.profiles[4].name, "Grün \"1\"");
+    EXPECT_EQ(back.profiles[4].editors.names, QStringList{"A/b"});
+    EXPECT_FALSE(back.profiles[4].tools.all);
     EXPECT_EQ(back.active, "Edit");
 }
 
@@ -114,7 +125,7 @@ TEST_P(DamagedFile, IsReportedAndKeptUnderAnotherName)
 {
     put(GetParam().content);
     const ProfileSettings settings = m_file.read(m_error);
-    EXPECT_EQ(settings.profiles.size(), 3U);
+    EXPECT_EQ(settings.profiles.size(), 4U);
     EXPECT_TRUE(m_error.contains(m_path)) << m_error.toStdString();
     EXPECT_TRUE(m_error.contains(QString::fromUtf8(GetParam().expected))) << m_error.toStdString();
     EXPECT_TRUE(m_error.contains("profiles.damaged.json"));

@@ -75,7 +75,7 @@ TEST_F(Program, DrawsIconsInTheScreensDensity)
 {
     const QString path = folder.filePath("out.png");
     qputenv("QT_SCALE_FACTOR", "2");
-    const Outcome outcome = run({"--screenshot", path});
+    const Outcome outcome = run({"--profile", "Measure", "--screenshot", path}); // the console at the right
     qunsetenv("QT_SCALE_FACTOR");
     EXPECT_EQ(outcome.status, 0);
     const QImage picture(path);

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <vector>
+
+class SpxExtension;
+
+namespace inspector
+{
+
+/// The editors that show lists as tables, in the order in which the plug-in adds them: the later one wins
+/// where two handle the same type.
+std::vector<std::unique_ptr<SpxExtension>> makeTableEditors();
+
+} // namespace inspector
