@@ -120,6 +120,36 @@ void SoMField::deleteValues(int start, int number)
     valueWritten(first, -1);
 }
 
+bool SoMField::holds(int start, int number) const
+{
+    return start >= 0 && number >= 0 && start <= count() && number <= count() - start;
+}
+
+bool SoMField::replaceValues(int start, int removed, const SoMField& from, int fromStart, int inserted)
+{
+    evaluate();
+    from.evaluate();
+    if (!holdsSameValues(from) || !from.holdsSameValues(*this) || !holds(start, removed) ||
+        !from.holds(fromStart, inserted))
+        return false;
+    const int others = count() - removed;
+    if (inserted > std::numeric_limits<int>::max() - others)
+        return false;
+    if (!hasMemoryTo([&] { splice(start, removed, from, fromStart, inserted); }, others + inserted))
+        return false;
+    valueWritten(start, removed == inserted ? inserted : -1);
+    return true;
+}
+
+std::unique_ptr<SoMField> SoMField::makeSlice() const
+{
+    std::unique_ptr<SoTypedObject> object(getTypeId().createInstance());
+    auto* slice = dynamic_cast<SoMField*>(object.get());
+    if (slice)
+        static_cast<void>(object.release());
+    return std::unique_ptr<SoMField>(slice);
+}
+
 void SoMField::valueChanged(int start, int number, bool isWritten)
 {
     const bool wasDefault = isDefault();

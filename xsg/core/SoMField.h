@@ -33,6 +33,15 @@ public:
     /// Removes values; -1 removes all from `start` on. The range is clamped.
     virtual void deleteValues(int start, int count = -1);
 
+    /// Replaces `removed` values from `start` on by the `inserted` values of `from` that begin at
+    /// `fromStart`, which may be this field itself: bit for bit, references to nodes included. `from` has to
+    /// hold values of the same type. False, and nothing changes, for another type, for a range that does not
+    /// lie in its field as a whole, and where there is no memory.
+    bool replaceValues(int start, int removed, const SoMField& from, int fromStart, int inserted);
+    /// An empty field of this field's class that stands alone, to hold a part of its values; null where the
+    /// class cannot be instantiated.
+    virtual std::unique_ptr<SoMField> makeSlice() const;
+
     /// Notifies listeners that values start..start+count-1 changed; `isWritten` false leaves the default
     /// flag.
     void valueChanged(int start, int count, bool isWritten = true);
@@ -43,6 +52,10 @@ protected:
     virtual void open(int start, int count) = 0;
     virtual void close(int start, int count) = 0;
     virtual std::size_t bytesPerValue() const = 0;
+    virtual bool holdsSameValues(const SoMField& other) const = 0;
+    /// Replaces values within the field by ones of `from`, which holds values of the same type and may be
+    /// this.
+    virtual void splice(int start, int removed, const SoMField& from, int fromStart, int inserted) = 0;
     /// The text of one value, and of all with ", " between them.
     virtual void writeValue(std::string& out, int index) const = 0;
     virtual void writeValues(std::string& out) const = 0;
@@ -59,6 +72,7 @@ protected:
     void valuesGrown(int before, int first, int last);
 
 private:
+    bool holds(int start, int number) const;
     template <class Change>
     bool hasMemoryTo(Change change, int wanted);
 };

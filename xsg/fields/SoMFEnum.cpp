@@ -21,6 +21,14 @@ void SoMFEnum::setEnums(int count, const int* values, const SbName* names)
     m_table = SoEnumTable::copyOf(count, values, names);
 }
 
+std::unique_ptr<SoMField> SoMFEnum::makeSlice() const
+{
+    std::unique_ptr<SoMField> slice = SoMValue::makeSlice();
+    if (auto* names = dynamic_cast<SoMFEnum*>(slice.get()))
+        names->m_table = m_table;
+    return slice;
+}
+
 void SoMFEnum::writeListed(std::string& out, int value) const
 {
     xsg::writeListedEnum(out, *m_table, value);

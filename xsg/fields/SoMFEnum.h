@@ -22,6 +22,8 @@ public:
     void getEnums(int& count, const int*& values, const SbName*& names) const;
     void setEnums(int count, const int* values, const SbName* names);
     const SoEnumTable& getTable() const { return *m_table; }
+    /// Knows the same names.
+    std::unique_ptr<SoMField> makeSlice() const override;
 
 protected:
     /// The text of one value in a list.

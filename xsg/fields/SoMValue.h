@@ -62,6 +62,8 @@ protected:
     void open(int start, int count) override;
     void close(int start, int count) override;
     std::size_t bytesPerValue() const override { return sizeof(T); }
+    bool holdsSameValues(const SoMField& other) const override;
+    void splice(int start, int removed, const SoMField& from, int fromStart, int inserted) override;
     void writeValue(std::string& out, int index) const override;
     void writeValues(std::string& out) const override;
     bool parseValue(std::string_view text, int index) override;

@@ -253,6 +253,30 @@ void SoMValue<T, Base>::close(int start, int number)
 }
 
 template <class T, class Base>
+bool SoMValue<T, Base>::holdsSameValues(const SoMField& other) const
+{
+    return other.getTypeId() == this->getTypeId() || hasSameValues(other);
+}
+
+template <class T, class Base>
+void SoMValue<T, Base>::splice(int start, int removed, const SoMField& from, int fromStart, int inserted)
+{
+    const auto& source = dynamic_cast<const SoMValue&>(from).m_values;
+    // A copy of the field's own values: they move while they are replaced.
+    std::vector<T> own;
+    if (&source == &m_values)
+        own.assign(source.begin() + fromStart, source.begin() + fromStart + inserted);
+    const auto first = &source == &m_values ? own.cbegin() : source.cbegin() + fromStart;
+    // The common part is assigned, only the rest moves what lies behind it.
+    const int common = std::min(removed, inserted);
+    if (inserted > removed)
+        m_values.insert(m_values.begin() + start + removed, first + common, first + inserted);
+    else
+        close(start + inserted, removed - inserted);
+    std::copy_n(first, common, m_values.begin() + start);
+}
+
+template <class T, class Base>
 void SoMValue<T, Base>::writeValue(std::string& out, int index) const
 {
     xsg::ValueText<T>::write(out, m_values[static_cast<std::size_t>(index)]);
