@@ -53,5 +53,5 @@ set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
-  SpxEditingExport.h SpxFieldEdit.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
   SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)
