@@ -212,12 +212,21 @@ struct Words<SoRef<SoNode>> {
     {
         std::string text;
         xsg::ValueText<SoRef<SoNode>>::write(text, value);
-        return SpxText::toQString(SbString(text));
+        xsg::TextReader in(text);
+        std::string bare;
+        return SpxText::toQString(SbString(in.peek() == '"' && in.readQuoted(bare) ? bare : text));
     }
+    // As get() gives it, without quotes, or as files have it.
     static bool set(SoRef<SoNode>& value, const QString& text)
     {
-        const std::string bytes = text.trimmed().toStdString();
-        xsg::TextReader in(bytes);
+        const std::string bare = text.trimmed().toStdString();
+        std::string quoted;
+        xsg::appendQuoted(quoted, bare);
+        return read(value, bare) || read(value, quoted);
+    }
+    static bool read(SoRef<SoNode>& value, const std::string& text)
+    {
+        xsg::TextReader in(text);
         SoRef<SoNode> node;
         if (!xsg::ValueText<SoRef<SoNode>>::read(in, node) || !in.onlyBlanksLeft())
             return false;

@@ -81,6 +81,7 @@ void ListTable::buildLayout()
     layout->addWidget(&m_figures);
 
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(2);
     buttons->addWidget(newButton(QStringLiteral("+"), m_add));
     buttons->addWidget(newButton(QStringLiteral("\u2212"), m_delete));
     buttons->addWidget(newButton(QStringLiteral("\u2191"), m_up));
@@ -96,7 +97,7 @@ void ListTable::buildLayout()
     layout->addLayout(buttons);
     setTabOrder(m_lineKind, m_line);
     setTabOrder(m_line, &m_view);
-    lineChosen();
+    explainLine();
 }
 
 QToolButton* ListTable::newButton(const QString& text, QAction* action)
@@ -150,7 +151,8 @@ void ListTable::buildActions()
     m_menu->addSeparator();
     add(tr("Select &All"), QKeySequence(Qt::CTRL + Qt::Key_A), [this] {
         TableSelection all;
-        all.selectRows(0, m_view.rows().count() - 1, m_view.rows().columnCount());
+        all.selectRange({0, 0, m_view.rows().count() - 1, m_view.rows().columnCount() - 1},
+                        m_view.selection().current());
         m_view.setSelection(all);
     });
     add(tr("Select Whole Rows"), QKeySequence(Qt::SHIFT + Qt::Key_Space), [this] { selectWholeRows(); });
@@ -184,6 +186,7 @@ void ListTable::setList(SoMField* list)
         say({});
     m_view.show(list);
     showCaption();
+    explainLine();
     m_figures.restart();
 }
 
@@ -214,10 +217,11 @@ void ListTable::showCaption()
         return;
     }
     const int count = shown->getNum();
-    QString text = tr("%1 · %2 · %n values", nullptr, count)
-                       .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()));
+    QString text = tr("%1 · %2 · %3")
+                       .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()),
+                            count == 1 ? tr("1 value") : tr("%1 values").arg(count));
     if (!m_view.rows().order().isNatural())
-        text += tr(" · %n shown", nullptr, m_view.rows().count());
+        text += tr(" · %1 shown").arg(m_view.rows().count());
     m_caption->setText(text);
 }
 
@@ -260,21 +264,32 @@ void ListTable::askFor(Line line)
 
 void ListTable::lineChosen()
 {
+    explainLine();
+    m_line->setFocus();
+    m_line->selectAll();
+}
+
+void ListTable::explainLine()
+{
     static const char* const Examples[] = {
         QT_TR_NOOP("x*2, x+row*0.1, clamp(x,0,1)"), QT_TR_NOOP("x > 3, nan, duplicates"),
-        QT_TR_NOOP("a number or text"), QT_TR_NOOP("a row number")};
+        QT_TR_NOOP("a number or text"), QT_TR_NOOP("a row number"),
+        QT_TR_NOOP("a text for all selected cells"), QT_TR_NOOP("a part of the text, duplicates")};
     static const char* const Tips[] = {
         QT_TR_NOOP("A formula for every selected cell: x is the cell, row its row, n the number of rows, and c1, c2, "
                    "… are the cells of its row. Enter writes."),
         QT_TR_NOOP("Shows only the rows for which this holds: the columns by their headings, row, n; nan, inf or "
                    "duplicates; nothing shows all rows. Enter applies."),
-        QT_TR_NOOP("Goes to the next cell that holds this. Enter goes on."), QT_TR_NOOP("Goes to this row.")};
-    const int kind = m_lineKind->currentIndex();
+        QT_TR_NOOP("Goes to the next cell that holds this. Enter goes on."), QT_TR_NOOP("Goes to this row."),
+        QT_TR_NOOP("Written to every selected cell by Enter."),
+        QT_TR_NOOP("Shows only the rows that hold this text; nothing shows all rows. Enter applies.")};
+    int kind = m_lineKind->currentIndex();
+    m_line->setAccessibleName(m_lineKind->currentText());
+    const bool isOfWords = list() && !m_session.access().hasNumbers();
+    if (isOfWords && kind <= int(Line::Filter))
+        kind += 4;
     m_line->setPlaceholderText(tr(Examples[kind]));
     m_line->setToolTip(tr(Tips[kind]));
-    m_line->setAccessibleName(m_lineKind->currentText());
-    m_line->setFocus();
-    m_line->selectAll();
 }
 
 void ListTable::runLine()

@@ -53,6 +53,7 @@ private:
 
     void runLine();
     void lineChosen();
+    void explainLine();
     void showWhereItActed(const SoField* list, int first, int count);
     void say(const QString& sentence);
     void showCaption();

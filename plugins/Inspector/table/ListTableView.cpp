@@ -291,8 +291,9 @@ void ListTableView::keyPressEvent(QKeyEvent* event)
     }
     if (navigate(*event))
         return;
-    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier)
-        openCell();
+    const bool isTruth = m_rows.list() && m_rows.access().kind() == ListAccess::Kind::Truth;
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier && isTruth)
+        emit toggleAsked();
     else if (isTyping(*event) && m_rows.list())
         openCell(event->text());
     else

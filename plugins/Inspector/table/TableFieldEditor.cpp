@@ -41,6 +41,7 @@ void TableFieldEditor::unload()
 void TableFieldEditor::build(QWidget& widget)
 {
     auto* layout = new QVBoxLayout(&widget);
+    layout->setContentsMargins(4, 4, 4, 4);
     m_table = new ListTable;
     layout->addWidget(m_table);
 }

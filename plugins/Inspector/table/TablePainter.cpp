@@ -3,7 +3,6 @@
 
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionButton>
 #include <QWidget>
 
 #include <algorithm>
@@ -90,18 +89,26 @@ void TablePainter::paintCell(TableCell cell, const QRect& rect)
     paintText(rect.adjusted(m_margin, 0, -m_margin, 0), cell);
 }
 
+// By hand: the box of a style is outlined for the window's colour, not for that of a cell.
 void TablePainter::paintTruth(const QRect& rect, bool isTrue, bool isSelected)
 {
-    QStyleOptionButton option;
-    option.initFrom(&m_widget);
-    option.state |= isTrue ? QStyle::State_On : QStyle::State_Off;
-    if (isSelected)
-        option.palette.setColor(QPalette::Base, m_widget.palette().color(QPalette::Base));
-    const QStyle* style = m_widget.style();
-    const int width = style->pixelMetric(QStyle::PM_IndicatorWidth, &option, &m_widget);
-    const int height = style->pixelMetric(QStyle::PM_IndicatorHeight, &option, &m_widget);
-    option.rect = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {width, height}, rect);
-    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &m_painter, &m_widget);
+    const QPalette& palette = m_widget.palette();
+    const QColor ink = palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const QColor ground = palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
+    const int side = m_widget.fontMetrics().height() * 3 / 4;
+    const QRectF box = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, {side, side}, rect);
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setPen(QPen(mixed(ground, ink, 0.5), std::max(side / 12.0, 1.0)));
+    m_painter.drawRoundedRect(box, side / 6.0, side / 6.0);
+    if (isTrue) {
+        const QPointF tick[] = {box.topLeft() + QPointF(side * 0.22, side * 0.55),
+                                box.topLeft() + QPointF(side * 0.42, side * 0.76),
+                                box.topLeft() + QPointF(side * 0.80, side * 0.26)};
+        m_painter.setPen(QPen(ink, std::max(side / 7.0, 1.5), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        m_painter.drawPolyline(tick, 3);
+    }
+    m_painter.restore();
 }
 
 void TablePainter::paintText(const QRect& rect, TableCell cell)

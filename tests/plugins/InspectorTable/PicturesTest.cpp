@@ -43,6 +43,8 @@ protected:
         const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
         if (folder.isEmpty())
             return;
+        EXPECT_TRUE(TestHost::waitFor([&] { return !widget.findChild<FiguresLine*>()->isBusy(); }));
+        TestHost::pump();
         QDir().mkpath(folder);
         EXPECT_TRUE(widget.grab().save(QDir(folder).filePath(name + ".png")));
     }
@@ -65,7 +67,6 @@ TEST_F(EveryList, IsShownByAnEditorOfItsOwn)
             widget.setPalette(isDark ? darkPalette() : QPalette());
             widget.resize(420, 320);
             TestHost::pump();
-            EXPECT_TRUE(TestHost::waitFor([&] { return !editor.table()->figures().isBusy(); }));
             EXPECT_EQ(editor.table()->view().rows().count(), list->getNum());
             const QString name = QString::fromLatin1(list->getTypeId().getName().getString());
             save(widget, name + (isDark ? "-dark" : "-light"));
@@ -86,6 +87,8 @@ TEST_F(EveryList, FitsIntoANarrowDockAtAnySize)
         font.setPointSizeF(font.pointSizeF() * scale);
         widget.setFont(font);
         const int width = int(220 * scale);
+        for (const QWidget* part : widget.findChildren<QWidget*>())
+            EXPECT_LE(part->minimumSizeHint().width(), width) << part->objectName().toStdString();
         EXPECT_LE(widget.minimumSizeHint().width(), width) << scale;
         widget.resize(width, int(420 * scale));
         TestHost::pump();

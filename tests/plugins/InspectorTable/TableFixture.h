@@ -79,6 +79,13 @@ protected:
         }
         FAIL() << "no action " << text.toStdString();
     }
+    // QTest's moves have no button pressed.
+    void move(QPoint to, Qt::MouseButtons buttons = Qt::LeftButton)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, view().viewport()->mapToGlobal(to), Qt::NoButton, buttons,
+                          Qt::NoModifier);
+        QApplication::sendEvent(view().viewport(), &event);
+    }
     QPoint at(int row, int column) { return view().geometry().cell({row, column}).center(); }
     QPoint numberAt(int row) { return view().geometry().number(row).center(); }
 
