@@ -96,21 +96,25 @@ bool TableClipboard::readBlock(BlockText::Rows& block)
     return true;
 }
 
-// Values copied elsewhere have their numbers separated by blanks, and perhaps a comma.
+// Values copied as text stand in brackets, with a comma between them and blanks between their numbers.
 void TableClipboard::splitWholeValues(BlockText::Rows& block) const
 {
     const int columns = m_session.rows().columnCount();
-    if (columns == 1 || !m_session.access().hasNumbers())
+    const auto isOneCell = [](const QStringList& row) { return row.size() == 1; };
+    if (columns == 1 || !m_session.access().hasNumbers() || !std::all_of(block.begin(), block.end(), isOneCell))
         return;
-    for (const QStringList& row : block) {
-        if (row.size() != 1 || row.front().simplified().split(' ').size() != columns)
-            return;
+    QString text;
+    for (const QStringList& row : block)
+        text += row.front() + ',';
+    text.remove('[').remove(']');
+    BlockText::Rows values;
+    for (const QString& value : text.split(',')) {
+        if (!value.trimmed().isEmpty())
+            values.push_back(value.simplified().split(' '));
     }
-    for (QStringList& row : block) {
-        row = row.front().simplified().split(' ');
-        for (QString& number : row)
-            number.remove(QRegularExpression(QStringLiteral("[\\[\\],]+")));
-    }
+    const auto isWhole = [columns](const QStringList& value) { return value.size() == columns; };
+    if (!values.empty() && std::all_of(values.begin(), values.end(), isWhole))
+        block = std::move(values);
 }
 
 bool TableClipboard::findTarget(int blockRows, int blockColumns, Target& target)

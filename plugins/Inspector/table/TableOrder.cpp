@@ -85,7 +85,11 @@ void TableOrder::apply(RowOrder order, int column, bool isDescending)
 
 void TableOrder::sort(bool isDescending)
 {
-    const int column = m_session.view.selection().current().column;
+    sortBy(m_session.view.selection().current().column, isDescending);
+}
+
+void TableOrder::sortBy(int column, bool isDescending)
+{
     if (!m_session.list() || column < 0)
         return;
     const RowOrder& shown = m_session.rows().order();
@@ -94,7 +98,7 @@ void TableOrder::sort(bool isDescending)
     const auto less = lessOf(column, isDescending, keys);
     if (!sorted(elements, less, tr("Sorting the rows…")))
         return;
-    m_last = [this, isDescending] { sort(isDescending); };
+    m_last = [this, column, isDescending] { sortBy(column, isDescending); };
     apply(RowOrder(std::move(elements), false), column, isDescending);
 }
 
@@ -214,8 +218,6 @@ void TableOrder::reapply()
     if (!m_last || !m_session.list())
         return;
     const auto again = m_last;
-    if (m_session.view.selection().current().column < 0)
-        return;
     m_session.rows().setOrder(RowOrder());
     again();
 }

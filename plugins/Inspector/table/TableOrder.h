@@ -39,6 +39,7 @@ signals:
     void orderChanged();
 
 private:
+    void sortBy(int column, bool isDescending);
     bool sorted(std::vector<int>& elements, const PieceSort::Less& less, const QString& what);
     PieceSort::Less lessOf(int column, bool isDescending, std::vector<double>& keys);
     bool collect(const QString& what, const std::function<bool(int)>& isShown, std::vector<int>& elements);
