@@ -9,8 +9,9 @@
 #include <xsg/fields/SoMFFloat.h>
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QScrollBar>
-#include <QtTest>
 
 #include <cstring>
 
@@ -93,7 +94,8 @@ void editAndUndo(benchmark::State& state)
     for (auto _ : state) {
         table.view().goTo(middle);
         table.view().openCell(QString::number(++value));
-        QTest::keyClick(table.view().cellEditor(), Qt::Key_Return);
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(table.view().cellEditor(), &enter);
         table.host.undo();
         state.PauseTiming();
         TestHost::pump();

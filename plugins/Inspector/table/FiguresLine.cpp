@@ -12,6 +12,7 @@ namespace
 constexpr int CellsAtOnce = 100'000;
 constexpr int Delay = 100; // milliseconds: a list that moves does not keep the machine busy
 constexpr int MostLines = 4;
+constexpr int MostUnasked = 100'000; // values of a list whose figures are calculated unasked
 
 } // namespace
 
@@ -34,7 +35,8 @@ void FiguresLine::restart()
         m_delay.start();
 }
 
-// Of a single cell there is nothing to say; then the figures are those of the whole list.
+// Of a single cell there is nothing to say; then the figures are those of the whole list, unless it is so long
+// that each change of it would keep the machine busy.
 void FiguresLine::begin()
 {
     m_timer.stop();
@@ -42,7 +44,8 @@ void FiguresLine::begin()
     const SoMField* list = m_session.list();
     m_cells = m_session.view.selection().cellCount();
     m_isOfAll = m_cells <= 1;
-    if (!list || list->getNum() == 0) {
+    const bool isTooLong = m_isOfAll && list && list->getNum() > MostUnasked;
+    if (!list || list->getNum() == 0 || isTooLong) {
         setText({});
         return;
     }

@@ -10,6 +10,7 @@
 
 #include <QWidget>
 
+class QAction;
 class QComboBox;
 class QLineEdit;
 class QMenu;

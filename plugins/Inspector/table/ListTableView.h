@@ -12,6 +12,9 @@
 
 #include <functional>
 
+class QAction;
+class QHelpEvent;
+
 namespace inspector
 {
 
