@@ -47,11 +47,11 @@ set(SCOPIX_XSG_HEADERS
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
-  SpxProfile.h SpxServices.h SpxShell.h SpxVersion.h)
+  SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
-  SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
   SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)

@@ -1,12 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "SpxFieldEdit.h"
 
+#include "SpxConnectCommand.h"
 #include "SpxFreshDefault.h"
 #include "SpxSetIgnoredCommand.h"
 #include "SpxText.h"
 
+#include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 #include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
+
+#include <QCoreApplication>
+
+namespace
+{
+
+QString stepName(const SoField& field)
+{
+    const QString name = SpxText::toQString(field.getName());
+    const SoFieldContainer* node = field.getContainer();
+    const QString type =
+        node ? SpxText::toQString(node->getTypeId().getName()) + QLatin1Char('.') : QString();
+    return QCoreApplication::translate("SpxFieldEdit", "Change %1").arg(type + name);
+}
+
+} // namespace
 
 bool SpxFieldEdit::record(std::unique_ptr<SpxCommand> command)
 {
@@ -14,6 +33,15 @@ bool SpxFieldEdit::record(std::unique_ptr<SpxCommand> command)
     if (!services || !command)
         return false;
     services->executeCommand(command.release());
+    return true;
+}
+
+bool SpxFieldEdit::record(std::unique_ptr<SpxCommand> command, const SoField& edited)
+{
+    SpxSceneServices* services = SpxSceneServices::getInstance();
+    if (!services || !command)
+        return record(std::move(command));
+    services->executeCommand(command.release(), stepName(edited));
     return true;
 }
 
@@ -35,6 +63,19 @@ bool SpxFieldEdit::setToDefault(SoField* field)
                field->setDefault(true);
                return isWritten;
            });
+}
+
+bool SpxFieldEdit::setSource(SoField* field, SoField* source)
+{
+    if (field->getConnectedField() == source)
+        return false;
+    auto command = std::make_unique<SpxConnectCommand>(field, source);
+    return apply(field, std::move(command), [&] {
+        if (source)
+            return field->connectFrom(source);
+        field->disconnect();
+        return true;
+    });
 }
 
 bool SpxFieldEdit::setIgnored(SoField* field, bool ignored)

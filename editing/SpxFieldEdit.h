@@ -22,6 +22,8 @@ namespace SpxFieldEdit
 
 /// Hands a command to the host; false without a host, and for null.
 SPX_EDITING_API bool record(std::unique_ptr<SpxCommand> command);
+/// As above; where the host can, it names the step by the field, selected or not.
+SPX_EDITING_API bool record(std::unique_ptr<SpxCommand> command, const SoField& edited);
 
 /// For a command of your own, built just now. Nothing is recorded when `write` returns false (it may return
 /// nothing), or when the field was destroyed by its own write, as by a callback that replaces the node.
@@ -35,7 +37,7 @@ bool apply(SoField* field, std::unique_ptr<SpxCommand> command, Write&& write)
     } else {
         write();
     }
-    return written && record(std::move(command));
+    return written && record(std::move(command), *written.get());
 }
 
 /// `write` writes the field, in whatever way its type offers. A field of a type that cannot be instantiated
@@ -57,6 +59,9 @@ SPX_EDITING_API bool setText(SoField* field, const QString& text);
 /// Gives the field the value that it has in a new node of the same type; false where no such node can be
 /// made.
 SPX_EDITING_API bool setToDefault(SoField* field);
+/// Lets the field follow another one, or none (null), which the field then no longer follows but keeps its
+/// value; false where that changes nothing, the types do not convert or a loop would close.
+SPX_EDITING_API bool setSource(SoField* field, SoField* source);
 /// False where the field's flag is so already.
 SPX_EDITING_API bool setIgnored(SoField* field, bool ignored);
 

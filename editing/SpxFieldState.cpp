@@ -22,6 +22,11 @@ SpxFieldState::SpxFieldState(const SoField& field)
 {
 }
 
+bool SpxFieldState::isSame(const SoField& field) const
+{
+    return m_value && m_value->isSame(field);
+}
+
 void SpxFieldState::restore(SoField& field) const
 {
     if (!m_value || !field.copyFrom(*m_value))

@@ -20,6 +20,8 @@ public:
     /// False for an empty state: where it was made of nothing, or of a field whose type cannot be
     /// instantiated.
     bool isValid() const { return m_value != nullptr; }
+    /// Whether the field, of the same type, has this value, whatever its flags; false for an empty state.
+    bool isSame(const SoField& field) const;
     /// Writes the value and both flags to a field of the same type; a write notifies even when nothing
     /// differs. Nothing for an empty state.
     void restore(SoField& field) const;

@@ -35,6 +35,8 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_window->setAttribute(Qt::WA_QuitOnClose, false);
     m_notifier.setWindow(m_window.get());
     connectParts();
+    m_services.setSceneSource(m_window.get());
+    m_shell.setMenus(m_window->editMenu(), m_window->appearanceMenu());
     new ToolsMenu(m_shell, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
 }
@@ -55,6 +57,7 @@ HostSession::~HostSession()
     m_plugins.unloadAll();
     m_services.clearSelection();
     m_services.history().clear();
+    m_services.setSceneSource(nullptr);
 }
 
 void HostSession::loadStandardPlugins()

@@ -3,8 +3,13 @@
 
 #include "panels/SceneTreeModel.h"
 
+#include <xsg/actions/SoPath.h>
+
 #include <QHeaderView>
 #include <QScopedValueRollback>
+
+#include <algorithm>
+#include <vector>
 
 namespace scopix
 {
@@ -54,6 +59,16 @@ void SceneTreeView::selectPath(const SoPath& path)
         return dropSelection();
     setCurrentIndex(index);
     scrollTo(index);
+}
+
+SoPath SceneTreeView::getSelectedPath() const
+{
+    std::vector<SoNode*> upwards;
+    for (QModelIndex at = currentIndex(); at.isValid(); at = at.parent())
+        upwards.push_back(m_model->nodeAt(at));
+    SoPath path;
+    std::for_each(upwards.rbegin(), upwards.rend(), [&path](SoNode* node) { path.append(node); });
+    return path;
 }
 
 void SceneTreeView::dropSelection()

@@ -28,6 +28,8 @@ public:
     void showNode(const SoNode* node);
     /// As if the user had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);
+    /// From the root to the selected row; empty where none is selected.
+    SoPath getSelectedPath() const;
 
 signals:
     /// Null when the selected node left the scene; it is still alive then.

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/SceneSource.h"
 #include "services/Selection.h"
 #include "undo/GestureTracker.h"
 #include "undo/UndoHistory.h"
 
+#include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 
 namespace scopix
@@ -12,7 +14,7 @@ namespace scopix
 
 /// The services that the host offers to extensions: selection, and undo through the history of edits. Names
 /// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
-class HostServices : public SpxServices
+class HostServices : public SpxServices, public SpxSceneServices
 {
     Q_OBJECT
 
@@ -30,6 +32,16 @@ public:
 
     void executeCommand(SpxCommand* command) override;
 
+    /// The source must outlive its use; null for none.
+    void setSceneSource(SceneSource* source) { m_source = source; }
+    SoNode* getSceneRoot() const override;
+    SoPath getSelectedPath() const override;
+    QList<SoFieldContainer*> getSelectedNodes() const override;
+    void selectNode(SoFieldContainer* node) override { select(node); }
+    void selectField(SoField* field) override { select(field); }
+    void selectPath(const SoPath& path) override;
+    void executeCommand(SpxCommand* command, const QString& stepName) override;
+
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
@@ -46,6 +58,7 @@ private:
     GestureTracker m_gestures;
     Selection m_selection;
     UndoHistory m_history;
+    SceneSource* m_source = nullptr;
 };
 
 } // namespace scopix

@@ -211,8 +211,9 @@ bool HostShell::eventFilter(QObject* watched, QEvent* event)
                 this, [this, extension] { personClosed(extension); }, Qt::QueuedConnection);
         }
     }
-    // What an extension shows should be seen, also where it shares its place with others.
-    if (event->type() == QEvent::ShowToParent)
+    // What an extension shows should be seen, also where it shares its place with others, but not in the
+    // place of what the user works with.
+    if (event->type() == QEvent::ShowToParent && !sharesPlaceWithFocus(qobject_cast<QDockWidget*>(watched)))
         QMetaObject::invokeMethod(watched, "raise", Qt::QueuedConnection);
     return false;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <scopix/SpxShell.h>
+#include <scopix/SpxShellMenus.h>
 
 #include <QHash>
 #include <QList>
@@ -11,6 +12,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QWidget;
 
 namespace scopix
@@ -19,7 +21,7 @@ namespace scopix
 /// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
 /// saved; keeps the place of one that is removed for when it comes back; returns every widget without a
 /// parent. Knows which extension owns which widget and lets the user show and hide them. GUI thread only.
-class HostShell : public QObject, public SpxShell
+class HostShell : public QObject, public SpxShell, public SpxShellMenus
 {
     Q_OBJECT
 
@@ -34,6 +36,12 @@ public:
     void detachExtension(SpxExtension* extension) override;
     void addToolBar(QToolBar* toolBar, Qt::ToolBarArea area) override;
     void removeToolBar(QToolBar* toolBar) override;
+
+    /// Without them, entries of extensions stand nowhere, and only their shortcuts act.
+    void setMenus(QMenu* edit, QMenu* view);
+    void addMenuAction(Menu menu, QAction* action) override;
+    void removeMenuAction(QAction* action) override;
+    bool raiseDocksOf(const char* extension) override;
 
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
@@ -73,6 +81,7 @@ private:
         bool shown;
     };
 
+    bool sharesPlaceWithFocus(QDockWidget* dock) const;
     void stackOnAnother(QDockWidget* dock, Qt::DockWidgetArea area);
     void track(QWidget* widget, const QAction* toggle);
     void untrack(const QWidget* widget);
@@ -89,6 +98,8 @@ private:
     QSet<QString> m_hiddenByPerson; // names of extensions
     QSet<QString> m_waiting;        // names of those that nobody has asked for yet
     SpxExtension* m_activating = nullptr;
+    QPointer<QMenu> m_editMenu;
+    QPointer<QMenu> m_viewMenu;
 };
 
 } // namespace scopix

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/SceneSource.h"
+
 #include <QMainWindow>
 
 class QMenu;
@@ -9,7 +11,7 @@ namespace scopix
 {
 
 /// What the host needs of its main window, whatever else the window shows. GUI thread only.
-class HostWindow : public QMainWindow
+class HostWindow : public QMainWindow, public SceneSource
 {
     Q_OBJECT
 
@@ -19,6 +21,9 @@ public:
     /// Where the host puts the entries of the extensions, and the profiles. Owned by the window.
     virtual QMenu* viewMenu() = 0;
     virtual QMenu* profilesMenu() = 0;
+    /// Where entries of extensions go that act on the selection, or set how things are shown; null for none.
+    virtual QMenu* editMenu() { return nullptr; }
+    virtual QMenu* appearanceMenu() { return nullptr; }
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.

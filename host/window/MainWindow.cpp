@@ -148,6 +148,7 @@ void MainWindow::makeFileMenu()
 void MainWindow::makeEditMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    m_editMenu = menu;
     QUndoStack& stack = m_services.undoStack();
     m_undoAction = stack.createUndoAction(this, tr("Undo"));
     m_undoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
@@ -161,6 +162,7 @@ void MainWindow::makeEditMenu()
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
+    m_appearanceMenu = menu;
     m_viewAllAction =
         menu->addAction(tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
     m_viewAllAction->setIcon(svgIcon(QStringLiteral("action-view-all"), this));
@@ -346,6 +348,16 @@ void MainWindow::askForScreenshot()
 void MainWindow::viewSelected()
 {
     m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
+}
+
+SoPath MainWindow::selectedPath() const
+{
+    return m_tree->getSelectedPath();
+}
+
+void MainWindow::selectPath(const SoPath& path)
+{
+    m_tree->selectPath(path);
 }
 
 void MainWindow::setTheme(Theme theme)

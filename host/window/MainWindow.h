@@ -39,6 +39,11 @@ public:
 
     QMenu* viewMenu() override { return m_toolsMenu; }
     QMenu* profilesMenu() override { return m_profilesMenu; }
+    QMenu* editMenu() override { return m_editMenu; }
+    QMenu* appearanceMenu() override { return m_appearanceMenu; }
+    SoNode* sceneRoot() const override { return getScene(); }
+    SoPath selectedPath() const override;
+    void selectPath(const SoPath& path) override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
@@ -85,6 +90,8 @@ private:
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
+    QMenu* m_editMenu = nullptr;
+    QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     QAction* m_openAction = nullptr;

@@ -256,3 +256,47 @@ TEST_F(Shell, TheViewMenuShowsAndHidesExtensionsButEditors)
 }
 
 } // namespace
+
+TEST_F(Shell, PutsEntriesIntoTheMenusAndTakesThemOut)
+{
+    QMenu edit;
+    QMenu view;
+    m_shell.setMenus(&edit, &view);
+    EXPECT_EQ(SpxShellMenus::getInstance(), &m_shell);
+    QAction filter("Filter");
+    auto gone = std::make_unique<QAction>("Gone");
+    SpxShellMenus& menus = m_shell;
+    menus.addMenuAction(SpxShellMenus::Menu::Edit, &filter);
+    menus.addMenuAction(SpxShellMenus::Menu::View, gone.get());
+    EXPECT_EQ(edit.actions(), QList<QAction*>{&filter});
+    EXPECT_EQ(view.actions(), QList<QAction*>{gone.get()});
+    EXPECT_TRUE(m_window.actions().contains(&filter));
+    gone.reset();
+    EXPECT_TRUE(view.isEmpty());
+    menus.removeMenuAction(&filter);
+    EXPECT_TRUE(edit.isEmpty());
+    EXPECT_FALSE(m_window.actions().contains(&filter));
+}
+
+TEST_F(Shell, ADockThatShowsItselfStaysBehindTheOneWithTheFocus)
+{
+    m_one.m_dock.setWidget(new QLineEdit);
+    m_two.m_dock.setWidget(new QLineEdit);
+    m_one.start(m_shell);
+    m_two.start(m_shell);
+    ASSERT_EQ(m_window.tabifiedDockWidgets(&m_one.m_dock).size(), 1);
+    m_two.hide();
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    m_one.m_dock.widget()->setFocus();
+    m_two.show();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(m_one.m_dock.widget()->isVisible());
+    EXPECT_TRUE(m_one.m_dock.widget()->visibleRegion().boundingRect().isValid());
+    EXPECT_TRUE(m_two.m_dock.widget()->visibleRegion().isEmpty());
+
+    EXPECT_FALSE(m_shell.raiseDocksOf("Three"));
+    EXPECT_TRUE(m_shell.raiseDocksOf("Two"));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(m_two.m_dock.widget()->visibleRegion().isEmpty());
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/actions/SoPath.h>
+
+namespace scopix
+{
+
+/// Where the services find the scene that is open, and the place that is selected in it. By default there is
+/// none.
+class SceneSource
+{
+public:
+    SceneSource() = default;
+    SceneSource(const SceneSource&) = delete;
+    SceneSource& operator=(const SceneSource&) = delete;
+    virtual ~SceneSource() = default;
+
+    virtual SoNode* sceneRoot() const { return nullptr; }
+    virtual SoPath selectedPath() const { return {}; }
+    virtual void selectPath(const SoPath& /*path*/) {}
+};
+
+} // namespace scopix

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "panel/FieldPanel.h"
+
+#include "fields/FieldText.h"
+#include "panel/FlowRow.h"
+#include "panel/NearbyNodes.h"
+#include "panel/RowList.h"
+
+#include <scopix/SpxSceneServices.h>
+#include <scopix/editing/SpxText.h>
+#include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace inspector
+{
+
+namespace
+{
+
+constexpr int MostParents = 4;
+constexpr int Margin = 6;
+
+void selectPath(const SoPath& path)
+{
+    if (SpxSceneServices* scene = SpxSceneServices::getInstance())
+        scene->selectPath(path);
+}
+
+SoPath startOf(const SoPath& path, int length)
+{
+    SoPath start;
+    for (int i = 0; i < length; ++i)
+        start.append(path.getNode(i));
+    return start;
+}
+
+QIcon iconOf(const SoNode* node, const QSize& size)
+{
+    const auto* material = dynamic_cast<const SoMaterial*>(node);
+    if (!material || material->diffuseColor.getNum() == 0)
+        return {};
+    const SbVec3f& color = material->diffuseColor[0];
+    const auto channel = [&](int i) {
+        return int(std::clamp(color[i] > 0 ? color[i] : 0.F, 0.F, 1.F) * 255);
+    };
+    QPixmap pixmap(size);
+    pixmap.fill(QColor(channel(0), channel(1), channel(2)));
+    return pixmap;
+}
+
+} // namespace
+
+FieldPanel::FieldPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_title(new QLabel)
+    , m_breadcrumb(new FlowRow)
+    , m_nearby(new FlowRow)
+    , m_filter(new QLineEdit)
+    , m_onlyChanged(new QCheckBox(tr("Changed")))
+    , m_rows(new RowList)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, Margin, 0, 0);
+    layout->setSpacing(Margin / 2);
+    layout->addLayout(makeHeader());
+    layout->addLayout(makeFilter());
+    layout->addWidget(m_rows, 1);
+    connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
+}
+
+QLayout* FieldPanel::makeHeader()
+{
+    m_breadcrumb->setObjectName(QStringLiteral("breadcrumb"));
+    m_nearby->setObjectName(QStringLiteral("nearby"));
+    m_title->setObjectName(QStringLiteral("nodeTitle"));
+    m_title->setTextFormat(Qt::RichText);
+    m_title->setMinimumWidth(1);
+    auto* header = new QVBoxLayout;
+    header->setContentsMargins(Margin, 0, Margin, 0);
+    header->setSpacing(2);
+    header->addWidget(m_breadcrumb);
+    header->addWidget(m_title);
+    header->addWidget(m_nearby);
+    return header;
+}
+
+QLayout* FieldPanel::makeFilter()
+{
+    m_filter->setObjectName(QStringLiteral("fieldFilter"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setAccessibleName(tr("Filter the fields by name, meaning, type or value"));
+    m_filter->setToolTip(tr("Shows the fields whose name, meaning, type or value has these words."));
+    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
+    m_onlyChanged->setObjectName(QStringLiteral("onlyChanged"));
+    m_onlyChanged->setAccessibleName(tr("Only changed fields"));
+    m_onlyChanged->setToolTip(tr("Shows the fields only that do not have their default value."));
+    connect(m_filter, &QLineEdit::textChanged, m_rows, &RowList::setFilter);
+    connect(m_onlyChanged, &QCheckBox::toggled, m_rows, &RowList::setOnlyChanged);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(Margin, 0, Margin, 0);
+    row->addWidget(m_filter, 1);
+    row->addWidget(m_onlyChanged);
+    return row;
+}
+
+void FieldPanel::setNode(SoFieldContainer* node)
+{
+    if (node != this->node()) {
+        m_rows->finish();
+        m_life.watch(node);
+        m_rows->setNode(node);
+    }
+    showPlace();
+}
+
+SoFieldContainer* FieldPanel::node() const
+{
+    return dynamic_cast<SoFieldContainer*>(m_life.getObject());
+}
+
+void FieldPanel::refresh()
+{
+    m_rows->refresh();
+}
+
+void FieldPanel::finish()
+{
+    m_rows->finish();
+}
+
+void FieldPanel::rebuild()
+{
+    m_rows->rebuild();
+}
+
+void FieldPanel::focusFilter()
+{
+    m_filter->setFocus(Qt::ShortcutFocusReason);
+    m_filter->selectAll();
+}
+
+// Esc leaves the filter: all fields are shown again.
+void FieldPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_filter->hasFocus() && !m_filter->text().isEmpty())
+        m_filter->clear();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void FieldPanel::showPlace()
+{
+    m_breadcrumb->clear();
+    m_nearby->clear();
+    m_title->clear();
+    if (!node())
+        return;
+    const QString type = SpxText::toQString(node()->getTypeId().getName());
+    const QString label = nodeLabel(*node());
+    m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
+                     (label == type ? QString() : QStringLiteral(" &nbsp;") + type.toHtmlEscaped()));
+    m_title->setToolTip(label);
+    const SpxSceneServices* scene = SpxSceneServices::getInstance();
+    const SoPath path = scene ? scene->getSelectedPath() : SoPath();
+    if (path.isEmpty() || path.getTail() != node())
+        return;
+    showBreadcrumb(path);
+    showNearby(path);
+}
+
+void FieldPanel::showBreadcrumb(const SoPath& path)
+{
+    for (int i = std::max(0, path.getLength() - 1 - MostParents); i < path.getLength() - 1; ++i) {
+        const SoPath parent = startOf(path, i + 1);
+        const QString label = nodeLabel(*path.getNode(i));
+        m_breadcrumb->add(label + QStringLiteral(" \u25B8"), tr("Select %1, which holds it").arg(label),
+                          [parent] { selectPath(parent); });
+    }
+}
+
+void FieldPanel::showNearby(const SoPath& path)
+{
+    const int side = fontMetrics().height() - 4;
+    for (const SoPath& nearby : nearbyNodes(path)) {
+        const SoNode* node = nearby.getTail();
+        if (node == path.getTail())
+            continue;
+        const QString type = SpxText::toQString(node->getTypeId().getName());
+        const QString label = nodeLabel(*node);
+        QToolButton* button = m_nearby->add(
+            label == type ? type : type + QLatin1Char(' ') + label,
+            tr("Select the %1 that counts here").arg(label == type ? type : type + QLatin1Char(' ') + label),
+            [nearby] { selectPath(nearby); });
+        button->setIcon(iconOf(node, {side, side}));
+    }
+}
+
+void FieldPanel::choose(SoField* field)
+{
+    if (SpxSceneServices* scene = SpxSceneServices::getInstance())
+        scene->selectField(field);
+}
+
+} // namespace inspector

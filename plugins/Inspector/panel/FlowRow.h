@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class QToolButton;
+
+namespace inspector
+{
+
+/// Small buttons one after the other, in as many lines as they need. Hidden while it has none. GUI thread
+/// only.
+class FlowRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FlowRow(QWidget* parent = nullptr);
+
+    void clear();
+    QToolButton* add(const QString& text, const QString& toolTip, std::function<void()> act);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override { return place(width, false); }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int place(int width, bool moves) const;
+
+    QList<QToolButton*> m_buttons;
+};
+
+} // namespace inspector

@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: MIT
+#include "panel/RowList.h"
+
+#include "fields/Description.h"
+#include "fields/FieldKind.h"
+#include "fields/FieldText.h"
+#include "rows/Row.h"
+#include "rows/RowFactory.h"
+
+#include <scopix/editing/SpxText.h>
+#include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QResizeEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace inspector
+{
+
+namespace
+{
+
+constexpr int Margin = 6;
+constexpr int Space = 3;
+constexpr int NarrowInCharacters = 46;
+
+} // namespace
+
+RowList::RowList(QWidget* parent)
+    : QAbstractScrollArea(parent)
+{
+    setObjectName(QStringLiteral("rowList"));
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    viewport()->setBackgroundRole(QPalette::Window);
+}
+
+RowList::~RowList() = default;
+
+QSize RowList::sizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * NarrowInCharacters, lineHeight() * 12};
+}
+
+void RowList::setNode(const SoFieldContainer* node)
+{
+    for (Item& item : m_items)
+        delete item.row;
+    m_items.clear();
+    for (SoField* field : node ? fieldsInOrder(*node) : std::vector<SoField*>()) {
+        Item item;
+        item.field = field;
+        const Description* known = findDescription(*field);
+        if (known)
+            item.heading = QString::fromUtf8(known->heading.data(), int(known->heading.size()));
+        describe(item);
+        m_items.push_back(std::move(item));
+    }
+    verticalScrollBar()->setValue(0);
+    filterItems();
+}
+
+void RowList::describe(Item& item) const
+{
+    item.kind = int(kindOf(*item.field.get()));
+    item.lines = linesOf(*item.field.get());
+    item.isWide = inspector::isWide(*item.field.get());
+}
+
+void RowList::rebuild()
+{
+    for (Item& item : m_items)
+        delete item.row;
+    placeItems();
+}
+
+void RowList::refresh()
+{
+    bool isMoved = false;
+    for (Item& item : m_items) {
+        if (!item.row || !item.field || !isInView(item))
+            continue;
+        if (item.kind !=
+            int(kindOf(*item.field.get()))) { // a list of one value has become longer, or the like
+            delete item.row;
+            describe(item);
+            isMoved = true;
+        } else {
+            item.row->refresh();
+        }
+    }
+    if (isMoved)
+        placeItems();
+}
+
+void RowList::finish()
+{
+    for (const Item& item : m_items) {
+        if (item.row)
+            item.row->finish();
+    }
+}
+
+void RowList::setFilter(const QString& words)
+{
+    m_filter = words.trimmed();
+    filterItems();
+}
+
+void RowList::setOnlyChanged(bool only)
+{
+    m_onlyChanged = only;
+    filterItems();
+}
+
+int RowList::getNumShown() const
+{
+    return int(std::count_if(m_items.begin(), m_items.end(), [](const Item& item) { return item.isShown; }));
+}
+
+bool RowList::passes(const Item& item) const
+{
+    const SoField* field = item.field.get();
+    if (!field || (m_onlyChanged && field->isDefault()))
+        return false;
+    if (m_filter.isEmpty())
+        return true;
+    const Description* known = findDescription(*field);
+    const QString text = SpxText::toQString(field->getName()) + QLatin1Char(' ') +
+                         SpxText::toQString(field->getTypeId().getName()) + QLatin1Char(' ') +
+                         summary(*field) + QLatin1Char(' ') + item.heading + QLatin1Char(' ') +
+                         (known ? QString::fromUtf8(known->meaning.data()) : QString());
+    const QStringList words = m_filter.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return std::all_of(words.begin(), words.end(),
+                       [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+}
+
+void RowList::filterItems()
+{
+    for (Item& item : m_items)
+        item.isShown = passes(item);
+    placeItems();
+}
+
+int RowList::lineHeight() const
+{
+    return fontMetrics().height() + 10;
+}
+
+bool RowList::isNarrow() const
+{
+    return viewport()->width() < fontMetrics().averageCharWidth() * NarrowInCharacters;
+}
+
+void RowList::placeItems()
+{
+    int y = Margin;
+    const int captionLine = fontMetrics().height() + 4;
+    QString heading;
+    for (Item& item : m_items) {
+        if (!item.heading.isEmpty())
+            heading = item.heading;
+        item.headingTop = -1;
+        if (!item.isShown)
+            continue;
+        if (!heading.isEmpty()) {
+            item.headingTop = y;
+            y += lineHeight();
+            heading.clear();
+        }
+        item.top = y;
+        item.height = item.lines * lineHeight() + (item.isWide && isNarrow() ? captionLine : 0);
+        y += item.height + Space;
+    }
+    m_contentHeight = y + Margin;
+    const int page = viewport()->height();
+    verticalScrollBar()->setPageStep(page);
+    verticalScrollBar()->setSingleStep(lineHeight());
+    verticalScrollBar()->setRange(0, std::max(0, m_contentHeight - page));
+    showVisible();
+}
+
+bool RowList::isInView(const Item& item) const
+{
+    const int top = item.top - verticalScrollBar()->value();
+    return item.isShown && top < viewport()->height() && top + item.height > 0;
+}
+
+// A row with the focus or at work stays where it is, even out of view.
+void RowList::showVisible()
+{
+    for (Item& item : m_items) {
+        if (isInView(item))
+            place(item);
+        else if (item.row && item.isShown)
+            item.row->move(Margin, item.top - verticalScrollBar()->value());
+        else if (item.row)
+            item.row->hide();
+    }
+    viewport()->update();
+}
+
+Row* RowList::rowOf(Item& item)
+{
+    if (!item.row && item.field) {
+        item.row = makeRow(item.field.get(), viewport());
+        connect(item.row, &Row::chosen, this, [this, field = item.field] {
+            if (field)
+                emit fieldChosen(field.get());
+        });
+    }
+    return item.row;
+}
+
+void RowList::place(Item& item)
+{
+    const bool isNew = !item.row;
+    Row* row = rowOf(item);
+    if (!row)
+        return;
+    row->setStacked(item.isWide && isNarrow());
+    row->setGeometry(Margin, item.top - verticalScrollBar()->value(), viewport()->width() - 2 * Margin,
+                     item.height);
+    if (!isNew)
+        row->refresh();
+    row->show();
+}
+
+void RowList::scrollTo(const Item& item)
+{
+    QScrollBar* bar = verticalScrollBar();
+    if (item.top - Margin < bar->value())
+        bar->setValue(item.top - Margin);
+    else if (item.top + item.height + Margin > bar->value() + viewport()->height())
+        bar->setValue(item.top + item.height + Margin - viewport()->height());
+}
+
+bool RowList::focusNextPrevChild(bool next)
+{
+    return stepFocus(next) || QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+// To the input after the one with the focus, in its row or in the next row that has one.
+bool RowList::stepFocus(bool next)
+{
+    QWidget* focus = QApplication::focusWidget();
+    const auto holds = [focus](const Item& item) {
+        return item.row && focus && item.row->isAncestorOf(focus);
+    };
+    const auto from = std::find_if(m_items.begin(), m_items.end(), holds);
+    if (from == m_items.end())
+        return false;
+    const int step = next ? 1 : -1;
+    for (int i = int(from - m_items.begin()); i >= 0 && i < int(m_items.size()); i += step) {
+        Item& item = m_items[std::size_t(i)];
+        if (!item.isShown || !rowOf(item))
+            continue;
+        if (!isInView(item))
+            place(item);
+        const QList<QWidget*> inputs = item.row->inputs();
+        const int at = inputs.indexOf(focus);
+        const int wanted = at >= 0 ? at + step : holds(item) ? -1 : next ? 0 : inputs.size() - 1;
+        if (wanted < 0 || wanted >= inputs.size())
+            continue;
+        scrollTo(item);
+        inputs[wanted]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}
+
+void RowList::resizeEvent(QResizeEvent* event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    placeItems();
+}
+
+void RowList::changeEvent(QEvent* event)
+{
+    QAbstractScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        placeItems();
+}
+
+void RowList::scrollContentsBy(int /*dx*/, int /*dy*/)
+{
+    showVisible();
+}
+
+void RowList::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(viewport());
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    const int scrolled = verticalScrollBar()->value();
+    QString heading;
+    for (const Item& item : m_items) {
+        if (!item.heading.isEmpty())
+            heading = item.heading;
+        if (!item.isShown || item.headingTop < 0)
+            continue;
+        const QRect place(Margin, item.headingTop - scrolled, viewport()->width() - 2 * Margin, lineHeight());
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft, heading);
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawLine(place.left() + painter.fontMetrics().horizontalAdvance(heading) + Margin,
+                         place.center().y(), place.right(), place.center().y());
+    }
+    if (getNumShown() == 0) {
+        painter.setFont(font());
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
+                         int(Qt::AlignTop | Qt::AlignHCenter) | Qt::TextWordWrap,
+                         m_items.empty() ? tr("This node has no fields.")
+                                         : tr("No field passes the filter."));
+    }
+}
+
+} // namespace inspector

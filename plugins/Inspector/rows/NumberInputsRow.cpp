@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "rows/NumberInputsRow.h"
+
+#include "fields/NumberAccess.h"
+
+#include <scopix/editing/SpxText.h>
+#include <xsg/core/SoField.h>
+
+#include <algorithm>
+
+namespace inspector
+{
+
+NumberEdit* NumberInputsRow::addNumber(const NumberFormat& format, const QString& part)
+{
+    const int which = m_numbers.size();
+    auto* number = new NumberEdit(editor());
+    number->setObjectName(QStringLiteral("number%1").arg(which));
+    number->setFormat(format);
+    number->setToolTip(toolTip());
+    addInput(number, part);
+    number->setPresent([=] { return field() ? shownNumber(which) : 0; });
+    connect(number, &NumberEdit::dragBegan, this, [this] { gesture().begin(field()); });
+    connect(number, &NumberEdit::dragged, this, [=](double value) { dragged(which, value); });
+    connect(number, &NumberEdit::dragEnded, this, &NumberInputsRow::dragEnded);
+    connect(number, &NumberEdit::entered, this,
+            [=](double value) { edit([&] { writeNumber(which, value); }); });
+    connect(number, &NumberEdit::textEntered, this,
+            [=](const QString& text, bool* isTaken) { *isTaken = takeText(text); });
+    connect(number, &NumberEdit::givenBack, this, [this] { changedHere(); });
+    m_numbers += number;
+    return number;
+}
+
+void NumberInputsRow::finish()
+{
+    for (NumberEdit* number : qAsConst(m_numbers))
+        number->finish();
+}
+
+void NumberInputsRow::showValue()
+{
+    for (int i = 0; i < m_numbers.size(); ++i) {
+        NumberEdit* number = m_numbers[i];
+        if (!number->hasFocus() || !number->isModified())
+            number->showNumber(shownNumber(i), shownText(i));
+    }
+}
+
+bool NumberInputsRow::isBusy() const
+{
+    return std::any_of(m_numbers.begin(), m_numbers.end(),
+                       [](const NumberEdit* each) { return each->isBusy(); });
+}
+
+void NumberInputsRow::dragged(int which, double number)
+{
+    gesture().write([&] { writeNumber(which, number); });
+    changedHere();
+}
+
+void NumberInputsRow::dragEnded(bool keep)
+{
+    if (keep)
+        gesture().keep();
+    else
+        gesture().giveBack();
+    changedHere();
+}
+
+NumberFormat formatOf(const SoField& field)
+{
+    NumberFormat format;
+    if (const NumberAccess* access = NumberAccess::of(field)) {
+        format.isInteger = access->isInteger;
+        if (access->isInteger) {
+            format.hardLow = access->lowest;
+            format.hardHigh = access->highest;
+        }
+    }
+    if (const Description* known = findDescription(field)) {
+        format.softLow = known->softLow;
+        format.softHigh = known->softHigh;
+        format.hardLow = std::max(format.hardLow, known->hardLow);
+        format.hardHigh = std::min(format.hardHigh, known->hardHigh);
+        format.quantity = known->quantity;
+    }
+    return format;
+}
+
+QString numberText(const SoField& field, double number)
+{
+    const NumberAccess* access = NumberAccess::of(field);
+    if (access && access->isInteger)
+        return QString::number(qint64(number));
+    return access && access->isFloat ? SpxText::ofNumber(float(number)) : SpxText::ofNumber(number);
+}
+
+QString degreesText(double degrees)
+{
+    return QString::number(degrees, 'g', 6) + QChar(0xB0);
+}
+
+} // namespace inspector

@@ -1,0 +1,378 @@
+// SPDX-License-Identifier: MIT
+#include "rows/Row.h"
+
+#include "fields/FieldText.h"
+#include "rows/Caption.h"
+#include "rows/ConnectDialog.h"
+#include "rows/Mark.h"
+#include "rows/NumberEdit.h"
+
+#include <scopix/editing/SpxFreshDefault.h>
+#include <scopix/editing/SpxText.h>
+#include <xsg/core/SoField.h>
+#include <xsg/core/SoFieldContainer.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QToolTip>
+
+#include <algorithm>
+#include <chrono>
+
+namespace inspector
+{
+
+namespace
+{
+
+constexpr int Gap = 4;
+constexpr int AnimatedAfter = 5; // changes from elsewhere
+constexpr int SoonAfterMs = 500;
+constexpr double CaptionShare = 0.38;
+constexpr double NarrowCaptionShare = 0.5;
+constexpr int NarrowInCharacters = 42;
+
+qint64 steadyMs()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+QString number(double value)
+{
+    return SpxText::ofNumber(float(value));
+}
+
+} // namespace
+
+Row::Row(SoField* field)
+    : m_field(field)
+    , m_description(findDescription(*field))
+{
+}
+
+void Row::start()
+{
+    buildFrame();
+    build();
+    m_caption->setDragged(draggedByCaption());
+    refresh();
+}
+
+void Row::buildFrame()
+{
+    setObjectName(QStringLiteral("row"));
+    setAccessibleName(fieldName() + QStringLiteral(", ") + typeText());
+    setToolTip(toolTipText());
+    m_mark = new Mark(this);
+    m_mark->setAccessibleName(tr("State of %1").arg(fieldName()));
+    connect(m_mark, &QToolButton::clicked, this,
+            [this] { showMenu(m_mark->mapToGlobal(m_mark->rect().bottomLeft())); });
+    m_caption = new Caption(fieldName(), this);
+    connect(m_caption, &Caption::clicked, this, [this] {
+        if (!m_inputs.isEmpty())
+            m_inputs.first()->setFocus(Qt::MouseFocusReason);
+        emit chosen();
+    });
+    m_editor = new QWidget(this);
+}
+
+QBoxLayout* Row::editorLayout()
+{
+    if (!m_editor->layout()) {
+        auto* layout = new QHBoxLayout(m_editor);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(Gap - 1);
+    }
+    return static_cast<QBoxLayout*>(m_editor->layout());
+}
+
+void Row::addInput(QWidget* input, const QString& part)
+{
+    input->setAccessibleName(part.isEmpty() ? fieldName() : fieldName() + QLatin1Char(' ') + part);
+    input->setAccessibleDescription(typeText());
+    input->installEventFilter(this);
+    m_inputs += input;
+}
+
+QList<QWidget*> Row::inputs() const
+{
+    QList<QWidget*> reachable;
+    for (QWidget* input : m_inputs) {
+        if (input->isVisibleTo(this) && input->isEnabled())
+            reachable += input;
+    }
+    return reachable;
+}
+
+void Row::setStacked(bool stacked)
+{
+    m_isStacked = stacked;
+    placeParts();
+}
+
+void Row::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    placeParts();
+}
+
+void Row::placeParts()
+{
+    const int line = m_isStacked ? fontMetrics().height() + Gap : height();
+    const int firstLine = m_isStacked ? line : std::min(height(), fontMetrics().height() + 2 * Gap + 2);
+    const int mark = fontMetrics().height();
+    const int left = mark + Gap;
+    const bool isNarrow = width() < fontMetrics().averageCharWidth() * NarrowInCharacters;
+    const double share = isNarrow ? NarrowCaptionShare : CaptionShare;
+    const int captionWidth = m_isStacked ? width() - left : int(width() * share) - left;
+    m_mark->setGeometry(0, 0, mark, firstLine);
+    m_caption->setGeometry(left, 0, std::max(0, captionWidth), firstLine);
+    if (m_isStacked)
+        m_editor->setGeometry(left, line, width() - left, height() - line);
+    else
+        m_editor->setGeometry(left + captionWidth + Gap, 0, width() - left - captionWidth - Gap, height());
+}
+
+QString Row::fieldName() const
+{
+    return field() ? SpxText::toQString(field()->getName()) : QString();
+}
+
+QString Row::typeText() const
+{
+    return SpxText::toQString(field()->getTypeId().getName());
+}
+
+QString Row::searchText() const
+{
+    return field()
+               ? fieldName() + QStringLiteral(", ") + typeText() + QStringLiteral(": ") + summary(*field())
+               : QString();
+}
+
+QString Row::toolTipText() const
+{
+    QString text = QStringLiteral("<b>%1</b> (%2)").arg(fieldName(), typeText());
+    if (m_description) {
+        text += QStringLiteral("<br>") + QString::fromUtf8(m_description->meaning.data()).toHtmlEscaped();
+        if (!m_description->unit.empty())
+            text +=
+                QStringLiteral("<br>") + tr("Unit: %1").arg(QString::fromUtf8(m_description->unit.data()));
+        else if (m_description->quantity == SpxQuantity::Angle)
+            text += QStringLiteral("<br>") + tr("Unit: radians are stored");
+        if (m_description->softLow != m_description->softHigh)
+            text +=
+                QStringLiteral("<br>") +
+                tr("Range: %1 to %2").arg(number(m_description->softLow), number(m_description->softHigh));
+    }
+    const SpxFreshDefault fresh(field());
+    if (fresh.get())
+        text += QStringLiteral("<br>") + tr("Default: %1").arg(summary(*fresh.get()).toHtmlEscaped());
+    return text;
+}
+
+void Row::refresh()
+{
+    if (!field())
+        return;
+    field()->evaluate();
+    const quint32 change = field()->getChangeCount();
+    if (!m_isShown || change != m_shownChange) {
+        if (m_isShown)
+            noteChange(change);
+        if (isBusy() && m_isShown) {
+            m_hasConflict = true;
+        } else {
+            m_hasConflict = false;
+            showValue();
+        }
+        m_isShown = true;
+        m_shownChange = change;
+    }
+    showMark();
+}
+
+// What changes again and again by itself is animated.
+void Row::noteChange(quint32 /*change*/)
+{
+    const qint64 now = steadyMs();
+    m_changesInARow = now - m_lastChange < SoonAfterMs ? m_changesInARow + 1 : 1;
+    m_lastChange = now;
+}
+
+void Row::changedHere()
+{
+    if (!field())
+        return;
+    m_shownChange = field()->getChangeCount();
+    m_hasConflict = false;
+    m_changesInARow = 0;
+    showValue();
+    showMark();
+}
+
+void Row::showMark()
+{
+    using State = Mark::State;
+    const SoField* source = field()->getConnectedField();
+    const bool isAnimated = m_changesInARow >= AnimatedAfter && steadyMs() - m_lastChange < 2 * SoonAfterMs;
+    if (m_hasConflict)
+        m_mark->setState(State::Conflict, tr("Changed elsewhere meanwhile: take that value, or keep yours."));
+    else if (source)
+        m_mark->setState(State::Connected, tr("Follows %1.").arg(pathOf(*source)));
+    else if (field()->isIgnored())
+        m_mark->setState(State::Ignored, tr("Ignored: takes no part."));
+    else if (isAnimated)
+        m_mark->setState(State::Animated, tr("Changes by itself."));
+    else if (!field()->isDefault())
+        m_mark->setState(State::Changed, tr("Changed: not the default."));
+    else
+        m_mark->setState(State::Default, tr("The default."));
+    m_caption->setStrong(!field()->isDefault());
+    m_editor->setEnabled(true);
+}
+
+void Row::takeTheirs()
+{
+    for (QWidget* input : qAsConst(m_inputs)) {
+        if (auto* line = qobject_cast<QLineEdit*>(input))
+            line->setModified(false);
+    }
+    m_hasConflict = false;
+    showValue();
+    showMark();
+}
+
+void Row::keepMine()
+{
+    m_hasConflict = false;
+    showMark();
+}
+
+void Row::showMenu(const QPoint& where)
+{
+    if (!field())
+        return;
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("rowMenu"));
+    addStateEntries(menu);
+    menu.addSeparator();
+    addTextEntries(menu);
+    menu.exec(where);
+}
+
+void Row::addStateEntries(QMenu& menu)
+{
+    const SpxFieldPointer edited = m_field;
+    if (m_hasConflict) {
+        menu.addAction(tr("&Take the New Value"), this, &Row::takeTheirs);
+        menu.addAction(tr("&Keep Mine"), this, &Row::keepMine);
+        menu.addSeparator();
+    }
+    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!field()->isDefault());
+    QAction* ignore = menu.addAction(tr("&Ignore"));
+    ignore->setCheckable(true);
+    ignore->setChecked(field()->isIgnored());
+    connect(ignore, &QAction::triggered, this, [this, edited](bool ignored) {
+        if (edited)
+            SpxFieldEdit::setIgnored(edited.get(), ignored);
+        changedHere();
+    });
+    menu.addAction(tr("C&onnect to a Field…"), this, &Row::connectField);
+    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this, edited] {
+        if (edited)
+            SpxFieldEdit::setSource(edited.get(), nullptr);
+        changedHere();
+    });
+    disconnect->setEnabled(field()->isConnected());
+}
+
+void Row::addTextEntries(QMenu& menu)
+{
+    const auto copy = [](const QString& text) { QApplication::clipboard()->setText(text); };
+    const SpxFieldPointer edited = m_field;
+    menu.addAction(tr("&Copy Value"), this, &Row::copyValue);
+    menu.addAction(tr("&Paste Value"), this, &Row::pasteValue)
+        ->setEnabled(!QApplication::clipboard()->text().isEmpty());
+    const auto addCopy = [&](const QString& title, QString (*textOf)(const SoField&)) {
+        menu.addAction(title, this, [=] {
+            if (edited)
+                copy(textOf(*edited.get()));
+        });
+    };
+    addCopy(tr("Copy Pat&h"), pathOf);
+    addCopy(tr("Copy as C+&+"), cppText);
+    addCopy(tr("Copy as &Scene Text"), sceneText);
+}
+
+void Row::connectField()
+{
+    const SpxFieldPointer edited = m_field;
+    ConnectDialog dialog(*edited.get(), window());
+    if (dialog.exec() == QDialog::Accepted && edited && dialog.chosen())
+        SpxFieldEdit::setSource(edited.get(), dialog.chosen());
+    changedHere();
+}
+
+void Row::reset()
+{
+    if (!field())
+        return;
+    SpxFieldEdit::setToDefault(field());
+    changedHere();
+}
+
+void Row::copyValue() const
+{
+    if (field())
+        QApplication::clipboard()->setText(SpxText::ofField(*field()));
+}
+
+void Row::pasteValue()
+{
+    const QString text = QApplication::clipboard()->text().trimmed();
+    if (!field() || text.isEmpty())
+        return;
+    if (!SpxFieldEdit::setText(field(), text))
+        QToolTip::showText(
+            mapToGlobal(QPoint(0, height())),
+            tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);
+    changedHere();
+}
+
+bool Row::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn && m_inputs.contains(static_cast<QWidget*>(watched)))
+        emit chosen();
+    // Scrolling past an input edits nothing.
+    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Row::contextMenuEvent(QContextMenuEvent* event)
+{
+    showMenu(event->globalPos());
+}
+
+void Row::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Backspace)
+        reset();
+    else if (event->matches(QKeySequence::Copy))
+        copyValue();
+    else if (event->matches(QKeySequence::Paste))
+        pasteValue();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace inspector

@@ -1,0 +1,488 @@
+// SPDX-License-Identifier: MIT
+// The panel in the real host: every kind of row, driven by keys and mouse.
+#include "plugins/Inspector/InspectorSession.h"
+
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoDrawStyle.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoCone.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/transforms/SoMatrixTransform.h>
+#include <xsg/nodes/transforms/SoTransform.h>
+
+#include <QClipboard>
+#include <QColorDialog>
+#include <QComboBox>
+
+namespace
+{
+
+constexpr float Exact = 0.1F + 0.0123456F;
+
+class Panel : public testing::Test
+{
+protected:
+    Panel() { session.selectNode(session.material.get()); }
+
+    int steps() { return session.stack().count(); }
+    QString undoText() { return session.stack().undoText(); }
+
+    InspectorSession session;
+    SoMaterial& material = *session.material;
+};
+
+} // namespace
+
+TEST_F(Panel, ShowsEveryFieldInItsOwnOrderAndWritesNothing)
+{
+    QStringList names;
+    QMap<int, QString> byPlace;
+    for (auto* row : session.panel()->findChildren<QWidget*>("row"))
+        byPlace[row->y()] = row->accessibleName().section(',', 0, 0);
+    EXPECT_EQ(byPlace.values(), (QStringList{"diffuseColor", "shininess", "transparency", "specularColor",
+                                             "emissiveColor", "ambientColor"}));
+    EXPECT_EQ(session.number("shininess")->text(), "0.2");
+    EXPECT_TRUE(material.shininess.isDefault());
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, ATypedFormulaIsOneStepAndUndoBringsEveryBitBack)
+{
+    material.shininess.setValue(Exact);
+    session.enter(session.number("shininess"), "x*2 + 1/4");
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), Exact * 2 + 0.25F);
+    EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(undoText(), "Change Material.shininess");
+    session.undo();
+    EXPECT_EQ(material.shininess.getValue(), Exact);
+    EXPECT_TRUE(session.comesTrue([&] { return session.number("shininess")->text() == "0.1123456"; }));
+}
+
+TEST_F(Panel, AChangeOfThePresentValueAndACommaAreUnderstood)
+{
+    session.enter(session.number("shininess"), "+= 10 %");
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), 0.22F);
+    session.enter(session.number("shininess"), "0,5");
+    EXPECT_EQ(material.shininess.getValue(), 0.5F);
+}
+
+TEST_F(Panel, WhatIsNoNumberIsRefusedAndThenDropped)
+{
+    QLineEdit* input = session.number("shininess");
+    for (const char* text : {"1,234.5", "two", "1/0", "(1"}) {
+        session.enter(input, text);
+        EXPECT_EQ(input->text(), text);
+        EXPECT_TRUE(input->accessibleDescription().endsWith('.')) << text;
+        QTest::keyClick(input, Qt::Key_Escape);
+        EXPECT_EQ(input->text(), "0.2");
+    }
+    session.type(input, "nonsense");
+    session.click(session.number("transparency"));
+    EXPECT_EQ(input->text(), "0.2");
+    EXPECT_EQ(steps(), 0);
+    EXPECT_TRUE(material.shininess.isDefault());
+}
+
+TEST_F(Panel, TypingKeepsWithinTheHardRange)
+{
+    session.enter(session.number("shininess"), "7");
+    EXPECT_EQ(material.shininess.getValue(), 1.F);
+    EXPECT_EQ(session.number("shininess")->text(), "1");
+}
+
+TEST_F(Panel, LeavingAnInputAppliesWhatIsTyped)
+{
+    session.type(session.number("shininess"), "0.75");
+    session.click(session.number("transparency"));
+    EXPECT_EQ(material.shininess.getValue(), 0.75F);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, SelectingAnotherNodeAppliesWhatIsTypedToThisOne)
+{
+    const SoRef<SoMaterial> other(new SoMaterial);
+    session.type(session.number("shininess"), "0.75");
+    session.selectNode(other.get());
+    EXPECT_EQ(material.shininess.getValue(), 0.75F);
+    EXPECT_TRUE(other->shininess.isDefault());
+}
+
+TEST_F(Panel, ADragIsSeenAtOnceAndIsOneStep)
+{
+    QLineEdit* input = session.number("shininess");
+    session.dragOver(input, 60, {}, [&] {
+        EXPECT_NEAR(material.shininess.getValue(), 0.5F, 1e-5);
+        EXPECT_EQ(steps(), 0);
+    });
+    EXPECT_EQ(steps(), 1);
+    EXPECT_FALSE(input->hasFocus());
+    session.undo();
+    EXPECT_EQ(material.shininess.getValue(), 0.2F);
+    EXPECT_TRUE(material.shininess.isDefault());
+}
+
+TEST_F(Panel, ShiftDragsFinerAndCtrlSnaps)
+{
+    session.dragOver(session.number("shininess"), 60, Qt::ShiftModifier);
+    EXPECT_NEAR(material.shininess.getValue(), 0.23F, 1e-5);
+    session.undo();
+    session.dragOver(session.number("shininess"), 63, Qt::ControlModifier);
+    EXPECT_NEAR(material.shininess.getValue(), 0.52F, 0.011);
+    EXPECT_NEAR(material.shininess.getValue() * 100, std::round(material.shininess.getValue() * 100), 1e-4);
+}
+
+TEST_F(Panel, ADragStaysInItsRange)
+{
+    session.dragOver(session.number("shininess"), 400);
+    EXPECT_EQ(material.shininess.getValue(), 1.F);
+    session.dragOver(session.number("shininess"), -400);
+    EXPECT_EQ(material.shininess.getValue(), 0.F);
+}
+
+TEST_F(Panel, EscGivesTheDragBackWithoutAStep)
+{
+    material.shininess.setValue(Exact);
+    session.settle();
+    QLineEdit* input = session.number("shininess");
+    session.dragOver(input, 60, {}, [&] {
+        QTest::keyClick(input, Qt::Key_Escape);
+        EXPECT_EQ(material.shininess.getValue(), Exact);
+    });
+    EXPECT_EQ(material.shininess.getValue(), Exact);
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, TheCaptionDragsToo)
+{
+    auto* caption = session.row("shininess")->findChild<QWidget*>("caption");
+    ASSERT_TRUE(caption);
+    session.dragOver(caption, 20);
+    EXPECT_NEAR(material.shininess.getValue(), 0.3F, 1e-5);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, KeysChangeTheDigitAtTheCursorInOneStepARun)
+{
+    QLineEdit* input = session.number("shininess");
+    session.enter(input, "0.25");
+    session.stack().clear();
+    input->deselect();
+    input->setCursorPosition(3); // behind the 2
+    QTest::keyClick(input, Qt::Key_Up);
+    QTest::keyClick(input, Qt::Key_Up);
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), 0.45F);
+    input->deselect();
+    input->setCursorPosition(4);
+    QTest::keyClick(input, Qt::Key_Down);
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), 0.44F);
+    QTest::keyClick(input, Qt::Key_PageUp);
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), 0.54F);
+}
+
+TEST_F(Panel, TheWheelNeedsTheFocus)
+{
+    QLineEdit* input = session.number("shininess");
+    const auto turn = [&] {
+        QWheelEvent event(input->rect().center(), input->mapToGlobal(input->rect().center()), {}, {0, 120},
+                          Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(input, &event);
+        session.settle();
+    };
+    turn();
+    EXPECT_EQ(material.shininess.getValue(), 0.2F);
+    session.click(input);
+    turn();
+    EXPECT_FLOAT_EQ(material.shininess.getValue(), 0.21F);
+}
+
+TEST_F(Panel, WhatIsTypedStaysWhenTheValueChangesElsewhere)
+{
+    QLineEdit* input = session.number("shininess");
+    session.type(input, "0.7");
+    material.shininess.setValue(0.9F);
+    session.settle();
+    EXPECT_EQ(input->text(), "0.7");
+    auto* mark = session.in<QWidget>("shininess", "mark");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mark->toolTip().startsWith("Changed elsewhere"); }));
+    QTest::keyClick(input, Qt::Key_Return);
+    EXPECT_EQ(material.shininess.getValue(), 0.7F);
+    EXPECT_FALSE(mark->toolTip().startsWith("Changed elsewhere"));
+    session.undo();
+    EXPECT_EQ(material.shininess.getValue(), 0.9F);
+}
+
+TEST_F(Panel, EscTakesTheirsWhenTheValueChangedElsewhere)
+{
+    QLineEdit* input = session.number("shininess");
+    session.type(input, "0.7");
+    material.shininess.setValue(0.9F);
+    session.settle();
+    QTest::keyClick(input, Qt::Key_Escape);
+    EXPECT_EQ(input->text(), "0.9");
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, AColourIsPickedLiveAndCancelGivesEveryBitBack)
+{
+    material.specularColor.setValue(SbColor(Exact, 0.5F, 0.25F));
+    session.settle();
+    session.click(session.in<QPushButton>("specularColor", "swatch"));
+    auto* picker = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(picker);
+    picker->setCurrentColor(Qt::red);
+    EXPECT_EQ(material.specularColor.getValue()[0], 1.F);
+    picker->reject();
+    session.settle();
+    EXPECT_EQ(material.specularColor.getValue(), SbColor(Exact, 0.5F, 0.25F));
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, AColoursUntouchedChannelsKeepTheirBitsAndOkIsOneStep)
+{
+    material.specularColor.setValue(SbColor(Exact, 0.5F, 0.25F));
+    session.settle();
+    session.click(session.in<QPushButton>("specularColor", "swatch"));
+    auto* picker = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(picker);
+    QColor color = picker->currentColor();
+    EXPECT_NEAR(color.redF(), Exact, 0.5 / 255);
+    color.setBlueF(1);
+    picker->setCurrentColor(color);
+    picker->accept();
+    session.settle();
+    EXPECT_EQ(material.specularColor.getValue(), SbColor(Exact, 0.5F, 1.F));
+    EXPECT_EQ(steps(), 1);
+    session.undo();
+    EXPECT_EQ(material.specularColor.getValue(), SbColor(Exact, 0.5F, 0.25F));
+}
+
+TEST_F(Panel, AColourIsTypedAsHexToo)
+{
+    session.enter(session.number("diffuseColor", 1), "#ff8000");
+    EXPECT_EQ(material.diffuseColor[0][0], 1.F);
+    EXPECT_NEAR(material.diffuseColor[0][1], 128 / 255.0, 1e-4);
+    EXPECT_EQ(material.diffuseColor[0][2], 0.F);
+    EXPECT_EQ(material.diffuseColor.getNum(), 1);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, AListOfManyOpensInTheFieldEditor)
+{
+    const SbVec3f colors[] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 1}};
+    material.diffuseColor.setValues(0, 4, colors);
+    ASSERT_TRUE(
+        session.comesTrue([&] { return session.row("diffuseColor")->findChild<QPushButton*>("link"); }));
+    auto* link = session.row("diffuseColor")->findChild<QPushButton*>("link");
+    EXPECT_TRUE(link->toolTip().startsWith("4 values, 0 to 1: 1 0 0")) << qPrintable(link->toolTip());
+    session.click(link);
+    EXPECT_EQ(session.host.services().selectedField(), &material.diffuseColor);
+    ASSERT_TRUE(session.dock());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !session.dock()->widget()->visibleRegion().isEmpty(); }));
+}
+
+TEST_F(Panel, IgnoringAndConnectingAreSteps)
+{
+    session.chooseInMenu(session.row("shininess"), "Ignore");
+    EXPECT_TRUE(material.shininess.isIgnored());
+    material.shininess.connectFrom(&material.transparency);
+    material.transparency.setValue(0.7F);
+    EXPECT_TRUE(session.comesTrue([&] { return session.number("shininess")->text() == "0.7"; }));
+    session.chooseInMenu(session.row("shininess"), "Disconnect");
+    EXPECT_FALSE(material.shininess.isConnected());
+    EXPECT_EQ(steps(), 2);
+    session.undo();
+    EXPECT_EQ(material.shininess.getConnectedField(), &material.transparency);
+    session.undo();
+    EXPECT_FALSE(material.shininess.isIgnored());
+}
+
+TEST_F(Panel, AValueIsCopiedAndPasted)
+{
+    material.shininess.setValue(Exact);
+    session.chooseInMenu(session.row("shininess"), "Copy Value");
+    session.chooseInMenu(session.row("transparency"), "Paste");
+    EXPECT_EQ(material.transparency.getValue(), Exact);
+    EXPECT_EQ(steps(), 1);
+    session.chooseInMenu(session.row("shininess"), "Copy as C++");
+    EXPECT_EQ(QApplication::clipboard()->text(), "node->shininess.set(SbString(\"0.1123456\"));");
+    session.chooseInMenu(session.row("shininess"), "Copy as Scene");
+    EXPECT_EQ(QApplication::clipboard()->text(), "shininess: 0.1123456");
+    session.chooseInMenu(session.row("shininess"), "Copy Path");
+    EXPECT_EQ(QApplication::clipboard()->text(), "Material.shininess");
+    QApplication::clipboard()->setText("no number");
+    session.chooseInMenu(session.row("transparency"), "Paste");
+    EXPECT_EQ(material.transparency.getValue(), Exact);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, AResetIsAStep)
+{
+    session.enter(session.number("shininess"), "0.5");
+    session.chooseInMenu(session.row("shininess"), "Reset");
+    EXPECT_TRUE(material.shininess.isDefault());
+    EXPECT_EQ(material.shininess.getValue(), 0.2F);
+    EXPECT_EQ(steps(), 2);
+}
+
+TEST_F(Panel, TheFilterAndOnlyChangedHideRows)
+{
+    auto* filter = session.panel()->findChild<QLineEdit*>("fieldFilter");
+    auto* only = session.panel()->findChild<QCheckBox*>("onlyChanged");
+    QTest::keyClick(&session.host.window(), Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(filter->hasFocus());
+    QTest::keyClicks(filter, "sharp"); // in the meaning of shininess
+    session.settle();
+    EXPECT_TRUE(session.row("shininess"));
+    EXPECT_FALSE(session.row("transparency"));
+    QTest::keyClick(filter, Qt::Key_Escape);
+    session.settle();
+    EXPECT_TRUE(session.row("transparency"));
+    material.transparency.setValue(0.5F);
+    QTest::mouseClick(only, Qt::LeftButton, {}, {8, only->height() / 2});
+    session.settle();
+    EXPECT_TRUE(only->isChecked());
+    EXPECT_TRUE(session.row("transparency"));
+    EXPECT_FALSE(session.row("shininess"));
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, AnEnumerationIsChosenByTheKeyboard)
+{
+    const SoRef<SoDrawStyle> style(new SoDrawStyle);
+    session.selectNode(style.get());
+    auto* box = session.row("style")->findChild<QComboBox*>();
+    EXPECT_EQ(box->currentText(), "FILLED");
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Down);
+    session.settle();
+    EXPECT_NE(box->currentText(), "FILLED");
+    EXPECT_EQ(steps(), 1);
+    style->style.setValue(77);
+    session.settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box->currentText() == "77 (no name)"; }));
+    session.undo();
+    EXPECT_TRUE(session.comesTrue([&] { return box->currentText() == "FILLED"; }));
+}
+
+TEST_F(Panel, AMasksBitsAreCheckedAndOtherBitsStay)
+{
+    const SoRef<SoCone> cone(new SoCone);
+    cone->parts.setValue(cone->parts.getValue() | 0x40);
+    session.selectNode(cone.get());
+    const auto boxes = session.row("parts")->findChildren<QCheckBox*>();
+    ASSERT_GE(boxes.size(), 2);
+    const int before = cone->parts.getValue();
+    session.click(boxes[0]);
+    EXPECT_NE(cone->parts.getValue(), before);
+    EXPECT_TRUE(cone->parts.getValue() & 0x40);
+    EXPECT_EQ(steps(), 1);
+    session.undo();
+    EXPECT_EQ(cone->parts.getValue(), before);
+}
+
+TEST_F(Panel, ABoolIsAClick)
+{
+    const SoRef<SoDirectionalLight> light(new SoDirectionalLight);
+    session.selectNode(light.get());
+    auto* box = session.row("on")->findChild<QCheckBox*>();
+    session.click(box);
+    EXPECT_FALSE(light->on.getValue());
+    session.undo();
+    EXPECT_TRUE(light->on.getValue());
+}
+
+TEST_F(Panel, AnglesAreShownInDegreesAndTypedInAnyUnit)
+{
+    const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
+    session.selectNode(camera.get());
+    QLineEdit* input = session.number("heightAngle");
+    EXPECT_EQ(input->text(), QString::fromUtf8("45°"));
+    session.enter(input, "60");
+    EXPECT_NEAR(camera->heightAngle.getValue(), M_PI / 3, 1e-6);
+    session.enter(input, "0.5rad");
+    EXPECT_EQ(camera->heightAngle.getValue(), 0.5F);
+    session.enter(session.number("position", 1), "30cm");
+    EXPECT_EQ(camera->position.getValue()[1], 0.3F);
+}
+
+TEST_F(Panel, ARotationKeepsTheTypedAxisWhileTheAngleIsZero)
+{
+    const SoRef<SoTransform> transform(new SoTransform);
+    session.selectNode(transform.get());
+    session.enter(session.number("rotation", 0), "1");
+    session.enter(session.number("rotation", 2), "0");
+    EXPECT_EQ(session.number("rotation", 0)->text(), "1");
+    EXPECT_EQ(transform->rotation.getValue(), SbRotation());
+    session.enter(session.number("rotation", 3), "90");
+    EXPECT_EQ(transform->rotation.getValue(), SbRotation(SbVec3f(1, 0, 0), float(M_PI / 2)));
+    EXPECT_EQ(session.number("rotation", 3)->text(), QString::fromUtf8("90°"));
+}
+
+TEST_F(Panel, AMatrixIsAGrid)
+{
+    const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
+    session.selectNode(transform.get());
+    session.enter(session.number("matrix", 12), "2.5");
+    EXPECT_EQ(transform->matrix.getValue()[3][0], 2.5F);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, AFileIsTypedOrDropped)
+{
+    const SoRef<SoTexture2> texture(new SoTexture2);
+    session.selectNode(texture.get());
+    QWidget* row = session.row("fileName");
+    session.enter(row->findChild<QLineEdit*>(), "tiles.png");
+    EXPECT_EQ(texture->fileName.getValue(), SbString("tiles.png"));
+    session.click(session.panel()->findChild<QLineEdit*>("fieldFilter"));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/pictures/sea.png")});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(row, &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(row, &drop);
+    EXPECT_EQ(texture->fileName.getValue(), SbString("/pictures/sea.png"));
+    EXPECT_EQ(steps(), 2);
+}
+
+TEST_F(Panel, AnEndingNodeTakesItsRowsAlong)
+{
+    SoRef<SoCube> cube(new SoCube);
+    session.selectNode(cube.get());
+    session.type(session.number("width"), "7");
+    cube = nullptr;
+    session.settle();
+    EXPECT_FALSE(session.panel());
+    session.selectNode(&material);
+    EXPECT_TRUE(session.row("shininess"));
+}
+
+TEST_F(Panel, EveryInputHasANameAndIsReachedInReadingOrder)
+{
+    const SoRef<SoTransform> transform(new SoTransform);
+    for (SoNode* node : {static_cast<SoNode*>(&material), static_cast<SoNode*>(transform.get())}) {
+        session.selectNode(node);
+        session.number(node == &material ? "diffuseColor" : "translation")->setFocus(Qt::TabFocusReason);
+        QStringList names;
+        for (QWidget* at = QApplication::focusWidget(); at && session.panel()->isAncestorOf(at);
+             at = QApplication::focusWidget()) {
+            const QString name = at->accessibleName();
+            EXPECT_FALSE(name.isEmpty()) << at->metaObject()->className();
+            if (names.contains(name))
+                break;
+            names += name;
+            QTest::keyClick(at, Qt::Key_Tab);
+        }
+        const QStringList expected = node == &material
+                                         ? QStringList{"diffuseColor red", "diffuseColor green",
+                                                       "diffuseColor blue", "shininess", "transparency"}
+                                         : QStringList{"translation x", "translation y", "translation z",
+                                                       "rotation form", "rotation angle"};
+        EXPECT_EQ(names.mid(0, 3), expected.mid(0, 3)) << qPrintable(names.join('|'));
+        for (const QString& name : expected)
+            EXPECT_TRUE(names.contains(name)) << qPrintable(name);
+    }
+}
