@@ -138,6 +138,7 @@ void ListTable::buildActions()
     m_menu->addSeparator();
     add(tr("Edit Cell"), QKeySequence(Qt::Key_F2), [this] { m_view.openCell(); });
     add(tr("C&hoose…"), QKeySequence(Qt::ALT + Qt::Key_Down), [this] { m_edits.choose(); });
+    add(tr("Go to the Node"), QKeySequence(Qt::CTRL + Qt::Key_Return), [this] { m_edits.followLink(); });
     add(tr("Calc&ulate…"), QKeySequence(Qt::CTRL + Qt::Key_E), [this] { askFor(Line::Calculate); });
     add(tr("Fill &Down"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_D), [this] { m_edits.fillDown(); });
     add(tr("Fill &Series"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S), [this] { m_edits.fillSeries(); });

@@ -3,6 +3,9 @@
 
 #include "table/CellFormula.h"
 
+#include <scopix/SpxSceneServices.h>
+#include <xsg/nodes/base/SoMFNode.h>
+
 #include <QAction>
 #include <QColorDialog>
 #include <QMenu>
@@ -258,6 +261,17 @@ void TableEdits::chooseColor()
         return before[column] == after[column] ||
                m_session.access().setNumber(values, at, column, after[column] / 255.0);
     });
+}
+
+void TableEdits::followLink()
+{
+    const auto* links = dynamic_cast<const SoMFNode*>(m_session.list());
+    const int row = m_session.view.selection().current().row;
+    SpxSceneServices* services = SpxSceneServices::getInstance();
+    if (!links || !m_session.rows().isThere(row) || !services)
+        return;
+    if (SoNode* node = (*links)[m_session.rows().elementOf(row)].get())
+        services->selectNode(node); // which shows another editor
 }
 
 // --- Rows

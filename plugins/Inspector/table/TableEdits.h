@@ -26,6 +26,8 @@ public:
     void toggle();
     /// One of the names, the bits or a colour, for the selected rows.
     void choose();
+    /// Selects the node that the current cell refers to, where the host offers that.
+    void followLink();
 
     void insertRow();
     void appendRow();
