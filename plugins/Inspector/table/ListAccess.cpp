@@ -43,6 +43,8 @@ namespace inspector
 namespace
 {
 
+constexpr int LongestBrief = 2000; // bytes
+
 bool isLessNumber(double a, double b)
 {
     return a < b || (std::isnan(b) && !std::isnan(a));
@@ -98,11 +100,11 @@ public:
         Traits::set(Base::ref(list, row), column, converted);
         return true;
     }
-    QString shortText(const SoMField& list, int row, int column) const override
+    QString shortText(const SoMField& list, int row, int column, int digits) const override
     {
         if (std::is_integral_v<Number>)
             return text(list, row, column);
-        return QString::number(double(Traits::get(Base::at(list, row), column)), 'g', 4);
+        return QString::number(double(Traits::get(Base::at(list, row), column)), 'g', digits);
     }
     bool isLess(const SoMField& list, int row, int other, int column) const override
     {
@@ -168,7 +170,7 @@ public:
         ref(list, row) = number != 0;
         return true;
     }
-    QString shortText(const SoMField& list, int row, int column) const override
+    QString shortText(const SoMField& list, int row, int column, int /*digits*/) const override
     {
         return text(list, row, column);
     }
@@ -183,6 +185,11 @@ template <>
 struct Words<SbString> {
     static constexpr ListAccess::Kind Kind = ListAccess::Kind::Text;
     static QString get(const SbString& value) { return SpxText::toQString(value); }
+    // Megabytes of text are not converted for what fits into a cell.
+    static QString brief(const SbString& value)
+    {
+        return value.getLength() <= LongestBrief ? get(value) : get(value.str().substr(0, LongestBrief));
+    }
     static bool set(SbString& value, const QString& text)
     {
         value = SpxText::toSbString(text);
@@ -194,6 +201,7 @@ template <>
 struct Words<SbName> {
     static constexpr ListAccess::Kind Kind = ListAccess::Kind::Text;
     static QString get(SbName value) { return SpxText::toQString(value); }
+    static QString brief(SbName value) { return get(value); }
     // Names are Latin-1.
     static bool set(SbName& value, const QString& text)
     {
@@ -216,6 +224,7 @@ struct Words<SoRef<SoNode>> {
         std::string bare;
         return SpxText::toQString(SbString(in.peek() == '"' && in.readQuoted(bare) ? bare : text));
     }
+    static QString brief(const SoRef<SoNode>& value) { return get(value); }
     // As get() gives it, without quotes, or as files have it.
     static bool set(SoRef<SoNode>& value, const QString& text)
     {
@@ -247,6 +256,10 @@ public:
     QString text(const SoMField& list, int row, int /*column*/) const override
     {
         return Word::get(Base::at(list, row));
+    }
+    QString shortText(const SoMField& list, int row, int /*column*/, int /*digits*/) const override
+    {
+        return Word::brief(Base::at(list, row));
     }
     bool setText(SoMField& list, int row, int /*column*/, const QString& text) const override
     {
@@ -429,7 +442,7 @@ bool ListAccess::setNumber(SoMField& /*list*/, int /*row*/, int /*column*/, doub
     return false;
 }
 
-QString ListAccess::shortText(const SoMField& list, int row, int column) const
+QString ListAccess::shortText(const SoMField& list, int row, int column, int /*digits*/) const
 {
     return text(list, row, column);
 }

@@ -50,8 +50,8 @@ public:
     /// False where the cell cannot hold the number; an integer cell rounds. Otherwise as setText().
     virtual bool setNumber(SoMField& list, int row, int column, double number) const;
 
-    /// A shorter text where the width does not suffice; by default the whole text.
-    virtual QString shortText(const SoMField& list, int row, int column) const;
+    /// A text to look at: of a number at most so many digits, of a text the beginning.
+    virtual QString shortText(const SoMField& list, int row, int column, int digits) const;
     /// The colour to show beside a row; invalid where the values are no colours.
     virtual QColor swatch(const SoMField& list, int row) const;
     /// What can be chosen for a cell; empty where there is no such set.

@@ -173,6 +173,11 @@ void ListTable::buildActions()
     m_menu->addSeparator();
     add(tr("Read CSV…"), QKeySequence(), [this] { m_file.read(); });
     add(tr("Write CSV…"), QKeySequence(), [this] { m_file.write(); });
+    m_menu->addSeparator();
+    add(tr("Reset to De&fault"), QKeySequence(), [this] { m_edits.resetToDefault(); });
+    m_ignore = add(tr("I&gnore This List"), QKeySequence(), [this] { m_edits.toggleIgnored(); });
+    m_ignore->setCheckable(true);
+    connect(m_menu, &QMenu::aboutToShow, this, [this] { m_ignore->setChecked(list() && list()->isIgnored()); });
     add(tr("Fit Column Widths"), QKeySequence(), [this] {
         for (int column = 0; column < m_view.rows().columnCount(); ++column)
             m_view.fitColumn(column);
@@ -221,6 +226,10 @@ void ListTable::showCaption()
     QString text = tr("%1 · %2 · %3")
                        .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()),
                             count == 1 ? tr("1 value") : tr("%1 values").arg(count));
+    if (shown->isIgnored())
+        text += tr(" · ignored");
+    if (shown->isConnected())
+        text += tr(" · connected");
     if (!m_view.rows().order().isNatural())
         text += tr(" · %1 shown").arg(m_view.rows().count());
     m_caption->setText(text);

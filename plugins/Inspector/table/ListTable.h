@@ -80,6 +80,7 @@ private:
     QAction* m_delete = nullptr;
     QAction* m_up = nullptr;
     QAction* m_down = nullptr;
+    QAction* m_ignore = nullptr;
     int m_orderedCount = 0; // of values, when the rows were sorted or filtered
 };
 

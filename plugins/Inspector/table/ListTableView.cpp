@@ -126,7 +126,7 @@ int ListTableView::leastWidth(int column) const
 {
     const QFontMetrics metrics = fontMetrics();
     const bool isNumber = m_rows.list() && m_rows.access().kind() == ListAccess::Kind::Number;
-    const int content = metrics.horizontalAdvance(isNumber ? QStringLiteral("-0.0000") : QStringLiteral("FALSE"));
+    const int content = metrics.horizontalAdvance(isNumber ? QStringLiteral("-0.00") : QStringLiteral("FALSE"));
     const int heading = metrics.horizontalAdvance(m_rows.heading(column));
     return std::max(content, heading) + 2 * TablePainter::margin(*viewport()) + 1;
 }

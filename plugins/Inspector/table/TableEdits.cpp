@@ -4,6 +4,7 @@
 #include "table/CellFormula.h"
 
 #include <scopix/SpxSceneServices.h>
+#include <scopix/editing/SpxFieldEdit.h>
 #include <xsg/nodes/base/SoMFNode.h>
 
 #include <QAction>
@@ -272,6 +273,18 @@ void TableEdits::followLink()
         return;
     if (SoNode* node = (*links)[m_session.rows().elementOf(row)].get())
         services->selectNode(node); // which shows another editor
+}
+
+void TableEdits::resetToDefault()
+{
+    if (m_session.list() && !SpxFieldEdit::setToDefault(m_session.list()))
+        emit m_session.said(tr("This list has no default value, since it belongs to no node that can be made anew."));
+}
+
+void TableEdits::toggleIgnored()
+{
+    if (SoMField* list = m_session.list())
+        SpxFieldEdit::setIgnored(list, !list->isIgnored());
 }
 
 // --- Rows

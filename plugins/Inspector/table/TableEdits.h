@@ -29,6 +29,10 @@ public:
     /// Selects the node that the current cell refers to, where the host offers that.
     void followLink();
 
+    /// The whole list, as in a new node.
+    void resetToDefault();
+    void toggleIgnored();
+
     void insertRow();
     void appendRow();
     void duplicateRows();

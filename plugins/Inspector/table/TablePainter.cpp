@@ -118,15 +118,18 @@ void TablePainter::paintText(const QRect& rect, TableCell cell)
     m_painter.drawText(rect, int(Qt::AlignVCenter | side | Qt::TextSingleLine), fitting(cell, rect.width()));
 }
 
-// Numbers lose digits rather than an end that is cut off.
+// Numbers lose digits, or are crossed out: one with its end cut off would be another number.
 QString TablePainter::fitting(TableCell cell, int width) const
 {
     const QFontMetrics metrics = m_widget.fontMetrics();
-    const QString whole = oneLine(m_state.rows.text(cell.row, cell.column));
-    if (metrics.horizontalAdvance(whole) <= width)
-        return whole;
-    const QString brief = oneLine(m_state.rows.shortText(cell.row, cell.column));
-    return metrics.elidedText(brief, Qt::ElideRight, width);
+    if (m_state.rows.access().kind() != ListAccess::Kind::Number)
+        return metrics.elidedText(oneLine(m_state.rows.shortText(cell.row, cell.column, 0)), Qt::ElideRight, width);
+    QString text = m_state.rows.text(cell.row, cell.column);
+    for (int digits = 6; digits > 0 && metrics.horizontalAdvance(text) > width; --digits)
+        text = m_state.rows.shortText(cell.row, cell.column, digits);
+    if (metrics.horizontalAdvance(text) <= width)
+        return text;
+    return QString(std::max(width / metrics.horizontalAdvance('#'), 1), '#');
 }
 
 void TablePainter::paintHeadings()

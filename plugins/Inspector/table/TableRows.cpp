@@ -33,9 +33,9 @@ QString TableRows::text(int row, int column) const
     return m_access->text(*list(), elementOf(row), column);
 }
 
-QString TableRows::shortText(int row, int column) const
+QString TableRows::shortText(int row, int column, int digits) const
 {
-    return m_access->shortText(*list(), elementOf(row), column);
+    return m_access->shortText(*list(), elementOf(row), column, digits);
 }
 
 QColor TableRows::swatch(int row) const

@@ -34,7 +34,7 @@ public:
     int rowOf(int element) const { return m_order.rowOf(element); }
 
     QString text(int row, int column) const;
-    QString shortText(int row, int column) const;
+    QString shortText(int row, int column, int digits) const;
     QColor swatch(int row) const;
 
     /// Bands of rows as bands of the list's elements, in ascending order.

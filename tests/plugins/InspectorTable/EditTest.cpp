@@ -117,6 +117,40 @@ TEST_F(IntTable, RowsThatAreApartMoveTogether)
     expectStep({0, 1, 2, 3, 4, 5}, {1, 2, 0, 4, 5, 3});
 }
 
+TEST_F(IntTable, RowsDroppedAmongThemselvesStay)
+{
+    open({0, 1, 2, 3, 4, 5, 6});
+    select(1, 0, 3, 0);
+    for (const int gap : {1, 2, 3, 4})
+        emit view().rowsDropped(gap);
+    EXPECT_EQ(values(), (Ints{0, 1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(host.undoCount(), 0);
+    TableSelection selection;
+    selection.selectRows(0, 0, 1);
+    selection.addRows(3, 5, 1);
+    view().setSelection(selection);
+    emit view().rowsDropped(4);
+    expectStep({0, 1, 2, 3, 4, 5, 6}, {1, 2, 0, 3, 4, 5, 6});
+}
+
+TEST_F(IntTable, TheWholeListIsResetAndIgnored)
+{
+    const SoRef<SoFieldGallery> gallery(new SoFieldGallery);
+    host.edit(editor, &gallery->mfInt32);
+    TestHost::pump();
+    gallery->mfInt32.setNum(7);
+    trigger("Reset to Default");
+    EXPECT_EQ(gallery->mfInt32.getNum(), 3);
+    EXPECT_TRUE(gallery->mfInt32.isDefault());
+    trigger("Ignore This List");
+    EXPECT_TRUE(gallery->mfInt32.isIgnored());
+    EXPECT_EQ(host.undoCount(), 2);
+    host.undo();
+    EXPECT_FALSE(gallery->mfInt32.isIgnored());
+    host.undo();
+    EXPECT_EQ(gallery->mfInt32.getNum(), 7);
+}
+
 TEST_F(IntTable, AFormulaChangesEverySelectedCell)
 {
     open({1, 2, 3, 4});

@@ -78,6 +78,19 @@ TEST_F(FloatOrder, SortingTheValuesIsAStep)
     EXPECT_TRUE(std::isnan(field[1]));
 }
 
+TEST_F(FloatOrder, NaNComesLastUpwardsAndDownwards)
+{
+    open({NaN, 3, NaN, 1, NaN, 2, 0, NaN});
+    trigger("Sort Rows Upwards");
+    std::vector<float> rows = shown();
+    rows.resize(4);
+    EXPECT_EQ(rows, (std::vector<float>{0, 1, 2, 3}));
+    trigger("Sort Rows Downwards");
+    rows = shown();
+    rows.resize(4);
+    EXPECT_EQ(rows, (std::vector<float>{3, 2, 1, 0}));
+}
+
 TEST_F(FloatOrder, SelectedValuesAreSortedAmongThemselves)
 {
     open({9, 3, 2, 1, 0});

@@ -38,15 +38,22 @@ protected:
                 lists.push_back(list);
         }
     }
-    void save(QWidget& widget, const QString& name)
+    static QString pictureFolder()
     {
         const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
-        if (folder.isEmpty())
+        if (!folder.isEmpty())
+            QDir().mkpath(folder);
+        return folder;
+    }
+    static void drawInto(QImage& sheet, QPoint at, QWidget& widget)
+    {
+        if (pictureFolder().isEmpty())
             return;
         EXPECT_TRUE(TestHost::waitFor([&] { return !widget.findChild<FiguresLine*>()->isBusy(); }));
         TestHost::pump();
-        QDir().mkpath(folder);
-        EXPECT_TRUE(widget.grab().save(QDir(folder).filePath(name + ".png")));
+        widget.layout()->activate();
+        QPainter painter(&sheet);
+        painter.drawPixmap(at, widget.grab());
     }
 
     TestHost host;
@@ -59,20 +66,30 @@ protected:
 TEST_F(EveryList, IsShownByAnEditorOfItsOwn)
 {
     ASSERT_EQ(lists.size(), ListAccess::types().size());
-    for (SoMField* list : lists) {
-        TableFieldEditor editor(list->getTypeId());
-        for (const bool isDark : {false, true}) {
+    const QSize size(300, 270);
+    constexpr int Across = 5;
+    for (const bool isDark : {false, true}) {
+        QImage sheet(Across * size.width(), (int(lists.size()) + Across - 1) / Across * size.height(),
+                     QImage::Format_RGB32);
+        sheet.fill((isDark ? darkPalette() : QPalette()).color(QPalette::Window));
+        int place = 0;
+        for (SoMField* list : lists) {
+            TableFieldEditor editor(list->getTypeId());
             host.edit(editor, list);
             QWidget& widget = *editor.getWidget();
             widget.setPalette(isDark ? darkPalette() : QPalette());
-            widget.resize(420, 320);
+            widget.resize(size);
             TestHost::pump();
             EXPECT_EQ(editor.table()->view().rows().count(), list->getNum());
-            const QString name = QString::fromLatin1(list->getTypeId().getName().getString());
-            save(widget, name + (isDark ? "-dark" : "-light"));
+            EXPECT_TRUE(list->isDefault()) << "showing writes nothing";
+            drawInto(sheet, QPoint(place % Across * size.width(), place / Across * size.height()), widget);
+            host.release(editor);
+            ++place;
         }
-        EXPECT_TRUE(list->isDefault()) << "showing writes nothing";
-        host.release(editor);
+        const QString folder = pictureFolder();
+        if (!folder.isEmpty()) {
+            EXPECT_TRUE(sheet.save(folder + (isDark ? "/all-dark.png" : "/all-light.png")));
+        }
     }
     EXPECT_EQ(host.undoCount(), 0);
 }
@@ -96,7 +113,6 @@ TEST_F(EveryList, FitsIntoANarrowDockAtAnySize)
         EXPECT_GE(view.geometry().rowHeight, QFontMetrics(font).height());
         EXPECT_GE(view.geometry().cell({0, 0}).width(), QFontMetrics(font).horizontalAdvance("0.125"));
         EXPECT_TRUE(view.geometry().cellsArea().contains(view.geometry().cell({0, 0})));
-        save(widget, "narrow-" + QString::number(scale));
         host.release(editor);
     }
 }

@@ -131,6 +131,17 @@ TEST_F(FloatTable, AChangeFromElsewhereDoesNotDisturbTyping)
     EXPECT_EQ(values(), (std::vector<float>{8, 7, 3})) << "the user's value wins";
 }
 
+TEST_F(FloatTable, ACellThatWasOnlyLookedAtKeepsTheChangeFromElsewhere)
+{
+    open({1, 2});
+    key(Qt::Key_F2);
+    field.set1Value(0, 5);
+    TestHost::pump();
+    key(Qt::Key_Return);
+    EXPECT_EQ(values(), (std::vector<float>{5, 2}));
+    EXPECT_EQ(host.undoCount(), 0);
+}
+
 TEST_F(FloatTable, TypingInARowThatIsRemovedEndsWithASentence)
 {
     open({1, 2, 3});
@@ -180,6 +191,16 @@ TEST_F(TextTable, TextsAreTypedAsTheyAre)
     type("say \"hi\", x*2");
     key(Qt::Key_Return);
     EXPECT_EQ(field[0], SbString("say \"hi\", x*2"));
+}
+
+TEST_F(TextTable, ALongTextIsPaintedByItsBeginningAndTypedWhole)
+{
+    const std::string text(3'000'000, 'x');
+    open({SbString(text)});
+    EXPECT_LT(view().rows().shortText(0, 0, 0).size(), 3000);
+    key(Qt::Key_F2);
+    EXPECT_EQ(view().cellEditor()->text().size(), 3'000'000);
+    key(Qt::Key_Escape);
 }
 
 TEST_F(BoolTable, ADoubleClickOrSpaceTurnsTheTruth)
