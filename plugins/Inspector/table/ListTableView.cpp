@@ -285,6 +285,8 @@ bool ListTableView::isTyping(const QKeyEvent& event) const
 
 void ListTableView::keyPressEvent(QKeyEvent* event)
 {
+    if (m_drag != Drag::None && event->key() == Qt::Key_Escape)
+        return endDrag();
     if (QAction* action = actionFor(*event)) {
         action->trigger();
         return;

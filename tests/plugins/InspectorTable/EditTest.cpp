@@ -105,6 +105,19 @@ TEST_F(IntTable, RowsAreDraggedToAnotherPlace)
     expectStep({0, 1, 2, 3, 4}, {0, 3, 1, 2, 4});
 }
 
+TEST_F(IntTable, EscapeGivesUpADrag)
+{
+    open({0, 1, 2, 3, 4});
+    QWidget* area = view().viewport();
+    QTest::mouseClick(area, Qt::LeftButton, Qt::NoModifier, numberAt(3));
+    QTest::mousePress(area, Qt::LeftButton, Qt::NoModifier, numberAt(3));
+    move(numberAt(0));
+    key(Qt::Key_Escape);
+    QTest::mouseRelease(area, Qt::LeftButton, Qt::NoModifier, numberAt(0));
+    EXPECT_EQ(values(), (Ints{0, 1, 2, 3, 4}));
+    EXPECT_EQ(host.undoCount(), 0);
+}
+
 TEST_F(IntTable, RowsThatAreApartMoveTogether)
 {
     open({0, 1, 2, 3, 4, 5});

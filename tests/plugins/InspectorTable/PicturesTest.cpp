@@ -66,7 +66,7 @@ protected:
 TEST_F(EveryList, IsShownByAnEditorOfItsOwn)
 {
     ASSERT_EQ(lists.size(), ListAccess::types().size());
-    const QSize size(300, 270);
+    const QSize size(300, 320);
     constexpr int Across = 5;
     for (const bool isDark : {false, true}) {
         QImage sheet(Across * size.width(), (int(lists.size()) + Across - 1) / Across * size.height(),
