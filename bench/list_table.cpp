@@ -143,8 +143,10 @@ void twoMoves(benchmark::State& state)
     std::vector<float> values(std::size_t(state.range(0)) + 1);
     const std::size_t half = values.size() / 2;
     for (auto _ : state) {
-        std::memmove(values.data() + half + 1, values.data() + half, (values.size() - half - 1) * sizeof(float));
-        std::memmove(values.data() + half, values.data() + half + 1, (values.size() - half - 1) * sizeof(float));
+        std::memmove(values.data() + half + 1, values.data() + half,
+                     (values.size() - half - 1) * sizeof(float));
+        std::memmove(values.data() + half, values.data() + half + 1,
+                     (values.size() - half - 1) * sizeof(float));
         benchmark::DoNotOptimize(values.data());
     }
 }
@@ -175,7 +177,10 @@ std::vector<bench::Ratio> ratios()
 
 void add(const char* name, void (*measure)(benchmark::State&))
 {
-    benchmark::RegisterBenchmark(name, measure)->RangeMultiplier(100)->Range(Smallest, Largest)->MinTime(0.05);
+    benchmark::RegisterBenchmark(name, measure)
+        ->RangeMultiplier(100)
+        ->Range(Smallest, Largest)
+        ->MinTime(0.05);
 }
 
 } // namespace

@@ -8,8 +8,8 @@ namespace inspector
 
 void BlockText::appendCell(QString& out, const QString& cell, QChar separator)
 {
-    const bool isPlain = !cell.contains(separator) && !cell.contains('"') && !cell.contains('\n') &&
-                         !cell.contains('\r');
+    const bool isPlain =
+        !cell.contains(separator) && !cell.contains('"') && !cell.contains('\n') && !cell.contains('\r');
     if (isPlain)
         out += cell;
     else

@@ -79,7 +79,8 @@ bool convert(double from, Number& number)
             number = Number(rounded);
         return fits;
     } else {
-        const bool fits = !std::isfinite(from) || std::abs(from) <= double(std::numeric_limits<Number>::max());
+        const bool fits =
+            !std::isfinite(from) || std::abs(from) <= double(std::numeric_limits<Number>::max());
         if (fits)
             number = Number(from);
         return fits;

@@ -35,8 +35,8 @@ void FiguresLine::restart()
         m_delay.start();
 }
 
-// Of a single cell there is nothing to say; then the figures are those of the whole list, unless it is so long
-// that each change of it would keep the machine busy.
+// Of a single cell there is nothing to say; then the figures are those of the whole list, unless it is so
+// long that each change of it would keep the machine busy.
 void FiguresLine::begin()
 {
     m_timer.stop();

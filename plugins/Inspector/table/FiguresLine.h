@@ -13,8 +13,8 @@ namespace inspector
 
 class TableSession;
 
-/// Says what is selected: how many cells, and of numbers the least, the greatest, the mean and how many are no
-/// numbers, for each column. Calculated in pieces while nothing else is to be done.
+/// Says what is selected: how many cells, and of numbers the least, the greatest, the mean and how many are
+/// no numbers, for each column. Calculated in pieces while nothing else is to be done.
 class FiguresLine : public QLabel
 {
     Q_OBJECT

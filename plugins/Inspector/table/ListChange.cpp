@@ -42,8 +42,7 @@ bool ListChange::add(const SoMField& list, const RowRun& run, const SoMField& fr
     if (!m_before || !m_after)
         return false;
     m_runs.push_back(run);
-    return append(*m_before, list, run.start, run.removed) &&
-           append(*m_after, from, fromStart, run.inserted);
+    return append(*m_before, list, run.start, run.removed) && append(*m_after, from, fromStart, run.inserted);
 }
 
 bool ListChange::apply(SoMField& list) const

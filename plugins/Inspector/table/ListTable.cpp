@@ -107,7 +107,8 @@ QToolButton* ListTable::newButton(const QString& text, QAction* action)
     QString name = action->text();
     name.remove('&');
     button->setAccessibleName(name);
-    button->setToolTip(name + QLatin1String(" (") + action->shortcut().toString(QKeySequence::NativeText) + ')');
+    button->setToolTip(name + QLatin1String(" (") + action->shortcut().toString(QKeySequence::NativeText) +
+                       ')');
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
     return button;
@@ -132,7 +133,8 @@ void ListTable::buildActions()
     });
     add(tr("&Copy"), QKeySequence(Qt::CTRL + Qt::Key_C), [this] { m_clipboard.copy(); });
     add(tr("&Paste"), QKeySequence(Qt::CTRL + Qt::Key_V), [this] { m_clipboard.paste(); });
-    add(tr("Paste as New &Rows"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V), [this] { m_clipboard.pasteRows(); });
+    add(tr("Paste as New &Rows"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_V),
+        [this] { m_clipboard.pasteRows(); });
     add(tr("Clear Cells or Delete Rows"), QKeySequence(Qt::Key_Delete), [this] { deleteOrClear(); });
     add(tr("C&lear Cells"), QKeySequence(Qt::Key_Backspace), [this] { m_edits.clearCells(); });
     m_menu->addSeparator();
@@ -144,11 +146,15 @@ void ListTable::buildActions()
     add(tr("Fill &Series"), QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S), [this] { m_edits.fillSeries(); });
     m_menu->addSeparator();
     add(tr("&Insert Row Before"), QKeySequence(Qt::Key_Insert), [this] { m_edits.insertRow(); });
-    m_add = add(tr("&Add Row Behind"), QKeySequence(Qt::CTRL + Qt::Key_Insert), [this] { m_edits.appendRow(); });
+    m_add =
+        add(tr("&Add Row Behind"), QKeySequence(Qt::CTRL + Qt::Key_Insert), [this] { m_edits.appendRow(); });
     add(tr("Du&plicate Rows"), QKeySequence(Qt::CTRL + Qt::Key_D), [this] { m_edits.duplicateRows(); });
-    m_delete = add(tr("Delet&e Rows"), QKeySequence(Qt::CTRL + Qt::Key_Minus), [this] { m_edits.deleteRows(); });
-    m_up = add(tr("Move Rows &Up"), QKeySequence(Qt::ALT + Qt::SHIFT + Qt::Key_Up), [this] { m_edits.moveUp(); });
-    m_down = add(tr("Move Rows Do&wn"), QKeySequence(Qt::ALT + Qt::SHIFT + Qt::Key_Down), [this] { m_edits.moveDown(); });
+    m_delete =
+        add(tr("Delet&e Rows"), QKeySequence(Qt::CTRL + Qt::Key_Minus), [this] { m_edits.deleteRows(); });
+    m_up = add(tr("Move Rows &Up"), QKeySequence(Qt::ALT + Qt::SHIFT + Qt::Key_Up),
+               [this] { m_edits.moveUp(); });
+    m_down = add(tr("Move Rows Do&wn"), QKeySequence(Qt::ALT + Qt::SHIFT + Qt::Key_Down),
+                 [this] { m_edits.moveDown(); });
     m_menu->addSeparator();
     add(tr("Select &All"), QKeySequence(Qt::CTRL + Qt::Key_A), [this] {
         TableSelection all;
@@ -166,7 +172,8 @@ void ListTable::buildActions()
     add(tr("Show Duplicates"), QKeySequence(), [this] { m_order.showDuplicates(); });
     add(tr("Sort Rows Upwards"), QKeySequence(), [this] { m_order.sort(false); });
     add(tr("Sort Rows Downwards"), QKeySequence(), [this] { m_order.sort(true); });
-    add(tr("Show All in the List’s Order"), QKeySequence(Qt::CTRL + Qt::Key_0), [this] { m_order.showAll(); });
+    add(tr("Show All in the List’s Order"), QKeySequence(Qt::CTRL + Qt::Key_0),
+        [this] { m_order.showAll(); });
     m_menu->addSeparator();
     add(tr("Sort Values Upwards"), QKeySequence(), [this] { m_order.sortValues(false); });
     add(tr("Sort Values Downwards"), QKeySequence(), [this] { m_order.sortValues(true); });
@@ -177,7 +184,8 @@ void ListTable::buildActions()
     add(tr("Reset to De&fault"), QKeySequence(), [this] { m_edits.resetToDefault(); });
     m_ignore = add(tr("I&gnore This List"), QKeySequence(), [this] { m_edits.toggleIgnored(); });
     m_ignore->setCheckable(true);
-    connect(m_menu, &QMenu::aboutToShow, this, [this] { m_ignore->setChecked(list() && list()->isIgnored()); });
+    connect(m_menu, &QMenu::aboutToShow, this,
+            [this] { m_ignore->setChecked(list() && list()->isIgnored()); });
     add(tr("Fit Column Widths"), QKeySequence(), [this] {
         for (int column = 0; column < m_view.rows().columnCount(); ++column)
             m_view.fitColumn(column);
@@ -223,9 +231,10 @@ void ListTable::showCaption()
         return;
     }
     const int count = shown->getNum();
-    QString text = tr("%1 · %2 · %3")
-                       .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()),
-                            count == 1 ? tr("1 value") : tr("%1 values").arg(count));
+    QString text =
+        tr("%1 · %2 · %3")
+            .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()),
+                 count == 1 ? tr("1 value") : tr("%1 values").arg(count));
     if (shown->isIgnored())
         text += tr(" · ignored");
     if (shown->isConnected())
@@ -281,16 +290,21 @@ void ListTable::lineChosen()
 
 void ListTable::explainLine()
 {
-    static const char* const Examples[] = {
-        QT_TR_NOOP("x*2, x+row*0.1, clamp(x,0,1)"), QT_TR_NOOP("x > 3, nan, duplicates"),
-        QT_TR_NOOP("a number or text"), QT_TR_NOOP("a row number"),
-        QT_TR_NOOP("a text for all selected cells"), QT_TR_NOOP("a part of the text, duplicates")};
+    static const char* const Examples[] = {QT_TR_NOOP("x*2, x+row*0.1, clamp(x,0,1)"),
+                                           QT_TR_NOOP("x > 3, nan, duplicates"),
+                                           QT_TR_NOOP("a number or text"),
+                                           QT_TR_NOOP("a row number"),
+                                           QT_TR_NOOP("a text for all selected cells"),
+                                           QT_TR_NOOP("a part of the text, duplicates")};
     static const char* const Tips[] = {
-        QT_TR_NOOP("A formula for every selected cell: x is the cell, row its row, n the number of rows, and c1, c2, "
+        QT_TR_NOOP("A formula for every selected cell: x is the cell, row its row, n the number of rows, and "
+                   "c1, c2, "
                    "… are the cells of its row. Enter writes."),
-        QT_TR_NOOP("Shows only the rows for which this holds: the columns by their headings, row, n; nan, inf or "
-                   "duplicates; nothing shows all rows. Enter applies."),
-        QT_TR_NOOP("Goes to the next cell that holds this. Enter goes on."), QT_TR_NOOP("Goes to this row."),
+        QT_TR_NOOP(
+            "Shows only the rows for which this holds: the columns by their headings, row, n; nan, inf or "
+            "duplicates; nothing shows all rows. Enter applies."),
+        QT_TR_NOOP("Goes to the next cell that holds this. Enter goes on."),
+        QT_TR_NOOP("Goes to this row."),
         QT_TR_NOOP("Written to every selected cell by Enter."),
         QT_TR_NOOP("Shows only the rows that hold this text; nothing shows all rows. Enter applies.")};
     int kind = m_lineKind->currentIndex();
@@ -362,8 +376,8 @@ void ListTable::leave(bool forward)
     QWidget* next = &m_view;
     do {
         next = forward ? next->nextInFocusChain() : next->previousInFocusChain();
-        const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isVisible() && next->isEnabled() &&
-                                !m_view.isAncestorOf(next);
+        const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isVisible() &&
+                                next->isEnabled() && !m_view.isAncestorOf(next);
         if (takesFocus)
             break;
     } while (next != &m_view);

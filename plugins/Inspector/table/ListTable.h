@@ -19,8 +19,8 @@ class QToolButton;
 namespace inspector
 {
 
-/// A list as a table with all that belongs to it: the line for formulas, filters and searches, the cells, what
-/// they amount to, and the menu. Showing never writes.
+/// A list as a table with all that belongs to it: the line for formulas, filters and searches, the cells,
+/// what they amount to, and the menu. Showing never writes.
 class ListTable : public QWidget
 {
     Q_OBJECT

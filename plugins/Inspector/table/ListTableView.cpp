@@ -126,7 +126,8 @@ int ListTableView::leastWidth(int column) const
 {
     const QFontMetrics metrics = fontMetrics();
     const bool isNumber = m_rows.list() && m_rows.access().kind() == ListAccess::Kind::Number;
-    const int content = metrics.horizontalAdvance(isNumber ? QStringLiteral("-0.00") : QStringLiteral("FALSE"));
+    const int content =
+        metrics.horizontalAdvance(isNumber ? QStringLiteral("-0.00") : QStringLiteral("FALSE"));
     const int heading = metrics.horizontalAdvance(m_rows.heading(column));
     return std::max(content, heading) + 2 * TablePainter::margin(*viewport()) + 1;
 }
@@ -171,7 +172,8 @@ void ListTableView::fitColumn(int column)
         if (!m_rows.isThere(row))
             continue;
         const QString text = TablePainter::oneLine(m_rows.text(row, column));
-        width = std::max(width, fontMetrics().horizontalAdvance(text) + 2 * TablePainter::margin(*viewport()) + 1);
+        width = std::max(width,
+                         fontMetrics().horizontalAdvance(text) + 2 * TablePainter::margin(*viewport()) + 1);
     }
     setColumnWidth(column, width);
 }
@@ -410,7 +412,8 @@ void ListTableView::openCell(const QString& typed)
     scrollTo(cell);
     m_editor = new CellEditor(cell, m_rows.text(cell.row, cell.column), viewport());
     m_editor->setObjectName(QStringLiteral("cellEditor"));
-    m_editor->setAccessibleName(tr("row %1, %2").arg(m_rows.elementOf(cell.row)).arg(m_rows.longHeading(cell.column)));
+    m_editor->setAccessibleName(
+        tr("row %1, %2").arg(m_rows.elementOf(cell.row)).arg(m_rows.longHeading(cell.column)));
     connect(m_editor, &CellEditor::ended, this, &ListTableView::typingEnded);
     placeEditor();
     m_editor->show();
@@ -430,9 +433,11 @@ void ListTableView::placeEditor()
     QRect rect = m_geometry.cell(m_editor->cell()).adjusted(0, 0, -1, -1);
     const int wanted = fontMetrics().horizontalAdvance(TablePainter::oneLine(m_editor->text())) +
                        4 * TablePainter::margin(*viewport()) + 8;
-    rect.setWidth(std::clamp(wanted, rect.width(), std::max(viewport()->width() - rect.left(), rect.width())));
+    rect.setWidth(
+        std::clamp(wanted, rect.width(), std::max(viewport()->width() - rect.left(), rect.width())));
     const bool isSeen = m_geometry.cellsArea().intersects(rect);
-    m_editor->setGeometry(isSeen ? rect : QRect(-2 * viewport()->width(), 0, rect.width(), m_geometry.rowHeight));
+    m_editor->setGeometry(isSeen ? rect
+                                 : QRect(-2 * viewport()->width(), 0, rect.width(), m_geometry.rowHeight));
 }
 
 void ListTableView::endTyping()
@@ -539,7 +544,8 @@ void ListTableView::pressIn(const TableGeometry::Place& place, Qt::KeyboardModif
         return pressOnHeading(place, modifiers);
     case TableGeometry::Area::Corner:
         if (m_rows.count() > 0)
-            m_selection.selectRange({0, 0, m_rows.count() - 1, m_rows.columnCount() - 1}, m_selection.current());
+            m_selection.selectRange({0, 0, m_rows.count() - 1, m_rows.columnCount() - 1},
+                                    m_selection.current());
         return selectionHasChanged();
     case TableGeometry::Area::Nowhere:
         return;
@@ -564,13 +570,14 @@ void ListTableView::pressOnNumber(TableCell cell, Qt::KeyboardModifiers modifier
     const int columns = m_rows.columnCount();
     const bool isPlain = !(modifiers & (Qt::ShiftModifier | Qt::ControlModifier));
     m_drag = Drag::Rows;
-    if (isPlain && m_selection.contains(cell) && m_selection.isOfWholeRows(columns) && m_rows.order().isNatural()) {
+    if (isPlain && m_selection.contains(cell) && m_selection.isOfWholeRows(columns) &&
+        m_rows.order().isNatural()) {
         m_drag = Drag::Move;
         return;
     }
     if (modifiers & Qt::ShiftModifier && m_selection.current().isValid())
-        m_selection.selectRows(m_selection.ranges().empty() ? cell.row : m_selection.ranges().back().top, cell.row,
-                               columns, cell.column);
+        m_selection.selectRows(m_selection.ranges().empty() ? cell.row : m_selection.ranges().back().top,
+                               cell.row, columns, cell.column);
     else if (modifiers & Qt::ControlModifier)
         m_selection.addRows(cell.row, cell.row, columns, cell.column);
     else
@@ -657,7 +664,8 @@ void ListTableView::mouseReleaseEvent(QMouseEvent* event)
         emit rowsDropped(gap);
     } else { // a click among the selected rows selects this one
         const TableCell cell = m_geometry.placeAt(event->pos()).cell;
-        m_selection.selectRows(cell.row, cell.row, m_rows.columnCount(), std::max(m_selection.current().column, 0));
+        m_selection.selectRows(cell.row, cell.row, m_rows.columnCount(),
+                               std::max(m_selection.current().column, 0));
         selectionHasChanged();
     }
 }

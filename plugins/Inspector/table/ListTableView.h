@@ -44,8 +44,8 @@ public:
     void setSelection(const TableSelection& selection);
     void goTo(TableCell cell);
     void scrollTo(TableCell cell);
-    /// What is done with the text typed into a cell; false keeps the cell open. Not called for typing that was
-    /// given up or that ended as it began.
+    /// What is done with the text typed into a cell; false keeps the cell open. Not called for typing that
+    /// was given up or that ended as it began.
     using TakeTyped = std::function<bool(TableCell cell, const QString& text, CellEditor::End end)>;
     void setTakeTyped(TakeTyped take) { m_takeTyped = std::move(take); }
     /// Opens the current cell; `typed` replaces what it shows.

@@ -63,7 +63,8 @@ bool ListWriter::commit(ListChange change)
     bool isWritten = false;
     SpxFieldEdit::apply(list, std::move(command),
                         [&isWritten, written = command.get()] { return isWritten = written->write(); });
-    return isWritten || fail(tr("There is not enough memory for this change; close other programs or change fewer rows."));
+    return isWritten ||
+           fail(tr("There is not enough memory for this change; close other programs or change fewer rows."));
 }
 
 bool ListWriter::writeCells(std::vector<RowBand> bands, const WriteCell& write, int growth)
@@ -86,7 +87,8 @@ bool ListWriter::writeCells(std::vector<RowBand> bands, const WriteCell& write, 
     if (!writeAll(change, bands, write))
         return false;
     if (m_rows.list() != list || list->getChangeCount() != version)
-        return fail(tr("The list was changed by somebody else meanwhile, so nothing was written; try again."));
+        return fail(
+            tr("The list was changed by somebody else meanwhile, so nothing was written; try again."));
     if (isUnchanged(change))
         return true;
     return commit(std::move(change));

@@ -17,8 +17,8 @@ constexpr int Steps = 1000; // of its bar
 
 QProgressDialog* newDialog(QWidget* parent, const QString& what)
 {
-    auto* dialog = new QProgressDialog(
-        what, QCoreApplication::translate("PieceWork", "Cancel"), 0, Steps, parent);
+    auto* dialog =
+        new QProgressDialog(what, QCoreApplication::translate("PieceWork", "Cancel"), 0, Steps, parent);
     dialog->setObjectName(QStringLiteral("pieceWork"));
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setMinimumDuration(0);

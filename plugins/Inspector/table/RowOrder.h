@@ -22,6 +22,7 @@ public:
     }
 
     bool isNatural() const { return m_isNatural; }
+    bool isAscending() const { return m_isAscending; }
     int rowCount(int elementCount) const { return m_isNatural ? elementCount : int(m_elements.size()); }
     int elementOf(int row) const { return m_isNatural ? row : m_elements[std::size_t(row)]; }
     /// -1 for an element that is not shown.

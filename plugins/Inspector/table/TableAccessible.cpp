@@ -161,7 +161,8 @@ public:
     }
     QAccessibleInterface* childAt(int x, int y) const override
     {
-        const TableGeometry::Place place = m_view.geometry().placeAt(m_view.viewport()->mapFromGlobal({x, y}));
+        const TableGeometry::Place place =
+            m_view.geometry().placeAt(m_view.viewport()->mapFromGlobal({x, y}));
         return place.area == TableGeometry::Area::Cells ? cellAt(place.cell.row, place.cell.column) : nullptr;
     }
     QAccessibleInterface* focusChild() const override

@@ -6,8 +6,8 @@ namespace inspector
 
 class ListTableView;
 
-/// What screen readers see of a table: a table whose cells are made when they are asked for, so that a list of
-/// millions costs nothing, each with a name that says where it is and what it holds.
+/// What screen readers see of a table: a table whose cells are made when they are asked for, so that a list
+/// of millions costs nothing, each with a name that says where it is and what it holds.
 namespace TableAccessible
 {
 

@@ -101,7 +101,8 @@ void TableClipboard::splitWholeValues(BlockText::Rows& block) const
 {
     const int columns = m_session.rows().columnCount();
     const auto isOneCell = [](const QStringList& row) { return row.size() == 1; };
-    if (columns == 1 || !m_session.access().hasNumbers() || !std::all_of(block.begin(), block.end(), isOneCell))
+    if (columns == 1 || !m_session.access().hasNumbers() ||
+        !std::all_of(block.begin(), block.end(), isOneCell))
         return;
     QString text;
     for (const QStringList& row : block)
@@ -130,7 +131,8 @@ bool TableClipboard::findTarget(int blockRows, int blockColumns, Target& target)
     if (width % blockColumns != 0 || width == 1)
         target.cells.right = selected.left + blockColumns - 1;
     if (target.cells.right >= m_session.rows().columnCount()) {
-        say(tr("The block was not pasted, since it has %1 columns and only %2 are left from there on; select a "
+        say(tr("The block was not pasted, since it has %1 columns and only %2 are left from there on; select "
+               "a "
                "column further left.")
                 .arg(blockColumns)
                 .arg(m_session.rows().columnCount() - selected.left));
@@ -138,8 +140,9 @@ bool TableClipboard::findTarget(int blockRows, int blockColumns, Target& target)
     }
     target.growth = std::max(target.cells.bottom + 1 - rows, 0);
     if (target.growth > 0 && !m_session.rows().order().isNatural()) {
-        say(tr("The block was not pasted, since it is longer than the rows that are shown; show all rows in the "
-               "list's order first."));
+        say(tr(
+            "The block was not pasted, since it is longer than the rows that are shown; show all rows in the "
+            "list's order first."));
         return false;
     }
     return true;
@@ -153,11 +156,11 @@ void TableClipboard::paste()
     if (!readBlock(block) || !findTarget(int(block.size()), block.front().size(), target))
         return;
     const int rows = m_session.rows().count();
-    const std::uint32_t columns =
-        columnsFrom(target.cells.left, target.cells.right - target.cells.left + 1);
+    const std::uint32_t columns = columnsFrom(target.cells.left, target.cells.right - target.cells.left + 1);
     std::vector<RowBand> bands;
     if (target.cells.top < rows)
-        bands = m_session.rows().elementsOf({{target.cells.top, std::min(target.cells.bottom, rows - 1), columns}});
+        bands = m_session.rows().elementsOf(
+            {{target.cells.top, std::min(target.cells.bottom, rows - 1), columns}});
     std::unordered_map<int, int> rowOf; // of elements in another order
     if (!m_session.rows().order().isNatural()) {
         for (int row = target.cells.top; row <= std::min(target.cells.bottom, rows - 1); ++row)
@@ -192,7 +195,8 @@ void TableClipboard::pasteRows()
     if (!readBlock(block))
         return;
     if (!m_session.rows().order().isNatural() || block.front().size() != m_session.rows().columnCount()) {
-        say(tr("The rows were not inserted, since only whole rows of %1 columns can be, into a list in its own "
+        say(tr("The rows were not inserted, since only whole rows of %1 columns can be, into a list in its "
+               "own "
                "order; paste them over cells instead.")
                 .arg(m_session.rows().columnCount()));
         return;
@@ -216,7 +220,8 @@ void TableClipboard::pasteRows()
 
 void TableClipboard::sayNoValue(const BlockText::Rows& block, int row, int column)
 {
-    say(tr("Nothing was pasted, since “%1” in row %2, column %3 of the copied block is no value that this list "
+    say(tr("Nothing was pasted, since “%1” in row %2, column %3 of the copied block is no value that this "
+           "list "
            "can hold; correct it where it was copied.")
             .arg(block[std::size_t(row)][column].left(60))
             .arg(row + 1)

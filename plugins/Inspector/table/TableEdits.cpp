@@ -48,7 +48,8 @@ bool TableEdits::setText(SoMField& values, int at, int element, int column, cons
     if (access.kind() != ListAccess::Kind::Number)
         return false;
     CellFormula formula(text, *m_session.list(), access);
-    return formula.isValid() && access.setNumber(values, at, column, formula.evaluate(values, at, element, column));
+    return formula.isValid() &&
+           access.setNumber(values, at, column, formula.evaluate(values, at, element, column));
 }
 
 bool TableEdits::takeTyped(TableCell cell, const QString& text, CellEditor::End end)
@@ -70,11 +71,12 @@ void TableEdits::sayNoValue(const QString& text)
 {
     const TableCell at = m_session.writer.failedCell();
     const QString type = QString::fromLatin1(m_session.list()->getTypeId().getName().getString());
-    emit m_session.said(tr("“%1” was not written to row %2, %3, since it is no value that a list of type %4 can "
-                           "hold; type another or press Esc.")
-                            .arg(text.left(60))
-                            .arg(at.row)
-                            .arg(m_session.rows().longHeading(at.column), type));
+    emit m_session.said(
+        tr("“%1” was not written to row %2, %3, since it is no value that a list of type %4 can "
+           "hold; type another or press Esc.")
+            .arg(text.left(60))
+            .arg(at.row)
+            .arg(m_session.rows().longHeading(at.column), type));
 }
 
 bool TableEdits::calculate(const QString& text)
@@ -139,7 +141,8 @@ void TableEdits::fillSeries()
     const std::vector<RowBand> bands = m_session.selectedElements();
     const bool hasTwo = !bands.empty() && (bands.front().rowCount() > 1 || bands.size() > 1);
     if (!hasTwo || !m_session.access().hasNumbers()) {
-        emit m_session.said(tr("A series needs at least two selected rows of numbers; select them and try again."));
+        emit m_session.said(
+            tr("A series needs at least two selected rows of numbers; select them and try again."));
         return;
     }
     const ListAccess& access = m_session.access();
@@ -248,9 +251,8 @@ void TableEdits::chooseFlags()
 void TableEdits::chooseColor()
 {
     const QColor start = m_session.rows().swatch(m_session.view.selection().current().row);
-    const QColor picked =
-        QColorDialog::getColor(start, &m_session.view, tr("Colour of the Selected Rows"),
-                               QColorDialog::DontUseNativeDialog);
+    const QColor picked = QColorDialog::getColor(start, &m_session.view, tr("Colour of the Selected Rows"),
+                                                 QColorDialog::DontUseNativeDialog);
     if (!picked.isValid() || !m_session.list())
         return;
     const int before[] = {start.red(), start.green(), start.blue()};
@@ -278,7 +280,8 @@ void TableEdits::followLink()
 void TableEdits::resetToDefault()
 {
     if (m_session.list() && !SpxFieldEdit::setToDefault(m_session.list()))
-        emit m_session.said(tr("This list has no default value, since it belongs to no node that can be made anew."));
+        emit m_session.said(
+            tr("This list has no default value, since it belongs to no node that can be made anew."));
 }
 
 void TableEdits::toggleIgnored()
@@ -294,8 +297,9 @@ bool TableEdits::isOrdered()
 {
     if (m_session.rows().order().isNatural())
         return false;
-    emit m_session.said(tr("Rows cannot be added or moved while they are sorted or filtered; show all rows in the "
-                           "list's order first."));
+    emit m_session.said(
+        tr("Rows cannot be added or moved while they are sorted or filtered; show all rows in the "
+           "list's order first."));
     return true;
 }
 

@@ -113,8 +113,9 @@ void TableFile::write()
 
 void TableFile::read()
 {
-    const QString path = QFileDialog::getOpenFileName(&m_session.view, tr("Read CSV"), QString(),
-                                                      tr("Comma-separated values (*.csv *.tsv *.txt);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(&m_session.view, tr("Read CSV"), QString(),
+                                     tr("Comma-separated values (*.csv *.tsv *.txt);;All files (*)"));
     if (!path.isEmpty())
         readFrom(path);
 }
@@ -134,27 +135,30 @@ bool TableFile::writeTo(const QString& path)
     const int columns = rows.columnCount();
     const int total = rows.count();
     int row = -1; // the headings
-    const bool isWritten = PieceWork::run(&m_session.view, tr("Writing “%1”…").arg(name), [&]() -> PieceWork::Progress {
-        if (m_session.list() != list || list->getChangeCount() != version)
-            return {0, 1, true};
-        QString text;
-        for (int i = 0; i < RowsAtOnce && row < total; ++i, ++row) {
-            for (int column = 0; column < columns; ++column) {
-                if (column > 0)
-                    text += ',';
-                BlockText::appendCell(text, row < 0 ? rows.heading(column) : rows.text(row, column), ',');
+    const bool isWritten =
+        PieceWork::run(&m_session.view, tr("Writing “%1”…").arg(name), [&]() -> PieceWork::Progress {
+            if (m_session.list() != list || list->getChangeCount() != version)
+                return {0, 1, true};
+            QString text;
+            for (int i = 0; i < RowsAtOnce && row < total; ++i, ++row) {
+                for (int column = 0; column < columns; ++column) {
+                    if (column > 0)
+                        text += ',';
+                    BlockText::appendCell(text, row < 0 ? rows.heading(column) : rows.text(row, column), ',');
+                }
+                text += '\n';
             }
-            text += '\n';
-        }
-        const QByteArray bytes = text.toUtf8();
-        return {row, total, file.write(bytes) != bytes.size()};
-    });
+            const QByteArray bytes = text.toUtf8();
+            return {row, total, file.write(bytes) != bytes.size()};
+        });
     if (!isWritten) {
         const bool isChanged = m_session.list() != list || list->getChangeCount() != version;
         if (isChanged)
-            return fail(tr("“%1” was not written, since the list was changed meanwhile; try again.").arg(name));
+            return fail(
+                tr("“%1” was not written, since the list was changed meanwhile; try again.").arg(name));
         if (file.error() != QFileDevice::NoError)
-            return fail(tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
+            return fail(
+                tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
         return false; // cancelled
     }
     return file.commit() ||
@@ -169,8 +173,8 @@ bool TableFile::readFrom(const QString& path)
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return fail(tr("“%1” could not be read: %2; choose a file that you may read.")
-                        .arg(name, file.errorString()));
+        return fail(
+            tr("“%1” could not be read: %2; choose a file that you may read.").arg(name, file.errorString()));
     QTextStream in(&file);
     in.setCodec("UTF-8");
     const SoMField* list = m_session.list();
@@ -179,15 +183,16 @@ bool TableFile::readFrom(const QString& path)
     QString piece = in.read(CharactersAtOnce);
     BlockText::Reader reader(separatorOf(piece), [&](const QStringList& row) { return taker.take(row); });
     bool isRefused = false;
-    const bool isRead = PieceWork::run(&m_session.view, tr("Reading “%1”…").arg(name), [&]() -> PieceWork::Progress {
-        isRefused = !reader.feed(piece);
-        piece = in.read(CharactersAtOnce);
-        if (piece.isEmpty())
-            isRefused = isRefused || !reader.finish();
-        const bool isGone = m_session.list() != list;
-        const qint64 size = std::max<qint64>(file.size(), 1);
-        return {piece.isEmpty() ? size : std::min(file.pos(), size - 1), size, isRefused || isGone};
-    });
+    const bool isRead =
+        PieceWork::run(&m_session.view, tr("Reading “%1”…").arg(name), [&]() -> PieceWork::Progress {
+            isRefused = !reader.feed(piece);
+            piece = in.read(CharactersAtOnce);
+            if (piece.isEmpty())
+                isRefused = isRefused || !reader.finish();
+            const bool isGone = m_session.list() != list;
+            const qint64 size = std::max<qint64>(file.size(), 1);
+            return {piece.isEmpty() ? size : std::min(file.pos(), size - 1), size, isRefused || isGone};
+        });
     if (isRefused)
         return fail(tr("“%1” was not read, since line %2 %3; correct the file and try again.")
                         .arg(name)

@@ -11,8 +11,8 @@
 namespace inspector
 {
 
-/// Where the parts of a table are in its viewport: the headings above, the row numbers at the left, the cells.
-/// Rows have one height and columns one width each, so that nothing grows with the number of rows; the
+/// Where the parts of a table are in its viewport: the headings above, the row numbers at the left, the
+/// cells. Rows have one height and columns one width each, so that nothing grows with the number of rows; the
 /// vertical place is the first visible row, the horizontal one is in pixels.
 struct TableGeometry {
     enum class Area { Nowhere, Cells, Headings, Numbers, Corner };

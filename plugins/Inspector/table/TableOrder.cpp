@@ -16,6 +16,7 @@ namespace
 {
 
 constexpr int RowsAtOnce = 8192;
+constexpr int MostKeys = 10'000'000;
 
 std::vector<int> elementsOf(const std::vector<RowBand>& bands)
 {
@@ -42,7 +43,8 @@ TableOrder::TableOrder(TableSession& session)
 {
 }
 
-// NaN comes last either way. Numbers are compared by a copy, which is quicker than reaching for them.
+// NaN comes last either way. Numbers are compared by a copy, which is quicker than reaching for them, unless
+// it would be too large.
 PieceSort::Less TableOrder::lessOf(int column, bool isDescending, std::vector<double>& keys)
 {
     const SoMField* list = m_session.list();
@@ -52,13 +54,17 @@ PieceSort::Less TableOrder::lessOf(int column, bool isDescending, std::vector<do
             return [=](int a, int b) { return access->isLess(*list, b, a, column); };
         return [=](int a, int b) { return access->isLess(*list, a, b, column); };
     }
-    keys.resize(std::size_t(list->getNum()));
-    access->readNumbers(*list, 0, column, list->getNum(), keys.data());
-    const double* key = keys.data();
-    return [key, isDescending](int a, int b) {
-        if (std::isnan(key[a]) || std::isnan(key[b]))
-            return !std::isnan(key[a]);
-        return isDescending ? key[b] < key[a] : key[a] < key[b];
+    if (list->getNum() <= MostKeys) {
+        keys.resize(std::size_t(list->getNum()));
+        access->readNumbers(*list, 0, column, list->getNum(), keys.data());
+    }
+    const double* key = keys.empty() ? nullptr : keys.data();
+    return [=](int left, int right) {
+        const double a = key ? key[left] : access->number(*list, left, column);
+        const double b = key ? key[right] : access->number(*list, right, column);
+        if (std::isnan(a) || std::isnan(b))
+            return !std::isnan(a);
+        return isDescending ? b < a : a < b;
     };
 }
 
@@ -120,13 +126,14 @@ void TableOrder::sortValues(bool isDescending)
     int done = 0;
     const int total = int(elements.size());
     const std::uint32_t version = list.getChangeCount();
-    const bool isDone = PieceWork::run(&m_session.view, tr("Sorting the values…"), [&]() -> PieceWork::Progress {
-        if (m_session.list() != &list || list.getChangeCount() != version)
-            return {0, 1, true};
-        for (const int end = std::min(total - done, RowsAtOnce) + done; done < end; ++done)
-            values->replaceValues(done, 0, list, elements[std::size_t(done)], 1);
-        return {done, total};
-    });
+    const bool isDone =
+        PieceWork::run(&m_session.view, tr("Sorting the values…"), [&]() -> PieceWork::Progress {
+            if (m_session.list() != &list || list.getChangeCount() != version)
+                return {0, 1, true};
+            for (const int end = std::min(total - done, RowsAtOnce) + done; done < end; ++done)
+                values->replaceValues(done, 0, list, elements[std::size_t(done)], 1);
+            return {done, total};
+        });
     if (isDone && values->getNum() == total && !std::is_sorted(elements.begin(), elements.end()))
         m_session.report(m_session.writer.replaceRows(bands.front().first, total, *values));
 }
@@ -200,7 +207,8 @@ void TableOrder::showDuplicates()
             isTwice[std::size_t(elements[i])] = isTwice[std::size_t(elements[i + 1])] = true;
     }
     std::vector<int> shown;
-    if (!collect(tr("Searching for duplicates…"), [&](int at) { return isTwice[std::size_t(at)]; }, shown))
+    if (!collect(
+            tr("Searching for duplicates…"), [&](int at) { return isTwice[std::size_t(at)]; }, shown))
         return;
     m_last = [this] { showDuplicates(); };
     apply(RowOrder(std::move(shown), true));
@@ -229,7 +237,8 @@ bool TableOrder::isFound(int row, int column, const double* number) const
         return false;
     if (!number)
         return m_session.rows().text(row, column).contains(m_sought, Qt::CaseInsensitive);
-    const double value = m_session.access().number(*m_session.list(), m_session.rows().elementOf(row), column);
+    const double value =
+        m_session.access().number(*m_session.list(), m_session.rows().elementOf(row), column);
     return value == *number || float(value) == float(*number) || (std::isnan(value) && std::isnan(*number));
 }
 

@@ -123,7 +123,8 @@ QString TablePainter::fitting(TableCell cell, int width) const
 {
     const QFontMetrics metrics = m_widget.fontMetrics();
     if (m_state.rows.access().kind() != ListAccess::Kind::Number)
-        return metrics.elidedText(oneLine(m_state.rows.shortText(cell.row, cell.column, 0)), Qt::ElideRight, width);
+        return metrics.elidedText(oneLine(m_state.rows.shortText(cell.row, cell.column, 0)), Qt::ElideRight,
+                                  width);
     QString text = m_state.rows.text(cell.row, cell.column);
     for (int digits = 6; digits > 0 && metrics.horizontalAdvance(text) > width; --digits)
         text = m_state.rows.shortText(cell.row, cell.column, digits);

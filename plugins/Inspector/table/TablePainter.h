@@ -18,8 +18,8 @@ public:
         const TableRows& rows;
         const TableGeometry& geometry;
         const TableSelection& selection;
-        int gap = -1;         // between which rows dragged ones would go
-        int sortedBy = -1;    // the column
+        int gap = -1;      // between which rows dragged ones would go
+        int sortedBy = -1; // the column
         bool isDescending = false;
     };
 

@@ -52,8 +52,9 @@ std::vector<RowBand> TableRows::elementsOf(const std::vector<RowBand>& bands) co
         for (int row = band.first; row <= band.last; ++row)
             elements.push_back({elementOf(row), elementOf(row), band.columns});
     }
-    std::sort(elements.begin(), elements.end(),
-              [](const RowBand& a, const RowBand& b) { return a.first < b.first; });
+    if (!m_order.isAscending())
+        std::sort(elements.begin(), elements.end(),
+                  [](const RowBand& a, const RowBand& b) { return a.first < b.first; });
     std::vector<RowBand> merged;
     for (const RowBand& one : elements) {
         if (!merged.empty() && merged.back().last + 1 == one.first && merged.back().columns == one.columns)

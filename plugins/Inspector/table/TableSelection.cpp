@@ -134,8 +134,8 @@ std::vector<RowBand> TableSelection::bands() const
             if (range.top <= band.first && band.last <= range.bottom)
                 band.columns |= maskOf(range);
         }
-        const bool continues = !bands.empty() && bands.back().last + 1 == band.first &&
-                               bands.back().columns == band.columns;
+        const bool continues =
+            !bands.empty() && bands.back().last + 1 == band.first && bands.back().columns == band.columns;
         if (continues)
             bands.back().last = band.last;
         else if (band.columns)

@@ -39,8 +39,8 @@ struct RowBand {
     bool has(int column) const { return (columns >> column & 1U) != 0; }
 };
 
-/// The current cell and the selected cells of a table, kept as rectangles, so that its cost does not grow with
-/// what is selected. At most 32 columns. The last rectangle reaches from its anchor to the current cell.
+/// The current cell and the selected cells of a table, kept as rectangles, so that its cost does not grow
+/// with what is selected. At most 32 columns. The last rectangle reaches from its anchor to the current cell.
 class TableSelection
 {
 public:

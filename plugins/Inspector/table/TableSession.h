@@ -24,10 +24,7 @@ public:
     SoMField* list() const { return view.rows().list(); }
     const ListAccess& access() const { return view.rows().access(); }
     /// The selected cells, as elements of the list.
-    std::vector<RowBand> selectedElements() const
-    {
-        return view.rows().elementsOf(view.selection().bands());
-    }
+    std::vector<RowBand> selectedElements() const { return view.rows().elementsOf(view.selection().bands()); }
     /// Says why an edit failed, where it did.
     bool report(bool isDone)
     {

@@ -75,8 +75,9 @@ TEST(ListChange, TheCommandRestoresTheDefaultFlagAndReportsWhereItActed)
     static_cast<SoMFInt32&>(change.after()).set1Value(0, 7);
     ListChangeObserver observer;
     std::vector<int> rows;
-    QObject::connect(&observer, &ListChangeObserver::acted,
-                     [&](const SoField*, int first, int count) { rows = {first, count}; });
+    QObject::connect(&observer, &ListChangeObserver::acted, [&](const SoField*, int first, int count) {
+        rows = {first, count};
+    });
     ListChangeCommand command(field, std::move(change), &observer);
     ASSERT_TRUE(command.write());
     EXPECT_FALSE(field.isDefault());

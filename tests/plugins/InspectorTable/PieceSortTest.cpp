@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "table/ColumnFigures.h"
 #include "table/PieceSort.h"
+#include "table/ColumnFigures.h"
 
 #include <xsg/fields/SoMFFloat.h>
 #include <xsg/fields/SoMFVec3f.h>

@@ -51,7 +51,8 @@ protected:
     void type(const QString& text)
     {
         for (const QChar c : text)
-            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, c, Qt::NoModifier, 0);
+            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, c, Qt::NoModifier,
+                                0);
         TestHost::pump();
     }
     void goTo(int row, int column) { view().goTo({row, column}); }

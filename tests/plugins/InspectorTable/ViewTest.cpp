@@ -152,8 +152,8 @@ TEST_F(VectorTable, AHundredMillionRowsScrollToTheirEnd)
 TEST_F(VectorTable, AnEmptyListTakesEveryKeyAndClick)
 {
     openRows(0);
-    for (const Qt::Key k : {Qt::Key_Down, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Return, Qt::Key_F2, Qt::Key_Delete,
-                            Qt::Key_A})
+    for (const Qt::Key k :
+         {Qt::Key_Down, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Return, Qt::Key_F2, Qt::Key_Delete, Qt::Key_A})
         key(k);
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));

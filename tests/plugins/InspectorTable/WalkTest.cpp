@@ -152,8 +152,9 @@ private:
     {
         m_what = "navigate";
         view().setFocus();
-        const auto key = pickOf({Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
-                                 Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab});
+        const auto key =
+            pickOf({Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+                    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backtab});
         press(key, pickOf({Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier}));
     }
     void mouse()
@@ -167,11 +168,16 @@ private:
             return QTest::mouseDClick(area, Qt::LeftButton, Qt::NoModifier, from);
         QTest::mousePress(area, Qt::LeftButton,
                           pickOf({Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier}), from);
-        QMouseEvent event(QEvent::MouseMove, to, area->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseMove, to, area->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                          Qt::NoModifier);
         QApplication::sendEvent(area, &event);
         QTest::mouseRelease(area, Qt::LeftButton, Qt::NoModifier, to);
     }
-    QString word() { return pickOf<QString>({"1", "0", "-3", "0.1", "x+1", "1e", "TRUE", "SUMMER", "LEFT|TOP", "abc", "nan", ""}); }
+    QString word()
+    {
+        return pickOf<QString>(
+            {"1", "0", "-3", "0.1", "x+1", "1e", "TRUE", "SUMMER", "LEFT|TOP", "abc", "nan", ""});
+    }
     void typeIntoCell()
     {
         m_what = "type";
@@ -179,7 +185,8 @@ private:
         for (const QChar c : word())
             QTest::sendKeyEvent(QTest::Click, focused(), Qt::Key_unknown, c, Qt::NoModifier, 0);
         if (pick(3))
-            press(pickOf({Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape}), pickOf({Qt::NoModifier, Qt::ControlModifier}));
+            press(pickOf({Qt::Key_Return, Qt::Key_Tab, Qt::Key_Escape}),
+                  pickOf({Qt::NoModifier, Qt::ControlModifier}));
     }
     void act()
     {
@@ -196,7 +203,8 @@ private:
         m_what = isReading ? "filter" : "calculate";
         m_editor->table()->askFor(kind);
         auto* line = m_editor->table()->findChild<QLineEdit*>("line");
-        line->setText(pickOf<QString>({"x*2", "row", "x > 0", "nan", "duplicates", "", "1", "(", "1/0", "TRUE"}));
+        line->setText(
+            pickOf<QString>({"x*2", "row", "x > 0", "nan", "duplicates", "", "1", "(", "1/0", "TRUE"}));
         QTest::keyClick(line, Qt::Key_Return);
     }
     void undoOrRedo()
@@ -210,7 +218,8 @@ private:
         m_what = "paste";
         view().setFocus();
         if (pick(2))
-            QApplication::clipboard()->setText(pickOf<QString>({"1\t2\n3\t4", "1", "1\n2\n3", "\"a\tb\"\tc", "oops", ""}));
+            QApplication::clipboard()->setText(
+                pickOf<QString>({"1\t2\n3\t4", "1", "1\n2\n3", "\"a\tb\"\tc", "oops", ""}));
         press(pickOf({Qt::Key_C, Qt::Key_V, Qt::Key_X}), Qt::ControlModifier);
     }
     void answer()
