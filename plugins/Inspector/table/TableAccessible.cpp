@@ -28,6 +28,13 @@ QString tr(const char* text)
     return QCoreApplication::translate("TableAccessible", text);
 }
 
+// -1 for the cells at the end of so long a list that their numbers are too large.
+int indexOf(TableCell cell, int columns)
+{
+    const qint64 index = qint64(cell.row) * columns + cell.column;
+    return index <= std::numeric_limits<int>::max() ? int(index) : -1;
+}
+
 QString nameOf(const SoMField& list)
 {
     return SpxText::toQString(list.getName());
@@ -157,7 +164,7 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override
     {
         const auto* cell = dynamic_cast<const CellInterface*>(child);
-        return cell ? cell->rowIndex() * columnCount() + cell->columnIndex() : -1;
+        return cell ? indexOf({cell->rowIndex(), cell->columnIndex()}, columnCount()) : -1;
     }
     QAccessibleInterface* childAt(int x, int y) const override
     {
@@ -312,7 +319,7 @@ void TableAccessible::currentChanged(ListTableView& view)
     if (!QAccessible::isActive() || !view.hasFocus() || !current.isValid())
         return;
     QAccessibleEvent event(&view, QAccessible::Focus);
-    event.setChild(current.row * view.rows().columnCount() + current.column);
+    event.setChild(indexOf(current, view.rows().columnCount()));
     QAccessible::updateAccessibility(&event);
 }
 
