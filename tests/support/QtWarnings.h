@@ -5,8 +5,8 @@
 
 #include <string>
 
-/// Collects what Qt reports, from warnings upwards, while it lives; one at a time. What a platform says about
-/// sizes it cannot set is left out. GUI thread only.
+/// Collects what Qt reports, from warnings upwards, while it lives; one at a time. What the platform says it
+/// cannot do is left out. GUI thread only.
 class QtWarnings
 {
 public:
@@ -30,7 +30,7 @@ private:
     static void note(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
     {
         const bool isWarning = type != QtDebugMsg && type != QtInfoMsg;
-        if (isWarning && !text.contains(QLatin1String("propagateSizeHints")))
+        if (isWarning && !text.startsWith(QLatin1String("This plugin does not support")))
             texts().append(text);
     }
 

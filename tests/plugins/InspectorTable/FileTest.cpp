@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "TableFixture.h"
+
+#include <QFile>
+#include <QProgressDialog>
+#include <QTemporaryDir>
+
+using namespace inspector;
+
+namespace
+{
+
+template <class Field>
+class WithFiles : public ListFixture<Field>
+{
+protected:
+    QString path(const char* name = "list.csv") { return m_folder.filePath(name); }
+    void put(const QByteArray& bytes)
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray content()
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    // Cancels the first progress dialog that comes.
+    void cancelSoon()
+    {
+        auto* timer = new QTimer(&this->view());
+        QObject::connect(timer, &QTimer::timeout, [] {
+            if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()))
+                dialog->cancel();
+        });
+        timer->start(0);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+class VectorFile : public WithFiles<SoMFVec3f>
+{
+};
+class TextFile : public WithFiles<SoMFString>
+{
+};
+
+} // namespace
+
+TEST_F(VectorFile, WhatIsWrittenIsReadBackToTheSameBits)
+{
+    open({SbVec3f(0.1F, -0.0F, 3e-38F), SbVec3f(1, 2, 3)});
+    ASSERT_TRUE(table().file().writeTo(path()));
+    EXPECT_EQ(content(), "x,y,z\n0.1,-0,3e-38\n1,2,3\n");
+    const std::vector<SbVec3f> before = values();
+    field.setNum(0);
+    TestHost::pump();
+    ASSERT_TRUE(table().file().readFrom(path())) << message().toStdString();
+    EXPECT_EQ(values(), before);
+    EXPECT_TRUE(std::signbit(field[0][1]));
+    EXPECT_EQ(host.undoCount(), 1);
+    host.undo();
+    EXPECT_EQ(field.getNum(), 0);
+}
+
+TEST_F(VectorFile, OtherSeparatorsAndHeadingsAreRead)
+{
+    open({});
+    put("\xef\xbb\xbfnorth;east;up\r\n1,5;2;3\r\n\r\n4;5;6");
+    ASSERT_TRUE(table().file().readFrom(path())) << message().toStdString();
+    EXPECT_EQ(values(), (std::vector<SbVec3f>{{1.5F, 2, 3}, {4, 5, 6}}));
+    put("1\t2\t3\n");
+    ASSERT_TRUE(table().file().readFrom(path()));
+    EXPECT_EQ(field.getNum(), 1);
+}
+
+TEST_F(VectorFile, ABadFileIsRefusedWithItsLineAndChangesNothing)
+{
+    open({SbVec3f(1, 2, 3)});
+    put("x,y,z\n1,2,3\n1,oops,3\n");
+    EXPECT_FALSE(table().file().readFrom(path()));
+    EXPECT_TRUE(message().contains("line 3") && message().contains("oops")) << message().toStdString();
+    put("1,2,3\n4,5\n");
+    EXPECT_FALSE(table().file().readFrom(path()));
+    EXPECT_TRUE(message().contains("line 2")) << message().toStdString();
+    EXPECT_FALSE(table().file().readFrom(path("missing.csv")));
+    EXPECT_TRUE(message().contains("missing.csv"));
+    EXPECT_FALSE(table().file().readFrom("/"));
+    EXPECT_EQ(values(), (std::vector<SbVec3f>{{1, 2, 3}}));
+    EXPECT_EQ(host.undoCount(), 0);
+}
+
+TEST_F(VectorFile, AFileThatCannotBeWrittenIsSaid)
+{
+    open({SbVec3f(1, 2, 3)});
+    EXPECT_FALSE(table().file().writeTo("/nowhere/at/all.csv"));
+    EXPECT_TRUE(message().contains("all.csv"));
+}
+
+TEST_F(VectorFile, ALongReadingOrWritingCanBeCancelled)
+{
+    field.setNum(300'000);
+    open();
+    put("untouched");
+    cancelSoon();
+    EXPECT_FALSE(table().file().writeTo(path()));
+    EXPECT_EQ(content(), "untouched");
+    put(QByteArray("1,2,3\n").repeated(300'000));
+    field.set1Value(0, SbVec3f(7, 7, 7));
+    EXPECT_FALSE(table().file().readFrom(path()));
+    EXPECT_EQ(field[0], SbVec3f(7, 7, 7));
+    EXPECT_EQ(host.undoCount(), 0);
+    select(0, 0, 299'999, 2);
+    runLine(ListTable::Line::Calculate, "x+1");
+    EXPECT_EQ(field[0], SbVec3f(7, 7, 7)) << "so can a formula";
+    EXPECT_EQ(host.undoCount(), 0);
+}
+
+TEST_F(VectorFile, AListThatChangesMeanwhileIsNotOverwritten)
+{
+    field.setNum(300'000);
+    open();
+    select(0, 0, 299'999, 2);
+    auto* timer = new QTimer(&view());
+    QObject::connect(timer, &QTimer::timeout, [this] {
+        if (QApplication::activeModalWidget())
+            field.set1Value(0, SbVec3f(9, 9, 9));
+    });
+    timer->start(0);
+    runLine(ListTable::Line::Calculate, "x+1");
+    EXPECT_EQ(field[0], SbVec3f(9, 9, 9));
+    EXPECT_EQ(field[1], SbVec3f(0, 0, 0));
+    EXPECT_FALSE(message().isEmpty());
+}
+
+TEST_F(TextFile, TextsWithSeparatorsAndLinesComeBack)
+{
+    open({"a,b", "two\nlines", "say \"hi\"", "\u00fcber", "value"});
+    const std::vector<SbString> before = values();
+    ASSERT_TRUE(table().file().writeTo(path()));
+    field.setNum(0);
+    ASSERT_TRUE(table().file().readFrom(path()));
+    EXPECT_EQ(values(), before);
+}
