@@ -39,6 +39,8 @@ set(SCOPIX_XSG_HEADERS
   SoTextureCoordinates.h SoTextureTransform.h
   # Actions
   SoBoundingBoxAction.h SoPath.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  # Queries
+  SoQuery.h SoQuerySearch.h
   # Drawing
   SoImageReader.h SoOffscreenRenderer.h SoRenderer.h
   # Scene files

@@ -20,12 +20,6 @@ namespace scopix
 namespace
 {
 
-int childCount(SoNode* node)
-{
-    const SoGroup* group = node->asGroup();
-    return group ? group->getNumChildren() : 0;
-}
-
 // The nodes from `node` up to `root`, both included; empty where the one is not below the other.
 std::vector<const SoNode*> pathUpwards(const SoNode* node, const SoNode* root)
 {
@@ -123,17 +117,50 @@ SoNode* SceneTreeModel::nodeAt(const QModelIndex& index) const
     return item ? item->node.get() : nullptr;
 }
 
-void SceneTreeModel::listChildren(Item& item)
+std::vector<SoNode*> SceneTreeModel::childrenOf(SoNode& node) const
+{
+    const SoGroup* group = node.asGroup();
+    std::vector<SoNode*> children = group ? group->getChildren() : std::vector<SoNode*>();
+    const auto hidden = [this](const SoNode* child) { return !isShown(child); };
+    children.erase(std::remove_if(children.begin(), children.end(), hidden), children.end());
+    return children;
+}
+
+bool SceneTreeModel::hasShownChildren(SoNode& node) const
+{
+    const SoGroup* group = node.asGroup();
+    return group && std::any_of(group->getChildren().begin(), group->getChildren().end(),
+                                [this](const SoNode* child) { return isShown(child); });
+}
+
+void SceneTreeModel::listChildren(Item& item) const
 {
     if (item.listed)
         return;
     item.listed = true;
     item.seenChange = item.node->getChangeCount();
-    const SoGroup* group = item.node->asGroup();
-    const int count = childCount(item.node.get());
-    item.children.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        item.children.push_back(std::make_unique<Item>(group->getChild(i), &item, i));
+    const std::vector<SoNode*> children = childrenOf(*item.node);
+    item.children.reserve(children.size());
+    for (SoNode* child : children)
+        item.children.push_back(std::make_unique<Item>(child, &item, static_cast<int>(item.children.size())));
+}
+
+void SceneTreeModel::showOnly(NodeSet nodes)
+{
+    m_shown = std::move(nodes);
+    listAgain();
+}
+
+void SceneTreeModel::showAll()
+{
+    m_shown.reset();
+    listAgain();
+}
+
+void SceneTreeModel::listAgain()
+{
+    if (m_root)
+        setRoot(SoRef<SoNode>(getRoot()).get());
 }
 
 QModelIndex SceneTreeModel::indexOf(const SoNode* node) const
@@ -209,7 +236,7 @@ bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
     Item* item = itemAt(parent);
     if (item->listed)
         return !item->children.empty();
-    item->reportedExpandable = childCount(item->node.get()) > 0;
+    item->reportedExpandable = hasShownChildren(*item->node);
     return item->reportedExpandable;
 }
 
@@ -286,20 +313,19 @@ void SceneTreeModel::followScene()
 
 bool SceneTreeModel::followExpandable(Item& item) const
 {
-    const bool expandable = childCount(item.node.get()) > 0;
+    const bool expandable = hasShownChildren(*item.node);
     return std::exchange(item.reportedExpandable, expandable) != expandable;
 }
 
 void SceneTreeModel::followChildren(Item& item)
 {
-    const SoGroup* group = item.node->asGroup();
-    if (!group)
-        return;
+    const std::vector<SoNode*> children = childrenOf(*item.node);
     // Children that are unchanged at both ends keep their rows, with what is expanded and selected there.
     const int before = static_cast<int>(item.children.size());
-    const int now = group->getNumChildren();
+    const int now = static_cast<int>(children.size());
     const auto stayed = [&](int old, int current) {
-        return item.children[static_cast<std::size_t>(old)]->node.get() == group->getChild(current);
+        return item.children[static_cast<std::size_t>(old)]->node.get() ==
+               children[static_cast<std::size_t>(current)];
     };
     int head = 0;
     while (head < std::min(before, now) && stayed(head, head))
@@ -308,7 +334,7 @@ void SceneTreeModel::followChildren(Item& item)
     while (tail < std::min(before, now) - head && stayed(before - 1 - tail, now - 1 - tail))
         ++tail;
     removeItems(item, head, before - head - tail);
-    insertItems(item, head, now - head - tail);
+    insertItems(item, head, {children.begin() + head, children.end() - tail});
 }
 
 void SceneTreeModel::removeItems(Item& item, int first, int count)
@@ -327,15 +353,15 @@ void SceneTreeModel::removeItems(Item& item, int first, int count)
     Item::finalize(std::move(removed));
 }
 
-void SceneTreeModel::insertItems(Item& item, int first, int count)
+void SceneTreeModel::insertItems(Item& item, int first, const std::vector<SoNode*>& nodes)
 {
-    if (count <= 0)
+    if (nodes.empty())
         return;
-    const SoGroup* group = item.node->asGroup();
+    const int count = static_cast<int>(nodes.size());
     beginInsertRows(indexOfItem(item), first, first + count - 1);
     std::vector<std::unique_ptr<Item>> added;
-    for (int i = first; i < first + count; ++i)
-        added.push_back(std::make_unique<Item>(group->getChild(i), &item, i));
+    for (SoNode* node : nodes)
+        added.push_back(std::make_unique<Item>(node, &item, first + static_cast<int>(added.size())));
     item.children.insert(item.children.begin() + first, std::make_move_iterator(added.begin()),
                          std::make_move_iterator(added.end()));
     for (std::size_t i = static_cast<std::size_t>(first + count); i < item.children.size(); ++i)

@@ -7,6 +7,8 @@
 #include <QAbstractItemModel>
 
 #include <memory>
+#include <optional>
+#include <unordered_set>
 #include <vector>
 
 class QWidget;
@@ -34,6 +36,13 @@ public:
     void setRoot(SoNode* root);
     SoNode* getRoot() const;
 
+    /// Only these nodes get rows. They should be whole branches up to the root; the pointers are compared
+    /// only.
+    using NodeSet = std::unordered_set<const SoNode*>;
+    void showOnly(NodeSet nodes);
+    void showAll();
+    bool isShowingAll() const { return !m_shown; }
+
     /// Null for an invalid index.
     SoNode* nodeAt(const QModelIndex& index) const;
     /// The first place where the node stands below the root, or an invalid index. Looks upwards from the
@@ -58,16 +67,21 @@ private:
     void followChildren(Item& item);
     void followName(Item& item);
     void removeItems(Item& item, int first, int count);
-    void insertItems(Item& item, int first, int count);
+    void insertItems(Item& item, int first, const std::vector<SoNode*>& nodes);
     bool followExpandable(Item& item) const;
 
     QModelIndex indexDownwards(const std::vector<const SoNode*>& nodes) const;
     Item* itemAt(const QModelIndex& index) const;
     QModelIndex indexOfItem(Item& item, int column = NameColumn) const;
-    static void listChildren(Item& item);
+    std::vector<SoNode*> childrenOf(SoNode& node) const;
+    bool hasShownChildren(SoNode& node) const;
+    bool isShown(const SoNode* node) const { return !m_shown || m_shown->count(node) > 0; }
+    void listChildren(Item& item) const;
+    void listAgain();
     const QWidget* surface() const;
 
     std::unique_ptr<Item> m_root;
+    std::optional<NodeSet> m_shown; // none: all
     SoNodeSensor m_sensor;
 };
 

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <vector>
@@ -45,6 +46,33 @@ int countLevels(SoNode* node)
     return AllLevels;
 }
 
+/// Draws the rows that are marked bold, on a tint of the colour of selections.
+class MarkingDelegate : public QStyledItemDelegate
+{
+public:
+    explicit MarkingDelegate(SceneTreeView& view)
+        : QStyledItemDelegate(&view)
+        , m_view(view)
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!m_view.isMarked(m_view.getModel().nodeAt(index)))
+            return;
+        constexpr int Tint = 70; // of 255: the text stays legible on it
+        QColor colour = option->palette.color(QPalette::Highlight);
+        colour.setAlpha(Tint);
+        option->backgroundBrush = colour;
+        option->font.setBold(true);
+    }
+
+private:
+    const SceneTreeView& m_view;
+};
+
 } // namespace
 
 SceneTreeView::SceneTreeView(QWidget* parent)
@@ -53,6 +81,7 @@ SceneTreeView::SceneTreeView(QWidget* parent)
 {
     setObjectName(QStringLiteral("sceneTree"));
     setModel(m_model);
+    setItemDelegate(new MarkingDelegate(*this));
     setUniformRowHeights(true);
     setAlternatingRowColors(false);
     setSelectionMode(SingleSelection);
@@ -68,6 +97,7 @@ void SceneTreeView::setScene(SoNode* root)
 {
     if (currentIndex().isValid())
         dropSelection();
+    m_expandedBefore.clear();
     m_model->setRoot(root);
     expand(m_model->index(0, 0));
 }
@@ -94,14 +124,89 @@ void SceneTreeView::selectPath(const SoPath& path)
     scrollTo(index);
 }
 
+void SceneTreeView::selectNode(const SoNode* node)
+{
+    const QModelIndex index = m_model->indexOf(node);
+    if (!index.isValid())
+        return;
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
 SoPath SceneTreeView::getSelectedPath() const
 {
+    return pathAt(currentIndex());
+}
+
+SoPath SceneTreeView::pathAt(QModelIndex index)
+{
     std::vector<SoNode*> upwards;
-    for (QModelIndex at = currentIndex(); at.isValid(); at = at.parent())
-        upwards.push_back(m_model->nodeAt(at));
+    for (; index.isValid(); index = index.parent())
+        upwards.push_back(static_cast<const SceneTreeModel*>(index.model())->nodeAt(index));
     SoPath path;
     std::for_each(upwards.rbegin(), upwards.rend(), [&path](SoNode* node) { path.append(node); });
     return path;
+}
+
+void SceneTreeView::unfoldTo(const SoNode* node)
+{
+    for (QModelIndex at = m_model->indexOf(node).parent(); at.isValid(); at = at.parent())
+        expand(at);
+}
+
+void SceneTreeView::reveal(const SoNode* node)
+{
+    const QModelIndex index = m_model->indexOf(node);
+    if (index.isValid())
+        scrollTo(index);
+}
+
+void SceneTreeView::showOnly(SceneTreeModel::NodeSet nodes)
+{
+    if (m_model->isShowingAll())
+        m_expandedBefore = expandedPaths();
+    keepSelection([&] { m_model->showOnly(std::move(nodes)); });
+}
+
+void SceneTreeView::showAll()
+{
+    if (m_model->isShowingAll())
+        return;
+    keepSelection([this] { m_model->showAll(); });
+    for (const SoPath& path : m_expandedBefore) {
+        const QModelIndex index = m_model->indexOf(path);
+        if (index.isValid())
+            expand(index);
+    }
+    m_expandedBefore.clear();
+}
+
+template <class Change>
+void SceneTreeView::keepSelection(Change change)
+{
+    const QScopedValueRollback<bool> quiet(m_quiet, true);
+    const SoPath selected = getSelectedPath();
+    change();
+    expand(m_model->index(0, 0));
+    const QModelIndex index = m_model->indexOf(selected);
+    if (index.isValid())
+        setCurrentIndex(index);
+}
+
+std::vector<SoPath> SceneTreeView::expandedPaths() const
+{
+    std::vector<SoPath> paths;
+    std::vector<QModelIndex> pending{m_model->index(0, 0)};
+    while (!pending.empty()) {
+        const QModelIndex at = pending.back();
+        pending.pop_back();
+        if (!at.isValid() || !isExpanded(at))
+            continue;
+        paths.push_back(pathAt(at));
+        for (int row = 0; row < m_model->rowCount(at); ++row)
+            pending.push_back(m_model->index(row, 0, at));
+    }
+    return paths;
 }
 
 void SceneTreeView::dropSelection()

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "panels/SceneTreeModel.h"
+
+#include <xsg/actions/SoPath.h>
+
 #include <QTreeView>
 
-class SoPath;
-class SoNode;
+#include <functional>
+#include <vector>
 
 namespace scopix
 {
-
-class SceneTreeModel;
 
 /// Shows the scene's tree and reports which node the user selects in it.
 class SceneTreeView : public QTreeView
@@ -28,8 +30,24 @@ public:
     void showNode(const SoNode* node);
     /// As if the user had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);
+    /// As if the user had clicked the node's row, in the first of its places.
+    void selectNode(const SoNode* node);
     /// From the root to the selected row; empty where none is selected.
     SoPath getSelectedPath() const;
+    /// Expands the node's parents.
+    void unfoldTo(const SoNode* node);
+    /// Brings the node's row into sight, without selecting it.
+    void reveal(const SoNode* node);
+
+    /// The rows whose nodes it is true for are drawn so that they catch the eye.
+    using NodeTest = std::function<bool(const SoNode*)>;
+    void setMarked(NodeTest isMarked) { m_isMarked = std::move(isMarked); }
+    bool isMarked(const SoNode* node) const { return m_isMarked && m_isMarked(node); }
+
+    /// As of the model; what is selected stays so, and what was expanded before is expanded again by
+    /// showAll().
+    void showOnly(SceneTreeModel::NodeSet nodes);
+    void showAll();
 
 signals:
     /// Null when the selected node left the scene; it is still alive then.
@@ -44,8 +62,14 @@ protected:
 private:
     void unfoldAll(const QModelIndex& index);
     void dropSelection();
+    template <class Change>
+    void keepSelection(Change change);
+    std::vector<SoPath> expandedPaths() const;
+    static SoPath pathAt(QModelIndex index);
 
     SceneTreeModel* m_model;
+    NodeTest m_isMarked;
+    std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
     bool m_quiet = false;
 };
 

@@ -2,6 +2,7 @@
 #include "window/MainWindow.h"
 
 #include "panels/FieldListView.h"
+#include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
@@ -77,7 +78,8 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     : m_services(services)
     , m_notifier(notifier)
     , m_files(*this, services, notifier)
-    , m_tree(new SceneTreeView)
+    , m_scenePanel(new ScenePanel)
+    , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
 {
@@ -138,7 +140,7 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 
 void MainWindow::makeDocks()
 {
-    m_treeDock = addDock(m_tree, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
+    m_treeDock = addDock(m_scenePanel, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
     auto* history = new QUndoView(&m_services.undoStack());
     history->setObjectName(QStringLiteral("history"));
@@ -187,6 +189,10 @@ void MainWindow::makeEditMenu()
     m_redoAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z));
     m_redoAction->setIcon(svgIcon(QStringLiteral("action-redo"), this));
     menu->addActions({m_undoAction, m_redoAction});
+    menu->addSeparator();
+    QAction* find = menu->addAction(svgIcon(QStringLiteral("action-find"), this), tr("&Find in the Scene"),
+                                    this, &MainWindow::find, QKeySequence::Find);
+    find->setObjectName(QStringLiteral("findAction"));
 }
 
 void MainWindow::makeViewMenu()
@@ -197,7 +203,7 @@ void MainWindow::makeViewMenu()
         menu->addAction(tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
     m_viewAllAction->setIcon(svgIcon(QStringLiteral("action-view-all"), this));
     m_viewSelectedAction = menu->addAction(tr("View &Selected"), this, &MainWindow::viewSelected,
-                                           QKeySequence(Qt::CTRL + Qt::Key_F));
+                                           QKeySequence(Qt::CTRL + Qt::Key_Period));
     m_viewSelectedAction->setIcon(svgIcon(QStringLiteral("action-view-selected"), this));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
@@ -246,6 +252,7 @@ void MainWindow::makeHelpMenu()
                "See all of the selected part: double-click, or F.\n"
                "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
                "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
@@ -286,6 +293,13 @@ void MainWindow::connectSelection()
     connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
 }
 
+void MainWindow::find()
+{
+    m_treeDock->show();
+    m_treeDock->raise();
+    m_scenePanel->startFinding();
+}
+
 void MainWindow::showNode(SoFieldContainer* container)
 {
     auto* node = dynamic_cast<SoNode*>(container);
@@ -321,7 +335,7 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 
 void MainWindow::showScene(SoNode* root)
 {
-    m_tree->setScene(root);
+    m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.
     m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());

@@ -16,6 +16,7 @@ namespace scopix
 class FieldListView;
 class HostServices;
 class UserNotifier;
+class ScenePanel;
 class SceneTreeView;
 class SceneView;
 
@@ -51,6 +52,7 @@ public:
     bool saveScreenshot(const QString& path) override;
     void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
 
+    ScenePanel& getScenePanel() { return *m_scenePanel; }
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
@@ -81,6 +83,7 @@ private:
     void askForScreenshot();
     void showAbout();
     void viewSelected();
+    void find();
     void showNode(SoFieldContainer* node);
     void showField(SoField* field);
     void setTheme(Theme theme);
@@ -88,6 +91,7 @@ private:
     HostServices& m_services;
     UserNotifier& m_notifier;
     SceneFiles m_files;
+    ScenePanel* m_scenePanel;
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;

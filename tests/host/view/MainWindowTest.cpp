@@ -194,7 +194,7 @@ TEST_F(Window, TheViewIsSteeredByMenuShortcutAndToolBar)
     const auto eye = [&] { return view.getCamera().position.getValue(); };
     const SbVec3f home = eye();
     ASSERT_TRUE(window.selectField("Sphere", "radius"));
-    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
     const SbVec3f near = eye();
     EXPECT_NE(near, home);
     QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
