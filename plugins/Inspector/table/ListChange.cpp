@@ -128,6 +128,11 @@ void ListChangeCommand::redo()
         report(m_change.firstRun().inserted);
 }
 
+std::vector<SoField*> ListChangeCommand::editedFields() const
+{
+    return list() ? std::vector<SoField*>{list()} : std::vector<SoField*>();
+}
+
 void ListChangeCommand::report(int count) const
 {
     if (m_observer)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
+#include <scopix/SpxEditedFields.h>
 #include <scopix/editing/SpxFieldPointer.h>
 #include <xsg/core/SoMField.h>
 
@@ -76,7 +77,7 @@ signals:
 
 /// Records a change of a list. It keeps what changed and not the list, and nothing of the node; once that is
 /// destroyed, it does nothing.
-class ListChangeCommand : public SpxCommand
+class ListChangeCommand : public SpxCommand, public SpxEditedFields
 {
 public:
     ListChangeCommand(SoMField& list, ListChange change, ListChangeObserver* observer);
@@ -86,6 +87,7 @@ public:
     void execute() override {}
     void undo() override;
     void redo() override;
+    std::vector<SoField*> editedFields() const override;
 
 private:
     SoMField* list() const;
