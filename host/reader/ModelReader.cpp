@@ -108,7 +108,7 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
 {
     Assimp::Importer importer;
     importer.SetPropertyInteger(AI_CONFIG_PP_SBP_REMOVE, aiPrimitiveType_POINT | aiPrimitiveType_LINE);
-    importer.SetIOHandler(new RegularFiles); // the importer owns it
+    importer.SetIOHandler(new RegularFiles);             // the importer owns it
     importer.SetProgressHandler(new Progress(progress)); // the importer owns it
     const ScopedCLocale numbers;
     const aiScene* scene = read(importer, path);
