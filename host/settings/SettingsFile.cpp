@@ -42,10 +42,17 @@ public:
     bool getText(QByteArray& text)
     {
         m_settings->sync();
-        return isGood() && readFile(m_file.fileName(), LargestFile, text).isEmpty();
+        return isGood() && readFile(m_file.fileName(), LargestFile, text).isEmpty() && isWhole(text);
     }
 
 private:
+    // A full disk goes unnoticed by QSettings, which leaves an empty file or half of one then.
+    bool isWhole(const QByteArray& text) const
+    {
+        const int settings = m_settings->allKeys().size();
+        return settings == 0 || (text.endsWith('\n') && text.count('=') >= settings);
+    }
+
     QTemporaryFile m_file;
     std::optional<QSettings> m_settings;
 };

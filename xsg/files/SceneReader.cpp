@@ -59,7 +59,8 @@ bool isOfNodes(const SoField& field)
 
 xsg::SceneReader::~SceneReader()
 {
-    abandon();
+    if (m_phase != Phase::Done || m_root)
+        forgetReferences();
 }
 
 bool xsg::SceneReader::fail(std::size_t at, std::string problem)
@@ -204,6 +205,7 @@ std::vector<SoRef<SoNode>> xsg::SceneReader::abandon()
     m_pending.reset();
     m_labels.clear();
     std::vector<SoRef<SoNode>> nodes;
+    nodes.reserve(m_open.size() + 1);
     for (OpenNode& open : m_open)
         nodes.push_back(std::move(open.node));
     m_open.clear();
