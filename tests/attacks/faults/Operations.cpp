@@ -180,7 +180,8 @@ Outcome writePicture(const QString& folder)
 Outcome readPicture(const QString& folder)
 {
     SoSFImage image;
-    const bool isRead = TextureImageLoader::read(encoded(folder + Picture).constData(), image);
+    const auto whole = [](const SoImageSize& size, int /*bytesPerPixel*/) { return size; };
+    const bool isRead = TextureImageLoader::read(encoded(folder + Picture).constData(), whole, image);
     SbString text;
     image.get(text);
     return {isRead, {}, isRead ? QByteArray(text.getString()) : QByteArray()};

@@ -162,11 +162,13 @@ TEST_F(Autosaving, MoreThanFieldsTakesAnotherSnapshot)
     EXPECT_EQ(recovered(), current());
 }
 
+constexpr int Many = 100000; // take many turns to become text, on any machine
+
 TEST_F(Autosaving, WhatChangesWhileALargeSceneBecomesTextIsNotLost)
 {
-    addMaterials(20000);
+    addMaterials(Many);
     edit(0.5F);
-    auto* last = static_cast<SoMaterial*>(document.getRoot()->asGroup()->getChild(20000));
+    auto* last = static_cast<SoMaterial*>(document.getRoot()->asGroup()->getChild(Many));
     const auto* writer = autosave.findChild<SnapshotWriter*>();
     ASSERT_TRUE(waitFor([&] { return writer->isReading(); }));
     int edits = 0;
@@ -182,7 +184,7 @@ TEST_F(Autosaving, WhatChangesWhileALargeSceneBecomesTextIsNotLost)
 
 TEST_F(Autosaving, AChangeOfChildrenInterruptsASnapshotButNotForEver)
 {
-    addMaterials(20000);
+    addMaterials(Many);
     const auto* writer = autosave.findChild<SnapshotWriter*>();
     int interruptions = 0;
     while (scenes().isEmpty()) {

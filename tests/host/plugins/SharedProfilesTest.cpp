@@ -65,11 +65,12 @@ TEST_F(SharedProfiles, OneSessionChoosesWhatAnotherDoesNotKnow)
     other.read();
     add(one, only("Mine", {"A/a"}));
     other.setActiveProfile(other.findProfile("Edit"));
-    EXPECT_EQ(namesOf(written().profiles), (QStringList{"Default", "Edit", "Measure", "Mine"}));
+    EXPECT_EQ(namesOf(written().profiles), (QStringList{"Default", "Edit", "Measure", "Classic", "Mine"}));
     EXPECT_EQ(written().active, "Edit");
     EXPECT_TRUE(other.findProfile("Mine")) << "it has joined";
     add(other, only("Yours", {"A/b"}));
-    EXPECT_EQ(namesOf(written().profiles), (QStringList{"Default", "Edit", "Measure", "Mine", "Yours"}));
+    EXPECT_EQ(namesOf(written().profiles),
+              (QStringList{"Default", "Edit", "Measure", "Classic", "Mine", "Yours"}));
     EXPECT_EQ(written().active, "Edit");
     EXPECT_EQ(one.activeProfile()->name(), "Default") << "each session has an active one of its own";
 }
@@ -201,7 +202,7 @@ TEST_F(SharedProfiles, ProcessesAtOnceLoseNothing)
         QFile result(m_folder.filePath(QString("mine-%1").arg(number)));
         return result.open(QIODevice::WriteOnly) && result.write(mine.join(' ').toLatin1()) >= 0;
     });
-    QStringList expected{"Default", "Edit", "Measure"};
+    QStringList expected{"Default", "Edit", "Measure", "Classic"};
     for (int number = 0; number < Processes; ++number) {
         QFile result(m_folder.filePath(QString("mine-%1").arg(number)));
         ASSERT_TRUE(result.open(QIODevice::ReadOnly));

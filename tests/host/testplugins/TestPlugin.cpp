@@ -22,7 +22,7 @@
 #if defined TEST_PLUGIN_Good
 SPX_PLUGIN_NOTE("Test", "1.2.3")
 #elif defined TEST_PLUGIN_OtherContract
-SPX_PLUGIN_NOTE_OF("contract=2.0\nqt=" QT_VERSION_STR "\ncxx=" SPX_CXX_LIBRARY "\n")
+SPX_PLUGIN_NOTE_OF("contract=9.0\nqt=" QT_VERSION_STR "\ncxx=" SPX_CXX_LIBRARY "\n")
 #endif
 // The other variants have no note.
 

@@ -11,7 +11,9 @@
 
 #include <QDomDocument>
 
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <random>
 
 #include <sys/resource.h>
@@ -171,8 +173,8 @@ TEST_F(SharedCounterFile, AProtectedFileAndAnotherKindAreNotWritten)
     const QByteArray before = readFile(path());
     chmod(path().toLocal8Bit(), 0444);
     manager->saveProfile();
-    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: Cannot write file " + path() +
-                                        ":\nPermission denied."});
+    EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: Cannot write file " + path() + ":\n" +
+                                        std::strerror(EACCES) + "."});
     EXPECT_EQ(readFile(path()), before);
     const QString scene = folder.filePath("scene.xsg");
     FileAnswer answer(scene);
@@ -196,9 +198,8 @@ TEST_F(SharedCounterFile, SaysThatTheDiskIsFull)
     setrlimit(RLIMIT_FSIZE, &before);
     const QStringList said = boxes.take();
     ASSERT_EQ(said.size(), 1);
-    EXPECT_EQ(
-        said[0].toStdString(),
-        ("Performance counter profile: Cannot write file " + path() + ":\nFile too large.").toStdString());
+    EXPECT_EQ(said[0], "Performance counter profile: Cannot write file " + path() + ":\n" +
+                           QString::fromLocal8Bit(std::strerror(EFBIG)) + ".");
     saveView();
     EXPECT_EQ(profilesIn(readFile(path())), (QStringList{"first", "second"})) << "the next time";
 }
