@@ -95,7 +95,7 @@ private:
     FileWatch m_watch;
     FileStamp m_opening;      // of the file that is being opened, before it is read
     SelectionMemo m_reselect; // of what is being reloaded
-    quint64 m_droppable = 0; // the edit count up to which the user agreed to lose edits
+    quint64 m_droppable = 0;  // the edit count up to which the user agreed to lose edits
 };
 
 } // namespace scopix
