@@ -161,7 +161,7 @@ bool TableFile::writeTo(const QString& path)
                 tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
         return false; // cancelled
     }
-    return file.commit() ||
+    return (file.flush() && file.commit()) ||
            fail(tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
 }
 
