@@ -6,6 +6,7 @@
 #include "support/OutputFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -25,16 +26,22 @@ QString tr(const char* text)
     return QCoreApplication::translate("SettingsFile", text);
 }
 
-/// The settings in a text. QSettings reads and writes files only, waits for the locks of other programs, and
-/// leaves temporary files behind when it is killed: so it works on a private file.
+/// The settings in a text. QSettings reads and writes files only, and waits for the locks of other programs:
+/// so it works on a private file.
 class IniText
 {
 public:
+    /// To be read only.
     explicit IniText(const QByteArray& text)
     {
-        if (!m_file.open() || m_file.write(text) != text.size() || !m_file.flush())
-            return;
-        m_settings.emplace(m_file.fileName(), QSettings::IniFormat);
+        load(text);
+        m_file.remove(); // QSettings has read it
+    }
+    /// To be changed, in a file with a name like this.
+    IniText(const QByteArray& text, const QString& nameTemplate)
+        : m_file(nameTemplate)
+    {
+        load(text);
     }
     // Lines that are no settings are left out.
     bool isGood() const { return m_settings && m_settings->status() != QSettings::AccessError; }
@@ -46,6 +53,11 @@ public:
     }
 
 private:
+    void load(const QByteArray& text)
+    {
+        if (m_file.open() && m_file.write(text) == text.size() && m_file.flush())
+            m_settings.emplace(m_file.fileName(), QSettings::IniFormat);
+    }
     // A full disk goes unnoticed by QSettings, which leaves an empty file or half of one then.
     bool isWhole(const QByteArray& text) const
     {
@@ -56,6 +68,22 @@ private:
     QTemporaryFile m_file;
     std::optional<QSettings> m_settings;
 };
+
+const QString& privateSuffix()
+{
+    static const QString suffix = QStringLiteral(".scopix-");
+    return suffix;
+}
+
+// What programs left that were killed while they changed the settings; whoever holds the lock is alone with
+// them.
+void removeLeftovers(const QString& path)
+{
+    QDir folder = QFileInfo(path).dir();
+    for (const QString& name :
+         folder.entryList({QFileInfo(path).fileName() + privateSuffix() + QLatin1Char('*')}, QDir::Files))
+        folder.remove(name);
+}
 
 // A file that is not there holds no settings.
 QString readText(const QString& path, QByteArray& text)
@@ -100,7 +128,8 @@ QString SettingsFile::tryToChange(const std::function<void(QSettings&)>& act) co
     const QString reason = readText(m_path, before);
     if (!reason.isEmpty())
         return reason;
-    IniText ini(before);
+    removeLeftovers(m_path);
+    IniText ini(before, m_path + privateSuffix() + QStringLiteral("XXXXXX"));
     if (ini.isGood())
         act(ini.settings());
     QByteArray after;

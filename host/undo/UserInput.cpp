@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QThread>
 #include <QWidget>
 #include <QWindow>
@@ -111,8 +112,10 @@ bool UserInput::isActing() const
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event == std::exchange(m_passing, nullptr))
-        return false; // our own delivery of it
+    if (event == m_passing) { // our own delivery of it
+        m_passing = nullptr;
+        return false;
+    }
     if (isSeenAgain(watched, event))
         return true;
     noteHeld(watched, event);
@@ -175,10 +178,10 @@ bool UserInput::deliver(QObject* watched, QEvent* event, Scope::Who who)
         isInput(event->type()) && (event->type() != QEvent::Wheel || event->spontaneous());
     {
         const Scope scope(*this, who);
-        m_passing = event;
+        // Filters that come before this one may cause other events first.
+        const QScopedValueRollback<const QEvent*> passing(m_passing, event);
         qApp->notify(watched, event);
     }
-    m_passing = nullptr;
     auto* widget = receiver && receiver->isWidgetType() ? static_cast<QWidget*>(receiver.data()) : nullptr;
     if (widget && isPassedOn && !event->isAccepted() && goesUp(*widget, event->type())) {
         m_upNext = widget->parentWidget();

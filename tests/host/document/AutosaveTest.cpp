@@ -221,7 +221,7 @@ TEST_F(Autosaving, KeepsEverythingAtOnceWhereThereIsNoTime)
 
 TEST_F(Autosaving, ASceneThatIsReplacedIsNotLookedAtAnyMore)
 {
-    addMaterials(20000);
+    addMaterials(Many);
     edit(0.5F);
     const auto* writer = autosave.findChild<SnapshotWriter*>();
     ASSERT_TRUE(waitFor([&] { return writer->isReading(); }));

@@ -50,6 +50,8 @@ TEST_F(SharedSettings, LeaveNoOtherFileBehind)
 {
     QFile left(folder.filePath("window.ini.scopix-q1w2e3"));
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    QFile lock(left.fileName() + ".lock");
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     EXPECT_EQ(SettingsFile(path()).setValue("palette", "dark"), "");
     EXPECT_EQ(filesInFolder(), (QStringList{"settings.lock", "window.ini"}));
 }

@@ -496,3 +496,25 @@ TEST_F(Acting, AnEventReachesEachWidgetOnce)
         EXPECT_EQ(widget->wheels, 1);
     }
 }
+
+TEST_F(Acting, FiltersThatComeFirstMayCauseOtherEvents)
+{
+    // As a tool tip, which closes when the focus moves.
+    struct Closing : QObject {
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            if (event->type() == QEvent::FocusOut && ++focusOuts < 10) {
+                QEvent other(QEvent::User);
+                QCoreApplication::sendEvent(this, &other);
+            }
+            return false;
+        }
+        int focusOuts = 0;
+    } filter;
+    m_spin.setFocus();
+    pump();
+    qApp->installEventFilter(&filter);
+    m_slider.setFocus();
+    EXPECT_EQ(QApplication::focusWidget(), &m_slider);
+    EXPECT_LT(filter.focusOuts, 10) << "it was delivered again and again";
+}

@@ -134,6 +134,17 @@ TEST_F(Gesture, ASecondButtonOfTheMouseDoesNotSplitADrag)
     EXPECT_EQ(steps(), 1);
 }
 
+TEST_F(Gesture, AKeyDuringADragIsPartOfIt)
+{
+    QTest::mousePress(&m_button, Qt::LeftButton);
+    QTest::keyClick(&m_other, Qt::Key_Right);
+    QTest::mouseRelease(&m_button, Qt::LeftButton);
+    pump();
+    EXPECT_EQ(count("execute other"), 1);
+    EXPECT_EQ(count("execute clicked"), 1);
+    EXPECT_EQ(steps(), 1);
+}
+
 TEST_F(Gesture, AnEditAfterTheReleaseIsNotPartOfIt)
 {
     QTest::mouseClick(&m_button, Qt::LeftButton);
