@@ -44,7 +44,7 @@ public:
         load(text);
     }
     // Lines that are no settings are left out.
-    bool isGood() const { return m_settings && m_settings->status() != QSettings::AccessError; }
+    bool isGood() const { return m_settings && m_settings->status() != QSettings::AccessError && m_isLoaded; }
     QSettings& settings() { return *m_settings; }
     bool getText(QByteArray& text)
     {
@@ -55,8 +55,11 @@ public:
 private:
     void load(const QByteArray& text)
     {
-        if (m_file.open() && m_file.write(text) == text.size() && m_file.flush())
-            m_settings.emplace(m_file.fileName(), QSettings::IniFormat);
+        if (!m_file.open() || m_file.write(text) != text.size() || !m_file.flush())
+            return;
+        m_settings.emplace(m_file.fileName(), QSettings::IniFormat);
+        // A failure to read goes unnoticed by QSettings too.
+        m_isLoaded = !text.contains('=') || !m_settings->allKeys().isEmpty();
     }
     // A full disk goes unnoticed by QSettings, which leaves an empty file or half of one then.
     bool isWhole(const QByteArray& text) const
@@ -67,6 +70,7 @@ private:
 
     QTemporaryFile m_file;
     std::optional<QSettings> m_settings;
+    bool m_isLoaded = false;
 };
 
 const QString& privateSuffix()
