@@ -26,7 +26,6 @@ FindBar::FindBar(SceneFinder& finder, QWidget* parent)
     setObjectName(QStringLiteral("findBar"));
     m_line->setPlaceholderText(tr("Find in the scene"));
     m_line->setAccessibleName(tr("Find in the scene"));
-    m_line->setClearButtonEnabled(true);
     m_line->setToolTip(
         tr("<p>Finds nodes by name, type or text; also <b>type:Light</b>, <b>name:door</b>, "
            "<b>field:radius</b>, <b>value:0.5</b>, <b>transparency&gt;0</b>, <b>translation.x=1</b>, "

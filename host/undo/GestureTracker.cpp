@@ -194,8 +194,8 @@ void GestureTracker::keyPressed(QWidget* widget, const QKeyEvent& event)
     m_keyEvent = &event;
     m_keyReceiver = widget;
     const ActiveGesture* held = visibleTop();
-    if (held && held->kind == Kind::Mouse && !held->released)
-        return; // as the key that gives a drag back
+    if (event.key() == Qt::Key_Escape && held && held->kind == Kind::Mouse && !held->released)
+        return; // gives a drag back
     const bool isInput = TextInput::isTextInput(widget);
     const bool steps = isInput && isStep(event.key()) && TextInput::isSingleLine(widget);
     if (isInput && !steps) {

@@ -16,9 +16,9 @@ namespace scopix
 /// Determines which inputs of the user belong together. It watches every event of the program and gives each
 /// gesture a number, from its beginning to its end, without any time limits:
 ///
-///   mouse     from the press until the release of the last button has been delivered, keys in between
-///   included; typing    a run of keys in one text input, with what the loss of focus that ends it applies;
-///   after
+///   mouse     from the press until the release of the last button has been delivered, and the Escape key
+///             that gives a drag back;
+///   typing    a run of keys in one text input, with what the loss of focus that ends it applies; after
 ///             Enter, the next key begins another run; an arrow key of a spin box is a key;
 ///   key       elsewhere, from a key's press (held, with its repeats) until its release has been delivered;
 ///   wheel     a burst over one widget, ended by a key, a button or the wheel over another widget;

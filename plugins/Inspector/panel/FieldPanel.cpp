@@ -99,7 +99,6 @@ QLayout* FieldPanel::makeFilter()
 {
     m_filter->setObjectName(QStringLiteral("fieldFilter"));
     m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setClearButtonEnabled(true);
     m_filter->setAccessibleName(tr("Filter the fields by name, meaning, type or value"));
     m_filter->setToolTip(tr("Shows the fields whose name, meaning, type or value has these words."));
     m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 8);
