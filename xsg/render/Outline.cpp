@@ -84,8 +84,8 @@ void xsg::Outline::fillTarget(Target& target, int width, int height, GLint forma
     const GLenum kind = isDepth ? GL_DEPTH_COMPONENT : format == GL_R8 ? GL_RED : GL_RGBA;
     glTexImage2D(GL_TEXTURE_2D, 0, format, width, height, 0, kind,
                  isDepth ? GL_UNSIGNED_INT : GL_UNSIGNED_BYTE, nullptr);
-    for (const GLenum filter : {GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER})
-        glTexParameteri(GL_TEXTURE_2D, filter, GL_NEAREST);
+    for (const int filter : {GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER})
+        glTexParameteri(GL_TEXTURE_2D, static_cast<GLenum>(filter), GL_NEAREST);
     glBindTexture(GL_TEXTURE_2D, 0);
     glBindFramebuffer(GL_FRAMEBUFFER, target.framebuffer.get());
     glFramebufferTexture2D(GL_FRAMEBUFFER, isDepth ? GL_DEPTH_ATTACHMENT : GL_COLOR_ATTACHMENT0,
