@@ -111,6 +111,9 @@ private:
         const SoRef<SoNode> scene = reader.takeScene();
         require(!scene == !whole, "in pieces it is no scene, or only so: " + m_error + reader.getProblem());
         if (!scene) {
+            // How far was looked ahead decides whether a byte 0 is reported or what is wrong before it.
+            if (text.find('\0') != std::string::npos)
+                return;
             const std::string place =
                 std::to_string(reader.getLine()) + ": Column " + std::to_string(reader.getColumn()) + ": ";
             require(m_error == "fuzzed.xsg:" + place + reader.getProblem() + ".",

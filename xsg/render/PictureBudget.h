@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
 
 namespace xsg
@@ -33,7 +34,10 @@ public:
 
     static std::int64_t bytesOf(const SoImageSize& size, int bytesPerPixel)
     {
-        return std::int64_t{size.width} * size.height * bytesPerPixel;
+        // Two sides can announce more than any number of bytes counts.
+        const std::int64_t pixels = std::int64_t{size.width} * size.height;
+        constexpr std::int64_t Most = std::numeric_limits<std::int64_t>::max();
+        return pixels > Most / bytesPerPixel ? Most : pixels * bytesPerPixel;
     }
     std::int64_t getBytes() const { return m_bytes; }
     std::int64_t getLeft() const { return m_bytes - m_taken; }
