@@ -86,7 +86,10 @@ void ScenePanel::filter()
     m_filterSoon.stop();
     if (!m_bar->isFiltering())
         return m_tree->showAll();
-    m_tree->showOnly(withParents(m_finder->getFound()));
+    SceneTreeModel::NodeSet nodes = withParents(m_finder->getFound());
+    if (m_tree->getModel().isShowingOnly(nodes))
+        return; // a repeated search that found the same leaves the rows as the user has folded them
+    m_tree->showOnly(std::move(nodes));
     expandFound();
 }
 

@@ -40,6 +40,7 @@ public:
     /// only.
     using NodeSet = std::unordered_set<const SoNode*>;
     void showOnly(NodeSet nodes);
+    bool isShowingOnly(const NodeSet& nodes) const { return m_shown == nodes; }
     void showAll();
     bool isShowingAll() const { return !m_shown; }
 

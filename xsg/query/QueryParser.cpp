@@ -44,11 +44,6 @@ auto findSpelled(const Table& table, std::string_view text)
     return std::find_if(table.begin(), table.end(), [&](const auto& each) { return each.text == text; });
 }
 
-bool isSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
 // x y z w and r g b a of "translation.x"; -1 for others.
 int componentOf(std::string_view name)
 {

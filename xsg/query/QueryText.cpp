@@ -23,11 +23,6 @@ bool sameLetter(char any, char lowerCase)
     return lower(any) == lowerCase;
 }
 
-bool isSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
 // std::from_chars refuses a plus sign.
 bool readNumber(const char*& at, const char* end, double& number)
 {
@@ -43,6 +38,11 @@ bool readNumber(const char*& at, const char* end, double& number)
 }
 
 } // namespace
+
+bool isSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 std::string toLower(std::string_view text)
 {

@@ -8,6 +8,7 @@
 namespace xsg
 {
 
+bool isSpace(char c);
 /// Letters of ASCII; what is beyond stays.
 std::string toLower(std::string_view text);
 /// Whether `text` contains `lower`, which is in lower case.

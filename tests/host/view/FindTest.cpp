@@ -153,6 +153,18 @@ TEST_F(Find, FollowsTheScene)
     EXPECT_TRUE(QTest::qWaitFor([this] { return rowsShown(root.get()) == Houses / 2; }));
 }
 
+TEST_F(Find, ARepeatedSearchThatFindsTheSameLeavesRowsFolded)
+{
+    QTest::mouseClick(button("action-filter"), Qt::LeftButton);
+    type("name:fence");
+    tree().collapse(tree().getModel().indexOf(house(0)));
+    QSignalSpy repeated(&finder(), &SceneFinder::foundChanged);
+    house(1)->setName("Elsewhere");
+    SoSensorQueue::getInstance().process();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !repeated.isEmpty(); }));
+    EXPECT_FALSE(tree().isExpanded(tree().getModel().indexOf(house(0))));
+}
+
 TEST_F(Find, SaysWhatIsWrongWithTheQuery)
 {
     type("transparency>");
