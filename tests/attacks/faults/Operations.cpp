@@ -2,6 +2,7 @@
 #include "Operations.h"
 
 #include "document/Autosave.h"
+#include "document/CounterBackup.h"
 #include "document/RecentFiles.h"
 #include "document/SceneDocument.h"
 #include "model/ModelFile.h"
@@ -34,6 +35,7 @@ const QString Recent = QStringLiteral("/window.ini");
 const QString Library = QStringLiteral("/libPlugin.so");
 const QString PreferencesFile = QStringLiteral("/preferences.conf");
 const QString Model = QStringLiteral("/model.result");
+const QString Counters = QStringLiteral("/counters.xml");
 
 void write(const QString& path, const QByteArray& content)
 {
@@ -245,6 +247,42 @@ Outcome writeModel(const QString& folder)
     return {isWritten, {}, {}};
 }
 
+QByteArray countersFile(int profiles)
+{
+    return "<perfCounterModule>" + QByteArray("<profile/>").repeated(profiles) + "</perfCounterModule>";
+}
+
+void keepCounters(const QString& folder, int profiles)
+{
+    write(folder + Counters, countersFile(profiles));
+    CounterBackup(folder + Counters).start();
+}
+
+void prepareCounters(const QString& folder)
+{
+    qputenv("XDG_CONFIG_HOME", encoded(folder + QStringLiteral("/settings")));
+    keepCounters(folder, 1000);
+    write(folder + Counters, countersFile(2000));
+}
+
+Outcome copyCounters(const QString& folder)
+{
+    CounterBackup(folder + Counters).start();
+    return {true, {}, {}};
+}
+
+void damageCounters(const QString& folder)
+{
+    prepareCounters(folder);
+    write(folder + Counters, countersFile(2000).chopped(5));
+}
+
+Outcome restoreCounters(const QString& folder)
+{
+    const QString error = CounterBackup(folder + Counters).restore();
+    return {error.isEmpty(), error, {}};
+}
+
 void preparePreferences(const QString& folder)
 {
     write(folder + PreferencesFile, "SCOPIX_TEST_VALUE = 17\n");
@@ -285,6 +323,8 @@ std::vector<Operation> allOperations()
         {"ReadModelResult", Operation::Reads, Operation::IsSilent, prepareModel, readModel},
         {"ReadPreferences", Operation::Reads, Operation::IsSilent, preparePreferences, readPreferences},
         {"FillDataFolder", Operation::Writes, Operation::Speaks, nothing, fillDataFolder},
+        {"CopyCounters", Operation::Writes, Operation::IsSilent, prepareCounters, copyCounters},
+        {"RestoreCounters", Operation::Writes, Operation::Speaks, damageCounters, restoreCounters},
         {"WriteModelResult", Operation::Writes, Operation::IsSilent, nothing, writeModel},
     };
 }

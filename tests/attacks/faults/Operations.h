@@ -17,7 +17,8 @@ struct Outcome {
 
 /// One thing that the program does with files of the user's.
 struct Operation {
-    enum Kind { Reads, Writes };
+    /// One that writes in place may leave the new content's beginning before the old one's end.
+    enum Kind { Reads, Writes, WritesInPlace };
     enum Words { Speaks, IsSilent }; // of what could not be done
 
     const char* name;
