@@ -4,14 +4,16 @@
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/core/Context.h>
 #include <xsg/errors/SoError.h>
+#include <xsg/nodes/groups/SoInstances.h>
 
-#include <unordered_set>
+#include <set>
+#include <utility>
 
 namespace
 {
 
 struct ReportedRoots {
-    std::unordered_set<std::uint64_t> ids;
+    std::set<std::pair<std::uint64_t, std::string>> sentences; // of a root's number
 };
 
 std::string nameOf(const SoNode& root)
@@ -26,7 +28,7 @@ std::string nameOf(const SoNode& root)
 void xsg::reportBound(const SoNode& root, const std::string& rest)
 {
     static ReportedRoots& reported = Context::get().state<ReportedRoots>();
-    if (reported.ids.insert(root.getNodeId()).second)
+    if (reported.sentences.emplace(root.getNodeId(), rest).second)
         SoError::post((nameOf(root) + ' ' + rest).c_str());
 }
 
@@ -35,4 +37,10 @@ void xsg::reportRepeats(const SoNode& root)
     reportBound(root, "has groups that stand in so many places that only a part of it is shown, measured and "
                       "searched: the first " +
                           std::to_string(SoTraversal::MostRepeats) + " repeated nodes.");
+}
+
+void xsg::reportInstances(const SoNode& root)
+{
+    reportBound(root, "has instances within instances that come to more than " +
+                          std::to_string(SoInstances::MostCopies) + " copies; the others are left out.");
 }

@@ -82,6 +82,8 @@ void SoTraversal::begin(SoNode* root)
     m_repeating = 0;
     m_repeats = 0;
     m_isCut = false;
+    m_state.lacksInstances = false;
+    m_lacksInstances = false;
     visit(root);
 }
 
@@ -98,6 +100,8 @@ void SoTraversal::end()
 {
     if (m_isCut)
         xsg::reportRepeats(*m_root);
+    if (m_lacksInstances)
+        xsg::reportInstances(*m_root);
 }
 
 bool SoTraversal::mayVisit()
@@ -158,6 +162,7 @@ void SoTraversal::openGroup(SoGroup* group)
     if (isolates)
         saveState();
     group->apply(m_state);
+    m_lacksInstances |= m_state.lacksInstances;
     const SoChildRange range = group->getChosenChildren(m_state);
     enterGroup(group);
     const bool isPlanned = std::exchange(m_hasNewPlan, false);

@@ -89,4 +89,5 @@ private:
     int m_repeating = 0;                      // open groups that were met before
     int m_repeats = 0;                        // visits below such groups
     bool m_isCut = false;
+    bool m_lacksInstances = false;
 };

@@ -9,6 +9,7 @@
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/groups/SoInstances.h>
 
 namespace
 {
@@ -130,4 +131,25 @@ TEST_F(SharedGroups, DoNotLimitScenesThatRepeatNothing)
     counter.traverse(root.get());
     EXPECT_FALSE(counter.isCut());
     EXPECT_EQ(counter.getNumVisited(), Many + 1);
+}
+
+TEST_F(SharedGroups, OfInstancesThatMultiplySomeAreLeftOutAndThatIsSaidOnce)
+{
+    constexpr int Side = 1025; // one more than the root of the bound
+    const SoRef<SoInstances> outer(new SoInstances);
+    outer->matrices.setNum(Side);
+    auto* inner = new SoInstances;
+    outer->addChild(inner);
+    inner->matrices.setNum(Side - 1);
+    inner->addChild(new SoCube);
+    Counter counter;
+    counter.traverse(outer.get());
+    counter.traverse(outer.get());
+    ASSERT_EQ(sentences.size(), 1U);
+    EXPECT_NE(sentences.front().find("1048576 copies"), std::string::npos) << sentences.front();
+    inner->matrices.setNum(Side - 2);
+    const SoRef<SoSeparator> other(new SoSeparator);
+    other->addChild(outer.get());
+    counter.traverse(other.get());
+    EXPECT_EQ(sentences.size(), 1U);
 }

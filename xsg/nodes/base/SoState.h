@@ -76,6 +76,7 @@ public:
     /// Where an instancing group repeats what is below: from the coordinates at the group to the world's, the
     /// model matrix then ending at the group. Null: once.
     SoShared<SbMatrix> instances;
+    bool lacksInstances = false; // there would be more than an instancing group takes
     SbVec3f eye; // of the camera, in world coordinates; what chooses by distance compares with it
     bool chooseAll =
         false; // what chooses by distance takes all its children, as for a box that encloses each

@@ -10,11 +10,14 @@ void SoInstances::apply(SoState& state) const
 {
     auto all = std::make_shared<std::vector<SbMatrix>>();
     const int count = matrices.getNum();
-    for (int i = 0; i < count && all->size() < MostCopies; ++i)
+    bool isFull = false;
+    for (int i = 0; i < count && !isFull; ++i)
         state.forEachInstance([&](const SbMatrix& toWorld) {
-            if (all->size() < MostCopies)
+            isFull = all->size() == MostCopies;
+            if (!isFull)
                 all->push_back(matrices[i] * toWorld);
         });
+    state.lacksInstances |= isFull;
     state.instances = std::move(all);
     state.modelMatrix = SbMatrix();
 }

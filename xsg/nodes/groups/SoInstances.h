@@ -11,7 +11,8 @@ class XSG_API SoInstances : public SoTyped<SoInstances, SoGroup>
 public:
     static constexpr const char* ClassName = "Instances";
 
-    /// Instances within instances multiply; more copies than this are left out.
+    /// Instances within instances multiply; more copies than this are left out, and the
+    /// state says so.
     static constexpr std::size_t MostCopies = 1U << 20U;
 
     SoMFMatrix matrices{this, "matrices"}; // where each copy stands; none: nothing is shown
