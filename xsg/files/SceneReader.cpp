@@ -12,8 +12,6 @@
 namespace
 {
 
-// How much of a wrong text an error shows.
-constexpr std::size_t ShownLength = 40;
 // What some editors put before a text.
 constexpr std::string_view ByteOrderMark = "\xef\xbb\xbf";
 // Longer values are read by another thread, as far as the reader is given little time.
@@ -25,28 +23,9 @@ constexpr std::size_t LongestWord = std::size_t{64} << 10U;
 constexpr std::size_t MostBlanks = std::size_t{64} << 10U;
 constexpr std::size_t LargestPiece = std::size_t{16} << 20U;
 
-std::string shown(std::string_view text)
-{
-    const std::string_view line = text.substr(0, text.find('\n'));
-    return line.size() <= ShownLength ? std::string(line) : std::string(line.substr(0, ShownLength)) + "...";
-}
-
-std::string quoted(std::string_view text)
-{
-    return "\"" + shown(text) + "\"";
-}
-
 std::string typeOf(const SoNode& node)
 {
     return node.getTypeId().getName().getString();
-}
-
-// A node of an unknown type has whatever field a file names.
-SoField* fieldOf(SoNode* node, SbName fieldName)
-{
-    auto* unknown =
-        node->getTypeId() == SoUnknownNode::getClassTypeId() ? static_cast<SoUnknownNode*>(node) : nullptr;
-    return unknown ? unknown->addField(fieldName) : node->getField(fieldName);
 }
 
 bool isOfNodes(const SoField& field)
@@ -60,22 +39,15 @@ bool isOfNodes(const SoField& field)
 xsg::SceneReader::~SceneReader()
 {
     if (m_phase != Phase::Done || m_root)
-        forgetReferences();
+        m_references.release();
 }
 
 bool xsg::SceneReader::fail(std::size_t at, std::string problem)
 {
     if (m_text.isCutShort() && m_phase != Phase::FirstLine)
-        return failAt(m_text.placeOf(m_text.getEnd()),
-                      "a byte 0 stands here, which a text has not: the file is damaged, or no scene");
-    return failAt(m_text.placeOf(at), std::move(problem));
-}
-
-bool xsg::SceneReader::failAt(Place place, std::string problem)
-{
-    m_problemPlace = place;
-    m_problem = std::move(problem);
-    return false;
+        return m_fault.set(m_text.placeOf(m_text.getEnd()),
+                           "a byte 0 stands here, which a text has not: the file is damaged, or no scene");
+    return m_fault.set(m_text.placeOf(at), std::move(problem));
 }
 
 void xsg::SceneReader::skipBlanks()
@@ -129,7 +101,7 @@ bool xsg::SceneReader::readQuoted(std::string& out)
 std::string xsg::SceneReader::quotedFrom(std::size_t at)
 {
     m_text.has(at + ShownLength);
-    return quoted(m_text.from(at));
+    return xsg::quotedStart(m_text.from(at));
 }
 
 bool xsg::SceneReader::advance(Clock::time_point until)
@@ -137,7 +109,7 @@ bool xsg::SceneReader::advance(Clock::time_point until)
     m_until = until;
     while (m_phase != Phase::Done && !isWaiting()) {
         if (!step()) {
-            forgetReferences();
+            m_references.release();
             m_phase = Phase::Done;
         }
         if (Clock::now() >= until)
@@ -160,35 +132,18 @@ bool xsg::SceneReader::step()
         return readFirstLine();
     case Phase::Items:
         return readItems();
-    case Phase::References: // a field may refer to a node that comes later, so all references are made now
-        return nextOf(m_nodeValues, Phase::Sources, &SceneReader::resolve);
-    case Phase::Sources: // and so are all connections
-        return nextOf(m_connections, Phase::Order, &SceneReader::findSource);
-    case Phase::Order:
-        return nextOf(m_connections, Phase::Connections, &SceneReader::orderSourcesFirst);
-    case Phase::Connections:
-        return nextOf(m_sourcesFirst, Phase::Values, &SceneReader::connect);
-    case Phase::Values:
-        return nextOf(m_connections, Phase::Done, &SceneReader::restoreValue);
+    case Phase::References:
+        m_phase = m_references.isDone() ? Phase::Done : Phase::References;
+        return m_references.step();
     case Phase::Done:
         break;
     }
     return true;
 }
 
-template <class Items, class Act>
-bool xsg::SceneReader::nextOf(Items& items, Phase after, Act act)
-{
-    if (m_next < items.size())
-        return std::invoke(act, *this, items[m_next++]);
-    m_next = 0;
-    m_phase = after;
-    return true;
-}
-
 SoRef<SoNode> xsg::SceneReader::takeScene()
 {
-    return m_problem.empty() ? std::move(m_root) : nullptr;
+    return m_fault.problem.empty() ? std::move(m_root) : nullptr;
 }
 
 SoRef<SoNode> xsg::SceneReader::read()
@@ -200,10 +155,10 @@ SoRef<SoNode> xsg::SceneReader::read()
 std::vector<SoRef<SoNode>> xsg::SceneReader::abandon()
 {
     if (m_phase != Phase::Done || m_root)
-        forgetReferences();
+        m_references.release();
     m_phase = Phase::Done;
     m_pending.reset();
-    m_labels.clear();
+    m_references.forgetLabels();
     std::vector<SoRef<SoNode>> nodes;
     nodes.reserve(m_open.size() + 1);
     for (OpenNode& open : m_open)
@@ -281,7 +236,7 @@ bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
         return fail(at, "a " + typeOf(*m_open.back().node) +
                             " has no children; a field such as \"name: value\" or \"}\" was expected "
                             "instead of " +
-                            quoted(typeName));
+                            quotedStart(typeName));
     std::string name;
     skipBlanks();
     const bool hasName = peek() == '"';
@@ -294,7 +249,7 @@ bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
             return fail(m_at, "a label was expected after \"@\"");
     }
     if (!accept('{'))
-        return fail(m_at, "\"{\" was expected after " + quoted(typeName));
+        return fail(m_at, "\"{\" was expected after " + quotedStart(typeName));
     const SbName type{SbString(typeName)};
     const SoType known = SoType::fromName(type);
     const bool isKnown = known.isDerivedFrom(SoNode::getClassTypeId()) && known.canCreateInstance();
@@ -313,7 +268,7 @@ bool xsg::SceneReader::closeNode()
     // Children come into their group when they are complete, so that each change passes few groups.
     const OpenNode closed = std::move(m_open.back());
     m_open.pop_back();
-    if (!closed.label.empty() && !m_labels.emplace(closed.label, closed.node).second)
+    if (!closed.label.empty() && !m_references.addLabel(closed.label, closed.node))
         return fail(m_at - 1, "the label @" + closed.label + " is already another node's");
     return place(closed.node, m_at);
 }
@@ -335,44 +290,24 @@ bool xsg::SceneReader::readReference()
 {
     const std::size_t start = m_at++;
     const std::string label = readWord();
-    SoNode* known = findLabelled(label);
+    SoNode* known = m_references.find(label);
     if (!known)
         return fail(start, "the label @" + label + " is not that of a node that is complete here");
     return place(known, start);
 }
 
-SoNode* xsg::SceneReader::findLabelled(const std::string& label) const
-{
-    if (!m_recorded) {
-        const auto known = m_labels.find(label);
-        return known == m_labels.end() ? nullptr : known->second.get();
-    }
-    std::size_t place = 0;
-    const bool isNumber = xsg::TextReader(label).readNumber(place);
-    return isNumber && place < m_recorded->size() ? (*m_recorded)[place] : nullptr;
-}
-
 bool xsg::SceneReader::readField(const std::string& name, std::size_t at)
 {
     SoNode* node = m_open.back().node.get();
-    SoField* field = fieldOf(node, SbName(SbString(name)));
+    SoField* field = xsg::fieldOf(node, SbName(SbString(name)));
     if (!field)
-        return fail(at, "a " + typeOf(*node) + " has no field " + quoted(name) +
+        return fail(at, "a " + typeOf(*node) + " has no field " + quotedStart(name) +
                             "; a field of it, a node or \"}\" was expected");
     // The value begins on the line of the field's name; where it does not, there is none.
     while (peek() != '\n' && xsg::TextReader::isBlank(peek()))
         ++m_at;
     m_pending.emplace(Value{field, m_at, {}, {}, {}});
     return readValue();
-}
-
-bool xsg::SceneReader::refuseValue(const SoField& field, std::string_view value, Place place)
-{
-    // In a file written by hand the next field may well follow on the same line.
-    const bool goesOn = value.find(": ") != std::string_view::npos;
-    return failAt(place, quoted(value) + " is no value of " + field.getName().getString() + ", which is a " +
-                             field.getTypeId().getName().getString() +
-                             (goesOn ? "; each field has a line of its own" : ""));
 }
 
 // The pending one's, as far as it is there; what is long takes several calls.
@@ -401,14 +336,14 @@ bool xsg::SceneReader::readValue()
 bool xsg::SceneReader::takeValue(std::string_view value)
 {
     SoField* field = m_pending->field;
-    const Place place = m_text.placeOf(m_pending->start);
+    const SceneText::Place at = m_text.placeOf(m_pending->start);
     m_pending.reset();
     if (!value.empty() && isOfNodes(*field)) {
-        m_nodeValues.push_back({field, std::string(value), place});
+        m_references.addNodes(field, std::string(value), at);
     } else if (!value.empty()) {
         m_value.edit().assign(value);
-        if (!m_recorded && !field->set(m_value))
-            return refuseValue(*field, value, place);
+        if (!m_references.hasNumbers() && !field->set(m_value))
+            return m_fault.refuse(at, *field, value);
     }
     return readMarks(field);
 }
@@ -450,7 +385,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
         const std::size_t start = m_at;
         if (accept('!')) {
             const std::string mark = readWord();
-            if (m_recorded && mark == "default")
+            if (m_references.hasNumbers() && mark == "default")
                 m_isDefault = true;
             else if (mark != "ignored")
                 return fail(start, "\"!ignored\" was expected");
@@ -467,118 +402,30 @@ bool xsg::SceneReader::readMarks(SoField* field)
 
 bool xsg::SceneReader::readConnection(SoField* field, std::size_t start)
 {
-    Connection wanted{field, {}, {}, m_text.placeOf(start), nullptr, {}};
+    std::string label;
     bool good = accept('-') && accept('@');
     if (good)
-        wanted.label = readWord();
+        label = readWord();
     good = good && accept('.');
     if (!good)
         return fail(start, "\"<- @label.field\" was expected");
-    wanted.sourceName = SbName(SbString(readWord()));
-    m_connections.push_back(std::move(wanted));
-    return true;
-}
-
-bool xsg::SceneReader::resolve(const NodeValue& wanted)
-{
-    xsg::TextReader in(wanted.text);
-    auto* list = dynamic_cast<SoMFNode*>(wanted.field);
-    const bool isList = list && in.accept('[');
-    std::vector<SoRef<SoNode>> nodes;
-    in.skipBlanks();
-    while (isList ? !in.accept(']') : nodes.empty()) {
-        if (!readNode(in, nodes.emplace_back()))
-            return refuseValue(*wanted.field, wanted.text, wanted.place);
-        if (isList)
-            in.skipSeparator();
-    }
-    if (!in.onlyBlanksLeft())
-        return refuseValue(*wanted.field, wanted.text, wanted.place);
-    if (list)
-        list->setValues(std::move(nodes));
-    else
-        static_cast<SoSFNode*>(wanted.field)->setValue(nodes.front());
-    return true;
-}
-
-// A scene that is given up must not keep itself alive.
-void xsg::SceneReader::forgetReferences()
-{
-    if (m_phase < Phase::References || m_recorded)
-        return;
-    for (const NodeValue& wanted : m_nodeValues) {
-        if (auto* list = dynamic_cast<SoMFNode*>(wanted.field))
-            list->setNum(0);
-        else
-            static_cast<SoSFNode*>(wanted.field)->setValue(nullptr);
-    }
-}
-
-bool xsg::SceneReader::readNode(xsg::TextReader& in, SoRef<SoNode>& node) const
-{
-    if (!in.accept('@'))
-        return xsg::ValueText<SoRef<SoNode>>::read(in, node) && in.atValueEnd();
-    node = findLabelled(std::string(in.readWord()));
-    return node && in.atValueEnd();
-}
-
-bool xsg::SceneReader::findSource(Connection& wanted)
-{
-    SoNode* node = findLabelled(wanted.label);
-    wanted.source = node ? fieldOf(node, wanted.sourceName) : nullptr;
-    if (!wanted.source)
-        return failAt(wanted.place, "there is no field @" + wanted.label + "." +
-                                        wanted.sourceName.getString() + " to connect from");
-    if (!wanted.field->isDefault())
-        wanted.field->get(wanted.value);
-    m_unordered[wanted.field] = &wanted;
-    return true;
-}
-
-// A field that is connected notifies its dependents. In this order it has none yet, however long the chain
-// is.
-bool xsg::SceneReader::orderSourcesFirst(const Connection& connection)
-{
-    const std::size_t before = m_sourcesFirst.size();
-    for (auto next = m_unordered.find(connection.field); next != m_unordered.end();
-         next = m_unordered.find(m_sourcesFirst.back()->source)) {
-        m_sourcesFirst.push_back(next->second);
-        m_unordered.erase(next);
-    }
-    std::reverse(m_sourcesFirst.begin() + static_cast<std::ptrdiff_t>(before), m_sourcesFirst.end());
-    return true;
-}
-
-bool xsg::SceneReader::connect(const Connection* wanted)
-{
-    return wanted->field->connectFrom(wanted->source) ||
-           failAt(wanted->place, std::string(wanted->field->getName().getString()) +
-                                     " cannot be connected from a " +
-                                     wanted->source->getTypeId().getName().getString() +
-                                     ", or would in the end be connected from itself");
-}
-
-// A connected field may have been written since its source last changed, and then keeps that value.
-bool xsg::SceneReader::restoreValue(const Connection& made)
-{
-    if (!made.value.isNull())
-        made.field->setWithoutPropagation(made.value);
+    m_references.addConnection(field, std::move(label), SbName(SbString(readWord())), m_text.placeOf(start));
     return true;
 }
 
 bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart part)
 {
-    m_recorded = &nodes;
+    m_references.useNumbers(nodes);
     m_phase = Phase::Items;
     const std::string label = accept('@') ? readWord() : std::string();
-    SoNode* node = findLabelled(label);
+    SoNode* node = m_references.find(label);
     if (!node)
         return fail(0, "a record starts with \"@\" and the number of a node");
     m_open.push_back({node, {}});
     skipBlanks();
     const std::size_t start = m_at;
     const std::string name = readWord();
-    SoField* field = peek() == ':' ? fieldOf(node, SbName(SbString(name))) : nullptr;
+    SoField* field = peek() == ':' ? xsg::fieldOf(node, SbName(SbString(name))) : nullptr;
     if (!field)
         return fail(start, "a field of the " + typeOf(*node) + " was expected");
     ++m_at;
@@ -597,38 +444,26 @@ bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart 
 
 bool xsg::SceneReader::applyRecord(SoField& field, RecordPart part)
 {
-    const bool isConnected = !m_connections.empty();
-    if (isConnected && !findSource(m_connections.front()))
+    const bool isConnected = m_references.hasConnection();
+    const SoField* source = isConnected ? m_references.findSource() : nullptr;
+    if (isConnected && !source)
         return false;
-    const SoField* source = isConnected ? m_connections.front().source : nullptr;
     if (part == RecordPart::Value)
         return setRecorded(field);
     if (field.getConnectedField() == source)
         return true;
     if (part == RecordPart::Disconnection)
         field.disconnect();
-    return part == RecordPart::Disconnection || connect(&m_connections.front());
+    return part == RecordPart::Disconnection || m_references.connect();
 }
 
 bool xsg::SceneReader::setRecorded(SoField& field)
 {
     SbString text = m_value;
-    if (!m_nodeValues.empty() && !textOfNodes(m_nodeValues.front(), text))
+    if (!m_references.textOfNodes(text))
         return false;
     if (!field.setWithoutPropagation(text))
-        return refuseValue(field, text.str(), m_text.placeOf(0));
+        return m_fault.refuse(m_text.placeOf(0), field, text.str());
     field.setDefault(m_isDefault);
-    return true;
-}
-
-// As a field writes it that stands alone: by names that find the nodes while they live.
-bool xsg::SceneReader::textOfNodes(const NodeValue& wanted, SbString& text)
-{
-    SoSFNode single;
-    SoMFNode list;
-    SoField& field = dynamic_cast<SoMFNode*>(wanted.field) ? static_cast<SoField&>(list) : single;
-    if (!resolve({&field, wanted.text, wanted.place}))
-        return false;
-    field.get(text);
     return true;
 }

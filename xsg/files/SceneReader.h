@@ -2,19 +2,17 @@
 #pragma once
 
 #include <xsg/core/SoField.h>
+#include <xsg/files/SceneReferences.h>
 #include <xsg/files/SceneText.h>
 #include <xsg/nodes/base/SoNode.h>
-#include <xsg/values/SbValueText.h>
 #include <xsg/values/ValueScan.h>
 
 #include <chrono>
-#include <deque>
 #include <functional>
 #include <future>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace xsg
@@ -54,9 +52,9 @@ public:
     void setNodeListener(std::function<void(SoNode*)> listener) { m_nodeListener = std::move(listener); }
 
     /// After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
-    int getLine() const { return m_problemPlace.line; }
-    int getColumn() const { return m_problemPlace.column; }
-    const std::string& getProblem() const { return m_problem; }
+    int getLine() const { return m_fault.place.line; }
+    int getColumn() const { return m_fault.place.column; }
+    const std::string& getProblem() const { return m_fault.problem; }
 
     /// What of a field's state is to be taken: that it is not connected as it was, that it is connected, or
     /// its value and marks.
@@ -66,29 +64,12 @@ public:
     bool readRecord(const std::vector<SoNode*>& nodes, RecordPart part);
 
 private:
-    enum class Phase { FirstLine, Items, References, Sources, Order, Connections, Values, Done };
-    using Place = SceneText::Place;
+    enum class Phase { FirstLine, Items, References, Done };
 
     struct OpenNode {
         SoRef<SoNode> node;
         std::string label;
     };
-    struct Connection {
-        SoField* field;
-        std::string label;
-        SbName sourceName;
-        Place place;
-        SoField* source;
-        SbString value; // as written; null where it was not
-    };
-
-    /// Nodes that a field refers to by their labels.
-    struct NodeValue {
-        SoField* field;
-        std::string text;
-        Place place;
-    };
-
     /// A value that is being looked for or read by another thread.
     struct Value {
         SoField* field;
@@ -99,7 +80,6 @@ private:
     };
 
     bool fail(std::size_t at, std::string problem);
-    bool failAt(Place place, std::string problem);
     void skipBlanks();
     bool skipSomeBlanks();
     bool atEnd() { return !m_text.has(m_at); }
@@ -124,44 +104,24 @@ private:
     bool takeValue(std::string_view value);
     bool parseElsewhere(std::string_view value);
     bool takeParsed();
-    bool refuseValue(const SoField& field, std::string_view value, Place place);
     bool readMarks(SoField* field);
     bool readConnection(SoField* field, std::size_t start);
-    SoNode* findLabelled(const std::string& label) const;
-
-    template <class Items, class Act>
-    bool nextOf(Items& items, Phase after, Act act);
-    bool resolve(const NodeValue& wanted);
-    bool readNode(TextReader& in, SoRef<SoNode>& node) const;
-    void forgetReferences();
-    bool findSource(Connection& wanted);
-    bool orderSourcesFirst(const Connection& connection);
-    bool connect(const Connection* wanted);
-    bool restoreValue(const Connection& made);
     bool applyRecord(SoField& field, RecordPart part);
     bool setRecorded(SoField& field);
-    bool textOfNodes(const NodeValue& wanted, SbString& text);
 
     SceneText m_text;
     std::size_t m_at = 0;
     bool m_isInComment = false;
     Phase m_phase = Phase::FirstLine;
     Clock::time_point m_until = Clock::time_point::max();
-    std::size_t m_next = 0; // of what the phase goes through
-    Place m_problemPlace{};
-    std::string m_problem;
+    SceneFault m_fault;
+    SceneReferences m_references{m_fault};
     SoRef<SoNode> m_root;
     std::vector<OpenNode> m_open;
     std::optional<Value> m_pending;
-    std::unordered_map<std::string, SoRef<SoNode>> m_labels;
-    std::deque<NodeValue> m_nodeValues;
-    std::deque<Connection> m_connections;
-    std::unordered_map<const SoField*, const Connection*> m_unordered;
-    std::vector<const Connection*> m_sourcesFirst;
-    SbString m_value;                                 // keeps its memory from field to field
-    std::function<void(SoNode*)> m_nodeListener;      // or null
-    const std::vector<SoNode*>* m_recorded = nullptr; // which a record refers to by their places
-    bool m_isDefault = false;                         // says the record
+    SbString m_value;                            // keeps its memory from field to field
+    std::function<void(SoNode*)> m_nodeListener; // or null
+    bool m_isDefault = false;                    // says the record
 };
 
 } // namespace xsg

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include <xsg/files/SceneFault.h>
+
+#include <xsg/core/SoField.h>
+#include <xsg/nodes/base/SoUnknownNode.h>
+
+bool xsg::SceneFault::set(SceneText::Place where, std::string what)
+{
+    place = where;
+    problem = std::move(what);
+    return false;
+}
+
+bool xsg::SceneFault::refuse(SceneText::Place where, const SoField& field, std::string_view value)
+{
+    // In a file written by hand the next field may well follow on the same line.
+    const bool goesOn = value.find(": ") != std::string_view::npos;
+    return set(where, quotedStart(value) + " is no value of " + field.getName().getString() +
+                          ", which is a " + field.getTypeId().getName().getString() +
+                          (goesOn ? "; each field has a line of its own" : ""));
+}
+
+std::string xsg::quotedStart(std::string_view text)
+{
+    const std::string_view line = text.substr(0, text.find('\n'));
+    const std::string_view shown = line.substr(0, ShownLength);
+    return '"' + std::string(shown) + (shown.size() < line.size() ? "..." : "") + '"';
+}
+
+SoField* xsg::fieldOf(SoNode* node, const SbName& fieldName)
+{
+    auto* unknown =
+        node->getTypeId() == SoUnknownNode::getClassTypeId() ? static_cast<SoUnknownNode*>(node) : nullptr;
+    return unknown ? unknown->addField(fieldName) : node->getField(fieldName);
+}
