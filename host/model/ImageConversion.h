@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// From the toolkit's pictures to those of a scene.
+// Between the toolkit's pictures and those of a scene.
 #pragma once
 
 #include "model/ModelData.h"
+
+#include <xsg/fields/SoSFImage.h>
 
 #include <QImage>
 
@@ -12,5 +14,8 @@ namespace scopix
 /// 1 component for grey, 3 for colours, 4 where it lets something through; empty for a null image. Has no
 /// name.
 ModelData::Picture toPicture(QImage image);
+
+/// Null for one that is empty.
+QImage toImage(const SoSFImage& image);
 
 } // namespace scopix

@@ -26,6 +26,7 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     menu.addSeparator();
     menu.addAction(tr("&Save"), &files, &SceneFiles::save, QKeySequence::Save);
     menu.addAction(tr("Save &As…"), &files, &SceneFiles::saveAs, QKeySequence::SaveAs);
+    menu.addAction(tr("&Export…"), &files, &SceneFiles::exportAs, Qt::CTRL + Qt::SHIFT + Qt::Key_E);
 }
 
 void FileMenu::fillRecent()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/SceneFiles.h"
 
+#include "export/SceneExport.h"
 #include "import/ModelImport.h"
 #include "import/SceneImport.h"
 #include "model/FileChecks.h"
@@ -12,6 +13,7 @@
 #include "viewport/NothingToSee.h"
 #include "window/ChangedFileQuestion.h"
 #include "window/DefaultScene.h"
+#include "window/ExportQuestion.h"
 
 #include <QApplication>
 #include <QFile>
@@ -194,9 +196,38 @@ bool SceneFiles::saveAs()
     return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().value(0));
 }
 
+void SceneFiles::exportAs()
+{
+    applyTyping();
+    const QString path = askForExport(m_window, m_document);
+    if (!path.isEmpty())
+        exportTo(path);
+}
+
+void SceneFiles::exportTo(const QString& path)
+{
+    if (!SceneExport::hasEnding(path)) {
+        m_notifier.error(tr("“%1” cannot be exported to: its name must end in %2.")
+                             .arg(path, SceneExport::endings().join(QStringLiteral(", "))));
+        return;
+    }
+    const SceneExport scene(*m_document.getRoot(), path);
+    if (m_notifier.isAttended() && !confirmLosses(m_window, path, scene))
+        return;
+    const QString error = scene.write();
+    if (error.isEmpty())
+        m_notifier.info(tr("Exported “%1”.").arg(path));
+    else
+        m_notifier.error(error);
+}
+
 bool SceneFiles::saveTo(const QString& path)
 {
     applyTyping();
+    if (SceneExport::hasEnding(path)) {
+        exportTo(path);
+        return false;
+    }
     return mayReplace(path) ? write(path) : resolveConflict();
 }
 

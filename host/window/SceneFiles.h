@@ -37,7 +37,8 @@ public:
     /// possibly before this returns. What was open stays when it fails. Problems are reported.
     void open(const QString& path);
     /// False when it is not written: it cannot be, which is reported, or another program has changed the file
-    /// since it was opened, and the user does not want to replace it.
+    /// since it was opened, and the user does not want to replace it; or its ending is one to export to,
+    /// which keeps less than the scene.
     bool saveTo(const QString& path);
     /// Opens the same file again and drops all edits; the same part of the scene stays selected.
     void reload();
@@ -54,6 +55,8 @@ public:
     /// False when it was not saved: it could not be written, or the user gave no name.
     bool save();
     bool saveAs();
+    /// To a file of another program's; the scene itself is as unsaved as before.
+    void exportAs();
     /// False when the window is to stay open.
     bool confirmClose();
     /// False when the user wants to keep unsaved edits.
@@ -69,6 +72,7 @@ private:
     bool askWhetherToDrop();
     bool mayReplace(const QString& path);
     bool write(const QString& path);
+    void exportTo(const QString& path);
     bool resolveConflict();
     void watchFile();
     void applyTyping();

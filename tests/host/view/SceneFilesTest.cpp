@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a user does with files, in the window.
 #include "services/HostServices.h"
+#include "support/FileAnswer.h"
 #include "support/SetText.h"
 #include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
@@ -477,3 +478,51 @@ TEST_F(Files, AModelThatWasTunedLooksTheSameWhenSavedAndOpenedAgain)
 }
 
 } // namespace
+
+TEST_F(Files, AreExportedByTheirEndingAndStayUnsaved)
+{
+    openScene();
+    program->edit("Planks", "transparency", "0.5");
+    ASSERT_TRUE(program->document().isModified());
+    const QString path = home.filePath("crate.stl");
+    QString text;
+    WithDialog question([&](QDialog& dialog) {
+        text = static_cast<QMessageBox&>(dialog).informativeText();
+        answer("Export")(dialog);
+    });
+    EXPECT_FALSE(program->window.getFiles().saveTo(path));
+    EXPECT_TRUE(question.hasCome());
+    EXPECT_TRUE(text.contains("materials")) << text.toStdString();
+    EXPECT_EQ(program->told.last(), QString::fromUtf8("Exported “%1”.").arg(path));
+    EXPECT_TRUE(program->document().isModified());
+    EXPECT_EQ(program->document().getPath(), home.filePath("scene.xsg"));
+    EXPECT_TRUE(program->open(path));
+}
+
+TEST_F(Files, AreNotExportedWhereTheUserWouldRatherNot)
+{
+    openScene();
+    const QString path = home.filePath("crate.stl");
+    WithDialog question(answer("Cancel"));
+    EXPECT_FALSE(program->window.getFiles().saveTo(path));
+    EXPECT_TRUE(question.hasCome());
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(Files, AreExportedFromTheMenu)
+{
+    openScene();
+    const QString path = home.filePath("out.ply");
+    {
+        FileAnswer file(path);
+        QTimer later;
+        QObject::connect(&later, &QTimer::timeout, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                answer("Export")(*box);
+        });
+        later.start(1);
+        program->action("Export")->trigger();
+        EXPECT_EQ(file.caption, "Export Scene");
+    }
+    EXPECT_TRUE(QFile::exists(path));
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "export/SceneExport.h"
+
+#include "export/FlatWriters.h"
+#include "support/OutputFile.h"
+#include "support/Printable.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+namespace scopix
+{
+
+namespace
+{
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("SceneExport", text);
+}
+
+int count(const FlatScene& scene, bool (*matters)(const FlatScene::Mesh&))
+{
+    return static_cast<int>(std::count_if(scene.meshes.begin(), scene.meshes.end(), matters));
+}
+
+bool isNoSurface(const FlatScene::Mesh& mesh)
+{
+    return mesh.geometry.kind != SoGeometry::Kind::Triangles;
+}
+
+int countPictures(const FlatScene& scene)
+{
+    return static_cast<int>(std::count_if(scene.materials.begin(), scene.materials.end(),
+                                          [](const auto& material) { return material.texture != nullptr; }));
+}
+
+} // namespace
+
+struct SceneExport::Format {
+    QLatin1String ending;
+    QString (*write)(const FlatScene& scene, const QString& path);
+    const char* lostMaterials; // null: none
+    bool keepsPictures;
+    bool keepsLines;
+};
+
+const SceneExport::Format* SceneExport::formatOf(const QString& path)
+{
+    static const std::array<Format, 3> formats{
+        {{QLatin1String("obj"), writeObj, nullptr, true, true},
+         {QLatin1String("ply"), writePly,
+          QT_TRANSLATE_NOOP("SceneExport", "materials, but for the colours of points"), false, true},
+         {QLatin1String("stl"), writeStl, QT_TRANSLATE_NOOP("SceneExport", "materials"), false, false}}};
+    const QString ending = QFileInfo(path).suffix().toLower();
+    const auto found = std::find_if(formats.begin(), formats.end(),
+                                    [&](const Format& format) { return format.ending == ending; });
+    return found == formats.end() ? nullptr : &*found;
+}
+
+QStringList SceneExport::endings()
+{
+    return {QStringLiteral("obj"), QStringLiteral("ply"), QStringLiteral("stl")};
+}
+
+bool SceneExport::hasEnding(const QString& path)
+{
+    return formatOf(path) != nullptr;
+}
+
+SceneExport::SceneExport(SoNode& root, QString path)
+    : m_path(std::move(path))
+    , m_format(formatOf(m_path))
+    , m_scene(flatten(root))
+{
+}
+
+QStringList SceneExport::getLosses() const
+{
+    QMap<QString, int> lost = m_scene.leftOut;
+    if (m_format->lostMaterials)
+        lost.insert(translated(m_format->lostMaterials), int(m_scene.materials.size()));
+    if (!m_format->keepsPictures)
+        lost.insert(translated("pictures"), countPictures(m_scene));
+    if (!m_format->keepsLines)
+        lost.insert(translated("lines and points"), count(m_scene, isNoSurface));
+    QStringList losses{translated("groups and transforms, which are applied")};
+    for (auto at = lost.cbegin(); at != lost.cend(); ++at) {
+        if (at.value() > 0)
+            losses << QStringLiteral("%1 (%2)").arg(at.key()).arg(at.value());
+    }
+    return losses;
+}
+
+QString SceneExport::write() const
+{
+    QString reason = reasonAgainstWriting(m_path, endings());
+    if (reason.isEmpty())
+        reason = m_format->write(m_scene, m_path);
+    return reason.isEmpty() ? QString()
+                            : translated("“%1” cannot be written: %2.").arg(printable(m_path), reason);
+}
+
+} // namespace scopix

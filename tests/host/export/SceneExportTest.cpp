@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+// What is exported is there again when it is opened.
+#include "export/SceneExport.h"
+#include "host/import/ModelFiles.h"
+#include "import/SceneBuilder.h"
+#include "model/ImageConversion.h"
+#include "reader/ModelReader.h"
+
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoInstances.h>
+#include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/lights/SoPointLight.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/properties/SoTextureCoordinates.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/shapes/SoLineSet.h>
+#include <xsg/nodes/shapes/SoScreenText.h>
+#include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/transforms/SoTransform.h>
+
+#include <array>
+
+using namespace scopix;
+
+namespace
+{
+
+using Corner = std::array<float, 3>;
+using Triangle = std::array<Corner, 3>; // the smallest corner first, in the order in which they go round
+
+Triangle triangleOf(const SoGeometry& geometry, std::size_t at)
+{
+    Triangle triangle;
+    for (std::size_t k = 0; k < 3; ++k) {
+        const SbVec3f& point = geometry.points[geometry.index[at + k]];
+        triangle[k] = {point[0], point[1], point[2]};
+    }
+    std::rotate(triangle.begin(), std::min_element(triangle.begin(), triangle.end()), triangle.end());
+    return triangle;
+}
+
+std::vector<Triangle> trianglesOf(SoNode& root)
+{
+    std::vector<Triangle> triangles;
+    for (const FlatScene::Mesh& mesh : flatten(root).meshes) {
+        if (mesh.geometry.kind != SoGeometry::Kind::Triangles)
+            continue;
+        for (std::size_t i = 0; i + 2 < mesh.geometry.index.size(); i += 3)
+            triangles.push_back(triangleOf(mesh.geometry, i));
+    }
+    return triangles;
+}
+
+// As numbers in text come through another program's reader.
+bool isNear(const Triangle& a, const Triangle& b)
+{
+    for (std::size_t k = 0; k < 3; ++k) {
+        for (std::size_t i = 0; i < 3; ++i) {
+            if (std::abs(a[k][i] - b[k][i]) > 1e-5F * std::max(1.0F, std::abs(a[k][i])))
+                return false;
+        }
+    }
+    return true;
+}
+
+class Exporting : public testing::Test
+{
+protected:
+    SoRef<SoNode> copyBy(SoNode& root, const char* name)
+    {
+        const QString path = files.path(name);
+        EXPECT_EQ(SceneExport(root, path).write(), "");
+        ModelReadResult model = readModel(path);
+        EXPECT_EQ(model.error, "");
+        return SoRef<SoNode>(buildScene(std::move(model.data), "copy").get());
+    }
+    void expectSameTriangles(SoNode& root, const char* name)
+    {
+        const std::vector<Triangle> before = trianglesOf(root);
+        const std::vector<Triangle> after = trianglesOf(*copyBy(root, name));
+        ASSERT_FALSE(before.empty());
+        ASSERT_EQ(before.size(), after.size()) << name;
+        for (std::size_t i = 0; i < before.size(); ++i)
+            ASSERT_TRUE(isNear(before[i], after[i])) << name << ", triangle " << i;
+    }
+    static QStringList losses(SoNode& root, const char* name) { return SceneExport(root, name).getLosses(); }
+
+    ModelFiles files;
+    SoRef<SoSeparator> root{new SoSeparator};
+};
+
+} // namespace
+
+// Seen from where their normals point, corners go round against the clock.
+TEST_F(Exporting, MirroredSolidsShowTheirOutside)
+{
+    auto* mirror = new SoTransform;
+    mirror->scaleFactor.setValue(-1, 1, 1);
+    root->addChild(mirror);
+    root->addChild(new SoCube);
+    const FlatScene flat = flatten(*root);
+    ASSERT_EQ(flat.meshes.size(), 1U);
+    const SoGeometry& geometry = flat.meshes.front().geometry;
+    for (std::size_t i = 0; i < geometry.index.size(); i += 3) {
+        const auto corner = [&](std::size_t k) { return geometry.points[geometry.index[i + k]]; };
+        const SbVec3f outside = cross(corner(1) - corner(0), corner(2) - corner(0));
+        EXPECT_GT(outside.dot(geometry.normals[geometry.index[i]]), 0);
+    }
+}
+
+class ExportedAs : public Exporting, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(ExportedAs, ShippedModelsKeepTheirTriangles)
+{
+    for (const char* model : {"lighthouse.glb", "crate.gltf"}) {
+        SCOPED_TRACE(model);
+        ModelReadResult read = readModel(shippedModel(model));
+        ASSERT_EQ(read.error, "");
+        expectSameTriangles(*buildScene(std::move(read.data), "model"), GetParam());
+    }
+}
+
+TEST_P(ExportedAs, SolidsStandWhereTheyAreSeen)
+{
+    auto* mirror = new SoTransform;
+    mirror->translation.setValue(3, 0, 0);
+    mirror->scaleFactor.setValue(-2, 1, 0.5F);
+    auto* copies = new SoInstances;
+    copies->matrices.setValues({SbMatrix(), SbMatrix::translation({0, 5, 0})});
+    copies->addChild(new SoCube);
+    root->addChild(new SoSphere);
+    root->addChild(mirror);
+    root->addChild(copies);
+    expectSameTriangles(*root, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ExportedAs, testing::Values("copy.obj", "copy.ply", "copy.stl"),
+                         [](const auto& info) { return std::string(info.param).substr(5); });
+
+TEST_F(Exporting, WavefrontFilesKeepMaterialsAndPictures)
+{
+    auto* material = new SoMaterial;
+    material->setName("Old brass");
+    material->diffuseColor.setValue({0.5F, 0.25F, 0.125F});
+    material->specularColor.setValue(0.75F, 0.5F, 0.25F);
+    material->emissiveColor.setValue(0.125F, 0, 0);
+    material->shininess.setValue(0.5F);
+    material->transparency.setValue(0.25F);
+    auto* texture = new SoTexture2;
+    const unsigned char pixels[] = {255, 0, 0, 0, 255, 0, 0, 0, 255, 9, 8, 7};
+    texture->image.setValue(2, 2, 3, pixels);
+    root->addChild(material);
+    root->addChild(texture);
+    root->addChild(new SoCube);
+    const SoRef<SoNode> copy = copyBy(*root, "copy.obj");
+    const FlatScene flat = flatten(*copy);
+    ASSERT_EQ(flat.materials.size(), 1U);
+    const FlatScene::Material& read = flat.materials.front();
+    EXPECT_EQ(read.name, "Old_brass");
+    EXPECT_EQ(read.look.diffuse, SbColor(0.5F, 0.25F, 0.125F));
+    EXPECT_EQ(read.look.specular, SbColor(0.75F, 0.5F, 0.25F));
+    EXPECT_EQ(read.look.emissive, SbColor(0.125F, 0, 0));
+    EXPECT_EQ(read.look.shininess, 0.5F);
+    EXPECT_EQ(read.look.transparency, 0.25F);
+    ASSERT_NE(read.texture, nullptr);
+    EXPECT_TRUE(read.texture->image.isSame(texture->image));
+}
+
+TEST_F(Exporting, PictureFilesAreReferredToAndNotCopied)
+{
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(files.path("bricks.png")));
+    auto* texture = new SoTexture2;
+    texture->fileName.setValue(files.path("bricks.png").toStdString().c_str());
+    root->addChild(texture);
+    root->addChild(new SoCube);
+    EXPECT_EQ(SceneExport(*root, files.path("copy.obj")).write(), "");
+    EXPECT_TRUE(contentOf(files.path("copy.mtl")).contains("map_Kd bricks.png\n"));
+    EXPECT_FALSE(QFile::exists(files.path("copy-1.png")));
+}
+
+TEST_F(Exporting, PolygonFilesKeepTheColoursOfPoints)
+{
+    auto* material = new SoMaterial;
+    material->diffuseColor.setValue({1, 0.2F, 0});
+    root->addChild(material);
+    root->addChild(new SoCube);
+    const FlatScene flat = flatten(*copyBy(*root, "copy.ply"));
+    ASSERT_EQ(flat.meshes.size(), 1U);
+    ASSERT_FALSE(flat.meshes.front().geometry.colors.empty());
+    for (const SbVec3f& color : flat.meshes.front().geometry.colors)
+        EXPECT_EQ(color, SbVec3f(1, 0.2F, 0));
+}
+
+TEST_F(Exporting, SaysWhatIsLost)
+{
+    root->addChild(new SoPointLight);
+    root->addChild(new SoPointLight);
+    root->addChild(new SoPerspectiveCamera);
+    root->addChild(new SoScreenText);
+    auto* points = new SoPoints;
+    points->points.setValues({{0, 0, 0}, {1, 0, 0}});
+    root->addChild(points);
+    auto* line = new SoLineSet;
+    root->addChild(line);
+    root->addChild(new SoCube);
+    const QString groups = "groups and transforms, which are applied";
+    const QString text = "shapes without a place in space (1)";
+    EXPECT_EQ(losses(*root, "a.obj"), (QStringList{groups, "cameras (1)", "lights (2)", text}));
+    EXPECT_EQ(losses(*root, "a.STL"), (QStringList{groups, "cameras (1)", "lights (2)",
+                                                   "lines and points (1)", "materials (1)", text}));
+}
+
+TEST_F(Exporting, WhatCannotBeWrittenIsSaidAndNothingIsReplaced)
+{
+    root->addChild(new SoCube);
+    const QString taken = files.path("folder.stl");
+    ASSERT_TRUE(QDir().mkdir(taken));
+    EXPECT_EQ(SceneExport(*root, taken).write(),
+              QString::fromUtf8("“%1” cannot be written: it is a folder.").arg(taken));
+    const QString missing = files.path("missing/a.ply");
+    const QString said = SceneExport(*root, missing).write();
+    EXPECT_TRUE(said.startsWith(QString::fromUtf8("“%1” cannot be written: ").arg(missing)))
+        << said.toStdString();
+    files.write("kept.mtl", "mine");
+    ASSERT_TRUE(QFile::setPermissions(files.path("kept.mtl"), QFile::ReadOwner));
+    EXPECT_NE(SceneExport(*root, files.path("kept.obj")).write(), "");
+    EXPECT_EQ(contentOf(files.path("kept.mtl")), "mine");
+    EXPECT_FALSE(QFile::exists(files.path("kept.obj")));
+}
+
+TEST_F(Exporting, AnEmptySceneIsAFileWithNothingInIt)
+{
+    for (const QString& ending : SceneExport::endings()) {
+        const QString path = files.path(("empty." + ending.toStdString()).c_str());
+        EXPECT_EQ(SceneExport(*root, path).write(), "");
+        EXPECT_TRUE(QFile::exists(path));
+    }
+}
