@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "export/FlatScene.h"
 
+#include "export/ExportNames.h"
+
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/lights/SoLight.h>
-#include <xsg/nodes/properties/SoClipPlane.h>
-#include <xsg/nodes/properties/SoFog.h>
 #include <xsg/nodes/properties/SoMaterial.h>
-#include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 #include <QCoreApplication>
 
-#include <array>
 #include <map>
 #include <set>
-#include <tuple>
 
 namespace scopix
 {
@@ -28,12 +25,6 @@ QString translated(const char* text)
     return QCoreApplication::translate("SceneExport", text);
 }
 
-// Names hold Latin-1.
-std::string nameOf(const SoNode& node)
-{
-    return QString::fromLatin1(node.getName().getString()).toStdString();
-}
-
 template <class Node>
 bool isA(const SoNode& node)
 {
@@ -44,11 +35,7 @@ QString leftOutKind(const SoNode& node)
 {
     if (isA<SoLight>(node))
         return translated("lights");
-    if (isA<SoCamera>(node))
-        return translated("cameras");
-    if (isA<SoFog>(node))
-        return translated("fogs");
-    return isA<SoClipPlane>(node) ? translated("clip planes") : QString();
+    return isA<SoCamera>(node) ? translated("cameras") : lostKind(node);
 }
 
 bool isMirroring(const SbMatrix& matrix)
@@ -67,6 +54,7 @@ public:
         traverse(&root);
         for (const auto& kind : m_leftOut)
             m_scene.leftOut.insert(kind.first, static_cast<int>(kind.second.size()));
+        m_scene.materials = m_materials.take();
         return std::move(m_scene);
     }
 
@@ -75,6 +63,7 @@ protected:
     {
         SoGeometry geometry;
         shape->generate(state(), geometry);
+        moveTextureCoordinates(state(), geometry);
         if (geometry.isScreenSpace || shape->asDrawingCallback())
             m_leftOut[translated("shapes without a place in space")].insert(shape);
         else if (!geometry.index.empty())
@@ -87,13 +76,13 @@ protected:
         if (!kind.isEmpty())
             m_leftOut[kind].insert(node);
         if (isA<SoMaterial>(*node))
-            m_material = node;
+            m_materials.noteNode(*node);
     }
 
 private:
     void add(const SoShape& shape, const SoGeometry& geometry, const SbMatrix& toWorld)
     {
-        FlatScene::Mesh mesh{nearestName(shape), geometry, materialPlace()};
+        FlatScene::Mesh mesh{nearestName(shape), geometry, m_materials.placeOf(state())};
         for (SbVec3f& point : mesh.geometry.points)
             point = toWorld.multPoint(point);
         const SbMatrix forNormals = toWorld.inverse().value_or(SbMatrix()).transposed();
@@ -113,46 +102,15 @@ private:
 
     std::string nearestName(const SoShape& shape) const
     {
-        std::string name = nameOf(shape);
+        std::string name = exportedName(shape);
         for (auto frame = getFrames().rbegin(); name.empty() && frame != getFrames().rend(); ++frame)
-            name = nameOf(*frame->group);
+            name = exportedName(*frame->group);
         return name;
     }
-
-    std::size_t materialPlace()
-    {
-        const SoMaterialState& look = state().material;
-        const auto numbers = [](const SbColor& c) { return std::array<float, 3>{c[0], c[1], c[2]}; };
-        const Key key{numbers(look.ambient),  numbers(look.diffuse), numbers(look.specular),
-                      numbers(look.emissive), look.shininess,        look.transparency,
-                      state().texture};
-        const auto [place, isNew] = m_materials.emplace(key, m_scene.materials.size());
-        if (isNew)
-            m_scene.materials.push_back({newName(), look, state().texture});
-        return place->second;
-    }
-
-    // A material without one is named by its place.
-    std::string newName()
-    {
-        std::string name = m_material ? nameOf(*m_material) : std::string();
-        for (char& c : name)
-            c = c <= ' ' && c >= 0 ? '_' : c;
-        const std::string number = std::to_string(m_scene.materials.size() + 1);
-        if (name.empty() || !m_names.insert(name).second)
-            name = (name.empty() ? "material" : name) + '_' + number;
-        m_names.insert(name);
-        return name;
-    }
-
-    using Color = std::array<float, 3>;
-    using Key = std::tuple<Color, Color, Color, Color, float, float, const SoTexture2*>;
 
     FlatScene m_scene;
-    std::map<Key, std::size_t> m_materials;
-    std::set<std::string> m_names;
+    MaterialTable m_materials;
     std::map<QString, std::set<const SoNode*>> m_leftOut;
-    const SoNode* m_material = nullptr;
 };
 
 } // namespace

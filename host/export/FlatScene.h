@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/MaterialTable.h"
+
 #include <xsg/nodes/base/SoGeometry.h>
-#include <xsg/nodes/base/SoState.h>
 
 #include <QMap>
 #include <QString>
@@ -23,14 +24,8 @@ struct FlatScene {
         SoGeometry geometry; // in world coordinates
         std::size_t material = 0;
     };
-    struct Material {
-        std::string name; // UTF-8; of its own, without blanks
-        SoMaterialState look;
-        const SoTexture2* texture = nullptr;
-    };
-
     std::vector<Mesh> meshes;
-    std::vector<Material> materials;
+    std::vector<ExportedMaterial> materials;
     /// Of what is no part of it, as in "lights": how many.
     QMap<QString, int> leftOut;
 };

@@ -48,7 +48,7 @@ public:
     {
         ExportSink out(getName());
         QString reason;
-        for (const FlatScene::Material& material : m_scene.materials) {
+        for (const ExportedMaterial& material : m_scene.materials) {
             if (reason.isEmpty())
                 reason = write(out, material);
         }
@@ -56,7 +56,7 @@ public:
     }
 
 private:
-    QString write(ExportSink& out, const FlatScene::Material& material)
+    QString write(ExportSink& out, const ExportedMaterial& material)
     {
         const SoMaterialState& look = material.look;
         out << "newmtl " << material.name << "\nKa" << look.ambient << "\nKd" << look.diffuse << "\nKs"

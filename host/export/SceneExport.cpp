@@ -2,6 +2,7 @@
 #include "export/SceneExport.h"
 
 #include "export/FlatWriters.h"
+#include "export/GltfWriter.h"
 #include "support/OutputFile.h"
 #include "support/Printable.h"
 
@@ -40,9 +41,11 @@ int countPictures(const FlatScene& scene)
 
 } // namespace
 
+/// Either writer is null.
 struct SceneExport::Format {
     QLatin1String ending;
-    QString (*write)(const FlatScene& scene, const QString& path);
+    QString (*writeTree)(const GltfContent& content, const QString& path);
+    QString (*writeFlat)(const FlatScene& scene, const QString& path);
     const char* lostMaterials; // null: none
     bool keepsPictures;
     bool keepsLines;
@@ -50,11 +53,14 @@ struct SceneExport::Format {
 
 const SceneExport::Format* SceneExport::formatOf(const QString& path)
 {
-    static const std::array<Format, 3> formats{
-        {{QLatin1String("obj"), writeObj, nullptr, true, true},
-         {QLatin1String("ply"), writePly,
+    static const std::array<Format, 5> formats{
+        {{QLatin1String("glb"), writeGltf, nullptr, nullptr, true, true},
+         {QLatin1String("gltf"), writeGltf, nullptr, nullptr, true, true},
+         {QLatin1String("obj"), nullptr, writeObj, nullptr, true, true},
+         {QLatin1String("ply"), nullptr, writePly,
           QT_TRANSLATE_NOOP("SceneExport", "materials, but for the colours of points"), false, true},
-         {QLatin1String("stl"), writeStl, QT_TRANSLATE_NOOP("SceneExport", "materials"), false, false}}};
+         {QLatin1String("stl"), nullptr, writeStl, QT_TRANSLATE_NOOP("SceneExport", "materials"), false,
+          false}}};
     const QString ending = QFileInfo(path).suffix().toLower();
     const auto found = std::find_if(formats.begin(), formats.end(),
                                     [&](const Format& format) { return format.ending == ending; });
@@ -63,7 +69,8 @@ const SceneExport::Format* SceneExport::formatOf(const QString& path)
 
 QStringList SceneExport::endings()
 {
-    return {QStringLiteral("obj"), QStringLiteral("ply"), QStringLiteral("stl")};
+    return {QStringLiteral("glb"), QStringLiteral("gltf"), QStringLiteral("obj"), QStringLiteral("ply"),
+            QStringLiteral("stl")};
 }
 
 bool SceneExport::hasEnding(const QString& path)
@@ -74,20 +81,25 @@ bool SceneExport::hasEnding(const QString& path)
 SceneExport::SceneExport(SoNode& root, QString path)
     : m_path(std::move(path))
     , m_format(formatOf(m_path))
-    , m_scene(flatten(root))
 {
+    if (m_format->writeTree)
+        m_tree = toGltf(root);
+    else
+        m_flat = flatten(root);
 }
 
 QStringList SceneExport::getLosses() const
 {
-    QMap<QString, int> lost = m_scene.leftOut;
+    QMap<QString, int> lost = m_tree.leftOut.isEmpty() ? m_flat.leftOut : m_tree.leftOut;
     if (m_format->lostMaterials)
-        lost.insert(translated(m_format->lostMaterials), int(m_scene.materials.size()));
+        lost.insert(translated(m_format->lostMaterials), int(m_flat.materials.size()));
     if (!m_format->keepsPictures)
-        lost.insert(translated("pictures"), countPictures(m_scene));
+        lost.insert(translated("pictures"), countPictures(m_flat));
     if (!m_format->keepsLines)
-        lost.insert(translated("lines and points"), count(m_scene, isNoSurface));
-    QStringList losses{translated("groups and transforms, which are applied")};
+        lost.insert(translated("lines and points"), count(m_flat, isNoSurface));
+    QStringList losses;
+    if (m_format->writeFlat)
+        losses << translated("groups and transforms, which are applied");
     for (auto at = lost.cbegin(); at != lost.cend(); ++at) {
         if (at.value() > 0)
             losses << QStringLiteral("%1 (%2)").arg(at.key()).arg(at.value());
@@ -99,7 +111,8 @@ QString SceneExport::write() const
 {
     QString reason = reasonAgainstWriting(m_path, endings());
     if (reason.isEmpty())
-        reason = m_format->write(m_scene, m_path);
+        reason =
+            m_format->writeTree ? m_format->writeTree(m_tree, m_path) : m_format->writeFlat(m_flat, m_path);
     return reason.isEmpty() ? QString()
                             : translated("“%1” cannot be written: %2.").arg(printable(m_path), reason);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "export/FlatScene.h"
+#include "export/GltfContent.h"
 
 #include <QStringList>
 
@@ -26,7 +27,8 @@ public:
 
     /// A part of a sentence each, as in "lights (2)".
     QStringList getLosses() const;
-    /// A Wavefront file has its materials and pictures beside it, named after it. One sentence where that
+    /// A Wavefront file has its materials and pictures beside it, named after it, and a .gltf its
+    /// numbers and pictures. One sentence where that
     /// cannot be done, else an empty text; each file is then the old one or the new one.
     QString write() const;
 
@@ -36,7 +38,9 @@ private:
 
     QString m_path;
     const Format* m_format;
-    FlatScene m_scene;
+    // One of them, as the format needs.
+    GltfContent m_tree;
+    FlatScene m_flat;
 };
 
 } // namespace scopix

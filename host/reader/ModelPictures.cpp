@@ -12,7 +12,6 @@
 #include <QImageReader>
 #include <QUrl>
 
-#include <algorithm>
 #include <limits>
 
 namespace scopix
@@ -20,10 +19,10 @@ namespace scopix
 
 int ModelPictures::add(const std::string& name)
 {
-    const auto known = std::find_if(m_pictures.begin(), m_pictures.end(),
-                                    [&](const ModelData::Picture& p) { return p.name == name; });
-    if (known != m_pictures.end())
-        return static_cast<int>(known - m_pictures.begin());
+    // One that cannot be read stays empty, and is not tried again.
+    const auto [place, isNew] = m_places.emplace(name, static_cast<int>(m_pictures.size()));
+    if (!isNew)
+        return place->second;
     constexpr int AnySide = std::numeric_limits<int>::max();
     SoImageSize whole;
     bool isWhole = true;
@@ -42,8 +41,9 @@ int ModelPictures::add(const std::string& name)
     else if (picture.bytes.empty())
         m_unread += QString::fromStdString(name);
     m_budget.take(static_cast<std::int64_t>(picture.bytes.size()));
-    picture.name = name; // one that cannot be read stays empty, and is not tried again
-    return static_cast<int>(m_pictures.size()) - 1;
+    // What stands within the file is referred to by a number.
+    picture.name = embedded ? embedded->mFilename.C_Str() : name;
+    return place->second;
 }
 
 QImage ModelPictures::decode(const aiTexture& texture, const SoImageFit& fit) const

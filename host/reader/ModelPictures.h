@@ -7,6 +7,9 @@
 
 #include <QStringList>
 
+#include <map>
+#include <string>
+
 class QImage;
 struct aiScene;
 struct aiTexture;
@@ -42,6 +45,7 @@ private:
     QString m_folder;
     xsg::PictureBudget m_budget;
     std::vector<ModelData::Picture> m_pictures;
+    std::map<std::string, int> m_places; // of a picture among them, by what the file calls it
     std::vector<std::string> m_notes;
     QStringList m_unread;
 };

@@ -24,7 +24,8 @@ QString translated(const char* text)
 
 QStringList nameFilters()
 {
-    return {translated("Wavefront (*.obj)"), translated("Stanford polygons (*.ply)"),
+    return {translated("glTF in one file (*.glb)"), translated("glTF (*.gltf)"),
+            translated("Wavefront (*.obj)"), translated("Stanford polygons (*.ply)"),
             translated("Stereolithography (*.stl)")};
 }
 

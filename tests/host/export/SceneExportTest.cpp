@@ -6,10 +6,12 @@
 #include "model/ImageConversion.h"
 #include "reader/ModelReader.h"
 
+#include <xsg/actions/SoSearchAction.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
@@ -140,7 +142,8 @@ TEST_P(ExportedAs, SolidsStandWhereTheyAreSeen)
     expectSameTriangles(*root, GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ExportedAs, testing::Values("copy.obj", "copy.ply", "copy.stl"),
+INSTANTIATE_TEST_SUITE_P(All, ExportedAs,
+                         testing::Values("copy.glb", "copy.gltf", "copy.obj", "copy.ply", "copy.stl"),
                          [](const auto& info) { return std::string(info.param).substr(5); });
 
 TEST_F(Exporting, WavefrontFilesKeepMaterialsAndPictures)
@@ -161,7 +164,7 @@ TEST_F(Exporting, WavefrontFilesKeepMaterialsAndPictures)
     const SoRef<SoNode> copy = copyBy(*root, "copy.obj");
     const FlatScene flat = flatten(*copy);
     ASSERT_EQ(flat.materials.size(), 1U);
-    const FlatScene::Material& read = flat.materials.front();
+    const ExportedMaterial& read = flat.materials.front();
     EXPECT_EQ(read.name, "Old_brass");
     EXPECT_EQ(read.look.diffuse, SbColor(0.5F, 0.25F, 0.125F));
     EXPECT_EQ(read.look.specular, SbColor(0.75F, 0.5F, 0.25F));
@@ -244,3 +247,91 @@ TEST_F(Exporting, AnEmptySceneIsAFileWithNothingInIt)
         EXPECT_TRUE(QFile::exists(path));
     }
 }
+
+namespace
+{
+
+template <class Node>
+std::vector<const Node*> allOf(SoNode& root)
+{
+    SoSearchAction search;
+    search.setType(Node::getClassTypeId());
+    std::vector<const Node*> all;
+    for (const SoPath& path : search.apply(&root))
+        all.push_back(static_cast<const Node*>(path.getTail()));
+    return all;
+}
+
+} // namespace
+
+class GltfExporting : public Exporting, public testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(GltfExporting, KeepsMaterialsPicturesAndNames)
+{
+    ModelReadResult read = readModel(shippedModel("crate.gltf"));
+    const SoRef<SoNode> crate(buildScene(std::move(read.data), "crate").get());
+    const SoRef<SoNode> copy = copyBy(*crate, GetParam());
+    // Too long to be printed where they differ.
+    EXPECT_TRUE(SoSceneFile::writeText(copy.get()) == SoSceneFile::writeText(crate.get()));
+}
+
+TEST_P(GltfExporting, KeepsWhatAModelHas)
+{
+    ModelReadResult read = readModel(shippedModel("lighthouse.glb"));
+    const SoRef<SoNode> model(buildScene(std::move(read.data), "model").get());
+    const SoRef<SoNode> once = copyBy(*model, GetParam());
+    EXPECT_EQ(allOf<SoMaterial>(*once).size(), allOf<SoMaterial>(*model).size());
+    EXPECT_EQ(allOf<SoLight>(*once).size(), allOf<SoLight>(*model).size());
+    EXPECT_EQ(allOf<SoCamera>(*once).size(), allOf<SoCamera>(*model).size());
+    EXPECT_EQ(allOf<SoIndexedTriangleSet>(*once).size(), allOf<SoIndexedTriangleSet>(*model).size());
+    EXPECT_EQ(allOf<SoTransform>(*once).size(), allOf<SoTransform>(*model).size());
+}
+
+TEST_P(GltfExporting, KeepsLightsAndCameras)
+{
+    auto* sun = new SoDirectionalLight;
+    sun->setName("Sun");
+    sun->direction.setValue(0, -1, 0);
+    sun->intensity.setValue(0.5F);
+    sun->color.setValue(1, 0.5F, 0.25F);
+    auto* eye = new SoPerspectiveCamera;
+    eye->position.setValue(1, 2, 3);
+    eye->heightAngle.setValue(0.5F);
+    eye->nearDistance.setValue(0.5F);
+    eye->farDistance.setValue(50);
+    root->addChild(sun);
+    root->addChild(eye);
+    root->addChild(new SoCube);
+    const SoRef<SoNode> copy = copyBy(*root, GetParam());
+    const auto suns = allOf<SoDirectionalLight>(*copy);
+    ASSERT_EQ(suns.size(), 1U);
+    EXPECT_NEAR(suns[0]->direction.getValue()[1], -1, 1e-6);
+    EXPECT_EQ(suns[0]->intensity.getValue(), 0.5F);
+    EXPECT_EQ(suns[0]->color.getValue(), SbColor(1, 0.5F, 0.25F));
+    const auto eyes = allOf<SoPerspectiveCamera>(*copy);
+    ASSERT_EQ(eyes.size(), 1U);
+    EXPECT_NEAR(eyes[0]->heightAngle.getValue(), 0.5F, 1e-6);
+    EXPECT_EQ(eyes[0]->nearDistance.getValue(), 0.5F);
+    EXPECT_EQ(eyes[0]->farDistance.getValue(), 50);
+}
+
+TEST_P(GltfExporting, OneMeshInManyPlacesIsWrittenOnce)
+{
+    for (int i = 0; i < 50; ++i) {
+        auto* place = new SoSeparator;
+        auto* transform = new SoTransform;
+        transform->translation.setValue(float(i), 0, 0);
+        place->addChild(transform);
+        place->addChild(new SoCube);
+        root->addChild(place);
+    }
+    const GltfContent content = toGltf(*root);
+    EXPECT_EQ(content.meshes.size(), 1U);
+    EXPECT_EQ(content.nodes.size(), 51U);
+    expectSameTriangles(*root, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, GltfExporting, testing::Values("copy.glb", "copy.gltf"),
+                         [](const auto& info) { return std::string(info.param).substr(5); });

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "export/ExportNames.h"
+
+#include <xsg/nodes/base/SoGeometry.h>
+#include <xsg/nodes/base/SoNode.h>
+#include <xsg/nodes/base/SoState.h>
+#include <xsg/nodes/properties/SoClipPlane.h>
+#include <xsg/nodes/properties/SoFog.h>
+
+#include <QCoreApplication>
+
+namespace scopix
+{
+
+// Names of nodes hold Latin-1.
+std::string exportedName(const SoNode& node)
+{
+    return QString::fromLatin1(node.getName().getString()).toStdString();
+}
+
+QString lostKind(const SoNode& node)
+{
+    if (node.isOfType(SoFog::getClassTypeId()))
+        return QCoreApplication::translate("SceneExport", "fogs");
+    return node.isOfType(SoClipPlane::getClassTypeId())
+               ? QCoreApplication::translate("SceneExport", "clip planes")
+               : QString();
+}
+
+void moveTextureCoordinates(const SoState& state, SoGeometry& geometry)
+{
+    if (!state.textureMatrix)
+        return;
+    for (SbVec2f& at : geometry.textureCoordinates) {
+        const SbVec3f moved = state.textureMatrix->front().multPoint({at[0], at[1], 0});
+        at = SbVec2f(moved[0], moved[1]);
+    }
+}
+
+} // namespace scopix

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/nodes/base/SoState.h>
+
+#include <array>
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+class SoNode;
+
+namespace scopix
+{
+
+struct ExportedMaterial {
+    std::string name; // UTF-8; of its own, without blanks
+    SoMaterialState look;
+    const SoTexture2* texture = nullptr;
+};
+
+/// The materials that shapes of a scene have, each once. Refers to nodes of the scene, which must outlive it.
+class MaterialTable
+{
+public:
+    /// The node that names what comes next.
+    void noteNode(const SoNode& material) { m_node = &material; }
+    /// The place of what the state says among all().
+    std::size_t placeOf(const SoState& state);
+    std::vector<ExportedMaterial> take() { return std::move(m_all); }
+
+private:
+    std::string newName();
+
+    using Color = std::array<float, 3>;
+    using Key = std::tuple<Color, Color, Color, Color, float, float, const SoTexture2*>;
+
+    std::vector<ExportedMaterial> m_all;
+    std::map<Key, std::size_t> m_places;
+    std::set<std::string> m_names;
+    const SoNode* m_node = nullptr;
+};
+
+} // namespace scopix
