@@ -294,6 +294,25 @@ private:
     std::vector<GltfContent::Mesh>& m_meshes;
 };
 
+// Readers find lights and cameras by the names of their nodes.
+void nameLightsAndCameras(std::vector<GltfContent::Node>& nodes)
+{
+    std::multiset<std::string> names;
+    for (const GltfContent::Node& node : nodes)
+        names.insert(node.name);
+    for (GltfContent::Node& node : nodes) {
+        if (node.light < 0 && node.camera < 0)
+            continue;
+        const std::string kind = node.light >= 0 ? "Light" : "Camera";
+        const std::string stem = node.name.empty() ? kind : node.name;
+        names.erase(names.find(node.name));
+        node.name = stem;
+        for (int number = 2; names.count(node.name) > 0; ++number)
+            node.name = stem + ' ' + std::to_string(number);
+        names.insert(node.name);
+    }
+}
+
 // The scene's own root takes the place of the one that everything is collected in.
 void takeRoot(GltfContent& content)
 {
@@ -313,6 +332,7 @@ GltfContent toGltf(SoNode& root)
     GltfContent content = Collector().take(root);
     takeRoot(content);
     Tidying(content).run();
+    nameLightsAndCameras(content.nodes);
     return content;
 }
 

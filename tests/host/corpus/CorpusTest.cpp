@@ -2,11 +2,15 @@
 // Every model of the importer's own test files opens with as many triangles as the importer finds in it, or
 // is refused in one sentence; none crashes the host or keeps it waiting. One test for each of the files'
 // folders.
+#include "export/FlatScene.h"
+#include "export/SceneExport.h"
 #include "import/ModelImport.h"
 #include "model/ModelFormats.h"
 #include "reader/MemoryLimit.h"
 
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 
 #include <assimp/Importer.hpp>
@@ -105,6 +109,53 @@ Outcome open(const QString& path)
     return outcome;
 }
 
+SbBox3f boxOf(const FlatScene& scene)
+{
+    SbBox3f box;
+    for (const FlatScene::Mesh& mesh : scene.meshes) {
+        for (const SbVec3f& point : mesh.geometry.points)
+            box.extendBy(point);
+    }
+    return box;
+}
+
+template <class Node>
+std::size_t count(SoNode& scene)
+{
+    SoSearchAction search;
+    search.setType(Node::getClassTypeId());
+    search.setLimit(-1);
+    return search.apply(&scene).size();
+}
+
+// What was exported is there again: every point in its place, as far as numbers in a file keep that.
+void checkCopy(SoNode& scene)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("copy.glb");
+    ASSERT_EQ(SceneExport(scene, path).write(), "");
+    const FlatScene before = flatten(scene);
+    const Outcome copy = open(path);
+    if (before.meshes.empty())
+        return;
+    ASSERT_TRUE(copy.scene) << qPrintable(copy.error);
+    const FlatScene after = flatten(*copy.scene);
+    ASSERT_EQ(before.meshes.size(), after.meshes.size());
+    EXPECT_EQ(count<SoLight>(*copy.scene) + std::size_t(before.leftOut.value("ambient lights")),
+              count<SoLight>(scene));
+    EXPECT_EQ(count<SoCamera>(*copy.scene), count<SoCamera>(scene));
+    EXPECT_EQ(before.materials.size(), after.materials.size());
+    const float tolerance =
+        1e-5F * std::max(boxOf(before).getSize().length(), boxOf(before).getMax().length());
+    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
+        const SoGeometry& mine = before.meshes[i].geometry;
+        const SoGeometry& theirs = after.meshes[i].geometry;
+        ASSERT_EQ(mine.index.size(), theirs.index.size());
+        for (std::size_t k = 0; k < mine.index.size(); ++k)
+            ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
+    }
+}
+
 void check(const QString& path)
 {
     SCOPED_TRACE(path.toStdString());
@@ -112,6 +163,7 @@ void check(const QString& path)
     const Outcome outcome = open(path);
     if (outcome.scene) {
         EXPECT_EQ(trianglesIn(outcome.scene.get()), expected);
+        checkCopy(*outcome.scene);
         return;
     }
     EXPECT_TRUE(outcome.error.contains(path)) << qPrintable(outcome.error);
