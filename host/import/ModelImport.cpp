@@ -28,6 +28,9 @@ QProcessEnvironment readerEnvironment()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XSG_PICTURE_MEMORY"),
                        QString::number(xsg::PictureBudget::preferred().getBytes() / xsg::PictureBudget::MiB));
+    const SbString angle = SoPreferences::getString("XSG_CREASE_ANGLE", SbString());
+    if (angle.getLength() > 0)
+        environment.insert(QStringLiteral("XSG_CREASE_ANGLE"), QString::fromLatin1(angle.getString()));
     return environment;
 }
 

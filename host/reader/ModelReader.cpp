@@ -10,6 +10,8 @@
 #include "reader/RegularFiles.h"
 #include "reader/ScopedCLocale.h"
 
+#include <xsg/core/SoPreferences.h>
+
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/config.h>
@@ -163,12 +165,19 @@ const aiScene* read(Assimp::Importer& importer, const QString& path)
     return importer.ApplyPostProcessing(Steps);
 }
 
+// In degrees: faces that meet at a sharper angle have an edge between them, where a file has no normals.
+float creaseAngle()
+{
+    return std::clamp(SoPreferences::getFloat("XSG_CREASE_ANGLE", 35), 0.0F, 175.0F);
+}
+
 ModelReadResult import(const QString& path, const ReadProgress& progress)
 {
     Assimp::Importer importer;
     QStringList missingFiles;
     importer.SetProgressHandler(new Progress(progress)); // the importer owns both
     importer.SetIOHandler(new FileAccess(path, missingFiles));
+    importer.SetPropertyFloat(AI_CONFIG_PP_GSN_MAX_SMOOTHING_ANGLE, creaseAngle());
     const ScopedCLocale numbers;
     const aiScene* scene = read(importer, path);
     if (!scene)

@@ -141,8 +141,16 @@ void main()
     if (isLit == 1) {
         vec3 toEye = normalize(eye.xyz - worldPoint * eye.w);
         vec3 n = normalize(worldNormal);
-        if (dot(n, toEye) < 0.0)
-            n = -n; // both sides of a surface are lit
+        // Both sides of a surface are lit. Which of them is seen, the face says: near a silhouette, a normal that is
+        // smoothed between faces may well look away from the eye.
+        // Lines and points have no face.
+        vec3 across = dFdx(worldPoint);
+        vec3 up = dFdy(worldPoint);
+        vec3 face = cross(across, up);
+        if (length(face) <= 1e-4 * length(across) * length(up))
+            face = toEye;
+        if (dot(n, face) * dot(toEye, face) < 0.0)
+            n = -n;
         color = vertexEmissive + ambientLight * vertexAmbient.rgb;
         float sharpness = max(vertexAmbient.a, 0.0) * 128.0;
         for (int i = 0; i < lightCount; ++i) {

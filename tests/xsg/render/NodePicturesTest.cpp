@@ -8,6 +8,7 @@
 #include <xsg/nodes/groups/SoLevelOfDetail.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/lights/SoSpotLight.h>
 #include <xsg/nodes/properties/SoClipPlane.h>
@@ -138,6 +139,20 @@ TEST_F(NodePicture, SpecularLightMakesASpot)
     const SoPixels pixels = draw();
     EXPECT_GT(center(pixels)[1], before[1] + 100);
     EXPECT_LT(at(pixels, 22, 32)[1], 10);
+}
+
+// As a smoothed normal does near a silhouette.
+TEST_F(NodePicture, ANormalThatLooksAwayLeavesNoDarkPatchOnAFaceThatIsSeen)
+{
+    auto* light = add<SoDirectionalLight>();
+    light->direction.setValue(-1, 0, 0);
+    addDull({1, 1, 1});
+    addCorners({{-0.3F, -1, 1}, {0.3F, -1, -1}, {-0.3F, 1, 1}, {0.3F, 1, -1}});
+    add<SoNormals>()->vectors.setValues(std::vector<SbVec3f>(4, SbVec3f(0.99F, 0, -0.1F)));
+    add<SoTriangleStripSet>();
+    EXPECT_GT(center(draw())[0], 200);
+    light->direction.setValue(1, 0, 0);
+    EXPECT_LT(center(draw())[0], 20);
 }
 
 TEST_F(NodePicture, EveryKindOfTriangleListFillsTheSameSquare)
