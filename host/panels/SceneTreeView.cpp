@@ -132,6 +132,7 @@ void SceneTreeView::selectOnly(const QModelIndex& index)
 void SceneTreeView::selectRows(const QModelIndexList& rows)
 {
     const QScopedValueRollback<bool> quiet(m_quiet, true);
+    m_order.clear();
     if (rows.isEmpty())
         return dropSelection();
     QItemSelection selection;
@@ -139,7 +140,6 @@ void SceneTreeView::selectRows(const QModelIndexList& rows)
         selection.append(QItemSelectionRange(row, row.siblingAtColumn(SceneTreeModel::ColumnCount - 1)));
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     selectionModel()->setCurrentIndex(rows.last(), QItemSelectionModel::NoUpdate);
-    m_order.clear();
     std::copy(rows.begin(), rows.end(), std::back_inserter(m_order));
     scrollTo(rows.last());
 }

@@ -34,7 +34,7 @@ bool HostServices::isInScene(const std::vector<SoNode*>& way) const
         const auto& parents = child->getParents();
         return std::find(parents.begin(), parents.end(), parent) != parents.end();
     };
-    return !way.empty() && way.front() == getSceneRoot() &&
+    return !way.empty() && (!m_source || way.front() == getSceneRoot()) &&
            std::adjacent_find(way.begin(), way.end(), [&](SoNode* parent, SoNode* child) {
                return !isBelow(parent, child);
            }) == way.end();
