@@ -45,6 +45,9 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     connectParts();
     m_services.setSceneSource(m_window.get());
     m_shell.setMenus(m_window->editMenu(), m_window->appearanceMenu());
+    m_shell.setGuide(
+        [this](const QString& query) { m_window->findInScene(query); },
+        [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     new ToolsMenu(m_shell, *m_window->viewMenu());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <scopix/SpxContextMenus.h>
+#include <scopix/SpxGuide.h>
 #include <scopix/SpxShell.h>
 #include <scopix/SpxShellMenus.h>
 
@@ -9,6 +11,8 @@
 #include <QObject>
 #include <QPointer>
 #include <QSet>
+
+#include <functional>
 
 class QAction;
 class QMainWindow;
@@ -21,7 +25,11 @@ namespace scopix
 /// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
 /// saved; keeps the place of one that is removed for when it comes back; returns every widget without a
 /// parent. Knows which extension owns which widget and lets the user show and hide them. GUI thread only.
-class HostShell : public QObject, public SpxShell, public SpxShellMenus
+class HostShell : public QObject,
+                  public SpxShell,
+                  public SpxShellMenus,
+                  public SpxContextMenus,
+                  public SpxGuide
 {
     Q_OBJECT
 
@@ -42,6 +50,19 @@ public:
     void addMenuAction(Menu menu, QAction* action) override;
     void removeMenuAction(QAction* action) override;
     bool raiseDocksOf(const char* extension) override;
+
+    void addProvider(SpxContextMenuProvider* provider) override;
+    void removeProvider(SpxContextMenuProvider* provider) override;
+    void fillNodeMenu(QMenu& menu, const QList<SoFieldContainer*>& nodes,
+                      const SpxContextMenuProvider* except = nullptr) override;
+    void fillFieldMenu(QMenu& menu, SoField& field, const SpxContextMenuProvider* except = nullptr) override;
+
+    using Find = std::function<void(const QString& query)>;
+    using ShowHelp = std::function<bool(const QString& page, const QString& section)>;
+    /// What does the work of find() and showHelp().
+    void setGuide(Find find, ShowHelp showHelp);
+    void find(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
 
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
@@ -92,6 +113,8 @@ private:
         bool shown;
     };
 
+    using AddEntries = std::function<void(SpxContextMenuProvider&)>;
+    void fillMenu(QMenu& menu, const SpxContextMenuProvider* except, const AddEntries& addEntries);
     bool isInPlaceholdersArea(const QDockWidget* dock) const;
     void joinPlaceholder(QDockWidget* dock);
     void updatePlaceholder();
@@ -117,6 +140,9 @@ private:
     Qt::DockWidgetArea m_placeholderArea = Qt::NoDockWidgetArea;
     QPointer<QMenu> m_editMenu;
     QPointer<QMenu> m_viewMenu;
+    QList<SpxContextMenuProvider*> m_providers;
+    Find m_find;
+    ShowHelp m_showHelp;
 };
 
 } // namespace scopix
