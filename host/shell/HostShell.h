@@ -84,6 +84,13 @@ public:
     /// user wants: until then, forgetFirstLook() shows it again.
     void hideAtFirst(const QString& name);
     void forgetFirstLook();
+    /// The dock of this object name comes up folded to its title, until there is something to say in it.
+    void foldAtFirst(const QString& dock) { m_foldAtFirst.insert(dock); }
+    /// All docks at the bottom.
+    void setBottomFolded(bool folded);
+    bool isBottomFolded() const;
+    /// The object names of the docks that are folded now.
+    QStringList foldedDocks() const;
     bool comesUpHidden(const SpxExtension* extension) const;
 
     /// While no dock of this area is shown, a sheet with these words keeps its place, so that what is in the
@@ -115,6 +122,7 @@ private:
 
     using AddEntries = std::function<void(SpxContextMenuProvider&)>;
     void fillMenu(QMenu& menu, const SpxContextMenuProvider* except, const AddEntries& addEntries);
+    QList<QDockWidget*> bottomDocks() const;
     bool isInPlaceholdersArea(const QDockWidget* dock) const;
     void joinPlaceholder(QDockWidget* dock);
     void updatePlaceholder();
@@ -140,6 +148,7 @@ private:
     Qt::DockWidgetArea m_placeholderArea = Qt::NoDockWidgetArea;
     QPointer<QMenu> m_editMenu;
     QPointer<QMenu> m_viewMenu;
+    QSet<QString> m_foldAtFirst; // docks that have not come up yet
     QList<SpxContextMenuProvider*> m_providers;
     Find m_find;
     ShowHelp m_showHelp;
