@@ -14,6 +14,7 @@ namespace scopix
 {
 
 class FieldListView;
+class HelpWindow;
 class HostServices;
 class UserNotifier;
 class ScenePanel;
@@ -44,9 +45,11 @@ public:
     QMenu* editMenu() override { return m_editMenu; }
     QString emptyHint() const override;
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
+    void findInScene(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
-    void selectPath(const SoPath& path) override;
+    SoPath pathTo(const SoNode* node) const override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
@@ -82,6 +85,7 @@ private:
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showHelpOnFocus();
     void viewSelected();
     void find();
     void showNode(SoFieldContainer* node);
@@ -95,6 +99,7 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
