@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "rows/NumberEdit.h"
 
+#include "rows/TextEdit.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFrame>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -135,21 +136,9 @@ bool NumberEdit::event(QEvent* event)
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::ToolTip && isCut()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    if (showCutText(*this, event))
         return true;
-    }
     return QLineEdit::event(event);
-}
-
-bool NumberEdit::isCut() const
-{
-    const QMargins margins = textMargins();
-    QStyleOptionFrame frame;
-    initStyleOption(&frame);
-    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
-    return fontMetrics().horizontalAdvance(text()) >
-           inside.width() - margins.left() - margins.right() - 2 * Margin;
 }
 
 void NumberEdit::mousePressEvent(QMouseEvent* event)

@@ -42,8 +42,6 @@ public:
     /// shown.
     void setPresent(std::function<double()> present) { m_present = std::move(present); }
 
-    /// The text does not fit: the tool tip then is the text.
-    bool isCut() const;
     bool isDragging() const { return m_drag == Drag::Moves; }
     /// Typed into, or dragged: what is shown is the user's.
     bool isBusy() const { return isDragging() || (isModified() && hasFocus()); }
