@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "rows/NumberEdit.h"
 
-#include "rows/TextEdit.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -52,9 +50,14 @@ NumberEdit::NumberEdit(QWidget* parent)
 {
     setFocusPolicy(Qt::TabFocus); // a press may become a drag: a click takes the focus by itself
     setContextMenuPolicy(Qt::NoContextMenu);
-    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0.0")));
     connect(this, &QLineEdit::textEdited, this, [this] { setWrong(false); });
     updateCursor();
+}
+
+QSize NumberEdit::minimumSizeHint() const
+{
+    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("0.0"));
+    return {digits + textMargins().left() + 2 * Margin, QLineEdit::minimumSizeHint().height()};
 }
 
 void NumberEdit::setFormat(const NumberFormat& format)
@@ -136,8 +139,6 @@ bool NumberEdit::event(QEvent* event)
         event->accept();
         return true;
     }
-    if (showCutText(*this, event))
-        return true;
     return QLineEdit::event(event);
 }
 

@@ -33,6 +33,8 @@ class NumberEdit : public QLineEdit
 public:
     explicit NumberEdit(QWidget* parent = nullptr);
 
+    /// A number of two digits, beside what stands in front of it.
+    QSize minimumSizeHint() const override;
     void setFormat(const NumberFormat& format);
     const NumberFormat& format() const { return m_format; }
     /// Shows a number that nobody typed here; drops what is typed.
