@@ -11,6 +11,8 @@
 #include "rows/NumberEdit.h"
 #include "rows/RowMenu.h"
 
+#include <scopix/editing/SpxFieldEdit.h>
+#include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
@@ -167,12 +169,53 @@ QString Row::toolTipText() const
     return toolTipOf(*field(), m_description);
 }
 
+std::vector<SoField*> Row::fields() const
+{
+    std::vector<SoField*> all;
+    if (field())
+        all.push_back(field());
+    for (const SpxFieldPointer& other : m_others) {
+        if (other && other.get() != field())
+            all.push_back(other.get());
+    }
+    return all;
+}
+
+bool Row::isMixed() const
+{
+    return std::any_of(m_others.begin(), m_others.end(), [this](const SpxFieldPointer& other) {
+        return other && field() && !other->isSame(*field());
+    });
+}
+
+bool Row::isAny(bool (SoField::*is)() const) const
+{
+    const std::vector<SoField*> all = fields();
+    return std::any_of(all.begin(), all.end(), [is](const SoField* each) { return (each->*is)(); });
+}
+
+bool Row::areAllDefault() const
+{
+    const std::vector<SoField*> all = fields();
+    return std::all_of(all.begin(), all.end(), [](const SoField* each) { return each->isDefault(); });
+}
+
+// Of all together: it differs after a change of any.
+quint32 Row::changeCount() const
+{
+    quint32 sum = 0;
+    for (const SoField* each : fields()) {
+        each->evaluate();
+        sum += each->getChangeCount();
+    }
+    return sum;
+}
+
 void Row::refresh()
 {
     if (!field())
         return;
-    field()->evaluate();
-    const quint32 change = field()->getChangeCount();
+    const quint32 change = changeCount();
     if (!m_isShown || change != m_shownChange) {
         if (m_isShown)
             noteChange(change);
@@ -200,7 +243,7 @@ void Row::changedHere()
 {
     if (!field())
         return;
-    m_shownChange = field()->getChangeCount();
+    m_shownChange = changeCount();
     m_hasConflict = false;
     m_changesInARow = 0;
     showValue();
@@ -211,20 +254,21 @@ void Row::showMark()
 {
     using State = Mark::State;
     const SoField* source = field()->getConnectedField();
+    const bool isChanged = !areAllDefault();
     const bool isAnimated = m_changesInARow >= AnimatedAfter && steadyMs() - m_lastChange < 2 * SoonAfterMs;
     if (m_hasConflict)
         m_mark->setState(State::Conflict, tr("Changed elsewhere meanwhile: take that value, or keep yours."));
     else if (source)
         m_mark->setState(State::Connected, tr("Follows %1.").arg(pathOf(*source)));
-    else if (field()->isIgnored())
+    else if (isAny(&SoField::isIgnored))
         m_mark->setState(State::Ignored, tr("Ignored: takes no part."));
     else if (isAnimated)
         m_mark->setState(State::Animated, tr("Changes by itself."));
-    else if (!field()->isDefault())
+    else if (isChanged)
         m_mark->setState(State::Changed, tr("Changed: not the default."));
     else
         m_mark->setState(State::Default, tr("The default."));
-    m_caption->setStrong(!field()->isDefault());
+    m_caption->setStrong(isChanged);
     m_editor->setEnabled(true);
 }
 
@@ -261,28 +305,27 @@ void Row::showMenu(const QPoint& where)
 
 void Row::addStateEntries(QMenu& menu)
 {
-    const SpxFieldPointer edited = m_field;
     if (m_hasConflict) {
         menu.addAction(tr("&Take the New Value"), this, &Row::takeTheirs);
         menu.addAction(tr("&Keep Mine"), this, &Row::keepMine);
         menu.addSeparator();
     }
-    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!field()->isDefault());
+    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!areAllDefault());
     QAction* ignore = menu.addAction(tr("&Ignore"));
     ignore->setCheckable(true);
     ignore->setChecked(field()->isIgnored());
-    connect(ignore, &QAction::triggered, this, [this, edited](bool ignored) {
-        if (edited)
-            SpxFieldEdit::setIgnored(edited.get(), ignored);
+    connect(ignore, &QAction::triggered, this, [this](bool ignored) {
+        for (SoField* each : fields())
+            SpxFieldEdit::setIgnored(each, ignored);
         changedHere();
     });
     menu.addAction(tr("C&onnect to a Field…"), this, &Row::connectField);
-    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this, edited] {
-        if (edited)
-            SpxFieldEdit::setSource(edited.get(), nullptr);
+    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this] {
+        for (SoField* each : fields())
+            SpxFieldEdit::setSource(each, nullptr);
         changedHere();
     });
-    disconnect->setEnabled(field()->isConnected());
+    disconnect->setEnabled(isAny(&SoField::isConnected));
 }
 
 void Row::addTextEntries(QMenu& menu)
@@ -310,18 +353,27 @@ void Row::connectField()
     const QPointer<Row> self(this); // the row may go while the dialog is open
     const SpxFieldPointer edited = m_field;
     ConnectDialog dialog(*edited.get(), window());
-    if (dialog.exec() == QDialog::Accepted && edited && dialog.chosen())
-        SpxFieldEdit::setSource(edited.get(), dialog.chosen());
-    if (self)
-        changedHere();
+    const bool isChosen = dialog.exec() == QDialog::Accepted && edited && dialog.chosen();
+    if (!self)
+        return;
+    for (SoField* each : isChosen ? fields() : std::vector<SoField*>()) {
+        if (each != dialog.chosen())
+            SpxFieldEdit::setSource(each, dialog.chosen());
+    }
+    changedHere();
 }
 
 void Row::reset()
 {
     if (!field())
         return;
-    SpxFieldEdit::setToDefault(field());
-    changedHere();
+    edit([&] {
+        const SpxFreshDefault fresh(field());
+        const bool isWritten = fresh.get() && field()->copyFrom(*fresh.get());
+        if (isWritten)
+            field()->setDefault(true);
+        return isWritten;
+    });
 }
 
 void Row::copyValue() const
@@ -335,7 +387,10 @@ void Row::pasteValue()
     const QString text = QApplication::clipboard()->text().trimmed();
     if (!field() || text.isEmpty())
         return;
-    if (!pasteText(field(), text))
+    bool isPasted = true;
+    for (SoField* each : fields())
+        isPasted = pasteText(each, text) && isPasted;
+    if (!isPasted)
         QToolTip::showText(
             mapToGlobal(QPoint(0, height())),
             tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);
