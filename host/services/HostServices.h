@@ -8,13 +8,14 @@
 
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
+#include <scopix/SpxViewServices.h>
 
 namespace scopix
 {
 
 /// The services that the host offers to extensions: selection, and undo through the history of edits. Names
 /// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
-class HostServices : public SpxServices, public SpxSceneServices
+class HostServices : public SpxServices, public SpxSceneServices, public SpxViewServices
 {
     Q_OBJECT
 
@@ -43,6 +44,13 @@ public:
     void selectPath(const SoPath& path) override;
     void executeCommand(SpxCommand* command, const QString& stepName) override;
 
+    void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
+    void addPickListener(SpxPickListener* listener) override;
+    void removePickListener(SpxPickListener* listener) override;
+    bool hasPickListeners() const { return !m_pickListeners.empty(); }
+    /// Whether the click was meant for a listener, and is to select nothing.
+    bool offerPick(const SpxPickedPoint& picked);
+
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
@@ -64,6 +72,7 @@ private:
     Selection m_selection;
     UndoHistory m_history;
     SceneSource* m_source = nullptr;
+    std::vector<SpxPickListener*> m_pickListeners;
 };
 
 } // namespace scopix

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <xsg/actions/SoPath.h>
+#include <xsg/values/SbVec.h>
+
+#include <vector>
 
 namespace scopix
 {
@@ -19,6 +22,11 @@ public:
     virtual SoNode* sceneRoot() const { return nullptr; }
     virtual SoPath selectedPath() const { return {}; }
     virtual void selectPath(const SoPath& /*path*/) {}
+    /// In the picture of the scene, as SpxViewServices has it.
+    virtual void setMarkedPoints(const void* /*owner*/, const SoPath& /*place*/,
+                                 const std::vector<SbVec3f>& /*points*/)
+    {
+    }
 };
 
 } // namespace scopix

@@ -274,6 +274,8 @@ void SceneView::mouseReleaseEvent(QMouseEvent* event)
     if (!clicked)
         return;
     const auto hit = pick(event->pos());
+    if (hit && m_pickFilter && event->modifiers() == Qt::NoModifier && m_pickFilter(*hit, event->pos()))
+        return;
     emit picked(hit ? hit->path : SoPath());
 }
 

@@ -70,6 +70,9 @@ public:
     /// Offers it all events before the view navigates. It must outlive the view, or be removed.
     void addTool(ViewTool* tool);
     void removeTool(ViewTool* tool);
+    /// Asked before a click selects what it hit; true leaves the selection as it is.
+    using PickFilter = std::function<bool(const SoPickedPoint& hit, const QPoint& place)>;
+    void setPickFilter(PickFilter filter) { m_pickFilter = std::move(filter); }
     /// How the view sees at present.
     ViewSight getSight() const;
     /// The picture is no longer right: draws another one, and what the tools have over it.
@@ -121,6 +124,7 @@ private:
     std::uint64_t m_highlight = 0; // a node's number: the node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
+    PickFilter m_pickFilter;
     ViewSurface* m_surface;
     ViewTools m_tools;
     QLabel* m_statistics;

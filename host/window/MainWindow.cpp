@@ -16,6 +16,7 @@
 #include "window/DefaultScene.h"
 #include "window/FileMenu.h"
 #include "window/ReloadBar.h"
+#include "window/ViewPoints.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -82,6 +83,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
+    , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -340,6 +342,7 @@ void MainWindow::showScene(SoNode* root)
     // application's.
     m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
+    m_viewPoints->getMarks().setScene(root);
 }
 
 void MainWindow::showTitle()
@@ -409,6 +412,11 @@ SoPath MainWindow::selectedPath() const
 void MainWindow::selectPath(const SoPath& path)
 {
     m_tree->selectPath(path);
+}
+
+void MainWindow::setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points)
+{
+    m_viewPoints->getMarks().set(owner, place, points);
 }
 
 void MainWindow::setTheme(Theme theme)

@@ -19,6 +19,7 @@ class UserNotifier;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
+class ViewPoints;
 
 /// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
 /// extensions around it. Opens scenes and models. GUI thread only.
@@ -47,6 +48,7 @@ public:
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
     void selectPath(const SoPath& path) override;
+    void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
@@ -56,6 +58,7 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    ViewPoints& getViewPoints() { return *m_viewPoints; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -95,6 +98,7 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    std::unique_ptr<ViewPoints> m_viewPoints;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
