@@ -2,7 +2,8 @@
 // What the panel of a node costs, against plain widgets that do the same:
 //
 //   - selecting a node of 5, 50 and 500 fields, until it is shown, against making as many rows of the same
-//     widgets as are visible, with their texts: what is not visible should cost nearly nothing;
+//     widgets as are visible, with their texts, below a title: what is not visible should cost nearly
+//     nothing;
 //   - one step of a drag on a number: write, sensor, refresh and picture, and the step of undo at the end of
 //     the drag, against a bare slider with an undo step and a line of text.
 #include "Ratios.h"
@@ -86,6 +87,8 @@ void select(benchmark::State& state)
     Panel panel;
     const SoRef<ManyNumbers> nodes[] = {SoRef<ManyNumbers>(new ManyNumbers(int(state.range(0)))),
                                         SoRef<ManyNumbers>(new ManyNumbers(int(state.range(0))))};
+    nodes[0]->setName("One");
+    nodes[1]->setName("Another");
     int next = 0;
     for (auto _ : state) {
         next = 1 - next;
@@ -94,19 +97,25 @@ void select(benchmark::State& state)
     }
 }
 
-/// Rows of a mark, a name and an input, with nothing behind them.
-class BareRows : public QAbstractScrollArea
+/// A title and rows of a mark, a name and an input, with nothing behind them.
+class BareRows : public QWidget
 {
 public:
     explicit BareRows(const QList<QWidget*>& rows)
     {
         for (QWidget* row : rows)
             m_places += {row->geometry(), row->accessibleName()};
-        setFrameShape(NoFrame);
+        m_area->setFrameShape(QFrame::NoFrame);
+        m_title->setTextFormat(Qt::RichText);
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(m_title);
+        layout->addWidget(new QLineEdit);
+        layout->addWidget(m_area, 1);
         resize(PanelSize);
     }
     void make(int number)
     {
+        m_title->setText(QStringLiteral("<b>%1</b> ManyNumbers").arg(number % 2 ? "One" : "Another"));
         qDeleteAll(m_rows);
         m_rows.clear();
         for (const Place& place : qAsConst(m_places)) {
@@ -124,7 +133,7 @@ private:
     };
     QWidget* makeRow(const QString& name, int number)
     {
-        auto* row = new QWidget(viewport());
+        auto* row = new QWidget(m_area->viewport());
         row->setAccessibleName(name);
         auto* mark = new QToolButton(row);
         mark->setToolTip(QStringLiteral("The default."));
@@ -142,6 +151,8 @@ private:
         return row;
     }
 
+    QLabel* m_title = new QLabel;
+    QAbstractScrollArea* m_area = new QAbstractScrollArea;
     QList<Place> m_places;
     QList<QWidget*> m_rows;
 };

@@ -163,9 +163,8 @@ void FieldPanel::showPlace()
 {
     m_breadcrumb->clear();
     m_nearby->clear();
-    m_title->clear();
     if (!node())
-        return;
+        return m_title->clear();
     const QString type = SpxText::toQString(node()->getTypeId().getName());
     const QString label = nodeLabel(*node());
     m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +

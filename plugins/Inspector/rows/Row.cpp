@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace inspector
 {
@@ -112,8 +113,8 @@ QList<QWidget*> Row::inputs() const
 
 void Row::setStacked(bool stacked)
 {
-    m_isStacked = stacked;
-    placeParts();
+    if (std::exchange(m_isStacked, stacked) != stacked)
+        placeParts();
 }
 
 void Row::resizeEvent(QResizeEvent* event)
