@@ -6,6 +6,7 @@
 #include "undo/GestureTracker.h"
 #include "undo/UndoHistory.h"
 
+#include <scopix/SpxNodeDefaults.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 #include <scopix/SpxViewServices.h>
@@ -15,7 +16,10 @@ namespace scopix
 
 /// The services that the host offers to extensions: selection, and undo through the history of edits. Names
 /// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
-class HostServices : public SpxServices, public SpxSceneServices, public SpxViewServices
+class HostServices : public SpxServices,
+                     public SpxSceneServices,
+                     public SpxNodeDefaults,
+                     public SpxViewServices
 {
     Q_OBJECT
 
@@ -23,8 +27,8 @@ public:
     HostServices();
     ~HostServices() override;
 
-    /// As in Selection; reported by the signals of SpxServices. Whoever changes it, an editor that then
-    /// applies what was typed edits for the user.
+    /// As in Selection; reported by the signals of SpxServices, and then by selectionChanged(). Whoever
+    /// changes it, an editor that then applies what was typed edits for the user.
     void select(SoFieldContainer* node);
     void select(SoField* field);
     void clearSelection();
@@ -43,6 +47,15 @@ public:
     void selectField(SoField* field) override { select(field); }
     void selectPath(const SoPath& path) override;
     void executeCommand(SpxCommand* command, const QString& stepName) override;
+    void selectNodes(const QList<SoFieldContainer*>& nodes) override;
+    void selectPaths(const QList<SoPath>& paths) override;
+    QList<SoPath> getSelectedPaths() const override;
+
+    bool canHaveUserDefault(const SoField& field) const override;
+    bool hasUserDefault(const SoField& field) const override;
+    QString setUserDefault(const SoField& field) override;
+    QString clearUserDefault(const SoField& field) override;
+    void applyUserDefaults(SoFieldContainer& node) const override;
 
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     void addPickListener(SpxPickListener* listener) override;
@@ -55,6 +68,8 @@ public:
     QUndoStack& undoStack() { return m_history.stack(); }
 
 signals:
+    /// Any change of what is selected, or the same once more.
+    void selectionChanged();
     /// As UndoHistory::failed and lost.
     void commandFailed(const QString& sentence);
     void stepsLost(const QString& sentence);
@@ -63,8 +78,14 @@ private:
     UndoHistory::CommandContext currentContext() const;
     QString stepText() const;
     bool isEdited(const SoField& field) const;
+    bool isInScene(const std::vector<SoNode*>& way) const;
+    SoPath pathOf(const Selection::Place& place) const;
     template <class Change>
-    void changeSelection(Change change);
+    void changeSelection(Change change)
+    {
+        const UserInput::Scope scope(m_history.input(), UserInput::Scope::User);
+        change();
+    }
     void containerDies(SoFieldContainer* container);
     static void dyingCallback(void* services, SoFieldContainer* container);
 

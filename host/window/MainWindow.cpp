@@ -14,7 +14,9 @@
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
 #include "window/DefaultScene.h"
+#include "window/FieldMenu.h"
 #include "window/FileMenu.h"
+#include "window/HelpWindow.h"
 #include "window/ReloadBar.h"
 #include "window/ViewPoints.h"
 
@@ -105,6 +107,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     new ReloadBar(m_files, *m_view);
+    new FieldMenu(*m_fields, m_services);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -257,6 +260,9 @@ void MainWindow::makeHelpMenu()
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });
+    menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
+                    QKeySequence(Qt::Key_F1));
+    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
 
@@ -287,7 +293,7 @@ void MainWindow::makeToolBar()
 void MainWindow::connectSelection()
 {
     connect(m_tree, &SceneTreeView::nodeSelected, this,
-            [this](SoNode* node) { m_services.select(static_cast<SoFieldContainer*>(node)); });
+            [this] { m_services.selectPaths(m_tree->getSelectedPaths()); });
     connect(m_fields, &FieldListView::fieldSelected, this,
             [this](SoField* field) { m_services.select(field); });
     connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
@@ -302,13 +308,37 @@ void MainWindow::find()
     m_scenePanel->startFinding();
 }
 
+void MainWindow::findInScene(const QString& query)
+{
+    find();
+    m_scenePanel->find(query);
+}
+
+bool MainWindow::showHelp(const QString& page, const QString& section)
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    return m_help->open(page, section);
+}
+
+void MainWindow::showHelpOnFocus()
+{
+    const SoFieldContainer* node = m_services.selectedNode();
+    if (!showHelp(QStringLiteral("nodes"), node ? toQString(node->getTypeId().getName()) : QString()))
+        m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
+}
+
 void MainWindow::showNode(SoFieldContainer* container)
 {
-    auto* node = dynamic_cast<SoNode*>(container);
-    m_tree->showNode(node);
+    m_tree->showPaths(m_services.getSelectedPaths());
     // The highlight would cover the very look that the user tunes in a material.
-    const bool canBeSeen = node && (node->asGroup() || node->asShape());
-    m_view->setHighlight(canBeSeen ? node : nullptr);
+    QList<const SoNode*> seen;
+    for (SoFieldContainer* each : m_services.getSelectedNodes()) {
+        auto* node = dynamic_cast<SoNode*>(each);
+        if (node && (node->asGroup() || node->asShape()))
+            seen.append(node);
+    }
+    m_view->setHighlight(seen);
     m_fields->setContainer(container);
 }
 
@@ -409,9 +439,9 @@ SoPath MainWindow::selectedPath() const
     return m_tree->getSelectedPath();
 }
 
-void MainWindow::selectPath(const SoPath& path)
+SoPath MainWindow::pathTo(const SoNode* node) const
 {
-    m_tree->selectPath(path);
+    return m_tree->pathTo(node);
 }
 
 void MainWindow::setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points)

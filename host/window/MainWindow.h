@@ -14,6 +14,7 @@ namespace scopix
 {
 
 class FieldListView;
+class HelpWindow;
 class HostServices;
 class UserNotifier;
 class ScenePanel;
@@ -45,9 +46,11 @@ public:
     QMenu* editMenu() override { return m_editMenu; }
     QString emptyHint() const override;
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
+    void findInScene(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
-    void selectPath(const SoPath& path) override;
+    SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
@@ -85,6 +88,7 @@ private:
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showHelpOnFocus();
     void viewSelected();
     void find();
     void showNode(SoFieldContainer* node);
@@ -99,6 +103,7 @@ private:
     FieldListView* m_fields;
     SceneView* m_view;
     std::unique_ptr<ViewPoints> m_viewPoints;
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

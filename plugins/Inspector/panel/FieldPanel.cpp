@@ -4,6 +4,7 @@
 #include "fields/FieldText.h"
 #include "panel/FlowRow.h"
 #include "panel/NearbyNodes.h"
+#include "panel/NodeMenu.h"
 #include "panel/RowList.h"
 
 #include <scopix/SpxSceneServices.h>
@@ -77,6 +78,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     layout->addLayout(makeFilter());
     layout->addWidget(m_rows, 1);
     connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
+    new NodeMenu(*this, *m_onlyChanged);
 }
 
 QLayout* FieldPanel::makeHeader()

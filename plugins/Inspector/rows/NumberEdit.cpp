@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -134,7 +135,21 @@ bool NumberEdit::event(QEvent* event)
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ToolTip && isCut()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
     return QLineEdit::event(event);
+}
+
+bool NumberEdit::isCut() const
+{
+    const QMargins margins = textMargins();
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
+    return fontMetrics().horizontalAdvance(text()) >
+           inside.width() - margins.left() - margins.right() - 2 * Margin;
 }
 
 void NumberEdit::mousePressEvent(QMouseEvent* event)
@@ -298,6 +313,8 @@ void NumberEdit::enter(double number)
 void NumberEdit::refuse(const QString& sentence)
 {
     setWrong(true);
+    if (m_meaning.isNull())
+        m_meaning = accessibleDescription();
     setAccessibleDescription(sentence);
     if (isVisible())
         QToolTip::showText(mapToGlobal(QPoint(0, height())), sentence, this);
@@ -312,8 +329,11 @@ void NumberEdit::setWrong(bool wrong)
     if (wrong)
         colors.setColor(QPalette::Text, QColor(0xd0, 0x40, 0x30));
     setPalette(colors);
-    if (!wrong)
-        QToolTip::hideText();
+    if (wrong)
+        return;
+    setAccessibleDescription(m_meaning);
+    m_meaning = QString();
+    QToolTip::hideText();
 }
 
 void NumberEdit::step(double digits, Qt::KeyboardModifiers modifiers)

@@ -42,6 +42,8 @@ public:
     /// shown.
     void setPresent(std::function<double()> present) { m_present = std::move(present); }
 
+    /// The text does not fit: the tool tip then is the text.
+    bool isCut() const;
     bool isDragging() const { return m_drag == Drag::Moves; }
     /// Typed into, or dragged: what is shown is the user's.
     bool isBusy() const { return isDragging() || (isModified() && hasFocus()); }
@@ -96,7 +98,8 @@ private:
     NumberFormat m_format;
     double m_number = 0;
     std::function<double()> m_present;
-    QString m_shown; // for m_number
+    QString m_shown;   // for m_number
+    QString m_meaning; // what the accessible description was before it said what is wrong; null: it is that
     Drag m_drag = Drag::None;
     bool m_isOwnDrag = false;
     QPoint m_pressedAt;

@@ -2,12 +2,14 @@
 #include "rows/Row.h"
 
 #include "fields/FieldText.h"
+#include "fields/PastedText.h"
+#include "fields/ToolTip.h"
 #include "rows/Caption.h"
 #include "rows/ConnectDialog.h"
 #include "rows/Mark.h"
 #include "rows/NumberEdit.h"
+#include "rows/RowMenu.h"
 
-#include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
@@ -45,11 +47,6 @@ qint64 steadyMs()
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
-QString number(double value)
-{
-    return SpxText::ofNumber(float(value));
-}
-
 } // namespace
 
 Row::Row(SoField* field)
@@ -70,6 +67,8 @@ void Row::buildFrame()
 {
     setObjectName(QStringLiteral("row"));
     setAccessibleName(fieldName() + QStringLiteral(", ") + typeText());
+    m_meaning = spokenMeaningOf(*field(), m_description);
+    setAccessibleDescription(m_meaning);
     m_mark = new Mark(this);
     m_mark->setAccessibleName(tr("State of %1").arg(fieldName()));
     connect(m_mark, &QToolButton::clicked, this,
@@ -96,7 +95,7 @@ QBoxLayout* Row::editorLayout()
 void Row::addInput(QWidget* input, const QString& part)
 {
     input->setAccessibleName(part.isEmpty() ? fieldName() : fieldName() + QLatin1Char(' ') + part);
-    input->setAccessibleDescription(typeText());
+    input->setAccessibleDescription(m_meaning);
     input->installEventFilter(this);
     m_inputs += input;
 }
@@ -159,23 +158,7 @@ QString Row::searchText() const
 
 QString Row::toolTipText() const
 {
-    QString text = QStringLiteral("<b>%1</b> (%2)").arg(fieldName(), typeText());
-    if (m_description) {
-        text += QStringLiteral("<br>") + QString::fromUtf8(m_description->meaning.data()).toHtmlEscaped();
-        if (!m_description->unit.empty())
-            text +=
-                QStringLiteral("<br>") + tr("Unit: %1").arg(QString::fromUtf8(m_description->unit.data()));
-        else if (m_description->quantity == SpxQuantity::Angle)
-            text += QStringLiteral("<br>") + tr("Unit: radians are stored");
-        if (m_description->softLow != m_description->softHigh)
-            text +=
-                QStringLiteral("<br>") +
-                tr("Range: %1 to %2").arg(number(m_description->softLow), number(m_description->softHigh));
-    }
-    const SpxFreshDefault fresh(field());
-    if (fresh.get())
-        text += QStringLiteral("<br>") + tr("Default: %1").arg(summary(*fresh.get()).toHtmlEscaped());
-    return text;
+    return toolTipOf(*field(), m_description);
 }
 
 void Row::refresh()
@@ -266,6 +249,7 @@ void Row::showMenu(const QPoint& where)
     addStateEntries(*menu);
     menu->addSeparator();
     addTextEntries(*menu);
+    addEntriesBeyond(*menu, m_field, *this);
     menu->popup(where);
 }
 
@@ -337,7 +321,7 @@ void Row::reset()
 void Row::copyValue() const
 {
     if (field())
-        QApplication::clipboard()->setText(SpxText::ofField(*field()));
+        QApplication::clipboard()->setText(plainText(*field()));
 }
 
 void Row::pasteValue()
@@ -345,7 +329,7 @@ void Row::pasteValue()
     const QString text = QApplication::clipboard()->text().trimmed();
     if (!field() || text.isEmpty())
         return;
-    if (!SpxFieldEdit::setText(field(), text))
+    if (!pasteText(field(), text))
         QToolTip::showText(
             mapToGlobal(QPoint(0, height())),
             tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);
@@ -357,6 +341,12 @@ bool Row::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && field())
         setToolTip(toolTipText());
+    // The row's own node, which need not be the selected one.
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
+        event->accept();
+        return event->type() == QEvent::ShortcutOverride || showHelpFor(m_field);
+    }
     return QWidget::event(event);
 }
 

@@ -99,6 +99,7 @@ private:
 
     SpxFieldPointer m_field;
     const Description* m_description;
+    QString m_meaning; // as it is read out
     SpxFieldGesture m_gesture;
     Mark* m_mark = nullptr;
     Caption* m_caption = nullptr;

@@ -1,49 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "rows/TextRow.h"
 
+#include "rows/TextEdit.h"
+
 #include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFName.h>
 #include <xsg/fields/SoSFString.h>
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QToolTip>
-
-#include <functional>
 
 namespace inspector
 {
-
-namespace
-{
-
-// Esc gives back what was there, whatever else it is for elsewhere.
-class TextEdit : public QLineEdit
-{
-public:
-    explicit TextEdit(std::function<void()> giveBack)
-        : m_giveBack(std::move(giveBack))
-    {
-    }
-
-protected:
-    bool event(QEvent* event) override
-    {
-        const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-        if (!isKey || !isModified() || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-            return QLineEdit::event(event);
-        if (event->type() == QEvent::KeyPress)
-            m_giveBack();
-        event->accept();
-        return true;
-    }
-
-private:
-    std::function<void()> m_giveBack;
-};
-
-} // namespace
 
 TextRow::TextRow(SoField* field)
     : Row(field)
