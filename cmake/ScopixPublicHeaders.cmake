@@ -10,8 +10,8 @@ set(SCOPIX_XSG_HEADERS
   SoDebugError.h SoError.h SoErrorHandler.h SoErrorStack.h SoGLError.h SoMemoryError.h SoReadError.h
   # Performance counters
   SoPerfAccumCounter.h SoPerfCounter.h SoPerfCounterManager.h SoPerfFeed.h SoPerfStateCounter.h
-  # Preferences, memory
-  SoPreferences.h XsgMalloc.h
+  # Preferences, memory, files that are replaced whole
+  FileReplacement.h SoPreferences.h SpecialFile.h XsgMalloc.h
   # Fields and what holds them
   SoChangeListener.h SoField.h SoFieldContainer.h SoFieldData.h SoMField.h SoNotification.h SoSField.h
   SoWriteRecorder.h
@@ -38,11 +38,11 @@ set(SCOPIX_XSG_HEADERS
   SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
   # Actions
-  SoBoundingBoxAction.h SoPath.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  SoBoundingBoxAction.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
   # Drawing
-  SoImageReader.h SoOffscreenRenderer.h SoRenderer.h
+  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
   # Scene files
   SoSceneFile.h
   # The library as a whole
@@ -50,7 +50,8 @@ set(SCOPIX_XSG_HEADERS
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
-  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
+  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h
+  SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)

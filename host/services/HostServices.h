@@ -9,13 +9,17 @@
 #include <scopix/SpxNodeDefaults.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
+#include <scopix/SpxViewServices.h>
 
 namespace scopix
 {
 
 /// The services that the host offers to extensions: selection, and undo through the history of edits. Names
 /// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
-class HostServices : public SpxServices, public SpxSceneServices, public SpxNodeDefaults
+class HostServices : public SpxServices,
+                     public SpxSceneServices,
+                     public SpxNodeDefaults,
+                     public SpxViewServices
 {
     Q_OBJECT
 
@@ -53,6 +57,13 @@ public:
     QString clearUserDefault(const SoField& field) override;
     void applyUserDefaults(SoFieldContainer& node) const override;
 
+    void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
+    void addPickListener(SpxPickListener* listener) override;
+    void removePickListener(SpxPickListener* listener) override;
+    bool hasPickListeners() const { return !m_pickListeners.empty(); }
+    /// Whether the click was meant for a listener, and is to select nothing.
+    bool offerPick(const SpxPickedPoint& picked);
+
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
@@ -82,6 +93,7 @@ private:
     Selection m_selection;
     UndoHistory m_history;
     SceneSource* m_source = nullptr;
+    std::vector<SpxPickListener*> m_pickListeners;
 };
 
 } // namespace scopix

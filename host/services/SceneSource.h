@@ -2,6 +2,9 @@
 #pragma once
 
 #include <xsg/actions/SoPath.h>
+#include <xsg/values/SbVec.h>
+
+#include <vector>
 
 namespace scopix
 {
@@ -19,6 +22,11 @@ public:
     virtual SoPath selectedPath() const { return {}; }
     /// To the first of the node's places; empty where it has none.
     virtual SoPath pathTo(const SoNode* /*node*/) const { return {}; }
+    /// In the picture of the scene, as SpxViewServices has it.
+    virtual void setMarkedPoints(const void* /*owner*/, const SoPath& /*place*/,
+                                 const std::vector<SbVec3f>& /*points*/)
+    {
+    }
 };
 
 } // namespace scopix

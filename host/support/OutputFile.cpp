@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
+#include <QStringList>
 
 namespace scopix
 {
@@ -23,20 +23,19 @@ std::string encoded(const QString& path)
     return QFile::encodeName(path).toStdString();
 }
 
-// What a link leads to may have a name without an ending.
-bool isOfAnotherKind(const QString& path, const QStringList& fileExtensions)
+std::vector<std::string> encodedAll(const QStringList& texts)
 {
-    const QString target = QFile::decodeName(xsg::followLinks(encoded(path)).c_str());
-    const QString ending = QFileInfo(target).suffix().toLower();
-    return !fileExtensions.contains(QFileInfo(path).suffix().toLower()) ||
-           (target != path && !ending.isEmpty() && !fileExtensions.contains(ending));
+    std::vector<std::string> all;
+    for (const QString& text : texts)
+        all.push_back(encoded(text));
+    return all;
 }
 
 } // namespace
 
 QString reasonAgainstWriting(const QString& path, const QStringList& fileExtensions)
 {
-    if (isOfAnotherKind(path, fileExtensions))
+    if (xsg::isOfAnotherKind(encoded(path), encodedAll(fileExtensions)))
         return tr("its name was expected to end in .%1").arg(fileExtensions.join(tr(", .")));
     return tr(xsg::reasonAgainstReplacing(encoded(path)).c_str());
 }

@@ -18,6 +18,7 @@
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
 #include "window/ReloadBar.h"
+#include "window/ViewPoints.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -84,6 +85,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
+    , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -370,6 +372,7 @@ void MainWindow::showScene(SoNode* root)
     // application's.
     m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
+    m_viewPoints->getMarks().setScene(root);
 }
 
 void MainWindow::showTitle()
@@ -439,6 +442,11 @@ SoPath MainWindow::selectedPath() const
 SoPath MainWindow::pathTo(const SoNode* node) const
 {
     return m_tree->pathTo(node);
+}
+
+void MainWindow::setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points)
+{
+    m_viewPoints->getMarks().set(owner, place, points);
 }
 
 void MainWindow::setTheme(Theme theme)

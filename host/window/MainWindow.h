@@ -20,6 +20,7 @@ class UserNotifier;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
+class ViewPoints;
 
 /// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
 /// extensions around it. Opens scenes and models. GUI thread only.
@@ -50,6 +51,7 @@ public:
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
     SoPath pathTo(const SoNode* node) const override;
+    void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
@@ -59,6 +61,7 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    ViewPoints& getViewPoints() { return *m_viewPoints; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -99,6 +102,7 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    std::unique_ptr<ViewPoints> m_viewPoints;
     HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;

@@ -22,6 +22,7 @@ constexpr float Tolerance = 0.005F;
 struct SoRayPickAction::Hit {
     float distance = std::numeric_limits<float>::max(); // along the local ray, which need not be of length 1
     SbVec3f normal;
+    std::size_t part = 0;
 };
 
 struct SoRayPickAction::Kept {
@@ -135,11 +136,12 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     const auto corner = [&](std::size_t i) { return g.points[g.index[i]]; };
     const auto offer = [&](const Hit& hit) {
         if (hit.distance >= 0 && !isClipped(m_ray.at(hit.distance)))
-            take(shape, hit, *toLocal);
+            take(shape, hit, toWorld, *toLocal);
     };
     if (g.kind == SoGeometry::Kind::Triangles) {
         for (std::size_t i = 0; i + 2 < g.index.size(); i += 3) {
             Hit hit;
+            hit.part = i / 3;
             if (xsg::meetsTriangle(ray, corner(i), corner(i + 1), corner(i + 2), hit.distance, hit.normal))
                 offer(hit);
         }
@@ -149,13 +151,14 @@ void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
     const std::size_t step = g.kind == SoGeometry::Kind::Lines ? 2 : 1;
     for (std::size_t i = 0; i + step <= g.index.size(); i += step) {
         Hit hit;
+        hit.part = i / step;
         if (xsg::passesSegment(m_ray, toWorld.multPoint(corner(i)), toWorld.multPoint(corner(i + step - 1)),
                                Tolerance, hit.distance))
             offer(hit);
     }
 }
 
-void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toLocal)
+void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld, const SbMatrix& toLocal)
 {
     // Directions were not normalised on their way into the shape's coordinates, so distances are still the
     // world's.
@@ -171,6 +174,9 @@ void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toLoc
     for (const Frame& frame : getFrames())
         found.path.append(frame.group);
     found.path.append(shape);
+    found.part = static_cast<int>(hit.part);
+    found.points = SoRef<SoPoints>(const_cast<SoPoints*>(state().points));
+    found.toWorld = toWorld;
 }
 
 bool SoRayPickAction::isClipped(const SbVec3f& point)

@@ -4,6 +4,7 @@
 #include <xsg/actions/SoPath.h>
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/nodes/base/SoGeometry.h>
+#include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/values/SbRay.h>
 
 #include <optional>
@@ -14,6 +15,10 @@ struct SoPickedPoint {
     SbVec3f point;      // in the coordinates the root stands in
     SbVec3f normal;     // of length 1, towards the ray's origin; for lines and points against the ray
     float distance = 0; // along the ray
+    int part = -1;      // which triangle, line or point of the shape's geometry it lies on
+    SoRef<SoPoints>
+        points;       // those in force at the shape; SoVertexShape::findPart() says which are the part's
+    SbMatrix toWorld; // from the shape's coordinates to those the root stands in
 };
 
 namespace xsg
@@ -40,7 +45,7 @@ private:
     void enterGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void pickShape(SoShape* shape, const SbMatrix& toWorld);
-    void take(SoShape* shape, const Hit& hit, const SbMatrix& toLocal);
+    void take(SoShape* shape, const Hit& hit, const SbMatrix& toWorld, const SbMatrix& toLocal);
     bool isClipped(const SbVec3f& point);
     bool mayMeet(const SbBox3f& box, const SbMatrix& toWorld);
     bool mayMeetAny(const SbBox3f& box);

@@ -9,6 +9,7 @@
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
 #include <xsg/render/Outline.h>
+#include <xsg/render/OverlayPainter.h>
 #include <xsg/render/RenderListUpdater.h>
 #include <xsg/values/SbTime.h>
 
@@ -87,6 +88,7 @@ public:
     SbColor highlightColor{1, 0.6F, 0.1F};
     float highlightThickness = 2;
     bool headlight = true;
+    SoOverlay overlay;
     std::string error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }
@@ -140,6 +142,7 @@ private:
     std::vector<std::pair<float, std::uint32_t>> m_depths;
     std::vector<std::uint32_t> m_order;
     xsg::Outline m_outline;
+    xsg::OverlayPainter m_overlayPainter;
     Marked m_current;
     Marked m_others;
     SoRef<SoPerspectiveCamera> m_ownCamera;
@@ -194,6 +197,8 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     drawCallbacks(eye, width, height);
     drawTransparent(changes, frustum, eye);
     drawHighlight(changes, width, height);
+    if (!overlay.isEmpty())
+        m_overlayPainter.draw(overlay, eye.viewProjection, width, height, error);
     statistics.shapes =
         static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
     statistics.stateChanges += m_state.getChanges();
@@ -461,6 +466,7 @@ void SoRenderer::Impl::releaseGL()
 {
     m_updater.clear();
     m_outline.release();
+    m_overlayPainter.release();
     m_shader.release();
     m_geometry.release();
     m_textures.release();
@@ -525,6 +531,11 @@ void SoRenderer::setHighlightColor(const SbColor& color)
 bool SoRenderer::wantsDebugContext()
 {
     return xsg::GlMessages::areWanted();
+}
+
+SoOverlay& SoRenderer::getOverlay()
+{
+    return m_impl->overlay;
 }
 
 void SoRenderer::setHeadlight(bool on)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/support/FileReplacement.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
@@ -44,6 +45,17 @@ std::string folderOf(const std::string& path)
 std::string nameOf(const std::string& path)
 {
     return path.substr(path.rfind('/') + 1);
+}
+
+// In lower case, without the point.
+std::string endingOf(const std::string& path)
+{
+    const std::string name = nameOf(path);
+    const std::size_t point = name.rfind('.');
+    std::string ending = point == std::string::npos ? std::string() : name.substr(point + 1);
+    for (char& c : ending)
+        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    return ending;
 }
 
 // What the names of a file's temporary files begin with.
@@ -119,6 +131,16 @@ void syncFolder(const std::string& path)
 }
 
 } // namespace
+
+bool xsg::isOfAnotherKind(const std::string& path, const std::vector<std::string>& endings)
+{
+    const auto isOne = [&endings](const std::string& ending) {
+        return std::find(endings.begin(), endings.end(), ending) != endings.end();
+    };
+    const std::string target = followLinks(path);
+    const std::string ending = endingOf(target);
+    return !isOne(endingOf(path)) || (target != path && !ending.empty() && !isOne(ending));
+}
 
 std::string xsg::reasonAgainstReplacing(const std::string& path)
 {

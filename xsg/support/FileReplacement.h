@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace xsg
 {
@@ -12,6 +13,10 @@ namespace xsg
 /// Why the file of this path must not be replaced, as the end of a sentence, or an empty text: what is there
 /// is no regular file, or nobody may write to it. True for root too, who could.
 XSG_API std::string reasonAgainstReplacing(const std::string& path);
+
+/// Whether the name of this file, or of what it leads to over links, has the ending of another kind than
+/// those that are given in lower case, as in "csv". What a link leads to may have none.
+XSG_API bool isOfAnotherKind(const std::string& path, const std::vector<std::string>& endings);
 
 /// The path that this one leads to over symbolic links, also where nothing is there yet.
 XSG_API std::string followLinks(const std::string& path);

@@ -5,12 +5,28 @@
 #include <xsg/core/SoFieldContainer.h>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace inspector
 {
 
 namespace
 {
+
+using Descriptions = std::vector<const Description*>;
+
+// Those of the fields of a type of node; null for none.
+const Descriptions* descriptionsOf(std::string_view node)
+{
+    static const auto byNode = [] {
+        std::unordered_map<std::string_view, Descriptions> all;
+        for (const Description& each : allDescriptions())
+            all[each.node].push_back(&each);
+        return all;
+    }();
+    const auto found = byNode.find(node);
+    return found == byNode.end() ? nullptr : &found->second;
+}
 
 int placeOf(const SoField* field)
 {
@@ -26,12 +42,13 @@ const Description* findDescription(const SoField& field)
     const SoFieldContainer* container = field.getContainer();
     if (!container)
         return nullptr;
-    const std::string_view node = container->getTypeId().getName().getString();
+    const Descriptions* known = descriptionsOf(container->getTypeId().getName().getString());
+    if (!known)
+        return nullptr;
     const std::string_view name = field.getName().getString();
-    const auto& all = allDescriptions();
-    const auto is = [&](const Description& each) { return each.node == node && each.field == name; };
-    const auto found = std::find_if(all.begin(), all.end(), is);
-    return found == all.end() ? nullptr : &*found;
+    const auto found = std::find_if(known->begin(), known->end(),
+                                    [name](const Description* each) { return each->field == name; });
+    return found == known->end() ? nullptr : *found;
 }
 
 std::vector<SoField*> fieldsInOrder(const SoFieldContainer& node)

@@ -203,9 +203,8 @@ void FieldPanel::showPlace()
 {
     m_breadcrumb->clear();
     m_nearby->clear();
-    m_title->clear();
     if (!node())
-        return;
+        return m_title->clear();
     if (m_watchers.size() > 1) {
         m_title->setText(QStringLiteral("<b>%1</b>").arg(titleOf(nodes()).toHtmlEscaped()));
         m_title->setToolTip(tr("An edit changes all of them. Where they differ, it says “mixed”."));

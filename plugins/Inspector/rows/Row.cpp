@@ -29,6 +29,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace inspector
 {
@@ -114,8 +115,8 @@ QList<QWidget*> Row::inputs() const
 
 void Row::setStacked(bool stacked)
 {
-    m_isStacked = stacked;
-    placeParts();
+    if (std::exchange(m_isStacked, stacked) != stacked)
+        placeParts();
 }
 
 void Row::resizeEvent(QResizeEvent* event)

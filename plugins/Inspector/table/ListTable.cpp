@@ -13,7 +13,7 @@
 namespace inspector
 {
 
-ListTable::ListTable(QWidget* parent)
+ListTable::ListTable(VertexLink::Click click, QWidget* parent)
     : QWidget(parent)
     , m_view(*new ListTableView(this))
     , m_session(m_view, nullptr)
@@ -21,6 +21,7 @@ ListTable::ListTable(QWidget* parent)
     , m_clipboard(m_session)
     , m_order(m_session)
     , m_file(m_session)
+    , m_vertices(*new VertexLink(m_session, click))
     , m_figures(*new FiguresLine(m_session, this))
     , m_caption(new QLabel(this))
     , m_lineKind(new QComboBox(this))
@@ -40,6 +41,7 @@ ListTable::ListTable(QWidget* parent)
     connect(&m_view, &ListTableView::typingDropped, this, &ListTable::say);
     connect(&m_view, &ListTableView::menuAsked, m_menu, [this](const QPoint& at) { m_menu->popup(at); });
     connect(&m_view, &ListTableView::selectionChanged, &m_figures, &FiguresLine::restart);
+    connect(&m_view, &ListTableView::selectionChanged, &m_vertices, &VertexLink::restart);
     connect(&m_session, &TableSession::said, this, &ListTable::say);
     connect(&m_session.observer, &ListChangeObserver::acted, this, &ListTable::showWhereItActed);
     connect(&m_order, &TableOrder::orderChanged, this, [this] {
@@ -186,6 +188,8 @@ void ListTable::buildActions()
     m_ignore->setCheckable(true);
     connect(m_menu, &QMenu::aboutToShow, this,
             [this] { m_ignore->setChecked(list() && list()->isIgnored()); });
+    m_wide = add(tr("Open &Wide"), QKeySequence(Qt::CTRL + Qt::Key_T), [] {});
+    m_wide->setVisible(false);
     add(tr("Fit Column Widths"), QKeySequence(), [this] {
         for (int column = 0; column < m_view.rows().columnCount(); ++column)
             m_view.fitColumn(column);
@@ -202,6 +206,26 @@ void ListTable::setList(SoMField* list)
     showCaption();
     explainLine();
     m_figures.restart();
+    list ? m_vertices.restart() : m_vertices.stop();
+}
+
+// What nobody sees marks nothing in the 3D view.
+void ListTable::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_vertices.restart();
+}
+
+void ListTable::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_vertices.restart();
+}
+
+void ListTable::setHint(const QString& hint)
+{
+    m_hint = hint;
+    showCaption();
 }
 
 void ListTable::refresh()
@@ -209,6 +233,7 @@ void ListTable::refresh()
     m_view.refresh();
     showCaption();
     m_figures.restart();
+    m_vertices.restart();
     followOrder();
 }
 
@@ -227,7 +252,7 @@ void ListTable::showCaption()
 {
     const SoMField* shown = list();
     if (!shown) {
-        m_caption->clear();
+        m_caption->setText(m_hint);
         return;
     }
     const int count = shown->getNum();

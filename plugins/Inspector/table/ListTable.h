@@ -7,6 +7,7 @@
 #include "table/TableFile.h"
 #include "table/TableOrder.h"
 #include "table/TableSession.h"
+#include "table/VertexLink.h"
 
 #include <QWidget>
 
@@ -29,7 +30,8 @@ public:
     /// What the line above the cells is for.
     enum class Line { Calculate, Filter, Find, GoTo };
 
-    explicit ListTable(QWidget* parent = nullptr);
+    /// `click`: what a click near a vertex of the list in the 3D view does besides showing its row.
+    explicit ListTable(VertexLink::Click click = VertexLink::Click::StaysHere, QWidget* parent = nullptr);
 
     /// Null: nothing.
     void setList(SoMField* list);
@@ -45,6 +47,14 @@ public:
     FiguresLine& figures() { return m_figures; }
     QMenu& menu() { return *m_menu; }
     void askFor(Line line);
+    /// What is shown where there is no list.
+    void setHint(const QString& hint);
+    /// The menu's entry that shows the list in the wide table; hidden at first.
+    QAction& wideAction() { return *m_wide; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void buildLayout();
@@ -70,6 +80,7 @@ private:
     TableClipboard m_clipboard;
     TableOrder m_order;
     TableFile m_file;
+    VertexLink& m_vertices;
     FiguresLine& m_figures;
     QLabel* m_caption;
     QComboBox* m_lineKind;
@@ -81,6 +92,8 @@ private:
     QAction* m_up = nullptr;
     QAction* m_down = nullptr;
     QAction* m_ignore = nullptr;
+    QAction* m_wide = nullptr;
+    QString m_hint;
     int m_orderedCount = 0; // of values, when the rows were sorted or filtered
 };
 

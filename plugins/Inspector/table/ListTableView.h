@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "table/CellEditor.h"
+#include "table/CellTyping.h"
+#include "table/TableColumns.h"
 #include "table/TableGeometry.h"
+#include "table/TableKeys.h"
+#include "table/TableMouse.h"
 #include "table/TableRows.h"
 #include "table/TableSelection.h"
 
 #include <QAbstractScrollArea>
-#include <QBasicTimer>
-#include <QPointer>
-
-#include <functional>
 
 class QAction;
 class QHelpEvent;
@@ -32,7 +31,7 @@ public:
     const TableRows& rows() const { return m_rows; }
     const TableSelection& selection() const { return m_selection; }
     const TableGeometry& geometry() const { return m_geometry; }
-    CellEditor* cellEditor() const { return m_editor; }
+    CellEditor* cellEditor() const { return m_typing.editor(); }
 
     /// Another list, or null. Scrolled to its start, nothing selected but its first cell.
     void show(SoMField* list);
@@ -41,19 +40,21 @@ public:
     /// Another order; the current element stays current where it is still shown.
     void setOrder(RowOrder order, int sortedBy = -1, bool isDescending = false);
 
+    /// Ends the typing.
     void setSelection(const TableSelection& selection);
+    /// What is being typed stays open.
+    void changeSelection(TableSelection selection);
     void goTo(TableCell cell);
+    /// To the nearest cell that there is; `extends` selects all up to it.
+    void go(TableCell to, bool extends);
     void scrollTo(TableCell cell);
-    /// What is done with the text typed into a cell; false keeps the cell open. Not called for typing that
-    /// was given up or that ended as it began.
-    using TakeTyped = std::function<bool(TableCell cell, const QString& text, CellEditor::End end)>;
-    void setTakeTyped(TakeTyped take) { m_takeTyped = std::move(take); }
+    void setTakeTyped(CellTyping::Take take) { m_typing.setTake(std::move(take)); }
     /// Opens the current cell; `typed` replaces what it shows.
     void openCell(const QString& typed = QString());
     /// Ends the typing as a loss of focus does.
-    void endTyping();
+    void endTyping() { m_typing.end(CellEditor::End::FocusLost); }
     /// Ends it without a report.
-    void dropTyping();
+    void dropTyping() { m_typing.drop(); }
 
     int columnWidth(int column) const { return m_geometry.widths[std::size_t(column)]; }
     void setColumnWidth(int column, int width);
@@ -85,52 +86,27 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool /*next*/) override { return false; } // Tab goes to the next cell
     void scrollContentsBy(int dx, int dy) override;
-    void timerEvent(QTimerEvent* event) override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 private:
-    enum class Drag { None, Cells, Rows, Column, Move };
-
     void layOut();
     void layOutColumns();
-    int leastWidth(int column) const;
-    void placeEditor();
     void selectionHasChanged();
-
+    TableKeys keys() const;
     QAction* actionFor(const QKeyEvent& event) const;
     bool navigate(const QKeyEvent& event);
-    void go(TableCell to, bool extends);
     void goOn(CellEditor::End end);
-    bool isTyping(const QKeyEvent& event) const;
-
-    void pressIn(const TableGeometry::Place& place, Qt::KeyboardModifiers modifiers);
-    void pressOnCell(TableCell cell, Qt::KeyboardModifiers modifiers);
-    void pressOnNumber(TableCell cell, Qt::KeyboardModifiers modifiers);
-    void pressOnHeading(const TableGeometry::Place& place, Qt::KeyboardModifiers modifiers);
-    void dragTo(QPoint position);
-    void endDrag();
-    void setCursorFor(const TableGeometry::Place& place);
-
-    void typingEnded(CellEditor::End end);
-    bool isTypingTaken(CellEditor::End end);
     void showToolTip(const QHelpEvent& event);
-    void editorFollows();
 
     TableRows m_rows;
-    TakeTyped m_takeTyped;
     TableGeometry m_geometry;
     TableSelection m_selection;
-    std::vector<int> m_userWidths; // 0: as wide as suits
-    QPointer<CellEditor> m_editor;
-    Drag m_drag = Drag::None;
-    QPoint m_dragPosition;
-    int m_draggedColumn = 0;
-    int m_dragStart = 0;
-    int m_gap = -1;
+    TableColumns m_columns;
+    CellTyping& m_typing;
+    TableMouse& m_mouse;
     int m_sortedBy = -1;
     bool m_isDescending = false;
-    QBasicTimer m_autoScroll;
 };
 
 } // namespace inspector

@@ -3,13 +3,16 @@
 
 #include "table/ListTable.h"
 #include "table/TableAccessible.h"
+#include "table/WideTable.h"
 
+#include <QAction>
 #include <QVBoxLayout>
 
 namespace inspector
 {
 
-TableFieldEditor::TableFieldEditor(SoType type)
+TableFieldEditor::TableFieldEditor(SoType type, WideTable* wide)
+    : m_wide(wide)
 {
     const std::string typeName = type.getName().getString();
     setName(typeName + " table");
@@ -44,11 +47,15 @@ void TableFieldEditor::build(QWidget& widget)
     layout->setContentsMargins(4, 4, 4, 4);
     m_table = new ListTable;
     layout->addWidget(m_table);
+    if (!m_wide)
+        return;
+    connect(&m_table->wideAction(), &QAction::triggered, this, [this] { m_wide->open(m_table->list()); });
 }
 
 void TableFieldEditor::refresh()
 {
     auto* list = edited<SoMField>();
+    m_table->wideAction().setVisible(m_wide && m_wide->isActive());
     if (m_table->list() == list)
         m_table->refresh();
     else

@@ -9,6 +9,7 @@ namespace inspector
 {
 
 class ListTable;
+class WideTable;
 
 /// Edits the lists of one type as a table. GUI thread only.
 class TableFieldEditor : public SpxObjectEditor
@@ -16,7 +17,8 @@ class TableFieldEditor : public SpxObjectEditor
     Q_OBJECT
 
 public:
-    explicit TableFieldEditor(SoType type);
+    /// `wide` shows a list wide where the user wants it; null for none. It must outlive the editor.
+    explicit TableFieldEditor(SoType type, WideTable* wide = nullptr);
     ~TableFieldEditor() override;
 
     void load() override;
@@ -31,6 +33,7 @@ protected:
     void refresh() override;
 
 private:
+    WideTable* const m_wide;
     QPointer<ListTable> m_table;
 };
 

@@ -4,10 +4,12 @@
 #include "table/BlockText.h"
 #include "table/PieceWork.h"
 
+#include <xsg/support/FileReplacement.h>
+#include <xsg/support/SpecialFile.h>
+
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace inspector
@@ -28,6 +30,23 @@ QChar separatorOf(const QString& start)
             return separator;
     }
     return ',';
+}
+
+// The first one is added where a name has none.
+QStringList endings()
+{
+    return {QStringLiteral("csv"), QStringLiteral("tsv"), QStringLiteral("txt")};
+}
+
+QString filterText()
+{
+    return QCoreApplication::translate("TableFile",
+                                       "Comma-separated values (*.csv *.tsv *.txt);;All files (*)");
+}
+
+std::string encodedPath(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
 }
 
 // Takes the rows of a file into a list.
@@ -105,19 +124,25 @@ bool TableFile::fail(const QString& sentence)
 
 void TableFile::write()
 {
-    const QString path = QFileDialog::getSaveFileName(&m_session.view, tr("Write CSV"), QString(),
-                                                      tr("Comma-separated values (*.csv);;All files (*)"));
-    if (!path.isEmpty())
-        writeTo(path);
+    QFileDialog dialog(&m_session.view, tr("Write CSV"), QString(), filterText());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(endings().front());
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        writeTo(dialog.selectedFiles().front());
 }
 
 void TableFile::read()
 {
     const QString path =
-        QFileDialog::getOpenFileName(&m_session.view, tr("Read CSV"), QString(),
-                                     tr("Comma-separated values (*.csv *.tsv *.txt);;All files (*)"));
+        QFileDialog::getOpenFileName(&m_session.view, tr("Read CSV"), QString(), filterText());
     if (!path.isEmpty())
         readFrom(path);
+}
+
+bool TableFile::refuse(const QString& path, const std::string& why)
+{
+    return fail(tr("“%1” could not be written: %2; choose another file.")
+                    .arg(QFileInfo(path).fileName(), QString::fromStdString(why)));
 }
 
 bool TableFile::writeTo(const QString& path)
@@ -125,44 +150,52 @@ bool TableFile::writeTo(const QString& path)
     emit m_session.said({});
     if (!m_session.list())
         return false;
-    QSaveFile file(path);
-    const QString name = QFileInfo(path).fileName();
-    if (!file.open(QIODevice::WriteOnly))
-        return fail(tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
+    const std::string encoded = encodedPath(path);
+    if (xsg::isOfAnotherKind(encoded, {"csv", "tsv", "txt"}))
+        return refuse(path,
+                      tr("its name was expected to end in .%1").arg(endings().join(", .")).toStdString());
+    if (const std::string why = xsg::reasonAgainstReplacing(encoded); !why.empty())
+        return refuse(path, why);
+    xsg::FileReplacement file(encoded);
+    if (!file.open())
+        return refuse(path, file.getProblem());
     const SoMField* list = m_session.list();
     const std::uint32_t version = list->getChangeCount();
+    const bool isWritten = writeRows(path, file, version);
+    if (m_session.list() != list || list->getChangeCount() != version)
+        return fail(tr("“%1” was not written, since the list was changed meanwhile; try again.")
+                        .arg(QFileInfo(path).fileName()));
+    if (!isWritten && file.getProblem().empty())
+        return false; // cancelled
+    return (isWritten && file.commit()) || refuse(path, file.getProblem());
+}
+
+bool TableFile::writeRows(const QString& path, xsg::FileReplacement& file, std::uint32_t version)
+{
+    const SoMField* list = m_session.list();
     const TableRows& rows = m_session.rows();
     const int columns = rows.columnCount();
     const int total = rows.count();
+    const QChar separator = QFileInfo(path).suffix().toLower() == QLatin1String("tsv") ? '\t' : ',';
     int row = -1; // the headings
-    const bool isWritten =
-        PieceWork::run(&m_session.view, tr("Writing “%1”…").arg(name), [&]() -> PieceWork::Progress {
+    return PieceWork::run(
+        &m_session.view, tr("Writing “%1”…").arg(QFileInfo(path).fileName()), [&]() -> PieceWork::Progress {
             if (m_session.list() != list || list->getChangeCount() != version)
                 return {0, 1, true};
             QString text;
             for (int i = 0; i < RowsAtOnce && row < total; ++i, ++row) {
                 for (int column = 0; column < columns; ++column) {
                     if (column > 0)
-                        text += ',';
-                    BlockText::appendCell(text, row < 0 ? rows.heading(column) : rows.text(row, column), ',');
+                        text += separator;
+                    BlockText::appendCell(text, row < 0 ? rows.heading(column) : rows.text(row, column),
+                                          separator);
                 }
                 text += '\n';
             }
             const QByteArray bytes = text.toUtf8();
-            return {row, total, file.write(bytes) != bytes.size()};
+            const bool isTaken = file.write({bytes.constData(), std::size_t(bytes.size())});
+            return {row, total, !isTaken};
         });
-    if (!isWritten) {
-        const bool isChanged = m_session.list() != list || list->getChangeCount() != version;
-        if (isChanged)
-            return fail(
-                tr("“%1” was not written, since the list was changed meanwhile; try again.").arg(name));
-        if (file.error() != QFileDevice::NoError)
-            return fail(
-                tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
-        return false; // cancelled
-    }
-    return (file.flush() && file.commit()) ||
-           fail(tr("“%1” could not be written: %2; choose another place.").arg(name, file.errorString()));
 }
 
 bool TableFile::readFrom(const QString& path)
@@ -172,7 +205,9 @@ bool TableFile::readFrom(const QString& path)
         return false;
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (xsg::isSpecialFile(encodedPath(path)))
+        return fail(tr("“%1” could not be read: it is no regular file; choose another one.").arg(name));
+    if (!file.open(QIODevice::ReadOnly))
         return fail(
             tr("“%1” could not be read: %2; choose a file that you may read.").arg(name, file.errorString()));
     QTextStream in(&file);

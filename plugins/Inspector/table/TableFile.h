@@ -3,6 +3,11 @@
 
 #include "table/TableSession.h"
 
+namespace xsg
+{
+class FileReplacement;
+}
+
 namespace inspector
 {
 
@@ -19,13 +24,17 @@ public:
     void write();
     void read();
 
-    /// A sentence is said where it fails.
+    /// In one step: the file is the old one until all of it is written. With tabs where the name ends in
+    /// .tsv. Refused, with a sentence, for another ending than .csv, .tsv and .txt, for what is no regular
+    /// file, and for a file that nobody may write to.
     bool writeTo(const QString& path);
     /// The file's rows take the place of all values, as one step. Commas, semicolons and tabs separate.
     bool readFrom(const QString& path);
 
 private:
     bool fail(const QString& sentence);
+    bool refuse(const QString& path, const std::string& why);
+    bool writeRows(const QString& path, xsg::FileReplacement& file, std::uint32_t version);
 
     TableSession& m_session;
 };

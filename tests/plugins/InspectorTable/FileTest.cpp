@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TableFixture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -98,6 +99,36 @@ TEST_F(VectorFile, AFileThatCannotBeWrittenIsSaid)
     open({SbVec3f(1, 2, 3)});
     EXPECT_FALSE(table().file().writeTo("/nowhere/at/all.csv"));
     EXPECT_TRUE(message().contains("all.csv"));
+}
+
+TEST_F(VectorFile, WhatIsNotOursIsNotReplaced)
+{
+    open({SbVec3f(1, 2, 3)});
+    const auto isRefused = [this](const QString& path, const char* why) {
+        return !table().file().writeTo(path) && message().contains(why);
+    };
+    QFile picture(path("picture.png"));
+    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(isRefused(path("picture.png"), ".csv")) << message().toStdString();
+    ASSERT_TRUE(QFile::link(path("picture.png"), path("link.csv")));
+    EXPECT_TRUE(isRefused(path("link.csv"), ".csv")) << message().toStdString();
+    ASSERT_TRUE(QDir().mkdir(path("folder.csv")));
+    EXPECT_TRUE(isRefused(path("folder.csv"), "folder.csv"));
+    put("mine");
+    ASSERT_TRUE(QFile::setPermissions(path(), QFile::ReadOwner));
+    EXPECT_TRUE(isRefused(path(), "list.csv")) << message().toStdString();
+    EXPECT_EQ(content(), "mine");
+    EXPECT_FALSE(table().file().readFrom(path("folder.csv")));
+    EXPECT_TRUE(message().contains("folder.csv"));
+}
+
+TEST_F(VectorFile, TabsSeparateWhereTheNameSaysSo)
+{
+    open({SbVec3f(1, 2, 3)});
+    ASSERT_TRUE(table().file().writeTo(path("list.tsv")));
+    QFile file(path("list.tsv"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "x\ty\tz\n1\t2\t3\n");
 }
 
 constexpr int Many = 3'000'000; // take longer than a dialog waits, on any machine

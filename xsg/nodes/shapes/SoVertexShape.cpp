@@ -94,6 +94,21 @@ void SoVertexShape::generate(const SoState& state, SoGeometry& g) const
         addFlatNormals(g);
 }
 
+SoVertexShape::Part SoVertexShape::findPart(int pointCount, int number) const
+{
+    Corners corners;
+    collectCorners(static_cast<std::uint32_t>(std::max(pointCount, 0)), corners);
+    const auto size = static_cast<std::size_t>(3 - static_cast<int>(getKind()));
+    const auto group = static_cast<std::size_t>(number);
+    Part part;
+    if (number < 0 || (group + 1) * size > corners.index.size())
+        return part;
+    part.face = corners.faces.empty() ? number : static_cast<int>(corners.faces[group]);
+    part.points.assign(corners.index.begin() + static_cast<std::ptrdiff_t>(group * size),
+                       corners.index.begin() + static_cast<std::ptrdiff_t>((group + 1) * size));
+    return part;
+}
+
 void SoVertexShape::addColors(const SoState& state, const Corners& corners, SoGeometry& g) const
 {
     const SoMaterial* material = state.material.diffuseNode;

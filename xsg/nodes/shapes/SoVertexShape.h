@@ -14,6 +14,14 @@ public:
     /// What takes the material's diffuse colours: the whole, each face (line, point), or each point.
     SoSFEnum colorBinding{this, "colorBinding", getColorBindingNames(), Overall};
 
+    /// A triangle, a line or a point of its geometry.
+    struct Part {
+        int face = -1;           // as the colours per face count
+        std::vector<int> points; // the places of its corners in the list of points; empty: there is none
+    };
+    /// The part of this number for a list of so many points.
+    Part findPart(int pointCount, int number) const;
+
     static SoEnumTablePtr getColorBindingNames();
     SoGeometryKey getGeometryKey(const SoState& state) const override;
     void generate(const SoState& state, SoGeometry& geometry) const override;
