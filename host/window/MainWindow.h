@@ -7,6 +7,8 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+#include <memory>
+
 class QUndoView;
 class SoField;
 
@@ -14,6 +16,8 @@ namespace scopix
 {
 
 class FieldListView;
+class HandleActions;
+class HandleTool;
 class HelpWindow;
 class HostServices;
 class UserNotifier;
@@ -62,6 +66,7 @@ public:
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
     ViewPoints& getViewPoints() { return *m_viewPoints; }
+    HandleTool& getHandles() { return *m_handles; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -76,6 +81,7 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
+    void makeHandles();
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -104,6 +110,8 @@ private:
     SceneView* m_view;
     std::unique_ptr<ViewPoints> m_viewPoints;
     HelpWindow* m_help = nullptr; // as soon as help is asked for
+    std::unique_ptr<HandleTool> m_handles; // goes before the view
+    HandleActions* m_handleActions = nullptr;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
