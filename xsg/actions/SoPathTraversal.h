@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/actions/SoPath.h>
+#include <xsg/actions/SoTraversal.h>
+
+/// Walks the part of a scene that a path leads to, with the state as it is there: separators beside the path
+/// are skipped, and the walk ends with the part. Where a node stands twice in the same group, the first place
+/// counts. A derived class says what to do with the part's shapes.
+class XSG_API SoPathTraversal : protected SoTraversal
+{
+protected:
+    /// To be called before begin() or traverse(), which take the path's head.
+    void follow(const SoPath& path);
+    /// Whether the present node is the path's tail, or below it.
+    bool isWithin() const { return m_isWithin; }
+
+    virtual void visitPartShape(SoShape* shape) = 0;
+    bool wantsGroup(SoGroup* group) override;
+    void enterGroup(SoGroup* group) override;
+    void leaveGroup(SoGroup* group) override;
+    void visitShape(SoShape* shape) override;
+
+private:
+    bool isOnPath(const SoNode* node) const;
+    bool isTail(const SoNode* node) const;
+
+    SoPath m_path;
+    bool m_isWithin = false;
+};
