@@ -42,7 +42,7 @@ set(SCOPIX_XSG_HEADERS
   # Queries
   SoQuery.h SoQuerySearch.h
   # Drawing
-  SoImageReader.h SoOffscreenRenderer.h SoRenderer.h
+  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
   # Scene files
   SoSceneFile.h
   # The library as a whole

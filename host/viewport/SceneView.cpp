@@ -36,6 +36,7 @@ SceneView::SceneView(QWidget* parent, Drawing drawing)
     , m_surface(ViewSurface::make(
           this, [this](SoRenderer& renderer) { return prepare(renderer); },
           [this](const SoRenderer& renderer) { drawn(renderer); }, drawing == Drawing::Best))
+    , m_tools(*this, [this] { return getSight(); })
     , m_statistics(new QLabel(this))
 {
     m_statistics->setObjectName(QStringLiteral("statistics"));
@@ -69,6 +70,25 @@ void SceneView::redraw()
 {
     m_statisticsAreOld = true;
     m_surface->redraw();
+    m_tools.repaint();
+}
+
+void SceneView::addTool(ViewTool* tool)
+{
+    m_tools.add(tool);
+    m_statistics->raise();
+    redraw();
+}
+
+void SceneView::removeTool(ViewTool* tool)
+{
+    m_tools.remove(tool);
+    redraw();
+}
+
+ViewSight SceneView::getSight() const
+{
+    return {m_camera.get(), QSizeF(size())};
 }
 
 void SceneView::setWireframe(bool on)
@@ -163,6 +183,8 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     renderer.setHighlightedNumber(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
+    renderer.getOverlay().clear();
+    m_tools.draw(renderer.getOverlay());
     return {m_root.get(), &m_camera.get()};
 }
 
@@ -194,6 +216,8 @@ std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
 
 void SceneView::mousePressEvent(QMouseEvent* event)
 {
+    if (m_tools.press(*event))
+        return;
     const bool shifted = event->modifiers() & Qt::ShiftModifier;
     if (event->button() == Qt::LeftButton)
         m_drag = shifted ? Drag::Pan : Drag::Orbit;
@@ -205,8 +229,10 @@ void SceneView::mousePressEvent(QMouseEvent* event)
 
 void SceneView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_drag == Drag::None)
+    if (m_drag == Drag::None) {
+        m_tools.move(*event);
         return;
+    }
     if (!m_moved && (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
         return;
     m_moved = true;
@@ -241,6 +267,8 @@ void SceneView::zoom(float factor)
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (m_drag == Drag::None && m_tools.release(*event))
+        return;
     const bool clicked = m_drag == Drag::Orbit && !m_moved && event->button() == Qt::LeftButton;
     m_drag = Drag::None;
     if (!clicked)
@@ -251,12 +279,16 @@ void SceneView::mouseReleaseEvent(QMouseEvent* event)
 
 void SceneView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (m_tools.doubleClick(*event))
+        return;
     if (event->button() == Qt::LeftButton && pick(event->pos()))
         emit viewSelectedRequested();
 }
 
 void SceneView::wheelEvent(QWheelEvent* event)
 {
+    if (m_tools.wheel(*event))
+        return event->accept();
     const QPointF place = event->position();
     const float notches = static_cast<float>(event->angleDelta().y()) / 120.0F;
     const float x = static_cast<float>(place.x()) / static_cast<float>(std::max(1, width()));
@@ -268,6 +300,8 @@ void SceneView::wheelEvent(QWheelEvent* event)
 
 void SceneView::keyPressEvent(QKeyEvent* event)
 {
+    if (m_tools.keyPress(*event))
+        return;
     const auto go = event->modifiers() & Qt::ShiftModifier ? &SceneView::pan : &SceneView::turn;
     switch (event->key()) {
     case Qt::Key_Home:
@@ -295,9 +329,37 @@ void SceneView::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void SceneView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!m_tools.keyRelease(*event))
+        QWidget::keyReleaseEvent(event);
+}
+
+void SceneView::leaveEvent(QEvent* event)
+{
+    m_tools.leave();
+    QWidget::leaveEvent(event);
+}
+
+void SceneView::focusOutEvent(QFocusEvent* event)
+{
+    m_tools.loseFocus();
+    QWidget::focusOutEvent(event);
+}
+
+bool SceneView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_tools.wantsKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void SceneView::resizeEvent(QResizeEvent* /*event*/)
 {
     m_surface->getWidget()->setGeometry(rect());
+    m_tools.setGeometry(rect());
     m_camera.setAspect(static_cast<float>(std::max(1, width())) / static_cast<float>(std::max(1, height())));
     redraw();
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "viewport/ViewCamera.h"
+#include "viewport/ViewSight.h"
+#include "viewport/ViewTools.h"
 
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/sensors/SoNodeSensor.h>
@@ -65,6 +67,19 @@ public:
     /// Whether the scene is being animated.
     bool isAnimating() const { return m_ticks.isActive(); }
 
+    /// Offers it all events before the view navigates. It must outlive the view, or be removed.
+    void addTool(ViewTool* tool);
+    void removeTool(ViewTool* tool);
+    /// How the view sees at present.
+    ViewSight getSight() const;
+    /// The picture is no longer right: draws another one, and what the tools have over it.
+    void redraw();
+    /// What the tools paint over the picture is no longer right; the picture itself stays.
+    void repaintTools() { m_tools.repaint(); }
+    /// As if the key had been pressed in the view: for the keys that act from elsewhere too. False where
+    /// nobody has a use for it.
+    bool offerKey(QKeyEvent& event) { return m_tools.keyPress(event); }
+
     QSize sizeHint() const override { return {720, 560}; }
     QSize minimumSizeHint() const override { return {160, 120}; }
 
@@ -80,6 +95,10 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -92,7 +111,6 @@ private:
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
     void drawn(const SoRenderer& renderer);
-    void redraw();
     void turn(float right, float up);
     void pan(float right, float up);
     void zoom(float factor);
@@ -104,6 +122,7 @@ private:
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
     ViewSurface* m_surface;
+    ViewTools m_tools;
     QLabel* m_statistics;
     bool m_statisticsAreOld = true;
     bool m_wireframe = false;

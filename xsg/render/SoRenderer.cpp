@@ -9,6 +9,7 @@
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
 #include <xsg/render/Outline.h>
+#include <xsg/render/OverlayPainter.h>
 #include <xsg/render/RenderListUpdater.h>
 #include <xsg/values/SbTime.h>
 
@@ -117,6 +118,7 @@ public:
     SbColor highlightColor{1, 0.6F, 0.1F};
     float highlightThickness = 2;
     bool headlight = true;
+    SoOverlay overlay;
     std::string error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }
@@ -165,6 +167,7 @@ private:
     std::vector<std::pair<float, std::uint32_t>> m_depths;
     std::vector<std::uint32_t> m_order;
     xsg::Outline m_outline;
+    xsg::OverlayPainter m_overlayPainter;
     std::uint64_t m_highlightCollected = 0;
     std::vector<std::uint32_t> m_highlighted; // items
     std::vector<xsg::Run> m_highlightedOpaque;
@@ -225,6 +228,8 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     if (isShaded)
         endShading();
     drawHighlight(changes, width, height);
+    if (!overlay.isEmpty())
+        m_overlayPainter.draw(overlay, eye.viewProjection, width, height, error);
     statistics.shapes =
         static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
     statistics.stateChanges += m_state.getChanges();
@@ -530,6 +535,7 @@ void SoRenderer::Impl::releaseGL()
 {
     m_updater.clear();
     m_outline.release();
+    m_overlayPainter.release();
     m_shader.release();
     m_geometry.release();
     m_textures.release();
@@ -608,6 +614,11 @@ void SoRenderer::setHighlightColor(const SbColor& color)
 bool SoRenderer::wantsDebugContext()
 {
     return xsg::GlMessages::areWanted();
+}
+
+SoOverlay& SoRenderer::getOverlay()
+{
+    return m_impl->overlay;
 }
 
 void SoRenderer::setHeadlight(bool on)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/render/SoImageReader.h>
+#include <xsg/render/SoOverlay.h>
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbPlane.h>
@@ -68,6 +69,9 @@ public:
     /// How thick that line is, in pixels: 2 at first, 10 at most. A rim half as thick sets it off from what
     /// is around it.
     void setHighlightThickness(float pixels);
+    /// Drawn over the scene with every picture; empty at first. Changed between pictures, where there is a
+    /// root.
+    SoOverlay& getOverlay();
     /// Whether contexts for drawing should be debug contexts, in which OpenGL reports its errors by itself,
     /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
     /// otherwise.
