@@ -15,6 +15,7 @@
 #include "viewport/Screenshot.h"
 #include "window/DefaultScene.h"
 #include "window/FileMenu.h"
+#include "window/PictureActs.h"
 #include "window/ReloadBar.h"
 
 #include <xsg/actions/SoSearchAction.h>
@@ -172,7 +173,9 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
-    menu->addAction(tr("Save &Picture of the Window…"), this, &MainWindow::askForScreenshot);
+    menu->addSeparator();
+    m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
+    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 }
@@ -381,6 +384,11 @@ bool MainWindow::saveScreenshot(const QString& path)
     if (!error.isEmpty())
         m_notifier.error(error);
     return error.isEmpty();
+}
+
+bool MainWindow::savePictures(const PictureOrder& order)
+{
+    return m_pictures->save(order);
 }
 
 void MainWindow::askForScreenshot()

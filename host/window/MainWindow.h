@@ -14,6 +14,7 @@ namespace scopix
 {
 
 class FieldListView;
+class PictureActs;
 class HostServices;
 class UserNotifier;
 class ScenePanel;
@@ -50,6 +51,7 @@ public:
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
+    bool savePictures(const PictureOrder& order) override;
     void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
 
     ScenePanel& getScenePanel() { return *m_scenePanel; }
@@ -102,6 +104,7 @@ private:
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
+    PictureActs* m_pictures = nullptr;
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

@@ -97,7 +97,7 @@ TEST_F(Picking, AnAreaShowsWhatIsSeenInItAndNothingThatIsHidden)
     SoCube* front = add(0);
     add<SoSphere>(0, 0, -4); // behind the cube
     EXPECT_EQ(seen(), (Nodes{left, right, front}));
-    EXPECT_EQ(seen({0, 0, 0.4F, 1}), Nodes{left});
+    EXPECT_EQ(seen({0, 0, 0.3F, 1}), Nodes{left});
     EXPECT_EQ(seen({0.45F, 0.45F, 0.55F, 0.55F}), Nodes{front});
     EXPECT_EQ(seen({0, 0.9F, 1, 1}), Nodes());
     EXPECT_EQ(area.pick(nullptr, {}, {}, 10, 10).size(), 0U);

@@ -119,7 +119,7 @@ TEST_F(Looks, PartsMakeUpTheWholePicture)
     addMaterial({1, 0.5F, 0});
     add<SoTransform>()->rotation.setValue(SbRotation({1, 1, 0}, 0.7F));
     add<SoCube>();
-    add<SoScreenText>()->text.setValue("part");
+    add<SoScreenText>()->lines.set1Value(0, "part");
     renderer().setSamples(1);
     SoRef<SoOrthographicCamera> flat(new SoOrthographicCamera);
     flat->position.setValue(0, 0, 5);
