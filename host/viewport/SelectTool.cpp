@@ -62,6 +62,20 @@ void SelectTool::setSelected(const QList<SoPath>& paths)
         hoverSoon();
 }
 
+void SelectTool::setHovering(bool on)
+{
+    m_isHovering = on;
+    m_hover.show({}, {});
+}
+
+void SelectTool::setPaused(bool on)
+{
+    m_isPaused = on;
+    m_press = Press::None;
+    endBand();
+    m_hover.show({}, {});
+}
+
 QPoint SelectTool::getCrosshair() const
 {
     return m_hasCrosshair ? m_crosshair : m_view.rect().center();
@@ -91,7 +105,7 @@ bool SelectTool::mousePressed(QMouseEvent& event)
     stopHovering();
     hideCrosshair();
     m_beforeClick.clear();
-    if (event.button() != Qt::LeftButton)
+    if (event.button() != Qt::LeftButton || m_isPaused)
         return m_press != Press::None;
     const Qt::KeyboardModifiers keys = event.modifiers();
     m_press = keys & Qt::ShiftModifier     ? Press::Band
@@ -259,7 +273,7 @@ void SelectTool::timerEvent(QTimerEvent* /*event*/)
 void SelectTool::hover()
 {
     const bool isFree = m_press == Press::None && QApplication::mouseButtons() == Qt::NoButton;
-    if (!(m_hovers || m_hasCrosshair) || !isFree)
+    if (!(m_hovers || m_hasCrosshair) || !isFree || !m_isHovering || m_isPaused)
         return;
     QElapsedTimer time;
     time.start();
@@ -293,7 +307,7 @@ bool SelectTool::keyPressed(QKeyEvent& event)
         return moveCrosshair(event);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return clickAtCrosshair(event.modifiers());
+        return !m_isPaused && clickAtCrosshair(event.modifiers());
     case Qt::Key_Escape:
         if (m_hasBand || m_press != Press::None) {
             m_press = Press::None;

@@ -28,6 +28,10 @@ public:
 
     /// What is selected now; the last one is the current one.
     void setSelected(const QList<SoPath>& paths);
+    /// Whether hovering shows what a click would select, as at first.
+    void setHovering(bool on);
+    /// Clicks are somebody else's for the time being; the crosshair goes on.
+    void setPaused(bool on);
     /// What the shape at a place belongs to was clicked; an empty path: the ground.
     void click(const SoPath& toShape);
     /// Where a rubber band or a crosshair is; for what acts at the place that the user points at by keys.
@@ -74,6 +78,8 @@ private:
     QList<SoPath> m_beforeClick; // where the last click went on within a part
     HoverMark m_hover;
     QPoint m_hoverAt;
+    bool m_isHovering = true;
+    bool m_isPaused = false;
     bool m_hovers = false; // the pointer is in the view
     QBasicTimer m_hoverTimer;
     qint64 m_hoverMs = 0; // that the last look took

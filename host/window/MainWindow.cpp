@@ -17,6 +17,7 @@
 #include "window/FileMenu.h"
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
+#include "window/ViewActs.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -220,6 +221,7 @@ void MainWindow::makeViewMenu()
         toggle->setCheckable(true);
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
+    m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
@@ -291,7 +293,6 @@ void MainWindow::connectSelection()
             [this] { m_services.selectPaths(m_tree->getSelectedPaths()); });
     connect(m_fields, &FieldListView::fieldSelected, this,
             [this](SoField* field) { m_services.select(field); });
-    connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
     connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
     connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
 }

@@ -7,6 +7,8 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+#include <memory>
+
 class QUndoView;
 class SoField;
 
@@ -17,6 +19,7 @@ class FieldListView;
 class PictureActs;
 class HostServices;
 class UserNotifier;
+class ViewActs;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
@@ -105,6 +108,7 @@ private:
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;
+    std::unique_ptr<ViewActs> m_viewActs; // goes before the view
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;
