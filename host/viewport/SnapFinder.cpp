@@ -188,9 +188,8 @@ bool isSeen(SceneView& view, const ViewSight& sight, const SbVec3d& point)
     const auto hit = view.pick(QPoint(static_cast<int>(at->x()), static_cast<int>(at->y())));
     if (!hit)
         return true;
-    const SbRay ray = sight.getRay(*at);
-    const float distance = (toFloat(point) - ray.origin).length();
-    return distance <= hit->distance * (1 + DepthSlack);
+    const SbVec3f origin = sight.getRay(*at).origin;
+    return (toFloat(point) - origin).length() <= (hit->point - origin).length() * (1 + DepthSlack);
 }
 
 std::optional<Snap> firstSeen(SceneView& view, const ViewSight& sight,

@@ -15,10 +15,10 @@ ViewSight::ViewSight(const SoCamera& camera, const QSizeF& size)
 {
     const auto aspect = static_cast<float>(m_size.width() / m_size.height());
     const SbMatrix projection = camera.getProjectionMatrix(aspect);
-    m_toPicture = camera.getViewMatrix() * projection;
-    m_toWorld = m_toPicture.inverse();
     m_isParallel = projection[2][3] == 0;
-    m_heightPerDepth = 2 / projection[1][1];
+    m_halfWidth = 1 / projection[0][0];
+    m_halfHeight = 1 / projection[1][1];
+    m_nearest = camera.nearDistance.getValue();
     const SbRotation turned = camera.orientation.getValue();
     m_right = turned.multVec({1, 0, 0});
     m_up = turned.multVec({0, 1, 0});
@@ -30,29 +30,32 @@ float ViewSight::depthOf(const SbVec3f& world) const
     return (m_eye - world).dot(m_back);
 }
 
+// Straight from the camera's axes: the inverse of a projection would lose half of the digits.
 std::optional<QPointF> ViewSight::toScreen(const SbVec3f& world) const
 {
-    if (!m_isParallel && !(depthOf(world) > 0))
+    const float depth = m_isParallel ? 1 : depthOf(world);
+    if (!(depth > 0))
         return std::nullopt;
-    const SbVec3f at = m_toPicture.multPoint(world);
-    return QPointF((static_cast<double>(at[0]) + 1) / 2 * m_size.width(),
-                   (1 - static_cast<double>(at[1])) / 2 * m_size.height());
+    const SbVec3f from = world - m_eye;
+    const auto x = static_cast<double>(from.dot(m_right) / (depth * m_halfWidth));
+    const auto y = static_cast<double>(from.dot(m_up) / (depth * m_halfHeight));
+    return QPointF((x + 1) / 2 * m_size.width(), (1 - y) / 2 * m_size.height());
 }
 
 SbRay ViewSight::getRay(const QPointF& place) const
 {
-    if (!m_toWorld)
-        return {m_eye, m_back * -1.0F};
     const auto x = static_cast<float>(2 * place.x() / m_size.width() - 1);
     const auto y = static_cast<float>(1 - 2 * place.y() / m_size.height());
-    const SbVec3f near = m_toWorld->multPoint({x, y, -1});
-    return {near, (m_toWorld->multPoint({x, y, 0}) - near).normalized()};
+    const SbVec3f aside = m_right * (x * m_halfWidth) + m_up * (y * m_halfHeight);
+    if (m_isParallel)
+        return {m_eye + aside - m_back * m_nearest, m_back * -1.0F};
+    return {m_eye, (aside - m_back).normalized()};
 }
 
 float ViewSight::getPixelLength(const SbVec3f& world) const
 {
     const float depth = m_isParallel ? 1 : std::max(0.0F, depthOf(world));
-    return depth * m_heightPerDepth / static_cast<float>(m_size.height());
+    return 2 * depth * m_halfHeight / static_cast<float>(m_size.height());
 }
 
 SbVec3f ViewSight::toEye(const SbVec3f& world) const

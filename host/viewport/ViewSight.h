@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbRay.h>
 
 #include <QPointF>
@@ -26,7 +25,8 @@ public:
     bool isParallel() const { return m_isParallel; }
     /// Nothing for what is not before the eye.
     std::optional<QPointF> toScreen(const SbVec3f& world) const;
-    /// What is seen at this place lies along it. Its direction has the length 1.
+    /// What is seen at this place lies along it; it starts at the eye, or at a parallel view's near plane.
+    /// Its direction has the length 1.
     SbRay getRay(const QPointF& place) const;
     /// How long something in the world is, at this place, that is as long as one of the widget's pixels; 0
     /// for what is not before the eye.
@@ -42,14 +42,15 @@ private:
     float depthOf(const SbVec3f& world) const;
 
     QSizeF m_size{1, 1};
-    SbMatrix m_toPicture;
-    std::optional<SbMatrix> m_toWorld;
     SbVec3f m_eye;
     SbVec3f m_right{1, 0, 0};
     SbVec3f m_up{0, 1, 0};
     SbVec3f m_back{0, 0, 1};
     bool m_isParallel = false;
-    float m_heightPerDepth = 1; // of what is seen; all of it for a parallel view
+    // Half of what is seen across and up: per depth or, for a parallel view, as it is.
+    float m_halfWidth = 1;
+    float m_halfHeight = 1;
+    float m_nearest = 0; // depth of what is nearest of all that is seen
 };
 
 } // namespace scopix

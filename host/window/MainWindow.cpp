@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "window/MainWindow.h"
 
+#include "handles/HandleActions.h"
+#include "handles/HandleTool.h"
 #include "panels/FieldListView.h"
 #include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
@@ -84,6 +86,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
+    , m_handles(new HandleTool(services, *m_view))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -95,6 +98,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeDocks();
     makeFileMenu();
     makeEditMenu();
+    makeHandles();
     makeViewMenu();
     makeHelpMenu();
     makeToolBar();
@@ -199,6 +203,15 @@ void MainWindow::makeEditMenu()
     find->setObjectName(QStringLiteral("findAction"));
 }
 
+void MainWindow::makeHandles()
+{
+    m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
+    QMenu* menu = menuBar()->addMenu(tr("&Node"));
+    menu->addActions(m_handleActions->getModes());
+    menu->addAction(m_handleActions->getOwnAxes());
+    connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
+}
+
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
@@ -281,6 +294,8 @@ void MainWindow::makeToolBar()
     bar->addAction(m_openAction);
     bar->addSeparator();
     bar->addActions({m_undoAction, m_redoAction});
+    bar->addSeparator();
+    bar->addActions(m_handleActions->getModes());
     bar->addSeparator();
     bar->addActions({m_viewAllAction, m_viewSelectedAction});
     bar->addSeparator();

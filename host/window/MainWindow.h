@@ -16,6 +16,8 @@ namespace scopix
 {
 
 class FieldListView;
+class HandleActions;
+class HandleTool;
 class PictureActs;
 class HostServices;
 class UserNotifier;
@@ -61,6 +63,7 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    HandleTool& getHandles() { return *m_handles; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -75,6 +78,7 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
+    void makeHandles();
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -100,6 +104,8 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    std::unique_ptr<HandleTool> m_handles; // goes before the view
+    HandleActions* m_handleActions = nullptr;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "handles/HandleSubject.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class SoField;
+
+namespace scopix
+{
+
+class FieldEdit;
+class HostServices;
+
+/// An edit that is seen in the scene while it goes on, and is then one undo step, or none: of several fields
+/// of a node, and of a transform that is put into the scene for it. While it goes on, nothing that it writes
+/// is an edit for the undo history. GUI thread only.
+class HandleEdit
+{
+public:
+    explicit HandleEdit(HostServices& services);
+    ~HandleEdit();
+
+    /// Of these fields of the node, which is kept alive until it ends.
+    void begin(SoNode* node, const std::vector<SoField*>& fields);
+    /// Puts the transform in and edits that.
+    void begin(std::shared_ptr<AddedTransform> added);
+    bool isActive() const { return m_node.get() != nullptr; }
+
+    void write(const std::function<void()>& change);
+    /// Makes a step of this name. False where nothing differs, which is none, and no transform stays.
+    bool keep(const QString& name);
+    /// All is as it was, every bit.
+    void giveBack();
+
+private:
+    bool differs();
+    void end();
+
+    HostServices& m_services;
+    SoRef<SoNode> m_node;
+    std::vector<std::unique_ptr<FieldEdit>> m_fields;
+    std::shared_ptr<AddedTransform> m_added;
+};
+
+} // namespace scopix

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "handles/HandleDrag.h"
+#include "handles/HandleEdit.h"
+#include "viewport/ViewTool.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace scopix
+{
+
+class HostServices;
+class SceneView;
+
+/// The handles of what is selected, in the view: dragged with the mouse, or by keys: X, Y or Z (with Shift
+/// the plane across), a number or the arrows, Enter. Ctrl snaps, Escape gives back. Each drag is one step.
+/// GUI thread only.
+class HandleTool : public QObject, public ViewTool
+{
+    Q_OBJECT
+
+public:
+    /// The services must outlive it.
+    HandleTool(HostServices& services, SceneView& view);
+    ~HandleTool() override;
+
+    void setMode(HandleMode mode);
+    HandleMode getMode() const { return m_mode; }
+    /// Along the world's axes, as at first, or along those of what is moved.
+    void setOfWorld(bool on);
+    bool isOfWorld() const { return m_ofWorld; }
+    bool isDragging() const { return m_drag != nullptr; }
+    /// As they are on the screen now; empty where there are none.
+    HandleShape getShape();
+    /// Of what there are handles now, in the coordinates of the world.
+    const HandleTarget* getTarget();
+
+    bool mousePressed(QMouseEvent& event) override;
+    bool mouseMoved(QMouseEvent& event) override;
+    bool mouseReleased(QMouseEvent& event) override;
+    bool mouseDoubleClicked(QMouseEvent& event) override;
+    void mouseLeft() override;
+    bool keyPressed(QKeyEvent& event) override;
+    bool wantsKey(const QKeyEvent& event) override;
+    void focusLost() override;
+    void draw(SoOverlay& overlay, const ViewSight& sight) override;
+    void paint(QPainter& painter, const ViewSight& sight) override;
+    std::optional<QCursor> getCursor() const override;
+
+signals:
+    void modeChanged();
+    void ofWorldChanged();
+    /// What the handles act on, or why there are none; one sentence.
+    void said(const QString& sentence);
+
+private:
+    enum class Held { Mouse, Keys };
+
+    void selectionChanged();
+    void stackMoved();
+    void refresh();
+    void makeTarget(const HandleSubject& subject);
+    void sayWhatIsMoved();
+    bool begin(HandlePart part, Held held, const QPointF& place);
+    void constrain(HandlePart part);
+    void nudge(double steps, int component);
+    bool type(const QKeyEvent& event);
+    void show(const HandleDrag::Amounts& amounts);
+    void followMouse(const QPointF& place, bool snaps);
+    HandleDrag::Amounts typedAmounts() const;
+    void keep();
+    void giveBack();
+    void end();
+    void selectPart(bool isIn);
+    QString stepName() const;
+    QString amountText() const;
+    bool isIdleKey(const QKeyEvent& event) const;
+
+    HostServices& m_services;
+    SceneView& m_view;
+    const QPointer<QObject> m_viewLives;
+    HandleMode m_mode = HandleMode::Select;
+    bool m_ofWorld = true;
+    bool m_isStale = true; // what there are handles of may be another
+    SoPath m_selected;
+    HandleSubject m_subject;
+    std::unique_ptr<HandleTarget> m_target;
+    std::shared_ptr<AddedTransform> m_added; // not yet in the scene, unless it is being dragged
+
+    HandleEdit m_edit;
+    std::unique_ptr<HandleDrag> m_drag;
+    Held m_held = Held::Mouse;
+    bool m_isSelecting = false; // what moved, at its other place
+    bool m_isPressed = false;   // and what the mouse does until its release is nobody else's
+    HandlePart m_hovered = HandlePart::None;
+    QPointF m_place;   // of the mouse
+    QPointF m_pressed; // where it took hold
+    bool m_snaps = false;
+    QString m_typed; // numbers, with a space between them
+    HandleDrag::Amounts m_amounts{};
+};
+
+} // namespace scopix
