@@ -38,7 +38,7 @@ set(SCOPIX_XSG_HEADERS
   SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
   # Actions
-  SoBoundingBoxAction.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
   # Drawing

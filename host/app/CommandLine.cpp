@@ -29,6 +29,11 @@ QList<QCommandLineOption> options()
         option("profile", "Use this profile in this session.", tr("NAME")),
         option("select", "Select this field; NODE is a node's name or type.", tr("NODE.FIELD")),
         option("screenshot", "Write a picture of the window and end; needs no display.", tr("OUT.png")),
+        option("picture", "Write a picture of the 3D view alone and end; needs no display.", tr("OUT.png")),
+        option("size", "How large that picture is, in pixels; 1920x1080 without it.", tr("WIDTHxHEIGHT")),
+        option("transparent", "Leave its ground transparent."),
+        option("turntable", "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.",
+               tr("NUMBER")),
         option("quit", "End when everything asked for is done."),
         option("counters", "Switch the performance counters on."),
         option("help", "Show this text and end."),
@@ -76,6 +81,44 @@ QString takeSelect(CommandLine& line, const QString& value)
     return {};
 }
 
+QString takeSize(CommandLine& line, const QString& value)
+{
+    const QStringList sides = value.toLower().split(QLatin1Char('x'));
+    bool isWidth = false;
+    bool isHeight = false;
+    line.pictureSize = QSize(sides.value(0).toInt(&isWidth), sides.value(1).toInt(&isHeight));
+    if (sides.size() == 2 && isWidth && isHeight && !line.pictureSize.isEmpty())
+        return {};
+    return tr("--size expects WIDTHxHEIGHT, such as 1920x1080, and not “%1”.").arg(value);
+}
+
+QString takeTurntable(CommandLine& line, const QString& value)
+{
+    bool isNumber = false;
+    line.turntable = value.toInt(&isNumber);
+    if (isNumber && line.turntable > 1)
+        return {};
+    return tr("--turntable expects a number of pictures, 2 or more, and not “%1”.").arg(value);
+}
+
+// What makes no sense without --picture is not silently of no effect.
+QString takePicture(CommandLine& line, const QCommandLineParser& parser)
+{
+    line.picture = parser.value(QStringLiteral("picture"));
+    line.transparent = parser.isSet(QStringLiteral("transparent"));
+    for (const char* name : {"size", "transparent", "turntable"}) {
+        if (line.picture.isEmpty() && parser.isSet(QLatin1String(name)))
+            return tr("--%1 says how a picture is made, and --picture OUT.png is missing.")
+                .arg(QLatin1String(name));
+    }
+    QString problem;
+    if (parser.isSet(QStringLiteral("size")))
+        problem = takeSize(line, parser.value(QStringLiteral("size")));
+    if (problem.isEmpty() && parser.isSet(QStringLiteral("turntable")))
+        problem = takeTurntable(line, parser.value(QStringLiteral("turntable")));
+    return problem;
+}
+
 QString check(CommandLine& line, const QCommandLineParser& parser)
 {
     const QStringList files = parser.positionalArguments();
@@ -90,6 +133,9 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
     if (files.value(0).isEmpty() && !files.isEmpty())
         return tr("FILE expects the path of a scene or model, and nothing was given.");
     line.file = files.value(0);
+    const QString problem = takePicture(line, parser);
+    if (!problem.isEmpty())
+        return problem;
     const QString select = parser.value(QStringLiteral("select"));
     return select.isEmpty() ? QString() : takeSelect(line, select);
 }

@@ -3,6 +3,7 @@
 
 #include <scopix-host/HostExport.h>
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +18,10 @@ struct SCOPIX_HOST_API CommandLine {
     QString selectNode; // of --select NODE.FIELD
     QString selectField;
     QString screenshot;
+    QString picture;   // of the 3D view alone
+    QSize pictureSize; // of --size; empty: as PictureOrder
+    bool transparent = false;
+    int turntable = 1; // pictures of one turn
     bool quit = false;
     bool counters = false;
     bool help = false;
@@ -25,7 +30,9 @@ struct SCOPIX_HOST_API CommandLine {
     QString error; // one sentence; empty when all is well
 
     /// Nobody is there to answer a message box.
-    bool isUnattended() const { return quit || !screenshot.isEmpty(); }
+    bool isUnattended() const { return quit || isForPictures(); }
+    /// Writes pictures and ends, for which no display is needed.
+    bool isForPictures() const { return !screenshot.isEmpty() || !picture.isEmpty(); }
 
     /// `arguments` begin with the program's name. Qt's own options, such as -platform, are skipped.
     static CommandLine parse(const QStringList& arguments);

@@ -217,6 +217,14 @@ void HostSession::finish(const CommandLine& line, bool opened)
 {
     if (opened && !line.screenshot.isEmpty()) // else it would show what was not asked for
         m_window->saveScreenshot(line.screenshot);
+    if (opened && !line.picture.isEmpty()) {
+        PictureOrder order;
+        order.path = line.picture;
+        order.size = line.pictureSize.isEmpty() ? order.size : line.pictureSize;
+        order.isTransparent = line.transparent;
+        order.count = line.turntable;
+        m_window->savePictures(order);
+    }
     m_status = m_notifier.errorCount() > 0 ? 1 : 0;
     if (line.isUnattended())
         emit finished();

@@ -35,7 +35,7 @@ bool chooseWindowSystem(const scopix::CommandLine& line)
 {
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
-    if (!line.screenshot.isEmpty() || (line.isUnattended() && !hasDisplay()))
+    if (line.isForPictures() || (line.isUnattended() && !hasDisplay()))
         return qputenv("QT_QPA_PLATFORM", "offscreen");
     return hasDisplay();
 }

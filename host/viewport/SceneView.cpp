@@ -4,8 +4,8 @@
 #include "theme/Theme.h"
 #include "viewport/ViewSurface.h"
 
+#include <xsg/actions/SoAreaPickAction.h>
 #include <xsg/nodes/base/SoTimeSource.h>
-#include <xsg/render/SoRenderer.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -97,6 +97,18 @@ void SceneView::setWireframe(bool on)
     redraw();
 }
 
+void SceneView::setShading(SoRenderer::Shading shading)
+{
+    m_shading = shading;
+    redraw();
+}
+
+void SceneView::setClipPlane(const std::optional<SbPlane>& plane)
+{
+    m_clipPlane = plane;
+    redraw();
+}
+
 void SceneView::setShowsStatistics(bool on)
 {
     m_statistics->setVisible(on);
@@ -106,6 +118,7 @@ void SceneView::setShowsStatistics(bool on)
 // Only after a picture that was asked for: the text itself may have the picture painted again.
 void SceneView::drawn(const SoRenderer& renderer)
 {
+    m_drawSeconds = renderer.getStatistics().seconds;
     if (!std::exchange(m_statisticsAreOld, false) || m_statistics->isHidden())
         return;
     const SoRenderer::Statistics& frame = renderer.getStatistics();
@@ -186,13 +199,34 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
                        static_cast<float>(c.blueF()));
     };
     renderer.setBackground(toColor(groundColor(palette())));
-    renderer.setWireframe(m_wireframe);
+    setUp(renderer, m_wireframe, m_shading, m_clipPlane);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
     renderer.getOverlay().clear();
     m_tools.draw(renderer.getOverlay());
     return {m_root.get(), &m_camera.get()};
+}
+
+void SceneView::setUp(SoRenderer& renderer, bool wireframe, SoRenderer::Shading shading,
+                      const std::optional<SbPlane>& clipPlane)
+{
+    renderer.setWireframe(wireframe);
+    renderer.setShading(shading);
+    renderer.setClipPlane(clipPlane ? &*clipPlane : nullptr);
+}
+
+PictureSubject SceneView::getPictureSubject(const QSize& size, bool forTurn)
+{
+    PictureSubject subject;
+    subject.root = m_root;
+    subject.camera = m_camera.getPictureCamera(static_cast<float>(std::max(1, size.width())) /
+                                                   static_cast<float>(std::max(1, size.height())),
+                                               forTurn);
+    subject.ground = groundColor(palette());
+    subject.setUp = [wireframe = m_wireframe, shading = m_shading, plane = m_clipPlane](
+                        SoRenderer& renderer) { setUp(renderer, wireframe, shading, plane); };
+    return subject;
 }
 
 int SceneView::getDrawCount() const
@@ -212,13 +246,70 @@ void SceneView::viewNode(SoNode* node)
     redraw();
 }
 
+SbRay SceneView::rayAt(const QPoint& place) const
+{
+    const float x = (static_cast<float>(place.x()) + 0.5F) / static_cast<float>(std::max(1, width()));
+    const float y = 1 - (static_cast<float>(place.y()) + 0.5F) / static_cast<float>(std::max(1, height()));
+    return m_camera.get().getRay(x, y, m_camera.getAspect());
+}
+
+template <class Action>
+void SceneView::cut(Action& action) const
+{
+    action.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
+}
+
 std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
 {
     if (!m_root)
         return std::nullopt;
-    const float x = (static_cast<float>(place.x()) + 0.5F) / static_cast<float>(std::max(1, width()));
-    const float y = 1 - (static_cast<float>(place.y()) + 0.5F) / static_cast<float>(std::max(1, height()));
-    return m_pickAction.pick(m_root.get(), m_camera.get().getRay(x, y, m_camera.getAspect()));
+    cut(m_pickAction);
+    auto nearest = m_pickAction.pick(m_root.get(), rayAt(place));
+    if (!nearest || isPickable(nearest->path))
+        return nearest;
+    const std::vector<SoPickedPoint> all = pickAll(place);
+    return all.empty() ? std::nullopt : std::optional<SoPickedPoint>(all.front());
+}
+
+std::vector<SoPickedPoint> SceneView::pickAll(const QPoint& place)
+{
+    if (!m_root)
+        return {};
+    cut(m_pickAction);
+    std::vector<SoPickedPoint> all = m_pickAction.pickAll(m_root.get(), rayAt(place));
+    const auto isPassedOver = [this](const SoPickedPoint& point) { return !isPickable(point.path); };
+    all.erase(std::remove_if(all.begin(), all.end(), isPassedOver), all.end());
+    return all;
+}
+
+std::vector<SoPath> SceneView::findSeen(const QRect& area)
+{
+    const QRect inside = area & rect();
+    if (!m_root || inside.isEmpty())
+        return {};
+    SoAreaPickAction action;
+    cut(action);
+    action.setEye(m_camera.get().position.getValue());
+    const SoCamera& camera = m_camera.get();
+    const auto across = [this](int x) { return static_cast<float>(x) / static_cast<float>(width()); };
+    const auto up = [this](int y) { return 1 - static_cast<float>(y) / static_cast<float>(height()); };
+    std::vector<SoPath> seen = action.pick(
+        m_root.get(), camera.getViewMatrix() * camera.getProjectionMatrix(m_camera.getAspect()),
+        {across(inside.left()), up(inside.bottom() + 1), across(inside.right() + 1), up(inside.top())},
+        inside.width(), inside.height());
+    const auto isPassedOver = [this](const SoPath& path) { return !isPickable(path); };
+    seen.erase(std::remove_if(seen.begin(), seen.end(), isPassedOver), seen.end());
+    return seen;
+}
+
+std::vector<std::uint32_t> SceneView::findCovered(const SoPath& part, const QSize& size)
+{
+    SoAreaPickAction action;
+    cut(action);
+    action.setEye(m_camera.get().position.getValue());
+    const SoCamera& camera = m_camera.get();
+    return action.cover(part, camera.getViewMatrix() * camera.getProjectionMatrix(m_camera.getAspect()), {},
+                        size.width(), size.height());
 }
 
 void SceneView::mousePressEvent(QMouseEvent* event)

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewport/PictureSeries.h"
 #include "viewport/ViewCamera.h"
 #include "viewport/ViewSight.h"
 #include "viewport/ViewTools.h"
 
 #include <xsg/actions/SoRayPickAction.h>
+#include <xsg/render/SoRenderer.h>
 #include <xsg/sensors/SoNodeSensor.h>
 
 #include <QBasicTimer>
@@ -15,10 +17,11 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 #include <vector>
 
 class QLabel;
-class SoRenderer;
 
 namespace scopix
 {
@@ -52,6 +55,13 @@ public:
     /// Edges instead of surfaces.
     void setWireframe(bool on);
     bool isWireframe() const { return m_wireframe; }
+    /// What of the scene is shown; edges instead of surfaces go with each.
+    void setShading(SoRenderer::Shading shading);
+    SoRenderer::Shading getShading() const { return m_shading; }
+    /// Cuts the scene by a plane in world coordinates, without changing it: what lies on the normal's side
+    /// stays. Nothing: no plane. What is cut away is not picked either.
+    void setClipPlane(const std::optional<SbPlane>& plane);
+    const std::optional<SbPlane>& getClipPlane() const { return m_clipPlane; }
     /// In a corner of the picture, what it took to draw it.
     void setShowsStatistics(bool on);
 
@@ -66,11 +76,28 @@ public:
     SoCamera& getCamera() { return m_camera.get(); }
     /// What is at this place of the widget.
     std::optional<SoPickedPoint> pick(const QPoint& place);
+    /// All that is there, from front to back.
+    std::vector<SoPickedPoint> pickAll(const QPoint& place);
+    /// To the shapes that are seen within this part of the widget, wholly or in part.
+    std::vector<SoPath> findSeen(const QRect& area);
+    /// The pixels that this part of the scene covers, row by row from the bottom, as if nothing hid it: for a
+    /// picture of this size of the whole view, not 0.
+    std::vector<std::uint32_t> findCovered(const SoPath& part, const QSize& size);
+    /// What can be picked at all, in the order in which it is asked; without one, everything. What it is
+    /// false for is passed over.
+    using PathTest = std::function<bool(const SoPath&)>;
+    void setPickable(PathTest isPickable) { m_isPickable = std::move(isPickable); }
+    SoNode* getScene() const { return m_root.get(); }
+    /// For pictures of this size of what is seen, without marks and tools; `forTurn`: from all around.
+    PictureSubject getPictureSubject(const QSize& size, bool forTurn);
+    /// What the last picture took, in seconds.
+    double getDrawSeconds() const { return m_drawSeconds; }
     /// Pictures drawn so far.
     int getDrawCount() const;
     /// Whether the scene may be animated, as it is by default; without that a picture is the same whenever it
     /// is taken.
     void setAnimated(bool on);
+    bool isAnimated() const { return m_isAnimated; }
     /// Whether the scene is being animated.
     bool isAnimating() const { return m_ticks.isActive(); }
 
@@ -120,6 +147,12 @@ private:
 
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
+    static void setUp(SoRenderer& renderer, bool wireframe, SoRenderer::Shading shading,
+                      const std::optional<SbPlane>& clipPlane);
+    SbRay rayAt(const QPoint& place) const;
+    bool isPickable(const SoPath& path) const { return !m_isPickable || m_isPickable(path); }
+    template <class Action>
+    void cut(Action& action) const;
     void drawn(const SoRenderer& renderer);
     void turn(float right, float up);
     void pan(float right, float up);
@@ -132,6 +165,10 @@ private:
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
+    PathTest m_isPickable;
+    SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
+    std::optional<SbPlane> m_clipPlane;
+    double m_drawSeconds = 0;
     ViewSurface* m_surface;
     ViewTools m_tools;
     QLabel* m_statistics;

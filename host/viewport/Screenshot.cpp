@@ -21,7 +21,9 @@ namespace
 
 constexpr int MaxTurns = 20; // something that always changes must not keep the picture from being taken
 
-QString cannotWrite(const QString& path, const QString& reason)
+} // namespace
+
+QString cannotWritePicture(const QString& path, const QString& reason)
 {
     return QCoreApplication::translate("Screenshot", "The picture “%1” cannot be written: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
@@ -38,7 +40,7 @@ QStringList pictureExtensions()
     return extensions;
 }
 
-void settle()
+void settleForPicture()
 {
     for (int turn = 0; turn < MaxTurns; ++turn) {
         QCoreApplication::sendPostedEvents();
@@ -47,22 +49,23 @@ void settle()
     }
 }
 
-} // namespace
+QString writePicture(const QString& path, const QImage& picture)
+{
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, QFileInfo(path).suffix().toLatin1());
+    const QString problem = writer.write(picture) ? replaceFile(path, content) : writer.errorString();
+    return problem.isEmpty() ? QString() : cannotWritePicture(path, problem);
+}
 
 QString saveScreenshot(QWidget& window, const QString& path)
 {
     const QString reason = reasonAgainstWriting(path, pictureExtensions());
     if (!reason.isEmpty())
-        return cannotWrite(path, reason);
-    settle();
-    const QPixmap picture = window.grab();
-    QByteArray content;
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, QFileInfo(path).suffix().toLatin1());
-    const QString problem =
-        writer.write(picture.toImage()) ? replaceFile(path, content) : writer.errorString();
-    return problem.isEmpty() ? QString() : cannotWrite(path, problem);
+        return cannotWritePicture(path, reason);
+    settleForPicture();
+    return writePicture(path, window.grab().toImage());
 }
 
 } // namespace scopix

@@ -5,9 +5,12 @@
 #include "viewport/SceneCamera.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
+#include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/render/Frustum.h>
 #include <xsg/values/SbRotation.h>
+
+#include <cmath>
 
 namespace scopix
 {
@@ -26,7 +29,45 @@ SbBox3f boxOf(SoNode* root)
     return root ? SoBoundingBoxAction().getBox(root) : SbBox3f();
 }
 
+SoRef<SoCamera> copyOf(const SoCamera& camera)
+{
+    SoRef<SoCamera> copy;
+    if (const auto* parallel = dynamic_cast<const SoOrthographicCamera*>(&camera))
+        ensureType<SoOrthographicCamera>(copy).height.setValue(parallel->height.getValue());
+    else if (const auto* perspective = dynamic_cast<const SoPerspectiveCamera*>(&camera))
+        ensureType<SoPerspectiveCamera>(copy).heightAngle.setValue(perspective->heightAngle.getValue());
+    else
+        ensureType<SoPerspectiveCamera>(copy);
+    copy->position.setValue(camera.position.getValue());
+    copy->orientation.setValue(camera.orientation.getValue());
+    copy->nearDistance.setValue(camera.nearDistance.getValue());
+    copy->farDistance.setValue(camera.farDistance.getValue());
+    copy->focalDistance.setValue(camera.focalDistance.getValue());
+    return copy;
+}
+
+// Around all that the box passes when it turns around the vertical through its centre.
+SbBox3f turningBox(const SbBox3f& box)
+{
+    const SbVec3f half = box.getSize() * 0.5F;
+    const float reach = std::hypot(half[0], half[2]);
+    const SbVec3f by(reach, half[1], reach);
+    return box.isEmpty() ? box : SbBox3f(box.getCenter() - by, box.getCenter() + by);
+}
+
 } // namespace
+
+SoRef<SoCamera> PictureCamera::turned(float radians, const SbBox3f& box) const
+{
+    SoRef<SoCamera> copy = copyOf(*camera);
+    if (radians == 0)
+        return copy;
+    const SbRotation turn({0, 1, 0}, radians);
+    copy->position.setValue(pivot + turn.multVec(camera->position.getValue() - pivot));
+    copy->orientation.setValue(camera->orientation.getValue() * turn);
+    copy->fitDepthRange(box);
+    return copy;
+}
 
 ViewCamera::ViewCamera()
     : m_camera(new SoPerspectiveCamera)
@@ -47,6 +88,25 @@ void ViewCamera::setAspect(float aspect)
     if (m_look == Look::Framed)
         viewAll();
     follow();
+}
+
+PictureCamera ViewCamera::getPictureCamera(float aspect, bool forTurn)
+{
+    const float before = m_aspect;
+    const float focalDistance = m_camera->focalDistance.getValue();
+    setAspect(aspect);
+    const SbBox3f box = boxOf(m_root.get());
+    const bool isFramed = forTurn && m_look == Look::Framed && !box.isEmpty();
+    if (isFramed)
+        frame(turningBox(box));
+    else if (forTurn)
+        findPivot();
+    fitDepth();
+    PictureCamera picture{copyOf(*m_camera), isFramed ? box.getCenter() : m_camera->getFocalPoint()};
+    m_camera->focalDistance.setValue(focalDistance);
+    setAspect(before);
+    fitDepth();
+    return picture;
 }
 
 void ViewCamera::goHome()

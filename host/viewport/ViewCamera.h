@@ -7,6 +7,16 @@
 namespace scopix
 {
 
+/// A camera of its own for a picture, and what a turntable turns it around.
+struct PictureCamera {
+    SoRef<SoCamera> camera;
+    SbVec3f pivot;
+
+    /// Another one, turned around the vertical through the pivot, in radians, that sees all of the box's
+    /// depth where it is turned.
+    SoRef<SoCamera> turned(float radians, const SbBox3f& box) const;
+};
+
 /// From where a 3D view looks at its scene. The camera is the view's own and never part of the scene, so
 /// looking around edits nothing. A scene that brings a camera along is seen through it, and followed when it
 /// is edited, until the user looks around; home leads back to it. GUI thread only.
@@ -41,6 +51,10 @@ public:
     void pan(float right, float up);
     /// Below 1 zooms in on this place of the picture, above 1 zooms out; (0, 0) is its lower left corner.
     void zoom(float factor, float x = 0.5F, float y = 0.5F);
+
+    /// How this would look in a picture of another shape; `forTurn`: with room for what is framed from all
+    /// around.
+    PictureCamera getPictureCamera(float aspect, bool forTurn);
 
     /// Follows the scene's camera where the scene is seen through it. To be called when the scene has
     /// changed. False where the scene has none, or is not seen through it.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "services/SceneSource.h"
+#include "viewport/PictureSeries.h"
 
 #include <QMainWindow>
 
@@ -39,6 +40,8 @@ public:
     /// Writes a picture of the window. False when it cannot be written, which is
     /// reported.
     virtual bool saveScreenshot(const QString& path) = 0;
+    /// Writes pictures of the 3D view alone. False when they cannot be written, which is reported.
+    virtual bool savePictures(const PictureOrder& /*order*/) { return false; }
     /// What the command line asks for has been done, and the user works with the window from now on.
     virtual void enterInteractiveMode() {}
 

@@ -19,8 +19,10 @@
 #include "window/FieldMenu.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
+#include "window/PictureActs.h"
 #include "window/ReloadBar.h"
 #include "window/ViewPoints.h"
+#include "window/ViewActs.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -181,7 +183,9 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
-    menu->addAction(tr("Save &Picture of the Window…"), this, &MainWindow::askForScreenshot);
+    menu->addSeparator();
+    m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
+    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
     menu->addSeparator();
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 }
@@ -235,6 +239,7 @@ void MainWindow::makeViewMenu()
         toggle->setCheckable(true);
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
+    m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
@@ -311,7 +316,6 @@ void MainWindow::connectSelection()
             [this] { m_services.selectPaths(m_tree->getSelectedPaths()); });
     connect(m_fields, &FieldListView::fieldSelected, this,
             [this](SoField* field) { m_services.select(field); });
-    connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
     connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
     connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
 }
@@ -429,6 +433,11 @@ bool MainWindow::saveScreenshot(const QString& path)
     if (!error.isEmpty())
         m_notifier.error(error);
     return error.isEmpty();
+}
+
+bool MainWindow::savePictures(const PictureOrder& order)
+{
+    return m_pictures->save(order);
 }
 
 void MainWindow::askForScreenshot()

@@ -19,8 +19,10 @@ class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
+class PictureActs;
 class HostServices;
 class UserNotifier;
+class ViewActs;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
@@ -59,6 +61,7 @@ public:
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
+    bool savePictures(const PictureOrder& order) override;
     void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
 
     ScenePanel& getScenePanel() { return *m_scenePanel; }
@@ -119,6 +122,8 @@ private:
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
+    PictureActs* m_pictures = nullptr;
+    std::unique_ptr<ViewActs> m_viewActs; // goes before the view
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

@@ -8,6 +8,12 @@ SoPathTraversal::SoPathTraversal(NodeIds path)
 {
 }
 
+void SoPathTraversal::follow(NodeIds path)
+{
+    m_path = std::move(path);
+    m_reached = 0;
+}
+
 SoPathTraversal::NodeIds SoPathTraversal::idsOf(const SoPath& path)
 {
     NodeIds ids;

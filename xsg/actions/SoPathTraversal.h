@@ -17,7 +17,11 @@ public:
     static NodeIds idsOf(const SoPath& path);
 
 protected:
+    SoPathTraversal() = default;
     explicit SoPathTraversal(NodeIds path);
+
+    /// To be called before a walk along another path.
+    void follow(NodeIds path);
 
     /// Whether the node that is visited, or the group that is wanted or entered, is the path's end.
     bool isEnd(const SoNode* node) const;
@@ -28,6 +32,6 @@ protected:
 private:
     bool isOnPath(const SoNode* node) const;
 
-    const NodeIds m_path;
+    NodeIds m_path;
     std::size_t m_reached = 0; // of the path, the groups that are open
 };

@@ -35,10 +35,32 @@ SoRayPickAction::~SoRayPickAction() = default;
 
 std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ray)
 {
+    walk(root, ray);
+    return std::exchange(m_nearest, std::nullopt);
+}
+
+std::vector<SoPickedPoint> SoRayPickAction::pickAll(SoNode* root, const SbRay& ray)
+{
+    std::vector<SoPickedPoint> all;
+    m_all = &all;
+    walk(root, ray);
+    m_all = nullptr;
+    std::stable_sort(all.begin(), all.end(),
+                     [](const SoPickedPoint& a, const SoPickedPoint& b) { return a.distance < b.distance; });
+    return all;
+}
+
+void SoRayPickAction::setClipPlane(const SbPlane* plane)
+{
+    m_clipPlane = plane ? std::optional<SbPlane>(*plane) : std::nullopt;
+}
+
+void SoRayPickAction::walk(SoNode* root, const SbRay& ray)
+{
     xsg::feeds.picks.add();
     m_nearest.reset();
     if (!root || !(ray.direction.length() > 0))
-        return {};
+        return;
     m_ray = {ray.origin, ray.direction.normalized()};
     m_localMatrix = SbMatrix();
     m_localRay = m_ray;
@@ -50,7 +72,6 @@ std::optional<SoPickedPoint> SoRayPickAction::pick(SoNode* root, const SbRay& ra
     traverse(root);
     for (auto it = m_geometry.begin(); it != m_geometry.end();)
         it = it->second.usedAt + 16 < m_pickNumber ? m_geometry.erase(it) : std::next(it);
-    return std::exchange(m_nearest, std::nullopt);
 }
 
 bool SoRayPickAction::wantsGroup(SoGroup* group)
@@ -121,6 +142,8 @@ void SoRayPickAction::visitShape(SoShape* shape)
     if (state().drawStyle && !state().drawStyle->isVisible())
         return;
     state().forEachInstance([&](const SbMatrix& matrix) { pickShape(shape, matrix); });
+    if (m_all && m_nearest)
+        m_all->push_back(*std::exchange(m_nearest, std::nullopt));
 }
 
 void SoRayPickAction::pickShape(SoShape* shape, const SbMatrix& matrix)
@@ -181,12 +204,12 @@ void SoRayPickAction::take(SoShape* shape, const Hit& hit, const SbMatrix& toWor
 
 bool SoRayPickAction::isClipped(const SbVec3f& point)
 {
-    if (!state().clipPlanes)
-        return false;
-    const auto& planes = *state().clipPlanes;
-    return std::any_of(planes.begin(), planes.end(), [&](const SbPlane& plane) {
+    const auto cuts = [&](const SbPlane& plane) {
         return plane.getNormal().dot(point) < plane.getDistanceFromOrigin();
-    });
+    };
+    if (m_clipPlane && cuts(*m_clipPlane))
+        return true;
+    return state().clipPlanes && std::any_of(state().clipPlanes->begin(), state().clipPlanes->end(), cuts);
 }
 
 const SoGeometry& SoRayPickAction::geometryOf(SoShape* shape)

@@ -36,11 +36,16 @@ public:
 
     /// `ray` in the coordinates the root stands in; its direction need not be of length 1.
     std::optional<SoPickedPoint> pick(SoNode* root, const SbRay& ray);
+    /// Everything that the ray meets, from front to back: each shape once, where it is met first.
+    std::vector<SoPickedPoint> pickAll(SoNode* root, const SbRay& ray);
+    /// What lies on the other side of this plane than its normal is cut away; null for none.
+    void setClipPlane(const SbPlane* plane);
     /// How many nodes the last pick looked at.
     using SoTraversal::getNumVisited;
 
 private:
     struct Hit;
+    void walk(SoNode* root, const SbRay& ray);
     bool wantsGroup(SoGroup* group) override;
     void enterGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
@@ -58,6 +63,8 @@ private:
     std::optional<SbRay> m_localRay;  // nothing where space is squeezed flat
     xsg::GroupCache* m_box = nullptr; // of the separator that is about to be entered, where it is known
     std::optional<SoPickedPoint> m_nearest;
+    std::vector<SoPickedPoint>* m_all = nullptr; // where everything is wanted
+    std::optional<SbPlane> m_clipPlane;
     struct Kept;
     std::unordered_map<SoGeometryKey, Kept, SoGeometryKeyHash> m_geometry;
     int m_pickNumber = 0;

@@ -56,7 +56,9 @@ void xsg::DrawState::end()
 void xsg::DrawState::setEdgesOnly(bool on)
 {
     m_edgesOnly = on;
+    // Also after an outline, which leaves settings and a vertex array of its own behind.
     m_isKnown = false;
+    m_geometry = nullptr;
 }
 
 void xsg::DrawState::setState(const DrawStateKey& now)

@@ -53,23 +53,32 @@ bool xsg::buildProgram(GlProgram& program, const std::string& defines, const cha
 
 bool xsg::Shader::prepare(std::string& error)
 {
-    if (m_programs[0].program)
-        return true;
-    for (std::size_t i = 0; i < 4; ++i) {
-        if (!build(m_programs[i], i % 2 == 1, i >= 2, error)) {
-            release();
-            return false;
-        }
-    }
-    return true;
+    return prepareLook(Look::Full, error) && prepareKind(PlaceOnly, error);
 }
 
-bool xsg::Shader::build(Program& program, bool isClipped, bool isPlaceOnly, std::string& error)
+bool xsg::Shader::prepareLook(Look look, std::string& error)
 {
+    return prepareKind(static_cast<int>(look), error);
+}
+
+bool xsg::Shader::prepareKind(int kind, std::string& error)
+{
+    Program* pair = m_programs + 2 * kind;
+    if (pair[0].program)
+        return true;
+    if (build(pair[0], false, kind, error) && build(pair[1], true, kind, error))
+        return true;
+    release();
+    return false;
+}
+
+bool xsg::Shader::build(Program& program, bool isClipped, int kind, std::string& error)
+{
+    static constexpr const char* fragmentTexts[KindCount] = {
+        FragmentShaderText, FlatFragmentText, NormalsFragmentText, TextureFragmentText, NoFragmentText};
     const std::string defines =
-        std::string(isClipped ? ClippedText : "") + (isPlaceOnly ? PlaceOnlyText : "");
-    if (!buildProgram(program.program, defines, VertexShaderText,
-                      isPlaceOnly ? NoFragmentText : FragmentShaderText, error))
+        std::string(isClipped ? ClippedText : "") + (kind == PlaceOnly ? PlaceOnlyText : "");
+    if (!buildProgram(program.program, defines, VertexShaderText, fragmentTexts[kind], error))
         return false;
     const GLuint name = program.program.get();
     const auto location = [&](const char* uniform) { return glGetUniformLocation(name, uniform); };
@@ -80,7 +89,8 @@ bool xsg::Shader::build(Program& program, bool isClipped, bool isPlaceOnly, std:
                   location("ambientLight"),   location("clipCount"),
                   location("clipPlanes"),     location("textureModel"),
                   location("textureMatrix"),  location("fogKind"),
-                  location("fogColor"),       location("screenSpace")};
+                  location("fogColor"),       location("screenSpace"),
+                  location("flatColor")};
     return true;
 }
 
@@ -97,21 +107,27 @@ void xsg::Shader::use()
 
 bool xsg::Shader::setClipped(bool on)
 {
-    return change(on, m_isPlaceOnly);
+    return change(on || m_hasViewPlane, m_isPlaceOnly, m_look);
 }
 
 void xsg::Shader::setPlaceOnly(bool on)
 {
-    change(m_isClipped, on);
+    change(m_isClipped, on, m_look);
 }
 
-bool xsg::Shader::change(bool isClipped, bool isPlaceOnly)
+void xsg::Shader::setLook(Look look)
 {
-    if (isClipped == m_isClipped && isPlaceOnly == m_isPlaceOnly)
+    change(m_isClipped, m_isPlaceOnly, look);
+}
+
+bool xsg::Shader::change(bool isClipped, bool isPlaceOnly, Look look)
+{
+    if (isClipped == m_isClipped && isPlaceOnly == m_isPlaceOnly && look == m_look)
         return false;
     m_isClipped = isClipped;
     m_isPlaceOnly = isPlaceOnly;
-    m_now = &m_programs[(isClipped ? 1 : 0) + (isPlaceOnly ? 2 : 0)];
+    m_look = look;
+    m_now = &m_programs[(isClipped ? 1 : 0) + 2 * (isPlaceOnly ? PlaceOnly : static_cast<int>(look))];
     use();
     sendCommon();
     return true;
@@ -124,6 +140,19 @@ void xsg::Shader::sendCommon()
     glUniform4fv(at.eye, 1, m_common.eye.getValue());
     glUniform2fv(at.viewport, 1, m_common.viewport.getValue());
     glUniform1i(at.screenSpace, m_common.isScreenSpace ? 1 : 0);
+    glUniform4fv(at.flatColor, 1, m_common.flatColor.getValue());
+}
+
+void xsg::Shader::setFlatColor(const SbVec4f& color)
+{
+    m_common.flatColor = color;
+    sendCommon();
+}
+
+void xsg::Shader::setViewPlane(const SbPlane* plane)
+{
+    m_hasViewPlane = plane != nullptr;
+    m_viewPlane = plane ? *plane : SbPlane();
 }
 
 void xsg::Shader::setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height)
@@ -162,13 +191,16 @@ void xsg::Shader::setLights(const std::vector<SoLightSource>& lights, const SbCo
 
 void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
 {
-    const int count = std::min(static_cast<int>(planes.size()), MaxClipPlanes);
+    int count = std::min(static_cast<int>(planes.size()), MaxScenePlanes);
     SbVec4f values[MaxClipPlanes];
-    for (int i = 0; i < count; ++i) {
-        const SbPlane& plane = planes[static_cast<std::size_t>(i)];
+    const auto numbers = [](const SbPlane& plane) {
         const SbVec3f& n = plane.getNormal();
-        values[i] = SbVec4f(n[0], n[1], n[2], plane.getDistanceFromOrigin());
-    }
+        return SbVec4f(n[0], n[1], n[2], plane.getDistanceFromOrigin());
+    };
+    for (int i = 0; i < count; ++i)
+        values[i] = numbers(planes[static_cast<std::size_t>(i)]);
+    if (m_hasViewPlane)
+        values[count++] = numbers(m_viewPlane);
     glUniform1i(m_now->at.clipCount, count);
     if (count > 0)
         glUniform4fv(m_now->at.clipPlanes, count, values[0].getValue());

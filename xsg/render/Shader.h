@@ -35,10 +35,16 @@ class Shader
 {
 public:
     static constexpr int MaxLights = 8;
-    static constexpr int MaxClipPlanes = 6;
+    static constexpr int MaxScenePlanes = 6;
+    static constexpr int MaxClipPlanes = MaxScenePlanes + 1; // and the view's own
+
+    /// What is drawn of surfaces: their look, one colour, where they face, or how textures lie on them.
+    enum class Look { Full, Flat, Normals, TextureCoordinates };
 
     /// Builds the programs at first use; false with a sentence where OpenGL refuses.
     bool prepare(std::string& error);
+    /// The same for one look; all but the full one are not built before they are asked for.
+    bool prepareLook(Look look, std::string& error);
     void release();
 
     void use();
@@ -48,6 +54,12 @@ public:
     /// Draws only where things are, without their looks: for a picture of depths. Settings are kept for the
     /// other program.
     void setPlaceOnly(bool on);
+    /// A look that was prepared. Settings have to be set again, as after setClipped().
+    void setLook(Look look);
+    /// The colour, with opacity, of the flat look.
+    void setFlatColor(const SbVec4f& color);
+    /// Cuts everything by this plane too, in world coordinates, from the next setClipped() on; null for none.
+    void setViewPlane(const SbPlane* plane);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
     void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
     void setClipPlanes(const std::vector<SbPlane>& planes);
@@ -63,16 +75,21 @@ private:
         struct Locations {
             GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
                 lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
-                fogColor, screenSpace;
+                fogColor, screenSpace, flatColor;
         } at{};
     };
-    static bool build(Program& program, bool isClipped, bool isPlaceOnly, std::string& error);
-    bool change(bool isClipped, bool isPlaceOnly);
+    enum Kind { PlaceOnly = 4, KindCount = 5 }; // the others are looks
+    static bool build(Program& program, bool isClipped, int kind, std::string& error);
+    bool prepareKind(int kind, std::string& error);
+    bool change(bool isClipped, bool isPlaceOnly, Look look);
     void sendCommon();
 
-    Program m_programs[4]; // plain, clipped, and both of them for the place only
+    Program m_programs[2 * KindCount]; // of each kind the plain one and the clipped one
     bool m_isClipped = false;
     bool m_isPlaceOnly = false;
+    Look m_look = Look::Full;
+    bool m_hasViewPlane = false;
+    SbPlane m_viewPlane;
     Program* m_now = &m_programs[0];
     /// What stays when the program changes.
     struct Common {
@@ -80,6 +97,7 @@ private:
         SbVec4f eye;
         SbVec2f viewport;
         bool isScreenSpace = false;
+        SbVec4f flatColor;
     } m_common;
 };
 

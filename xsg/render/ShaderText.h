@@ -28,8 +28,8 @@ uniform vec2 viewport;
 uniform bool screenSpace;
 #ifdef CLIPPED
 uniform int clipCount;
-uniform vec4 clipPlanes[6];
-out float gl_ClipDistance[6];
+uniform vec4 clipPlanes[7];
+out float gl_ClipDistance[7];
 #endif
 
 #ifndef PLACE_ONLY
@@ -66,7 +66,7 @@ void main()
     vertexEmissive = emissive.rgb;
 #endif
 #ifdef CLIPPED
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 7; ++i)
         gl_ClipDistance[i] = i < clipCount ? dot(clipPlanes[i].xyz, place) - clipPlanes[i].w : 1.0;
 #endif
 }
@@ -171,5 +171,40 @@ void main()
 )";
 
 constexpr const char* NoFragmentText = "void main() {}\n";
+
+constexpr const char* FlatFragmentText = R"(
+uniform vec4 flatColor;
+out vec4 result;
+void main()
+{
+    result = flatColor;
+}
+)";
+
+// Red, green and blue where a surface faces along x, y and z; grey where it has no normals.
+constexpr const char* NormalsFragmentText = R"(
+in vec3 worldNormal;
+flat in int isLit;
+in vec4 vertexDiffuse;
+out vec4 result;
+void main()
+{
+    vec3 color = isLit == 1 ? normalize(worldNormal) * 0.5 + 0.5 : vec3(0.3);
+    result = vec4(color, vertexDiffuse.a);
+}
+)";
+
+// Eight by eight squares for each time that a picture fits; redder to the right, greener upwards.
+constexpr const char* TextureFragmentText = R"(
+in vec2 textureAt;
+in vec4 vertexDiffuse;
+out vec4 result;
+void main()
+{
+    vec2 square = floor(textureAt * 8.0);
+    float shade = mod(square.x + square.y, 2.0) < 1.0 ? 1.0 : 0.55;
+    result = vec4(vec3(0.25 + 0.75 * fract(textureAt), 0.35) * shade, vertexDiffuse.a);
+}
+)";
 
 } // namespace xsg

@@ -155,6 +155,15 @@ bool SoOffscreenRenderer::render(SoNode* root, const SoCamera* camera, int width
     return drawn;
 }
 
+bool SoOffscreenRenderer::renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part,
+                                     int width, int height, SoPixels& pixels)
+{
+    m_impl->renderer.setPart(part);
+    const bool drawn = render(root, camera, width, height, pixels);
+    m_impl->renderer.setPart({});
+    return drawn;
+}
+
 const std::string& SoOffscreenRenderer::getErrorText() const
 {
     return m_impl->error;

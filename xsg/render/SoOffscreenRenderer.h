@@ -35,6 +35,9 @@ public:
     /// A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
     /// sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
+    /// The same for a part of a larger picture, which may be larger than OpenGL could draw.
+    bool renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part, int width, int height,
+                    SoPixels& pixels);
     const std::string& getErrorText() const;
 
 private:

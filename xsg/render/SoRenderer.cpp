@@ -14,6 +14,7 @@
 #include <xsg/values/SbTime.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace
 {
@@ -37,6 +38,32 @@ void feedCounters(const SoRenderer::Statistics& frame)
     xsg::feeds.bufferUploads.add(frame.bufferUploads);
     xsg::feeds.bufferBytes.add(frame.uploadedBytes);
     xsg::feeds.textureBytes.add(frame.textureBytes);
+}
+
+// Drawing adds this for each time that a pixel is drawn: dark red at first, then yellow, then white.
+const SbVec4f OverdrawColor(0.25F, 0.08F, 0.03F, 1);
+const SbVec4f EdgeColor(0.04F, 0.04F, 0.04F, 0.75F);
+
+xsg::Shader::Look lookOf(SoRenderer::Shading shading)
+{
+    using Look = xsg::Shader::Look;
+    constexpr Look Looks[] = {Look::Full, Look::Full, Look::Normals, Look::TextureCoordinates, Look::Flat};
+    return Looks[static_cast<int>(shading)];
+}
+
+// From the whole picture to the part of it.
+SbMatrix cropTo(const SoRenderer::Part& part, int width, int height)
+{
+    SbMatrix crop;
+    const auto along = [&crop](int axis, int whole, int first, int size) {
+        crop[axis][axis] = static_cast<float>(whole) / static_cast<float>(size);
+        crop[3][axis] = static_cast<float>(whole - 2 * first - size) / static_cast<float>(size);
+    };
+    if (part.wholeWidth > 0) {
+        along(0, part.wholeWidth, part.left, width);
+        along(1, part.wholeHeight, part.bottom, height);
+    }
+    return crop;
 }
 
 // Whether the matrix mirrors, which turns front faces into back faces.
@@ -84,6 +111,9 @@ public:
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
+    Shading shading = Shading::Full;
+    std::optional<SbPlane> clipPlane;
+    Part part;
     void setHighlight(const std::vector<std::uint64_t>& nodeIds);
     SbColor highlightColor{1, 0.6F, 0.1F};
     float highlightThickness = 2;
@@ -106,7 +136,11 @@ private:
     void drawScene(SoNode* root, const SoCamera* camera, int width, int height);
     void updateList(SoNode* root, const SoCamera* camera);
     SbVec3f eyeOf(const SoCamera& camera) const;
-    EyeView lookThrough(const SoCamera* camera, float aspect);
+    EyeView lookThrough(const SoCamera* camera, int width, int height);
+    bool beginShading();
+    void endShading();
+    void setBlending();
+    void drawEdges();
     void drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum);
     void drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum, const EyeView& eye);
     // What is marked by a line of one thickness.
@@ -170,6 +204,7 @@ bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, i
         return true;
     if (!prepare())
         return false;
+    m_shader.setViewPlane(clipPlane ? &*clipPlane : nullptr);
     m_state.begin(width, height, m_headlights);
     m_pacer.begin();
     clearPicture();
@@ -188,14 +223,18 @@ void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width
     const Uploads before = countUploads();
     updateList(root, camera);
     const xsg::RenderChanges changes = m_updater.takeChanges();
-    const EyeView eye = lookThrough(camera, static_cast<float>(width) / static_cast<float>(height));
+    const EyeView eye = lookThrough(camera, width, height);
     const xsg::Frustum frustum(eye.viewProjection);
     m_shader.use();
     m_shader.setView(eye.viewProjection, eye.eye, width, height);
     m_state.setEdgesOnly(wireframe);
+    const bool isShaded = beginShading();
     drawOpaque(changes, frustum);
-    drawCallbacks(eye, width, height);
+    if (shading != Shading::Overdraw)
+        drawCallbacks(eye, width, height);
     drawTransparent(changes, frustum, eye);
+    if (isShaded)
+        endShading();
     drawHighlight(changes, width, height);
     if (!overlay.isEmpty())
         m_overlayPainter.draw(overlay, eye.viewProjection, width, height, error);
@@ -220,7 +259,9 @@ SoRenderer::Impl::Uploads SoRenderer::Impl::countUploads() const
 
 void SoRenderer::Impl::clearPicture()
 {
-    glClearColor(background[0], background[1], background[2], backgroundOpacity);
+    const bool countsLayers = shading == Shading::Overdraw;
+    const SbColor& ground = countsLayers ? SbColor() : background;
+    glClearColor(ground[0], ground[1], ground[2], countsLayers ? 1.0F : backgroundOpacity);
     glClearDepth(1);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
@@ -246,8 +287,11 @@ SbVec3f SoRenderer::Impl::eyeOf(const SoCamera& camera) const
     return m_list.cameraMatrix.multPoint(camera.position.getValue());
 }
 
-EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
+EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, int width, int height)
 {
+    const bool isWhole = part.wholeWidth <= 0;
+    const float aspect = static_cast<float>(isWhole ? width : part.wholeWidth) /
+                         static_cast<float>(isWhole ? height : part.wholeHeight);
     if (!camera)
         camera = m_list.camera;
     if (!camera) {
@@ -260,9 +304,10 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
     // The identity where the camera stands outside of the scene.
     const SbMatrix& toWorld = m_list.cameraMatrix;
     eye.view = toWorld.inverse().value_or(SbMatrix()) * camera->getViewMatrix();
-    eye.projection = camera->getProjectionMatrix(aspect);
+    const SbMatrix projection = camera->getProjectionMatrix(aspect);
+    eye.projection = isWhole ? projection : projection * cropTo(part, width, height);
     eye.viewProjection = eye.view * eye.projection;
-    const bool isParallel = eye.projection[2][3] == 0;
+    const bool isParallel = projection[2][3] == 0;
     const SbVec3f place = isParallel ? toWorld.multDirection(camera->getDirection()).normalized() * -1.0F
                                      : toWorld.multPoint(camera->position.getValue());
     eye.eye = SbVec4f(place[0], place[1], place[2], isParallel ? 0.0F : 1.0F);
@@ -270,6 +315,61 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, float aspect)
     light.direction = toWorld.multDirection(camera->getDirection()).normalized();
     m_headlights.assign(headlight && !m_list.hasLights ? 1 : 0, light);
     return eye;
+}
+
+// Where OpenGL refuses a program, the scene has its full look.
+bool SoRenderer::Impl::beginShading()
+{
+    const xsg::Shader::Look look = shading == Shading::WithEdges ? xsg::Shader::Look::Flat : lookOf(shading);
+    if (shading == Shading::Full || !m_shader.prepareLook(look, error))
+        return false;
+    m_shader.setLook(lookOf(shading));
+    m_shader.setFlatColor(shading == Shading::Overdraw ? OverdrawColor : EdgeColor);
+    if (shading == Shading::Overdraw) {
+        glDisable(GL_DEPTH_TEST);
+        setBlending();
+    }
+    if (shading == Shading::WithEdges) { // surfaces step back behind their edges
+        glEnable(GL_POLYGON_OFFSET_FILL);
+        glPolygonOffset(1, 1);
+    }
+    return true;
+}
+
+void SoRenderer::Impl::endShading()
+{
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    if (shading == Shading::WithEdges)
+        drawEdges();
+    m_shader.setLook(xsg::Shader::Look::Full);
+    glDisable(GL_BLEND);
+    glEnable(GL_DEPTH_TEST);
+    m_state.setEdgesOnly(wireframe);
+}
+
+void SoRenderer::Impl::setBlending()
+{
+    glEnable(GL_BLEND);
+    if (shading == Shading::Overdraw)
+        glBlendFunc(GL_ONE, GL_ONE);
+    else
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+void SoRenderer::Impl::drawEdges()
+{
+    m_shader.setLook(xsg::Shader::Look::Flat);
+    m_state.setEdgesOnly(true);
+    setBlending();
+    const auto drawTriangles = [this](xsg::InstanceList& instances, const std::vector<xsg::Run>& runs) {
+        instances.forEachPart(runs, [&](const xsg::Run& run) {
+            const xsg::RenderItem& item = instances.getItem(m_list.items, run.first);
+            if (item.geometry->kind == SoGeometry::Kind::Triangles)
+                drawRun(instances, run);
+        });
+    };
+    drawTriangles(m_opaque, m_visible);
+    drawTriangles(m_transparent, m_transparent.getBatches());
 }
 
 void SoRenderer::Impl::drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum)
@@ -325,8 +425,7 @@ void SoRenderer::Impl::drawTransparent(const xsg::RenderChanges& changes, const 
     m_transparent.update(m_order, items, changes);
     if (m_transparent.isEmpty())
         return;
-    glEnable(GL_BLEND);
-    glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    setBlending();
     glDepthMask(GL_FALSE);
     for (const xsg::Run& batch : m_transparent.getBatches()) {
         drawBothSides(m_transparent, batch);
@@ -500,6 +599,21 @@ void SoRenderer::setBackground(const SbColor& color, float opacity)
 {
     m_impl->background = color;
     m_impl->backgroundOpacity = opacity;
+}
+
+void SoRenderer::setPart(const Part& part)
+{
+    m_impl->part = part;
+}
+
+void SoRenderer::setShading(Shading shading)
+{
+    m_impl->shading = shading;
+}
+
+void SoRenderer::setClipPlane(const SbPlane* plane)
+{
+    m_impl->clipPlane = plane ? std::optional<SbPlane>(*plane) : std::nullopt;
 }
 
 void SoRenderer::setWireframe(bool on)

@@ -5,6 +5,7 @@
 #include <xsg/render/SoOverlay.h>
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbMatrix.h>
+#include <xsg/values/SbPlane.h>
 #include <xsg/values/XsgExport.h>
 
 #include <cstdint>
@@ -36,6 +37,15 @@ public:
     /// pixels. False where OpenGL cannot draw it; getErrorText() then says why in one sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
     const std::string& getErrorText() const;
+    /// Where in a larger picture the pixels of the next render() lie, so that a picture can be drawn in
+    /// parts.
+    struct Part {
+        int wholeWidth = 0; // 0: what is drawn is the whole picture
+        int wholeHeight = 0;
+        int left = 0;
+        int bottom = 0;
+    };
+    void setPart(const Part& part);
 
     /// Frees all OpenGL objects; the next render() makes them again. Call it before the context is destroyed.
     void releaseGL();
@@ -43,6 +53,14 @@ public:
     void setBackground(const SbColor& color, float opacity = 1);
     /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
+    /// What of the scene is shown: its look, its look with the edges of all triangles on top, where surfaces
+    /// face, how textures lie on them, or how often each pixel is drawn (brighter for each time, without
+    /// hiding anything).
+    enum class Shading { Full, WithEdges, Normals, TextureCoordinates, Overdraw };
+    void setShading(Shading shading);
+    /// Cuts the scene by this plane too, in world coordinates: what lies on its normal's side stays. Null for
+    /// none.
+    void setClipPlane(const SbPlane* plane);
     /// Marks this node and what is below it with a line around it; null for none. Where something else covers
     /// it, the line is weaker. The node may be destroyed at any time.
     void setHighlight(const SoNode* node);
