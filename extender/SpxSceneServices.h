@@ -41,6 +41,14 @@ public:
     /// command of a step names it.
     virtual void executeCommand(SpxCommand* command, const QString& stepName) = 0;
 
+    /// Selects all of these instead of what is selected; the last is the one that editors show. As with one,
+    /// SpxServices::selectedNodeChanged tells it, with the last one, and again whenever others join or go.
+    virtual void selectNodes(const QList<SoFieldContainer*>& nodes) = 0;
+    /// Each in that place of perhaps several. Paths that do not stand in the scene are left out.
+    virtual void selectPaths(const QList<SoPath>& paths) = 0;
+    /// Of the selected nodes, in the same order, those that stand in the scene.
+    virtual QList<SoPath> getSelectedPaths() const = 0;
+
 protected:
     SpxSceneServices() = default;
     virtual ~SpxSceneServices();

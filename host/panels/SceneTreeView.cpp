@@ -84,7 +84,7 @@ SceneTreeView::SceneTreeView(QWidget* parent)
     setItemDelegate(new MarkingDelegate(*this));
     setUniformRowHeights(true);
     setAlternatingRowColors(false);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(ExtendedSelection);
     setIndentation(16);
     setExpandsOnDoubleClick(true);
     setFrameShape(NoFrame);
@@ -95,7 +95,7 @@ SceneTreeView::SceneTreeView(QWidget* parent)
 
 void SceneTreeView::setScene(SoNode* root)
 {
-    if (currentIndex().isValid())
+    if (currentIndex().isValid() || selectionModel()->hasSelection())
         dropSelection();
     m_expandedBefore.clear();
     m_model->setRoot(root);
@@ -104,15 +104,52 @@ void SceneTreeView::setScene(SoNode* root)
 
 void SceneTreeView::showNode(const SoNode* node)
 {
-    if (m_model->nodeAt(currentIndex()) == node)
+    const QModelIndexList rows = selectedRows();
+    if (rows.size() == 1 && m_model->nodeAt(rows.first()) == node)
         return;
-    const QScopedValueRollback<bool> quiet(m_quiet, true);
     const QModelIndex index = m_model->indexOf(node);
-    setCurrentIndex(index);
-    if (index.isValid())
-        scrollTo(index);
-    else
-        clearSelection();
+    selectRows(index.isValid() ? QModelIndexList{index} : QModelIndexList());
+}
+
+void SceneTreeView::showPaths(const QList<SoPath>& paths)
+{
+    QModelIndexList rows;
+    for (const SoPath& path : paths) {
+        const QModelIndex index = m_model->indexOf(path);
+        if (index.isValid())
+            rows.append(index);
+    }
+    if (rows != selectedRows())
+        selectRows(rows);
+}
+
+// Without the key that is held down meanwhile.
+void SceneTreeView::selectOnly(const QModelIndex& index)
+{
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void SceneTreeView::selectRows(const QModelIndexList& rows)
+{
+    const QScopedValueRollback<bool> quiet(m_quiet, true);
+    m_order.clear();
+    if (rows.isEmpty())
+        return dropSelection();
+    QItemSelection selection;
+    for (const QModelIndex& row : rows)
+        selection.append(QItemSelectionRange(row, row.siblingAtColumn(SceneTreeModel::ColumnCount - 1)));
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(rows.last(), QItemSelectionModel::NoUpdate);
+    std::copy(rows.begin(), rows.end(), std::back_inserter(m_order));
+    scrollTo(rows.last());
+}
+
+QModelIndexList SceneTreeView::selectedRows() const
+{
+    QModelIndexList rows;
+    std::copy_if(m_order.begin(), m_order.end(), std::back_inserter(rows),
+                 [](const QModelIndex& row) { return row.isValid(); });
+    return rows;
 }
 
 void SceneTreeView::selectPath(const SoPath& path)
@@ -120,7 +157,7 @@ void SceneTreeView::selectPath(const SoPath& path)
     const QModelIndex index = m_model->indexOf(path);
     if (!index.isValid())
         return dropSelection();
-    setCurrentIndex(index);
+    selectOnly(index);
     scrollTo(index);
 }
 
@@ -129,13 +166,22 @@ void SceneTreeView::selectNode(const SoNode* node)
     const QModelIndex index = m_model->indexOf(node);
     if (!index.isValid())
         return;
-    setCurrentIndex(index);
+    selectOnly(index);
     scrollTo(index);
 }
 
 SoPath SceneTreeView::getSelectedPath() const
 {
-    return pathAt(currentIndex());
+    const QModelIndexList rows = selectedRows();
+    return rows.isEmpty() ? SoPath() : pathAt(rows.last());
+}
+
+QList<SoPath> SceneTreeView::getSelectedPaths() const
+{
+    QList<SoPath> paths;
+    for (const QModelIndex& row : selectedRows())
+        paths.append(pathAt(row));
+    return paths;
 }
 
 SoPath SceneTreeView::pathAt(QModelIndex index)
@@ -185,12 +231,10 @@ template <class Change>
 void SceneTreeView::keepSelection(Change change)
 {
     const QScopedValueRollback<bool> quiet(m_quiet, true);
-    const SoPath selected = getSelectedPath();
+    const QList<SoPath> selected = getSelectedPaths();
     change();
     expand(m_model->index(0, 0));
-    const QModelIndex index = m_model->indexOf(selected);
-    if (index.isValid())
-        setCurrentIndex(index);
+    showPaths(selected);
 }
 
 std::vector<SoPath> SceneTreeView::expandedPaths() const
@@ -218,19 +262,44 @@ void SceneTreeView::dropSelection()
 void SceneTreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QTreeView::selectionChanged(selected, deselected);
-    if (!m_quiet)
-        emit nodeSelected(selected.isEmpty() ? nullptr : m_model->nodeAt(selected.indexes().first()));
+    if (m_quiet)
+        return;
+    followOrder(selected);
+    const QModelIndexList rows = selectedRows();
+    emit nodeSelected(rows.isEmpty() ? nullptr : m_model->nodeAt(rows.last()));
+}
+
+// The row that the user acted on is the last.
+void SceneTreeView::followOrder(const QItemSelection& selected)
+{
+    const auto isOut = [this](const QModelIndex& row) { return !selectionModel()->isSelected(row); };
+    m_order.erase(std::remove_if(m_order.begin(), m_order.end(), isOut), m_order.end());
+    for (const QItemSelectionRange& range : selected) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            m_order.append(m_model->index(row, SceneTreeModel::NameColumn, range.parent()));
+    }
+    const int current = m_order.indexOf(currentIndex().siblingAtColumn(SceneTreeModel::NameColumn));
+    if (current >= 0)
+        m_order.move(current, m_order.size() - 1);
 }
 
 void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
 {
-    // No neighbour is selected in place of a removed row: it must not be edited by accident.
-    for (QModelIndex at = currentIndex(); at.isValid(); at = at.parent()) {
-        if (at.parent() == parent && at.row() >= first && at.row() <= last) {
-            dropSelection();
-            break;
-        }
+    const auto isRemoved = [&](QModelIndex at) {
+        while (at.isValid() && (at.parent() != parent || at.row() < first || at.row() > last))
+            at = at.parent();
+        return at.isValid();
+    };
+    // No neighbour becomes current in place of a removed row: it must not be edited by accident.
+    if (isRemoved(currentIndex()))
+        selectionModel()->clearCurrentIndex();
+    QItemSelection removed;
+    for (const QModelIndex& row : selectedRows()) {
+        if (isRemoved(row))
+            removed.select(row, row);
     }
+    if (!removed.isEmpty())
+        selectionModel()->select(removed, QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
     QTreeView::rowsAboutToBeRemoved(parent, first, last);
 }
 

@@ -5,6 +5,8 @@
 
 #include <xsg/actions/SoPath.h>
 
+#include <QList>
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
 #include <functional>
@@ -13,7 +15,7 @@
 namespace scopix
 {
 
-/// Shows the scene's tree and reports which node the user selects in it.
+/// Shows the scene's tree and reports which nodes the user selects in it, any number as in a file manager.
 class SceneTreeView : public QTreeView
 {
     Q_OBJECT
@@ -25,15 +27,21 @@ public:
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
 
-    /// Selects the node's row and expands its parents. A row of the same node that is selected already stays,
-    /// whichever of its places it is. Emits nothing.
+    /// Selects the node's row alone and expands its parents. A row of the same node that is selected already
+    /// stays, whichever of its places it is. Emits nothing.
     void showNode(const SoNode* node);
+    /// Selects these rows alone, as far as they are there; the last is the current one. Emits nothing.
+    void showPaths(const QList<SoPath>& paths);
     /// As if the user had clicked the row at the end of this path, which starts at the root.
     void selectPath(const SoPath& path);
     /// As if the user had clicked the node's row, in the first of its places.
     void selectNode(const SoNode* node);
-    /// From the root to the selected row; empty where none is selected.
+    /// From the root to the row that was selected last; empty where none is selected.
     SoPath getSelectedPath() const;
+    /// In the order in which the rows were selected.
+    QList<SoPath> getSelectedPaths() const;
+    /// To the first of the node's rows; empty where it has none.
+    SoPath pathTo(const SoNode* node) const { return pathAt(m_model->indexOf(node)); }
     /// Expands the node's parents.
     void unfoldTo(const SoNode* node);
     /// Brings the node's row into sight, without selecting it.
@@ -50,7 +58,8 @@ public:
     void showAll();
 
 signals:
-    /// Null when the selected node left the scene; it is still alive then.
+    /// Any change of the selected rows, with the node of the row that was selected last. Null when none is
+    /// left, as when the selected node left the scene; it is still alive then.
     void nodeSelected(SoNode* node);
 
 protected:
@@ -62,6 +71,10 @@ protected:
 private:
     void unfoldAll(const QModelIndex& index);
     void dropSelection();
+    void selectOnly(const QModelIndex& index);
+    void selectRows(const QModelIndexList& rows);
+    void followOrder(const QItemSelection& selected);
+    QModelIndexList selectedRows() const;
     template <class Change>
     void keepSelection(Change change);
     std::vector<SoPath> expandedPaths() const;
@@ -70,6 +83,7 @@ private:
     SceneTreeModel* m_model;
     NodeTest m_isMarked;
     std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
+    QList<QPersistentModelIndex> m_order; // of the selected rows
     bool m_quiet = false;
 };
 

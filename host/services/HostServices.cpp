@@ -29,6 +29,7 @@ HostServices::HostServices()
 {
     connect(&m_selection, &Selection::nodeChanged, this, &SpxServices::selectedNodeChanged);
     connect(&m_selection, &Selection::fieldChanged, this, &SpxServices::selectedFieldChanged);
+    connect(&m_selection, &Selection::changed, this, &HostServices::selectionChanged);
     connect(&m_history, &UndoHistory::failed, this, &HostServices::commandFailed);
     connect(&m_history, &UndoHistory::lost, this, &HostServices::stepsLost);
     m_history.setEdited([this] { return currentContext(); },
@@ -65,12 +66,11 @@ UndoHistory::CommandContext HostServices::currentContext() const
     return context;
 }
 
-// Editors show the selected field, or fields of the selected node.
+// Editors show the selected field, or fields of the selected nodes.
 bool HostServices::isEdited(const SoField& field) const
 {
-    const SoFieldContainer* container = field.getContainer();
     return &field == m_selection.field() || &field == m_selection.lastField() ||
-           container == m_selection.node() || container == m_selection.lastNode();
+           m_selection.isOrWasSelected(field.getContainer());
 }
 
 QString HostServices::stepText() const
@@ -83,13 +83,6 @@ QString HostServices::stepText() const
         return type.isEmpty() ? tr("Change") : tr("Change %1").arg(type);
     const QString name = text(field->getName());
     return tr("Change %1").arg(type.isEmpty() ? name : type + QLatin1Char('.') + name);
-}
-
-template <class Change>
-void HostServices::changeSelection(Change change)
-{
-    const UserInput::Scope scope(m_history.input(), UserInput::Scope::User);
-    change();
 }
 
 void HostServices::select(SoFieldContainer* node)
@@ -114,7 +107,7 @@ void HostServices::tellSelectionAgain()
 
 void HostServices::containerDies(SoFieldContainer* container)
 {
-    if (container == m_selection.node() || container == containerOf(m_selection.field()))
+    if (m_selection.isOrWasSelected(container) || container == containerOf(m_selection.field()))
         changeSelection([&] { m_selection.forget(container); });
     else
         m_selection.forget(container);

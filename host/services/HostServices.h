@@ -22,8 +22,8 @@ public:
     HostServices();
     ~HostServices() override;
 
-    /// As in Selection; reported by the signals of SpxServices. Whoever changes it, an editor that then
-    /// applies what was typed edits for the user.
+    /// As in Selection; reported by the signals of SpxServices, and then by selectionChanged(). Whoever
+    /// changes it, an editor that then applies what was typed edits for the user.
     void select(SoFieldContainer* node);
     void select(SoField* field);
     void clearSelection();
@@ -42,11 +42,16 @@ public:
     void selectField(SoField* field) override { select(field); }
     void selectPath(const SoPath& path) override;
     void executeCommand(SpxCommand* command, const QString& stepName) override;
+    void selectNodes(const QList<SoFieldContainer*>& nodes) override;
+    void selectPaths(const QList<SoPath>& paths) override;
+    QList<SoPath> getSelectedPaths() const override;
 
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
 signals:
+    /// Any change of what is selected, or the same once more.
+    void selectionChanged();
     /// As UndoHistory::failed and lost.
     void commandFailed(const QString& sentence);
     void stepsLost(const QString& sentence);
@@ -55,8 +60,14 @@ private:
     UndoHistory::CommandContext currentContext() const;
     QString stepText() const;
     bool isEdited(const SoField& field) const;
+    bool isInScene(const std::vector<SoNode*>& way) const;
+    SoPath pathOf(const Selection::Place& place) const;
     template <class Change>
-    void changeSelection(Change change);
+    void changeSelection(Change change)
+    {
+        const UserInput::Scope scope(m_history.input(), UserInput::Scope::User);
+        change();
+    }
     void containerDies(SoFieldContainer* container);
     static void dyingCallback(void* services, SoFieldContainer* container);
 

@@ -6,8 +6,7 @@
 namespace scopix
 {
 
-/// Where the services find the scene that is open, and the place that is selected in it. By default there is
-/// none.
+/// Where the services find the scene that is open, and places in it. By default there is none.
 class SceneSource
 {
 public:
@@ -18,7 +17,8 @@ public:
 
     virtual SoNode* sceneRoot() const { return nullptr; }
     virtual SoPath selectedPath() const { return {}; }
-    virtual void selectPath(const SoPath& /*path*/) {}
+    /// To the first of the node's places; empty where it has none.
+    virtual SoPath pathTo(const SoNode* /*node*/) const { return {}; }
 };
 
 } // namespace scopix

@@ -52,7 +52,7 @@ SceneView::~SceneView() = default;
 void SceneView::setScene(SoNode* root)
 {
     m_root = SoRef<SoNode>(root);
-    m_highlight = 0;
+    m_highlight.clear();
     m_sensor.attach(root);
     m_camera.setScene(root);
     redraw();
@@ -136,10 +136,17 @@ void SceneView::hideEvent(QHideEvent* /*event*/)
 
 void SceneView::setHighlight(const SoNode* node)
 {
-    const std::uint64_t number = node ? node->getNodeId() : 0;
-    if (number == m_highlight)
+    setHighlight(node ? QList<const SoNode*>{node} : QList<const SoNode*>());
+}
+
+void SceneView::setHighlight(const QList<const SoNode*>& nodes)
+{
+    std::vector<std::uint64_t> numbers;
+    for (const SoNode* node : nodes)
+        numbers.push_back(node->getNodeId());
+    if (numbers == m_highlight)
         return;
-    m_highlight = number;
+    m_highlight.swap(numbers);
     redraw();
 }
 
@@ -160,7 +167,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     renderer.setWireframe(m_wireframe);
-    renderer.setHighlightedNumber(m_highlight);
+    renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
     return {m_root.get(), &m_camera.get()};

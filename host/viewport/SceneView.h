@@ -8,8 +8,12 @@
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
+#include <QList>
 #include <QPoint>
 #include <QWidget>
+
+#include <cstdint>
+#include <vector>
 
 class QLabel;
 class SoRenderer;
@@ -37,7 +41,10 @@ public:
 
     /// Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
-    /// Marks the node in the picture; null marks none. The node may be destroyed at any time.
+    /// Marks the nodes in the picture, the last, which is the current one, stronger than the others. They may
+    /// be destroyed at any time.
+    void setHighlight(const QList<const SoNode*>& nodes);
+    /// The node alone; null marks none.
     void setHighlight(const SoNode* node);
 
     /// Edges instead of surfaces.
@@ -100,7 +107,7 @@ private:
 
     SoRef<SoNode> m_root;
     ViewCamera m_camera;
-    std::uint64_t m_highlight = 0; // a node's number: the node may go while it is marked
+    std::vector<std::uint64_t> m_highlight; // nodes' numbers: a node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
     ViewSurface* m_surface;

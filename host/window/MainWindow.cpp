@@ -285,7 +285,7 @@ void MainWindow::makeToolBar()
 void MainWindow::connectSelection()
 {
     connect(m_tree, &SceneTreeView::nodeSelected, this,
-            [this](SoNode* node) { m_services.select(static_cast<SoFieldContainer*>(node)); });
+            [this] { m_services.selectPaths(m_tree->getSelectedPaths()); });
     connect(m_fields, &FieldListView::fieldSelected, this,
             [this](SoField* field) { m_services.select(field); });
     connect(m_view, &SceneView::picked, m_tree, &SceneTreeView::selectPath);
@@ -302,11 +302,15 @@ void MainWindow::find()
 
 void MainWindow::showNode(SoFieldContainer* container)
 {
-    auto* node = dynamic_cast<SoNode*>(container);
-    m_tree->showNode(node);
+    m_tree->showPaths(m_services.getSelectedPaths());
     // The highlight would cover the very look that the user tunes in a material.
-    const bool canBeSeen = node && (node->asGroup() || node->asShape());
-    m_view->setHighlight(canBeSeen ? node : nullptr);
+    QList<const SoNode*> seen;
+    for (SoFieldContainer* each : m_services.getSelectedNodes()) {
+        auto* node = dynamic_cast<SoNode*>(each);
+        if (node && (node->asGroup() || node->asShape()))
+            seen.append(node);
+    }
+    m_view->setHighlight(seen);
     m_fields->setContainer(container);
 }
 
@@ -406,9 +410,9 @@ SoPath MainWindow::selectedPath() const
     return m_tree->getSelectedPath();
 }
 
-void MainWindow::selectPath(const SoPath& path)
+SoPath MainWindow::pathTo(const SoNode* node) const
 {
-    m_tree->selectPath(path);
+    return m_tree->pathTo(node);
 }
 
 void MainWindow::setTheme(Theme theme)

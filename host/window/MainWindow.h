@@ -46,7 +46,7 @@ public:
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
-    void selectPath(const SoPath& path) override;
+    SoPath pathTo(const SoNode* node) const override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;

@@ -83,7 +83,7 @@ public:
     SbColor background{0, 0, 0};
     float backgroundOpacity = 1;
     bool wireframe = false;
-    std::uint64_t highlight = 0; // a node's id
+    void setHighlight(const std::vector<std::uint64_t>& nodeIds);
     SbColor highlightColor{1, 0.6F, 0.1F};
     float highlightThickness = 2;
     bool headlight = true;
@@ -108,8 +108,17 @@ private:
     EyeView lookThrough(const SoCamera* camera, float aspect);
     void drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum);
     void drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum, const EyeView& eye);
+    // What is marked by a line of one thickness.
+    struct Marked {
+        std::vector<std::uint64_t> nodeIds;
+        std::vector<std::uint32_t> items;
+        std::vector<xsg::Run> opaque;
+        bool isOther = false; // than what items are of
+    };
     void drawHighlight(const xsg::RenderChanges& changes, int width, int height);
-    void collectHighlighted(const xsg::RenderChanges& changes);
+    void drawOutline(Marked& marked, const xsg::RenderChanges& changes, int width, int height,
+                     float thickness);
+    void collect(Marked& marked, const xsg::RenderChanges& changes);
     void drawMask(xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
     void drawCallbacks(const EyeView& eye, int width, int height);
     void drawVisible(xsg::InstanceList& instances);
@@ -132,9 +141,8 @@ private:
     std::vector<std::pair<float, std::uint32_t>> m_depths;
     std::vector<std::uint32_t> m_order;
     xsg::Outline m_outline;
-    std::uint64_t m_highlightCollected = 0;
-    std::vector<std::uint32_t> m_highlighted; // items
-    std::vector<xsg::Run> m_highlightedOpaque;
+    Marked m_current;
+    Marked m_others;
     SoRef<SoPerspectiveCamera> m_ownCamera;
     std::vector<SoLightSource> m_headlights;
     SbVec3f m_sceneEye; // of the scene's own camera
@@ -345,26 +353,48 @@ void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Ru
     }
 }
 
-void SoRenderer::Impl::collectHighlighted(const xsg::RenderChanges& changes)
+void SoRenderer::Impl::setHighlight(const std::vector<std::uint64_t>& nodeIds)
 {
-    const bool isOther = changes.all || highlight != m_highlightCollected;
+    const auto set = [](Marked& marked, std::vector<std::uint64_t> ids) {
+        marked.isOther |= ids != marked.nodeIds;
+        marked.nodeIds.swap(ids);
+    };
+    const auto current = nodeIds.end() - (nodeIds.empty() ? 0 : 1);
+    set(m_others, {nodeIds.begin(), current});
+    set(m_current, {current, nodeIds.end()});
+}
+
+void SoRenderer::Impl::collect(Marked& marked, const xsg::RenderChanges& changes)
+{
+    const bool isOther = std::exchange(marked.isOther, false) || changes.all;
     if (isOther) {
-        m_highlighted.clear();
-        if (highlight != 0)
-            m_list.collectItemsOf(highlight, m_highlighted);
-        m_highlightCollected = highlight;
+        marked.items.clear();
+        for (const std::uint64_t nodeId : marked.nodeIds)
+            m_list.collectItemsOf(nodeId, marked.items);
+        if (marked.nodeIds.size() > 1) { // one may stand below another
+            std::sort(marked.items.begin(), marked.items.end());
+            marked.items.erase(std::unique(marked.items.begin(), marked.items.end()), marked.items.end());
+        }
     }
     if (isOther || changes.orders)
-        m_opaque.findPlaces(m_highlighted, m_highlightedOpaque);
+        m_opaque.findPlaces(marked.items, marked.opaque);
 }
 
 void SoRenderer::Impl::drawHighlight(const xsg::RenderChanges& changes, int width, int height)
 {
-    collectHighlighted(changes);
-    std::vector<xsg::Run> opaque = common(m_highlightedOpaque, m_visible);
+    constexpr float Thinner = 2.0F / 3;
+    drawOutline(m_others, changes, width, height, std::max(1.0F, Thinner * highlightThickness));
+    drawOutline(m_current, changes, width, height, highlightThickness);
+}
+
+void SoRenderer::Impl::drawOutline(Marked& marked, const xsg::RenderChanges& changes, int width, int height,
+                                   float thickness)
+{
+    collect(marked, changes);
+    std::vector<xsg::Run> opaque = common(marked.opaque, m_visible);
     std::vector<xsg::Run> transparent;
-    if (!m_highlighted.empty())
-        m_transparent.findPlaces(m_highlighted, transparent);
+    if (!marked.items.empty())
+        m_transparent.findPlaces(marked.items, transparent);
     if ((opaque.empty() && transparent.empty()) || !m_outline.prepare(width, height, error))
         return;
     m_outline.beginMask();
@@ -373,7 +403,7 @@ void SoRenderer::Impl::drawHighlight(const xsg::RenderChanges& changes, int widt
     m_shader.setPlaceOnly(true);
     drawMask(m_opaque, opaque);
     drawMask(m_transparent, transparent);
-    m_outline.draw(highlightColor, highlightThickness);
+    m_outline.draw(highlightColor, thickness);
     m_shader.use();
     m_shader.setPlaceOnly(false);
 }
@@ -480,12 +510,13 @@ void SoRenderer::setHiding(const SoHiding* hiding)
 
 void SoRenderer::setHighlight(const SoNode* node)
 {
-    m_impl->highlight = node ? node->getNodeId() : 0;
+    setHighlightedNumbers(node ? std::vector<std::uint64_t>{node->getNodeId()}
+                               : std::vector<std::uint64_t>());
 }
 
-void SoRenderer::setHighlightedNumber(std::uint64_t nodeId)
+void SoRenderer::setHighlightedNumbers(const std::vector<std::uint64_t>& nodeIds)
 {
-    m_impl->highlight = nodeId;
+    m_impl->setHighlight(nodeIds);
 }
 
 void SoRenderer::setHighlightThickness(float pixels)

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 class SoCamera;
 class SoHiding;
@@ -48,8 +49,9 @@ public:
     /// Marks this node and what is below it with a line around it; null for none. Where something else covers
     /// it, the line is weaker. The node may be destroyed at any time.
     void setHighlight(const SoNode* node);
-    /// The same by SoNode::getNodeId(); 0 for none.
-    void setHighlightedNumber(std::uint64_t nodeId);
+    /// Several, by SoNode::getNodeId(). The line around the last one is as thick as is set, around the others
+    /// two thirds of that.
+    void setHighlightedNumbers(const std::vector<std::uint64_t>& nodeIds);
     void setHighlightColor(const SbColor& color);
     /// How thick that line is, in pixels: 2 at first, 10 at most. A rim half as thick sets it off from what
     /// is around it.

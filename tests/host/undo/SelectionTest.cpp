@@ -109,4 +109,81 @@ TEST_F(Selecting, ANodeWithAQueuedSelectionMayBeDestroyed)
     EXPECT_EQ(m_services.selectedNode(), m_complexity.get());
 }
 
+TEST_F(Selecting, SeveralTellTheLastAndEachChangeOfTheOthers)
+{
+    const SoRef<SoMaterial> third(new SoMaterial);
+    int changes = 0;
+    QObject::connect(&m_services, &HostServices::selectionChanged, [&changes] { ++changes; });
+    m_services.selectNodes({m_material.get(), m_complexity.get()});
+    EXPECT_EQ(take(), (Log{"node Complexity"}));
+    m_services.selectNodes({m_material.get(), third.get(), m_complexity.get()});
+    EXPECT_EQ(take(), (Log{"node Complexity"}));
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(m_services.getSelectedNodes(),
+              (QList<SoFieldContainer*>{m_material.get(), third.get(), m_complexity.get()}));
+    m_services.select(&m_complexity->value);
+    EXPECT_EQ(take(), (Log{"field value"}));
+    EXPECT_EQ(m_services.getSelectedNodes().size(), 3) << "a field of the current node leaves the others";
+    m_services.select(&m_material->transparency);
+    EXPECT_EQ(m_services.getSelectedNodes(), (QList<SoFieldContainer*>{m_material.get()}));
+    EXPECT_EQ(take(), (Log{"field none", "node Material", "field transparency"}));
+}
+
+TEST_F(Selecting, ANodeThatIsNamedTwiceCountsOnce)
+{
+    m_services.selectNodes({m_material.get(), m_complexity.get(), nullptr, m_material.get()});
+    EXPECT_EQ(m_services.getSelectedNodes(),
+              (QList<SoFieldContainer*>{m_complexity.get(), m_material.get()}));
+}
+
+TEST_F(Selecting, WhatDiesDropsOutOfSeveral)
+{
+    auto* first = new SoMaterial;
+    first->ref();
+    auto* last = new SoMaterial;
+    last->ref();
+    m_services.selectNodes({first, m_complexity.get(), last});
+    take();
+    first->unref();
+    EXPECT_EQ(take(), (Log{"node Material"}));
+    EXPECT_EQ(m_services.getSelectedNodes(), (QList<SoFieldContainer*>{m_complexity.get(), last}));
+    m_services.select(&last->transparency);
+    take();
+    last->unref();
+    EXPECT_EQ(take(), (Log{"field none", "node Complexity"})) << "the one before it is the current one";
+    EXPECT_EQ(m_services.selectedNode(), m_complexity.get());
+}
+
+TEST_F(Selecting, ANodeOfAQueuedSelectionOfSeveralMayBeDestroyed)
+{
+    auto* going = new SoMaterial;
+    going->ref();
+    bool answered = false;
+    QObject listener;
+    QObject::connect(&m_services, &SpxServices::selectedNodeChanged, &listener, [&](SoFieldContainer*) {
+        if (std::exchange(answered, true))
+            return;
+        m_services.selectNodes({m_material.get(), going});
+        going->unref();
+    });
+    m_services.select(m_complexity.get());
+    EXPECT_EQ(m_services.getSelectedNodes(), (QList<SoFieldContainer*>{m_material.get()}));
+}
+
+TEST_F(Selecting, WritesOfAllSelectedNodesAreEdits)
+{
+    const SoRef<SoMaterial> second(new SoMaterial);
+    m_services.selectNodes({m_material.get(), second.get()});
+    {
+        const UserInput::Scope scope(m_services.history().input(), UserInput::Scope::User);
+        m_material->shininess.setValue(0.25F);
+        second->shininess.setValue(0.75F);
+    }
+    m_services.history().settle();
+    ASSERT_EQ(m_services.undoStack().count(), 1);
+    m_services.undoStack().undo();
+    EXPECT_EQ(m_material->shininess.getValue(), SoMaterial().shininess.getValue());
+    EXPECT_EQ(second->shininess.getValue(), SoMaterial().shininess.getValue());
+}
+
 } // namespace

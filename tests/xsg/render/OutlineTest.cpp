@@ -102,6 +102,24 @@ TEST_F(Outline, IsAsThickAsAsked)
     }
 }
 
+TEST_F(Outline, IsThinnerAroundAllButTheLastOfSeveral)
+{
+    SoSeparator* some = addSquare(1);
+    SoSeparator* other = addSquare(0.25F, 0.5F, {0, 0, 1});
+    const int edge = firstFrom(draw(200, 200), {255, 255, 255});
+    renderer().getRenderer().setHighlightThickness(6);
+    const auto widthAround = [&](std::vector<std::uint64_t> marked) {
+        renderer().getRenderer().setHighlightedNumbers(marked);
+        const SoPixels pixels = draw(200, 200);
+        EXPECT_NE(at(pixels, 100, 100), Line);
+        return edge - firstFrom(pixels, {255, 255, 255});
+    };
+    EXPECT_NEAR(widthAround({other->getNodeId(), some->getNodeId()}), 9, 1);
+    EXPECT_NEAR(widthAround({some->getNodeId(), other->getNodeId()}), 6, 1);
+    EXPECT_NEAR(widthAround({some->getNodeId(), some->getNodeId()}), 9, 1);
+    EXPECT_EQ(widthAround({}), 0);
+}
+
 TEST_F(Outline, IsWeakerWhereSomethingCoversIt)
 {
     SoSeparator* square = addSquare(1);
