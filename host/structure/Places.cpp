@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "structure/Places.h"
 
-#include <xsg/nodes/base/SoInfo.h>
-
 #include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
@@ -136,20 +134,19 @@ bool isBelow(const SoNode* node, const SoNode* above)
     return false;
 }
 
-bool reachesFollowers(SoNode* node)
+int countPlaces(const SoNode* node, const SoNode* root, int most)
 {
-    std::vector<SoNode*> pending{node};
-    std::unordered_set<const SoNode*> seen;
-    while (!pending.empty()) {
-        SoNode* each = pending.back();
-        pending.pop_back();
-        SoGroup* group = each->asGroup();
-        if (!group && !each->asShape() && each->getTypeId() != SoInfo::getClassTypeId())
-            return true;
-        if (group && !group->isStateScope() && seen.insert(group).second)
-            pending.insert(pending.end(), group->getChildren().begin(), group->getChildren().end());
+    int places = node == root ? 1 : 0;
+    std::unordered_map<const SoNode*, bool> isThere;
+    for (const SoNode* parent : node->getParents()) {
+        const auto [known, isNew] = isThere.try_emplace(parent, false);
+        if (isNew)
+            known->second = isBelow(parent, root);
+        places += known->second ? 1 : 0;
+        if (places >= most)
+            break;
     }
-    return false;
+    return places;
 }
 
 } // namespace scopix

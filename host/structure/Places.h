@@ -23,7 +23,8 @@ bool isInScene(const SoPath& path, const SoNode* root);
 Paths topmost(const Paths& paths, const SoNode* root);
 /// Whether the one is the other, or stands somewhere below it.
 bool isBelow(const SoNode* node, const SoNode* above);
-/// Whether what the node sets reaches the nodes that follow it.
-bool reachesFollowers(SoNode* node);
+/// How often the node stands below the root, a group that is shared counting once; no more than `most` are
+/// counted. Places that only the undo history knows do not count.
+int countPlaces(const SoNode* node, const SoNode* root, int most = 1000);
 
 } // namespace scopix

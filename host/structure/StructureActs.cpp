@@ -6,6 +6,7 @@
 #include "text/NodeText.h"
 
 #include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/groups/SoSwitch.h>
 
 #include <QCoreApplication>
 
@@ -169,11 +170,6 @@ SoPath planAbove(StructurePlan& plan, const SoPath& path, SoNode* node)
     return extended(extended(to, separator.get()), node);
 }
 
-bool standsInSeveralPlaces(const SoNode& node)
-{
-    return node.getParents().size() > 1;
-}
-
 QString wordFor(Transfer how)
 {
     return how == Transfer::Move ? tr("Move") : how == Transfer::Copy ? tr("Copy") : tr("Share");
@@ -308,7 +304,7 @@ Act makeUnique(const Paths& paths)
     Once once;
     for (const SoPath& path : all) {
         SoNode* node = path.getTail();
-        if (!standsInSeveralPlaces(*node))
+        if (countPlaces(node, path.getHead(), 2) < 2)
             return refused(tr("%1 stands in one place only, and is its own already.").arg(quoted(*node)));
         if (!once(path))
             continue;
@@ -461,6 +457,30 @@ Act moveIn(const Paths& paths)
         return refused(
             tr("There is no group before %1 that it could be moved into.").arg(quoted(*first.getTail())));
     return transfer(all, extended(parentPath(first), before), -1, Transfer::Move);
+}
+
+Act switchOff(SoNode* root, const std::vector<SoNode*>& nodes)
+{
+    if (nodes.empty())
+        return refused(tr("Nothing is hidden that could be hidden for good."));
+    StructurePlan plan;
+    for (SoNode* node : nodes) {
+        if (node == root)
+            return refusedRoot({extended({}, root)});
+        const SoRef<SoSwitch> off(new SoSwitch);
+        const std::vector<SoGroup*> parents = node->getParents();
+        for (SoGroup* parent : parents) {
+            const int place = isBelow(parent, root) ? plan.findChild(*parent, node) : -1;
+            if (place >= 0)
+                plan.replace(*parent, place, off.get());
+        }
+        plan.append(*off, node);
+    }
+    Act act = done(plan,
+                   nodes.size() == 1 ? tr("Hide %1 for Good").arg(quoted(*nodes.front()))
+                                     : tr("Hide %1 Nodes for Good").arg(nodes.size()),
+                   {});
+    return act;
 }
 
 } // namespace scopix::structure

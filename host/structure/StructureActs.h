@@ -49,6 +49,8 @@ enum class Transfer { Move, Copy, Share };
 Act transfer(const Paths& paths, const SoPath& group, int index, Transfer how);
 /// Among their siblings: by one place up (-1) or down (1).
 Act reorder(const Paths& paths, int by);
+/// Each in a Switch that shows nothing, wherever it stands.
+Act switchOff(SoNode* root, const std::vector<SoNode*>& nodes);
 /// Behind the group that they stand in.
 Act moveOut(const Paths& paths);
 /// To the end of the group before them.

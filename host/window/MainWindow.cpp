@@ -8,13 +8,17 @@
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
+#include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FileMenu.h"
+#include "window/NodeEditing.h"
+#include "window/NodeMenu.h"
 #include "window/ReloadBar.h"
 
 #include <xsg/actions/SoSearchAction.h>
@@ -82,6 +86,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
+    , m_states(new SceneStates(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -93,6 +98,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeDocks();
     makeFileMenu();
     makeEditMenu();
+    makeNodeMenu();
     makeViewMenu();
     makeHelpMenu();
     makeToolBar();
@@ -193,6 +199,15 @@ void MainWindow::makeEditMenu()
     QAction* find = menu->addAction(svgIcon(QStringLiteral("action-find"), this), tr("&Find in the Scene"),
                                     this, &MainWindow::find, QKeySequence::Find);
     find->setObjectName(QStringLiteral("findAction"));
+}
+
+void MainWindow::makeNodeMenu()
+{
+    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
+    new NodeMenu(*menuBar()->addMenu(tr("&Node")), *m_editing, *m_branchFiles, *m_tree, *m_view);
+    m_tree->setStates(m_states);
+    m_view->setStates(m_states);
 }
 
 void MainWindow::makeViewMenu()
@@ -339,6 +354,7 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 
 void MainWindow::showScene(SoNode* root)
 {
+    m_states->clear();
     m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.

@@ -13,8 +13,11 @@ class SoField;
 namespace scopix
 {
 
+class BranchFiles;
 class FieldListView;
 class HostServices;
+class NodeEditing;
+class SceneStates;
 class UserNotifier;
 class ScenePanel;
 class SceneTreeView;
@@ -56,6 +59,9 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    NodeEditing& getEditing() { return *m_editing; }
+    BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    SceneStates& getStates() { return *m_states; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -70,6 +76,7 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
+    void makeNodeMenu();
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -95,6 +102,9 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    SceneStates* m_states;
+    NodeEditing* m_editing = nullptr;
+    BranchFiles* m_branchFiles = nullptr;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
