@@ -8,6 +8,7 @@
 
 #include <QFont>
 #include <QIcon>
+#include <QMimeData>
 #include <QWidget>
 
 #include <algorithm>
@@ -257,6 +258,8 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return index.column() == TypeColumn ? type : nodeText(node);
+    case Qt::EditRole:
+        return toQString(node.getName());
     case Qt::ToolTipRole:
         return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
@@ -283,6 +286,45 @@ void SceneTreeModel::sceneChanged(void* self, SoSensor* sensor)
     // A dragged slider changes fields thousands of times; rows only follow children and names.
     if (static_cast<SoNodeSensor*>(sensor)->isStructureChanged())
         static_cast<SceneTreeModel*>(self)->followScene();
+}
+
+void SceneTreeModel::followNow()
+{
+    if (m_root)
+        followScene();
+}
+
+Qt::ItemFlags SceneTreeModel::flags(const QModelIndex& index) const
+{
+    const SoNode* node = nodeAt(index);
+    if (!node)
+        return Qt::NoItemFlags;
+    const bool isName = index.column() == NameColumn;
+    const bool isGroup = const_cast<SoNode*>(node)->asGroup() != nullptr;
+    return QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled |
+           (isName ? Qt::ItemIsEditable : Qt::NoItemFlags) |
+           (isGroup ? Qt::ItemIsDropEnabled : Qt::NoItemFlags);
+}
+
+bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const SoNode* node = nodeAt(index);
+    if (!node || role != Qt::EditRole || value.toString() == toQString(node->getName()))
+        return false;
+    emit nameEntered(index, value.toString());
+    return true;
+}
+
+Qt::DropActions SceneTreeModel::supportedDropActions() const
+{
+    return Qt::MoveAction | Qt::CopyAction | Qt::LinkAction;
+}
+
+bool SceneTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction /*action*/, int /*row*/,
+                                     int /*column*/, const QModelIndex& parent) const
+{
+    const SoNode* group = nodeAt(parent);
+    return data->hasText() && group && const_cast<SoNode*>(group)->asGroup();
 }
 
 void SceneTreeModel::followScene()

@@ -44,6 +44,8 @@ public:
     void showAll();
     bool isShowingAll() const { return !m_shown; }
 
+    /// The rows are as the scene is now, without waiting for the sensor queue.
+    void followNow();
     /// Null for an invalid index.
     SoNode* nodeAt(const QModelIndex& index) const;
     /// The first place where the node stands below the root, or an invalid index. Looks upwards from the
@@ -59,6 +61,16 @@ public:
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Only tells what was entered: whoever listens renames.
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::DropActions supportedDropActions() const override;
+    QStringList mimeTypes() const override { return {QStringLiteral("text/plain")}; }
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+
+signals:
+    void nameEntered(const QModelIndex& index, const QString& name);
 
 private:
     struct Item;

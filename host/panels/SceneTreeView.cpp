@@ -2,6 +2,8 @@
 #include "panels/SceneTreeView.h"
 
 #include "panels/SceneTreeModel.h"
+#include "panels/TreeRowDelegate.h"
+#include "structure/SceneStates.h"
 
 #include <xsg/actions/SoPath.h>
 #include <xsg/errors/SoError.h>
@@ -10,7 +12,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <vector>
@@ -46,48 +47,29 @@ int countLevels(SoNode* node)
     return AllLevels;
 }
 
-/// Draws the rows that are marked bold, on a tint of the colour of selections.
-class MarkingDelegate : public QStyledItemDelegate
-{
-public:
-    explicit MarkingDelegate(SceneTreeView& view)
-        : QStyledItemDelegate(&view)
-        , m_view(view)
-    {
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (!m_view.isMarked(m_view.getModel().nodeAt(index)))
-            return;
-        constexpr int Tint = 70; // of 255: the text stays legible on it
-        QColor colour = option->palette.color(QPalette::Highlight);
-        colour.setAlpha(Tint);
-        option->backgroundBrush = colour;
-        option->font.setBold(true);
-    }
-
-private:
-    const SceneTreeView& m_view;
-};
-
 } // namespace
 
 SceneTreeView::SceneTreeView(QWidget* parent)
     : QTreeView(parent)
     , m_model(new SceneTreeModel(this))
+    , m_rows(new TreeRowDelegate(*this))
 {
     setObjectName(QStringLiteral("sceneTree"));
     setModel(m_model);
-    setItemDelegate(new MarkingDelegate(*this));
+    setItemDelegate(m_rows);
     setUniformRowHeights(true);
     setAlternatingRowColors(false);
     setSelectionMode(ExtendedSelection);
     setIndentation(16);
     setExpandsOnDoubleClick(true);
     setFrameShape(NoFrame);
+    setEditTriggers(NoEditTriggers);
+    setDragDropMode(DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    connect(m_model, &SceneTreeModel::nameEntered, this,
+            [this](const QModelIndex& index, const QString& name) { emit nameEntered(pathAt(index), name); });
+    connect(m_rows, &TreeRowDelegate::eyeClicked, this,
+            [this](const QModelIndex& index) { emit eyeClicked(pathAt(index)); });
     header()->setStretchLastSection(true);
     header()->setMinimumSectionSize(60);
     header()->setSectionsMovable(false);
@@ -192,6 +174,36 @@ SoPath SceneTreeView::pathAt(QModelIndex index)
     SoPath path;
     std::for_each(upwards.rbegin(), upwards.rend(), [&path](SoNode* node) { path.append(node); });
     return path;
+}
+
+void SceneTreeView::setStates(const SceneStates* states)
+{
+    m_states = states;
+    connect(states, &SceneStates::changed, viewport(), qOverload<>(&QWidget::update));
+}
+
+bool SceneTreeView::isOutOfSight(const QModelIndex& index) const
+{
+    if (!m_states || m_states->getHiding().isEmpty())
+        return false;
+    const SoHiding& hiding = m_states->getHiding();
+    bool isIsolated = !hiding.isIsolating();
+    for (QModelIndex at = index; at.isValid(); at = at.parent()) {
+        const SoNode* node = m_model->nodeAt(at);
+        if (hiding.isHidden(node))
+            return true;
+        isIsolated = isIsolated || hiding.isIsolated(node);
+    }
+    return !isIsolated;
+}
+
+void SceneTreeView::editName()
+{
+    const QModelIndex index = currentIndex().siblingAtColumn(SceneTreeModel::NameColumn);
+    if (!index.isValid())
+        return;
+    scrollTo(index);
+    edit(index);
 }
 
 void SceneTreeView::unfoldTo(const SoNode* node)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/SceneView.h"
 
+#include "structure/SceneStates.h"
 #include "theme/Theme.h"
 #include "viewport/ViewSurface.h"
 
@@ -89,6 +90,13 @@ void SceneView::removeTool(ViewTool* tool)
 ViewSight SceneView::getSight() const
 {
     return {m_camera.get(), QSizeF(size())};
+}
+
+void SceneView::setStates(const SceneStates* states)
+{
+    m_states = states;
+    m_pickAction.setHiding(&states->getUntouchable());
+    connect(states, &SceneStates::changed, this, &SceneView::redraw);
 }
 
 void SceneView::setWireframe(bool on)
@@ -200,6 +208,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     setUp(renderer, m_wireframe, m_shading, m_clipPlane);
+    renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));

@@ -26,6 +26,7 @@ class QLabel;
 namespace scopix
 {
 
+class SceneStates;
 class ViewSurface;
 struct ViewContent;
 
@@ -51,6 +52,10 @@ public:
     void setHighlight(const QList<const SoNode*>& nodes);
     /// The node alone; null marks none.
     void setHighlight(const SoNode* node);
+
+    /// What is hidden is not shown and not picked, and what is locked is not picked; it must outlive the
+    /// view.
+    void setStates(const SceneStates* states);
 
     /// Edges instead of surfaces.
     void setWireframe(bool on);
@@ -169,6 +174,7 @@ private:
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;
+    const SceneStates* m_states = nullptr;
     ViewSurface* m_surface;
     ViewTools m_tools;
     QLabel* m_statistics;

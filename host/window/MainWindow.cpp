@@ -10,16 +10,20 @@
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
+#include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
 #include "window/PictureActs.h"
+#include "window/NodeEditing.h"
+#include "window/NodeMenu.h"
 #include "window/ReloadBar.h"
 #include "window/ViewPoints.h"
 #include "window/ViewActs.h"
@@ -91,6 +95,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_view(new SceneView)
     , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
     , m_handles(new HandleTool(services, *m_view))
+    , m_states(new SceneStates(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -102,6 +107,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeDocks();
     makeFileMenu();
     makeEditMenu();
+    makeNodeMenu();
     makeHandles();
     makeViewMenu();
     makeHelpMenu();
@@ -208,12 +214,22 @@ void MainWindow::makeEditMenu()
     find->setObjectName(QStringLiteral("findAction"));
 }
 
+void MainWindow::makeNodeMenu()
+{
+    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
+    m_nodeMenu = menuBar()->addMenu(tr("&Node"));
+    new NodeMenu(*m_nodeMenu, *m_editing, *m_branchFiles, *m_tree, *m_view);
+    m_tree->setStates(m_states);
+    m_view->setStates(m_states);
+}
+
 void MainWindow::makeHandles()
 {
     m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
-    QMenu* menu = menuBar()->addMenu(tr("&Node"));
-    menu->addActions(m_handleActions->getModes());
-    menu->addAction(m_handleActions->getOwnAxes());
+    m_nodeMenu->addSeparator();
+    m_nodeMenu->addActions(m_handleActions->getModes());
+    m_nodeMenu->addAction(m_handleActions->getOwnAxes());
     connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
 }
 
@@ -386,6 +402,7 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 
 void MainWindow::showScene(SoNode* root)
 {
+    m_states->clear();
     m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.

@@ -15,12 +15,15 @@ class SoField;
 namespace scopix
 {
 
+class BranchFiles;
 class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
 class PictureActs;
 class HostServices;
+class NodeEditing;
+class SceneStates;
 class UserNotifier;
 class ViewActs;
 class ScenePanel;
@@ -70,6 +73,9 @@ public:
     SceneView& getView() { return *m_view; }
     ViewPoints& getViewPoints() { return *m_viewPoints; }
     HandleTool& getHandles() { return *m_handles; }
+    NodeEditing& getEditing() { return *m_editing; }
+    BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    SceneStates& getStates() { return *m_states; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -84,6 +90,7 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
+    void makeNodeMenu();
     void makeHandles();
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
@@ -115,10 +122,14 @@ private:
     HelpWindow* m_help = nullptr; // as soon as help is asked for
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
+    SceneStates* m_states;
+    NodeEditing* m_editing = nullptr;
+    BranchFiles* m_branchFiles = nullptr;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
     QMenu* m_editMenu = nullptr;
+    QMenu* m_nodeMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
