@@ -35,6 +35,9 @@ public:
     /// A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
     /// sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
+    /// As SoRenderer::renderPart(); the picture is there when it is finished.
+    SoRenderer::Progress renderPart(SoNode* root, const SoCamera* camera, int width, int height,
+                                    std::chrono::steady_clock::time_point until, SoPixels& pixels);
     const std::string& getErrorText() const;
 
 private:
