@@ -6,6 +6,7 @@
 #include "services/HostServices.h"
 #include "support/SetText.h"
 #include "support/UserNotifier.h"
+#include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 #include "world_scene.h"
 
@@ -107,8 +108,12 @@ public:
         m_window.openFile(path);
         runUntil([&] { return m_opened > before; });
         m_beat.end("  what was open before goes");
-        turns(20);
-        m_beat.end("  the views have drawn it");
+        drawn();
+        m_beat.end("  the view has drawn it");
+        view().getCamera().position.setValue(view().getCamera().position.getValue() + SbVec3f(1, 0, 0));
+        view().setWireframe(false);
+        drawn();
+        m_beat.end("  and once more, from another place");
     }
     void cancel(const QString& path)
     {
@@ -142,10 +147,20 @@ public:
         autosave.keepNow();
         m_beat.end("  another one, on the disk at once");
         autosave.drop();
-        turns(20); // the view draws what was edited
+        drawn();
     }
 
 private:
+    SceneView& view() { return *m_window.findChild<SceneView*>(); }
+    // Until nothing is left to draw.
+    void drawn()
+    {
+        for (int before = -1; before != view().getDrawCount();) {
+            before = view().getDrawCount();
+            turns(10);
+            runUntil([&] { return !view().isDrawing(); });
+        }
+    }
     void edit(const char* value)
     {
         m_window.selectField(QStringLiteral("Transform"), QStringLiteral("translation"));

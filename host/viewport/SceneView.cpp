@@ -243,6 +243,11 @@ int SceneView::getDrawCount() const
     return m_surface->getDrawCount();
 }
 
+bool SceneView::isDrawing() const
+{
+    return m_surface->isUnfinished();
+}
+
 void SceneView::viewAll()
 {
     m_camera.viewAll();

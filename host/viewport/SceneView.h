@@ -99,6 +99,8 @@ public:
     double getDrawSeconds() const { return m_drawSeconds; }
     /// Pictures drawn so far.
     int getDrawCount() const;
+    /// Whether the picture of a large scene is being drawn, between the user's events.
+    bool isDrawing() const;
     /// Whether the scene may be animated, as it is by default; without that a picture is the same whenever it
     /// is taken.
     void setAnimated(bool on);

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/ViewSurface.h"
 
+#include "viewport/PictureInPieces.h"
 #include "viewport/TextureImageLoader.h"
 
 #include <xsg/render/SoOffscreenRenderer.h>
 
+#include <QBackingStore>
 #include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
+#include <QOpenGLFunctions>
 #include <QOpenGLWidget>
 #include <QPainter>
 #include <QWidget>
@@ -39,16 +43,23 @@ QSize pixelSize(const QWidget& widget)
     return widget.size() * widget.devicePixelRatioF();
 }
 
+// The widget's own buffer takes pictures that are finished; where Qt clears it, the last one is put back.
+QSurfaceFormat widgetFormat()
+{
+    QSurfaceFormat format = surfaceFormat();
+    format.setSamples(0);
+    return format;
+}
+
 class GlSurface : public QOpenGLWidget, public ViewSurface
 {
 public:
     GlSurface(QWidget* parent, Prepare prepare, Drawn drawn)
         : QOpenGLWidget(parent)
-        , m_prepare(std::move(prepare))
-        , m_drawn(std::move(drawn))
+        , m_pictures(*this, std::move(prepare), std::move(drawn))
     {
         m_renderer.setFittingImageReader(TextureImageLoader::read);
-        setFormat(surfaceFormat());
+        setFormat(widgetFormat());
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
     ~GlSurface() override
@@ -58,8 +69,9 @@ public:
     }
 
     QWidget* getWidget() override { return this; }
-    void redraw() override { update(); }
-    int getDrawCount() const override { return m_drawCount; }
+    void redraw() override { m_pictures.redraw(); }
+    int getDrawCount() const override { return m_pictures.getDrawCount(); }
+    bool isUnfinished() const override { return m_pictures.isUnfinished(); }
 
 protected:
     void initializeGL() override
@@ -67,31 +79,76 @@ protected:
         // Comes again with a new context when the widget moves to another window.
         m_contextGoes =
             connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { releaseGl(); });
+        m_pictures.redraw();
+    }
+    // Comes for what is shown in the window, other than paintGL(), which also serves pictures of the widget.
+    void paintEvent(QPaintEvent* event) override
+    {
+        m_mayPause = true;
+        QOpenGLWidget::paintEvent(event);
+        m_mayPause = false;
     }
     void paintGL() override
     {
         const QSize size = pixelSize(*this);
-        const ViewContent content = m_prepare(m_renderer);
-        m_renderer.render(content.root, content.camera, size.width(), size.height());
-        ++m_drawCount;
-        m_drawn(m_renderer);
+        prepareCanvas(size);
+        const bool isNew =
+            m_pictures.draw(m_renderer, size, m_mayPause, [&](const ViewContent& content, auto until) {
+                m_canvas->bind();
+                return m_renderer.renderPart(content.root, content.camera, size.width(), size.height(),
+                                             until);
+            });
+        if (isNew) {
+            if (!m_shown || m_shown->size() != size)
+                m_shown = std::make_unique<QOpenGLFramebufferObject>(size);
+            QOpenGLFramebufferObject::blitFramebuffer(m_shown.get(), m_canvas.get());
+        }
+        QOpenGLFramebufferObject::bindDefault();
+        if (m_pictures.hasPicture())
+            QOpenGLFramebufferObject::blitFramebuffer(nullptr, QRect({}, size), m_shown.get(),
+                                                      QRect({}, m_shown->size()), GL_COLOR_BUFFER_BIT,
+                                                      GL_LINEAR);
+        else
+            clear();
+        QOpenGLFramebufferObject::bindDefault();
     }
 
 private:
+    void prepareCanvas(const QSize& size)
+    {
+        if (m_canvas && m_canvas->size() == size)
+            return;
+        QOpenGLFramebufferObjectFormat format;
+        format.setAttachment(QOpenGLFramebufferObject::Depth);
+        format.setSamples(Samples);
+        m_canvas = std::make_unique<QOpenGLFramebufferObject>(size, format);
+    }
+    void clear()
+    {
+        const QColor ground = m_pictures.getGround();
+        QOpenGLFunctions* gl = context()->functions();
+        gl->glClearColor(static_cast<float>(ground.redF()), static_cast<float>(ground.greenF()),
+                         static_cast<float>(ground.blueF()), 1);
+        gl->glClear(GL_COLOR_BUFFER_BIT);
+    }
     void releaseGl()
     {
         if (!context())
             return;
         makeCurrent();
         m_renderer.releaseGL();
+        m_canvas.reset();
+        m_shown.reset();
+        m_pictures.forget();
         doneCurrent();
     }
 
-    Prepare m_prepare;
-    Drawn m_drawn;
+    PictureInPieces m_pictures;
     SoRenderer m_renderer;
+    std::unique_ptr<QOpenGLFramebufferObject> m_canvas;
+    std::unique_ptr<QOpenGLFramebufferObject> m_shown; // the last one that was finished
     QMetaObject::Connection m_contextGoes;
-    int m_drawCount = 0;
+    bool m_mayPause = false;
 };
 
 class ImageSurface : public QWidget, public ViewSurface
@@ -99,8 +156,7 @@ class ImageSurface : public QWidget, public ViewSurface
 public:
     ImageSurface(QWidget* parent, Prepare prepare, Drawn drawn)
         : QWidget(parent)
-        , m_prepare(std::move(prepare))
-        , m_drawn(std::move(drawn))
+        , m_pictures(*this, std::move(prepare), std::move(drawn))
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_OpaquePaintEvent);
@@ -109,51 +165,47 @@ public:
     }
 
     QWidget* getWidget() override { return this; }
-    void redraw() override
-    {
-        m_valid = false;
-        update();
-    }
-    int getDrawCount() const override { return m_drawCount; }
+    void redraw() override { m_pictures.redraw(); }
+    int getDrawCount() const override { return m_pictures.getDrawCount(); }
+    bool isUnfinished() const override { return m_pictures.isUnfinished(); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
-        const QSize size = pixelSize(*this);
-        if (!m_valid || m_pixels.width != size.width() || m_pixels.height != size.height())
-            draw(size);
+        draw(pixelSize(*this));
         QPainter painter(this);
-        if (m_picture.isNull()) {
-            painter.fillRect(rect(), palette().window());
-            painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                             QString::fromStdString(m_renderer.getErrorText()));
-        } else {
+        if (m_pictures.hasPicture()) {
             painter.drawImage(rect(), m_picture);
+            return;
         }
+        painter.fillRect(rect(), m_pictures.isUnfinished() ? m_pictures.getGround() : palette().window());
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                         QString::fromStdString(m_renderer.getErrorText()));
     }
 
 private:
+    // Whether this goes into the window, and not into a picture of the widget, which has to be complete.
+    bool isForWindow() const
+    {
+        const QBackingStore* store = backingStore();
+        return store && redirected(nullptr) == const_cast<QBackingStore*>(store)->paintDevice();
+    }
     void draw(const QSize& size)
     {
-        const ViewContent content = m_prepare(m_renderer.getRenderer());
-        m_picture = QImage();
-        m_valid = true;
-        ++m_drawCount;
-        if (m_renderer.render(content.root, content.camera, size.width(), size.height(), m_pixels))
+        const bool isNew = m_pictures.draw(
+            m_renderer.getRenderer(), size, isForWindow(), [&](const ViewContent& content, auto until) {
+                return m_renderer.renderPart(content.root, content.camera, size.width(), size.height(), until,
+                                             m_pixels);
+            });
+        if (isNew)
             m_picture = QImage(m_pixels.rgba.data(), m_pixels.width, m_pixels.height, 4 * m_pixels.width,
                                QImage::Format_RGBX8888);
-        m_pixels.width = size.width();
-        m_pixels.height = size.height();
-        m_drawn(m_renderer.getRenderer());
     }
 
-    Prepare m_prepare;
-    Drawn m_drawn;
+    PictureInPieces m_pictures;
     SoOffscreenRenderer m_renderer;
     SoPixels m_pixels; // what m_picture shows
     QImage m_picture;
-    bool m_valid = false;
-    int m_drawCount = 0;
 };
 
 bool makesOpenGL()

@@ -35,6 +35,8 @@ public:
     virtual void redraw() = 0;
     /// Pictures drawn so far.
     virtual int getDrawCount() const = 0;
+    /// Whether a picture was begun that takes some more turns of the event loop.
+    virtual bool isUnfinished() const = 0;
 
     /// `withOpenGL` false takes pictures in any case.
     static ViewSurface* make(QWidget* parent, Prepare prepare, Drawn drawn, bool withOpenGL);

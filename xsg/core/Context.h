@@ -50,6 +50,8 @@ public:
     std::uint64_t lastNotification = 0;
     /// Atomic: nodes may be built on another thread before they join a scene.
     std::atomic<std::uint64_t> lastNodeId{0};
+    /// How often children of a group have changed. Atomic for the same reason.
+    std::atomic<std::uint64_t> structureChanges{0};
     /// Called for each destroyed field that was marked as a trigger; set by the level of the sensors.
     void (*triggerDestroyed)(const SoField* field) = [](const SoField* /*field*/) {};
 

@@ -25,36 +25,33 @@ class DrawPacer
 {
 public:
     /// Indices that are drawn before the first wait. A quarter of a million triangles took some hundred
-    /// megabytes where this was measured.
-    static constexpr std::int64_t MostIndices = 3 * (std::int64_t{1} << 15);
+    /// megabytes where this was measured; a wait for as many as these took some thirty milliseconds.
+    static constexpr std::int64_t MostIndices = 3 * (std::int64_t{1} << 14);
 
     /// Before a frame: looks whether the context draws in software.
     void begin();
     /// After a frame.
     void end();
-    /// Calls `drawPart` with the parts of a call. `corners`: of a primitive; it divides `indexCount`.
-    template <class Draw>
-    void draw(GLsizei indexCount, GLsizei copies, GLsizei corners, const Draw& drawPart)
+    /// Calls `take` with the parts that a call is cut into. `corners`: of a primitive; it divides
+    /// `indexCount`.
+    template <class Take>
+    void cut(GLsizei indexCount, GLsizei copies, GLsizei corners, const Take& take) const
     {
-        if (!m_isSoftware || std::int64_t{indexCount} * copies <= MostIndices) {
-            drawPart(DrawPart{0, indexCount, 0, copies});
-            drawn(std::int64_t{indexCount} * copies);
-            return;
-        }
+        if (!m_isSoftware || std::int64_t{indexCount} * copies <= MostIndices)
+            return take(DrawPart{0, indexCount, 0, copies});
         const auto most = static_cast<GLsizei>(MostIndices / corners * corners);
         const GLsizei together = std::max<GLsizei>(1, most / std::max<GLsizei>(1, indexCount));
         for (GLsizei copy = 0; copy < copies; copy += together) {
             const GLsizei count = std::min(together, copies - copy);
-            for (GLsizei index = 0; index < indexCount; index += most) {
-                const GLsizei part = std::min(most, indexCount - index);
-                drawPart(DrawPart{index, part, copy, count});
-                drawn(std::int64_t{part} * count);
-            }
+            for (GLsizei index = 0; index < indexCount; index += most)
+                take(DrawPart{index, std::min(most, indexCount - index), copy, count});
         }
     }
 
-private:
+    /// After each part.
     void drawn(std::int64_t indices);
+
+private:
     void wait();
 
     bool m_isSoftware = false;

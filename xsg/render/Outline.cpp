@@ -110,9 +110,19 @@ void xsg::Outline::release()
 
 void xsg::Outline::beginMask()
 {
+    goOnWithMask();
+    glClear(GL_DEPTH_BUFFER_BIT);
+}
+
+void xsg::Outline::goOnWithMask()
+{
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &m_outer);
     glBindFramebuffer(GL_FRAMEBUFFER, m_mask.framebuffer.get());
-    glClear(GL_DEPTH_BUFFER_BIT);
+}
+
+void xsg::Outline::endMask()
+{
+    glBindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(m_outer));
 }
 
 void xsg::Outline::draw(const SbColor& color, float thickness)

@@ -23,8 +23,11 @@ public:
     bool prepare(int width, int height, std::string& error);
     void release();
 
-    /// From here on until draw() everything is drawn into the mask.
+    /// Clears the mask. From here on until draw() or endMask() everything is drawn into it.
     void beginMask();
+    /// Back to the framebuffer that was bound before; goOnWithMask() draws into the mask again.
+    void endMask();
+    void goOnWithMask();
     /// Draws the line into the framebuffer that was bound before. `thickness` in pixels.
     void draw(const SbColor& color, float thickness);
 

@@ -7,6 +7,13 @@
 #include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
 
+namespace
+{
+
+constexpr int FewNodes = 20'000; // take no time that anybody would notice
+
+} // namespace
+
 xsg::RenderListBuilder::RenderListBuilder(RenderList& list, GeometryStore& geometry, TextureStore& textures)
     : m_list(list)
     , m_geometry(geometry)
@@ -15,8 +22,10 @@ xsg::RenderListBuilder::RenderListBuilder(RenderList& list, GeometryStore& geome
 {
 }
 
-void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
+void xsg::RenderListBuilder::begin(SoNode* root, const RenderView& view)
 {
+    m_root = root;
+    m_isWalked = false;
     m_list.clear();
     m_geometry.releaseAllUsers();
     m_textures.beginRound(root->getNodeId());
@@ -24,10 +33,27 @@ void xsg::RenderListBuilder::build(SoNode* root, const RenderView& view)
     m_wantedCamera = view.camera;
     resetState();
     state().eye = view.eye;
-    traverse(root);
+    SoTraversal::begin(root);
+}
+
+bool xsg::RenderListBuilder::advance(std::chrono::steady_clock::time_point until)
+{
+    while (!m_isWalked && getNumVisited() < FewNodes)
+        m_isWalked = SoTraversal::advance({});
+    if (!m_isWalked) {
+        m_isWalked = SoTraversal::advance(until);
+        if (!m_isWalked || std::chrono::steady_clock::now() >= until)
+            return false; // the rest takes a piece of its own
+    }
+    finish();
+    return true;
+}
+
+void xsg::RenderListBuilder::finish()
+{
     if (m_list.items.size() == MostItems)
-        reportBound(*root, "has so many copies of shapes that only the first " + std::to_string(MostItems) +
-                               " of them are shown.");
+        reportBound(*m_root, "has so many copies of shapes that only the first " + std::to_string(MostItems) +
+                                 " of them are shown.");
     m_list.isPart = isCut();
     m_geometry.removeUnused();
     m_textures.endRound();

@@ -16,7 +16,11 @@ public:
     static constexpr std::size_t MostItems = 1U << 22U;
 
     RenderListBuilder(RenderList& list, GeometryStore& geometry, TextureStore& textures);
-    void build(SoNode* root, const RenderView& view);
+    /// Begins a list; advance() returns true when it is complete, or else when the time is up, but not before
+    /// a few thousand nodes. Meanwhile the list is of no use, and fields may change, children may not: the
+    /// list is then to be patched, or begun again.
+    void begin(SoNode* root, const RenderView& view);
+    bool advance(std::chrono::steady_clock::time_point until);
     using SoTraversal::getNumVisited;
     using SoTraversal::setHiding;
 
@@ -26,6 +30,10 @@ private:
     void visitShape(SoShape* shape) override;
     void visitProperty(SoNode* node) override;
 
+    void finish();
+
+    SoNode* m_root = nullptr;
+    bool m_isWalked = false;
     RenderList& m_list;
     GeometryStore& m_geometry;
     TextureStore& m_textures;

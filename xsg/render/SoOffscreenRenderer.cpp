@@ -70,6 +70,8 @@ private:
 class SoOffscreenRenderer::Impl
 {
 public:
+    using Progress = SoRenderer::Progress;
+
     ~Impl()
     {
         thread.run([this] {
@@ -79,7 +81,9 @@ public:
         });
     }
 
-    bool draw(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels)
+    // `drawScene` draws all of it, or a part of what is missing.
+    template <class Draw>
+    Progress draw(int width, int height, SoPixels& pixels, const Draw& drawScene)
     {
         GLint largest = 0;
         GLint mostSamples = 0;
@@ -90,19 +94,20 @@ public:
             !m_smooth.prepare(width, height, 0) || !m_drawn.prepare(width, height, used > 1 ? used : 0)) {
             error = "A picture of " + std::to_string(width) + " x " + std::to_string(height) +
                     " pixels cannot be drawn; each side may have 1 to " + std::to_string(largest) + ".";
-            return false;
+            return Progress::Failed;
         }
         m_drawn.bind(GL_FRAMEBUFFER);
-        if (!renderer.render(root, camera, width, height)) {
+        const Progress progress = drawScene();
+        if (progress == Progress::Failed)
             error = renderer.getErrorText();
-            return false;
-        }
+        if (progress != Progress::Finished)
+            return progress;
         m_drawn.bind(GL_READ_FRAMEBUFFER);
         m_smooth.bind(GL_DRAW_FRAMEBUFFER);
         glBlitFramebuffer(0, 0, width, height, 0, 0, width, height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
         m_smooth.bind(GL_FRAMEBUFFER);
         read(width, height, pixels);
-        return true;
+        return Progress::Finished;
     }
 
     int samples = 4;
@@ -149,10 +154,25 @@ void SoOffscreenRenderer::setSamples(int samples)
 bool SoOffscreenRenderer::render(SoNode* root, const SoCamera* camera, int width, int height,
                                  SoPixels& pixels)
 {
+    using Progress = SoRenderer::Progress;
+    const auto drawAll = [&] {
+        return m_impl->renderer.render(root, camera, width, height) ? Progress::Finished : Progress::Failed;
+    };
     m_impl->error = m_impl->thread.getErrorText();
-    bool drawn = false;
-    m_impl->thread.run([&] { drawn = m_impl->draw(root, camera, width, height, pixels); });
-    return drawn;
+    Progress progress = Progress::Failed;
+    m_impl->thread.run([&] { progress = m_impl->draw(width, height, pixels, drawAll); });
+    return progress == Progress::Finished;
+}
+
+SoRenderer::Progress SoOffscreenRenderer::renderPart(SoNode* root, const SoCamera* camera, int width,
+                                                     int height, std::chrono::steady_clock::time_point until,
+                                                     SoPixels& pixels)
+{
+    const auto drawPart = [&] { return m_impl->renderer.renderPart(root, camera, width, height, until); };
+    m_impl->error = m_impl->thread.getErrorText();
+    auto progress = SoRenderer::Progress::Failed;
+    m_impl->thread.run([&] { progress = m_impl->draw(width, height, pixels, drawPart); });
+    return progress;
 }
 
 bool SoOffscreenRenderer::renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part,

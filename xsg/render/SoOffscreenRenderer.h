@@ -38,6 +38,9 @@ public:
     /// The same for a part of a larger picture, which may be larger than OpenGL could draw.
     bool renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part, int width, int height,
                     SoPixels& pixels);
+    /// As SoRenderer::renderPart(); the picture is there when it is finished.
+    SoRenderer::Progress renderPart(SoNode* root, const SoCamera* camera, int width, int height,
+                                    std::chrono::steady_clock::time_point until, SoPixels& pixels);
     const std::string& getErrorText() const;
 
 private:

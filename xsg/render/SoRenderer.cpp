@@ -22,6 +22,12 @@ namespace
 constexpr GLenum Primitives[] = {GL_TRIANGLES, GL_LINES, GL_POINTS};
 // Drawing this many corners that are out of sight costs less than another call.
 constexpr std::int64_t CheapCorners = 256;
+// What takes too little time to draw it in pieces.
+constexpr std::int64_t FewIndices = xsg::DrawPacer::MostIndices;
+// To begin drawing so many takes a piece of its own.
+constexpr std::int64_t ManyNodes = 20'000;
+// A scene whose children change all the time must be seen, too.
+constexpr int MostRestarts = 3;
 // With more copies than this in a row, it is not visible which of a body's sides was blended first.
 constexpr std::uint32_t FewCopies = 64;
 
@@ -90,6 +96,14 @@ std::vector<xsg::Run> common(const std::vector<xsg::Run>& some, const std::vecto
     return both;
 }
 
+// One call of OpenGL.
+struct DrawTask {
+    xsg::Run run; // in the order of the instances; of one geometry and state
+    xsg::DrawPart part;
+    xsg::DrawState::Faces faces = xsg::DrawState::Faces::Both;
+    bool isMirrored = false;
+};
+
 // The eye's matrices for one frame.
 struct EyeView {
     SbMatrix view;
@@ -103,7 +117,10 @@ struct EyeView {
 class SoRenderer::Impl
 {
 public:
-    bool render(SoNode* root, const SoCamera* camera, int width, int height);
+    using Time = std::chrono::steady_clock::time_point;
+
+    Progress render(SoNode* root, const SoCamera* camera, int width, int height, Time until);
+    void drop() { m_phase = Phase::None; }
     void releaseGL();
     template <class Reader>
     void setImageReader(Reader reader);
@@ -132,18 +149,22 @@ private:
         std::int64_t textureBytes;
     };
 
+    // Where a picture is that is drawn in pieces.
+    enum class Phase { None, Listing, Opaque, Transparent, Edges, Marks };
+
     bool prepare();
     void clearPicture();
-    void drawScene(SoNode* root, const SoCamera* camera, int width, int height);
-    void updateList(SoNode* root, const SoCamera* camera);
+    void begin(const SoNode* root, int width, int height);
+    bool canGoOn(const SoNode* root, int width, int height);
+    bool drawScene(SoNode* root, const SoCamera* camera, Time until);
+    void beginDrawing(const SoCamera* camera);
+    bool updateList(SoNode* root, const SoCamera* camera, Time until);
     SbVec3f eyeOf(const SoCamera& camera) const;
     EyeView lookThrough(const SoCamera* camera, int width, int height);
-    bool beginShading();
-    void endShading();
-    void setBlending();
-    void drawEdges();
-    void drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum);
-    void drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum, const EyeView& eye);
+    void updateOpaque(const xsg::Frustum& frustum);
+    void updateTransparent(const xsg::Frustum& frustum);
+    void planTransparent();
+    void planEdges();
     // What is marked by a line of one thickness.
     struct Marked {
         std::vector<std::uint64_t> nodeIds;
@@ -151,17 +172,28 @@ private:
         std::vector<xsg::Run> opaque;
         bool isOther = false; // than what items are of
     };
-    void drawHighlight(const xsg::RenderChanges& changes, int width, int height);
-    void drawOutline(Marked& marked, const xsg::RenderChanges& changes, int width, int height,
-                     float thickness);
-    void collect(Marked& marked, const xsg::RenderChanges& changes);
-    void drawMask(xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
-    void drawCallbacks(const EyeView& eye, int width, int height);
-    void drawVisible(xsg::InstanceList& instances);
-    void drawBothSides(xsg::InstanceList& instances, const xsg::Run& run);
-    void drawRun(xsg::InstanceList& instances, const xsg::Run& run);
+    void collect(Marked& marked);
+    bool planMark(const Marked& marked);
+    void planMask(const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
+    void drawCallbacks();
+    void planVisible();
+    void planBothSides(const xsg::InstanceList& instances, const xsg::Run& run);
+    void plan(const xsg::InstanceList& instances, const xsg::Run& run, Faces faces = Faces::Both,
+              bool isMirrored = false);
     void countDrawn(const xsg::GpuGeometry& geometry, std::int64_t copies);
+    bool beginShading();
+    void endShading();
+    void setBlending();
+    bool drawShaded(Time until);
+    bool drawOpaque(Time until);
+    bool drawTransparent(Time until);
+    bool drawEdges(Time until);
+    bool drawMarks(Time until);
+    bool drawMark(Time until, float thickness);
+    bool drawTasks(xsg::InstanceList& instances, std::size_t end, Time until);
+    void draw(xsg::InstanceList& instances, const DrawTask& task);
     Uploads countUploads() const;
+    void countAll();
 
     xsg::GlMessages m_messages;
     xsg::Shader m_shader;
@@ -183,6 +215,27 @@ private:
     SoRef<SoPerspectiveCamera> m_ownCamera;
     std::vector<SoLightSource> m_headlights;
     SbVec3f m_sceneEye; // of the scene's own camera
+
+    // Of the picture that is being drawn:
+    Phase m_phase = Phase::None;
+    std::uint64_t m_rootId = 0;
+    std::uint32_t m_rootCount = 0;
+    std::uint64_t m_structureCount = 0;
+    int m_restarts = 0;
+    int m_walks = 0;
+    bool m_isListed = false;
+    int m_width = 0;
+    int m_height = 0;
+    Uploads m_uploadsBefore{};
+    xsg::RenderChanges m_changes;
+    EyeView m_eye;
+    std::vector<DrawTask> m_tasks; // of the present phase
+    std::size_t m_nextTask = 0;
+    std::size_t m_opaqueTasks = 0; // of edges and masks: those of opaque items come first
+    int m_mark = 0;                // that is drawn: 0 for the others, 1 for the current node's
+    bool m_isMarkPlanned = false;
+    bool m_isShaded = false; // and not in the full look
+    std::int64_t m_indicesDrawn = 0; // so far
 };
 
 bool SoRenderer::Impl::prepare()
@@ -196,56 +249,292 @@ bool SoRenderer::Impl::prepare()
     return m_shader.prepare(error);
 }
 
-bool SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, int height)
+SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* camera, int width, int height,
+                                              Time until)
 {
     const SbElapsedTime time;
-    statistics = {};
-    error.clear();
-    if (width <= 0 || height <= 0)
-        return true;
-    if (!prepare())
-        return false;
+    if (m_phase != Phase::None && !canGoOn(root, width, height))
+        drop();
+    const bool begins = m_phase == Phase::None;
+    if (begins)
+        begin(root, width, height);
+    if (width <= 0 || height <= 0) {
+        drop();
+        return Progress::Finished;
+    }
+    if (!prepare()) {
+        drop();
+        return Progress::Failed;
+    }
     m_shader.setViewPlane(clipPlane ? &*clipPlane : nullptr);
     m_state.begin(width, height, m_headlights);
     m_pacer.begin();
-    clearPicture();
-    if (root)
-        drawScene(root, camera, width, height);
-    m_pacer.end();
+    if (begins)
+        clearPicture();
+    const bool isFinished = !root || drawScene(root, camera, m_restarts < MostRestarts ? until : Time::max());
     m_state.end();
     m_messages.collect("SoRenderer");
-    statistics.seconds = time.getElapsed();
+    statistics.seconds += time.getElapsed();
+    if (!isFinished)
+        return Progress::Unfinished;
+    m_pacer.end();
+    drop();
+    m_restarts = 0;
     feedCounters(statistics);
+    return Progress::Finished;
+}
+
+void SoRenderer::Impl::begin(const SoNode* root, int width, int height)
+{
+    statistics = {};
+    error.clear();
+    m_phase = Phase::Listing;
+    m_rootId = root ? root->getNodeId() : 0;
+    m_width = width;
+    m_height = height;
+    m_walks = 0;
+    m_isListed = false;
+    m_indicesDrawn = 0;
+    m_uploadsBefore = countUploads();
+}
+
+// What is drawn names nodes, which may be gone when children anywhere have changed. A list that is not
+// complete yet takes care of that itself.
+bool SoRenderer::Impl::canGoOn(const SoNode* root, int width, int height)
+{
+    const std::uint64_t rootId = root ? root->getNodeId() : 0;
+    if (rootId != m_rootId || width != m_width || height != m_height) {
+        m_restarts = 0;
+        return false;
+    }
+    if (m_phase == Phase::Listing || !root)
+        return true;
+    const std::uint64_t structureCount = SoGroup::getStructureCount();
+    const bool isAsItWas = root->getChangeCount() == m_rootCount || structureCount == m_structureCount;
+    if (root->getChangeCount() == m_rootCount)
+        m_structureCount = structureCount; // others' children are of no concern
+    if (!isAsItWas)
+        ++m_restarts;
+    return isAsItWas;
+}
+
+// False where the time is up.
+bool SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, Time until)
+{
+    if (m_phase == Phase::Listing) {
+        if (!updateList(root, camera, until))
+            return false;
+        if (!std::exchange(m_isListed, true) && statistics.nodes > ManyNodes &&
+            std::chrono::steady_clock::now() >= until)
+            return false;
+        m_rootCount = root->getChangeCount();
+        m_structureCount = SoGroup::getStructureCount();
+        beginDrawing(camera);
+    }
+    m_shader.use();
+    m_shader.setView(m_eye.viewProjection, m_eye.eye, m_width, m_height);
+    m_state.setEdgesOnly(wireframe);
+    const bool isFinished = drawShaded(until) && drawMarks(until);
+    if (isFinished && !overlay.isEmpty())
+        m_overlayPainter.draw(overlay, m_eye.viewProjection, m_width, m_height, error);
+    statistics.stateChanges += m_state.getChanges();
+    countAll();
+    return isFinished;
+}
+
+void SoRenderer::Impl::beginDrawing(const SoCamera* camera)
+{
+    m_changes = m_updater.takeChanges();
+    m_eye = lookThrough(camera, m_width, m_height);
+    const xsg::Frustum frustum(m_eye.viewProjection);
+    updateOpaque(frustum);
+    updateTransparent(frustum);
+    collect(m_others);
+    collect(m_current);
+    m_mark = 0;
+    m_isMarkPlanned = false;
+    m_tasks.clear();
+    m_nextTask = 0;
+    planVisible();
+    m_phase = Phase::Opaque;
+}
+
+bool SoRenderer::Impl::drawShaded(Time until)
+{
+    if (m_phase == Phase::Marks)
+        return true;
+    m_isShaded = beginShading();
+    const bool isFinished = drawOpaque(until) && drawTransparent(until) && drawEdges(until);
+    if (m_isShaded)
+        endShading();
+    return isFinished;
+}
+
+// Where OpenGL refuses a program, the scene has its full look.
+bool SoRenderer::Impl::beginShading()
+{
+    const xsg::Shader::Look look = shading == Shading::WithEdges ? xsg::Shader::Look::Flat : lookOf(shading);
+    if (shading == Shading::Full || !m_shader.prepareLook(look, error))
+        return false;
+    m_shader.setLook(lookOf(shading));
+    m_shader.setFlatColor(shading == Shading::Overdraw ? OverdrawColor : EdgeColor);
+    if (shading == Shading::Overdraw) {
+        glDisable(GL_DEPTH_TEST);
+        setBlending();
+    }
+    if (shading == Shading::WithEdges) { // surfaces step back behind their edges
+        glEnable(GL_POLYGON_OFFSET_FILL);
+        glPolygonOffset(1, 1);
+    }
     return true;
 }
 
-void SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, int width, int height)
+void SoRenderer::Impl::endShading()
 {
-    const Uploads before = countUploads();
-    updateList(root, camera);
-    const xsg::RenderChanges changes = m_updater.takeChanges();
-    const EyeView eye = lookThrough(camera, width, height);
-    const xsg::Frustum frustum(eye.viewProjection);
-    m_shader.use();
-    m_shader.setView(eye.viewProjection, eye.eye, width, height);
+    glDisable(GL_POLYGON_OFFSET_FILL);
+    m_shader.setLook(xsg::Shader::Look::Full);
+    glDisable(GL_BLEND);
+    glEnable(GL_DEPTH_TEST);
     m_state.setEdgesOnly(wireframe);
-    const bool isShaded = beginShading();
-    drawOpaque(changes, frustum);
+}
+
+void SoRenderer::Impl::setBlending()
+{
+    glEnable(GL_BLEND);
+    if (shading == Shading::Overdraw)
+        glBlendFunc(GL_ONE, GL_ONE);
+    else
+        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+bool SoRenderer::Impl::drawOpaque(Time until)
+{
+    if (m_phase != Phase::Opaque)
+        return true;
+    if (!drawTasks(m_opaque, m_tasks.size(), until))
+        return false;
     if (shading != Shading::Overdraw)
-        drawCallbacks(eye, width, height);
-    drawTransparent(changes, frustum, eye);
-    if (isShaded)
-        endShading();
-    drawHighlight(changes, width, height);
-    if (!overlay.isEmpty())
-        m_overlayPainter.draw(overlay, eye.viewProjection, width, height, error);
+        drawCallbacks();
+    m_tasks.clear();
+    m_nextTask = 0;
+    planTransparent();
+    m_phase = Phase::Transparent;
+    return true;
+}
+
+bool SoRenderer::Impl::drawTransparent(Time until)
+{
+    if (m_phase != Phase::Transparent)
+        return true;
+    bool isFinished = true;
+    if (!m_tasks.empty()) {
+        setBlending();
+        glDepthMask(GL_FALSE);
+        isFinished = drawTasks(m_transparent, m_tasks.size(), until);
+        m_state.setFaces(Faces::Both, false);
+        glDepthMask(GL_TRUE);
+        glDisable(GL_BLEND);
+    }
+    if (isFinished) {
+        planEdges();
+        m_phase = Phase::Edges;
+    }
+    return isFinished;
+}
+
+bool SoRenderer::Impl::drawEdges(Time until)
+{
+    bool isFinished = true;
+    if (!m_tasks.empty()) {
+        glDisable(GL_POLYGON_OFFSET_FILL);
+        m_shader.setLook(xsg::Shader::Look::Flat);
+        m_state.setEdgesOnly(true);
+        setBlending();
+        isFinished =
+            drawTasks(m_opaque, m_opaqueTasks, until) && drawTasks(m_transparent, m_tasks.size(), until);
+    }
+    if (isFinished)
+        m_phase = Phase::Marks;
+    return isFinished;
+}
+
+bool SoRenderer::Impl::drawMarks(Time until)
+{
+    constexpr float Thinner = 2.0F / 3;
+    for (; m_mark < 2; ++m_mark) {
+        const bool isCurrent = m_mark == 1;
+        const float thickness = isCurrent ? highlightThickness : std::max(1.0F, Thinner * highlightThickness);
+        const bool isToBegin = !m_isMarkPlanned && planMark(isCurrent ? m_current : m_others);
+        if (isToBegin) {
+            m_outline.beginMask();
+            m_outline.endMask();
+            m_isMarkPlanned = true;
+        }
+        if (m_isMarkPlanned && !drawMark(until, thickness))
+            return false;
+        m_isMarkPlanned = false;
+    }
+    return true;
+}
+
+bool SoRenderer::Impl::drawMark(Time until, float thickness)
+{
+    m_outline.goOnWithMask();
+    m_state.setEdgesOnly(false);
+    m_shader.use();
+    m_shader.setPlaceOnly(true);
+    const bool isFinished =
+        drawTasks(m_opaque, m_opaqueTasks, until) && drawTasks(m_transparent, m_tasks.size(), until);
+    if (isFinished)
+        m_outline.draw(highlightColor, thickness);
+    else
+        m_outline.endMask();
+    m_shader.use();
+    m_shader.setPlaceOnly(false);
+    return isFinished;
+}
+
+bool SoRenderer::Impl::drawTasks(xsg::InstanceList& instances, std::size_t end, Time until)
+{
+    constexpr std::size_t CallsBetweenLooks = 64; // at the clock
+    std::int64_t indices = 0;
+    while (m_nextTask < end) {
+        const DrawTask& task = m_tasks[m_nextTask++];
+        draw(instances, task);
+        const std::int64_t drawn = std::int64_t{task.part.indexCount} * task.part.copies;
+        m_indicesDrawn += drawn;
+        indices += drawn;
+        const bool isTimeToLook = indices >= FewIndices / 8 || m_nextTask % CallsBetweenLooks == 0;
+        if (!isTimeToLook || m_indicesDrawn < FewIndices)
+            continue;
+        indices = 0;
+        if (std::chrono::steady_clock::now() >= until)
+            return m_nextTask == end && end == m_tasks.size();
+    }
+    return true;
+}
+
+void SoRenderer::Impl::draw(xsg::InstanceList& instances, const DrawTask& task)
+{
+    const xsg::RenderItem& first = instances.getItem(m_list.items, task.run.first);
+    m_state.setState(m_list.drawStates.get(first.drawState));
+    m_state.setGeometry(*first.geometry);
+    m_state.setFaces(task.faces, task.isMirrored);
+    instances.bind(task.run.first + static_cast<std::uint32_t>(task.part.firstCopy));
+    const auto offset = static_cast<std::uintptr_t>(task.part.firstIndex) * sizeof(GLuint);
+    glDrawElementsInstanced(Primitives[static_cast<int>(first.geometry->kind)], task.part.indexCount,
+                            GL_UNSIGNED_INT, reinterpret_cast<const void*>(offset), task.part.copies);
+    m_pacer.drawn(std::int64_t{task.part.indexCount} * task.part.copies);
+}
+
+void SoRenderer::Impl::countAll()
+{
     statistics.shapes =
         static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
-    statistics.stateChanges += m_state.getChanges();
     const Uploads after = countUploads();
-    statistics.bufferUploads = after.buffers - before.buffers;
-    statistics.uploadedBytes = after.bytes - before.bytes;
-    statistics.textureBytes = after.textureBytes - before.textureBytes;
+    statistics.bufferUploads = after.buffers - m_uploadsBefore.buffers;
+    statistics.uploadedBytes = after.bytes - m_uploadsBefore.bytes;
+    statistics.textureBytes = after.textureBytes - m_uploadsBefore.textureBytes;
 }
 
 SoRenderer::Impl::Uploads SoRenderer::Impl::countUploads() const
@@ -267,21 +556,27 @@ void SoRenderer::Impl::clearPicture()
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
-void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
+// False where the time is up.
+bool SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera, Time until)
 {
     m_updater.setHiding(hiding);
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
-    for (int walk = 0; walk < 2; ++walk) {
+    using Update = xsg::RenderListUpdater::Update;
+    for (; m_walks < 2; ++m_walks) {
         const SbVec3f eye = camera ? eyeOf(*camera) : m_sceneEye;
-        if (!m_updater.update(root, {camera, eye})) {
-            if (walk == 0)
+        const Update update = m_updater.update(root, {camera, eye}, until);
+        if (update == Update::Unfinished)
+            return false;
+        if (update == Update::Same) {
+            if (m_walks == 0)
                 m_updater.fitMemory();
-            return;
+            return true;
         }
         m_sceneEye = m_list.camera ? eyeOf(*m_list.camera) : SbVec3f();
         statistics.nodes += m_updater.getNumVisited();
     }
+    return true;
 }
 
 SbVec3f SoRenderer::Impl::eyeOf(const SoCamera& camera) const
@@ -319,78 +614,22 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, int width, int hei
     return eye;
 }
 
-// Where OpenGL refuses a program, the scene has its full look.
-bool SoRenderer::Impl::beginShading()
+void SoRenderer::Impl::updateOpaque(const xsg::Frustum& frustum)
 {
-    const xsg::Shader::Look look = shading == Shading::WithEdges ? xsg::Shader::Look::Flat : lookOf(shading);
-    if (shading == Shading::Full || !m_shader.prepareLook(look, error))
-        return false;
-    m_shader.setLook(lookOf(shading));
-    m_shader.setFlatColor(shading == Shading::Overdraw ? OverdrawColor : EdgeColor);
-    if (shading == Shading::Overdraw) {
-        glDisable(GL_DEPTH_TEST);
-        setBlending();
-    }
-    if (shading == Shading::WithEdges) { // surfaces step back behind their edges
-        glEnable(GL_POLYGON_OFFSET_FILL);
-        glPolygonOffset(1, 1);
-    }
-    return true;
-}
-
-void SoRenderer::Impl::endShading()
-{
-    glDisable(GL_POLYGON_OFFSET_FILL);
-    if (shading == Shading::WithEdges)
-        drawEdges();
-    m_shader.setLook(xsg::Shader::Look::Full);
-    glDisable(GL_BLEND);
-    glEnable(GL_DEPTH_TEST);
-    m_state.setEdgesOnly(wireframe);
-}
-
-void SoRenderer::Impl::setBlending()
-{
-    glEnable(GL_BLEND);
-    if (shading == Shading::Overdraw)
-        glBlendFunc(GL_ONE, GL_ONE);
-    else
-        glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-}
-
-void SoRenderer::Impl::drawEdges()
-{
-    m_shader.setLook(xsg::Shader::Look::Flat);
-    m_state.setEdgesOnly(true);
-    setBlending();
-    const auto drawTriangles = [this](xsg::InstanceList& instances, const std::vector<xsg::Run>& runs) {
-        instances.forEachPart(runs, [&](const xsg::Run& run) {
-            const xsg::RenderItem& item = instances.getItem(m_list.items, run.first);
-            if (item.geometry->kind == SoGeometry::Kind::Triangles)
-                drawRun(instances, run);
-        });
-    };
-    drawTriangles(m_opaque, m_visible);
-    drawTriangles(m_transparent, m_transparent.getBatches());
-}
-
-void SoRenderer::Impl::drawOpaque(const xsg::RenderChanges& changes, const xsg::Frustum& frustum)
-{
-    m_opaque.update(m_list.opaque, m_list.items, changes, !changes.orders);
+    m_opaque.update(m_list.opaque, m_list.items, m_changes, !m_changes.orders);
     m_opaque.findVisible(frustum, m_list.items, m_visible);
     std::uint32_t seen = 0;
     for (const xsg::Run& run : m_visible)
         seen += run.end - run.first;
     statistics.culled += m_opaque.getSize() - seen;
-    drawVisible(m_opaque);
 }
 
 // What is in sight, batch by batch.
-void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
+void SoRenderer::Impl::planVisible()
 {
     auto run = m_visible.begin();
-    for (const xsg::Run& batch : instances.getBatches()) {
-        const xsg::GpuGeometry& geometry = *instances.getItem(m_list.items, batch.first).geometry;
+    for (const xsg::Run& batch : m_opaque.getBatches()) {
+        const xsg::GpuGeometry& geometry = *m_opaque.getItem(m_list.items, batch.first).geometry;
         while (run != m_visible.end() && run->first < batch.end) {
             xsg::Run part{std::max(run->first, batch.first), std::min(run->end, batch.end)};
             const auto isCloseBehind = [&](const xsg::Run& next) {
@@ -400,7 +639,7 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
             while (run->end < batch.end && std::next(run) != m_visible.end() &&
                    isCloseBehind(*std::next(run)))
                 part.end = std::min((++run)->end, batch.end);
-            drawRun(instances, part);
+            plan(m_opaque, part);
             countDrawn(geometry, part.end - part.first);
             if (run->end > batch.end)
                 break; // the run continues in the next batch
@@ -409,14 +648,13 @@ void SoRenderer::Impl::drawVisible(xsg::InstanceList& instances)
     }
 }
 
-void SoRenderer::Impl::drawTransparent(const xsg::RenderChanges& changes, const xsg::Frustum& frustum,
-                                       const EyeView& eye)
+void SoRenderer::Impl::updateTransparent(const xsg::Frustum& frustum)
 {
     const auto& items = m_list.items;
     m_depths.clear();
     for (const std::uint32_t i : m_list.transparent) {
         if (items[i].geometry->isScreenSpace || frustum.mayShow(items[i].box))
-            m_depths.emplace_back(eye.view.multPoint(items[i].box.getCenter())[2], i);
+            m_depths.emplace_back(m_eye.view.multPoint(items[i].box.getCenter())[2], i);
         else
             ++statistics.culled;
     }
@@ -424,36 +662,30 @@ void SoRenderer::Impl::drawTransparent(const xsg::RenderChanges& changes, const 
     m_order.clear();
     for (const auto& [depth, i] : m_depths)
         m_order.push_back(i);
-    m_transparent.update(m_order, items, changes);
-    if (m_transparent.isEmpty())
-        return;
-    setBlending();
-    glDepthMask(GL_FALSE);
+    m_transparent.update(m_order, items, m_changes);
+}
+
+void SoRenderer::Impl::planTransparent()
+{
     for (const xsg::Run& batch : m_transparent.getBatches()) {
-        drawBothSides(m_transparent, batch);
-        countDrawn(*m_transparent.getItem(items, batch.first).geometry, batch.end - batch.first);
+        planBothSides(m_transparent, batch);
+        countDrawn(*m_transparent.getItem(m_list.items, batch.first).geometry, batch.end - batch.first);
     }
-    m_state.setFaces(Faces::Both, false);
-    glDepthMask(GL_TRUE);
-    glDisable(GL_BLEND);
 }
 
 // A body's far side is blended before its near side.
-void SoRenderer::Impl::drawBothSides(xsg::InstanceList& instances, const xsg::Run& run)
+void SoRenderer::Impl::planBothSides(const xsg::InstanceList& instances, const xsg::Run& run)
 {
     const auto& items = m_list.items;
     const bool isFlat = instances.getItem(items, run.first).geometry->kind != SoGeometry::Kind::Triangles;
     if (isFlat || run.end - run.first > FewCopies) {
-        m_state.setFaces(Faces::Both, false);
-        drawRun(instances, run);
+        plan(instances, run);
         return;
     }
     for (std::uint32_t place = run.first; place < run.end; ++place) {
         const bool mirrored = isMirrored(instances.getItem(items, place).instance);
-        for (const Faces faces : {Faces::Back, Faces::Front}) {
-            m_state.setFaces(faces, mirrored);
-            drawRun(instances, {place, place + 1});
-        }
+        for (const Faces faces : {Faces::Back, Faces::Front})
+            plan(instances, {place, place + 1}, faces, mirrored);
     }
 }
 
@@ -468,9 +700,9 @@ void SoRenderer::Impl::setHighlight(const std::vector<std::uint64_t>& nodeIds)
     set(m_current, {current, nodeIds.end()});
 }
 
-void SoRenderer::Impl::collect(Marked& marked, const xsg::RenderChanges& changes)
+void SoRenderer::Impl::collect(Marked& marked)
 {
-    const bool isOther = std::exchange(marked.isOther, false) || changes.all;
+    const bool isOther = std::exchange(marked.isOther, false) || m_changes.all;
     if (isOther) {
         marked.items.clear();
         for (const std::uint64_t nodeId : marked.nodeIds)
@@ -480,72 +712,73 @@ void SoRenderer::Impl::collect(Marked& marked, const xsg::RenderChanges& changes
             marked.items.erase(std::unique(marked.items.begin(), marked.items.end()), marked.items.end());
         }
     }
-    if (isOther || changes.orders)
+    if (isOther || m_changes.orders)
         m_opaque.findPlaces(marked.items, marked.opaque);
 }
 
-void SoRenderer::Impl::drawHighlight(const xsg::RenderChanges& changes, int width, int height)
+// False where nothing is to be marked.
+bool SoRenderer::Impl::planMark(const Marked& marked)
 {
-    constexpr float Thinner = 2.0F / 3;
-    drawOutline(m_others, changes, width, height, std::max(1.0F, Thinner * highlightThickness));
-    drawOutline(m_current, changes, width, height, highlightThickness);
-}
-
-void SoRenderer::Impl::drawOutline(Marked& marked, const xsg::RenderChanges& changes, int width, int height,
-                                   float thickness)
-{
-    collect(marked, changes);
-    std::vector<xsg::Run> opaque = common(marked.opaque, m_visible);
+    m_tasks.clear();
+    m_nextTask = 0;
+    const std::vector<xsg::Run> opaque = common(marked.opaque, m_visible);
     std::vector<xsg::Run> transparent;
     if (!marked.items.empty())
         m_transparent.findPlaces(marked.items, transparent);
-    if ((opaque.empty() && transparent.empty()) || !m_outline.prepare(width, height, error))
-        return;
-    m_outline.beginMask();
-    m_state.setEdgesOnly(false);
-    m_shader.use();
-    m_shader.setPlaceOnly(true);
-    drawMask(m_opaque, opaque);
-    drawMask(m_transparent, transparent);
-    m_outline.draw(highlightColor, thickness);
-    m_shader.use();
-    m_shader.setPlaceOnly(false);
+    if ((opaque.empty() && transparent.empty()) || !m_outline.prepare(m_width, m_height, error))
+        return false;
+    planMask(m_opaque, opaque);
+    m_opaqueTasks = m_tasks.size();
+    planMask(m_transparent, transparent);
+    return true;
 }
 
-void SoRenderer::Impl::drawMask(xsg::InstanceList& instances, const std::vector<xsg::Run>& runs)
+void SoRenderer::Impl::planEdges()
+{
+    m_tasks.clear();
+    m_nextTask = 0;
+    if (shading != Shading::WithEdges || !m_isShaded)
+        return;
+    const auto planTriangles = [this](const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs) {
+        instances.forEachPart(runs, [&](const xsg::Run& run) {
+            if (instances.getItem(m_list.items, run.first).geometry->kind == SoGeometry::Kind::Triangles)
+                plan(instances, run);
+        });
+    };
+    planTriangles(m_opaque, m_visible);
+    m_opaqueTasks = m_tasks.size();
+    planTriangles(m_transparent, m_transparent.getBatches());
+}
+
+void SoRenderer::Impl::planMask(const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs)
 {
     instances.forEachPart(runs, [&](const xsg::Run& part) {
-        drawRun(instances, part);
+        plan(instances, part);
         countDrawn(*instances.getItem(m_list.items, part.first).geometry, part.end - part.first);
     });
 }
 
-void SoRenderer::Impl::drawCallbacks(const EyeView& eye, int width, int height)
+void SoRenderer::Impl::drawCallbacks()
 {
     for (const xsg::CallbackItem& item : m_list.callbacks) {
         if (!item.node->getCallback())
             continue;
-        item.node->getCallback()({item.modelMatrix, eye.view, eye.projection, width, height});
+        item.node->getCallback()({item.modelMatrix, m_eye.view, m_eye.projection, m_width, m_height});
         statistics.stateChanges += m_state.getChanges();
-        m_state.begin(width, height, m_headlights);
+        m_state.begin(m_width, m_height, m_headlights);
         m_shader.use();
     }
 }
 
-void SoRenderer::Impl::drawRun(xsg::InstanceList& instances, const xsg::Run& run)
+// Neighbours that one call can draw, in as many as it takes.
+void SoRenderer::Impl::plan(const xsg::InstanceList& instances, const xsg::Run& run, Faces faces,
+                            bool isMirrored)
 {
-    const xsg::RenderItem& first = instances.getItem(m_list.items, run.first);
-    const xsg::GpuGeometry& geometry = *first.geometry;
-    m_state.setState(m_list.drawStates.get(first.drawState));
-    m_state.setGeometry(*first.geometry);
-    const auto kind = static_cast<int>(geometry.kind);
-    m_pacer.draw(geometry.indexCount, static_cast<GLsizei>(run.end - run.first), 3 - kind,
-                 [&](const xsg::DrawPart& part) {
-                     instances.bind(run.first + static_cast<std::uint32_t>(part.firstCopy));
-                     const auto offset = static_cast<std::uintptr_t>(part.firstIndex) * sizeof(GLuint);
-                     glDrawElementsInstanced(Primitives[kind], part.indexCount, GL_UNSIGNED_INT,
-                                             reinterpret_cast<const void*>(offset), part.copies);
-                 });
+    const xsg::GpuGeometry& geometry = *instances.getItem(m_list.items, run.first).geometry;
+    m_pacer.cut(geometry.indexCount, static_cast<GLsizei>(run.end - run.first),
+                3 - static_cast<GLsizei>(geometry.kind), [&](const xsg::DrawPart& part) {
+                    m_tasks.push_back({run, part, faces, isMirrored});
+                });
     ++statistics.drawCalls;
 }
 
@@ -565,6 +798,8 @@ void SoRenderer::Impl::setImageReader(Reader reader)
 
 void SoRenderer::Impl::releaseGL()
 {
+    drop();
+    m_pacer.end();
     m_updater.clear();
     m_outline.release();
     m_overlayPainter.release();
@@ -584,7 +819,14 @@ SoRenderer::~SoRenderer() = default;
 
 bool SoRenderer::render(SoNode* root, const SoCamera* camera, int width, int height)
 {
-    return m_impl->render(root, camera, width, height);
+    m_impl->drop();
+    return m_impl->render(root, camera, width, height, Impl::Time::max()) == Progress::Finished;
+}
+
+SoRenderer::Progress SoRenderer::renderPart(SoNode* root, const SoCamera* camera, int width, int height,
+                                            std::chrono::steady_clock::time_point until)
+{
+    return m_impl->render(root, camera, width, height, until);
 }
 
 const std::string& SoRenderer::getErrorText() const

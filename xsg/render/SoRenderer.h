@@ -8,6 +8,7 @@
 #include <xsg/values/SbPlane.h>
 #include <xsg/values/XsgExport.h>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -47,6 +48,14 @@ public:
         int bottom = 0;
     };
     void setPart(const Part& part);
+
+    enum class Progress { Finished, Unfinished, Failed };
+    /// render() in pieces, for a program that answers its user meanwhile: returns when the picture is
+    /// finished or, of a large scene, when the time is up. The next call goes on in the same framebuffer,
+    /// which has to keep what is in it. The picture shows what the camera saw when drawing began. Another
+    /// root or size, or other children in the scene, begin it again, and so does render().
+    Progress renderPart(SoNode* root, const SoCamera* camera, int width, int height,
+                        std::chrono::steady_clock::time_point until);
 
     /// Frees all OpenGL objects; the next render() makes them again. Call it before the context is destroyed.
     void releaseGL();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/nodes/groups/SoGroup.h>
 
+#include <xsg/core/Context.h>
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
@@ -8,6 +9,11 @@
 #include <unordered_set>
 
 template class SoTyped<SoGroup, SoNode>;
+
+std::uint64_t SoGroup::getStructureCount()
+{
+    return xsg::Context::get().structureChanges;
+}
 
 SoNode* SoGroup::getChild(int index) const
 {
@@ -50,7 +56,7 @@ bool SoGroup::insertChild(SoNode* child, int index)
         m_children.reserve(2 * m_children.size() + 1); // what can fail comes first
     adopt(child);
     m_children.insert(m_children.begin() + place, child);
-    childrenChanged();
+    childrenChanged(static_cast<std::size_t>(place), 0, 1);
     return true;
 }
 
@@ -60,7 +66,7 @@ void SoGroup::removeChild(int index)
     if (!child)
         return;
     m_children.erase(m_children.begin() + index);
-    childrenChanged();
+    childrenChanged(static_cast<std::size_t>(index), 1, 0);
     release(child);
 }
 
@@ -70,7 +76,7 @@ void SoGroup::removeAllChildren()
     children.swap(m_children);
     if (children.empty())
         return;
-    childrenChanged();
+    childrenChanged(0, children.size(), 0);
     disownAll(children);
     std::for_each(children.rbegin(), children.rend(), [](const SoNode* child) { child->unref(); });
 }
@@ -82,7 +88,7 @@ bool SoGroup::replaceChild(int index, SoNode* child)
         return false;
     adopt(child);
     m_children[static_cast<std::size_t>(index)] = child;
-    childrenChanged();
+    childrenChanged(static_cast<std::size_t>(index), 1, 1);
     release(old);
     return true;
 }
@@ -121,8 +127,13 @@ void SoGroup::disownAll(const std::vector<SoNode*>& children)
     });
 }
 
-void SoGroup::childrenChanged()
+void SoGroup::childrenChanged(std::size_t place, std::size_t removed, std::size_t inserted)
 {
+    ++xsg::Context::get().structureChanges;
+    if (m_extension)
+        m_extension->noteChildren({getChangeCount() + 1, static_cast<std::uint32_t>(place),
+                                   static_cast<std::uint32_t>(removed),
+                                   static_cast<std::uint32_t>(inserted)});
     SoNotification change;
     change.serial = nextSerial();
     notify(change);

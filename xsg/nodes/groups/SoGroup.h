@@ -43,6 +43,9 @@ public:
     /// The children that count at present; a group that chooses among its children narrows it.
     virtual SoChildRange getChosenChildren(const SoState& /*state*/) const { return {0, getNumChildren()}; }
 
+    /// Grows whenever the children of any group of this process change.
+    static std::uint64_t getStructureCount();
+
     /// A place for what the level above the nodes remembers about the group, for that level alone; null at
     /// first.
     SoGroupExtension* getExtension() { return m_extension.get(); }
@@ -57,7 +60,8 @@ private:
     void adopt(SoNode* child);
     void release(SoNode* child);
     void disownAll(const std::vector<SoNode*>& children);
-    void childrenChanged();
+    /// At `place`, so many children are gone and so many have come.
+    void childrenChanged(std::size_t place, std::size_t removed, std::size_t inserted);
     bool wouldLoop(const SoNode* child) const;
 
     /// `child`: null for the group itself.
