@@ -41,6 +41,8 @@ set(SCOPIX_XSG_HEADERS
   SoBoundingBoxAction.h SoPath.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
+  # Names of places
+  SoScenePath.h
   # Drawing
   SoImageReader.h SoOffscreenRenderer.h SoRenderer.h
   # Scene files
