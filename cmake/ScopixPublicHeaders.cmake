@@ -55,7 +55,7 @@ set(SCOPIX_EXTENDER_HEADERS
   SpxPluginsManager.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
 
 set(SCOPIX_HOST_HEADERS
-  CommandLine.h HostApplication.h HostExport.h)
+  CommandLine.h Commands.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
   SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h

@@ -4,6 +4,7 @@
 #include <xsg/fields/SoSFImage.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
+#include <xsg/paths/FieldText.h>
 
 #include <algorithm>
 
@@ -88,7 +89,7 @@ void FieldDiff::compareField(const SoField* before, const SoField& after, const 
     SceneChange& change = changes.emplace_back();
     change.path = std::move(place);
     if (!after.isDefault())
-        change.value = valueText(after);
+        change.value = fieldText(after, m_match.after());
     change.isIgnored = after.isIgnored();
     if (const SoField* source = sourceIn(m_match.after(), after)) {
         change.source = m_match.after().pathOf(static_cast<const SoNode&>(*source->getContainer()));
@@ -195,27 +196,6 @@ bool FieldDiff::addElements(const SoField& before, const SoField& after, const S
         change.was = shownText(text.str());
     }
     return !changed.empty();
-}
-
-std::string FieldDiff::referenceText(const SoNode* node)
-{
-    return node && m_match.after().has(*node) ? m_match.after().pathOf(*node).toText() : "NULL";
-}
-
-std::string FieldDiff::valueText(const SoField& after)
-{
-    if (const auto* single = dynamic_cast<const SoSFNode*>(&after))
-        return referenceText(single->getNode());
-    const auto* list = dynamic_cast<const SoMFNode*>(&after);
-    if (!list) {
-        SbString text;
-        after.get(text);
-        return text.str();
-    }
-    std::string text = "[ ";
-    for (int i = 0; i < list->getNum(); ++i)
-        text += (i > 0 ? ", " : "") + referenceText((*list)[i].get());
-    return text + (list->getNum() > 0 ? " ]" : "]");
 }
 
 } // namespace xsg

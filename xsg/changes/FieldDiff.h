@@ -31,8 +31,6 @@ private:
                      SceneChanges& changes) const;
     const SoField* sourceIn(const NodePlaces& places, const SoField& field) const;
     const SoField* oldOf(const SoField& after) const;
-    std::string referenceText(const SoNode* node);
-    std::string valueText(const SoField& after);
 
     NodeMatch& m_match;
 };

@@ -14,7 +14,7 @@ namespace xsg
 /// One difference between two scenes, and one line of a patch. Paths name places in the scene as it is when
 /// all changes have been made, except `from`, which is a place in the scene before. What is removed is called
 /// as it was in its group. What is moved is inserted in one place and removed from another one.
-struct SceneChange {
+struct XSG_API SceneChange {
     enum class Kind { Remove, Insert, Move, Replace, Order, Rename, Set };
     enum class Origin {
         New,
