@@ -41,6 +41,8 @@ set(SCOPIX_XSG_HEADERS
   SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
+  # Names of places
+  SoScenePath.h
   # Drawing
   SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
   # Scene files
@@ -54,7 +56,7 @@ set(SCOPIX_EXTENDER_HEADERS
   SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
-  CommandLine.h HostApplication.h HostExport.h)
+  CommandLine.h Commands.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
   SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <scopix-host/CommandLine.h>
 
+#include "commands/CommandTable.h"
 #include "support/Printable.h"
 
 #include <QCommandLineParser>
@@ -166,7 +167,9 @@ QString CommandLine::helpText()
 {
     QCommandLineParser parser;
     describe(parser);
-    return parser.helpText();
+    return parser.helpText() +
+           tr("\nWithout a window (scopix COMMAND --help says more; a file of such a name is ./NAME):\n%1")
+               .arg(QString::fromStdString(commandList()));
 }
 
 QString CommandLine::versionText()

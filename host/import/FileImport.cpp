@@ -28,6 +28,8 @@ FileImport::~FileImport()
 
 void FileImport::openDialog(const QString& path)
 {
+    if (!m_window)
+        return;
     m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
                                    m_window);
     m_dialog->setObjectName(QStringLiteral("importProgress"));

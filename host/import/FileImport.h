@@ -34,7 +34,7 @@ signals:
     void cancelled();
 
 protected:
-    /// The dialog opens over `window`.
+    /// The dialog opens over `window`; none does where that is null.
     FileImport(QWidget* window, QObject* parent);
     void openDialog(const QString& path);
     void showPercent(int percent);

@@ -18,7 +18,7 @@ class ModelImport : public FileImport
     Q_OBJECT
 
 public:
-    /// The dialog opens over `window`.
+    /// The dialog opens over `window`; without one, no widget is made, and no window system is needed.
     explicit ModelImport(QWidget* window, QObject* parent = nullptr);
     ~ModelImport() override;
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The program: reads the command line, chooses the window system and hands over to the host.
+// The program: runs a command without a window, or reads the command line, chooses the window system and hands
+// over to the host.
 #include "program/EndOfSession.h"
 
+#include <scopix-host/Commands.h>
 #include <scopix-host/HostApplication.h>
 
 #include <QApplication>
@@ -54,6 +56,8 @@ int run(const scopix::CommandLine& line)
 
 int main(int argc, char** argv)
 {
+    if (scopix::Commands::isCommand(argc, argv))
+        return scopix::Commands::run(argc, argv);
     const scopix::CommandLine line = scopix::CommandLine::parse(argumentsOf(argc, argv));
     if (!line.error.isEmpty()) {
         print(stderr, QStringLiteral("scopix: ") + line.error);

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <scopix-host/HostExport.h>
+
+namespace scopix
+{
+
+/// What the program does without a window: `scopix print FILE` and its like. Needs no display and no
+/// QApplication.
+class SCOPIX_HOST_API Commands
+{
+public:
+    /// Whether the first argument after the program's name is a command. A file of the same name is
+    /// "./print".
+    static bool isCommand(int argc, char** argv);
+    /// Runs it; returns the exit status. Plug-ins are not loaded.
+    static int run(int argc, char** argv);
+};
+
+} // namespace scopix

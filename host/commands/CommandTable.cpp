@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "commands/CommandTable.h"
+
+#include "commands/Commands.h"
+#include "commands/Output.h"
+
+#include <QCoreApplication>
+
+#include <exception>
+#include <limits>
+#include <memory>
+#include <new>
+
+namespace scopix
+{
+
+namespace
+{
+
+constexpr std::size_t Any = std::numeric_limits<std::size_t>::max();
+const Command::Option Json{"json", nullptr, "Write JSON instead of text."};
+const Command::Option Out{"o", "OUT", "Write this file and leave FILE as it is; \"-\" is standard output."};
+
+} // namespace
+
+const std::vector<Command>& allCommands()
+{
+    static const std::vector<Command> commands{
+        {"print",
+         "FILE [PATH]",
+         "Prints the tree of a scene or model, a node with its fields, or the value of a field.",
+         1,
+         2,
+         {Json},
+         {{"scopix print lamp.xsg", "the tree: names, types, and where a node stands again"},
+          {"scopix print lamp.xsg /Lamp/Bulb", "the fields of one node, and what is below it"},
+          {"scopix print lamp.xsg Bulb.radius", "one value; without \"/\" wherever the node stands"},
+          {"scopix print --json lamp.xsg", "everything that a scene file holds"}},
+         "0",
+         printScene},
+        {"set",
+         "FILE PATH=VALUE...",
+         "Gives fields values and saves. A value is what a scene file has, or a formula with units such as "
+         "90deg, "
+         "30 cm or x*2, where x is the present value. Where one of them cannot be set, nothing is saved.",
+         2,
+         Any,
+         {Out},
+         {{"scopix set lamp.xsg /Lamp/Bulb.radius=3", "saves lamp.xsg"},
+          {"scopix set lamp.xsg 'Bulb.radius=x*2' 'Bulb.radius=+= 10 cm' -o larger.xsg",
+           "one after the other"},
+          {"scopix set lamp.xsg 'Glass.diffuseColor=1 0.5 0' -o -", "writes the scene to standard output"}},
+         "0",
+         setFields},
+        {"find",
+         "FILE QUERY",
+         "Prints the paths of the nodes that a query finds; the query is that of the line above the scene "
+         "tree.",
+         2,
+         2,
+         {Json},
+         {{"scopix find lamp.xsg type:Light", "all lights"},
+          {"scopix find lamp.xsg 'transparency>0 -name:glass'", "what is transparent and not called glass"}},
+         "0 where something was found, 1 where not",
+         findNodes},
+        {"diff",
+         "A B",
+         "Prints what makes the scene in A the one in B, as a patch.",
+         2,
+         2,
+         {Json},
+         {{"scopix diff lamp.xsg spare.xsg", "one line a change"},
+          {"scopix diff lamp.xsg spare.xsg > spare.xsgpatch", "keeps it for scopix apply"}},
+         "0 where they are the same, 1 where they differ",
+         compareFiles},
+        {"apply",
+         "PATCH FILE",
+         "Makes the changes of a patch in a scene and saves it. What does not fit the scene is listed and "
+         "the rest "
+         "is applied; applied once more, a patch changes nothing.",
+         2,
+         2,
+         {Out, Json},
+         {{"scopix apply spare.xsgpatch lamp.xsg", "saves lamp.xsg"},
+          {"scopix apply spare.xsgpatch lamp.xsg -o spare.xsg", "leaves lamp.xsg as it is"}},
+         "0 where all of it fits, 1 where some does not",
+         applyPatch},
+        {"convert",
+         "IN OUT",
+         "Reads a scene or model and writes it as a file of the kind that the ending of OUT says: .xsg.",
+         2,
+         2,
+         {},
+         {{"scopix convert lighthouse.glb lighthouse.xsg", "a model becomes a scene"},
+          {"scopix convert lighthouse.glb -", "writes the scene to standard output"}},
+         "0",
+         convertFile},
+        {"picture",
+         "FILE OUT",
+         "Draws a scene or model into a picture file, such as .png or .jpg; needs no display.",
+         2,
+         2,
+         {{"size", "WxH", "The size in pixels; 800x600 at first."},
+          {"camera", "CAMERA",
+           "The path of a camera of the scene, all, front, back, left, right, top or bottom. "
+           "At first the first camera of the scene, or all."},
+          {"frames", "N", "Draws N pictures, OUT-0001 and so on, 1/30 of a second apart."},
+          {"background", "COLOR", "Three numbers from 0 to 1; \"0 0 0\" is black."}},
+         {{"scopix picture lamp.xsg lamp.png", "as the scene's camera sees it"},
+          {"scopix picture lamp.xsg lamp.png --size 400x300 --camera top", "everything, from above"},
+          {"scopix picture lamp.xsg turn.png --size 80x60 --frames 3", "turn-0001.png to turn-0003.png"}},
+         "0",
+         drawPicture},
+        {"check",
+         "FILE...",
+         "Opens files and reports what of them is dropped, missing or odd.",
+         1,
+         Any,
+         {Json},
+         {{"scopix check lamp.xsg lighthouse.glb", "a line for each thing that it notices"},
+          {"scopix check --json lamp.xsg", "the same for other programs"}},
+         "0 where there is nothing to report, 1 where there is something, 2 where a file cannot be read",
+         checkFiles},
+        {"stats",
+         "FILE [PATH]",
+         "Counts nodes, shapes, triangles, pictures and memory of a scene, and of each branch below its root "
+         "or "
+         "below PATH.",
+         1,
+         2,
+         {Json},
+         {{"scopix stats lamp.xsg", "a table"},
+          {"scopix stats --json lamp.xsg", "the same for other programs"}},
+         "0",
+         countScene},
+    };
+    return commands;
+}
+
+const Command* findCommand(const std::string& name)
+{
+    for (const Command& command : allCommands())
+        if (name == command.name)
+            return &command;
+    return nullptr;
+}
+
+std::string commandList()
+{
+    std::string text;
+    for (const Command& command : allCommands()) {
+        std::string line = std::string("  ") + command.name + " " + command.usage;
+        line.resize(std::max<std::size_t>(line.size() + 1, 27), ' ');
+        const std::string summary = command.summary;
+        text += line + summary.substr(0, summary.find_first_of(".;") + 1) + "\n";
+    }
+    return text;
+}
+
+int runCommand(const Command& command, const std::vector<std::string>& words)
+{
+    for (const std::string& word : words) {
+        if (word == "--")
+            break;
+        if (word != "--help")
+            continue;
+        print(helpOf(command));
+        return finishPrinting() ? Fine : Failed;
+    }
+    Arguments arguments;
+    std::string error;
+    if (!parseArguments(command, words, arguments, error)) {
+        complain(std::string(command.name) + ": " + error);
+        return Failed;
+    }
+    int count = 0;
+    std::unique_ptr<QCoreApplication> application;
+    if (!QCoreApplication::instance())
+        application = std::make_unique<QCoreApplication>(count, nullptr);
+    try {
+        const int status = command.run(arguments);
+        return finishPrinting() ? status : Failed;
+    } catch (const std::bad_alloc&) {
+        complain(std::string(command.name) + ": There is not enough memory.");
+    } catch (const std::exception& exception) {
+        complain(std::string(command.name) + ": " + exception.what());
+    }
+    return Failed;
+}
+
+} // namespace scopix

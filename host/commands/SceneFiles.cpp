@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "commands/SceneFiles.h"
+
+#include "commands/Output.h"
+#include "commands/PostedNotes.h"
+#include "document/SceneDocument.h"
+#include "document/TexturePaths.h"
+#include "import/ModelImport.h"
+#include "model/FileChecks.h"
+#include "support/OutputFile.h"
+
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/support/FileReplacement.h>
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+
+namespace scopix
+{
+
+namespace
+{
+
+/// A kind of file that can be written.
+struct Writer {
+    const char* ending;
+    bool (*write)(SoNode* root, const std::string& path, std::string& error);
+};
+
+bool writeSceneFile(SoNode* root, const std::string& path, std::string& error)
+{
+    return SoSceneFile::write(root, path, error);
+}
+
+constexpr std::array Writers{Writer{"xsg", writeSceneFile}};
+
+const Writer* writerOf(const std::string& path)
+{
+    const QString ending = QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower();
+    for (const Writer& writer : Writers)
+        if (ending == QLatin1String(writer.ending))
+            return &writer;
+    return nullptr;
+}
+
+QString folderOf(const std::string& path)
+{
+    return QFileInfo(QFile::decodeName(xsg::followLinks(path).c_str())).absolutePath();
+}
+
+bool isSceneFile(const std::string& path)
+{
+    return QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower() == SceneDocument::sceneEnding();
+}
+
+void readModel(const std::string& path, LoadedScene& scene)
+{
+    const QString file = QFile::decodeName(path.c_str());
+    const QString reason = checkFile(file, SceneDocument::fileExtensions());
+    if (!reason.isEmpty()) {
+        scene.error = reason.toStdString();
+        return;
+    }
+    ModelImport import(nullptr);
+    QEventLoop loop;
+    QObject::connect(&import, &ModelImport::finished, [&](const SoRef<SoSeparator>& root) {
+        scene.root = SoRef<SoNode>(root.get());
+        loop.quit();
+    });
+    QObject::connect(&import, &ModelImport::failed, [&](const QString& sentence) {
+        scene.error = sentence.toStdString();
+        loop.quit();
+    });
+    import.start(file);
+    if (!scene.root && scene.error.empty())
+        loop.exec();
+    for (const QString& note : import.notes())
+        scene.notes.push_back(note.toStdString());
+}
+
+} // namespace
+
+LoadedScene loadScene(const std::string& path)
+{
+    LoadedScene scene;
+    const PostedNotes posted(scene.notes);
+    if (isSceneFile(path)) {
+        scene.root = SoSceneFile::read(path, scene.error);
+        if (!scene.root)
+            scene.notes.clear(); // the same again
+    } else {
+        readModel(path, scene);
+    }
+    if (scene.root)
+        setPictureFolder(scene.root.get(), folderOf(path));
+    return scene;
+}
+
+SoRef<SoNode> loadOrComplain(const std::string& path)
+{
+    LoadedScene scene = loadScene(path);
+    for (const std::string& note : scene.notes)
+        warn(note);
+    if (!scene.root)
+        complain(scene.error);
+    return scene.root;
+}
+
+std::vector<std::string> writtenEndings()
+{
+    std::vector<std::string> endings;
+    for (const Writer& writer : Writers)
+        endings.emplace_back(writer.ending);
+    return endings;
+}
+
+bool canWriteScene(const std::string& path)
+{
+    if (path == "-")
+        return true;
+    QStringList endings;
+    for (const std::string& ending : writtenEndings())
+        endings += QString::fromStdString(ending);
+    const QString file = QFile::decodeName(path.c_str());
+    const QString reason = reasonAgainstWriting(file, endings);
+    if (!reason.isEmpty())
+        complain(QStringLiteral("“%1” cannot be written: %2.").arg(file, reason).toStdString());
+    return reason.isEmpty();
+}
+
+bool writeScene(SoNode* root, const std::string& path)
+{
+    if (path == "-") {
+        print(SoSceneFile::writeText(root));
+        return finishPrinting();
+    }
+    movePictures(root, folderOf(path));
+    std::string error;
+    const bool isWritten = writerOf(path)->write(root, path, error);
+    if (!isWritten)
+        complain(error);
+    return isWritten;
+}
+
+} // namespace scopix

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/changes/SceneChange.h>
+#include <xsg/paths/ChildTable.h>
+
+#include <unordered_map>
+
+namespace xsg
+{
+
+/// Gives fields the states that changes say, in an order in which connections do not overwrite what was
+/// given.
+class FieldApplication
+{
+public:
+    explicit FieldApplication(SceneLookup& lookup)
+        : m_lookup(lookup)
+    {
+    }
+
+    /// Finds the field; `change` must live as long as this. False, and why, where there is none.
+    bool add(const SceneChange& change, std::string& problem);
+    void apply();
+
+    int getApplied() const { return m_applied; }
+    int getAlreadySo() const { return m_alreadySo; }
+    const std::vector<std::pair<const SceneChange*, std::string>>& getMisfits() const { return m_misfits; }
+
+private:
+    struct Item {
+        const SceneChange* change;
+        SoField* field;
+        SoField* source;
+        SbString value; // as the field takes it; null for the default
+        bool wasSame = false;
+        bool isDone = false;
+    };
+
+    bool findValue(Item& item, std::string& problem);
+    void findSource(Item& item);
+    bool textOfNodes(const Item& item, std::string& text, std::string& problem);
+    bool isSame(const Item& item) const;
+    bool write(Item& item, bool propagates);
+    bool reset(SoField& field);
+    void setElement(Item& item);
+    void setPlain(Item& item);
+    void settleConnected(Item& item);
+    void misfit(Item& item, const std::string& reason);
+
+    SceneLookup& m_lookup;
+    std::vector<Item> m_items;
+    std::unordered_map<std::string, SoRef<SoNode>> m_fresh; // by type
+    std::vector<std::pair<const SceneChange*, std::string>> m_misfits;
+    int m_applied = 0;
+    int m_alreadySo = 0;
+};
+
+} // namespace xsg
