@@ -22,6 +22,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace inspector
 {
@@ -30,6 +32,7 @@ namespace
 {
 
 constexpr int MostParents = 4;
+constexpr int ShowEveryMs = 33;
 constexpr int Margin = 6;
 
 void selectPath(const SoPath& path)
@@ -62,8 +65,11 @@ QIcon iconOf(const SoNode* node, const QSize& size)
 
 } // namespace
 
-FieldPanel::FieldPanel(QWidget* parent)
+FieldPanel::FieldPanel(Place place, QWidget* parent)
     : QWidget(parent)
+    , m_place(place)
+    , m_pin(new QAction(tr("&Pin"), this))
+    , m_pinButton(new QToolButton)
     , m_title(new QLabel)
     , m_breadcrumb(new FlowRow)
     , m_nearby(new FlowRow)
@@ -78,6 +84,10 @@ FieldPanel::FieldPanel(QWidget* parent)
     layout->addLayout(makeFilter());
     layout->addWidget(m_rows, 1);
     connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
+    connect(&m_compared, &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
+    connect(&m_compared, &SpxWatcher::objectDestroyed, this, [this] { compareWith(nullptr); });
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, &FieldPanel::refresh);
     new NodeMenu(*this, *m_onlyChanged);
 }
 
@@ -88,11 +98,24 @@ QLayout* FieldPanel::makeHeader()
     m_title->setObjectName(QStringLiteral("nodeTitle"));
     m_title->setTextFormat(Qt::RichText);
     m_title->setMinimumWidth(1);
+    m_pin->setObjectName(QStringLiteral("pin"));
+    m_pin->setToolTip(tr("Keeps this panel in a dock of its own, whatever is selected."));
+    connect(m_pin, &QAction::triggered, this, &FieldPanel::pinRequested);
+    addAction(m_pin); // the menus of the node and of the rows show it
+    m_pinButton->setObjectName(QStringLiteral("pinButton"));
+    m_pinButton->setDefaultAction(m_pin);
+    m_pinButton->setText(tr("Pin"));
+    m_pinButton->setAutoRaise(true);
+    m_pinButton->setFocusPolicy(Qt::TabFocus);
+    setPinnable(false);
     auto* header = new QVBoxLayout;
     header->setContentsMargins(Margin, 0, Margin, 0);
     header->setSpacing(2);
     header->addWidget(m_breadcrumb);
-    header->addWidget(m_title);
+    auto* title = new QHBoxLayout;
+    title->addWidget(m_title, 1);
+    title->addWidget(m_pinButton);
+    header->addLayout(title);
     header->addWidget(m_nearby);
     return header;
 }
@@ -116,24 +139,57 @@ QLayout* FieldPanel::makeFilter()
     return row;
 }
 
-void FieldPanel::setNode(SoFieldContainer* node)
+// What is typed belongs to the nodes that are left.
+void FieldPanel::setNodes(const std::vector<SoFieldContainer*>& nodes)
 {
-    if (node != this->node()) {
+    if (nodes != this->nodes() || nodes.size() != m_watchers.size()) {
+        m_later.stop();
         m_rows->finish();
-        m_life.watch(node);
-        m_rows->setNode(node);
+        watch(nodes);
+        m_rows->setNodes(nodes);
     }
     showPlace();
 }
 
+void FieldPanel::watch(const std::vector<SoFieldContainer*>& nodes)
+{
+    m_watchers.clear();
+    for (SoFieldContainer* node : nodes) {
+        m_watchers.push_back(std::make_unique<SpxWatcher>());
+        m_watchers.back()->watch(node);
+        connect(m_watchers.back().get(), &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
+        connect(m_watchers.back().get(), &SpxWatcher::objectDestroyed, this, &FieldPanel::nodeDestroyed);
+    }
+}
+
+std::vector<SoFieldContainer*> FieldPanel::nodes() const
+{
+    std::vector<SoFieldContainer*> all;
+    for (const auto& watcher : m_watchers) {
+        if (auto* node = dynamic_cast<SoFieldContainer*>(watcher->getObject()))
+            all.push_back(node);
+    }
+    return all;
+}
+
 SoFieldContainer* FieldPanel::node() const
 {
-    return dynamic_cast<SoFieldContainer*>(m_life.getObject());
+    return m_watchers.empty() ? nullptr : dynamic_cast<SoFieldContainer*>(m_watchers.back()->getObject());
 }
 
 void FieldPanel::refresh()
 {
-    m_rows->refresh();
+    m_sinceShown.start();
+    if (node())
+        m_rows->refresh();
+}
+
+void FieldPanel::refreshSoon()
+{
+    if (!m_sinceShown.isValid() || m_sinceShown.elapsed() >= ShowEveryMs)
+        refresh();
+    else if (!m_later.isActive())
+        m_later.start(ShowEveryMs);
 }
 
 void FieldPanel::finish()
@@ -144,6 +200,19 @@ void FieldPanel::finish()
 void FieldPanel::rebuild()
 {
     m_rows->rebuild();
+}
+
+void FieldPanel::setPinnable(bool pinnable)
+{
+    m_pin->setVisible(pinnable);
+    m_pin->setEnabled(pinnable);
+    m_pinButton->setVisible(pinnable);
+}
+
+void FieldPanel::compareWith(SoFieldContainer* other)
+{
+    m_compared.watch(other);
+    m_rows->compareWith(other);
 }
 
 void FieldPanel::focusFilter()
@@ -167,6 +236,11 @@ void FieldPanel::showPlace()
     m_nearby->clear();
     if (!node())
         return m_title->clear();
+    if (m_watchers.size() > 1) {
+        m_title->setText(QStringLiteral("<b>%1</b>").arg(titleOf(nodes()).toHtmlEscaped()));
+        m_title->setToolTip(tr("An edit changes all of them. Where they differ, it says “mixed”."));
+        return;
+    }
     const QString type = SpxText::toQString(node()->getTypeId().getName());
     const QString label = nodeLabel(*node());
     m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
@@ -178,6 +252,21 @@ void FieldPanel::showPlace()
         return;
     showBreadcrumb(path);
     showNearby(path);
+}
+
+// "3 nodes: 2 Material, 1 Cone"
+QString FieldPanel::titleOf(const std::vector<SoFieldContainer*>& nodes) const
+{
+    std::map<QString, int> counts;
+    for (const SoFieldContainer* node : nodes)
+        ++counts[SpxText::toQString(node->getTypeId().getName())];
+    std::vector<std::pair<QString, int>> byCount(counts.begin(), counts.end());
+    std::stable_sort(byCount.begin(), byCount.end(),
+                     [](const auto& a, const auto& b) { return a.second > b.second; });
+    QStringList parts;
+    for (const auto& [type, count] : byCount)
+        parts += QStringLiteral("%1 %2").arg(count).arg(type);
+    return tr("%L1 nodes: %2").arg(nodes.size()).arg(parts.join(QStringLiteral(", ")));
 }
 
 void FieldPanel::showBreadcrumb(const SoPath& path)
@@ -209,6 +298,8 @@ void FieldPanel::showNearby(const SoPath& path)
 
 void FieldPanel::choose(SoField* field)
 {
+    if (m_place == Place::Pinned)
+        return;
     if (SpxSceneServices* scene = SpxSceneServices::getInstance())
         scene->selectField(field);
 }

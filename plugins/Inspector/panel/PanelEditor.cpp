@@ -3,7 +3,10 @@
 
 #include "fields/PanelSettings.h"
 #include "panel/FieldPanel.h"
+#include "panel/PinnedPanels.h"
 
+#include <scopix/SpxSceneServices.h>
+#include <scopix/SpxServices.h>
 #include <scopix/SpxShellMenus.h>
 #include <xsg/core/SoFieldContainer.h>
 
@@ -13,22 +16,14 @@
 namespace inspector
 {
 
-namespace
-{
-
-constexpr int ShowEveryMs = 33;
-
-} // namespace
-
-PanelEditor::PanelEditor()
+PanelEditor::PanelEditor(PinnedPanels& pins)
+    : m_pins(pins)
 {
     setName("Panel");
     setDescription("Shows every field of a node and edits them in place.");
     setVendor("Arvex");
     setVersion("1.0.0");
     setHandledType(SoFieldContainer::getClassTypeId());
-    m_later.setSingleShot(true);
-    connect(&m_later, &QTimer::timeout, this, &PanelEditor::showChanges);
 }
 
 PanelEditor::~PanelEditor() = default;
@@ -37,10 +32,14 @@ void PanelEditor::load()
 {
     SpxObjectEditor::load();
     addMenus();
+    if (SpxServices* services = SpxServices::getInstance())
+        connect(services, &SpxServices::selectedNodeChanged, this, &PanelEditor::follow);
 }
 
 void PanelEditor::unload()
 {
+    if (SpxServices* services = SpxServices::getInstance())
+        disconnect(services, nullptr, this, nullptr);
     removeMenus();
     SpxObjectEditor::unload();
 }
@@ -52,6 +51,8 @@ void PanelEditor::build(QWidget& widget)
     layout->setContentsMargins(0, 0, 0, 0);
     m_panel = new FieldPanel;
     layout->addWidget(m_panel);
+    connect(m_panel, &FieldPanel::pinRequested, this, [this] { m_pins.pin(m_panel->nodes()); });
+    connect(&m_pins, &PinnedPanels::comparedChanged, m_panel, [this] { showNodes(); });
 }
 
 void PanelEditor::addMenus()
@@ -91,33 +92,42 @@ void PanelEditor::filter()
 void PanelEditor::activate()
 {
     SpxObjectEditor::activate();
-    m_panel->setNode(edited<SoFieldContainer>());
+    showNodes();
+}
+
+// Others were selected with it, or are no longer.
+void PanelEditor::follow(SoFieldContainer* node)
+{
+    if (m_panel && node && node == m_panel->node())
+        showNodes();
+}
+
+void PanelEditor::showNodes()
+{
+    auto* node = edited<SoFieldContainer>();
+    const SpxSceneServices* scene = SpxSceneServices::getInstance();
+    const QList<SoFieldContainer*> selected = scene ? scene->getSelectedNodes() : QList<SoFieldContainer*>();
+    if (!selected.isEmpty() && selected.last() == node)
+        m_panel->setNodes({selected.begin(), selected.end()});
+    else
+        m_panel->setNodes(node ? std::vector<SoFieldContainer*>{node} : std::vector<SoFieldContainer*>());
+    m_panel->setPinnable(m_pins.isActive());
+    const bool isOne = m_panel->nodes().size() == 1;
+    m_panel->compareWith(isOne && m_pins.compared() != node ? m_pins.compared() : nullptr);
 }
 
 // What is typed belongs to the node that is left.
 void PanelEditor::deactivate()
 {
-    m_later.stop();
     if (m_panel)
-        m_panel->setNode(nullptr);
+        m_panel->setNodes({});
     SpxObjectEditor::deactivate();
 }
 
 void PanelEditor::refresh()
 {
-    if (m_sinceShown.isValid() && m_sinceShown.elapsed() < ShowEveryMs) {
-        if (!m_later.isActive())
-            m_later.start(ShowEveryMs);
-        return;
-    }
-    showChanges();
-}
-
-void PanelEditor::showChanges()
-{
-    m_sinceShown.start();
-    if (m_panel && m_panel->node())
-        m_panel->refresh();
+    if (m_panel)
+        m_panel->refreshSoon();
 }
 
 } // namespace inspector

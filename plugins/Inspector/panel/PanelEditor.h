@@ -3,9 +3,7 @@
 
 #include <scopix/editing/SpxObjectEditor.h>
 
-#include <QElapsedTimer>
 #include <QPointer>
-#include <QTimer>
 
 #include <memory>
 
@@ -15,15 +13,17 @@ namespace inspector
 {
 
 class FieldPanel;
+class PinnedPanels;
 
-/// The panel of a whole node, whatever its type, for the dock that shows node editors. Shows changes at most
-/// 30 times a second. GUI thread only.
+/// The panel of a whole node, whatever its type, or of all selected nodes, for the dock that shows node
+/// editors. GUI thread only.
 class PanelEditor : public SpxObjectEditor
 {
     Q_OBJECT
 
 public:
-    PanelEditor();
+    /// `pins` must outlive it.
+    explicit PanelEditor(PinnedPanels& pins);
     ~PanelEditor() override;
 
     void load() override;
@@ -36,14 +36,14 @@ protected:
     void refresh() override;
 
 private:
-    void showChanges();
+    void showNodes();
+    void follow(SoFieldContainer* node);
     void addMenus();
     void removeMenus();
     void filter();
 
+    PinnedPanels& m_pins;
     QPointer<FieldPanel> m_panel;
-    QElapsedTimer m_sinceShown;
-    QTimer m_later;
     std::unique_ptr<QAction> m_filterAction;
     std::unique_ptr<QAction> m_degreesAction;
 };

@@ -68,11 +68,16 @@ std::array<int, 3> channelsOf(const QColor& color)
     return {color.red(), color.green(), color.blue()};
 }
 
-QPixmap swatch(const QColor& color, const QSize& size, double ratio)
+// Several colours as stripes.
+QPixmap swatch(const std::vector<QColor>& colors, const QSize& size, double ratio)
 {
     QPixmap pixmap(size * ratio);
     pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(color);
+    pixmap.fill(colors.front());
+    QPainter painter(&pixmap);
+    const double width = double(size.width()) / double(colors.size());
+    for (std::size_t i = 1; i < colors.size(); ++i)
+        painter.fillRect(QRectF(double(i) * width, 0, width, size.height()), colors[i]);
     return pixmap;
 }
 
@@ -190,10 +195,12 @@ void ColorRow::showValue()
 {
     updateParts();
     NumberInputsRow::showValue();
-    const QString name = color().name();
+    const std::vector<QColor> shown = colors();
+    const QString name = shown.size() > 1 ? mixedWord() : shown.front().name();
     if (!m_hex->isModified() || !m_hex->hasFocus())
-        m_hex->setText(name);
-    m_swatch->setIcon(swatch(color(), m_swatch->iconSize(), devicePixelRatioF()));
+        m_hex->setText(shown.size() > 1 ? QString() : name);
+    m_hex->setPlaceholderText(shown.size() > 1 ? name : QString());
+    m_swatch->setIcon(swatch(shown, m_swatch->iconSize(), devicePixelRatioF()));
     m_swatch->setToolTip(tr("%1, sRGB. A click opens the colour picker.").arg(name));
     m_swatch->setAccessibleDescription(tr("%1, sRGB").arg(name));
 }
@@ -297,11 +304,26 @@ QColor ColorRow::color() const
     return QColor::fromRgbF(parts[0], parts[1], parts[2]);
 }
 
+// The different ones, as many as stripes can be told apart.
+std::vector<QColor> ColorRow::colors()
+{
+    constexpr std::size_t MostStripes = 6;
+    std::vector<QColor> all{color()};
+    if (!isMixed())
+        return all;
+    forEachField([&](std::size_t) {
+        const QColor each = color();
+        if (all.size() < MostStripes && std::find(all.begin(), all.end(), each) == all.end())
+            all.push_back(each);
+    });
+    return all;
+}
+
 // What a material's colour lets through stands beside it.
 SoSFFloat* ColorRow::transparency() const
 {
     const SoFieldContainer* node = field()->getContainer();
-    const bool isMain = field()->getName() == SbName("diffuseColor");
+    const bool isMain = field()->getName() == SbName("diffuseColor") && fields().size() == 1;
     return node && isMain ? dynamic_cast<SoSFFloat*>(node->getField("transparency")) : nullptr;
 }
 
@@ -320,7 +342,7 @@ void ColorRow::openPicker()
     m_picked = m_picker->currentColor();
     m_picker->setAttribute(Qt::WA_DeleteOnClose);
     m_picker->setWindowTitle(tr("%1, sRGB").arg(fieldName()));
-    gesture().begin(field());
+    beginGesture();
     if (through)
         m_transparency.begin(through);
     connect(m_picker, &QColorDialog::currentColorChanged, this, &ColorRow::pick);
@@ -330,7 +352,8 @@ void ColorRow::openPicker()
 
 void ColorRow::pick(const QColor& picked)
 {
-    gesture().write([&] { take(picked, m_picked); });
+    gesture().write(
+        [&] { forEachField([&](std::size_t) { take(picked, isOther() ? color() : m_picked); }); });
     if (picked.alpha() != m_picked.alpha())
         m_transparency.write([&] {
             static_cast<SoSFFloat*>(m_transparency.getField())->setValue(float(1 - picked.alphaF()));
@@ -354,12 +377,14 @@ void ColorRow::take(const QColor& color, const QColor& reference)
 void ColorRow::close(bool keep)
 {
     m_picker = nullptr;
-    for (SpxFieldGesture* each : {&gesture(), &m_transparency}) {
+    const auto end = [keep](auto& each) {
         if (keep)
-            each->keep();
+            each.keep();
         else
-            each->giveBack();
-    }
+            each.giveBack();
+    };
+    end(gesture());
+    end(m_transparency);
     changedHere();
 }
 

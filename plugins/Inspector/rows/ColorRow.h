@@ -5,6 +5,8 @@
 #include "fields/PanelSettings.h"
 #include "rows/NumberInputsRow.h"
 
+#include <scopix/editing/SpxFieldGesture.h>
+
 #include <QColor>
 #include <QPointer>
 
@@ -37,6 +39,7 @@ protected:
     double shownNumber(int which) const override;
     QString shownText(int which) const override;
     void writeNumber(int which, double number) override;
+    void fieldSwitched() override { updateParts(); }
     bool takeText(const QString& text) override;
 
 private:
@@ -53,6 +56,7 @@ private:
     void take(const QColor& color, const QColor& reference);
     void close(bool keep);
     QColor color() const;
+    std::vector<QColor> colors();
     ColorParts stored() const;
     void writeStored(int which, double number);
     SoSFFloat* transparency() const;

@@ -26,6 +26,7 @@ protected:
     double shownNumber(int which) const override;
     QString shownText(int which) const override;
     void writeNumber(int which, double number) override;
+    void fieldSwitched() override { updateParts(); }
 
 private:
     QWidget* makeForms();

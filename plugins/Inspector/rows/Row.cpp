@@ -10,6 +10,8 @@
 #include "rows/NumberEdit.h"
 #include "rows/RowMenu.h"
 
+#include <scopix/editing/SpxFieldEdit.h>
+#include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
@@ -21,7 +23,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
+#include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
@@ -107,6 +111,8 @@ QList<QWidget*> Row::inputs() const
         if (input->isVisibleTo(this) && input->isEnabled())
             reachable += input;
     }
+    if (m_take && m_take->isVisibleTo(this))
+        reachable += m_take;
     return reachable;
 }
 
@@ -133,10 +139,15 @@ void Row::placeParts()
     const int captionWidth = m_isStacked ? width() - left : int(width() * share) - left;
     m_mark->setGeometry(0, 0, mark, firstLine);
     m_caption->setGeometry(left, 0, std::max(0, captionWidth), firstLine);
+    // Room for the offer as long as one is compared, so that nothing moves when a value becomes equal.
+    const int offer = m_take && m_compared ? mark + 2 * Gap : 0;
     if (m_isStacked)
-        m_editor->setGeometry(left, line, width() - left, height() - line);
+        m_editor->setGeometry(left, line, width() - left - offer, height() - line);
     else
-        m_editor->setGeometry(left + captionWidth + Gap, 0, width() - left - captionWidth - Gap, height());
+        m_editor->setGeometry(left + captionWidth + Gap, 0, width() - left - captionWidth - Gap - offer,
+                              height());
+    if (m_take)
+        m_take->setGeometry(width() - offer, m_isStacked ? line : 0, offer, mark + 2 * Gap);
 }
 
 QString Row::fieldName() const
@@ -161,12 +172,53 @@ QString Row::toolTipText() const
     return toolTipOf(*field(), m_description);
 }
 
+std::vector<SoField*> Row::fields() const
+{
+    std::vector<SoField*> all;
+    if (field())
+        all.push_back(field());
+    for (const SpxFieldPointer& other : m_others) {
+        if (other && other.get() != field())
+            all.push_back(other.get());
+    }
+    return all;
+}
+
+bool Row::isMixed() const
+{
+    return std::any_of(m_others.begin(), m_others.end(), [this](const SpxFieldPointer& other) {
+        return other && field() && !other->isSame(*field());
+    });
+}
+
+bool Row::isAny(bool (SoField::*is)() const) const
+{
+    const std::vector<SoField*> all = fields();
+    return std::any_of(all.begin(), all.end(), [is](const SoField* each) { return (each->*is)(); });
+}
+
+bool Row::areAllDefault() const
+{
+    const std::vector<SoField*> all = fields();
+    return std::all_of(all.begin(), all.end(), [](const SoField* each) { return each->isDefault(); });
+}
+
+// Of all together: it differs after a change of any.
+quint32 Row::changeCount() const
+{
+    quint32 sum = 0;
+    for (const SoField* each : fields()) {
+        each->evaluate();
+        sum += each->getChangeCount();
+    }
+    return m_compared ? sum + m_compared->getChangeCount() : sum;
+}
+
 void Row::refresh()
 {
     if (!field())
         return;
-    field()->evaluate();
-    const quint32 change = field()->getChangeCount();
+    const quint32 change = changeCount();
     if (!m_isShown || change != m_shownChange) {
         if (m_isShown)
             noteChange(change);
@@ -194,7 +246,7 @@ void Row::changedHere()
 {
     if (!field())
         return;
-    m_shownChange = field()->getChangeCount();
+    m_shownChange = changeCount();
     m_hasConflict = false;
     m_changesInARow = 0;
     showValue();
@@ -205,21 +257,76 @@ void Row::showMark()
 {
     using State = Mark::State;
     const SoField* source = field()->getConnectedField();
+    const bool isChanged = !areAllDefault();
     const bool isAnimated = m_changesInARow >= AnimatedAfter && steadyMs() - m_lastChange < 2 * SoonAfterMs;
     if (m_hasConflict)
         m_mark->setState(State::Conflict, tr("Changed elsewhere meanwhile: take that value, or keep yours."));
     else if (source)
         m_mark->setState(State::Connected, tr("Follows %1.").arg(pathOf(*source)));
-    else if (field()->isIgnored())
+    else if (isAny(&SoField::isIgnored))
         m_mark->setState(State::Ignored, tr("Ignored: takes no part."));
     else if (isAnimated)
         m_mark->setState(State::Animated, tr("Changes by itself."));
-    else if (!field()->isDefault())
+    else if (isChanged)
         m_mark->setState(State::Changed, tr("Changed: not the default."));
     else
         m_mark->setState(State::Default, tr("The default."));
-    m_caption->setStrong(!field()->isDefault());
+    m_caption->setStrong(isChanged);
+    showDifference();
     m_editor->setEnabled(true);
+}
+
+void Row::compareWith(SoField* other)
+{
+    if (other == m_compared.get() && !m_take)
+        return;
+    m_compared = other;
+    if (other && !m_take) {
+        m_take = new QToolButton(this);
+        m_take->setObjectName(QStringLiteral("takeCompared"));
+        m_take->setAutoRaise(true);
+        m_take->setText(QChar(0x21E6));
+        m_take->setAccessibleName(tr("Take the compared value of %1").arg(fieldName()));
+        m_take->setFocusPolicy(Qt::TabFocus);
+        connect(m_take, &QToolButton::clicked, this, &Row::takeCompared);
+    }
+    m_shownChange = changeCount();
+    showDifference();
+}
+
+bool Row::isDifferent() const
+{
+    return field() && m_compared && !m_compared->isSame(*field());
+}
+
+void Row::showDifference()
+{
+    if (!m_take)
+        return;
+    m_take->setVisible(isDifferent());
+    if (isDifferent())
+        m_take->setToolTip(tr("Differs: takes %1, the value of the node that it is compared with.")
+                               .arg(summary(*m_compared.get())));
+    placeParts();
+    update();
+}
+
+void Row::takeCompared()
+{
+    const SpxFieldPointer compared = m_compared;
+    if (compared)
+        edit([&] { return field()->copyFrom(*compared.get()); });
+}
+
+void Row::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!m_take || !isDifferent())
+        return;
+    constexpr int Tint = 50; // of 255: the text stays legible on it
+    QColor color = palette().color(QPalette::Highlight);
+    color.setAlpha(Tint);
+    QPainter(this).fillRect(rect(), color);
 }
 
 void Row::takeTheirs()
@@ -255,28 +362,27 @@ void Row::showMenu(const QPoint& where)
 
 void Row::addStateEntries(QMenu& menu)
 {
-    const SpxFieldPointer edited = m_field;
     if (m_hasConflict) {
         menu.addAction(tr("&Take the New Value"), this, &Row::takeTheirs);
         menu.addAction(tr("&Keep Mine"), this, &Row::keepMine);
         menu.addSeparator();
     }
-    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!field()->isDefault());
+    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!areAllDefault());
     QAction* ignore = menu.addAction(tr("&Ignore"));
     ignore->setCheckable(true);
     ignore->setChecked(field()->isIgnored());
-    connect(ignore, &QAction::triggered, this, [this, edited](bool ignored) {
-        if (edited)
-            SpxFieldEdit::setIgnored(edited.get(), ignored);
+    connect(ignore, &QAction::triggered, this, [this](bool ignored) {
+        for (SoField* each : fields())
+            SpxFieldEdit::setIgnored(each, ignored);
         changedHere();
     });
     menu.addAction(tr("C&onnect to a Field…"), this, &Row::connectField);
-    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this, edited] {
-        if (edited)
-            SpxFieldEdit::setSource(edited.get(), nullptr);
+    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this] {
+        for (SoField* each : fields())
+            SpxFieldEdit::setSource(each, nullptr);
         changedHere();
     });
-    disconnect->setEnabled(field()->isConnected());
+    disconnect->setEnabled(isAny(&SoField::isConnected));
 }
 
 void Row::addTextEntries(QMenu& menu)
@@ -304,18 +410,27 @@ void Row::connectField()
     const QPointer<Row> self(this); // the row may go while the dialog is open
     const SpxFieldPointer edited = m_field;
     ConnectDialog dialog(*edited.get(), window());
-    if (dialog.exec() == QDialog::Accepted && edited && dialog.chosen())
-        SpxFieldEdit::setSource(edited.get(), dialog.chosen());
-    if (self)
-        changedHere();
+    const bool isChosen = dialog.exec() == QDialog::Accepted && edited && dialog.chosen();
+    if (!self)
+        return;
+    for (SoField* each : isChosen ? fields() : std::vector<SoField*>()) {
+        if (each != dialog.chosen())
+            SpxFieldEdit::setSource(each, dialog.chosen());
+    }
+    changedHere();
 }
 
 void Row::reset()
 {
     if (!field())
         return;
-    SpxFieldEdit::setToDefault(field());
-    changedHere();
+    edit([&] {
+        const SpxFreshDefault fresh(field());
+        const bool isWritten = fresh.get() && field()->copyFrom(*fresh.get());
+        if (isWritten)
+            field()->setDefault(true);
+        return isWritten;
+    });
 }
 
 void Row::copyValue() const
@@ -329,7 +444,10 @@ void Row::pasteValue()
     const QString text = QApplication::clipboard()->text().trimmed();
     if (!field() || text.isEmpty())
         return;
-    if (!pasteText(field(), text))
+    bool isPasted = true;
+    for (SoField* each : fields())
+        isPasted = pasteText(each, text) && isPasted;
+    if (!isPasted)
         QToolTip::showText(
             mapToGlobal(QPoint(0, height())),
             tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);

@@ -60,7 +60,8 @@ void TextRow::showValue()
 {
     if (m_line->hasFocus() && m_line->isModified())
         return;
-    QString text = shownText();
+    QString text = isMixed() ? QString() : shownText();
+    m_line->setPlaceholderText(isMixed() ? mixedWord() : QString());
     const bool hasLines = isPlain() && text.contains(QLatin1Char('\n'));
     text.replace(QLatin1Char('\n'), QChar(0x23CE));
     m_line->setReadOnly(hasLines);
@@ -90,7 +91,11 @@ void TextRow::apply()
     const QString text = m_line->text();
     m_line->setModified(false);
     bool isValue = true;
-    edit([&] { return isValue = writeText(text); });
+    edit([&] {
+        const bool isWritten = writeText(text);
+        isValue = isValue && isWritten;
+        return isWritten;
+    });
     if (!isValue && isVisible())
         QToolTip::showText(m_line->mapToGlobal(QPoint(0, m_line->height())),
                            tr("“%1” is no value for %2.").arg(text.left(40), fieldName()), m_line);

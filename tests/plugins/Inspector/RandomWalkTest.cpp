@@ -11,6 +11,7 @@
 #include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -84,20 +85,22 @@ protected:
         if (focus && session.panel() && session.panel()->isAncestorOf(focus))
             QTest::keyClicks(focus, QLatin1String(texts[below(int(std::size(texts)))]));
     }
-    void drag(QWidget* input)
+    // Another row may take its place meanwhile.
+    void drag(const QPointer<QWidget>& input)
     {
         QPoint at = input->rect().center();
         const Qt::KeyboardModifiers modifiers = below(3) == 0   ? Qt::ShiftModifier
                                                 : below(3) == 0 ? Qt::ControlModifier
                                                                 : Qt::NoModifier;
         QTest::mousePress(input, Qt::LeftButton, modifiers, at);
-        for (int i = 0, speed = below(41) - 20; i < 5; ++i) {
+        for (int i = 0, speed = below(41) - 20; i < 5 && input; ++i) {
             at.rx() += speed;
             InspectorSession::move(input, at, modifiers);
         }
-        if (below(4) == 0)
+        if (input && below(4) == 0)
             QTest::keyClick(input, Qt::Key_Escape);
-        QTest::mouseRelease(input, Qt::LeftButton, modifiers, at);
+        if (input)
+            QTest::mouseRelease(input, Qt::LeftButton, modifiers, at);
     }
     void turnWheel(QWidget* input)
     {
