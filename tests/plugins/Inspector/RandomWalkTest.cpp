@@ -1,23 +1,37 @@
 // SPDX-License-Identifier: MIT
-// Random events over the panel of a node of every type: showing writes nothing, and undoing all restores
-// every bit. SCOPIX_WALK_STEPS and SCOPIX_WALK_SEED choose another walk.
+// Random events over the panel and the tables of a node of every type: showing writes nothing, and undoing
+// all restores every bit. SCOPIX_WALK_STEPS and SCOPIX_WALK_SEED choose another walk.
 #include "plugins/Inspector/InspectorSession.h"
 
 #include <support/QtWarnings.h>
 
+#include <xsg/core/SoMField.h>
+
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QComboBox>
+#include <QFileDialog>
+#include <QPointer>
 #include <QScrollBar>
+#include <QTimer>
 
 #include <random>
 
 namespace
 {
 
+constexpr int LongestList = 200;
+
 class Walk : public testing::Test
 {
 protected:
+    Walk()
+    {
+        // Menus and dialogs are answered: one would wait for a user.
+        answer.setInterval(0);
+        QObject::connect(&answer, &QTimer::timeout, [this] { closeWhatOpened(); });
+        answer.start();
+    }
     static int setting(const char* name, int otherwise)
     {
         return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
@@ -46,8 +60,7 @@ protected:
                 input->accessibleName().endsWith(QLatin1String("choose a file"));
             const bool isInput = qobject_cast<QLineEdit*>(input) || qobject_cast<QAbstractButton*>(input) ||
                                  qobject_cast<QComboBox*>(input);
-            if (isInput && input->isVisible() && input->isEnabled() && !opensADialogThatBlocks &&
-                input->objectName() != QLatin1String("mark"))
+            if (isInput && input->isVisible() && input->isEnabled() && !opensADialogThatBlocks)
                 inputs += input;
         }
         return inputs.isEmpty() ? nullptr : inputs[below(inputs.size())];
@@ -72,20 +85,22 @@ protected:
         if (focus && session.panel() && session.panel()->isAncestorOf(focus))
             QTest::keyClicks(focus, QLatin1String(texts[below(int(std::size(texts)))]));
     }
-    void drag(QWidget* input)
+    // Another row may take its place meanwhile.
+    void drag(const QPointer<QWidget>& input)
     {
         QPoint at = input->rect().center();
         const Qt::KeyboardModifiers modifiers = below(3) == 0   ? Qt::ShiftModifier
                                                 : below(3) == 0 ? Qt::ControlModifier
                                                                 : Qt::NoModifier;
         QTest::mousePress(input, Qt::LeftButton, modifiers, at);
-        for (int i = 0, speed = below(41) - 20; i < 5; ++i) {
+        for (int i = 0, speed = below(41) - 20; i < 5 && input; ++i) {
             at.rx() += speed;
             InspectorSession::move(input, at, modifiers);
         }
-        if (below(4) == 0)
+        if (input && below(4) == 0)
             QTest::keyClick(input, Qt::Key_Escape);
-        QTest::mouseRelease(input, Qt::LeftButton, modifiers, at);
+        if (input)
+            QTest::mouseRelease(input, Qt::LeftButton, modifiers, at);
     }
     void turnWheel(QWidget* input)
     {
@@ -95,17 +110,106 @@ protected:
     }
     void closeWhatOpened()
     {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+            return chooseOrClose(*menu);
         if (QWidget* popup = QApplication::activePopupWidget())
             popup->close();
-        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-            below(2) ? dialog->accept() : dialog->reject();
+        else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            below(2) && !qobject_cast<QFileDialog*>(dialog) ? dialog->accept() : dialog->reject();
     }
+    void chooseOrClose(QMenu& menu)
+    {
+        const QList<QAction*> actions = menu.actions();
+        QAction* action = actions.isEmpty() ? nullptr : actions[below(actions.size())];
+        if (!action || !isHarmless(*action) || below(2))
+            return void(menu.close());
+        // Not in the timer's own time, which does not run again while a dialog that opens is waiting.
+        QTimer::singleShot(0, &menu, [&menu, action = QPointer<QAction>(action)] {
+            menu.setActiveAction(action);
+            QTest::keyClick(&menu, Qt::Key_Return);
+        });
+    }
+    // What asks for a file of this computer, or opens another window, is tested elsewhere.
+    static bool isHarmless(const QAction& action)
+    {
+        const QString text = QString(action.text()).remove('&');
+        const auto has = [&text](const char* part) { return text.contains(QLatin1String(part)); };
+        return !has("CSV") && !has("Help") && !has("Pin") && !has("New Nodes") && !has("new nodes");
+    }
+
+    QList<QWidget*> tables()
+    {
+        QList<QWidget*> shown;
+        for (auto* table : session.host.window().findChildren<QAbstractScrollArea*>("listTable")) {
+            if (table->isVisible())
+                shown += table;
+        }
+        return shown;
+    }
+    void openAList(const SoNode& node)
+    {
+        std::vector<SoField*> lists;
+        const SoFieldData* fields = node.getFieldData();
+        for (int i = 0; i < fields->getNumFields(); ++i) {
+            if (dynamic_cast<SoMField*>(fields->getField(&node, i)))
+                lists.push_back(fields->getField(&node, i));
+        }
+        if (!lists.empty())
+            session.select(lists[std::size_t(below(int(lists.size())))]);
+    }
+    void workInATable(const SoNode& node)
+    {
+        const QList<QWidget*> shown = tables();
+        if (shown.isEmpty() || below(20) == 0)
+            return openAList(node);
+        auto* table = static_cast<QAbstractScrollArea*>(shown[below(shown.size())]);
+        switch (below(6)) {
+        case 0:
+            QTest::mouseClick(table->viewport(), Qt::LeftButton,
+                              below(3) ? Qt::NoModifier : Qt::ShiftModifier,
+                              {below(table->viewport()->width()), below(table->viewport()->height())});
+            break;
+        case 1: {
+            QAction* action = table->actions()[below(table->actions().size())];
+            if (isHarmless(*action) && action->isEnabled())
+                action->trigger();
+            break;
+        }
+        default:
+            table->setFocus();
+            pressInATable();
+        }
+    }
+    void pressInATable()
+    {
+        static const Qt::Key keys[] = {
+            Qt::Key_Up,       Qt::Key_Down,      Qt::Key_Left, Qt::Key_Right,  Qt::Key_Home,   Qt::Key_End,
+            Qt::Key_PageDown, Qt::Key_Return,    Qt::Key_Tab,  Qt::Key_Delete, Qt::Key_Insert, Qt::Key_Space,
+            Qt::Key_Escape,   Qt::Key_Backspace, Qt::Key_7,    Qt::Key_Minus,  Qt::Key_A,      Qt::Key_C,
+            Qt::Key_V,        Qt::Key_D,         Qt::Key_T,    Qt::Key_X,      Qt::Key_F2};
+        static const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
+                                                          Qt::ControlModifier};
+        if (QWidget* focus = QApplication::focusWidget())
+            QTest::keyClick(focus, keys[below(int(std::size(keys)))],
+                            modifiers[below(int(std::size(modifiers)))]);
+    }
+    static bool hasALongList(const SoNode& node)
+    {
+        const SoFieldData* fields = node.getFieldData();
+        for (int i = 0; i < fields->getNumFields(); ++i) {
+            const auto* list = dynamic_cast<const SoMField*>(fields->getField(&node, i));
+            if (list && list->getNum() > LongestList)
+                return true;
+        }
+        return false;
+    }
+
     void step(SoNode* node)
     {
         if (!session.panel())
             return session.selectNode(node);
         QWidget* input = anyInput();
-        switch (input ? below(9) : 8) {
+        switch (input ? below(13) : 8 + below(5)) {
         case 0:
             QTest::mouseClick(input, Qt::LeftButton);
             break;
@@ -126,16 +230,24 @@ protected:
             bar->setValue(below(bar->maximum() + 1));
             break;
         }
+        case 9:
+        case 10:
+        case 11:
+        case 12:
+            workInATable(*node);
+            break;
         default:
             press();
         }
         session.settle();
-        closeWhatOpened();
+        while (hasALongList(*node) && session.stack().canUndo())
+            session.stack().undo();
         if (session.host.services().selectedNode() != node)
             session.selectNode(node);
     }
 
     std::mt19937 random{unsigned(setting("SCOPIX_WALK_SEED", 1))};
+    QTimer answer;
     InspectorSession session{260};
 };
 
