@@ -3,8 +3,10 @@
 
 #include <QDockWidget>
 #include <QEvent>
-#include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QTextEdit>
 
 namespace scopix
 {
@@ -15,6 +17,8 @@ FoldedDock::FoldedDock(QDockWidget& dock)
     , m_content(dock.widget())
 {
     dock.installEventFilter(this);
+    if (m_content)
+        m_content->installEventFilter(this);
     connect(&dock, &QDockWidget::topLevelChanged, this, &FoldedDock::unfold);
     watchTexts();
     fold();
@@ -29,42 +33,55 @@ FoldedDock* FoldedDock::of(const QDockWidget& dock)
 
 void FoldedDock::fold()
 {
+    if (!parent())
+        return;
     if (m_content)
         m_content->hide();
     m_dock.setMaximumHeight(m_dock.minimumSizeHint().height());
 }
 
-// Whatever widget shows the text: those of Qt say by this signal that theirs has changed.
 void FoldedDock::watchTexts()
 {
-    const QMetaMethod unfold = metaObject()->method(metaObject()->indexOfMethod("unfold()"));
-    for (QWidget* each : m_content ? m_content->findChildren<QWidget*>() : QList<QWidget*>()) {
-        const QMetaObject* type = each->metaObject();
-        const int changed = type->indexOfSignal("textChanged()");
-        if (changed >= 0)
-            connect(each, type->method(changed), this, unfold);
+    watchAll<QTextEdit>();
+    watchAll<QPlainTextEdit>();
+}
+
+// A text that is set up, and stays empty, says nothing.
+template <class Text>
+void FoldedDock::watchAll()
+{
+    for (Text* each : m_content ? m_content->findChildren<Text*>() : QList<Text*>()) {
+        connect(each, &Text::textChanged, this, [this, each] {
+            if (!each->document()->isEmpty())
+                unfold();
+        });
     }
 }
 
 void FoldedDock::unfold()
 {
-    disconnect();
+    if (!parent())
+        return;
     m_dock.removeEventFilter(this);
     m_dock.disconnect(this);
     m_dock.setMaximumHeight(QWIDGETSIZE_MAX);
-    if (m_content)
+    if (m_content) {
+        m_content->removeEventFilter(this);
         m_content->show();
+    }
     setParent(nullptr); // at once no longer the dock's
     deleteLater();
 }
 
 bool FoldedDock::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonRelease &&
-        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+    if (watched == m_content && event->type() == QEvent::ShowToParent)
+        m_content->hide(); // a tool that comes up shows all that it has
+    else if (watched == &m_dock && event->type() == QEvent::MouseButtonRelease &&
+             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         unfold();
     // The title grows with the font.
-    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    else if (watched == &m_dock && event->type() == QEvent::FontChange)
         QMetaObject::invokeMethod(
             this, [this] { fold(); }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);

@@ -23,13 +23,15 @@ public:
 
     /// Null where the dock is not folded.
     static FoldedDock* of(const QDockWidget& dock);
-    Q_INVOKABLE void unfold();
+    void unfold();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fold();
     void watchTexts();
+    template <class Text>
+    void watchAll();
 
     QDockWidget& m_dock;
     QPointer<QWidget> m_content;

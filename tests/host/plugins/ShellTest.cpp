@@ -405,6 +405,7 @@ TEST_F(Shell, AFoldedDockShowsItsTitleUntilItHasSomethingToSay)
     m_one.start(m_shell);
     m_window.addDockWidget(Qt::BottomDockWidgetArea, &m_one.m_dock);
     runLoop();
+    content->setVisible(true); // as a tool does that comes up
     EXPECT_FALSE(text->isVisible());
     EXPECT_LT(m_one.m_dock.height(), 3 * m_one.m_dock.fontMetrics().height());
     EXPECT_EQ(m_shell.foldedDocks(), QStringList{"One"});
