@@ -8,6 +8,9 @@
 #include <QTextDocument>
 #include <QTextEdit>
 
+#include <algorithm>
+#include <utility>
+
 namespace scopix
 {
 
@@ -17,9 +20,9 @@ FoldedDock::FoldedDock(QDockWidget& dock)
     , m_content(dock.widget())
 {
     dock.installEventFilter(this);
-    if (m_content)
-        m_content->installEventFilter(this);
     connect(&dock, &QDockWidget::topLevelChanged, this, &FoldedDock::unfold);
+    if (m_content)
+        m_content->setEnabled(false); // out of the reach of Tab
     watchTexts();
     fold();
 }
@@ -28,15 +31,18 @@ FoldedDock::~FoldedDock() = default;
 
 FoldedDock* FoldedDock::of(const QDockWidget& dock)
 {
-    return dock.findChild<FoldedDock*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto all = dock.findChildren<FoldedDock*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto isFolded = [](const FoldedDock* each) { return !each->m_isOpen; };
+    const auto found = std::find_if(all.begin(), all.end(), isFolded);
+    return found == all.end() ? nullptr : *found;
 }
 
 void FoldedDock::fold()
 {
-    if (!parent())
+    if (m_isOpen)
         return;
     if (m_content)
-        m_content->hide();
+        m_content->setMaximumHeight(0); // hidden, it would leave no width to the title
     m_dock.setMaximumHeight(m_dock.minimumSizeHint().height());
 }
 
@@ -60,28 +66,25 @@ void FoldedDock::watchAll()
 
 void FoldedDock::unfold()
 {
-    if (!parent())
+    if (std::exchange(m_isOpen, true))
         return;
     m_dock.removeEventFilter(this);
     m_dock.disconnect(this);
     m_dock.setMaximumHeight(QWIDGETSIZE_MAX);
     if (m_content) {
-        m_content->removeEventFilter(this);
-        m_content->show();
+        m_content->setMaximumHeight(QWIDGETSIZE_MAX);
+        m_content->setEnabled(true);
     }
-    setParent(nullptr); // at once no longer the dock's
     deleteLater();
 }
 
 bool FoldedDock::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_content && event->type() == QEvent::ShowToParent)
-        m_content->hide(); // a tool that comes up shows all that it has
-    else if (watched == &m_dock && event->type() == QEvent::MouseButtonRelease &&
-             static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+    if (event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         unfold();
     // The title grows with the font.
-    else if (watched == &m_dock && event->type() == QEvent::FontChange)
+    else if (event->type() == QEvent::FontChange)
         QMetaObject::invokeMethod(
             this, [this] { fold(); }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);

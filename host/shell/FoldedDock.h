@@ -35,6 +35,7 @@ private:
 
     QDockWidget& m_dock;
     QPointer<QWidget> m_content;
+    bool m_isOpen = false; // and soon deleted
 };
 
 } // namespace scopix
