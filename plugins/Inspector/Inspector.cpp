@@ -2,6 +2,7 @@
 #include "Inspector.h"
 
 #include "panel/PanelEditor.h"
+#include "panel/PinnedPanels.h"
 #include "table/TableEditors.h"
 
 #include <scopix/SpxPluginNote.h>
@@ -18,7 +19,9 @@ namespace
 std::vector<std::unique_ptr<SpxExtension>> makeExtensions()
 {
     std::vector<std::unique_ptr<SpxExtension>> all = makeTableEditors();
-    all.push_back(std::make_unique<PanelEditor>());
+    auto pins = std::make_unique<PinnedPanels>();
+    all.push_back(std::make_unique<PanelEditor>(*pins));
+    all.push_back(std::move(pins));
     return all;
 }
 

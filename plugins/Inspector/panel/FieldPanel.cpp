@@ -66,8 +66,11 @@ QIcon iconOf(const SoNode* node, const QSize& size)
 
 } // namespace
 
-FieldPanel::FieldPanel(QWidget* parent)
+FieldPanel::FieldPanel(Place place, QWidget* parent)
     : QWidget(parent)
+    , m_place(place)
+    , m_pin(new QAction(tr("&Pin"), this))
+    , m_pinButton(new QToolButton)
     , m_title(new QLabel)
     , m_breadcrumb(new FlowRow)
     , m_nearby(new FlowRow)
@@ -82,6 +85,8 @@ FieldPanel::FieldPanel(QWidget* parent)
     layout->addLayout(makeFilter());
     layout->addWidget(m_rows, 1);
     connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
+    connect(&m_compared, &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
+    connect(&m_compared, &SpxWatcher::objectDestroyed, this, [this] { compareWith(nullptr); });
     m_later.setSingleShot(true);
     connect(&m_later, &QTimer::timeout, this, &FieldPanel::refresh);
     new NodeMenu(*this, *m_onlyChanged);
@@ -94,11 +99,24 @@ QLayout* FieldPanel::makeHeader()
     m_title->setObjectName(QStringLiteral("nodeTitle"));
     m_title->setTextFormat(Qt::RichText);
     m_title->setMinimumWidth(1);
+    m_pin->setObjectName(QStringLiteral("pin"));
+    m_pin->setToolTip(tr("Keeps this panel in a dock of its own, whatever is selected."));
+    connect(m_pin, &QAction::triggered, this, &FieldPanel::pinRequested);
+    addAction(m_pin); // the menus of the node and of the rows show it
+    m_pinButton->setObjectName(QStringLiteral("pinButton"));
+    m_pinButton->setDefaultAction(m_pin);
+    m_pinButton->setText(tr("Pin"));
+    m_pinButton->setAutoRaise(true);
+    m_pinButton->setFocusPolicy(Qt::TabFocus);
+    setPinnable(false);
     auto* header = new QVBoxLayout;
     header->setContentsMargins(Margin, 0, Margin, 0);
     header->setSpacing(2);
     header->addWidget(m_breadcrumb);
-    header->addWidget(m_title);
+    auto* title = new QHBoxLayout;
+    title->addWidget(m_title, 1);
+    title->addWidget(m_pinButton);
+    header->addLayout(title);
     header->addWidget(m_nearby);
     return header;
 }
@@ -141,6 +159,7 @@ void FieldPanel::watch(const std::vector<SoFieldContainer*>& nodes)
         m_watchers.push_back(std::make_unique<SpxWatcher>());
         m_watchers.back()->watch(node);
         connect(m_watchers.back().get(), &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
+        connect(m_watchers.back().get(), &SpxWatcher::objectDestroyed, this, &FieldPanel::nodeDestroyed);
     }
 }
 
@@ -182,6 +201,19 @@ void FieldPanel::finish()
 void FieldPanel::rebuild()
 {
     m_rows->rebuild();
+}
+
+void FieldPanel::setPinnable(bool pinnable)
+{
+    m_pin->setVisible(pinnable);
+    m_pin->setEnabled(pinnable);
+    m_pinButton->setVisible(pinnable);
+}
+
+void FieldPanel::compareWith(SoFieldContainer* other)
+{
+    m_compared.watch(other);
+    m_rows->compareWith(other);
 }
 
 void FieldPanel::focusFilter()
@@ -272,6 +304,8 @@ void FieldPanel::showNearby(const SoPath& path)
 
 void FieldPanel::choose(SoField* field)
 {
+    if (m_place == Place::Pinned)
+        return;
     if (SpxSceneServices* scene = SpxSceneServices::getInstance())
         scene->selectField(field);
 }

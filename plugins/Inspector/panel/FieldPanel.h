@@ -14,6 +14,7 @@ class QAction;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QToolButton;
 class SoPath;
 
 namespace inspector
@@ -29,7 +30,12 @@ class FieldPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit FieldPanel(QWidget* parent = nullptr);
+    enum class Place {
+        Selected, // shows what is selected, and selects the field that the user works in
+        Pinned    // stays with its nodes and leaves the selection alone
+    };
+
+    explicit FieldPanel(Place place = Place::Selected, QWidget* parent = nullptr);
 
     /// None shows nothing. The last is the current one.
     void setNodes(const std::vector<SoFieldContainer*>& nodes);
@@ -42,8 +48,17 @@ public:
     void refreshSoon();
     void finish();
     void focusFilter();
+    /// Offers to pin the nodes.
+    void setPinnable(bool pinnable);
+    /// Marks the rows that differ from this node's, and offers its values. Null ends that.
+    void compareWith(SoFieldContainer* other);
     /// How values are shown has changed.
     void rebuild();
+
+signals:
+    void pinRequested();
+    /// One of the nodes no longer exists. From inside its end: nobody may be deleted.
+    void nodeDestroyed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -58,6 +73,10 @@ private:
     void showNearby(const SoPath& path);
     void choose(SoField* field);
 
+    Place m_place;
+    QAction* m_pin;
+    QToolButton* m_pinButton;
+    SpxWatcher m_compared;
     std::vector<std::unique_ptr<SpxWatcher>> m_watchers; // of the nodes, in their order
     QElapsedTimer m_sinceShown;
     QTimer m_later;

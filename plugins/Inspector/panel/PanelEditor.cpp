@@ -3,6 +3,7 @@
 
 #include "fields/PanelSettings.h"
 #include "panel/FieldPanel.h"
+#include "panel/PinnedPanels.h"
 
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
@@ -15,7 +16,8 @@
 namespace inspector
 {
 
-PanelEditor::PanelEditor()
+PanelEditor::PanelEditor(PinnedPanels& pins)
+    : m_pins(pins)
 {
     setName("Panel");
     setDescription("Shows every field of a node and edits them in place.");
@@ -49,6 +51,8 @@ void PanelEditor::build(QWidget& widget)
     layout->setContentsMargins(0, 0, 0, 0);
     m_panel = new FieldPanel;
     layout->addWidget(m_panel);
+    connect(m_panel, &FieldPanel::pinRequested, this, [this] { m_pins.pin(m_panel->nodes()); });
+    connect(&m_pins, &PinnedPanels::comparedChanged, m_panel, [this] { showNodes(); });
 }
 
 void PanelEditor::addMenus()
@@ -107,6 +111,9 @@ void PanelEditor::showNodes()
         m_panel->setNodes({selected.begin(), selected.end()});
     else
         m_panel->setNodes(node ? std::vector<SoFieldContainer*>{node} : std::vector<SoFieldContainer*>());
+    m_panel->setPinnable(m_pins.isActive());
+    const bool isOne = m_panel->nodes().size() == 1;
+    m_panel->compareWith(isOne && m_pins.compared() != node ? m_pins.compared() : nullptr);
 }
 
 // What is typed belongs to the node that is left.

@@ -13,6 +13,7 @@ namespace inspector
 {
 
 class FieldPanel;
+class PinnedPanels;
 
 /// The panel of a whole node, whatever its type, or of all selected nodes, for the dock that shows node
 /// editors. GUI thread only.
@@ -21,7 +22,8 @@ class PanelEditor : public SpxObjectEditor
     Q_OBJECT
 
 public:
-    PanelEditor();
+    /// `pins` must outlive it.
+    explicit PanelEditor(PinnedPanels& pins);
     ~PanelEditor() override;
 
     void load() override;
@@ -40,6 +42,7 @@ private:
     void removeMenus();
     void filter();
 
+    PinnedPanels& m_pins;
     QPointer<FieldPanel> m_panel;
     std::unique_ptr<QAction> m_filterAction;
     std::unique_ptr<QAction> m_degreesAction;

@@ -106,6 +106,22 @@ void RowList::describe(Item& item) const
     item.isWide = isOwnKind && inspector::isWide(*item.field.get());
 }
 
+void RowList::compare(Item& item, SoFieldContainer* other)
+{
+    SoField* field = other && item.field ? other->getField(item.field->getName()) : nullptr;
+    if (field && (field == item.field.get() || field->getTypeId() != item.field->getTypeId()))
+        field = nullptr;
+    item.compared = field;
+    if (item.row)
+        item.row->compareWith(field);
+}
+
+void RowList::compareWith(SoFieldContainer* other)
+{
+    for (Item& item : m_items)
+        compare(item, other);
+}
+
 void RowList::rebuild()
 {
     finish();
@@ -247,6 +263,7 @@ Row* RowList::rowOf(Item& item)
 {
     if (!item.row && item.field) {
         item.row = makeRow(item.field.get(), item.others, FieldKind(item.kind), viewport());
+        item.row->compareWith(item.compared.get());
         connect(item.row, &Row::chosen, this, [this, field = item.field] {
             if (field)
                 emit fieldChosen(field.get());

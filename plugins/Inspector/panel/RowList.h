@@ -29,6 +29,8 @@ public:
     /// Shows the fields that all of these have by name and type. The last node is the current one, whose
     /// values and order are shown.
     void setNodes(const std::vector<SoFieldContainer*>& nodes);
+    /// Of the current node: marks the rows that differ from this node's. Null ends that.
+    void compareWith(SoFieldContainer* other);
     /// Shows what changed, in the rows that are in view.
     void refresh();
     /// Applies what is typed, and keeps what is dragged.
@@ -57,7 +59,8 @@ private:
     struct Item {
         SpxFieldPointer field;
         std::vector<SpxFieldPointer> others; // of the other nodes
-        QString heading;                     // above the row; "" for none
+        SpxFieldPointer compared;
+        QString heading; // above the row; "" for none
         QPointer<Row> row;
         int kind = 0;
         int lines = 1;
@@ -71,6 +74,7 @@ private:
     static bool addOthers(Item& item, const std::vector<SoFieldContainer*>& nodes);
     static int kindOfAll(const Item& item);
     static bool isDefault(const Item& item);
+    static void compare(Item& item, SoFieldContainer* other);
     void describe(Item& item) const;
     bool passes(const Item& item) const;
     void filterItems();

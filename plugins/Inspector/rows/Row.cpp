@@ -24,7 +24,9 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
+#include <QToolButton>
 #include <QToolTip>
 
 #include <algorithm>
@@ -109,6 +111,8 @@ QList<QWidget*> Row::inputs() const
         if (input->isVisibleTo(this) && input->isEnabled())
             reachable += input;
     }
+    if (m_take && m_take->isVisibleTo(this))
+        reachable += m_take;
     return reachable;
 }
 
@@ -141,10 +145,14 @@ void Row::placeParts()
     if (extra)
         extra->setGeometry(m_isStacked ? width() - extraWidth : right, 0, extraWidth,
                            m_isStacked ? line : height());
+    // Room for the offer as long as one is compared, so that nothing moves when a value becomes equal.
+    const int offer = m_take && m_compared ? mark + 2 * Gap : 0;
     if (m_isStacked)
-        m_editor->setGeometry(left, line, width() - left, height() - line);
+        m_editor->setGeometry(left, line, width() - left - offer, height() - line);
     else
-        m_editor->setGeometry(right + extraWidth, 0, width() - right - extraWidth, height());
+        m_editor->setGeometry(right + extraWidth, 0, width() - right - extraWidth - offer, height());
+    if (m_take)
+        m_take->setGeometry(width() - offer, m_isStacked ? line : 0, offer, mark + 2 * Gap);
 }
 
 QString Row::fieldName() const
@@ -208,7 +216,7 @@ quint32 Row::changeCount() const
         each->evaluate();
         sum += each->getChangeCount();
     }
-    return sum;
+    return m_compared ? sum + m_compared->getChangeCount() : sum;
 }
 
 void Row::refresh()
@@ -269,7 +277,61 @@ void Row::showMark()
     else
         m_mark->setState(State::Default, tr("The default."));
     m_caption->setStrong(isChanged);
+    showDifference();
     m_editor->setEnabled(true);
+}
+
+void Row::compareWith(SoField* other)
+{
+    if (other == m_compared.get() && !m_take)
+        return;
+    m_compared = other;
+    if (other && !m_take) {
+        m_take = new QToolButton(this);
+        m_take->setObjectName(QStringLiteral("takeCompared"));
+        m_take->setAutoRaise(true);
+        m_take->setText(QChar(0x21E6));
+        m_take->setAccessibleName(tr("Take the compared value of %1").arg(fieldName()));
+        m_take->setFocusPolicy(Qt::TabFocus);
+        connect(m_take, &QToolButton::clicked, this, &Row::takeCompared);
+    }
+    m_shownChange = changeCount();
+    showDifference();
+}
+
+bool Row::isDifferent() const
+{
+    return field() && m_compared && !m_compared->isSame(*field());
+}
+
+void Row::showDifference()
+{
+    if (!m_take)
+        return;
+    m_take->setVisible(isDifferent());
+    if (isDifferent())
+        m_take->setToolTip(tr("Differs: takes %1, the value of the node that it is compared with.")
+                               .arg(summary(*m_compared.get())));
+    placeParts();
+    update();
+}
+
+void Row::takeCompared()
+{
+    const SpxFieldPointer compared = m_compared;
+    if (compared)
+        edit([&] { return field()->copyFrom(*compared.get()); });
+}
+
+void Row::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!m_take || !isDifferent())
+        return;
+    constexpr int Tint = 50; // of 255: the text stays legible on it
+    QColor color = palette().color(QPalette::Highlight);
+    color.setAlpha(Tint);
+    QPainter(this).fillRect(rect(), color);
 }
 
 void Row::takeTheirs()

@@ -13,6 +13,7 @@
 
 class QBoxLayout;
 class QMenu;
+class QToolButton;
 
 namespace inspector
 {
@@ -43,6 +44,11 @@ public:
     bool isMixed() const;
     /// What is typed is applied, and what is dragged is kept.
     virtual void finish() {}
+
+    /// Marks the row while its value differs from that field's, of the same type, and offers that value. Null
+    /// ends that.
+    void compareWith(SoField* other);
+    bool isDifferent() const;
 
     /// From left to right; those that take the focus.
     QList<QWidget*> inputs() const;
@@ -142,6 +148,9 @@ private:
     void addStateEntries(QMenu& menu);
     void addTextEntries(QMenu& menu);
     void connectField();
+    void showDifference();
+    void takeCompared();
+    void paintEvent(QPaintEvent* event) override;
     void takeTheirs();
     void keepMine();
     void noteChange(quint32 change);
@@ -157,6 +166,8 @@ private:
     FieldGroupGesture m_gesture;
     Mark* m_mark = nullptr;
     Caption* m_caption = nullptr;
+    SpxFieldPointer m_compared;
+    QToolButton* m_take = nullptr; // the compared value; made when it is needed
     QWidget* m_editor = nullptr;
     QList<QWidget*> m_inputs;
     quint32 m_shownChange = 0; // the field's change count, when its value was shown
