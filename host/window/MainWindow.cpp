@@ -16,10 +16,13 @@
 #include "viewport/Screenshot.h"
 #include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
+#include "window/FieldMenu.h"
 #include "window/FileMenu.h"
+#include "window/HelpWindow.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
 #include "window/ReloadBar.h"
+#include "window/TreeColumns.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -109,6 +112,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     new ReloadBar(m_files, *m_view);
+    new FieldMenu(*m_fields, m_services);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -235,6 +239,7 @@ void MainWindow::makeViewMenu()
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
+    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -270,6 +275,9 @@ void MainWindow::makeHelpMenu()
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });
+    menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
+                    QKeySequence(Qt::Key_F1));
+    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
 
@@ -313,6 +321,26 @@ void MainWindow::find()
     m_treeDock->show();
     m_treeDock->raise();
     m_scenePanel->startFinding();
+}
+
+void MainWindow::findInScene(const QString& query)
+{
+    find();
+    m_scenePanel->find(query);
+}
+
+bool MainWindow::showHelp(const QString& page, const QString& section)
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    return m_help->open(page, section);
+}
+
+void MainWindow::showHelpOnFocus()
+{
+    const SoFieldContainer* node = m_services.selectedNode();
+    if (!showHelp(QStringLiteral("nodes"), node ? toQString(node->getTypeId().getName()) : QString()))
+        m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
 }
 
 void MainWindow::showNode(SoFieldContainer* container)

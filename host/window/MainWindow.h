@@ -15,6 +15,7 @@ namespace scopix
 
 class BranchFiles;
 class FieldListView;
+class HelpWindow;
 class HostServices;
 class NodeEditing;
 class SceneStates;
@@ -47,6 +48,8 @@ public:
     QMenu* editMenu() override { return m_editMenu; }
     QString emptyHint() const override;
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
+    void findInScene(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
     SoPath pathTo(const SoNode* node) const override;
@@ -89,6 +92,7 @@ private:
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showHelpOnFocus();
     void viewSelected();
     void find();
     void showNode(SoFieldContainer* node);
@@ -105,6 +109,7 @@ private:
     SceneStates* m_states;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
