@@ -82,13 +82,27 @@ private:
     // What a group does not show takes memory all the same.
     void addUnseen(SoNode& branch)
     {
-        const SoGroup* group = branch.asGroup();
+        struct Open {
+            SoNode* node;
+            int next;
+        };
+        std::vector<Open> open{{&branch, 0}};
         m_open.push_back({0, ownBytes(branch)});
-        for (int i = 0; group && i < group->getNumChildren(); ++i)
-            addUnseen(*group->getChild(i));
-        const Figures figures = m_open.back();
-        m_open.pop_back();
-        add(branch, figures);
+        while (!open.empty()) {
+            Open& last = open.back();
+            const SoGroup* group = last.node->asGroup();
+            if (group && last.next < group->getNumChildren() &&
+                (last.next > 0 || m_unseen.insert(group).second)) {
+                SoNode* child = group->getChild(last.next++);
+                open.push_back({child, 0});
+                m_open.push_back({0, ownBytes(*child)});
+                continue;
+            }
+            const Figures figures = m_open.back();
+            m_open.pop_back();
+            add(*last.node, figures);
+            open.pop_back();
+        }
     }
     qint64 ownBytes(const SoNode& node)
     {
@@ -111,6 +125,7 @@ private:
     const std::uint32_t m_rootCount;
     std::vector<Figures> m_open; // of the groups that are open, the walk's own first
     std::unordered_map<const SoNode*, Figures> m_found;
+    std::unordered_set<const SoNode*> m_unseen;  // groups that are not shown: each is looked into once
     std::unordered_set<const SoNode*> m_counted; // of those with several parents
     std::unordered_map<SoGeometryKey, qint64, SoGeometryKeyHash> m_triangles;
 };
@@ -127,6 +142,8 @@ NodeFigures::~NodeFigures() = default;
 
 void NodeFigures::setRoot(SoNode* root)
 {
+    if (root == m_root.get())
+        return;
     m_walk.reset();
     m_pieces.stop();
     m_soon.stop();

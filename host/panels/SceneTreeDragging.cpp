@@ -83,8 +83,10 @@ SceneTreeView::DropPlace SceneTreeView::placeFor(const QModelIndex& at) const
         return {root, -1};
     if (where == OnItem || at == root)
         return {at, -1};
-    if (where == BelowItem && isExpanded(at))
+    if (where == BelowItem && isExpanded(at) && !m_model->isSorted())
         return {at, 0};
+    if (m_model->isSorted())
+        return {at.parent(), -1}; // between rows is no place among the children then
     const SoGroup* group = m_model->nodeAt(at.parent())->asGroup();
     const int place = group ? group->findChild(m_model->nodeAt(at)) : -1;
     return {at.parent(), place < 0 ? -1 : where == AboveItem ? place : place + 1};

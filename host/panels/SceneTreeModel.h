@@ -18,6 +18,8 @@ class SoPath;
 namespace scopix
 {
 
+class NodeFigures;
+
 /// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when
 /// a view asks for its rows. A node that stands in several places has a row at each. Follows the scene once
 /// per turn of the sensor queue, and keeps every node that has a row alive until then. GUI thread only.
@@ -26,7 +28,9 @@ class SceneTreeModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, TypeColumn, ColumnCount };
+    enum Column { NameColumn, TypeColumn, TrianglesColumn, MemoryColumn, PlacesColumn, ColumnCount };
+    /// The same in all scenes, for settings.
+    static QString columnKey(int column);
 
     /// Where the parent is a widget, its palette colours the icons.
     explicit SceneTreeModel(QObject* parent = nullptr);
@@ -60,6 +64,10 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// By what a column shows; -1: in the scene's order, as at first.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    bool isSorted() const { return m_sortColumn >= 0; }
+    NodeFigures& getFigures() const { return *m_figures; }
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// Only tells what was entered: whoever listens renames.
@@ -92,7 +100,13 @@ private:
     void listChildren(Item& item) const;
     void listAgain();
     const QWidget* surface() const;
+    QVariant text(const SoNode& node, int column) const;
+    QVariant sortKey(const SoNode& node) const;
+    void sortChildren(std::vector<SoNode*>& children) const;
 
+    NodeFigures* m_figures;
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     std::unique_ptr<Item> m_root;
     std::optional<NodeSet> m_shown; // none: all
     SoNodeSensor m_sensor;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/SceneTreeView.h"
 
+#include "panels/NodeFigures.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/TreeRowDelegate.h"
 #include "structure/SceneStates.h"
@@ -73,6 +74,12 @@ SceneTreeView::SceneTreeView(QWidget* parent)
     header()->setStretchLastSection(true);
     header()->setMinimumSectionSize(60);
     header()->setSectionsMovable(false);
+    for (int column = SceneTreeModel::TypeColumn + 1; column < SceneTreeModel::ColumnCount; ++column)
+        setColumnHidden(column, true);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    connect(header(), &QHeaderView::sectionClicked, this, &SceneTreeView::sortClicked);
+    connect(&m_model->getFigures(), &NodeFigures::changed, this, &SceneTreeView::figuresChanged);
 }
 
 void SceneTreeView::setScene(SoNode* root)
@@ -339,7 +346,64 @@ void SceneTreeView::unfoldAll(const QModelIndex& index)
 void SceneTreeView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
-    header()->resizeSection(SceneTreeModel::NameColumn, viewport()->width() * 62 / 100);
+    fitColumns();
+}
+
+// The last column takes what is left.
+void SceneTreeView::fitColumns()
+{
+    constexpr int FigureWidth = 84;
+    int rest = viewport()->width();
+    int others = 0;
+    for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column) {
+        if (isColumnHidden(column))
+            continue;
+        const int width = column == SceneTreeModel::TypeColumn ? viewport()->width() * 38 / 100 : FigureWidth;
+        header()->resizeSection(column, width);
+        others += width;
+    }
+    rest = std::max(rest - others, viewport()->width() * 30 / 100);
+    header()->resizeSection(SceneTreeModel::NameColumn, rest);
+}
+
+void SceneTreeView::setColumnShown(int column, bool on)
+{
+    setColumnHidden(column, !on);
+    fitColumns();
+}
+
+template <class Change>
+void SceneTreeView::listAgain(Change change)
+{
+    const std::vector<SoPath> expanded = expandedPaths();
+    keepSelection(change);
+    for (const SoPath& path : expanded)
+        expand(m_model->indexOf(path));
+}
+
+void SceneTreeView::sortRows(int column, Qt::SortOrder order)
+{
+    header()->setSortIndicatorShown(column >= 0);
+    header()->setSortIndicator(column, order);
+    listAgain([&] { m_model->sort(column, order); });
+}
+
+// Upwards, downwards, and as the scene has it.
+void SceneTreeView::sortClicked(int column)
+{
+    const bool isSame = m_model->isSorted() && m_sorted == column;
+    const bool isDone = isSame && m_sortOrder == Qt::DescendingOrder;
+    m_sorted = isDone ? -1 : column;
+    m_sortOrder = isSame ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortRows(m_sorted, m_sortOrder);
+}
+
+void SceneTreeView::figuresChanged()
+{
+    const int column = m_model->isSorted() ? header()->sortIndicatorSection() : -1;
+    if (column == SceneTreeModel::TrianglesColumn || column == SceneTreeModel::MemoryColumn)
+        listAgain([&] { m_model->sort(column, header()->sortIndicatorOrder()); });
+    viewport()->update();
 }
 
 } // namespace scopix

@@ -69,6 +69,12 @@ public:
     /// What is dragged when a drag begins now; null for nothing. For the caller to delete.
     QMimeData* makeDragData() const;
 
+    /// Name and type are shown at first.
+    void setColumnShown(int column, bool on);
+    bool isColumnShown(int column) const { return !isColumnHidden(column); }
+    /// By what the column shows; -1: in the scene's order. What is selected and unfolded stays so.
+    void sortRows(int column, Qt::SortOrder order);
+
     /// As of the model; what is selected stays so, and what was expanded before is expanded again by
     /// showAll().
     void showOnly(SceneTreeModel::NodeSet nodes);
@@ -99,6 +105,11 @@ private:
         QModelIndex group;
         int index;
     };
+    void fitColumns();
+    void figuresChanged();
+    template <class Change>
+    void listAgain(Change change);
+    void sortClicked(int column);
     DropPlace placeFor(const QModelIndex& at) const;
     void passOn(QEvent* event);
     void unfoldAll(const QModelIndex& index);
@@ -118,6 +129,8 @@ private:
     NodeTest m_isMarked;
     std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
     QList<QPersistentModelIndex> m_order; // of the selected rows
+    int m_sorted = -1;                    // by a click on this column
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     bool m_quiet = false;
 };
 

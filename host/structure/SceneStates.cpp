@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "structure/SceneStates.h"
 
+#include "text/NodeText.h"
+
+#include <scopix/SpxCommand.h>
+#include <scopix/SpxEditedFields.h>
+#include <xsg/core/SoField.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 
@@ -104,6 +109,36 @@ const SoNode* SceneStates::lockOn(const SoPath& path) const
             return path.getNode(i);
     }
     return nullptr;
+}
+
+QString SceneStates::refusalOf(const SoFieldContainer& container) const
+{
+    if (m_locked.empty())
+        return {};
+    const auto* node = dynamic_cast<const SoNode*>(&container);
+    const SoNode* lock = node ? lockOf(node) : nullptr;
+    if (!lock)
+        return {};
+    return lock == node
+               ? tr("“%1” is locked, and cannot be edited before it is unlocked.").arg(nodeText(*node))
+               : tr("“%1” stands in “%2”, which is locked, and cannot be edited before that is unlocked.")
+                     .arg(nodeText(*node), nodeText(*lock));
+}
+
+QString SceneStates::refusalOf(const SpxCommand& command) const
+{
+    const auto* told = dynamic_cast<const SpxEditedFields*>(&command);
+    std::vector<SoFieldContainer*> all = told ? told->editedContainers() : std::vector<SoFieldContainer*>();
+    if (told) {
+        for (const SoField* field : told->editedFields())
+            all.push_back(field->getContainer());
+    }
+    for (const SoFieldContainer* container : all) {
+        const QString refusal = container ? refusalOf(*container) : QString();
+        if (!refusal.isEmpty())
+            return refusal;
+    }
+    return {};
 }
 
 void SceneStates::clear()

@@ -9,6 +9,8 @@
 
 #include <unordered_set>
 
+class SpxCommand;
+
 namespace scopix
 {
 
@@ -39,6 +41,11 @@ public:
     /// The node itself, or the first one above it, that is locked; null where none is.
     const SoNode* lockOf(const SoNode* node) const;
     const SoNode* lockOn(const SoPath& path) const;
+
+    /// Why nobody may edit it, in a sentence; empty where everybody may.
+    QString refusalOf(const SoFieldContainer& container) const;
+    /// The same for what a command tells that it edits.
+    QString refusalOf(const SpxCommand& command) const;
 
     /// Another scene is open.
     void clear();

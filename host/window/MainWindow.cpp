@@ -21,12 +21,13 @@
 #include "window/FieldMenu.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
-#include "window/PictureActs.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/PictureActs.h"
 #include "window/ReloadBar.h"
-#include "window/ViewPoints.h"
+#include "window/TreeColumns.h"
 #include "window/ViewActs.h"
+#include "window/ViewPoints.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -259,6 +260,7 @@ void MainWindow::makeViewMenu()
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
+    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));

@@ -119,12 +119,12 @@ private:
     FieldListView* m_fields;
     SceneView* m_view;
     std::unique_ptr<ViewPoints> m_viewPoints;
-    HelpWindow* m_help = nullptr; // as soon as help is asked for
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
     SceneStates* m_states;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

@@ -64,8 +64,16 @@ NodeEditing::NodeEditing(HostServices& services, SceneDocument& document, SceneT
     , m_notifier(notifier)
 {
     connect(&m_document, &SceneDocument::rootChanged, this, [this] { m_copied.clear(); });
+    m_services.history().setLock(
+        [this](const SoFieldContainer& container) { return m_states.refusalOf(container); });
+    connect(&m_services.history(), &UndoHistory::refused, &m_notifier, &UserNotifier::info);
     connect(&m_tree, &SceneTreeView::nameEntered, this, &NodeEditing::rename);
     connect(&m_tree, &SceneTreeView::dropped, this, &NodeEditing::drop);
+}
+
+NodeEditing::~NodeEditing()
+{
+    m_services.history().setLock({});
 }
 
 void NodeEditing::tell(const QString& sentence)
@@ -81,8 +89,9 @@ void NodeEditing::tellNothingSelected()
 
 bool NodeEditing::perform(structure::Act act)
 {
-    if (!act.command) {
-        tell(act.refusal);
+    const QString lock = act.command ? m_states.refusalOf(*act.command) : QString();
+    if (!act.command || !lock.isEmpty()) {
+        tell(act.command ? lock : act.refusal);
         return false;
     }
     m_services.executeCommand(act.command.release(), act.name);
@@ -130,7 +139,7 @@ void NodeEditing::duplicate()
 
 void NodeEditing::group()
 {
-    perform(structure::group(selected(), structure::makeOfType(SoGroup::getClassTypeId())));
+    perform(structure::group(selected(), makerOf(SoGroup::getClassTypeId())));
 }
 
 void NodeEditing::ungroup()
@@ -158,9 +167,18 @@ void NodeEditing::moveIn()
     perform(structure::moveIn(selected()));
 }
 
+structure::MakeNode NodeEditing::makerOf(SoType type) const
+{
+    return [this, make = structure::makeOfType(type)] {
+        SoRef<SoNode> node = make();
+        m_services.applyUserDefaults(*node);
+        return node;
+    };
+}
+
 void NodeEditing::add(SoType type)
 {
-    insert({structure::makeOfType(type)()}, tr("Add %1").arg(toQString(type.getName())));
+    insert({makerOf(type)()}, tr("Add %1").arg(toQString(type.getName())));
 }
 
 void NodeEditing::insert(const std::vector<SoRef<SoNode>>& nodes, const QString& stepName)
@@ -170,7 +188,7 @@ void NodeEditing::insert(const std::vector<SoRef<SoNode>>& nodes, const QString&
 
 void NodeEditing::insertAbove(SoType type)
 {
-    perform(structure::insertAbove(selected(), structure::makeOfType(type)));
+    perform(structure::insertAbove(selected(), makerOf(type)));
 }
 
 void NodeEditing::rename(const SoPath& path, const QString& name)

@@ -27,6 +27,8 @@ public:
     NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree, SceneStates& states,
                 UserNotifier& notifier, QObject* parent = nullptr);
 
+    ~NodeEditing() override;
+
     /// False where it is refused, which is told.
     bool perform(structure::Act act);
     Paths selected() const;
@@ -68,6 +70,7 @@ private:
     void showAfter(const Paths& selection);
     std::vector<SoNode*> selectedNodes() const;
     void tellNothingSelected();
+    structure::MakeNode makerOf(SoType type) const;
     bool putOnClipboard();
     std::vector<SoRef<SoNode>> readText(const QMimeData& data);
 

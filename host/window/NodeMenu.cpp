@@ -8,6 +8,7 @@
 #include "window/BranchFiles.h"
 #include "window/NodeEditing.h"
 
+#include <scopix/SpxContextMenus.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/transforms/SoTransform.h>
@@ -123,8 +124,15 @@ void NodeMenu::rename()
 
 void NodeMenu::openAtRow(const QPoint& place)
 {
-    // By the menu key, the place is where the row is.
-    m_menu.exec(m_tree.viewport()->mapToGlobal(place));
+    QMenu menu(&m_tree);
+    menu.addActions(m_menu.actions());
+    QList<SoFieldContainer*> nodes;
+    for (const SoPath& path : m_editing.selected())
+        nodes += path.getTail();
+    SpxContextMenus* menus = SpxContextMenus::getInstance();
+    if (menus && !nodes.isEmpty())
+        menus->fillNodeMenu(menu, nodes);
+    menu.exec(m_tree.viewport()->mapToGlobal(place));
 }
 
 } // namespace scopix
