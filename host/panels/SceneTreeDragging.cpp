@@ -83,7 +83,7 @@ SceneTreeView::DropPlace SceneTreeView::placeFor(const QModelIndex& at) const
         return {root, -1};
     if (where == OnItem || at == root)
         return {at, -1};
-    if (where == BelowItem && isExpanded(at) && !m_model->isSorted())
+    if (where == BelowItem && isExpanded(at) && m_model->rowCount(at) > 0 && !m_model->isSorted())
         return {at, 0};
     if (m_model->isSorted())
         return {at.parent(), -1}; // between rows is no place among the children then

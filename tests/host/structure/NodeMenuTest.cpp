@@ -39,7 +39,7 @@ protected:
     }
     void expectUndoable(const char* outlineNow)
     {
-        EXPECT_EQ(outline(), outlineNow);
+        EXPECT_EQ(outline(), outlineNow) << told.join(" | ").toStdString();
         EXPECT_EQ(services.undoStack().count(), 1);
         undo();
         EXPECT_EQ(text(), before);
@@ -84,7 +84,6 @@ protected:
         QDragMoveEvent move(at, Qt::MoveAction | Qt::CopyAction | Qt::LinkAction, data, Qt::LeftButton, {});
         QApplication::sendEvent(to, &move);
         QDropEvent end(at, action, data, Qt::LeftButton, {});
-        end.setDropAction(action);
         QApplication::sendEvent(to, &end);
         settle();
     }
