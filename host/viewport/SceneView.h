@@ -51,6 +51,16 @@ public:
     /// How a new scene is seen: through its own camera, or else everything. See ViewCamera.
     void goHome();
     void viewAll();
+    /// As of ViewCamera.
+    void lookFrom(const SbVec3f& side);
+    void lookThrough(const SceneCamera& camera);
+    void setParallel(bool on);
+    bool isParallel() const { return m_camera.isParallel(); }
+    void turn(float right, float up);
+    void walk(float right, float up, float ahead);
+    void look(float right, float up);
+    /// How large the scene is.
+    float getSceneSize() const { return m_camera.getSceneSize(); }
     /// Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
 
@@ -87,6 +97,8 @@ signals:
     /// An empty path: the ground was clicked.
     void picked(const SoPath& path);
     void viewSelectedRequested();
+    /// Everything is seen in its size from now on, or smaller the farther it is.
+    void parallelChanged(bool on);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -111,13 +123,13 @@ private:
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
     void drawn(const SoRenderer& renderer);
-    void turn(float right, float up);
     void pan(float right, float up);
     void zoom(float factor);
     void animateWhereNeeded();
 
     SoRef<SoNode> m_root;
     ViewCamera m_camera;
+    bool m_wasParallel = false;
     std::uint64_t m_highlight = 0; // a node's number: the node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;

@@ -20,6 +20,7 @@ class HandleActions;
 class HandleTool;
 class HostServices;
 class UserNotifier;
+class ViewActions;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
@@ -61,6 +62,7 @@ public:
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
     HandleTool& getHandles() { return *m_handles; }
+    ViewActions& getViewActions() { return *m_viewActions; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -103,6 +105,7 @@ private:
     SceneView* m_view;
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
+    std::unique_ptr<ViewActions> m_viewActions; // as well
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
