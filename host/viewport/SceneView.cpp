@@ -69,6 +69,8 @@ void SceneView::goHome()
 
 void SceneView::redraw()
 {
+    if (std::exchange(m_wasParallel, m_camera.isParallel()) != m_camera.isParallel())
+        emit parallelChanged(m_camera.isParallel());
     m_statisticsAreOld = true;
     m_surface->redraw();
     m_tools.repaint();
@@ -201,7 +203,7 @@ void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
 
 ViewContent SceneView::prepare(SoRenderer& renderer)
 {
-    m_camera.fitDepth();
+    m_camera.fitDepth([this](SbBox3f& seen) { m_tools.extend(seen); });
     const auto toColor = [](const QColor& c) {
         return SbColor(static_cast<float>(c.redF()), static_cast<float>(c.greenF()),
                        static_cast<float>(c.blueF()));
@@ -357,6 +359,36 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
         turn(right, up);
     else
         pan(right, up);
+}
+
+void SceneView::lookFrom(const SbVec3f& side)
+{
+    m_camera.lookFrom(side);
+    redraw();
+}
+
+void SceneView::lookThrough(const SceneCamera& camera)
+{
+    m_camera.lookThrough(camera);
+    redraw();
+}
+
+void SceneView::setParallel(bool on)
+{
+    m_camera.setParallel(on);
+    redraw();
+}
+
+void SceneView::walk(float right, float up, float ahead)
+{
+    m_camera.walk(right, up, ahead);
+    redraw();
+}
+
+void SceneView::look(float right, float up)
+{
+    m_camera.look(right, up);
+    redraw();
 }
 
 void SceneView::turn(float right, float up)

@@ -73,6 +73,16 @@ public:
     /// How a new scene is seen: through its own camera, or else everything. See ViewCamera.
     void goHome();
     void viewAll();
+    /// As of ViewCamera.
+    void lookFrom(const SbVec3f& side);
+    void lookThrough(const SceneCamera& camera);
+    void setParallel(bool on);
+    bool isParallel() const { return m_camera.isParallel(); }
+    void turn(float right, float up);
+    void walk(float right, float up, float ahead);
+    void look(float right, float up);
+    /// How large the scene is.
+    float getSceneSize() const { return m_camera.getSceneSize(); }
     /// Shows all of the node, or of everything where it has nothing to see.
     void viewNode(SoNode* node);
 
@@ -131,6 +141,8 @@ signals:
     /// An empty path: the ground was clicked.
     void picked(const SoPath& path);
     void viewSelectedRequested();
+    /// Everything is seen in its size from now on, or smaller the farther it is.
+    void parallelChanged(bool on);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -161,13 +173,13 @@ private:
     template <class Action>
     void cut(Action& action) const;
     void drawn(const SoRenderer& renderer);
-    void turn(float right, float up);
     void pan(float right, float up);
     void zoom(float factor);
     void animateWhereNeeded();
 
     SoRef<SoNode> m_root;
     ViewCamera m_camera;
+    bool m_wasParallel = false;
     std::vector<std::uint64_t> m_highlight; // nodes' numbers: a node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;

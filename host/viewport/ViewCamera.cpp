@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/ViewCamera.h"
 
-#include "viewport/NodeBounds.h"
-#include "viewport/SceneCamera.h"
+#include "viewport/OutermostPoints.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -86,7 +85,7 @@ void ViewCamera::setAspect(float aspect)
 {
     m_aspect = aspect;
     if (m_look == Look::Framed)
-        viewAll();
+        frame();
     follow();
 }
 
@@ -138,24 +137,89 @@ bool ViewCamera::seesAnything() const
     return box.isEmpty() || frustum.mayShow(box);
 }
 
-void ViewCamera::frame(const SbBox3f& box)
+void ViewCamera::frame()
 {
-    m_camera->viewAll(box, m_aspect); // an empty one changes nothing
+    m_camera->viewAll(m_framed, m_aspect); // nothing to see changes nothing
 }
 
 void ViewCamera::viewAll()
 {
-    frame(boxOf(m_root.get()));
+    m_framed = findOutermostPoints(m_root.get(), m_root.get(), m_camera->orientation.getValue());
+    frame();
     m_look = Look::Framed;
 }
 
 void ViewCamera::viewNode(SoNode* node)
 {
-    const SbBox3f box = findPartBox(m_root.get(), node);
-    if (box.isEmpty())
+    m_framed = findOutermostPoints(m_root.get(), node, m_camera->orientation.getValue());
+    if (m_framed.empty())
         return viewAll();
-    frame(box);
+    frame();
     m_look = Look::Around;
+}
+
+void ViewCamera::lookFrom(const SbVec3f& side)
+{
+    lookAround();
+    const SbVec3f focus = m_camera->getFocalPoint();
+    const bool isVertical = side[0] == 0 && side[2] == 0;
+    const SbVec3f up = isVertical ? SbVec3f(0, 0, side[1] > 0 ? -1.0F : 1.0F) : SbVec3f(0, 1, 0);
+    m_camera->orientation.setValue(SbRotation::looking(side * -1.0F, up));
+    m_camera->position.setValue(focus - m_camera->getDirection() * m_camera->focalDistance.getValue());
+}
+
+void ViewCamera::lookThrough(const SceneCamera& camera)
+{
+    matchCamera(camera, m_aspect, m_camera);
+    m_look = Look::ThroughScene;
+    lookAround(); // which finds what to turn around
+}
+
+bool ViewCamera::isParallel() const
+{
+    return dynamic_cast<const SoOrthographicCamera*>(m_camera.get()) != nullptr;
+}
+
+void ViewCamera::setParallel(bool on)
+{
+    if (on == isParallel())
+        return;
+    lookAround();
+    const SoRef<SoCamera> before = m_camera;
+    const SbVec3f focus = before->getFocalPoint();
+    if (on) {
+        const float angle = static_cast<SoPerspectiveCamera&>(*before).heightAngle.getValue();
+        m_angle = angle > 0 && angle < Pi ? angle : StartAngle;
+        ensureType<SoOrthographicCamera>(m_camera).height.setValue(2 * before->focalDistance.getValue() *
+                                                                   std::tan(m_angle / 2));
+        m_camera->focalDistance.setValue(before->focalDistance.getValue());
+    } else {
+        const float height = static_cast<SoOrthographicCamera&>(*before).height.getValue();
+        ensureType<SoPerspectiveCamera>(m_camera).heightAngle.setValue(m_angle);
+        m_camera->focalDistance.setValue(height / 2 / std::tan(m_angle / 2));
+    }
+    m_camera->orientation.setValue(before->orientation.getValue());
+    m_camera->position.setValue(focus - m_camera->getDirection() * m_camera->focalDistance.getValue());
+}
+
+void ViewCamera::walk(float right, float up, float ahead)
+{
+    lookAround();
+    const SbVec3f by = m_camera->orientation.getValue().multVec({right, up, -ahead});
+    m_camera->position.setValue(m_camera->position.getValue() + by);
+}
+
+void ViewCamera::look(float right, float up)
+{
+    lookAround();
+    m_camera->orientation.setValue(SbRotation({1, 0, 0}, up) * m_camera->orientation.getValue() *
+                                   SbRotation({0, 1, 0}, -right));
+}
+
+float ViewCamera::getSceneSize() const
+{
+    const SbBox3f box = boxOf(m_root.get());
+    return box.isEmpty() ? 0 : box.getSize().length();
 }
 
 void ViewCamera::lookAround()
@@ -195,10 +259,13 @@ void ViewCamera::zoom(float factor, float x, float y)
     m_camera->zoom(factor, x, y, m_aspect);
 }
 
-void ViewCamera::fitDepth()
+void ViewCamera::fitDepth(const std::function<void(SbBox3f&)>& extend)
 {
+    SbBox3f box = boxOf(m_root.get());
+    if (extend)
+        extend(box);
     if (m_look != Look::ThroughScene)
-        m_camera->fitDepthRange(boxOf(m_root.get()));
+        m_camera->fitDepthRange(box);
 }
 
 } // namespace scopix

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/nodes/cameras/SoCamera.h>
+#include "viewport/SceneCamera.h"
+
 #include <xsg/values/SbBox.h>
+
+#include <functional>
+#include <vector>
 
 namespace scopix
 {
@@ -45,6 +49,19 @@ public:
     /// All of the node, or everything where it has nothing to see.
     void viewNode(SoNode* node);
 
+    /// Looks from this side at the point that it turns around, the y axis up or, from above and below, the
+    /// z axis down and up.
+    void lookFrom(const SbVec3f& side);
+    /// As through this one, from where it stands in the world, without following it.
+    void lookThrough(const SceneCamera& camera);
+    /// Sees everything in its size, or smaller the farther it is. What it turns around stays as large.
+    void setParallel(bool on);
+    bool isParallel() const;
+    /// By lengths in the world, along its own axes.
+    void walk(float right, float up, float ahead);
+    /// Turns on the spot, in radians: to the right and up.
+    void look(float right, float up);
+
     /// Both carry what is seen along, by parts of the picture's height; turning, the whole height is half a
     /// turn.
     void turn(float right, float up);
@@ -60,7 +77,10 @@ public:
     /// changed. False where the scene has none, or is not seen through it.
     bool follow();
     /// Sees all of the scene's depth, or what the scene's camera sees. To be called before a picture.
-    void fitDepth();
+    /// `extend` adds what is seen beside the scene.
+    void fitDepth(const std::function<void(SbBox3f&)>& extend = {});
+    /// How large the scene is.
+    float getSceneSize() const;
 
 private:
     enum class Look {
@@ -70,7 +90,7 @@ private:
     };
 
     bool seesAnything() const;
-    void frame(const SbBox3f& box);
+    void frame();
     void lookAround();
     void findPivot();
 
@@ -78,6 +98,8 @@ private:
     SoRef<SoCamera> m_camera;
     Look m_look = Look::Framed;
     float m_aspect = 1;
+    float m_angle = 0.785398163F;  // to come back to from a parallel view
+    std::vector<SbVec3f> m_framed; // what is in sight, by its outermost points as seen from there
 };
 
 } // namespace scopix

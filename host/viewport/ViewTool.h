@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/SbBox.h>
+
 #include <QCursor>
 
 #include <optional>
@@ -44,6 +46,8 @@ public:
     /// The view has lost the focus: nothing that is held will be released.
     virtual void focusLost() {}
 
+    /// Before a new picture: adds what it draws beyond the scene, so that it lies in the depth that is seen.
+    virtual void extend(SbBox3f& /*seen*/) {}
     /// Adds to what is drawn over the scene in a new picture.
     virtual void draw(SoOverlay& /*overlay*/, const ViewSight& /*sight*/) {}
     /// Paints over the picture, in the view's coordinates.

@@ -182,6 +182,12 @@ void ViewTools::updateCursor()
     m_view.unsetCursor();
 }
 
+void ViewTools::extend(SbBox3f& seen) const
+{
+    for (ViewTool* tool : m_tools)
+        tool->extend(seen);
+}
+
 void ViewTools::draw(SoOverlay& overlay) const
 {
     if (m_tools.empty())

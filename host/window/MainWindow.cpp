@@ -26,6 +26,7 @@
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
 #include "window/TreeColumns.h"
+#include "window/ViewActions.h"
 #include "window/ViewActs.h"
 #include "window/ViewPoints.h"
 
@@ -246,6 +247,8 @@ void MainWindow::makeViewMenu()
     m_viewSelectedAction->setIcon(svgIcon(QStringLiteral("action-view-selected"), this));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
+    m_viewActions = std::make_unique<ViewActions>(*m_view, m_services, m_notifier, *menu,
+                                                  QList<QWidget*>{m_view, m_tree});
     menu->addSeparator();
     m_wireframeAction = menu->addAction(svgIcon(QStringLiteral("action-wireframe"), this), tr("&Wireframe"));
     m_wireframeAction->setShortcut(Qt::Key_F3);

@@ -26,6 +26,7 @@ class NodeEditing;
 class SceneStates;
 class UserNotifier;
 class ViewActs;
+class ViewActions;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
@@ -76,6 +77,7 @@ public:
     NodeEditing& getEditing() { return *m_editing; }
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
     SceneStates& getStates() { return *m_states; }
+    ViewActions& getViewActions() { return *m_viewActions; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -125,6 +127,7 @@ private:
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
     HelpWindow* m_help = nullptr; // as soon as help is asked for
+    std::unique_ptr<ViewActions> m_viewActions; // as well
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

@@ -381,15 +381,15 @@ TEST_F(View, ShowsAllOfANodeThatIsRepeated)
     auto* copies = new SoInstances;
     copies->matrices.setValues(
         std::vector<SbMatrix>{SbMatrix::translation({0, 5, 0}), SbMatrix::translation({0, 9, 0})});
-    SoRef<SoSphere> ball(new SoSphere);
+    SoRef<SoCube> block(new SoCube);
     auto* group = new SoGroup; // does not isolate: what follows is moved too
     auto* moved = new SoTransform;
     moved->translation.setValue(20, 0, 0);
     group->addChild(moved);
     copies->addChild(group);
-    copies->addChild(ball.get());
+    copies->addChild(block.get());
     scene->addChild(copies);
-    view.viewNode(ball.get());
+    view.viewNode(block.get());
     const QRect seen = cornersOf({19, 4, -1, 21, 10, 1});
     EXPECT_NEAR(seen.height() / double(view.height()), 0.88, 0.03);
     EXPECT_LE((seen.center() - view.rect().center()).manhattanLength(), 3);

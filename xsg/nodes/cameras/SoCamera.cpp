@@ -87,7 +87,7 @@ void SoCamera::viewAll(const SbBox3f& box, float aspect)
     const float thinnest =
         std::max({half[0] * ThinnestPart, half[1] * ThinnestPart, half[2] * ThinnestPart, Thinnest});
     const SbRotation toEye = orientation.getValue().inverse();
-    Corners corners;
+    Corners corners(8);
     for (unsigned corner = 0; corner < corners.size(); ++corner) {
         SbVec3f point;
         for (int i = 0; i < 3; ++i)
@@ -97,6 +97,31 @@ void SoCamera::viewAll(const SbBox3f& box, float aspect)
     const SbVec3f place = frame(corners, aspect, Filled);
     focalDistance.setValue(place[2]);
     position.setValue(box.getCenter() + orientation.getValue().multVec(place));
+    fitDepthRange(box);
+}
+
+void SoCamera::viewAll(const std::vector<SbVec3f>& points, float aspect)
+{
+    SbBox3f box;
+    SbBox3f seen; // along the camera's axes
+    const SbRotation toEye = orientation.getValue().inverse();
+    Corners corners;
+    for (const SbVec3f& point : points) {
+        box.extendBy(point);
+        corners.push_back(toEye.multVec(point));
+        seen.extendBy(corners.back());
+    }
+    const SbVec3f size = seen.isEmpty() ? SbVec3f() : seen.getSize();
+    if (!(std::max(size[0], size[1]) > std::max(size[2] * ThinnestPart, Thinnest))) {
+        viewAll(box, aspect); // next to nothing of it is seen from there
+        return;
+    }
+    const SbVec3f middle = seen.getCenter();
+    for (SbVec3f& corner : corners)
+        corner = corner - middle;
+    const SbVec3f place = frame(corners, aspect, Filled);
+    focalDistance.setValue(place[2]);
+    position.setValue(orientation.getValue().multVec(middle + place));
     fitDepthRange(box);
 }
 

@@ -9,8 +9,8 @@
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbRay.h>
 
-#include <array>
 #include <unordered_set>
+#include <vector>
 
 /// From where and how the scene is seen. Looks along its own negative z axis, its y axis up. The navigating
 /// operations write the fields, so they can be watched, undone and saved like every edit.
@@ -42,6 +42,8 @@ public:
     /// Moves, without turning, until the box fills the picture but for a small margin, in its middle; adapts
     /// focal and clipping distances.
     void viewAll(const SbBox3f& box, float aspect);
+    /// The same for what these points enclose, which may fill the picture where its box would not.
+    void viewAll(const std::vector<SbVec3f>& points, float aspect);
     void pointAt(const SbVec3f& target);
     /// Puts the clipping distances around the box, so that all of it is seen.
     void fitDepthRange(const SbBox3f& box);
@@ -57,8 +59,8 @@ protected:
     ~SoCamera() override;
     /// Height of what is seen at the focal point.
     virtual float getFocalHeight() const = 0;
-    /// Corners of a box around the origin, along the camera's axes.
-    using Corners = std::array<SbVec3f, 8>;
+    /// What has to be seen, around the origin, along the camera's axes; not empty.
+    using Corners = std::vector<SbVec3f>;
     /// Where the camera stands, along its axes, to have these corners fill `filled` of the picture; adapts
     /// the size of what it sees where that does not follow from where it stands.
     virtual SbVec3f frame(const Corners& corners, float aspect, float filled) = 0;

@@ -22,14 +22,17 @@ float SoOrthographicCamera::getFocalHeight() const
     return value > 1e-9F ? value : 1e-9F;
 }
 
-// A box around the origin is seen around the middle, from whatever side.
+// What lies around the origin is seen around the middle, from whatever side.
 SbVec3f SoOrthographicCamera::frame(const Corners& corners, float aspect, float filled)
 {
     float half = 0;
-    for (const SbVec3f& corner : corners)
+    float reach = 0;
+    for (const SbVec3f& corner : corners) {
         half = std::max({half, std::abs(corner[1]), std::abs(corner[0]) / aspect});
+        reach = std::max(reach, corner.length());
+    }
     height.setValue(2 * half / filled);
-    return {0, 0, 2 * corners.front().length()};
+    return {0, 0, 2 * reach};
 }
 
 void SoOrthographicCamera::scaleView(float factor)

@@ -21,7 +21,7 @@ struct Wedge {
     float middle;
 };
 
-Wedge touch(const std::array<SbVec3f, 8>& corners, int axis, float slope)
+Wedge touch(const std::vector<SbVec3f>& corners, int axis, float slope)
 {
     float high = -std::numeric_limits<float>::max();
     float low = high;
@@ -34,7 +34,7 @@ Wedge touch(const std::array<SbVec3f, 8>& corners, int axis, float slope)
 
 // Where the corners have equal margins, seen from this distance, which is none too near for planes of this
 // slope.
-float middleAt(const std::array<SbVec3f, 8>& corners, int axis, float slope, float distance)
+float middleAt(const std::vector<SbVec3f>& corners, int axis, float slope, float distance)
 {
     float steep = slope;
     float flat = 0;
