@@ -4,6 +4,7 @@
 #include "viewport/ViewSight.h"
 
 #include <xsg/actions/SoPath.h>
+#include <xsg/values/SbMatrix.h>
 
 #include <QColor>
 #include <QImage>
