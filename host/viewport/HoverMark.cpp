@@ -42,33 +42,37 @@ bool HoverMark::isOld() const
 
 void HoverMark::show(const SoPath& part, const QPoint& place)
 {
-    const bool isSame = isSamePath(part, m_part) && !isOld();
+    std::vector<std::uint64_t> numbers;
+    for (int i = 0; i < part.getLength(); ++i)
+        numbers.push_back(part.getNode(i)->getNodeId());
+    const bool isSame = numbers == m_part && (part.isEmpty() || !isOld());
     if (isSame && (part.isEmpty() || place == m_place))
         return;
     m_place = place;
     if (!isSame) {
-        m_part = part;
+        m_part = std::move(numbers);
+        m_text = partText(part);
         m_stamp = stampNow();
         m_line = QImage();
         if (!part.isEmpty())
-            findLine();
+            findLine(part);
     }
     m_view.repaintTools();
 }
 
-void HoverMark::findLine()
+void HoverMark::findLine(const SoPath& part)
 {
-    if (m_part.getTail()->getNodeId() == m_slowPart ||
-        !(m_part.getTail()->asGroup() || m_part.getTail()->asShape()))
+    SoNode* node = part.getTail();
+    if (node->getNodeId() == m_slowPart || !(node->asGroup() || node->asShape()))
         return;
     QElapsedTimer time;
     time.start();
     QSize size = m_view.size() * m_view.devicePixelRatioF();
     if (size.width() > MostPixelsAcross || size.height() > MostPixelsAcross)
         size.scale(MostPixelsAcross, MostPixelsAcross, Qt::KeepAspectRatio);
-    const std::vector<std::uint32_t> covered = m_view.findCovered(m_part, size);
+    const std::vector<std::uint32_t> covered = m_view.findCovered(part, size);
     if (time.elapsed() > SlowMs)
-        m_slowPart = m_part.getTail()->getNodeId();
+        m_slowPart = node->getNodeId();
     const auto width = static_cast<std::size_t>(size.width());
     if (covered.size() != width * static_cast<std::size_t>(size.height()))
         return;
@@ -90,11 +94,11 @@ void HoverMark::findLine()
 
 void HoverMark::paint(QPainter& painter) const
 {
-    if (m_part.isEmpty())
+    if (m_part.empty())
         return;
     if (!m_line.isNull() && !isOld())
         painter.drawImage(m_view.rect(), m_line);
-    paintLabel(painter, m_place + QPoint(16, 20), partText(m_part), m_view.rect());
+    paintLabel(painter, m_place + QPoint(16, 20), m_text, m_view.rect());
 }
 
 void paintLabel(QPainter& painter, const QPoint& place, const QString& text, const QRect& bounds)

@@ -4,6 +4,7 @@
 #include "viewport/ViewSight.h"
 
 #include <xsg/actions/SoPath.h>
+#include <xsg/values/SbMatrix.h>
 
 #include <QColor>
 #include <QImage>
@@ -26,8 +27,7 @@ public:
     }
     /// An empty path: nothing. `place`: where the name is to be.
     void show(const SoPath& part, const QPoint& place);
-    bool isShown() const { return !m_part.isEmpty(); }
-    const SoPath& getPart() const { return m_part; }
+    bool isShown() const { return !m_part.empty(); }
     /// Whether scene or camera have changed since the line was found.
     bool isOld() const;
     void paint(QPainter& painter) const;
@@ -41,10 +41,11 @@ private:
         QSize size;
     };
     Stamp stampNow() const;
-    void findLine();
+    void findLine(const SoPath& part);
 
     SceneView& m_view;
-    SoPath m_part;
+    std::vector<std::uint64_t> m_part; // the numbers of the nodes that lead to it, which may go
+    QString m_text;
     QPoint m_place;
     Stamp m_stamp;
     QImage m_line;

@@ -49,15 +49,21 @@ QPoint stepOf(const QKeyEvent& event)
 
 } // namespace
 
-SelectTool::SelectTool(SceneView& view)
+SelectTool::SelectTool(SceneView& view, Selected selected)
     : m_view(view)
+    , m_selected(std::move(selected))
     , m_hover(view)
 {
 }
 
-void SelectTool::setSelected(const QList<SoPath>& paths)
+SoPath SelectTool::current() const
 {
-    m_selected = paths;
+    const QList<SoPath> paths = m_selected();
+    return paths.isEmpty() ? SoPath() : paths.last();
+}
+
+void SelectTool::selectionChanged()
+{
     if (m_hover.isShown())
         hoverSoon();
 }
@@ -83,14 +89,11 @@ QPoint SelectTool::getCrosshair() const
 
 void SelectTool::click(const SoPath& toShape)
 {
-    m_beforeClick.clear();
+    m_wentOn = false;
     if (toShape.isEmpty())
         return emit selectRequested({});
     const SoPath part = clickedPart(toShape, current());
-    const bool isWithin =
-        !isSamePath(part, namedPart(toShape)) || isSamePath(current(), materialPath(toShape));
-    if (isWithin)
-        m_beforeClick = m_selected;
+    m_wentOn = !isSamePath(part, namedPart(toShape));
     emit selectRequested({part});
 }
 
@@ -104,7 +107,7 @@ bool SelectTool::mousePressed(QMouseEvent& event)
 {
     stopHovering();
     hideCrosshair();
-    m_beforeClick.clear();
+    m_wentOn = false;
     if (event.button() != Qt::LeftButton || m_isPaused)
         return m_press != Press::None;
     const Qt::KeyboardModifiers keys = event.modifiers();
@@ -155,12 +158,13 @@ bool SelectTool::mouseReleased(QMouseEvent& event)
     return true;
 }
 
-// What is seen whole is what was selected before the first of the two clicks went on within it.
+// What is seen whole is the part, although the first of the two clicks has gone on within it.
 bool SelectTool::mouseDoubleClicked(QMouseEvent& event)
 {
     const bool hasKeys = event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
-    if (!hasKeys && !m_beforeClick.isEmpty())
-        emit selectRequested(std::exchange(m_beforeClick, {}));
+    const auto hit = std::exchange(m_wentOn, false) && !hasKeys ? m_view.pick(event.pos()) : std::nullopt;
+    if (hit)
+        emit selectRequested({namedPart(hit->path)});
     return hasKeys;
 }
 
@@ -179,7 +183,7 @@ void SelectTool::toggle(const QPoint& place)
     const auto hit = m_view.pick(place);
     if (!hit)
         return;
-    QList<SoPath> paths = m_selected;
+    QList<SoPath> paths = m_selected();
     const SoPath part = namedPart(hit->path);
     const auto isIt = [&](const SoPath& path) {
         return isSamePath(path, part) || isSamePath(path, hit->path);
@@ -224,7 +228,7 @@ void SelectTool::finishBand(bool adds)
 {
     const QRect band = getBand();
     endBand();
-    QList<SoPath> paths = adds ? m_selected : QList<SoPath>();
+    QList<SoPath> paths = adds ? m_selected() : QList<SoPath>();
     // Paths are equal where all their nodes are; a part is known by what it consists of.
     struct Hash {
         std::size_t operator()(const std::vector<const SoNode*>& nodes) const
@@ -291,8 +295,6 @@ void SelectTool::stopHovering()
 
 void SelectTool::goUp()
 {
-    if (m_selected.isEmpty())
-        return;
     const SoPath above = partAbove(current());
     emit selectRequested(above.isEmpty() ? QList<SoPath>() : QList<SoPath>{above});
 }
@@ -314,7 +316,7 @@ bool SelectTool::keyPressed(QKeyEvent& event)
             endBand();
         } else if (m_hasCrosshair) {
             hideCrosshair();
-        } else if (m_selected.isEmpty()) {
+        } else if (m_selected().isEmpty()) {
             return false;
         } else {
             goUp();

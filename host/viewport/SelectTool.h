@@ -8,6 +8,8 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 namespace scopix
 {
 
@@ -23,11 +25,13 @@ class SelectTool : public QObject, public ViewTool
     Q_OBJECT
 
 public:
-    /// The view must outlive it; whoever makes it adds it to the view.
-    explicit SelectTool(SceneView& view);
+    /// What is selected at present; the last one is the current one.
+    using Selected = std::function<QList<SoPath>()>;
+    /// The view must outlive it; whoever makes it adds it to the view. Keeps no node alive.
+    SelectTool(SceneView& view, Selected selected);
 
-    /// What is selected now; the last one is the current one.
-    void setSelected(const QList<SoPath>& paths);
+    /// Something else is selected now.
+    void selectionChanged();
     /// Whether hovering shows what a click would select, as at first.
     void setHovering(bool on);
     /// Clicks are somebody else's for the time being; the crosshair goes on.
@@ -71,11 +75,11 @@ private:
     bool clickAtCrosshair(Qt::KeyboardModifiers keys);
     void hideCrosshair();
     QRect getBand() const { return QRect(m_bandFrom, m_bandTo).normalized(); }
-    SoPath current() const { return m_selected.isEmpty() ? SoPath() : m_selected.last(); }
+    SoPath current() const;
 
     SceneView& m_view;
-    QList<SoPath> m_selected;
-    QList<SoPath> m_beforeClick; // where the last click went on within a part
+    Selected m_selected;
+    bool m_wentOn = false; // the last click, within what was selected
     HoverMark m_hover;
     QPoint m_hoverAt;
     bool m_isHovering = true;

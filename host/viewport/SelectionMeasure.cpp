@@ -2,6 +2,7 @@
 #include "viewport/SelectionMeasure.h"
 
 #include "viewport/SceneParts.h"
+#include "viewport/SceneView.h"
 
 #include <algorithm>
 
@@ -18,17 +19,25 @@ bool isBelow(const SoPath& path, const SoPath& above)
     return above.getLength() < path.getLength() && isSamePath(pathUpTo(path, above.getLength() - 1), above);
 }
 
-} // namespace
-
-void SelectionMeasure::setSelected(const QList<SoPath>& paths)
+// Looking for those above takes long where there are many, and counts little.
+QList<SoPath> topmost(const QList<SoPath>& paths)
 {
-    m_paths.clear();
+    constexpr int Many = 1000;
+    QList<SoPath> top;
     for (const SoPath& path : paths) {
         const auto holdsIt = [&](const SoPath& other) { return isBelow(path, other); };
-        if (!path.isEmpty() && (paths.size() > 1000 || std::none_of(paths.begin(), paths.end(), holdsIt)))
-            m_paths.append(path);
+        if (!path.isEmpty() && (paths.size() > Many || std::none_of(paths.begin(), paths.end(), holdsIt)))
+            top.append(path);
     }
-    restart();
+    return top;
+}
+
+} // namespace
+
+SelectionMeasure::SelectionMeasure(SceneView& view, Selected selected)
+    : m_view(view)
+    , m_selected(std::move(selected))
+{
 }
 
 void SelectionMeasure::want(bool on)
@@ -37,9 +46,10 @@ void SelectionMeasure::want(bool on)
     restart();
 }
 
-std::uint32_t SelectionMeasure::sceneNow() const
+std::uint64_t SelectionMeasure::sceneNow() const
 {
-    return m_paths.isEmpty() ? 0 : m_paths.first().getHead()->getChangeCount();
+    const SoNode* scene = m_view.getScene();
+    return scene ? (scene->getNodeId() << 32) + scene->getChangeCount() : 0;
 }
 
 void SelectionMeasure::refresh()
@@ -55,7 +65,10 @@ void SelectionMeasure::restart()
     m_isReady = false;
     m_scene = sceneNow();
     m_timer.stop();
+    m_paths.clear();
+    m_action.forget();
     if (m_wanted > 0) {
+        m_paths = topmost(m_selected());
         next();
         m_timer.start(0, this);
     }
@@ -79,6 +92,8 @@ void SelectionMeasure::timerEvent(QTimerEvent* /*event*/)
         next();
     }
     m_timer.stop();
+    m_paths.clear();
+    m_action.forget();
     m_isReady = true;
     emit ready();
 }

@@ -290,12 +290,15 @@ void MainWindow::makeHelpMenu()
         QMessageBox::information(
             this, tr("Moving in the 3D View"),
             tr("Turn: drag with the left button.\n"
-               "Move: drag with the middle or right button, or with Shift and the left one.\n"
+               "Move: drag with the middle or right button.\n"
                "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
-               "Select: click. The selected part shows its edges.\n"
+               "Select: click; once more for the shape, then its material. Ctrl adds, Shift and "
+               "dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.\n"
                "See all of the selected part: double-click, or F.\n"
                "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
                "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.\n"
+               "Measure: M.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

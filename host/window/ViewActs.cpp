@@ -38,11 +38,11 @@ bool remembered(const QString& key, bool atFirst)
 ViewActs::ViewActs(QMenu& menu, SceneView& view, QWidget& tree, HostServices& services,
                    UserNotifier& notifier)
     : m_view(view)
-    , m_services(services)
     , m_notifier(notifier)
+    , m_selectionMeasure(view, [&services] { return services.getSelectedPaths(); })
     , m_measure(view, m_selectionMeasure)
     , m_sizeBox(view, m_selectionMeasure)
-    , m_select(view)
+    , m_select(view, [&services] { return services.getSelectedPaths(); })
     , m_clipBar(new ClipBar(view))
 {
     // The first in this order that has a use for an event takes it.
@@ -57,7 +57,9 @@ ViewActs::ViewActs(QMenu& menu, SceneView& view, QWidget& tree, HostServices& se
     makeMeasureAction(menu, tree);
     connect(&view, &SceneView::picked, this, &ViewActs::clicked);
     connect(&m_select, &SelectTool::selectRequested, &services, &HostServices::selectPaths);
-    connect(&services, &HostServices::selectionChanged, this, &ViewActs::takeSelection);
+    connect(&services, &HostServices::selectionChanged, &m_select, &SelectTool::selectionChanged);
+    connect(&services, &HostServices::selectionChanged, &m_selectionMeasure,
+            &SelectionMeasure::selectionChanged);
 }
 
 ViewActs::~ViewActs()
@@ -125,13 +127,6 @@ void ViewActs::makeMeasureAction(QMenu& menu, QWidget& tree)
     });
     connect(&m_measure, &MeasureTool::changed, measure, &QAction::setChecked);
     connect(&m_measure, &MeasureTool::changed, this, [this](bool on) { m_select.setPaused(on); });
-}
-
-void ViewActs::takeSelection()
-{
-    const QList<SoPath> paths = m_services.getSelectedPaths();
-    m_select.setSelected(paths);
-    m_selectionMeasure.setSelected(paths);
 }
 
 void ViewActs::clicked(const SoPath& toShape)

@@ -35,12 +35,10 @@ private:
     void makeShadingMenu(QMenu& menu);
     void makeShowMenu(QMenu& menu);
     void makeMeasureAction(QMenu& menu, QWidget& tree);
-    void takeSelection();
     void clicked(const SoPath& toShape);
     void remember(const QString& key, bool on);
 
     SceneView& m_view;
-    HostServices& m_services;
     UserNotifier& m_notifier;
     SelectionMeasure m_selectionMeasure;
     MeasureTool m_measure;

@@ -27,6 +27,8 @@ public:
     void begin(const SoPath& part);
     /// True when all is measured, or else when the time is up. The scene must stay as it is from begin() on.
     bool advance(std::chrono::steady_clock::time_point until);
+    /// Lets the nodes of the path go, and keeps the sum.
+    void forget() { follow({}); }
     /// So far.
     const Sum& getSum() const { return m_sum; }
 
