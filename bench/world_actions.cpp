@@ -54,6 +54,9 @@ BENCHMARK_CAPTURE(frame, oneChild, Before::OneChild, Drawing::Done)->Apply(wallS
 BENCHMARK_CAPTURE(frame, opened, Before::Opening, Drawing::Done)->Apply(wallSizes);
 BENCHMARK_CAPTURE(frame, unchangedUndrawn, Before::Nothing, Drawing::LeftOut)->Apply(wallSizes);
 BENCHMARK_CAPTURE(frame, oneFieldUndrawn, Before::OneField, Drawing::LeftOut)->Apply(wallSizes);
+BENCHMARK_CAPTURE(frame, oneChildUndrawn, Before::OneChild, Drawing::LeftOut)->Apply(wallSizes);
+BENCHMARK_CAPTURE(frame, oneLightUndrawn, Before::OneLight, Drawing::LeftOut)->Apply(wallSizes);
+BENCHMARK_CAPTURE(frame, oneTextureUndrawn, Before::OneTexture, Drawing::LeftOut)->Apply(wallSizes);
 BENCHMARK_CAPTURE(frame, openedUndrawn, Before::Opening, Drawing::LeftOut)->Apply(wallSizes);
 BENCHMARK(writeText)->Apply(sizes);
 BENCHMARK(readText)->Apply(sizes);
@@ -73,6 +76,9 @@ int main(int argc, char** argv)
           ""},
          {"boxes of 100,000: all again over one field", "boxAfresh/100000", "boxAfterOneChange/100000", ""},
          growth("redraw after one field, drawing left out, growth with size", "frame/oneFieldUndrawn"),
+         growth("redraw after a child, drawing left out, growth with size", "frame/oneChildUndrawn"),
+         growth("redraw after a light, drawing left out, growth with size", "frame/oneLightUndrawn"),
+         growth("redraw after a texture, drawing left out, growth with size", "frame/oneTextureUndrawn"),
          growth("box computed again, growth with size", "boxAfresh"),
          growth("box after one change, growth with size", "boxAfterOneChange"),
          growth("picking, growth with size", "pick"),

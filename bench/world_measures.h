@@ -8,6 +8,8 @@
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoRayPickAction.h>
+#include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <benchmark/benchmark.h>
@@ -64,19 +66,44 @@ inline void pick(benchmark::State& state)
 enum class Before {
     Nothing,
     OneField,
-    OneChild, // is added and removed
+    OneChild,   // is removed or added, in the middle
+    OneLight,   // in one group of the world, is added or removed
+    OneTexture, // the same
     EyeMoves,
     Opening, // the scene is new to the renderer: no list of what to draw, no buffer of it is there
 };
+
+inline SoNode* makeLightOrTexture(Before before)
+{
+    if (before == Before::OneLight)
+        return new SoDirectionalLight;
+    static constexpr unsigned char Grey[4] = {90, 130, 170, 210};
+    auto* texture = new SoTexture2;
+    texture->image.setValue(2, 2, 1, Grey);
+    return texture;
+}
+
+/// Puts the node before the children of the group; null takes the first of them away.
+inline void changeFirst(SoSeparator& group, SoNode* node)
+{
+    if (node)
+        group.insertChild(node, 0);
+    else
+        group.removeChild(0);
+}
 
 inline void prepareFrame(Before before, SoSeparator& world, SoCamera& camera, float step)
 {
     if (before == Before::OneField)
         lastTransform(world).translation.setValue(step, 0, 0);
-    if (before == Before::OneChild) {
-        world.addChild(new SoSeparator);
-        world.removeChild(world.getNumChildren() - 1);
-    }
+    const int middle = world.getNumChildren() / 2;
+    if (before == Before::OneChild && step > 0)
+        world.removeChild(middle);
+    else if (before == Before::OneChild)
+        world.insertChild(makeWorldPart(middle, worldSide(world.getNumChildren() + 1)), middle);
+    if (before == Before::OneLight || before == Before::OneTexture)
+        changeFirst(*static_cast<SoSeparator*>(world.getChild(middle)),
+                    step > 0 ? makeLightOrTexture(before) : nullptr);
     if (before == Before::EyeMoves)
         camera.pan(0.001F * (step - 0.25F), 0);
 }

@@ -21,18 +21,22 @@ inline SbVec3f worldPlace(int i, int side)
     return {3.0F * static_cast<float>(i % side), 3.0F * static_cast<float>(i / side), 0};
 }
 
+inline SoSeparator* makeWorldPart(int i, int side)
+{
+    auto* group = new SoSeparator;
+    auto* transform = new SoTransform;
+    transform->translation.setValue(worldPlace(i, side));
+    group->addChild(transform);
+    group->addChild(new SoCube);
+    return group;
+}
+
 inline SoRef<SoSeparator> makeWorld(int separators)
 {
     SoRef<SoSeparator> root(new SoSeparator);
     const int side = worldSide(separators);
-    for (int i = 0; i < separators; ++i) {
-        auto* group = new SoSeparator;
-        auto* transform = new SoTransform;
-        transform->translation.setValue(worldPlace(i, side));
-        group->addChild(transform);
-        group->addChild(new SoCube);
-        root->addChild(group);
-    }
+    for (int i = 0; i < separators; ++i)
+        root->addChild(makeWorldPart(i, side));
     return root;
 }
 

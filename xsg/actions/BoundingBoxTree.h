@@ -29,6 +29,30 @@ public:
                 refreshRun(m_levels.size() - 1, run, boxOf);
         }
     }
+    /// More places follow.
+    template <class BoxOf>
+    void grow(std::size_t count, const BoxOf& boxOf)
+    {
+        if (m_levels.empty() || count / 2 > m_count)
+            return build(count, boxOf);
+        const std::size_t firstNew = m_count;
+        m_count = count;
+        std::size_t below = count;
+        for (std::size_t level = 0; level == 0 || below > 1; ++level) {
+            below = (below + Size - 1) / Size;
+            const bool isNewLevel = level == m_levels.size();
+            if (isNewLevel)
+                m_levels.emplace_back();
+            m_levels[level].resize(below);
+            if (isNewLevel) {
+                for (std::size_t run = 0; run < below; ++run)
+                    refreshRun(level, run, boxOf);
+            }
+        }
+        for (std::size_t chunk = firstNew / Size; chunk < getNumChunks(); ++chunk)
+            refresh(chunk, boxOf);
+    }
+    std::size_t getSize() const { return m_count; }
     /// The run that a place lies in.
     static std::size_t chunkOf(std::size_t place) { return place / Size; }
     /// After the box of a place in this run has changed.

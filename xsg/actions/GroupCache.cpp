@@ -47,9 +47,13 @@ xsg::LargeGroupCache* xsg::LargeGroupCache::find(SoGroup& group)
 
 void xsg::LargeGroupCache::noteChange(const SoNode* child, std::uint32_t changeCount)
 {
-    if (!child)
-        m_places.clear();
     m_log.add(child, changeCount);
+}
+
+void xsg::LargeGroupCache::noteChildren(const SoChildrenChange& change)
+{
+    m_places.note(change);
+    m_childrenLog.add(change);
 }
 
 bool xsg::LargeGroupCache::findChanged(const SoGroup& group, std::uint32_t since,
@@ -61,10 +65,31 @@ bool xsg::LargeGroupCache::findChanged(const SoGroup& group, std::uint32_t since
     // The group itself changed, so that the others may have been destroyed.
     if (std::find(changed.begin(), changed.end(), nullptr) != changed.end())
         return false;
+    findPlaces(group, changed, places);
+    return true;
+}
+
+bool xsg::LargeGroupCache::findChanged(const SoGroup& group, std::uint32_t since,
+                                       std::vector<SoChildrenChange>& changes,
+                                       std::vector<std::uint32_t>& places)
+{
+    std::vector<const SoNode*> changed;
+    if (!m_childrenLog.collectSince(since, group.getChangeCount(), changes) ||
+        !m_log.collectSince(since, changed))
+        return false;
+    changed.erase(std::remove(changed.begin(), changed.end(), nullptr), changed.end());
+    findPlaces(group, changed, places);
+    return true;
+}
+
+// Those that are children no more are not found; where another one has taken such a child's address, that one
+// is found for nothing.
+void xsg::LargeGroupCache::findPlaces(const SoGroup& group, const std::vector<const SoNode*>& changed,
+                                      std::vector<std::uint32_t>& places)
+{
     for (const SoNode* child : changed)
         m_places.find(group.getChildren(), child, places);
     std::sort(places.begin(), places.end());
-    return true;
 }
 
 void xsg::mergePlaces(std::vector<std::uint32_t>& places, const std::vector<std::uint32_t>& more)

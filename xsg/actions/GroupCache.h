@@ -4,6 +4,7 @@
 #include <xsg/actions/BoundingBoxTree.h>
 #include <xsg/actions/ChangeLog.h>
 #include <xsg/actions/ChildPlaces.h>
+#include <xsg/actions/ChildrenLog.h>
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/nodes/groups/SoGroupExtension.h>
 #include <xsg/values/SbBox.h>
@@ -71,17 +72,23 @@ public:
     /// Knows of everything after the group's change count `now`.
     explicit LargeGroupCache(std::uint32_t now)
         : m_log(now)
+        , m_childrenLog(now)
     {
     }
     /// Null where the group has no such cache.
     static LargeGroupCache* find(SoGroup& group);
 
     void noteChange(const SoNode* child, std::uint32_t changeCount) override;
+    void noteChildren(const SoChildrenChange& change) override;
     LargeGroupCache* asLarge() override { return this; }
 
     /// Appends the places of the children that changed (they, or what is below them) since the group's change
     /// count was `since`, in order. False where that is not known, or where the group itself changed.
     bool findChanged(const SoGroup& group, std::uint32_t since, std::vector<std::uint32_t>& places);
+    /// The same for who remembers the list of children as it was then: `changes`, one after the other, bring
+    /// it to the present one, and the group itself may have changed.
+    bool findChanged(const SoGroup& group, std::uint32_t since, std::vector<SoChildrenChange>& changes,
+                     std::vector<std::uint32_t>& places);
 
     /// Of the children, as of the box.
     struct ChildBoxes {
@@ -92,7 +99,11 @@ public:
     ChildBoxes& childBoxes() { return m_childBoxes; }
 
 private:
+    void findPlaces(const SoGroup& group, const std::vector<const SoNode*>& changed,
+                    std::vector<std::uint32_t>& places);
+
     ChangeLog m_log;
+    ChildrenLog m_childrenLog;
     ChildPlaces m_places;
     ChildBoxes m_childBoxes;
 };

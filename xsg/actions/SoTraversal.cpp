@@ -142,6 +142,14 @@ void SoTraversal::visitOnly(std::vector<std::uint32_t> places)
     m_hasNewPlan = true;
 }
 
+void SoTraversal::visitRest()
+{
+    if (m_frames.empty() || m_frames.back().planned == NoPlan)
+        return;
+    m_frames.back().planned = NoPlan;
+    m_plans.pop_back();
+}
+
 void SoTraversal::visit(SoNode* node)
 {
     if (!mayVisit())

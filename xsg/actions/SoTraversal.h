@@ -49,6 +49,8 @@ protected:
     void resetState() { m_state = SoState(); }
     /// In enterGroup(): of the group's children only those at these places are visited, in this order.
     void visitOnly(std::vector<std::uint32_t> places);
+    /// After visitOnly(): of the group of the present node, all children after it are visited.
+    void visitRest();
     /// Ends the walk; groups that are open are not left.
     void stop() { m_stopped = true; }
     int getNumVisited() const { return m_visited; }

@@ -38,22 +38,58 @@ xsg::DrawStateKey xsg::DrawStateTable::keyOf(const SoState& state, GpuTexture* t
     return key;
 }
 
-int xsg::DrawStateTable::find(const SoState& state, GpuTexture* texture)
+int xsg::DrawStateTable::use(const SoState& state, GpuTexture* texture)
 {
     DrawStateKey now = keyOf(state, texture);
-    if (m_lastNumber >= 0 && now == m_last)
-        return m_lastNumber;
-    const auto [place, isNew] = m_numbers.emplace(now, static_cast<int>(m_states.size()));
-    if (isNew)
-        m_states.push_back(&place->first);
-    m_last = std::move(now);
-    return m_lastNumber = place->second;
+    if (m_lastNumber < 0 || !(now == m_last)) {
+        m_lastNumber = numberOf(now);
+        m_last = std::move(now);
+    }
+    ++m_states[static_cast<std::size_t>(m_lastNumber)].users;
+    return m_lastNumber;
+}
+
+int xsg::DrawStateTable::numberOf(const DrawStateKey& key)
+{
+    const auto known = m_numbers.find(key);
+    if (known != m_numbers.end())
+        return known->second;
+    auto number = static_cast<int>(m_states.size());
+    if (m_free.empty()) {
+        m_states.push_back({});
+    } else {
+        number = m_free.back();
+        m_free.pop_back();
+    }
+    m_states[static_cast<std::size_t>(number)] = {&m_numbers.emplace(key, number).first->first, 0};
+    if (key.texture)
+        ++key.texture->users;
+    return number;
+}
+
+void xsg::DrawStateTable::release(int number)
+{
+    Entry& entry = m_states[static_cast<std::size_t>(number)];
+    if (--entry.users > 0)
+        return;
+    GpuTexture* texture = entry.key->texture;
+    if (texture && --texture->users == 0)
+        m_unusedTextures.push_back(texture);
+    m_numbers.erase(m_numbers.find(*entry.key));
+    entry = {};
+    m_free.push_back(number);
+    if (m_lastNumber == number) {
+        m_last = {};
+        m_lastNumber = -1;
+    }
 }
 
 void xsg::DrawStateTable::clear()
 {
     m_numbers.clear();
     m_states.clear();
+    m_free.clear();
+    m_unusedTextures.clear();
     m_last = {};
     m_lastNumber = -1;
     m_lights.clear();

@@ -6,6 +6,7 @@
 #include <xsg/render/TextureStore.h>
 
 #include <map>
+#include <utility>
 
 namespace xsg
 {
@@ -28,17 +29,30 @@ struct DrawStateKey {
 class DrawStateTable
 {
 public:
-    /// The number of this state, with its texture in OpenGL's memory; a new one where it is not there yet.
-    int find(const SoState& state, GpuTexture* texture);
-    const DrawStateKey& get(int number) const { return *m_states[static_cast<std::size_t>(number)]; }
-    std::size_t getSize() const { return m_states.size(); }
+    /// The number of this state, with its texture in OpenGL's memory, with one user more; a new one where it
+    /// is not there yet.
+    int use(const SoState& state, GpuTexture* texture);
+    /// One user less. Without any, the number is given to another state, and the texture is one user less.
+    void release(int number);
+    /// Textures that have lost a user and have no other.
+    std::vector<GpuTexture*> takeUnusedTextures() { return std::exchange(m_unusedTextures, {}); }
+    const DrawStateKey& get(int number) const { return *m_states[static_cast<std::size_t>(number)].key; }
+    /// Of those that have users.
+    std::size_t getSize() const { return m_numbers.size(); }
     void clear();
 
 private:
     DrawStateKey keyOf(const SoState& state, GpuTexture* texture);
+    int numberOf(const DrawStateKey& key);
 
     std::map<DrawStateKey, int> m_numbers;
-    std::vector<const DrawStateKey*> m_states;
+    struct Entry {
+        const DrawStateKey* key = nullptr;
+        std::int64_t users = 0;
+    };
+    std::vector<Entry> m_states;
+    std::vector<int> m_free; // numbers
+    std::vector<GpuTexture*> m_unusedTextures;
     DrawStateKey m_last; // neighbours in a scene mostly have the same
     int m_lastNumber = -1;
 

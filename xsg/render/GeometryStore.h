@@ -23,7 +23,7 @@ struct GpuGeometry {
 };
 
 /// Geometry in vertex buffers, made once per key and kept while scenes use it.
-class GeometryStore
+class XSG_API GeometryStore
 {
 public:
     /// The shape's geometry, uploaded where it was not there, with one user more.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/XsgExport.h>
+
 #include <condition_variable>
 #include <functional>
 #include <mutex>
@@ -12,7 +14,7 @@ namespace xsg
 
 /// A thread with an OpenGL context of its own that needs neither a window nor a display. Work given to it
 /// runs there while the caller waits, so the contexts that the caller has current stay untouched.
-class GlThread
+class XSG_API GlThread
 {
 public:
     GlThread();

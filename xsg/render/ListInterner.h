@@ -28,6 +28,7 @@ public:
             if (*it->second == *list)
                 return m_answer = it->second;
         }
+        dropUnused();
         m_known.emplace(hash(*list), list);
         return m_answer = list;
     }
@@ -38,6 +39,16 @@ public:
     }
 
 private:
+    /// Now and then, so that lists which nobody else holds any more do not pile up.
+    void dropUnused()
+    {
+        if (m_known.size() < m_mostKnown)
+            return;
+        for (auto it = m_known.begin(); it != m_known.end();)
+            it = it->second.use_count() == 1 ? m_known.erase(it) : std::next(it);
+        m_mostKnown = 2 * m_known.size() + Few;
+    }
+
     /// Equal lists may differ in their bytes (0 and -0); they are then kept twice, which does no harm.
     static std::size_t hash(const std::vector<T>& list)
     {
@@ -45,6 +56,8 @@ private:
         return std::hash<std::string_view>()({bytes, list.size() * sizeof(T)});
     }
 
+    static constexpr std::size_t Few = 64;
+    std::size_t m_mostKnown = Few;
     std::unordered_multimap<std::size_t, SoShared<T>> m_known;
     /// The last question: neighbours in a scene mostly have the same list.
     SoShared<T> m_asked;

@@ -14,12 +14,16 @@ namespace xsg
 /// One thing to draw: a shape, in one of the places where it stands.
 struct RenderItem {
     InstanceData instance;
-    SbBox3f box; // in world coordinates
-    GpuGeometry* geometry = nullptr;
+    SbBox3f box;                     // in world coordinates
+    GpuGeometry* geometry = nullptr; // null: the place is free
+    std::uint64_t rank = 0;          // grows in the order of the walk
+    std::uint32_t previous = 0;      // the items before and after it in that order
+    std::uint32_t next = 0;
     int drawState = 0; // its number in the list's DrawStateTable
     bool isTransparent = false;
     bool isRepeat = false; // below a group that stands in several places, and not the first of them
-    bool isDrawn() const { return geometry->indexCount > 0; }
+    bool isListed = false; // among the list's transparent items
+    bool isDrawn() const { return geometry && geometry->indexCount > 0; }
 };
 
 /// An application's own drawing, between the opaque and the transparent items.
@@ -37,7 +41,8 @@ struct RenderView {
 /// What in a render list is different from what was there when changes were last taken.
 struct RenderChanges {
     bool all = false;
-    bool orders = false; // the orders of drawing may be different
+    bool orders = false;    // the orders of drawing are other ones
+    bool structure = false; // items have come or gone
     std::vector<std::uint32_t> items;
     std::vector<std::uint32_t> regrouped; // those items whose geometry or draw state is another one now
 };

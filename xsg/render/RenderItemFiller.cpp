@@ -28,6 +28,6 @@ void xsg::RenderItemFiller::fill(RenderItem& item, const SoShape& shape, const S
     item.box = toWorld.transform(shape.getBox(state));
     item.geometry = m_geometry.get(shape, state);
     GpuTexture* texture = m_textures.get(state.texture, state.textureQuality);
-    item.drawState = m_drawStates.find(state, texture);
+    item.drawState = m_drawStates.use(state, texture);
     item.isTransparent = material.transparency > 0 || (texture && texture->hasAlpha);
 }

@@ -16,7 +16,7 @@ public:
         , m_textures(textures)
     {
     }
-    /// The item becomes a user of its geometry; the one it had before is not released.
+    /// The item becomes a user of its geometry and draw state; those it had before are not released.
     void fill(RenderItem& item, const SoShape& shape, const SoState& state, const SbMatrix& toWorld);
 
 private:

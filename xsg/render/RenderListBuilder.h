@@ -9,7 +9,7 @@ namespace xsg
 
 /// Makes a render list by a walk over the whole scene, and records the walk for the patcher. Needs the OpenGL
 /// context, as geometry and textures are uploaded on the way.
-class RenderListBuilder : private SoTraversal
+class XSG_API RenderListBuilder : protected SoTraversal
 {
 public:
     /// What a scene unfolds to beyond this is left out.
@@ -24,22 +24,44 @@ public:
     using SoTraversal::getNumVisited;
     using SoTraversal::setHiding;
 
-private:
+protected:
+    static constexpr std::uint32_t None = WalkRecord::None;
+
+    /// A group that is open, by its entry in the record.
+    struct OpenGroup {
+        std::uint32_t entry = None; // None: around the root
+        std::uint32_t last = None;  // the child that was met last
+    };
+
     bool wantsGroup(SoGroup* group) override;
+    void enterGroup(SoGroup* group) override;
     void leaveGroup(SoGroup* group) override;
     void visitShape(SoShape* shape) override;
     void visitProperty(SoNode* node) override;
 
-    void finish();
+    /// Makes a record of the node as the next child of the group that is open.
+    std::uint32_t recordNode(const SoNode* node);
+    /// Makes the items of a shape, behind the last one.
+    void addItems(WalkRecord::Entry& entry, const SoShape& shape);
+    std::size_t countItems();
+    /// Right after the node has changed the state.
+    bool isLight(const SoNode* node);
 
-    SoNode* m_root = nullptr;
-    bool m_isWalked = false;
     RenderList& m_list;
     GeometryStore& m_geometry;
     TextureStore& m_textures;
     RenderItemFiller m_filler;
     const SoCamera* m_wantedCamera = nullptr;
-    std::vector<std::uint32_t> m_openGroups; // their places in the record
+    std::vector<OpenGroup> m_open;
+    std::uint32_t m_lastItem = None;     // in the order of the walk
+    SoShared<SoLightSource> m_lightsMet; // before the present node
+
+private:
+    void finish();
+
+    SoNode* m_root = nullptr;
+    bool m_isWalked = false;
+    std::uint32_t m_nextGroup = None; // the entry of the group that is being opened
 };
 
 } // namespace xsg

@@ -9,7 +9,7 @@ namespace xsg
 
 /// Owns the render list of a scene and keeps it up to date: not at all while nothing changes, by a patch
 /// where that is enough, and otherwise by building it again, in pieces.
-class RenderListUpdater
+class XSG_API RenderListUpdater
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
@@ -33,6 +33,8 @@ public:
     RenderChanges takeChanges() { return std::exchange(m_list.changes, {}); }
     /// Gives back memory that only growing needs: to be called when nothing changes any more.
     void fitMemory() { m_list.fitMemory(); }
+    /// Whose items RenderList::collectItemsOf() gives.
+    void watch(const std::vector<std::uint64_t>& nodeIds) { m_list.record.watch(nodeIds); }
     /// How many nodes the last update looked at.
     int getNumVisited() const { return m_visited; }
     /// The next update builds the list again.

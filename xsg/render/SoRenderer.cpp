@@ -176,7 +176,7 @@ private:
     bool planMark(const Marked& marked);
     void planMask(const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
     void drawCallbacks();
-    void planVisible();
+    std::int64_t planVisible();
     void planBothSides(const xsg::InstanceList& instances, const xsg::Run& run);
     void plan(const xsg::InstanceList& instances, const xsg::Run& run, Faces faces = Faces::Both,
               bool isMirrored = false);
@@ -234,7 +234,7 @@ private:
     std::size_t m_opaqueTasks = 0; // of edges and masks: those of opaque items come first
     int m_mark = 0;                // that is drawn: 0 for the others, 1 for the current node's
     bool m_isMarkPlanned = false;
-    bool m_isShaded = false; // and not in the full look
+    bool m_isShaded = false;         // and not in the full look
     std::int64_t m_indicesDrawn = 0; // so far
 };
 
@@ -355,7 +355,8 @@ void SoRenderer::Impl::beginDrawing(const SoCamera* camera)
     m_isMarkPlanned = false;
     m_tasks.clear();
     m_nextTask = 0;
-    planVisible();
+    const std::int64_t seen = planVisible();
+    statistics.culled += m_opaque.getSize() - seen;
     m_phase = Phase::Opaque;
 }
 
@@ -530,7 +531,7 @@ void SoRenderer::Impl::draw(xsg::InstanceList& instances, const DrawTask& task)
 void SoRenderer::Impl::countAll()
 {
     statistics.shapes =
-        static_cast<std::int64_t>(m_list.opaque.size() + m_list.transparent.size() + m_list.copies.size());
+        static_cast<std::int64_t>(m_opaque.getSize() + m_list.transparent.size() + m_list.copies.size());
     const Uploads after = countUploads();
     statistics.bufferUploads = after.buffers - m_uploadsBefore.buffers;
     statistics.uploadedBytes = after.bytes - m_uploadsBefore.bytes;
@@ -610,23 +611,21 @@ EyeView SoRenderer::Impl::lookThrough(const SoCamera* camera, int width, int hei
     eye.eye = SbVec4f(place[0], place[1], place[2], isParallel ? 0.0F : 1.0F);
     SoLightSource light;
     light.direction = toWorld.multDirection(camera->getDirection()).normalized();
-    m_headlights.assign(headlight && !m_list.hasLights ? 1 : 0, light);
+    m_headlights.assign(headlight && m_list.lights == 0 ? 1 : 0, light);
     return eye;
 }
 
 void SoRenderer::Impl::updateOpaque(const xsg::Frustum& frustum)
 {
-    m_opaque.update(m_list.opaque, m_list.items, m_changes, !m_changes.orders);
+    m_opaque.follow(m_list.opaque, m_list.items, m_changes,
+                    [](const xsg::RenderItem& item) { return item.isDrawn() && !item.isTransparent; });
     m_opaque.findVisible(frustum, m_list.items, m_visible);
-    std::uint32_t seen = 0;
-    for (const xsg::Run& run : m_visible)
-        seen += run.end - run.first;
-    statistics.culled += m_opaque.getSize() - seen;
 }
 
-// What is in sight, batch by batch.
-void SoRenderer::Impl::planVisible()
+// What is in sight, batch by batch. Returns how much that is.
+std::int64_t SoRenderer::Impl::planVisible()
 {
+    std::int64_t seen = 0;
     auto run = m_visible.begin();
     for (const xsg::Run& batch : m_opaque.getBatches()) {
         const xsg::GpuGeometry& geometry = *m_opaque.getItem(m_list.items, batch.first).geometry;
@@ -636,9 +635,13 @@ void SoRenderer::Impl::planVisible()
                 return next.first < batch.end &&
                        std::int64_t{next.first - part.end} * geometry.indexCount <= CheapCorners;
             };
+            seen += part.end - part.first;
             while (run->end < batch.end && std::next(run) != m_visible.end() &&
-                   isCloseBehind(*std::next(run)))
-                part.end = std::min((++run)->end, batch.end);
+                   isCloseBehind(*std::next(run))) {
+                ++run;
+                seen += std::min(run->end, batch.end) - run->first;
+                part.end = std::min(run->end, batch.end);
+            }
             plan(m_opaque, part);
             countDrawn(geometry, part.end - part.first);
             if (run->end > batch.end)
@@ -646,6 +649,7 @@ void SoRenderer::Impl::planVisible()
             ++run;
         }
     }
+    return seen;
 }
 
 void SoRenderer::Impl::updateTransparent(const xsg::Frustum& frustum)
@@ -658,7 +662,10 @@ void SoRenderer::Impl::updateTransparent(const xsg::Frustum& frustum)
         else
             ++statistics.culled;
     }
-    std::sort(m_depths.begin(), m_depths.end()); // the eye looks along negative z: the farthest comes first
+    // The eye looks along negative z: the farthest comes first.
+    std::sort(m_depths.begin(), m_depths.end(), [&](const auto& a, const auto& b) {
+        return a.first != b.first ? a.first < b.first : items[a.second].rank < items[b.second].rank;
+    });
     m_order.clear();
     for (const auto& [depth, i] : m_depths)
         m_order.push_back(i);
@@ -692,17 +699,20 @@ void SoRenderer::Impl::planBothSides(const xsg::InstanceList& instances, const x
 void SoRenderer::Impl::setHighlight(const std::vector<std::uint64_t>& nodeIds)
 {
     const auto set = [](Marked& marked, std::vector<std::uint64_t> ids) {
-        marked.isOther |= ids != marked.nodeIds;
+        const bool isOther = ids != marked.nodeIds;
+        marked.isOther |= isOther;
         marked.nodeIds.swap(ids);
+        return isOther;
     };
     const auto current = nodeIds.end() - (nodeIds.empty() ? 0 : 1);
-    set(m_others, {nodeIds.begin(), current});
-    set(m_current, {current, nodeIds.end()});
+    const bool areOthers = set(m_others, {nodeIds.begin(), current});
+    if (set(m_current, {current, nodeIds.end()}) || areOthers)
+        m_updater.watch(nodeIds);
 }
 
 void SoRenderer::Impl::collect(Marked& marked)
 {
-    const bool isOther = std::exchange(marked.isOther, false) || m_changes.all;
+    const bool isOther = std::exchange(marked.isOther, false) || m_changes.all || m_changes.structure;
     if (isOther) {
         marked.items.clear();
         for (const std::uint64_t nodeId : marked.nodeIds)

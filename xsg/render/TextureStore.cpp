@@ -3,6 +3,8 @@
 
 #include <xsg/errors/SoError.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -133,6 +135,8 @@ void xsg::TextureStore::beginRound(std::uint64_t sceneId)
         release();
     m_sceneId = sceneId;
     m_isOutdated = false;
+    for (auto& [key, texture] : m_textures)
+        texture.users = 0;
     ++m_round;
 }
 
@@ -145,6 +149,18 @@ void xsg::TextureStore::endRound()
         }
         forget(it->second);
         it = m_textures.erase(it);
+    }
+}
+
+void xsg::TextureStore::removeUnused(const std::vector<GpuTexture*>& textures)
+{
+    for (const GpuTexture* unused : textures) {
+        const auto place = std::find_if(m_textures.begin(), m_textures.end(),
+                                        [&](const auto& each) { return &each.second == unused; });
+        if (place == m_textures.end() || place->second.users > 0)
+            continue;
+        forget(place->second);
+        m_textures.erase(place);
     }
 }
 

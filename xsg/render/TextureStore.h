@@ -19,6 +19,7 @@ struct GpuTexture {
     bool hasAlpha = false;
     std::int64_t bytes = 0;
     std::uint64_t usedAt = 0;
+    std::int64_t users = 0; // draw states that have it
     /// What it was made of.
     struct Source {
         std::string path;
@@ -35,7 +36,7 @@ struct GpuTexture {
 /// Images as OpenGL textures, made once per texture node and quality and kept while scenes use them. Together
 /// they take no more than the budget for pictures: what does not fit is brought down or left out, and an
 /// SoError says so.
-class TextureStore
+class XSG_API TextureStore
 {
 public:
     /// How files are read from now on; null: by the library's own reader. All textures are made again.
@@ -50,6 +51,8 @@ public:
     /// `sceneId`: a scene's textures are kept from round to round, those of another one are not.
     void beginRound(std::uint64_t sceneId);
     void endRound();
+    /// Frees those of these textures that no draw state has.
+    void removeUnused(const std::vector<GpuTexture*>& textures);
     void release();
     std::int64_t getUploadedBytes() const { return m_uploadedBytes; }
     /// Of all textures that are there.

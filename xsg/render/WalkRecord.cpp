@@ -7,50 +7,129 @@
 
 void xsg::WalkRecord::clear()
 {
+    m_first = None;
     m_entries.clear();
+    m_free.clear();
     m_children.clear();
+    for (auto& watched : m_watched)
+        watched.second.clear();
 }
 
 void xsg::WalkRecord::fitMemory()
 {
-    if (m_entries.capacity() > getSize() + getSize() / 8)
+    if (m_entries.capacity() > m_entries.size() + m_entries.size() / 8)
         m_entries.shrink_to_fit();
 }
 
-void xsg::WalkRecord::add(const SoNode* node, std::size_t itemCount)
+std::uint32_t& xsg::WalkRecord::linkAfter(std::uint32_t parent, std::uint32_t previous)
 {
-    m_entries.push_back({node->getNodeId(), node->getChangeCount(), node->getChangeCount(),
-                         static_cast<std::uint32_t>(itemCount), 0, false});
+    if (previous != None)
+        return m_entries[previous].next;
+    return parent == None ? m_first : m_entries[parent].first;
 }
 
-std::uint32_t xsg::WalkRecord::openGroup(const SoGroup* group, std::size_t itemCount)
+std::uint32_t xsg::WalkRecord::getNext(std::uint32_t parent, std::uint32_t previous) const
 {
-    m_entries.push_back({group->getNodeId(), group->getFieldChangeCount(), group->getChangeCount(),
-                         static_cast<std::uint32_t>(itemCount), 0, group->isStateScope()});
-    return static_cast<std::uint32_t>(getSize() - 1);
+    if (previous != None)
+        return m_entries[previous].next;
+    return parent == None ? m_first : m_entries[parent].first;
 }
 
-bool xsg::WalkRecord::addChildren(std::uint32_t place, const SoGroup& group)
+std::uint32_t xsg::WalkRecord::link(const Entry& entry, std::uint32_t parent, std::uint32_t previous)
+{
+    std::uint32_t place = static_cast<std::uint32_t>(m_entries.size());
+    if (m_free.empty()) {
+        m_entries.push_back(entry);
+    } else {
+        place = m_free.back();
+        m_free.pop_back();
+        m_entries[place] = entry;
+    }
+    std::uint32_t& before = linkAfter(parent, previous);
+    m_entries[place].next = before;
+    before = place;
+    noteWatched(place);
+    return place;
+}
+
+std::uint32_t xsg::WalkRecord::unlinkNext(std::uint32_t parent, std::uint32_t previous)
+{
+    std::uint32_t& before = linkAfter(parent, previous);
+    const std::uint32_t place = before;
+    before = m_entries[place].next;
+    return place;
+}
+
+void xsg::WalkRecord::forget(std::uint32_t place)
+{
+    const auto watched = m_watched.find(m_entries[place].nodeId);
+    if (watched != m_watched.end())
+        watched->second.erase(std::find(watched->second.begin(), watched->second.end(), place));
+    if (m_entries[place].isGroup)
+        m_children.erase(place);
+    m_entries[place] = {};
+    m_free.push_back(place);
+}
+
+std::uint32_t xsg::WalkRecord::add(const SoNode* node, std::uint32_t parent, std::uint32_t previous)
+{
+    Entry entry;
+    entry.nodeId = node->getNodeId();
+    entry.changeCount = entry.wholeCount = node->getChangeCount();
+    return link(entry, parent, previous);
+}
+
+std::uint32_t xsg::WalkRecord::addGroup(const SoGroup* group, std::uint32_t parent, std::uint32_t previous)
+{
+    Entry entry;
+    entry.nodeId = group->getNodeId();
+    entry.changeCount = group->getFieldChangeCount();
+    entry.wholeCount = group->getChangeCount();
+    entry.isGroup = true;
+    entry.isIsolated = group->isStateScope();
+    return link(entry, parent, previous);
+}
+
+void xsg::WalkRecord::indexChildren(std::uint32_t place, const SoGroup& group)
 {
     Children children;
-    for (std::uint32_t i = place + 1; i < getSize(); i = std::max(m_entries[i].end, i + 1)) {
-        if (!m_entries[i].isStateScope)
-            children.reaching.push_back(static_cast<std::uint32_t>(children.entries.size()));
+    for (std::uint32_t i = m_entries[place].first; i != None; i = m_entries[i].next)
         children.entries.push_back(i);
-    }
     if (static_cast<int>(children.entries.size()) != group.getNumChildren())
-        return false;
+        return;
+    collectReaching(children);
     m_children[place] = std::move(children);
-    return true;
 }
 
-const xsg::WalkRecord::Children* xsg::WalkRecord::findChildren(std::uint32_t place) const
+void xsg::WalkRecord::collectReaching(Children& children) const
+{
+    children.reaching.clear();
+    for (std::uint32_t i = 0; i < children.entries.size(); ++i) {
+        if (children.entries[i] != None && !m_entries[children.entries[i]].isIsolated)
+            children.reaching.push_back(i);
+    }
+}
+
+xsg::WalkRecord::Children* xsg::WalkRecord::findChildren(std::uint32_t place)
 {
     const auto found = m_children.find(place);
     return found == m_children.end() ? nullptr : &found->second;
 }
 
-std::uint32_t xsg::WalkRecord::firstItemAfter(std::size_t place, std::size_t itemCount) const
+void xsg::WalkRecord::watch(const std::vector<std::uint64_t>& nodeIds)
 {
-    return place + 1 < getSize() ? m_entries[place + 1].firstItem : static_cast<std::uint32_t>(itemCount);
+    m_watched.clear();
+    for (const std::uint64_t nodeId : nodeIds)
+        m_watched[nodeId];
+    for (std::uint32_t i = 0; !nodeIds.empty() && i < m_entries.size(); ++i)
+        noteWatched(i);
+}
+
+void xsg::WalkRecord::noteWatched(std::uint32_t place)
+{
+    if (m_watched.empty())
+        return;
+    const auto watched = m_watched.find(m_entries[place].nodeId);
+    if (watched != m_watched.end())
+        watched->second.push_back(place);
 }
