@@ -8,6 +8,7 @@
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/paths/SoScenePath.h>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -56,14 +57,13 @@ QString pathOf(const SoField& field)
     const SoFieldContainer* node = field.getContainer();
     const SpxSceneServices* scene = SpxSceneServices::getInstance();
     const SoPath path = scene ? scene->getSelectedPath() : SoPath();
-    QString text;
-    if (!path.isEmpty() && path.getTail() == node) {
-        for (int i = 0; i < path.getLength(); ++i)
-            text += (i > 0 ? QStringLiteral("/") : QString()) + nodeLabel(*path.getNode(i));
-    } else if (node) {
-        text = nodeLabel(*node);
-    }
-    return text + QLatin1Char('.') + SpxText::toQString(field.getName());
+    SoScenePath place;
+    if (!path.isEmpty() && path.getTail() == node)
+        place = SoScenePath::of(path);
+    else if (node)
+        place = SoScenePath::ofLabel(*node);
+    place.setField(field.getName().getString());
+    return SpxText::toQString(SbName(SbString(place.toText()))); // names hold Latin-1
 }
 
 QString sceneText(const SoField& field)
