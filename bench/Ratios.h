@@ -30,7 +30,9 @@ public:
         for (const Run& run : runs) {
             if (run.run_type != Run::RT_Iteration)
                 continue;
-            const bool isWallTime = run.run_name.time_type.find("real_time") != std::string::npos;
+            const std::string& kind = run.run_name.time_type;
+            const bool isWallTime =
+                kind.find("real_time") != std::string::npos || kind.find("manual_time") != std::string::npos;
             const double time = isWallTime ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
             const auto [known, isNew] = m_times.emplace(
                 run.run_name.function_name + (run.run_name.args.empty() ? "" : "/") + run.run_name.args,

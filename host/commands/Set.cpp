@@ -30,7 +30,7 @@ bool setField(xsg::SceneLookup& lookup, const std::string& word, const std::stri
 {
     const std::size_t equals = findEquals(word);
     if (equals == std::string::npos) {
-        complain("PATH=VALUE was expected, such as /Lamp/Bulb.radius=3, and not \"" + word + "\".");
+        complain("PATH=VALUE was expected, such as /Bulb.radius=3, and not \"" + word + "\".");
         return false;
     }
     const std::string path = word.substr(0, equals);

@@ -7,6 +7,7 @@
 #include <xsg/paths/ChildTable.h>
 #include <xsg/paths/NodeLabel.h>
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace xsg
@@ -77,6 +78,7 @@ private:
     SoRef<SoNode>& m_root;
     SceneLookup m_lookup;
     PatchResult m_result;
+    std::vector<std::pair<int, std::string>> m_misfits; // with their lines
     std::unordered_map<const SceneChange*, Taken> m_taken;
     std::vector<std::pair<SoRef<SoNode>, SbName>> m_names;
 };
@@ -84,8 +86,8 @@ private:
 void Application::misfit(const SceneChange& change, const std::string& reason)
 {
     const std::string line = change.line > 0 ? "line " + std::to_string(change.line) + ": " : std::string();
-    m_result.misfits.push_back(line + SceneChange::nameOf(change.kind) + " " + change.path.toText() + ": " +
-                               reason + ".");
+    m_misfits.emplace_back(change.line, line + SceneChange::nameOf(change.kind) + " " + change.path.toText() +
+                                            ": " + reason + ".");
 }
 
 PatchResult Application::run()
@@ -111,6 +113,10 @@ PatchResult Application::run()
     m_result.alreadySo += fields.getAlreadySo();
     for (const auto& [change, problem] : fields.getMisfits())
         misfit(*change, problem);
+    std::stable_sort(m_misfits.begin(), m_misfits.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (auto& [line, sentence] : m_misfits)
+        m_result.misfits.push_back(std::move(sentence));
     return std::move(m_result);
 }
 
@@ -285,8 +291,8 @@ void Application::commit()
         if (!table.isChanged())
             continue;
         for (const SoRef<SoNode>& refused : table.commitInsertions())
-            m_result.misfits.push_back(std::string(labelOf(*refused).getString()) + " cannot stand in " +
-                                       labelOf(*group).getString() + ", which it holds.");
+            m_misfits.emplace_back(0, std::string(labelOf(*refused).getString()) + " cannot stand in " +
+                                          labelOf(*group).getString() + ", which it holds.");
     }
     for (const auto& [node, name] : m_names)
         node->setName(name);

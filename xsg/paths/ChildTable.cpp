@@ -62,6 +62,8 @@ const ChildTable::Slot* ChildTable::slotOf(const SoScenePath::Step& step)
 SoNode* ChildTable::find(const SoScenePath::Step& step)
 {
     const Slot* slot = slotOf(step);
+    if (const std::string otherwise = slot ? std::string() : latin1Of(step.label); !otherwise.empty())
+        slot = slotOf({otherwise, step.index});
     return slot ? (*slot)->node.get() : nullptr;
 }
 
@@ -179,6 +181,8 @@ SoNode* SceneLookup::findBelow(SoNode* node, const std::vector<SoScenePath::Step
         std::string step;
         SoScenePath::writeStep(step, steps[i]);
         problem = "there is no " + step + (i == 0 ? " below the root" : " below " + steps[i - 1].label);
+        if (i == 0 && steps[0].label == labelOf(*m_root).getString())
+            problem += ", which itself is \"/\"";
         return nullptr;
     }
     return node;
@@ -188,6 +192,11 @@ SoNode* SceneLookup::findBelow(SoNode* node, const std::vector<SoScenePath::Step
 SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
 {
     const SoScenePath::Step& first = path.getSteps().front();
+    const std::string otherwise = latin1Of(first.label);
+    const auto isCalled = [&](const SoNode& node) {
+        const char* label = labelOf(node).getString();
+        return first.label == label || (!otherwise.empty() && otherwise == label);
+    };
     std::unordered_set<SoNode*> found;
     std::unordered_set<SoNode*> seen;
     std::vector<SoNode*> open{m_root.get()};
@@ -196,7 +205,7 @@ SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
         if (SoNode* end = node ? findBelow(node, path.getSteps(), 1, ignored) : nullptr)
             found.insert(end);
     };
-    if (first.index == 0 && first.label == labelOf(*m_root).getString())
+    if (first.index == 0 && isCalled(*m_root))
         look(m_root.get());
     while (!open.empty()) {
         SoNode* node = open.back();
@@ -206,7 +215,7 @@ SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
             continue;
         int index = 0;
         for (SoNode* child : group->getChildren()) {
-            if (first.label == labelOf(*child).getString() && (index++ == first.index || first.index == 0))
+            if (isCalled(*child) && (index++ == first.index || first.index == 0))
                 look(child);
             if (child->asGroup())
                 open.push_back(child);

@@ -56,6 +56,17 @@ SoScenePath SoScenePath::of(const SoPath& path)
     return result;
 }
 
+SoScenePath SoScenePath::ofLabel(const SoFieldContainer& container)
+{
+    const auto* node = dynamic_cast<const SoNode*>(&container);
+    const SbName label = node ? xsg::labelOf(*node) : container.getName();
+    SoScenePath result;
+    result.m_isAbsolute = false;
+    result.append(
+        {label.getLength() > 0 ? label.getString() : container.getTypeId().getName().getString(), 0});
+    return result;
+}
+
 bool SoScenePath::readWord(xsg::TextReader& in, const char* what, std::string& word, std::string& problem)
 {
     if (in.peek() == '"') {

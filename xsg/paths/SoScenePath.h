@@ -35,6 +35,8 @@ public:
     explicit SoScenePath(std::string_view text);
     /// From the path's own start.
     static SoScenePath of(const SoPath& path);
+    /// Of the node, wherever it stands: of use where no other is called so.
+    static SoScenePath ofLabel(const SoFieldContainer& node);
     /// Takes a path from the start of a text; it ends at a blank, a comma, "]" or "=". False, and a sentence
     /// without its full stop, where there is none.
     static bool read(xsg::TextReader& in, SoScenePath& path, std::string& problem);

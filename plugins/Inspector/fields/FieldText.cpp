@@ -9,6 +9,7 @@
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoMField.h>
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/paths/SoScenePath.h>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -52,22 +53,35 @@ QString nodeLabel(const SoFieldContainer& node)
     return SpxText::toQString(name.getLength() > 0 ? name : node.getTypeId().getName());
 }
 
-QString pathOf(const SoFieldContainer& node)
+namespace
+{
+
+SoScenePath scenePathOf(const SoFieldContainer& node)
 {
     const SpxSceneServices* scene = SpxSceneServices::getInstance();
     const SoPath path = scene ? scene->getSelectedPath() : SoPath();
-    if (path.isEmpty() || path.getTail() != &node)
-        return nodeLabel(node);
-    QStringList labels;
-    for (int i = 0; i < path.getLength(); ++i)
-        labels += nodeLabel(*path.getNode(i));
-    return labels.join(QLatin1Char('/'));
+    return !path.isEmpty() && path.getTail() == &node ? SoScenePath::of(path) : SoScenePath::ofLabel(node);
+}
+
+// Names hold Latin-1.
+QString textOf(const SoScenePath& path)
+{
+    return SpxText::toQString(SbName(SbString(path.toText())));
+}
+
+} // namespace
+
+QString pathOf(const SoFieldContainer& node)
+{
+    return textOf(scenePathOf(node));
 }
 
 QString pathOf(const SoField& field)
 {
     const SoFieldContainer* node = field.getContainer();
-    return (node ? pathOf(*node) : QString()) + QLatin1Char('.') + SpxText::toQString(field.getName());
+    SoScenePath path = node ? scenePathOf(*node) : SoScenePath();
+    path.setField(field.getName().getString());
+    return textOf(path);
 }
 
 QString sceneText(const SoField& field)

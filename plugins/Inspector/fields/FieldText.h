@@ -11,7 +11,8 @@ namespace inspector
 
 /// The node's name, or its type's where it has none.
 QString nodeLabel(const SoFieldContainer& node);
-/// "Harbour/Sea/Water.shininess", from the scene's root where the node is selected there.
+/// "/Sea/Water.shininess", from the scene's root where the node is selected there, else "Water.shininess": a
+/// path that find and the program's commands take.
 QString pathOf(const SoField& field);
 QString pathOf(const SoFieldContainer& node);
 QString sceneText(const SoField& field);
