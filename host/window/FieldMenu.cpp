@@ -12,6 +12,7 @@
 #include <scopix/SpxEditedFields.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
+#include <xsg/paths/SoScenePath.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -102,12 +103,10 @@ void FieldMenu::open(const QPoint& where)
 QString FieldMenu::pathOf(const SoField& field) const
 {
     const SoPath path = m_services.getSelectedPath();
-    QStringList nodes;
-    for (int i = 0; i < path.getLength(); ++i)
-        nodes += nodeText(*path.getNode(i));
-    if (nodes.isEmpty() && field.getContainer())
-        nodes += nodeText(*field.getContainer());
-    return nodes.join(QLatin1Char('/')) + QLatin1Char('.') + toQString(field.getName());
+    SoScenePath place = path.isEmpty() && field.getContainer() ? SoScenePath::ofLabel(*field.getContainer())
+                                                               : SoScenePath::of(path);
+    place.setField(field.getName().getString());
+    return QString::fromLatin1(place.toText().c_str()); // names hold Latin-1
 }
 
 void FieldMenu::reset(SoField& field)
