@@ -97,7 +97,7 @@ PictureCamera ViewCamera::getPictureCamera(float aspect, bool forTurn)
     const SbBox3f box = boxOf(m_root.get());
     const bool isFramed = forTurn && m_look == Look::Framed && !box.isEmpty();
     if (isFramed)
-        frame(turningBox(box));
+        m_camera->viewAll(turningBox(box), m_aspect);
     else if (forTurn)
         findPivot();
     fitDepth();

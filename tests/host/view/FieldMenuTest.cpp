@@ -87,7 +87,7 @@ TEST_F(FieldMenuOf, CopiesValueAndPathAndResetsAsAStep)
     ASSERT_TRUE(choose("Copy Value"));
     EXPECT_EQ(QApplication::clipboard()->text(), "0.1123456");
     ASSERT_TRUE(choose("Copy Path"));
-    EXPECT_EQ(QApplication::clipboard()->text(), "Sea/Water.shininess");
+    EXPECT_EQ(QApplication::clipboard()->text(), "/Water.shininess");
     ASSERT_TRUE(choose("Reset to Default"));
     EXPECT_EQ(material->shininess.getValue(), 0.2F);
     EXPECT_TRUE(material->shininess.isDefault());
