@@ -349,21 +349,21 @@ void SceneTreeView::resizeEvent(QResizeEvent* event)
     fitColumns();
 }
 
-// The last column takes what is left.
+// Name and type share what the figures leave; the last column takes the rest.
 void SceneTreeView::fitColumns()
 {
     constexpr int FigureWidth = 84;
-    int rest = viewport()->width();
-    int others = 0;
-    for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column) {
+    constexpr int Least = 180; // for name and type
+    int left = viewport()->width();
+    for (int column = SceneTreeModel::TrianglesColumn; column < SceneTreeModel::ColumnCount; ++column) {
         if (isColumnHidden(column))
             continue;
-        const int width = column == SceneTreeModel::TypeColumn ? viewport()->width() * 38 / 100 : FigureWidth;
-        header()->resizeSection(column, width);
-        others += width;
+        header()->resizeSection(column, FigureWidth);
+        left -= FigureWidth;
     }
-    rest = std::max(rest - others, viewport()->width() * 30 / 100);
-    header()->resizeSection(SceneTreeModel::NameColumn, rest);
+    left = std::max(left, Least);
+    header()->resizeSection(SceneTreeModel::NameColumn, left * 62 / 100);
+    header()->resizeSection(SceneTreeModel::TypeColumn, left * 38 / 100);
 }
 
 void SceneTreeView::setColumnShown(int column, bool on)

@@ -52,7 +52,7 @@ protected:
             auto* line = chooser ? chooser->findChild<QLineEdit*>() : nullptr;
             EXPECT_TRUE(line);
             if (!line)
-                return QApplication::activeModalWidget()->close(), void();
+                return;
             QTest::keyClicks(line, typed);
             QTest::keyClick(line, Qt::Key_Return);
         });

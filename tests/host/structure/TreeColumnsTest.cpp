@@ -125,7 +125,8 @@ TEST_F(TreeColumnsShown, AreChosenInTheMenuAndKept)
             triangles = each;
     }
     ASSERT_TRUE(triangles);
-    tree.setColumnShown(SceneTreeModel::MemoryColumn, false);
+    for (const int column : {SceneTreeModel::MemoryColumn, SceneTreeModel::PlacesColumn})
+        tree.setColumnShown(column, false);
     tree.setColumnShown(SceneTreeModel::TrianglesColumn, false);
     triangles->setChecked(true);
     EXPECT_TRUE(tree.isColumnShown(SceneTreeModel::TrianglesColumn));

@@ -43,7 +43,11 @@ protected:
     {
         done.clear();
         window.openFile(path);
-        return QTest::qWaitFor([this] { return !done.isEmpty(); }, 60000) && done.value(0);
+        const bool isOpen = QTest::qWaitFor([this] { return !done.isEmpty(); }, 60000) && done.value(0);
+        // A dialog that showed how far it is may have taken the focus along.
+        window.activateWindow();
+        tree.setFocus();
+        return isOpen && QTest::qWaitFor([this] { return tree.hasFocus(); });
     }
     std::string text() const { return SoSceneFile::writeText(window.getScene()); }
     static std::string outline(SoNode* node)
