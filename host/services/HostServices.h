@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/HostPreview.h"
 #include "services/SceneSource.h"
 #include "services/Selection.h"
 #include "undo/GestureTracker.h"
@@ -9,6 +10,8 @@
 #include <scopix/SpxNodeDefaults.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
+
+#include <unordered_set>
 
 namespace scopix
 {
@@ -46,6 +49,7 @@ public:
     void selectNodes(const QList<SoFieldContainer*>& nodes) override;
     void selectPaths(const QList<SoPath>& paths) override;
     QList<SoPath> getSelectedPaths() const override;
+    void aboutToEdit(const SoField& field) override;
 
     bool canHaveUserDefault(const SoField& field) const override;
     bool hasUserDefault(const SoField& field) const override;
@@ -53,6 +57,7 @@ public:
     QString clearUserDefault(const SoField& field) override;
     void applyUserDefaults(SoFieldContainer& node) const override;
 
+    HostPreview& preview() { return m_preview; }
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
@@ -81,7 +86,9 @@ private:
     GestureTracker m_gestures;
     Selection m_selection;
     UndoHistory m_history;
+    HostPreview m_preview{m_history};
     SceneSource* m_source = nullptr;
+    std::unordered_set<const SoFieldContainer*> m_alsoEdited; // beside what is selected, until that changes
 };
 
 } // namespace scopix

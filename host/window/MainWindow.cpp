@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/MainWindow.h"
+#include "window/BeforeSwitch.h"
 
 #include "panels/FieldListView.h"
 #include "panels/ScenePanel.h"
@@ -220,9 +221,15 @@ void MainWindow::makeViewMenu()
         toggle->setCheckable(true);
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
+    auto* before = new BeforeSwitch(*this, m_services);
+    menu->addAction(before->action());
+    before->takeKeyIn(*m_view);
+    before->takeKeyIn(*m_tree);
     menu->addSeparator();
-    for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
+    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock}) {
+        before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
+    }
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
