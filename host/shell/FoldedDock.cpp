@@ -3,8 +3,13 @@
 
 #include <QDockWidget>
 #include <QEvent>
-#include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <utility>
 
 namespace scopix
 {
@@ -16,6 +21,8 @@ FoldedDock::FoldedDock(QDockWidget& dock)
 {
     dock.installEventFilter(this);
     connect(&dock, &QDockWidget::topLevelChanged, this, &FoldedDock::unfold);
+    if (m_content)
+        m_content->setEnabled(false); // out of the reach of Tab
     watchTexts();
     fold();
 }
@@ -24,37 +31,50 @@ FoldedDock::~FoldedDock() = default;
 
 FoldedDock* FoldedDock::of(const QDockWidget& dock)
 {
-    return dock.findChild<FoldedDock*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto all = dock.findChildren<FoldedDock*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto isFolded = [](const FoldedDock* each) { return !each->m_isOpen; };
+    const auto found = std::find_if(all.begin(), all.end(), isFolded);
+    return found == all.end() ? nullptr : *found;
 }
 
 void FoldedDock::fold()
 {
+    if (m_isOpen)
+        return;
     if (m_content)
-        m_content->hide();
+        m_content->setMaximumHeight(0); // hidden, it would leave no width to the title
     m_dock.setMaximumHeight(m_dock.minimumSizeHint().height());
 }
 
-// Whatever widget shows the text: those of Qt say by this signal that theirs has changed.
 void FoldedDock::watchTexts()
 {
-    const QMetaMethod unfold = metaObject()->method(metaObject()->indexOfMethod("unfold()"));
-    for (QWidget* each : m_content ? m_content->findChildren<QWidget*>() : QList<QWidget*>()) {
-        const QMetaObject* type = each->metaObject();
-        const int changed = type->indexOfSignal("textChanged()");
-        if (changed >= 0)
-            connect(each, type->method(changed), this, unfold);
+    watchAll<QTextEdit>();
+    watchAll<QPlainTextEdit>();
+}
+
+// A text that is set up, and stays empty, says nothing.
+template <class Text>
+void FoldedDock::watchAll()
+{
+    for (Text* each : m_content ? m_content->findChildren<Text*>() : QList<Text*>()) {
+        connect(each, &Text::textChanged, this, [this, each] {
+            if (!each->document()->isEmpty())
+                unfold();
+        });
     }
 }
 
 void FoldedDock::unfold()
 {
-    disconnect();
+    if (std::exchange(m_isOpen, true))
+        return;
     m_dock.removeEventFilter(this);
     m_dock.disconnect(this);
     m_dock.setMaximumHeight(QWIDGETSIZE_MAX);
-    if (m_content)
-        m_content->show();
-    setParent(nullptr); // at once no longer the dock's
+    if (m_content) {
+        m_content->setMaximumHeight(QWIDGETSIZE_MAX);
+        m_content->setEnabled(true);
+    }
     deleteLater();
 }
 
@@ -64,7 +84,7 @@ bool FoldedDock::eventFilter(QObject* watched, QEvent* event)
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
         unfold();
     // The title grows with the font.
-    else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    else if (event->type() == QEvent::FontChange)
         QMetaObject::invokeMethod(
             this, [this] { fold(); }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);

@@ -23,16 +23,19 @@ public:
 
     /// Null where the dock is not folded.
     static FoldedDock* of(const QDockWidget& dock);
-    Q_INVOKABLE void unfold();
+    void unfold();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fold();
     void watchTexts();
+    template <class Text>
+    void watchAll();
 
     QDockWidget& m_dock;
     QPointer<QWidget> m_content;
+    bool m_isOpen = false; // and soon deleted
 };
 
 } // namespace scopix

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "viewport/SceneView.h"
 
+#include "structure/SceneStates.h"
 #include "theme/Theme.h"
 #include "viewport/ViewSurface.h"
 
@@ -69,6 +70,13 @@ void SceneView::redraw()
 {
     m_statisticsAreOld = true;
     m_surface->redraw();
+}
+
+void SceneView::setStates(const SceneStates* states)
+{
+    m_states = states;
+    m_pickAction.setHiding(&states->getUntouchable());
+    connect(states, &SceneStates::changed, this, &SceneView::redraw);
 }
 
 void SceneView::setWireframe(bool on)
@@ -167,6 +175,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     renderer.setWireframe(m_wireframe);
+    renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));

@@ -21,6 +21,7 @@ class SoRenderer;
 namespace scopix
 {
 
+class SceneStates;
 class ViewSurface;
 struct ViewContent;
 
@@ -46,6 +47,10 @@ public:
     void setHighlight(const QList<const SoNode*>& nodes);
     /// The node alone; null marks none.
     void setHighlight(const SoNode* node);
+
+    /// What is hidden is not shown and not picked, and what is locked is not picked; it must outlive the
+    /// view.
+    void setStates(const SceneStates* states);
 
     /// Edges instead of surfaces.
     void setWireframe(bool on);
@@ -110,6 +115,7 @@ private:
     std::vector<std::uint64_t> m_highlight; // nodes' numbers: a node may go while it is marked
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
+    const SceneStates* m_states = nullptr;
     ViewSurface* m_surface;
     QLabel* m_statistics;
     bool m_statisticsAreOld = true;

@@ -9,16 +9,21 @@
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
+#include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
+#include "window/NodeEditing.h"
+#include "window/NodeMenu.h"
 #include "window/ReloadBar.h"
+#include "window/TreeColumns.h"
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -85,6 +90,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_tree(&m_scenePanel->getTree())
     , m_fields(new FieldListView)
     , m_view(new SceneView)
+    , m_states(new SceneStates(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -96,6 +102,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeDocks();
     makeFileMenu();
     makeEditMenu();
+    makeNodeMenu();
     makeViewMenu();
     makeHelpMenu();
     makeToolBar();
@@ -199,6 +206,15 @@ void MainWindow::makeEditMenu()
     find->setObjectName(QStringLiteral("findAction"));
 }
 
+void MainWindow::makeNodeMenu()
+{
+    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
+    new NodeMenu(*menuBar()->addMenu(tr("&Node")), *m_editing, *m_branchFiles, *m_tree, *m_view);
+    m_tree->setStates(m_states);
+    m_view->setStates(m_states);
+}
+
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
@@ -230,6 +246,7 @@ void MainWindow::makeViewMenu()
         before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
     }
+    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -372,6 +389,7 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 
 void MainWindow::showScene(SoNode* root)
 {
+    m_states->clear();
     m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.

@@ -13,9 +13,12 @@ class SoField;
 namespace scopix
 {
 
+class BranchFiles;
 class FieldListView;
 class HelpWindow;
 class HostServices;
+class NodeEditing;
+class SceneStates;
 class UserNotifier;
 class ScenePanel;
 class SceneTreeView;
@@ -59,6 +62,9 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    NodeEditing& getEditing() { return *m_editing; }
+    BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    SceneStates& getStates() { return *m_states; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -73,6 +79,7 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
+    void makeNodeMenu();
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -99,6 +106,9 @@ private:
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    SceneStates* m_states;
+    NodeEditing* m_editing = nullptr;
+    BranchFiles* m_branchFiles = nullptr;
     HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;

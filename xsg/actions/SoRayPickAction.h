@@ -33,6 +33,8 @@ public:
     std::optional<SoPickedPoint> pick(SoNode* root, const SbRay& ray);
     /// How many nodes the last pick looked at.
     using SoTraversal::getNumVisited;
+    /// What of the scene the ray passes through, from the next pick on; it must outlive them.
+    using SoTraversal::setHiding;
 
 private:
     struct Hit;

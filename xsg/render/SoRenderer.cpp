@@ -87,6 +87,7 @@ public:
     SbColor highlightColor{1, 0.6F, 0.1F};
     float highlightThickness = 2;
     bool headlight = true;
+    const SoHiding* hiding = nullptr;
     std::string error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }
@@ -222,6 +223,7 @@ void SoRenderer::Impl::clearPicture()
 
 void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
 {
+    m_updater.setHiding(hiding);
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
@@ -499,6 +501,11 @@ void SoRenderer::setBackground(const SbColor& color, float opacity)
 void SoRenderer::setWireframe(bool on)
 {
     m_impl->wireframe = on;
+}
+
+void SoRenderer::setHiding(const SoHiding* hiding)
+{
+    m_impl->hiding = hiding;
 }
 
 void SoRenderer::setHighlight(const SoNode* node)

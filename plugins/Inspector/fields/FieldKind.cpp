@@ -75,7 +75,7 @@ int linesOf(const SoField& field)
     case FieldKind::Mask:
         return maskLines(field);
     case FieldKind::Numbers:
-        return NumberAccess::of(field)->count > 4 ? 2 : 1;
+        return NumberAccess::of(field)->count > 3 ? 2 : 1;
     default:
         return 1;
     }
@@ -85,9 +85,8 @@ bool isWide(const SoField& field)
 {
     const FieldKind kind = kindOf(field);
     if (kind == FieldKind::Numbers)
-        return NumberAccess::of(field)->count > 2;
-    return kind != FieldKind::Bool && kind != FieldKind::Enum && kind != FieldKind::Mask &&
-           kind != FieldKind::Node;
+        return NumberAccess::of(field)->count > 1;
+    return kind != FieldKind::Bool && kind != FieldKind::Node;
 }
 
 } // namespace inspector

@@ -2,6 +2,7 @@
 #include "panel/FieldPanel.h"
 
 #include "fields/FieldText.h"
+#include "fields/NodeDescription.h"
 #include "panel/FlowRow.h"
 #include "panel/NearbyNodes.h"
 #include "panel/NodeMenu.h"
@@ -296,7 +297,11 @@ void FieldPanel::showPlace()
     const QString label = nodeLabel(*node());
     m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
                      (label == type ? QString() : QStringLiteral(" &nbsp;") + type.toHtmlEscaped()));
-    m_title->setToolTip(label);
+    const NodeDescription* known = findNodeDescription(*node());
+    m_title->setToolTip(
+        QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
+        (known ? QStringLiteral("<br>") + QString::fromUtf8(known->meaning.data()).toHtmlEscaped()
+               : QString()));
     const SpxSceneServices* scene = SpxSceneServices::getInstance();
     const SoPath path = scene ? scene->getSelectedPath() : SoPath();
     if (path.isEmpty() || path.getTail() != node())

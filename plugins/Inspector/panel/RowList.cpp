@@ -27,6 +27,7 @@ namespace
 constexpr int Margin = 6;
 constexpr int Space = 3;
 constexpr int NarrowInCharacters = 46;
+constexpr int NarrowForColors = 60;
 
 } // namespace
 
@@ -209,9 +210,12 @@ int RowList::lineHeight() const
     return fontMetrics().height() + 10;
 }
 
-bool RowList::isNarrow() const
+// The name above the inputs, which then have the whole width. Colours have a swatch and more beside their
+// numbers.
+bool RowList::isStacked(const Item& item) const
 {
-    return viewport()->width() < fontMetrics().averageCharWidth() * NarrowInCharacters;
+    const int enough = FieldKind(item.kind) == FieldKind::Color ? NarrowForColors : NarrowInCharacters;
+    return item.isWide && viewport()->width() < fontMetrics().averageCharWidth() * enough;
 }
 
 void RowList::placeItems()
@@ -231,7 +235,7 @@ void RowList::placeItems()
             heading.clear();
         }
         item.top = y;
-        item.height = item.lines * lineHeight() + (item.isWide && isNarrow() ? captionLine : 0);
+        item.height = item.lines * lineHeight() + (isStacked(item) ? captionLine : 0);
         y += item.height + Space;
     }
     m_contentHeight = y + Margin;
@@ -281,7 +285,7 @@ void RowList::place(Item& item)
     Row* row = rowOf(item);
     if (!row)
         return;
-    row->setStacked(item.isWide && isNarrow());
+    row->setStacked(isStacked(item));
     row->setGeometry(Margin, item.top - verticalScrollBar()->value(), viewport()->width() - 2 * Margin,
                      item.height);
     if (!isNew)

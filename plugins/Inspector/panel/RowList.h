@@ -88,7 +88,7 @@ private:
     void scrollTo(const Item& item);
     bool stepFocus(bool next);
     int lineHeight() const;
-    bool isNarrow() const;
+    bool isStacked(const Item& item) const;
 
     std::vector<Item> m_items;
     QString m_filter;

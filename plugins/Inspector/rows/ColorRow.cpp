@@ -29,6 +29,7 @@ namespace
 {
 
 constexpr int FormCount = 4;
+constexpr int Space = 3;
 
 struct FormWords {
     QString button;
@@ -96,6 +97,10 @@ ColorRow::~ColorRow()
 
 void ColorRow::build()
 {
+    m_beside = new QWidget(this);
+    auto* layout = new QHBoxLayout(m_beside);
+    layout->setContentsMargins(0, 0, Space, 0);
+    layout->setSpacing(Space);
     makeSwatch();
     makeForms();
     for (int i = 0; i < 3; ++i)
@@ -112,7 +117,7 @@ void ColorRow::makeSwatch()
     m_swatch->setFixedWidth(2 * side);
     m_swatch->setIconSize({side + side / 3, side - 2});
     connect(m_swatch, &QPushButton::clicked, this, &ColorRow::openPicker);
-    editorLayout()->addWidget(m_swatch);
+    m_beside->layout()->addWidget(m_swatch);
     addInput(m_swatch, tr("colour picker"));
 }
 
@@ -123,7 +128,7 @@ void ColorRow::makeForms()
     m_forms->setAutoRaise(true);
     m_forms->setFocusPolicy(Qt::StrongFocus);
     connect(m_forms, &QToolButton::clicked, this, &ColorRow::openForms);
-    editorLayout()->addWidget(m_forms);
+    m_beside->layout()->addWidget(m_forms);
     addInput(m_forms, tr("form"));
 }
 

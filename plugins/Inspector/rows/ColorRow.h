@@ -41,6 +41,7 @@ protected:
     void writeNumber(int which, double number) override;
     void fieldSwitched() override { updateParts(); }
     bool takeText(const QString& text) override;
+    QWidget* besideCaption() const override { return m_beside; }
 
 private:
     void makeSwatch();
@@ -62,8 +63,9 @@ private:
     SoSFFloat* transparency() const;
 
     ColorForm m_form;
-    ColorParts m_parts{}; // hue, saturation, value
-    ColorParts m_made{};  // what the field had when they were found
+    ColorParts m_parts{};        // hue, saturation, value
+    ColorParts m_made{};         // what the field had when they were found
+    QWidget* m_beside = nullptr; // has the swatch and the choice of the form
     QPushButton* m_swatch = nullptr;
     QToolButton* m_forms = nullptr;
     QLineEdit* m_hex = nullptr;

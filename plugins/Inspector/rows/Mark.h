@@ -18,6 +18,9 @@ public:
 
     explicit Mark(QWidget* parent);
 
+    /// As large as the line of its row.
+    QSize sizeHint() const override { return {fontMetrics().height(), fontMetrics().height()}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
     void setState(State state, const QString& words);
     State state() const { return m_state; }
 

@@ -73,7 +73,7 @@ QWidget* MatrixRow::makeForms()
     m_forms->setCurrentIndex(int(m_form));
     m_forms->setFocusPolicy(Qt::StrongFocus);
     m_forms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_forms->setMinimumContentsLength(6);
+    m_forms->setMinimumContentsLength(2);
     connect(m_forms, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { setForm(MatrixForm(index)); });
     addInput(m_forms, tr("form"));
@@ -166,7 +166,7 @@ void MatrixRow::showForm()
     m_note->setToolTip(
         isRefused ? tr("%1, so it cannot be shown as moving, turning and scaling.").arg(reasons[int(m_shape)])
                   : QString());
-    m_forms->setAccessibleDescription(m_note->toolTip());
+    m_forms->setAccessibleDescription(isRefused ? m_note->toolTip() : accessibleDescription());
 }
 
 const SbMatrix& MatrixRow::matrix() const

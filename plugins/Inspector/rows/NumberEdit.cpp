@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFrame>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -51,9 +50,14 @@ NumberEdit::NumberEdit(QWidget* parent)
 {
     setFocusPolicy(Qt::TabFocus); // a press may become a drag: a click takes the focus by itself
     setContextMenuPolicy(Qt::NoContextMenu);
-    setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0.0")));
     connect(this, &QLineEdit::textEdited, this, [this] { setWrong(false); });
     updateCursor();
+}
+
+QSize NumberEdit::minimumSizeHint() const
+{
+    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("0.0"));
+    return {digits + textMargins().left() + 2 * Margin, QLineEdit::minimumSizeHint().height()};
 }
 
 void NumberEdit::setFormat(const NumberFormat& format)
@@ -142,21 +146,7 @@ bool NumberEdit::event(QEvent* event)
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::ToolTip && isCut()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
-        return true;
-    }
     return QLineEdit::event(event);
-}
-
-bool NumberEdit::isCut() const
-{
-    const QMargins margins = textMargins();
-    QStyleOptionFrame frame;
-    initStyleOption(&frame);
-    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
-    return fontMetrics().horizontalAdvance(text()) >
-           inside.width() - margins.left() - margins.right() - 2 * Margin;
 }
 
 void NumberEdit::mousePressEvent(QMouseEvent* event)

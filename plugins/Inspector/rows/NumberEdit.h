@@ -33,6 +33,8 @@ class NumberEdit : public QLineEdit
 public:
     explicit NumberEdit(QWidget* parent = nullptr);
 
+    /// A number of two digits, beside what stands in front of it.
+    QSize minimumSizeHint() const override;
     void setFormat(const NumberFormat& format);
     const NumberFormat& format() const { return m_format; }
     /// Shows a number that nobody typed here; drops what is typed.
@@ -48,8 +50,6 @@ public:
     /// shown.
     void setPresent(std::function<double()> present) { m_present = std::move(present); }
 
-    /// The text does not fit: the tool tip then is the text.
-    bool isCut() const;
     bool isDragging() const { return m_drag == Drag::Moves; }
     /// Typed into, or dragged: what is shown is the user's.
     bool isBusy() const { return isDragging() || (isModified() && hasFocus()); }

@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr double Degree = 3.141592653589793 / 180;
-constexpr int InALine = 4;
+constexpr int InALine = 3;
 
 QStringList partNames(const SoField& field, int count)
 {

@@ -32,7 +32,7 @@ void RotationRow::build()
     m_forms->setCurrentIndex(int(m_form));
     m_forms->setFocusPolicy(Qt::StrongFocus);
     m_forms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_forms->setMinimumContentsLength(6);
+    m_forms->setMinimumContentsLength(2);
     connect(m_forms, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { setForm(RotationForm(index)); });
     m_grid = new QGridLayout(editor());
@@ -44,12 +44,12 @@ void RotationRow::build()
     placeNumbers();
 }
 
-// The angle stands beside the choice of the form, the rest below.
+// The fourth number stands beside the choice of the form, the rest below.
 void RotationRow::placeNumbers()
 {
     const QString letters[] = {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"),
                                QStringLiteral("w")};
-    m_grid->addWidget(m_forms, 0, 0, 1, m_form == RotationForm::AxisAngle ? 6 : 12);
+    m_grid->addWidget(m_forms, 0, 0, 1, m_form == RotationForm::Euler ? 12 : 6);
     for (int i = 0; i < 4; ++i) {
         NumberEdit* number = numbers()[i];
         const bool isTheAngle = m_form == RotationForm::AxisAngle && i == 3;
@@ -62,12 +62,12 @@ void RotationRow::placeNumbers()
         number->setFormat(format);
         number->setAccessibleName(fieldName() + QLatin1Char(' ') + (isTheAngle ? tr("angle") : letters[i]));
         number->setVisible(i < 3 || m_form != RotationForm::Euler);
-        const int width = m_form == RotationForm::Quaternion ? 3 : 4;
-        if (isTheAngle)
+        if (i == 3)
             m_grid->addWidget(number, 0, 6, 1, 6);
         else
-            m_grid->addWidget(number, 1, i * width, 1, width);
+            m_grid->addWidget(number, 1, i * 4, 1, 4);
     }
+    setInputOrder({m_forms, numbers()[3], numbers()[0], numbers()[1], numbers()[2]});
     for (int column = 0; column < 12; ++column)
         m_grid->setColumnStretch(column, 1);
 }

@@ -6,6 +6,7 @@
 #include "fields/ToolTip.h"
 #include "rows/Caption.h"
 #include "rows/ConnectDialog.h"
+#include "rows/CutText.h"
 #include "rows/Mark.h"
 #include "rows/NumberEdit.h"
 #include "rows/RowMenu.h"
@@ -136,15 +137,20 @@ void Row::placeParts()
     const bool isNarrow = width() < fontMetrics().averageCharWidth() * NarrowInCharacters;
     const double share = isNarrow ? NarrowCaptionShare : CaptionShare;
     const int captionWidth = m_isStacked ? width() - left : int(width() * share) - left;
+    QWidget* extra = besideCaption();
+    const int extraWidth = extra ? extra->sizeHint().width() : 0;
+    const int right = left + captionWidth + Gap;
     m_mark->setGeometry(0, 0, mark, firstLine);
-    m_caption->setGeometry(left, 0, std::max(0, captionWidth), firstLine);
+    m_caption->setGeometry(left, 0, std::max(0, captionWidth - (m_isStacked ? extraWidth : 0)), firstLine);
+    if (extra)
+        extra->setGeometry(m_isStacked ? width() - extraWidth : right, 0, extraWidth,
+                           m_isStacked ? line : height());
     // Room for the offer as long as one is compared, so that nothing moves when a value becomes equal.
     const int offer = m_take && m_compared ? mark + 2 * Gap : 0;
     if (m_isStacked)
         m_editor->setGeometry(left, line, width() - left - offer, height() - line);
     else
-        m_editor->setGeometry(left + captionWidth + Gap, 0, width() - left - captionWidth - Gap - offer,
-                              height());
+        m_editor->setGeometry(right + extraWidth, 0, width() - right - extraWidth - offer, height());
     if (m_take)
         m_take->setGeometry(width() - offer, m_isStacked ? line : 0, offer, mark + 2 * Gap);
 }
@@ -471,6 +477,9 @@ bool Row::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn && m_inputs.contains(static_cast<QWidget*>(watched)))
         emit chosen();
+    if (watched->isWidgetType() && static_cast<QWidget*>(watched)->toolTip().isEmpty() &&
+        showCutText(*static_cast<QWidget*>(watched), *event))
+        return true;
     // Scrolling past an input edits nothing.
     if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
         event->ignore();

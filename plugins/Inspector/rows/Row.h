@@ -75,10 +75,16 @@ protected:
     /// What a drag on the caption changes; null for nothing.
     virtual NumberEdit* draggedByCaption() const { return nullptr; }
 
+    /// A child of the row before the other inputs, in the line of the caption where that is above them; null
+    /// for none.
+    virtual QWidget* besideCaption() const { return nullptr; }
+
     QWidget* editor() const { return m_editor; }
     QBoxLayout* editorLayout();
     /// Gives an input its place in the reading order and the name by which it is read out.
     void addInput(QWidget* input, const QString& part = QString());
+    /// Those that were added, in another reading order.
+    void setInputOrder(const QList<QWidget*>& inputs) { m_inputs = inputs; }
     /// What this writes is no change from elsewhere.
     template <class Write>
     void edit(Write&& write)

@@ -216,3 +216,24 @@ TEST_F(SharedProfiles, ProcessesAtOnceLoseNothing)
 }
 
 } // namespace
+
+// Files of earlier versions do not say what was offered.
+TEST_F(SharedProfiles, AShippedProfileThatCameLaterIsOfferedOnce)
+{
+    QFile earlier(path());
+    ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
+    earlier.write(R"({"active":"Mine","profiles":[{"name":"Mine","editors":"all","tools":"all"}]})");
+    earlier.close();
+    for (const bool isFirst : {true, false}) {
+        ProfileList list(file());
+        list.read();
+        EXPECT_EQ(list.findProfile("Classic") != nullptr, isFirst);
+        EXPECT_EQ(list.activeProfile()->name(), "Mine");
+        std::vector<ProfileChoice> others = list.choices();
+        others.erase(std::remove_if(others.begin(), others.end(),
+                                    [](const ProfileChoice& each) { return each.name == "Classic"; }),
+                     others.end());
+        list.setProfiles(others, "Mine");
+        EXPECT_EQ(namesOf(written().profiles), (QStringList{"Default", "Mine"}));
+    }
+}

@@ -3,12 +3,16 @@
 
 #include "shell/ToolsMenu.h"
 
+#include <scopix/SpxContextMenus.h>
 #include <scopix/SpxEditor.h>
+#include <xsg/nodes/properties/SoMaterial.h>
 
 #include <gtest/gtest.h>
 
 #include <QtTest>
 #include <QtWidgets>
+
+#include <stdexcept>
 
 using namespace scopix;
 
@@ -314,4 +318,116 @@ TEST_F(Shell, ADockThatShowsItselfStaysBehindTheOneWithTheFocus)
     EXPECT_TRUE(m_shell.raiseDocksOf("Two"));
     QCoreApplication::processEvents();
     EXPECT_FALSE(m_two.m_dock.widget()->visibleRegion().isEmpty());
+}
+
+namespace
+{
+
+class Entries : public SpxContextMenuProvider
+{
+public:
+    explicit Entries(const QString& text)
+        : m_text(text)
+    {
+    }
+    void addNodeEntries(QMenu& menu, const QList<SoFieldContainer*>& nodes) override
+    {
+        menu.addAction(m_text + QString::number(nodes.size()));
+    }
+    void addFieldEntries(QMenu& menu, SoField& field) override
+    {
+        menu.addAction(m_text + field.getName().getString());
+    }
+
+private:
+    QString m_text;
+};
+
+class Throwing : public SpxContextMenuProvider
+{
+    void addFieldEntries(QMenu& /*menu*/, SoField& /*field*/) override
+    {
+        throw std::runtime_error("no menu");
+    }
+};
+
+QStringList textsOf(const QMenu& menu)
+{
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        if (!action->isSeparator())
+            texts += action->text();
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST_F(Shell, PlugInsAddEntriesToContextMenus)
+{
+    SpxContextMenus* menus = SpxContextMenus::getInstance();
+    ASSERT_EQ(menus, &m_shell);
+    const SoRef<SoMaterial> material(new SoMaterial);
+    QMenu menu;
+    QString failure;
+    QObject::connect(&m_shell, &HostShell::failed, [&](const QString& sentence) { failure = sentence; });
+    auto first = std::make_unique<Entries>("first ");
+    Throwing throwing;
+    Entries second("second ");
+    for (SpxContextMenuProvider* each :
+         {static_cast<SpxContextMenuProvider*>(first.get()), static_cast<SpxContextMenuProvider*>(&throwing),
+          static_cast<SpxContextMenuProvider*>(&second), static_cast<SpxContextMenuProvider*>(&second)})
+        menus->addProvider(each);
+    menus->addProvider(nullptr);
+    menus->fillNodeMenu(menu, {material.get()});
+    EXPECT_EQ(textsOf(menu), (QStringList{"first 1", "second 1"}));
+    menu.clear();
+    menus->fillNodeMenu(menu, {});
+    EXPECT_TRUE(menu.isEmpty());
+    menus->fillFieldMenu(menu, material->shininess, &second);
+    EXPECT_EQ(textsOf(menu), QStringList{"first shininess"});
+    EXPECT_TRUE(failure.contains("no menu")) << qPrintable(failure);
+    first.reset();
+    menu.clear();
+    menus->fillFieldMenu(menu, material->shininess);
+    EXPECT_EQ(textsOf(menu), QStringList{"second shininess"});
+}
+
+TEST_F(Shell, AFoldedDockShowsItsTitleUntilItHasSomethingToSay)
+{
+    auto* text = new QPlainTextEdit;
+    auto* content = new QWidget;
+    (new QVBoxLayout(content))->addWidget(text);
+    m_one.m_dock.setWidget(content);
+    m_window.resize(600, 500);
+    m_window.show();
+    m_shell.foldAtFirst("One");
+    m_one.start(m_shell);
+    m_window.addDockWidget(Qt::BottomDockWidgetArea, &m_one.m_dock);
+    runLoop();
+    content->setVisible(true); // as a tool does that comes up
+    EXPECT_EQ(content->height(), 0);
+    EXPECT_FALSE(text->isEnabled()) << "Tab would reach it";
+    EXPECT_GT(m_one.m_dock.width(), 400) << "its title is cut";
+    EXPECT_LT(m_one.m_dock.height(), 3 * m_one.m_dock.fontMetrics().height());
+    EXPECT_EQ(m_shell.foldedDocks(), QStringList{"One"});
+    text->setPlainText("something");
+    runLoop();
+    EXPECT_GT(content->height(), 0);
+    EXPECT_GT(m_one.m_dock.height(), 3 * m_one.m_dock.fontMetrics().height());
+    EXPECT_TRUE(m_shell.foldedDocks().isEmpty());
+
+    m_shell.setBottomFolded(true);
+    runLoop();
+    EXPECT_EQ(content->height(), 0);
+    QTest::mouseClick(&m_one.m_dock, Qt::LeftButton, {}, {5, 5});
+    runLoop();
+    EXPECT_GT(content->height(), 0);
+
+    m_shell.setBottomFolded(true);
+    m_shell.forgetFirstLook();
+    runLoop();
+    EXPECT_GT(content->height(), 0);
+    EXPECT_TRUE(text->isEnabled());
+    m_one.deactivate();
 }

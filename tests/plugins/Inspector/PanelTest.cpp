@@ -2,6 +2,7 @@
 // The panel in the real host: every kind of row, driven by keys and mouse.
 #include "plugins/Inspector/InspectorSession.h"
 
+#include <scopix/SpxNodeDefaults.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSwitch.h>
@@ -360,6 +361,105 @@ TEST_F(Panel, TheToolTipSaysWhatAFieldMeans)
     const QString text = session.row("shininess")->toolTip();
     for (const char* part : {"shininess", "SFFloat", "0 dull to 1 sharp", "Range: 0 to 1", "Default: 0.2"})
         EXPECT_TRUE(text.contains(part)) << part << " in " << qPrintable(text);
+}
+
+TEST_F(Panel, TheToolTipSaysUnitAndLimits)
+{
+    const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
+    session.selectNode(camera.get());
+    QHelpEvent ask(QEvent::ToolTip, {5, 5}, session.row("heightAngle")->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(session.row("heightAngle"), &ask);
+    const QString angle = session.row("heightAngle")->toolTip();
+    EXPECT_TRUE(angle.contains("Unit: radians, shown in degrees")) << qPrintable(angle);
+    QApplication::sendEvent(session.row("nearDistance"), &ask);
+    const QString distance = session.row("nearDistance")->toolTip();
+    EXPECT_TRUE(distance.contains("Unit: metres")) << qPrintable(distance);
+    EXPECT_TRUE(distance.contains("Range: at least 0")) << qPrintable(distance);
+    const QString spoken = session.number("nearDistance")->accessibleDescription();
+    EXPECT_TRUE(spoken.startsWith("SFFloat, metres")) << qPrintable(spoken);
+    session.enter(session.number("nearDistance"), "two");
+    EXPECT_NE(session.number("nearDistance")->accessibleDescription(), spoken);
+    QTest::keyClick(session.number("nearDistance"), Qt::Key_Escape);
+    EXPECT_EQ(session.number("nearDistance")->accessibleDescription(), spoken);
+}
+
+TEST_F(Panel, ValuesOfOtherProgramsArePasted)
+{
+    const auto paste = [&](const char* field, const char* text) {
+        QApplication::clipboard()->setText(text);
+        session.chooseInMenu(session.row(field), "Paste Value");
+    };
+    for (const char* text :
+         {"0.25\t0.5\t1", "0.25, 0.5, 1", "(0.25; 0.5; 1)", "[ 0.25 0.5 1 ]", "0.25 0.5 1"}) {
+        material.specularColor.setValue(SbColor(0, 0, 0));
+        paste("specularColor", text);
+        EXPECT_EQ(material.specularColor.getValue(), SbColor(0.25F, 0.5F, 1)) << text;
+    }
+    paste("diffuseColor", "1 0 0\n0\t1\t0\n0, 0, 1\n");
+    ASSERT_EQ(material.diffuseColor.getNum(), 3);
+    EXPECT_EQ(material.diffuseColor[1], SbVec3f(0, 1, 0));
+    paste("shininess", "[ 0.5, 0.75 ]");
+    EXPECT_EQ(material.shininess.getValue(), 0.5F);
+    const int before = steps();
+    paste("shininess", "half");
+    EXPECT_EQ(steps(), before);
+    const SoRef<SoTexture2> texture(new SoTexture2);
+    session.selectNode(texture.get());
+    paste("fileName", "a \"b\".png");
+    EXPECT_EQ(texture->fileName.getValue(), SbString("a \"b\".png"));
+    session.chooseInMenu(session.row("fileName"), "Copy Value");
+    EXPECT_EQ(QApplication::clipboard()->text(), "a \"b\".png");
+}
+
+TEST_F(Panel, ARowsMenuKeepsAndForgetsTheUsersDefault)
+{
+    material.shininess.setValue(Exact);
+    session.chooseInMenu(session.row("shininess"), "Use as My Default");
+    const SoRef<SoMaterial> fresh(new SoMaterial);
+    SpxNodeDefaults::getInstance()->applyUserDefaults(*fresh);
+    EXPECT_EQ(fresh->shininess.getValue(), Exact);
+    session.chooseInMenu(session.row("shininess"), "Forget My Default");
+    EXPECT_FALSE(SpxNodeDefaults::getInstance()->hasUserDefault(material.shininess));
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, ARowsMenuShowsOnlyWhatIsChanged)
+{
+    material.shininess.setValue(Exact);
+    session.chooseInMenu(session.row("shininess"), "Show Only Changed");
+    EXPECT_TRUE(session.comesTrue([&] { return !session.row("transparency"); }));
+    EXPECT_TRUE(session.panel()->findChild<QCheckBox*>("onlyChanged")->isChecked());
+}
+
+TEST_F(Panel, TheNodesMenuCopiesPastesAndResetsAllInOneStep)
+{
+    material.shininess.setValue(Exact);
+    material.transparency.setValue(0.5F);
+    QWidget* title = session.panel()->findChild<QLabel*>("nodeTitle");
+    session.chooseInMenu(title, "Copy Values");
+    const QString text = QApplication::clipboard()->text();
+    EXPECT_EQ(text, "#Xsg V1.0 utf8\nMaterial {\n    shininess: 0.1123456\n    transparency: 0.5\n}\n");
+    session.chooseInMenu(title, "Reset All");
+    EXPECT_TRUE(material.shininess.isDefault());
+    EXPECT_TRUE(material.transparency.isDefault());
+    EXPECT_EQ(steps(), 1);
+    QApplication::clipboard()->setText(text);
+    session.chooseInMenu(title, "Paste Values");
+    EXPECT_EQ(material.shininess.getValue(), Exact);
+    EXPECT_EQ(material.transparency.getValue(), 0.5F);
+    EXPECT_EQ(steps(), 2);
+    QApplication::clipboard()->setText("transparency: 0.75");
+    session.chooseInMenu(title, "Paste Values");
+    EXPECT_EQ(material.transparency.getValue(), 0.75F);
+    for (const char* nothing : {"nonsense", "a: b", "Cube { width: 3 }"}) {
+        QApplication::clipboard()->setText(nothing);
+        session.chooseInMenu(title, "Paste Values");
+    }
+    EXPECT_EQ(steps(), 3);
+    session.chooseInMenu(title, "Copy as C++");
+    EXPECT_EQ(QApplication::clipboard()->text(), "auto* node = new SoMaterial;\n"
+                                                 "node->shininess.set(SbString(\"0.1123456\"));\n"
+                                                 "node->transparency.set(SbString(\"0.75\"));\n");
 }
 
 TEST_F(Panel, ARowThatGoesTakesItsMenuAlong)

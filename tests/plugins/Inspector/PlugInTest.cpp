@@ -2,6 +2,8 @@
 // The plug-in in the real host, loaded after the default extensions as the program does it.
 #include "plugins/Inspector/InspectorSession.h"
 
+#include "panels/SceneFinder.h"
+#include "panels/ScenePanel.h"
 #include "plugins/PluginSearchPath.h"
 #include "window/MainWindow.h"
 
@@ -11,6 +13,8 @@
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QToolButton>
 
 namespace
@@ -98,6 +102,43 @@ TEST(Inspector, TheWayUpAndTheNodesThatGovernAShapeAreAClickAway)
     EXPECT_TRUE(session.row("diffuseColor"));
     session.click(session.panel()->findChild<QWidget*>("breadcrumb")->findChildren<QToolButton*>().last());
     EXPECT_EQ(session.host.services().selectedNode(), group);
+    session.selectNode(nullptr);
+}
+
+TEST(Inspector, AValueIsFoundInTheSceneAndF1OpensThePageOfTheRowsNode)
+{
+    InspectorSession session([](HostServices& services, UserNotifier& notifier) {
+        return std::make_unique<MainWindow>(services, notifier);
+    });
+    auto& window = static_cast<MainWindow&>(session.host.window());
+    SoRef<SoSeparator> root(new SoSeparator);
+    auto* dull = new SoMaterial;
+    auto* same = new SoMaterial;
+    auto* moved = new SoTransform;
+    for (SoNode* child : {static_cast<SoNode*>(dull), static_cast<SoNode*>(same), static_cast<SoNode*>(moved),
+                          static_cast<SoNode*>(new SoMaterial)})
+        root->addChild(child);
+    dull->shininess.setValue(0.1123456F);
+    same->shininess.setValue(0.1123456F);
+    moved->translation.setValue(SbVec3f(1, 2, 3));
+    window.setScene(root.get(), "test");
+    session.settle();
+    const auto countOf = [&](SoNode* node, const char* field) {
+        session.selectNode(node);
+        session.chooseInMenu(session.row(field), "Find This Value");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.getScenePanel().getFinder().isFinished(); }));
+        return window.getScenePanel().getFinder().getFound().size();
+    };
+    EXPECT_EQ(countOf(dull, "shininess"), 2U);
+    EXPECT_EQ(countOf(moved, "translation"), 1U);
+    EXPECT_EQ(countOf(dull, "specularColor"), 3U);
+
+    session.selectNode(dull);
+    session.click(session.number("shininess"));
+    QTest::keyClick(session.number("shininess"), Qt::Key_F1);
+    auto* browser = window.findChild<QTextBrowser*>();
+    ASSERT_TRUE(browser);
+    EXPECT_EQ(browser->textCursor().block().text(), "Material");
     session.selectNode(nullptr);
 }
 

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "fields/NodeDescription.h"
+
+#include <xsg/core/SoFieldContainer.h>
+
+#include <algorithm>
+
+namespace inspector
+{
+
+const std::vector<NodeDescription>& allNodeDescriptions()
+{
+    // clang-format off
+    static const std::vector<NodeDescription> table = {
+        {"Groups", "Group",
+         "Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows the group."},
+        {"Groups", "Separator",
+         "A group that isolates state: what its children set does not reach what follows the group."},
+        {"Groups", "Switch",
+         "Shows one of its children, all, or none."},
+        {"Groups", "LevelOfDetail",
+         "Shows one of its children by the distance of the eye: the first when nearer than the first distance, the second when nearer than the second, and so on; the last child beyond all distances."},
+        {"Groups", "Instances",
+         "Shows its children once for each matrix; the graphics hardware copies them. Lights and clip planes inside stand where the first copy does."},
+        {"Groups", "UnknownNode",
+         "Stands for a node of a type that this program does not know, as a file had it, so that writing the file again loses nothing. Its fields are those that the file has, each with its value as text; its children are shown as a separator's."},
+        {"Cameras", "PerspectiveCamera",
+         "Sees as an eye does: what is far is small."},
+        {"Cameras", "OrthographicCamera",
+         "Sees everything in its size, however far it is."},
+        {"Lights", "DirectionalLight",
+         "Light that comes from far away, everywhere from the same direction."},
+        {"Lights", "PointLight",
+         "Light from a point in all directions."},
+        {"Lights", "SpotLight",
+         "Light from a point within a cone."},
+        {"Lights", "AmbientLight",
+         "Light that comes evenly from everywhere; takes the place of an earlier one."},
+        {"Places", "Transform",
+         "Scales, then turns, then moves what follows it. An ignored field takes no part."},
+        {"Places", "MatrixTransform",
+         "Moves what follows it by a matrix."},
+        {"Places", "Spin",
+         "Turns what follows it, faster or slower, as time passes: each view that shows the scene drives the time source (`SoTimeSource`)."},
+        {"Looks", "Material",
+         "How the surface of what follows looks. An ignored field leaves what an earlier material said."},
+        {"Looks", "Texture2",
+         "The picture on the surface of what follows. A file, where one is named and can be read, wins over the image."},
+        {"Looks", "TextureTransform",
+         "Moves the texture on what follows: scales, then turns, then moves its coordinates."},
+        {"Looks", "DrawStyle",
+         "Whether what follows is drawn filled, as its edges, as its points, or not at all."},
+        {"Looks", "Complexity",
+         "How finely what follows is drawn."},
+        {"Looks", "Fog",
+         "Lets what follows fade into a colour with its distance from the eye."},
+        {"Looks", "ClipPlane",
+         "Cuts what follows it: what lies on the side the plane's normal points to stays."},
+        {"Corners", "Points",
+         "The corners of the vertex shapes that follow."},
+        {"Corners", "Normals",
+         "The directions of light reflection at the corners of the vertex shapes that follow, one per point. Where they are missing or of another number than the points, a shape makes its own."},
+        {"Corners", "TextureCoordinates",
+         "The places in the texture at the corners of the vertex shapes that follow, one per point: (0, 0) is the texture's lower left corner, (1, 1) the upper right."},
+        {"Solids", "Cube",
+         "A box around the origin."},
+        {"Solids", "Sphere",
+         "A ball around the origin."},
+        {"Solids", "Cone",
+         "A cone around the y axis, its tip up."},
+        {"Solids", "Cylinder",
+         "A cylinder around the y axis."},
+        {"Shapes of points", "TriangleSet",
+         "Triangles, each of the next three points."},
+        {"Shapes of points", "TriangleStripSet",
+         "Strips of triangles: each point after the second makes a triangle with the two before it. Each strip takes as many of the next points as its count says; without counts one strip takes all."},
+        {"Shapes of points", "IndexedTriangleSet",
+         "Triangles, each of three points named by their place in the list of points."},
+        {"Shapes of points", "IndexedTriangleStripSet",
+         "Strips of triangles, the points named by their places in the list."},
+        {"Shapes of points", "LineSet",
+         "Lines from point to point. Each joins as many of the next points as its count says; without counts one line joins all."},
+        {"Shapes of points", "IndexedLineSet",
+         "Lines from point to point, the points named by their places in the list."},
+        {"Shapes of points", "PointSet",
+         "Each of the points, drawn as a dot."},
+        {"Shapes of points", "IndexedPointSet",
+         "Some of the points, drawn as dots."},
+        {"Other", "ScreenText",
+         "Text that keeps its size on the screen and stands where the origin is. Lines run downwards. Latin letters, digits and signs; what the font does not have is shown as a box."},
+        {"Other", "DrawingCallback",
+         "A place in the scene where an application draws by itself, with OpenGL 3.3. Draws nothing until a callback is set."},
+        {"Other", "Info",
+         "A comment: a text for people, without effect on the picture."},
+    };
+    // clang-format on
+    return table;
+}
+
+const NodeDescription* findNodeDescription(const SoFieldContainer& node)
+{
+    const std::string_view type = node.getTypeId().getName().getString();
+    const auto& all = allNodeDescriptions();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const NodeDescription& each) { return each.node == type; });
+    return found == all.end() ? nullptr : &*found;
+}
+
+} // namespace inspector
