@@ -6,6 +6,7 @@
 #include "SpxSetIgnoredCommand.h"
 #include "SpxText.h"
 
+#include <scopix/SpxPreviewServices.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 #include <xsg/core/SoField.h>
@@ -26,6 +27,12 @@ QString stepName(const SoField& field)
 }
 
 } // namespace
+
+bool SpxFieldEdit::isRefused()
+{
+    SpxPreviewServices* preview = SpxPreviewServices::getInstance();
+    return preview && preview->refusesEdit();
+}
 
 bool SpxFieldEdit::record(std::unique_ptr<SpxCommand> command)
 {

@@ -20,6 +20,9 @@ class QString;
 namespace SpxFieldEdit
 {
 
+/// True while the host shows former values (SpxPreviewServices): nothing may be edited then, which the user
+/// is told. All below ask by themselves.
+SPX_EDITING_API bool isRefused();
 /// Hands a command to the host; false without a host, and for null.
 SPX_EDITING_API bool record(std::unique_ptr<SpxCommand> command);
 /// As above; where the host can, it names the step by the field, selected or not.
@@ -30,6 +33,8 @@ SPX_EDITING_API bool record(std::unique_ptr<SpxCommand> command, const SoField& 
 template <class Write>
 bool apply(SoField* field, std::unique_ptr<SpxCommand> command, Write&& write)
 {
+    if (isRefused())
+        return false;
     const SpxFieldPointer written(field);
     if constexpr (std::is_same_v<std::invoke_result_t<Write>, bool>) {
         if (!write())

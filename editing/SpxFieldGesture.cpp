@@ -7,7 +7,7 @@ void SpxFieldGesture::begin(SoField* field)
 {
     keep();
     end();
-    if (!field)
+    if (!field || SpxFieldEdit::isRefused())
         return;
     m_before = SpxFieldState(*field);
     m_command = std::make_unique<SpxSetFieldCommand>(field);

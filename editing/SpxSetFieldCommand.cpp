@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "SpxSetFieldCommand.h"
 
+#include <scopix/SpxSceneServices.h>
+
 #include <xsg/core/SoField.h>
 
 SpxSetFieldCommand::SpxSetFieldCommand(SoField* field)
     : m_field(field)
     , m_before(*field)
 {
+    if (SpxSceneServices* scene = SpxSceneServices::getInstance())
+        scene->aboutToEdit(*field);
 }
 
 void SpxSetFieldCommand::execute()

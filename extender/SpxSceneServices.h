@@ -49,6 +49,10 @@ public:
     /// Of the selected nodes, in the same order, those that stand in the scene.
     virtual QList<SoPath> getSelectedPaths() const = 0;
 
+    /// Before the user edits a field of a node that is not selected, as in a panel that stays with its node:
+    /// the host then sees what is written, as it does with what is selected. SpxSetFieldCommand does it.
+    virtual void aboutToEdit(const SoField& field) = 0;
+
 protected:
     SpxSceneServices() = default;
     virtual ~SpxSceneServices();

@@ -2,6 +2,7 @@
 #include "document/Autosave.h"
 
 #include "document/SceneDocument.h"
+#include "services/HostPreview.h"
 #include "settings/UserSettings.h"
 
 #include <QCoreApplication>
@@ -68,6 +69,11 @@ void Autosave::start()
     if (std::exchange(m_started, true))
         return;
     connect(&m_document, &SceneDocument::edited, this, &Autosave::edited);
+    // What is half written is completed with the present values.
+    connect(&m_document.preview(), &HostPreview::aboutToShowFormer, this, [this] {
+        m_writer.finishNow();
+        recordFor(-1);
+    });
     connect(&m_document, &SceneDocument::rootChanged, this, &Autosave::stopFollowing);
     if (const QCoreApplication* application = QCoreApplication::instance())
         connect(application, &QCoreApplication::aboutToQuit, this, &Autosave::keepNow);
@@ -162,8 +168,19 @@ void Autosave::writeAnyway()
         return;
     if (m_writer.isBusy()) // with a scene that has changed since
         startTimer(m_pause, m_pauseMs);
+    else if (m_document.preview().isShowingFormer())
+        m_document.preview().withPresent([this] { writeWhole(); });
     else
         write();
+}
+
+void Autosave::writeWhole()
+{
+    m_writer.finishNow();
+    if (m_pending)
+        write();
+    m_writer.finishNow();
+    recordFor(-1);
 }
 
 void Autosave::write()
@@ -212,7 +229,7 @@ void Autosave::written(const QString& error)
 
 void Autosave::recordChanges()
 {
-    recordFor(TurnMs);
+    m_document.preview().withPresent([this] { recordFor(TurnMs); });
     if (m_hasSnapshot && takesRecords() && !m_changes.isEmpty())
         m_recordTimer.start(ShortBreakMs);
     else if (m_journal.getSize() > LargestJournal)
@@ -238,6 +255,7 @@ void Autosave::keepNow()
 {
     if (!m_hasEdits || !m_document.isModified())
         return;
+    m_document.preview().showPresent();
     m_writer.finishNow();
     if (!m_hasSnapshot || !takesRecords()) {
         write();

@@ -59,6 +59,7 @@ private:
     void writeWhenUndisturbed();
     void writeAnyway();
     void write();
+    void writeWhole();
     void written(const QString& error);
     void recordChanges();
     void recordFor(int ms);

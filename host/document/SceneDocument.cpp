@@ -72,6 +72,7 @@ void SceneDocument::beginExternal(SoNode* root, const QString& title)
 
 void SceneDocument::replaceRoot(SoNode* root, bool isExternal)
 {
+    m_services.preview().showPresent();
     m_services.clearSelection();
     m_services.history().clear();
     m_services.undoStack().setClean();
@@ -100,8 +101,14 @@ bool SceneDocument::isModified() const
     return !m_isExternal && !m_services.undoStack().isClean();
 }
 
+HostPreview& SceneDocument::preview() const
+{
+    return m_services.preview();
+}
+
 QString SceneDocument::save(const QString& path)
 {
+    m_services.preview().showPresent();
     m_services.history().settle();
     const UserInput::Scope scope(m_services.history().input(), UserInput::Scope::Other);
     const QString reason = reasonAgainstWriting(path, {sceneEnding()});

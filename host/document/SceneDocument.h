@@ -16,6 +16,7 @@ class SoTexture2;
 namespace scopix
 {
 
+class HostPreview;
 class HostServices;
 
 /// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread
@@ -68,6 +69,9 @@ public:
     bool isModified() const;
     /// Grows with every edit, undo and redo.
     quint64 getEditCount() const { return m_editCount; }
+
+    /// What the user compares by eye in it, which is no part of it.
+    HostPreview& preview() const;
 
     /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever
     /// happens. An external scene stays external, and the names of its pictures stay as they are. Returns one

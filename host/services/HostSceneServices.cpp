@@ -5,6 +5,7 @@
 #include "services/NodeDefaults.h"
 
 #include <scopix/SpxCommand.h>
+#include <xsg/core/SoField.h>
 
 #include <algorithm>
 
@@ -122,6 +123,12 @@ QString HostServices::clearUserDefault(const SoField& field)
 void HostServices::applyUserDefaults(SoFieldContainer& node) const
 {
     scopix::applyUserDefaults(node);
+}
+
+void HostServices::aboutToEdit(const SoField& field)
+{
+    if (field.getContainer())
+        m_alsoEdited.insert(field.getContainer());
 }
 
 void HostServices::executeCommand(SpxCommand* command, const QString& stepName)

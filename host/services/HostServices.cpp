@@ -29,7 +29,10 @@ HostServices::HostServices()
 {
     connect(&m_selection, &Selection::nodeChanged, this, &SpxServices::selectedNodeChanged);
     connect(&m_selection, &Selection::fieldChanged, this, &SpxServices::selectedFieldChanged);
-    connect(&m_selection, &Selection::changed, this, &HostServices::selectionChanged);
+    connect(&m_selection, &Selection::changed, this, [this] {
+        m_alsoEdited.clear();
+        emit selectionChanged();
+    });
     connect(&m_history, &UndoHistory::failed, this, &HostServices::commandFailed);
     connect(&m_history, &UndoHistory::lost, this, &HostServices::stepsLost);
     m_history.setEdited([this] { return currentContext(); },
@@ -70,7 +73,7 @@ UndoHistory::CommandContext HostServices::currentContext() const
 bool HostServices::isEdited(const SoField& field) const
 {
     return &field == m_selection.field() || &field == m_selection.lastField() ||
-           m_selection.isOrWasSelected(field.getContainer());
+           m_selection.isOrWasSelected(field.getContainer()) || m_alsoEdited.count(field.getContainer()) > 0;
 }
 
 QString HostServices::stepText() const
@@ -111,6 +114,8 @@ void HostServices::containerDies(SoFieldContainer* container)
         changeSelection([&] { m_selection.forget(container); });
     else
         m_selection.forget(container);
+    m_alsoEdited.erase(container);
+    m_preview.forget(container);
     m_history.forget(container);
 }
 

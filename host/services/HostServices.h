@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "services/HostPreview.h"
 #include "services/SceneSource.h"
 #include "services/Selection.h"
 #include "undo/GestureTracker.h"
@@ -10,6 +11,8 @@
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 #include <scopix/SpxViewServices.h>
+
+#include <unordered_set>
 
 namespace scopix
 {
@@ -50,6 +53,7 @@ public:
     void selectNodes(const QList<SoFieldContainer*>& nodes) override;
     void selectPaths(const QList<SoPath>& paths) override;
     QList<SoPath> getSelectedPaths() const override;
+    void aboutToEdit(const SoField& field) override;
 
     bool canHaveUserDefault(const SoField& field) const override;
     bool hasUserDefault(const SoField& field) const override;
@@ -64,6 +68,7 @@ public:
     /// Whether the click was meant for a listener, and is to select nothing.
     bool offerPick(const SpxPickedPoint& picked);
 
+    HostPreview& preview() { return m_preview; }
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }
 
@@ -92,8 +97,10 @@ private:
     GestureTracker m_gestures;
     Selection m_selection;
     UndoHistory m_history;
+    HostPreview m_preview{m_history};
     SceneSource* m_source = nullptr;
     std::vector<SpxPickListener*> m_pickListeners;
+    std::unordered_set<const SoFieldContainer*> m_alsoEdited; // beside what is selected, until that changes
 };
 
 } // namespace scopix

@@ -22,7 +22,7 @@ UndoHistory::UndoHistory(QObject* parent)
     , m_input([this] { inputChanged(); })
 {
     connect(&m_stack, &QUndoStack::indexChanged, this, [this] {
-        if (!m_sweeping)
+        if (!m_sweeping && m_heldIndex < 0)
             emit acted();
     });
     // What follows is to be told apart from what was saved.
@@ -94,6 +94,8 @@ UndoStep& UndoHistory::stepOfInput()
 
 void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandContext& context)
 {
+    if (m_isHeld && m_isHeld())
+        return;
     if (m_busy) {
         const QString failure = catchExceptions([&] { command->execute(); });
         if (!failure.isEmpty())
@@ -271,6 +273,8 @@ void UndoHistory::run(UndoStep& step, bool undoes)
 {
     if (m_sweeping)
         return;
+    if (m_heldIndex >= 0 || (m_isHeld && m_isHeld()))
+        return standStill();
     finishCurrent();
     QString reason;
     {
@@ -286,6 +290,52 @@ void UndoHistory::run(UndoStep& step, bool undoes)
     m_stateIsUnknown = true;
     QMetaObject::invokeMethod(
         this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
+}
+
+// QUndoStack moves whatever a command does, so it is put back, from the event loop (decisions.md:
+// held-stack-moves).
+void UndoHistory::standStill()
+{
+    if (m_heldIndex >= 0)
+        return;
+    m_heldIndex = m_stack.index();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const QScopedValueRollback<bool> sweeping(m_sweeping, true);
+            m_stack.setIndex(m_heldIndex);
+            m_heldIndex = -1;
+        },
+        Qt::QueuedConnection);
+}
+
+// --- The saved state
+
+void UndoHistory::endStep()
+{
+    settle();
+    finishCurrent();
+    releaseUnused();
+}
+
+std::set<SoField*> UndoHistory::editedSinceSaved() const
+{
+    std::set<SoField*> fields;
+    const int saved = std::max(0, m_stack.cleanIndex());
+    for (int i = std::min(saved, m_stack.index()); i < std::max(saved, m_stack.index()); ++i)
+        stepAt(i)->collectFields(fields);
+    return fields;
+}
+
+void UndoHistory::writeSaved(const std::set<SoField*>& fields)
+{
+    const int saved = std::max(0, m_stack.cleanIndex());
+    unrecorded([&] {
+        for (int i = m_stack.index() - 1; i >= saved; --i)
+            stepAt(i)->writeFields(fields, true);
+        for (int i = m_stack.index(); i < saved; ++i)
+            stepAt(i)->writeFields(fields, false);
+    });
 }
 
 // --- Steps that go

@@ -7,10 +7,12 @@
 #include <xsg/core/SoWriteRecorder.h>
 
 #include <QObject>
+#include <QScopedValueRollback>
 #include <QUndoStack>
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 class SoField;
@@ -62,6 +64,21 @@ public:
     /// What was edited so far is on the stack; else it comes there when the event that edits has been
     /// delivered.
     void settle();
+    /// As settle(), and what follows is another step.
+    void endStep();
+    /// The fields that steps between the saved state and the present one have changed.
+    std::set<SoField*> editedSinceSaved() const;
+    /// Writes to these what they held in the saved state, or as far back as the steps reach; unrecorded.
+    void writeSaved(const std::set<SoField*>& fields);
+    /// What `act` writes is no edit.
+    template <class Act>
+    void unrecorded(Act&& act)
+    {
+        const QScopedValueRollback<bool> busy(m_busy, true);
+        act();
+    }
+    /// Asked before anything is executed, undone or redone: while `isHeld` answers true, nothing is.
+    void setHold(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }
     /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
 
@@ -111,6 +128,7 @@ private:
     void releaseUnused();
 
     void run(UndoStep& step, bool undoes);
+    void standStill();
     void recordDeferred();
     int dropSteps(const SoFieldContainer* container);
     void restackWithoutDropped();
@@ -138,6 +156,8 @@ private:
     bool m_hasDroppedOld = false;
     bool m_busy = false; // inside a step's undo or redo
     bool m_sweeping = false;
+    std::function<bool()> m_isHeld;
+    int m_heldIndex = -1;          // where the stack is put back to, once it has moved
     bool m_stateIsUnknown = false; // a step failed half-way, so that nothing tells what was saved
     int m_lostCount = 0;           // not yet told
     QString m_lostWith;

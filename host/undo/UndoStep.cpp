@@ -268,6 +268,22 @@ bool UndoStep::restoreFields(Direction direction)
     return isDone;
 }
 
+void UndoStep::collectFields(std::set<SoField*>& fields) const
+{
+    for (const auto& [field, edit] : m_edits) {
+        if (!edit->isNothing())
+            fields.insert(field);
+    }
+}
+
+void UndoStep::writeFields(const std::set<SoField*>& fields, bool undoes) const
+{
+    for (const auto& [field, edit] : m_edits) {
+        if (fields.count(field) > 0)
+            undoes ? edit->undo() : edit->redo();
+    }
+}
+
 bool UndoStep::touches(const SoFieldContainer* container) const
 {
     return m_mayTouchAnything || m_touched.count(container) > 0;
@@ -295,7 +311,13 @@ QString UndoStep::text() const
     if (!change)
         return m_context.text;
     const SoFieldContainer* node = change->field().getContainer();
-    return nodeText(*node) + QLatin1Char('.') + change->text();
+    const QString text = nodeText(*node) + QLatin1Char('.') + change->text();
+    std::set<const SoFieldContainer*> nodes;
+    for (const auto& [field, edit] : m_edits) {
+        if (!edit->isNothing())
+            nodes.insert(field->getContainer());
+    }
+    return nodes.size() > 1 ? UndoHistory::tr("%1, and in %L2 more").arg(text).arg(nodes.size() - 1) : text;
 }
 
 UndoEntry::UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step)

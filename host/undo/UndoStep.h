@@ -47,6 +47,11 @@ public:
     bool undo(QString& reason);
     bool redo(QString& reason);
 
+    /// Adds those that it changed.
+    void collectFields(std::set<SoField*>& fields) const;
+    /// Of these fields alone what undo() or redo() would write.
+    void writeFields(const std::set<SoField*>& fields, bool undoes) const;
+
     bool touches(const SoFieldContainer* container) const;
     const std::set<const SoFieldContainer*>& touched() const { return m_touched; }
     /// What it touches is not known.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/MainWindow.h"
+#include "window/BeforeSwitch.h"
 
 #include "handles/HandleActions.h"
 #include "handles/HandleTool.h"
@@ -260,9 +261,15 @@ void MainWindow::makeViewMenu()
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
     m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
+    auto* before = new BeforeSwitch(*this, m_services);
+    menu->addAction(before->action());
+    before->takeKeyIn(*m_view);
+    before->takeKeyIn(*m_tree);
     menu->addSeparator();
-    for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
+    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock}) {
+        before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
+    }
     new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));

@@ -8,6 +8,7 @@
 #include "panel/NodeMenu.h"
 #include "panel/RowList.h"
 
+#include <scopix/SpxPreviewServices.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,6 +36,7 @@ namespace
 
 constexpr int MostParents = 4;
 constexpr int ShowEveryMs = 33;
+constexpr std::size_t MostNodes = 2000; // whose fields are compared for each row
 constexpr int Margin = 6;
 
 void selectPath(const SoPath& path)
@@ -71,6 +74,7 @@ FieldPanel::FieldPanel(Place place, QWidget* parent)
     , m_place(place)
     , m_pin(new QAction(tr("&Pin"), this))
     , m_pinButton(new QToolButton)
+    , m_before(new QToolButton)
     , m_title(new QLabel)
     , m_breadcrumb(new FlowRow)
     , m_nearby(new FlowRow)
@@ -87,6 +91,10 @@ FieldPanel::FieldPanel(Place place, QWidget* parent)
     connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
     connect(&m_compared, &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
     connect(&m_compared, &SpxWatcher::objectDestroyed, this, [this] { compareWith(nullptr); });
+    // These work while the host refuses edits.
+    for (QWidget* harmless : std::initializer_list<QWidget*>{m_breadcrumb, m_nearby, m_filter, m_onlyChanged,
+                                                             m_pinButton, m_before})
+        harmless->setProperty("editsNothing", true);
     m_later.setSingleShot(true);
     connect(&m_later, &QTimer::timeout, this, &FieldPanel::refresh);
     new NodeMenu(*this, *m_onlyChanged);
@@ -115,10 +123,47 @@ QLayout* FieldPanel::makeHeader()
     header->addWidget(m_breadcrumb);
     auto* title = new QHBoxLayout;
     title->addWidget(m_title, 1);
+    title->addWidget(m_before);
     title->addWidget(m_pinButton);
+    makeBefore();
     header->addLayout(title);
     header->addWidget(m_nearby);
     return header;
+}
+
+void FieldPanel::makeBefore()
+{
+    m_before->setObjectName(QStringLiteral("before"));
+    m_before->setText(tr("Before"));
+    m_before->setToolTip(tr("Shows the values from when the scene was opened or last saved. Nothing can be "
+                            "edited meanwhile. In the view and in the tree, B does this."));
+    m_before->setCheckable(true);
+    m_before->setAutoRaise(true);
+    m_before->setFocusPolicy(Qt::TabFocus);
+    SpxPreviewServices* preview = SpxPreviewServices::getInstance();
+    if (!preview)
+        return m_before->hide();
+    m_before->setChecked(preview->isShowingFormer());
+    connect(m_before, &QToolButton::clicked, this, &FieldPanel::showBefore);
+    connect(preview, &SpxPreviewServices::formerShown, m_before, &QToolButton::setChecked);
+}
+
+void FieldPanel::showBefore(bool before)
+{
+    SpxPreviewServices* preview = SpxPreviewServices::getInstance();
+    if (!preview)
+        return;
+    finish();
+    QList<SoField*> fields;
+    for (const SoFieldContainer* node : nodes())
+        fields += preview->getEditedFields(node);
+    if (!before) {
+        preview->showPresent();
+    } else if (!preview->showFormer(fields)) {
+        m_before->setChecked(false);
+        QToolTip::showText(m_before->mapToGlobal(QPoint(0, m_before->height())),
+                           tr("Nothing here has been edited since the scene was opened or saved."), m_before);
+    }
 }
 
 QLayout* FieldPanel::makeFilter()
@@ -147,7 +192,11 @@ void FieldPanel::setNodes(const std::vector<SoFieldContainer*>& nodes)
         m_later.stop();
         m_rows->finish();
         watch(nodes);
-        m_rows->setNodes(nodes);
+        if (nodes.size() > MostNodes)
+            m_rows->showNotice(
+                tr("More than %L1 nodes are selected; select fewer to edit what they share.").arg(MostNodes));
+        else
+            m_rows->setNodes(nodes);
     }
     showPlace();
 }
@@ -155,6 +204,7 @@ void FieldPanel::setNodes(const std::vector<SoFieldContainer*>& nodes)
 void FieldPanel::watch(const std::vector<SoFieldContainer*>& nodes)
 {
     m_watchers.clear();
+    m_watchers.reserve(nodes.size());
     for (SoFieldContainer* node : nodes) {
         m_watchers.push_back(std::make_unique<SpxWatcher>());
         m_watchers.back()->watch(node);

@@ -72,10 +72,13 @@ private:
     void showBreadcrumb(const SoPath& path);
     void showNearby(const SoPath& path);
     void choose(SoField* field);
+    void makeBefore();
+    void showBefore(bool before);
 
     Place m_place;
     QAction* m_pin;
     QToolButton* m_pinButton;
+    QToolButton* m_before;
     SpxWatcher m_compared;
     std::vector<std::unique_ptr<SpxWatcher>> m_watchers; // of the nodes, in their order
     QElapsedTimer m_sinceShown;

@@ -22,6 +22,8 @@
 #include <QMenu>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace inspector
 {
 
@@ -79,8 +81,9 @@ void NodeMenu::open(const QPoint& where)
     menu->addSeparator();
     menu->addActions(m_panel.actions());
     addGuide(*menu);
+    const std::vector<SoFieldContainer*> nodes = m_panel.nodes();
     if (SpxContextMenus* menus = SpxContextMenus::getInstance())
-        menus->fillNodeMenu(*menu, {node()});
+        menus->fillNodeMenu(*menu, {nodes.begin(), nodes.end()});
     menu->popup(where);
 }
 
@@ -101,8 +104,10 @@ void NodeMenu::addCopies(QMenu& menu)
 
 void NodeMenu::addChanges(QMenu& menu)
 {
+    const std::vector<SoFieldContainer*> nodes = m_panel.nodes();
+    const auto isChanged = [](const SoFieldContainer* each) { return !changedFields(*each).empty(); };
     menu.addAction(tr("&Reset All to Defaults"), this, &NodeMenu::resetAll)
-        ->setEnabled(!changedFields(*node()).empty());
+        ->setEnabled(std::any_of(nodes.begin(), nodes.end(), isChanged));
     if (SpxNodeDefaults::getInstance())
         menu.addAction(tr("Use as My Defaults for &New Nodes"), this, &NodeMenu::keepAsDefaults);
 }
@@ -122,7 +127,10 @@ void NodeMenu::addGuide(QMenu& menu)
 void NodeMenu::paste()
 {
     const QString text = QApplication::clipboard()->text();
-    if (node() && !pasteValues(*node(), text))
+    bool isPasted = true;
+    for (SoFieldContainer* each : m_panel.nodes())
+        isPasted = pasteValues(*each, text) && isPasted;
+    if (!isPasted)
         say(tr("“%1” cannot be pasted: it has no values for the fields of %2.")
                 .arg(text.trimmed().left(40), typeOf(*node())));
     m_panel.refresh();
@@ -130,10 +138,10 @@ void NodeMenu::paste()
 
 void NodeMenu::resetAll()
 {
-    if (!node())
-        return;
-    for (SoField* field : changedFields(*node()))
-        SpxFieldEdit::setToDefault(field);
+    for (SoFieldContainer* each : m_panel.nodes()) {
+        for (SoField* field : changedFields(*each))
+            SpxFieldEdit::setToDefault(field);
+    }
     m_panel.refresh();
 }
 

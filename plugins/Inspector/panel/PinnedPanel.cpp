@@ -59,9 +59,11 @@ QWidget* PinnedPanel::makeHead()
     m_compare->setObjectName(QStringLiteral("compare"));
     m_compare->setText(tr("Compare"));
     m_compare->setCheckable(true);
+    m_compare->setProperty("editsNothing", true);
     m_compare->setFocusPolicy(Qt::TabFocus);
     m_compare->setToolTip(tr("Marks the rows that differ from those of the selected node."));
-    m_compare->setVisible(nodes().size() == 1);
+    if (nodes().size() != 1)
+        m_compare->hide();
     connect(m_compare, &QToolButton::toggled, this, [this](bool on) {
         if (!on)
             compareWith(nullptr);

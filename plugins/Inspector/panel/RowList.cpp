@@ -82,7 +82,7 @@ void RowList::setNodes(const std::vector<SoFieldContainer*>& nodes)
     for (Item& item : m_items)
         delete item.row;
     m_items.clear();
-    m_isOfSeveral = nodes.size() > 1;
+    m_emptyText = nodes.size() > 1 ? tr("These nodes share no field.") : tr("This node has no fields.");
     for (SoField* field : nodes.empty() ? std::vector<SoField*>() : fieldsInOrder(*nodes.back())) {
         Item item;
         item.field = field;
@@ -96,6 +96,13 @@ void RowList::setNodes(const std::vector<SoFieldContainer*>& nodes)
     }
     verticalScrollBar()->setValue(0);
     filterItems();
+}
+
+void RowList::showNotice(const QString& sentence)
+{
+    setNodes({});
+    m_emptyText = sentence;
+    viewport()->update();
 }
 
 void RowList::describe(Item& item) const
@@ -372,9 +379,7 @@ void RowList::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
                          int(Qt::AlignTop | Qt::AlignHCenter) | Qt::TextWordWrap,
-                         m_items.empty() ? m_isOfSeveral ? tr("These nodes share no field.")
-                                                         : tr("This node has no fields.")
-                                         : tr("No field passes the filter."));
+                         m_items.empty() ? m_emptyText : tr("No field passes the filter."));
     }
 }
 

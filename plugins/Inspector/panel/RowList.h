@@ -29,6 +29,8 @@ public:
     /// Shows the fields that all of these have by name and type. The last node is the current one, whose
     /// values and order are shown.
     void setNodes(const std::vector<SoFieldContainer*>& nodes);
+    /// Shows this sentence and no field.
+    void showNotice(const QString& sentence);
     /// Of the current node: marks the rows that differ from this node's. Null ends that.
     void compareWith(SoFieldContainer* other);
     /// Shows what changed, in the rows that are in view.
@@ -91,7 +93,7 @@ private:
     std::vector<Item> m_items;
     QString m_filter;
     bool m_onlyChanged = false;
-    bool m_isOfSeveral = false;
+    QString m_emptyText; // where there are no fields
     int m_contentHeight = 0;
 };
 

@@ -79,6 +79,8 @@ void FieldGroupGesture::begin(const std::vector<SoField*>& fields)
 {
     keep();
     end();
+    if (SpxFieldEdit::isRefused())
+        return;
     for (SoField* field : fields)
         m_parts.push_back(
             {SpxFieldPointer(field), SpxFieldState(*field), std::make_unique<SpxSetFieldCommand>(field)});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <scopix/editing/SpxFieldEdit.h>
 #include <scopix/editing/SpxFieldPointer.h>
 #include <scopix/editing/SpxFieldState.h>
 #include <scopix/editing/SpxSetFieldCommand.h>

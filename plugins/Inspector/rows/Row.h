@@ -91,6 +91,8 @@ protected:
     {
         if (!field())
             return;
+        if (SpxFieldEdit::isRefused())
+            return changedHere();
         FieldGroupEdit group;
         forEachField([&](std::size_t) { group.write(field(), write); });
         group.record();

@@ -2,6 +2,7 @@
 #include "SessionFiles.h"
 
 #include "document/Autosave.h"
+#include "services/HostPreview.h"
 
 #include <xsg/files/SceneReader.h>
 #include <xsg/files/SoSceneFile.h>
@@ -337,6 +338,51 @@ TEST(AutosaveStart, WritesNothingBefore)
     EXPECT_FALSE(QDir(autosave.getFolder()).exists());
     autosave.start();
     EXPECT_TRUE(waitFor([&] { return QDir(autosave.getFolder()).exists(); }));
+}
+
+TEST_F(Autosaving, WritesThePresentValuesWhileFormerOnesShow)
+{
+    edit(0.5F);
+    ASSERT_TRUE(waitForSaved("transparency: 0.5"));
+    editWithoutCommand(0.75F);
+    services.history().endStep();
+    HostPreview& preview = services.preview();
+    ASSERT_TRUE(preview.showFormer(preview.getEditedFields()));
+    EXPECT_NE(material->transparency.getValue(), 0.75F);
+    EXPECT_TRUE(waitForSaved("transparency: 0.75"));
+    EXPECT_TRUE(preview.isShowingFormer());
+    preview.showPresent();
+    EXPECT_EQ(recovered(), current());
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(services.undoStack().count(), 2);
+}
+
+TEST_F(Autosaving, ASnapshotThatIsDueWhileFormerValuesShowHasThePresentOnes)
+{
+    editWithoutCommand(0.75F);
+    services.history().endStep();
+    HostPreview& preview = services.preview();
+    ASSERT_TRUE(preview.showFormer(preview.getEditedFields()));
+    EXPECT_TRUE(waitForSaved("transparency: 0.75"));
+    EXPECT_TRUE(preview.isShowingFormer());
+    autosave.keepNow();
+    EXPECT_FALSE(preview.isShowingFormer()) << "the session ends";
+    EXPECT_EQ(recovered(), current());
+}
+
+TEST_F(Autosaving, SavingEndsThePreview)
+{
+    editWithoutCommand(0.75F);
+    services.history().endStep();
+    HostPreview& preview = services.preview();
+    ASSERT_TRUE(preview.showFormer(preview.getEditedFields()));
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(document.save(folder.filePath("scene.xsg")), "");
+    EXPECT_FALSE(preview.isShowingFormer());
+    EXPECT_EQ(material->transparency.getValue(), 0.75F);
+    EXPECT_TRUE(contentOf(folder.filePath("scene.xsg")).contains("transparency 0.75") ||
+                contentOf(folder.filePath("scene.xsg")).contains("transparency: 0.75"));
+    EXPECT_FALSE(document.isModified());
 }
 
 } // namespace
