@@ -397,11 +397,14 @@ protected:
 
 TEST_F(PicturesOfThePage, Measure)
 {
-    const QPoint boat(view.width() * 61 / 100, view.height() * 53 / 100);
-    QTest::mouseClick(&view, Qt::LeftButton, {}, boat);
+    const auto clickAt = [this](double right, double down) {
+        QTest::mouseClick(&view, Qt::LeftButton, {},
+                          QPoint(int(view.width() * right), int(view.height() * down)));
+    };
+    clickAt(0.4, 0.36); // the tower
     key(Qt::Key_M);
-    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() * 41 / 100, view.height() * 11 / 100));
-    QTest::mouseClick(&view, Qt::LeftButton, {}, boat);
+    clickAt(0.392, 0.153); // its top
+    clickAt(0.667, 0.444); // the top of the mast
     QApplication::clipboard()->clear();
     EXPECT_TRUE(QTest::qWaitFor([this] {
         key(Qt::Key_C, Qt::ControlModifier);
