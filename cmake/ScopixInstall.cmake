@@ -42,6 +42,11 @@ set_target_properties(scopix-read-model scopix-try-plugin PROPERTIES INSTALL_RPA
 install(TARGETS scopix-read-model scopix-try-plugin RUNTIME DESTINATION "${CMAKE_INSTALL_LIBDIR}/scopix")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/data/" DESTINATION "${CMAKE_INSTALL_DATADIR}/scopix")
 
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/" DESTINATION "${CMAKE_INSTALL_DATADIR}/scopix/docs")
+# Beside the libraries of the build as beside those that are installed.
+file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/share/scopix")
+file(CREATE_LINK "${PROJECT_SOURCE_DIR}/docs" "${PROJECT_BINARY_DIR}/share/scopix/docs" SYMBOLIC)
+
 set_target_properties(SpxDefaults SpxInspector PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
 install(TARGETS SpxDefaults SpxInspector LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
 

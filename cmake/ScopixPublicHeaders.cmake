@@ -49,8 +49,8 @@ set(SCOPIX_XSG_HEADERS
   SoDB.h)
 
 set(SCOPIX_EXTENDER_HEADERS
-  SpxCommand.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxPlugin.h SpxPluginNote.h
-  SpxPluginsManager.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
+  SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
+  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h SpxShellMenus.h SpxVersion.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h HostApplication.h HostExport.h)

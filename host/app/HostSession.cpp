@@ -17,8 +17,10 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QMenu>
 #include <QMessageBox>
 #include <QSettings>
+#include <QStringList>
 
 namespace scopix
 {
@@ -27,6 +29,11 @@ namespace
 {
 
 constexpr auto CounterSwitch = "XSG_PERFCOUNTER_ENABLE";
+
+QString foldedKey()
+{
+    return QStringLiteral("folded");
+}
 
 } // namespace
 
@@ -45,11 +52,27 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     connectParts();
     m_services.setSceneSource(m_window.get());
     m_shell.setMenus(m_window->editMenu(), m_window->appearanceMenu());
+    m_shell.setGuide(
+        [this](const QString& query) { m_window->findInScene(query); },
+        [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
+    addFoldAction();
     new ToolsMenu(m_shell, *m_window->viewMenu());
     new TryAgainMenu(m_plugins, *m_window->viewMenu());
     new ProfilesMenu(m_plugins.profiles(), *m_window->profilesMenu());
+}
+
+void HostSession::addFoldAction()
+{
+    QMenu* menu = m_window->appearanceMenu();
+    if (!menu)
+        return;
+    QAction* fold = menu->addAction(tr("Fold the &Bottom Area"));
+    fold->setObjectName(QStringLiteral("foldBottom"));
+    fold->setCheckable(true);
+    connect(menu, &QMenu::aboutToShow, fold, [this, fold] { fold->setChecked(m_shell.isBottomFolded()); });
+    connect(fold, &QAction::triggered, &m_shell, &HostShell::setBottomFolded);
 }
 
 void HostSession::connectParts()
@@ -159,15 +182,18 @@ void HostSession::loadPlugins(const CommandLine& line)
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }
 
-// The panel shows what most people come for; the console is a menu entry away.
+// The panel shows what most people come for; the console is folded until it has something to say.
 void HostSession::chooseFirstLook(bool isUnattended)
 {
-    const QSettings settings(UserSettings::windowFile(), QSettings::IniFormat);
+    const SettingsFile settings(UserSettings::windowFile());
     ProfileList& profiles = m_plugins.profiles();
-    const bool isKnown = !isUnattended && settings.contains(QStringLiteral("layout"));
+    const bool isKnown = !isUnattended && settings.value(QStringLiteral("layout")).isValid();
+    const QStringList folded = settings.value(foldedKey()).toStringList();
+    for (const QString& dock : isKnown ? folded : QStringList())
+        m_shell.foldAtFirst(dock);
     if (isKnown || !profiles.activeProfile()->isDefault())
         return;
-    m_shell.hideAtFirst(QStringLiteral("Console"));
+    m_shell.foldAtFirst(QStringLiteral("Console"));
     connect(&profiles, &ProfileList::activeChanged, this, [this] {
         if (!m_plugins.profiles().activeProfile()->isDefault())
             m_shell.forgetFirstLook();
@@ -219,6 +245,7 @@ void HostSession::saveLayout()
     const QString problem = SettingsFile(UserSettings::windowFile()).change([this](QSettings& settings) {
         settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
         settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+        settings.setValue(foldedKey(), m_shell.foldedDocks());
     });
     if (problem.isEmpty())
         return;

@@ -55,6 +55,7 @@ signals:
 
 private:
     void connectParts();
+    void addFoldAction();
     void loadPlugins(const CommandLine& line);
     void keepCounters();
     void offerCounterCopy();

@@ -40,9 +40,14 @@ void FieldListView::keyPressEvent(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::Copy))
         return QTreeView::keyPressEvent(event);
+    copyValue();
+    event->accept();
+}
+
+void FieldListView::copyValue() const
+{
     if (const SoField* field = m_model->fieldAt(currentIndex()))
         QApplication::clipboard()->setText(wholeValueText(*field));
-    event->accept();
 }
 
 void FieldListView::resizeEvent(QResizeEvent* event)

@@ -24,6 +24,8 @@ public:
 
     /// Selects the field's row, showing its node first where it is another one. Emits nothing.
     void showField(const SoField* field);
+    /// The whole value of the chosen field, to the clipboard.
+    void copyValue() const;
 
 signals:
     /// Null when the selection is cleared.

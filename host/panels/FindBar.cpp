@@ -81,6 +81,11 @@ void FindBar::focusLine()
     m_line->selectAll();
 }
 
+void FindBar::setText(const QString& query)
+{
+    m_line->setText(query);
+}
+
 bool FindBar::isFiltering() const
 {
     return m_filter->isChecked() && m_finder.hasQuery();

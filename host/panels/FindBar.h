@@ -25,6 +25,7 @@ public:
 
     /// Puts the focus into the line, its text selected.
     void focusLine();
+    void setText(const QString& query);
     bool isFiltering() const;
 
 signals:

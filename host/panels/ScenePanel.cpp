@@ -72,6 +72,11 @@ void ScenePanel::startFinding()
     m_bar->focusLine();
 }
 
+void ScenePanel::find(const QString& query)
+{
+    m_bar->setText(query);
+}
+
 void ScenePanel::foundChanged()
 {
     m_tree->viewport()->update();

@@ -26,6 +26,8 @@ public:
     SceneFinder& getFinder() const { return *m_finder; }
     /// Puts the focus where the user types what to find.
     void startFinding();
+    /// As if the user had typed it there.
+    void find(const QString& query);
 
 private:
     void foundChanged();

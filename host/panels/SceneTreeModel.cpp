@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "panels/SceneTreeModel.h"
 
+#include "panels/NodeFigures.h"
 #include "panels/NodeIcons.h"
+#include "structure/Places.h"
 #include "text/NodeText.h"
+
 #include <xsg/actions/SoPath.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
 #include <QFont>
 #include <QIcon>
+#include <QLocale>
+#include <QMimeData>
 #include <QWidget>
 
 #include <algorithm>
@@ -19,6 +24,8 @@ namespace scopix
 
 namespace
 {
+
+constexpr int MostPlaces = 1000; // that are counted for a row
 
 // The nodes from `node` up to `root`, both included; empty where the one is not below the other.
 std::vector<const SoNode*> pathUpwards(const SoNode* node, const SoNode* root)
@@ -79,6 +86,7 @@ struct SceneTreeModel::Item {
 
 SceneTreeModel::SceneTreeModel(QObject* parent)
     : QAbstractItemModel(parent)
+    , m_figures(new NodeFigures(this))
     , m_sensor(sceneChanged, this)
 {
 }
@@ -93,6 +101,7 @@ void SceneTreeModel::setRoot(SoNode* root)
     beginResetModel();
     m_root = root ? std::make_unique<Item>(root, nullptr, 0) : nullptr;
     m_sensor.attach(root);
+    m_figures->setRoot(root);
     endResetModel();
 }
 
@@ -123,6 +132,8 @@ std::vector<SoNode*> SceneTreeModel::childrenOf(SoNode& node) const
     std::vector<SoNode*> children = group ? group->getChildren() : std::vector<SoNode*>();
     const auto hidden = [this](const SoNode* child) { return !isShown(child); };
     children.erase(std::remove_if(children.begin(), children.end(), hidden), children.end());
+    if (isSorted())
+        sortChildren(children);
     return children;
 }
 
@@ -253,10 +264,14 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
         return {};
     const SoNode& node = *item->node;
     const QString type = toQString(node.getTypeId().getName());
-    const bool named = node.getName().getLength() > 0;
+    const bool named = !readableName(node).isEmpty();
     switch (role) {
     case Qt::DisplayRole:
-        return index.column() == TypeColumn ? type : nodeText(node);
+        return text(node, index.column());
+    case Qt::TextAlignmentRole:
+        return index.column() >= TrianglesColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    case Qt::EditRole:
+        return toQString(node.getName());
     case Qt::ToolTipRole:
         return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
@@ -275,7 +290,70 @@ QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    return section == NameColumn ? tr("Node") : tr("Type");
+    const QString captions[] = {tr("Node"), tr("Type"), tr("Triangles"), tr("Memory"), tr("Places")};
+    return captions[section];
+}
+
+QString SceneTreeModel::columnKey(int column)
+{
+    const char* const keys[] = {"node", "type", "triangles", "memory", "places"};
+    return QLatin1String(keys[column]);
+}
+
+QVariant SceneTreeModel::text(const SoNode& node, int column) const
+{
+    switch (column) {
+    case NameColumn:
+        return nodeText(node);
+    case TypeColumn:
+        return toQString(node.getTypeId().getName());
+    case PlacesColumn: {
+        const int places = countPlaces(&node, getRoot(), MostPlaces);
+        return QLocale().toString(places) + (places == MostPlaces ? QStringLiteral("+") : QString());
+    }
+    default:
+        break;
+    }
+    const auto figures = m_figures->find(&node);
+    if (!figures)
+        return QStringLiteral("…");
+    return column == TrianglesColumn ? QLocale().toString(figures->triangles)
+                                     : QLocale().formattedDataSize(figures->bytes, 1);
+}
+
+QVariant SceneTreeModel::sortKey(const SoNode& node) const
+{
+    if (m_sortColumn == NameColumn || m_sortColumn == TypeColumn)
+        return text(node, m_sortColumn);
+    if (m_sortColumn == PlacesColumn)
+        return countPlaces(&node, getRoot(), MostPlaces);
+    const auto figures = m_figures->find(&node);
+    return !figures ? qint64(-1) : m_sortColumn == TrianglesColumn ? figures->triangles : figures->bytes;
+}
+
+void SceneTreeModel::sortChildren(std::vector<SoNode*>& children) const
+{
+    std::vector<std::pair<QVariant, SoNode*>> keyed;
+    keyed.reserve(children.size());
+    for (SoNode* child : children)
+        keyed.emplace_back(sortKey(*child), child);
+    const bool isText = m_sortColumn == NameColumn || m_sortColumn == TypeColumn;
+    const auto isLess = [isText](const QVariant& a, const QVariant& b) {
+        return isText ? a.toString().compare(b.toString(), Qt::CaseInsensitive) < 0
+                      : a.toLongLong() < b.toLongLong();
+    };
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
+        return m_sortOrder == Qt::AscendingOrder ? isLess(a.first, b.first) : isLess(b.first, a.first);
+    });
+    std::transform(keyed.begin(), keyed.end(), children.begin(),
+                   [](const auto& each) { return each.second; });
+}
+
+void SceneTreeModel::sort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    listAgain();
 }
 
 void SceneTreeModel::sceneChanged(void* self, SoSensor* sensor)
@@ -283,6 +361,45 @@ void SceneTreeModel::sceneChanged(void* self, SoSensor* sensor)
     // A dragged slider changes fields thousands of times; rows only follow children and names.
     if (static_cast<SoNodeSensor*>(sensor)->isStructureChanged())
         static_cast<SceneTreeModel*>(self)->followScene();
+}
+
+void SceneTreeModel::followNow()
+{
+    if (m_root)
+        followScene();
+}
+
+Qt::ItemFlags SceneTreeModel::flags(const QModelIndex& index) const
+{
+    const SoNode* node = nodeAt(index);
+    if (!node)
+        return Qt::NoItemFlags;
+    const bool isName = index.column() == NameColumn;
+    const bool isGroup = const_cast<SoNode*>(node)->asGroup() != nullptr;
+    return QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled |
+           (isName ? Qt::ItemIsEditable : Qt::NoItemFlags) |
+           (isGroup ? Qt::ItemIsDropEnabled : Qt::NoItemFlags);
+}
+
+bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const SoNode* node = nodeAt(index);
+    if (!node || role != Qt::EditRole || value.toString() == toQString(node->getName()))
+        return false;
+    emit nameEntered(index, value.toString());
+    return true;
+}
+
+Qt::DropActions SceneTreeModel::supportedDropActions() const
+{
+    return Qt::MoveAction | Qt::CopyAction | Qt::LinkAction;
+}
+
+bool SceneTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction /*action*/, int /*row*/,
+                                     int /*column*/, const QModelIndex& parent) const
+{
+    const SoNode* group = nodeAt(parent);
+    return data->hasText() && group && const_cast<SoNode*>(group)->asGroup();
 }
 
 void SceneTreeModel::followScene()

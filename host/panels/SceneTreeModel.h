@@ -18,6 +18,8 @@ class SoPath;
 namespace scopix
 {
 
+class NodeFigures;
+
 /// The scene as a tree of rows. Opens without walking the scene: a group's children are looked at when
 /// a view asks for its rows. A node that stands in several places has a row at each. Follows the scene once
 /// per turn of the sensor queue, and keeps every node that has a row alive until then. GUI thread only.
@@ -26,7 +28,9 @@ class SceneTreeModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, TypeColumn, ColumnCount };
+    enum Column { NameColumn, TypeColumn, TrianglesColumn, MemoryColumn, PlacesColumn, ColumnCount };
+    /// The same in all scenes, for settings.
+    static QString columnKey(int column);
 
     /// Where the parent is a widget, its palette colours the icons.
     explicit SceneTreeModel(QObject* parent = nullptr);
@@ -44,6 +48,8 @@ public:
     void showAll();
     bool isShowingAll() const { return !m_shown; }
 
+    /// The rows are as the scene is now, without waiting for the sensor queue.
+    void followNow();
     /// Null for an invalid index.
     SoNode* nodeAt(const QModelIndex& index) const;
     /// The first place where the node stands below the root, or an invalid index. Looks upwards from the
@@ -58,7 +64,21 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// By what a column shows; -1: in the scene's order, as at first.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    bool isSorted() const { return m_sortColumn >= 0; }
+    NodeFigures& getFigures() const { return *m_figures; }
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Only tells what was entered: whoever listens renames.
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::DropActions supportedDropActions() const override;
+    QStringList mimeTypes() const override { return {QStringLiteral("text/plain")}; }
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+
+signals:
+    void nameEntered(const QModelIndex& index, const QString& name);
 
 private:
     struct Item;
@@ -80,7 +100,13 @@ private:
     void listChildren(Item& item) const;
     void listAgain();
     const QWidget* surface() const;
+    QVariant text(const SoNode& node, int column) const;
+    QVariant sortKey(const SoNode& node) const;
+    void sortChildren(std::vector<SoNode*>& children) const;
 
+    NodeFigures* m_figures;
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     std::unique_ptr<Item> m_root;
     std::optional<NodeSet> m_shown; // none: all
     SoNodeSensor m_sensor;

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "panels/SceneTreeView.h"
 
+#include "panels/NodeFigures.h"
 #include "panels/SceneTreeModel.h"
+#include "panels/TreeRowDelegate.h"
+#include "structure/SceneStates.h"
 
 #include <xsg/actions/SoPath.h>
 #include <xsg/errors/SoError.h>
@@ -10,7 +13,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <vector>
@@ -46,51 +48,38 @@ int countLevels(SoNode* node)
     return AllLevels;
 }
 
-/// Draws the rows that are marked bold, on a tint of the colour of selections.
-class MarkingDelegate : public QStyledItemDelegate
-{
-public:
-    explicit MarkingDelegate(SceneTreeView& view)
-        : QStyledItemDelegate(&view)
-        , m_view(view)
-    {
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (!m_view.isMarked(m_view.getModel().nodeAt(index)))
-            return;
-        constexpr int Tint = 70; // of 255: the text stays legible on it
-        QColor colour = option->palette.color(QPalette::Highlight);
-        colour.setAlpha(Tint);
-        option->backgroundBrush = colour;
-        option->font.setBold(true);
-    }
-
-private:
-    const SceneTreeView& m_view;
-};
-
 } // namespace
 
 SceneTreeView::SceneTreeView(QWidget* parent)
     : QTreeView(parent)
     , m_model(new SceneTreeModel(this))
+    , m_rows(new TreeRowDelegate(*this))
 {
     setObjectName(QStringLiteral("sceneTree"));
     setModel(m_model);
-    setItemDelegate(new MarkingDelegate(*this));
+    setItemDelegate(m_rows);
     setUniformRowHeights(true);
     setAlternatingRowColors(false);
     setSelectionMode(ExtendedSelection);
     setIndentation(16);
     setExpandsOnDoubleClick(true);
     setFrameShape(NoFrame);
+    setEditTriggers(NoEditTriggers);
+    setDragDropMode(DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    connect(m_model, &SceneTreeModel::nameEntered, this,
+            [this](const QModelIndex& index, const QString& name) { emit nameEntered(pathAt(index), name); });
+    connect(m_rows, &TreeRowDelegate::eyeClicked, this,
+            [this](const QModelIndex& index) { emit eyeClicked(pathAt(index)); });
     header()->setStretchLastSection(true);
     header()->setMinimumSectionSize(60);
     header()->setSectionsMovable(false);
+    for (int column = SceneTreeModel::TypeColumn + 1; column < SceneTreeModel::ColumnCount; ++column)
+        setColumnHidden(column, true);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    connect(header(), &QHeaderView::sectionClicked, this, &SceneTreeView::sortClicked);
+    connect(&m_model->getFigures(), &NodeFigures::changed, this, &SceneTreeView::figuresChanged);
 }
 
 void SceneTreeView::setScene(SoNode* root)
@@ -192,6 +181,36 @@ SoPath SceneTreeView::pathAt(QModelIndex index)
     SoPath path;
     std::for_each(upwards.rbegin(), upwards.rend(), [&path](SoNode* node) { path.append(node); });
     return path;
+}
+
+void SceneTreeView::setStates(const SceneStates* states)
+{
+    m_states = states;
+    connect(states, &SceneStates::changed, viewport(), qOverload<>(&QWidget::update));
+}
+
+bool SceneTreeView::isOutOfSight(const QModelIndex& index) const
+{
+    if (!m_states || m_states->getHiding().isEmpty())
+        return false;
+    const SoHiding& hiding = m_states->getHiding();
+    bool isIsolated = !hiding.isIsolating();
+    for (QModelIndex at = index; at.isValid(); at = at.parent()) {
+        const SoNode* node = m_model->nodeAt(at);
+        if (hiding.isHidden(node))
+            return true;
+        isIsolated = isIsolated || hiding.isIsolated(node);
+    }
+    return !isIsolated;
+}
+
+void SceneTreeView::editName()
+{
+    const QModelIndex index = currentIndex().siblingAtColumn(SceneTreeModel::NameColumn);
+    if (!index.isValid())
+        return;
+    scrollTo(index);
+    edit(index);
 }
 
 void SceneTreeView::unfoldTo(const SoNode* node)
@@ -327,7 +346,64 @@ void SceneTreeView::unfoldAll(const QModelIndex& index)
 void SceneTreeView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
-    header()->resizeSection(SceneTreeModel::NameColumn, viewport()->width() * 62 / 100);
+    fitColumns();
+}
+
+// The last column takes what is left.
+void SceneTreeView::fitColumns()
+{
+    constexpr int FigureWidth = 84;
+    int rest = viewport()->width();
+    int others = 0;
+    for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column) {
+        if (isColumnHidden(column))
+            continue;
+        const int width = column == SceneTreeModel::TypeColumn ? viewport()->width() * 38 / 100 : FigureWidth;
+        header()->resizeSection(column, width);
+        others += width;
+    }
+    rest = std::max(rest - others, viewport()->width() * 30 / 100);
+    header()->resizeSection(SceneTreeModel::NameColumn, rest);
+}
+
+void SceneTreeView::setColumnShown(int column, bool on)
+{
+    setColumnHidden(column, !on);
+    fitColumns();
+}
+
+template <class Change>
+void SceneTreeView::listAgain(Change change)
+{
+    const std::vector<SoPath> expanded = expandedPaths();
+    keepSelection(change);
+    for (const SoPath& path : expanded)
+        expand(m_model->indexOf(path));
+}
+
+void SceneTreeView::sortRows(int column, Qt::SortOrder order)
+{
+    header()->setSortIndicatorShown(column >= 0);
+    header()->setSortIndicator(column, order);
+    listAgain([&] { m_model->sort(column, order); });
+}
+
+// Upwards, downwards, and as the scene has it.
+void SceneTreeView::sortClicked(int column)
+{
+    const bool isSame = m_model->isSorted() && m_sorted == column;
+    const bool isDone = isSame && m_sortOrder == Qt::DescendingOrder;
+    m_sorted = isDone ? -1 : column;
+    m_sortOrder = isSame ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortRows(m_sorted, m_sortOrder);
+}
+
+void SceneTreeView::figuresChanged()
+{
+    const int column = m_model->isSorted() ? header()->sortIndicatorSection() : -1;
+    if (column == SceneTreeModel::TrianglesColumn || column == SceneTreeModel::MemoryColumn)
+        listAgain([&] { m_model->sort(column, header()->sortIndicatorOrder()); });
+    viewport()->update();
 }
 
 } // namespace scopix

@@ -12,8 +12,13 @@
 #include <functional>
 #include <vector>
 
+class QMimeData;
+
 namespace scopix
 {
+
+class SceneStates;
+class TreeRowDelegate;
 
 /// Shows the scene's tree and reports which nodes the user selects in it, any number as in a file manager.
 class SceneTreeView : public QTreeView
@@ -52,6 +57,24 @@ public:
     void setMarked(NodeTest isMarked) { m_isMarked = std::move(isMarked); }
     bool isMarked(const SoNode* node) const { return m_isMarked && m_isMarked(node); }
 
+    /// What of the scene is hidden and locked, for the eyes in the rows; it must outlive the view.
+    void setStates(const SceneStates* states);
+    const SceneStates* getStates() const { return m_states; }
+    /// The node of the row is not seen, by itself or by what it stands in.
+    bool isOutOfSight(const QModelIndex& index) const;
+    const TreeRowDelegate& getRows() const { return *m_rows; }
+    QStyleOptionViewItem rowOptions() const { return viewOptions(); }
+    /// Lets the user enter another name for the selected node, in its row.
+    void editName();
+    /// What is dragged when a drag begins now; null for nothing. For the caller to delete.
+    QMimeData* makeDragData() const;
+
+    /// Name and type are shown at first.
+    void setColumnShown(int column, bool on);
+    bool isColumnShown(int column) const { return !isColumnHidden(column); }
+    /// By what the column shows; -1: in the scene's order. What is selected and unfolded stays so.
+    void sortRows(int column, Qt::SortOrder order);
+
     /// As of the model; what is selected stays so, and what was expanded before is expanded again by
     /// showAll().
     void showOnly(SceneTreeModel::NodeSet nodes);
@@ -61,14 +84,34 @@ signals:
     /// Any change of the selected rows, with the node of the row that was selected last. Null when none is
     /// left, as when the selected node left the scene; it is still alive then.
     void nodeSelected(SoNode* node);
+    void nameEntered(const SoPath& path, const QString& name);
+    void eyeClicked(const SoPath& path);
+    /// To this place among the children of the group; -1: behind them all. The action is what the user wants
+    /// to become of it.
+    void dropped(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action);
 
 protected:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
+    struct DropPlace {
+        QModelIndex group;
+        int index;
+    };
+    void fitColumns();
+    void figuresChanged();
+    template <class Change>
+    void listAgain(Change change);
+    void sortClicked(int column);
+    DropPlace placeFor(const QModelIndex& at) const;
+    void passOn(QEvent* event);
     void unfoldAll(const QModelIndex& index);
     void dropSelection();
     void selectOnly(const QModelIndex& index);
@@ -81,9 +124,13 @@ private:
     static SoPath pathAt(QModelIndex index);
 
     SceneTreeModel* m_model;
+    TreeRowDelegate* m_rows;
+    const SceneStates* m_states = nullptr;
     NodeTest m_isMarked;
     std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
     QList<QPersistentModelIndex> m_order; // of the selected rows
+    int m_sorted = -1;                    // by a click on this column
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     bool m_quiet = false;
 };
 

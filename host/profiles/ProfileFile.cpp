@@ -24,6 +24,13 @@ namespace
 
 constexpr qint64 LargestFile = 4 * 1024 * 1024;
 const QString All = QStringLiteral("all");
+const QString Offered = QStringLiteral("offered");
+
+const QStringList& later()
+{
+    static const QStringList names{QStringLiteral("Classic")};
+    return names;
+}
 
 QString tr(const char* text)
 {
@@ -120,6 +127,9 @@ ProfileSettings settingsIn(const QJsonObject& root)
     }
     addDefault(settings.profiles);
     settings.active = textIn(root.value(QStringLiteral("active")), QStringLiteral("“active”"));
+    const QJsonArray offered = root.value(Offered).toArray();
+    for (const QJsonValue& name : offered)
+        settings.offered += name.toString();
     return settings;
 }
 
@@ -158,7 +168,18 @@ ProfileSettings ProfileFile::shipped()
         {QStringLiteral("Classic"), defaults, defaults},
     };
     settings.active = HostProfile::defaultName();
+    settings.offered = later();
     return settings;
+}
+
+void ProfileFile::offerNew(ProfileSettings& settings)
+{
+    for (const ProfileChoice& each : shipped().profiles) {
+        const bool isNew = later().contains(each.name) && !settings.offered.contains(each.name);
+        if (isNew && nameProblem(each.name, settings.profiles).isEmpty())
+            settings.profiles.push_back(each);
+    }
+    settings.offered = later();
 }
 
 ProfileSettings ProfileFile::read(QString& error) const
@@ -231,7 +252,8 @@ QString ProfileFile::write(const ProfileSettings& settings) const
     for (const ProfileChoice& profile : settings.profiles)
         profiles.append(toJson(profile));
     const QJsonObject root{{QStringLiteral("active"), settings.active},
-                           {QStringLiteral("profiles"), profiles}};
+                           {QStringLiteral("profiles"), profiles},
+                           {Offered, QJsonArray::fromStringList(later())}};
     QDir().mkpath(QFileInfo(m_path).path());
     const QString reason = replaceFile(m_path, QJsonDocument(root).toJson());
     return reason.isEmpty() ? QString() : cannotWrite(reason);

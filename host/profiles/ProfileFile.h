@@ -4,6 +4,7 @@
 #include "profiles/HostProfile.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -14,6 +15,8 @@ namespace scopix
 struct ProfileSettings {
     std::vector<ProfileChoice> profiles; // "Default" among them
     QString active;
+    /// Shipped profiles that came later than the file's format, and that its user has had already.
+    QStringList offered = {};
 };
 
 /// The settings file of the profiles: JSON, so that users can read and edit it.
@@ -31,8 +34,11 @@ public:
     }
     /// In the user's configuration folder.
     static QString standardPath();
-    /// What holds until somebody changes it: "Default", "Edit" and "Measure".
+    /// What holds until somebody changes it: "Default", "Edit", "Measure" and "Classic".
     static ProfileSettings shipped();
+    /// Adds the shipped profiles that came later and that the user has not had yet: once each, so that one
+    /// that the user deletes stays deleted.
+    static void offerNew(ProfileSettings& settings);
 
     /// The file's settings, or the shipped ones. A damaged file is kept under another name, and `error` says
     /// so.

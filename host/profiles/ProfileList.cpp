@@ -34,6 +34,7 @@ void ProfileList::read()
     QString error;
     ProfileSettings settings = m_file.read(error);
     m_inFile = settings.profiles;
+    ProfileFile::offerNew(settings);
     adopt(std::move(settings.profiles), settings.active);
     if (!error.isEmpty())
         emit failed(error);

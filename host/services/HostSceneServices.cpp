@@ -2,6 +2,8 @@
 // What the host offers beyond the services that every host has.
 #include "services/HostServices.h"
 
+#include "services/NodeDefaults.h"
+
 #include <scopix/SpxCommand.h>
 
 #include <algorithm>
@@ -95,6 +97,31 @@ void HostServices::selectPaths(const QList<SoPath>& paths)
             inScene.push_back(path);
     }
     changeSelection([&] { m_selection.select(inScene); });
+}
+
+bool HostServices::canHaveUserDefault(const SoField& field) const
+{
+    return scopix::canHaveUserDefault(field);
+}
+
+bool HostServices::hasUserDefault(const SoField& field) const
+{
+    return scopix::hasUserDefault(field);
+}
+
+QString HostServices::setUserDefault(const SoField& field)
+{
+    return scopix::setUserDefault(field);
+}
+
+QString HostServices::clearUserDefault(const SoField& field)
+{
+    return scopix::clearUserDefault(field);
+}
+
+void HostServices::applyUserDefaults(SoFieldContainer& node) const
+{
+    scopix::applyUserDefaults(node);
 }
 
 void HostServices::executeCommand(SpxCommand* command, const QString& stepName)

@@ -6,6 +6,7 @@
 #include "undo/GestureTracker.h"
 #include "undo/UndoHistory.h"
 
+#include <scopix/SpxNodeDefaults.h>
 #include <scopix/SpxSceneServices.h>
 #include <scopix/SpxServices.h>
 
@@ -14,7 +15,7 @@ namespace scopix
 
 /// The services that the host offers to extensions: selection, and undo through the history of edits. Names
 /// each step of the history by the selected field, and groups the commands of one gesture. GUI thread only.
-class HostServices : public SpxServices, public SpxSceneServices
+class HostServices : public SpxServices, public SpxSceneServices, public SpxNodeDefaults
 {
     Q_OBJECT
 
@@ -45,6 +46,12 @@ public:
     void selectNodes(const QList<SoFieldContainer*>& nodes) override;
     void selectPaths(const QList<SoPath>& paths) override;
     QList<SoPath> getSelectedPaths() const override;
+
+    bool canHaveUserDefault(const SoField& field) const override;
+    bool hasUserDefault(const SoField& field) const override;
+    QString setUserDefault(const SoField& field) override;
+    QString clearUserDefault(const SoField& field) override;
+    void applyUserDefaults(SoFieldContainer& node) const override;
 
     UndoHistory& history() { return m_history; }
     QUndoStack& undoStack() { return m_history.stack(); }

@@ -111,6 +111,21 @@ QVariant SettingsFile::value(const QString& key) const
     return ini.isGood() ? ini.settings().value(key) : QVariant();
 }
 
+QVariantMap SettingsFile::valuesIn(const QString& group) const
+{
+    QByteArray text;
+    QVariantMap values;
+    if (!readText(m_path, text).isEmpty())
+        return values;
+    IniText ini(text);
+    if (!ini.isGood())
+        return values;
+    ini.settings().beginGroup(group);
+    for (const QString& key : ini.settings().childKeys())
+        values.insert(key, ini.settings().value(key));
+    return values;
+}
+
 QString SettingsFile::setValue(const QString& key, const QVariant& value) const
 {
     return change([&](QSettings& settings) { settings.setValue(key, value); });

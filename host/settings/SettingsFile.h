@@ -20,6 +20,8 @@ public:
 
     /// As the file says now; invalid where it does not say, or cannot be read.
     QVariant value(const QString& key) const;
+    /// All values of one group, by their keys in it.
+    QVariantMap valuesIn(const QString& group) const;
     /// Reads the file again, lets `act` change the settings, and writes them. One sentence where that cannot
     /// be done, and the file is as it was; else an empty text.
     QString change(const std::function<void(QSettings&)>& act) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/HostShell.h"
 
+#include "shell/FoldedDock.h"
 #include "support/CatchExceptions.h"
 
 #include <scopix/SpxExtension.h>
@@ -55,6 +56,8 @@ void HostShell::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
     track(dock, dock->toggleViewAction());
     joinPlaceholder(dock);
     dock->installEventFilter(this);
+    if (m_foldAtFirst.remove(dock->objectName()))
+        new FoldedDock(*dock);
     updatePlaceholder();
 }
 
@@ -174,6 +177,45 @@ void HostShell::forgetFirstLook()
 {
     m_hiddenByPerson.subtract(m_hiddenAtFirst);
     m_hiddenAtFirst.clear();
+    m_foldAtFirst.clear();
+    setBottomFolded(false);
+}
+
+QList<QDockWidget*> HostShell::bottomDocks() const
+{
+    QList<QDockWidget*> docks;
+    for (const Owned& each : m_owned) {
+        auto* dock = qobject_cast<QDockWidget*>(each.widget);
+        if (dock && !dock->isFloating() && m_window.dockWidgetArea(dock) == Qt::BottomDockWidgetArea)
+            docks += dock;
+    }
+    return docks;
+}
+
+void HostShell::setBottomFolded(bool folded)
+{
+    for (QDockWidget* dock : bottomDocks()) {
+        FoldedDock* fold = FoldedDock::of(*dock);
+        if (folded && !fold)
+            new FoldedDock(*dock);
+        else if (!folded && fold)
+            fold->unfold();
+    }
+}
+
+bool HostShell::isBottomFolded() const
+{
+    return !foldedDocks().isEmpty();
+}
+
+QStringList HostShell::foldedDocks() const
+{
+    QStringList names;
+    for (const QDockWidget* dock : bottomDocks()) {
+        if (FoldedDock::of(*dock))
+            names += dock->objectName();
+    }
+    return names;
 }
 
 bool HostShell::isHiddenByPerson(const SpxExtension* extension) const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <scopix/SpxContextMenus.h>
+#include <scopix/SpxGuide.h>
 #include <scopix/SpxShell.h>
 #include <scopix/SpxShellMenus.h>
 
@@ -9,6 +11,8 @@
 #include <QObject>
 #include <QPointer>
 #include <QSet>
+
+#include <functional>
 
 class QAction;
 class QMainWindow;
@@ -21,7 +25,11 @@ namespace scopix
 /// The shell that extensions see, over a QMainWindow. Names docks and tool bars, so that their places can be
 /// saved; keeps the place of one that is removed for when it comes back; returns every widget without a
 /// parent. Knows which extension owns which widget and lets the user show and hide them. GUI thread only.
-class HostShell : public QObject, public SpxShell, public SpxShellMenus
+class HostShell : public QObject,
+                  public SpxShell,
+                  public SpxShellMenus,
+                  public SpxContextMenus,
+                  public SpxGuide
 {
     Q_OBJECT
 
@@ -43,6 +51,19 @@ public:
     void removeMenuAction(QAction* action) override;
     bool raiseDocksOf(const char* extension) override;
 
+    void addProvider(SpxContextMenuProvider* provider) override;
+    void removeProvider(SpxContextMenuProvider* provider) override;
+    void fillNodeMenu(QMenu& menu, const QList<SoFieldContainer*>& nodes,
+                      const SpxContextMenuProvider* except = nullptr) override;
+    void fillFieldMenu(QMenu& menu, SoField& field, const SpxContextMenuProvider* except = nullptr) override;
+
+    using Find = std::function<void(const QString& query)>;
+    using ShowHelp = std::function<bool(const QString& page, const QString& section)>;
+    /// What does the work of find() and showHelp().
+    void setGuide(Find find, ShowHelp showHelp);
+    void find(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
+
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
 
@@ -63,6 +84,13 @@ public:
     /// user wants: until then, forgetFirstLook() shows it again.
     void hideAtFirst(const QString& name);
     void forgetFirstLook();
+    /// The dock of this object name comes up folded to its title, until there is something to say in it.
+    void foldAtFirst(const QString& dock) { m_foldAtFirst.insert(dock); }
+    /// All docks at the bottom.
+    void setBottomFolded(bool folded);
+    bool isBottomFolded() const;
+    /// The object names of the docks that are folded now.
+    QStringList foldedDocks() const;
     bool comesUpHidden(const SpxExtension* extension) const;
 
     /// While no dock of this area is shown, a sheet with these words keeps its place, so that what is in the
@@ -92,6 +120,9 @@ private:
         bool shown;
     };
 
+    using AddEntries = std::function<void(SpxContextMenuProvider&)>;
+    void fillMenu(QMenu& menu, const SpxContextMenuProvider* except, const AddEntries& addEntries);
+    QList<QDockWidget*> bottomDocks() const;
     bool isInPlaceholdersArea(const QDockWidget* dock) const;
     void joinPlaceholder(QDockWidget* dock);
     void updatePlaceholder();
@@ -117,6 +148,10 @@ private:
     Qt::DockWidgetArea m_placeholderArea = Qt::NoDockWidgetArea;
     QPointer<QMenu> m_editMenu;
     QPointer<QMenu> m_viewMenu;
+    QSet<QString> m_foldAtFirst; // docks that have not come up yet
+    QList<SpxContextMenuProvider*> m_providers;
+    Find m_find;
+    ShowHelp m_showHelp;
 };
 
 } // namespace scopix

@@ -2,6 +2,8 @@
 // What the host's shell offers beyond docks and tool bars.
 #include "shell/HostShell.h"
 
+#include "support/CatchExceptions.h"
+
 #include <scopix/SpxExtension.h>
 
 #include <QAction>
@@ -52,6 +54,60 @@ bool HostShell::raiseDocksOf(const char* extension)
         isRaised = true;
     }
     return isRaised;
+}
+
+void HostShell::addProvider(SpxContextMenuProvider* provider)
+{
+    if (provider && !m_providers.contains(provider))
+        m_providers.append(provider);
+}
+
+void HostShell::removeProvider(SpxContextMenuProvider* provider)
+{
+    m_providers.removeOne(provider);
+}
+
+void HostShell::fillNodeMenu(QMenu& menu, const QList<SoFieldContainer*>& nodes,
+                             const SpxContextMenuProvider* except)
+{
+    if (!nodes.isEmpty())
+        fillMenu(menu, except, [&](SpxContextMenuProvider& each) { each.addNodeEntries(menu, nodes); });
+}
+
+void HostShell::fillFieldMenu(QMenu& menu, SoField& field, const SpxContextMenuProvider* except)
+{
+    fillMenu(menu, except, [&](SpxContextMenuProvider& each) { each.addFieldEntries(menu, field); });
+}
+
+// A separator at the end of a menu is not shown.
+void HostShell::fillMenu(QMenu& menu, const SpxContextMenuProvider* except, const AddEntries& addEntries)
+{
+    menu.addSeparator();
+    const QList<SpxContextMenuProvider*> providers = m_providers;
+    for (SpxContextMenuProvider* provider : providers) {
+        if (provider == except)
+            continue;
+        const QString failure = catchExceptions([&] { addEntries(*provider); });
+        if (!failure.isEmpty())
+            emit failed(tr("A plug-in failed when it was to add entries to a menu: %1").arg(failure));
+    }
+}
+
+void HostShell::setGuide(Find find, ShowHelp showHelp)
+{
+    m_find = std::move(find);
+    m_showHelp = std::move(showHelp);
+}
+
+void HostShell::find(const QString& query)
+{
+    if (m_find)
+        m_find(query);
+}
+
+bool HostShell::showHelp(const QString& page, const QString& section)
+{
+    return m_showHelp && m_showHelp(page, section);
 }
 
 bool HostShell::sharesPlaceWithFocus(QDockWidget* dock) const

@@ -3,6 +3,8 @@
 
 #include <xsg/core/SoFieldContainer.h>
 
+#include <algorithm>
+
 namespace scopix
 {
 
@@ -16,10 +18,22 @@ SbName toName(const QString& text)
     return SbName(text.toLatin1().constData());
 }
 
+QString readableName(const SoFieldContainer& node)
+{
+    const QString name = toQString(node.getName());
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    if (name.startsWith(QLatin1Char('*')) && std::all_of(name.begin() + 1, name.end(), isDigit))
+        return {};
+    const int half = name.size() / 2;
+    const bool isDoubled = name.size() % 2 == 1 && name.at(half) == QLatin1Char('/') &&
+                           name.leftRef(half) == name.midRef(half + 1);
+    return isDoubled && half > 0 ? name.left(half) : name;
+}
+
 QString nodeText(const SoFieldContainer& node)
 {
-    const SbName name = node.getName();
-    return toQString(name.getLength() > 0 ? name : node.getTypeId().getName());
+    const QString name = readableName(node);
+    return name.isEmpty() ? toQString(node.getTypeId().getName()) : name;
 }
 
 } // namespace scopix

@@ -14,7 +14,10 @@ namespace scopix
 /// Names hold Latin-1.
 QString toQString(SbName name);
 SbName toName(const QString& text);
-/// The node's name, or its type's where it has none.
+/// The node's name as people read it, or empty: numbers that a program gave it ("*0") say nothing, and a name
+/// that was doubled on the way through another format ("body/body") is told once.
+QString readableName(const SoFieldContainer& node);
+/// The same, or the name of the node's type.
 QString nodeText(const SoFieldContainer& node);
 
 } // namespace scopix

@@ -2,13 +2,11 @@
 #include "undo/FieldEdit.h"
 
 #include "text/NodeText.h"
+#include "text/ValueBytes.h"
 #include "text/ValueText.h"
 
 #include <xsg/core/SoMField.h>
-#include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFEnum.h>
-#include <xsg/fields/SoSFImage.h>
-#include <xsg/fields/SoSFString.h>
 
 #include <QCoreApplication>
 
@@ -66,26 +64,7 @@ void append(SoMField& to, const SoMField& from, int start, int count)
 
 std::size_t bytesOf(const SoField* value)
 {
-    if (!value)
-        return 0;
-    std::size_t bytes = ObjectBytes;
-    if (const auto* values = dynamic_cast<const SoMField*>(value))
-        bytes += static_cast<std::size_t>(values->getNum()) * values->bytesPerValue();
-    if (const auto* string = dynamic_cast<const SoSFString*>(value))
-        bytes += string->getValue().str().size();
-    if (const auto* strings = dynamic_cast<const SoMFString*>(value)) {
-        for (int i = 0; i < strings->getNum(); ++i)
-            bytes += (*strings)[i].str().size();
-    }
-    if (const auto* image = dynamic_cast<const SoSFImage*>(value)) {
-        int width = 0;
-        int height = 0;
-        int components = 0;
-        if (image->getValue(width, height, components))
-            bytes += static_cast<std::size_t>(width) * static_cast<std::size_t>(height) *
-                     static_cast<std::size_t>(components);
-    }
-    return bytes;
+    return value ? ObjectBytes + valueBytes(*value) : 0;
 }
 
 QString partText(const SoMField& values, int start, int count)

@@ -175,7 +175,10 @@ void UndoHistory::settleCurrent()
         return;
     current->compare();
     const bool isOn = !current->isNothing();
-    if (isOn && m_currentIsOn)
+    const QString refusal = isOn ? refusalOf(*current) : QString();
+    if (!refusal.isEmpty())
+        takeBackCurrent(refusal);
+    else if (isOn && m_currentIsOn)
         showCurrent();
     else if (isOn)
         pushCurrent();
@@ -191,6 +194,33 @@ void UndoHistory::pushCurrent()
         m_redoable.push_back(stepAt(i));
     m_currentIsOn = true;
     m_stack.push(new UndoEntry(*this, m_current));
+}
+
+QString UndoHistory::refusalOf(const UndoStep& step) const
+{
+    QString refusal;
+    for (const SoFieldContainer* container : step.touched()) {
+        if (m_lock && refusal.isEmpty())
+            refusal = m_lock(*container);
+    }
+    return refusal;
+}
+
+void UndoHistory::takeBackCurrent(const QString& refusal)
+{
+    if (m_currentIsOn)
+        takeCurrentOff();
+    const StepPtr step = std::exchange(m_current, nullptr);
+    m_isOfInput = false;
+    step->close();
+    QString reason;
+    {
+        const QScopedValueRollback<bool> busy(m_busy, true);
+        step->undo(reason);
+    }
+    step->drop();
+    m_unused.push_back(step);
+    emit refused(refusal);
 }
 
 void UndoHistory::takeCurrentOff()

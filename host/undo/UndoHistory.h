@@ -50,6 +50,10 @@ public:
     /// edited one.
     void setEdited(std::function<CommandContext()> context, std::function<bool(const SoField&)> isEdited);
 
+    /// Asked about each container that a new step touches: why nobody may edit it, or an empty text. Such a
+    /// step is taken back at once, and refused() says why. Null, as at first: about none.
+    void setLock(std::function<QString(const SoFieldContainer&)> lock) { m_lock = std::move(lock); }
+
     /// Runs the command's execute() and keeps the command. While a step is being undone or redone, the
     /// command is pushed from the event loop.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
@@ -73,6 +77,8 @@ signals:
     void acted();
     /// A command threw, or a step could not be undone and was taken out; one sentence.
     void failed(const QString& sentence);
+    /// A step was taken back, as it touches what is locked; one sentence.
+    void refused(const QString& sentence);
     /// Steps went with a node that they touch; one sentence.
     void lost(const QString& sentence);
     void droppedOldSteps();
@@ -99,6 +105,8 @@ private:
     void finishLoneStep();
     void pushCurrent();
     void takeCurrentOff();
+    QString refusalOf(const UndoStep& step) const;
+    void takeBackCurrent(const QString& refusal);
     void showCurrent();
     void releaseUnused();
 
@@ -115,6 +123,7 @@ private:
 
     std::function<CommandContext()> m_context = [] { return CommandContext(); };
     std::function<bool(const SoField&)> m_isEdited = [](const SoField&) { return false; };
+    std::function<QString(const SoFieldContainer&)> m_lock; // null: nothing is locked
     QUndoStack m_stack;
     StepPtr m_current;          // may still grow
     bool m_currentIsOn = false; // the stack, at its end

@@ -27,6 +27,10 @@ public:
     /// What stands at the right while no dock does; empty for nothing.
     virtual QString emptyHint() const { return {}; }
     virtual QMenu* appearanceMenu() { return nullptr; }
+    /// As if the user had typed it where the window finds.
+    virtual void findInScene(const QString& /*query*/) {}
+    /// As SpxGuide::showHelp().
+    virtual bool showHelp(const QString& /*page*/, const QString& /*section*/) { return false; }
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.

@@ -10,15 +10,22 @@
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
+#include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
+#include "window/FieldMenu.h"
 #include "window/FileMenu.h"
+#include "window/HelpWindow.h"
+#include "window/NodeEditing.h"
+#include "window/NodeMenu.h"
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
+#include "window/TreeColumns.h"
 #include "window/ViewActs.h"
 
 #include <xsg/actions/SoSearchAction.h>
@@ -87,6 +94,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_fields(new FieldListView)
     , m_view(new SceneView)
     , m_handles(new HandleTool(services, *m_view))
+    , m_states(new SceneStates(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -98,7 +106,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeDocks();
     makeFileMenu();
     makeEditMenu();
-    makeHandles();
+    makeNodeMenu();
     makeViewMenu();
     makeHelpMenu();
     makeToolBar();
@@ -109,6 +117,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     new ReloadBar(m_files, *m_view);
+    new FieldMenu(*m_fields, m_services);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -203,12 +212,23 @@ void MainWindow::makeEditMenu()
     find->setObjectName(QStringLiteral("findAction"));
 }
 
-void MainWindow::makeHandles()
+void MainWindow::makeNodeMenu()
+{
+    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
+    QMenu* menu = menuBar()->addMenu(tr("&Node"));
+    new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
+    addHandles(*menu);
+    m_tree->setStates(m_states);
+    m_view->setStates(m_states);
+}
+
+void MainWindow::addHandles(QMenu& menu)
 {
     m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
-    QMenu* menu = menuBar()->addMenu(tr("&Node"));
-    menu->addActions(m_handleActions->getModes());
-    menu->addAction(m_handleActions->getOwnAxes());
+    menu.addSeparator();
+    menu.addActions(m_handleActions->getModes());
+    menu.addAction(m_handleActions->getOwnAxes());
     connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
 }
 
@@ -238,6 +258,7 @@ void MainWindow::makeViewMenu()
     menu->addSeparator();
     for (const QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock})
         menu->addAction(dock->toggleViewAction());
+    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -276,6 +297,9 @@ void MainWindow::makeHelpMenu()
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });
+    menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
+                    QKeySequence(Qt::Key_F1));
+    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
 
@@ -322,6 +346,26 @@ void MainWindow::find()
     m_scenePanel->startFinding();
 }
 
+void MainWindow::findInScene(const QString& query)
+{
+    find();
+    m_scenePanel->find(query);
+}
+
+bool MainWindow::showHelp(const QString& page, const QString& section)
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    return m_help->open(page, section);
+}
+
+void MainWindow::showHelpOnFocus()
+{
+    const SoFieldContainer* node = m_services.selectedNode();
+    if (!showHelp(QStringLiteral("nodes"), node ? toQString(node->getTypeId().getName()) : QString()))
+        m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
+}
+
 void MainWindow::showNode(SoFieldContainer* container)
 {
     m_tree->showPaths(m_services.getSelectedPaths());
@@ -361,6 +405,7 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 
 void MainWindow::showScene(SoNode* root)
 {
+    m_states->clear();
     m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.

@@ -15,11 +15,15 @@ class SoField;
 namespace scopix
 {
 
+class BranchFiles;
 class FieldListView;
 class HandleActions;
 class HandleTool;
 class PictureActs;
+class HelpWindow;
 class HostServices;
+class NodeEditing;
+class SceneStates;
 class UserNotifier;
 class ViewActs;
 class ScenePanel;
@@ -50,6 +54,8 @@ public:
     QMenu* editMenu() override { return m_editMenu; }
     QString emptyHint() const override;
     QMenu* appearanceMenu() override { return m_appearanceMenu; }
+    void findInScene(const QString& query) override;
+    bool showHelp(const QString& page, const QString& section) override;
     SoNode* sceneRoot() const override { return getScene(); }
     SoPath selectedPath() const override;
     SoPath pathTo(const SoNode* node) const override;
@@ -64,6 +70,9 @@ public:
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
     HandleTool& getHandles() { return *m_handles; }
+    NodeEditing& getEditing() { return *m_editing; }
+    BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    SceneStates& getStates() { return *m_states; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -78,7 +87,8 @@ private:
     void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
-    void makeHandles();
+    void makeNodeMenu();
+    void addHandles(QMenu& menu);
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -91,6 +101,7 @@ private:
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showHelpOnFocus();
     void viewSelected();
     void find();
     void showNode(SoFieldContainer* node);
@@ -106,6 +117,10 @@ private:
     SceneView* m_view;
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
+    SceneStates* m_states;
+    NodeEditing* m_editing = nullptr;
+    BranchFiles* m_branchFiles = nullptr;
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

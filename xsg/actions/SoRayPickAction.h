@@ -37,6 +37,8 @@ public:
     void setClipPlane(const SbPlane* plane);
     /// How many nodes the last pick looked at.
     using SoTraversal::getNumVisited;
+    /// What of the scene the ray passes through, from the next pick on; it must outlive them.
+    using SoTraversal::setHiding;
 
 private:
     struct Hit;

@@ -3,6 +3,7 @@
 
 #include <xsg/actions/GroupCache.h>
 #include <xsg/actions/RepeatBound.h>
+#include <xsg/actions/SoHiding.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 namespace
@@ -82,6 +83,8 @@ void SoTraversal::begin(SoNode* root)
     m_repeating = 0;
     m_repeats = 0;
     m_isCut = false;
+    m_hiding = m_setHiding && !m_setHiding->isEmpty() ? m_setHiding : nullptr;
+    m_sight = Sight::Plain;
     visit(root);
 }
 
@@ -139,9 +142,12 @@ void SoTraversal::visit(SoNode* node)
 {
     if (!mayVisit())
         return;
+    const Sight sight = m_hiding ? sightOf(node) : Sight::Plain;
+    if (m_hiding && !isSeen(node, sight))
+        return;
     ++m_visited;
     if (SoGroup* group = node->asGroup()) {
-        openGroup(group);
+        openGroup(group, sight);
     } else if (SoShape* shape = node->asShape()) {
         visitShape(shape);
     } else {
@@ -150,7 +156,24 @@ void SoTraversal::visit(SoNode* node)
     }
 }
 
-void SoTraversal::openGroup(SoGroup* group)
+SoTraversal::Sight SoTraversal::sightOf(const SoNode* node) const
+{
+    if (m_sight == Sight::Hidden || m_hiding->isHidden(node))
+        return Sight::Hidden;
+    return m_hiding->isIsolated(node) ? Sight::Isolated : m_sight;
+}
+
+// What sets something for its followers is visited in any case, except for what is hidden itself.
+bool SoTraversal::isSeen(SoNode* node, Sight sight) const
+{
+    if (const SoGroup* group = node->asGroup())
+        return sight != Sight::Hidden || !group->isStateScope();
+    if (node->asShape())
+        return sight == Sight::Isolated || (sight == Sight::Plain && !m_hiding->isIsolating());
+    return !m_hiding->isHidden(node);
+}
+
+void SoTraversal::openGroup(SoGroup* group, Sight sight)
 {
     if (!wantsGroup(group))
         return;
@@ -163,13 +186,15 @@ void SoTraversal::openGroup(SoGroup* group)
     const bool isPlanned = std::exchange(m_hasNewPlan, false);
     const bool repeats = hasMet(group);
     m_repeating += repeats ? 1 : 0;
-    m_frames.push_back({group, range.first - 1, range.last, isolates, repeats, isPlanned ? 0 : NoPlan});
+    m_frames.push_back({group, range.first - 1, range.last, isolates, repeats, std::exchange(m_sight, sight),
+                        isPlanned ? 0 : NoPlan});
 }
 
 void SoTraversal::closeGroup()
 {
     const Frame frame = m_frames.back();
     m_frames.pop_back();
+    m_sight = frame.sightBefore;
     m_repeating -= frame.repeats ? 1 : 0;
     if (frame.planned != NoPlan)
         m_plans.pop_back();

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <unordered_set>
 
+class SoHiding;
 class SoShape;
 
 /// Walks a scene in order and carries the state along: the base of everything that looks at a whole scene. A
@@ -30,6 +31,8 @@ public:
     static constexpr int MostRepeats = 1 << 20;
     /// Whether that happened to the last walk, or has happened to this one so far.
     bool isCut() const { return m_isCut; }
+    /// What the walk passes by, from the next one on; it must outlive them. Null, as at first: nothing.
+    void setHiding(const SoHiding* hiding) { m_setHiding = hiding; }
 
 protected:
     /// Before a group, with the state as it is there; false skips the group and leaves the state.
@@ -52,6 +55,9 @@ protected:
     /// Whether the present node stands below a group that the walk has met before.
     bool isRepeating() const { return m_repeating > 0; }
 
+    /// Of a node, as SoHiding has it: hidden, below one that is isolated, or neither.
+    enum class Sight : char { Plain, Hidden, Isolated };
+
     /// A group on the way to the present node, and the child that is visited.
     struct Frame {
         SoGroup* group;
@@ -59,6 +65,7 @@ protected:
         int end;
         bool isolates;
         bool repeats;        // the walk has met it before
+        Sight sightBefore;   // of what it stands in
         std::size_t planned; // of the places to visit, those that were; NoPlan: all are visited
     };
     const std::vector<Frame>& getFrames() const { return m_frames; }
@@ -69,9 +76,11 @@ private:
     void end();
     void visit(SoNode* node);
     bool mayVisit();
+    Sight sightOf(const SoNode* node) const;
+    bool isSeen(SoNode* node, Sight sight) const;
     bool hasMet(const SoGroup* group);
     bool goToNextChild(Frame& frame);
-    void openGroup(SoGroup* group);
+    void openGroup(SoGroup* group, Sight sight);
     void closeGroup();
     void saveState();
     void restoreState();
@@ -89,4 +98,7 @@ private:
     int m_repeating = 0;                      // open groups that were met before
     int m_repeats = 0;                        // visits below such groups
     bool m_isCut = false;
+    const SoHiding* m_setHiding = nullptr;
+    const SoHiding* m_hiding = nullptr; // the same during a walk; null where it hides nothing
+    Sight m_sight = Sight::Plain;
 };

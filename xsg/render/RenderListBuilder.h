@@ -18,6 +18,7 @@ public:
     RenderListBuilder(RenderList& list, GeometryStore& geometry, TextureStore& textures);
     void build(SoNode* root, const RenderView& view);
     using SoTraversal::getNumVisited;
+    using SoTraversal::setHiding;
 
 private:
     bool wantsGroup(SoGroup* group) override;

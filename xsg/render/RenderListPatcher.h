@@ -18,6 +18,7 @@ public:
     /// False where the list has to be built again; it is no longer usable then.
     bool patch(SoNode* root, const RenderView& view);
     using SoTraversal::getNumVisited;
+    using SoTraversal::setHiding;
 
 private:
     bool wantsGroup(SoGroup* group) override;

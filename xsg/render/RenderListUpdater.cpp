@@ -1,6 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/render/RenderListUpdater.h>
 
+#include <xsg/actions/SoHiding.h>
+
+void xsg::RenderListUpdater::setHiding(const SoHiding* hiding)
+{
+    const std::uint64_t version = hiding ? hiding->getVersion() : 0;
+    if (hiding == m_hiding && version == m_hidingVersion)
+        return;
+    m_hiding = hiding;
+    m_hidingVersion = version;
+    m_builder.setHiding(hiding);
+    m_patcher.setHiding(hiding);
+    invalidate();
+}
+
 bool xsg::RenderListUpdater::update(SoNode* root, const RenderView& view)
 {
     const bool isSameView = root->getNodeId() == m_rootId && view.camera == m_view.camera &&

@@ -19,6 +19,8 @@ public:
     }
 
     const RenderList& getList() const { return m_list; }
+    /// What is left out of the list; it must outlive the updates. Null, as at first: nothing.
+    void setHiding(const SoHiding* hiding);
     /// True when something had changed. Needs the OpenGL context.
     bool update(SoNode* root, const RenderView& view);
     /// What has changed in the list since the last call.
@@ -40,6 +42,8 @@ private:
     std::uint64_t m_rootId = 0; // 0: the list is of no use
     std::uint32_t m_rootCount = 0;
     int m_visited = 0;
+    const SoHiding* m_hiding = nullptr;
+    std::uint64_t m_hidingVersion = 0;
 };
 
 } // namespace xsg

@@ -119,6 +119,7 @@ public:
     float highlightThickness = 2;
     bool headlight = true;
     SoOverlay overlay;
+    const SoHiding* hiding = nullptr;
     std::string error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }
@@ -268,6 +269,7 @@ void SoRenderer::Impl::clearPicture()
 
 void SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera)
 {
+    m_updater.setHiding(hiding);
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     for (int walk = 0; walk < 2; ++walk) {
@@ -619,6 +621,11 @@ void SoRenderer::setClipPlane(const SbPlane* plane)
 void SoRenderer::setWireframe(bool on)
 {
     m_impl->wireframe = on;
+}
+
+void SoRenderer::setHiding(const SoHiding* hiding)
+{
+    m_impl->hiding = hiding;
 }
 
 void SoRenderer::setHighlight(const SoNode* node)

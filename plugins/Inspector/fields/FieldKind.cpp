@@ -69,7 +69,7 @@ int linesOf(const SoField& field)
 {
     switch (kindOf(field)) {
     case FieldKind::Matrix:
-        return 4;
+        return 5;
     case FieldKind::Rotation:
         return 2;
     case FieldKind::Mask:

@@ -3,6 +3,7 @@
 
 #include "fields/FieldKind.h"
 #include "fields/ListRange.h"
+#include "fields/NodeValues.h"
 
 #include <scopix/SpxSceneServices.h>
 #include <scopix/editing/SpxText.h>
@@ -51,19 +52,22 @@ QString nodeLabel(const SoFieldContainer& node)
     return SpxText::toQString(name.getLength() > 0 ? name : node.getTypeId().getName());
 }
 
+QString pathOf(const SoFieldContainer& node)
+{
+    const SpxSceneServices* scene = SpxSceneServices::getInstance();
+    const SoPath path = scene ? scene->getSelectedPath() : SoPath();
+    if (path.isEmpty() || path.getTail() != &node)
+        return nodeLabel(node);
+    QStringList labels;
+    for (int i = 0; i < path.getLength(); ++i)
+        labels += nodeLabel(*path.getNode(i));
+    return labels.join(QLatin1Char('/'));
+}
+
 QString pathOf(const SoField& field)
 {
     const SoFieldContainer* node = field.getContainer();
-    const SpxSceneServices* scene = SpxSceneServices::getInstance();
-    const SoPath path = scene ? scene->getSelectedPath() : SoPath();
-    QString text;
-    if (!path.isEmpty() && path.getTail() == node) {
-        for (int i = 0; i < path.getLength(); ++i)
-            text += (i > 0 ? QStringLiteral("/") : QString()) + nodeLabel(*path.getNode(i));
-    } else if (node) {
-        text = nodeLabel(*node);
-    }
-    return text + QLatin1Char('.') + SpxText::toQString(field.getName());
+    return (node ? pathOf(*node) : QString()) + QLatin1Char('.') + SpxText::toQString(field.getName());
 }
 
 QString sceneText(const SoField& field)
@@ -77,6 +81,15 @@ QString cppText(const SoField& field)
     value.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
     value.replace(QLatin1Char('\n'), QLatin1String("\\n"));
     return QStringLiteral("node->%1.set(SbString(\"%2\"));").arg(SpxText::toQString(field.getName()), value);
+}
+
+QString cppText(const SoFieldContainer& node)
+{
+    QString text =
+        QStringLiteral("auto* node = new So%1;\n").arg(SpxText::toQString(node.getTypeId().getName()));
+    for (const SoField* field : changedFields(node))
+        text += cppText(*field) + QLatin1Char('\n');
+    return text;
 }
 
 QString summary(const SoField& field)

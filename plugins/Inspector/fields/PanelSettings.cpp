@@ -26,6 +26,15 @@ QString key(const char* name)
 
 constexpr const char* Degrees = "degrees";
 constexpr const char* Rotation = "rotation";
+constexpr const char* Matrix = "matrix";
+constexpr const char* Color = "color";
+
+// The first one where the file has none that there is.
+template <class Form>
+Form formOf(const char* name, Form last)
+{
+    return Form(std::clamp(settings().value(key(name), 0).toInt(), 0, int(last)));
+}
 
 } // namespace
 
@@ -41,12 +50,32 @@ void PanelSettings::setShowsDegrees(bool degrees)
 
 RotationForm PanelSettings::rotationForm()
 {
-    return RotationForm(std::clamp(settings().value(key(Rotation), 0).toInt(), 0, 2));
+    return formOf(Rotation, RotationForm::Quaternion);
 }
 
 void PanelSettings::setRotationForm(RotationForm form)
 {
     settings().setValue(key(Rotation), int(form));
+}
+
+MatrixForm PanelSettings::matrixForm()
+{
+    return formOf(Matrix, MatrixForm::Parts);
+}
+
+void PanelSettings::setMatrixForm(MatrixForm form)
+{
+    settings().setValue(key(Matrix), int(form));
+}
+
+ColorForm PanelSettings::colorForm()
+{
+    return formOf(Color, ColorForm::Linear);
+}
+
+void PanelSettings::setColorForm(ColorForm form)
+{
+    settings().setValue(key(Color), int(form));
 }
 
 } // namespace inspector

@@ -5,6 +5,8 @@ namespace inspector
 {
 
 enum class RotationForm { AxisAngle, Euler, Quaternion };
+enum class MatrixForm { Grid, Parts };
+enum class ColorForm { Rgb, Hsv, Hex, Linear };
 
 /// What the user chose for all panels; kept in the user's settings.
 struct PanelSettings {
@@ -12,6 +14,10 @@ struct PanelSettings {
     static void setShowsDegrees(bool degrees);
     static RotationForm rotationForm();
     static void setRotationForm(RotationForm form);
+    static MatrixForm matrixForm();
+    static void setMatrixForm(MatrixForm form);
+    static ColorForm colorForm();
+    static void setColorForm(ColorForm form);
 };
 
 } // namespace inspector

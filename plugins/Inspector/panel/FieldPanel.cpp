@@ -4,6 +4,7 @@
 #include "fields/FieldText.h"
 #include "panel/FlowRow.h"
 #include "panel/NearbyNodes.h"
+#include "panel/NodeMenu.h"
 #include "panel/RowList.h"
 
 #include <scopix/SpxSceneServices.h>
@@ -21,6 +22,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace inspector
 {
@@ -29,6 +32,7 @@ namespace
 {
 
 constexpr int MostParents = 4;
+constexpr int ShowEveryMs = 33;
 constexpr int Margin = 6;
 
 void selectPath(const SoPath& path)
@@ -77,6 +81,9 @@ FieldPanel::FieldPanel(QWidget* parent)
     layout->addLayout(makeFilter());
     layout->addWidget(m_rows, 1);
     connect(m_rows, &RowList::fieldChosen, this, &FieldPanel::choose);
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, &FieldPanel::refresh);
+    new NodeMenu(*this, *m_onlyChanged);
 }
 
 QLayout* FieldPanel::makeHeader()
@@ -114,24 +121,56 @@ QLayout* FieldPanel::makeFilter()
     return row;
 }
 
-void FieldPanel::setNode(SoFieldContainer* node)
+// What is typed belongs to the nodes that are left.
+void FieldPanel::setNodes(const std::vector<SoFieldContainer*>& nodes)
 {
-    if (node != this->node()) {
+    if (nodes != this->nodes() || nodes.size() != m_watchers.size()) {
+        m_later.stop();
         m_rows->finish();
-        m_life.watch(node);
-        m_rows->setNode(node);
+        watch(nodes);
+        m_rows->setNodes(nodes);
     }
     showPlace();
 }
 
+void FieldPanel::watch(const std::vector<SoFieldContainer*>& nodes)
+{
+    m_watchers.clear();
+    for (SoFieldContainer* node : nodes) {
+        m_watchers.push_back(std::make_unique<SpxWatcher>());
+        m_watchers.back()->watch(node);
+        connect(m_watchers.back().get(), &SpxWatcher::changed, this, &FieldPanel::refreshSoon);
+    }
+}
+
+std::vector<SoFieldContainer*> FieldPanel::nodes() const
+{
+    std::vector<SoFieldContainer*> all;
+    for (const auto& watcher : m_watchers) {
+        if (auto* node = dynamic_cast<SoFieldContainer*>(watcher->getObject()))
+            all.push_back(node);
+    }
+    return all;
+}
+
 SoFieldContainer* FieldPanel::node() const
 {
-    return dynamic_cast<SoFieldContainer*>(m_life.getObject());
+    return m_watchers.empty() ? nullptr : dynamic_cast<SoFieldContainer*>(m_watchers.back()->getObject());
 }
 
 void FieldPanel::refresh()
 {
-    m_rows->refresh();
+    m_sinceShown.start();
+    if (node())
+        m_rows->refresh();
+}
+
+void FieldPanel::refreshSoon()
+{
+    if (!m_sinceShown.isValid() || m_sinceShown.elapsed() >= ShowEveryMs)
+        refresh();
+    else if (!m_later.isActive())
+        m_later.start(ShowEveryMs);
 }
 
 void FieldPanel::finish()
@@ -166,6 +205,11 @@ void FieldPanel::showPlace()
     m_title->clear();
     if (!node())
         return;
+    if (m_watchers.size() > 1) {
+        m_title->setText(QStringLiteral("<b>%1</b>").arg(titleOf(nodes()).toHtmlEscaped()));
+        m_title->setToolTip(tr("An edit changes all of them. Where they differ, it says “mixed”."));
+        return;
+    }
     const QString type = SpxText::toQString(node()->getTypeId().getName());
     const QString label = nodeLabel(*node());
     m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
@@ -177,6 +221,21 @@ void FieldPanel::showPlace()
         return;
     showBreadcrumb(path);
     showNearby(path);
+}
+
+// "3 nodes: 2 Material, 1 Cone"
+QString FieldPanel::titleOf(const std::vector<SoFieldContainer*>& nodes) const
+{
+    std::map<QString, int> counts;
+    for (const SoFieldContainer* node : nodes)
+        ++counts[SpxText::toQString(node->getTypeId().getName())];
+    std::vector<std::pair<QString, int>> byCount(counts.begin(), counts.end());
+    std::stable_sort(byCount.begin(), byCount.end(),
+                     [](const auto& a, const auto& b) { return a.second > b.second; });
+    QStringList parts;
+    for (const auto& [type, count] : byCount)
+        parts += QStringLiteral("%1 %2").arg(count).arg(type);
+    return tr("%L1 nodes: %2").arg(nodes.size()).arg(parts.join(QStringLiteral(", ")));
 }
 
 void FieldPanel::showBreadcrumb(const SoPath& path)

@@ -3,7 +3,12 @@
 
 #include <scopix/editing/SpxWatcher.h>
 
+#include <QElapsedTimer>
+#include <QTimer>
 #include <QWidget>
+
+#include <memory>
+#include <vector>
 
 class QAction;
 class QCheckBox;
@@ -18,7 +23,7 @@ class FlowRow;
 class RowList;
 
 /// A node at a glance: where it stands, what governs its look, and all its fields, to be filtered and edited.
-/// GUI thread only.
+/// Or several nodes: how many of which type, and the fields that they share. GUI thread only.
 class FieldPanel : public QWidget
 {
     Q_OBJECT
@@ -26,10 +31,15 @@ class FieldPanel : public QWidget
 public:
     explicit FieldPanel(QWidget* parent = nullptr);
 
-    /// Null shows nothing.
-    void setNode(SoFieldContainer* node);
+    /// None shows nothing. The last is the current one.
+    void setNodes(const std::vector<SoFieldContainer*>& nodes);
+    /// The current one, or null.
     SoFieldContainer* node() const;
+    /// All that are alive.
+    std::vector<SoFieldContainer*> nodes() const;
     void refresh();
+    /// At most 30 times a second.
+    void refreshSoon();
     void finish();
     void focusFilter();
     /// How values are shown has changed.
@@ -41,12 +51,16 @@ protected:
 private:
     QLayout* makeHeader();
     QLayout* makeFilter();
+    void watch(const std::vector<SoFieldContainer*>& nodes);
+    QString titleOf(const std::vector<SoFieldContainer*>& nodes) const;
     void showPlace();
     void showBreadcrumb(const SoPath& path);
     void showNearby(const SoPath& path);
     void choose(SoField* field);
 
-    SpxWatcher m_life; // of the node
+    std::vector<std::unique_ptr<SpxWatcher>> m_watchers; // of the nodes, in their order
+    QElapsedTimer m_sinceShown;
+    QTimer m_later;
     QLabel* m_title;
     FlowRow* m_breadcrumb;
     FlowRow* m_nearby;

@@ -4,6 +4,8 @@
 #include "fields/PanelSettings.h"
 #include "panel/FieldPanel.h"
 
+#include <scopix/SpxSceneServices.h>
+#include <scopix/SpxServices.h>
 #include <scopix/SpxShellMenus.h>
 #include <xsg/core/SoFieldContainer.h>
 
@@ -13,13 +15,6 @@
 namespace inspector
 {
 
-namespace
-{
-
-constexpr int ShowEveryMs = 33;
-
-} // namespace
-
 PanelEditor::PanelEditor()
 {
     setName("Panel");
@@ -27,8 +22,6 @@ PanelEditor::PanelEditor()
     setVendor("Arvex");
     setVersion("1.0.0");
     setHandledType(SoFieldContainer::getClassTypeId());
-    m_later.setSingleShot(true);
-    connect(&m_later, &QTimer::timeout, this, &PanelEditor::showChanges);
 }
 
 PanelEditor::~PanelEditor() = default;
@@ -37,10 +30,14 @@ void PanelEditor::load()
 {
     SpxObjectEditor::load();
     addMenus();
+    if (SpxServices* services = SpxServices::getInstance())
+        connect(services, &SpxServices::selectedNodeChanged, this, &PanelEditor::follow);
 }
 
 void PanelEditor::unload()
 {
+    if (SpxServices* services = SpxServices::getInstance())
+        disconnect(services, nullptr, this, nullptr);
     removeMenus();
     SpxObjectEditor::unload();
 }
@@ -91,33 +88,39 @@ void PanelEditor::filter()
 void PanelEditor::activate()
 {
     SpxObjectEditor::activate();
-    m_panel->setNode(edited<SoFieldContainer>());
+    showNodes();
+}
+
+// Others were selected with it, or are no longer.
+void PanelEditor::follow(SoFieldContainer* node)
+{
+    if (m_panel && node && node == m_panel->node())
+        showNodes();
+}
+
+void PanelEditor::showNodes()
+{
+    auto* node = edited<SoFieldContainer>();
+    const SpxSceneServices* scene = SpxSceneServices::getInstance();
+    const QList<SoFieldContainer*> selected = scene ? scene->getSelectedNodes() : QList<SoFieldContainer*>();
+    if (!selected.isEmpty() && selected.last() == node)
+        m_panel->setNodes({selected.begin(), selected.end()});
+    else
+        m_panel->setNodes(node ? std::vector<SoFieldContainer*>{node} : std::vector<SoFieldContainer*>());
 }
 
 // What is typed belongs to the node that is left.
 void PanelEditor::deactivate()
 {
-    m_later.stop();
     if (m_panel)
-        m_panel->setNode(nullptr);
+        m_panel->setNodes({});
     SpxObjectEditor::deactivate();
 }
 
 void PanelEditor::refresh()
 {
-    if (m_sinceShown.isValid() && m_sinceShown.elapsed() < ShowEveryMs) {
-        if (!m_later.isActive())
-            m_later.start(ShowEveryMs);
-        return;
-    }
-    showChanges();
-}
-
-void PanelEditor::showChanges()
-{
-    m_sinceShown.start();
-    if (m_panel && m_panel->node())
-        m_panel->refresh();
+    if (m_panel)
+        m_panel->refreshSoon();
 }
 
 } // namespace inspector

@@ -3,9 +3,7 @@
 
 #include <scopix/editing/SpxObjectEditor.h>
 
-#include <QElapsedTimer>
 #include <QPointer>
-#include <QTimer>
 
 #include <memory>
 
@@ -16,8 +14,8 @@ namespace inspector
 
 class FieldPanel;
 
-/// The panel of a whole node, whatever its type, for the dock that shows node editors. Shows changes at most
-/// 30 times a second. GUI thread only.
+/// The panel of a whole node, whatever its type, or of all selected nodes, for the dock that shows node
+/// editors. GUI thread only.
 class PanelEditor : public SpxObjectEditor
 {
     Q_OBJECT
@@ -36,14 +34,13 @@ protected:
     void refresh() override;
 
 private:
-    void showChanges();
+    void showNodes();
+    void follow(SoFieldContainer* node);
     void addMenus();
     void removeMenus();
     void filter();
 
     QPointer<FieldPanel> m_panel;
-    QElapsedTimer m_sinceShown;
-    QTimer m_later;
     std::unique_ptr<QAction> m_filterAction;
     std::unique_ptr<QAction> m_degreesAction;
 };

@@ -47,14 +47,46 @@ QSize RowList::sizeHint() const
     return {fontMetrics().averageCharWidth() * NarrowInCharacters, lineHeight() * 12};
 }
 
-void RowList::setNode(const SoFieldContainer* node)
+// False where one of the nodes has no such field.
+bool RowList::addOthers(Item& item, const std::vector<SoFieldContainer*>& nodes)
+{
+    for (std::size_t i = 0; i + 1 < nodes.size(); ++i) {
+        SoField* other = nodes[i]->getField(item.field->getName());
+        if (!other || other->getTypeId() != item.field->getTypeId())
+            return false;
+        item.others.emplace_back(other);
+    }
+    return true;
+}
+
+// Lists of different lengths have nothing but being lists in common.
+int RowList::kindOfAll(const Item& item)
+{
+    const FieldKind kind = kindOf(*item.field.get());
+    const bool isSame =
+        std::all_of(item.others.begin(), item.others.end(),
+                    [kind](const SpxFieldPointer& other) { return !other || kindOf(*other.get()) == kind; });
+    return int(isSame ? kind : FieldKind::List);
+}
+
+bool RowList::isDefault(const Item& item)
+{
+    return item.field->isDefault() &&
+           std::all_of(item.others.begin(), item.others.end(),
+                       [](const SpxFieldPointer& other) { return !other || other->isDefault(); });
+}
+
+void RowList::setNodes(const std::vector<SoFieldContainer*>& nodes)
 {
     for (Item& item : m_items)
         delete item.row;
     m_items.clear();
-    for (SoField* field : node ? fieldsInOrder(*node) : std::vector<SoField*>()) {
+    m_isOfSeveral = nodes.size() > 1;
+    for (SoField* field : nodes.empty() ? std::vector<SoField*>() : fieldsInOrder(*nodes.back())) {
         Item item;
         item.field = field;
+        if (!addOthers(item, nodes))
+            continue;
         const Description* known = findDescription(*field);
         if (known)
             item.heading = QString::fromUtf8(known->heading.data(), int(known->heading.size()));
@@ -67,9 +99,10 @@ void RowList::setNode(const SoFieldContainer* node)
 
 void RowList::describe(Item& item) const
 {
-    item.kind = int(kindOf(*item.field.get()));
-    item.lines = linesOf(*item.field.get());
-    item.isWide = inspector::isWide(*item.field.get());
+    item.kind = kindOfAll(item);
+    const bool isOwnKind = item.kind == int(kindOf(*item.field.get()));
+    item.lines = isOwnKind ? linesOf(*item.field.get()) : 1;
+    item.isWide = isOwnKind && inspector::isWide(*item.field.get());
 }
 
 void RowList::rebuild()
@@ -86,8 +119,7 @@ void RowList::refresh()
     for (Item& item : m_items) {
         if (!item.row || !item.field || !isInView(item))
             continue;
-        if (item.kind !=
-            int(kindOf(*item.field.get()))) { // a list of one value has become longer, or the like
+        if (item.kind != kindOfAll(item)) { // a list of one value has become longer, or the like
             item.row->finish();
             delete item.row;
             describe(item);
@@ -128,7 +160,7 @@ int RowList::getNumShown() const
 bool RowList::passes(const Item& item) const
 {
     const SoField* field = item.field.get();
-    if (!field || (m_onlyChanged && field->isDefault()))
+    if (!field || (m_onlyChanged && isDefault(item)))
         return false;
     if (m_filter.isEmpty())
         return true;
@@ -210,7 +242,7 @@ void RowList::showVisible()
 Row* RowList::rowOf(Item& item)
 {
     if (!item.row && item.field) {
-        item.row = makeRow(item.field.get(), viewport());
+        item.row = makeRow(item.field.get(), item.others, FieldKind(item.kind), viewport());
         connect(item.row, &Row::chosen, this, [this, field = item.field] {
             if (field)
                 emit fieldChosen(field.get());
@@ -319,7 +351,8 @@ void RowList::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
                          int(Qt::AlignTop | Qt::AlignHCenter) | Qt::TextWordWrap,
-                         m_items.empty() ? tr("This node has no fields.")
+                         m_items.empty() ? m_isOfSeveral ? tr("These nodes share no field.")
+                                                         : tr("This node has no fields.")
                                          : tr("No field passes the filter."));
     }
 }

@@ -15,9 +15,9 @@ namespace inspector
 
 class Row;
 
-/// The fields of a node as rows below each other, with headings. A row's widgets are made when it comes into
-/// view, so that a node of many fields opens as fast as one of few. Tab goes through all rows in reading
-/// order. GUI thread only.
+/// The fields of a node, or those that several nodes share, as rows below each other, with headings. A row's
+/// widgets are made when it comes into view, so that a node of many fields opens as fast as one of few. Tab
+/// goes through all rows in reading order. GUI thread only.
 class RowList : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -26,8 +26,9 @@ public:
     explicit RowList(QWidget* parent = nullptr);
     ~RowList() override;
 
-    /// Shows the node's fields, or none for null.
-    void setNode(const SoFieldContainer* node);
+    /// Shows the fields that all of these have by name and type. The last node is the current one, whose
+    /// values and order are shown.
+    void setNodes(const std::vector<SoFieldContainer*>& nodes);
     /// Shows what changed, in the rows that are in view.
     void refresh();
     /// Applies what is typed, and keeps what is dragged.
@@ -55,7 +56,8 @@ protected:
 private:
     struct Item {
         SpxFieldPointer field;
-        QString heading; // above the row; "" for none
+        std::vector<SpxFieldPointer> others; // of the other nodes
+        QString heading;                     // above the row; "" for none
         QPointer<Row> row;
         int kind = 0;
         int lines = 1;
@@ -66,6 +68,9 @@ private:
         int height = 0;
     };
 
+    static bool addOthers(Item& item, const std::vector<SoFieldContainer*>& nodes);
+    static int kindOfAll(const Item& item);
+    static bool isDefault(const Item& item);
     void describe(Item& item) const;
     bool passes(const Item& item) const;
     void filterItems();
@@ -82,6 +87,7 @@ private:
     std::vector<Item> m_items;
     QString m_filter;
     bool m_onlyChanged = false;
+    bool m_isOfSeveral = false;
     int m_contentHeight = 0;
 };
 

@@ -27,8 +27,9 @@ void BoolRow::build()
 void BoolRow::showValue()
 {
     const bool on = static_cast<const SoSFBool*>(field())->getValue();
-    m_box->setChecked(on);
-    m_box->setText(on ? tr("on") : tr("off"));
+    m_box->setTristate(isMixed());
+    m_box->setCheckState(isMixed() ? Qt::PartiallyChecked : on ? Qt::Checked : Qt::Unchecked);
+    m_box->setText(isMixed() ? mixedWord() : on ? tr("on") : tr("off"));
 }
 
 } // namespace inspector

@@ -26,9 +26,9 @@ void EnumRow::build()
     addInput(m_box);
     connect(m_box, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         const int value = m_box->itemData(index).toInt();
-        auto* edited = static_cast<SoSFEnum*>(field());
-        if (edited && edited->getValue() != value)
-            edit([&] { edited->setValue(value); });
+        const auto edited = [this] { return static_cast<SoSFEnum*>(field()); };
+        if (edited() && (isMixed() || edited()->getValue() != value))
+            edit([&] { edited()->setValue(value); });
     });
 }
 
@@ -44,7 +44,8 @@ void EnumRow::showValue()
         m_box->addItem(tr("%1 (no name)").arg(edited.getValue()), edited.getValue());
         index = m_box->count() - 1;
     }
-    m_box->setCurrentIndex(index);
+    m_box->setPlaceholderText(isMixed() ? mixedWord() : QString());
+    m_box->setCurrentIndex(isMixed() ? -1 : index);
 }
 
 bool EnumRow::isBusy() const

@@ -65,7 +65,7 @@ void FileRow::browse()
 
 void FileRow::take(const QString& path)
 {
-    if (path != shownText())
+    if (isMixed() || path != shownText())
         edit([&] { writeText(path); });
 }
 

@@ -47,7 +47,9 @@ void LinkRow::open()
 void LinkRow::showValue()
 {
     const auto* link = dynamic_cast<const SoSFNode*>(field());
-    if (link)
+    if (isMixed())
+        m_text = mixedWord();
+    else if (link)
         m_text = link->getNode() ? nodeLabel(*link->getNode()) : tr("no node");
     else
         m_text = summary(*field());

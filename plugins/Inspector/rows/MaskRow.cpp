@@ -8,6 +8,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <optional>
+
 namespace inspector
 {
 
@@ -38,14 +40,30 @@ void MaskRow::build()
 
 void MaskRow::setBits(int bits, bool on)
 {
-    auto* edited = static_cast<SoSFBitMask*>(field());
-    if (!edited)
-        return;
-    const int before = edited->getValue();
-    const int after = bits == 0 ? 0 : on ? before | bits : before & ~bits;
-    if (after == before)
-        return changedHere();
-    edit([&] { edited->setValue(after); });
+    edit([&] {
+        auto* edited = static_cast<SoSFBitMask*>(field());
+        const int before = edited->getValue();
+        const int after = bits == 0 ? 0 : on ? before | bits : before & ~bits;
+        if (after != before)
+            edited->setValue(after);
+        return after != before;
+    });
+}
+
+// Of all nodes, whether these bits are all set, none, or some.
+Qt::CheckState MaskRow::stateOf(int bits) const
+{
+    std::optional<Qt::CheckState> state;
+    for (const SoField* each : fields()) {
+        const int value = static_cast<const SoSFBitMask*>(each)->getValue();
+        const int set = value & bits;
+        const Qt::CheckState here = bits == 0     ? (value == 0 ? Qt::Checked : Qt::Unchecked)
+                                    : set == bits ? Qt::Checked
+                                    : set != 0    ? Qt::PartiallyChecked
+                                                  : Qt::Unchecked;
+        state = !state || *state == here ? here : Qt::PartiallyChecked;
+    }
+    return state.value_or(Qt::Unchecked);
 }
 
 void MaskRow::showValue()
@@ -57,11 +75,8 @@ void MaskRow::showValue()
     for (int i = 0; i < m_boxes.size() && i < int(table.values.size()); ++i) {
         const int bits = table.values[std::size_t(i)];
         known |= bits;
-        m_boxes[i]->setTristate(bits != 0 && (value & bits) != 0 && (value & bits) != bits);
-        m_boxes[i]->setCheckState(bits == 0                ? (value == 0 ? Qt::Checked : Qt::Unchecked)
-                                  : (value & bits) == bits ? Qt::Checked
-                                  : (value & bits) != 0    ? Qt::PartiallyChecked
-                                                           : Qt::Unchecked);
+        m_boxes[i]->setTristate(stateOf(bits) == Qt::PartiallyChecked);
+        m_boxes[i]->setCheckState(stateOf(bits));
     }
     const int others = value & ~known;
     m_others->setText(others == 0 ? QString() : QStringLiteral("+ 0x") + QString::number(uint(others), 16));

@@ -23,6 +23,7 @@ protected:
 
 private:
     void setBits(int bits, bool on);
+    Qt::CheckState stateOf(int bits) const;
 
     QList<QCheckBox*> m_boxes;
     QLabel* m_others = nullptr;

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -67,6 +68,7 @@ void NumberEdit::showNumber(double number, const QString& text)
 {
     m_number = number;
     m_shown = text;
+    setPlaceholderText(QString());
     setWrong(false);
     if (text == this->text() && !isModified())
         return;
@@ -75,6 +77,12 @@ void NumberEdit::showNumber(double number, const QString& text)
         selectAll();
     else
         setCursorPosition(0);
+}
+
+void NumberEdit::showMixed(double number)
+{
+    showNumber(number, QString());
+    setPlaceholderText(tr("mixed"));
 }
 
 void NumberEdit::finish()
@@ -134,7 +142,21 @@ bool NumberEdit::event(QEvent* event)
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::ToolTip && isCut()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
     return QLineEdit::event(event);
+}
+
+bool NumberEdit::isCut() const
+{
+    const QMargins margins = textMargins();
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
+    return fontMetrics().horizontalAdvance(text()) >
+           inside.width() - margins.left() - margins.right() - 2 * Margin;
 }
 
 void NumberEdit::mousePressEvent(QMouseEvent* event)
@@ -282,22 +304,29 @@ bool NumberEdit::apply()
         refuse(tr("The result is not a number that this field can hold."));
         return false;
     }
-    enter(number);
+    enter(number, [&](double x) {
+        const double result = expression.evaluate(&x);
+        return std::isfinite(result) || isSpecial(text()) ? withinHard(result) : x;
+    });
     if (hasFocus())
         selectAll();
     return true;
 }
 
-void NumberEdit::enter(double number)
+void NumberEdit::enter(double number, std::function<double(double)> result)
 {
     setModified(false);
     setWrong(false);
+    m_result = std::move(result);
     emit entered(withinHard(number));
+    m_result = nullptr;
 }
 
 void NumberEdit::refuse(const QString& sentence)
 {
     setWrong(true);
+    if (m_meaning.isNull())
+        m_meaning = accessibleDescription();
     setAccessibleDescription(sentence);
     if (isVisible())
         QToolTip::showText(mapToGlobal(QPoint(0, height())), sentence, this);
@@ -312,8 +341,11 @@ void NumberEdit::setWrong(bool wrong)
     if (wrong)
         colors.setColor(QPalette::Text, QColor(0xd0, 0x40, 0x30));
     setPalette(colors);
-    if (!wrong)
-        QToolTip::hideText();
+    if (wrong)
+        return;
+    setAccessibleDescription(m_meaning);
+    m_meaning = QString();
+    QToolTip::hideText();
 }
 
 void NumberEdit::step(double digits, Qt::KeyboardModifiers modifiers)
@@ -325,9 +357,14 @@ void NumberEdit::step(double digits, Qt::KeyboardModifiers modifiers)
     const double start = present();
     const bool isAll = hasSelectedText();
     const int cursorFromEnd = text().size() - cursorPosition();
-    const double wanted = (std::isfinite(start) ? start : 0) + digits * amount;
+    const double finiteStart = std::isfinite(start) ? start : 0;
+    const double by = digits * amount;
     // Without what adding decimal fractions leaves in the last bits.
-    enter(withinSoft(QString::number(wanted, 'g', 12).toDouble()));
+    const auto stepped = [](double from, double by) {
+        return QString::number(from + by, 'g', 12).toDouble();
+    };
+    enter(withinSoft(stepped(finiteStart, by)),
+          [&](double x) { return std::isfinite(x) ? within(stepped(x, by), x) : x; });
     if (isAll)
         return selectAll();
     deselect();
@@ -365,12 +402,16 @@ double NumberEdit::perPixel() const
     return m_format.isInteger ? 0.25 : magnitude(m_dragStart) / 50;
 }
 
-// A number that is beyond already may stay there, but goes no further.
 double NumberEdit::withinSoft(double number) const
+{
+    return within(number, isDragging() ? m_dragStart : m_number);
+}
+
+// A number that is beyond already may stay there, but goes no further.
+double NumberEdit::within(double number, double start) const
 {
     if (m_format.softLow == m_format.softHigh)
         return withinHard(number);
-    const double start = isDragging() ? m_dragStart : m_number;
     return std::clamp(number, std::min(m_format.softLow, start), std::max(m_format.softHigh, start));
 }
 

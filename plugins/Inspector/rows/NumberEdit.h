@@ -38,10 +38,18 @@ public:
     /// Shows a number that nobody typed here; drops what is typed.
     void showNumber(double number, const QString& text);
     double number() const { return m_number; }
+    /// Shows that there are several numbers; this is the one that a drag starts from.
+    void showMixed(double number);
+    /// While entered() is emitted: what the same typing or key makes of another present value.
+    double resultFor(double present) const { return m_result ? m_result(present) : present; }
+    /// Within the limits of a drag that started from `start`.
+    double within(double number, double start) const;
     /// Asked for the number that a formula, a key or a drag starts from, which may be newer than what is
     /// shown.
     void setPresent(std::function<double()> present) { m_present = std::move(present); }
 
+    /// The text does not fit: the tool tip then is the text.
+    bool isCut() const;
     bool isDragging() const { return m_drag == Drag::Moves; }
     /// Typed into, or dragged: what is shown is the user's.
     bool isBusy() const { return isDragging() || (isModified() && hasFocus()); }
@@ -81,7 +89,7 @@ private:
 
     double present() const { return m_present ? m_present() : m_number; }
     bool apply();
-    void enter(double number);
+    void enter(double number, std::function<double(double)> result);
     void refuse(const QString& sentence);
     void setWrong(bool wrong);
     void step(double digits, Qt::KeyboardModifiers modifiers);
@@ -95,8 +103,10 @@ private:
 
     NumberFormat m_format;
     double m_number = 0;
+    std::function<double(double)> m_result;
     std::function<double()> m_present;
-    QString m_shown; // for m_number
+    QString m_shown;   // for m_number
+    QString m_meaning; // what the accessible description was before it said what is wrong; null: it is that
     Drag m_drag = Drag::None;
     bool m_isOwnDrag = false;
     QPoint m_pressedAt;

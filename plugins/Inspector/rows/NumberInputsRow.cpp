@@ -7,6 +7,7 @@
 #include <xsg/core/SoField.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace inspector
 {
@@ -19,11 +20,12 @@ NumberEdit* NumberInputsRow::addNumber(const NumberFormat& format, const QString
     number->setFormat(format);
     addInput(number, part);
     number->setPresent([=] { return field() ? shownNumber(which) : 0; });
-    connect(number, &NumberEdit::dragBegan, this, [this] { gesture().begin(field()); });
+    connect(number, &NumberEdit::dragBegan, this, [=] { dragBegan(which); });
     connect(number, &NumberEdit::dragged, this, [=](double value) { dragged(which, value); });
     connect(number, &NumberEdit::dragEnded, this, &NumberInputsRow::dragEnded);
-    connect(number, &NumberEdit::entered, this,
-            [=](double value) { edit([&] { writeNumber(which, value); }); });
+    connect(number, &NumberEdit::entered, this, [=](double value) {
+        edit([&] { writeNumber(which, isOther() ? number->resultFor(shownNumber(which)) : value); });
+    });
     connect(number, &NumberEdit::textEntered, this,
             [=](const QString& text, bool* isTaken) { *isTaken = takeText(text); });
     connect(number, &NumberEdit::givenBack, this, [this] { changedHere(); });
@@ -37,11 +39,30 @@ void NumberInputsRow::finish()
         number->finish();
 }
 
+// By what is shown, so that a number is not called mixed where it looks the same.
+bool NumberInputsRow::isMixedNumber(int which)
+{
+    QString shown;
+    bool isMixed = false;
+    forEachField([&](std::size_t i) {
+        if (i == 0)
+            shown = shownText(which);
+        else
+            isMixed = isMixed || shownText(which) != shown;
+    });
+    return isMixed;
+}
+
 void NumberInputsRow::showValue()
 {
+    const bool isMixed = this->isMixed();
     for (int i = 0; i < m_numbers.size(); ++i) {
         NumberEdit* number = m_numbers[i];
-        if (!number->hasFocus() || !number->isModified())
+        if (number->hasFocus() && number->isModified())
+            continue;
+        if (isMixed && isMixedNumber(i))
+            number->showMixed(shownNumber(i));
+        else
             number->showNumber(shownNumber(i), shownText(i));
     }
 }
@@ -52,9 +73,29 @@ bool NumberInputsRow::isBusy() const
                        [](const NumberEdit* each) { return each->isBusy(); });
 }
 
+void NumberInputsRow::dragBegan(int which)
+{
+    m_starts.clear();
+    forEachField([&](std::size_t i) {
+        m_starts.resize(i + 1);
+        m_starts[i] = shownNumber(which);
+    });
+    beginGesture();
+}
+
+// The others are shifted by as much.
 void NumberInputsRow::dragged(int which, double number)
 {
-    gesture().write([&] { writeNumber(which, number); });
+    gesture().write([&] {
+        forEachField([&](std::size_t i) {
+            const double start = i < m_starts.size() ? m_starts[i] : shownNumber(which);
+            const double by = number - m_starts.front();
+            if (i == 0)
+                writeNumber(which, number);
+            else if (std::isfinite(start + by))
+                writeNumber(which, m_numbers[which]->within(start + by, start));
+        });
+    });
     changedHere();
 }
 

@@ -31,10 +31,13 @@ protected:
     bool isBusy() const override;
 
 private:
+    void dragBegan(int which);
     void dragged(int which, double number);
+    bool isMixedNumber(int which);
     void dragEnded(bool keep);
 
     QList<NumberEdit*> m_numbers;
+    std::vector<double> m_starts; // of a drag: each field's number before
 };
 
 /// A format for one number of a field: the limits of its type and of its description.

@@ -84,13 +84,18 @@ void RotationRow::setForm(RotationForm form)
     showValue();
 }
 
+void RotationRow::updateParts()
+{
+    if (m_hasParts && rotation() == m_made)
+        return;
+    m_parts = partsOf(rotation(), m_form);
+    m_made = rotation();
+    m_hasParts = true;
+}
+
 void RotationRow::showValue()
 {
-    if (!m_hasParts || rotation() != m_made) {
-        m_parts = partsOf(rotation(), m_form);
-        m_made = rotation();
-        m_hasParts = true;
-    }
+    updateParts();
     NumberInputsRow::showValue();
 }
 

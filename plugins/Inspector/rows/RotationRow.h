@@ -25,10 +25,12 @@ protected:
     double shownNumber(int which) const override;
     QString shownText(int which) const override;
     void writeNumber(int which, double number) override;
+    void fieldSwitched() override { updateParts(); }
 
 private:
     void setForm(RotationForm form);
     void placeNumbers();
+    void updateParts();
     bool isAngle(int which) const;
     const SbRotation& rotation() const;
 

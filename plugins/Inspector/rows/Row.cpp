@@ -2,11 +2,15 @@
 #include "rows/Row.h"
 
 #include "fields/FieldText.h"
+#include "fields/PastedText.h"
+#include "fields/ToolTip.h"
 #include "rows/Caption.h"
 #include "rows/ConnectDialog.h"
 #include "rows/Mark.h"
 #include "rows/NumberEdit.h"
+#include "rows/RowMenu.h"
 
+#include <scopix/editing/SpxFieldEdit.h>
 #include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
@@ -44,11 +48,6 @@ qint64 steadyMs()
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
 }
 
-QString number(double value)
-{
-    return SpxText::ofNumber(float(value));
-}
-
 } // namespace
 
 Row::Row(SoField* field)
@@ -69,6 +68,8 @@ void Row::buildFrame()
 {
     setObjectName(QStringLiteral("row"));
     setAccessibleName(fieldName() + QStringLiteral(", ") + typeText());
+    m_meaning = spokenMeaningOf(*field(), m_description);
+    setAccessibleDescription(m_meaning);
     m_mark = new Mark(this);
     m_mark->setAccessibleName(tr("State of %1").arg(fieldName()));
     connect(m_mark, &QToolButton::clicked, this,
@@ -95,7 +96,7 @@ QBoxLayout* Row::editorLayout()
 void Row::addInput(QWidget* input, const QString& part)
 {
     input->setAccessibleName(part.isEmpty() ? fieldName() : fieldName() + QLatin1Char(' ') + part);
-    input->setAccessibleDescription(typeText());
+    input->setAccessibleDescription(m_meaning);
     input->installEventFilter(this);
     m_inputs += input;
 }
@@ -158,31 +159,56 @@ QString Row::searchText() const
 
 QString Row::toolTipText() const
 {
-    QString text = QStringLiteral("<b>%1</b> (%2)").arg(fieldName(), typeText());
-    if (m_description) {
-        text += QStringLiteral("<br>") + QString::fromUtf8(m_description->meaning.data()).toHtmlEscaped();
-        if (!m_description->unit.empty())
-            text +=
-                QStringLiteral("<br>") + tr("Unit: %1").arg(QString::fromUtf8(m_description->unit.data()));
-        else if (m_description->quantity == SpxQuantity::Angle)
-            text += QStringLiteral("<br>") + tr("Unit: radians are stored");
-        if (m_description->softLow != m_description->softHigh)
-            text +=
-                QStringLiteral("<br>") +
-                tr("Range: %1 to %2").arg(number(m_description->softLow), number(m_description->softHigh));
+    return toolTipOf(*field(), m_description);
+}
+
+std::vector<SoField*> Row::fields() const
+{
+    std::vector<SoField*> all;
+    if (field())
+        all.push_back(field());
+    for (const SpxFieldPointer& other : m_others) {
+        if (other && other.get() != field())
+            all.push_back(other.get());
     }
-    const SpxFreshDefault fresh(field());
-    if (fresh.get())
-        text += QStringLiteral("<br>") + tr("Default: %1").arg(summary(*fresh.get()).toHtmlEscaped());
-    return text;
+    return all;
+}
+
+bool Row::isMixed() const
+{
+    return std::any_of(m_others.begin(), m_others.end(), [this](const SpxFieldPointer& other) {
+        return other && field() && !other->isSame(*field());
+    });
+}
+
+bool Row::isAny(bool (SoField::*is)() const) const
+{
+    const std::vector<SoField*> all = fields();
+    return std::any_of(all.begin(), all.end(), [is](const SoField* each) { return (each->*is)(); });
+}
+
+bool Row::areAllDefault() const
+{
+    const std::vector<SoField*> all = fields();
+    return std::all_of(all.begin(), all.end(), [](const SoField* each) { return each->isDefault(); });
+}
+
+// Of all together: it differs after a change of any.
+quint32 Row::changeCount() const
+{
+    quint32 sum = 0;
+    for (const SoField* each : fields()) {
+        each->evaluate();
+        sum += each->getChangeCount();
+    }
+    return sum;
 }
 
 void Row::refresh()
 {
     if (!field())
         return;
-    field()->evaluate();
-    const quint32 change = field()->getChangeCount();
+    const quint32 change = changeCount();
     if (!m_isShown || change != m_shownChange) {
         if (m_isShown)
             noteChange(change);
@@ -210,7 +236,7 @@ void Row::changedHere()
 {
     if (!field())
         return;
-    m_shownChange = field()->getChangeCount();
+    m_shownChange = changeCount();
     m_hasConflict = false;
     m_changesInARow = 0;
     showValue();
@@ -221,20 +247,21 @@ void Row::showMark()
 {
     using State = Mark::State;
     const SoField* source = field()->getConnectedField();
+    const bool isChanged = !areAllDefault();
     const bool isAnimated = m_changesInARow >= AnimatedAfter && steadyMs() - m_lastChange < 2 * SoonAfterMs;
     if (m_hasConflict)
         m_mark->setState(State::Conflict, tr("Changed elsewhere meanwhile: take that value, or keep yours."));
     else if (source)
         m_mark->setState(State::Connected, tr("Follows %1.").arg(pathOf(*source)));
-    else if (field()->isIgnored())
+    else if (isAny(&SoField::isIgnored))
         m_mark->setState(State::Ignored, tr("Ignored: takes no part."));
     else if (isAnimated)
         m_mark->setState(State::Animated, tr("Changes by itself."));
-    else if (!field()->isDefault())
+    else if (isChanged)
         m_mark->setState(State::Changed, tr("Changed: not the default."));
     else
         m_mark->setState(State::Default, tr("The default."));
-    m_caption->setStrong(!field()->isDefault());
+    m_caption->setStrong(isChanged);
     m_editor->setEnabled(true);
 }
 
@@ -265,33 +292,33 @@ void Row::showMenu(const QPoint& where)
     addStateEntries(*menu);
     menu->addSeparator();
     addTextEntries(*menu);
+    addEntriesBeyond(*menu, m_field, *this);
     menu->popup(where);
 }
 
 void Row::addStateEntries(QMenu& menu)
 {
-    const SpxFieldPointer edited = m_field;
     if (m_hasConflict) {
         menu.addAction(tr("&Take the New Value"), this, &Row::takeTheirs);
         menu.addAction(tr("&Keep Mine"), this, &Row::keepMine);
         menu.addSeparator();
     }
-    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!field()->isDefault());
+    menu.addAction(tr("&Reset to Default"), this, &Row::reset)->setEnabled(!areAllDefault());
     QAction* ignore = menu.addAction(tr("&Ignore"));
     ignore->setCheckable(true);
     ignore->setChecked(field()->isIgnored());
-    connect(ignore, &QAction::triggered, this, [this, edited](bool ignored) {
-        if (edited)
-            SpxFieldEdit::setIgnored(edited.get(), ignored);
+    connect(ignore, &QAction::triggered, this, [this](bool ignored) {
+        for (SoField* each : fields())
+            SpxFieldEdit::setIgnored(each, ignored);
         changedHere();
     });
     menu.addAction(tr("C&onnect to a Field…"), this, &Row::connectField);
-    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this, edited] {
-        if (edited)
-            SpxFieldEdit::setSource(edited.get(), nullptr);
+    QAction* disconnect = menu.addAction(tr("&Disconnect"), this, [this] {
+        for (SoField* each : fields())
+            SpxFieldEdit::setSource(each, nullptr);
         changedHere();
     });
-    disconnect->setEnabled(field()->isConnected());
+    disconnect->setEnabled(isAny(&SoField::isConnected));
 }
 
 void Row::addTextEntries(QMenu& menu)
@@ -319,24 +346,33 @@ void Row::connectField()
     const QPointer<Row> self(this); // the row may go while the dialog is open
     const SpxFieldPointer edited = m_field;
     ConnectDialog dialog(*edited.get(), window());
-    if (dialog.exec() == QDialog::Accepted && edited && dialog.chosen())
-        SpxFieldEdit::setSource(edited.get(), dialog.chosen());
-    if (self)
-        changedHere();
+    const bool isChosen = dialog.exec() == QDialog::Accepted && edited && dialog.chosen();
+    if (!self)
+        return;
+    for (SoField* each : isChosen ? fields() : std::vector<SoField*>()) {
+        if (each != dialog.chosen())
+            SpxFieldEdit::setSource(each, dialog.chosen());
+    }
+    changedHere();
 }
 
 void Row::reset()
 {
     if (!field())
         return;
-    SpxFieldEdit::setToDefault(field());
-    changedHere();
+    edit([&] {
+        const SpxFreshDefault fresh(field());
+        const bool isWritten = fresh.get() && field()->copyFrom(*fresh.get());
+        if (isWritten)
+            field()->setDefault(true);
+        return isWritten;
+    });
 }
 
 void Row::copyValue() const
 {
     if (field())
-        QApplication::clipboard()->setText(SpxText::ofField(*field()));
+        QApplication::clipboard()->setText(plainText(*field()));
 }
 
 void Row::pasteValue()
@@ -344,7 +380,10 @@ void Row::pasteValue()
     const QString text = QApplication::clipboard()->text().trimmed();
     if (!field() || text.isEmpty())
         return;
-    if (!SpxFieldEdit::setText(field(), text))
+    bool isPasted = true;
+    for (SoField* each : fields())
+        isPasted = pasteText(each, text) && isPasted;
+    if (!isPasted)
         QToolTip::showText(
             mapToGlobal(QPoint(0, height())),
             tr("“%1” cannot be pasted: it is no value for %2.").arg(text.left(40), fieldName()), this);
@@ -356,6 +395,12 @@ bool Row::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && field())
         setToolTip(toolTipText());
+    // The row's own node, which need not be the selected one.
+    const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1) {
+        event->accept();
+        return event->type() == QEvent::ShortcutOverride || showHelpFor(m_field);
+    }
     return QWidget::event(event);
 }
 

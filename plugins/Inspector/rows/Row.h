@@ -2,11 +2,14 @@
 #pragma once
 
 #include "fields/Description.h"
+#include "rows/FieldGroup.h"
 
-#include <scopix/editing/SpxFieldGesture.h>
 #include <scopix/editing/SpxFieldPointer.h>
 
+#include <QScopedValueRollback>
 #include <QWidget>
+
+#include <vector>
 
 class QBoxLayout;
 class QMenu;
@@ -14,13 +17,18 @@ class QMenu;
 namespace inspector
 {
 
+enum class FieldKind;
+
 class Caption;
 class Mark;
 class NumberEdit;
 
 /// One field of the panel: a mark that says what is special about it, its name, and its value, editable in
 /// place. One derived class for each kind of value builds the inputs and shows the value in them. A row
-/// writes nothing but what the user does. Shows nothing once its field is destroyed. GUI thread only.
+/// writes nothing but what the user does. Shows nothing once its field is destroyed.
+///
+/// A row may stand for the same field of several nodes: it shows the one of the current node, or that they
+/// differ, and what the user does to it is done to all, as one step. GUI thread only.
 class Row : public QWidget
 {
     Q_OBJECT
@@ -29,6 +37,10 @@ public:
     /// The field's value may have changed, or its flags.
     void refresh();
     SoField* field() const { return m_field.get(); }
+    /// The field and those of the other nodes, as far as they are alive; the current one first.
+    std::vector<SoField*> fields() const;
+    /// The fields differ in their values.
+    bool isMixed() const;
     /// What is typed is applied, and what is dragged is kept.
     virtual void finish() {}
 
@@ -67,11 +79,42 @@ protected:
     {
         if (!field())
             return;
-        SpxFieldEdit::write(field(), write);
+        FieldGroupEdit group;
+        forEachField([&](std::size_t) { group.write(field(), write); });
+        group.record();
         changedHere();
     }
+    /// Calls `act(number)` once for each of the fields, the current one, 0, first; field() is that one
+    /// meanwhile.
+    template <class Act>
+    void forEachField(Act&& act)
+    {
+        if (field())
+            act(std::size_t(0));
+        if (m_others.empty())
+            return;
+        const SpxFieldPointer current = m_field;
+        {
+            const QScopedValueRollback<bool> isOther(m_isOther, true);
+            for (std::size_t i = 0; i < m_others.size(); ++i) {
+                m_field = m_others[i];
+                if (!field())
+                    continue;
+                fieldSwitched();
+                act(i + 1);
+            }
+        }
+        m_field = current;
+        if (field())
+            fieldSwitched();
+    }
+    bool isOther() const { return m_isOther; }
+    /// field() is another one: what the row keeps of the value is no longer right.
+    virtual void fieldSwitched() {}
     void changedHere();
-    SpxFieldGesture& gesture() { return m_gesture; }
+    void beginGesture() { m_gesture.begin(fields()); }
+    FieldGroupGesture& gesture() { return m_gesture; }
+    static QString mixedWord() { return tr("mixed"); }
     const Description* description() const { return m_description; }
     QString fieldName() const;
 
@@ -82,7 +125,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    friend Row* makeRow(SoField* field, QWidget* parent);
+    friend Row* makeRow(SoField* field, std::vector<SpxFieldPointer> others, FieldKind kind, QWidget* parent);
+    quint32 changeCount() const;
+    bool isAny(bool (SoField::*is)() const) const;
+    bool areAllDefault() const;
     void start();
     void buildFrame();
     void showMark();
@@ -99,7 +145,10 @@ private:
 
     SpxFieldPointer m_field;
     const Description* m_description;
-    SpxFieldGesture m_gesture;
+    QString m_meaning;                     // as it is read out
+    std::vector<SpxFieldPointer> m_others; // of the other nodes
+    bool m_isOther = false;                // m_field is one of them at the moment
+    FieldGroupGesture m_gesture;
     Mark* m_mark = nullptr;
     Caption* m_caption = nullptr;
     QWidget* m_editor = nullptr;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "rows/RowFactory.h"
 
-#include "fields/FieldKind.h"
 #include "rows/BoolRow.h"
 #include "rows/ColorRow.h"
 #include "rows/EnumRow.h"
@@ -19,9 +18,9 @@ namespace inspector
 namespace
 {
 
-Row* newRow(SoField* field)
+Row* newRow(SoField* field, FieldKind kind)
 {
-    switch (kindOf(*field)) {
+    switch (kind) {
     case FieldKind::Numbers:
         return new NumbersRow(field);
     case FieldKind::Color:
@@ -50,9 +49,10 @@ Row* newRow(SoField* field)
 
 } // namespace
 
-Row* makeRow(SoField* field, QWidget* parent)
+Row* makeRow(SoField* field, std::vector<SpxFieldPointer> others, FieldKind kind, QWidget* parent)
 {
-    Row* row = newRow(field);
+    Row* row = newRow(field, kind);
+    row->m_others = std::move(others);
     row->setParent(parent);
     row->start();
     return row;

@@ -1,49 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "rows/TextRow.h"
 
+#include "rows/TextEdit.h"
+
 #include <scopix/editing/SpxText.h>
 #include <xsg/fields/SoSFName.h>
 #include <xsg/fields/SoSFString.h>
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QToolTip>
-
-#include <functional>
 
 namespace inspector
 {
-
-namespace
-{
-
-// Esc gives back what was there, whatever else it is for elsewhere.
-class TextEdit : public QLineEdit
-{
-public:
-    explicit TextEdit(std::function<void()> giveBack)
-        : m_giveBack(std::move(giveBack))
-    {
-    }
-
-protected:
-    bool event(QEvent* event) override
-    {
-        const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-        if (!isKey || !isModified() || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-            return QLineEdit::event(event);
-        if (event->type() == QEvent::KeyPress)
-            m_giveBack();
-        event->accept();
-        return true;
-    }
-
-private:
-    std::function<void()> m_giveBack;
-};
-
-} // namespace
 
 TextRow::TextRow(SoField* field)
     : Row(field)
@@ -92,7 +60,8 @@ void TextRow::showValue()
 {
     if (m_line->hasFocus() && m_line->isModified())
         return;
-    QString text = shownText();
+    QString text = isMixed() ? QString() : shownText();
+    m_line->setPlaceholderText(isMixed() ? mixedWord() : QString());
     const bool hasLines = isPlain() && text.contains(QLatin1Char('\n'));
     text.replace(QLatin1Char('\n'), QChar(0x23CE));
     m_line->setReadOnly(hasLines);
@@ -122,7 +91,11 @@ void TextRow::apply()
     const QString text = m_line->text();
     m_line->setModified(false);
     bool isValue = true;
-    edit([&] { return isValue = writeText(text); });
+    edit([&] {
+        const bool isWritten = writeText(text);
+        isValue = isValue && isWritten;
+        return isWritten;
+    });
     if (!isValue && isVisible())
         QToolTip::showText(m_line->mapToGlobal(QPoint(0, m_line->height())),
                            tr("“%1” is no value for %2.").arg(text.left(40), fieldName()), m_line);

@@ -18,6 +18,8 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QLabel>
+#include <QToolButton>
 
 namespace
 {
@@ -45,6 +47,24 @@ protected:
 
     int steps() { return session.stack().count(); }
     QString undoText() { return session.stack().undoText(); }
+    void chooseForm(const char* field, int form)
+    {
+        auto* forms = session.in<QComboBox>(field, "form");
+        forms->setFocus();
+        QTest::keyClick(forms, Qt::Key_Home);
+        for (int i = 0; i < form; ++i)
+            QTest::keyClick(forms, Qt::Key_Down);
+        session.settle();
+    }
+    void chooseColorForm(const char* field, int form)
+    {
+        session.click(session.in<QToolButton>(field, "form"));
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        menu->setActiveAction(menu->actions()[form]);
+        QTest::keyClick(menu, Qt::Key_Return);
+        session.settle();
+    }
 
     InspectorSession session;
     SoMaterial& material = *session.material;
@@ -490,6 +510,164 @@ TEST_F(Panel, AMatrixIsAGrid)
     session.enter(session.number("matrix", 12), "2.5");
     EXPECT_EQ(transform->matrix.getValue()[3][0], 2.5F);
     EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, AMatrixIsMovedTurnedAndScaledAndTheRestKeepsItsBits)
+{
+    const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
+    const SbMatrix before = SbMatrix::scale({2, 3, Exact}) *
+                            SbMatrix::rotation(SbRotation(SbVec3f(0, 0, 1), 0.5F)) *
+                            SbMatrix::translation({1, Exact, 3});
+    transform->matrix.setValue(before);
+    session.selectNode(transform.get());
+    chooseForm("matrix", 1);
+    EXPECT_EQ(steps(), 0);
+    EXPECT_EQ(session.number("matrix", 17)->text(), "0.1123456");
+    EXPECT_EQ(session.number("matrix", 21)->text(), QString::fromUtf8("28.6479°"));
+    EXPECT_NEAR(session.number("matrix", 23)->text().toDouble(), 3, 1e-5);
+
+    session.enter(session.number("matrix", 16), "7");
+    SbMatrix expected = before;
+    expected[3][0] = 7;
+    EXPECT_EQ(transform->matrix.getValue(), expected);
+    session.enter(session.number("matrix", 23), "6");
+    for (int row : {0, 2, 3}) {
+        for (int column = 0; column < 4; ++column)
+            EXPECT_EQ(transform->matrix.getValue()[row][column], expected[row][column]);
+    }
+    EXPECT_NEAR(transform->matrix.getValue()[1][1], 2 * before[1][1], 1e-5);
+    session.enter(session.number("matrix", 21), "90");
+    EXPECT_NEAR(transform->matrix.getValue()[0][1], 2, 1e-5);
+    EXPECT_EQ(transform->matrix.getValue()[0][0], 0.F);
+    EXPECT_EQ(steps(), 3);
+    for (int i = 0; i < 3; ++i)
+        session.undo();
+    EXPECT_EQ(transform->matrix.getValue(), before);
+}
+
+TEST_F(Panel, AScaleOf0KeepsTheTurn)
+{
+    const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
+    session.selectNode(transform.get());
+    chooseForm("matrix", 1);
+    session.enter(session.number("matrix", 21), "30");
+    const SbMatrix turned = transform->matrix.getValue();
+    for (int axis : {22, 23, 24})
+        session.enter(session.number("matrix", axis), "0");
+    EXPECT_EQ(session.number("matrix", 21)->text(), QString::fromUtf8("30°"));
+    for (int axis : {22, 23, 24})
+        session.enter(session.number("matrix", axis), "1");
+    for (int i = 0; i < 16; ++i)
+        EXPECT_NEAR(transform->matrix.getValue().getValue()[i], turned.getValue()[i], 1e-6) << i;
+}
+
+TEST_F(Panel, AShearedMatrixStaysAGridAndSaysWhy)
+{
+    const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
+    session.selectNode(transform.get());
+    chooseForm("matrix", 1);
+    EXPECT_FALSE(session.number("matrix", 0)->isVisible());
+    const std::pair<int, const char*> cases[] = {{1, "sheared"}, {0, "flat"}, {3, "perspective"}};
+    for (const auto& [element, word] : cases) {
+        SbMatrix matrix;
+        matrix[0][element] = element == 0 ? 0.F : 0.5F;
+        transform->matrix.setValue(matrix);
+        auto* note = session.in<QLabel>("matrix", "note");
+        EXPECT_TRUE(session.comesTrue([&] { return note->text() == word; })) << word;
+        EXPECT_TRUE(session.number("matrix", 0)->isVisible());
+        EXPECT_TRUE(note->toolTip().endsWith("cannot be shown as moving, turning and scaling."));
+    }
+    transform->matrix.setValue(SbMatrix());
+    EXPECT_TRUE(session.comesTrue([&] { return session.number("matrix", 16)->isVisible(); }));
+    session.selectNode(&material);
+    session.selectNode(transform.get());
+    EXPECT_TRUE(session.number("matrix", 16)->isVisible()) << "the form is kept";
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Panel, AColourIsEditedAsHsvAndChannelsThatComeOutTheSameKeepTheirBits)
+{
+    material.specularColor.setValue(SbColor(Exact, 0.5F, 0.25F));
+    session.settle();
+    chooseColorForm("specularColor", 1);
+    EXPECT_EQ(session.number("specularColor", 2)->text(), "0.5");
+    session.enter(session.number("specularColor", 2), "1");
+    EXPECT_FLOAT_EQ(material.specularColor.getValue()[0], 2 * Exact);
+    EXPECT_FLOAT_EQ(material.specularColor.getValue()[1], 1);
+    session.undo();
+    EXPECT_TRUE(session.comesTrue([&] { return session.number("specularColor", 2)->text() == "0.5"; }));
+    session.enter(session.number("specularColor"), "+= 5");
+    EXPECT_EQ(material.specularColor.getValue()[0], Exact) << "the hue changes the middle channel only";
+    EXPECT_EQ(material.specularColor.getValue()[1], 0.5F);
+    EXPECT_NE(material.specularColor.getValue()[2], 0.25F);
+    EXPECT_EQ(steps(), 1);
+}
+
+TEST_F(Panel, AHueOutlastsAGrey)
+{
+    material.specularColor.setValue(SbColor(0, 0, 1));
+    session.settle();
+    chooseColorForm("specularColor", 1);
+    session.enter(session.number("specularColor", 1), "0");
+    EXPECT_EQ(material.specularColor.getValue(), SbColor(1, 1, 1));
+    EXPECT_EQ(session.number("specularColor")->text(), QString::fromUtf8("240°"));
+    session.enter(session.number("specularColor", 1), "1");
+    EXPECT_EQ(material.specularColor.getValue(), SbColor(0, 0, 1));
+}
+
+TEST_F(Panel, AColourIsTypedAsTextOrLinearLightAndSaysWhich)
+{
+    chooseColorForm("specularColor", 2);
+    auto* hex = session.in<QLineEdit>("specularColor", "hex");
+    EXPECT_FALSE(session.number("specularColor")->isVisible());
+    session.enter(hex, "#ff8000");
+    EXPECT_FLOAT_EQ(material.specularColor.getValue()[1], 128 / 255.F);
+    session.enter(hex, "nonsense");
+    EXPECT_EQ(hex->text(), "#ff8000");
+    session.type(hex, "#00");
+    QTest::keyClick(hex, Qt::Key_Escape);
+    EXPECT_EQ(hex->text(), "#ff8000");
+    EXPECT_EQ(steps(), 1);
+    chooseColorForm("specularColor", 3);
+    EXPECT_EQ(session.number("specularColor", 1)->text(), "0.2159");
+    EXPECT_TRUE(session.number("specularColor")->accessibleDescription().startsWith("Linear"));
+    session.enter(session.number("specularColor", 2), "0.5");
+    EXPECT_NEAR(material.specularColor.getValue()[2], 0.7354, 1e-4);
+    EXPECT_EQ(material.specularColor.getValue()[0], 1.F);
+}
+
+TEST_F(Panel, ThePickerOfAMaterialsColourHasItsTransparency)
+{
+    material.transparency.setValue(Exact);
+    session.settle();
+    const auto open = [&] {
+        session.click(session.in<QPushButton>("diffuseColor", "swatch"));
+        return qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+    };
+    QColorDialog* picker = open();
+    ASSERT_TRUE(picker);
+    QColor color = picker->currentColor();
+    EXPECT_NEAR(color.alphaF(), 1 - Exact, 0.5 / 255);
+    color.setRedF(1);
+    picker->setCurrentColor(color);
+    EXPECT_EQ(material.transparency.getValue(), Exact) << "not touched";
+    color.setAlphaF(0.25);
+    picker->setCurrentColor(color);
+    EXPECT_NEAR(material.transparency.getValue(), 0.75, 0.5 / 255);
+    picker->reject();
+    session.settle();
+    EXPECT_EQ(material.transparency.getValue(), Exact);
+    EXPECT_EQ(steps(), 0);
+    picker = open();
+    ASSERT_TRUE(picker);
+    picker->setCurrentColor(color);
+    picker->accept();
+    session.settle();
+    EXPECT_EQ(material.diffuseColor[0][0], 1.F);
+    EXPECT_EQ(steps(), 1);
+    session.undo();
+    EXPECT_EQ(material.transparency.getValue(), Exact);
+    EXPECT_NE(material.diffuseColor[0][0], 1.F);
 }
 
 TEST_F(Panel, AFileIsTypedOrDropped)

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "structure/BranchText.h"
+
+#include <xsg/files/SceneReader.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/groups/SoGroup.h>
+
+#include <QCoreApplication>
+
+namespace scopix
+{
+
+namespace
+{
+
+// A text editor leaves it, where a data type of the clipboard's own would be lost.
+constexpr std::string_view GroupNote = "# The group around these nodes is left out when they are pasted.\n";
+constexpr std::string_view Whitespace = " \t\r\n";
+
+std::string firstLine()
+{
+    return std::string(SoSceneFile::FirstLine) + "\n";
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto start = text.find_first_not_of(Whitespace);
+    return start == std::string_view::npos ? std::string_view() : text.substr(start);
+}
+
+bool beginsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+
+bool isInGroup(std::string_view text)
+{
+    return beginsWith(trimmed(text.substr(std::min(text.size(), SoSceneFile::FirstLine.size()))), GroupNote);
+}
+
+std::vector<SoRef<SoNode>> takeChildren(SoNode& wrapper)
+{
+    std::vector<SoRef<SoNode>> nodes;
+    SoGroup* group = wrapper.asGroup();
+    if (!group)
+        return {&wrapper};
+    for (SoNode* child : group->getChildren())
+        nodes.emplace_back(child);
+    group->removeAllChildren();
+    return nodes;
+}
+
+} // namespace
+
+std::string writeBranches(const std::vector<SoNode*>& nodes)
+{
+    if (nodes.size() == 1)
+        return SoSceneFile::writeText(nodes.front());
+    const SoRef<SoGroup> group(new SoGroup);
+    for (SoNode* node : nodes)
+        group->addChild(node);
+    std::string text = SoSceneFile::writeText(group.get());
+    return text.insert(firstLine().size(), GroupNote);
+}
+
+BranchReading readBranches(std::string_view given)
+{
+    const std::string_view start = trimmed(given);
+    if (start.empty())
+        return {{}, QCoreApplication::translate("Structure", "There is no text to paste.")};
+    const bool isFile = beginsWith(start, "#Xsg");
+    const std::string text =
+        isFile ? std::string(start)
+               : firstLine() + std::string(GroupNote) + "Group {\n" + std::string(start) + "\n}\n";
+    xsg::SceneReader reader(text);
+    const SoRef<SoNode> root = reader.read();
+    if (!root)
+        return {{},
+                QCoreApplication::translate("Structure", "The text holds no nodes that can be pasted: %1")
+                    .arg(QString::fromStdString(reader.getProblem()))};
+    std::vector<SoRef<SoNode>> nodes;
+    if (isInGroup(text))
+        nodes = takeChildren(*root);
+    else
+        nodes.push_back(root);
+    if (nodes.empty())
+        return {{}, QCoreApplication::translate("Structure", "There are no nodes in the text to paste.")};
+    return {std::move(nodes), {}};
+}
+
+} // namespace scopix

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Branches of a scene as text, for the clipboard and for text editors.
+#pragma once
+
+#include <xsg/nodes/base/SoNode.h>
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace scopix
+{
+
+/// A scene file that holds these nodes; where they are several, in a group that readBranches() leaves out.
+/// What two of them share, and connections between them, is kept.
+std::string writeBranches(const std::vector<SoNode*>& nodes);
+
+struct BranchReading {
+    std::vector<SoRef<SoNode>> nodes; // none: it cannot be read
+    QString error;                    // one sentence then
+};
+/// Reads such text, any scene file, or nodes as they stand inside of one.
+BranchReading readBranches(std::string_view text);
+
+} // namespace scopix

@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: MIT
+#include "window/NodeEditing.h"
+
+#include "document/SceneDocument.h"
+#include "document/TexturePaths.h"
+#include "panels/BranchMimeData.h"
+#include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
+#include "structure/BranchText.h"
+#include "structure/SceneStates.h"
+#include "support/UserNotifier.h"
+#include "text/NodeText.h"
+
+#include <scopix/SpxEditedFields.h>
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace scopix
+{
+
+namespace
+{
+
+// Tells that the clipboard still holds what this window has put there.
+QString keyType()
+{
+    return QStringLiteral("application/x-scopix-copy");
+}
+
+// Where relative names of pictures in the text start.
+QString folderType()
+{
+    return QStringLiteral("application/x-scopix-folder");
+}
+
+std::vector<SoNode*> tailsOf(const Paths& paths)
+{
+    std::vector<SoNode*> nodes;
+    for (const SoPath& path : paths)
+        nodes.push_back(path.getTail());
+    return nodes;
+}
+
+std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
+{
+    return {nodes.begin(), nodes.end()};
+}
+
+} // namespace
+
+NodeEditing::NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree,
+                         SceneStates& states, UserNotifier& notifier, QObject* parent)
+    : QObject(parent)
+    , m_services(services)
+    , m_document(document)
+    , m_tree(tree)
+    , m_states(states)
+    , m_notifier(notifier)
+{
+    connect(&m_document, &SceneDocument::rootChanged, this, [this] { m_copied.clear(); });
+    m_services.history().setLock(
+        [this](const SoFieldContainer& container) { return m_states.refusalOf(container); });
+    connect(&m_services.history(), &UndoHistory::refused, &m_notifier, &UserNotifier::info);
+    connect(&m_tree, &SceneTreeView::nameEntered, this, &NodeEditing::rename);
+    connect(&m_tree, &SceneTreeView::dropped, this, &NodeEditing::drop);
+}
+
+NodeEditing::~NodeEditing()
+{
+    m_services.history().setLock({});
+}
+
+void NodeEditing::tell(const QString& sentence)
+{
+    if (!sentence.isEmpty())
+        m_notifier.info(sentence);
+}
+
+void NodeEditing::tellNothingSelected()
+{
+    tell(tr("No node is selected: select one in the tree or in the view first."));
+}
+
+bool NodeEditing::perform(structure::Act act)
+{
+    const QString lock = act.command ? m_states.refusalOf(*act.command) : QString();
+    if (!act.command || !lock.isEmpty()) {
+        tell(act.command ? lock : act.refusal);
+        return false;
+    }
+    m_services.executeCommand(act.command.release(), act.name);
+    showAfter(act.selection);
+    return true;
+}
+
+void NodeEditing::showAfter(const Paths& selection)
+{
+    m_tree.getModel().followNow();
+    if (!selection.isEmpty())
+        m_services.selectPaths(selection);
+}
+
+Paths NodeEditing::selected() const
+{
+    return m_services.getSelectedPaths();
+}
+
+std::vector<SoNode*> NodeEditing::selectedNodes() const
+{
+    return tailsOf(selected());
+}
+
+SoPath NodeEditing::placeForNew() const
+{
+    const Paths paths = selected();
+    if (!paths.isEmpty())
+        return paths.last();
+    SoPath path;
+    if (SoNode* root = m_document.getRoot())
+        path.append(root);
+    return path;
+}
+
+void NodeEditing::remove()
+{
+    perform(structure::remove(selected()));
+}
+
+void NodeEditing::duplicate()
+{
+    perform(structure::duplicate(selected()));
+}
+
+void NodeEditing::group()
+{
+    perform(structure::group(selected(), makerOf(SoGroup::getClassTypeId())));
+}
+
+void NodeEditing::ungroup()
+{
+    perform(structure::ungroup(selected()));
+}
+
+void NodeEditing::makeUnique()
+{
+    perform(structure::makeUnique(selected()));
+}
+
+void NodeEditing::reorder(int by)
+{
+    perform(structure::reorder(selected(), by));
+}
+
+void NodeEditing::moveOut()
+{
+    perform(structure::moveOut(selected()));
+}
+
+void NodeEditing::moveIn()
+{
+    perform(structure::moveIn(selected()));
+}
+
+structure::MakeNode NodeEditing::makerOf(SoType type) const
+{
+    return [this, make = structure::makeOfType(type)] {
+        SoRef<SoNode> node = make();
+        m_services.applyUserDefaults(*node);
+        return node;
+    };
+}
+
+void NodeEditing::add(SoType type)
+{
+    insert({makerOf(type)()}, tr("Add %1").arg(toQString(type.getName())));
+}
+
+void NodeEditing::insert(const std::vector<SoRef<SoNode>>& nodes, const QString& stepName)
+{
+    perform(structure::add(placeForNew(), nodes, stepName));
+}
+
+void NodeEditing::insertAbove(SoType type)
+{
+    perform(structure::insertAbove(selected(), makerOf(type)));
+}
+
+void NodeEditing::rename(const SoPath& path, const QString& name)
+{
+    perform(structure::rename(path, name));
+}
+
+// --- Clipboard
+
+bool NodeEditing::putOnClipboard()
+{
+    const Paths paths = selected();
+    m_copied = paths.isEmpty() ? paths : topmost(paths, paths.front().getHead());
+    if (m_copied.isEmpty()) {
+        tellNothingSelected();
+        return false;
+    }
+    m_copiedKey = QUuid::createUuid().toByteArray();
+    auto* data = new QMimeData;
+    data->setText(QString::fromStdString(writeBranches(tailsOf(m_copied))));
+    data->setData(keyType(), m_copiedKey);
+    data->setData(folderType(), QFileInfo(m_document.getPath()).absolutePath().toUtf8());
+    QGuiApplication::clipboard()->setMimeData(data);
+    return true;
+}
+
+void NodeEditing::copy()
+{
+    if (putOnClipboard())
+        tell(tr("%n node(s) copied.", nullptr, m_copied.size()));
+}
+
+void NodeEditing::cut()
+{
+    structure::Act act = structure::remove(selected());
+    if (act.command && putOnClipboard()) {
+        act.name.replace(tr("Delete"), tr("Cut"));
+        perform(std::move(act));
+    } else {
+        tell(act.refusal);
+    }
+}
+
+std::vector<SoRef<SoNode>> NodeEditing::readText(const QMimeData& data)
+{
+    const BranchReading read = readBranches(data.text().toStdString());
+    if (read.nodes.empty())
+        tell(read.error);
+    const QString folder = data.hasFormat(folderType()) ? QString::fromUtf8(data.data(folderType()))
+                                                        : QFileInfo(m_document.getPath()).absolutePath();
+    for (const auto& node : read.nodes)
+        setPictureFolder(node.get(), folder);
+    return read.nodes;
+}
+
+void NodeEditing::paste()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    const auto nodes = data ? readText(*data) : std::vector<SoRef<SoNode>>();
+    if (nodes.size() == 1)
+        insert(nodes, tr("Paste “%1”").arg(nodeText(*nodes.front())));
+    else if (!nodes.empty())
+        insert(nodes, tr("Paste %1 Nodes").arg(nodes.size()));
+}
+
+void NodeEditing::pasteShared()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    if (m_copied.isEmpty() || !data || data->data(keyType()) != m_copiedKey)
+        return tell(
+            tr("Only nodes that were copied in this window, in this scene, can be pasted as shared ones."));
+    insert(kept(tailsOf(m_copied)), m_copied.size() == 1
+                                        ? tr("Share “%1”").arg(nodeText(*m_copied.front().getTail()))
+                                        : tr("Share %1 Nodes").arg(m_copied.size()));
+}
+
+void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action)
+{
+    using structure::Transfer;
+    const auto* branches = qobject_cast<const BranchMimeData*>(&data);
+    if (branches && branches->getPaths().front().getHead() == m_document.getRoot()) {
+        const Transfer how = action == Qt::CopyAction   ? Transfer::Copy
+                             : action == Qt::LinkAction ? Transfer::Share
+                                                        : Transfer::Move;
+        perform(structure::transfer(branches->getPaths(), group, index, how));
+        return;
+    }
+    const auto nodes = readText(data);
+    if (nodes.empty())
+        return;
+    structure::Act act =
+        structure::add(group, nodes, tr("Drop %n Node(s)", nullptr, static_cast<int>(nodes.size())));
+    perform(std::move(act));
+}
+
+// --- What is seen
+
+void NodeEditing::toggleHidden(const Paths& paths)
+{
+    const std::vector<SoNode*> nodes = tailsOf(paths);
+    const auto isSeen = [this](SoNode* node) {
+        return SceneStates::canBeHidden(*node) && !m_states.isHidden(node);
+    };
+    if (nodes.empty())
+        return tellNothingSelected();
+    if (std::none_of(nodes.begin(), nodes.end(),
+                     [](SoNode* node) { return SceneStates::canBeHidden(*node); }))
+        return tell(tr("“%1” cannot be hidden: it only sets something for other nodes.")
+                        .arg(nodeText(*nodes.front())));
+    m_states.setHidden(nodes, std::any_of(nodes.begin(), nodes.end(), isSeen));
+}
+
+void NodeEditing::showAll()
+{
+    m_states.showAll();
+}
+
+void NodeEditing::toggleIsolated()
+{
+    const std::vector<SoNode*> nodes = selectedNodes();
+    if (m_states.getHiding().isIsolating())
+        return m_states.isolate({});
+    if (nodes.empty())
+        return tellNothingSelected();
+    m_states.isolate({nodes.begin(), nodes.end()});
+    tell(tr("Only what is selected is seen; press / again to see the rest."));
+}
+
+void NodeEditing::toggleLocked()
+{
+    const std::vector<SoNode*> nodes = selectedNodes();
+    if (nodes.empty())
+        return tellNothingSelected();
+    m_states.setLocked(nodes, !std::all_of(nodes.begin(), nodes.end(),
+                                           [this](SoNode* node) { return m_states.isLocked(node); }));
+}
+
+void NodeEditing::makePermanent()
+{
+    const std::vector<SoNode*> hidden = m_states.findHidden(m_document.getRoot());
+    if (perform(structure::switchOff(m_document.getRoot(), hidden)))
+        m_states.setHidden(hidden, false);
+}
+
+} // namespace scopix

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "structure/StructureActs.h"
+
+#include <QObject>
+
+class QMimeData;
+
+namespace scopix
+{
+
+class HostServices;
+class SceneDocument;
+class SceneStates;
+class SceneTreeView;
+class UserNotifier;
+
+/// What the user does with the selected nodes: each act becomes a step of the undo history, or a sentence on
+/// why it cannot be done. GUI thread only.
+class NodeEditing : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive it.
+    NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree, SceneStates& states,
+                UserNotifier& notifier, QObject* parent = nullptr);
+
+    ~NodeEditing() override;
+
+    /// False where it is refused, which is told.
+    bool perform(structure::Act act);
+    Paths selected() const;
+    /// Where something new goes: behind what is selected last, or else to the end of the scene.
+    SoPath placeForNew() const;
+
+    void remove();
+    void duplicate();
+    void group();
+    void ungroup();
+    void makeUnique();
+    void reorder(int by);
+    void moveOut();
+    void moveIn();
+    void add(SoType type);
+    void insertAbove(SoType type);
+    void rename(const SoPath& path, const QString& name);
+
+    void copy();
+    void cut();
+    void paste();
+    /// The very nodes that were copied, so that they stand in several places.
+    void pasteShared();
+
+    /// What was dragged, to this place among the children of the group; -1: behind them all.
+    void drop(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action);
+    void insert(const std::vector<SoRef<SoNode>>& nodes, const QString& stepName);
+
+    void toggleHidden() { toggleHidden(selected()); }
+    void toggleHidden(const Paths& paths);
+    void showAll();
+    void toggleIsolated();
+    void toggleLocked();
+    /// Writes what is hidden to the scene, as a step.
+    void makePermanent();
+
+private:
+    void tell(const QString& sentence);
+    void showAfter(const Paths& selection);
+    std::vector<SoNode*> selectedNodes() const;
+    void tellNothingSelected();
+    structure::MakeNode makerOf(SoType type) const;
+    bool putOnClipboard();
+    std::vector<SoRef<SoNode>> readText(const QMimeData& data);
+
+    HostServices& m_services;
+    SceneDocument& m_document;
+    SceneTreeView& m_tree;
+    SceneStates& m_states;
+    UserNotifier& m_notifier;
+    Paths m_copied; // what the clipboard holds as text, while it does
+    QByteArray m_copiedKey;
+};
+
+} // namespace scopix

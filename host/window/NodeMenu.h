@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QMenu;
+class QWidget;
+
+namespace scopix
+{
+
+class BranchFiles;
+class NodeEditing;
+class SceneTreeView;
+
+/// The menu of what can be done with the selected nodes, in the menu bar and over the tree. Its keys act
+/// while the tree or the 3D view has the focus. GUI thread only.
+class NodeMenu : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Fills `menu`, which owns it; the others must outlive it.
+    NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneTreeView& tree, QWidget& view);
+
+private:
+    QAction* add(const QString& text, const QList<QKeySequence>& keys, std::function<void()> act);
+    void addAbove();
+    void addStructure();
+    void addClipboard();
+    void addSight();
+    void chooseAndAdd();
+    void chooseAbove();
+    void rename();
+    void openAtRow(const QPoint& place);
+
+    QMenu& m_menu;
+    NodeEditing& m_editing;
+    BranchFiles& m_files;
+    SceneTreeView& m_tree;
+    QWidget& m_view;
+};
+
+} // namespace scopix
