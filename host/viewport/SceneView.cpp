@@ -97,7 +97,6 @@ ViewSight SceneView::getSight() const
 void SceneView::setStates(const SceneStates* states)
 {
     m_states = states;
-    m_pickAction.setHiding(&states->getUntouchable());
     connect(states, &SceneStates::changed, this, &SceneView::redraw);
 }
 
@@ -209,8 +208,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
                        static_cast<float>(c.blueF()));
     };
     renderer.setBackground(toColor(groundColor(palette())));
-    setUp(renderer, m_wireframe, m_shading, m_clipPlane);
-    renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
+    setUp(renderer);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
@@ -219,12 +217,13 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     return {m_root.get(), &m_camera.get()};
 }
 
-void SceneView::setUp(SoRenderer& renderer, bool wireframe, SoRenderer::Shading shading,
-                      const std::optional<SbPlane>& clipPlane)
+// How the scene is shown, here and in pictures of it.
+void SceneView::setUp(SoRenderer& renderer) const
 {
-    renderer.setWireframe(wireframe);
-    renderer.setShading(shading);
-    renderer.setClipPlane(clipPlane ? &*clipPlane : nullptr);
+    renderer.setWireframe(m_wireframe);
+    renderer.setShading(m_shading);
+    renderer.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
+    renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
 }
 
 PictureSubject SceneView::getPictureSubject(const QSize& size, bool forTurn)
@@ -235,8 +234,7 @@ PictureSubject SceneView::getPictureSubject(const QSize& size, bool forTurn)
                                                    static_cast<float>(std::max(1, size.height())),
                                                forTurn);
     subject.ground = groundColor(palette());
-    subject.setUp = [wireframe = m_wireframe, shading = m_shading, plane = m_clipPlane](
-                        SoRenderer& renderer) { setUp(renderer, wireframe, shading, plane); };
+    subject.setUp = [this](SoRenderer& renderer) { setUp(renderer); };
     return subject;
 }
 
@@ -273,6 +271,7 @@ template <class Action>
 void SceneView::cut(Action& action) const
 {
     action.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
+    action.setHiding(m_states ? &m_states->getUntouchable() : nullptr);
 }
 
 std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
@@ -280,11 +279,7 @@ std::optional<SoPickedPoint> SceneView::pick(const QPoint& place)
     if (!m_root)
         return std::nullopt;
     cut(m_pickAction);
-    auto nearest = m_pickAction.pick(m_root.get(), rayAt(place));
-    if (!nearest || isPickable(nearest->path))
-        return nearest;
-    const std::vector<SoPickedPoint> all = pickAll(place);
-    return all.empty() ? std::nullopt : std::optional<SoPickedPoint>(all.front());
+    return m_pickAction.pick(m_root.get(), rayAt(place));
 }
 
 std::vector<SoPickedPoint> SceneView::pickAll(const QPoint& place)
@@ -292,10 +287,7 @@ std::vector<SoPickedPoint> SceneView::pickAll(const QPoint& place)
     if (!m_root)
         return {};
     cut(m_pickAction);
-    std::vector<SoPickedPoint> all = m_pickAction.pickAll(m_root.get(), rayAt(place));
-    const auto isPassedOver = [this](const SoPickedPoint& point) { return !isPickable(point.path); };
-    all.erase(std::remove_if(all.begin(), all.end(), isPassedOver), all.end());
-    return all;
+    return m_pickAction.pickAll(m_root.get(), rayAt(place));
 }
 
 std::vector<SoPath> SceneView::findSeen(const QRect& area)
@@ -309,13 +301,10 @@ std::vector<SoPath> SceneView::findSeen(const QRect& area)
     const SoCamera& camera = m_camera.get();
     const auto across = [this](int x) { return static_cast<float>(x) / static_cast<float>(width()); };
     const auto up = [this](int y) { return 1 - static_cast<float>(y) / static_cast<float>(height()); };
-    std::vector<SoPath> seen = action.pick(
+    return action.pick(
         m_root.get(), camera.getViewMatrix() * camera.getProjectionMatrix(m_camera.getAspect()),
         {across(inside.left()), up(inside.bottom() + 1), across(inside.right() + 1), up(inside.top())},
         inside.width(), inside.height());
-    const auto isPassedOver = [this](const SoPath& path) { return !isPickable(path); };
-    seen.erase(std::remove_if(seen.begin(), seen.end(), isPassedOver), seen.end());
-    return seen;
 }
 
 std::vector<std::uint32_t> SceneView::findCovered(const SoPath& part, const QSize& size)

@@ -98,12 +98,9 @@ public:
     /// The pixels that this part of the scene covers, row by row from the bottom, as if nothing hid it: for a
     /// picture of this size of the whole view, not 0.
     std::vector<std::uint32_t> findCovered(const SoPath& part, const QSize& size);
-    /// What can be picked at all, in the order in which it is asked; without one, everything. What it is
-    /// false for is passed over.
-    using PathTest = std::function<bool(const SoPath&)>;
-    void setPickable(PathTest isPickable) { m_isPickable = std::move(isPickable); }
     SoNode* getScene() const { return m_root.get(); }
-    /// For pictures of this size of what is seen, without marks and tools; `forTurn`: from all around.
+    /// For pictures of this size of what is seen, without marks and tools; `forTurn`: from all around. It is
+    /// of use as long as the view lives.
     PictureSubject getPictureSubject(const QSize& size, bool forTurn);
     /// What the last picture took, in seconds.
     double getDrawSeconds() const { return m_drawSeconds; }
@@ -166,10 +163,8 @@ private:
 
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
-    static void setUp(SoRenderer& renderer, bool wireframe, SoRenderer::Shading shading,
-                      const std::optional<SbPlane>& clipPlane);
+    void setUp(SoRenderer& renderer) const;
     SbRay rayAt(const QPoint& place) const;
-    bool isPickable(const SoPath& path) const { return !m_isPickable || m_isPickable(path); }
     template <class Action>
     void cut(Action& action) const;
     void drawn(const SoRenderer& renderer);
@@ -184,7 +179,6 @@ private:
     SoNodeSensor m_sensor;
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
-    PathTest m_isPickable;
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;

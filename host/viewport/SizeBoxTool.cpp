@@ -52,7 +52,8 @@ void SizeBoxTool::paint(QPainter& painter, const ViewSight& sight)
     if (!m_selection.isReady() || !sum.hasBox)
         return;
     const SbVec3d size = sum.getSize();
-    // Each size stands at the edge of its axis that is the lowest in the picture.
+    // Each size stands at the lowest edge of its axis in the picture, the height at the one most to the
+    // right.
     std::optional<QPointF> labels[3];
     for (const QPen& pen : {QPen(QColor(0, 0, 0, 140), 3), QPen(QColor(255, 255, 255, 220), 1)}) {
         painter.setPen(pen);
@@ -65,7 +66,8 @@ void SizeBoxTool::paint(QPainter& painter, const ViewSight& sight)
                     continue;
                 painter.drawLine(*from, *to);
                 const QPointF middle = (*from + *to) / 2;
-                if (!labels[axis] || middle.y() > labels[axis]->y())
+                const auto rank = [axis](const QPointF& p) { return axis == 1 ? p.x() : p.y(); };
+                if (!labels[axis] || rank(middle) > rank(*labels[axis]))
                     labels[axis] = middle;
             }
         }

@@ -111,7 +111,6 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeFileMenu();
     makeEditMenu();
     makeNodeMenu();
-    makeHandles();
     makeViewMenu();
     makeHelpMenu();
     makeToolBar();
@@ -221,18 +220,19 @@ void MainWindow::makeNodeMenu()
 {
     m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
     m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
-    m_nodeMenu = menuBar()->addMenu(tr("&Node"));
-    new NodeMenu(*m_nodeMenu, *m_editing, *m_branchFiles, *m_tree, *m_view);
+    QMenu* menu = menuBar()->addMenu(tr("&Node"));
+    new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
+    addHandles(*menu);
     m_tree->setStates(m_states);
     m_view->setStates(m_states);
 }
 
-void MainWindow::makeHandles()
+void MainWindow::addHandles(QMenu& menu)
 {
     m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
-    m_nodeMenu->addSeparator();
-    m_nodeMenu->addActions(m_handleActions->getModes());
-    m_nodeMenu->addAction(m_handleActions->getOwnAxes());
+    menu.addSeparator();
+    menu.addActions(m_handleActions->getModes());
+    menu.addAction(m_handleActions->getOwnAxes());
     connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
 }
 

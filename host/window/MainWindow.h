@@ -93,7 +93,7 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeNodeMenu();
-    void makeHandles();
+    void addHandles(QMenu& menu);
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
@@ -132,7 +132,6 @@ private:
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
     QMenu* m_editMenu = nullptr;
-    QMenu* m_nodeMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;

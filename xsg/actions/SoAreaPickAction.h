@@ -39,6 +39,7 @@ public:
                                      int width, int height);
     /// What lies on the other side of this plane than its normal is cut away; null for none.
     void setClipPlane(const SbPlane* plane);
+    using SoTraversal::setHiding;
     /// Where the eye is, for what chooses by distance.
     void setEye(const SbVec3f& eye) { m_eye = eye; }
 

@@ -216,7 +216,7 @@ void xsg::Shader::setClipPlanes(const std::vector<SbPlane>& planes)
 void xsg::Shader::setTexture(int model, const SbMatrix& matrix)
 {
     glUniform1i(m_now->at.textureModel, model);
-    if (model >= 0)
+    if (model >= 0 || m_look == Look::TextureCoordinates)
         glUniformMatrix4fv(m_now->at.textureMatrix, 1, GL_FALSE, matrix.getValue());
 }
 

@@ -48,7 +48,7 @@ void feedCounters(const SoRenderer::Statistics& frame)
 
 // Drawing adds this for each time that a pixel is drawn: dark red at first, then yellow, then white.
 const SbVec4f OverdrawColor(0.25F, 0.08F, 0.03F, 1);
-const SbVec4f EdgeColor(0.04F, 0.04F, 0.04F, 0.75F);
+const SbVec4f EdgeColor(0.04F, 0.04F, 0.04F, 0.5F);
 
 xsg::Shader::Look lookOf(SoRenderer::Shading shading)
 {

@@ -88,6 +88,36 @@ TEST_F(Program, DrawsIconsInTheScreensDensity)
     EXPECT_GT(detailed, 20);
 }
 
+TEST_F(Program, WritesPicturesOfTheViewAlone)
+{
+    const QString path = folder.filePath("view.png");
+    Outcome outcome = run({model(), "--picture", path, "--size", "400x300", "--transparent"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.said, "");
+    const QImage picture(path);
+    ASSERT_EQ(picture.size(), QSize(400, 300));
+    EXPECT_EQ(qAlpha(picture.pixel(1, 1)), 0);
+    QSet<QRgb> colors;
+    for (int y = 0; y < 300; y += 2) {
+        for (int x = 0; x < 400; x += 2)
+            colors.insert(picture.pixel(x, y));
+    }
+    EXPECT_GT(colors.size(), 200);
+    outcome =
+        run({model(), "--picture", folder.filePath("turn.png"), "--size", "80x60", "--turntable", "10"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(QImage(folder.filePath("turn-01.png")).size(), QSize(80, 60));
+    EXPECT_NE(QImage(folder.filePath("turn-10.png")), QImage(folder.filePath("turn-01.png")));
+    EXPECT_FALSE(QFile::exists(folder.filePath("turn.png")));
+    const QString scene = write("kept.xsg", "#Xsg V1.0 utf8\nCube {}\n");
+    outcome = run({model(), "--picture", scene});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains(scene)) << qPrintable(outcome.said);
+    outcome = run({folder.filePath("none.xsg"), "--picture", folder.filePath("none.png")});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_FALSE(QFile::exists(folder.filePath("none.png")));
+}
+
 TEST_F(Program, WritesNoPictureOfWhatItCannotOpen)
 {
     const QString picture = folder.filePath("out.png");

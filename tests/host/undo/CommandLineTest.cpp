@@ -34,6 +34,19 @@ TEST(CommandLine, TakesEveryOption)
     EXPECT_TRUE(line.isUnattended());
 }
 
+TEST(CommandLine, TakesHowAPictureIsMade)
+{
+    const CommandLine line =
+        parse({"a.glb", "--picture", "out.png", "--size", "640x480", "--transparent", "--turntable", "12"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_EQ(line.picture, "out.png");
+    EXPECT_EQ(line.pictureSize, QSize(640, 480));
+    EXPECT_TRUE(line.transparent);
+    EXPECT_EQ(line.turntable, 12);
+    EXPECT_TRUE(line.isUnattended());
+    EXPECT_EQ(parse({"--picture", "out.png"}).turntable, 1);
+}
+
 TEST(CommandLine, HasNoOptionsByDefault)
 {
     const CommandLine line = parse({});
@@ -43,8 +56,10 @@ TEST(CommandLine, HasNoOptionsByDefault)
 
 TEST(CommandLine, HelpListsEveryOption)
 {
-    for (const char* option : {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>",
-                               "--screenshot <OUT.png>", "--quit", "--counters", "--help", "--version"})
+    for (const char* option :
+         {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>", "--screenshot <OUT.png>",
+          "--picture <OUT.png>", "--size <WIDTHxHEIGHT>", "--transparent", "--turntable <NUMBER>", "--quit",
+          "--counters", "--help", "--version"})
         EXPECT_TRUE(CommandLine::helpText().contains(QLatin1String(option))) << option;
     EXPECT_TRUE(CommandLine::versionText().contains(QRegularExpression("^scopix \\d+\\.\\d+\\.\\d+\n$")));
     EXPECT_TRUE(parse({"--help"}).help);
@@ -74,13 +89,16 @@ TEST_P(BadCommandLine, IsReportedInOneSentence)
     EXPECT_EQ(line.error.count('\n'), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, BadCommandLine,
-                         ::testing::Values(Bad{{"--nonsense"}, "nonsense"}, Bad{{"--plugin"}, "plugin"},
-                                           Bad{{"--plugin="}, "--plugin"}, Bad{{"a.glb", "b.glb"}, "b.glb"},
-                                           Bad{{""}, "FILE"}, Bad{{"--select", "Material"}, "NODE.FIELD"},
-                                           Bad{{"--select", ".x"}, "NODE.FIELD"},
-                                           Bad{{"--select", "Material."}, "NODE.FIELD"},
-                                           Bad{{"--screenshot", ""}, "--screenshot"},
-                                           Bad{{"--quit=7"}, "quit"}));
+INSTANTIATE_TEST_SUITE_P(
+    Cases, BadCommandLine,
+    ::testing::Values(Bad{{"--nonsense"}, "nonsense"}, Bad{{"--plugin"}, "plugin"},
+                      Bad{{"--plugin="}, "--plugin"}, Bad{{"a.glb", "b.glb"}, "b.glb"}, Bad{{""}, "FILE"},
+                      Bad{{"--select", "Material"}, "NODE.FIELD"}, Bad{{"--select", ".x"}, "NODE.FIELD"},
+                      Bad{{"--select", "Material."}, "NODE.FIELD"}, Bad{{"--screenshot", ""}, "--screenshot"},
+                      Bad{{"--picture", "a.png", "--size", "640"}, "WIDTHxHEIGHT"},
+                      Bad{{"--picture", "a.png", "--size", "-1x5"}, "WIDTHxHEIGHT"},
+                      Bad{{"--picture", "a.png", "--turntable", "1"}, "2 or more"},
+                      Bad{{"--transparent"}, "--picture OUT.png is missing"},
+                      Bad{{"--size", "4x4"}, "--picture OUT.png is missing"}, Bad{{"--quit=7"}, "quit"}));
 
 } // namespace

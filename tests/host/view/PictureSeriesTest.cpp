@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Pictures of the view alone: by the menu, and as files.
+#include "ViewPictures.h"
 #include "support/FileAnswer.h"
 #include "support/MessageBoxes.h"
-#include "ViewPictures.h"
 
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"

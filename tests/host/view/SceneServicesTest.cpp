@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What plug-ins learn of the scene as a whole, and select in it.
-#include "services/HostServices.h"
 #include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 

@@ -4,6 +4,7 @@
 
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "viewport/HoverMark.h"
 #include "viewport/SceneParts.h"
@@ -222,16 +223,18 @@ TEST_F(Acts, AltListsAllThatLiesUnderThePointer)
     EXPECT_EQ(selected(), Nodes{part(2)});
 }
 
-TEST_F(Acts, WhatIsNotPickableIsPassedOver)
+TEST_F(Acts, WhatIsLockedOrHiddenIsPassedOver)
 {
-    view.setPickable([this](const SoPath& path) { return path.getNode(1) != part(0); });
+    window.getStates().setLocked({part(0)}, true);
+    window.getStates().setHidden({part(1)}, true);
     const SbVec3f eye = view.getCamera().position.getValue();
     const SbVec3f behind(-3, 0, -4);
     click(behind + (eye - behind) * ((1 - behind[2]) / (eye[2] - behind[2])));
     EXPECT_EQ(selected(), Nodes{part(2)});
     drag({2, 2}, {view.width() - 3, view.height() - 3}, Qt::ShiftModifier);
     EXPECT_FALSE(selected().contains(part(0)));
-    EXPECT_TRUE(selected().contains(part(1)));
+    EXPECT_FALSE(selected().contains(part(1)));
+    EXPECT_TRUE(selected().contains(part(2)));
 }
 
 TEST_F(Acts, HoveringShowsWhatAClickWouldSelectWithoutAnotherPicture)
@@ -397,11 +400,14 @@ protected:
 
 TEST_F(PicturesOfThePage, Measure)
 {
-    const QPoint boat(view.width() * 61 / 100, view.height() * 53 / 100);
-    QTest::mouseClick(&view, Qt::LeftButton, {}, boat);
+    const auto clickAt = [this](double right, double down) {
+        QTest::mouseClick(&view, Qt::LeftButton, {},
+                          QPoint(int(view.width() * right), int(view.height() * down)));
+    };
+    clickAt(0.4, 0.36); // the tower
     key(Qt::Key_M);
-    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() * 41 / 100, view.height() * 11 / 100));
-    QTest::mouseClick(&view, Qt::LeftButton, {}, boat);
+    clickAt(0.392, 0.153); // its top
+    clickAt(0.667, 0.444); // the top of the mast
     QApplication::clipboard()->clear();
     EXPECT_TRUE(QTest::qWaitFor([this] {
         key(Qt::Key_C, Qt::ControlModifier);
