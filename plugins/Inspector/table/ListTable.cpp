@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "table/ListTable.h"
 
+#include "fields/FieldText.h"
+
 #include <scopix/editing/SpxText.h>
 
 #include <QComboBox>
@@ -222,8 +224,9 @@ void ListTable::hideEvent(QHideEvent* event)
     m_vertices.restart();
 }
 
-void ListTable::setHint(const QString& hint)
+void ListTable::setStandsAlone(const QString& hint)
 {
+    m_standsAlone = true;
     m_hint = hint;
     showCaption();
 }
@@ -256,10 +259,10 @@ void ListTable::showCaption()
         return;
     }
     const int count = shown->getNum();
-    QString text =
-        tr("%1 · %2 · %3")
-            .arg(SpxText::toQString(shown->getName()), SpxText::toQString(shown->getTypeId().getName()),
-                 count == 1 ? tr("1 value") : tr("%1 values").arg(count));
+    QString text = tr("%1 · %2 · %3")
+                       .arg(m_standsAlone ? pathOf(*shown) : SpxText::toQString(shown->getName()),
+                            SpxText::toQString(shown->getTypeId().getName()),
+                            count == 1 ? tr("1 value") : tr("%1 values").arg(count));
     if (shown->isIgnored())
         text += tr(" · ignored");
     if (shown->isConnected())

@@ -47,8 +47,9 @@ public:
     FiguresLine& figures() { return m_figures; }
     QMenu& menu() { return *m_menu; }
     void askFor(Line line);
-    /// What is shown where there is no list.
-    void setHint(const QString& hint);
+    /// For a list whose node may be another than the selected one: its name stands above the cells too.
+    /// `hint` is what stands there without a list.
+    void setStandsAlone(const QString& hint);
     /// The menu's entry that shows the list in the wide table; hidden at first.
     QAction& wideAction() { return *m_wide; }
 
@@ -93,6 +94,7 @@ private:
     QAction* m_down = nullptr;
     QAction* m_ignore = nullptr;
     QAction* m_wide = nullptr;
+    bool m_standsAlone = false;
     QString m_hint;
     int m_orderedCount = 0; // of values, when the rows were sorted or filtered
 };

@@ -34,7 +34,7 @@ void WideTable::load()
     TableAccessible::install();
     m_dock = new QDockWidget(tr("Table"));
     m_table = new ListTable(VertexLink::Click::Selects, m_dock);
-    m_table->setHint(tr("Choose “Open Wide” in the menu of a list’s table to see the list here."));
+    m_table->setStandsAlone(tr("Choose “Open Wide” in the menu of a list’s table to see the list here."));
     m_dock->setWidget(m_table);
     m_dock->setVisible(false);
 }

@@ -16,6 +16,7 @@
 
 #include <QAbstractScrollArea>
 #include <QAction>
+#include <QLabel>
 
 namespace
 {
@@ -180,6 +181,7 @@ TEST_F(VertexRows, TheWideTableStaysWhileOtherNodesAreSelected)
     EXPECT_EQ(window().dockWidgetArea(wide), Qt::BottomDockWidgetArea);
     auto* cells = wide->findChild<QAbstractScrollArea*>("listTable");
     EXPECT_TRUE(cells->hasFocus());
+    EXPECT_TRUE(wide->findChild<QLabel*>("caption")->text().contains("Points.points")) << "whose list it is";
     session.selectNode(transform);
     clickAt({4, 1, 0}, inward);
     EXPECT_EQ(selected(), shape) << "it keeps no click to itself";

@@ -37,6 +37,18 @@ protected:
     std::string leave(const std::string& name) const { return make(name + ".scopix-q1w2e3", "half"); }
 };
 
+TEST_F(Replacement, IsRefusedForTheEndingsOfOtherKinds)
+{
+    const std::vector<std::string> endings{"csv", "txt"};
+    EXPECT_FALSE(xsg::isOfAnotherKind(at("list.CSV"), endings));
+    EXPECT_TRUE(xsg::isOfAnotherKind(at("list.png"), endings));
+    EXPECT_TRUE(xsg::isOfAnotherKind(at("list"), endings));
+    std::filesystem::create_symlink(make("data", ""), at("plain.txt"));
+    std::filesystem::create_symlink(make("picture.png", ""), at("link.txt"));
+    EXPECT_FALSE(xsg::isOfAnotherKind(at("plain.txt"), endings)) << "what it leads to has no ending";
+    EXPECT_TRUE(xsg::isOfAnotherKind(at("link.txt"), endings));
+}
+
 TEST_F(Replacement, IsTheOldFileUntilItIsTheNewOne)
 {
     make("a", "old");
