@@ -7,6 +7,7 @@
 #include <xsg/actions/SoSearchAction.h>
 
 #include <QSettings>
+#include <QStatusBar>
 #include <QTextEdit>
 
 namespace
@@ -95,6 +96,7 @@ TEST_F(FirstStart, ShowsThePanelAndFoldsTheConsoleUntilItHasSomethingToSay)
         if (folder.isEmpty())
             break;
         applyTheme(*window, theme);
+        window->statusBar()->clearMessage(); // it names a folder of this machine
         Session::settle();
         EXPECT_TRUE(window->saveScreenshot(QStringLiteral("%1/window-%2.png").arg(folder, name)));
     }
