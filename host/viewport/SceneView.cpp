@@ -56,6 +56,7 @@ void SceneView::setScene(SoNode* root)
     m_highlight = 0;
     m_sensor.attach(root);
     m_camera.setScene(root);
+    m_tools.sceneChanged();
     redraw();
     animateWhereNeeded();
 }
@@ -169,6 +170,7 @@ void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
 {
     auto* view = static_cast<SceneView*>(self);
     view->m_camera.follow();
+    view->m_tools.sceneChanged();
     view->redraw();
     view->animateWhereNeeded();
 }

@@ -268,6 +268,9 @@ void MainWindow::makeHelpMenu()
                "See all of the selected part: double-click, or F.\n"
                "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
                "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
+               "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
+               "select again: Q.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

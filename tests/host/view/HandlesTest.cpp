@@ -322,9 +322,20 @@ TEST_F(Handles, FollowTheMouseUnderStretchedAndMirroredParents)
                 const QPointF at = placeOf(part);
                 const bool isFree = part == HandlePart::Free || part == HandlePart::AcrossZ;
                 const QPointF by = isFree ? QPointF(13, 9) : (at - center) * 0.4;
+                const SbVec3f place = handles.getTarget()->getPlace();
+                const HandleAxes axes = handles.getTarget()->getAxes(ofWorld);
+                const SbVec3f normal = part == HandlePart::Free
+                                           ? view.getSight().toEye(place)
+                                           : cross(axes[0].world, axes[1].world).normalized();
                 drag(at, at + by);
-                const QPointF moved = handles.getShape().getCenter() - center;
-                EXPECT_LT(QLineF(moved, by).length(), isFree ? 3 : 5) << int(part) << ofWorld << stretch[0];
+                // Where the first line of sight met the plane that is dragged along.
+                const SbRay ray = view.getSight().getRay(at);
+                const SbVec3f held = ray.at(normal.dot(place - ray.origin) / normal.dot(ray.direction));
+                const SbVec3f moved = handles.getTarget()->getPlace() - place;
+                const QPointF now =
+                    isFree ? onScreen(held + moved) : handles.getShape().getCenter() + at - center;
+                EXPECT_LT(QLineF(now, at + by).length(), isFree ? 1 : 5)
+                    << int(part) << ofWorld << stretch[0];
             }
             for (const HandlePart part : {HandlePart::X, HandlePart::Y, HandlePart::Z}) {
                 handles.setMode(HandleMode::Turn);
