@@ -37,6 +37,8 @@ protected:
         services.setSceneSource(&window);
         window.resize(1100, 800);
         window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
     }
     ~Handles() override { services.setSceneSource(nullptr); }
     template <class Node>
@@ -217,6 +219,25 @@ TEST_F(Handles, KeysAloneDoIt)
     EXPECT_EQ(services.selectedNode(), transform) << "the letters search nothing in the tree";
     QTest::keyClick(tree, Qt::Key_Q);
     EXPECT_TRUE(handles.getShape().isEmpty());
+}
+
+TEST_F(Handles, ADragByKeysEndsWhereTheFocusGoesElsewhere)
+{
+    SoTransform* transform = addPart({1, 0, 0});
+    show();
+    select(transform);
+    window.getTree().setFocus();
+    QTest::keyClick(&window.getTree(), Qt::Key_W);
+    QTest::keyClick(&window.getTree(), Qt::Key_X);
+    QTest::keyClicks(&window.getTree(), "3");
+    EXPECT_EQ(transform->translation.getValue(), SbVec3f(4, 0, 0));
+    view.setFocus(); // where it goes on
+    type("0");
+    EXPECT_EQ(transform->translation.getValue(), SbVec3f(31, 0, 0));
+    window.getTree().setFocus();
+    EXPECT_FALSE(handles.isDragging());
+    EXPECT_EQ(transform->translation.getValue(), SbVec3f(1, 0, 0));
+    EXPECT_EQ(steps(), 0);
 }
 
 TEST_F(Handles, ControlSnaps)
@@ -600,8 +621,9 @@ TEST_F(Handles, AreOnTopAndAsLargeWhateverTheDistance)
     const int drawn = view.getDrawCount();
     send(QEvent::MouseMove, placeOf(HandlePart::X), Qt::NoButton, {});
     EXPECT_EQ(view.cursor().shape(), Qt::OpenHandCursor);
-    EXPECT_NE(picture(), idle);
+    QCoreApplication::processEvents();
     EXPECT_EQ(view.getDrawCount(), drawn) << "without another picture of the scene";
+    EXPECT_NE(picture(), idle);
 }
 
 } // namespace

@@ -35,6 +35,8 @@ protected:
         scene->addChild(new SoCube);
         window.setScene(scene.get(), "Test");
         window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
         settle();
     }
     ~Navigation() override { services.setSceneSource(nullptr); }
