@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "handles/HandleTool.h"
+
 #include <QList>
 #include <QObject>
+#include <QPointer>
 
 class QAction;
 class QWidget;
 
 namespace scopix
 {
-
-class HandleTool;
 
 /// What chooses the handles of the view: select, move, turn, scale, and along which axes. Their keys act
 /// while the view or one of the other widgets has the focus, and so do the keys of a drag.
@@ -32,7 +33,7 @@ private:
     void addMode(int mode, const QString& text, const QString& icon, Qt::Key key);
     void showState();
 
-    HandleTool& m_tool;
+    QPointer<HandleTool> m_tool;
     QWidget& m_owner;
     QList<QAction*> m_modes;
     QAction* m_ownAxes;

@@ -185,15 +185,21 @@ void HandleShape::addRing(const Build& build, int axis)
     if (!(longest > 0))
         return;
     const HandlePart part = HandlePart(int(HandlePart::X) + axis);
+    // One line for as long as it is on the same side.
     for (int i = 0; i < RingSteps; ++i) {
         const SbVec3f& from = points[static_cast<std::size_t>(i)];
         const SbVec3f& to = points[static_cast<std::size_t>(i) + 1];
         const auto a = build.toScreen(from * (1 / longest), RingRadius);
         const auto b = build.toScreen(to * (1 / longest), RingRadius);
-        const double depth = build.depth((from + to) * (0.5F / longest));
-        if (a && b)
-            m_pieces.push_back(
-                {part, QPolygonF(QVector<QPointF>{*a, *b}), Tip::None, false, depth < -0.02, depth});
+        const bool isBehind = build.depth((from + to) * (0.5F / longest)) < -0.02;
+        if (!a || !b)
+            continue;
+        Piece* const last = m_pieces.empty() ? nullptr : &m_pieces.back();
+        if (last && last->part == part && last->isBehind == isBehind && last->line.last() == *a)
+            last->line << *b;
+        else
+            m_pieces.push_back({part, QPolygonF(QVector<QPointF>{*a, *b}), Tip::None, false, isBehind,
+                                isBehind ? -1.0 : 1.0});
     }
 }
 
@@ -237,9 +243,11 @@ std::optional<QPointF> HandleShape::placeOf(HandlePart part) const
             continue;
         if (piece->isFilled)
             return piece->line.boundingRect().center();
-        const QPointF place = (piece->line.first() + 3 * piece->line.last()) / 4;
-        if (partAt(place) == part)
-            return place;
+        for (int i = 0; i + 1 < piece->line.size(); ++i) {
+            const QPointF place = (piece->line[i] + 3 * piece->line[i + 1]) / 4;
+            if (partAt(place) == part)
+                return place;
+        }
     }
     return std::nullopt;
 }

@@ -439,12 +439,6 @@ HandleDrag::Amounts HandleTool::typedAmounts() const
     return amounts;
 }
 
-// A new picture: what there are handles of may have moved.
-void HandleTool::draw(SoOverlay& /*overlay*/, const ViewSight& /*sight*/)
-{
-    m_isStale = true;
-}
-
 void HandleTool::paint(QPainter& painter, const ViewSight& /*sight*/)
 {
     const HandleShape shape = getShape();

@@ -45,7 +45,7 @@ public:
     bool keyPressed(QKeyEvent& event) override;
     bool wantsKey(const QKeyEvent& event) override;
     void focusLost() override;
-    void draw(SoOverlay& overlay, const ViewSight& sight) override;
+    void sceneChanged() override { m_isStale = true; }
     void paint(QPainter& painter, const ViewSight& sight) override;
     std::optional<QCursor> getCursor() const override;
 

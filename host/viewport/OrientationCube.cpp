@@ -7,6 +7,7 @@
 #include <QLineF>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -197,14 +198,13 @@ void OrientationCube::paint(QPainter& painter, const ViewSight& sight)
         QTransform onFace;
         if (face.towards < 0.3F || !QTransform::quadToQuad(sheet, face.outline, onFace))
             continue;
-        painter.save();
-        painter.setTransform(onFace, true);
         QFont font = m_view.font();
         font.setPixelSize(15);
-        painter.setFont(font);
-        painter.setPen(palette.color(QPalette::ButtonText));
-        painter.drawText(QRectF(0, 0, Sheet, Sheet), Qt::AlignCenter, face.text);
-        painter.restore();
+        // As an outline: text on a tilted face may come out otherwise the second time.
+        QPainterPath text;
+        text.addText(0, 0, font, face.text);
+        text.translate(QPointF(Sheet, Sheet) / 2 - text.boundingRect().center());
+        painter.fillPath(onFace.map(text), palette.color(QPalette::ButtonText));
     }
 }
 

@@ -57,6 +57,7 @@ void SceneView::setScene(SoNode* root)
     m_highlight.clear();
     m_sensor.attach(root);
     m_camera.setScene(root);
+    m_tools.sceneChanged();
     redraw();
     animateWhereNeeded();
 }
@@ -196,6 +197,7 @@ void SceneView::sceneChanged(void* self, SoSensor* /*sensor*/)
 {
     auto* view = static_cast<SceneView*>(self);
     view->m_camera.follow();
+    view->m_tools.sceneChanged();
     view->redraw();
     view->animateWhereNeeded();
 }

@@ -87,6 +87,7 @@ void ViewGrid::draw(SoOverlay& overlay, const ViewSight& /*sight*/)
 {
     const float spacing = spacingFor(m_scene);
     const float reach = spacing * Squares;
+    const auto dense = static_cast<float>(m_view.devicePixelRatioF());
     const QColor ink = m_view.palette().color(QPalette::WindowText);
     const SbColor color(static_cast<float>(ink.redF()), static_cast<float>(ink.greenF()),
                         static_cast<float>(ink.blueF()));
@@ -101,14 +102,15 @@ void ViewGrid::draw(SoOverlay& overlay, const ViewSight& /*sight*/)
             from[along] -= reach;
             to[along] += reach;
             const bool isStrong = std::lround(from[2 - along] / spacing) % Squares == 0;
-            overlay.addLine(from, to, {color, isStrong ? 0.45F : 0.18F}, 1, SoOverlay::Depth::WithinScene);
+            overlay.addLine(from, to, {color, isStrong ? 0.45F : 0.18F}, dense,
+                            SoOverlay::Depth::WithinScene);
         }
     }
     const SbColor colors[] = {{0.9F, 0.28F, 0.3F}, {0.27F, 0.65F, 0.35F}, {0.24F, 0.55F, 0.95F}};
     for (int i = 0; i < 3 && m_hasAxes; ++i) {
         SbVec3f end;
         end[i] = reach;
-        overlay.addLine({}, end, colors[i], 2, SoOverlay::Depth::WithinScene);
+        overlay.addLine({}, end, colors[i], 2 * dense, SoOverlay::Depth::WithinScene);
     }
 }
 

@@ -46,6 +46,8 @@ public:
     /// The view has lost the focus: nothing that is held will be released.
     virtual void focusLost() {}
 
+    /// Something in the scene has changed, or another scene is shown.
+    virtual void sceneChanged() {}
     /// Before a new picture: adds what it draws beyond the scene, so that it lies in the depth that is seen.
     virtual void extend(SbBox3f& /*seen*/) {}
     /// Adds to what is drawn over the scene in a new picture.

@@ -182,6 +182,12 @@ void ViewTools::updateCursor()
     m_view.unsetCursor();
 }
 
+void ViewTools::sceneChanged()
+{
+    for (ViewTool* tool : std::vector<ViewTool*>(m_tools))
+        tool->sceneChanged();
+}
+
 void ViewTools::extend(SbBox3f& seen) const
 {
     for (ViewTool* tool : m_tools)

@@ -34,6 +34,7 @@ public:
     void leave();
     void loseFocus();
 
+    void sceneChanged();
     void extend(SbBox3f& seen) const;
     void draw(SoOverlay& overlay) const;
     /// What is painted over the picture is no longer right; the picture itself stays.

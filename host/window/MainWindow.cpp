@@ -306,6 +306,9 @@ void MainWindow::makeHelpMenu()
                "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
                "Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.\n"
                "Measure: M.\n"
+               "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
+               "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
+               "select again: Q.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

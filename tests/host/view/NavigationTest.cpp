@@ -35,6 +35,8 @@ protected:
         scene->addChild(new SoCube);
         window.setScene(scene.get(), "Test");
         window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
         settle();
     }
     ~Navigation() override { services.setSceneSource(nullptr); }
@@ -148,13 +150,13 @@ TEST_F(Navigation, GridAndAxesAreShownAndBelongToNoScene)
     action("Axes")->setChecked(true);
     const QImage withAxes = pictureOf(view);
     EXPECT_NE(withAxes, withGrid);
-    // The end of the x axis is outside of the cube.
-    int reddest = -255;
+    // The end of the z axis comes out of the cube towards the eye.
+    int bluest = -255;
     for (int i = 0; i < 25; ++i) {
-        const QColor color = withAxes.pixelColor(placeOf(view, {1.6F, 0, 0}) + QPoint(i % 5 - 2, i / 5 - 2));
-        reddest = std::max(reddest, color.red() - color.green());
+        const QColor color = withAxes.pixelColor(placeOf(view, {0, 0, 1.6F}) + QPoint(i % 5 - 2, i / 5 - 2));
+        bluest = std::max(bluest, color.blue() - color.red());
     }
-    EXPECT_GT(reddest, 60);
+    EXPECT_GT(bluest, 60);
     EXPECT_EQ(text(), before);
     EXPECT_EQ(ViewGrid::spacingFor(SbBox3f({0, 0, 0}, {30, 1, 2})), 5);
     action("Grid")->setChecked(false);

@@ -26,6 +26,7 @@ struct RecordingTool : ViewTool {
     }
     void paint(QPainter& painter, const ViewSight& /*sight*/) override
     {
+        painted += paints ? 1 : 0;
         if (paints)
             painter.fillRect(QRect(10, 10, 20, 20), Qt::magenta);
     }
@@ -40,6 +41,7 @@ struct RecordingTool : ViewTool {
     bool takes = false;
     bool draws = false;
     bool paints = false;
+    int painted = 0;
     std::optional<QCursor> cursor;
 };
 
@@ -139,8 +141,9 @@ TEST_F(Tools, AreRepaintedWithoutAnotherPicture)
     const int drawn = view.getDrawCount();
     first.paints = true;
     view.repaintTools();
-    EXPECT_EQ(pictureOf(view).pixelColor(20, 20), QColor(Qt::magenta));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return first.painted > 0; }, 60000));
     EXPECT_EQ(view.getDrawCount(), drawn);
+    EXPECT_EQ(pictureOf(view).pixelColor(20, 20), QColor(Qt::magenta));
 }
 
 TEST_F(Tools, SeeThroughTheViewsCamera)
