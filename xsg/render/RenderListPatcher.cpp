@@ -67,7 +67,9 @@ void xsg::RenderListPatcher::finish()
     m_geometry.removeUnused();
     m_textures.removeUnused(m_list.drawStates.takeUnusedTextures());
     patchBoxes();
-    m_needsSorting = m_needsSorting || (m_isRestructured && m_list.items.size() < FewItems);
+    // An order that nobody has taken yet must be right.
+    m_needsSorting = m_needsSorting || m_list.changes.all || m_list.changes.orders ||
+                     (m_isRestructured && m_list.items.size() < FewItems);
     if (m_needsSorting || isOutOfOrder(m_list)) {
         m_list.changes.orders = true;
         m_list.sort();
