@@ -16,6 +16,7 @@
 
 #include <osg/ComputeBoundsVisitor>
 #include <osg/Geometry>
+#include <osg/Material>
 #include <osg/MatrixTransform>
 #include <osg/ShapeDrawable>
 #include <osgUtil/LineSegmentIntersector>
@@ -141,37 +142,124 @@ void osgPick(benchmark::State& state)
     perSeparator(state);
 }
 
-void osgFrame(benchmark::State& state, Before before, Drawing drawing)
+// The same without anything that two cubes share.
+OsgWorld makeOsgWorldOfOwnCubes(int separators)
+{
+    OsgWorld world;
+    const int side = worldSide(separators);
+    for (int i = 0; i < separators; ++i) {
+        const OwnCube own(i);
+        osg::ref_ptr<osg::Vec3Array> points(new osg::Vec3Array);
+        osg::ref_ptr<osg::Vec3Array> normals(new osg::Vec3Array);
+        osg::ref_ptr<osg::DrawElementsUShort> index(new osg::DrawElementsUShort(GL_TRIANGLES));
+        // Each face has corners of its own, as it has a normal of its own.
+        for (int corner = 0; corner < 36; corner += 3) {
+            osg::Vec3 face[3];
+            for (int k = 0; k < 3; ++k) {
+                const SbVec3f& at = own.corners[OwnCube::Index[corner + k]];
+                face[k].set(at[0], at[1], at[2]);
+            }
+            osg::Vec3 normal = (face[1] - face[0]) ^ (face[2] - face[0]);
+            normal.normalize();
+            for (const osg::Vec3& at : face) {
+                index->push_back(static_cast<GLushort>(points->size()));
+                points->push_back(at);
+                normals->push_back(normal);
+            }
+        }
+        osg::ref_ptr<osg::Geometry> cube(new osg::Geometry);
+        cube->setVertexArray(points);
+        cube->setNormalArray(normals, osg::Array::BIND_PER_VERTEX);
+        cube->addPrimitiveSet(index);
+        cube->setUseDisplayList(false);
+        cube->setUseVertexBufferObjects(true);
+        osg::ref_ptr<osg::Material> material(new osg::Material);
+        const SbColor color = ownColor(i);
+        material->setDiffuse(osg::Material::FRONT_AND_BACK, {color[0], color[1], color[2], 1});
+        cube->getOrCreateStateSet()->setAttribute(material);
+        const SbVec3f place = worldPlace(i, side);
+        world.last = new osg::MatrixTransform(osg::Matrix::translate(place[0], place[1], place[2]));
+        world.last->addChild(cube);
+        world.root->addChild(world.last);
+    }
+    return world;
+}
+
+// A viewer that draws into a picture, with what shows all of a world.
+class OsgView
+{
+public:
+    void show(OsgWorld& world)
+    {
+        world.root->getOrCreateStateSet()->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
+        const osg::BoundingSphere sphere = world.root->getBound();
+        const double distance = sphere.radius() * 3;
+        m_viewer.setSceneData(world.root);
+        m_viewer.getCamera()->setProjectionMatrixAsPerspective(45, 1, 0.1, 10 * distance);
+        eye = sphere.center() + osg::Vec3d(0, 0, distance);
+    }
+    OsgView()
+    {
+        m_viewer.setThreadingModel(osgViewer::Viewer::SingleThreaded);
+        m_viewer.setUpViewerAsEmbeddedInWindow(0, 0, PictureSize, PictureSize);
+        m_viewer.getCamera()->setClearColor({0, 0, 0, 1});
+        // It would leave out everything that is smaller than two pixels.
+        m_viewer.getCamera()->setCullingMode(m_viewer.getCamera()->getCullingMode() &
+                                             ~osg::CullSettings::SMALL_FEATURE_CULLING);
+    }
+    void draw()
+    {
+        m_viewer.getCamera()->setViewMatrixAsLookAt(eye, eye - osg::Vec3d(0, 0, 1), {0, 1, 0});
+        m_viewer.frame();
+        glReadPixels(0, 0, PictureSize, PictureSize, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
+    }
+
+    osg::Vec3d eye;
+    std::vector<unsigned char> pixels = std::vector<unsigned char>(4 * PictureSize * PictureSize);
+
+private:
+    osgViewer::Viewer m_viewer;
+};
+
+void osgFirstPicture(benchmark::State& state, Cubes cubes)
+{
+    const auto separators = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            const bench::EglContext context;
+            OsgWorld world =
+                cubes == Cubes::Shared ? makeOsgWorld(separators) : makeOsgWorldOfOwnCubes(separators);
+            OsgWorld other = makeOsgWorld(1);
+            OsgView view;
+            view.show(other);
+            view.draw();
+            view.show(world);
+            state.ResumeTiming();
+            view.draw();
+            state.PauseTiming();
+            if (!context || !hasPicture(view.pixels))
+                state.SkipWithError("Nothing was drawn.");
+        }
+        state.ResumeTiming();
+    }
+}
+
+void osgFrame(benchmark::State& state, Before before, Drawing drawing, Cubes cubes = Cubes::Shared)
 {
     const bench::EglContext context;
     if (!context) {
         state.SkipWithError("There is no OpenGL here.");
         return;
     }
-    OsgWorld world = makeOsgWorld(static_cast<int>(state.range(0)));
-    world.root->getOrCreateStateSet()->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
-    osgViewer::Viewer viewer;
-    viewer.setThreadingModel(osgViewer::Viewer::SingleThreaded);
-    viewer.setUpViewerAsEmbeddedInWindow(0, 0, PictureSize, PictureSize);
-    viewer.setSceneData(world.root);
-    const osg::BoundingSphere sphere = world.root->getBound();
-    const double distance = sphere.radius() * 3;
-    viewer.getCamera()->setProjectionMatrixAsPerspective(45, 1, 0.1, 10 * distance);
-    viewer.getCamera()->setClearColor({0, 0, 0, 1});
-    // It would leave out everything that is smaller than two pixels.
-    viewer.getCamera()->setCullingMode(viewer.getCamera()->getCullingMode() &
-                                       ~osg::CullSettings::SMALL_FEATURE_CULLING);
-    std::vector<unsigned char> pixels(4 * PictureSize * PictureSize);
-    osg::Vec3d eye = sphere.center() + osg::Vec3d(0, 0, distance);
-    const auto draw = [&] {
-        viewer.getCamera()->setViewMatrixAsLookAt(eye, eye - osg::Vec3d(0, 0, 1), {0, 1, 0});
-        viewer.frame();
-        glReadPixels(0, 0, PictureSize, PictureSize, GL_RGBA, GL_UNSIGNED_BYTE, pixels.data());
-    };
-    draw();
-    const bool sawSomething = hasPicture(pixels);
+    const auto separators = static_cast<int>(state.range(0));
+    OsgWorld world = cubes == Cubes::Shared ? makeOsgWorld(separators) : makeOsgWorldOfOwnCubes(separators);
+    OsgView view;
+    view.show(world);
+    view.draw();
+    const bool sawSomething = hasPicture(view.pixels);
     osgDrawCalls = 0;
-    draw();
+    view.draw();
     const bool calledEach = osgDrawCalls == state.range(0);
     const bench::WithoutDrawing without(drawing);
     float x = 0;
@@ -180,8 +268,8 @@ void osgFrame(benchmark::State& state, Before before, Drawing drawing)
         if (before == Before::OneField)
             world.last->setMatrix(osg::Matrix::translate(x, 0, 0));
         if (before == Before::EyeMoves)
-            eye[0] += 0.1 * (x - 0.25);
-        draw();
+            view.eye[0] += 0.1 * (x - 0.25);
+        view.draw();
     }
     if (!sawSomething || !calledEach)
         state.SkipWithError("Not everything was drawn.");
@@ -197,6 +285,11 @@ void wallSizes(benchmark::internal::Benchmark* each)
 {
     sizes(each);
     each->UseRealTime(); // the drawing is on other threads
+}
+
+void hundredThousand(benchmark::internal::Benchmark* each)
+{
+    each->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1);
 }
 
 } // namespace
@@ -220,6 +313,11 @@ BENCHMARK_CAPTURE(osgFrame, oneFieldUndrawn, Before::OneField, Drawing::LeftOut)
 BENCHMARK_CAPTURE(frame, eyeUndrawn, Before::EyeMoves, Drawing::LeftOut)->Apply(wallSizes);
 BENCHMARK_CAPTURE(osgFrame, eyeUndrawn, Before::EyeMoves, Drawing::LeftOut)->Apply(wallSizes);
 
+BENCHMARK_CAPTURE(frame, ownCubes, Before::Nothing, Drawing::Done, Cubes::Own)->Apply(hundredThousand);
+BENCHMARK_CAPTURE(osgFrame, ownCubes, Before::Nothing, Drawing::Done, Cubes::Own)->Apply(hundredThousand);
+BENCHMARK_CAPTURE(firstPicture, ownCubes, Cubes::Own)->Apply(hundredThousand);
+BENCHMARK_CAPTURE(osgFirstPicture, ownCubes, Cubes::Own)->Apply(hundredThousand);
+
 int main(int argc, char** argv)
 {
     const auto beside = [](const char* what, const std::string& osg, const std::string& ours) {
@@ -241,5 +339,9 @@ int main(int argc, char** argv)
          beside("traversal of 100,000, one change: OpenSceneGraph over ours", "osgFrame/oneFieldUndrawn",
                 "frame/oneFieldUndrawn"),
          beside("traversal of 100,000, eye moved: OpenSceneGraph over ours", "osgFrame/eyeUndrawn",
-                "frame/eyeUndrawn")});
+                "frame/eyeUndrawn"),
+         beside("frame of 100,000 different cubes: OpenSceneGraph over ours", "osgFrame/ownCubes",
+                "frame/ownCubes"),
+         beside("first picture of them: OpenSceneGraph over ours", "osgFirstPicture/ownCubes",
+                "firstPicture/ownCubes")});
 }

@@ -62,6 +62,9 @@ inline void pick(benchmark::State& state)
     perSeparator(state);
 }
 
+/// Whether the cubes of a world are the same one, or have corners and materials of their own.
+enum class Cubes { Shared, Own };
+
 /// What happens before each frame that is measured.
 enum class Before {
     Nothing,
@@ -108,11 +111,37 @@ inline void prepareFrame(Before before, SoSeparator& world, SoCamera& camera, fl
         camera.pan(0.001F * (step - 0.25F), 0);
 }
 
+/// The first picture of a scene, by a renderer that has drawn another one before.
+inline void firstPicture(benchmark::State& state, Cubes cubes)
+{
+    const auto separators = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        const auto world = cubes == Cubes::Shared ? makeWorld(separators) : makeWorldOfOwnCubes(separators);
+        const SoRef<SoSeparator> other = makeWorld(1);
+        const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
+        camera->viewAll(SoBoundingBoxAction().getBox(world.get()), 1);
+        SoPixels pixels;
+        {
+            SoOffscreenRenderer renderer;
+            renderer.setSamples(1);
+            renderer.render(other.get(), camera.get(), PictureSize, PictureSize, pixels);
+            state.ResumeTiming();
+            renderer.render(world.get(), camera.get(), PictureSize, PictureSize, pixels);
+            state.PauseTiming();
+        }
+        if (!hasPicture(pixels.rgba))
+            state.SkipWithError("Nothing was drawn.");
+        state.ResumeTiming();
+    }
+}
+
 /// A frame from the change to the picture in memory. Without drawing, OpenGL's draw calls return at once:
 /// what remains is all the work up to them.
-inline void frame(benchmark::State& state, Before before, Drawing drawing)
+inline void frame(benchmark::State& state, Before before, Drawing drawing, Cubes cubes = Cubes::Shared)
 {
-    const auto world = makeWorld(static_cast<int>(state.range(0)));
+    const auto separators = static_cast<int>(state.range(0));
+    const auto world = cubes == Cubes::Shared ? makeWorld(separators) : makeWorldOfOwnCubes(separators);
     const SoRef<SoSeparator> nothing(new SoSeparator);
     const SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
     camera->viewAll(SoBoundingBoxAction().getBox(world.get()), 1);

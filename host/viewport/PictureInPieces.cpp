@@ -28,7 +28,7 @@ PictureInPieces::PictureInPieces(QWidget& surface, ViewSurface::Prepare prepare,
     , m_line(new QLabel(tr("Preparing the picture…"), &surface))
 {
     m_line->setObjectName(QStringLiteral("preparingPicture"));
-    m_line->setAutoFillBackground(true);
+    m_line->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_line->setMargin(4);
     m_line->adjustSize();
     m_line->hide();

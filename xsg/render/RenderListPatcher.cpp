@@ -24,6 +24,14 @@ bool isOutOfOrder(const xsg::RenderList& list)
     return list.outOfOrder > MostOutOfOrder + list.opaque.size() / 8;
 }
 
+// The recorded child before this place; those that are new or not visited are none.
+std::uint32_t lastBefore(const std::vector<std::uint32_t>& entries, std::size_t place)
+{
+    while (place > 0 && entries[place - 1] == xsg::WalkRecord::None)
+        --place;
+    return place == 0 ? xsg::WalkRecord::None : entries[place - 1];
+}
+
 } // namespace
 
 bool xsg::RenderListPatcher::patch(SoNode* root, const RenderView& view)
@@ -59,7 +67,9 @@ void xsg::RenderListPatcher::finish()
     m_geometry.removeUnused();
     m_textures.removeUnused(m_list.drawStates.takeUnusedTextures());
     patchBoxes();
-    m_needsSorting = m_needsSorting || (m_isRestructured && m_list.items.size() < FewItems);
+    // An order that nobody has taken yet must be right.
+    m_needsSorting = m_needsSorting || m_list.changes.all || m_list.changes.orders ||
+                     (m_isRestructured && m_list.items.size() < FewItems);
     if (m_needsSorting || isOutOfOrder(m_list)) {
         m_list.changes.orders = true;
         m_list.sort();
@@ -124,7 +134,7 @@ xsg::RenderListPatcher::Met xsg::RenderListPatcher::meetPlanned(const SoNode* no
     const auto child = static_cast<std::size_t>(getFrames().back().child);
     const std::uint32_t entry = entries[child];
     if (entry == None) {
-        m_open.back().last = child == 0 ? None : entries[child - 1];
+        m_open.back().last = lastBefore(entries, child);
         m_lastItem = findItemBefore();
         return Met::New;
     }
@@ -229,10 +239,7 @@ bool xsg::RenderListPatcher::follow(std::uint32_t entry, WalkRecord::Children& c
     std::vector<std::uint32_t> added;
     for (const SoChildrenChange& change : changes) {
         const std::uint32_t end = change.place + change.removed;
-        std::uint32_t before = change.place; // the child before, if any, is the one before this place
-        while (before > 0 && entries[before - 1] == None)
-            --before;
-        const std::uint32_t previous = before == 0 ? None : entries[before - 1];
+        const std::uint32_t previous = lastBefore(entries, change.place);
         for (std::uint32_t place = change.place; place < end; ++place) {
             if (entries[place] != None && !m_list.record[entries[place]].isIsolated)
                 return false;

@@ -97,7 +97,9 @@ private:
         }
         auto* cube = new SoCube;
         cube->width.setValue(size);
+        // Each of another size: which of two faces in one plane is seen depends on the order of drawing.
         cube->height.setValue(0.3F + 0.1F * number());
+        cube->depth.setValue(0.3F + 0.1F * number());
         return cube;
     }
     SoNode* makeMaterial()
@@ -349,7 +351,7 @@ TEST_F(StructureWalkPicture, APatchedPictureIsAsAFreshOne)
                       RandomScene::Sharing::None);
     root = scene.root;
     renderer().setSamples(4);
-    for (int step = 0; step < 4 && !HasFailure(); ++step) {
+    for (int step = 0; step < 6 && !HasFailure(); ++step) {
         SCOPED_TRACE(step);
         for (int edits = 0; edits < 8; ++edits) {
             scene.change();
