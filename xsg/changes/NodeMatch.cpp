@@ -59,7 +59,8 @@ void NodeMatch::match(SoNode* before, SoNode* after)
 {
     m_oldOf[*after].node = before;
     m_newOf[*before].node = after;
-    m_alignment[*after] = Alignment::Unknown; // and no more what it was as a new group
+    if (after->asGroup())
+        m_alignment[*after] = Alignment::Unknown; // and no more what it was as a new group
 }
 
 // Each node is decided on in its first place.
@@ -72,11 +73,13 @@ void NodeMatch::matchBelow(SoNode* root)
         if (!group)
             continue;
         SoNode* old = oldOf(*group);
+        const bool isSame = isAligned(*group);
+        const std::vector<int>& places = alignmentOf(*group);
         for (int i = 0; i < group->getNumChildren(); ++i) {
             SoNode* child = group->getChild(i);
             if (!m_after.isFirst(*child, group, i) || oldOf(*child))
                 continue;
-            const int place = oldPlaceOf(*group, i);
+            const int place = isSame ? i : places[static_cast<std::size_t>(i)];
             SoNode* candidate = place < 0 ? nullptr : old->asGroup()->getChild(place);
             if (candidate && !newOf(*candidate) && areAlike(*candidate, *child))
                 match(candidate, child);
@@ -179,11 +182,6 @@ const std::vector<int>& NodeMatch::alignmentOf(SoGroup& newGroup)
 {
     static const std::vector<int> none;
     return isAligned(newGroup) ? none : m_places[&newGroup];
-}
-
-int NodeMatch::oldPlaceOf(SoGroup& newGroup, int position)
-{
-    return isAligned(newGroup) ? position : m_places[&newGroup][static_cast<std::size_t>(position)];
 }
 
 void NodeMatch::align(SoGroup& after)

@@ -28,8 +28,6 @@ public:
     /// Where not: for each child the place that it had in the old group; -1 for one that is inserted. Equally
     /// named children keep their order, and are either only inserted or only removed.
     const std::vector<int>& alignmentOf(SoGroup& newGroup);
-    /// The same for one child.
-    int oldPlaceOf(SoGroup& newGroup, int position);
     /// The places of the old group that no child of the new one has.
     std::vector<int> removedFrom(const SoGroup& oldGroup, SoGroup& newGroup);
     /// Whether a node could become the other one by changes of its fields, its name and its children.

@@ -69,8 +69,10 @@ private:
     /// A group whose children are being compared.
     struct Frame {
         SoGroup* group;
+        SoNode* old; // null for a new one
         int next = 0;
         // Where children came, went or moved:
+        const std::vector<int>* places = nullptr;
         std::vector<char> kept; // whether each keeps its place among those that stay
         std::unordered_map<const char*, int> before;
         std::unordered_map<const char*, int> after;
@@ -82,7 +84,7 @@ private:
     void writeRemovals(const Frame& frame, SoGroup* old);
     void visitChild();
     void placeChild(const Frame& frame, int position);
-    void replaceChild(SoGroup& group, int position, int place);
+    void replaceChild(const Frame& frame, int position, int place);
     void insertChild(const Frame& frame, int position);
     Step stepOf(const SoGroup& group, int position);
     SoScenePath pathOf(const SoGroup& group, int position);
@@ -151,10 +153,11 @@ void Comparison::visit(SoNode* node)
 
 void Comparison::openGroup(SoGroup* group)
 {
-    Frame frame{group, 0, {}, {}, {}};
+    Frame frame{group, m_match.oldOf(*group), 0, nullptr, {}, {}, {}};
     if (!m_match.isAligned(*group)) {
-        SoNode* old = m_match.oldOf(*group);
-        frame.kept = keptInOrder(m_match.alignmentOf(*group));
+        SoNode* old = frame.old;
+        frame.places = &m_match.alignmentOf(*group);
+        frame.kept = keptInOrder(*frame.places);
         frame.before = countLabels(old ? old->asGroup() : nullptr);
         frame.after = countLabels(group);
         if (old)
@@ -218,18 +221,19 @@ void Comparison::visitChild()
 
 void Comparison::placeChild(const Frame& frame, int position)
 {
-    const int place = m_match.oldPlaceOf(*frame.group, position);
+    const int place = frame.places ? (*frame.places)[static_cast<std::size_t>(position)] : position;
     if (place < 0)
         return insertChild(frame, position);
     if (!frame.kept.empty() && frame.kept[static_cast<std::size_t>(position)] == 0)
         add(Kind::Order, pathOf(*frame.group, position)).after = anchorOf(*frame.group, position);
-    replaceChild(*frame.group, position, place);
+    replaceChild(frame, position, place);
 }
 
-void Comparison::replaceChild(SoGroup& group, int position, int place)
+void Comparison::replaceChild(const Frame& frame, int position, int place)
 {
+    SoGroup& group = *frame.group;
     SoNode& child = *group.getChild(position);
-    SoNode& old = *m_match.oldOf(group)->asGroup()->getChild(place);
+    SoNode& old = *frame.old->asGroup()->getChild(place);
     if (m_match.oldOf(child) == &old)
         return;
     SceneChange& change = add(Kind::Replace, pathOf(group, position));
