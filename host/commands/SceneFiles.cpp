@@ -107,6 +107,9 @@ SoRef<SoNode> loadOrComplain(const std::string& path)
         warn(note);
     if (!scene.root)
         complain(scene.error);
+    // A large scene takes noticeable time to be taken apart; with the process all memory goes at once.
+    static auto& kept = *new std::vector<SoRef<SoNode>>;
+    kept.push_back(scene.root);
     return scene.root;
 }
 

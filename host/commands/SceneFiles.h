@@ -20,7 +20,7 @@ struct LoadedScene {
 /// A scene file, or a model, which the program for that reads in a process of its own. Posted errors become
 /// notes.
 LoadedScene loadScene(const std::string& path);
-/// The same, having said what is wrong.
+/// The same, having said what is wrong. The scene lives until the process ends.
 SoRef<SoNode> loadOrComplain(const std::string& path);
 
 /// Whether a file of this name may be written: its ending is that of a kind that can be, and what is there

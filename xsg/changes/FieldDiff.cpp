@@ -49,8 +49,7 @@ std::string shownText(std::string text)
     return text + "...";
 }
 
-void FieldDiff::compare(const SoNode* before, const SoNode& after, const SoScenePath& path,
-                        SceneChanges& changes)
+void FieldDiff::compare(const SoNode* before, const SoNode& after, SceneChanges& changes)
 {
     const auto oldField = [&](const SoField& field) {
         return before ? before->getField(field.getName()) : nullptr;
@@ -60,7 +59,7 @@ void FieldDiff::compare(const SoNode* before, const SoNode& after, const SoScene
     forEachField(after, [&](const SoField& field) {
         const SoField* old = next && next->getName() == field.getName() ? next : oldField(field);
         next = old ? before->getFieldData()->getNext(old) : nullptr;
-        compareField(old, field, path, changes);
+        compareField(old, field, changes);
     });
     if (!before || before->getFieldData()->getNumFields() == 0)
         return;
@@ -68,22 +67,27 @@ void FieldDiff::compare(const SoNode* before, const SoNode& after, const SoScene
         if (!isWritten(field) || after.getField(field.getName()))
             return;
         SceneChange& change = changes.emplace_back();
-        change.path = path;
+        change.path = m_match.after().pathOf(after);
         change.path.setField(field.getName().getString());
         change.was = wasText(field);
     });
 }
 
-void FieldDiff::compareField(const SoField* before, const SoField& after, const SoScenePath& path,
-                             SceneChanges& changes)
+SoScenePath FieldDiff::pathOf(const SoField& after)
+{
+    SoScenePath path = m_match.after().pathOf(static_cast<const SoNode&>(*after.getContainer()));
+    path.setField(after.getName().getString());
+    return path;
+}
+
+void FieldDiff::compareField(const SoField* before, const SoField& after, SceneChanges& changes)
 {
     after.evaluate();
     if (before)
         before->evaluate();
     if (!differs(before, after) && !mustKeepValue(after))
         return;
-    SoScenePath place = path;
-    place.setField(after.getName().getString());
+    SoScenePath place = pathOf(after);
     if (before && addElements(*before, after, place, changes))
         return;
     SceneChange& change = changes.emplace_back();
@@ -91,10 +95,8 @@ void FieldDiff::compareField(const SoField* before, const SoField& after, const 
     if (!after.isDefault())
         change.value = fieldText(after, m_match.after());
     change.isIgnored = after.isIgnored();
-    if (const SoField* source = sourceIn(m_match.after(), after)) {
-        change.source = m_match.after().pathOf(static_cast<const SoNode&>(*source->getContainer()));
-        change.source->setField(source->getName().getString());
-    }
+    if (const SoField* source = sourceIn(m_match.after(), after))
+        change.source = pathOf(*source);
     if (before)
         change.was = wasText(*before);
 }

@@ -17,11 +17,11 @@ public:
     }
 
     /// Adds what makes the fields of `before`, or of a fresh node where that is null, those of `after`.
-    void compare(const SoNode* before, const SoNode& after, const SoScenePath& path, SceneChanges& changes);
+    void compare(const SoNode* before, const SoNode& after, SceneChanges& changes);
 
 private:
-    void compareField(const SoField* before, const SoField& after, const SoScenePath& path,
-                      SceneChanges& changes);
+    void compareField(const SoField* before, const SoField& after, SceneChanges& changes);
+    SoScenePath pathOf(const SoField& after);
     bool differs(const SoField* before, const SoField& after);
     bool isSameValue(const SoField& before, const SoField& after) const;
     bool isSameReference(const SoNode* before, const SoNode* after) const;

@@ -59,7 +59,8 @@ void NodeMatch::match(SoNode* before, SoNode* after)
 {
     m_oldOf[*after].node = before;
     m_newOf[*before].node = after;
-    m_alignments.erase(after->asGroup()); // what it was as a new group
+    if (after->asGroup())
+        m_alignment[*after] = Alignment::Unknown; // and no more what it was as a new group
 }
 
 // Each node is decided on in its first place.
@@ -71,13 +72,14 @@ void NodeMatch::matchBelow(SoNode* root)
         open.pop_back();
         if (!group)
             continue;
-        const std::vector<int>& places = alignmentOf(*group);
         SoNode* old = oldOf(*group);
+        const bool isSame = isAligned(*group);
+        const std::vector<int>& places = alignmentOf(*group);
         for (int i = 0; i < group->getNumChildren(); ++i) {
             SoNode* child = group->getChild(i);
             if (!m_after.isFirst(*child, group, i) || oldOf(*child))
                 continue;
-            const int place = places[static_cast<std::size_t>(i)];
+            const int place = isSame ? i : places[static_cast<std::size_t>(i)];
             SoNode* candidate = place < 0 ? nullptr : old->asGroup()->getChild(place);
             if (candidate && !newOf(*candidate) && areAlike(*candidate, *child))
                 match(candidate, child);
@@ -169,32 +171,41 @@ void NodeMatch::matchMoved()
     }
 }
 
-const std::vector<int>& NodeMatch::alignmentOf(SoGroup& newGroup)
+bool NodeMatch::isAligned(SoGroup& newGroup)
 {
-    const auto known = m_alignments.find(&newGroup);
-    if (known != m_alignments.end())
-        return known->second;
-    SoNode* old = oldOf(newGroup);
-    return m_alignments[&newGroup] =
-               old ? align(*old->asGroup(), newGroup) : std::vector<int>(newGroup.getChildren().size(), -1);
+    if (m_alignment.find(newGroup) == Alignment::Unknown)
+        align(newGroup);
+    return m_alignment.find(newGroup) == Alignment::Same;
 }
 
-std::vector<int> NodeMatch::align(SoGroup& before, SoGroup& after)
+const std::vector<int>& NodeMatch::alignmentOf(SoGroup& newGroup)
+{
+    static const std::vector<int> none;
+    return isAligned(newGroup) ? none : m_places[&newGroup];
+}
+
+void NodeMatch::align(SoGroup& after)
+{
+    const SoNode* old = oldOf(after);
+    const SoGroup* before = old ? const_cast<SoNode*>(old)->asGroup() : nullptr;
+    const auto& children = after.getChildren();
+    const auto sameLabel = [](const SoNode* a, const SoNode* b) { return labelOf(*a) == labelOf(*b); };
+    if (before && std::equal(before->getChildren().begin(), before->getChildren().end(), children.begin(),
+                             children.end(), sameLabel)) {
+        m_alignment[after] = Alignment::Same;
+        return;
+    }
+    m_alignment[after] = Alignment::Other;
+    m_places[&after] = before ? alignChildren(*before, after) : std::vector<int>(children.size(), -1);
+}
+
+std::vector<int> NodeMatch::alignChildren(const SoGroup& before, const SoGroup& after)
 {
     struct Places {
         std::vector<int> before;
         std::vector<int> after;
     };
     std::vector<int> result(after.getChildren().size(), -1);
-    const auto& oldChildren = before.getChildren();
-    const auto& newChildren = after.getChildren();
-    const auto sameLabel = [](const SoNode* a, const SoNode* b) { return labelOf(*a) == labelOf(*b); };
-    if (std::equal(oldChildren.begin(), oldChildren.end(), newChildren.begin(), newChildren.end(),
-                   sameLabel)) {
-        for (std::size_t i = 0; i < result.size(); ++i)
-            result[i] = static_cast<int>(i);
-        return result;
-    }
     std::unordered_map<const char*, Places> byLabel;
     for (int i = 0; i < before.getNumChildren(); ++i)
         byLabel[labelOf(*before.getChild(i)).getString()].before.push_back(i);
@@ -255,6 +266,8 @@ void NodeMatch::alignLabel(const SoGroup& before, const std::vector<int>& oldPla
 
 std::vector<int> NodeMatch::removedFrom(const SoGroup& oldGroup, SoGroup& newGroup)
 {
+    if (isAligned(newGroup))
+        return {};
     std::vector<char> stays(oldGroup.getChildren().size(), 0);
     for (const int place : alignmentOf(newGroup))
         if (place >= 0)

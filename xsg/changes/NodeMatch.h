@@ -23,8 +23,10 @@ public:
     SoNode* oldOf(const SoNode& newNode) const { return m_oldOf.find(newNode).node; }
     SoNode* newOf(const SoNode& oldNode) const { return m_newOf.find(oldNode).node; }
 
-    /// For each child of a group of the scene after, the place that it had in the old group; -1 for one that
-    /// is inserted. Equally named children keep their order, and are either only inserted or only removed.
+    /// Whether each child of a group of the scene after has the place of one of the old group, all in order.
+    bool isAligned(SoGroup& newGroup);
+    /// Where not: for each child the place that it had in the old group; -1 for one that is inserted. Equally
+    /// named children keep their order, and are either only inserted or only removed.
     const std::vector<int>& alignmentOf(SoGroup& newGroup);
     /// The places of the old group that no child of the new one has.
     std::vector<int> removedFrom(const SoGroup& oldGroup, SoGroup& newGroup);
@@ -40,7 +42,8 @@ private:
     void match(SoNode* before, SoNode* after);
     void matchBelow(SoNode* after);
     void matchMoved();
-    std::vector<int> align(SoGroup& before, SoGroup& after);
+    void align(SoGroup& after);
+    std::vector<int> alignChildren(const SoGroup& before, const SoGroup& after);
     void alignLabel(const SoGroup& before, const std::vector<int>& oldPlaces, const SoGroup& after,
                     const std::vector<int>& newPlaces, std::vector<int>& result);
 
@@ -49,7 +52,9 @@ private:
     NodeNotes<Link> m_oldOf;
     NodeNotes<Link> m_newOf;
     BranchHash m_hash;
-    std::unordered_map<const SoGroup*, std::vector<int>> m_alignments;
+    enum class Alignment : char { Unknown, Same, Other };
+    NodeNotes<Alignment> m_alignment;
+    std::unordered_map<const SoGroup*, std::vector<int>> m_places; // of the others
     std::vector<SoNode*> m_inserted; // nodes of the scene after that may have been moved
     std::unordered_set<const SoNode*> m_isInserted;
 };

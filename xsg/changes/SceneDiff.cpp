@@ -66,26 +66,29 @@ public:
     SceneChanges run();
 
 private:
+    /// A group whose children are being compared.
     struct Frame {
         SoGroup* group;
-        const std::vector<int>* places;
-        std::vector<char> kept; // empty: all in order
-        SoScenePath path;
+        SoNode* old; // null for a new one
+        int next = 0;
+        // Where children came, went or moved:
+        const std::vector<int>* places = nullptr;
+        std::vector<char> kept; // whether each keeps its place among those that stay
         std::unordered_map<const char*, int> before;
         std::unordered_map<const char*, int> after;
-        std::unordered_map<const char*, int> seen;
-        Step last;
-        int next = 0;
     };
 
     void compareRoots();
-    void visit(SoNode* node, const SoScenePath& path);
-    void openGroup(SoGroup* group, const SoScenePath& path);
+    void visit(SoNode* node);
+    void openGroup(SoGroup* group);
     void writeRemovals(const Frame& frame, SoGroup* old);
     void visitChild();
-    void placeChild(const Frame& frame, int position, const SoScenePath& path);
-    void replaceChild(const Frame& frame, int position, int place, const SoScenePath& path);
-    void insertChild(const Frame& frame, int position, const SoScenePath& path);
+    void placeChild(const Frame& frame, int position);
+    void replaceChild(const Frame& frame, int position, int place);
+    void insertChild(const Frame& frame, int position);
+    Step stepOf(const SoGroup& group, int position);
+    SoScenePath pathOf(const SoGroup& group, int position);
+    std::optional<Step> anchorOf(const SoGroup& group, int position);
     void describeNew(SceneChange& change, const SoNode& node) const;
     bool leavesItsPlace(const SoNode& old);
     SceneChange& add(Kind kind, const SoScenePath& path);
@@ -107,7 +110,7 @@ SceneChange& Comparison::add(Kind kind, const SoScenePath& path)
 SceneChanges Comparison::run()
 {
     compareRoots();
-    visit(m_match.after().getRoot(), {});
+    visit(m_match.after().getRoot());
     while (!m_frames.empty()) {
         if (m_frames.back().next == m_frames.back().group->getNumChildren())
             m_frames.pop_back();
@@ -134,30 +137,27 @@ void Comparison::describeNew(SceneChange& change, const SoNode& node) const
         change.fields = writtenFields(node);
 }
 
-void Comparison::visit(SoNode* node, const SoScenePath& path)
+void Comparison::visit(SoNode* node)
 {
     SoNode* old = m_match.oldOf(*node);
-    if (old && old->getName() != node->getName() &&
-        (path.getSteps().empty() || labelOf(*old) == labelOf(*node))) {
-        SceneChange& change = add(Kind::Rename, path);
+    const bool isRoot = node == m_match.after().getRoot();
+    if (old && old->getName() != node->getName() && (isRoot || labelOf(*old) == labelOf(*node))) {
+        SceneChange& change = add(Kind::Rename, m_match.after().pathOf(*node));
         change.name = nameText(*node);
         change.was = shownText('"' + nameText(*old) + '"');
     }
-    m_fields.compare(old, *node, path, m_changes);
+    m_fields.compare(old, *node, m_changes);
     if (SoGroup* group = node->asGroup())
-        openGroup(group, path);
+        openGroup(group);
 }
 
-void Comparison::openGroup(SoGroup* group, const SoScenePath& path)
+void Comparison::openGroup(SoGroup* group)
 {
-    const std::vector<int>& places = m_match.alignmentOf(*group);
-    SoNode* old = m_match.oldOf(*group);
-    Frame frame{group, &places, {}, path, {}, {}, {}, {}, 0};
-    bool isSame = old && old->asGroup()->getChildren().size() == places.size();
-    for (std::size_t i = 0; isSame && i < places.size(); ++i)
-        isSame = places[i] == static_cast<int>(i);
-    if (!isSame) {
-        frame.kept = keptInOrder(places);
+    Frame frame{group, m_match.oldOf(*group), 0, nullptr, {}, {}, {}};
+    if (!m_match.isAligned(*group)) {
+        SoNode* old = frame.old;
+        frame.places = &m_match.alignmentOf(*group);
+        frame.kept = keptInOrder(*frame.places);
         frame.before = countLabels(old ? old->asGroup() : nullptr);
         frame.after = countLabels(group);
         if (old)
@@ -166,11 +166,28 @@ void Comparison::openGroup(SoGroup* group, const SoScenePath& path)
     m_frames.push_back(std::move(frame));
 }
 
+Step Comparison::stepOf(const SoGroup& group, int position)
+{
+    return {labelOf(*group.getChild(position)).getString(), m_match.after().labelIndexOf(group, position)};
+}
+
+SoScenePath Comparison::pathOf(const SoGroup& group, int position)
+{
+    SoScenePath path = m_match.after().pathOf(group);
+    path.append(stepOf(group, position));
+    return path;
+}
+
+std::optional<Step> Comparison::anchorOf(const SoGroup& group, int position)
+{
+    return position > 0 ? std::optional<Step>(stepOf(group, position - 1)) : std::nullopt;
+}
+
 void Comparison::writeRemovals(const Frame& frame, SoGroup* old)
 {
     for (const int place : m_match.removedFrom(*old, *frame.group)) {
         SoNode* child = old->getChild(place);
-        SceneChange& change = add(Kind::Remove, frame.path);
+        SceneChange& change = add(Kind::Remove, m_match.after().pathOf(*frame.group));
         const SbName label = labelOf(*child);
         change.path.append({label.getString(), m_match.before().labelIndexOf(*old, place)});
         const auto after = frame.after.find(label.getString());
@@ -185,6 +202,8 @@ bool Comparison::leavesItsPlace(const SoNode& old)
     SoNode* newGroup = group ? m_match.newOf(*group) : nullptr;
     if (!newGroup)
         return true;
+    if (m_match.isAligned(*newGroup->asGroup()))
+        return false;
     const std::vector<int>& places = m_match.alignmentOf(*newGroup->asGroup());
     return std::find(places.begin(), places.end(), m_match.before().getPosition(old)) == places.end();
 }
@@ -192,40 +211,34 @@ bool Comparison::leavesItsPlace(const SoNode& old)
 void Comparison::visitChild()
 {
     Frame& frame = m_frames.back();
+    SoGroup* group = frame.group;
     const int position = frame.next++;
-    SoNode* child = frame.group->getChild(position);
-    const SbName label = labelOf(*child);
-    Step step{label.getString(), frame.seen[label.getString()]++};
-    SoScenePath path = frame.path;
-    path.append(step);
-    placeChild(frame, position, path);
-    frame.last = std::move(step);
-    if (m_match.after().isFirst(*child, frame.group, position))
-        visit(child, path);
+    SoNode* child = group->getChild(position);
+    placeChild(frame, position);
+    if (m_match.after().isFirst(*child, group, position))
+        visit(child);
 }
 
-void Comparison::placeChild(const Frame& frame, int position, const SoScenePath& path)
+void Comparison::placeChild(const Frame& frame, int position)
 {
-    const int place = (*frame.places)[static_cast<std::size_t>(position)];
+    const int place = frame.places ? (*frame.places)[static_cast<std::size_t>(position)] : position;
     if (place < 0)
-        return insertChild(frame, position, path);
-    if (!frame.kept.empty() && frame.kept[static_cast<std::size_t>(position)] == 0) {
-        SceneChange& change = add(Kind::Order, path);
-        if (position > 0)
-            change.after = frame.last;
-    }
-    replaceChild(frame, position, place, path);
+        return insertChild(frame, position);
+    if (!frame.kept.empty() && frame.kept[static_cast<std::size_t>(position)] == 0)
+        add(Kind::Order, pathOf(*frame.group, position)).after = anchorOf(*frame.group, position);
+    replaceChild(frame, position, place);
 }
 
-void Comparison::replaceChild(const Frame& frame, int position, int place, const SoScenePath& path)
+void Comparison::replaceChild(const Frame& frame, int position, int place)
 {
-    SoNode& child = *frame.group->getChild(position);
-    SoNode& old = *m_match.oldOf(*frame.group)->asGroup()->getChild(place);
+    SoGroup& group = *frame.group;
+    SoNode& child = *group.getChild(position);
+    SoNode& old = *frame.old->asGroup()->getChild(place);
     if (m_match.oldOf(child) == &old)
         return;
-    SceneChange& change = add(Kind::Replace, path);
+    SceneChange& change = add(Kind::Replace, pathOf(group, position));
     change.was = std::string("a ") + typeNameOf(old).getString();
-    if (!m_match.after().isFirst(child, frame.group, position)) {
+    if (!m_match.after().isFirst(child, &group, position)) {
         change.origin = Origin::Same;
         change.same = m_match.after().pathOf(child);
         return;
@@ -238,17 +251,16 @@ void Comparison::replaceChild(const Frame& frame, int position, int place, const
     change.fields.clear();
 }
 
-void Comparison::insertChild(const Frame& frame, int position, const SoScenePath& path)
+void Comparison::insertChild(const Frame& frame, int position)
 {
     SoNode& child = *frame.group->getChild(position);
     const char* label = labelOf(child).getString();
     const auto before = frame.before.find(label);
     SceneChange change;
     change.kind = Kind::Insert;
-    change.path = path;
+    change.path = pathOf(*frame.group, position);
     change.count = {before == frame.before.end() ? 0 : before->second, frame.after.at(label)};
-    if (position > 0)
-        change.after = frame.last;
+    change.after = anchorOf(*frame.group, position);
     if (!m_match.after().isFirst(child, frame.group, position)) {
         change.origin = Origin::Same;
         change.same = m_match.after().pathOf(child);

@@ -36,6 +36,8 @@ xsg::NodePlaces::NodePlaces(SoNode* root)
 
 bool xsg::NodePlaces::isFirst(const SoNode& node, const SoGroup* parent, int position) const
 {
+    if (node.getParents().size() == 1)
+        return true; // it has no other place
     const Place place = m_places.find(node);
     return place.parent == parent && place.position == position;
 }

@@ -25,6 +25,7 @@ public:
     /// Null for the root.
     SoGroup* getParent(const SoNode& node) const { return m_places.find(node).parent; }
     int getPosition(const SoNode& node) const { return m_places.find(node).position; }
+    /// Of a place where the node stands.
     bool isFirst(const SoNode& node, const SoGroup* parent, int position) const;
     /// Of a node of the scene.
     SoScenePath pathOf(const SoNode& node);

@@ -165,11 +165,17 @@ private:
         if (!sources.empty())
             field->connectFrom(any(sources));
     }
+    /// None that refers to others: what was taken out of the scene would then keep itself alive.
+    SoRef<SoNode> anyReferred()
+    {
+        SoNode* node = any(m_nodes);
+        return node->asGroup() || dynamic_cast<SoFieldGallery*>(node) ? SoRef<SoNode>() : SoRef<SoNode>(node);
+    }
     void write(SoNode* node, SoField* field)
     {
         if (auto* gallery = dynamic_cast<SoFieldGallery*>(node); gallery && below(2) == 0) {
-            gallery->sfNode.setValue(SoRef<SoNode>(any(m_nodes)));
-            gallery->mfNode.set1Value(below(3), SoRef<SoNode>(any(m_nodes)));
+            gallery->sfNode.setValue(anyReferred());
+            gallery->mfNode.set1Value(below(3), anyReferred());
             gallery->mfFloat.set1Value(below(6), static_cast<float>(below(9)) / 2);
             gallery->sfString.setValue(below(2) == 0 ? "line\nline # no comment" : "}");
             return;
