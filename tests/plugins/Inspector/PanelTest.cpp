@@ -645,6 +645,22 @@ TEST_F(Panel, AMatrixIsMovedTurnedAndScaledAndTheRestKeepsItsBits)
     EXPECT_EQ(transform->matrix.getValue(), before);
 }
 
+TEST_F(Panel, ScalingOneAxisOfATurnedMatrixKeepsTheBitsOfTheOthers)
+{
+    const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
+    const SbMatrix before =
+        SbMatrix::scale({2.3F, 0.7F, Exact}) * SbMatrix::rotation(SbRotation(SbVec3f(1, 2, 3), 0.7F));
+    transform->matrix.setValue(before);
+    session.selectNode(transform.get());
+    chooseForm("matrix", 1);
+    session.enter(session.number("matrix", 23), "6");
+    EXPECT_NE(transform->matrix.getValue(), before);
+    for (int row : {0, 2, 3}) {
+        for (int column = 0; column < 4; ++column)
+            EXPECT_EQ(transform->matrix.getValue()[row][column], before[row][column]) << row << column;
+    }
+}
+
 TEST_F(Panel, AScaleOf0KeepsTheTurn)
 {
     const SoRef<SoMatrixTransform> transform(new SoMatrixTransform);
