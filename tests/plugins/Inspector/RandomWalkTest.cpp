@@ -261,7 +261,7 @@ TEST_F(Walk, UndoingAllRestoresEveryBitOfEveryTypeOfNode)
         std::remove_if(types.begin(), types.end(), [](SoType type) { return !type.canCreateInstance(); }),
         types.end());
     ASSERT_GT(types.size(), 30U);
-    const int steps = std::max(3, setting("SCOPIX_WALK_STEPS", 2000) / int(types.size()));
+    const int steps = std::max(3, setting("SCOPIX_WALK_STEPS", 4000) / int(types.size()));
     int changes = 0;
     for (const SoType type : types) {
         SCOPED_TRACE(type.getName().getString());
@@ -273,7 +273,7 @@ TEST_F(Walk, UndoingAllRestoresEveryBitOfEveryTypeOfNode)
         for (int i = 0; i < steps; ++i)
             step(node.get());
         session.selectNode(nullptr);
-        changes += session.stack().index();
+        changes += session.stack().count();
         session.stack().setIndex(0);
         session.settle();
         EXPECT_EQ(textsOf(*node), before);
