@@ -120,12 +120,12 @@ protected:
     void chooseOrClose(QMenu& menu)
     {
         const QList<QAction*> actions = menu.actions();
-        QAction* action = actions.isEmpty() ? nullptr : actions[below(actions.size())];
-        if (!action || !isHarmless(*action) || below(2))
+        const int place = below(actions.size());
+        if (actions.isEmpty() || !isHarmless(*actions[place]) || below(2))
             return void(menu.close());
         // Not in the timer's own time, which does not run again while a dialog that opens is waiting.
-        QTimer::singleShot(0, &menu, [&menu, action = QPointer<QAction>(action)] {
-            menu.setActiveAction(action);
+        QTimer::singleShot(0, &menu, [&menu, place] {
+            menu.setActiveAction(menu.actions().value(place));
             QTest::keyClick(&menu, Qt::Key_Return);
         });
     }
