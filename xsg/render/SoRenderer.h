@@ -43,8 +43,8 @@ public:
     void setBackground(const SbColor& color, float opacity = 1);
     /// Draws the edges of everything instead of surfaces.
     void setWireframe(bool on);
-    /// What of the scene is left out of the picture; it is asked at each render() and must outlive them. Null,
-    /// as at first: nothing.
+    /// What of the scene is left out of the picture; it is asked at each render() and must outlive them.
+    /// Null, as at first: nothing.
     void setHiding(const SoHiding* hiding);
     /// Marks this node and what is below it with a line around it; null for none. Where something else covers
     /// it, the line is weaker. The node may be destroyed at any time.
