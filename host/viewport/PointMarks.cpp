@@ -64,7 +64,7 @@ SbColor toColor(const QColor& c)
 
 PointMarks::PointMarks(SceneView& view)
     : m_view(view)
-    , m_sensor(sceneChanged, this)
+    , m_sensor(sensorTriggered, this)
 {
     m_view.addTool(this);
 }
@@ -94,7 +94,7 @@ void PointMarks::set(const void* owner, const SoPath& place, std::vector<SbVec3f
     m_view.redraw();
 }
 
-void PointMarks::sceneChanged(void* self, SoSensor* /*sensor*/)
+void PointMarks::sensorTriggered(void* self, SoSensor* /*sensor*/)
 {
     auto* marks = static_cast<PointMarks*>(self);
     marks->m_isOld = true;

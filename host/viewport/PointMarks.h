@@ -41,7 +41,7 @@ private:
         std::vector<SbVec3f> points;
         std::vector<SbVec3f> world; // as of the last look at the scene
     };
-    static void sceneChanged(void* self, SoSensor* sensor);
+    static void sensorTriggered(void* self, SoSensor* sensor);
     void place();
     void drawPoint(SoOverlay& overlay, const SbVec3f& point) const;
 

@@ -211,6 +211,7 @@ void SceneFiles::exportTo(const QString& path)
                              .arg(path, SceneExport::endings().join(QStringLiteral(", "))));
         return;
     }
+    m_document.preview().showPresent(); // as saving does
     const SceneExport scene(*m_document.getRoot(), path);
     if (m_notifier.isAttended() && !confirmLosses(m_window, path, scene))
         return;

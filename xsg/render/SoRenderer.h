@@ -71,8 +71,8 @@ public:
     /// Cuts the scene by this plane too, in world coordinates: what lies on its normal's side stays. Null for
     /// none.
     void setClipPlane(const SbPlane* plane);
-    /// What of the scene is left out of the picture; it is asked at each render() and must outlive them. Null,
-    /// as at first: nothing.
+    /// What of the scene is left out of the picture; it is asked at each render() and must outlive them.
+    /// Null, as at first: nothing.
     void setHiding(const SoHiding* hiding);
     /// Marks this node and what is below it with a line around it; null for none. Where something else covers
     /// it, the line is weaker. The node may be destroyed at any time.
