@@ -254,7 +254,8 @@ TEST_F(Acts, HoveringShowsWhatAClickWouldSelectWithoutAnotherPicture)
     EXPECT_FALSE(hasMarks(sheet(), around));
     action("hoverAction")->trigger();
     hover({-3, 0, 1});
-    EXPECT_FALSE(QTest::qWaitFor([&] { return hasMarks(sheet(), around); }, 200));
+    settle();
+    EXPECT_FALSE(hasMarks(sheet(), around));
     action("hoverAction")->trigger();
 }
 
