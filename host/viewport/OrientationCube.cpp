@@ -17,6 +17,7 @@ namespace scopix
 namespace
 {
 
+constexpr double Sheet = 60;    // on which a text is set, before it is laid on its face
 constexpr double HalfSide = 26; // pixels
 constexpr double Margin = 56;   // from the view's corner to the cube's middle
 constexpr double Reach = 1.8;   // half sides: whatever the cube's turn, all of it is within
@@ -193,19 +194,28 @@ void OrientationCube::paint(QPainter& painter, const ViewSight& sight)
             if (m_hovered && cell.side == *m_hovered)
                 painter.drawPolygon(cell.outline);
         }
-        constexpr double Sheet = 60; // on which the text is set, before it is laid on the face
         const QPolygonF sheet(QVector<QPointF>{{0, 0}, {Sheet, 0}, {Sheet, Sheet}, {0, Sheet}});
         QTransform onFace;
         if (face.towards < 0.3F || !QTransform::quadToQuad(sheet, face.outline, onFace))
             continue;
-        QFont font = m_view.font();
-        font.setPixelSize(15);
-        // As an outline: text on a tilted face may come out otherwise the second time.
-        QPainterPath text;
-        text.addText(0, 0, font, face.text);
-        text.translate(QPointF(Sheet, Sheet) / 2 - text.boundingRect().center());
-        painter.fillPath(onFace.map(text), palette.color(QPalette::ButtonText));
+        painter.fillPath(onFace.map(outlineOf(face.text)), palette.color(QPalette::ButtonText));
     }
+}
+
+// Kept: a font engine may give outlines that differ a little the second time, and pictures with them.
+const QPainterPath& OrientationCube::outlineOf(const QString& text)
+{
+    if (m_font != m_view.font())
+        m_outlines.clear();
+    m_font = m_view.font();
+    const auto [known, isNew] = m_outlines.emplace(text, QPainterPath());
+    if (isNew) {
+        QFont font = m_font;
+        font.setPixelSize(15);
+        known->second.addText(0, 0, font, text);
+        known->second.translate(QPointF(Sheet, Sheet) / 2 - known->second.boundingRect().center());
+    }
+    return known->second;
 }
 
 std::optional<QCursor> OrientationCube::getCursor() const

@@ -5,8 +5,11 @@
 
 #include <xsg/values/SbVec.h>
 
+#include <QFont>
+#include <QPainterPath>
 #include <QPolygonF>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -56,6 +59,7 @@ private:
     std::optional<SbVec3f> sideAt(const QPointF& place) const;
     bool isAt(const QPointF& place) const;
     void hover(const std::optional<SbVec3f>& side);
+    const QPainterPath& outlineOf(const QString& text);
 
     SceneView& m_view;
     bool m_isShown = true;
@@ -64,6 +68,8 @@ private:
     bool m_hasMoved = false;
     QPointF m_pressed;
     QPointF m_last;
+    std::map<QString, QPainterPath> m_outlines; // of texts in this font
+    QFont m_font;
 };
 
 } // namespace scopix

@@ -177,6 +177,9 @@ private:
     void planMask(const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs);
     void drawCallbacks();
     std::int64_t planVisible();
+    /// Returns how many items are in sight.
+    template <class Act>
+    std::int64_t forEachVisible(const Act& act) const;
     void planBothSides(const xsg::InstanceList& instances, const xsg::Run& run);
     void plan(const xsg::InstanceList& instances, const xsg::Run& run, Faces faces = Faces::Both,
               bool isMirrored = false);
@@ -625,6 +628,15 @@ void SoRenderer::Impl::updateOpaque(const xsg::Frustum& frustum)
 // What is in sight, batch by batch. Returns how much that is.
 std::int64_t SoRenderer::Impl::planVisible()
 {
+    return forEachVisible([&](const xsg::Run& part, const xsg::GpuGeometry& geometry) {
+        plan(m_opaque, part);
+        countDrawn(geometry, part.end - part.first);
+    });
+}
+
+template <class Act>
+std::int64_t SoRenderer::Impl::forEachVisible(const Act& act) const
+{
     std::int64_t seen = 0;
     auto run = m_visible.begin();
     for (const xsg::Run& batch : m_opaque.getBatches()) {
@@ -642,8 +654,7 @@ std::int64_t SoRenderer::Impl::planVisible()
                 seen += std::min(run->end, batch.end) - run->first;
                 part.end = std::min(run->end, batch.end);
             }
-            plan(m_opaque, part);
-            countDrawn(geometry, part.end - part.first);
+            act(part, geometry);
             if (run->end > batch.end)
                 break; // the run continues in the next batch
             ++run;
@@ -749,15 +760,15 @@ void SoRenderer::Impl::planEdges()
     m_nextTask = 0;
     if (shading != Shading::WithEdges || !m_isShaded)
         return;
-    const auto planTriangles = [this](const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs) {
-        instances.forEachPart(runs, [&](const xsg::Run& run) {
-            if (instances.getItem(m_list.items, run.first).geometry->kind == SoGeometry::Kind::Triangles)
-                plan(instances, run);
-        });
+    const auto planTriangles = [this](const xsg::InstanceList& instances, const xsg::Run& run) {
+        if (instances.getItem(m_list.items, run.first).geometry->kind == SoGeometry::Kind::Triangles)
+            plan(instances, run);
     };
-    planTriangles(m_opaque, m_visible);
+    forEachVisible(
+        [&](const xsg::Run& run, const xsg::GpuGeometry& /*geometry*/) { planTriangles(m_opaque, run); });
     m_opaqueTasks = m_tasks.size();
-    planTriangles(m_transparent, m_transparent.getBatches());
+    for (const xsg::Run& batch : m_transparent.getBatches())
+        planTriangles(m_transparent, batch);
 }
 
 void SoRenderer::Impl::planMask(const xsg::InstanceList& instances, const std::vector<xsg::Run>& runs)

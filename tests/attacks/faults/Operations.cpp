@@ -171,7 +171,7 @@ void preparePicture(const QString& folder)
     makePicture(100).save(folder + Picture);
 }
 
-Outcome writePicture(const QString& folder)
+Outcome writeScreenshot(const QString& folder)
 {
     QLabel window;
     window.setPixmap(QPixmap::fromImage(makePicture(120)));
@@ -315,7 +315,7 @@ std::vector<Operation> allOperations()
         {"WriteProfiles", Operation::Writes, Operation::Speaks, prepareProfiles, writeProfiles},
         {"ReadProfiles", Operation::Reads, Operation::Speaks, prepareProfiles, readProfiles},
         {"WriteRecentFiles", Operation::Writes, Operation::IsSilent, prepareRecent, writeRecent},
-        {"WritePicture", Operation::Writes, Operation::Speaks, preparePicture, writePicture},
+        {"WritePicture", Operation::Writes, Operation::Speaks, preparePicture, writeScreenshot},
         {"ReadPicture", Operation::Reads, Operation::IsSilent, preparePicture, readPicture},
         {"CheckPlugin", Operation::Reads, Operation::Speaks, prepareLibrary, checkLibrary},
         {"LoadPlugin", Operation::Reads, Operation::Speaks, prepareLibrary, loadLibrary},
