@@ -2,8 +2,10 @@
 // The way of a picture to the screen: from a model's file over OpenGL inside the window, and through an edit.
 #include <support/Session.h>
 
+#include "viewport/OrientationCube.h"
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
+#include "window/ViewActions.h"
 
 #include <xsg/errors/SoGLError.h>
 
@@ -77,6 +79,7 @@ protected:
 TEST_F(OpenGLView, ShowsTheModelInTheWindow)
 {
     ASSERT_TRUE(surface()) << "the view draws no OpenGL in its window";
+    window().getViewActions().getCube().setShown(false); // it lies on a sheet over the picture
     const QImage before = onScreen();
     ASSERT_TRUE(open("crate.gltf"));
     const QImage shown = waitForAnotherThan(before);

@@ -70,6 +70,12 @@ QString tableOf(const SoNode& node)
     return table.isEmpty() ? table : "\n| field | type | default | |\n|---|---|---|---|\n" + table;
 }
 
+// They show nothing themselves.
+bool hasALook(const QString& node)
+{
+    return node != QLatin1String("Info") && node != QLatin1String("UnknownNode");
+}
+
 QString sectionOf(const NodeDescription& described)
 {
     const QString name = text(described.node);
@@ -77,7 +83,7 @@ QString sectionOf(const NodeDescription& described)
     const SoType type = SoType::fromName(SbName(std::string(described.node).c_str()));
     const SoRef<SoNode> node(dynamic_cast<SoNode*>(type.createInstance()));
     QString section = "\n### " + name + '\n';
-    if (QFile::exists(QStringLiteral(SCOPIX_SOURCE_DIR "/docs/") + picture))
+    if (hasALook(name) && QFile::exists(QStringLiteral(SCOPIX_SOURCE_DIR "/docs/") + picture))
         section += QStringLiteral("\n![A picture made with %1](%2)\n").arg(name, picture);
     return section + '\n' + text(described.meaning) + '\n' + (node ? tableOf(*node) : QString());
 }

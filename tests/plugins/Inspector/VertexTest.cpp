@@ -2,9 +2,11 @@
 // Rows of a list and the 3D view know each other: selected vertices are marked, clicked ones are gone to.
 #include "InspectorSession.h"
 
+#include "viewport/OrientationCube.h"
 #include "viewport/PointMarks.h"
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
+#include "window/ViewActions.h"
 #include "window/ViewPoints.h"
 
 #include <xsg/nodes/groups/SoSeparator.h>
@@ -42,6 +44,7 @@ protected:
             group->addChild(child);
         root->addChild(group);
         window().setScene(root.get(), "test");
+        window().getViewActions().getCube().setShown(false); // it lies over a corner
         session.settle();
         view().viewAll();
     }
