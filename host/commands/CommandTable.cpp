@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <exception>
 #include <limits>
 #include <memory>
@@ -20,6 +21,13 @@ namespace
 constexpr std::size_t Any = std::numeric_limits<std::size_t>::max();
 const Command::Option Json{"json", nullptr, "Write JSON instead of text."};
 const Command::Option Out{"o", "OUT", "Write this file and leave FILE as it is; \"-\" is standard output."};
+
+// Up to where more is said of it; points also stand before endings of files.
+std::string firstSentence(const std::string& text)
+{
+    const std::string first = text.substr(0, std::min(text.find(". "), text.find("; ")));
+    return first.back() == '.' ? first : first + '.';
+}
 
 } // namespace
 
@@ -87,11 +95,14 @@ const std::vector<Command>& allCommands()
          applyPatch},
         {"convert",
          "IN OUT",
-         "Reads a scene or model and writes it as a file of the kind that the ending of OUT says: .xsg.",
+         "Reads a scene or model and writes it as a file of the kind that the ending of OUT says: .xsg, "
+         ".glb, "
+         ".gltf, .obj, .ply or .stl. What such a file cannot keep is said on standard error.",
          2,
          2,
          {},
          {{"scopix convert lighthouse.glb lighthouse.xsg", "a model becomes a scene"},
+          {"scopix convert lamp.xsg lamp.glb", "for other programs"},
           {"scopix convert lighthouse.glb -", "writes the scene to standard output"}},
          "0",
          convertFile},
@@ -152,7 +163,7 @@ std::string commandList()
         std::string line = std::string("  ") + command.name + " " + command.usage;
         line.resize(std::max<std::size_t>(line.size() + 1, 27), ' ');
         const std::string summary = command.summary;
-        text += line + summary.substr(0, summary.find_first_of(".;") + 1) + "\n";
+        text += line + firstSentence(summary) + "\n";
     }
     return text;
 }

@@ -5,6 +5,7 @@
 #include "commands/PostedNotes.h"
 #include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
+#include "export/SceneExport.h"
 #include "import/ModelImport.h"
 #include "model/FileChecks.h"
 #include "support/OutputFile.h"
@@ -17,35 +18,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <array>
-
 namespace scopix
 {
 
 namespace
 {
-
-/// A kind of file that can be written.
-struct Writer {
-    const char* ending;
-    bool (*write)(SoNode* root, const std::string& path, std::string& error);
-};
-
-bool writeSceneFile(SoNode* root, const std::string& path, std::string& error)
-{
-    return SoSceneFile::write(root, path, error);
-}
-
-constexpr std::array Writers{Writer{"xsg", writeSceneFile}};
-
-const Writer* writerOf(const std::string& path)
-{
-    const QString ending = QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower();
-    for (const Writer& writer : Writers)
-        if (ending == QLatin1String(writer.ending))
-            return &writer;
-    return nullptr;
-}
 
 QString folderOf(const std::string& path)
 {
@@ -55,6 +32,24 @@ QString folderOf(const std::string& path)
 bool isSceneFile(const std::string& path)
 {
     return QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower() == SceneDocument::sceneEnding();
+}
+
+bool save(SoNode* root, const std::string& path, std::string& error)
+{
+    movePictures(root, folderOf(path));
+    return SoSceneFile::write(root, path, error);
+}
+
+bool exportTo(SoNode* root, const std::string& path, std::string& error)
+{
+    const SceneExport scene(*root, QFile::decodeName(path.c_str()));
+    const QString losses = scene.getLosses().join(QStringLiteral("; "));
+    if (!losses.isEmpty())
+        warn(QStringLiteral("“%1” leaves out: %2.")
+                 .arg(QFile::decodeName(path.c_str()), losses)
+                 .toStdString());
+    error = scene.write().toStdString();
+    return error.empty();
 }
 
 void readModel(const std::string& path, LoadedScene& scene)
@@ -115,9 +110,9 @@ SoRef<SoNode> loadOrComplain(const std::string& path)
 
 std::vector<std::string> writtenEndings()
 {
-    std::vector<std::string> endings;
-    for (const Writer& writer : Writers)
-        endings.emplace_back(writer.ending);
+    std::vector<std::string> endings{SceneDocument::sceneEnding().toStdString()};
+    for (const QString& ending : SceneExport::endings())
+        endings.push_back(ending.toStdString());
     return endings;
 }
 
@@ -141,9 +136,8 @@ bool writeScene(SoNode* root, const std::string& path)
         print(SoSceneFile::writeText(root));
         return finishPrinting();
     }
-    movePictures(root, folderOf(path));
     std::string error;
-    const bool isWritten = writerOf(path)->write(root, path, error);
+    const bool isWritten = isSceneFile(path) ? save(root, path, error) : exportTo(root, path, error);
     if (!isWritten)
         complain(error);
     return isWritten;

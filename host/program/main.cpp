@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The program: runs a command without a window, or reads the command line, chooses the window system and hands
-// over to the host.
+// The program: runs a command without a window, or reads the command line, chooses the window system and
+// hands over to the host.
 #include "program/EndOfSession.h"
 
 #include <scopix-host/Commands.h>

@@ -126,7 +126,7 @@ private:
     SceneStates* m_states;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
-    HelpWindow* m_help = nullptr; // as soon as help is asked for
+    HelpWindow* m_help = nullptr;               // as soon as help is asked for
     std::unique_ptr<ViewActions> m_viewActions; // as well
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;

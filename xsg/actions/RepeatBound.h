@@ -9,8 +9,8 @@ class SoNode;
 namespace xsg
 {
 
-/// Posts an SoError, the first time that this is said of this root: its name (or "The scene"), a blank and the rest of the
-/// sentence.
+/// Posts an SoError, the first time that this is said of this root: its name (or "The scene"), a blank and
+/// the rest of the sentence.
 void reportBound(const SoNode& root, const std::string& rest);
 
 /// The same, of a walk over what groups share.

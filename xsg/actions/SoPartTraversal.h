@@ -3,9 +3,9 @@
 
 #include <xsg/actions/SoPathTraversal.h>
 
-/// Walks the part of a scene that a path leads to, with the state as it is there, and ends with the part. Where
-/// a node stands twice in the same group, the first place counts. A derived class says what to do with the
-/// part's shapes.
+/// Walks the part of a scene that a path leads to, with the state as it is there, and ends with the part.
+/// Where a node stands twice in the same group, the first place counts. A derived class says what to do with
+/// the part's shapes.
 class XSG_API SoPartTraversal : protected SoPathTraversal
 {
 protected:

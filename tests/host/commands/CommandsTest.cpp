@@ -156,8 +156,18 @@ TEST_F(Commands, ConvertReadsModelsAndWritesScenes)
     write("empty.obj", "");
     expectRefusal({"convert", "bad.glb", "out.xsg"}, "bad.glb");
     expectRefusal({"convert", "empty.obj", "out.xsg"}, "empty.obj");
-    expectRefusal({"convert", "lamp.xsg", "out.glb"}, "expected to end in .xsg");
+    expectRefusal({"convert", "lamp.xsg", "out.fbx"}, "expected to end in .xsg");
     expectRefusal({"convert", "lamp.xsg"}, "it expects IN OUT");
+}
+
+TEST_F(Commands, ConvertWritesModelsAndSaysWhatTheyCannotKeep)
+{
+    for (const char* name : {"out.glb", "out.gltf", "out.obj", "out.ply", "out.stl"}) {
+        const Outcome outcome = run({"convert", "lamp.xsg", name});
+        EXPECT_EQ(outcome.status, 0) << name << ": " << qPrintable(outcome.said);
+        EXPECT_EQ(run({"stats", name}).status, 0) << name;
+    }
+    EXPECT_TRUE(run({"convert", "lamp.xsg", "out.stl"}).said.contains("materials"));
 }
 
 TEST_F(Commands, PictureDrawsWithoutADisplay)
