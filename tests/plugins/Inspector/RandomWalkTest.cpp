@@ -279,7 +279,7 @@ TEST_F(Walk, UndoingAllRestoresEveryBitOfEveryTypeOfNode)
         EXPECT_EQ(textsOf(*node), before);
         session.host.services().history().clear();
     }
-    EXPECT_GT(changes, 20);
+    EXPECT_GT(changes, steps / 10);
     const QString told = QString::fromStdString(warnings.all());
     for (const QString& warning : told.split('\n', Qt::SkipEmptyParts))
         EXPECT_TRUE(warning.startsWith("This plugin does not support")) << qPrintable(warning);
