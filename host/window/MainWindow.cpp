@@ -231,8 +231,9 @@ void MainWindow::addHandles(QMenu& menu)
 {
     m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
     menu.addSeparator();
-    menu.addActions(m_handleActions->getModes());
-    menu.addAction(m_handleActions->getOwnAxes());
+    QMenu* handles = menu.addMenu(tr("Handles in the 3D View"));
+    handles->addActions(m_handleActions->getModes());
+    handles->addAction(m_handleActions->getOwnAxes());
     connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
 }
 
