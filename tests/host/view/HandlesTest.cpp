@@ -69,16 +69,24 @@ protected:
         window.getTree().selectNode(node);
         settle();
     }
+    void selectAll(const std::vector<SoNode*>& nodes)
+    {
+        QList<SoFieldContainer*> all;
+        for (SoNode* node : nodes)
+            all << node;
+        services.selectNodes(all);
+        settle();
+    }
     void send(QEvent::Type type, const QPointF& at, Qt::MouseButton button, Qt::MouseButtons held,
               Qt::KeyboardModifiers keys = {})
     {
         QMouseEvent event(type, at, view.mapToGlobal(at.toPoint()), button, held, keys);
         QCoreApplication::sendEvent(&view, &event);
     }
-    void press(const QPointF& at)
+    void press(const QPointF& at, Qt::KeyboardModifiers keys = {})
     {
-        send(QEvent::MouseMove, at, Qt::NoButton, {});
-        send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, at, Qt::NoButton, {}, keys);
+        send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, keys);
     }
     void moveTo(const QPointF& at, Qt::KeyboardModifiers keys = {})
     {
@@ -319,6 +327,129 @@ TEST_F(Handles, AWholePartIsMovedByItsOwnTransform)
     }
 }
 
+TEST_F(Handles, SeveralSelectedNodesAreMovedTogetherInOneStep)
+{
+    SoTransform* left = addPart({-3, 0, 0});
+    SoTransform* right = addPart({3, 0, 0});
+    SoTransform* third = addPart({0, 3, 0});
+    right->rotation.setValue(SbRotation({0, 1, 0}, 0.5F));
+    show();
+    selectAll({scene->getChild(0), scene->getChild(1)});
+    key(Qt::Key_W);
+    EXPECT_EQ(handles.getTarget()->getNode(), right) << "the handles are where the last one is";
+    EXPECT_EQ(handles.getTargetCount(), 2);
+    EXPECT_EQ(told.last(), "The handles change 2 nodes together.");
+    const std::string before = text();
+    const QPointF at = placeOf(HandlePart::X);
+    drag(at, at + (at - handles.getShape().getCenter()) * 0.6);
+    const float by = right->translation.getValue()[0] - 3;
+    EXPECT_GT(by, 0.1F);
+    EXPECT_NEAR(left->translation.getValue()[0], -3 + by, 1e-5F);
+    EXPECT_EQ(third->translation.getValue(), SbVec3f(0, 3, 0));
+    EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(services.getSelectedNodes().size(), 2);
+    const std::string after = text();
+    undo();
+    EXPECT_EQ(text(), before);
+    services.undoStack().redo();
+    EXPECT_EQ(text(), after);
+    undo();
+    // By keys, each around its own place; given back, nothing stays.
+    key(Qt::Key_E);
+    key(Qt::Key_Z);
+    type("90");
+    EXPECT_NE(text(), before);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(text(), before);
+    key(Qt::Key_Z);
+    type("90");
+    key(Qt::Key_Return);
+    EXPECT_EQ(left->translation.getValue(), SbVec3f(-3, 0, 0));
+    EXPECT_LT((left->rotation.getValue().multVec({1, 0, 0}) - SbVec3f(0, 1, 0)).length(), 1e-5F);
+    EXPECT_EQ(steps(), 1);
+    undo();
+    EXPECT_EQ(text(), before);
+    // One that is taken away stays where it is, though the last one is the same.
+    selectAll({scene->getChild(2), scene->getChild(0), scene->getChild(1)});
+    EXPECT_EQ(handles.getTargetCount(), 3);
+    selectAll({scene->getChild(0), scene->getChild(1)});
+    EXPECT_EQ(handles.getTargetCount(), 2);
+}
+
+TEST_F(Handles, WhatIsBelowAnotherSelectedNodeIsNotMovedTwice)
+{
+    auto* house = add<SoSeparator>();
+    auto* place = add<SoTransform>(house);
+    auto* door = add<SoSeparator>(house);
+    auto* hinge = add<SoTransform>(door);
+    auto* wood = add<SoCube>(door);
+    add<SoCube>(house);
+    show();
+    const auto expectOne = [&](const std::vector<SoNode*>& nodes, SoNode* moved) {
+        selectAll(nodes);
+        handles.setMode(HandleMode::Move);
+        EXPECT_EQ(handles.getTargetCount(), 1);
+        ASSERT_TRUE(handles.getTarget());
+        EXPECT_EQ(handles.getTarget()->getNode(), moved);
+        key(Qt::Key_X);
+        type("2");
+        key(Qt::Key_Return);
+        EXPECT_EQ(place->translation.getValue(), moved == place ? SbVec3f(2, 0, 0) : SbVec3f());
+        EXPECT_EQ(hinge->translation.getValue(), moved == hinge ? SbVec3f(2, 0, 0) : SbVec3f());
+        undo();
+    };
+    expectOne({house, wood}, place);
+    expectOne({wood, house}, place);
+    expectOne({place, door}, place);
+    expectOne({door, wood, hinge}, hinge);
+}
+
+TEST_F(Handles, SeveralPartsWithoutATransformGetOneEach)
+{
+    auto* look = add<SoSeparator>();
+    auto* left = add<SoCube>(look);
+    auto* right = add<SoSphere>(look);
+    add<SoCube>(look);
+    SoTransform* other = addPart({4, 0, 0});
+    show();
+    SoNode* const part = scene->getChild(1);
+    const std::vector<SoNode*> all{part, right, left};
+    selectAll(all);
+    key(Qt::Key_W);
+    EXPECT_EQ(told.last(), "The handles change 3 parts together; dragging puts a Transform above 2 of them.");
+    const std::string before = text();
+    key(Qt::Key_Y);
+    type("3");
+    key(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(told.last(), "Put a Transform above each of 2 parts.");
+    EXPECT_EQ(other->translation.getValue(), SbVec3f(4, 3, 0));
+    for (int i : {0, 1}) {
+        ASSERT_TRUE(look->getChild(i)->asGroup());
+        auto* added = dynamic_cast<SoTransform*>(look->getChild(i)->asGroup()->getChild(0));
+        ASSERT_TRUE(added);
+        EXPECT_EQ(added->translation.getValue(), SbVec3f(0, 3, 0));
+    }
+    const QList<SoFieldContainer*> nodes{part, right, left};
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    EXPECT_EQ(steps(), 1);
+    const std::string after = text();
+    undo();
+    EXPECT_EQ(text(), before);
+    services.undoStack().redo();
+    settle();
+    EXPECT_EQ(text(), after);
+    undo();
+    selectAll(all);
+    key(Qt::Key_Y);
+    type("3");
+    key(Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    EXPECT_EQ(steps(), 0);
+}
+
 // Whatever stands above: what is taken hold of stays under the mouse.
 TEST_F(Handles, FollowTheMouseUnderStretchedAndMirroredParents)
 {
@@ -530,6 +661,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
     const auto below = [&random](int bound) {
         return static_cast<int>(random() % static_cast<unsigned>(bound));
     };
+    int together = 0;
     for (const char* model : {"lighthouse.glb", "crate.gltf"}) {
         bool isOpen = false;
         const auto opened =
@@ -546,8 +678,10 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
         for (int step = 0; step < std::max(wanted, 40); ++step) {
             all.apply(window.getScene());
             const auto& paths = all.getPaths();
-            window.getTree().selectPath(
-                paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))]);
+            QList<SoPath> chosen;
+            for (int more = below(3) == 0 ? 1 + below(5) : 1; more > 0; --more)
+                chosen << paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))];
+            services.selectPaths(chosen);
             SoSensorQueue::getInstance().process();
             handles.setMode(HandleMode(1 + below(3)));
             handles.setOfWorld(below(2) == 0);
@@ -569,6 +703,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
                 EXPECT_LE(steps(), known + 1);
             }
             dragged += steps() > known ? 1 : 0;
+            together += steps() > known && handles.getTargetCount() > 1 ? 1 : 0;
             EXPECT_FALSE(handles.isDragging());
             if (below(12) == 0)
                 services.undoStack().undo();
@@ -579,6 +714,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
         services.undoStack().setIndex(0);
         EXPECT_EQ(text(), first) << model;
     }
+    EXPECT_GT(together, 2);
 }
 
 // A double press on a handle, a second button, another scene in the middle of a drag.
