@@ -10,6 +10,7 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace scopix
 {
@@ -55,19 +56,24 @@ private:
 class AddTransformsCommand : public FieldsCommand
 {
 public:
-    AddTransformsCommand(FieldEdits edits, AddedTransforms added)
+    AddTransformsCommand(FieldEdits edits, AddedTransforms added, HostServices& services,
+                         std::shared_ptr<QList<SoPath>> selection)
         : FieldsCommand(std::move(edits))
         , m_added(std::move(added))
+        , m_services(services)
+        , m_selection(std::move(selection))
     {
     }
     void undo() override
     {
+        noteSelection(&AddedTransform::pathWithout);
         for (auto added = m_added.rbegin(); added != m_added.rend(); ++added)
             (*added)->takeOut();
         FieldsCommand::undo();
     }
     void redo() override
     {
+        noteSelection(&AddedTransform::pathWith);
         for (const auto& added : m_added)
             added->putIn();
         FieldsCommand::redo();
@@ -83,7 +89,26 @@ public:
     }
 
 private:
+    // Several steps may be undone before anybody selects what they note.
+    void noteSelection(SoPath (AddedTransform::*toOther)(const SoPath&) const)
+    {
+        const QList<SoPath> before = m_selection->isEmpty() ? m_services.getSelectedPaths() : *m_selection;
+        QList<SoPath> after;
+        bool differs = !m_selection->isEmpty();
+        for (const SoPath& known : before) {
+            SoPath path = known;
+            for (const auto& added : m_added)
+                path = (added.get()->*toOther)(path);
+            differs = differs || path.getLength() != known.getLength() || path.getTail() != known.getTail();
+            after.append(path);
+        }
+        if (differs)
+            *m_selection = after;
+    }
+
     AddedTransforms m_added;
+    HostServices& m_services;
+    std::shared_ptr<QList<SoPath>> m_selection;
 };
 
 bool movesNothing(const std::shared_ptr<AddedTransform>& added)
@@ -96,6 +121,7 @@ bool movesNothing(const std::shared_ptr<AddedTransform>& added)
 
 HandleEdit::HandleEdit(HostServices& services)
     : m_services(services)
+    , m_selection(std::make_shared<QList<SoPath>>())
 {
 }
 
@@ -156,7 +182,8 @@ bool HandleEdit::keep(const QString& name)
     if (m_added.empty())
         command = std::make_unique<FieldsCommand>(std::move(m_fields));
     else
-        command = std::make_unique<AddTransformsCommand>(std::move(m_fields), std::move(m_added));
+        command = std::make_unique<AddTransformsCommand>(std::move(m_fields), std::move(m_added), m_services,
+                                                         m_selection);
     end();
     m_services.executeCommand(command.release(), name);
     return true;
@@ -176,6 +203,11 @@ void HandleEdit::giveBack()
         }
     });
     end();
+}
+
+QList<SoPath> HandleEdit::takeSelection()
+{
+    return std::exchange(*m_selection, {});
 }
 
 void HandleEdit::end()

@@ -3,6 +3,7 @@
 
 #include "handles/HandleSubject.h"
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -38,6 +39,9 @@ public:
     bool keep(const QString& name);
     /// All is as it was, every bit.
     void giveBack();
+    /// What to select after transforms have been put in or taken out by undo or redo, once; empty where what
+    /// is selected does not stand elsewhere.
+    QList<SoPath> takeSelection();
 
 private:
     bool differs();
@@ -47,6 +51,7 @@ private:
     std::vector<SoRef<SoNode>> m_nodes;
     std::vector<std::unique_ptr<FieldEdit>> m_fields;
     std::vector<std::shared_ptr<AddedTransform>> m_added;
+    std::shared_ptr<QList<SoPath>> m_selection; // noted by steps that are undone or redone
 };
 
 } // namespace scopix

@@ -290,4 +290,18 @@ SoPath AddedTransform::pathWith(const SoPath& path) const
     return result;
 }
 
+SoPath AddedTransform::pathWithout(const SoPath& path) const
+{
+    SoPath result;
+    for (int i = 0; i < path.getLength(); ++i) {
+        SoNode* const node = path.getNode(i);
+        if (node != m_transform.get() && node != m_wrapper.get())
+            result.append(node);
+    }
+    const bool isOnlyIt = result.getLength() < path.getLength() && result.getTail() == m_group.get();
+    if (isOnlyIt && m_part)
+        result.append(m_part.get());
+    return result;
+}
+
 } // namespace scopix

@@ -48,8 +48,9 @@ public:
     void putIn();
     void takeOut();
     bool isIn() const;
-    /// The same way while it is in.
+    /// The same way while it is in, and while it is not; what only it brought stands for what is moved.
     SoPath pathWith(const SoPath& path) const;
+    SoPath pathWithout(const SoPath& path) const;
 
 private:
     SoNode* getAdded() const;

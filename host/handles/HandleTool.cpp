@@ -121,6 +121,11 @@ void HandleTool::stackMoved()
 {
     giveBack();
     m_isStale = true;
+    const QList<SoPath> paths = m_edit.takeSelection();
+    if (paths.isEmpty())
+        return;
+    SoSensorQueue::getInstance().process(); // as in selectParts()
+    m_services.selectPaths(paths);
 }
 
 void HandleTool::refresh()

@@ -436,11 +436,12 @@ TEST_F(Handles, SeveralPartsWithoutATransformGetOneEach)
     const std::string after = text();
     undo();
     EXPECT_EQ(text(), before);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
     services.undoStack().redo();
     settle();
     EXPECT_EQ(text(), after);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
     undo();
-    selectAll(all);
     key(Qt::Key_Y);
     type("3");
     key(Qt::Key_Escape);
@@ -448,6 +449,45 @@ TEST_F(Handles, SeveralPartsWithoutATransformGetOneEach)
     EXPECT_EQ(text(), before);
     EXPECT_EQ(services.getSelectedNodes(), nodes);
     EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Handles, UndoingThatATransformWasPutInKeepsTheShapeSelected)
+{
+    auto* look = add<SoSeparator>();
+    auto* left = add<SoCube>(look);
+    add<SoSphere>(look);
+    show();
+    select(left);
+    key(Qt::Key_W);
+    key(Qt::Key_X);
+    type("2");
+    key(Qt::Key_Return);
+    key(Qt::Key_Y);
+    type("1");
+    key(Qt::Key_Return);
+    settle();
+    ASSERT_EQ(steps(), 2);
+    SoNode* const wrapper = look->getChild(0);
+    services.undoStack().setIndex(0);
+    settle();
+    EXPECT_EQ(look->getChild(0), left);
+    EXPECT_EQ(services.selectedNode(), left);
+    EXPECT_EQ(services.getSelectedPath().getLength(), 3);
+    services.undoStack().setIndex(2);
+    settle();
+    EXPECT_EQ(look->getChild(0), wrapper);
+    EXPECT_EQ(services.selectedNode(), left);
+    EXPECT_EQ(services.getSelectedPath().getLength(), 4);
+    // What the step brought stands for it.
+    select(wrapper);
+    services.undoStack().setIndex(0);
+    settle();
+    EXPECT_EQ(services.selectedNode(), left);
+    // Another selection stays as it is.
+    select(look->getChild(1));
+    services.undoStack().setIndex(2);
+    settle();
+    EXPECT_EQ(services.selectedNode(), look->getChild(1));
 }
 
 // Whatever stands above: what is taken hold of stays under the mouse.
