@@ -3,6 +3,7 @@
 
 #include "handles/PathPlace.h"
 #include "services/HostServices.h"
+#include "structure/SceneStates.h"
 #include "text/NodeText.h"
 #include "viewport/SceneView.h"
 
@@ -54,6 +55,23 @@ std::unique_ptr<HandleTarget> targetOf(const HandleSubject& subject, const PathP
                               scope ? scope->toWorld.transform(scope->box) : SbBox3f());
 }
 
+// In a sentence, what is locked of the selected nodes and of what would be edited; empty for nothing.
+template <class Subjects>
+QString lockOf(const SceneStates& states, const QList<SoPath>& selected, const Subjects& subjects)
+{
+    std::vector<const SoNode*> nodes;
+    for (const SoPath& path : selected)
+        nodes.push_back(path.getTail());
+    for (const HandleSubject& subject : subjects)
+        nodes.push_back(subject.node.isEmpty() ? subject.group.get() : subject.node.getTail());
+    for (const SoNode* node : nodes) {
+        const QString refusal = states.refusalOf(*node);
+        if (!refusal.isEmpty())
+            return refusal;
+    }
+    return {};
+}
+
 } // namespace
 
 HandleTool::HandleTool(HostServices& services, SceneView& view)
@@ -72,6 +90,18 @@ HandleTool::~HandleTool()
 {
     if (m_viewLives)
         m_view.removeTool(this);
+}
+
+void HandleTool::setStates(SceneStates* states)
+{
+    m_states = states;
+    if (!states)
+        return;
+    connect(states, &SceneStates::changed, this, [this] {
+        giveBack();
+        m_isStale = true;
+        m_view.repaintTools();
+    });
 }
 
 void HandleTool::setMode(HandleMode mode)
@@ -136,7 +166,8 @@ void HandleTool::refresh()
     m_others.clear();
     m_selected = m_mode == HandleMode::Select ? QList<SoPath>() : m_services.getSelectedPaths();
     const auto subjects = findHandleSubjects({m_selected.begin(), m_selected.end()});
-    if (subjects.empty())
+    m_refusal = m_states ? lockOf(*m_states, m_selected, subjects) : QString();
+    if (!m_refusal.isEmpty() || subjects.empty())
         return;
     std::vector<Moved> all;
     for (const HandleSubject& subject : subjects)
@@ -206,8 +237,8 @@ void HandleTool::sayWhatIsMoved()
 
 QString HandleTool::whatIsMoved() const
 {
-    if (m_main.subject.isEmpty())
-        return {};
+    if (!m_refusal.isEmpty() || m_main.subject.isEmpty())
+        return m_refusal;
     const QString part = nodeText(*m_main.subject.part.getTail());
     if (!m_main.target)
         return tr("There are no handles for “%1”: it is not in sight.").arg(part);
@@ -464,7 +495,7 @@ bool HandleTool::isIdleKey(const QKeyEvent& event) const
 bool HandleTool::wantsKey(const QKeyEvent& event)
 {
     if (!m_main.drag)
-        return isIdleKey(event) && getTarget();
+        return isIdleKey(event) && (getTarget() || !m_refusal.isEmpty());
     switch (event.key()) {
     case Qt::Key_Escape:
     case Qt::Key_Return:
@@ -485,6 +516,10 @@ bool HandleTool::keyPressed(QKeyEvent& event)
     if (!wantsKey(event))
         return false;
     const HandlePart part = partOfKey(event.key(), event.modifiers() & Qt::ShiftModifier);
+    if (!m_main.drag && !getTarget()) {
+        emit said(m_refusal);
+        return true;
+    }
     if (!m_main.drag)
         return begin(part, Held::Keys, getShape().getCenter());
     if (part != HandlePart::None) {

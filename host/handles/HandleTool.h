@@ -15,11 +15,13 @@ namespace scopix
 {
 
 class HostServices;
+class SceneStates;
 class SceneView;
 
 /// The handles of what is selected, in the view: dragged with the mouse, or by keys: X, Y or Z (with Shift
 /// the plane across), a number or the arrows, Enter. Ctrl snaps, Escape gives back. They are
-/// where the last of several selected nodes is, and move all of them. Each drag is one step. GUI thread only.
+/// where the last of several selected nodes is, and move all of them. Each drag is one step. What is locked
+/// has none. GUI thread only.
 class HandleTool : public QObject, public ViewTool
 {
     Q_OBJECT
@@ -29,6 +31,8 @@ public:
     HandleTool(HostServices& services, SceneView& view);
     ~HandleTool() override;
 
+    /// Tells what is locked; must outlive it. Null, as at first: nothing is.
+    void setStates(SceneStates* states);
     void setMode(HandleMode mode);
     HandleMode getMode() const { return m_mode; }
     /// Along the world's axes, as at first, or along those of what is moved.
@@ -102,8 +106,10 @@ private:
     HandleMode m_mode = HandleMode::Select;
     bool m_ofWorld = true;
     bool m_isStale = true; // what there are handles of may be another
+    QPointer<SceneStates> m_states;
     QList<SoPath> m_selected;
     QList<SoFieldContainer*> m_known; // what was selected; only compared
+    QString m_refusal;                // why there are no handles for what is locked
     Moved m_main;                     // where the handles are
     std::vector<Moved> m_others;      // moved along with it
 

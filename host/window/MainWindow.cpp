@@ -225,6 +225,7 @@ void MainWindow::makeNodeMenu()
     addHandles(*menu);
     m_tree->setStates(m_states);
     m_view->setStates(m_states);
+    m_handles->setStates(m_states);
 }
 
 void MainWindow::addHandles(QMenu& menu)

@@ -5,6 +5,7 @@
 #include "handles/HandleTool.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 
@@ -488,6 +489,43 @@ TEST_F(Handles, UndoingThatATransformWasPutInKeepsTheShapeSelected)
     services.undoStack().setIndex(2);
     settle();
     EXPECT_EQ(services.selectedNode(), look->getChild(1));
+}
+
+TEST_F(Handles, WhatIsLockedHasNone)
+{
+    SoTransform* free = addPart({0, 0, 0});
+    SoTransform* locked = addPart({3, 0, 0});
+    SoNode* const part = scene->getChild(1);
+    show();
+    select(locked);
+    key(Qt::Key_W);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    const std::string before = text();
+    key(Qt::Key_X);
+    type("2");
+    window.getStates().setLocked({part}, true); // in the middle of a drag
+    EXPECT_FALSE(handles.isDragging());
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(handles.getShape().isEmpty());
+    told.clear();
+    key(Qt::Key_X);
+    EXPECT_FALSE(handles.isDragging());
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_EQ(told.last(), "“Transform” stands in “Separator”, which is locked, and cannot be edited before "
+                           "that is unlocked.");
+    type("2");
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(), before);
+    select(part);
+    EXPECT_EQ(told.last(), "“Separator” is locked, and cannot be edited before it is unlocked.");
+    selectAll({part, free});
+    EXPECT_TRUE(handles.getShape().isEmpty());
+    select(free);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    select(locked);
+    window.getStates().setLocked({part}, false);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    EXPECT_EQ(steps(), 0);
 }
 
 // Whatever stands above: what is taken hold of stays under the mouse.
