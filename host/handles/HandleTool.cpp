@@ -24,6 +24,7 @@ namespace
 
 constexpr int LongestNumber = 40; // characters
 constexpr double LabelGap = 16;
+constexpr double Finer = 0.1;
 
 HandlePart partOfKey(int key, bool across)
 {
@@ -280,6 +281,7 @@ bool HandleTool::begin(HandlePart part, Held held, const QPointF& place)
         return false;
     m_held = held;
     m_pressed = place;
+    m_place = place;
     m_typed.clear();
     beginDrags(part);
     m_view.repaintTools();
@@ -437,14 +439,23 @@ bool HandleTool::mousePressed(QMouseEvent& event)
     if (event.button() != Qt::LeftButton || event.modifiers() & Qt::AltModifier)
         return false;
     const HandlePart part = getShape().partAt(event.localPos());
-    m_isPressed = part != HandlePart::None && begin(part, Held::Mouse, event.localPos());
+    m_mouse = event.localPos();
+    m_isPressed = part != HandlePart::None && begin(part, Held::Mouse, m_mouse);
     return m_isPressed;
+}
+
+// With Shift a handle follows by a tenth; from there it goes on without a jump.
+void HandleTool::pointTo(const QMouseEvent& event)
+{
+    const bool isFine = isDragging() && event.modifiers() & Qt::ShiftModifier;
+    m_place = isDragging() ? m_place + (event.localPos() - m_mouse) * (isFine ? Finer : 1) : event.localPos();
+    m_mouse = event.localPos();
+    m_snaps = event.modifiers() & Qt::ControlModifier;
 }
 
 bool HandleTool::mouseMoved(QMouseEvent& event)
 {
-    m_place = event.localPos();
-    m_snaps = event.modifiers() & Qt::ControlModifier;
+    pointTo(event);
     if (m_main.drag && m_held == Held::Mouse) {
         followMouse(m_place, m_snaps);
         return true;
@@ -530,6 +541,7 @@ bool HandleTool::keyPressed(QKeyEvent& event)
             constrain(part);
         return true;
     }
+    const double step = event.modifiers() & Qt::ShiftModifier ? Finer : 1;
     switch (event.key()) {
     case Qt::Key_Escape:
         giveBack();
@@ -539,16 +551,16 @@ bool HandleTool::keyPressed(QKeyEvent& event)
         keep();
         break;
     case Qt::Key_Left:
-        nudge(-1, 0);
+        nudge(-step, 0);
         break;
     case Qt::Key_Right:
-        nudge(1, 0);
+        nudge(step, 0);
         break;
     case Qt::Key_Down:
-        nudge(-1, m_main.drag->getCount() - 1);
+        nudge(-step, m_main.drag->getCount() - 1);
         break;
     case Qt::Key_Up:
-        nudge(1, m_main.drag->getCount() - 1);
+        nudge(step, m_main.drag->getCount() - 1);
         break;
     default:
         type(event);
@@ -561,7 +573,8 @@ void HandleTool::nudge(double steps, int component)
     m_typed.clear();
     HandleDrag::Amounts amounts = m_amounts;
     double& amount = amounts[static_cast<std::size_t>(component)];
-    amount = (std::round(amount / m_main.drag->getStep()) + steps) * m_main.drag->getStep();
+    const double step = std::abs(steps) * m_main.drag->getStep();
+    amount = (std::round(amount / step) + (steps < 0 ? -1 : 1)) * step;
     show(amounts);
 }
 

@@ -19,7 +19,7 @@ class SceneStates;
 class SceneView;
 
 /// The handles of what is selected, in the view: dragged with the mouse, or by keys: X, Y or Z (with Shift
-/// the plane across), a number or the arrows, Enter. Ctrl snaps, Escape gives back. They are
+/// the plane across), a number or the arrows, Enter. Ctrl snaps, Shift is finer, Escape gives back. They are
 /// where the last of several selected nodes is, and move all of them. Each drag is one step. What is locked
 /// has none. GUI thread only.
 class HandleTool : public QObject, public ViewTool
@@ -87,6 +87,7 @@ private:
     bool begin(HandlePart part, Held held, const QPointF& place);
     void constrain(HandlePart part);
     void nudge(double steps, int component);
+    void pointTo(const QMouseEvent& event);
     bool type(const QKeyEvent& event);
     void show(const HandleDrag::Amounts& amounts);
     void followMouse(const QPointF& place, bool snaps);
@@ -118,7 +119,8 @@ private:
     bool m_isSelecting = false; // what moved, at its other place
     bool m_isPressed = false;   // and what the mouse does until its release is nobody else's
     HandlePart m_hovered = HandlePart::None;
-    QPointF m_place;   // of the mouse
+    QPointF m_mouse;   // where it is
+    QPointF m_place;   // where it would be, had Shift not made it slower
     QPointF m_pressed; // where it took hold
     bool m_snaps = false;
     QString m_typed; // numbers, with a space between them

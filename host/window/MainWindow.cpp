@@ -309,7 +309,7 @@ void MainWindow::makeHelpMenu()
                "Measure: M.\n"
                "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
                "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
-               "select again: Q.\n"
+               "select again: Q. Shift is finer, Ctrl snaps.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

@@ -528,6 +528,39 @@ TEST_F(Handles, WhatIsLockedHasNone)
     EXPECT_EQ(steps(), 0);
 }
 
+TEST_F(Handles, ShiftIsFiner)
+{
+    SoTransform* transform = addPart({0, 0, 0});
+    show();
+    select(transform);
+    key(Qt::Key_W);
+    const QPointF at = placeOf(HandlePart::Free);
+    const QPointF by(100, 0);
+    const auto moved = [&] { return transform->translation.getValue().length(); };
+    press(at);
+    moveTo(at + by);
+    const float coarse = moved();
+    key(Qt::Key_Escape);
+    release(at + by);
+    settle();
+    press(at, Qt::ShiftModifier);
+    moveTo(at + by, Qt::ShiftModifier);
+    EXPECT_NEAR(moved(), coarse / 10, coarse / 200);
+    moveTo(at + by);
+    EXPECT_NEAR(moved(), coarse / 10, coarse / 200) << "letting Shift go moves nothing";
+    moveTo(at + by + by);
+    EXPECT_NEAR(moved(), coarse * 1.1F, coarse / 50);
+    release(at + by + by);
+    undo();
+    // And by the arrow keys.
+    key(Qt::Key_X);
+    key(Qt::Key_Right);
+    const float step = moved();
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_NEAR(moved(), step * 1.1F, step / 1000);
+    key(Qt::Key_Escape);
+}
+
 // Whatever stands above: what is taken hold of stays under the mouse.
 TEST_F(Handles, FollowTheMouseUnderStretchedAndMirroredParents)
 {
