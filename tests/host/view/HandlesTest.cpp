@@ -561,6 +561,26 @@ TEST_F(Handles, ShiftIsFiner)
     key(Qt::Key_Escape);
 }
 
+TEST_F(Handles, AAndFActInTheTreeToo)
+{
+    addPart({-20, 0, 0});
+    SoTransform* transform = addPart({20, 0, 0});
+    show();
+    QWidget* const tree = &window.getTree();
+    view.viewAll();
+    const SbVec3f all = view.getCamera().position.getValue();
+    select(transform);
+    window.getTree().selectNode(scene->getChild(1));
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_F);
+    const SbVec3f near = view.getCamera().position.getValue();
+    EXPECT_GT((near - all).length(), 5);
+    EXPECT_EQ(services.selectedNode(), scene->getChild(1)) << "the letters search nothing in the tree";
+    QTest::keyClick(tree, Qt::Key_A);
+    EXPECT_LT((view.getCamera().position.getValue() - all).length(), 1e-3F);
+    EXPECT_EQ(services.selectedNode(), scene->getChild(1));
+}
+
 // Whatever stands above: what is taken hold of stays under the mouse.
 TEST_F(Handles, FollowTheMouseUnderStretchedAndMirroredParents)
 {
