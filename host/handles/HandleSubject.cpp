@@ -9,6 +9,10 @@
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+
 namespace scopix
 {
 
@@ -113,6 +117,62 @@ SoPath findPart(const SoPath& selected)
     return startOf(selected, last + 1);
 }
 
+// What the subject edits, and so whether two are the same.
+std::pair<const SoNode*, int> editOf(const HandleSubject& subject)
+{
+    if (!subject.node.isEmpty())
+        return {subject.node.getTail(), -1};
+    return {subject.group.get(), subject.wraps ? subject.index : -2};
+}
+
+// Tells what a set of subjects moves.
+class MovedPlaces
+{
+public:
+    void add(const HandleSubject& subject)
+    {
+        if (subject.wraps) {
+            m_wrapped.insert({subject.group.get(), subject.part.getTail()});
+        } else if (subject.node.isEmpty()) {
+            addFrom(subject.group.get(), subject.index);
+        } else if (dynamic_cast<SoTransformation*>(subject.node.getTail())) {
+            addAfter(subject.node);
+        }
+    }
+    bool move(const SoPath& path) const
+    {
+        for (int i = 0; i + 1 < path.getLength(); ++i) {
+            const SoNode* const child = path.getNode(i + 1);
+            const bool isBelow = i + 2 < path.getLength();
+            if (isBelow && m_wrapped.count({path.getNode(i), child}) > 0)
+                return true;
+            const auto from = m_from.find(path.getNode(i));
+            if (from != m_from.end() && path.getNode(i)->asGroup()->findChild(child) >= from->second)
+                return true;
+        }
+        return false;
+    }
+
+private:
+    void addFrom(const SoNode* group, int index)
+    {
+        const auto known = m_from.emplace(group, index).first;
+        known->second = std::min(known->second, index);
+    }
+    // A group that keeps nothing to itself hands the movement on to what follows it.
+    void addAfter(const SoPath& path)
+    {
+        for (int i = path.getLength() - 2; i >= 0; --i) {
+            addFrom(path.getNode(i), path.getNode(i)->asGroup()->findChild(path.getNode(i + 1)) + 1);
+            if (isScope(path.getNode(i)))
+                return;
+        }
+    }
+
+    std::set<std::pair<const SoNode*, const SoNode*>> m_wrapped; // group and child
+    std::unordered_map<const SoNode*, int> m_from;               // in a group, the first child that is moved
+};
+
 } // namespace
 
 bool hasHandles(SoNode* node)
@@ -148,10 +208,28 @@ HandleSubject findHandleSubject(const SoPath& selected)
     return subject;
 }
 
+std::vector<HandleSubject> findHandleSubjects(const std::vector<SoPath>& selected)
+{
+    std::vector<HandleSubject> subjects;
+    std::set<std::pair<const SoNode*, int>> known;
+    MovedPlaces moved;
+    for (auto path = selected.rbegin(); path != selected.rend(); ++path) {
+        HandleSubject subject = findHandleSubject(*path);
+        if (subject.isEmpty() || !known.insert(editOf(subject)).second)
+            continue;
+        moved.add(subject);
+        subjects.push_back(std::move(subject));
+    }
+    const auto isMoved = [&moved](const HandleSubject& subject) {
+        return moved.move(subject.node.isEmpty() ? subject.part : subject.node);
+    };
+    subjects.erase(std::remove_if(subjects.begin(), subjects.end(), isMoved), subjects.end());
+    std::reverse(subjects.begin(), subjects.end());
+    return subjects;
+}
+
 AddedTransform::AddedTransform(const HandleSubject& subject, const SbVec3f& center)
-    : m_toGroup(subject.wraps ? startOf(subject.part, subject.part.getLength() - 1) : subject.part)
-    , m_partPath(subject.part)
-    , m_group(subject.group)
+    : m_group(subject.group)
     , m_transform(new SoTransform)
     , m_index(subject.index)
 {
@@ -196,23 +274,34 @@ void AddedTransform::takeOut()
     m_wrapper->removeChild(m_wrapper->findChild(m_part.get()));
 }
 
-SoPath AddedTransform::getTransformPath() const
+bool AddedTransform::isIn() const
 {
-    SoPath path = m_toGroup;
-    if (m_wrapper)
-        path.append(m_wrapper.get());
-    path.append(m_transform.get());
-    return path;
+    return m_group->findChild(getAdded()) >= 0;
 }
 
-SoPath AddedTransform::getPartPath() const
+SoPath AddedTransform::pathWith(const SoPath& path) const
 {
-    if (!m_wrapper)
-        return m_partPath;
-    SoPath path = m_toGroup;
-    path.append(m_wrapper.get());
-    path.append(m_part.get());
-    return path;
+    SoPath result;
+    for (int i = 0; i < path.getLength(); ++i) {
+        if (m_part && path.getNode(i) == m_part.get() && path.getNode(i - 1) == m_group.get())
+            result.append(m_wrapper.get());
+        result.append(path.getNode(i));
+    }
+    return result;
+}
+
+SoPath AddedTransform::pathWithout(const SoPath& path) const
+{
+    SoPath result;
+    for (int i = 0; i < path.getLength(); ++i) {
+        SoNode* const node = path.getNode(i);
+        if (node != m_transform.get() && node != m_wrapper.get())
+            result.append(node);
+    }
+    const bool isOnlyIt = result.getLength() < path.getLength() && result.getTail() == m_group.get();
+    if (isOnlyIt && m_part)
+        result.append(m_part.get());
+    return result;
 }
 
 } // namespace scopix

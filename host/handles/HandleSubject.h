@@ -6,6 +6,7 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <memory>
+#include <vector>
 
 namespace scopix
 {
@@ -27,6 +28,9 @@ struct HandleSubject {
 /// The transform governs the selection where it moves nothing else that can be seen beside it. Empty for a
 /// scene in which nothing can be moved.
 HandleSubject findHandleSubject(const SoPath& selected);
+/// Of several selected nodes, each thing once, and nothing that another one of them moves along. In their
+/// order.
+std::vector<HandleSubject> findHandleSubjects(const std::vector<SoPath>& selected);
 /// Whether there are handles for nodes of this kind.
 bool hasHandles(SoNode* node);
 
@@ -43,15 +47,14 @@ public:
     /// Both do nothing where the scene has changed meanwhile.
     void putIn();
     void takeOut();
-    /// To the transform, and to what is moved, while it is in.
-    SoPath getTransformPath() const;
-    SoPath getPartPath() const;
+    bool isIn() const;
+    /// The same way while it is in, and while it is not; what only it brought stands for what is moved.
+    SoPath pathWith(const SoPath& path) const;
+    SoPath pathWithout(const SoPath& path) const;
 
 private:
     SoNode* getAdded() const;
 
-    SoPath m_toGroup;
-    SoPath m_partPath; // without it
     SoRef<SoGroup> m_group;
     SoRef<SoNode> m_part; // the child that is wrapped; null: none is
     SoRef<SoSeparator> m_wrapper;

@@ -5,18 +5,23 @@
 #include "handles/HandleEdit.h"
 #include "viewport/ViewTool.h"
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
+
+#include <vector>
 
 namespace scopix
 {
 
 class HostServices;
+class SceneStates;
 class SceneView;
 
 /// The handles of what is selected, in the view: dragged with the mouse, or by keys: X, Y or Z (with Shift
-/// the plane across), a number or the arrows, Enter. Ctrl snaps, Escape gives back. Each drag is one step.
-/// GUI thread only.
+/// the plane across), a number or the arrows, Enter. Ctrl snaps, Shift is finer, Escape gives back. They are
+/// where the last of several selected nodes is, and move all of them. Each drag is one step. What is locked
+/// has none. GUI thread only.
 class HandleTool : public QObject, public ViewTool
 {
     Q_OBJECT
@@ -26,16 +31,20 @@ public:
     HandleTool(HostServices& services, SceneView& view);
     ~HandleTool() override;
 
+    /// Tells what is locked; must outlive it. Null, as at first: nothing is.
+    void setStates(SceneStates* states);
     void setMode(HandleMode mode);
     HandleMode getMode() const { return m_mode; }
     /// Along the world's axes, as at first, or along those of what is moved.
     void setOfWorld(bool on);
     bool isOfWorld() const { return m_ofWorld; }
-    bool isDragging() const { return m_drag != nullptr; }
+    bool isDragging() const { return m_main.drag != nullptr; }
     /// As they are on the screen now; empty where there are none.
     HandleShape getShape();
     /// Of what there are handles now, in the coordinates of the world.
     const HandleTarget* getTarget();
+    /// How many nodes a drag changes now.
+    int getTargetCount();
 
     bool mousePressed(QMouseEvent& event) override;
     bool mouseMoved(QMouseEvent& event) override;
@@ -57,15 +66,28 @@ signals:
 
 private:
     enum class Held { Mouse, Keys };
+    struct Moved {
+        HandleSubject subject;
+        std::unique_ptr<HandleTarget> target;
+        std::shared_ptr<AddedTransform> added; // not yet in the scene, unless it is being dragged
+        std::unique_ptr<HandleDrag> drag;      // null for what this drag leaves alone
+    };
 
     void selectionChanged();
     void stackMoved();
     void refresh();
-    void makeTarget(const HandleSubject& subject);
+    static Moved makeMoved(const HandleSubject& subject);
+    void chooseMain(std::vector<Moved> all);
     void sayWhatIsMoved();
+    QString whatIsMoved() const;
+    std::vector<std::shared_ptr<AddedTransform>> getAdded() const;
+    void beginDrags(HandlePart part);
+    void apply(const HandleDrag::Amounts& amounts);
+    void beginEdit();
     bool begin(HandlePart part, Held held, const QPointF& place);
     void constrain(HandlePart part);
     void nudge(double steps, int component);
+    void pointTo(const QMouseEvent& event);
     bool type(const QKeyEvent& event);
     void show(const HandleDrag::Amounts& amounts);
     void followMouse(const QPointF& place, bool snaps);
@@ -73,7 +95,8 @@ private:
     void keep();
     void giveBack();
     void end();
-    void selectPart(bool isIn);
+    void selectParts(const std::vector<std::shared_ptr<AddedTransform>>& added);
+    void selectionMayHaveChanged();
     QString stepName() const;
     QString amountText() const;
     bool isIdleKey(const QKeyEvent& event) const;
@@ -84,18 +107,20 @@ private:
     HandleMode m_mode = HandleMode::Select;
     bool m_ofWorld = true;
     bool m_isStale = true; // what there are handles of may be another
-    SoPath m_selected;
-    HandleSubject m_subject;
-    std::unique_ptr<HandleTarget> m_target;
-    std::shared_ptr<AddedTransform> m_added; // not yet in the scene, unless it is being dragged
+    QPointer<SceneStates> m_states;
+    QList<SoPath> m_selected;
+    QList<SoFieldContainer*> m_known; // what was selected; only compared
+    QString m_refusal;                // why there are no handles for what is locked
+    Moved m_main;                     // where the handles are
+    std::vector<Moved> m_others;      // moved along with it
 
     HandleEdit m_edit;
-    std::unique_ptr<HandleDrag> m_drag;
     Held m_held = Held::Mouse;
     bool m_isSelecting = false; // what moved, at its other place
     bool m_isPressed = false;   // and what the mouse does until its release is nobody else's
     HandlePart m_hovered = HandlePart::None;
-    QPointF m_place;   // of the mouse
+    QPointF m_mouse;   // where it is
+    QPointF m_place;   // where it would be, had Shift not made it slower
     QPointF m_pressed; // where it took hold
     bool m_snaps = false;
     QString m_typed; // numbers, with a space between them

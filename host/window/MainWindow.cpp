@@ -45,6 +45,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -84,6 +85,14 @@ SoPath findNode(SoNode* root, const QString& text)
     const SoType type = SoType::fromName(toName(text));
     byType.setType(type);
     return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
+}
+
+// A single key that the view has by itself; what is typed into a name stays there.
+void addTreeKey(SceneTreeView& tree, Qt::Key key, QAction& action)
+{
+    auto* shortcut = new QShortcut(key, &tree);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &action, &QAction::trigger);
 }
 
 } // namespace
@@ -225,6 +234,7 @@ void MainWindow::makeNodeMenu()
     addHandles(*menu);
     m_tree->setStates(m_states);
     m_view->setStates(m_states);
+    m_handles->setStates(m_states);
 }
 
 void MainWindow::addHandles(QMenu& menu)
@@ -248,6 +258,8 @@ void MainWindow::makeViewMenu()
                                            QKeySequence(Qt::CTRL + Qt::Key_Period));
     m_viewSelectedAction->setIcon(svgIcon(QStringLiteral("action-view-selected"), this));
     connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
+    addTreeKey(*m_tree, Qt::Key_A, *m_viewAllAction);
+    addTreeKey(*m_tree, Qt::Key_F, *m_viewSelectedAction);
     menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
     m_viewActions = std::make_unique<ViewActions>(*m_view, m_services, m_notifier, *menu,
                                                   QList<QWidget*>{m_view, m_tree});
@@ -309,7 +321,8 @@ void MainWindow::makeHelpMenu()
                "Measure: M.\n"
                "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
                "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
-               "select again: Q.\n"
+               "select again: Q. Shift is finer, Ctrl snaps.\n"
+               "Hide or show what is selected: H, show all: Shift+H, show nothing else: /.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });

@@ -5,6 +5,7 @@
 #include "handles/HandleTool.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
+#include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 
@@ -69,16 +70,24 @@ protected:
         window.getTree().selectNode(node);
         settle();
     }
+    void selectAll(const std::vector<SoNode*>& nodes)
+    {
+        QList<SoFieldContainer*> all;
+        for (SoNode* node : nodes)
+            all << node;
+        services.selectNodes(all);
+        settle();
+    }
     void send(QEvent::Type type, const QPointF& at, Qt::MouseButton button, Qt::MouseButtons held,
               Qt::KeyboardModifiers keys = {})
     {
         QMouseEvent event(type, at, view.mapToGlobal(at.toPoint()), button, held, keys);
         QCoreApplication::sendEvent(&view, &event);
     }
-    void press(const QPointF& at)
+    void press(const QPointF& at, Qt::KeyboardModifiers keys = {})
     {
-        send(QEvent::MouseMove, at, Qt::NoButton, {});
-        send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, at, Qt::NoButton, {}, keys);
+        send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, keys);
     }
     void moveTo(const QPointF& at, Qt::KeyboardModifiers keys = {})
     {
@@ -319,6 +328,259 @@ TEST_F(Handles, AWholePartIsMovedByItsOwnTransform)
     }
 }
 
+TEST_F(Handles, SeveralSelectedNodesAreMovedTogetherInOneStep)
+{
+    SoTransform* left = addPart({-3, 0, 0});
+    SoTransform* right = addPart({3, 0, 0});
+    SoTransform* third = addPart({0, 3, 0});
+    right->rotation.setValue(SbRotation({0, 1, 0}, 0.5F));
+    show();
+    selectAll({scene->getChild(0), scene->getChild(1)});
+    key(Qt::Key_W);
+    EXPECT_EQ(handles.getTarget()->getNode(), right) << "the handles are where the last one is";
+    EXPECT_EQ(handles.getTargetCount(), 2);
+    EXPECT_EQ(told.last(), "The handles change 2 nodes together.");
+    const std::string before = text();
+    const QPointF at = placeOf(HandlePart::X);
+    drag(at, at + (at - handles.getShape().getCenter()) * 0.6);
+    const float by = right->translation.getValue()[0] - 3;
+    EXPECT_GT(by, 0.1F);
+    EXPECT_NEAR(left->translation.getValue()[0], -3 + by, 1e-5F);
+    EXPECT_EQ(third->translation.getValue(), SbVec3f(0, 3, 0));
+    EXPECT_EQ(steps(), 1);
+    EXPECT_EQ(services.getSelectedNodes().size(), 2);
+    const std::string after = text();
+    undo();
+    EXPECT_EQ(text(), before);
+    services.undoStack().redo();
+    EXPECT_EQ(text(), after);
+    undo();
+    // By keys, each around its own place; given back, nothing stays.
+    key(Qt::Key_E);
+    key(Qt::Key_Z);
+    type("90");
+    EXPECT_NE(text(), before);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(text(), before);
+    key(Qt::Key_Z);
+    type("90");
+    key(Qt::Key_Return);
+    EXPECT_EQ(left->translation.getValue(), SbVec3f(-3, 0, 0));
+    EXPECT_LT((left->rotation.getValue().multVec({1, 0, 0}) - SbVec3f(0, 1, 0)).length(), 1e-5F);
+    EXPECT_EQ(steps(), 1);
+    undo();
+    EXPECT_EQ(text(), before);
+    // One that is taken away stays where it is, though the last one is the same.
+    selectAll({scene->getChild(2), scene->getChild(0), scene->getChild(1)});
+    EXPECT_EQ(handles.getTargetCount(), 3);
+    selectAll({scene->getChild(0), scene->getChild(1)});
+    EXPECT_EQ(handles.getTargetCount(), 2);
+}
+
+TEST_F(Handles, WhatIsBelowAnotherSelectedNodeIsNotMovedTwice)
+{
+    auto* house = add<SoSeparator>();
+    auto* place = add<SoTransform>(house);
+    auto* door = add<SoSeparator>(house);
+    auto* hinge = add<SoTransform>(door);
+    auto* wood = add<SoCube>(door);
+    add<SoCube>(house);
+    show();
+    const auto expectOne = [&](const std::vector<SoNode*>& nodes, SoNode* moved) {
+        selectAll(nodes);
+        handles.setMode(HandleMode::Move);
+        EXPECT_EQ(handles.getTargetCount(), 1);
+        ASSERT_TRUE(handles.getTarget());
+        EXPECT_EQ(handles.getTarget()->getNode(), moved);
+        key(Qt::Key_X);
+        type("2");
+        key(Qt::Key_Return);
+        EXPECT_EQ(place->translation.getValue(), moved == place ? SbVec3f(2, 0, 0) : SbVec3f());
+        EXPECT_EQ(hinge->translation.getValue(), moved == hinge ? SbVec3f(2, 0, 0) : SbVec3f());
+        undo();
+    };
+    expectOne({house, wood}, place);
+    expectOne({wood, house}, place);
+    expectOne({place, door}, place);
+    expectOne({door, wood, hinge}, hinge);
+}
+
+TEST_F(Handles, SeveralPartsWithoutATransformGetOneEach)
+{
+    auto* look = add<SoSeparator>();
+    auto* left = add<SoCube>(look);
+    auto* right = add<SoSphere>(look);
+    add<SoCube>(look);
+    SoTransform* other = addPart({4, 0, 0});
+    show();
+    SoNode* const part = scene->getChild(1);
+    const std::vector<SoNode*> all{part, right, left};
+    selectAll(all);
+    key(Qt::Key_W);
+    EXPECT_EQ(told.last(), "The handles change 3 parts together; dragging puts a Transform above 2 of them.");
+    const std::string before = text();
+    key(Qt::Key_Y);
+    type("3");
+    key(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(told.last(), "Put a Transform above each of 2 parts.");
+    EXPECT_EQ(other->translation.getValue(), SbVec3f(4, 3, 0));
+    for (int i : {0, 1}) {
+        ASSERT_TRUE(look->getChild(i)->asGroup());
+        auto* added = dynamic_cast<SoTransform*>(look->getChild(i)->asGroup()->getChild(0));
+        ASSERT_TRUE(added);
+        EXPECT_EQ(added->translation.getValue(), SbVec3f(0, 3, 0));
+    }
+    const QList<SoFieldContainer*> nodes{part, right, left};
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    EXPECT_EQ(steps(), 1);
+    const std::string after = text();
+    undo();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    services.undoStack().redo();
+    settle();
+    EXPECT_EQ(text(), after);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    undo();
+    key(Qt::Key_Y);
+    type("3");
+    key(Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(services.getSelectedNodes(), nodes);
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Handles, UndoingThatATransformWasPutInKeepsTheShapeSelected)
+{
+    auto* look = add<SoSeparator>();
+    auto* left = add<SoCube>(look);
+    add<SoSphere>(look);
+    show();
+    select(left);
+    key(Qt::Key_W);
+    key(Qt::Key_X);
+    type("2");
+    key(Qt::Key_Return);
+    key(Qt::Key_Y);
+    type("1");
+    key(Qt::Key_Return);
+    settle();
+    ASSERT_EQ(steps(), 2);
+    SoNode* const wrapper = look->getChild(0);
+    services.undoStack().setIndex(0);
+    settle();
+    EXPECT_EQ(look->getChild(0), left);
+    EXPECT_EQ(services.selectedNode(), left);
+    EXPECT_EQ(services.getSelectedPath().getLength(), 3);
+    services.undoStack().setIndex(2);
+    settle();
+    EXPECT_EQ(look->getChild(0), wrapper);
+    EXPECT_EQ(services.selectedNode(), left);
+    EXPECT_EQ(services.getSelectedPath().getLength(), 4);
+    // What the step brought stands for it.
+    select(wrapper);
+    services.undoStack().setIndex(0);
+    settle();
+    EXPECT_EQ(services.selectedNode(), left);
+    // Another selection stays as it is.
+    select(look->getChild(1));
+    services.undoStack().setIndex(2);
+    settle();
+    EXPECT_EQ(services.selectedNode(), look->getChild(1));
+}
+
+TEST_F(Handles, WhatIsLockedHasNone)
+{
+    SoTransform* free = addPart({0, 0, 0});
+    SoTransform* locked = addPart({3, 0, 0});
+    SoNode* const part = scene->getChild(1);
+    show();
+    select(locked);
+    key(Qt::Key_W);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    const std::string before = text();
+    key(Qt::Key_X);
+    type("2");
+    window.getStates().setLocked({part}, true); // in the middle of a drag
+    EXPECT_FALSE(handles.isDragging());
+    EXPECT_EQ(text(), before);
+    EXPECT_TRUE(handles.getShape().isEmpty());
+    told.clear();
+    key(Qt::Key_X);
+    EXPECT_FALSE(handles.isDragging());
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_EQ(told.last(), "“Transform” stands in “Separator”, which is locked, and cannot be edited before "
+                           "that is unlocked.");
+    type("2");
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(), before);
+    select(part);
+    EXPECT_EQ(told.last(), "“Separator” is locked, and cannot be edited before it is unlocked.");
+    selectAll({part, free});
+    EXPECT_TRUE(handles.getShape().isEmpty());
+    select(free);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    select(locked);
+    window.getStates().setLocked({part}, false);
+    EXPECT_FALSE(handles.getShape().isEmpty());
+    EXPECT_EQ(steps(), 0);
+}
+
+TEST_F(Handles, ShiftIsFiner)
+{
+    SoTransform* transform = addPart({0, 0, 0});
+    show();
+    select(transform);
+    key(Qt::Key_W);
+    const QPointF at = placeOf(HandlePart::Free);
+    const QPointF by(100, 0);
+    const auto moved = [&] { return transform->translation.getValue().length(); };
+    press(at);
+    moveTo(at + by);
+    const float coarse = moved();
+    key(Qt::Key_Escape);
+    release(at + by);
+    settle();
+    press(at, Qt::ShiftModifier);
+    moveTo(at + by, Qt::ShiftModifier);
+    EXPECT_NEAR(moved(), coarse / 10, coarse / 200);
+    moveTo(at + by);
+    EXPECT_NEAR(moved(), coarse / 10, coarse / 200) << "letting Shift go moves nothing";
+    moveTo(at + by + by);
+    EXPECT_NEAR(moved(), coarse * 1.1F, coarse / 50);
+    release(at + by + by);
+    undo();
+    // And by the arrow keys.
+    key(Qt::Key_X);
+    key(Qt::Key_Right);
+    const float step = moved();
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_NEAR(moved(), step * 1.1F, step / 1000);
+    key(Qt::Key_Escape);
+}
+
+TEST_F(Handles, AAndFActInTheTreeToo)
+{
+    addPart({-20, 0, 0});
+    SoTransform* transform = addPart({20, 0, 0});
+    show();
+    QWidget* const tree = &window.getTree();
+    view.viewAll();
+    const SbVec3f all = view.getCamera().position.getValue();
+    select(transform);
+    window.getTree().selectNode(scene->getChild(1));
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_F);
+    const SbVec3f near = view.getCamera().position.getValue();
+    EXPECT_GT((near - all).length(), 5);
+    EXPECT_EQ(services.selectedNode(), scene->getChild(1)) << "the letters search nothing in the tree";
+    QTest::keyClick(tree, Qt::Key_A);
+    EXPECT_LT((view.getCamera().position.getValue() - all).length(), 1e-3F);
+    EXPECT_EQ(services.selectedNode(), scene->getChild(1));
+}
+
 // Whatever stands above: what is taken hold of stays under the mouse.
 TEST_F(Handles, FollowTheMouseUnderStretchedAndMirroredParents)
 {
@@ -530,6 +792,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
     const auto below = [&random](int bound) {
         return static_cast<int>(random() % static_cast<unsigned>(bound));
     };
+    int together = 0;
     for (const char* model : {"lighthouse.glb", "crate.gltf"}) {
         bool isOpen = false;
         const auto opened =
@@ -546,8 +809,10 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
         for (int step = 0; step < std::max(wanted, 40); ++step) {
             all.apply(window.getScene());
             const auto& paths = all.getPaths();
-            window.getTree().selectPath(
-                paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))]);
+            QList<SoPath> chosen;
+            for (int more = below(3) == 0 ? 1 + below(5) : 1; more > 0; --more)
+                chosen << paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))];
+            services.selectPaths(chosen);
             SoSensorQueue::getInstance().process();
             handles.setMode(HandleMode(1 + below(3)));
             handles.setOfWorld(below(2) == 0);
@@ -569,6 +834,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
                 EXPECT_LE(steps(), known + 1);
             }
             dragged += steps() > known ? 1 : 0;
+            together += steps() > known && handles.getTargetCount() > 1 ? 1 : 0;
             EXPECT_FALSE(handles.isDragging());
             if (below(12) == 0)
                 services.undoStack().undo();
@@ -579,6 +845,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
         services.undoStack().setIndex(0);
         EXPECT_EQ(text(), first) << model;
     }
+    EXPECT_GT(together, 2);
 }
 
 // A double press on a handle, a second button, another scene in the middle of a drag.
