@@ -51,16 +51,19 @@ public:
     void findVisible(const Frustum& frustum, const std::vector<RenderItem>& items, std::vector<Run>& visible);
     /// Where these items stand in the order, as runs; items that do not are left out.
     void findPlaces(const std::vector<std::uint32_t>& ofItems, std::vector<Run>& runs) const;
-    /// Calls `draw(part)` with what one call can draw of these runs, which may reach over holes.
+    /// Calls `draw(part)` with what one call can draw of these runs.
     template <class Draw>
     void forEachPart(const std::vector<Run>& runs, const Draw& draw) const
     {
         auto batch = m_batches.begin();
-        for (const Run& run : runs) {
-            while (batch != m_batches.end() && batch->end <= run.first)
-                ++batch;
-            for (auto each = batch; each != m_batches.end() && each->first < run.end; ++each)
-                draw(Run{std::max(run.first, each->first), std::min(run.end, each->end)});
+        for (Run run : runs) {
+            while (run.first < run.end) {
+                while (batch->end <= run.first)
+                    ++batch;
+                const std::uint32_t end = std::min(run.end, batch->end);
+                draw(Run{run.first, end});
+                run.first = end;
+            }
         }
     }
     const RenderItem& getItem(const std::vector<RenderItem>& items, std::size_t place) const
