@@ -102,7 +102,6 @@ const std::vector<Command>& allCommands()
          2,
          {},
          {{"scopix convert lighthouse.glb lighthouse.xsg", "a model becomes a scene"},
-          {"scopix convert lamp.xsg lamp.glb", "for other programs"},
           {"scopix convert lighthouse.glb -", "writes the scene to standard output"}},
          "0",
          convertFile},

@@ -108,21 +108,13 @@ SoRef<SoNode> loadOrComplain(const std::string& path)
     return scene.root;
 }
 
-std::vector<std::string> writtenEndings()
-{
-    std::vector<std::string> endings{SceneDocument::sceneEnding().toStdString()};
-    for (const QString& ending : SceneExport::endings())
-        endings.push_back(ending.toStdString());
-    return endings;
-}
-
-bool canWriteScene(const std::string& path)
+bool canWriteScene(const std::string& path, FileKinds kinds)
 {
     if (path == "-")
         return true;
-    QStringList endings;
-    for (const std::string& ending : writtenEndings())
-        endings += QString::fromStdString(ending);
+    QStringList endings{SceneDocument::sceneEnding()};
+    if (kinds == FileKinds::ScenesAndModels)
+        endings += SceneExport::endings();
     const QString file = QFile::decodeName(path.c_str());
     const QString reason = reasonAgainstWriting(file, endings);
     if (!reason.isEmpty())

@@ -23,13 +23,14 @@ LoadedScene loadScene(const std::string& path);
 /// The same, having said what is wrong. The scene lives until the process ends.
 SoRef<SoNode> loadOrComplain(const std::string& path);
 
-/// Whether a file of this name may be written: its ending is that of a kind that can be, and what is there
-/// may be replaced. "-" is standard output, as a scene file. Says why not.
-bool canWriteScene(const std::string& path);
+/// Models keep less than a scene has: edits are saved as scenes only.
+enum class FileKinds { Scenes, ScenesAndModels };
+
+/// Whether a file of this name may be written: its ending is that of such a kind, and what is there may be
+/// replaced. "-" is standard output, as a scene file. Says why not.
+bool canWriteScene(const std::string& path, FileKinds kinds = FileKinds::Scenes);
 /// Says why it cannot be written, in which case nothing has changed. Names of pictures lead to the same files
 /// as before.
 bool writeScene(SoNode* root, const std::string& path);
-/// The endings of names, without their dots.
-std::vector<std::string> writtenEndings();
 
 } // namespace scopix
