@@ -140,6 +140,8 @@ bool PatchText::read(std::string_view text, const std::string& name, SceneChange
         at = end + 1;
         if (++number == 1 && line != FirstLine)
             problem = "this is no patch: its first line must be \"" + std::string(FirstLine) + "\"";
+        else if (line.find('\0') != std::string_view::npos)
+            problem = "a byte 0 stands here, which a text has not: the file is damaged, or no patch";
         else if (number > 1 && !line.empty() && line.front() != '#')
             PatchLine(line).read(found.emplace_back(), problem);
         if (!problem.empty()) {
