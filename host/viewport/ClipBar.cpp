@@ -30,7 +30,7 @@ std::pair<float, float> extentOf(const SbBox3f& box, const SbVec3f& direction)
     float low = 0;
     float high = 0;
     for (int i = 0; i < 3; ++i) {
-        const auto [a, b] = std::minmax(box.getMin()[i] * direction[i], box.getMax()[i] * direction[i]);
+        const auto [a, b] = std::minmax({box.getMin()[i] * direction[i], box.getMax()[i] * direction[i]});
         low += a;
         high += b;
     }

@@ -113,7 +113,8 @@ TEST_F(Selecting, SeveralTellTheLastAndEachChangeOfTheOthers)
 {
     const SoRef<SoMaterial> third(new SoMaterial);
     int changes = 0;
-    QObject::connect(&m_services, &HostServices::selectionChanged, [&changes] { ++changes; });
+    const QObject whileCounting;
+    QObject::connect(&m_services, &HostServices::selectionChanged, &whileCounting, [&changes] { ++changes; });
     m_services.selectNodes({m_material.get(), m_complexity.get()});
     EXPECT_EQ(take(), (Log{"node Complexity"}));
     m_services.selectNodes({m_material.get(), third.get(), m_complexity.get()});
