@@ -134,7 +134,7 @@ bool xsg::DepthGrid::drawLine(const Corner& a, const Corner& b)
         const double by = to[axis] - from[axis];
         if (by == 0)
             continue;
-        const auto [enters, leaves] = std::minmax(-from[axis] / by, (size - from[axis]) / by);
+        const auto [enters, leaves] = std::minmax({-from[axis] / by, (size - from[axis]) / by});
         first = std::max(first, enters);
         last = std::min(last, leaves);
     }
