@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 int main(int argc, char** argv)
 {
@@ -10,6 +11,10 @@ int main(int argc, char** argv)
     // Listing the tests needs no display, and has nothing to clean up.
     if (::testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
+    // What a test remembers is no setting of the user's, nor of another test's that runs beside it.
+    const QTemporaryDir settings;
+    if (!qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
+        qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
