@@ -12,6 +12,11 @@
 namespace scopix
 {
 
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("SceneExport", text);
+}
+
 // Names of nodes hold Latin-1.
 std::string exportedName(const SoNode& node)
 {
@@ -20,11 +25,9 @@ std::string exportedName(const SoNode& node)
 
 QString lostKind(const SoNode& node)
 {
-    if (node.isOfType(SoFog::getClassTypeId()))
-        return QCoreApplication::translate("SceneExport", "fogs");
-    return node.isOfType(SoClipPlane::getClassTypeId())
-               ? QCoreApplication::translate("SceneExport", "clip planes")
-               : QString();
+    if (isA<SoFog>(node))
+        return translated("fogs");
+    return isA<SoClipPlane>(node) ? translated("clip planes") : QString();
 }
 
 void moveTextureCoordinates(const SoState& state, SoGeometry& geometry)

@@ -1,17 +1,26 @@
 // SPDX-License-Identifier: MIT
-// What is common to all that is exported of a node.
+// What is common to all that is exported of a node, and the words for it.
 #pragma once
+
+#include <xsg/nodes/base/SoNode.h>
 
 #include <QString>
 
 #include <string>
 
-class SoNode;
 struct SoGeometry;
 class SoState;
 
 namespace scopix
 {
+
+QString translated(const char* text);
+
+template <class Node>
+bool isA(const SoNode& node)
+{
+    return node.isOfType(Node::getClassTypeId());
+}
 
 /// In UTF-8; empty where it has none.
 std::string exportedName(const SoNode& node);

@@ -9,8 +9,6 @@
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
-#include <QCoreApplication>
-
 #include <map>
 #include <set>
 
@@ -19,17 +17,6 @@ namespace scopix
 
 namespace
 {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("SceneExport", text);
-}
-
-template <class Node>
-bool isA(const SoNode& node)
-{
-    return node.isOfType(Node::getClassTypeId());
-}
 
 QString leftOutKind(const SoNode& node)
 {

@@ -13,8 +13,6 @@
 #include <xsg/nodes/shapes/SoShape.h>
 #include <xsg/values/SbRotation.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -29,17 +27,6 @@ namespace
 
 // A channel of a highlight's colour that differs by less is not seen.
 constexpr float SameColor = 0.02F;
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("SceneExport", text);
-}
-
-template <class Node>
-bool isA(const SoNode& node)
-{
-    return node.isOfType(Node::getClassTypeId());
-}
 
 // In glTF, what is sharp mirrors white.
 bool hasItsOwnHighlight(const SoMaterialState& look)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "export/SceneExport.h"
 
+#include "export/ExportNames.h"
 #include "export/FlatWriters.h"
 #include "export/GltfWriter.h"
 #include "support/OutputFile.h"
 #include "support/Printable.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -17,11 +17,6 @@ namespace scopix
 
 namespace
 {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("SceneExport", text);
-}
 
 int count(const FlatScene& scene, bool (*matters)(const FlatScene::Mesh&))
 {
