@@ -212,7 +212,7 @@ TEST_F(NodeMenuKeys, CopiesBetweenTwoWindows)
     key(Qt::Key_C, Qt::ControlModifier);
     other.getEditing().paste();
     SoGroup* scene = other.getScene()->asGroup();
-    EXPECT_EQ(outline(scene->getChild(scene->getNumChildren() - 1)), "Island(Hill Roof)");
+    EXPECT_EQ(outlineOf(scene->getChild(scene->getNumChildren() - 1)), "Island(Hill Roof)");
     EXPECT_EQ(text(), before);
     other.getEditing().pasteShared();
     EXPECT_TRUE(told.value(told.size() - 1).startsWith("Only nodes that were copied in this window"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "structure/StructureActs.h"
+#include "Outline.h"
 #include "services/HostServices.h"
 #include "structure/BranchText.h"
 #include "structure/SceneStates.h"
@@ -62,19 +63,7 @@ Separator "Harbour" {
         EXPECT_EQ(found.getLength(), static_cast<int>(names.size()) + 1);
         return found;
     }
-    // "Harbour(Sea(Blue Water) …)"
-    static std::string outline(SoNode* node)
-    {
-        std::string all = node->getName().getLength() > 0 ? node->getName().getString()
-                                                          : node->getTypeId().getName().getString();
-        SoGroup* group = node->asGroup();
-        if (!group || group->getNumChildren() == 0)
-            return all;
-        for (SoNode* child : group->getChildren())
-            all += (child == group->getChild(0) ? "(" : " ") + outline(child);
-        return all + ")";
-    }
-    std::string outline() const { return outline(root.get()); }
+    std::string outline() const { return outlineOf(root.get()); }
     // Does it as a step, which undoing takes back to the last byte and redoing does once more.
     void perform(Act act)
     {
@@ -93,7 +82,7 @@ Separator "Harbour" {
     }
     static std::string nameOf(const SoPath& path)
     {
-        return path.getTail() ? outline(path.getTail()) : std::string();
+        return path.getTail() ? outlineOf(path.getTail()) : std::string();
     }
 
     HostServices services;
@@ -318,7 +307,7 @@ TEST_F(StructureActs, WritesBranchesAndReadsThemBack)
     EXPECT_EQ(countPlaces(path({"Sea"}).getTail(), root.get()), 1);
     const BranchReading read = readBranches(written);
     ASSERT_EQ(read.nodes.size(), 2U) << read.error.toStdString();
-    EXPECT_EQ(outline(read.nodes[0].get()), "Sea(Blue Water)");
+    EXPECT_EQ(outlineOf(read.nodes[0].get()), "Sea(Blue Water)");
     EXPECT_EQ(read.nodes[0]->asGroup()->getChild(0), read.nodes[1]->asGroup()->getChild(0));
     EXPECT_TRUE(read.nodes[1]->asGroup()->getChild(2)->getField("bottomRadius")->isConnected());
     EXPECT_EQ(text(), before);
@@ -328,7 +317,7 @@ TEST_F(StructureActs, ReadsNodesAsAPersonTypesThem)
 {
     const BranchReading read = readBranches("  Material { diffuseColor: [ 1 0 0 ] }\nCube \"Box\" {}");
     ASSERT_EQ(read.nodes.size(), 2U) << read.error.toStdString();
-    EXPECT_EQ(outline(read.nodes[1].get()), "Box");
+    EXPECT_EQ(outlineOf(read.nodes[1].get()), "Box");
     EXPECT_TRUE(readBranches("Dear all, the cube is red.").nodes.empty());
     EXPECT_FALSE(readBranches("Dear all, the cube is red.").error.isEmpty());
     EXPECT_TRUE(readBranches("} Cube {} Group {").nodes.empty());

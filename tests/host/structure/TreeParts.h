@@ -2,6 +2,7 @@
 // A window with a scene, acted on in its tree as a person does.
 #pragma once
 
+#include "Outline.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
@@ -50,18 +51,7 @@ protected:
         return isOpen && QTest::qWaitFor([this] { return tree.hasFocus(); });
     }
     std::string text() const { return SoSceneFile::writeText(window.getScene()); }
-    static std::string outline(SoNode* node)
-    {
-        std::string all = node->getName().getLength() > 0 ? node->getName().getString()
-                                                          : node->getTypeId().getName().getString();
-        SoGroup* group = node->asGroup();
-        if (!group || group->getNumChildren() == 0)
-            return all;
-        for (SoNode* child : group->getChildren())
-            all += (child == group->getChild(0) ? "(" : " ") + outline(child);
-        return all + ")";
-    }
-    std::string outline() const { return outline(window.getScene()); }
+    std::string outline() const { return outlineOf(window.getScene()); }
     // The row of the first node of this name.
     QModelIndex row(const char* name) const
     {
@@ -88,7 +78,7 @@ protected:
     {
         QStringList names;
         for (const SoPath& path : services.getSelectedPaths())
-            names << QString::fromStdString(outline(path.getTail()));
+            names << QString::fromStdString(outlineOf(path.getTail()));
         return names;
     }
 
