@@ -18,6 +18,7 @@ namespace
 
 constexpr std::size_t ManyPending = 512;
 constexpr std::int64_t MostCorners = 4000000; // that are looked at one by one
+constexpr int MostPlaces = 1 << 14;           // of groups and shapes: some 50 ms on a slow machine
 
 /// The convex hull of points, seen along one of the eye's axes across: 0 or 1; depth is the other direction.
 class FlatHull
@@ -35,16 +36,18 @@ public:
         if (m_points.size() >= m_hullSize + ManyPending)
             close();
     }
-    // False for what lies on its border, and where it is not known yet.
+    // False for what lies on its border, and where it is not known yet. Looks for the part of the fan around
+    // the first point that has it.
     bool contains(const SbVec3f& point) const
     {
-        if (m_hullSize < 3)
+        if (m_hullSize < 3 || !isLeftOf(0, 1, point) || !isLeftOf(m_hullSize - 1, 0, point))
             return false;
-        for (std::size_t i = 0; i < m_hullSize; ++i) {
-            if (!(area(m_points[i], m_points[(i + 1) % m_hullSize], point) > 0))
-                return false;
+        std::size_t low = 1;
+        for (std::size_t high = m_hullSize - 1; high - low > 1;) {
+            const std::size_t middle = (low + high) / 2;
+            (isLeftOf(0, middle, point) ? low : high) = middle;
         }
-        return true;
+        return isLeftOf(low, low + 1, point);
     }
     // Andrew's monotone chain.
     void close()
@@ -75,6 +78,10 @@ public:
     const std::vector<SbVec3f>& getPoints() const { return m_points; }
 
 private:
+    bool isLeftOf(std::size_t from, std::size_t to, const SbVec3f& point) const
+    {
+        return area(m_points[from], m_points[to], point) > 0;
+    }
     // In doubles: the differences of floats are exact there, nearly.
     double area(const SbVec3f& a, const SbVec3f& b, const SbVec3f& c) const
     {
@@ -114,18 +121,27 @@ public:
 private:
     bool wantsGroup(SoGroup* group) override
     {
-        if (group != m_part && m_depth == 0)
+        if (group == m_part)
+            m_partBox = m_boxes.getBox(group);
+        else if (m_depth == 0)
             return TargetedTraversal::wantsGroup(group);
-        return !group->isStateScope() || !isWithin(m_boxes.getBox(group));
+        return !isTooLong(group) && (!group->isStateScope() || !isWithin(m_boxes.getBox(group)));
     }
-    void enterGroup(SoGroup* group) override { m_depth += group == m_part ? 1 : 0; }
+    void enterGroup(SoGroup* group) override
+    {
+        if (group != m_part)
+            return;
+        ++m_depth;
+        m_partPlaces.clear();
+        state().forEachInstance([&](const SbMatrix& matrix) { m_partPlaces.push_back(matrix * m_toEye); });
+    }
     void leaveGroup(SoGroup* group) override { m_depth -= group == m_part ? 1 : 0; }
     void visitShape(SoShape* shape) override
     {
         if ((m_depth == 0 && shape != m_part) || (state().drawStyle && !state().drawStyle->isVisible()))
             return;
         const SbBox3f box = shape->getBox(state());
-        if (box.isEmpty() || isWithin(box))
+        if (isTooLong(shape) || box.isEmpty() || isWithin(box))
             return;
         SoGeometry geometry;
         if (m_corners < MostCorners)
@@ -137,6 +153,19 @@ private:
                 return addBox(box, matrix * m_toEye);
             addUsed(geometry, placement * matrix * m_toEye);
         });
+    }
+
+    // Of a part with very many places the box around all of it has to do.
+    bool isTooLong(const SoNode* node)
+    {
+        if (++m_places < MostPlaces || m_partBox.isEmpty())
+            return false;
+        if (node == m_part)
+            state().forEachInstance([&](const SbMatrix& matrix) { addBox(m_partBox, matrix * m_toEye); });
+        for (const SbMatrix& toEye : m_partPlaces)
+            addBox(m_partBox, toEye);
+        m_partPlaces.clear();
+        return true;
     }
 
     template <class Visit>
@@ -189,7 +218,10 @@ private:
     }
 
     const SoNode* m_part;
-    SbMatrix m_toEye; // turned only
+    SbBox3f m_partBox;                  // in the part's coordinates; empty where it needs the state above
+    std::vector<SbMatrix> m_partPlaces; // from where the part stands now, to the eye
+    SbMatrix m_toEye;                   // turned only
+    int m_places = 0;                   // that were looked at
     int m_depth = 0;
     FlatHull m_across{0};
     FlatHull m_up{1};
