@@ -61,7 +61,9 @@ QWidget* PinnedPanel::makeHead()
     m_compare->setCheckable(true);
     m_compare->setProperty("editsNothing", true);
     m_compare->setFocusPolicy(Qt::TabFocus);
-    m_compare->setToolTip(tr("Marks the rows that differ from those of the selected node."));
+    m_compare->setToolTip(
+        tr("Marks the rows that differ from those of the selected node, or of another pinned panel that "
+           "compares."));
     if (nodes().size() != 1)
         m_compare->hide();
     connect(m_compare, &QToolButton::toggled, this, [this](bool on) {

@@ -115,39 +115,44 @@ void PinnedPanels::close(PinnedPanel* panel)
         return;
     m_panels.erase(found);
     panel->finish();
-    const bool isCompared = panel == m_compared;
+    setCompared(panel, false);
     if (SpxShell* shell = SpxShell::getInstance())
         shell->removeDockWidget(panel);
     delete panel;
-    if (isCompared)
-        emit comparedChanged();
 }
 
 SoFieldContainer* PinnedPanels::compared() const
 {
-    return m_compared ? m_compared->node() : nullptr;
+    return m_compared.size() == 1 ? m_compared.front()->node() : nullptr;
 }
 
 void PinnedPanels::setCompared(PinnedPanel* panel, bool on)
 {
-    PinnedPanel* wanted = on ? panel : m_compared == panel ? nullptr : m_compared.data();
-    if (wanted == m_compared)
+    const auto found = std::find(m_compared.begin(), m_compared.end(), panel);
+    if (on == (found != m_compared.end()))
         return;
-    if (m_compared && m_compared != panel)
-        m_compared->stopComparing();
-    m_compared = wanted;
+    if (on)
+        m_compared.push_back(panel);
+    else
+        m_compared.erase(found);
+    if (m_compared.size() > 2)
+        return m_compared.front()->stopComparing(); // which comes back here
     compare();
     emit comparedChanged();
 }
 
-// With the selected node.
+// Two with one another, one with the selected node.
 void PinnedPanels::compare()
 {
-    if (!m_compared)
-        return;
-    const SpxSceneServices* scene = SpxSceneServices::getInstance();
-    const QList<SoFieldContainer*> selected = scene ? scene->getSelectedNodes() : QList<SoFieldContainer*>();
-    m_compared->compareWith(selected.size() == 1 ? selected.first() : nullptr);
+    if (m_compared.size() == 2) {
+        m_compared[0]->compareWith(m_compared[1]->node());
+        m_compared[1]->compareWith(m_compared[0]->node());
+    } else if (m_compared.size() == 1) {
+        const SpxSceneServices* scene = SpxSceneServices::getInstance();
+        const QList<SoFieldContainer*> selected =
+            scene ? scene->getSelectedNodes() : QList<SoFieldContainer*>();
+        m_compared.front()->compareWith(selected.size() == 1 ? selected.first() : nullptr);
+    }
 }
 
 } // namespace inspector

@@ -4,8 +4,6 @@
 #include <scopix/SpxExtension.h>
 #include <xsg/core/SoFieldContainer.h>
 
-#include <QPointer>
-
 #include <vector>
 
 namespace inspector
@@ -14,8 +12,8 @@ namespace inspector
 class PinnedPanel;
 
 /// Panels that stay with their nodes, whatever is selected: each in a dock of its own, any number. One of
-/// them may be compared with the selected node. Owns the docks; the host shows and hides all together. GUI
-/// thread only.
+/// them may be compared with the selected node, or two with one another. Owns the docks; the host shows and
+/// hides all together. GUI thread only.
 class PinnedPanels : public SpxExtension
 {
     Q_OBJECT
@@ -48,7 +46,7 @@ private:
     void compare();
 
     std::vector<PinnedPanel*> m_panels;
-    QPointer<PinnedPanel> m_compared;
+    std::vector<PinnedPanel*> m_compared; // one or two of them, in the order in which the user chose them
 };
 
 } // namespace inspector

@@ -157,6 +157,42 @@ TEST_F(Pinned, ComparingMarksWhatDiffersAndCopiesItAcross)
     EXPECT_FALSE(offer(session.panel(), "shininess")->isVisible());
 }
 
+TEST_F(Pinned, TwoPinsCompareWithOneAnotherWhateverIsSelected)
+{
+    const auto compareIn = [](QDockWidget* dock) { return dock->findChild<QToolButton*>("compare"); };
+    const auto comparedWith = [](QDockWidget* dock) {
+        return dock->findChild<QLabel*>("comparedWith")->text();
+    };
+    const auto offers = [this](QWidget* panel, const char* field) {
+        return rowIn(panel, field)->findChild<QToolButton*>("takeCompared")->isVisibleTo(panel);
+    };
+    SoRef<SoMaterial> third(new SoMaterial);
+    third->setName("Third");
+    root->addChild(third.get());
+    QDockWidget* first = pin();
+    session.selectNode(other.get());
+    QDockWidget* second = pin();
+    session.selectNode(third.get());
+    compareIn(first)->click();
+    EXPECT_EQ(comparedWith(first), "with Third");
+    compareIn(second)->click();
+    EXPECT_EQ(comparedWith(first), "with " + QString(other->getName().getString()));
+    EXPECT_EQ(comparedWith(second), "with Slate");
+    other->shininess.setValue(0.75F);
+    EXPECT_TRUE(session.comesTrue([&] { return offers(first, "shininess") && offers(second, "shininess"); }));
+    EXPECT_FALSE(offers(session.panel(), "shininess"));
+
+    QDockWidget* last = pin();
+    compareIn(last)->click(); // takes the place of the one that was chosen first
+    EXPECT_FALSE(compareIn(first)->isChecked());
+    EXPECT_EQ(comparedWith(first), "");
+    EXPECT_EQ(comparedWith(second), "with Third");
+    last->close();
+    EXPECT_TRUE(session.comesTrue([&] { return pins().size() == 2; }));
+    EXPECT_EQ(comparedWith(second), "with Third"); // which is selected
+    EXPECT_TRUE(offers(session.panel(), "shininess"));
+}
+
 TEST_F(Pinned, TheValuesBeforeTheEditsShowAndNothingCanBeEditedMeanwhile)
 {
     const float before = material.shininess.getValue();
