@@ -1,47 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Every row of every type of node: what it is called, how it is reached, and that nothing of it is cut, with
 // the fonts of small and dense screens and in narrow docks.
-#include "plugins/Inspector/InspectorSession.h"
-
-#include <xsg/nodes/base/SoNode.h>
+#include "plugins/Inspector/AllNodes.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QStyleOptionComboBox>
 #include <QToolButton>
 #include <QToolTip>
 
+#include <array>
+
 namespace
 {
-
-std::vector<SoRef<SoNode>> nodesOfAllTypes()
-{
-    std::vector<SoRef<SoNode>> nodes;
-    for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId())) {
-        SoRef<SoNode> node(type.canCreateInstance() ? dynamic_cast<SoNode*>(type.createInstance()) : nullptr);
-        if (node && node->getFieldData()->getNumFields() > 0)
-            nodes.push_back(std::move(node));
-    }
-    return nodes;
-}
-
-QString nameOf(const SoNode& node)
-{
-    return QString::fromLatin1(node.getTypeId().getName().getString());
-}
-
-// From top to bottom.
-QList<QWidget*> rowsOf(QWidget& panel)
-{
-    QList<QWidget*> rows;
-    for (auto* row : panel.findChildren<QWidget*>(QStringLiteral("row"))) {
-        if (row->isVisible())
-            rows += row;
-    }
-    std::sort(rows.begin(), rows.end(), [](QWidget* a, QWidget* b) { return a->y() < b->y(); });
-    return rows;
-}
 
 bool isInput(const QWidget& widget)
 {
@@ -203,5 +176,85 @@ TEST_F(Reached, EveryInputOfEveryNodeByTabInReadingOrderWithAName)
         }
         EXPECT_EQ(session.stack().count(), 0) << "reading is no edit";
     }
+    session.selectNode(nullptr);
+}
+
+namespace
+{
+
+constexpr std::array Values{"TRUE",
+                            "FALSE",
+                            "0.25",
+                            "1",
+                            "2",
+                            "0.5 0.25",
+                            "0.5 0.25 0.125",
+                            "1 0 0  0.5",
+                            "0.5 0.25 0.125 1",
+                            "\"other\"",
+                            "[ 0.25 ]",
+                            "[ 3, 4 ]",
+                            "[ 1 2 3 ]",
+                            "[ 1 2 ]",
+                            "[ 1 0 0 0.5 ]",
+                            "[ \"other\" ]",
+                            "1 0 0 0  0 1 0 0  0 0 1 0  2 3 4 1",
+                            "LINES",
+                            "NONE",
+                            "AUTO"};
+
+// To another one; false where none of these texts is one.
+bool changeValue(SoField& field)
+{
+    SbString before;
+    field.get(before);
+    for (const char* text : Values) {
+        SbString after;
+        if (field.set(text))
+            field.get(after);
+        if (after.getLength() > 0 && after != before)
+            return true;
+    }
+    return false;
+}
+
+// All that an assistant reads out of a row.
+QStringList readOut(const QWidget& row)
+{
+    QStringList words;
+    for (auto* part : row.findChildren<QWidget*>()) {
+        const QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(part);
+        if (!reader || !part->isVisible())
+            continue;
+        words << reader->text(QAccessible::Name) << reader->text(QAccessible::Value)
+              << reader->text(QAccessible::Description) << (reader->state().checked ? "on" : "off");
+    }
+    return words;
+}
+
+} // namespace
+
+TEST_F(Reached, WhatIsReadOutFollowsTheValue)
+{
+    session.host.window().resize(1000, 1500);
+    int changed = 0;
+    for (const SoRef<SoNode>& node : nodesOfAllTypes()) {
+        session.selectNode(node.get());
+        QStringList names;
+        for (const QWidget* row : rowsOf(*session.panel()))
+            names << row->accessibleName().section(',', 0, 0);
+        for (const QString& name : qAsConst(names)) {
+            // A list's row becomes another one with its number of values.
+            const auto read = [&] { return readOut(*session.row(qPrintable(name))); };
+            SoField* field = node->getField(SbName(qPrintable(name)));
+            const QStringList before = read();
+            if (!field || !changeValue(*field))
+                continue;
+            ++changed;
+            ASSERT_TRUE(session.comesTrue([&] { return read() != before; }))
+                << qPrintable(nameOf(*node) + '.' + name);
+        }
+    }
+    EXPECT_GT(changed, 80);
     session.selectNode(nullptr);
 }
