@@ -6,6 +6,7 @@
 #include <xsg/changes/PatchApplication.h>
 #include <xsg/changes/SceneDiff.h>
 #include <xsg/files/SoSceneFile.h>
+#include <xsg/values/Printable.h>
 
 #include <algorithm>
 
@@ -28,6 +29,7 @@ public:
             require(error.rfind("fuzzed.xsgpatch:", 0) == 0 && error.back() == '.' &&
                         error.find('\n') == std::string::npos,
                     "the error is no sentence with its place: " + error);
+            require(error == xsg::printable(error), "the error shows bytes that are no text: " + error);
             return;
         }
         const std::string once = xsg::PatchText::write(changes);

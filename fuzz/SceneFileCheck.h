@@ -9,6 +9,7 @@
 #include <xsg/files/SceneReader.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/values/Printable.h>
 
 #include <algorithm>
 #include <set>
@@ -93,6 +94,7 @@ private:
                 "the error does not begin with its place: " + m_error);
         require(m_error.find('\n') == std::string::npos && m_error.back() == '.',
                 "the error is no single sentence: " + m_error);
+        require(m_error == xsg::printable(m_error), "the error shows bytes that are no text: " + m_error);
         return scene;
     }
 

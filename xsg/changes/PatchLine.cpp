@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/changes/PatchLine.h>
 
+#include <xsg/values/Printable.h>
+#include <xsg/values/Utf.h>
+
 #include <algorithm>
 #include <array>
 
@@ -22,9 +25,10 @@ constexpr std::size_t ShownLength = 40;
 bool PatchLine::fail(const std::string& expected)
 {
     m_in.skipBlanks();
+    const std::string_view rest = m_in.rest();
+    const std::string_view shown = rest.substr(0, xsg::wholeCharacters(rest, ShownLength));
     m_problem = expected + " was expected" +
-                (m_in.atEnd() ? " at the end of the line"
-                              : " instead of \"" + std::string(m_in.rest().substr(0, ShownLength)) + "\"");
+                (m_in.atEnd() ? " at the end of the line" : " instead of \"" + xsg::printable(shown) + "\"");
     return false;
 }
 

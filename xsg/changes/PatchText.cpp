@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/changes/PatchLine.h>
 #include <xsg/changes/SceneChange.h>
+#include <xsg/values/Printable.h>
 
 #include <algorithm>
 
@@ -145,8 +146,7 @@ bool PatchText::read(std::string_view text, const std::string& name, SceneChange
         else if (number > 1 && !line.empty() && line.front() != '#')
             PatchLine(line).read(found.emplace_back(), problem);
         if (!problem.empty()) {
-            error = name + ":" + std::to_string(number) + ": " + problem + ".";
-            std::replace(error.begin(), error.end(), '\n', ' ');
+            error = printable(name + ":" + std::to_string(number) + ": " + problem + ".");
             return false;
         }
         if (!found.empty() && found.back().line == 0)

@@ -3,11 +3,13 @@
 
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
+#include <xsg/values/Printable.h>
+#include <xsg/values/Utf.h>
 
-bool xsg::SceneFault::set(SceneText::Place where, std::string what)
+bool xsg::SceneFault::set(SceneText::Place where, std::string_view what)
 {
     place = where;
-    problem = std::move(what);
+    problem = printable(what);
     return false;
 }
 
@@ -23,7 +25,7 @@ bool xsg::SceneFault::refuse(SceneText::Place where, const SoField& field, std::
 std::string xsg::quotedStart(std::string_view text)
 {
     const std::string_view line = text.substr(0, text.find('\n'));
-    const std::string_view shown = line.substr(0, ShownLength);
+    const std::string_view shown = line.substr(0, wholeCharacters(line, ShownLength));
     return '"' + std::string(shown) + (shown.size() < line.size() ? "..." : "") + '"';
 }
 

@@ -13,17 +13,17 @@ namespace xsg
 
 struct SceneFault {
     SceneText::Place place{};
-    std::string problem; // one sentence on what is wrong and what was expected; empty as long as nothing is
+    std::string problem; // one printable sentence on what is wrong and what was expected; empty: nothing is
 
     /// Returns false, for whoever failed to return.
-    bool set(SceneText::Place where, std::string what);
+    bool set(SceneText::Place where, std::string_view what);
     /// The same, of a text that is no value of this field.
     bool refuse(SceneText::Place where, const SoField& field, std::string_view value);
 };
 
 /// How much of a wrong text an error shows.
 constexpr std::size_t ShownLength = 40;
-/// The beginning of a text's first line, in quotation marks.
+/// The beginning of a text's first line, whole characters, in quotation marks.
 std::string quotedStart(std::string_view text);
 
 /// The node's field of this name, or null; a node of an unknown type has whatever field a file names.

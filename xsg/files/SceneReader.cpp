@@ -100,7 +100,7 @@ bool xsg::SceneReader::readQuoted(std::string& out)
 
 std::string xsg::SceneReader::quotedFrom(std::size_t at)
 {
-    m_text.has(at + ShownLength);
+    m_text.has(at + ShownLength + 1); // which shows whether the last character is whole
     return xsg::quotedStart(m_text.from(at));
 }
 

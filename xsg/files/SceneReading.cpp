@@ -4,6 +4,7 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/support/SpecialFile.h>
+#include <xsg/values/Printable.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -22,8 +23,8 @@ std::string xsg::postReadError(const std::string& name, const SceneReader& reade
 {
     const std::string sentence = reader.getProblem() + ".";
     SoReadError::post(SbString(name), reader.getLine(), reader.getColumn(), SbString(sentence));
-    return name + ":" + std::to_string(reader.getLine()) + ": Column " + std::to_string(reader.getColumn()) +
-           ": " + sentence;
+    return printable(name + ":" + std::to_string(reader.getLine()) + ": Column " +
+                     std::to_string(reader.getColumn()) + ": " + sentence);
 }
 
 xsg::SceneReading::SceneReading(const std::string& path)
@@ -63,7 +64,7 @@ std::size_t xsg::SceneReading::readMore(char* to, std::size_t size)
 
 void xsg::SceneReading::refuse(const std::string& sentence)
 {
-    m_error = m_path + ": " + sentence;
+    m_error = printable(m_path + ": " + sentence);
     m_isDone = true;
     SoReadError::post(SbString(m_path), 0, SbString(sentence));
 }

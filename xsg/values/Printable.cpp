@@ -49,20 +49,6 @@ void appendPrintable(std::string& out, std::string_view text)
     }
 }
 
-bool isContinuation(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-// A place at or before this one that cuts no character.
-std::size_t cutAt(std::string_view text, std::size_t place)
-{
-    constexpr int MostContinuations = 3;
-    for (int i = 0; i < MostContinuations && isContinuation(text[place]); ++i)
-        --place;
-    return place;
-}
-
 } // namespace
 
 std::string xsg::printable(std::string_view text)
@@ -72,8 +58,8 @@ std::string xsg::printable(std::string_view text)
         appendPrintable(out, text);
         return out;
     }
-    appendPrintable(out, text.substr(0, cutAt(text, ShownFirst)));
+    appendPrintable(out, text.substr(0, wholeCharacters(text, ShownFirst)));
     out += " \xE2\x80\xA6 "; // an ellipsis
-    appendPrintable(out, text.substr(cutAt(text, text.size() - ShownLast)));
+    appendPrintable(out, text.substr(wholeCharacters(text, text.size() - ShownLast)));
     return out;
 }

@@ -104,6 +104,17 @@ std::string utf16ToUtf8(std::u16string_view text)
     return out;
 }
 
+std::size_t wholeCharacters(std::string_view text, std::size_t place)
+{
+    constexpr int MostContinuations = 3;
+    const auto isContinuation = [&](std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    for (int i = 0; i < MostContinuations && place > 0 && isContinuation(place); ++i)
+        --place;
+    return place;
+}
+
 std::u16string utf8ToUtf16(std::string_view text)
 {
     std::u16string out;

@@ -18,5 +18,7 @@ XSG_API std::u16string utf8ToUtf16(std::string_view text);
 XSG_API void appendUtf8(std::string& out, char32_t codePoint);
 /// The code point at `at`, moving past it; nothing, moving past one byte, where that is malformed.
 XSG_API std::optional<char32_t> decodeUtf8(std::string_view text, std::size_t& at);
+/// A place at or before this one, which lies in the text, that cuts no character.
+XSG_API std::size_t wholeCharacters(std::string_view text, std::size_t place);
 
 } // namespace xsg
