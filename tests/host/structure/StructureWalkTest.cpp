@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// A random walk of structural edits over real models, done and undone, ends in the first file's bytes.
-// SCOPIX_WALK_SEED walks another way, SCOPIX_WALK_STEPS another length.
+// A random walk of structural edits and of moves by handles over real models, done and undone, ends in the
+// first file's bytes. SCOPIX_WALK_SEED walks another way, SCOPIX_WALK_STEPS another length.
 #include "TreeParts.h"
+
+#include "../view/HandleWalk.h"
 
 #include <QRandomGenerator>
 
@@ -66,7 +68,7 @@ protected:
         services.selectPaths(randomPaths());
         if (count > MostNodes)
             return key(Qt::Key_Delete);
-        switch (random(count < FewestNodes ? 4 : 24)) {
+        switch (random(count < FewestNodes ? 4 : 28)) {
         case 0:
             return key(Qt::Key_D, Qt::ControlModifier);
         case 1:
@@ -111,6 +113,11 @@ protected:
         case 21:
             return editing.makePermanent();
         case 22:
+        case 23:
+        case 24:
+        case 25:
+            return move();
+        case 26:
             return services.undoStack().undo();
         default:
             return services.undoStack().redo();
@@ -125,6 +132,14 @@ protected:
         const int index = random(2) == 0 || !group ? -1 : random(group->getNumChildren() + 1);
         editing.perform(structure::transfer(randomPaths(), to, index, how[random(3)]));
     }
+    void move()
+    {
+        const int known = services.undoStack().index();
+        useSomeHandle(window.getView(), window.getHandles(), [this](int below) { return random(below); });
+        m_moves += services.undoStack().index() > known ? 1 : 0;
+        window.getHandles().setMode(scopix::HandleMode::Select);
+        tree.setFocus();
+    }
     // Every row is the node that stands there.
     void compareRows(const QModelIndex& row)
     {
@@ -137,6 +152,7 @@ protected:
         }
     }
 
+    int m_moves = 0;
     QRandomGenerator m_random{static_cast<quint32>(fromEnvironment("SCOPIX_WALK_SEED", 1))};
 };
 
@@ -156,6 +172,7 @@ TEST_P(StructureWalk, EndsInTheFirstBytes)
     const std::string last = text();
     const int index = services.undoStack().index();
     EXPECT_GT(index, 0);
+    EXPECT_GT(m_moves, 0);
     services.undoStack().setIndex(0);
     EXPECT_EQ(text(), first) << "with SCOPIX_WALK_SEED of " << qgetenv("SCOPIX_WALK_SEED").constData();
     services.undoStack().setIndex(index);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Moving, turning and scaling by handles in the 3D view, by mouse and by keys.
+#include "HandleWalk.h"
 #include "ViewPictures.h"
 
 #include "handles/HandleTool.h"
@@ -814,25 +815,9 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
                 chosen << paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))];
             services.selectPaths(chosen);
             SoSensorQueue::getInstance().process();
-            handles.setMode(HandleMode(1 + below(3)));
-            handles.setOfWorld(below(2) == 0);
-            const auto part = HandlePart(1 + below(8));
-            const auto at = handles.getShape().placeOf(part);
             const int known = steps();
-            if (at && below(4) != 0) {
-                const QPointF to = *at + QPointF(below(120) - 60, below(120) - 60);
-                press(*at);
-                moveTo(to, below(2) == 0 ? Qt::ControlModifier : Qt::NoModifier);
-                if (below(5) == 0)
-                    key(Qt::Key_Escape);
-                release(to);
-                EXPECT_LE(steps(), known + 1);
-            } else if (handles.getTarget()) {
-                key(Qt::Key_X + below(3));
-                type(below(2) == 0 ? "1.25" : "-3");
-                key(below(4) == 0 ? Qt::Key_Escape : Qt::Key_Return);
-                EXPECT_LE(steps(), known + 1);
-            }
+            useSomeHandle(view, handles, below);
+            EXPECT_LE(steps(), known + 1);
             dragged += steps() > known ? 1 : 0;
             together += steps() > known && handles.getTargetCount() > 1 ? 1 : 0;
             EXPECT_FALSE(handles.isDragging());
