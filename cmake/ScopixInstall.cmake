@@ -27,6 +27,9 @@ endmacro()
 scopix_install_library(xsg xsg)
 scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 
+scopix_install_library(ScopixLive Live)
+scopix_public_headers(ScopixLive scopix/live "${PROJECT_SOURCE_DIR}/live" ${SCOPIX_LIVE_HEADERS})
+
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
 

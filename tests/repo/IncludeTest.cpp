@@ -149,6 +149,8 @@ TEST_P(Layer, FindsTheSceneGraphInXsgAndTheContractInExtender)
             EXPECT_TRUE(fs::exists(root() / include.target)) << include;
         } else if (startsWith(include.target, "scopix/editing/")) {
             EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
+        } else if (startsWith(include.target, "scopix/live/")) {
+            EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
         } else if (startsWith(include.target, "scopix/")) {
             EXPECT_TRUE(fs::exists(root() / "extender" / include.target.substr(7))) << include;
         }
@@ -174,7 +176,7 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "editing", "src", "host"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "live", "extender", "editing", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
 
 TEST(Contract, KnowsNothingOfEditing)
