@@ -273,7 +273,7 @@ TEST_F(MillProcess, GoesOnWhenAnInspectorIsKilledAtAnyMoment)
             Probe doomed;
             if (!doomed.client.connect(program.socket()).empty())
                 _exit(1);
-            doomed.client.showPictures(640, 480);
+            doomed.client.showPictures(64, 48);
             doomed.client.showCounters(true);
             for (;;)
                 for (const NodeInfo& info : doomed.children(doomed.roots().at(0).id))
@@ -296,7 +296,7 @@ TEST_F(MillProcess, IsReportedAsGoneWhenItIsKilledAtAnyMoment)
         OtherProgram doomed(commandOf({"--no-window"}));
         Probe inspector;
         ASSERT_EQ(inspector.client.connect(doomed.socket()), "");
-        inspector.client.showPictures(640, 480);
+        inspector.client.showPictures(64, 48);
         const std::size_t questions = random() % 50;
         for (std::size_t i = 0; i < questions; ++i)
             inspector.roots();
