@@ -54,7 +54,7 @@ set(SCOPIX_LIVE_HEADERS
   Adapter.h Client.h LiveExport.h LivePacking.h LiveValue.h Server.h)
 
 set(SCOPIX_LIVE_XSG_HEADERS
-  XsgAdapter.h)
+  XsgAdapter.h XsgServer.h)
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h

@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Scenes of xsg as an inspector gets them, without a connection between.
+#include "live/Probe.h"
 #include "support/SoFieldGallery.h"
 #include "xsg/fields/FieldSamples.h"
 
 #include <scopix/live/values/LivePacking.h>
-#include <scopix/live/xsg/XsgAdapter.h>
+#include <scopix/live/xsg/XsgServer.h>
 
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/sensors/SoSensorQueue.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 
 using namespace scopix::live;
 
@@ -170,4 +173,18 @@ TEST_F(Xsg, KeepsNothingAliveOnceNobodyIsAttached)
     adapter.attached(false);
     EXPECT_EQ(cube->getRefCount(), 1);
     EXPECT_FALSE(adapter.node(cube->getNodeId()));
+}
+
+TEST(XsgServer, AnswersFromTheSensorQueue)
+{
+    const OwnRuntimeFolder folder;
+    SoRef<SoSeparator> root(new SoSeparator);
+    root->setName("Lent");
+    const std::unique_ptr<void, void (*)(void*)> loaded(scopixLiveBegin(root.get(), "loaded"), scopixLiveEnd);
+    const std::vector<Program> programs = listPrograms();
+    ASSERT_EQ(programs.size(), 1U);
+    EXPECT_EQ(programs[0].name, "loaded");
+    Probe probe([] { SoSensorQueue::getInstance().process(); });
+    ASSERT_EQ(probe.client.connect(programs[0].socketPath), "");
+    EXPECT_EQ(probe.roots().at(0).name, "Lent");
 }
