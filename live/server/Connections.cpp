@@ -92,12 +92,12 @@ Connections::Connections(Introduction introduction, Patience patience)
 // A child process that was forked has neither the thread nor the socket's name for its own.
 Connections::~Connections()
 {
+    if (!m_thread.joinable())
+        return;
     if (getpid() != m_owner) {
         m_thread.detach();
         return;
     }
-    if (!m_thread.joinable())
-        return;
     unlink(m_path.c_str());
     m_ends = true;
     m_wakeup->wake();

@@ -124,6 +124,25 @@ TEST(Folder, MayHaveANameThatIsTooLongForSockets)
     EXPECT_EQ(connections.path(), "");
 }
 
+// As in a program that forks and goes on without another program.
+TEST(Folder, KeepsTheSocketWhenAForkedChildEndsTheServer)
+{
+    const OwnRuntimeFolder folder;
+    auto connections = std::make_unique<Connections>(introduction(), Connections::Patience());
+    const std::string path = connections->path();
+    const pid_t child = fork();
+    if (child == 0) {
+        connections.reset();
+        _exit(fs::exists(path) ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(listPrograms().size(), 1U);
+    connections.reset();
+    EXPECT_FALSE(fs::exists(path));
+}
+
 TEST(StaleSockets, AreClearedByThoseWhoComeNext)
 {
     const OwnRuntimeFolder folder;
