@@ -75,7 +75,7 @@ private:
     template <class... T>
     void put(const std::tuple<T...>& parts)
     {
-        std::apply([this](const T&... each) { (put(each), ...); }, parts);
+        std::apply([this](const T&... each) { (*this)(each...); }, parts);
     }
     void put(const std::string& text)
     {
@@ -188,7 +188,7 @@ private:
     template <class... T>
     void get(std::tuple<T...>& parts)
     {
-        std::apply([this](T&... each) { (get(each), ...); }, parts);
+        std::apply([this](T&... each) { (*this)(each...); }, parts);
     }
     void get(std::string& text)
     {

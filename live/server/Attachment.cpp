@@ -64,7 +64,7 @@ void Attachment::answer(const Message& question)
     using Answer = AnswerOf<type>;
     const Answer answer = guarded(
         [&]() -> Answer {
-            return std::apply([this](auto&... each) { return ask(TypeConstant<type>(), each...); },
+            return std::apply([this](auto&... each) { return this->ask(TypeConstant<type>(), each...); },
                               *parameters);
         },
         [this](const std::string& reason) {
@@ -83,7 +83,7 @@ void Attachment::obey(const Message& request)
 {
     auto parameters = contentsOf<Parameters<type>>(request);
     if (parameters)
-        std::apply([this](auto&... each) { act(TypeConstant<type>(), each...); }, *parameters);
+        std::apply([this](auto&... each) { this->act(TypeConstant<type>(), each...); }, *parameters);
 }
 
 bool Attachment::answerOne()
@@ -321,7 +321,8 @@ bool Attachment::tellOne()
 
 void Attachment::tellValue(const std::pair<NodeId, std::string>& property)
 {
-    const auto& [node, name] = property;
+    const NodeId node = property.first;
+    const std::string& name = property.second;
     const auto found = m_watched.find(node);
     if (found == m_watched.end() || !found->second.values)
         return;
