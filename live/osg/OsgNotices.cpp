@@ -71,6 +71,8 @@ private:
     std::deque<Notice> m_notices;
 };
 
+OsgNotices::OsgNotices() = default;
+
 OsgNotices::~OsgNotices()
 {
     stop();

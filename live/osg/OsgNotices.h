@@ -4,6 +4,7 @@
 #include <scopix/live/adapter/Adapter.h>
 
 #include <osg/Notify>
+#include <osg/ref_ptr>
 
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace scopix::live
 class OsgNotices
 {
 public:
-    OsgNotices() = default;
+    OsgNotices();
     ~OsgNotices();
     OsgNotices(const OsgNotices&) = delete;
     OsgNotices& operator=(const OsgNotices&) = delete;

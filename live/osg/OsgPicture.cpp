@@ -87,6 +87,8 @@ OsgPicture::OsgPicture(OsgViewers& viewers, OsgViewing& viewing)
 {
 }
 
+OsgPicture::~OsgPicture() = default;
+
 void OsgPicture::ask(std::uint32_t width, std::uint32_t height)
 {
     m_width = width;

@@ -14,6 +14,9 @@ class OsgPicture
 {
 public:
     OsgPicture(OsgViewers& viewers, OsgViewing& viewing);
+    ~OsgPicture();
+    OsgPicture(const OsgPicture&) = delete;
+    OsgPicture& operator=(const OsgPicture&) = delete;
 
     void ask(std::uint32_t width, std::uint32_t height);
     std::optional<Picture> take();
