@@ -166,13 +166,14 @@ std::string wrongCount(std::size_t wanted)
            + ", one for each child, and no others can be set.";
 }
 
-// --- Materials: colours of the front faces; where front and back are one, both are written
+// --- Materials: colours of the front faces; where those of the back faces are the same, both are written. The flag
+// that says so is no good guide: it is gone once a back face was written, also when that is taken back.
 
 using MaterialGet = const osg::Vec4& (osg::Material::*)(osg::Material::Face) const;
 using MaterialSet = void (osg::Material::*)(osg::Material::Face, const osg::Vec4&);
 
 void addMaterialColor(OsgProperties& properties, const osg::Object& object, const std::string& name, MaterialGet get,
-                      MaterialSet set, bool (osg::Material::*isOne)() const)
+                      MaterialSet set)
 {
     for (const bool back : {false, true}) {
         const osg::Material::Face face = back ? osg::Material::BACK : osg::Material::FRONT;
@@ -182,8 +183,8 @@ void addMaterialColor(OsgProperties& properties, const osg::Object& object, cons
                       back ? "The colour of back faces." : "The colour of front faces, or of both where they have one.",
                       ValueKind::Color),
                 [get, face](osg::Material& m) { return osg::Vec4f((m.*get)(face)); },
-                [set, isOne, back](osg::Material& m, const osg::Vec4f& color) {
-                    const bool both = (m.*isOne)() && !back;
+                [get, set, back](osg::Material& m, const osg::Vec4f& color) {
+                    const bool both = !back && (m.*get)(osg::Material::FRONT) == (m.*get)(osg::Material::BACK);
                     (m.*set)(both ? osg::Material::FRONT_AND_BACK : back ? osg::Material::BACK : osg::Material::FRONT,
                              color);
                 });
@@ -193,10 +194,10 @@ void addMaterialColor(OsgProperties& properties, const osg::Object& object, cons
 void addMaterial(OsgProperties& properties, const osg::Object& object)
 {
     using M = osg::Material;
-    addMaterialColor(properties, object, "Ambient", &M::getAmbient, &M::setAmbient, &M::getAmbientFrontAndBack);
-    addMaterialColor(properties, object, "Diffuse", &M::getDiffuse, &M::setDiffuse, &M::getDiffuseFrontAndBack);
-    addMaterialColor(properties, object, "Specular", &M::getSpecular, &M::setSpecular, &M::getSpecularFrontAndBack);
-    addMaterialColor(properties, object, "Emission", &M::getEmission, &M::setEmission, &M::getEmissionFrontAndBack);
+    addMaterialColor(properties, object, "Ambient", &M::getAmbient, &M::setAmbient);
+    addMaterialColor(properties, object, "Diffuse", &M::getDiffuse, &M::setDiffuse);
+    addMaterialColor(properties, object, "Specular", &M::getSpecular, &M::setSpecular);
+    addMaterialColor(properties, object, "Emission", &M::getEmission, &M::setEmission);
     Extras<M>(properties, object)
         .value(
             ranged(named("Shininess", "The exponent of the highlight of front faces."), 0, 128),
@@ -269,7 +270,12 @@ void addModes(OsgProperties& properties, const osg::Object& object)
                 const S::TextureModeList& units = s.getTextureModeList();
                 return unit < units.size() ? modeIn(units[unit], GL_TEXTURE_2D) : int(osg::StateAttribute::INHERIT);
             },
-            [unit](S& s, int value) { s.setTextureMode(unit, GL_TEXTURE_2D, unsigned(value)); });
+            [unit](S& s, int value) {
+                s.setTextureMode(unit, GL_TEXTURE_2D, unsigned(value));
+                S::TextureModeList& units = s.getTextureModeList();
+                while (!units.empty() && units.back().empty())
+                    units.pop_back();
+            });
 }
 
 void appendAttributes(const osg::StateSet::AttributeList& list, std::vector<osg::Object*>& all)

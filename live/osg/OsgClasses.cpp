@@ -89,7 +89,7 @@ bool isForReadingOnly(const osg::Object& object, const std::string& name)
     static const std::set<std::string> ofCamera{"Viewport", "ColorMask", "RenderTargetImplementation"};
     return (isOne<osg::Image>(object) && ofImage.count(name)) || (isOne<osg::Uniform>(object) && ofUniform.count(name))
            || (isOne<osg::Camera>(object) && ofCamera.count(name))
-           || (isOne<osg::BufferData>(object) && name == "BufferObject");
+           || (isOne<osg::BufferData>(object) && name == "BufferObject") || name == "SupportsDisplayList";
 }
 
 void addSerializers(OsgProperties& properties, const osgDB::ObjectWrapper& wrapper, const osg::Object& object,

@@ -36,7 +36,9 @@ public:
     virtual ~OsgProperty() = default;
 
     const std::string& name() const { return m_info.name; }
+    ValueKind kind() const { return m_info.kind; }
     PropertyInfo& prototype() { return m_info; }
+    const PropertyInfo& prototype() const { return m_info; }
     virtual PropertyInfo info(const osg::Object& object) const;
 
     virtual std::optional<Value> read(osg::Object& object, OsgObjects& objects) const = 0;

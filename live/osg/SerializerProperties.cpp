@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace scopix::live
 {
@@ -152,6 +153,14 @@ public:
     {
     }
 
+    PropertyInfo info(const osg::Object& object) const override
+    {
+        PropertyInfo info = OsgProperty::info(object);
+        for (const std::int32_t number : m_unnamed)
+            info.names.push_back({std::to_string(number), number});
+        return info;
+    }
+
     std::optional<Value> read(osg::Object& object, OsgObjects&) const override
     {
         std::optional<std::vector<std::uint8_t>> bytes = writtenBytes(*m_serializer, object);
@@ -161,7 +170,9 @@ public:
             return packedText({bytes->begin(), bytes->end()});
         if (m_shape.bytes)
             return Value{m_shape.kind, m_shape.list, widened(*bytes, m_shape)};
-        return Value{info(object).kind, m_shape.list, *bytes};
+        Value value{kind(), m_shape.list, std::move(*bytes)};
+        noteUnnamed(value);
+        return value;
     }
 
     std::string write(osg::Object& object, const Value& value, OsgObjects&) const override
@@ -176,6 +187,18 @@ public:
     }
 
 private:
+    /// A choice without a name is one nevertheless, where an object has it: it can be set again.
+    void noteUnnamed(const Value& value) const
+    {
+        const std::vector<NamedNumber>& names = prototype().names;
+        const auto number = unpacked<std::int32_t>(value);
+        if (prototype().meaning != Meaning::Enumeration || names.empty() || !number)
+            return;
+        const auto isIt = [&](const NamedNumber& named) { return named.number == *number; };
+        if (std::none_of(names.begin(), names.end(), isIt))
+            m_unnamed.insert(*number);
+    }
+
     std::optional<std::vector<std::uint8_t>> serialized(const Value& value) const
     {
         if (m_shape.kind == ValueKind::String) {
@@ -207,6 +230,7 @@ private:
 
     osg::ref_ptr<osgDB::BaseSerializer> m_serializer;
     Shape m_shape;
+    mutable std::set<std::int32_t> m_unnamed;
 };
 
 /// Another object, or none.

@@ -43,7 +43,7 @@ OsgProgram::OsgProgram(const std::string& command, const std::string& environmen
 std::unique_ptr<OsgProgram> OsgProgram::viewer(const std::string& environment)
 {
     return std::make_unique<OsgProgram>(SCOPIX_OSGVIEWER " --window 0 0 320 240 --run-max-frame-rate 200 " + sceneFile(),
-                                        environment);
+                                        "OSG_OPTIMIZER=OFF " + environment);
 }
 
 std::unique_ptr<OsgProgram> OsgProgram::own(const std::string& options, bool preload)
@@ -87,6 +87,18 @@ NodeId objectIn(Probe& probe, NodeId node, const std::string& property, std::siz
     return index < objects.size() ? objects[index] : 0;
 }
 
+namespace
+{
+
+/// Made by the program while it draws, or of something else.
+bool isMadeAnew(const std::string& property, bool isShapeDrawable)
+{
+    const bool isArray = property.find("Array") != std::string::npos || property == "PrimitiveSetList";
+    return property == "BufferObject" || (isShapeDrawable && isArray);
+}
+
+} // namespace
+
 Snapshot snapshotOf(Probe& probe, NodeId root)
 {
     Snapshot snapshot;
@@ -94,7 +106,11 @@ Snapshot snapshotOf(Probe& probe, NodeId root)
     const std::function<void(NodeId)> add = [&](NodeId id) {
         if (id == 0 || !known.insert(id).second)
             return;
+        const bool isMade = probe.ask<std::optional<NodeInfo>>(&Client::node, id).value_or(NodeInfo()).type
+                            == "osg::ShapeDrawable";
         for (const PropertyInfo& property : probe.properties(id)) {
+            if (isMadeAnew(property.name, isMade))
+                continue;
             const std::optional<Value> value = probe.value(id, property.name);
             snapshot[{id, property.name}] = value.value_or(Value());
             if (value && value->kind == ValueKind::Object)
