@@ -258,6 +258,44 @@ StructureResult OsgScene::insert(NodeId parent, std::uint32_t index, NodeId id)
     return insertNode(*group, index, *node, state == m_removed.end() ? nullptr : &state->second);
 }
 
+/// What a group keeps for each child. Some groups forget to make room there when a child is inserted.
+class OsgScene::KeptForChildren
+{
+public:
+    explicit KeptForChildren(osg::Group& group)
+    {
+        if (const auto* lod = dynamic_cast<osg::LOD*>(&group))
+            m_ranges = lod->getRangeList();
+        if (const auto* sequence = dynamic_cast<osg::Sequence*>(&group))
+            m_times = sequence->getTimeList();
+    }
+
+    void putBack(osg::Group& group, unsigned at, const ChildState& state) const
+    {
+        if (auto* toggled = dynamic_cast<osg::Switch*>(&group))
+            toggled->setValue(at, state.shown);
+        if (auto* lod = dynamic_cast<osg::LOD*>(&group))
+            lod->setRangeList(with(m_ranges, at, {state.least, state.greatest}));
+        if (auto* sequence = dynamic_cast<osg::Sequence*>(&group)) {
+            const std::vector<double> times = with(m_times, at, state.time);
+            for (unsigned i = 0; i < times.size(); ++i)
+                sequence->setTime(i, times[i]);
+        }
+    }
+
+private:
+    template <class T>
+    static std::vector<T> with(std::vector<T> all, unsigned at, const T& one)
+    {
+        all.resize(std::max<std::size_t>(all.size(), at));
+        all.insert(all.begin() + std::ptrdiff_t(at), one);
+        return all;
+    }
+
+    osg::LOD::RangeList m_ranges;
+    std::vector<double> m_times;
+};
+
 StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg::Node& node, const ChildState* state)
 {
     if (isBelow(group, node))
@@ -268,16 +306,10 @@ StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg
     const unsigned at = index < all.size() ? group.getChildIndex(all[index])
                         : all.empty()      ? 0
                                            : group.getChildIndex(all.back()) + 1;
+    const KeptForChildren kept(group);
     if (!group.insertChild(at, &node))
         return refused("The group “" + group.getName() + "” did not take the node.");
-    if (!state)
-        return {true, m_objects.id(&node), {}};
-    if (auto* toggled = dynamic_cast<osg::Switch*>(&group))
-        toggled->setValue(at, state->shown);
-    if (auto* lod = dynamic_cast<osg::LOD*>(&group))
-        lod->setRange(at, state->least, state->greatest);
-    if (auto* sequence = dynamic_cast<osg::Sequence*>(&group))
-        sequence->setTime(at, state->time);
+    kept.putBack(group, at, state ? *state : ChildState());
     return {true, m_objects.id(&node), {}};
 }
 

@@ -6,6 +6,8 @@
 
 #include <osg/Group>
 
+#include <map>
+
 namespace scopix::live
 {
 
@@ -34,9 +36,10 @@ private:
     struct ChildState {
         bool shown = true;
         float least = 0;
-        float greatest = 0;
-        double time = 0;
+        float greatest = 1e10F;
+        double time = 1;
     };
+    class KeptForChildren;
 
     NodeInfo infoOf(osg::Object& object);
     StructureResult insertNode(osg::Group& group, std::uint32_t index, osg::Node& node, const ChildState* state);

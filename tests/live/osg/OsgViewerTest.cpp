@@ -28,6 +28,9 @@ std::array<int, 3> middle(Probe& probe)
     return {picture.pixels[at], picture.pixels[at + 1], picture.pixels[at + 2]};
 }
 
+/// Makes the program itself let go of a picture.
+const char* const letsGo = "UnRefImageDataAfterApply";
+
 unsigned walkSteps()
 {
     const char* steps = std::getenv("SCOPIX_WALK_STEPS");
@@ -102,7 +105,7 @@ TEST_F(OsgViewer, EditsEveryPropertyAndTakesAllBack)
         const auto infos = probe.properties(place.first);
         const auto info = std::find_if(infos.begin(), infos.end(), [&](const auto& i) { return i.name == place.second; });
         const Value other = info == infos.end() ? value : changed(*info, value, 1);
-        if (info == infos.end() || !info->writable || other == value || value.kind == ValueKind::None)
+        if (info == infos.end() || !info->writable || info->name == letsGo || other == value || value.kind == ValueKind::None)
             continue;
         const std::optional<Value> present = probe.value(place.first, place.second);
         const WriteResult result = probe.write(place.first, place.second, other);
@@ -176,6 +179,12 @@ TEST_F(OsgViewer, RemovesAndPutsBackWithWhatTheGroupKeepsForAChild)
     ASSERT_TRUE(inserted.done) << inserted.refusal;
     EXPECT_EQ(probe.children(levels).at(0).name, "near");
     EXPECT_EQ(probe.value(levels, "Greatest ranges"), before);
+    const NodeId turns = nodeNamed(probe, "turns");
+    const Value times = probe.value(turns, "Times").value_or(Value());
+    EXPECT_EQ(times.count(), 2U);
+    const auto turn = probe.ask<StructureResult>(&Client::remove, turns, 0U);
+    EXPECT_TRUE(probe.ask<StructureResult>(&Client::insert, turns, 0U, turn.node).done);
+    EXPECT_EQ(probe.value(turns, "Times"), times);
     const auto added = probe.ask<StructureResult>(&Client::add, levels, 2U, std::string("osg::MatrixTransform"));
     ASSERT_TRUE(added.done) << added.refusal;
     EXPECT_EQ(probe.children(levels).at(2).type, "osg::MatrixTransform");
@@ -286,7 +295,7 @@ TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
     for (const auto& [place, value] : before)
         if (known.insert(place.first).second)
             for (const PropertyInfo& info : probe.properties(place.first))
-                if (info.writable && info.kind != ValueKind::Object)
+                if (info.writable && info.kind != ValueKind::Object && info.name != letsGo)
                     places.push_back({place.first, info});
     ASSERT_GT(places.size(), 200U);
     std::mt19937 random(walkSeed());

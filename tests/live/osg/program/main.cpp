@@ -109,6 +109,7 @@ osg::ref_ptr<osg::Group> makeScene()
     auto lamp = named(new osg::LightSource, "lamp");
     auto words = named(new osgText::Text, "words");
     words->setText("hello");
+    words->setCharacterSize(0.5F);
     words->setPosition({-2, 1, -2});
     for (const osg::ref_ptr<osg::Node>& child :
          std::vector<osg::ref_ptr<osg::Node>>{mover, poser, chooser, levels, turns, lamp, words})
