@@ -195,7 +195,7 @@ TEST_F(OsgViewer, RemovesAndPutsBackWithWhatTheGroupKeepsForAChild)
 TEST_F(OsgViewer, PicksWhatIsInTheMiddleAndTellsItsBox)
 {
     PickResult hit;
-    probe.runUntil([&] { return (hit = probe.ask<PickResult>(&Client::pick, 0.5, 0.5)).hit; });
+    probe.runUntil([&] { return (hit = probe.ask<PickResult>(&Client::pick, 0.52, 0.45)).hit; });
     ASSERT_TRUE(hit.hit);
     EXPECT_EQ(hit.path.front(), probe.roots().at(0).id);
     EXPECT_EQ(hit.path.back(), nodeNamed(probe, "square"));

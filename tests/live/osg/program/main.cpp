@@ -120,6 +120,8 @@ osg::ref_ptr<osg::Group> makeScene()
 osg::ref_ptr<osg::GraphicsContext::Traits> windowTraits()
 {
     osg::ref_ptr<osg::GraphicsContext::Traits> traits = new osg::GraphicsContext::Traits;
+    traits->readDISPLAY();
+    traits->setUndefinedScreenDetailsToDefaultScreen();
     traits->width = 320;
     traits->height = 240;
     traits->doubleBuffer = true;
