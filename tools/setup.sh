@@ -28,6 +28,8 @@ scopix_test_packages=(
   "xauth|keeps that display private"
   "assimp-testmodels|models of many kinds, which have to open"
   "locales|a locale with a decimal comma, under which the tests run again"
+  "libopenscenegraph-dev|builds what inspects programs on OpenSceneGraph; without it, that is left out"
+  "openscenegraph|osgviewer, a program that has to be inspectable as it is"
 )
 # For ./test --asan alone.
 scopix_fuzz_packages=(
