@@ -55,11 +55,12 @@ bool haveEnough(const osg::Geometry::ArrayList& arrays, std::size_t vertices, st
                        [&](const auto& array) { return hasEnough(array.get(), vertices, sets); });
 }
 
-bool areWithinArrays(const std::vector<osg::ref_ptr<osg::Object>>& objects)
+bool areSafe(const std::vector<osg::ref_ptr<osg::Object>>& objects)
 {
     return std::all_of(objects.begin(), objects.end(), [](const auto& object) {
         const auto* geometry = dynamic_cast<const osg::Geometry*>(object.get());
-        return !geometry || isWithinArrays(*geometry);
+        const auto* sequence = dynamic_cast<const osg::Sequence*>(object.get());
+        return (!geometry || isWithinArrays(*geometry)) && (!sequence || isWithinChildren(*sequence));
     });
 }
 
@@ -116,6 +117,18 @@ bool isWithinArrays(const osg::Geometry& geometry)
            && haveEnough(geometry.getVertexAttribArrayList(), vertices, sets);
 }
 
+bool isWithinChildren(const osg::Sequence& sequence)
+{
+    osg::Sequence::LoopMode mode{};
+    int begin = 0;
+    int end = 0;
+    sequence.getInterval(mode, begin, end);
+    const std::vector<double>& times = sequence.getTimeList();
+    const auto count = int(std::min<std::size_t>(times.size(), sequence.getNumChildren()));
+    const bool positive = std::all_of(times.begin(), times.end(), [](double time) { return time > 0; });
+    return positive && begin < std::max(count, 1) && end < std::max(count, 1);
+}
+
 OsgEdits::OsgEdits(OsgObjects& objects, OsgClasses& classes, OsgViewers& viewers)
     : m_objects(objects)
     , m_classes(classes)
@@ -148,12 +161,12 @@ WriteResult OsgEdits::write(NodeId id, const std::string& name, const Value& val
         return refused("The program was still drawing after two seconds; try again.");
 
     const Objects touched = touchedBy(id);
-    const bool wasWithin = areWithinArrays(touched);
+    const bool wasSafe = areSafe(touched);
     const std::optional<Value> before = property->read(*object, m_objects);
     WriteResult result = refused(property->write(*object, value, m_objects));
-    if (result.refusal.empty() && wasWithin && before && !areWithinArrays(touched)) {
+    if (result.refusal.empty() && wasSafe && before && !areSafe(touched)) {
         property->write(*object, *before, m_objects);
-        result.refusal = "“" + name + "” cannot be set so, since more would be drawn than the arrays of the geometry hold.";
+        result.refusal = "“" + name + "” cannot be set so, since the program would draw more than there is.";
     }
     for (const auto& one : touched) {
         if (describesShape(*object))

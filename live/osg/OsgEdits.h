@@ -5,11 +5,12 @@
 #include "OsgViewers.h"
 
 #include <osg/Geometry>
+#include <osg/Sequence>
 
 namespace scopix::live
 {
 
-/// Writes values, such that the picture follows and OpenGL never reads beyond what a geometry has. Between frames only.
+/// Writes values, such that the picture follows and the program never reads beyond what it has. Between frames only.
 class OsgEdits
 {
 public:
@@ -29,5 +30,8 @@ private:
 
 /// Whether everything that the geometry draws lies within its arrays.
 bool isWithinArrays(const osg::Geometry& geometry);
+/// Whether the sequence shows children that it has, each for a while: otherwise it would never come to an end of its
+/// update.
+bool isWithinChildren(const osg::Sequence& sequence);
 
 } // namespace scopix::live

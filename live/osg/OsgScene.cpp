@@ -90,6 +90,20 @@ StructureResult refused(const std::string& why)
     return {false, 0, why};
 }
 
+/// Whether a sequence would go on to show a child that is no more.
+bool wouldLackShown(const osg::Group& group)
+{
+    const auto* sequence = dynamic_cast<const osg::Sequence*>(&group);
+    if (!sequence)
+        return false;
+    osg::Sequence::LoopMode mode{};
+    int begin = 0;
+    int end = 0;
+    sequence->getInterval(mode, begin, end);
+    const int left = int(group.getNumChildren()) - 1;
+    return left > 0 && (begin >= left || end >= left);
+}
+
 StructureResult notDrawn()
 {
     return refused("The program was still drawing after two seconds; try again.");
@@ -231,6 +245,8 @@ StructureResult OsgScene::remove(NodeId parent, std::uint32_t index)
         return refused("There is no such child to remove.");
     if (!m_viewers.waitForDrawing())
         return notDrawn();
+    if (wouldLackShown(*group))
+        return refused("The child cannot be removed, since the sequence shows as many children as it has; lower “End” first.");
     const osg::ref_ptr<osg::Node> node = all[index];
     const unsigned at = group->getChildIndex(node);
     const NodeId id = m_objects.id(node);
