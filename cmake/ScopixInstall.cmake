@@ -29,6 +29,11 @@ scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 
 scopix_install_library(ScopixLive Live)
 scopix_public_headers(ScopixLive scopix/live "${PROJECT_SOURCE_DIR}/live" ${SCOPIX_LIVE_HEADERS})
+if(TARGET ScopixLiveOsg)
+  scopix_install_library(ScopixLiveOsg LiveOsg)
+  scopix_public_headers(ScopixLiveOsg scopix/live/osg "${PROJECT_SOURCE_DIR}/live/osg" LiveOsg.h)
+  install(TARGETS ScopixLiveOsgPreload LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endif()
 
 scopix_install_library(ScopixLiveXsg LiveXsg)
 scopix_public_headers(ScopixLiveXsg scopix/live/xsg "${PROJECT_SOURCE_DIR}/live/xsg" ${SCOPIX_LIVE_XSG_HEADERS})

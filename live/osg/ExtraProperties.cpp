@@ -51,7 +51,8 @@ public:
             });
     }
 
-    Extras& text(PropertyInfo info, std::function<std::string(C&)> get, std::function<void(C&, const std::string&)> set)
+    Extras& text(PropertyInfo info, std::function<std::string(C&)> get,
+                 std::function<void(C&, const std::string&)> set)
     {
         info.kind = ValueKind::String;
         return call(
@@ -127,7 +128,8 @@ public:
     {
         if (!m_isOne)
             return *this;
-        CallProperty::Reader reader = [get](osg::Object& object, OsgObjects& objects) -> std::optional<Value> {
+        CallProperty::Reader reader = [get](osg::Object& object,
+                                            OsgObjects& objects) -> std::optional<Value> {
             return get(dynamic_cast<C&>(object), objects);
         };
         CallProperty::Writer writer;
@@ -144,7 +146,8 @@ private:
     bool m_isOne;
 };
 
-PropertyInfo named(const std::string& name, const std::string& documentation = {}, ValueKind kind = ValueKind::None)
+PropertyInfo named(const std::string& name, const std::string& documentation = {},
+                   ValueKind kind = ValueKind::None)
 {
     PropertyInfo info;
     info.name = name;
@@ -162,30 +165,35 @@ PropertyInfo ranged(PropertyInfo info, double least, double greatest)
 
 std::string wrongCount(std::size_t wanted)
 {
-    return "This list has " + std::to_string(wanted) + (wanted == 1 ? " element" : " elements")
-           + ", one for each child, and no others can be set.";
+    return "This list has " + std::to_string(wanted) + (wanted == 1 ? " element" : " elements") +
+           ", one for each child, and no others can be set.";
 }
 
-// --- Materials: colours of the front faces; where those of the back faces are the same, both are written. The flag
-// that says so is no good guide: it is gone once a back face was written, also when that is taken back.
+// --- Materials: colours of the front faces; where those of the back faces are the same, both are written.
+// The flag that says so is no good guide: it is gone once a back face was written, also when that is taken
+// back.
 
 using MaterialGet = const osg::Vec4& (osg::Material::*)(osg::Material::Face) const;
 using MaterialSet = void (osg::Material::*)(osg::Material::Face, const osg::Vec4&);
 
-void addMaterialColor(OsgProperties& properties, const osg::Object& object, const std::string& name, MaterialGet get,
-                      MaterialSet set)
+void addMaterialColor(OsgProperties& properties, const osg::Object& object, const std::string& name,
+                      MaterialGet get, MaterialSet set)
 {
     for (const bool back : {false, true}) {
         const osg::Material::Face face = back ? osg::Material::BACK : osg::Material::FRONT;
         Extras<osg::Material>(properties, object)
             .value(
                 named(back ? "Back" + name : name,
-                      back ? "The colour of back faces." : "The colour of front faces, or of both where they have one.",
+                      back ? "The colour of back faces."
+                           : "The colour of front faces, or of both where they have one.",
                       ValueKind::Color),
                 [get, face](osg::Material& m) { return osg::Vec4f((m.*get)(face)); },
                 [get, set, back](osg::Material& m, const osg::Vec4f& color) {
-                    const bool both = !back && (m.*get)(osg::Material::FRONT) == (m.*get)(osg::Material::BACK);
-                    (m.*set)(both ? osg::Material::FRONT_AND_BACK : back ? osg::Material::BACK : osg::Material::FRONT,
+                    const bool both =
+                        !back && (m.*get)(osg::Material::FRONT) == (m.*get)(osg::Material::BACK);
+                    (m.*set)(both   ? osg::Material::FRONT_AND_BACK
+                             : back ? osg::Material::BACK
+                                    : osg::Material::FRONT,
                              color);
                 });
     }
@@ -202,7 +210,9 @@ void addMaterial(OsgProperties& properties, const osg::Object& object)
         .value(
             ranged(named("Shininess", "The exponent of the highlight of front faces."), 0, 128),
             [](M& m) { return m.getShininess(M::FRONT); },
-            [](M& m, float s) { m.setShininess(m.getShininessFrontAndBack() ? M::FRONT_AND_BACK : M::FRONT, s); });
+            [](M& m, float s) {
+                m.setShininess(m.getShininessFrontAndBack() ? M::FRONT_AND_BACK : M::FRONT, s);
+            });
 }
 
 // --- State sets
@@ -264,11 +274,13 @@ void addModes(OsgProperties& properties, const osg::Object& object)
     }
     for (const unsigned unit : {0u, 1u, 2u, 3u})
         extras.choice(
-            named("GL_TEXTURE_2D of unit " + std::to_string(unit), "Whether this texture unit is used below here."),
+            named("GL_TEXTURE_2D of unit " + std::to_string(unit),
+                  "Whether this texture unit is used below here."),
             modeValues(),
             [unit](S& s) {
                 const S::TextureModeList& units = s.getTextureModeList();
-                return unit < units.size() ? modeIn(units[unit], GL_TEXTURE_2D) : int(osg::StateAttribute::INHERIT);
+                return unit < units.size() ? modeIn(units[unit], GL_TEXTURE_2D)
+                                           : int(osg::StateAttribute::INHERIT);
             },
             [unit](S& s, int value) {
                 s.setTextureMode(unit, GL_TEXTURE_2D, unsigned(value));
@@ -333,16 +345,16 @@ void addTexture(OsgProperties& properties, const osg::Object& object)
             [](T& t) { return int(t.getFilter(T::MIN_FILTER)); },
             [](T& t, int filter) { t.setFilter(T::MIN_FILTER, T::FilterMode(filter)); })
         .choice(
-            named("MAG_FILTER", "How the picture is read where it is drawn larger."), {filters[0], filters[1]},
-            [](T& t) { return int(t.getFilter(T::MAG_FILTER)); },
+            named("MAG_FILTER", "How the picture is read where it is drawn larger."),
+            {filters[0], filters[1]}, [](T& t) { return int(t.getFilter(T::MAG_FILTER)); },
             [](T& t, int filter) { t.setFilter(T::MAG_FILTER, T::FilterMode(filter)); });
 }
 
 /// Bytes a pixel of a picture that an inspector can show and change; 0 of any other.
 unsigned plainComponents(const osg::Image& image)
 {
-    const bool plain = image.getDataType() == GL_UNSIGNED_BYTE && image.r() == 1 && image.data()
-                       && (image.getRowLength() == 0 || image.getRowLength() == image.s());
+    const bool plain = image.getDataType() == GL_UNSIGNED_BYTE && image.r() == 1 && image.data() &&
+                       (image.getRowLength() == 0 || image.getRowLength() == image.s());
     const unsigned components = osg::Image::computeNumComponents(image.getPixelFormat());
     const bool known = image.getPixelFormat() != GL_BGR && image.getPixelFormat() != GL_BGRA;
     return plain && known && components >= 1 && components <= 4 && !image.isCompressed() ? components : 0;
@@ -363,10 +375,10 @@ std::optional<Value> pixelsOf(const osg::Image& image)
 std::string writePixels(osg::Image& image, const Value& value)
 {
     const std::optional<Value> present = pixelsOf(image);
-    if (!present || present->bytes.size() != value.bytes.size()
-        || !std::equal(present->bytes.begin(), present->bytes.begin() + 12, value.bytes.begin()))
-        return "The pixels of this picture take another one of " + std::to_string(image.s()) + " × "
-               + std::to_string(image.t()) + " pixels only, with as many components.";
+    if (!present || present->bytes.size() != value.bytes.size() ||
+        !std::equal(present->bytes.begin(), present->bytes.begin() + 12, value.bytes.begin()))
+        return "The pixels of this picture take another one of " + std::to_string(image.s()) + " × " +
+               std::to_string(image.t()) + " pixels only, with as many components.";
     const std::size_t row = std::size_t(image.s()) * plainComponents(image);
     for (int y = 0; y < image.t(); ++y)
         std::copy_n(value.bytes.data() + 12 + std::size_t(y) * row, row, image.data(0, y));
@@ -383,11 +395,11 @@ void addImage(OsgProperties& properties, const osg::Object& object)
             [](I& image, OsgObjects&) { return pixelsOf(image); },
             [](I& image, const Value& value, OsgObjects&) { return writePixels(image, value); })
         .call(
-            named("Width", "In pixels.", ValueKind::Int32), [](I& image, OsgObjects&) { return packedAs(image.s()); },
-            nullptr)
+            named("Width", "In pixels.", ValueKind::Int32),
+            [](I& image, OsgObjects&) { return packedAs(image.s()); }, nullptr)
         .call(
-            named("Height", "In pixels.", ValueKind::Int32), [](I& image, OsgObjects&) { return packedAs(image.t()); },
-            nullptr);
+            named("Height", "In pixels.", ValueKind::Int32),
+            [](I& image, OsgObjects&) { return packedAs(image.t()); }, nullptr);
 }
 
 // --- Groups that keep something for each child
@@ -458,7 +470,8 @@ void addGeometry(OsgProperties& properties, const osg::Object& object)
     Extras<G>(properties, object)
         .objects("PrimitiveSetList", [](G& g, auto& all) { appendAll(g.getPrimitiveSetList(), all); })
         .objects("TexCoordArrayList", [](G& g, auto& all) { appendAll(g.getTexCoordArrayList(), all); })
-        .objects("VertexAttribArrayList", [](G& g, auto& all) { appendAll(g.getVertexAttribArrayList(), all); });
+        .objects("VertexAttribArrayList",
+                 [](G& g, auto& all) { appendAll(g.getVertexAttribArrayList(), all); });
 }
 
 // --- Texts and shaders
@@ -476,7 +489,8 @@ void addTexts(OsgProperties& properties, const osg::Object& object)
             named("Text"), [](T& t) { return utf8(t.getText()); },
             [](T& t, const std::string& text) { t.setText(text, osgText::String::ENCODING_UTF8); })
         .value(
-            named("CharacterSize", "The height of the characters."), [](T& t) { return t.getCharacterHeight(); },
+            named("CharacterSize", "The height of the characters."),
+            [](T& t) { return t.getCharacterHeight(); },
             [](T& t, float height) { t.setCharacterSize(height, t.getCharacterAspectRatio()); });
     Extras<osg::Shader>(properties, object)
         .text(
@@ -500,13 +514,20 @@ std::optional<UniformKind> kindOf(const osg::Uniform& uniform)
 {
     using U = osg::Uniform;
     switch (uniform.getType()) {
-    case U::FLOAT: return UniformKind{ValueKind::Float, 1};
-    case U::FLOAT_VEC2: return UniformKind{ValueKind::Vec2f, 2};
-    case U::FLOAT_VEC3: return UniformKind{ValueKind::Vec3f, 3};
-    case U::FLOAT_VEC4: return UniformKind{ValueKind::Vec4f, 4};
-    case U::INT: return UniformKind{ValueKind::Int32, 0};
-    case U::BOOL: return UniformKind{ValueKind::Int32, 0};
-    default: return std::nullopt;
+    case U::FLOAT:
+        return UniformKind{ValueKind::Float, 1};
+    case U::FLOAT_VEC2:
+        return UniformKind{ValueKind::Vec2f, 2};
+    case U::FLOAT_VEC3:
+        return UniformKind{ValueKind::Vec3f, 3};
+    case U::FLOAT_VEC4:
+        return UniformKind{ValueKind::Vec4f, 4};
+    case U::INT:
+        return UniformKind{ValueKind::Int32, 0};
+    case U::BOOL:
+        return UniformKind{ValueKind::Int32, 0};
+    default:
+        return std::nullopt;
     }
 }
 
@@ -559,7 +580,8 @@ public:
             return wrong;
         void* start = nullptr;
         if (bytesOf(uniform, start) != value.bytes.size() || !start)
-            return "This uniform has " + std::to_string(uniform.getNumElements()) + " elements, and no others can be set.";
+            return "This uniform has " + std::to_string(uniform.getNumElements()) +
+                   " elements, and no others can be set.";
         std::memcpy(start, value.bytes.data(), value.bytes.size());
         uniform.dirty();
         return {};

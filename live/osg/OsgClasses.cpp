@@ -70,26 +70,30 @@ osgDB::ObjectWrapper* wrapperOf(const osg::Object& object)
 /// Shown as children or by properties of their own, of use to readers of old files only, or no data.
 bool isLeftOut(const osg::Object& object, const std::string& name)
 {
-    static const std::set<std::string> always{"Children", "Drawables", "UserData", "UDC_UserData", "UDC_UserObjects"};
-    static const std::set<std::string> ofGeometry{"VertexData", "NormalData", "ColorData", "SecondaryColorData",
-                                                  "FogCoordData", "TexCoordData", "VertexAttribData", "FastPathHint"};
+    static const std::set<std::string> always{"Children", "Drawables", "UserData", "UDC_UserData",
+                                              "UDC_UserObjects"};
+    static const std::set<std::string> ofGeometry{"VertexData",         "NormalData",   "ColorData",
+                                                  "SecondaryColorData", "FogCoordData", "TexCoordData",
+                                                  "VertexAttribData",   "FastPathHint"};
     static const std::set<std::string> ofStateSet{"AttributeList", "TextureAttributeList", "UniformList"};
-    return always.count(name) || (isOne<osg::Geometry>(object) && ofGeometry.count(name))
-           || (isOne<osg::StateSet>(object) && ofStateSet.count(name))
-           || (isOne<osg::Switch>(object) && name == "ValueList") || (isOne<osg::LOD>(object) && name == "RangeList")
-           || name == "TimeList";
+    return always.count(name) || (isOne<osg::Geometry>(object) && ofGeometry.count(name)) ||
+           (isOne<osg::StateSet>(object) && ofStateSet.count(name)) ||
+           (isOne<osg::Switch>(object) && name == "ValueList") ||
+           (isOne<osg::LOD>(object) && name == "RangeList") || name == "TimeList";
 }
 
-/// What describes memory that the program owns: a value that does not fit it would make OpenGL read beyond it.
+/// What describes memory that the program owns: a value that does not fit it would make OpenGL read beyond
+/// it.
 bool isForReadingOnly(const osg::Object& object, const std::string& name)
 {
-    static const std::set<std::string> ofImage{"AllocationMode", "DataType", "InternalTextureFormat", "Packing",
-                                               "PixelFormat", "RowLength"};
+    static const std::set<std::string> ofImage{"AllocationMode", "DataType",    "InternalTextureFormat",
+                                               "Packing",        "PixelFormat", "RowLength"};
     static const std::set<std::string> ofUniform{"Type", "NumElements"};
     static const std::set<std::string> ofCamera{"Viewport", "ColorMask", "RenderTargetImplementation"};
-    return (isOne<osg::Image>(object) && ofImage.count(name)) || (isOne<osg::Uniform>(object) && ofUniform.count(name))
-           || (isOne<osg::Camera>(object) && ofCamera.count(name))
-           || (isOne<osg::BufferData>(object) && name == "BufferObject") || name == "SupportsDisplayList";
+    return (isOne<osg::Image>(object) && ofImage.count(name)) ||
+           (isOne<osg::Uniform>(object) && ofUniform.count(name)) ||
+           (isOne<osg::Camera>(object) && ofCamera.count(name)) ||
+           (isOne<osg::BufferData>(object) && name == "BufferObject") || name == "SupportsDisplayList";
 }
 
 void addSerializers(OsgProperties& properties, const osgDB::ObjectWrapper& wrapper, const osg::Object& object,

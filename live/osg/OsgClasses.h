@@ -10,9 +10,9 @@
 namespace scopix::live
 {
 
-/// The properties of every class whose objects have been looked at: those that OpenSceneGraph's serializers know, and
-/// more. A class that has no serializers, as those of a program's own, has those of the nearest class that it derives
-/// from. For one thread.
+/// The properties of every class whose objects have been looked at: those that OpenSceneGraph's serializers
+/// know, and more. A class that has no serializers, as those of a program's own, has those of the nearest
+/// class that it derives from. For one thread.
 class OsgClasses
 {
 public:

@@ -21,9 +21,12 @@ struct Row {
 };
 
 const Row rows[] = {
-    {"Frame time", "ms", "From the start of one frame to the start of the next.", Source::Viewer, "Frame duration", 1000},
-    {"Event time", "ms", "What the program does with events.", Source::Viewer, "Event traversal time taken", 1000},
-    {"Update time", "ms", "What callbacks do to the scene.", Source::Viewer, "Update traversal time taken", 1000},
+    {"Frame time", "ms", "From the start of one frame to the start of the next.", Source::Viewer,
+     "Frame duration", 1000},
+    {"Event time", "ms", "What the program does with events.", Source::Viewer, "Event traversal time taken",
+     1000},
+    {"Update time", "ms", "What callbacks do to the scene.", Source::Viewer, "Update traversal time taken",
+     1000},
     {"Cull time", "ms", "Finding what is seen.", Source::Camera, "Cull traversal time taken", 1000},
     {"Draw time", "ms", "Giving OpenGL what is seen.", Source::Camera, "Draw traversal time taken", 1000},
     {"GPU time", "ms", "Drawing it, where OpenGL can tell.", Source::Camera, "GPU draw time taken", 1000},

@@ -13,8 +13,8 @@
 namespace scopix::live
 {
 
-/// What the program's own statistics say about the last frames; they are switched on when they are asked for first, and
-/// back to how they were by `stop`. Between frames only.
+/// What the program's own statistics say about the last frames; they are switched on when they are asked for
+/// first, and back to how they were by `stop`. Between frames only.
 class OsgCounters
 {
 public:

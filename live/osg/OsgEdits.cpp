@@ -42,10 +42,14 @@ bool hasEnough(const osg::Array* array, std::size_t vertices, std::size_t sets)
     if (!array)
         return true;
     switch (array->getBinding()) {
-    case osg::Array::BIND_PER_VERTEX: return array->getNumElements() >= vertices;
-    case osg::Array::BIND_PER_PRIMITIVE_SET: return array->getNumElements() >= sets;
-    case osg::Array::BIND_OVERALL: return array->getNumElements() >= 1;
-    default: return true;
+    case osg::Array::BIND_PER_VERTEX:
+        return array->getNumElements() >= vertices;
+    case osg::Array::BIND_PER_PRIMITIVE_SET:
+        return array->getNumElements() >= sets;
+    case osg::Array::BIND_OVERALL:
+        return array->getNumElements() >= 1;
+    default:
+        return true;
     }
 }
 
@@ -109,12 +113,13 @@ bool isWithinArrays(const osg::Geometry& geometry)
     }
     const std::size_t sets = geometry.getNumPrimitiveSets();
     const osg::Array* positions = geometry.getVertexArray();
-    return vertices <= (positions ? positions->getNumElements() : 0)
-           && hasEnough(geometry.getNormalArray(), vertices, sets) && hasEnough(geometry.getColorArray(), vertices, sets)
-           && hasEnough(geometry.getSecondaryColorArray(), vertices, sets)
-           && hasEnough(geometry.getFogCoordArray(), vertices, sets)
-           && haveEnough(geometry.getTexCoordArrayList(), vertices, sets)
-           && haveEnough(geometry.getVertexAttribArrayList(), vertices, sets);
+    return vertices <= (positions ? positions->getNumElements() : 0) &&
+           hasEnough(geometry.getNormalArray(), vertices, sets) &&
+           hasEnough(geometry.getColorArray(), vertices, sets) &&
+           hasEnough(geometry.getSecondaryColorArray(), vertices, sets) &&
+           hasEnough(geometry.getFogCoordArray(), vertices, sets) &&
+           haveEnough(geometry.getTexCoordArrayList(), vertices, sets) &&
+           haveEnough(geometry.getVertexAttribArrayList(), vertices, sets);
 }
 
 bool isWithinChildren(const osg::Sequence& sequence)

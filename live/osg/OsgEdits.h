@@ -10,7 +10,8 @@
 namespace scopix::live
 {
 
-/// Writes values, such that the picture follows and the program never reads beyond what it has. Between frames only.
+/// Writes values, such that the picture follows and the program never reads beyond what it has. Between
+/// frames only.
 class OsgEdits
 {
 public:
@@ -30,8 +31,8 @@ private:
 
 /// Whether everything that the geometry draws lies within its arrays.
 bool isWithinArrays(const osg::Geometry& geometry);
-/// Whether the sequence shows children that it has, each for a while: otherwise it would never come to an end of its
-/// update.
+/// Whether the sequence shows children that it has, each for a while: otherwise it would never come to an end
+/// of its update.
 bool isWithinChildren(const osg::Sequence& sequence);
 
 } // namespace scopix::live

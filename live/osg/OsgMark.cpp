@@ -39,8 +39,10 @@ osg::ref_ptr<osg::Geometry> makeEdges()
 
 void setUp(osg::StateSet& state)
 {
-    constexpr auto off = osg::StateAttribute::OFF | osg::StateAttribute::OVERRIDE | osg::StateAttribute::PROTECTED;
-    constexpr auto on = osg::StateAttribute::ON | osg::StateAttribute::OVERRIDE | osg::StateAttribute::PROTECTED;
+    constexpr auto off =
+        osg::StateAttribute::OFF | osg::StateAttribute::OVERRIDE | osg::StateAttribute::PROTECTED;
+    constexpr auto on =
+        osg::StateAttribute::ON | osg::StateAttribute::OVERRIDE | osg::StateAttribute::PROTECTED;
     state.setMode(GL_LIGHTING, off);
     state.setMode(GL_DEPTH_TEST, off);
     state.setMode(GL_BLEND, off);
@@ -92,7 +94,9 @@ void OsgMark::follow()
         return;
     }
     const bool moved = node->getBound() != m_bound || parentMatrix(*node) != m_matrix;
-    const auto isOff = [this](const auto& camera) { return !camera.valid() || !camera->containsNode(m_node); };
+    const auto isOff = [this](const auto& camera) {
+        return !camera.valid() || !camera->containsNode(m_node);
+    };
     if (!moved && std::none_of(m_cameras.begin(), m_cameras.end(), isOff))
         return;
     if (!m_viewers.waitForDrawing())

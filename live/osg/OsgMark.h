@@ -9,7 +9,8 @@
 namespace scopix::live
 {
 
-/// Draws a box around the selected node in the program's own view, through whatever lies before it. Between frames only.
+/// Draws a box around the selected node in the program's own view, through whatever lies before it. Between
+/// frames only.
 class OsgMark
 {
 public:

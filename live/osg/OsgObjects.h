@@ -15,9 +15,9 @@ namespace scopix::live
 
 /// The numbers under which an inspector knows objects of the program.
 ///
-/// Keeps no object alive, except those of `keep`, and never dereferences one that has ended: each entry observes
-/// its object, and a number is only given once, also where a new object lies at the address of an old one. For one
-/// thread; objects may end in any.
+/// Keeps no object alive, except those of `keep`, and never dereferences one that has ended: each entry
+/// observes its object, and a number is only given once, also where a new object lies at the address of an
+/// old one. For one thread; objects may end in any.
 class OsgObjects
 {
 public:

@@ -17,7 +17,8 @@ Picture fitted(const osg::Image& image, std::uint32_t mostWidth, std::uint32_t m
 {
     const auto width = std::uint32_t(image.s());
     const auto height = std::uint32_t(image.t());
-    const std::uint32_t step = std::max({1u, (width + mostWidth - 1) / mostWidth, (height + mostHeight - 1) / mostHeight});
+    const std::uint32_t step =
+        std::max({1u, (width + mostWidth - 1) / mostWidth, (height + mostHeight - 1) / mostHeight});
     Picture picture;
     picture.width = std::max(1u, width / step);
     picture.height = std::max(1u, height / step);
@@ -57,11 +58,13 @@ public:
             (*m_inner)(info);
         if (!m_isWanted.exchange(false))
             return;
-        const osg::GraphicsContext* context = info.getState() ? info.getState()->getGraphicsContext() : nullptr;
+        const osg::GraphicsContext* context =
+            info.getState() ? info.getState()->getGraphicsContext() : nullptr;
         if (!context || !context->getTraits())
             return;
         osg::ref_ptr<osg::Image> image = new osg::Image;
-        image->readPixels(0, 0, context->getTraits()->width, context->getTraits()->height, GL_RGBA, GL_UNSIGNED_BYTE);
+        image->readPixels(0, 0, context->getTraits()->width, context->getTraits()->height, GL_RGBA,
+                          GL_UNSIGNED_BYTE);
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_image = image;
     }

@@ -8,8 +8,8 @@
 namespace scopix::live
 {
 
-/// Takes pictures of the program's window as it is drawn. A callback is there only from when a picture was asked for until
-/// it was taken. Between frames only; the picture itself is read by the thread that draws.
+/// Takes pictures of the program's window as it is drawn. A callback is there only from when a picture was
+/// asked for until it was taken. Between frames only; the picture itself is read by the thread that draws.
 class OsgPicture
 {
 public:

@@ -49,7 +49,8 @@ std::string OsgProperty::misfit(const PropertyInfo& info, const Value& value) co
     if (info.meaning == Meaning::Enumeration && !info.names.empty() && !info.list) {
         const auto number = unpacked<std::int32_t>(value);
         if (!number || !isNamed(info, *number))
-            return "“" + name() + "” has no choice with the number " + std::to_string(number.value_or(0)) + ".";
+            return "“" + name() + "” has no choice with the number " + std::to_string(number.value_or(0)) +
+                   ".";
     }
     return {};
 }

@@ -24,8 +24,8 @@ namespace scopix::live
 
 /// One property of a class of the program's scene graph: what it is, and how it is read and written.
 ///
-/// Lives as long as its table and is shared by all objects of the class. Called in the program's thread with an
-/// object of that class.
+/// Lives as long as its table and is shared by all objects of the class. Called in the program's thread with
+/// an object of that class.
 class OsgProperty
 {
 public:
@@ -44,8 +44,8 @@ public:
     virtual std::optional<Value> read(osg::Object& object, OsgObjects& objects) const = 0;
     /// A sentence that says why not; empty where it was written.
     virtual std::string write(osg::Object& object, const Value& value, OsgObjects& objects) const;
-    /// What is compared to notice that the value has changed, at a small cost however long it is; none of what is
-    /// too dear to be compared each frame.
+    /// What is compared to notice that the value has changed, at a small cost however long it is; none of
+    /// what is too dear to be compared each frame.
     virtual std::optional<Value> stamp(osg::Object& object, OsgObjects& objects) const;
 
 protected:

@@ -25,8 +25,16 @@ namespace
 {
 
 const char* const addable[] = {
-    "osg::Group",  "osg::MatrixTransform", "osg::PositionAttitudeTransform", "osg::Switch",        "osg::LOD",
-    "osg::Geode",  "osg::LightSource",     "osg::Sequence",                  "osg::ShapeDrawable", "osgText::Text",
+    "osg::Group",
+    "osg::MatrixTransform",
+    "osg::PositionAttitudeTransform",
+    "osg::Switch",
+    "osg::LOD",
+    "osg::Geode",
+    "osg::LightSource",
+    "osg::Sequence",
+    "osg::ShapeDrawable",
+    "osgText::Text",
     "osg::Camera",
 };
 
@@ -246,7 +254,8 @@ StructureResult OsgScene::remove(NodeId parent, std::uint32_t index)
     if (!m_viewers.waitForDrawing())
         return notDrawn();
     if (wouldLackShown(*group))
-        return refused("The child cannot be removed, since the sequence shows as many children as it has; lower “End” first.");
+        return refused("The child cannot be removed, since the sequence shows as many children as it has; "
+                       "lower “End” first.");
     const osg::ref_ptr<osg::Node> node = all[index];
     const unsigned at = group->getChildIndex(node);
     const NodeId id = m_objects.id(node);
@@ -312,7 +321,8 @@ private:
     std::vector<double> m_times;
 };
 
-StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg::Node& node, const ChildState* state)
+StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg::Node& node,
+                                     const ChildState* state)
 {
     if (isBelow(group, node))
         return refused("A node cannot be put below itself.");

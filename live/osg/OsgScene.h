@@ -11,8 +11,8 @@
 namespace scopix::live
 {
 
-/// The nodes of the program as a tree from its cameras down, and changes of it. What this library adds to draw a mark is
-/// no part of the tree. Between frames only.
+/// The nodes of the program as a tree from its cameras down, and changes of it. What this library adds to
+/// draw a mark is no part of the tree. Between frames only.
 class OsgScene
 {
 public:
@@ -42,7 +42,8 @@ private:
     class KeptForChildren;
 
     NodeInfo infoOf(osg::Object& object);
-    StructureResult insertNode(osg::Group& group, std::uint32_t index, osg::Node& node, const ChildState* state);
+    StructureResult insertNode(osg::Group& group, std::uint32_t index, osg::Node& node,
+                               const ChildState* state);
 
     OsgObjects& m_objects;
     OsgViewers& m_viewers;

@@ -30,8 +30,8 @@ public:
 bool isIdle(osg::Camera& camera)
 {
     auto* renderer = dynamic_cast<osgViewer::Renderer*>(camera.getRenderer());
-    return !renderer || renderer->getGraphicsThreadDoesCull() || !camera.getGraphicsContext()
-           || !camera.getGraphicsContext()->getGraphicsThread() || RendererQueues::isIdle(*renderer);
+    return !renderer || renderer->getGraphicsThreadDoesCull() || !camera.getGraphicsContext() ||
+           !camera.getGraphicsContext()->getGraphicsThread() || RendererQueues::isIdle(*renderer);
 }
 
 bool isIdle(osgViewer::ViewerBase& viewer)

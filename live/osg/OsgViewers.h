@@ -30,12 +30,14 @@ public:
     /// The master camera of each view, then its slaves.
     std::vector<osg::Camera*> cameras() const;
 
-    /// Waits until no thread draws the last frame any more; false where one has not finished within two seconds.
+    /// Waits until no thread draws the last frame any more; false where one has not finished within two
+    /// seconds.
     ///
-    /// Threads that cull have ended their part when a frame returns. A thread that draws takes what was culled from
-    /// a queue of its renderer, draws it, and puts it into another; it reads the scene in between and at no other
-    /// time. So when nothing is on its way between the two queues, this thread alone knows the scene until it culls the
-    /// next frame, and the locks of the queues order what was read before what is written then.
+    /// Threads that cull have ended their part when a frame returns. A thread that draws takes what was
+    /// culled from a queue of its renderer, draws it, and puts it into another; it reads the scene in between
+    /// and at no other time. So when nothing is on its way between the two queues, this thread alone knows
+    /// the scene until it culls the next frame, and the locks of the queues order what was read before what
+    /// is written then.
     bool waitForDrawing();
     void requestRedraw();
 

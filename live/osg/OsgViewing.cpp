@@ -18,8 +18,8 @@ namespace
 
 bool contains(const osg::Viewport* viewport, double x, double y)
 {
-    return viewport && x >= viewport->x() && y >= viewport->y() && x < viewport->x() + viewport->width()
-           && y < viewport->y() + viewport->height();
+    return viewport && x >= viewport->x() && y >= viewport->y() && x < viewport->x() + viewport->width() &&
+           y < viewport->y() + viewport->height();
 }
 
 constexpr double degree = 3.14159265358979323846 / 180;
@@ -51,8 +51,8 @@ Camera cameraOf(const osg::Camera& camera)
 bool isUsable(const Camera& camera)
 {
     const auto finite = [](double d) { return std::isfinite(d); };
-    return std::all_of(camera.position, camera.position + 3, finite)
-           && std::all_of(camera.rotation, camera.rotation + 4, finite);
+    return std::all_of(camera.position, camera.position + 3, finite) &&
+           std::all_of(camera.rotation, camera.rotation + 4, finite);
 }
 
 void setAngle(osg::Camera& camera, double wanted)
@@ -103,12 +103,12 @@ std::vector<osg::Camera*> OsgViewing::camerasOfWindow() const
     std::vector<osg::Camera*> cameras;
     const osg::GraphicsContext* shown = window();
     for (osg::Camera* camera : m_viewers.cameras())
-        if (shown && camera->getGraphicsContext() == shown && camera->getNodeMask() != 0
-            && camera->getRenderer())
+        if (shown && camera->getGraphicsContext() == shown && camera->getNodeMask() != 0 &&
+            camera->getRenderer())
             cameras.push_back(camera);
     const auto order = [](const osg::Camera* a, const osg::Camera* b) {
-        return std::make_pair(a->getRenderOrder(), a->getRenderOrderNum())
-               < std::make_pair(b->getRenderOrder(), b->getRenderOrderNum());
+        return std::make_pair(a->getRenderOrder(), a->getRenderOrderNum()) <
+               std::make_pair(b->getRenderOrder(), b->getRenderOrderNum());
     };
     std::stable_sort(cameras.begin(), cameras.end(), order);
     return cameras;

@@ -6,8 +6,8 @@
 namespace scopix::live
 {
 
-/// Holds what is drawn over the scene of a program, and is seen by nothing but the walk that draws: it has no extent,
-/// cannot be picked, and the program's own visitors find it empty.
+/// Holds what is drawn over the scene of a program, and is seen by nothing but the walk that draws: it has no
+/// extent, cannot be picked, and the program's own visitors find it empty.
 class OwnNode : public osg::Group
 {
 public:

@@ -21,9 +21,9 @@ using Serializer = osgDB::BaseSerializer;
 /// How the bytes of a serializer become a value.
 struct Shape {
     ValueKind kind = ValueKind::None;
-    bool list = false;          // a short vector for which there is no kind
-    std::size_t elements = 1;   // of that list
-    std::size_t bytes = 0;      // of each number that the serializer writes, where it is another than the kind's
+    bool list = false;        // a short vector for which there is no kind
+    std::size_t elements = 1; // of that list
+    std::size_t bytes = 0; // of each number that the serializer writes, where it is another than the kind's
     bool isSigned = true;
 };
 
@@ -133,7 +133,8 @@ std::vector<std::uint8_t> narrowed(const std::vector<std::uint8_t>& bytes, const
     return narrow;
 }
 
-std::optional<std::vector<std::uint8_t>> writtenBytes(osgDB::BaseSerializer& serializer, const osg::Object& object)
+std::optional<std::vector<std::uint8_t>> writtenBytes(osgDB::BaseSerializer& serializer,
+                                                      const osg::Object& object)
 {
     osg::ref_ptr<ByteOutput> bytes = new ByteOutput;
     osgDB::OutputStream stream(nullptr);
@@ -182,7 +183,8 @@ public:
             return wrong;
         std::optional<std::vector<std::uint8_t>> bytes = serialized(value);
         if (!bytes)
-            return "“" + name() + "” takes " + std::to_string(m_shape.elements) + " numbers, each within its range.";
+            return "“" + name() + "” takes " + std::to_string(m_shape.elements) +
+                   " numbers, each within its range.";
         return read(object, std::move(*bytes));
     }
 
@@ -389,15 +391,16 @@ private:
 
 bool liesFlat(const Shape& shape)
 {
-    return !shape.list && shape.bytes == 0 && shape.kind != ValueKind::String && shape.kind != ValueKind::Bool;
+    return !shape.list && shape.bytes == 0 && shape.kind != ValueKind::String &&
+           shape.kind != ValueKind::Bool;
 }
 
 std::unique_ptr<OsgProperty> makeVectorProperty(PropertyInfo info, osgDB::BaseSerializer& serializer)
 {
     auto* vector = dynamic_cast<osgDB::VectorBaseSerializer*>(&serializer);
     const auto shape = vector ? shapes().find(vector->getElementType()) : shapes().end();
-    if (shape == shapes().end() || !liesFlat(shape->second)
-        || vector->getElementSize() != elementSize(shape->second.kind))
+    if (shape == shapes().end() || !liesFlat(shape->second) ||
+        vector->getElementSize() != elementSize(shape->second.kind))
         return std::make_unique<TextProperty>(std::move(info), serializer);
     info.kind = shape->second.kind;
     info.list = true;
@@ -425,14 +428,16 @@ std::unique_ptr<OsgProperty> makeNumberProperty(PropertyInfo info, osgDB::BaseSe
     info.list = shape.list;
     info.elementCount = shape.elements;
     // Serializers of masks do not say so, but they can be set.
-    info.writable = serializer.supportsSet() || serializer.getUsage() == osgDB::BaseSerializer::READ_WRITE_PROPERTY;
+    info.writable =
+        serializer.supportsSet() || serializer.getUsage() == osgDB::BaseSerializer::READ_WRITE_PROPERTY;
     setMeaning(info, serializer, type);
     return std::make_unique<NumberProperty>(std::move(info), serializer, shape);
 }
 
 } // namespace
 
-std::unique_ptr<OsgProperty> makeSerializerProperty(osgDB::BaseSerializer& serializer, osgDB::BaseSerializer::Type type)
+std::unique_ptr<OsgProperty> makeSerializerProperty(osgDB::BaseSerializer& serializer,
+                                                    osgDB::BaseSerializer::Type type)
 {
     PropertyInfo info;
     info.name = serializer.getName();

@@ -39,7 +39,10 @@ public:
     void writeGLenum(const osgDB::ObjectGLenum& value) override { put(value._value); }
     void writeProperty(const osgDB::ObjectProperty&) override {}
     void writeMark(const osgDB::ObjectMark&) override {}
-    void writeCharArray(const char* s, unsigned int size) override { m_bytes.insert(m_bytes.end(), s, s + size); }
+    void writeCharArray(const char* s, unsigned int size) override
+    {
+        m_bytes.insert(m_bytes.end(), s, s + size);
+    }
     void writeWrappedString(const std::string& s) override { writeString(s); }
     void flush() override {}
 
@@ -54,8 +57,8 @@ private:
     std::vector<std::uint8_t> m_bytes;
 };
 
-/// Gives a serializer what `ByteOutput` took. Where there is less than it asks for it gets zeros, and `isComplete`
-/// says so.
+/// Gives a serializer what `ByteOutput` took. Where there is less than it asks for it gets zeros, and
+/// `isComplete` says so.
 class ByteInput : public osgDB::InputIterator
 {
 public:

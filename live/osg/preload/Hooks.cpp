@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Stands before OpenSceneGraph's viewer in a program that was started with this library in LD_PRELOAD, and is entered
-// where a frame begins. It links nothing of OpenSceneGraph, so that it can be in the way of any program: what needs that
-// library is loaded with the first frame, and only into a program that has the version it was built for.
+// Stands before OpenSceneGraph's viewer in a program that was started with this library in LD_PRELOAD, and is
+// entered where a frame begins. It links nothing of OpenSceneGraph, so that it can be in the way of any
+// program: what needs that library is loaded with the first frame, and only into a program that has the
+// version it was built for.
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -21,6 +22,15 @@ namespace
 void say(const std::string& sentence)
 {
     std::fprintf(stderr, "Scopix: %s\n", sentence.c_str());
+}
+
+void sayOtherVersion(const std::string& used)
+{
+    static bool isSaid = false;
+    if (!isSaid)
+        say("the program uses " + used +
+            ", and only OpenSceneGraph " SCOPIX_OSG_VERSION " can be inspected.");
+    isSaid = true;
 }
 
 constexpr const char* viewerLibrary = "libosgViewer.so." SCOPIX_OSG_SOVERSION;
@@ -57,8 +67,7 @@ struct Module {
     void load()
     {
         if (!dlopen(viewerLibrary, RTLD_LAZY | RTLD_NOLOAD))
-            return say("the program draws with another version of OpenSceneGraph than " SCOPIX_OSG_VERSION
-                       ", so that it cannot be inspected.");
+            return sayOtherVersion("another version of OpenSceneGraph");
         const std::string path = folderOfThisLibrary() + SCOPIX_LIVE_OSG_MODULE;
         void* library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
         if (!library)
@@ -120,7 +129,8 @@ int noteViewerLibrary(dl_phdr_info* info, std::size_t, void* found)
 bool executableContains(const char* name)
 {
     const int file = open("/proc/self/exe", O_RDONLY | O_CLOEXEC);
-    struct stat status {};
+    struct stat status {
+    };
     if (file < 0 || fstat(file, &status) != 0 || status.st_size == 0) {
         if (file >= 0)
             close(file);
@@ -136,16 +146,18 @@ bool executableContains(const char* name)
     return contains;
 }
 
-/// Says once why a program cannot be inspected, where that is known from the start. Others may load the viewer later.
+/// Says once why a program cannot be inspected, where that is known from the start. Others may load the
+/// viewer later.
 __attribute__((constructor)) void sayWhyNot()
 {
     std::string library;
     dl_iterate_phdr(noteViewerLibrary, &library);
     if (library.empty() && executableContains("N9osgViewer10ViewerBaseE"))
-        say("the program has OpenSceneGraph built into it, so that it cannot be inspected; it would have to use the "
+        say("the program has OpenSceneGraph built into it, so that it cannot be inspected; it would have to "
+            "use the "
             "shared libraries of version " SCOPIX_OSG_VERSION ".");
     else if (!library.empty() && library.find(viewerLibrary) != 0)
-        say("the program uses " + library + ", and only OpenSceneGraph " SCOPIX_OSG_VERSION " can be inspected.");
+        sayOtherVersion(library);
 }
 
 } // namespace
@@ -153,13 +165,16 @@ __attribute__((constructor)) void sayWhyNot()
 extern "C" {
 
 SCOPIX_HOOK void scopixHookFrame(void* viewer, double time) __asm__("_ZN9osgViewer10ViewerBase5frameEd");
-SCOPIX_HOOK void scopixHookTraversals(void* viewer) __asm__("_ZN9osgViewer10ViewerBase19renderingTraversalsEv");
+SCOPIX_HOOK void
+scopixHookTraversals(void* viewer) __asm__("_ZN9osgViewer10ViewerBase19renderingTraversalsEv");
 SCOPIX_HOOK bool scopixHookViewerIdle(void* viewer) __asm__("_ZN9osgViewer6Viewer18checkNeedToDoFrameEv");
-SCOPIX_HOOK bool scopixHookCompositeIdle(void* viewer) __asm__("_ZN9osgViewer15CompositeViewer18checkNeedToDoFrameEv");
+SCOPIX_HOOK bool
+scopixHookCompositeIdle(void* viewer) __asm__("_ZN9osgViewer15CompositeViewer18checkNeedToDoFrameEv");
 
 void scopixHookFrame(void* viewer, double time)
 {
-    static const auto real = reinterpret_cast<void (*)(void*, double)>(next("_ZN9osgViewer10ViewerBase5frameEd"));
+    static const auto real =
+        reinterpret_cast<void (*)(void*, double)>(next("_ZN9osgViewer10ViewerBase5frameEd"));
     betweenFrames(viewer);
     const Nesting nesting;
     if (real)

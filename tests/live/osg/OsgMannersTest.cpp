@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Programs that draw in other manners than osgviewer by itself: in threads, by hand, on demand, in several views.
+// Programs that draw in other manners than osgviewer by itself: in threads, by hand, on demand, in several
+// views.
 #include <gtest/gtest.h>
 
 #include "OsgProgram.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <random>
 
@@ -50,7 +52,8 @@ void editAgainAndAgain(Probe& probe, unsigned count)
         const std::vector<std::uint16_t> corner(3 + i % 4 * 3, std::uint16_t(i % 4));
         const float color[] = {size - 1, 0, 0, 1};
         pixels.bytes.back() = std::uint8_t(i);
-        probe.client.write(corners, "vector", packedList(ValueKind::Vec3f, points.data(), points.size()), note);
+        probe.client.write(corners, "vector", packedList(ValueKind::Vec3f, points.data(), points.size()),
+                           note);
         probe.client.write(set, "vector", packedList(ValueKind::UShort, corner.data(), corner.size()), note);
         probe.client.write(material, "Diffuse", packed(ValueKind::Color, color), note);
         probe.client.write(image, "Pixels", pixels, note);
@@ -78,7 +81,8 @@ TEST_P(Threading, TakesEditsOfWhatIsBeingDrawn)
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, Threading,
-                         ::testing::Values("SingleThreaded", "CullDrawThreadPerContext", "DrawThreadPerContext",
+                         ::testing::Values("SingleThreaded", "CullDrawThreadPerContext",
+                                           "DrawThreadPerContext",
                                            "CullThreadPerCameraDrawThreadPerContext"));
 
 class Manner : public OsgTest, public ::testing::WithParamInterface<const char*>
@@ -98,7 +102,8 @@ TEST_P(Manner, CanBeInspected)
     EXPECT_TRUE(probe.runUntil([&] { return probe.pictures.size() >= 2; }));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Manner, ::testing::Values("", "--by-hand", "--on-demand", "--composite", "--restless"));
+INSTANTIATE_TEST_SUITE_P(All, Manner,
+                         ::testing::Values("", "--by-hand", "--on-demand", "--composite", "--restless"));
 
 class OsgManners : public OsgTest
 {
@@ -157,7 +162,8 @@ TEST_F(OsgManners, AKilledProgramEndsTheConnectionAndNothingElse)
         unsigned answers = 0;
         const unsigned last = unsigned(random() % 40);
         for (unsigned i = 0; i < 100; ++i)
-            probing.client.write(poser, "Name", packedText(std::to_string(i)), [&](const WriteResult&) { ++answers; });
+            probing.client.write(poser, "Name", packedText(std::to_string(i)),
+                                 [&](const WriteResult&) { ++answers; });
         probing.runUntil([&] { return answers >= last; });
         program->process().signal(SIGKILL);
         probing.runUntil([&] { return !probing.end.empty(); });
@@ -206,6 +212,40 @@ TEST_F(OsgManners, AProgramThatEndsByItselfEndsWell)
     program->process().signal(SIGTERM);
     probe.runUntil([&] { return !probe.end.empty(); });
     EXPECT_NE(probe.end, "");
+}
+
+namespace
+{
+
+/// What a program writes, on both channels, where it ends by itself.
+std::string outputOf(const std::string& program)
+{
+    const std::string command = "LD_PRELOAD=" SCOPIX_OSG_PRELOAD " " + program + " 2>&1";
+    FILE* pipe = popen(command.c_str(), "r");
+    std::string output;
+    char letter = 0;
+    while (pipe && std::fread(&letter, 1, 1, pipe) == 1)
+        output += letter;
+    EXPECT_EQ(pclose(pipe), 0);
+    return output;
+}
+
+} // namespace
+
+TEST_F(OsgManners, AProgramWithABuiltInViewerRunsOnAndSaysWhyItCannotBeInspected)
+{
+    EXPECT_EQ(outputOf(SCOPIX_OSG_BUILT_IN), "Scopix: the program has OpenSceneGraph built into it, so that "
+                                             "it cannot be inspected; it would have to "
+                                             "use the shared libraries of version 3.6.5.\nfine\n");
+}
+
+TEST_F(OsgManners, AProgramOnAnotherVersionRunsOnAndSaysSoOnce)
+{
+    EXPECT_EQ(
+        outputOf(SCOPIX_OSG_OTHER_VERSION),
+        "Scopix: the program uses libosgViewer.so.130, and only OpenSceneGraph 3.6.5 can be inspected.\n"
+        "fine\nfine\n");
+    EXPECT_TRUE(listPrograms().empty());
 }
 
 TEST_F(OsgManners, ProgramsWithoutOpenSceneGraphNoticeNothing)

@@ -30,7 +30,8 @@ std::string sceneFile()
 /// The first line is written before the program is there, so that nobody waits for it.
 std::string shellCommand(const std::string& command, const std::string& environment, bool preload)
 {
-    return "echo; exec env " + environment + (preload ? " LD_PRELOAD=" SCOPIX_OSG_PRELOAD " " : " ") + command;
+    return "echo; exec env " + environment + (preload ? " LD_PRELOAD=" SCOPIX_OSG_PRELOAD " " : " ") +
+           command;
 }
 
 } // namespace
@@ -42,13 +43,15 @@ OsgProgram::OsgProgram(const std::string& command, const std::string& environmen
 
 std::unique_ptr<OsgProgram> OsgProgram::viewer(const std::string& environment)
 {
-    return std::make_unique<OsgProgram>(SCOPIX_OSGVIEWER " --window 0 0 320 240 --run-max-frame-rate 200 " + sceneFile(),
+    return std::make_unique<OsgProgram>(SCOPIX_OSGVIEWER " --window 0 0 320 240 --run-max-frame-rate 200 " +
+                                            sceneFile(),
                                         "OSG_OPTIMIZER=OFF " + environment);
 }
 
 std::unique_ptr<OsgProgram> OsgProgram::own(const std::string& options, bool preload)
 {
-    return std::make_unique<OsgProgram>(SCOPIX_OSG_PROGRAM " " + options, "OSG_RUN_MAX_FRAME_RATE=200", preload);
+    return std::make_unique<OsgProgram>(SCOPIX_OSG_PROGRAM " " + options, "OSG_RUN_MAX_FRAME_RATE=200",
+                                        preload);
 }
 
 std::string OsgProgram::waitForSocket()
@@ -106,8 +109,8 @@ Snapshot snapshotOf(Probe& probe, NodeId root)
     const std::function<void(NodeId)> add = [&](NodeId id) {
         if (id == 0 || !known.insert(id).second)
             return;
-        const bool isMade = probe.ask<std::optional<NodeInfo>>(&Client::node, id).value_or(NodeInfo()).type
-                            == "osg::ShapeDrawable";
+        const bool isMade = probe.ask<std::optional<NodeInfo>>(&Client::node, id).value_or(NodeInfo()).type ==
+                            "osg::ShapeDrawable";
         for (const PropertyInfo& property : probe.properties(id)) {
             if (isMadeAnew(property.name, isMade))
                 continue;
@@ -155,22 +158,34 @@ Value changed(const PropertyInfo& info, const Value& value, unsigned seed)
         else
             shift<std::int32_t>(other, step);
         break;
-    case ValueKind::UInt32: shift<std::uint32_t>(other, unsigned(step)); break;
+    case ValueKind::UInt32:
+        shift<std::uint32_t>(other, unsigned(step));
+        break;
     case ValueKind::Float:
     case ValueKind::Vec2f:
     case ValueKind::Vec3f:
     case ValueKind::Vec4f:
-    case ValueKind::Color: shift<float>(other, float(step) / 8); break;
+    case ValueKind::Color:
+        shift<float>(other, float(step) / 8);
+        break;
     case ValueKind::Double:
     case ValueKind::Vec2d:
     case ValueKind::Vec3d:
     case ValueKind::Vec4d:
     case ValueKind::Rotation:
     case ValueKind::Plane:
-    case ValueKind::Matrix: shift<double>(other, double(step) / 8); break;
-    case ValueKind::Short: shift<std::int16_t>(other, std::int16_t(step)); break;
-    case ValueKind::UShort: shift<std::uint16_t>(other, std::uint16_t(step)); break;
-    case ValueKind::String: other = packedText("text " + std::to_string(seed)); break;
+    case ValueKind::Matrix:
+        shift<double>(other, double(step) / 8);
+        break;
+    case ValueKind::Short:
+        shift<std::int16_t>(other, std::int16_t(step));
+        break;
+    case ValueKind::UShort:
+        shift<std::uint16_t>(other, std::uint16_t(step));
+        break;
+    case ValueKind::String:
+        other = packedText("text " + std::to_string(seed));
+        break;
     case ValueKind::Image:
         if (other.bytes.size() > 12)
             other.bytes.back() = std::uint8_t(other.bytes.back() + step);
@@ -179,7 +194,8 @@ Value changed(const PropertyInfo& info, const Value& value, unsigned seed)
         if (!info.list)
             other = packed(ValueKind::Object, NodeId(0));
         break;
-    default: break;
+    default:
+        break;
     }
     return other;
 }

@@ -47,5 +47,7 @@ using Snapshot = std::map<std::pair<scopix::live::NodeId, std::string>, scopix::
 /// Every value of every object below the scene's root, whose own cameras move by themselves.
 Snapshot snapshotOf(Probe& probe, scopix::live::NodeId root);
 
-/// The value with something else in it, of the same type; the same one where there is nothing else that is safe.
-scopix::live::Value changed(const scopix::live::PropertyInfo& info, const scopix::live::Value& value, unsigned seed);
+/// The value with something else in it, of the same type; the same one where there is nothing else that is
+/// safe.
+scopix::live::Value changed(const scopix::live::PropertyInfo& info, const scopix::live::Value& value,
+                            unsigned seed);

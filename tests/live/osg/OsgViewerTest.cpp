@@ -20,11 +20,13 @@ namespace
 std::array<int, 3> colorOfSquare(Probe& probe)
 {
     probe.pictures.clear();
-    probe.runUntil([&] { return probe.pictures.size() >= 3; }); // the first ones may have been asked for before
+    probe.runUntil(
+        [&] { return probe.pictures.size() >= 3; }); // the first ones may have been asked for before
     if (probe.pictures.empty())
         return {-1, -1, -1};
     const Picture& picture = probe.pictures.back();
-    const std::size_t at = (std::size_t(picture.height * 5 / 8) * picture.width + picture.width * 15 / 32) * 4;
+    const std::size_t at =
+        (std::size_t(picture.height * 5 / 8) * picture.width + picture.width * 15 / 32) * 4;
     return {picture.pixels[at], picture.pixels[at + 1], picture.pixels[at + 2]};
 }
 
@@ -64,9 +66,11 @@ TEST_F(OsgViewer, ShowsTheSceneBelowItsCamera)
     std::vector<std::string> types;
     for (const NodeInfo& child : probe.children(world))
         types.push_back(child.type);
-    EXPECT_EQ(types, (std::vector<std::string>{"osg::MatrixTransform", "osg::PositionAttitudeTransform", "osg::Switch",
-                                               "osg::LOD", "osg::Sequence", "osg::LightSource", "osgText::Text"}));
-    const auto paths = probe.ask<std::vector<std::vector<NodeId>>>(&Client::pathsTo, nodeNamed(probe, "ball"), 5U);
+    EXPECT_EQ(types, (std::vector<std::string>{"osg::MatrixTransform", "osg::PositionAttitudeTransform",
+                                               "osg::Switch", "osg::LOD", "osg::Sequence", "osg::LightSource",
+                                               "osgText::Text"}));
+    const auto paths =
+        probe.ask<std::vector<std::vector<NodeId>>>(&Client::pathsTo, nodeNamed(probe, "ball"), 5U);
     ASSERT_EQ(paths.size(), 1U);
     EXPECT_EQ(paths[0].front(), roots[0].id);
     EXPECT_EQ(paths[0].back(), nodeNamed(probe, "ball"));
@@ -103,9 +107,11 @@ TEST_F(OsgViewer, EditsEveryPropertyAndTakesAllBack)
     std::set<ValueKind> kinds;
     for (const auto& [place, value] : before) {
         const auto infos = probe.properties(place.first);
-        const auto info = std::find_if(infos.begin(), infos.end(), [&](const auto& i) { return i.name == place.second; });
+        const auto info =
+            std::find_if(infos.begin(), infos.end(), [&](const auto& i) { return i.name == place.second; });
         const Value other = info == infos.end() ? value : changed(*info, value, 1);
-        if (info == infos.end() || !info->writable || info->name == letsGo || other == value || value.kind == ValueKind::None)
+        if (info == infos.end() || !info->writable || info->name == letsGo || other == value ||
+            value.kind == ValueKind::None)
             continue;
         const std::optional<Value> present = probe.value(place.first, place.second);
         const WriteResult result = probe.write(place.first, place.second, other);
@@ -117,13 +123,15 @@ TEST_F(OsgViewer, EditsEveryPropertyAndTakesAllBack)
         }
     }
     EXPECT_GT(done.size(), 250U);
-    for (ValueKind kind : {ValueKind::Bool, ValueKind::Int32, ValueKind::UInt32, ValueKind::Float, ValueKind::Double,
-                           ValueKind::Vec2f, ValueKind::Vec3f, ValueKind::Vec3d, ValueKind::Rotation, ValueKind::Matrix,
-                           ValueKind::Color, ValueKind::String, ValueKind::Image, ValueKind::Object, ValueKind::UShort})
+    for (ValueKind kind :
+         {ValueKind::Bool, ValueKind::Int32, ValueKind::UInt32, ValueKind::Float, ValueKind::Double,
+          ValueKind::Vec2f, ValueKind::Vec3f, ValueKind::Vec3d, ValueKind::Rotation, ValueKind::Matrix,
+          ValueKind::Color, ValueKind::String, ValueKind::Image, ValueKind::Object, ValueKind::UShort})
         EXPECT_EQ(kinds.count(kind), 1U) << int(kind);
     EXPECT_NE(snapshotOf(probe, world), before);
     for (auto step = done.rbegin(); step != done.rend(); ++step)
-        EXPECT_TRUE(probe.write(step->first.first, step->first.second, step->second).taken) << step->first.second;
+        EXPECT_TRUE(probe.write(step->first.first, step->first.second, step->second).taken)
+            << step->first.second;
     const Snapshot after = snapshotOf(probe, world);
     for (const auto& [place, value] : before) {
         const auto now = after.find(place);
@@ -161,8 +169,10 @@ TEST_F(OsgViewer, RefusesWhatWouldBeReadBeyondItsArrays)
     EXPECT_EQ(result.value, before);
     EXPECT_FALSE(probe.write(square, "VertexArray", packed(ValueKind::Object, NodeId(0))).taken);
     const NodeId corners = objectIn(probe, square, "VertexArray");
-    EXPECT_FALSE(probe.write(corners, "vector", packedList(ValueKind::Vec3f, static_cast<float*>(nullptr), 0)).taken);
-    EXPECT_FALSE(probe.write(square, "VertexArray", packed(ValueKind::Object, nodeNamed(probe, "mover"))).taken);
+    EXPECT_FALSE(
+        probe.write(corners, "vector", packedList(ValueKind::Vec3f, static_cast<float*>(nullptr), 0)).taken);
+    EXPECT_FALSE(
+        probe.write(square, "VertexArray", packed(ValueKind::Object, nodeNamed(probe, "mover"))).taken);
     EXPECT_FALSE(probe.write(nodeNamed(probe, "turns"), "End", packed(ValueKind::Int32, 2)).taken);
     EXPECT_FALSE(probe.write(square, "DataVariance", packed(ValueKind::Int32, 17)).taken);
     EXPECT_FALSE(probe.write(square, "Name", packed(ValueKind::Int32, 17)).taken);
@@ -186,7 +196,8 @@ TEST_F(OsgViewer, RemovesAndPutsBackWithWhatTheGroupKeepsForAChild)
     const auto turn = probe.ask<StructureResult>(&Client::remove, turns, 0U);
     EXPECT_TRUE(probe.ask<StructureResult>(&Client::insert, turns, 0U, turn.node).done);
     EXPECT_EQ(probe.value(turns, "Times"), times);
-    const auto added = probe.ask<StructureResult>(&Client::add, levels, 2U, std::string("osg::MatrixTransform"));
+    const auto added =
+        probe.ask<StructureResult>(&Client::add, levels, 2U, std::string("osg::MatrixTransform"));
     ASSERT_TRUE(added.done) << added.refusal;
     EXPECT_EQ(probe.children(levels).at(2).type, "osg::MatrixTransform");
     EXPECT_FALSE(probe.ask<StructureResult>(&Client::add, levels, 0U, std::string("osg::Nothing")).done);
@@ -214,8 +225,8 @@ TEST_F(OsgViewer, MarksTheSelectionInItsOwnViewAndNotInTheTree)
         const Picture& picture = probe.pictures.back();
         int count = 0;
         for (std::size_t i = 0; i < picture.pixels.size(); i += 4)
-            count += picture.pixels[i] > 240 && picture.pixels[i + 1] > 140 && picture.pixels[i + 1] < 170
-                     && picture.pixels[i + 2] < 20;
+            count += picture.pixels[i] > 240 && picture.pixels[i + 1] > 140 && picture.pixels[i + 1] < 170 &&
+                     picture.pixels[i + 2] < 20;
         return count;
     };
     EXPECT_EQ(orange(), 0);
@@ -332,7 +343,8 @@ TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
     for (auto step = undo.rbegin(); step != undo.rend(); ++step) {
         probe.client.write(step->node, step->name, step->value, [&](const WriteResult&) { ++undone; });
         if (++asked % 50 == 0 || asked == undo.size()) {
-            ASSERT_TRUE(probe.runUntil([&] { return undone == asked; })) << probe.end << ", seed " << walkSeed();
+            ASSERT_TRUE(probe.runUntil([&] { return undone == asked; }))
+                << probe.end << ", seed " << walkSeed();
         }
     }
     const Snapshot after = snapshotOf(probe, world);

@@ -4,8 +4,9 @@
 //   scopix-osg-program --write FILE.osgt     writes the scene of the tests
 //   scopix-osg-program [--inspect] [--by-hand] [--on-demand] [--composite] [--restless]
 //
-// --inspect links the adapter in one line, --by-hand calls the traversals itself, --on-demand draws when something has
-// changed only, --composite has two views, and --restless replaces nodes all the time. Ends when its window is closed.
+// --inspect links the adapter in one line, --by-hand calls the traversals itself, --on-demand draws when
+// something has changed only, --composite has two views, and --restless replaces nodes all the time. Ends
+// when its window is closed.
 #include <scopix/live/osg/LiveOsg.h>
 
 #include <osg/Geometry>
@@ -76,7 +77,8 @@ osg::ref_ptr<osg::Node> square()
     geometry->setNormalArray(normals, osg::Array::BIND_OVERALL);
     geometry->setColorArray(colors, osg::Array::BIND_OVERALL);
     geometry->setTexCoordArray(0, places, osg::Array::BIND_PER_VERTEX);
-    geometry->addPrimitiveSet(new osg::DrawElementsUShort(GL_TRIANGLES, 6, std::vector<GLushort>{0, 1, 2, 0, 2, 3}.data()));
+    geometry->addPrimitiveSet(
+        new osg::DrawElementsUShort(GL_TRIANGLES, 6, std::vector<GLushort>{0, 1, 2, 0, 2, 3}.data()));
     osg::StateSet* state = geometry->getOrCreateStateSet();
     osg::ref_ptr<osg::Material> material = named(new osg::Material, "red");
     material->setDiffuse(osg::Material::FRONT_AND_BACK, {1, 0, 0, 1});
@@ -189,14 +191,16 @@ int main(int argc, char** argv)
     if (has("--write"))
         return osgDB::writeNodeFile(*scene, arguments.back()) ? 0 : 1;
 
-    const osg::ref_ptr<osg::GraphicsContext> window = osg::GraphicsContext::createGraphicsContext(windowTraits());
+    const osg::ref_ptr<osg::GraphicsContext> window =
+        osg::GraphicsContext::createGraphicsContext(windowTraits());
     if (!window)
         return 1;
     osgViewer::Viewer single;
     osgViewer::CompositeViewer several;
     osg::ref_ptr<osgViewer::View> left = new osgViewer::View;
     osg::ref_ptr<osgViewer::View> right = new osgViewer::View;
-    osgViewer::ViewerBase& viewer = has("--composite") ? static_cast<osgViewer::ViewerBase&>(several) : single;
+    osgViewer::ViewerBase& viewer =
+        has("--composite") ? static_cast<osgViewer::ViewerBase&>(several) : single;
     if (has("--composite")) {
         setUp(*left, *window, 0, 160, *scene);
         setUp(*right, *window, 160, 160, *makeScene());
