@@ -204,14 +204,18 @@ TEST_F(OsgManners, AProgramOutlivesItsKilledInspectors)
 
 TEST_F(OsgManners, AProgramThatEndsByItselfEndsWell)
 {
-    const auto program = OsgProgram::own("");
+    const auto program = OsgProgram::own("--polite");
     attach(*program);
     probe.client.mark(nodeNamed(probe, "square"));
     probe.client.showCounters(true);
-    EXPECT_TRUE(probe.runUntil([&] { return !probe.counters.empty(); }));
-    program->process().signal(SIGTERM);
+    probe.client.showNotices(true);
+    probe.client.showPictures(100, 100);
+    EXPECT_TRUE(probe.runUntil([&] { return !probe.counters.empty() && !probe.pictures.empty(); }));
+    EXPECT_TRUE(probe.write(nodeNamed(probe, "world"), "Name", packedText("leave")).taken);
+    EXPECT_EQ(program->process().waitForEnd(), 0);
     probe.runUntil([&] { return !probe.end.empty(); });
     EXPECT_NE(probe.end, "");
+    EXPECT_TRUE(listPrograms().empty());
 }
 
 namespace

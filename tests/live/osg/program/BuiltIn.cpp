@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A program that has a viewer of this name built into it, as programs have that link OpenSceneGraph statically.
+// A program that has a viewer of this name built into it, as programs have that link OpenSceneGraph
+// statically.
 #include <cstdio>
 
 namespace osgViewer

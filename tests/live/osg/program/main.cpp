@@ -2,7 +2,7 @@
 // A program on OpenSceneGraph as a user might have one, to be inspected by the tests:
 //
 //   scopix-osg-program --write FILE.osgt     writes the scene of the tests
-//   scopix-osg-program [--inspect] [--by-hand] [--on-demand] [--composite] [--restless]
+//   scopix-osg-program [--inspect] [--by-hand] [--on-demand] [--composite] [--restless] [--polite]
 //
 // --inspect links the adapter in one line, --by-hand calls the traversals itself, --on-demand draws when
 // something has changed only, --composite has two views, and --restless replaces nodes all the time. Ends
@@ -154,17 +154,18 @@ void replaceSome(osg::Group& world)
 struct Manner {
     bool byHand = false;
     bool restless = false;
+    bool polite = false;
 };
 
 int draw(osgViewer::ViewerBase& viewer, const Manner& manner, osg::Group& world)
 {
     std::puts("running");
     std::fflush(stdout);
-    if (!manner.byHand && !manner.restless)
+    if (!manner.byHand && !manner.restless && !manner.polite)
         return viewer.run();
     if (!viewer.isRealized())
         viewer.realize();
-    while (!viewer.done()) {
+    while (!viewer.done() && world.getName() != "leave") {
         if (manner.restless)
             replaceSome(world);
         if (!manner.byHand) {
@@ -216,5 +217,6 @@ int main(int argc, char** argv)
     Manner manner;
     manner.byHand = has("--by-hand");
     manner.restless = has("--restless");
+    manner.polite = has("--polite");
     return draw(viewer, manner, *scene);
 }
