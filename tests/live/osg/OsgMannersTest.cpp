@@ -80,6 +80,14 @@ TEST_P(Threading, TakesEditsOfWhatIsBeingDrawn)
     EXPECT_TRUE(viewer->process().isRunning());
 }
 
+TEST_P(Threading, ChangesNothingWhileItIsBeingDrawn)
+{
+    OsgProgram program(SCOPIX_OSG_PROGRAM " --watchful", std::string("OSG_THREADING=") + GetParam());
+    attach(program);
+    editAgainAndAgain(probe, 500);
+    EXPECT_TRUE(program.process().isRunning());
+}
+
 INSTANTIATE_TEST_SUITE_P(Models, Threading,
                          ::testing::Values("SingleThreaded", "CullDrawThreadPerContext",
                                            "DrawThreadPerContext",

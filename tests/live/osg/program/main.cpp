@@ -3,6 +3,7 @@
 //
 //   scopix-osg-program --write FILE.osgt     writes the scene of the tests
 //   scopix-osg-program [--inspect] [--by-hand] [--on-demand] [--composite] [--restless] [--polite]
+//                      [--watchful]
 //
 // --inspect links the adapter in one line, --by-hand calls the traversals itself, --on-demand draws when
 // something has changed only, --composite has two views, and --restless replaces nodes all the time. Ends
@@ -26,7 +27,9 @@
 #include <osgViewer/Viewer>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -151,6 +154,30 @@ void replaceSome(osg::Group& world)
     }
 }
 
+/// Draws slowly, and ends the program where the vertices change meanwhile.
+class WatchfulDrawing : public osg::Drawable::DrawCallback
+{
+public:
+    void drawImplementation(osg::RenderInfo& info, const osg::Drawable* drawable) const override
+    {
+        const auto* corners = static_cast<const osg::Vec3Array*>(drawable->asGeometry()->getVertexArray());
+        const std::vector<osg::Vec3> before = corners->asVector();
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(3);
+        while (std::chrono::steady_clock::now() < end)
+            if (corners->asVector() != before)
+                std::_Exit(3);
+        drawable->drawImplementation(info);
+    }
+};
+
+void watchDrawing(osg::Node& mover)
+{
+    osg::Drawable* square = mover.asGroup()->getChild(0)->asDrawable();
+    square->setUseDisplayList(false);
+    square->setDataVariance(osg::Object::STATIC);
+    square->setDrawCallback(new WatchfulDrawing);
+}
+
 struct Manner {
     bool byHand = false;
     bool restless = false;
@@ -210,6 +237,8 @@ int main(int argc, char** argv)
     } else {
         setUp(single, *window, 0, 320, *scene);
     }
+    if (has("--watchful"))
+        watchDrawing(*scene->getChild(0));
     if (has("--on-demand"))
         viewer.setRunFrameScheme(osgViewer::ViewerBase::ON_DEMAND);
     if (has("--inspect"))
