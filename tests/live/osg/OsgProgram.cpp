@@ -16,15 +16,30 @@ using namespace scopix::live;
 namespace
 {
 
-std::string sceneFile()
+/// The scene that osgviewer shows.
+class SceneFile
 {
-    static const std::string file = [] {
-        const std::string path = ::testing::TempDir() + "/scopix-" + std::to_string(getpid()) + ".osgt";
-        const std::string command = std::string(SCOPIX_OSG_PROGRAM) + " --write " + path;
+public:
+    SceneFile()
+        : m_path(::testing::TempDir() + "/scopix-" + std::to_string(getpid()) + ".osgt")
+    {
+        const std::string command = std::string(SCOPIX_OSG_PROGRAM) + " --write " + m_path;
         EXPECT_EQ(std::system(command.c_str()), 0);
-        return path;
-    }();
-    return file;
+    }
+    ~SceneFile() { std::filesystem::remove(m_path); }
+    SceneFile(const SceneFile&) = delete;
+    SceneFile& operator=(const SceneFile&) = delete;
+
+    const std::string& path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+const std::string& sceneFile()
+{
+    static const SceneFile file;
+    return file.path();
 }
 
 /// The first line is written before the program is there, so that nobody waits for it.

@@ -265,6 +265,17 @@ TEST_F(OsgViewer, TellsItsCountersAndWhereItLooksFrom)
     }));
 }
 
+TEST_F(OsgViewer, PassesItsNoticesOn)
+{
+    probe.client.showNotices(true);
+    const NodeId state = objectIn(probe, nodeNamed(probe, "square"), "StateSet");
+    const WriteResult result = probe.write(objectIn(probe, state, "Uniforms"), "Name", packedText("another"));
+    EXPECT_NE(result.value, packedText("another")); // it came back as it was
+    ASSERT_TRUE(probe.runUntil([&] { return !probe.notices.empty(); }));
+    EXPECT_EQ(probe.notices[0].text, "cannot change Uniform name");
+    EXPECT_EQ(probe.notices[0].level, NoticeLevel::Warning);
+}
+
 TEST_F(OsgViewer, FindsByNameAndType)
 {
     using Paths = std::vector<std::vector<NodeId>>;
