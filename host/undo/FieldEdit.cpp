@@ -209,6 +209,28 @@ void FieldEdit::close()
         keepListBefore();
 }
 
+void FieldEdit::completeLater()
+{
+    if (!m_isClosed) {
+        m_isStale = true;
+        return compare();
+    }
+    if (m_runs.empty() || !fits(&Run::after))
+        return;
+    if (!m_list) {
+        m_after = copyOf(m_field);
+        if (m_before->isSame(m_field))
+            m_runs.clear();
+        return;
+    }
+    std::unique_ptr<SoMField> after = m_list->makeSlice();
+    for (const Run& run : m_runs)
+        append(*after, *m_list, run.start, run.after);
+    if (after->isSame(*m_before))
+        m_runs.clear();
+    m_after = std::move(after);
+}
+
 void FieldEdit::keepListBefore()
 {
     std::unique_ptr<SoMField> before = m_list->makeSlice();

@@ -267,6 +267,26 @@ void UndoHistory::releaseUnused()
     dropOldSteps();
 }
 
+void UndoHistory::completeLast(SoField& field)
+{
+    if (m_current && m_current->completeLater(field)) {
+        m_current->markStale();
+        return settle();
+    }
+    for (int i = m_stack.index() - 1; i >= 0; --i) {
+        const StepPtr step = stepAt(i);
+        if (!step->completeLater(field))
+            continue;
+        if (step->isNothing())
+            step->drop();
+        else
+            const_cast<UndoEntry*>(static_cast<const UndoEntry*>(m_stack.command(i)))->setText(step->text());
+        QMetaObject::invokeMethod(
+            this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
+        return;
+    }
+}
+
 // --- Undo and redo
 
 void UndoHistory::run(UndoStep& step, bool undoes)

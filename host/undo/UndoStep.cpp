@@ -193,6 +193,15 @@ void UndoStep::compare()
     m_isStale = false;
 }
 
+bool UndoStep::completeLater(SoField& field)
+{
+    const auto found = m_edits.find(&field);
+    if (found == m_edits.end())
+        return false;
+    found->second->completeLater();
+    return true;
+}
+
 bool UndoStep::isNothing() const
 {
     const auto isUnchanged = [](const auto& each) { return each.second->isNothing(); };
