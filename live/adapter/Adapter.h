@@ -154,8 +154,8 @@ public:
     virtual StructureResult insert(NodeId parent, std::uint32_t index, NodeId node);
     virtual void forget(NodeId node);
 
-    /// From now on `takeChanges` tells of these, and of no others. `values`: the properties as well as the
-    /// children.
+    /// From now on `takeChanges` tells of this one too; a later call for the same node replaces the earlier
+    /// one. `values`: the properties as well as the children.
     virtual void watch(NodeId node, bool values) = 0;
     virtual void unwatch(NodeId node) = 0;
     virtual AdapterChanges takeChanges() = 0;
@@ -180,8 +180,7 @@ public:
     virtual std::vector<double> counterValues();
     virtual std::vector<Notice> takeNotices();
 
-    /// An inspector came or went: an adapter may begin or end to record what costs. The last one that goes
-    /// takes marks away.
+    /// The first inspector came, or the last one went: an adapter may begin or end to record what costs.
     virtual void attached(bool isAttached);
 };
 

@@ -33,9 +33,9 @@ public:
     /// Milliseconds of a frame that answers may take (2 where nothing is set); what is left over waits for
     /// the next frame. Only a single question that takes longer goes beyond.
     void setBudget(double milliseconds);
-    /// Called in the server's own thread when a question waits: for programs that draw when something has
-    /// changed only, which then post themselves an event that leads to `betweenFrames`. Set it before the
-    /// first frame; it throws nothing.
+    /// Called, mostly in the server's own thread, when a question waits: for programs that draw when
+    /// something has changed only, which then post themselves an event that leads to `betweenFrames`. Set it
+    /// before the first frame; it throws nothing.
     void setWake(std::function<void()> wake);
 
     /// Whether an inspector is attached.
