@@ -2,6 +2,7 @@
 #include <scopix-host/CommandLine.h>
 
 #include "commands/CommandTable.h"
+#include "live/LiveLaunch.h"
 #include "support/Printable.h"
 
 #include <QCommandLineParser>
@@ -35,6 +36,11 @@ QList<QCommandLineOption> options()
         option("transparent", "Leave its ground transparent."),
         option("turntable", "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.",
                tr("NUMBER")),
+        option("attach", "Attach to a running program; may be left out: the only one. In place of FILE.",
+               tr("NAME|PID|SOCKET")),
+        option("launch", "Start PROGRAM and attach to it; what follows goes to it. In place of FILE.",
+               tr("PROGRAM [ARGS...]")),
+        option("list-live", "List the running programs that can be attached to, and end."),
         option("quit", "End when everything asked for is done."),
         option("counters", "Switch the performance counters on."),
         option("help", "Show this text and end."),
@@ -59,6 +65,30 @@ QStringList withoutToolkitOptions(const QStringList& arguments)
             ++i;
         else
             rest += arguments.at(i);
+    }
+    return rest;
+}
+
+// The value of --attach may be left out, which the parser does not know, and all behind --launch is the
+// program's.
+QStringList takeLive(CommandLine& line, const QStringList& arguments)
+{
+    QStringList rest;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& each = arguments.at(i);
+        if (each == QLatin1String("--launch") && i > 0) {
+            line.launch = arguments.mid(i + 1);
+            if (line.launch.value(0).isEmpty())
+                line.error = tr("--launch expects a program and its arguments, and nothing was given.");
+            break;
+        }
+        if (each == QLatin1String("--attach") && i > 0) {
+            line.isAttaching = true;
+            if (!arguments.value(i + 1).isEmpty() && !arguments.at(i + 1).startsWith(QLatin1Char('-')))
+                line.attach = arguments.at(++i);
+        } else {
+            rest += each;
+        }
     }
     return rest;
 }
@@ -134,6 +164,8 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
     if (files.value(0).isEmpty() && !files.isEmpty())
         return tr("FILE expects the path of a scene or model, and nothing was given.");
     line.file = files.value(0);
+    if (line.isLive() && (!files.isEmpty() || (line.isAttaching && !line.launch.isEmpty())))
+        return tr("Either FILE or one running program can be shown, and more than one of them was given.");
     const QString problem = takePicture(line, parser);
     if (!problem.isEmpty())
         return problem;
@@ -148,7 +180,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     CommandLine line;
     QCommandLineParser parser;
     describe(parser);
-    if (!parser.parse(withoutToolkitOptions(arguments))) {
+    const QStringList others = takeLive(line, withoutToolkitOptions(arguments));
+    if (!line.error.isEmpty())
+        return line;
+    if (!parser.parse(others)) {
         line.error = printable(tr("%1 (scopix --help lists the options.)").arg(parser.errorText()));
         return line;
     }
@@ -156,6 +191,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.profile = parser.value(QStringLiteral("profile"));
     line.screenshot = parser.value(QStringLiteral("screenshot"));
     line.quit = parser.isSet(QStringLiteral("quit"));
+    line.listsLive = parser.isSet(QStringLiteral("list-live"));
     line.counters = parser.isSet(QStringLiteral("counters"));
     line.help = parser.isSet(QStringLiteral("help"));
     line.version = parser.isSet(QStringLiteral("version"));
@@ -170,6 +206,11 @@ QString CommandLine::helpText()
     return parser.helpText() +
            tr("\nWithout a window (scopix COMMAND --help says more; a file of such a name is ./NAME):\n%1")
                .arg(QString::fromStdString(commandList()));
+}
+
+QString CommandLine::liveText()
+{
+    return livePrograms();
 }
 
 QString CommandLine::versionText()

@@ -135,7 +135,9 @@ void HostSession::start(const CommandLine& line)
     if (!line.isUnattended())
         restoreLayout();
     m_window->show();
-    if (line.file.isEmpty())
+    if (line.isLive())
+        m_window->openLive({line.launch, line.attach});
+    else if (line.file.isEmpty())
         openFinished(true);
     else
         m_window->openFile(line.file);

@@ -46,7 +46,7 @@ LiveEdits::LiveEdits(LiveScene& scene, HostServices& services)
 void LiveEdits::fieldWritten(LiveNode& node, SoField& field)
 {
     LiveProperty* property = node.findProperty(field);
-    if (!property || property->isWritten || m_isOver)
+    if (!property || property->isWritten)
         return;
     property->isWritten = true;
     m_written.push_back({NodeRef(&node), property});
@@ -57,12 +57,22 @@ void LiveEdits::flush()
 {
     m_soon.stop();
     for (const Written& each : std::exchange(m_written, {})) {
-        if (each.property->isSent)
+        if (m_isOver)
+            refuse(each.node, *each.property);
+        else if (each.property->isSent)
             m_written.push_back(each); // its answer comes first
         else
             send(each.node, *each.property);
     }
     sendChildren();
+}
+
+// The program is gone, and what it had last stays: undoing changes nothing any more either.
+void LiveEdits::refuse(const NodeRef& node, LiveProperty& property)
+{
+    property.isWritten = false;
+    property.isSent = false;
+    putBack(node, property, node->refusal());
 }
 
 void LiveEdits::send(const NodeRef& node, LiveProperty& property)
@@ -267,10 +277,9 @@ void LiveEdits::takeChildrenBack(int historyIndex, const QString& sentence)
 void LiveEdits::stop()
 {
     m_isOver = true;
-    m_soon.stop();
     m_groups.clear();
-    for (const Written& each : std::exchange(m_written, {}))
-        each.property->isWritten = false;
+    if (!m_written.empty())
+        m_soon.start(0);
 }
 
 } // namespace scopix

@@ -47,6 +47,7 @@ private:
         live::NodeId node;
     };
 
+    void refuse(const NodeRef& node, LiveProperty& property);
     void send(const NodeRef& node, LiveProperty& property);
     void answered(const NodeRef& node, LiveProperty& property, const live::Value& sent,
                   const live::WriteResult& result);

@@ -39,6 +39,8 @@ public:
     LiveLink& getLink() { return *m_link; }
     LiveEdits& getEdits() { return m_edits; }
     State getState() const { return m_state; }
+    /// Why it has ended, in a sentence.
+    const QString& getEnd() const { return m_end; }
     /// The program's name, as a line of text.
     QString getName() const;
     /// Living nodes that stand for something of the program.

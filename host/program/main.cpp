@@ -68,6 +68,10 @@ int main(int argc, char** argv)
         print(stdout, line.help ? scopix::CommandLine::helpText() : scopix::CommandLine::versionText());
         return 0;
     }
+    if (line.listsLive) {
+        std::fputs(scopix::CommandLine::liveText().toLocal8Bit().constData(), stdout);
+        return 0;
+    }
     if (!chooseWindowSystem(line)) {
         print(stderr,
               QCoreApplication::translate(

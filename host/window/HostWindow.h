@@ -11,6 +11,13 @@ class QMenu;
 namespace scopix
 {
 
+/// A running program to attach to: one to start, with its arguments, or by part of its name, its number or
+/// the path of its socket; where both are empty, the only one there is.
+struct LiveOrder {
+    QStringList launch;
+    QString attach;
+};
+
 /// What the host needs of its main window, whatever else the window shows. GUI thread only.
 class HostWindow : public QMainWindow, public SceneSource
 {
@@ -35,6 +42,8 @@ public:
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
+    /// Attaches to a running program; as openFile().
+    virtual void openLive(const LiveOrder& /*order*/) {}
     /// Selects a field by its node's name or type. False when there is none, which is reported.
     virtual bool selectField(const QString& node, const QString& field) = 0;
     /// Writes a picture of the window. False when it cannot be written, which is

@@ -22,6 +22,7 @@
 #include "window/FieldMenu.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
+#include "window/LiveActs.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
 #include "window/PictureActs.h"
@@ -200,6 +201,10 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
+    menu->addSeparator();
+    m_live = std::make_unique<LiveActs>(
+        *menu, LiveActs::Parts{*this, m_files, m_services, *m_view, *m_tree, *m_fields, m_notifier});
+    connect(m_live.get(), &LiveActs::attached, this, &MainWindow::openFinished);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
     menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
@@ -450,6 +455,14 @@ void MainWindow::showTitle()
     const QString title = isDeleted ? tr("%1 (deleted)").arg(document.getTitle()) : document.getTitle();
     setWindowTitle(title + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
+}
+
+void MainWindow::openLive(const LiveOrder& order)
+{
+    if (order.launch.isEmpty())
+        m_live->attach(order.attach);
+    else
+        m_live->launch(order.launch);
 }
 
 void MainWindow::openFile(const QString& path)

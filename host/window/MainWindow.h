@@ -20,6 +20,7 @@ class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
+class LiveActs;
 class PictureActs;
 class HostServices;
 class NodeEditing;
@@ -63,6 +64,7 @@ public:
     SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     void openFile(const QString& path) override;
+    void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
     bool savePictures(const PictureOrder& order) override;
@@ -76,6 +78,7 @@ public:
     HandleTool& getHandles() { return *m_handles; }
     NodeEditing& getEditing() { return *m_editing; }
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    LiveActs& getLive() { return *m_live; }
     SceneStates& getStates() { return *m_states; }
     ViewActions& getViewActions() { return *m_viewActions; }
 
@@ -137,6 +140,7 @@ private:
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;
     std::unique_ptr<ViewActs> m_viewActs; // goes before the view
+    std::unique_ptr<LiveActs> m_live;     // as well
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

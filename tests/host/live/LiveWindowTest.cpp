@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: MIT
+// The window with a running program, used as a person does.
+#include "TestProgram.h"
+
+#include "live/LivePicture.h"
+#include "live/LiveScene.h"
+#include "panels/FieldListModel.h"
+#include "panels/FieldListView.h"
+#include "panels/SceneTreeModel.h"
+#include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
+#include "support/UserNotifier.h"
+#include "window/LiveActs.h"
+#include "window/MainWindow.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/fields/SoMFString.h>
+#include <xsg/fields/SoSFBitMask.h>
+#include <xsg/fields/SoSFBool.h>
+#include <xsg/fields/SoSFColor.h>
+#include <xsg/fields/SoSFDouble.h>
+#include <xsg/fields/SoSFImage.h>
+#include <xsg/fields/SoSFMatrix.h>
+#include <xsg/fields/SoSFString.h>
+#include <xsg/sensors/SoSensorQueue.h>
+
+#include <QSignalSpy>
+
+using namespace scopix;
+
+namespace
+{
+
+class LiveWindow : public testing::Test
+{
+protected:
+    LiveWindow()
+    {
+        notifier.setAttended(false);
+        QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
+        QObject::connect(&window, &HostWindow::openFinished, [this](bool good) { done << good; });
+        window.show();
+        TestScene& scene = program.scene;
+        scene.put(0, 1, "Sky", "sky");
+        scene.put(1, 2, "Planet", "earth");
+        scene.put(1, 3, "Planet", "mars");
+        scene.put(2, 4, "Moon", "luna");
+        scene.property(3, "radius", number(3.5)).greatest = 10;
+    }
+    void attach()
+    {
+        done.clear();
+        window.openLive({{}, program.socket()});
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+        ASSERT_TRUE(done.first()) << told.join("\n").toStdString();
+    }
+    void settle()
+    {
+        SoSensorQueue::getInstance().process();
+        QCoreApplication::processEvents();
+    }
+    bool wait(const std::function<bool()>& is)
+    {
+        return QTest::qWaitFor([&] {
+            settle();
+            return is();
+        });
+    }
+    LiveNode* nodeAt(const QModelIndex& index) { return dynamic_cast<LiveNode*>(model().nodeAt(index)); }
+    SceneTreeModel& model() { return window.getTree().getModel(); }
+    QModelIndex row(const char* name)
+    {
+        return model().indexOf(dynamic_cast<SoNode*>(SoFieldContainer::getByName(name)));
+    }
+    bool unfold(const char* name)
+    {
+        window.getTree().expand(row(name));
+        return wait([&] { return model().rowCount(row(name)) > 0; });
+    }
+    LiveNode* select(const char* name)
+    {
+        const QModelIndex index = row(name);
+        if (!index.isValid())
+            return nullptr;
+        window.getTree().scrollTo(index);
+        QTest::mouseClick(window.getTree().viewport(), Qt::LeftButton, {},
+                          window.getTree().visualRect(index).center());
+        LiveNode* node = nodeAt(index);
+        wait([&] { return services.selectedNode() == node && isShown(*node); });
+        return node;
+    }
+    static bool isShown(LiveNode& node)
+    {
+        return !node.getProperties().empty() &&
+               std::all_of(node.getProperties().begin(), node.getProperties().end(), [](const auto& each) {
+                   return !each->field || each->known.kind != ValueKind::None || !each->remark.isEmpty();
+               });
+    }
+    template <class Field>
+    Field& field(LiveNode& node, const char* name)
+    {
+        auto* found = dynamic_cast<Field*>(node.getField(name));
+        EXPECT_TRUE(found) << name;
+        return *found;
+    }
+    // As an editor does: while the user acts.
+    template <class Act>
+    void edit(SoField& edited, Act act)
+    {
+        services.select(&edited);
+        {
+            const UserInput::Scope scope(services.history().input(), UserInput::Scope::User);
+            act();
+        }
+        services.history().endStep();
+    }
+    double radius() { return *live::unpacked<double>(program.scene.nodes[3].values["radius"]); }
+
+    TestProgram program;
+    UserNotifier notifier;
+    HostServices services;
+    QStringList told;
+    QList<bool> done;
+    MainWindow window{services, notifier};
+};
+
+TEST_F(LiveWindow, ShowsNodesAsTheyAreUnfolded)
+{
+    attach();
+    EXPECT_TRUE(window.windowTitle().startsWith("orrery")) << window.windowTitle().toStdString();
+    ASSERT_TRUE(wait([&] { return row("sky").isValid(); }));
+    EXPECT_EQ(program.scene.childQuestions, 0);
+    EXPECT_TRUE(model().hasChildren(row("sky")));
+    ASSERT_TRUE(unfold("sky"));
+    EXPECT_EQ(model().rowCount(row("sky")), 2);
+    EXPECT_EQ(model().data(row("mars").siblingAtColumn(SceneTreeModel::TypeColumn)).toString(), "Planet");
+    EXPECT_FALSE(SoFieldContainer::getByName("luna"));
+    EXPECT_EQ(program.scene.valueQuestions, 0);
+}
+
+TEST_F(LiveWindow, FollowsChildrenThatComeAndGo)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    program.scene.put(1, 5, "Comet", "halley");
+    program.scene.changes.children.push_back(1);
+    EXPECT_TRUE(wait([&] { return row("halley").isValid(); }));
+    program.scene.nodes[1].children = {5};
+    program.scene.changes.children.push_back(1);
+    EXPECT_TRUE(wait([&] { return !row("mars").isValid(); }));
+    EXPECT_TRUE(row("halley").isValid());
+}
+
+TEST_F(LiveWindow, TakesAnEditToTheProgramAndItsUndoToo)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    EXPECT_EQ(shown.getValue(), 3.5);
+    EXPECT_TRUE(shown.isDefault());
+    edit(shown, [&] { shown.setValue(7.25); });
+    EXPECT_TRUE(wait([&] { return radius() == 7.25; }));
+    EXPECT_EQ(services.undoStack().count(), 1);
+    EXPECT_FALSE(shown.isDefault());
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
+    services.undoStack().redo();
+    EXPECT_TRUE(wait([&] { return radius() == 7.25; }));
+}
+
+TEST_F(LiveWindow, CountsWhatTheProgramMadeOfAnEditAsPartOfIt)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(70); });
+    ASSERT_TRUE(wait([&] { return shown.getValue() == 10; }));
+    EXPECT_EQ(radius(), 10);
+    EXPECT_EQ(services.undoStack().count(), 1);
+    EXPECT_TRUE(services.undoStack().undoText().contains("10"))
+        << services.undoStack().undoText().toStdString();
+    EXPECT_FALSE(mars->remarkOn(shown).isEmpty());
+    EXPECT_TRUE(told.last().contains("radius")) << told.last().toStdString();
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
+    services.undoStack().redo();
+    EXPECT_TRUE(wait([&] { return radius() == 10; }));
+    EXPECT_TRUE(mars->remarkOn(shown).isEmpty());
+}
+
+TEST_F(LiveWindow, PutsBackWhatTheProgramRefuses)
+{
+    program.scene.refused.insert("radius");
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(4); });
+    ASSERT_TRUE(wait([&] { return shown.getValue() == 3.5; }));
+    EXPECT_TRUE(wait([&] { return services.undoStack().count() == 0; }));
+    EXPECT_TRUE(told.last().contains("It is not to its liking.")) << told.last().toStdString();
+}
+
+TEST_F(LiveWindow, ShowsWhatTheProgramChangesAndRecordsNoEdit)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    program.scene.change(3, "radius", number(5));
+    EXPECT_TRUE(wait([&] { return shown.getValue() == 5; }));
+    EXPECT_EQ(services.undoStack().count(), 0);
+}
+
+TEST_F(LiveWindow, StaysReadableAndRefusesEditsWhenTheProgramIsGone)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(8); });
+    ASSERT_TRUE(wait([&] { return radius() == 8; }));
+    program.kill();
+    LiveScene* scene = window.getLive().getScene();
+    ASSERT_TRUE(wait([&] { return scene->getState() == LiveScene::State::Ended; }));
+    EXPECT_TRUE(row("mars").isValid());
+    EXPECT_TRUE(model().data(row("mars"), Qt::ForegroundRole).isValid());
+    const QString last = told.last();
+    EXPECT_TRUE(last.contains("1 change")) << last.toStdString();
+    edit(shown, [&] { shown.setValue(2); });
+    EXPECT_TRUE(wait([&] { return shown.getValue() == 8; }));
+    EXPECT_EQ(services.undoStack().count(), 1);
+    EXPECT_TRUE(told.last().contains("mars")) << told.last().toStdString();
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return shown.getValue() == 8; }));
+}
+
+TEST_F(LiveWindow, MarksTheSelectionInTheProgramAndTakesTheMarkAlong)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(select("mars"));
+    ASSERT_TRUE(wait([&] { return !program.scene.marked.empty() && program.scene.marked.back() == 3; }));
+    window.getLive().detach();
+    EXPECT_TRUE(wait([&] { return program.scene.marked.back() == 0; }));
+}
+
+TEST_F(LiveWindow, SelectsWhatIsClickedInThePicture)
+{
+    program.scene.hit = {1, 2, 4};
+    attach();
+    LivePicture& picture = window.getLive().getPicture();
+    ASSERT_TRUE(wait([&] { return picture.hasPicture(); }));
+    const QRectF area = picture.pictureArea();
+    QTest::mouseClick(&picture, Qt::LeftButton, {},
+                      (area.topLeft() + QPointF(area.width() / 4, 10)).toPoint());
+    ASSERT_TRUE(
+        wait([&] { return services.selectedNode() && services.selectedNode()->getName() == "luna"; }));
+    QTest::mouseClick(&picture, Qt::LeftButton, {},
+                      (area.topLeft() + QPointF(area.width() * 0.75, 10)).toPoint());
+    EXPECT_TRUE(wait([&] { return !services.selectedNode(); }));
+}
+
+TEST_F(LiveWindow, AsksForPicturesOnlyWhileTheyAreSeen)
+{
+    attach();
+    ASSERT_TRUE(wait([&] { return program.scene.pictureWidth > 0; }));
+    window.hide();
+    program.scene.pictureWidth = 1;
+    EXPECT_TRUE(wait([&] { return !window.getLive().getPicture().isVisible(); }));
+}
+
+TEST_F(LiveWindow, ShowsTheProgramsCountersAmongTheOthers)
+{
+    attach();
+    const auto counter = [] {
+        return SoPerfCounterManager::getInstance()->getCounter("orrery: Cull time (ms)");
+    };
+    ASSERT_TRUE(counter());
+    EXPECT_TRUE(wait([&] { return counter()->getValue() == 2.5; }));
+}
+
+TEST_F(LiveWindow, MovesNodesInTheProgram)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(select("mars"));
+    QTest::keyClick(&window.getTree(), Qt::Key_Delete);
+    ASSERT_TRUE(wait([&] { return program.scene.nodes[1].children == std::vector<NodeId>{2}; }));
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return program.scene.nodes[1].children == std::vector<NodeId>{2, 3}; }));
+    EXPECT_TRUE(row("mars").isValid());
+}
+
+TEST_F(LiveWindow, BringsNodesBackThatTheProgramKeeps)
+{
+    program.scene.refused.insert("children");
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(select("mars"));
+    QTest::keyClick(&window.getTree(), Qt::Key_Delete);
+    ASSERT_TRUE(wait([&] { return told.last().contains("It keeps its children."); }));
+    EXPECT_TRUE(wait([&] { return row("mars").isValid(); }));
+    EXPECT_EQ(model().rowCount(row("sky")), 2);
+    EXPECT_FALSE(services.undoStack().canUndo());
+}
+
+TEST_F(LiveWindow, RefusesMovesWhereTheProgramOffersNone)
+{
+    program.scene.offers.structure = false;
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(select("mars"));
+    QTest::keyClick(&window.getTree(), Qt::Key_Delete);
+    settle();
+    EXPECT_TRUE(row("mars").isValid());
+    EXPECT_TRUE(told.last().contains("does not offer that")) << told.last().toStdString();
+}
+
+TEST_F(LiveWindow, TakesChangesBackWhenAsked)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(6); });
+    ASSERT_TRUE(wait([&] { return radius() == 6; }));
+    EXPECT_EQ(window.getLive().getScene()->getEdits().getChanges().getAll().size(), 1U);
+    window.getLive().takeBack();
+    EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
+    EXPECT_TRUE(wait([&] { return window.getLive().getScene()->getEdits().getChanges().isEmpty(); }));
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return radius() == 6; }));
+}
+
+TEST_F(LiveWindow, SaysWhyItCannotAttach)
+{
+    window.openLive({{}, QStringLiteral("nothing of this name")});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    EXPECT_FALSE(done.first());
+    EXPECT_TRUE(told.last().contains("nothing of this name"));
+    EXPECT_EQ(window.getLive().getScene(), nullptr);
+}
+
+TEST_F(LiveWindow, LetsGoOfTheProgramWhenAnotherSceneIsOpened)
+{
+    attach();
+    ASSERT_TRUE(program.server->isAttached());
+    window.getFiles().newScene();
+    EXPECT_TRUE(wait([&] { return !program.server->isAttached(); }));
+    EXPECT_EQ(window.getLive().getScene(), nullptr);
+    EXPECT_FALSE(window.getLive().getPicture().isVisible());
+}
+
+} // namespace
