@@ -217,6 +217,7 @@ void FieldEdit::completeLater()
     }
     if (m_runs.empty() || !fits(&Run::after))
         return;
+    m_flagsAfter = flags();
     if (!m_list) {
         m_after = copyOf(m_field);
         if (m_before->isSame(m_field))

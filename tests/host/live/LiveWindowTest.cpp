@@ -315,6 +315,7 @@ TEST_F(LiveWindow, BringsNodesBackThatTheProgramKeeps)
 TEST_F(LiveWindow, RefusesMovesWhereTheProgramOffersNone)
 {
     program.scene.offers.structure = false;
+    program.start();
     attach();
     ASSERT_TRUE(unfold("sky"));
     ASSERT_TRUE(select("mars"));

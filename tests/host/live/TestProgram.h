@@ -224,7 +224,7 @@ public:
     TestProgram()
     {
         qputenv("XDG_RUNTIME_DIR", folder().path().toLocal8Bit());
-        server = std::make_unique<live::Server>(scene, "orrery");
+        start();
         QObject::connect(&frames, &QTimer::timeout, [this] {
             if (server)
                 server->betweenFrames();
@@ -232,6 +232,11 @@ public:
         frames.start(0);
     }
     QString socket() const { return QString::fromStdString(server->socketPath()); }
+    void start()
+    {
+        server.reset();
+        server = std::make_unique<live::Server>(scene, "orrery");
+    }
     void kill() { server.reset(); }
 
     TestScene scene;
