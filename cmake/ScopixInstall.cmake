@@ -30,6 +30,9 @@ scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 scopix_install_library(ScopixLive Live)
 scopix_public_headers(ScopixLive scopix/live "${PROJECT_SOURCE_DIR}/live" ${SCOPIX_LIVE_HEADERS})
 
+scopix_install_library(ScopixLiveXsg LiveXsg)
+scopix_public_headers(ScopixLiveXsg scopix/live/xsg "${PROJECT_SOURCE_DIR}/live/xsg" ${SCOPIX_LIVE_XSG_HEADERS})
+
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
 

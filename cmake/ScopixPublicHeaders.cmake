@@ -53,6 +53,9 @@ set(SCOPIX_XSG_HEADERS
 set(SCOPIX_LIVE_HEADERS
   Adapter.h Client.h LiveExport.h LivePacking.h LiveValue.h Server.h)
 
+set(SCOPIX_LIVE_XSG_HEADERS
+  XsgAdapter.h)
+
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
   SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h

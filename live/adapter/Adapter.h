@@ -41,11 +41,11 @@ struct PropertyInfo {
     bool list = false;
     bool writable = false;
     Meaning meaning = Meaning::Plain;
-    std::optional<double> least;
-    std::optional<double> greatest;
-    std::vector<NamedNumber> names;
-    std::string documentation;      // plain text, may be empty
-    std::string unit;               // e.g. "m", empty: none
+    std::optional<double> least{};
+    std::optional<double> greatest{};
+    std::vector<NamedNumber> names{};
+    std::string documentation{};    // plain text, may be empty
+    std::string unit{};             // e.g. "m", empty: none
     std::uint64_t elementCount = 1; // of a list, when it was asked
 };
 

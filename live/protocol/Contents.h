@@ -13,7 +13,7 @@ namespace scopix::live
 
 constexpr std::uint8_t greatestOf(ValueKind)
 {
-    return static_cast<std::uint8_t>(ValueKind::Vec4ub);
+    return static_cast<std::uint8_t>(ValueKind::Vec2i);
 }
 
 constexpr std::uint8_t greatestOf(Meaning)

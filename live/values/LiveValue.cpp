@@ -14,8 +14,8 @@ namespace
 constexpr std::size_t ImageHead = 3 * sizeof(std::uint32_t);
 
 // In the order of ValueKind.
-constexpr std::array<std::size_t, 28> Sizes = {0,   1,  4, 4,  8, 4, 8, 8, 12, 16, 16, 24, 32, 32,
-                                               128, 16, 8, 32, 0, 0, 8, 0, 48, 4,  2,  2,  6,  4};
+constexpr std::array<std::size_t, 29> Sizes = {0,  1, 4,  4, 8, 4, 8, 8,  12, 16, 16, 24, 32, 32, 128,
+                                               16, 8, 32, 0, 0, 8, 0, 48, 4,  2,  2,  6,  4,  8};
 
 bool isText(ValueKind kind)
 {

@@ -43,7 +43,8 @@ enum class ValueKind : std::uint8_t {
     UShort = 24,   // also Int16: see Short
     Short = 25,
     Vec3s = 26,
-    Vec4ub = 27 // 4 bytes
+    Vec4ub = 27, // 4 bytes
+    Vec2i = 28   // 2 int32
 };
 
 /// Bytes of one element, 0 where elements have no fixed size (String, Text, Image).
