@@ -136,7 +136,7 @@ void HostSession::start(const CommandLine& line)
         restoreLayout();
     m_window->show();
     if (line.isLive())
-        m_window->openLive({line.launch, line.attach});
+        m_window->openLive({line.launch, line.attach, line.selectNode});
     else if (line.file.isEmpty())
         openFinished(true);
     else

@@ -140,8 +140,7 @@ void LiveReplay::finish()
     if (count > 0)
         static_cast<SpxSceneServices&>(m_services)
             .executeCommand(new WriteValues(std::move(writes)),
-                            m_which == Which::After ? tr("Apply %n changes again", nullptr, count)
-                                                    : tr("Take %n changes back", nullptr, count));
+                            m_which == Which::After ? tr("Apply changes again") : tr("Take changes back"));
     emit finished(count, m_missing);
     deleteLater();
 }

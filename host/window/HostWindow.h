@@ -16,6 +16,7 @@ namespace scopix
 struct LiveOrder {
     QStringList launch;
     QString attach;
+    QString node; // is to be there when it is attached, by its name or its type; empty: none
 };
 
 /// What the host needs of its main window, whatever else the window shows. GUI thread only.

@@ -11,6 +11,7 @@
 #include "support/OwnLibrary.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
+#include "text/NodeText.h"
 #include "viewport/SceneView.h"
 #include "window/AttachDialog.h"
 #include "window/SceneFiles.h"
@@ -41,6 +42,11 @@ constexpr std::uint32_t MostFound = 1000;
 QStringList preloadedLibraries()
 {
     return {OwnLibrary::folder() + QStringLiteral("/libscopix-live-osg.so")};
+}
+
+QString changesText(int count)
+{
+    return count == 1 ? LiveActs::tr("1 change") : LiveActs::tr("%L1 changes").arg(count);
 }
 
 // From the same side as before, so far away that the box is seen as a whole.
@@ -203,8 +209,36 @@ void LiveActs::ready()
         return;
     m_parts.tree.expandToDepth(0);
     m_parts.notifier.info(tr("Attached to “%1”.").arg(m_scene->getName()));
-    emit attached(true);
-    offerChanges();
+    findWanted();
+}
+
+void LiveActs::findWanted()
+{
+    const QString text = std::exchange(m_wanted, {});
+    const auto found = [this, text](const std::vector<SoNode*>& nodes) { showWanted(nodes, text); };
+    if (text.isEmpty() || !find(text, found))
+        showWanted({}, text);
+}
+
+// The first that is called so, or else whose type is.
+void LiveActs::showWanted(const std::vector<SoNode*>& found, const QString& text)
+{
+    const auto isCalled = [&text](const SoNode* node) { return toQString(node->getName()) == text; };
+    const auto isOfType = [&text](const SoNode* node) {
+        return toQString(node->getTypeId().getName()) == text;
+    };
+    auto wanted = std::find_if(found.begin(), found.end(), isCalled);
+    if (wanted == found.end())
+        wanted = std::find_if(found.begin(), found.end(), isOfType);
+    auto* node = wanted == found.end() ? nullptr : dynamic_cast<LiveNode*>(*wanted);
+    const auto end = [this] {
+        emit attached(true);
+        offerChanges();
+    };
+    if (node)
+        m_scene->whenShown(*node, end);
+    else
+        end();
 }
 
 // What is shown anew has to be asked for its fields by everybody.
@@ -324,9 +358,9 @@ void LiveActs::showEnd()
     const int count = static_cast<int>(m_kept.size());
     QString sentence = m_scene->getEnd();
     if (count > 0)
-        sentence += QLatin1Char(' ') +
-                    tr("Your %n changes are kept, and offered when you attach to “%1” again.", nullptr, count)
-                        .arg(m_scene->getName());
+        sentence +=
+            QLatin1Char(' ') +
+            tr("Kept for when you attach to “%1” again: %2.").arg(m_scene->getName(), changesText(count));
     m_picture->setNote(sentence);
     m_parts.notifier.info(sentence);
     if (!std::exchange(m_isReady, true))
@@ -377,11 +411,10 @@ void LiveActs::offerChanges()
                          m_keptProcess != m_scene->getLink().program().pid && m_parts.notifier.isAttended();
     if (!isMeant)
         return;
-    auto* box = new QMessageBox(
-        QMessageBox::Question, QApplication::applicationDisplayName(),
-        tr("Apply the %n changes of the last run of “%1” again?", nullptr, static_cast<int>(m_kept.size()))
-            .arg(m_keptName),
-        QMessageBox::NoButton, &m_parts.window);
+    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
+                                tr("Apply %1 of the last run of “%2” again?")
+                                    .arg(changesText(static_cast<int>(m_kept.size())), m_keptName),
+                                QMessageBox::NoButton, &m_parts.window);
     box->setObjectName(QStringLiteral("applyLiveChanges"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
@@ -410,9 +443,10 @@ void LiveActs::apply(const Changes& changes, bool isBefore)
             UserNotifier::note(path,
                                tr("A change of the last run does not fit here any more and is left out."));
         m_parts.notifier.info(
-            missing.isEmpty() ? tr("%n values were written.", nullptr, written)
-                              : tr("%n values were written; the console lists what does not fit any more.",
-                                   nullptr, written));
+            missing.isEmpty()
+                ? tr("Written to the program: %1.").arg(changesText(written))
+                : tr("Written to the program: %1; the console lists those that do not fit any more.")
+                      .arg(changesText(written)));
     });
     replay->start();
 }

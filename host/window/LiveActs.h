@@ -55,6 +55,8 @@ public:
     /// By part of a name, a number or the path of a socket; by nothing, the only program there is.
     void attach(const QString& word);
     void launch(const QStringList& command);
+    /// The next attached() waits for this node and its values.
+    void wantNode(const QString& text) { m_wanted = text; }
     void attachTo(const QString& socketPath);
     /// The user chooses.
     void askForProgram();
@@ -79,6 +81,8 @@ private:
     void show(std::unique_ptr<LiveLink> link);
     void connectScene();
     void ready();
+    void findWanted();
+    void showWanted(const std::vector<SoNode*>& found, const QString& text);
     void fail(const QString& sentence);
     void rootChanged(const SoNode* root);
     void leave();
@@ -100,6 +104,7 @@ private:
     QPointer<LiveLaunch> m_launch;
     QTimer m_pulse;
     bool m_isReady = true;
+    QString m_wanted;
     Changes m_kept; // of a program that has ended
     QString m_keptName;
     qint64 m_keptProcess = 0;

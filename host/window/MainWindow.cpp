@@ -5,6 +5,7 @@
 #include "handles/HandleActions.h"
 #include "handles/HandleTool.h"
 #include "panels/FieldListView.h"
+#include "panels/SceneFinder.h"
 #include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
@@ -204,6 +205,8 @@ void MainWindow::makeFileMenu()
     menu->addSeparator();
     m_live = std::make_unique<LiveActs>(
         *menu, LiveActs::Parts{*this, m_files, m_services, *m_view, *m_tree, *m_fields, m_notifier});
+    m_scenePanel->getFinder().setElsewhere(
+        [this](const QString& query, const SceneFinder::Found& found) { return m_live->find(query, found); });
     connect(m_live.get(), &LiveActs::attached, this, &MainWindow::openFinished);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
@@ -459,6 +462,7 @@ void MainWindow::showTitle()
 
 void MainWindow::openLive(const LiveOrder& order)
 {
+    m_live->wantNode(order.node);
     if (order.launch.isEmpty())
         m_live->attach(order.attach);
     else

@@ -233,7 +233,7 @@ TEST_F(LiveWindow, StaysReadableAndRefusesEditsWhenTheProgramIsGone)
     EXPECT_TRUE(row("mars").isValid());
     EXPECT_TRUE(model().data(row("mars"), Qt::ForegroundRole).isValid());
     const QString last = told.last();
-    EXPECT_TRUE(last.contains("1 change")) << last.toStdString();
+    EXPECT_TRUE(last.contains("1 change.")) << last.toStdString();
     edit(shown, [&] { shown.setValue(2); });
     EXPECT_TRUE(wait([&] { return shown.getValue() == 8; }));
     EXPECT_EQ(services.undoStack().count(), 1);
