@@ -3,6 +3,7 @@
 
 #include "live/LiveScene.h"
 #include "live/LiveValues.h"
+#include "text/NodeText.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/types/SoTypedImpl.h>
@@ -27,7 +28,7 @@ constexpr std::size_t LongestName = 256;
 SoType findType(const std::string& name)
 {
     const SoType base = LiveNode::getClassTypeId();
-    for (const std::string& each : {name, "live::" + name}) {
+    for (const std::string& each : {name, OtherProgramPrefix + name}) {
         const SoType type = SoType::fromName(liveName(each));
         if (type.isBad() || type.isDerivedFrom(base))
             return SoType::createType(base, liveName(each));

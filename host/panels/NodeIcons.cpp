@@ -49,8 +49,9 @@ constexpr Family Families[] = {
 
 QString findIconName(SoType type)
 {
+    const SoType own = SoType::fromName(toName(typeText(type))); // what it is most like
     for (const Family& family : Families) {
-        if (type.isDerivedFrom(SoType::fromName(family.type)))
+        if (own.isDerivedFrom(SoType::fromName(family.type)))
             return QLatin1String(family.icon);
     }
     return {};

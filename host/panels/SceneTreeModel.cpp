@@ -284,7 +284,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     if (!item)
         return {};
     const SoNode& node = *item->node;
-    const QString type = toQString(node.getTypeId().getName());
+    const QString type = typeText(node.getTypeId());
     const bool named = !readableName(node).isEmpty();
     switch (role) {
     case Qt::DisplayRole:
@@ -333,7 +333,7 @@ QVariant SceneTreeModel::text(const SoNode& node, int column) const
     case NameColumn:
         return nodeText(node);
     case TypeColumn:
-        return toQString(node.getTypeId().getName());
+        return typeText(node.getTypeId());
     case PlacesColumn: {
         const int places = countPlaces(&node, getRoot(), MostPlaces);
         return QLocale().toString(places) + (places == MostPlaces ? QStringLiteral("+") : QString());

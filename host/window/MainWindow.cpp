@@ -83,10 +83,14 @@ SoPath findNode(SoNode* root, const QString& text)
     byName.setName(toName(text));
     if (!byName.apply(root).empty())
         return byName.getPaths().front();
-    SoSearchAction byType;
-    const SoType type = SoType::fromName(toName(text));
-    byType.setType(type);
-    return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
+    for (const QString& name : {text, OtherProgramPrefix + text}) {
+        SoSearchAction byType;
+        const SoType type = SoType::fromName(toName(name));
+        byType.setType(type);
+        if (!type.isBad() && !byType.apply(root).empty())
+            return byType.getPaths().front();
+    }
+    return {};
 }
 
 // A single key that the view has by itself; what is typed into a name stays there.
@@ -399,7 +403,7 @@ bool MainWindow::showHelp(const QString& page, const QString& section)
 void MainWindow::showHelpOnFocus()
 {
     const SoFieldContainer* node = m_services.selectedNode();
-    if (!showHelp(QStringLiteral("nodes"), node ? toQString(node->getTypeId().getName()) : QString()))
+    if (!showHelp(QStringLiteral("nodes"), node ? typeText(node->getTypeId()) : QString()))
         m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
 }
 
@@ -484,8 +488,8 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
     }
     SoField* field = node->getField(toName(fieldText));
     if (!field) {
-        m_notifier.error(tr("“%1”, a %2, has no field “%3”.")
-                             .arg(nodeText, toQString(node->getTypeId().getName()), fieldText));
+        m_notifier.error(
+            tr("“%1”, a %2, has no field “%3”.").arg(nodeText, typeText(node->getTypeId()), fieldText));
         return false;
     }
     m_tree->selectPath(path);

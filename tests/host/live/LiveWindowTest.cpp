@@ -3,9 +3,12 @@
 #include "TestProgram.h"
 
 #include "live/LivePicture.h"
+#include "live/LiveReplay.h"
 #include "live/LiveScene.h"
 #include "panels/FieldListModel.h"
 #include "panels/FieldListView.h"
+#include "panels/SceneFinder.h"
+#include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
@@ -50,7 +53,7 @@ protected:
     void attach()
     {
         done.clear();
-        window.openLive({{}, program.socket()});
+        window.openLive({{}, program.socket(), {}});
         ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
         ASSERT_TRUE(done.first()) << told.join("\n").toStdString();
     }
@@ -341,9 +344,145 @@ TEST_F(LiveWindow, TakesChangesBackWhenAsked)
     EXPECT_TRUE(wait([&] { return radius() == 6; }));
 }
 
+TEST_F(LiveWindow, AppliesTheChangesOfTheLastRunToTheNextOne)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(9); });
+    ASSERT_TRUE(wait([&] { return radius() == 9; }));
+    const auto changes = window.getLive().getScene()->getEdits().getChanges();
+    EXPECT_NE(changes.toText().find("radius 9"), std::string::npos) << changes.toText();
+    // In the next run another planet stands before it, and one place is gone.
+    auto all = changes.getAll();
+    all.push_back(all.front());
+    all.back().way.back().name = "pluto";
+    program.start();
+    program.scene.change(3, "radius", number(3.5));
+    program.scene.put(1, 6, "Planet", "venus");
+    program.scene.nodes[1].children = {6, 2, 3};
+    attach();
+    auto* replay = new LiveReplay(*window.getLive().getScene(), services, all, LiveReplay::Which::After);
+    int written = -1;
+    QStringList missing;
+    QObject::connect(replay, &LiveReplay::finished, [&](int count, const QStringList& paths) {
+        written = count;
+        missing = paths;
+    });
+    replay->start();
+    EXPECT_TRUE(wait([&] { return radius() == 9; }));
+    EXPECT_EQ(written, 1);
+    EXPECT_EQ(missing.size(), 1);
+    EXPECT_EQ(services.undoStack().count(), 1);
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
+}
+
+TEST_F(LiveWindow, FindsInTheProgramAndUnfoldsWhatWasFound)
+{
+    attach();
+    window.findInScene("luna");
+    SceneFinder& finder = window.getScenePanel().getFinder();
+    ASSERT_TRUE(wait([&] { return finder.isFinished() && finder.getFound().size() == 1; }));
+    EXPECT_TRUE(row("luna").isValid());
+    window.findInScene("nowhere");
+    EXPECT_TRUE(wait([&] { return finder.isFinished() && finder.getFound().empty(); }));
+}
+
+TEST_F(LiveWindow, ShowsObjectsThatPropertiesReferToAsChildren)
+{
+    program.scene.nodes[7].info = {7, "Ring", "ring", 0, 1, false};
+    program.scene.property(7, "dust", number(0.25));
+    program.scene.property(2, "ring", live::packed(ValueKind::Object, NodeId(7)));
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(unfold("earth"));
+    ASSERT_TRUE(wait([&] { return model().rowCount(row("earth")) == 2; }));
+    EXPECT_EQ(row("ring").row(), 0);
+    EXPECT_TRUE(select("ring"));
+}
+
+TEST_F(LiveWindow, CallsTypesAsTheProgramDoesEvenWhereOursAreCalledSo)
+{
+    program.scene.put(1, 8, "Sphere", "ball");
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    const QModelIndex ball = row("ball");
+    EXPECT_EQ(model().data(ball.siblingAtColumn(SceneTreeModel::TypeColumn)).toString(), "Sphere");
+    EXPECT_FALSE(model().nodeAt(ball)->getTypeId().isDerivedFrom(SoType::fromName("Shape")));
+}
+
+TEST_F(LiveWindow, StandsScenesThatCannotBe)
+{
+    TestScene& scene = program.scene;
+    scene.nodes[4].children = {1, 4};                   // above itself, and within itself
+    scene.put(1, 9, "Ty\npe \"x\"", "na\"me\nof\t it"); // no word
+    scene.property(3, "radius", number(1));             // twice
+    scene.property(3, "a \"b\"\nc", number(2));
+    scene.property(3, "gone", number(3));
+    scene.nodes[3].values.erase("gone"); // listed, and not there
+    scene.property(3, "other", number(4));
+    scene.nodes[3].values["other"] = live::packedText("no number");
+    scene.property(3, "self", live::packed(ValueKind::Object, NodeId(1)));
+    scene.property(3, "nobody", live::packed(ValueKind::Object, NodeId(12345)));
+    const std::uint32_t huge[3] = {0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF};
+    scene.property(3, "picture", live::packed(ValueKind::Image, huge));
+    scene.nodes[5].info.childCount = 0xFFFFFFFF;
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    ASSERT_TRUE(unfold("earth"));
+    ASSERT_TRUE(unfold("luna"));
+    EXPECT_TRUE(wait([&] { return model().rowCount(row("luna")) == 2; })) << model().rowCount(row("luna"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    EXPECT_TRUE(mars->getField("a \"b\" c"));
+    EXPECT_FALSE(mars->remarkOn(*mars->getField("gone")).isEmpty());
+    EXPECT_FALSE(mars->remarkOn(*mars->getField("other")).isEmpty());
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(9); });
+    EXPECT_TRUE(wait([&] { return radius() == 9; }));
+}
+
+TEST_F(LiveWindow, ShowsTheTopOfAMillionNodesAtOnce)
+{
+    TestScene& scene = program.scene;
+    scene.put(0, 10, "Belt", "belt");
+    for (NodeId id = 1000; id < 1'001'000; ++id)
+        scene.put(10, id, "Stone");
+    attach();
+    EXPECT_LT(window.getLive().getScene()->getNodeCount(), 10U);
+    ASSERT_TRUE(wait([&] { return row("belt").isValid(); }));
+    window.getTree().expand(row("belt"));
+    EXPECT_TRUE(wait([&] { return model().rowCount(row("belt")) > 0; }));
+    window.getLive().detach(); // and the rest does not come
+    const auto count = model().rowCount(row("belt"));
+    settle();
+    EXPECT_EQ(model().rowCount(row("belt")), count);
+}
+
+TEST_F(LiveWindow, SaysThatTheProgramDoesNotAnswer)
+{
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    LiveScene& scene = *window.getLive().getScene();
+    scene.setSilent(true);
+    EXPECT_TRUE(told.last().contains("has not answered")) << told.last().toStdString();
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(9); });
+    settle();
+    EXPECT_EQ(shown.getValue(), 3.5);
+    EXPECT_EQ(radius(), 3.5);
+    scene.setSilent(false);
+    edit(shown, [&] { shown.setValue(9); });
+    EXPECT_TRUE(wait([&] { return radius() == 9; }));
+}
+
 TEST_F(LiveWindow, SaysWhyItCannotAttach)
 {
-    window.openLive({{}, QStringLiteral("nothing of this name")});
+    window.openLive({{}, QStringLiteral("nothing of this name"), {}});
     ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
     EXPECT_FALSE(done.first());
     EXPECT_TRUE(told.last().contains("nothing of this name"));
