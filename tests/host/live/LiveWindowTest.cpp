@@ -336,7 +336,8 @@ TEST_F(LiveWindow, TakesChangesBackWhenAsked)
     auto& shown = field<SoSFDouble>(*mars, "radius");
     edit(shown, [&] { shown.setValue(6); });
     ASSERT_TRUE(wait([&] { return radius() == 6; }));
-    EXPECT_EQ(window.getLive().getScene()->getEdits().getChanges().getAll().size(), 1U);
+    const LiveChanges& changes = window.getLive().getScene()->getEdits().getChanges();
+    ASSERT_TRUE(wait([&] { return changes.getAll().size() == 1; }));
     window.getLive().takeBack();
     EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
     EXPECT_TRUE(wait([&] { return window.getLive().getScene()->getEdits().getChanges().isEmpty(); }));
@@ -351,7 +352,7 @@ TEST_F(LiveWindow, AppliesTheChangesOfTheLastRunToTheNextOne)
     LiveNode* mars = select("mars");
     auto& shown = field<SoSFDouble>(*mars, "radius");
     edit(shown, [&] { shown.setValue(9); });
-    ASSERT_TRUE(wait([&] { return radius() == 9; }));
+    ASSERT_TRUE(wait([&] { return !window.getLive().getScene()->getEdits().getChanges().isEmpty(); }));
     const auto changes = window.getLive().getScene()->getEdits().getChanges();
     EXPECT_NE(changes.toText().find("radius 9"), std::string::npos) << changes.toText();
     // In the next run another planet stands before it, and one place is gone.
@@ -432,8 +433,9 @@ TEST_F(LiveWindow, StandsScenesThatCannotBe)
     attach();
     ASSERT_TRUE(unfold("sky"));
     ASSERT_TRUE(unfold("earth"));
+    const QPersistentModelIndex luna = row("luna");
     ASSERT_TRUE(unfold("luna"));
-    EXPECT_TRUE(wait([&] { return model().rowCount(row("luna")) == 2; })) << model().rowCount(row("luna"));
+    EXPECT_TRUE(wait([&] { return model().rowCount(luna) == 2; }));
     LiveNode* mars = select("mars");
     ASSERT_TRUE(mars);
     EXPECT_TRUE(mars->getField("a \"b\" c"));
@@ -444,18 +446,20 @@ TEST_F(LiveWindow, StandsScenesThatCannotBe)
     EXPECT_TRUE(wait([&] { return radius() == 9; }));
 }
 
-TEST_F(LiveWindow, ShowsTheTopOfAMillionNodesAtOnce)
+TEST_F(LiveWindow, ShowsTheFirstOfManyChildrenAtOnce)
 {
     TestScene& scene = program.scene;
     scene.put(0, 10, "Belt", "belt");
-    for (NodeId id = 1000; id < 1'001'000; ++id)
+    for (NodeId id = 1000; id < 101'000; ++id)
         scene.put(10, id, "Stone");
     attach();
     EXPECT_LT(window.getLive().getScene()->getNodeCount(), 10U);
     ASSERT_TRUE(wait([&] { return row("belt").isValid(); }));
     window.getTree().expand(row("belt"));
     EXPECT_TRUE(wait([&] { return model().rowCount(row("belt")) > 0; }));
+    EXPECT_LT(model().rowCount(row("belt")), 100'000);
     window.getLive().detach(); // and the rest does not come
+    settle();
     const auto count = model().rowCount(row("belt"));
     settle();
     EXPECT_EQ(model().rowCount(row("belt")), count);
