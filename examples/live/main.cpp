@@ -6,10 +6,11 @@
 #include <QtWidgets/QApplication>
 
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <string>
-#include <thread>
 
 namespace
 {
@@ -50,13 +51,39 @@ int runInWindow(int argc, char** argv, Mill& mill, scopix::live::XsgAdapter& ada
     return QApplication::exec();
 }
 
+/// The time between two frames, cut short when an inspector asks something.
+class Pause
+{
+public:
+    void end()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isOver = true;
+        m_end.notify_one();
+    }
+    void take()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_end.wait_for(lock, std::chrono::milliseconds(5), [this] { return m_isOver; });
+        m_isOver = false;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_end;
+    bool m_isOver = false;
+};
+
 int runWithoutWindow(long frames, Mill& mill, scopix::live::Server& server)
 {
+    Pause pause;
+    server.setWake([&pause] { pause.end(); });
     for (long frame = 0; frames < 0 || frame < frames; ++frame) {
         mill.step();
         server.betweenFrames();
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        pause.take();
     }
+    server.setWake({});
     return 0;
 }
 

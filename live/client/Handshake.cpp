@@ -49,7 +49,9 @@ Handshake::Handshake(const std::string& path)
 {
     FileDescriptor socket = connectTo(path);
     if (!socket) {
-        m_problem = failure(path, reasonOf(errno));
+        const int error = errno;
+        m_isStale = error == ECONNREFUSED;
+        m_problem = failure(path, reasonOf(error));
         return;
     }
     const std::optional<uid_t> user = peerUser(socket);

@@ -20,6 +20,8 @@ public:
     static void waitForAll(std::vector<Handshake>& handshakes, Stream::Clock::duration most);
 
     bool isWaiting() const noexcept { return m_stream && m_problem.empty() && !m_isGreeted; }
+    /// Whether the socket is left over from a program that is gone.
+    bool isStale() const noexcept { return m_isStale; }
     /// Whether the program has said who it is, in whatever version.
     bool isGreeted() const noexcept { return m_isGreeted; }
     const Program& program() const noexcept { return m_program; }
@@ -40,6 +42,7 @@ private:
     std::unique_ptr<Stream> m_stream;
     Program m_program;
     Introduction m_introduction;
+    bool m_isStale = false;
     bool m_isGreeted = false;
     std::string m_problem;
 };

@@ -3,13 +3,12 @@
 #include "Handshake.h"
 
 #include <scopix/live/transport/SocketFolder.h>
-#include <scopix/live/transport/Sockets.h>
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
+#include <tuple>
 
-#include <poll.h>
+#include <unistd.h>
 
 namespace scopix::live
 {
@@ -37,10 +36,11 @@ std::vector<Handshake> openHandshakes()
 {
     std::vector<Handshake> handshakes;
     for (const std::string& folder : socketFolders()) {
-        clearStaleSockets(folder);
         for (const std::string& path : socketsIn(folder)) {
             Handshake handshake(path);
-            if (handshake.isWaiting())
+            if (handshake.isStale())
+                unlink(path.c_str());
+            else if (handshake.isWaiting())
                 handshakes.push_back(std::move(handshake));
         }
     }

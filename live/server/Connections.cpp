@@ -22,9 +22,6 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr std::size_t MostConnections = 32;
-constexpr auto TimeToGreet = 2s;
-constexpr auto TimeToTake = 10s; // anything of what waits for the inspector
-constexpr auto TimeToClose = 1s;
 constexpr auto TimeOfEnd = 200ms;
 
 template <MessageType... types>
@@ -63,8 +60,9 @@ private:
 
 } // namespace
 
-Connections::Connections(Introduction introduction)
+Connections::Connections(Introduction introduction, Patience patience)
     : m_introduction(std::move(introduction))
+    , m_patience(patience)
     , m_owner(getpid())
 {
     const SocketFolder folder = ownSocketFolder();
@@ -305,10 +303,10 @@ void Connections::endLate(Connection& connection)
 {
     const auto now = Clock::now();
     if (connection.isClosing)
-        connection.isOver |= now - connection.since > TimeToClose;
-    else if (!connection.peer && now - connection.since > TimeToGreet)
+        connection.isOver |= now - connection.since > m_patience.closing;
+    else if (!connection.peer && now - connection.since > m_patience.greeting)
         sendAway(connection, "The inspector did not greet the program in time.");
-    if (connection.stream.isSending() && now - connection.stream.lastProgress() > TimeToTake)
+    if (connection.stream.isSending() && now - connection.stream.lastProgress() > m_patience.taking)
         connection.isOver = true;
 }
 

@@ -20,8 +20,15 @@ namespace scopix::live
 class Connections
 {
 public:
+    /// How long an inspector may take before it is detached.
+    struct Patience {
+        std::chrono::milliseconds greeting{2000};
+        std::chrono::milliseconds taking{10000}; // anything of what waits for it
+        std::chrono::milliseconds closing{1000};
+    };
+
     /// `introduction` goes to whoever connects.
-    explicit Connections(Introduction introduction);
+    explicit Connections(Introduction introduction, Patience patience);
     ~Connections();
     Connections(const Connections&) = delete;
     Connections& operator=(const Connections&) = delete;
@@ -72,6 +79,7 @@ private:
     bool mayAccept() const;
 
     Introduction m_introduction;
+    Patience m_patience;
     FileDescriptor m_socket;
     std::string m_path;
     std::string m_problem;

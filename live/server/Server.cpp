@@ -66,7 +66,7 @@ public:
     Private(Adapter& adapter, const std::string& name)
         : m_adapter(adapter)
         , m_interests(adapter)
-        , m_connections(introductionOf(adapter, name))
+        , m_connections(introductionOf(adapter, name), Connections::Patience())
     {
     }
     ~Private() { detachAll(); }

@@ -61,7 +61,9 @@
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/values/Utf.h>
 
+#include <algorithm>
 #include <array>
+#include <unordered_map>
 
 namespace scopix::live
 {
@@ -442,14 +444,24 @@ std::vector<Codec> makeCodecs()
     };
 }
 
-const Codec* codecOf(const SoField& field)
+const Codec* nearestCodec(SoType type)
 {
     static const std::vector<Codec> codecs = makeCodecs();
-    const SoType type = field.getTypeId();
     for (const Codec& codec : codecs)
         if (type.isDerivedFrom(codec.type))
             return &codec;
     return nullptr;
+}
+
+// Values that are shown are read in every frame.
+const Codec* codecOf(const SoField& field)
+{
+    thread_local std::unordered_map<const char*, const Codec*> known;
+    const SoType type = field.getTypeId();
+    const auto [codec, isNew] = known.try_emplace(type.getName().getString());
+    if (isNew)
+        codec->second = nearestCodec(type);
+    return codec->second;
 }
 
 const SoEnumTable* tableOf(const SoField& field)

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <cstring>
 #include <unordered_map>
 
 namespace scopix::live
@@ -52,13 +53,33 @@ NodeInfo infoOf(SoNode& node)
     return info;
 }
 
+bool isAscii(const char* text)
+{
+    return std::all_of(text, text + std::strlen(text), [](unsigned char letter) { return letter < 128; });
+}
+
+// No text that comes from outside is made a name: names live as long as the process.
+bool isNamed(const SoField& field, const std::string& name)
+{
+    const char* own = field.getName().getString();
+    return name == own || (!isAscii(own) && name == utf8Of(field.getName()));
+}
+
 SoField* fieldOf(const SoNode& node, const std::string& property)
 {
     const SoFieldData& fields = *node.getFieldData();
     for (int i = 0; SoField* field = fields.getField(&node, i); ++i)
-        if (utf8Of(field->getName()) == property)
+        if (isNamed(*field, property))
             return field;
     return nullptr;
+}
+
+SoType nodeType(const std::string& name)
+{
+    for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId()))
+        if (utf8Of(type.getName()) == name)
+            return type;
+    return SoType::badType();
 }
 
 StructureResult refused(const std::string& reason)
@@ -360,8 +381,8 @@ StructureResult XsgAdapter::add(NodeId parent, std::uint32_t index, const std::s
     SoGroup* group = m_private->findGroup(parent);
     if (!group)
         return refused("“" + type + "” cannot be added, since the group is no more.");
-    const SoType wanted = SoType::fromName(type.c_str());
-    if (!wanted.isDerivedFrom(SoNode::getClassTypeId()) || !wanted.canCreateInstance())
+    const SoType wanted = nodeType(type);
+    if (!wanted.canCreateInstance())
         return refused("“" + type + "” cannot be added, since the program knows no node of this type.");
     const SoRef<SoNode> node(static_cast<SoNode*>(wanted.createInstance()));
     return m_private->put(*group, index, *node);

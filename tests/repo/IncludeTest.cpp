@@ -212,6 +212,29 @@ TEST(SceneGraph, EachLevelIncludesOnlyItselfAndThoseBelow)
         EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
 }
 
+TEST(Live, KnowsNeitherQtNorASceneGraph)
+{
+    for (const std::string& level : levelsOf("live"))
+        for (const Include& include : includesIn("live/" + level)) {
+            EXPECT_FALSE(isQt(include.target)) << include;
+            EXPECT_FALSE(startsWith(include.target, "xsg/")) << include;
+        }
+}
+
+TEST(Live, EachLevelIncludesOnlyItselfAndThoseBelow)
+{
+    const std::vector<std::string> levels = levelsOf("live");
+    ASSERT_FALSE(levels.empty());
+    std::set<std::string> seen;
+    for (const std::string& level : levels) {
+        seen.insert(level);
+        for (const Include& include : includesIn("live/" + level))
+            if (startsWith(include.target, "scopix/live/")) {
+                EXPECT_TRUE(seen.count(levelIn(include.target.substr(7)))) << include;
+            }
+    }
+}
+
 // Headers of the host are included by their level: "undo/UndoHistory.h".
 TEST(Host, EachLevelIncludesOnlyItselfAndThoseBelow)
 {
