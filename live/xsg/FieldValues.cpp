@@ -338,6 +338,25 @@ Value readBools(const SoField& field)
     return value;
 }
 
+// A list of colours is one of vectors.
+Value readColors(const SoField& field)
+{
+    const auto& list = static_cast<const SoMFColor&>(field);
+    std::vector<Color> colors;
+    for (int i = 0; i < list.getNum(); ++i)
+        colors.push_back({list[i][0], list[i][1], list[i][2], 1});
+    return packedList(ValueKind::Color, colors.data(), colors.size());
+}
+
+bool writeColors(SoField& field, const Value& value)
+{
+    std::vector<SbVec3f> values;
+    for (const Color& color : unpackedList<Color>(value))
+        values.emplace_back(color[0], color[1], color[2]);
+    static_cast<SoMFColor&>(field).setValues(std::move(values));
+    return true;
+}
+
 Value readImage(const SoField& field)
 {
     int width = 0;
@@ -407,7 +426,7 @@ std::vector<Codec> makeCodecs()
         single<SoSFDouble>(Kind::Double),
         listOf<SoMFDouble>(Kind::Double),
         single<SoSFColor>(Kind::Color),
-        listOf<SoMFColor>(Kind::Color),
+        {SoMFColor::getClassTypeId(), Kind::Color, true, readColors, writeColors},
         single<SoSFVec2f>(Kind::Vec2f),
         listOf<SoMFVec2f>(Kind::Vec2f),
         single<SoSFVec3f>(Kind::Vec3f),

@@ -176,7 +176,8 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "live", "extender", "editing", "src", "host"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer,
+                         ::testing::Values("xsg", "live", "extender", "editing", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
 
 TEST(Contract, KnowsNothingOfEditing)
