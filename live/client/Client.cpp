@@ -243,6 +243,9 @@ void Client::Private::come(TypeConstant<MessageType::PictureCame>, Number width,
         m_listener.pictureCame(*picture);
 }
 
+// Here, so that this library alone has the class.
+ClientListener::~ClientListener() = default;
+
 Client::Client(ClientListener& listener)
     : m_private(std::make_shared<Private>(listener))
 {

@@ -30,7 +30,7 @@ SCOPIX_LIVE_API std::vector<Program> listPrograms();
 class SCOPIX_LIVE_API ClientListener
 {
 public:
-    virtual ~ClientListener() = default;
+    virtual ~ClientListener();
     virtual void rootsChanged() {}
     virtual void childrenChanged(NodeId) {}
     virtual void nodeEnded(NodeId) {}

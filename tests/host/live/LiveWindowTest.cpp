@@ -13,6 +13,7 @@
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "window/AttachDialog.h"
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 
@@ -482,6 +483,26 @@ TEST_F(LiveWindow, SaysThatTheProgramDoesNotAnswer)
     scene.setSilent(false);
     edit(shown, [&] { shown.setValue(9); });
     EXPECT_TRUE(wait([&] { return radius() == 9; }));
+}
+
+TEST_F(LiveWindow, AttachesToWhatIsChosenFromTheListWithPictures)
+{
+    QTimer::singleShot(0, [this] {
+        auto* dialog = window.findChild<AttachDialog*>();
+        auto* list = dialog->findChild<QListWidget*>("livePrograms");
+        ASSERT_EQ(list->count(), 1);
+        EXPECT_TRUE(list->item(0)->text().startsWith("orrery")) << list->item(0)->text().toStdString();
+        const auto isPainted = [list] {
+            const QImage icon = list->item(0)->icon().pixmap(list->iconSize()).toImage();
+            return icon.pixelColor(icon.rect().center()).alpha() > 0;
+        };
+        EXPECT_TRUE(QTest::qWaitFor(isPainted));
+        QTest::keyClick(list, Qt::Key_Return);
+    });
+    window.getLive().askForProgram();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    EXPECT_TRUE(done.first());
+    EXPECT_NE(window.getLive().getScene(), nullptr);
 }
 
 TEST_F(LiveWindow, SaysWhyItCannotAttach)
