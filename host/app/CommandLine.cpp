@@ -84,8 +84,12 @@ QStringList takeLive(CommandLine& line, const QStringList& arguments)
         }
         if (each == QLatin1String("--attach") && i > 0) {
             line.isAttaching = true;
+            // What begins with a dash is the next option.
             if (!arguments.value(i + 1).isEmpty() && !arguments.at(i + 1).startsWith(QLatin1Char('-')))
                 line.attach = arguments.at(++i);
+        } else if (each.startsWith(QLatin1String("--attach=")) && i > 0) {
+            line.isAttaching = true;
+            line.attach = each.section(QLatin1Char('='), 1);
         } else {
             rest += each;
         }
@@ -180,7 +184,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     CommandLine line;
     QCommandLineParser parser;
     describe(parser);
-    const QStringList others = takeLive(line, withoutToolkitOptions(arguments));
+    const QStringList others = withoutToolkitOptions(takeLive(line, arguments));
     if (!line.error.isEmpty())
         return line;
     if (!parser.parse(others)) {

@@ -23,8 +23,7 @@ constexpr std::size_t MostTypes = 10000; // of all programs; types are never rel
 constexpr std::size_t MostProperties = 4096;
 constexpr std::size_t LongestName = 256;
 
-// A name that the scene graph has for a type of its own gets a prefix: code that finds that type expects its
-// class.
+// Code that finds a type of the scene graph expects its class (decisions.md: live-types).
 SoType findType(const std::string& name)
 {
     const SoType base = LiveNode::getClassTypeId();

@@ -485,6 +485,16 @@ TEST_F(LiveWindow, SaysThatTheProgramDoesNotAnswer)
     EXPECT_TRUE(wait([&] { return radius() == 9; }));
 }
 
+TEST_F(LiveWindow, NoticesAProgramThatHangsAndOneThatGoesOn)
+{
+    attach();
+    const LiveScene& scene = *window.getLive().getScene();
+    program.frames.stop();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scene.getState() == LiveScene::State::Silent; }, 20000));
+    program.frames.start(0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scene.getState() == LiveScene::State::Attached; }, 20000));
+}
+
 TEST_F(LiveWindow, AttachesToWhatIsChosenFromTheListWithPictures)
 {
     QTimer::singleShot(0, [this] {
