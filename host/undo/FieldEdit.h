@@ -30,8 +30,8 @@ public:
     void compare();
     /// No bit and no flag differs, by the last compare().
     bool isNothing() const { return m_runs.empty() && m_flagsBefore == m_flagsAfter; }
-    /// What the field holds now is what the edit made of it, although others wrote it last. A list must have the
-    /// length that the edit left.
+    /// What the field holds now is what the edit made of it, although others wrote it last. A list must have
+    /// the length that the edit left.
     void completeLater();
     /// After the last write: lets go of all that does not differ.
     void close();

@@ -77,8 +77,8 @@ public:
         const QScopedValueRollback<bool> busy(m_busy, true);
         act();
     }
-    /// The last step that edited the field, and can be undone, made it what it holds now: for an edit whose outcome
-    /// was known later. A step that made no difference then goes.
+    /// The last step that edited the field, and can be undone, made it what it holds now: for an edit whose
+    /// outcome was known later. A step that made no difference then goes.
     void completeLast(SoField& field);
     /// Asked before anything is executed, undone or redone: while `isHeld` answers true, nothing is.
     void setHold(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }

@@ -224,9 +224,7 @@ void LiveActs::findWanted()
 void LiveActs::showWanted(const std::vector<SoNode*>& found, const QString& text)
 {
     const auto isCalled = [&text](const SoNode* node) { return toQString(node->getName()) == text; };
-    const auto isOfType = [&text](const SoNode* node) {
-        return typeText(node->getTypeId()) == text;
-    };
+    const auto isOfType = [&text](const SoNode* node) { return typeText(node->getTypeId()) == text; };
     auto wanted = std::find_if(found.begin(), found.end(), isCalled);
     if (wanted == found.end())
         wanted = std::find_if(found.begin(), found.end(), isOfType);

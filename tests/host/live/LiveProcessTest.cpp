@@ -4,11 +4,16 @@
 #include "live/LiveScene.h"
 #include "live/SocketLink.h"
 #include "services/HostServices.h"
+#include "support/UserNotifier.h"
+#include "window/LiveActs.h"
+#include "window/MainWindow.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/fields/SoSFFloat.h>
 
+#include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -153,4 +158,31 @@ TEST_F(LiveProcess, IsToldOfWhereItCannotBeLaunchedOrEndsAtOnce)
     launch.start({QStringLiteral("/bin/true")}, {});
     ASSERT_TRUE(QTest::qWaitFor([&] { return failed.size() == 2; }, 20000));
     EXPECT_TRUE(failed.last().first().toString().contains("ended before"));
+}
+
+TEST_F(LiveProcess, OffersTheChangesOfAKilledRunToTheNextOne)
+{
+    UserNotifier notifier;
+    MainWindow window(services, notifier);
+    LiveActs& acts = window.getLive();
+    QSignalSpy attached(&acts, &LiveActs::attached);
+    acts.attachTo(start());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 1; }));
+    SoSFFloat* height = findField(*acts.getScene(), "height");
+    ASSERT_TRUE(height);
+    height->setValue(4.75F);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    process.kill();
+    process.waitForFinished();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return acts.getScene()->getState() == LiveScene::State::Ended; }));
+    acts.attachTo(start());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }));
+    auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains("1 change")) << box->text().toStdString();
+    box->buttons().first()->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    height = findField(*acts.getScene(), "height");
+    ASSERT_TRUE(height);
+    EXPECT_EQ(height->getValue(), 4.75F);
 }
