@@ -41,13 +41,13 @@ public:
     const std::string& getErrorText() const;
     /// Where in a larger picture the pixels of the next render() lie, so that a picture can be drawn in
     /// parts.
-    struct Part {
+    struct Tile {
         int wholeWidth = 0; // 0: what is drawn is the whole picture
         int wholeHeight = 0;
         int left = 0;
         int bottom = 0;
     };
-    void setPart(const Part& part);
+    void setTile(const Tile& tile);
 
     enum class Progress { Finished, Unfinished, Failed };
     /// render() in pieces, for a program that answers its user meanwhile: returns when the picture is
