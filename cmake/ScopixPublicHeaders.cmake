@@ -32,10 +32,11 @@ set(SCOPIX_XSG_HEADERS
   SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
   SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h
   SoSolid.h SoSphere.h SoTriangleSet.h SoTriangleStripSet.h SoVertexShape.h
-  SoAmbientLight.h SoDirectionalLight.h SoLight.h SoPointLight.h SoSpotLight.h
+  SoAmbientLight.h SoDirectionalLight.h SoEnvironmentLight.h SoLight.h SoPointLight.h SoSpotLight.h
   SoCamera.h SoOrthographicCamera.h SoPerspectiveCamera.h
   SoMatrixTransform.h SoSpin.h SoTransform.h SoTransformation.h
-  SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
+  SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoMaterialTexture.h SoNormals.h
+  SoPhysicalMaterial.h SoPoints.h SoSecondTextureCoordinates.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
   # Actions
   SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h

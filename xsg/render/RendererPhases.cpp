@@ -62,12 +62,15 @@ SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* came
         return Progress::Failed;
     }
     m_shader.setViewPlane(clipPlane ? &*clipPlane : nullptr);
+    m_shader.setToneMapping(toneMapping);
     m_state.begin(width, height, m_headlights);
     m_pacer.begin();
     if (begins)
         clearPicture();
     const bool isFinished = !root || drawScene(root, camera, m_restarts < MostRestarts ? until : Time::max());
     m_state.end();
+    if (error.empty())
+        error = m_shader.takeError();
     m_messages.collect("SoRenderer");
     statistics.seconds += time.getElapsed();
     if (!isFinished)

@@ -48,6 +48,11 @@ void SoRenderer::setShading(Shading shading)
     m_impl->shading = shading;
 }
 
+void SoRenderer::setToneMapping(ToneMapping toneMapping)
+{
+    m_impl->toneMapping = toneMapping;
+}
+
 void SoRenderer::setClipPlane(const SbPlane* plane)
 {
     m_impl->clipPlane = plane ? std::optional<SbPlane>(*plane) : std::nullopt;

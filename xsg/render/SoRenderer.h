@@ -68,6 +68,11 @@ public:
     /// hiding anything).
     enum class Shading { Full, WithEdges, Normals, TextureCoordinates, Overdraw };
     void setShading(Shading shading);
+    /// How light that is brighter than white, or nearly so, is brought into the picture: cut off, compressed
+    /// where it is bright with hues kept, or over the whole range as film does. Only physically based
+    /// surfaces are that bright; SoMaterial is shown as it is.
+    enum class ToneMapping { None, Neutral, Filmic };
+    void setToneMapping(ToneMapping toneMapping); // Neutral at first
     /// Cuts the scene by this plane too, in world coordinates: what lies on its normal's side stays. Null for
     /// none.
     void setClipPlane(const SbPlane* plane);

@@ -48,6 +48,7 @@ public:
     float backgroundOpacity = 1;
     bool wireframe = false;
     Shading shading = Shading::Full;
+    ToneMapping toneMapping = ToneMapping::Neutral;
     std::optional<SbPlane> clipPlane;
     Tile tile;
     void setHighlight(const std::vector<std::uint64_t>& nodeIds);
