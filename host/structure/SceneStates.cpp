@@ -7,6 +7,7 @@
 #include <scopix/SpxEditedFields.h>
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 
 #include <algorithm>
@@ -18,7 +19,8 @@ bool SceneStates::canBeHidden(SoNode& node)
 {
     const SoType type = node.getTypeId();
     return node.asGroup() || node.asShape() || type.isDerivedFrom(SoLight::getClassTypeId()) ||
-           type.isDerivedFrom(SoAmbientLight::getClassTypeId());
+           type.isDerivedFrom(SoAmbientLight::getClassTypeId()) ||
+           type.isDerivedFrom(SoEnvironmentLight::getClassTypeId());
 }
 
 void SceneStates::setHidden(const std::vector<SoNode*>& nodes, bool hidden)
