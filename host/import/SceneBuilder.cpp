@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/SceneBuilder.h"
 
+#include "import/PhysicalMaterials.h"
 #include "import/TransformBuilder.h"
 #include "text/NodeText.h"
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -14,6 +15,7 @@
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoSecondTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/shapes/SoIndexedLineSet.h>
@@ -64,13 +66,15 @@ public:
             nodes[i - 1] = buildNode(m_model.nodes[i - 1], nodes);
         if (nodes.empty())
             return SoRef<SoSeparator>(new SoSeparator);
-        addLights(*nodes.front());
+        const int lightCount = addLights(*nodes.front());
+        if (m_physical.areAny())
+            nodes.front()->insertChild(PhysicalMaterials::makeSurroundings(lightCount > 0), lightCount);
         return nodes.front();
     }
 
 private:
     // In a file a light shines on everything; here on what follows it. So all lights come first.
-    void addLights(SoSeparator& scene)
+    int addLights(SoSeparator& scene)
     {
         std::vector<SbMatrix> toWorld(m_model.nodes.size());
         int count = 0;
@@ -82,6 +86,7 @@ private:
             if (node.light >= 0)
                 scene.insertChild(makeLight(node, toWorld[i]), count++);
         }
+        return count;
     }
 
     static bool isBare(const ModelData::Node& node)
@@ -119,12 +124,7 @@ private:
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, mesh.name);
         const bool colored = !mesh.colors.empty();
-        if (colored)
-            result->addChild(makeColored(mesh));
-        else if (mesh.material >= 0)
-            result->addChild(materialNode(mesh.material));
-        if (mesh.material >= 0 && !mesh.textureCoordinates.empty())
-            addTexture(*result, at(m_model.materials, mesh.material));
+        addLook(*result, mesh);
         const std::size_t pointCount = mesh.points.size();
         auto* points = new SoPoints;
         result->addChild(points);
@@ -139,6 +139,11 @@ private:
             result->addChild(coordinates);
             coordinates->points.setValues(std::move(mesh.textureCoordinates));
         }
+        if (!mesh.secondTextureCoordinates.empty()) {
+            auto* coordinates = new SoSecondTextureCoordinates;
+            result->addChild(coordinates);
+            coordinates->points.setValues(std::move(mesh.secondTextureCoordinates));
+        }
         if (mesh.corners == 1)
             result->addChild(makeDots());
         SoVertexShape* shape = makeShape(mesh, pointCount);
@@ -146,6 +151,20 @@ private:
         if (colored)
             shape->colorBinding.setValue(SoVertexShape::PerVertex);
         return result;
+    }
+
+    void addLook(SoSeparator& group, ModelData::Mesh& mesh)
+    {
+        if (mesh.material >= 0 && at(m_model.materials, mesh.material).physical.isPhysical != 0) {
+            m_physical.addTo(group, mesh.material, mesh);
+            return;
+        }
+        if (!mesh.colors.empty())
+            group.addChild(makeColored(mesh));
+        else if (mesh.material >= 0)
+            group.addChild(materialNode(mesh.material));
+        if (mesh.material >= 0 && !mesh.textureCoordinates.empty())
+            addTexture(group, at(m_model.materials, mesh.material));
     }
 
     // Points of one pixel are hardly seen where they are few.
@@ -322,6 +341,7 @@ private:
     }
 
     ModelData& m_model;
+    PhysicalMaterials m_physical{m_model};
     std::vector<SoRef<SoMaterial>> m_materials;
     std::vector<SoRef<SoTexture2>> m_pictures;
     std::vector<SoRef<SoSeparator>> m_meshes;

@@ -24,10 +24,11 @@ auto membersOf(Part& part)
     using Plain = std::remove_const_t<Part>;
     if constexpr (std::is_same_v<Plain, ModelData::Mesh>) {
         return std::tie(part.name, part.material, part.corners, part.points, part.normals,
-                        part.textureCoordinates, part.colors, part.index);
+                        part.textureCoordinates, part.secondTextureCoordinates, part.colors, part.index);
     } else if constexpr (std::is_same_v<Plain, ModelData::Material>) {
         return std::tie(part.name, part.ambient, part.diffuse, part.specular, part.emissive, part.shininess,
-                        part.transparency, part.picture, part.clampS, part.clampT);
+                        part.transparency, part.picture, part.clampS, part.clampT, part.physical,
+                        part.pictures);
     } else if constexpr (std::is_same_v<Plain, ModelData::Picture>) {
         return std::tie(part.name, part.width, part.height, part.components, part.bytes);
     } else if constexpr (std::is_same_v<Plain, ModelData::Node>) {
@@ -137,7 +138,12 @@ bool isConsistent(const ModelData& model)
                  [&](const auto& mesh) {
                      return isPlace(mesh.material, model.materials) && mesh.corners >= 1 && mesh.corners <= 3;
                  }) &&
-           allOf(model.materials, [&](const auto& look) { return isPlace(look.picture, model.pictures); });
+           allOf(model.materials, [&](const auto& look) {
+               return isPlace(look.picture, model.pictures) && allOf(look.pictures, [&](const auto& each) {
+                          return isPlace(each.picture, model.pictures) && each.use >= 0 && each.use < 8 &&
+                                 (each.coordinates == 0 || each.coordinates == 1);
+                      });
+           });
 }
 
 } // namespace

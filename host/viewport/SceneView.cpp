@@ -113,6 +113,12 @@ void SceneView::setShading(SoRenderer::Shading shading)
     redraw();
 }
 
+void SceneView::setToneMapping(SoRenderer::ToneMapping toneMapping)
+{
+    m_toneMapping = toneMapping;
+    redraw();
+}
+
 void SceneView::setClipPlane(const std::optional<SbPlane>& plane)
 {
     m_clipPlane = plane;
@@ -224,6 +230,7 @@ void SceneView::setUp(SoRenderer& renderer) const
 {
     renderer.setWireframe(m_wireframe);
     renderer.setShading(m_shading);
+    renderer.setToneMapping(m_toneMapping);
     renderer.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
     renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
 }

@@ -63,6 +63,9 @@ public:
     /// What of the scene is shown; edges instead of surfaces go with each.
     void setShading(SoRenderer::Shading shading);
     SoRenderer::Shading getShading() const { return m_shading; }
+    /// How the bright light of physically based surfaces is brought into the picture.
+    void setToneMapping(SoRenderer::ToneMapping toneMapping);
+    SoRenderer::ToneMapping getToneMapping() const { return m_toneMapping; }
     /// Cuts the scene by a plane in world coordinates, without changing it: what lies on the normal's side
     /// stays. Nothing: no plane. What is cut away is not picked either.
     void setClipPlane(const std::optional<SbPlane>& plane);
@@ -180,6 +183,7 @@ private:
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
+    SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;
     const SceneStates* m_states = nullptr;

@@ -105,14 +105,22 @@ TEST_F(LeftOut, CountsTheMapsOfMaterials)
     gltf["materials"] =
         QJsonArray{json(R"([{"normalTexture": {"index": 0}, "emissiveTexture": {"index": 1}}])"),
                    json(R"([{"normalTexture": {"index": 1}}])")};
-    EXPECT_EQ(notesOf(gltf), "The normal maps of 2 materials are left out.\n"
-                             "The emissive map of 1 material is left out.");
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("a.png"));
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("b.png"));
+    EXPECT_EQ(notesOf(gltf), ""); // a physical material has them
     gltf["materials"] = QJsonArray{
         json(
             R"([{"occlusionTexture": {"index": 0}, "pbrMetallicRoughness": {"metallicRoughnessTexture": {"index": 1}}}])"),
         json(R"([{}])")};
-    EXPECT_EQ(notesOf(gltf), "The map of metal and roughness of 1 material is left out.\n"
-                             "The occlusion map of 1 material is left out.");
+    EXPECT_EQ(notesOf(gltf), "");
+    gltf["extensionsUsed"] =
+        QJsonArray{"KHR_materials_sheen", "KHR_materials_transmission", "KHR_texture_transform"};
+    gltf["materials"] = QJsonArray{json(
+        R"([{"extensions": {"KHR_materials_sheen": {"sheenColorFactor": [1, 0, 0]},
+                            "KHR_materials_transmission": {"transmissionFactor": 0.5}}}])"),
+                                   json(R"([{}])")};
+    EXPECT_EQ(notesOf(gltf), "The sheen of 1 material is left out.\n"
+                             "The transmission of 1 material is shown as transparency.");
 }
 
 TEST_F(LeftOut, NamesMissingPictures)

@@ -465,7 +465,7 @@ TEST_F(Files, AModelThatWasTunedLooksTheSameWhenSavedAndOpenedAgain)
     for (const auto& [model, material] : models) {
         ASSERT_TRUE(program->open(shipped(model)));
         const QImage untuned = pictureOf(*program);
-        program->edit(material, "diffuseColor", "[ 0.1 0.7 0.3 ]");
+        program->edit(material, "baseColor", "[ 0.1 0.7 0.3 ]");
         const QImage before = pictureOf(*program);
         ASSERT_FALSE(before.isNull());
         EXPECT_NE(before, untuned);

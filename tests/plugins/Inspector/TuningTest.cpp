@@ -7,6 +7,7 @@
 #include "window/MainWindow.h"
 #include "window/ViewPoints.h"
 
+#include <support/PlainModel.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/properties/SoPoints.h>
 
@@ -141,7 +142,7 @@ protected:
 
 TEST_F(Tuning, FromTheFileToTheFile)
 {
-    open(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"));
+    open(writePlainLighthouse(folder.path()));
     EXPECT_TRUE(window().windowTitle().contains("lighthouse"));
     keep("1-open");
 
