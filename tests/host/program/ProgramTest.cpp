@@ -57,7 +57,7 @@ protected:
 TEST_F(Program, WritesAPictureOfTheWindowWithoutADisplay)
 {
     const QString path = folder.filePath("out.png");
-    const Outcome outcome = run({model(), "--select", "Glass.transparency", "--screenshot", path});
+    const Outcome outcome = run({model(), "--select", "Glass.opacity", "--screenshot", path});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.said, "");
     const QImage picture(path);

@@ -66,7 +66,7 @@ protected:
 TEST_F(NavigationPictures, OfHandles)
 {
     const QImage without = pictureOf(view);
-    ASSERT_TRUE(window.selectField("Glass", "transparency"));
+    ASSERT_TRUE(window.selectField("Glass", "opacity"));
     QList<QImage> seen{without};
     key(Qt::Key_W);
     seen << take("handles-move.png");

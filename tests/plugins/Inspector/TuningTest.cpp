@@ -181,7 +181,7 @@ TEST_F(Tuning, FromTheFileToTheFile)
     ASSERT_TRUE(menu);
     keep("5-save");
     answerWith(file);
-    QTest::keyClick(menu, Qt::Key_S);
+    QTest::keyClick(menu, Qt::Key_A);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window().isWindowModified(); }))
         << window().statusBar()->currentMessage().toStdString();
     QFile saved(file);
