@@ -37,6 +37,7 @@ set(SCOPIX_XSG_HEADERS
   SoMatrixTransform.h SoSpin.h SoTransform.h SoTransformation.h
   SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
+  DerivedPoints.h SoAnimatedValues.h SoAnimation.h SoMorph.h SoSkin.h SoTrack.h
   # Actions
   SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries

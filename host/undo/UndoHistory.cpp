@@ -8,6 +8,7 @@
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 
 #include <QScopedValueRollback>
 #include <QThread>
@@ -77,9 +78,13 @@ void UndoHistory::aboutToWrite(SoField& field, int start, int removed)
 {
     if (m_busy || !field.getContainer() || QThread::currentThread() != thread())
         return;
+    const bool isOfInput = !m_executing && m_input.isActing() && m_isEdited(field);
+    // What an animation shows is no value to come back to. The field leaves it before it is written.
+    if (m_executing || isOfInput)
+        SoAnimatedValues::getInstance().giveBack(field);
     if (m_executing)
         m_executing->aboutToWriteInCommand(field, start, removed);
-    else if (m_input.isActing() && m_isEdited(field))
+    else if (isOfInput)
         stepOfInput().aboutToWrite(field, start, removed);
 }
 

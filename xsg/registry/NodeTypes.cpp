@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/registry/NodeTypes.h>
 
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
+#include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -62,12 +66,12 @@ void registerAll()
 // One line per node type.
 void xsg::registerNodeTypes()
 {
-    registerAll<SoAmbientLight, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
+    registerAll<SoAmbientLight, SoAnimation, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
                 SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFog, SoGroup, SoIndexedLineSet,
                 SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo, SoInstances,
-                SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
+                SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoMorph, SoNormals,
                 SoOrthographicCamera, SoPerspectiveCamera, SoPointLight, SoPointSet, SoPoints, SoScreenText,
-                SoSeparator, SoShape, SoSolid, SoSphere, SoSpin, SoSpotLight, SoSwitch, SoTexture2,
-                SoTextureCoordinates, SoTextureTransform, SoTransform, SoTransformation, SoTriangleSet,
-                SoTriangleStripSet, SoUnknownNode, SoVertexShape>();
+                SoSeparator, SoShape, SoSkin, SoSolid, SoSphere, SoSpin, SoSpotLight, SoSwitch, SoTexture2,
+                SoTextureCoordinates, SoTextureTransform, SoTrack, SoTransform, SoTransformation,
+                SoTriangleSet, SoTriangleStripSet, SoUnknownNode, SoVertexShape>();
 }
