@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "import/SceneBuilder.h"
 
-#include "import/TransformBuilder.h"
+#include "import/MotionBuilder.h"
 #include "text/NodeText.h"
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
@@ -52,6 +52,7 @@ public:
         , m_materials(model.materials.size())
         , m_pictures(model.pictures.size())
         , m_meshes(model.meshes.size())
+        , m_motion(model)
     {
     }
 
@@ -61,10 +62,11 @@ public:
         // it.
         std::vector<SoRef<SoSeparator>> nodes(m_model.nodes.size());
         for (std::size_t i = nodes.size(); i > 0; --i)
-            nodes[i - 1] = buildNode(m_model.nodes[i - 1], nodes);
+            nodes[i - 1] = buildNode(static_cast<int>(i - 1), nodes);
         if (nodes.empty())
             return SoRef<SoSeparator>(new SoSeparator);
         addLights(*nodes.front());
+        m_motion.finish(*nodes.front());
         return nodes.front();
     }
 
@@ -89,16 +91,17 @@ private:
         return node.light >= 0 && node.meshes.empty() && node.children.empty() && node.camera < 0;
     }
 
-    SoRef<SoSeparator> buildNode(const ModelData::Node& node, const std::vector<SoRef<SoSeparator>>& nodes)
+    SoRef<SoSeparator> buildNode(int place, const std::vector<SoRef<SoSeparator>>& nodes)
     {
+        const ModelData::Node& node = at(m_model.nodes, place);
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, node.name);
-        if (node.matrix != SbMatrix())
-            result->addChild(makePlacement(node.matrix));
+        if (SoTransformation* transform = m_motion.makeTransform(place))
+            result->addChild(transform);
         if (node.camera >= 0)
             result->addChild(makeCamera(at(m_model.cameras, node.camera)));
         for (const int mesh : node.meshes)
-            result->addChild(meshNode(mesh));
+            result->addChild(meshNode(mesh, place).get());
         for (const int child : node.children) {
             if (!isBare(at(m_model.nodes, child)))
                 result->addChild(at(nodes, child).get());
@@ -106,16 +109,34 @@ private:
         return result;
     }
 
-    SoNode* meshNode(int place)
+    SoRef<SoSeparator> meshNode(int mesh, int inNode)
     {
-        SoRef<SoSeparator>& node = at(m_meshes, place);
+        SoRef<SoSeparator>& node = at(m_meshes, mesh);
+        if (node && m_motion.isSkinned(mesh))
+            return bentCopy(*node, mesh, inNode);
         if (!node)
-            node = makeMesh(at(m_model.meshes, place));
-        return node.get();
+            node = makeMesh(mesh, inNode);
+        return node;
     }
 
-    SoRef<SoSeparator> makeMesh(ModelData::Mesh& mesh)
+    // With all the same but the skin, which depends on where it stands.
+    SoRef<SoSeparator> bentCopy(const SoSeparator& mesh, int place, int inNode)
     {
+        SoRef<SoSeparator> result(new SoSeparator);
+        result->setName(mesh.getName());
+        for (SoNode* child : mesh.getChildren()) {
+            const SoType type = child->getTypeId();
+            if (child->asShape())
+                m_motion.bend(*result, place, inNode);
+            if (type != SoSkin::getClassTypeId() && type != SoMorph::getClassTypeId())
+                result->addChild(child);
+        }
+        return result;
+    }
+
+    SoRef<SoSeparator> makeMesh(int place, int inNode)
+    {
+        ModelData::Mesh& mesh = at(m_model.meshes, place);
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, mesh.name);
         const bool colored = !mesh.colors.empty();
@@ -141,6 +162,7 @@ private:
         }
         if (mesh.corners == 1)
             result->addChild(makeDots());
+        m_motion.bend(*result, place, inNode);
         SoVertexShape* shape = makeShape(mesh, pointCount);
         result->addChild(shape);
         if (colored)
@@ -325,6 +347,7 @@ private:
     std::vector<SoRef<SoMaterial>> m_materials;
     std::vector<SoRef<SoTexture2>> m_pictures;
     std::vector<SoRef<SoSeparator>> m_meshes;
+    MotionBuilder m_motion;
 };
 
 } // namespace

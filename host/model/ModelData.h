@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/ModelMotion.h"
+
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbRotation.h>
 
@@ -85,6 +87,7 @@ struct ModelData {
     std::vector<Light> lights;
     std::vector<Camera> cameras;
     std::vector<Node> nodes;
+    ModelMotion motion;
 };
 
 } // namespace scopix

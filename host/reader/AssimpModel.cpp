@@ -2,6 +2,7 @@
 #include "reader/AssimpModel.h"
 
 #include "reader/AssimpMaterial.h"
+#include "reader/AssimpMotion.h"
 #include "reader/ModelPictures.h"
 
 #include <assimp/commonMetaData.h>
@@ -250,6 +251,7 @@ ModelData fromAssimp(const aiScene& scene, ModelPictures& pictures)
     model.pictures = pictures.takePictures();
     if (scene.mRootNode)
         NodeCollector(scene, model).collect();
+    model.motion = motionOf(scene, model);
     return model;
 }
 

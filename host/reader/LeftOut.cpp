@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reader/LeftOut.h"
 
+#include "reader/AssimpMotion.h"
+
 #include <assimp/material.h>
 #include <assimp/scene.h>
 
@@ -113,15 +115,9 @@ QStringList missing(const QStringList& names, const char* one, const char* sever
 QStringList partsLeftOut(const aiScene& scene)
 {
     QStringList sentences;
-    add(sentences, scene.mNumAnimations, "1 animation is left out.", "%1 animations are left out.");
-    add(sentences,
-        sumOf(scene.mMeshes, scene.mNumMeshes, [](const aiMesh& mesh) { return mesh.mNumAnimMeshes; }),
-        "1 morph target is left out.", "%1 morph targets are left out.");
-    add(sentences,
-        sumOf(scene.mMeshes, scene.mNumMeshes,
-              [](const aiMesh& mesh) { return mesh.mNumBones > 0 ? 1U : 0U; }),
-        "The skin of 1 mesh is left out, which keeps the pose that it was made in.",
-        "The skins of %1 meshes are left out, which keep the pose that they were made in.");
+    add(sentences, countTracksLeftOut(scene),
+        "1 track of an animation moves what there is no node for, and is left out.",
+        "%1 tracks of animations move what there are no nodes for, and are left out.");
     for (const MapKind& kind : mapKinds())
         add(sentences,
             sumOf(scene.mMaterials, scene.mNumMaterials,
