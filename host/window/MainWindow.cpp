@@ -25,6 +25,7 @@
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
 #include "window/PictureActs.h"
+#include "window/PlaybackActs.h"
 #include "window/ReloadBar.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
@@ -274,6 +275,7 @@ void MainWindow::makeViewMenu()
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
     m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
+    m_playback = new PlaybackActs(*menu, *m_view, {m_view, m_tree}, this);
     auto* before = new BeforeSwitch(*this, m_services);
     menu->addAction(before->action());
     before->takeKeyIn(*m_view);
@@ -440,6 +442,7 @@ void MainWindow::showScene(SoNode* root)
     // application's.
     m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
+    m_playback->getPlayback().setScene(m_files.getDocument().isExternal() ? nullptr : root);
     m_viewPoints->getMarks().setScene(root);
 }
 

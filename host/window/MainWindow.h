@@ -25,6 +25,7 @@ class HostServices;
 class NodeEditing;
 class SceneStates;
 class UserNotifier;
+class PlaybackActs;
 class ViewActs;
 class ViewActions;
 class ScenePanel;
@@ -136,6 +137,7 @@ private:
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;
+    PlaybackActs* m_playback = nullptr;
     std::unique_ptr<ViewActs> m_viewActs; // goes before the view
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
