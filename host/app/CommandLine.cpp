@@ -35,6 +35,8 @@ QList<QCommandLineOption> options()
         option("transparent", "Leave its ground transparent."),
         option("turntable", "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.",
                tr("NUMBER")),
+        option("save", "Write what FILE holds to this file, as its ending says, and end; needs no display.",
+               tr("OUT")),
         option("quit", "End when everything asked for is done."),
         option("counters", "Switch the performance counters on."),
         option("help", "Show this text and end."),
@@ -120,6 +122,21 @@ QString takePicture(CommandLine& line, const QCommandLineParser& parser)
     return problem;
 }
 
+// Without a window there is nothing to take a picture of or to select in.
+QString checkSave(const CommandLine& line, const QCommandLineParser& parser)
+{
+    if (line.save.isEmpty())
+        return {};
+    if (line.file.isEmpty())
+        return tr("--save writes what FILE holds, and no FILE was given.");
+    for (const char* name : {"screenshot", "picture", "select"}) {
+        if (parser.isSet(QLatin1String(name)))
+            return tr("--save opens no window, so that --%1 cannot be given with it.")
+                .arg(QLatin1String(name));
+    }
+    return {};
+}
+
 QString check(CommandLine& line, const QCommandLineParser& parser)
 {
     const QStringList files = parser.positionalArguments();
@@ -134,7 +151,10 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
     if (files.value(0).isEmpty() && !files.isEmpty())
         return tr("FILE expects the path of a scene or model, and nothing was given.");
     line.file = files.value(0);
-    const QString problem = takePicture(line, parser);
+    line.save = parser.value(QStringLiteral("save"));
+    QString problem = checkSave(line, parser);
+    if (problem.isEmpty())
+        problem = takePicture(line, parser);
     if (!problem.isEmpty())
         return problem;
     const QString select = parser.value(QStringLiteral("select"));

@@ -22,6 +22,7 @@ struct SCOPIX_HOST_API CommandLine {
     QSize pictureSize; // of --size; empty: as PictureOrder
     bool transparent = false;
     int turntable = 1; // pictures of one turn
+    QString save; // another file for what FILE holds
     bool quit = false;
     bool counters = false;
     bool help = false;
@@ -30,7 +31,7 @@ struct SCOPIX_HOST_API CommandLine {
     QString error; // one sentence; empty when all is well
 
     /// Nobody is there to answer a message box.
-    bool isUnattended() const { return quit || isForPictures(); }
+    bool isUnattended() const { return quit || isForPictures() || !save.isEmpty(); }
     /// Writes pictures and ends, for which no display is needed.
     bool isForPictures() const { return !screenshot.isEmpty() || !picture.isEmpty(); }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "export/ExportNames.h"
 
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
 #include <xsg/nodes/base/SoGeometry.h>
 #include <xsg/nodes/base/SoNode.h>
 #include <xsg/nodes/base/SoState.h>
@@ -27,6 +30,12 @@ QString lostKind(const SoNode& node)
 {
     if (isA<SoFog>(node))
         return translated("fogs");
+    if (isA<SoAnimation>(node))
+        return translated("animations");
+    if (isA<SoSkin>(node))
+        return translated("skins, whose present pose is kept");
+    if (isA<SoMorph>(node))
+        return translated("morph targets, whose present mix is kept");
     return isA<SoClipPlane>(node) ? translated("clip planes") : QString();
 }
 

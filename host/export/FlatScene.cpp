@@ -46,6 +46,7 @@ public:
     }
 
 protected:
+    void enterGroup(SoGroup* group) override { noteLoss(*group); }
     void visitShape(SoShape* shape) override
     {
         SoGeometry geometry;
@@ -59,14 +60,19 @@ protected:
     }
     void visitProperty(SoNode* node) override
     {
-        const QString kind = leftOutKind(*node);
-        if (!kind.isEmpty())
-            m_leftOut[kind].insert(node);
+        noteLoss(*node);
         if (isA<SoMaterial>(*node))
             m_materials.noteNode(*node);
     }
 
 private:
+    void noteLoss(const SoNode& node)
+    {
+        const QString kind = leftOutKind(node);
+        if (!kind.isEmpty())
+            m_leftOut[kind].insert(&node);
+    }
+
     void add(const SoShape& shape, const SoGeometry& geometry, const SbMatrix& toWorld)
     {
         FlatScene::Mesh mesh{nearestName(shape), geometry, m_materials.placeOf(state())};

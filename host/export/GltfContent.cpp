@@ -68,6 +68,7 @@ protected:
             state().modelMatrix = SbMatrix();
         }
         m_instancing += isA<SoInstances>(*group) ? 1 : 0;
+        noteLoss(*group);
         if (isA<SoSwitch>(*group))
             lookAtHidden(*group);
     }
@@ -89,9 +90,7 @@ protected:
     }
     void visitProperty(SoNode* node) override
     {
-        const QString kind = lostKind(*node);
-        if (!kind.isEmpty())
-            m_leftOut[kind].insert(node);
+        noteLoss(*node);
         if (isA<SoMaterial>(*node))
             m_materials.noteNode(*node);
         else if (isA<SoLight>(*node))
@@ -101,6 +100,13 @@ protected:
     }
 
 private:
+    void noteLoss(const SoNode& node)
+    {
+        const QString kind = lostKind(node);
+        if (!kind.isEmpty())
+            m_leftOut[kind].insert(&node);
+    }
+
     std::size_t addNode(const SbMatrix& matrix, std::string name)
     {
         GltfContent::Node node;

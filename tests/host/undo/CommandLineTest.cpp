@@ -47,6 +47,14 @@ TEST(CommandLine, TakesHowAPictureIsMade)
     EXPECT_EQ(parse({"--picture", "out.png"}).turntable, 1);
 }
 
+TEST(CommandLine, TakesTheFileToSaveTo)
+{
+    const CommandLine line = parse({"a.glb", "--save", "b.obj"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_EQ(line.save, "b.obj");
+    EXPECT_TRUE(line.isUnattended());
+}
+
 TEST(CommandLine, HasNoOptionsByDefault)
 {
     const CommandLine line = parse({});
@@ -58,8 +66,8 @@ TEST(CommandLine, HelpListsEveryOption)
 {
     for (const char* option :
          {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>", "--screenshot <OUT.png>",
-          "--picture <OUT.png>", "--size <WIDTHxHEIGHT>", "--transparent", "--turntable <NUMBER>", "--quit",
-          "--counters", "--help", "--version"})
+          "--picture <OUT.png>", "--size <WIDTHxHEIGHT>", "--transparent", "--turntable <NUMBER>",
+          "--save <OUT>", "--quit", "--counters", "--help", "--version"})
         EXPECT_TRUE(CommandLine::helpText().contains(QLatin1String(option))) << option;
     EXPECT_TRUE(CommandLine::versionText().contains(QRegularExpression("^scopix \\d+\\.\\d+\\.\\d+\n$")));
     EXPECT_TRUE(parse({"--help"}).help);
@@ -99,6 +107,9 @@ INSTANTIATE_TEST_SUITE_P(
                       Bad{{"--picture", "a.png", "--size", "-1x5"}, "WIDTHxHEIGHT"},
                       Bad{{"--picture", "a.png", "--turntable", "1"}, "2 or more"},
                       Bad{{"--transparent"}, "--picture OUT.png is missing"},
-                      Bad{{"--size", "4x4"}, "--picture OUT.png is missing"}, Bad{{"--quit=7"}, "quit"}));
+                      Bad{{"--size", "4x4"}, "--picture OUT.png is missing"},
+                      Bad{{"--save", "b.glb"}, "no FILE"}, Bad{{"a.glb", "--save", ""}, "--save"},
+                      Bad{{"a.glb", "--save", "b.glb", "--picture", "c.png"}, "--picture"},
+                      Bad{{"--quit=7"}, "quit"}));
 
 } // namespace
