@@ -5,6 +5,7 @@
 #include "model/ModelFormats.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
+#include "reader/GltfAnimations.h"
 #include "reader/LeftOut.h"
 #include "reader/ModelPictures.h"
 #include "reader/RegularFiles.h"
@@ -90,11 +91,16 @@ private:
     QStringList& m_missing;
 };
 
+bool isGltf(const QString& path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    return ending == QLatin1String("gltf") || ending == QLatin1String("glb");
+}
+
 QString unrecognized(const QString& path)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
-    const QString fault =
-        ending == QLatin1String("gltf") || ending == QLatin1String("glb") ? gltfFault(path) : QString();
+    const QString fault = isGltf(path) ? gltfFault(path) : QString();
     return fault.isEmpty() ? tr("it is no file of the kind that its ending, .%1, says").arg(ending) : fault;
 }
 
@@ -185,6 +191,8 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
     ModelReadResult result;
     ModelPictures pictures(*scene, QFileInfo(path).absolutePath(), xsg::PictureBudget::preferred());
     result.data = fromAssimp(*scene, pictures);
+    if (isGltf(path))
+        takeGltfAnimations(path, result.data);
     result.notes = pictures.getNotes();
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));

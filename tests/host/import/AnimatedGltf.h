@@ -21,6 +21,13 @@ public:
         m_attributes["POSITION"] = add({0, 0, 0, 1, 0, 0, 0, 2, 0}, "VEC3");
     }
 
+    void rename(int node, const char* name)
+    {
+        QJsonObject renamed = m_nodes[node].toObject();
+        renamed["name"] = QLatin1String(name);
+        m_nodes[node] = renamed;
+    }
+
     /// The triangle's third corner belongs to the bone, the others to the root.
     void addSkin()
     {

@@ -116,6 +116,29 @@ TEST_F(Motion, OfMorphsIsPlayed)
     EXPECT_TRUE(notes.isEmpty()) << notes.join('\n').toStdString();
 }
 
+TEST_F(Motion, BetweenKeysIsAsTheFileSaysIt)
+{
+    gltf.addChannel(2, "translation", {0, 1}, {5, 0, 0, 9, 0, 0}, "VEC3", "STEP");
+    // Leaves at 8 a second and arrives at rest: half-way it is 1 further than straight on.
+    gltf.addChannel(1, "translation", {0, 1}, {0, 0, 0, 0, 1, 0, 0, 8, 0, 0, 0, 0, 0, 3, 0, 0, 0, 0}, "VEC3",
+                    "CUBICSPLINE");
+    gltf.addChannel(0, "scale", {0.0001F, 1}, {1, 1, 1, 2, 1, 1}, "VEC3");
+    openGltf();
+    clip()->goTo(0.5);
+    EXPECT_EQ(transformOf("mesh")->translation.getValue(), SbVec3f(5, 0, 0));
+    EXPECT_EQ(transformOf("bone")->translation.getValue(), SbVec3f(0, 3, 0));
+    EXPECT_EQ(static_cast<SoTrack*>(clip()->getChild(2))->times[0], 0.0001F); // to the last bit
+}
+
+TEST_F(Motion, OfNodesOfOneNameIsTheirOwn)
+{
+    gltf.rename(1, "mesh");
+    gltf.addChannel(1, "translation", {0}, {0, 4, 0}, "VEC3");
+    gltf.addChannel(2, "translation", {0}, {7, 0, 0}, "VEC3");
+    openGltf();
+    EXPECT_EQ(boxAt(0), SbBox3f({7, 0, 0}, {8, 2, 0}));
+}
+
 TEST_F(Motion, IsSavedAndReadAgain)
 {
     gltf.addSkin();
