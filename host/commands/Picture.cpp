@@ -196,6 +196,7 @@ int drawPicture(const Arguments& arguments)
     renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
     if (wanted.background)
         renderer.getRenderer().setBackground(*wanted.background);
+    SoSensorQueue::getInstance().process(); // a clip that the file has paused shows its time
     SoPixels pixels;
     for (int frame = 0; frame < wanted.frames; ++frame) {
         if (frame > 0)
