@@ -29,7 +29,8 @@ constexpr float Speeds[] = {0.1F, 0.25F, 0.5F, 1, 2, 4, -1};
 
 int toStep(double seconds)
 {
-    return static_cast<int>(std::clamp(std::round(seconds * StepsPerSecond), 0.0, double(MostSteps)));
+    const double steps = std::round(seconds * StepsPerSecond);
+    return steps > 0 ? static_cast<int>(std::min(steps, double(MostSteps))) : 0;
 }
 
 QString secondsText(double seconds)

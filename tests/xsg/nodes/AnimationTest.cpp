@@ -16,6 +16,8 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
+#include <limits>
+
 namespace
 {
 
@@ -222,6 +224,25 @@ TEST_F(Moved, LeavesWhatItCannotWrite)
     EXPECT_EQ(transform->translation.getValue(), SbVec3f(0, 7, 0));
     EXPECT_EQ(transform->rotation.getValue(), SbRotation());
     EXPECT_EQ(transform->scaleFactor.getValue(), SbVec3f(1, 2, 3));
+}
+
+TEST_F(Moved, TakesAnyNumbers)
+{
+    auto* keys = static_cast<SoTrack*>(clip->getChild(0));
+    keys->interpolation.setValue(77); // as if it were the default
+    clip->speed.setValue(std::numeric_limits<float>::quiet_NaN());
+    clip->play();
+    source().advance(1, root.get());
+    EXPECT_EQ(clip->time.getValue(), SbTime(0));
+    clip->goTo(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(clip->time.getValue(), SbTime(0));
+    keys->times.setValues({1, 1, 0});
+    keys->values.setValues({0, 0, 0, 1, 1, 1, 2, 2, 2});
+    for (const double at : {-1.0, 0.0, 0.5, 1.0, 2.0})
+        clip->goTo(at);
+    keys->times.setNum(0);
+    clip->goTo(1);
+    EXPECT_EQ(transform->translation.getValue(), SbVec3f(0, 7, 0));
 }
 
 TEST_F(Moved, ComesBackFromAFile)

@@ -149,7 +149,7 @@ void SoAnimation::advance(SbTime elapsed)
 void SoAnimation::show(State newState, double seconds)
 {
     hold(state, static_cast<int>(newState));
-    hold(time, SbTime(seconds));
+    hold(time, SbTime(std::isfinite(seconds) ? seconds : 0));
     pose();
 }
 

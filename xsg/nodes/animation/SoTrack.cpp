@@ -13,6 +13,7 @@
 #include <xsg/types/SoTypedImpl.h>
 
 #include <algorithm>
+#include <cmath>
 
 template class SoTyped<SoTrack, SoNode>;
 
@@ -35,6 +36,12 @@ void assignList(SoMFFloat& to, const float* numbers, int count)
     if (to.getNum() == count && std::equal(numbers, numbers + count, to.getValues()))
         return;
     to.setValues(0, count, numbers);
+}
+
+std::int32_t toWhole(float number)
+{
+    return std::isnan(number) ? 0
+                              : static_cast<std::int32_t>(std::clamp(number, -2147483648.0F, 2147483520.0F));
 }
 
 struct Kind {
@@ -65,14 +72,22 @@ const std::vector<Kind>& kinds()
              assign<SoSFVec4f>(to, [n] { return SbVec4f(n[0], n[1], n[2], n[3]); });
          }},
         {SoSFInt32::getClassTypeId(), 1,
-         [](SoField& to, const float* n) {
-             assign<SoSFInt32>(to, [n] {
-                 return static_cast<std::int32_t>(std::clamp(n[0], -2147483648.0F, 2147483520.0F));
-             });
-         }},
+         [](SoField& to, const float* n) { assign<SoSFInt32>(to, [n] { return toWhole(n[0]); }); }},
         {SoSFBool::getClassTypeId(), 1,
          [](SoField& to, const float* n) { assign<SoSFBool>(to, [n] { return n[0] != 0; }); }}};
     return all;
+}
+
+xsg::KeyList::Between betweenOf(const SoTrack& track)
+{
+    switch (track.interpolation.getValue()) {
+    case SoTrack::Step:
+        return xsg::KeyList::Between::Step;
+    case SoTrack::Cubic:
+        return xsg::KeyList::Between::Cubic;
+    default:
+        return xsg::KeyList::Between::Linear;
+    }
 }
 
 const Kind* findKind(const SoField& field)
@@ -100,7 +115,7 @@ SoField* SoTrack::findTarget() const
 
 int SoTrack::getWidth() const
 {
-    const int perKey = interpolation.getValue() == Cubic ? 3 : 1;
+    const int perKey = betweenOf(*this) == xsg::KeyList::Between::Cubic ? 3 : 1;
     const int keys = times.getNum() * perKey;
     return keys > 0 && values.getNum() % keys == 0 ? values.getNum() / keys : 0;
 }
@@ -121,7 +136,7 @@ void SoTrack::write(SoField& to, float time) const
     keys.count = static_cast<std::size_t>(times.getNum());
     keys.values = values.getValues();
     keys.width = static_cast<std::size_t>(getWidth());
-    keys.between = static_cast<xsg::KeyList::Between>(std::clamp(interpolation.getValue(), 0, 2));
+    keys.between = betweenOf(*this);
     keys.isRotation = to.getTypeId() == SoSFRotation::getClassTypeId();
     if (kind) {
         float numbers[MostNumbers] = {};
