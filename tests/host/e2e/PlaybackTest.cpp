@@ -85,6 +85,10 @@ protected:
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
+        // What comes and goes over the window may have taken the focus.
+        window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), 60000));
+        window().getView().setFocus();
         QTest::keyClick(&window().getView(), key, modifiers);
         Session::settle();
     }
@@ -170,6 +174,20 @@ TEST_F(Playing, RepaintsNothingWhilePaused)
     EXPECT_FALSE(window().getView().isAnimating());
     pass(0.5);
     EXPECT_EQ(window().getView().getDrawCount(), drawn);
+}
+
+TEST_F(Playing, DrawsWhileItGoesOn)
+{
+    window().getView().setAnimated(true);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(window().getView().isAnimating());
+    const int drawn = window().getView().getDrawCount();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window().getView().getDrawCount() > drawn + 3; }, 60000));
+    EXPECT_NE(radius(), 2);
+    press(Qt::Key_Space, Qt::ShiftModifier);
+    EXPECT_FALSE(window().getView().isAnimating());
+    EXPECT_EQ(radius(), 2);
+    expectNoEdit();
 }
 
 TEST_F(Playing, IsSavedAtRest)
