@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <unordered_map>
 
 namespace scopix
@@ -283,6 +284,25 @@ unsigned countTracksLeftOut(const aiScene& scene)
             count += scene.mRootNode->FindNode(animation.mChannels[k]->mNodeName) ? 0 : 1;
     }
     return count;
+}
+
+unsigned countMovedLights(const aiScene& scene)
+{
+    std::set<std::string> moved;
+    for (unsigned i = 0; i < scene.mNumAnimations; ++i) {
+        const aiAnimation& animation = *scene.mAnimations[i];
+        for (unsigned k = 0; k < animation.mNumChannels; ++k)
+            moved.insert(animation.mChannels[k]->mNodeName.C_Str());
+    }
+    const auto isMoved = [&](const aiNode* node) {
+        while (node && moved.count(node->mName.C_Str()) == 0)
+            node = node->mParent;
+        return node != nullptr;
+    };
+    return static_cast<unsigned>(
+        std::count_if(scene.mLights, scene.mLights + scene.mNumLights, [&](const aiLight* light) {
+            return isMoved(scene.mRootNode->FindNode(light->mName));
+        }));
 }
 
 } // namespace scopix

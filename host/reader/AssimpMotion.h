@@ -14,5 +14,7 @@ ModelMotion motionOf(const aiScene& scene, const ModelData& model);
 
 /// How many tracks of the animations move something that there is no field for.
 unsigned countTracksLeftOut(const aiScene& scene);
+/// How many lights stand in a node that an animation moves: here they shine from where they are at rest.
+unsigned countMovedLights(const aiScene& scene);
 
 } // namespace scopix

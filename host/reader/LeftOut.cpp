@@ -118,6 +118,8 @@ QStringList partsLeftOut(const aiScene& scene)
     add(sentences, countTracksLeftOut(scene),
         "1 track of an animation moves what there is no node for, and is left out.",
         "%1 tracks of animations move what there are no nodes for, and are left out.");
+    add(sentences, countMovedLights(scene), "The movement of 1 light is left out.",
+        "The movements of %1 lights are left out.");
     for (const MapKind& kind : mapKinds())
         add(sentences,
             sumOf(scene.mMaterials, scene.mNumMaterials,

@@ -91,6 +91,28 @@ TEST_F(LeftOut, CountsTracksThatMoveNothing)
               "2 tracks of animations move what there are no nodes for, and are left out.");
 }
 
+TEST_F(LeftOut, CountsLightsThatAnAnimationMoves)
+{
+    aiScene scene;
+    scene.mRootNode = new aiNode("still");
+    auto* arm = new aiNode("arm");
+    auto* lamp = new aiNode("lamp");
+    arm->addChildren(1, &lamp);
+    scene.mRootNode->addChildren(1, &arm);
+    scene.mNumLights = 2;
+    scene.mLights = new aiLight* [2] { new aiLight, new aiLight };
+    scene.mLights[0]->mName = "lamp";
+    scene.mLights[1]->mName = "still";
+    EXPECT_EQ(partsLeftOut(scene).join('\n'), "");
+    auto* animation = new aiAnimation;
+    scene.mNumAnimations = 1;
+    scene.mAnimations = new aiAnimation* [1] { animation };
+    animation->mNumChannels = 1;
+    animation->mChannels = new aiNodeAnim* [1] { new aiNodeAnim };
+    animation->mChannels[0]->mNodeName = "arm";
+    EXPECT_EQ(partsLeftOut(scene).join('\n'), "The movement of 1 light is left out.");
+}
+
 TEST_F(LeftOut, CountsTheMapsOfMaterials)
 {
     QJsonObject gltf = triangle();
