@@ -2,6 +2,8 @@
 #include "window/MainWindow.h"
 #include "window/BeforeSwitch.h"
 
+#include "changes/ChangesPanel.h"
+#include "changes/SceneEdits.h"
 #include "handles/HandleActions.h"
 #include "handles/HandleTool.h"
 #include "panels/FieldListView.h"
@@ -26,6 +28,7 @@
 #include "window/NodeMenu.h"
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
+#include "window/SceneChanges.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
@@ -180,6 +183,13 @@ void MainWindow::makeDocks()
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_fieldsDock, m_historyDock);
+    m_changes = new SceneChanges(*this, m_services, m_files.getDocument(), m_notifier);
+    m_changesDock =
+        addDock(&m_changes->getPanel(), tr("Changes"), QStringLiteral("changesDock"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_historyDock, m_changesDock);
+    m_changes->setDock(m_changesDock);
+    m_tree->setChanged([this](const SoNode* node) { return m_changes->getEdits().isChanged(node); });
+    connect(m_changes, &SceneChanges::changed, m_tree->viewport(), qOverload<>(&QWidget::update));
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     m_fieldsDock->raise();
     resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
@@ -279,7 +289,7 @@ void MainWindow::makeViewMenu()
     before->takeKeyIn(*m_view);
     before->takeKeyIn(*m_tree);
     menu->addSeparator();
-    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock}) {
+    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock, m_changesDock}) {
         before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
     }

@@ -20,6 +20,7 @@ class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
+class SceneChanges;
 class PictureActs;
 class HostServices;
 class NodeEditing;
@@ -77,6 +78,7 @@ public:
     NodeEditing& getEditing() { return *m_editing; }
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
     SceneStates& getStates() { return *m_states; }
+    SceneChanges& getChanges() { return *m_changes; }
     ViewActions& getViewActions() { return *m_viewActions; }
 
     QSize sizeHint() const override { return {1280, 800}; }
@@ -131,6 +133,8 @@ private:
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
+    QDockWidget* m_changesDock = nullptr;
+    SceneChanges* m_changes = nullptr;
     QMenu* m_editMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
