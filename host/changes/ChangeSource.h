@@ -2,7 +2,7 @@
 #pragma once
 
 #include <scopix/SpxCommand.h>
-#include <xsg/changes/SceneChange.h>
+#include <xsg/changes/PatchApplication.h>
 
 #include <QList>
 #include <QObject>
@@ -42,8 +42,9 @@ using ChangeKeySet = std::set<ChangeKey>;
 /// Something to be done, or one sentence on why it cannot be.
 struct ChangeAct {
     std::unique_ptr<SpxCommand> command;
-    QString name; // of the step
-    QString refusal;
+    QString name = {}; // of the step
+    QString refusal = {};
+    std::shared_ptr<xsg::PatchResult> result = {}; // of a patch, once it is done
 };
 
 /// What differs between a scene as it is and what it is compared with: as it was opened, another file, or

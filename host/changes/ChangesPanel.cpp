@@ -267,6 +267,10 @@ void ChangesPanel::revert(const ChangeKeySet& keys)
         return emit said(act.refusal);
     m_services.executeCommand(act.command.release(), act.name);
     m_services.history().endStep();
+    if (act.result && !act.result->isWhole())
+        emit said(tr("%n of the changes could not be taken over: %1", nullptr,
+                     static_cast<int>(act.result->misfits.size()))
+                      .arg(QString::fromStdString(act.result->misfits.front())));
     follow();
 }
 

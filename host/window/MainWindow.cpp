@@ -26,6 +26,7 @@
 #include "window/HelpWindow.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/PatchActs.h"
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
 #include "window/SceneChanges.h"
@@ -210,6 +211,8 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
+    menu->addSeparator();
+    m_changes->fillMenu(*menu);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
     menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
@@ -553,7 +556,13 @@ void MainWindow::dropEvent(QDropEvent* event)
     // From the event loop: the other program waits for the drop to end, and the user may be asked something.
     const QString path = event->mimeData()->urls().first().toLocalFile();
     QMetaObject::invokeMethod(
-        this, [this, path] { m_files.openAnother(path); }, Qt::QueuedConnection);
+        this, [this, path] { PatchActs::isPatch(path) ? openPatch(path) : m_files.openAnother(path); },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::openPatch(const QString& path)
+{
+    m_changes->getPatches().apply(path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

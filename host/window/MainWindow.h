@@ -104,6 +104,7 @@ private:
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
                          Qt::DockWidgetArea area);
 
+    void openPatch(const QString& path);
     void showScene(SoNode* root);
     void showTitle();
     void askForScreenshot();

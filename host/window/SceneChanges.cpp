@@ -2,13 +2,19 @@
 #include "window/SceneChanges.h"
 
 #include "changes/ChangesPanel.h"
+#include "changes/FileComparison.h"
 #include "changes/SceneEdits.h"
 #include "document/SceneDocument.h"
+#include "import/AnyImport.h"
+#include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "window/PatchActs.h"
 
 #include <QAction>
 #include <QDockWidget>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QStatusBar>
@@ -27,6 +33,7 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneDoc
     , m_notifier(notifier)
     , m_edits(new SceneEdits(services.history(), this))
     , m_panel(new ChangesPanel(services))
+    , m_patches(new PatchActs(window, services, document, *m_panel, notifier, this))
     , m_count(new QToolButton)
 {
     m_edits->setHold([&services] { return services.preview().isShowingFormer(); });
@@ -41,7 +48,33 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneDoc
     connect(m_edits, &ChangeSource::changed, this, &SceneChanges::follow);
     connect(&services.preview(), &HostPreview::formerShown, m_edits, &ChangeSource::changed);
     connect(&document, &SceneDocument::rootChanged, this, &SceneChanges::start);
-    m_panel->getMenu().addAction(tr("&Start Again from Here"), this, &SceneChanges::start);
+    connect(&services.history(), &UndoHistory::acted, this, [this] {
+        if (m_comparison)
+            m_comparison->noteEdit();
+    });
+    makeMenu();
+}
+
+void SceneChanges::makeMenu()
+{
+    QMenu& menu = m_panel->getMenu();
+    menu.addAction(tr("&Save as Patch…"), m_patches, &PatchActs::askAndSave);
+    menu.addAction(tr("&Copy as Patch"), m_patches, &PatchActs::copy);
+    menu.addAction(tr("Copy as C&++"), m_patches, &PatchActs::copyCpp);
+    menu.addAction(tr("Copy as Sce&ne"), m_patches, &PatchActs::copyScene);
+    menu.addSeparator();
+    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
+    m_again = menu.addAction(tr("Compare A&gain"), this, [this] { m_comparison->compareAgain(); });
+    m_back = menu.addAction(tr("&Back to What You Changed"), this, &SceneChanges::showEdits);
+    m_start = menu.addAction(tr("&Start Again from Here"), this, &SceneChanges::start);
+    showSource();
+}
+
+void SceneChanges::fillMenu(QMenu& menu)
+{
+    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
+    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave);
+    menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply);
 }
 
 SceneChanges::~SceneChanges() = default;
@@ -60,7 +93,89 @@ void SceneChanges::show()
 
 void SceneChanges::start()
 {
+    showEdits();
     m_edits->begin(m_document.getRoot(), tr("the scene as it was opened"));
+}
+
+xsg::SceneChanges SceneChanges::takeChanges()
+{
+    m_edits->update();
+    const ChangeKeys& all = m_edits->list();
+    return m_edits->makePatch({all.begin(), all.end()});
+}
+
+// --- Another file
+
+void SceneChanges::askAndCompare()
+{
+    QStringList patterns;
+    for (const QString& ending : SceneDocument::fileExtensions())
+        patterns << QStringLiteral("*.") + ending;
+    const QString path = QFileDialog::getOpenFileName(
+        &m_window, tr("Compare With"), QFileInfo(m_document.getPath()).path(),
+        tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
+    if (!path.isEmpty())
+        compareWith(path);
+}
+
+void SceneChanges::compareWith(const QString& path)
+{
+    if (m_import)
+        m_import->cancel();
+    const QString error = checkFile(path, SceneDocument::fileExtensions());
+    if (!error.isEmpty())
+        return m_notifier.error(error);
+    m_import = makeImport(path, &m_window, this,
+                          [this, path](const SoRef<SoNode>& scene) { compared(scene.get(), path); });
+    connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
+        forgetImport();
+        m_notifier.error(sentence);
+    });
+    connect(m_import, &FileImport::cancelled, this, [this, path] {
+        forgetImport();
+        m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
+    });
+    m_import->start(path);
+}
+
+void SceneChanges::forgetImport()
+{
+    if (m_import)
+        m_import->deleteLater();
+    m_import.clear();
+}
+
+void SceneChanges::compared(SoNode* other, const QString& path)
+{
+    const SoRef<SoNode> kept(other);
+    forgetImport();
+    showEdits();
+    m_services.preview().showPresent();
+    m_comparison = new FileComparison(m_document.getRoot(), other, QFileInfo(path).fileName(), this);
+    m_panel->setSource(m_comparison);
+    showSource();
+    show();
+}
+
+void SceneChanges::showEdits()
+{
+    if (!m_comparison)
+        return;
+    m_panel->setSource(m_edits);
+    delete m_comparison;
+    showSource();
+}
+
+bool SceneChanges::isComparing() const
+{
+    return m_comparison;
+}
+
+void SceneChanges::showSource()
+{
+    m_again->setVisible(m_comparison);
+    m_back->setVisible(m_comparison);
+    m_start->setVisible(!m_comparison);
 }
 
 void SceneChanges::follow()

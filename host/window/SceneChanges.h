@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include <xsg/changes/SceneChange.h>
 
+#include <QObject>
+#include <QPointer>
+
+class QAction;
 class QDockWidget;
 class QMainWindow;
+class QMenu;
 class QToolButton;
 class SoNode;
 
@@ -12,6 +17,9 @@ namespace scopix
 {
 
 class ChangesPanel;
+class FileComparison;
+class FileImport;
+class PatchActs;
 class HostServices;
 class SceneDocument;
 class SceneEdits;
@@ -36,6 +44,17 @@ public:
     void setDock(QDockWidget* dock);
     /// Brings it up and gives it the focus.
     void show();
+    PatchActs& getPatches() const { return *m_patches; }
+    /// What a menu of files offers.
+    void fillMenu(QMenu& menu);
+    void askAndCompare();
+    /// Reads it, perhaps in the background; the dock then shows what differs from it.
+    void compareWith(const QString& path);
+    /// Back to what differs from what was opened.
+    void showEdits();
+    bool isComparing() const;
+    /// All changes as they are now, for a scene that is read again.
+    xsg::SceneChanges takeChanges();
 
 signals:
     /// Other nodes than before may be changed.
@@ -44,6 +63,10 @@ signals:
 private:
     void start();
     void follow();
+    void makeMenu();
+    void compared(SoNode* other, const QString& path);
+    void forgetImport();
+    void showSource();
 
     QMainWindow& m_window;
     HostServices& m_services;
@@ -51,6 +74,12 @@ private:
     UserNotifier& m_notifier;
     SceneEdits* m_edits;
     ChangesPanel* m_panel;
+    PatchActs* m_patches;
+    QPointer<FileComparison> m_comparison; // null: the edits show
+    QPointer<FileImport> m_import;
+    QAction* m_again = nullptr;
+    QAction* m_back = nullptr;
+    QAction* m_start = nullptr;
     QToolButton* m_count;
     QDockWidget* m_dock = nullptr;
 };
