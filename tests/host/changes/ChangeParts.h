@@ -23,6 +23,7 @@ class ChangesWindow : public TreeWindow
 protected:
     ChangesWindow()
     {
+        window.getView().hide(); // pictures take most of the time, and nothing here looks at them
         changes.show();
         settle();
     }

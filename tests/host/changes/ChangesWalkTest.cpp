@@ -160,7 +160,6 @@ protected:
 
 TEST_P(ChangesWalk, AlwaysEqualsAFullComparison)
 {
-    window.getView().hide();
     show(Scene);
     m_first = text();
     const int steps = fromEnvironment("SCOPIX_WALK_STEPS", 300);
