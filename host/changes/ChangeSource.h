@@ -59,7 +59,8 @@ public:
         QString path;
         QString before;
         QString after;
-        QString note; // for a tool tip
+        QString note = {};        // for a tool tip
+        bool isUncertain = false; // it is not as edits left it
     };
 
     using QObject::QObject;
@@ -90,7 +91,8 @@ public:
     /// The same changes for other scenes, or for another time.
     virtual xsg::SceneChanges makePatch(const ChangeKeySet& keys) = 0;
 
-    /// Fields whose former values can be shown, and writing them.
+    /// Fields whose former values can be shown, where any can, and writing them.
+    virtual bool canShowFormer() const { return false; }
     virtual QList<SoField*> fieldsOf(const ChangeKeySet& keys) const = 0;
     virtual void writeFormer(const std::set<SoField*>& fields) = 0;
 

@@ -192,7 +192,7 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const
     }
     case Qt::FontRole: {
         QFont font;
-        font.setItalic(!textOf(key).note.isEmpty());
+        font.setItalic(textOf(key).isUncertain);
         return index.column() == AfterColumn ? QVariant(font) : QVariant();
     }
     case Qt::AccessibleTextRole:

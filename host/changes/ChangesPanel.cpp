@@ -98,6 +98,7 @@ void ChangesPanel::makeView()
     m_view->setModel(m_filter);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
+    m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->setAllColumnsShowFocus(true);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
@@ -167,6 +168,7 @@ void ChangesPanel::setSource(ChangeSource* source)
     if (source) {
         connect(source, &ChangeSource::changed, this, &ChangesPanel::follow);
         m_revert->setText(source->revertText());
+        m_view->setColumnHidden(ChangesModel::TimeColumn, !source->canShowFormer());
     }
     updateButtons();
 }
@@ -197,13 +199,14 @@ void ChangesPanel::updateButtons()
     const ChangeSource* source = m_model->getSource();
     const int count = m_model->rowCount();
     m_revert->setEnabled(!getMeant().empty());
-    m_before->setEnabled(count > 0 || m_services.preview().isShowingFormer());
+    m_before->setEnabled((count > 0 && source->canShowFormer()) || m_services.preview().isShowingFormer());
     const int ticked = static_cast<int>(m_model->getTicked().size());
     QString text = !source      ? QString()
                    : count == 0 ? tr("Nothing differs from %1.").arg(source->baselineName())
-                                : tr("%n change(s) from %1", nullptr, count).arg(source->baselineName());
+                   : count == 1 ? tr("1 change from %1").arg(source->baselineName())
+                                : tr("%L1 changes from %2").arg(count).arg(source->baselineName());
     if (ticked > 0)
-        text += tr(", %n of them ticked", nullptr, ticked);
+        text += tr(", %L1 of them ticked").arg(ticked);
     m_heading->setText(text);
 }
 
@@ -268,8 +271,8 @@ void ChangesPanel::revert(const ChangeKeySet& keys)
     m_services.executeCommand(act.command.release(), act.name);
     m_services.history().endStep();
     if (act.result && !act.result->isWhole())
-        emit said(tr("%n of the changes could not be taken over: %1", nullptr,
-                     static_cast<int>(act.result->misfits.size()))
+        emit said(tr("Changes that could not be taken over: %1; the first: %2")
+                      .arg(act.result->misfits.size())
                       .arg(QString::fromStdString(act.result->misfits.front())));
     follow();
 }

@@ -470,7 +470,8 @@ ChangeSource::Text SceneEdits::describe(const ChangeKey& key) const
         SoScenePath path = m_places.pathOf(*ownerOf(field));
         path.setField(field.getName().getString());
         return {toText(path), entry->edit->formerText(TextLimit), entry->edit->presentText(TextLimit),
-                entry->isElsewhere ? tr("Written since by something else than an edit.") : QString()};
+                entry->isElsewhere ? tr("Written since by something else than an edit.") : QString(),
+                entry->isElsewhere};
     }
     const StructureRow* row = rowOf(key);
     if (!row)

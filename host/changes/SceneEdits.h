@@ -54,6 +54,7 @@ public:
     QString setFormer(const ChangeKey& key, const QString& text) override;
     ChangeAct revert(const ChangeKeySet& keys) override;
     xsg::SceneChanges makePatch(const ChangeKeySet& keys) override;
+    bool canShowFormer() const override { return true; }
     QList<SoField*> fieldsOf(const ChangeKeySet& keys) const override;
     void writeFormer(const std::set<SoField*>& fields) override;
     QString baselineName() const override { return m_baselineName; }

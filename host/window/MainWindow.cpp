@@ -133,7 +133,10 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
-    new ReloadBar(m_files, *m_view);
+    auto* reload = new ReloadBar(m_files, *m_view);
+    connect(reload, &ReloadBar::compareRequested, m_changes,
+            [this] { m_changes->compareWith(m_files.getDocument().getPath()); });
+    connect(&m_files, &SceneFiles::reapplyRequested, m_changes, &SceneChanges::reloadAndReapply);
     new FieldMenu(*m_fields, m_services);
     statusBar()->show();
     resize(firstSize());
@@ -184,7 +187,7 @@ void MainWindow::makeDocks()
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_fieldsDock, m_historyDock);
-    m_changes = new SceneChanges(*this, m_services, m_files.getDocument(), m_notifier);
+    m_changes = new SceneChanges(*this, m_services, m_files, m_notifier);
     m_changesDock =
         addDock(&m_changes->getPanel(), tr("Changes"), QStringLiteral("changesDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_historyDock, m_changesDock);

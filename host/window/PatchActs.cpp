@@ -71,7 +71,7 @@ bool PatchActs::save(const QString& path)
     const QString error = writePatch(path, m_panel.getModel().getSource()->makePatch(chosen));
     if (error.isEmpty())
         m_notifier.info(
-            tr("Saved %n change(s) as “%1”.", nullptr, static_cast<int>(chosen.size())).arg(path));
+            tr("Saved the changes as “%1”.").arg(path));
     else
         m_notifier.error(error);
     return error.isEmpty();

@@ -10,6 +10,7 @@
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
 #include "window/PatchActs.h"
+#include "window/SceneFiles.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -24,16 +25,17 @@
 namespace scopix
 {
 
-SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneDocument& document,
+SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFiles& files,
                            UserNotifier& notifier)
     : QObject(&window)
     , m_window(window)
     , m_services(services)
-    , m_document(document)
+    , m_files(files)
+    , m_document(files.getDocument())
     , m_notifier(notifier)
     , m_edits(new SceneEdits(services.history(), this))
     , m_panel(new ChangesPanel(services))
-    , m_patches(new PatchActs(window, services, document, *m_panel, notifier, this))
+    , m_patches(new PatchActs(window, services, m_document, *m_panel, notifier, this))
     , m_count(new QToolButton)
 {
     m_edits->setHold([&services] { return services.preview().isShowingFormer(); });
@@ -47,7 +49,7 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneDoc
     connect(m_panel, &ChangesPanel::said, &notifier, &UserNotifier::info);
     connect(m_edits, &ChangeSource::changed, this, &SceneChanges::follow);
     connect(&services.preview(), &HostPreview::formerShown, m_edits, &ChangeSource::changed);
-    connect(&document, &SceneDocument::rootChanged, this, &SceneChanges::start);
+    connect(&m_document, &SceneDocument::rootChanged, this, &SceneChanges::start);
     connect(&services.history(), &UndoHistory::acted, this, [this] {
         if (m_comparison)
             m_comparison->noteEdit();
@@ -75,6 +77,10 @@ void SceneChanges::fillMenu(QMenu& menu)
     menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
     menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave);
     menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply);
+    QAction* reapply = menu.addAction(tr("Reload and Reappl&y"), this, &SceneChanges::reloadAndReapply);
+    reapply->setToolTip(tr("Opens the file as it is by now, and makes your changes once more"));
+    connect(&menu, &QMenu::aboutToShow, reapply,
+            [this, reapply] { reapply->setEnabled(!m_document.getPath().isEmpty()); });
 }
 
 SceneChanges::~SceneChanges() = default;
@@ -102,6 +108,22 @@ xsg::SceneChanges SceneChanges::takeChanges()
     m_edits->update();
     const ChangeKeys& all = m_edits->list();
     return m_edits->makePatch({all.begin(), all.end()});
+}
+
+void SceneChanges::reloadAndReapply()
+{
+    m_services.preview().showPresent();
+    m_services.history().endStep();
+    const xsg::SceneChanges mine = takeChanges();
+    const QString name = tr("your changes to %1").arg(m_document.getTitle());
+    // Where it cannot be opened, what was open stays.
+    auto once = std::make_shared<QMetaObject::Connection>();
+    *once = connect(&m_files, &SceneFiles::opened, this, [this, once, mine, name](bool good) {
+        disconnect(*once);
+        if (good && !mine.empty())
+            m_patches->apply(mine, name);
+    });
+    m_files.reload();
 }
 
 // --- Another file

@@ -23,6 +23,7 @@ class PatchActs;
 class HostServices;
 class SceneDocument;
 class SceneEdits;
+class SceneFiles;
 class UserNotifier;
 
 /// What the user has changed in the open scene, as the window shows it: the panel for a dock, the mark on the
@@ -34,8 +35,7 @@ class SceneChanges : public QObject
 
 public:
     /// All must outlive it.
-    SceneChanges(QMainWindow& window, HostServices& services, SceneDocument& document,
-                 UserNotifier& notifier);
+    SceneChanges(QMainWindow& window, HostServices& services, SceneFiles& files, UserNotifier& notifier);
     ~SceneChanges() override;
 
     ChangesPanel& getPanel() const { return *m_panel; }
@@ -50,6 +50,8 @@ public:
     void askAndCompare();
     /// Reads it, perhaps in the background; the dock then shows what differs from it.
     void compareWith(const QString& path);
+    /// Opens the same file again, as it is by now, and makes the changes once more, as one step.
+    void reloadAndReapply();
     /// Back to what differs from what was opened.
     void showEdits();
     bool isComparing() const;
@@ -70,6 +72,7 @@ private:
 
     QMainWindow& m_window;
     HostServices& m_services;
+    SceneFiles& m_files;
     SceneDocument& m_document;
     UserNotifier& m_notifier;
     SceneEdits* m_edits;

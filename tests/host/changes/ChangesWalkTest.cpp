@@ -5,6 +5,7 @@
 #include "ChangeParts.h"
 
 #include <QRandomGenerator>
+#include <QTemporaryDir>
 
 namespace
 {
@@ -93,9 +94,11 @@ protected:
         if (list.model()->rowCount() == 0)
             return;
         list.setCurrentIndex(list.model()->index(random(list.model()->rowCount()), 0));
-        switch (random(4)) {
+        switch (random(5)) {
         case 0:
             return keyInList(Qt::Key_Space);
+        case 4:
+            return takeOver();
         case 1:
             press("changesBefore");
             return press("changesBefore");
@@ -105,6 +108,20 @@ protected:
         default:
             return keyInList(Qt::Key_Delete);
         }
+    }
+    // A line of what the scene was at first, from its file.
+    void takeOver()
+    {
+        changes.compareWith(m_file);
+        if (!QTest::qWaitFor([this] { return changes.isComparing(); }))
+            return;
+        settle();
+        if (list.model()->rowCount() > 0) {
+            list.setCurrentIndex(list.model()->index(random(list.model()->rowCount()), 0));
+            keyInList(Qt::Key_Delete);
+        }
+        changes.showEdits();
+        settle();
     }
     void step()
     {
@@ -156,12 +173,16 @@ protected:
 
     QRandomGenerator m_random{static_cast<quint32>(fromEnvironment("SCOPIX_WALK_SEED", 1))};
     std::string m_first;
+    QTemporaryDir m_folder;
+    QString m_file = m_folder.filePath("first.xsg");
 };
 
 TEST_P(ChangesWalk, AlwaysEqualsAFullComparison)
 {
     show(Scene);
     m_first = text();
+    std::string error;
+    ASSERT_TRUE(SoSceneFile::write(window.getScene(), m_file.toStdString(), error)) << error;
     const int steps = fromEnvironment("SCOPIX_WALK_STEPS", 300);
     std::size_t most = 0;
     for (int i = 0; i < steps && !HasFatalFailure(); ++i) {

@@ -192,3 +192,28 @@ TEST_F(Patches, AFileIsComparedAndTakenOverLineByLine)
     services.undoStack().undo();
     EXPECT_EQ(rows().size(), 2);
 }
+
+TEST_F(Patches, AFileThatHasChangedIsReloadedAndTheEditsMadeAgain)
+{
+    write(fileOf("scene.xsg"), QByteArray::fromStdString(text()));
+    ASSERT_TRUE(open(fileOf("scene.xsg")));
+    setWidth(3);
+    removeBall();
+    QByteArray theirs = content(fileOf("scene.xsg"));
+    theirs.replace("0.25", "0.75");
+    write(fileOf("scene.xsg"), theirs);
+    done.clear();
+    changes.reloadAndReapply();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    EXPECT_FLOAT_EQ(named<SoMaterial>("paint").transparency.getValue(), 0.75F);
+    EXPECT_FLOAT_EQ(named<SoCube>("box").width.getValue(), 3);
+    EXPECT_EQ(outline(), "top(paint left(box Cube) right)");
+    EXPECT_EQ(rows().size(), 2);
+    EXPECT_EQ(services.undoStack().count(), 1) << "one step";
+    write(fileOf("scene.xsg"), "half of");
+    const std::string before = text();
+    changes.reloadAndReapply();
+    settle();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(rows().size(), 2) << "what was open stays";
+}
