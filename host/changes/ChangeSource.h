@@ -69,6 +69,8 @@ public:
     virtual void update() = 0;
     /// As of the last update(), in the order in which they came.
     virtual const ChangeKeys& list() const = 0;
+    /// Grows when the list may hold others.
+    virtual quint64 listVersion() const = 0;
     virtual Text describe(const ChangeKey& key) const = 0;
     /// Grows when what describe() says may have changed.
     virtual quint64 versionOf(const ChangeKey& key) const = 0;

@@ -26,6 +26,8 @@ void ChangesModel::setSource(ChangeSource* source)
     beginResetModel();
     m_source = source;
     m_keys.clear();
+    m_versions.clear();
+    m_listVersion = source ? source->listVersion() - 1 : 0; // whatever it is
     m_known.clear();
     m_ticked.clear();
     m_shown.clear();
@@ -39,6 +41,17 @@ void ChangesModel::follow()
     if (!m_source)
         return;
     m_source->update();
+    if (std::exchange(m_listVersion, m_source->listVersion()) != m_source->listVersion())
+        followList();
+    for (int row = 0; row < rowCount(); ++row) {
+        const quint64 version = m_source->versionOf(keyAt(row));
+        if (std::exchange(m_versions[static_cast<std::size_t>(row)], version) != version)
+            emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    }
+}
+
+void ChangesModel::followList()
+{
     const ChangeKeys& list = m_source->list();
     const ChangeKeySet present(list.begin(), list.end());
     m_ranks.clear();
@@ -46,18 +59,16 @@ void ChangesModel::follow()
     ChangeKeys added;
     std::copy_if(list.begin(), list.end(), std::back_inserter(added),
                  [this](const ChangeKey& key) { return m_known.count(key) == 0; });
-    if (!added.empty()) {
-        const int first = rowCount();
-        beginInsertRows({}, first, first + static_cast<int>(added.size()) - 1);
-        m_keys.insert(m_keys.end(), added.begin(), added.end());
-        m_known.insert(added.begin(), added.end());
-        endInsertRows();
+    if (added.empty())
+        return;
+    const int first = rowCount();
+    beginInsertRows({}, first, first + static_cast<int>(added.size()) - 1);
+    for (const ChangeKey& key : added) {
+        m_keys.push_back(key);
+        m_versions.push_back(m_source->versionOf(key));
+        m_known.insert(key);
     }
-    for (int row = 0; row < rowCount(); ++row) {
-        const auto shown = m_shown.find(keyAt(row));
-        if (shown != m_shown.end() && shown->second.version != m_source->versionOf(keyAt(row)))
-            emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
-    }
+    endInsertRows();
 }
 
 void ChangesModel::removeGone(const ChangeKeySet& present)
@@ -75,11 +86,13 @@ void ChangesModel::removeGone(const ChangeKeySet& present)
         beginResetModel();
         forgetGone(present);
         m_keys.assign(m_known.begin(), m_known.end());
+        m_versions.assign(m_keys.size(), 0);
         endResetModel();
     } else {
         for (const int row : gone) {
             beginRemoveRows({}, row, row);
             m_keys.erase(m_keys.begin() + row);
+            m_versions.erase(m_versions.begin() + row);
             endRemoveRows();
         }
         forgetGone(present);

@@ -58,11 +58,14 @@ private:
     QVariant text(const ChangeKey& key, int column) const;
     QVariant sortKey(int row, int column) const;
     bool canEnter(const ChangeKey& key) const;
+    void followList();
     void removeGone(const ChangeKeySet& present);
     void forgetGone(const ChangeKeySet& present);
 
     QPointer<ChangeSource> m_source;
     ChangeKeys m_keys;
+    std::vector<quint64> m_versions; // that were told, of the same rows
+    quint64 m_listVersion = 0;
     ChangeKeySet m_known; // the same
     ChangeKeySet m_ticked;
     mutable std::map<ChangeKey, Shown> m_shown;

@@ -28,6 +28,7 @@ public:
 
     void update() override;
     const ChangeKeys& list() const override { return m_list; }
+    quint64 listVersion() const override { return m_version; }
     Text describe(const ChangeKey& key) const override;
     quint64 versionOf(const ChangeKey& /*key*/) const override { return m_version; }
     qint64 timeOf(const ChangeKey& /*key*/) const override { return 0; }

@@ -94,6 +94,7 @@ void SceneEdits::clear()
     m_places.clear();
     m_announced = nullptr;
     m_isStructureStale = m_isListStale = false;
+    ++m_listVersion;
 }
 
 // --- Hearing of edits
@@ -259,7 +260,7 @@ void SceneEdits::compareFields()
         FieldEntry& entry = m_fields.at(field);
         entry.isStale = false;
         entry.version = ++m_version;
-        m_isListStale = true;
+        m_isListStale |= std::exchange(entry.isNew, false);
         const bool isLost = entry.isElsewhere && entry.count >= 0 && entry.count != countOf(*field);
         if (isLost)
             continue;
@@ -268,6 +269,7 @@ void SceneEdits::compareFields()
         entry.edit->compare();
         if (!entry.edit->isNothing())
             continue;
+        m_isListStale = true;
         auto& fields = m_fieldsOf.at(field->getContainer());
         fields.erase(std::find(fields.begin(), fields.end(), field));
         if (fields.empty())
@@ -419,6 +421,7 @@ bool SceneEdits::wasBelow(const SoNode& node)
 
 void SceneEdits::makeList()
 {
+    ++m_listVersion;
     m_list.clear();
     m_marked.clear();
     std::vector<std::pair<quint64, ChangeKey>> all;

@@ -43,6 +43,7 @@ public:
 
     void update() override;
     const ChangeKeys& list() const override { return m_list; }
+    quint64 listVersion() const override { return m_listVersion; }
     Text describe(const ChangeKey& key) const override;
     quint64 versionOf(const ChangeKey& key) const override;
     qint64 timeOf(const ChangeKey& key) const override;
@@ -73,6 +74,7 @@ private:
         quint64 version = 0;
         qint64 time = 0;
         bool isStale = true;
+        bool isNew = true;        // nobody has looked yet whether it differs
         bool isElsewhere = false; // written by somebody else since
         int count = -1;           // of a list, as edits left it
     };
@@ -156,6 +158,7 @@ private:
     quint64 m_number = 0;
     quint64 m_version = 0;
     quint64 m_structureVersion = 0;
+    quint64 m_listVersion = 0;
     bool m_isStructureStale = false;
     bool m_isListStale = false;
     bool m_isNoticed = false;

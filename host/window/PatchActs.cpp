@@ -4,7 +4,7 @@
 #include "changes/ChangesPanel.h"
 #include "changes/ChangesText.h"
 #include "changes/PatchCommand.h"
-#include "changes/PatchFile.h"
+#include "document/PatchFile.h"
 #include "document/SceneDocument.h"
 #include "services/HostServices.h"
 #include "support/Printable.h"

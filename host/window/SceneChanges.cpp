@@ -97,6 +97,7 @@ void SceneChanges::show()
     m_panel->getView().setFocus();
 }
 
+// Saving does not start it again (decisions.md: changes-since-opening).
 void SceneChanges::start()
 {
     showEdits();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "changes/PatchFile.h"
+#include "document/PatchFile.h"
 
 #include "support/InputFile.h"
 #include "support/OutputFile.h"
