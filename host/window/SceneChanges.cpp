@@ -60,7 +60,7 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFil
 void SceneChanges::makeMenu()
 {
     QMenu& menu = m_panel->getMenu();
-    menu.addAction(tr("&Save as Patch…"), m_patches, &PatchActs::askAndSave);
+    menu.addAction(tr("Wr&ite Patch…"), m_patches, &PatchActs::askAndSave);
     menu.addAction(tr("&Copy as Patch"), m_patches, &PatchActs::copy);
     menu.addAction(tr("Copy as C&++"), m_patches, &PatchActs::copyCpp);
     menu.addAction(tr("Copy as Sce&ne"), m_patches, &PatchActs::copyScene);
