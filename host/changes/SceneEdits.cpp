@@ -207,6 +207,8 @@ void SceneEdits::dyingCallback(void* self, SoFieldContainer* container)
 
 void SceneEdits::forget(const SoFieldContainer* container)
 {
+    if (m_fields.empty() && m_names.empty() && m_groups.empty())
+        return; // as for each node of a scene that goes
     std::vector<FieldEntry> dropped;
     if (const auto found = m_fieldsOf.find(container); found != m_fieldsOf.end()) {
         for (SoField* field : found->second) {
