@@ -70,8 +70,7 @@ bool PatchActs::save(const QString& path)
     }
     const QString error = writePatch(path, m_panel.getModel().getSource()->makePatch(chosen));
     if (error.isEmpty())
-        m_notifier.info(
-            tr("Saved the changes as “%1”.").arg(path));
+        m_notifier.info(tr("Saved the changes as “%1”.").arg(path));
     else
         m_notifier.error(error);
     return error.isEmpty();
