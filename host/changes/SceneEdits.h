@@ -113,6 +113,7 @@ private:
     void clear();
     void noticeLater();
 
+    static bool isLost(const FieldEntry& entry, const SoField& field);
     void compareFields();
     void compareStructure();
     void addRows(const std::vector<SoNode*>& order, const Links& came, const Links& gone);
