@@ -10,6 +10,8 @@ set(SCOPIX_XSG_HEADERS
   SoDebugError.h SoError.h SoErrorHandler.h SoErrorStack.h SoGLError.h SoMemoryError.h SoReadError.h
   # Performance counters
   SoPerfAccumCounter.h SoPerfCounter.h SoPerfCounterManager.h SoPerfFeed.h SoPerfStateCounter.h
+  # Frames
+  SoFrame.h SoFrameCsv.h SoFrameFile.h SoFrameLog.h SoFramePhase.h SoFrameRecording.h SoFrameStatistics.h
   # Preferences, memory, files that are replaced whole
   FileReplacement.h SoPreferences.h SpecialFile.h XsgMalloc.h
   # Fields and what holds them

@@ -6,6 +6,7 @@
 #include "viewport/ViewSurface.h"
 
 #include <xsg/actions/SoAreaPickAction.h>
+#include <xsg/frames/SoFrameLog.h>
 #include <xsg/nodes/base/SoTimeSource.h>
 
 #include <QApplication>
@@ -211,6 +212,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     setUp(renderer);
+    renderer.setFrameLog(&SoFrameLog::getInstance());
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));

@@ -2,6 +2,7 @@
 #include <xsg/render/GeometryStore.h>
 
 #include <xsg/counters/LibraryCounters.h>
+#include <xsg/frames/SoFramePhase.h>
 #include <xsg/render/Shader.h>
 
 #include <algorithm>
@@ -53,6 +54,7 @@ xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& s
 
 void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
 {
+    const SoFramePhase phase(SoFrame::Upload);
     to.kind = g.kind;
     to.indexCount = static_cast<GLsizei>(g.index.size());
     to.pointCount = static_cast<std::int64_t>(g.points.size());

@@ -61,6 +61,7 @@ SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* came
         drop();
         return Progress::Failed;
     }
+    frameMeter.beginPiece(begins);
     m_shader.setViewPlane(clipPlane ? &*clipPlane : nullptr);
     m_state.begin(width, height, m_headlights);
     m_pacer.begin();
@@ -69,6 +70,7 @@ SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* came
     const bool isFinished = !root || drawScene(root, camera, m_restarts < MostRestarts ? until : Time::max());
     m_state.end();
     m_messages.collect("SoRenderer");
+    frameMeter.endPiece();
     statistics.seconds += time.getElapsed();
     if (!isFinished)
         return Progress::Unfinished;
@@ -76,6 +78,7 @@ SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* came
     drop();
     m_restarts = 0;
     feedCounters(statistics);
+    frameMeter.file(statistics);
     return Progress::Finished;
 }
 
@@ -139,6 +142,7 @@ bool SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, Time unti
 
 void SoRenderer::Impl::beginDrawing(const SoCamera* camera)
 {
+    const SoFramePhase phase(SoFrame::Cull);
     m_changes = m_updater.takeChanges();
     m_eye = lookThrough(camera, m_width, m_height);
     const xsg::Frustum frustum(m_eye.viewProjection);
@@ -224,6 +228,7 @@ SoRenderer::Impl::Uploads SoRenderer::Impl::countUploads() const
 // False where the time is up.
 bool SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera, Time until)
 {
+    const SoFramePhase phase(SoFrame::Traverse);
     m_updater.setHiding(hiding);
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
@@ -287,6 +292,7 @@ void SoRenderer::Impl::releaseGL()
 {
     drop();
     m_pacer.end();
+    frameMeter.release();
     m_updater.clear();
     m_outline.release();
     m_overlayPainter.release();

@@ -89,6 +89,11 @@ bool SoRenderer::wantsDebugContext()
     return xsg::GlMessages::areWanted();
 }
 
+void SoRenderer::setFrameLog(SoFrameLog* log)
+{
+    m_impl->frameMeter.setLog(log);
+}
+
 SoOverlay& SoRenderer::getOverlay()
 {
     return m_impl->overlay;

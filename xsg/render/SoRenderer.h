@@ -15,6 +15,7 @@
 #include <vector>
 
 class SoCamera;
+class SoFrameLog;
 class SoHiding;
 class SoNode;
 
@@ -91,6 +92,10 @@ public:
     /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
     /// otherwise.
     static bool wantsDebugContext();
+
+    /// Files what each picture costs, while the log is on; it must outlive the pictures. Null, as at first:
+    /// nowhere.
+    void setFrameLog(SoFrameLog* log);
 
     /// A light beside the eye in scenes without a light of their own; on from the start.
     void setHeadlight(bool on);

@@ -5,6 +5,7 @@
 #include <xsg/render/DrawPacer.h>
 #include <xsg/render/DrawState.h>
 #include <xsg/render/EyeView.h>
+#include <xsg/render/FrameMeter.h>
 #include <xsg/render/GlMessages.h>
 #include <xsg/render/InstanceList.h>
 #include <xsg/render/Outline.h>
@@ -56,6 +57,7 @@ public:
     bool headlight = true;
     SoOverlay overlay;
     const SoHiding* hiding = nullptr;
+    xsg::FrameMeter frameMeter;
     std::string error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }

@@ -2,6 +2,7 @@
 #include <xsg/render/TextureStore.h>
 
 #include <xsg/errors/SoError.h>
+#include <xsg/frames/SoFramePhase.h>
 
 #include <algorithm>
 
@@ -74,6 +75,7 @@ void xsg::TextureStore::forget(GpuTexture& texture)
 
 void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture& to)
 {
+    const SoFramePhase phase(SoFrame::Upload);
     GLint largest = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
     SoImageSize whole;

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "xsg/render/Picture.h"
+
+#include <xsg/frames/SoFrameLog.h>
+#include <xsg/nodes/shapes/SoCube.h>
+
+namespace
+{
+
+class LoggedPicture : public Picture
+{
+protected:
+    LoggedPicture()
+    {
+        log.addUser();
+        renderer().getRenderer().setFrameLog(&log);
+    }
+    ~LoggedPicture() override { renderer().getRenderer().setFrameLog(nullptr); }
+
+    SoFrame last() const
+    {
+        SoFrame frame;
+        EXPECT_TRUE(log.get(log.getLast(), frame));
+        return frame;
+    }
+    SoFrameLog log;
+};
+
+} // namespace
+
+TEST_F(LoggedPicture, HasTheFiguresOfTheRenderer)
+{
+    add<SoCube>();
+    draw();
+    const SoRenderer::Statistics& counted = renderer().getRenderer().getStatistics();
+    const SoFrame frame = last();
+    EXPECT_EQ(log.getLast(), 1U);
+    EXPECT_EQ(frame[SoFrame::Triangles], 12);
+    EXPECT_EQ(frame[SoFrame::DrawCalls], counted.drawCalls);
+    EXPECT_EQ(frame[SoFrame::StateChanges], counted.stateChanges);
+    EXPECT_EQ(frame[SoFrame::Uploads], counted.bufferUploads);
+    EXPECT_GT(frame[SoFrame::Uploads], 0);
+    EXPECT_EQ(frame[SoFrame::UploadedBytes], counted.uploadedBytes);
+    EXPECT_EQ(frame[SoFrame::NodesVisited], counted.nodes);
+    EXPECT_LE(static_cast<double>(frame[SoFrame::Whole]) * 1e-9, counted.seconds);
+    draw();
+    EXPECT_EQ(last()[SoFrame::Uploads], 0);
+}
+
+TEST_F(LoggedPicture, TellsWhatEachPhaseTook)
+{
+    add<SoCube>();
+    draw();
+    const SoFrame frame = last();
+    std::int64_t sum = 0;
+    for (int phase = SoFrame::Update; phase <= SoFrame::Draw; ++phase)
+        sum += frame.figures[static_cast<std::size_t>(phase)];
+    EXPECT_EQ(frame[SoFrame::Whole], sum);
+    for (const SoFrame::Figure phase : {SoFrame::Traverse, SoFrame::Cull, SoFrame::Upload, SoFrame::Draw})
+        EXPECT_GT(frame[phase], 0) << SoFrame::getName(phase);
+}
+
+// The answer for a picture comes with a later one.
+TEST_F(LoggedPicture, LearnsTheTimeOfTheGraphicsCard)
+{
+    add<SoCube>();
+    draw();
+    SoFrame first;
+    do {
+        draw();
+        ASSERT_TRUE(log.get(1, first)) << "no answer";
+    } while (first[SoFrame::Gpu] == SoFrame::Unknown);
+    EXPECT_GT(first[SoFrame::Gpu], 0);
+}
+
+TEST_F(LoggedPicture, IsOneFrameAlsoWhereItIsDrawnInPieces)
+{
+    for (int i = 0; i < 300; ++i)
+        add<SoCube>();
+    SoPixels pixels;
+    int pieces = 0;
+    using Progress = SoRenderer::Progress;
+    Progress progress = Progress::Unfinished;
+    for (; progress == Progress::Unfinished; ++pieces)
+        progress = renderer().renderPart(root.get(), camera.get(), 64, 64, {}, pixels);
+    EXPECT_EQ(progress, Progress::Finished);
+    EXPECT_EQ(log.getLast(), 1U);
+}
+
+TEST_F(LoggedPicture, IsNotFiledWhileTheLogIsOff)
+{
+    log.removeUser();
+    add<SoCube>();
+    draw();
+    EXPECT_EQ(log.getLast(), 0U);
+}
