@@ -47,8 +47,8 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/" DESTINATION "${CMAKE_INSTALL_DAT
 file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/share/scopix")
 file(CREATE_LINK "${PROJECT_SOURCE_DIR}/docs" "${PROJECT_BINARY_DIR}/share/scopix/docs" SYMBOLIC)
 
-set_target_properties(SpxDefaults SpxInspector PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
-install(TARGETS SpxDefaults SpxInspector LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
+set_target_properties(SpxDefaults SpxInspector SpxProfiler PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
+install(TARGETS SpxDefaults SpxInspector SpxProfiler LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ScopixConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake"

@@ -20,6 +20,7 @@
 #include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
+#include "window/FrameMarks.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
 #include "window/NodeEditing.h"
@@ -131,6 +132,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     new ReloadBar(m_files, *m_view);
     new FieldMenu(*m_fields, m_services);
+    new FrameMarks(m_services, m_files.getDocument(), this);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));

@@ -271,3 +271,41 @@ TEST_F(Commands, AClosedPipeIsNoReasonToGoOn)
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.said, "The output could not be written to its end.");
 }
+
+TEST_F(Commands, MeasureCountsAsOthersDo)
+{
+    const Outcome outcome = run({"measure", "lamp.xsg", "--frames", "12", "--json", "-o", "kept.xsgframes"});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.said);
+    const QJsonObject json = QJsonDocument::fromJson(outcome.out).object();
+    EXPECT_EQ(json["frames"].toInt(), 12);
+    const QJsonObject figures = json["figures"].toObject();
+    const QJsonObject stats = QJsonDocument::fromJson(run({"stats", "--json", "lamp.xsg"}).out).object();
+    EXPECT_EQ(figures["Triangles"].toObject()["median"].toDouble(), stats["triangles"].toDouble());
+    EXPECT_GT(figures["Whole"].toObject()["median"].toDouble(), 0);
+    EXPECT_EQ(figures["Whole"].toObject()["unit"].toString(), "ms");
+    EXPECT_EQ(figures["Uploads"].toObject()["median"].toDouble(), 0);
+    EXPECT_TRUE(QFile::exists(folder.filePath("kept.xsgframes")));
+}
+
+TEST_F(Commands, MeasureSaysSlowerByItsExitStatus)
+{
+    ASSERT_EQ(run({"measure", "lamp.xsg", "--frames", "40", "-o", "old.xsgframes"}).status, 0);
+    // Two thousand bodies take longer than three, on any machine.
+    QByteArray cubes;
+    for (int i = 0; i < 2000; ++i)
+        cubes += "    Cube { width: " + QByteArray::number(i + 1) + " }\n";
+    write("slow.xsg", lamp().replace("    PointLight {}\n", "    PointLight {}\n" + cubes));
+    const Outcome slower =
+        run({"measure", "slow.xsg", "--frames", "40", "--against", "old.xsgframes", "--json"});
+    EXPECT_EQ(slower.status, 1) << qPrintable(slower.said);
+    const QJsonObject against = QJsonDocument::fromJson(slower.out).object()["against"].toObject();
+    EXPECT_TRUE(against["slower"].toBool());
+    EXPECT_LT(against["Whole"].toObject()["chance"].toDouble(), 0.01);
+}
+
+TEST_F(Commands, MeasureRefusesWhatIsNoRecording)
+{
+    expectRefusal({"measure", "lamp.xsg", "--against", "lamp.xsg"}, "it is no recording of frames");
+    expectRefusal({"measure", "lamp.xsg", "--frames", "0"}, "--frames expects a number");
+    expectRefusal({"measure", "lamp.xsg", "--frames", "1", "-o", "/dev/null"}, "cannot be written");
+}
