@@ -40,13 +40,15 @@ set(SCOPIX_XSG_HEADERS
   SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
   # Actions
-  SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  SoAreaPickAction.h SoBoundingBoxAction.h SoHiding.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
   # Names of places
   SoScenePath.h
   # Drawing
   SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
+  # What branches cost
+  SoCostMeter.h SoCosts.h
   # Scene files
   SoSceneFile.h
   # The library as a whole

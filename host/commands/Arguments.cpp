@@ -118,4 +118,12 @@ bool readNumber(const std::string& text, int lowest, int highest, int& number)
     return true;
 }
 
+bool readSize(const std::string& text, int& width, int& height)
+{
+    constexpr int LargestSide = 16384;
+    const std::size_t cross = text.find('x');
+    return cross != std::string::npos && readNumber(text.substr(0, cross), 1, LargestSide, width) &&
+           readNumber(text.substr(cross + 1), 1, LargestSide, height);
+}
+
 } // namespace scopix

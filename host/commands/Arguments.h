@@ -56,5 +56,7 @@ std::string helpOf(const Command& command);
 
 /// A number that is typed as an option's value; false where it is none, or outside.
 bool readNumber(const std::string& text, int lowest, int highest, int& number);
+/// A size in pixels, as in "800x600".
+bool readSize(const std::string& text, int& width, int& height);
 
 } // namespace scopix

@@ -145,18 +145,21 @@ const std::vector<Command>& allCommands()
          countScene},
         {"measure",
          "FILE",
-         "Draws a scene or model at 800x600 and prints what a frame costs; needs no display. The first ten "
+         "Draws a scene or model and prints what a frame costs; needs no display. The first ten "
          "frames are not counted. With --against, medians are compared by the test of Mann and Whitney: "
          "slower is what takes 5 % longer and would be so by chance less than once in a hundred.",
          1,
          1,
-         {{"frames", "N", "How many frames, from 1 to 3000; 300 at first."},
+         {{"frames", "N", "How many frames, from 1 to 3000; 120 at first."},
+          {"size", "WxH", "The size in pixels; 800x600 at first, or that of OLD."},
           {"against", "OLD", "Compares with this recording."},
           {"o", "OUT", "Keeps the frames as a recording."},
           Json},
-         {{"scopix measure lamp.xsg", "a table: phases, graphics card, draw calls and more"},
-          {"scopix measure lamp.xsg -o before.xsgframes", "keeps them for a comparison"},
-          {"scopix measure lamp.xsg --against before.xsgframes", "whether it became slower"}},
+         {{"scopix measure lamp.xsg --frames 20 --size 80x60",
+           "a table: phases, graphics card, draw calls and more"},
+          {"scopix measure lamp.xsg --frames 20 --size 80x60 -o before.xsgframes",
+           "keeps them for a comparison"},
+          {"scopix measure lamp.xsg --frames 20 --against before.xsgframes", "whether it became slower"}},
          "0, 1 where it is slower than OLD",
          measureScene},
     };

@@ -27,8 +27,6 @@ namespace
 
 constexpr int FirstFrames = 10; // which fill caches, and are left out
 constexpr int MostFrames = 3000;
-constexpr int Width = 800;
-constexpr int Height = 600;
 constexpr double FrameSeconds = 1.0 / 60;
 // Less than this between two runs is the machine's mood, however certain.
 constexpr double LeastChange = 0.05;
@@ -58,9 +56,17 @@ void letTimePass(SoNode* root, SoFrameLog& log)
     SoSensorQueue::getInstance().process();
 }
 
+/// What is measured.
+struct Wanted {
+    int frames = 120;
+    int width = 800;
+    int height = 600;
+};
+
 // False, and said, where it cannot be drawn.
-bool measure(SoNode* root, int frames, SoFrameRecording& recording)
+bool measure(SoNode* root, const Wanted& wanted, SoFrameRecording& recording)
 {
+    const int frames = wanted.frames;
     SoFrameLog log;
     SoOffscreenRenderer renderer;
     renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
@@ -68,7 +74,7 @@ bool measure(SoNode* root, int frames, SoFrameRecording& recording)
     SoPixels pixels;
     const auto draw = [&] {
         letTimePass(root, log);
-        return renderer.render(root, nullptr, Width, Height, pixels);
+        return renderer.render(root, nullptr, wanted.width, wanted.height, pixels);
     };
     bool isDrawn = true;
     for (int i = 0; i < FirstFrames && isDrawn; ++i)
@@ -90,10 +96,10 @@ bool measure(SoNode* root, int frames, SoFrameRecording& recording)
 }
 
 // What the measured frames are of, and when.
-void describe(const std::string& file, SoFrameRecording& recording)
+void describe(const std::string& file, const Wanted& wanted, SoFrameRecording& recording)
 {
     recording.setAbout("scene", file);
-    recording.setAbout("size", std::to_string(Width) + "x" + std::to_string(Height));
+    recording.setAbout("size", std::to_string(wanted.width) + "x" + std::to_string(wanted.height));
     recording.setAbout("program", "scopix measure " + QCoreApplication::applicationVersion().toStdString());
     recording.setAbout("began", QDateTime::currentDateTimeUtc().toString(Qt::ISODate).toStdString());
 }
@@ -240,26 +246,38 @@ bool keep(const std::string& path, const SoFrameRecording& recording)
     return false;
 }
 
+// False, and said, where they make no sense. Compared pictures are of one size, unless it is said.
+bool take(const Arguments& arguments, const SoFrameRecording& old, Wanted& wanted)
+{
+    std::string problem;
+    readSize(old.getAbout("size"), wanted.width, wanted.height);
+    if (arguments.has("size") && !readSize(arguments.get("size"), wanted.width, wanted.height))
+        problem = "--size expects WxH, such as 800x600, each from 1 to 16384, and not \"" +
+                  arguments.get("size") + "\".";
+    if (arguments.has("frames") && !readNumber(arguments.get("frames"), 1, MostFrames, wanted.frames))
+        problem = "--frames expects a number from 1 to 3000, and not \"" + arguments.get("frames") + "\".";
+    if (!problem.empty())
+        complain("measure: " + problem);
+    return problem.empty();
+}
+
 } // namespace
 
 int measureScene(const Arguments& arguments)
 {
-    int frames = 300;
-    if (arguments.has("frames") && !readNumber(arguments.get("frames"), 1, MostFrames, frames)) {
-        complain("measure: --frames expects a number from 1 to 3000, and not \"" + arguments.get("frames") +
-                 "\".");
-        return Failed;
-    }
     SoFrameRecording old;
+    Wanted wanted;
     if (arguments.has("against") && !readOld(arguments.get("against"), old))
+        return Failed;
+    if (!take(arguments, old, wanted))
         return Failed;
     const SoRef<SoNode> root = loadOrComplain(arguments.values[0]);
     std::vector<std::string> notes;
     const PostedNotes posted(notes);
     SoFrameRecording recording;
-    if (!root || !measure(root.get(), frames, recording))
+    if (!root || !measure(root.get(), wanted, recording))
         return Failed;
-    describe(arguments.values[0], recording);
+    describe(arguments.values[0], wanted, recording);
     if (arguments.has("o") && !keep(arguments.get("o"), recording))
         return Failed;
     const std::vector<Compared> compared = compare(old, recording);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Profiler.h"
 
+#include "cost/CostDock.h"
 #include "frames/FramesDock.h"
 
 #include <scopix/SpxPluginNote.h>
@@ -21,13 +22,14 @@ Profiler::Profiler()
 {
     setName("Profiler");
     setVendor("Arvex");
-    setDescription("Shows what each frame cost.");
+    setDescription("Shows what frames and branches cost.");
     setVersion("1.0.0");
 }
 
 bool Profiler::load()
 {
     m_owned.push_back(std::make_unique<FramesDock>());
+    m_owned.push_back(std::make_unique<CostDock>());
     for (const auto& extension : m_owned)
         addExtension(extension.get());
     return SpxPlugin::load();

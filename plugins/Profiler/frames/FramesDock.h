@@ -1,38 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <scopix/SpxExtension.h>
-
-#include <QPointer>
-
-class QDockWidget;
+#include "PanelDock.h"
 
 namespace profiler
 {
 
-class FramesPanel;
-
-/// The dock "Frames" below the 3D view. It is hidden at first; while it is, frames are not measured.
-class FramesDock : public SpxExtension
+/// The dock "Frames". While it is hidden, frames are not measured, unless a recording is written.
+class FramesDock : public PanelDock
 {
     Q_OBJECT
 
 public:
     FramesDock();
-    ~FramesDock() override;
 
-    void load() override;
-    void unload() override;
-    void activate() override;
-    void deactivate() override;
-    void show() override;
-    void hide() override;
-
-    FramesPanel* getPanel() const;
-
-private:
-    QPointer<QDockWidget> m_dock; // the extension's own, also while the shell is its parent
-    QPointer<FramesPanel> m_panel;
+protected:
+    QWidget* makePanel() override;
 };
 
 } // namespace profiler

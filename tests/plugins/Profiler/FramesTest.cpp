@@ -231,6 +231,41 @@ TEST_F(FramesWidget, ARecordingThatCannotBeWrittenOrReadIsRefusedInASentence)
     EXPECT_FALSE(RecordingFiles::write("/dev/null", recording).isEmpty());
 }
 
+// SCOPIX_PICTURES=docs/pictures makes the picture of the page on frames.
+TEST_F(FramesWidget, PhasesAndCurvesCanBeToldApart)
+{
+    ASSERT_TRUE(panel->addCurve("rate(Triangles)"));
+    ASSERT_TRUE(panel->addCurve("mean(Whole, 500 ms)"));
+    bars().setBarWidth(6);
+    for (int i = 0; i < 150; ++i) {
+        SoFrame frame;
+        const bool isSlow = i == 110;
+        if (isSlow)
+            log.mark("Change Sea.quality");
+        frame[SoFrame::Begin] = isSlow ? SoFrameLog::now() : time + i * 16'000'000;
+        const std::int64_t spent[] = {400'000 + i % 7 * 90'000, isSlow ? 9'000'000 : 1'100'000, 500'000,
+                                      isSlow ? 11'000'000 : 100'000, 3'000'000 + i % 11 * 300'000};
+        for (std::size_t phase = 0; phase < SoFrame::NumPhases; ++phase) {
+            frame.figures[SoFrame::Update + phase] = spent[phase];
+            frame[SoFrame::Whole] += spent[phase];
+        }
+        frame[SoFrame::Gpu] = 5'000'000;
+        frame[SoFrame::Triangles] = 20'000 + i % 40 * 500;
+        log.add(frame);
+    }
+    panel->getStore().takeNow();
+    bars().choose(110);
+    const QImage picture = panel->grab().toImage();
+    const QRect bar = bars().getBar(111);
+    QSet<QRgb> colors;
+    const QImage own = bars().grab().toImage();
+    for (int y = bar.top(); y <= bar.bottom(); ++y)
+        colors += own.pixel(bar.center().x(), y);
+    EXPECT_GE(colors.size(), 6); // the ground and the phases
+    const QByteArray folder = qgetenv("SCOPIX_PICTURES");
+    EXPECT_TRUE(folder.isEmpty() || picture.save(QString::fromLocal8Bit(folder) + "/frames.png"));
+}
+
 namespace
 {
 
