@@ -60,7 +60,7 @@ public:
                 lookAtShapes(branch);
             if (isSmallest(i, &SoBranchCost::triangles, ManyTriangles))
                 lookAtTriangles(branch);
-            if (branch.isUnseen)
+            if (branch.isUnseen && !isBelowUnseen(branch))
                 addUnseen(branch);
         }
         findEqual<SoMaterial>(SoCostHint::EqualMaterials,
@@ -75,6 +75,10 @@ public:
 private:
     const SoBranchCost& root() const { return m_costs.branches.front(); }
 
+    bool isBelowUnseen(const SoBranchCost& branch) const
+    {
+        return branch.parent >= 0 && m_costs.branches[static_cast<std::size_t>(branch.parent)].isUnseen;
+    }
     bool isLarge(const SoBranchCost& branch, std::int64_t SoBranchCost::*count, std::int64_t many) const
     {
         return branch.*count >= many &&

@@ -67,6 +67,7 @@ CostPanel::CostPanel(QWidget* parent)
     , m_hints(new QListWidget)
 {
     m_button->setObjectName(QStringLiteral("measureCost"));
+    m_button->setMinimumWidth(m_button->sizeHint().width());
     m_figure->addItems({tr("Areas: time"), tr("Areas: triangles"), tr("Areas: memory"), tr("Areas: bodies")});
     m_figure->setAccessibleName(tr("What the areas tell"));
     m_line->setObjectName(QStringLiteral("costLine"));

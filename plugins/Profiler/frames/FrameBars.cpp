@@ -32,11 +32,17 @@ std::vector<const SoFrameColumn*> phasesOf(const SoFrameRecording& frames)
     return columns;
 }
 
+// Three digits at least, without zeros at the end.
 QString numberText(double value)
 {
     const double size = std::abs(value);
-    const int decimals = size >= 100 || value == std::floor(value) ? 0 : size >= 10 ? 1 : 2;
-    return QLocale::c().toString(value, 'f', decimals);
+    const int decimals = size >= 99.95 ? 0 : size >= 9.995 ? 1 : 2;
+    const bool isLong = size >= 10'000;
+    QString text =
+        isLong ? QLocale(QLocale::English).toString(value, 'f', 0) : QString::number(value, 'f', decimals);
+    while (text.contains('.') && (text.endsWith('0') || text.endsWith('.')))
+        text.chop(1);
+    return text;
 }
 
 } // namespace
@@ -53,6 +59,8 @@ QString readable(double value, const QString& unit)
         return numberText(value / 1e6) + QStringLiteral(" MB") + rest;
     if (unit.startsWith('B') && size >= 1e3)
         return numberText(value / 1e3) + QStringLiteral(" kB") + rest;
+    if (size >= 1e6)
+        return numberText(value / 1e6) + QStringLiteral(" M") + unit;
     return unit.isEmpty() ? numberText(value) : numberText(value) + ' ' + unit;
 }
 

@@ -52,10 +52,13 @@ FramesPanel::FramesPanel(SoFrameLog& log, QWidget* parent)
     auto* bar = new QToolBar;
     bar->setIconSize({16, 16});
     makeActions(*bar);
-    makeCurveInput(*bar);
+    makeCurveInput();
     layout->addWidget(bar);
     layout->addWidget(m_bars, 1);
-    layout->addLayout(m_legend);
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_input);
+    line->addLayout(m_legend, 1);
+    layout->addLayout(line);
     m_summary = addLine(*layout, QStringLiteral("framesSummary"));
     m_details = addLine(*layout, QStringLiteral("frameDetails"));
     m_bars->setBarWidth(ProfilerSettings::barWidth());
@@ -116,9 +119,8 @@ void FramesPanel::makeActions(QToolBar& bar)
     });
 }
 
-void FramesPanel::makeCurveInput(QToolBar& bar)
+void FramesPanel::makeCurveInput()
 {
-    bar.addSeparator();
     m_input = new QComboBox;
     m_input->setObjectName(QStringLiteral("curveInput"));
     m_input->setEditable(true);
@@ -128,7 +130,6 @@ void FramesPanel::makeCurveInput(QToolBar& bar)
     m_input->lineEdit()->setPlaceholderText(tr("Counter or formula, as in rate(Triangles)"));
     m_input->setToolTip(tr("A counter, or a formula such as Triangles / DrawCalls, rate(x) or mean(x, 2s)"));
     fillCounters();
-    bar.addWidget(m_input);
     connect(m_input->lineEdit(), &QLineEdit::returnPressed, this, &FramesPanel::enterCurve);
     connect(m_input, QOverload<int>::of(&QComboBox::activated), this, &FramesPanel::enterCurve);
 }

@@ -38,7 +38,7 @@ protected:
 
 private:
     void makeActions(QToolBar& bar);
-    void makeCurveInput(QToolBar& bar);
+    void makeCurveInput();
     void fillCounters();
     void computeCurves();
     void rebuildLegend();

@@ -10,6 +10,7 @@
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 #include <QLabel>
 #include <QListWidget>
@@ -30,8 +31,12 @@ protected:
     {
         large->setName("Large");
         root->addChild(large);
-        for (int i = 0; i < 8; ++i)
+        for (int i = 0; i < 8; ++i) {
+            auto* aside = new SoTransform;
+            aside->translation.setValue(SbVec3f(2.5F, static_cast<float>(i % 2), 0));
+            large->addChild(aside);
             large->addChild(new SoSphere);
+        }
         root->addChild(small);
         small->addChild(new SoCube);
         static_cast<MainWindow&>(session.host.window()).setScene(root.get(), "test");
@@ -95,6 +100,8 @@ TEST_F(CostWidget, AnAreaChoosesItsBranchAndTellsWhatWouldBeWithoutIt)
     EXPECT_EQ(tree->currentItem()->text(0), "Large");
     EXPECT_TRUE(line().startsWith(QString::fromUtf8("Without “Large” a picture would take")))
         << qPrintable(line());
+    const QByteArray folder = qgetenv("SCOPIX_PICTURES"); // where the picture of the page goes
+    EXPECT_TRUE(folder.isEmpty() || panel.grab().save(QString::fromLocal8Bit(folder) + "/cost.png"));
     emit tree->itemActivated(tree->currentItem(), 0);
     EXPECT_EQ(session.host.services().selectedNode(), large);
 }

@@ -65,6 +65,19 @@ QColor colorAt(QWidget& widget, const QPoint& place)
 
 } // namespace
 
+TEST_F(FramesWidget, NumbersHaveAUnitThatFitsTheirSize)
+{
+    EXPECT_EQ(readable(0.1, "ms"), "0.1 ms");
+    EXPECT_EQ(readable(0.034, "ms"), QString::fromUtf8("34 µs"));
+    EXPECT_EQ(readable(16.667, "ms"), "16.7 ms");
+    EXPECT_EQ(readable(2'500'000, "B"), "2.5 MB");
+    EXPECT_EQ(readable(1999, "B/s"), "2 kB/s");
+    EXPECT_EQ(readable(2840027.3, "/s"), "2.84 M/s");
+    EXPECT_EQ(readable(284002.3, "/s"), "284,002 /s");
+    EXPECT_EQ(readable(7000, ""), "7000");
+    EXPECT_EQ(readable(std::nan(""), "ms"), QString::fromUtf8("–"));
+}
+
 TEST_F(FramesWidget, MeasuresOnlyWhileItIsSeen)
 {
     EXPECT_TRUE(log.isOn());
@@ -237,12 +250,15 @@ TEST_F(FramesWidget, PhasesAndCurvesCanBeToldApart)
     ASSERT_TRUE(panel->addCurve("rate(Triangles)"));
     ASSERT_TRUE(panel->addCurve("mean(Whole, 500 ms)"));
     bars().setBarWidth(6);
+    time = SoFrameLog::now() - 111 * 16'000'000;
     for (int i = 0; i < 150; ++i) {
         SoFrame frame;
         const bool isSlow = i == 110;
-        if (isSlow)
+        if (isSlow) {
             log.mark("Change Sea.quality");
-        frame[SoFrame::Begin] = isSlow ? SoFrameLog::now() : time + i * 16'000'000;
+            time = SoFrameLog::now() - 16'000'000;
+        }
+        frame[SoFrame::Begin] = time += 16'000'000;
         const std::int64_t spent[] = {400'000 + i % 7 * 90'000, isSlow ? 9'000'000 : 1'100'000, 500'000,
                                       isSlow ? 11'000'000 : 100'000, 3'000'000 + i % 11 * 300'000};
         for (std::size_t phase = 0; phase < SoFrame::NumPhases; ++phase) {

@@ -192,5 +192,8 @@ TEST(CostMeter, MeasuresBranchesAndTellsWhatIsNotSeen)
     EXPECT_FALSE(costs.find(nothing)->isMeasured);
     EXPECT_TRUE(costs.find(behind)->isUnseen);
     EXPECT_FALSE(costs.find(front)->isUnseen);
-    EXPECT_EQ(findCostHints(costs, Width, Height).front().kind, SoCostHint::Unseen);
+    const std::vector<SoCostHint> hints = findCostHints(costs, Width, Height);
+    ASSERT_EQ(hints.size(), 1U); // and not the mesh in it once more
+    EXPECT_EQ(hints.front().kind, SoCostHint::Unseen);
+    EXPECT_EQ(hints.front().node.get(), behind);
 }
