@@ -16,7 +16,7 @@ FrameMarks::FrameMarks(HostServices& services, const SceneDocument& document, QO
 {
     connect(&services.undoStack(), &QUndoStack::indexChanged, this, &FrameMarks::stepsChanged);
     connect(&services, &SpxServices::selectedNodeChanged, this, [](const SoFieldContainer* node) {
-        if (node)
+        if (node && SoFrameLog::getInstance().isOn())
             mark(tr("Select %1").arg(nodeText(*node)));
     });
     connect(&document, &SceneDocument::rootChanged, this,

@@ -31,13 +31,21 @@ std::uint32_t checksum(std::string_view bytes)
     return sum;
 }
 
+std::string checksumBytes(std::string_view bytes)
+{
+    const std::uint32_t sum = checksum(bytes);
+    std::string text;
+    for (std::size_t i = 0; i < ChecksumBytes; ++i)
+        text += static_cast<char>(sum >> (8 * i));
+    return text;
+}
+
 void putBlock(std::string& to, char kind, const std::string& content)
 {
     const std::string block = kind + content;
     FrameBytes::put(to, block.size());
     to += block;
-    for (std::size_t i = 0; i < ChecksumBytes; ++i)
-        to += static_cast<char>(checksum(block) >> (8 * i));
+    to += checksumBytes(block);
 }
 
 std::string headOf(const SoFrameRecording& recording)
@@ -142,13 +150,8 @@ std::string_view nextBlock(FrameBytes& bytes)
 {
     const std::string_view block = bytes.getBytes(bytes.get());
     const std::string_view sum = bytes.getBytes(ChecksumBytes);
-    if (!bytes.isGood() || block.empty())
-        return {};
-    for (std::size_t i = 0; i < ChecksumBytes; ++i) {
-        if (sum[i] != static_cast<char>(checksum(block) >> (8 * i)))
-            return {};
-    }
-    return block;
+    const bool isWhole = bytes.isGood() && !block.empty() && sum == checksumBytes(block);
+    return isWhole ? block : std::string_view();
 }
 
 bool takeBlock(std::string_view block, SoFrameRecording& to)

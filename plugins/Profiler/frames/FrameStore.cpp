@@ -98,8 +98,10 @@ void FrameStore::chooseCounters()
 
 void FrameStore::timerEvent(QTimerEvent* event)
 {
-    if (event->timerId() == m_timer.timerId())
-        take(HeldBack);
+    if (event->timerId() != m_timer.timerId())
+        return;
+    take(HeldBack);
+    follow(); // a recording may have ended by itself
 }
 
 void FrameStore::takeNow()

@@ -79,6 +79,12 @@ FramesPanel::FramesPanel(SoFrameLog& log, QWidget* parent)
     showWords();
 }
 
+// The store takes what is left at its end, when nothing here can show it any more.
+FramesPanel::~FramesPanel()
+{
+    m_store.disconnect();
+}
+
 void FramesPanel::makeActions(QToolBar& bar)
 {
     m_pause = bar.addAction(tr("Pause"));

@@ -24,6 +24,7 @@ class FramesPanel : public QWidget
 
 public:
     explicit FramesPanel(SoFrameLog& log, QWidget* parent = nullptr);
+    ~FramesPanel() override;
 
     FrameStore& getStore() { return m_store; }
     FrameBars& getBars() { return *m_bars; }

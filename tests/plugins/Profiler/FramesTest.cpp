@@ -85,6 +85,15 @@ TEST_F(FramesWidget, MeasuresOnlyWhileItIsSeen)
     EXPECT_FALSE(log.isOn());
 }
 
+TEST_F(FramesWidget, MayEndWithFramesThatNobodyHasSeen)
+{
+    ASSERT_TRUE(panel->addCurve("Triangles"));
+    for (int i = 0; i < 50; ++i)
+        add(1);
+    panel.reset();
+    EXPECT_FALSE(log.isOn());
+}
+
 TEST_F(FramesWidget, SummarizesWhatIsInSight)
 {
     for (int i = 1; i <= 100; ++i)
