@@ -55,6 +55,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_shell.setGuide(
         [this](const QString& query) { m_window->findInScene(query); },
         [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
+    m_shell.setLook([this] { return m_window->viewLook(); });
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     addFoldAction();

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 class QMenu;
+class SoCamera;
 
 namespace scopix
 {
@@ -31,6 +32,9 @@ public:
     virtual void findInScene(const QString& /*query*/) {}
     /// As SpxGuide::showHelp().
     virtual bool showHelp(const QString& /*page*/, const QString& /*section*/) { return false; }
+
+    /// The 3D view's camera, and its size in pixels of the screen; null and none without a view.
+    virtual std::pair<const SoCamera*, QSize> viewLook() const { return {}; }
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.

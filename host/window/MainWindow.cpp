@@ -383,6 +383,11 @@ void MainWindow::findInScene(const QString& query)
     m_scenePanel->find(query);
 }
 
+std::pair<const SoCamera*, QSize> MainWindow::viewLook() const
+{
+    return {&m_view->getCamera(), m_view->size() * m_view->devicePixelRatioF()};
+}
+
 bool MainWindow::showHelp(const QString& page, const QString& section)
 {
     if (!m_help)

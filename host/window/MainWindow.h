@@ -62,6 +62,7 @@ public:
     SoPath selectedPath() const override;
     SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
+    std::pair<const SoCamera*, QSize> viewLook() const override;
     void openFile(const QString& path) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;

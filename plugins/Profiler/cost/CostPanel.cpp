@@ -5,6 +5,7 @@
 #include "frames/FrameBars.h"
 
 #include <scopix/SpxSceneServices.h>
+#include <scopix/SpxViewLook.h>
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -118,8 +119,12 @@ void CostPanel::measure()
 {
     clear();
     SpxSceneServices* services = SpxSceneServices::getInstance();
-    if (SoNode* root = services ? services->getSceneRoot() : nullptr)
-        m_run.start(root);
+    SoNode* root = services ? services->getSceneRoot() : nullptr;
+    const SpxViewLook* look = SpxViewLook::getInstance();
+    const bool hasView = look && look->getViewCamera() && !look->getViewSize().isEmpty();
+    if (root)
+        m_run.start(root, hasView ? look->getViewCamera() : nullptr,
+                    hasView ? look->getViewSize() : QSize(800, 600));
     else
         m_line->setText(tr("The cost cannot be told: no scene is open; open one first."));
 }
@@ -189,7 +194,7 @@ void CostPanel::fillTree()
 
 void CostPanel::fillHints()
 {
-    m_found = findCostHints(m_run.getCosts(), CostRun::Width, CostRun::Height);
+    m_found = findCostHints(m_run.getCosts(), m_run.getSize().width(), m_run.getSize().height());
     for (const SoCostHint& hint : m_found)
         m_hints->addItem(tr("“%1”: %2").arg(nameOf(*hint.node), QString::fromStdString(hint.sentence)));
     if (m_found.empty())

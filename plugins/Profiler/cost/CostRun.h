@@ -5,6 +5,7 @@
 
 #include <QBasicTimer>
 #include <QObject>
+#include <QSize>
 
 #include <memory>
 
@@ -18,13 +19,13 @@ class CostRun : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int Width = 800;
-    static constexpr int Height = 600;
-
     explicit CostRun(QObject* parent = nullptr);
     ~CostRun() override;
 
-    void start(SoNode* root);
+    /// As the camera sees it now; null for the scene's own. Size in pixels.
+    void start(SoNode* root, const SoCamera* camera, const QSize& size);
+    /// Of the pictures of the last run.
+    const QSize& getSize() const { return m_size; }
     void stop();
     void clear();
     bool isRunning() const { return m_meter != nullptr; }
@@ -44,7 +45,10 @@ private:
     void finish(const QString& problem);
 
     SoRef<SoNode> m_root;
-    std::uint32_t m_changes = 0;
+    SoRef<SoCamera> m_camera;
+    QSize m_size;
+    std::uint32_t m_changes = 0; // of the scene
+    SbMatrix m_look;             // where the camera stands; its depths follow the scene
     std::unique_ptr<SoCostMeter> m_meter;
     SoCosts m_costs;
     QBasicTimer m_timer;
