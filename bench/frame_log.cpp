@@ -76,6 +76,7 @@ void emptyPicture(benchmark::State& state)
     }
     SoRef<SoSeparator> root(new SoSeparator);
     SoPixels pixels;
+    renderer.render(root.get(), nullptr, 16, 16, pixels); // which prepares shaders
     double seconds = 0;
     for (auto _ : state) {
         if (!renderer.render(root.get(), nullptr, 16, 16, pixels))

@@ -68,6 +68,7 @@ bool measure(SoNode* root, const Wanted& wanted, SoFrameRecording& recording)
 {
     const int frames = wanted.frames;
     SoFrameLog log;
+    log.setTimesEach(true);
     SoOffscreenRenderer renderer;
     renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
     renderer.getRenderer().setFrameLog(&log);

@@ -25,6 +25,7 @@ SoCostMeter::SoCostMeter(SoNode* root, const SoCamera* camera, int width, int he
     , m_costs(countCosts(root, reader))
 {
     m_log.addUser();
+    m_log.setTimesEach(true);
     m_renderer.setSamples(1);
     m_renderer.getRenderer().setFrameLog(&m_log);
     m_renderer.getRenderer().setHiding(&m_hiding);

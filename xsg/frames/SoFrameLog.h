@@ -50,6 +50,11 @@ public:
     void removeUser();
     bool isOn() const noexcept { return m_users.load(std::memory_order_relaxed) > 0; }
 
+    /// Whether renderers ask the graphics card about every frame. At first they do of those that take 2 ms or
+    /// more, and of every eighth of the others, since asking takes time too.
+    void setTimesEach(bool on) noexcept { m_timesEach.store(on, std::memory_order_relaxed); }
+    bool timesEach() const noexcept { return m_timesEach.load(std::memory_order_relaxed); }
+
     /// Files a finished frame and returns its number, or 0 while the log is off. Number, counters, Memory and
     /// the four figures that follow ShapesCulled are filled in; the time noted by addUpdate() is added to
     /// Update and Whole.
@@ -84,6 +89,7 @@ private:
     void fillIn(SoFrame& frame) noexcept;
 
     std::atomic<int> m_users{0};
+    std::atomic<bool> m_timesEach{false};
     std::atomic<Memory*> m_memory{nullptr};
     std::atomic<std::uint64_t> m_next{0}; // claimed by writers
     std::atomic<std::uint64_t> m_last{0};

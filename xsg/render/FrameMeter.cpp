@@ -3,26 +3,38 @@
 
 #include <xsg/frames/SoFrameLog.h>
 
+namespace
+{
+
+constexpr std::int64_t LongFrame = 2'000'000; // beside which the queries are nothing
+constexpr int TimedOfShort = 8;
+
+} // namespace
+
 void xsg::FrameMeter::beginPiece(bool begins)
 {
     if (begins) {
-        if (m_isOn)
+        if (m_isOn && m_isTimed)
             m_gpu.endFrame(0); // of a picture that was given up
         m_isOn = m_log && m_log->isOn();
+        m_isTimed = m_isOn && (m_wasLong || m_log->timesEach() || m_sinceTimed++ % TimedOfShort == 0);
         m_clock.begin();
     }
     if (!m_isOn)
         return;
-    collect();
+    if (m_isTimed)
+        collect();
     m_clock.run();
-    m_gpu.beginPiece();
+    if (m_isTimed)
+        m_gpu.beginPiece();
 }
 
 void xsg::FrameMeter::endPiece()
 {
     if (!m_isOn)
         return;
-    m_gpu.endPiece();
+    if (m_isTimed)
+        m_gpu.endPiece();
     m_clock.stop();
 }
 
@@ -40,7 +52,10 @@ void xsg::FrameMeter::file(const SoRenderer::Statistics& statistics)
     frame[SoFrame::TextureBytes] = statistics.textureBytes;
     frame[SoFrame::NodesVisited] = statistics.nodes;
     frame[SoFrame::ShapesCulled] = statistics.culled;
-    m_gpu.endFrame(m_log->add(frame));
+    m_wasLong = frame[SoFrame::Whole] >= LongFrame;
+    const std::uint64_t number = m_log->add(frame);
+    if (m_isTimed)
+        m_gpu.endFrame(number);
 }
 
 void xsg::FrameMeter::collect()

@@ -8,7 +8,8 @@
 namespace xsg
 {
 
-/// Measures a renderer's pictures for a log of frames, while it is on.
+/// Measures a renderer's pictures for a log of frames, while it is on. To ask a driver costs some of its
+/// time: of pictures that take little, every eighth is asked about.
 class FrameMeter
 {
 public:
@@ -25,7 +26,10 @@ private:
     void collect();
 
     SoFrameLog* m_log = nullptr;
-    bool m_isOn = false; // for the present picture
+    bool m_isOn = false;    // for the present picture
+    bool m_isTimed = false; // by the graphics card
+    bool m_wasLong = false;
+    int m_sinceTimed = 0; // pictures
     FrameClock m_clock;
     GpuTimer m_gpu;
 };

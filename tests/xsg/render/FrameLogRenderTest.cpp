@@ -94,3 +94,24 @@ TEST_F(LoggedPicture, IsNotFiledWhileTheLogIsOff)
     draw();
     EXPECT_EQ(log.getLast(), 0U);
 }
+
+// To ask takes time, which a picture that takes little time would show.
+TEST_F(LoggedPicture, IsTimedByTheGraphicsCardEachTimeWhereThatIsWanted)
+{
+    const auto count = [this](int pictures) {
+        const std::uint64_t before = log.getLast();
+        for (int i = 0; i < pictures; ++i)
+            draw(8, 8);
+        draw(8, 8); // which collects
+        int known = 0;
+        for (int i = 1; i <= pictures; ++i) {
+            SoFrame frame;
+            EXPECT_TRUE(log.get(before + static_cast<std::uint64_t>(i), frame));
+            known += frame[SoFrame::Gpu] != SoFrame::Unknown;
+        }
+        return known;
+    };
+    EXPECT_GE(count(16), 1);
+    log.setTimesEach(true);
+    EXPECT_EQ(count(16), 16);
+}
