@@ -2,7 +2,7 @@
 // The versions that a plug-in is compiled against.
 #pragma once
 
-/// Of Scopix as a whole, as the build states it.
+/// Of Scopix as a whole. The build, the packages and the manual read it from here.
 #define SPX_SCOPIX_VERSION "1.0.0"
 
 /// Of the contract between host and plug-ins, which is all that decides whether a plug-in fits. The first

@@ -40,6 +40,20 @@ scopix_check_packages=(
   "clang-format|compares the tree with .clang-format"
   "clang-tidy|finds mistakes that compilers let pass"
 )
+# For tools/package.
+scopix_package_packages=(
+  "git|hands over what is committed"
+  "dpkg-dev|builds Debian packages"
+  "debhelper|the steps of such a build"
+  "doxygen|the reference of the public headers"
+  "qttools5-dev|compiles translations"
+  "qttools5-dev-tools|compiles translations"
+  "lintian|checks the packages"
+)
+# For tools/package --test.
+scopix_package_test_packages=(
+  "mmdebstrap|makes a bare Debian in a folder"
+)
 scopix_bench_packages=(
   "libbenchmark-dev|the benchmark framework"
 )

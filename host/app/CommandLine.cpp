@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <scopix-host/CommandLine.h>
 
+#include "app/WindowCommand.h"
 #include "commands/CommandTable.h"
 #include "support/Printable.h"
 
@@ -18,28 +19,13 @@ QString tr(const char* text)
     return QCoreApplication::translate("CommandLine", text);
 }
 
-QCommandLineOption option(const char* name, const char* help, const QString& value = {})
-{
-    return {QLatin1String(name), tr(help), value};
-}
-
 QList<QCommandLineOption> options()
 {
-    return {
-        option("plugin", "Load this plug-in too; may be given several times.", tr("PATH")),
-        option("profile", "Use this profile in this session.", tr("NAME")),
-        option("select", "Select this field; NODE is a node's name or type.", tr("NODE.FIELD")),
-        option("screenshot", "Write a picture of the window and end; needs no display.", tr("OUT.png")),
-        option("picture", "Write a picture of the 3D view alone and end; needs no display.", tr("OUT.png")),
-        option("size", "How large that picture is, in pixels; 1920x1080 without it.", tr("WIDTHxHEIGHT")),
-        option("transparent", "Leave its ground transparent."),
-        option("turntable", "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.",
-               tr("NUMBER")),
-        option("quit", "End when everything asked for is done."),
-        option("counters", "Switch the performance counters on."),
-        option("help", "Show this text and end."),
-        option("version", "Show the version and end."),
-    };
+    QList<QCommandLineOption> all;
+    for (const Command::Option& each : windowCommand().options)
+        all += QCommandLineOption(QLatin1String(each.name), tr(each.help),
+                                  each.value ? tr(each.value) : QString());
+    return all;
 }
 
 // Options of Qt itself, each followed by a value.
@@ -65,7 +51,7 @@ QStringList withoutToolkitOptions(const QStringList& arguments)
 
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(tr("Inspects and tunes the 3D scene or model in FILE."));
+    parser.setApplicationDescription(tr(windowCommand().summary));
     parser.addOptions(options());
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("The scene or model to open."),
                                  QStringLiteral("[FILE]"));

@@ -7,15 +7,15 @@
 namespace scopix
 {
 
-namespace
-{
-
-constexpr std::size_t HelpColumn = 26;
-
 std::string dashed(const std::string& name)
 {
     return (name.size() == 1 ? "-" : "--") + name;
 }
+
+namespace
+{
+
+constexpr std::size_t HelpColumn = 26;
 
 const Command::Option* findOption(const Command& command, const std::string& name)
 {

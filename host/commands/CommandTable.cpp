@@ -2,6 +2,7 @@
 #include "commands/CommandTable.h"
 
 #include "commands/Commands.h"
+#include "commands/Manual.h"
 #include "commands/Output.h"
 
 #include <QCoreApplication>
@@ -21,13 +22,6 @@ namespace
 constexpr std::size_t Any = std::numeric_limits<std::size_t>::max();
 const Command::Option Json{"json", nullptr, "Write JSON instead of text."};
 const Command::Option Out{"o", "OUT", "Write this file and leave FILE as it is; \"-\" is standard output."};
-
-// Up to where more is said of it; points also stand before endings of files.
-std::string firstSentence(const std::string& text)
-{
-    const std::string first = text.substr(0, std::min(text.find(". "), text.find("; ")));
-    return first.back() == '.' ? first : first + '.';
-}
 
 } // namespace
 
