@@ -46,6 +46,9 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/" DESTINATION "${CMAKE_INSTALL_DAT
 # Beside the libraries of the build as beside those that are installed.
 file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/share/scopix")
 file(CREATE_LINK "${PROJECT_SOURCE_DIR}/docs" "${PROJECT_BINARY_DIR}/share/scopix/docs" SYMBOLIC)
+foreach(folder IN ITEMS models pictures scenes)
+  file(CREATE_LINK "${PROJECT_SOURCE_DIR}/data/${folder}" "${PROJECT_BINARY_DIR}/share/scopix/${folder}" SYMBOLIC)
+endforeach()
 
 set_target_properties(SpxDefaults SpxInspector PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
 install(TARGETS SpxDefaults SpxInspector LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")

@@ -124,9 +124,9 @@ bool hasHelp(const Command& command)
 
 std::string bashCase(const Command& command)
 {
-    return std::string("    ") + (*command.name ? command.name : "*") + ")\n        options=" +
-           quoted(optionWords(command) + (hasHelp(command) ? "" : " --help")) + "\n        case $before in " +
-           valuePattern(command) + ") return ;; esac\n        ;;\n";
+    return std::string("    ") + (*command.name ? command.name : "*") +
+           ")\n        options=" + quoted(optionWords(command) + (hasHelp(command) ? "" : " --help")) +
+           "\n        case $before in " + valuePattern(command) + ") return ;; esac\n        ;;\n";
 }
 
 // What _arguments of zsh has between brackets and colons.
@@ -142,8 +142,7 @@ std::string zshOptions(const Command& command)
 {
     std::string text;
     for (const Command::Option& option : command.options) {
-        const std::string value =
-            option.value ? ":" + zshText(option.value) + ":_files" : std::string();
+        const std::string value = option.value ? ":" + zshText(option.value) + ":_files" : std::string();
         text += " \\\n            " + quoted(dashed(option.name) + "[" + zshText(option.help) + "]" + value);
     }
     return text + (hasHelp(command) ? "" : " \\\n            '--help[Show how it is used.]'") +
@@ -196,10 +195,8 @@ std::string Manual::page(const Command& command) const
                                roff(withoutStop(lowerFirst(firstSentence(command.summary)))) + "\n") +
            section("SYNOPSIS", ".B " + roff(invocation(command)) + "\n" +
                                    (command.options.empty() ? "" : "[OPTION...]\n") + roff(command.usage) +
-                                   "\n" +
-                                   (isProgram ? ".br\n.B scopix\nCOMMAND [ARGUMENT...]\n" : "")) +
-           section("DESCRIPTION", roff(command.summary) + "\n") +
-           section("OPTIONS", optionItems(command)) +
+                                   "\n" + (isProgram ? ".br\n.B scopix\nCOMMAND [ARGUMENT...]\n" : "")) +
+           section("DESCRIPTION", roff(command.summary) + "\n") + section("OPTIONS", optionItems(command)) +
            section("COMMANDS", isProgram ? commandItems(m_commands) : std::string()) +
            section("EXAMPLES", exampleItems(command)) +
            section("EXIT STATUS", roff(command.status) + "; 2 where it cannot be done.\n") +

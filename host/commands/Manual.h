@@ -9,8 +9,8 @@
 namespace scopix
 {
 
-/// What else is made of the texts of --help: pages for man, and completions for shells. The first command is the
-/// program itself, whose name is empty.
+/// What else is made of the texts of --help: pages for man, and completions for shells. The first command is
+/// the program itself, whose name is empty.
 class Manual
 {
 public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewport/MouseScheme.h"
 #include "viewport/PictureSeries.h"
 #include "viewport/ViewCamera.h"
 #include "viewport/ViewSight.h"
@@ -56,6 +57,10 @@ public:
     /// What is hidden is not shown and not picked, and what is locked is not picked; it must outlive the
     /// view.
     void setStates(const SceneStates* states);
+
+    /// Which buttons navigate; a click of the left one selects in each.
+    void setMouseScheme(MouseScheme scheme) { m_mouseScheme = scheme; }
+    MouseScheme getMouseScheme() const { return m_mouseScheme; }
 
     /// Edges instead of surfaces.
     void setWireframe(bool on);
@@ -159,8 +164,6 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    enum class Drag { None, Orbit, Pan };
-
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
     void setUp(SoRenderer& renderer) const;
@@ -191,8 +194,10 @@ private:
     bool m_isAnimated = true;
     QBasicTimer m_ticks; // runs while something turns
     QElapsedTimer m_sinceTick;
-    Drag m_drag = Drag::None;
-    bool m_moved = false; // since the press, by more than a click's trembling
+    MouseScheme m_mouseScheme = MouseScheme::Scopix;
+    MouseDrag m_drag = MouseDrag::None;
+    bool m_mayClick = false; // the press that may become one
+    bool m_moved = false;    // since the press, by more than a click's trembling
     QPoint m_pressed;
     QPoint m_last;
 };

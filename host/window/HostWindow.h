@@ -2,6 +2,7 @@
 #pragma once
 
 #include "services/SceneSource.h"
+#include "start/PluginState.h"
 #include "viewport/PictureSeries.h"
 
 #include <QMainWindow>
@@ -31,6 +32,9 @@ public:
     virtual void findInScene(const QString& /*query*/) {}
     /// As SpxGuide::showHelp().
     virtual bool showHelp(const QString& /*page*/, const QString& /*section*/) { return false; }
+
+    /// Where the window learns what it says of plug-ins.
+    virtual void setPluginStates(PluginStates /*states*/) {}
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.

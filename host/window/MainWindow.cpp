@@ -4,6 +4,7 @@
 
 #include "handles/HandleActions.h"
 #include "handles/HandleTool.h"
+#include "panels/EmptyHint.h"
 #include "panels/FieldListView.h"
 #include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
@@ -11,6 +12,7 @@
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "start/AboutDialog.h"
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
@@ -20,16 +22,22 @@
 #include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
+#include "window/FileDrop.h"
 #include "window/FileMenu.h"
 #include "window/HelpWindow.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/PaletteActs.h"
 #include "window/PictureActs.h"
 #include "window/ReloadBar.h"
+#include "window/SettingsActs.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
 #include "window/ViewPoints.h"
+#include "window/Welcome.h"
+
+#include <scopix/SpxVersion.h>
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -122,6 +130,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeNodeMenu();
     makeViewMenu();
     makeHelpMenu();
+    makeGuidance();
     makeToolBar();
     connectSelection();
     connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
@@ -130,6 +139,9 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     new ReloadBar(m_files, *m_view);
+    new FileDrop(*this);
+    new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
+    new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
     statusBar()->show();
     resize(firstSize());
@@ -292,11 +304,13 @@ void MainWindow::makeViewMenu()
 
 void MainWindow::makeThemeMenu(QMenu& menu)
 {
+    m_themeMenu = &menu;
     auto* group = new QActionGroup(&menu);
     const std::pair<Theme, QString> entries[] = {
         {Theme::System, tr("As the &System")}, {Theme::Dark, tr("&Dark")}, {Theme::Light, tr("&Light")}};
     for (const auto& [theme, text] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setData(themeName(theme));
         action->setCheckable(true);
         action->setChecked(theme == wantedTheme());
         group->addAction(action);
@@ -306,6 +320,7 @@ void MainWindow::makeThemeMenu(QMenu& menu)
 void MainWindow::makeHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    m_helpMenu = menu;
     menu->addAction(tr("&Moving in the 3D View"), this, [this] {
         QMessageBox::information(
             this, tr("Moving in the 3D View"),
@@ -334,11 +349,28 @@ void MainWindow::makeHelpMenu()
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(
-        this, tr("About Scopix"),
-        tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
-           "undo everything and see what it costs.")
-            .arg(QApplication::applicationVersion()));
+    AboutDialog(QStringLiteral(SPX_SCOPIX_VERSION), m_pluginStates, this).exec();
+}
+
+// What leads through all of the above: it comes last.
+void MainWindow::makeGuidance()
+{
+    m_settings = new SettingsActs({*this, *m_view, m_files, m_services, m_notifier, *m_themeMenu}, [this] {
+        return m_pluginStates ? m_pluginStates() : std::vector<PluginState>();
+    });
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(m_settings->getAction());
+    m_palette = new PaletteActs(*this, *m_tree, m_services, *m_settings);
+    m_helpMenu->insertAction(m_helpMenu->actions().value(0), m_palette->getAction());
+    m_welcome = new Welcome({*this, *m_view, *m_tree, m_files, m_services}, {m_openAction});
+    m_welcome->addTo(*m_helpMenu);
+}
+
+void MainWindow::enterInteractiveMode()
+{
+    m_settings->restoreKeys();
+    m_files.enterInteractiveMode();
+    m_welcome->enterInteractiveMode();
 }
 
 void MainWindow::makeToolBar()

@@ -16,11 +16,15 @@ namespace scopix
 {
 
 class BranchFiles;
+class CommandPalette;
 class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
+class PaletteActs;
 class PictureActs;
+class SettingsActs;
+class Welcome;
 class HostServices;
 class NodeEditing;
 class SceneStates;
@@ -66,7 +70,8 @@ public:
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
     bool savePictures(const PictureOrder& order) override;
-    void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
+    void enterInteractiveMode() override;
+    void setPluginStates(PluginStates states) override { m_pluginStates = std::move(states); }
 
     ScenePanel& getScenePanel() { return *m_scenePanel; }
     SceneTreeView& getTree() { return *m_tree; }
@@ -78,6 +83,9 @@ public:
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
     SceneStates& getStates() { return *m_states; }
     ViewActions& getViewActions() { return *m_viewActions; }
+    Welcome& getWelcome() { return *m_welcome; }
+    SettingsActs& getSettings() { return *m_settings; }
+    PaletteActs& getPalette() { return *m_palette; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -97,6 +105,7 @@ private:
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
+    void makeGuidance();
     void makeToolBar();
     void connectSelection();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
@@ -126,6 +135,12 @@ private:
     SceneStates* m_states;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
+    SettingsActs* m_settings = nullptr;
+    PaletteActs* m_palette = nullptr;
+    Welcome* m_welcome = nullptr;
+    PluginStates m_pluginStates;
+    QMenu* m_helpMenu = nullptr;
+    QMenu* m_themeMenu = nullptr;
     HelpWindow* m_help = nullptr;               // as soon as help is asked for
     std::unique_ptr<ViewActions> m_viewActions; // as well
     QDockWidget* m_treeDock = nullptr;

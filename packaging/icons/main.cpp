@@ -31,9 +31,8 @@ int main(int argc, char** argv)
     }
     for (int i = 4; i < argc; ++i) {
         const QString size = QString::fromLocal8Bit(argv[i]);
-        const QString file =
-            QStringLiteral("%1/%2x%2/%3")
-                .arg(QString::fromLocal8Bit(argv[3]), size, QString::fromLocal8Bit(argv[2]));
+        const QString file = QStringLiteral("%1/%2x%2/%3")
+                                 .arg(QString::fromLocal8Bit(argv[3]), size, QString::fromLocal8Bit(argv[2]));
         if (!draw(renderer, size.toInt(), file)) {
             std::fprintf(stderr, "%s cannot be written.\n", qPrintable(file));
             return 1;

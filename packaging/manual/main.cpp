@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Writes the pages of the manual and the completions of the shells into a folder: what the build installs of them.
+// Writes the pages of the manual and the completions of the shells into a folder: what the build installs of
+// them.
 #include "app/WindowCommand.h"
 #include "commands/CommandTable.h"
 #include "commands/Manual.h"
