@@ -8,28 +8,31 @@ namespace scopix
 
 void PaletteModel::setEntries(std::vector<PaletteEntry> entries)
 {
-    m_shown.clear();
+    beginResetModel();
     m_entries = std::move(entries);
     m_found.clear();
     choose();
+    endResetModel();
 }
 
 void PaletteModel::setFound(std::vector<PaletteEntry> found)
 {
-    m_shown.clear();
+    beginResetModel();
     m_found = std::move(found);
     choose();
+    endResetModel();
 }
 
 void PaletteModel::setTyped(const QString& typed)
 {
+    beginResetModel();
     m_typed = typed;
     choose();
+    endResetModel();
 }
 
 void PaletteModel::choose()
 {
-    beginResetModel();
     std::vector<std::pair<int, const PaletteEntry*>> fitting;
     for (const PaletteEntry& each : m_entries)
         if (const int fit = fitOf(each.text, m_typed))
@@ -42,7 +45,6 @@ void PaletteModel::choose()
     m_shown.clear();
     for (const auto& each : fitting)
         m_shown.push_back(each.second);
-    endResetModel();
 }
 
 int PaletteModel::rowCount(const QModelIndex& parent) const
@@ -52,6 +54,8 @@ int PaletteModel::rowCount(const QModelIndex& parent) const
 
 QVariant PaletteModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const PaletteEntry& shown = entry(index.row());
     switch (role) {
     case Qt::DisplayRole:
@@ -70,7 +74,7 @@ QVariant PaletteModel::data(const QModelIndex& index, int role) const
 Qt::ItemFlags PaletteModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags flags = QAbstractListModel::flags(index);
-    return entry(index.row()).isEnabled ? flags : flags & ~Qt::ItemIsEnabled;
+    return !index.isValid() || entry(index.row()).isEnabled ? flags : flags & ~Qt::ItemIsEnabled;
 }
 
 } // namespace scopix

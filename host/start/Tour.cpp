@@ -51,6 +51,7 @@ Tour::Tour(QWidget& window, std::vector<Step> steps)
     setLineWidth(2);
     setAutoFillBackground(true);
     emphasize(*m_title);
+    m_number->setWordWrap(false);
     auto* stop = new QPushButton(tr("&End the Tour"));
     stop->setObjectName(QStringLiteral("endTour"));
     m_next->setObjectName(QStringLiteral("nextStep"));

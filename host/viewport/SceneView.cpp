@@ -323,7 +323,8 @@ std::vector<std::uint32_t> SceneView::findCovered(const SoPath& part, const QSiz
 void SceneView::mousePressEvent(QMouseEvent* event)
 {
     m_mayClick = false;
-    if (m_tools.press(*event))
+    const bool isAltDrag = m_mouseScheme == MouseScheme::Maya && event->modifiers() & Qt::AltModifier;
+    if (!isAltDrag && m_tools.press(*event))
         return;
     m_drag = dragOf(m_mouseScheme, event->button(), event->modifiers());
     m_mayClick = event->button() == Qt::LeftButton && m_drag != MouseDrag::Pan;

@@ -2,7 +2,6 @@
 #include "window/FileDrop.h"
 
 #include <QChildEvent>
-#include <QCoreApplication>
 #include <QDockWidget>
 #include <QMainWindow>
 
@@ -45,7 +44,8 @@ bool FileDrop::eventFilter(QObject* watched, QEvent* event)
     }
     if (!isDrop(event->type()))
         return false;
-    QCoreApplication::sendEvent(&m_window, event);
+    // Not by the application, which would hand it to the dock again, as the target of the drag.
+    static_cast<QObject&>(m_window).event(event);
     return true;
 }
 

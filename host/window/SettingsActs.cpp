@@ -256,8 +256,10 @@ void SettingsActs::addToggles(std::vector<Setting>& settings) const
     const QMenu* view = qobject_cast<QMenu*>(m_parts.themes.parent());
     for (const MenuAct& act : acts) {
         const bool isOfView = view && view->actions().contains(act.action);
+        // What comes with a key is switched on for a while, such as measuring.
+        const bool isForAWhile = !act.action->shortcut().isEmpty() && m_keys->isShipped(*act.action);
         const bool isKept = act.action->isCheckable() && !act.action->actionGroup();
-        if (!isOfView || !isKept || isDockToggle(m_parts.window, act.action))
+        if (!isOfView || !isKept || isForAWhile || isDockToggle(m_parts.window, act.action))
             continue;
         Setting setting;
         setting.key = act.action->objectName().isEmpty() ? act.text : act.action->objectName();

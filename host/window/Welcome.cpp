@@ -55,7 +55,8 @@ Welcome::Welcome(const Parts& parts, const QList<QAction*>& begin)
     connect(m_tourAction, &QAction::triggered, this, &Welcome::beginTour);
     connect(m_pageAction, &QAction::triggered, this, &Welcome::openPage);
     connect(m_page, &StartPage::chosen, &parts.files, &SceneFiles::openRecent);
-    connect(&parts.files.getDocument(), &SceneDocument::rootChanged, this, &Welcome::sceneChanged);
+    connect(&parts.files.getDocument(), &SceneDocument::rootChanged, m_page, &QWidget::hide);
+    connect(&parts.files.getDocument(), &SceneDocument::stateChanged, this, &Welcome::pathChanged);
     m_picture.setInterval(LookAgainMs);
     connect(&m_picture, &QTimer::timeout, this, &Welcome::takePicture);
 }
@@ -78,7 +79,7 @@ void Welcome::enterInteractiveMode()
     if (document.getPath().isEmpty() && !document.isExternal() && !document.isModified())
         openPage();
     else
-        sceneChanged();
+        pathChanged();
 }
 
 void Welcome::openPage()
@@ -87,11 +88,13 @@ void Welcome::openPage()
     m_page->open();
 }
 
-void Welcome::sceneChanged()
+void Welcome::pathChanged()
 {
-    m_page->hide();
-    if (m_isInteractive && !m_parts.files.getDocument().getPath().isEmpty())
-        m_picture.start();
+    const QString path = m_parts.files.getDocument().getPath();
+    if (!m_isInteractive || path == m_pictured)
+        return;
+    m_pictured = path;
+    m_picture.start();
 }
 
 // Once it has been drawn, whatever time that takes.

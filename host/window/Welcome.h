@@ -50,7 +50,7 @@ private:
     void watchTour();
     void beginTour();
     void openPage();
-    void sceneChanged();
+    void pathChanged();
     void takePicture();
 
     Parts m_parts;
@@ -59,7 +59,8 @@ private:
     Tour* m_tour = nullptr;
     QAction* m_tourAction;
     QAction* m_pageAction;
-    QTimer m_picture; // until the open file has been drawn
+    QString m_pictured; // the path that has its picture, or will
+    QTimer m_picture;   // until the open file has been drawn
     bool m_isInteractive = false;
 };
 

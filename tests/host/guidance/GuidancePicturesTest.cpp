@@ -37,6 +37,7 @@ TEST_F(GuidancePictures, OfTheStartPage)
     for (const int sample : {3, 1}) {
         const QString file = StartPage::samples().value(sample);
         ASSERT_TRUE(open(file));
+        window->getFiles().getRecent().add(file);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !FilePictures().find(file).isNull(); }, 60000));
     }
     act("startPageAction")->trigger();

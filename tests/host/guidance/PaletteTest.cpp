@@ -41,8 +41,8 @@ protected:
         return QTest::qWaitFor([&] {
             const PaletteModel& model = palette().getModel();
             for (int row = 0; row < model.rowCount(); ++row)
-                if (model.entry(row).text == QLatin1String(text) &&
-                    model.entry(row).place.startsWith(QLatin1String(place)))
+                if (model.entry(row).text == QString::fromUtf8(text) &&
+                    model.entry(row).place.startsWith(QString::fromUtf8(place)))
                     return true;
             return false;
         });

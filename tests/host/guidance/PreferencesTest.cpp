@@ -116,7 +116,7 @@ TEST_F(PreferencesTest, AnActGetsTheKeyThatIsSetAndItsRivalLosesIt)
     QAction* find = act("findAction");
     auto& list = input<QTreeWidget>("keyList");
     for (int row = 0; row < list.topLevelItemCount(); ++row)
-        if (list.topLevelItem(row)->text(0).endsWith(QLatin1String("Find Anything…")))
+        if (list.topLevelItem(row)->text(0).endsWith(QStringLiteral("Find Anything…")))
             list.setCurrentItem(list.topLevelItem(row));
     input<QKeySequenceEdit>("newKey").setKeySequence(QKeySequence::Find);
     for (auto* button : dialog().findChildren<QPushButton*>())
