@@ -57,11 +57,10 @@ QStringList completed(const QStringList& words)
     script.close();
     QProcess bash;
     bash.setWorkingDirectory(folder.path());
+    const QString run = QStringLiteral("source ./scopix.bash; COMP_WORDS=(scopix \"$@\"); COMP_CWORD=$#; "
+                                       "_scopix; printf '%s\\n' \"${COMPREPLY[@]}\"");
     bash.start(QStringLiteral("bash"),
-               {QStringLiteral("--norc"), QStringLiteral("-c"),
-                QStringLiteral("source ./scopix.bash; COMP_WORDS=(scopix \"$@\"); COMP_CWORD=$#; _scopix; "
-                               "printf '%s\\n' \"${COMPREPLY[@]}\""),
-                QStringLiteral("bash")} +
+               QStringList{QStringLiteral("--norc"), QStringLiteral("-c"), run, QStringLiteral("bash")} +
                    words);
     EXPECT_TRUE(bash.waitForFinished());
     EXPECT_EQ(bash.readAllStandardError(), QByteArray());
