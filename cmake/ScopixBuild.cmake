@@ -22,7 +22,9 @@ endif()
 add_library(scopix_settings INTERFACE)
 add_library(Scopix::settings ALIAS scopix_settings)
 target_compile_options(scopix_settings INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Werror -Woverloaded-virtual -Wnon-virtual-dtor)
+  -Wall -Wextra -Wpedantic -Wconversion -Woverloaded-virtual -Wnon-virtual-dtor
+  # Whoever packages Scopix compiles with flags that warn of more.
+  $<$<BOOL:${SCOPIX_WARNINGS_ARE_ERRORS}>:-Werror>)
 # Clang puts the sanitizers' runtime into programs alone, so that a library's calls of it stay open.
 if(NOT (SCOPIX_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang"))
   target_link_options(scopix_settings INTERFACE -Wl,--no-undefined)

@@ -27,6 +27,17 @@ endmacro()
 scopix_install_library(xsg xsg)
 scopix_public_headers(xsg xsg "${PROJECT_SOURCE_DIR}/xsg" ${SCOPIX_XSG_HEADERS})
 
+scopix_install_library(ScopixLive Live)
+scopix_public_headers(ScopixLive scopix/live "${PROJECT_SOURCE_DIR}/live" ${SCOPIX_LIVE_HEADERS})
+if(TARGET ScopixLiveOsg)
+  scopix_install_library(ScopixLiveOsg LiveOsg)
+  scopix_public_headers(ScopixLiveOsg scopix/live/osg "${PROJECT_SOURCE_DIR}/live/osg" LiveOsg.h)
+  install(TARGETS ScopixLiveOsgPreload LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+endif()
+
+scopix_install_library(ScopixLiveXsg LiveXsg)
+scopix_public_headers(ScopixLiveXsg scopix/live/xsg "${PROJECT_SOURCE_DIR}/live/xsg" ${SCOPIX_LIVE_XSG_HEADERS})
+
 scopix_install_library(ScopixExtenderAPI ExtenderAPI)
 scopix_public_headers(ScopixExtenderAPI scopix "${PROJECT_SOURCE_DIR}/extender" ${SCOPIX_EXTENDER_HEADERS})
 
@@ -46,9 +57,12 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/" DESTINATION "${CMAKE_INSTALL_DAT
 # Beside the libraries of the build as beside those that are installed.
 file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/share/scopix")
 file(CREATE_LINK "${PROJECT_SOURCE_DIR}/docs" "${PROJECT_BINARY_DIR}/share/scopix/docs" SYMBOLIC)
+foreach(folder IN ITEMS models pictures scenes)
+  file(CREATE_LINK "${PROJECT_SOURCE_DIR}/data/${folder}" "${PROJECT_BINARY_DIR}/share/scopix/${folder}" SYMBOLIC)
+endforeach()
 
-set_target_properties(SpxDefaults SpxInspector PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
-install(TARGETS SpxDefaults SpxInspector LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
+set_target_properties(SpxDefaults SpxInspector SpxProfiler PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
+install(TARGETS SpxDefaults SpxInspector SpxProfiler LIBRARY DESTINATION "${SCOPIX_INSTALL_PLUGINS}")
 
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/ScopixConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/cmake/ScopixConfig.cmake"

@@ -10,6 +10,8 @@ set(SCOPIX_XSG_HEADERS
   SoDebugError.h SoError.h SoErrorHandler.h SoErrorStack.h SoGLError.h SoMemoryError.h SoReadError.h
   # Performance counters
   SoPerfAccumCounter.h SoPerfCounter.h SoPerfCounterManager.h SoPerfFeed.h SoPerfStateCounter.h
+  # Frames
+  SoFrame.h SoFrameCsv.h SoFrameFile.h SoFrameLog.h SoFramePhase.h SoFrameRecording.h SoFrameStatistics.h
   # Preferences, memory, files that are replaced whole
   FileReplacement.h SoPreferences.h SpecialFile.h XsgMalloc.h
   # Fields and what holds them
@@ -32,28 +34,38 @@ set(SCOPIX_XSG_HEADERS
   SoCone.h SoCube.h SoCylinder.h SoDrawingCallback.h SoIndexedLineSet.h SoIndexedPointSet.h
   SoIndexedTriangleSet.h SoIndexedTriangleStripSet.h SoLineSet.h SoPointSet.h SoScreenText.h SoShape.h
   SoSolid.h SoSphere.h SoTriangleSet.h SoTriangleStripSet.h SoVertexShape.h
-  SoAmbientLight.h SoDirectionalLight.h SoLight.h SoPointLight.h SoSpotLight.h
+  SoAmbientLight.h SoDirectionalLight.h SoEnvironmentLight.h SoLight.h SoPointLight.h SoSpotLight.h
   SoCamera.h SoOrthographicCamera.h SoPerspectiveCamera.h
   SoMatrixTransform.h SoSpin.h SoTransform.h SoTransformation.h
-  SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoNormals.h SoPoints.h SoTexture2.h
+  SoClipPlane.h SoComplexity.h SoDrawStyle.h SoFog.h SoMaterial.h SoMaterialTexture.h SoNormals.h
+  SoPhysicalMaterial.h SoPoints.h SoSecondTextureCoordinates.h SoTexture2.h
   SoTextureCoordinates.h SoTextureTransform.h
+  DerivedPoints.h SoAnimatedValues.h SoAnimation.h SoMorph.h SoSkin.h SoTrack.h
   # Actions
-  SoAreaPickAction.h SoBoundingBoxAction.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
+  SoAreaPickAction.h SoBoundingBoxAction.h SoHiding.h SoMeasureAction.h SoPartTraversal.h SoPath.h SoPathTraversal.h SoRayPickAction.h SoSearchAction.h SoTraversal.h
   # Queries
   SoQuery.h SoQuerySearch.h
   # Names of places
   SoScenePath.h
   # Drawing
   SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
+  # What branches cost
+  SoCostMeter.h SoCosts.h
   # Scene files
   SoSceneFile.h
   # The library as a whole
   SoDB.h)
 
+set(SCOPIX_LIVE_HEADERS
+  Adapter.h Client.h LiveExport.h LivePacking.h LiveValue.h Server.h)
+
+set(SCOPIX_LIVE_XSG_HEADERS
+  XsgAdapter.h XsgServer.h)
+
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
   SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h
-  SpxShellMenus.h SpxVersion.h SpxViewServices.h)
+  SpxShellMenus.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h Commands.h HostApplication.h HostExport.h)

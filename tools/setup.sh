@@ -28,6 +28,8 @@ scopix_test_packages=(
   "xauth|keeps that display private"
   "assimp-testmodels|models of many kinds, which have to open"
   "locales|a locale with a decimal comma, under which the tests run again"
+  "libopenscenegraph-dev|builds what inspects programs on OpenSceneGraph; without it, that is left out"
+  "openscenegraph|osgviewer, a program that has to be inspectable as it is"
 )
 # For ./test --asan alone.
 scopix_fuzz_packages=(
@@ -39,6 +41,20 @@ scopix_check_packages=(
   "git|names the files of the tree and their changes"
   "clang-format|compares the tree with .clang-format"
   "clang-tidy|finds mistakes that compilers let pass"
+)
+# For tools/package.
+scopix_package_packages=(
+  "git|hands over what is committed"
+  "dpkg-dev|builds Debian packages"
+  "debhelper|the steps of such a build"
+  "doxygen|the reference of the public headers"
+  "qttools5-dev|compiles translations"
+  "qttools5-dev-tools|compiles translations"
+  "lintian|checks the packages"
+)
+# For tools/package --test.
+scopix_package_test_packages=(
+  "mmdebstrap|makes a bare Debian in a folder"
 )
 scopix_bench_packages=(
   "libbenchmark-dev|the benchmark framework"

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <scopix-host/CommandLine.h>
 
+#include "app/WindowCommand.h"
 #include "commands/CommandTable.h"
+#include "live/LiveLaunch.h"
 #include "support/Printable.h"
 
 #include <QCommandLineParser>
@@ -18,28 +20,13 @@ QString tr(const char* text)
     return QCoreApplication::translate("CommandLine", text);
 }
 
-QCommandLineOption option(const char* name, const char* help, const QString& value = {})
-{
-    return {QLatin1String(name), tr(help), value};
-}
-
 QList<QCommandLineOption> options()
 {
-    return {
-        option("plugin", "Load this plug-in too; may be given several times.", tr("PATH")),
-        option("profile", "Use this profile in this session.", tr("NAME")),
-        option("select", "Select this field; NODE is a node's name or type.", tr("NODE.FIELD")),
-        option("screenshot", "Write a picture of the window and end; needs no display.", tr("OUT.png")),
-        option("picture", "Write a picture of the 3D view alone and end; needs no display.", tr("OUT.png")),
-        option("size", "How large that picture is, in pixels; 1920x1080 without it.", tr("WIDTHxHEIGHT")),
-        option("transparent", "Leave its ground transparent."),
-        option("turntable", "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.",
-               tr("NUMBER")),
-        option("quit", "End when everything asked for is done."),
-        option("counters", "Switch the performance counters on."),
-        option("help", "Show this text and end."),
-        option("version", "Show the version and end."),
-    };
+    QList<QCommandLineOption> all;
+    for (const Command::Option& each : windowCommand().options)
+        all += QCommandLineOption(QLatin1String(each.name), tr(each.help),
+                                  each.value ? tr(each.value) : QString());
+    return all;
 }
 
 // Options of Qt itself, each followed by a value.
@@ -63,9 +50,37 @@ QStringList withoutToolkitOptions(const QStringList& arguments)
     return rest;
 }
 
+// The value of --attach may be left out, which the parser does not know, and all behind --launch is the
+// program's.
+QStringList takeLive(CommandLine& line, const QStringList& arguments)
+{
+    QStringList rest;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& each = arguments.at(i);
+        if (each == QLatin1String("--launch") && i > 0) {
+            line.launch = arguments.mid(i + 1);
+            if (line.launch.value(0).isEmpty())
+                line.error = tr("--launch expects a program and its arguments, and nothing was given.");
+            break;
+        }
+        if (each == QLatin1String("--attach") && i > 0) {
+            line.isAttaching = true;
+            // What begins with a dash is the next option.
+            if (!arguments.value(i + 1).isEmpty() && !arguments.at(i + 1).startsWith(QLatin1Char('-')))
+                line.attach = arguments.at(++i);
+        } else if (each.startsWith(QLatin1String("--attach=")) && i > 0) {
+            line.isAttaching = true;
+            line.attach = each.section(QLatin1Char('='), 1);
+        } else {
+            rest += each;
+        }
+    }
+    return rest;
+}
+
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(tr("Inspects and tunes the 3D scene or model in FILE."));
+    parser.setApplicationDescription(tr(windowCommand().summary));
     parser.addOptions(options());
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("The scene or model to open."),
                                  QStringLiteral("[FILE]"));
@@ -120,6 +135,21 @@ QString takePicture(CommandLine& line, const QCommandLineParser& parser)
     return problem;
 }
 
+// Without a window there is nothing to take a picture of or to select in.
+QString checkSave(const CommandLine& line, const QCommandLineParser& parser)
+{
+    if (line.save.isEmpty())
+        return {};
+    if (line.file.isEmpty())
+        return tr("--save writes what FILE holds, and no FILE was given.");
+    for (const char* name : {"screenshot", "picture", "select"}) {
+        if (parser.isSet(QLatin1String(name)))
+            return tr("--save opens no window, so that --%1 cannot be given with it.")
+                .arg(QLatin1String(name));
+    }
+    return {};
+}
+
 QString check(CommandLine& line, const QCommandLineParser& parser)
 {
     const QStringList files = parser.positionalArguments();
@@ -134,7 +164,12 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
     if (files.value(0).isEmpty() && !files.isEmpty())
         return tr("FILE expects the path of a scene or model, and nothing was given.");
     line.file = files.value(0);
-    const QString problem = takePicture(line, parser);
+    if (line.isLive() && (!files.isEmpty() || (line.isAttaching && !line.launch.isEmpty())))
+        return tr("Either FILE or one running program can be shown, and more than one of them was given.");
+    line.save = parser.value(QStringLiteral("save"));
+    QString problem = checkSave(line, parser);
+    if (problem.isEmpty())
+        problem = takePicture(line, parser);
     if (!problem.isEmpty())
         return problem;
     const QString select = parser.value(QStringLiteral("select"));
@@ -148,7 +183,10 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     CommandLine line;
     QCommandLineParser parser;
     describe(parser);
-    if (!parser.parse(withoutToolkitOptions(arguments))) {
+    const QStringList others = withoutToolkitOptions(takeLive(line, arguments));
+    if (!line.error.isEmpty())
+        return line;
+    if (!parser.parse(others)) {
         line.error = printable(tr("%1 (scopix --help lists the options.)").arg(parser.errorText()));
         return line;
     }
@@ -156,6 +194,7 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.profile = parser.value(QStringLiteral("profile"));
     line.screenshot = parser.value(QStringLiteral("screenshot"));
     line.quit = parser.isSet(QStringLiteral("quit"));
+    line.listsLive = parser.isSet(QStringLiteral("list-live"));
     line.counters = parser.isSet(QStringLiteral("counters"));
     line.help = parser.isSet(QStringLiteral("help"));
     line.version = parser.isSet(QStringLiteral("version"));
@@ -170,6 +209,11 @@ QString CommandLine::helpText()
     return parser.helpText() +
            tr("\nWithout a window (scopix COMMAND --help says more; a file of such a name is ./NAME):\n%1")
                .arg(QString::fromStdString(commandList()));
+}
+
+QString CommandLine::liveText()
+{
+    return livePrograms();
 }
 
 QString CommandLine::versionText()

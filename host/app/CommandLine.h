@@ -21,7 +21,12 @@ struct SCOPIX_HOST_API CommandLine {
     QString picture;   // of the 3D view alone
     QSize pictureSize; // of --size; empty: as PictureOrder
     bool transparent = false;
-    int turntable = 1; // pictures of one turn
+    int turntable = 1;  // pictures of one turn
+    QString save;       // another file for what FILE holds
+    QStringList launch; // of --launch PROGRAM ARGS...
+    QString attach;     // of --attach; empty: the only program there is
+    bool isAttaching = false;
+    bool listsLive = false;
     bool quit = false;
     bool counters = false;
     bool help = false;
@@ -29,8 +34,10 @@ struct SCOPIX_HOST_API CommandLine {
 
     QString error; // one sentence; empty when all is well
 
+    /// A running program is to be shown.
+    bool isLive() const { return isAttaching || !launch.isEmpty(); }
     /// Nobody is there to answer a message box.
-    bool isUnattended() const { return quit || isForPictures(); }
+    bool isUnattended() const { return quit || isForPictures() || !save.isEmpty(); }
     /// Writes pictures and ends, for which no display is needed.
     bool isForPictures() const { return !screenshot.isEmpty() || !picture.isEmpty(); }
 
@@ -39,6 +46,8 @@ struct SCOPIX_HOST_API CommandLine {
     /// Needs a QCoreApplication, whose first argument it names.
     static QString helpText();
     static QString versionText();
+    /// A line for each running program that can be attached to.
+    static QString liveText();
 };
 
 } // namespace scopix

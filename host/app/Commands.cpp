@@ -3,6 +3,10 @@
 
 #include "commands/CommandTable.h"
 
+#include <scopix-host/CommandLine.h>
+
+#include <QFile>
+
 namespace scopix
 {
 
@@ -14,6 +18,12 @@ bool Commands::isCommand(int argc, char** argv)
 int Commands::run(int argc, char** argv)
 {
     return runCommand(*findCommand(argv[1]), std::vector<std::string>(argv + 2, argv + argc));
+}
+
+int Commands::save(const CommandLine& line)
+{
+    return runCommand(*findCommand("convert"), {"--", QFile::encodeName(line.file).toStdString(),
+                                                QFile::encodeName(line.save).toStdString()});
 }
 
 } // namespace scopix

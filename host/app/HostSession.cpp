@@ -55,8 +55,10 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     m_shell.setGuide(
         [this](const QString& query) { m_window->findInScene(query); },
         [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
+    m_shell.setLook([this] { return m_window->viewLook(); });
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
+    m_window->setPluginStates([this] { return pluginStates(); });
     addFoldAction();
     new ToolsMenu(m_shell, *m_window->viewMenu());
     new TryAgainMenu(m_plugins, *m_window->viewMenu());
@@ -81,8 +83,23 @@ void HostSession::connectParts()
     connect(&m_services, &HostServices::stepsLost, &m_notifier, &UserNotifier::info);
     connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
     connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_plugins, &HostPluginsManager::failed, this,
+            [this](const QString& sentence) { m_refusals += sentence; });
     connect(m_window.get(), &HostWindow::openFinished, this, &HostSession::openFinished);
     connect(m_window.get(), &HostWindow::closed, this, &HostSession::finished);
+}
+
+std::vector<PluginState> HostSession::pluginStates() const
+{
+    std::vector<PluginState> states;
+    for (const QString& name : m_plugins.pluginNames())
+        states.push_back({name, PluginState::State::Loaded, {}});
+    for (const QString& path : m_plugins.quarantined())
+        states.push_back({QFileInfo(path).fileName(), PluginState::State::SetAside,
+                          tr("The program ended or hung while it was loaded.")});
+    for (const QString& sentence : m_refusals)
+        states.push_back({tr("Another one"), PluginState::State::Refused, sentence});
+    return states;
 }
 
 HostSession::~HostSession()
@@ -135,7 +152,9 @@ void HostSession::start(const CommandLine& line)
     if (!line.isUnattended())
         restoreLayout();
     m_window->show();
-    if (line.file.isEmpty())
+    if (line.isLive())
+        m_window->openLive({line.launch, line.attach, line.selectNode});
+    else if (line.file.isEmpty())
         openFinished(true);
     else
         m_window->openFile(line.file);

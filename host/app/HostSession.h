@@ -56,6 +56,7 @@ signals:
 private:
     void connectParts();
     void addFoldAction();
+    std::vector<PluginState> pluginStates() const;
     void loadPlugins(const CommandLine& line);
     void keepCounters();
     void offerCounterCopy();
@@ -76,6 +77,7 @@ private:
     std::unique_ptr<CounterBackup>
         m_counterBackup;        // outlives the plug-ins, up to what they write at their end
     bool m_keepsLayout = false; // a user works with the window
+    QStringList m_refusals;     // of plug-ins, one sentence each
     int m_status = 0;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/SensorPump.h"
 
+#include <xsg/frames/SoFramePhase.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <QCoreApplication>
@@ -55,6 +56,7 @@ bool SensorPump::event(QEvent* event)
 
 void SensorPump::turn()
 {
+    const SoFrameUpdate update(SoFrameLog::getInstance());
     SoSensorQueue& queue = SoSensorQueue::getInstance();
     queue.process();
     SbTime left;

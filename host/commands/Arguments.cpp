@@ -7,15 +7,15 @@
 namespace scopix
 {
 
-namespace
-{
-
-constexpr std::size_t HelpColumn = 26;
-
 std::string dashed(const std::string& name)
 {
     return (name.size() == 1 ? "-" : "--") + name;
 }
+
+namespace
+{
+
+constexpr std::size_t HelpColumn = 26;
 
 const Command::Option* findOption(const Command& command, const std::string& name)
 {
@@ -116,6 +116,14 @@ bool readNumber(const std::string& text, int lowest, int highest, int& number)
         return false;
     number = value;
     return true;
+}
+
+bool readSize(const std::string& text, int& width, int& height)
+{
+    constexpr int LargestSide = 16384;
+    const std::size_t cross = text.find('x');
+    return cross != std::string::npos && readNumber(text.substr(0, cross), 1, LargestSide, width) &&
+           readNumber(text.substr(cross + 1), 1, LargestSide, height);
 }
 
 } // namespace scopix

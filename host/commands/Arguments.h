@@ -53,8 +53,12 @@ struct Command {
 bool parseArguments(const Command& command, const std::vector<std::string>& words, Arguments& arguments,
                     std::string& error);
 std::string helpOf(const Command& command);
+/// "-o" or "--size".
+std::string dashed(const std::string& option);
 
 /// A number that is typed as an option's value; false where it is none, or outside.
 bool readNumber(const std::string& text, int lowest, int highest, int& number);
+/// A size in pixels, as in "800x600".
+bool readSize(const std::string& text, int& width, int& height);
 
 } // namespace scopix

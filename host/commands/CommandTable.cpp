@@ -2,6 +2,7 @@
 #include "commands/CommandTable.h"
 
 #include "commands/Commands.h"
+#include "commands/Manual.h"
 #include "commands/Output.h"
 
 #include <QCoreApplication>
@@ -21,13 +22,6 @@ namespace
 constexpr std::size_t Any = std::numeric_limits<std::size_t>::max();
 const Command::Option Json{"json", nullptr, "Write JSON instead of text."};
 const Command::Option Out{"o", "OUT", "Write this file and leave FILE as it is; \"-\" is standard output."};
-
-// Up to where more is said of it; points also stand before endings of files.
-std::string firstSentence(const std::string& text)
-{
-    const std::string first = text.substr(0, std::min(text.find(". "), text.find("; ")));
-    return first.back() == '.' ? first : first + '.';
-}
 
 } // namespace
 
@@ -143,6 +137,25 @@ const std::vector<Command>& allCommands()
           {"scopix stats --json lamp.xsg", "the same for other programs"}},
          "0",
          countScene},
+        {"measure",
+         "FILE",
+         "Draws a scene or model and prints what a frame costs; needs no display. The first ten "
+         "frames are not counted. With --against, medians are compared by the test of Mann and Whitney: "
+         "slower is what takes 5 % longer and would be so by chance less than once in a hundred.",
+         1,
+         1,
+         {{"frames", "N", "How many frames, from 1 to 3000; 120 at first."},
+          {"size", "WxH", "The size in pixels; 800x600 at first, or that of OLD."},
+          {"against", "OLD", "Compares with this recording."},
+          {"o", "OUT", "Keeps the frames as a recording."},
+          Json},
+         {{"scopix measure lamp.xsg --frames 20 --size 80x60",
+           "a table: phases, graphics card, draw calls and more"},
+          {"scopix measure lamp.xsg --frames 20 --size 80x60 -o before.xsgframes",
+           "keeps them for a comparison"},
+          {"scopix measure lamp.xsg --frames 20 --against before.xsgframes", "whether it became slower"}},
+         "0, 1 where it is slower than OLD",
+         measureScene},
     };
     return commands;
 }

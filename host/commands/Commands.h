@@ -16,5 +16,6 @@ int convertFile(const Arguments& arguments);
 int drawPicture(const Arguments& arguments);
 int checkFiles(const Arguments& arguments);
 int countScene(const Arguments& arguments);
+int measureScene(const Arguments& arguments);
 
 } // namespace scopix

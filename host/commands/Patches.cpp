@@ -3,7 +3,7 @@
 #include "commands/JsonText.h"
 #include "commands/Output.h"
 #include "commands/SceneFiles.h"
-#include "support/InputFile.h"
+#include "document/PatchFile.h"
 
 #include <xsg/changes/PatchApplication.h>
 #include <xsg/changes/SceneDiff.h>
@@ -15,8 +15,6 @@ namespace scopix
 
 namespace
 {
-
-constexpr qint64 LargestPatch = qint64{1} << 30;
 
 void writeCount(JsonText& json, const xsg::SceneChange::Count& count)
 {
@@ -67,16 +65,12 @@ void printJson(const xsg::SceneChanges& changes)
     print(json.take());
 }
 
-bool readPatch(const std::string& path, xsg::SceneChanges& changes)
+bool readOrComplain(const std::string& path, xsg::SceneChanges& changes)
 {
-    QByteArray content;
-    const QString reason = readFile(QFile::decodeName(path.c_str()), LargestPatch, content);
-    std::string error = path + ": The patch cannot be read: " + reason.toStdString() + ".";
-    const std::string_view text(content.constData(), static_cast<std::size_t>(content.size()));
-    if (reason.isEmpty() && xsg::PatchText::read(text, path, changes, error))
-        return true;
-    complain(error);
-    return false;
+    const QString error = readPatch(QFile::decodeName(path.c_str()), changes);
+    if (!error.isEmpty())
+        complain(error.toStdString());
+    return error.isEmpty();
 }
 
 void printResult(const xsg::PatchResult& result)
@@ -119,7 +113,7 @@ int applyPatch(const Arguments& arguments)
         complain("apply: --json and the scene cannot both go to standard output.");
         return Failed;
     }
-    if (!canWriteScene(out) || !readPatch(arguments.values[0], changes))
+    if (!canWriteScene(out) || !readOrComplain(arguments.values[0], changes))
         return Failed;
     SoRef<SoNode> root = loadOrComplain(file);
     if (!root)

@@ -29,7 +29,6 @@ namespace scopix
 namespace
 {
 
-constexpr int LargestSide = 16384;
 constexpr int MostFrames = 100000;
 constexpr double FrameSeconds = 1.0 / 30;
 constexpr float Quarter = 1.5707964F;
@@ -64,13 +63,6 @@ const std::array<Side, 7>& sides()
     return all;
 }
 
-bool takeSize(const std::string& text, Wanted& wanted)
-{
-    const std::size_t cross = text.find('x');
-    return cross != std::string::npos && readNumber(text.substr(0, cross), 1, LargestSide, wanted.width) &&
-           readNumber(text.substr(cross + 1), 1, LargestSide, wanted.height);
-}
-
 bool takeColor(const std::string& text, Wanted& wanted)
 {
     SbVec3f color;
@@ -84,7 +76,7 @@ bool takeColor(const std::string& text, Wanted& wanted)
 bool take(const Arguments& arguments, Wanted& wanted)
 {
     std::string problem;
-    if (arguments.has("size") && !takeSize(arguments.get("size"), wanted))
+    if (arguments.has("size") && !readSize(arguments.get("size"), wanted.width, wanted.height))
         problem = "--size expects WxH, such as 800x600, each from 1 to 16384, and not \"" +
                   arguments.get("size") + "\".";
     if (arguments.has("frames") && !readNumber(arguments.get("frames"), 1, MostFrames, wanted.frames))
@@ -196,6 +188,7 @@ int drawPicture(const Arguments& arguments)
     renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
     if (wanted.background)
         renderer.getRenderer().setBackground(*wanted.background);
+    SoSensorQueue::getInstance().process(); // a clip that the file has paused shows its time
     SoPixels pixels;
     for (int frame = 0; frame < wanted.frames; ++frame) {
         if (frame > 0)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/ChangedFields.h"
 
+#include <xsg/nodes/animation/SoAnimatedValues.h>
+
 namespace scopix
 {
 
@@ -31,7 +33,7 @@ SoField* ChangedFields::take()
 
 void ChangedFields::changed(const SoNotification& change)
 {
-    if (m_isStructureChanged)
+    if (m_isStructureChanged || SoAnimatedValues::getInstance().isWriting())
         return;
     m_isStructureChanged = !change.field;
     if (m_isStructureChanged) {

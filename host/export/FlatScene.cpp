@@ -7,6 +7,7 @@
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
 #include <map>
@@ -46,6 +47,7 @@ public:
     }
 
 protected:
+    void enterGroup(SoGroup* group) override { noteLoss(*group); }
     void visitShape(SoShape* shape) override
     {
         SoGeometry geometry;
@@ -59,17 +61,22 @@ protected:
     }
     void visitProperty(SoNode* node) override
     {
-        const QString kind = leftOutKind(*node);
-        if (!kind.isEmpty())
-            m_leftOut[kind].insert(node);
-        if (isA<SoMaterial>(*node))
+        noteLoss(*node);
+        if (isA<SoMaterial>(*node) || isA<SoPhysicalMaterial>(*node))
             m_materials.noteNode(*node);
     }
 
 private:
+    void noteLoss(const SoNode& node)
+    {
+        const QString kind = leftOutKind(node);
+        if (!kind.isEmpty())
+            m_leftOut[kind].insert(&node);
+    }
+
     void add(const SoShape& shape, const SoGeometry& geometry, const SbMatrix& toWorld)
     {
-        FlatScene::Mesh mesh{nearestName(shape), geometry, m_materials.placeOf(state())};
+        FlatScene::Mesh mesh{nearestName(shape), geometry, m_materials.placeOf(state(), shape)};
         for (SbVec3f& point : mesh.geometry.points)
             point = toWorld.multPoint(point);
         const SbMatrix forNormals = toWorld.inverse().value_or(SbMatrix()).transposed();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/GltfContent.h"
 
+#include "export/ColorEncoding.h"
 #include "export/ExportNames.h"
 
 #include <xsg/actions/SoTraversal.h>
@@ -10,6 +11,7 @@
 #include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoShape.h>
 #include <xsg/values/SbRotation.h>
 
@@ -49,7 +51,7 @@ public:
         traverse(&root);
         m_content.materials = m_materials.take();
         for (const ExportedMaterial& material : m_content.materials)
-            m_ownHighlights += hasItsOwnHighlight(material.look) ? 1 : 0;
+            m_ownHighlights += !material.physical && hasItsOwnHighlight(material.look) ? 1 : 0;
         for (const auto& kind : m_leftOut)
             m_content.leftOut.insert(kind.first, static_cast<int>(kind.second.size()));
         m_content.leftOut.insert(translated("colours of highlights"), m_ownHighlights);
@@ -68,6 +70,7 @@ protected:
             state().modelMatrix = SbMatrix();
         }
         m_instancing += isA<SoInstances>(*group) ? 1 : 0;
+        noteLoss(*group);
         if (isA<SoSwitch>(*group))
             lookAtHidden(*group);
     }
@@ -89,10 +92,8 @@ protected:
     }
     void visitProperty(SoNode* node) override
     {
-        const QString kind = lostKind(*node);
-        if (!kind.isEmpty())
-            m_leftOut[kind].insert(node);
-        if (isA<SoMaterial>(*node))
+        noteLoss(*node);
+        if (isA<SoMaterial>(*node) || isA<SoPhysicalMaterial>(*node))
             m_materials.noteNode(*node);
         else if (isA<SoLight>(*node))
             addLight(static_cast<const SoLight&>(*node));
@@ -101,6 +102,13 @@ protected:
     }
 
 private:
+    void noteLoss(const SoNode& node)
+    {
+        const QString kind = lostKind(node);
+        if (!kind.isEmpty())
+            m_leftOut[kind].insert(&node);
+    }
+
     std::size_t addNode(const SbMatrix& matrix, std::string name)
     {
         GltfContent::Node node;
@@ -133,7 +141,7 @@ private:
 
     int meshOf(const SoShape& shape)
     {
-        const std::size_t material = m_materials.placeOf(state());
+        const std::size_t material = m_materials.placeOf(state(), shape);
         std::vector<KnownMesh>& known = m_meshes[shape.getGeometryKey(state())];
         for (const KnownMesh& mesh : known) {
             if (mesh.material == material && mesh.textureMatrix == state().textureMatrix)
@@ -148,6 +156,13 @@ private:
         GltfContent::Mesh mesh{nearestName(shape), {}, material};
         shape.generate(state(), mesh.geometry);
         moveTextureCoordinates(state(), mesh.geometry);
+        // There is no second set without a first one.
+        if (!mesh.geometry.secondTextureCoordinates.empty())
+            mesh.geometry.textureCoordinates.resize(mesh.geometry.points.size());
+        if (!state().physicalMaterial) {
+            for (SbVec3f& color : mesh.geometry.colors)
+                color = toLinear(color);
+        }
         if (mesh.geometry.isScreenSpace || shape.asDrawingCallback())
             m_leftOut[translated("shapes without a place in space")].insert(&shape);
         if (mesh.geometry.isScreenSpace || mesh.geometry.index.empty())

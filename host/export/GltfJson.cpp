@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/GltfJson.h"
 
+#include "export/GltfMaterial.h"
 #include "model/ImageConversion.h"
 
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -94,6 +95,7 @@ public:
         insertList(root, "images", m_images);
         insertList(root, "cameras", cameras());
         addLights(root);
+        addExtensions(root);
         insertList(root, "accessors", m_buffer.getAccessors());
         insertList(root, "bufferViews", m_buffer.getViews());
         return {root, std::move(m_buffer)};
@@ -147,6 +149,8 @@ private:
             attributes.insert(key("NORMAL"), addVectors(geometry.normals));
         if (!geometry.textureCoordinates.empty())
             attributes.insert(key("TEXCOORD_0"), addTextureCoordinates(geometry.textureCoordinates));
+        if (!geometry.secondTextureCoordinates.empty())
+            attributes.insert(key("TEXCOORD_1"), addTextureCoordinates(geometry.secondTextureCoordinates));
         if (!geometry.colors.empty())
             attributes.insert(key("COLOR_0"), addVectors(geometry.colors));
         const int mode = geometry.kind == SoGeometry::Kind::Triangles ? ModeTriangles
@@ -201,28 +205,9 @@ private:
     {
         QJsonArray all;
         for (const ExportedMaterial& material : m_content.materials)
-            all.append(describe(material));
+            all.append(scopix::describe(
+                material, [this](const SoTexture2& each) { return textureOf(each); }, m_extensions));
         return all;
-    }
-
-    QJsonObject describe(const ExportedMaterial& material)
-    {
-        const SoMaterialState& look = material.look;
-        QJsonArray color = array(look.diffuse);
-        color.append(finite(1 - look.transparency));
-        QJsonObject surface{{key("baseColorFactor"), color},
-                            {key("metallicFactor"), 0},
-                            {key("roughnessFactor"), finite(1 - look.shininess)}};
-        const int texture = material.texture ? textureOf(*material.texture) : GltfContent::None;
-        if (texture >= 0)
-            surface.insert(key("baseColorTexture"), QJsonObject{{key("index"), texture}});
-        QJsonObject object{{key("name"), QString::fromStdString(material.name)},
-                           {key("pbrMetallicRoughness"), surface},
-                           {key("emissiveFactor"), array(look.emissive)},
-                           {key("doubleSided"), true}};
-        if (look.transparency > 0)
-            object.insert(key("alphaMode"), key("BLEND"));
-        return object;
     }
 
     int textureOf(const SoTexture2& texture)
@@ -289,15 +274,22 @@ private:
         return object;
     }
 
-    void addLights(QJsonObject& root) const
+    void addLights(QJsonObject& root)
     {
         if (m_content.lights.empty())
             return;
         QJsonArray all;
         for (const GltfContent::Light& light : m_content.lights)
             all.append(describe(light));
-        root.insert(key("extensionsUsed"), QJsonArray{LightsExtension});
+        m_extensions.insert(LightsExtension);
         root.insert(key("extensions"), QJsonObject{{LightsExtension, QJsonObject{{key("lights"), all}}}});
+    }
+
+    void addExtensions(QJsonObject& root) const
+    {
+        QStringList names = m_extensions.values();
+        names.sort();
+        insertList(root, "extensionsUsed", QJsonArray::fromStringList(names));
     }
 
     static QJsonObject describe(const GltfContent::Light& light)
@@ -319,6 +311,7 @@ private:
 
     const GltfContent& m_content;
     GltfBuffer m_buffer;
+    QSet<QString> m_extensions;
     QJsonArray m_textures;
     QJsonArray m_samplers;
     QJsonArray m_images;

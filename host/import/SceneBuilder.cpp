@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "import/SceneBuilder.h"
 
-#include "import/TransformBuilder.h"
+#include "import/MotionBuilder.h"
+#include "import/PhysicalMaterials.h"
 #include "text/NodeText.h"
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
@@ -14,6 +15,7 @@
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoSecondTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/shapes/SoIndexedLineSet.h>
@@ -52,6 +54,7 @@ public:
         , m_materials(model.materials.size())
         , m_pictures(model.pictures.size())
         , m_meshes(model.meshes.size())
+        , m_motion(model)
     {
     }
 
@@ -61,16 +64,19 @@ public:
         // it.
         std::vector<SoRef<SoSeparator>> nodes(m_model.nodes.size());
         for (std::size_t i = nodes.size(); i > 0; --i)
-            nodes[i - 1] = buildNode(m_model.nodes[i - 1], nodes);
+            nodes[i - 1] = buildNode(static_cast<int>(i - 1), nodes);
         if (nodes.empty())
             return SoRef<SoSeparator>(new SoSeparator);
-        addLights(*nodes.front());
+        const int lightCount = addLights(*nodes.front());
+        if (m_physical.areAny())
+            nodes.front()->insertChild(PhysicalMaterials::makeSurroundings(lightCount > 0), lightCount);
+        m_motion.finish(*nodes.front());
         return nodes.front();
     }
 
 private:
     // In a file a light shines on everything; here on what follows it. So all lights come first.
-    void addLights(SoSeparator& scene)
+    int addLights(SoSeparator& scene)
     {
         std::vector<SbMatrix> toWorld(m_model.nodes.size());
         int count = 0;
@@ -82,6 +88,7 @@ private:
             if (node.light >= 0)
                 scene.insertChild(makeLight(node, toWorld[i]), count++);
         }
+        return count;
     }
 
     static bool isBare(const ModelData::Node& node)
@@ -89,16 +96,17 @@ private:
         return node.light >= 0 && node.meshes.empty() && node.children.empty() && node.camera < 0;
     }
 
-    SoRef<SoSeparator> buildNode(const ModelData::Node& node, const std::vector<SoRef<SoSeparator>>& nodes)
+    SoRef<SoSeparator> buildNode(int place, const std::vector<SoRef<SoSeparator>>& nodes)
     {
+        const ModelData::Node& node = at(m_model.nodes, place);
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, node.name);
-        if (node.matrix != SbMatrix())
-            result->addChild(makePlacement(node.matrix));
+        if (SoTransformation* transform = m_motion.makeTransform(place))
+            result->addChild(transform);
         if (node.camera >= 0)
             result->addChild(makeCamera(at(m_model.cameras, node.camera)));
         for (const int mesh : node.meshes)
-            result->addChild(meshNode(mesh));
+            result->addChild(meshNode(mesh, place).get());
         for (const int child : node.children) {
             if (!isBare(at(m_model.nodes, child)))
                 result->addChild(at(nodes, child).get());
@@ -106,25 +114,38 @@ private:
         return result;
     }
 
-    SoNode* meshNode(int place)
+    SoRef<SoSeparator> meshNode(int mesh, int inNode)
     {
-        SoRef<SoSeparator>& node = at(m_meshes, place);
+        SoRef<SoSeparator>& node = at(m_meshes, mesh);
+        if (node && m_motion.isSkinned(mesh))
+            return bentCopy(*node, mesh, inNode);
         if (!node)
-            node = makeMesh(at(m_model.meshes, place));
-        return node.get();
+            node = makeMesh(mesh, inNode);
+        return node;
     }
 
-    SoRef<SoSeparator> makeMesh(ModelData::Mesh& mesh)
+    // With all the same but the skin, which depends on where it stands.
+    SoRef<SoSeparator> bentCopy(const SoSeparator& mesh, int place, int inNode)
     {
+        SoRef<SoSeparator> result(new SoSeparator);
+        result->setName(mesh.getName());
+        for (SoNode* child : mesh.getChildren()) {
+            const SoType type = child->getTypeId();
+            if (child->asShape())
+                m_motion.bend(*result, place, inNode);
+            if (type != SoSkin::getClassTypeId() && type != SoMorph::getClassTypeId())
+                result->addChild(child);
+        }
+        return result;
+    }
+
+    SoRef<SoSeparator> makeMesh(int place, int inNode)
+    {
+        ModelData::Mesh& mesh = at(m_model.meshes, place);
         SoRef<SoSeparator> result(new SoSeparator);
         setName(*result, mesh.name);
         const bool colored = !mesh.colors.empty();
-        if (colored)
-            result->addChild(makeColored(mesh));
-        else if (mesh.material >= 0)
-            result->addChild(materialNode(mesh.material));
-        if (mesh.material >= 0 && !mesh.textureCoordinates.empty())
-            addTexture(*result, at(m_model.materials, mesh.material));
+        addLook(*result, mesh);
         const std::size_t pointCount = mesh.points.size();
         auto* points = new SoPoints;
         result->addChild(points);
@@ -139,13 +160,33 @@ private:
             result->addChild(coordinates);
             coordinates->points.setValues(std::move(mesh.textureCoordinates));
         }
+        if (!mesh.secondTextureCoordinates.empty()) {
+            auto* coordinates = new SoSecondTextureCoordinates;
+            result->addChild(coordinates);
+            coordinates->points.setValues(std::move(mesh.secondTextureCoordinates));
+        }
         if (mesh.corners == 1)
             result->addChild(makeDots());
+        m_motion.bend(*result, place, inNode);
         SoVertexShape* shape = makeShape(mesh, pointCount);
         result->addChild(shape);
         if (colored)
             shape->colorBinding.setValue(SoVertexShape::PerVertex);
         return result;
+    }
+
+    void addLook(SoSeparator& group, ModelData::Mesh& mesh)
+    {
+        if (mesh.material >= 0 && at(m_model.materials, mesh.material).physical.isPhysical != 0) {
+            m_physical.addTo(group, mesh.material, mesh);
+            return;
+        }
+        if (!mesh.colors.empty())
+            group.addChild(makeColored(mesh));
+        else if (mesh.material >= 0)
+            group.addChild(materialNode(mesh.material));
+        if (mesh.material >= 0 && !mesh.textureCoordinates.empty())
+            addTexture(group, at(m_model.materials, mesh.material));
     }
 
     // Points of one pixel are hardly seen where they are few.
@@ -322,9 +363,11 @@ private:
     }
 
     ModelData& m_model;
+    PhysicalMaterials m_physical{m_model};
     std::vector<SoRef<SoMaterial>> m_materials;
     std::vector<SoRef<SoTexture2>> m_pictures;
     std::vector<SoRef<SoSeparator>> m_meshes;
+    MotionBuilder m_motion;
 };
 
 } // namespace

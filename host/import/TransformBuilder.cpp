@@ -59,7 +59,7 @@ bool isNear(const SbMatrix& a, const SbMatrix& b)
 
 } // namespace
 
-SoTransformation* makePlacement(const SbMatrix& matrix)
+SoTransform* makeMovablePlacement(const SbMatrix& matrix)
 {
     SbVec3f axes[3] = {row(matrix, 0), row(matrix, 1), row(matrix, 2)};
     SbVec3f scale(axes[0].length(), axes[1].length(), axes[2].length());
@@ -70,17 +70,23 @@ SoTransformation* makePlacement(const SbMatrix& matrix)
         turns = turns && scale[i] != 0;
         axes[i] = axes[i] * (scale[i] != 0 ? 1 / scale[i] : 1);
     }
-    if (turns) {
-        SoRef<SoTransform> transform(new SoTransform);
-        if (const SbVec3f move = row(matrix, 3); move != SbVec3f())
-            transform->translation.setValue(move);
-        if (const SbRotation turn = rotationOf(axes); turn != SbRotation())
-            transform->rotation.setValue(turn);
-        if (scale != SbVec3f(1, 1, 1))
-            transform->scaleFactor.setValue(scale);
-        if (isNear(transform->getMatrix(), matrix))
-            return transform.release();
-    }
+    auto* transform = new SoTransform;
+    if (const SbVec3f move = row(matrix, 3); move != SbVec3f())
+        transform->translation.setValue(move);
+    if (const SbRotation turn = turns ? rotationOf(axes) : SbRotation(); turn != SbRotation())
+        transform->rotation.setValue(turn);
+    if (scale != SbVec3f(1, 1, 1))
+        transform->scaleFactor.setValue(scale);
+    return transform;
+}
+
+SoTransformation* makePlacement(const SbMatrix& matrix)
+{
+    SoRef<SoTransform> transform(makeMovablePlacement(matrix));
+    const SbVec3f scale = transform->scaleFactor.getValue();
+    const bool isFlat = scale[0] == 0 || scale[1] == 0 || scale[2] == 0;
+    if (!isFlat && isNear(transform->getMatrix(), matrix))
+        return transform.release();
     auto* exact = new SoMatrixTransform;
     exact->matrix.setValue(matrix);
     return exact;

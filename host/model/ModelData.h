@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "model/ModelMotion.h"
+
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbRotation.h>
 
@@ -19,10 +21,39 @@ struct ModelData {
         int material = -1;
         int corners = 3; // of each part of the index: 1 for points, 2 for lines, 3 for triangles
         std::vector<SbVec3f> points;
-        std::vector<SbVec3f> normals;            // one per point, or none
-        std::vector<SbVec2f> textureCoordinates; // one per point, or none
-        std::vector<SbVec3f> colors;             // one per point, or none
+        std::vector<SbVec3f> normals;                  // one per point, or none
+        std::vector<SbVec2f> textureCoordinates;       // one per point, or none
+        std::vector<SbVec2f> secondTextureCoordinates; // one per point, or none
+        std::vector<SbVec3f> colors;                   // one per point, or none
         std::vector<std::int32_t> index;
+    };
+
+    /// The values of a physical material, whose node says what they are.
+    struct PhysicalSurface {
+        std::int32_t isPhysical = 0; // 0: the values of Material count
+        std::int32_t alphaMode = 0;
+        SbColor baseColor{1, 1, 1};
+        SbColor emissive;
+        float emissiveStrength = 1;
+        float metallic = 1;
+        float roughness = 1;
+        float normalScale = 1;
+        float occlusionStrength = 1;
+        float clearCoat = 0;
+        float clearCoatRoughness = 0;
+        float clearCoatNormalScale = 1;
+        float opacity = 1;
+        float alphaCutoff = 0.5F;
+    };
+    struct SurfacePicture {
+        std::int32_t use = 0; // as SoMaterialTexture has them
+        std::int32_t picture = -1;
+        std::int32_t coordinates = 0; // 0 the first, 1 the second
+        std::int32_t clampS = 0;
+        std::int32_t clampT = 0;
+        SbVec2f translation;
+        SbVec2f scaleFactor{1, 1};
+        float rotation = 0;
     };
 
     struct Material {
@@ -36,6 +67,8 @@ struct ModelData {
         int picture = -1;
         bool clampS = false;
         bool clampT = false;
+        PhysicalSurface physical;
+        std::vector<SurfacePicture> pictures; // of the physical surface
     };
 
     /// Rows from the bottom up.
@@ -85,6 +118,7 @@ struct ModelData {
     std::vector<Light> lights;
     std::vector<Camera> cameras;
     std::vector<Node> nodes;
+    ModelMotion motion;
 };
 
 } // namespace scopix

@@ -24,17 +24,30 @@ auto membersOf(Part& part)
     using Plain = std::remove_const_t<Part>;
     if constexpr (std::is_same_v<Plain, ModelData::Mesh>) {
         return std::tie(part.name, part.material, part.corners, part.points, part.normals,
-                        part.textureCoordinates, part.colors, part.index);
+                        part.textureCoordinates, part.secondTextureCoordinates, part.colors, part.index);
     } else if constexpr (std::is_same_v<Plain, ModelData::Material>) {
         return std::tie(part.name, part.ambient, part.diffuse, part.specular, part.emissive, part.shininess,
-                        part.transparency, part.picture, part.clampS, part.clampT);
+                        part.transparency, part.picture, part.clampS, part.clampT, part.physical,
+                        part.pictures);
     } else if constexpr (std::is_same_v<Plain, ModelData::Picture>) {
         return std::tie(part.name, part.width, part.height, part.components, part.bytes);
+    } else if constexpr (std::is_same_v<Plain, ModelMotion>) {
+        return std::tie(part.skins, part.morphs, part.clips);
+    } else if constexpr (std::is_same_v<Plain, ModelMotion::Skin>) {
+        return std::tie(part.mesh, part.bones, part.binds, part.bonesPerPoint, part.boneIndices,
+                        part.weights);
+    } else if constexpr (std::is_same_v<Plain, ModelMotion::Morph>) {
+        return std::tie(part.mesh, part.weights, part.pointOffsets, part.normalOffsets);
+    } else if constexpr (std::is_same_v<Plain, ModelMotion::Clip>) {
+        return std::tie(part.name, part.seconds, part.tracks);
+    } else if constexpr (std::is_same_v<Plain, ModelMotion::Track>) {
+        return std::tie(part.node, part.property, part.between, part.times, part.values);
     } else if constexpr (std::is_same_v<Plain, ModelData::Node>) {
         return std::tie(part.name, part.matrix, part.meshes, part.children, part.light, part.camera);
     } else {
         static_assert(std::is_same_v<Plain, ModelData>);
-        return std::tie(part.meshes, part.materials, part.pictures, part.lights, part.cameras, part.nodes);
+        return std::tie(part.meshes, part.materials, part.pictures, part.lights, part.cameras, part.nodes,
+                        part.motion);
     }
 }
 
@@ -121,6 +134,34 @@ bool isPlace(int place, const List& list)
     return place >= -1 && place < static_cast<int>(list.size());
 }
 
+template <class List>
+bool isItem(int place, const List& list)
+{
+    return place >= 0 && isPlace(place, list);
+}
+
+bool isConsistent(const ModelMotion::Skin& skin, const ModelData& model)
+{
+    return isItem(skin.mesh, model.meshes) && skin.binds.size() == skin.bones.size() &&
+           std::all_of(skin.bones.begin(), skin.bones.end(),
+                       [&](int bone) { return isItem(bone, model.nodes); }) &&
+           std::all_of(skin.boneIndices.begin(), skin.boneIndices.end(),
+                       [&](int bone) { return isPlace(bone, skin.bones); });
+}
+
+bool isConsistent(const ModelMotion& motion, const ModelData& model)
+{
+    const auto hasMesh = [&](const ModelMotion::Morph& morph) { return isItem(morph.mesh, model.meshes); };
+    const auto hasNodes = [&](const ModelMotion::Clip& clip) {
+        return std::all_of(clip.tracks.begin(), clip.tracks.end(),
+                           [&](const auto& track) { return isItem(track.node, model.nodes); });
+    };
+    return std::all_of(motion.skins.begin(), motion.skins.end(),
+                       [&](const auto& skin) { return isConsistent(skin, model); }) &&
+           std::all_of(motion.morphs.begin(), motion.morphs.end(), hasMesh) &&
+           std::all_of(motion.clips.begin(), motion.clips.end(), hasNodes);
+}
+
 bool isConsistent(const ModelData& model)
 {
     const auto allOf = [](const auto& list, auto good) {
@@ -132,12 +173,17 @@ bool isConsistent(const ModelData& model)
                allOf(node.meshes, [&](int mesh) { return mesh >= 0 && isPlace(mesh, model.meshes); }) &&
                allOf(node.children, [&](int child) { return child > place && isPlace(child, model.nodes); });
     };
-    return allOf(model.nodes, isNode) &&
+    return allOf(model.nodes, isNode) && isConsistent(model.motion, model) &&
            allOf(model.meshes,
                  [&](const auto& mesh) {
                      return isPlace(mesh.material, model.materials) && mesh.corners >= 1 && mesh.corners <= 3;
                  }) &&
-           allOf(model.materials, [&](const auto& look) { return isPlace(look.picture, model.pictures); });
+           allOf(model.materials, [&](const auto& look) {
+               return isPlace(look.picture, model.pictures) && allOf(look.pictures, [&](const auto& each) {
+                          return isPlace(each.picture, model.pictures) && each.use >= 0 && each.use < 8 &&
+                                 (each.coordinates == 0 || each.coordinates == 1);
+                      });
+           });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "panels/FieldListModel.h"
 
 #include "panels/FieldStateIcons.h"
+#include "structure/MirroredNode.h"
 #include "text/NodeText.h"
 #include "text/ValueText.h"
 #include "theme/SvgIcon.h"
@@ -110,14 +111,36 @@ QString FieldListModel::toolTip(const SoField& field) const
         parts += tr("ignored");
     if (field.isConnected())
         parts += tr("follows another field");
+    const QString remark = remarkOn(field);
+    if (!remark.isEmpty())
+        parts += remark;
     return parts.join(QStringLiteral(", ")) + QLatin1Char('\n') + valueText(field, ToolTipLength);
+}
+
+bool FieldListModel::isGrey() const
+{
+    const MirroredNode* mirrored = MirroredNode::of(m_container);
+    return mirrored && !mirrored->refusal().isEmpty();
+}
+
+QString FieldListModel::remarkOn(const SoField& field)
+{
+    const MirroredNode* mirrored = MirroredNode::of(field.getContainer());
+    return mirrored ? mirrored->remarkOn(field) : QString();
+}
+
+void FieldListModel::lookAgain()
+{
+    if (!m_rows.empty())
+        emit dataChanged(index(0, NameColumn), index(rowCount() - 1, ValueColumn));
 }
 
 // A null icon would take up the room of one.
 QVariant FieldListModel::icon(const SoField& field, int column) const
 {
     if (column == NameColumn)
-        return fieldStateIcon(field, surface());
+        return remarkOn(field).isEmpty() ? fieldStateIcon(field, surface())
+                                         : svgIcon(QStringLiteral("field-refused"), surface());
     const QIcon swatch = column == ValueColumn ? valueSwatch(field, surface()) : QIcon();
     return swatch.isNull() ? QVariant() : swatch;
 }
@@ -141,7 +164,7 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return icon(*field, index.column());
     case Qt::ForegroundRole:
-        if (field->isIgnored() || index.column() == TypeColumn)
+        if (field->isIgnored() || isGrey() || index.column() == TypeColumn)
             return paletteOf(surface()).brush(QPalette::Disabled, QPalette::Text);
         return {};
     case DefaultRole:

@@ -31,6 +31,8 @@ public:
 
     /// Null shows nothing. Not kept alive: the model empties itself before the container is destroyed.
     void setContainer(SoFieldContainer* container);
+    /// What is said about the fields, other than their values, may have changed.
+    void lookAgain();
     SoFieldContainer* getContainer() const { return m_container; }
 
     /// Null for an invalid index.
@@ -49,6 +51,8 @@ private:
     static void containerDying(void* self, SoFieldContainer* dying);
     QVariant text(const SoField& field, int column) const;
     QString toolTip(const SoField& field) const;
+    static QString remarkOn(const SoField& field);
+    bool isGrey() const;
     QVariant icon(const SoField& field, int column) const;
     const QWidget* surface() const;
 

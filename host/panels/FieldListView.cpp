@@ -79,6 +79,11 @@ void FieldListView::setContainer(SoFieldContainer* container)
     m_model->setContainer(container);
 }
 
+void FieldListView::lookAgain()
+{
+    m_model->lookAgain();
+}
+
 void FieldListView::showField(const SoField* field)
 {
     const QScopedValueRollback<bool> quiet(m_quiet, true);

@@ -20,6 +20,8 @@ public:
     explicit FieldListView(QWidget* parent = nullptr);
 
     void setContainer(SoFieldContainer* container);
+    /// As of the model.
+    void lookAgain();
     FieldListModel& getModel() const { return *m_model; }
 
     /// Selects the field's row, showing its node first where it is another one. Emits nothing.

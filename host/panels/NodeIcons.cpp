@@ -24,14 +24,20 @@ constexpr Family Families[] = {
     {"Separator", "node-separator"},
     {"Switch", "node-switch"},
     {"Instances", "node-instances"},
+    {"Animation", "node-animation"},
     {"Group", "node-group"},
     {"Spin", "node-spin"},
+    {"Track", "node-track"},
+    {"Skin", "node-skin"},
+    {"Morph", "node-skin"},
     {"Transformation", "node-transform"},
     {"Material", "node-material"},
+    {"PhysicalMaterial", "node-material"},
     {"Texture2", "node-texture"},
     {"TextureTransform", "node-texture"},
     {"Light", "node-light"},
     {"AmbientLight", "node-light"},
+    {"EnvironmentLight", "node-light"},
     {"Camera", "node-camera"},
     {"Solid", "node-solid"},
     {"LineSet", "node-lines"},
@@ -49,8 +55,9 @@ constexpr Family Families[] = {
 
 QString findIconName(SoType type)
 {
+    const SoType own = SoType::fromName(toName(typeText(type))); // what it is most like
     for (const Family& family : Families) {
-        if (type.isDerivedFrom(SoType::fromName(family.type)))
+        if (own.isDerivedFrom(SoType::fromName(family.type)))
             return QLatin1String(family.icon);
     }
     return {};

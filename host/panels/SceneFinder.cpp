@@ -2,6 +2,9 @@
 #include "panels/SceneFinder.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
+
+#include <algorithm>
 
 namespace scopix
 {
@@ -36,13 +39,43 @@ void SceneFinder::setRoot(SoNode* root)
 
 void SceneFinder::setQuery(const QString& text)
 {
+    m_text = text;
     m_query = SoQuery(text.toStdString());
     begin();
 }
 
 QString SceneFinder::getError() const
 {
-    return QString::fromStdString(m_query.getError());
+    return m_isElsewhere ? QString() : QString::fromStdString(m_query.getError());
+}
+
+const std::vector<SoRef<SoNode>>& SceneFinder::getFound() const
+{
+    return m_isElsewhere ? m_foundElsewhere : m_shown.getFound();
+}
+
+bool SceneFinder::isFound(const SoNode* node) const
+{
+    const auto is = [node](const SoRef<SoNode>& each) { return each.get() == node; };
+    return m_isElsewhere ? std::any_of(m_foundElsewhere.begin(), m_foundElsewhere.end(), is)
+                         : m_shown.isFound(node);
+}
+
+bool SceneFinder::beginElsewhere()
+{
+    const int search = ++m_searches;
+    const QPointer<SceneFinder> self(this);
+    m_foundElsewhere.clear();
+    m_hasCome = false;
+    m_isElsewhere = m_elsewhere && !m_text.trimmed().isEmpty() &&
+                    m_elsewhere(m_text.trimmed(), [self, search](const std::vector<SoNode*>& found) {
+                        if (!self || self->m_searches != search)
+                            return;
+                        self->m_foundElsewhere.assign(found.begin(), found.end());
+                        self->m_hasCome = true;
+                        emit self->foundChanged();
+                    });
+    return m_isElsewhere;
 }
 
 void SceneFinder::begin()
@@ -50,6 +83,13 @@ void SceneFinder::begin()
     m_repeat.stop();
     m_repeats = false;
     m_repeated = SoQuerySearch();
+    if (beginElsewhere()) {
+        m_shown = SoQuerySearch();
+        m_sensor.detach();
+        m_pieces.stop();
+        emit foundChanged();
+        return;
+    }
     m_shown = SoQuerySearch(m_query, m_root.get());
     if (hasQuery())
         m_sensor.attach(m_root.get());

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 namespace scopix
 {
 
@@ -21,6 +23,12 @@ public:
     explicit SceneFinder(QObject* parent = nullptr);
     ~SceneFinder() override;
 
+    /// Finds in place of the finder, for scenes that are not here as a whole: hands over what it found, later
+    /// perhaps, or answers false where it does not know the scene.
+    using Found = std::function<void(const std::vector<SoNode*>&)>;
+    using FindElsewhere = std::function<bool(const QString& query, const Found& found)>;
+    void setElsewhere(FindElsewhere elsewhere) { m_elsewhere = std::move(elsewhere); }
+
     void setRoot(SoNode* root);
     void setQuery(const QString& text);
     bool hasQuery() const { return !m_query.isEmpty(); }
@@ -28,10 +36,10 @@ public:
     QString getError() const;
 
     /// In the scene's order.
-    const std::vector<SoRef<SoNode>>& getFound() const { return m_shown.getFound(); }
-    bool isFound(const SoNode* node) const { return m_shown.isFound(node); }
+    const std::vector<SoRef<SoNode>>& getFound() const;
+    bool isFound(const SoNode* node) const;
     /// False while more may still be found.
-    bool isFinished() const { return m_shown.isFinished(); }
+    bool isFinished() const { return m_isElsewhere ? m_hasCome : m_shown.isFinished(); }
 
 signals:
     /// More was found, the search ended, or another one began.
@@ -40,9 +48,16 @@ signals:
 private:
     static void sceneChanged(void* self, SoSensor* sensor);
     void begin();
+    bool beginElsewhere();
     void beginAgain();
     void advance();
 
+    FindElsewhere m_elsewhere;
+    bool m_isElsewhere = false; // the present search
+    bool m_hasCome = false;     // what was found there
+    int m_searches = 0;         // begun so far: an answer to an earlier one is too late
+    std::vector<SoRef<SoNode>> m_foundElsewhere;
+    QString m_text;
     SoQuery m_query;
     SoQuerySearch m_shown;
     SoQuerySearch m_repeated; // replaces the shown one when it has ended

@@ -3,8 +3,10 @@
 
 #include "panels/NodeFigures.h"
 #include "panels/NodeIcons.h"
+#include "structure/MirroredNode.h"
 #include "structure/Places.h"
 #include "text/NodeText.h"
+#include "theme/SvgIcon.h"
 
 #include <xsg/actions/SoPath.h>
 #include <xsg/nodes/groups/SoGroup.h>
@@ -140,8 +142,27 @@ std::vector<SoNode*> SceneTreeModel::childrenOf(SoNode& node) const
 bool SceneTreeModel::hasShownChildren(SoNode& node) const
 {
     const SoGroup* group = node.asGroup();
-    return group && std::any_of(group->getChildren().begin(), group->getChildren().end(),
-                                [this](const SoNode* child) { return isShown(child); });
+    return group &&
+           (mayGetChildren(node) || std::any_of(group->getChildren().begin(), group->getChildren().end(),
+                                                [this](const SoNode* child) { return isShown(child); }));
+}
+
+bool SceneTreeModel::mayGetChildren(SoNode& node) const
+{
+    const MirroredNode* mirrored = isShowingAll() ? MirroredNode::of(&node) : nullptr;
+    return mirrored && mirrored->mayHaveMoreChildren();
+}
+
+bool SceneTreeModel::canFetchMore(const QModelIndex& parent) const
+{
+    const Item* item = parent.column() > 0 ? nullptr : itemAt(parent);
+    return item && mayGetChildren(*item->node);
+}
+
+void SceneTreeModel::fetchMore(const QModelIndex& parent)
+{
+    if (MirroredNode* mirrored = MirroredNode::of(nodeAt(parent)))
+        mirrored->fetchChildren();
 }
 
 void SceneTreeModel::listChildren(Item& item) const
@@ -246,7 +267,7 @@ bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
         return false;
     Item* item = itemAt(parent);
     if (item->listed)
-        return !item->children.empty();
+        return !item->children.empty() || mayGetChildren(*item->node);
     item->reportedExpandable = hasShownChildren(*item->node);
     return item->reportedExpandable;
 }
@@ -263,7 +284,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     if (!item)
         return {};
     const SoNode& node = *item->node;
-    const QString type = toQString(node.getTypeId().getName());
+    const QString type = typeText(node.getTypeId());
     const bool named = !readableName(node).isEmpty();
     switch (role) {
     case Qt::DisplayRole:
@@ -276,6 +297,12 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
         return named ? tr("%1 “%2”").arg(type, nodeText(node)) : type;
     case Qt::DecorationRole:
         return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId(), surface())) : QVariant();
+    case Qt::ForegroundRole: {
+        const MirroredNode* mirrored = MirroredNode::of(&node);
+        return mirrored && !mirrored->refusal().isEmpty()
+                   ? paletteOf(surface()).brush(QPalette::Disabled, QPalette::Text)
+                   : QVariant();
+    }
     case Qt::FontRole: {
         QFont font;
         font.setItalic(!named);
@@ -306,7 +333,7 @@ QVariant SceneTreeModel::text(const SoNode& node, int column) const
     case NameColumn:
         return nodeText(node);
     case TypeColumn:
-        return toQString(node.getTypeId().getName());
+        return typeText(node.getTypeId());
     case PlacesColumn: {
         const int places = countPlaces(&node, getRoot(), MostPlaces);
         return QLocale().toString(places) + (places == MostPlaces ? QStringLiteral("+") : QString());

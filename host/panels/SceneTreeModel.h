@@ -63,6 +63,8 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     bool hasChildren(const QModelIndex& parent = {}) const override;
+    bool canFetchMore(const QModelIndex& parent) const override;
+    void fetchMore(const QModelIndex& parent) override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     /// By what a column shows; -1: in the scene's order, as at first.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
@@ -96,6 +98,7 @@ private:
     QModelIndex indexOfItem(Item& item, int column = NameColumn) const;
     std::vector<SoNode*> childrenOf(SoNode& node) const;
     bool hasShownChildren(SoNode& node) const;
+    bool mayGetChildren(SoNode& node) const;
     bool isShown(const SoNode* node) const { return !m_shown || m_shown->count(node) > 0; }
     void listChildren(Item& item) const;
     void listAgain();

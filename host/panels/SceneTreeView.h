@@ -57,6 +57,10 @@ public:
     void setMarked(NodeTest isMarked) { m_isMarked = std::move(isMarked); }
     bool isMarked(const SoNode* node) const { return m_isMarked && m_isMarked(node); }
 
+    /// The rows whose nodes it is true for have a dot.
+    void setChanged(NodeTest isChanged) { m_isChanged = std::move(isChanged); }
+    bool isChanged(const SoNode* node) const { return m_isChanged && m_isChanged(node); }
+
     /// What of the scene is hidden and locked, for the eyes in the rows; it must outlive the view.
     void setStates(const SceneStates* states);
     const SceneStates* getStates() const { return m_states; }
@@ -127,6 +131,7 @@ private:
     TreeRowDelegate* m_rows;
     const SceneStates* m_states = nullptr;
     NodeTest m_isMarked;
+    NodeTest m_isChanged;
     std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
     QList<QPersistentModelIndex> m_order; // of the selected rows
     int m_sorted = -1;                    // by a click on this column

@@ -27,6 +27,12 @@ QRect nodeIconIn(const QRect& icons)
     return eyeIn(icons).translated(Icon + Gap, 0);
 }
 
+// Before the place of the lock.
+QRect dotIn(const QRect& row, const QRect& icons)
+{
+    return {row.right() - 2 * Icon - Gap, eyeIn(icons).top(), Icon, Icon};
+}
+
 QString eyeIcon(bool isHidden, bool isByOther)
 {
     return isHidden    ? QStringLiteral("eye-closed")
@@ -87,6 +93,9 @@ void TreeRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const QRect icons = iconsIn(row);
     const QIcon::Mode mode = row.state & QStyle::State_Selected ? QIcon::Selected : QIcon::Normal;
     index.data(Qt::DecorationRole).value<QIcon>().paint(painter, nodeIconIn(icons), Qt::AlignCenter, mode);
+    if (m_view.isChanged(node))
+        svgIcon(QStringLiteral("field-changed"), &m_view)
+            .paint(painter, dotIn(row.rect, icons), Qt::AlignCenter, mode);
     const SceneStates* states = m_view.getStates();
     if (!states)
         return;

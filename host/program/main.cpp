@@ -68,6 +68,12 @@ int main(int argc, char** argv)
         print(stdout, line.help ? scopix::CommandLine::helpText() : scopix::CommandLine::versionText());
         return 0;
     }
+    if (line.listsLive) {
+        std::fputs(scopix::CommandLine::liveText().toLocal8Bit().constData(), stdout);
+        return 0;
+    }
+    if (!line.save.isEmpty())
+        return scopix::Commands::save(line);
     if (!chooseWindowSystem(line)) {
         print(stderr,
               QCoreApplication::translate(

@@ -2,6 +2,7 @@
 #include "reader/AssimpMaterial.h"
 
 #include "reader/ModelPictures.h"
+#include "reader/PhysicalMaterial.h"
 
 #include <assimp/GltfMaterial.h>
 #include <assimp/material.h>
@@ -111,8 +112,10 @@ ModelData::Material fromAssimp(const aiMaterial& material, ModelPictures& pictur
         takeClassic(material, result);
     result.ambient = rounded(result.diffuse * AmbientPart);
     result.transparency = transparencyOf(material);
+    result.physical = physicalSurfaceOf(material);
+    result.pictures = surfacePicturesOf(material, pictures);
     TextureUse use;
-    if (findTexture(material, use)) {
+    if (!isPhysical(material) && findTexture(material, use)) {
         result.picture = pictures.add(use.path.C_Str());
         result.clampS = use.mode[0] == aiTextureMapMode_Clamp;
         result.clampT = use.mode[1] == aiTextureMapMode_Clamp;

@@ -2,7 +2,9 @@
 #include "reader/AssimpModel.h"
 
 #include "reader/AssimpMaterial.h"
+#include "reader/AssimpMotion.h"
 #include "reader/ModelPictures.h"
+#include "reader/PhysicalMaterial.h"
 
 #include <assimp/commonMetaData.h>
 #include <assimp/scene.h>
@@ -54,7 +56,15 @@ int cornersOf(const aiMesh& mesh)
     return mesh.mPrimitiveTypes & aiPrimitiveType_LINE ? 2 : 1;
 }
 
-ModelData::Mesh toMesh(const aiMesh& mesh)
+std::vector<SbVec2f> toCoordinates(const aiMesh& mesh, int place)
+{
+    if (place < 0 || place >= AI_MAX_NUMBER_OF_TEXTURECOORDS)
+        return {};
+    return converted<SbVec2f>(mesh.mTextureCoords[place], mesh.mNumVertices,
+                              [](const aiVector3D& v) { return SbVec2f(v.x, v.y); });
+}
+
+ModelData::Mesh toMesh(const aiScene& scene, const aiMesh& mesh)
 {
     ModelData::Mesh result;
     result.name = mesh.mName.C_Str();
@@ -62,8 +72,9 @@ ModelData::Mesh toMesh(const aiMesh& mesh)
     const unsigned count = mesh.mNumVertices;
     result.points = converted<SbVec3f>(mesh.mVertices, count, toVec);
     result.normals = converted<SbVec3f>(mesh.mNormals, count, toVec);
-    result.textureCoordinates = converted<SbVec2f>(mesh.mTextureCoords[0], count,
-                                                   [](const aiVector3D& v) { return SbVec2f(v.x, v.y); });
+    const std::array<int, 2> coordinates = coordinatesOf(*scene.mMaterials[mesh.mMaterialIndex]);
+    result.textureCoordinates = toCoordinates(mesh, coordinates[0]);
+    result.secondTextureCoordinates = toCoordinates(mesh, coordinates[1]);
     result.colors =
         converted<SbVec3f>(mesh.mColors[0], count, [](const aiColor4D& c) { return SbVec3f(c.r, c.g, c.b); });
     result.corners = cornersOf(mesh);
@@ -244,12 +255,13 @@ ModelData fromAssimp(const aiScene& scene, ModelPictures& pictures)
 {
     ModelData model;
     for (unsigned i = 0; i < scene.mNumMeshes; ++i)
-        model.meshes.push_back(toMesh(*scene.mMeshes[i]));
+        model.meshes.push_back(toMesh(scene, *scene.mMeshes[i]));
     for (unsigned i = 0; i < scene.mNumMaterials; ++i)
         model.materials.push_back(fromAssimp(*scene.mMaterials[i], pictures));
     model.pictures = pictures.takePictures();
     if (scene.mRootNode)
         NodeCollector(scene, model).collect();
+    model.motion = motionOf(scene, model);
     return model;
 }
 

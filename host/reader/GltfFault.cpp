@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "reader/FormatChecks.h"
 
+#include "reader/GltfText.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtEndian>
 
 namespace scopix
 {
@@ -18,18 +19,6 @@ constexpr qint64 LargestText = 64 << 20; // what is larger is not looked into fo
 QString tr(const char* text)
 {
     return QCoreApplication::translate("GltfFault", text);
-}
-
-// A binary file has the text in its first chunk, behind two headers.
-QByteArray textOf(QFile& file)
-{
-    constexpr int Headers = 20;
-    const QByteArray head = file.peek(Headers);
-    if (!head.startsWith("glTF"))
-        return file.read(LargestText);
-    file.skip(Headers);
-    const auto size = head.size() == Headers ? qFromLittleEndian<quint32>(head.constData() + 12) : 0;
-    return file.read(std::min<qint64>(size, LargestText));
 }
 
 QString parseFault(const QByteArray& text, const QJsonParseError& error)
@@ -59,7 +48,7 @@ QString gltfFault(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > LargestText)
         return {};
-    const QByteArray text = textOf(file);
+    const QByteArray text = readGltfText(file);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     return error.error == QJsonParseError::NoError ? versionFault(document.object())

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "reader/LeftOut.h"
 
+#include "reader/AssimpMotion.h"
+#include "reader/PhysicalMaterial.h"
+
 #include <assimp/material.h>
 #include <assimp/scene.h>
 
@@ -77,7 +80,8 @@ bool hasMap(const aiMaterial& material, const MapKind& kind)
 {
     return std::any_of(kind.types.begin(), kind.types.end(), [&](aiTextureType type) {
         const aiString path = pathOf(material, type);
-        return path.length > 0 && !(path == pathOf(material, aiTextureType_DIFFUSE)) &&
+        return path.length > 0 && !keepsPicture(material, path) &&
+               !(path == pathOf(material, aiTextureType_DIFFUSE)) &&
                !(path == pathOf(material, aiTextureType_BASE_COLOR));
     });
 }
@@ -113,20 +117,31 @@ QStringList missing(const QStringList& names, const char* one, const char* sever
 QStringList partsLeftOut(const aiScene& scene)
 {
     QStringList sentences;
-    add(sentences, scene.mNumAnimations, "1 animation is left out.", "%1 animations are left out.");
-    add(sentences,
-        sumOf(scene.mMeshes, scene.mNumMeshes, [](const aiMesh& mesh) { return mesh.mNumAnimMeshes; }),
-        "1 morph target is left out.", "%1 morph targets are left out.");
-    add(sentences,
-        sumOf(scene.mMeshes, scene.mNumMeshes,
-              [](const aiMesh& mesh) { return mesh.mNumBones > 0 ? 1U : 0U; }),
-        "The skin of 1 mesh is left out, which keeps the pose that it was made in.",
-        "The skins of %1 meshes are left out, which keep the pose that they were made in.");
+    add(sentences, countTracksLeftOut(scene),
+        "1 track of an animation moves what there is no node for, and is left out.",
+        "%1 tracks of animations move what there are no nodes for, and are left out.");
+    add(sentences, countMovedLights(scene), "The movement of 1 light is left out.",
+        "The movements of %1 lights are left out.");
     for (const MapKind& kind : mapKinds())
         add(sentences,
             sumOf(scene.mMaterials, scene.mNumMaterials,
                   [&](const aiMaterial& material) { return hasMap(material, kind) ? 1U : 0U; }),
             kind.one, kind.several);
+    add(sentences, sumOf(scene.mMaterials, scene.mNumMaterials, countWithoutCoordinates),
+        "1 picture is left out, whose material has two other texture coordinates already.",
+        "%1 pictures are left out, whose materials have two other texture coordinates already.");
+    const auto countValues = [&](const char* key, unsigned type, unsigned index) {
+        return sumOf(scene.mMaterials, scene.mNumMaterials, [&](const aiMaterial& material) {
+            aiColor4D value;
+            const bool isThere = material.Get(key, type, index, value) == aiReturn_SUCCESS;
+            return isThere && (value.r > 0 || value.g > 0 || value.b > 0) ? 1U : 0U;
+        });
+    };
+    add(sentences, countValues(AI_MATKEY_SHEEN_COLOR_FACTOR), "The sheen of 1 material is left out.",
+        "The sheen of %1 materials is left out.");
+    add(sentences, countValues(AI_MATKEY_TRANSMISSION_FACTOR),
+        "The transmission of 1 material is shown as transparency.",
+        "The transmission of %1 materials is shown as transparency.");
     return sentences;
 }
 

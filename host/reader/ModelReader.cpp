@@ -5,6 +5,8 @@
 #include "model/ModelFormats.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
+#include "reader/GltfAnimations.h"
+#include "reader/GltfText.h"
 #include "reader/LeftOut.h"
 #include "reader/ModelPictures.h"
 #include "reader/RegularFiles.h"
@@ -38,8 +40,19 @@ QString tr(const char* text)
 
 constexpr unsigned Steps = aiProcess_Triangulate | aiProcess_JoinIdenticalVertices |
                            aiProcess_GenSmoothNormals | aiProcess_SortByPType |
-                           aiProcess_ValidateDataStructure | aiProcess_FindInvalidData |
-                           aiProcess_TransformUVCoords;
+                           aiProcess_ValidateDataStructure | aiProcess_FindInvalidData;
+
+bool isGltf(const QString& path)
+{
+    return path.endsWith(QLatin1String(".gltf"), Qt::CaseInsensitive) ||
+           path.endsWith(QLatin1String(".glb"), Qt::CaseInsensitive);
+}
+
+// How pictures are moved stays with the pictures where the scene's nodes can say it.
+unsigned stepsFor(const QString& path)
+{
+    return isGltf(path) ? Steps : Steps | aiProcess_TransformUVCoords;
+}
 
 class Progress : public Assimp::ProgressHandler
 {
@@ -93,8 +106,7 @@ private:
 QString unrecognized(const QString& path)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
-    const QString fault =
-        ending == QLatin1String("gltf") || ending == QLatin1String("glb") ? gltfFault(path) : QString();
+    const QString fault = isGltf(path) ? gltfFault(path) : QString();
     return fault.isEmpty() ? tr("it is no file of the kind that its ending, .%1, says").arg(ending) : fault;
 }
 
@@ -162,7 +174,7 @@ const aiScene* read(Assimp::Importer& importer, const QString& path)
     removeUnreferenced(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
     for (unsigned i = 0; i < scene->mNumMeshes; ++i)
         giveFacesToPoints(*scene->mMeshes[i]);
-    return importer.ApplyPostProcessing(Steps);
+    return importer.ApplyPostProcessing(stepsFor(path));
 }
 
 // In degrees: faces that meet at a sharper angle have an edge between them, where a file has no normals.
@@ -185,6 +197,10 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
     ModelReadResult result;
     ModelPictures pictures(*scene, QFileInfo(path).absolutePath(), xsg::PictureBudget::preferred());
     result.data = fromAssimp(*scene, pictures);
+    if (isGltf(path)) {
+        readMaterialExtensions(path, result.data);
+        takeGltfAnimations(path, result.data);
+    }
     result.notes = pictures.getNotes();
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));

@@ -37,12 +37,27 @@ QList<SoField*> HostPreview::getEditedFields(const SoFieldContainer* node) const
 bool HostPreview::showFormer(const QList<SoField*>& fields)
 {
     m_history.endStep();
-    const bool wasShown = isShowingFormer();
-    writePresent();
     const std::set<SoField*> edited = m_history.editedSinceSaved();
     std::vector<SoField*> wanted;
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(wanted),
-                 [&](SoField* field) { return edited.count(field) > 0 && !field->isConnected(); });
+                 [&](SoField* field) { return edited.count(field) > 0; });
+    return show(wanted, [this](const std::set<SoField*>& some) { m_history.writeSaved(some); });
+}
+
+bool HostPreview::showFormer(const QList<SoField*>& fields, WriteFormer write)
+{
+    m_history.endStep();
+    return show({fields.begin(), fields.end()}, std::move(write));
+}
+
+bool HostPreview::show(const std::vector<SoField*>& fields, WriteFormer write)
+{
+    const bool wasShown = isShowingFormer();
+    writePresent();
+    m_write = std::move(write);
+    std::vector<SoField*> wanted;
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(wanted),
+                 [](const SoField* field) { return !field->isConnected(); });
     if (!wanted.empty() && !wasShown)
         emit aboutToShowFormer();
     writeFormer(wanted);
@@ -74,7 +89,8 @@ void HostPreview::writeFormer(const std::vector<SoField*>& fields)
         m_present.push_back(std::make_unique<FieldEdit>(*field));
         m_present.back()->aboutToWrite(0, -1);
     }
-    m_history.writeSaved({fields.begin(), fields.end()});
+    if (!fields.empty())
+        m_history.unrecorded([&] { m_write({fields.begin(), fields.end()}); });
     const auto isTheSame = [](const std::unique_ptr<FieldEdit>& edit) {
         edit->close();
         return edit->isNothing();

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace scopix
@@ -30,6 +31,10 @@ public:
     bool isShowingFormer() const override { return !m_present.empty(); }
     bool refusesEdit() override;
 
+    /// Writes to these fields what they held once, which only it knows.
+    using WriteFormer = std::function<void(const std::set<SoField*>& fields)>;
+    /// The same for former values that somebody else keeps.
+    bool showFormer(const QList<SoField*>& fields, WriteFormer write);
     /// The fields have their present values while `act` runs, whatever shows.
     void withPresent(const std::function<void()>& act);
     /// The container is about to be destroyed.
@@ -41,10 +46,12 @@ signals:
 
 private:
     using Edits = std::vector<std::unique_ptr<FieldEdit>>;
+    bool show(const std::vector<SoField*>& fields, WriteFormer write);
     void writeFormer(const std::vector<SoField*>& fields);
     std::vector<SoField*> writePresent();
 
     UndoHistory& m_history;
+    WriteFormer m_write;
     Edits m_present; // of the fields whose former values show: from the present ones to those
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Preferences.h"
 
+#include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 
 #include <xsg/core/SoPreferences.h>
@@ -21,6 +22,11 @@ namespace
 {
 
 constexpr qint64 LargestFile = 1 << 20;
+
+QString group()
+{
+    return QStringLiteral("preferences");
+}
 
 QString path()
 {
@@ -91,6 +97,9 @@ QSettings::Format format()
 
 void Preferences::feed()
 {
+    const QVariantMap own = SettingsFile(UserSettings::windowFile()).valuesIn(group());
+    for (auto each = own.begin(); each != own.end(); ++each)
+        SoPreferences::setValue(each.key().toLatin1().constData(), each->toString().toStdString());
     const std::string file = QFile::encodeName(path()).toStdString();
     if (xsg::isSpecialFile(file)) { // before it is opened, for which a pipe would wait
         if (!QFileInfo(path()).isDir())
@@ -101,6 +110,12 @@ void Preferences::feed()
     for (const QString& name : preferences.allKeys())
         SoPreferences::setValue(name.toLatin1().constData(),
                                 preferences.value(name).toString().toLatin1().toStdString());
+}
+
+QString Preferences::set(const QString& name, const QString& value)
+{
+    SoPreferences::setValue(name.toLatin1().constData(), value.toStdString());
+    return SettingsFile(UserSettings::windowFile()).setValue(group() + QLatin1Char('/') + name, value);
 }
 
 std::size_t Preferences::undoMemory()

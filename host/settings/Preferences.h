@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <cstddef>
 
 namespace scopix
@@ -19,6 +21,10 @@ namespace Preferences
 
 /// Reads the file and sets its values. Call before plug-ins are loaded. GUI thread only.
 void feed();
+
+/// A preference that the user sets in the program: holds at once, and from the next start on, unless the file
+/// says otherwise. One sentence where it cannot be kept, else an empty text.
+QString set(const QString& name, const QString& value);
 
 /// What the steps of the undo history may take, in bytes: SCOPIX_UNDO_MEMORY, a number of MiB, 256 without
 /// it. A value that is no such number is reported by an SoReadError.

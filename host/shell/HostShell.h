@@ -5,6 +5,7 @@
 #include <scopix/SpxGuide.h>
 #include <scopix/SpxShell.h>
 #include <scopix/SpxShellMenus.h>
+#include <scopix/SpxViewLook.h>
 
 #include <QHash>
 #include <QList>
@@ -29,7 +30,8 @@ class HostShell : public QObject,
                   public SpxShell,
                   public SpxShellMenus,
                   public SpxContextMenus,
-                  public SpxGuide
+                  public SpxGuide,
+                  public SpxViewLook
 {
     Q_OBJECT
 
@@ -63,6 +65,12 @@ public:
     void setGuide(Find find, ShowHelp showHelp);
     void find(const QString& query) override;
     bool showHelp(const QString& page, const QString& section) override;
+
+    using Look = std::function<std::pair<const SoCamera*, QSize>()>;
+    /// What knows how the 3D view looks at the scene.
+    void setLook(Look look) { m_look = std::move(look); }
+    const SoCamera* getViewCamera() const override;
+    QSize getViewSize() const override;
 
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
@@ -151,6 +159,7 @@ private:
     QSet<QString> m_foldAtFirst; // docks that have not come up yet
     QList<SpxContextMenuProvider*> m_providers;
     Find m_find;
+    Look m_look;
     ShowHelp m_showHelp;
 };
 

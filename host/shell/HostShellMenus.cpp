@@ -110,6 +110,16 @@ bool HostShell::showHelp(const QString& page, const QString& section)
     return m_showHelp && m_showHelp(page, section);
 }
 
+const SoCamera* HostShell::getViewCamera() const
+{
+    return m_look ? m_look().first : nullptr;
+}
+
+QSize HostShell::getViewSize() const
+{
+    return m_look ? m_look().second : QSize();
+}
+
 bool HostShell::sharesPlaceWithFocus(QDockWidget* dock) const
 {
     const QWidget* focus = QApplication::focusWidget();

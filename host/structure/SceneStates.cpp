@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "structure/SceneStates.h"
 
+#include "structure/MirroredNode.h"
 #include "text/NodeText.h"
 
 #include <scopix/SpxCommand.h>
 #include <scopix/SpxEditedFields.h>
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 
 #include <algorithm>
@@ -18,7 +20,8 @@ bool SceneStates::canBeHidden(SoNode& node)
 {
     const SoType type = node.getTypeId();
     return node.asGroup() || node.asShape() || type.isDerivedFrom(SoLight::getClassTypeId()) ||
-           type.isDerivedFrom(SoAmbientLight::getClassTypeId());
+           type.isDerivedFrom(SoAmbientLight::getClassTypeId()) ||
+           type.isDerivedFrom(SoEnvironmentLight::getClassTypeId());
 }
 
 void SceneStates::setHidden(const std::vector<SoNode*>& nodes, bool hidden)
@@ -113,8 +116,15 @@ const SoNode* SceneStates::lockOn(const SoPath& path) const
 
 QString SceneStates::refusalOf(const SoFieldContainer& container) const
 {
-    if (m_locked.empty())
-        return {};
+    const MirroredNode* mirrored = MirroredNode::of(&container);
+    const QString refusal = mirrored ? mirrored->refusal() : QString();
+    if (!refusal.isEmpty() || m_locked.empty())
+        return refusal;
+    return lockRefusalOf(container);
+}
+
+QString SceneStates::lockRefusalOf(const SoFieldContainer& container) const
+{
     const auto* node = dynamic_cast<const SoNode*>(&container);
     const SoNode* lock = node ? lockOf(node) : nullptr;
     if (!lock)
@@ -123,6 +133,18 @@ QString SceneStates::refusalOf(const SoFieldContainer& container) const
                ? tr("“%1” is locked, and cannot be edited before it is unlocked.").arg(nodeText(*node))
                : tr("“%1” stands in “%2”, which is locked, and cannot be edited before that is unlocked.")
                      .arg(nodeText(*node), nodeText(*lock));
+}
+
+// What edits no field edits children and names.
+QString SceneStates::structureRefusalOf(const SpxEditedFields& told)
+{
+    QString refusal;
+    for (const SoFieldContainer* container : told.editedContainers()) {
+        const MirroredNode* mirrored = told.editedFields().empty() ? MirroredNode::of(container) : nullptr;
+        if (mirrored && refusal.isEmpty())
+            refusal = mirrored->structureRefusal();
+    }
+    return refusal;
 }
 
 QString SceneStates::refusalOf(const SpxCommand& command) const
@@ -138,7 +160,7 @@ QString SceneStates::refusalOf(const SpxCommand& command) const
         if (!refusal.isEmpty())
             return refusal;
     }
-    return {};
+    return told ? structureRefusalOf(*told) : QString();
 }
 
 void SceneStates::clear()

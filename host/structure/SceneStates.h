@@ -10,6 +10,7 @@
 #include <unordered_set>
 
 class SpxCommand;
+class SpxEditedFields;
 
 namespace scopix
 {
@@ -54,6 +55,8 @@ signals:
     void changed();
 
 private:
+    QString lockRefusalOf(const SoFieldContainer& container) const;
+    static QString structureRefusalOf(const SpxEditedFields& told);
     void updateTouch(const SoNode* node);
 
     SoHiding m_hiding;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "structure/StructureCommand.h"
 
+#include "structure/StructureWatch.h"
 #include "text/NodeText.h"
 
 #include <QCoreApplication>
@@ -56,9 +57,20 @@ bool rename(SoNode& node, const StructureChange& change)
     return isSame;
 }
 
+void tell(StructureWatch& watch, const StructureChange& change)
+{
+    if (change.kind == Kind::Rename)
+        watch.aboutToRename(*change.node);
+    else
+        watch.aboutToChangeChildren(*change.node->asGroup(), change.index,
+                                    change.kind == Kind::Insert ? 0 : 1);
+}
+
 // False, and nothing is changed, where the scene is another one by now.
 bool apply(const StructureChange& change)
 {
+    if (StructureWatch* watch = StructureWatch::getActive())
+        tell(*watch, change);
     if (change.kind == Kind::Rename)
         return rename(*change.node, change);
     SoGroup& group = *change.node->asGroup();

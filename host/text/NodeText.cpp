@@ -33,7 +33,14 @@ QString readableName(const SoFieldContainer& node)
 QString nodeText(const SoFieldContainer& node)
 {
     const QString name = readableName(node);
-    return name.isEmpty() ? toQString(node.getTypeId().getName()) : name;
+    return name.isEmpty() ? typeText(node.getTypeId()) : name;
+}
+
+QString typeText(SoType type)
+{
+    const QString name = toQString(type.getName());
+    const QLatin1String prefix(OtherProgramPrefix);
+    return name.startsWith(prefix) ? name.mid(prefix.size()) : name;
 }
 
 } // namespace scopix

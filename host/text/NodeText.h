@@ -2,6 +2,7 @@
 // The name of a node in the user interface.
 #pragma once
 
+#include <xsg/types/SoType.h>
 #include <xsg/values/SbName.h>
 
 #include <QString>
@@ -19,5 +20,10 @@ SbName toName(const QString& text);
 QString readableName(const SoFieldContainer& node);
 /// The same, or the name of the node's type.
 QString nodeText(const SoFieldContainer& node);
+
+/// Before the names of types that another program calls as we call one of ours.
+constexpr const char* OtherProgramPrefix = "live::";
+/// The name of a type without it.
+QString typeText(SoType type);
 
 } // namespace scopix

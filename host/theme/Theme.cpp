@@ -59,6 +59,12 @@ QPalette paletteFrom(const PaletteColors& t)
     return p;
 }
 
+WindowTheme& keeperOf(QWidget& window)
+{
+    auto* keeper = window.findChild<WindowTheme*>(QString(), Qt::FindDirectChildrenOnly);
+    return keeper ? *keeper : *new WindowTheme(window);
+}
+
 } // namespace
 
 Theme themeFromName(const QString& name)
@@ -88,10 +94,12 @@ QPalette themePalette(Theme theme)
 
 void applyTheme(QWidget& window, Theme theme)
 {
-    auto* keeper = window.findChild<WindowTheme*>(QString(), Qt::FindDirectChildrenOnly);
-    if (!keeper)
-        keeper = new WindowTheme(window);
-    keeper->apply(theme);
+    keeperOf(window).apply(theme);
+}
+
+void setFontSize(QWidget& window, int points)
+{
+    keeperOf(window).setFontSize(points);
 }
 
 bool isDark(const QPalette& palette)

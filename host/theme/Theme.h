@@ -22,6 +22,9 @@ QPalette themePalette(Theme theme);
 /// again at any time, to change the theme.
 void applyTheme(QWidget& window, Theme theme);
 
+/// The size of the window's texts, in points; 0 is the system's. Kept when the theme is changed.
+void setFontSize(QWidget& window, int points);
+
 bool isDark(const QPalette& palette);
 /// Behind the scene.
 QColor groundColor(const QPalette& palette);

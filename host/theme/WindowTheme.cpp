@@ -29,6 +29,10 @@ WindowTheme::WindowTheme(QWidget& window)
     , m_window(window)
     , m_style(fusionUnlessApplicationHasIt())
 {
+    // Off the screen there is no desktop that would say how large text is.
+    if (QApplication::platformName() == QLatin1String("offscreen"))
+        m_window.setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    m_systemFont = m_window.font();
     if (m_style)
         m_style->setParent(this);
     qApp->installEventFilter(this);
@@ -36,11 +40,16 @@ WindowTheme::WindowTheme(QWidget& window)
 
 void WindowTheme::apply(Theme theme)
 {
-    // Off the screen there is no desktop that would say how large text is.
-    if (QApplication::platformName() == QLatin1String("offscreen"))
-        m_window.setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     dressAll(m_window);
     m_window.setPalette(themePalette(theme));
+}
+
+void WindowTheme::setFontSize(int points)
+{
+    QFont font = m_systemFont;
+    if (points > 0)
+        font.setPointSize(points);
+    m_window.setFont(font);
 }
 
 bool WindowTheme::eventFilter(QObject* watched, QEvent* event)

@@ -3,6 +3,7 @@
 
 #include "theme/Theme.h"
 
+#include <QFont>
 #include <QObject>
 
 class QStyle;
@@ -20,6 +21,8 @@ class WindowTheme : public QObject
 public:
     explicit WindowTheme(QWidget& window);
     void apply(Theme theme);
+    /// In points; 0 is the system's.
+    void setFontSize(int points);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -29,6 +32,7 @@ private:
     void dress(QWidget& widget);
 
     QWidget& m_window;
+    QFont m_systemFont;
     QStyle* m_style; // null where the application has it too
 };
 

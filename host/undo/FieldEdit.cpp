@@ -3,6 +3,7 @@
 
 #include "text/NodeText.h"
 #include "text/ValueBytes.h"
+#include "text/ValueEntry.h"
 #include "text/ValueText.h"
 
 #include <xsg/core/SoMField.h>
@@ -67,12 +68,12 @@ std::size_t bytesOf(const SoField* value)
     return value ? ObjectBytes + valueBytes(*value) : 0;
 }
 
-QString partText(const SoMField& values, int start, int count)
+QString sliceText(const SoMField& values, int start, int count, int limit = TextLimit)
 {
     const std::unique_ptr<SoMField> part = values.makeSlice();
     if (!part || !part->replaceValues(0, 0, values, start, count))
         return {};
-    return valueText(*part, TextLimit);
+    return valueText(*part, limit);
 }
 
 } // namespace
@@ -209,6 +210,29 @@ void FieldEdit::close()
         keepListBefore();
 }
 
+void FieldEdit::completeLater()
+{
+    if (!m_isClosed) {
+        m_isStale = true;
+        return compare();
+    }
+    if (m_runs.empty() || !fits(&Run::after))
+        return;
+    m_flagsAfter = flags();
+    if (!m_list) {
+        m_after = copyOf(m_field);
+        if (m_before->isSame(m_field))
+            m_runs.clear();
+        return;
+    }
+    std::unique_ptr<SoMField> after = m_list->makeSlice();
+    for (const Run& run : m_runs)
+        append(*after, *m_list, run.start, run.after);
+    if (after->isSame(*m_before))
+        m_runs.clear();
+    m_after = std::move(after);
+}
+
 void FieldEdit::keepListBefore()
 {
     std::unique_ptr<SoMField> before = m_list->makeSlice();
@@ -276,6 +300,82 @@ void FieldEdit::setFlags(Flags wanted, bool isWritten)
         m_field.touch();
 }
 
+bool FieldEdit::setFormer(const QString& text)
+{
+    std::unique_ptr<SoField> value = m_list || m_isClosed ? nullptr : copyOf(m_field);
+    if (!value || !setFromText(*value, text))
+        return false;
+    m_before = std::move(value);
+    m_flagsBefore.isDefault = false;
+    m_isStale = true;
+    return true;
+}
+
+std::unique_ptr<SoField> FieldEdit::makeFormer() const
+{
+    std::unique_ptr<SoField> value = copyOf(m_before && !m_list ? *m_before : m_field);
+    if (value && m_list && m_before)
+        list(*value).replaceValues(m_start, coveredNow(), list(*m_before), 0, list(*m_before).getNum());
+    if (value)
+        value->setDefault(m_flagsBefore.isDefault);
+    if (value)
+        value->setIgnored(m_flagsBefore.isIgnored);
+    return value;
+}
+
+bool FieldEdit::writeFormer()
+{
+    const bool isWritten = !m_runs.empty();
+    if (isWritten && m_list) {
+        const int covered = coveredNow();
+        if (covered < 0 || m_start + covered > m_list->getNum() ||
+            !m_list->replaceValues(m_start, covered, list(*m_before), 0, list(*m_before).getNum()))
+            return false;
+    } else if (isWritten && !m_field.copyFrom(*m_before)) {
+        return false;
+    }
+    setFlags(m_flagsBefore, isWritten);
+    return true;
+}
+
+QString FieldEdit::formerText(int limit) const
+{
+    return partText(m_before.get(), &Run::before, m_flagsBefore, limit);
+}
+
+QString FieldEdit::presentText(int limit) const
+{
+    return partText(m_after.get(), &Run::after, m_flagsAfter, limit);
+}
+
+QString FieldEdit::partText(const SoField* value, int Run::*count, Flags shown, int limit) const
+{
+    if (m_runs.empty() && m_flagsBefore.isIgnored != m_flagsAfter.isIgnored)
+        return shown.isIgnored ? tr("ignored") : tr("not ignored");
+    if (m_runs.empty())
+        return shown.isDefault ? tr("default") : valueText(m_field, limit);
+    if (!m_list)
+        return valueText(*value, limit);
+    const Run& run = m_runs.front();
+    if (m_runs.size() > 1)
+        return tr("%1 values").arg(countChanged());
+    const int start = value == m_before.get() ? run.start : 0;
+    if (m_countBefore <= 1 && m_list->getNum() <= 1)
+        return sliceText(list(*value), start, run.*count, limit);
+    return run.*count == 0 ? tr("none")
+                           : QStringLiteral("[%1]: %2")
+                                 .arg(m_start + run.start)
+                                 .arg(sliceText(list(*value), start, run.*count, limit));
+}
+
+int FieldEdit::countChanged() const
+{
+    int count = 0;
+    for (const Run& run : m_runs)
+        count += std::max(run.before, run.after);
+    return std::max(count, 1);
+}
+
 std::size_t FieldEdit::bytes() const
 {
     return sizeof(*this) + m_runs.capacity() * sizeof(Run) + bytesOf(m_before.get()) + bytesOf(m_after.get());
@@ -301,7 +401,7 @@ QString FieldEdit::listText() const
     if (m_runs.size() == 1 && run.before == 1)
         return QStringLiteral("[%1]: %2 → %3")
             .arg(m_isClosed ? run.start : m_start + run.start)
-            .arg(partText(list(*m_before), m_isClosed ? 0 : run.start, 1), partText(list(*m_after), 0, 1));
+            .arg(sliceText(list(*m_before), m_isClosed ? 0 : run.start, 1), sliceText(list(*m_after), 0, 1));
     int changed = 0;
     for (const Run& each : m_runs)
         changed += each.before;

@@ -8,6 +8,7 @@
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 
 #include <QScopedValueRollback>
 #include <QThread>
@@ -16,6 +17,40 @@
 
 namespace scopix
 {
+
+// While it exists, commands run.
+class UndoHistory::Running
+{
+public:
+    Running(UndoHistory& history, bool isStep)
+        : m_history(history)
+        , m_before(SoWriteRecorder::getActive())
+        , m_wasRunning(history.m_isRunning)
+        , m_isHeard(isStep && history.m_watch)
+    {
+        m_history.m_isRunning |= isStep;
+        if (m_isHeard)
+            setActive(&m_history);
+        if (m_history.m_watch)
+            m_history.m_watch->aboutToRun();
+    }
+    ~Running()
+    {
+        if (m_history.m_watch)
+            m_history.m_watch->hasRun();
+        if (m_isHeard)
+            setActive(m_before);
+        m_history.m_isRunning = m_wasRunning;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+private:
+    UndoHistory& m_history;
+    SoWriteRecorder* m_before;
+    bool m_wasRunning;
+    bool m_isHeard; // what a step writes is not recorded, but the watch is told
+};
 
 UndoHistory::UndoHistory(QObject* parent)
     : QObject(parent)
@@ -75,11 +110,26 @@ void UndoHistory::listen()
 
 void UndoHistory::aboutToWrite(SoField& field, int start, int removed)
 {
-    if (m_busy || !field.getContainer() || QThread::currentThread() != thread())
+    if (!field.getContainer() || QThread::currentThread() != thread())
         return;
+    if (m_busy) {
+        if (m_isRunning && m_watch)
+            m_watch->aboutToWrite(field, start, removed);
+        return;
+    }
+    if (m_executing || (m_input.isActing() && m_isEdited(field)))
+        record(field, start, removed);
+}
+
+void UndoHistory::record(SoField& field, int start, int removed)
+{
+    // What an animation shows is no value to come back to. The field leaves it before it is written.
+    SoAnimatedValues::getInstance().giveBack(field);
+    if (m_watch)
+        m_watch->aboutToWrite(field, start, removed);
     if (m_executing)
         m_executing->aboutToWriteInCommand(field, start, removed);
-    else if (m_input.isActing() && m_isEdited(field))
+    else
         stepOfInput().aboutToWrite(field, start, removed);
 }
 
@@ -114,6 +164,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
     {
         const QScopedValueRollback<UndoStep*> executing(m_executing, step.get());
         listen();
+        const Running running(*this, false);
         failure = catchExceptions([&] { command->execute(); });
     }
     listen();
@@ -218,6 +269,7 @@ void UndoHistory::takeBackCurrent(const QString& refusal)
     QString reason;
     {
         const QScopedValueRollback<bool> busy(m_busy, true);
+        const Running running(*this, true);
         step->undo(reason);
     }
     step->drop();
@@ -267,6 +319,26 @@ void UndoHistory::releaseUnused()
     dropOldSteps();
 }
 
+void UndoHistory::completeLast(SoField& field)
+{
+    if (m_current && m_current->completeLater(field)) {
+        m_current->markStale();
+        return settle();
+    }
+    for (int i = m_stack.index() - 1; i >= 0; --i) {
+        const StepPtr step = stepAt(i);
+        if (!step->completeLater(field))
+            continue;
+        if (step->isNothing())
+            step->drop();
+        else
+            const_cast<UndoEntry*>(static_cast<const UndoEntry*>(m_stack.command(i)))->setText(step->text());
+        QMetaObject::invokeMethod(
+            this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
+        return;
+    }
+}
+
 // --- Undo and redo
 
 void UndoHistory::run(UndoStep& step, bool undoes)
@@ -279,6 +351,7 @@ void UndoHistory::run(UndoStep& step, bool undoes)
     QString reason;
     {
         const QScopedValueRollback<bool> busy(m_busy, true);
+        const Running running(*this, true);
         undoes ? step.undo(reason) : step.redo(reason);
     }
     if (reason.isEmpty())

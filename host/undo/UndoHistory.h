@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "undo/EditWatch.h"
 #include "undo/GestureTracker.h"
 #include "undo/UserInput.h"
 
@@ -56,6 +57,9 @@ public:
     /// step is taken back at once, and refused() says why. Null, as at first: about none.
     void setLock(std::function<QString(const SoFieldContainer&)> lock) { m_lock = std::move(lock); }
 
+    /// Null, as at first: nobody. It must outlive its use.
+    void setWatch(EditWatch* watch) { m_watch = watch; }
+
     /// Runs the command's execute() and keeps the command. While a step is being undone or redone, the
     /// command is pushed from the event loop.
     void execute(std::unique_ptr<SpxCommand> command, const CommandContext& context);
@@ -77,6 +81,11 @@ public:
         const QScopedValueRollback<bool> busy(m_busy, true);
         act();
     }
+    /// The last step that edited the field, and can be undone, made it what it holds now: for an edit whose
+    /// outcome was known later. A step that made no difference then goes.
+    void completeLast(SoField& field);
+    /// Such an act runs now, and no step.
+    bool isUnrecorded() const { return m_busy && !m_isRunning; }
     /// Asked before anything is executed, undone or redone: while `isHeld` answers true, nothing is.
     void setHold(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }
     /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
@@ -110,7 +119,10 @@ private:
         CommandContext context;
     };
 
+    class Running;
+
     void aboutToWrite(SoField& field, int start, int removed) override;
+    void record(SoField& field, int start, int removed);
     void inputChanged();
     void listen();
 
@@ -142,6 +154,8 @@ private:
     std::function<CommandContext()> m_context = [] { return CommandContext(); };
     std::function<bool(const SoField&)> m_isEdited = [](const SoField&) { return false; };
     std::function<QString(const SoFieldContainer&)> m_lock; // null: nothing is locked
+    EditWatch* m_watch = nullptr;
+    bool m_isRunning = false; // a step, backwards or forwards
     QUndoStack m_stack;
     StepPtr m_current;          // may still grow
     bool m_currentIsOn = false; // the stack, at its end

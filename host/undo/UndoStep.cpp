@@ -38,6 +38,8 @@ public:
     {
         if (!field.getContainer())
             return;
+        if (m_before)
+            m_before->aboutToWrite(field, start, removed);
         watch(field);
         if (m_fields.count(&field) == 0)
             return;
@@ -55,7 +57,7 @@ public:
     }
     void rewind()
     {
-        setActive(nullptr);
+        setActive(m_before);
         for (const auto& [field, edit] : m_edits) {
             edit->close();
             edit->undo();
@@ -191,6 +193,15 @@ void UndoStep::compare()
     for (const auto& [field, edit] : m_edits)
         edit->compare();
     m_isStale = false;
+}
+
+bool UndoStep::completeLater(SoField& field)
+{
+    const auto found = m_edits.find(&field);
+    if (found == m_edits.end())
+        return false;
+    found->second->completeLater();
+    return true;
 }
 
 bool UndoStep::isNothing() const

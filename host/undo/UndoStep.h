@@ -36,8 +36,11 @@ public:
 
     /// Looks what the step made of its fields so far.
     void compare();
+    void markStale() { m_isStale = true; }
     /// Something was written or handed over since it was compared.
     bool isStale() const { return m_isStale; }
+    /// As FieldEdit::completeLater(); false where it did not edit this field.
+    bool completeLater(SoField& field);
     /// Every field is as it was before, and the commands did nothing beside.
     bool isNothing() const;
     /// Nothing is added any more; what does not differ is let go of.

@@ -3,6 +3,7 @@
 
 #include "theme/Theme.h"
 
+#include <xsg/frames/SoFramePhase.h>
 #include <xsg/nodes/base/SoNode.h>
 
 #include <QLabel>
@@ -52,9 +53,15 @@ bool PictureInPieces::isNeeded(const QSize& size) const
     return m_isOld || m_isUnfinished || size != m_size;
 }
 
+ViewContent PictureInPieces::prepare(SoRenderer& renderer) const
+{
+    const SoFrameUpdate update(SoFrameLog::getInstance());
+    return m_prepare(renderer);
+}
+
 ViewContent PictureInPieces::begin(SoRenderer& renderer, const QSize& size)
 {
-    const ViewContent content = m_prepare(renderer);
+    const ViewContent content = prepare(renderer);
     const std::uint64_t rootId = content.root ? content.root->getNodeId() : 0;
     const bool isOther = rootId != m_rootId;
     if (!m_isUnfinished || isOther || size != m_size) {

@@ -57,6 +57,7 @@ protected:
 
 private:
     bool isNeeded(const QSize& size) const;
+    ViewContent prepare(SoRenderer& renderer) const;
     ViewContent begin(SoRenderer& renderer, const QSize& size);
     bool end(const SoRenderer& renderer, SoRenderer::Progress progress);
     static Time pieceEnd();

@@ -84,7 +84,7 @@ public:
         const QRect drawn =
             m_tiles.size() == 1 ? tile : tile.adjusted(-TileMargin, -TileMargin, TileMargin, TileMargin);
         const QSize whole = m_order.size;
-        if (!m_drawing.renderPart(
+        if (!m_drawing.renderTile(
                 m_subject.root.get(), m_camera.get(),
                 {whole.width(), whole.height(), drawn.left(), whole.height() - drawn.top() - drawn.height()},
                 drawn.width(), drawn.height(), m_pixels))

@@ -6,6 +6,7 @@
 #include "viewport/ViewSurface.h"
 
 #include <xsg/actions/SoAreaPickAction.h>
+#include <xsg/frames/SoFrameLog.h>
 #include <xsg/nodes/base/SoTimeSource.h>
 
 #include <QApplication>
@@ -22,8 +23,9 @@ namespace scopix
 namespace
 {
 
-constexpr float WheelStep = 0.85F; // per notch of 120
-constexpr int TickMs = 16;         // between pictures of something that moves with time
+constexpr float WheelStep = 0.85F;    // per notch of 120
+constexpr float ZoomPerHeight = 0.2F; // of a drag as long as the view is high
+constexpr int TickMs = 16;            // between pictures of something that moves with time
 // What a key does, as part of the picture's height; turning, that is half a turn.
 constexpr float KeyStep = 1.0F / 12;
 // Of the line around what is selected, in pixels of the screen at a density of 1.
@@ -110,6 +112,12 @@ void SceneView::setWireframe(bool on)
 void SceneView::setShading(SoRenderer::Shading shading)
 {
     m_shading = shading;
+    redraw();
+}
+
+void SceneView::setToneMapping(SoRenderer::ToneMapping toneMapping)
+{
+    m_toneMapping = toneMapping;
     redraw();
 }
 
@@ -211,6 +219,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     setUp(renderer);
+    renderer.setFrameLog(&SoFrameLog::getInstance());
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
@@ -224,6 +233,7 @@ void SceneView::setUp(SoRenderer& renderer) const
 {
     renderer.setWireframe(m_wireframe);
     renderer.setShading(m_shading);
+    renderer.setToneMapping(m_toneMapping);
     renderer.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
     renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);
 }
@@ -321,24 +331,25 @@ std::vector<std::uint32_t> SceneView::findCovered(const SoPath& part, const QSiz
 
 void SceneView::mousePressEvent(QMouseEvent* event)
 {
-    if (m_tools.press(*event))
+    m_mayClick = false;
+    const bool isAltDrag = m_mouseScheme == MouseScheme::Maya && event->modifiers() & Qt::AltModifier;
+    if (!isAltDrag && m_tools.press(*event))
         return;
-    const bool shifted = event->modifiers() & Qt::ShiftModifier;
-    if (event->button() == Qt::LeftButton)
-        m_drag = shifted ? Drag::Pan : Drag::Orbit;
-    else if (event->button() == Qt::MiddleButton || event->button() == Qt::RightButton)
-        m_drag = Drag::Pan;
+    m_drag = dragOf(m_mouseScheme, event->button(), event->modifiers());
+    m_mayClick = event->button() == Qt::LeftButton && m_drag != MouseDrag::Pan;
     m_moved = false;
     m_pressed = m_last = event->pos();
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_drag == Drag::None) {
+    const bool isTrembling = (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
+    m_mayClick = m_mayClick && isTrembling;
+    if (m_drag == MouseDrag::None) {
         m_tools.move(*event);
         return;
     }
-    if (!m_moved && (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+    if (!m_moved && isTrembling)
         return;
     m_moved = true;
     const QPoint by = event->pos() - m_last;
@@ -346,10 +357,12 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     const float scale = 1 / static_cast<float>(std::max(1, height()));
     const float right = static_cast<float>(by.x()) * scale;
     const float up = static_cast<float>(-by.y()) * scale;
-    if (m_drag == Drag::Orbit)
+    if (m_drag == MouseDrag::Orbit)
         turn(right, up);
-    else
+    else if (m_drag == MouseDrag::Pan)
         pan(right, up);
+    else
+        zoom(std::pow(ZoomPerHeight, up + right));
 }
 
 void SceneView::lookFrom(const SbVec3f& side)
@@ -402,10 +415,11 @@ void SceneView::zoom(float factor)
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (m_drag == Drag::None && m_tools.release(*event))
+    if (m_drag == MouseDrag::None && m_tools.release(*event))
         return;
-    const bool clicked = m_drag == Drag::Orbit && !m_moved && event->button() == Qt::LeftButton;
-    m_drag = Drag::None;
+    const bool clicked = m_mayClick && event->button() == Qt::LeftButton;
+    m_mayClick = false;
+    m_drag = MouseDrag::None;
     if (!clicked)
         return;
     const auto hit = pick(event->pos());

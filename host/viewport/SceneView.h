@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "viewport/MouseScheme.h"
 #include "viewport/PictureSeries.h"
 #include "viewport/ViewCamera.h"
 #include "viewport/ViewSight.h"
@@ -57,12 +58,19 @@ public:
     /// view.
     void setStates(const SceneStates* states);
 
+    /// Which buttons navigate; a click of the left one selects in each.
+    void setMouseScheme(MouseScheme scheme) { m_mouseScheme = scheme; }
+    MouseScheme getMouseScheme() const { return m_mouseScheme; }
+
     /// Edges instead of surfaces.
     void setWireframe(bool on);
     bool isWireframe() const { return m_wireframe; }
     /// What of the scene is shown; edges instead of surfaces go with each.
     void setShading(SoRenderer::Shading shading);
     SoRenderer::Shading getShading() const { return m_shading; }
+    /// How the bright light of physically based surfaces is brought into the picture.
+    void setToneMapping(SoRenderer::ToneMapping toneMapping);
+    SoRenderer::ToneMapping getToneMapping() const { return m_toneMapping; }
     /// Cuts the scene by a plane in world coordinates, without changing it: what lies on the normal's side
     /// stays. Nothing: no plane. What is cut away is not picked either.
     void setClipPlane(const std::optional<SbPlane>& plane);
@@ -159,8 +167,6 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    enum class Drag { None, Orbit, Pan };
-
     static void sceneChanged(void* self, SoSensor* sensor);
     ViewContent prepare(SoRenderer& renderer);
     void setUp(SoRenderer& renderer) const;
@@ -180,6 +186,7 @@ private:
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
+    SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;
     const SceneStates* m_states = nullptr;
@@ -191,8 +198,10 @@ private:
     bool m_isAnimated = true;
     QBasicTimer m_ticks; // runs while something turns
     QElapsedTimer m_sinceTick;
-    Drag m_drag = Drag::None;
-    bool m_moved = false; // since the press, by more than a click's trembling
+    MouseScheme m_mouseScheme = MouseScheme::Scopix;
+    MouseDrag m_drag = MouseDrag::None;
+    bool m_mayClick = false; // the press that may become one
+    bool m_moved = false;    // since the press, by more than a click's trembling
     QPoint m_pressed;
     QPoint m_last;
 };

@@ -3,8 +3,7 @@
 
 #include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
-#include "import/ModelImport.h"
-#include "import/SceneImport.h"
+#include "import/AnyImport.h"
 #include "model/FileChecks.h"
 #include "structure/BranchCopy.h"
 #include "support/OutputFile.h"
@@ -48,17 +47,8 @@ void BranchFiles::insert(const QString& path)
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
         return m_notifier.error(error);
-    if (QFileInfo(path).suffix().toLower() == SceneDocument::sceneEnding()) {
-        auto* import = new SceneImport(&m_window, this);
-        m_import = import;
-        connect(import, &SceneImport::finished, this,
-                [this, path](const SoRef<SoNode>& scene) { inserted(scene.get(), path); });
-    } else {
-        auto* import = new ModelImport(&m_window, this);
-        m_import = import;
-        connect(import, &ModelImport::finished, this,
-                [this, path](const SoRef<SoSeparator>& scene) { inserted(scene.get(), path); });
-    }
+    m_import = makeImport(path, &m_window, this,
+                          [this, path](const SoRef<SoNode>& scene) { inserted(scene.get(), path); });
     connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
         forgetImport();
         m_notifier.error(sentence);

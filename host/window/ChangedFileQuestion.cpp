@@ -24,10 +24,15 @@ ChangedFileAnswer askAboutChangedFile(QWidget& window, const QString& title, boo
                     tr("Another program has changed “%1” since it was opened or saved here.").arg(title),
                     QMessageBox::Cancel, &window);
     box.setObjectName(QStringLiteral("changedFile"));
-    box.setInformativeText(isModified ? tr("Replacing it loses their changes; reloading it loses yours.")
-                                      : tr("Replacing it loses their changes."));
+    box.setInformativeText(
+        isModified
+            ? tr("Replacing it loses their changes; reloading it loses yours; reloading and reapplying "
+                 "keeps those of yours that still fit.")
+            : tr("Replacing it loses their changes."));
     box.setTextFormat(Qt::PlainText);
     const QAbstractButton* reload = box.addButton(tr("&Reload"), QMessageBox::DestructiveRole);
+    QAbstractButton* reapply =
+        isModified ? box.addButton(tr("Reload and Re&apply"), QMessageBox::AcceptRole) : nullptr;
     QPushButton* elsewhere = box.addButton(tr("Save &As…"), QMessageBox::AcceptRole);
     const QAbstractButton* replace = box.addButton(tr("Re&place"), QMessageBox::AcceptRole);
     box.setDefaultButton(elsewhere); // loses nothing
@@ -36,6 +41,8 @@ ChangedFileAnswer askAboutChangedFile(QWidget& window, const QString& title, boo
     box.exec();
     if (box.clickedButton() == reload)
         return ChangedFileAnswer::Reload;
+    if (reapply && box.clickedButton() == reapply)
+        return ChangedFileAnswer::Reapply;
     if (box.clickedButton() == elsewhere)
         return ChangedFileAnswer::SaveElsewhere;
     return box.clickedButton() == replace ? ChangedFileAnswer::Replace : ChangedFileAnswer::Cancel;

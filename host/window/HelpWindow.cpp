@@ -2,10 +2,9 @@
 #include "window/HelpWindow.h"
 
 #include "support/InputFile.h"
-#include "support/OwnLibrary.h"
+#include "support/SharedFiles.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -25,17 +24,6 @@ namespace
 constexpr qint64 LargestPage = 4 << 20;
 constexpr int WidthInCharacters = 90;
 constexpr int HeightInLines = 40;
-
-// Beside the libraries, which may lie in a folder for one kind of machine, or beside the program.
-QStringList folders()
-{
-    QStringList found;
-    for (const QString& start : {OwnLibrary::folder(), QCoreApplication::applicationDirPath()}) {
-        for (const char* up : {"/../share/scopix/docs", "/../../share/scopix/docs"})
-            found += QDir::cleanPath(start + QLatin1String(up));
-    }
-    return found;
-}
 
 // "Colour picker" and "colour-picker" are the same section, as links have it.
 QString plain(const QString& heading)
@@ -69,12 +57,10 @@ QString HelpWindow::fileOf(const QString& page)
 {
     if (QDir::isAbsolutePath(page))
         return QFileInfo(page).isFile() ? page : QString();
-    for (const QString& folder : folders()) {
-        const QString file = folder + QLatin1Char('/') + page + QStringLiteral(".md");
-        if (!page.contains(QLatin1Char('/')) && QFileInfo(file).isFile())
-            return file;
-    }
-    return {};
+    const QString file = page.contains(QLatin1Char('/'))
+                             ? QString()
+                             : sharedFile(QStringLiteral("docs/") + page + QStringLiteral(".md"));
+    return QFileInfo(file).isFile() ? file : QString();
 }
 
 bool HelpWindow::open(const QString& page, const QString& section)

@@ -2,14 +2,24 @@
 #pragma once
 
 #include "services/SceneSource.h"
+#include "start/PluginState.h"
 #include "viewport/PictureSeries.h"
 
 #include <QMainWindow>
 
 class QMenu;
+class SoCamera;
 
 namespace scopix
 {
+
+/// A running program to attach to: one to start, with its arguments, or by part of its name, its number or
+/// the path of its socket; where both are empty, the only one there is.
+struct LiveOrder {
+    QStringList launch;
+    QString attach;
+    QString node; // is to be there when it is attached, by its name or its type; empty: none
+};
 
 /// What the host needs of its main window, whatever else the window shows. GUI thread only.
 class HostWindow : public QMainWindow, public SceneSource
@@ -32,9 +42,17 @@ public:
     /// As SpxGuide::showHelp().
     virtual bool showHelp(const QString& /*page*/, const QString& /*section*/) { return false; }
 
+    /// Where the window learns what it says of plug-ins.
+    virtual void setPluginStates(PluginStates /*states*/) {}
+
+    /// The 3D view's camera, and its size in pixels of the screen; null and none without a view.
+    virtual std::pair<const SoCamera*, QSize> viewLook() const { return {}; }
+
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
+    /// Attaches to a running program; as openFile().
+    virtual void openLive(const LiveOrder& /*order*/) {}
     /// Selects a field by its node's name or type. False when there is none, which is reported.
     virtual bool selectField(const QString& node, const QString& field) = 0;
     /// Writes a picture of the window. False when it cannot be written, which is

@@ -2,15 +2,20 @@
 #include "window/MainWindow.h"
 #include "window/BeforeSwitch.h"
 
+#include "changes/ChangesPanel.h"
+#include "changes/SceneEdits.h"
 #include "handles/HandleActions.h"
 #include "handles/HandleTool.h"
+#include "panels/EmptyHint.h"
 #include "panels/FieldListView.h"
+#include "panels/SceneFinder.h"
 #include "panels/ScenePanel.h"
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "start/AboutDialog.h"
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
@@ -20,16 +25,27 @@
 #include "window/BranchFiles.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
+#include "window/FileDrop.h"
 #include "window/FileMenu.h"
+#include "window/FrameMarks.h"
 #include "window/HelpWindow.h"
+#include "window/LiveActs.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/PaletteActs.h"
+#include "window/PatchActs.h"
 #include "window/PictureActs.h"
+#include "window/PlaybackActs.h"
 #include "window/ReloadBar.h"
+#include "window/SceneChanges.h"
+#include "window/SettingsActs.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
 #include "window/ViewPoints.h"
+#include "window/Welcome.h"
+
+#include <scopix/SpxVersion.h>
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
@@ -81,10 +97,14 @@ SoPath findNode(SoNode* root, const QString& text)
     byName.setName(toName(text));
     if (!byName.apply(root).empty())
         return byName.getPaths().front();
-    SoSearchAction byType;
-    const SoType type = SoType::fromName(toName(text));
-    byType.setType(type);
-    return type.isBad() || byType.apply(root).empty() ? SoPath() : byType.getPaths().front();
+    for (const QString& name : {text, OtherProgramPrefix + text}) {
+        SoSearchAction byType;
+        const SoType type = SoType::fromName(toName(name));
+        byType.setType(type);
+        if (!type.isBad() && !byType.apply(root).empty())
+            return byType.getPaths().front();
+    }
+    return {};
 }
 
 // A single key that the view has by itself; what is typed into a name stays there.
@@ -122,6 +142,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeNodeMenu();
     makeViewMenu();
     makeHelpMenu();
+    makeGuidance();
     makeToolBar();
     connectSelection();
     connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
@@ -129,8 +150,15 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
-    new ReloadBar(m_files, *m_view);
+    auto* reload = new ReloadBar(m_files, *m_view);
+    connect(reload, &ReloadBar::compareRequested, m_changes,
+            [this] { m_changes->compareWith(m_files.getDocument().getPath()); });
+    connect(&m_files, &SceneFiles::reapplyRequested, m_changes, &SceneChanges::reloadAndReapply);
+    new FileDrop(*this);
+    new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
+    new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
+    new FrameMarks(m_services, m_files.getDocument(), this);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -180,6 +208,13 @@ void MainWindow::makeDocks()
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_fieldsDock, m_historyDock);
+    m_changes = new SceneChanges(*this, m_services, m_files, m_notifier);
+    m_changesDock =
+        addDock(&m_changes->getPanel(), tr("Changes"), QStringLiteral("changesDock"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_historyDock, m_changesDock);
+    m_changes->setDock(m_changesDock);
+    m_tree->setChanged([this](const SoNode* node) { return m_changes->getEdits().isChanged(node); });
+    connect(m_changes, &SceneChanges::changed, m_tree->viewport(), qOverload<>(&QWidget::update));
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
     m_fieldsDock->raise();
     resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
@@ -200,6 +235,14 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_openAction = (new FileMenu(*menu, m_files))->getOpenAction();
+    menu->addSeparator();
+    m_live = std::make_unique<LiveActs>(
+        *menu, LiveActs::Parts{*this, m_files, m_services, *m_view, *m_tree, *m_fields, m_notifier});
+    m_scenePanel->getFinder().setElsewhere(
+        [this](const QString& query, const SceneFinder::Found& found) { return m_live->find(query, found); });
+    connect(m_live.get(), &LiveActs::attached, this, &MainWindow::openFinished);
+    menu->addSeparator();
+    m_changes->fillMenu(*menu);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
     menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
@@ -274,12 +317,13 @@ void MainWindow::makeViewMenu()
     connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
     connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
     m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
+    m_playback = new PlaybackActs(*menu, *m_view, {m_view, m_tree}, this);
     auto* before = new BeforeSwitch(*this, m_services);
     menu->addAction(before->action());
     before->takeKeyIn(*m_view);
     before->takeKeyIn(*m_tree);
     menu->addSeparator();
-    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock}) {
+    for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock, m_changesDock}) {
         before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
     }
@@ -292,11 +336,13 @@ void MainWindow::makeViewMenu()
 
 void MainWindow::makeThemeMenu(QMenu& menu)
 {
+    m_themeMenu = &menu;
     auto* group = new QActionGroup(&menu);
     const std::pair<Theme, QString> entries[] = {
         {Theme::System, tr("As the &System")}, {Theme::Dark, tr("&Dark")}, {Theme::Light, tr("&Light")}};
     for (const auto& [theme, text] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setData(themeName(theme));
         action->setCheckable(true);
         action->setChecked(theme == wantedTheme());
         group->addAction(action);
@@ -306,6 +352,7 @@ void MainWindow::makeThemeMenu(QMenu& menu)
 void MainWindow::makeHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    m_helpMenu = menu;
     menu->addAction(tr("&Moving in the 3D View"), this, [this] {
         QMessageBox::information(
             this, tr("Moving in the 3D View"),
@@ -334,11 +381,28 @@ void MainWindow::makeHelpMenu()
 
 void MainWindow::showAbout()
 {
-    QMessageBox::about(
-        this, tr("About Scopix"),
-        tr("<b>Scopix %1</b><p>Opens a 3D scene and lets you click anything, tune any value live, "
-           "undo everything and see what it costs.")
-            .arg(QApplication::applicationVersion()));
+    AboutDialog(QStringLiteral(SPX_SCOPIX_VERSION), m_pluginStates, this).exec();
+}
+
+// What leads through all of the above: it comes last.
+void MainWindow::makeGuidance()
+{
+    m_settings = new SettingsActs({*this, *m_view, m_files, m_services, m_notifier, *m_themeMenu}, [this] {
+        return m_pluginStates ? m_pluginStates() : std::vector<PluginState>();
+    });
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(m_settings->getAction());
+    m_palette = new PaletteActs(*this, *m_tree, m_services, *m_settings);
+    m_helpMenu->insertAction(m_helpMenu->actions().value(0), m_palette->getAction());
+    m_welcome = new Welcome({*this, *m_view, *m_tree, m_files, m_services}, {m_openAction});
+    m_welcome->addTo(*m_helpMenu);
+}
+
+void MainWindow::enterInteractiveMode()
+{
+    m_settings->restoreKeys();
+    m_files.enterInteractiveMode();
+    m_welcome->enterInteractiveMode();
 }
 
 void MainWindow::makeToolBar()
@@ -381,6 +445,11 @@ void MainWindow::findInScene(const QString& query)
     m_scenePanel->find(query);
 }
 
+std::pair<const SoCamera*, QSize> MainWindow::viewLook() const
+{
+    return {&m_view->getCamera(), m_view->size() * m_view->devicePixelRatioF()};
+}
+
 bool MainWindow::showHelp(const QString& page, const QString& section)
 {
     if (!m_help)
@@ -391,7 +460,7 @@ bool MainWindow::showHelp(const QString& page, const QString& section)
 void MainWindow::showHelpOnFocus()
 {
     const SoFieldContainer* node = m_services.selectedNode();
-    if (!showHelp(QStringLiteral("nodes"), node ? toQString(node->getTypeId().getName()) : QString()))
+    if (!showHelp(QStringLiteral("nodes"), node ? typeText(node->getTypeId()) : QString()))
         m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
 }
 
@@ -440,6 +509,7 @@ void MainWindow::showScene(SoNode* root)
     // application's.
     m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
     m_view->setScene(root);
+    m_playback->getPlayback().setScene(m_files.getDocument().isExternal() ? nullptr : root);
     m_viewPoints->getMarks().setScene(root);
 }
 
@@ -450,6 +520,15 @@ void MainWindow::showTitle()
     const QString title = isDeleted ? tr("%1 (deleted)").arg(document.getTitle()) : document.getTitle();
     setWindowTitle(title + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
+}
+
+void MainWindow::openLive(const LiveOrder& order)
+{
+    m_live->wantNode(order.node);
+    if (order.launch.isEmpty())
+        m_live->attach(order.attach);
+    else
+        m_live->launch(order.launch);
 }
 
 void MainWindow::openFile(const QString& path)
@@ -467,8 +546,8 @@ bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
     }
     SoField* field = node->getField(toName(fieldText));
     if (!field) {
-        m_notifier.error(tr("“%1”, a %2, has no field “%3”.")
-                             .arg(nodeText, toQString(node->getTypeId().getName()), fieldText));
+        m_notifier.error(
+            tr("“%1”, a %2, has no field “%3”.").arg(nodeText, typeText(node->getTypeId()), fieldText));
         return false;
     }
     m_tree->selectPath(path);
@@ -543,7 +622,13 @@ void MainWindow::dropEvent(QDropEvent* event)
     // From the event loop: the other program waits for the drop to end, and the user may be asked something.
     const QString path = event->mimeData()->urls().first().toLocalFile();
     QMetaObject::invokeMethod(
-        this, [this, path] { m_files.openAnother(path); }, Qt::QueuedConnection);
+        this, [this, path] { PatchActs::isPatch(path) ? openPatch(path) : m_files.openAnother(path); },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::openPatch(const QString& path)
+{
+    m_changes->getPatches().apply(path);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -16,15 +16,22 @@ namespace scopix
 {
 
 class BranchFiles;
+class CommandPalette;
 class FieldListView;
 class HandleActions;
 class HandleTool;
 class HelpWindow;
+class LiveActs;
+class SceneChanges;
+class PaletteActs;
 class PictureActs;
+class SettingsActs;
+class Welcome;
 class HostServices;
 class NodeEditing;
 class SceneStates;
 class UserNotifier;
+class PlaybackActs;
 class ViewActs;
 class ViewActions;
 class ScenePanel;
@@ -62,11 +69,14 @@ public:
     SoPath selectedPath() const override;
     SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
+    std::pair<const SoCamera*, QSize> viewLook() const override;
     void openFile(const QString& path) override;
+    void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
     bool savePictures(const PictureOrder& order) override;
-    void enterInteractiveMode() override { m_files.enterInteractiveMode(); }
+    void enterInteractiveMode() override;
+    void setPluginStates(PluginStates states) override { m_pluginStates = std::move(states); }
 
     ScenePanel& getScenePanel() { return *m_scenePanel; }
     SceneTreeView& getTree() { return *m_tree; }
@@ -76,8 +86,13 @@ public:
     HandleTool& getHandles() { return *m_handles; }
     NodeEditing& getEditing() { return *m_editing; }
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
+    LiveActs& getLive() { return *m_live; }
     SceneStates& getStates() { return *m_states; }
+    SceneChanges& getChanges() { return *m_changes; }
     ViewActions& getViewActions() { return *m_viewActions; }
+    Welcome& getWelcome() { return *m_welcome; }
+    SettingsActs& getSettings() { return *m_settings; }
+    PaletteActs& getPalette() { return *m_palette; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -97,11 +112,13 @@ private:
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
+    void makeGuidance();
     void makeToolBar();
     void connectSelection();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
                          Qt::DockWidgetArea area);
 
+    void openPatch(const QString& path);
     void showScene(SoNode* root);
     void showTitle();
     void askForScreenshot();
@@ -126,17 +143,27 @@ private:
     SceneStates* m_states;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
+    SettingsActs* m_settings = nullptr;
+    PaletteActs* m_palette = nullptr;
+    Welcome* m_welcome = nullptr;
+    PluginStates m_pluginStates;
+    QMenu* m_helpMenu = nullptr;
+    QMenu* m_themeMenu = nullptr;
     HelpWindow* m_help = nullptr;               // as soon as help is asked for
     std::unique_ptr<ViewActions> m_viewActions; // as well
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
+    QDockWidget* m_changesDock = nullptr;
+    SceneChanges* m_changes = nullptr;
     QMenu* m_editMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;
+    PlaybackActs* m_playback = nullptr;
     std::unique_ptr<ViewActs> m_viewActs; // goes before the view
+    std::unique_ptr<LiveActs> m_live;     // as well
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

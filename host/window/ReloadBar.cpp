@@ -32,6 +32,9 @@ ReloadBar::ReloadBar(SceneFiles& files, QWidget& view)
     auto* reload = new QPushButton(tr("&Reload"));
     reload->setObjectName(QStringLiteral("reload"));
     connect(reload, &QPushButton::clicked, &files, &SceneFiles::reload);
+    auto* compare = new QPushButton(tr("&Compare"));
+    compare->setObjectName(QStringLiteral("compare"));
+    connect(compare, &QPushButton::clicked, this, &ReloadBar::compareRequested);
     auto* ignore = new QPushButton(tr("&Ignore"));
     ignore->setObjectName(QStringLiteral("ignore"));
     connect(ignore, &QPushButton::clicked, this, &ReloadBar::dismiss);
@@ -39,6 +42,7 @@ ReloadBar::ReloadBar(SceneFiles& files, QWidget& view)
     row->setContentsMargins(Margin, Margin, Margin, Margin);
     row->addWidget(m_text, 1);
     row->addWidget(reload);
+    row->addWidget(compare);
     row->addWidget(ignore);
     hide();
     view.installEventFilter(this);

@@ -20,6 +20,11 @@ public:
     /// Lies over `view`, which owns it. The files must outlive it, or be destroyed with the same window.
     ReloadBar(SceneFiles& files, QWidget& view);
 
+signals:
+    /// With the file as it is now.
+    void compareRequested();
+
+protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

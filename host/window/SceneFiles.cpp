@@ -269,6 +269,9 @@ bool SceneFiles::resolveConflict()
     case ChangedFileAnswer::Reload:
         reload();
         return false;
+    case ChangedFileAnswer::Reapply:
+        emit reapplyRequested();
+        return false;
     case ChangedFileAnswer::SaveElsewhere:
         return saveAs();
     case ChangedFileAnswer::Replace:

@@ -66,6 +66,8 @@ public:
     void keepEdits(bool withTyping);
 
 signals:
+    /// The user wants the file to be opened again, and then the edits made once more.
+    void reapplyRequested();
     void opened(bool good);
 
 private:

@@ -33,6 +33,21 @@ bool remembered(const QString& key, bool atFirst)
                : atFirst;
 }
 
+// One entry for each choice, of which one is checked, named by its number.
+template <class Choice, std::size_t Count, class Act>
+void addChoices(QMenu& menu, const char* name, const std::pair<Choice, QString> (&entries)[Count],
+                Choice present, const Act& act)
+{
+    auto* group = new QActionGroup(&menu);
+    for (const auto& [choice, text] : entries) {
+        QAction* action = menu.addAction(text, group, [act, choice = choice] { act(choice); });
+        action->setObjectName(QLatin1String(name) + QString::number(static_cast<int>(choice)));
+        action->setCheckable(true);
+        action->setChecked(choice == present);
+        group->addAction(action);
+    }
+}
+
 } // namespace
 
 ViewActs::ViewActs(QMenu& menu, SceneView& view, QWidget& tree, HostServices& services,
@@ -53,6 +68,7 @@ ViewActs::ViewActs(QMenu& menu, SceneView& view, QWidget& tree, HostServices& se
         return m_select.hasCrosshair() ? std::optional<QPoint>(m_select.getCrosshair()) : std::nullopt;
     });
     makeShadingMenu(*menu.addMenu(tr("S&hading")));
+    makeToneMappingMenu(*menu.addMenu(tr("T&one Mapping")));
     makeShowMenu(*menu.addMenu(tr("Sho&w")));
     makeMeasureAction(menu, tree);
     connect(&view, &SceneView::picked, this, &ViewActs::clicked);
@@ -77,15 +93,19 @@ void ViewActs::makeShadingMenu(QMenu& menu)
                                                    {Shading::Normals, tr("&Normals")},
                                                    {Shading::TextureCoordinates, tr("&Texture Coordinates")},
                                                    {Shading::Overdraw, tr("&Overdraw")}};
-    auto* group = new QActionGroup(&menu);
-    for (const auto& [shading, text] : entries) {
-        QAction* action =
-            menu.addAction(text, this, [this, shading = shading] { m_view.setShading(shading); });
-        action->setObjectName(QStringLiteral("shading%1").arg(static_cast<int>(shading)));
-        action->setCheckable(true);
-        action->setChecked(shading == m_view.getShading());
-        group->addAction(action);
-    }
+    addChoices(menu, "shading", entries, m_view.getShading(),
+               [this](Shading shading) { m_view.setShading(shading); });
+}
+
+void ViewActs::makeToneMappingMenu(QMenu& menu)
+{
+    using ToneMapping = SoRenderer::ToneMapping;
+    const std::pair<ToneMapping, QString> entries[] = {
+        {ToneMapping::None, tr("&None: What Is Brighter than White Is White")},
+        {ToneMapping::Neutral, tr("Neu&tral: Bright Light Is Compressed, Colours Stay")},
+        {ToneMapping::Filmic, tr("&Filmic: All Is Compressed, as on Film")}};
+    addChoices(menu, "toneMapping", entries, m_view.getToneMapping(),
+               [this](ToneMapping toneMapping) { m_view.setToneMapping(toneMapping); });
 }
 
 void ViewActs::makeShowMenu(QMenu& menu)

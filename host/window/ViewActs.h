@@ -33,6 +33,7 @@ public:
 
 private:
     void makeShadingMenu(QMenu& menu);
+    void makeToneMappingMenu(QMenu& menu);
     void makeShowMenu(QMenu& menu);
     void makeMeasureAction(QMenu& menu, QWidget& tree);
     void clicked(const SoPath& toShape);

@@ -35,7 +35,7 @@ Keys keysInComments()
 {
     static const std::regex pattern(R"(decisions\.md:[\s/]+([a-z0-9-]+))");
     Keys keys;
-    for (const char* folder : {"src", "extender", "editing", "host", "xsg", "plugins"})
+    for (const char* folder : {"src", "extender", "editing", "host", "xsg", "live", "plugins"})
         for (const auto& entry : fs::recursive_directory_iterator(fs::path(SCOPIX_SOURCE_DIR) / folder))
             if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp")
                 keys.merge(keysIn(textOf(entry.path()), pattern));

@@ -149,6 +149,8 @@ TEST_P(Layer, FindsTheSceneGraphInXsgAndTheContractInExtender)
             EXPECT_TRUE(fs::exists(root() / include.target)) << include;
         } else if (startsWith(include.target, "scopix/editing/")) {
             EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
+        } else if (startsWith(include.target, "scopix/live/")) {
+            EXPECT_TRUE(fs::exists(root() / include.target.substr(7))) << include;
         } else if (startsWith(include.target, "scopix/")) {
             EXPECT_TRUE(fs::exists(root() / "extender" / include.target.substr(7))) << include;
         }
@@ -174,7 +176,8 @@ TEST_P(Layer, HasOneGuardAndItsOwnHeaderFirst)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrows, Layer, ::testing::Values("xsg", "extender", "editing", "src", "host"),
+INSTANTIATE_TEST_SUITE_P(Arrows, Layer,
+                         ::testing::Values("xsg", "live", "extender", "editing", "src", "host"),
                          [](const auto& info) { return std::string(info.param); });
 
 TEST(Contract, KnowsNothingOfEditing)
@@ -208,6 +211,29 @@ TEST(SceneGraph, EachLevelIncludesOnlyItselfAndThoseBelow)
     }
     for (const fs::path& file : sourcesIn("xsg"))
         EXPECT_TRUE(seen.count(levelIn(fs::relative(file, root()).string()))) << file << " is in no level";
+}
+
+TEST(Live, KnowsNeitherQtNorASceneGraph)
+{
+    for (const std::string& level : levelsOf("live"))
+        for (const Include& include : includesIn("live/" + level)) {
+            EXPECT_FALSE(isQt(include.target)) << include;
+            EXPECT_FALSE(startsWith(include.target, "xsg/")) << include;
+        }
+}
+
+TEST(Live, EachLevelIncludesOnlyItselfAndThoseBelow)
+{
+    const std::vector<std::string> levels = levelsOf("live");
+    ASSERT_FALSE(levels.empty());
+    std::set<std::string> seen;
+    for (const std::string& level : levels) {
+        seen.insert(level);
+        for (const Include& include : includesIn("live/" + level))
+            if (startsWith(include.target, "scopix/live/")) {
+                EXPECT_TRUE(seen.count(levelIn(include.target.substr(7)))) << include;
+            }
+    }
 }
 
 // Headers of the host are included by their level: "undo/UndoHistory.h".

@@ -73,6 +73,14 @@ TEST(Linking, TheSceneGraphLibraryStandsAlone)
         EXPECT_FALSE(mentions(needs, other)) << needs;
 }
 
+TEST(Linking, WhatLetsInspectorsInStandsAlone)
+{
+    const std::string needs = needsOf(SCOPIX_FILE_ScopixLive);
+    EXPECT_TRUE(mentions(needs, "libc.so")) << needs;
+    for (const char* other : {"libQt5", "libxsg", "libScopix", "libSpxDefaults"})
+        EXPECT_FALSE(mentions(needs, other)) << needs;
+}
+
 TEST(Linking, TheContractKnowsNoPlugIn)
 {
     const std::string needs = needsOf(SCOPIX_FILE_ScopixExtenderAPI);

@@ -2,6 +2,7 @@
 #include <xsg/changes/BranchHash.h>
 
 #include <xsg/changes/NodeMatch.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/groups/SoGroup.h>
@@ -34,7 +35,7 @@ std::uint64_t hashOf(const SoField& field, SbString& text)
                            (field.isConnected() ? 4U : 0U));
     if (field.isDefault() || dynamic_cast<const SoSFNode*>(&field) || dynamic_cast<const SoMFNode*>(&field))
         return hash;
-    field.get(text);
+    SoAnimatedValues::getInstance().getRest(field).get(text);
     return mixed(hash, hashOf(text.str()));
 }
 

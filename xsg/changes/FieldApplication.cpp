@@ -181,8 +181,11 @@ void FieldApplication::apply()
         if (item.isDone)
             continue;
         item.wasSame = item.change->path.getIndex() < 0 && isSame(item);
-        if (item.change->path.getIndex() < 0 && item.field->getConnectedField() != item.source)
-            item.field->disconnect();
+        if (item.change->path.getIndex() >= 0 || item.field->getConnectedField() == item.source)
+            continue;
+        if (m_watch)
+            m_watch->aboutToConnect(*item.field);
+        item.field->disconnect();
     }
     for (Item& item : m_items)
         if (!item.isDone)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/changes/PatchApplication.h>
 #include <xsg/changes/SceneChange.h>
 #include <xsg/paths/ChildTable.h>
 
@@ -14,8 +15,10 @@ namespace xsg
 class FieldApplication
 {
 public:
-    explicit FieldApplication(SceneLookup& lookup)
+    /// `watch` may be null.
+    FieldApplication(SceneLookup& lookup, PatchWatch* watch)
         : m_lookup(lookup)
+        , m_watch(watch)
     {
     }
 
@@ -49,6 +52,7 @@ private:
     void misfit(Item& item, const std::string& reason);
 
     SceneLookup& m_lookup;
+    PatchWatch* m_watch;
     std::vector<Item> m_items;
     std::unordered_map<std::string, SoRef<SoNode>> m_fresh; // by type
     std::vector<std::pair<const SceneChange*, std::string>> m_misfits;

@@ -2,6 +2,7 @@
 #include <xsg/changes/FieldDiff.h>
 
 #include <xsg/fields/SoSFImage.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/paths/FieldText.h>
@@ -20,6 +21,11 @@ constexpr int MostElements = 16;
 // A longer one is not even made text of.
 constexpr int ShownValues = 12;
 
+const SoField& restOf(const SoField& field)
+{
+    return SoAnimatedValues::getInstance().getRest(field);
+}
+
 std::string wasText(const SoField& field)
 {
     if (field.isDefault())
@@ -29,7 +35,7 @@ std::string wasText(const SoField& field)
     if (dynamic_cast<const SoSFImage*>(&field))
         return "another picture";
     SbString text;
-    field.get(text);
+    restOf(field).get(text);
     return shownText(text.str());
 }
 
@@ -145,7 +151,7 @@ bool FieldDiff::isSameValue(const SoField& before, const SoField& after) const
         return isSameReference(static_cast<const SoSFNode&>(before).getNode(), single->getNode());
     const auto* list = dynamic_cast<const SoMFNode*>(&after);
     if (!list)
-        return before.isSame(after);
+        return restOf(before).isSame(restOf(after));
     const auto& old = static_cast<const SoMFNode&>(before);
     bool isSame = old.getNum() == list->getNum();
     for (int i = 0; isSame && i < list->getNum(); ++i)
@@ -172,8 +178,8 @@ bool FieldDiff::mustKeepValue(const SoField& after)
 bool FieldDiff::addElements(const SoField& before, const SoField& after, const SoScenePath& path,
                             SceneChanges& changes) const
 {
-    const auto* list = dynamic_cast<const SoMField*>(&after);
-    const auto* old = dynamic_cast<const SoMField*>(&before);
+    const auto* list = dynamic_cast<const SoMField*>(&restOf(after));
+    const auto* old = dynamic_cast<const SoMField*>(&restOf(before));
     if (!list || !old || dynamic_cast<const SoMFNode*>(list) || list->getNum() != old->getNum() ||
         list->getNum() < 2 || after.isDefault() || before.isDefault() || after.isConnected() ||
         before.isConnected() || after.isIgnored() != before.isIgnored())

@@ -41,9 +41,10 @@ std::string countProblem(int count, const SoScenePath::Step& step, int wanted)
 class Application
 {
 public:
-    Application(const SceneChanges& changes, SoRef<SoNode>& root)
+    Application(const SceneChanges& changes, SoRef<SoNode>& root, PatchWatch* watch)
         : m_changes(changes)
         , m_root(root)
+        , m_watch(watch)
         , m_lookup(root.get())
     {
     }
@@ -76,6 +77,7 @@ private:
 
     const SceneChanges& m_changes;
     SoRef<SoNode>& m_root;
+    PatchWatch* m_watch;
     SceneLookup m_lookup;
     PatchResult m_result;
     std::vector<std::pair<int, std::string>> m_misfits; // with their lines
@@ -100,7 +102,7 @@ PatchResult Application::run()
             change(each);
     putBack();
     commit();
-    FieldApplication fields(m_lookup);
+    FieldApplication fields(m_lookup, m_watch);
     for (const SceneChange& each : m_changes) {
         if (each.kind != Kind::Set)
             continue;
@@ -286,7 +288,10 @@ void Application::commit()
 {
     for (auto& [group, table] : m_lookup.getTables())
         if (table.isChanged())
-            table.commitRemovals();
+            table.commitRemovals([this, &group = *group](int start, int removed) {
+                if (m_watch)
+                    m_watch->aboutToChangeChildren(group, start, removed);
+            });
     for (auto& [group, table] : m_lookup.getTables()) {
         if (!table.isChanged())
             continue;
@@ -294,16 +299,19 @@ void Application::commit()
             m_misfits.emplace_back(0, std::string(labelOf(*refused).getString()) + " cannot stand in " +
                                           labelOf(*group).getString() + ", which it holds.");
     }
-    for (const auto& [node, name] : m_names)
+    for (const auto& [node, name] : m_names) {
+        if (m_watch)
+            m_watch->aboutToRename(*node);
         node->setName(name);
+    }
     m_root = m_lookup.getRoot();
 }
 
 } // namespace
 
-PatchResult applyChanges(const SceneChanges& changes, SoRef<SoNode>& root)
+PatchResult applyChanges(const SceneChanges& changes, SoRef<SoNode>& root, PatchWatch* watch)
 {
-    return Application(changes, root).run();
+    return Application(changes, root, watch).run();
 }
 
 } // namespace xsg

@@ -34,6 +34,9 @@ public:
     /// What was counted or, for a custom counter, what its parents' raw values give. 0 for a missing parent,
     /// an unknown operation, a division by zero, and where a counter would need its own value.
     double getRawValue() const;
+    /// All that was ever counted, whatever resets there were; of a state, what it is. A custom counter counts
+    /// nothing itself.
+    std::int64_t getTotal() const { return m_feed->get(); }
     /// Starts counting from 0. A state keeps what it is; a custom counter resets the counters that it is
     /// computed from, through however many others.
     virtual void reset();

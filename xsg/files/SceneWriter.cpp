@@ -3,6 +3,7 @@
 
 #include <xsg/fields/SoSFImage.h>
 #include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
@@ -258,7 +259,7 @@ void xsg::SceneWriter::writeValue(const SoField& field)
         }
         m_out += list->getNum() > 0 ? " ]" : "]";
     } else if (!leaveValue(field)) {
-        field.get(m_value);
+        SoAnimatedValues::getInstance().getRest(field).get(m_value);
         m_out += m_value.str();
     }
 }

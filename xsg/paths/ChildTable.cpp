@@ -126,7 +126,7 @@ void ChildTable::restore(const std::string& label, Slot slot, const SoRef<SoNode
     m_byLabel[label].now.push_back(slot);
 }
 
-void ChildTable::commitRemovals()
+void ChildTable::commitRemovals(const std::function<void(int start, int removed)>& announce)
 {
     for (auto& [label, named] : m_byLabel) {
         closeGaps(named);
@@ -144,6 +144,7 @@ void ChildTable::commitRemovals()
         ++m_sameBack;
         ++back;
     }
+    announce(static_cast<int>(m_sameFront), static_cast<int>(old.size() - m_sameFront - m_sameBack));
     if (m_sameFront + m_sameBack == 0)
         return m_group->removeAllChildren();
     for (std::size_t i = old.size() - m_sameBack; i > m_sameFront; --i)

@@ -4,6 +4,7 @@
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/paths/SoScenePath.h>
 
+#include <functional>
 #include <list>
 #include <unordered_map>
 #include <vector>
@@ -46,7 +47,8 @@ public:
     bool isChanged() const { return m_isChanged; }
     /// In two parts, so that all groups give children up before any takes one. The second returns those that
     /// the group refuses, since they hold it.
-    void commitRemovals();
+    /// `announce` is called with the place and the number of those that go, before they do.
+    void commitRemovals(const std::function<void(int start, int removed)>& announce);
     std::vector<SoRef<SoNode>> commitInsertions();
 
 private:

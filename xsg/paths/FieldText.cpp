@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/paths/FieldText.h>
 
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 
@@ -21,7 +22,7 @@ std::string xsg::fieldText(const SoField& field, NodePlaces& places)
     const auto* list = dynamic_cast<const SoMFNode*>(&field);
     if (!list) {
         SbString text;
-        field.get(text);
+        SoAnimatedValues::getInstance().getRest(field).get(text);
         return text.str();
     }
     std::string text = "[ ";

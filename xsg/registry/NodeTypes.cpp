@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/registry/NodeTypes.h>
 
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
+#include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -13,6 +17,7 @@
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/lights/SoSpotLight.h>
@@ -21,8 +26,11 @@
 #include <xsg/nodes/properties/SoDrawStyle.h>
 #include <xsg/nodes/properties/SoFog.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterialTexture.h>
 #include <xsg/nodes/properties/SoNormals.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoSecondTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTextureTransform.h>
@@ -62,12 +70,14 @@ void registerAll()
 // One line per node type.
 void xsg::registerNodeTypes()
 {
-    registerAll<SoAmbientLight, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
-                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoFog, SoGroup, SoIndexedLineSet,
-                SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo, SoInstances,
-                SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMatrixTransform, SoNormals,
-                SoOrthographicCamera, SoPerspectiveCamera, SoPointLight, SoPointSet, SoPoints, SoScreenText,
-                SoSeparator, SoShape, SoSolid, SoSphere, SoSpin, SoSpotLight, SoSwitch, SoTexture2,
-                SoTextureCoordinates, SoTextureTransform, SoTransform, SoTransformation, SoTriangleSet,
-                SoTriangleStripSet, SoUnknownNode, SoVertexShape>();
+    registerAll<SoAmbientLight, SoAnimation, SoCamera, SoClipPlane, SoComplexity, SoCone, SoCube, SoCylinder,
+                SoDirectionalLight, SoDrawStyle, SoDrawingCallback, SoEnvironmentLight, SoFog, SoGroup,
+                SoIndexedLineSet, SoIndexedPointSet, SoIndexedTriangleSet, SoIndexedTriangleStripSet, SoInfo,
+                SoInstances, SoLevelOfDetail, SoLight, SoLineSet, SoMaterial, SoMaterialTexture,
+                SoMatrixTransform, SoMorph, SoNormals, SoOrthographicCamera, SoPerspectiveCamera,
+                SoPhysicalMaterial, SoPointLight, SoPointSet, SoPoints, SoScreenText,
+                SoSecondTextureCoordinates, SoSeparator, SoShape, SoSkin, SoSolid, SoSphere, SoSpin,
+                SoSpotLight, SoSwitch, SoTexture2, SoTextureCoordinates, SoTextureTransform, SoTrack,
+                SoTransform, SoTransformation, SoTriangleSet, SoTriangleStripSet, SoUnknownNode,
+                SoVertexShape>();
 }

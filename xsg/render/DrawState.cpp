@@ -45,7 +45,7 @@ void xsg::DrawState::end()
 {
     glBindVertexArray(0);
     glBindBuffer(GL_ARRAY_BUFFER, 0);
-    glBindTexture(GL_TEXTURE_2D, 0);
+    Shader::unbindTextures();
     glUseProgram(0);
     glDisable(GL_CULL_FACE);
     glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
@@ -64,14 +64,13 @@ void xsg::DrawState::setEdgesOnly(bool on)
 void xsg::DrawState::setState(const DrawStateKey& now)
 {
     static const std::vector<SbPlane> noPlanes;
-    if (m_shader.setClipped(now.clipPlanes != nullptr)) {
+    if (m_shader.setSurface(now.clipPlanes != nullptr, now.features)) {
         ++m_changes;
         m_isKnown = false;
     }
-    if (!m_isKnown || now.lights != m_now.lights || now.ambientLight != m_now.ambientLight) {
-        m_shader.setLights(now.lights ? *now.lights : *m_headlights, now.ambientLight);
-        ++m_changes;
-    }
+    if (!m_isKnown || now.lights != m_now.lights || now.ambientLight != m_now.ambientLight ||
+        now.environment != m_now.environment)
+        setLights(now);
     if (!m_isKnown || now.clipPlanes != m_now.clipPlanes) {
         m_shader.setClipPlanes(now.clipPlanes ? *now.clipPlanes : noPlanes);
         ++m_changes;
@@ -79,12 +78,38 @@ void xsg::DrawState::setState(const DrawStateKey& now)
     if (!m_isKnown || now.texture != m_now.texture || now.textureModel != m_now.textureModel ||
         now.textureMatrix != m_now.textureMatrix)
         setTexture(now);
+    if (now.pictures && (!m_isKnown || now.pictures != m_now.pictures))
+        setPictures(now);
     if (!m_isKnown || now.fog != m_now.fog)
         setFog(now.fog);
     if (!m_isKnown || now.drawStyle != m_now.drawStyle)
         setDrawStyle(now.drawStyle);
     m_now = now;
     m_isKnown = true;
+}
+
+// A physically based surface spreads light over the half of all directions, so that a light of intensity 1
+// makes it pi times darker than another material (decisions.md: light-of-physical-materials). The headlight
+// makes up for that, and steps back where there are surroundings.
+void xsg::DrawState::setLights(const DrawStateKey& now)
+{
+    static const std::vector<SoLightSource> noLights;
+    constexpr float Pi = 3.14159265F;
+    ++m_changes;
+    if (now.lights)
+        m_shader.setLights(*now.lights, now.ambientLight);
+    else
+        m_shader.setLights(now.environment ? noLights : *m_headlights, now.ambientLight,
+                           now.features != 0 ? Pi : 1);
+    if (now.environment)
+        m_shader.setEnvironment(now.environment->front());
+}
+
+// They are bound to units of their own, but for the first.
+void xsg::DrawState::setPictures(const DrawStateKey& now)
+{
+    ++m_changes;
+    m_shader.setPictures(*now.pictures);
 }
 
 void xsg::DrawState::setTexture(const DrawStateKey& now)

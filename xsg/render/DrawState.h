@@ -35,7 +35,9 @@ public:
     std::int64_t getChanges() const { return m_changes; }
 
 private:
+    void setLights(const DrawStateKey& now);
     void setTexture(const DrawStateKey& now);
+    void setPictures(const DrawStateKey& now);
     void setFog(const SoFog* fog);
     void setDrawStyle(const SoDrawStyle* style);
 

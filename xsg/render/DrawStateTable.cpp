@@ -11,8 +11,20 @@ namespace
 auto ordered(const xsg::DrawStateKey& s)
 {
     const SbColor& a = s.ambientLight;
-    return std::make_tuple(s.texture, s.textureModel, s.lights.get(), s.clipPlanes.get(),
-                           s.textureMatrix.get(), s.fog, s.drawStyle, a[0], a[1], a[2]);
+    return std::make_tuple(s.features, s.pictures.get(), s.environment.get(), s.texture, s.textureModel,
+                           s.lights.get(), s.clipPlanes.get(), s.textureMatrix.get(), s.fog, s.drawStyle,
+                           a[0], a[1], a[2]);
+}
+
+template <class Act>
+void forEachTexture(const xsg::DrawStateKey& key, const Act& act)
+{
+    if (key.texture)
+        act(*key.texture);
+    if (!key.pictures)
+        return;
+    for (const xsg::SurfacePicture& picture : *key.pictures)
+        act(*picture.texture);
 }
 
 } // namespace
@@ -22,7 +34,8 @@ bool xsg::DrawStateKey::operator<(const DrawStateKey& other) const
     return ordered(*this) < ordered(other);
 }
 
-xsg::DrawStateKey xsg::DrawStateTable::keyOf(const SoState& state, GpuTexture* texture)
+xsg::DrawStateKey xsg::DrawStateTable::keyOf(const SoState& state, GpuTexture* texture,
+                                             const Surface& surface)
 {
     DrawStateKey key;
     key.lights = m_lights.get(state.lights);
@@ -33,14 +46,18 @@ xsg::DrawStateKey xsg::DrawStateTable::keyOf(const SoState& state, GpuTexture* t
         key.textureModel = state.texture->model.getValue();
         key.textureMatrix = m_textureMatrices.get(state.textureMatrix);
     }
+    key.features = surface.features;
+    key.pictures = m_pictures.get(surface.pictures);
+    if ((surface.features & EnvironmentLit) != 0)
+        key.environment = m_environments.get(state.environment);
     key.fog = state.fog;
     key.drawStyle = state.drawStyle;
     return key;
 }
 
-int xsg::DrawStateTable::use(const SoState& state, GpuTexture* texture)
+int xsg::DrawStateTable::use(const SoState& state, GpuTexture* texture, const Surface& surface)
 {
-    DrawStateKey now = keyOf(state, texture);
+    DrawStateKey now = keyOf(state, texture, surface);
     if (m_lastNumber < 0 || !(now == m_last)) {
         m_lastNumber = numberOf(now);
         m_last = std::move(now);
@@ -62,8 +79,7 @@ int xsg::DrawStateTable::numberOf(const DrawStateKey& key)
         m_free.pop_back();
     }
     m_states[static_cast<std::size_t>(number)] = {&m_numbers.emplace(key, number).first->first, 0};
-    if (key.texture)
-        ++key.texture->users;
+    forEachTexture(key, [](GpuTexture& texture) { ++texture.users; });
     return number;
 }
 
@@ -72,9 +88,10 @@ void xsg::DrawStateTable::release(int number)
     Entry& entry = m_states[static_cast<std::size_t>(number)];
     if (--entry.users > 0)
         return;
-    GpuTexture* texture = entry.key->texture;
-    if (texture && --texture->users == 0)
-        m_unusedTextures.push_back(texture);
+    forEachTexture(*entry.key, [this](GpuTexture& texture) {
+        if (--texture.users == 0)
+            m_unusedTextures.push_back(&texture);
+    });
     m_numbers.erase(m_numbers.find(*entry.key));
     entry = {};
     m_free.push_back(number);
@@ -95,4 +112,6 @@ void xsg::DrawStateTable::clear()
     m_lights.clear();
     m_clipPlanes.clear();
     m_textureMatrices.clear();
+    m_pictures.clear();
+    m_environments.clear();
 }

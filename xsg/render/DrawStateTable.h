@@ -3,7 +3,7 @@
 
 #include <xsg/nodes/base/SoState.h>
 #include <xsg/render/ListInterner.h>
-#include <xsg/render/TextureStore.h>
+#include <xsg/render/Surface.h>
 
 #include <map>
 #include <utility>
@@ -19,6 +19,9 @@ struct DrawStateKey {
     SbColor ambientLight;
     GpuTexture* texture = nullptr;
     int textureModel = -1;
+    SurfaceFeatures features = 0; // of a physically based surface, whose texture is among its pictures
+    SoShared<SurfacePicture> pictures;
+    SoShared<SoEnvironment> environment; // null unless such a surface shows it
     const SoFog* fog = nullptr;
     const SoDrawStyle* drawStyle = nullptr;
     bool operator<(const DrawStateKey& other) const;
@@ -31,7 +34,7 @@ class DrawStateTable
 public:
     /// The number of this state, with its texture in OpenGL's memory, with one user more; a new one where it
     /// is not there yet.
-    int use(const SoState& state, GpuTexture* texture);
+    int use(const SoState& state, GpuTexture* texture, const Surface& surface = {});
     /// One user less. Without any, the number is given to another state, and the texture is one user less.
     void release(int number);
     /// Textures that have lost a user and have no other.
@@ -42,7 +45,7 @@ public:
     void clear();
 
 private:
-    DrawStateKey keyOf(const SoState& state, GpuTexture* texture);
+    DrawStateKey keyOf(const SoState& state, GpuTexture* texture, const Surface& surface);
     int numberOf(const DrawStateKey& key);
 
     std::map<DrawStateKey, int> m_numbers;
@@ -60,6 +63,8 @@ private:
     ListInterner<SoLightSource> m_lights;
     ListInterner<SbPlane> m_clipPlanes;
     ListInterner<SbMatrix> m_textureMatrices;
+    ListInterner<SurfacePicture> m_pictures;
+    ListInterner<SoEnvironment> m_environments;
 };
 
 } // namespace xsg

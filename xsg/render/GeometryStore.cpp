@@ -2,7 +2,9 @@
 #include <xsg/render/GeometryStore.h>
 
 #include <xsg/counters/LibraryCounters.h>
+#include <xsg/frames/SoFramePhase.h>
 #include <xsg/render/Shader.h>
+#include <xsg/render/Tangents.h>
 
 #include <algorithm>
 
@@ -27,6 +29,15 @@ void addBlock(GLuint attribute, const std::vector<T>& values, GLintptr& offset)
     offset += bytesOf(values);
 }
 
+std::vector<SbVec4f> tangentsOf(const SoGeometry& geometry, xsg::GeometryStore::Tangents tangents)
+{
+    using Tangents = xsg::GeometryStore::Tangents;
+    if (tangents == Tangents::None)
+        return {};
+    return xsg::computeTangents(geometry, tangents == Tangents::First ? geometry.textureCoordinates
+                                                                      : geometry.secondTextureCoordinates);
+}
+
 void release(xsg::GpuGeometry& geometry)
 {
     geometry.vertexArray.release();
@@ -36,23 +47,27 @@ void release(xsg::GpuGeometry& geometry)
 
 } // namespace
 
-xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& state)
+xsg::GpuGeometry* xsg::GeometryStore::get(const SoShape& shape, const SoState& state, Tangents tangents)
 {
-    const auto [place, isNew] = m_geometry.try_emplace(shape.getGeometryKey(state));
+    SoGeometryKey key = shape.getGeometryKey(state);
+    if (tangents != Tangents::None)
+        key.add(~std::uint64_t{0}, static_cast<std::uint64_t>(tangents));
+    const auto [place, isNew] = m_geometry.try_emplace(key);
     GpuGeometry& kept = place->second;
     (isNew ? feeds.geometryMisses : feeds.geometryHits).add();
     if (isNew) {
         SoGeometry geometry;
         shape.generate(state, geometry);
-        upload(geometry, kept);
+        upload(geometry, tangents, kept);
         kept.key = place->first;
     }
     ++kept.users;
     return &kept;
 }
 
-void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
+void xsg::GeometryStore::upload(const SoGeometry& g, Tangents tangents, GpuGeometry& to)
 {
+    const SoFramePhase phase(SoFrame::Upload);
     to.kind = g.kind;
     to.indexCount = static_cast<GLsizei>(g.index.size());
     to.pointCount = static_cast<std::int64_t>(g.points.size());
@@ -61,14 +76,17 @@ void xsg::GeometryStore::upload(const SoGeometry& g, GpuGeometry& to)
         return;
     glBindVertexArray(to.vertexArray.get());
     glBindBuffer(GL_ARRAY_BUFFER, to.vertices.get());
-    const GLsizeiptr size =
-        bytesOf(g.points) + bytesOf(g.normals) + bytesOf(g.textureCoordinates) + bytesOf(g.colors);
+    const std::vector<SbVec4f> along = tangentsOf(g, tangents);
+    const GLsizeiptr size = bytesOf(g.points) + bytesOf(g.normals) + bytesOf(g.textureCoordinates) +
+                            bytesOf(g.colors) + bytesOf(along) + bytesOf(g.secondTextureCoordinates);
     glBufferData(GL_ARRAY_BUFFER, size, nullptr, GL_STATIC_DRAW);
     GLintptr offset = 0;
     addBlock(PointAttribute, g.points, offset);
     addBlock(NormalAttribute, g.normals, offset);
     addBlock(TextureAttribute, g.textureCoordinates, offset);
     addBlock(ColorAttribute, g.colors, offset);
+    addBlock(TangentAttribute, along, offset);
+    addBlock(SecondTextureAttribute, g.secondTextureCoordinates, offset);
     for (GLuint i = InstanceAttribute; i < InstanceAttribute + 8; ++i) {
         glVertexAttribDivisor(i, 1);
         glEnableVertexAttribArray(i);

@@ -26,8 +26,10 @@ struct GpuGeometry {
 class XSG_API GeometryStore
 {
 public:
+    /// Of which texture coordinates a geometry has the tangents, too.
+    enum class Tangents { None, First, Second };
     /// The shape's geometry, uploaded where it was not there, with one user more.
-    GpuGeometry* get(const SoShape& shape, const SoState& state);
+    GpuGeometry* get(const SoShape& shape, const SoState& state, Tangents tangents = Tangents::None);
     /// One user less; removeUnused() frees what has no user any more.
     void release(GpuGeometry* geometry);
     /// Nothing has a user any more.
@@ -39,7 +41,7 @@ public:
     std::int64_t getUploads() const { return m_uploads; }
 
 private:
-    void upload(const SoGeometry& geometry, GpuGeometry& to);
+    void upload(const SoGeometry& geometry, Tangents tangents, GpuGeometry& to);
 
     std::unordered_map<SoGeometryKey, GpuGeometry, SoGeometryKeyHash> m_geometry;
     std::int64_t m_uploadedBytes = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/render/InstanceList.h>
 
+#include <xsg/frames/SoFramePhase.h>
+
 #include <algorithm>
 
 namespace
@@ -150,6 +152,7 @@ void xsg::InstanceList::regroup(const std::vector<RenderItem>& items, std::uint3
 void xsg::InstanceList::uploadAll(const std::vector<RenderItem>& items)
 {
     constexpr std::size_t Piece = 4096;
+    const SoFramePhase phase(SoFrame::Upload);
     if (m_order.empty())
         return;
     glBindBuffer(GL_ARRAY_BUFFER, m_buffer.get());

@@ -20,6 +20,9 @@ public:
     void fill(RenderItem& item, const SoShape& shape, const SoState& state, const SbMatrix& toWorld);
 
 private:
+    void fillSurface(RenderItem& item, const SoShape& shape, const SoState& state);
+    void fillPhysicalSurface(RenderItem& item, const SoShape& shape, const SoState& state);
+
     DrawStateTable& m_drawStates;
     GeometryStore& m_geometry;
     TextureStore& m_textures;

@@ -3,6 +3,10 @@
 
 #include <xsg/nodes/base/SoState.h>
 #include <xsg/render/GlFunctions.h>
+#include <xsg/render/SoRenderer.h>
+#include <xsg/render/Surface.h>
+
+#include <map>
 
 namespace xsg
 {
@@ -14,14 +18,17 @@ enum Attribute : GLuint {
     TextureAttribute = 2,
     ColorAttribute = 3,
     InstanceAttribute = 4, // eight of four floats: see InstanceData
+    TangentAttribute = 12,
+    SecondTextureAttribute = 13,
 };
 
-/// What differs from copy to copy of a geometry that is drawn.
+/// What differs from copy to copy of a geometry that is drawn. In brackets what it is of a physically based
+/// surface.
 struct InstanceData {
     float matrix[16];
-    float diffuse[4]; // and opacity
-    float ambient[4]; // and shininess
-    float specular[4];
+    float diffuse[4];  // and opacity (base colour, opacity)
+    float ambient[4];  // and shininess (metallic, roughness, strength of occlusion, cut-off of opacity)
+    float specular[4]; // (clear coat, its roughness, scale of normals, scale of the coat's)
     float emissive[4];
 };
 
@@ -48,20 +55,27 @@ public:
     void release();
 
     void use();
-    /// Draws with clipping planes from now on, or without them. True where that switches to another program,
-    /// for which lights, planes, textures and fog have to be set again.
-    bool setClipped(bool on);
+    /// Draws with clipping planes from now on, or without them, and surfaces of this kind. True where that
+    /// switches to another program, for which lights, planes, textures and fog have to be set again. Where
+    /// OpenGL refuses the surface's program, it is drawn as another material's, and takeError() says so.
+    bool setSurface(bool isClipped, SurfaceFeatures features);
+    std::string takeError() { return std::exchange(m_error, {}); }
+    /// How bright light becomes colours, from the next setSurface() on.
+    void setToneMapping(SoRenderer::ToneMapping toneMapping) { m_toneMapping = toneMapping; }
     /// Draws only where things are, without their looks: for a picture of depths. Settings are kept for the
     /// other program.
     void setPlaceOnly(bool on);
-    /// A look that was prepared. Settings have to be set again, as after setClipped().
+    /// A look that was prepared. Settings have to be set again, as after setSurface().
     void setLook(Look look);
     /// The colour, with opacity, of the flat look.
     void setFlatColor(const SbVec4f& color);
-    /// Cuts everything by this plane too, in world coordinates, from the next setClipped() on; null for none.
+    /// Cuts everything by this plane too, in world coordinates, from the next setSurface() on; null for none.
     void setViewPlane(const SbPlane* plane);
     void setView(const SbMatrix& viewProjection, const SbVec4f& eye, int width, int height);
-    void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient);
+    void setLights(const std::vector<SoLightSource>& lights, const SbColor& ambient, float strength = 1);
+    void setEnvironment(const SoEnvironment& environment);
+    void setPictures(const std::vector<SurfacePicture>& pictures);
+    static void unbindTextures();
     void setClipPlanes(const std::vector<SbPlane>& planes);
     void setTexture(int model, const SbMatrix& matrix); // model: -1 for none
     /// kind: -1 for none, else as SoFog::Kind.
@@ -75,19 +89,38 @@ private:
         struct Locations {
             GLint viewProjection, eye, viewport, lightCount, lightColor, lightLocation, lightDirection,
                 lightAttenuation, ambientLight, clipCount, clipPlanes, textureModel, textureMatrix, fogKind,
-                fogColor, screenSpace, flatColor;
+                fogColor, screenSpace, flatColor, pictures, pictureMatrix, pictureCoordinates, surroundings,
+                up, environmentTable;
         } at{};
     };
     enum Kind { PlaceOnly = 4, KindCount = 5 }; // the others are looks
     static bool build(Program& program, bool isClipped, int kind, std::string& error);
+    static bool buildSurface(Program& program, const std::string& defines, std::string& error);
+    static void findLocations(Program& program);
     bool prepareKind(int kind, std::string& error);
-    bool change(bool isClipped, bool isPlaceOnly, Look look);
+    /// What decides which program is used.
+    struct Choice {
+        bool isClipped = false;
+        bool isPlaceOnly = false;
+        Look look = Look::Full;
+        SurfaceFeatures features = 0;
+        SoRenderer::ToneMapping toneMapping = SoRenderer::ToneMapping::Neutral; // of surfaces
+        bool operator==(const Choice& other) const;
+        bool isSurface() const { return features != 0 && look == Look::Full && !isPlaceOnly; }
+    };
+    bool change(const Choice& choice);
+    Program* find(const Choice& choice);
+    Program* findSurface(const Choice& choice);
+    void useEnvironmentTable();
     void sendCommon();
 
     Program m_programs[2 * KindCount]; // of each kind the plain one and the clipped one
-    bool m_isClipped = false;
-    bool m_isPlaceOnly = false;
-    Look m_look = Look::Full;
+    /// By features, clipping and tone mapping, made at first use; without a name where OpenGL has refused.
+    std::map<unsigned, Program> m_surfaces;
+    GlTexture m_environmentTable;
+    SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
+    std::string m_error;
+    Choice m_choice;
     bool m_hasViewPlane = false;
     SbPlane m_viewPlane;
     Program* m_now = &m_programs[0];

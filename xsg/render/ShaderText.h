@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The text of the drawing programs. The one for scenes with clipping planes has CLIPPED defined: to write the
 // distances to planes that are not there would cost each vertex a good deal. Those that draw a mask have
-// PLACE_ONLY defined: they need to know where things are, and nothing of their looks.
+// PLACE_ONLY defined: they need to know where things are, and nothing of their looks. Those of physically
+// based surfaces have PHYSICAL defined: see SurfaceText.h.
 #pragma once
 
 namespace xsg
@@ -21,6 +22,12 @@ layout(location = 8) in vec4 diffuse;
 layout(location = 9) in vec4 ambient;
 layout(location = 10) in vec4 specular;
 layout(location = 11) in vec4 emissive;
+#ifdef NORMAL_PICTURES
+layout(location = 12) in vec4 tangent; // fourth number: on which side the second direction is
+#endif
+#ifdef SECOND_COORDINATES
+layout(location = 13) in vec2 secondTexturePoint;
+#endif
 
 uniform mat4 viewProjection;
 uniform mat4 textureMatrix;
@@ -42,6 +49,16 @@ flat out vec4 vertexAmbient;
 flat out vec3 vertexSpecular;
 flat out vec3 vertexEmissive;
 #endif
+#ifdef PHYSICAL
+flat out vec4 vertexCoat;
+#endif
+#ifdef NORMAL_PICTURES
+out vec3 worldTangent;
+out vec3 worldBitangent;
+#endif
+#ifdef SECOND_COORDINATES
+out vec2 secondTextureAt;
+#endif
 
 void main()
 {
@@ -59,7 +76,20 @@ void main()
     mat3 m = mat3(model);
     worldNormal = mat3(cross(m[1], m[2]), cross(m[2], m[0]), cross(m[0], m[1])) * normal;
     isLit = any(notEqual(normal, vec3(0))) ? 1 : 0;
+#ifdef PHYSICAL
+    textureAt = texturePoint;
+    vertexCoat = specular;
+#else
     textureAt = (textureMatrix * vec4(texturePoint, 0, 1)).xy;
+#endif
+#ifdef NORMAL_PICTURES
+    worldNormal *= sign(dot(m[0], cross(m[1], m[2])));
+    worldTangent = m * tangent.xyz;
+    worldBitangent = m * (cross(normal, tangent.xyz) * tangent.w);
+#endif
+#ifdef SECOND_COORDINATES
+    secondTextureAt = secondTexturePoint;
+#endif
     vertexDiffuse = vec4(color.r < 0 ? diffuse.rgb : color, diffuse.a);
     vertexAmbient = ambient;
     vertexSpecular = specular.rgb;
@@ -72,7 +102,8 @@ void main()
 }
 )";
 
-constexpr const char* FragmentShaderText = R"(
+// What all lit surfaces share.
+constexpr const char* LightText = R"(
 in vec3 worldPoint;
 in vec3 worldNormal;
 in vec2 textureAt;
@@ -89,8 +120,6 @@ uniform vec4 lightLocation[8]; // fourth number 0: light from a direction
 uniform vec4 lightDirection[8]; // fourth number: cosine of the cut-off angle
 uniform vec4 lightAttenuation[8]; // fourth number: drop-off
 uniform vec3 ambientLight;
-uniform int textureModel;
-uniform sampler2D picture;
 uniform int fogKind;
 uniform vec4 fogColor; // fourth number: range
 
@@ -113,6 +142,33 @@ vec3 lightAt(int i, out vec3 toLight)
     return lightColor[i] * strength * pow(max(cosine, 1e-6), lightAttenuation[i].w);
 }
 
+// Both sides of a surface are lit. Which of them is seen, the face says: near a silhouette, a normal that is smoothed
+// between faces may well look away from the eye. -1: the normal is to be turned around.
+float sideSeen(vec3 n, vec3 toEye)
+{
+    // Lines and points have no face.
+    vec3 across = dFdx(worldPoint);
+    vec3 up = dFdy(worldPoint);
+    vec3 face = cross(across, up);
+    if (length(face) <= 1e-4 * length(across) * length(up))
+        face = toEye;
+    return dot(n, face) * dot(toEye, face) < 0.0 ? -1.0 : 1.0;
+}
+
+float fogAmount()
+{
+    float distance = length(eye.xyz - worldPoint * eye.w) / max(fogColor.w, 1e-6);
+    if (fogKind == 0)
+        return clamp(distance, 0.0, 1.0);
+    float density = fogKind == 1 ? distance * 4.0 : distance * distance * 5.0;
+    return 1.0 - exp(-density);
+}
+)";
+
+constexpr const char* FragmentShaderText = R"(
+uniform int textureModel;
+uniform sampler2D picture;
+
 vec4 surfaceColor()
 {
     if (textureModel < 0)
@@ -125,15 +181,6 @@ vec4 surfaceColor()
     return texel;
 }
 
-float fogAmount()
-{
-    float distance = length(eye.xyz - worldPoint * eye.w) / max(fogColor.w, 1e-6);
-    if (fogKind == 0)
-        return clamp(distance, 0.0, 1.0);
-    float density = fogKind == 1 ? distance * 4.0 : distance * distance * 5.0;
-    return 1.0 - exp(-density);
-}
-
 void main()
 {
     vec4 base = surfaceColor();
@@ -141,16 +188,7 @@ void main()
     if (isLit == 1) {
         vec3 toEye = normalize(eye.xyz - worldPoint * eye.w);
         vec3 n = normalize(worldNormal);
-        // Both sides of a surface are lit. Which of them is seen, the face says: near a silhouette, a normal that is
-        // smoothed between faces may well look away from the eye.
-        // Lines and points have no face.
-        vec3 across = dFdx(worldPoint);
-        vec3 up = dFdy(worldPoint);
-        vec3 face = cross(across, up);
-        if (length(face) <= 1e-4 * length(across) * length(up))
-            face = toEye;
-        if (dot(n, face) * dot(toEye, face) < 0.0)
-            n = -n;
+        n *= sideSeen(n, toEye);
         color = vertexEmissive + ambientLight * vertexAmbient.rgb;
         float sharpness = max(vertexAmbient.a, 0.0) * 128.0;
         for (int i = 0; i < lightCount; ++i) {

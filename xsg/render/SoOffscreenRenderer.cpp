@@ -175,12 +175,12 @@ SoRenderer::Progress SoOffscreenRenderer::renderPart(SoNode* root, const SoCamer
     return progress;
 }
 
-bool SoOffscreenRenderer::renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part,
+bool SoOffscreenRenderer::renderTile(SoNode* root, const SoCamera* camera, const SoRenderer::Tile& tile,
                                      int width, int height, SoPixels& pixels)
 {
-    m_impl->renderer.setPart(part);
+    m_impl->renderer.setTile(tile);
     const bool drawn = render(root, camera, width, height, pixels);
-    m_impl->renderer.setPart({});
+    m_impl->renderer.setTile({});
     return drawn;
 }
 

@@ -36,7 +36,7 @@ public:
     /// sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
     /// The same for a part of a larger picture, which may be larger than OpenGL could draw.
-    bool renderPart(SoNode* root, const SoCamera* camera, const SoRenderer::Part& part, int width, int height,
+    bool renderTile(SoNode* root, const SoCamera* camera, const SoRenderer::Tile& tile, int width, int height,
                     SoPixels& pixels);
     /// As SoRenderer::renderPart(); the picture is there when it is finished.
     SoRenderer::Progress renderPart(SoNode* root, const SoCamera* camera, int width, int height,

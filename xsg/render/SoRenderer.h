@@ -15,6 +15,7 @@
 #include <vector>
 
 class SoCamera;
+class SoFrameLog;
 class SoHiding;
 class SoNode;
 
@@ -41,13 +42,13 @@ public:
     const std::string& getErrorText() const;
     /// Where in a larger picture the pixels of the next render() lie, so that a picture can be drawn in
     /// parts.
-    struct Part {
+    struct Tile {
         int wholeWidth = 0; // 0: what is drawn is the whole picture
         int wholeHeight = 0;
         int left = 0;
         int bottom = 0;
     };
-    void setPart(const Part& part);
+    void setTile(const Tile& tile);
 
     enum class Progress { Finished, Unfinished, Failed };
     /// render() in pieces, for a program that answers its user meanwhile: returns when the picture is
@@ -68,6 +69,11 @@ public:
     /// hiding anything).
     enum class Shading { Full, WithEdges, Normals, TextureCoordinates, Overdraw };
     void setShading(Shading shading);
+    /// How light that is brighter than white, or nearly so, is brought into the picture: cut off, compressed
+    /// where it is bright with hues kept, or over the whole range as film does. Only physically based
+    /// surfaces are that bright; SoMaterial is shown as it is.
+    enum class ToneMapping { None, Neutral, Filmic };
+    void setToneMapping(ToneMapping toneMapping); // Neutral at first
     /// Cuts the scene by this plane too, in world coordinates: what lies on its normal's side stays. Null for
     /// none.
     void setClipPlane(const SbPlane* plane);
@@ -91,6 +97,10 @@ public:
     /// as SoGLError with what was wrong: the preference XSG_GL_DEBUG, on in debug builds unless it says
     /// otherwise.
     static bool wantsDebugContext();
+
+    /// Files what each picture costs, while the log is on; it must outlive the pictures. Null, as at first:
+    /// nowhere.
+    void setFrameLog(SoFrameLog* log);
 
     /// A light beside the eye in scenes without a light of their own; on from the start.
     void setHeadlight(bool on);

@@ -2,6 +2,7 @@
 #include <xsg/render/TextureStore.h>
 
 #include <xsg/errors/SoError.h>
+#include <xsg/frames/SoFramePhase.h>
 
 #include <algorithm>
 
@@ -22,6 +23,36 @@ constexpr PixelFormat Formats[4] = {
     {GL_RGBA8, GL_RGBA, {GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA}},
 };
 
+// There are no formats of sRGB for grey, which is spread to colours.
+constexpr PixelFormat ColorFormats[2] = {
+    {GL_SRGB8, GL_RGB, {GL_RED, GL_GREEN, GL_BLUE, GL_ONE}},
+    {GL_SRGB8_ALPHA8, GL_RGBA, {GL_RED, GL_GREEN, GL_BLUE, GL_ALPHA}},
+};
+
+std::vector<unsigned char> spreadGrey(const SoImageView& image)
+{
+    const bool hasAlpha = image.components == 2;
+    std::vector<unsigned char> pixels;
+    const std::size_t count = static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height);
+    pixels.reserve(count * (hasAlpha ? 4 : 3));
+    for (std::size_t i = 0; i < count; ++i) {
+        const unsigned char* at = image.bytes + i * static_cast<std::size_t>(image.components);
+        pixels.insert(pixels.end(), 3, at[0]);
+        if (hasAlpha)
+            pixels.push_back(at[1]);
+    }
+    return pixels;
+}
+
+// Into the texture that is bound.
+void send(const SoImageView& image, const PixelFormat& format, const unsigned char* bytes)
+{
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+    glTexImage2D(GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.external,
+                 GL_UNSIGNED_BYTE, bytes);
+    glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, format.swizzle);
+}
+
 GLint wrapOf(const SoSFEnum& field)
 {
     return field.getValue() == SoTexture2::Clamp ? GL_CLAMP_TO_EDGE : GL_REPEAT;
@@ -34,21 +65,21 @@ void set(GLenum parameter, GLint value)
 
 } // namespace
 
-xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality)
+xsg::GpuTexture* xsg::TextureStore::get(const SoTexture2* node, float quality, bool areColors)
 {
     if (!node || !(quality > 0))
         return nullptr;
     const Filter filter = quality < 0.5F ? Blocky : quality > 0.5F ? Smoothest : Smooth;
-    const auto [place, isNew] = m_textures.try_emplace({node->getNodeId(), filter});
+    const auto [place, isNew] = m_textures.try_emplace({node->getNodeId(), {filter, areColors}});
     GpuTexture& kept = place->second;
     if (isNew || kept.nodeVersion != node->getChangeCount())
-        update(*node, filter, kept);
+        update(*node, {filter, areColors}, kept);
     kept.usedAt = m_round;
     return kept.isEmpty ? nullptr : &kept;
 }
 
 // Fields that say nothing of the image itself leave it where it is: its file is not read again.
-void xsg::TextureStore::update(const SoTexture2& node, Filter filter, GpuTexture& texture)
+void xsg::TextureStore::update(const SoTexture2& node, Kind kind, GpuTexture& texture)
 {
     const bool isNew = texture.usedAt == 0;
     GpuTexture::Source source{node.getFilePath(), node.fileName.getChangeCount(),
@@ -57,10 +88,10 @@ void xsg::TextureStore::update(const SoTexture2& node, Filter filter, GpuTexture
     if (isNew || !(source == texture.source)) {
         texture.source = std::move(source);
         forget(texture);
-        upload(node, filter, texture);
+        upload(node, kind, texture);
     } else if (!texture.isEmpty) {
         glBindTexture(GL_TEXTURE_2D, texture.texture.get());
-        setFilter(node, filter);
+        setFilter(node, kind.filter);
     }
 }
 
@@ -72,8 +103,9 @@ void xsg::TextureStore::forget(GpuTexture& texture)
     texture.hasAlpha = false;
 }
 
-void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture& to)
+void xsg::TextureStore::upload(const SoTexture2& node, Kind kind, GpuTexture& to)
 {
+    const SoFramePhase phase(SoFrame::Upload);
     GLint largest = 0;
     glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
     SoImageSize whole;
@@ -90,17 +122,19 @@ void xsg::TextureStore::upload(const SoTexture2& node, Filter filter, GpuTexture
         report(node, whole, {image.width, image.height}, largest);
     if (image.isEmpty())
         return m_images.drop();
-    const PixelFormat& format = Formats[image.components - 1];
     glBindTexture(GL_TEXTURE_2D, to.texture.get());
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glTexImage2D(GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.external,
-                 GL_UNSIGNED_BYTE, image.bytes);
-    glTexParameteriv(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_RGBA, format.swizzle);
-    setFilter(node, filter);
-    if (filter == Smoothest)
+    const bool hasAlpha = image.components % 2 == 0;
+    if (!kind.areColors)
+        send(image, Formats[image.components - 1], image.bytes);
+    else if (image.components > 2)
+        send(image, ColorFormats[hasAlpha ? 1 : 0], image.bytes);
+    else
+        send(image, ColorFormats[hasAlpha ? 1 : 0], spreadGrey(image).data());
+    setFilter(node, kind.filter);
+    if (kind.filter == Smoothest)
         glGenerateMipmap(GL_TEXTURE_2D);
     to.isEmpty = false;
-    to.hasAlpha = image.components == 2 || image.components == 4;
+    to.hasAlpha = hasAlpha;
     to.bytes = std::int64_t{image.width} * image.height * image.components;
     m_budget.take(to.bytes);
     m_uploadedBytes += to.bytes;

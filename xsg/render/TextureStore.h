@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace xsg
@@ -47,7 +48,8 @@ public:
         m_isOutdated = true;
     }
     /// Null where there is no image, or the quality asks for none.
-    GpuTexture* get(const SoTexture2* node, float quality);
+    /// `areColors`: for physically based surfaces, which compute with the light that sRGB numbers stand for.
+    GpuTexture* get(const SoTexture2* node, float quality, bool areColors = false);
     /// `sceneId`: a scene's textures are kept from round to round, those of another one are not.
     void beginRound(std::uint64_t sceneId);
     void endRound();
@@ -60,13 +62,21 @@ public:
 
 private:
     enum Filter { Blocky, Smooth, Smoothest };
-    void update(const SoTexture2& node, Filter filter, GpuTexture& texture);
-    void upload(const SoTexture2& node, Filter filter, GpuTexture& to);
+    struct Kind {
+        Filter filter;
+        bool areColors;
+        bool operator<(const Kind& other) const
+        {
+            return std::tie(filter, areColors) < std::tie(other.filter, other.areColors);
+        }
+    };
+    void update(const SoTexture2& node, Kind kind, GpuTexture& texture);
+    void upload(const SoTexture2& node, Kind kind, GpuTexture& to);
     void setFilter(const SoTexture2& node, Filter filter) const;
     void forget(GpuTexture& texture);
     void report(const SoTexture2& node, const SoImageSize& size, const SoImageSize& fitted, int mostSide);
 
-    using Key = std::pair<std::uint64_t, Filter>; // a node's id
+    using Key = std::pair<std::uint64_t, Kind>; // a node's id
 
     TextureImages m_images;
     PictureBudget m_budget{0};

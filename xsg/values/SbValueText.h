@@ -65,7 +65,7 @@ public:
     bool readNumber(T& value);
     /// Letters, digits, '_' and every byte above 127.
     std::string_view readWord();
-    /// A text in double quotes; \" \\ \n \r \t \0 \xHH \uHHHH are understood inside.
+    /// A text in double quotes; `\" \\ \n \r \t \0 \xHH \uHHHH` are understood inside.
     bool readQuoted(std::string& out);
 
     /// Whether what follows a number would belong to it, as in "1.5.2", "7up" or "3-4".

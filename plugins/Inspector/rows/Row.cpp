@@ -16,6 +16,7 @@
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
+#include <xsg/nodes/animation/SoAnimatedValues.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -45,11 +46,19 @@ constexpr int SoonAfterMs = 500;
 constexpr double CaptionShare = 0.38;
 constexpr double NarrowCaptionShare = 0.5;
 constexpr int NarrowInCharacters = 42;
+constexpr int RestCharacters = 40;
 
 qint64 steadyMs()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
     return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
+// What an animated field holds while nothing is animated.
+QString restText(const SoField& field)
+{
+    const QString text = SpxText::ofField(SoAnimatedValues::getInstance().getRest(field));
+    return text.size() > RestCharacters ? text.left(RestCharacters) + QStringLiteral("…") : text;
 }
 
 } // namespace
@@ -264,6 +273,7 @@ void Row::showMark()
     using State = Mark::State;
     const SoField* source = field()->getConnectedField();
     const bool isChanged = !areAllDefault();
+    const bool isOfClip = SoAnimatedValues::getInstance().isAnimated(*field());
     const bool isAnimated = m_changesInARow >= AnimatedAfter && steadyMs() - m_lastChange < 2 * SoonAfterMs;
     if (m_hasConflict)
         m_mark->setState(State::Conflict, tr("Changed elsewhere meanwhile: take that value, or keep yours."));
@@ -271,6 +281,9 @@ void Row::showMark()
         m_mark->setState(State::Connected, tr("Follows %1.").arg(pathOf(*source)));
     else if (isAny(&SoField::isIgnored))
         m_mark->setState(State::Ignored, tr("Ignored: takes no part."));
+    else if (isOfClip)
+        m_mark->setState(State::Animated,
+                         tr("Animated: %1 at rest, which is what is saved.").arg(restText(*field())));
     else if (isAnimated)
         m_mark->setState(State::Animated, tr("Changes by itself."));
     else if (isChanged)

@@ -5,6 +5,7 @@
 #include <xsg/fields/SoMFInt32.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/shapes/SoIndexedLineSet.h>
@@ -92,7 +93,9 @@ private:
         };
         if (isListOf(state().points, &SoPoints::points) || isListOf(state().normals, &SoNormals::vectors) ||
             isListOf(state().textureCoordinates, &SoTextureCoordinates::points) ||
-            (hasColors && isListOf(state().material.diffuseNode, &SoMaterial::diffuseColor)))
+            isListOf(state().secondTextureCoordinates, &SoTextureCoordinates::points) ||
+            (hasColors && (isListOf(state().material.diffuseNode, &SoMaterial::diffuseColor) ||
+                           isListOf(state().physicalMaterial, &SoPhysicalMaterial::baseColor))))
             return VertexUse::Kind::Values;
         return indicesOf(shape) == &m_list ? VertexUse::Kind::Indices : VertexUse::Kind::None;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommandRun.h"
 
+#include <xsg/frames/SoFrameFile.h>
+
 namespace
 {
 
@@ -270,4 +272,55 @@ TEST_F(Commands, AClosedPipeIsNoReasonToGoOn)
     const Outcome outcome = start("/bin/sh", {"-c", SCOPIX_PROGRAM " print lamp.xsg > /dev/full"});
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.said, "The output could not be written to its end.");
+}
+
+TEST_F(Commands, MeasureCountsAsOthersDo)
+{
+    const Outcome outcome =
+        run({"measure", "lamp.xsg", "--frames", "3", "--size", "40x30", "--json", "-o", "kept.xsgframes"});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.said);
+    const QJsonObject measured = json(outcome.out).object();
+    EXPECT_EQ(measured["frames"].toInt(), 3);
+    const QJsonObject figures = measured["figures"].toObject();
+    const QJsonObject stats = json(run({"stats", "--json", "lamp.xsg"}).out).object();
+    EXPECT_EQ(figures["Triangles"].toObject()["median"].toDouble(), stats["triangles"].toDouble());
+    EXPECT_GT(figures["Whole"].toObject()["median"].toDouble(), 0);
+    EXPECT_EQ(figures["Whole"].toObject()["unit"].toString(), "ms");
+    EXPECT_EQ(figures["Uploads"].toObject()["median"].toDouble(), 0);
+    SoFrameRecording kept;
+    std::string problem;
+    ASSERT_TRUE(SoFrameFile::read(folder.filePath("kept.xsgframes").toStdString(), kept, problem)) << problem;
+    EXPECT_EQ(kept.getNumFrames(), 3U);
+    EXPECT_EQ(kept.getAbout("size"), "40x30");
+}
+
+// No machine is as fast as the one recording says, and none as slow as the other.
+TEST_F(Commands, MeasureSaysSlowerByItsExitStatus)
+{
+    const auto against = [this](std::int64_t nanoseconds) {
+        SoFrameRecording old;
+        old.columns = {{"Whole", "ns", false, {}}};
+        old.setAbout("size", "40x30");
+        SoFrameFile file;
+        EXPECT_TRUE(file.open(folder.filePath("old.xsgframes").toStdString(), old));
+        for (int i = 0; i < 12; ++i)
+            old.columns[0].values.push_back(nanoseconds + i);
+        EXPECT_TRUE(file.write(old));
+        return run({"measure", "lamp.xsg", "--frames", "12", "--against", "old.xsgframes", "--json"});
+    };
+    const Outcome slower = against(1);
+    EXPECT_EQ(slower.status, 1) << qPrintable(slower.said);
+    const QJsonObject compared = json(slower.out).object()["against"].toObject();
+    EXPECT_TRUE(compared["slower"].toBool());
+    EXPECT_LT(compared["Whole"].toObject()["chance"].toDouble(), 0.01);
+    EXPECT_EQ(against(1'000'000'000'000).status, 0);
+}
+
+TEST_F(Commands, MeasureRefusesWhatIsNoRecording)
+{
+    expectRefusal({"measure", "lamp.xsg", "--against", "lamp.xsg"}, "it is no recording of frames");
+    expectRefusal({"measure", "lamp.xsg", "--frames", "0"}, "--frames expects a number");
+    expectRefusal({"measure", "lamp.xsg", "--size", "big"}, "--size expects WxH");
+    expectRefusal({"measure", "lamp.xsg", "--frames", "1", "--size", "8x8", "-o", "/dev/null"},
+                  "cannot be written");
 }

@@ -3,6 +3,8 @@
 #include "CommandRun.h"
 
 #include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/base/SoMFNode.h>
+#include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/paths/ChildTable.h>
 
@@ -19,6 +21,8 @@ public:
         EXPECT_TRUE(document.isObject());
         root = make(document.object());
         fill(document.object(), root.get());
+        for (const auto& [field, paths] : m_references)
+            refer(*field, paths);
     }
     SoRef<SoNode> root;
 
@@ -66,12 +70,34 @@ private:
                 ASSERT_TRUE(source) << problem;
                 EXPECT_TRUE(field->connectFrom(source));
             }
-            const bool isSet =
-                state["default"].toBool() || field->setWithoutPropagation(bytes(state["value"]));
+            const bool isReference =
+                field->isOfType(SoSFNode::getClassTypeId()) || field->isOfType(SoMFNode::getClassTypeId());
+            if (isReference && !state["default"].toBool())
+                m_references[field] = state["value"].toString();
+            const bool isSet = isReference || state["default"].toBool() ||
+                               field->setWithoutPropagation(bytes(state["value"]));
             EXPECT_TRUE(isSet) << qPrintable(at.key());
             field->setIgnored(state["ignored"].toBool());
         }
     }
+    // To nodes that may come later.
+    void refer(SoField& field, QString paths)
+    {
+        std::vector<SoRef<SoNode>> nodes;
+        for (const QString& path : paths.remove("[ ").remove(" ]").split(", ")) {
+            std::string problem;
+            xsg::SceneLookup lookup(root.get());
+            nodes.emplace_back(path == "NULL" ? nullptr
+                                              : lookup.find(SoScenePath(path.toStdString()), problem));
+            EXPECT_EQ(problem, "");
+        }
+        if (auto* list = dynamic_cast<SoMFNode*>(&field))
+            list->setValues(std::move(nodes));
+        else
+            static_cast<SoSFNode&>(field).setValue(nodes.front());
+    }
+
+    std::map<SoField*, QString> m_references;
 };
 
 using PrintJson = CommandRun;

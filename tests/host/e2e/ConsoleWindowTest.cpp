@@ -40,8 +40,11 @@ protected:
     QTextEdit* output() { return window().findChild<QTextEdit*>("m_consoleOutput"); }
     QToolBar* toolBar()
     {
-        const auto* box = window().findChild<QComboBox*>();
-        return box ? qobject_cast<QToolBar*>(box->parentWidget()) : nullptr;
+        for (const auto* box : window().findChildren<QComboBox*>()) {
+            if (auto* bar = qobject_cast<QToolBar*>(box->parentWidget()))
+                return bar;
+        }
+        return nullptr;
     }
     // How many pixels of the console's text are of about this hue.
     int pixelsOfHue(int hue)

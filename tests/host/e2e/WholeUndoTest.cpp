@@ -8,6 +8,7 @@
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 
+#include <support/PlainModel.h>
 #include <support/SoFieldGallery.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/fields/SoMFColor.h>
@@ -126,7 +127,7 @@ protected:
 
 TEST_F(WholeUndo, AColorOfAModelComesBackFromTheDialog)
 {
-    open(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"));
+    open(writePlainLighthouse(folder.path()));
     SoMFColor& field = material()->diffuseColor;
     const SbVec3f before = field[0];
     const bool wasDefault = field.isDefault();

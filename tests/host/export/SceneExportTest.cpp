@@ -14,7 +14,10 @@
 #include <xsg/nodes/lights/SoDirectionalLight.h>
 #include <xsg/nodes/lights/SoPointLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoMaterialTexture.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoSecondTextureCoordinates.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/nodes/shapes/SoCube.h>
@@ -22,6 +25,7 @@
 #include <xsg/nodes/shapes/SoLineSet.h>
 #include <xsg/nodes/shapes/SoScreenText.h>
 #include <xsg/nodes/shapes/SoSphere.h>
+#include <xsg/nodes/shapes/SoTriangleSet.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <array>
@@ -256,6 +260,7 @@ std::vector<const Node*> allOf(SoNode& root)
 {
     SoSearchAction search;
     search.setType(Node::getClassTypeId());
+    search.setLimit(-1);
     std::vector<const Node*> all;
     for (const SoPath& path : search.apply(&root))
         all.push_back(static_cast<const Node*>(path.getTail()));
@@ -282,11 +287,96 @@ TEST_P(GltfExporting, KeepsWhatAModelHas)
     ModelReadResult read = readModel(shippedModel("lighthouse.glb"));
     const SoRef<SoNode> model(buildScene(std::move(read.data), "model").get());
     const SoRef<SoNode> once = copyBy(*model, GetParam());
-    EXPECT_EQ(allOf<SoMaterial>(*once).size(), allOf<SoMaterial>(*model).size());
+    EXPECT_EQ(allOf<SoPhysicalMaterial>(*once).size(), allOf<SoPhysicalMaterial>(*model).size());
+    EXPECT_GT(allOf<SoPhysicalMaterial>(*once).size(), 5U);
     EXPECT_EQ(allOf<SoLight>(*once).size(), allOf<SoLight>(*model).size());
     EXPECT_EQ(allOf<SoCamera>(*once).size(), allOf<SoCamera>(*model).size());
     EXPECT_EQ(allOf<SoIndexedTriangleSet>(*once).size(), allOf<SoIndexedTriangleSet>(*model).size());
-    EXPECT_EQ(allOf<SoTransform>(*once).size(), allOf<SoTransform>(*model).size());
+    EXPECT_EQ(allOf<SoTransform>(*once).empty(), allOf<SoTransform>(*model).empty());
+}
+
+TEST_P(GltfExporting, KeepsAllOfPhysicalMaterials)
+{
+    auto* material = new SoPhysicalMaterial;
+    material->setName("Lacquer");
+    material->baseColor.setValues({{0.5F, 0.25F, 0.125F}});
+    material->metallic.setValue(0.75F);
+    material->roughness.setValue(0.25F);
+    material->emissiveColor.setValue({1, 0.5F, 0.25F});
+    material->emissiveStrength.setValue(4);
+    material->normalScale.setValue(0.5F);
+    material->occlusionStrength.setValue(0.75F);
+    material->clearCoat.setValue(0.5F);
+    material->clearCoatRoughness.setValue(0.125F);
+    material->clearCoatNormalScale.setValue(2);
+    material->alphaMode.setValue(SoPhysicalMaterial::Mask);
+    material->opacity.setValue(0.5F);
+    material->alphaCutoff.setValue(0.25F);
+    auto* group = new SoSeparator;
+    root->addChild(group);
+    group->addChild(material);
+    for (int use = 0; use < SoMaterialTexture::UseCount; ++use) {
+        auto* picture = new SoMaterialTexture;
+        const auto shade = static_cast<unsigned char>(10 * use);
+        const unsigned char pixels[] = {shade, 1, 2, 3, shade, 5};
+        picture->use.setValue(use);
+        picture->image.setValue(2, 1, 3, pixels);
+        picture->coordinates.setValue(use % 2);
+        if (use % 2 == 1)
+            picture->wrapT.setValue(SoTexture2::Clamp);
+        group->addChild(picture);
+    }
+    auto* points = new SoPoints;
+    points->points.setValues({{0, 0, 0}, {1, 0, 0}, {0, 1, 0}});
+    group->addChild(points);
+    auto* first = new SoTextureCoordinates;
+    first->points.setValues({{0, 0}, {1, 0}, {0, 1}});
+    group->addChild(first);
+    auto* second = new SoSecondTextureCoordinates;
+    second->points.setValues({{0.5F, 0.5F}, {0.75F, 0.5F}, {0.5F, 0.75F}});
+    group->addChild(second);
+    group->addChild(new SoTriangleSet);
+
+    const SoRef<SoNode> copy = copyBy(*root, GetParam());
+    const auto read = allOf<SoPhysicalMaterial>(*copy);
+    ASSERT_EQ(read.size(), 1U);
+    const auto textOf = [](const SoNode& node) { return SoSceneFile::writeText(const_cast<SoNode*>(&node)); };
+    EXPECT_EQ(textOf(*read.front()), textOf(*material));
+    const auto pictures = allOf<SoTexture2>(*copy);
+    ASSERT_EQ(pictures.size(), std::size_t{SoMaterialTexture::UseCount});
+    for (int i = 0; i < SoMaterialTexture::UseCount; ++i) {
+        const SoTexture2& picture = *pictures[static_cast<std::size_t>(i)];
+        EXPECT_TRUE(picture.image.isSame(static_cast<SoTexture2*>(group->getChild(1 + i))->image)) << i;
+        EXPECT_EQ(picture.wrapT.getValue(), i % 2 == 1 ? SoTexture2::Clamp : SoTexture2::Repeat) << i;
+        if (i == 0)
+            continue; // an SoTexture2
+        ASSERT_TRUE(picture.isOfType(SoMaterialTexture::getClassTypeId())) << i;
+        EXPECT_EQ(static_cast<const SoMaterialTexture&>(picture).use.getValue(), i);
+        EXPECT_EQ(static_cast<const SoMaterialTexture&>(picture).coordinates.getValue(), i % 2);
+    }
+    const auto coordinates = allOf<SoSecondTextureCoordinates>(*copy);
+    ASSERT_EQ(coordinates.size(), 1U);
+    EXPECT_EQ(coordinates.front()->points[1], SbVec2f(0.75F, 0.5F));
+}
+
+TEST_P(GltfExporting, KeepsHowPicturesAreMoved)
+{
+    auto* picture = new SoMaterialTexture;
+    const unsigned char pixels[] = {1, 2, 3, 4, 5, 6};
+    picture->image.setValue(2, 1, 3, pixels);
+    picture->translation.setValue(SbVec2f(0.25F, 0.5F));
+    picture->rotation.setValue(0.5F);
+    picture->scaleFactor.setValue(SbVec2f(2, 3));
+    root->addChild(new SoPhysicalMaterial);
+    root->addChild(picture);
+    root->addChild(new SoCube);
+    const SoRef<SoNode> copy = copyBy(*root, GetParam());
+    const auto read = allOf<SoMaterialTexture>(*copy);
+    ASSERT_EQ(read.size(), 1U);
+    EXPECT_FLOAT_EQ(read.front()->rotation.getValue(), 0.5F);
+    EXPECT_EQ(read.front()->scaleFactor.getValue(), SbVec2f(2, 3));
+    EXPECT_NEAR(read.front()->translation.getValue()[0], 0.25F, 1e-5F);
+    EXPECT_NEAR(read.front()->translation.getValue()[1], 0.5F, 1e-5F);
 }
 
 TEST_P(GltfExporting, KeepsLightsAndCameras)

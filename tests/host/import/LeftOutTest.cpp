@@ -3,7 +3,10 @@
 #include "ModelFiles.h"
 
 #include "import/ModelImport.h"
+#include "reader/LeftOut.h"
 #include "reader/ModelReader.h"
+
+#include <assimp/scene.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -60,43 +63,54 @@ TEST_F(LeftOut, IsNothingOfWhatIsShipped)
     EXPECT_EQ(notesOf(triangle()), "");
 }
 
-TEST_F(LeftOut, CountsAnimations)
+TEST_F(LeftOut, IsNoneOfAnAnimationWithItsTargets)
 {
     QJsonObject gltf = triangle();
-    const QJsonValue animation = json(R"([{"samplers": [{"input": 2, "output": 3}],
-                  "channels": [{"sampler": 0, "target": {"node": 0, "path": "translation"}}]}])");
-    gltf["animations"] = QJsonArray{animation};
-    EXPECT_EQ(notesOf(gltf), "1 animation is left out.");
-    gltf["animations"] = QJsonArray{animation, animation, animation};
-    EXPECT_EQ(notesOf(gltf), "3 animations are left out.");
+    gltf["animations"] = json(R"([[{"samplers": [{"input": 2, "output": 3}],
+                  "channels": [{"sampler": 0, "target": {"node": 0, "path": "translation"}}]}]])");
+    EXPECT_EQ(notesOf(gltf), "");
 }
 
-TEST_F(LeftOut, CountsMorphsAndSkins)
+TEST_F(LeftOut, CountsTracksThatMoveNothing)
 {
-    QJsonObject gltf = triangle();
-    gltf["meshes"] = QJsonArray{json(R"([{"primitives": [{"attributes": {"POSITION": 0},
-                                          "targets": [{"POSITION": 0}, {"POSITION": 0}]}]}])")};
-    gltf["nodes"] = QJsonArray{json(R"([{"mesh": 0}])"), json(R"([{}])")};
-    EXPECT_EQ(notesOf(gltf), "2 morph targets are left out.");
-    gltf = triangle();
-    gltf["skins"] = QJsonArray{json(R"([{"joints": [1], "inverseBindMatrices": 3}])")};
-    gltf["nodes"] = QJsonArray{json(R"([{"mesh": 0, "skin": 0}])"), json(R"([{"name": "bone"}])")};
-    gltf["bufferViews"] = QJsonArray{json(R"([{"buffer": 0, "byteLength": 36}])"),
-                                     json(R"([{"buffer": 1, "byteLength": 112}])")};
-    // Three weights of four parts, and the bone's matrix.
-    const float weights[28] = {1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, 0,
-                               0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-    files.write("weights.bin", QByteArray(reinterpret_cast<const char*>(weights), sizeof weights));
-    gltf["buffers"] = QJsonArray{json(R"([{"byteLength": 36, "uri": "triangle.bin"}])"),
-                                 json(R"([{"byteLength": 112, "uri": "weights.bin"}])")};
-    gltf["accessors"] = QJsonArray{
-        json(R"([{"bufferView": 0, "componentType": 5126, "count": 3, "type": "VEC3"}])"),
-        json(R"([{"bufferView": 0, "componentType": 5121, "count": 3, "type": "VEC4"}])"),
-        json(R"([{"bufferView": 1, "componentType": 5126, "count": 3, "type": "VEC4"}])"),
-        json(R"([{"bufferView": 1, "byteOffset": 48, "componentType": 5126, "count": 1, "type": "MAT4"}])")};
-    gltf["meshes"] = QJsonArray{
-        json(R"([{"primitives": [{"attributes": {"POSITION": 0, "JOINTS_0": 1, "WEIGHTS_0": 2}}]}])")};
-    EXPECT_EQ(notesOf(gltf), "The skin of 1 mesh is left out, which keeps the pose that it was made in.");
+    aiScene scene;
+    scene.mRootNode = new aiNode("here");
+    auto* animation = new aiAnimation;
+    scene.mNumAnimations = 1;
+    scene.mAnimations = new aiAnimation* [1] { animation };
+    const auto setChannels = [&](const std::vector<const char*>& names) {
+        animation->mChannels = new aiNodeAnim*[names.size()];
+        animation->mNumChannels = unsigned(names.size());
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            animation->mChannels[i] = new aiNodeAnim;
+            animation->mChannels[i]->mNodeName = names[i];
+        }
+    };
+    setChannels({"here", "elsewhere", "nowhere"});
+    EXPECT_EQ(partsLeftOut(scene).join('\n'),
+              "2 tracks of animations move what there are no nodes for, and are left out.");
+}
+
+TEST_F(LeftOut, CountsLightsThatAnAnimationMoves)
+{
+    aiScene scene;
+    scene.mRootNode = new aiNode("still");
+    auto* arm = new aiNode("arm");
+    auto* lamp = new aiNode("lamp");
+    arm->addChildren(1, &lamp);
+    scene.mRootNode->addChildren(1, &arm);
+    scene.mNumLights = 2;
+    scene.mLights = new aiLight* [2] { new aiLight, new aiLight };
+    scene.mLights[0]->mName = "lamp";
+    scene.mLights[1]->mName = "still";
+    EXPECT_EQ(partsLeftOut(scene).join('\n'), "");
+    auto* animation = new aiAnimation;
+    scene.mNumAnimations = 1;
+    scene.mAnimations = new aiAnimation* [1] { animation };
+    animation->mNumChannels = 1;
+    animation->mChannels = new aiNodeAnim* [1] { new aiNodeAnim };
+    animation->mChannels[0]->mNodeName = "arm";
+    EXPECT_EQ(partsLeftOut(scene).join('\n'), "The movement of 1 light is left out.");
 }
 
 TEST_F(LeftOut, CountsTheMapsOfMaterials)
@@ -105,14 +119,23 @@ TEST_F(LeftOut, CountsTheMapsOfMaterials)
     gltf["materials"] =
         QJsonArray{json(R"([{"normalTexture": {"index": 0}, "emissiveTexture": {"index": 1}}])"),
                    json(R"([{"normalTexture": {"index": 1}}])")};
-    EXPECT_EQ(notesOf(gltf), "The normal maps of 2 materials are left out.\n"
-                             "The emissive map of 1 material is left out.");
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("a.png"));
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("b.png"));
+    EXPECT_EQ(notesOf(gltf), ""); // a physical material has them
     gltf["materials"] = QJsonArray{
         json(
             R"([{"occlusionTexture": {"index": 0}, "pbrMetallicRoughness": {"metallicRoughnessTexture": {"index": 1}}}])"),
         json(R"([{}])")};
-    EXPECT_EQ(notesOf(gltf), "The map of metal and roughness of 1 material is left out.\n"
-                             "The occlusion map of 1 material is left out.");
+    EXPECT_EQ(notesOf(gltf), "");
+    gltf["extensionsUsed"] =
+        QJsonArray{"KHR_materials_sheen", "KHR_materials_transmission", "KHR_texture_transform"};
+    gltf["materials"] =
+        QJsonArray{json(
+                       R"([{"extensions": {"KHR_materials_sheen": {"sheenColorFactor": [1, 0, 0]},
+                            "KHR_materials_transmission": {"transmissionFactor": 0.5}}}])"),
+                   json(R"([{}])")};
+    EXPECT_EQ(notesOf(gltf), "The sheen of 1 material is left out.\n"
+                             "The transmission of 1 material is shown as transparency.");
 }
 
 TEST_F(LeftOut, NamesMissingPictures)

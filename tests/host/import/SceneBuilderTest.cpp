@@ -7,7 +7,9 @@
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/transforms/SoMatrixTransform.h>
@@ -57,23 +59,29 @@ TEST(SceneBuilder, KeepsTheHierarchyWithNamesAndMoves)
     EXPECT_TRUE(move->rotation.isDefault());
 }
 
-TEST(SceneBuilder, OpacityBecomesTransparency)
+TEST(SceneBuilder, KeepsPhysicalMaterials)
 {
     const auto scene = open("lighthouse.glb");
-    EXPECT_FLOAT_EQ(find<SoMaterial>(scene.get(), "Glass")->transparency.getValue(), 0.72F);
-    EXPECT_EQ(find<SoMaterial>(scene.get(), "Stone")->transparency.getValue(), 0.0F);
+    auto* roof = find<SoPhysicalMaterial>(scene.get(), "RoofRed");
+    ASSERT_TRUE(roof);
+    EXPECT_EQ(roof->baseColor[0], SbVec3f(0.72F, 0.16F, 0.12F));
+    EXPECT_NEAR(roof->roughness.getValue(), 0.4F, 1e-3F);
+    EXPECT_EQ(roof->metallic.getValue(), 0);
+    EXPECT_EQ(roof->alphaMode.getValue(), SoPhysicalMaterial::Opaque);
+    EXPECT_GT(find<SoPhysicalMaterial>(scene.get(), "LampLight")->emissiveColor.getValue()[0], 0.9F);
+    EXPECT_GT(find<SoPhysicalMaterial>(scene.get(), "Iron")->metallic.getValue(), 0.3F);
+    auto* glass = find<SoPhysicalMaterial>(scene.get(), "Glass");
+    EXPECT_EQ(glass->alphaMode.getValue(), SoPhysicalMaterial::Blend);
+    EXPECT_NEAR(glass->opacity.getValue(), 0.28F, 1e-3F);
+    EXPECT_EQ(findAll<SoMaterial>(scene.get()).size(), 0U);
 }
 
-TEST(SceneBuilder, PhysicalMaterialsBecomeClassicOnes)
+TEST(SceneBuilder, PhysicalMaterialsComeWithSurroundings)
 {
-    const auto scene = open("lighthouse.glb");
-    auto* roof = find<SoMaterial>(scene.get(), "RoofRed");
-    EXPECT_EQ(roof->diffuseColor[0], SbVec3f(0.72F, 0.16F, 0.12F));
-    EXPECT_NEAR(roof->shininess.getValue(), 0.6F, 1e-3F);
-    EXPECT_GT(find<SoMaterial>(scene.get(), "LampLight")->emissiveColor.getValue()[0], 0.9F);
-    auto* iron = find<SoMaterial>(scene.get(), "Iron");
-    EXPECT_LT(iron->diffuseColor[0][0], 0.2F) << "a metal gives part of its colour to what it mirrors";
-    EXPECT_GT(iron->specularColor.getValue()[0], 0.0F);
+    EXPECT_EQ(find<SoEnvironmentLight>(open("crate.gltf").get())->intensity.getValue(), 1);
+    EXPECT_LT(find<SoEnvironmentLight>(open("lighthouse.glb").get())->intensity.getValue(), 1);
+    EXPECT_FALSE(find<SoEnvironmentLight>(open("crate.obj").get()));
+    EXPECT_TRUE(find<SoMaterial>(open("crate.obj").get()));
 }
 
 TEST(SceneBuilder, SharesMeshesAndMaterials)
@@ -83,7 +91,7 @@ TEST(SceneBuilder, SharesMeshesAndMaterials)
     ASSERT_EQ(posts.size(), 12U);
     for (const SoPath& post : posts)
         EXPECT_EQ(post.getTail(), posts[0].getTail());
-    const auto iron = findAll<SoMaterial>(scene.get(), "Iron");
+    const auto iron = findAll<SoPhysicalMaterial>(scene.get(), "Iron");
     ASSERT_GT(iron.size(), 1U);
     for (const SoPath& path : iron)
         EXPECT_EQ(path.getTail(), iron[0].getTail());

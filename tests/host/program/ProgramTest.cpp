@@ -54,10 +54,26 @@ protected:
     QTemporaryDir folder;
 };
 
+TEST_F(Program, SavesWithoutADisplayAndSaysWhatIsLost)
+{
+    const QString path = folder.filePath("out.glb");
+    const QString showcase = QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg");
+    Outcome outcome = run({showcase, "--save", path});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains("animations (1)")) << qPrintable(outcome.said);
+    EXPECT_TRUE(outcome.said.contains("skins, whose present pose is kept (1)")) << qPrintable(outcome.said);
+    outcome = run({path, "--save", folder.filePath("again.obj")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(QFile::exists(folder.filePath("again.obj")));
+    outcome = run({showcase, "--save", folder.filePath("out.jpg")});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_TRUE(outcome.said.contains("out.jpg")) << qPrintable(outcome.said);
+}
+
 TEST_F(Program, WritesAPictureOfTheWindowWithoutADisplay)
 {
     const QString path = folder.filePath("out.png");
-    const Outcome outcome = run({model(), "--select", "Glass.transparency", "--screenshot", path});
+    const Outcome outcome = run({model(), "--select", "Glass.opacity", "--screenshot", path});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.said, "");
     const QImage picture(path);

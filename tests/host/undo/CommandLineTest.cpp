@@ -47,6 +47,14 @@ TEST(CommandLine, TakesHowAPictureIsMade)
     EXPECT_EQ(parse({"--picture", "out.png"}).turntable, 1);
 }
 
+TEST(CommandLine, TakesTheFileToSaveTo)
+{
+    const CommandLine line = parse({"a.glb", "--save", "b.obj"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_EQ(line.save, "b.obj");
+    EXPECT_TRUE(line.isUnattended());
+}
+
 TEST(CommandLine, HasNoOptionsByDefault)
 {
     const CommandLine line = parse({});
@@ -56,14 +64,31 @@ TEST(CommandLine, HasNoOptionsByDefault)
 
 TEST(CommandLine, HelpListsEveryOption)
 {
-    for (const char* option :
-         {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>", "--screenshot <OUT.png>",
-          "--picture <OUT.png>", "--size <WIDTHxHEIGHT>", "--transparent", "--turntable <NUMBER>", "--quit",
-          "--counters", "--help", "--version"})
+    for (const char* option : {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>",
+                               "--screenshot <OUT.png>", "--picture <OUT.png>", "--size <WIDTHxHEIGHT>",
+                               "--transparent", "--turntable <NUMBER>", "--save <OUT>", "--quit",
+                               "--counters", "--attach", "--launch", "--list-live", "--help", "--version"})
         EXPECT_TRUE(CommandLine::helpText().contains(QLatin1String(option))) << option;
     EXPECT_TRUE(CommandLine::versionText().contains(QRegularExpression("^scopix \\d+\\.\\d+\\.\\d+\n$")));
     EXPECT_TRUE(parse({"--help"}).help);
     EXPECT_TRUE(parse({"--version"}).version);
+}
+
+TEST(CommandLine, TakesARunningProgram)
+{
+    EXPECT_FALSE(parse({}).isLive());
+    EXPECT_TRUE(parse({"--attach"}).isLive());
+    EXPECT_EQ(parse({"--attach", "viewer", "--counters"}).attach, "viewer");
+    EXPECT_EQ(parse({"--attach=viewer"}).attach, "viewer");
+    const CommandLine only = parse({"--attach", "--counters"});
+    EXPECT_EQ(only.attach, "");
+    EXPECT_TRUE(only.counters);
+    const CommandLine launch = parse({"--counters", "--launch", "viewer", "--quit", "-style", "a.osg"});
+    EXPECT_EQ(launch.error, "");
+    EXPECT_EQ(launch.launch, (QStringList{"viewer", "--quit", "-style", "a.osg"}));
+    EXPECT_TRUE(launch.counters);
+    EXPECT_FALSE(launch.quit);
+    EXPECT_TRUE(parse({"--list-live"}).listsLive);
 }
 
 TEST(CommandLine, IgnoresTheOptionsOfQt)
@@ -99,6 +124,11 @@ INSTANTIATE_TEST_SUITE_P(
                       Bad{{"--picture", "a.png", "--size", "-1x5"}, "WIDTHxHEIGHT"},
                       Bad{{"--picture", "a.png", "--turntable", "1"}, "2 or more"},
                       Bad{{"--transparent"}, "--picture OUT.png is missing"},
-                      Bad{{"--size", "4x4"}, "--picture OUT.png is missing"}, Bad{{"--quit=7"}, "quit"}));
+                      Bad{{"--size", "4x4"}, "--picture OUT.png is missing"},
+                      Bad{{"--save", "b.glb"}, "no FILE"}, Bad{{"a.glb", "--save", ""}, "--save"},
+                      Bad{{"a.glb", "--save", "b.glb", "--picture", "c.png"}, "--picture"},
+                      Bad{{"--quit=7"}, "quit"}, Bad{{"--launch"}, "--launch"},
+                      Bad{{"a.glb", "--attach"}, "more than one"},
+                      Bad{{"--attach", "a", "--launch", "b"}, "more than one"}));
 
 } // namespace

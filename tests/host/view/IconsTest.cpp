@@ -95,7 +95,7 @@ TEST(Icons, HaveNoColorsButThoseOfTheTheme)
     palette.setColor(QPalette::HighlightedText, Qt::red);
     surface.setPalette(palette);
     for (const QString& name : iconNames()) {
-        if (name == "color-swatch")
+        if (name == "color-swatch" || name == "scopix") // the program has colours of its own
             continue;
         const QImage image = svgIcon(name, &surface)
                                  .pixmap(Grid, QIcon::Selected)

@@ -70,9 +70,9 @@ TEST_F(Window, OpensAModelAndSelectsAField)
 {
     ASSERT_TRUE(open(shippedModel("lighthouse.glb")));
     EXPECT_TRUE(window.windowTitle().contains("lighthouse.glb"));
-    ASSERT_TRUE(window.selectField("Glass", "transparency"));
+    ASSERT_TRUE(window.selectField("Glass", "opacity"));
     ASSERT_TRUE(services.selectedField());
-    EXPECT_STREQ(services.selectedField()->getName().getString(), "transparency");
+    EXPECT_STREQ(services.selectedField()->getName().getString(), "opacity");
     auto* node = window.getTree().getModel().nodeAt(window.getTree().currentIndex());
     EXPECT_EQ(node, services.selectedNode());
     EXPECT_EQ(window.getFields().getModel().getContainer(), node);
@@ -83,13 +83,13 @@ TEST_F(Window, OpensAModelAndSelectsAField)
 TEST_F(Window, ATunedSceneCanBeSavedAndOpenedAgain)
 {
     ASSERT_TRUE(open(shippedModel("crate.gltf")));
-    ASSERT_TRUE(window.selectField("Planks", "transparency"));
+    ASSERT_TRUE(window.selectField("Planks", "opacity"));
     services.selectedField()->set("0.375");
     const QString path = folder.filePath("tuned.xsg");
     ASSERT_TRUE(window.getFiles().saveTo(path));
     ASSERT_TRUE(open(shippedModel("lighthouse.glb")));
     ASSERT_TRUE(open(path));
-    ASSERT_TRUE(window.selectField("Planks", "transparency"));
+    ASSERT_TRUE(window.selectField("Planks", "opacity"));
     SbString text;
     services.selectedField()->get(text);
     EXPECT_EQ(text, "0.375");
@@ -129,7 +129,7 @@ TEST_F(Window, AFileThatCannotBeOpenedKeepsTheOpenScene)
 {
     ASSERT_TRUE(open(shippedModel("crate.gltf")));
     SoNode* scene = window.getScene();
-    ASSERT_TRUE(window.selectField("Planks", "transparency"));
+    ASSERT_TRUE(window.selectField("Planks", "opacity"));
     QFile text(folder.filePath("text.glb"));
     text.open(QIODevice::WriteOnly);
     text.write("This is no model.");
@@ -142,7 +142,7 @@ TEST_F(Window, AFileThatCannotBeOpenedKeepsTheOpenScene)
         EXPECT_TRUE(window.statusBar()->currentMessage().contains(path));
     }
     EXPECT_EQ(window.getScene(), scene);
-    EXPECT_STREQ(services.selectedField()->getName().getString(), "transparency");
+    EXPECT_STREQ(services.selectedField()->getName().getString(), "opacity");
     EXPECT_EQ(notifier.errorCount(), 3);
 }
 

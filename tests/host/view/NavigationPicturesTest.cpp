@@ -63,10 +63,24 @@ protected:
     HandleTool& handles = window.getHandles();
 };
 
+TEST_F(NavigationPictures, OfPlaying)
+{
+    bool isOpen = false;
+    const auto opened = QObject::connect(&window, &HostWindow::openFinished, [&](bool is) { isOpen = is; });
+    window.openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
+    QObject::disconnect(opened);
+    const QImage before = pictureOf(view);
+    trigger("animationAhead"); // to the second key
+    EXPECT_NE(take("playback.png"), before);
+    trigger("animationStop");
+    EXPECT_EQ(pictureOf(view), before);
+}
+
 TEST_F(NavigationPictures, OfHandles)
 {
     const QImage without = pictureOf(view);
-    ASSERT_TRUE(window.selectField("Glass", "transparency"));
+    ASSERT_TRUE(window.selectField("Glass", "opacity"));
     QList<QImage> seen{without};
     key(Qt::Key_W);
     seen << take("handles-move.png");

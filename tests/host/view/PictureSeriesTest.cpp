@@ -191,6 +191,7 @@ TEST_F(Pictures, AreSavedByTheMenu)
     MainWindow window(services, notifier);
     window.show();
     window.setScene(scene.get(), QStringLiteral("cube"));
+    QCoreApplication::processEvents(); // the first layout
     const QSize size = window.getView().size();
     {
         PictureOrder wanted = order("");

@@ -170,7 +170,7 @@ TEST_F(Files, TheTitleMarksUnsavedEdits)
     openScene();
     EXPECT_FALSE(program->window.isWindowModified());
     EXPECT_EQ(program->window.windowTitle(), "scene.xsg[*]");
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     EXPECT_TRUE(program->window.isWindowModified());
     program->services.undoStack().undo();
     EXPECT_FALSE(program->window.isWindowModified());
@@ -182,7 +182,7 @@ TEST_F(Files, TheTitleMarksUnsavedEdits)
 TEST_F(Files, CancelKeepsTheEditsAndWhatWasOpen)
 {
     openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     SoNode* scene = program->window.getScene();
     for (const auto& act : std::initializer_list<std::function<void()>>{
              [this] { program->window.getFiles().openAnother(shipped("rainbow.ply")); },
@@ -201,7 +201,7 @@ TEST_F(Files, CancelKeepsTheEditsAndWhatWasOpen)
 TEST_F(Files, EscapeIsCancel)
 {
     openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     WithDialog box([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_FALSE(program->window.close());
     EXPECT_TRUE(box.hasCome());
@@ -211,7 +211,7 @@ TEST_F(Files, DiscardDropsTheEdits)
 {
     const QString path = openScene();
     const QByteArray before = contentOf(path);
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     WithDialog box(answer("Discard"));
     program->done.clear();
     program->window.getFiles().openAnother(shipped("rainbow.ply"));
@@ -225,26 +225,26 @@ TEST_F(Files, DiscardDropsTheEdits)
 TEST_F(Files, SaveKeepsTheEditsAndContinues)
 {
     const QString path = openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     WithDialog box(answer("Save"));
     program->action("New")->trigger();
     EXPECT_TRUE(box.hasCome());
     EXPECT_EQ(program->document().getTitle(), "Welcome");
-    EXPECT_TRUE(contentOf(path).contains("transparency: 0.5"));
+    EXPECT_TRUE(contentOf(path).contains("opacity: 0.5"));
 }
 
 TEST_F(Files, AFailedSaveKeepsTheEdits)
 {
     QDir(home.path()).mkdir("gone");
     openScene("gone/scene.xsg");
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     QDir(home.filePath("gone")).removeRecursively();
     WithDialog box(answer("Save"));
     EXPECT_FALSE(program->window.close());
     EXPECT_TRUE(box.hasCome());
     EXPECT_TRUE(program->told.last().contains("gone/scene.xsg")) << qPrintable(program->told.last());
     EXPECT_TRUE(program->window.isVisible());
-    EXPECT_EQ(program->value("Planks", "transparency"), "0.5");
+    EXPECT_EQ(program->value("Planks", "opacity"), "0.5");
 }
 
 TEST_F(Files, AsksNothingWithoutEditsOrWhenUnattended)
@@ -253,7 +253,7 @@ TEST_F(Files, AsksNothingWithoutEditsOrWhenUnattended)
     WithDialog none([](QDialog& dialog) { dialog.reject(); });
     program->action("New")->trigger();
     openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     program->notifier.setAttended(false);
     EXPECT_TRUE(program->window.close());
     QCoreApplication::processEvents();
@@ -265,18 +265,18 @@ TEST_F(Files, EditsMadeWhileAModelIsReadAreAskedAbout)
     openScene();
     program->done.clear();
     program->window.getFiles().openAnother(shipped("lighthouse.glb"));
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     WithDialog box(answer("Cancel"));
     ASSERT_TRUE(QTest::qWaitFor([this] { return !program->done.isEmpty(); }, 60000));
     EXPECT_TRUE(box.hasCome());
     EXPECT_EQ(program->done, QList<bool>{false});
-    EXPECT_EQ(program->value("Planks", "transparency"), "0.5");
+    EXPECT_EQ(program->value("Planks", "opacity"), "0.5");
 }
 
 TEST_F(Files, AModelIsSavedUnderANewName)
 {
     ASSERT_TRUE(program->open(shipped("crate.gltf")));
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     const QString path = home.filePath("mine");
     QString proposed;
     WithDialog dialog([&](QDialog& each) {
@@ -288,14 +288,14 @@ TEST_F(Files, AModelIsSavedUnderANewName)
     EXPECT_TRUE(program->window.getFiles().save());
     EXPECT_TRUE(dialog.hasCome());
     EXPECT_EQ(proposed, "crate.xsg");
-    EXPECT_TRUE(contentOf(path + ".xsg").contains("transparency: 0.5"));
+    EXPECT_TRUE(contentOf(path + ".xsg").contains("opacity: 0.5"));
     EXPECT_EQ(program->document().getTitle(), "mine.xsg");
 }
 
 TEST_F(Files, CancellingTheNameSavesNothing)
 {
     ASSERT_TRUE(program->open(shipped("crate.gltf")));
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     WithDialog dialog([](QDialog& each) { each.reject(); });
     EXPECT_FALSE(program->window.getFiles().save());
     EXPECT_TRUE(dialog.hasCome());
@@ -305,7 +305,7 @@ TEST_F(Files, CancellingTheNameSavesNothing)
 TEST_F(Files, TypingThatIsNotConfirmedYetIsSavedToo)
 {
     const QString path = openScene();
-    ASSERT_TRUE(program->window.selectField("Planks", "transparency"));
+    ASSERT_TRUE(program->window.selectField("Planks", "opacity"));
     auto* input = new QLineEdit;
     program->window.addToolBar("Input")->addWidget(input);
     QObject::connect(input, &QLineEdit::editingFinished, [&] {
@@ -321,7 +321,7 @@ TEST_F(Files, TypingThatIsNotConfirmedYetIsSavedToo)
     input->setFocus();
     QTest::keyClicks(input, "0.625");
     program->action("Save")->trigger();
-    EXPECT_TRUE(contentOf(path).contains("transparency: 0.625"));
+    EXPECT_TRUE(contentOf(path).contains("opacity: 0.625"));
     EXPECT_TRUE(input->hasFocus());
     QTest::keyClick(input, Qt::Key_Backspace);
     WithDialog box(answer("Cancel"));
@@ -367,8 +367,8 @@ TEST_F(Files, ACrashLosesNothing)
 {
     const QString path = openScene();
     program->window.enterInteractiveMode();
-    program->edit("Planks", "transparency", "0.5");
-    ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
+    program->edit("Planks", "opacity", "0.5");
+    ASSERT_TRUE(waitUntilKept("opacity: 0.5"));
     program.reset(); // nobody agreed to drop the edits
     ASSERT_EQ(kept().size(), 1);
 
@@ -377,14 +377,14 @@ TEST_F(Files, ACrashLosesNothing)
     program->window.enterInteractiveMode();
     EXPECT_TRUE(box.hasCome());
     EXPECT_TRUE(box.text().contains("scene.xsg")) << qPrintable(box.text());
-    EXPECT_EQ(program->value("Planks", "transparency"), "0.5");
+    EXPECT_EQ(program->value("Planks", "opacity"), "0.5");
     EXPECT_EQ(program->document().getPath(), path);
     EXPECT_EQ(program->window.windowTitle(), "scene.xsg[*]");
     EXPECT_TRUE(program->window.isWindowModified());
     QCoreApplication::processEvents();
     EXPECT_EQ(kept().size(), 1) << "a second crash loses nothing either";
     program->action("Save")->trigger();
-    EXPECT_TRUE(contentOf(path).contains("transparency: 0.5"));
+    EXPECT_TRUE(contentOf(path).contains("opacity: 0.5"));
     EXPECT_TRUE(program->window.close());
     program.reset();
     EXPECT_FALSE(QFileInfo::exists(home.filePath("scopix/recovery")));
@@ -394,8 +394,8 @@ TEST_F(Files, OffersDiscardedEditsOfACrashOnlyOnce)
 {
     openScene();
     program->window.enterInteractiveMode();
-    program->edit("Planks", "transparency", "0.5");
-    ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
+    program->edit("Planks", "opacity", "0.5");
+    ASSERT_TRUE(waitUntilKept("opacity: 0.5"));
     program.reset();
     program = std::make_unique<Program>();
     {
@@ -415,8 +415,8 @@ TEST_F(Files, DoesNotOfferTheFilesOfARunningSession)
 {
     openScene();
     program->window.enterInteractiveMode();
-    program->edit("Planks", "transparency", "0.5");
-    ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
+    program->edit("Planks", "opacity", "0.5");
+    ASSERT_TRUE(waitUntilKept("opacity: 0.5"));
     Program second;
     WithDialog none([](QDialog& dialog) { dialog.reject(); });
     second.window.enterInteractiveMode();
@@ -429,8 +429,8 @@ TEST_F(Files, ACleanEndLeavesNothing)
 {
     openScene();
     program->window.enterInteractiveMode();
-    program->edit("Planks", "transparency", "0.5");
-    ASSERT_TRUE(waitUntilKept("transparency: 0.5"));
+    program->edit("Planks", "opacity", "0.5");
+    ASSERT_TRUE(waitUntilKept("opacity: 0.5"));
     WithDialog box(answer("Discard"));
     EXPECT_TRUE(program->window.close());
     program.reset();
@@ -440,7 +440,7 @@ TEST_F(Files, ACleanEndLeavesNothing)
 TEST_F(Files, WithoutASessionNothingIsKept)
 {
     openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     EXPECT_FALSE(program->window.getFiles().getAutosave().findChild<QTimer*>("pause")->isActive());
 }
 
@@ -465,7 +465,7 @@ TEST_F(Files, AModelThatWasTunedLooksTheSameWhenSavedAndOpenedAgain)
     for (const auto& [model, material] : models) {
         ASSERT_TRUE(program->open(shipped(model)));
         const QImage untuned = pictureOf(*program);
-        program->edit(material, "diffuseColor", "[ 0.1 0.7 0.3 ]");
+        program->edit(material, "baseColor", "[ 0.1 0.7 0.3 ]");
         const QImage before = pictureOf(*program);
         ASSERT_FALSE(before.isNull());
         EXPECT_NE(before, untuned);
@@ -482,7 +482,7 @@ TEST_F(Files, AModelThatWasTunedLooksTheSameWhenSavedAndOpenedAgain)
 TEST_F(Files, AreExportedByTheirEndingAndStayUnsaved)
 {
     openScene();
-    program->edit("Planks", "transparency", "0.5");
+    program->edit("Planks", "opacity", "0.5");
     ASSERT_TRUE(program->document().isModified());
     const QString path = home.filePath("crate.stl");
     QString text;

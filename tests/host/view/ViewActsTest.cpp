@@ -12,6 +12,7 @@
 
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 #include <xsg/values/SbRotation.h>
@@ -368,6 +369,24 @@ TEST_F(Acts, OtherLooksAreChosenInTheMenu)
     }
     action("shading0")->trigger();
     EXPECT_EQ(pictureOf(view), full);
+}
+
+TEST_F(Acts, BrightLightIsMappedAsIsChosenInTheMenu)
+{
+    auto* material = new SoPhysicalMaterial;
+    material->emissiveColor.setValue({2, 1, 0.5F});
+    scene->addChild(material);
+    scene->addChild(new SoCube);
+    EXPECT_TRUE(action("toneMapping1")->isChecked());
+    QList<QImage> seen;
+    for (const char* name : {"toneMapping0", "toneMapping1", "toneMapping2"}) {
+        action(name)->trigger();
+        const QImage picture = pictureOf(view);
+        EXPECT_FALSE(seen.contains(picture)) << name;
+        seen << picture;
+    }
+    action("toneMapping1")->trigger();
+    EXPECT_EQ(pictureOf(view), seen[1]);
 }
 
 // The pictures of docs/view.md come from here: SCOPIX_PICTURES names the folder that they go to.

@@ -106,7 +106,7 @@ TEST_F(OpenGLView, ShowsTheShippedSceneWithoutAnErrorOfOpenGL)
 TEST_F(OpenGLView, FollowsAnEditAndItsUndo)
 {
     ASSERT_TRUE(surface());
-    ASSERT_TRUE(open("crate.gltf"));
+    ASSERT_TRUE(open("crate.obj"));
     ASSERT_TRUE(window().selectField("Planks", "transparency"));
     Session::settle();
     ASSERT_TRUE(session.editorShown());
@@ -128,7 +128,7 @@ TEST_F(OpenGLView, FollowsAnEditAndItsUndo)
 TEST_F(OpenGLView, FollowsASliderWhileItIsDragged)
 {
     ASSERT_TRUE(surface());
-    ASSERT_TRUE(open("crate.gltf"));
+    ASSERT_TRUE(open("crate.obj"));
     ASSERT_TRUE(window().selectField("Planks", "transparency"));
     Session::settle();
     ASSERT_TRUE(session.editorShown());

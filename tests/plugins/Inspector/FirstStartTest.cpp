@@ -4,6 +4,7 @@
 #include "plugins/Inspector/InspectorSession.h"
 #include "window/MainWindow.h"
 
+#include <support/PlainModel.h>
 #include <xsg/actions/SoSearchAction.h>
 
 #include <QSettings>
@@ -37,7 +38,7 @@ protected:
         });
         bool isOpen = false;
         QObject::connect(window, &HostWindow::openFinished, [&](bool opened) { isOpen = opened; });
-        m_host->start(CommandLine::parse({"scopix", SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"}));
+        m_host->start(CommandLine::parse({"scopix", writePlainLighthouse(m_home.path())}));
         ASSERT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));

@@ -158,7 +158,9 @@ TEST_F(Reached, EveryInputOfEveryNodeByTabInReadingOrderWithAName)
             EXPECT_TRUE(row->accessibleName().contains(", ")) << qPrintable(nameOf(*node)); // field and type
             EXPECT_FALSE(row->accessibleDescription().isEmpty()) << qPrintable(row->accessibleName());
             expected += inputsOf(*row);
-            EXPECT_FALSE(inputsOf(*row).isEmpty()) << qPrintable(nameOf(*node) + ' ' + row->accessibleName());
+            const bool leadsNowhere = row->accessibleName().endsWith(", SFNode"); // a link to no node
+            EXPECT_EQ(inputsOf(*row).isEmpty(), leadsNowhere)
+                << qPrintable(nameOf(*node) + ' ' + row->accessibleName());
         }
         ASSERT_FALSE(expected.isEmpty());
         expected.first()->setFocus(Qt::TabFocusReason);

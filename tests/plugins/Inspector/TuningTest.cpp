@@ -7,6 +7,7 @@
 #include "window/MainWindow.h"
 #include "window/ViewPoints.h"
 
+#include <support/PlainModel.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/properties/SoPoints.h>
 
@@ -141,7 +142,7 @@ protected:
 
 TEST_F(Tuning, FromTheFileToTheFile)
 {
-    open(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"));
+    open(writePlainLighthouse(folder.path()));
     EXPECT_TRUE(window().windowTitle().contains("lighthouse"));
     keep("1-open");
 
@@ -174,12 +175,11 @@ TEST_F(Tuning, FromTheFileToTheFile)
     EXPECT_EQ(session.stack().count(), 1) << "comparing changes nothing";
     keep("4-compare");
 
-    const QString file = folder.filePath("harbour.xsg");
+    const QString file = folder.filePath("lighthouse.xsg");
     press(Qt::Key_F, Qt::AltModifier);
     QWidget* menu = QApplication::activePopupWidget();
     ASSERT_TRUE(menu);
     keep("5-save");
-    answerWith(file);
     QTest::keyClick(menu, Qt::Key_S);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window().isWindowModified(); }))
         << window().statusBar()->currentMessage().toStdString();

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <xsg/nodes/animation/SoAnimation.h>
+
 namespace
 {
 
@@ -34,6 +36,17 @@ xsg::PatchResult apply(const std::string& lines, SoRef<SoNode>& scene)
 }
 
 } // namespace
+
+TEST(Patch, HasNothingOfWhatAnAnimationShows)
+{
+    const char* const text = "Group { Sphere \"s\" @1 {\n radius: 3\n} Animation { Track {\n target: @1\n"
+                             " field: radius\n times: [ 0, 1 ]\n values: [ 5, 9 ]\n} } }";
+    const auto before = sceneOf(text);
+    const auto after = sceneOf(text);
+    SoAnimation::findBelow(*after).front()->goTo(0.5);
+    EXPECT_TRUE(xsg::compareScenes(before.get(), after.get()).empty());
+    EXPECT_TRUE(xsg::compareScenes(after.get(), before.get()).empty());
+}
 
 TEST(Patch, HasOneLineAChange)
 {

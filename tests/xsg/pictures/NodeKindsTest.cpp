@@ -123,8 +123,11 @@ INSTANTIATE_TEST_SUITE_P(All, NodeKind, testing::ValuesIn(nodeTypes()),
 
 TEST(ShippedScene, LooksAsItDid)
 {
-    std::string error;
-    const SoRef<SoNode> scene = SoSceneFile::read(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg", error);
-    ASSERT_TRUE(scene) << error;
-    expectReference(draw(scene.get(), Large), "showcase.png");
+    for (const char* name : {"showcase", "physical"}) {
+        std::string error;
+        const std::string path = std::string(SCOPIX_SOURCE_DIR "/data/scenes/") + name + ".xsg";
+        const SoRef<SoNode> scene = SoSceneFile::read(path, error);
+        ASSERT_TRUE(scene) << error;
+        expectReference(draw(scene.get(), Large), QLatin1String(name) + ".png");
+    }
 }

@@ -134,7 +134,7 @@ TEST_F(Looks, PartsMakeUpTheWholePicture)
                 const int width = std::min(40, 90 - left);
                 const int height = std::min(25, 60 - top);
                 SoPixels part;
-                ASSERT_TRUE(renderer().renderPart(root.get(), eye, {90, 60, left, 60 - top - height}, width,
+                ASSERT_TRUE(renderer().renderTile(root.get(), eye, {90, 60, left, 60 - top - height}, width,
                                                   height, part));
                 for (int y = 0; y < height; ++y) {
                     for (int x = 0; x < width; ++x)

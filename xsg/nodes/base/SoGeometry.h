@@ -15,9 +15,10 @@ struct SoGeometry {
     Kind kind = Kind::Triangles;
     bool isScreenSpace = false; // points are pixels beside the projected origin
     std::vector<SbVec3f> points;
-    std::vector<SbVec3f> normals;            // one per point, or empty: drawn without light
-    std::vector<SbVec2f> textureCoordinates; // one per point, or empty
-    std::vector<SbVec3f> colors;             // one per point, or empty: the material's first colour
+    std::vector<SbVec3f> normals;                  // one per point, or empty: drawn without light
+    std::vector<SbVec2f> textureCoordinates;       // one per point, or empty
+    std::vector<SbVec2f> secondTextureCoordinates; // one per point, or empty
+    std::vector<SbVec3f> colors;                   // one per point, or empty: the material's first colour
     std::vector<std::uint32_t> index; // three per triangle, two per line, one per point; all within points
 };
 
@@ -26,7 +27,7 @@ class SoGeometryKey
 {
 public:
     /// One part that it is made of: a node's number with its change count, or a solid's kind and fineness.
-    /// The library's shapes have up to five; further ones are mixed into the last.
+    /// The library's shapes have up to six; further ones are mixed into the last.
     void add(std::uint64_t id, std::uint64_t version)
     {
         const std::size_t at = std::min(2 * m_count++, m_parts.size() - 2);
@@ -52,7 +53,7 @@ private:
         return before == 0 ? part : (before ^ part) * 0x9E3779B97F4A7C15ULL;
     }
 
-    std::array<std::uint64_t, 10> m_parts{};
+    std::array<std::uint64_t, 12> m_parts{};
     std::size_t m_count = 0;
 };
 

@@ -12,7 +12,9 @@ class SoDrawStyle;
 class SoFog;
 class SoInstances;
 class SoMaterial;
+class SoMaterialTexture;
 class SoNormals;
+class SoPhysicalMaterial;
 class SoPoints;
 class SoTexture2;
 class SoTextureCoordinates;
@@ -49,6 +51,21 @@ struct SoLightSource {
 static_assert(sizeof(SoLightSource) == sizeof(int) + 14 * sizeof(float),
               "without padding, so that it can be compared by its bytes");
 
+/// Light from all around, in world coordinates.
+struct SoEnvironment {
+    SbColor sky;
+    SbColor horizon;
+    SbColor ground;
+    SbVec3f up;
+    friend bool operator==(const SoEnvironment& a, const SoEnvironment& b)
+    {
+        return a.sky == b.sky && a.horizon == b.horizon && a.ground == b.ground && a.up == b.up;
+    }
+};
+
+static_assert(sizeof(SoEnvironment) == 12 * sizeof(float),
+              "without padding, so that it can be compared by its bytes");
+
 /// Lists that a separator puts back are shared, never changed: adding makes a longer copy.
 template <class T>
 using SoShared = std::shared_ptr<const std::vector<T>>;
@@ -60,9 +77,13 @@ class SoState
 public:
     SbMatrix modelMatrix; // from the coordinates of the shapes to the world's
     SoMaterialState material;
+    /// Where it is set, it says how surfaces look, and `material` does not.
+    const SoPhysicalMaterial* physicalMaterial = nullptr;
+    SoShared<const SoMaterialTexture*> materialTextures; // by their use, null for none; null for none at all
     const SoPoints* points = nullptr;
     const SoNormals* normals = nullptr;
     const SoTextureCoordinates* textureCoordinates = nullptr;
+    const SoTextureCoordinates* secondTextureCoordinates = nullptr;
     const SoTexture2* texture = nullptr;
     SoShared<SbMatrix> textureMatrix; // one entry, or null for none
     const SoCamera* camera = nullptr; // the last one met
@@ -71,8 +92,9 @@ public:
     float complexity = 0.5F;
     float textureQuality = 0.5F;
     SbColor ambientLight{0.2F, 0.2F, 0.2F};
-    SoShared<SoLightSource> lights; // null for none
-    SoShared<SbPlane> clipPlanes;   // in world coordinates; what lies on a plane's normal's side stays
+    SoShared<SoLightSource> lights;      // null for none
+    SoShared<SoEnvironment> environment; // one entry, or null for none
+    SoShared<SbPlane> clipPlanes;        // in world coordinates; what lies on a plane's normal's side stays
     /// Where an instancing group repeats what is below: from the coordinates at the group to the world's, the
     /// model matrix then ending at the group. Null: once.
     SoShared<SbMatrix> instances;
@@ -83,6 +105,15 @@ public:
 
     void addLight(const SoLightSource& light) { append(lights, light); }
     void addClipPlane(const SbPlane& plane) { append(clipPlanes, plane); }
+
+    void setMaterialTexture(std::size_t use, std::size_t useCount, const SoMaterialTexture* texture)
+    {
+        std::vector<const SoMaterialTexture*> all(useCount);
+        if (materialTextures)
+            all = *materialTextures;
+        all[use] = texture;
+        materialTextures = std::make_shared<const std::vector<const SoMaterialTexture*>>(std::move(all));
+    }
 
     /// Calls `visit` with each matrix that takes a shape here to the world.
     template <class Visit>

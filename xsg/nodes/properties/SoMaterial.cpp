@@ -9,6 +9,7 @@ template class SoTyped<SoMaterial, SoNode>;
 void SoMaterial::apply(SoState& state) const
 {
     SoMaterialState& to = state.material;
+    state.physicalMaterial = nullptr;
     const auto take = [](const auto& field, auto& value) {
         if (!field.isIgnored())
             value = field.getValue();

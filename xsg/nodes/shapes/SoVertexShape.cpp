@@ -3,6 +3,7 @@
 
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoNormals.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/properties/SoPoints.h>
 #include <xsg/nodes/properties/SoTextureCoordinates.h>
 #include <xsg/types/SoTypedImpl.h>
@@ -33,6 +34,7 @@ void separateCorners(SoGeometry& g)
     spread(g.points, g.index);
     spread(g.normals, g.index);
     spread(g.textureCoordinates, g.index);
+    spread(g.secondTextureCoordinates, g.index);
     spread(g.colors, g.index);
     std::iota(g.index.begin(), g.index.end(), 0U);
 }
@@ -45,6 +47,28 @@ void addFlatNormals(SoGeometry& g)
         const SbVec3f n = cross(g.points[i + 1] - g.points[i], g.points[i + 2] - g.points[i]).normalized();
         g.normals.insert(g.normals.end(), 3, n);
     }
+}
+
+// Where the list of colours is; null where there is none.
+const SoNode* findColorNode(const SoState& state)
+{
+    if (state.physicalMaterial)
+        return state.physicalMaterial;
+    return state.material.diffuseNode;
+}
+
+const SoMFColor* findColors(const SoState& state)
+{
+    if (state.physicalMaterial)
+        return &state.physicalMaterial->baseColor;
+    return state.material.diffuseNode ? &state.material.diffuseNode->diffuseColor : nullptr;
+}
+
+// Only where there is one for each point.
+void takeCoordinates(const SoTextureCoordinates* given, std::size_t pointCount, std::vector<SbVec2f>& to)
+{
+    if (given && static_cast<std::size_t>(given->points.getNum()) == pointCount)
+        to.assign(given->points.getValues(), given->points.getValues() + pointCount);
 }
 
 template <class Node>
@@ -69,7 +93,9 @@ SoGeometryKey SoVertexShape::getGeometryKey(const SoState& state) const
     addPart(key, state.points);
     addPart(key, state.normals);
     addPart(key, state.textureCoordinates);
-    addPart(key, colorBinding.getValue() == Overall ? nullptr : state.material.diffuseNode);
+    addPart(key, colorBinding.getValue() == Overall ? nullptr : findColorNode(state));
+    if (state.secondTextureCoordinates)
+        addPart(key, state.secondTextureCoordinates);
     return key;
 }
 
@@ -83,9 +109,8 @@ void SoVertexShape::generate(const SoState& state, SoGeometry& g) const
     g.points.assign(points, points + pointCount);
     if (state.normals && static_cast<std::size_t>(state.normals->vectors.getNum()) == pointCount)
         g.normals.assign(state.normals->vectors.getValues(), state.normals->vectors.getValues() + pointCount);
-    if (const auto* given = state.textureCoordinates;
-        given && static_cast<std::size_t>(given->points.getNum()) == pointCount)
-        g.textureCoordinates.assign(given->points.getValues(), given->points.getValues() + pointCount);
+    takeCoordinates(state.textureCoordinates, pointCount, g.textureCoordinates);
+    takeCoordinates(state.secondTextureCoordinates, pointCount, g.secondTextureCoordinates);
     Corners corners;
     collectCorners(static_cast<std::uint32_t>(pointCount), corners);
     g.index = corners.index;
@@ -111,13 +136,13 @@ SoVertexShape::Part SoVertexShape::findPart(int pointCount, int number) const
 
 void SoVertexShape::addColors(const SoState& state, const Corners& corners, SoGeometry& g) const
 {
-    const SoMaterial* material = state.material.diffuseNode;
+    const SoMFColor* colors = findColors(state);
     const int binding = colorBinding.getValue();
-    if (!material || (binding != PerFace && binding != PerVertex))
+    if (!colors || colors->getNum() == 0 || (binding != PerFace && binding != PerVertex))
         return;
-    const auto count = static_cast<std::size_t>(material->diffuseColor.getNum());
+    const auto count = static_cast<std::size_t>(colors->getNum());
     // More faces than colours: the list starts again.
-    const auto color = [&](std::size_t i) { return material->diffuseColor[static_cast<int>(i % count)]; };
+    const auto color = [&](std::size_t i) { return (*colors)[static_cast<int>(i % count)]; };
     if (binding == PerFace)
         separateCorners(g);
     const auto perFace = static_cast<std::size_t>(3 - static_cast<int>(g.kind));

@@ -1,0 +1,26 @@
+# SPDX-License-Identifier: MIT
+# The reference of the public headers, made by Doxygen from their list. What Doxygen warns of fails the build.
+find_package(Doxygen 1.9 REQUIRED)
+get_property(headers GLOBAL PROPERTY SCOPIX_PUBLIC_HEADERS)
+
+set(DOXYGEN_PROJECT_NAME "Scopix")
+set(DOXYGEN_PROJECT_NUMBER "${PROJECT_VERSION}")
+set(DOXYGEN_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/reference")
+set(DOXYGEN_STRIP_FROM_PATH "${PROJECT_SOURCE_DIR}")
+set(DOXYGEN_WARN_AS_ERROR FAIL_ON_WARNINGS)
+set(DOXYGEN_WARN_IF_UNDOCUMENTED NO) # a class says what it is for, and not each of its members
+set(DOXYGEN_EXTRACT_ALL YES)
+set(DOXYGEN_HIDE_UNDOC_RELATIONS NO)
+set(DOXYGEN_QUIET YES)
+set(DOXYGEN_GENERATE_LATEX NO)
+set(DOXYGEN_HAVE_DOT NO)
+set(DOXYGEN_JAVADOC_AUTOBRIEF YES)
+set(DOXYGEN_MACRO_EXPANSION YES)
+set(DOXYGEN_EXPAND_ONLY_PREDEF YES)
+set(DOXYGEN_PREDEFINED
+  XSG_API= SCOPIX_HOST_API= SPX_API= SPX_EDITING_API= Q_OBJECT=)
+set(DOXYGEN_TIMESTAMP NO)
+set(DOXYGEN_HTML_TIMESTAMP NO)
+doxygen_add_docs(reference ${headers} ALL)
+
+install(DIRECTORY "${PROJECT_BINARY_DIR}/reference/html/" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/scopix-doc/reference")

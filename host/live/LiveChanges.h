@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <scopix/live/adapter/Adapter.h>
+#include <xsg/paths/SoScenePath.h>
+
+#include <string>
+#include <vector>
+
+namespace scopix
+{
+
+class LiveNode;
+struct LiveProperty;
+
+/// What edits have changed in a running program, by place: a list that outlives the program. A value that is
+/// as it was at first is on it no more.
+class LiveChanges
+{
+public:
+    /// From a node to a child: by type and name, and by place where that is not enough.
+    struct Step {
+        std::string type;
+        std::string name;
+        int index = 0;
+    };
+    struct Change {
+        live::NodeId node = 0;
+        std::vector<Step> way; // from the root, without it
+        std::string property;
+        live::Value before;
+        live::Value after;
+        SoScenePath path; // of the field
+        std::string text; // as a field has it
+    };
+
+    void note(const LiveNode& node, const LiveProperty& property, const live::Value& before,
+              const live::Value& after);
+    const std::vector<Change>& getAll() const { return m_all; }
+    bool isEmpty() const { return m_all.empty(); }
+    bool isChanged(live::NodeId node, const std::string& property) const;
+    /// As a patch.
+    std::string toText() const;
+
+private:
+    std::vector<Change> m_all;
+};
+
+} // namespace scopix

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "live/LiveChanges.h"
+#include "live/LiveNode.h"
+
+#include <QTimer>
+
+#include <vector>
+
+namespace scopix
+{
+
+class HostServices;
+
+/// Takes what is written to the nodes of a LiveScene to the program, once a turn of the event loop, and shows
+/// what the program made of it. A write that the program refuses or takes otherwise belongs to the step of
+/// the history that wrote. A field has one write on its way at a time. Part of LiveScene.
+class LiveEdits
+{
+public:
+    LiveEdits(LiveScene& scene, HostServices& services);
+
+    void fieldWritten(LiveNode& node, SoField& field);
+    void childrenWritten(LiveNode& node);
+    /// Sends what waits for the event loop.
+    void flush();
+    /// Edits of the children are with the program before it is asked for them.
+    void settleChildren(LiveNode& node);
+    /// Nothing is sent any more.
+    void stop();
+
+    /// A field that shows of a value what this one leaves stands for every bit of it.
+    static void keepExact(LiveProperty& property, const live::Value& value);
+    /// What the user has changed, and the program has taken.
+    const LiveChanges& getChanges() const { return m_changes; }
+
+private:
+    using NodeRef = SoRef<LiveNode>;
+    struct Written {
+        NodeRef node;
+        LiveProperty* property;
+    };
+    struct Child {
+        NodeRef group;
+        int index; // among the program's own children
+        live::NodeId node;
+    };
+
+    void refuse(const NodeRef& node, LiveProperty& property);
+    void send(const NodeRef& node, LiveProperty& property);
+    void answered(const NodeRef& node, LiveProperty& property, const live::Value& sent,
+                  const live::WriteResult& result);
+    void showAsTaken(LiveProperty& property, const live::Value& value);
+    void putBack(const NodeRef& node, LiveProperty& property, const QString& remark);
+    void remark(LiveProperty& property, const QString& sentence);
+
+    static std::vector<std::uint8_t> shownBytes(const LiveProperty& property, const SoField& field);
+
+    void sendChildren();
+    bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
+    void structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result);
+    void takeChildrenBack(int historyIndex, const QString& sentence);
+
+    LiveScene& m_scene;
+    HostServices& m_services;
+    LiveChanges m_changes;
+    std::vector<Written> m_written;
+    std::vector<NodeRef> m_groups; // whose children were written
+    QTimer m_soon;
+    bool m_isOver = false;
+};
+
+} // namespace scopix

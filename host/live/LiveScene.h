@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "live/LiveEdits.h"
+#include "live/LiveLink.h"
+#include "live/LiveNode.h"
+
+#include <xsg/actions/SoPath.h>
+
+#include <QImage>
+#include <QObject>
+#include <QString>
+
+#include <list>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace scopix
+{
+
+class HostServices;
+
+/// The scene of a running program as nodes of ours: nodes come when their parent is unfolded, values when a
+/// node is selected. Values that the program changes are shown and are no edits; edits go to the program
+/// through LiveEdits. When the program ends, the nodes stay and refuse edits. Owns the link. GUI thread only.
+class LiveScene : public QObject, private live::ClientListener
+{
+    Q_OBJECT
+
+public:
+    enum class State { Attached, Silent, Ended };
+
+    /// `services` must outlive it.
+    LiveScene(std::unique_ptr<LiveLink> link, HostServices& services);
+    ~LiveScene() override;
+
+    SoNode* getRoot() const { return m_root.get(); }
+    LiveLink& getLink() { return *m_link; }
+    LiveEdits& getEdits() { return m_edits; }
+    State getState() const { return m_state; }
+    /// Why it has ended, in a sentence.
+    const QString& getEnd() const { return m_end; }
+    /// The program's name, as a line of text.
+    QString getName() const;
+    /// Living nodes that stand for something of the program.
+    std::size_t getNodeCount() const { return m_nodes.size(); }
+
+    /// What is selected is followed, marked in the program, and its values are shown.
+    void follow(const QList<SoFieldContainer*>& selected);
+    /// Makes the nodes along this path, and hands over the way to them: as far as there is one.
+    void findPath(const std::vector<live::NodeId>& path, std::function<void(const SoPath&)> done);
+    /// The children of the node are here, or will not come.
+    void whenUnfolded(LiveNode& node, const std::function<void()>& act);
+    /// Its fields are here, with the program's values.
+    void whenShown(LiveNode& node, const std::function<void()>& act);
+    /// Ends the attachment; the nodes stay.
+    void detach();
+    /// The program has not answered for a while, or does so again.
+    void setSilent(bool isSilent);
+
+    // --- For the nodes
+    void fetchChildren(LiveNode& node);
+    void fieldWritten(LiveNode& node, SoField& field);
+    void childrenWritten(LiveNode& node);
+    QString refusalOf(const LiveNode& node) const;
+    QString structureRefusalOf(const LiveNode& node) const;
+    void forget(LiveNode& node);
+
+    // --- For the edits
+    /// Shows a value of the program, which is no edit.
+    void show(LiveProperty& property, const live::Value& value);
+    void fetchChildrenAgain(LiveNode& node);
+    /// What `act` does to the nodes comes from the program.
+    void apply(const std::function<void()>& act);
+    /// The same for an undo step of what the program refused.
+    void takeBack(const std::function<void()>& act);
+
+signals:
+    void stateChanged();
+    /// A sentence for the user, good to know.
+    void told(const QString& sentence);
+    /// Fields came for a node that is selected: what shows it has to look again.
+    void fieldsCame(SoFieldContainer* node);
+    /// What the field list says of this field.
+    void remarked(SoField* field);
+    void pictureShown(const QImage& picture);
+    void countersRead(const std::vector<double>& values);
+
+private:
+    using NodeRef = SoRef<LiveNode>;
+    struct Waiting {
+        std::vector<live::NodeId> ids;
+        std::size_t next = 0;
+        std::vector<NodeRef> found; // without the root
+        std::function<void(const SoPath&)> done;
+    };
+
+    NodeRef nodeFor(const live::NodeInfo& info);
+    void fetchPiece(const NodeRef& node, std::uint32_t first, bool isAgain);
+    void pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain, std::uint32_t asked,
+                   const std::vector<live::NodeInfo>& piece);
+    void rootsCame(const std::vector<live::NodeInfo>& roots);
+    void fetched(LiveNode& node);
+    void setChildren(LiveNode& node);
+    void insert(LiveNode& parent, SoNode& child, int index);
+
+    void fetchProperties(LiveNode& node, const std::function<void()>& then);
+    void propertiesCame(const NodeRef& node, const std::vector<live::PropertyInfo>& properties);
+    void fetchObjects(const NodeRef& node);
+    void objectsCame(const NodeRef& node, const std::vector<live::NodeId>& ids);
+    void propertiesFetched(LiveNode& node);
+
+    void show(LiveNode& node);
+    void fetchValues(LiveNode& node, const std::function<void()>& then);
+    void valueCame(LiveNode& node, LiveProperty& property, const std::optional<live::Value>& value);
+    void keepShown(LiveNode& node);
+    void goOnWaiting();
+    bool goOn(Waiting& waiting);
+
+    void rootsChanged() override;
+    void childrenChanged(live::NodeId node) override;
+    void nodeEnded(live::NodeId node) override;
+    void valueChanged(live::NodeId node, const std::string& property, const live::Value& value) override;
+    void pictureCame(const live::Picture& picture) override;
+    void countersCame(const std::vector<double>& values) override;
+    void noticeCame(const live::Notice& notice) override;
+    void ended(const std::string& reason) override;
+
+    HostServices& m_services;
+    std::unique_ptr<LiveLink> m_link;
+    std::unordered_map<live::NodeId, LiveNode*> m_nodes;
+    std::unordered_set<LiveNode*> m_unnumbered; // the root, and what stands for a node within itself
+    LiveEdits m_edits;
+    NodeRef m_root;
+    State m_state = State::Attached;
+    QString m_end;
+    bool m_isApplying = false;
+    std::list<LiveNode*> m_shown; // their values are watched; the latest first
+    std::list<Waiting> m_waiting;
+    live::NodeId m_marked = 0;
+};
+
+} // namespace scopix

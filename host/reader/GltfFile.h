@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace scopix
+{
+
+/// The text of a glTF 2.0 file and the numbers that it refers to, for what the importer does not keep. Trusts
+/// nothing: what is not as it should be reads as nothing.
+class GltfFile
+{
+public:
+    explicit GltfFile(const QString& path);
+
+    /// Empty where the file cannot be read.
+    const QJsonObject& getText() const { return m_text; }
+
+    struct Numbers {
+        std::vector<float> values;
+        int width = 1; // numbers in each value
+    };
+    /// Of an accessor; nothing for a sparse one too.
+    std::optional<Numbers> read(int accessor);
+
+private:
+    void readBinary(QByteArray whole);
+    QByteArray bufferOf(int number);
+    QByteArray loadBuffer(const QJsonObject& buffer) const;
+
+    QString m_folder;
+    QJsonObject m_text;
+    QByteArray m_binary; // the part behind the text of a binary file
+    QMap<int, QByteArray> m_buffers;
+};
+
+} // namespace scopix

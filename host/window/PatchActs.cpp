@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "window/PatchActs.h"
+
+#include "changes/ChangesPanel.h"
+#include "changes/ChangesText.h"
+#include "changes/PatchCommand.h"
+#include "document/PatchFile.h"
+#include "document/SceneDocument.h"
+#include "services/HostServices.h"
+#include "support/Printable.h"
+#include "support/UserNotifier.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace scopix
+{
+
+namespace
+{
+
+QString nameFilter()
+{
+    return PatchActs::tr("Patches (*.%1)").arg(patchEnding());
+}
+
+} // namespace
+
+PatchActs::PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+                     UserNotifier& notifier, QObject* parent)
+    : QObject(parent)
+    , m_window(window)
+    , m_services(services)
+    , m_document(document)
+    , m_panel(panel)
+    , m_notifier(notifier)
+{
+}
+
+bool PatchActs::isPatch(const QString& path)
+{
+    return QFileInfo(path).suffix().toLower() == patchEnding();
+}
+
+void PatchActs::askAndSave()
+{
+    QFileDialog dialog(&m_window, tr("Save Changes as Patch"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilter(nameFilter());
+    dialog.setDefaultSuffix(patchEnding());
+    const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
+    dialog.setDirectory(origin.path());
+    dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + patchEnding());
+    if (dialog.exec() == QDialog::Accepted)
+        save(dialog.selectedFiles().value(0));
+}
+
+bool PatchActs::save(const QString& path)
+{
+    m_services.preview().showPresent();
+    m_services.history().endStep();
+    m_panel.getModel().follow();
+    const ChangeKeySet chosen = m_panel.getChosen();
+    if (chosen.empty()) {
+        m_notifier.info(tr("There is no change that could be saved."));
+        return false;
+    }
+    const QString error = writePatch(path, m_panel.getModel().getSource()->makePatch(chosen));
+    if (error.isEmpty())
+        m_notifier.info(tr("Saved the changes as “%1”.").arg(path));
+    else
+        m_notifier.error(error);
+    return error.isEmpty();
+}
+
+void PatchActs::askAndApply()
+{
+    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Apply Patch"),
+                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    if (!path.isEmpty())
+        apply(path);
+}
+
+bool PatchActs::apply(const QString& path)
+{
+    xsg::SceneChanges changes;
+    const QString error = readPatch(path, changes);
+    if (error.isEmpty())
+        apply(std::move(changes), QFileInfo(path).fileName());
+    else
+        m_notifier.error(error);
+    return error.isEmpty();
+}
+
+void PatchActs::apply(xsg::SceneChanges changes, const QString& name)
+{
+    if (m_services.preview().refusesEdit() || !m_document.getRoot())
+        return;
+    auto result = std::make_shared<xsg::PatchResult>();
+    m_services.history().endStep();
+    m_services.executeCommand(new PatchCommand(std::move(changes), m_document.getRoot(), result),
+                              tr("Apply “%1”").arg(name));
+    m_services.history().endStep();
+    tell(name, result->applied, result->alreadySo, result->misfits);
+}
+
+void PatchActs::tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits)
+{
+    const QString sentence = tr("“%1”: %2 changes applied, %3 were so already, %4 did not fit.")
+                                 .arg(printable(name))
+                                 .arg(applied)
+                                 .arg(alreadySo)
+                                 .arg(misfits.size());
+    m_notifier.info(sentence);
+    QStringList lines;
+    for (const std::string& misfit : misfits) {
+        lines << QString::fromStdString(misfit);
+        UserNotifier::note(name, lines.last());
+    }
+    if (misfits.empty() || !m_notifier.isAttended())
+        return;
+    auto* box = new QMessageBox(QMessageBox::Information, QApplication::applicationDisplayName(), sentence,
+                                QMessageBox::Ok, &m_window);
+    box->setObjectName(QStringLiteral("patchMisfits"));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(tr("What fits is applied, and can be undone as one step."));
+    box->setDetailedText(lines.join(QLatin1Char('\n')));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+void PatchActs::put(const QString& text, const QString& sentence)
+{
+    if (text.isEmpty())
+        return m_notifier.info(tr("There is no change that could be copied so."));
+    QApplication::clipboard()->setText(text);
+    m_notifier.info(sentence);
+}
+
+void PatchActs::copy()
+{
+    ChangeSource& source = *m_panel.getModel().getSource();
+    put(QString::fromStdString(xsg::PatchText::write(source.makePatch(m_panel.getChosen()))),
+        tr("The changes were copied as a patch."));
+}
+
+void PatchActs::copyCpp()
+{
+    put(changesAsCpp(*m_panel.getModel().getSource(), m_panel.getChosen()),
+        tr("The changes were copied as C++."));
+}
+
+void PatchActs::copyScene()
+{
+    put(changesAsScene(*m_panel.getModel().getSource(), m_panel.getChosen()),
+        tr("The changed values were copied as nodes of a scene."));
+}
+
+} // namespace scopix

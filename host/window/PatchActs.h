@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/changes/SceneChange.h>
+
+#include <QObject>
+
+class QWidget;
+
+namespace scopix
+{
+
+class ChangesPanel;
+class HostServices;
+class SceneDocument;
+class UserNotifier;
+
+/// Patches of the open scene: saves changes as one, applies one as one step and lists what did not fit.
+/// Questions open over the window. GUI thread only.
+class PatchActs : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive it.
+    PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+              UserNotifier& notifier, QObject* parent);
+
+    static bool isPatch(const QString& path);
+    void askAndSave();
+    void askAndApply();
+    /// Of the ticked changes, or of all. False where it cannot be written, which is told.
+    bool save(const QString& path);
+    /// False where it cannot be read, which is told.
+    bool apply(const QString& path);
+    void apply(xsg::SceneChanges changes, const QString& name);
+    /// To the clipboard.
+    void copy();
+    void copyCpp();
+    void copyScene();
+
+private:
+    void put(const QString& text, const QString& sentence);
+    void tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits);
+
+    QWidget& m_window;
+    HostServices& m_services;
+    SceneDocument& m_document;
+    ChangesPanel& m_panel;
+    UserNotifier& m_notifier;
+};
+
+} // namespace scopix

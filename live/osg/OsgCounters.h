@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "OsgViewers.h"
+
+#include <scopix/live/adapter/Adapter.h>
+
+#include <osg/Stats>
+
+#include <map>
+#include <string>
+
+namespace scopix::live
+{
+
+/// What the program's own statistics say about the last frames; they are switched on when they are asked for
+/// first, and back to how they were by `stop`. Between frames only.
+class OsgCounters
+{
+public:
+    explicit OsgCounters(OsgViewers& viewers);
+
+    static std::vector<CounterInfo> counters();
+    std::vector<double> values();
+    void stop();
+
+private:
+    struct Switched {
+        osg::ref_ptr<osg::Stats> stats;
+        std::string name;
+    };
+
+    void collect(osg::Stats* stats, const std::string& name);
+    void start();
+
+    OsgViewers& m_viewers;
+    std::vector<Switched> m_switched;
+};
+
+} // namespace scopix::live

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "OsgClasses.h"
+#include "OsgViewers.h"
+
+#include <osg/Geometry>
+#include <osg/Sequence>
+
+namespace scopix::live
+{
+
+/// Writes values, such that the picture follows and the program never reads beyond what it has. Between
+/// frames only.
+class OsgEdits
+{
+public:
+    OsgEdits(OsgObjects& objects, OsgClasses& classes, OsgViewers& viewers);
+
+    WriteResult write(NodeId id, const std::string& property, const Value& value);
+
+private:
+    using Objects = std::vector<osg::ref_ptr<osg::Object>>;
+
+    Objects touchedBy(NodeId id) const;
+
+    OsgObjects& m_objects;
+    OsgClasses& m_classes;
+    OsgViewers& m_viewers;
+};
+
+/// Whether everything that the geometry draws lies within its arrays.
+bool isWithinArrays(const osg::Geometry& geometry);
+/// Whether the sequence shows children that it has, each for a while: otherwise it would never come to an end
+/// of its update.
+bool isWithinChildren(const osg::Sequence& sequence);
+
+} // namespace scopix::live

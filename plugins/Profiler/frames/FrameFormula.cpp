@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "frames/FrameFormula.h"
+
+#include <xsg/counters/SoPerfCounterManager.h>
+
+#include <QRegularExpression>
+
+#include <cmath>
+#include <limits>
+
+namespace profiler
+{
+
+namespace
+{
+
+constexpr double NotKnown = std::numeric_limits<double>::quiet_NaN();
+constexpr int MostNested = 16;
+
+// Where the parenthesis ends that opens at `open`; -1: nowhere.
+int closing(const QString& text, int open)
+{
+    int depth = 0;
+    for (int i = open; i < text.size(); ++i) {
+        depth += text[i] == '(' ? 1 : text[i] == ')' ? -1 : 0;
+        if (depth == 0)
+            return i;
+    }
+    return -1;
+}
+
+// The time after the last comma, in seconds; 0 where there is none.
+double takeTime(QString& arguments)
+{
+    static const QRegularExpression Time(
+        QString::fromLatin1(",\\s*([0-9]+(?:\\.[0-9]+)?)\\s*(ms|s|min)\\s*$"));
+    const QRegularExpressionMatch match = Time.match(arguments);
+    if (!match.hasMatch())
+        return 0;
+    const double number = match.captured(1).toDouble();
+    const QString unit = match.captured(2);
+    arguments.truncate(match.capturedStart());
+    return unit == QLatin1String("ms") ? number / 1000 : unit == QLatin1String("min") ? number * 60 : number;
+}
+
+double valueOf(const SoFrameColumn& column, std::size_t frame)
+{
+    const std::int64_t value = column.values[frame];
+    const double scale = column.unit == "ns" ? 1e-6 : 1;
+    return column.isKnown(value) ? static_cast<double>(value) * scale : NotKnown;
+}
+
+std::vector<double> secondsOf(const SoFrameRecording& frames)
+{
+    std::vector<double> seconds;
+    if (const SoFrameColumn* begin = frames.findColumn("Begin")) {
+        for (const std::int64_t time : begin->values)
+            seconds.push_back(static_cast<double>(time) * 1e-9);
+    }
+    seconds.resize(frames.getNumFrames());
+    return seconds;
+}
+
+bool isWordPart(QChar c)
+{
+    return c.isLetterOrNumber() || c == '_' || c == '"';
+}
+
+} // namespace
+
+FrameFormula::FrameFormula(const QString& text)
+    : m_text(text.trimmed())
+{
+    expandCounters();
+    takeWindows();
+}
+
+// Counters that are computed from two others are not noted with frames; these are.
+void FrameFormula::expandCounters()
+{
+    QString text = m_text;
+    for (int i = 0; i < MostNested; ++i) {
+        const QString before = text;
+        for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
+            if (!counter->isCustom())
+                continue;
+            const QString name = QString::fromLatin1(counter->getName().getString());
+            const QRegularExpression word(QLatin1String("(?<![\\w\"])\"?") +
+                                          QRegularExpression::escape(name) + QLatin1String("\"?(?![\\w\"])"));
+            text.replace(word, QStringLiteral("(\"%1\" %2 \"%3\")")
+                                   .arg(QString::fromLatin1(counter->getFirstParent().getString()),
+                                        QString::fromLatin1(counter->getOperation().getString()),
+                                        QString::fromLatin1(counter->getSecondParent().getString())));
+            if (text.size() > int(SpxExpression::MaximumLength))
+                break;
+        }
+        if (text == before)
+            break;
+    }
+    m_formula = text.toStdString();
+}
+
+void FrameFormula::takeWindows()
+{
+    static const QRegularExpression Call(QString::fromLatin1("\\b(rate|mean)\\s*\\("));
+    QString text = QString::fromStdString(m_formula);
+    for (int from = 0; from < text.size();) {
+        const QRegularExpressionMatch match = Call.match(text, from);
+        const int close = match.hasMatch() ? closing(text, match.capturedEnd() - 1) : -1;
+        if (close < 0)
+            break;
+        QString arguments = text.mid(match.capturedEnd(), close - match.capturedEnd());
+        const bool isRate = match.captured(1) == QLatin1String("rate");
+        const double seconds = isRate ? 0 : takeTime(arguments);
+        from = match.capturedEnd();
+        if (!isRate && seconds <= 0)
+            continue; // the mean of several values of one frame
+        const QString name = QStringLiteral("window_%1").arg(m_windows.size());
+        m_windows.push_back(
+            {isRate ? Window::Rate : Window::Mean, std::make_unique<FrameFormula>(arguments), seconds});
+        text.replace(match.capturedStart(), close + 1 - match.capturedStart(), name);
+        from = match.capturedStart() + name.size();
+    }
+    m_formula = text.toStdString();
+}
+
+std::vector<double> FrameFormula::evaluate(const SoFrameRecording& frames)
+{
+    SpxExpressionSettings settings;
+    for (const SoFrameColumn& column : frames.columns)
+        settings.variables.push_back(column.name);
+    std::vector<std::vector<double>> windows;
+    for (Window& window : m_windows) {
+        settings.variables.push_back("window_" + std::to_string(windows.size()));
+        windows.push_back(evaluate(frames, window));
+        m_problem = window.inner->getProblem();
+        if (!m_problem.isEmpty())
+            return {};
+    }
+    const SpxExpression expression(m_formula, settings);
+    m_problem = expression.isValid() ? QString() : QString::fromStdString(expression.getError().sentence);
+    if (!expression.isValid())
+        return {};
+    std::vector<double> results(frames.getNumFrames());
+    std::vector<double> values(settings.variables.size());
+    for (std::size_t frame = 0; frame < results.size(); ++frame) {
+        for (std::size_t i = 0; i < frames.columns.size(); ++i)
+            values[i] = valueOf(frames.columns[i], frame);
+        for (std::size_t i = 0; i < windows.size(); ++i)
+            values[frames.columns.size() + i] = windows[i][frame];
+        results[frame] = expression.evaluate(values.data());
+    }
+    return results;
+}
+
+std::vector<double> FrameFormula::evaluate(const SoFrameRecording& frames, const Window& window) const
+{
+    std::vector<double> inner = window.inner->evaluate(frames);
+    if (inner.size() != frames.getNumFrames())
+        return {};
+    const std::vector<double> seconds = secondsOf(frames);
+    std::vector<double> results(inner.size(), NotKnown);
+    if (window.kind == Window::Rate) {
+        for (std::size_t i = 1; i < inner.size(); ++i)
+            results[i] = inner[i] / (seconds[i] - seconds[i - 1]);
+        return results;
+    }
+    double sum = 0;
+    std::size_t count = 0;
+    const auto add = [&](double value, int sign) {
+        if (!std::isfinite(value))
+            return;
+        sum += sign * value;
+        count += static_cast<std::size_t>(sign);
+    };
+    for (std::size_t i = 0, first = 0; i < inner.size(); ++i) {
+        add(inner[i], 1);
+        for (; seconds[i] - seconds[first] > window.seconds; ++first)
+            add(inner[first], -1);
+        results[i] = count > 0 ? sum / static_cast<double>(count) : NotKnown;
+    }
+    return results;
+}
+
+QString FrameFormula::getUnit(const SoFrameRecording& frames) const
+{
+    const std::string formula = QString::fromStdString(m_formula).remove('"').toStdString();
+    if (const SoFrameColumn* column = frames.findColumn(formula))
+        return column->unit == "ns" ? QStringLiteral("ms") : QString::fromStdString(column->unit);
+    if (m_windows.size() != 1 || formula != "window_0")
+        return {};
+    const QString inner = m_windows[0].inner->getUnit(frames);
+    return m_windows[0].kind == Window::Rate ? inner + QStringLiteral("/s") : inner;
+}
+
+std::vector<SbName> FrameFormula::getNames() const
+{
+    std::vector<SbName> names;
+    const QString text = QString::fromStdString(m_formula);
+    for (int i = 0; i < text.size(); ++i) {
+        const int begin = i;
+        if (text[i] == '"')
+            i = text.indexOf('"', i + 1);
+        else
+            while (i < text.size() && isWordPart(text[i]))
+                ++i;
+        if (i < 0)
+            break;
+        const QString word = text.mid(begin, i - begin).remove('"');
+        if (!word.isEmpty())
+            names.emplace_back(word.toLatin1().constData());
+    }
+    for (const Window& window : m_windows) {
+        for (const SbName name : window.inner->getNames())
+            names.push_back(name);
+    }
+    return names;
+}
+
+} // namespace profiler

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "frames/FramesDock.h"
+
+#include "frames/FramesPanel.h"
+
+namespace profiler
+{
+
+FramesDock::FramesDock()
+    : PanelDock("Frames", "Shows what each frame cost, and why.")
+{
+}
+
+QWidget* FramesDock::makePanel()
+{
+    return new FramesPanel(SoFrameLog::getInstance());
+}
+
+} // namespace profiler

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+// Programs in processes of their own: attaching, launching, and their end at any moment.
+#include "live/LiveLaunch.h"
+#include "live/LiveScene.h"
+#include "live/SocketLink.h"
+#include "services/HostServices.h"
+#include "support/UserNotifier.h"
+#include "window/LiveActs.h"
+#include "window/MainWindow.h"
+
+#include <xsg/core/SoField.h>
+#include <xsg/fields/SoSFFloat.h>
+
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <random>
+
+using namespace scopix;
+
+namespace
+{
+
+QStringList mill()
+{
+    return {QStringLiteral(SCOPIX_MILL), QStringLiteral("--no-window")};
+}
+
+class LiveProcess : public testing::Test
+{
+protected:
+    LiveProcess() { qputenv("XDG_RUNTIME_DIR", folder.path().toLocal8Bit()); }
+    ~LiveProcess() override
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+    QString start()
+    {
+        process.start(mill().first(), mill().mid(1));
+        return process.waitForReadyRead() ? QString::fromLocal8Bit(process.readLine()).trimmed() : QString();
+    }
+    std::unique_ptr<LiveScene> attach(const QString& socket)
+    {
+        auto link = std::make_unique<SocketLink>();
+        const QString problem = link->connectTo(socket);
+        EXPECT_TRUE(problem.isEmpty()) << problem.toStdString();
+        return std::make_unique<LiveScene>(std::move(link), services);
+    }
+    static LiveNode& rootOf(LiveScene& scene) { return static_cast<LiveNode&>(*scene.getRoot()); }
+    // The first node below that has a field of this name which can be written.
+    SoSFFloat* findField(LiveScene& scene, const char* name)
+    {
+        SoSFFloat* found = nullptr;
+        std::vector<SoRef<LiveNode>> pending{SoRef<LiveNode>(&rootOf(scene))};
+        while (!found && !pending.empty()) {
+            const SoRef<LiveNode> node = pending.back();
+            pending.pop_back();
+            bool isHere = false;
+            scene.whenUnfolded(*node, [&] { isHere = true; });
+            EXPECT_TRUE(QTest::qWaitFor([&] { return isHere; }));
+            found = dynamic_cast<SoSFFloat*>(node->getField(name));
+            if (found) {
+                bool isShown = false;
+                scene.whenShown(*node, [&] { isShown = true; });
+                EXPECT_TRUE(QTest::qWaitFor([&] { return isShown; }));
+            }
+            for (SoNode* child : node->getChildren()) {
+                if (auto* live = dynamic_cast<LiveNode*>(child))
+                    pending.emplace_back(live);
+            }
+        }
+        return found;
+    }
+
+    QTemporaryDir folder;
+    QProcess process;
+    HostServices services;
+};
+
+} // namespace
+
+TEST_F(LiveProcess, IsListedFoundAndEdited)
+{
+    const QString socket = start();
+    QString problem;
+    ASSERT_TRUE(findProgram({}, problem)) << problem.toStdString();
+    EXPECT_EQ(findProgram(QString::number(process.processId()), problem)->socketPath, socket.toStdString());
+    EXPECT_TRUE(findProgram(QStringLiteral("MIL"), problem));
+    EXPECT_FALSE(findProgram(QStringLiteral("loom"), problem));
+    EXPECT_TRUE(problem.contains("loom"));
+    EXPECT_TRUE(livePrograms().contains(socket));
+    const auto scene = attach(socket);
+    SoSFFloat* height = findField(*scene, "height");
+    ASSERT_TRUE(height);
+    const float before = height->getValue();
+    height->setValue(before + 1);
+    const auto& changes = scene->getEdits().getChanges();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changes.getAll().size() == 1; }));
+    height->setValue(before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changes.isEmpty(); }));
+}
+
+TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
+{
+    std::mt19937 random(static_cast<unsigned>(qEnvironmentVariableIntValue("SCOPIX_WALK_SEED")));
+    const int runs = std::max(3, qEnvironmentVariableIntValue("SCOPIX_WALK_STEPS") / 100);
+    for (int run = 0; run < runs; ++run) {
+        const auto scene = attach(start());
+        SoSFFloat* height = findField(*scene, "height");
+        ASSERT_TRUE(height);
+        const auto edits = std::uniform_int_distribution(0, 40)(random);
+        for (int i = 0; i < edits; ++i) {
+            height->setValue(static_cast<float>(1 + i));
+            if (i % 3 == 0)
+                QCoreApplication::processEvents();
+        }
+        process.kill();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return scene->getState() == LiveScene::State::Ended; }));
+        process.waitForFinished();
+        EXPECT_FALSE(scene->getEnd().isEmpty());
+        const SoRef<SoFieldContainer> node(height->getContainer());
+        EXPECT_FALSE(MirroredNode::of(node.get())->refusal().isEmpty());
+        height->setValue(1000);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return height->getValue() < 1000; }));
+    }
+}
+
+TEST_F(LiveProcess, RunsOnWhenItWasLaunchedAndWeAreGone)
+{
+    auto launch = std::make_unique<LiveLaunch>();
+    QSignalSpy found(launch.get(), &LiveLaunch::found);
+    QSignalSpy failed(launch.get(), &LiveLaunch::failed);
+    launch->start(mill(), {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !found.isEmpty() || !failed.isEmpty(); }, 20000));
+    ASSERT_EQ(found.size(), 1) << failed.value(0).value(0).toString().toStdString();
+    launch.reset();
+    QString problem;
+    const auto program = findProgram({}, problem);
+    ASSERT_TRUE(program);
+    EXPECT_EQ(::kill(static_cast<pid_t>(program->pid), SIGKILL), 0);
+}
+
+TEST_F(LiveProcess, IsToldOfWhereItCannotBeLaunchedOrEndsAtOnce)
+{
+    LiveLaunch launch;
+    QSignalSpy failed(&launch, &LiveLaunch::failed);
+    launch.start({QStringLiteral("/no/such/program")}, {});
+    ASSERT_EQ(failed.size(), 1);
+    EXPECT_TRUE(failed.last().first().toString().contains("there is no such program"));
+    launch.start({QStringLiteral("/bin/true")}, {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return failed.size() == 2; }, 20000));
+    EXPECT_TRUE(failed.last().first().toString().contains("ended before"));
+}
+
+TEST_F(LiveProcess, OffersTheChangesOfAKilledRunToTheNextOne)
+{
+    UserNotifier notifier;
+    MainWindow window(services, notifier);
+    LiveActs& acts = window.getLive();
+    QSignalSpy attached(&acts, &LiveActs::attached);
+    acts.attachTo(start());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 1; }));
+    SoSFFloat* height = findField(*acts.getScene(), "height");
+    ASSERT_TRUE(height);
+    height->setValue(4.75F);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    process.kill();
+    process.waitForFinished();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return acts.getScene()->getState() == LiveScene::State::Ended; }));
+    acts.attachTo(start());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }));
+    auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains("1 change")) << box->text().toStdString();
+    box->buttons().first()->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    height = findField(*acts.getScene(), "height");
+    ASSERT_TRUE(height);
+    EXPECT_EQ(height->getValue(), 4.75F);
+}

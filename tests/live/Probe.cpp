@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "Probe.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace scopix::live;
+using namespace std::chrono_literals;
+
+OwnRuntimeFolder::OwnRuntimeFolder()
+{
+    const char* former = std::getenv("XDG_RUNTIME_DIR");
+    m_hadFormer = former != nullptr;
+    m_former = former ? former : "";
+    std::string name = "/tmp/scopix-test-XXXXXX";
+    m_path = mkdtemp(name.data());
+    setenv("XDG_RUNTIME_DIR", m_path.c_str(), 1);
+}
+
+OwnRuntimeFolder::~OwnRuntimeFolder()
+{
+    std::filesystem::remove_all(m_path);
+    if (m_hadFormer)
+        setenv("XDG_RUNTIME_DIR", m_former.c_str(), 1);
+    else
+        unsetenv("XDG_RUNTIME_DIR");
+}
+
+bool Probe::runUntil(const std::function<bool()>& condition)
+{
+    const auto patience = std::chrono::steady_clock::now() + 60s;
+    while (!condition()) {
+        if (!client.isConnected() || std::chrono::steady_clock::now() > patience)
+            return condition();
+        if (m_step)
+            m_step();
+        client.process();
+        if (condition())
+            return true;
+        pollfd file{client.fileDescriptor(), static_cast<short>(POLLIN | (client.wantsWrite() ? POLLOUT : 0)),
+                    0};
+        poll(&file, 1, 1);
+    }
+    return true;
+}
+
+std::vector<NodeInfo> Probe::roots()
+{
+    return ask<std::vector<NodeInfo>>(&Client::roots);
+}
+
+std::vector<NodeInfo> Probe::children(NodeId node)
+{
+    return ask<std::vector<NodeInfo>>(&Client::children, node, 0, Client::mostChildren);
+}
+
+std::vector<PropertyInfo> Probe::properties(NodeId node)
+{
+    return ask<std::vector<PropertyInfo>>(&Client::properties, node);
+}
+
+std::optional<Value> Probe::value(NodeId node, const std::string& property)
+{
+    return ask<std::optional<Value>>(&Client::value, node, property);
+}
+
+WriteResult Probe::write(NodeId node, const std::string& property, const Value& value)
+{
+    return ask<WriteResult>(&Client::write, node, property, value);
+}
+
+OtherProgram::OtherProgram(const std::vector<std::string>& command)
+{
+    int ends[2] = {-1, -1};
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        return;
+    std::vector<char*> arguments;
+    for (const std::string& argument : command)
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
+    m_pid = fork();
+    if (m_pid == 0) {
+        dup2(ends[1], STDOUT_FILENO);
+        execv(arguments[0], arguments.data());
+        _exit(127);
+    }
+    close(ends[1]);
+    m_output = ends[0];
+    char letter = 0;
+    while (read(m_output, &letter, 1) == 1 && letter != '\n')
+        m_firstLine += letter;
+}
+
+OtherProgram::~OtherProgram()
+{
+    signal(SIGKILL);
+    waitForEnd();
+    close(m_output);
+}
+
+bool OtherProgram::isRunning()
+{
+    if (m_pid > 0 && waitpid(m_pid, &m_status, WNOHANG) == m_pid)
+        m_pid = -1;
+    return m_pid > 0;
+}
+
+void OtherProgram::signal(int number) const
+{
+    if (m_pid > 0)
+        kill(m_pid, number);
+}
+
+int OtherProgram::waitForEnd()
+{
+    if (m_pid > 0)
+        waitpid(m_pid, &m_status, 0);
+    m_pid = -1;
+    return WIFEXITED(m_status) ? WEXITSTATUS(m_status) : -1;
+}

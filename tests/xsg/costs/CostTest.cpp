@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+// Scenes with a bottleneck that is known.
+#include <gtest/gtest.h>
+
+#include <xsg/costs/SoCostMeter.h>
+#include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoPoints.h>
+#include <xsg/nodes/properties/SoTexture2.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
+#include <xsg/nodes/transforms/SoTransform.h>
+
+#include <random>
+
+namespace
+{
+
+constexpr int Width = 64;
+constexpr int Height = 48;
+
+template <class Node>
+Node* add(SoGroup& group)
+{
+    auto* node = new Node;
+    group.addChild(node);
+    return node;
+}
+
+// So many triangles, in a separator of their own.
+SoSeparator* addMesh(SoGroup& group, int triangles)
+{
+    auto* branch = add<SoSeparator>(group);
+    std::vector<SbVec3f> points;
+    std::vector<std::int32_t> index;
+    for (int i = 0; i < triangles + 2; ++i)
+        points.emplace_back(static_cast<float>(i % 2), static_cast<float>(i) * 0.001F, 0.0F);
+    for (int i = 0; i < triangles; ++i)
+        index.insert(index.end(), {i, i + 1, i + 2});
+    add<SoPoints>(*branch)->points.setValues(std::move(points));
+    add<SoIndexedTriangleSet>(*branch)->index.setValues(std::move(index));
+    return branch;
+}
+
+// A tree of some groups with bodies, different each time.
+SoRef<SoSeparator> makeScene(unsigned seed)
+{
+    std::mt19937 random(seed);
+    SoRef<SoSeparator> root(new SoSeparator);
+    add<SoPerspectiveCamera>(*root)->position.setValue(0, 0, 10);
+    std::vector<SoGroup*> groups{root.get()};
+    for (int i = 0; i < 40; ++i) {
+        SoGroup& group = *groups[random() % groups.size()];
+        switch (random() % 4) {
+        case 0:
+            groups.push_back(add<SoSeparator>(group));
+            break;
+        case 1:
+            add<SoMaterial>(group)->shininess.setValue(static_cast<float>(random() % 100) / 100);
+            break;
+        case 2:
+            add<SoTransform>(group)->translation.setValue(SbVec3f(static_cast<float>(random() % 5), 0, 0));
+            break;
+        default:
+            addMesh(group, 100 + static_cast<int>(random() % 900));
+        }
+    }
+    return root;
+}
+
+SoCostHint firstHint(SoNode* root)
+{
+    const std::vector<SoCostHint> hints = findCostHints(countCosts(root, {}), Width, Height);
+    EXPECT_FALSE(hints.empty());
+    return hints.empty() ? SoCostHint() : hints.front();
+}
+
+SoGroup& someGroup(SoGroup& root, unsigned seed)
+{
+    std::vector<SoGroup*> groups{&root};
+    for (int i = 0; i < root.getNumChildren(); ++i) {
+        if (SoGroup* group = root.getChild(i)->asGroup())
+            groups.push_back(group);
+    }
+    return *groups[seed % groups.size()];
+}
+
+class PlantedBottleneck : public testing::TestWithParam<unsigned>
+{
+protected:
+    SoRef<SoSeparator> root = makeScene(GetParam());
+    SoGroup& place = someGroup(*root, GetParam());
+};
+
+} // namespace
+
+TEST_P(PlantedBottleneck, ABranchWithFortyPercentOfTheTrianglesIsNamedFirst)
+{
+    for (int i = 0; i < 3; ++i)
+        addMesh(*root, 6000);
+    const std::int64_t others = countCosts(root.get(), {}).branches.front().triangles;
+    SoSeparator* heavy = addMesh(place, static_cast<int>(others * 2 / 3));
+    const SoCostHint hint = firstHint(root.get());
+    EXPECT_EQ(hint.kind, SoCostHint::ManyTriangles);
+    // The branch itself, or the body that is all of it.
+    EXPECT_TRUE(hint.node.get() == heavy || hint.node.get() == heavy->getChild(1)) << hint.sentence;
+    EXPECT_NE(hint.sentence.find("40 % of all triangles"), std::string::npos) << hint.sentence;
+}
+
+TEST_P(PlantedBottleneck, AHiddenLargePictureIsNamedFirst)
+{
+    auto* behind = add<SoSeparator>(place);
+    auto* texture = add<SoTexture2>(*behind);
+    const std::vector<unsigned char> pixels(std::size_t{8192} * 8192);
+    texture->image.setValue(8192, 8192, 1, pixels.data());
+    add<SoTransform>(*behind)->translation.setValue(SbVec3f(0, 0, -100));
+    add<SoCube>(*behind);
+    const SoCostHint hint = firstHint(root.get());
+    EXPECT_EQ(hint.kind, SoCostHint::LargePicture);
+    EXPECT_EQ(hint.node.get(), texture);
+    EXPECT_NE(hint.sentence.find("8,192 × 8,192 pixels"), std::string::npos) << hint.sentence;
+    EXPECT_NE(hint.sentence.find("358 MB, 100 % of all pictures"), std::string::npos) << hint.sentence;
+}
+
+TEST_P(PlantedBottleneck, FiveThousandTinyBodiesAreNamedFirst)
+{
+    auto* many = add<SoSeparator>(place);
+    for (int i = 0; i < 5000; ++i)
+        add<SoCube>(*many)->width.setValue(1.0F + static_cast<float>(i) * 0.001F);
+    const SoCostHint hint = firstHint(root.get());
+    EXPECT_EQ(hint.kind, SoCostHint::SmallShapes);
+    EXPECT_EQ(hint.node.get(), many);
+    EXPECT_EQ(hint.sentence.find("5,000 bodies"), 0U) << hint.sentence;
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, PlantedBottleneck, testing::Range(1U, 11U));
+
+TEST(CostHints, NameEqualMaterials)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    for (int i = 0; i < 30; ++i)
+        add<SoMaterial>(*root)->shininess.setValue(i < 25 ? 0.5F : 0.6F);
+    const SoCostHint hint = firstHint(root.get());
+    EXPECT_EQ(hint.kind, SoCostHint::EqualMaterials);
+    EXPECT_EQ(hint.sentence, "25 materials are equal; one could serve all of them.");
+}
+
+TEST(CostCount, SumsUpTheTreeAndCountsWhatIsSharedOnce)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    auto* left = add<SoSeparator>(*root);
+    auto* cube = add<SoCube>(*left);
+    auto* right = add<SoSeparator>(*root);
+    right->addChild(left);
+    right->addChild(left);
+    const SoCosts costs = countCosts(root.get(), {});
+    ASSERT_EQ(costs.branches.size(), 4U);
+    EXPECT_EQ(costs.find(root.get())->triangles, 36);
+    EXPECT_EQ(costs.find(right)->triangles, 24);
+    EXPECT_EQ(costs.find(left)->triangles, 36); // in all places
+    EXPECT_EQ(costs.find(cube)->shapes, 3);
+    EXPECT_EQ(costs.find(root.get())->meshBytes, costs.find(cube)->meshBytes);
+    EXPECT_EQ(costs.find(right)->meshBytes, 0);
+    EXPECT_EQ(costs.find(left)->parent, 0);
+}
+
+TEST(CostMeter, MeasuresBranchesAndTellsWhatIsNotSeen)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    SoRef<SoPerspectiveCamera> camera(new SoPerspectiveCamera);
+    camera->position.setValue(0, 0, 10);
+    auto* front = add<SoSeparator>(*root);
+    auto* wall = add<SoCube>(*front);
+    wall->width.setValue(30);
+    wall->height.setValue(30);
+    auto* behind = add<SoSeparator>(*root);
+    add<SoTransform>(*behind)->translation.setValue(SbVec3f(0, 0, -20));
+    addMesh(*behind, 1000);
+    auto* nothing = add<SoSeparator>(*root);
+    SoCostMeter meter(root.get(), camera.get(), Width, Height);
+    while (meter.step())
+        EXPECT_LE(meter.getProgress(), 1);
+    EXPECT_EQ(meter.getErrorText(), "");
+    EXPECT_EQ(meter.getProgress(), 1);
+    const SoCosts& costs = meter.getCosts();
+    EXPECT_TRUE(costs.find(root.get())->isMeasured);
+    EXPECT_GT(costs.emptyPicture, 0);
+    EXPECT_TRUE(costs.find(behind)->isMeasured);
+    EXPECT_GE(costs.find(behind)->drawCalls, 1);
+    EXPECT_FALSE(costs.find(nothing)->isMeasured);
+    EXPECT_TRUE(costs.find(behind)->isUnseen);
+    EXPECT_FALSE(costs.find(front)->isUnseen);
+    const std::vector<SoCostHint> hints = findCostHints(costs, Width, Height);
+    ASSERT_EQ(hints.size(), 1U); // and not the mesh in it once more
+    EXPECT_EQ(hints.front().kind, SoCostHint::Unseen);
+    EXPECT_EQ(hints.front().node.get(), behind);
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/actions/SoHiding.h>
+#include <xsg/costs/SoCosts.h>
+#include <xsg/frames/SoFrameLog.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/render/SoOffscreenRenderer.h>
+
+#include <deque>
+
+/// Measures what the branches of a scene cost, by drawing each of them alone, several times, in pictures of
+/// its own. A branch is looked into where it takes a good part of the whole. One picture is drawn by each
+/// step(), so that a program stays alive meanwhile:
+///
+///     SoCostMeter meter(root, camera, 800, 600);
+///     while (meter.step())
+///         ...
+///     use(meter.getCosts());
+///
+/// The scene must not change meanwhile. On the scene's thread.
+class XSG_API SoCostMeter
+{
+public:
+    /// As for SoRenderer::render(). The scene is counted at once.
+    SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
+                const SoFittingImageReader& reader = {});
+
+    /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
+    bool step();
+    const SoCosts& getCosts() const { return m_costs; }
+    const std::string& getErrorText() const { return m_renderer.getErrorText(); }
+    /// From 0 to 1, roughly.
+    double getProgress() const;
+
+    static constexpr int Pictures = 5; // of each branch, after a first one that fills caches
+    static constexpr int MostBranches = 200;
+
+private:
+    enum class Stage { Whole, Empty, Parts, Unseen, Done };
+    bool draw();
+    void finishOne();
+    void finishPart();
+    void next();
+    void addParts(int branch);
+    void findPartsToHide();
+    void sumUp();
+    void show();
+
+    SoRef<SoNode> m_root;
+    SoRef<SoCamera> m_camera;
+    int m_width;
+    int m_height;
+    SoHiding m_hiding;
+    SoFrameLog m_log;
+    SoOffscreenRenderer m_renderer;
+    SoPixels m_pixels;
+    std::vector<unsigned char> m_whole; // the picture of all
+    SoCosts m_costs;
+    Stage m_stage = Stage::Whole;
+    std::deque<int> m_waiting; // branches
+    int m_branch = 0;          // that is drawn
+    int m_drawn = 0;           // pictures of it
+    int m_numAsked = 0;
+    int m_numDone = 0;
+    std::vector<std::uint64_t> m_frames; // of the branch that is drawn
+    double m_emptyProcessor = 0;
+    double m_emptyGraphics = 0;
+};
