@@ -70,8 +70,9 @@ SoNode* makeStones(int count)
     stone->radius.setValue(0.2F);
     for (int i = 0; i < count; ++i) {
         auto* place = new SoSeparator;
-        place->addChild(makePlace(
-            {2.0F * static_cast<float>(i % side - side / 2), -2, -2.0F * static_cast<float>(i / side)}));
+        const int column = i % side - side / 2;
+        const int row = i / side;
+        place->addChild(makePlace({2.0F * static_cast<float>(column), -2, -2.0F * static_cast<float>(row)}));
         place->addChild(stone.get());
         stones->addChild(place);
     }
