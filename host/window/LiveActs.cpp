@@ -77,8 +77,8 @@ LiveActs::LiveActs(QMenu& menu, const Parts& parts)
     , m_picture(new LivePicture(parts.view))
 {
     m_picture->hide();
-    menu.addAction(tr("A&ttach to a Program…"), this, &LiveActs::askForProgram)
-        ->setObjectName(QStringLiteral("attachAction"));
+    m_attach = menu.addAction(tr("A&ttach to a Program…"), this, &LiveActs::askForProgram);
+    m_attach->setObjectName(QStringLiteral("attachAction"));
     m_detach = menu.addAction(tr("&Detach"), this, &LiveActs::detach);
     m_detach->setObjectName(QStringLiteral("detachAction"));
     m_takeBack = menu.addAction(tr("Take My Changes &Back"), this, &LiveActs::takeBack);

@@ -51,6 +51,7 @@ public:
     /// All must outlive it. Puts its entries into the menu.
     LiveActs(QMenu& menu, const Parts& parts);
     ~LiveActs() override;
+    QAction* getAttachAction() const { return m_attach; }
 
     /// By part of a name, a number or the path of a socket; by nothing, the only program there is.
     void attach(const QString& word);
@@ -108,6 +109,7 @@ private:
     Changes m_kept; // of a program that has ended
     QString m_keptName;
     qint64 m_keptProcess = 0;
+    QAction* m_attach;
     QAction* m_detach;
     QAction* m_takeBack;
     QAction* m_look;

@@ -66,11 +66,6 @@ void Welcome::addTo(QMenu& menu)
     menu.addActions({m_pageAction, m_tourAction});
 }
 
-void Welcome::addAct(QAction& act)
-{
-    m_page->addAct(act);
-}
-
 void Welcome::enterInteractiveMode()
 {
     m_isInteractive = true;

@@ -39,8 +39,6 @@ public:
     void addTo(QMenu& menu);
     /// A user works with the window from now on.
     void enterInteractiveMode();
-    /// One more act of the start page.
-    void addAct(QAction& act);
 
     StartPage& page() { return *m_page; }
     Tour& tour() { return *m_tour; }

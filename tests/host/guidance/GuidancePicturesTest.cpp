@@ -23,6 +23,8 @@ protected:
     static void keep(const char* name, QWidget& widget)
     {
         settle();
+        if (auto* whole = qobject_cast<QMainWindow*>(&widget))
+            whole->statusBar()->clearMessage(); // which names a folder of this machine
         const QImage picture = widget.grab().toImage();
         EXPECT_FALSE(picture.isNull());
         const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
