@@ -9,6 +9,7 @@
 #include "Ratios.h"
 
 #include "panel/PanelEditor.h"
+#include "panel/PinnedPanels.h"
 #include "support/TestHost.h"
 
 #include <xsg/fields/SoSFFloat.h>
@@ -79,7 +80,8 @@ struct Panel {
 
     TestHost host;
     SoRef<SoMaterial> first{new SoMaterial};
-    inspector::PanelEditor editor;
+    inspector::PinnedPanels pins;
+    inspector::PanelEditor editor{pins};
 };
 
 void select(benchmark::State& state)
