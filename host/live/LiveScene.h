@@ -132,13 +132,13 @@ private:
     std::unordered_map<live::NodeId, LiveNode*> m_nodes;
     std::unordered_set<LiveNode*> m_unnumbered; // the root, and what stands for a node within itself
     LiveEdits m_edits;
-    NodeRef m_root;
     State m_state = State::Attached;
     QString m_end;
     bool m_isApplying = false;
     std::list<LiveNode*> m_shown; // their values are watched; the latest first
     std::list<Waiting> m_waiting;
     live::NodeId m_marked = 0;
+    NodeRef m_root; // which notifies the scene as soon as it has a name
 };
 
 } // namespace scopix
