@@ -9,9 +9,11 @@ namespace osgViewer
 class ViewerBase
 {
 public:
-    virtual ~ViewerBase() = default;
+    virtual ~ViewerBase();
     virtual void frame(double) { std::puts("fine"); }
 };
+
+ViewerBase::~ViewerBase() = default; // not inline, so that what the class is called is in the program
 
 } // namespace osgViewer
 
