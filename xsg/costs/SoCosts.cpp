@@ -65,10 +65,11 @@ private:
         if (isNew)
             known->second = sizeOf(*shape);
         const MeshSize& mesh = known->second;
+        const auto newBytes = isNew ? mesh.bytes : 0;
         forEachOpen(row, [&](SoBranchCost& branch) {
             branch.shapes += copies;
             branch.triangles += mesh.triangles * copies;
-            branch.meshBytes += isNew ? mesh.bytes : 0;
+            branch.meshBytes += newBytes;
             branch.smallShapes += mesh.triangles < SmallShape ? copies : 0;
         });
     }
