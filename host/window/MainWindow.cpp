@@ -394,7 +394,8 @@ void MainWindow::makeGuidance()
     m_editMenu->addAction(m_settings->getAction());
     m_palette = new PaletteActs(*this, *m_tree, m_services, *m_settings);
     m_helpMenu->insertAction(m_helpMenu->actions().value(0), m_palette->getAction());
-    m_welcome = new Welcome({*this, *m_view, *m_tree, m_files, m_services}, {m_openAction, m_live->getAttachAction()});
+    m_welcome = new Welcome({*this, *m_view, *m_tree, m_files, m_services},
+                            {m_openAction, m_live->getAttachAction()});
     m_welcome->addTo(*m_helpMenu);
 }
 
