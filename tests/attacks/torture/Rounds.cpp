@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 #include <cstring>
 #include <sys/stat.h>
@@ -193,6 +194,8 @@ void Round::check(const Ended& ended)
     // What is opened may leave out things of several kinds, each told in a line.
     expect(ended.status == 0 || ended.said.size() <= 1,
            "it says more than a sentence: " + ended.said.join(" | "));
+    expect(QSet<QString>(ended.said.begin(), ended.said.end()).size() == ended.said.size(),
+           "it says the same twice: " + ended.said.join(" | "));
     expect(IsInstrumented || ended.memory < MostMemory,
            QStringLiteral("it took %1 MiB").arg(ended.memory >> 20));
     expect(!ended.leftChildren, "it left a process behind");
