@@ -193,7 +193,7 @@ TEST_F(LiveWindow, CountsWhatTheProgramMadeOfAnEditAsPartOfIt)
     EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
     services.undoStack().redo();
     EXPECT_TRUE(wait([&] { return radius() == 10; }));
-    EXPECT_TRUE(mars->remarkOn(shown).isEmpty());
+    EXPECT_TRUE(wait([&] { return mars->remarkOn(shown).isEmpty(); }));
 }
 
 TEST_F(LiveWindow, PutsBackWhatTheProgramRefuses)
