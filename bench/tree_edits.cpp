@@ -76,10 +76,16 @@ struct Scene {
     ScenePanel panel;
 };
 
+/// By their number of nodes, until the application ends.
+std::map<std::int64_t, std::unique_ptr<Scene>>& scenes()
+{
+    static std::map<std::int64_t, std::unique_ptr<Scene>> all;
+    return all;
+}
+
 Scene& scene(const benchmark::State& state)
 {
-    static std::map<std::int64_t, std::unique_ptr<Scene>> scenes;
-    auto& found = scenes[state.range(0)];
+    auto& found = scenes()[state.range(0)];
     if (!found)
         found = std::make_unique<Scene>(static_cast<int>(state.range(0)) / 4, state.range(0) != 999999);
     return *found;
@@ -180,11 +186,13 @@ BENCHMARK(dragAndUndo)->Arg(10000)->Arg(PartsOfAll * 4)->Unit(benchmark::kMicros
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    return bench::run(argc, argv,
-                      {{"delete and undo in 1,000,000 nodes over 10,000", "deleteAndUndo/1000000",
-                        "deleteAndUndo/10000", "small"},
-                       {"paste and undo in 1,000,000 nodes over 10,000", "pasteAndUndo/1000000",
-                        "pasteAndUndo/10000", "small"},
-                       {"drag and undo in 1,000,000 nodes over 10,000", "dragAndUndo/1000000",
-                        "dragAndUndo/10000", "small"}});
+    const int status = bench::run(argc, argv,
+                                  {{"delete and undo in 1,000,000 nodes over 10,000", "deleteAndUndo/1000000",
+                                    "deleteAndUndo/10000", "small"},
+                                   {"paste and undo in 1,000,000 nodes over 10,000", "pasteAndUndo/1000000",
+                                    "pasteAndUndo/10000", "small"},
+                                   {"drag and undo in 1,000,000 nodes over 10,000", "dragAndUndo/1000000",
+                                    "dragAndUndo/10000", "small"}});
+    scenes().clear();
+    return status;
 }
