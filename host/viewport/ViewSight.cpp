@@ -5,9 +5,18 @@
 #include <xsg/values/SbRotation.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace scopix
 {
+
+namespace
+{
+
+// A widget's places are int in many of Qt's calls, and beyond this no float tells one pixel from the next.
+constexpr double FarthestPlace = 1 << 24;
+
+} // namespace
 
 ViewSight::ViewSight(const SoCamera& camera, const QSizeF& size)
     : m_size(std::max(1.0, size.width()), std::max(1.0, size.height()))
@@ -39,7 +48,9 @@ std::optional<QPointF> ViewSight::toScreen(const SbVec3f& world) const
     const SbVec3f from = world - m_eye;
     const auto x = static_cast<double>(from.dot(m_right) / (depth * m_halfWidth));
     const auto y = static_cast<double>(from.dot(m_up) / (depth * m_halfHeight));
-    return QPointF((x + 1) / 2 * m_size.width(), (1 - y) / 2 * m_size.height());
+    const QPointF place((x + 1) / 2 * m_size.width(), (1 - y) / 2 * m_size.height());
+    const bool isNear = std::abs(place.x()) <= FarthestPlace && std::abs(place.y()) <= FarthestPlace;
+    return isNear ? std::optional<QPointF>(place) : std::nullopt;
 }
 
 SbRay ViewSight::getRay(const QPointF& place) const

@@ -23,7 +23,7 @@ public:
 
     const QSizeF& getSize() const { return m_size; }
     bool isParallel() const { return m_isParallel; }
-    /// Nothing for what is not before the eye.
+    /// Nothing for what is not before the eye, or millions of pixels beside the widget.
     std::optional<QPointF> toScreen(const SbVec3f& world) const;
     /// What is seen at this place lies along it; it starts at the eye, or at a parallel view's near plane.
     /// Its direction has the length 1.

@@ -160,7 +160,10 @@ TEST_F(Tools, SeeThroughTheViewsCamera)
     const auto beside = sight.toScreen(sight.getRight() * (10 * pixel));
     ASSERT_TRUE(beside);
     EXPECT_NEAR(beside->x() - sight.toScreen({0, 0, 0})->x(), 10, 1e-2);
-    EXPECT_FALSE(sight.toScreen(view.getCamera().position.getValue() - view.getCamera().getDirection()));
+    const SbVec3f eye = view.getCamera().position.getValue();
+    EXPECT_FALSE(sight.toScreen(eye - view.getCamera().getDirection()));
+    // What lies beside the eye, and hardly before it, has no place that a widget could be asked about.
+    EXPECT_FALSE(sight.toScreen(eye + sight.getRight() * 1000.0F + view.getCamera().getDirection() * 0.01F));
 }
 
 } // namespace
