@@ -9,6 +9,10 @@
 #include "reader/MemoryLimit.h"
 
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
+#include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
@@ -128,7 +132,45 @@ std::size_t count(SoNode& scene)
     return search.apply(&scene).size();
 }
 
-// What was exported is there again: every point in its place, as far as numbers in a file keep that.
+// Every point in its place, as far as numbers in a file keep that.
+void comparePoints(SoNode& scene, SoNode& copy)
+{
+    const FlatScene before = flatten(scene);
+    const FlatScene after = flatten(copy);
+    ASSERT_EQ(before.meshes.size(), after.meshes.size());
+    const float tolerance =
+        1e-5F * std::max(boxOf(before).getSize().length(), boxOf(before).getMax().length());
+    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
+        const SoGeometry& mine = before.meshes[i].geometry;
+        const SoGeometry& theirs = after.meshes[i].geometry;
+        ASSERT_EQ(mine.index.size(), theirs.index.size());
+        for (std::size_t k = 0; k < mine.index.size(); ++k)
+            ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
+    }
+}
+
+// Clips move the copy as they move the scene.
+void compareMotion(SoNode& scene, SoNode& copy)
+{
+    const auto clips = SoAnimation::findBelow(scene);
+    const auto copies = SoAnimation::findBelow(copy);
+    ASSERT_EQ(clips.size(), copies.size());
+    EXPECT_EQ(count<SoTrack>(scene), count<SoTrack>(copy));
+    EXPECT_EQ(count<SoSkin>(scene), count<SoSkin>(copy));
+    EXPECT_EQ(count<SoMorph>(scene), count<SoMorph>(copy));
+    for (std::size_t i = 0; i < clips.size(); ++i) {
+        SCOPED_TRACE("clip " + std::to_string(i));
+        for (const double share : {0.0, 0.37, 1.0}) {
+            clips[i]->goTo(share * clips[i]->getDuration());
+            copies[i]->goTo(share * clips[i]->getDuration());
+            comparePoints(scene, copy);
+        }
+        clips[i]->stop();
+        copies[i]->stop();
+    }
+}
+
+// What was exported is there again.
 void checkCopy(SoNode& scene)
 {
     const QTemporaryDir folder;
@@ -145,15 +187,8 @@ void checkCopy(SoNode& scene)
               count<SoLight>(scene));
     EXPECT_EQ(count<SoCamera>(*copy.scene), count<SoCamera>(scene));
     EXPECT_EQ(before.materials.size(), after.materials.size());
-    const float tolerance =
-        1e-5F * std::max(boxOf(before).getSize().length(), boxOf(before).getMax().length());
-    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
-        const SoGeometry& mine = before.meshes[i].geometry;
-        const SoGeometry& theirs = after.meshes[i].geometry;
-        ASSERT_EQ(mine.index.size(), theirs.index.size());
-        for (std::size_t k = 0; k < mine.index.size(); ++k)
-            ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
-    }
+    comparePoints(scene, *copy.scene);
+    compareMotion(scene, *copy.scene);
 }
 
 void check(const QString& path)
