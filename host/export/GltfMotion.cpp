@@ -118,7 +118,8 @@ private:
             ++m_content.leftOut[lostKind(*mesh.morph)];
     }
 
-    int makeSkin(const SoSkin& from, const SbMatrix& meshToWorld)
+    // Adds nodes, so that references to places do not last.
+    int makeSkin(const SoSkin& from, const SbMatrix meshToWorld)
     {
         const std::vector<SbMatrix> places = from.getBonePlaces();
         const std::vector<int> bones = bonesInUse(from);
