@@ -9,12 +9,16 @@
 #include "reader/MemoryLimit.h"
 
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/animation/SoAnimation.h>
 #include <xsg/nodes/animation/SoMorph.h>
 #include <xsg/nodes/animation/SoSkin.h>
 #include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/lights/SoLight.h>
+#include <xsg/nodes/properties/SoMaterialTexture.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 
 #include <assimp/Importer.hpp>
@@ -124,12 +128,21 @@ SbBox3f boxOf(const FlatScene& scene)
 }
 
 template <class Node>
-std::size_t count(SoNode& scene)
+std::vector<const Node*> all(SoNode& scene)
 {
     SoSearchAction search;
     search.setType(Node::getClassTypeId());
     search.setLimit(-1);
-    return search.apply(&scene).size();
+    std::vector<const Node*> nodes;
+    for (const SoPath& path : search.apply(&scene))
+        nodes.push_back(static_cast<const Node*>(path.getTail()));
+    return nodes;
+}
+
+template <class Node>
+std::size_t count(SoNode& scene)
+{
+    return all<Node>(scene).size();
 }
 
 // Every point in its place, as far as numbers in a file keep that.
@@ -147,6 +160,51 @@ void comparePoints(SoNode& scene, SoNode& copy)
         for (std::size_t k = 0; k < mine.index.size(); ++k)
             ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
     }
+}
+
+std::string textOf(const SoNode& node)
+{
+    return SoSceneFile::writeText(const_cast<SoNode*>(&node));
+}
+
+void comparePictures(const SoTexture2* mine, const SoTexture2* theirs)
+{
+    ASSERT_EQ(mine != nullptr, theirs != nullptr);
+    if (!mine)
+        return;
+    EXPECT_TRUE(mine->image.isSame(theirs->image));
+    EXPECT_EQ(mine->wrapS.getValue(), theirs->wrapS.getValue());
+    EXPECT_EQ(mine->wrapT.getValue(), theirs->wrapT.getValue());
+}
+
+// What is physically based looks the same; other materials become such ones.
+void compareMaterials(const FlatScene& before, const FlatScene& after)
+{
+    ASSERT_EQ(before.materials.size(), after.materials.size());
+    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
+        const ExportedMaterial& mine = before.materials[before.meshes[i].material];
+        const ExportedMaterial& theirs = after.materials[after.meshes[i].material];
+        comparePictures(mine.texture, theirs.texture);
+        if (!mine.physical)
+            continue;
+        ASSERT_TRUE(theirs.physical);
+        if (!mine.isColored)
+            EXPECT_EQ(textOf(*mine.physical), textOf(*theirs.physical));
+        ASSERT_EQ(mine.textures.size(), theirs.textures.size());
+        for (std::size_t use = 0; use < mine.textures.size(); ++use)
+            comparePictures(mine.textures[use], theirs.textures[use]);
+    }
+}
+
+void compareSurroundings(SoNode& scene, SoNode& copy)
+{
+    const auto mine = all<SoEnvironmentLight>(scene);
+    const auto theirs = all<SoEnvironmentLight>(copy);
+    if (mine.empty())
+        return; // the copy has physically based materials, and so has surroundings
+    ASSERT_EQ(mine.size(), theirs.size());
+    for (std::size_t i = 0; i < mine.size(); ++i)
+        EXPECT_EQ(textOf(*mine[i]), textOf(*theirs[i]));
 }
 
 // Clips move the copy as they move the scene.
@@ -186,7 +244,8 @@ void checkCopy(SoNode& scene)
     EXPECT_EQ(count<SoLight>(*copy.scene) + std::size_t(before.leftOut.value("ambient lights")),
               count<SoLight>(scene));
     EXPECT_EQ(count<SoCamera>(*copy.scene), count<SoCamera>(scene));
-    EXPECT_EQ(before.materials.size(), after.materials.size());
+    compareMaterials(before, after);
+    compareSurroundings(scene, *copy.scene);
     comparePoints(scene, *copy.scene);
     compareMotion(scene, *copy.scene);
 }
