@@ -140,6 +140,14 @@ unsigned countWithoutCoordinates(const aiMaterial& material)
     }));
 }
 
+void setCoordinates(aiMaterial& material, int use, int coordinates)
+{
+    for (const Slot& slot : Slots) {
+        if (slot.use == use)
+            material.AddProperty(&coordinates, 1, AI_MATKEY_UVWSRC(slot.type, slot.index));
+    }
+}
+
 ModelData::PhysicalSurface physicalSurfaceOf(const aiMaterial& material)
 {
     ModelData::PhysicalSurface surface;

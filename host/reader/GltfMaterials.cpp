@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "reader/GltfText.h"
+#include "reader/GltfMaterials.h"
 
 #include "model/ModelData.h"
+#include "reader/PhysicalMaterial.h"
 
-#include <QFile>
+#include <assimp/scene.h>
+
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -17,8 +17,6 @@ namespace scopix
 
 namespace
 {
-
-constexpr qint64 LargestText = 64 << 20; // what is larger is not looked into
 
 constexpr const char* Strength = "KHR_materials_emissive_strength";
 constexpr const char* Transform = "KHR_texture_transform";
@@ -58,10 +56,15 @@ SbVec2f pairOf(const QJsonValue& value, const SbVec2f& otherwise)
                : otherwise;
 }
 
+QJsonObject transformOf(const QJsonObject& texture)
+{
+    return find(texture, "extensions").value(QLatin1String(Transform)).toObject();
+}
+
 // The file counts from a picture's top, the scene from its bottom.
 void readTransform(const QJsonObject& texture, ModelData::SurfacePicture& picture)
 {
-    const QJsonObject transform = find(texture, "extensions").value(QLatin1String(Transform)).toObject();
+    const QJsonObject transform = transformOf(texture);
     if (transform.isEmpty())
         return;
     const SbVec2f offset = pairOf(transform.value(QLatin1String("offset")), {0, 0});
@@ -75,28 +78,24 @@ void readTransform(const QJsonObject& texture, ModelData::SurfacePicture& pictur
 
 } // namespace
 
-// A binary file has the text in its first chunk, behind two headers.
-QByteArray readGltfText(QFile& file)
+void takeCoordinateSets(const QJsonObject& text, aiScene& scene)
 {
-    constexpr int Headers = 20;
-    const QByteArray head = file.peek(Headers);
-    if (!head.startsWith("glTF"))
-        return file.read(LargestText);
-    file.skip(Headers);
-    const auto size = head.size() == Headers ? qFromLittleEndian<quint32>(head.constData() + 12) : 0;
-    return file.read(std::min<qint64>(size, LargestText));
+    const QJsonArray materials = text.value(QLatin1String("materials")).toArray();
+    const auto count = std::min(static_cast<unsigned>(materials.size()), scene.mNumMaterials);
+    for (unsigned i = 0; i < count; ++i) {
+        for (int use = 0; use < static_cast<int>(std::size(Places)); ++use) {
+            const QJsonValue set =
+                transformOf(find(materials.at(static_cast<int>(i)).toObject(), Places[use]))
+                    .value(QLatin1String("texCoord"));
+            if (set.isDouble())
+                setCoordinates(*scene.mMaterials[i], use, std::max(set.toInt(), 0));
+        }
+    }
 }
 
-void readMaterialExtensions(const QString& path, ModelData& model)
+void readMaterialExtensions(const QJsonObject& text, ModelData& model)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray text = readGltfText(file);
-    if (!text.contains(Strength) && !text.contains(Transform))
-        return;
-    const QJsonArray materials =
-        QJsonDocument::fromJson(text).object().value(QLatin1String("materials")).toArray();
+    const QJsonArray materials = text.value(QLatin1String("materials")).toArray();
     const auto count = std::min(static_cast<std::size_t>(materials.size()), model.materials.size());
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject material = materials.at(static_cast<int>(i)).toObject();
