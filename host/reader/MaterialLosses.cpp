@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reader/MaterialLosses.h"
 
+#include "reader/Opacity.h"
 #include "reader/Sentences.h"
 
 #include <assimp/material.h>
@@ -91,6 +92,11 @@ bool isGlossyMetal(const aiMaterial& material, const Property& /*property*/)
     return numberOf(material, "$clr.specular") > 0;
 }
 
+bool isInvisible(const aiMaterial& material, const Property& /*property*/)
+{
+    return isSaidInvisible(material);
+}
+
 struct Loss {
     const char* key;
     bool (*matters)(const aiMaterial& material, const Property& property);
@@ -101,6 +107,8 @@ struct Loss {
 const std::vector<Loss>& losses()
 {
     static const std::vector<Loss> all{
+        {"$mat.opacity", isInvisible, "1 material, of which nothing would be seen, is shown opaque.",
+         "%1 materials, of which nothing would be seen, are shown opaque."},
         {"$mat.shadingm", isUnlit, "1 material is to be shown without light, and is lit.",
          "%1 materials are to be shown without light, and are lit."},
         {"$mat.wireframe", isNotZero, "1 material is to be drawn as lines, and is drawn as a surface.",
@@ -150,7 +158,6 @@ const char* const Known[] = {"?mat.name",
                              "$mat.gltf.",
                              "$mat.illum",
                              "$mat.metallicFactor",
-                             "$mat.opacity",
                              "$mat.roughnessFactor",
                              "$mat.sheen.",
                              "$mat.shininess",

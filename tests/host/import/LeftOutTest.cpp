@@ -201,21 +201,33 @@ TEST_F(LeftOut, CountsCoordinatesAndColoursOfPoints)
               "How transparent the points of 1 mesh are is left out.");
 }
 
+TEST_F(LeftOut, IsAMaterialThatWouldNeverBeSeen)
+{
+    const QByteArray mesh = "mtllib glass.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl glass\nf 1 2 3\n";
+    const QString path = files.write("glass.obj", mesh);
+    files.write("glass.mtl", "newmtl glass\nd 0.25\n");
+    EXPECT_EQ(notesOf(path), "");
+    EXPECT_EQ(readModel(path).data.materials.back().transparency, 0.75F);
+    files.write("glass.mtl", "newmtl glass\nd 0\n");
+    EXPECT_EQ(notesOf(path), "1 material, of which nothing would be seen, is shown opaque.");
+    EXPECT_EQ(readModel(path).data.materials.back().transparency, 0);
+}
+
 // The transform may say anew which coordinates a picture has.
 TEST_F(LeftOut, IsNoTransformOfAPicture)
 {
     QImage(2, 2, QImage::Format_RGB32).save(files.path("a.png"));
     QJsonObject gltf = triangle();
-    gltf["materials"] =
-        QJsonArray{json(R"([{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0, "texCoord": 1,
-                 "extensions": {"KHR_texture_transform": {"texCoord": 0, "scale": [2, 2]}}}}}])"),
-                   json(R"([{}])")};
+    gltf["materials"] = QJsonArray{
+        json(R"([{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0}}, "emissiveTexture": {"index": 0,
+                 "extensions": {"KHR_texture_transform": {"texCoord": 1, "scale": [2, 2]}}}}])"),
+        json(R"([{}])")};
     const float corners[9] = {0, 0, 0, 1, 0, 0, 0, 1, 0};
     files.write("triangle.bin", QByteArray(reinterpret_cast<const char*>(corners), sizeof corners));
     const ModelReadResult model = readModel(files.write("model.gltf", QJsonDocument(gltf).toJson()));
-    ASSERT_EQ(model.data.materials[0].pictures.size(), 1U);
-    EXPECT_EQ(model.data.materials[0].pictures[0].coordinates, 0);
-    EXPECT_EQ(model.data.materials[0].pictures[0].scaleFactor, SbVec2f(2, 2));
+    ASSERT_EQ(model.data.materials[0].pictures.size(), 2U);
+    EXPECT_EQ(model.data.materials[0].pictures[1].coordinates, 1);
+    EXPECT_EQ(model.data.materials[0].pictures[1].scaleFactor, SbVec2f(2, 2));
 }
 
 TEST_F(LeftOut, NamesMissingPictures)
