@@ -11,6 +11,8 @@
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
+#include "viewport/SceneView.h"
+#include "viewport/ToneMappingNames.h"
 #include <xsg/core/SoPreferences.h>
 
 #include <QAbstractButton>
@@ -138,6 +140,8 @@ void HostSession::start(const CommandLine& line)
     m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
         SoPreferences::setValue(CounterSwitch, "1");
+    if (const auto toneMapping = toneMappingNamed(line.toneMapping))
+        m_window->findChild<SceneView*>()->setToneMapping(*toneMapping);
     // Switched off, the counters can only say how they are switched on, which is worth no place in the
     // window.
     if (!SoPreferences::getBool(CounterSwitch, false))

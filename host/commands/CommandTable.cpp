@@ -109,7 +109,10 @@ const std::vector<Command>& allCommands()
            "The path of a camera of the scene, all, front, back, left, right, top or bottom. "
            "At first the first camera of the scene, or all."},
           {"frames", "N", "Draws N pictures, OUT-0001 and so on, 1/30 of a second apart."},
-          {"background", "COLOR", "Three numbers from 0 to 1; \"0 0 0\" is black."}},
+          {"background", "COLOR", "Three numbers from 0 to 1; \"0 0 0\" is black."},
+          {"tone-mapping", "KIND",
+           "How light that is brighter than white comes into the picture: none, neutral or filmic; "
+           "neutral at first."}},
          {{"scopix picture lamp.xsg lamp.png", "as the scene's camera sees it"},
           {"scopix picture lamp.xsg lamp.png --size 400x300 --camera top", "everything, from above"},
           {"scopix picture lamp.xsg turn.png --size 80x60 --frames 3", "turn-0001.png to turn-0003.png"}},

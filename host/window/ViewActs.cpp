@@ -6,6 +6,7 @@
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
+#include "viewport/ToneMappingNames.h"
 
 #include <QActionGroup>
 #include <QMenu>
@@ -24,6 +25,11 @@ QString sizeBoxKey()
 QString hoverKey()
 {
     return QStringLiteral("showHover");
+}
+
+QString toneMappingKey()
+{
+    return QStringLiteral("toneMapping");
 }
 
 bool remembered(const QString& key, bool atFirst)
@@ -104,8 +110,18 @@ void ViewActs::makeToneMappingMenu(QMenu& menu)
         {ToneMapping::None, tr("&None: What Is Brighter than White Is White")},
         {ToneMapping::Neutral, tr("Neu&tral: Bright Light Is Compressed, Colours Stay")},
         {ToneMapping::Filmic, tr("&Filmic: All Is Compressed, as on Film")}};
-    addChoices(menu, "toneMapping", entries, m_view.getToneMapping(),
-               [this](ToneMapping toneMapping) { m_view.setToneMapping(toneMapping); });
+    const QString kept = SettingsFile(UserSettings::windowFile()).value(toneMappingKey()).toString();
+    if (const auto before = toneMappingNamed(kept))
+        m_view.setToneMapping(*before);
+    addChoices(menu, "toneMapping", entries, m_view.getToneMapping(), [this](ToneMapping toneMapping) {
+        m_view.setToneMapping(toneMapping);
+        remember(toneMappingKey(), nameOf(toneMapping));
+    });
+    // The command line may ask for another one.
+    connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
+        const auto present = static_cast<int>(m_view.getToneMapping());
+        menu.actions().at(present)->setChecked(true);
+    });
 }
 
 void ViewActs::makeShowMenu(QMenu& menu)
@@ -157,9 +173,9 @@ void ViewActs::clicked(const SoPath& toShape)
         m_select.click(toShape);
 }
 
-void ViewActs::remember(const QString& key, bool on)
+void ViewActs::remember(const QString& key, const QVariant& value)
 {
-    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, on);
+    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, value);
     if (!problem.isEmpty())
         m_notifier.error(problem);
 }

@@ -190,9 +190,24 @@ TEST_F(Commands, PictureDrawsWithoutADisplay)
     expectRefusal({"picture", "lamp.xsg", "out.png", "--frames", "0"}, "--frames expects a number");
     expectRefusal({"picture", "lamp.xsg", "out.png", "--background", "red"},
                   "--background expects three numbers");
+    expectRefusal({"picture", "lamp.xsg", "out.png", "--tone-mapping", "loud"},
+                  "--tone-mapping expects none, neutral or filmic");
     expectRefusal({"picture", "lamp.xsg", "out.png", "--camera", "/Bulb"}, "is no camera");
     expectRefusal({"picture", "lamp.xsg", "out.txt"}, "expected to end in");
     expectRefusal({"picture", "nowhere.xsg", "out.png"}, "nowhere.xsg");
+}
+
+TEST_F(Commands, PictureMapsBrightLightAsItIsAsked)
+{
+    write("glow.xsg", "#Xsg V1.0 utf8\nSeparator { PhysicalMaterial { emissiveColor: 2 1 0.5 } Cube { } }");
+    QList<QImage> seen;
+    for (const char* kind : {"none", "neutral", "filmic"}) {
+        EXPECT_EQ(run({"picture", "glow.xsg", "out.png", "--size", "40x30", "--tone-mapping", kind}).status,
+                  0);
+        const QImage picture(folder.filePath("out.png"));
+        EXPECT_FALSE(seen.contains(picture)) << kind;
+        seen << picture;
+    }
 }
 
 TEST_F(Commands, PictureDrawsFramesAsTimePasses)

@@ -163,9 +163,13 @@ void comparePoints(SoNode& scene, SoNode& copy)
     }
 }
 
-std::string textOf(const SoNode& node)
+// Names have no blanks there, and nothing is without a name.
+std::string textWithoutName(const SoNode& node)
 {
-    return SoSceneFile::writeText(const_cast<SoNode*>(&node));
+    const SoRef<SoNode> copy(static_cast<SoNode*>(node.getTypeId().createInstance()));
+    for (int i = 0; i < node.getFieldData()->getNumFields(); ++i)
+        copy->getFieldData()->getField(copy.get(), i)->copyFrom(*node.getFieldData()->getField(&node, i));
+    return SoSceneFile::writeText(copy.get());
 }
 
 void comparePictures(const SoTexture2* mine, const SoTexture2* theirs)
@@ -190,7 +194,7 @@ void compareMaterials(const FlatScene& before, const FlatScene& after)
             continue;
         ASSERT_TRUE(theirs.physical);
         if (!mine.isColored) {
-            EXPECT_EQ(textOf(*mine.physical), textOf(*theirs.physical));
+            EXPECT_EQ(textWithoutName(*mine.physical), textWithoutName(*theirs.physical));
         }
         ASSERT_EQ(mine.textures.size(), theirs.textures.size());
         for (std::size_t use = 0; use < mine.textures.size(); ++use)
@@ -206,7 +210,7 @@ void compareSurroundings(SoNode& scene, SoNode& copy)
         return; // the copy has physically based materials, and so has surroundings
     ASSERT_EQ(mine.size(), theirs.size());
     for (std::size_t i = 0; i < mine.size(); ++i)
-        EXPECT_EQ(textOf(*mine[i]), textOf(*theirs[i]));
+        EXPECT_EQ(textWithoutName(*mine[i]), textWithoutName(*theirs[i]));
 }
 
 // Clips move the copy as they move the scene.
@@ -230,7 +234,7 @@ void compareMotion(SoNode& scene, SoNode& copy)
     }
 }
 
-// The box around a scene is that of its points.
+// The box around a scene is about that of its points, however deep these stand in it.
 void checkBox(SoNode& scene)
 {
     const SbBox3f points = boxOf(flatten(scene));
@@ -238,8 +242,8 @@ void checkBox(SoNode& scene)
     ASSERT_EQ(points.isEmpty(), box.isEmpty());
     const float tolerance =
         0.25F * std::max({points.getSize().length(), points.getMin().length(), points.getMax().length()});
-    EXPECT_LE((points.getMin() - box.getMin()).length(), tolerance) << points.getMin()[0] << ' ' << box.getMin()[0];
-    EXPECT_LE((points.getMax() - box.getMax()).length(), tolerance) << points.getMax()[0] << ' ' << box.getMax()[0];
+    EXPECT_LE((points.getMin() - box.getMin()).length(), tolerance);
+    EXPECT_LE((points.getMax() - box.getMax()).length(), tolerance);
 }
 
 // What was exported is there again.
@@ -272,7 +276,6 @@ void check(const QString& path)
     if (outcome.scene) {
         EXPECT_EQ(trianglesIn(outcome.scene.get()), expected);
         checkBox(*outcome.scene);
-        if (!getenv("ONLYBOX"))
         checkCopy(*outcome.scene);
         return;
     }
