@@ -3,13 +3,12 @@
 
 #include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
-#include "import/AnyImport.h"
-#include "model/FileChecks.h"
 #include "structure/BranchCopy.h"
 #include "support/OutputFile.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "window/NodeEditing.h"
+#include "window/OtherFile.h"
 
 #include <xsg/files/SoSceneFile.h>
 
@@ -25,54 +24,29 @@ BranchFiles::BranchFiles(QWidget& window, NodeEditing& editing, UserNotifier& no
     , m_window(window)
     , m_editing(editing)
     , m_notifier(notifier)
+    , m_file(new OtherFile(window, notifier, this))
 {
 }
 
 void BranchFiles::askAndInsert()
 {
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Insert File"), {},
-        tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
+    const QString path = m_file->ask(tr("Insert File"));
     if (!path.isEmpty())
         insert(path);
 }
 
 void BranchFiles::insert(const QString& path)
 {
-    if (m_import)
-        m_import->cancel();
-    const QString error = checkFile(path, SceneDocument::fileExtensions());
-    if (!error.isEmpty())
-        return m_notifier.error(error);
-    m_import = makeImport(path, &m_window, this,
-                          [this, path](const SoRef<SoNode>& scene) { inserted(scene.get(), path); });
-    connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
-        forgetImport();
-        m_notifier.error(sentence);
+    m_file->read(path, [this, path](const SoRef<SoNode>& scene, const QStringList& notes) {
+        for (const QString& note : notes)
+            UserNotifier::note(path, note);
+        inserted(scene.get(), path);
     });
-    connect(m_import, &FileImport::cancelled, this, [this, path] {
-        forgetImport();
-        m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
-    });
-    m_import->start(path);
-}
-
-void BranchFiles::forgetImport()
-{
-    if (m_import)
-        m_import->deleteLater();
-    m_import.clear();
 }
 
 void BranchFiles::inserted(SoNode* root, const QString& path)
 {
     const SoRef<SoNode> kept(root);
-    for (const QString& note : m_import->notes())
-        UserNotifier::note(path, note);
-    forgetImport();
     setPictureFolder(root, QFileInfo(path).absolutePath());
     // Some formats have no names, for which the reader of models puts something in angle brackets.
     if (root->getName().getLength() == 0 || root->getName().getString()[0] == '<')

@@ -5,16 +5,14 @@
 #include "changes/FileComparison.h"
 #include "changes/SceneEdits.h"
 #include "document/SceneDocument.h"
-#include "import/AnyImport.h"
-#include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "window/OtherFile.h"
 #include "window/PatchActs.h"
 #include "window/SceneFiles.h"
 
 #include <QAction>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
@@ -32,7 +30,7 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFil
     , m_services(services)
     , m_files(files)
     , m_document(files.getDocument())
-    , m_notifier(notifier)
+    , m_file(new OtherFile(window, notifier, this))
     , m_edits(new SceneEdits(services.history(), this))
     , m_panel(new ChangesPanel(services))
     , m_patches(new PatchActs(window, services, m_document, *m_panel, notifier, this))
@@ -133,47 +131,21 @@ void SceneChanges::reloadAndReapply()
 
 void SceneChanges::askAndCompare()
 {
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Compare With"), QFileInfo(m_document.getPath()).path(),
-        tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
+    const QString path = m_file->ask(tr("Compare With"), QFileInfo(m_document.getPath()).path());
     if (!path.isEmpty())
         compareWith(path);
 }
 
 void SceneChanges::compareWith(const QString& path)
 {
-    if (m_import)
-        m_import->cancel();
-    const QString error = checkFile(path, SceneDocument::fileExtensions());
-    if (!error.isEmpty())
-        return m_notifier.error(error);
-    m_import = makeImport(path, &m_window, this,
-                          [this, path](const SoRef<SoNode>& scene) { compared(scene.get(), path); });
-    connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
-        forgetImport();
-        m_notifier.error(sentence);
+    m_file->read(path, [this, path](const SoRef<SoNode>& scene, const QStringList& /*notes*/) {
+        compared(scene.get(), path);
     });
-    connect(m_import, &FileImport::cancelled, this, [this, path] {
-        forgetImport();
-        m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
-    });
-    m_import->start(path);
-}
-
-void SceneChanges::forgetImport()
-{
-    if (m_import)
-        m_import->deleteLater();
-    m_import.clear();
 }
 
 void SceneChanges::compared(SoNode* other, const QString& path)
 {
     const SoRef<SoNode> kept(other);
-    forgetImport();
     showEdits();
     m_services.preview().showPresent();
     m_comparison = new FileComparison(m_document.getRoot(), other, QFileInfo(path).fileName(), this);

@@ -18,7 +18,7 @@ namespace scopix
 
 class ChangesPanel;
 class FileComparison;
-class FileImport;
+class OtherFile;
 class PatchActs;
 class HostServices;
 class SceneDocument;
@@ -67,19 +67,17 @@ private:
     void follow();
     void makeMenu();
     void compared(SoNode* other, const QString& path);
-    void forgetImport();
     void showSource();
 
     QMainWindow& m_window;
     HostServices& m_services;
     SceneFiles& m_files;
     SceneDocument& m_document;
-    UserNotifier& m_notifier;
+    OtherFile* m_file;
     SceneEdits* m_edits;
     ChangesPanel* m_panel;
     PatchActs* m_patches;
     QPointer<FileComparison> m_comparison; // null: the edits show
-    QPointer<FileImport> m_import;
     QAction* m_again = nullptr;
     QAction* m_back = nullptr;
     QAction* m_start = nullptr;

@@ -14,6 +14,7 @@
 #include "window/ChangedFileQuestion.h"
 #include "window/DefaultScene.h"
 #include "window/ExportQuestion.h"
+#include "window/OtherFile.h"
 
 #include <QApplication>
 #include <QFile>
@@ -24,19 +25,6 @@
 
 namespace scopix
 {
-
-namespace
-{
-
-QString nameFilter()
-{
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
-}
-
-} // namespace
 
 SceneFiles::SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier)
     : m_window(window)
@@ -164,8 +152,8 @@ void SceneFiles::askForFile()
 {
     if (!confirmDiscard())
         return;
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open"),
-                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path = QFileDialog::getOpenFileName(
+        &m_window, tr("Open"), QFileInfo(m_document.getPath()).path(), OtherFile::nameFilter());
     if (!path.isEmpty())
         open(path);
 }
