@@ -44,7 +44,9 @@ const std::vector<Command>& allCommands()
          "FILE PATH=VALUE...",
          "Gives fields values and saves. A value is what a scene file has, or a formula with units such as "
          "90deg, "
-         "30 cm or x*2, where x is the present value. Where one of them cannot be set, nothing is saved.",
+         "30 cm or x*2, where x is the present value; what each field measures and takes is on the page of "
+         "nodes. A number without a unit is in radians, metres or seconds. Where one of them cannot be set, "
+         "nothing is saved.",
          2,
          Any,
          {Out},

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "fields/ToolTip.h"
 
-#include "fields/Description.h"
 #include "fields/FieldText.h"
 #include "fields/PanelSettings.h"
 
 #include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/core/SoField.h>
 
 #include <QCoreApplication>
@@ -30,7 +30,7 @@ QString number(double value)
 }
 
 // Of angles in what they are stored in: the inputs say what they show.
-QString rangeOf(const Description& description)
+QString rangeOf(const SpxFieldDescription& description)
 {
     QStringList parts;
     if (description.softLow != description.softHigh)
@@ -62,7 +62,7 @@ QString typeOf(const SoField& field)
 
 } // namespace
 
-QString unitOf(const Description& description)
+QString unitOf(const SpxFieldDescription& description)
 {
     if (!description.unit.empty())
         return textOf(description.unit);
@@ -78,7 +78,7 @@ QString unitOf(const Description& description)
     }
 }
 
-QString toolTipOf(const SoField& field, const Description* description)
+QString toolTipOf(const SoField& field, const SpxFieldDescription* description)
 {
     QStringList lines{
         QStringLiteral("<b>%1</b> (%2)").arg(SpxText::toQString(field.getName()), typeOf(field))};
@@ -97,7 +97,7 @@ QString toolTipOf(const SoField& field, const Description* description)
     return lines.join(QStringLiteral("<br>"));
 }
 
-QString spokenMeaningOf(const SoField& field, const Description* description)
+QString spokenMeaningOf(const SoField& field, const SpxFieldDescription* description)
 {
     QStringList parts{typeOf(field)};
     if (description) {

@@ -118,7 +118,7 @@ NumberFormat formatOf(const SoField& field)
             format.hardHigh = access->highest;
         }
     }
-    if (const Description* known = findDescription(field)) {
+    if (const SpxFieldDescription* known = SpxFieldDescription::find(field)) {
         format.softLow = known->softLow;
         format.softHigh = known->softHigh;
         format.hardLow = std::max(format.hardLow, known->hardLow);

@@ -59,6 +59,20 @@ TEST_F(Commands, SetTakesTextsFormulasAndUnits)
     EXPECT_EQ(run({"print", "lamp.xsg", "Glass.diffuseColor"}).out, "[ 0 1 0 ]\n");
 }
 
+TEST_F(Commands, SetKnowsUnitsAndLimitsOfEachField)
+{
+    const auto set = [this](const char* change) { return run({"set", "lamp.xsg", change}).status; };
+    EXPECT_EQ(set("Bulb.radius=0"), 0);
+    EXPECT_EQ(set("Eye.heightAngle=180deg"), 0);
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=-3"}, "it has to be 0 or more.");
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=x-1 cm"}, "it has to be 0 or more.");
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=90deg"}, "deg");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=181deg"}, "it has to be 0 to 3.1415927.");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=4"}, "it has to be 0 to 3.1415927.");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=3 cm"}, "cm");
+    expectRefusal({"set", "lamp.xsg", "Glass.shininess=30 cm"}, "cm");
+}
+
 TEST_F(Commands, SetWritesAnotherFileOrStandardOutput)
 {
     const QByteArray wanted = QByteArray(lamp()).replace("width: 3", "width: 5");

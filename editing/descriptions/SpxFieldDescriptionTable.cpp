@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "fields/Description.h"
+#include "SpxFieldDescription.h"
 
 #include <limits>
-
-namespace inspector
-{
 
 namespace
 {
@@ -16,10 +13,10 @@ constexpr double Degree = Pi / 180;
 
 } // namespace
 
-const std::vector<Description>& allDescriptions()
+const std::vector<SpxFieldDescription>& SpxFieldDescription::getAll()
 {
     // clang-format off
-    static const std::vector<Description> table = {
+    static const std::vector<SpxFieldDescription> table = {
         {"Switch", "whichChild", "", Q::Number, -2, 16, -2, Inf, "",
          "its place, from 0; -1 none, -2 all"},
         {"LevelOfDetail", "center", "", Q::Length, 0, 0, -Inf, Inf, "",
@@ -326,5 +323,3 @@ const std::vector<Description>& allDescriptions()
     // clang-format on
     return table;
 }
-
-} // namespace inspector
