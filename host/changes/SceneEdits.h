@@ -74,9 +74,11 @@ private:
         quint64 version = 0;
         qint64 time = 0;
         bool isStale = true;
-        bool isNew = true;        // nobody has looked yet whether it differs
-        bool isElsewhere = false; // written by somebody else since
-        int count = -1;           // of a list, as edits left it
+        bool isNew = true;         // nobody has looked yet whether it differs
+        bool isElsewhere = false;  // written by somebody else since
+        bool isConnected = false;  // or disconnected, by an edit
+        SoField* source = nullptr; // which it then followed before; null: none
+        int count = -1;            // of a list, as edits left it
     };
     struct NameEntry {
         SbName before;
@@ -99,6 +101,9 @@ private:
 
     // EditWatch
     void aboutToWrite(SoField& field, int start, int removed) override;
+    // EditWatch and StructureWatch
+    void aboutToConnect(SoField& field) override;
+    // EditWatch
     void aboutToRun() override;
     void hasRun() override;
     // StructureWatch
@@ -113,6 +118,10 @@ private:
     void clear();
     void noticeLater();
 
+    FieldEntry& entryFor(SoField& field);
+    void noteEdit(SoField& field, FieldEntry& entry);
+    void forgetSources(const SoFieldContainer* container);
+    static bool hasOtherSource(const FieldEntry& entry, const SoField& field);
     static bool isLost(const FieldEntry& entry, const SoField& field);
     void compareFields();
     void compareStructure();
@@ -125,6 +134,7 @@ private:
     void makeList();
     const FieldEntry* entryOf(const ChangeKey& key) const;
     const StructureRow* rowOf(const ChangeKey& key) const;
+    QString sourceText(const SoField* source) const;
     ChildrenEdit::Children childrenWithout(const ChildrenEdit& edit, const ChangeKeySet& keys) const;
     std::vector<const ChildrenEdit*> groupsOf(const ChangeKeySet& keys) const;
     bool isPlainPatch(const ChangeKeySet& keys) const;
@@ -139,6 +149,7 @@ private:
     std::function<bool()> m_isHeld;
     std::unordered_map<SoField*, FieldEntry> m_fields;
     std::unordered_map<const SoFieldContainer*, std::vector<SoField*>> m_fieldsOf;
+    std::unordered_set<SoField*> m_connected; // those of them that follow others, or did
     std::unordered_map<SoNode*, NameEntry> m_names;
     std::unordered_map<SoGroup*, GroupEntry> m_groups;
 

@@ -165,6 +165,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
         const QScopedValueRollback<UndoStep*> executing(m_executing, step.get());
         listen();
         const Running running(*this, false);
+        step->tellConnections(*command);
         failure = catchExceptions([&] { command->execute(); });
     }
     listen();

@@ -534,6 +534,8 @@ void MainWindow::openLive(const LiveOrder& order)
 
 void MainWindow::openFile(const QString& path)
 {
+    if (PatchActs::isPatch(path))
+        return emit openFinished(m_changes->getPatches().offer(path));
     m_files.open(path);
 }
 

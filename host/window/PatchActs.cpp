@@ -10,6 +10,8 @@
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
 
+#include <xsg/nodes/groups/SoGroup.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
@@ -84,15 +86,56 @@ void PatchActs::askAndApply()
         apply(path);
 }
 
+// Nothing was opened yet.
+bool PatchActs::isEmpty() const
+{
+    const SoGroup* root = m_document.getRoot() ? m_document.getRoot()->asGroup() : nullptr;
+    return !m_document.getRoot() || (m_document.getPath().isEmpty() && root && root->getNumChildren() == 0);
+}
+
+bool PatchActs::read(const QString& path, xsg::SceneChanges& changes)
+{
+    QString error = readPatch(path, changes);
+    if (error.isEmpty() && isEmpty())
+        error =
+            tr("“%1” is a patch, and no scene is open that it could change: open the one that it was made "
+               "for, then drop the patch on the window or choose File ▸ Apply Patch….")
+                .arg(printable(path));
+    if (!error.isEmpty())
+        m_notifier.error(error);
+    return error.isEmpty();
+}
+
 bool PatchActs::apply(const QString& path)
 {
     xsg::SceneChanges changes;
-    const QString error = readPatch(path, changes);
-    if (error.isEmpty())
-        apply(std::move(changes), QFileInfo(path).fileName());
-    else
-        m_notifier.error(error);
-    return error.isEmpty();
+    if (!read(path, changes))
+        return false;
+    apply(std::move(changes), QFileInfo(path).fileName());
+    return true;
+}
+
+bool PatchActs::offer(const QString& path)
+{
+    xsg::SceneChanges changes;
+    if (!m_notifier.isAttended())
+        return apply(path);
+    if (!read(path, changes))
+        return false;
+    const QString name = QFileInfo(path).fileName();
+    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
+                                tr("Apply the patch “%1” to the scene that is open?").arg(printable(name)),
+                                QMessageBox::Cancel, &m_window);
+    box->setObjectName(QStringLiteral("patchOffer"));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(tr("It has %n change(s). What fits is applied, and can be undone as one step.",
+                               nullptr, static_cast<int>(changes.size())));
+    box->setDefaultButton(box->addButton(tr("&Apply"), QMessageBox::AcceptRole));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QMessageBox::accepted, this,
+            [this, changes = std::move(changes), name] { apply(changes, name); });
+    box->open();
+    return true;
 }
 
 void PatchActs::apply(xsg::SceneChanges changes, const QString& name)

@@ -31,8 +31,10 @@ public:
     void askAndApply();
     /// Of the ticked changes, or of all. False where it cannot be written, which is told.
     bool save(const QString& path);
-    /// False where it cannot be read, which is told.
+    /// False where it cannot be read, or no scene is open, which is told.
     bool apply(const QString& path);
+    /// Asks first, where somebody is there to answer: for a patch that was opened like a scene.
+    bool offer(const QString& path);
     void apply(xsg::SceneChanges changes, const QString& name);
     /// To the clipboard.
     void copy();
@@ -40,6 +42,8 @@ public:
     void copyScene();
 
 private:
+    bool isEmpty() const;
+    bool read(const QString& path, xsg::SceneChanges& changes);
     void put(const QString& text, const QString& sentence);
     void tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits);
 

@@ -4,6 +4,8 @@
 // length.
 #include "ChangeParts.h"
 
+#include <support/RandomWalk.h>
+
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
@@ -25,13 +27,6 @@ constexpr auto Scene = R"(Separator "top" {
 }
 )";
 
-int fromEnvironment(const char* name, int otherwise)
-{
-    bool isSet = false;
-    const int value = qEnvironmentVariableIntValue(name, &isSet);
-    return isSet ? value : otherwise;
-}
-
 class ChangesWalk : public ChangesWindow, public testing::WithParamInterface<bool>
 {
 protected:
@@ -39,14 +34,7 @@ protected:
 
     SoPath randomPath()
     {
-        SoPath path;
-        path.append(window.getScene());
-        while (const SoGroup* group = path.getTail()->asGroup()) {
-            if (group->getNumChildren() == 0 || random(4) == 0)
-                break;
-            path.append(group->getChild(random(group->getNumChildren())));
-        }
-        return path;
+        return ::randomPath(window.getScene(), [this](int below) { return random(below); });
     }
     void editField()
     {
