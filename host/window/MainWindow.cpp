@@ -49,6 +49,7 @@
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
+#include <xsg/paths/ChildTable.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -88,6 +89,14 @@ Theme wantedTheme()
     return themeFromName(fromEnvironment.isEmpty()
                              ? SettingsFile(UserSettings::windowFile()).value(paletteKey()).toString()
                              : fromEnvironment);
+}
+
+// Of a path from the root; null where there is no such place.
+SoNode* findPlace(SoNode* root, const QString& text)
+{
+    const SoScenePath path(text.toStdString());
+    std::string problem;
+    return root && path.isValid() ? xsg::SceneLookup(root).find(path, problem) : nullptr;
 }
 
 // To the first node, from the top, that has this name, or else this type.
@@ -541,7 +550,8 @@ void MainWindow::openFile(const QString& path)
 
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
-    const SoPath path = findNode(getScene(), nodeText);
+    const SoNode* place = nodeText.startsWith(QLatin1Char('/')) ? findPlace(getScene(), nodeText) : nullptr;
+    const SoPath path = place ? m_tree->pathTo(place) : findNode(getScene(), nodeText);
     const SoNode* node = path.getTail();
     if (!node) {
         m_notifier.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));

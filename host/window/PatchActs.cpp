@@ -9,8 +9,7 @@
 #include "services/HostServices.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
-
-#include <xsg/nodes/groups/SoGroup.h>
+#include "window/DefaultScene.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -87,16 +86,16 @@ void PatchActs::askAndApply()
 }
 
 // Nothing was opened yet.
-bool PatchActs::isEmpty() const
+bool PatchActs::hasNoScene() const
 {
-    const SoGroup* root = m_document.getRoot() ? m_document.getRoot()->asGroup() : nullptr;
-    return !m_document.getRoot() || (m_document.getPath().isEmpty() && root && root->getNumChildren() == 0);
+    const bool isUntouched = m_document.getPath().isEmpty() && !m_document.isModified();
+    return !m_document.getRoot() || (isUntouched && isDefaultScene(m_document.getRoot()));
 }
 
 bool PatchActs::read(const QString& path, xsg::SceneChanges& changes)
 {
     QString error = readPatch(path, changes);
-    if (error.isEmpty() && isEmpty())
+    if (error.isEmpty() && hasNoScene())
         error =
             tr("“%1” is a patch, and no scene is open that it could change: open the one that it was made "
                "for, then drop the patch on the window or choose File ▸ Apply Patch….")

@@ -42,7 +42,7 @@ public:
     void copyScene();
 
 private:
-    bool isEmpty() const;
+    bool hasNoScene() const;
     bool read(const QString& path, xsg::SceneChanges& changes);
     void put(const QString& text, const QString& sentence);
     void tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits);

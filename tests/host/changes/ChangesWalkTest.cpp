@@ -4,6 +4,7 @@
 // length.
 #include "ChangeParts.h"
 
+#include <scopix/editing/SpxFieldEdit.h>
 #include <support/RandomWalk.h>
 
 #include <QRandomGenerator>
@@ -36,13 +37,21 @@ protected:
     {
         return ::randomPath(window.getScene(), [this](int below) { return random(below); });
     }
-    void editField()
+    // Null where the node has none.
+    SoField* randomField()
     {
         const SoNode* node = randomPath().getTail();
         const SoFieldData* data = node->getFieldData();
-        if (data->getNumFields() == 0)
+        return data->getNumFields() == 0 ? nullptr : data->getField(node, random(data->getNumFields()));
+    }
+    void editField()
+    {
+        SoField* field = randomField();
+        if (!field)
             return;
-        SoField* field = data->getField(node, random(data->getNumFields()));
+        if (random(6) == 0)
+            return edit(*field,
+                        [&] { SpxFieldEdit::setSource(field, random(3) == 0 ? nullptr : randomField()); });
         edit(*field, [&] {
             auto* list = dynamic_cast<SoMField*>(field);
             if (list && random(2) == 0)
