@@ -8,8 +8,9 @@ class SoNode;
 namespace scopix
 {
 
-/// Is told of what commands do to the structure and the connections of a scene before it happens. At most one is active in the
-/// process; commands ask one pointer whether there is one. It may read, and must not write. GUI thread only.
+/// Is told of what commands do to the structure and the connections of a scene before it happens. At most one
+/// is active in the process; commands ask one pointer whether there is one. It may read, and must not write.
+/// GUI thread only.
 class StructureWatch
 {
 public:
