@@ -109,7 +109,7 @@ HostSession::~HostSession()
     m_notifier.setPrintsPostedErrors(false);
     m_plugins.unloadAll();
     m_services.clearSelection();
-    m_services.history().clear();
+    m_services.history().clearAll();
     m_services.setSceneSource(nullptr);
 }
 

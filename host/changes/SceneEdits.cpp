@@ -51,7 +51,7 @@ SceneEdits::SceneEdits(UndoHistory& history, QObject* parent)
     : ChangeSource(parent)
     , m_history(history)
 {
-    m_history.setWatch(this);
+    listen();
     SoFieldContainer::addDyingCallback(dyingCallback, this);
 }
 
@@ -59,7 +59,13 @@ SceneEdits::~SceneEdits()
 {
     begin(nullptr, {});
     SoFieldContainer::removeDyingCallback(dyingCallback, this);
-    m_history.setWatch(nullptr);
+    if (m_history.getWatch() == this)
+        m_history.setWatch(nullptr);
+}
+
+void SceneEdits::listen()
+{
+    m_history.setWatch(this);
 }
 
 void SceneEdits::begin(SoNode* root, const QString& baselineName)

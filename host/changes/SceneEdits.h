@@ -31,13 +31,15 @@ class SceneEdits : public ChangeSource, private EditWatch, private StructureWatc
     Q_OBJECT
 
 public:
-    /// Its only watch; it must outlive this.
+    /// Becomes its watch; the history must outlive this.
     explicit SceneEdits(UndoHistory& history, QObject* parent = nullptr);
     ~SceneEdits() override;
 
     /// The scene as it is now is what the user starts from; null ends it.
     void begin(SoNode* root, const QString& baselineName);
     SoNode* getRoot() const { return m_root; }
+    /// Hears of the edits from now on, in place of the one that did before.
+    void listen();
     /// What differs is to stay as it was told last while this is true: other values show for a while.
     void setHold(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }
 

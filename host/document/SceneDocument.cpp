@@ -34,13 +34,31 @@ SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
 {
     connect(&services.history(), &UndoHistory::acted, this, &SceneDocument::acted);
-    connect(&services.undoStack(), &QUndoStack::cleanChanged, this, &SceneDocument::stateChanged);
+    connect(&services.undoStack(), &QUndoStack::cleanChanged, this, [this] {
+        if (isInFront())
+            emit stateChanged();
+    });
 }
 
 SceneDocument::~SceneDocument()
 {
     m_services.undoStack().disconnect(this);
     m_services.history().disconnect(this);
+}
+
+void SceneDocument::leave()
+{
+    m_services.preview().showPresent();
+    m_services.clearSelection();
+    m_isInFront = false;
+    m_shelf = m_services.history().shelve();
+}
+
+void SceneDocument::enter()
+{
+    m_services.history().unshelve(m_shelf);
+    m_shelf.reset();
+    m_isInFront = true;
 }
 
 QString SceneDocument::sceneEnding()
@@ -98,7 +116,7 @@ bool SceneDocument::hasSceneFile() const
 
 bool SceneDocument::isModified() const
 {
-    return !m_isExternal && !m_services.undoStack().isClean();
+    return !m_isExternal && !(m_shelf ? m_shelf->isClean() : m_services.undoStack().isClean());
 }
 
 HostPreview& SceneDocument::preview() const
@@ -162,6 +180,8 @@ SceneDocument::FileState SceneDocument::checkFile()
 
 void SceneDocument::acted()
 {
+    if (!isInFront())
+        return;
     ++m_editCount;
     emit edited();
 }

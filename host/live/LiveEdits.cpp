@@ -198,14 +198,14 @@ void LiveEdits::settleChildren(LiveNode& node)
 void LiveEdits::sendChildren()
 {
     const std::vector<NodeRef> groups = std::exchange(m_groups, {});
-    const int index = m_services.undoStack().index();
+    const HistoryPlace place{m_services.history().getNumber(), m_services.undoStack().index()};
     std::vector<Child> removed;
     std::vector<Child> inserted;
     for (const NodeRef& group : groups) {
         if (!group->isRenamed() && compareChildren(group, removed, inserted))
             continue;
         takeChildrenBack(
-            index, LiveScene::tr(
+            place, LiveScene::tr(
                        "Only nodes of “%1” itself can stand in it, and their names are among their fields.")
                        .arg(m_scene.getName()));
         for (const NodeRef& each : groups)
@@ -215,11 +215,11 @@ void LiveEdits::sendChildren()
     for (const Child& each : removed)
         m_scene.getLink().remove(
             each.group->getId(), static_cast<std::uint32_t>(each.index),
-            [=](const live::StructureResult& result) { structureAnswered(each.group, index, result); });
+            [=](const live::StructureResult& result) { structureAnswered(each.group, place, result); });
     for (const Child& each : inserted)
         m_scene.getLink().insert(
             each.group->getId(), static_cast<std::uint32_t>(each.index), each.node,
-            [=](const live::StructureResult& result) { structureAnswered(each.group, index, result); });
+            [=](const live::StructureResult& result) { structureAnswered(each.group, place, result); });
 }
 
 // What went, from the last one on, and what came, from the first one on; false where that cannot be in the
@@ -252,21 +252,23 @@ bool LiveEdits::compareChildren(const NodeRef& node, std::vector<Child>& removed
     return true;
 }
 
-void LiveEdits::structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result)
+void LiveEdits::structureAnswered(const NodeRef& node, const HistoryPlace& place,
+                                  const live::StructureResult& result)
 {
     if (result.done)
         return;
-    takeChildrenBack(historyIndex, LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                                       .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
+    takeChildrenBack(place, LiveScene::tr("“%1” refused to change the children of “%2”: %3")
+                                .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
     m_scene.fetchChildrenAgain(*node);
 }
 
 // The program never had it, so that undoing it is not told to the program either.
-void LiveEdits::takeChildrenBack(int historyIndex, const QString& sentence)
+void LiveEdits::takeChildrenBack(const HistoryPlace& place, const QString& sentence)
 {
     QUndoStack& stack = m_services.undoStack();
     m_scene.takeBack([&] {
-        if (stack.index() == historyIndex && stack.canUndo() && !stack.canRedo())
+        if (m_services.history().getNumber() == place.number && stack.index() == place.index &&
+            stack.canUndo() && !stack.canRedo())
             stack.undo();
     });
     emit m_scene.told(sentence);

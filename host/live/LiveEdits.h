@@ -47,6 +47,11 @@ private:
         live::NodeId node;
     };
 
+    struct HistoryPlace {
+        quint64 number; // of the stack of undo steps
+        int index;      // in it
+    };
+
     void refuse(const NodeRef& node, LiveProperty& property);
     void send(const NodeRef& node, LiveProperty& property);
     void answered(const NodeRef& node, LiveProperty& property, const live::Value& sent,
@@ -59,8 +64,9 @@ private:
 
     void sendChildren();
     bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
-    void structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result);
-    void takeChildrenBack(int historyIndex, const QString& sentence);
+    void structureAnswered(const NodeRef& node, const HistoryPlace& place,
+                           const live::StructureResult& result);
+    void takeChildrenBack(const HistoryPlace& place, const QString& sentence);
 
     LiveScene& m_scene;
     HostServices& m_services;

@@ -238,12 +238,16 @@ void SceneTreeView::showAll()
     if (m_model->isShowingAll())
         return;
     keepSelection([this] { m_model->showAll(); });
-    for (const SoPath& path : m_expandedBefore) {
+    expandPaths(std::exchange(m_expandedBefore, {}));
+}
+
+void SceneTreeView::expandPaths(const std::vector<SoPath>& paths)
+{
+    for (const SoPath& path : paths) {
         const QModelIndex index = m_model->indexOf(path);
         if (index.isValid())
             expand(index);
     }
-    m_expandedBefore.clear();
 }
 
 template <class Change>
@@ -377,8 +381,7 @@ void SceneTreeView::listAgain(Change change)
 {
     const std::vector<SoPath> expanded = expandedPaths();
     keepSelection(change);
-    for (const SoPath& path : expanded)
-        expand(m_model->indexOf(path));
+    expandPaths(expanded);
 }
 
 void SceneTreeView::sortRows(int column, Qt::SortOrder order)

@@ -31,6 +31,9 @@ public:
     /// Starts at the root, with its first level open. Null empties the tree.
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
+    /// The rows that are expanded, and those that stand in them.
+    std::vector<SoPath> expandedPaths() const;
+    void expandPaths(const std::vector<SoPath>& paths);
 
     /// Selects the node's row alone and expands its parents. A row of the same node that is selected already
     /// stays, whichever of its places it is. Emits nothing.
@@ -124,7 +127,6 @@ private:
     QModelIndexList selectedRows() const;
     template <class Change>
     void keepSelection(Change change);
-    std::vector<SoPath> expandedPaths() const;
     static SoPath pathAt(QModelIndex index);
 
     SceneTreeModel* m_model;

@@ -81,7 +81,7 @@ void PluginLoader::unloadAll()
         reportUnload(**library, "unload", catchExceptions([&] { (*library)->plugin()->unload(); }));
     // Deletions that the plug-ins deferred run their code, which is about to leave the process.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_services.history().clear();
+    m_services.history().clearAll();
     m_paths.clear();
     while (!m_libraries.empty()) {
         reportUnload(*m_libraries.back(), "unloadPlugin", m_libraries.back()->unload());

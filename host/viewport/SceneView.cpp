@@ -55,10 +55,21 @@ SceneView::~SceneView() = default;
 
 void SceneView::setScene(SoNode* root)
 {
+    m_camera.setScene(root);
+    sceneSet(root);
+}
+
+void SceneView::setScene(SoNode* root, const ViewCamera::Place& place)
+{
+    m_camera.setScene(root, place);
+    sceneSet(root);
+}
+
+void SceneView::sceneSet(SoNode* root)
+{
     m_root = SoRef<SoNode>(root);
     m_highlight.clear();
     m_sensor.attach(root);
-    m_camera.setScene(root);
     m_tools.sceneChanged();
     redraw();
     animateWhereNeeded();

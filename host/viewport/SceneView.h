@@ -48,6 +48,9 @@ public:
 
     /// Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
+    /// From where it was looked at before.
+    void setScene(SoNode* root, const ViewCamera::Place& place);
+    ViewCamera::Place getPlace() const { return m_camera.getPlace(); }
     /// Marks the nodes in the picture, the last, which is the current one, stronger than the others. They may
     /// be destroyed at any time.
     void setHighlight(const QList<const SoNode*>& nodes);
@@ -168,6 +171,7 @@ protected:
 
 private:
     static void sceneChanged(void* self, SoSensor* sensor);
+    void sceneSet(SoNode* root);
     ViewContent prepare(SoRenderer& renderer);
     void setUp(SoRenderer& renderer) const;
     SbRay rayAt(const QPoint& place) const;

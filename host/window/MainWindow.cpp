@@ -39,6 +39,7 @@
 #include "window/ReloadBar.h"
 #include "window/SceneChanges.h"
 #include "window/SettingsActs.h"
+#include "window/ShownScene.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
@@ -145,8 +146,10 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeGuidance();
     makeToolBar();
     connectSelection();
-    connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
-    connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
+    new ShownScene({m_files.getScenes(), m_notifier, *m_states, *m_scenePanel, *m_view,
+                    m_playback->getPlayback(), m_viewPoints->getMarks()},
+                   this);
+    connect(&m_files.getScenes(), &OpenScenes::stateChanged, this, &MainWindow::showTitle);
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
@@ -158,7 +161,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
     new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
-    new FrameMarks(m_services, m_files.getDocument(), this);
+    new FrameMarks(m_services, m_files, this);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -171,7 +174,7 @@ MainWindow::~MainWindow()
     m_fields->disconnect(this);
     m_view->disconnect(this);
     m_services.disconnect(this);
-    m_files.getDocument().disconnect(this);
+    m_files.getScenes().disconnect();
 }
 
 // No larger than the screen, which on a dense one has few of the pixels that sizes are counted in. Pictures
@@ -203,7 +206,7 @@ void MainWindow::makeDocks()
     showHistoryStart(*history);
     connect(&m_services.history(), &UndoHistory::droppedOldSteps, history,
             [this, history] { showHistoryStart(*history); });
-    connect(&m_files.getDocument(), &SceneDocument::rootChanged, history,
+    connect(&m_files.getScenes(), &OpenScenes::rootChanged, history,
             [this, history] { showHistoryStart(*history); });
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
@@ -270,7 +273,7 @@ void MainWindow::makeEditMenu()
 
 void MainWindow::makeNodeMenu()
 {
-    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_editing = new NodeEditing(m_services, m_files, *m_tree, *m_states, m_notifier, this);
     m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
     QMenu* menu = menuBar()->addMenu(tr("&Node"));
     new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
@@ -500,18 +503,6 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
     else
         setScene(makeDefaultScene().get(), tr("Welcome"));
     return true;
-}
-
-void MainWindow::showScene(SoNode* root)
-{
-    m_states->clear();
-    m_scenePanel->setScene(root);
-    // Pictures made by a script are the same each time; and time in an application's scene is the
-    // application's.
-    m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
-    m_view->setScene(root);
-    m_playback->getPlayback().setScene(m_files.getDocument().isExternal() ? nullptr : root);
-    m_viewPoints->getMarks().setScene(root);
 }
 
 void MainWindow::showTitle()

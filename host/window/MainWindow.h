@@ -119,7 +119,6 @@ private:
                          Qt::DockWidgetArea area);
 
     void openPatch(const QString& path);
-    void showScene(SoNode* root);
     void showTitle();
     void askForScreenshot();
     void showAbout();

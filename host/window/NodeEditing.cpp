@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/NodeEditing.h"
 
-#include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
 #include "panels/BranchMimeData.h"
 #include "panels/SceneTreeView.h"
@@ -10,6 +9,7 @@
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
+#include "window/SceneFiles.h"
 
 #include <scopix/SpxEditedFields.h>
 
@@ -54,16 +54,16 @@ std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
 
 } // namespace
 
-NodeEditing::NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree,
-                         SceneStates& states, UserNotifier& notifier, QObject* parent)
+NodeEditing::NodeEditing(HostServices& services, SceneFiles& files, SceneTreeView& tree, SceneStates& states,
+                         UserNotifier& notifier, QObject* parent)
     : QObject(parent)
     , m_services(services)
-    , m_document(document)
+    , m_files(files)
     , m_tree(tree)
     , m_states(states)
     , m_notifier(notifier)
 {
-    connect(&m_document, &SceneDocument::rootChanged, this, [this] { m_copied.clear(); });
+    connect(&m_files.getScenes(), &OpenScenes::rootChanged, this, [this] { m_copied.clear(); });
     m_services.history().setLock(
         [this](const SoFieldContainer& container) { return m_states.refusalOf(container); });
     connect(&m_services.history(), &UndoHistory::refused, &m_notifier, &UserNotifier::info);
@@ -122,7 +122,7 @@ SoPath NodeEditing::placeForNew() const
     if (!paths.isEmpty())
         return paths.last();
     SoPath path;
-    if (SoNode* root = m_document.getRoot())
+    if (SoNode* root = m_files.getDocument().getRoot())
         path.append(root);
     return path;
 }
@@ -210,7 +210,7 @@ bool NodeEditing::putOnClipboard()
     auto* data = new QMimeData;
     data->setText(QString::fromStdString(writeBranches(tailsOf(m_copied))));
     data->setData(keyType(), m_copiedKey);
-    data->setData(folderType(), QFileInfo(m_document.getPath()).absolutePath().toUtf8());
+    data->setData(folderType(), QFileInfo(m_files.getDocument().getPath()).absolutePath().toUtf8());
     QGuiApplication::clipboard()->setMimeData(data);
     return true;
 }
@@ -237,8 +237,9 @@ std::vector<SoRef<SoNode>> NodeEditing::readText(const QMimeData& data)
     const BranchReading read = readBranches(data.text().toStdString());
     if (read.nodes.empty())
         tell(read.error);
-    const QString folder = data.hasFormat(folderType()) ? QString::fromUtf8(data.data(folderType()))
-                                                        : QFileInfo(m_document.getPath()).absolutePath();
+    const QString folder = data.hasFormat(folderType())
+                               ? QString::fromUtf8(data.data(folderType()))
+                               : QFileInfo(m_files.getDocument().getPath()).absolutePath();
     for (const auto& node : read.nodes)
         setPictureFolder(node.get(), folder);
     return read.nodes;
@@ -269,7 +270,7 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
 {
     using structure::Transfer;
     const auto* branches = qobject_cast<const BranchMimeData*>(&data);
-    if (branches && branches->getPaths().front().getHead() == m_document.getRoot()) {
+    if (branches && branches->getPaths().front().getHead() == m_files.getDocument().getRoot()) {
         const Transfer how = action == Qt::CopyAction   ? Transfer::Copy
                              : action == Qt::LinkAction ? Transfer::Share
                                                         : Transfer::Move;
@@ -328,8 +329,8 @@ void NodeEditing::toggleLocked()
 
 void NodeEditing::makePermanent()
 {
-    const std::vector<SoNode*> hidden = m_states.findHidden(m_document.getRoot());
-    if (perform(structure::switchOff(m_document.getRoot(), hidden)))
+    const std::vector<SoNode*> hidden = m_states.findHidden(m_files.getDocument().getRoot());
+    if (perform(structure::switchOff(m_files.getDocument().getRoot(), hidden)))
         m_states.setHidden(hidden, false);
 }
 

@@ -11,7 +11,7 @@ namespace scopix
 {
 
 class HostServices;
-class SceneDocument;
+class SceneFiles;
 class SceneStates;
 class SceneTreeView;
 class UserNotifier;
@@ -24,7 +24,7 @@ class NodeEditing : public QObject
 
 public:
     /// All must outlive it.
-    NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree, SceneStates& states,
+    NodeEditing(HostServices& services, SceneFiles& files, SceneTreeView& tree, SceneStates& states,
                 UserNotifier& notifier, QObject* parent = nullptr);
 
     ~NodeEditing() override;
@@ -75,7 +75,7 @@ private:
     std::vector<SoRef<SoNode>> readText(const QMimeData& data);
 
     HostServices& m_services;
-    SceneDocument& m_document;
+    SceneFiles& m_files;
     SceneTreeView& m_tree;
     SceneStates& m_states;
     UserNotifier& m_notifier;

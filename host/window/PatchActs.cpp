@@ -5,10 +5,10 @@
 #include "changes/ChangesText.h"
 #include "changes/PatchCommand.h"
 #include "document/PatchFile.h"
-#include "document/SceneDocument.h"
 #include "services/HostServices.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
+#include "window/SceneFiles.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -29,12 +29,12 @@ QString nameFilter()
 
 } // namespace
 
-PatchActs::PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+PatchActs::PatchActs(QWidget& window, HostServices& services, SceneFiles& files, ChangesPanel& panel,
                      UserNotifier& notifier, QObject* parent)
     : QObject(parent)
     , m_window(window)
     , m_services(services)
-    , m_document(document)
+    , m_files(files)
     , m_panel(panel)
     , m_notifier(notifier)
 {
@@ -51,7 +51,8 @@ void PatchActs::askAndSave()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilter(nameFilter());
     dialog.setDefaultSuffix(patchEnding());
-    const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
+    const QFileInfo origin(m_files.getDocument().getPath().isEmpty() ? m_files.getDocument().getTitle()
+                                                                     : m_files.getDocument().getPath());
     dialog.setDirectory(origin.path());
     dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + patchEnding());
     if (dialog.exec() == QDialog::Accepted)
@@ -78,8 +79,8 @@ bool PatchActs::save(const QString& path)
 
 void PatchActs::askAndApply()
 {
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Apply Patch"),
-                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path = QFileDialog::getOpenFileName(
+        &m_window, tr("Apply Patch"), QFileInfo(m_files.getDocument().getPath()).path(), nameFilter());
     if (!path.isEmpty())
         apply(path);
 }
@@ -97,11 +98,11 @@ bool PatchActs::apply(const QString& path)
 
 void PatchActs::apply(xsg::SceneChanges changes, const QString& name)
 {
-    if (m_services.preview().refusesEdit() || !m_document.getRoot())
+    if (m_services.preview().refusesEdit() || !m_files.getDocument().getRoot())
         return;
     auto result = std::make_shared<xsg::PatchResult>();
     m_services.history().endStep();
-    m_services.executeCommand(new PatchCommand(std::move(changes), m_document.getRoot(), result),
+    m_services.executeCommand(new PatchCommand(std::move(changes), m_files.getDocument().getRoot(), result),
                               tr("Apply “%1”").arg(name));
     m_services.history().endStep();
     tell(name, result->applied, result->alreadySo, result->misfits);

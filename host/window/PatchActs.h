@@ -12,7 +12,7 @@ namespace scopix
 
 class ChangesPanel;
 class HostServices;
-class SceneDocument;
+class SceneFiles;
 class UserNotifier;
 
 /// Patches of the open scene: saves changes as one, applies one as one step and lists what did not fit.
@@ -23,7 +23,7 @@ class PatchActs : public QObject
 
 public:
     /// All must outlive it.
-    PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+    PatchActs(QWidget& window, HostServices& services, SceneFiles& files, ChangesPanel& panel,
               UserNotifier& notifier, QObject* parent);
 
     static bool isPatch(const QString& path);
@@ -45,7 +45,7 @@ private:
 
     QWidget& m_window;
     HostServices& m_services;
-    SceneDocument& m_document;
+    SceneFiles& m_files;
     ChangesPanel& m_panel;
     UserNotifier& m_notifier;
 };

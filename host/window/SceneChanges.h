@@ -39,7 +39,8 @@ public:
     ~SceneChanges() override;
 
     ChangesPanel& getPanel() const { return *m_panel; }
-    SceneEdits& getEdits() const { return *m_edits; }
+    /// Of the scene in front.
+    SceneEdits& getEdits() const;
     /// That holds the panel.
     void setDock(QDockWidget* dock);
     /// Brings it up and gives it the focus.
@@ -63,6 +64,8 @@ signals:
     void changed();
 
 private:
+    SceneDocument& document() const;
+    void showFront();
     void start();
     void follow();
     void makeMenu();
@@ -73,9 +76,7 @@ private:
     QMainWindow& m_window;
     HostServices& m_services;
     SceneFiles& m_files;
-    SceneDocument& m_document;
     UserNotifier& m_notifier;
-    SceneEdits* m_edits;
     ChangesPanel* m_panel;
     PatchActs* m_patches;
     QPointer<FileComparison> m_comparison; // null: the edits show

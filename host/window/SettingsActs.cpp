@@ -245,8 +245,7 @@ void SettingsActs::setAutosavePause(int seconds) const
     constexpr int Second = 1000;
     constexpr int WithoutPause = 2;
     const int pause = std::clamp(seconds, 1, LongestPause);
-    m_parts.files.getAutosave().setPause(pause * Second);
-    m_parts.files.getAutosave().setLimit((pause + WithoutPause) * Second);
+    m_parts.files.getScenes().setPause(pause * Second, (pause + WithoutPause) * Second);
 }
 
 // What the View menu switches on and off, extensions' entries included.
