@@ -59,10 +59,10 @@ private:
     HostServices& m_services;
     UserNotifier& m_notifier;
     std::vector<std::unique_ptr<OpenScene>> m_all;
-    OpenScene* m_front = nullptr;
     int m_pauseMs = 0; // 0: as usual
     int m_limitMs = 0;
     bool m_isKeeping = false;
+    OpenScene* m_front;
 };
 
 } // namespace scopix
