@@ -5,12 +5,12 @@
 #include "document/TexturePaths.h"
 #include "import/AnyImport.h"
 #include "model/FileChecks.h"
-#include "structure/BranchCopy.h"
 #include "support/OutputFile.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "window/NodeEditing.h"
 
+#include <xsg/files/BranchCopy.h>
 #include <xsg/files/SoSceneFile.h>
 
 #include <QFile>
@@ -98,7 +98,7 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
 {
     const QString reason = reasonAgainstWriting(path, {SceneDocument::sceneEnding()});
     // A copy, whose names of pictures can be those that lead to them from there.
-    const SoRef<SoNode> copy = reason.isEmpty() ? copyBranch(branch) : SoRef<SoNode>();
+    const SoRef<SoNode> copy = reason.isEmpty() ? xsg::copyBranch(branch) : SoRef<SoNode>();
     if (!copy) {
         m_notifier.error(
             tr("The branch “%1” cannot be written to “%2”: %3.")

@@ -91,6 +91,11 @@ StructureResult OsgAdapter::insert(NodeId parent, std::uint32_t index, NodeId no
     return m_scene.insert(parent, index, node);
 }
 
+StructureResult OsgAdapter::copy(NodeId parent, std::uint32_t index, NodeId node)
+{
+    return m_scene.copy(parent, index, node);
+}
+
 void OsgAdapter::forget(NodeId node)
 {
     m_objects.forget(node);
@@ -159,6 +164,11 @@ std::vector<CounterInfo> OsgAdapter::counters()
 std::vector<double> OsgAdapter::counterValues()
 {
     return m_counters.values();
+}
+
+FrameTable OsgAdapter::takeFrames()
+{
+    return m_counters.takeFrames();
 }
 
 std::vector<Notice> OsgAdapter::takeNotices()

@@ -28,6 +28,7 @@ public:
     StructureResult add(NodeId parent, std::uint32_t index, const std::string& type);
     StructureResult remove(NodeId parent, std::uint32_t index);
     StructureResult insert(NodeId parent, std::uint32_t index, NodeId node);
+    StructureResult copy(NodeId parent, std::uint32_t index, NodeId node);
 
     std::vector<osg::Node*> childrenOf(osg::Object& object) const;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "structure/BranchCopy.h"
+#include <xsg/files/BranchCopy.h>
 
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
@@ -11,7 +11,7 @@
 
 #include <unordered_map>
 
-namespace scopix
+namespace xsg
 {
 
 namespace
@@ -97,4 +97,4 @@ SoRef<SoNode> copyBranch(SoNode* branch)
     return copy;
 }
 
-} // namespace scopix
+} // namespace xsg
