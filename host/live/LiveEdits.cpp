@@ -53,18 +53,35 @@ void LiveEdits::fieldWritten(LiveNode& node, SoField& field)
     m_soon.start(0);
 }
 
-void LiveEdits::flush()
+void LiveEdits::flush(bool all)
 {
     m_soon.stop();
-    for (const Written& each : std::exchange(m_written, {})) {
+    sendValues(all);
+    sendChildren();
+}
+
+void LiveEdits::sendValues(bool all)
+{
+    std::deque<Written> waiting;
+    while (!m_written.empty() && (all || m_isOver || m_numAsked < MostAsked)) {
+        const Written each = m_written.front();
+        m_written.pop_front();
         if (m_isOver)
             refuse(each.node, *each.property);
         else if (each.property->isSent)
-            m_written.push_back(each); // its answer comes first
+            waiting.push_back(each); // its answer comes first
         else
             send(each.node, *each.property);
     }
-    sendChildren();
+    m_written.insert(m_written.begin(), waiting.begin(), waiting.end());
+}
+
+// An answer came: the next ones may go.
+void LiveEdits::goOn()
+{
+    --m_numAsked;
+    if (!m_written.empty())
+        m_soon.start(0);
 }
 
 // The program is gone, and what it had last stays: undoing changes nothing any more either.
@@ -98,6 +115,7 @@ void LiveEdits::send(const NodeRef& node, LiveProperty& property)
     property.isSent = true;
     LiveProperty* sent = &property;
     const live::Value bytes = *value;
+    ++m_numAsked;
     m_scene.getLink().write(node->getId(), property.info.name, bytes,
                             [=](const live::WriteResult& result) { answered(node, *sent, bytes, result); });
 }
@@ -130,6 +148,7 @@ void LiveEdits::answered(const NodeRef& node, LiveProperty& property, const live
                          const live::WriteResult& result)
 {
     property.isSent = false;
+    goOn();
     const live::Value before = property.known;
     const bool isKnown = result.value.kind != live::ValueKind::None;
     if (isKnown)
@@ -213,9 +232,12 @@ void LiveEdits::sendChildren()
         return;
     }
     for (const Child& each : removed)
-        m_scene.getLink().remove(
-            each.group->getId(), static_cast<std::uint32_t>(each.index),
-            [=](const live::StructureResult& result) { structureAnswered(each.group, index, result); });
+        m_scene.getLink().remove(each.group->getId(), static_cast<std::uint32_t>(each.index),
+                                 [=](const live::StructureResult& result) {
+                                     if (result.done)
+                                         m_scene.noteKept(result.node);
+                                     structureAnswered(each.group, index, result);
+                                 });
     for (const Child& each : inserted)
         m_scene.getLink().insert(
             each.group->getId(), static_cast<std::uint32_t>(each.index), each.node,
@@ -247,9 +269,19 @@ bool LiveEdits::compareChildren(const NodeRef& node, std::vector<Child>& removed
             return false;
         inserted.push_back({node, static_cast<int>(i - objects), child->getId()});
     }
-    node->m_told = now;
-    node->m_fetched.assign(now.begin() + static_cast<std::ptrdiff_t>(objects), now.end());
+    noteChildren(*node);
     return true;
+}
+
+// While they are being fetched again, what comes decides, and is asked for once more.
+void LiveEdits::noteChildren(LiveNode& node)
+{
+    node.m_told = node.getChildren();
+    if (node.m_childrenFetched == LiveNode::Fetched::Asked)
+        node.m_isAskedAgain = true;
+    else
+        node.m_fetched.assign(node.m_told.begin() + static_cast<std::ptrdiff_t>(node.m_objects.size()),
+                              node.m_told.end());
 }
 
 void LiveEdits::structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result)

@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include <deque>
 #include <vector>
 
 namespace scopix
@@ -15,20 +16,26 @@ class HostServices;
 
 /// Takes what is written to the nodes of a LiveScene to the program, once a turn of the event loop, and shows
 /// what the program made of it. A write that the program refuses or takes otherwise belongs to the step of
-/// the history that wrote. A field has one write on its way at a time. Part of LiveScene.
+/// the history that wrote. A field has one write on its way at a time, and all of them together so few that
+/// the user can go on looking at the program meanwhile; those that wait may still change. Part of LiveScene.
 class LiveEdits
 {
 public:
+    static constexpr std::size_t MostAsked = 128; // that the program has not answered yet
+
     LiveEdits(LiveScene& scene, HostServices& services);
 
     void fieldWritten(LiveNode& node, SoField& field);
     void childrenWritten(LiveNode& node);
-    /// Sends what waits for the event loop.
-    void flush();
+    /// Sends what waits for the event loop; `all`: also what waits for answers.
+    void flush(bool all = false);
     /// Edits of the children are with the program before it is asked for them.
     void settleChildren(LiveNode& node);
     /// Nothing is sent any more.
     void stop();
+
+    /// The program has the children that the node has now.
+    static void noteChildren(LiveNode& node);
 
     /// A field that shows of a value what this one leaves stands for every bit of it.
     static void keepExact(LiveProperty& property, const live::Value& value);
@@ -57,6 +64,9 @@ private:
 
     static std::vector<std::uint8_t> shownBytes(const LiveProperty& property, const SoField& field);
 
+    bool mayAsk() const { return m_numAsked < MostAsked; }
+    void goOn();
+    void sendValues(bool all);
     void sendChildren();
     bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
     void structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result);
@@ -65,9 +75,10 @@ private:
     LiveScene& m_scene;
     HostServices& m_services;
     LiveChanges m_changes;
-    std::vector<Written> m_written;
+    std::deque<Written> m_written;
     std::vector<NodeRef> m_groups; // whose children were written
     QTimer m_soon;
+    std::size_t m_numAsked = 0; // and not answered yet
     bool m_isOver = false;
 };
 

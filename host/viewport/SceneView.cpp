@@ -219,7 +219,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     setUp(renderer);
-    renderer.setFrameLog(&SoFrameLog::getInstance());
+    renderer.setFrameLog(m_logsFrames ? &SoFrameLog::getInstance() : nullptr);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));

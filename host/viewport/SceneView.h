@@ -75,6 +75,8 @@ public:
     /// stays. Nothing: no plane. What is cut away is not picked either.
     void setClipPlane(const std::optional<SbPlane>& plane);
     const std::optional<SbPlane>& getClipPlane() const { return m_clipPlane; }
+    /// Whether the log of frames gets those of this view; on at first.
+    void setLogsFrames(bool on) { m_logsFrames = on; }
     /// In a corner of the picture, what it took to draw it.
     void setShowsStatistics(bool on);
 
@@ -194,6 +196,7 @@ private:
     ViewTools m_tools;
     QLabel* m_statistics;
     bool m_statisticsAreOld = true;
+    bool m_logsFrames = true;
     bool m_wireframe = false;
     bool m_isAnimated = true;
     QBasicTimer m_ticks; // runs while something turns

@@ -5,6 +5,7 @@
 #include "document/TexturePaths.h"
 #include "panels/BranchMimeData.h"
 #include "panels/SceneTreeView.h"
+#include "panels/TypeChooser.h"
 #include "services/HostServices.h"
 #include "structure/BranchText.h"
 #include "structure/SceneStates.h"
@@ -45,6 +46,41 @@ std::vector<SoNode*> tailsOf(const Paths& paths)
     for (const SoPath& path : paths)
         nodes.push_back(path.getTail());
     return nodes;
+}
+
+bool isMirrored(const SoPath& path)
+{
+    return MirroredNode::of(path.getTail()) != nullptr;
+}
+
+// Into the group at the path, or behind the node there; into the only thing that a program has at its top.
+MirroredAddition placeInProgram(const SoPath& path)
+{
+    const SoGroup* group = path.getTail()->asGroup();
+    if (path.getLength() == 1 && group->getNumChildren() > 0)
+        return placeInProgram(extended(path, group->getChild(0)));
+    if (MirroredNode::of(path.getTail())->canHaveChildren() || path.getLength() == 1)
+        return {path};
+    return {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1};
+}
+
+// Each is told where it stands once those before it are there.
+std::vector<MirroredAddition> oneBehindTheOther(std::vector<MirroredAddition> additions)
+{
+    for (auto at = additions.begin(); at != additions.end(); ++at) {
+        const auto isBefore = [at](const MirroredAddition& each) {
+            return each.parent.getTail() == at->parent.getTail();
+        };
+        if (at->index >= 0)
+            at->index += static_cast<int>(std::count_if(additions.begin(), at, isBefore));
+    }
+    return additions;
+}
+
+QString quotedOrCount(const Paths& paths)
+{
+    return paths.size() == 1 ? QStringLiteral("“%1”").arg(nodeText(*paths.front().getTail()))
+                             : NodeEditing::tr("%1 Nodes").arg(paths.size());
 }
 
 std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
@@ -134,6 +170,9 @@ void NodeEditing::remove()
 
 void NodeEditing::duplicate()
 {
+    const Paths paths = selected();
+    if (!paths.isEmpty() && isMirrored(paths.front()))
+        return duplicateInProgram(topmost(paths, paths.front().getHead()));
     perform(structure::duplicate(selected()));
 }
 
@@ -176,8 +215,27 @@ structure::MakeNode NodeEditing::makerOf(SoType type) const
     };
 }
 
+void NodeEditing::askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer)
+{
+    const SoPath place = placeForNew();
+    if (place.isEmpty() || !isMirrored(place))
+        return answer(TypeChooser::typesToAdd());
+    MirroredNode* parent = MirroredNode::of(placeInProgram(place).parent.getTail());
+    const QString refusal = parent->structureRefusal();
+    if (refusal.isEmpty())
+        parent->askTypesToAdd(answer);
+    tell(refusal);
+}
+
 void NodeEditing::add(SoType type)
 {
+    const SoPath place = placeForNew();
+    if (!place.isEmpty() && isMirrored(place)) {
+        MirroredAddition addition = placeInProgram(place);
+        addition.type = type;
+        addInProgram({addition}, tr("Add %1").arg(typeText(type)));
+        return;
+    }
     insert({makerOf(type)()}, tr("Add %1").arg(toQString(type.getName())));
 }
 
@@ -194,6 +252,45 @@ void NodeEditing::insertAbove(SoType type)
 void NodeEditing::rename(const SoPath& path, const QString& name)
 {
     perform(structure::rename(path, name));
+}
+
+// --- In a running program, which makes what is new itself
+
+bool NodeEditing::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
+{
+    MirroredNode* parent = MirroredNode::of(additions.front().parent.getTail());
+    const QString refusal = parent->structureRefusal();
+    if (refusal.isEmpty())
+        parent->addInProgram(oneBehindTheOther(additions), stepName);
+    tell(refusal);
+    return refusal.isEmpty();
+}
+
+void NodeEditing::duplicateInProgram(const Paths& paths)
+{
+    std::vector<MirroredAddition> additions;
+    for (const SoPath& path : paths) {
+        if (path.getLength() < 3)
+            return tell(tr("“%1” is what the program has at its top, and cannot be duplicated.")
+                            .arg(nodeText(*path.getTail())));
+        additions.push_back(
+            {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1, {}, path.getTail()});
+    }
+    addInProgram(additions, tr("Duplicate %1").arg(quotedOrCount(paths)));
+}
+
+void NodeEditing::pasteInProgram()
+{
+    const SoPath place = placeForNew();
+    if (!holdsOwnCopy(QGuiApplication::clipboard()->mimeData()) || !isMirrored(m_copied.front()))
+        return tell(
+            tr("Only nodes that were copied from this program, in this window, can be pasted into it."));
+    std::vector<MirroredAddition> additions;
+    for (const SoPath& path : m_copied) {
+        additions.push_back(placeInProgram(place));
+        additions.back().copied = path.getTail();
+    }
+    addInProgram(additions, tr("Paste %1").arg(quotedOrCount(m_copied)));
 }
 
 // --- Clipboard
@@ -244,8 +341,16 @@ std::vector<SoRef<SoNode>> NodeEditing::readText(const QMimeData& data)
     return read.nodes;
 }
 
+bool NodeEditing::holdsOwnCopy(const QMimeData* data) const
+{
+    return !m_copied.isEmpty() && data && data->data(keyType()) == m_copiedKey;
+}
+
 void NodeEditing::paste()
 {
+    const SoPath place = placeForNew();
+    if (!place.isEmpty() && isMirrored(place))
+        return pasteInProgram();
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     const auto nodes = data ? readText(*data) : std::vector<SoRef<SoNode>>();
     if (nodes.size() == 1)
@@ -257,7 +362,7 @@ void NodeEditing::paste()
 void NodeEditing::pasteShared()
 {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (m_copied.isEmpty() || !data || data->data(keyType()) != m_copiedKey)
+    if (!holdsOwnCopy(data))
         return tell(
             tr("Only nodes that were copied in this window, in this scene, can be pasted as shared ones."));
     insert(kept(tailsOf(m_copied)), m_copied.size() == 1
@@ -273,6 +378,13 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
         const Transfer how = action == Qt::CopyAction   ? Transfer::Copy
                              : action == Qt::LinkAction ? Transfer::Share
                                                         : Transfer::Move;
+        if (how == Transfer::Copy && isMirrored(group)) {
+            std::vector<MirroredAddition> additions;
+            for (const SoPath& path : branches->getPaths())
+                additions.push_back({group, index, {}, path.getTail()});
+            addInProgram(additions, tr("Copy %1").arg(quotedOrCount(branches->getPaths())));
+            return;
+        }
         perform(structure::transfer(branches->getPaths(), group, index, how));
         return;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "structure/MirroredNode.h"
 #include "structure/StructureActs.h"
 
 #include <QObject>
@@ -43,6 +44,9 @@ public:
     void reorder(int by);
     void moveOut();
     void moveIn();
+    /// Which types of nodes there are to add where something new goes; no answer where there are none, which
+    /// is told.
+    void askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer);
     void add(SoType type);
     void insertAbove(SoType type);
     void rename(const SoPath& path, const QString& name);
@@ -71,6 +75,10 @@ private:
     std::vector<SoNode*> selectedNodes() const;
     void tellNothingSelected();
     structure::MakeNode makerOf(SoType type) const;
+    void duplicateInProgram(const Paths& paths);
+    void pasteInProgram();
+    bool addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName);
+    bool holdsOwnCopy(const QMimeData* data) const;
     bool putOnClipboard();
     std::vector<SoRef<SoNode>> readText(const QMimeData& data);
 

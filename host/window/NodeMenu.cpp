@@ -105,9 +105,11 @@ void NodeMenu::addSight()
 
 void NodeMenu::chooseAndAdd()
 {
-    TypeChooser chooser(TypeChooser::typesToAdd(), tr("Add a Node"), &m_tree);
-    if (chooser.exec() == QDialog::Accepted)
-        m_editing.add(chooser.getChosen());
+    m_editing.askTypesToAdd([this](const std::vector<SoType>& types) {
+        TypeChooser chooser(types, tr("Add a Node"), &m_tree);
+        if (chooser.exec() == QDialog::Accepted)
+            m_editing.add(chooser.getChosen());
+    });
 }
 
 void NodeMenu::chooseAbove()

@@ -80,8 +80,8 @@ public:
     void appendTo(std::vector<std::int64_t>& values) const
     {
         const std::int64_t age = nanoseconds(m_viewer.elapsedTime() - ofViewer("Reference time"));
-        const std::int64_t update = nanoseconds(ofViewer("Event traversal time taken") +
-                                                ofViewer("Update traversal time taken"));
+        const std::int64_t update =
+            nanoseconds(ofViewer("Event traversal time taken") + ofViewer("Update traversal time taken"));
         const std::int64_t cull = nanoseconds(ofCameras("Cull traversal time taken"));
         const std::int64_t draw = nanoseconds(ofCameras("Draw traversal time taken"));
         const double gpu = ofCameras("GPU draw time taken");

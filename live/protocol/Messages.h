@@ -158,7 +158,8 @@ using Questions =
     MessageList<MessageType::Roots, MessageType::Node, MessageType::Children, MessageType::PathsTo,
                 MessageType::Properties, MessageType::GetValue, MessageType::Write, MessageType::AddableTypes,
                 MessageType::Add, MessageType::Remove, MessageType::Insert, MessageType::Pick,
-                MessageType::Box, MessageType::LookFrom, MessageType::GetCamera, MessageType::Find, MessageType::Copy>;
+                MessageType::Box, MessageType::LookFrom, MessageType::GetCamera, MessageType::Find,
+                MessageType::Copy>;
 using Requests = MessageList<MessageType::Forget, MessageType::Watch, MessageType::Unwatch,
                              MessageType::ShowPictures, MessageType::PictureTaken, MessageType::Mark,
                              MessageType::ShowCounters, MessageType::ShowNotices, MessageType::ShowFrames>;

@@ -41,7 +41,7 @@ constexpr auto TimeToFind = 100ms;
 constexpr auto TimeToMeasure = 20ms;
 constexpr int NodesAtOnce = 10000;
 constexpr std::uint64_t MostFrames = 256; // told at once
-constexpr int MostNodesAbove = 100000; // looked at for paths to a node
+constexpr int MostNodesAbove = 100000;    // looked at for paths to a node
 
 NodeInfo infoOf(SoNode& node)
 {
