@@ -208,9 +208,14 @@ void LiveEdits::childrenWritten(LiveNode& node)
     m_soon.start(0);
 }
 
+bool LiveEdits::areChildrenWritten(LiveNode& node) const
+{
+    return std::find(m_groups.begin(), m_groups.end(), NodeRef(&node)) != m_groups.end();
+}
+
 void LiveEdits::settleChildren(LiveNode& node)
 {
-    if (std::find(m_groups.begin(), m_groups.end(), NodeRef(&node)) != m_groups.end())
+    if (areChildrenWritten(node))
         flush();
 }
 
@@ -278,7 +283,7 @@ void LiveEdits::noteChildren(LiveNode& node)
 {
     node.m_told = node.getChildren();
     if (node.m_childrenFetched == LiveNode::Fetched::Asked)
-        node.m_isAskedAgain = true;
+        node.m_isAskedAgain = node.m_isOutdated = true;
     else
         node.m_fetched.assign(node.m_told.begin() + static_cast<std::ptrdiff_t>(node.m_objects.size()),
                               node.m_told.end());

@@ -29,6 +29,8 @@ public:
     void childrenWritten(LiveNode& node);
     /// Sends what waits for the event loop; `all`: also what waits for answers.
     void flush(bool all = false);
+    /// Edits of the children wait for the event loop.
+    bool areChildrenWritten(LiveNode& node) const;
     /// Edits of the children are with the program before it is asked for them.
     void settleChildren(LiveNode& node);
     /// Nothing is sent any more.

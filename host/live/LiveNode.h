@@ -89,6 +89,7 @@ private:
     bool m_hasEnded = false;
     bool m_hasObjects = false; // what its properties refer to is among its children
     bool m_isWatched = false;  // the program tells of it
+    bool m_isOutdated = false; // children that are being fetched: they were edited since
     bool m_isKept = false;     // the program keeps it for us, since we removed it
     bool m_isEdited = false;   // one of its fields was, at any time
     bool m_areChildrenEdited = false;

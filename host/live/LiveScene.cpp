@@ -227,6 +227,8 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
         node->m_fetched.emplace_back(nodeFor(piece[i]).get());
     const auto next = static_cast<std::uint32_t>(first + taken);
     const bool isLast = taken == 0 || (taken < asked && next >= node->m_info.childCount);
+    if (isLast && isAgain && (node->m_isOutdated || m_edits.areChildrenWritten(*node)))
+        return fetchEditedAgain(*node);
     if (isLast || !isAgain)
         setChildren(*node);
     if (isLast)
@@ -239,6 +241,16 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
     }
     goOnWaiting();
     fetchPiece(node, next, isAgain);
+}
+
+// What came is older than the edits, which have to be with the program before it is asked.
+void LiveScene::fetchEditedAgain(LiveNode& node)
+{
+    m_edits.settleChildren(node);
+    node.m_childrenFetched = LiveNode::Fetched::Yes;
+    LiveEdits::noteChildren(node);
+    node.m_isAskedAgain = node.m_isOutdated = false;
+    fetchChildrenAgain(node);
 }
 
 void LiveScene::fetched(LiveNode& node)

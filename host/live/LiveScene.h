@@ -114,6 +114,7 @@ private:
     void fetchPiece(const NodeRef& node, std::uint32_t first, bool isAgain);
     void pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain, std::uint32_t asked,
                    const std::vector<live::NodeInfo>& piece);
+    void fetchEditedAgain(LiveNode& node);
     void rootsCame(const std::vector<live::NodeInfo>& roots);
     void fetched(LiveNode& node);
     void setChildren(LiveNode& node);

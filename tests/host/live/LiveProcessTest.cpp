@@ -192,7 +192,6 @@ TEST_F(LiveProcess, IsLaunchedAgainFromTheWindowWithTheChangesOfTheLastRun)
 {
     UserNotifier notifier;
     MainWindow window(services, notifier);
-    window.show();
     LiveActs& acts = window.getLive();
     QSignalSpy attached(&acts, &LiveActs::attached);
     auto* again = window.findChild<QAction*>("launchAgainAction");
@@ -209,13 +208,13 @@ TEST_F(LiveProcess, IsLaunchedAgainFromTheWindowWithTheChangesOfTheLastRun)
     ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     auto* offer = window.findChild<QPushButton*>("liveOffer");
     ASSERT_TRUE(offer);
-    EXPECT_FALSE(offer->isVisible());
+    EXPECT_TRUE(offer->isHidden());
     ASSERT_EQ(::kill(first, SIGKILL), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return offer->isVisible(); }));
-    QTest::mouseClick(offer, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !offer->isHidden(); }));
+    offer->click();
     ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }, 20000));
     EXPECT_NE(pid(), first);
-    EXPECT_FALSE(offer->isVisible());
+    EXPECT_TRUE(offer->isHidden());
     auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
     ASSERT_TRUE(box);
     box->buttons().first()->click();

@@ -147,8 +147,9 @@ public:
     {
         if (refused.count(type) > 0)
             return {false, 0, "It has enough of them."};
-        nodes[++lastMade].info = {lastMade, type, "made" + std::to_string(lastMade), 0, 1, false};
-        return insert(parent, index, lastMade);
+        const NodeId made = ++lastMade;
+        nodes[made].info = {made, type, "made" + std::to_string(made), 0, 1, false};
+        return insert(parent, index, made);
     }
     live::StructureResult copy(NodeId parent, std::uint32_t index, NodeId id) override
     {
