@@ -66,7 +66,6 @@ private:
 
     static std::vector<std::uint8_t> shownBytes(const LiveProperty& property, const SoField& field);
 
-    bool mayAsk() const { return m_numAsked < MostAsked; }
     void goOn();
     void sendValues(bool all);
     void sendChildren();

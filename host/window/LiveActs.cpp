@@ -113,7 +113,7 @@ void LiveActs::addActions(QMenu& menu)
     m_attach = add(tr("A&ttach to a Program…"), "attachAction", &LiveActs::askForProgram);
     add(tr("La&unch a Program…"), "launchAction", &LiveActs::askForLaunch);
     m_launchAgain = add(tr("Launch A&gain"), "launchAgainAction", &LiveActs::launchAgain);
-    m_launchAgain->setShortcut(Qt::CTRL + Qt::SHIFT + Qt::Key_L);
+    m_launchAgain->setShortcut(Qt::CTRL + Qt::ALT + Qt::Key_L);
     m_detach = add(tr("&Detach"), "detachAction", &LiveActs::detach);
     m_takeBack = add(tr("Take My Changes &Back"), "takeBackAction", &LiveActs::takeBack);
     m_look = add(tr("&Look at the Selected Node in the Program"), "lookAtAction", &LiveActs::lookAtSelected);

@@ -192,8 +192,8 @@ public:
     virtual std::vector<CounterInfo> counters();
     /// In the order of `counters`.
     virtual std::vector<double> counterValues();
-    /// The frames that were finished since it was asked last, while an inspector looks at them; an adapter may
-    /// begin to record them when it is asked first.
+    /// The frames that were finished since it was asked last, while an inspector looks at them; an adapter
+    /// may begin to record them when it is asked first.
     virtual FrameTable takeFrames();
     virtual std::vector<Notice> takeNotices();
 
