@@ -93,7 +93,8 @@ StructureResult OsgAdapter::insert(NodeId parent, std::uint32_t index, NodeId no
 
 StructureResult OsgAdapter::copy(NodeId parent, std::uint32_t index, NodeId node)
 {
-    return m_scene.copy(parent, index, node);
+    return m_scene.copy(parent, index, node,
+                        [this](osg::Node& from, osg::Node& to) { m_edits.copyValues(from, to); });
 }
 
 void OsgAdapter::forget(NodeId node)

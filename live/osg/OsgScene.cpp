@@ -125,6 +125,14 @@ const osg::Node* findUnlike(const osg::Node& node, const osg::Node& copy)
     return nullptr;
 }
 
+void forEachPair(osg::Node& node, osg::Node& copy, const OsgScene::Finish& act)
+{
+    act(node, copy);
+    osg::Group* group = node.asGroup();
+    for (unsigned i = 0; group && i < group->getNumChildren(); ++i)
+        forEachPair(*group->getChild(i), *copy.asGroup()->getChild(i), act);
+}
+
 /// Values are the copy's own; pictures and textures stay shared, as do callbacks, which are the program's.
 const osg::CopyOp Copying(osg::CopyOp::DEEP_COPY_NODES | osg::CopyOp::DEEP_COPY_DRAWABLES |
                           osg::CopyOp::DEEP_COPY_STATESETS | osg::CopyOp::DEEP_COPY_STATEATTRIBUTES |
@@ -315,7 +323,7 @@ StructureResult OsgScene::insert(NodeId parent, std::uint32_t index, NodeId id)
     return insertNode(*group, index, *node, state == m_removed.end() ? nullptr : &state->second);
 }
 
-StructureResult OsgScene::copy(NodeId parent, std::uint32_t index, NodeId id)
+StructureResult OsgScene::copy(NodeId parent, std::uint32_t index, NodeId id, const Finish& finish)
 {
     const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
     const osg::ref_ptr<osg::Node> node = m_objects.findAs<osg::Node>(id);
@@ -334,6 +342,7 @@ StructureResult OsgScene::copy(NodeId parent, std::uint32_t index, NodeId id)
     if (unlike)
         return refused("The node cannot be copied, since the program does not say how objects of type “" +
                        std::string(unlike->getCompoundClassName()) + "” are copied.");
+    forEachPair(*node, *made, finish);
     return insertNode(*group, index, *made, nullptr);
 }
 

@@ -214,9 +214,11 @@ TEST_F(OsgViewer, CopiesABranchWithItsValuesAndPropertiesOfItsOwn)
     const NodeInfo made = probe.children(levels).at(1);
     EXPECT_EQ(made.id, copied.node);
     EXPECT_EQ(made.name, probe.children(levels).at(0).name);
-    for (const PropertyInfo& info : probe.properties(first))
-        if (info.kind != ValueKind::Object && info.kind != ValueKind::Text)
+    for (const PropertyInfo& info : probe.properties(first)) {
+        if (info.kind != ValueKind::Object && info.kind != ValueKind::Text) {
             EXPECT_EQ(probe.value(made.id, info.name), probe.value(first, info.name)) << info.name;
+        }
+    }
     const Value before = probe.value(first, "NodeMask").value_or(Value());
     EXPECT_TRUE(probe.write(made.id, "NodeMask", packed(before.kind, std::uint32_t(3))).taken);
     EXPECT_EQ(probe.value(first, "NodeMask"), before);
