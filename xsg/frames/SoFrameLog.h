@@ -51,7 +51,7 @@ public:
     bool isOn() const noexcept { return m_users.load(std::memory_order_relaxed) > 0; }
 
     /// Whether renderers ask the graphics card about every frame. At first they do of those that take 2 ms or
-    /// more, and of every eighth of the others, since asking takes time too.
+    /// more, and of so many others as it takes a 200th of their time, since asking takes time too.
     void setTimesEach(bool on) noexcept { m_timesEach.store(on, std::memory_order_relaxed); }
     bool timesEach() const noexcept { return m_timesEach.load(std::memory_order_relaxed); }
 
