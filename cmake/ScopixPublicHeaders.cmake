@@ -48,9 +48,9 @@ set(SCOPIX_XSG_HEADERS
   # Names of places
   SoScenePath.h
   # Drawing
-  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
+  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h SoShapeColors.h
   # What branches cost
-  SoCostMeter.h SoCosts.h
+  SoCostMeter.h SoCostPictures.h SoCosts.h SoWhatIfMeter.h
   # Scene files
   SoSceneFile.h
   # The library as a whole
