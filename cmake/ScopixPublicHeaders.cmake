@@ -64,8 +64,8 @@ set(SCOPIX_LIVE_XSG_HEADERS
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
-  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h
-  SpxShellMenus.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
+  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneDisplay.h SpxSceneServices.h SpxServices.h SpxShell.h
+  SpxShellMenus.h SpxTreeColumns.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h Commands.h HostApplication.h HostExport.h)

@@ -56,6 +56,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
         [this](const QString& query) { m_window->findInScene(query); },
         [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
     m_shell.setLook([this] { return m_window->viewLook(); });
+    m_shell.setDisplay(m_window->display());
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     m_window->setPluginStates([this] { return pluginStates(); });
@@ -82,6 +83,9 @@ void HostSession::connectParts()
     connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
     connect(&m_services, &HostServices::stepsLost, &m_notifier, &UserNotifier::info);
     connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_shell, &HostShell::treeColumnsChanged, m_window.get(),
+            [this] { m_window->setTreeColumns(m_shell.getTreeColumns()); });
+    connect(&m_shell, &HostShell::treeValuesChanged, m_window.get(), &HostWindow::updateTreeColumns);
     connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
     connect(&m_plugins, &HostPluginsManager::failed, this,
             [this](const QString& sentence) { m_refusals += sentence; });

@@ -76,6 +76,10 @@ public:
     /// Name and type are shown at first.
     void setColumnShown(int column, bool on);
     bool isColumnShown(int column) const { return !isColumnHidden(column); }
+    /// As of the model; what is selected stays so. They are shown.
+    void setMoreColumns(std::vector<SceneTreeModel::MoreColumn> columns);
+    /// Their values are others now.
+    void updateMoreColumns();
     /// By what the column shows; -1: in the scene's order. What is selected and unfolded stays so.
     void sortRows(int column, Qt::SortOrder order);
 
@@ -111,6 +115,7 @@ private:
     };
     void fitColumns();
     void figuresChanged();
+    void sortAgain();
     template <class Change>
     void listAgain(Change change);
     void sortClicked(int column);

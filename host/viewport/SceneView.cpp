@@ -115,6 +115,20 @@ void SceneView::setShading(SoRenderer::Shading shading)
     redraw();
 }
 
+void SceneView::setShapeColors(const SoShapeColors& colors)
+{
+    if (colors.isEmpty() && m_shapeColors.isEmpty())
+        return;
+    m_shapeColors = colors;
+    redraw();
+}
+
+void SceneView::setOverdrawShown(bool on)
+{
+    if (std::exchange(m_showsOverdraw, on) != on)
+        redraw();
+}
+
 void SceneView::setToneMapping(SoRenderer::ToneMapping toneMapping)
 {
     m_toneMapping = toneMapping;
@@ -232,7 +246,8 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
 void SceneView::setUp(SoRenderer& renderer) const
 {
     renderer.setWireframe(m_wireframe);
-    renderer.setShading(m_shading);
+    renderer.setShading(m_showsOverdraw ? SoRenderer::Shading::Overdraw : m_shading);
+    renderer.setShapeColors(&m_shapeColors);
     renderer.setToneMapping(m_toneMapping);
     renderer.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
     renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);

@@ -9,6 +9,7 @@
 
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/render/SoRenderer.h>
+#include <xsg/render/SoShapeColors.h>
 #include <xsg/sensors/SoNodeSensor.h>
 
 #include <QBasicTimer>
@@ -68,6 +69,12 @@ public:
     /// What of the scene is shown; edges instead of surfaces go with each.
     void setShading(SoRenderer::Shading shading);
     SoRenderer::Shading getShading() const { return m_shading; }
+    /// In place of the shapes' own looks, as of SoRenderer; empty for none.
+    void setShapeColors(const SoShapeColors& colors);
+    const SoShapeColors& getShapeColors() const { return m_shapeColors; }
+    /// How often each pixel is drawn, in place of the shading that was chosen.
+    void setOverdrawShown(bool on);
+    bool isOverdrawShown() const { return m_showsOverdraw; }
     /// How the bright light of physically based surfaces is brought into the picture.
     void setToneMapping(SoRenderer::ToneMapping toneMapping);
     SoRenderer::ToneMapping getToneMapping() const { return m_toneMapping; }
@@ -186,6 +193,8 @@ private:
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
+    SoShapeColors m_shapeColors;
+    bool m_showsOverdraw = false;
     SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;

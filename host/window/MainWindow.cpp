@@ -42,6 +42,7 @@
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
+#include "window/ViewDisplay.h"
 #include "window/ViewPoints.h"
 #include "window/Welcome.h"
 
@@ -128,6 +129,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
     , m_handles(new HandleTool(services, *m_view))
     , m_states(new SceneStates(this))
+    , m_display(std::make_unique<ViewDisplay>(*m_view, *m_states))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -327,7 +329,7 @@ void MainWindow::makeViewMenu()
         before->leaveAlone(dock);
         menu->addAction(dock->toggleViewAction());
     }
-    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
+    m_treeColumns = new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -451,6 +453,21 @@ std::pair<const SoCamera*, QSize> MainWindow::viewLook() const
     return {&m_view->getCamera(), m_view->size() * m_view->devicePixelRatioF()};
 }
 
+SpxSceneDisplay* MainWindow::display()
+{
+    return m_display.get();
+}
+
+void MainWindow::setTreeColumns(const QList<SpxTreeColumnProvider*>& providers)
+{
+    m_treeColumns->setProviders(providers);
+}
+
+void MainWindow::updateTreeColumns()
+{
+    m_tree->updateMoreColumns();
+}
+
 bool MainWindow::showHelp(const QString& page, const QString& section)
 {
     if (!m_help)
@@ -505,6 +522,8 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
 void MainWindow::showScene(SoNode* root)
 {
     m_states->clear();
+    m_view->setShapeColors({});
+    m_view->setOverdrawShown(false);
     m_scenePanel->setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.
@@ -521,6 +540,7 @@ void MainWindow::showTitle()
     const QString title = isDeleted ? tr("%1 (deleted)").arg(document.getTitle()) : document.getTitle();
     setWindowTitle(title + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
+    setWindowFilePath(document.getPath()); // which plug-ins ask for
 }
 
 void MainWindow::openLive(const LiveOrder& order)

@@ -37,6 +37,8 @@ class ViewActions;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
+class TreeColumns;
+class ViewDisplay;
 class ViewPoints;
 
 /// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
@@ -70,6 +72,9 @@ public:
     SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     std::pair<const SoCamera*, QSize> viewLook() const override;
+    SpxSceneDisplay* display() override;
+    void setTreeColumns(const QList<SpxTreeColumnProvider*>& providers) override;
+    void updateTreeColumns() override;
     void openFile(const QString& path) override;
     void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
@@ -141,6 +146,8 @@ private:
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
     SceneStates* m_states;
+    std::unique_ptr<ViewDisplay> m_display;
+    TreeColumns* m_treeColumns = nullptr;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
     SettingsActs* m_settings = nullptr;
