@@ -81,7 +81,7 @@ protected:
         }
         painter.setRenderHint(QPainter::Antialiasing);
         for (const QPainterPath& path : m_paths) {
-            painter.setPen(QPen(Qt::blue, 1.5));
+            painter.setPen(QPen(Qt::blue, 0));
             painter.drawPath(path);
         }
     }
