@@ -63,7 +63,7 @@ set(SCOPIX_LIVE_XSG_HEADERS
   XsgAdapter.h XsgServer.h)
 
 set(SCOPIX_EXTENDER_HEADERS
-  SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
+  SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNavigator.h SpxNodeDefaults.h SpxOutput.h
   SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h
   SpxShellMenus.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 

@@ -25,7 +25,8 @@ namespace scopix
 /// inspector. One at a time; GUI thread only, and destroyed before the QApplication.
 ///
 /// Plug-ins that are active may change the process: the default extensions redirect its output and error
-/// handlers to their console.
+/// handlers to their console. While the inspector lives, the buffers of the C++ streams and the error
+/// handlers are behind others, which pass on what comes.
 class SCOPIX_HOST_API HostApplication : public QObject
 {
     Q_OBJECT

@@ -35,11 +35,18 @@ QString foldedKey()
     return QStringLiteral("folded");
 }
 
+QString plainConsoleKey()
+{
+    return QStringLiteral("plainConsole");
+}
+
 } // namespace
 
 HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     : m_window(makeWindow(m_services, m_notifier))
+    , m_navigator(*m_window)
     , m_shell(*m_window)
+    , m_secondConsole(m_shell)
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
@@ -201,7 +208,7 @@ void HostSession::loadPlugins(const CommandLine& line)
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }
 
-// The panel shows what most people come for; the console is folded until it has something to say.
+// The panel shows what most people come for; the consoles are folded until there is something to say.
 void HostSession::chooseFirstLook(bool isUnattended)
 {
     const SettingsFile settings(UserSettings::windowFile());
@@ -210,9 +217,11 @@ void HostSession::chooseFirstLook(bool isUnattended)
     const QStringList folded = settings.value(foldedKey()).toStringList();
     for (const QString& dock : isKnown ? folded : QStringList())
         m_shell.foldAtFirst(dock);
+    m_secondConsole.setAskedFor(isKnown && settings.value(plainConsoleKey()).toBool());
     if (isKnown || !profiles.activeProfile()->isDefault())
         return;
     m_shell.foldAtFirst(QStringLiteral("Console"));
+    m_shell.foldAtFirst(QStringLiteral("Log"));
     connect(&profiles, &ProfileList::activeChanged, this, [this] {
         if (!m_plugins.profiles().activeProfile()->isDefault())
             m_shell.forgetFirstLook();
@@ -265,6 +274,7 @@ void HostSession::saveLayout()
         settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
         settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
         settings.setValue(foldedKey(), m_shell.foldedDocks());
+        settings.setValue(plainConsoleKey(), m_secondConsole.isAskedFor());
     });
     if (problem.isEmpty())
         return;

@@ -51,6 +51,8 @@ public:
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
+    /// The same for a user who works with the window, who is asked for what is not saved.
+    virtual void openAnother(const QString& path) { openFile(path); }
     /// Attaches to a running program; as openFile().
     virtual void openLive(const LiveOrder& /*order*/) {}
     /// Selects a field by its node's name or type. False when there is none, which is reported.

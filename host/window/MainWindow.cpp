@@ -537,6 +537,11 @@ void MainWindow::openFile(const QString& path)
     m_files.open(path);
 }
 
+void MainWindow::openAnother(const QString& path)
+{
+    m_files.openAnother(path);
+}
+
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
     const SoPath path = findNode(getScene(), nodeText);

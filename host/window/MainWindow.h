@@ -71,6 +71,7 @@ public:
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     std::pair<const SoCamera*, QSize> viewLook() const override;
     void openFile(const QString& path) override;
+    void openAnother(const QString& path) override;
     void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
