@@ -55,7 +55,7 @@ void LogFind::restart()
 
 void LogFind::forgetGone()
 {
-    const std::uint64_t first = m_model.getStore().begin();
+    const std::uint64_t first = m_model.getStore().firstToKeep();
     m_hits.erase(m_hits.begin(), std::lower_bound(m_hits.begin(), m_hits.end(), first));
 }
 

@@ -106,7 +106,9 @@ void LogModel::adopt(LogChunk&& chunk)
 {
     note(chunk, m_store.end());
     m_store.append(std::move(chunk));
-    removeGone();
+    // Who is told that rows go may still look at them.
+    removeRowsBefore(m_store.firstToKeep());
+    m_store.trim();
 }
 
 void LogModel::note(const LogChunk& chunk, std::uint64_t first)
@@ -121,13 +123,13 @@ void LogModel::note(const LogChunk& chunk, std::uint64_t first)
     }
 }
 
-void LogModel::removeGone()
+void LogModel::removeRowsBefore(std::uint64_t line)
 {
-    const int gone = m_rows.countGone();
+    const int gone = m_rows.lowerBound(line);
     if (gone == 0)
         return;
     beginRemoveRows({}, 0, gone - 1);
-    m_rows.removeGone(gone);
+    m_rows.removeFirst(gone);
     endRemoveRows();
 }
 

@@ -64,7 +64,7 @@ private:
     bool workOnce();
     void adopt(LogChunk&& chunk);
     void note(const LogChunk& chunk, std::uint64_t first);
-    void removeGone();
+    void removeRowsBefore(std::uint64_t line);
     void refreshRows();
 
     LogStore m_store;

@@ -65,6 +65,7 @@ LogPanel::LogPanel(LogModel& model, QWidget* parent)
     setObjectName(QString::fromLatin1("logPanel"));
     m_view->setObjectName(QString::fromLatin1("logLines"));
     m_view->setAccessibleName(tr("Lines of the log"));
+    m_view->setProperty("unfoldsDock", true);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_counts->setObjectName(QString::fromLatin1("logCounts"));
     auto* column = new QVBoxLayout(this);

@@ -33,12 +33,7 @@ int LogRows::lowerBound(std::uint64_t line) const
     return int(found - m_rows.begin());
 }
 
-int LogRows::countGone() const
-{
-    return lowerBound(m_store.begin());
-}
-
-void LogRows::removeGone(int count)
+void LogRows::removeFirst(int count)
 {
     m_rows.erase(m_rows.begin(), m_rows.begin() + count);
     m_removed += std::uint64_t(count);

@@ -48,9 +48,8 @@ public:
     int lowerBound(std::uint64_t line) const;
 
     bool isDone() const { return m_next >= m_store.end(); }
-    /// How many rows at the front show lines that the store does not hold any more.
-    int countGone() const;
-    void removeGone(int count);
+    /// Before the store forgets their lines.
+    void removeFirst(int count);
 
     /// What follow() would add, and which rows it has counted up.
     struct News {

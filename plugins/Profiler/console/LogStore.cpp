@@ -34,15 +34,28 @@ void LogStore::append(LogChunk&& chunk)
         m_chunks.push_back({m_end + copied, std::move(rest)});
     }
     m_end += size;
-    while (m_chunks.size() > 1 && (m_end - begin() > m_mostLines || m_bytes > m_mostBytes))
-        forgetOldest();
 }
 
-void LogStore::forgetOldest()
+// The last chunk always stays.
+std::uint64_t LogStore::firstToKeep() const
 {
-    m_dropped += m_chunks.front().chunk.size();
-    m_bytes -= m_chunks.front().chunk.bytes();
-    m_chunks.pop_front();
+    std::size_t bytes = m_bytes;
+    auto first = m_chunks.begin();
+    while (m_chunks.end() - first > 1 && (m_end - first->first > m_mostLines || bytes > m_mostBytes)) {
+        bytes -= first->chunk.bytes();
+        ++first;
+    }
+    return first == m_chunks.end() ? m_end : first->first;
+}
+
+void LogStore::trim()
+{
+    const std::uint64_t first = firstToKeep();
+    while (begin() < first) {
+        m_dropped += m_chunks.front().chunk.size();
+        m_bytes -= m_chunks.front().chunk.bytes();
+        m_chunks.pop_front();
+    }
 }
 
 void LogStore::clear()

@@ -9,7 +9,7 @@ namespace profiler
 {
 
 /// The newest lines, numbered from the first that ever came. Holds at most so many lines and bytes, give or
-/// take a chunk: the oldest chunk goes when there are more. Not for several threads at once.
+/// take a chunk, after trim(): the oldest chunks go when there are more. Not for several threads at once.
 class LogStore
 {
 public:
@@ -28,6 +28,9 @@ public:
     std::uint64_t getDropped() const { return m_dropped; }
 
     void append(LogChunk&& chunk);
+    /// The lines before this one are too many; trim() forgets them.
+    std::uint64_t firstToKeep() const;
+    void trim();
     /// Lines that were lost before they came here.
     void noteDropped(std::uint64_t lines) { m_dropped += lines; }
     void clear();
@@ -48,7 +51,6 @@ private:
         std::uint64_t first;
         LogChunk chunk;
     };
-    void forgetOldest();
 
     std::uint64_t m_mostLines;
     std::size_t m_mostBytes;
