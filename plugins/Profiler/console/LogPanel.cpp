@@ -7,7 +7,8 @@
 #include "console/LogText.h"
 #include "console/LogView.h"
 
-#include <QComboBox>
+#include <QActionGroup>
+#include <QCheckBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -99,22 +100,13 @@ QWidget* LogPanel::makeTools()
     m_filter->setPlaceholderText(tr("Filter: words to have, -words to leave out"));
     m_filter->setAccessibleName(tr("Filter of the log"));
     m_filter->setClearButtonEnabled(true);
+    m_filter->setMinimumWidth(16 * fontMetrics().averageCharWidth());
     connect(m_filter, &QLineEdit::textChanged, this, &LogPanel::applyRule);
-    row->addWidget(m_filter, 1);
+    row->addWidget(m_filter, 2);
     row->addWidget(makeKind(LogKind::Error, tr("Errors")));
     row->addWidget(makeKind(LogKind::Warning, tr("Warnings")));
     row->addWidget(makeKind(LogKind::Info, tr("Information")));
     row->addWidget(makeKind(LogKind::Output, tr("Output")));
-    m_fold = new QComboBox;
-    m_fold->setObjectName(QString::fromLatin1("logFold"));
-    m_fold->addItems({tr("Each line"), tr("Fold repeated"), tr("Fold equal")});
-    m_fold->setToolTip(
-        tr("Whether equal lines are shown once, with their number: none, those that follow each "
-           "other, or all"));
-    m_fold->setAccessibleName(tr("Folding of equal lines"));
-    m_fold->setCurrentIndex(int(m_settings.fold));
-    connect(m_fold, qOverload<int>(&QComboBox::currentIndexChanged), this, &LogPanel::applyRule);
-    row->addWidget(m_fold);
     auto* options = button(tr("Show"), QString::fromLatin1("logOptions"), tr("What is shown with the lines"));
     options->setMenu(makeOptions());
     options->setPopupMode(QToolButton::InstantPopup);
@@ -122,16 +114,17 @@ QWidget* LogPanel::makeTools()
     auto* clear = button(tr("Clear"), QString::fromLatin1("logClear"), tr("Clear the log"));
     connect(clear, &QToolButton::clicked, &m_model, &LogModel::clear);
     row->addWidget(clear);
-    row->addWidget(m_counts);
+    m_counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give up room
+    row->addWidget(m_counts, 1);
     return bar;
 }
 
-QToolButton* LogPanel::makeKind(LogKind kind, const QString& caption)
+QCheckBox* LogPanel::makeKind(LogKind kind, const QString& caption)
 {
-    QToolButton* made = button(caption, QString::fromLatin1("logKind%1").arg(int(kind)), caption);
-    made->setCheckable(true);
+    auto* made = new QCheckBox(caption);
+    made->setObjectName(QString::fromLatin1("logKind%1").arg(int(kind)));
     made->setChecked(true);
-    connect(made, &QToolButton::toggled, this, &LogPanel::applyRule);
+    connect(made, &QCheckBox::toggled, this, &LogPanel::applyRule);
     m_kinds[int(kind)] = made;
     return made;
 }
@@ -155,7 +148,26 @@ QMenu* LogPanel::makeOptions()
         m_model.setShowsThread(m_settings.showsThread = shows);
         m_settings.write();
     });
+    menu->addSeparator();
+    addFolding(*menu);
     return menu;
+}
+
+void LogPanel::addFolding(QMenu& menu)
+{
+    auto* group = new QActionGroup(this);
+    const QString captions[] = {tr("&Each Line"), tr("&Repeated Lines Once"), tr("E&qual Lines Once")};
+    for (int fold = 0; fold < 3; ++fold) {
+        QAction* action = group->addAction(captions[fold]);
+        action->setObjectName(QString::fromLatin1("logFold%1").arg(fold));
+        action->setCheckable(true);
+        action->setChecked(fold == int(m_settings.fold));
+        connect(action, &QAction::triggered, this, [this, fold] {
+            m_settings.fold = LogFold(fold);
+            applyRule();
+        });
+    }
+    menu.addActions(group->actions());
 }
 
 QWidget* LogPanel::makeFindBar()
@@ -202,17 +214,16 @@ QWidget* LogPanel::makeFindBar()
 
 void LogPanel::applyRule()
 {
-    if (!m_context || !m_fold)
+    if (!m_context)
         return; // still being made
     LogRows::Rule rule;
     rule.filter = LogFilter(m_filter->text());
     for (int kind = 0; kind < LogKinds; ++kind)
         rule.filter.setKind(LogKind(kind), m_kinds[kind]->isChecked());
-    rule.fold = LogFold(m_fold->currentIndex());
+    rule.fold = m_settings.fold;
     rule.context = m_context->value();
     if (rule == m_model.getRows().getRule())
         return;
-    m_settings.fold = rule.fold;
     m_settings.context = rule.context;
     m_settings.write();
     const QModelIndex current = m_view->currentIndex();
@@ -232,7 +243,7 @@ void LogPanel::goToLine(std::uint64_t line)
 {
     keepPlace(line);
     m_filter->clear();
-    for (QToolButton* kind : m_kinds)
+    for (QCheckBox* kind : m_kinds)
         kind->setChecked(true);
     showCounts();
 }

@@ -5,12 +5,11 @@
 
 #include <QWidget>
 
-class QComboBox;
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QMenu;
 class QSpinBox;
-class QToolButton;
 
 namespace profiler
 {
@@ -40,7 +39,8 @@ private:
     QWidget* makeTools();
     QWidget* makeFindBar();
     QMenu* makeOptions();
-    QToolButton* makeKind(LogKind kind, const QString& caption);
+    void addFolding(QMenu& menu);
+    QCheckBox* makeKind(LogKind kind, const QString& caption);
     void applyRule();
     void keepPlace(std::uint64_t line);
     void showCounts();
@@ -57,8 +57,7 @@ private:
     LogFind* m_find;
     LogView* m_view;
     QLineEdit* m_filter = nullptr;
-    QToolButton* m_kinds[LogKinds] = {};
-    QComboBox* m_fold = nullptr;
+    QCheckBox* m_kinds[LogKinds] = {};
     QSpinBox* m_context = nullptr;
     QLabel* m_counts;
     QWidget* m_findBar = nullptr;

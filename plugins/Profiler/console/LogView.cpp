@@ -57,6 +57,8 @@ LogView::LogView(LogModel& model, QWidget* parent)
 void LogView::takeFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
     font.setPointSizeF(QApplication::font(this).pointSizeF());
     if (font != this->font())
         setFont(font);

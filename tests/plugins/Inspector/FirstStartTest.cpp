@@ -4,6 +4,7 @@
 #include "plugins/Inspector/InspectorSession.h"
 #include "window/MainWindow.h"
 
+#include <scopix/SpxExtension.h>
 #include <support/PlainModel.h>
 #include <xsg/actions/SoSearchAction.h>
 
