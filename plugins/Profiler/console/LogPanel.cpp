@@ -107,13 +107,10 @@ QWidget* LogPanel::makeTools()
     row->addWidget(makeKind(LogKind::Warning, tr("Warnings")));
     row->addWidget(makeKind(LogKind::Info, tr("Information")));
     row->addWidget(makeKind(LogKind::Output, tr("Output")));
-    auto* options = button(tr("Show"), QString::fromLatin1("logOptions"), tr("What is shown with the lines"));
+    auto* options = button(tr("Options"), QString::fromLatin1("logOptions"), tr("Options of the log"));
     options->setMenu(makeOptions());
     options->setPopupMode(QToolButton::InstantPopup);
     row->addWidget(options);
-    auto* clear = button(tr("Clear"), QString::fromLatin1("logClear"), tr("Clear the log"));
-    connect(clear, &QToolButton::clicked, &m_model, &LogModel::clear);
-    row->addWidget(clear);
     m_counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give up room
     row->addWidget(m_counts, 1);
     return bar;
@@ -150,6 +147,9 @@ QMenu* LogPanel::makeOptions()
     });
     menu->addSeparator();
     addFolding(*menu);
+    menu->addSeparator();
+    QAction* clear = menu->addAction(tr("&Clear the Log"), &m_model, &LogModel::clear);
+    clear->setObjectName(QString::fromLatin1("logClear"));
     return menu;
 }
 

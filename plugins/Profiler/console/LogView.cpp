@@ -53,15 +53,15 @@ LogView::LogView(LogModel& model, QWidget* parent)
     });
 }
 
-// Columns of figures stand below each other.
+// Columns of figures stand below each other; the size is that of everything around.
 void LogView::takeFont()
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font;
+    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    if (!QFontInfo(font).fixedPitch())
+        font.setFamily(QString::fromLatin1("monospace"));
     font.setStyleHint(QFont::Monospace);
-    font.setFixedPitch(true);
-    font.setPointSizeF(QApplication::font(this).pointSizeF());
-    if (font != this->font())
-        setFont(font);
+    setFont(font);
 }
 
 int LogView::rowHeight() const
@@ -243,8 +243,6 @@ void LogView::resizeEvent(QResizeEvent* event)
 void LogView::changeEvent(QEvent* event)
 {
     QListView::changeEvent(event);
-    if (event->type() == QEvent::ApplicationFontChange)
-        takeFont();
     if (event->type() == QEvent::FontChange) {
         m_widest = 0;
         updateGeometries();
