@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QSpinBox>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -262,6 +263,7 @@ void LogPanel::showCounts()
     if (store.getDropped() > 0)
         text += tr(", %L1 older ones gone").arg(qulonglong(store.getDropped()));
     m_counts->setText(text);
+    m_filter->setToolTip(text);
     m_counts->setToolTip(tr("The newest %L1 lines are kept, and at most %2 MB of them.")
                              .arg(qulonglong(LogStore::MostLines))
                              .arg(LogStore::MostBytes >> 20));
@@ -320,6 +322,9 @@ void LogPanel::activateLine(int row)
 void LogPanel::say(const QString& sentence)
 {
     m_counts->setText(sentence);
+    // In a narrow dock there is no room for that.
+    const QRect row = m_view->visualRect(m_view->currentIndex());
+    QToolTip::showText(m_view->viewport()->mapToGlobal(row.bottomLeft()), sentence, m_view);
 }
 
 void LogPanel::openMenu(const QPoint& place)

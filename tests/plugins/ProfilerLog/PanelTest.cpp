@@ -39,7 +39,7 @@ protected:
         })())
     {
         EXPECT_TRUE(session.host.plugins().loadPlugin(QStringLiteral(PROFILER_FILE)));
-        window().resize(1000, 800);
+        window().resize(1400, 800);
         root->addChild(lamp);
         lamp->setName("Lamp");
         lamp->addChild(bulb);
