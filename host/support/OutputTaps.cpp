@@ -11,6 +11,7 @@
 
 #include <iostream>
 #include <mutex>
+#include <new>
 #include <streambuf>
 
 namespace scopix
@@ -36,8 +37,11 @@ public:
             return;
         const std::lock_guard lock(m_mutex);
         s_isTelling = true;
-        if (m_sink)
-            tell(*m_sink);
+        try {
+            if (m_sink)
+                tell(*m_sink);
+        } catch (...) { // a listener's trouble is not the writer's
+        }
         s_isTelling = false;
     }
 
@@ -228,8 +232,12 @@ void OutputTaps::setSink(Sink* sink)
 
 void OutputTaps::settle()
 {
-    if (m_users > 0)
+    if (m_users == 0)
+        return;
+    try {
         m_chains->each([](auto& chain) { chain.settle(); });
+    } catch (const std::bad_alloc&) { // the next time, then
+    }
 }
 
 void OutputTaps::bypassErrors(SoErrorCB* callback, void* data, SoErrorCB* nextCallback, void* nextData)
