@@ -5,6 +5,7 @@
 #include "model/GradualRelease.h"
 #include "model/ModelFormats.h"
 #include "services/HostServices.h"
+#include "support/LongWork.h"
 #include "support/OutputFile.h"
 
 #include <xsg/files/SoSceneFile.h>
@@ -117,10 +118,14 @@ QString SceneDocument::save(const QString& path)
     if (!m_isExternal && QFileInfo::exists(folderOf(path)))
         movePictures(m_root.get(), folderOf(path));
     std::string error;
-    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error))
+    const quint64 edits = m_editCount;
+    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error,
+                            [](double part) { LongWork::goOn(part); }))
         return QString::fromStdString(error);
     if (!m_isExternal)
         adoptFile(path);
+    if (m_editCount != edits) // by an extension, while it was written
+        m_services.undoStack().resetClean();
     return {};
 }
 

@@ -75,7 +75,7 @@ public:
 
     /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever
     /// happens. An external scene stays external, and the names of its pictures stay as they are. Returns one
-    /// sentence where it cannot be written, else an empty text.
+    /// sentence where it cannot be written, else an empty text. LongWork may cancel it.
     QString save(const QString& path);
 
 signals:

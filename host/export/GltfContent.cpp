@@ -3,6 +3,7 @@
 
 #include "export/ColorEncoding.h"
 #include "export/ExportNames.h"
+#include "support/LongWork.h"
 
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -83,6 +84,7 @@ protected:
     }
     void visitShape(SoShape* shape) override
     {
+        LongWork::goOn();
         const int mesh = meshOf(*shape);
         if (mesh == GltfContent::None)
             return;

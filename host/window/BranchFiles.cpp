@@ -6,6 +6,7 @@
 #include "import/AnyImport.h"
 #include "model/FileChecks.h"
 #include "structure/BranchCopy.h"
+#include "support/LongWork.h"
 #include "support/OutputFile.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
@@ -108,8 +109,14 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
     }
     movePictures(copy.get(), QFileInfo(path).absolutePath());
     std::string error;
-    const bool isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error);
-    if (isWritten)
+    bool isWritten = false;
+    const bool isDone = LongWork::run(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [&] {
+        isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error,
+                                       [](double part) { LongWork::goOn(part); });
+    });
+    if (!isDone)
+        m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
+    else if (isWritten)
         m_notifier.info(tr("“%1” was saved as “%2”.").arg(nodeText(*branch), path));
     else
         m_notifier.error(QString::fromStdString(error));

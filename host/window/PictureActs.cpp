@@ -21,6 +21,8 @@ namespace scopix
 namespace
 {
 
+constexpr int PatienceMs = 300; // before a dialog opens
+
 /// Nothing in the scene moves with time while this lives.
 class StandStill
 {
@@ -94,6 +96,7 @@ bool PictureActs::save(const PictureOrder& order)
         dialog->setObjectName(QStringLiteral("pictureProgress"));
         dialog->setWindowTitle(tr("Save Picture"));
         dialog->setWindowModality(Qt::WindowModal);
+        dialog->setMinimumDuration(PatienceMs);
     }
     const PictureSeries series = PictureSeries::make(
         m_view.getPictureSubject(order.size, order.count > 1), order, [&](int done, int total) {

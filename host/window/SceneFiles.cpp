@@ -7,6 +7,7 @@
 #include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
+#include "support/LongWork.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
 #include "undo/TextInput.h"
@@ -16,11 +17,14 @@
 #include "window/ExportQuestion.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
+
+#include <optional>
 
 namespace scopix
 {
@@ -164,10 +168,16 @@ void SceneFiles::askForFile()
 {
     if (!confirmDiscard())
         return;
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open"),
-                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open"), startFolder(), nameFilter());
     if (!path.isEmpty())
         open(path);
+}
+
+QString SceneFiles::startFolder() const
+{
+    const QString path = m_document.getPath().isEmpty() ? m_recent.list().value(0) : m_document.getPath();
+    const QString folder = QFileInfo(path).path();
+    return QFileInfo(folder).isDir() ? folder : QDir::currentPath();
 }
 
 void SceneFiles::openRecent(const QString& path)
@@ -191,7 +201,7 @@ bool SceneFiles::saveAs()
     dialog.setNameFilter(tr("Scenes (*.%1)").arg(SceneDocument::sceneEnding()));
     dialog.setDefaultSuffix(SceneDocument::sceneEnding());
     const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
-    dialog.setDirectory(origin.path());
+    dialog.setDirectory(startFolder());
     dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + SceneDocument::sceneEnding());
     return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().value(0));
 }
@@ -199,7 +209,7 @@ bool SceneFiles::saveAs()
 void SceneFiles::exportAs()
 {
     applyTyping();
-    const QString path = askForExport(m_window, m_document);
+    const QString path = askForExport(m_window, m_document, startFolder());
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -212,10 +222,16 @@ void SceneFiles::exportTo(const QString& path)
         return;
     }
     m_document.preview().showPresent(); // as saving does
-    const SceneExport scene(*m_document.getRoot(), path);
-    if (m_notifier.isAttended() && !confirmLosses(m_window, path, scene))
+    const QString what = tr("Exporting “%1”…").arg(QFileInfo(path).fileName());
+    const QString cancelled = tr("Exporting “%1” was cancelled.").arg(path);
+    std::optional<SceneExport> scene;
+    if (!runLong(what, [&] { scene.emplace(*m_document.getRoot(), path); }))
+        return m_notifier.info(cancelled);
+    if (m_notifier.isAttended() && !confirmLosses(m_window, path, *scene))
         return;
-    const QString error = scene.write();
+    QString error;
+    if (!runLong(what, [&] { error = scene->write(); }))
+        return m_notifier.info(cancelled);
     if (error.isEmpty())
         m_notifier.info(tr("Exported “%1”.").arg(path));
     else
@@ -234,7 +250,12 @@ bool SceneFiles::saveTo(const QString& path)
 
 bool SceneFiles::write(const QString& path)
 {
-    const QString error = m_document.save(path);
+    QString error;
+    const QString name = QFileInfo(path).fileName();
+    if (!runLong(tr("Saving “%1”…").arg(name), [&] { error = m_document.save(path); })) {
+        m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
+        return false;
+    }
     if (!error.isEmpty()) {
         m_notifier.error(error);
         return false;
@@ -242,6 +263,13 @@ bool SceneFiles::write(const QString& path)
     m_notifier.info(tr("Saved “%1”.").arg(path));
     remember(path);
     return true;
+}
+
+// The application around the window may change its scene whenever it gets events.
+bool SceneFiles::runLong(const QString& what, const std::function<void()>& work)
+{
+    const bool mayAsk = m_notifier.isAttended() && !m_document.isExternal();
+    return LongWork::run(mayAsk ? &m_window : nullptr, what, work);
 }
 
 void SceneFiles::remember(const QString& path)

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
+
 namespace scopix
 {
 
@@ -75,6 +77,10 @@ private:
     bool mayReplace(const QString& path);
     bool write(const QString& path);
     void exportTo(const QString& path);
+    /// Of what is open, or else of the file that was open last, also in an earlier session.
+    QString startFolder() const;
+    /// False where the user cancelled it.
+    bool runLong(const QString& what, const std::function<void()>& work);
     bool resolveConflict();
     void watchFile();
     void applyTyping();
