@@ -7,6 +7,7 @@
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
 #include "settings/Preferences.h"
+#include "settings/ScreenLayouts.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
@@ -254,16 +255,15 @@ void HostSession::finish(const CommandLine& line, bool opened)
 void HostSession::restoreLayout()
 {
     m_keepsLayout = true;
-    const SettingsFile settings(UserSettings::windowFile());
-    m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
+    const ScreenLayouts::Layout layout = ScreenLayouts::find(ScreenLayouts::currentScreens());
+    m_window->restoreGeometry(layout.geometry);
+    m_shell.restoreLayout(layout.docks);
 }
 
 void HostSession::saveLayout()
 {
     const QString problem = SettingsFile(UserSettings::windowFile()).change([this](QSettings& settings) {
-        settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
-        settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+        ScreenLayouts::save(settings, {m_window->saveGeometry(), m_shell.saveLayout()});
         settings.setValue(foldedKey(), m_shell.foldedDocks());
     });
     if (problem.isEmpty())

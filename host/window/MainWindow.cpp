@@ -32,6 +32,7 @@
 #include "window/LiveActs.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/OnScreen.h"
 #include "window/PaletteActs.h"
 #include "window/PatchActs.h"
 #include "window/PictureActs.h"
@@ -155,6 +156,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
             [this] { m_changes->compareWith(m_files.getDocument().getPath()); });
     connect(&m_files, &SceneFiles::reapplyRequested, m_changes, &SceneChanges::reloadAndReapply);
     new FileDrop(*this);
+    new OnScreen(*this);
     new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
     new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
