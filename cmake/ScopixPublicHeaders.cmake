@@ -64,7 +64,7 @@ set(SCOPIX_LIVE_XSG_HEADERS
 
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
-  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h
+  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxSettings.h SpxShell.h
   SpxShellMenus.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS

@@ -228,6 +228,26 @@ bool HostShell::comesUpHidden(const SpxExtension* extension) const
     return isHiddenByPerson(extension) || m_waiting.contains(nameOf(extension));
 }
 
+void HostShell::addChoice(const void* owner, const Choice& choice)
+{
+    m_choices.emplace_back(owner, choice);
+}
+
+void HostShell::removeChoices(const void* owner)
+{
+    m_choices.erase(std::remove_if(m_choices.begin(), m_choices.end(),
+                                   [owner](const auto& each) { return each.first == owner; }),
+                    m_choices.end());
+}
+
+std::vector<SpxSettings::Choice> HostShell::getChoices() const
+{
+    std::vector<Choice> choices;
+    for (const auto& each : m_choices)
+        choices.push_back(each.second);
+    return choices;
+}
+
 QByteArray HostShell::saveLayout() const
 {
     QByteArray layout;

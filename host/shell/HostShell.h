@@ -3,6 +3,7 @@
 
 #include <scopix/SpxContextMenus.h>
 #include <scopix/SpxGuide.h>
+#include <scopix/SpxSettings.h>
 #include <scopix/SpxShell.h>
 #include <scopix/SpxShellMenus.h>
 #include <scopix/SpxViewLook.h>
@@ -31,6 +32,7 @@ class HostShell : public QObject,
                   public SpxShellMenus,
                   public SpxContextMenus,
                   public SpxGuide,
+                  public SpxSettings,
                   public SpxViewLook
 {
     Q_OBJECT
@@ -65,6 +67,10 @@ public:
     void setGuide(Find find, ShowHelp showHelp);
     void find(const QString& query) override;
     bool showHelp(const QString& page, const QString& section) override;
+
+    void addChoice(const void* owner, const Choice& choice) override;
+    void removeChoices(const void* owner) override;
+    std::vector<Choice> getChoices() const override;
 
     using Look = std::function<std::pair<const SoCamera*, QSize>()>;
     /// What knows how the 3D view looks at the scene.
@@ -144,6 +150,7 @@ private:
     void personClosed(SpxExtension* extension);
 
     QMainWindow& m_window;
+    std::vector<std::pair<const void*, Choice>> m_choices; // with their owners
     QList<SpxExtension*> m_extensions;
     QList<Owned> m_owned;
     QHash<QString, bool> m_dockShown; // docks that went, by name

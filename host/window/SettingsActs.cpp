@@ -13,6 +13,7 @@
 #include "viewport/SceneView.h"
 #include "window/SceneFiles.h"
 
+#include <scopix/SpxSettings.h>
 #include <xsg/core/SoPreferences.h>
 
 #include <QAction>
@@ -22,6 +23,7 @@
 #include <QMenuBar>
 
 #include <algorithm>
+#include <optional>
 
 namespace scopix
 {
@@ -74,6 +76,16 @@ Setting preference(const char* name, int usual, int lowest, int highest)
         return Preferences::set(QString::fromLatin1(name), value.toString());
     };
     return setting;
+}
+
+std::optional<SpxSettings::Choice> findChoice(const QString& key)
+{
+    const SpxSettings* extensions = SpxSettings::getInstance();
+    for (const SpxSettings::Choice& choice :
+         extensions ? extensions->getChoices() : std::vector<SpxSettings::Choice>())
+        if (choice.key == key)
+            return choice;
+    return {};
 }
 
 bool isDockToggle(const QMainWindow& window, const QAction* action)
@@ -277,11 +289,39 @@ void SettingsActs::addToggles(std::vector<Setting>& settings) const
     }
 }
 
+// By key, since an extension may be unloaded while the dialog is open.
+void SettingsActs::addOfExtensions(std::vector<Setting>& settings)
+{
+    const SpxSettings* extensions = SpxSettings::getInstance();
+    for (const SpxSettings::Choice& choice :
+         extensions ? extensions->getChoices() : std::vector<SpxSettings::Choice>()) {
+        Setting setting;
+        setting.key = choice.key;
+        setting.page = choice.page;
+        setting.label = choice.label;
+        setting.help = choice.help;
+        setting.kind = Setting::Kind::Choice;
+        setting.choices = choice.choices;
+        setting.shipped = choice.shipped;
+        setting.get = [key = choice.key]() -> QVariant {
+            const auto known = findChoice(key);
+            return known ? known->get() : QString();
+        };
+        setting.set = [key = choice.key](const QVariant& value) {
+            if (const auto known = findChoice(key))
+                known->set(value.toString());
+            return QString();
+        };
+        settings.push_back(setting);
+    }
+}
+
 std::vector<Setting> SettingsActs::settings() const
 {
     std::vector<Setting> all{theme(),         fontSize(),    mouse(),        undoMemory(),
                              pictureMemory(), creaseAngle(), autosavePause()};
     addToggles(all);
+    addOfExtensions(all);
     return all;
 }
 

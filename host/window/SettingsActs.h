@@ -57,6 +57,7 @@ private:
     Setting creaseAngle() const;
     Setting autosavePause() const;
     void addToggles(std::vector<Setting>& settings) const;
+    static void addOfExtensions(std::vector<Setting>& settings);
     void restore();
     void setAutosavePause(int seconds) const;
 

@@ -4,6 +4,7 @@
 #include "fields/Description.h"
 #include "fields/FieldText.h"
 #include "fields/PanelSettings.h"
+#include "fields/ShownUnit.h"
 
 #include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
@@ -69,8 +70,11 @@ QString unitOf(const Description& description)
     switch (description.quantity) {
     case SpxQuantity::Angle:
         return PanelSettings::showsDegrees() ? tr("radians, shown in degrees") : tr("radians");
-    case SpxQuantity::Length:
-        return tr("metres, where the scene has no other scale");
+    case SpxQuantity::Length: {
+        const QString shown = ShownUnit::of(description.quantity).name;
+        return shown.isEmpty() ? tr("metres, where the scene has no other scale")
+                               : tr("metres, shown in %1").arg(shown);
+    }
     case SpxQuantity::Time:
         return tr("seconds");
     default:
