@@ -377,6 +377,8 @@ void MainWindow::makeHelpMenu()
     });
     menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
                     QKeySequence(Qt::Key_F1));
+    menu->addAction(tr("T&utorial"), this, &MainWindow::showTutorial, QKeySequence(Qt::CTRL + Qt::Key_F1))
+        ->setObjectName(QStringLiteral("tutorialAction"));
     menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
 }
@@ -460,10 +462,18 @@ bool MainWindow::showHelp(const QString& page, const QString& section)
     return m_help->open(page, section);
 }
 
+void MainWindow::showTutorial()
+{
+    if (!showHelp(QStringLiteral("tutorial"), {}))
+        m_notifier.error(tr("The tutorial cannot be shown: it is not installed beside the program."));
+}
+
 void MainWindow::showHelpOnFocus()
 {
     const SoFieldContainer* node = m_services.selectedNode();
-    if (!showHelp(QStringLiteral("nodes"), node ? typeText(node->getTypeId()) : QString()))
+    if (!node)
+        return showTutorial();
+    if (!showHelp(QStringLiteral("nodes"), typeText(node->getTypeId())))
         m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
 }
 

@@ -123,6 +123,7 @@ private:
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showTutorial();
     void showHelpOnFocus();
     void viewSelected();
     void find();
