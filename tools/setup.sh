@@ -48,6 +48,7 @@ scopix_package_packages=(
   "dpkg-dev|builds Debian packages"
   "debhelper|the steps of such a build"
   "doxygen|the reference of the public headers"
+  "libopenscenegraph-dev|builds what inspects programs on OpenSceneGraph"
   "qttools5-dev|compiles translations"
   "qttools5-dev-tools|compiles translations"
   "lintian|checks the packages"
