@@ -8,7 +8,7 @@
 
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
-#include <xsg/nodes/transforms/SoTranslation.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 using namespace scopix;
 
@@ -124,7 +124,7 @@ TEST_F(LongWorkTest, InsideOtherWorkThatOneIsCancelled)
 
 TEST_F(LongWorkTest, ASaveThatIsCancelledLeavesTheFile)
 {
-    show<SoTranslation>(Many); // which costs nothing to draw
+    show<SoTransform>(Many); // which costs nothing to draw
     const QString path = folder.filePath(QStringLiteral("scene.xsg"));
     ASSERT_TRUE(window->getFiles().saveTo(path));
     const QByteArray before = contentOf(path);

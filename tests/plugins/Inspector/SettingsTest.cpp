@@ -36,6 +36,9 @@ protected:
         ASSERT_TRUE(box);
         box->setCurrentIndex(box->findText(text));
         emit box->activated(box->currentIndex());
+        delete &dialog();
+        session.host.window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&session.host.window()));
         session.settle();
     }
     QString shown(const char* field, int which = 0) { return session.number(field, which)->text(); }
