@@ -96,18 +96,20 @@ protected:
         return window->findChild<Widget*>(text(name));
     }
     static bool comes(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, Patience); }
-    static void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    void press(int key, Qt::KeyboardModifiers modifiers) const
     {
+        window->activateWindow(); // which a dialog leaves to the window system
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
         QWidget* focus = QApplication::focusWidget();
-        QTest::keyClick(focus ? focus : mainWindow(), Qt::Key(key), modifiers);
+        QTest::keyClick(focus ? focus : window, Qt::Key(key), modifiers);
     }
     // The entry of the menus whose text begins so.
-    void choose(const char* entry) const
+    QAction* entry(const char* begin) const
     {
         for (QAction* each : window->findChildren<QAction*>())
-            if (each->text().remove(QLatin1Char('&')).startsWith(text(entry)))
-                return each->trigger();
-        ADD_FAILURE() << "no entry " << entry;
+            if (each->text().remove(QLatin1Char('&')).startsWith(text(begin)))
+                return each;
+        return nullptr;
     }
     // The panel's row of the field, where it is in view.
     QWidget* row(const char* field) const
@@ -196,8 +198,11 @@ void FirstSteps::undoAndRedo()
 void FirstSteps::compare()
 {
     const Answer answer(inFolder("crate.gltf"));
-    choose("Compare With");
-    ASSERT_TRUE(comes([&] { return answer.isGiven() && changeCount() > 0; }));
+    ASSERT_TRUE(entry("Compare With") && entry("Back to What You Changed"));
+    EXPECT_FALSE(entry("Back to What You Changed")->isVisible());
+    entry("Compare With")->trigger();
+    ASSERT_TRUE(comes([&] { return answer.isGiven() && entry("Back to What You Changed")->isVisible(); }));
+    ASSERT_TRUE(comes([&] { return changeCount() > 0 && !QApplication::activeModalWidget(); }));
     keep("compare");
 }
 
