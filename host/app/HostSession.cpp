@@ -72,6 +72,7 @@ void HostSession::addFoldAction()
         return;
     QAction* fold = menu->addAction(tr("Fold the &Bottom Area"));
     fold->setObjectName(QStringLiteral("foldBottom"));
+    fold->setShortcut(QStringLiteral("Ctrl+J, F"));
     fold->setCheckable(true);
     connect(menu, &QMenu::aboutToShow, fold, [this, fold] { fold->setChecked(m_shell.isBottomFolded()); });
     connect(fold, &QAction::triggered, &m_shell, &HostShell::setBottomFolded);

@@ -78,12 +78,16 @@ LiveActs::LiveActs(QMenu& menu, const Parts& parts)
 {
     m_picture->hide();
     m_attach = menu.addAction(tr("A&ttach to a Program…"), this, &LiveActs::askForProgram);
+    m_attach->setShortcut(Qt::Key_F7);
     m_attach->setObjectName(QStringLiteral("attachAction"));
     m_detach = menu.addAction(tr("&Detach"), this, &LiveActs::detach);
+    m_detach->setShortcut(Qt::SHIFT + Qt::Key_F7);
     m_detach->setObjectName(QStringLiteral("detachAction"));
     m_takeBack = menu.addAction(tr("Take My Changes &Back"), this, &LiveActs::takeBack);
+    m_takeBack->setShortcut(Qt::CTRL + Qt::Key_F7);
     m_takeBack->setObjectName(QStringLiteral("takeBackAction"));
-    m_look = menu.addAction(tr("&Look at the Selected Node in the Program"), this, &LiveActs::lookAtSelected);
+    m_look = menu.addAction(tr("&Look at the Selected Node in the Program"), this, &LiveActs::lookAtSelected,
+                            Qt::Key_F8);
     connect(&menu, &QMenu::aboutToShow, this, &LiveActs::updateActions);
     connect(&parts.files.getDocument(), &SceneDocument::rootChanged, this, &LiveActs::rootChanged);
     connect(&parts.services, &HostServices::selectionChanged, this, [this] {

@@ -245,9 +245,10 @@ void MainWindow::makeFileMenu()
     m_changes->fillMenu(*menu);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
-    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
+    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot,
+                    Qt::CTRL + Qt::Key_F12);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menu->addAction(tr("&Quit"), this, &QWidget::close, Qt::CTRL + Qt::Key_Q);
 }
 
 void MainWindow::makeEditMenu()
@@ -323,8 +324,10 @@ void MainWindow::makeViewMenu()
     before->takeKeyIn(*m_view);
     before->takeKeyIn(*m_tree);
     menu->addSeparator();
+    int number = 0;
     for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock, m_changesDock}) {
         before->leaveAlone(dock);
+        dock->toggleViewAction()->setShortcut(QStringLiteral("Ctrl+W, %1").arg(++number));
         menu->addAction(dock->toggleViewAction());
     }
     new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
@@ -338,10 +341,13 @@ void MainWindow::makeThemeMenu(QMenu& menu)
 {
     m_themeMenu = &menu;
     auto* group = new QActionGroup(&menu);
-    const std::pair<Theme, QString> entries[] = {
-        {Theme::System, tr("As the &System")}, {Theme::Dark, tr("&Dark")}, {Theme::Light, tr("&Light")}};
-    for (const auto& [theme, text] : entries) {
+    const std::tuple<Theme, QString, QString> entries[] = {
+        {Theme::System, tr("As the &System"), QStringLiteral("Ctrl+J, S")},
+        {Theme::Dark, tr("&Dark"), QStringLiteral("Ctrl+J, N")},
+        {Theme::Light, tr("&Light"), QStringLiteral("Ctrl+J, L")}};
+    for (const auto& [theme, text, key] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setShortcut(key);
         action->setData(themeName(theme));
         action->setCheckable(true);
         action->setChecked(theme == wantedTheme());
@@ -372,11 +378,12 @@ void MainWindow::makeHelpMenu()
                "Hide or show what is selected: H, show all: Shift+H, show nothing else: /.\n"
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
-    });
+    })->setShortcut(Qt::CTRL + Qt::Key_F1);
     menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
                     QKeySequence(Qt::Key_F1));
-    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
-    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
+    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); },
+                    Qt::SHIFT + Qt::Key_F1);
+    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout, Qt::CTRL + Qt::SHIFT + Qt::Key_F1);
 }
 
 void MainWindow::showAbout()

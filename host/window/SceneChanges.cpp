@@ -76,10 +76,12 @@ void SceneChanges::makeMenu()
 
 void SceneChanges::fillMenu(QMenu& menu)
 {
-    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
-    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave);
-    menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply);
+    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare, Qt::Key_F6);
+    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave,
+                   Qt::SHIFT + Qt::Key_F6);
+    menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply, Qt::CTRL + Qt::Key_F6);
     QAction* reapply = menu.addAction(tr("Reload and Reappl&y"), this, &SceneChanges::reloadAndReapply);
+    reapply->setShortcut(Qt::Key_F5);
     reapply->setToolTip(tr("Opens the file as it is by now, and makes your changes once more"));
     connect(&menu, &QMenu::aboutToShow, reapply,
             [this, reapply] { reapply->setEnabled(!m_document.getPath().isEmpty()); });

@@ -256,8 +256,8 @@ void SettingsActs::addToggles(std::vector<Setting>& settings) const
     const QMenu* view = qobject_cast<QMenu*>(m_parts.themes.parent());
     for (const MenuAct& act : acts) {
         const bool isOfView = view && view->actions().contains(act.action);
-        // What comes with a key is switched on for a while, such as measuring.
-        const bool isForAWhile = !act.action->shortcut().isEmpty() && m_keys->isShipped(*act.action);
+        // What comes with a single key is switched on for a while, such as measuring.
+        const bool isForAWhile = act.action->shortcut().count() == 1 && m_keys->isShipped(*act.action);
         const bool isKept = act.action->isCheckable() && !act.action->actionGroup();
         if (!isOfView || !isKept || isForAWhile || isDockToggle(m_parts.window, act.action))
             continue;

@@ -47,6 +47,7 @@ void TreeColumns::addColumn(int column)
     const QVariant kept = SettingsFile(UserSettings::windowFile()).value(settingsKey());
     const QStringList shown = kept.isValid() ? kept.toStringList() : QStringList("type");
     QAction* action = m_menu.addAction(m_tree.getModel().headerData(column, Qt::Horizontal).toString());
+    action->setShortcut(QStringLiteral("Ctrl+T, %1").arg(column));
     action->setCheckable(true);
     action->setChecked(shown.contains(SceneTreeModel::columnKey(column)));
     m_tree.setColumnShown(column, action->isChecked());
@@ -58,7 +59,9 @@ void TreeColumns::addColumn(int column)
 
 void TreeColumns::addOrder(const QString& text, int column, Qt::SortOrder order)
 {
-    m_menu.addAction(text, this, [this, column, order] { m_tree.sortRows(column, order); });
+    QAction* action = m_menu.addAction(text, this, [this, column, order] { m_tree.sortRows(column, order); });
+    // The columns have the digits before.
+    action->setShortcut(QStringLiteral("Ctrl+T, %1").arg(SceneTreeModel::ColumnCount + m_orders++));
 }
 
 void TreeColumns::keep()

@@ -28,6 +28,7 @@ private:
 
     QMenu& m_menu;
     SceneTreeView& m_tree;
+    int m_orders = 0; // so far in the menu
     UserNotifier& m_notifier;
 };
 

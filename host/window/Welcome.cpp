@@ -46,7 +46,9 @@ Welcome::Welcome(const Parts& parts, const QList<QAction*>& begin)
     , m_pageAction(new QAction(tr("&Start Page"), this))
 {
     m_tourAction->setObjectName(QStringLiteral("tourAction"));
+    m_tourAction->setShortcut(Qt::SHIFT + Qt::Key_F9);
     m_tourAction->setToolTip(tr("Five steps through this window"));
+    m_pageAction->setShortcut(Qt::Key_F9);
     m_pageAction->setObjectName(QStringLiteral("startPageAction"));
     for (QAction* act : begin)
         m_page->addAct(*act);

@@ -61,6 +61,8 @@ void PanelEditor::addMenus()
     m_filterAction->setShortcut(QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_F));
     connect(m_filterAction.get(), &QAction::triggered, this, &PanelEditor::filter);
     m_degreesAction = std::make_unique<QAction>(tr("An&gles in Degrees"));
+    m_degreesAction->setObjectName(QString::fromLatin1("anglesInDegrees"));
+    m_degreesAction->setShortcut(QKeySequence(QString::fromLatin1("Ctrl+J, D")));
     m_degreesAction->setCheckable(true);
     m_degreesAction->setChecked(PanelSettings::showsDegrees());
     connect(m_degreesAction.get(), &QAction::toggled, this, [this](bool degrees) {
