@@ -5,307 +5,307 @@
     <name>Scopix</name>
     <message>
         <source>%1 %2 instead of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 statt %3</translation>
     </message>
     <message>
         <source>Recordings of frames (*.xsgframes);;Comma-separated values (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen von Bildern (*.xsgframes);;Kommagetrennte Werte (*.csv)</translation>
     </message>
     <message>
         <source>Compare Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder vergleichen</translation>
     </message>
     <message>
         <source>Medians of %1 frames of “%2” before, and of %3 frames after. By the test of Mann and Whitney; bold where chance alone would do it less than once in a hundred.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediane von %1 Bildern von „%2“ vorher und von %3 Bildern nachher. Nach dem Test von Mann und Whitney; fett, was der Zufall allein in weniger als einem von hundert Fällen täte.</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede</translation>
     </message>
     <message>
         <source>Counter</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung</translation>
     </message>
     <message>
         <source>Chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufall</translation>
     </message>
     <message>
         <source>Measure Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten messen</translation>
     </message>
     <message>
         <source>What does each part of the scene cost? It is drawn part by part to find out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was kostet jeder Teil der Szene? Um das herauszufinden, wird sie Teil für Teil gezeichnet.</translation>
     </message>
     <message>
         <source>Areas: time</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen: Zeit</translation>
     </message>
     <message>
         <source>Areas: triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen: Dreiecke</translation>
     </message>
     <message>
         <source>Areas: memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen: Speicher</translation>
     </message>
     <message>
         <source>Areas: bodies</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen: Körper</translation>
     </message>
     <message>
         <source>What the areas tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Flächen bedeuten</translation>
     </message>
     <message>
         <source>Cost of each branch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten jedes Zweigs</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>Time, ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit, ms</translation>
     </message>
     <message>
         <source>±, ms</source>
-        <translation type="unfinished"></translation>
+        <translation>±, ms</translation>
     </message>
     <message>
         <source>Processor, ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessor, ms</translation>
     </message>
     <message>
         <source>Graphics card, ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafikkarte, ms</translation>
     </message>
     <message>
         <source>Triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreiecke</translation>
     </message>
     <message>
         <source>Bodies</source>
-        <translation type="unfinished"></translation>
+        <translation>Körper</translation>
     </message>
     <message>
         <source>Draw calls</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenaufrufe</translation>
     </message>
     <message>
         <source>Memory, kB</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicher, kB</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweise</translation>
     </message>
     <message>
         <source>The cost cannot be told: no scene is open; open one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kosten lassen sich nicht bestimmen: Keine Szene ist geöffnet; öffne zuerst eine.</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Measuring: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Messung: %1 %</translation>
     </message>
     <message>
         <source>The whole takes %1 ± %2, its parts drawn alone %3 together; an empty picture takes %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ganze braucht %1 ± %2, seine Teile einzeln gezeichnet zusammen %3; ein leeres Bild braucht %4.</translation>
     </message>
     <message>
         <source>Nothing conspicuous</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts Auffälliges</translation>
     </message>
     <message>
         <source>“%1” was not drawn alone: it is a small part of the whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht einzeln gezeichnet: Es ist ein kleiner Teil des Ganzen.</translation>
     </message>
     <message>
         <source>Without “%1” a picture would take %2 instead of %3, and look the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne „%1“ bräuchte ein Bild %2 statt %3 und sähe gleich aus.</translation>
     </message>
     <message>
         <source>Without “%1” a picture would take %2 instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne „%1“ bräuchte ein Bild %2 statt %3.</translation>
     </message>
     <message>
         <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kosten lassen sich nicht bestimmen: Die Szene hat sich inzwischen geändert; halte an, was sich bewegt, und miss noch einmal.</translation>
     </message>
     <message>
         <source>The cost cannot be told: the view has moved meanwhile; let it stand still and measure again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kosten lassen sich nicht bestimmen: Die Ansicht hat sich inzwischen bewegt; lass sie stehen und miss noch einmal.</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Each frame that is drawn comes here as a bar: turn the view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes gezeichnete Bild erscheint hier als Balken: Drehe die Ansicht.</translation>
     </message>
     <message>
         <source>No frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Bilder</translation>
     </message>
     <message>
         <source>%1 frames: longest %2, mean %3, 95 % within %4, 99 % within %5; %6 over %7</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bilder: längstes %2, Mittel %3, 95 % bis %4, 99 % bis %5; %6 über %7</translation>
     </message>
     <message>
         <source>This frame took %1, its neighbours %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild brauchte %1, seine Nachbarn %2</translation>
     </message>
     <message>
         <source>Nothing else was different</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst war nichts anders</translation>
     </message>
     <message>
         <source>The recording “%1” cannot be continued: %2. What was written so far can be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzeichnung „%1“ lässt sich nicht fortsetzen: %2. Was bisher geschrieben wurde, lässt sich öffnen.</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stand still and look at what was (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten und ansehen, was war (Leertaste)</translation>
     </message>
     <message>
         <source>Record…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnen …</translation>
     </message>
     <message>
         <source>Write what comes to a file, until this is chosen again</source>
-        <translation type="unfinished"></translation>
+        <translation>Was kommt, in eine Datei schreiben, bis das noch einmal gewählt wird</translation>
     </message>
     <message>
         <source>Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen …</translation>
     </message>
     <message>
         <source>Look at a recording, or at a table of comma-separated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aufzeichnung oder eine Tabelle kommagetrennter Werte ansehen</translation>
     </message>
     <message>
         <source>Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern …</translation>
     </message>
     <message>
         <source>Save what is here as a recording, or as comma-separated values</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier steht, als Aufzeichnung oder als kommagetrennte Werte speichern</translation>
     </message>
     <message>
         <source>Compare…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen …</translation>
     </message>
     <message>
         <source>Compare what is here with a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier steht, mit einer Aufzeichnung vergleichen</translation>
     </message>
     <message>
         <source>Back to the Program</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück zum Programm</translation>
     </message>
     <message>
         <source>Budget of a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget eines Bildes</translation>
     </message>
     <message>
         <source>What a frame may take</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Bild brauchen darf</translation>
     </message>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>Counter or formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler oder Formel</translation>
     </message>
     <message>
         <source>Counter or formula, as in rate(Triangles)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler oder Formel, wie in rate(Triangles)</translation>
     </message>
     <message>
         <source>A counter, or a formula such as Triangles / DrawCalls, rate(x) or mean(x, 2s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zähler oder eine Formel wie Triangles / DrawCalls, rate(x) oder mean(x, 2s)</translation>
     </message>
     <message>
         <source>“%1” cannot be shown: there are %2 curves already; take one out first.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht zeigen: Es gibt schon %2 Kurven; nimm zuerst eine heraus.</translation>
     </message>
     <message>
         <source>“%1” cannot be shown: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht zeigen: %2</translation>
     </message>
     <message>
         <source>▔ Gpu</source>
-        <translation type="unfinished"></translation>
+        <translation>▔ Gpu</translation>
     </message>
     <message>
         <source>Take “%1” out</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ herausnehmen</translation>
     </message>
     <message>
         <source>%1 %2: take out</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2: herausnehmen</translation>
     </message>
     <message>
         <source>; recording, %1 frames so far</source>
-        <translation type="unfinished"></translation>
+        <translation>; Aufzeichnung, bisher %1 Bilder</translation>
     </message>
     <message>
         <source>Choose a frame to see what was different about it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wähle ein Bild, um zu sehen, was daran anders war.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht schreiben: %2. Wähle einen anderen Ort.</translation>
     </message>
     <message>
         <source>Save Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder speichern</translation>
     </message>
     <message>
         <source>Open Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder öffnen</translation>
     </message>
     <message>
         <source>Frames (*.xsgframes *.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.xsgframes *.csv)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be opened: %2. Choose a recording of frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ lässt sich nicht öffnen: %2. Wähle eine Aufzeichnung von Bildern.</translation>
     </message>
     <message>
         <source>Costs as areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten als Flächen</translation>
     </message>
 </context>
 </TS>

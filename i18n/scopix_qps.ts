@@ -2486,6 +2486,14 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
         <translation>[Àš ţĥé šýšţém ~~~~~]</translation>
     </message>
     <message>
+        <source>Language</source>
+        <translation>[Làñĝûàĝé ~~~]</translation>
+    </message>
+    <message>
+        <source>The texts of the default extensions are in English.</source>
+        <translation>[Ţĥé ţéxţš öf ţĥé défàûlţ éxţéñšîöñš àŕé îñ Éñĝlîšĥ. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>3D View</source>
         <translation>[3D Vîéw ~~~]</translation>
     </message>

@@ -15,6 +15,8 @@ scopix_build_packages=(
   "libqt5svg5-dev|icons, sharp at every pixel density"
   "libqwt-qt5-dev|plots of the performance counters"
   "libepoxy-dev|calls OpenGL"
+  "qttools5-dev|finds what compiles translations"
+  "qttools5-dev-tools|compiles translations"
   "libassimp-dev|reads model files"
   "zlib1g-dev|unpacks model files, beside libassimp-dev"
   "libeigen3-dev|linear algebra of the scene-graph library"
@@ -48,8 +50,6 @@ scopix_package_packages=(
   "dpkg-dev|builds Debian packages"
   "debhelper|the steps of such a build"
   "doxygen|the reference of the public headers"
-  "qttools5-dev|compiles translations"
-  "qttools5-dev-tools|compiles translations"
   "lintian|checks the packages"
 )
 # For tools/package --test.

@@ -95,5 +95,6 @@ int main(int argc, char** argv)
     // window.
     if (QApplication::platformName() == QLatin1String("offscreen"))
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    scopix::HostApplication::speakUsersLanguage();
     return scopix::EndOfSession::endWith(run(line));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/SettingsActs.h"
 
+#include "language/Languages.h"
 #include "preferences/KeysPage.h"
 #include "preferences/PluginsPage.h"
 #include "preferences/PreferencesDialog.h"
@@ -159,6 +160,26 @@ Setting SettingsActs::fontSize() const
     return setting;
 }
 
+Setting SettingsActs::language() const
+{
+    Setting setting;
+    setting.key = QStringLiteral("language");
+    setting.page = tr("Appearance");
+    setting.label = tr("Language");
+    setting.help = tr("The texts of the default extensions are in English.");
+    setting.kind = Setting::Kind::Choice;
+    setting.choices.append({QString(), tr("As the system")});
+    for (const QString& each : Languages::shipped())
+        setting.choices.append({each, Languages::nameOf(each)});
+    setting.shipped = QString();
+    setting.get = [key = setting.key] { return kept(key, QString()); };
+    setting.set = [key = setting.key](const QVariant& language) {
+        Languages::instance()->speak(language.toString());
+        return keep(key, language);
+    };
+    return setting;
+}
+
 Setting SettingsActs::mouse() const
 {
     Setting setting;
@@ -281,6 +302,8 @@ std::vector<Setting> SettingsActs::settings() const
 {
     std::vector<Setting> all{theme(),         fontSize(),    mouse(),        undoMemory(),
                              pictureMemory(), creaseAngle(), autosavePause()};
+    if (Languages::instance())
+        all.insert(all.begin() + 2, language());
     addToggles(all);
     return all;
 }

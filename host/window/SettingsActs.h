@@ -51,6 +51,7 @@ public:
 private:
     Setting theme() const;
     Setting fontSize() const;
+    Setting language() const;
     Setting mouse() const;
     Setting undoMemory() const;
     Setting pictureMemory() const;

@@ -3,6 +3,8 @@
 
 #include "app/HostSession.h"
 #include "window/MainWindow.h"
+#include "window/PaletteActs.h"
+#include "window/SettingsActs.h"
 
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -15,13 +17,19 @@
 class WholeWindow : public testing::Test
 {
 protected:
-    WholeWindow()
+    enum class Later { No, Yes };
+
+    /// Later: the test makes the window.
+    explicit WholeWindow(Later later = Later::No)
     {
         qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
         qputenv("XDG_DATA_HOME", m_folder.path().toUtf8());
-        make();
+        if (later == Later::No)
+            make();
     }
-    ~WholeWindow() override { m_session.reset(); }
+    ~WholeWindow() override { end(); }
+
+    void end() { m_session.reset(); }
 
     void make()
     {
