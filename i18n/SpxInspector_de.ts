@@ -4,6 +4,18 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Pinned Panels</source>
+        <translation>Angeheftete Panels</translation>
+    </message>
+    <message>
+        <source>Panels that stay with their nodes, whatever is selected.</source>
+        <translation>Panels, die bei ihren Knoten bleiben, was auch ausgewählt wird.</translation>
+    </message>
+    <message>
+        <source>Shows a list as a wide table.</source>
+        <translation>Zeigt eine Liste als breite Tabelle.</translation>
+    </message>
+    <message>
         <source>red</source>
         <translation>Rot</translation>
     </message>

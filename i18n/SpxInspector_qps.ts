@@ -4,6 +4,18 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Pinned Panels</source>
+        <translation>[Pîññéd Pàñélš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Panels that stay with their nodes, whatever is selected.</source>
+        <translation>[Pàñélš ţĥàţ šţàý wîţĥ ţĥéîŕ ñödéš, wĥàţévéŕ îš šéléçţéd. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Shows a list as a wide table.</source>
+        <translation>[Šĥöwš à lîšţ àš à wîdé ţàblé. ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>red</source>
         <translation>[ŕéd ~]</translation>
     </message>

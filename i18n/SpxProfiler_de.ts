@@ -4,6 +4,22 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Cost</source>
+        <translation>Kosten</translation>
+    </message>
+    <message>
+        <source>Measures what each branch of the scene costs.</source>
+        <translation>Misst, was jeder Zweig der Szene kostet.</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Shows what each frame cost, and why.</source>
+        <translation>Zeigt, was jedes Bild gekostet hat und warum.</translation>
+    </message>
+    <message>
         <source>%1 %2 instead of %3</source>
         <translation>%1 %2 statt %3</translation>
     </message>
@@ -154,10 +170,6 @@
     <message>
         <source>The cost cannot be told: the view has moved meanwhile; let it stand still and measure again.</source>
         <translation>Die Kosten lassen sich nicht bestimmen: Die Ansicht hat sich inzwischen bewegt; lass sie stehen und miss noch einmal.</translation>
-    </message>
-    <message>
-        <source>Frames</source>
-        <translation>Bilder</translation>
     </message>
     <message>
         <source>Each frame that is drawn comes here as a bar: turn the view.</source>

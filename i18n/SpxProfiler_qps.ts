@@ -4,6 +4,22 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Cost</source>
+        <translation>[Çöšţ ~~]</translation>
+    </message>
+    <message>
+        <source>Measures what each branch of the scene costs.</source>
+        <translation>[Méàšûŕéš wĥàţ éàçĥ bŕàñçĥ öf ţĥé šçéñé çöšţš. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>[Fŕàméš ~~]</translation>
+    </message>
+    <message>
+        <source>Shows what each frame cost, and why.</source>
+        <translation>[Šĥöwš wĥàţ éàçĥ fŕàmé çöšţ, àñd wĥý. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1 %2 instead of %3</source>
         <translation>[%1 %2 îñšţéàd öf %3 ~~~~~~~~]</translation>
     </message>
@@ -154,10 +170,6 @@
     <message>
         <source>The cost cannot be told: the view has moved meanwhile; let it stand still and measure again.</source>
         <translation>[Ţĥé çöšţ çàññöţ bé ţöld: ţĥé vîéw ĥàš mövéd méàñwĥîlé; léţ îţ šţàñd šţîll àñd méàšûŕé àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Frames</source>
-        <translation>[Fŕàméš ~~]</translation>
     </message>
     <message>
         <source>Each frame that is drawn comes here as a bar: turn the view.</source>

@@ -123,6 +123,8 @@ QString Languages::look(const char* context, const char* source, const char* com
 
 QString Languages::translate(const char* context, const char* source, const char* comment, int n) const
 {
+    if (qstrlen(source) == 0)
+        return {};
     const QMutexLocker lock(&m_mutex);
     const QString text = look(context, source, comment, n);
     m_said.insert(text.isEmpty() ? QString::fromUtf8(source) : text, {context, source, comment});

@@ -130,7 +130,8 @@ QString HostShell::captionOf(const SpxExtension* extension) const
         if (each.owner == extension && each.widget && !each.widget->windowTitle().isEmpty())
             return each.widget->windowTitle();
     }
-    return nameOf(extension);
+    // In the plug-in's own words for the user, where it has some.
+    return QCoreApplication::translate("Extension", qUtf8Printable(nameOf(extension)));
 }
 
 void HostShell::forget(const SpxExtension* extension)

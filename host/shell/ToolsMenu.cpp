@@ -49,7 +49,7 @@ QAction* ToolsMenu::makeEntry(SpxExtension* extension)
     };
     showCaption();
     connect(&m_menu, &QMenu::aboutToShow, entry, showCaption); // an extension may get its title later
-    entry->setStatusTip(QString::fromUtf8(extension->getDescription().getString()));
+    entry->setStatusTip(QCoreApplication::translate("Extension", extension->getDescription().getString()));
     entry->setCheckable(true);
     entry->setChecked(extension->isShown());
     connect(extension, &SpxExtension::shownChanged, entry, &QAction::setChecked);

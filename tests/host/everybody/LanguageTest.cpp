@@ -6,6 +6,7 @@
 
 #include "language/Languages.h"
 #include "language/ShownTexts.h"
+#include "palette/CommandPalette.h"
 #include "preferences/PreferencesDialog.h"
 #include "window/SettingsActs.h"
 
@@ -52,17 +53,26 @@ protected:
         : Spoken("qps")
     {
     }
-    // From its first bracket to the one that closes it: nothing was put together of parts.
-    static bool isWhole(const QString& text)
+    // What stands outside of all brackets: without words where the text was not put together of parts, but
+    // for the items of a list and for whole sentences.
+    static QString outside(const QString& text)
     {
-        const QString trimmed = text.trimmed();
+        QString rest;
         int depth = 0;
-        for (int i = 0; i < trimmed.size(); ++i) {
-            depth += trimmed[i] == '[' ? 1 : trimmed[i] == ']' ? -1 : 0;
-            if (depth == 0 && i + 1 < trimmed.size())
-                return false;
+        for (const QChar each : text) {
+            depth += each == '[' ? 1 : 0;
+            if (depth == 0)
+                rest += each;
+            else if (each == ']' && --depth == 0)
+                rest += QChar(0x25a1); // for what is translated
         }
-        return trimmed.startsWith('[') && trimmed.endsWith(']');
+        return rest;
+    }
+    static bool isWhole(const ShownText& shown)
+    {
+        const QString rest = outside(shown.text);
+        static const QRegularExpression Glued("\\x{25a1}\\s*\\x{25a1}");
+        return !rest.contains(Glued) && isOfThisSystem({rest, shown.where, shown.isPrescribed});
     }
 };
 
@@ -79,8 +89,8 @@ TEST_F(PseudoLanguage, ShowsNoTextThatIsNotTranslatedOrPutTogether)
     for (const ShownText& each : textsShown(*window)) {
         if (isOfThisSystem(each))
             continue;
-        translated += isWhole(each.text) ? 1 : 0;
-        EXPECT_TRUE(isWhole(each.text)) << each.where.toStdString() << ": " << each.text.toStdString();
+        ++translated;
+        EXPECT_TRUE(isWhole(each)) << each.where.toStdString() << ": " << each.text.toStdString();
     }
     EXPECT_GT(translated, 400);
 }
@@ -108,10 +118,12 @@ TEST_F(Spoken, ChangesWhileTheWindowIsOpen)
     EXPECT_TRUE(window->findChild<QDockWidget*>("sceneDock")->windowTitle() == "Szene");
     choose("en");
     delete dialog;
-    const auto again = textsShown(*window);
-    ASSERT_EQ(again.size(), english.size());
-    for (std::size_t i = 0; i < english.size(); ++i)
-        EXPECT_EQ(again[i].text, english[i].text) << english[i].where.toStdString();
+    QSet<QString> again;
+    for (const ShownText& each : textsShown(*window))
+        again.insert(each.where + each.text);
+    EXPECT_GT(english.size(), 800U);
+    for (const ShownText& each : english)
+        EXPECT_TRUE(again.contains(each.where + each.text)) << (each.where + each.text).toStdString();
 }
 
 TEST_F(Spoken, WhatTheUserChoseIsSpokenNextTime)

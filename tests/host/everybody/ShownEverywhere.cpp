@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShownEverywhere.h"
 
+#include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldData.h>
 #include <xsg/nodes/base/SoNode.h>
 #include <xsg/types/SoType.h>
@@ -27,6 +28,14 @@ bool isOfDefaults(const QObject& object)
     return false;
 }
 
+// Parts of Qt's own widgets, which its own catalogues translate.
+bool isOfQt(const QObject& object)
+{
+    const QString name = object.objectName();
+    return name.startsWith("qt_dockwidget_") || name.startsWith("qt_keysequenceedit_") ||
+           name.startsWith("Scroll");
+}
+
 QString pathOf(const QObject& object)
 {
     QStringList parts;
@@ -38,6 +47,8 @@ QString pathOf(const QObject& object)
 
 void add(const QObject& object, std::vector<ShownText>& texts)
 {
+    if (isOfQt(object))
+        return;
     const bool isPrescribed = isOfDefaults(object);
     const auto note = [&](const QString& text, const char* what) {
         if (!text.isEmpty())
@@ -65,6 +76,8 @@ QSet<QString> namesOfTheLibrary()
                         "Y",      "Z",       "RGB",     "HSV",   "sRGB",    "MiB",     "ms",       "pt",
                         "Default", "Classic", "Euler",  "hex",   "lin",     "x",       "y",        "z",
                         "F1",     "Tab",     "Ctrl",    "Shift", "Alt",     "Esc",     "Del",      "SpxDefaults"};
+    for (const SoType type : SoType::getAllDerivedFrom(SoField::getClassTypeId()))
+        names.insert(type.getName().getString());
     for (const SoType type : SoType::getAllDerivedFrom(SoFieldContainer::getClassTypeId())) {
         names.insert(type.getName().getString());
         if (!type.canCreateInstance())
@@ -74,6 +87,14 @@ QSet<QString> namesOfTheLibrary()
             names.insert(made->getFieldData()->getFieldName(i).getString());
     }
     return names;
+}
+
+// Names of nodes and of counters, and what the reference of nodes says (decisions.md: reference-in-english).
+bool isData(const ShownText& text)
+{
+    return text.where.contains("#breadcrumb") || text.where.contains("#curveInput") ||
+           text.where.contains("#legend") || text.where.contains("#nodeTitle") ||
+           (text.where.contains("#row") && text.where.endsWith("accessibleDescription"));
 }
 
 } // namespace
@@ -95,7 +116,7 @@ bool isOfThisSystem(const ShownText& text)
 {
     static const QSet<QString> Names = namesOfTheLibrary();
     static const QRegularExpression Word("[^\\W\\d_][\\w]*");
-    if (text.isPrescribed)
+    if (text.isPrescribed || isData(text))
         return true;
     for (auto each = Word.globalMatch(text.text); each.hasNext();) {
         if (!Names.contains(each.next().captured()))
