@@ -413,11 +413,11 @@
     </message>
     <message>
         <source>choose a file</source>
-        <translation>Datei wählen</translation>
+        <translation>Datei auswählen</translation>
     </message>
     <message>
         <source>Choose a File</source>
-        <translation>Datei wählen</translation>
+        <translation>Eine Datei wählen</translation>
     </message>
     <message>
         <source>no node</source>
@@ -729,11 +729,11 @@
     </message>
     <message>
         <source>Copy Pat&amp;h</source>
-        <translation>&amp;Pfad kopieren</translation>
+        <translation>Pf&amp;ad kopieren</translation>
     </message>
     <message>
         <source>Copy as C+&amp;+</source>
-        <translation>Als C&amp;++ kopieren</translation>
+        <translation>Als &amp;C++ kopieren</translation>
     </message>
     <message>
         <source>&amp;Reset All to Defaults</source>
@@ -990,6 +990,10 @@
     <message>
         <source>“%1” was not read, since line %2 %3; correct the file and try again.</source>
         <translation>„%1“ wurde nicht gelesen, denn Zeile %2 %3; berichtige die Datei und versuche es noch einmal.</translation>
+    </message>
+    <message>
+        <source>A list as a table</source>
+        <translation>Eine Liste als Tabelle</translation>
     </message>
     <message>
         <source>%1, a list of %2 values, type %3</source>

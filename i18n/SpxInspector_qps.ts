@@ -992,6 +992,10 @@
         <translation>[“%1” wàš ñöţ ŕéàd, šîñçé lîñé %2 %3; çöŕŕéçţ ţĥé fîlé àñd ţŕý àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>A list as a table</source>
+        <translation>[À lîšţ àš à ţàblé ~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1, a list of %2 values, type %3</source>
         <translation>[%1, à lîšţ öf %2 vàlûéš, ţýpé %3 ~~~~~~~~~~~~~]</translation>
     </message>

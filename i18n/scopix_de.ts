@@ -585,7 +585,7 @@ scopix --launch PROGRAM starts one.</source>
     </message>
     <message>
         <source>Insert “%1”</source>
-        <translation>„%1“ einfügen</translation>
+        <translation>„%1“ aus Datei einfügen</translation>
     </message>
     <message>
         <source>No node is selected: select one in the tree or in the view first.</source>
@@ -1113,7 +1113,7 @@ scopix --launch PROGRAM starts one.</source>
     </message>
     <message>
         <source>&amp;Put Back</source>
-        <translation>&amp;Wiederherstellen</translation>
+        <translation>Zurück&amp;holen</translation>
     </message>
     <message>
         <source>&amp;Leave As It Is</source>
@@ -1145,7 +1145,7 @@ scopix --launch PROGRAM starts one.</source>
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation>&amp;Löschen</translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>As S&amp;hipped</source>
@@ -1217,7 +1217,7 @@ scopix --launch PROGRAM starts one.</source>
     </message>
     <message>
         <source>&amp;Detach</source>
-        <translation>Verbindung &amp;trennen</translation>
+        <translation>Verbindung &amp;beenden</translation>
     </message>
     <message>
         <source>Take My Changes &amp;Back</source>
@@ -1543,7 +1543,7 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     </message>
     <message>
         <source>&amp;Nodes</source>
-        <translation>&amp;Knoten</translation>
+        <translation>&amp;Knotenarten</translation>
     </message>
     <message>
         <source>&amp;About Scopix</source>
@@ -2195,11 +2195,11 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation>&amp;Umbenennen</translation>
+        <translation>U&amp;mbenennen</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>&amp;Löschen</translation>
+        <translation>L&amp;öschen</translation>
     </message>
     <message>
         <source>“Default” controls every extension and stays as it is.</source>
@@ -2947,7 +2947,7 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     </message>
     <message>
         <source>Put %1 Above</source>
-        <translation>%1 darübersetzen</translation>
+        <translation>%1 darüber einsetzen</translation>
     </message>
     <message>
         <source>%1 stands in one place only, and is its own already.</source>

@@ -55,6 +55,7 @@ TypeChooser::TypeChooser(const std::vector<SoType>& types, const QString& title,
     setObjectName(QStringLiteral("typeChooser"));
     setWindowTitle(title);
     m_line->setPlaceholderText(tr("Type a part of the name"));
+    m_line->setAccessibleName(tr("Type a part of the name"));
     m_line->installEventFilter(this);
     m_list->setIconSize({16, 16}); // the grid that the icons are drawn on
     m_list->setAccessibleName(tr("Types of nodes"));

@@ -19,6 +19,7 @@
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
+#include "theme/FocusRing.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
@@ -159,6 +160,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
     new FrameMarks(m_services, m_files.getDocument(), this);
+    new FocusRing(*this);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -197,6 +199,7 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 void MainWindow::makeDocks()
 {
     m_treeDock = addDock(m_scenePanel, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
+    m_tree->setAccessibleName(tr("Scene"));
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
     auto* history = new QUndoView(&m_services.undoStack());
     history->setObjectName(QStringLiteral("history"));

@@ -28,7 +28,7 @@ inline QString shownText(const QWidget& widget)
     if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
         return combo->currentText();
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
+        return label->buddy() ? QString(label->text()).remove('&') : label->text();
     return {};
 }
 

@@ -70,7 +70,7 @@ protected:
     }
     static bool isWhole(const ShownText& shown)
     {
-        const QString rest = outside(shown.text);
+        const QString rest = outside(QString(shown.text).remove("[*]")); // where Qt marks what is changed
         static const QRegularExpression Glued("\\x{25a1}\\s*\\x{25a1}");
         return !rest.contains(Glued) && isOfThisSystem({rest, shown.where, shown.isPrescribed});
     }

@@ -18,11 +18,16 @@ constexpr const char* Properties[] = {"text",         "title",           "window
 // The docks and tool bars of the default extensions, by the names that scripts find them by.
 bool isOfDefaults(const QObject& object)
 {
-    static const QStringList Names{"Console", "Performance Counter", "Field Editor", "Profile Selector"};
+    static const QStringList Names{"Console", "Performance Counter", "Field Editor", "Profile Selector",
+                                   "Node Editor"};
+    const auto* entry = qobject_cast<const QAction*>(&object);
+    if (entry && Names.contains(entry->text()))
+        return true;
     for (const QObject* each = &object; each; each = each->parent()) {
         const auto* dock = qobject_cast<const QDockWidget*>(each);
         const auto* bar = qobject_cast<const QToolBar*>(each);
-        if ((dock && Names.contains(dock->windowTitle())) || (bar && bar->objectName() != "mainToolBar"))
+        if ((dock && each == &object && Names.contains(dock->windowTitle())) ||
+            (dock && dock->windowTitle() != Names.last() && Names.contains(dock->windowTitle())) || (bar && bar->objectName() != "mainToolBar"))
             return true;
     }
     return false;
@@ -75,7 +80,8 @@ QSet<QString> namesOfTheLibrary()
     QSet<QString> names{"Scopix", "Blender", "Godot",   "Maya",  "Deutsch", "English", "Material", "X",
                         "Y",      "Z",       "RGB",     "HSV",   "sRGB",    "MiB",     "ms",       "pt",
                         "Default", "Classic", "Euler",  "hex",   "lin",     "x",       "y",        "z",
-                        "F1",     "Tab",     "Ctrl",    "Shift", "Alt",     "Esc",     "Del",      "SpxDefaults"};
+                        "F1",     "Tab",     "Ctrl",    "Shift", "Alt",     "Esc",     "Del",      "Ins",
+                        "Up",     "Down"};
     for (const SoType type : SoType::getAllDerivedFrom(SoField::getClassTypeId()))
         names.insert(type.getName().getString());
     for (const SoType type : SoType::getAllDerivedFrom(SoFieldContainer::getClassTypeId())) {
@@ -92,8 +98,7 @@ QSet<QString> namesOfTheLibrary()
 // Names of nodes and of counters, and what the reference of nodes says (decisions.md: reference-in-english).
 bool isData(const ShownText& text)
 {
-    return text.where.contains("#breadcrumb") || text.where.contains("#curveInput") ||
-           text.where.contains("#legend") || text.where.contains("#nodeTitle") ||
+    return text.text.startsWith("<span style") || text.where.contains("#breadcrumb") || text.where.contains("#curveInput") || text.where.contains("#nodeTitle") ||
            (text.where.contains("#row") && text.where.endsWith("accessibleDescription"));
 }
 

@@ -152,22 +152,25 @@ protected:
         if (wanted.isEmpty())
             return;
         root.window()->activateWindow();
-        wanted.first()->setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(root.window()));
+        wanted.first()->setFocus(Qt::ShortcutFocusReason);
+        std::string way; // that Tab went
         const int most = 40 + 4 * inputsOf(*root.window()).size();
         for (int step = 0; step < most && !wanted.isEmpty(); ++step) {
             QWidget* here = QApplication::focusWidget();
             if (!here)
                 break;
+            way += "\n  after " + pathOf(*here);
             if (wanted.removeOne(here))
                 meet(*here);
             goOn();
             EXPECT_NE(QApplication::focusWidget(), inputsOf(*root.window()).size() > 1 ? here : nullptr)
                 << "Tab goes no further than " << pathOf(*here);
             if (QApplication::focusWidget() == here)
-                return;
+                break;
         }
         for (const QWidget* each : qAsConst(wanted))
-            ADD_FAILURE() << "not reached by Tab: " << pathOf(*each);
+            ADD_FAILURE() << "not reached by Tab: " << pathOf(*each) << way;
     }
     static QImage look(const QWidget& widget)
     {
@@ -207,7 +210,7 @@ TEST_F(EveryWidget, IsReachedByTabAndShowsThat)
             widget.clearFocus();
             settle();
             const QImage without = look(widget);
-            widget.setFocus(Qt::TabFocusReason);
+            widget.setFocus(Qt::ShortcutFocusReason);
             EXPECT_NE(with, without) << "no visible focus: " << pathOf(widget);
         });
     });
