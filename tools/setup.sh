@@ -26,6 +26,7 @@ scopix_build_packages=(
 )
 scopix_test_packages=(
   "libgtest-dev|the test framework"
+  "python3|finds texts that are not translated"
   "xvfb|a private display for tests with real windows"
   "xauth|keeps that display private"
   "assimp-testmodels|models of many kinds, which have to open"

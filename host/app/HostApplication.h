@@ -35,9 +35,9 @@ public:
     /// Unloads the plug-ins while the window still stands.
     ~HostApplication() override;
 
-    /// Call it before the inspector is made to have its texts, and those of its plug-ins, in the user's language,
-    /// as the program `scopix` has it: the settings say which, or else the system. It installs a translator in
-    /// the QApplication; without it, the inspector speaks English.
+    /// Call it before the inspector is made to have its texts, and those of its plug-ins, in the user's
+    /// language, as the program `scopix` has it: the settings say which, or else the system. It installs a
+    /// translator in the QApplication; without it, the inspector speaks English.
     static void speakUsersLanguage();
     /// Call it before start() to have each plug-in that is new or has changed loaded in a process of its own
     /// first, as the program `scopix` has it: its initialisers and its loadPlugin() run there once more. What

@@ -16,9 +16,9 @@ namespace scopix
 namespace
 {
 
-// Each catalogue holds a text once, whatever class says it.
+// Each catalogue holds a text once, whatever class says it (decisions.md: one-text-once).
 constexpr auto OwnContext = "Scopix";
-constexpr auto OfQt = "qtbase";
+constexpr auto OfQt = "qtbase"; // decisions.md: parts-of-qt
 
 QString systemLanguage()
 {
@@ -100,7 +100,7 @@ void Languages::read(const QString& catalogue)
 {
     QFile file(fileOf(catalogue, m_language));
     if (!file.open(QIODevice::ReadOnly))
-        return; // its texts stay in English
+        return; // its texts stay in English (decisions.md: default-texts)
     auto read = std::make_unique<Catalogue>();
     read->content = file.readAll();
     const auto* bytes = reinterpret_cast<const uchar*>(read->content.constData());

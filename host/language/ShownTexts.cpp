@@ -15,9 +15,18 @@ namespace scopix
 namespace
 {
 
-constexpr const char* Properties[] = {"text",         "title",           "windowTitle",    "toolTip",
-                                      "statusTip",    "whatsThis",       "placeholderText", "accessibleName",
-                                      "accessibleDescription", "suffix", "prefix",          "specialValueText"};
+constexpr const char* Properties[] = {"text",
+                                      "title",
+                                      "windowTitle",
+                                      "toolTip",
+                                      "statusTip",
+                                      "whatsThis",
+                                      "placeholderText",
+                                      "accessibleName",
+                                      "accessibleDescription",
+                                      "suffix",
+                                      "prefix",
+                                      "specialValueText"};
 
 QString translated(const Languages& languages, const Languages::Asked& asked)
 {

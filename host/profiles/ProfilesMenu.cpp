@@ -46,7 +46,8 @@ void ProfilesMenu::refill()
                 [this, name] { m_profiles.setActiveProfile(m_profiles.findProfile(name)); });
     }
     m_menu.addSeparator();
-    QAction* manageEntry = m_menu.addAction(tr("&Manage Profiles…"), this, &ProfilesMenu::manage, QStringLiteral("Ctrl+P, M"));
+    QAction* manageEntry =
+        m_menu.addAction(tr("&Manage Profiles…"), this, &ProfilesMenu::manage, QStringLiteral("Ctrl+P, M"));
     manageEntry->setObjectName(QStringLiteral("manageProfiles"));
 }
 

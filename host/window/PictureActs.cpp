@@ -48,9 +48,11 @@ PictureActs::PictureActs(QMenu& menu, QWidget& window, SceneView& view, UserNoti
     , m_view(view)
     , m_notifier(notifier)
 {
-    menu.addAction(tr("Save &Picture…"), this, [this] { ask(false); }, Qt::Key_F12)
+    menu.addAction(
+            tr("Save &Picture…"), this, [this] { ask(false); }, Qt::Key_F12)
         ->setObjectName(QStringLiteral("savePictureAction"));
-    menu.addAction(tr("Save &Turntable…"), this, [this] { ask(true); }, Qt::SHIFT + Qt::Key_F12)
+    menu.addAction(
+            tr("Save &Turntable…"), this, [this] { ask(true); }, Qt::SHIFT + Qt::Key_F12)
         ->setObjectName(QStringLiteral("saveTurntableAction"));
 }
 

@@ -77,8 +77,7 @@ void SceneChanges::makeMenu()
 void SceneChanges::fillMenu(QMenu& menu)
 {
     menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare, Qt::Key_F6);
-    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave,
-                   Qt::SHIFT + Qt::Key_F6);
+    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave, Qt::SHIFT + Qt::Key_F6);
     menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply, Qt::CTRL + Qt::Key_F6);
     QAction* reapply = menu.addAction(tr("Reload and Reappl&y"), this, &SceneChanges::reloadAndReapply);
     reapply->setShortcut(Qt::Key_F5);

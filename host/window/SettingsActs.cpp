@@ -313,9 +313,10 @@ void SettingsActs::open(const QString& setting)
     delete m_dialog;
     m_dialog = new PreferencesDialog(settings(), &m_parts.window);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-    auto* keys = new KeysPage(*m_keys);
+    auto* keys = new KeysPage(*m_keys, m_dialog);
     m_dialog->addPage(tr("Keys"), keys, tr("keyboard shortcuts presets Blender Godot Maya"));
-    m_dialog->addPage(tr("Plug-ins"), new PluginsPage(m_plugins()), tr("extensions tools loaded refused"));
+    m_dialog->addPage(tr("Plug-ins"), new PluginsPage(m_plugins(), m_dialog),
+                      tr("extensions tools loaded refused"));
     connect(m_dialog, &PreferencesDialog::failed, &m_parts.notifier, &UserNotifier::error);
     connect(keys, &KeysPage::failed, &m_parts.notifier, &UserNotifier::error);
     m_dialog->show();

@@ -49,8 +49,10 @@ ViewActions::ViewActions(SceneView& view, HostServices& services, UserNotifier& 
     menu.addAction(tr("Keep This View as a &Camera"), this, &ViewActions::keepView,
                    QStringLiteral("Ctrl+J, K"));
     menu.addSeparator();
-    addToggle(menu, tr("G&rid"), QStringLiteral("viewGrid"), "Ctrl+J, G", false, [this](bool on) { m_grid.setGrid(on); });
-    addToggle(menu, tr("A&xes"), QStringLiteral("viewAxes"), "Ctrl+J, A", false, [this](bool on) { m_grid.setAxes(on); });
+    addToggle(menu, tr("G&rid"), QStringLiteral("viewGrid"), "Ctrl+J, G", false,
+              [this](bool on) { m_grid.setGrid(on); });
+    addToggle(menu, tr("A&xes"), QStringLiteral("viewAxes"), "Ctrl+J, A", false,
+              [this](bool on) { m_grid.setAxes(on); });
     addToggle(menu, tr("Orientation C&ube"), QStringLiteral("viewCube"), "Ctrl+J, C", true,
               [this](bool on) { m_cube.setShown(on); });
 }

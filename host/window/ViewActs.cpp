@@ -35,8 +35,8 @@ bool remembered(const QString& key, bool atFirst)
 
 // One entry for each choice, of which one is checked, named by its number.
 template <class Choice, std::size_t Count, class Act>
-void addChoices(QMenu& menu, const char* name, int firstKey, const std::pair<Choice, QString> (&entries)[Count],
-                Choice present, const Act& act)
+void addChoices(QMenu& menu, const char* name, int firstKey,
+                const std::pair<Choice, QString> (&entries)[Count], Choice present, const Act& act)
 {
     auto* group = new QActionGroup(&menu);
     for (const auto& [choice, text] : entries) {

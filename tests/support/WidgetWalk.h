@@ -63,7 +63,8 @@ inline double contrastOf(const QColor& one, const QColor& other)
         const auto linear = [](double part) {
             return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
         };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
     };
     const double a = light(one) + 0.05;
     const double b = light(other) + 0.05;
@@ -75,7 +76,11 @@ inline double textContrast(const QWidget& widget)
 {
     const auto* button = qobject_cast<const QPushButton*>(&widget);
     const bool isInput = qobject_cast<const QLineEdit*>(&widget) || widget.inherits("QAbstractItemView");
-    const QPalette::ColorRole text = isInput ? QPalette::Text : button ? QPalette::ButtonText : widget.foregroundRole();
-    const QPalette::ColorRole ground = isInput ? QPalette::Base : button ? QPalette::Button : widget.backgroundRole();
+    const QPalette::ColorRole text = isInput  ? QPalette::Text
+                                     : button ? QPalette::ButtonText
+                                              : widget.foregroundRole();
+    const QPalette::ColorRole ground = isInput  ? QPalette::Base
+                                       : button ? QPalette::Button
+                                                : widget.backgroundRole();
     return contrastOf(widget.palette().color(text), widget.palette().color(ground));
 }

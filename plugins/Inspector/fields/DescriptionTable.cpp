@@ -16,6 +16,7 @@ constexpr double Degree = Pi / 180;
 
 } // namespace
 
+// In English (decisions.md: reference-in-english).
 const std::vector<Description>& allDescriptions()
 {
     // clang-format off

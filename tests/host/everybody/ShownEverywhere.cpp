@@ -11,9 +11,10 @@
 namespace
 {
 
-constexpr const char* Properties[] = {"text",         "title",           "windowTitle",    "toolTip",
-                                      "statusTip",    "placeholderText", "accessibleName", "accessibleDescription",
-                                      "suffix",       "prefix",          "specialValueText"};
+constexpr const char* Properties[] = {
+    "text",      "title",           "windowTitle",     "toolTip",
+    "statusTip", "placeholderText", "accessibleName",  "accessibleDescription",
+    "suffix",    "prefix",          "specialValueText"};
 
 // The docks and tool bars of the default extensions, by the names that scripts find them by.
 bool isOfDefaults(const QObject& object)
@@ -27,7 +28,8 @@ bool isOfDefaults(const QObject& object)
         const auto* dock = qobject_cast<const QDockWidget*>(each);
         const auto* bar = qobject_cast<const QToolBar*>(each);
         if ((dock && each == &object && Names.contains(dock->windowTitle())) ||
-            (dock && dock->windowTitle() != Names.last() && Names.contains(dock->windowTitle())) || (bar && bar->objectName() != "mainToolBar"))
+            (dock && dock->windowTitle() != Names.last() && Names.contains(dock->windowTitle())) ||
+            (bar && bar->objectName() != "mainToolBar"))
             return true;
     }
     return false;
@@ -77,11 +79,11 @@ void add(const QObject& object, std::vector<ShownText>& texts)
 
 QSet<QString> namesOfTheLibrary()
 {
-    QSet<QString> names{"Scopix", "Blender", "Godot",   "Maya",  "Deutsch", "English", "Material", "X",
-                        "Y",      "Z",       "RGB",     "HSV",   "sRGB",    "MiB",     "ms",       "pt",
-                        "Default", "Classic", "Euler",  "hex",   "lin",     "x",       "y",        "z",
-                        "F1",     "Tab",     "Ctrl",    "Shift", "Alt",     "Esc",     "Del",      "Ins",
-                        "Up",     "Down"};
+    QSet<QString> names{"Scopix", "Blender", "Godot",   "Maya",    "Deutsch", "English", "Material",
+                        "X",      "Y",       "Z",       "RGB",     "HSV",     "sRGB",    "MiB",
+                        "ms",     "pt",      "Default", "Classic", "Euler",   "hex",     "lin",
+                        "x",      "y",       "z",       "F1",      "Tab",     "Ctrl",    "Shift",
+                        "Alt",    "Esc",     "Del",     "Ins",     "Up",      "Down"};
     for (const SoType type : SoType::getAllDerivedFrom(SoField::getClassTypeId()))
         names.insert(type.getName().getString());
     for (const SoType type : SoType::getAllDerivedFrom(SoFieldContainer::getClassTypeId())) {
@@ -98,7 +100,8 @@ QSet<QString> namesOfTheLibrary()
 // Names of nodes and of counters, and what the reference of nodes says (decisions.md: reference-in-english).
 bool isData(const ShownText& text)
 {
-    return text.text.startsWith("<span style") || text.where.contains("#breadcrumb") || text.where.contains("#curveInput") || text.where.contains("#nodeTitle") ||
+    return text.text.startsWith("<span style") || text.where.contains("#breadcrumb") ||
+           text.where.contains("#curveInput") || text.where.contains("#nodeTitle") ||
            (text.where.contains("#row") && text.where.endsWith("accessibleDescription"));
 }
 
