@@ -362,33 +362,27 @@ void MainWindow::makeHelpMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
     m_helpMenu = menu;
-    menu->addAction(
-            tr("&Moving in the 3D View"), this,
-            [this] {
-                QMessageBox::information(
-                    this, tr("Moving in the 3D View"),
-                    tr("Turn: drag with the left button.\n"
-                       "Move: drag with the middle or right button.\n"
-                       "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
-                       "Select: click; once more for the shape, then its material. Ctrl adds, Shift and "
-                       "dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes "
-                       "up.\n"
-                       "See all of the selected part: double-click, or F.\n"
-                       "See everything: A. As at first, through the scene's own camera where it has one: "
-                       "Home.\n"
-                       "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go "
-                       "away.\n"
-                       "Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.\n"
-                       "Measure: M.\n"
-                       "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
-                       "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a "
-                       "number; "
-                       "select again: Q. Shift is finer, Ctrl snaps.\n"
-                       "Hide or show what is selected: H, show all: Shift+H, show nothing else: /.\n"
-                       "Find a node: Ctrl+F.\n"
-                       "Edges only: F3. What a picture costs: F4."));
-            })
-        ->setShortcut(Qt::CTRL + Qt::Key_F1);
+    menu->addAction(tr("&Moving in the 3D View"), this, [this] {
+        QMessageBox::information(
+            this, tr("Moving in the 3D View"),
+            tr("Turn: drag with the left button.\n"
+               "Move: drag with the middle or right button.\n"
+               "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
+               "Select: click; once more for the shape, then its material. Ctrl adds, Shift and "
+               "dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.\n"
+               "See all of the selected part: double-click, or F.\n"
+               "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
+               "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
+               "Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.\n"
+               "Measure: M.\n"
+               "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
+               "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
+               "select again: Q. Shift is finer, Ctrl snaps.\n"
+               "Hide or show what is selected: H, show all: Shift+H, show nothing else: /.\n"
+               "Find a node: Ctrl+F.\n"
+               "Edges only: F3. What a picture costs: F4."));
+    });
+    menu->actions().last()->setShortcut(Qt::CTRL + Qt::Key_F1);
     menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
                     QKeySequence(Qt::Key_F1));
     menu->addAction(
