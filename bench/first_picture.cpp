@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // From the start of the program to the first picture of its window, against an empty window of Qt that draws
 // by OpenGL. Each is a process of its own; what is told is the middle of several, and their ratio.
+// Run it on a display, or under `xvfb-run`: where windows are drawn off the screen, the empty one has no
+// OpenGL and there is nothing to compare.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QOpenGLFunctions>

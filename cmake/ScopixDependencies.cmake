@@ -2,7 +2,7 @@
 # Every outside library, all from Debian 12 packages; the reasons stand in docs/architecture.md.
 
 find_package(Threads REQUIRED)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Svg Widgets Xml)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui LinguistTools Svg Widgets Xml)
 find_package(Eigen3 3.4 REQUIRED NO_MODULE)
 find_package(assimp REQUIRED)
 

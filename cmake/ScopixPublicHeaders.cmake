@@ -48,9 +48,9 @@ set(SCOPIX_XSG_HEADERS
   # Names of places
   SoScenePath.h
   # Drawing
-  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h
+  SoImageReader.h SoOffscreenRenderer.h SoOverlay.h SoRenderer.h SoShapeColors.h
   # What branches cost
-  SoCostMeter.h SoCosts.h
+  SoCostMeter.h SoCostPictures.h SoCosts.h SoWhatIfMeter.h
   # Scene files
   SoSceneFile.h
   # The library as a whole
@@ -63,13 +63,14 @@ set(SCOPIX_LIVE_XSG_HEADERS
   XsgAdapter.h XsgServer.h)
 
 set(SCOPIX_EXTENDER_HEADERS
-  SpxCommand.h SpxContextMenus.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h SpxGuide.h SpxNodeDefaults.h
-  SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h SpxPreviewServices.h SpxProfile.h SpxSceneServices.h SpxServices.h SpxShell.h
-  SpxShellMenus.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
+  SpxCommand.h SpxContextMenus.h SpxEditedConnections.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h
+  SpxGuide.h SpxNavigator.h SpxNodeDefaults.h SpxOutput.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
+  SpxPreviewServices.h SpxProfile.h SpxSceneDisplay.h SpxSceneServices.h SpxServices.h SpxSettings.h SpxShell.h
+  SpxShellMenus.h SpxTreeColumns.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h Commands.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
-  SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldDescription.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
   SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)

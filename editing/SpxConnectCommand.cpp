@@ -42,3 +42,9 @@ void SpxConnectCommand::redo()
 {
     execute();
 }
+
+std::vector<SoField*> SpxConnectCommand::editedFields() const
+{
+    SoField* field = m_field.get();
+    return field ? std::vector<SoField*>{field} : std::vector<SoField*>();
+}

@@ -26,6 +26,14 @@ QString stepName(const SoField& field)
     return QCoreApplication::translate("SpxFieldEdit", "Change %1").arg(type + name);
 }
 
+bool canFollow(const SoField& field, const SoField& source)
+{
+    const SoField* next = &source;
+    while (next && next != &field)
+        next = next->getConnectedField();
+    return !next && field.canConvertFrom(source);
+}
+
 } // namespace
 
 bool SpxFieldEdit::isRefused()
@@ -76,13 +84,17 @@ bool SpxFieldEdit::setSource(SoField* field, SoField* source)
 {
     if (field->getConnectedField() == source)
         return false;
+    if ((source && !canFollow(*field, *source)) || isRefused())
+        return false;
     auto command = std::make_unique<SpxConnectCommand>(field, source);
-    return apply(field, std::move(command), [&] {
-        if (source)
-            return field->connectFrom(source);
-        field->disconnect();
-        return true;
-    });
+    if (!SpxServices::getInstance()) {
+        command->execute();
+        return false;
+    }
+    // The host executes it: what the field follows before, it then sees.
+    const SpxFieldPointer edited(field);
+    record(std::move(command), *field);
+    return edited && edited.get()->getConnectedField() == source;
 }
 
 bool SpxFieldEdit::setIgnored(SoField* field, bool ignored)

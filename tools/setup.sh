@@ -15,6 +15,8 @@ scopix_build_packages=(
   "libqt5svg5-dev|icons, sharp at every pixel density"
   "libqwt-qt5-dev|plots of the performance counters"
   "libepoxy-dev|calls OpenGL"
+  "qttools5-dev|finds what compiles translations"
+  "qttools5-dev-tools|compiles translations"
   "libassimp-dev|reads model files"
   "zlib1g-dev|unpacks model files, beside libassimp-dev"
   "libeigen3-dev|linear algebra of the scene-graph library"
@@ -24,6 +26,7 @@ scopix_build_packages=(
 )
 scopix_test_packages=(
   "libgtest-dev|the test framework"
+  "python3|finds texts that are not translated"
   "xvfb|a private display for tests with real windows"
   "xauth|keeps that display private"
   "assimp-testmodels|models of many kinds, which have to open"
@@ -48,8 +51,7 @@ scopix_package_packages=(
   "dpkg-dev|builds Debian packages"
   "debhelper|the steps of such a build"
   "doxygen|the reference of the public headers"
-  "qttools5-dev|compiles translations"
-  "qttools5-dev-tools|compiles translations"
+  "libopenscenegraph-dev|builds what inspects programs on OpenSceneGraph"
   "lintian|checks the packages"
 )
 # For tools/package --test.

@@ -5,6 +5,7 @@
 #include "commands/CommandTable.h"
 #include "live/LiveLaunch.h"
 #include "support/Printable.h"
+#include "viewport/ToneMappingNames.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -117,6 +118,14 @@ QString takeTurntable(CommandLine& line, const QString& value)
     return tr("--turntable expects a number of pictures, 2 or more, and not “%1”.").arg(value);
 }
 
+QString takeToneMapping(CommandLine& line, const QString& value)
+{
+    line.toneMapping = value;
+    if (value.isEmpty() || toneMappingNamed(value))
+        return {};
+    return tr("--tone-mapping expects none, neutral or filmic, and not “%1”.").arg(value);
+}
+
 // What makes no sense without --picture is not silently of no effect.
 QString takePicture(CommandLine& line, const QCommandLineParser& parser)
 {
@@ -170,6 +179,8 @@ QString check(CommandLine& line, const QCommandLineParser& parser)
     QString problem = checkSave(line, parser);
     if (problem.isEmpty())
         problem = takePicture(line, parser);
+    if (problem.isEmpty())
+        problem = takeToneMapping(line, parser.value(QStringLiteral("tone-mapping")));
     if (!problem.isEmpty())
         return problem;
     const QString select = parser.value(QStringLiteral("select"));

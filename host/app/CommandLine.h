@@ -21,10 +21,11 @@ struct SCOPIX_HOST_API CommandLine {
     QString picture;   // of the 3D view alone
     QSize pictureSize; // of --size; empty: as PictureOrder
     bool transparent = false;
-    int turntable = 1;  // pictures of one turn
-    QString save;       // another file for what FILE holds
-    QStringList launch; // of --launch PROGRAM ARGS...
-    QString attach;     // of --attach; empty: the only program there is
+    QString toneMapping; // of --tone-mapping; empty: as the menu remembers it
+    int turntable = 1;   // pictures of one turn
+    QString save;        // another file for what FILE holds
+    QStringList launch;  // of --launch PROGRAM ARGS...
+    QString attach;      // of --attach; empty: the only program there is
     bool isAttaching = false;
     bool listsLive = false;
     bool quit = false;

@@ -2,6 +2,7 @@
 #include <scopix-host/HostApplication.h>
 
 #include "app/HostSession.h"
+#include "language/Languages.h"
 #include "window/MainWindow.h"
 
 namespace scopix
@@ -29,6 +30,11 @@ HostApplication::HostApplication()
 }
 
 HostApplication::~HostApplication() = default;
+
+void HostApplication::speakUsersLanguage()
+{
+    Languages::begin();
+}
 
 void HostApplication::tryPluginsFirst()
 {

@@ -25,7 +25,8 @@ namespace scopix
 /// inspector. One at a time; GUI thread only, and destroyed before the QApplication.
 ///
 /// Plug-ins that are active may change the process: the default extensions redirect its output and error
-/// handlers to their console.
+/// handlers to their console. While the inspector lives, the buffers of the C++ streams and the error
+/// handlers are behind others, which pass on what comes.
 class SCOPIX_HOST_API HostApplication : public QObject
 {
     Q_OBJECT
@@ -35,6 +36,10 @@ public:
     /// Unloads the plug-ins while the window still stands.
     ~HostApplication() override;
 
+    /// Call it before the inspector is made to have its texts, and those of its plug-ins, in the user's
+    /// language, as the program `scopix` has it: the settings say which, or else the system. It installs a
+    /// translator in the QApplication; without it, the inspector speaks English.
+    static void speakUsersLanguage();
     /// Call it before start() to have each plug-in that is new or has changed loaded in a process of its own
     /// first, as the program `scopix` has it: its initialisers and its loadPlugin() run there once more. What
     /// would end or block the application is then refused in a sentence. Without it no other process is

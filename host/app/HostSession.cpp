@@ -7,10 +7,13 @@
 #include "profiles/ProfilesMenu.h"
 #include "settings/DataDirectory.h"
 #include "settings/Preferences.h"
+#include "settings/ScreenLayouts.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 #include "shell/ToolsMenu.h"
 
+#include "viewport/SceneView.h"
+#include "viewport/ToneMappingNames.h"
 #include <xsg/core/SoPreferences.h>
 
 #include <QAbstractButton>
@@ -35,11 +38,18 @@ QString foldedKey()
     return QStringLiteral("folded");
 }
 
+QString plainConsoleKey()
+{
+    return QStringLiteral("plainConsole");
+}
+
 } // namespace
 
 HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
     : m_window(makeWindow(m_services, m_notifier))
+    , m_navigator(*m_window)
     , m_shell(*m_window)
+    , m_secondConsole(m_shell)
     , m_plugins(m_services, m_shell, std::move(profiles))
     , m_undoShortcuts(m_services.undoStack(), *m_window)
 {
@@ -56,6 +66,7 @@ HostSession::HostSession(const MakeWindow& makeWindow, ProfileFile profiles)
         [this](const QString& query) { m_window->findInScene(query); },
         [this](const QString& page, const QString& section) { return m_window->showHelp(page, section); });
     m_shell.setLook([this] { return m_window->viewLook(); });
+    m_shell.setDisplay(m_window->display());
     if (!m_window->emptyHint().isEmpty())
         m_shell.keepPlaceOf(Qt::RightDockWidgetArea, m_window->emptyHint());
     m_window->setPluginStates([this] { return pluginStates(); });
@@ -72,6 +83,7 @@ void HostSession::addFoldAction()
         return;
     QAction* fold = menu->addAction(tr("Fold the &Bottom Area"));
     fold->setObjectName(QStringLiteral("foldBottom"));
+    fold->setShortcut(QStringLiteral("Ctrl+J, F"));
     fold->setCheckable(true);
     connect(menu, &QMenu::aboutToShow, fold, [this, fold] { fold->setChecked(m_shell.isBottomFolded()); });
     connect(fold, &QAction::triggered, &m_shell, &HostShell::setBottomFolded);
@@ -82,6 +94,9 @@ void HostSession::connectParts()
     connect(&m_services, &HostServices::commandFailed, &m_notifier, &UserNotifier::error);
     connect(&m_services, &HostServices::stepsLost, &m_notifier, &UserNotifier::info);
     connect(&m_shell, &HostShell::failed, &m_notifier, &UserNotifier::error);
+    connect(&m_shell, &HostShell::treeColumnsChanged, m_window.get(),
+            [this] { m_window->setTreeColumns(m_shell.getTreeColumns()); });
+    connect(&m_shell, &HostShell::treeValuesChanged, m_window.get(), &HostWindow::updateTreeColumns);
     connect(&m_plugins, &HostPluginsManager::failed, &m_notifier, &UserNotifier::error);
     connect(&m_plugins, &HostPluginsManager::failed, this,
             [this](const QString& sentence) { m_refusals += sentence; });
@@ -109,7 +124,7 @@ HostSession::~HostSession()
     m_notifier.setPrintsPostedErrors(false);
     m_plugins.unloadAll();
     m_services.clearSelection();
-    m_services.history().clear();
+    m_services.history().clearAll();
     m_services.setSceneSource(nullptr);
 }
 
@@ -138,6 +153,8 @@ void HostSession::start(const CommandLine& line)
     m_notifier.setAttended(!line.isUnattended());
     if (line.counters)
         SoPreferences::setValue(CounterSwitch, "1");
+    if (const auto toneMapping = toneMappingNamed(line.toneMapping))
+        m_window->findChild<SceneView*>()->setToneMapping(*toneMapping);
     // Switched off, the counters can only say how they are switched on, which is worth no place in the
     // window.
     if (!SoPreferences::getBool(CounterSwitch, false))
@@ -201,7 +218,7 @@ void HostSession::loadPlugins(const CommandLine& line)
         new NoPluginsNotice(*m_window, PluginSearchPath().folders());
 }
 
-// The panel shows what most people come for; the console is folded until it has something to say.
+// The panel shows what most people come for; the consoles are folded until there is something to say.
 void HostSession::chooseFirstLook(bool isUnattended)
 {
     const SettingsFile settings(UserSettings::windowFile());
@@ -210,9 +227,11 @@ void HostSession::chooseFirstLook(bool isUnattended)
     const QStringList folded = settings.value(foldedKey()).toStringList();
     for (const QString& dock : isKnown ? folded : QStringList())
         m_shell.foldAtFirst(dock);
+    m_secondConsole.setAskedFor(isKnown && settings.value(plainConsoleKey()).toBool());
     if (isKnown || !profiles.activeProfile()->isDefault())
         return;
     m_shell.foldAtFirst(QStringLiteral("Console"));
+    m_shell.foldAtFirst(QStringLiteral("Log"));
     connect(&profiles, &ProfileList::activeChanged, this, [this] {
         if (!m_plugins.profiles().activeProfile()->isDefault())
             m_shell.forgetFirstLook();
@@ -254,17 +273,17 @@ void HostSession::finish(const CommandLine& line, bool opened)
 void HostSession::restoreLayout()
 {
     m_keepsLayout = true;
-    const SettingsFile settings(UserSettings::windowFile());
-    m_window->restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
-    m_shell.restoreLayout(settings.value(QStringLiteral("layout")).toByteArray());
+    const ScreenLayouts::Layout layout = ScreenLayouts::find(ScreenLayouts::currentScreens());
+    m_window->restoreGeometry(layout.geometry);
+    m_shell.restoreLayout(layout.docks);
 }
 
 void HostSession::saveLayout()
 {
     const QString problem = SettingsFile(UserSettings::windowFile()).change([this](QSettings& settings) {
-        settings.setValue(QStringLiteral("geometry"), m_window->saveGeometry());
-        settings.setValue(QStringLiteral("layout"), m_shell.saveLayout());
+        ScreenLayouts::save(settings, {m_window->saveGeometry(), m_shell.saveLayout()});
         settings.setValue(foldedKey(), m_shell.foldedDocks());
+        settings.setValue(plainConsoleKey(), m_secondConsole.isAskedFor());
     });
     if (problem.isEmpty())
         return;

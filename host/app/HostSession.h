@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/SecondConsole.h"
 #include "app/SensorPump.h"
+#include "app/WindowNavigator.h"
 #include "document/CounterBackup.h"
 #include "plugins/HostPluginsManager.h"
 #include "services/HostServices.h"
+#include "services/ProgramOutput.h"
 #include "shell/HostShell.h"
 #include "support/UserNotifier.h"
 #include "undo/UndoShortcutFilter.h"
@@ -68,9 +71,12 @@ private:
 
     SensorPump m_pump;
     UserNotifier m_notifier;
+    ProgramOutput m_output; // the first that hears, and the last
     HostServices m_services;
     std::unique_ptr<HostWindow> m_window;
+    WindowNavigator m_navigator;
     HostShell m_shell;
+    SecondConsole m_secondConsole;
     HostPluginsManager m_plugins;
     UndoShortcutFilter m_undoShortcuts;
     std::optional<CommandLine> m_asked; // until its file has been opened

@@ -30,6 +30,10 @@ const Command& windowCommand()
          {"turntable", "NUMBER",
           QT_TRANSLATE_NOOP("CommandLine",
                             "Write NUMBER pictures of one full turn instead: OUT-01.png and so on.")},
+         {"tone-mapping", "KIND",
+          QT_TRANSLATE_NOOP("CommandLine",
+                            "How bright light comes into the view and its pictures: none, neutral or filmic. "
+                            "For this session; the menu remembers its choice.")},
          {"attach", "NAME|PID|SOCKET",
           QT_TRANSLATE_NOOP("CommandLine",
                             "Attach to a running program; may be left out: the only one. In place "

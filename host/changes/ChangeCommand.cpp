@@ -7,22 +7,30 @@ namespace scopix
 {
 
 ChangeCommand::ChangeCommand(std::vector<SoField*> fields, Write write,
-                             std::unique_ptr<StructureCommand> structure)
+                             std::unique_ptr<StructureCommand> structure, FieldConnections connections)
     : m_fields(std::move(fields))
     , m_write(std::move(write))
     , m_structure(std::move(structure))
+    , m_connections(std::move(connections))
 {
 }
 
 void ChangeCommand::execute()
 {
-    redo();
+    if (m_structure)
+        m_structure->redo();
+    m_connections.announce();
     const Write write = std::exchange(m_write, {});
     m_hasWritten = write && write();
+    if (m_connections.isEmpty())
+        return;
+    m_connections.redo();
+    m_hasWritten = (write && write()) || m_hasWritten;
 }
 
 void ChangeCommand::undo()
 {
+    m_connections.undo();
     if (m_structure)
         m_structure->undo();
 }
@@ -31,6 +39,7 @@ void ChangeCommand::redo()
 {
     if (m_structure)
         m_structure->redo();
+    m_connections.redo();
 }
 
 std::vector<SoFieldContainer*> ChangeCommand::editedContainers() const

@@ -4,25 +4,10 @@
 #include "changes/ChangeCommand.h"
 #include "structure/StructureWatch.h"
 
-#include <xsg/core/SoField.h>
-
 #include <algorithm>
 
 namespace scopix
 {
-
-namespace
-{
-
-void follow(SoField& field, SoField* source)
-{
-    if (source)
-        field.connectFrom(source);
-    else
-        field.disconnect();
-}
-
-} // namespace
 
 PatchCommand::PatchCommand(xsg::SceneChanges changes, SoNode* root, std::shared_ptr<xsg::PatchResult> result)
     : m_changes(std::move(changes))
@@ -57,10 +42,7 @@ void PatchCommand::execute()
     *m_result = xsg::applyChanges(m_changes, root, this);
     m_changes.clear();
     keepStructure();
-    for (Connection& each : m_connections) {
-        each.after = each.field->getConnectedField();
-        each.sourceNodeAfter = each.after ? each.after->getContainer() : nullptr;
-    }
+    m_connections.connected();
 }
 
 void PatchCommand::keepStructure()
@@ -110,19 +92,14 @@ void PatchCommand::aboutToRename(SoNode& node)
 
 void PatchCommand::aboutToConnect(SoField& field)
 {
-    SoField* source = field.getConnectedField();
-    m_connections.push_back({SoRef<SoFieldContainer>(field.getContainer()),
-                             &field,
-                             SoRef<SoFieldContainer>(source ? source->getContainer() : nullptr),
-                             source,
-                             {},
-                             nullptr});
+    if (StructureWatch* watch = StructureWatch::getActive())
+        watch->aboutToConnect(field);
+    m_connections.aboutToConnect(field);
 }
 
 void PatchCommand::undo()
 {
-    for (const Connection& each : m_connections)
-        follow(*each.field, each.before);
+    m_connections.undo();
     if (m_structure)
         m_structure->undo();
 }
@@ -131,16 +108,7 @@ void PatchCommand::redo()
 {
     if (m_structure)
         m_structure->redo();
-    for (const Connection& each : m_connections)
-        follow(*each.field, each.after);
-}
-
-std::vector<SoField*> PatchCommand::editedFields() const
-{
-    std::vector<SoField*> fields;
-    for (const Connection& each : m_connections)
-        fields.push_back(each.field);
-    return fields;
+    m_connections.redo();
 }
 
 std::vector<SoFieldContainer*> PatchCommand::editedContainers() const
@@ -150,7 +118,7 @@ std::vector<SoFieldContainer*> PatchCommand::editedContainers() const
 
 bool PatchCommand::isWithoutEffect() const
 {
-    return m_connections.empty() && !m_structure && m_result->applied == 0;
+    return m_connections.isEmpty() && !m_structure && m_result->applied == 0;
 }
 
 } // namespace scopix

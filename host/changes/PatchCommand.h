@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changes/FieldConnections.h"
 #include "structure/StructureCommand.h"
 
+#include <scopix/SpxEditedConnections.h>
 #include <xsg/changes/PatchApplication.h>
 
 #include <memory>
@@ -12,7 +14,10 @@ namespace scopix
 
 /// Applies a patch to an open scene, as far as it fits. The history knows by itself how to take values back;
 /// this takes back structure, names and connections. The root stays.
-class PatchCommand : public SpxCommand, public SpxEditedFields, private xsg::PatchWatch
+class PatchCommand : public SpxCommand,
+                     public SpxEditedFields,
+                     public SpxEditedConnections,
+                     private xsg::PatchWatch
 {
 public:
     /// `result` is filled by execute().
@@ -22,7 +27,8 @@ public:
     void execute() override;
     void undo() override;
     void redo() override;
-    std::vector<SoField*> editedFields() const override;
+    std::vector<SoField*> editedFields() const override { return m_connections.fields(); }
+    std::vector<SoField*> connectedFields() const override { return m_connections.fields(); }
     std::vector<SoFieldContainer*> editedContainers() const override;
     bool isWithoutEffect() const override;
 
@@ -33,14 +39,6 @@ private:
         std::vector<SoNode*> before;
         int countBefore = 0;
         std::vector<SoRef<SoNode>> kept;
-    };
-    struct Connection {
-        SoRef<SoFieldContainer> node;
-        SoField* field = nullptr;
-        SoRef<SoFieldContainer> sourceNodeBefore;
-        SoField* before = nullptr;
-        SoRef<SoFieldContainer> sourceNodeAfter;
-        SoField* after = nullptr;
     };
 
     void aboutToChangeChildren(SoGroup& group, int start, int removed) override;
@@ -54,7 +52,7 @@ private:
     std::shared_ptr<xsg::PatchResult> m_result;
     std::vector<Part> m_parts;
     std::vector<std::pair<SoRef<SoNode>, SbName>> m_names;
-    std::vector<Connection> m_connections;
+    FieldConnections m_connections;
     std::unique_ptr<StructureCommand> m_structure;
 };
 

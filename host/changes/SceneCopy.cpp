@@ -52,11 +52,25 @@ void SceneCopy::setChildren(const SoNode& group, const std::vector<SoNode*>& chi
         copy->asGroup()->addChild(copyOf(child));
 }
 
-void SceneCopy::setField(const SoField& field, const SoField& value)
+SoField* SceneCopy::copyOf(const SoField& field) const
 {
     const auto* node = dynamic_cast<const SoNode*>(field.getContainer());
-    SoNode* copy = node ? copyOf(node) : nullptr;
-    SoField* to = copy ? copy->getField(field.getName()) : nullptr;
+    const SoNode* copy = node ? copyOf(node) : nullptr;
+    return copy ? copy->getField(field.getName()) : nullptr;
+}
+
+bool SceneCopy::setSource(const SoField& field, const SoField* source)
+{
+    SoField* copy = copyOf(field);
+    SoField* from = source ? copyOf(*source) : nullptr;
+    if (copy)
+        copy->disconnect();
+    return copy && from && copy->connectFrom(from);
+}
+
+void SceneCopy::setField(const SoField& field, const SoField& value)
+{
+    SoField* to = copyOf(field);
     if (!to)
         return;
     if (const auto* single = dynamic_cast<const SoSFNode*>(&value)) {

@@ -21,10 +21,14 @@ public:
     /// Null for a node that is not part of what was copied.
     SoNode* copyOf(const SoNode* node) const;
     void setChildren(const SoNode& group, const std::vector<SoNode*>& children);
+    /// What the field follows; null: nothing. False where it then follows nothing.
+    bool setSource(const SoField& field, const SoField* source);
     /// The same node-by-node as the value, with references to the copies.
     void setField(const SoField& field, const SoField& value);
 
 private:
+    SoField* copyOf(const SoField& field) const;
+
     SoRef<SoNode> m_holder;
     std::unordered_map<const SoNode*, SoRef<SoNode>> m_copies; // which may stand nowhere for a while
 };

@@ -31,13 +31,15 @@ class SceneEdits : public ChangeSource, private EditWatch, private StructureWatc
     Q_OBJECT
 
 public:
-    /// Its only watch; it must outlive this.
+    /// Becomes its watch; the history must outlive this.
     explicit SceneEdits(UndoHistory& history, QObject* parent = nullptr);
     ~SceneEdits() override;
 
     /// The scene as it is now is what the user starts from; null ends it.
     void begin(SoNode* root, const QString& baselineName);
     SoNode* getRoot() const { return m_root; }
+    /// Hears of the edits from now on, in place of the one that did before.
+    void listen();
     /// What differs is to stay as it was told last while this is true: other values show for a while.
     void setHold(std::function<bool()> isHeld) { m_isHeld = std::move(isHeld); }
 
@@ -74,9 +76,11 @@ private:
         quint64 version = 0;
         qint64 time = 0;
         bool isStale = true;
-        bool isNew = true;        // nobody has looked yet whether it differs
-        bool isElsewhere = false; // written by somebody else since
-        int count = -1;           // of a list, as edits left it
+        bool isNew = true;         // nobody has looked yet whether it differs
+        bool isElsewhere = false;  // written by somebody else since
+        bool isConnected = false;  // or disconnected, by an edit
+        SoField* source = nullptr; // which it then followed before; null: none
+        int count = -1;            // of a list, as edits left it
     };
     struct NameEntry {
         SbName before;
@@ -99,6 +103,9 @@ private:
 
     // EditWatch
     void aboutToWrite(SoField& field, int start, int removed) override;
+    // EditWatch and StructureWatch
+    void aboutToConnect(SoField& field) override;
+    // EditWatch
     void aboutToRun() override;
     void hasRun() override;
     // StructureWatch
@@ -113,6 +120,10 @@ private:
     void clear();
     void noticeLater();
 
+    FieldEntry& entryFor(SoField& field);
+    void noteEdit(SoField& field, FieldEntry& entry);
+    void forgetSources(const SoFieldContainer* container);
+    static bool hasOtherSource(const FieldEntry& entry, const SoField& field);
     static bool isLost(const FieldEntry& entry, const SoField& field);
     void compareFields();
     void compareStructure();
@@ -125,6 +136,7 @@ private:
     void makeList();
     const FieldEntry* entryOf(const ChangeKey& key) const;
     const StructureRow* rowOf(const ChangeKey& key) const;
+    QString sourceText(const SoField* source) const;
     ChildrenEdit::Children childrenWithout(const ChildrenEdit& edit, const ChangeKeySet& keys) const;
     std::vector<const ChildrenEdit*> groupsOf(const ChangeKeySet& keys) const;
     bool isPlainPatch(const ChangeKeySet& keys) const;
@@ -139,6 +151,7 @@ private:
     std::function<bool()> m_isHeld;
     std::unordered_map<SoField*, FieldEntry> m_fields;
     std::unordered_map<const SoFieldContainer*, std::vector<SoField*>> m_fieldsOf;
+    std::unordered_set<SoField*> m_connected; // those of them that follow others, or did
     std::unordered_map<SoNode*, NameEntry> m_names;
     std::unordered_map<SoGroup*, GroupEntry> m_groups;
 

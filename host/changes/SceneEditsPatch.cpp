@@ -49,7 +49,8 @@ bool SceneEdits::isPlainPatch(const ChangeKeySet& keys) const
 {
     const auto isPlain = [this](const ChangeKey& key) {
         const SoField* field = fieldOf(key);
-        return field && !field->isConnected() && !refersToNodes(*field) &&
+        return field && !field->isConnected() && !hasOtherSource(*entryOf(key), *field) &&
+               !refersToNodes(*field) &&
                field->getContainer()->getTypeId() != SoUnknownNode::getClassTypeId() &&
                field->getContainer()->getTypeId().canCreateInstance();
     };
@@ -119,8 +120,21 @@ SoRef<SoNode> SceneEdits::copyWithout(const ChangeKeySet* keys) const
         copy.setChildren(*group, {}); // so that nothing is refused for a loop
     for (const auto& [group, children] : lists)
         copy.setChildren(*group, children);
+    const auto isMeant = [keys](const SoField* field) {
+        return !keys || keys->count({Kind::Field, field, nullptr, 0}) > 0;
+    };
+    for (const SoField* field : m_connected) {
+        if (isMeant(field))
+            copy.setSource(*field, nullptr);
+    }
     for (const auto& [field, entry] : m_fields) {
-        if (!keys || keys->count({Kind::Field, field, nullptr, 0}) > 0)
+        if (isMeant(field))
+            copy.setField(*field, *entry.edit->makeFormer());
+    }
+    // The values once more: what followed another field may have had one of its own.
+    for (const SoField* field : m_connected) {
+        const FieldEntry& entry = m_fields.at(const_cast<SoField*>(field));
+        if (isMeant(field) && entry.source && copy.setSource(*field, entry.source))
             copy.setField(*field, *entry.edit->makeFormer());
     }
     for (const auto& [node, entry] : m_names) {

@@ -120,6 +120,11 @@ ChangeAct SceneEdits::revert(const ChangeKeySet& keys)
                        "number of values; open the file again for what it holds.")
                         .arg(describe({Kind::Field, field, nullptr, 0}).path)};
     }
+    FieldConnections connections;
+    for (SoField* field : fields) {
+        if (hasOtherSource(m_fields.at(field), *field))
+            connections.add(*field, m_fields.at(field).source);
+    }
     auto structure = changes.empty() ? nullptr : std::make_unique<StructureCommand>(std::move(changes));
     const auto write = [this, fields] {
         writeFormer({fields.begin(), fields.end()});
@@ -127,7 +132,9 @@ ChangeAct SceneEdits::revert(const ChangeKeySet& keys)
     };
     const QString name = keys.size() == 1 ? tr("Revert %1").arg(describe(*keys.begin()).path)
                                           : tr("Revert %1 Changes").arg(keys.size());
-    return {std::make_unique<ChangeCommand>(fields, write, std::move(structure)), name, {}};
+    return {std::make_unique<ChangeCommand>(fields, write, std::move(structure), std::move(connections)),
+            name,
+            {}};
 }
 
 } // namespace scopix

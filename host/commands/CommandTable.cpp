@@ -44,7 +44,9 @@ const std::vector<Command>& allCommands()
          "FILE PATH=VALUE...",
          "Gives fields values and saves. A value is what a scene file has, or a formula with units such as "
          "90deg, "
-         "30 cm or x*2, where x is the present value. Where one of them cannot be set, nothing is saved.",
+         "30 cm or x*2, where x is the present value; what each field measures and takes is on the page of "
+         "nodes. A number without a unit is in radians, metres or seconds. Where one of them cannot be set, "
+         "nothing is saved.",
          2,
          Any,
          {Out},
@@ -109,7 +111,10 @@ const std::vector<Command>& allCommands()
            "The path of a camera of the scene, all, front, back, left, right, top or bottom. "
            "At first the first camera of the scene, or all."},
           {"frames", "N", "Draws N pictures, OUT-0001 and so on, 1/30 of a second apart."},
-          {"background", "COLOR", "Three numbers from 0 to 1; \"0 0 0\" is black."}},
+          {"background", "COLOR", "Three numbers from 0 to 1; \"0 0 0\" is black."},
+          {"tone-mapping", "KIND",
+           "How light that is brighter than white comes into the picture: none, neutral or filmic; "
+           "neutral at first."}},
          {{"scopix picture lamp.xsg lamp.png", "as the scene's camera sees it"},
           {"scopix picture lamp.xsg lamp.png --size 400x300 --camera top", "everything, from above"},
           {"scopix picture lamp.xsg turn.png --size 80x60 --frames 3", "turn-0001.png to turn-0003.png"}},

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "commands/FieldFormula.h"
 
-#include <scopix/editing/expression/SpxExpression.h>
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/core/SoMField.h>
-#include <xsg/fields/SoSFImage.h>
+#include <xsg/fields/SoMFMatrix.h>
+#include <xsg/fields/SoMFRotation.h>
+#include <xsg/fields/SoSFMatrix.h>
+#include <xsg/fields/SoSFRotation.h>
 #include <xsg/fields/SoSFTime.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
@@ -45,7 +48,11 @@ std::vector<double> numbersOf(const std::string& text)
 {
     std::vector<double> numbers;
     xsg::TextReader in(text);
+    in.skipBlanks();
+    const bool isList = in.accept('[');
     for (double number = 0; !in.onlyBlanksLeft();) {
+        if (isList && in.accept(']'))
+            break;
         if (!in.readNumber(number))
             return {};
         numbers.push_back(number);
@@ -54,14 +61,30 @@ std::vector<double> numbersOf(const std::string& text)
     return numbers;
 }
 
-// The unit that is typed says what is measured.
-bool evaluate(const std::string& text, double x, bool isTime, double& number, std::string& problem)
+template <class... Fields>
+bool isOneOf(const SoField& field)
+{
+    return (... || (dynamic_cast<const Fields*>(&field) != nullptr));
+}
+
+// Where nobody knows what a field measures, or its numbers measure several things, the unit that is typed
+// says it.
+std::vector<SpxQuantity> quantitiesOf(const SoField& field)
+{
+    const SpxFieldDescription* known = SpxFieldDescription::find(field);
+    if (known && !isOneOf<SoSFRotation, SoMFRotation, SoSFMatrix, SoMFMatrix>(field))
+        return {known->quantity};
+    return {isOneOf<SoSFTime>(field) ? SpxQuantity::Time : SpxQuantity::Number, SpxQuantity::Angle,
+            SpxQuantity::Length};
+}
+
+bool evaluate(const std::string& text, double x, const std::vector<SpxQuantity>& quantities, double& number,
+              std::string& problem)
 {
     SpxExpressionSettings settings;
     settings.variables = {"x"};
     std::string first;
-    for (const SpxQuantity quantity :
-         {isTime ? SpxQuantity::Time : SpxQuantity::Number, SpxQuantity::Angle, SpxQuantity::Length}) {
+    for (const SpxQuantity quantity : quantities) {
         settings.quantity = quantity;
         const SpxExpression expression(text, settings);
         if (expression.isValid()) {
@@ -108,10 +131,11 @@ bool assignFormulas(SoField& field, int index, const std::string& text, std::str
         present.size() > 1 ? wrong + ", which has " + std::to_string(present.size()) + " numbers" : wrong;
     if (present.empty() || formulas.empty())
         return false;
+    const std::vector<SpxQuantity> quantities = quantitiesOf(field);
     std::string result;
     for (std::size_t i = 0; i < present.size(); ++i) {
         double number = 0;
-        if (!evaluate(formulas[i], present[i], dynamic_cast<SoSFTime*>(&field) != nullptr, number, problem))
+        if (!evaluate(formulas[i], present[i], quantities, number, problem))
             return false;
         result += i > 0 ? " " : "";
         // As the panel: to the nearest one, and in the type's own precision.
@@ -157,13 +181,8 @@ bool assignNodes(SoField& field, int index, const std::string& text, xsg::SceneL
     return true;
 }
 
-} // namespace
-
-bool assign(SoField& field, int index, const std::string& text, xsg::SceneLookup& lookup,
-            std::string& problem)
+bool assignValue(SoField& field, int index, const std::string& text, std::string& problem)
 {
-    if (dynamic_cast<SoSFNode*>(&field) || dynamic_cast<SoMFNode*>(&field))
-        return assignNodes(field, index, text, lookup, problem);
     if (setText(field, index, text))
         return true;
     if (dynamic_cast<SoMField*>(&field) && index < 0 && static_cast<SoMField&>(field).getNum() != 1) {
@@ -171,6 +190,50 @@ bool assign(SoField& field, int index, const std::string& text, xsg::SceneLookup
         return false;
     }
     return assignFormulas(field, index, text, problem);
+}
+
+std::string shortText(double number)
+{
+    std::string text;
+    xsg::ValueText<float>::write(text, float(number));
+    return text;
+}
+
+// What is typed in the panel is kept within the same limits. Compared as single precision, in which pi is
+// above pi.
+std::string reasonAgainst(const SpxFieldDescription& known, const std::vector<double>& numbers)
+{
+    const bool hasHigh = std::isfinite(known.hardHigh);
+    for (const double number : numbers) {
+        if (float(number) >= float(known.hardLow) && float(number) <= float(known.hardHigh))
+            continue;
+        if (std::isfinite(known.hardLow))
+            return "it has to be " + shortText(known.hardLow) +
+                   (hasHigh ? " to " + shortText(known.hardHigh) : " or more");
+        return "it has to be " + shortText(known.hardHigh) + " or less";
+    }
+    return {};
+}
+
+} // namespace
+
+bool assign(SoField& field, int index, const std::string& text, xsg::SceneLookup& lookup,
+            std::string& problem)
+{
+    if (isOneOf<SoSFNode, SoMFNode>(field))
+        return assignNodes(field, index, text, lookup, problem);
+    const std::string before = textOf(field, -1);
+    const bool wasDefault = field.isDefault();
+    if (!assignValue(field, index, text, problem))
+        return false;
+    const SpxFieldDescription* known = SpxFieldDescription::find(field);
+    if (known)
+        problem = reasonAgainst(*known, numbersOf(textOf(field, index)));
+    if (problem.empty())
+        return true;
+    setText(field, -1, before);
+    field.setDefault(wasDefault);
+    return false;
 }
 
 } // namespace scopix

@@ -7,6 +7,7 @@
 #include "support/OutputFile.h"
 #include "viewport/SceneCamera.h"
 #include "viewport/TextureImageLoader.h"
+#include "viewport/ToneMappingNames.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/nodes/base/SoTimeSource.h>
@@ -40,6 +41,7 @@ struct Wanted {
     int frames = 1;
     std::optional<SbColor> background;
     std::string camera;
+    SoRenderer::ToneMapping toneMapping = SoRenderer::ToneMapping::Neutral;
 
     float aspect() const { return static_cast<float>(width) / static_cast<float>(height); }
 };
@@ -73,6 +75,13 @@ bool takeColor(const std::string& text, Wanted& wanted)
     return true;
 }
 
+bool takeToneMapping(const std::string& text, Wanted& wanted)
+{
+    const auto named = toneMappingNamed(QString::fromStdString(text));
+    wanted.toneMapping = named.value_or(wanted.toneMapping);
+    return named.has_value();
+}
+
 bool take(const Arguments& arguments, Wanted& wanted)
 {
     std::string problem;
@@ -84,6 +93,9 @@ bool take(const Arguments& arguments, Wanted& wanted)
     if (arguments.has("background") && !takeColor(arguments.get("background"), wanted))
         problem = "--background expects three numbers, such as \"0 0.5 1\", and not \"" +
                   arguments.get("background") + "\".";
+    if (arguments.has("tone-mapping") && !takeToneMapping(arguments.get("tone-mapping"), wanted))
+        problem = "--tone-mapping expects none, neutral or filmic, and not \"" +
+                  arguments.get("tone-mapping") + "\".";
     wanted.camera = arguments.get("camera");
     if (!problem.empty())
         complain("picture: " + problem);
@@ -186,6 +198,7 @@ int drawPicture(const Arguments& arguments)
     const PostedNotes posted(notes);
     SoOffscreenRenderer renderer;
     renderer.getRenderer().setFittingImageReader(TextureImageLoader::read);
+    renderer.getRenderer().setToneMapping(wanted.toneMapping);
     if (wanted.background)
         renderer.getRenderer().setBackground(*wanted.background);
     SoSensorQueue::getInstance().process(); // a clip that the file has paused shows its time

@@ -5,6 +5,7 @@
 #include "model/GradualRelease.h"
 #include "model/ModelFormats.h"
 #include "services/HostServices.h"
+#include "support/LongWork.h"
 #include "support/OutputFile.h"
 
 #include <xsg/files/SoSceneFile.h>
@@ -34,13 +35,31 @@ SceneDocument::SceneDocument(HostServices& services)
     : m_services(services)
 {
     connect(&services.history(), &UndoHistory::acted, this, &SceneDocument::acted);
-    connect(&services.undoStack(), &QUndoStack::cleanChanged, this, &SceneDocument::stateChanged);
+    connect(&services.undoStack(), &QUndoStack::cleanChanged, this, [this] {
+        if (isInFront())
+            emit stateChanged();
+    });
 }
 
 SceneDocument::~SceneDocument()
 {
     m_services.undoStack().disconnect(this);
     m_services.history().disconnect(this);
+}
+
+void SceneDocument::leave()
+{
+    m_services.preview().showPresent();
+    m_services.clearSelection();
+    m_isInFront = false;
+    m_shelf = m_services.history().shelve();
+}
+
+void SceneDocument::enter()
+{
+    m_services.history().unshelve(m_shelf);
+    m_shelf.reset();
+    m_isInFront = true;
 }
 
 QString SceneDocument::sceneEnding()
@@ -98,7 +117,7 @@ bool SceneDocument::hasSceneFile() const
 
 bool SceneDocument::isModified() const
 {
-    return !m_isExternal && !m_services.undoStack().isClean();
+    return !m_isExternal && !(m_shelf ? m_shelf->isClean() : m_services.undoStack().isClean());
 }
 
 HostPreview& SceneDocument::preview() const
@@ -117,10 +136,14 @@ QString SceneDocument::save(const QString& path)
     if (!m_isExternal && QFileInfo::exists(folderOf(path)))
         movePictures(m_root.get(), folderOf(path));
     std::string error;
-    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error))
+    const quint64 edits = m_editCount;
+    if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error,
+                            [](double part) { LongWork::goOn(part); }))
         return QString::fromStdString(error);
     if (!m_isExternal)
         adoptFile(path);
+    if (m_editCount != edits) // by an extension, while it was written
+        m_services.undoStack().resetClean();
     return {};
 }
 
@@ -162,6 +185,8 @@ SceneDocument::FileState SceneDocument::checkFile()
 
 void SceneDocument::acted()
 {
+    if (!isInFront())
+        return;
     ++m_editCount;
     emit edited();
 }

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -18,17 +19,26 @@ namespace scopix
 
 class HostPreview;
 class HostServices;
+class UndoShelf;
 
-/// What is open: the scene, the file it came from, and whether it holds edits that no file has. GUI thread
-/// only.
+/// What is open: the scene, the file it came from, and whether it holds edits that no file has. Of several
+/// documents one is in front; selection and undo history are of that one, and only that one is opened, edited
+/// and saved. GUI thread only.
 class SceneDocument : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `services` must outlive the document.
+    /// `services` must outlive the document, which is in front: another one must have left before.
     explicit SceneDocument(HostServices& services);
     ~SceneDocument() override;
+
+    /// Puts away what can be undone, clears the selection, and shows the present values, for another document
+    /// to be in front.
+    void leave();
+    /// Is in front again. The one that was before must have left.
+    void enter();
+    bool isInFront() const { return m_isInFront; }
 
     /// The suffixes of scene files and of everything that can be opened, in lower case.
     static QString sceneEnding();
@@ -75,7 +85,7 @@ public:
 
     /// Saves it as a scene file, which becomes its path. The file is either the old or the new one, whatever
     /// happens. An external scene stays external, and the names of its pictures stay as they are. Returns one
-    /// sentence where it cannot be written, else an empty text.
+    /// sentence where it cannot be written, else an empty text. LongWork may cancel it.
     QString save(const QString& path);
 
 signals:
@@ -99,6 +109,8 @@ private:
     FileStamp m_stamp;
     FileState m_fileState = FileState::AsOpened;
     quint64 m_editCount = 0;
+    bool m_isInFront = true;
+    std::shared_ptr<UndoShelf> m_shelf; // while it is not
 };
 
 } // namespace scopix

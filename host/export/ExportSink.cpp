@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/ExportSink.h"
 
+#include "support/LongWork.h"
+
 #include <QFile>
 
 namespace scopix
@@ -29,6 +31,7 @@ ExportSink& ExportSink::operator<<(std::string_view text)
 
 void ExportSink::flush()
 {
+    LongWork::goOn();
     m_isGood = m_isGood && m_file.write(m_piece);
     m_piece.clear();
 }

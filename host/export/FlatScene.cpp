@@ -2,6 +2,7 @@
 #include "export/FlatScene.h"
 
 #include "export/ExportNames.h"
+#include "support/LongWork.h"
 
 #include <xsg/actions/SoTraversal.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -50,6 +51,7 @@ protected:
     void enterGroup(SoGroup* group) override { noteLoss(*group); }
     void visitShape(SoShape* shape) override
     {
+        LongWork::goOn();
         SoGeometry geometry;
         shape->generate(state(), geometry);
         moveTextureCoordinates(state(), geometry);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/GltfBuffer.h"
 
+#include "support/LongWork.h"
+
 #include <QJsonObject>
 
 namespace scopix
@@ -39,6 +41,7 @@ int GltfBuffer::addBytes(QByteArray bytes)
 
 int GltfBuffer::addView(std::size_t size, std::function<void(ExportSink&)> write)
 {
+    LongWork::goOn();
     m_views.append(QJsonObject{{QStringLiteral("buffer"), 0},
                                {QStringLiteral("byteOffset"), static_cast<qint64>(m_size)},
                                {QStringLiteral("byteLength"), static_cast<qint64>(size)}});

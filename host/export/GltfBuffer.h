@@ -20,10 +20,11 @@ class GltfBuffer
 {
 public:
     /// As in the file format.
-    enum class Component { Float = 5126, UnsignedInt = 5125 };
+    enum class Component { Float = 5126, UnsignedInt = 5125, UnsignedShort = 5123 };
 
     /// Adds an accessor and returns its place. `write` is called when the bytes are written, for `count`
-    /// elements of `elementBytes` each; `type` is the format's, as in "VEC3". The object may be extended.
+    /// elements of `elementBytes` each; `type` is the format's, as in "VEC3"; elements are whole times four
+    /// bytes. The object may be extended.
     int add(Component component, const char* type, std::size_t count, std::size_t elementBytes,
             std::function<void(ExportSink&)> write, QJsonObject more);
     /// Adds a view of bare bytes and returns its place.

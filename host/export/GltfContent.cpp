@@ -1,18 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "export/GltfContent.h"
 
+#include "export/BentPoints.h"
 #include "export/ColorEncoding.h"
 #include "export/ExportNames.h"
+#include "export/GltfMotion.h"
+#include "export/GltfTidying.h"
+#include "export/SceneMotion.h"
+#include "support/LongWork.h"
 
 #include <xsg/actions/SoTraversal.h>
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoAmbientLight.h>
 #include <xsg/nodes/lights/SoLight.h>
 #include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/properties/SoNormals.h>
 #include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoShape.h>
+#include <xsg/nodes/transforms/SoTransformation.h>
 #include <xsg/values/SbRotation.h>
 
 #include <algorithm>
@@ -43,6 +53,11 @@ bool hasItsOwnHighlight(const SoMaterialState& look)
 class Collector : public SoTraversal
 {
 public:
+    explicit Collector(const SceneMotion& motion)
+        : m_motion(motion)
+    {
+    }
+
     GltfContent take(SoNode& root)
     {
         resetState();
@@ -62,27 +77,26 @@ protected:
     void enterGroup(SoGroup* group) override
     {
         const bool isNode = group->isStateScope() && m_instancing == 0;
-        m_opened.push_back(isNode);
-        if (isNode) {
-            const std::size_t node = addNode(state().modelMatrix, exportedName(*group));
-            m_content.nodes[m_open.back()].children.push_back(node);
-            m_open.push_back(node);
-            state().modelMatrix = SbMatrix();
-        }
+        m_openBefore.push_back(isNode ? m_open.size() : 0);
+        if (isNode)
+            open(state().modelMatrix, exportedName(*group));
         m_instancing += isA<SoInstances>(*group) ? 1 : 0;
         noteLoss(*group);
         if (isA<SoSwitch>(*group))
             lookAtHidden(*group);
+        note();
     }
     void leaveGroup(SoGroup* group) override
     {
         m_instancing -= isA<SoInstances>(*group) ? 1 : 0;
-        if (m_opened.back())
-            m_open.pop_back();
-        m_opened.pop_back();
+        if (m_openBefore.back() > 0)
+            m_open.resize(m_openBefore.back());
+        m_openBefore.pop_back();
+        note();
     }
     void visitShape(SoShape* shape) override
     {
+        LongWork::goOn();
         const int mesh = meshOf(*shape);
         if (mesh == GltfContent::None)
             return;
@@ -93,17 +107,30 @@ protected:
     void visitProperty(SoNode* node) override
     {
         noteLoss(*node);
-        if (isA<SoMaterial>(*node) || isA<SoPhysicalMaterial>(*node))
+        m_bending.noteNode(*node, state());
+        if (m_instancing == 0 && m_motion.isMover(*node) && isA<SoTransformation>(*node))
+            openMoved(static_cast<const SoTransformation&>(*node));
+        else if (isA<SoMaterial>(*node) || isA<SoPhysicalMaterial>(*node))
             m_materials.noteNode(*node);
         else if (isA<SoLight>(*node))
             addLight(static_cast<const SoLight&>(*node));
         else if (isA<SoCamera>(*node))
             addCamera(static_cast<const SoCamera&>(*node));
+        note();
     }
 
 private:
+    void note()
+    {
+        m_bending.note(state());
+        m_matrix = state().modelMatrix;
+    }
+
+    // Tracks, skins and morph targets are counted once it is known where they lead.
     void noteLoss(const SoNode& node)
     {
+        if (isA<SoAnimation>(node) || isA<SoSkin>(node) || isA<SoMorph>(node))
+            return;
         const QString kind = lostKind(node);
         if (!kind.isEmpty())
             m_leftOut[kind].insert(&node);
@@ -117,6 +144,23 @@ private:
         m_content.nodes.push_back(std::move(node));
         return m_content.nodes.size() - 1;
     }
+    std::size_t open(const SbMatrix& matrix, std::string name)
+    {
+        const std::size_t node = addNode(matrix, std::move(name));
+        m_content.nodes[m_open.back()].children.push_back(node);
+        m_open.push_back(node);
+        state().modelMatrix = SbMatrix();
+        return node;
+    }
+
+    // All that follows in the open node is in one of its own.
+    void openMoved(const SoTransformation& transform)
+    {
+        if (!(m_matrix == SbMatrix()))
+            open(m_matrix, {});
+        m_content.nodes[open(SbMatrix(), exportedName(transform))].mover = &transform;
+    }
+
     GltfContent::Node& addChild(const SbMatrix& matrix, std::string name)
     {
         const std::size_t node = addNode(matrix, std::move(name));
@@ -141,34 +185,74 @@ private:
 
     int meshOf(const SoShape& shape)
     {
-        const std::size_t material = m_materials.placeOf(state(), shape);
-        std::vector<KnownMesh>& known = m_meshes[shape.getGeometryKey(state())];
+        const BentPoints* bent = m_bending.find(state());
+        if (bent && !bent->isKnown) {
+            noteBent(bent->morph);
+            noteBent(bent->skin);
+            bent = nullptr;
+        }
+        const SoState still = bent ? withoutBending(state(), *bent) : state();
+        const std::size_t material = m_materials.placeOf(still, shape);
+        std::vector<KnownMesh>& known = m_meshes[shape.getGeometryKey(still)];
+        const SoNode* morph = bent ? bent->morph : nullptr;
+        const SoNode* skin = bent ? bent->skin : nullptr;
         for (const KnownMesh& mesh : known) {
-            if (mesh.material == material && mesh.textureMatrix == state().textureMatrix)
+            if (mesh.material == material && mesh.textureMatrix == still.textureMatrix &&
+                mesh.morph == morph && mesh.skin == skin)
                 return mesh.place;
         }
-        known.push_back({material, state().textureMatrix, addMesh(shape, material)});
+        known.push_back({material, still.textureMatrix, morph, skin, addMesh(shape, still, material, bent)});
         return known.back().place;
     }
 
-    int addMesh(const SoShape& shape, std::size_t material)
+    void noteBent(const SoNode* node)
     {
-        GltfContent::Mesh mesh{nearestName(shape), {}, material};
-        shape.generate(state(), mesh.geometry);
-        moveTextureCoordinates(state(), mesh.geometry);
-        // There is no second set without a first one.
-        if (!mesh.geometry.secondTextureCoordinates.empty())
-            mesh.geometry.textureCoordinates.resize(mesh.geometry.points.size());
-        if (!state().physicalMaterial) {
-            for (SbVec3f& color : mesh.geometry.colors)
-                color = toLinear(color);
-        }
+        if (node)
+            m_leftOut[lostKind(*node)].insert(node);
+    }
+
+    int addMesh(const SoShape& shape, const SoState& from, std::size_t material, const BentPoints* bent)
+    {
+        GltfContent::Mesh mesh;
+        mesh.name = nearestName(shape);
+        mesh.material = material;
+        mesh.geometry = geometryOf(shape, from);
         if (mesh.geometry.isScreenSpace || shape.asDrawingCallback())
             m_leftOut[translated("shapes without a place in space")].insert(&shape);
         if (mesh.geometry.isScreenSpace || mesh.geometry.index.empty())
             return GltfContent::None;
+        if (bent)
+            addBending(mesh, shape, from, *bent);
         m_content.meshes.push_back(std::move(mesh));
         return static_cast<int>(m_content.meshes.size()) - 1;
+    }
+
+    void addBending(GltfContent::Mesh& mesh, const SoShape& shape, const SoState& from,
+                    const BentPoints& bent)
+    {
+        mesh.morph = bent.morph;
+        mesh.skin = bent.skin;
+        mesh.places = placesOfCorners(shape, from);
+        const int points = from.points->points.getNum();
+        mesh.hasMorphedNormals = bent.morph && from.normals && from.normals->vectors.getNum() == points &&
+                                 bent.morph->normalOffsets.getNum() == bent.morph->pointOffsets.getNum();
+        if (bent.skin)
+            mesh.posed = geometryOf(shape, state());
+    }
+
+    static SoGeometry geometryOf(const SoShape& shape, const SoState& from)
+    {
+        SoGeometry geometry;
+        shape.generate(from, geometry);
+        moveTextureCoordinates(from, geometry);
+        // There is no second set without a first one.
+        if (!geometry.secondTextureCoordinates.empty())
+            geometry.textureCoordinates.resize(geometry.points.size());
+        if (!from.physicalMaterial) {
+            for (SbVec3f& color : geometry.colors)
+                color = toLinear(color);
+        }
+        return geometry;
     }
 
     std::string nearestName(const SoShape& shape) const
@@ -208,133 +292,33 @@ private:
     struct KnownMesh {
         std::size_t material;
         SoShared<SbMatrix> textureMatrix;
+        const SoNode* morph;
+        const SoNode* skin;
         int place;
     };
 
+    const SceneMotion& m_motion;
     GltfContent m_content;
     MaterialTable m_materials;
-    std::vector<std::size_t> m_open; // nodes, from the root
-    std::vector<bool> m_opened;      // for each open group: whether it is a node
-    int m_instancing = 0;            // open groups that repeat what is in them
+    BentPointsWalk m_bending;
+    SbMatrix m_matrix;                     // before the present node
+    std::vector<std::size_t> m_open;       // nodes, from the root
+    std::vector<std::size_t> m_openBefore; // for each open group: how many there were; 0 for one that is none
+    int m_instancing = 0;                  // open groups that repeat what is in them
     int m_ownHighlights = 0;
     std::unordered_map<SoGeometryKey, std::vector<KnownMesh>, SoGeometryKeyHash> m_meshes;
     std::map<QString, std::set<const SoNode*>> m_leftOut;
 };
 
-/// Takes out what only a scene graph needs: a matrix that all children have is their parent's, and a node
-/// that has nothing but one mesh below it has the mesh itself.
-class Tidying
-{
-public:
-    explicit Tidying(GltfContent& content)
-        : m_nodes(content.nodes)
-        , m_meshes(content.meshes)
-    {
-    }
-
-    void run()
-    {
-        for (std::size_t i = m_nodes.size(); i > 0; --i) {
-            liftMatrix(m_nodes[i - 1]);
-            takeMesh(m_nodes[i - 1]);
-        }
-        dropUnused();
-    }
-
-private:
-    using Node = GltfContent::Node;
-
-    void liftMatrix(Node& node)
-    {
-        if (node.children.empty())
-            return;
-        const SbMatrix matrix = m_nodes[node.children.front()].matrix;
-        for (const std::size_t child : node.children) {
-            if (!(m_nodes[child].matrix == matrix))
-                return;
-        }
-        for (const std::size_t child : node.children)
-            m_nodes[child].matrix = SbMatrix();
-        node.matrix = matrix * node.matrix;
-    }
-
-    void takeMesh(Node& node)
-    {
-        if (node.children.size() != 1)
-            return;
-        const Node& child = m_nodes[node.children.front()];
-        const bool isBare = child.children.empty() && child.light < 0 && child.camera < 0 && child.mesh >= 0;
-        if (!isBare || !(child.matrix == SbMatrix()))
-            return;
-        const std::string& mesh = m_meshes[static_cast<std::size_t>(child.mesh)].name;
-        if (!child.name.empty() && !node.name.empty() && child.name != mesh)
-            return;
-        node.name = node.name.empty() ? child.name : node.name;
-        node.mesh = child.mesh;
-        node.children.clear();
-    }
-
-    void dropUnused()
-    {
-        std::vector<std::size_t> kept{0};
-        for (std::size_t i = 0; i < kept.size(); ++i)
-            kept.insert(kept.end(), m_nodes[kept[i]].children.begin(), m_nodes[kept[i]].children.end());
-        std::vector<std::size_t> places(m_nodes.size());
-        for (std::size_t i = 0; i < kept.size(); ++i)
-            places[kept[i]] = i;
-        std::vector<Node> nodes;
-        nodes.reserve(kept.size());
-        for (const std::size_t old : kept) {
-            nodes.push_back(std::move(m_nodes[old]));
-            for (std::size_t& child : nodes.back().children)
-                child = places[child];
-        }
-        m_nodes = std::move(nodes);
-    }
-
-    std::vector<Node>& m_nodes;
-    std::vector<GltfContent::Mesh>& m_meshes;
-};
-
-// Readers find lights and cameras by the names of their nodes.
-void nameLightsAndCameras(std::vector<GltfContent::Node>& nodes)
-{
-    std::multiset<std::string> names;
-    for (const GltfContent::Node& node : nodes)
-        names.insert(node.name);
-    for (GltfContent::Node& node : nodes) {
-        if (node.light < 0 && node.camera < 0)
-            continue;
-        const std::string kind = node.light >= 0 ? "Light" : "Camera";
-        const std::string stem = node.name.empty() ? kind : node.name;
-        names.erase(names.find(node.name));
-        node.name = stem;
-        for (int number = 2; names.count(node.name) > 0; ++number)
-            node.name = stem + ' ' + std::to_string(number);
-        names.insert(node.name);
-    }
-}
-
-// The scene's own root takes the place of the one that everything is collected in.
-void takeRoot(GltfContent& content)
-{
-    GltfContent::Node& top = content.nodes.front();
-    if (top.children.size() != 1 || top.mesh >= 0)
-        return;
-    const SbMatrix outside = top.matrix;
-    GltfContent::Node root = std::exchange(content.nodes[top.children.front()], {});
-    root.matrix = root.matrix * outside;
-    content.nodes.front() = std::move(root);
-}
-
 } // namespace
 
 GltfContent toGltf(SoNode& root)
 {
-    GltfContent content = Collector().take(root);
-    takeRoot(content);
-    Tidying(content).run();
-    nameLightsAndCameras(content.nodes);
+    const SceneMotion motion(root);
+    GltfContent content = Collector(motion).take(root);
+    tidy(content);
+    addMotion(content, motion);
+    nameWhatIsReferredTo(content);
     return content;
 }
 

@@ -2,6 +2,8 @@
 #include "export/GltfJson.h"
 
 #include "export/GltfMaterial.h"
+#include "export/GltfMotionJson.h"
+#include "export/GltfValues.h"
 #include "model/ImageConversion.h"
 
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -30,43 +32,6 @@ constexpr int WrapClamp = 33071;
 
 using Component = GltfBuffer::Component;
 
-QString key(const char* text)
-{
-    return QString::fromLatin1(text);
-}
-
-// The format has no numbers that are not finite.
-double finite(float number)
-{
-    return std::isfinite(number) ? static_cast<double>(number) : 0;
-}
-
-QJsonArray array(const SbVec3f& v)
-{
-    return {finite(v[0]), finite(v[1]), finite(v[2])};
-}
-
-QJsonArray array(const SbMatrix& matrix)
-{
-    QJsonArray all;
-    for (int i = 0; i < 16; ++i)
-        all.append(finite(matrix.getValue()[i]));
-    return all;
-}
-
-void setName(QJsonObject& object, const std::string& name)
-{
-    if (!name.empty())
-        object.insert(key("name"), QString::fromStdString(name));
-}
-
-// A list of places must not be empty.
-void insertList(QJsonObject& object, const char* name, const QJsonArray& list)
-{
-    if (!list.isEmpty())
-        object.insert(key(name), list);
-}
-
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);
@@ -94,6 +59,8 @@ public:
         insertList(root, "samplers", m_samplers);
         insertList(root, "images", m_images);
         insertList(root, "cameras", cameras());
+        insertList(root, "skins", describeSkins(m_content, m_buffer));
+        insertList(root, "animations", describeClips(m_content, m_buffer));
         addLights(root);
         addExtensions(root);
         insertList(root, "accessors", m_buffer.getAccessors());
@@ -114,14 +81,15 @@ private:
     {
         QJsonObject object;
         setName(object, node.name);
-        if (!(node.matrix == SbMatrix()))
-            object.insert(key("matrix"), array(node.matrix));
+        insertPlace(object, node);
         QJsonArray children;
         for (const std::size_t child : node.children)
             children.append(static_cast<qint64>(child));
         insertList(object, "children", children);
         if (node.mesh >= 0)
             object.insert(key("mesh"), node.mesh);
+        if (node.skin >= 0)
+            object.insert(key("skin"), node.skin);
         if (node.camera >= 0)
             object.insert(key("camera"), node.camera);
         if (node.light >= 0)
@@ -134,7 +102,10 @@ private:
     {
         QJsonArray all;
         for (const GltfContent::Mesh& mesh : m_content.meshes) {
-            QJsonObject object{{key("primitives"), QJsonArray{primitive(mesh)}}};
+            QJsonObject object;
+            QJsonObject part = primitive(mesh);
+            insertBending(object, part, mesh, m_buffer);
+            object.insert(key("primitives"), QJsonArray{part});
             setName(object, mesh.name);
             all.append(object);
         }
@@ -144,15 +115,15 @@ private:
     QJsonObject primitive(const GltfContent::Mesh& mesh)
     {
         const SoGeometry& geometry = mesh.geometry;
-        QJsonObject attributes{{key("POSITION"), addPoints(geometry.points)}};
+        QJsonObject attributes{{key("POSITION"), addPoints(m_buffer, geometry.points)}};
         if (!geometry.normals.empty() && geometry.kind == SoGeometry::Kind::Triangles)
-            attributes.insert(key("NORMAL"), addVectors(geometry.normals));
+            attributes.insert(key("NORMAL"), addVectors(m_buffer, geometry.normals));
         if (!geometry.textureCoordinates.empty())
             attributes.insert(key("TEXCOORD_0"), addTextureCoordinates(geometry.textureCoordinates));
         if (!geometry.secondTextureCoordinates.empty())
             attributes.insert(key("TEXCOORD_1"), addTextureCoordinates(geometry.secondTextureCoordinates));
         if (!geometry.colors.empty())
-            attributes.insert(key("COLOR_0"), addVectors(geometry.colors));
+            attributes.insert(key("COLOR_0"), addVectors(m_buffer, geometry.colors));
         const int mode = geometry.kind == SoGeometry::Kind::Triangles ? ModeTriangles
                          : geometry.kind == SoGeometry::Kind::Lines   ? ModeLines
                                                                       : ModePoints;
@@ -160,26 +131,6 @@ private:
                 {key("indices"), addIndex(geometry.index)},
                 {key("material"), static_cast<qint64>(mesh.material)},
                 {key("mode"), mode}};
-    }
-
-    int addVectors(const std::vector<SbVec3f>& vectors, const QJsonObject& more = {})
-    {
-        const auto write = [&vectors](ExportSink& out) {
-            for (const SbVec3f& v : vectors) {
-                for (int i = 0; i < 3; ++i)
-                    out.raw(static_cast<float>(finite(v[i])));
-            }
-        };
-        return m_buffer.add(Component::Float, "VEC3", vectors.size(), 3 * sizeof(float), write, more);
-    }
-
-    int addPoints(const std::vector<SbVec3f>& points)
-    {
-        SbBox3f box;
-        for (const SbVec3f& point : points)
-            box.extendBy({static_cast<float>(finite(point[0])), static_cast<float>(finite(point[1])),
-                          static_cast<float>(finite(point[2]))});
-        return addVectors(points, {{key("min"), array(box.getMin())}, {key("max"), array(box.getMax())}});
     }
 
     // Counted from the picture's top.

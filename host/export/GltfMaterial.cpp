@@ -2,6 +2,7 @@
 #include "export/GltfMaterial.h"
 
 #include "export/ColorEncoding.h"
+#include "export/GltfValues.h"
 
 #include <xsg/nodes/properties/SoMaterialTexture.h>
 #include <xsg/nodes/properties/SoPhysicalMaterial.h>
@@ -19,23 +20,7 @@ namespace
 
 using Use = SoMaterialTexture::Use;
 
-// The format has no numbers that are not finite.
-double finite(float number)
-{
-    return std::isfinite(number) ? static_cast<double>(number) : 0;
-}
-
-QString key(const char* text)
-{
-    return QString::fromLatin1(text);
-}
-
-QJsonArray array(const SbColor& c)
-{
-    return {finite(c[0]), finite(c[1]), finite(c[2])};
-}
-
-QJsonArray array(const SbColor& c, float opacity)
+QJsonArray withOpacity(const SbColor& c, float opacity)
 {
     QJsonArray all = array(c);
     all.append(finite(opacity));
@@ -67,7 +52,7 @@ private:
     {
         const SoMaterialState& look = m_material.look;
         QJsonObject surface{
-            {key("baseColorFactor"), array(factor(toLinear(look.diffuse)), 1 - look.transparency)},
+            {key("baseColorFactor"), withOpacity(factor(toLinear(look.diffuse)), 1 - look.transparency)},
             {key("metallicFactor"), 0},
             {key("roughnessFactor"), finite(1 - look.shininess)}};
         insert(surface, "baseColorTexture", m_material.texture);
@@ -81,7 +66,7 @@ private:
     QJsonObject physical(const SoPhysicalMaterial& from)
     {
         const SbColor base = from.baseColor.getNum() > 0 ? from.baseColor[0] : SbColor(1, 1, 1);
-        QJsonObject surface{{key("baseColorFactor"), array(factor(base), from.opacity.getValue())},
+        QJsonObject surface{{key("baseColorFactor"), withOpacity(factor(base), from.opacity.getValue())},
                             {key("metallicFactor"), finite(from.metallic.getValue())},
                             {key("roughnessFactor"), finite(from.roughness.getValue())}};
         const SoMaterialTexture* own = picture(Use::BaseColor);

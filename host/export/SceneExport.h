@@ -10,7 +10,7 @@ namespace scopix
 {
 
 /// A scene on its way into a file of other programs' formats. What there is to see is collected when this is
-/// made; the scene must not change while it lives.
+/// made; the scene must not change while it lives. LongWork may cancel that, and the writing.
 ///
 ///     SceneExport copy(root, "part.stl");
 ///     ... copy.getLosses() is what the file will not keep

@@ -38,6 +38,7 @@ HandleActions::HandleActions(HandleTool& tool, QWidget& owner, const QList<QWidg
     for (QAction* mode : m_modes)
         group->addAction(mode);
     m_ownAxes->setObjectName(QStringLiteral("ownAxesAction"));
+    m_ownAxes->setShortcut(QStringLiteral("Ctrl+U, X"));
     m_ownAxes->setCheckable(true);
     connect(m_ownAxes, &QAction::toggled, &tool, [this](bool on) { m_tool->setOfWorld(!on); });
     connect(&tool, &HandleTool::modeChanged, this, &HandleActions::showState);

@@ -52,6 +52,7 @@ MotionBuilder::MotionBuilder(ModelData& model)
     : m_model(model)
     , m_parents(model.nodes.size(), -1)
     , m_isMoved(model.nodes.size())
+    , m_isBone(model.nodes.size())
     , m_transforms(model.nodes.size())
     , m_skinOf(byMesh(model.motion.skins, model.meshes.size()))
     , m_morphOf(byMesh(model.motion.morphs, model.meshes.size()))
@@ -59,6 +60,7 @@ MotionBuilder::MotionBuilder(ModelData& model)
 {
     findParents();
     findMoved();
+    findBones();
 }
 
 void MotionBuilder::findParents()
@@ -77,6 +79,20 @@ void MotionBuilder::findMoved()
                 m_isMoved[static_cast<std::size_t>(track.node)] = true;
         }
     }
+}
+
+void MotionBuilder::findBones()
+{
+    for (const ModelMotion::Skin& skin : m_model.motion.skins) {
+        for (const int bone : skin.bones)
+            m_isBone[static_cast<std::size_t>(bone)] = true;
+    }
+}
+
+bool MotionBuilder::isMover(int node) const
+{
+    const auto place = static_cast<std::size_t>(node);
+    return m_isMoved[place] || m_isBone[place];
 }
 
 SoTransformation* MotionBuilder::makeTransform(int node)

@@ -23,6 +23,8 @@ public:
 
     /// The transform of a node, to be added before all else in it; null where it needs none.
     SoTransformation* makeTransform(int node);
+    /// Whether a clip moves the node, or a skin has it for a bone.
+    bool isMover(int node) const;
     /// Whether the mesh looks another way in each node that it stands in.
     bool isSkinned(int mesh) const { return m_skinOf[static_cast<std::size_t>(mesh)] >= 0; }
     /// What bends the points of a mesh as it stands in this node, to be added before its shape; once for
@@ -40,6 +42,7 @@ private:
 
     void findParents();
     void findMoved();
+    void findBones();
     std::vector<int> skeletonOf(const Bent& bent) const;
     void complete(const Bent& bent);
     void addClip(SoSeparator& scene, ModelMotion::Clip& clip);
@@ -48,6 +51,7 @@ private:
     ModelData& m_model;
     std::vector<int> m_parents;
     std::vector<bool> m_isMoved;
+    std::vector<bool> m_isBone;
     std::vector<SoRef<SoTransformation>> m_transforms;
     std::vector<int> m_skinOf;            // by mesh, or -1
     std::vector<int> m_morphOf;           // the same

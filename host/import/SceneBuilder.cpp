@@ -108,7 +108,7 @@ private:
         for (const int mesh : node.meshes)
             result->addChild(meshNode(mesh, place).get());
         for (const int child : node.children) {
-            if (!isBare(at(m_model.nodes, child)))
+            if (m_motion.isMover(child) || !isBare(at(m_model.nodes, child)))
                 result->addChild(at(nodes, child).get());
         }
         return result;

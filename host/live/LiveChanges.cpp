@@ -6,8 +6,6 @@
 #include <xsg/changes/SceneChange.h>
 #include <xsg/core/SoField.h>
 
-#include <algorithm>
-
 namespace scopix
 {
 
@@ -54,20 +52,19 @@ std::string textOf(const SoField& field)
 
 bool LiveChanges::isChanged(live::NodeId node, const std::string& property) const
 {
-    return std::any_of(m_all.begin(), m_all.end(),
-                       [&](const Change& each) { return each.node == node && each.property == property; });
+    return m_places.count({node, property}) > 0;
 }
 
 void LiveChanges::note(const LiveNode& node, const LiveProperty& property, const live::Value& before,
                        const live::Value& after)
 {
-    const auto found = std::find_if(m_all.begin(), m_all.end(), [&](const Change& each) {
-        return each.node == node.getId() && each.property == property.info.name;
-    });
-    const live::Value& first = found == m_all.end() ? before : found->before;
+    const auto found = m_places.find({node.getId(), property.info.name});
+    const live::Value& first = found == m_places.end() ? before : found->second->before;
     if (first == after) {
-        if (found != m_all.end())
-            m_all.erase(found);
+        if (found != m_places.end()) {
+            m_all.erase(found->second);
+            m_places.erase(found);
+        }
         return;
     }
     const auto up = wayUp(node);
@@ -75,10 +72,10 @@ void LiveChanges::note(const LiveNode& node, const LiveProperty& property, const
         node.getId(),           stepsOf(up), property.info.name, first, after, SoScenePath::of(pathTo(up)),
         textOf(*property.field)};
     change.path.setField(property.field->getName().getString());
-    if (found == m_all.end())
-        m_all.push_back(std::move(change));
+    if (found != m_places.end())
+        *found->second = std::move(change);
     else
-        *found = std::move(change);
+        m_places[{node.getId(), property.info.name}] = m_all.insert(m_all.end(), std::move(change));
 }
 
 std::string LiveChanges::toText() const

@@ -4,7 +4,10 @@
 #include <scopix/live/adapter/Adapter.h>
 #include <xsg/paths/SoScenePath.h>
 
+#include <list>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace scopix
@@ -18,6 +21,10 @@ struct LiveProperty;
 class LiveChanges
 {
 public:
+    LiveChanges() = default;
+    LiveChanges(const LiveChanges&) = delete;
+    LiveChanges& operator=(const LiveChanges&) = delete;
+
     /// From a node to a child: by type and name, and by place where that is not enough.
     struct Step {
         std::string type;
@@ -36,14 +43,16 @@ public:
 
     void note(const LiveNode& node, const LiveProperty& property, const live::Value& before,
               const live::Value& after);
-    const std::vector<Change>& getAll() const { return m_all; }
+    std::vector<Change> getAll() const { return {m_all.begin(), m_all.end()}; }
+    std::size_t getCount() const { return m_all.size(); }
     bool isEmpty() const { return m_all.empty(); }
     bool isChanged(live::NodeId node, const std::string& property) const;
     /// As a patch.
     std::string toText() const;
 
 private:
-    std::vector<Change> m_all;
+    std::list<Change> m_all; // in the order in which they were made first
+    std::map<std::pair<live::NodeId, std::string>, std::list<Change>::iterator> m_places;
 };
 
 } // namespace scopix

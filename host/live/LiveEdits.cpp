@@ -53,18 +53,35 @@ void LiveEdits::fieldWritten(LiveNode& node, SoField& field)
     m_soon.start(0);
 }
 
-void LiveEdits::flush()
+void LiveEdits::flush(bool all)
 {
     m_soon.stop();
-    for (const Written& each : std::exchange(m_written, {})) {
+    sendValues(all);
+    sendChildren();
+}
+
+void LiveEdits::sendValues(bool all)
+{
+    std::deque<Written> waiting;
+    while (!m_written.empty() && (all || m_isOver || m_numAsked < MostAsked)) {
+        const Written each = m_written.front();
+        m_written.pop_front();
         if (m_isOver)
             refuse(each.node, *each.property);
         else if (each.property->isSent)
-            m_written.push_back(each); // its answer comes first
+            waiting.push_back(each); // its answer comes first
         else
             send(each.node, *each.property);
     }
-    sendChildren();
+    m_written.insert(m_written.begin(), waiting.begin(), waiting.end());
+}
+
+// An answer came: the next ones may go.
+void LiveEdits::goOn()
+{
+    --m_numAsked;
+    if (!m_written.empty())
+        m_soon.start(0);
 }
 
 // The program is gone, and what it had last stays: undoing changes nothing any more either.
@@ -98,6 +115,7 @@ void LiveEdits::send(const NodeRef& node, LiveProperty& property)
     property.isSent = true;
     LiveProperty* sent = &property;
     const live::Value bytes = *value;
+    ++m_numAsked;
     m_scene.getLink().write(node->getId(), property.info.name, bytes,
                             [=](const live::WriteResult& result) { answered(node, *sent, bytes, result); });
 }
@@ -130,6 +148,7 @@ void LiveEdits::answered(const NodeRef& node, LiveProperty& property, const live
                          const live::WriteResult& result)
 {
     property.isSent = false;
+    goOn();
     const live::Value before = property.known;
     const bool isKnown = result.value.kind != live::ValueKind::None;
     if (isKnown)
@@ -189,23 +208,28 @@ void LiveEdits::childrenWritten(LiveNode& node)
     m_soon.start(0);
 }
 
+bool LiveEdits::areChildrenWritten(LiveNode& node) const
+{
+    return std::find(m_groups.begin(), m_groups.end(), NodeRef(&node)) != m_groups.end();
+}
+
 void LiveEdits::settleChildren(LiveNode& node)
 {
-    if (std::find(m_groups.begin(), m_groups.end(), NodeRef(&node)) != m_groups.end())
+    if (areChildrenWritten(node))
         flush();
 }
 
 void LiveEdits::sendChildren()
 {
     const std::vector<NodeRef> groups = std::exchange(m_groups, {});
-    const int index = m_services.undoStack().index();
+    const HistoryPlace place{m_services.history().getNumber(), m_services.undoStack().index()};
     std::vector<Child> removed;
     std::vector<Child> inserted;
     for (const NodeRef& group : groups) {
         if (!group->isRenamed() && compareChildren(group, removed, inserted))
             continue;
         takeChildrenBack(
-            index, LiveScene::tr(
+            place, LiveScene::tr(
                        "Only nodes of “%1” itself can stand in it, and their names are among their fields.")
                        .arg(m_scene.getName()));
         for (const NodeRef& each : groups)
@@ -213,13 +237,16 @@ void LiveEdits::sendChildren()
         return;
     }
     for (const Child& each : removed)
-        m_scene.getLink().remove(
-            each.group->getId(), static_cast<std::uint32_t>(each.index),
-            [=](const live::StructureResult& result) { structureAnswered(each.group, index, result); });
+        m_scene.getLink().remove(each.group->getId(), static_cast<std::uint32_t>(each.index),
+                                 [=](const live::StructureResult& result) {
+                                     if (result.done)
+                                         m_scene.noteKept(result.node);
+                                     structureAnswered(each.group, place, result);
+                                 });
     for (const Child& each : inserted)
         m_scene.getLink().insert(
             each.group->getId(), static_cast<std::uint32_t>(each.index), each.node,
-            [=](const live::StructureResult& result) { structureAnswered(each.group, index, result); });
+            [=](const live::StructureResult& result) { structureAnswered(each.group, place, result); });
 }
 
 // What went, from the last one on, and what came, from the first one on; false where that cannot be in the
@@ -247,26 +274,38 @@ bool LiveEdits::compareChildren(const NodeRef& node, std::vector<Child>& removed
             return false;
         inserted.push_back({node, static_cast<int>(i - objects), child->getId()});
     }
-    node->m_told = now;
-    node->m_fetched.assign(now.begin() + static_cast<std::ptrdiff_t>(objects), now.end());
+    noteChildren(*node);
     return true;
 }
 
-void LiveEdits::structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result)
+// While they are being fetched again, what comes decides, and is asked for once more.
+void LiveEdits::noteChildren(LiveNode& node)
+{
+    node.m_told = node.getChildren();
+    if (node.m_childrenFetched == LiveNode::Fetched::Asked)
+        node.m_isAskedAgain = node.m_isOutdated = true;
+    else
+        node.m_fetched.assign(node.m_told.begin() + static_cast<std::ptrdiff_t>(node.m_objects.size()),
+                              node.m_told.end());
+}
+
+void LiveEdits::structureAnswered(const NodeRef& node, const HistoryPlace& place,
+                                  const live::StructureResult& result)
 {
     if (result.done)
         return;
-    takeChildrenBack(historyIndex, LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                                       .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
+    takeChildrenBack(place, LiveScene::tr("“%1” refused to change the children of “%2”: %3")
+                                .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
     m_scene.fetchChildrenAgain(*node);
 }
 
 // The program never had it, so that undoing it is not told to the program either.
-void LiveEdits::takeChildrenBack(int historyIndex, const QString& sentence)
+void LiveEdits::takeChildrenBack(const HistoryPlace& place, const QString& sentence)
 {
     QUndoStack& stack = m_services.undoStack();
     m_scene.takeBack([&] {
-        if (stack.index() == historyIndex && stack.canUndo() && !stack.canRedo())
+        if (m_services.history().getNumber() == place.number && stack.index() == place.index &&
+            stack.canUndo() && !stack.canRedo())
             stack.undo();
     });
     emit m_scene.told(sentence);

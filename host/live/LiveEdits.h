@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include <deque>
 #include <vector>
 
 namespace scopix
@@ -15,20 +16,28 @@ class HostServices;
 
 /// Takes what is written to the nodes of a LiveScene to the program, once a turn of the event loop, and shows
 /// what the program made of it. A write that the program refuses or takes otherwise belongs to the step of
-/// the history that wrote. A field has one write on its way at a time. Part of LiveScene.
+/// the history that wrote. A field has one write on its way at a time, and all of them together so few that
+/// the user can go on looking at the program meanwhile; those that wait may still change. Part of LiveScene.
 class LiveEdits
 {
 public:
+    static constexpr std::size_t MostAsked = 128; // that the program has not answered yet
+
     LiveEdits(LiveScene& scene, HostServices& services);
 
     void fieldWritten(LiveNode& node, SoField& field);
     void childrenWritten(LiveNode& node);
-    /// Sends what waits for the event loop.
-    void flush();
+    /// Sends what waits for the event loop; `all`: also what waits for answers.
+    void flush(bool all = false);
+    /// Edits of the children wait for the event loop.
+    bool areChildrenWritten(LiveNode& node) const;
     /// Edits of the children are with the program before it is asked for them.
     void settleChildren(LiveNode& node);
     /// Nothing is sent any more.
     void stop();
+
+    /// The program has the children that the node has now.
+    static void noteChildren(LiveNode& node);
 
     /// A field that shows of a value what this one leaves stands for every bit of it.
     static void keepExact(LiveProperty& property, const live::Value& value);
@@ -47,6 +56,11 @@ private:
         live::NodeId node;
     };
 
+    struct HistoryPlace {
+        quint64 number; // of the stack of undo steps
+        int index;      // in it
+    };
+
     void refuse(const NodeRef& node, LiveProperty& property);
     void send(const NodeRef& node, LiveProperty& property);
     void answered(const NodeRef& node, LiveProperty& property, const live::Value& sent,
@@ -57,17 +71,21 @@ private:
 
     static std::vector<std::uint8_t> shownBytes(const LiveProperty& property, const SoField& field);
 
+    void goOn();
+    void sendValues(bool all);
     void sendChildren();
     bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
-    void structureAnswered(const NodeRef& node, int historyIndex, const live::StructureResult& result);
-    void takeChildrenBack(int historyIndex, const QString& sentence);
+    void structureAnswered(const NodeRef& node, const HistoryPlace& place,
+                           const live::StructureResult& result);
+    void takeChildrenBack(const HistoryPlace& place, const QString& sentence);
 
     LiveScene& m_scene;
     HostServices& m_services;
     LiveChanges m_changes;
-    std::vector<Written> m_written;
+    std::deque<Written> m_written;
     std::vector<NodeRef> m_groups; // whose children were written
     QTimer m_soon;
+    std::size_t m_numAsked = 0; // and not answered yet
     bool m_isOver = false;
 };
 

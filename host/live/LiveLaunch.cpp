@@ -73,12 +73,13 @@ QProcessEnvironment environmentWith(const QStringList& preloaded)
 
 } // namespace
 
-void LiveLaunch::start(const QStringList& command, const QStringList& preloaded)
+void LiveLaunch::start(const QStringList& command, const QStringList& preloaded, const QString& folder)
 {
     m_name = command.value(0);
     QProcess process;
     process.setProgram(m_name);
     process.setArguments(command.mid(1));
+    process.setWorkingDirectory(folder);
     process.setProcessEnvironment(environmentWith(preloaded));
     if (!process.startDetached(&m_pid))
         return fail(

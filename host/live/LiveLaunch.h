@@ -22,8 +22,9 @@ class LiveLaunch : public QObject
 public:
     using QObject::QObject;
 
-    /// The program and its arguments; libraries of these paths, as far as they exist, are loaded into it.
-    void start(const QStringList& command, const QStringList& preloaded);
+    /// The program and its arguments; libraries of these paths, as far as they exist, are loaded into it. It
+    /// runs in the folder, or in ours where that is empty.
+    void start(const QStringList& command, const QStringList& preloaded, const QString& folder = {});
 
 signals:
     void found(const QString& socketPath);

@@ -28,7 +28,7 @@ public:
     /// Ends the attachment, after which nothing more comes.
     virtual void disconnect() = 0;
 
-    /// That the oldest question waits for its answer by now.
+    /// For which the program has answered nothing although a question waits.
     virtual double secondsWaiting() const = 0;
 
     virtual const live::Program& program() const = 0;
@@ -51,6 +51,9 @@ public:
     virtual void remove(live::NodeId parent, std::uint32_t index, Answer<live::StructureResult> answer) = 0;
     virtual void insert(live::NodeId parent, std::uint32_t index, live::NodeId node,
                         Answer<live::StructureResult> answer) = 0;
+    virtual void copy(live::NodeId parent, std::uint32_t index, live::NodeId node,
+                      Answer<live::StructureResult> answer) = 0;
+    virtual void forget(live::NodeId node) = 0;
 
     virtual void watch(live::NodeId node, bool values) = 0;
     virtual void unwatch(live::NodeId node) = 0;
@@ -65,6 +68,7 @@ public:
     virtual void mark(live::NodeId node) = 0;
     virtual void showCounters(bool shown) = 0;
     virtual void showNotices(bool shown) = 0;
+    virtual void showFrames(bool shown) = 0;
 };
 
 } // namespace scopix

@@ -35,7 +35,9 @@ SoType findType(const std::string& name)
     return base;
 }
 
-SoType typeFor(const std::string& programType)
+} // namespace
+
+SoType LiveNode::typeFor(const std::string& programType)
 {
     static std::map<std::string, SoType> types;
     const std::string name = programType.empty() ? "Object" : programType.substr(0, LongestName);
@@ -46,8 +48,6 @@ SoType typeFor(const std::string& programType)
         return LiveNode::getClassTypeId();
     return types[name] = findType(name);
 }
-
-} // namespace
 
 LiveNode::LiveNode(LiveScene& scene, const live::NodeInfo& info)
     : m_scene(&scene)
@@ -132,6 +132,18 @@ void LiveNode::fetchChildren()
 {
     if (m_scene)
         m_scene->fetchChildren(*this);
+}
+
+void LiveNode::askTypesToAdd(const AnswerTypes& answer)
+{
+    if (m_scene)
+        m_scene->getAdditions().askTypes(*this, answer);
+}
+
+void LiveNode::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
+{
+    if (m_scene)
+        m_scene->getAdditions().start(additions, stepName);
 }
 
 QString LiveNode::refusal() const

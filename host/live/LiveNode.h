@@ -41,6 +41,8 @@ public:
 
     LiveNode(LiveScene& scene, const live::NodeInfo& info);
 
+    /// Of nodes that a program calls so.
+    static SoType typeFor(const std::string& programType);
     SoType getTypeId() const override { return m_type; }
     void notify(const SoNotification& change) override;
 
@@ -57,6 +59,9 @@ public:
 
     bool mayHaveMoreChildren() const override;
     void fetchChildren() override;
+    bool canHaveChildren() const override { return m_info.canHaveChildren; }
+    void askTypesToAdd(const AnswerTypes& answer) override;
+    void addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName) override;
     QString refusal() const override;
     QString structureRefusal() const override;
     QString remarkOn(const SoField& field) const override;
@@ -64,6 +69,8 @@ public:
 private:
     friend class LiveScene;
     friend class LiveEdits;
+    friend class LiveAdditions;
+    friend class LiveFolding;
     ~LiveNode() override;
     void update(const live::NodeInfo& info);
     /// By somebody other than the program.
@@ -80,6 +87,12 @@ private:
     Fetched m_propertiesFetched = Fetched::No;
     Fetched m_childrenFetched = Fetched::No;
     bool m_hasEnded = false;
+    bool m_hasObjects = false; // what its properties refer to is among its children
+    bool m_isWatched = false;  // the program tells of it
+    bool m_isOutdated = false; // children that are being fetched: they were edited since
+    bool m_isKept = false;     // the program keeps it for us, since we removed it
+    bool m_isEdited = false;   // one of its fields was, at any time
+    bool m_areChildrenEdited = false;
     bool m_isAskedAgain = false;          // children, while they are being fetched
     std::vector<SoRef<SoNode>> m_objects; // the first of the children
     std::vector<SoRef<SoNode>> m_fetched; // of the others

@@ -5,19 +5,32 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 
 namespace scopix
 {
 
+namespace
+{
+
+constexpr int NoteFlags =
+    static_cast<int>(Qt::AlignHCenter | Qt::AlignTop) | static_cast<int>(Qt::TextWordWrap);
+
+} // namespace
+
 LivePicture::LivePicture(QWidget& view)
     : QWidget(&view)
     , m_view(view)
+    , m_offer(new QPushButton(this))
 {
     setObjectName(QStringLiteral("livePicture"));
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Picture of the program"));
     view.installEventFilter(this);
     setGeometry(view.rect());
+    m_offer->setObjectName(QStringLiteral("liveOffer"));
+    m_offer->hide();
+    connect(m_offer, &QPushButton::clicked, this, &LivePicture::offerTaken);
 }
 
 bool LivePicture::eventFilter(QObject* watched, QEvent* event)
@@ -36,7 +49,27 @@ void LivePicture::setPicture(const QImage& picture)
 void LivePicture::setNote(const QString& note)
 {
     m_note = note;
+    placeOffer();
     update();
+}
+
+void LivePicture::setOffer(const QString& text)
+{
+    m_offer->setText(text);
+    m_offer->setVisible(!text.isEmpty());
+    placeOffer();
+}
+
+QRect LivePicture::noteArea() const
+{
+    const int margin = fontMetrics().height();
+    return fontMetrics().boundingRect(rect().adjusted(margin, margin, -margin, -margin), NoteFlags, m_note);
+}
+
+void LivePicture::placeOffer()
+{
+    m_offer->adjustSize();
+    m_offer->move((width() - m_offer->width()) / 2, noteArea().bottom() + fontMetrics().height());
 }
 
 void LivePicture::setGrey(bool isGrey)
@@ -65,13 +98,11 @@ void LivePicture::paintEvent(QPaintEvent* /*event*/)
     if (m_note.isEmpty())
         return;
     const int margin = fontMetrics().height();
-    const QRect room = rect().adjusted(margin, margin, -margin, -margin);
-    const int flags = static_cast<int>(Qt::AlignHCenter | Qt::AlignTop) | static_cast<int>(Qt::TextWordWrap);
-    const QRect text = painter.boundingRect(room, flags, m_note);
+    const QRect text = noteArea();
     painter.fillRect(text.adjusted(-margin / 2, -margin / 4, margin / 2, margin / 4),
                      palette().color(QPalette::Base));
     painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(text, flags, m_note);
+    painter.drawText(text, NoteFlags, m_note);
 }
 
 void LivePicture::mousePressEvent(QMouseEvent* event)
@@ -110,6 +141,7 @@ void LivePicture::hideEvent(QHideEvent* event)
 void LivePicture::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    placeOffer();
     if (isVisible())
         tellSize(true);
 }

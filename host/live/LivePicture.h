@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QWidget>
 
+class QPushButton;
+
 namespace scopix
 {
 
@@ -21,6 +23,8 @@ public:
     bool hasPicture() const { return !m_picture.isNull(); }
     /// Instead of a picture, or over it; empty for none.
     void setNote(const QString& note);
+    /// A button below the note; empty for none.
+    void setOffer(const QString& text);
     /// The program is gone: the picture is the last one.
     void setGrey(bool isGrey);
     /// Where the picture is shown.
@@ -31,6 +35,7 @@ signals:
     void wanted(const QSize& size);
     /// At a place of the picture: 0, 0 is its upper left corner and 1, 1 the lower right one.
     void clicked(const QPointF& place);
+    void offerTaken();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,10 +48,13 @@ protected:
 
 private:
     void tellSize(bool isSeen);
+    QRect noteArea() const;
+    void placeOffer();
 
     QWidget& m_view;
     QImage m_picture;
     QString m_note;
+    QPushButton* m_offer;
     QPoint m_pressed;
     bool m_isGrey = false;
 };

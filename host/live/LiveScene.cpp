@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "live/LiveScene.h"
 
+#include "live/LiveFrames.h"
 #include "live/LiveValues.h"
 #include "services/HostServices.h"
 #include "support/Printable.h"
@@ -8,6 +9,7 @@
 #include "text/NodeText.h"
 
 #include <xsg/core/SoField.h>
+#include <xsg/frames/SoFrameLog.h>
 
 #include <QScopedValueRollback>
 
@@ -49,10 +51,18 @@ LiveScene::LiveScene(std::unique_ptr<LiveLink> link, HostServices& services)
     : m_services(services)
     , m_link(std::move(link))
     , m_edits(*this, services)
+    , m_additions(*this, services)
     , m_root(new LiveNode(*this, rootInfo(m_link->program())))
 {
     m_unnumbered.insert(m_root.get());
     m_root->m_propertiesFetched = LiveNode::Fetched::Yes;
+    m_foldsSoon.setSingleShot(true);
+    connect(&m_foldsSoon, &QTimer::timeout, this, [this] {
+        for (const live::NodeId id : std::exchange(m_folded, {})) {
+            if (const auto found = m_nodes.find(id); found != m_nodes.end())
+                m_folding.fold(*NodeRef(found->second), m_services.getSelectedNodes());
+        }
+    });
     m_link->setListener(this);
     m_link->showNotices(true);
     fetchChildren(*m_root);
@@ -111,8 +121,48 @@ void LiveScene::forget(LiveNode& node)
     if (found == m_nodes.end() || found->second != &node)
         return;
     m_nodes.erase(found);
-    if (m_state != State::Ended)
+    unwatch(node);
+    if (node.m_isKept && m_state != State::Ended)
+        m_link->forget(node.getId());
+}
+
+void LiveScene::watch(LiveNode& node, bool values)
+{
+    node.m_isWatched = true;
+    m_link->watch(node.getId(), values);
+}
+
+void LiveScene::unwatch(LiveNode& node)
+{
+    if (std::exchange(node.m_isWatched, false) && m_state != State::Ended)
         m_link->unwatch(node.getId());
+}
+
+bool LiveScene::isShown(const LiveNode& node) const
+{
+    return std::find(m_shown.begin(), m_shown.end(), &node) != m_shown.end();
+}
+
+void LiveScene::noteKept(live::NodeId id)
+{
+    const auto found = m_nodes.find(id);
+    if (found != m_nodes.end())
+        found->second->m_isKept = true;
+    else
+        m_link->forget(id);
+}
+
+void LiveScene::watchLess(LiveNode& node)
+{
+    if (!isShown(node))
+        unwatch(node);
+}
+
+// What was folded may be selected or unfolded again before the event loop runs.
+void LiveScene::fold(LiveNode& node)
+{
+    m_folded.push_back(node.getId());
+    m_foldsSoon.start(0);
 }
 
 // --- Children
@@ -127,7 +177,12 @@ void LiveScene::fetchChildren(LiveNode& node)
         return m_link->roots([this](const std::vector<live::NodeInfo>& roots) { rootsCame(roots); });
     if (node.getId() == 0)
         return fetched(node);
-    m_link->watch(node.getId(), std::find(m_shown.begin(), m_shown.end(), &node) != m_shown.end());
+    watch(node, isShown(node));
+    if (node.m_propertiesFetched == LiveNode::Fetched::Yes && !node.m_hasObjects) {
+        node.m_propertiesFetched = LiveNode::Fetched::Asked;
+        node.m_onProperties.push_back([this, kept] { fetchPiece(kept, 0, false); });
+        return fetchObjects(kept);
+    }
     fetchProperties(node, [this, kept] { fetchPiece(kept, 0, false); });
 }
 
@@ -172,6 +227,8 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
         node->m_fetched.emplace_back(nodeFor(piece[i]).get());
     const auto next = static_cast<std::uint32_t>(first + taken);
     const bool isLast = taken == 0 || (taken < asked && next >= node->m_info.childCount);
+    if (isLast && isAgain && (node->m_isOutdated || m_edits.areChildrenWritten(*node)))
+        return fetchEditedAgain(*node);
     if (isLast || !isAgain)
         setChildren(*node);
     if (isLast)
@@ -184,6 +241,16 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
     }
     goOnWaiting();
     fetchPiece(node, next, isAgain);
+}
+
+// What came is older than the edits, which have to be with the program before it is asked.
+void LiveScene::fetchEditedAgain(LiveNode& node)
+{
+    m_edits.settleChildren(node);
+    node.m_childrenFetched = LiveNode::Fetched::Yes;
+    LiveEdits::noteChildren(node);
+    node.m_isAskedAgain = node.m_isOutdated = false;
+    fetchChildrenAgain(node);
 }
 
 void LiveScene::fetched(LiveNode& node)
@@ -232,8 +299,10 @@ void LiveScene::insert(LiveNode& parent, SoNode& child, int index)
 
 void LiveScene::childrenWritten(LiveNode& node)
 {
-    if (!m_isApplying && (node.m_told != node.getChildren() || node.isRenamed()))
-        m_edits.childrenWritten(node);
+    if (m_isApplying || (node.m_told == node.getChildren() && !node.isRenamed()))
+        return;
+    node.m_areChildrenEdited = true;
+    m_edits.childrenWritten(node);
 }
 
 // --- Properties
@@ -303,6 +372,7 @@ void LiveScene::propertiesFetched(LiveNode& node)
 {
     const NodeRef kept(&node);
     node.m_propertiesFetched = LiveNode::Fetched::Yes;
+    node.m_hasObjects = true;
     for (const auto& then : std::exchange(node.m_onProperties, {}))
         then();
 }
@@ -343,16 +413,16 @@ void LiveScene::keepShown(LiveNode& node)
 {
     m_shown.remove(&node);
     m_shown.push_front(&node);
-    m_link->watch(node.getId(), true);
+    watch(node, true);
     for (auto at = m_shown.end(); m_shown.size() > MostShown && at != m_shown.begin();) {
         LiveNode* oldest = *--at;
         if (oldest == &node || oldest->hasSensors())
             continue;
         at = m_shown.erase(at);
         if (oldest->m_childrenFetched == LiveNode::Fetched::No)
-            m_link->unwatch(oldest->getId());
+            unwatch(*oldest);
         else
-            m_link->watch(oldest->getId(), false);
+            watch(*oldest, false);
     }
 }
 
@@ -403,8 +473,10 @@ void LiveScene::show(LiveProperty& property, const live::Value& value)
 
 void LiveScene::fieldWritten(LiveNode& node, SoField& field)
 {
-    if (!m_isApplying)
-        m_edits.fieldWritten(node, field);
+    if (m_isApplying)
+        return;
+    node.m_isEdited = true;
+    m_edits.fieldWritten(node, field);
 }
 
 // --- Ways
@@ -536,6 +608,11 @@ void LiveScene::noticeCame(const live::Notice& notice)
     UserNotifier::note(getName(), QString::fromStdString(notice.text));
 }
 
+void LiveScene::framesCame(const live::FrameTable& frames)
+{
+    logFrames(frames, SoFrameLog::getInstance());
+}
+
 // --- The end
 
 void LiveScene::ended(const std::string& reason)
@@ -553,7 +630,7 @@ void LiveScene::detach()
 {
     if (m_state == State::Ended)
         return;
-    m_edits.flush();
+    m_edits.flush(true);
     if (m_marked != 0)
         m_link->mark(0);
     m_link->setListener(nullptr);
@@ -586,7 +663,8 @@ QString LiveScene::structureRefusalOf(const LiveNode& node) const
     const QString refusal = refusalOf(node);
     if (!refusal.isEmpty() || m_link->abilities().structure)
         return refusal;
-    return tr("The nodes of “%1” can be neither moved nor removed, since the program does not offer that.")
+    return tr("The nodes of “%1” can be neither added, moved nor removed, since the program does not offer "
+              "that.")
         .arg(getName());
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "live/LiveAdditions.h"
 #include "live/LiveEdits.h"
+#include "live/LiveFolding.h"
 #include "live/LiveLink.h"
 #include "live/LiveNode.h"
 
@@ -38,6 +40,7 @@ public:
     SoNode* getRoot() const { return m_root.get(); }
     LiveLink& getLink() { return *m_link; }
     LiveEdits& getEdits() { return m_edits; }
+    LiveAdditions& getAdditions() { return m_additions; }
     State getState() const { return m_state; }
     /// Why it has ended, in a sentence.
     const QString& getEnd() const { return m_end; }
@@ -54,6 +57,8 @@ public:
     void whenUnfolded(LiveNode& node, const std::function<void()>& act);
     /// Its fields are here, with the program's values.
     void whenShown(LiveNode& node, const std::function<void()>& act);
+    /// Nobody shows its children any more.
+    void fold(LiveNode& node);
     /// Ends the attachment; the nodes stay.
     void detach();
     /// The program has not answered for a while, or does so again.
@@ -73,8 +78,13 @@ public:
     void fetchChildrenAgain(LiveNode& node);
     /// What `act` does to the nodes comes from the program.
     void apply(const std::function<void()>& act);
-    /// The same for an undo step of what the program refused.
+    /// The same for a step of the history that the program has made or refused already.
     void takeBack(const std::function<void()>& act);
+    SoRef<LiveNode> nodeFor(const live::NodeInfo& info);
+    /// The program keeps the node, which we have removed, until that is destroyed here.
+    void noteKept(live::NodeId id);
+    /// Its children are not shown any more.
+    void watchLess(LiveNode& node);
 
 signals:
     void stateChanged();
@@ -85,6 +95,8 @@ signals:
     /// What the field list says of this field.
     void remarked(SoField* field);
     void pictureShown(const QImage& picture);
+    /// New nodes that the user has asked for.
+    void inserted(const QList<SoPath>& paths);
     void countersRead(const std::vector<double>& values);
 
 private:
@@ -96,10 +108,13 @@ private:
         std::function<void(const SoPath&)> done;
     };
 
-    NodeRef nodeFor(const live::NodeInfo& info);
+    void watch(LiveNode& node, bool values);
+    void unwatch(LiveNode& node);
+    bool isShown(const LiveNode& node) const;
     void fetchPiece(const NodeRef& node, std::uint32_t first, bool isAgain);
     void pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain, std::uint32_t asked,
                    const std::vector<live::NodeInfo>& piece);
+    void fetchEditedAgain(LiveNode& node);
     void rootsCame(const std::vector<live::NodeInfo>& roots);
     void fetched(LiveNode& node);
     void setChildren(LiveNode& node);
@@ -125,6 +140,7 @@ private:
     void pictureCame(const live::Picture& picture) override;
     void countersCame(const std::vector<double>& values) override;
     void noticeCame(const live::Notice& notice) override;
+    void framesCame(const live::FrameTable& frames) override;
     void ended(const std::string& reason) override;
 
     HostServices& m_services;
@@ -132,6 +148,10 @@ private:
     std::unordered_map<live::NodeId, LiveNode*> m_nodes;
     std::unordered_set<LiveNode*> m_unnumbered; // the root, and what stands for a node within itself
     LiveEdits m_edits;
+    LiveAdditions m_additions;
+    LiveFolding m_folding{*this};
+    QTimer m_foldsSoon;
+    std::vector<live::NodeId> m_folded; // to be let go from the event loop
     State m_state = State::Attached;
     QString m_end;
     bool m_isApplying = false;

@@ -20,6 +20,7 @@
 #include <xsg/fields/SoMFUShort.h>
 #include <xsg/fields/SoMFVec2d.h>
 #include <xsg/fields/SoMFVec2f.h>
+#include <xsg/fields/SoMFVec2i32.h>
 #include <xsg/fields/SoMFVec2s.h>
 #include <xsg/fields/SoMFVec3d.h>
 #include <xsg/fields/SoMFVec3f.h>
@@ -44,6 +45,7 @@
 #include <xsg/fields/SoSFUShort.h>
 #include <xsg/fields/SoSFVec2d.h>
 #include <xsg/fields/SoSFVec2f.h>
+#include <xsg/fields/SoSFVec2i32.h>
 #include <xsg/fields/SoSFVec2s.h>
 #include <xsg/fields/SoSFVec3d.h>
 #include <xsg/fields/SoSFVec3f.h>
@@ -474,6 +476,7 @@ const KindRow* rowOf(ValueKind kind)
         row<Numbers<SoSFShort, SoMFShort, short, 1>>(ValueKind::Short),
         row<Numbers<SoSFUShort, SoMFUShort, unsigned short, 1>>(ValueKind::UShort),
         row<Numbers<SoSFVec4f, SoMFVec4f, std::uint8_t, 4>>(ValueKind::Vec4ub),
+        row<Numbers<SoSFVec2i32, SoMFVec2i32, std::int32_t, 2>>(ValueKind::Vec2i),
     };
     const auto* found = std::find_if(std::begin(rows), std::end(rows),
                                      [kind](const KindRow& each) { return each.kind == kind; });

@@ -124,6 +124,19 @@ void SocketLink::insert(live::NodeId parent, std::uint32_t index, live::NodeId n
     asked();
 }
 
+void SocketLink::copy(live::NodeId parent, std::uint32_t index, live::NodeId node,
+                      Answer<live::StructureResult> answer)
+{
+    m_client.copy(parent, index, node, std::move(answer));
+    asked();
+}
+
+void SocketLink::forget(live::NodeId node)
+{
+    m_client.forget(node);
+    asked();
+}
+
 void SocketLink::watch(live::NodeId node, bool values)
 {
     m_client.watch(node, values);
@@ -191,6 +204,12 @@ void SocketLink::showNotices(bool shown)
     asked();
 }
 
+void SocketLink::showFrames(bool shown)
+{
+    m_client.showFrames(shown);
+    asked();
+}
+
 void SocketLink::rootsChanged()
 {
     if (m_listener)
@@ -231,6 +250,12 @@ void SocketLink::noticeCame(const live::Notice& notice)
 {
     if (m_listener)
         m_listener->noticeCame(notice);
+}
+
+void SocketLink::framesCame(const live::FrameTable& frames)
+{
+    if (m_listener)
+        m_listener->framesCame(frames);
 }
 
 void SocketLink::ended(const std::string& reason)

@@ -47,6 +47,9 @@ public:
     void remove(live::NodeId parent, std::uint32_t index, Answer<live::StructureResult> answer) override;
     void insert(live::NodeId parent, std::uint32_t index, live::NodeId node,
                 Answer<live::StructureResult> answer) override;
+    void copy(live::NodeId parent, std::uint32_t index, live::NodeId node,
+              Answer<live::StructureResult> answer) override;
+    void forget(live::NodeId node) override;
     void watch(live::NodeId node, bool values) override;
     void unwatch(live::NodeId node) override;
     void pick(double x, double y, Answer<live::PickResult> answer) override;
@@ -59,6 +62,7 @@ public:
     void mark(live::NodeId node) override;
     void showCounters(bool shown) override;
     void showNotices(bool shown) override;
+    void showFrames(bool shown) override;
 
 private:
     void process();
@@ -72,6 +76,7 @@ private:
     void pictureCame(const live::Picture& picture) override;
     void countersCame(const std::vector<double>& values) override;
     void noticeCame(const live::Notice& notice) override;
+    void framesCame(const live::FrameTable& frames) override;
     void ended(const std::string& reason) override;
 
     live::ClientListener* m_listener = nullptr;

@@ -18,6 +18,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cmath>
 #include <unordered_set>
 #include <utility>
 
@@ -50,6 +51,15 @@ std::vector<const SoNode*> pathUpwards(const SoNode* node, const SoNode* root)
     for (const Step& step : path)
         nodes.push_back(step.node);
     return nodes;
+}
+
+// Whole numbers as they are, others with three digits.
+QVariant readable(const QVariant& value)
+{
+    if (!value.isValid() || value.type() == QVariant::String)
+        return value;
+    const double number = value.toDouble();
+    return QLocale().toString(number, 'f', number == std::floor(number) ? 0 : 3);
 }
 
 } // namespace
@@ -231,7 +241,7 @@ QModelIndex SceneTreeModel::indexDownwards(const std::vector<const SoNode*>& nod
 
 QModelIndex SceneTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
-    if (row < 0 || column < 0 || column >= ColumnCount || parent.column() > 0 || row >= rowCount(parent))
+    if (row < 0 || column < 0 || column >= columnCount() || parent.column() > 0 || row >= rowCount(parent))
         return {};
     const Item* item = itemAt(parent);
     return indexOfItem(item ? *item->children[static_cast<std::size_t>(row)] : *m_root, column);
@@ -256,7 +266,7 @@ int SceneTreeModel::rowCount(const QModelIndex& parent) const
 
 int SceneTreeModel::columnCount(const QModelIndex& /*parent*/) const
 {
-    return ColumnCount;
+    return ColumnCount + static_cast<int>(m_more.size());
 }
 
 bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
@@ -317,18 +327,44 @@ QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
+    if (section >= ColumnCount)
+        return m_more[static_cast<std::size_t>(section - ColumnCount)].caption;
     const QString captions[] = {tr("Node"), tr("Type"), tr("Triangles"), tr("Memory"), tr("Places")};
     return captions[section];
 }
 
-QString SceneTreeModel::columnKey(int column)
+void SceneTreeModel::setMoreColumns(std::vector<MoreColumn> columns)
 {
+    if (!m_more.empty()) {
+        beginRemoveColumns({}, ColumnCount, columnCount() - 1);
+        m_more.clear();
+        endRemoveColumns();
+    }
+    if (columns.empty())
+        return;
+    beginInsertColumns({}, ColumnCount, ColumnCount + static_cast<int>(columns.size()) - 1);
+    m_more = std::move(columns);
+    endInsertColumns();
+}
+
+// Invalid where it is not known.
+QVariant SceneTreeModel::moreValue(const SoNode& node, int column) const
+{
+    return m_more[static_cast<std::size_t>(column - ColumnCount)].value(node);
+}
+
+QString SceneTreeModel::columnKey(int column) const
+{
+    if (column >= ColumnCount)
+        return m_more[static_cast<std::size_t>(column - ColumnCount)].key;
     const char* const keys[] = {"node", "type", "triangles", "memory", "places"};
     return QLatin1String(keys[column]);
 }
 
 QVariant SceneTreeModel::text(const SoNode& node, int column) const
 {
+    if (column >= ColumnCount)
+        return readable(moreValue(node, column));
     switch (column) {
     case NameColumn:
         return nodeText(node);
@@ -352,6 +388,8 @@ QVariant SceneTreeModel::sortKey(const SoNode& node) const
 {
     if (m_sortColumn == NameColumn || m_sortColumn == TypeColumn)
         return text(node, m_sortColumn);
+    if (m_sortColumn >= ColumnCount)
+        return moreValue(node, m_sortColumn);
     if (m_sortColumn == PlacesColumn)
         return countPlaces(&node, getRoot(), MostPlaces);
     const auto figures = m_figures->find(&node);
@@ -364,10 +402,11 @@ void SceneTreeModel::sortChildren(std::vector<SoNode*>& children) const
     keyed.reserve(children.size());
     for (SoNode* child : children)
         keyed.emplace_back(sortKey(*child), child);
-    const bool isText = m_sortColumn == NameColumn || m_sortColumn == TypeColumn;
-    const auto isLess = [isText](const QVariant& a, const QVariant& b) {
-        return isText ? a.toString().compare(b.toString(), Qt::CaseInsensitive) < 0
-                      : a.toLongLong() < b.toLongLong();
+    const auto isLess = [](const QVariant& a, const QVariant& b) {
+        if (!a.isValid() || !b.isValid())
+            return !a.isValid() && b.isValid();
+        return a.type() == QVariant::String ? a.toString().compare(b.toString(), Qt::CaseInsensitive) < 0
+                                            : a.toDouble() < b.toDouble();
     };
     std::stable_sort(keyed.begin(), keyed.end(), [&](const auto& a, const auto& b) {
         return m_sortOrder == Qt::AscendingOrder ? isLess(a.first, b.first) : isLess(b.first, a.first);

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModel>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <unordered_set>
@@ -30,7 +31,15 @@ class SceneTreeModel : public QAbstractItemModel
 public:
     enum Column { NameColumn, TypeColumn, TrianglesColumn, MemoryColumn, PlacesColumn, ColumnCount };
     /// The same in all scenes, for settings.
-    static QString columnKey(int column);
+    QString columnKey(int column) const;
+    /// Columns behind those above, by whoever knows more of nodes.
+    struct MoreColumn {
+        QString key;
+        QString caption;
+        std::function<QVariant(const SoNode&)> value; // a number or a text; an invalid one is empty
+    };
+    /// In place of those given before.
+    void setMoreColumns(std::vector<MoreColumn> columns);
 
     /// Where the parent is a widget, its palette colours the icons.
     explicit SceneTreeModel(QObject* parent = nullptr);
@@ -104,10 +113,12 @@ private:
     void listAgain();
     const QWidget* surface() const;
     QVariant text(const SoNode& node, int column) const;
+    QVariant moreValue(const SoNode& node, int column) const;
     QVariant sortKey(const SoNode& node) const;
     void sortChildren(std::vector<SoNode*>& children) const;
 
     NodeFigures* m_figures;
+    std::vector<MoreColumn> m_more;
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
     std::unique_ptr<Item> m_root;

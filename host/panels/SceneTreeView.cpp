@@ -126,7 +126,7 @@ void SceneTreeView::selectRows(const QModelIndexList& rows)
         return dropSelection();
     QItemSelection selection;
     for (const QModelIndex& row : rows)
-        selection.append(QItemSelectionRange(row, row.siblingAtColumn(SceneTreeModel::ColumnCount - 1)));
+        selection.append(QItemSelectionRange(row, row.siblingAtColumn(m_model->columnCount() - 1)));
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     selectionModel()->setCurrentIndex(rows.last(), QItemSelectionModel::NoUpdate);
     std::copy(rows.begin(), rows.end(), std::back_inserter(m_order));
@@ -238,12 +238,16 @@ void SceneTreeView::showAll()
     if (m_model->isShowingAll())
         return;
     keepSelection([this] { m_model->showAll(); });
-    for (const SoPath& path : m_expandedBefore) {
+    expandPaths(std::exchange(m_expandedBefore, {}));
+}
+
+void SceneTreeView::expandPaths(const std::vector<SoPath>& paths)
+{
+    for (const SoPath& path : paths) {
         const QModelIndex index = m_model->indexOf(path);
         if (index.isValid())
             expand(index);
     }
-    m_expandedBefore.clear();
 }
 
 template <class Change>
@@ -355,7 +359,7 @@ void SceneTreeView::fitColumns()
     constexpr int FigureWidth = 84;
     constexpr int Least = 180; // for name and type
     int left = viewport()->width();
-    for (int column = SceneTreeModel::TrianglesColumn; column < SceneTreeModel::ColumnCount; ++column) {
+    for (int column = SceneTreeModel::TrianglesColumn; column < m_model->columnCount(); ++column) {
         if (isColumnHidden(column))
             continue;
         header()->resizeSection(column, FigureWidth);
@@ -377,8 +381,7 @@ void SceneTreeView::listAgain(Change change)
 {
     const std::vector<SoPath> expanded = expandedPaths();
     keepSelection(change);
-    for (const SoPath& path : expanded)
-        expand(m_model->indexOf(path));
+    expandPaths(expanded);
 }
 
 void SceneTreeView::sortRows(int column, Qt::SortOrder order)
@@ -402,7 +405,27 @@ void SceneTreeView::figuresChanged()
 {
     const int column = m_model->isSorted() ? header()->sortIndicatorSection() : -1;
     if (column == SceneTreeModel::TrianglesColumn || column == SceneTreeModel::MemoryColumn)
-        listAgain([&] { m_model->sort(column, header()->sortIndicatorOrder()); });
+        sortAgain();
+    viewport()->update();
+}
+
+void SceneTreeView::sortAgain()
+{
+    listAgain([this] { m_model->sort(header()->sortIndicatorSection(), header()->sortIndicatorOrder()); });
+}
+
+void SceneTreeView::setMoreColumns(std::vector<SceneTreeModel::MoreColumn> columns)
+{
+    if (m_model->isSorted() && header()->sortIndicatorSection() >= SceneTreeModel::ColumnCount)
+        sortRows(-1, Qt::AscendingOrder);
+    keepSelection([&] { m_model->setMoreColumns(std::move(columns)); });
+    fitColumns();
+}
+
+void SceneTreeView::updateMoreColumns()
+{
+    if (m_model->isSorted() && header()->sortIndicatorSection() >= SceneTreeModel::ColumnCount)
+        sortAgain();
     viewport()->update();
 }
 

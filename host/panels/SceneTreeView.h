@@ -31,6 +31,9 @@ public:
     /// Starts at the root, with its first level open. Null empties the tree.
     void setScene(SoNode* root);
     SceneTreeModel& getModel() const { return *m_model; }
+    /// The rows that are expanded, and those that stand in them.
+    std::vector<SoPath> expandedPaths() const;
+    void expandPaths(const std::vector<SoPath>& paths);
 
     /// Selects the node's row alone and expands its parents. A row of the same node that is selected already
     /// stays, whichever of its places it is. Emits nothing.
@@ -76,6 +79,10 @@ public:
     /// Name and type are shown at first.
     void setColumnShown(int column, bool on);
     bool isColumnShown(int column) const { return !isColumnHidden(column); }
+    /// As of the model; what is selected stays so. They are shown.
+    void setMoreColumns(std::vector<SceneTreeModel::MoreColumn> columns);
+    /// Their values are others now.
+    void updateMoreColumns();
     /// By what the column shows; -1: in the scene's order. What is selected and unfolded stays so.
     void sortRows(int column, Qt::SortOrder order);
 
@@ -111,6 +118,7 @@ private:
     };
     void fitColumns();
     void figuresChanged();
+    void sortAgain();
     template <class Change>
     void listAgain(Change change);
     void sortClicked(int column);
@@ -124,7 +132,6 @@ private:
     QModelIndexList selectedRows() const;
     template <class Change>
     void keepSelection(Change change);
-    std::vector<SoPath> expandedPaths() const;
     static SoPath pathAt(QModelIndex index);
 
     SceneTreeModel* m_model;

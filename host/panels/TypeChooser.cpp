@@ -55,11 +55,12 @@ TypeChooser::TypeChooser(const std::vector<SoType>& types, const QString& title,
     setObjectName(QStringLiteral("typeChooser"));
     setWindowTitle(title);
     m_line->setPlaceholderText(tr("Type a part of the name"));
+    m_line->setAccessibleName(tr("Type a part of the name"));
     m_line->installEventFilter(this);
     m_list->setIconSize({16, 16}); // the grid that the icons are drawn on
     m_list->setAccessibleName(tr("Types of nodes"));
     for (const SoType type : m_types)
-        m_list->addItem(new QListWidgetItem(nodeIcon(type, this), toQString(type.getName())));
+        m_list->addItem(new QListWidgetItem(nodeIcon(type, this), typeText(type)));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_line);
     layout->addWidget(m_list);

@@ -3,6 +3,7 @@
 
 #include "shell/HostShell.h"
 #include "support/CatchExceptions.h"
+#include "support/OutputTaps.h"
 
 #include <scopix/SpxEditor.h>
 
@@ -57,6 +58,7 @@ void ManagedExtension::unload()
 
 bool ManagedExtension::tryCall(const char* act, const std::function<void()>& call) const
 {
+    const OutputStep step;
     const QString failure = catchExceptions(call);
     if (failure.isEmpty())
         return true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginLibrary.h"
 
+#include "language/Languages.h"
 #include "plugins/LibraryTrust.h"
 #include "plugins/PluginNote.h"
 #include "support/CatchExceptions.h"
@@ -10,6 +11,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <utility>
 
@@ -89,6 +91,8 @@ QString PluginLibrary::open()
 {
     if (!m_library.load())
         return tr("it is no library that this program can load (%1)").arg(m_library.errorString());
+    if (Languages* languages = Languages::instance())
+        languages->add(QFileInfo(m_library.fileName()).baseName().remove(QRegularExpression("^lib")));
     const QString missing = resolve(m_library, "loadPlugin", m_load);
     return missing.isEmpty() ? resolve(m_library, "unloadPlugin", m_unload) : missing;
 }

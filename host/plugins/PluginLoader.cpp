@@ -4,6 +4,7 @@
 #include "services/HostServices.h"
 #include "shell/HostShell.h"
 #include "support/CatchExceptions.h"
+#include "support/OutputTaps.h"
 
 #include <scopix/SpxPlugin.h>
 
@@ -26,6 +27,7 @@ PluginLoader::~PluginLoader() = default;
 
 bool PluginLoader::load(const QString& path)
 {
+    const OutputStep step;
     QString reason;
     std::unique_ptr<PluginLibrary> library = PluginLibrary::load(path, reason);
     if (!library) {
@@ -81,9 +83,10 @@ void PluginLoader::unloadAll()
         reportUnload(**library, "unload", catchExceptions([&] { (*library)->plugin()->unload(); }));
     // Deletions that the plug-ins deferred run their code, which is about to leave the process.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    m_services.history().clear();
+    m_services.history().clearAll();
     m_paths.clear();
     while (!m_libraries.empty()) {
+        const OutputStep step;
         reportUnload(*m_libraries.back(), "unloadPlugin", m_libraries.back()->unload());
         m_libraries.pop_back();
     }

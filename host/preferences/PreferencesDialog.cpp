@@ -25,9 +25,9 @@ constexpr int WidthInCharacters = 92;
 constexpr int HeightInLines = 30;
 constexpr int TitlesInCharacters = 18;
 
-QScrollArea* scrolled(QWidget* content)
+QScrollArea* scrolled(QWidget* content, QWidget* parent)
 {
-    auto* scroll = new QScrollArea;
+    auto* scroll = new QScrollArea(parent);
     scroll->setWidget(content);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -58,8 +58,8 @@ PreferencesDialog::PreferencesDialog(const std::vector<Setting>& settings, QWidg
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_nothing->hide();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    m_reset = buttons->addButton(tr("&Reset This Page"), QDialogButtonBox::ResetRole);
+    m_buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    m_reset = m_buttons->addButton(tr("&Reset This Page"), QDialogButtonBox::ResetRole);
     auto* row = new QHBoxLayout;
     row->addWidget(m_titles);
     row->addWidget(m_stack, 1);
@@ -67,14 +67,14 @@ PreferencesDialog::PreferencesDialog(const std::vector<Setting>& settings, QWidg
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_search);
     column->addLayout(row, 1);
-    column->addWidget(buttons);
+    column->addWidget(m_buttons);
     connect(m_search, &QLineEdit::textChanged, this, &PreferencesDialog::search);
     connect(m_titles, &QListWidget::currentRowChanged, this, [this](int row) {
         m_stack->setCurrentIndex(row);
-        m_reset->setVisible(row >= 0 && !m_pages[std::size_t(row)].rows.empty());
+        m_reset->setEnabled(row >= 0 && !m_pages[std::size_t(row)].rows.empty());
     });
     connect(m_reset, &QPushButton::clicked, this, &PreferencesDialog::resetPage);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     addSettings(settings);
     m_titles->setCurrentRow(0);
     resize(fontMetrics().averageCharWidth() * WidthInCharacters, fontMetrics().lineSpacing() * HeightInLines);
@@ -85,7 +85,7 @@ PreferencesDialog::Page& PreferencesDialog::pageOf(const QString& title)
     for (Page& page : m_pages)
         if (page.title == title)
             return page;
-    auto* content = new QWidget;
+    auto* content = new QWidget(m_stack);
     content->setLayout(new QVBoxLayout);
     static_cast<QVBoxLayout*>(content->layout())->addStretch();
     addPage(title, content, {});
@@ -95,7 +95,7 @@ PreferencesDialog::Page& PreferencesDialog::pageOf(const QString& title)
 void PreferencesDialog::addPage(const QString& title, QWidget* page, const QString& words)
 {
     m_pages.push_back({title, words, {}});
-    m_stack->addWidget(scrolled(page));
+    m_stack->addWidget(scrolled(page, m_stack));
     m_titles->addItem(title);
 }
 
@@ -112,9 +112,24 @@ void PreferencesDialog::addSettings(const std::vector<Setting>& settings)
     }
 }
 
+// The buttons, which stand below the pages, come after them.
+void PreferencesDialog::orderTabs()
+{
+    QWidget* before = m_titles;
+    QList<QWidget*> inputs = m_stack->findChildren<QWidget*>();
+    inputs << m_reset << m_buttons->button(QDialogButtonBox::Close);
+    for (QWidget* each : qAsConst(inputs)) {
+        if (each->window() != this || !(each->focusPolicy() & Qt::TabFocus) || each->focusProxy())
+            continue;
+        setTabOrder(before, each);
+        before = each;
+    }
+}
+
 void PreferencesDialog::showSetting(const QString& key)
 {
     m_search->clear();
+    orderTabs();
     for (std::size_t at = 0; at < m_pages.size(); ++at)
         for (SettingRow* row : m_pages[at].rows)
             if (row->getSetting().key == key) {

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -47,11 +48,13 @@ private:
     Page& pageOf(const QString& title);
     void search(const QString& text);
     void resetPage();
+    void orderTabs();
 
     QLineEdit* m_search;
     QListWidget* m_titles;
     QStackedWidget* m_stack;
     QLabel* m_nothing;
+    QDialogButtonBox* m_buttons = nullptr;
     QPushButton* m_reset = nullptr;
     std::vector<Page> m_pages;
 };

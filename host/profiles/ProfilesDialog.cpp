@@ -69,6 +69,7 @@ ProfilesDialog::ProfilesDialog(ProfileList& profiles, QWidget* parent)
 void ProfilesDialog::makeList()
 {
     m_list->setObjectName(QStringLiteral("profiles"));
+    m_list->setAccessibleName(tr("Profiles"));
     for (const auto& profile : m_source.profiles()) {
         auto* item = new QListWidgetItem(profile->name(), m_list);
         if (profile.get() == m_source.activeProfile()) {
@@ -95,6 +96,7 @@ void ProfilesDialog::markActive(QListWidgetItem& item)
 void ProfilesDialog::makeTree()
 {
     m_tree->setObjectName(QStringLiteral("extensions"));
+    m_tree->setAccessibleName(tr("Extensions that the profile controls"));
     m_tree->setHeaderLabel(tr("Extensions that the profile controls"));
     showCheckBoxes(*m_tree);
     m_tools = makeGroup(tr("Tools"), false);

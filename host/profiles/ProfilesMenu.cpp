@@ -10,6 +10,13 @@
 namespace scopix
 {
 
+namespace
+{
+
+constexpr int LastDigit = 9;
+
+} // namespace
+
 ProfilesMenu::ProfilesMenu(ProfileList& profiles, QMenu& menu)
     : QObject(&menu)
     , m_profiles(profiles)
@@ -25,10 +32,13 @@ void ProfilesMenu::refill()
     m_menu.clear();
     delete m_group;
     m_group = new QActionGroup(this);
+    int number = 0;
     for (const auto& each : m_profiles.profiles()) {
         const QString name = each->name();
         QString label = name;
         QAction* entry = m_menu.addAction(label.replace(QLatin1Char('&'), QStringLiteral("&&")));
+        if (++number <= LastDigit)
+            entry->setShortcut(QStringLiteral("Ctrl+P, %1").arg(number));
         entry->setCheckable(true);
         entry->setActionGroup(m_group);
         entry->setChecked(each.get() == m_profiles.activeProfile());
@@ -36,7 +46,8 @@ void ProfilesMenu::refill()
                 [this, name] { m_profiles.setActiveProfile(m_profiles.findProfile(name)); });
     }
     m_menu.addSeparator();
-    QAction* manageEntry = m_menu.addAction(tr("&Manage Profiles…"), this, &ProfilesMenu::manage);
+    QAction* manageEntry =
+        m_menu.addAction(tr("&Manage Profiles…"), this, &ProfilesMenu::manage, QStringLiteral("Ctrl+P, M"));
     manageEntry->setObjectName(QStringLiteral("manageProfiles"));
 }
 

@@ -95,5 +95,7 @@ int main(int argc, char** argv)
     // window.
     if (QApplication::platformName() == QLatin1String("offscreen"))
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    // Not before: what is printed is read by programs (decisions.md: commands-in-english).
+    scopix::HostApplication::speakUsersLanguage();
     return scopix::EndOfSession::endWith(run(line));
 }

@@ -2,6 +2,7 @@
 #include "reader/AssimpMaterial.h"
 
 #include "reader/ModelPictures.h"
+#include "reader/Opacity.h"
 #include "reader/PhysicalMaterial.h"
 
 #include <assimp/GltfMaterial.h>
@@ -53,7 +54,7 @@ float numberOf(const aiMaterial& material, const char* key, unsigned type, unsig
 float transparencyOf(const aiMaterial& material)
 {
     aiString mode;
-    float opacity = numberOf(material, AI_MATKEY_OPACITY, 1);
+    float opacity = opacityOf(material);
     if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS && mode == aiString("OPAQUE"))
         opacity = 1; // its alpha is to be ignored
     const float letThrough = numberOf(material, AI_MATKEY_TRANSMISSION_FACTOR, 0);

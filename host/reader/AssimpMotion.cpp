@@ -249,6 +249,26 @@ private:
     ModelMotion::Clip m_clip;
 };
 
+// How many of these stand in a node that an animation moves, or below one.
+template <class Thing>
+unsigned countMoved(const aiScene& scene, Thing* const* things, unsigned count)
+{
+    std::set<std::string> moved;
+    for (unsigned i = 0; i < scene.mNumAnimations; ++i) {
+        const aiAnimation& animation = *scene.mAnimations[i];
+        for (unsigned k = 0; k < animation.mNumChannels; ++k)
+            moved.insert(animation.mChannels[k]->mNodeName.C_Str());
+    }
+    const auto isMoved = [&](const aiNode* node) {
+        while (node && moved.count(node->mName.C_Str()) == 0)
+            node = node->mParent;
+        return node != nullptr;
+    };
+    return static_cast<unsigned>(std::count_if(things, things + count, [&](const Thing* thing) {
+        return isMoved(scene.mRootNode->FindNode(thing->mName));
+    }));
+}
+
 } // namespace
 
 ModelMotion motionOf(const aiScene& scene, const ModelData& model)
@@ -288,21 +308,12 @@ unsigned countTracksLeftOut(const aiScene& scene)
 
 unsigned countMovedLights(const aiScene& scene)
 {
-    std::set<std::string> moved;
-    for (unsigned i = 0; i < scene.mNumAnimations; ++i) {
-        const aiAnimation& animation = *scene.mAnimations[i];
-        for (unsigned k = 0; k < animation.mNumChannels; ++k)
-            moved.insert(animation.mChannels[k]->mNodeName.C_Str());
-    }
-    const auto isMoved = [&](const aiNode* node) {
-        while (node && moved.count(node->mName.C_Str()) == 0)
-            node = node->mParent;
-        return node != nullptr;
-    };
-    return static_cast<unsigned>(
-        std::count_if(scene.mLights, scene.mLights + scene.mNumLights, [&](const aiLight* light) {
-            return isMoved(scene.mRootNode->FindNode(light->mName));
-        }));
+    return countMoved(scene, scene.mLights, scene.mNumLights);
+}
+
+unsigned countMovedCameras(const aiScene& scene)
+{
+    return countMoved(scene, scene.mCameras, scene.mNumCameras);
 }
 
 } // namespace scopix

@@ -16,5 +16,7 @@ ModelMotion motionOf(const aiScene& scene, const ModelData& model);
 unsigned countTracksLeftOut(const aiScene& scene);
 /// How many lights stand in a node that an animation moves: here they shine from where they are at rest.
 unsigned countMovedLights(const aiScene& scene);
+/// The same of cameras, which a view does not follow.
+unsigned countMovedCameras(const aiScene& scene);
 
 } // namespace scopix

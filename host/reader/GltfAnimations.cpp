@@ -159,11 +159,10 @@ private:
 
 } // namespace
 
-void takeGltfAnimations(const QString& path, ModelData& model)
+void takeGltfAnimations(GltfFile& file, ModelData& model)
 {
     if (model.motion.clips.empty())
         return;
-    GltfFile file(path);
     const NodeOrder order(file.getText(), model);
     if (!order.isSame())
         return;

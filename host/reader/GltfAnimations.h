@@ -3,15 +3,14 @@
 // between keys, and knows nodes by their names, of which there may be several.
 #pragma once
 
-class QString;
-
 namespace scopix
 {
 
+class GltfFile;
 struct ModelData;
 
 /// Takes the file's own animations in place of the model's clips. These stay where the file cannot be read
 /// so, or has other nodes.
-void takeGltfAnimations(const QString& path, ModelData& model);
+void takeGltfAnimations(GltfFile& file, ModelData& model);
 
 } // namespace scopix

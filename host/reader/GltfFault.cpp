@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reader/FormatChecks.h"
 
-#include "reader/GltfText.h"
+#include "reader/GltfFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -13,8 +13,6 @@ namespace scopix
 
 namespace
 {
-
-constexpr qint64 LargestText = 64 << 20; // what is larger is not looked into for a fault
 
 QString tr(const char* text)
 {
@@ -46,9 +44,9 @@ QString versionFault(const QJsonObject& gltf)
 QString gltfFault(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > LargestText)
+    if (!file.open(QIODevice::ReadOnly) || file.size() > GltfFile::LargestText)
         return {};
-    const QByteArray text = readGltfText(file);
+    const QByteArray text = GltfFile::readText(file);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     return error.error == QJsonParseError::NoError ? versionFault(document.object())

@@ -75,6 +75,11 @@ QByteArray contentOf(const QString& path)
     return isGood ? file.readAll() : QByteArray();
 }
 
+qint64 sizeAt(const QByteArray& bytes, qint64 at)
+{
+    return at + 4 <= bytes.size() ? qint64{qFromLittleEndian<quint32>(bytes.constData() + at)} : 0;
+}
+
 QJsonObject item(const QJsonObject& text, const char* list, int number)
 {
     return text.value(QLatin1String(list)).toArray().at(number).toObject();
@@ -88,33 +93,38 @@ qint64 whole(const QJsonObject& object, const char* name, qint64 otherwise = 0)
 } // namespace
 
 GltfFile::GltfFile(const QString& path)
-    : m_folder(QFileInfo(path).absolutePath())
+    : m_path(path)
 {
-    QByteArray content = contentOf(path);
-    if (content.startsWith("glTF"))
-        readBinary(std::move(content));
-    else
-        m_text = QJsonDocument::fromJson(content).object();
+    QFile file(path);
+    if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
+        m_text = QJsonDocument::fromJson(readText(file)).object();
 }
 
-void GltfFile::readBinary(QByteArray whole)
+// A binary file has the text in its first part, behind two headers.
+QByteArray GltfFile::readText(QFile& file)
 {
-    const auto sizeAt = [&](qint64 at) {
-        return at + 4 <= whole.size() ? qint64{qFromLittleEndian<quint32>(whole.constData() + at)} : 0;
-    };
-    const qint64 textSize = sizeAt(Header);
-    const qint64 text = Header + ChunkHeader;
-    m_text = QJsonDocument::fromJson(whole.mid(int(text), int(std::min(textSize, LargestFile)))).object();
-    const qint64 binary = text + textSize;
-    if (binary + ChunkHeader <= whole.size())
-        m_binary = whole.mid(int(binary) + ChunkHeader, int(std::min(sizeAt(binary), LargestFile)));
+    const QByteArray head = file.peek(Header + ChunkHeader);
+    if (!head.startsWith("glTF"))
+        return file.read(LargestText);
+    file.skip(Header + ChunkHeader);
+    return file.read(std::min<qint64>(sizeAt(head, Header), LargestText));
+}
+
+// The part behind the text of a binary file.
+QByteArray GltfFile::loadBinary() const
+{
+    const QByteArray whole = contentOf(m_path);
+    const qint64 start = Header + ChunkHeader + sizeAt(whole, Header);
+    return start + ChunkHeader <= whole.size()
+               ? whole.mid(int(start) + ChunkHeader, int(std::min(sizeAt(whole, start), LargestFile)))
+               : QByteArray();
 }
 
 QByteArray GltfFile::bufferOf(int number)
 {
     if (!m_buffers.contains(number)) {
         const QJsonObject buffer = item(m_text, "buffers", number);
-        m_buffers.insert(number, buffer.contains(QLatin1String("uri")) ? loadBuffer(buffer) : m_binary);
+        m_buffers.insert(number, buffer.contains(QLatin1String("uri")) ? loadBuffer(buffer) : loadBinary());
     }
     return m_buffers.value(number);
 }
@@ -123,7 +133,7 @@ QByteArray GltfFile::loadBuffer(const QJsonObject& buffer) const
 {
     const QString uri = buffer.value(QLatin1String("uri")).toString();
     if (!uri.startsWith(QLatin1String("data:")))
-        return contentOf(m_folder + '/' + QUrl::fromPercentEncoding(uri.toUtf8()));
+        return contentOf(QFileInfo(m_path).absolutePath() + '/' + QUrl::fromPercentEncoding(uri.toUtf8()));
     const int comma = uri.indexOf(QLatin1Char(','));
     return QByteArray::fromBase64(uri.midRef(comma + 1).toLatin1());
 }

@@ -9,6 +9,8 @@
 #include <optional>
 #include <vector>
 
+class QFile;
+
 namespace scopix
 {
 
@@ -17,7 +19,11 @@ namespace scopix
 class GltfFile
 {
 public:
+    static constexpr qint64 LargestText = 64 << 20;
+
     explicit GltfFile(const QString& path);
+    /// The JSON text of an open glTF or GLB file; of one that is larger, its first part.
+    static QByteArray readText(QFile& file);
 
     /// Empty where the file cannot be read.
     const QJsonObject& getText() const { return m_text; }
@@ -30,13 +36,12 @@ public:
     std::optional<Numbers> read(int accessor);
 
 private:
-    void readBinary(QByteArray whole);
+    QByteArray loadBinary() const;
     QByteArray bufferOf(int number);
     QByteArray loadBuffer(const QJsonObject& buffer) const;
 
-    QString m_folder;
+    QString m_path;
     QJsonObject m_text;
-    QByteArray m_binary; // the part behind the text of a binary file
     QMap<int, QByteArray> m_buffers;
 };
 

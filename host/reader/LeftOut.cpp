@@ -2,7 +2,9 @@
 #include "reader/LeftOut.h"
 
 #include "reader/AssimpMotion.h"
+#include "reader/MaterialLosses.h"
 #include "reader/PhysicalMaterial.h"
+#include "reader/Sentences.h"
 
 #include <assimp/material.h>
 #include <assimp/scene.h>
@@ -10,6 +12,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace scopix
@@ -18,18 +21,14 @@ namespace scopix
 namespace
 {
 
-constexpr int MostNamed = 5;
-
 QString tr(const char* text)
 {
     return QCoreApplication::translate("LeftOut", text);
 }
 
-// Adds the sentence for one or for several, with "%1" for how many.
 void add(QStringList& sentences, unsigned count, const char* one, const char* several)
 {
-    if (count > 0)
-        sentences += count == 1 ? tr(one) : tr(several).arg(count);
+    addCounted(sentences, count, tr(one), tr(several));
 }
 
 struct MapKind {
@@ -94,22 +93,58 @@ unsigned sumOf(Thing* const* things, unsigned count, Counts counts)
     return sum;
 }
 
-QString named(const QStringList& names)
-{
-    QStringList shown;
-    for (const QString& name : names.mid(0, MostNamed))
-        shown += tr("“%1”").arg(name);
-    if (names.size() > MostNamed)
-        shown += tr("…");
-    return shown.join(QStringLiteral(", "));
-}
-
 QStringList missing(const QStringList& names, const char* one, const char* several)
 {
     if (names.isEmpty())
         return {};
-    return {names.size() == 1 ? tr(one).arg(named(names))
-                              : tr(several).arg(QString::number(names.size()), named(names))};
+    return {names.size() == 1 ? tr(one).arg(quoted(names))
+                              : tr(several).arg(QString::number(names.size()), quoted(names))};
+}
+
+unsigned countUnusedCoordinates(const aiScene& scene, const aiMesh& mesh)
+{
+    const std::array<int, 2> used = coordinatesOf(*scene.mMaterials[mesh.mMaterialIndex]);
+    unsigned count = 0;
+    for (int i = 0; i < AI_MAX_NUMBER_OF_TEXTURECOORDS; ++i)
+        count += mesh.mTextureCoords[i] && i != used[0] && i != used[1] ? 1 : 0;
+    return count;
+}
+
+bool hasFurtherColors(const aiMesh& mesh)
+{
+    return mesh.GetNumColorChannels() > 1;
+}
+
+bool hasTransparentPoints(const aiMesh& mesh)
+{
+    return mesh.mColors[0] && std::any_of(mesh.mColors[0], mesh.mColors[0] + mesh.mNumVertices,
+                                          [](const aiColor4D& color) { return color.a < 1; });
+}
+
+void addMeshes(QStringList& sentences, const aiScene& scene)
+{
+    const auto sum = [&](auto counts) { return sumOf(scene.mMeshes, scene.mNumMeshes, counts); };
+    add(sentences, sum([&](const aiMesh& mesh) { return countUnusedCoordinates(scene, mesh); }),
+        "1 list of texture coordinates is left out, which no picture uses.",
+        "%1 lists of texture coordinates are left out, which no picture uses.");
+    add(sentences, sum([](const aiMesh& mesh) { return hasFurtherColors(mesh) ? 1U : 0U; }),
+        "The further colours of the points of 1 mesh are left out.",
+        "The further colours of the points of %1 meshes are left out.");
+    add(sentences, sum([](const aiMesh& mesh) { return hasTransparentPoints(mesh) ? 1U : 0U; }),
+        "How transparent the points of 1 mesh are is left out.",
+        "How transparent the points of %1 meshes are is left out.");
+}
+
+void addLights(QStringList& sentences, const aiScene& scene)
+{
+    const auto sum = [&](aiLightSourceType type) {
+        return sumOf(scene.mLights, scene.mNumLights,
+                     [type](const aiLight& light) { return light.mType == type ? 1U : 0U; });
+    };
+    add(sentences, sum(aiLightSource_AREA), "1 light with an area shines from its middle.",
+        "%1 lights with an area shine from their middles.");
+    add(sentences, sum(aiLightSource_UNDEFINED), "1 light is left out, whose kind is not known here.",
+        "%1 lights are left out, whose kind is not known here.");
 }
 
 } // namespace
@@ -122,6 +157,8 @@ QStringList partsLeftOut(const aiScene& scene)
         "%1 tracks of animations move what there are no nodes for, and are left out.");
     add(sentences, countMovedLights(scene), "The movement of 1 light is left out.",
         "The movements of %1 lights are left out.");
+    add(sentences, countMovedCameras(scene), "1 camera moves, and what is seen through it stays.",
+        "%1 cameras move, and what is seen through them stays.");
     for (const MapKind& kind : mapKinds())
         add(sentences,
             sumOf(scene.mMaterials, scene.mNumMaterials,
@@ -130,18 +167,9 @@ QStringList partsLeftOut(const aiScene& scene)
     add(sentences, sumOf(scene.mMaterials, scene.mNumMaterials, countWithoutCoordinates),
         "1 picture is left out, whose material has two other texture coordinates already.",
         "%1 pictures are left out, whose materials have two other texture coordinates already.");
-    const auto countValues = [&](const char* key, unsigned type, unsigned index) {
-        return sumOf(scene.mMaterials, scene.mNumMaterials, [&](const aiMaterial& material) {
-            aiColor4D value;
-            const bool isThere = material.Get(key, type, index, value) == aiReturn_SUCCESS;
-            return isThere && (value.r > 0 || value.g > 0 || value.b > 0) ? 1U : 0U;
-        });
-    };
-    add(sentences, countValues(AI_MATKEY_SHEEN_COLOR_FACTOR), "The sheen of 1 material is left out.",
-        "The sheen of %1 materials is left out.");
-    add(sentences, countValues(AI_MATKEY_TRANSMISSION_FACTOR),
-        "The transmission of 1 material is shown as transparency.",
-        "The transmission of %1 materials is shown as transparency.");
+    addMeshes(sentences, scene);
+    addLights(sentences, scene);
+    sentences += materialLosses(scene);
     return sentences;
 }
 

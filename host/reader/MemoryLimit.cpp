@@ -45,7 +45,7 @@ rlim_t bytesBeside(const QString& path)
 void limitMemoryFor(const QString& path)
 {
     constexpr rlim_t Least = rlim_t{3} << 29; // 1.5 GiB, with which the process stays below 2 GiB
-    constexpr rlim_t PerByte = 64; // text grows some tenfold, a packed model several times that
+    constexpr rlim_t PerByte = 64;            // text grows some tenfold, a packed model several times that
     const rlim_t machine = static_cast<rlim_t>(sysconf(_SC_PHYS_PAGES)) * pageSize();
     const rlim_t model = std::min(bytesBeside(path), machine / PerByte);
     const rlim_t most = dataInUse() + std::min(machine, Least + PerByte * model);

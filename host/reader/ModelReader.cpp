@@ -6,7 +6,9 @@
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
 #include "reader/GltfAnimations.h"
-#include "reader/GltfText.h"
+#include "reader/GltfFile.h"
+#include "reader/GltfLosses.h"
+#include "reader/GltfMaterials.h"
 #include "reader/LeftOut.h"
 #include "reader/ModelPictures.h"
 #include "reader/RegularFiles.h"
@@ -26,6 +28,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace scopix
 {
@@ -164,7 +167,8 @@ void giveFacesToPoints(aiMesh& mesh)
     }
 }
 
-const aiScene* read(Assimp::Importer& importer, const QString& path)
+// `gltf`: the text of the file, where it is of that format.
+const aiScene* read(Assimp::Importer& importer, const QString& path, const QJsonObject& gltf)
 {
     // The importer owns the scene and hands it out to be read; in between its steps nobody else does.
     auto* scene = const_cast<aiScene*>(importer.ReadFile(QFile::encodeName(path).constData(), 0));
@@ -174,6 +178,7 @@ const aiScene* read(Assimp::Importer& importer, const QString& path)
     removeUnreferenced(*scene->mRootNode, scene->mCameras, scene->mNumCameras);
     for (unsigned i = 0; i < scene->mNumMeshes; ++i)
         giveFacesToPoints(*scene->mMeshes[i]);
+    takeCoordinateSets(gltf, *scene);
     return importer.ApplyPostProcessing(stepsFor(path));
 }
 
@@ -191,21 +196,25 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
     importer.SetIOHandler(new FileAccess(path, missingFiles));
     importer.SetPropertyFloat(AI_CONFIG_PP_GSN_MAX_SMOOTHING_ANGLE, creaseAngle());
     const ScopedCLocale numbers;
-    const aiScene* scene = read(importer, path);
+    std::optional<GltfFile> gltf;
+    if (isGltf(path))
+        gltf.emplace(path);
+    const aiScene* scene = read(importer, path, gltf ? gltf->getText() : QJsonObject());
     if (!scene)
         return failed(cannotOpen(path, reasonOf(importer, path)));
     ModelReadResult result;
     ModelPictures pictures(*scene, QFileInfo(path).absolutePath(), xsg::PictureBudget::preferred());
     result.data = fromAssimp(*scene, pictures);
-    if (isGltf(path)) {
-        readMaterialExtensions(path, result.data);
-        takeGltfAnimations(path, result.data);
+    if (gltf) {
+        readMaterialExtensions(gltf->getText(), result.data);
+        takeGltfAnimations(*gltf, result.data);
     }
     result.notes = pictures.getNotes();
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
-    for (const QString& note :
-         partsLeftOut(*scene) + missingMaterialFiles(missingFiles) + missingPictures(pictures.getUnread()))
+    const QStringList extensions = gltf ? extensionLosses(gltf->getText()) : QStringList();
+    for (const QString& note : partsLeftOut(*scene) + extensions + missingMaterialFiles(missingFiles) +
+                                   missingPictures(pictures.getUnread()))
         result.notes.push_back(note.toStdString());
     return result;
 }

@@ -2,6 +2,7 @@
 #include "reader/PhysicalMaterial.h"
 
 #include "reader/ModelPictures.h"
+#include "reader/Opacity.h"
 
 #include <xsg/nodes/properties/SoMaterialTexture.h>
 #include <xsg/nodes/properties/SoPhysicalMaterial.h>
@@ -83,8 +84,7 @@ int alphaModeOf(const aiMaterial& material)
 {
     aiString mode;
     if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) != aiReturn_SUCCESS)
-        return numberOf(material, AI_MATKEY_OPACITY).value_or(1) < 1 ? SoPhysicalMaterial::Blend
-                                                                     : SoPhysicalMaterial::Opaque;
+        return opacityOf(material) < 1 ? SoPhysicalMaterial::Blend : SoPhysicalMaterial::Opaque;
     if (mode == aiString("MASK"))
         return SoPhysicalMaterial::Mask;
     return mode == aiString("BLEND") ? SoPhysicalMaterial::Blend : SoPhysicalMaterial::Opaque;
@@ -140,6 +140,14 @@ unsigned countWithoutCoordinates(const aiMaterial& material)
     }));
 }
 
+void setCoordinates(aiMaterial& material, int use, int coordinates)
+{
+    for (const Slot& slot : Slots) {
+        if (slot.use == use)
+            material.AddProperty(&coordinates, 1, AI_MATKEY_UVWSRC(slot.type, slot.index));
+    }
+}
+
 ModelData::PhysicalSurface physicalSurfaceOf(const aiMaterial& material)
 {
     ModelData::PhysicalSurface surface;
@@ -165,7 +173,7 @@ ModelData::PhysicalSurface physicalSurfaceOf(const aiMaterial& material)
     surface.clearCoatNormalScale =
         numberOf(material, AI_MATKEY_GLTF_TEXTURE_SCALE(aiTextureType_CLEARCOAT, 2)).value_or(1);
     surface.alphaMode = alphaModeOf(material);
-    surface.opacity = share(numberOf(material, AI_MATKEY_OPACITY), 1);
+    surface.opacity = opacityOf(material);
     surface.alphaCutoff = share(numberOf(material, AI_MATKEY_GLTF_ALPHACUTOFF), 0.5F);
     const float letThrough = share(numberOf(material, AI_MATKEY_TRANSMISSION_FACTOR), 0);
     if (letThrough > 0 && surface.alphaMode == SoPhysicalMaterial::Opaque) {

@@ -22,6 +22,8 @@ bool keepsPicture(const aiMaterial& material, const aiString& path);
 std::array<int, 2> coordinatesOf(const aiMaterial& material);
 /// How many pictures that are.
 unsigned countWithoutCoordinates(const aiMaterial& material);
+/// For the pictures of this use, as SoMaterialTexture has them.
+void setCoordinates(aiMaterial& material, int use, int coordinates);
 
 /// Adds the pictures to the others where they are new ones.
 ModelData::PhysicalSurface physicalSurfaceOf(const aiMaterial& material);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/FoldedDock.h"
 
+#include <QAbstractItemView>
 #include <QDockWidget>
 #include <QEvent>
 #include <QMouseEvent>
@@ -50,6 +51,11 @@ void FoldedDock::watchTexts()
 {
     watchAll<QTextEdit>();
     watchAll<QPlainTextEdit>();
+    for (const QAbstractItemView* each :
+         m_content ? m_content->findChildren<QAbstractItemView*>() : QList<QAbstractItemView*>()) {
+        if (each->model() && each->property("unfoldsDock").toBool())
+            connect(each->model(), &QAbstractItemModel::rowsInserted, this, &FoldedDock::unfold);
+    }
 }
 
 // A text that is set up, and stays empty, says nothing.

@@ -11,8 +11,8 @@ namespace scopix
 {
 
 /// Shows nothing of a dock but its title, until the user clicks that or makes the dock float, or a text in it
-/// changes: then there is something to say. Owned by the dock, and deleted when the dock unfolds. GUI thread
-/// only.
+/// changes, or a list whose property `unfoldsDock` is true gets a row: then there is something to say. Owned
+/// by the dock, and deleted when the dock unfolds. GUI thread only.
 class FoldedDock : public QObject
 {
     Q_OBJECT

@@ -130,7 +130,8 @@ QString HostShell::captionOf(const SpxExtension* extension) const
         if (each.owner == extension && each.widget && !each.widget->windowTitle().isEmpty())
             return each.widget->windowTitle();
     }
-    return nameOf(extension);
+    // In the plug-in's own words for the user, where it has some.
+    return QCoreApplication::translate("Extension", qUtf8Printable(nameOf(extension)));
 }
 
 void HostShell::forget(const SpxExtension* extension)
@@ -226,6 +227,26 @@ bool HostShell::isHiddenByPerson(const SpxExtension* extension) const
 bool HostShell::comesUpHidden(const SpxExtension* extension) const
 {
     return isHiddenByPerson(extension) || m_waiting.contains(nameOf(extension));
+}
+
+void HostShell::addChoice(const void* owner, const Choice& choice)
+{
+    m_choices.emplace_back(owner, choice);
+}
+
+void HostShell::removeChoices(const void* owner)
+{
+    m_choices.erase(std::remove_if(m_choices.begin(), m_choices.end(),
+                                   [owner](const auto& each) { return each.first == owner; }),
+                    m_choices.end());
+}
+
+std::vector<SpxSettings::Choice> HostShell::getChoices() const
+{
+    std::vector<Choice> choices;
+    for (const auto& each : m_choices)
+        choices.push_back(each.second);
+    return choices;
 }
 
 QByteArray HostShell::saveLayout() const

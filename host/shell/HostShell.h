@@ -3,8 +3,11 @@
 
 #include <scopix/SpxContextMenus.h>
 #include <scopix/SpxGuide.h>
+#include <scopix/SpxSceneDisplay.h>
+#include <scopix/SpxSettings.h>
 #include <scopix/SpxShell.h>
 #include <scopix/SpxShellMenus.h>
+#include <scopix/SpxTreeColumns.h>
 #include <scopix/SpxViewLook.h>
 
 #include <QHash>
@@ -31,7 +34,10 @@ class HostShell : public QObject,
                   public SpxShellMenus,
                   public SpxContextMenus,
                   public SpxGuide,
-                  public SpxViewLook
+                  public SpxViewLook,
+                  public SpxSceneDisplay,
+                  public SpxTreeColumns,
+                  public SpxSettings
 {
     Q_OBJECT
 
@@ -66,11 +72,28 @@ public:
     void find(const QString& query) override;
     bool showHelp(const QString& page, const QString& section) override;
 
+    void addChoice(const void* owner, const Choice& choice) override;
+    void removeChoices(const void* owner) override;
+    std::vector<Choice> getChoices() const override;
+
     using Look = std::function<std::pair<const SoCamera*, QSize>()>;
     /// What knows how the 3D view looks at the scene.
     void setLook(Look look) { m_look = std::move(look); }
     const SoCamera* getViewCamera() const override;
     QSize getViewSize() const override;
+
+    /// What shows the scene; it must outlive the shell's users.
+    void setDisplay(SpxSceneDisplay* display) { m_display = display; }
+    QList<SoNode*> getHiddenNodes() const override;
+    void setHidden(SoNode* node, bool hidden) override;
+    void setShapeColors(const SoShapeColors& colors) override;
+    void setOverdrawShown(bool on) override;
+
+    /// treeColumnsChanged() and treeValuesChanged() tell of them.
+    const QList<SpxTreeColumnProvider*>& getTreeColumns() const { return m_treeColumns; }
+    void addColumns(SpxTreeColumnProvider* provider) override;
+    void removeColumns(SpxTreeColumnProvider* provider) override;
+    void updateColumns(SpxTreeColumnProvider* provider) override;
 
     /// Those that are active now, in the order in which they were attached.
     const QList<SpxExtension*>& extensions() const { return m_extensions; }
@@ -114,6 +137,8 @@ public:
 
 signals:
     void extensionsChanged();
+    void treeColumnsChanged();
+    void treeValuesChanged();
     /// An extension threw; one sentence.
     void failed(const QString& sentence);
 
@@ -144,6 +169,7 @@ private:
     void personClosed(SpxExtension* extension);
 
     QMainWindow& m_window;
+    std::vector<std::pair<const void*, Choice>> m_choices; // with their owners
     QList<SpxExtension*> m_extensions;
     QList<Owned> m_owned;
     QHash<QString, bool> m_dockShown; // docks that went, by name
@@ -158,6 +184,8 @@ private:
     QPointer<QMenu> m_viewMenu;
     QSet<QString> m_foldAtFirst; // docks that have not come up yet
     QList<SpxContextMenuProvider*> m_providers;
+    QList<SpxTreeColumnProvider*> m_treeColumns;
+    SpxSceneDisplay* m_display = nullptr;
     Find m_find;
     Look m_look;
     ShowHelp m_showHelp;

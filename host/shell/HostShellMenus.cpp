@@ -2,6 +2,7 @@
 // What the host's shell offers beyond docks and tool bars.
 #include "shell/HostShell.h"
 
+#include "shell/FoldedDock.h"
 #include "support/CatchExceptions.h"
 
 #include <scopix/SpxExtension.h>
@@ -50,6 +51,8 @@ bool HostShell::raiseDocksOf(const char* extension)
         if (!dock || dock->isHidden() || !m_extensions.contains(each.owner) ||
             each.owner->getName() != SbString(extension))
             continue;
+        if (FoldedDock* fold = FoldedDock::of(*dock))
+            fold->unfold();
         dock->raise();
         isRaised = true;
     }

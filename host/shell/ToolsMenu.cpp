@@ -7,6 +7,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace scopix
 {
 
@@ -27,7 +29,16 @@ void ToolsMenu::refill()
         if (!qobject_cast<SpxEditor*>(extension))
             m_entries.append(makeEntry(extension));
     }
+    giveKeys();
     m_menu.addActions(m_entries);
+}
+
+// In their order, whatever extensions there are.
+void ToolsMenu::giveKeys()
+{
+    const int letters = 'Z' - 'A' + 1;
+    for (int i = 0; i < std::min(m_entries.size(), letters); ++i)
+        m_entries[i]->setShortcut(QStringLiteral("Ctrl+W, %1").arg(QChar('A' + i)));
 }
 
 QAction* ToolsMenu::makeEntry(SpxExtension* extension)
@@ -38,7 +49,7 @@ QAction* ToolsMenu::makeEntry(SpxExtension* extension)
     };
     showCaption();
     connect(&m_menu, &QMenu::aboutToShow, entry, showCaption); // an extension may get its title later
-    entry->setStatusTip(QString::fromUtf8(extension->getDescription().getString()));
+    entry->setStatusTip(QCoreApplication::translate("Extension", extension->getDescription().getString()));
     entry->setCheckable(true);
     entry->setChecked(extension->isShown());
     connect(extension, &SpxExtension::shownChanged, entry, &QAction::setChecked);

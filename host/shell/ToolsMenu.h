@@ -25,6 +25,7 @@ public:
 
 private:
     void refill();
+    void giveKeys();
     QAction* makeEntry(SpxExtension* extension);
 
     HostShell& m_shell;

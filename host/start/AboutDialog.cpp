@@ -124,6 +124,8 @@ AboutDialog::AboutDialog(const QString& version, const PluginStates& plugins, QW
     column->addLayout(head);
     column->addWidget(m_details, 1);
     column->addWidget(buttons);
+    setTabOrder(m_details, copyButton);
+    setTabOrder(copyButton, buttons->button(QDialogButtonBox::Close));
 }
 
 void AboutDialog::copy()

@@ -1,13 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/actions/SoPath.h>
+
 #include <QString>
 
+#include <functional>
+#include <vector>
+
 class SoField;
-class SoFieldContainer;
 
 namespace scopix
 {
+
+/// A node that another program is to make among the children of a mirrored one.
+struct MirroredAddition {
+    SoPath parent;
+    int index = -1;         // among the children; -1: behind them all
+    SoType type{};          // of the new node, or else
+    SoRef<SoNode> copied{}; // what it is a copy of, with all that is below
+};
 
 /// What a node of the scene offers beside its fields and children when it stands for one of another program:
 /// its children come when they are asked for, and edits of it may be refused. Implemented by such nodes. GUI
@@ -22,6 +34,13 @@ public:
     /// Not all of its children are here yet.
     virtual bool mayHaveMoreChildren() const = 0;
     virtual void fetchChildren() = 0;
+    virtual bool canHaveChildren() const = 0;
+
+    /// The types of which children can be made; there is no answer where there are none, which is told.
+    using AnswerTypes = std::function<void(const std::vector<SoType>&)>;
+    virtual void askTypesToAdd(const AnswerTypes& answer) = 0;
+    /// Once the program has made them they are a step of the history; what it refuses is told.
+    virtual void addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName) = 0;
 
     /// Why nobody may edit it now, in a sentence; empty where everybody may.
     virtual QString refusal() const = 0;

@@ -169,4 +169,12 @@ void SceneStates::clear()
     showAll();
 }
 
+void SceneStates::swap(SceneStates& other)
+{
+    std::swap(m_hiding, other.m_hiding);
+    std::swap(m_untouchable, other.m_untouchable);
+    std::swap(m_locked, other.m_locked);
+    emit changed();
+}
+
 } // namespace scopix

@@ -50,6 +50,8 @@ public:
 
     /// Another scene is open.
     void clear();
+    /// The other scene's are set here from now on, and these are put away there.
+    void swap(SceneStates& other);
 
 signals:
     void changed();

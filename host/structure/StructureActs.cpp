@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "structure/StructureActs.h"
 
-#include "structure/BranchCopy.h"
 #include "structure/StructurePlan.h"
 #include "text/NodeText.h"
 
+#include <xsg/files/BranchCopy.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 
@@ -211,7 +211,7 @@ Act duplicate(const Paths& paths)
     for (const SoPath& path : all) {
         if (!once(path))
             continue;
-        const SoRef<SoNode> copy = copyBranch(path.getTail());
+        const SoRef<SoNode> copy = xsg::copyBranch(path.getTail());
         if (!copy)
             return refused(tr("%1 cannot be duplicated: something in it is of a kind that cannot be copied.")
                                .arg(quoted(*path.getTail())));
@@ -308,7 +308,7 @@ Act makeUnique(const Paths& paths)
             return refused(tr("%1 stands in one place only, and is its own already.").arg(quoted(*node)));
         if (!once(path))
             continue;
-        const SoRef<SoNode> copy = copyBranch(node);
+        const SoRef<SoNode> copy = xsg::copyBranch(node);
         if (!copy)
             return refused(tr("%1 cannot be made unique: something in it is of a kind that cannot be copied.")
                                .arg(quoted(*node)));
@@ -380,7 +380,7 @@ Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer ho
     for (const SoPath& path : all) {
         if (how != Transfer::Copy && !once(path))
             continue;
-        moved.push_back(how == Transfer::Copy ? copyBranch(path.getTail()) : path.getTail());
+        moved.push_back(how == Transfer::Copy ? xsg::copyBranch(path.getTail()) : path.getTail());
         if (!moved.back())
             return refused(tr("%1 cannot be copied: something in it is of a kind that cannot be copied.")
                                .arg(quoted(*path.getTail())));

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class SoField;
 class SoGroup;
 class SoNode;
 
 namespace scopix
 {
 
-/// Is told of what commands do to the structure of a scene before it happens. At most one is active in the
-/// process; commands ask one pointer whether there is one. It may read, and must not write. GUI thread only.
+/// Is told of what commands do to the structure and the connections of a scene before it happens. At most one
+/// is active in the process; commands ask one pointer whether there is one. It may read, and must not write.
+/// GUI thread only.
 class StructureWatch
 {
 public:
@@ -19,6 +21,8 @@ public:
     /// Children start..start+removed-1 go, and others may come there.
     virtual void aboutToChangeChildren(SoGroup& group, int start, int removed) = 0;
     virtual void aboutToRename(SoNode& node) = 0;
+    /// The field follows another one afterwards, or no longer.
+    virtual void aboutToConnect(SoField& field) = 0;
 
     /// Null where none is active.
     static StructureWatch* getActive() { return s_active; }

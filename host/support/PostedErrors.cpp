@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/PostedErrors.h"
 
+#include "support/OutputTaps.h"
 #include "support/Printable.h"
 #include "support/StandardError.h"
 
@@ -46,6 +47,9 @@ PostedErrors::~PostedErrors()
     for (std::size_t i = 0; i < m_handlers.size(); ++i) {
         if (ErrorClasses[i].getData() == &m_handlers[i])
             ErrorClasses[i].set(m_handlers[i].callback, m_handlers[i].data);
+        else
+            OutputTaps::getInstance().bypassErrors(handle, &m_handlers[i], m_handlers[i].callback,
+                                                   m_handlers[i].data);
     }
 }
 

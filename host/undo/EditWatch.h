@@ -18,6 +18,8 @@ public:
 
     /// As of SoWriteRecorder.
     virtual void aboutToWrite(SoField& field, int start, int removed) = 0;
+    /// A command lets a field follow another one, or no longer.
+    virtual void aboutToConnect(SoField& field) = 0;
     /// Commands are about to run, or to be undone or redone.
     virtual void aboutToRun() = 0;
     virtual void hasRun() = 0;

@@ -2,9 +2,11 @@
 #include "undo/TextInput.h"
 
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextDocument>
 #include <QTextEdit>
 
@@ -57,6 +59,17 @@ bool TextInput::hasPendingEdit(const QWidget* widget)
         return !line->isReadOnly() && line->isModified();
     const QTextDocument* document = documentOf(widget);
     return document && document->isModified();
+}
+
+void TextInput::applyPendingEdit()
+{
+    QWidget* input = QApplication::focusWidget();
+    if (!input || !hasPendingEdit(input))
+        return;
+    const QPointer<QWidget> survivor = input;
+    input->clearFocus();
+    if (survivor)
+        survivor->setFocus();
 }
 
 } // namespace scopix

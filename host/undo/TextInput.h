@@ -20,6 +20,9 @@ bool isSingleLine(const QWidget* widget);
 /// clears the flag.
 bool hasPendingEdit(const QWidget* widget);
 
+/// What is typed where the focus is, and not yet applied, is: editors do so when their input loses focus.
+void applyPendingEdit();
+
 } // namespace TextInput
 
 } // namespace scopix

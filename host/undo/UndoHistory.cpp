@@ -165,6 +165,7 @@ void UndoHistory::execute(std::unique_ptr<SpxCommand> command, const CommandCont
         const QScopedValueRollback<UndoStep*> executing(m_executing, step.get());
         listen();
         const Running running(*this, false);
+        step->tellConnections(*command);
         failure = catchExceptions([&] { command->execute(); });
     }
     listen();
@@ -337,6 +338,7 @@ void UndoHistory::completeLast(SoField& field)
             this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);
         return;
     }
+    completeShelved(field);
 }
 
 // --- Undo and redo
@@ -373,13 +375,16 @@ void UndoHistory::standStill()
         return;
     m_heldIndex = m_stack.index();
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            const QScopedValueRollback<bool> sweeping(m_sweeping, true);
-            m_stack.setIndex(m_heldIndex);
-            m_heldIndex = -1;
-        },
-        Qt::QueuedConnection);
+        this, [this] { goBackToHeld(); }, Qt::QueuedConnection);
+}
+
+void UndoHistory::goBackToHeld()
+{
+    if (m_heldIndex < 0)
+        return;
+    const QScopedValueRollback<bool> sweeping(m_sweeping, true);
+    m_stack.setIndex(m_heldIndex);
+    m_heldIndex = -1;
 }
 
 // --- The saved state
@@ -422,10 +427,12 @@ void UndoHistory::forget(const SoFieldContainer* container)
     m_deferred.erase(std::remove_if(m_deferred.begin(), m_deferred.end(), touches), m_deferred.end());
     if (m_executing)
         m_executing->letGo(container);
+    const int shelved = dropShelved(container);
     const int dropped = dropSteps(container);
+    if (dropped + shelved > 0)
+        tellLost(dropped + shelved, *container);
     if (dropped == 0)
         return;
-    tellLost(dropped, *container);
     if (m_busy || m_sweeping)
         QMetaObject::invokeMethod(
             this, [this] { restackWithoutDropped(); }, Qt::QueuedConnection);

@@ -3,6 +3,7 @@
 
 #include "undo/EditWatch.h"
 #include "undo/GestureTracker.h"
+#include "undo/UndoShelf.h"
 #include "undo/UserInput.h"
 
 #include <xsg/core/SoWriteRecorder.h>
@@ -23,7 +24,6 @@ class SpxCommand;
 namespace scopix
 {
 
-class UndoStep;
 class UndoEntry;
 
 /// The undo stack of edits: runs each command that the services are handed and keeps it, the commands of one
@@ -59,6 +59,7 @@ public:
 
     /// Null, as at first: nobody. It must outlive its use.
     void setWatch(EditWatch* watch) { m_watch = watch; }
+    EditWatch* getWatch() const { return m_watch; }
 
     /// Runs the command's execute() and keeps the command. While a step is being undone or redone, the
     /// command is pushed from the event loop.
@@ -91,7 +92,18 @@ public:
     /// Forgets the steps; edits that were not saved stay so, and the stack then is not clean.
     void clear();
 
-    /// In bytes. When the steps take more, the oldest are dropped, but never the newest.
+    /// Takes all steps off the stack, which then is empty and clean: another scene is edited from now on.
+    /// They go on to be told of edits whose outcome comes late, and of nodes that go.
+    std::shared_ptr<UndoShelf> shelve();
+    /// Puts them back, in place of what is on the stack.
+    void unshelve(const std::shared_ptr<UndoShelf>& shelf);
+    /// As clear(), and forgets what is shelved too.
+    void clearAll();
+    /// Tells the stacks of several scenes apart: each has another number, and keeps it.
+    quint64 getNumber() const { return m_number; }
+
+    /// Of each scene's steps, in bytes. When the steps take more, the oldest are dropped, but never the
+    /// newest.
     void setMemoryLimit(std::size_t bytes);
     std::size_t memoryLimit() const { return m_memoryLimit; }
     std::size_t memoryUsed() const;
@@ -148,6 +160,10 @@ private:
     int cleanIndexAfterSweep() const;
     void dropOldSteps();
     void tellLost(int count, const SoFieldContainer& container);
+    void goBackToHeld();
+    std::vector<std::shared_ptr<UndoShelf>> findShelves() const;
+    void completeShelved(SoField& field);
+    int dropShelved(const SoFieldContainer* container);
     Steps steps() const;
     StepPtr stepAt(int index) const;
 
@@ -175,6 +191,9 @@ private:
     bool m_stateIsUnknown = false; // a step failed half-way, so that nothing tells what was saved
     int m_lostCount = 0;           // not yet told
     QString m_lostWith;
+    std::vector<std::weak_ptr<UndoShelf>> m_shelves;
+    quint64 m_number = 0;
+    quint64 m_lastNumber = 0;
     UserInput m_input;
 };
 

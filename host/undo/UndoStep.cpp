@@ -5,6 +5,7 @@
 #include "text/NodeText.h"
 
 #include <scopix/SpxCommand.h>
+#include <scopix/SpxEditedConnections.h>
 #include <scopix/SpxEditedFields.h>
 #include <xsg/core/SoField.h>
 #include <xsg/core/SoFieldContainer.h>
@@ -120,6 +121,15 @@ void UndoStep::aboutToWriteInCommand(SoField& field, int start, int removed)
     aboutToWrite(field, start, removed);
 }
 
+void UndoStep::tellConnections(const SpxCommand& command) const
+{
+    const auto* told = dynamic_cast<const SpxEditedConnections*>(&command);
+    if (!told || !m_history.m_watch)
+        return;
+    for (SoField* field : told->connectedFields())
+        m_history.m_watch->aboutToConnect(*field);
+}
+
 void UndoStep::add(std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context, bool isSeen)
 {
     forgetUnchanged();
@@ -179,7 +189,8 @@ bool UndoStep::isSeenWhole(const SpxCommand& command, bool isSeen) const
     const auto* told = dynamic_cast<const SpxEditedFields*>(&command);
     if (told && told->isWithoutEffect())
         return true;
-    if (!isSeen || m_edits.empty())
+    const auto* connecting = dynamic_cast<const SpxEditedConnections*>(&command);
+    if (!isSeen || m_edits.empty() || (connecting && !connecting->connectedFields().empty()))
         return false;
     if (!told)
         return true;
@@ -255,6 +266,7 @@ QString UndoStep::runCommands(Direction direction)
 QString UndoStep::runCommand(Command& command, Direction direction)
 {
     Rewinder written(m_edits);
+    tellConnections(*command.command);
     const QString failure = catchExceptions(
         [&] { direction == Direction::Undo ? command.command->undo() : command.command->redo(); });
     if (m_dropped)

@@ -30,6 +30,8 @@ public:
     void aboutToWriteInCommand(SoField& field, int start, int removed);
     /// A node goes while the command runs. One that only this command wrote was its own.
     void letGo(const SoFieldContainer* container);
+    /// Before the command lets fields follow others.
+    void tellConnections(const SpxCommand& command) const;
     /// Takes over a command that was executed. `isSeen`: its writes of watched fields were seen from the
     /// first on.
     void add(std::unique_ptr<SpxCommand> command, UndoHistory::CommandContext context, bool isSeen);

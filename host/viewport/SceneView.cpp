@@ -55,10 +55,21 @@ SceneView::~SceneView() = default;
 
 void SceneView::setScene(SoNode* root)
 {
+    m_camera.setScene(root);
+    sceneSet(root);
+}
+
+void SceneView::setScene(SoNode* root, const ViewCamera::Place& place)
+{
+    m_camera.setScene(root, place);
+    sceneSet(root);
+}
+
+void SceneView::sceneSet(SoNode* root)
+{
     m_root = SoRef<SoNode>(root);
     m_highlight.clear();
     m_sensor.attach(root);
-    m_camera.setScene(root);
     m_tools.sceneChanged();
     redraw();
     animateWhereNeeded();
@@ -113,6 +124,20 @@ void SceneView::setShading(SoRenderer::Shading shading)
 {
     m_shading = shading;
     redraw();
+}
+
+void SceneView::setShapeColors(const SoShapeColors& colors)
+{
+    if (colors.isEmpty() && m_shapeColors.isEmpty())
+        return;
+    m_shapeColors = colors;
+    redraw();
+}
+
+void SceneView::setOverdrawShown(bool on)
+{
+    if (std::exchange(m_showsOverdraw, on) != on)
+        redraw();
 }
 
 void SceneView::setToneMapping(SoRenderer::ToneMapping toneMapping)
@@ -219,7 +244,7 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
     };
     renderer.setBackground(toColor(groundColor(palette())));
     setUp(renderer);
-    renderer.setFrameLog(&SoFrameLog::getInstance());
+    renderer.setFrameLog(m_logsFrames ? &SoFrameLog::getInstance() : nullptr);
     renderer.setHighlightedNumbers(m_highlight);
     renderer.setHighlightColor(toColor(palette().color(QPalette::Highlight)));
     renderer.setHighlightThickness(LineThickness * static_cast<float>(devicePixelRatioF()));
@@ -232,7 +257,8 @@ ViewContent SceneView::prepare(SoRenderer& renderer)
 void SceneView::setUp(SoRenderer& renderer) const
 {
     renderer.setWireframe(m_wireframe);
-    renderer.setShading(m_shading);
+    renderer.setShading(m_showsOverdraw ? SoRenderer::Shading::Overdraw : m_shading);
+    renderer.setShapeColors(&m_shapeColors);
     renderer.setToneMapping(m_toneMapping);
     renderer.setClipPlane(m_clipPlane ? &*m_clipPlane : nullptr);
     renderer.setHiding(m_states ? &m_states->getHiding() : nullptr);

@@ -9,6 +9,7 @@
 
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/render/SoRenderer.h>
+#include <xsg/render/SoShapeColors.h>
 #include <xsg/sensors/SoNodeSensor.h>
 
 #include <QBasicTimer>
@@ -48,6 +49,9 @@ public:
 
     /// Goes home in it. Null gives the empty ground.
     void setScene(SoNode* root);
+    /// From where it was looked at before.
+    void setScene(SoNode* root, const ViewCamera::Place& place);
+    ViewCamera::Place getPlace() const { return m_camera.getPlace(); }
     /// Marks the nodes in the picture, the last, which is the current one, stronger than the others. They may
     /// be destroyed at any time.
     void setHighlight(const QList<const SoNode*>& nodes);
@@ -68,6 +72,12 @@ public:
     /// What of the scene is shown; edges instead of surfaces go with each.
     void setShading(SoRenderer::Shading shading);
     SoRenderer::Shading getShading() const { return m_shading; }
+    /// In place of the shapes' own looks, as of SoRenderer; empty for none.
+    void setShapeColors(const SoShapeColors& colors);
+    const SoShapeColors& getShapeColors() const { return m_shapeColors; }
+    /// How often each pixel is drawn, in place of the shading that was chosen.
+    void setOverdrawShown(bool on);
+    bool isOverdrawShown() const { return m_showsOverdraw; }
     /// How the bright light of physically based surfaces is brought into the picture.
     void setToneMapping(SoRenderer::ToneMapping toneMapping);
     SoRenderer::ToneMapping getToneMapping() const { return m_toneMapping; }
@@ -75,6 +85,8 @@ public:
     /// stays. Nothing: no plane. What is cut away is not picked either.
     void setClipPlane(const std::optional<SbPlane>& plane);
     const std::optional<SbPlane>& getClipPlane() const { return m_clipPlane; }
+    /// Whether the log of frames gets those of this view; on at first.
+    void setLogsFrames(bool on) { m_logsFrames = on; }
     /// In a corner of the picture, what it took to draw it.
     void setShowsStatistics(bool on);
 
@@ -168,6 +180,7 @@ protected:
 
 private:
     static void sceneChanged(void* self, SoSensor* sensor);
+    void sceneSet(SoNode* root);
     ViewContent prepare(SoRenderer& renderer);
     void setUp(SoRenderer& renderer) const;
     SbRay rayAt(const QPoint& place) const;
@@ -186,6 +199,8 @@ private:
     SoRayPickAction m_pickAction;
     PickFilter m_pickFilter;
     SoRenderer::Shading m_shading = SoRenderer::Shading::Full;
+    SoShapeColors m_shapeColors;
+    bool m_showsOverdraw = false;
     SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
     std::optional<SbPlane> m_clipPlane;
     double m_drawSeconds = 0;
@@ -194,6 +209,7 @@ private:
     ViewTools m_tools;
     QLabel* m_statistics;
     bool m_statisticsAreOld = true;
+    bool m_logsFrames = true;
     bool m_wireframe = false;
     bool m_isAnimated = true;
     QBasicTimer m_ticks; // runs while something turns

@@ -81,6 +81,21 @@ void ViewCamera::setScene(SoNode* root)
     goHome();
 }
 
+ViewCamera::Place ViewCamera::getPlace() const
+{
+    return {copyOf(*m_camera), m_look, m_angle, m_framed};
+}
+
+void ViewCamera::setScene(SoNode* root, const Place& place)
+{
+    m_root = SoRef<SoNode>(root);
+    m_camera = copyOf(*place.camera);
+    m_look = place.look;
+    m_angle = place.angle;
+    m_framed = place.framed;
+    setAspect(m_aspect);
+}
+
 void ViewCamera::setAspect(float aspect)
 {
     m_aspect = aspect;

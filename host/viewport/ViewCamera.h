@@ -35,8 +35,14 @@ public:
     /// The one to draw with. Another one takes its place when the scene is seen through a camera of its own.
     SoCamera& get() const { return *m_camera; }
 
+    /// From where a scene was looked at, for when it shows again. Its camera is a copy.
+    struct Place;
+    Place getPlace() const;
+
     /// Goes home. Null: nothing to see.
     void setScene(SoNode* root);
+    /// Goes where it was in this scene.
+    void setScene(SoNode* root, const Place& place);
     /// Width of the picture divided by its height. What was framed stays so until the user looks around.
     void setAspect(float aspect);
     float getAspect() const { return m_aspect; }
@@ -100,6 +106,13 @@ private:
     float m_aspect = 1;
     float m_angle = 0.785398163F;  // to come back to from a parallel view
     std::vector<SbVec3f> m_framed; // what is in sight, by its outermost points as seen from there
+};
+
+struct ViewCamera::Place {
+    SoRef<SoCamera> camera;
+    Look look = Look::Framed;
+    float angle = 0;
+    std::vector<SbVec3f> framed;
 };
 
 } // namespace scopix

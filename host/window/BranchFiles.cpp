@@ -3,14 +3,14 @@
 
 #include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
-#include "import/AnyImport.h"
-#include "model/FileChecks.h"
-#include "structure/BranchCopy.h"
+#include "support/LongWork.h"
 #include "support/OutputFile.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "window/NodeEditing.h"
+#include "window/OtherFile.h"
 
+#include <xsg/files/BranchCopy.h>
 #include <xsg/files/SoSceneFile.h>
 
 #include <QFile>
@@ -25,54 +25,29 @@ BranchFiles::BranchFiles(QWidget& window, NodeEditing& editing, UserNotifier& no
     , m_window(window)
     , m_editing(editing)
     , m_notifier(notifier)
+    , m_file(new OtherFile(window, notifier, this))
 {
 }
 
 void BranchFiles::askAndInsert()
 {
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Insert File"), {},
-        tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
+    const QString path = m_file->ask(tr("Insert File"));
     if (!path.isEmpty())
         insert(path);
 }
 
 void BranchFiles::insert(const QString& path)
 {
-    if (m_import)
-        m_import->cancel();
-    const QString error = checkFile(path, SceneDocument::fileExtensions());
-    if (!error.isEmpty())
-        return m_notifier.error(error);
-    m_import = makeImport(path, &m_window, this,
-                          [this, path](const SoRef<SoNode>& scene) { inserted(scene.get(), path); });
-    connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
-        forgetImport();
-        m_notifier.error(sentence);
+    m_file->read(path, [this, path](const SoRef<SoNode>& scene, const QStringList& notes) {
+        for (const QString& note : notes)
+            UserNotifier::note(path, note);
+        inserted(scene.get(), path);
     });
-    connect(m_import, &FileImport::cancelled, this, [this, path] {
-        forgetImport();
-        m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
-    });
-    m_import->start(path);
-}
-
-void BranchFiles::forgetImport()
-{
-    if (m_import)
-        m_import->deleteLater();
-    m_import.clear();
 }
 
 void BranchFiles::inserted(SoNode* root, const QString& path)
 {
     const SoRef<SoNode> kept(root);
-    for (const QString& note : m_import->notes())
-        UserNotifier::note(path, note);
-    forgetImport();
     setPictureFolder(root, QFileInfo(path).absolutePath());
     // Some formats have no names, for which the reader of models puts something in angle brackets.
     if (root->getName().getLength() == 0 || root->getName().getString()[0] == '<')
@@ -98,7 +73,7 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
 {
     const QString reason = reasonAgainstWriting(path, {SceneDocument::sceneEnding()});
     // A copy, whose names of pictures can be those that lead to them from there.
-    const SoRef<SoNode> copy = reason.isEmpty() ? copyBranch(branch) : SoRef<SoNode>();
+    const SoRef<SoNode> copy = reason.isEmpty() ? xsg::copyBranch(branch) : SoRef<SoNode>();
     if (!copy) {
         m_notifier.error(
             tr("The branch “%1” cannot be written to “%2”: %3.")
@@ -108,8 +83,14 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
     }
     movePictures(copy.get(), QFileInfo(path).absolutePath());
     std::string error;
-    const bool isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error);
-    if (isWritten)
+    bool isWritten = false;
+    const bool isDone = LongWork::run(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [&] {
+        isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error,
+                                       [](double part) { LongWork::goOn(part); });
+    });
+    if (!isDone)
+        m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
+    else if (isWritten)
         m_notifier.info(tr("“%1” was saved as “%2”.").arg(nodeText(*branch), path));
     else
         m_notifier.error(QString::fromStdString(error));

@@ -4,15 +4,14 @@
 #include <xsg/nodes/base/SoNode.h>
 
 #include <QObject>
-#include <QPointer>
 
 class QWidget;
 
 namespace scopix
 {
 
-class FileImport;
 class NodeEditing;
+class OtherFile;
 class UserNotifier;
 
 /// Puts scenes and models from files into the scene that is open, and branches of it into files of their own.
@@ -34,12 +33,11 @@ public:
 
 private:
     void inserted(SoNode* root, const QString& path);
-    void forgetImport();
 
     QWidget& m_window;
     NodeEditing& m_editing;
     UserNotifier& m_notifier;
-    QPointer<FileImport> m_import;
+    OtherFile* m_file;
 };
 
 } // namespace scopix

@@ -19,4 +19,9 @@ SoRef<SoNode> makeDefaultScene()
     return scene ? scene : SoRef<SoNode>(new SoSeparator);
 }
 
+bool isDefaultScene(const SoNode* root)
+{
+    return root && root->getName() == SbName("Welcome");
+}
+
 } // namespace scopix

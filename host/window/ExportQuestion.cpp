@@ -31,7 +31,7 @@ QStringList nameFilters()
 
 } // namespace
 
-QString askForExport(QWidget& window, const SceneDocument& document)
+QString askForExport(QWidget& window, const SceneDocument& document, const QString& folder)
 {
     QFileDialog dialog(&window, translated("Export Scene"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -41,7 +41,7 @@ QString askForExport(QWidget& window, const SceneDocument& document)
         dialog.setDefaultSuffix(SceneExport::endings().value(nameFilters().indexOf(filter)));
     });
     const QFileInfo origin(document.getPath().isEmpty() ? document.getTitle() : document.getPath());
-    dialog.setDirectory(origin.path());
+    dialog.setDirectory(folder);
     dialog.selectFile(origin.completeBaseName());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -12,8 +12,9 @@ namespace scopix
 class SceneDocument;
 class SceneExport;
 
-/// Asks for a name, with one of the endings of SceneExport; empty where the user gives none.
-QString askForExport(QWidget& window, const SceneDocument& document);
+/// Asks for a name, with one of the endings of SceneExport, at first in `folder`; empty where the user gives
+/// none.
+QString askForExport(QWidget& window, const SceneDocument& document, const QString& folder);
 
 /// Says what the file will not keep; false where the user would rather not.
 bool confirmLosses(QWidget& window, const QString& path, const SceneExport& scene);

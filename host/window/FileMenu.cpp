@@ -25,7 +25,7 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     connect(m_recent, &QMenu::aboutToShow, this, &FileMenu::fillRecent);
     menu.addSeparator();
     menu.addAction(tr("&Save"), &files, &SceneFiles::save, QKeySequence::Save);
-    menu.addAction(tr("Save &As…"), &files, &SceneFiles::saveAs, QKeySequence::SaveAs);
+    menu.addAction(tr("Save &As…"), &files, &SceneFiles::saveAs, Qt::CTRL + Qt::SHIFT + Qt::Key_S);
     menu.addAction(tr("&Export…"), &files, &SceneFiles::exportAs, Qt::CTRL + Qt::SHIFT + Qt::Key_E);
 }
 

@@ -1,31 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "window/FrameMarks.h"
 
-#include "document/SceneDocument.h"
 #include "services/HostServices.h"
 #include "text/NodeText.h"
+#include "window/SceneFiles.h"
 
 #include <xsg/frames/SoFrameLog.h>
 
 namespace scopix
 {
 
-FrameMarks::FrameMarks(HostServices& services, const SceneDocument& document, QObject* parent)
+FrameMarks::FrameMarks(HostServices& services, const SceneFiles& files, QObject* parent)
     : QObject(parent)
     , m_services(services)
 {
-    connect(&services.undoStack(), &QUndoStack::indexChanged, this, &FrameMarks::stepsChanged);
+    connect(&services.history(), &UndoHistory::acted, this, &FrameMarks::stepsChanged);
     connect(&services, &SpxServices::selectedNodeChanged, this, [](const SoFieldContainer* node) {
         if (node && SoFrameLog::getInstance().isOn())
             mark(tr("Select %1").arg(nodeText(*node)));
     });
-    connect(&document, &SceneDocument::rootChanged, this,
-            [&document] { mark(tr("Open %1").arg(document.getTitle())); });
+    connect(&files.getScenes(), &OpenScenes::rootChanged, this, [this, &files] {
+        m_index = m_services.undoStack().index();
+        mark(tr("Open %1").arg(files.getDocument().getTitle()));
+    });
 }
 
-void FrameMarks::stepsChanged(int index)
+void FrameMarks::stepsChanged()
 {
     const QUndoStack& stack = m_services.undoStack();
+    const int index = stack.index();
     if (index > m_index)
         mark(stack.text(index - 1));
     else if (index < m_index && index < stack.count())

@@ -7,7 +7,7 @@ namespace scopix
 {
 
 class HostServices;
-class SceneDocument;
+class SceneFiles;
 
 /// Marks in the log of frames what the user does, so that a slow frame can be told from what came before it:
 /// edits, undo, selecting, opening. GUI thread only.
@@ -17,10 +17,10 @@ class FrameMarks : public QObject
 
 public:
     /// Both must outlive this.
-    FrameMarks(HostServices& services, const SceneDocument& document, QObject* parent);
+    FrameMarks(HostServices& services, const SceneFiles& files, QObject* parent);
 
 private:
-    void stepsChanged(int index);
+    void stepsChanged();
     static void mark(const QString& text);
 
     HostServices& m_services;

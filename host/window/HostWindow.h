@@ -9,6 +9,8 @@
 
 class QMenu;
 class SoCamera;
+class SpxSceneDisplay;
+class SpxTreeColumnProvider;
 
 namespace scopix
 {
@@ -47,10 +49,17 @@ public:
 
     /// The 3D view's camera, and its size in pixels of the screen; null and none without a view.
     virtual std::pair<const SoCamera*, QSize> viewLook() const { return {}; }
+    /// What shows the scene; null without a view.
+    virtual SpxSceneDisplay* display() { return nullptr; }
+    /// Further columns of the scene tree, in place of those given before; and their values are others now.
+    virtual void setTreeColumns(const QList<SpxTreeColumnProvider*>& /*providers*/) {}
+    virtual void updateTreeColumns() {}
 
     /// Opens a scene or model, perhaps in the background; openFinished() follows, once, possibly before this
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
+    /// The same for a user who works with the window, who is asked for what is not saved.
+    virtual void openAnother(const QString& path) { openFile(path); }
     /// Attaches to a running program; as openFile().
     virtual void openLive(const LiveOrder& /*order*/) {}
     /// Selects a field by its node's name or type. False when there is none, which is reported.

@@ -17,6 +17,7 @@
 #include "window/SceneFiles.h"
 
 #include <xsg/core/SoField.h>
+#include <xsg/frames/SoFrameLog.h>
 #include <xsg/values/SbRotation.h>
 
 #include <QAction>
@@ -77,20 +78,20 @@ LiveActs::LiveActs(QMenu& menu, const Parts& parts)
     , m_picture(new LivePicture(parts.view))
 {
     m_picture->hide();
-    m_attach = menu.addAction(tr("A&ttach to a Program…"), this, &LiveActs::askForProgram);
-    m_attach->setObjectName(QStringLiteral("attachAction"));
-    m_detach = menu.addAction(tr("&Detach"), this, &LiveActs::detach);
-    m_detach->setObjectName(QStringLiteral("detachAction"));
-    m_takeBack = menu.addAction(tr("Take My Changes &Back"), this, &LiveActs::takeBack);
-    m_takeBack->setObjectName(QStringLiteral("takeBackAction"));
-    m_look = menu.addAction(tr("&Look at the Selected Node in the Program"), this, &LiveActs::lookAtSelected);
+    addActions(menu);
     connect(&menu, &QMenu::aboutToShow, this, &LiveActs::updateActions);
     connect(&parts.files.getDocument(), &SceneDocument::rootChanged, this, &LiveActs::rootChanged);
     connect(&parts.services, &HostServices::selectionChanged, this, [this] {
         if (m_scene)
             m_scene->follow(m_parts.services.getSelectedNodes());
     });
+    connect(&parts.tree, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+        auto* node = dynamic_cast<LiveNode*>(m_parts.tree.getModel().nodeAt(index));
+        if (m_scene && node && node->getScene() == m_scene.get())
+            m_scene->fold(*node);
+    });
     connect(m_picture, &LivePicture::clicked, this, &LiveActs::pick);
+    connect(m_picture, &LivePicture::offerTaken, this, &LiveActs::launchAgain);
     connect(m_picture, &LivePicture::wanted, this, [this](const QSize& size) {
         if (m_scene && m_scene->getState() != LiveScene::State::Ended)
             m_scene->getLink().showPictures(static_cast<std::uint32_t>(size.width()),
@@ -102,9 +103,28 @@ LiveActs::LiveActs(QMenu& menu, const Parts& parts)
 
 LiveActs::~LiveActs() = default;
 
+void LiveActs::addActions(QMenu& menu)
+{
+    const auto add = [&](const QString& text, const char* name, void (LiveActs::*act)(), int key) {
+        QAction* action = menu.addAction(text, this, act, key);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    m_attach = add(tr("A&ttach to a Program…"), "attachAction", &LiveActs::askForProgram, Qt::Key_F7);
+    add(tr("La&unch a Program…"), "launchAction", &LiveActs::askForLaunch, Qt::CTRL + Qt::SHIFT + Qt::Key_F7);
+    m_launchAgain =
+        add(tr("Launch A&gain"), "launchAgainAction", &LiveActs::launchAgain, Qt::CTRL + Qt::ALT + Qt::Key_L);
+    m_detach = add(tr("&Detach"), "detachAction", &LiveActs::detach, Qt::SHIFT + Qt::Key_F7);
+    m_takeBack =
+        add(tr("Take My Changes &Back"), "takeBackAction", &LiveActs::takeBack, Qt::CTRL + Qt::Key_F7);
+    m_look = add(tr("&Look at the Selected Node in the Program"), "lookAtAction", &LiveActs::lookAtSelected,
+                 Qt::Key_F8);
+}
+
 void LiveActs::updateActions()
 {
     const bool isAttached = m_scene && m_scene->getState() != LiveScene::State::Ended;
+    m_launchAgain->setEnabled(!m_launched.command.isEmpty());
     m_detach->setEnabled(isAttached);
     m_takeBack->setEnabled(isAttached && !m_scene->getEdits().getChanges().isEmpty());
     m_look->setEnabled(isAttached && m_scene->getLink().abilities().camera);
@@ -122,31 +142,49 @@ void LiveActs::attach(const QString& word)
         fail(problem);
 }
 
-void LiveActs::launch(const QStringList& command)
+void LiveActs::askForLaunch()
 {
+    LaunchDialog dialog(m_launched, &m_parts.window);
+    if (dialog.exec() == QDialog::Accepted)
+        launch(dialog.getOrder());
+}
+
+void LiveActs::launchAgain()
+{
+    if (m_launched.command.isEmpty())
+        return m_parts.notifier.info(tr("No program was launched from this window yet."));
+    launch(LaunchOrder(m_launched));
+}
+
+void LiveActs::launch(const LaunchOrder& order)
+{
+    m_launched = order;
+    updateActions();
     delete m_launch;
     m_launch = new LiveLaunch(this);
-    connect(m_launch, &LiveLaunch::found, this, [this](const QString& socket) {
+    connect(m_launch, &LiveLaunch::found, this, [this, order](const QString& socket) {
         m_launch->deleteLater();
-        attachTo(socket);
+        attachTo(socket, order);
     });
     connect(m_launch, &LiveLaunch::failed, this, [this](const QString& sentence) {
         m_launch->deleteLater();
         fail(sentence);
     });
-    m_launch->start(command, preloadedLibraries());
+    m_launch->start(order.command, preloadedLibraries(), order.folder);
 }
 
-void LiveActs::attachTo(const QString& socketPath)
+void LiveActs::attachTo(const QString& socketPath, const LaunchOrder& launched)
 {
     auto link = std::make_unique<SocketLink>();
     const QString problem = link->connectTo(socketPath);
     if (!problem.isEmpty())
-        fail(problem);
-    else if (m_parts.files.confirmDiscard())
-        show(std::move(link));
-    else
+        return fail(problem);
+    if (!m_parts.files.confirmDiscard()) {
         emit attached(false);
+        return;
+    }
+    show(std::move(link));
+    m_isLaunched = !launched.command.isEmpty();
 }
 
 void LiveActs::fail(const QString& sentence)
@@ -165,6 +203,7 @@ void LiveActs::askForProgram()
 void LiveActs::show(std::unique_ptr<LiveLink> link)
 {
     leave();
+    m_parts.view.setLogsFrames(false); // it is hidden
     m_scene = std::make_unique<LiveScene>(std::move(link), m_parts.services);
     LiveLink& to = m_scene->getLink();
     connectScene();
@@ -176,6 +215,7 @@ void LiveActs::show(std::unique_ptr<LiveLink> link)
     m_isReady = false;
     m_picture->setPicture({});
     m_picture->setGrey(false);
+    m_picture->setOffer({});
     m_picture->setNote(to.abilities().picture ? QString()
                                               : tr("“%1” shows no picture here.").arg(m_scene->getName()));
     m_picture->show();
@@ -192,6 +232,7 @@ void LiveActs::connectScene()
     connect(m_scene.get(), &LiveScene::told, &m_parts.notifier, &UserNotifier::info);
     connect(m_scene.get(), &LiveScene::fieldsCame, this, &LiveActs::fieldsCame);
     connect(m_scene.get(), &LiveScene::stateChanged, this, &LiveActs::stateChanged);
+    connect(m_scene.get(), &LiveScene::inserted, this, &LiveActs::inserted);
     connect(m_scene.get(), &LiveScene::remarked, this, [this] { m_parts.fields.lookAgain(); });
     connect(m_scene.get(), &LiveScene::countersRead, this, [this](const std::vector<double>& values) {
         if (m_counters)
@@ -201,6 +242,12 @@ void LiveActs::connectScene()
         m_picture->setPicture(picture);
         ready();
     });
+}
+
+void LiveActs::inserted(const QList<SoPath>& paths)
+{
+    m_parts.tree.getModel().followNow();
+    m_parts.services.selectPaths(paths);
 }
 
 void LiveActs::ready()
@@ -323,11 +370,19 @@ void LiveActs::checkPulse()
 {
     if (!m_scene || m_scene->getState() == LiveScene::State::Ended)
         return m_pulse.stop();
+    showFramesWhereWanted();
     LiveLink& link = m_scene->getLink();
     const double waiting = link.secondsWaiting();
     m_scene->setSilent(waiting > SilentSeconds);
     if (waiting == 0.0)
         link.node(0, [](const std::optional<live::NodeInfo>&) {});
+}
+
+void LiveActs::showFramesWhereWanted()
+{
+    const bool isWanted = SoFrameLog::getInstance().isOn();
+    if (std::exchange(m_showsFrames, isWanted) != isWanted)
+        m_scene->getLink().showFrames(isWanted);
 }
 
 void LiveActs::stateChanged()
@@ -353,13 +408,14 @@ void LiveActs::showEnd()
 {
     m_pulse.stop();
     keepChanges();
-    const int count = static_cast<int>(m_kept.size());
+    const int count = static_cast<int>(m_scene->getEdits().getChanges().getCount());
     QString sentence = m_scene->getEnd();
     if (count > 0)
         sentence +=
             QLatin1Char(' ') +
             tr("Kept for when you attach to “%1” again: %2.").arg(m_scene->getName(), changesText(count));
     m_picture->setNote(sentence);
+    m_picture->setOffer(m_isLaunched ? tr("Launch Again") : QString());
     m_parts.notifier.info(sentence);
     if (!std::exchange(m_isReady, true))
         emit attached(false);
@@ -383,6 +439,9 @@ void LiveActs::leave()
     if (!m_scene)
         return;
     m_pulse.stop();
+    keepChanges();
+    m_isLaunched = m_showsFrames = false;
+    m_parts.view.setLogsFrames(true);
     LiveScene* scene = m_scene.release();
     scene->disconnect(this);
     scene->disconnect(&m_parts.notifier);
@@ -398,6 +457,8 @@ void LiveActs::leave()
 
 void LiveActs::keepChanges()
 {
+    if (m_scene->getEdits().getChanges().isEmpty())
+        return;
     m_kept = m_scene->getEdits().getChanges().getAll();
     m_keptName = m_scene->getName();
     m_keptProcess = m_scene->getLink().program().pid;

@@ -4,6 +4,7 @@
 #include "live/LiveChanges.h"
 #include "live/LiveLaunch.h"
 #include "live/LivePicture.h"
+#include "window/LaunchDialog.h"
 
 #include <QObject>
 #include <QPointer>
@@ -16,6 +17,7 @@ class QAction;
 class QMenu;
 class SoFieldContainer;
 class SoNode;
+class SoPath;
 
 namespace scopix
 {
@@ -55,10 +57,15 @@ public:
 
     /// By part of a name, a number or the path of a socket; by nothing, the only program there is.
     void attach(const QString& word);
-    void launch(const QStringList& command);
+    void launch(const LaunchOrder& order);
+    void launch(const QStringList& command) { launch(LaunchOrder{command, {}}); }
+    /// Once more what was launched last, which may have ended.
+    void launchAgain();
+    /// The user says what.
+    void askForLaunch();
     /// The next attached() waits for this node and its values.
     void wantNode(const QString& text) { m_wanted = text; }
-    void attachTo(const QString& socketPath);
+    void attachTo(const QString& socketPath) { attachTo(socketPath, {}); }
     /// The user chooses.
     void askForProgram();
     void detach();
@@ -79,7 +86,11 @@ signals:
 private:
     using Changes = std::vector<LiveChanges::Change>;
 
+    void attachTo(const QString& socketPath, const LaunchOrder& launched);
     void show(std::unique_ptr<LiveLink> link);
+    void addActions(QMenu& menu);
+    void showFramesWhereWanted();
+    void inserted(const QList<SoPath>& paths);
     void connectScene();
     void ready();
     void findWanted();
@@ -104,12 +115,16 @@ private:
     QPointer<LivePicture> m_picture;
     QPointer<LiveLaunch> m_launch;
     QTimer m_pulse;
+    LaunchOrder m_launched;     // the latest one
+    bool m_isLaunched = false;  // what is attached is that
+    bool m_showsFrames = false; // of the program, to whoever looks at frames here
     bool m_isReady = true;
     QString m_wanted;
     Changes m_kept; // of a program that has ended
     QString m_keptName;
     qint64 m_keptProcess = 0;
     QAction* m_attach;
+    QAction* m_launchAgain;
     QAction* m_detach;
     QAction* m_takeBack;
     QAction* m_look;

@@ -19,6 +19,7 @@
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
+#include "theme/FocusRing.h"
 #include "theme/SvgIcon.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
@@ -32,6 +33,7 @@
 #include "window/LiveActs.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
+#include "window/OnScreen.h"
 #include "window/PaletteActs.h"
 #include "window/PatchActs.h"
 #include "window/PictureActs.h"
@@ -39,9 +41,11 @@
 #include "window/ReloadBar.h"
 #include "window/SceneChanges.h"
 #include "window/SettingsActs.h"
+#include "window/ShownScene.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
 #include "window/ViewActs.h"
+#include "window/ViewDisplay.h"
 #include "window/ViewPoints.h"
 #include "window/Welcome.h"
 
@@ -49,6 +53,7 @@
 
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
+#include <xsg/paths/ChildTable.h>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -90,6 +95,14 @@ Theme wantedTheme()
                              : fromEnvironment);
 }
 
+// Of a path from the root; null where there is no such place.
+SoNode* findPlace(SoNode* root, const QString& text)
+{
+    const SoScenePath path(text.toStdString());
+    std::string problem;
+    return root && path.isValid() ? xsg::SceneLookup(root).find(path, problem) : nullptr;
+}
+
 // To the first node, from the top, that has this name, or else this type.
 SoPath findNode(SoNode* root, const QString& text)
 {
@@ -128,6 +141,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
     , m_handles(new HandleTool(services, *m_view))
     , m_states(new SceneStates(this))
+    , m_display(std::make_unique<ViewDisplay>(*m_view, *m_states))
 {
     setObjectName(QStringLiteral("mainWindow"));
     applyTheme(*this, wantedTheme());
@@ -145,8 +159,10 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeGuidance();
     makeToolBar();
     connectSelection();
-    connect(&m_files.getDocument(), &SceneDocument::rootChanged, this, &MainWindow::showScene);
-    connect(&m_files.getDocument(), &SceneDocument::stateChanged, this, &MainWindow::showTitle);
+    new ShownScene({m_files.getScenes(), m_notifier, *m_states, *m_scenePanel, *m_view,
+                    m_playback->getPlayback(), m_viewPoints->getMarks()},
+                   this);
+    connect(&m_files.getScenes(), &OpenScenes::stateChanged, this, &MainWindow::showTitle);
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
@@ -155,10 +171,12 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
             [this] { m_changes->compareWith(m_files.getDocument().getPath()); });
     connect(&m_files, &SceneFiles::reapplyRequested, m_changes, &SceneChanges::reloadAndReapply);
     new FileDrop(*this);
+    new OnScreen(*this);
     new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
     new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
-    new FrameMarks(m_services, m_files.getDocument(), this);
+    new FrameMarks(m_services, m_files, this);
+    new FocusRing(*this);
     statusBar()->show();
     resize(firstSize());
     setScene(makeDefaultScene().get(), tr("Welcome"));
@@ -171,7 +189,7 @@ MainWindow::~MainWindow()
     m_fields->disconnect(this);
     m_view->disconnect(this);
     m_services.disconnect(this);
-    m_files.getDocument().disconnect(this);
+    m_files.getScenes().disconnect();
 }
 
 // No larger than the screen, which on a dense one has few of the pixels that sizes are counted in. Pictures
@@ -197,13 +215,14 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
 void MainWindow::makeDocks()
 {
     m_treeDock = addDock(m_scenePanel, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
+    m_tree->setAccessibleName(tr("Scene"));
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
     auto* history = new QUndoView(&m_services.undoStack());
     history->setObjectName(QStringLiteral("history"));
     showHistoryStart(*history);
     connect(&m_services.history(), &UndoHistory::droppedOldSteps, history,
             [this, history] { showHistoryStart(*history); });
-    connect(&m_files.getDocument(), &SceneDocument::rootChanged, history,
+    connect(&m_files.getScenes(), &OpenScenes::rootChanged, history,
             [this, history] { showHistoryStart(*history); });
     history->setFrameShape(QFrame::NoFrame);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
@@ -245,9 +264,10 @@ void MainWindow::makeFileMenu()
     m_changes->fillMenu(*menu);
     menu->addSeparator();
     m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
-    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot);
+    menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot,
+                    Qt::CTRL + Qt::Key_F12);
     menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menu->addAction(tr("&Quit"), this, &QWidget::close, Qt::CTRL + Qt::Key_Q);
 }
 
 void MainWindow::makeEditMenu()
@@ -270,7 +290,7 @@ void MainWindow::makeEditMenu()
 
 void MainWindow::makeNodeMenu()
 {
-    m_editing = new NodeEditing(m_services, m_files.getDocument(), *m_tree, *m_states, m_notifier, this);
+    m_editing = new NodeEditing(m_services, m_files, *m_tree, *m_states, m_notifier, this);
     m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
     QMenu* menu = menuBar()->addMenu(tr("&Node"));
     new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
@@ -323,11 +343,13 @@ void MainWindow::makeViewMenu()
     before->takeKeyIn(*m_view);
     before->takeKeyIn(*m_tree);
     menu->addSeparator();
+    int number = 0;
     for (QDockWidget* dock : {m_treeDock, m_fieldsDock, m_historyDock, m_changesDock}) {
         before->leaveAlone(dock);
+        dock->toggleViewAction()->setShortcut(QStringLiteral("Ctrl+W, %1").arg(++number));
         menu->addAction(dock->toggleViewAction());
     }
-    new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
+    m_treeColumns = new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -338,10 +360,13 @@ void MainWindow::makeThemeMenu(QMenu& menu)
 {
     m_themeMenu = &menu;
     auto* group = new QActionGroup(&menu);
-    const std::pair<Theme, QString> entries[] = {
-        {Theme::System, tr("As the &System")}, {Theme::Dark, tr("&Dark")}, {Theme::Light, tr("&Light")}};
-    for (const auto& [theme, text] : entries) {
+    const std::tuple<Theme, QString, QString> entries[] = {
+        {Theme::System, tr("As the &System"), QStringLiteral("Ctrl+J, S")},
+        {Theme::Dark, tr("&Dark"), QStringLiteral("Ctrl+J, N")},
+        {Theme::Light, tr("&Light"), QStringLiteral("Ctrl+J, L")}};
+    for (const auto& [theme, text, key] : entries) {
         QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
+        action->setShortcut(key);
         action->setData(themeName(theme));
         action->setCheckable(true);
         action->setChecked(theme == wantedTheme());
@@ -373,10 +398,14 @@ void MainWindow::makeHelpMenu()
                "Find a node: Ctrl+F.\n"
                "Edges only: F3. What a picture costs: F4."));
     });
+    menu->actions().last()->setShortcut(Qt::CTRL + Qt::Key_F1);
     menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
                     QKeySequence(Qt::Key_F1));
-    menu->addAction(tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); });
-    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout);
+    menu->addAction(tr("T&utorial"), this, &MainWindow::showTutorial, QKeySequence(Qt::CTRL + Qt::Key_F11))
+        ->setObjectName(QStringLiteral("tutorialAction"));
+    menu->addAction(
+        tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); }, Qt::SHIFT + Qt::Key_F1);
+    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout, Qt::CTRL + Qt::SHIFT + Qt::Key_F1);
 }
 
 void MainWindow::showAbout()
@@ -451,6 +480,21 @@ std::pair<const SoCamera*, QSize> MainWindow::viewLook() const
     return {&m_view->getCamera(), m_view->size() * m_view->devicePixelRatioF()};
 }
 
+SpxSceneDisplay* MainWindow::display()
+{
+    return m_display.get();
+}
+
+void MainWindow::setTreeColumns(const QList<SpxTreeColumnProvider*>& providers)
+{
+    m_treeColumns->setProviders(providers);
+}
+
+void MainWindow::updateTreeColumns()
+{
+    m_tree->updateMoreColumns();
+}
+
 bool MainWindow::showHelp(const QString& page, const QString& section)
 {
     if (!m_help)
@@ -458,10 +502,18 @@ bool MainWindow::showHelp(const QString& page, const QString& section)
     return m_help->open(page, section);
 }
 
+void MainWindow::showTutorial()
+{
+    if (!showHelp(QStringLiteral("tutorial"), {}))
+        m_notifier.error(tr("The tutorial cannot be shown: it is not installed beside the program."));
+}
+
 void MainWindow::showHelpOnFocus()
 {
     const SoFieldContainer* node = m_services.selectedNode();
-    if (!showHelp(QStringLiteral("nodes"), node ? typeText(node->getTypeId()) : QString()))
+    if (!node)
+        return showTutorial();
+    if (!showHelp(QStringLiteral("nodes"), typeText(node->getTypeId())))
         m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
 }
 
@@ -502,18 +554,6 @@ bool MainWindow::inspect(SoNode* root, const QString& title)
     return true;
 }
 
-void MainWindow::showScene(SoNode* root)
-{
-    m_states->clear();
-    m_scenePanel->setScene(root);
-    // Pictures made by a script are the same each time; and time in an application's scene is the
-    // application's.
-    m_view->setAnimated(m_notifier.isAttended() && !m_files.getDocument().isExternal());
-    m_view->setScene(root);
-    m_playback->getPlayback().setScene(m_files.getDocument().isExternal() ? nullptr : root);
-    m_viewPoints->getMarks().setScene(root);
-}
-
 void MainWindow::showTitle()
 {
     const SceneDocument& document = m_files.getDocument();
@@ -521,6 +561,7 @@ void MainWindow::showTitle()
     const QString title = isDeleted ? tr("%1 (deleted)").arg(document.getTitle()) : document.getTitle();
     setWindowTitle(title + QStringLiteral("[*]")); // Qt adds the mark and the program's name
     setWindowModified(document.isModified());
+    setWindowFilePath(document.getPath()); // which plug-ins ask for
 }
 
 void MainWindow::openLive(const LiveOrder& order)
@@ -534,12 +575,20 @@ void MainWindow::openLive(const LiveOrder& order)
 
 void MainWindow::openFile(const QString& path)
 {
+    if (PatchActs::isPatch(path))
+        return emit openFinished(m_changes->getPatches().offer(path));
     m_files.open(path);
+}
+
+void MainWindow::openAnother(const QString& path)
+{
+    m_files.openAnother(path);
 }
 
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
-    const SoPath path = findNode(getScene(), nodeText);
+    const SoNode* place = nodeText.startsWith(QLatin1Char('/')) ? findPlace(getScene(), nodeText) : nullptr;
+    const SoPath path = place ? m_tree->pathTo(place) : findNode(getScene(), nodeText);
     const SoNode* node = path.getTail();
     if (!node) {
         m_notifier.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));

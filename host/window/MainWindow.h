@@ -37,6 +37,8 @@ class ViewActions;
 class ScenePanel;
 class SceneTreeView;
 class SceneView;
+class TreeColumns;
+class ViewDisplay;
 class ViewPoints;
 
 /// The program's window: scene tree and field list at the left, the 3D view in the middle, tools of the
@@ -70,7 +72,11 @@ public:
     SoPath pathTo(const SoNode* node) const override;
     void setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points) override;
     std::pair<const SoCamera*, QSize> viewLook() const override;
+    SpxSceneDisplay* display() override;
+    void setTreeColumns(const QList<SpxTreeColumnProvider*>& providers) override;
+    void updateTreeColumns() override;
     void openFile(const QString& path) override;
+    void openAnother(const QString& path) override;
     void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
     bool saveScreenshot(const QString& path) override;
@@ -119,10 +125,10 @@ private:
                          Qt::DockWidgetArea area);
 
     void openPatch(const QString& path);
-    void showScene(SoNode* root);
     void showTitle();
     void askForScreenshot();
     void showAbout();
+    void showTutorial();
     void showHelpOnFocus();
     void viewSelected();
     void find();
@@ -141,6 +147,8 @@ private:
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;
     SceneStates* m_states;
+    std::unique_ptr<ViewDisplay> m_display;
+    TreeColumns* m_treeColumns = nullptr;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
     SettingsActs* m_settings = nullptr;

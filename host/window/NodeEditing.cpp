@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "window/NodeEditing.h"
 
-#include "document/SceneDocument.h"
 #include "document/TexturePaths.h"
 #include "panels/BranchMimeData.h"
 #include "panels/SceneTreeView.h"
+#include "panels/TypeChooser.h"
 #include "services/HostServices.h"
 #include "structure/BranchText.h"
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
+#include "window/SceneFiles.h"
 
 #include <scopix/SpxEditedFields.h>
 
@@ -47,6 +48,41 @@ std::vector<SoNode*> tailsOf(const Paths& paths)
     return nodes;
 }
 
+bool isMirrored(const SoPath& path)
+{
+    return MirroredNode::of(path.getTail()) != nullptr;
+}
+
+// Into the group at the path, or behind the node there; into the only thing that a program has at its top.
+MirroredAddition placeInProgram(const SoPath& path)
+{
+    const SoGroup* group = path.getTail()->asGroup();
+    if (path.getLength() == 1 && group->getNumChildren() > 0)
+        return placeInProgram(extended(path, group->getChild(0)));
+    if (MirroredNode::of(path.getTail())->canHaveChildren() || path.getLength() == 1)
+        return {path};
+    return {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1};
+}
+
+// Each is told where it stands once those before it are there.
+std::vector<MirroredAddition> oneBehindTheOther(std::vector<MirroredAddition> additions)
+{
+    for (auto at = additions.begin(); at != additions.end(); ++at) {
+        const auto isBefore = [at](const MirroredAddition& each) {
+            return each.parent.getTail() == at->parent.getTail();
+        };
+        if (at->index >= 0)
+            at->index += static_cast<int>(std::count_if(additions.begin(), at, isBefore));
+    }
+    return additions;
+}
+
+QString quotedOrCount(const Paths& paths)
+{
+    return paths.size() == 1 ? QStringLiteral("“%1”").arg(nodeText(*paths.front().getTail()))
+                             : NodeEditing::tr("%1 Nodes").arg(paths.size());
+}
+
 std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
 {
     return {nodes.begin(), nodes.end()};
@@ -54,16 +90,16 @@ std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
 
 } // namespace
 
-NodeEditing::NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree,
-                         SceneStates& states, UserNotifier& notifier, QObject* parent)
+NodeEditing::NodeEditing(HostServices& services, SceneFiles& files, SceneTreeView& tree, SceneStates& states,
+                         UserNotifier& notifier, QObject* parent)
     : QObject(parent)
     , m_services(services)
-    , m_document(document)
+    , m_files(files)
     , m_tree(tree)
     , m_states(states)
     , m_notifier(notifier)
 {
-    connect(&m_document, &SceneDocument::rootChanged, this, [this] { m_copied.clear(); });
+    connect(&m_files.getScenes(), &OpenScenes::rootChanged, this, [this] { m_copied.clear(); });
     m_services.history().setLock(
         [this](const SoFieldContainer& container) { return m_states.refusalOf(container); });
     connect(&m_services.history(), &UndoHistory::refused, &m_notifier, &UserNotifier::info);
@@ -122,7 +158,7 @@ SoPath NodeEditing::placeForNew() const
     if (!paths.isEmpty())
         return paths.last();
     SoPath path;
-    if (SoNode* root = m_document.getRoot())
+    if (SoNode* root = m_files.getDocument().getRoot())
         path.append(root);
     return path;
 }
@@ -134,6 +170,9 @@ void NodeEditing::remove()
 
 void NodeEditing::duplicate()
 {
+    const Paths paths = selected();
+    if (!paths.isEmpty() && isMirrored(paths.front()))
+        return duplicateInProgram(topmost(paths, paths.front().getHead()));
     perform(structure::duplicate(selected()));
 }
 
@@ -176,8 +215,27 @@ structure::MakeNode NodeEditing::makerOf(SoType type) const
     };
 }
 
+void NodeEditing::askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer)
+{
+    const SoPath place = placeForNew();
+    if (place.isEmpty() || !isMirrored(place))
+        return answer(TypeChooser::typesToAdd());
+    MirroredNode* parent = MirroredNode::of(placeInProgram(place).parent.getTail());
+    const QString refusal = parent->structureRefusal();
+    if (refusal.isEmpty())
+        parent->askTypesToAdd(answer);
+    tell(refusal);
+}
+
 void NodeEditing::add(SoType type)
 {
+    const SoPath place = placeForNew();
+    if (!place.isEmpty() && isMirrored(place)) {
+        MirroredAddition addition = placeInProgram(place);
+        addition.type = type;
+        addInProgram({addition}, tr("Add %1").arg(typeText(type)));
+        return;
+    }
     insert({makerOf(type)()}, tr("Add %1").arg(toQString(type.getName())));
 }
 
@@ -196,6 +254,45 @@ void NodeEditing::rename(const SoPath& path, const QString& name)
     perform(structure::rename(path, name));
 }
 
+// --- In a running program, which makes what is new itself
+
+bool NodeEditing::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
+{
+    MirroredNode* parent = MirroredNode::of(additions.front().parent.getTail());
+    const QString refusal = parent->structureRefusal();
+    if (refusal.isEmpty())
+        parent->addInProgram(oneBehindTheOther(additions), stepName);
+    tell(refusal);
+    return refusal.isEmpty();
+}
+
+void NodeEditing::duplicateInProgram(const Paths& paths)
+{
+    std::vector<MirroredAddition> additions;
+    for (const SoPath& path : paths) {
+        if (path.getLength() < 3)
+            return tell(tr("“%1” is what the program has at its top, and cannot be duplicated.")
+                            .arg(nodeText(*path.getTail())));
+        additions.push_back(
+            {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1, {}, path.getTail()});
+    }
+    addInProgram(additions, tr("Duplicate %1").arg(quotedOrCount(paths)));
+}
+
+void NodeEditing::pasteInProgram()
+{
+    const SoPath place = placeForNew();
+    if (!holdsOwnCopy(QGuiApplication::clipboard()->mimeData()) || !isMirrored(m_copied.front()))
+        return tell(
+            tr("Only nodes that were copied from this program, in this window, can be pasted into it."));
+    std::vector<MirroredAddition> additions;
+    for (const SoPath& path : m_copied) {
+        additions.push_back(placeInProgram(place));
+        additions.back().copied = path.getTail();
+    }
+    addInProgram(additions, tr("Paste %1").arg(quotedOrCount(m_copied)));
+}
+
 // --- Clipboard
 
 bool NodeEditing::putOnClipboard()
@@ -210,7 +307,7 @@ bool NodeEditing::putOnClipboard()
     auto* data = new QMimeData;
     data->setText(QString::fromStdString(writeBranches(tailsOf(m_copied))));
     data->setData(keyType(), m_copiedKey);
-    data->setData(folderType(), QFileInfo(m_document.getPath()).absolutePath().toUtf8());
+    data->setData(folderType(), QFileInfo(m_files.getDocument().getPath()).absolutePath().toUtf8());
     QGuiApplication::clipboard()->setMimeData(data);
     return true;
 }
@@ -237,15 +334,24 @@ std::vector<SoRef<SoNode>> NodeEditing::readText(const QMimeData& data)
     const BranchReading read = readBranches(data.text().toStdString());
     if (read.nodes.empty())
         tell(read.error);
-    const QString folder = data.hasFormat(folderType()) ? QString::fromUtf8(data.data(folderType()))
-                                                        : QFileInfo(m_document.getPath()).absolutePath();
+    const QString folder = data.hasFormat(folderType())
+                               ? QString::fromUtf8(data.data(folderType()))
+                               : QFileInfo(m_files.getDocument().getPath()).absolutePath();
     for (const auto& node : read.nodes)
         setPictureFolder(node.get(), folder);
     return read.nodes;
 }
 
+bool NodeEditing::holdsOwnCopy(const QMimeData* data) const
+{
+    return !m_copied.isEmpty() && data && data->data(keyType()) == m_copiedKey;
+}
+
 void NodeEditing::paste()
 {
+    const SoPath place = placeForNew();
+    if (!place.isEmpty() && isMirrored(place))
+        return pasteInProgram();
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     const auto nodes = data ? readText(*data) : std::vector<SoRef<SoNode>>();
     if (nodes.size() == 1)
@@ -257,7 +363,7 @@ void NodeEditing::paste()
 void NodeEditing::pasteShared()
 {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (m_copied.isEmpty() || !data || data->data(keyType()) != m_copiedKey)
+    if (!holdsOwnCopy(data))
         return tell(
             tr("Only nodes that were copied in this window, in this scene, can be pasted as shared ones."));
     insert(kept(tailsOf(m_copied)), m_copied.size() == 1
@@ -269,10 +375,17 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
 {
     using structure::Transfer;
     const auto* branches = qobject_cast<const BranchMimeData*>(&data);
-    if (branches && branches->getPaths().front().getHead() == m_document.getRoot()) {
+    if (branches && branches->getPaths().front().getHead() == m_files.getDocument().getRoot()) {
         const Transfer how = action == Qt::CopyAction   ? Transfer::Copy
                              : action == Qt::LinkAction ? Transfer::Share
                                                         : Transfer::Move;
+        if (how == Transfer::Copy && isMirrored(group)) {
+            std::vector<MirroredAddition> additions;
+            for (const SoPath& path : branches->getPaths())
+                additions.push_back({group, index, {}, path.getTail()});
+            addInProgram(additions, tr("Copy %1").arg(quotedOrCount(branches->getPaths())));
+            return;
+        }
         perform(structure::transfer(branches->getPaths(), group, index, how));
         return;
     }
@@ -328,8 +441,8 @@ void NodeEditing::toggleLocked()
 
 void NodeEditing::makePermanent()
 {
-    const std::vector<SoNode*> hidden = m_states.findHidden(m_document.getRoot());
-    if (perform(structure::switchOff(m_document.getRoot(), hidden)))
+    const std::vector<SoNode*> hidden = m_states.findHidden(m_files.getDocument().getRoot());
+    if (perform(structure::switchOff(m_files.getDocument().getRoot(), hidden)))
         m_states.setHidden(hidden, false);
 }
 

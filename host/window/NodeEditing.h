@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "structure/MirroredNode.h"
 #include "structure/StructureActs.h"
 
 #include <QObject>
@@ -11,7 +12,7 @@ namespace scopix
 {
 
 class HostServices;
-class SceneDocument;
+class SceneFiles;
 class SceneStates;
 class SceneTreeView;
 class UserNotifier;
@@ -24,7 +25,7 @@ class NodeEditing : public QObject
 
 public:
     /// All must outlive it.
-    NodeEditing(HostServices& services, SceneDocument& document, SceneTreeView& tree, SceneStates& states,
+    NodeEditing(HostServices& services, SceneFiles& files, SceneTreeView& tree, SceneStates& states,
                 UserNotifier& notifier, QObject* parent = nullptr);
 
     ~NodeEditing() override;
@@ -43,6 +44,9 @@ public:
     void reorder(int by);
     void moveOut();
     void moveIn();
+    /// Which types of nodes there are to add where something new goes; no answer where there are none, which
+    /// is told.
+    void askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer);
     void add(SoType type);
     void insertAbove(SoType type);
     void rename(const SoPath& path, const QString& name);
@@ -71,11 +75,15 @@ private:
     std::vector<SoNode*> selectedNodes() const;
     void tellNothingSelected();
     structure::MakeNode makerOf(SoType type) const;
+    void duplicateInProgram(const Paths& paths);
+    void pasteInProgram();
+    bool addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName);
+    bool holdsOwnCopy(const QMimeData* data) const;
     bool putOnClipboard();
     std::vector<SoRef<SoNode>> readText(const QMimeData& data);
 
     HostServices& m_services;
-    SceneDocument& m_document;
+    SceneFiles& m_files;
     SceneTreeView& m_tree;
     SceneStates& m_states;
     UserNotifier& m_notifier;

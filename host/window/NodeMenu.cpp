@@ -37,8 +37,8 @@ NodeMenu::NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneT
     m_menu.addSeparator();
     addSight();
     m_menu.addSeparator();
-    add(tr("Insert &File…"), {}, [this] { m_files.askAndInsert(); });
-    add(tr("Sa&ve Branch As…"), {}, [this] { m_files.askAndSave(); });
+    add(tr("Insert &File…"), {Qt::CTRL + Qt::Key_I}, [this] { m_files.askAndInsert(); });
+    add(tr("Sa&ve Branch As…"), {QStringLiteral("Ctrl+U, B")}, [this] { m_files.askAndSave(); });
     m_tree.setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&m_tree, &QWidget::customContextMenuRequested, this, &NodeMenu::openAtRow);
     connect(&m_tree, &SceneTreeView::eyeClicked, this,
@@ -56,15 +56,26 @@ QAction* NodeMenu::add(const QString& text, const QList<QKeySequence>& keys, std
     return action;
 }
 
+void NodeMenu::moveTo(QMenu& submenu, QAction* act)
+{
+    m_menu.removeAction(act);
+    submenu.addAction(act);
+}
+
 void NodeMenu::addAbove()
 {
     QMenu* above = m_menu.addMenu(tr("Put A&bove"));
-    const SoType types[] = {SoTransform::getClassTypeId(), SoSeparator::getClassTypeId(),
-                            SoGroup::getClassTypeId(), SoSwitch::getClassTypeId()};
-    for (const SoType type : types)
-        above->addAction(nodeIcon(type, &m_tree), tr("Put a %1 Above").arg(toQString(type.getName())), this,
-                         [this, type] { m_editing.insertAbove(type); });
-    above->addAction(tr("&Another…"), this, &NodeMenu::chooseAbove);
+    const std::pair<SoType, const char*> types[] = {{SoTransform::getClassTypeId(), "Ctrl+U, T"},
+                                                    {SoSeparator::getClassTypeId(), "Ctrl+U, S"},
+                                                    {SoGroup::getClassTypeId(), "Ctrl+U, G"},
+                                                    {SoSwitch::getClassTypeId(), "Ctrl+U, W"}};
+    for (const auto& [type, key] : types) {
+        QAction* act = add(tr("Put a %1 Above").arg(toQString(type.getName())), {QKeySequence(key)},
+                           [this, type = type] { m_editing.insertAbove(type); });
+        act->setIcon(nodeIcon(type, &m_tree));
+        moveTo(*above, act);
+    }
+    moveTo(*above, add(tr("&Another…"), {QStringLiteral("Ctrl+U, A")}, [this] { chooseAbove(); }));
 }
 
 void NodeMenu::addClipboard()
@@ -81,17 +92,15 @@ void NodeMenu::addStructure()
 {
     add(tr("&Group"), {Qt::CTRL + Qt::Key_G}, [this] { m_editing.group(); });
     add(tr("&Ungroup"), {Qt::CTRL + Qt::SHIFT + Qt::Key_G}, [this] { m_editing.ungroup(); });
-    add(tr("Make Uni&que"), {}, [this] { m_editing.makeUnique(); });
+    add(tr("Make Uni&que"), {QStringLiteral("Ctrl+U, U")}, [this] { m_editing.makeUnique(); });
     QMenu* move = m_menu.addMenu(tr("&Move"));
     const auto addMove = [&](const QString& text, Qt::Key key, std::function<void()> act) {
-        move->addAction(add(text, {QKeySequence(Qt::ALT | key)}, std::move(act)));
+        moveTo(*move, add(text, {QKeySequence(Qt::ALT | key)}, std::move(act)));
     };
     addMove(tr("&Up"), Qt::Key_Up, [this] { m_editing.reorder(-1); });
     addMove(tr("&Down"), Qt::Key_Down, [this] { m_editing.reorder(1); });
     addMove(tr("&Out of Its Group"), Qt::Key_Left, [this] { m_editing.moveOut(); });
     addMove(tr("&Into the Group Before"), Qt::Key_Right, [this] { m_editing.moveIn(); });
-    for (QAction* action : move->actions())
-        m_menu.removeAction(action);
 }
 
 void NodeMenu::addSight()
@@ -100,14 +109,16 @@ void NodeMenu::addSight()
     add(tr("Sho&w All"), {Qt::SHIFT + Qt::Key_H}, [this] { m_editing.showAll(); });
     add(tr("&Isolate"), {Qt::Key_Slash}, [this] { m_editing.toggleIsolated(); });
     add(tr("&Lock or Unlock"), {Qt::CTRL + Qt::Key_L}, [this] { m_editing.toggleLocked(); });
-    add(tr("Make Hiding Pe&rmanent"), {}, [this] { m_editing.makePermanent(); });
+    add(tr("Make Hiding Pe&rmanent"), {QStringLiteral("Ctrl+U, H")}, [this] { m_editing.makePermanent(); });
 }
 
 void NodeMenu::chooseAndAdd()
 {
-    TypeChooser chooser(TypeChooser::typesToAdd(), tr("Add a Node"), &m_tree);
-    if (chooser.exec() == QDialog::Accepted)
-        m_editing.add(chooser.getChosen());
+    m_editing.askTypesToAdd([this](const std::vector<SoType>& types) {
+        TypeChooser chooser(types, tr("Add a Node"), &m_tree);
+        if (chooser.exec() == QDialog::Accepted)
+            m_editing.add(chooser.getChosen());
+    });
 }
 
 void NodeMenu::chooseAbove()

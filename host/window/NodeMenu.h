@@ -29,6 +29,7 @@ public:
 
 private:
     QAction* add(const QString& text, const QList<QKeySequence>& keys, std::function<void()> act);
+    void moveTo(QMenu& submenu, QAction* act);
     void addAbove();
     void addStructure();
     void addClipboard();

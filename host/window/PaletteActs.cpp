@@ -24,10 +24,12 @@ namespace
 
 constexpr std::size_t MostNodes = 30;
 
-// As one word of a query, whatever it holds.
+// As one word of a query, whatever it holds; a path as it is.
 QString queryOf(QString typed)
 {
     typed = typed.simplified();
+    if (typed.contains(QLatin1Char('/')))
+        return typed;
     typed.remove(QLatin1Char('"')).remove(QLatin1Char('\\'));
     return typed.isEmpty() ? QString() : QStringLiteral("\"%1\"").arg(typed);
 }

@@ -5,10 +5,11 @@
 #include "changes/ChangesText.h"
 #include "changes/PatchCommand.h"
 #include "document/PatchFile.h"
-#include "document/SceneDocument.h"
 #include "services/HostServices.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
+#include "window/DefaultScene.h"
+#include "window/SceneFiles.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -29,12 +30,12 @@ QString nameFilter()
 
 } // namespace
 
-PatchActs::PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+PatchActs::PatchActs(QWidget& window, HostServices& services, SceneFiles& files, ChangesPanel& panel,
                      UserNotifier& notifier, QObject* parent)
     : QObject(parent)
     , m_window(window)
     , m_services(services)
-    , m_document(document)
+    , m_files(files)
     , m_panel(panel)
     , m_notifier(notifier)
 {
@@ -51,7 +52,8 @@ void PatchActs::askAndSave()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilter(nameFilter());
     dialog.setDefaultSuffix(patchEnding());
-    const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
+    const QFileInfo origin(m_files.getDocument().getPath().isEmpty() ? m_files.getDocument().getTitle()
+                                                                     : m_files.getDocument().getPath());
     dialog.setDirectory(origin.path());
     dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + patchEnding());
     if (dialog.exec() == QDialog::Accepted)
@@ -78,30 +80,72 @@ bool PatchActs::save(const QString& path)
 
 void PatchActs::askAndApply()
 {
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Apply Patch"),
-                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path = QFileDialog::getOpenFileName(
+        &m_window, tr("Apply Patch"), QFileInfo(m_files.getDocument().getPath()).path(), nameFilter());
     if (!path.isEmpty())
         apply(path);
+}
+
+// Nothing was opened yet.
+bool PatchActs::hasNoScene() const
+{
+    const bool isUntouched = m_files.getDocument().getPath().isEmpty() && !m_files.getDocument().isModified();
+    return !m_files.getDocument().getRoot() ||
+           (isUntouched && isDefaultScene(m_files.getDocument().getRoot()));
+}
+
+bool PatchActs::read(const QString& path, xsg::SceneChanges& changes)
+{
+    QString error = readPatch(path, changes);
+    if (error.isEmpty() && hasNoScene())
+        error =
+            tr("“%1” is a patch, and no scene is open that it could change: open the one that it was made "
+               "for, then drop the patch on the window or choose File ▸ Apply Patch….")
+                .arg(printable(path));
+    if (!error.isEmpty())
+        m_notifier.error(error);
+    return error.isEmpty();
 }
 
 bool PatchActs::apply(const QString& path)
 {
     xsg::SceneChanges changes;
-    const QString error = readPatch(path, changes);
-    if (error.isEmpty())
-        apply(std::move(changes), QFileInfo(path).fileName());
-    else
-        m_notifier.error(error);
-    return error.isEmpty();
+    if (!read(path, changes))
+        return false;
+    apply(std::move(changes), QFileInfo(path).fileName());
+    return true;
+}
+
+bool PatchActs::offer(const QString& path)
+{
+    xsg::SceneChanges changes;
+    if (!m_notifier.isAttended())
+        return apply(path);
+    if (!read(path, changes))
+        return false;
+    const QString name = QFileInfo(path).fileName();
+    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
+                                tr("Apply the patch “%1” to the scene that is open?").arg(printable(name)),
+                                QMessageBox::Cancel, &m_window);
+    box->setObjectName(QStringLiteral("patchOffer"));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(tr("It has %n change(s). What fits is applied, and can be undone as one step.",
+                               nullptr, static_cast<int>(changes.size())));
+    box->setDefaultButton(box->addButton(tr("&Apply"), QMessageBox::AcceptRole));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QMessageBox::accepted, this,
+            [this, changes = std::move(changes), name] { apply(changes, name); });
+    box->open();
+    return true;
 }
 
 void PatchActs::apply(xsg::SceneChanges changes, const QString& name)
 {
-    if (m_services.preview().refusesEdit() || !m_document.getRoot())
+    if (m_services.preview().refusesEdit() || !m_files.getDocument().getRoot())
         return;
     auto result = std::make_shared<xsg::PatchResult>();
     m_services.history().endStep();
-    m_services.executeCommand(new PatchCommand(std::move(changes), m_document.getRoot(), result),
+    m_services.executeCommand(new PatchCommand(std::move(changes), m_files.getDocument().getRoot(), result),
                               tr("Apply “%1”").arg(name));
     m_services.history().endStep();
     tell(name, result->applied, result->alreadySo, result->misfits);

@@ -12,7 +12,7 @@ namespace scopix
 
 class ChangesPanel;
 class HostServices;
-class SceneDocument;
+class SceneFiles;
 class UserNotifier;
 
 /// Patches of the open scene: saves changes as one, applies one as one step and lists what did not fit.
@@ -23,7 +23,7 @@ class PatchActs : public QObject
 
 public:
     /// All must outlive it.
-    PatchActs(QWidget& window, HostServices& services, SceneDocument& document, ChangesPanel& panel,
+    PatchActs(QWidget& window, HostServices& services, SceneFiles& files, ChangesPanel& panel,
               UserNotifier& notifier, QObject* parent);
 
     static bool isPatch(const QString& path);
@@ -31,8 +31,10 @@ public:
     void askAndApply();
     /// Of the ticked changes, or of all. False where it cannot be written, which is told.
     bool save(const QString& path);
-    /// False where it cannot be read, which is told.
+    /// False where it cannot be read, or no scene is open, which is told.
     bool apply(const QString& path);
+    /// Asks first, where somebody is there to answer: for a patch that was opened like a scene.
+    bool offer(const QString& path);
     void apply(xsg::SceneChanges changes, const QString& name);
     /// To the clipboard.
     void copy();
@@ -40,12 +42,14 @@ public:
     void copyScene();
 
 private:
+    bool hasNoScene() const;
+    bool read(const QString& path, xsg::SceneChanges& changes);
     void put(const QString& text, const QString& sentence);
     void tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits);
 
     QWidget& m_window;
     HostServices& m_services;
-    SceneDocument& m_document;
+    SceneFiles& m_files;
     ChangesPanel& m_panel;
     UserNotifier& m_notifier;
 };

@@ -21,6 +21,8 @@ namespace scopix
 namespace
 {
 
+constexpr int PatienceMs = 300; // before a dialog opens
+
 /// Nothing in the scene moves with time while this lives.
 class StandStill
 {
@@ -48,9 +50,11 @@ PictureActs::PictureActs(QMenu& menu, QWidget& window, SceneView& view, UserNoti
     , m_view(view)
     , m_notifier(notifier)
 {
-    menu.addAction(tr("Save &Picture…"), this, [this] { ask(false); })
+    menu.addAction(
+            tr("Save &Picture…"), this, [this] { ask(false); }, Qt::Key_F12)
         ->setObjectName(QStringLiteral("savePictureAction"));
-    menu.addAction(tr("Save &Turntable…"), this, [this] { ask(true); })
+    menu.addAction(
+            tr("Save &Turntable…"), this, [this] { ask(true); }, Qt::SHIFT + Qt::Key_F12)
         ->setObjectName(QStringLiteral("saveTurntableAction"));
 }
 
@@ -94,6 +98,7 @@ bool PictureActs::save(const PictureOrder& order)
         dialog->setObjectName(QStringLiteral("pictureProgress"));
         dialog->setWindowTitle(tr("Save Picture"));
         dialog->setWindowModality(Qt::WindowModal);
+        dialog->setMinimumDuration(PatienceMs);
     }
     const PictureSeries series = PictureSeries::make(
         m_view.getPictureSubject(order.size, order.count > 1), order, [&](int done, int total) {

@@ -46,22 +46,23 @@ ReloadBar::ReloadBar(SceneFiles& files, QWidget& view)
     row->addWidget(ignore);
     hide();
     view.installEventFilter(this);
-    connect(&files.getDocument(), &SceneDocument::stateChanged, this, &ReloadBar::update);
+    connect(&files.getScenes(), &OpenScenes::stateChanged, this, &ReloadBar::update);
 }
 
 void ReloadBar::update()
 {
     const SceneDocument& document = m_files.getDocument();
     const bool isChanged = document.getFileState() == SceneDocument::FileState::Changed;
-    m_isDismissed = m_isDismissed && isChanged;
+    if (m_dismissed == &document && !isChanged)
+        m_dismissed = nullptr;
     m_text->setText(tr("Another program has changed “%1”.").arg(document.getTitle()));
-    setVisible(isChanged && !m_isDismissed && !document.isModified());
+    setVisible(isChanged && m_dismissed != &document && !document.isModified());
     place();
 }
 
 void ReloadBar::dismiss()
 {
-    m_isDismissed = true;
+    m_dismissed = &m_files.getDocument();
     update();
 }
 

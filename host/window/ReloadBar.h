@@ -8,6 +8,7 @@ class QLabel;
 namespace scopix
 {
 
+class SceneDocument;
 class SceneFiles;
 
 /// Says at the top of the view that another program has changed the file that is shown, and offers to reload
@@ -35,7 +36,7 @@ private:
     SceneFiles& m_files;
     QWidget& m_view;
     QLabel* m_text;
-    bool m_isDismissed = false; // until the file is as it was opened
+    const SceneDocument* m_dismissed = nullptr; // until its file is as it was opened
 };
 
 } // namespace scopix

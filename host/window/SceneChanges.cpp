@@ -5,16 +5,14 @@
 #include "changes/FileComparison.h"
 #include "changes/SceneEdits.h"
 #include "document/SceneDocument.h"
-#include "import/AnyImport.h"
-#include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "window/OtherFile.h"
 #include "window/PatchActs.h"
 #include "window/SceneFiles.h"
 
 #include <QAction>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
@@ -31,15 +29,11 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFil
     , m_window(window)
     , m_services(services)
     , m_files(files)
-    , m_document(files.getDocument())
-    , m_notifier(notifier)
-    , m_edits(new SceneEdits(services.history(), this))
+    , m_file(new OtherFile(window, notifier, this))
     , m_panel(new ChangesPanel(services))
-    , m_patches(new PatchActs(window, services, m_document, *m_panel, notifier, this))
+    , m_patches(new PatchActs(window, services, files, *m_panel, notifier, this))
     , m_count(new QToolButton)
 {
-    m_edits->setHold([&services] { return services.preview().isShowingFormer(); });
-    m_panel->setSource(m_edits);
     m_count->setObjectName(QStringLiteral("changesCount"));
     m_count->setAutoRaise(true);
     m_count->setToolTip(tr("What you have changed since the scene was opened"));
@@ -49,14 +43,35 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFil
     window.statusBar()->addPermanentWidget(m_count);
     connect(m_count, &QToolButton::clicked, this, &SceneChanges::show);
     connect(m_panel, &ChangesPanel::said, &notifier, &UserNotifier::info);
-    connect(m_edits, &ChangeSource::changed, this, &SceneChanges::follow);
-    connect(&services.preview(), &HostPreview::formerShown, m_edits, &ChangeSource::changed);
-    connect(&m_document, &SceneDocument::rootChanged, this, &SceneChanges::start);
+    connect(&services.preview(), &HostPreview::formerShown, this,
+            [this] { emit getEdits().ChangeSource::changed(); });
+    connect(&files.getScenes(), &OpenScenes::rootChanged, this, &SceneChanges::showFront);
     connect(&services.history(), &UndoHistory::acted, this, [this] {
         if (m_comparison)
             m_comparison->noteEdit();
     });
     makeMenu();
+    showFront();
+}
+
+SceneEdits& SceneChanges::getEdits() const
+{
+    return m_files.getScenes().getFront().getEdits();
+}
+
+SceneDocument& SceneChanges::document() const
+{
+    return m_files.getDocument();
+}
+
+// Another scene was opened, or has come to the front.
+void SceneChanges::showFront()
+{
+    delete m_comparison;
+    connect(&getEdits(), &ChangeSource::changed, this, &SceneChanges::follow, Qt::UniqueConnection);
+    m_panel->setSource(&getEdits());
+    showSource();
+    follow();
 }
 
 void SceneChanges::makeMenu()
@@ -76,13 +91,14 @@ void SceneChanges::makeMenu()
 
 void SceneChanges::fillMenu(QMenu& menu)
 {
-    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
-    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave);
-    menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply);
+    menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare, Qt::Key_F6);
+    menu.addAction(tr("Save Changes as &Patch…"), m_patches, &PatchActs::askAndSave, Qt::SHIFT + Qt::Key_F6);
+    menu.addAction(tr("App&ly Patch…"), m_patches, &PatchActs::askAndApply, Qt::CTRL + Qt::Key_F6);
     QAction* reapply = menu.addAction(tr("Reload and Reappl&y"), this, &SceneChanges::reloadAndReapply);
+    reapply->setShortcut(Qt::Key_F5);
     reapply->setToolTip(tr("Opens the file as it is by now, and makes your changes once more"));
     connect(&menu, &QMenu::aboutToShow, reapply,
-            [this, reapply] { reapply->setEnabled(!m_document.getPath().isEmpty()); });
+            [this, reapply] { reapply->setEnabled(!document().getPath().isEmpty()); });
 }
 
 SceneChanges::~SceneChanges() = default;
@@ -99,18 +115,17 @@ void SceneChanges::show()
     m_panel->getView().setFocus();
 }
 
-// Saving does not start it again (decisions.md: changes-since-opening).
 void SceneChanges::start()
 {
     showEdits();
-    m_edits->begin(m_document.getRoot(), tr("the scene as it was opened"));
+    m_files.getScenes().getFront().startChanges();
 }
 
 xsg::SceneChanges SceneChanges::takeChanges()
 {
-    m_edits->update();
-    const ChangeKeys& all = m_edits->list();
-    return m_edits->makePatch({all.begin(), all.end()});
+    getEdits().update();
+    const ChangeKeys& all = getEdits().list();
+    return getEdits().makePatch({all.begin(), all.end()});
 }
 
 void SceneChanges::reloadAndReapply()
@@ -118,7 +133,7 @@ void SceneChanges::reloadAndReapply()
     m_services.preview().showPresent();
     m_services.history().endStep();
     const xsg::SceneChanges mine = takeChanges();
-    const QString name = tr("your changes to %1").arg(m_document.getTitle());
+    const QString name = tr("your changes to %1").arg(document().getTitle());
     // Where it cannot be opened, what was open stays.
     auto once = std::make_shared<QMetaObject::Connection>();
     *once = connect(&m_files, &SceneFiles::opened, this, [this, once, mine, name](bool good) {
@@ -133,50 +148,24 @@ void SceneChanges::reloadAndReapply()
 
 void SceneChanges::askAndCompare()
 {
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    const QString path = QFileDialog::getOpenFileName(
-        &m_window, tr("Compare With"), QFileInfo(m_document.getPath()).path(),
-        tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' '))));
+    const QString path = m_file->ask(tr("Compare With"), QFileInfo(document().getPath()).path());
     if (!path.isEmpty())
         compareWith(path);
 }
 
 void SceneChanges::compareWith(const QString& path)
 {
-    if (m_import)
-        m_import->cancel();
-    const QString error = checkFile(path, SceneDocument::fileExtensions());
-    if (!error.isEmpty())
-        return m_notifier.error(error);
-    m_import = makeImport(path, &m_window, this,
-                          [this, path](const SoRef<SoNode>& scene) { compared(scene.get(), path); });
-    connect(m_import, &FileImport::failed, this, [this](const QString& sentence) {
-        forgetImport();
-        m_notifier.error(sentence);
+    m_file->read(path, [this, path](const SoRef<SoNode>& scene, const QStringList& /*notes*/) {
+        compared(scene.get(), path);
     });
-    connect(m_import, &FileImport::cancelled, this, [this, path] {
-        forgetImport();
-        m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
-    });
-    m_import->start(path);
-}
-
-void SceneChanges::forgetImport()
-{
-    if (m_import)
-        m_import->deleteLater();
-    m_import.clear();
 }
 
 void SceneChanges::compared(SoNode* other, const QString& path)
 {
     const SoRef<SoNode> kept(other);
-    forgetImport();
     showEdits();
     m_services.preview().showPresent();
-    m_comparison = new FileComparison(m_document.getRoot(), other, QFileInfo(path).fileName(), this);
+    m_comparison = new FileComparison(document().getRoot(), other, QFileInfo(path).fileName(), this);
     m_panel->setSource(m_comparison);
     showSource();
     show();
@@ -186,7 +175,7 @@ void SceneChanges::showEdits()
 {
     if (!m_comparison)
         return;
-    m_panel->setSource(m_edits);
+    m_panel->setSource(&getEdits());
     delete m_comparison;
     showSource();
 }
@@ -205,8 +194,8 @@ void SceneChanges::showSource()
 
 void SceneChanges::follow()
 {
-    m_edits->update();
-    const int count = static_cast<int>(m_edits->list().size());
+    getEdits().update();
+    const int count = static_cast<int>(getEdits().list().size());
     m_count->setText(count == 1 ? tr("1 change") : tr("%L1 changes").arg(count));
     m_count->setVisible(count > 0);
     if (m_dock) {

@@ -18,7 +18,7 @@ namespace scopix
 
 class ChangesPanel;
 class FileComparison;
-class FileImport;
+class OtherFile;
 class PatchActs;
 class HostServices;
 class SceneDocument;
@@ -39,7 +39,8 @@ public:
     ~SceneChanges() override;
 
     ChangesPanel& getPanel() const { return *m_panel; }
-    SceneEdits& getEdits() const { return *m_edits; }
+    /// Of the scene in front.
+    SceneEdits& getEdits() const;
     /// That holds the panel.
     void setDock(QDockWidget* dock);
     /// Brings it up and gives it the focus.
@@ -63,23 +64,21 @@ signals:
     void changed();
 
 private:
+    SceneDocument& document() const;
+    void showFront();
     void start();
     void follow();
     void makeMenu();
     void compared(SoNode* other, const QString& path);
-    void forgetImport();
     void showSource();
 
     QMainWindow& m_window;
     HostServices& m_services;
     SceneFiles& m_files;
-    SceneDocument& m_document;
-    UserNotifier& m_notifier;
-    SceneEdits* m_edits;
+    OtherFile* m_file;
     ChangesPanel* m_panel;
     PatchActs* m_patches;
     QPointer<FileComparison> m_comparison; // null: the edits show
-    QPointer<FileImport> m_import;
     QAction* m_again = nullptr;
     QAction* m_back = nullptr;
     QAction* m_start = nullptr;

@@ -7,6 +7,7 @@
 #include "model/FileChecks.h"
 #include "services/HostServices.h"
 #include "settings/UserSettings.h"
+#include "support/LongWork.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
 #include "undo/TextInput.h"
@@ -14,40 +15,28 @@
 #include "window/ChangedFileQuestion.h"
 #include "window/DefaultScene.h"
 #include "window/ExportQuestion.h"
+#include "window/OtherFile.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
 
+#include <optional>
+
 namespace scopix
 {
-
-namespace
-{
-
-QString nameFilter()
-{
-    QStringList patterns;
-    for (const QString& ending : SceneDocument::fileExtensions())
-        patterns << QStringLiteral("*.") + ending;
-    return SceneFiles::tr("Scenes and models (%1);;All files (*)").arg(patterns.join(QLatin1Char(' ')));
-}
-
-} // namespace
 
 SceneFiles::SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier)
     : m_window(window)
     , m_services(services)
     , m_notifier(notifier)
-    , m_document(services)
+    , m_scenes(services, notifier)
     , m_recent(UserSettings::windowFile())
-    , m_autosave(m_document)
 {
-    connect(&m_autosave, &Autosave::failed, &m_notifier, &UserNotifier::error);
-    connect(&m_watch, &FileWatch::noticed, &m_document, &SceneDocument::checkFile);
 }
 
 SceneFiles::~SceneFiles() = default;
@@ -56,7 +45,7 @@ void SceneFiles::open(const QString& path)
 {
     if (m_import)
         m_import->cancel(); // the user has changed their mind
-    m_droppable = m_document.getEditCount();
+    m_droppable = getDocument().getEditCount();
     m_opening = FileStamp(path);
     const QString error = checkFile(path, SceneDocument::fileExtensions());
     if (!error.isEmpty())
@@ -89,7 +78,7 @@ FileImport* SceneFiles::importModel(const QString& path)
 void SceneFiles::fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures)
 {
     // The user may have continued to edit while the file was read.
-    if (m_document.getEditCount() == m_droppable || confirmDiscard())
+    if (getDocument().getEditCount() == m_droppable || confirmDiscard())
         show(root, path, textures);
     else
         cancelled(path);
@@ -115,7 +104,7 @@ void SceneFiles::show(SoNode* root, const QString& path, const std::vector<SoTex
     const QStringList notes = m_import ? m_import->notes() : QStringList();
     forgetImport(); // later
     const QString name = QFileInfo(path).fileName();
-    m_document.begin(root, path, name, m_opening, textures);
+    getDocument().begin(root, path, name, m_opening, textures);
     m_reselect.restore(m_services, root);
     m_reselect = {};
     remember(path);
@@ -135,9 +124,9 @@ void SceneFiles::show(SoNode* root, const QString& path, const std::vector<SoTex
 
 void SceneFiles::reload()
 {
-    const SelectionMemo selection(m_services, m_document.getRoot());
+    const SelectionMemo selection(m_services, getDocument().getRoot());
     m_reselect = selection;
-    open(m_document.getPath());
+    open(getDocument().getPath());
 }
 
 void SceneFiles::reportFailure(const QString& sentence)
@@ -151,7 +140,7 @@ void SceneFiles::reportFailure(const QString& sentence)
 void SceneFiles::newScene()
 {
     if (confirmDiscard())
-        m_document.begin(makeDefaultScene().get(), {}, tr("Welcome"));
+        getDocument().begin(makeDefaultScene().get(), {}, tr("Welcome"));
 }
 
 void SceneFiles::openAnother(const QString& path)
@@ -164,10 +153,18 @@ void SceneFiles::askForFile()
 {
     if (!confirmDiscard())
         return;
-    const QString path = QFileDialog::getOpenFileName(&m_window, tr("Open"),
-                                                      QFileInfo(m_document.getPath()).path(), nameFilter());
+    const QString path =
+        QFileDialog::getOpenFileName(&m_window, tr("Open"), startFolder(), OtherFile::nameFilter());
     if (!path.isEmpty())
         open(path);
+}
+
+QString SceneFiles::startFolder() const
+{
+    const QString path =
+        getDocument().getPath().isEmpty() ? m_recent.list().value(0) : getDocument().getPath();
+    const QString folder = QFileInfo(path).path();
+    return QFileInfo(folder).isDir() ? folder : QDir::currentPath();
 }
 
 void SceneFiles::openRecent(const QString& path)
@@ -181,7 +178,7 @@ void SceneFiles::openRecent(const QString& path)
 
 bool SceneFiles::save()
 {
-    return m_document.hasSceneFile() ? saveTo(m_document.getPath()) : saveAs();
+    return getDocument().hasSceneFile() ? saveTo(getDocument().getPath()) : saveAs();
 }
 
 bool SceneFiles::saveAs()
@@ -190,16 +187,17 @@ bool SceneFiles::saveAs()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilter(tr("Scenes (*.%1)").arg(SceneDocument::sceneEnding()));
     dialog.setDefaultSuffix(SceneDocument::sceneEnding());
-    const QFileInfo origin(m_document.getPath().isEmpty() ? m_document.getTitle() : m_document.getPath());
-    dialog.setDirectory(origin.path());
+    const QFileInfo origin(getDocument().getPath().isEmpty() ? getDocument().getTitle()
+                                                             : getDocument().getPath());
+    dialog.setDirectory(startFolder());
     dialog.selectFile(origin.completeBaseName() + QLatin1Char('.') + SceneDocument::sceneEnding());
     return dialog.exec() == QDialog::Accepted && saveTo(dialog.selectedFiles().value(0));
 }
 
 void SceneFiles::exportAs()
 {
-    applyTyping();
-    const QString path = askForExport(m_window, m_document);
+    TextInput::applyPendingEdit();
+    const QString path = askForExport(m_window, getDocument(), startFolder());
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -211,11 +209,17 @@ void SceneFiles::exportTo(const QString& path)
                              .arg(path, SceneExport::endings().join(QStringLiteral(", "))));
         return;
     }
-    m_document.preview().showPresent(); // as saving does
-    const SceneExport scene(*m_document.getRoot(), path);
-    if (m_notifier.isAttended() && !confirmLosses(m_window, path, scene))
+    getDocument().preview().showPresent(); // as saving does
+    const QString what = tr("Exporting “%1”…").arg(QFileInfo(path).fileName());
+    const QString cancelled = tr("Exporting “%1” was cancelled.").arg(path);
+    std::optional<SceneExport> scene;
+    if (!runLong(what, [&] { scene.emplace(*getDocument().getRoot(), path); }))
+        return m_notifier.info(cancelled);
+    if (m_notifier.isAttended() && !confirmLosses(m_window, path, *scene))
         return;
-    const QString error = scene.write();
+    QString error;
+    if (!runLong(what, [&] { error = scene->write(); }))
+        return m_notifier.info(cancelled);
     if (error.isEmpty())
         m_notifier.info(tr("Exported “%1”.").arg(path));
     else
@@ -224,7 +228,7 @@ void SceneFiles::exportTo(const QString& path)
 
 bool SceneFiles::saveTo(const QString& path)
 {
-    applyTyping();
+    TextInput::applyPendingEdit();
     if (SceneExport::hasEnding(path)) {
         exportTo(path);
         return false;
@@ -234,7 +238,12 @@ bool SceneFiles::saveTo(const QString& path)
 
 bool SceneFiles::write(const QString& path)
 {
-    const QString error = m_document.save(path);
+    QString error;
+    const QString name = QFileInfo(path).fileName();
+    if (!runLong(tr("Saving “%1”…").arg(name), [&] { error = getDocument().save(path); })) {
+        m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
+        return false;
+    }
     if (!error.isEmpty()) {
         m_notifier.error(error);
         return false;
@@ -242,6 +251,13 @@ bool SceneFiles::write(const QString& path)
     m_notifier.info(tr("Saved “%1”.").arg(path));
     remember(path);
     return true;
+}
+
+// The application around the window may change its scene whenever it gets events.
+bool SceneFiles::runLong(const QString& what, const std::function<void()>& work)
+{
+    const bool mayAsk = m_notifier.isAttended() && !getDocument().isExternal();
+    return LongWork::run(mayAsk ? &m_window : nullptr, what, work);
 }
 
 void SceneFiles::remember(const QString& path)
@@ -253,19 +269,19 @@ void SceneFiles::remember(const QString& path)
 
 bool SceneFiles::mayReplace(const QString& path)
 {
-    const bool isOwn = QFileInfo(path) == QFileInfo(m_document.getPath());
-    return !isOwn || m_document.checkFile() != SceneDocument::FileState::Changed;
+    const bool isOwn = QFileInfo(path) == QFileInfo(getDocument().getPath());
+    return !isOwn || getDocument().checkFile() != SceneDocument::FileState::Changed;
 }
 
 bool SceneFiles::resolveConflict()
 {
-    const QString path = m_document.getPath();
+    const QString path = getDocument().getPath();
     if (!m_notifier.isAttended()) {
         m_notifier.error(
             tr("“%1” is not saved: another program has changed it since it was opened.").arg(path));
         return false;
     }
-    switch (askAboutChangedFile(m_window, m_document.getTitle(), m_document.isModified())) {
+    switch (askAboutChangedFile(m_window, getDocument().getTitle(), getDocument().isModified())) {
     case ChangedFileAnswer::Reload:
         reload();
         return false;
@@ -282,34 +298,29 @@ bool SceneFiles::resolveConflict()
     return false;
 }
 
-void SceneFiles::watchFile()
-{
-    m_watch.watch(m_document.getPath());
-}
-
 bool SceneFiles::confirmClose()
 {
     if (!confirmDiscard())
         return false;
     if (m_import)
         m_import->cancel();
-    m_autosave.drop();
+    getAutosave().drop();
     return true;
 }
 
 bool SceneFiles::confirmDiscard()
 {
-    applyTyping();
-    const bool may = !m_document.isModified() || !m_notifier.isAttended() || askWhetherToDrop();
+    TextInput::applyPendingEdit();
+    const bool may = !getDocument().isModified() || !m_notifier.isAttended() || askWhetherToDrop();
     if (may)
-        m_droppable = m_document.getEditCount();
+        m_droppable = getDocument().getEditCount();
     return may;
 }
 
 bool SceneFiles::askWhetherToDrop()
 {
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
-                    tr("Save the changes to “%1”?").arg(printable(m_document.getTitle())),
+                    tr("Save the changes to “%1”?").arg(printable(getDocument().getTitle())),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &m_window);
     box.setObjectName(QStringLiteral("unsavedChanges"));
     box.setInformativeText(tr("Without saving, they are lost."));
@@ -321,33 +332,19 @@ bool SceneFiles::askWhetherToDrop()
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-// What was typed and not yet confirmed counts as an edit too; editors apply it when their input loses focus.
-void SceneFiles::applyTyping()
-{
-    QWidget* input = QApplication::focusWidget();
-    if (!input || !TextInput::hasPendingEdit(input))
-        return;
-    const QPointer<QWidget> survivor = input;
-    input->clearFocus();
-    if (survivor)
-        survivor->setFocus();
-}
-
 void SceneFiles::enterInteractiveMode()
 {
-    m_autosave.start();
-    connect(&m_document, &SceneDocument::stateChanged, this, &SceneFiles::watchFile);
-    watchFile();
-    if (m_document.isExternal())
+    m_scenes.startKeeping();
+    if (getDocument().isExternal())
         return; // recovered edits would take the place of the scene that the application shows
-    if (!m_document.getPath().isEmpty())
-        remember(m_document.getPath());
+    if (!getDocument().getPath().isEmpty())
+        remember(getDocument().getPath());
     offerRecovery();
 }
 
 void SceneFiles::offerRecovery()
 {
-    std::unique_ptr<RecoverySlot> slot = RecoverySlot::findOrphaned(m_autosave.getFolder());
+    std::unique_ptr<RecoverySlot> slot = RecoverySlot::findOrphaned(getAutosave().getFolder());
     if (!slot)
         return;
     QMessageBox box(QMessageBox::Question, QApplication::applicationDisplayName(),
@@ -394,9 +391,9 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
     const RecoverySlot::Origin origin = slot->getOrigin();
     // What was edited may not be what the file holds by now.
     const bool isOlder = QFileInfo(origin.path).lastModified() > slot->getTime();
-    m_document.beginModified(scene, origin.path, origin.title,
-                             isOlder ? std::optional(FileStamp()) : std::nullopt);
-    m_autosave.adopt(slot);
+    getDocument().beginModified(scene, origin.path, origin.title,
+                                isOlder ? std::optional(FileStamp()) : std::nullopt);
+    getAutosave().adopt(slot);
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
     if (!problem.empty())
         m_notifier.error(tr("The last changes to “%1” could not be recovered: %2")
@@ -406,8 +403,8 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
 void SceneFiles::keepEdits(bool withTyping)
 {
     if (withTyping)
-        applyTyping();
-    m_autosave.keepNow();
+        TextInput::applyPendingEdit();
+    getAutosave().keepNow();
 }
 
 } // namespace scopix

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "document/Autosave.h"
-#include "document/FileWatch.h"
 #include "document/RecentFiles.h"
-#include "document/SceneDocument.h"
+#include "window/OpenScenes.h"
 #include "window/SelectionMemo.h"
 
 #include <QObject>
 #include <QPointer>
+
+#include <functional>
 
 namespace scopix
 {
@@ -28,10 +28,12 @@ public:
     SceneFiles(QWidget& window, HostServices& services, UserNotifier& notifier);
     ~SceneFiles() override;
 
-    SceneDocument& getDocument() { return m_document; }
-    const SceneDocument& getDocument() const { return m_document; }
+    OpenScenes& getScenes() { return m_scenes; }
+    const OpenScenes& getScenes() const { return m_scenes; }
+    /// Of the scene in front.
+    SceneDocument& getDocument() const { return m_scenes.getFront().getDocument(); }
     RecentFiles& getRecent() { return m_recent; }
-    Autosave& getAutosave() { return m_autosave; }
+    Autosave& getAutosave() const { return m_scenes.getFront().getAutosave(); }
 
     /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once,
     /// possibly before this returns. What was open stays when it fails. Problems are reported.
@@ -75,9 +77,11 @@ private:
     bool mayReplace(const QString& path);
     bool write(const QString& path);
     void exportTo(const QString& path);
+    /// Of what is open, or else of the file that was open last, also in an earlier session.
+    QString startFolder() const;
+    /// False where the user cancelled it.
+    bool runLong(const QString& what, const std::function<void()>& work);
     bool resolveConflict();
-    void watchFile();
-    void applyTyping();
     FileImport* importScene(const QString& path);
     FileImport* importModel(const QString& path);
     void fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures);
@@ -94,11 +98,9 @@ private:
     QWidget& m_window;
     HostServices& m_services;
     UserNotifier& m_notifier;
-    SceneDocument m_document;
+    OpenScenes m_scenes;
     RecentFiles m_recent;
-    Autosave m_autosave;
     QPointer<FileImport> m_import;
-    FileWatch m_watch;
     FileStamp m_opening;      // of the file that is being opened, before it is read
     SelectionMemo m_reselect; // of what is being reloaded
     quint64 m_droppable = 0;  // the edit count up to which the user agreed to lose edits

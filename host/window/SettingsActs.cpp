@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/SettingsActs.h"
 
+#include "language/Languages.h"
 #include "preferences/KeysPage.h"
 #include "preferences/PluginsPage.h"
 #include "preferences/PreferencesDialog.h"
@@ -13,6 +14,7 @@
 #include "viewport/SceneView.h"
 #include "window/SceneFiles.h"
 
+#include <scopix/SpxSettings.h>
 #include <xsg/core/SoPreferences.h>
 
 #include <QAction>
@@ -22,6 +24,7 @@
 #include <QMenuBar>
 
 #include <algorithm>
+#include <optional>
 
 namespace scopix
 {
@@ -74,6 +77,16 @@ Setting preference(const char* name, int usual, int lowest, int highest)
         return Preferences::set(QString::fromLatin1(name), value.toString());
     };
     return setting;
+}
+
+std::optional<SpxSettings::Choice> findChoice(const QString& key)
+{
+    const SpxSettings* extensions = SpxSettings::getInstance();
+    for (const SpxSettings::Choice& choice :
+         extensions ? extensions->getChoices() : std::vector<SpxSettings::Choice>())
+        if (choice.key == key)
+            return choice;
+    return {};
 }
 
 bool isDockToggle(const QMainWindow& window, const QAction* action)
@@ -155,6 +168,26 @@ Setting SettingsActs::fontSize() const
     setting.set = [window = &m_parts.window](const QVariant& points) {
         setFontSize(*window, points.toInt() == SmallestFont ? 0 : points.toInt());
         return keep(fontKey(), points);
+    };
+    return setting;
+}
+
+Setting SettingsActs::language() const
+{
+    Setting setting;
+    setting.key = QStringLiteral("language");
+    setting.page = tr("Appearance");
+    setting.label = tr("Language");
+    setting.help = tr("The texts of the default extensions are in English.");
+    setting.kind = Setting::Kind::Choice;
+    setting.choices.append({QString(), tr("As the system")});
+    for (const QString& each : Languages::shipped())
+        setting.choices.append({each, Languages::nameOf(each)});
+    setting.shipped = QString();
+    setting.get = [key = setting.key] { return kept(key, QString()); };
+    setting.set = [key = setting.key](const QVariant& language) {
+        Languages::instance()->speak(language.toString());
+        return keep(key, language);
     };
     return setting;
 }
@@ -245,8 +278,7 @@ void SettingsActs::setAutosavePause(int seconds) const
     constexpr int Second = 1000;
     constexpr int WithoutPause = 2;
     const int pause = std::clamp(seconds, 1, LongestPause);
-    m_parts.files.getAutosave().setPause(pause * Second);
-    m_parts.files.getAutosave().setLimit((pause + WithoutPause) * Second);
+    m_parts.files.getScenes().setPause(pause * Second, (pause + WithoutPause) * Second);
 }
 
 // What the View menu switches on and off, extensions' entries included.
@@ -256,8 +288,8 @@ void SettingsActs::addToggles(std::vector<Setting>& settings) const
     const QMenu* view = qobject_cast<QMenu*>(m_parts.themes.parent());
     for (const MenuAct& act : acts) {
         const bool isOfView = view && view->actions().contains(act.action);
-        // What comes with a key is switched on for a while, such as measuring.
-        const bool isForAWhile = !act.action->shortcut().isEmpty() && m_keys->isShipped(*act.action);
+        // What comes with a single key is switched on for a while, such as measuring.
+        const bool isForAWhile = act.action->shortcut().count() == 1 && m_keys->isShipped(*act.action);
         const bool isKept = act.action->isCheckable() && !act.action->actionGroup();
         if (!isOfView || !isKept || isForAWhile || isDockToggle(m_parts.window, act.action))
             continue;
@@ -277,11 +309,41 @@ void SettingsActs::addToggles(std::vector<Setting>& settings) const
     }
 }
 
+// By key, since an extension may be unloaded while the dialog is open.
+void SettingsActs::addOfExtensions(std::vector<Setting>& settings)
+{
+    const SpxSettings* extensions = SpxSettings::getInstance();
+    for (const SpxSettings::Choice& choice :
+         extensions ? extensions->getChoices() : std::vector<SpxSettings::Choice>()) {
+        Setting setting;
+        setting.key = choice.key;
+        setting.page = choice.page;
+        setting.label = choice.label;
+        setting.help = choice.help;
+        setting.kind = Setting::Kind::Choice;
+        setting.choices = choice.choices;
+        setting.shipped = choice.shipped;
+        setting.get = [key = choice.key]() -> QVariant {
+            const auto known = findChoice(key);
+            return known ? known->get() : QString();
+        };
+        setting.set = [key = choice.key](const QVariant& value) {
+            if (const auto known = findChoice(key))
+                known->set(value.toString());
+            return QString();
+        };
+        settings.push_back(setting);
+    }
+}
+
 std::vector<Setting> SettingsActs::settings() const
 {
     std::vector<Setting> all{theme(),         fontSize(),    mouse(),        undoMemory(),
                              pictureMemory(), creaseAngle(), autosavePause()};
+    if (Languages::instance())
+        all.insert(all.begin() + 2, language());
     addToggles(all);
+    addOfExtensions(all);
     return all;
 }
 
@@ -290,9 +352,10 @@ void SettingsActs::open(const QString& setting)
     delete m_dialog;
     m_dialog = new PreferencesDialog(settings(), &m_parts.window);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-    auto* keys = new KeysPage(*m_keys);
+    auto* keys = new KeysPage(*m_keys, m_dialog);
     m_dialog->addPage(tr("Keys"), keys, tr("keyboard shortcuts presets Blender Godot Maya"));
-    m_dialog->addPage(tr("Plug-ins"), new PluginsPage(m_plugins()), tr("extensions tools loaded refused"));
+    m_dialog->addPage(tr("Plug-ins"), new PluginsPage(m_plugins(), m_dialog),
+                      tr("extensions tools loaded refused"));
     connect(m_dialog, &PreferencesDialog::failed, &m_parts.notifier, &UserNotifier::error);
     connect(keys, &KeysPage::failed, &m_parts.notifier, &UserNotifier::error);
     m_dialog->show();

@@ -51,12 +51,14 @@ public:
 private:
     Setting theme() const;
     Setting fontSize() const;
+    Setting language() const;
     Setting mouse() const;
     Setting undoMemory() const;
     Setting pictureMemory() const;
     Setting creaseAngle() const;
     Setting autosavePause() const;
     void addToggles(std::vector<Setting>& settings) const;
+    static void addOfExtensions(std::vector<Setting>& settings);
     void restore();
     void setAutosavePause(int seconds) const;
 

@@ -4,7 +4,10 @@
 #include "panels/SceneTreeView.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
+#include "support/CatchExceptions.h"
 #include "support/UserNotifier.h"
+
+#include <scopix/SpxTreeColumns.h>
 
 #include <QHeaderView>
 #include <QMenu>
@@ -20,6 +23,22 @@ QString settingsKey()
     return QStringLiteral("treeColumns");
 }
 
+QString moreKey()
+{
+    return QStringLiteral("moreTreeColumns");
+}
+
+// A plug-in that fails knows nothing of the node.
+SceneTreeModel::MoreColumn columnOf(const SpxTreeColumnProvider& provider, int column)
+{
+    const auto value = [&provider, column](const SoNode& node) {
+        QVariant known;
+        static_cast<void>(catchExceptions([&] { known = provider.getColumnValue(column, node); }));
+        return known;
+    };
+    return {provider.getColumnKey(column), provider.getColumnCaption(column), value};
+}
+
 } // namespace
 
 TreeColumns::TreeColumns(QMenu& menu, SceneTreeView& tree, UserNotifier& notifier)
@@ -30,7 +49,7 @@ TreeColumns::TreeColumns(QMenu& menu, SceneTreeView& tree, UserNotifier& notifie
 {
     for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column)
         addColumn(column);
-    menu.addSeparator();
+    m_endOfColumns = menu.addSeparator();
     addOrder(tr("In the Scene’s &Order"), -1, Qt::AscendingOrder);
     addOrder(tr("Sorted by &Name"), SceneTreeModel::NameColumn, Qt::AscendingOrder);
     addOrder(tr("Most T&riangles First"), SceneTreeModel::TrianglesColumn, Qt::DescendingOrder);
@@ -47,8 +66,9 @@ void TreeColumns::addColumn(int column)
     const QVariant kept = SettingsFile(UserSettings::windowFile()).value(settingsKey());
     const QStringList shown = kept.isValid() ? kept.toStringList() : QStringList("type");
     QAction* action = m_menu.addAction(m_tree.getModel().headerData(column, Qt::Horizontal).toString());
+    action->setShortcut(QStringLiteral("Ctrl+T, %1").arg(column));
     action->setCheckable(true);
-    action->setChecked(shown.contains(SceneTreeModel::columnKey(column)));
+    action->setChecked(shown.contains(m_tree.getModel().columnKey(column)));
     m_tree.setColumnShown(column, action->isChecked());
     connect(action, &QAction::toggled, this, [this, column](bool on) {
         m_tree.setColumnShown(column, on);
@@ -58,7 +78,9 @@ void TreeColumns::addColumn(int column)
 
 void TreeColumns::addOrder(const QString& text, int column, Qt::SortOrder order)
 {
-    m_menu.addAction(text, this, [this, column, order] { m_tree.sortRows(column, order); });
+    QAction* action = m_menu.addAction(text, this, [this, column, order] { m_tree.sortRows(column, order); });
+    // The columns have the digits before.
+    action->setShortcut(QStringLiteral("Ctrl+T, %1").arg(SceneTreeModel::ColumnCount + m_orders++));
 }
 
 void TreeColumns::keep()
@@ -66,9 +88,59 @@ void TreeColumns::keep()
     QStringList shown;
     for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column) {
         if (m_tree.isColumnShown(column))
-            shown << SceneTreeModel::columnKey(column);
+            shown << m_tree.getModel().columnKey(column);
     }
-    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(settingsKey(), shown);
+    store(settingsKey(), shown);
+}
+
+void TreeColumns::setProviders(const QList<SpxTreeColumnProvider*>& providers)
+{
+    qDeleteAll(m_more);
+    m_more.clear();
+    std::vector<SceneTreeModel::MoreColumn> columns;
+    std::vector<bool> shownAtFirst;
+    const QString failure = catchExceptions([&] {
+        for (const SpxTreeColumnProvider* provider : providers) {
+            for (int i = 0; i < provider->getNumColumns(); ++i) {
+                columns.push_back(columnOf(*provider, i));
+                shownAtFirst.push_back(provider->isColumnShownAtFirst(i));
+            }
+        }
+    });
+    if (!failure.isEmpty())
+        m_notifier.error(tr("A plug-in failed when it was to tell its columns of the tree: %1").arg(failure));
+    columns.resize(shownAtFirst.size());
+    m_tree.setMoreColumns(std::move(columns));
+    for (std::size_t i = 0; i < shownAtFirst.size(); ++i)
+        addMoreColumn(SceneTreeModel::ColumnCount + static_cast<int>(i), shownAtFirst[i]);
+}
+
+void TreeColumns::addMoreColumn(int column, bool isShown)
+{
+    const QString key = m_tree.getModel().columnKey(column);
+    const QVariantMap kept = SettingsFile(UserSettings::windowFile()).value(moreKey()).toMap();
+    auto* action = new QAction(m_tree.getModel().headerData(column, Qt::Horizontal).toString(), &m_menu);
+    action->setCheckable(true);
+    action->setChecked(kept.value(key, isShown).toBool());
+    m_menu.insertAction(m_endOfColumns, action);
+    m_more.append(action);
+    m_tree.setColumnShown(column, action->isChecked());
+    connect(action, &QAction::toggled, this, [this, column, key](bool on) {
+        m_tree.setColumnShown(column, on);
+        keepMore(key, on);
+    });
+}
+
+void TreeColumns::keepMore(const QString& key, bool isShown)
+{
+    QVariantMap kept = SettingsFile(UserSettings::windowFile()).value(moreKey()).toMap();
+    kept[key] = isShown;
+    store(moreKey(), kept);
+}
+
+void TreeColumns::store(const QString& key, const QVariant& value)
+{
+    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, value);
     if (!problem.isEmpty())
         m_notifier.error(problem);
 }

@@ -46,12 +46,14 @@ ViewActions::ViewActions(SceneView& view, HostServices& services, UserNotifier& 
     connect(&m_walk, &WalkTool::toggled, walk, &QAction::setChecked);
     m_cameras = menu.addMenu(tr("Look Throu&gh"));
     connect(m_cameras, &QMenu::aboutToShow, this, &ViewActions::listCameras);
-    connect(menu.addAction(tr("Keep This View as a &Camera")), &QAction::triggered, this,
-            &ViewActions::keepView);
+    menu.addAction(tr("Keep This View as a &Camera"), this, &ViewActions::keepView,
+                   QStringLiteral("Ctrl+J, K"));
     menu.addSeparator();
-    addToggle(menu, tr("G&rid"), QStringLiteral("viewGrid"), false, [this](bool on) { m_grid.setGrid(on); });
-    addToggle(menu, tr("A&xes"), QStringLiteral("viewAxes"), false, [this](bool on) { m_grid.setAxes(on); });
-    addToggle(menu, tr("Orientation C&ube"), QStringLiteral("viewCube"), true,
+    addToggle(menu, tr("G&rid"), QStringLiteral("viewGrid"), "Ctrl+J, G", false,
+              [this](bool on) { m_grid.setGrid(on); });
+    addToggle(menu, tr("A&xes"), QStringLiteral("viewAxes"), "Ctrl+J, A", false,
+              [this](bool on) { m_grid.setAxes(on); });
+    addToggle(menu, tr("Orientation C&ube"), QStringLiteral("viewCube"), "Ctrl+J, C", true,
               [this](bool on) { m_cube.setShown(on); });
 }
 
@@ -77,13 +79,14 @@ void ViewActions::addSide(QMenu& menu, const QString& text, const QKeySequence& 
 }
 
 template <class Set>
-void ViewActions::addToggle(QMenu& menu, const QString& text, const QString& setting, bool isOnAtFirst,
-                            Set set)
+void ViewActions::addToggle(QMenu& menu, const QString& text, const QString& setting, const char* key,
+                            bool isOnAtFirst, Set set)
 {
     const QVariant known = SettingsFile(UserSettings::windowFile()).value(setting);
     const bool isOn = known.isValid() ? known.toBool() : isOnAtFirst;
     QAction* action = menu.addAction(text);
     action->setObjectName(setting);
+    action->setShortcut(QKeySequence(key));
     action->setCheckable(true);
     action->setChecked(isOn);
     set(isOn);

@@ -36,7 +36,8 @@ private:
     QAction* add(QMenu& menu, const QString& text, const QKeySequence& key);
     void addSide(QMenu& menu, const QString& text, const QKeySequence& key, const SbVec3f& side);
     template <class Set>
-    void addToggle(QMenu& menu, const QString& text, const QString& setting, bool isOnAtFirst, Set set);
+    void addToggle(QMenu& menu, const QString& text, const QString& setting, const char* key,
+                   bool isOnAtFirst, Set set);
     void keepView();
     void listCameras();
 

@@ -6,6 +6,7 @@
 #include "settings/UserSettings.h"
 #include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
+#include "viewport/ToneMappingNames.h"
 
 #include <QActionGroup>
 #include <QMenu>
@@ -26,6 +27,11 @@ QString hoverKey()
     return QStringLiteral("showHover");
 }
 
+QString toneMappingKey()
+{
+    return QStringLiteral("toneMapping");
+}
+
 bool remembered(const QString& key, bool atFirst)
 {
     return SettingsFile(UserSettings::windowFile()).value(key).isValid()
@@ -35,13 +41,14 @@ bool remembered(const QString& key, bool atFirst)
 
 // One entry for each choice, of which one is checked, named by its number.
 template <class Choice, std::size_t Count, class Act>
-void addChoices(QMenu& menu, const char* name, const std::pair<Choice, QString> (&entries)[Count],
-                Choice present, const Act& act)
+void addChoices(QMenu& menu, const char* name, int firstKey,
+                const std::pair<Choice, QString> (&entries)[Count], Choice present, const Act& act)
 {
     auto* group = new QActionGroup(&menu);
     for (const auto& [choice, text] : entries) {
         QAction* action = menu.addAction(text, group, [act, choice = choice] { act(choice); });
         action->setObjectName(QLatin1String(name) + QString::number(static_cast<int>(choice)));
+        action->setShortcut(QStringLiteral("Ctrl+J, %1").arg(firstKey++));
         action->setCheckable(true);
         action->setChecked(choice == present);
         group->addAction(action);
@@ -93,7 +100,7 @@ void ViewActs::makeShadingMenu(QMenu& menu)
                                                    {Shading::Normals, tr("&Normals")},
                                                    {Shading::TextureCoordinates, tr("&Texture Coordinates")},
                                                    {Shading::Overdraw, tr("&Overdraw")}};
-    addChoices(menu, "shading", entries, m_view.getShading(),
+    addChoices(menu, "shading", 1, entries, m_view.getShading(),
                [this](Shading shading) { m_view.setShading(shading); });
 }
 
@@ -104,20 +111,32 @@ void ViewActs::makeToneMappingMenu(QMenu& menu)
         {ToneMapping::None, tr("&None: What Is Brighter than White Is White")},
         {ToneMapping::Neutral, tr("Neu&tral: Bright Light Is Compressed, Colours Stay")},
         {ToneMapping::Filmic, tr("&Filmic: All Is Compressed, as on Film")}};
-    addChoices(menu, "toneMapping", entries, m_view.getToneMapping(),
-               [this](ToneMapping toneMapping) { m_view.setToneMapping(toneMapping); });
+    const QString kept = SettingsFile(UserSettings::windowFile()).value(toneMappingKey()).toString();
+    if (const auto before = toneMappingNamed(kept))
+        m_view.setToneMapping(*before);
+    addChoices(menu, "toneMapping", 6, entries, m_view.getToneMapping(), [this](ToneMapping toneMapping) {
+        m_view.setToneMapping(toneMapping);
+        remember(toneMappingKey(), nameOf(toneMapping));
+    });
+    // The command line may ask for another one.
+    connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
+        const auto present = static_cast<int>(m_view.getToneMapping());
+        menu.actions().at(present)->setChecked(true);
+    });
 }
 
 void ViewActs::makeShowMenu(QMenu& menu)
 {
     QAction* box = menu.addAction(tr("&Box with Sizes around the Selection"));
     box->setObjectName(QStringLiteral("sizeBoxAction"));
+    box->setShortcut(QStringLiteral("Ctrl+J, B"));
     box->setCheckable(true);
     connect(box, &QAction::toggled, &m_sizeBox, &SizeBoxTool::setOn);
     box->setChecked(remembered(sizeBoxKey(), false));
     connect(box, &QAction::triggered, this, [this](bool on) { remember(sizeBoxKey(), on); });
     QAction* hover = menu.addAction(tr("&What a Click Would Select"));
     hover->setObjectName(QStringLiteral("hoverAction"));
+    hover->setShortcut(QStringLiteral("Ctrl+J, H"));
     hover->setCheckable(true);
     connect(hover, &QAction::toggled, &m_select, &SelectTool::setHovering);
     hover->setChecked(remembered(hoverKey(), true));
@@ -125,6 +144,7 @@ void ViewActs::makeShowMenu(QMenu& menu)
     connect(hover, &QAction::triggered, this, [this](bool on) { remember(hoverKey(), on); });
     QAction* clip = menu.addAction(tr("&Clipping Plane"));
     clip->setObjectName(QStringLiteral("clipAction"));
+    clip->setShortcut(QStringLiteral("Ctrl+J, P"));
     clip->setCheckable(true);
     connect(clip, &QAction::toggled, m_clipBar, &ClipBar::setOpen);
     connect(m_clipBar, &ClipBar::closed, clip, [clip] { clip->setChecked(false); });
@@ -157,9 +177,9 @@ void ViewActs::clicked(const SoPath& toShape)
         m_select.click(toShape);
 }
 
-void ViewActs::remember(const QString& key, bool on)
+void ViewActs::remember(const QString& key, const QVariant& value)
 {
-    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, on);
+    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, value);
     if (!problem.isEmpty())
         m_notifier.error(problem);
 }

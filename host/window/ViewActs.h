@@ -37,7 +37,7 @@ private:
     void makeShowMenu(QMenu& menu);
     void makeMeasureAction(QMenu& menu, QWidget& tree);
     void clicked(const SoPath& toShape);
-    void remember(const QString& key, bool on);
+    void remember(const QString& key, const QVariant& value);
 
     SceneView& m_view;
     UserNotifier& m_notifier;

@@ -46,7 +46,9 @@ Welcome::Welcome(const Parts& parts, const QList<QAction*>& begin)
     , m_pageAction(new QAction(tr("&Start Page"), this))
 {
     m_tourAction->setObjectName(QStringLiteral("tourAction"));
+    m_tourAction->setShortcut(Qt::SHIFT + Qt::Key_F9);
     m_tourAction->setToolTip(tr("Five steps through this window"));
+    m_pageAction->setShortcut(Qt::Key_F9);
     m_pageAction->setObjectName(QStringLiteral("startPageAction"));
     for (QAction* act : begin)
         m_page->addAct(*act);
@@ -55,8 +57,8 @@ Welcome::Welcome(const Parts& parts, const QList<QAction*>& begin)
     connect(m_tourAction, &QAction::triggered, this, &Welcome::beginTour);
     connect(m_pageAction, &QAction::triggered, this, &Welcome::openPage);
     connect(m_page, &StartPage::chosen, &parts.files, &SceneFiles::openRecent);
-    connect(&parts.files.getDocument(), &SceneDocument::rootChanged, m_page, &QWidget::hide);
-    connect(&parts.files.getDocument(), &SceneDocument::stateChanged, this, &Welcome::pathChanged);
+    connect(&parts.files.getScenes(), &OpenScenes::rootChanged, m_page, &QWidget::hide);
+    connect(&parts.files.getScenes(), &OpenScenes::stateChanged, this, &Welcome::pathChanged);
     m_picture.setInterval(LookAgainMs);
     connect(&m_picture, &QTimer::timeout, this, &Welcome::takePicture);
 }
@@ -139,7 +141,7 @@ void Welcome::watchTour()
     });
     if (auto* tree = qobject_cast<SceneTreeView*>(&m_parts.tree))
         connect(tree, &SceneTreeView::nodeSelected, m_tour, [this] { m_tour->done(ToChoose); });
-    connect(&m_parts.files.getDocument(), &SceneDocument::edited, m_tour, [this] {
+    connect(&m_parts.files.getScenes(), &OpenScenes::edited, m_tour, [this] {
         if (m_parts.services.undoStack().canUndo())
             m_tour->done(ToTune);
     });

@@ -31,6 +31,11 @@ StructureResult Adapter::insert(NodeId, std::uint32_t, NodeId)
     return {false, 0, "The node cannot be inserted: this program lets nobody change its structure."};
 }
 
+StructureResult Adapter::copy(NodeId, std::uint32_t, NodeId)
+{
+    return {false, 0, "The node cannot be copied: this program does not offer that."};
+}
+
 void Adapter::forget(NodeId) {}
 
 PickResult Adapter::pick(double, double)
@@ -73,6 +78,11 @@ std::vector<CounterInfo> Adapter::counters()
 }
 
 std::vector<double> Adapter::counterValues()
+{
+    return {};
+}
+
+FrameTable Adapter::takeFrames()
 {
     return {};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -102,6 +103,17 @@ struct CounterInfo {
     std::string documentation;
 };
 
+/// What frames of the program cost, a row for each, oldest first. Columns are called as those of recordings
+/// are: Begin, Whole, Update, Traverse, Cull, Upload, Draw and Gpu are times in nanoseconds (Begin of
+/// CLOCK_MONOTONIC), Memory is in bytes, DrawCalls, Triangles and what else there is are counts.
+struct FrameTable {
+    /// What a frame does not tell.
+    static constexpr std::int64_t Missing = std::numeric_limits<std::int64_t>::min();
+
+    std::vector<std::string> columns;
+    std::vector<std::int64_t> values; // row by row
+};
+
 enum class NoticeLevel : std::uint8_t { Debug = 0, Info = 1, Warning = 2, Error = 3 };
 
 struct Notice {
@@ -152,6 +164,8 @@ public:
     /// Removes a child and keeps it alive, so that it can be inserted again, until `forget`.
     virtual StructureResult remove(NodeId parent, std::uint32_t index);
     virtual StructureResult insert(NodeId parent, std::uint32_t index, NodeId node);
+    /// A copy of the node, and of all that is below it, as another child of the parent.
+    virtual StructureResult copy(NodeId parent, std::uint32_t index, NodeId node);
     virtual void forget(NodeId node);
 
     /// From now on `takeChanges` tells of this one too; a later call for the same node replaces the earlier
@@ -178,6 +192,9 @@ public:
     virtual std::vector<CounterInfo> counters();
     /// In the order of `counters`.
     virtual std::vector<double> counterValues();
+    /// The frames that were finished since it was asked last, while an inspector looks at them; an adapter
+    /// may begin to record them when it is asked first.
+    virtual FrameTable takeFrames();
     virtual std::vector<Notice> takeNotices();
 
     /// The first inspector came, or the last one went: an adapter may begin or end to record what costs.

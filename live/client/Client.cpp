@@ -86,6 +86,10 @@ private:
         m_listener.countersCame(values);
     }
     void come(TypeConstant<MessageType::NoticeCame>, const Notice& notice) { m_listener.noticeCame(notice); }
+    void come(TypeConstant<MessageType::FramesCame>, const FrameTable& frames)
+    {
+        m_listener.framesCame(frames);
+    }
     void come(TypeConstant<MessageType::Goodbye>, const Text& reason) { end(reason); }
 
     ClientListener& m_listener;
@@ -94,6 +98,7 @@ private:
     Introduction m_introduction;
     std::deque<Pending> m_pending;
     std::uint32_t m_lastId = 0;
+    Stream::Clock::time_point m_lastAnswer;
 };
 
 std::string Client::Private::connect(const std::string& path)
@@ -137,7 +142,8 @@ double Client::Private::secondsWaiting() const noexcept
 {
     if (m_pending.empty())
         return 0;
-    return std::chrono::duration<double>(Stream::Clock::now() - m_pending.front().since).count();
+    const auto since = std::max(m_pending.front().since, m_lastAnswer);
+    return std::chrono::duration<double>(Stream::Clock::now() - since).count();
 }
 
 void Client::Private::send(Bytes message)
@@ -215,6 +221,7 @@ bool Client::Private::takeAnswer(const Message& message)
         return false;
     const Handler handler = std::move(m_pending.front().handler);
     m_pending.pop_front();
+    m_lastAnswer = Stream::Clock::now();
     return handler(message);
 }
 
@@ -366,6 +373,11 @@ void Client::insert(NodeId parent, std::uint32_t index, NodeId node, Answer<Stru
     m_private->ask<MessageType::Insert>(std::move(answer), parent, index, node);
 }
 
+void Client::copy(NodeId parent, std::uint32_t index, NodeId node, Answer<StructureResult> answer)
+{
+    m_private->ask<MessageType::Copy>(std::move(answer), parent, index, node);
+}
+
 void Client::forget(NodeId node)
 {
     m_private->tell<MessageType::Forget>(node);
@@ -420,6 +432,11 @@ void Client::find(const std::string& query, std::uint32_t limit,
 void Client::showCounters(bool shown)
 {
     m_private->tell<MessageType::ShowCounters>(shown);
+}
+
+void Client::showFrames(bool shown)
+{
+    m_private->tell<MessageType::ShowFrames>(shown);
 }
 
 void Client::showNotices(bool shown)

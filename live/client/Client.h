@@ -40,6 +40,7 @@ public:
     virtual void pictureCame(const Picture&) {}
     virtual void countersCame(const std::vector<double>&) {}
     virtual void noticeCame(const Notice&) {}
+    virtual void framesCame(const FrameTable&) {}
     /// The connection is over, by the other side or by an error; `reason` is a sentence. Nothing comes after
     /// it.
     virtual void ended(const std::string&) {}
@@ -74,8 +75,8 @@ public:
     bool wantsWrite() const noexcept;
     void process();
 
-    /// Seconds that the oldest question waits for its answer by now, 0 where none does: a program that draws
-    /// no frames, or is stopped, answers nothing.
+    /// Seconds for which the program has answered nothing although a question waits, 0 where none does: one
+    /// that draws no frames, or is stopped, answers nothing.
     double secondsWaiting() const noexcept;
 
     const Program& program() const noexcept;
@@ -99,6 +100,7 @@ public:
     void add(NodeId parent, std::uint32_t index, const std::string& type, Answer<StructureResult> answer);
     void remove(NodeId parent, std::uint32_t index, Answer<StructureResult> answer);
     void insert(NodeId parent, std::uint32_t index, NodeId node, Answer<StructureResult> answer);
+    void copy(NodeId parent, std::uint32_t index, NodeId node, Answer<StructureResult> answer);
     /// The program need not keep a removed node any longer. It forgets all that this client removed when that
     /// detaches.
     void forget(NodeId node);
@@ -117,6 +119,7 @@ public:
     void find(const std::string& query, std::uint32_t limit, Answer<std::vector<std::vector<NodeId>>> answer);
     void showCounters(bool shown);
     void showNotices(bool shown);
+    void showFrames(bool shown);
 
 private:
     class Private;

@@ -91,6 +91,12 @@ StructureResult OsgAdapter::insert(NodeId parent, std::uint32_t index, NodeId no
     return m_scene.insert(parent, index, node);
 }
 
+StructureResult OsgAdapter::copy(NodeId parent, std::uint32_t index, NodeId node)
+{
+    return m_scene.copy(parent, index, node,
+                        [this](osg::Node& from, osg::Node& to) { m_edits.copyValues(from, to); });
+}
+
 void OsgAdapter::forget(NodeId node)
 {
     m_objects.forget(node);
@@ -159,6 +165,11 @@ std::vector<CounterInfo> OsgAdapter::counters()
 std::vector<double> OsgAdapter::counterValues()
 {
     return m_counters.values();
+}
+
+FrameTable OsgAdapter::takeFrames()
+{
+    return m_counters.takeFrames();
 }
 
 std::vector<Notice> OsgAdapter::takeNotices()

@@ -37,6 +37,7 @@ public:
     StructureResult add(NodeId parent, std::uint32_t index, const std::string& type) override;
     StructureResult remove(NodeId parent, std::uint32_t index) override;
     StructureResult insert(NodeId parent, std::uint32_t index, NodeId node) override;
+    StructureResult copy(NodeId parent, std::uint32_t index, NodeId node) override;
     void forget(NodeId node) override;
 
     void watch(NodeId node, bool values) override;
@@ -54,6 +55,7 @@ public:
 
     std::vector<CounterInfo> counters() override;
     std::vector<double> counterValues() override;
+    FrameTable takeFrames() override;
     std::vector<Notice> takeNotices() override;
     void attached(bool isAttached) override;
 

@@ -2,6 +2,7 @@
 #include "OsgCounters.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace scopix::live
 {
@@ -48,6 +49,75 @@ double latest(const osg::Stats& stats, const char* attribute)
     return value;
 }
 
+constexpr unsigned Drawing = 3; // frames that threads may still be at, or that wait for the graphics card
+
+std::int64_t nanoseconds(double seconds)
+{
+    return std::int64_t(seconds * 1e9);
+}
+
+std::int64_t now()
+{
+    return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/// One frame of one viewer.
+class FrameRow
+{
+public:
+    FrameRow(osgViewer::ViewerBase& viewer, unsigned frame)
+        : m_viewer(viewer)
+        , m_frame(frame)
+    {
+        osgViewer::ViewerBase::Cameras cameras;
+        viewer.getCameras(cameras);
+        for (const osg::Camera* camera : cameras)
+            if (const osg::Stats* stats = camera->getStats())
+                m_cameras.push_back(stats);
+    }
+
+    bool isKnown() const { return ofViewer("Reference time") > 0; }
+    void appendTo(std::vector<std::int64_t>& values) const
+    {
+        const std::int64_t age = nanoseconds(m_viewer.elapsedTime() - ofViewer("Reference time"));
+        const std::int64_t update =
+            nanoseconds(ofViewer("Event traversal time taken") + ofViewer("Update traversal time taken"));
+        const std::int64_t cull = nanoseconds(ofCameras("Cull traversal time taken"));
+        const std::int64_t draw = nanoseconds(ofCameras("Draw traversal time taken"));
+        const double gpu = ofCameras("GPU draw time taken");
+        values.insert(values.end(), {now() - age, update + cull + draw, update, cull, draw,
+                                     gpu > 0 ? nanoseconds(gpu) : FrameTable::Missing,
+                                     std::int64_t(ofCameras("Visible number of drawables"))});
+    }
+    static std::vector<std::string> columns()
+    {
+        return {"Begin", "Whole", "Update", "Cull", "Draw", "Gpu", "DrawCalls"};
+    }
+
+private:
+    double attribute(const osg::Stats& stats, const char* name) const
+    {
+        double value = 0;
+        return stats.getAttribute(m_frame, name, value) ? value : 0;
+    }
+    double ofViewer(const char* name) const
+    {
+        const osg::Stats* stats = m_viewer.getViewerStats();
+        return stats ? attribute(*stats, name) : 0;
+    }
+    double ofCameras(const char* name) const
+    {
+        double sum = 0;
+        for (const osg::Stats* stats : m_cameras)
+            sum += attribute(*stats, name);
+        return sum;
+    }
+
+    osgViewer::ViewerBase& m_viewer;
+    unsigned m_frame;
+    std::vector<const osg::Stats*> m_cameras;
+};
+
 const char* const ofViewer[] = {"frame_rate", "event", "update"};
 const char* const ofCamera[] = {"rendering", "gpu", "scene"};
 
@@ -86,6 +156,25 @@ std::vector<double> OsgCounters::values()
     return values;
 }
 
+FrameTable OsgCounters::takeFrames()
+{
+    start();
+    FrameTable table;
+    const std::vector<osgViewer::ViewerBase*> viewers = m_viewers.viewers();
+    const osg::Stats* stats = viewers.empty() ? nullptr : viewers.front()->getViewerStats();
+    if (!stats || stats->getLatestFrameNumber() < Drawing)
+        return table;
+    const unsigned last = stats->getLatestFrameNumber() - Drawing;
+    const unsigned kept = stats->getEarliestFrameNumber();
+    const unsigned first = m_lastFrame == 0 || m_lastFrame > last ? last : std::max(m_lastFrame + 1, kept);
+    table.columns = FrameRow::columns();
+    for (unsigned frame = first; frame <= last; ++frame)
+        if (const FrameRow row(*viewers.front(), frame); row.isKnown())
+            row.appendTo(table.values);
+    m_lastFrame = last;
+    return table;
+}
+
 void OsgCounters::start()
 {
     for (osgViewer::ViewerBase* viewer : m_viewers.viewers())
@@ -113,6 +202,7 @@ void OsgCounters::stop()
     for (const Switched& switched : m_switched)
         switched.stats->collectStats(switched.name, false);
     m_switched.clear();
+    m_lastFrame = 0;
 }
 
 } // namespace scopix::live

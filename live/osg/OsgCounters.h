@@ -22,6 +22,9 @@ public:
 
     static std::vector<CounterInfo> counters();
     std::vector<double> values();
+    /// Of the viewer that has drawn first; those that a thread may still be drawing are left for the next
+    /// time.
+    FrameTable takeFrames();
     void stop();
 
 private:
@@ -35,6 +38,7 @@ private:
 
     OsgViewers& m_viewers;
     std::vector<Switched> m_switched;
+    unsigned m_lastFrame = 0; // that was taken
 };
 
 } // namespace scopix::live

@@ -154,6 +154,18 @@ OsgEdits::Objects OsgEdits::touchedBy(NodeId id) const
     return all;
 }
 
+void OsgEdits::copyValues(osg::Object& from, osg::Object& to)
+{
+    for (const auto& property : m_classes.propertiesOf(from)) {
+        const PropertyInfo info = property->info(from);
+        if (!info.writable || info.kind == ValueKind::Object)
+            continue;
+        const std::optional<Value> value = property->read(from, m_objects);
+        if (value && property->read(to, m_objects) != value)
+            property->write(to, *value, m_objects);
+    }
+}
+
 WriteResult OsgEdits::write(NodeId id, const std::string& name, const Value& value)
 {
     const osg::ref_ptr<osg::Object> object = m_objects.find(id);

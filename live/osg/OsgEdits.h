@@ -17,6 +17,8 @@ class OsgEdits
 public:
     OsgEdits(OsgObjects& objects, OsgClasses& classes, OsgViewers& viewers);
 
+    /// What the copying of a class forgets.
+    void copyValues(osg::Object& from, osg::Object& to);
     WriteResult write(NodeId id, const std::string& property, const Value& value);
 
 private:

@@ -98,6 +98,47 @@ StructureResult refused(const std::string& why)
     return {false, 0, why};
 }
 
+constexpr int MostCopied = 100'000;
+
+/// What a copy would hold: nodes that are shared count as often as they would be copied. Stops at the most.
+int countCopied(osg::Node& node)
+{
+    int count = 1;
+    auto* group = node.asGroup();
+    for (unsigned i = 0; group && i < group->getNumChildren() && count <= MostCopied; ++i)
+        count += countCopied(*group->getChild(i));
+    return count;
+}
+
+/// The first node that came as another type, since its class does not say how it is copied.
+const osg::Node* findUnlike(const osg::Node& node, const osg::Node& copy)
+{
+    const osg::Group* group = node.asGroup();
+    const osg::Group* copied = copy.asGroup();
+    const unsigned count = group ? group->getNumChildren() : 0;
+    if (node.getCompoundClassName() != copy.getCompoundClassName() ||
+        count != (copied ? copied->getNumChildren() : 0))
+        return &node;
+    for (unsigned i = 0; i < count; ++i)
+        if (const osg::Node* found = findUnlike(*group->getChild(i), *copied->getChild(i)))
+            return found;
+    return nullptr;
+}
+
+void forEachPair(osg::Node& node, osg::Node& copy, const OsgScene::Finish& act)
+{
+    act(node, copy);
+    osg::Group* group = node.asGroup();
+    for (unsigned i = 0; group && i < group->getNumChildren(); ++i)
+        forEachPair(*group->getChild(i), *copy.asGroup()->getChild(i), act);
+}
+
+/// Values are the copy's own; pictures and textures stay shared, as do callbacks, which are the program's.
+const osg::CopyOp Copying(osg::CopyOp::DEEP_COPY_NODES | osg::CopyOp::DEEP_COPY_DRAWABLES |
+                          osg::CopyOp::DEEP_COPY_STATESETS | osg::CopyOp::DEEP_COPY_STATEATTRIBUTES |
+                          osg::CopyOp::DEEP_COPY_ARRAYS | osg::CopyOp::DEEP_COPY_PRIMITIVES |
+                          osg::CopyOp::DEEP_COPY_SHAPES | osg::CopyOp::DEEP_COPY_UNIFORMS);
+
 /// Whether a sequence would go on to show a child that is no more.
 bool wouldLackShown(const osg::Group& group)
 {
@@ -241,7 +282,6 @@ StructureResult OsgScene::add(NodeId parent, std::uint32_t index, const std::str
     const osg::ref_ptr<osg::Node> node = makeNode(type);
     if (!node)
         return refused("No node of type “" + type + "” can be added.");
-    m_objects.keep(node);
     return insertNode(*group, index, *node, nullptr);
 }
 
@@ -281,6 +321,29 @@ StructureResult OsgScene::insert(NodeId parent, std::uint32_t index, NodeId id)
         return refused("A node can only be inserted into a group, and both have to exist.");
     const auto state = m_removed.find({parent, id});
     return insertNode(*group, index, *node, state == m_removed.end() ? nullptr : &state->second);
+}
+
+StructureResult OsgScene::copy(NodeId parent, std::uint32_t index, NodeId id, const Finish& finish)
+{
+    const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
+    const osg::ref_ptr<osg::Node> node = m_objects.findAs<osg::Node>(id);
+    if (!group || !node)
+        return refused("A node can only be copied into a group, and both have to exist.");
+    const std::vector<osg::Camera*> cameras = m_viewers.cameras();
+    if (std::find(cameras.begin(), cameras.end(), node.get()) != cameras.end())
+        return refused("The camera of a view cannot be copied.");
+    if (countCopied(*node) > MostCopied)
+        return refused("The node cannot be copied, since more than " + std::to_string(MostCopied) +
+                       " nodes are below it.");
+    if (!m_viewers.waitForDrawing())
+        return notDrawn();
+    const osg::ref_ptr<osg::Node> made = osg::clone(node.get(), Copying);
+    const osg::Node* unlike = made ? findUnlike(*node, *made) : node.get();
+    if (unlike)
+        return refused("The node cannot be copied, since the program does not say how objects of type “" +
+                       std::string(unlike->getCompoundClassName()) + "” are copied.");
+    forEachPair(*node, *made, finish);
+    return insertNode(*group, index, *made, nullptr);
 }
 
 /// What a group keeps for each child. Some groups forget to make room there when a child is inserted.

@@ -6,6 +6,7 @@
 
 #include <osg/Group>
 
+#include <functional>
 #include <map>
 
 namespace scopix::live
@@ -28,6 +29,9 @@ public:
     StructureResult add(NodeId parent, std::uint32_t index, const std::string& type);
     StructureResult remove(NodeId parent, std::uint32_t index);
     StructureResult insert(NodeId parent, std::uint32_t index, NodeId node);
+    /// `finish` is called for each node and its copy, before that is drawn.
+    using Finish = std::function<void(osg::Node& node, osg::Node& copy)>;
+    StructureResult copy(NodeId parent, std::uint32_t index, NodeId node, const Finish& finish);
 
     std::vector<osg::Node*> childrenOf(osg::Object& object) const;
 

@@ -83,6 +83,13 @@ void describe(Archive& a, CounterInfo& v)
 }
 
 template <class Archive>
+void describe(Archive& a, FrameTable& v)
+{
+    a(v.columns, v.values);
+    a.require(v.columns.empty() ? v.values.empty() : v.values.size() % v.columns.size() == 0);
+}
+
+template <class Archive>
 void describe(Archive& a, Notice& v)
 {
     a(v.level, v.text);

@@ -7,7 +7,7 @@
 namespace scopix::live
 {
 
-constexpr std::uint32_t ProtocolVersion = 1;
+constexpr std::uint32_t ProtocolVersion = 2;
 
 /// No message is longer, in bytes without its head.
 constexpr std::size_t LongestMessage = std::size_t(64) << 20;
@@ -41,6 +41,7 @@ enum class MessageType : std::uint16_t {
     LookFrom = 29,
     GetCamera = 30,
     Find = 31,
+    Copy = 32,
 
     // Requests of the inspector, without an answer
     Forget = 64,
@@ -51,6 +52,7 @@ enum class MessageType : std::uint16_t {
     Mark = 69,
     ShowCounters = 70,
     ShowNotices = 71,
+    ShowFrames = 72,
 
     // What the program says by itself
     RootsChanged = 128,
@@ -60,6 +62,7 @@ enum class MessageType : std::uint16_t {
     PictureCame = 132, // its pixels are in the memory that comes with it
     CountersCame = 133,
     NoticeCame = 134,
+    FramesCame = 135,
 };
 
 /// A message as it travels. `id` is the number of a question, which its answer repeats; 0 for all that is
@@ -110,6 +113,7 @@ template <> struct Contents<MessageType::Box> : Asks<std::optional<Value>, NodeI
 template <> struct Contents<MessageType::LookFrom> : Asks<bool, Camera> {};
 template <> struct Contents<MessageType::GetCamera> : Asks<std::optional<Camera>> {};
 template <> struct Contents<MessageType::Find> : Asks<std::vector<Ids>, Text, Number> {};
+template <> struct Contents<MessageType::Copy> : Asks<StructureResult, NodeId, Number, NodeId> {};
 
 template <> struct Contents<MessageType::Forget> : Carries<NodeId> {};
 template <> struct Contents<MessageType::Watch> : Carries<NodeId, bool> {};
@@ -119,6 +123,7 @@ template <> struct Contents<MessageType::PictureTaken> : Carries<> {};
 template <> struct Contents<MessageType::Mark> : Carries<NodeId> {};
 template <> struct Contents<MessageType::ShowCounters> : Carries<bool> {};
 template <> struct Contents<MessageType::ShowNotices> : Carries<bool> {};
+template <> struct Contents<MessageType::ShowFrames> : Carries<bool> {};
 
 template <> struct Contents<MessageType::RootsChanged> : Carries<> {};
 template <> struct Contents<MessageType::ChildrenChanged> : Carries<NodeId> {};
@@ -127,6 +132,7 @@ template <> struct Contents<MessageType::ValueChanged> : Carries<NodeId, Text, V
 template <> struct Contents<MessageType::PictureCame> : Carries<Number, Number> {};
 template <> struct Contents<MessageType::CountersCame> : Carries<std::vector<double>> {};
 template <> struct Contents<MessageType::NoticeCame> : Carries<Notice> {};
+template <> struct Contents<MessageType::FramesCame> : Carries<FrameTable> {};
 // clang-format on
 
 template <MessageType type>
@@ -152,13 +158,14 @@ using Questions =
     MessageList<MessageType::Roots, MessageType::Node, MessageType::Children, MessageType::PathsTo,
                 MessageType::Properties, MessageType::GetValue, MessageType::Write, MessageType::AddableTypes,
                 MessageType::Add, MessageType::Remove, MessageType::Insert, MessageType::Pick,
-                MessageType::Box, MessageType::LookFrom, MessageType::GetCamera, MessageType::Find>;
+                MessageType::Box, MessageType::LookFrom, MessageType::GetCamera, MessageType::Find,
+                MessageType::Copy>;
 using Requests = MessageList<MessageType::Forget, MessageType::Watch, MessageType::Unwatch,
                              MessageType::ShowPictures, MessageType::PictureTaken, MessageType::Mark,
-                             MessageType::ShowCounters, MessageType::ShowNotices>;
+                             MessageType::ShowCounters, MessageType::ShowNotices, MessageType::ShowFrames>;
 using Events = MessageList<MessageType::RootsChanged, MessageType::ChildrenChanged, MessageType::NodeEnded,
                            MessageType::ValueChanged, MessageType::PictureCame, MessageType::CountersCame,
-                           MessageType::NoticeCame, MessageType::Goodbye>;
+                           MessageType::NoticeCame, MessageType::FramesCame, MessageType::Goodbye>;
 
 /// What a message says, none where it is damaged. Values in it are well-formed.
 template <class T>

@@ -172,6 +172,11 @@ StructureResult Attachment::ask(TypeConstant<MessageType::Insert>, NodeId parent
     return noted(m_adapter.insert(parent, index, node), parent);
 }
 
+StructureResult Attachment::ask(TypeConstant<MessageType::Copy>, NodeId parent, Number index, NodeId node)
+{
+    return noted(m_adapter.copy(parent, index, node), parent);
+}
+
 StructureResult Attachment::noted(StructureResult result, NodeId parent)
 {
     if (result.done)
@@ -256,6 +261,11 @@ void Attachment::act(TypeConstant<MessageType::ShowCounters>, bool shown)
 void Attachment::act(TypeConstant<MessageType::ShowNotices>, bool shown)
 {
     m_showsNotices = shown;
+}
+
+void Attachment::act(TypeConstant<MessageType::ShowFrames>, bool shown)
+{
+    m_showsFrames = shown;
 }
 
 std::optional<Value> Attachment::wholeValue(std::optional<Value> value, const std::string& property)
@@ -346,6 +356,11 @@ void Attachment::sendPicture(const Picture& picture)
 void Attachment::sendCounters(const std::vector<double>& values)
 {
     send(MessageType::CountersCame, 0, values);
+}
+
+void Attachment::sendFrames(const FrameTable& frames)
+{
+    send(MessageType::FramesCame, 0, frames);
 }
 
 void Attachment::sendNotice(const Notice& notice)

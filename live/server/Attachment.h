@@ -43,6 +43,8 @@ public:
 
     bool wantsCounters() const { return m_showsCounters && m_peer->isIdle(); }
     void sendCounters(const std::vector<double>& values);
+    bool wantsFrames() const { return m_showsFrames && m_peer->isIdle(); }
+    void sendFrames(const FrameTable& frames);
     void sendNotice(const Notice& notice);
 
 private:
@@ -72,6 +74,7 @@ private:
     StructureResult ask(TypeConstant<MessageType::Add>, NodeId parent, Number index, const Text& type);
     StructureResult ask(TypeConstant<MessageType::Remove>, NodeId parent, Number index);
     StructureResult ask(TypeConstant<MessageType::Insert>, NodeId parent, Number index, NodeId node);
+    StructureResult ask(TypeConstant<MessageType::Copy>, NodeId parent, Number index, NodeId node);
     PickResult ask(TypeConstant<MessageType::Pick>, double x, double y);
     std::optional<Value> ask(TypeConstant<MessageType::Box>, NodeId node);
     bool ask(TypeConstant<MessageType::LookFrom>, const Camera& camera);
@@ -86,6 +89,7 @@ private:
     void act(TypeConstant<MessageType::Mark>, NodeId node);
     void act(TypeConstant<MessageType::ShowCounters>, bool shown);
     void act(TypeConstant<MessageType::ShowNotices>, bool shown);
+    void act(TypeConstant<MessageType::ShowFrames>, bool shown);
 
     StructureResult noted(StructureResult result, NodeId parent);
     std::optional<Value> wholeValue(std::optional<Value> value, const std::string& property);
@@ -114,6 +118,7 @@ private:
     bool m_hasPicture = false; // that it has not taken yet
     bool m_showsCounters = false;
     bool m_showsNotices = false;
+    bool m_showsFrames = false;
 };
 
 } // namespace scopix::live

@@ -88,6 +88,7 @@ private:
     void takeChanges();
     bool tell(Clock::time_point end);
     void tellCounters();
+    void tellFrames();
     void tellNotices();
     void carryPictures(Clock::time_point now);
     void askPicture(Clock::time_point now);
@@ -119,8 +120,10 @@ void Server::Private::work()
         tellNotices();
     }
     isLeft |= tell(end);
-    if (m_countersBeat.isDue(now))
+    if (m_countersBeat.isDue(now)) {
         tellCounters();
+        tellFrames();
+    }
     carryPictures(now);
     if (isLeft)
         m_connections.wakeProgram();
@@ -208,6 +211,20 @@ void Server::Private::tellCounters()
     for (Attachment& attachment : m_attachments)
         if (wants(attachment))
             attachment.sendCounters(values);
+}
+
+void Server::Private::tellFrames()
+{
+    const auto wants = [](const Attachment& attachment) { return attachment.wantsFrames(); };
+    if (std::none_of(m_attachments.begin(), m_attachments.end(), wants))
+        return;
+    FrameTable frames;
+    guarded([&] { frames = m_adapter.takeFrames(); });
+    if (frames.values.empty() || frames.columns.empty() || frames.values.size() % frames.columns.size() != 0)
+        return;
+    for (Attachment& attachment : m_attachments)
+        if (wants(attachment))
+            attachment.sendFrames(frames);
 }
 
 void Server::Private::tellNotices()

@@ -11,6 +11,9 @@
 #include <xsg/actions/SoRayPickAction.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/counters/SoPerfCounterManager.h>
+#include <xsg/files/BranchCopy.h>
+#include <xsg/frames/SoFrameLog.h>
+#include <xsg/nodes/base/SoUnknownNode.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoGroup.h>
@@ -37,7 +40,8 @@ using Clock = std::chrono::steady_clock;
 constexpr auto TimeToFind = 100ms;
 constexpr auto TimeToMeasure = 20ms;
 constexpr int NodesAtOnce = 10000;
-constexpr int MostNodesAbove = 100000; // looked at for paths to a node
+constexpr std::uint64_t MostFrames = 256; // told at once
+constexpr int MostNodesAbove = 100000;    // looked at for paths to a node
 
 NodeInfo infoOf(SoNode& node)
 {
@@ -121,6 +125,7 @@ public:
                   std::vector<std::vector<NodeId>>& paths);
     std::optional<Picture> drawOwn(std::uint32_t width, std::uint32_t height);
     StructureResult put(SoGroup& parent, std::uint32_t index, SoNode& node);
+    FrameTable takeFrames();
 
     std::vector<SoRef<SoNode>> roots;
     SoRef<SoCamera> setCamera;
@@ -147,6 +152,8 @@ private:
 
     std::unordered_map<NodeId, SoNode*> m_known; // what inspectors have heard of and still lives
     bool m_isAttached = false;
+    bool m_takesFrames = false;
+    std::uint64_t m_lastFrame = 0; // that was taken
 };
 
 void XsgAdapter::Private::setAttached(bool isAttached)
@@ -165,6 +172,8 @@ void XsgAdapter::Private::setAttached(bool isAttached)
     watches.clear();
     ended.clear();
     m_known.clear();
+    if (std::exchange(m_takesFrames, false))
+        SoFrameLog::getInstance().removeUser();
     offscreen.reset();
     kept.clear();
 }
@@ -240,6 +249,30 @@ std::optional<Picture> XsgAdapter::Private::drawOwn(std::uint32_t width, std::ui
         return std::nullopt;
     return Picture{static_cast<std::uint32_t>(pixels.width), static_cast<std::uint32_t>(pixels.height),
                    std::move(pixels.rgba)};
+}
+
+// Those of the renderer that it was told of.
+FrameTable XsgAdapter::Private::takeFrames()
+{
+    FrameTable table;
+    SoFrameLog& log = SoFrameLog::getInstance();
+    if (!renderer)
+        return table;
+    renderer->setFrameLog(&log);
+    if (!std::exchange(m_takesFrames, true)) {
+        log.addUser();
+        m_lastFrame = log.getLast();
+    }
+    for (int figure = 0; figure < SoFrame::NumFigures; ++figure)
+        table.columns.emplace_back(SoFrame::getName(static_cast<SoFrame::Figure>(figure)));
+    const std::uint64_t last = log.getLast();
+    const std::uint64_t first = last > MostFrames ? last - MostFrames : 0;
+    SoFrame frame;
+    for (std::uint64_t number = std::max(m_lastFrame, first) + 1; number <= last; ++number)
+        if (log.get(number, frame))
+            table.values.insert(table.values.end(), frame.figures.begin(), frame.figures.end());
+    m_lastFrame = last;
+    return table;
 }
 
 StructureResult XsgAdapter::Private::put(SoGroup& parent, std::uint32_t index, SoNode& node)
@@ -370,7 +403,7 @@ std::vector<std::string> XsgAdapter::addableTypes(NodeId parent)
     std::vector<std::string> names;
     if (m_private->findGroup(parent))
         for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId()))
-            if (type.canCreateInstance())
+            if (type.canCreateInstance() && !type.isDerivedFrom(SoUnknownNode::getClassTypeId()))
                 names.push_back(utf8Of(type.getName()));
     std::sort(names.begin(), names.end());
     return names;
@@ -409,6 +442,18 @@ StructureResult XsgAdapter::insert(NodeId parent, std::uint32_t index, NodeId id
     if (!group || !node)
         return refused("The node cannot be inserted, since it or its group is no more.");
     return m_private->put(*group, index, *node);
+}
+
+StructureResult XsgAdapter::copy(NodeId parent, std::uint32_t index, NodeId id)
+{
+    SoGroup* group = m_private->findGroup(parent);
+    SoNode* node = m_private->find(id);
+    if (!group || !node)
+        return refused("The node cannot be copied, since it or its group is no more.");
+    const SoRef<SoNode> made = xsg::copyBranch(node);
+    if (!made)
+        return refused("The node cannot be copied, since something in it is of a kind that cannot be.");
+    return m_private->put(*group, index, *made);
 }
 
 void XsgAdapter::forget(NodeId node)
@@ -582,6 +627,11 @@ std::vector<double> XsgAdapter::counterValues()
     for (const SoPerfCounter* counter : m_private->counters)
         values.push_back(counter->getValue());
     return values;
+}
+
+FrameTable XsgAdapter::takeFrames()
+{
+    return m_private->takeFrames();
 }
 
 std::vector<Notice> XsgAdapter::takeNotices()

@@ -3,6 +3,7 @@
 
 #include <scopix/SpxShell.h>
 
+#include <QCoreApplication>
 #include <QDockWidget>
 
 namespace profiler
@@ -20,7 +21,7 @@ PanelDock::~PanelDock() = default;
 
 void PanelDock::load()
 {
-    m_dock = new QDockWidget(QString::fromLatin1(getName().getString()));
+    m_dock = new QDockWidget(QCoreApplication::translate("Extension", getName().getString()));
     m_panel = makePanel();
     m_panel->setProperty("editsNothing", true);
     m_dock->setWidget(m_panel);

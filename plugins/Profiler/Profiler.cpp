@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Profiler.h"
 
+#include "console/LogDock.h"
 #include "cost/CostDock.h"
 #include "frames/FramesDock.h"
 
@@ -22,12 +23,13 @@ Profiler::Profiler()
 {
     setName("Profiler");
     setVendor("Arvex");
-    setDescription("Shows what frames and branches cost.");
+    setDescription("Shows what frames and branches cost, and what is said.");
     setVersion("1.0.0");
 }
 
 bool Profiler::load()
 {
+    m_owned.push_back(std::make_unique<LogDock>());
     m_owned.push_back(std::make_unique<FramesDock>());
     m_owned.push_back(std::make_unique<CostDock>());
     for (const auto& extension : m_owned)

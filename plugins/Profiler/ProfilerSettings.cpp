@@ -27,6 +27,10 @@ QString key(const char* name)
 constexpr const char* Budget = "budget";
 constexpr const char* BarWidth = "barWidth";
 constexpr const char* Curves = "curves";
+constexpr const char* CostAreas = "costAreas";
+constexpr const char* CostColumn = "costColumn";
+constexpr const char* CostUpwards = "costUpwards";
+constexpr int TimeColumn = 1;
 constexpr int MostCurves = 20;
 
 } // namespace
@@ -59,6 +63,33 @@ QStringList ProfilerSettings::curves()
 void ProfilerSettings::setCurves(const QStringList& formulas)
 {
     settings().setValue(key(Curves), formulas);
+}
+
+int ProfilerSettings::costAreas()
+{
+    return settings().value(key(CostAreas), 0).toInt();
+}
+
+void ProfilerSettings::setCostAreas(int figure)
+{
+    settings().setValue(key(CostAreas), figure);
+}
+
+int ProfilerSettings::costColumn()
+{
+    return settings().value(key(CostColumn), TimeColumn).toInt();
+}
+
+Qt::SortOrder ProfilerSettings::costOrder()
+{
+    return settings().value(key(CostUpwards), false).toBool() ? Qt::AscendingOrder : Qt::DescendingOrder;
+}
+
+void ProfilerSettings::setCostOrder(int column, Qt::SortOrder order)
+{
+    QSettings all = settings();
+    all.setValue(key(CostColumn), column);
+    all.setValue(key(CostUpwards), order == Qt::AscendingOrder);
 }
 
 } // namespace profiler

@@ -14,6 +14,11 @@ struct ProfilerSettings {
     static void setBarWidth(int pixels);
     static QStringList curves(); // formulas
     static void setCurves(const QStringList& formulas);
+    static int costAreas(); // what the areas tell
+    static void setCostAreas(int figure);
+    static int costColumn(); // that branches are sorted by
+    static Qt::SortOrder costOrder();
+    static void setCostOrder(int column, Qt::SortOrder order);
 };
 
 } // namespace profiler

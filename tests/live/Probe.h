@@ -78,6 +78,7 @@ public:
     void pictureCame(const scopix::live::Picture& picture) override { pictures.push_back(picture); }
     void countersCame(const std::vector<double>& numbers) override { counters.push_back(numbers); }
     void noticeCame(const scopix::live::Notice& notice) override { notices.push_back(notice); }
+    void framesCame(const scopix::live::FrameTable& table) override { frames.push_back(table); }
     void ended(const std::string& reason) override { end = reason; }
 
 private:
@@ -93,6 +94,7 @@ public:
     std::vector<scopix::live::Picture> pictures;
     std::vector<std::vector<double>> counters;
     std::vector<scopix::live::Notice> notices;
+    std::vector<scopix::live::FrameTable> frames;
     std::string end;
 };
 

@@ -164,6 +164,21 @@ TEST_F(Xsg, PassesOnWhatTheSceneGraphPostsAndLeavesItToTheProgramToo)
     adapter.attached(true);
 }
 
+TEST_F(Xsg, CopiesNodesWithTheirValues)
+{
+    SoRef<SoCube> cube(new SoCube);
+    cube->width.setValue(7);
+    const NodeId id = know(cube.get());
+    const StructureResult copied = adapter.copy(root->getNodeId(), 1, id);
+    ASSERT_TRUE(copied.done) << copied.refusal;
+    const auto* copy = dynamic_cast<const SoCube*>(root->getChild(1));
+    ASSERT_TRUE(copy);
+    EXPECT_NE(copy, cube.get());
+    EXPECT_EQ(copy->getNodeId(), copied.node);
+    EXPECT_EQ(copy->width.getValue(), 7);
+    EXPECT_FALSE(adapter.copy(root->getNodeId(), 0, 123456789).done);
+}
+
 TEST_F(Xsg, KeepsNothingAliveOnceNobodyIsAttached)
 {
     SoRef<SoCube> cube(new SoCube);

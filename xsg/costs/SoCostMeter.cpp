@@ -14,23 +14,33 @@ constexpr std::size_t MostChildren = 32;
 constexpr int MostHidden = 32;
 constexpr std::int64_t FewTriangles = 200; // not worth hiding
 
+SoCosts countShown(SoNode* root, const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden)
+{
+    SoHiding hiding;
+    for (const SoNode* node : hidden)
+        hiding.setHidden(node, true);
+    return countCosts(root, reader, &hiding);
+}
+
+// In milliseconds, of what is known.
+SoFrameSummary summaryOf(const std::vector<SoFrame>& frames, SoFrame::Figure figure)
+{
+    std::vector<double> times;
+    for (const SoFrame& frame : frames) {
+        if (frame[figure] != SoFrame::Unknown)
+            times.push_back(static_cast<double>(frame[figure]) * 1e-6);
+    }
+    return SoFrameSummary::of(std::move(times));
+}
+
 } // namespace
 
 SoCostMeter::SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
-                         const SoFittingImageReader& reader)
+                         const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden)
     : m_root(root)
-    , m_camera(const_cast<SoCamera*>(camera))
-    , m_width(width)
-    , m_height(height)
-    , m_costs(countCosts(root, reader))
+    , m_pictures(root, camera, width, height, reader, hidden)
+    , m_costs(countShown(root, reader, hidden))
 {
-    m_log.addUser();
-    m_log.setTimesEach(true);
-    m_renderer.setSamples(1);
-    m_renderer.getRenderer().setFrameLog(&m_log);
-    m_renderer.getRenderer().setHiding(&m_hiding);
-    if (reader)
-        m_renderer.getRenderer().setFittingImageReader(reader);
     m_numAsked = 2;
 }
 
@@ -43,53 +53,34 @@ bool SoCostMeter::step()
 {
     if (m_stage == Stage::Done || m_costs.branches.empty())
         return false;
-    if (!draw()) {
+    const bool isLast = m_pictures.getNumDrawn() == Pictures + 1;
+    if (!m_pictures.draw(isLast)) {
         m_stage = Stage::Done;
         return false;
     }
-    const bool isOnePicture = m_stage == Stage::Unseen;
-    // One more, for the answers of the graphics card to the others.
-    if (isOnePicture || ++m_drawn >= Pictures + 2)
+    if (isLast || m_stage == Stage::Unseen)
         finishOne();
     return m_stage != Stage::Done;
-}
-
-bool SoCostMeter::draw()
-{
-    if (!m_renderer.render(m_root.get(), m_camera.get(), m_width, m_height, m_pixels))
-        return false;
-    m_frames.push_back(m_log.getLast());
-    return true;
 }
 
 void SoCostMeter::finishOne()
 {
     ++m_numDone;
+    const std::vector<unsigned char>& picture = m_pictures.getPixels().rgba;
     if (m_stage == Stage::Unseen)
-        m_costs.branches[static_cast<std::size_t>(m_branch)].isUnseen = m_pixels.rgba == m_whole;
+        m_costs.branches[static_cast<std::size_t>(m_branch)].isUnseen = picture == m_whole;
     else
         finishPart();
     if (m_stage == Stage::Whole)
-        m_whole = m_pixels.rgba;
-    m_frames.clear();
-    m_drawn = 0;
+        m_whole = picture;
     next();
 }
 
 void SoCostMeter::finishPart()
 {
-    std::vector<double> processor;
-    std::vector<double> graphics;
-    SoFrame frame;
-    for (std::size_t i = 1; i + 1 < m_frames.size(); ++i) {
-        if (!m_log.get(m_frames[i], frame))
-            continue;
-        processor.push_back(static_cast<double>(frame[SoFrame::Whole]) * 1e-6);
-        if (frame[SoFrame::Gpu] != SoFrame::Unknown)
-            graphics.push_back(static_cast<double>(frame[SoFrame::Gpu]) * 1e-6);
-    }
-    const SoFrameSummary byProcessor = SoFrameSummary::of(processor);
-    const SoFrameSummary byGraphics = SoFrameSummary::of(graphics);
+    const std::vector<SoFrame> frames = m_pictures.getFrames();
+    const SoFrameSummary byProcessor = summaryOf(frames, SoFrame::Whole);
+    const SoFrameSummary byGraphics = summaryOf(frames, SoFrame::Gpu);
     if (m_stage == Stage::Empty) {
         m_emptyProcessor = byProcessor.median;
         m_emptyGraphics = byGraphics.median;
@@ -99,9 +90,10 @@ void SoCostMeter::finishPart()
     SoBranchCost& branch = m_costs.branches[static_cast<std::size_t>(m_branch)];
     branch.isMeasured = true;
     branch.processor = byProcessor.median - m_emptyProcessor;
-    branch.graphics = graphics.empty() ? -1 : byGraphics.median - m_emptyGraphics;
+    branch.graphics = byGraphics.median > 0 ? byGraphics.median - m_emptyGraphics : -1;
     branch.spread = std::max(byProcessor.spread, byGraphics.spread);
-    branch.drawCalls = frame[SoFrame::DrawCalls];
+    branch.drawCalls = frames.empty() ? 0 : frames.back()[SoFrame::DrawCalls];
+    branch.pixels = m_pictures.getNumPixels();
 }
 
 void SoCostMeter::next()
@@ -109,13 +101,12 @@ void SoCostMeter::next()
     SoBranchCost& root = m_costs.branches.front();
     if (m_stage == Stage::Whole) {
         m_stage = Stage::Empty;
-        m_hiding.setHidden(m_root.get(), true);
+        m_pictures.hide(m_root.get());
         return;
     }
     if (m_stage == Stage::Empty) { // the whole was measured without knowing what is empty
         root.processor = std::max(0.0, root.processor - m_emptyProcessor);
         root.graphics = root.graphics < 0 ? -1 : std::max(0.0, root.graphics - m_emptyGraphics);
-        m_hiding.clear();
         m_stage = Stage::Parts;
         addParts(0);
     } else if (m_stage == Stage::Parts) {
@@ -134,8 +125,6 @@ void SoCostMeter::next()
 // Takes the next branch up, alone or left out of the whole.
 void SoCostMeter::show()
 {
-    m_hiding.clear();
-    m_hiding.isolate({});
     if (m_waiting.empty()) {
         m_stage = Stage::Done;
         return;
@@ -144,9 +133,9 @@ void SoCostMeter::show()
     m_waiting.pop_front();
     const SoNode* node = m_costs.branches[static_cast<std::size_t>(m_branch)].node.get();
     if (m_stage == Stage::Unseen)
-        m_hiding.setHidden(node, true);
+        m_pictures.hide(node);
     else
-        m_hiding.isolate({node});
+        m_pictures.isolate(node);
 }
 
 // The heaviest of the branch's children that draw something.

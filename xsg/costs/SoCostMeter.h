@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <xsg/actions/SoHiding.h>
+#include <xsg/costs/SoCostPictures.h>
 #include <xsg/costs/SoCosts.h>
-#include <xsg/frames/SoFrameLog.h>
-#include <xsg/nodes/cameras/SoCamera.h>
-#include <xsg/render/SoOffscreenRenderer.h>
 
 #include <deque>
 
@@ -22,14 +19,14 @@
 class XSG_API SoCostMeter
 {
 public:
-    /// As for SoRenderer::render(). The scene is counted at once.
+    /// As for SoCostPictures. The scene is counted at once.
     SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
-                const SoFittingImageReader& reader = {});
+                const SoFittingImageReader& reader = {}, const std::vector<const SoNode*>& hidden = {});
 
     /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
     bool step();
     const SoCosts& getCosts() const { return m_costs; }
-    const std::string& getErrorText() const { return m_renderer.getErrorText(); }
+    const std::string& getErrorText() const { return m_pictures.getErrorText(); }
     /// From 0 to 1, roughly.
     double getProgress() const;
 
@@ -38,7 +35,6 @@ public:
 
 private:
     enum class Stage { Whole, Empty, Parts, Unseen, Done };
-    bool draw();
     void finishOne();
     void finishPart();
     void next();
@@ -48,22 +44,14 @@ private:
     void show();
 
     SoRef<SoNode> m_root;
-    SoRef<SoCamera> m_camera;
-    int m_width;
-    int m_height;
-    SoHiding m_hiding;
-    SoFrameLog m_log;
-    SoOffscreenRenderer m_renderer;
-    SoPixels m_pixels;
+    SoCostPictures m_pictures;
     std::vector<unsigned char> m_whole; // the picture of all
     SoCosts m_costs;
     Stage m_stage = Stage::Whole;
     std::deque<int> m_waiting; // branches
     int m_branch = 0;          // that is drawn
-    int m_drawn = 0;           // pictures of it
     int m_numAsked = 0;
     int m_numDone = 0;
-    std::vector<std::uint64_t> m_frames; // of the branch that is drawn
     double m_emptyProcessor = 0;
     double m_emptyGraphics = 0;
 };

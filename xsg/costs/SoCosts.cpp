@@ -15,7 +15,19 @@ namespace
 {
 
 constexpr std::int64_t SmallShape = 100; // triangles
-constexpr std::int64_t PointBytes = 12 + 12 + 8;
+
+template <class T>
+std::int64_t bytesOf(const std::vector<T>& values)
+{
+    return static_cast<std::int64_t>(values.size() * sizeof(T));
+}
+
+// As it is uploaded, but for the tangents that pictures of normals need.
+std::int64_t bytesOf(const SoGeometry& geometry)
+{
+    return bytesOf(geometry.points) + bytesOf(geometry.normals) + bytesOf(geometry.textureCoordinates) +
+           bytesOf(geometry.secondTextureCoordinates) + bytesOf(geometry.colors) + bytesOf(geometry.index);
+}
 
 /// What one geometry takes.
 struct MeshSize {
@@ -26,9 +38,10 @@ struct MeshSize {
 class CostWalk : private SoTraversal
 {
 public:
-    explicit CostWalk(const SoFittingImageReader& reader)
+    CostWalk(const SoFittingImageReader& reader, const SoHiding* hiding)
         : m_reader(reader)
     {
+        setHiding(hiding);
     }
     SoCosts count(SoNode* root)
     {
@@ -104,8 +117,7 @@ private:
         shape.generate(state(), geometry);
         const bool isSurface = geometry.kind == SoGeometry::Kind::Triangles;
         return {isSurface ? static_cast<std::int64_t>(geometry.index.size() / 3) : 0,
-                static_cast<std::int64_t>(geometry.points.size()) * PointBytes +
-                    static_cast<std::int64_t>(geometry.index.size() * 4)};
+                geometry.index.empty() ? 0 : bytesOf(geometry)};
     }
     void addPicture(const SoTexture2& texture, std::size_t row)
     {
@@ -158,7 +170,7 @@ const SoBranchCost* SoCosts::find(const SoNode* node) const
     return nullptr;
 }
 
-SoCosts countCosts(SoNode* root, const SoFittingImageReader& reader)
+SoCosts countCosts(SoNode* root, const SoFittingImageReader& reader, const SoHiding* hiding)
 {
-    return CostWalk(reader).count(root);
+    return CostWalk(reader, hiding).count(root);
 }

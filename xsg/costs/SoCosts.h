@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+class SoHiding;
+
 /// What a node costs together with all that is below it, in all places where it stands.
 struct SoBranchCost {
     SoRef<SoNode> node;
@@ -28,6 +30,7 @@ struct SoBranchCost {
     double graphics = -1;
     double spread = 0;          // half of the pictures were this near to the median
     std::int64_t drawCalls = 0; // of the branch drawn alone
+    std::int64_t pixels = 0;    // the same; one that is drawn over again counts again
     bool isMeasured = false;
     bool isUnseen = false; // it is drawn, and the picture is the same without it
 
@@ -48,8 +51,9 @@ struct XSG_API SoCosts {
 };
 
 /// Counts a scene without drawing it. `reader` tells the sizes of pictures in files; without one, those are
-/// not counted.
-XSG_API SoCosts countCosts(SoNode* root, const SoFittingImageReader& reader);
+/// not counted. What is hidden by `hiding` is left out.
+XSG_API SoCosts countCosts(SoNode* root, const SoFittingImageReader& reader,
+                           const SoHiding* hiding = nullptr);
 
 /// Something that could be done about a scene's cost, with the figure behind it.
 struct SoCostHint {

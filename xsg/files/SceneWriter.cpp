@@ -64,6 +64,7 @@ void xsg::SceneWriter::begin(const SoNode* root)
     m_frames.clear();
     m_pending = {root};
     m_lastPlace = 0;
+    m_nodeCount = 0;
     m_lastLabel = 0;
     m_phase = Phase::Labels;
 }
@@ -82,6 +83,11 @@ void xsg::SceneWriter::write(const SoNode* root)
 {
     begin(root);
     advance(Clock::time_point::max());
+}
+
+double xsg::SceneWriter::getProgress() const
+{
+    return m_phase == Phase::Labels ? 0 : double(m_lastPlace) / std::max(1U, m_nodeCount);
 }
 
 void xsg::SceneWriter::step()
@@ -106,6 +112,7 @@ void xsg::SceneWriter::labelNext()
         note.isLabelled = true;
         return;
     }
+    ++m_nodeCount;
     addReferences(node);
     m_pending.insert(m_pending.end(), childrenOf(node).begin(), childrenOf(node).end());
 }

@@ -42,6 +42,8 @@ public:
     bool advance(Clock::time_point until);
     /// All at once.
     void write(const SoNode* root);
+    /// How much is written, from 0 to 1.
+    double getProgress() const;
 
     /// The state of a field: `text`, the value that was left to the ValueSink, if any, and `rest`.
     struct Record {
@@ -98,6 +100,7 @@ private:
     std::vector<Frame> m_frames;
     NodeNotes<Note> m_notes;
     std::uint32_t m_lastPlace = 0;
+    std::uint32_t m_nodeCount = 0; // as far as they have been reached
     int m_lastLabel = 0;
 };
 

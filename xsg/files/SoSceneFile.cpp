@@ -4,7 +4,29 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/files/SceneReading.h>
 #include <xsg/files/SceneWriter.h>
+#include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/support/FileReplacement.h>
+
+namespace
+{
+
+using Clock = xsg::SceneWriter::Clock;
+constexpr auto Piece = std::chrono::milliseconds(10);
+
+// False where the structure changed meanwhile, so that the writer must not go on.
+bool writeInPieces(xsg::SceneWriter& writer, const SoNode* root, const std::function<void(double)>& goOn)
+{
+    const std::uint64_t structure = SoGroup::getStructureCount();
+    writer.begin(root);
+    while (!writer.advance(goOn ? Clock::now() + Piece : Clock::time_point::max())) {
+        goOn(writer.getProgress());
+        if (SoGroup::getStructureCount() != structure)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 SoRef<SoNode> SoSceneFile::read(const std::string& path, std::string& error)
 {
@@ -26,11 +48,17 @@ SoRef<SoNode> SoSceneFile::readText(std::string_view text, const std::string& na
 
 bool SoSceneFile::write(const SoNode* root, const std::string& path, std::string& error)
 {
+    return write(root, path, error, {});
+}
+
+bool SoSceneFile::write(const SoNode* root, const std::string& path, std::string& error,
+                        const std::function<void(double)>& goOn)
+{
     xsg::FileReplacement file(path);
     bool isGood = file.open();
     xsg::SceneWriter writer([&](const std::string& piece) { isGood = isGood && file.write(piece); });
-    if (isGood)
-        writer.write(root);
+    if (isGood && !writeInPieces(writer, root, goOn))
+        return write(root, path, error);
     if (isGood && file.commit())
         return true;
     error = path + ": The file cannot be written: " + file.getProblem() + ".";

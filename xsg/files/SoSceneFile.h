@@ -3,6 +3,7 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -41,5 +42,9 @@ public:
     /// Whatever happens, the file is either the old or the new one; xsg::FileReplacement says what becomes of
     /// its mode and its links. False, and a sentence, where it cannot be written.
     static bool write(const SoNode* root, const std::string& path, std::string& error);
+    /// The same, calling `goOn` with the part that is written, from 0 to 1, each few milliseconds; what it
+    /// throws leaves the file as it was. Fields and the structure of the scene may change in it.
+    static bool write(const SoNode* root, const std::string& path, std::string& error,
+                      const std::function<void(double)>& goOn);
     static std::string writeText(const SoNode* root);
 };

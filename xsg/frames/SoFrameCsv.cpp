@@ -16,7 +16,8 @@ std::string cell(std::string text)
 {
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    if (text.find_first_of(",\"") == std::string::npos)
+    const bool isPlain = !text.empty() && text.front() != '#'; // else it would be no cell, or a remark
+    if (isPlain && text.find_first_of(",\"") == std::string::npos)
         return text;
     std::string quoted = "\"";
     for (const char c : text)
@@ -51,7 +52,7 @@ SoFrameColumn columnOf(std::string name)
     if (column.isState)
         name.resize(name.size() - State.size());
     const std::size_t bracket = name.rfind(" [");
-    if (bracket != std::string::npos && name.back() == ']') {
+    if (bracket != std::string::npos && bracket + 3 < name.size() && name.back() == ']') {
         column.unit = name.substr(bracket + 2, name.size() - bracket - 3);
         name.resize(bracket);
     }
@@ -150,11 +151,12 @@ std::string SoFrameCsv::write(const SoFrameRecording& recording)
     for (const SoFrameColumn& column : recording.columns)
         text += (&column == &recording.columns.front() ? "" : ",") + cell(nameOf(column));
     text += '\n';
+    const std::string unknown = recording.columns.size() == 1 ? "\"\"" : ""; // an empty line is no row
     for (std::size_t row = 0; row < recording.getNumFrames(); ++row) {
         for (const SoFrameColumn& column : recording.columns) {
             const std::int64_t value = column.values[row];
             text += &column == &recording.columns.front() ? "" : ",";
-            text += column.isKnown(value) ? std::to_string(value) : std::string();
+            text += column.isKnown(value) ? std::to_string(value) : unknown;
         }
         text += '\n';
     }

@@ -98,6 +98,16 @@ std::string marksOf(const SoFrameRecording& recording)
     return marks;
 }
 
+std::string blocksOf(const SoFrameRecording& rows)
+{
+    std::string bytes;
+    if (rows.getNumFrames() > 0)
+        putBlock(bytes, 'F', rowsOf(rows));
+    if (!rows.marks.empty())
+        putBlock(bytes, 'M', marksOf(rows));
+    return bytes;
+}
+
 bool takeHead(FrameBytes bytes, SoFrameRecording& to)
 {
     for (std::uint64_t left = bytes.get(); left > 0 && bytes.isGood(); --left) {
@@ -181,6 +191,13 @@ bool SoFrameFile::fail(int code)
     return false;
 }
 
+std::string SoFrameFile::format(const SoFrameRecording& recording)
+{
+    std::string bytes(Magic);
+    putBlock(bytes, 'H', headOf(recording));
+    return bytes + blocksOf(recording);
+}
+
 bool SoFrameFile::open(const std::string& path, const SoFrameRecording& empty)
 {
     close();
@@ -191,19 +208,21 @@ bool SoFrameFile::open(const std::string& path, const SoFrameRecording& empty)
     if (m_descriptor < 0)
         return fail(errno);
     m_numColumns = empty.columns.size();
-    std::string bytes(Magic);
-    putBlock(bytes, 'H', headOf(empty));
-    return writeBytes(bytes);
+    SoFrameRecording head;
+    head.about = empty.about;
+    head.columns = empty.columns;
+    for (SoFrameColumn& column : head.columns)
+        column.values.clear();
+    return writeBytes(format(head));
 }
 
 bool SoFrameFile::write(const SoFrameRecording& rows)
 {
-    std::string bytes;
-    if (rows.getNumFrames() > 0 && rows.columns.size() == m_numColumns)
-        putBlock(bytes, 'F', rowsOf(rows));
-    if (!rows.marks.empty())
-        putBlock(bytes, 'M', marksOf(rows));
-    return isOpen() && writeBytes(bytes);
+    if (rows.columns.size() == m_numColumns)
+        return isOpen() && writeBytes(blocksOf(rows));
+    SoFrameRecording marks;
+    marks.marks = rows.marks;
+    return isOpen() && writeBytes(blocksOf(marks));
 }
 
 bool SoFrameFile::writeBytes(const std::string& bytes)

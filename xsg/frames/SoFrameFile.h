@@ -24,7 +24,9 @@ public:
 
     /// What a file holds: all up to where it is torn. False, and why, where it is no recording.
     static bool read(const std::string& path, SoFrameRecording& recording, std::string& problem);
-    /// The same of bytes.
+    /// What a file of all this holds.
+    static std::string format(const SoFrameRecording& recording);
+    /// read() of the bytes of a file.
     static bool parse(std::string_view bytes, SoFrameRecording& recording, std::string& problem);
 
 private:

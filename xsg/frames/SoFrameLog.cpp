@@ -75,6 +75,11 @@ void SoFrameLog::fillIn(SoFrame& frame) noexcept
         frame.figures[SoFrame::Allocations + i] =
             total - m_totals[i].exchange(total, std::memory_order_relaxed);
     }
+    fillInCounters(frame);
+}
+
+void SoFrameLog::fillInCounters(SoFrame& frame) const noexcept
+{
     frame.counterSet = m_counterSet.load(std::memory_order_acquire);
     for (std::size_t i = 0; i < SoFrame::MostCounters; ++i) {
         const SoPerfCounter* counter = m_counters[i].load(std::memory_order_relaxed);
@@ -87,6 +92,19 @@ std::uint64_t SoFrameLog::add(SoFrame& frame) noexcept
     if (!isOn())
         return 0;
     fillIn(frame);
+    return file(frame);
+}
+
+std::uint64_t SoFrameLog::addOther(SoFrame& frame) noexcept
+{
+    if (!isOn())
+        return 0;
+    fillInCounters(frame);
+    return file(frame);
+}
+
+std::uint64_t SoFrameLog::file(SoFrame& frame) noexcept
+{
     frame.number = m_next.fetch_add(1, std::memory_order_relaxed) + 1;
     memory()->frames[frame.number % Capacity].write(frame);
     raise(m_last, frame.number);

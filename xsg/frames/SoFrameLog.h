@@ -51,7 +51,7 @@ public:
     bool isOn() const noexcept { return m_users.load(std::memory_order_relaxed) > 0; }
 
     /// Whether renderers ask the graphics card about every frame. At first they do of those that take 2 ms or
-    /// more, and of every eighth of the others, since asking takes time too.
+    /// more, and of so many others as it takes a 200th of their time, since asking takes time too.
     void setTimesEach(bool on) noexcept { m_timesEach.store(on, std::memory_order_relaxed); }
     bool timesEach() const noexcept { return m_timesEach.load(std::memory_order_relaxed); }
 
@@ -59,6 +59,9 @@ public:
     /// the four figures that follow ShapesCulled are filled in; the time noted by addUpdate() is added to
     /// Update and Whole.
     std::uint64_t add(SoFrame& frame) noexcept;
+    /// Files a frame that another program has drawn: what it does not say is Missing, and only the counters
+    /// are filled in.
+    std::uint64_t addOther(SoFrame& frame) noexcept;
     /// What the graphics card needed for it, known later. Nothing where the frame has left the log.
     void setGpu(std::uint64_t number, std::int64_t nanoseconds) noexcept;
     /// Time spent on the next frame before it was begun.
@@ -87,6 +90,8 @@ private:
     struct Memory;
     Memory* memory() const noexcept { return m_memory.load(std::memory_order_acquire); }
     void fillIn(SoFrame& frame) noexcept;
+    void fillInCounters(SoFrame& frame) const noexcept;
+    std::uint64_t file(SoFrame& frame) noexcept;
 
     std::atomic<int> m_users{0};
     std::atomic<bool> m_timesEach{false};

@@ -59,9 +59,15 @@ bool concerns(const SoField& field, const QueryTerm& term)
 
 } // namespace
 
-NodeMatcher::NodeMatcher(Alternatives alternatives)
+NodeMatcher::NodeMatcher(Alternatives alternatives, const SoNode* root)
     : m_alternatives(std::move(alternatives))
 {
+    for (const QueryTerms& terms : *m_alternatives) {
+        for (const QueryTerm& term : terms) {
+            if (term.path)
+                m_places.emplace(&term, PlaceMatch(*term.path, root));
+        }
+    }
 }
 
 bool NodeMatcher::matches(const SoNode& node)
@@ -121,7 +127,10 @@ bool NodeMatcher::holds(const SoNode& node, const QueryTerm& term, const Plan& p
     case Kind::Word:
         return plan.typeMatches || nameContains(node, term.text) ||
                anyField(node, plan.fields,
-                        [&](const SoField& each) { return valueContains(each, term.text); });
+                        [&](const SoField& each) { return valueContains(each, term.text); }) ||
+               (term.path && m_places.at(&term).matches(node));
+    case Kind::Place:
+        return m_places.at(&term).matches(node);
     case Kind::Name:
         return nameContains(node, term.text);
     case Kind::Type:

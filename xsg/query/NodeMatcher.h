@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/query/PlaceMatch.h>
 #include <xsg/query/QueryTerm.h>
 
 #include <memory>
@@ -18,7 +19,8 @@ class NodeMatcher
 public:
     using Alternatives = std::shared_ptr<const std::vector<QueryTerms>>;
 
-    explicit NodeMatcher(Alternatives alternatives);
+    /// The root is where paths start; null: at a node without parents.
+    explicit NodeMatcher(Alternatives alternatives, const SoNode* root = nullptr);
 
     bool matches(const SoNode& node);
 
@@ -37,11 +39,12 @@ private:
     const TypePlans& plansFor(const SoNode& node);
     TypePlans makePlans(const SoNode& node) const;
     static Plan makePlan(const SoNode& node, const QueryTerm& term);
-    static bool holds(const SoNode& node, const QueryTerm& term, const Plan& plan);
+    bool holds(const SoNode& node, const QueryTerm& term, const Plan& plan);
 
     Alternatives m_alternatives;
     std::unordered_map<const char*, TypePlans> m_plans;
     const TypePlans* m_last = nullptr;
+    std::unordered_map<const QueryTerm*, PlaceMatch> m_places; // of the terms that have a path
 };
 
 } // namespace xsg

@@ -57,6 +57,15 @@ int componentOf(std::string_view name)
     return -1;
 }
 
+// None for what is a single word.
+std::optional<SoScenePath> relativePath(std::string_view text)
+{
+    SoScenePath path(text);
+    const bool isMore = path.isValid() && (path.getSteps().size() > 1 || !path.getField().empty() ||
+                                           path.getSteps().front().index > 0);
+    return isMore ? std::optional<SoScenePath>(std::move(path)) : std::nullopt;
+}
+
 bool isOrder(Sign sign)
 {
     return sign != Sign::Equal && sign != Sign::Unequal && sign != Sign::Contains;
@@ -94,11 +103,42 @@ bool QueryParser::parseTerm(QueryTerms& terms)
         term.negated = true;
         m_rest.remove_prefix(1);
     }
-    const Word word = takeWord();
-    if (!m_error.empty() || !makeTerm(word, term))
-        return false;
+    const std::string_view typed = m_rest;
+    if (typed.substr(0, 1) == "/") {
+        if (!takePlace(term))
+            return false;
+    } else {
+        const Word word = takeWord();
+        if (!m_error.empty() || !makeTerm(word, term))
+            return false;
+        if (term.kind == Kind::Word)
+            term.path = relativePath(typed.substr(0, typed.size() - m_rest.size()));
+    }
     terms.push_back(std::move(term));
     return true;
+}
+
+// As paths are written everywhere, quotes included. What is not finished yet finds what it says so far.
+bool QueryParser::takePlace(QueryTerm& term)
+{
+    bool isQuoted = false;
+    std::size_t end = 0;
+    for (; end < m_rest.size() && (isQuoted || (!isSpace(m_rest[end]) && m_rest[end] != '|')); ++end) {
+        if (isQuoted && m_rest[end] == '\\')
+            ++end;
+        else if (m_rest[end] == '"')
+            isQuoted = !isQuoted;
+    }
+    end = std::min(end, m_rest.size());
+    std::string text(m_rest.substr(0, end));
+    m_rest.remove_prefix(end);
+    if (isQuoted)
+        text += '"';
+    while (text.size() > 1 && (text.back() == '/' || text.back() == '.'))
+        text.pop_back();
+    term.kind = Kind::Place;
+    term.path = SoScenePath(text);
+    return term.path->isValid() || fail(term.path->getError());
 }
 
 QueryParser::Word QueryParser::takeWord()

@@ -34,6 +34,7 @@ private:
     Word takeWord();
     bool takeQuoted(std::string& text);
     bool makeTerm(const Word& word, QueryTerm& term);
+    bool takePlace(QueryTerm& term);
     bool makeComparison(const Word& word, std::size_t at, QueryTerm& term);
     bool fail(std::string sentence);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/paths/SoScenePath.h>
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,7 +13,8 @@ namespace xsg
 /// One thing that a query asks of a node. Texts are in UTF-8, and lower case where case does not matter.
 struct QueryTerm {
     enum class Kind {
-        Word,      // in the name, in the type's name or in a textual field
+        Word,      // in the name, in the type's name or in a textual field, or the place of a path
+        Place,     // where a path leads
         Name,      // in the name
         Type,      // in the type's name, or in that of a type it is derived from
         Field,     // in the name of a field
@@ -27,10 +30,11 @@ struct QueryTerm {
     Kind kind = Kind::Word;
     bool negated = false;
     std::string text;
-    std::string field;           // Compare: which one
-    int component = -1;          // Compare: of the field's numbers this one; -1: any
-    Sign sign = Sign::Equal;     // Compare
-    std::vector<double> numbers; // Compare: the text as numbers, empty where it is none
+    std::string field;               // Compare: which one
+    int component = -1;              // Compare: of the field's numbers this one; -1: any
+    Sign sign = Sign::Equal;         // Compare
+    std::vector<double> numbers;     // Compare: the text as numbers, empty where it is none
+    std::optional<SoScenePath> path; // Place, and Word where it can be one
 };
 
 /// All of them must hold.

@@ -22,9 +22,12 @@ struct QueryTerm;
 ///   field:diffuse     in the name of a field
 ///   value:0.5         in the text of a value of any field
 ///   transparency>0    a field's value: = != < <= > >= and ~ for "contains"; of a list or a vector, any
-///   number translation.x<=1  one number of a vector: x y z w, or r g b a changed           has a field whose
-///   value is not its type's; also connected, ignored, shared -type:Light       not so "two words" quotes
-///   keep spaces, signs and words such as changed as they are
+///                     number
+///   translation.x<=1  one number of a vector: x y z w, or r g b a
+///   changed           has a field whose value is not its type's; also connected, ignored, shared
+///   /Lamp/Cube[2]     stands in this place (SoScenePath); without "/" at the start, wherever that begins
+///   -type:Light       not so
+///   "two words"       quotes keep spaces, signs and words such as changed as they are
 ///
 /// Terms that follow each other must all hold; `|` separates alternatives. Immutable; copies are cheap.
 class XSG_API SoQuery

@@ -9,7 +9,7 @@ SoQuerySearch& SoQuerySearch::operator=(SoQuerySearch&&) noexcept = default;
 SoQuerySearch::~SoQuerySearch() = default;
 
 SoQuerySearch::SoQuerySearch(const SoQuery& query, SoNode* root)
-    : m_matcher(std::make_unique<xsg::NodeMatcher>(query.m_alternatives))
+    : m_matcher(std::make_unique<xsg::NodeMatcher>(query.m_alternatives, root))
     , m_root(root)
     , m_begun(!root || query.isEmpty())
 {

@@ -66,7 +66,9 @@ void xsg::RenderItemFiller::fill(RenderItem& item, const SoShape& shape, const S
 {
     std::copy_n((shape.getPlacement() * toWorld).getValue(), 16, item.instance.matrix);
     item.box = toWorld.transform(shape.getBox(state));
-    if (state.physicalMaterial)
+    if (m_colors)
+        fillColored(item, shape, state);
+    else if (state.physicalMaterial)
         fillPhysicalSurface(item, shape, state);
     else
         fillSurface(item, shape, state);
@@ -92,4 +94,18 @@ void xsg::RenderItemFiller::fillPhysicalSurface(RenderItem& item, const SoShape&
     item.geometry = m_geometry.get(shape, state, tangentsFor(surface));
     item.drawState = m_drawStates.use(state, nullptr, surface);
     item.isTransparent = (surface.features & BlendedSurface) != 0;
+}
+
+// Partly of its own light, so that the colour can be read on the far side too, and without a texture. What
+// the material shows through stays hidden: its cost does not.
+void xsg::RenderItemFiller::fillColored(RenderItem& item, const SoShape& shape, const SoState& state)
+{
+    const SbColor& color = m_colors->get(shape);
+    put(item.instance.diffuse, color * 0.4F, 1);
+    put(item.instance.ambient, SbColor(), 0);
+    put(item.instance.specular, SbColor(), 1);
+    put(item.instance.emissive, color * 0.6F, 1);
+    item.geometry = m_geometry.get(shape, state);
+    item.drawState = m_drawStates.use(state, nullptr);
+    item.isTransparent = false;
 }

@@ -23,6 +23,7 @@ public:
     bool advance(std::chrono::steady_clock::time_point until);
     using SoTraversal::getNumVisited;
     using SoTraversal::setHiding;
+    void setColors(const SoShapeColors* colors) { m_filler.setColors(colors); }
 
 protected:
     static constexpr std::uint32_t None = WalkRecord::None;

@@ -18,6 +18,7 @@ public:
     using RenderListBuilder::RenderListBuilder;
     /// False where the list has to be built again; it is no longer usable then.
     bool patch(SoNode* root, const RenderView& view);
+    using RenderListBuilder::setColors;
     using SoTraversal::getNumVisited;
     using SoTraversal::setHiding;
 

@@ -15,6 +15,19 @@ void xsg::RenderListUpdater::setHiding(const SoHiding* hiding)
     invalidate();
 }
 
+void xsg::RenderListUpdater::setColors(const SoShapeColors* colors)
+{
+    const SoShapeColors* used = colors && !colors->isEmpty() ? colors : nullptr;
+    const std::uint64_t version = used ? used->getVersion() : 0;
+    if (used == m_colors && version == m_colorsVersion)
+        return;
+    m_colors = used;
+    m_colorsVersion = version;
+    m_builder.setColors(used);
+    m_patcher.setColors(used);
+    invalidate();
+}
+
 bool xsg::RenderListUpdater::isSameView(const SoNode* root, const RenderView& view) const
 {
     return root->getNodeId() == m_rootId && view.camera == m_view.camera &&

@@ -26,6 +26,8 @@ public:
     const RenderList& getList() const { return m_list; }
     /// What is left out of the list; it must outlive the updates. Null, as at first: nothing.
     void setHiding(const SoHiding* hiding);
+    /// As of RenderItemFiller; they must outlive the updates.
+    void setColors(const SoShapeColors* colors);
     /// Needs the OpenGL context. Unfinished: the time was up; another call goes on, and until then the list
     /// is of no use.
     Update update(SoNode* root, const RenderView& view, Time until);
@@ -59,6 +61,8 @@ private:
     int m_visited = 0;
     const SoHiding* m_hiding = nullptr;
     std::uint64_t m_hidingVersion = 0;
+    const SoShapeColors* m_colors = nullptr;
+    std::uint64_t m_colorsVersion = 0;
 };
 
 } // namespace xsg

@@ -135,7 +135,7 @@ bool SoRenderer::Impl::drawScene(SoNode* root, const SoCamera* camera, Time unti
     m_shader.use();
     m_shader.setView(m_eye.viewProjection, m_eye.eye, m_width, m_height);
     m_state.setEdgesOnly(wireframe);
-    const bool isFinished = drawShaded(until) && drawMarks(until);
+    const bool isFinished = drawCounted(until) && drawMarks(until);
     if (isFinished && !overlay.isEmpty())
         m_overlayPainter.draw(overlay, m_eye.viewProjection, m_width, m_height, error);
     statistics.stateChanges += m_state.getChanges();
@@ -160,6 +160,16 @@ void SoRenderer::Impl::beginDrawing(const SoCamera* camera)
     const std::int64_t seen = planVisible();
     statistics.culled += m_opaque.getSize() - seen;
     m_phase = Phase::Opaque;
+}
+
+bool SoRenderer::Impl::drawCounted(Time until)
+{
+    if (!countsPixels)
+        return drawShaded(until);
+    m_pixels.begin();
+    const bool isFinished = drawShaded(until);
+    statistics.pixels = std::max<std::int64_t>(statistics.pixels, 0) + m_pixels.end();
+    return isFinished;
 }
 
 bool SoRenderer::Impl::drawShaded(Time until)
@@ -233,6 +243,7 @@ bool SoRenderer::Impl::updateList(SoNode* root, const SoCamera* camera, Time unt
 {
     const SoFramePhase phase(SoFrame::Traverse);
     m_updater.setHiding(hiding);
+    m_updater.setColors(shapeColors);
     // Where the eye stands is known once the scene has been walked, and matters only to what chooses by
     // distance: a second walk then uses the right place. The camera of the last walk may be destroyed by now.
     using Update = xsg::RenderListUpdater::Update;
@@ -297,6 +308,7 @@ void SoRenderer::Impl::releaseGL()
     m_pacer.end();
     frameMeter.release();
     m_updater.clear();
+    m_pixels.release();
     m_outline.release();
     m_overlayPainter.release();
     m_shader.release();

@@ -68,6 +68,11 @@ void SoRenderer::setHiding(const SoHiding* hiding)
     m_impl->hiding = hiding;
 }
 
+void SoRenderer::setShapeColors(const SoShapeColors* colors)
+{
+    m_impl->shapeColors = colors;
+}
+
 void SoRenderer::setHighlight(const SoNode* node)
 {
     setHighlightedNumbers(node ? std::vector<std::uint64_t>{node->getNodeId()}
@@ -97,6 +102,11 @@ bool SoRenderer::wantsDebugContext()
 void SoRenderer::setFrameLog(SoFrameLog* log)
 {
     m_impl->frameMeter.setLog(log);
+}
+
+void SoRenderer::setCountsPixels(bool on)
+{
+    m_impl->countsPixels = on;
 }
 
 SoOverlay& SoRenderer::getOverlay()

@@ -18,6 +18,7 @@ class SoCamera;
 class SoFrameLog;
 class SoHiding;
 class SoNode;
+class SoShapeColors;
 
 /// Draws a scene with OpenGL 3.3 into the framebuffer of the context that is current:
 ///
@@ -80,6 +81,9 @@ public:
     /// What of the scene is left out of the picture; it is asked at each render() and must outlive them.
     /// Null, as at first: nothing.
     void setHiding(const SoHiding* hiding);
+    /// Draws shapes in these colours instead of their own looks, unless it is empty; it is asked at each
+    /// render() and must outlive them. Null, as at first: none.
+    void setShapeColors(const SoShapeColors* colors);
     /// Marks this node and what is below it with a line around it; null for none. Where something else covers
     /// it, the line is weaker. The node may be destroyed at any time.
     void setHighlight(const SoNode* node);
@@ -101,6 +105,8 @@ public:
     /// Files what each picture costs, while the log is on; it must outlive the pictures. Null, as at first:
     /// nowhere.
     void setFrameLog(SoFrameLog* log);
+    /// Counts pixels too, for which each render() waits for the graphics card; off at first.
+    void setCountsPixels(bool on);
 
     /// A light beside the eye in scenes without a light of their own; on from the start.
     void setHeadlight(bool on);
@@ -126,6 +132,8 @@ public:
         std::int64_t uploadedBytes = 0;
         std::int64_t textureBytes = 0; // uploaded
         double seconds = 0;            // spent by the processor
+        /// Drawn, each as often as it passed the test of depths; in a picture of several samples, these.
+        std::int64_t pixels = -1; // -1: not counted
     };
     const Statistics& getStatistics() const;
     /// Around everything in the scene, as of the last render().

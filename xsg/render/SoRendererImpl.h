@@ -10,6 +10,7 @@
 #include <xsg/render/InstanceList.h>
 #include <xsg/render/Outline.h>
 #include <xsg/render/OverlayPainter.h>
+#include <xsg/render/PixelCounter.h>
 #include <xsg/render/RenderListUpdater.h>
 #include <xsg/render/SoRenderer.h>
 
@@ -58,6 +59,8 @@ public:
     bool headlight = true;
     SoOverlay overlay;
     const SoHiding* hiding = nullptr;
+    const SoShapeColors* shapeColors = nullptr;
+    bool countsPixels = false;
     xsg::FrameMeter frameMeter;
     std::string error;
     Statistics statistics;
@@ -109,6 +112,7 @@ private:
     bool beginShading();
     void endShading();
     void setBlending();
+    bool drawCounted(Time until);
     bool drawShaded(Time until);
     bool drawOpaque(Time until);
     bool drawTransparent(Time until);
@@ -134,6 +138,7 @@ private:
     std::vector<std::pair<float, std::uint32_t>> m_depths;
     std::vector<std::uint32_t> m_order;
     xsg::Outline m_outline;
+    xsg::PixelCounter m_pixels;
     xsg::OverlayPainter m_overlayPainter;
     Marked m_current;
     Marked m_others;

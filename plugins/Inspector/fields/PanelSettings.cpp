@@ -25,6 +25,9 @@ QString key(const char* name)
 }
 
 constexpr const char* Degrees = "degrees";
+constexpr const char* Length = "lengthUnit";
+constexpr const char* Digits = "digits";
+constexpr int MostDigits = 17;
 constexpr const char* Rotation = "rotation";
 constexpr const char* Matrix = "matrix";
 constexpr const char* Color = "color";
@@ -46,6 +49,26 @@ bool PanelSettings::showsDegrees()
 void PanelSettings::setShowsDegrees(bool degrees)
 {
     settings().setValue(key(Degrees), degrees);
+}
+
+LengthUnit PanelSettings::lengthUnit()
+{
+    return formOf(Length, LengthUnit::Feet);
+}
+
+void PanelSettings::setLengthUnit(LengthUnit unit)
+{
+    settings().setValue(key(Length), int(unit));
+}
+
+int PanelSettings::digits()
+{
+    return std::clamp(settings().value(key(Digits), 0).toInt(), 0, MostDigits);
+}
+
+void PanelSettings::setDigits(int digits)
+{
+    settings().setValue(key(Digits), digits);
 }
 
 RotationForm PanelSettings::rotationForm()

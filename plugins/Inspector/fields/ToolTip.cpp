@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "fields/ToolTip.h"
 
-#include "fields/Description.h"
 #include "fields/FieldText.h"
 #include "fields/PanelSettings.h"
+#include "fields/ShownUnit.h"
 
 #include <scopix/editing/SpxFreshDefault.h>
 #include <scopix/editing/SpxText.h>
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/core/SoField.h>
 
 #include <QCoreApplication>
@@ -30,7 +31,7 @@ QString number(double value)
 }
 
 // Of angles in what they are stored in: the inputs say what they show.
-QString rangeOf(const Description& description)
+QString rangeOf(const SpxFieldDescription& description)
 {
     QStringList parts;
     if (description.softLow != description.softHigh)
@@ -62,15 +63,18 @@ QString typeOf(const SoField& field)
 
 } // namespace
 
-QString unitOf(const Description& description)
+QString unitOf(const SpxFieldDescription& description)
 {
     if (!description.unit.empty())
         return textOf(description.unit);
     switch (description.quantity) {
     case SpxQuantity::Angle:
         return PanelSettings::showsDegrees() ? tr("radians, shown in degrees") : tr("radians");
-    case SpxQuantity::Length:
-        return tr("metres, where the scene has no other scale");
+    case SpxQuantity::Length: {
+        const QString shown = ShownUnit::of(description.quantity).name;
+        return shown.isEmpty() ? tr("metres, where the scene has no other scale")
+                               : tr("metres, shown in %1").arg(shown);
+    }
     case SpxQuantity::Time:
         return tr("seconds");
     default:
@@ -78,7 +82,7 @@ QString unitOf(const Description& description)
     }
 }
 
-QString toolTipOf(const SoField& field, const Description* description)
+QString toolTipOf(const SoField& field, const SpxFieldDescription* description)
 {
     QStringList lines{
         QStringLiteral("<b>%1</b> (%2)").arg(SpxText::toQString(field.getName()), typeOf(field))};
@@ -97,7 +101,7 @@ QString toolTipOf(const SoField& field, const Description* description)
     return lines.join(QStringLiteral("<br>"));
 }
 
-QString spokenMeaningOf(const SoField& field, const Description* description)
+QString spokenMeaningOf(const SoField& field, const SpxFieldDescription* description)
 {
     QStringList parts{typeOf(field)};
     if (description) {

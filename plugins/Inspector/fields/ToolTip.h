@@ -4,17 +4,16 @@
 #include <QString>
 
 class SoField;
+struct SpxFieldDescription;
 
 namespace inspector
 {
 
-struct Description;
-
 /// What a field is, as rich text: meaning, unit, range, default value and type.
-QString toolTipOf(const SoField& field, const Description* description);
+QString toolTipOf(const SoField& field, const SpxFieldDescription* description);
 /// The same for who hears it, in a line: type, unit, range and meaning.
-QString spokenMeaningOf(const SoField& field, const Description* description);
+QString spokenMeaningOf(const SoField& field, const SpxFieldDescription* description);
 /// "m", "rad, shown in degrees"; empty where there is none.
-QString unitOf(const Description& description);
+QString unitOf(const SpxFieldDescription& description);
 
 } // namespace inspector

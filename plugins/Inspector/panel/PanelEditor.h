@@ -40,6 +40,8 @@ private:
     void follow(SoFieldContainer* node);
     void addMenus();
     void removeMenus();
+    void addSettings();
+    void rebuild();
     void filter();
 
     PinnedPanels& m_pins;

@@ -14,8 +14,9 @@ namespace inspector
 
 PinnedPanels::PinnedPanels()
 {
-    setName("Pinned Panels");
-    setDescription("Panels that stay with their nodes, whatever is selected.");
+    setName(QT_TRANSLATE_NOOP("Extension", "Pinned Panels"));
+    setDescription(
+        QT_TRANSLATE_NOOP("Extension", "Panels that stay with their nodes, whatever is selected."));
     setVendor("Arvex");
     setVersion("1.0.0");
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/RowList.h"
 
-#include "fields/Description.h"
 #include "fields/FieldKind.h"
+#include "fields/FieldOrder.h"
 #include "fields/FieldText.h"
 #include "rows/Row.h"
 #include "rows/RowFactory.h"
@@ -88,7 +88,7 @@ void RowList::setNodes(const std::vector<SoFieldContainer*>& nodes)
         item.field = field;
         if (!addOthers(item, nodes))
             continue;
-        const Description* known = findDescription(*field);
+        const SpxFieldDescription* known = SpxFieldDescription::find(*field);
         if (known)
             item.heading = QString::fromUtf8(known->heading.data(), int(known->heading.size()));
         describe(item);
@@ -188,7 +188,7 @@ bool RowList::passes(const Item& item) const
         return false;
     if (m_filter.isEmpty())
         return true;
-    const Description* known = findDescription(*field);
+    const SpxFieldDescription* known = SpxFieldDescription::find(*field);
     const QString text = SpxText::toQString(field->getName()) + QLatin1Char(' ') +
                          SpxText::toQString(field->getTypeId().getName()) + QLatin1Char(' ') +
                          summary(*field) + QLatin1Char(' ') + item.heading + QLatin1Char(' ') +

@@ -254,7 +254,7 @@ QString ColorRow::shownText(int which) const
     if (m_form == ColorForm::Hsv && which == 0)
         return degreesText(number);
     // What is computed has no more digits than what is stored.
-    return m_form == ColorForm::Rgb ? numberText(*field(), number) : QString::number(number, 'g', 4);
+    return m_form == ColorForm::Rgb ? numberText(number) : QString::number(number, 'g', 4);
 }
 
 // Channels that come out the same keep their bits.

@@ -191,7 +191,7 @@ QString MatrixRow::shownText(int which) const
 {
     if (isAngle(which) && m_showsDegrees)
         return degreesText(shownNumber(which));
-    return SpxText::ofNumber(float(shownNumber(which)));
+    return floatText(float(shownNumber(which)));
 }
 
 void MatrixRow::writeNumber(int which, double number)

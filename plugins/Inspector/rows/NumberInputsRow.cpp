@@ -118,7 +118,7 @@ NumberFormat formatOf(const SoField& field)
             format.hardHigh = access->highest;
         }
     }
-    if (const Description* known = findDescription(field)) {
+    if (const SpxFieldDescription* known = SpxFieldDescription::find(field)) {
         format.softLow = known->softLow;
         format.softHigh = known->softHigh;
         format.hardLow = std::max(format.hardLow, known->hardLow);
@@ -128,12 +128,17 @@ NumberFormat formatOf(const SoField& field)
     return format;
 }
 
-QString numberText(const SoField& field, double number)
+QString NumberInputsRow::numberText(double number) const
 {
-    const NumberAccess* access = NumberAccess::of(field);
+    const NumberAccess* access = NumberAccess::of(*field());
     if (access && access->isInteger)
         return QString::number(qint64(number));
-    return access && access->isFloat ? SpxText::ofNumber(float(number)) : SpxText::ofNumber(number);
+    return access && !access->isFloat && m_digits == 0 ? SpxText::ofNumber(number) : floatText(float(number));
+}
+
+QString NumberInputsRow::floatText(float number) const
+{
+    return m_digits > 0 ? QString::number(double(number), 'g', m_digits) : SpxText::ofNumber(number);
 }
 
 QString degreesText(double degrees)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "fields/PanelSettings.h"
 #include "rows/NumberEdit.h"
 #include "rows/Row.h"
 
@@ -27,6 +28,10 @@ protected:
 
     NumberEdit* addNumber(const NumberFormat& format, const QString& part);
     const QList<NumberEdit*>& numbers() const { return m_numbers; }
+    /// With the digits that the user wants; without a wish the shortest text that reads back to the number as
+    /// the field holds it.
+    QString numberText(double number) const;
+    QString floatText(float number) const;
     void showValue() override;
     bool isBusy() const override;
 
@@ -37,13 +42,12 @@ private:
     void dragEnded(bool keep);
 
     QList<NumberEdit*> m_numbers;
+    const int m_digits = PanelSettings::digits();
     std::vector<double> m_starts; // of a drag: each field's number before
 };
 
 /// A format for one number of a field: the limits of its type and of its description.
 NumberFormat formatOf(const SoField& field);
-/// The shortest text that reads back to the number as the field holds it.
-QString numberText(const SoField& field, double number);
 /// "45°", rounded to what single precision holds.
 QString degreesText(double degrees);
 

@@ -2,7 +2,6 @@
 #include "rows/NumbersRow.h"
 
 #include "fields/NumberAccess.h"
-#include "fields/PanelSettings.h"
 
 #include <xsg/core/SoField.h>
 #include <xsg/fields/SoSFPlane.h>
@@ -15,7 +14,6 @@ namespace inspector
 namespace
 {
 
-constexpr double Degree = 3.141592653589793 / 180;
 constexpr int InALine = 3;
 
 QStringList partNames(const SoField& field, int count)
@@ -40,12 +38,10 @@ NumbersRow::NumbersRow(SoField* field)
 void NumbersRow::build()
 {
     NumberFormat format = formatOf(*field());
-    if (format.quantity == SpxQuantity::Angle && PanelSettings::showsDegrees()) {
-        m_unit = Degree;
-        for (double* limit : {&format.softLow, &format.softHigh, &format.hardLow, &format.hardHigh})
-            *limit /= m_unit;
-    }
-    format.unit = m_unit;
+    m_unit = ShownUnit::of(format.quantity);
+    for (double* limit : {&format.softLow, &format.softHigh, &format.hardLow, &format.hardHigh})
+        *limit /= m_unit.size;
+    format.unit = m_unit.size;
     auto* grid = new QGridLayout(editor());
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(3);
@@ -61,18 +57,18 @@ void NumbersRow::build()
 
 double NumbersRow::shownNumber(int which) const
 {
-    return m_access->get(*field(), which) / m_unit;
+    return m_access->get(*field(), which) / m_unit.size;
 }
 
 QString NumbersRow::shownText(int which) const
 {
-    return m_unit == 1 ? numberText(*field(), m_access->get(*field(), which))
-                       : degreesText(shownNumber(which));
+    return m_unit.isThatOfTheField() ? numberText(m_access->get(*field(), which))
+                                     : m_unit.textOf(shownNumber(which));
 }
 
 void NumbersRow::writeNumber(int which, double number)
 {
-    m_access->set(*field(), which, number * m_unit);
+    m_access->set(*field(), which, number * m_unit.size);
 }
 
 NumberEdit* NumbersRow::draggedByCaption() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "fields/ShownUnit.h"
 #include "rows/NumberInputsRow.h"
 
 namespace inspector
@@ -25,7 +26,7 @@ protected:
 
 private:
     const NumberAccess* m_access;
-    double m_unit = 1; // of what is shown, in what is stored
+    ShownUnit m_unit;
 };
 
 } // namespace inspector

@@ -118,7 +118,7 @@ double RotationRow::shownNumber(int which) const
 QString RotationRow::shownText(int which) const
 {
     return isAngle(which) && m_showsDegrees ? degreesText(shownNumber(which))
-                                            : SpxText::ofNumber(float(shownNumber(which)));
+                                            : floatText(float(shownNumber(which)));
 }
 
 void RotationRow::writeNumber(int which, double number)

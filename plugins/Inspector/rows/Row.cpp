@@ -65,7 +65,7 @@ QString restText(const SoField& field)
 
 Row::Row(SoField* field)
     : m_field(field)
-    , m_description(findDescription(*field))
+    , m_description(SpxFieldDescription::find(*field))
 {
 }
 

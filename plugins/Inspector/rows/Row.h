@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "fields/Description.h"
 #include "rows/FieldGroup.h"
 
 #include <scopix/editing/SpxFieldPointer.h>
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 
 #include <QScopedValueRollback>
 #include <QWidget>
@@ -129,7 +129,7 @@ protected:
     void beginGesture() { m_gesture.begin(fields()); }
     FieldGroupGesture& gesture() { return m_gesture; }
     static QString mixedWord() { return tr("mixed"); }
-    const Description* description() const { return m_description; }
+    const SpxFieldDescription* description() const { return m_description; }
     QString fieldName() const;
 
     bool event(QEvent* event) override;
@@ -161,7 +161,7 @@ private:
     void placeParts();
 
     SpxFieldPointer m_field;
-    const Description* m_description;
+    const SpxFieldDescription* m_description;
     QString m_meaning;                     // as it is read out
     std::vector<SpxFieldPointer> m_others; // of the other nodes
     bool m_isOther = false;                // m_field is one of them at the moment

@@ -101,6 +101,11 @@ void ListTable::buildLayout()
     layout->addLayout(buttons);
     setTabOrder(m_lineKind, m_line);
     setTabOrder(m_line, &m_view);
+    QWidget* before = &m_view;
+    for (auto* button : findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        setTabOrder(before, button);
+        before = button;
+    }
     explainLine();
 }
 

@@ -145,7 +145,9 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         const SoMField* list = m_view.rows().list();
-        if (kind != QAccessible::Name || !list)
+        if (kind == QAccessible::Name && !list)
+            return tr("A list as a table");
+        if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
         return tr("%1, a list of %2 values, type %3")
             .arg(nameOf(*list))

@@ -15,7 +15,7 @@ namespace inspector
 WideTable::WideTable()
 {
     setName("Table");
-    setDescription("Shows a list as a wide table.");
+    setDescription(QT_TRANSLATE_NOOP("Extension", "Shows a list as a wide table."));
     setVendor("Arvex");
     setVersion("1.0.0");
     connect(&m_watcher, &SpxWatcher::changed, this, &WideTable::refresh);

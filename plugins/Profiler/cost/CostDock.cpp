@@ -7,7 +7,8 @@ namespace profiler
 {
 
 CostDock::CostDock()
-    : PanelDock("Cost", "Measures what each branch of the scene costs.")
+    : PanelDock(QT_TRANSLATE_NOOP("Extension", "Cost"),
+                QT_TRANSLATE_NOOP("Extension", "Measures what each branch of the scene costs."))
 {
 }
 

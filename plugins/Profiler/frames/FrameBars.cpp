@@ -400,7 +400,9 @@ void FrameBars::paintCurve(QPainter& painter, const FrameCurve& curve, const QCo
             path.moveTo(point);
     }
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(color, 1.5));
+    QPen pen(color, 1);
+    pen.setCosmetic(true); // thicker lines take ten times as long
+    painter.setPen(pen);
     painter.drawPath(path);
     const int x = area.right() + 4 + axis * AxisWidth;
     painter.drawLine(x, area.top(), x, area.bottom());

@@ -19,7 +19,8 @@ namespace
 
 constexpr int TakeMs = 100;
 // Frames for which the graphics card's time is waited for.
-constexpr std::uint64_t HeldBack = 8;
+constexpr std::uint64_t MostHeldBack = 8;
+constexpr std::int64_t LongestHeldBack = 500'000'000; // nanoseconds: what ends the program takes no more
 
 bool isThere(const SoFrameRecording& recording, const std::string& name)
 {
@@ -65,6 +66,16 @@ void FrameStore::follow()
     m_timer.start(TakeMs, this);
 }
 
+std::uint64_t FrameStore::countHeldBack() const
+{
+    std::uint64_t count = 0;
+    SoFrame frame;
+    while (count < MostHeldBack && m_log.get(m_log.getLast() - count, frame) &&
+           SoFrameLog::now() - frame[SoFrame::Begin] < LongestHeldBack)
+        ++count;
+    return count;
+}
+
 void FrameStore::wantCounters(const std::vector<SbName>& names)
 {
     m_wanted = names;
@@ -100,7 +111,7 @@ void FrameStore::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != m_timer.timerId())
         return;
-    take(HeldBack);
+    take(countHeldBack());
     follow(); // a recording may have ended by itself
 }
 
@@ -148,7 +159,7 @@ void FrameStore::append(const SoFrameRecording& rows)
         m_frames.marks.erase(m_frames.marks.begin(), m_frames.marks.end() - MostFrames);
 }
 
-QString FrameStore::startRecording(const QString& path)
+QString FrameStore::startRecording(const QString& path, const QString& scene)
 {
     stopRecording();
     const bool wasOn = m_reader.has_value();
@@ -157,7 +168,7 @@ QString FrameStore::startRecording(const QString& path)
         chooseCounters();
     }
     take(0);
-    m_recorded = withSurroundings(m_reader->makeEmpty());
+    m_recorded = withSurroundings(m_reader->makeEmpty(), scene);
     const bool isOpen = m_file.open(path.toLocal8Bit().toStdString(), m_recorded);
     m_path = path;
     m_numRecorded = 0;
@@ -218,8 +229,10 @@ QString FrameStore::getTitle() const
     return QString::fromStdString(m_frames.getAbout("title"));
 }
 
-SoFrameRecording withSurroundings(SoFrameRecording recording)
+SoFrameRecording withSurroundings(SoFrameRecording recording, const QString& scene)
 {
+    if (!scene.isEmpty())
+        recording.setAbout("scene", scene.toStdString());
     recording.setAbout("program", QCoreApplication::applicationName().toStdString() + " " +
                                       QCoreApplication::applicationVersion().toStdString());
     recording.setAbout("system", QSysInfo::prettyProductName().toStdString());

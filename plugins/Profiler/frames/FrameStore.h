@@ -36,8 +36,8 @@ public:
     void wantCounters(const std::vector<SbName>& names);
 
     bool isRecording() const { return m_file.isOpen(); }
-    /// Why it cannot be written, or an empty text.
-    QString startRecording(const QString& path);
+    /// Why it cannot be written, or an empty text. `scene`: the path of what is drawn, where it has one.
+    QString startRecording(const QString& path, const QString& scene = {});
     void stopRecording();
     /// Frames written to the file so far.
     std::size_t getNumRecorded() const { return m_numRecorded; }
@@ -61,6 +61,7 @@ private:
     void follow();
     void chooseCounters();
     void take(std::uint64_t heldBack);
+    std::uint64_t countHeldBack() const;
     void write(const SoFrameRecording& rows);
     void append(const SoFrameRecording& rows);
 
@@ -78,7 +79,7 @@ private:
     bool m_isLive = true;
 };
 
-/// What a recording says about where it was made.
-SoFrameRecording withSurroundings(SoFrameRecording recording);
+/// What a recording says about where it was made, and of what.
+SoFrameRecording withSurroundings(SoFrameRecording recording, const QString& scene);
 
 } // namespace profiler

@@ -7,7 +7,8 @@ namespace profiler
 {
 
 FramesDock::FramesDock()
-    : PanelDock("Frames", "Shows what each frame cost, and why.")
+    : PanelDock(QT_TRANSLATE_NOOP("Extension", "Frames"),
+                QT_TRANSLATE_NOOP("Extension", "Shows what each frame cost, and why."))
 {
 }
 

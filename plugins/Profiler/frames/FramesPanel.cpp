@@ -317,12 +317,27 @@ void FramesPanel::record(bool on)
         m_store.stopRecording();
     const QString path = on ? RecordingFiles::askForNew(this) : QString();
     if (!path.isEmpty()) {
-        const QString problem = m_store.startRecording(path);
+        const QString problem = m_store.startRecording(path, findScene());
         m_record->setChecked(problem.isEmpty());
         if (!problem.isEmpty())
             say(tr("“%1” cannot be written: %2. Choose another place.").arg(path, problem));
     }
     showWords();
+}
+
+QString FramesPanel::findScene() const
+{
+    for (const QWidget* at = this; at; at = at->parentWidget()) {
+        if (!at->windowFilePath().isEmpty())
+            return at->windowFilePath();
+    }
+    return {};
+}
+
+// What is shown of a file was said when that was made.
+SoFrameRecording FramesPanel::surrounded(const SoFrameRecording& frames) const
+{
+    return m_store.isLive() ? withSurroundings(frames, findScene()) : frames;
 }
 
 void FramesPanel::openRecording()
@@ -343,7 +358,7 @@ void FramesPanel::saveTable()
     m_store.takeNow();
     const QString path = RecordingFiles::askForNew(this);
     const QString problem =
-        path.isEmpty() ? QString() : RecordingFiles::write(path, withSurroundings(m_store.getFrames()));
+        path.isEmpty() ? QString() : RecordingFiles::write(path, surrounded(m_store.getFrames()));
     if (!problem.isEmpty())
         say(problem);
 }

@@ -32,6 +32,8 @@ public:
     /// Lays the formula over the bars. False, and the line says why, where it cannot be computed.
     bool addCurve(const QString& formula);
     void removeCurve(int curve);
+    /// The path of what the window shows that this stands in; empty where it has none.
+    QString findScene() const;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -49,6 +51,7 @@ private:
     void enterCurve();
     void keepCurves();
     void record(bool on);
+    SoFrameRecording surrounded(const SoFrameRecording& frames) const;
     void openRecording();
     void saveTable();
     void compareRecordings();

@@ -4,6 +4,9 @@
 // length.
 #include "ChangeParts.h"
 
+#include <scopix/editing/SpxFieldEdit.h>
+#include <support/RandomWalk.h>
+
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
@@ -25,13 +28,6 @@ constexpr auto Scene = R"(Separator "top" {
 }
 )";
 
-int fromEnvironment(const char* name, int otherwise)
-{
-    bool isSet = false;
-    const int value = qEnvironmentVariableIntValue(name, &isSet);
-    return isSet ? value : otherwise;
-}
-
 class ChangesWalk : public ChangesWindow, public testing::WithParamInterface<bool>
 {
 protected:
@@ -39,22 +35,23 @@ protected:
 
     SoPath randomPath()
     {
-        SoPath path;
-        path.append(window.getScene());
-        while (const SoGroup* group = path.getTail()->asGroup()) {
-            if (group->getNumChildren() == 0 || random(4) == 0)
-                break;
-            path.append(group->getChild(random(group->getNumChildren())));
-        }
-        return path;
+        return ::randomPath(window.getScene(), [this](int below) { return random(below); });
     }
-    void editField()
+    // Null where the node has none.
+    SoField* randomField()
     {
         const SoNode* node = randomPath().getTail();
         const SoFieldData* data = node->getFieldData();
-        if (data->getNumFields() == 0)
+        return data->getNumFields() == 0 ? nullptr : data->getField(node, random(data->getNumFields()));
+    }
+    void editField()
+    {
+        SoField* field = randomField();
+        if (!field)
             return;
-        SoField* field = data->getField(node, random(data->getNumFields()));
+        if (random(6) == 0)
+            return edit(*field,
+                        [&] { SpxFieldEdit::setSource(field, random(3) == 0 ? nullptr : randomField()); });
         edit(*field, [&] {
             auto* list = dynamic_cast<SoMField*>(field);
             if (list && random(2) == 0)

@@ -5,6 +5,7 @@
 #include "window/SceneFiles.h"
 
 #include <QClipboard>
+#include <QMessageBox>
 #include <QTemporaryDir>
 
 namespace
@@ -118,6 +119,43 @@ TEST_F(Patches, ThatDoNotFitAreListedAndTheRestIsApplied)
     EXPECT_TRUE(patches.apply(fileOf("root.xsgpatch")));
     EXPECT_TRUE(told.last().contains("1 did not fit"));
     EXPECT_EQ(text(), before);
+}
+
+TEST_F(Patches, AreOfferedWhereTheyAreOpenedLikeAScene)
+{
+    const QString path = fileOf("opened.xsgpatch");
+    write(path, "#XsgPatch V1.0 utf8\nset /left/box.width 7\n");
+    notifier.setAttended(true);
+    const auto answer = [&](bool applies) {
+        window.openFile(path);
+        auto* box = window.findChild<QMessageBox*>("patchOffer");
+        ASSERT_TRUE(box);
+        EXPECT_TRUE(rows().isEmpty());
+        QTest::mouseClick(applies ? static_cast<QAbstractButton*>(box->defaultButton())
+                                  : box->button(QMessageBox::Cancel),
+                          Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    answer(false);
+    EXPECT_TRUE(rows().isEmpty());
+    answer(true);
+    EXPECT_EQ(rows(), QStringList("/left/box.width: 2 → 7"));
+    notifier.setAttended(false);
+}
+
+TEST_F(ChangesWindow, PatchesNeedAScene)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("lonely.xsgpatch");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#XsgPatch V1.0 utf8\nset /left/box.width 7\n");
+    file.close();
+    window.openFile(path);
+    EXPECT_EQ(done, QList<bool>{false});
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told.front().contains("lonely.xsgpatch” is a patch, and no scene is open"))
+        << told.front().toStdString();
 }
 
 TEST_F(Patches, CanBeDroppedOnTheWindow)

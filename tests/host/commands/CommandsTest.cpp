@@ -59,6 +59,20 @@ TEST_F(Commands, SetTakesTextsFormulasAndUnits)
     EXPECT_EQ(run({"print", "lamp.xsg", "Glass.diffuseColor"}).out, "[ 0 1 0 ]\n");
 }
 
+TEST_F(Commands, SetKnowsUnitsAndLimitsOfEachField)
+{
+    const auto set = [this](const char* change) { return run({"set", "lamp.xsg", change}).status; };
+    EXPECT_EQ(set("Bulb.radius=0"), 0);
+    EXPECT_EQ(set("Eye.heightAngle=180deg"), 0);
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=-3"}, "it has to be 0 or more.");
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=x-1 cm"}, "it has to be 0 or more.");
+    expectRefusal({"set", "lamp.xsg", "Bulb.radius=90deg"}, "deg");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=181deg"}, "it has to be 0 to 3.1415927.");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=4"}, "it has to be 0 to 3.1415927.");
+    expectRefusal({"set", "lamp.xsg", "Eye.heightAngle=3 cm"}, "cm");
+    expectRefusal({"set", "lamp.xsg", "Glass.shininess=30 cm"}, "cm");
+}
+
 TEST_F(Commands, SetWritesAnotherFileOrStandardOutput)
 {
     const QByteArray wanted = QByteArray(lamp()).replace("width: 3", "width: 5");
@@ -190,9 +204,24 @@ TEST_F(Commands, PictureDrawsWithoutADisplay)
     expectRefusal({"picture", "lamp.xsg", "out.png", "--frames", "0"}, "--frames expects a number");
     expectRefusal({"picture", "lamp.xsg", "out.png", "--background", "red"},
                   "--background expects three numbers");
+    expectRefusal({"picture", "lamp.xsg", "out.png", "--tone-mapping", "loud"},
+                  "--tone-mapping expects none, neutral or filmic");
     expectRefusal({"picture", "lamp.xsg", "out.png", "--camera", "/Bulb"}, "is no camera");
     expectRefusal({"picture", "lamp.xsg", "out.txt"}, "expected to end in");
     expectRefusal({"picture", "nowhere.xsg", "out.png"}, "nowhere.xsg");
+}
+
+TEST_F(Commands, PictureMapsBrightLightAsItIsAsked)
+{
+    write("glow.xsg", "#Xsg V1.0 utf8\nSeparator { PhysicalMaterial { emissiveColor: 2 1 0.5 } Cube { } }");
+    QList<QImage> seen;
+    for (const char* kind : {"none", "neutral", "filmic"}) {
+        EXPECT_EQ(run({"picture", "glow.xsg", "out.png", "--size", "40x30", "--tone-mapping", kind}).status,
+                  0);
+        const QImage picture(folder.filePath("out.png"));
+        EXPECT_FALSE(seen.contains(picture)) << kind;
+        seen << picture;
+    }
 }
 
 TEST_F(Commands, PictureDrawsFramesAsTimePasses)

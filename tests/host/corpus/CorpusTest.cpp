@@ -8,9 +8,18 @@
 #include "model/ModelFormats.h"
 #include "reader/MemoryLimit.h"
 
+#include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoSearchAction.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/animation/SoAnimation.h>
+#include <xsg/nodes/animation/SoMorph.h>
+#include <xsg/nodes/animation/SoSkin.h>
+#include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/lights/SoEnvironmentLight.h>
 #include <xsg/nodes/lights/SoLight.h>
+#include <xsg/nodes/properties/SoMaterialTexture.h>
+#include <xsg/nodes/properties/SoPhysicalMaterial.h>
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 
 #include <assimp/Importer.hpp>
@@ -120,15 +129,124 @@ SbBox3f boxOf(const FlatScene& scene)
 }
 
 template <class Node>
-std::size_t count(SoNode& scene)
+std::vector<const Node*> all(SoNode& scene)
 {
     SoSearchAction search;
     search.setType(Node::getClassTypeId());
     search.setLimit(-1);
-    return search.apply(&scene).size();
+    std::vector<const Node*> nodes;
+    for (const SoPath& path : search.apply(&scene))
+        nodes.push_back(static_cast<const Node*>(path.getTail()));
+    return nodes;
 }
 
-// What was exported is there again: every point in its place, as far as numbers in a file keep that.
+template <class Node>
+std::size_t count(SoNode& scene)
+{
+    return all<Node>(scene).size();
+}
+
+// Every point in its place, as far as numbers in a file keep that.
+void comparePoints(SoNode& scene, SoNode& copy)
+{
+    const FlatScene before = flatten(scene);
+    const FlatScene after = flatten(copy);
+    ASSERT_EQ(before.meshes.size(), after.meshes.size());
+    const float tolerance =
+        1e-5F * std::max(boxOf(before).getSize().length(), boxOf(before).getMax().length());
+    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
+        const SoGeometry& mine = before.meshes[i].geometry;
+        const SoGeometry& theirs = after.meshes[i].geometry;
+        ASSERT_EQ(mine.index.size(), theirs.index.size());
+        for (std::size_t k = 0; k < mine.index.size(); ++k)
+            ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
+    }
+}
+
+// Names have no blanks there, and nothing is without a name.
+std::string textWithoutName(const SoNode& node)
+{
+    const SoRef<SoNode> copy(static_cast<SoNode*>(node.getTypeId().createInstance()));
+    for (int i = 0; i < node.getFieldData()->getNumFields(); ++i)
+        copy->getFieldData()->getField(copy.get(), i)->copyFrom(*node.getFieldData()->getField(&node, i));
+    return SoSceneFile::writeText(copy.get());
+}
+
+void comparePictures(const SoTexture2* mine, const SoTexture2* theirs)
+{
+    ASSERT_EQ(mine != nullptr, theirs != nullptr);
+    if (!mine)
+        return;
+    EXPECT_TRUE(mine->image.isSame(theirs->image));
+    EXPECT_EQ(mine->wrapS.getValue(), theirs->wrapS.getValue());
+    EXPECT_EQ(mine->wrapT.getValue(), theirs->wrapT.getValue());
+}
+
+// What is physically based looks the same; other materials become such ones.
+void compareMaterials(const FlatScene& before, const FlatScene& after)
+{
+    ASSERT_EQ(before.materials.size(), after.materials.size());
+    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
+        const ExportedMaterial& mine = before.materials[before.meshes[i].material];
+        const ExportedMaterial& theirs = after.materials[after.meshes[i].material];
+        comparePictures(mine.texture, theirs.texture);
+        if (!mine.physical)
+            continue;
+        ASSERT_TRUE(theirs.physical);
+        if (!mine.isColored) {
+            EXPECT_EQ(textWithoutName(*mine.physical), textWithoutName(*theirs.physical));
+        }
+        ASSERT_EQ(mine.textures.size(), theirs.textures.size());
+        for (std::size_t use = 0; use < mine.textures.size(); ++use)
+            comparePictures(mine.textures[use], theirs.textures[use]);
+    }
+}
+
+void compareSurroundings(SoNode& scene, SoNode& copy)
+{
+    const auto mine = all<SoEnvironmentLight>(scene);
+    const auto theirs = all<SoEnvironmentLight>(copy);
+    if (mine.empty())
+        return; // the copy has physically based materials, and so has surroundings
+    ASSERT_EQ(mine.size(), theirs.size());
+    for (std::size_t i = 0; i < mine.size(); ++i)
+        EXPECT_EQ(textWithoutName(*mine[i]), textWithoutName(*theirs[i]));
+}
+
+// Clips move the copy as they move the scene.
+void compareMotion(SoNode& scene, SoNode& copy)
+{
+    const auto clips = SoAnimation::findBelow(scene);
+    const auto copies = SoAnimation::findBelow(copy);
+    ASSERT_EQ(clips.size(), copies.size());
+    EXPECT_EQ(count<SoTrack>(scene), count<SoTrack>(copy));
+    EXPECT_EQ(count<SoSkin>(scene), count<SoSkin>(copy));
+    EXPECT_EQ(count<SoMorph>(scene), count<SoMorph>(copy));
+    for (std::size_t i = 0; i < clips.size(); ++i) {
+        SCOPED_TRACE("clip " + std::to_string(i));
+        for (const double share : {0.0, 0.37, 1.0}) {
+            clips[i]->goTo(share * clips[i]->getDuration());
+            copies[i]->goTo(share * clips[i]->getDuration());
+            comparePoints(scene, copy);
+        }
+        clips[i]->stop();
+        copies[i]->stop();
+    }
+}
+
+// The box around a scene is about that of its points, however deep these stand in it.
+void checkBox(SoNode& scene)
+{
+    const SbBox3f points = boxOf(flatten(scene));
+    const SbBox3f box = SoBoundingBoxAction().getBox(&scene);
+    ASSERT_EQ(points.isEmpty(), box.isEmpty());
+    const float tolerance =
+        0.25F * std::max({points.getSize().length(), points.getMin().length(), points.getMax().length()});
+    EXPECT_LE((points.getMin() - box.getMin()).length(), tolerance);
+    EXPECT_LE((points.getMax() - box.getMax()).length(), tolerance);
+}
+
+// What was exported is there again.
 void checkCopy(SoNode& scene)
 {
     const QTemporaryDir folder;
@@ -144,16 +262,10 @@ void checkCopy(SoNode& scene)
     EXPECT_EQ(count<SoLight>(*copy.scene) + std::size_t(before.leftOut.value("ambient lights")),
               count<SoLight>(scene));
     EXPECT_EQ(count<SoCamera>(*copy.scene), count<SoCamera>(scene));
-    EXPECT_EQ(before.materials.size(), after.materials.size());
-    const float tolerance =
-        1e-5F * std::max(boxOf(before).getSize().length(), boxOf(before).getMax().length());
-    for (std::size_t i = 0; i < before.meshes.size(); ++i) {
-        const SoGeometry& mine = before.meshes[i].geometry;
-        const SoGeometry& theirs = after.meshes[i].geometry;
-        ASSERT_EQ(mine.index.size(), theirs.index.size());
-        for (std::size_t k = 0; k < mine.index.size(); ++k)
-            ASSERT_LE((mine.points[mine.index[k]] - theirs.points[theirs.index[k]]).length(), tolerance);
-    }
+    compareMaterials(before, after);
+    compareSurroundings(scene, *copy.scene);
+    comparePoints(scene, *copy.scene);
+    compareMotion(scene, *copy.scene);
 }
 
 void check(const QString& path)
@@ -163,6 +275,7 @@ void check(const QString& path)
     const Outcome outcome = open(path);
     if (outcome.scene) {
         EXPECT_EQ(trianglesIn(outcome.scene.get()), expected);
+        checkBox(*outcome.scene);
         checkCopy(*outcome.scene);
         return;
     }

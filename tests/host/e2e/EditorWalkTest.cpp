@@ -5,6 +5,7 @@
 // way, SCOPIX_WALK_STEPS another length.
 #include "Gallery.h"
 
+#include <support/RandomWalk.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 
@@ -21,13 +22,6 @@
 
 namespace
 {
-
-int fromEnvironment(const char* name, int fallback)
-{
-    bool isSet = false;
-    const int value = qEnvironmentVariableIntValue(name, &isSet);
-    return isSet ? value : fallback;
-}
 
 class EditorWalk : public testing::Test
 {

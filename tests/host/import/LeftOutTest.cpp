@@ -101,6 +101,7 @@ TEST_F(LeftOut, CountsLightsThatAnAnimationMoves)
     scene.mRootNode->addChildren(1, &arm);
     scene.mNumLights = 2;
     scene.mLights = new aiLight* [2] { new aiLight, new aiLight };
+    scene.mLights[0]->mType = scene.mLights[1]->mType = aiLightSource_POINT;
     scene.mLights[0]->mName = "lamp";
     scene.mLights[1]->mName = "still";
     EXPECT_EQ(partsLeftOut(scene).join('\n'), "");
@@ -136,6 +137,97 @@ TEST_F(LeftOut, CountsTheMapsOfMaterials)
                    json(R"([{}])")};
     EXPECT_EQ(notesOf(gltf), "The sheen of 1 material is left out.\n"
                              "The transmission of 1 material is shown as transparency.");
+}
+
+TEST_F(LeftOut, CountsWhatMaterialsCannotShow)
+{
+    QJsonObject gltf = triangle();
+    gltf["materials"] =
+        QJsonArray{json(R"([{"extensions": {"KHR_materials_unlit": {}, "KHR_materials_iridescence": {},
+                  "KHR_materials_specular": {"specularFactor": 0.5}}}])"),
+                   json(R"([{"extensions": {"KHR_materials_ior": {"ior": 1.3}, "KHR_materials_specular": {},
+                  "KHR_materials_volume": {"thicknessFactor": 2}}}])")};
+    gltf["extensionsUsed"] =
+        QJsonArray{"KHR_materials_unlit", "KHR_materials_iridescence", "KHR_materials_specular",
+                   "KHR_materials_ior", "KHR_materials_volume"};
+    EXPECT_EQ(notesOf(gltf),
+              "1 material is to be shown without light, and is lit.\n"
+              "The refraction of 1 material is left out.\n"
+              "The volume of 1 material is left out.\n"
+              "What the file says once by the extension “KHR_materials_iridescence” is left out.\n"
+              "What the file says 2 times by the extension “KHR_materials_specular” is left out.");
+}
+
+TEST_F(LeftOut, NamesPropertiesThatItDoesNotKnow)
+{
+    aiScene scene;
+    scene.mRootNode = new aiNode("root");
+    scene.mNumMeshes = 1;
+    scene.mMeshes = new aiMesh* [1] { new aiMesh };
+    scene.mMeshes[0]->mPrimitiveTypes = aiPrimitiveType_TRIANGLE;
+    scene.mNumMaterials = 1;
+    scene.mMaterials = new aiMaterial* [1] { new aiMaterial };
+    aiMaterial& material = *scene.mMaterials[0];
+    const float half = 0.5F;
+    material.AddProperty(&half, 1, "$mat.opacity", 0, 0);
+    material.AddProperty(&half, 1, "$mat.reflectivity", 0, 0);
+    EXPECT_EQ(partsLeftOut(scene).join('\n'), "The reflectivity of 1 material is left out.");
+    material.AddProperty(&half, 1, "$mat.glitter", 0, 0);
+    EXPECT_EQ(partsLeftOut(scene).last(),
+              QString::fromUtf8("1 property of materials is not known here and left out: “$mat.glitter”."));
+    scene.mMeshes[0]->mPrimitiveTypes = aiPrimitiveType_POINT;
+    EXPECT_TRUE(partsLeftOut(scene).isEmpty());
+}
+
+TEST_F(LeftOut, CountsCoordinatesAndColoursOfPoints)
+{
+    aiScene scene;
+    scene.mRootNode = new aiNode("root");
+    scene.mNumMeshes = 1;
+    scene.mMeshes = new aiMesh* [1] { new aiMesh };
+    scene.mNumMaterials = 1;
+    scene.mMaterials = new aiMaterial* [1] { new aiMaterial };
+    aiMesh& mesh = *scene.mMeshes[0];
+    mesh.mNumVertices = 1;
+    mesh.mTextureCoords[0] = new aiVector3D[1];
+    mesh.mColors[0] = new aiColor4D[1]{{1, 1, 1, 1}};
+    EXPECT_TRUE(partsLeftOut(scene).isEmpty());
+    mesh.mTextureCoords[1] = new aiVector3D[1];
+    mesh.mColors[0]->a = 0.5F;
+    mesh.mColors[1] = new aiColor4D[1];
+    EXPECT_EQ(partsLeftOut(scene).join('\n'),
+              "1 list of texture coordinates is left out, which no picture uses.\n"
+              "The further colours of the points of 1 mesh are left out.\n"
+              "How transparent the points of 1 mesh are is left out.");
+}
+
+TEST_F(LeftOut, IsAMaterialThatWouldNeverBeSeen)
+{
+    const QByteArray mesh = "mtllib glass.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl glass\nf 1 2 3\n";
+    const QString path = files.write("glass.obj", mesh);
+    files.write("glass.mtl", "newmtl glass\nd 0.25\n");
+    EXPECT_EQ(notesOf(path), "");
+    EXPECT_EQ(readModel(path).data.materials.back().transparency, 0.75F);
+    files.write("glass.mtl", "newmtl glass\nd 0\n");
+    EXPECT_EQ(notesOf(path), "1 material, of which nothing would be seen, is shown opaque.");
+    EXPECT_EQ(readModel(path).data.materials.back().transparency, 0);
+}
+
+// The transform may say anew which coordinates a picture has.
+TEST_F(LeftOut, IsNoTransformOfAPicture)
+{
+    QImage(2, 2, QImage::Format_RGB32).save(files.path("a.png"));
+    QJsonObject gltf = triangle();
+    gltf["materials"] = QJsonArray{
+        json(R"([{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0}}, "emissiveTexture": {"index": 0,
+                 "extensions": {"KHR_texture_transform": {"texCoord": 1, "scale": [2, 2]}}}}])"),
+        json(R"([{}])")};
+    const float corners[9] = {0, 0, 0, 1, 0, 0, 0, 1, 0};
+    files.write("triangle.bin", QByteArray(reinterpret_cast<const char*>(corners), sizeof corners));
+    const ModelReadResult model = readModel(files.write("model.gltf", QJsonDocument(gltf).toJson()));
+    ASSERT_EQ(model.data.materials[0].pictures.size(), 2U);
+    EXPECT_EQ(model.data.materials[0].pictures[1].coordinates, 1);
+    EXPECT_EQ(model.data.materials[0].pictures[1].scaleFactor, SbVec2f(2, 2));
 }
 
 TEST_F(LeftOut, NamesMissingPictures)

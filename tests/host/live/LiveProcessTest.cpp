@@ -11,6 +11,7 @@
 #include <xsg/core/SoField.h>
 #include <xsg/fields/SoSFFloat.h>
 
+#include <QAction>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -185,4 +186,46 @@ TEST_F(LiveProcess, OffersTheChangesOfAKilledRunToTheNextOne)
     height = findField(*acts.getScene(), "height");
     ASSERT_TRUE(height);
     EXPECT_EQ(height->getValue(), 4.75F);
+}
+
+TEST_F(LiveProcess, IsLaunchedAgainFromTheWindowWithTheChangesOfTheLastRun)
+{
+    UserNotifier notifier;
+    MainWindow window(services, notifier);
+    LiveActs& acts = window.getLive();
+    QSignalSpy attached(&acts, &LiveActs::attached);
+    auto* again = window.findChild<QAction*>("launchAgainAction");
+    ASSERT_TRUE(again);
+    EXPECT_FALSE(again->isEnabled());
+    acts.launch(mill());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 1; }, 20000));
+    EXPECT_TRUE(again->isEnabled());
+    const auto pid = [&] { return static_cast<pid_t>(acts.getScene()->getLink().program().pid); };
+    const pid_t first = pid();
+    SoSFFloat* height = findField(*acts.getScene(), "height");
+    ASSERT_TRUE(height);
+    height->setValue(4.75F);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    auto* offer = window.findChild<QPushButton*>("liveOffer");
+    ASSERT_TRUE(offer);
+    EXPECT_TRUE(offer->isHidden());
+    ASSERT_EQ(::kill(first, SIGKILL), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !offer->isHidden(); }));
+    offer->click();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }, 20000));
+    EXPECT_NE(pid(), first);
+    EXPECT_TRUE(offer->isHidden());
+    auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
+    ASSERT_TRUE(box);
+    box->buttons().first()->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    EXPECT_EQ(::kill(pid(), SIGKILL), 0);
+}
+
+TEST(LaunchDialog, SplitsArgumentsAsACommandLineDoes)
+{
+    const LaunchOrder order{{"/opt/a viewer", "--scene", "my \"best\" scene.osgt"}, "/tmp"};
+    const LaunchDialog dialog(order, nullptr);
+    EXPECT_EQ(dialog.getOrder().command, order.command);
+    EXPECT_EQ(dialog.getOrder().folder, order.folder);
 }

@@ -2,6 +2,7 @@
 // Values of programs as fields, and back to the last bit.
 #include "live/LiveValues.h"
 
+#include <scopix/live/protocol/Contents.h>
 #include <scopix/live/values/LivePacking.h>
 #include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFBitMask.h>
@@ -161,4 +162,32 @@ TEST(LiveValues, NameFieldsByOneHarmlessLine)
 {
     EXPECT_STREQ(liveName("a\nb\tc").getString(), "a b c");
     EXPECT_STREQ(liveName("\xC3\xA9").getString(), "\xE9");
+}
+
+TEST(LiveValues, HaveAFieldForEveryKind)
+{
+    const auto last = static_cast<int>(live::greatestOf(ValueKind()));
+    for (int number = 1; number <= last; ++number) {
+        SCOPED_TRACE(number);
+        const auto kind = static_cast<ValueKind>(number);
+        Value one = live::packed(kind, std::uint8_t(0));
+        if (kind == ValueKind::Object)
+            continue; // becomes a child
+        if (kind == ValueKind::String || kind == ValueKind::Text)
+            one = live::packedText("a", kind);
+        else if (kind == ValueKind::Image)
+            one = live::packedImage(0, 0, 0, nullptr);
+        else
+            one.bytes.resize(live::elementSize(kind));
+        ASSERT_TRUE(isWellFormed(one));
+        const auto field = fieldFor(one);
+        ASSERT_TRUE(field);
+        EXPECT_TRUE(showLiveValue(one, *field));
+        EXPECT_TRUE(liveValueOf(*field, one) == one);
+        Value list = one;
+        list.list = true;
+        const auto fields = fieldFor(list);
+        EXPECT_EQ(fields != nullptr, kind != ValueKind::Image) << "lists of pictures are not shown";
+        EXPECT_TRUE(!fields || (showLiveValue(list, *fields) && liveValueOf(*fields, list) == list));
+    }
 }

@@ -41,6 +41,10 @@ public:
     live::Abilities offers{true, true, true, true, true, true, true};
     std::vector<NodeId> marked;
     std::set<NodeId> watched;
+    std::vector<NodeId> forgotten;
+    NodeId lastMade = 5000;
+    live::FrameTable frames;
+    int writes = 0;
     int childQuestions = 0;
     int valueQuestions = 0;
     std::uint32_t pictureWidth = 0;
@@ -113,6 +117,7 @@ public:
         if (refused.count(property) > 0 || value.kind != here.kind || value.list != here.list)
             return {false, here, "It is not to its liking."};
         here = clamped(id, property, value);
+        ++writes;
         return {true, here, {}};
     }
     live::StructureResult remove(NodeId parent, std::uint32_t index) override
@@ -132,6 +137,33 @@ public:
         children.insert(children.begin() + index, id);
         return {true, id, {}};
     }
+    std::vector<std::string> addableTypes(NodeId id) override
+    {
+        return nodes[id].info.canHaveChildren || !nodes[id].children.empty()
+                   ? std::vector<std::string>{"Comet", "Moon", "Planet"}
+                   : std::vector<std::string>{};
+    }
+    live::StructureResult add(NodeId parent, std::uint32_t index, const std::string& type) override
+    {
+        if (refused.count(type) > 0)
+            return {false, 0, "It has enough of them."};
+        const NodeId made = ++lastMade;
+        nodes[made].info = {made, type, "made" + std::to_string(made), 0, 1, false};
+        return insert(parent, index, made);
+    }
+    live::StructureResult copy(NodeId parent, std::uint32_t index, NodeId id) override
+    {
+        if (nodes.count(id) == 0 || refused.count("copies") > 0)
+            return {false, 0, "It is the only one of its kind."};
+        const NodeId made = ++lastMade;
+        Node copied = nodes[id];
+        copied.info.id = made;
+        copied.info.name += " again";
+        nodes[made] = copied;
+        return insert(parent, index, made);
+    }
+    void forget(NodeId id) override { forgotten.push_back(id); }
+    live::FrameTable takeFrames() override { return std::exchange(frames, {}); }
     void watch(NodeId id, bool) override { watched.insert(id); }
     void unwatch(NodeId id) override { watched.erase(id); }
     live::AdapterChanges takeChanges() override { return std::exchange(changes, {}); }

@@ -5,6 +5,8 @@
 
 #include "../view/HandleWalk.h"
 
+#include <support/RandomWalk.h>
+
 #include <QRandomGenerator>
 
 namespace
@@ -13,13 +15,6 @@ namespace
 constexpr int FewestNodes = 10;
 constexpr int MostNodes = 400;
 
-int fromEnvironment(const char* name, int otherwise)
-{
-    bool isSet = false;
-    const int value = qEnvironmentVariableIntValue(name, &isSet);
-    return isSet ? value : otherwise;
-}
-
 class StructureWalk : public TreeWindow, public testing::WithParamInterface<const char*>
 {
 protected:
@@ -27,14 +22,7 @@ protected:
 
     SoPath randomPath()
     {
-        SoPath path;
-        path.append(window.getScene());
-        while (const SoGroup* group = path.getTail()->asGroup()) {
-            if (group->getNumChildren() == 0 || random(4) == 0)
-                break;
-            path.append(group->getChild(random(group->getNumChildren())));
-        }
-        return path;
+        return ::randomPath(window.getScene(), [this](int below) { return random(below); });
     }
     Paths randomPaths()
     {

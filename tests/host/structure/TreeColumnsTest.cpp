@@ -3,7 +3,12 @@
 #include "panels/NodeFigures.h"
 #include "text/NodeText.h"
 
+#include <scopix/SpxTreeColumns.h>
+#include <xsg/nodes/shapes/SoShape.h>
+
 #include <QHeaderView>
+
+#include <stdexcept>
 
 namespace
 {
@@ -135,6 +140,83 @@ TEST_F(TreeColumnsShown, AreChosenInTheMenuAndKept)
     EXPECT_TRUE(other.getTree().isColumnShown(SceneTreeModel::TrianglesColumn));
     EXPECT_FALSE(other.getTree().isColumnShown(SceneTreeModel::MemoryColumn));
     triangles->setChecked(false);
+}
+
+namespace
+{
+
+// How long the names of nodes are, of all but cubes; and half of that.
+class NameLengths : public SpxTreeColumnProvider
+{
+public:
+    int getNumColumns() const override { return 2; }
+    QString getColumnKey(int column) const override { return QStringLiteral("names.%1").arg(column); }
+    QString getColumnCaption(int column) const override { return column == 0 ? "Length" : "Half"; }
+    bool isColumnShownAtFirst(int column) const override { return column == 0; }
+    QVariant getColumnValue(int column, const SoNode& node) const override
+    {
+        if (fails)
+            throw std::runtime_error("no lengths");
+        const int length = node.getName().getLength() * factor;
+        return node.isOfType(SoShape::getClassTypeId()) ? QVariant()
+               : column == 0                            ? QVariant(length)
+                                                        : QVariant(length / 2.0);
+    }
+    int factor = 1;
+    bool fails = false;
+};
+
+} // namespace
+
+TEST_F(TreeColumnsShown, ProvidersAddTheirs)
+{
+    NameLengths lengths;
+    click("Lamp");
+    window.setTreeColumns({&lengths});
+    constexpr int Length = SceneTreeModel::ColumnCount;
+    EXPECT_EQ(tree.getModel().headerData(Length, Qt::Horizontal).toString(), "Length");
+    EXPECT_EQ(textOf("House", Length), "5");
+    EXPECT_EQ(textOf("House", Length + 1), QLocale().toString(2.5, 'f', 3));
+    EXPECT_EQ(textOf("Wall", Length), "");
+    EXPECT_TRUE(tree.isColumnShown(Length));
+    EXPECT_FALSE(tree.isColumnShown(Length + 1));
+    EXPECT_EQ(selectedNames(), QStringList("Lamp(Paint Bulb)"));
+    tree.sortRows(Length, Qt::DescendingOrder);
+    EXPECT_EQ(rowsOf("Street"), QStringList({"Corners", "Garage", "House", "Lamp"}));
+    lengths.factor = -1;
+    window.updateTreeColumns();
+    EXPECT_EQ(rowsOf("Street"), QStringList({"Lamp", "House", "Garage", "Corners"}));
+    lengths.fails = true;
+    EXPECT_EQ(textOf("House", Length), "");
+    window.setTreeColumns({});
+    EXPECT_EQ(tree.getModel().columnCount(), SceneTreeModel::ColumnCount);
+    EXPECT_EQ(rowsOf("Street"), QStringList({"House", "Lamp", "Garage", "Corners"}));
+    EXPECT_EQ(selectedNames(), QStringList("Lamp(Paint Bulb)"));
+}
+
+TEST_F(TreeColumnsShown, ProvidersColumnsAreKeptAsTheUserWantsThem)
+{
+    NameLengths lengths;
+    constexpr int Length = SceneTreeModel::ColumnCount;
+    const auto toggle = [this](const char* caption) {
+        for (QAction* each : window.findChildren<QAction*>()) {
+            if (each->text() == caption)
+                each->toggle();
+        }
+    };
+    for (int time = 0; time < 2; ++time) { // there and back
+        const bool isFirst = time == 0;
+        window.setTreeColumns({&lengths});
+        EXPECT_EQ(tree.isColumnShown(Length), isFirst);
+        toggle("Length");
+        toggle("Half");
+        window.setTreeColumns({});
+        HostServices otherServices;
+        MainWindow other(otherServices, notifier);
+        other.setTreeColumns({&lengths});
+        EXPECT_EQ(other.getTree().isColumnShown(Length), !isFirst);
+        EXPECT_EQ(other.getTree().isColumnShown(Length + 1), isFirst);
+    }
 }
 
 TEST(NodeNames, AreToldAsPeopleReadThem)

@@ -45,6 +45,8 @@ TEST(CommandLine, TakesHowAPictureIsMade)
     EXPECT_EQ(line.turntable, 12);
     EXPECT_TRUE(line.isUnattended());
     EXPECT_EQ(parse({"--picture", "out.png"}).turntable, 1);
+    EXPECT_EQ(parse({"a.glb", "--tone-mapping", "filmic"}).toneMapping, "filmic");
+    EXPECT_EQ(parse({"a.glb"}).toneMapping, "");
 }
 
 TEST(CommandLine, TakesTheFileToSaveTo)
@@ -64,10 +66,11 @@ TEST(CommandLine, HasNoOptionsByDefault)
 
 TEST(CommandLine, HelpListsEveryOption)
 {
-    for (const char* option : {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>",
-                               "--screenshot <OUT.png>", "--picture <OUT.png>", "--size <WIDTHxHEIGHT>",
-                               "--transparent", "--turntable <NUMBER>", "--save <OUT>", "--quit",
-                               "--counters", "--attach", "--launch", "--list-live", "--help", "--version"})
+    for (const char* option :
+         {"--plugin <PATH>", "--profile <NAME>", "--select <NODE.FIELD>", "--screenshot <OUT.png>",
+          "--picture <OUT.png>", "--size <WIDTHxHEIGHT>", "--transparent", "--turntable <NUMBER>",
+          "--tone-mapping <KIND>", "--save <OUT>", "--quit", "--counters", "--attach", "--launch",
+          "--list-live", "--help", "--version"})
         EXPECT_TRUE(CommandLine::helpText().contains(QLatin1String(option))) << option;
     EXPECT_TRUE(CommandLine::versionText().contains(QRegularExpression("^scopix \\d+\\.\\d+\\.\\d+\n$")));
     EXPECT_TRUE(parse({"--help"}).help);
@@ -123,6 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Bad{{"--picture", "a.png", "--size", "640"}, "WIDTHxHEIGHT"},
                       Bad{{"--picture", "a.png", "--size", "-1x5"}, "WIDTHxHEIGHT"},
                       Bad{{"--picture", "a.png", "--turntable", "1"}, "2 or more"},
+                      Bad{{"--tone-mapping", "loud"}, "none, neutral or filmic"},
                       Bad{{"--transparent"}, "--picture OUT.png is missing"},
                       Bad{{"--size", "4x4"}, "--picture OUT.png is missing"},
                       Bad{{"--save", "b.glb"}, "no FILE"}, Bad{{"a.glb", "--save", ""}, "--save"},

@@ -141,6 +141,20 @@ TEST_F(FieldMenuOf, F1OpensThePageAtTheNode)
     EXPECT_FALSE(help->isVisible());
 }
 
+TEST_F(FieldMenuOf, F1OpensTheTutorialWhereNothingIsSelected)
+{
+    services.clearSelection();
+    QTest::keyClick(&window, Qt::Key_F1);
+    auto* help = window.findChild<HelpWindow*>();
+    ASSERT_TRUE(help);
+    EXPECT_EQ(help->windowTitle(), "Tutorial");
+    help->close();
+    services.select(material.get());
+    window.findChild<QAction*>("tutorialAction")->trigger();
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->windowTitle(), "Tutorial");
+}
+
 TEST_F(FieldMenuOf, LinksOfAPageLeadToPagesAndSections)
 {
     ASSERT_TRUE(window.showHelp("inspector", {}));

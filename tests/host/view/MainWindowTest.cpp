@@ -64,6 +64,9 @@ TEST_F(Window, StartsWithTheShippedScene)
     ASSERT_TRUE(window.getScene());
     EXPECT_EQ(window.getTree().getModel().getRoot(), window.getScene());
     EXPECT_TRUE(window.selectField("Glass", "transparency"));
+    EXPECT_TRUE(window.selectField("/Sky", "intensity"));
+    EXPECT_EQ(services.selectedNode(), window.getScene()->asGroup()->getChild(1));
+    EXPECT_FALSE(window.selectField("/Nowhere", "transparency"));
 }
 
 TEST_F(Window, OpensAModelAndSelectsAField)

@@ -387,6 +387,11 @@ TEST_F(Acts, BrightLightIsMappedAsIsChosenInTheMenu)
     }
     action("toneMapping1")->trigger();
     EXPECT_EQ(pictureOf(view), seen[1]);
+    action("toneMapping2")->trigger();
+    HostServices others;
+    const MainWindow next(others, notifier);
+    EXPECT_TRUE(next.findChild<QAction*>("toneMapping2")->isChecked()) << "it is remembered";
+    action("toneMapping1")->trigger();
 }
 
 // The pictures of docs/view.md come from here: SCOPIX_PICTURES names the folder that they go to.

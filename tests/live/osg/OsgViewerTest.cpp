@@ -204,6 +204,51 @@ TEST_F(OsgViewer, RemovesAndPutsBackWithWhatTheGroupKeepsForAChild)
     EXPECT_FALSE(probe.ask<StructureResult>(&Client::insert, levels, 0U, nodeNamed(probe, "world")).done);
 }
 
+TEST_F(OsgViewer, CopiesABranchWithItsValuesAndPropertiesOfItsOwn)
+{
+    const NodeId levels = nodeNamed(probe, "levels");
+    const NodeId first = probe.children(levels).at(0).id;
+    const auto copied = probe.ask<StructureResult>(&Client::copy, levels, 1U, first);
+    ASSERT_TRUE(copied.done) << copied.refusal;
+    ASSERT_EQ(probe.children(levels).size(), 3U);
+    const NodeInfo made = probe.children(levels).at(1);
+    EXPECT_EQ(made.id, copied.node);
+    EXPECT_EQ(made.name, probe.children(levels).at(0).name);
+    for (const PropertyInfo& info : probe.properties(first)) {
+        if (info.kind != ValueKind::Object && info.kind != ValueKind::Text) {
+            EXPECT_EQ(probe.value(made.id, info.name), probe.value(first, info.name)) << info.name;
+        }
+    }
+    const Value before = probe.value(first, "NodeMask").value_or(Value());
+    EXPECT_TRUE(probe.write(made.id, "NodeMask", packed(before.kind, std::uint32_t(3))).taken);
+    EXPECT_EQ(probe.value(first, "NodeMask"), before);
+    const auto camera = probe.ask<StructureResult>(&Client::copy, levels, 0U, NodeId(probe.roots().at(0).id));
+    EXPECT_FALSE(camera.done);
+    EXPECT_FALSE(camera.refusal.empty());
+}
+
+TEST_F(OsgViewer, TellsWhatEachFrameCost)
+{
+    probe.client.showFrames(true);
+    ASSERT_TRUE(probe.runUntil([&] { return probe.frames.size() >= 3; }));
+    const FrameTable& table = probe.frames.back();
+    const auto column = [&](const char* name) {
+        const auto found = std::find(table.columns.begin(), table.columns.end(), name);
+        return std::size_t(found - table.columns.begin());
+    };
+    ASSERT_LT(column("DrawCalls"), table.columns.size());
+    std::int64_t former = 0;
+    for (std::size_t row = 0; row < table.values.size(); row += table.columns.size()) {
+        const auto value = [&](const char* name) { return table.values[row + column(name)]; };
+        EXPECT_GT(value("Begin"), former);
+        former = value("Begin");
+        EXPECT_EQ(value("Whole"), value("Update") + value("Cull") + value("Draw"));
+        EXPECT_GT(value("Cull"), 0);
+        EXPECT_GT(value("Draw"), 0);
+        EXPECT_GT(value("DrawCalls"), 0);
+    }
+}
+
 TEST_F(OsgViewer, PicksWhatIsThereAndTellsItsBox)
 {
     PickResult hit;

@@ -88,7 +88,7 @@ const char* const NotUnderstood =
 TEST(Versions, ThatDifferAreNamed)
 {
     EXPECT_EQ(problemWith(introducedAs(7)), "Cannot attach to “fake”: it speaks version 7 of the protocol "
-                                            "and this inspector version 1; use libraries and "
+                                            "and this inspector version 2; use libraries and "
                                             "an inspector of the same version.");
     // Whatever follows the greeting there.
     Bytes later = packedMessage(MessageType::Hello, 0, Greeting{Greeting::ofThisProcess("fake", "Fake 9")},

@@ -110,6 +110,36 @@ TEST_F(Served, LeavesNothingBehindWhenTheLastInspectorGoes)
     EXPECT_EQ(scene.attachments, (std::vector<bool>{true, false}));
 }
 
+TEST_F(Served, CopiesNodesAndLetsGoOfRemovedOnesWhenAsked)
+{
+    const auto probe = attached();
+    EXPECT_EQ(probe->ask<StructureResult>(&Client::copy, ToyScene::Node, 5U, NodeId(3)).node, 3005U);
+    const auto removed = probe->ask<StructureResult>(&Client::remove, ToyScene::Node, 5U);
+    probe->client.forget(removed.node);
+    probe->client.forget(77); // which it has not removed
+    probe->roots();
+    EXPECT_EQ(scene.forgotten, std::vector<NodeId>{removed.node});
+}
+
+TEST_F(Served, SendsFramesToThoseWhoLookAtThem)
+{
+    const auto probe = attached();
+    const auto other = attached();
+    scene.frames = {{"Begin", "Draw"}, {1, 2, 3, 4}};
+    probe->client.showFrames(true);
+    ASSERT_TRUE(probe->runUntil([&] { return !probe->frames.empty(); }));
+    EXPECT_EQ(probe->frames.front().columns, scene.frames.columns);
+    EXPECT_EQ(probe->frames.front().values, scene.frames.values);
+    scene.frames.values.pop_back(); // no whole row
+    const std::size_t before = probe->frames.size();
+    const int asked = scene.framesAsked;
+    ASSERT_TRUE(probe->runUntil([&] { return scene.framesAsked > asked + 1; }));
+    probe->roots();
+    EXPECT_EQ(probe->frames.size(), before);
+    other->roots();
+    EXPECT_TRUE(other->frames.empty());
+}
+
 TEST_F(Served, SendsAShownValueWhenItDiffersAndOnlyThen)
 {
     const auto probe = attached();
@@ -264,7 +294,7 @@ TEST_F(Served, NamesTheVersionsWhereTheyDiffer)
     RawPeer newer(server->socketPath(), step());
     newer.greet(ProtocolVersion + 1);
     EXPECT_EQ(newer.awaitGoodbye(),
-              "The program “toy” speaks version 1 of the protocol and this inspector version 2; use "
+              "The program “toy” speaks version 2 of the protocol and this inspector version 3; use "
               "libraries and an inspector of the same version.");
     EXPECT_FALSE(server->isAttached());
 }

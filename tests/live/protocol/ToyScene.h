@@ -50,6 +50,16 @@ public:
     {
         return {true, 100 + index, {}};
     }
+    scopix::live::StructureResult copy(scopix::live::NodeId, std::uint32_t index,
+                                       scopix::live::NodeId node) override
+    {
+        return {true, 1000 * node + index, {}};
+    }
+    scopix::live::FrameTable takeFrames() override
+    {
+        ++framesAsked;
+        return frames;
+    }
     void forget(scopix::live::NodeId node) override { forgotten.push_back(node); }
     void watch(scopix::live::NodeId node, bool withValues) override { watched[node] = withValues; }
     void unwatch(scopix::live::NodeId node) override { watched.erase(node); }
@@ -72,4 +82,6 @@ public:
     scopix::live::NodeId marked = 0;
     std::vector<scopix::live::Notice> notices;
     std::vector<bool> attachments;
+    int framesAsked = 0;
+    scopix::live::FrameTable frames;
 };

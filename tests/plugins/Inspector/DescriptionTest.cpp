@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The table of what fields mean: complete, and the words that docs/nodes.md has.
-#include "fields/Description.h"
+#include "fields/FieldOrder.h"
 
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/base/SoNode.h>
 
@@ -47,9 +48,9 @@ std::map<Key, QString> meaningsOfThePage()
 TEST(Descriptions, AreThoseOfThePageOfNodes)
 {
     std::map<Key, QString> table;
-    for (const Description& each : allDescriptions())
+    for (const SpxFieldDescription& each : SpxFieldDescription::getAll())
         table[{text(each.node), text(each.field)}] = text(each.meaning);
-    EXPECT_EQ(table.size(), allDescriptions().size());
+    EXPECT_EQ(table.size(), SpxFieldDescription::getAll().size());
     const auto page = meaningsOfThePage();
     EXPECT_GT(page.size(), 80U);
     for (const auto& [key, meaning] : page) {
@@ -61,13 +62,13 @@ TEST(Descriptions, AreThoseOfThePageOfNodes)
 
 TEST(Descriptions, NameFieldsThatThereAre)
 {
-    for (const Description& each : allDescriptions()) {
+    for (const SpxFieldDescription& each : SpxFieldDescription::getAll()) {
         const SoType type = SoType::fromName(SbName(std::string(each.node).c_str()));
         ASSERT_FALSE(type.isBad()) << each.node;
         const SoRef<SoNode> node(dynamic_cast<SoNode*>(type.createInstance()));
         const SoField* field = node->getField(SbName(std::string(each.field).c_str()));
         ASSERT_TRUE(field) << each.node << '.' << each.field;
-        EXPECT_EQ(findDescription(*field), &each);
+        EXPECT_EQ(SpxFieldDescription::find(*field), &each);
         EXPECT_LE(each.softLow, each.softHigh);
         EXPECT_LE(each.hardLow, each.softLow) << each.field;
         EXPECT_GE(each.hardHigh, each.softHigh) << each.field;

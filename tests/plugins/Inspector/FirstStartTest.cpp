@@ -4,12 +4,16 @@
 #include "plugins/Inspector/InspectorSession.h"
 #include "window/MainWindow.h"
 
+#include <scopix/SpxExtension.h>
 #include <support/PlainModel.h>
 #include <xsg/actions/SoSearchAction.h>
 
+#include <QListView>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTextEdit>
+
+#include <iostream>
 
 namespace
 {
@@ -44,7 +48,14 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
         Session::settle();
     }
-    QString printed() { return dock("Console")->findChild<QTextEdit*>()->toPlainText(); }
+    QString printed()
+    {
+        const QAbstractItemModel* lines = dock("Log")->findChild<QListView*>("logLines")->model();
+        QString all;
+        for (int row = 0; row < lines->rowCount(); ++row)
+            all += lines->index(row, 0).data().toString() + '\n';
+        return all;
+    }
     QDockWidget* dock(const QString& title)
     {
         for (auto* each : window->findChildren<QDockWidget*>()) {
@@ -53,7 +64,7 @@ protected:
         }
         return nullptr;
     }
-    bool isFolded() { return dock("Console")->isVisible() && dock("Console")->widget()->height() == 0; }
+    bool isFolded() { return dock("Log")->isVisible() && dock("Log")->widget()->height() == 0; }
     QLineEdit* input(const QString& name)
     {
         for (auto* each : dock("Node Editor")->findChildren<QLineEdit*>()) {
@@ -78,12 +89,12 @@ protected:
 
 } // namespace
 
-TEST_F(FirstStart, ShowsThePanelAndFoldsTheConsoleUntilItHasSomethingToSay)
+TEST_F(FirstStart, ShowsThePanelAndFoldsTheLogUntilItHasSomethingToSay)
 {
     start();
     EXPECT_FALSE(dock("Performance Counters") && dock("Performance Counters")->isVisible());
     EXPECT_TRUE(isFolded()) << qPrintable(printed());
-    EXPECT_GT(dock("Console")->width(), window->width() / 3) << "its title is cut";
+    EXPECT_GT(dock("Log")->width(), window->width() / 3) << "its title is cut";
     clickWater();
     EXPECT_FALSE(dock("Node Editor")->widget()->visibleRegion().isEmpty());
     QLineEdit* transparency = input("transparency");
@@ -101,9 +112,9 @@ TEST_F(FirstStart, ShowsThePanelAndFoldsTheConsoleUntilItHasSomethingToSay)
         Session::settle();
         EXPECT_TRUE(window->saveScreenshot(QStringLiteral("%1/window-%2.png").arg(folder, name)));
     }
-    dock("Console")->findChild<QTextEdit*>()->append("something to say");
-    Session::settle();
-    EXPECT_FALSE(isFolded());
+    std::cout << "something to say\n";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isFolded(); }));
+    EXPECT_EQ(printed(), "something to say\n");
 }
 
 TEST_F(FirstStart, WhatIsFoldedStaysSoAndWhatIsNotComesBackOpen)
@@ -111,17 +122,17 @@ TEST_F(FirstStart, WhatIsFoldedStaysSoAndWhatIsNotComesBackOpen)
     start();
     start();
     EXPECT_TRUE(isFolded());
-    QTest::mouseClick(dock("Console"), Qt::LeftButton, {}, {5, 5});
+    QTest::mouseClick(dock("Log"), Qt::LeftButton, {}, {5, 5});
     Session::settle();
     EXPECT_FALSE(isFolded());
     start();
     EXPECT_FALSE(isFolded());
 }
 
-TEST_F(FirstStart, WhoHasALayoutAlreadyKeepsTheConsoleOpen)
+TEST_F(FirstStart, WhoHasALayoutAlreadyKeepsTheLogOpen)
 {
     start();
-    QTest::mouseClick(dock("Console"), Qt::LeftButton, {}, {5, 5});
+    QTest::mouseClick(dock("Log"), Qt::LeftButton, {}, {5, 5});
     m_host.reset();
     QSettings settings(m_home.path() + "/config/scopix/window.ini", QSettings::IniFormat);
     ASSERT_TRUE(settings.contains("layout"));
@@ -129,4 +140,34 @@ TEST_F(FirstStart, WhoHasALayoutAlreadyKeepsTheConsoleOpen)
     settings.sync();
     start();
     EXPECT_FALSE(isFolded());
+}
+
+TEST_F(FirstStart, ThePlainConsoleStaysBehindTheLogAndStandsAloneInClassic)
+{
+    start();
+    const auto use = [this](const char* profile) {
+        ASSERT_TRUE(m_host->plugins().profiles().useProfile(profile));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return (profile == QString("Classic")) == !dock("Log"); }));
+        Session::settle();
+    };
+    EXPECT_TRUE(dock("Console")->isHidden());
+    EXPECT_TRUE(dock("Log")->isVisible());
+    use("Classic");
+    EXPECT_TRUE(dock("Console")->isVisible());
+    use("Default");
+    EXPECT_TRUE(dock("Console")->isHidden());
+    // Hidden, it has all the same; and who shows it has it shown from then on.
+    std::cout << "heard by both\n";
+    EXPECT_TRUE(dock("Console")->findChild<QTextEdit*>()->toPlainText().contains("heard by both"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return printed().contains("heard by both"); }));
+    for (SpxExtension* each : m_host->shell().extensions()) {
+        if (each->getName() == "Console")
+            m_host->shell().setShown(each, true);
+    }
+    EXPECT_TRUE(dock("Console")->isVisible());
+    use("Classic");
+    use("Default");
+    EXPECT_TRUE(dock("Console")->isVisible());
+    start();
+    EXPECT_TRUE(dock("Console")->isVisible());
 }

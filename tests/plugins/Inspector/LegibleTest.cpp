@@ -3,13 +3,10 @@
 // the fonts of small and dense screens and in narrow docks.
 #include "plugins/Inspector/AllNodes.h"
 
+#include <support/WidgetWalk.h>
+
 #include <QAbstractScrollArea>
 #include <QAccessible>
-#include <QComboBox>
-#include <QLabel>
-#include <QStyleOptionComboBox>
-#include <QToolButton>
-#include <QToolTip>
 
 #include <array>
 
@@ -38,41 +35,10 @@ QList<QWidget*> inputsOf(QWidget& row)
     return inputs;
 }
 
-QString shownText(const QWidget& widget)
-{
-    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
-        return line->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        return QString(button->text()).remove('&');
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
-        return combo->currentText();
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        return label->text();
-    return {};
-}
-
-int roomFor(const QWidget& widget)
-{
-    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
-        return line->width() - line->textMargins().left() - 2;
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-        QStyleOptionComboBox option;
-        option.initFrom(combo);
-        option.editable = combo->isEditable();
-        return combo->style()
-            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
-            .width();
-    }
-    return widget.width();
-}
-
 // What the user is shown who points at it.
 QString toolTipOf(QWidget& widget, const QWidget& row)
 {
-    QToolTip::hideText();
-    QHelpEvent ask(QEvent::ToolTip, widget.rect().center(), widget.mapToGlobal(widget.rect().center()));
-    QApplication::sendEvent(&widget, &ask);
-    return QToolTip::text() + widget.toolTip() + row.toolTip();
+    return toolTipOf(widget) + row.toolTip();
 }
 
 struct Dense {

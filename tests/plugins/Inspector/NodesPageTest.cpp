@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // docs/nodes.md is what the tables of nodes and fields make of the library; SCOPIX_PAGES=FOLDER writes it
 // there.
-#include "fields/Description.h"
 #include "fields/NodeDescription.h"
 
 #include <scopix/editing/SpxText.h>
+#include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/fields/SoSFBox3f.h>
 #include <xsg/nodes/base/SoNode.h>
 
@@ -61,7 +61,7 @@ QString tableOf(const SoNode& node)
     QString table;
     for (int i = 0; i < data->getNumFields(); ++i) {
         const SoField& field = *data->getField(&node, i);
-        const Description* known = findDescription(field);
+        const SpxFieldDescription* known = SpxFieldDescription::find(field);
         table +=
             QStringLiteral("| `%1` | %2 | `%3` | %4 |\n")
                 .arg(SpxText::toQString(field.getName()), SpxText::toQString(field.getTypeId().getName()),

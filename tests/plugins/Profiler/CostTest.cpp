@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The dock "Cost" in the real host.
 #include "cost/CostPanel.h"
+#include "cost/HeatColors.h"
 #include "cost/TreeMap.h"
 
+#include "panels/SceneTreeView.h"
+#include "structure/SceneStates.h"
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 
@@ -56,6 +59,23 @@ protected:
         QTest::mouseClick(panel.findChild<QPushButton*>("measureCost"), Qt::LeftButton);
         EXPECT_TRUE(panel.getRun().isRunning());
         EXPECT_TRUE(QTest::qWaitFor([this] { return !panel.getRun().isRunning(); }, 240000));
+    }
+    MainWindow& window() { return static_cast<MainWindow&>(session.host.window()); }
+    QTreeWidgetItem* choose(const char* name)
+    {
+        auto* tree = panel.findChild<QTreeWidget*>("costTree");
+        QTreeWidgetItem* item = tree->findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
+        tree->setCurrentItem(item);
+        return item;
+    }
+    QString inTree(const SoNode* node, const char* caption)
+    {
+        const SceneTreeModel& model = window().getTree().getModel();
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (model.headerData(column, Qt::Horizontal) == caption)
+                return model.indexOf(node).siblingAtColumn(column).data().toString();
+        }
+        return "no column";
     }
     QString line() { return panel.findChild<QLabel*>("costLine")->text(); }
 
@@ -125,4 +145,132 @@ TEST_F(CostWidget, EndsWithASentenceWhenTheSceneChanges)
     EXPECT_TRUE(QTest::qWaitFor([this] { return !panel.getRun().isRunning(); }, 240000));
     EXPECT_TRUE(line().contains("the scene has changed meanwhile")) << qPrintable(line());
     EXPECT_FALSE(panel.findChild<QTreeWidget*>("costTree")->topLevelItem(0));
+}
+
+TEST_F(CostWidget, StandsInColumnsOfTheSceneTreeToo)
+{
+    measure();
+    const SoCosts& costs = panel.getRun().getCosts();
+    const auto number = [](double value) { return QLocale().toString(value, 'f', 0); };
+    EXPECT_EQ(inTree(root.get(), "Drawn triangles"),
+              number(static_cast<double>(costs.branches.front().triangles)));
+    EXPECT_EQ(inTree(small, "Drawn triangles"), "12");
+    EXPECT_EQ(inTree(large, "Pixels"), number(static_cast<double>(costs.find(large)->pixels)));
+    EXPECT_GT(costs.find(large)->pixels, 0);
+    EXPECT_EQ(inTree(large, "Draw calls"), number(static_cast<double>(costs.find(large)->drawCalls)));
+    EXPECT_FALSE(inTree(large, "Time, ms").isEmpty());
+    EXPECT_EQ(inTree(large->getChild(0), "Time, ms"), ""); // a transform
+    panel.clear();
+    EXPECT_EQ(inTree(small, "Drawn triangles"), "no column");
+}
+
+TEST_F(CostWidget, WithoutABranchItIsMeasuredAndTheBranchIsHidden)
+{
+    measure();
+    ASSERT_TRUE(choose("Large"));
+    auto* without = panel.findChild<QPushButton*>("withoutBranch");
+    const std::uint32_t changes = root->getChangeCount();
+    QTest::mouseClick(without, Qt::LeftButton);
+    EXPECT_TRUE(panel.getRun().isRunning());
+    EXPECT_TRUE(window().getStates().isHidden(large));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !panel.getRun().isRunning(); }, 240000));
+    EXPECT_TRUE(line().startsWith(QString::fromUtf8("Without “Large” a picture takes ")))
+        << qPrintable(line());
+    EXPECT_TRUE(line().contains(QString::fromUtf8(" ± "))) << qPrintable(line());
+    EXPECT_EQ(root->getChangeCount(), changes); // nothing was written
+    EXPECT_TRUE(without->isChecked());
+    QTest::mouseClick(without, Qt::LeftButton);
+    EXPECT_FALSE(window().getStates().isHidden(large));
+    EXPECT_EQ(panel.getRun().getCosts().branches.empty(), false);
+}
+
+TEST_F(CostWidget, AnotherBranchBringsTheHiddenOneBack)
+{
+    measure();
+    ASSERT_TRUE(choose("Large"));
+    QTest::mouseClick(panel.findChild<QPushButton*>("withoutBranch"), Qt::LeftButton);
+    QTreeWidgetItem* top = panel.findChild<QTreeWidget*>("costTree")->topLevelItem(0);
+    panel.findChild<QTreeWidget*>("costTree")->setCurrentItem(top);
+    EXPECT_FALSE(window().getStates().isHidden(large));
+    EXPECT_FALSE(panel.getRun().isRunning());
+    EXPECT_FALSE(panel.findChild<QPushButton*>("withoutBranch")->isEnabled()); // nothing would be left
+}
+
+TEST_F(CostWidget, WhatTheUserHidesIsNotMeasured)
+{
+    window().getStates().setHidden({large}, true);
+    measure();
+    EXPECT_EQ(panel.getRun().getCosts().branches.front().triangles, 12);
+    EXPECT_TRUE(window().getStates().isHidden(large));
+}
+
+TEST_F(CostWidget, ColoursTheViewWhileItIsInSight)
+{
+    auto* view = window().findChild<SceneView*>();
+    auto* colors = panel.findChild<QComboBox*>("heatColors");
+    colors->setCurrentIndex(1);
+    EXPECT_TRUE(view->getShapeColors().isEmpty());
+    EXPECT_TRUE(line().startsWith("The view has these colours as soon")) << qPrintable(line());
+    measure();
+    const SoNode* sphere = large->getChild(1);
+    EXPECT_FALSE(view->getShapeColors().isEmpty());
+    const SoCosts& costs = panel.getRun().getCosts();
+    double longest = 0;
+    for (const SoBranchCost& branch : costs.branches)
+        longest = std::max(longest, branch.node->asShape() ? HeatColors::timeOf(costs, branch) : 0);
+    EXPECT_EQ(view->getShapeColors().get(*sphere),
+              HeatColors::at(HeatColors::timeOf(costs, *costs.find(sphere)) / longest));
+    panel.hide();
+    EXPECT_TRUE(view->getShapeColors().isEmpty());
+    panel.show();
+    EXPECT_FALSE(view->getShapeColors().isEmpty());
+    colors->setCurrentIndex(3);
+    EXPECT_TRUE(view->getShapeColors().isEmpty());
+    EXPECT_TRUE(view->isOverdrawShown());
+    EXPECT_EQ(view->getShading(), SoRenderer::Shading::Full); // as the menu says
+    colors->setCurrentIndex(0);
+    EXPECT_FALSE(view->isOverdrawShown());
+}
+
+TEST_F(CostWidget, RemembersWhatWasChosen)
+{
+    panel.findChild<QComboBox*>("areasFigure")->setCurrentIndex(2);
+    panel.findChild<QTreeWidget*>("costTree")->sortByColumn(5, Qt::AscendingOrder);
+    const CostPanel other;
+    EXPECT_EQ(other.findChild<QComboBox*>("areasFigure")->currentIndex(), 2);
+    const QHeaderView* header = other.findChild<QTreeWidget*>("costTree")->header();
+    EXPECT_EQ(header->sortIndicatorSection(), 5);
+    EXPECT_EQ(header->sortIndicatorOrder(), Qt::AscendingOrder);
+    panel.findChild<QComboBox*>("areasFigure")->setCurrentIndex(0);
+    panel.findChild<QTreeWidget*>("costTree")->sortByColumn(1, Qt::DescendingOrder);
+}
+
+TEST(HeatColorsOf, ShapesHaveTheirShareOfTheBranchThatWasMeasured)
+{
+    SoCosts costs;
+    costs.branches.resize(3);
+    costs.branches[0].node = SoRef<SoNode>(new SoSeparator);
+    costs.branches[0].isMeasured = true;
+    costs.branches[0].processor = 8;
+    costs.branches[0].triangles = 400;
+    costs.branches[0].pixels = 4000;
+    for (std::size_t i = 1; i < 3; ++i) {
+        costs.branches[i].node = SoRef<SoNode>(new SoCube);
+        costs.branches[i].parent = 0;
+        costs.branches[i].shapes = 1;
+        costs.branches[i].triangles = i == 1 ? 100 : 300;
+    }
+    EXPECT_EQ(HeatColors::timeOf(costs, costs.branches[1]), 2);
+    EXPECT_EQ(HeatColors::timeOf(costs, costs.branches[2]), 6);
+    EXPECT_EQ(HeatColors::trianglesPerPixelOf(costs, costs.branches[1]), 0.1);
+    costs.branches[1].isMeasured = true;
+    costs.branches[1].processor = 5;
+    costs.branches[1].pixels = 10;
+    EXPECT_EQ(HeatColors::timeOf(costs, costs.branches[1]), 5);
+    EXPECT_EQ(HeatColors::trianglesPerPixelOf(costs, costs.branches[1]), 10);
+    const SoShapeColors byTime = HeatColors::ofTime(costs);
+    EXPECT_EQ(byTime.get(*costs.branches[2].node), HeatColors::at(1));
+    EXPECT_EQ(byTime.get(*costs.branches[1].node), HeatColors::at(5.0 / 6));
+    EXPECT_GT(HeatColors::at(1)[0], HeatColors::at(0)[0]);
+    EXPECT_LT(HeatColors::at(1)[2], HeatColors::at(0)[2]);
 }

@@ -14,7 +14,9 @@
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 
+#include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 using namespace profiler;
 
@@ -240,6 +242,84 @@ TEST_F(FramesWidget, ARecordingCanBeOpenedAgain)
     SoFrameRecording again;
     ASSERT_TRUE(RecordingFiles::read(table, again, problem)) << qPrintable(problem);
     EXPECT_EQ(again.getNumFrames(), 5U);
+}
+
+TEST_F(FramesWidget, ARecordingKnowsTheSceneAndTheFileThatItIsOf)
+{
+    QMainWindow window;
+    window.setWindowFilePath("/data/harbour.xsg");
+    auto* dock = new QDockWidget;
+    dock->setWidget(panel.release());
+    window.addDockWidget(Qt::BottomDockWidgetArea, dock);
+    auto* inside = static_cast<FramesPanel*>(dock->widget());
+    EXPECT_EQ(inside->findScene(), "/data/harbour.xsg");
+    const QString path = settings.filePath("test.xsgframes");
+    EXPECT_EQ(inside->getStore().startRecording(path, inside->findScene()), QString());
+    inside->getStore().stopRecording();
+    SoFrameRecording recording;
+    QString problem;
+    ASSERT_TRUE(RecordingFiles::read(path, recording, problem)) << qPrintable(problem);
+    EXPECT_EQ(recording.getAbout("scene"), "/data/harbour.xsg");
+}
+
+// Though the graphics card never answers, and no other frame comes.
+TEST_F(FramesWidget, ARecordingHoldsBackNoFrameForLong)
+{
+    const QString path = settings.filePath("test.xsgframes");
+    EXPECT_EQ(panel->getStore().startRecording(path), QString());
+    for (int i = 0; i < 3; ++i)
+        add(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return panel->getStore().getNumRecorded() == 3; }));
+}
+
+// A child of its own writes a recording until it is killed.
+TEST_F(FramesWidget, ARecordingSurvivesThatTheProgramIsKilled)
+{
+    const QString path = settings.filePath("killed.xsgframes");
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("RECORDING_TO_KILL", path);
+    child.setProcessEnvironment(environment);
+    child.setReadChannel(QProcess::StandardError);
+    child.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=RecordingToKill.*"});
+    // It says how many frames it has recorded.
+    std::size_t said = 0;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            while (child.canReadLine()) {
+                const QByteArray line = child.readLine();
+                if (line.startsWith("recorded "))
+                    said = line.mid(9).trimmed().toULong();
+            }
+            return said >= 100;
+        },
+        120000));
+    child.kill();
+    EXPECT_TRUE(child.waitForFinished());
+    EXPECT_EQ(child.exitStatus(), QProcess::CrashExit);
+    SoFrameRecording recording;
+    QString problem;
+    ASSERT_TRUE(RecordingFiles::read(path, recording, problem)) << qPrintable(problem);
+    EXPECT_GE(recording.getNumFrames(), said);
+}
+
+TEST(RecordingToKill, GoesOn)
+{
+    const QString path = qEnvironmentVariable("RECORDING_TO_KILL");
+    if (path.isEmpty())
+        return; // see ARecordingSurvivesThatTheProgramIsKilled
+    SoFrameLog log;
+    FrameStore store(log);
+    EXPECT_EQ(store.startRecording(path), QString());
+    QTimer frames;
+    QObject::connect(&frames, &QTimer::timeout, [&] {
+        SoFrame frame;
+        frame[SoFrame::Begin] = SoFrameLog::now();
+        log.add(frame);
+        std::fprintf(stderr, "recorded %zu\n", store.getNumRecorded());
+    });
+    frames.start(5);
+    EXPECT_FALSE(QTest::qWaitFor([] { return false; }, 240000));
 }
 
 TEST_F(FramesWidget, ARecordingThatCannotBeWrittenOrReadIsRefusedInASentence)

@@ -4,19 +4,12 @@
 #include "RandomScene.h"
 
 #include <gtest/gtest.h>
+#include <support/RandomWalk.h>
 #include <xsg/changes/PatchApplication.h>
 #include <xsg/changes/SceneDiff.h>
 
-#include <cstdlib>
-
 namespace
 {
-
-int fromEnvironment(const char* name, int otherwise)
-{
-    const char* text = std::getenv(name);
-    return text ? std::atoi(text) : otherwise;
-}
 
 class Changes : public testing::Test
 {
@@ -64,7 +57,7 @@ protected:
 
 TEST_F(Changes, OfRandomPairsMakeOneTheOther)
 {
-    const int pairs = std::max(1, fromEnvironment("SCOPIX_WALK_STEPS", 200));
+    const int pairs = std::max(1, fromEnvironment("SCOPIX_WALK_STEPS", 1000));
     const auto first = static_cast<unsigned>(fromEnvironment("SCOPIX_WALK_SEED", 1));
     for (int i = 0; i < pairs && !HasFatalFailure(); ++i) {
         const unsigned seed = first + static_cast<unsigned>(i);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <xsg/costs/SoCostMeter.h>
+#include <xsg/costs/SoWhatIfMeter.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
@@ -13,6 +14,8 @@
 #include <xsg/nodes/shapes/SoIndexedTriangleSet.h>
 #include <xsg/nodes/transforms/SoTransform.h>
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 
 namespace
@@ -196,4 +199,151 @@ TEST(CostMeter, MeasuresBranchesAndTellsWhatIsNotSeen)
     ASSERT_EQ(hints.size(), 1U); // and not the mesh in it once more
     EXPECT_EQ(hints.front().kind, SoCostHint::Unseen);
     EXPECT_EQ(hints.front().node.get(), behind);
+}
+
+namespace
+{
+
+double middleOf(std::vector<double> numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    return (numbers[(numbers.size() - 1) / 2] + numbers[numbers.size() / 2]) / 2;
+}
+
+double spreadOf(std::vector<double> numbers)
+{
+    const double middle = middleOf(numbers);
+    for (double& number : numbers)
+        number = std::abs(number - middle);
+    return middleOf(numbers);
+}
+
+// A square that faces the eye.
+SoSeparator* addSquare(SoGroup& group, float side, float x, float z)
+{
+    auto* branch = add<SoSeparator>(group);
+    add<SoTransform>(*branch)->translation.setValue(SbVec3f(x, 0, z));
+    const float far = side / 2;
+    add<SoPoints>(*branch)->points.setValues(
+        std::vector<SbVec3f>{{-far, -far, 0}, {far, -far, 0}, {far, far, 0}, {-far, far, 0}});
+    add<SoIndexedTriangleSet>(*branch)->index.setValues(std::vector<std::int32_t>{0, 1, 2, 0, 2, 3});
+    return branch;
+}
+
+/// Two squares side by side, and a larger one behind one of them that is drawn before it.
+class SquaresScene : public testing::Test
+{
+protected:
+    SquaresScene() { camera->position.setValue(0, 0, 10); }
+
+    SoCosts measure(const std::vector<const SoNode*>& hidden = {})
+    {
+        SoCostMeter meter(root.get(), camera.get(), Width, Height, {}, hidden);
+        while (meter.step())
+            ;
+        EXPECT_EQ(meter.getErrorText(), "");
+        return meter.getCosts();
+    }
+    // The pixels of a picture of this branch alone that are not the ground.
+    std::int64_t covered(const SoNode* branch)
+    {
+        SoOffscreenRenderer renderer;
+        SoHiding hiding;
+        hiding.isolate({branch});
+        renderer.setSamples(1);
+        renderer.getRenderer().setHiding(&hiding);
+        renderer.getRenderer().setBackground({0, 0, 1});
+        SoPixels pixels;
+        EXPECT_TRUE(renderer.render(root.get(), camera.get(), Width, Height, pixels));
+        std::int64_t count = 0;
+        for (std::size_t i = 0; i < pixels.rgba.size(); i += 4)
+            count += pixels.rgba[i] > 0;
+        drawCalls = renderer.getRenderer().getStatistics().drawCalls;
+        uploadedBytes = renderer.getRenderer().getStatistics().uploadedBytes;
+        return count;
+    }
+
+    SoRef<SoSeparator> root{new SoSeparator};
+    SoRef<SoPerspectiveCamera> camera{new SoPerspectiveCamera};
+    SoSeparator* behind = addSquare(*root, 3, 2, -5);
+    SoSeparator* left = addSquare(*root, 2, -2, 0);
+    SoSeparator* right = addSquare(*root, 2, 2, 0);
+    std::int64_t drawCalls = 0;
+    std::int64_t uploadedBytes = 0;
+};
+
+} // namespace
+
+TEST_F(SquaresScene, HasAsManyPixelsAsItsPicturesShow)
+{
+    const SoCosts costs = measure();
+    std::int64_t sum = 0;
+    for (const SoSeparator* each : {behind, left, right}) {
+        const std::int64_t pixels = costs.find(each)->pixels;
+        EXPECT_EQ(pixels, covered(each));
+        EXPECT_GT(pixels, 20);
+        sum += pixels;
+    }
+    // Those that are drawn over are counted again.
+    EXPECT_EQ(costs.find(root.get())->pixels, sum);
+    EXPECT_LT(covered(root.get()), sum);
+}
+
+TEST_F(SquaresScene, HasTheDrawCallsAndTheMemoryThatItsPicturesTake)
+{
+    const SoCosts costs = measure();
+    for (const SoNode* each : {static_cast<SoNode*>(root.get()), static_cast<SoNode*>(left)}) {
+        covered(each);
+        EXPECT_EQ(costs.find(each)->drawCalls, drawCalls);
+    }
+    covered(left);
+    const std::int64_t small = uploadedBytes;
+    constexpr int Triangles = 1000;
+    SoSeparator* mesh = addMesh(*root, Triangles);
+    covered(mesh);
+    EXPECT_EQ(countCosts(mesh, {}).branches.front().meshBytes - costs.find(left)->meshBytes,
+              uploadedBytes - small);
+}
+
+TEST_F(SquaresScene, IsMeasuredWithoutWhatIsHidden)
+{
+    const SoCosts costs = measure({behind});
+    EXPECT_EQ(costs.find(root.get())->shapes, 2);
+    EXPECT_EQ(costs.find(root.get())->triangles, 4);
+    EXPECT_EQ(costs.find(root.get())->pixels, covered(left) + covered(right));
+}
+
+TEST_F(SquaresScene, ItsPartsAndTheWholeAreSummedUpApart)
+{
+    const SoCosts costs = measure();
+    double sum = 0;
+    for (const SoBranchCost& branch : costs.branches) {
+        const auto& all = costs.branches;
+        const bool hasMeasuredBelow = std::any_of(all.begin(), all.end(), [&](const SoBranchCost& other) {
+            return other.isMeasured && other.parent >= 0 &&
+                   all[static_cast<std::size_t>(other.parent)].node.get() == branch.node.get();
+        });
+        if (branch.parent >= 0 && branch.isMeasured && !hasMeasuredBelow)
+            sum += branch.getTime();
+    }
+    EXPECT_DOUBLE_EQ(costs.sumOfParts, sum);
+}
+
+TEST_F(SquaresScene, WithoutItsHeavyBranchItIsFaster)
+{
+    SoSeparator* heavy = addMesh(*root, 40'000);
+    SoWhatIfMeter meter(root.get(), heavy, camera.get(), Width, Height);
+    double progress = 0;
+    while (meter.step()) {
+        EXPECT_GE(meter.getProgress(), progress);
+        progress = meter.getProgress();
+    }
+    EXPECT_EQ(meter.getErrorText(), "");
+    EXPECT_EQ(meter.getProgress(), 1);
+    constexpr auto Pictures = std::size_t{SoWhatIfMeter::Runs} * SoWhatIfMeter::PicturesOfRun;
+    EXPECT_EQ(meter.getWith().size(), Pictures);
+    EXPECT_EQ(meter.getWithout().size(), Pictures);
+    EXPECT_GT(meter.compare().before, 2 * meter.compare().after);
+    EXPECT_TRUE(meter.compare().isSignificant());
+    EXPECT_NEAR(meter.getSpread(), std::hypot(spreadOf(meter.getWith()), spreadOf(meter.getWithout())), 1e-9);
 }

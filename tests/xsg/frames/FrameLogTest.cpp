@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <xsg/counters/LibraryCounters.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/frames/SoFramePhase.h>
 #include <xsg/support/XsgMalloc.h>
@@ -108,6 +109,20 @@ TEST_F(FrameLog, TellsWhatHappenedSinceTheFrameBefore)
     add(0);
     EXPECT_EQ(get(2)[SoFrame::Allocations], 1);
     EXPECT_EQ(get(3)[SoFrame::Allocations], 0);
+}
+
+TEST_F(FrameLog, TellsWhatFieldsSensorsAndFilesDidSinceTheFrameBefore)
+{
+    add(0);
+    xsg::feeds.fieldChanges.add(3);
+    xsg::feeds.sensorsTriggered.add(5);
+    xsg::feeds.bytesParsed.add(7000);
+    add(0);
+    EXPECT_EQ(get(2)[SoFrame::FieldChanges], 3);
+    EXPECT_EQ(get(2)[SoFrame::SensorsTriggered], 5);
+    EXPECT_EQ(get(2)[SoFrame::BytesParsed], 7000);
+    add(0);
+    EXPECT_EQ(get(3)[SoFrame::BytesParsed], 0);
 }
 
 TEST_F(FrameLog, TellsHowMuchMemoryTheProcessHas)

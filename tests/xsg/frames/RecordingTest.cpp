@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "fuzz/FrameFileCheck.h"
+
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/frames/SoFrameCsv.h>
 #include <xsg/frames/SoFrameFile.h>
@@ -174,6 +176,25 @@ TEST(RecordingBytes, RefusesWhatIsNoRecording)
     EXPECT_FALSE(SoFrameFile::parse("", recording, problem));
     EXPECT_FALSE(SoFrameFile::parse("#Xsg frames V1\n", recording, problem));
     EXPECT_EQ(problem, "its head is damaged");
+}
+
+// Replays the fuzzer's corpus, so that the sanitizers see it in every run.
+TEST(RecordingFuzz, TheCorpusHolds)
+{
+    const fuzz::FrameFileCheck check;
+    const auto inputs = fuzz::inputsOf(SCOPIX_SOURCE_DIR "/fuzz/corpus/frame_file");
+    ASSERT_FALSE(inputs.empty());
+    for (const fuzz::Input& input : inputs)
+        check(input.data(), input.size());
+}
+
+TEST(RecordingBytes, AreThoseOfTheFile)
+{
+    const SoFrameRecording recording = makeRecording(20);
+    SoFrameRecording again;
+    std::string problem;
+    ASSERT_TRUE(SoFrameFile::parse(SoFrameFile::format(recording), again, problem)) << problem;
+    expectSame(recording, again);
 }
 
 TEST(RecordingCsv, ReadsBackWhatWasWritten)

@@ -117,6 +117,64 @@ TEST(Query, KnowsStates)
     EXPECT_TRUE(h.find("\"ignored\"").empty()) << "quoted, it is a word like any other";
 }
 
+TEST(Query, FindsPlaces)
+{
+    const Harbour h;
+    EXPECT_EQ(h.find("/"), Nodes{h.root.get()});
+    EXPECT_EQ(h.find("/Material"), Nodes{h.plain.get()});
+    EXPECT_EQ(h.find("/\"Red Paint\""), Nodes{h.paint.get()});
+    EXPECT_EQ(h.find("/\"Red Pai"), Nodes{}) << "while it is being typed";
+    EXPECT_EQ(h.find("/Switch/"), Nodes{h.hidden.get()});
+    EXPECT_EQ(h.find("/Switch/Cr\xc3\xbcss[1]"), Nodes{h.cube.get()});
+    EXPECT_EQ(h.find("/Switch/Cr\xc3\xbcss[1].width"), Nodes{h.cube.get()});
+    EXPECT_TRUE(h.find("/Switch/Cr\xc3\xbcss[2]").empty());
+    EXPECT_TRUE(h.find("/Switch/Cr\xc3\xbcss.radius").empty());
+    EXPECT_TRUE(h.find("/Cr\xc3\xbcss").empty());
+    EXPECT_TRUE(h.find("/Harbour/Switch").empty()) << "the root itself is \"/\"";
+    EXPECT_EQ(h.find("Switch/Cr\xc3\xbcss"), Nodes{h.cube.get()});
+    EXPECT_EQ(h.find("Harbour/Switch"), Nodes{h.hidden.get()});
+    EXPECT_EQ(h.find("Material.transparency"), Nodes{h.plain.get()});
+    EXPECT_EQ(h.find("pictures/"), Nodes{h.wood.get()}) << "as before, a text that holds it";
+    EXPECT_EQ(h.find("type:material -/Material | /PointLight"), (Nodes{h.paint.get(), h.lamp.get()}));
+    EXPECT_FALSE(SoQuery("/Switch[").getError().empty());
+    EXPECT_FALSE(SoQuery("/Cube.width>3").getError().empty());
+    EXPECT_TRUE(SoQuery("/Switch").matches(*h.hidden)) << "the root is what stands in nothing";
+    EXPECT_FALSE(SoQuery("/Switch").matches(*h.cube));
+}
+
+TEST(Query, FindsAPlaceAmongManyThatAreCalledTheSame)
+{
+    constexpr int Many = 20000;
+    const SoRef<SoSeparator> root(new SoSeparator);
+    for (int i = 0; i < Many; ++i)
+        root->addChild(new SoCube);
+    // Ways to the last one double with each level.
+    SoRef<SoSeparator> last(new SoSeparator);
+    for (int i = 0; i < 40; ++i) {
+        SoRef<SoSeparator> above(new SoSeparator);
+        for (int side = 0; side < 2; ++side) {
+            auto* group = new SoSeparator;
+            group->addChild(last.get());
+            above->addChild(group);
+        }
+        last = above;
+    }
+    root->addChild(last.get());
+    const auto find = [&](const std::string& text) {
+        SoQuerySearch search(SoQuery(text), root.get());
+        while (search.advance(1 << 20)) {
+        }
+        return search.getFound();
+    };
+    ASSERT_EQ(find("/Cube[19999]").size(), 1U);
+    EXPECT_EQ(find("/Cube[19999]").front().get(), root->getChild(Many - 1));
+    std::string path;
+    for (int i = 0; i < 60; ++i)
+        path += "/Separator";
+    EXPECT_EQ(find(path).size(), 1U);
+    EXPECT_TRUE(find("/Switch" + path).empty());
+}
+
 TEST(Query, CombinesTerms)
 {
     const Harbour h;

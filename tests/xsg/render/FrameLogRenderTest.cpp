@@ -2,7 +2,9 @@
 #include "xsg/render/Picture.h"
 
 #include <xsg/frames/SoFrameLog.h>
+#include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/nodes/transforms/SoTransform.h>
 
 namespace
 {
@@ -45,6 +47,25 @@ TEST_F(LoggedPicture, HasTheFiguresOfTheRenderer)
     EXPECT_LE(static_cast<double>(frame[SoFrame::Whole]) * 1e-9, counted.seconds);
     draw();
     EXPECT_EQ(last()[SoFrame::Uploads], 0);
+}
+
+TEST_F(LoggedPicture, TellsWhatIsOutOfSightAndWhatPicturesTake)
+{
+    add<SoCube>();
+    draw();
+    EXPECT_EQ(last()[SoFrame::ShapesCulled], 0);
+    EXPECT_EQ(last()[SoFrame::TextureBytes], 0);
+    const std::vector<unsigned char> pixels(std::size_t{64} * 32 * 4, 200);
+    add<SoTexture2>()->image.setValue(64, 32, 4, pixels.data());
+    add<SoCube>();
+    add<SoTransform>()->translation.setValue(SbVec3f(0, 0, 100));
+    add<SoCube>();
+    add<SoCube>();
+    draw();
+    EXPECT_EQ(last()[SoFrame::ShapesCulled], 2);
+    EXPECT_EQ(last()[SoFrame::TextureBytes], 64 * 32 * 4);
+    draw();
+    EXPECT_EQ(last()[SoFrame::TextureBytes], 0);
 }
 
 TEST_F(LoggedPicture, TellsWhatEachPhaseTook)

@@ -3,6 +3,7 @@
 // scene for the first time. SCOPIX_WALK_SEED walks another way, SCOPIX_WALK_STEPS another length.
 #include "Picture.h"
 
+#include <support/RandomWalk.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/lights/SoDirectionalLight.h>
@@ -15,17 +16,10 @@
 #include <xsg/render/GlThread.h>
 #include <xsg/render/RenderListUpdater.h>
 
-#include <cstdlib>
 #include <random>
 
 namespace
 {
-
-int fromEnvironment(const char* name, int otherwise)
-{
-    const char* const text = std::getenv(name);
-    return text ? std::atoi(text) : otherwise;
-}
 
 // A scene that changes at random.
 class RandomScene

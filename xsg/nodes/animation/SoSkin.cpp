@@ -144,8 +144,7 @@ void SoSkin::apply(SoState& state) const
     m_made.apply(state);
 }
 
-// From the points as they were made to where they stand now, for each bone.
-std::vector<SbMatrix> SoSkin::boneMatrices() const
+std::vector<SbMatrix> SoSkin::getBonePlaces() const
 {
     std::vector<SbMatrix> matrices;
     for (int i = 0; i < bones.getNum(); ++i) {
@@ -157,10 +156,8 @@ std::vector<SbMatrix> SoSkin::boneMatrices() const
     const int at = place.getValue();
     const std::optional<SbMatrix> back =
         at < 0 ? std::nullopt : matrices[static_cast<std::size_t>(at)].inverse();
-    for (int i = 0; i < bones.getNum(); ++i) {
-        SbMatrix& matrix = matrices[static_cast<std::size_t>(i)];
-        matrix = binds[i] * matrix;
-        if (back)
+    if (back) {
+        for (SbMatrix& matrix : matrices)
             matrix = matrix * *back;
     }
     return matrices;
@@ -168,7 +165,9 @@ std::vector<SbMatrix> SoSkin::boneMatrices() const
 
 void SoSkin::bend(const SoState& state, SbVec3f* points, SbVec3f* normals) const
 {
-    const std::vector<SbMatrix> matrices = boneMatrices();
+    std::vector<SbMatrix> matrices = getBonePlaces();
+    for (int i = 0; i < bones.getNum(); ++i)
+        matrices[static_cast<std::size_t>(i)] = binds[i] * matrices[static_cast<std::size_t>(i)];
     const Influences by{boneIndices.getValues(), weights.getValues(), bonesPerPoint.getValue()};
     const int count = state.points->points.getNum();
     bendAll(by, blendsOf(matrices, blendOf), state.points->points.getValues(), count, 1, points);

@@ -26,6 +26,8 @@ public:
     SoMFFloat weights{this, "weights"};         // of each of these; of each point they add up to 1
 
     SoSkin() = default;
+    /// Where each bone stands, in the coordinates of the points.
+    std::vector<SbMatrix> getBonePlaces() const;
     void apply(SoState& state) const override;
     void notify(const SoNotification& change) override;
 
@@ -38,7 +40,6 @@ private:
     void watchBones();
     bool fits(int pointCount) const;
     bool hasValidPlaces() const;
-    std::vector<SbMatrix> boneMatrices() const;
     void bend(const SoState& state, SbVec3f* points, SbVec3f* normals) const;
 
     struct Checked {

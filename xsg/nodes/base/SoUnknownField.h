@@ -13,6 +13,8 @@ class XSG_API SoUnknownField : public SoTyped<SoUnknownField, SoSField>
 public:
     static constexpr const char* ClassName = "UnknownField";
 
+    /// For a copy of a value.
+    SoUnknownField() = default;
     SoUnknownField(SoFieldContainer* owner, SbName name)
         : SoTyped(owner, name.getString())
     {

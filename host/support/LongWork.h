@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QString>
+
+#include <functional>
+
+class QProgressDialog;
+class QWidget;
+
+namespace scopix
+{
+
+/// What the user waits for, on the GUI thread. While it lives, the work calls goOn() wherever it has done a
+/// piece: as soon as it takes noticeable time, a dialog over the window says how far it is and can cancel it,
+/// and the window goes on drawing; nothing else in it can be used.
+///
+///     const bool isDone = LongWork::run(&window, tr("Saving “%1”…").arg(name), [&] { write(); });
+///
+/// Widgets and events are looked at in goOn() alone. Work may stand inside other work: then the outer one
+/// shows its dialog. GUI thread only; on other threads, and where there is no such work, goOn() does nothing.
+class LongWork
+{
+public:
+    /// Leaves the work from within goOn().
+    struct Cancelled {
+    };
+
+    /// False where the user cancelled it. Without a window nobody is asked.
+    static bool run(QWidget* window, const QString& what, const std::function<void()>& work);
+
+    /// `part`: how much of it is done, from 0 to 1; negative where nobody knows.
+    static void goOn(double part = -1);
+
+private:
+    LongWork(QWidget& window, const QString& what);
+    ~LongWork();
+    LongWork(const LongWork&) = delete;
+    LongWork& operator=(const LongWork&) = delete;
+
+    void look(double part);
+    void openDialog();
+
+    QWidget& m_window;
+    const QString m_what;
+    QElapsedTimer m_sinceBegin;
+    QElapsedTimer m_sinceLook;
+    QPointer<QProgressDialog> m_dialog;
+};
+
+} // namespace scopix

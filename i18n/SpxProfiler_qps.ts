@@ -1,0 +1,323 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="qps" sourcelanguage="en">
+<context>
+    <name>Scopix</name>
+    <message>
+        <source>Cost</source>
+        <translation>[Çöšţ ~~]</translation>
+    </message>
+    <message>
+        <source>Measures what each branch of the scene costs.</source>
+        <translation>[Méàšûŕéš wĥàţ éàçĥ bŕàñçĥ öf ţĥé šçéñé çöšţš. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>[Fŕàméš ~~]</translation>
+    </message>
+    <message>
+        <source>Shows what each frame cost, and why.</source>
+        <translation>[Šĥöwš wĥàţ éàçĥ fŕàmé çöšţ, àñd wĥý. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 %2 instead of %3</source>
+        <translation>[%1 %2 îñšţéàd öf %3 ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Recordings of frames (*.xsgframes);;Comma-separated values (*.csv)</source>
+        <translation>[Ŕéçöŕdîñĝš öf fŕàméš (*.xsgframes);;Çömmà-šépàŕàţéd vàlûéš (*.csv) ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Compare Frames</source>
+        <translation>[Çömpàŕé Fŕàméš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Medians of %1 frames of “%2” before, and of %3 frames after. By the test of Mann and Whitney; bold where chance alone would do it less than once in a hundred.</source>
+        <translation>[Médîàñš öf %1 fŕàméš öf “%2” béföŕé, àñd öf %3 fŕàméš àfţéŕ. Bý ţĥé ţéšţ öf Màññ àñd Wĥîţñéý; böld wĥéŕé çĥàñçé àlöñé wöûld dö îţ léšš ţĥàñ öñçé îñ à ĥûñdŕéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>[Dîfféŕéñçéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>[Çöûñţéŕ ~~~]</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>[Béföŕé ~~]</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>[Àfţéŕ ~~]</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>[Çĥàñĝé ~~]</translation>
+    </message>
+    <message>
+        <source>Chance</source>
+        <translation>[Çĥàñçé ~~]</translation>
+    </message>
+    <message>
+        <source>Measure Cost</source>
+        <translation>[Méàšûŕé Çöšţ ~~~~~]</translation>
+    </message>
+    <message>
+        <source>What does each part of the scene cost? It is drawn part by part to find out.</source>
+        <translation>[Wĥàţ döéš éàçĥ pàŕţ öf ţĥé šçéñé çöšţ? Îţ îš dŕàwñ pàŕţ bý pàŕţ ţö fîñd öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Areas: time</source>
+        <translation>[Àŕéàš: ţîmé ~~~~]</translation>
+    </message>
+    <message>
+        <source>Areas: triangles</source>
+        <translation>[Àŕéàš: ţŕîàñĝléš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Areas: memory</source>
+        <translation>[Àŕéàš: mémöŕý ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Areas: bodies</source>
+        <translation>[Àŕéàš: bödîéš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>What the areas tell</source>
+        <translation>[Wĥàţ ţĥé àŕéàš ţéll ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cost of each branch</source>
+        <translation>[Çöšţ öf éàçĥ bŕàñçĥ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>[Ñödé ~~]</translation>
+    </message>
+    <message>
+        <source>Time, ms</source>
+        <translation>[Ţîmé, mš ~~~]</translation>
+    </message>
+    <message>
+        <source>±, ms</source>
+        <translation>[±, mš ~~]</translation>
+    </message>
+    <message>
+        <source>Processor, ms</source>
+        <translation>[Pŕöçéššöŕ, mš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Graphics card, ms</source>
+        <translation>[Ĝŕàpĥîçš çàŕd, mš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>[Ţŕîàñĝléš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Bodies</source>
+        <translation>[Bödîéš ~~]</translation>
+    </message>
+    <message>
+        <source>Draw calls</source>
+        <translation>[Dŕàw çàllš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Memory, kB</source>
+        <translation>[Mémöŕý, ķB ~~~~]</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>[Ĥîñţš ~~]</translation>
+    </message>
+    <message>
+        <source>The cost cannot be told: no scene is open; open one first.</source>
+        <translation>[Ţĥé çöšţ çàññöţ bé ţöld: ñö šçéñé îš öpéñ; öpéñ öñé fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>[Šţöp ~~]</translation>
+    </message>
+    <message>
+        <source>Measuring: %1 %</source>
+        <translation>[Méàšûŕîñĝ: %1 % ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The whole takes %1 ± %2, its parts drawn alone %3 together; an empty picture takes %4.</source>
+        <translation>[Ţĥé wĥölé ţàķéš %1 ± %2, îţš pàŕţš dŕàwñ àlöñé %3 ţöĝéţĥéŕ; àñ émpţý pîçţûŕé ţàķéš %4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing conspicuous</source>
+        <translation>[Ñöţĥîñĝ çöñšpîçûöûš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” was not drawn alone: it is a small part of the whole.</source>
+        <translation>[“%1” wàš ñöţ dŕàwñ àlöñé: îţ îš à šmàll pàŕţ öf ţĥé wĥölé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Without “%1” a picture would take %2 instead of %3, and look the same.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé wöûld ţàķé %2 îñšţéàd öf %3, àñd lööķ ţĥé šàmé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Without “%1” a picture would take %2 instead of %3.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé wöûld ţàķé %2 îñšţéàd öf %3. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
+        <translation>[Ţĥé çöšţ çàññöţ bé ţöld: ţĥé šçéñé ĥàš çĥàñĝéd méàñwĥîlé; šţöp wĥàţ mövéš àñd méàšûŕé àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The cost cannot be told: the view has moved meanwhile; let it stand still and measure again.</source>
+        <translation>[Ţĥé çöšţ çàññöţ bé ţöld: ţĥé vîéw ĥàš mövéd méàñwĥîlé; léţ îţ šţàñd šţîll àñd méàšûŕé àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Each frame that is drawn comes here as a bar: turn the view.</source>
+        <translation>[Éàçĥ fŕàmé ţĥàţ îš dŕàwñ çöméš ĥéŕé àš à bàŕ: ţûŕñ ţĥé vîéw. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No frames</source>
+        <translation>[Ñö fŕàméš ~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 frames: longest %2, mean %3, 95 % within %4, 99 % within %5; %6 over %7</source>
+        <translation>[%1 fŕàméš: löñĝéšţ %2, méàñ %3, 95 % wîţĥîñ %4, 99 % wîţĥîñ %5; %6 övéŕ %7 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>This frame took %1, its neighbours %2</source>
+        <translation>[Ţĥîš fŕàmé ţööķ %1, îţš ñéîĝĥböûŕš %2 ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing else was different</source>
+        <translation>[Ñöţĥîñĝ élšé wàš dîfféŕéñţ ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The recording “%1” cannot be continued: %2. What was written so far can be opened.</source>
+        <translation>[Ţĥé ŕéçöŕdîñĝ “%1” çàññöţ bé çöñţîñûéd: %2. Wĥàţ wàš wŕîţţéñ šö fàŕ çàñ bé öpéñéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>[Pàûšé ~~]</translation>
+    </message>
+    <message>
+        <source>Stand still and look at what was (Space)</source>
+        <translation>[Šţàñd šţîll àñd lööķ àţ wĥàţ wàš (Špàçé) ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Record…</source>
+        <translation>[Ŕéçöŕd… ~~~]</translation>
+    </message>
+    <message>
+        <source>Write what comes to a file, until this is chosen again</source>
+        <translation>[Wŕîţé wĥàţ çöméš ţö à fîlé, ûñţîl ţĥîš îš çĥöšéñ àĝàîñ ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>[Öpéñ… ~~]</translation>
+    </message>
+    <message>
+        <source>Look at a recording, or at a table of comma-separated values</source>
+        <translation>[Lööķ àţ à ŕéçöŕdîñĝ, öŕ àţ à ţàblé öf çömmà-šépàŕàţéd vàlûéš ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>[Šàvé… ~~]</translation>
+    </message>
+    <message>
+        <source>Save what is here as a recording, or as comma-separated values</source>
+        <translation>[Šàvé wĥàţ îš ĥéŕé àš à ŕéçöŕdîñĝ, öŕ àš çömmà-šépàŕàţéd vàlûéš ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Compare…</source>
+        <translation>[Çömpàŕé… ~~~]</translation>
+    </message>
+    <message>
+        <source>Compare what is here with a recording</source>
+        <translation>[Çömpàŕé wĥàţ îš ĥéŕé wîţĥ à ŕéçöŕdîñĝ ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Back to the Program</source>
+        <translation>[Bàçķ ţö ţĥé Pŕöĝŕàm ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Budget of a frame</source>
+        <translation>[Bûdĝéţ öf à fŕàmé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What a frame may take</source>
+        <translation>[Wĥàţ à fŕàmé màý ţàķé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> [mš ~]</translation>
+    </message>
+    <message>
+        <source>Counter or formula</source>
+        <translation>[Çöûñţéŕ öŕ föŕmûlà ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Counter or formula, as in rate(Triangles)</source>
+        <translation>[Çöûñţéŕ öŕ föŕmûlà, àš îñ ŕàţé(Ţŕîàñĝléš) ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A counter, or a formula such as Triangles / DrawCalls, rate(x) or mean(x, 2s)</source>
+        <translation>[À çöûñţéŕ, öŕ à föŕmûlà šûçĥ àš Ţŕîàñĝléš / DŕàwÇàllš, ŕàţé(x) öŕ méàñ(x, 2š) ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be shown: there are %2 curves already; take one out first.</source>
+        <translation>[“%1” çàññöţ bé šĥöwñ: ţĥéŕé àŕé %2 çûŕvéš àlŕéàdý; ţàķé öñé öûţ fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be shown: %2</source>
+        <translation>[“%1” çàññöţ bé šĥöwñ: %2 ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>▔ Gpu</source>
+        <translation>[▔ Ĝpû ~~]</translation>
+    </message>
+    <message>
+        <source>Take “%1” out</source>
+        <translation>[Ţàķé “%1” öûţ ~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 %2: take out</source>
+        <translation>[%1 %2: ţàķé öûţ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>; recording, %1 frames so far</source>
+        <translation>[; ŕéçöŕdîñĝ, %1 fŕàméš šö fàŕ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Choose a frame to see what was different about it.</source>
+        <translation>[Çĥööšé à fŕàmé ţö šéé wĥàţ wàš dîfféŕéñţ àböûţ îţ. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2. Choose another place.</source>
+        <translation>[“%1” çàññöţ bé wŕîţţéñ: %2. Çĥööšé àñöţĥéŕ plàçé. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Save Frames</source>
+        <translation>[Šàvé Fŕàméš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Open Frames</source>
+        <translation>[Öpéñ Fŕàméš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Frames (*.xsgframes *.csv)</source>
+        <translation>[Fŕàméš (*.xsgframes *.csv) ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>[Àll fîléš (*) ~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened: %2. Choose a recording of frames.</source>
+        <translation>[“%1” çàññöţ bé öpéñéd: %2. Çĥööšé à ŕéçöŕdîñĝ öf fŕàméš. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Costs as areas</source>
+        <translation>[Çöšţš àš àŕéàš ~~~~~~]</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,3009 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Scopix</name>
+    <message>
+        <source>%1 (scopix --help lists the options.)</source>
+        <translation>%1 („scopix --help“ listet die Optionen auf.)</translation>
+    </message>
+    <message>
+        <source>
+Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
+%1</source>
+        <translation>
+Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, ist ./NAME):
+%1</translation>
+    </message>
+    <message>
+        <source>Inspects and tunes the 3D scene or model in FILE.</source>
+        <translation>Zeigt und verändert die 3D-Szene oder das Modell in DATEI.</translation>
+    </message>
+    <message>
+        <source>Load this plug-in too; may be given several times.</source>
+        <translation>Auch dieses Plug-in laden; mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>Use this profile in this session.</source>
+        <translation>In dieser Sitzung dieses Profil verwenden.</translation>
+    </message>
+    <message>
+        <source>Select this field; NODE is a node's name or type.</source>
+        <translation>Dieses Feld auswählen; KNOTEN ist Name oder Typ eines Knotens.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window and end; needs no display.</source>
+        <translation>Ein Bild des Fensters schreiben und beenden; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Write a picture of the 3D view alone and end; needs no display.</source>
+        <translation>Ein Bild der 3D-Ansicht allein schreiben und beenden; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>How large that picture is, in pixels; 1920x1080 without it.</source>
+        <translation>Größe dieses Bildes in Pixeln; 1920x1080, wenn nichts angegeben ist.</translation>
+    </message>
+    <message>
+        <source>Leave its ground transparent.</source>
+        <translation>Den Hintergrund durchsichtig lassen.</translation>
+    </message>
+    <message>
+        <source>Write NUMBER pictures of one full turn instead: OUT-01.png and so on.</source>
+        <translation>Stattdessen ANZAHL Bilder einer vollen Drehung schreiben: AUS-01.png und so weiter.</translation>
+    </message>
+    <message>
+        <source>Attach to a running program; may be left out: the only one. In place of FILE.</source>
+        <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von DATEI.</translation>
+    </message>
+    <message>
+        <source>Start PROGRAM and attach to it; what follows goes to it. In place of FILE.</source>
+        <translation>PROGRAMM starten und sich damit verbinden; was folgt, erhält das Programm. Anstelle von DATEI.</translation>
+    </message>
+    <message>
+        <source>List the running programs that can be attached to, and end.</source>
+        <translation>Die laufenden Programme auflisten, mit denen man sich verbinden kann, und beenden.</translation>
+    </message>
+    <message>
+        <source>Write what FILE holds to this file, as its ending says, and end; needs no display.</source>
+        <translation>Den Inhalt von DATEI in diese Datei schreiben, im Format ihrer Endung, und beenden; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>End when everything asked for is done.</source>
+        <translation>Beenden, wenn alles Verlangte getan ist.</translation>
+    </message>
+    <message>
+        <source>Switch the performance counters on.</source>
+        <translation>Die Leistungszähler einschalten.</translation>
+    </message>
+    <message>
+        <source>Show this text and end.</source>
+        <translation>Diesen Text anzeigen und beenden.</translation>
+    </message>
+    <message>
+        <source>Show the version and end.</source>
+        <translation>Die Version anzeigen und beenden.</translation>
+    </message>
+    <message>
+        <source>“%1”, a file that the extensions need, cannot be written.</source>
+        <translation>„%1“, eine Datei, die die Erweiterungen brauchen, lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>an exception without a text</source>
+        <translation>ein Fehler ohne Text</translation>
+    </message>
+    <message>
+        <source>an exception of an unknown type</source>
+        <translation>ein Fehler unbekannter Art</translation>
+    </message>
+    <message>
+        <source>The program that this node was in is not attached any more.</source>
+        <translation>Das Programm, in dem dieser Knoten war, ist nicht mehr verbunden.</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <translation>Vorne</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Hinten</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>it was made for version %1 of the plug-in interface, this program has version %2</source>
+        <translation>es ist für Version %1 der Plug-in-Schnittstelle gebaut, dieses Programm hat Version %2</translation>
+    </message>
+    <message>
+        <source>it was made for Qt %1, this program runs with Qt %2</source>
+        <translation>es ist für Qt %1 gebaut, dieses Programm läuft mit Qt %2</translation>
+    </message>
+    <message>
+        <source>its initialisation failed: %1</source>
+        <translation>seine Initialisierung ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>such a file holds no more than 4 GiB</source>
+        <translation>eine solche Datei fasst höchstens 4 GiB</translation>
+    </message>
+    <message>
+        <source>such a file holds no more than 2147483647 points</source>
+        <translation>eine solche Datei fasst höchstens 2147483647 Punkte</translation>
+    </message>
+    <message>
+        <source>materials, but for the colours of points</source>
+        <translation>Materialien, außer den Farben der Punkte</translation>
+    </message>
+    <message>
+        <source>materials</source>
+        <translation>Materialien</translation>
+    </message>
+    <message>
+        <source>such a file holds no more than 4294967295 triangles</source>
+        <translation>eine solche Datei fasst höchstens 4294967295 Dreiecke</translation>
+    </message>
+    <message>
+        <source>The picture “%1” cannot be written: %2.</source>
+        <translation>Das Bild „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>another program is just changing the settings</source>
+        <translation>ein anderes Programm ändert gerade die Einstellungen</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+    <message>
+        <source>There is no text to paste.</source>
+        <translation>Es gibt keinen Text zum Einfügen.</translation>
+    </message>
+    <message>
+        <source>The text holds no nodes that can be pasted: %1</source>
+        <translation>Der Text enthält keine Knoten, die sich einfügen lassen: %1</translation>
+    </message>
+    <message>
+        <source>There are no nodes in the text to paste.</source>
+        <translation>Im Text sind keine Knoten zum Einfügen.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed meanwhile.</source>
+        <translation>„%1“ hat sich inzwischen geändert.</translation>
+    </message>
+    <message>
+        <source>scopix: There is no display to open a window on; --screenshot OUT.png writes a picture of the window without one.</source>
+        <translation>scopix: Es gibt keinen Bildschirm für ein Fenster; --screenshot AUS.png schreibt ein Bild des Fensters auch ohne.</translation>
+    </message>
+    <message>
+        <source>--launch expects a program and its arguments, and nothing was given.</source>
+        <translation>--launch erwartet ein Programm und seine Argumente, aber es wurde nichts angegeben.</translation>
+    </message>
+    <message>
+        <source>The scene or model to open.</source>
+        <translation>Die Szene oder das Modell, das geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>--select expects NODE.FIELD, such as Material.transparency, and not “%1”.</source>
+        <translation>--select erwartet KNOTEN.FELD, etwa Material.transparency, und nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--size expects WIDTHxHEIGHT, such as 1920x1080, and not “%1”.</source>
+        <translation>--size erwartet BREITExHÖHE, etwa 1920x1080, und nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--turntable expects a number of pictures, 2 or more, and not “%1”.</source>
+        <translation>--turntable erwartet eine Anzahl von Bildern, mindestens 2, und nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--%1 says how a picture is made, and --picture OUT.png is missing.</source>
+        <translation>--%1 sagt, wie ein Bild entsteht, aber --picture AUS.png fehlt.</translation>
+    </message>
+    <message>
+        <source>--save writes what FILE holds, and no FILE was given.</source>
+        <translation>--save schreibt den Inhalt von DATEI, aber es wurde keine DATEI angegeben.</translation>
+    </message>
+    <message>
+        <source>--save opens no window, so that --%1 cannot be given with it.</source>
+        <translation>--save öffnet kein Fenster und lässt sich deshalb nicht mit --%1 verbinden.</translation>
+    </message>
+    <message>
+        <source>Only one FILE can be opened, and %1 were given, the second being “%2”.</source>
+        <translation>Es lässt sich nur eine DATEI öffnen; angegeben wurden %1, die zweite ist „%2“.</translation>
+    </message>
+    <message>
+        <source>--%1 expects %2, and nothing was given.</source>
+        <translation>--%1 erwartet %2, aber es wurde nichts angegeben.</translation>
+    </message>
+    <message>
+        <source>FILE expects the path of a scene or model, and nothing was given.</source>
+        <translation>DATEI erwartet den Pfad einer Szene oder eines Modells, aber es wurde nichts angegeben.</translation>
+    </message>
+    <message>
+        <source>Either FILE or one running program can be shown, and more than one of them was given.</source>
+        <translation>Es lässt sich entweder DATEI oder ein laufendes Programm zeigen; angegeben wurde mehr als eins davon.</translation>
+    </message>
+    <message>
+        <source>%1: The patch cannot be read: %2.</source>
+        <translation>%1: Der Patch lässt sich nicht lesen: %2.</translation>
+    </message>
+    <message>
+        <source>The patch “%1” cannot be written: %2.</source>
+        <translation>Der Patch „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>%1, or that of another kind of model</source>
+        <translation>%1 oder die Endung einer anderen Art von Modell</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is a folder, and a file was expected</source>
+        <translation>das ist ein Ordner und keine Datei</translation>
+    </message>
+    <message>
+        <source>it is no file with an end, and one was expected</source>
+        <translation>das ist keine Datei mit einem Ende</translation>
+    </message>
+    <message>
+        <source>its name was expected to end in %1</source>
+        <translation>erwartet wurde ein Name, der auf %1 endet</translation>
+    </message>
+    <message>
+        <source>it cannot be read (%1)</source>
+        <translation>sie lässt sich nicht lesen (%1)</translation>
+    </message>
+    <message>
+        <source>it is empty, and a scene or model was expected</source>
+        <translation>sie ist leer, erwartet wurde eine Szene oder ein Modell</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened: %2.</source>
+        <translation>„%1“ lässt sich nicht öffnen: %2.</translation>
+    </message>
+    <message>
+        <source>the file is incomplete</source>
+        <translation>die Datei ist unvollständig</translation>
+    </message>
+    <message>
+        <source>its notes are damaged</source>
+        <translation>ihre Angaben sind beschädigt</translation>
+    </message>
+    <message>
+        <source>machine type %1</source>
+        <translation>Maschinentyp %1</translation>
+    </message>
+    <message>
+        <source>it was built for another kind of machine (%1), this program runs on %2</source>
+        <translation>es ist für eine andere Art von Rechner gebaut (%1), dieses Programm läuft auf %2</translation>
+    </message>
+    <message>
+        <source>user %1</source>
+        <translation>Benutzer %1</translation>
+    </message>
+    <message>
+        <source>its version note is damaged</source>
+        <translation>seine Versionsangabe ist beschädigt</translation>
+    </message>
+    <message>
+        <source>its code crashed while it was tried in a process of its own (%1)</source>
+        <translation>sein Code ist abgestürzt, als er in einem eigenen Prozess erprobt wurde (%1)</translation>
+    </message>
+    <message>
+        <source>it was tried in a process of its own and did not finish loading within %1 seconds</source>
+        <translation>es wurde in einem eigenen Prozess erprobt und war nach %1 Sekunden nicht fertig geladen</translation>
+    </message>
+    <message>
+        <source>profile %1</source>
+        <translation>Profil %1</translation>
+    </message>
+    <message>
+        <source>%1 must be a text</source>
+        <translation>%1 muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>%1 must be %2</source>
+        <translation>%1 muss %2 sein</translation>
+    </message>
+    <message>
+        <source>“%1” of %2</source>
+        <translation>„%1“ von %2</translation>
+    </message>
+    <message>
+        <source>“all” or a list of names</source>
+        <translation>„all“ oder eine Liste von Namen</translation>
+    </message>
+    <message>
+        <source>each name in %1</source>
+        <translation>jeder Name in %1</translation>
+    </message>
+    <message>
+        <source>%1 must be an object in braces</source>
+        <translation>%1 muss ein Objekt in geschweiften Klammern sein</translation>
+    </message>
+    <message>
+        <source>“name” of %1</source>
+        <translation>„name“ von %1</translation>
+    </message>
+    <message>
+        <source>a list of profiles</source>
+        <translation>eine Liste von Profilen</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the file must hold one object in braces</source>
+        <translation>die Datei muss ein einziges Objekt in geschweiften Klammern enthalten</translation>
+    </message>
+    <message>
+        <source>it is no binary glTF file, which starts with the four letters “glTF”</source>
+        <translation>das ist keine binäre glTF-Datei, die mit den vier Buchstaben „glTF“ beginnt</translation>
+    </message>
+    <message>
+        <source>it ends after %1 of the %2 bytes that its header announces</source>
+        <translation>sie endet nach %1 der %2 Bytes, die ihr Kopf ankündigt</translation>
+    </message>
+    <message>
+        <source>its JSON text is broken at line %1, column %2 (%3)</source>
+        <translation>ihr JSON-Text ist fehlerhaft in Zeile %1, Spalte %2 (%3)</translation>
+    </message>
+    <message>
+        <source>its “asset” was expected to name a version of glTF</source>
+        <translation>ihr „asset“ nennt keine Version von glTF</translation>
+    </message>
+    <message>
+        <source>its version of glTF is %1, and 1.0 or 2.0 was expected</source>
+        <translation>ihre glTF-Version ist %1, erwartet wurde 1.0 oder 2.0</translation>
+    </message>
+    <message>
+        <source>it is no file of the kind that its ending, .%1, says</source>
+        <translation>sie ist nicht von der Art, die ihre Endung .%1 nennt</translation>
+    </message>
+    <message>
+        <source>it asks for more memory than a file of its size can need</source>
+        <translation>sie verlangt mehr Speicher, als eine Datei ihrer Größe brauchen kann</translation>
+    </message>
+    <message>
+        <source>it holds no model that can be read</source>
+        <translation>sie enthält kein Modell, das sich lesen lässt</translation>
+    </message>
+    <message>
+        <source>it is not a whole model (%1)</source>
+        <translation>das ist kein vollständiges Modell (%1)</translation>
+    </message>
+    <message>
+        <source>it holds no mesh, and at least one was expected</source>
+        <translation>sie enthält kein Netz, mindestens eines wurde erwartet</translation>
+    </message>
+    <message>
+        <source>it asks for more memory than there is</source>
+        <translation>sie verlangt mehr Speicher, als es gibt</translation>
+    </message>
+    <message>
+        <source>reading it failed (%1)</source>
+        <translation>das Lesen ist fehlgeschlagen (%1)</translation>
+    </message>
+    <message>
+        <source>it is no PLY file, which starts with the line “ply”</source>
+        <translation>das ist keine PLY-Datei, die mit der Zeile „ply“ beginnt</translation>
+    </message>
+    <message>
+        <source>its line “%1” should end in a count</source>
+        <translation>ihre Zeile „%1“ sollte auf eine Anzahl enden</translation>
+    </message>
+    <message>
+        <source>its header does not end in the line “end_header”</source>
+        <translation>ihr Kopf endet nicht mit der Zeile „end_header“</translation>
+    </message>
+    <message>
+        <source>%1 bytes follow its header, which announces at least %2</source>
+        <translation>auf ihren Kopf folgen %1 Bytes, er kündigt mindestens %2 an</translation>
+    </message>
+    <message>
+        <source>%1 lines follow its header, which announces %2</source>
+        <translation>auf ihren Kopf folgen %1 Zeilen, er kündigt %2 an</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be kept as a default: new nodes have no other nodes of the scene in their fields.</source>
+        <translation>„%1“ lässt sich nicht als Voreinstellung behalten: Neue Knoten haben keine anderen Knoten der Szene in ihren Feldern.</translation>
+    </message>
+    <message>
+        <source>The value of “%1” cannot be kept as a default: its text is longer than %2 characters.</source>
+        <translation>Der Wert von „%1“ lässt sich nicht als Voreinstellung behalten: Sein Text ist länger als %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it has more than %1 bytes</source>
+        <translation>sie hat mehr als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>it cannot be read to its end</source>
+        <translation>sie lässt sich nicht bis zum Ende lesen</translation>
+    </message>
+    <message>
+        <source>its name was expected to end in .%1</source>
+        <translation>erwartet wurde ein Name, der auf .%1 endet</translation>
+    </message>
+    <message>
+        <source>no picture</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>grey, alpha</source>
+        <translation>Grau, Alpha</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>RGBA</source>
+        <translation>RGBA</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>Another program has changed “%1” since it was opened or saved here.</source>
+        <translation>Ein anderes Programm hat „%1“ geändert, seit die Datei hier geöffnet oder gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses their changes; reloading it loses yours; reloading and reapplying keeps those of yours that still fit.</source>
+        <translation>Beim Ersetzen gehen dessen Änderungen verloren, beim Neuladen deine; beim Neuladen und erneuten Anwenden bleiben die von deinen, die noch passen.</translation>
+    </message>
+    <message>
+        <source>Replacing it loses their changes.</source>
+        <translation>Beim Ersetzen gehen dessen Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Reload and Re&amp;apply</source>
+        <translation>Neu laden und erneut &amp;anwenden</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>About Scopix</source>
+        <translation>Über Scopix</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Scopix %1&lt;/b&gt;&lt;p&gt;Opens a 3D scene and lets you click anything, tune any value live, undo everything and see what it costs.&lt;/p&gt;&lt;p&gt;Free under the MIT licence, by the Scopix authors.&lt;/p&gt;</source>
+        <translation>&lt;b&gt;Scopix %1&lt;/b&gt;&lt;p&gt;Öffnet eine 3D-Szene: alles darin anklicken, jeden Wert live verändern, alles rückgängig machen und sehen, was es kostet.&lt;/p&gt;&lt;p&gt;Frei unter der MIT-Lizenz, von den Autoren von Scopix.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Version, system, plug-ins and libraries</source>
+        <translation>Version, System, Plug-ins und Bibliotheken</translation>
+    </message>
+    <message>
+        <source>&amp;Copy for a Bug Report</source>
+        <translation>Für einen Fehlerbericht &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>%1
+%2, process %3</source>
+        <translation>%1
+%2, Prozess %3</translation>
+    </message>
+    <message>
+        <source>No program that can be attached to is running.
+scopix --launch PROGRAM starts one.</source>
+        <translation>Es läuft kein Programm, mit dem man sich verbinden kann.
+„scopix --launch PROGRAMM“ startet eines.</translation>
+    </message>
+    <message>
+        <source>Attach to a Running Program</source>
+        <translation>Mit einem laufenden Programm verbinden</translation>
+    </message>
+    <message>
+        <source>Running programs</source>
+        <translation>Laufende Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Attach</source>
+        <translation>&amp;Verbinden</translation>
+    </message>
+    <message>
+        <source>The file “%1” cannot be written: %2.</source>
+        <translation>Die Datei „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to “%1”.</source>
+        <translation>In „%1“ lässt sich nichts schreiben.</translation>
+    </message>
+    <message>
+        <source>Unsaved edits would not survive a crash. %1</source>
+        <translation>Ungespeicherte Änderungen würden einen Absturz nicht überstehen. %1</translation>
+    </message>
+    <message>
+        <source>Values &amp;Before the Edits</source>
+        <translation>Werte &amp;vor den Änderungen</translation>
+    </message>
+    <message>
+        <source>Before the edits</source>
+        <translation>Vor den Änderungen</translation>
+    </message>
+    <message>
+        <source>The scene shows the values from when it was opened or last saved; press B in the view to see the present ones.</source>
+        <translation>Die Szene zeigt die Werte vom Öffnen oder vom letzten Speichern; drücke B in der Ansicht, um die jetzigen zu sehen.</translation>
+    </message>
+    <message>
+        <source>No value has been edited since the scene was opened or saved.</source>
+        <translation>Seit dem Öffnen oder Speichern der Szene wurde kein Wert geändert.</translation>
+    </message>
+    <message>
+        <source>No value of what is selected has been edited since the scene was opened or saved.</source>
+        <translation>An der Auswahl wurde seit dem Öffnen oder Speichern der Szene kein Wert geändert.</translation>
+    </message>
+    <message>
+        <source>Insert File</source>
+        <translation>Datei einfügen</translation>
+    </message>
+    <message>
+        <source>Scenes and models (%1);;All files (*)</source>
+        <translation>Szenen und Modelle (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reading “%1” was cancelled.</source>
+        <translation>Das Lesen von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Insert “%1”</source>
+        <translation>„%1“ aus Datei einfügen</translation>
+    </message>
+    <message>
+        <source>No node is selected: select one in the tree or in the view first.</source>
+        <translation>Kein Knoten ist ausgewählt: Wähle erst einen im Baum oder in der Ansicht.</translation>
+    </message>
+    <message>
+        <source>Save Branch As</source>
+        <translation>Zweig speichern unter</translation>
+    </message>
+    <message>
+        <source>Scenes (*.%1)</source>
+        <translation>Szenen (*.%1)</translation>
+    </message>
+    <message>
+        <source>The branch “%1” cannot be written to “%2”: %3.</source>
+        <translation>Der Zweig „%1“ lässt sich nicht nach „%2“ schreiben: %3.</translation>
+    </message>
+    <message>
+        <source>something in it is of a kind that cannot be copied</source>
+        <translation>etwas darin ist von einer Art, die sich nicht kopieren lässt</translation>
+    </message>
+    <message>
+        <source>“%1” was saved as “%2”.</source>
+        <translation>„%1“ wurde als „%2“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>%1, was %2, is %3</source>
+        <translation>%1, war %2, ist %3</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Filter the changes</source>
+        <translation>Änderungen filtern</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Takes back the ticked changes, or those that are selected, as one step (Del).</source>
+        <translation>Nimmt die angehakten oder ausgewählten Änderungen in einem Schritt zurück (Entf).</translation>
+    </message>
+    <message>
+        <source>Show Before</source>
+        <translation>Vorher zeigen</translation>
+    </message>
+    <message>
+        <source>Shows the values from before the ticked changes, or before all of them.</source>
+        <translation>Zeigt die Werte vor den angehakten Änderungen oder vor allen.</translation>
+    </message>
+    <message>
+        <source>&amp;Tick All</source>
+        <translation>Alle &amp;anhaken</translation>
+    </message>
+    <message>
+        <source>&amp;Untick All</source>
+        <translation>Alle Haken 164	Kein Haken, &amp;nirgendsentfernen</translation>
+    </message>
+    <message>
+        <source>Nothing differs from %1.</source>
+        <translation>Nichts unterscheidet sich von %1.</translation>
+    </message>
+    <message>
+        <source>1 change from %1</source>
+        <translation>1 Änderung gegenüber %1</translation>
+    </message>
+    <message>
+        <source>%L1 changes from %2</source>
+        <translation>%L1 Änderungen gegenüber %2</translation>
+    </message>
+    <message>
+        <source>, %L1 of them ticked</source>
+        <translation>, %L1 davon angehakt</translation>
+    </message>
+    <message>
+        <source>Changes that could not be taken over: %1; the first: %2</source>
+        <translation>Nicht übernehmbare Änderungen: %1; die erste: %2</translation>
+    </message>
+    <message>
+        <source>None of these changes is one of a value that could be shown as it was.</source>
+        <translation>Keine dieser Änderungen betrifft einen Wert, der sich im früheren Zustand zeigen ließe.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set to “%2”: it is no value of a %3.</source>
+        <translation>„%1“ lässt sich nicht auf „%2“ setzen: Das ist kein Wert der Art %3.</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Cut across the x axis</source>
+        <translation>Quer zur x-Achse schneiden</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Cut across the y axis</source>
+        <translation>Quer zur y-Achse schneiden</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Cut across the z axis</source>
+        <translation>Quer zur z-Achse schneiden</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Sicht</translation>
+    </message>
+    <message>
+        <source>Cut across the line of sight</source>
+        <translation>Quer zur Blickrichtung schneiden</translation>
+    </message>
+    <message>
+        <source>Where the plane cuts</source>
+        <translation>Wo die Ebene schneidet</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>Show the other side</source>
+        <translation>Die andere Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Show the whole scene again</source>
+        <translation>Wieder die ganze Szene zeigen</translation>
+    </message>
+    <message>
+        <source>Nothing is called so.</source>
+        <translation>Nichts heißt so.</translation>
+    </message>
+    <message>
+        <source>Find Anything</source>
+        <translation>Alles finden</translation>
+    </message>
+    <message>
+        <source>An act, node, field or setting</source>
+        <translation>Eine Aktion, ein Knoten, ein Feld oder eine Einstellung</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>ein anderes Programm benutzt sie</translation>
+    </message>
+    <message>
+        <source>it holds no performance counters</source>
+        <translation>sie enthält keine Leistungszähler</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be put back: %2.</source>
+        <translation>„%1“ lässt sich nicht wiederherstellen: %2.</translation>
+    </message>
+    <message>
+        <source>it is no library (no ELF file)</source>
+        <translation>das ist keine Bibliothek (keine ELF-Datei)</translation>
+    </message>
+    <message>
+        <source>it was built for another kind of machine (another word size)</source>
+        <translation>es ist für eine andere Art von Rechner gebaut (andere Wortbreite)</translation>
+    </message>
+    <message>
+        <source>it was built for another kind of machine (another byte order)</source>
+        <translation>es ist für eine andere Art von Rechner gebaut (andere Byte-Reihenfolge)</translation>
+    </message>
+    <message>
+        <source>it is no library (an ELF file of another type)</source>
+        <translation>das ist keine Bibliothek (eine ELF-Datei anderer Art)</translation>
+    </message>
+    <message>
+        <source>it is no library (its header is damaged)</source>
+        <translation>das ist keine Bibliothek (der Kopf ist beschädigt)</translation>
+    </message>
+    <message>
+        <source>ignored</source>
+        <translation>ignoriert</translation>
+    </message>
+    <message>
+        <source>not ignored</source>
+        <translation>nicht ignoriert</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>%1 values</source>
+        <translation>%1 Werte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>: %1 → %2 values</source>
+        <translation>: %1 → %2 Werte</translation>
+    </message>
+    <message>
+        <source>: %1 values changed</source>
+        <translation>: %1 Werte geändert</translation>
+    </message>
+    <message>
+        <source>no longer ignored</source>
+        <translation>nicht mehr ignoriert</translation>
+    </message>
+    <message>
+        <source>no longer default</source>
+        <translation>nicht mehr die Vorgabe</translation>
+    </message>
+    <message>
+        <source>follows another field</source>
+        <translation>folgt einem anderen Feld</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>Wert &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Reset to Default</source>
+        <translation>Auf Vo&amp;rgabe zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset %1.%2</source>
+        <translation>%1.%2 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>not there</source>
+        <translation>nicht da</translation>
+    </message>
+    <message>
+        <source>there</source>
+        <translation>da</translation>
+    </message>
+    <message>
+        <source>another node</source>
+        <translation>ein anderer Knoten</translation>
+    </message>
+    <message>
+        <source>here</source>
+        <translation>hier</translation>
+    </message>
+    <message>
+        <source>after %1</source>
+        <translation>nach %1</translation>
+    </message>
+    <message>
+        <source>first</source>
+        <translation>zuerst</translation>
+    </message>
+    <message>
+        <source>elsewhere in its group</source>
+        <translation>woanders in seiner Gruppe</translation>
+    </message>
+    <message>
+        <source>Take over %1</source>
+        <translation>%1 übernehmen</translation>
+    </message>
+    <message>
+        <source>Take Over %1 Changes</source>
+        <translation>%1 Änderungen übernehmen</translation>
+    </message>
+    <message>
+        <source>“%1” before the last edits; choose More ▸ Compare Again</source>
+        <translation>„%1“ vor den letzten Änderungen; wähle Mehr ▸ Neu vergleichen</translation>
+    </message>
+    <message>
+        <source>Take Over</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open a scene or model</source>
+        <translation>Eine Szene oder ein Modell öffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Zuletzt &amp;geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>None Yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>Diese Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Find in the scene</source>
+        <translation>In der Szene suchen</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Finds nodes by name, type or text; also &lt;b&gt;type:Light&lt;/b&gt;, &lt;b&gt;name:door&lt;/b&gt;, &lt;b&gt;field:radius&lt;/b&gt;, &lt;b&gt;value:0.5&lt;/b&gt;, &lt;b&gt;transparency&amp;gt;0&lt;/b&gt;, &lt;b&gt;translation.x=1&lt;/b&gt;, &lt;b&gt;changed&lt;/b&gt;, &lt;b&gt;connected&lt;/b&gt;, &lt;b&gt;ignored&lt;/b&gt;, &lt;b&gt;shared&lt;/b&gt;. A minus sign before a term means “not”, a bar between terms “or”.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Findet Knoten nach Name, Typ oder Text; auch &lt;b&gt;type:Light&lt;/b&gt;, &lt;b&gt;name:door&lt;/b&gt;, &lt;b&gt;field:radius&lt;/b&gt;, &lt;b&gt;value:0.5&lt;/b&gt;, &lt;b&gt;transparency&amp;gt;0&lt;/b&gt;, &lt;b&gt;translation.x=1&lt;/b&gt;, &lt;b&gt;changed&lt;/b&gt;, &lt;b&gt;connected&lt;/b&gt;, &lt;b&gt;ignored&lt;/b&gt;, &lt;b&gt;shared&lt;/b&gt;. Ein Minuszeichen vor einem Begriff heißt „nicht“, ein senkrechter Strich zwischen Begriffen „oder“.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Previous (Shift+Enter)</source>
+        <translation>Zurück (Umschalt+Eingabe)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Next (Enter)</source>
+        <translation>Weiter (Eingabe)</translation>
+    </message>
+    <message>
+        <source>Show only what is found</source>
+        <translation>Nur Gefundenes zeigen</translation>
+    </message>
+    <message>
+        <source>Show only what is found, and what it is in</source>
+        <translation>Nur Gefundenes zeigen und worin es liegt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Select %1</source>
+        <translation>%1 auswählen</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>%1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>it has no entry point “%1”</source>
+        <translation>es hat keinen Einsprungpunkt „%1“</translation>
+    </message>
+    <message>
+        <source>Handles Along Their &amp;Own Axes</source>
+        <translation>Griffe an den &amp;eigenen Achsen</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Turn</source>
+        <translation>&amp;Drehen</translation>
+    </message>
+    <message>
+        <source>S&amp;cale</source>
+        <translation>S&amp;kalieren</translation>
+    </message>
+    <message>
+        <source>There are no handles for “%1”: it is not in sight.</source>
+        <translation>Für „%1“ gibt es keine Griffe: Es ist nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be moved: it has no place.</source>
+        <translation>„%1“ lässt sich nicht verschieben: Es hat keinen Ort.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be turned: it has no direction.</source>
+        <translation>„%1“ lässt sich nicht drehen: Es hat keine Richtung.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be scaled: it has no size.</source>
+        <translation>„%1“ lässt sich nicht skalieren: Es hat keine Größe.</translation>
+    </message>
+    <message>
+        <source>The handles change %1 nodes together.</source>
+        <translation>Die Griffe ändern %1 Knoten zusammen.</translation>
+    </message>
+    <message>
+        <source>The handles change %1 parts together; dragging puts a Transform above %2 of them.</source>
+        <translation>Die Griffe ändern %1 Teile zusammen; Ziehen setzt über %2 davon ein Transform.</translation>
+    </message>
+    <message>
+        <source>Dragging a handle puts a Transform above “%1”.</source>
+        <translation>Ziehen an einem Griff setzt ein Transform über „%1“.</translation>
+    </message>
+    <message>
+        <source>The handles change “%1”, which moves “%2”.</source>
+        <translation>Die Griffe ändern „%1“, das „%2“ bewegt.</translation>
+    </message>
+    <message>
+        <source>Put a Transform above “%1”.</source>
+        <translation>Ein Transform über „%1“ setzen.</translation>
+    </message>
+    <message>
+        <source>Put a Transform above each of %1 parts.</source>
+        <translation>Je ein Transform über %1 Teile setzen.</translation>
+    </message>
+    <message>
+        <source>%1 nodes</source>
+        <translation>%1 Knoten</translation>
+    </message>
+    <message>
+        <source>Move %1</source>
+        <translation>%1 verschieben</translation>
+    </message>
+    <message>
+        <source>Turn %1</source>
+        <translation>%1 drehen</translation>
+    </message>
+    <message>
+        <source>Scale %1</source>
+        <translation>%1 skalieren</translation>
+    </message>
+    <message>
+        <source>own axes</source>
+        <translation>eigene Achsen</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>Nothing can be edited while the values before the edits show; press B in the view to see the present ones.</source>
+        <translation>Solange die Werte vor den Änderungen zu sehen sind, lässt sich nichts ändern; drücke B in der Ansicht, um die jetzigen zu sehen.</translation>
+    </message>
+    <message>
+        <source>Fold the &amp;Bottom Area</source>
+        <translation>&amp;Unteren Bereich einklappen</translation>
+    </message>
+    <message>
+        <source>The program ended or hung while it was loaded.</source>
+        <translation>Das Programm endete oder hing, während es geladen wurde.</translation>
+    </message>
+    <message>
+        <source>Another one</source>
+        <translation>Ein weiteres</translation>
+    </message>
+    <message>
+        <source>The file of the performance counters, “%1”, is damaged: %2.</source>
+        <translation>Die Datei der Leistungszähler, „%1“, ist beschädigt: %2.</translation>
+    </message>
+    <message>
+        <source>A good copy of it was kept on %1. The damaged file is kept, too, when that is put back.</source>
+        <translation>Am %1 wurde eine gute Kopie davon aufgehoben. Beim Wiederherstellen bleibt auch die beschädigte Datei erhalten.</translation>
+    </message>
+    <message>
+        <source>&amp;Put Back</source>
+        <translation>Zurück&amp;holen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave As It Is</source>
+        <translation>So &amp;lassen</translation>
+    </message>
+    <message>
+        <source>There is no profile named “%1”.</source>
+        <translation>Es gibt kein Profil „%1“.</translation>
+    </message>
+    <message>
+        <source>The extension “%1” failed in %2(): %3.</source>
+        <translation>Die Erweiterung „%1“ ist in %2() fehlgeschlagen: %3.</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>The extension “%1” failed when it was to be shown or hidden: %2</source>
+        <translation>Die Erweiterung „%1“ ist beim Ein- oder Ausblenden fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>A plug-in failed when it was to add entries to a menu: %1</source>
+        <translation>Ein Plug-in ist beim Eintragen in ein Menü fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Set</source>
+        <translation>&amp;Setzen</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>As S&amp;hipped</source>
+        <translation>&amp;Wie geliefert</translation>
+    </message>
+    <message>
+        <source>All keys as in</source>
+        <translation>Alle Tasten wie in</translation>
+    </message>
+    <message>
+        <source>All keys as in…</source>
+        <translation>Alle Tasten wie in …</translation>
+    </message>
+    <message>
+        <source>Find an act or a key</source>
+        <translation>Eine Aktion oder Taste finden</translation>
+    </message>
+    <message>
+        <source>Acts and their keys</source>
+        <translation>Aktionen und ihre Tasten</translation>
+    </message>
+    <message>
+        <source>Act</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Another key</source>
+        <translation>Andere Taste</translation>
+    </message>
+    <message>
+        <source>“%1” has this key, and loses it when you set it.</source>
+        <translation>„%1“ hat diese Taste und verliert sie beim Setzen.</translation>
+    </message>
+    <message>
+        <source>the owner of %1 cannot be found out</source>
+        <translation>der Besitzer von %1 lässt sich nicht feststellen</translation>
+    </message>
+    <message>
+        <source>%1 belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
+        <translation>%1 gehört %2, und geladen werden nur deine Plug-ins und die des Systemverwalters; kopiere es in einen deiner Ordner, wenn du ihm vertraust</translation>
+    </message>
+    <message>
+        <source>every user may write to %1, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
+        <translation>jeder Benutzer darf in %1 schreiben, es kann also von irgendwem sein; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
+    </message>
+    <message>
+        <source>other users, those of its group, may write to %1; take that permission away, or copy it to a folder of yours</source>
+        <translation>andere Benutzer aus seiner Gruppe dürfen in %1 schreiben; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
+    </message>
+    <message>
+        <source>its folder “%1”</source>
+        <translation>sein Ordner „%1“</translation>
+    </message>
+    <message>
+        <source>1 change</source>
+        <translation>1 Änderung</translation>
+    </message>
+    <message>
+        <source>%L1 changes</source>
+        <translation>%L1 Änderungen</translation>
+    </message>
+    <message>
+        <source>A&amp;ttach to a Program…</source>
+        <translation>Mit einem Programm &amp;verbinden …</translation>
+    </message>
+    <message>
+        <source>&amp;Detach</source>
+        <translation>Verbindung &amp;beenden</translation>
+    </message>
+    <message>
+        <source>Take My Changes &amp;Back</source>
+        <translation>Meine Änderungen zurück&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the Selected Node in the Program</source>
+        <translation>Den ausgewählten Knoten im Programm &amp;ansehen</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, Prozess %2</translation>
+    </message>
+    <message>
+        <source>“%1” shows no picture here.</source>
+        <translation>„%1“ zeigt hier kein Bild.</translation>
+    </message>
+    <message>
+        <source>Attached to “%1”.</source>
+        <translation>Mit „%1“ verbunden.</translation>
+    </message>
+    <message>
+        <source>“%1” does not tell what is under a place of its picture.</source>
+        <translation>„%1“ sagt nicht, was unter einer Stelle seines Bildes liegt.</translation>
+    </message>
+    <message>
+        <source>The selected node has no extent that could be looked at.</source>
+        <translation>Der ausgewählte Knoten hat keine Ausdehnung, die sich ansehen ließe.</translation>
+    </message>
+    <message>
+        <source>“%1” has not answered for 2 seconds; what it showed last stays, and cannot be edited before it answers again.</source>
+        <translation>„%1“ antwortet seit 2 Sekunden nicht; das zuletzt Gezeigte bleibt stehen und lässt sich erst wieder ändern, wenn es antwortet.</translation>
+    </message>
+    <message>
+        <source>Kept for when you attach to “%1” again: %2.</source>
+        <translation>Aufgehoben für die nächste Verbindung mit „%1“: %2.</translation>
+    </message>
+    <message>
+        <source>Apply %1 of the last run of “%2” again?</source>
+        <translation>%1 vom letzten Lauf von „%2“ erneut anwenden?</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Leave It as It Is</source>
+        <translation>So &amp;lassen, wie es ist</translation>
+    </message>
+    <message>
+        <source>A change of the last run does not fit here any more and is left out.</source>
+        <translation>Eine Änderung vom letzten Lauf passt hier nicht mehr und wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Written to the program: %1.</source>
+        <translation>Ins Programm geschrieben: %1.</translation>
+    </message>
+    <message>
+        <source>Written to the program: %1; the console lists those that do not fit any more.</source>
+        <translation>Ins Programm geschrieben: %1; die Konsole nennt, was nicht mehr passt.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be started: %2.</source>
+        <translation>„%1“ ließ sich nicht starten: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such program</source>
+        <translation>dieses Programm gibt es nicht</translation>
+    </message>
+    <message>
+        <source>“%1” ended before it could be attached to.</source>
+        <translation>„%1“ endete, bevor eine Verbindung möglich war.</translation>
+    </message>
+    <message>
+        <source>“%1” runs and offers nothing to attach to: it has to use OpenSceneGraph as a shared library, or a live server of its own.</source>
+        <translation>„%1“ läuft und bietet keine Verbindung an: Es muss OpenSceneGraph als gemeinsame Bibliothek benutzen oder einen eigenen Live-Server haben.</translation>
+    </message>
+    <message>
+        <source>More than one program can be attached to, so that the number of one has to be given: %1.</source>
+        <translation>Mehrere Programme bieten eine Verbindung an; gib die Nummer von einem an: %1.</translation>
+    </message>
+    <message>
+        <source>No program that can be attached to is running; scopix --launch PROGRAM starts one.</source>
+        <translation>Es läuft kein Programm, mit dem man sich verbinden kann; „scopix --launch PROGRAMM“ startet eines.</translation>
+    </message>
+    <message>
+        <source>No program “%1” that can be attached to is running; scopix --list-live lists those that are.</source>
+        <translation>Es läuft kein Programm „%1“, mit dem man sich verbinden kann; „scopix --list-live“ listet die laufenden auf.</translation>
+    </message>
+    <message>
+        <source>Picture of the program</source>
+        <translation>Bild des Programms</translation>
+    </message>
+    <message>
+        <source>Apply changes again</source>
+        <translation>Änderungen erneut anwenden</translation>
+    </message>
+    <message>
+        <source>Take changes back</source>
+        <translation>Änderungen zurücknehmen</translation>
+    </message>
+    <message>
+        <source>“%1” takes whole numbers only, and is as it was.</source>
+        <translation>„%1“ nimmt nur ganze Zahlen an und ist, wie es war.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be changed: “%2” only lets it be read.</source>
+        <translation>„%1“ lässt sich nicht ändern: „%2“ lässt es nur lesen.</translation>
+    </message>
+    <message>
+        <source>“%1” refused the value of “%2”: %3</source>
+        <translation>„%1“ hat den Wert von „%2“ abgelehnt: %3</translation>
+    </message>
+    <message>
+        <source>“%1” took another value for “%2” than was asked for.</source>
+        <translation>„%1“ hat für „%2“ einen anderen Wert genommen als verlangt.</translation>
+    </message>
+    <message>
+        <source>Only nodes of “%1” itself can stand in it, and their names are among their fields.</source>
+        <translation>Darin können nur Knoten aus „%1“ selbst stehen; ihre Namen sind unter ihren Feldern.</translation>
+    </message>
+    <message>
+        <source>“%1” refused to change the children of “%2”: %3</source>
+        <translation>„%1“ hat abgelehnt, die Kinder von „%2“ zu ändern: %3</translation>
+    </message>
+    <message>
+        <source>“%1” has more children than can be shown: those after the first %L2 are left out.</source>
+        <translation>„%1“ hat mehr Kinder, als sich zeigen lassen: Die nach den ersten %L2 fehlen hier.</translation>
+    </message>
+    <message>
+        <source>“%1” has no “%2” any more.</source>
+        <translation>„%1“ hat kein „%2“ mehr.</translation>
+    </message>
+    <message>
+        <source>“%1” came with a value that is none of its kind, and is not shown.</source>
+        <translation>„%1“ kam mit einem Wert, der nicht zu seiner Art passt, und wird nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>You have detached from “%1”.</source>
+        <translation>Die Verbindung mit „%1“ ist getrennt.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be edited: “%2” is not attached any more.</source>
+        <translation>„%1“ lässt sich nicht ändern: „%2“ ist nicht mehr verbunden.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be edited before “%2” answers again.</source>
+        <translation>„%1“ lässt sich erst ändern, wenn „%2“ wieder antwortet.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be edited: it does not exist in “%2” any more.</source>
+        <translation>„%1“ lässt sich nicht ändern: In „%2“ gibt es das nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The nodes of “%1” can be neither moved nor removed, since the program does not offer that.</source>
+        <translation>Die Knoten von „%1“ lassen sich weder verschieben noch entfernen, da das Programm das nicht anbietet.</translation>
+    </message>
+    <message>
+        <source>Select a node: its fields are listed here.</source>
+        <translation>Wähle einen Knoten aus: Hier stehen dann seine Felder.</translation>
+    </message>
+    <message>
+        <source>Nothing is open. Open a scene or model, or drop one here.</source>
+        <translation>Nichts ist geöffnet. Öffne eine Szene oder ein Modell oder ziehe eine Datei hierher.</translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation>Willkommen</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Older steps were dropped to keep within %1 MiB</source>
+        <translation>Ältere Schritte wurden verworfen, um unter %1 MiB zu bleiben</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Save Picture of the &amp;Window…</source>
+        <translation>Bild des &amp;Fensters speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Find in the Scene</source>
+        <translation>In der Szene &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Knoten</translation>
+    </message>
+    <message>
+        <source>Handles in the 3D View</source>
+        <translation>Griffe in der 3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>View &amp;All</source>
+        <translation>&amp;Alles ansehen</translation>
+    </message>
+    <message>
+        <source>View &amp;Selected</source>
+        <translation>Au&amp;swahl ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>Aus&amp;gangsansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>&amp;Drahtgitter</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics</source>
+        <translation>S&amp;tatistik</translation>
+    </message>
+    <message>
+        <source>Columns of the T&amp;ree</source>
+        <translation>Spalten des &amp;Baums</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Profile</source>
+        <translation>&amp;Profil</translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Moving in the 3D View</source>
+        <translation>Bewegen in der &amp;3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Moving in the 3D View</source>
+        <translation>Bewegen in der 3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Turn: drag with the left button.
+Move: drag with the middle or right button.
+Nearer, farther: turn the wheel; the place under the pointer stays.
+Select: click; once more for the shape, then its material. Ctrl adds, Shift and dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.
+See all of the selected part: double-click, or F.
+See everything: A. As at first, through the scene's own camera where it has one: Home.
+By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.
+Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.
+Measure: M.
+From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.
+Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; select again: Q. Shift is finer, Ctrl snaps.
+Hide or show what is selected: H, show all: Shift+H, show nothing else: /.
+Find a node: Ctrl+F.
+Edges only: F3. What a picture costs: F4.</source>
+        <translation>Drehen: mit der linken Taste ziehen.
+Verschieben: mit der mittleren oder rechten Taste ziehen.
+Näher, weiter weg: Mausrad drehen; die Stelle unter dem Zeiger bleibt.
+Auswählen: klicken; noch einmal für die Form, dann ihr Material. Strg nimmt dazu, Umschalt und Ziehen wählt alles in einem Rechteck, Alt listet auf, was unter dem Zeiger liegt. Esc geht nach oben.
+Die ganze Auswahl ansehen: Doppelklick oder F.
+Alles ansehen: A. Wie am Anfang, durch die Kamera der Szene, wenn sie eine hat: Pos1.
+Mit Tasten: Die Pfeile drehen, mit Umschalt verschieben sie; Plus und Minus gehen näher und weiter weg.
+Mit Tasten auswählen: Strg und Pfeile bewegen ein Fadenkreuz, Eingabe klickt dort.
+Messen: M.
+Von vorne, rechts, oben: 1, 3, 7; orthografisch: 5. Gehen: Umschalt+W.
+Die Auswahl verschieben, drehen, skalieren: W, E, R, dann an einem Griff ziehen, oder X, Y oder Z und eine Zahl; wieder auswählen: Q. Umschalt ist feiner, Strg rastet ein.
+Die Auswahl aus- oder einblenden: H, alles einblenden: Umschalt+H, nur sie zeigen: /.
+Einen Knoten finden: Strg+F.
+Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
+    </message>
+    <message>
+        <source>Help on What &amp;Is Selected</source>
+        <translation>Hilfe zur &amp;Auswahl</translation>
+    </message>
+    <message>
+        <source>&amp;Nodes</source>
+        <translation>&amp;Knotenarten</translation>
+    </message>
+    <message>
+        <source>&amp;About Scopix</source>
+        <translation>Ü&amp;ber Scopix</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Haupt</translation>
+    </message>
+    <message>
+        <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
+        <translation>Die Seite über Knoten lässt sich nicht zeigen: Sie ist nicht beim Programm installiert.</translation>
+    </message>
+    <message>
+        <source>Running Scene</source>
+        <translation>Laufende Szene</translation>
+    </message>
+    <message>
+        <source>%1 (deleted)</source>
+        <translation>%1 (gelöscht)</translation>
+    </message>
+    <message>
+        <source>Nothing in the scene has the name or the type “%1”.</source>
+        <translation>Nichts in der Szene hat den Namen oder Typ „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1”, a %2, has no field “%3”.</source>
+        <translation>„%1“, ein %2, hat kein Feld „%3“.</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>Click something in the view or in the tree: its values appear here.</source>
+        <translation>Klicke etwas in der Ansicht oder im Baum an: Hier erscheinen seine Werte.</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Along x, y, z</source>
+        <translation>Entlang x, y, z</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation>Kante</translation>
+    </message>
+    <message>
+        <source>Box of the selection</source>
+        <translation>Box der Auswahl</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>Dreiecke</translation>
+    </message>
+    <message>
+        <source>Click the second point.</source>
+        <translation>Klicke auf den zweiten Punkt.</translation>
+    </message>
+    <message>
+        <source>Click two points. Ctrl+C copies, Esc ends.</source>
+        <translation>Klicke auf zwei Punkte. Strg+C kopiert, Esc beendet.</translation>
+    </message>
+    <message>
+        <source>the program that reads models, “%1”, cannot be started</source>
+        <translation>das Programm, das Modelle liest, „%1“, lässt sich nicht starten</translation>
+    </message>
+    <message>
+        <source>reading it takes too long, and was given up</source>
+        <translation>das Lesen dauert zu lange und wurde aufgegeben</translation>
+    </message>
+    <message>
+        <source>it contradicts itself, and reading it was given up</source>
+        <translation>sie widerspricht sich selbst, das Lesen wurde aufgegeben</translation>
+    </message>
+    <message>
+        <source>what was read of it could not be written to “%1”</source>
+        <translation>was davon gelesen wurde, ließ sich nicht nach „%1“ schreiben</translation>
+    </message>
+    <message>
+        <source>No Plug-ins</source>
+        <translation>Keine Plug-ins</translation>
+    </message>
+    <message>
+        <source>No plug-in is loaded, so there are no editors and no tools. Plug-ins were looked for in these folders:
+
+%1</source>
+        <translation>Es ist kein Plug-in geladen, darum gibt es keine Editoren und keine Werkzeuge. Gesucht wurde in diesen Ordnern:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) copied.</source>
+        <translation><numerusform>%n Knoten kopiert.</numerusform><numerusform>%n Knoten kopiert.</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste “%1”</source>
+        <translation>„%1“ einfügen</translation>
+    </message>
+    <message>
+        <source>Paste %1 Nodes</source>
+        <translation>%1 Knoten einfügen</translation>
+    </message>
+    <message>
+        <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
+        <translation>Nur Knoten, die in diesem Fenster und in dieser Szene kopiert wurden, lassen sich als gemeinsame einfügen.</translation>
+    </message>
+    <message>
+        <source>Share “%1”</source>
+        <translation>„%1“ gemeinsam nutzen</translation>
+    </message>
+    <message>
+        <source>Share %1 Nodes</source>
+        <translation>%1 Knoten gemeinsam nutzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Drop %n Node(s)</source>
+        <translation><numerusform>%n Knoten ablegen</numerusform><numerusform>%n Knoten ablegen</numerusform></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be hidden: it only sets something for other nodes.</source>
+        <translation>„%1“ lässt sich nicht ausblenden: Es stellt nur etwas für andere Knoten ein.</translation>
+    </message>
+    <message>
+        <source>Only what is selected is seen; press / again to see the rest.</source>
+        <translation>Nur die Auswahl ist zu sehen; drücke wieder /, um den Rest zu sehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File…</source>
+        <translation>&amp;Datei einfügen …</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Branch As…</source>
+        <translation>&amp;Zweig speichern unter …</translation>
+    </message>
+    <message>
+        <source>Put A&amp;bove</source>
+        <translation>Darü&amp;ber setzen</translation>
+    </message>
+    <message>
+        <source>Put a %1 Above</source>
+        <translation>%1 darübersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Another…</source>
+        <translation>&amp;Anderes …</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste as &amp;Shared</source>
+        <translation>Ge&amp;meinsam genutzt einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Group</source>
+        <translation>&amp;Gruppieren</translation>
+    </message>
+    <message>
+        <source>&amp;Ungroup</source>
+        <translation>Gruppierung au&amp;fheben</translation>
+    </message>
+    <message>
+        <source>Make Uni&amp;que</source>
+        <translation>E&amp;igenständig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Out of Its Group</source>
+        <translation>&amp;Aus der Gruppe heraus</translation>
+    </message>
+    <message>
+        <source>&amp;Into the Group Before</source>
+        <translation>In die Gruppe &amp;davor</translation>
+    </message>
+    <message>
+        <source>&amp;Hide or Show</source>
+        <translation>Aus- oder ein&amp;blenden</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w All</source>
+        <translation>Alles ei&amp;nblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Isolate</source>
+        <translation>Nur das &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Lock or Unlock</source>
+        <translation>&amp;Sperren oder entsperren</translation>
+    </message>
+    <message>
+        <source>Make Hiding Pe&amp;rmanent</source>
+        <translation>Ausblenden &amp;dauerhaft machen</translation>
+    </message>
+    <message>
+        <source>Add a Node</source>
+        <translation>Knoten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Put a Node Above</source>
+        <translation>Knoten darübersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Find Anything…</source>
+        <translation>&amp;Alles finden …</translation>
+    </message>
+    <message>
+        <source>Preferences ▸ %1</source>
+        <translation>Einstellungen ▸ %1</translation>
+    </message>
+    <message>
+        <source>field of %1</source>
+        <translation>Feld von %1</translation>
+    </message>
+    <message>
+        <source>node, %1</source>
+        <translation>Knoten, %1</translation>
+    </message>
+    <message>
+        <source>Patches (*.%1)</source>
+        <translation>Patches (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save Changes as Patch</source>
+        <translation>Änderungen als Patch speichern</translation>
+    </message>
+    <message>
+        <source>There is no change that could be saved.</source>
+        <translation>Es gibt keine Änderung, die sich speichern ließe.</translation>
+    </message>
+    <message>
+        <source>Saved the changes as “%1”.</source>
+        <translation>Die Änderungen sind als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Apply Patch</source>
+        <translation>Patch anwenden</translation>
+    </message>
+    <message>
+        <source>Apply “%1”</source>
+        <translation>„%1“ anwenden</translation>
+    </message>
+    <message>
+        <source>“%1”: %2 changes applied, %3 were so already, %4 did not fit.</source>
+        <translation>„%1“: %2 Änderungen angewendet, %3 waren schon so, %4 passten nicht.</translation>
+    </message>
+    <message>
+        <source>What fits is applied, and can be undone as one step.</source>
+        <translation>Was passt, wird angewendet und lässt sich in einem Schritt rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>There is no change that could be copied so.</source>
+        <translation>Es gibt keine Änderung, die sich so kopieren ließe.</translation>
+    </message>
+    <message>
+        <source>The changes were copied as a patch.</source>
+        <translation>Die Änderungen wurden als Patch kopiert.</translation>
+    </message>
+    <message>
+        <source>The changes were copied as C++.</source>
+        <translation>Die Änderungen wurden als C++ kopiert.</translation>
+    </message>
+    <message>
+        <source>The changed values were copied as nodes of a scene.</source>
+        <translation>Die geänderten Werte wurden als Knoten einer Szene kopiert.</translation>
+    </message>
+    <message>
+        <source>Save &amp;Picture…</source>
+        <translation>&amp;Bild speichern …</translation>
+    </message>
+    <message>
+        <source>Save &amp;Turntable…</source>
+        <translation>Dreh&amp;ansicht speichern …</translation>
+    </message>
+    <message>
+        <source>Save Turntable</source>
+        <translation>Drehansicht speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.%1)</source>
+        <translation>Bilder (*.%1)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of these pictures are there already in “%1”. Replace them?</source>
+        <translation><numerusform>%n dieser Bilder gibt es in „%1“ schon. Ersetzen?</numerusform><numerusform>%n dieser Bilder gibt es in „%1“ schon. Ersetzen?</numerusform></translation>
+    </message>
+    <message>
+        <source>Drawing…</source>
+        <translation>Wird gezeichnet …</translation>
+    </message>
+    <message>
+        <source>Cancelled; no picture was written.</source>
+        <translation>Abgebrochen; es wurde kein Bild geschrieben.</translation>
+    </message>
+    <message>
+        <source>Cancelled; of %1 pictures, %2 were written.</source>
+        <translation>Abgebrochen; von %1 Bildern wurden %2 geschrieben.</translation>
+    </message>
+    <message>
+        <source>Saved “%1”.</source>
+        <translation>„%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Saved %1 pictures, the first being “%2”.</source>
+        <translation>%1 Bilder gespeichert, das erste ist „%2“.</translation>
+    </message>
+    <message>
+        <source>&amp;Transparent ground</source>
+        <translation>&amp;Durchsichtiger Hintergrund</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Width in pixels:</source>
+        <translation>&amp;Breite in Pixeln:</translation>
+    </message>
+    <message>
+        <source>&amp;Height in pixels:</source>
+        <translation>&amp;Höhe in Pixeln:</translation>
+    </message>
+    <message>
+        <source>&amp;Pictures of one turn:</source>
+        <translation>B&amp;ilder einer Drehung:</translation>
+    </message>
+    <message>
+        <source>Preparing the picture…</source>
+        <translation>Das Bild wird vorbereitet …</translation>
+    </message>
+    <message>
+        <source>A picture of %1 × %2 pixels cannot be made: each side may have 1 to %3, and all of it %L4.</source>
+        <translation>Ein Bild von %1 × %2 Pixeln ist nicht möglich: Jede Seite darf 1 bis %3 haben, das ganze Bild %L4.</translation>
+    </message>
+    <message>
+        <source>%1 pictures of one turn cannot be made: choose 2 to %2.</source>
+        <translation>%1 Bilder einer Drehung sind nicht möglich: Wähle 2 bis %2.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” cannot be transparent, which .%2 files cannot hold: choose .png.</source>
+        <translation>Das Bild „%1“ kann nicht durchsichtig sein, da .%2-Dateien das nicht können: Wähle .png.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>dafür reicht der Speicher nicht</translation>
+    </message>
+    <message>
+        <source>Clip %1</source>
+        <translation>Clip %1</translation>
+    </message>
+    <message>
+        <source>All clips</source>
+        <translation>Alle Clips</translation>
+    </message>
+    <message>
+        <source>&amp;Animation</source>
+        <translation>A&amp;nimation</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>&amp;Abspielen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop, as It Was</source>
+        <translation>&amp;Stopp, wie es war</translation>
+    </message>
+    <message>
+        <source>One Key &amp;Back</source>
+        <translation>Einen Schlüssel &amp;zurück</translation>
+    </message>
+    <message>
+        <source>One Key &amp;Ahead</source>
+        <translation>Einen Schlüssel &amp;weiter</translation>
+    </message>
+    <message>
+        <source>Half as &amp;Fast</source>
+        <translation>&amp;Halb so schnell</translation>
+    </message>
+    <message>
+        <source>&amp;Twice as Fast</source>
+        <translation>&amp;Doppelt so schnell</translation>
+    </message>
+    <message>
+        <source>Back&amp;wards</source>
+        <translation>&amp;Rückwärts</translation>
+    </message>
+    <message>
+        <source>Again and A&amp;gain</source>
+        <translation>&amp;Immer wieder</translation>
+    </message>
+    <message>
+        <source>&amp;Next Clip</source>
+        <translation>&amp;Nächster Clip</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Which clip is played</source>
+        <translation>Welcher Clip gespielt wird</translation>
+    </message>
+    <message>
+        <source>Time in the clip</source>
+        <translation>Zeit im Clip</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>How fast it is played; below 0 backwards</source>
+        <translation>Wie schnell gespielt wird; unter 0 rückwärts</translation>
+    </message>
+    <message>
+        <source>%1 / %2 s</source>
+        <translation>%1 / %2 s</translation>
+    </message>
+    <message>
+        <source>the program ended the last time while it was being loaded</source>
+        <translation>das Programm endete beim letzten Mal, während es geladen wurde</translation>
+    </message>
+    <message>
+        <source>%1; View &gt; Tools &gt; Try Again loads it all the same</source>
+        <translation>%1; Ansicht &gt; Werkzeuge &gt; Neu versuchen lädt es trotzdem</translation>
+    </message>
+    <message>
+        <source>it is a folder, and a plug-in library was expected</source>
+        <translation>das ist ein Ordner und keine Plug-in-Bibliothek</translation>
+    </message>
+    <message>
+        <source>the file may not be read</source>
+        <translation>die Datei darf nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it is no library that this program can load (%1)</source>
+        <translation>das ist keine Bibliothek, die dieses Programm laden kann (%1)</translation>
+    </message>
+    <message>
+        <source>its loadPlugin failed: %1</source>
+        <translation>sein loadPlugin ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>its loadPlugin returned no plug-in</source>
+        <translation>sein loadPlugin hat kein Plug-in geliefert</translation>
+    </message>
+    <message>
+        <source>The plug-in “%1” was not loaded: %2.</source>
+        <translation>Das Plug-in „%1“ wurde nicht geladen: %2.</translation>
+    </message>
+    <message>
+        <source>it says that it cannot be used</source>
+        <translation>es sagt, dass es sich nicht benutzen lässt</translation>
+    </message>
+    <message>
+        <source>its load() failed: %1</source>
+        <translation>sein load() ist fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>The plug-in “%1” failed in %2(): %3.</source>
+        <translation>Das Plug-in „%1“ ist in %2() fehlgeschlagen: %3.</translation>
+    </message>
+    <message>
+        <source>it was made for the C++ library %1, this program uses %2</source>
+        <translation>es ist für die C++-Bibliothek %1 gebaut, dieses Programm benutzt %2</translation>
+    </message>
+    <message>
+        <source>Loaded</source>
+        <translation>Geladen</translation>
+    </message>
+    <message>
+        <source>Set aside</source>
+        <translation>Beiseitegelegt</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Abgelehnt</translation>
+    </message>
+    <message>
+        <source>its code ended the process in which it was tried</source>
+        <translation>sein Code hat den Prozess beendet, in dem es erprobt wurde</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Plug-in</source>
+        <translation>Plug-in</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>One that was set aside is loaded again by View ▸ Tools ▸ Try Again. Which tools are active is a profile’s choice: View ▸ Profile.</source>
+        <translation>Ein beiseitegelegtes wird mit Ansicht ▸ Werkzeuge ▸ Neu versuchen wieder geladen. Welche Werkzeuge aktiv sind, bestimmt das Profil: Ansicht ▸ Profil.</translation>
+    </message>
+    <message>
+        <source>Nothing is called so. Try another word.</source>
+        <translation>Nichts heißt so. Versuche ein anderes Wort.</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Find a setting</source>
+        <translation>Eine Einstellung suchen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Reset This Page</source>
+        <translation>Diese Seite &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1, and the shipped profiles are used.</source>
+        <translation>%1, und die mitgelieferten Profile werden verwendet.</translation>
+    </message>
+    <message>
+        <source>The profiles file “%1” cannot be read: %2</source>
+        <translation>Die Profildatei „%1“ lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>it is larger than any profiles file can be</source>
+        <translation>sie ist größer, als eine Profildatei sein kann</translation>
+    </message>
+    <message>
+        <source>The profiles file “%1” is damaged: %2; %3</source>
+        <translation>Die Profildatei „%1“ ist beschädigt: %2; %3</translation>
+    </message>
+    <message>
+        <source>The profiles file “%1” cannot be written: %2.</source>
+        <translation>Die Profildatei „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>it was kept as “%1”</source>
+        <translation>sie wurde als „%1“ aufgehoben</translation>
+    </message>
+    <message>
+        <source>it could not be renamed</source>
+        <translation>sie ließ sich nicht umbenennen</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>ein Profil braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>the name “%1” has letters that a profile's name cannot have (Latin-1 only)</source>
+        <translation>der Name „%1“ hat Buchstaben, die ein Profilname nicht haben kann (nur Latin-1)</translation>
+    </message>
+    <message>
+        <source>there already is a profile named “%1”</source>
+        <translation>ein Profil „%1“ gibt es schon</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>The active profile</source>
+        <translation>Das aktive Profil</translation>
+    </message>
+    <message>
+        <source>Extensions that the profile controls</source>
+        <translation>Erweiterungen, die das Profil steuert</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Editors</source>
+        <translation>Editoren</translation>
+    </message>
+    <message>
+        <source>Makes a copy of the active profile, which stands in bold.</source>
+        <translation>Legt eine Kopie des aktiven Profils an, das fett gedruckt ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>U&amp;mbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>L&amp;öschen</translation>
+    </message>
+    <message>
+        <source>“Default” controls every extension and stays as it is.</source>
+        <translation>„Default“ steuert jede Erweiterung und bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>&amp;Manage Profiles…</source>
+        <translation>Profile &amp;verwalten …</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>&amp;Ignorieren</translation>
+    </message>
+    <message>
+        <source>Another program has changed “%1”.</source>
+        <translation>Ein anderes Programm hat „%1“ geändert.</translation>
+    </message>
+    <message>
+        <source>What you have changed since the scene was opened</source>
+        <translation>Was du seit dem Öffnen der Szene geändert hast</translation>
+    </message>
+    <message>
+        <source>Wr&amp;ite Patch…</source>
+        <translation>Patch &amp;schreiben …</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as Patch</source>
+        <translation>Als Patch &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as C&amp;++</source>
+        <translation>Als C&amp;++ kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as Sce&amp;ne</source>
+        <translation>Als Sze&amp;ne kopieren</translation>
+    </message>
+    <message>
+        <source>Compare &amp;With…</source>
+        <translation>Vergleichen &amp;mit …</translation>
+    </message>
+    <message>
+        <source>Compare A&amp;gain</source>
+        <translation>Neu ver&amp;gleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Back to What You Changed</source>
+        <translation>&amp;Zurück zu deinen Änderungen</translation>
+    </message>
+    <message>
+        <source>&amp;Start Again from Here</source>
+        <translation>Von &amp;hier an neu beginnen</translation>
+    </message>
+    <message>
+        <source>Save Changes as &amp;Patch…</source>
+        <translation>Änderungen als &amp;Patch speichern …</translation>
+    </message>
+    <message>
+        <source>App&amp;ly Patch…</source>
+        <translation>Patch a&amp;nwenden …</translation>
+    </message>
+    <message>
+        <source>Reload and Reappl&amp;y</source>
+        <translation>Neu laden und erneut an&amp;wenden</translation>
+    </message>
+    <message>
+        <source>Opens the file as it is by now, and makes your changes once more</source>
+        <translation>Öffnet die Datei in ihrem jetzigen Zustand und macht deine Änderungen noch einmal</translation>
+    </message>
+    <message>
+        <source>the scene as it was opened</source>
+        <translation>der Szene beim Öffnen</translation>
+    </message>
+    <message>
+        <source>your changes to %1</source>
+        <translation>deine Änderungen an %1</translation>
+    </message>
+    <message>
+        <source>Compare With</source>
+        <translation>Vergleichen mit</translation>
+    </message>
+    <message>
+        <source>Changes ●</source>
+        <translation>Änderungen ●</translation>
+    </message>
+    <message>
+        <source>The scene “%1” cannot be written: %2.</source>
+        <translation>Die Szene „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>no name</source>
+        <translation>ohne Namen</translation>
+    </message>
+    <message>
+        <source>Written since by something else than an edit.</source>
+        <translation>Seitdem von etwas anderem als einer Bearbeitung geschrieben.</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>hinzugefügt</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>moved to %1</source>
+        <translation>verschoben nach %1</translation>
+    </message>
+    <message>
+        <source>The order of what it holds.</source>
+        <translation>Die Reihenfolge des Inhalts.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be what %2 was: it is no value of a %3.</source>
+        <translation>„%1“ kann nicht sein, was %2 war: Das ist kein Wert der Art %3.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be reverted: something else than an edit has changed its number of values; open the file again for what it holds.</source>
+        <translation>„%1“ lässt sich nicht zurücknehmen: Etwas anderes als eine Bearbeitung hat die Zahl der Werte geändert; öffne die Datei neu, um zu sehen, was sie enthält.</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Revert %1 Changes</source>
+        <translation>%1 Änderungen zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Nothing of it can be seen: %1.</source>
+        <translation>Davon ist nichts zu sehen: %1.</translation>
+    </message>
+    <message>
+        <source>Opened “%1”, of which nothing can be seen: %2.</source>
+        <translation>„%1“ ist geöffnet, aber nicht zu sehen: %2.</translation>
+    </message>
+    <message>
+        <source>Opened “%1”; the console says what is left out.</source>
+        <translation>„%1“ ist geöffnet; die Konsole nennt, was fehlt.</translation>
+    </message>
+    <message>
+        <source>Opened “%1”.</source>
+        <translation>„%1“ ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>“%1” does not exist any more and was removed from the list of recent files.</source>
+        <translation>„%1“ gibt es nicht mehr; die Datei wurde aus der Liste der zuletzt geöffneten entfernt.</translation>
+    </message>
+    <message>
+        <source>Save Scene</source>
+        <translation>Szene speichern</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be exported to: its name must end in %2.</source>
+        <translation>Nach „%1“ lässt sich nicht exportieren: Der Name muss auf %2 enden.</translation>
+    </message>
+    <message>
+        <source>Exported “%1”.</source>
+        <translation>„%1“ exportiert.</translation>
+    </message>
+    <message>
+        <source>“%1” is not saved: another program has changed it since it was opened.</source>
+        <translation>„%1“ ist nicht gespeichert: Ein anderes Programm hat die Datei seit dem Öffnen geändert.</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Without saving, they are lost.</source>
+        <translation>Ohne Speichern gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>The last session ended without saving its changes to “%1”. Recover them?</source>
+        <translation>Die letzte Sitzung endete, ohne ihre Änderungen an „%1“ zu speichern. Wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>They were kept on %1.</source>
+        <translation>Sie wurden am %1 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Recovered the unsaved changes to “%1”.</source>
+        <translation>Die ungespeicherten Änderungen an „%1“ sind wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The last changes to “%1” could not be recovered: %2</source>
+        <translation>Die letzten Änderungen an „%1“ ließen sich nicht wiederherstellen: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is locked, and cannot be edited before it is unlocked.</source>
+        <translation>„%1“ ist gesperrt und lässt sich erst nach dem Entsperren ändern.</translation>
+    </message>
+    <message>
+        <source>“%1” stands in “%2”, which is locked, and cannot be edited before that is unlocked.</source>
+        <translation>„%1“ steht in „%2“, das gesperrt ist, und lässt sich erst ändern, wenn das entsperrt ist.</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Stellen</translation>
+    </message>
+    <message>
+        <source>The tree was unfolded by %1 levels only, as all of them would have more than %L2 rows.</source>
+        <translation>Der Baum wurde nur %1 Ebenen weit aufgeklappt, da alle mehr als %L2 Zeilen hätten.</translation>
+    </message>
+    <message>
+        <source>Shapes: %L1, of them out of sight: %L2
+Triangles: %L3, draw calls: %L4
+Uploaded bytes: %L5, processor: %L6 ms</source>
+        <translation>Formen: %L1, davon nicht im Bild: %L2
+Dreiecke: %L3, Zeichenaufrufe: %L4
+Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
+    </message>
+    <message>
+        <source>it has no shapes that are drawn</source>
+        <translation>sie hat keine Formen, die gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>its draw styles make all of it invisible</source>
+        <translation>ihre Zeichenstile machen alles unsichtbar</translation>
+    </message>
+    <message>
+        <source>all of it is fully transparent</source>
+        <translation>alles ist ganz durchsichtig</translation>
+    </message>
+    <message>
+        <source>all of it is too large, too small or too far away to be shown</source>
+        <translation>alles ist zu groß, zu klein oder zu weit weg, um gezeigt zu werden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more behind</source>
+        <translation><numerusform>%n weitere dahinter</numerusform><numerusform>%n weitere dahinter</numerusform></translation>
+    </message>
+    <message>
+        <source>Pre&amp;ferences…</source>
+        <translation>&amp;Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Size of texts</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The texts of the default extensions are in English.</source>
+        <translation>Die Texte der Standarderweiterungen sind auf Englisch.</translation>
+    </message>
+    <message>
+        <source>3D View</source>
+        <translation>3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Mouse as in</source>
+        <translation>Maus wie in</translation>
+    </message>
+    <message>
+        <source>Which buttons turn, move and come nearer. The left button selects in each, and the wheel comes nearer.</source>
+        <translation>Welche Tasten drehen, verschieben und näher herangehen. Die linke Taste wählt immer aus, das Mausrad geht näher heran.</translation>
+    </message>
+    <message>
+        <source>Scopix: left turns, middle and right move</source>
+        <translation>Scopix: links dreht, Mitte und rechts verschieben</translation>
+    </message>
+    <message>
+        <source>Blender: middle turns, Shift+middle moves</source>
+        <translation>Blender: Mitte dreht, Umschalt+Mitte verschiebt</translation>
+    </message>
+    <message>
+        <source>Godot: middle and right turn, Shift+middle moves</source>
+        <translation>Godot: Mitte und rechts drehen, Umschalt+Mitte verschiebt</translation>
+    </message>
+    <message>
+        <source>Maya: Alt and left, middle, right</source>
+        <translation>Maya: Alt und links, Mitte, rechts</translation>
+    </message>
+    <message>
+        <source>Memory and Files</source>
+        <translation>Speicher und Dateien</translation>
+    </message>
+    <message>
+        <source>Memory for undo</source>
+        <translation>Speicher für Rückgängig</translation>
+    </message>
+    <message>
+        <source>Older steps are dropped where they would need more.</source>
+        <translation>Ältere Schritte werden verworfen, wenn sie mehr brauchen.</translation>
+    </message>
+    <message>
+        <source> MiB</source>
+        <translation> MiB</translation>
+    </message>
+    <message>
+        <source>Memory for the pictures of a scene</source>
+        <translation>Speicher für die Bilder einer Szene</translation>
+    </message>
+    <message>
+        <source>Pictures are brought down to fit; holds for what is opened from now on.</source>
+        <translation>Bilder werden passend verkleinert; gilt für alles, was ab jetzt geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Angle of edges</source>
+        <translation>Kantenwinkel</translation>
+    </message>
+    <message>
+        <source>Faces of a model without normals have an edge between them above this angle; holds for what is opened from now on.</source>
+        <translation>Flächen eines Modells ohne Normalen haben über diesem Winkel eine Kante zwischen sich; gilt für alles, was ab jetzt geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Keep unsaved edits after a pause of</source>
+        <translation>Ungespeichertes sichern nach einer Pause von</translation>
+    </message>
+    <message>
+        <source>They are kept beside your settings, and offered again after a crash.</source>
+        <translation>Es wird bei deinen Einstellungen aufgehoben und nach einem Absturz wieder angeboten.</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>keyboard shortcuts presets Blender Godot Maya</source>
+        <translation>Tastatur Kürzel Vorlagen Blender Godot Maya</translation>
+    </message>
+    <message>
+        <source>extensions tools loaded refused</source>
+        <translation>Erweiterungen Werkzeuge geladen abgelehnt</translation>
+    </message>
+    <message>
+        <source>The settings file “%1” cannot be changed: %2.</source>
+        <translation>Die Einstellungsdatei „%1“ lässt sich nicht ändern: %2.</translation>
+    </message>
+    <message>
+        <source>no temporary file can be written</source>
+        <translation>es lässt sich keine temporäre Datei schreiben</translation>
+    </message>
+    <message>
+        <source>%1: The file cannot be written: %2.</source>
+        <translation>%1: Die Datei lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>Every kind of node</source>
+        <translation>Jede Art von Knoten</translation>
+    </message>
+    <message>
+        <source>A lighthouse by the sea</source>
+        <translation>Ein Leuchtturm am Meer</translation>
+    </message>
+    <message>
+        <source>A crate with a picture on it</source>
+        <translation>Eine Kiste mit einem Bild darauf</translation>
+    </message>
+    <message>
+        <source>A knot, for printing</source>
+        <translation>Ein Knoten zum Drucken</translation>
+    </message>
+    <message>
+        <source>A colour at each vertex</source>
+        <translation>Eine Farbe an jeder Ecke</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt geöffnete Dateien</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>What you open appears here. Files can be dropped anywhere in the window.</source>
+        <translation>Was du öffnest, erscheint hier. Dateien lassen sich überall ins Fenster ziehen.</translation>
+    </message>
+    <message>
+        <source>Start page</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Los geht’s</translation>
+    </message>
+    <message>
+        <source>&amp;Look Around in the Welcome Scene</source>
+        <translation>In der Willkommensszene &amp;umsehen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Tour</translation>
+    </message>
+    <message>
+        <source>&amp;End the Tour</source>
+        <translation>Tour &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>In the Scene’s &amp;Order</source>
+        <translation>In der &amp;Reihenfolge der Szene</translation>
+    </message>
+    <message>
+        <source>Sorted by &amp;Name</source>
+        <translation>Nach &amp;Namen sortiert</translation>
+    </message>
+    <message>
+        <source>Most T&amp;riangles First</source>
+        <translation>Die meisten &amp;Dreiecke zuerst</translation>
+    </message>
+    <message>
+        <source>Most Me&amp;mory First</source>
+        <translation>Der meiste &amp;Speicher zuerst</translation>
+    </message>
+    <message>
+        <source>Most Pla&amp;ces First</source>
+        <translation>Die meisten S&amp;tellen zuerst</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Neu versuchen</translation>
+    </message>
+    <message>
+        <source>Type a part of the name</source>
+        <translation>Einen Teil des Namens tippen</translation>
+    </message>
+    <message>
+        <source>Types of nodes</source>
+        <translation>Knotentypen</translation>
+    </message>
+    <message>
+        <source>“%1” failed: %2</source>
+        <translation>„%1“ ist fehlgeschlagen: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be undone and is no longer in the history: %2</source>
+        <translation>„%1“ lässt sich nicht rückgängig machen und steht nicht mehr im Verlauf: %2</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be redone and is no longer in the history: %2</source>
+        <translation>„%1“ lässt sich nicht wiederholen und steht nicht mehr im Verlauf: %2</translation>
+    </message>
+    <message>
+        <source>A step of the history went with “%1”, which no longer exists.</source>
+        <translation>Mit „%1“, das es nicht mehr gibt, ist ein Schritt des Verlaufs weggefallen.</translation>
+    </message>
+    <message>
+        <source>%1 steps of the history went with “%2”, which no longer exists.</source>
+        <translation>Mit „%2“, das es nicht mehr gibt, sind %1 Schritte des Verlaufs weggefallen.</translation>
+    </message>
+    <message>
+        <source>the list has another length by now</source>
+        <translation>die Liste ist inzwischen anders lang</translation>
+    </message>
+    <message>
+        <source>nothing could be written</source>
+        <translation>es ließ sich nichts schreiben</translation>
+    </message>
+    <message>
+        <source>%1, and in %L2 more</source>
+        <translation>%1, und in %L2 weiteren</translation>
+    </message>
+    <message>
+        <source>Look &amp;From</source>
+        <translation>&amp;Blick von</translation>
+    </message>
+    <message>
+        <source>&amp;Front</source>
+        <translation>&amp;Vorne</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Top</source>
+        <translation>&amp;Oben</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>&amp;Links</translation>
+    </message>
+    <message>
+        <source>B&amp;ottom</source>
+        <translation>&amp;Unten</translation>
+    </message>
+    <message>
+        <source>&amp;Orthographic</source>
+        <translation>&amp;Orthografisch</translation>
+    </message>
+    <message>
+        <source>Wal&amp;k</source>
+        <translation>&amp;Gehen</translation>
+    </message>
+    <message>
+        <source>Look Throu&amp;gh</source>
+        <translation>Blick &amp;durch</translation>
+    </message>
+    <message>
+        <source>Keep This View as a &amp;Camera</source>
+        <translation>Diese Ansicht als &amp;Kamera behalten</translation>
+    </message>
+    <message>
+        <source>G&amp;rid</source>
+        <translation>&amp;Raster</translation>
+    </message>
+    <message>
+        <source>A&amp;xes</source>
+        <translation>A&amp;chsen</translation>
+    </message>
+    <message>
+        <source>Orientation C&amp;ube</source>
+        <translation>Orientierungs&amp;würfel</translation>
+    </message>
+    <message>
+        <source>The view cannot be kept: what is open is a single node, and has no place for a camera; put it into a group first.</source>
+        <translation>Die Ansicht lässt sich nicht behalten: Geöffnet ist ein einzelner Knoten, in dem keine Kamera Platz hat; setze ihn erst in eine Gruppe.</translation>
+    </message>
+    <message>
+        <source>Keep a View as a Camera</source>
+        <translation>Eine Ansicht als Kamera behalten</translation>
+    </message>
+    <message>
+        <source>This view is kept as the camera “%1”.</source>
+        <translation>Diese Ansicht ist als Kamera „%1“ aufgehoben.</translation>
+    </message>
+    <message>
+        <source>No Cameras in This Scene</source>
+        <translation>Keine Kameras in dieser Szene</translation>
+    </message>
+    <message>
+        <source>S&amp;hading</source>
+        <translation>S&amp;chattierung</translation>
+    </message>
+    <message>
+        <source>T&amp;one Mapping</source>
+        <translation>T&amp;onwerte</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>&amp;Einblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Full</source>
+        <translation>&amp;Voll</translation>
+    </message>
+    <message>
+        <source>Full, with &amp;Edges</source>
+        <translation>Voll, mit &amp;Kanten</translation>
+    </message>
+    <message>
+        <source>&amp;Normals</source>
+        <translation>&amp;Normalen</translation>
+    </message>
+    <message>
+        <source>&amp;Texture Coordinates</source>
+        <translation>&amp;Texturkoordinaten</translation>
+    </message>
+    <message>
+        <source>&amp;Overdraw</source>
+        <translation>&amp;Übermalungen</translation>
+    </message>
+    <message>
+        <source>&amp;None: What Is Brighter than White Is White</source>
+        <translation>&amp;Keine: Was heller als Weiß ist, ist weiß</translation>
+    </message>
+    <message>
+        <source>Neu&amp;tral: Bright Light Is Compressed, Colours Stay</source>
+        <translation>&amp;Neutral: Helles wird gestaucht, Farben bleiben</translation>
+    </message>
+    <message>
+        <source>&amp;Filmic: All Is Compressed, as on Film</source>
+        <translation>&amp;Filmisch: Alles wird gestaucht, wie auf Film</translation>
+    </message>
+    <message>
+        <source>&amp;Box with Sizes around the Selection</source>
+        <translation>&amp;Box mit Maßen um die Auswahl</translation>
+    </message>
+    <message>
+        <source>&amp;What a Click Would Select</source>
+        <translation>&amp;Was ein Klick auswählen würde</translation>
+    </message>
+    <message>
+        <source>&amp;Clipping Plane</source>
+        <translation>&amp;Schnittebene</translation>
+    </message>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>&amp;Messen</translation>
+    </message>
+    <message>
+        <source>Walking: W A S D or arrows, drag to look around, Esc ends</source>
+        <translation>Gehen: W A S D oder Pfeile, Ziehen zum Umsehen, Esc beendet</translation>
+    </message>
+    <message>
+        <source>Take the &amp;Tour</source>
+        <translation>Die &amp;Tour machen</translation>
+    </message>
+    <message>
+        <source>&amp;Start Page</source>
+        <translation>&amp;Startseite</translation>
+    </message>
+    <message>
+        <source>Five steps through this window</source>
+        <translation>In fünf Schritten durch dieses Fenster</translation>
+    </message>
+    <message>
+        <source>Click anything</source>
+        <translation>Klicke etwas an</translation>
+    </message>
+    <message>
+        <source>Click something in the 3D view. Drag to turn, drag with the right button to move, turn the wheel to come nearer.</source>
+        <translation>Klicke etwas in der 3D-Ansicht an. Ziehen dreht, Ziehen mit der rechten Taste verschiebt, das Mausrad geht näher heran.</translation>
+    </message>
+    <message>
+        <source>See where it stands</source>
+        <translation>Sieh, wo es steht</translation>
+    </message>
+    <message>
+        <source>The tree shows the whole scene. Choose another node in it; Ctrl+F finds one by its name, type or value.</source>
+        <translation>Der Baum zeigt die ganze Szene. Wähle einen anderen Knoten darin; Strg+F findet einen nach Name, Typ oder Wert.</translation>
+    </message>
+    <message>
+        <source>Tune it</source>
+        <translation>Verändere es</translation>
+    </message>
+    <message>
+        <source>Here are the values of what is selected. Change one: drag a number, or type one; the picture follows.</source>
+        <translation>Hier sind die Werte der Auswahl. Ändere einen: Ziehe an einer Zahl oder tippe eine; das Bild folgt.</translation>
+    </message>
+    <message>
+        <source>Undo it</source>
+        <translation>Mach es rückgängig</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes the change back, bit by bit. One gesture is one step.</source>
+        <translation>Strg+Z nimmt die Änderung zurück, bis aufs letzte Bit. Eine Geste ist ein Schritt.</translation>
+    </message>
+    <message>
+        <source>Find everything else</source>
+        <translation>Finde alles Weitere</translation>
+    </message>
+    <message>
+        <source>Ctrl+K finds every act, node, field and setting by its name, F1 explains what is selected. Save with Ctrl+S, or export for another program from the File menu.</source>
+        <translation>Strg+K findet jede Aktion, jeden Knoten, jedes Feld und jede Einstellung nach dem Namen, F1 erklärt die Auswahl. Speichere mit Strg+S oder exportiere aus dem Dateimenü für ein anderes Programm.</translation>
+    </message>
+    <message>
+        <source>%1 is the root of the scene, and has to stay where it is.</source>
+        <translation>%1 ist die Wurzel der Szene und muss bleiben, wo es ist.</translation>
+    </message>
+    <message>
+        <source>%1 %2 Nodes</source>
+        <translation>%1: %2 Knoten</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Gemeinsam nutzen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be duplicated: something in it is of a kind that cannot be copied.</source>
+        <translation>%1 lässt sich nicht duplizieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>%1 is no group, and cannot be ungrouped.</source>
+        <translation>%1 ist keine Gruppe und lässt sich nicht auflösen.</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Gruppierung aufheben</translation>
+    </message>
+    <message>
+        <source>%1 cannot be put below itself.</source>
+        <translation>%1 lässt sich nicht unter sich selbst setzen.</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppieren</translation>
+    </message>
+    <message>
+        <source>Put %1 Above</source>
+        <translation>%1 darüber einsetzen</translation>
+    </message>
+    <message>
+        <source>%1 stands in one place only, and is its own already.</source>
+        <translation>%1 steht nur an einer Stelle und ist schon eigenständig.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be made unique: something in it is of a kind that cannot be copied.</source>
+        <translation>%1 lässt sich nicht eigenständig machen: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
+    </message>
+    <message>
+        <source>Make Unique</source>
+        <translation>Eigenständig machen</translation>
+    </message>
+    <message>
+        <source>Nothing can be put into %1, which is no group.</source>
+        <translation>In %1 lässt sich nichts setzen, das ist keine Gruppe.</translation>
+    </message>
+    <message>
+        <source>A node cannot be called “%1”: names can have the letters of western European languages only.</source>
+        <translation>Ein Knoten kann nicht „%1“ heißen: Namen können nur Buchstaben westeuropäischer Sprachen haben.</translation>
+    </message>
+    <message>
+        <source>Rename %1 to “%2”</source>
+        <translation>%1 in „%2“ umbenennen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be copied: something in it is of a kind that cannot be copied.</source>
+        <translation>%1 lässt sich nicht kopieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
+    </message>
+    <message>
+        <source>%1 is the first one in its group already.</source>
+        <translation>%1 ist schon das erste in seiner Gruppe.</translation>
+    </message>
+    <message>
+        <source>%1 is the last one in its group already.</source>
+        <translation>%1 ist schon das letzte in seiner Gruppe.</translation>
+    </message>
+    <message>
+        <source>%1 stands in the root of the scene, out of which nothing can be moved.</source>
+        <translation>%1 steht in der Wurzel der Szene; daraus lässt sich nichts herausnehmen.</translation>
+    </message>
+    <message>
+        <source>There is no group before %1 that it could be moved into.</source>
+        <translation>Vor %1 steht keine Gruppe, in die es sich verschieben ließe.</translation>
+    </message>
+    <message>
+        <source>Nothing is hidden that could be hidden for good.</source>
+        <translation>Nichts ist ausgeblendet, das sich dauerhaft ausblenden ließe.</translation>
+    </message>
+    <message>
+        <source>Hide %1 for Good</source>
+        <translation>%1 dauerhaft ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide %1 Nodes for Good</source>
+        <translation>%1 Knoten dauerhaft ausblenden</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/actions/SoHiding.h>
+#include <xsg/frames/SoFrameLog.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/render/SoOffscreenRenderer.h>
+
+#include <unordered_set>
+
+/// Draws pictures of a scene, perhaps of parts of it, and tells what each of them took. They are drawn in
+/// runs: the first of a run fills caches, the last waits for the graphics card's answers, and those between
+/// them are told. On the scene's thread.
+class XSG_API SoCostPictures
+{
+public:
+    /// As for SoRenderer::render(). What `hidden` hides and the scene contains is never drawn.
+    SoCostPictures(SoNode* root, const SoCamera* camera, int width, int height,
+                   const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden = {});
+
+    /// From the next picture on, another run: of all.
+    void showAll();
+    /// The same of all but this node, or of nothing but it.
+    void hide(const SoNode* node);
+    void isolate(const SoNode* node);
+
+    /// False where nothing can be drawn: getErrorText() then says why.
+    bool draw(bool countsPixels = false);
+    const std::string& getErrorText() const { return m_renderer.getErrorText(); }
+    /// Of this run.
+    int getNumDrawn() const { return static_cast<int>(m_numbers.size()); }
+    std::vector<SoFrame> getFrames() const;
+    /// Of the last picture.
+    const SoPixels& getPixels() const { return m_pixels; }
+    std::int64_t getNumPixels() { return m_renderer.getRenderer().getStatistics().pixels; }
+
+private:
+    SoRef<SoNode> m_root;
+    SoRef<SoCamera> m_camera;
+    int m_width;
+    int m_height;
+    std::unordered_set<std::uint64_t> m_hidden; // from the start
+    SoHiding m_hiding;
+    SoFrameLog m_log;
+    SoOffscreenRenderer m_renderer;
+    SoPixels m_pixels;
+    std::vector<std::uint64_t> m_numbers; // of the run's frames in the log
+};
