@@ -168,6 +168,10 @@
         <translation>Meter, sofern die Szene keinen anderen Maßstab hat</translation>
     </message>
     <message>
+        <source>metres, shown in %1</source>
+        <translation>Meter, als %1 gezeigt</translation>
+    </message>
+    <message>
         <source>seconds</source>
         <translation>Sekunden</translation>
     </message>
@@ -525,7 +529,7 @@
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>Alles au&amp;swählen</translation>
+        <translation>Alles auswähle&amp;n</translation>
     </message>
     <message>
         <source>Select Whole Rows</source>
@@ -760,12 +764,56 @@
         <translation>Das Ergebnis ist keine Zahl, die dieses Feld fassen kann.</translation>
     </message>
     <message>
+        <source>metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
         <source>&amp;Filter the Fields</source>
         <translation>Die &amp;Felder filtern</translation>
     </message>
     <message>
         <source>An&amp;gles in Degrees</source>
         <translation>&amp;Winkel in Grad</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Lengths in</source>
+        <translation>Längen in</translation>
+    </message>
+    <message>
+        <source>How the panel shows lengths. Any unit can be typed, as in “3 cm” or “2 in”.</source>
+        <translation>Wie das Panel Längen zeigt. Tippen lässt sich jede Einheit, wie in „3 cm“ oder „2 in“.</translation>
+    </message>
+    <message>
+        <source>Digits of a number</source>
+        <translation>Stellen einer Zahl</translation>
+    </message>
+    <message>
+        <source>How many the panel shows. What a field holds keeps all of them.</source>
+        <translation>Wie viele das Panel zeigt. Im Feld bleiben alle erhalten.</translation>
     </message>
     <message>
         <source>%L1 nodes</source>

@@ -168,6 +168,10 @@
         <translation>[méţŕéš, wĥéŕé ţĥé šçéñé ĥàš ñö öţĥéŕ šçàlé ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>metres, shown in %1</source>
+        <translation>[méţŕéš, šĥöwñ îñ %1 ~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>seconds</source>
         <translation>[šéçöñdš ~~~]</translation>
     </message>
@@ -760,12 +764,56 @@
         <translation>[Ţĥé ŕéšûlţ îš ñöţ à ñûmbéŕ ţĥàţ ţĥîš fîéld çàñ ĥöld. ~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>metres</source>
+        <translation>[méţŕéš ~~]</translation>
+    </message>
+    <message>
+        <source>centimetres</source>
+        <translation>[çéñţîméţŕéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>millimetres</source>
+        <translation>[mîllîméţŕéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>[îñçĥéš ~~]</translation>
+    </message>
+    <message>
+        <source>feet</source>
+        <translation>[fééţ ~~]</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>[Àll ~]</translation>
+    </message>
+    <message>
         <source>&amp;Filter the Fields</source>
         <translation>[&amp;Fîlţéŕ ţĥé Fîéldš ~~~~~~~]</translation>
     </message>
     <message>
         <source>An&amp;gles in Degrees</source>
         <translation>[Àñ&amp;ĝléš îñ Déĝŕééš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>[Ñûmbéŕš ~~~]</translation>
+    </message>
+    <message>
+        <source>Lengths in</source>
+        <translation>[Léñĝţĥš îñ ~~~~]</translation>
+    </message>
+    <message>
+        <source>How the panel shows lengths. Any unit can be typed, as in “3 cm” or “2 in”.</source>
+        <translation>[Ĥöw ţĥé pàñél šĥöwš léñĝţĥš. Àñý ûñîţ çàñ bé ţýpéd, àš îñ “3 çm” öŕ “2 îñ”. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Digits of a number</source>
+        <translation>[Dîĝîţš öf à ñûmbéŕ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>How many the panel shows. What a field holds keeps all of them.</source>
+        <translation>[Ĥöw màñý ţĥé pàñél šĥöwš. Wĥàţ à fîéld ĥöldš ķéépš àll öf ţĥém. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>%L1 nodes</source>

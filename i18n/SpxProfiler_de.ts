@@ -4,6 +4,30 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Time, ms</source>
+        <translation>Zeit, ms</translation>
+    </message>
+    <message>
+        <source>±, ms</source>
+        <translation>±, ms</translation>
+    </message>
+    <message>
+        <source>Drawn triangles</source>
+        <translation>Gezeichnete Dreiecke</translation>
+    </message>
+    <message>
+        <source>Draw calls</source>
+        <translation>Zeichenaufrufe</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>OpenGL memory, kB</source>
+        <translation>OpenGL-Speicher, kB</translation>
+    </message>
+    <message>
         <source>Cost</source>
         <translation>Kosten</translation>
     </message>
@@ -64,8 +88,16 @@
         <translation>Kosten messen</translation>
     </message>
     <message>
+        <source>Without It</source>
+        <translation>Ohne den Zweig</translation>
+    </message>
+    <message>
         <source>What does each part of the scene cost? It is drawn part by part to find out.</source>
         <translation>Was kostet jeder Teil der Szene? Um das herauszufinden, wird sie Teil für Teil gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Hide the chosen branch and measure what the picture takes then; nothing is written</source>
+        <translation>Den gewählten Zweig ausblenden und messen, was das Bild dann braucht; geschrieben wird nichts</translation>
     </message>
     <message>
         <source>Areas: time</source>
@@ -88,20 +120,36 @@
         <translation>Was die Flächen bedeuten</translation>
     </message>
     <message>
+        <source>View: as it is</source>
+        <translation>Ansicht: wie sie ist</translation>
+    </message>
+    <message>
+        <source>View: time</source>
+        <translation>Ansicht: Zeit</translation>
+    </message>
+    <message>
+        <source>View: triangles a pixel</source>
+        <translation>Ansicht: Dreiecke pro Pixel</translation>
+    </message>
+    <message>
+        <source>View: overdraw</source>
+        <translation>Ansicht: Übermalungen</translation>
+    </message>
+    <message>
+        <source>What the colours of the 3D view tell</source>
+        <translation>Was die Farben der 3D-Ansicht bedeuten</translation>
+    </message>
+    <message>
+        <source>Blue costs little, red much</source>
+        <translation>Blau kostet wenig, Rot viel</translation>
+    </message>
+    <message>
         <source>Cost of each branch</source>
         <translation>Kosten jedes Zweigs</translation>
     </message>
     <message>
         <source>Node</source>
         <translation>Knoten</translation>
-    </message>
-    <message>
-        <source>Time, ms</source>
-        <translation>Zeit, ms</translation>
-    </message>
-    <message>
-        <source>±, ms</source>
-        <translation>±, ms</translation>
     </message>
     <message>
         <source>Processor, ms</source>
@@ -120,10 +168,6 @@
         <translation>Körper</translation>
     </message>
     <message>
-        <source>Draw calls</source>
-        <translation>Zeichenaufrufe</translation>
-    </message>
-    <message>
         <source>Memory, kB</source>
         <translation>Speicher, kB</translation>
     </message>
@@ -134,6 +178,10 @@
     <message>
         <source>The cost cannot be told: no scene is open; open one first.</source>
         <translation>Die Kosten lassen sich nicht bestimmen: Keine Szene ist geöffnet; öffne zuerst eine.</translation>
+    </message>
+    <message>
+        <source>The view has these colours as soon as the cost is measured.</source>
+        <translation>Die Ansicht hat diese Farben, sobald die Kosten gemessen sind.</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -162,6 +210,22 @@
     <message>
         <source>Without “%1” a picture would take %2 instead of %3.</source>
         <translation>Ohne „%1“ bräuchte ein Bild %2 statt %3.</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 more</source>
+        <translation>%1 ± %2 mehr</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 less</source>
+        <translation>%1 ± %2 weniger</translation>
+    </message>
+    <message>
+        <source>; that may be chance</source>
+        <translation>; das kann Zufall sein</translation>
+    </message>
+    <message>
+        <source>Without “%1” a picture takes %2 instead of %3: %4%5.</source>
+        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4%5.</translation>
     </message>
     <message>
         <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
@@ -294,6 +358,210 @@
     <message>
         <source>“%1” cannot be written: %2. Choose another place.</source>
         <translation>„%1“ lässt sich nicht schreiben: %2. Wähle einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%L1 errors</source>
+        <translation>%L1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 in the log, the first: %2</source>
+        <translation>%1 im Protokoll, der erste: %2</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;Click to see it in the log.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;Klicken zeigt ihn im Protokoll.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehlermeldung</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>%1, %2 times</source>
+        <translation>%1, %2-mal</translation>
+    </message>
+    <message>
+        <source>&amp;Open “%1”</source>
+        <translation>„%1“ ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to “%1”</source>
+        <translation>&amp;Gehe zu „%1“</translation>
+    </message>
+    <message>
+        <source>Lines of the log</source>
+        <translation>Zeilen des Protokolls</translation>
+    </message>
+    <message>
+        <source>Filter: words to have, -words to leave out</source>
+        <translation>Filter: gewünschte Wörter, -unerwünschte Wörter</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>Filter des Protokolls</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Infos</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgaben</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Options of the log</source>
+        <translation>Optionen des Protokolls</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Zeit</translation>
+    </message>
+    <message>
+        <source>T&amp;hread</source>
+        <translation>T&amp;hread</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the Log</source>
+        <translation>Protokoll &amp;leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Each Line</source>
+        <translation>&amp;Jede Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Repeated Lines Once</source>
+        <translation>&amp;Wiederholte Zeilen einmal</translation>
+    </message>
+    <message>
+        <source>E&amp;qual Lines Once</source>
+        <translation>&amp;Gleiche Zeilen einmal</translation>
+    </message>
+    <message>
+        <source>Find in the lines that are shown</source>
+        <translation>In den gezeigten Zeilen suchen</translation>
+    </message>
+    <message>
+        <source>Find in the log</source>
+        <translation>Im Protokoll suchen</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Previous (Shift+Enter)</source>
+        <translation>Zurück (Umschalt+Eingabe)</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Next (Enter)</source>
+        <translation>Weiter (Eingabe)</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> Zeilen</translation>
+    </message>
+    <message>
+        <source>How many lines before and after each line that the filter wants are shown too</source>
+        <translation>Wie viele Zeilen vor und nach jeder Zeile, die zum Filter passt, auch gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Lines around those that the filter wants</source>
+        <translation>Zeilen um jene, die zum Filter passen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>%L1 lines</source>
+        <translation>%L1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines</source>
+        <translation>%L1 von %L2 Zeilen</translation>
+    </message>
+    <message>
+        <source>, %L1 older ones gone</source>
+        <translation>, %L1 ältere verworfen</translation>
+    </message>
+    <message>
+        <source>The newest %L1 lines are kept, and at most %2 MB of them.</source>
+        <translation>Aufgehoben werden die neuesten %L1 Zeilen, höchstens aber %2 MB davon.</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>looking…</source>
+        <translation>wird gesucht …</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 von %L2</translation>
+    </message>
+    <message>
+        <source>%L1 found</source>
+        <translation>%L1 gefunden</translation>
+    </message>
+    <message>
+        <source>This line names no node of the scene and no file that there is.</source>
+        <translation>Diese Zeile nennt keinen Knoten der Szene und keine vorhandene Datei.</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more.</source>
+        <translation>„%1“ ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Show &amp;Among All Lines</source>
+        <translation>&amp;Unter allen Zeilen zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Alles auswähle&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen …</translation>
     </message>
     <message>
         <source>Save Frames</source>

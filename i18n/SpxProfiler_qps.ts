@@ -4,6 +4,30 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>Time, ms</source>
+        <translation>[Ţîmé, mš ~~~]</translation>
+    </message>
+    <message>
+        <source>±, ms</source>
+        <translation>[±, mš ~~]</translation>
+    </message>
+    <message>
+        <source>Drawn triangles</source>
+        <translation>[Dŕàwñ ţŕîàñĝléš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Draw calls</source>
+        <translation>[Dŕàw çàllš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>[Pîxélš ~~]</translation>
+    </message>
+    <message>
+        <source>OpenGL memory, kB</source>
+        <translation>[ÖpéñĜL mémöŕý, ķB ~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Cost</source>
         <translation>[Çöšţ ~~]</translation>
     </message>
@@ -64,8 +88,16 @@
         <translation>[Méàšûŕé Çöšţ ~~~~~]</translation>
     </message>
     <message>
+        <source>Without It</source>
+        <translation>[Wîţĥöûţ Îţ ~~~~]</translation>
+    </message>
+    <message>
         <source>What does each part of the scene cost? It is drawn part by part to find out.</source>
         <translation>[Wĥàţ döéš éàçĥ pàŕţ öf ţĥé šçéñé çöšţ? Îţ îš dŕàwñ pàŕţ bý pàŕţ ţö fîñd öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Hide the chosen branch and measure what the picture takes then; nothing is written</source>
+        <translation>[Ĥîdé ţĥé çĥöšéñ bŕàñçĥ àñd méàšûŕé wĥàţ ţĥé pîçţûŕé ţàķéš ţĥéñ; ñöţĥîñĝ îš wŕîţţéñ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Areas: time</source>
@@ -88,20 +120,36 @@
         <translation>[Wĥàţ ţĥé àŕéàš ţéll ~~~~~~~~]</translation>
     </message>
     <message>
+        <source>View: as it is</source>
+        <translation>[Vîéw: àš îţ îš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>View: time</source>
+        <translation>[Vîéw: ţîmé ~~~~]</translation>
+    </message>
+    <message>
+        <source>View: triangles a pixel</source>
+        <translation>[Vîéw: ţŕîàñĝléš à pîxél ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>View: overdraw</source>
+        <translation>[Vîéw: övéŕdŕàw ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What the colours of the 3D view tell</source>
+        <translation>[Wĥàţ ţĥé çölöûŕš öf ţĥé 3D vîéw ţéll ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Blue costs little, red much</source>
+        <translation>[Blûé çöšţš lîţţlé, ŕéd mûçĥ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Cost of each branch</source>
         <translation>[Çöšţ öf éàçĥ bŕàñçĥ ~~~~~~~~]</translation>
     </message>
     <message>
         <source>Node</source>
         <translation>[Ñödé ~~]</translation>
-    </message>
-    <message>
-        <source>Time, ms</source>
-        <translation>[Ţîmé, mš ~~~]</translation>
-    </message>
-    <message>
-        <source>±, ms</source>
-        <translation>[±, mš ~~]</translation>
     </message>
     <message>
         <source>Processor, ms</source>
@@ -120,10 +168,6 @@
         <translation>[Bödîéš ~~]</translation>
     </message>
     <message>
-        <source>Draw calls</source>
-        <translation>[Dŕàw çàllš ~~~~]</translation>
-    </message>
-    <message>
         <source>Memory, kB</source>
         <translation>[Mémöŕý, ķB ~~~~]</translation>
     </message>
@@ -134,6 +178,10 @@
     <message>
         <source>The cost cannot be told: no scene is open; open one first.</source>
         <translation>[Ţĥé çöšţ çàññöţ bé ţöld: ñö šçéñé îš öpéñ; öpéñ öñé fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The view has these colours as soon as the cost is measured.</source>
+        <translation>[Ţĥé vîéw ĥàš ţĥéšé çölöûŕš àš šööñ àš ţĥé çöšţ îš méàšûŕéd. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -162,6 +210,22 @@
     <message>
         <source>Without “%1” a picture would take %2 instead of %3.</source>
         <translation>[Wîţĥöûţ “%1” à pîçţûŕé wöûld ţàķé %2 îñšţéàd öf %3. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 more</source>
+        <translation>[%1 ± %2 möŕé ~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 ± %2 less</source>
+        <translation>[%1 ± %2 léšš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>; that may be chance</source>
+        <translation>[; ţĥàţ màý bé çĥàñçé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Without “%1” a picture takes %2 instead of %3: %4%5.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4%5. ~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
@@ -294,6 +358,210 @@
     <message>
         <source>“%1” cannot be written: %2. Choose another place.</source>
         <translation>[“%1” çàññöţ bé wŕîţţéñ: %2. Çĥööšé àñöţĥéŕ plàçé. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>1 error</source>
+        <translation>[1 éŕŕöŕ ~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 errors</source>
+        <translation>[%L1 éŕŕöŕš ~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 in the log, the first: %2</source>
+        <translation>[%1 îñ ţĥé löĝ, ţĥé fîŕšţ: %2 ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;Click to see it in the log.&lt;/p&gt;</source>
+        <translation>[&lt;p&gt;%1&lt;/p&gt;&lt;p&gt;Çlîçķ ţö šéé îţ îñ ţĥé löĝ.&lt;/p&gt; ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>[éŕŕöŕ ~~]</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>[wàŕñîñĝ ~~~]</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>[îñföŕmàţîöñ ~~~~]</translation>
+    </message>
+    <message>
+        <source>output</source>
+        <translation>[öûţpûţ ~~]</translation>
+    </message>
+    <message>
+        <source>%1, %2 times</source>
+        <translation>[%1, %2 ţîméš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Open “%1”</source>
+        <translation>[&amp;Öpéñ “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Go to “%1”</source>
+        <translation>[&amp;Ĝö ţö “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Lines of the log</source>
+        <translation>[Lîñéš öf ţĥé löĝ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Filter: words to have, -words to leave out</source>
+        <translation>[Fîlţéŕ: wöŕdš ţö ĥàvé, -wöŕdš ţö léàvé öûţ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Filter of the log</source>
+        <translation>[Fîlţéŕ öf ţĥé löĝ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>[Éŕŕöŕš ~~]</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>[Wàŕñîñĝš ~~~]</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>[Îñföŕmàţîöñ ~~~~]</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>[Öûţpûţ ~~]</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>[Öpţîöñš ~~~]</translation>
+    </message>
+    <message>
+        <source>Options of the log</source>
+        <translation>[Öpţîöñš öf ţĥé löĝ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>[&amp;Ţîmé ~~]</translation>
+    </message>
+    <message>
+        <source>T&amp;hread</source>
+        <translation>[Ţ&amp;ĥŕéàd ~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the Log</source>
+        <translation>[&amp;Çléàŕ ţĥé Löĝ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Each Line</source>
+        <translation>[&amp;Éàçĥ Lîñé ~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Repeated Lines Once</source>
+        <translation>[&amp;Ŕépéàţéd Lîñéš Öñçé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>E&amp;qual Lines Once</source>
+        <translation>[É&amp;qûàl Lîñéš Öñçé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Find in the lines that are shown</source>
+        <translation>[Fîñd îñ ţĥé lîñéš ţĥàţ àŕé šĥöwñ ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Find in the log</source>
+        <translation>[Fîñd îñ ţĥé löĝ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>[Pŕévîöûš ~~~]</translation>
+    </message>
+    <message>
+        <source>Previous (Shift+Enter)</source>
+        <translation>[Pŕévîöûš (Šĥîfţ+Éñţéŕ) ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>[Ñéxţ ~~]</translation>
+    </message>
+    <message>
+        <source>Next (Enter)</source>
+        <translation>[Ñéxţ (Éñţéŕ) ~~~~~]</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> [lîñéš ~~]</translation>
+    </message>
+    <message>
+        <source>How many lines before and after each line that the filter wants are shown too</source>
+        <translation>[Ĥöw màñý lîñéš béföŕé àñd àfţéŕ éàçĥ lîñé ţĥàţ ţĥé fîlţéŕ wàñţš àŕé šĥöwñ ţöö ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Lines around those that the filter wants</source>
+        <translation>[Lîñéš àŕöûñd ţĥöšé ţĥàţ ţĥé fîlţéŕ wàñţš ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>[Çlöšé ~~]</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>[Çlöšé (Éšç) ~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 lines</source>
+        <translation>[%L1 lîñéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines</source>
+        <translation>[%L1 öf %L2 lîñéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>, %L1 older ones gone</source>
+        <translation>[, %L1 öldéŕ öñéš ĝöñé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The newest %L1 lines are kept, and at most %2 MB of them.</source>
+        <translation>[Ţĥé ñéwéšţ %L1 lîñéš àŕé ķépţ, àñd àţ möšţ %2 MB öf ţĥém. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>[ñöţ föûñd ~~~~]</translation>
+    </message>
+    <message>
+        <source>looking…</source>
+        <translation>[lööķîñĝ… ~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>[%L1 öf %L2 ~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 found</source>
+        <translation>[%L1 föûñd ~~~~]</translation>
+    </message>
+    <message>
+        <source>This line names no node of the scene and no file that there is.</source>
+        <translation>[Ţĥîš lîñé ñàméš ñö ñödé öf ţĥé šçéñé àñd ñö fîlé ţĥàţ ţĥéŕé îš. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is not there any more.</source>
+        <translation>[“%1” îš ñöţ ţĥéŕé àñý möŕé. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Show &amp;Among All Lines</source>
+        <translation>[Šĥöw &amp;Àmöñĝ Àll Lîñéš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>[&amp;Çöpý ~~]</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>[Šéléçţ &amp;Àll ~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>[&amp;Fîñd… ~~]</translation>
     </message>
     <message>
         <source>Save Frames</source>

@@ -52,6 +52,10 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
         <translation>Stattdessen ANZAHL Bilder einer vollen Drehung schreiben: AUS-01.png und so weiter.</translation>
     </message>
     <message>
+        <source>How bright light comes into the view and its pictures: none, neutral or filmic. For this session; the menu remembers its choice.</source>
+        <translation>Wie helles Licht in die Ansicht und ihre Bilder kommt: none, neutral oder filmic. Gilt für diese Sitzung; das Menü merkt sich seine Wahl.</translation>
+    </message>
+    <message>
         <source>Attach to a running program; may be left out: the only one. In place of FILE.</source>
         <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von DATEI.</translation>
     </message>
@@ -98,6 +102,10 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     <message>
         <source>The program that this node was in is not attached any more.</source>
         <translation>Das Programm, in dem dieser Knoten war, ist nicht mehr verbunden.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Front</source>
@@ -206,6 +214,10 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     <message>
         <source>--turntable expects a number of pictures, 2 or more, and not “%1”.</source>
         <translation>--turntable erwartet eine Anzahl von Bildern, mindestens 2, und nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--tone-mapping expects none, neutral or filmic, and not “%1”.</source>
+        <translation>--tone-mapping erwartet none, neutral oder filmic, und nicht „%1“.</translation>
     </message>
     <message>
         <source>--%1 says how a picture is made, and --picture OUT.png is missing.</source>
@@ -374,6 +386,22 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     <message>
         <source>its version of glTF is %1, and 1.0 or 2.0 was expected</source>
         <translation>ihre glTF-Version ist %1, erwartet wurde 1.0 oder 2.0</translation>
+    </message>
+    <message>
+        <source>What the file says once by the extension “%1” is left out.</source>
+        <translation>Was die Datei einmal mit der Erweiterung „%1“ sagt, wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>What the file says %1 times by the extension “%2” is left out.</source>
+        <translation>Was die Datei %1-mal mit der Erweiterung „%2“ sagt, wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>1 property of materials is not known here and left out: %1.</source>
+        <translation>1 Eigenschaft von Materialien ist hier nicht bekannt und wird ausgelassen: %1.</translation>
+    </message>
+    <message>
+        <source>%1 properties of materials are not known here and left out: %2.</source>
+        <translation>%1 Eigenschaften von Materialien sind hier nicht bekannt und werden ausgelassen: %2.</translation>
     </message>
     <message>
         <source>it is no file of the kind that its ending, .%1, says</source>
@@ -576,14 +604,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Datei einfügen</translation>
     </message>
     <message>
-        <source>Scenes and models (%1);;All files (*)</source>
-        <translation>Szenen und Modelle (%1);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Reading “%1” was cancelled.</source>
-        <translation>Das Lesen von „%1“ wurde abgebrochen.</translation>
-    </message>
-    <message>
         <source>Insert “%1”</source>
         <translation>„%1“ aus Datei einfügen</translation>
     </message>
@@ -606,6 +626,14 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>something in it is of a kind that cannot be copied</source>
         <translation>etwas darin ist von einer Art, die sich nicht kopieren lässt</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>„%1“ wird gespeichert …</translation>
+    </message>
+    <message>
+        <source>Saving “%1” was cancelled.</source>
+        <translation>Das Speichern von „%1“ wurde abgebrochen.</translation>
     </message>
     <message>
         <source>“%1” was saved as “%2”.</source>
@@ -669,7 +697,7 @@ scopix --launch PROGRAM starts one.</source>
     </message>
     <message>
         <source>&amp;Untick All</source>
-        <translation>Alle Haken 164	Kein Haken, &amp;nirgendsentfernen</translation>
+        <translation>Alle Haken &amp;entfernen</translation>
     </message>
     <message>
         <source>Nothing differs from %1.</source>
@@ -914,10 +942,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Reading %1…</source>
         <translation>%1 wird gelesen …</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1184,6 +1208,50 @@ scopix --launch PROGRAM starts one.</source>
         <translation>„%1“ hat diese Taste und verliert sie beim Setzen.</translation>
     </message>
     <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Launch a Program</source>
+        <translation>Programm starten</translation>
+    </message>
+    <message>
+        <source>A file, or a name such as osgviewer</source>
+        <translation>Eine Datei oder ein Name wie osgviewer</translation>
+    </message>
+    <message>
+        <source>What stands behind it on a command line</source>
+        <translation>Was auf einer Befehlszeile dahinter steht</translation>
+    </message>
+    <message>
+        <source>The current folder</source>
+        <translation>Der aktuelle Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>&amp;Programm:</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Arguments:</source>
+        <translation>&amp;Argumente:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Launch</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
         <source>the owner of %1 cannot be found out</source>
         <translation>der Besitzer von %1 lässt sich nicht feststellen</translation>
     </message>
@@ -1216,6 +1284,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Mit einem Programm &amp;verbinden …</translation>
     </message>
     <message>
+        <source>La&amp;unch a Program…</source>
+        <translation>Programm sta&amp;rten …</translation>
+    </message>
+    <message>
+        <source>Launch A&amp;gain</source>
+        <translation>Erneut s&amp;tarten</translation>
+    </message>
+    <message>
         <source>&amp;Detach</source>
         <translation>Verbindung &amp;beenden</translation>
     </message>
@@ -1226,6 +1302,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Look at the Selected Node in the Program</source>
         <translation>Den ausgewählten Knoten im Programm &amp;ansehen</translation>
+    </message>
+    <message>
+        <source>No program was launched from this window yet.</source>
+        <translation>Aus diesem Fenster wurde noch kein Programm gestartet.</translation>
     </message>
     <message>
         <source>%1, process %2</source>
@@ -1254,6 +1334,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>Aufgehoben für die nächste Verbindung mit „%1“: %2.</translation>
+    </message>
+    <message>
+        <source>Launch Again</source>
+        <translation>Erneut starten</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -1320,6 +1404,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Änderungen zurücknehmen</translation>
     </message>
     <message>
+        <source>Nothing can be added to “%1”: “%2” offers no types for it.</source>
+        <translation>Zu „%1“ lässt sich nichts hinzufügen: „%2“ bietet dafür keine Typen an.</translation>
+    </message>
+    <message>
+        <source>“%1” added nothing to “%2”: %3</source>
+        <translation>„%1“ hat zu „%2“ nichts hinzugefügt: %3</translation>
+    </message>
+    <message>
         <source>“%1” takes whole numbers only, and is as it was.</source>
         <translation>„%1“ nimmt nur ganze Zahlen an und ist, wie es war.</translation>
     </message>
@@ -1372,8 +1464,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>„%1“ lässt sich nicht ändern: In „%2“ gibt es das nicht mehr.</translation>
     </message>
     <message>
-        <source>The nodes of “%1” can be neither moved nor removed, since the program does not offer that.</source>
-        <translation>Die Knoten von „%1“ lassen sich weder verschieben noch entfernen, da das Programm das nicht anbietet.</translation>
+        <source>The nodes of “%1” can be neither added, moved nor removed, since the program does not offer that.</source>
+        <translation>In „%1“ lassen sich Knoten weder hinzufügen noch verschieben noch entfernen, da das Programm das nicht anbietet.</translation>
     </message>
     <message>
         <source>Select a node: its fields are listed here.</source>
@@ -1542,6 +1634,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Hilfe zur &amp;Auswahl</translation>
     </message>
     <message>
+        <source>T&amp;utorial</source>
+        <translation>T&amp;utorial</translation>
+    </message>
+    <message>
         <source>&amp;Nodes</source>
         <translation>&amp;Knotenarten</translation>
     </message>
@@ -1552,6 +1648,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Main</source>
         <translation>Haupt</translation>
+    </message>
+    <message>
+        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
+        <translation>Das Tutorial lässt sich nicht zeigen: Es ist nicht beim Programm installiert.</translation>
     </message>
     <message>
         <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
@@ -1650,8 +1750,28 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
 %1</translation>
     </message>
     <message>
+        <source>%1 Nodes</source>
+        <translation>%1 Knoten zusammen</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
+        <translation>„%1“ steht im Programm ganz oben und lässt sich nicht duplizieren.</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>%1 duplizieren</translation>
+    </message>
+    <message>
+        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
+        <translation>Nur Knoten, die in diesem Fenster aus diesem Programm kopiert wurden, lassen sich darin einfügen.</translation>
+    </message>
+    <message>
+        <source>Paste %1</source>
+        <translation>%1 ins Programm einfügen</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
@@ -1684,6 +1804,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Share %1 Nodes</source>
         <translation>%1 Knoten gemeinsam nutzen</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>%1 kopieren</translation>
     </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
@@ -1806,6 +1930,18 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Knoten darübersetzen</translation>
     </message>
     <message>
+        <source>the scene as it was opened</source>
+        <translation>der Szene beim Öffnen</translation>
+    </message>
+    <message>
+        <source>Scenes and models (%1);;All files (*)</source>
+        <translation>Szenen und Modelle (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reading “%1” was cancelled.</source>
+        <translation>Das Lesen von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
         <source>&amp;Find Anything…</source>
         <translation>&amp;Alles finden …</translation>
     </message>
@@ -1840,6 +1976,18 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Apply Patch</source>
         <translation>Patch anwenden</translation>
+    </message>
+    <message>
+        <source>“%1” is a patch, and no scene is open that it could change: open the one that it was made for, then drop the patch on the window or choose File ▸ Apply Patch….</source>
+        <translation>„%1“ ist ein Patch, und es ist keine Szene geöffnet, die er ändern könnte: Öffne die, für die er gemacht ist, und wähle dann Datei ▸ Patch anwenden … oder ziehe den Patch ins Fenster.</translation>
+    </message>
+    <message>
+        <source>Apply the patch “%1” to the scene that is open?</source>
+        <translation>Den Patch „%1“ auf die geöffnete Szene anwenden?</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n change(s). What fits is applied, and can be undone as one step.</source>
+        <translation><numerusform>Er enthält %n Änderung. Was passt, wird angewendet und lässt sich in einem Schritt rückgängig machen.</numerusform><numerusform>Er enthält %n Änderungen. Was passt, wird angewendet und lässt sich in einem Schritt rückgängig machen.</numerusform></translation>
     </message>
     <message>
         <source>Apply “%1”</source>
@@ -2274,10 +2422,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Öffnet die Datei in ihrem jetzigen Zustand und macht deine Änderungen noch einmal</translation>
     </message>
     <message>
-        <source>the scene as it was opened</source>
-        <translation>der Szene beim Öffnen</translation>
-    </message>
-    <message>
         <source>your changes to %1</source>
         <translation>deine Änderungen an %1</translation>
     </message>
@@ -2294,8 +2438,24 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Die Szene „%1“ lässt sich nicht schreiben: %2.</translation>
     </message>
     <message>
+        <source>“%1” cannot be reverted: something else than an edit has changed its number of values; open the file again for what it holds.</source>
+        <translation>„%1“ lässt sich nicht zurücknehmen: Etwas anderes als eine Bearbeitung hat die Zahl der Werte geändert; öffne die Datei neu, um zu sehen, was sie enthält.</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Revert %1 Changes</source>
+        <translation>%1 Änderungen zurücknehmen</translation>
+    </message>
+    <message>
         <source>no name</source>
         <translation>ohne Namen</translation>
+    </message>
+    <message>
+        <source>, follows %1</source>
+        <translation>, folgt %1</translation>
     </message>
     <message>
         <source>Written since by something else than an edit.</source>
@@ -2324,18 +2484,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>“%1” cannot be what %2 was: it is no value of a %3.</source>
         <translation>„%1“ kann nicht sein, was %2 war: Das ist kein Wert der Art %3.</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be reverted: something else than an edit has changed its number of values; open the file again for what it holds.</source>
-        <translation>„%1“ lässt sich nicht zurücknehmen: Etwas anderes als eine Bearbeitung hat die Zahl der Werte geändert; öffne die Datei neu, um zu sehen, was sie enthält.</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>%1 zurücknehmen</translation>
-    </message>
-    <message>
-        <source>Revert %1 Changes</source>
-        <translation>%1 Änderungen zurücknehmen</translation>
     </message>
     <message>
         <source>Nothing of it can be seen: %1.</source>
@@ -2368,6 +2516,14 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>“%1” cannot be exported to: its name must end in %2.</source>
         <translation>Nach „%1“ lässt sich nicht exportieren: Der Name muss auf %2 enden.</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>„%1“ wird exportiert …</translation>
+    </message>
+    <message>
+        <source>Exporting “%1” was cancelled.</source>
+        <translation>Das Exportieren von „%1“ wurde abgebrochen.</translation>
     </message>
     <message>
         <source>Exported “%1”.</source>
@@ -2672,6 +2828,10 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>Most Pla&amp;ces First</source>
         <translation>Die meisten S&amp;tellen zuerst</translation>
+    </message>
+    <message>
+        <source>A plug-in failed when it was to tell its columns of the tree: %1</source>
+        <translation>Ein Plug-in ist beim Nennen seiner Spalten des Baums fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>Try Again</source>

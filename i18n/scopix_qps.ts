@@ -52,6 +52,10 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[Wŕîţé ÑÛMBÉŔ pîçţûŕéš öf öñé fûll ţûŕñ îñšţéàd: ÖÛŢ-01.pñĝ àñd šö öñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>How bright light comes into the view and its pictures: none, neutral or filmic. For this session; the menu remembers its choice.</source>
+        <translation>[Ĥöw bŕîĝĥţ lîĝĥţ çöméš îñţö ţĥé vîéw àñd îţš pîçţûŕéš: ñöñé, ñéûţŕàl öŕ fîlmîç. Föŕ ţĥîš šéššîöñ; ţĥé méñû ŕémémbéŕš îţš çĥöîçé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Attach to a running program; may be left out: the only one. In place of FILE.</source>
         <translation>[Àţţàçĥ ţö à ŕûññîñĝ pŕöĝŕàm; màý bé léfţ öûţ: ţĥé öñlý öñé. Îñ plàçé öf FÎLÉ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -98,6 +102,10 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
     <message>
         <source>The program that this node was in is not attached any more.</source>
         <translation>[Ţĥé pŕöĝŕàm ţĥàţ ţĥîš ñödé wàš îñ îš ñöţ àţţàçĥéd àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>[Çàñçél ~~]</translation>
     </message>
     <message>
         <source>Front</source>
@@ -206,6 +214,10 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
     <message>
         <source>--turntable expects a number of pictures, 2 or more, and not “%1”.</source>
         <translation>[--ţûŕñţàblé éxpéçţš à ñûmbéŕ öf pîçţûŕéš, 2 öŕ möŕé, àñd ñöţ “%1”. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>--tone-mapping expects none, neutral or filmic, and not “%1”.</source>
+        <translation>[--ţöñé-màppîñĝ éxpéçţš ñöñé, ñéûţŕàl öŕ fîlmîç, àñd ñöţ “%1”. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>--%1 says how a picture is made, and --picture OUT.png is missing.</source>
@@ -374,6 +386,22 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
     <message>
         <source>its version of glTF is %1, and 1.0 or 2.0 was expected</source>
         <translation>[îţš véŕšîöñ öf ĝlŢF îš %1, àñd 1.0 öŕ 2.0 wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What the file says once by the extension “%1” is left out.</source>
+        <translation>[Wĥàţ ţĥé fîlé šàýš öñçé bý ţĥé éxţéñšîöñ “%1” îš léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What the file says %1 times by the extension “%2” is left out.</source>
+        <translation>[Wĥàţ ţĥé fîlé šàýš %1 ţîméš bý ţĥé éxţéñšîöñ “%2” îš léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>1 property of materials is not known here and left out: %1.</source>
+        <translation>[1 pŕöpéŕţý öf màţéŕîàlš îš ñöţ ķñöwñ ĥéŕé àñd léfţ öûţ: %1. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 properties of materials are not known here and left out: %2.</source>
+        <translation>[%1 pŕöpéŕţîéš öf màţéŕîàlš àŕé ñöţ ķñöwñ ĥéŕé àñd léfţ öûţ: %2. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>it is no file of the kind that its ending, .%1, says</source>
@@ -576,14 +604,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Îñšéŕţ Fîlé ~~~~]</translation>
     </message>
     <message>
-        <source>Scenes and models (%1);;All files (*)</source>
-        <translation>[Šçéñéš àñd mödélš (%1);;Àll fîléš (*) ~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Reading “%1” was cancelled.</source>
-        <translation>[Ŕéàdîñĝ “%1” wàš çàñçélléd. ~~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>Insert “%1”</source>
         <translation>[Îñšéŕţ “%1” ~~~~]</translation>
     </message>
@@ -606,6 +626,14 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>something in it is of a kind that cannot be copied</source>
         <translation>[šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>[Šàvîñĝ “%1”… ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Saving “%1” was cancelled.</source>
+        <translation>[Šàvîñĝ “%1” wàš çàñçélléd. ~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>“%1” was saved as “%2”.</source>
@@ -916,10 +944,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ŕéàdîñĝ %1… ~~~~]</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>[Çàñçél ~~]</translation>
-    </message>
-    <message>
         <source>&amp;New</source>
         <translation>[&amp;Ñéw ~~]</translation>
     </message>
@@ -1184,6 +1208,50 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[“%1” ĥàš ţĥîš ķéý, àñd löšéš îţ wĥéñ ýöû šéţ îţ. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Choose…</source>
+        <translation>[Çĥööšé… ~~~]</translation>
+    </message>
+    <message>
+        <source>Launch a Program</source>
+        <translation>[Làûñçĥ à Pŕöĝŕàm ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A file, or a name such as osgviewer</source>
+        <translation>[À fîlé, öŕ à ñàmé šûçĥ àš öšĝvîéwéŕ ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What stands behind it on a command line</source>
+        <translation>[Wĥàţ šţàñdš béĥîñd îţ öñ à çömmàñd lîñé ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The current folder</source>
+        <translation>[Ţĥé çûŕŕéñţ földéŕ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>[&amp;Pŕöĝŕàm: ~~~~]</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>[Pŕöĝŕàm ~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Arguments:</source>
+        <translation>[&amp;Àŕĝûméñţš: ~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>[&amp;Földéŕ: ~~~]</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>[Földéŕ ~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Launch</source>
+        <translation>[&amp;Làûñçĥ ~~~]</translation>
+    </message>
+    <message>
         <source>the owner of %1 cannot be found out</source>
         <translation>[ţĥé öwñéŕ öf %1 çàññöţ bé föûñd öûţ ~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1216,6 +1284,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[À&amp;ţţàçĥ ţö à Pŕöĝŕàm… ~~~~~~~~]</translation>
     </message>
     <message>
+        <source>La&amp;unch a Program…</source>
+        <translation>[Là&amp;ûñçĥ à Pŕöĝŕàm… ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Launch A&amp;gain</source>
+        <translation>[Làûñçĥ À&amp;ĝàîñ ~~~~~]</translation>
+    </message>
+    <message>
         <source>&amp;Detach</source>
         <translation>[&amp;Déţàçĥ ~~~]</translation>
     </message>
@@ -1226,6 +1302,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Look at the Selected Node in the Program</source>
         <translation>[&amp;Lööķ àţ ţĥé Šéléçţéd Ñödé îñ ţĥé Pŕöĝŕàm ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No program was launched from this window yet.</source>
+        <translation>[Ñö pŕöĝŕàm wàš làûñçĥéd fŕöm ţĥîš wîñdöw ýéţ. ~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>%1, process %2</source>
@@ -1254,6 +1334,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>[Ķépţ föŕ wĥéñ ýöû àţţàçĥ ţö “%1” àĝàîñ: %2. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Launch Again</source>
+        <translation>[Làûñçĥ Àĝàîñ ~~~~~]</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -1320,6 +1404,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ţàķé çĥàñĝéš bàçķ ~~~~~~~]</translation>
     </message>
     <message>
+        <source>Nothing can be added to “%1”: “%2” offers no types for it.</source>
+        <translation>[Ñöţĥîñĝ çàñ bé àddéd ţö “%1”: “%2” öfféŕš ñö ţýpéš föŕ îţ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” added nothing to “%2”: %3</source>
+        <translation>[“%1” àddéd ñöţĥîñĝ ţö “%2”: %3 ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>“%1” takes whole numbers only, and is as it was.</source>
         <translation>[“%1” ţàķéš wĥölé ñûmbéŕš öñlý, àñd îš àš îţ wàš. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1372,8 +1464,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[“%1” çàññöţ bé édîţéd: îţ döéš ñöţ éxîšţ îñ “%2” àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>The nodes of “%1” can be neither moved nor removed, since the program does not offer that.</source>
-        <translation>[Ţĥé ñödéš öf “%1” çàñ bé ñéîţĥéŕ mövéd ñöŕ ŕémövéd, šîñçé ţĥé pŕöĝŕàm döéš ñöţ öfféŕ ţĥàţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>The nodes of “%1” can be neither added, moved nor removed, since the program does not offer that.</source>
+        <translation>[Ţĥé ñödéš öf “%1” çàñ bé ñéîţĥéŕ àddéd, mövéd ñöŕ ŕémövéd, šîñçé ţĥé pŕöĝŕàm döéš ñöţ öfféŕ ţĥàţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Select a node: its fields are listed here.</source>
@@ -1542,6 +1634,10 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Ĥélp öñ Wĥàţ &amp;Îš Šéléçţéd ~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>T&amp;utorial</source>
+        <translation>[Ţ&amp;ûţöŕîàl ~~~~]</translation>
+    </message>
+    <message>
         <source>&amp;Nodes</source>
         <translation>[&amp;Ñödéš ~~]</translation>
     </message>
@@ -1552,6 +1648,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Main</source>
         <translation>[Màîñ ~~]</translation>
+    </message>
+    <message>
+        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
+        <translation>[Ţĥé ţûţöŕîàl çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
@@ -1650,8 +1750,28 @@ Fîñd à ñödé: Çţŕl+F.
 %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>%1 Nodes</source>
+        <translation>[%1 Ñödéš ~~~]</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <translation>[Àdd %1 ~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
+        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd çàññöţ bé dûplîçàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Duplicate %1</source>
+        <translation>[Dûplîçàţé %1 ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
+        <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd fŕöm ţĥîš pŕöĝŕàm, îñ ţĥîš wîñdöw, çàñ bé pàšţéd îñţö îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Paste %1</source>
+        <translation>[Pàšţé %1 ~~~]</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
@@ -1684,6 +1804,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Share %1 Nodes</source>
         <translation>[Šĥàŕé %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>[Çöpý %1 ~~~]</translation>
     </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
@@ -1806,6 +1930,18 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Pûţ à Ñödé Àbövé ~~~~~~]</translation>
     </message>
     <message>
+        <source>the scene as it was opened</source>
+        <translation>[ţĥé šçéñé àš îţ wàš öpéñéd ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Scenes and models (%1);;All files (*)</source>
+        <translation>[Šçéñéš àñd mödélš (%1);;Àll fîléš (*) ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Reading “%1” was cancelled.</source>
+        <translation>[Ŕéàdîñĝ “%1” wàš çàñçélléd. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>&amp;Find Anything…</source>
         <translation>[&amp;Fîñd Àñýţĥîñĝ… ~~~~~~]</translation>
     </message>
@@ -1840,6 +1976,18 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Apply Patch</source>
         <translation>[Àpplý Pàţçĥ ~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is a patch, and no scene is open that it could change: open the one that it was made for, then drop the patch on the window or choose File ▸ Apply Patch….</source>
+        <translation>[“%1” îš à pàţçĥ, àñd ñö šçéñé îš öpéñ ţĥàţ îţ çöûld çĥàñĝé: öpéñ ţĥé öñé ţĥàţ îţ wàš màdé föŕ, ţĥéñ dŕöp ţĥé pàţçĥ öñ ţĥé wîñdöw öŕ çĥööšé Fîlé ▸ Àpplý Pàţçĥ…. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Apply the patch “%1” to the scene that is open?</source>
+        <translation>[Àpplý ţĥé pàţçĥ “%1” ţö ţĥé šçéñé ţĥàţ îš öpéñ? ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n change(s). What fits is applied, and can be undone as one step.</source>
+        <translation><numerusform>[Îţ ĥàš %n çĥàñĝé(š). Wĥàţ fîţš îš àpplîéd, àñd çàñ bé ûñdöñé àš öñé šţép. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</numerusform><numerusform>[Îţ ĥàš %n çĥàñĝé(š). Wĥàţ fîţš îš àpplîéd, àñd çàñ bé ûñdöñé àš öñé šţép. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</numerusform></translation>
     </message>
     <message>
         <source>Apply “%1”</source>
@@ -2274,10 +2422,6 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Öpéñš ţĥé fîlé àš îţ îš bý ñöw, àñd màķéš ýöûŕ çĥàñĝéš öñçé möŕé ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>the scene as it was opened</source>
-        <translation>[ţĥé šçéñé àš îţ wàš öpéñéd ~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>your changes to %1</source>
         <translation>[ýöûŕ çĥàñĝéš ţö %1 ~~~~~~~]</translation>
     </message>
@@ -2294,8 +2438,24 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Ţĥé šçéñé “%1” çàññöţ bé wŕîţţéñ: %2. ~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1” cannot be reverted: something else than an edit has changed its number of values; open the file again for what it holds.</source>
+        <translation>[“%1” çàññöţ bé ŕévéŕţéd: šöméţĥîñĝ élšé ţĥàñ àñ édîţ ĥàš çĥàñĝéd îţš ñûmbéŕ öf vàlûéš; öpéñ ţĥé fîlé àĝàîñ föŕ wĥàţ îţ ĥöldš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>[Ŕévéŕţ %1 ~~~~]</translation>
+    </message>
+    <message>
+        <source>Revert %1 Changes</source>
+        <translation>[Ŕévéŕţ %1 Çĥàñĝéš ~~~~~~~]</translation>
+    </message>
+    <message>
         <source>no name</source>
         <translation>[ñö ñàmé ~~~]</translation>
+    </message>
+    <message>
+        <source>, follows %1</source>
+        <translation>[, föllöwš %1 ~~~~~]</translation>
     </message>
     <message>
         <source>Written since by something else than an edit.</source>
@@ -2324,18 +2484,6 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>“%1” cannot be what %2 was: it is no value of a %3.</source>
         <translation>[“%1” çàññöţ bé wĥàţ %2 wàš: îţ îš ñö vàlûé öf à %3. ~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>“%1” cannot be reverted: something else than an edit has changed its number of values; open the file again for what it holds.</source>
-        <translation>[“%1” çàññöţ bé ŕévéŕţéd: šöméţĥîñĝ élšé ţĥàñ àñ édîţ ĥàš çĥàñĝéd îţš ñûmbéŕ öf vàlûéš; öpéñ ţĥé fîlé àĝàîñ föŕ wĥàţ îţ ĥöldš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>[Ŕévéŕţ %1 ~~~~]</translation>
-    </message>
-    <message>
-        <source>Revert %1 Changes</source>
-        <translation>[Ŕévéŕţ %1 Çĥàñĝéš ~~~~~~~]</translation>
     </message>
     <message>
         <source>Nothing of it can be seen: %1.</source>
@@ -2368,6 +2516,14 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>“%1” cannot be exported to: its name must end in %2.</source>
         <translation>[“%1” çàññöţ bé éxpöŕţéd ţö: îţš ñàmé mûšţ éñd îñ %2. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>[Éxpöŕţîñĝ “%1”… ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Exporting “%1” was cancelled.</source>
+        <translation>[Éxpöŕţîñĝ “%1” wàš çàñçélléd. ~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Exported “%1”.</source>
@@ -2672,6 +2828,10 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>Most Pla&amp;ces First</source>
         <translation>[Möšţ Plà&amp;çéš Fîŕšţ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A plug-in failed when it was to tell its columns of the tree: %1</source>
+        <translation>[À plûĝ-îñ fàîléd wĥéñ îţ wàš ţö ţéll îţš çölûmñš öf ţĥé ţŕéé: %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Try Again</source>
