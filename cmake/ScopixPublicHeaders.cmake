@@ -72,5 +72,6 @@ set(SCOPIX_HOST_HEADERS
   CommandLine.h Commands.h HostApplication.h HostExport.h)
 
 set(SCOPIX_EDITING_HEADERS
-  SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldDescription.h SpxFieldEdit.h SpxFieldGesture.h SpxFieldPointer.h SpxFieldState.h SpxFreshDefault.h
+  SpxConnectCommand.h SpxEditingExport.h SpxExpression.h SpxFieldDescription.h SpxFieldEdit.h SpxFieldGesture.h
+  SpxFieldPointer.h SpxFieldState.h SpxFlowLayout.h SpxFreshDefault.h
   SpxObjectEditor.h SpxSetFieldCommand.h SpxSetIgnoredCommand.h SpxText.h SpxWatcher.h)

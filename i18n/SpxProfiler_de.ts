@@ -28,6 +28,14 @@
         <translation>OpenGL-Speicher, kB</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Shows what is written and reported, to filter and to find in.</source>
+        <translation>Zeigt, was ausgegeben und gemeldet wird, zum Filtern und Suchen.</translation>
+    </message>
+    <message>
         <source>Cost</source>
         <translation>Kosten</translation>
     </message>

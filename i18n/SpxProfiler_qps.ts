@@ -28,6 +28,14 @@
         <translation>[ÖpéñĜL mémöŕý, ķB ~~~~~~~]</translation>
     </message>
     <message>
+        <source>Log</source>
+        <translation>[Löĝ ~]</translation>
+    </message>
+    <message>
+        <source>Shows what is written and reported, to filter and to find in.</source>
+        <translation>[Šĥöwš wĥàţ îš wŕîţţéñ àñd ŕépöŕţéd, ţö fîlţéŕ àñd ţö fîñd îñ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Cost</source>
         <translation>[Çöšţ ~~]</translation>
     </message>

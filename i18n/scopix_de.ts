@@ -1216,12 +1216,24 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Programm starten</translation>
     </message>
     <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
         <source>A file, or a name such as osgviewer</source>
         <translation>Eine Datei oder ein Name wie osgviewer</translation>
     </message>
     <message>
+        <source>Arguments</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
         <source>What stands behind it on a command line</source>
         <translation>Was auf einer Befehlszeile dahinter steht</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>The current folder</source>
@@ -1232,20 +1244,12 @@ scopix --launch PROGRAM starts one.</source>
         <translation>&amp;Programm:</translation>
     </message>
     <message>
-        <source>Program</source>
-        <translation>Programm</translation>
-    </message>
-    <message>
         <source>&amp;Arguments:</source>
         <translation>&amp;Argumente:</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Ordner:</translation>
-    </message>
-    <message>
-        <source>Folder</source>
-        <translation>Ordner</translation>
     </message>
     <message>
         <source>&amp;Launch</source>

@@ -1216,12 +1216,24 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Làûñçĥ à Pŕöĝŕàm ~~~~~~]</translation>
     </message>
     <message>
+        <source>Program</source>
+        <translation>[Pŕöĝŕàm ~~~]</translation>
+    </message>
+    <message>
         <source>A file, or a name such as osgviewer</source>
         <translation>[À fîlé, öŕ à ñàmé šûçĥ àš öšĝvîéwéŕ ~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Arguments</source>
+        <translation>[Àŕĝûméñţš ~~~~]</translation>
+    </message>
+    <message>
         <source>What stands behind it on a command line</source>
         <translation>[Wĥàţ šţàñdš béĥîñd îţ öñ à çömmàñd lîñé ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>[Földéŕ ~~]</translation>
     </message>
     <message>
         <source>The current folder</source>
@@ -1232,20 +1244,12 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[&amp;Pŕöĝŕàm: ~~~~]</translation>
     </message>
     <message>
-        <source>Program</source>
-        <translation>[Pŕöĝŕàm ~~~]</translation>
-    </message>
-    <message>
         <source>&amp;Arguments:</source>
         <translation>[&amp;Àŕĝûméñţš: ~~~~]</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
         <translation>[&amp;Földéŕ: ~~~]</translation>
-    </message>
-    <message>
-        <source>Folder</source>
-        <translation>[Földéŕ ~~]</translation>
     </message>
     <message>
         <source>&amp;Launch</source>

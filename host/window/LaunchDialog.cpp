@@ -63,10 +63,13 @@ LaunchDialog::LaunchDialog(const LaunchOrder& last, QWidget* parent)
     setObjectName(QStringLiteral("launchDialog"));
     setWindowTitle(tr("Launch a Program"));
     m_program->setObjectName(QStringLiteral("launchProgram"));
+    m_program->setAccessibleName(tr("Program"));
     m_program->setPlaceholderText(tr("A file, or a name such as osgviewer"));
     m_arguments->setObjectName(QStringLiteral("launchArguments"));
+    m_arguments->setAccessibleName(tr("Arguments"));
     m_arguments->setPlaceholderText(tr("What stands behind it on a command line"));
     m_folder->setObjectName(QStringLiteral("launchFolder"));
+    m_folder->setAccessibleName(tr("Folder"));
     m_folder->setPlaceholderText(tr("The current folder"));
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Program:"), withButton(m_program, [this] {

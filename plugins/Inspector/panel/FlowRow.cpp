@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panel/FlowRow.h"
 
-#include <QResizeEvent>
+#include <scopix/editing/SpxFlowLayout.h>
+
 #include <QToolButton>
 
 #include <algorithm>
@@ -9,19 +10,14 @@
 namespace inspector
 {
 
-namespace
-{
-
-constexpr int Space = 2;
-
-} // namespace
-
 FlowRow::FlowRow(QWidget* parent)
     : QWidget(parent)
 {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    auto* flow = new SpxFlowLayout(this);
+    flow->setContentsMargins({});
     hide();
 }
 
@@ -29,6 +25,7 @@ FlowRow::FlowRow(QWidget* parent)
 void FlowRow::clear()
 {
     for (QToolButton* button : qAsConst(m_buttons)) {
+        layout()->removeWidget(button);
         button->hide();
         button->deleteLater();
     }
@@ -46,50 +43,23 @@ QToolButton* FlowRow::add(const QString& text, const QString& toolTip, std::func
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setFocusPolicy(Qt::StrongFocus);
     connect(button, &QToolButton::clicked, this, [act = std::move(act)] { act(); });
+    button->setMinimumWidth(1); // rather cut than wider than the panel
     m_buttons += button;
+    layout()->addWidget(button);
     button->show();
     show();
-    updateGeometry();
-    place(width(), true);
     return button;
 }
 
+// However long it is in one line, the panel gets no wider.
 QSize FlowRow::sizeHint() const
 {
-    return {width(), place(std::max(1, width()), false)};
+    return {width(), heightForWidth(std::max(1, width()))};
 }
 
 QSize FlowRow::minimumSizeHint() const
 {
-    return {1, place(std::max(1, width()), false)};
-}
-
-void FlowRow::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    place(width(), true);
-    if (event->oldSize().width() != width())
-        updateGeometry();
-}
-
-int FlowRow::place(int width, bool moves) const
-{
-    int x = 0;
-    int y = 0;
-    int lineHeight = 0;
-    for (QToolButton* button : m_buttons) {
-        const QSize size = button->sizeHint().boundedTo({std::max(1, width), QWIDGETSIZE_MAX});
-        if (x > 0 && x + size.width() > width) {
-            x = 0;
-            y += lineHeight + Space;
-            lineHeight = 0;
-        }
-        if (moves)
-            button->setGeometry(x, y, size.width(), size.height());
-        x += size.width() + Space;
-        lineHeight = std::max(lineHeight, size.height());
-    }
-    return y + lineHeight;
+    return {1, heightForWidth(std::max(1, width()))};
 }
 
 } // namespace inspector

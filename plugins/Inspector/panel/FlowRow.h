@@ -22,17 +22,10 @@ public:
     void clear();
     QToolButton* add(const QString& text, const QString& toolTip, std::function<void()> act);
 
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override { return place(width, false); }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    int place(int width, bool moves) const;
-
     QList<QToolButton*> m_buttons;
 };
 

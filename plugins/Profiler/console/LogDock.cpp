@@ -12,7 +12,9 @@ namespace profiler
 {
 
 LogDock::LogDock()
-    : PanelDock("Log", "Shows what is written and reported, to filter and to find in.")
+    : PanelDock(
+          QT_TRANSLATE_NOOP("Extension", "Log"),
+          QT_TRANSLATE_NOOP("Extension", "Shows what is written and reported, to filter and to find in."))
 {
 }
 

@@ -7,10 +7,11 @@
 #include "console/LogText.h"
 #include "console/LogView.h"
 
+#include <scopix/editing/SpxFlowLayout.h>
+
 #include <QActionGroup>
 #include <QCheckBox>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,9 +29,9 @@ namespace profiler
 namespace
 {
 
-QHBoxLayout* rowIn(QWidget* bar)
+QLayout* rowIn(QWidget* bar)
 {
-    auto* row = new QHBoxLayout(bar);
+    auto* row = new SpxFlowLayout(bar);
     row->setContentsMargins(2, 2, 2, 2);
     return row;
 }
@@ -95,7 +96,7 @@ LogPanel::~LogPanel() = default;
 QWidget* LogPanel::makeTools()
 {
     auto* bar = new QWidget;
-    QHBoxLayout* row = rowIn(bar);
+    QLayout* row = rowIn(bar);
     m_filter = new QLineEdit;
     m_filter->setObjectName(QString::fromLatin1("logFilter"));
     m_filter->setPlaceholderText(tr("Filter: words to have, -words to leave out"));
@@ -103,7 +104,7 @@ QWidget* LogPanel::makeTools()
     m_filter->setClearButtonEnabled(true);
     m_filter->setMinimumWidth(16 * fontMetrics().averageCharWidth());
     connect(m_filter, &QLineEdit::textChanged, this, &LogPanel::applyRule);
-    row->addWidget(m_filter, 2);
+    row->addWidget(m_filter);
     row->addWidget(makeKind(LogKind::Error, tr("Errors")));
     row->addWidget(makeKind(LogKind::Warning, tr("Warnings")));
     row->addWidget(makeKind(LogKind::Info, tr("Information")));
@@ -112,8 +113,7 @@ QWidget* LogPanel::makeTools()
     options->setMenu(makeOptions());
     options->setPopupMode(QToolButton::InstantPopup);
     row->addWidget(options);
-    m_counts->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give up room
-    row->addWidget(m_counts, 1);
+    row->addWidget(m_counts);
     return bar;
 }
 
@@ -174,7 +174,7 @@ void LogPanel::addFolding(QMenu& menu)
 QWidget* LogPanel::makeFindBar()
 {
     m_findBar = new QWidget;
-    QHBoxLayout* row = rowIn(m_findBar);
+    QLayout* row = rowIn(m_findBar);
     m_wanted = new QLineEdit;
     m_wanted->setObjectName(QString::fromLatin1("logFind"));
     m_wanted->setPlaceholderText(tr("Find in the lines that are shown"));
@@ -203,7 +203,7 @@ QWidget* LogPanel::makeFindBar()
     connect(m_context, qOverload<int>(&QSpinBox::valueChanged), this, &LogPanel::applyRule);
     auto* close = button(tr("Close"), QString::fromLatin1("logCloseFind"), tr("Close (Esc)"));
     connect(close, &QToolButton::clicked, this, &LogPanel::closeFind);
-    row->addWidget(m_wanted, 1);
+    row->addWidget(m_wanted);
     row->addWidget(previous);
     row->addWidget(next);
     row->addWidget(m_found);

@@ -58,7 +58,7 @@ bool isNameLike(const QString& word)
 
 void addQuoted(QList<QString>& names, const QString& line)
 {
-    static const QRegularExpression Quoted(QStringLiteral("“([^”]+)”|\"([^\"]+)\"|'([^']+)'"));
+    static const QRegularExpression Quoted(QStringLiteral("„([^“]+)“|“([^”]+)”|\"([^\"]+)\"|'([^']+)'"));
     for (auto each = Quoted.globalMatch(line); each.hasNext();) {
         const QRegularExpressionMatch match = each.next();
         add(names, match.captured(match.lastCapturedIndex()));
