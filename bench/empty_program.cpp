@@ -1,6 +1,0 @@
-// SPDX-License-Identifier: MIT
-// Does nothing, with the same libraries as the program.
-int main()
-{
-    return 0;
-}
