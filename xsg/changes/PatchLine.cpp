@@ -178,7 +178,9 @@ bool PatchLine::readValue(SceneChange& change)
         return true;
     if (accept("!text")) {
         m_in.skipBlanks();
-        return m_in.readQuoted(change.value.emplace()) || fail("a text in quotes");
+        if (!m_in.readQuoted(change.value.emplace()))
+            return fail("a text in quotes");
+        return change.value->find('\0') == std::string::npos || fail("a text without a byte 0");
     }
     const ValueExtent extent(m_in.rest());
     const std::string_view value = trimmed(m_in.rest().substr(0, extent.length));
