@@ -320,6 +320,15 @@ void UndoHistory::releaseUnused()
     dropOldSteps();
 }
 
+// With a step nodes may go, and the stack still lists the entries that it is deleting.
+void UndoHistory::releaseLater(StepPtr step)
+{
+    if (m_unused.empty())
+        QMetaObject::invokeMethod(
+            this, [this] { releaseUnused(); }, Qt::QueuedConnection);
+    m_unused.push_back(std::move(step));
+}
+
 void UndoHistory::completeLast(SoField& field)
 {
     if (m_current && m_current->completeLater(field)) {
@@ -522,27 +531,22 @@ void UndoHistory::restackWithoutDropped()
 // remaining steps are pushed again.
 void UndoHistory::restack(Steps wanted, int index, int clean)
 {
-    const Steps before = steps(); // until the stack stands again: with steps, nodes may go
-    {
-        const QScopedValueRollback<bool> sweeping(m_sweeping, true);
-        m_stack.clear();
-        for (StepPtr& step : wanted)
-            m_stack.push(new UndoEntry(*this, std::move(step)));
-        m_stack.resetClean();
-        if (clean >= 0) {
-            m_stack.setIndex(clean);
-            m_stack.setClean();
-        }
-        m_stack.setIndex(index);
+    const QScopedValueRollback<bool> sweeping(m_sweeping, true);
+    m_stack.clear();
+    for (StepPtr& step : wanted)
+        m_stack.push(new UndoEntry(*this, std::move(step)));
+    m_stack.resetClean();
+    if (clean >= 0) {
+        m_stack.setIndex(clean);
+        m_stack.setClean();
     }
+    m_stack.setIndex(index);
 }
 
 void UndoHistory::clear()
 {
-    const Steps before = steps();
     const Steps redoable = std::exchange(m_redoable, {});
     const Steps unsettled = std::exchange(m_unsettled, {});
-    const Steps unused = std::exchange(m_unused, {});
     const StepPtr current = std::exchange(m_current, nullptr);
     m_currentIsOn = false;
     m_deferred.clear();
@@ -551,6 +555,7 @@ void UndoHistory::clear()
     m_stack.clear();
     if (!wasClean)
         m_stack.resetClean(); // the edits themselves are still there
+    const Steps unused = std::exchange(m_unused, {});
 }
 
 // --- Memory

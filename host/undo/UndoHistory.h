@@ -150,6 +150,7 @@ private:
     void takeBackCurrent(const QString& refusal);
     void showCurrent();
     void releaseUnused();
+    void releaseLater(StepPtr step);
 
     void run(UndoStep& step, bool undoes);
     void standStill();

@@ -350,6 +350,11 @@ UndoEntry::UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step)
 {
 }
 
+UndoEntry::~UndoEntry()
+{
+    m_history.releaseLater(std::move(m_step));
+}
+
 void UndoEntry::undo()
 {
     const std::shared_ptr<UndoStep> step = m_step;

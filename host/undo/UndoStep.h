@@ -108,6 +108,7 @@ class UndoEntry : public QUndoCommand
 {
 public:
     UndoEntry(UndoHistory& history, std::shared_ptr<UndoStep> step);
+    ~UndoEntry() override;
 
     void undo() override;
     /// Does nothing the first time, when it is pushed: its commands have been executed.

@@ -71,6 +71,23 @@ private:
     SoMaterial* m_material;
 };
 
+// Holds the last reference to a node.
+class Holding : public LoggingCommand
+{
+public:
+    Holding(Log& log, SoRef<SoMaterial> material)
+        : LoggingCommand(log, "hold")
+        , m_holdLog(log)
+        , m_material(std::move(material))
+    {
+    }
+    ~Holding() override { m_holdLog.push_back("gone"); }
+
+private:
+    Log& m_holdLog;
+    SoRef<SoMaterial> m_material;
+};
+
 TEST_F(History, RunsACommandOnceAndThenUndoesAndRedoesIt)
 {
     log("a");
@@ -342,6 +359,19 @@ TEST_F(History, ForgettingTheStepsForgetsNoEdits)
     stack().setClean();
     m_services.history().clear();
     EXPECT_TRUE(stack().isClean());
+}
+
+// While the stack deletes its entries it still lists them.
+TEST_F(History, NodesMayGoWithTheStepsOfAStackThatIsCleared)
+{
+    SoRef<SoMaterial> other = new SoMaterial;
+    setTransparency(*other, 0.5F);
+    m_services.executeCommand(new Holding(m_log, new SoMaterial));
+    ASSERT_EQ(stack().count(), 2);
+    stack().clear();
+    EXPECT_EQ(stack().count(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_log, (Log{"execute hold", "gone"}));
 }
 
 TEST_F(History, ReportsEveryAction)
