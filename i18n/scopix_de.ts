@@ -1112,6 +1112,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Dokumentation</translation>
     </message>
     <message>
+        <source>Older steps were dropped to keep within %1 MiB</source>
+        <translation>Ältere Schritte wurden verworfen, um unter %1 MiB zu bleiben</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
         <source>Nothing can be edited while the values before the edits show; press B in the view to see the present ones.</source>
         <translation>Solange die Werte vor den Änderungen zu sehen sind, lässt sich nichts ändern; drücke B in der Ansicht, um die jetzigen zu sehen.</translation>
     </message>
@@ -1494,14 +1502,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>History</source>
         <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>Older steps were dropped to keep within %1 MiB</source>
-        <translation>Ältere Schritte wurden verworfen, um unter %1 MiB zu bleiben</translation>
-    </message>
-    <message>
-        <source>Unchanged</source>
-        <translation>Unverändert</translation>
     </message>
     <message>
         <source>&amp;File</source>

@@ -1112,6 +1112,14 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Döçûméñţàţîöñ ~~~~~]</translation>
     </message>
     <message>
+        <source>Older steps were dropped to keep within %1 MiB</source>
+        <translation>[Öldéŕ šţépš wéŕé dŕöppéd ţö ķéép wîţĥîñ %1 MîB ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>[Ûñçĥàñĝéd ~~~~]</translation>
+    </message>
+    <message>
         <source>Nothing can be edited while the values before the edits show; press B in the view to see the present ones.</source>
         <translation>[Ñöţĥîñĝ çàñ bé édîţéd wĥîlé ţĥé vàlûéš béföŕé ţĥé édîţš šĥöw; pŕéšš B îñ ţĥé vîéw ţö šéé ţĥé pŕéšéñţ öñéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1494,14 +1502,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>History</source>
         <translation>[Ĥîšţöŕý ~~~]</translation>
-    </message>
-    <message>
-        <source>Older steps were dropped to keep within %1 MiB</source>
-        <translation>[Öldéŕ šţépš wéŕé dŕöppéd ţö ķéép wîţĥîñ %1 MîB ~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Unchanged</source>
-        <translation>[Ûñçĥàñĝéd ~~~~]</translation>
     </message>
     <message>
         <source>&amp;File</source>

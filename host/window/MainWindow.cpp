@@ -21,6 +21,7 @@
 #include "text/NodeText.h"
 #include "theme/FocusRing.h"
 #include "theme/SvgIcon.h"
+#include "undo/HistoryView.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
 #include "window/BranchFiles.h"
@@ -70,7 +71,6 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
-#include <QUndoView>
 
 namespace scopix
 {
@@ -217,14 +217,8 @@ void MainWindow::makeDocks()
     m_treeDock = addDock(m_scenePanel, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
     m_tree->setAccessibleName(tr("Scene"));
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
-    auto* history = new QUndoView(&m_services.undoStack());
-    history->setObjectName(QStringLiteral("history"));
-    showHistoryStart(*history);
-    connect(&m_services.history(), &UndoHistory::droppedOldSteps, history,
-            [this, history] { showHistoryStart(*history); });
-    connect(&m_files.getScenes(), &OpenScenes::rootChanged, history,
-            [this, history] { showHistoryStart(*history); });
-    history->setFrameShape(QFrame::NoFrame);
+    auto* history = new HistoryView(m_services.history());
+    connect(&m_files.getScenes(), &OpenScenes::rootChanged, history, &HistoryView::showStart);
     m_historyDock = addDock(history, tr("History"), QStringLiteral("historyDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_fieldsDock, m_historyDock);
     m_changes = new SceneChanges(*this, m_services, m_files, m_notifier);
@@ -238,16 +232,6 @@ void MainWindow::makeDocks()
     m_fieldsDock->raise();
     resizeDocks({m_treeDock, m_fieldsDock}, {SideWidth, SideWidth}, Qt::Horizontal);
     resizeDocks({m_treeDock, m_fieldsDock}, {430, 290}, Qt::Vertical);
-}
-
-// The row before the first step.
-void MainWindow::showHistoryStart(QUndoView& view) const
-{
-    const UndoHistory& history = m_services.history();
-    const auto limit = static_cast<qulonglong>(history.memoryLimit() >> 20);
-    view.setEmptyLabel(history.hasDroppedOldSteps()
-                           ? tr("Older steps were dropped to keep within %1 MiB").arg(limit)
-                           : tr("Unchanged"));
 }
 
 void MainWindow::makeFileMenu()

@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class QUndoView;
 class SoField;
 
 namespace scopix
@@ -110,7 +109,6 @@ protected:
 private:
     QSize firstSize() const;
     void makeDocks();
-    void showHistoryStart(QUndoView& view) const;
     void makeFileMenu();
     void makeEditMenu();
     void makeNodeMenu();
