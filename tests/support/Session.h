@@ -3,6 +3,8 @@
 
 #include "app/HostSession.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -57,7 +59,7 @@ public:
         window.resize(1000, 700);
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(waitForActive(&window));
         settle();
     }
 
@@ -138,7 +140,7 @@ public:
     {
         for (int round = 0; round < 3; ++round) {
             QCoreApplication::processEvents();
-            EXPECT_TRUE(QTest::qWaitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
+            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

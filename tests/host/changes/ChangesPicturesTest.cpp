@@ -3,6 +3,8 @@
 // the documentation.
 #include "ChangeParts.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/actions/SoSearchAction.h>
 
 #include <QTemporaryDir>
@@ -95,7 +97,7 @@ TEST_F(ChangesPictures, OfAComparisonWithAnotherFile)
     ASSERT_TRUE(SoSceneFile::write(window.getScene(), path.toStdString(), error)) << error;
     makeChanges();
     changes.compareWith(path);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return changes.isComparing(); }));
+    ASSERT_TRUE(waitFor([this] { return changes.isComparing(); }));
     settle();
     EXPECT_GT(list.model()->rowCount(), 4);
     keep("changes-compare", window);

@@ -6,6 +6,7 @@
 
 #include <scopix/editing/SpxFieldEdit.h>
 #include <support/RandomWalk.h>
+#include <support/Waiting.h>
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -110,7 +111,7 @@ protected:
     void takeOver()
     {
         changes.compareWith(m_file);
-        if (!QTest::qWaitFor([this] { return changes.isComparing(); }))
+        if (!waitFor([this] { return changes.isComparing(); }))
             return;
         settle();
         if (list.model()->rowCount() > 0) {

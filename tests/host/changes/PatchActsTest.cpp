@@ -4,6 +4,8 @@
 #include "ChangeParts.h"
 #include "window/SceneFiles.h"
 
+#include <support/Waiting.h>
+
 #include <QClipboard>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -211,7 +213,7 @@ TEST_F(Patches, AFileIsComparedAndTakenOverLineByLine)
     setWidth(3);
     removeBall();
     changes.compareWith(fileOf("other.xsg"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return changes.isComparing(); }));
+    ASSERT_TRUE(waitFor([this] { return changes.isComparing(); }));
     EXPECT_EQ(rows().size(), 2);
     EXPECT_EQ(rowWith("/left/box.width", ChangesModel::BeforeColumn).data().toString(), "default");
     EXPECT_EQ(button("changesRevert").text(), "Take Over");
@@ -242,7 +244,7 @@ TEST_F(Patches, AFileThatHasChangedIsReloadedAndTheEditsMadeAgain)
     write(fileOf("scene.xsg"), theirs);
     done.clear();
     changes.reloadAndReapply();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !done.isEmpty(); }));
     EXPECT_FLOAT_EQ(named<SoMaterial>("paint").transparency.getValue(), 0.75F);
     EXPECT_FLOAT_EQ(named<SoCube>("box").width.getValue(), 3);
     EXPECT_EQ(outline(), "top(paint left(box Cube) right)");

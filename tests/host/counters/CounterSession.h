@@ -6,6 +6,8 @@
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QtTest>
@@ -71,8 +73,8 @@ public:
         QSignalSpy opened(&m_host.window(), &HostWindow::openFinished);
         m_host.window().resize(1240, 820);
         m_host.start(CommandLine::parse({"scopix", SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"}));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }, 60000));
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_host.window()));
+        EXPECT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+        EXPECT_TRUE(waitForExposed(&m_host.window()));
         EXPECT_EQ(m_boxes.take(), QStringList());
     }
 
@@ -126,7 +128,7 @@ public:
         QTest::mousePress(handle(), Qt::LeftButton, {}, from);
         hand.start(5);
         QTest::mouseMove(handle(), from + QPoint(30, 0));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return moves.count() >= 2 && !QGuiApplication::mouseButtons(); }));
+        EXPECT_TRUE(waitFor([&] { return moves.count() >= 2 && !QGuiApplication::mouseButtons(); }));
     }
 
     /// Turns the model by one long drag, to and fro, until `enough` is true.
@@ -136,13 +138,11 @@ public:
         const QPoint middle = middleOf(&window().getView());
         QTest::mousePress(handle(), Qt::LeftButton, {}, middle);
         int step = 0;
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] {
-                const int right = std::abs(++step % 100 - 50);
-                QTest::mouseMove(handle(), middle + QPoint(right, step % 7));
-                return enough();
-            },
-            60000));
+        EXPECT_TRUE(waitFor([&] {
+            const int right = std::abs(++step % 100 - 50);
+            QTest::mouseMove(handle(), middle + QPoint(right, step % 7));
+            return enough();
+        }));
         QTest::mouseRelease(handle(), Qt::LeftButton, {}, middle);
     }
 

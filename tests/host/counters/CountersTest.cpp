@@ -2,6 +2,8 @@
 // What a user does with the counters, from the first drag to the next start of the program.
 #include "CounterSession.h"
 
+#include <support/Waiting.h>
+
 #include <QColorDialog>
 
 namespace
@@ -112,7 +114,7 @@ TEST(Counters, OrbitingTheModelMovesFramesAndDrawCalls)
     CounterSession session;
     session.click("m_text");
     // Nothing moves: once the window has come to rest, nothing is drawn.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return session.shownValue("Frames") == 0; }, 60000));
+    ASSERT_TRUE(waitFor([&] { return session.shownValue("Frames") == 0; }));
     double frames = 0;
     double drawCalls = 0;
     session.orbit([&] {
@@ -122,7 +124,7 @@ TEST(Counters, OrbitingTheModelMovesFramesAndDrawCalls)
     });
     EXPECT_GT(frames, 0);
     EXPECT_GT(drawCalls, frames) << "the model takes several calls";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return session.shownValue("Frames") == 0; }, 60000));
+    EXPECT_TRUE(waitFor([&] { return session.shownValue("Frames") == 0; }));
 }
 
 TEST(Counters, EachViewShowsEachCounterInItsColour)
@@ -143,7 +145,7 @@ TEST(Counters, EachViewShowsEachCounterInItsColour)
     while (samples.count() < enough) {
         const int until = samples.count() + 6;
         session.orbit([&] { return samples.count() >= until; });
-        ASSERT_TRUE(QTest::qWaitFor([&] { return samples.count() >= until + 3; }));
+        ASSERT_TRUE(waitFor([&] { return samples.count() >= until + 3; }));
     }
     for (const auto& [button, view, picture] : {std::array{"m_curve", "m_curvePlot", "counters-curves"},
                                                 std::array{"m_graph", "m_graphPlot", "counters-bars"},
@@ -174,13 +176,13 @@ TEST(Counters, TheManagerMakesAProfileThatIsUsedAtOnce)
     CounterSession session;
     session.click("m_openConfigButton");
     auto* manager = session.dock()->findChild<QMainWindow*>();
-    ASSERT_TRUE(manager && QTest::qWaitForWindowExposed(manager));
+    ASSERT_TRUE(manager && waitForExposed(manager));
     const auto click = [&](const char* button) {
         QTest::mouseClick(manager->findChild<QPushButton*>(button), Qt::LeftButton);
     };
     click("m_addProfile");
     auto* dialog = manager->findChild<QDialog*>();
-    ASSERT_TRUE(dialog && QTest::qWaitForWindowExposed(dialog));
+    ASSERT_TRUE(dialog && waitForExposed(dialog));
     QTest::keyClicks(dialog->findChild<QLineEdit*>("m_name"), "Mine");
     QTest::keyClick(dialog->findChild<QLineEdit*>("m_name"), Qt::Key_Return);
     auto* all = manager->findChild<QTableWidget*>("m_listCounter");

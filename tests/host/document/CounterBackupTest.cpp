@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "document/CounterBackup.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -63,7 +65,7 @@ TEST_F(CounterCopy, FollowsTheFile)
     const QStringList copies = QDir(folderOfCopy).entryList(QDir::Files);
     ASSERT_EQ(copies.size(), 1);
     const QString copy = folderOfCopy + '/' + copies[0];
-    EXPECT_TRUE(QTest::qWaitFor([&] { return contentOf(copy) == Better; }));
+    EXPECT_TRUE(waitFor([&] { return contentOf(copy) == Better; }));
 }
 
 TEST_F(CounterCopy, IsOfWhatWasWrittenLast)

@@ -2,6 +2,8 @@
 #include "document/FileStamp.h"
 #include "document/FileWatch.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -93,9 +95,7 @@ TEST_F(Stamp, WatchNoticesWhatBecomesOfAFile)
     FileWatch watch;
     const QSignalSpy noticed(&watch, &FileWatch::noticed);
     watch.watch(path());
-    const auto isNoticed = [&](int before) {
-        return QTest::qWaitFor([&] { return noticed.count() > before; });
-    };
+    const auto isNoticed = [&](int before) { return waitFor([&] { return noticed.count() > before; }); };
     int before = noticed.count();
     write("two");
     EXPECT_TRUE(isNoticed(before)) << "written";

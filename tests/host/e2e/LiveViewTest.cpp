@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The 3D view of a running host, while the scene is edited, saved, and changed by the application.
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
@@ -37,7 +38,7 @@ protected:
     {
         QSignalSpy done(&window(), &HostWindow::openFinished);
         window().openFile(path);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !done.isEmpty(); }, 60000));
+        EXPECT_TRUE(waitFor([&] { return !done.isEmpty(); }));
         Session::settle();
         return done.value(0).value(0).toBool();
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Playing a scene's clips in the window, which is no edit.
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
@@ -65,7 +66,7 @@ protected:
         file.close();
         QSignalSpy done(&window(), &HostWindow::openFinished);
         window().openFile(file.fileName());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !done.isEmpty(); }, 60000));
+        ASSERT_TRUE(waitFor([&] { return !done.isEmpty(); }));
         Session::settle();
     }
     template <class Node>
@@ -87,7 +88,7 @@ protected:
     {
         // What comes and goes over the window may have taken the focus.
         window().activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), 60000));
+        ASSERT_TRUE(waitForActive(&window()));
         window().getView().setFocus();
         QTest::keyClick(&window().getView(), key, modifiers);
         Session::settle();
@@ -168,7 +169,7 @@ TEST_F(Playing, RepaintsNothingWhilePaused)
     pass(0.5);
     press(Qt::Key_Space);
     Session::settle();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !window().getView().isDrawing(); }, 60000));
+    ASSERT_TRUE(waitFor([&] { return !window().getView().isDrawing(); }));
     const int drawn = window().getView().getDrawCount();
     window().getView().setAnimated(true);
     EXPECT_FALSE(window().getView().isAnimating());
@@ -182,7 +183,7 @@ TEST_F(Playing, DrawsWhileItGoesOn)
     press(Qt::Key_Space);
     EXPECT_TRUE(window().getView().isAnimating());
     const int drawn = window().getView().getDrawCount();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window().getView().getDrawCount() > drawn + 3; }, 60000));
+    EXPECT_TRUE(waitFor([&] { return window().getView().getDrawCount() > drawn + 3; }));
     EXPECT_NE(radius(), 2);
     press(Qt::Key_Space, Qt::ShiftModifier);
     EXPECT_FALSE(window().getView().isAnimating());

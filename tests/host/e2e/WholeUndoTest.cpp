@@ -10,6 +10,7 @@
 
 #include <support/PlainModel.h>
 #include <support/SoFieldGallery.h>
+#include <support/Waiting.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/fields/SoMFColor.h>
 #include <xsg/fields/SoMFFloat.h>
@@ -45,7 +46,7 @@ protected:
     {
         QSignalSpy done(&window(), &HostWindow::openFinished);
         window().openFile(path);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !done.isEmpty(); }, 60000));
+        ASSERT_TRUE(waitFor([&] { return !done.isEmpty(); }));
         ASSERT_TRUE(done.value(0).value(0).toBool());
         Session::settle();
     }
@@ -238,11 +239,11 @@ TEST_F(WholeUndo, AnAnimatedFieldThatIsSelectedIsNoEdit)
     ASSERT_TRUE(session.editorShown());
     const auto changes = field->getChangeCount();
     window().getView().setAnimated(true);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return field->getChangeCount() > changes + 5; }, 60000));
+    ASSERT_TRUE(waitFor([&] { return field->getChangeCount() > changes + 5; }));
     // The held button of the view changes nothing about that.
     QTest::mousePress(&window().getView(), Qt::LeftButton, {}, {100, 100});
     const auto held = field->getChangeCount();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return field->getChangeCount() > held + 5; }, 60000));
+    ASSERT_TRUE(waitFor([&] { return field->getChangeCount() > held + 5; }));
     QTest::mouseRelease(&window().getView(), Qt::LeftButton, {}, {100, 100});
     Session::settle();
     EXPECT_EQ(session.stack().count(), 0);

@@ -7,6 +7,7 @@
 #include "preferences/PreferencesDialog.h"
 #include "theme/Theme.h"
 
+#include <support/Waiting.h>
 #include <support/WidgetWalk.h>
 
 #include <QtWidgets>
@@ -158,7 +159,7 @@ protected:
         if (wanted.isEmpty())
             return;
         root.window()->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(root.window()));
+        EXPECT_TRUE(waitForActive(root.window()));
         wanted.first()->clearFocus(); // where it has it already, it was not brought by keys
         wanted.first()->setFocus(Qt::ShortcutFocusReason);
         std::string way; // that Tab went

@@ -6,6 +6,8 @@
 #include "window/PaletteActs.h"
 #include "window/SettingsActs.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <gtest/gtest.h>
@@ -47,7 +49,7 @@ protected:
         window->resize(1600, 1000);
         window->show();
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        EXPECT_TRUE(waitForActive(window));
         window->enterInteractiveMode();
         settle();
     }
@@ -55,7 +57,7 @@ protected:
     {
         for (int round = 0; round < 3; ++round) {
             QCoreApplication::processEvents();
-            EXPECT_TRUE(QTest::qWaitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
+            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

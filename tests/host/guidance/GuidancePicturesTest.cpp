@@ -8,6 +8,8 @@
 #include "start/StartPage.h"
 #include "start/Tour.h"
 
+#include <support/Waiting.h>
+
 #include <QAction>
 #include <QLineEdit>
 
@@ -40,7 +42,7 @@ TEST_F(GuidancePictures, OfTheStartPage)
         const QString file = StartPage::samples().value(sample);
         ASSERT_TRUE(open(file));
         window->getFiles().getRecent().add(file);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !FilePictures().find(file).isNull(); }, 60000));
+        EXPECT_TRUE(waitFor([&] { return !FilePictures().find(file).isNull(); }));
     }
     act("startPageAction")->trigger();
     keep("start-page", *window);

@@ -8,6 +8,8 @@
 #include "window/SettingsActs.h"
 #include "window/Welcome.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/sensors/SoSensorQueue.h>
 
 #include <gtest/gtest.h>
@@ -32,7 +34,7 @@ protected:
         auto made = std::make_unique<scopix::MainWindow>(services, notifier);
         made->show();
         made->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(made.get()));
+        EXPECT_TRUE(waitForActive(made.get()));
         return made;
     }
     /// A user who comes back: what was set is read again.
@@ -49,7 +51,7 @@ protected:
         const auto connection = QObject::connect(window.get(), &scopix::HostWindow::openFinished,
                                                  [&](bool opened) { isDone = true, isOpened = opened; });
         window->openFile(path);
-        const bool came = QTest::qWaitFor([&] { return isDone; }, 60000);
+        const bool came = waitFor([&] { return isDone; });
         QObject::disconnect(connection);
         return came && isOpened;
     }
@@ -58,7 +60,7 @@ protected:
     {
         for (int round = 0; round < 3; ++round) {
             QCoreApplication::processEvents();
-            EXPECT_TRUE(QTest::qWaitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
+            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

@@ -6,6 +6,8 @@
 #include "preferences/PreferencesDialog.h"
 #include "viewport/SceneView.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
@@ -38,7 +40,7 @@ protected:
     QString first() { return palette().getModel().index(0).data().toString(); }
     bool finds(const char* text, const char* place)
     {
-        return QTest::qWaitFor([&] {
+        return waitFor([&] {
             const PaletteModel& model = palette().getModel();
             for (int row = 0; row < model.rowCount(); ++row)
                 if (model.entry(row).text == QString::fromUtf8(text) &&

@@ -10,6 +10,8 @@
 #include "start/Tour.h"
 #include "viewport/SceneView.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 
 #include <QClipboard>
@@ -61,14 +63,13 @@ TEST_F(StartPageTest, OpensASampleByClickAndByKey)
     FileGallery& samples = gallery("Samples");
     samples.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&samples, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !page().isVisible(); }, 60000));
+    EXPECT_TRUE(waitFor([this] { return !page().isVisible(); }));
     EXPECT_TRUE(window->windowTitle().contains(QStringLiteral("showcase.xsg")));
     act("startPageAction")->trigger();
     ASSERT_TRUE(page().isVisible());
     const QRect second = samples.visualItemRect(samples.item(1));
     QTest::mouseClick(samples.viewport(), Qt::LeftButton, {}, second.center());
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return window->windowTitle().contains(QStringLiteral("lighthouse.glb")); }, 60000));
+    EXPECT_TRUE(waitFor([this] { return window->windowTitle().contains(QStringLiteral("lighthouse.glb")); }));
 }
 
 TEST_F(StartPageTest, EachSampleHasAPictureAndOpens)
@@ -87,7 +88,7 @@ TEST_F(StartPageTest, ShowsAPictureOfWhatWasOpen)
     window->enterInteractiveMode();
     const QString file = StartPage::samples().value(3);
     ASSERT_TRUE(open(file));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !FilePictures().find(file).isNull(); }, 60000));
+    EXPECT_TRUE(waitFor([&] { return !FilePictures().find(file).isNull(); }));
     window->getFiles().getRecent().add(file);
     act("startPageAction")->trigger();
     EXPECT_EQ(gallery("Recent files").files(), QStringList{file});
@@ -146,8 +147,7 @@ TEST_F(StartPageTest, AFileIsDroppedOnAFloatingDockToo)
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(dock, &drop);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [this] { return window->windowTitle().contains(QStringLiteral("crate.gltf")); }, 60000));
+    EXPECT_TRUE(waitFor([this] { return window->windowTitle().contains(QStringLiteral("crate.gltf")); }));
 }
 
 TEST_F(StartPageTest, EmptyListsSayWhatTheyAreFor)

@@ -6,6 +6,8 @@
 #include "reader/LeftOut.h"
 #include "reader/ModelReader.h"
 
+#include <support/Waiting.h>
+
 #include <assimp/scene.h>
 
 #include <QJsonArray>
@@ -261,7 +263,7 @@ TEST_F(LeftOut, ComesWithTheScene)
     bool isFinished = false;
     QObject::connect(&import, &ModelImport::finished, [&] { isFinished = true; });
     import.start(files.write("tent.obj", "mtllib gone.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return isFinished; }, 60000));
+    ASSERT_TRUE(waitFor([&] { return isFinished; }));
     ASSERT_EQ(import.notes().size(), 1);
     EXPECT_TRUE(import.notes().first().contains("gone.mtl"));
 }

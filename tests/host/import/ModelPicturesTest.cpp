@@ -6,6 +6,8 @@
 #include "import/SceneBuilder.h"
 #include "reader/ModelReader.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoPreferences.h>
 #include <xsg/nodes/properties/SoTexture2.h>
@@ -61,7 +63,7 @@ TEST_F(ModelPictures, OfAModelThatIsOpenedAreToldOfInOneLineEach)
     ModelImport import(nullptr);
     QObject::connect(&import, &ModelImport::finished, [&](const SoRef<SoSeparator>& s) { scene = s; });
     import.start(crateWith(100));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return static_cast<bool>(scene); }, 60000));
+    ASSERT_TRUE(waitFor([&] { return static_cast<bool>(scene); }));
     ASSERT_EQ(import.notes().size(), 1);
     EXPECT_TRUE(import.notes().front().contains("“crate.png” of 100 × 100 pixels is left out"))
         << qPrintable(import.notes().front());

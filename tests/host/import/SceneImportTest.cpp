@@ -4,6 +4,8 @@
 #include "import/SceneImport.h"
 #include "model/GradualRelease.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SoSceneFile.h>
@@ -108,7 +110,7 @@ TEST_F(SceneReadingInTurns, CancelEndsItAndGivesBackWhatItTook)
 {
     const auto nodesAlive = [] { return xsg::feeds.nodesAlive.get(); };
     const auto isReleasing = [] { return qApp->findChild<QObject*>("gradualRelease") != nullptr; };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !isReleasing(); }, 60000)) << "of the tests before";
+    ASSERT_TRUE(waitFor([&] { return !isReleasing(); })) << "of the tests before";
     const auto before = nodesAlive();
     import.start(write(Many));
     ASSERT_TRUE(dialog());
@@ -118,7 +120,7 @@ TEST_F(SceneReadingInTurns, CancelEndsItAndGivesBackWhatItTook)
     emit dialog()->canceled(); // what its button and Escape do
     EXPECT_EQ(told, QStringList{"cancelled"});
     EXPECT_TRUE(isReleasing()) << "not all at once";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isReleasing(); }, 60000));
+    EXPECT_TRUE(waitFor([&] { return !isReleasing(); }));
     EXPECT_EQ(nodesAlive(), before);
     EXPECT_EQ(told, QStringList{"cancelled"});
     EXPECT_FALSE(scene);

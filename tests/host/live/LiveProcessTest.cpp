@@ -8,6 +8,8 @@
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/fields/SoSFFloat.h>
 
@@ -66,12 +68,12 @@ protected:
             pending.pop_back();
             bool isHere = false;
             scene.whenUnfolded(*node, [&] { isHere = true; });
-            EXPECT_TRUE(QTest::qWaitFor([&] { return isHere; }));
+            EXPECT_TRUE(waitFor([&] { return isHere; }));
             found = dynamic_cast<SoSFFloat*>(node->getField(name));
             if (found) {
                 bool isShown = false;
                 scene.whenShown(*node, [&] { isShown = true; });
-                EXPECT_TRUE(QTest::qWaitFor([&] { return isShown; }));
+                EXPECT_TRUE(waitFor([&] { return isShown; }));
             }
             for (SoNode* child : node->getChildren()) {
                 if (auto* live = dynamic_cast<LiveNode*>(child))
@@ -104,9 +106,9 @@ TEST_F(LiveProcess, IsListedFoundAndEdited)
     const float before = height->getValue();
     height->setValue(before + 1);
     const auto& changes = scene->getEdits().getChanges();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return changes.getAll().size() == 1; }));
+    EXPECT_TRUE(waitFor([&] { return changes.getAll().size() == 1; }));
     height->setValue(before);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return changes.isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return changes.isEmpty(); }));
 }
 
 TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
@@ -124,13 +126,13 @@ TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
                 QCoreApplication::processEvents();
         }
         process.kill();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return scene->getState() == LiveScene::State::Ended; }));
+        ASSERT_TRUE(waitFor([&] { return scene->getState() == LiveScene::State::Ended; }));
         process.waitForFinished();
         EXPECT_FALSE(scene->getEnd().isEmpty());
         const SoRef<SoFieldContainer> node(height->getContainer());
         EXPECT_FALSE(MirroredNode::of(node.get())->refusal().isEmpty());
         height->setValue(1000);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return height->getValue() < 1000; }));
+        EXPECT_TRUE(waitFor([&] { return height->getValue() < 1000; }));
     }
 }
 
@@ -140,7 +142,7 @@ TEST_F(LiveProcess, RunsOnWhenItWasLaunchedAndWeAreGone)
     QSignalSpy found(launch.get(), &LiveLaunch::found);
     QSignalSpy failed(launch.get(), &LiveLaunch::failed);
     launch->start(mill(), {});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !found.isEmpty() || !failed.isEmpty(); }, 20000));
+    ASSERT_TRUE(waitFor([&] { return !found.isEmpty() || !failed.isEmpty(); }));
     ASSERT_EQ(found.size(), 1) << failed.value(0).value(0).toString().toStdString();
     launch.reset();
     QString problem;
@@ -157,7 +159,7 @@ TEST_F(LiveProcess, IsToldOfWhereItCannotBeLaunchedOrEndsAtOnce)
     ASSERT_EQ(failed.size(), 1);
     EXPECT_TRUE(failed.last().first().toString().contains("there is no such program"));
     launch.start({QStringLiteral("/bin/true")}, {});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return failed.size() == 2; }, 20000));
+    ASSERT_TRUE(waitFor([&] { return failed.size() == 2; }));
     EXPECT_TRUE(failed.last().first().toString().contains("ended before"));
 }
 
@@ -168,21 +170,21 @@ TEST_F(LiveProcess, OffersTheChangesOfAKilledRunToTheNextOne)
     LiveActs& acts = window.getLive();
     QSignalSpy attached(&acts, &LiveActs::attached);
     acts.attachTo(start());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 1; }));
+    ASSERT_TRUE(waitFor([&] { return attached.size() == 1; }));
     SoSFFloat* height = findField(*acts.getScene(), "height");
     ASSERT_TRUE(height);
     height->setValue(4.75F);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     process.kill();
     process.waitForFinished();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return acts.getScene()->getState() == LiveScene::State::Ended; }));
+    ASSERT_TRUE(waitFor([&] { return acts.getScene()->getState() == LiveScene::State::Ended; }));
     acts.attachTo(start());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }));
+    ASSERT_TRUE(waitFor([&] { return attached.size() == 2; }));
     auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
     ASSERT_TRUE(box);
     EXPECT_TRUE(box->text().contains("1 change")) << box->text().toStdString();
     box->buttons().first()->click();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     height = findField(*acts.getScene(), "height");
     ASSERT_TRUE(height);
     EXPECT_EQ(height->getValue(), 4.75F);
@@ -198,27 +200,27 @@ TEST_F(LiveProcess, IsLaunchedAgainFromTheWindowWithTheChangesOfTheLastRun)
     ASSERT_TRUE(again);
     EXPECT_FALSE(again->isEnabled());
     acts.launch(mill());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 1; }, 20000));
+    ASSERT_TRUE(waitFor([&] { return attached.size() == 1; }));
     EXPECT_TRUE(again->isEnabled());
     const auto pid = [&] { return static_cast<pid_t>(acts.getScene()->getLink().program().pid); };
     const pid_t first = pid();
     SoSFFloat* height = findField(*acts.getScene(), "height");
     ASSERT_TRUE(height);
     height->setValue(4.75F);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     auto* offer = window.findChild<QPushButton*>("liveOffer");
     ASSERT_TRUE(offer);
     EXPECT_TRUE(offer->isHidden());
     ASSERT_EQ(::kill(first, SIGKILL), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !offer->isHidden(); }));
+    ASSERT_TRUE(waitFor([&] { return !offer->isHidden(); }));
     offer->click();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return attached.size() == 2; }, 20000));
+    ASSERT_TRUE(waitFor([&] { return attached.size() == 2; }));
     EXPECT_NE(pid(), first);
     EXPECT_TRUE(offer->isHidden());
     auto* box = window.findChild<QMessageBox*>("applyLiveChanges");
     ASSERT_TRUE(box);
     box->buttons().first()->click();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     EXPECT_EQ(::kill(pid(), SIGKILL), 0);
 }
 

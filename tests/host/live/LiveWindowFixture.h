@@ -12,6 +12,8 @@
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -43,7 +45,7 @@ protected:
     {
         done.clear();
         window.openLive({{}, program.socket(), {}});
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+        ASSERT_TRUE(waitFor([this] { return !done.isEmpty(); }));
         ASSERT_TRUE(done.first()) << told.join("\n").toStdString();
     }
     void settle()
@@ -53,7 +55,7 @@ protected:
     }
     bool wait(const std::function<bool()>& is)
     {
-        return QTest::qWaitFor([&] {
+        return waitFor([&] {
             settle();
             return is();
         });

@@ -17,6 +17,8 @@
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/fields/SoMFString.h>
 #include <xsg/fields/SoSFBitMask.h>
@@ -397,9 +399,9 @@ TEST_F(LiveWindow, NoticesAProgramThatHangsAndOneThatGoesOn)
     attach();
     const LiveScene& scene = *window.getLive().getScene();
     program.frames.stop();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return scene.getState() == LiveScene::State::Silent; }, 20000));
+    EXPECT_TRUE(waitFor([&] { return scene.getState() == LiveScene::State::Silent; }));
     program.frames.start(0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return scene.getState() == LiveScene::State::Attached; }, 20000));
+    EXPECT_TRUE(waitFor([&] { return scene.getState() == LiveScene::State::Attached; }));
 }
 
 TEST_F(LiveWindow, AttachesToWhatIsChosenFromTheListWithPictures)
@@ -413,11 +415,11 @@ TEST_F(LiveWindow, AttachesToWhatIsChosenFromTheListWithPictures)
             const QImage icon = list->item(0)->icon().pixmap(list->iconSize()).toImage();
             return icon.pixelColor(icon.rect().center()).alpha() > 0;
         };
-        EXPECT_TRUE(QTest::qWaitFor(isPainted));
+        EXPECT_TRUE(waitFor(isPainted));
         QTest::keyClick(list, Qt::Key_Return);
     });
     window.getLive().askForProgram();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !done.isEmpty(); }));
     EXPECT_TRUE(done.first());
     EXPECT_NE(window.getLive().getScene(), nullptr);
 }
@@ -425,7 +427,7 @@ TEST_F(LiveWindow, AttachesToWhatIsChosenFromTheListWithPictures)
 TEST_F(LiveWindow, SaysWhyItCannotAttach)
 {
     window.openLive({{}, QStringLiteral("nothing of this name"), {}});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !done.isEmpty(); }));
     EXPECT_FALSE(done.first());
     EXPECT_TRUE(told.last().contains("nothing of this name"));
     EXPECT_EQ(window.getLive().getScene(), nullptr);

@@ -6,6 +6,8 @@
 #include "plugins/PluginTrial.h"
 #include "plugins/TryAgainMenu.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QtTest>
@@ -102,7 +104,7 @@ TEST_F(PluginGuarded, AGoodOneIsTriedOnceAndThenKnown)
     EXPECT_FALSE(records().find(library));
     EXPECT_TRUE(host.manager.loadPlugin(library));
     EXPECT_FALSE(records().find(library)) << "before the first turn of the event loop";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return records().find(library).has_value(); }));
+    EXPECT_TRUE(waitFor([&] { return records().find(library).has_value(); }));
     EXPECT_FALSE(records().find(library)->isQuarantined);
     EXPECT_EQ(QDir(host.folder.filePath("plugins")).entryList(QDir::Files).filter("starting"), QStringList());
     EXPECT_EQ(host.failures, QStringList());
@@ -151,9 +153,9 @@ TEST_F(PluginGuarded, TheMenuTriesAgain)
     ASSERT_EQ(menu.actions().size(), 1);
     EXPECT_EQ(menu.actions().first()->text(), "libGood.so");
     menu.actions().first()->trigger();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return host.manager.pluginNames().contains("Test"); }));
+    EXPECT_TRUE(waitFor([&] { return host.manager.pluginNames().contains("Test"); }));
     EXPECT_TRUE(tools.actions().isEmpty());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return records().find(library).has_value(); }));
+    EXPECT_TRUE(waitFor([&] { return records().find(library).has_value(); }));
     EXPECT_FALSE(records().find(library)->isQuarantined);
 }
 

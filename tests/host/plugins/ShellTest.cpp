@@ -3,6 +3,8 @@
 
 #include "shell/ToolsMenu.h"
 
+#include <support/Waiting.h>
+
 #include <scopix/SpxContextMenus.h>
 #include <scopix/SpxEditor.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -306,7 +308,7 @@ TEST_F(Shell, ADockThatShowsItselfStaysBehindTheOneWithTheFocus)
     ASSERT_EQ(m_window.tabifiedDockWidgets(&m_one.m_dock).size(), 1);
     m_two.hide();
     m_window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    ASSERT_TRUE(waitForActive(&m_window));
     m_one.m_dock.widget()->setFocus();
     m_two.show();
     QCoreApplication::processEvents();

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program ends in the middle of unsaved edits without having asked, and gives them back.
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QtTest>
@@ -86,7 +88,7 @@ TEST_F(Crash, TheNextStartGivesTheEditsBack)
     {
         QProcess killed;
         start(killed, "edit", {scene, "--select", "Paint.transparency"});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return kept().contains("transparency: 0.5"); }, 60000));
+        EXPECT_TRUE(waitFor([&] { return kept().contains("transparency: 0.5"); }));
         ::kill(static_cast<pid_t>(killed.processId()), SIGKILL);
         ASSERT_TRUE(killed.waitForFinished());
         ASSERT_EQ(killed.exitStatus(), QProcess::CrashExit);
@@ -171,7 +173,7 @@ TEST_F(Crash, KilledWhileItEditsItGivesBackAWholeScene)
         QProcess program;
         m_count = 0;
         start(program, "count", {scene, "--select", "Paint.transparency"});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !kept().isEmpty(); }, 60000));
+        EXPECT_TRUE(waitFor([&] { return !kept().isEmpty(); }));
         editUpTo(program, m_count + 1 + static_cast<int>(random() % 300));
         ::kill(static_cast<pid_t>(program.processId()), SIGKILL);
         ASSERT_TRUE(program.waitForFinished(60000));

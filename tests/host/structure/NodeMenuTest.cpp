@@ -4,6 +4,8 @@
 #include "panels/TreeRowDelegate.h"
 #include "panels/TypeChooser.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoGroup.h>
 
 namespace
@@ -411,7 +413,7 @@ TEST_F(NodeMenuKeys, SavesABranchAndInsertsIt)
     ASSERT_TRUE(window.getBranchFiles().save(services.getSelectedPaths().value(0).getTail(), path));
     click("Sea");
     window.getBranchFiles().insert(path);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return services.undoStack().count() == 1; }));
+    ASSERT_TRUE(waitFor([this] { return services.undoStack().count() == 1; }));
     settle();
     expectUndoable("Harbour(Sea(Blue Water Island(Hill Roof)) Island(Hill Roof) Sun)");
     EXPECT_FALSE(window.getBranchFiles().save(window.getScene(), folder.filePath("island.txt")));
@@ -421,7 +423,7 @@ TEST_F(NodeMenuKeys, InsertsAModel)
 {
     click("Sea");
     window.getBranchFiles().insert(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/knot.stl"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return services.undoStack().count() == 1; }, 60000));
+    ASSERT_TRUE(waitFor([this] { return services.undoStack().count() == 1; }));
     settle();
     EXPECT_NE(text(), before);
     undo();

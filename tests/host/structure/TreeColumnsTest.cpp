@@ -3,6 +3,8 @@
 #include "panels/NodeFigures.h"
 #include "text/NodeText.h"
 
+#include <support/Waiting.h>
+
 #include <scopix/SpxTreeColumns.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
@@ -46,7 +48,7 @@ protected:
     bool waitForFigures()
     {
         textOf("Street", SceneTreeModel::TrianglesColumn);
-        return QTest::qWaitFor(
+        return waitFor(
             [this] { return textOf("Street", SceneTreeModel::TrianglesColumn) != QStringLiteral("…"); });
     }
     QStringList rowsOf(const char* name) const
@@ -64,7 +66,7 @@ TEST_F(TreeColumnsShown, CountTriangles)
     ASSERT_TRUE(waitForFigures());
     for (const char* name : {"House", "Lamp", "Garage", "Car", "Paint"})
         textOf(name, SceneTreeModel::TrianglesColumn);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !tree.getModel().getFigures().isCounting(); }));
+    ASSERT_TRUE(waitFor([this] { return !tree.getModel().getFigures().isCounting(); }));
     EXPECT_EQ(textOf("Street", SceneTreeModel::TrianglesColumn), "36");
     EXPECT_EQ(textOf("House", SceneTreeModel::TrianglesColumn), "24");
     EXPECT_EQ(textOf("Lamp", SceneTreeModel::TrianglesColumn), "12");
@@ -78,8 +80,7 @@ TEST_F(TreeColumnsShown, FollowTheScene)
     ASSERT_TRUE(waitForFigures());
     click("Lamp");
     key(Qt::Key_Delete);
-    EXPECT_TRUE(
-        QTest::qWaitFor([this] { return textOf("Street", SceneTreeModel::TrianglesColumn) == "24"; }));
+    EXPECT_TRUE(waitFor([this] { return textOf("Street", SceneTreeModel::TrianglesColumn) == "24"; }));
 }
 
 TEST_F(TreeColumnsShown, CountPlaces)
@@ -110,16 +111,12 @@ TEST_F(TreeColumnsShown, SortAndComeBack)
 TEST_F(TreeColumnsShown, SortByWhatIsCountedOnceItIs)
 {
     tree.sortRows(SceneTreeModel::TrianglesColumn, Qt::DescendingOrder);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return rowsOf("Street").mid(0, 2) == QStringList({"House", "Lamp"});
-    }));
+    EXPECT_TRUE(waitFor([this] { return rowsOf("Street").mid(0, 2) == QStringList({"House", "Lamp"}); }));
     tree.sortRows(SceneTreeModel::TrianglesColumn, Qt::AscendingOrder);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return rowsOf("Street").mid(2) == QStringList({"Lamp", "House"});
-    }));
+    EXPECT_TRUE(waitFor([this] { return rowsOf("Street").mid(2) == QStringList({"Lamp", "House"}); }));
     click("Wall");
     key(Qt::Key_D, Qt::ControlModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rowsOf("House").size() == 4; }));
+    EXPECT_TRUE(waitFor([this] { return rowsOf("House").size() == 4; }));
 }
 
 TEST_F(TreeColumnsShown, AreChosenInTheMenuAndKept)

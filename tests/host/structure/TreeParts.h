@@ -13,6 +13,8 @@
 #include "window/MainWindow.h"
 #include "window/NodeEditing.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -27,7 +29,7 @@ protected:
         QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
         QObject::connect(&window, &HostWindow::openFinished, [this](bool opened) { done << opened; });
         window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(waitForActive(&window));
         tree.setFocus();
     }
     ~TreeWindow() override { QGuiApplication::clipboard()->clear(); }
@@ -44,11 +46,11 @@ protected:
     {
         done.clear();
         window.openFile(path);
-        const bool isOpen = QTest::qWaitFor([this] { return !done.isEmpty(); }, 60000) && done.value(0);
+        const bool isOpen = waitFor([this] { return !done.isEmpty(); }) && done.value(0);
         // A dialog that showed how far it is may have taken the focus along.
         window.activateWindow();
         tree.setFocus();
-        return isOpen && QTest::qWaitFor([this] { return tree.hasFocus(); });
+        return isOpen && waitFor([this] { return tree.hasFocus(); });
     }
     std::string text() const { return SoSceneFile::writeText(window.getScene()); }
     std::string outline() const { return outlineOf(window.getScene()); }

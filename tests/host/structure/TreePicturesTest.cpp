@@ -6,6 +6,8 @@
 #include "panels/TreeRowDelegate.h"
 #include "panels/TypeChooser.h"
 
+#include <support/Waiting.h>
+
 #include <QDockWidget>
 
 namespace
@@ -98,7 +100,7 @@ TEST_F(TreePictures, OfItsColumns)
             window.resizeDocks({dock}, {620}, Qt::Horizontal);
     }
     keep("tree-columns", panel()); // asks for the figures
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !tree.getModel().getFigures().isCounting(); }));
+    ASSERT_TRUE(waitFor([this] { return !tree.getModel().getFigures().isCounting(); }));
     settle();
     keep("tree-columns", panel());
 }

@@ -7,6 +7,7 @@
 #include <xsg/fields/SoMFFloat.h>
 
 #include <support/SoFieldGallery.h>
+#include <support/Waiting.h>
 
 #include <QAbstractItemDelegate>
 #include <QSignalSpy>
@@ -373,7 +374,7 @@ protected:
         layout->addWidget(&m_slider);
         m_window.show();
         m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(waitForActive(&m_window));
         pump();
         m_spin.setRange(0, 1'000'000);
         const auto edit = [this](int value) { m_material->transparency.setValue(static_cast<float>(value)); };

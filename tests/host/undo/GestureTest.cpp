@@ -2,6 +2,8 @@
 // One gesture, one undo step: with the events that the user's input makes.
 #include "HostParts.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QtTest>
@@ -31,7 +33,7 @@ protected:
         QObject::connect(&m_button, &QPushButton::clicked, [this] { edit("clicked"); });
         m_window.show();
         m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(waitForActive(&m_window));
         m_line.setFocus();
         pump();
         m_log.clear();

@@ -5,6 +5,8 @@
 
 #include "services/HostServices.h"
 
+#include <support/Waiting.h>
+
 #include <scopix/SpxCommand.h>
 #include <xsg/core/SoFieldContainer.h>
 #include <xsg/fields/SoSFFloat.h>
@@ -12,7 +14,6 @@
 #include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QThread>
 
 #include <functional>
@@ -67,18 +68,4 @@ inline void pump()
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
     }
-}
-
-/// False when the condition does not come true within a minute.
-inline bool waitFor(const std::function<bool()>& condition)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-        if (clock.hasExpired(60000))
-            return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QThread::yieldCurrentThread();
-    }
-    return true;
 }

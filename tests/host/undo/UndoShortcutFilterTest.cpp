@@ -2,6 +2,8 @@
 #include "undo/UndoShortcutFilter.h"
 #include "HostParts.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QtTest>
@@ -27,7 +29,7 @@ protected:
         m_window.addDockWidget(Qt::RightDockWidgetArea, &m_dock);
         m_window.show();
         m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(waitForActive(&m_window));
         m_services.executeCommand(new LoggingCommand(m_log, "edit"));
         m_log.clear();
     }

@@ -6,6 +6,8 @@
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
@@ -138,11 +140,11 @@ protected:
     QWidget& bar() { return *window->findChild<QWidget*>("reloadBar"); }
     bool waitForBar(bool isShown = true)
     {
-        return QTest::qWaitFor([&] { return bar().isVisible() == isShown; });
+        return waitFor([&] { return bar().isVisible() == isShown; });
     }
     bool waitForState(SceneDocument::FileState state)
     {
-        return QTest::qWaitFor([&] { return document().getFileState() == state; });
+        return waitFor([&] { return document().getFileState() == state; });
     }
     void press(const char* button)
     {

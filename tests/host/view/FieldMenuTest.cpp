@@ -12,6 +12,8 @@
 #include "window/HelpWindow.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/shapes/SoScreenText.h>
@@ -116,7 +118,7 @@ TEST_F(FieldMenuOf, FindingIsAsIfTyped)
 {
     material->shininess.setValue(Exact);
     window.findInScene("shininess=0.1123456");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.getScenePanel().getFinder().isFinished(); }));
+    EXPECT_TRUE(waitFor([&] { return window.getScenePanel().getFinder().isFinished(); }));
     const auto& found = window.getScenePanel().getFinder().getFound();
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found.front().get(), material.get());

@@ -7,6 +7,8 @@
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -41,7 +43,7 @@ protected:
         window.setScene(root.get(), QStringLiteral("Street"));
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(waitForActive(&window));
     }
     ~Find() override { QTest::qWait(0); }
 
@@ -58,7 +60,7 @@ protected:
     }
     void waitForAll()
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return finder().isFinished(); }));
+        EXPECT_TRUE(waitFor([this] { return finder().isFinished(); }));
     }
     SoNode* house(int index) const { return root->getChild(index); }
     SoNode* in(int houseIndex, int child) const
@@ -148,9 +150,9 @@ TEST_F(Find, FollowsTheScene)
     in(0, 0)->setName("Wall");
     root->removeChild(3);
     SoSensorQueue::getInstance().process();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return tree().isMarked(in(0, 0)) && finder().isFinished(); }));
+    EXPECT_TRUE(waitFor([this] { return tree().isMarked(in(0, 0)) && finder().isFinished(); }));
     EXPECT_EQ(finder().getFound().size(), std::size_t{Houses / 2});
-    EXPECT_TRUE(QTest::qWaitFor([this] { return rowsShown(root.get()) == Houses / 2; }));
+    EXPECT_TRUE(waitFor([this] { return rowsShown(root.get()) == Houses / 2; }));
 }
 
 TEST_F(Find, ARepeatedSearchThatFindsTheSameLeavesRowsFolded)
@@ -161,7 +163,7 @@ TEST_F(Find, ARepeatedSearchThatFindsTheSameLeavesRowsFolded)
     QSignalSpy repeated(&finder(), &SceneFinder::foundChanged);
     house(1)->setName("Elsewhere");
     SoSensorQueue::getInstance().process();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !repeated.isEmpty(); }));
+    ASSERT_TRUE(waitFor([&] { return !repeated.isEmpty(); }));
     EXPECT_FALSE(tree().isExpanded(tree().getModel().indexOf(house(0))));
 }
 

@@ -10,6 +10,8 @@
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
@@ -40,7 +42,7 @@ protected:
         window.resize(1100, 800);
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
+        EXPECT_TRUE(waitForActive(&window)); // else shortcuts do not act
     }
     ~Handles() override { services.setSceneSource(nullptr); }
     template <class Node>
@@ -799,7 +801,7 @@ TEST_F(Handles, AWalkOverAModelEndsWithTheFirstBytes)
         const auto opened =
             QObject::connect(&window, &HostWindow::openFinished, [&](bool is) { isOpen = is; });
         window.openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/") + model);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
+        ASSERT_TRUE(waitFor([&] { return isOpen; }));
         QObject::disconnect(opened);
         settle();
         const std::string first = text();

@@ -2,6 +2,8 @@
 // A scene that takes longer to draw than a user waits.
 #include "ViewPictures.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
@@ -34,7 +36,7 @@ protected:
     bool isSaid() const { return view.findChild<QLabel*>(QStringLiteral("preparingPicture"))->isVisible(); }
     bool waitForPicture()
     {
-        return QTest::qWaitFor([&] { return !view.isDrawing(); }, 60'000);
+        return waitFor([&] { return !view.isDrawing(); });
     }
 
     SoRef<SoSeparator> scene{new SoSeparator};
@@ -47,7 +49,7 @@ TEST_F(LargeSceneView, IsDrawnBetweenEventsAndSaysSo)
 {
     const int before = view.getDrawCount();
     view.setScene(scene.get());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isDrawing(); }));
+    ASSERT_TRUE(waitFor([&] { return view.isDrawing(); }));
     EXPECT_EQ(view.getDrawCount(), before);
     EXPECT_TRUE(isSaid());
     ASSERT_TRUE(waitForPicture());
@@ -58,7 +60,7 @@ TEST_F(LargeSceneView, IsDrawnBetweenEventsAndSaysSo)
 TEST_F(LargeSceneView, GivesAWholePictureWhenOneIsTaken)
 {
     view.setScene(scene.get());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isDrawing(); }));
+    ASSERT_TRUE(waitFor([&] { return view.isDrawing(); }));
     const QImage taken = pictureOf(view);
     ASSERT_TRUE(waitForPicture());
     EXPECT_EQ(taken, pictureOf(view));
@@ -67,7 +69,7 @@ TEST_F(LargeSceneView, GivesAWholePictureWhenOneIsTaken)
 TEST_F(LargeSceneView, MayBeEditedTurnedAndClosedMeanwhile)
 {
     view.setScene(scene.get());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isDrawing(); }));
+    ASSERT_TRUE(waitFor([&] { return view.isDrawing(); }));
     scene->removeChild(0);
     QTest::keyClick(&view, Qt::Key_Right);
     SoSensorQueue::getInstance().process();
@@ -78,7 +80,7 @@ TEST_F(LargeSceneView, MayBeEditedTurnedAndClosedMeanwhile)
     view.setWireframe(false);
     EXPECT_EQ(pictureOf(view), shown);
     view.setWireframe(true);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isDrawing(); }));
+    ASSERT_TRUE(waitFor([&] { return view.isDrawing(); }));
     scene = nullptr;
     view.setScene(nullptr);
     EXPECT_TRUE(waitForPicture());

@@ -8,6 +8,8 @@
 #include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -39,7 +41,7 @@ protected:
     {
         done.clear();
         window.openFile(path);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }, 60000));
+        EXPECT_TRUE(waitFor([this] { return !done.isEmpty(); }));
         EXPECT_EQ(done.size(), 1);
         return done.value(0);
     }
@@ -153,7 +155,7 @@ TEST_F(Window, ASecondFileTakesTheFirstOnesPlace)
 {
     window.openFile(shippedModel("lighthouse.glb"));
     window.openFile(shippedModel("crate.gltf"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return done.contains(true); }, 60000));
+    ASSERT_TRUE(waitFor([this] { return done.contains(true); }));
     EXPECT_EQ(done, QList<bool>({false, true}));
     EXPECT_TRUE(window.windowTitle().contains("crate.gltf"));
 }
@@ -186,7 +188,7 @@ TEST_F(Window, TheViewIsSteeredByMenuShortcutAndToolBar)
     ASSERT_TRUE(action("Home"));
     SceneView& view = window.getView();
     window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitForActive(&window));
     QTest::keyClick(&window, Qt::Key_F3);
     EXPECT_TRUE(view.isWireframe());
     QTest::mouseClick(bar->widgetForAction(action("Wireframe")), Qt::LeftButton);

@@ -9,6 +9,8 @@
 #include "support/UserNotifier.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 
 #include <QDir>
@@ -29,10 +31,10 @@ protected:
         const auto opened =
             QObject::connect(&window, &HostWindow::openFinished, [&](bool is) { isOpen = is; });
         window.openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
+        EXPECT_TRUE(waitFor([&] { return isOpen; }));
         QObject::disconnect(opened);
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000));
+        EXPECT_TRUE(waitForActive(&window));
         pictureOf(view);
     }
     ~NavigationPictures() override { services.setSceneSource(nullptr); }
@@ -68,7 +70,7 @@ TEST_F(NavigationPictures, OfPlaying)
     bool isOpen = false;
     const auto opened = QObject::connect(&window, &HostWindow::openFinished, [&](bool is) { isOpen = is; });
     window.openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
+    EXPECT_TRUE(waitFor([&] { return isOpen; }));
     QObject::disconnect(opened);
     const QImage before = pictureOf(view);
     trigger("animationAhead"); // to the second key

@@ -8,6 +8,8 @@
 #include "window/MainWindow.h"
 #include "window/ViewActions.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/cameras/SoOrthographicCamera.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
@@ -36,7 +38,7 @@ protected:
         window.setScene(scene.get(), "Test");
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
+        EXPECT_TRUE(waitForActive(&window)); // else shortcuts do not act
         settle();
     }
     ~Navigation() override { services.setSceneSource(nullptr); }
@@ -239,7 +241,7 @@ TEST_F(Navigation, WalkingIsAToggleAndItsKeysWalk)
     // While a key is held, it goes on.
     QTest::keyPress(&view, Qt::Key_Down);
     const float back = view.getCamera().position.getValue()[2];
-    EXPECT_TRUE(QTest::qWaitFor([&] { return view.getCamera().position.getValue()[2] > back; }, 60000));
+    EXPECT_TRUE(waitFor([&] { return view.getCamera().position.getValue()[2] > back; }));
     QTest::keyRelease(&view, Qt::Key_Down);
     // The mouse looks around on the spot, and selects nothing.
     const SbVec3f spot = view.getCamera().position.getValue();

@@ -7,6 +7,8 @@
 #include "viewport/SceneView.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -86,7 +88,7 @@ struct Program {
     {
         done.clear();
         window.openFile(path);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !done.isEmpty(); }, 60000));
+        EXPECT_TRUE(waitFor([this] { return !done.isEmpty(); }));
         return done.value(0);
     }
     void edit(const QString& node, const char* field, const char* value)
@@ -147,12 +149,10 @@ protected:
     QStringList kept() const { return QDir(home.filePath("scopix/recovery")).entryList({"*.xsg"}); }
     bool waitUntilKept(const QByteArray& text)
     {
-        return QTest::qWaitFor(
-            [&] {
-                return !kept().isEmpty() &&
-                       contentOf(home.filePath("scopix/recovery/") + kept()[0]).contains(text);
-            },
-            20000);
+        return waitFor([&] {
+            return !kept().isEmpty() &&
+                   contentOf(home.filePath("scopix/recovery/") + kept()[0]).contains(text);
+        });
     }
     QMenu* recentMenu()
     {
@@ -216,7 +216,7 @@ TEST_F(Files, DiscardDropsTheEdits)
     program->done.clear();
     program->window.getFiles().openAnother(shipped("rainbow.ply"));
     EXPECT_TRUE(box.hasCome());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !program->done.isEmpty(); }, 60000));
+    ASSERT_TRUE(waitFor([this] { return !program->done.isEmpty(); }));
     EXPECT_EQ(program->done, QList<bool>{true}) << "and is asked once only";
     EXPECT_EQ(contentOf(path), before);
     EXPECT_FALSE(program->window.isWindowModified());
@@ -267,7 +267,7 @@ TEST_F(Files, EditsMadeWhileAModelIsReadAreAskedAbout)
     program->window.getFiles().openAnother(shipped("lighthouse.glb"));
     program->edit("Planks", "opacity", "0.5");
     WithDialog box(answer("Cancel"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !program->done.isEmpty(); }, 60000));
+    ASSERT_TRUE(waitFor([this] { return !program->done.isEmpty(); }));
     EXPECT_TRUE(box.hasCome());
     EXPECT_EQ(program->done, QList<bool>{false});
     EXPECT_EQ(program->value("Planks", "opacity"), "0.5");
@@ -316,8 +316,8 @@ TEST_F(Files, TypingThatIsNotConfirmedYetIsSavedToo)
             new SetText(program->services.selectedField(), input->text().toUtf8().constData()));
     });
     program->window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program->window));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return input->isVisible(); }));
+    ASSERT_TRUE(waitForActive(&program->window));
+    ASSERT_TRUE(waitFor([&] { return input->isVisible(); }));
     input->setFocus();
     QTest::keyClicks(input, "0.625");
     program->action("Save")->trigger();

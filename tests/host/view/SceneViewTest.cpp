@@ -3,6 +3,8 @@
 
 #include "window/DefaultScene.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/base/SoTimeSource.h>
 #include <xsg/nodes/groups/SoInstances.h>
 #include <xsg/nodes/groups/SoSeparator.h>
@@ -294,7 +296,7 @@ TEST_F(View, DrawsContinuouslyOnlyWhileSomethingTurns)
         return from < spin->time.getValue();
     };
     const int drawn = view.getDrawCount();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return turnedFurther() && view.getDrawCount() > drawn + 3; }));
+    EXPECT_TRUE(waitFor([&] { return turnedFurther() && view.getDrawCount() > drawn + 3; }));
     spin->on.setValue(false);
     picture();
     EXPECT_FALSE(view.isAnimating());

@@ -10,6 +10,8 @@
 #include "viewport/SceneParts.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 #include <xsg/nodes/properties/SoPhysicalMaterial.h>
@@ -244,7 +246,7 @@ TEST_F(Acts, HoveringShowsWhatAClickWouldSelectWithoutAnotherPicture)
     const QRect around = QRect(at({-4, 1, 1}), at({-2, -1, 1})).adjusted(-8, -8, 8, 8);
     EXPECT_FALSE(hasMarks(sheet(), around));
     hover({-3, 0, 1});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return hasMarks(sheet(), around); }));
+    EXPECT_TRUE(waitFor([&] { return hasMarks(sheet(), around); }));
     const QPoint edge = at({-4, 0, 1});
     EXPECT_TRUE(hasMarks(sheet(), QRect(edge - QPoint(3, 3), edge + QPoint(3, 3))));
     EXPECT_FALSE(hasMarks(sheet(), QRect(at({3, 0, 1}) - QPoint(40, 40), QSize(80, 80))));
@@ -308,7 +310,7 @@ TEST_F(Acts, MeasuresBetweenCornersExactly)
         key(Qt::Key_C, Qt::ControlModifier);
         return QApplication::clipboard()->text().split('\n');
     };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return copied().size() >= 5; }));
+    ASSERT_TRUE(waitFor([&] { return copied().size() >= 5; }));
     EXPECT_EQ(copied(), (QStringList{"Distance: 4", "Along x, y, z: 4 0 0", "Box of the selection: 2 2 2",
                                      "Area: 24", "Triangles: 12"}));
     click({-2.02F, 0.98F, 1});
@@ -327,10 +329,10 @@ TEST_F(Acts, TheBoxFollowsWhatItIsAround)
     const auto isMarked = [&] {
         return hasMarks(sheet(), QRect(corner - QPoint(2, 2), corner + QPoint(2, 2)));
     };
-    EXPECT_TRUE(QTest::qWaitFor(isMarked));
+    EXPECT_TRUE(waitFor(isMarked));
     static_cast<SoCube*>(part(1, 2))->width.setValue(1);
     settle();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !isMarked(); }));
+    EXPECT_TRUE(waitFor([&] { return !isMarked(); }));
     action("sizeBoxAction")->trigger();
 }
 
@@ -403,7 +405,7 @@ protected:
         QList<bool> done;
         QObject::connect(&window, &HostWindow::openFinished, [&done](bool opened) { done << opened; });
         window.openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/lighthouse.glb"));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return done.value(0); }, 60000));
+        EXPECT_TRUE(waitFor([&] { return done.value(0); }));
         window.disconnect();
         settle();
     }
@@ -437,7 +439,7 @@ TEST_F(PicturesOfThePage, Measure)
         key(Qt::Key_C, Qt::ControlModifier);
         return QApplication::clipboard()->text().contains(QLatin1String("Triangles"));
     };
-    EXPECT_TRUE(QTest::qWaitFor(isMeasured, 60000));
+    EXPECT_TRUE(waitFor(isMeasured)) << qPrintable(QApplication::clipboard()->text());
     keep("measure.png", pictureOf(view));
 }
 

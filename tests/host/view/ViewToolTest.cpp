@@ -2,6 +2,8 @@
 // Tools in the 3D view: who gets an event, and what is drawn over the picture.
 #include "ViewPictures.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/render/SoOverlay.h>
@@ -141,7 +143,7 @@ TEST_F(Tools, AreRepaintedWithoutAnotherPicture)
     const int drawn = view.getDrawCount();
     first.paints = true;
     view.repaintTools();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return first.painted > 0; }, 60000));
+    EXPECT_TRUE(waitFor([this] { return first.painted > 0; }));
     EXPECT_EQ(view.getDrawCount(), drawn);
     EXPECT_EQ(pictureOf(view).pixelColor(20, 20), QColor(Qt::magenta));
 }

@@ -2,6 +2,8 @@
 // Nothing opens where part of it cannot be seen.
 #include "window/OnScreen.h"
 
+#include <support/Waiting.h>
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -51,7 +53,7 @@ TEST(OnScreen, WindowsAndTheirDialogsOpenOnTheScreen)
     new OnScreen(window);
     window.setGeometry(screen.right() + 4000, -3000, 500, 400);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(waitForExposed(&window));
     EXPECT_TRUE(screen.contains(window.geometry()));
     EXPECT_EQ(window.size(), QSize(500, 400));
 
@@ -59,14 +61,14 @@ TEST(OnScreen, WindowsAndTheirDialogsOpenOnTheScreen)
     QDialog dialog(&inner);
     dialog.setGeometry(-700, -700, screen.width() * 3, screen.height() * 3);
     dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    ASSERT_TRUE(waitForExposed(&dialog));
     EXPECT_TRUE(screen.contains(dialog.geometry()));
 
     // What belongs to another window is its own business.
     QWidget other;
     other.setGeometry(-700, 40, 300, 200);
     other.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&other));
+    ASSERT_TRUE(waitForExposed(&other));
     EXPECT_EQ(other.x(), -700);
 }
 

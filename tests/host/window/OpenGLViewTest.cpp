@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The way of a picture to the screen: from a model's file over OpenGL inside the window, and through an edit.
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include "viewport/OrientationCube.h"
 #include "viewport/SceneView.h"
@@ -34,7 +35,7 @@ protected:
             opened = success;
         });
         window().openFile(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/") + QLatin1String(model));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 60000));
+        EXPECT_TRUE(waitFor([&] { return done; }));
         QObject::disconnect(connection);
         Session::settle();
         return opened;
@@ -45,15 +46,15 @@ protected:
         const QRect place(surface()->mapTo(&window(), QPoint()), surface()->size());
         return window().screen()->grabWindow(window().winId()).toImage().copy(place);
     }
-    bool waitFor(const QImage& picture)
+    bool waitForPicture(const QImage& picture)
     {
-        return QTest::qWaitFor([&] { return onScreen() == picture; });
+        return waitFor([&] { return onScreen() == picture; });
     }
     // The first picture that differs from this one and stays on the screen.
     QImage waitForAnotherThan(const QImage& picture)
     {
         QImage last;
-        EXPECT_TRUE(QTest::qWaitFor([&] {
+        EXPECT_TRUE(waitFor([&] {
             const QImage now = onScreen();
             return now != picture && now == std::exchange(last, now);
         }));
@@ -120,9 +121,9 @@ TEST_F(OpenGLView, FollowsAnEditAndItsUndo)
     EXPECT_GT(colors(edited), 50);
 
     QTest::keyClick(session.input(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_TRUE(waitFor(before)) << "undo left another picture on the screen";
+    EXPECT_TRUE(waitForPicture(before)) << "undo left another picture on the screen";
     QTest::keyClick(session.input(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(waitFor(edited));
+    EXPECT_TRUE(waitForPicture(edited));
 }
 
 TEST_F(OpenGLView, FollowsASliderWhileItIsDragged)
@@ -137,5 +138,5 @@ TEST_F(OpenGLView, FollowsASliderWhileItIsDragged)
     session.drag(3, 15, [&] { last = waitForAnotherThan(last); });
     EXPECT_EQ(session.stack().count(), 1);
     session.stack().undo();
-    EXPECT_TRUE(waitFor(before));
+    EXPECT_TRUE(waitForPicture(before));
 }

@@ -2,6 +2,8 @@
 // The rows of fields that a clip holds.
 #include "InspectorSession.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/animation/SoAnimation.h>
 #include <xsg/nodes/animation/SoTrack.h>
 #include <xsg/nodes/transforms/SoTransform.h>
@@ -34,7 +36,7 @@ protected:
     // The panel shows many changes in a row together.
     bool becomes(const char* field, const char* words)
     {
-        return QTest::qWaitFor([&] { return mark(field) == QLatin1String(words); }, 60000);
+        return waitFor([&] { return mark(field) == QLatin1String(words); });
     }
 
     InspectorSession session;

@@ -6,6 +6,7 @@
 
 #include <scopix/SpxExtension.h>
 #include <support/PlainModel.h>
+#include <support/Waiting.h>
 #include <xsg/actions/SoSearchAction.h>
 
 #include <QListView>
@@ -43,9 +44,9 @@ protected:
         bool isOpen = false;
         QObject::connect(window, &HostWindow::openFinished, [&](bool opened) { isOpen = opened; });
         m_host->start(CommandLine::parse({"scopix", writePlainLighthouse(m_home.path())}));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return isOpen; }, 60000));
+        ASSERT_TRUE(waitFor([&] { return isOpen; }));
         window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        ASSERT_TRUE(waitForActive(window));
         Session::settle();
     }
     QString printed()
@@ -113,7 +114,7 @@ TEST_F(FirstStart, ShowsThePanelAndFoldsTheLogUntilItHasSomethingToSay)
         EXPECT_TRUE(window->saveScreenshot(QStringLiteral("%1/window-%2.png").arg(folder, name)));
     }
     std::cout << "something to say\n";
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !isFolded(); }));
+    EXPECT_TRUE(waitFor([this] { return !isFolded(); }));
     EXPECT_EQ(printed(), "something to say\n");
 }
 
@@ -147,7 +148,7 @@ TEST_F(FirstStart, ThePlainConsoleStaysBehindTheLogAndStandsAloneInClassic)
     start();
     const auto use = [this](const char* profile) {
         ASSERT_TRUE(m_host->plugins().profiles().useProfile(profile));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return (profile == QString("Classic")) == !dock("Log"); }));
+        ASSERT_TRUE(waitFor([&] { return (profile == QString("Classic")) == !dock("Log"); }));
         Session::settle();
     };
     EXPECT_TRUE(dock("Console")->isHidden());
@@ -159,7 +160,7 @@ TEST_F(FirstStart, ThePlainConsoleStaysBehindTheLogAndStandsAloneInClassic)
     // Hidden, it has all the same; and who shows it has it shown from then on.
     std::cout << "heard by both\n";
     EXPECT_TRUE(dock("Console")->findChild<QTextEdit*>()->toPlainText().contains("heard by both"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return printed().contains("heard by both"); }));
+    EXPECT_TRUE(waitFor([this] { return printed().contains("heard by both"); }));
     for (SpxExtension* each : m_host->shell().extensions()) {
         if (each->getName() == "Console")
             m_host->shell().setShown(each, true);

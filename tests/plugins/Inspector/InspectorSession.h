@@ -4,6 +4,7 @@
 #include "theme/Theme.h"
 
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include <QTemporaryDir>
 
@@ -110,7 +111,7 @@ public:
     template <class Condition>
     static bool comesTrue(Condition condition)
     {
-        return QTest::qWaitFor(condition);
+        return waitFor(condition);
     }
     /// Opens the row's menu and chooses the entry that begins so.
     void chooseInMenu(QWidget* row, const QString& entry)

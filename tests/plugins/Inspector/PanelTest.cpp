@@ -2,6 +2,8 @@
 // The panel in the real host: every kind of row, driven by keys and mouse.
 #include "plugins/Inspector/InspectorSession.h"
 
+#include <support/Waiting.h>
+
 #include <scopix/SpxNodeDefaults.h>
 #include <xsg/fields/SoSFFloat.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
@@ -241,7 +243,7 @@ TEST_F(Panel, WhatIsTypedStaysWhenTheValueChangesElsewhere)
     session.settle();
     EXPECT_EQ(input->text(), "0.7");
     auto* mark = session.in<QWidget>("shininess", "mark");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return mark->toolTip().startsWith("Changed elsewhere"); }));
+    EXPECT_TRUE(waitFor([&] { return mark->toolTip().startsWith("Changed elsewhere"); }));
     QTest::keyClick(input, Qt::Key_Return);
     EXPECT_EQ(material.shininess.getValue(), 0.7F);
     EXPECT_FALSE(mark->toolTip().startsWith("Changed elsewhere"));
@@ -315,7 +317,7 @@ TEST_F(Panel, AListOfManyOpensInTheFieldEditor)
     session.click(link);
     EXPECT_EQ(session.host.services().selectedField(), &material.diffuseColor);
     ASSERT_TRUE(session.dock());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !session.dock()->widget()->visibleRegion().isEmpty(); }));
+    EXPECT_TRUE(waitFor([&] { return !session.dock()->widget()->visibleRegion().isEmpty(); }));
 }
 
 TEST_F(Panel, IgnoringAndConnectingAreSteps)
@@ -520,7 +522,7 @@ TEST_F(Panel, AnEnumerationIsChosenByTheKeyboard)
     EXPECT_EQ(steps(), 1);
     style->style.setValue(77);
     session.settle();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return box->currentText() == "77 (no name)"; }));
+    EXPECT_TRUE(waitFor([&] { return box->currentText() == "77 (no name)"; }));
     session.undo();
     EXPECT_TRUE(session.comesTrue([&] { return box->currentText() == "FILLED"; }));
 }

@@ -7,6 +7,8 @@
 #include "plugins/PluginSearchPath.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoCube.h>
@@ -63,7 +65,7 @@ TEST(Inspector, AProfileOfTheDefaultExtensionsShowsNoPanel)
     session.select(&session.material->shininess);
     EXPECT_TRUE(session.editorShown());
     ASSERT_TRUE(profiles.useProfile("Default"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return session.panel(); }));
+    EXPECT_TRUE(waitFor([&] { return session.panel(); }));
 }
 
 TEST(Inspector, TheWayUpAndTheNodesThatGovernAShapeAreAClickAway)
@@ -126,7 +128,7 @@ TEST(Inspector, AValueIsFoundInTheSceneAndF1OpensThePageOfTheRowsNode)
     const auto countOf = [&](SoNode* node, const char* field) {
         session.selectNode(node);
         session.chooseInMenu(session.row(field), "Find This Value");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return window.getScenePanel().getFinder().isFinished(); }));
+        EXPECT_TRUE(waitFor([&] { return window.getScenePanel().getFinder().isFinished(); }));
         return window.getScenePanel().getFinder().getFound().size();
     };
     EXPECT_EQ(countOf(dull, "shininess"), 2U);

@@ -5,6 +5,8 @@
 #include "preferences/PreferencesDialog.h"
 #include "window/MainWindow.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
 
 #include <QComboBox>
@@ -38,7 +40,7 @@ protected:
         emit box->activated(box->currentIndex());
         delete &dialog();
         session.host.window().activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&session.host.window()));
+        EXPECT_TRUE(waitForActive(&session.host.window()));
         session.settle();
     }
     QString shown(const char* field, int which = 0) { return session.number(field, which)->text(); }

@@ -8,6 +8,7 @@
 #include "window/ViewPoints.h"
 
 #include <support/PlainModel.h>
+#include <support/Waiting.h>
 #include <xsg/actions/SoSearchAction.h>
 #include <xsg/nodes/properties/SoPoints.h>
 
@@ -43,7 +44,7 @@ protected:
     void activate()
     {
         window().activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+        EXPECT_TRUE(waitForActive(&window()));
     }
     void press(int key, Qt::KeyboardModifiers modifiers)
     {
@@ -71,7 +72,7 @@ protected:
         QSignalSpy opened(&window(), &HostWindow::openFinished);
         answerWith(path);
         press(Qt::Key_O, Qt::ControlModifier);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }, 60000));
+        ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
         ASSERT_TRUE(opened.value(0).value(0).toBool());
         activate();
         session.settle();
@@ -181,7 +182,7 @@ TEST_F(Tuning, FromTheFileToTheFile)
     ASSERT_TRUE(menu);
     keep("5-save");
     QTest::keyClick(menu, Qt::Key_S);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window().isWindowModified(); }))
+    EXPECT_TRUE(waitFor([&] { return !window().isWindowModified(); }))
         << window().statusBar()->currentMessage().toStdString();
     QFile saved(file);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));

@@ -9,6 +9,7 @@
 #include "window/MainWindow.h"
 
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/nodes/groups/SoSeparator.h>
@@ -33,7 +34,7 @@ protected:
         panel = std::make_unique<FramesPanel>(log);
         panel->resize(700, 300);
         panel->show();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(panel.get()));
+        EXPECT_TRUE(waitForExposed(panel.get()));
     }
     ~FramesWidget() override { qunsetenv("XDG_CONFIG_HOME"); }
 
@@ -269,7 +270,7 @@ TEST_F(FramesWidget, ARecordingHoldsBackNoFrameForLong)
     EXPECT_EQ(panel->getStore().startRecording(path), QString());
     for (int i = 0; i < 3; ++i)
         add(1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return panel->getStore().getNumRecorded() == 3; }));
+    EXPECT_TRUE(waitFor([this] { return panel->getStore().getNumRecorded() == 3; }));
 }
 
 // A child of its own writes a recording until it is killed.
@@ -397,15 +398,15 @@ TEST(FramesDock, IsHiddenAtFirstAndThenShowsTheFramesOfTheView)
     EXPECT_FALSE(SoFrameLog::getInstance().isOn());
     dock->show();
     dock->raise();
-    EXPECT_TRUE(QTest::qWaitFor([] { return SoFrameLog::getInstance().isOn(); }));
+    EXPECT_TRUE(waitFor([] { return SoFrameLog::getInstance().isOn(); }));
     auto* view = session.host.window().findChild<SceneView*>();
     const auto frames = [&] { return dock->findChild<QLabel*>("framesSummary")->text(); };
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(waitFor([&] {
         view->redraw();
         return !frames().startsWith("No frames");
     }));
     dock->hide();
-    EXPECT_TRUE(QTest::qWaitFor([] { return !SoFrameLog::getInstance().isOn(); }));
+    EXPECT_TRUE(waitFor([] { return !SoFrameLog::getInstance().isOn(); }));
 }
 
 TEST(FramesDock, MarksWhatTheUserDid)
@@ -432,5 +433,5 @@ TEST(FramesDock, IsNotInTheClassicProfile)
     session.settle();
     EXPECT_FALSE(session.dock(QStringLiteral("Frames")));
     ASSERT_TRUE(profiles.useProfile("Default"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return session.dock(QStringLiteral("Frames")); }));
+    EXPECT_TRUE(waitFor([&] { return session.dock(QStringLiteral("Frames")); }));
 }

@@ -5,6 +5,7 @@
 #include "window/MainWindow.h"
 
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoReadError.h>
@@ -73,7 +74,7 @@ protected:
     }
     bool shows(const QStringList& wanted)
     {
-        return QTest::qWaitFor([&] { return rows() == wanted; }) || (qWarning() << rows(), false);
+        return waitFor([&] { return rows() == wanted; }) || (qWarning() << rows(), false);
     }
     void type(const char* input, const QString& text)
     {
@@ -112,7 +113,7 @@ TEST_F(LogWidget, FiltersWithTheKeyboardAndComesBackToAllLines)
     ASSERT_TRUE(shows({"loading", "warn: shader", "warn: picture"}));
     type("logFilter", "warn -shader");
     ASSERT_TRUE(shows({"warn: picture"}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return part<QLabel>("logCounts")->text() == "1 of 3 lines"; }));
+    EXPECT_TRUE(waitFor([&] { return part<QLabel>("logCounts")->text() == "1 of 3 lines"; }));
     QTest::keyClick(part<QLineEdit>("logFilter"), Qt::Key_Down);
     EXPECT_TRUE(lines->hasFocus());
     part<QSpinBox>("logContext")->setValue(1);
@@ -130,16 +131,16 @@ TEST_F(LogWidget, FindsWithCtrlFWhereTheLogHasTheFocus)
     auto* wanted = part<QLineEdit>("logFind");
     ASSERT_TRUE(wanted->hasFocus());
     QTest::keyClicks(wanted, "red");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return current() == "a red"; }));
+    EXPECT_TRUE(waitFor([&] { return current() == "a red"; }));
     QTest::keyClick(wanted, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return current() == "c Red"; }));
+    EXPECT_TRUE(waitFor([&] { return current() == "c Red"; }));
     EXPECT_EQ(part<QLabel>("logFound")->text(), "2 of 2");
     QTest::keyClick(wanted, Qt::Key_Return);
     EXPECT_EQ(current(), "a red");
     QTest::keyClick(wanted, Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(current(), "c Red");
     QTest::keyClicks(wanted, "x");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return part<QLabel>("logFound")->text() == "not found"; }));
+    EXPECT_TRUE(waitFor([&] { return part<QLabel>("logFound")->text() == "not found"; }));
     QTest::keyClick(wanted, Qt::Key_Escape);
     EXPECT_FALSE(wanted->isVisible());
     EXPECT_TRUE(lines->hasFocus());
@@ -172,7 +173,7 @@ TEST_F(LogWidget, GoesToTheNodeTheFieldOrTheFileThatALineNames)
     out.close();
     std::cout << "the node Lamp is dark\nsee /Lamp/Sphere.radius, too large\nnothing here\n";
     std::cout << "“" + file.toStdString() + "”:2 is odd\n";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return rows().size() == 4; }));
+    ASSERT_TRUE(waitFor([&] { return rows().size() == 4; }));
     activate(0);
     EXPECT_EQ(session.host.services().selectedNode(), lamp);
     activate(1);
@@ -184,7 +185,7 @@ TEST_F(LogWidget, GoesToTheNodeTheFieldOrTheFileThatALineNames)
     bool isOpen = false;
     QObject::connect(&window(), &HostWindow::openFinished, [&](bool opened) { isOpen = opened; });
     activate(3);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isOpen; })) << qPrintable(rows().last());
+    EXPECT_TRUE(waitFor([&] { return isOpen; })) << qPrintable(rows().last());
 }
 
 TEST_F(LogWidget, ABadgeCountsErrorsNamesTheFirstAndLeadsToIt)
@@ -194,13 +195,13 @@ TEST_F(LogWidget, ABadgeCountsErrorsNamesTheFirstAndLeadsToIt)
     std::cout << "quiet\n";
     SoReadError::post("file.xsg", 3, "the <first> & worst");
     std::cerr << "another\n";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return badge()->isVisible() && rows().size() == 3; }));
+    ASSERT_TRUE(waitFor([&] { return badge()->isVisible() && rows().size() == 3; }));
     EXPECT_TRUE(badge()->text().startsWith("2 errors: ")) << qPrintable(badge()->text());
     EXPECT_TRUE(badge()->toolTip().contains("&lt;first&gt;")) << qPrintable(badge()->toolTip());
     type("logFilter", "quiet");
     ASSERT_TRUE(shows({"quiet"}));
     QTest::mouseClick(badge(), Qt::LeftButton);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return current().contains("<first>"); })) << qPrintable(current());
+    EXPECT_TRUE(waitFor([&] { return current().contains("<first>"); })) << qPrintable(current());
     EXPECT_FALSE(badge()->isVisible());
     EXPECT_FALSE(dock->visibleRegion().isEmpty());
 }
@@ -210,7 +211,7 @@ TEST_F(LogWidget, StaysAtTheEndUnlessTheUserLooksElsewhere)
     const auto writeMany = [&](int rowsNow) {
         for (int i = 0; i < 500; ++i)
             std::cout << "line " + std::to_string(rowsNow + i) + '\n';
-        ASSERT_TRUE(QTest::qWaitFor([&] { return rows().size() == rowsNow + 500; }));
+        ASSERT_TRUE(waitFor([&] { return rows().size() == rowsNow + 500; }));
     };
     QScrollBar* bar = lines->verticalScrollBar();
     writeMany(0);
@@ -261,7 +262,7 @@ TEST_F(LogWidget, IsLegibleLargeAndSmallOnBothPalettes)
             std::cerr << "no connection to the tracker, trying again\n";
             SoReadError::post("harbour.xsg", 12, "\"SpereSet\" is no kind of node");
             SoDebugError::postInfo("SoSeparator", "1204 boxes are cached");
-            ASSERT_TRUE(QTest::qWaitFor([&] { return rows().size() == 5; }));
+            ASSERT_TRUE(waitFor([&] { return rows().size() == 5; }));
             session.settle();
             for (int row = 0; row < 5; ++row) {
                 const QRect place = lines->visualRect(lines->model()->index(row, 0));
@@ -293,7 +294,7 @@ TEST_F(LogWidget, RemembersTimeAndThreadAndFolding)
     dock->findChild<QAction*>("logTime")->trigger();
     dock->findChild<QAction*>("logFold2")->trigger();
     std::cout << "a\nb\na\n";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return rows().size() == 2; }));
+    ASSERT_TRUE(waitFor([&] { return rows().size() == 2; }));
     EXPECT_TRUE(rows().first().contains(':'));
     QSettings file(settings.filePath("scopix/profiler.ini"), QSettings::IniFormat);
     EXPECT_TRUE(file.value("log/time").toBool());

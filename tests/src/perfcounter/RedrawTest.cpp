@@ -4,6 +4,8 @@
 #include "SoPerfCounterGraph.h"
 #include "ViewerFixture.h"
 
+#include <support/Waiting.h>
+
 #include <QHelpEvent>
 #include <QMainWindow>
 #include <QProcess>
@@ -43,7 +45,7 @@ private:
 QString tipAt(QwtPlot& plot, const QPoint& place)
 {
     QToolTip::hideText(); // which takes its time
-    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    EXPECT_TRUE(waitFor([] { return !QToolTip::isVisible(); }));
     QHelpEvent help(QEvent::ToolTip, place, plot.canvas()->mapToGlobal(place));
     QCoreApplication::sendEvent(plot.canvas(), &help);
     return QToolTip::isVisible() ? QToolTip::text() : QString();
@@ -108,7 +110,7 @@ TEST_F(CounterRedraw, AViewerBehindAnotherTabDrawsNothingUntilItIsSeen)
     sampleThrice();
     EXPECT_EQ(redraws->take(), 0);
     back.raise();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return redraws->take() > 0; }));
+    EXPECT_TRUE(waitFor([this] { return redraws->take() > 0; }));
     EXPECT_NEAR(viewer.getCurvePlot()->axisInterval(QwtPlot::xBottom).maxValue(), viewer.getXValues().front(),
                 1e-9);
     sampleThrice();
@@ -140,7 +142,7 @@ TEST_F(CounterRedraw, AFrozenViewerDoesNothing)
     QTimer beside;
     QSignalSpy turns(&beside, &QTimer::timeout);
     beside.start(viewer.getTimer()->interval() / 5);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return turns.size() >= 10; }));
+    ASSERT_TRUE(waitFor([&] { return turns.size() >= 10; }));
     EXPECT_EQ(ticks.size(), 0);
     EXPECT_EQ(redraws->take(), 0);
     EXPECT_EQ(viewer.getFilled(), filled);
@@ -153,7 +155,7 @@ TEST_F(CounterRedraw, ARunningViewerSamplesByItsTimer)
     QSignalSpy ticks(viewer.getTimer(), &QTimer::timeout);
     redraws->take();
     viewer.start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks.size() >= 2; }));
+    EXPECT_TRUE(waitFor([&] { return ticks.size() >= 2; }));
     EXPECT_GE(redraws->take(), 2);
 }
 

@@ -6,6 +6,8 @@
 #include "SoPerfCounterGraph.h"
 #include "ViewerFixture.h"
 
+#include <support/Waiting.h>
+
 #include <QDomDocument>
 
 #include <cmath>
@@ -114,7 +116,7 @@ TEST_F(CounterTruth, EveryChangeOfTheViewRestartsThePeriod)
         // A sample may come while it waits, and begins another period.
         const auto left = [&] { return viewer.getTimer()->remainingTime(); };
         const int half = viewer.getTimer()->interval() / 2;
-        ASSERT_TRUE(QTest::qWaitFor([&] { return left() < half && left() > 50; }, 60000)) << name;
+        ASSERT_TRUE(waitFor([&] { return left() < half && left() > 50; })) << name;
         const int before = left();
         const int resets = clock.resets;
         act();
@@ -131,7 +133,7 @@ TEST_F(CounterTruth, EveryChangeOfTheViewRestartsThePeriod)
 TEST_F(CounterTruth, ALateSampleDoesNotShiftTheNext)
 {
     viewer.start();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return viewer.getTimer()->remainingTime() < 300; }, 60000));
+    ASSERT_TRUE(waitFor([this] { return viewer.getTimer()->remainingTime() < 300; }));
     viewer.viewTimer();
     EXPECT_LT(viewer.getTimer()->remainingTime(), 400);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Person.h"
 
+#include <support/Waiting.h>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -47,7 +49,7 @@ void person::focus(QWidget* input)
 {
     input->window()->show();
     input->window()->activateWindow();
-    (void)QTest::qWaitForWindowActive(input->window());
+    (void)waitForActive(input->window());
     input->setFocus();
 }
 
