@@ -104,10 +104,6 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
         <translation>Das Programm, in dem dieser Knoten war, ist nicht mehr verbunden.</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Front</source>
         <translation>Vorne</translation>
     </message>
@@ -2360,6 +2356,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>&amp;Manage Profiles…</source>
         <translation>Profile &amp;verwalten …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Compare</source>

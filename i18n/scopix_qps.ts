@@ -104,10 +104,6 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[Ţĥé pŕöĝŕàm ţĥàţ ţĥîš ñödé wàš îñ îš ñöţ àţţàçĥéd àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>[Çàñçél ~~]</translation>
-    </message>
-    <message>
         <source>Front</source>
         <translation>[Fŕöñţ ~~]</translation>
     </message>
@@ -2360,6 +2356,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>&amp;Manage Profiles…</source>
         <translation>[&amp;Màñàĝé Pŕöfîléš… ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>[Çàñçél ~~]</translation>
     </message>
     <message>
         <source>&amp;Compare</source>

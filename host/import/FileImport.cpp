@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "import/FileImport.h"
 
+#include "support/ProgressDialog.h"
+
 #include <QFileInfo>
-#include <QLabel>
-#include <QProgressDialog>
 
 namespace scopix
 {
-
-namespace
-{
-
-constexpr int PatienceMs = 300; // before a dialog opens
-
-} // namespace
 
 FileImport::FileImport(QWidget* window, QObject* parent)
     : QObject(parent)
@@ -30,15 +23,9 @@ void FileImport::openDialog(const QString& path)
 {
     if (!m_window)
         return;
-    m_dialog = new QProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()), tr("Cancel"), 0, 100,
-                                   m_window);
-    m_dialog->setObjectName(QStringLiteral("importProgress"));
-    for (QLabel* label : m_dialog->findChildren<QLabel*>())
-        label->setTextFormat(Qt::PlainText); // a file may have any name
-    m_dialog->setWindowModality(Qt::WindowModal);
-    m_dialog->setMinimumDuration(PatienceMs);
-    m_dialog->setAutoClose(false);
-    m_dialog->setAutoReset(false);
+    m_dialog = new ProgressDialog(tr("Reading %1…").arg(QFileInfo(path).fileName()),
+                                  QStringLiteral("importProgress"), *m_window);
+    m_dialog->setMaximum(100);
     m_dialog->setValue(0);
     connect(m_dialog, &QProgressDialog::canceled, this, &FileImport::cancel);
 }
@@ -54,8 +41,7 @@ void FileImport::closeDialog()
     if (!m_dialog)
         return;
     m_dialog->disconnect(this);
-    m_dialog->reset(); // or it opens when its patience ends, where an event loop runs before it is deleted
-    m_dialog->hide();
+    m_dialog->end();
     m_dialog->deleteLater();
     m_dialog = nullptr;
 }

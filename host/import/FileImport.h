@@ -5,11 +5,12 @@
 #include <QPointer>
 #include <QStringList>
 
-class QProgressDialog;
 class QWidget;
 
 namespace scopix
 {
+
+class ProgressDialog;
 
 /// Reads one file, and shows how far it is once that takes noticeable time. Made for one file; deleting it
 /// gives up at once. GUI thread only.
@@ -43,7 +44,7 @@ protected:
 
 private:
     QWidget* m_window;
-    QPointer<QProgressDialog> m_dialog;
+    QPointer<ProgressDialog> m_dialog;
     QStringList m_notes;
 };
 

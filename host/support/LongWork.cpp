@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/LongWork.h"
 
+#include "support/ProgressDialog.h"
+
 #include <QCoreApplication>
-#include <QLabel>
-#include <QProgressDialog>
 
 #include <utility>
 
@@ -13,9 +13,8 @@ namespace scopix
 namespace
 {
 
-constexpr int PatienceMs = 300; // before a dialog opens
-constexpr int PieceMs = 30;     // until events are looked at again
-constexpr int Steps = 1000;     // of the bar
+constexpr int PieceMs = 30; // until events are looked at again
+constexpr int Steps = 1000; // of the bar
 
 thread_local LongWork* current = nullptr;
 
@@ -33,6 +32,8 @@ LongWork::LongWork(QWidget& window, const QString& what)
 LongWork::~LongWork()
 {
     current = nullptr;
+    if (m_dialog)
+        m_dialog->end();
     delete m_dialog;
 }
 
@@ -55,7 +56,8 @@ void LongWork::goOn(double part)
 {
     if (current && current->m_dialog && current->m_dialog->wasCanceled())
         throw Cancelled();
-    if (current && current->m_sinceLook.hasExpired(PieceMs) && current->m_sinceBegin.hasExpired(PatienceMs))
+    if (current && current->m_sinceLook.hasExpired(PieceMs) &&
+        current->m_sinceBegin.hasExpired(ProgressDialog::PatienceMs))
         current->look(part);
 }
 
@@ -78,14 +80,7 @@ void LongWork::look(double part)
 
 void LongWork::openDialog()
 {
-    m_dialog =
-        new QProgressDialog(m_what, QCoreApplication::translate("LongWork", "Cancel"), 0, 0, &m_window);
-    m_dialog->setObjectName(QStringLiteral("workProgress"));
-    for (QLabel* label : m_dialog->findChildren<QLabel*>())
-        label->setTextFormat(Qt::PlainText); // a file may have any name
-    m_dialog->setWindowModality(Qt::WindowModal);
-    m_dialog->setAutoClose(false);
-    m_dialog->setAutoReset(false);
+    m_dialog = new ProgressDialog(m_what, QStringLiteral("workProgress"), m_window);
     m_dialog->show();
 }
 

@@ -7,11 +7,12 @@
 
 #include <functional>
 
-class QProgressDialog;
 class QWidget;
 
 namespace scopix
 {
+
+class ProgressDialog;
 
 /// What the user waits for, on the GUI thread. While it lives, the work calls goOn() wherever it has done a
 /// piece: as soon as it takes noticeable time, a dialog over the window says how far it is and can cancel it,
@@ -47,7 +48,7 @@ private:
     const QString m_what;
     QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sinceLook;
-    QPointer<QProgressDialog> m_dialog;
+    QPointer<ProgressDialog> m_dialog;
 };
 
 } // namespace scopix

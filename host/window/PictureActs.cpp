@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/PictureActs.h"
 
+#include "support/ProgressDialog.h"
 #include "support/UserNotifier.h"
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProgressDialog>
 
 #include <optional>
 
@@ -20,8 +20,6 @@ namespace scopix
 
 namespace
 {
-
-constexpr int PatienceMs = 300; // before a dialog opens
 
 /// Nothing in the scene moves with time while this lives.
 class StandStill
@@ -92,13 +90,10 @@ bool PictureActs::save(const PictureOrder& order)
     settleForPicture();
     const StandStill still(m_view);
     const bool isAttended = m_notifier.isAttended();
-    std::optional<QProgressDialog> dialog;
+    std::optional<ProgressDialog> dialog;
     if (isAttended) {
-        dialog.emplace(tr("Drawing…"), tr("Cancel"), 0, 1, &m_window);
-        dialog->setObjectName(QStringLiteral("pictureProgress"));
+        dialog.emplace(tr("Drawing…"), QStringLiteral("pictureProgress"), m_window);
         dialog->setWindowTitle(tr("Save Picture"));
-        dialog->setWindowModality(Qt::WindowModal);
-        dialog->setMinimumDuration(PatienceMs);
     }
     const PictureSeries series = PictureSeries::make(
         m_view.getPictureSubject(order.size, order.count > 1), order, [&](int done, int total) {
@@ -108,7 +103,8 @@ bool PictureActs::save(const PictureOrder& order)
             dialog->setValue(done); // delivers events, such as a click on its button
             return !dialog->wasCanceled();
         });
-    dialog.reset();
+    if (dialog)
+        dialog->end();
     if (!series.problem.isEmpty())
         m_notifier.error(series.problem);
     else if (isAttended)
