@@ -28,9 +28,9 @@ protected:
 TEST_F(Progress, GivesTheKeysBackToItsWindow)
 {
     dialog.show();
-    ASSERT_TRUE(waitForActive(&dialog));
+    ASSERT_TRUE(waitFor([this] { return QApplication::activeWindow() == &dialog; }));
     dialog.end();
-    EXPECT_TRUE(waitForActive(&window));
+    EXPECT_TRUE(waitFor([this] { return QApplication::activeWindow() == &window; }));
 }
 
 TEST_F(Progress, ShowsNamesAsTheyAre)
