@@ -314,7 +314,9 @@ void ChangesPanel::enter(const ChangeKey& key, const QString& text)
 
 void ChangesPanel::toggleSelected()
 {
-    const ChangeKeySet selected = getSelected();
+    ChangeKeySet selected = getSelected();
+    if (selected.empty() && m_view->currentIndex().isValid())
+        selected.insert(keyAt(m_view->currentIndex())); // Tab goes to a row without selecting it
     const ChangeKeySet& ticked = m_model->getTicked();
     const bool areTicked = std::includes(ticked.begin(), ticked.end(), selected.begin(), selected.end());
     m_model->setTicked(selected, !areTicked);

@@ -89,6 +89,17 @@ TEST_F(ChangesPictures, OfTheDockReachedByKeysAlone)
     EXPECT_EQ(list.model()->rowCount(), 4) << "the two ticked ones are reverted";
 }
 
+TEST_F(ChangesPictures, SpaceTicksTheRowThatTabHasGoneTo)
+{
+    makeChanges();
+    changes.show();
+    settle();
+    list.clearSelection();
+    list.selectionModel()->setCurrentIndex(list.model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_EQ(panel.getModel().getTicked().size(), 1U);
+}
+
 TEST_F(ChangesPictures, OfAComparisonWithAnotherFile)
 {
     QTemporaryDir folder;
