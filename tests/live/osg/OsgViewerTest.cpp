@@ -31,6 +31,14 @@ std::array<int, 3> colorOfSquare(Probe& probe)
     return {picture.pixels[at], picture.pixels[at + 1], picture.pixels[at + 2]};
 }
 
+/// A program that has drawn knows what it draws with, as the sizes of textures.
+void waitUntilDrawn(Probe& probe)
+{
+    probe.client.showPictures(16, 16);
+    EXPECT_TRUE(probe.runUntil([&] { return !probe.pictures.empty(); })) << probe.end;
+    probe.client.showPictures(0, 0);
+}
+
 /// Makes the program itself let go of a picture.
 const char* const letsGo = "UnRefImageDataAfterApply";
 
@@ -101,6 +109,7 @@ TEST_F(OsgViewer, TellsTheTypesOfProperties)
 
 TEST_F(OsgViewer, EditsEveryPropertyAndTakesAllBack)
 {
+    waitUntilDrawn(probe);
     const NodeId world = nodeNamed(probe, "world");
     const Snapshot before = snapshotOf(probe, world);
     EXPECT_GT(before.size(), 400U);
@@ -406,6 +415,7 @@ TEST_F(OsgViewer, RunsOnWhenAnInspectorIsGone)
 
 TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
 {
+    waitUntilDrawn(probe);
     const NodeId world = nodeNamed(probe, "world");
     const Snapshot before = snapshotOf(probe, world);
     std::vector<std::pair<NodeId, PropertyInfo>> places;
