@@ -113,7 +113,8 @@ namespace
 bool isMadeAnew(const std::string& property, bool isShapeDrawable)
 {
     const bool isArray = property.find("Array") != std::string::npos || property == "PrimitiveSetList";
-    return property == "BufferObject" || (isShapeDrawable && isArray);
+    const bool isSizeOfPicture = property == "TextureWidth" || property == "TextureHeight";
+    return property == "BufferObject" || isSizeOfPicture || (isShapeDrawable && isArray);
 }
 
 } // namespace

@@ -423,7 +423,8 @@ TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
     for (const auto& [place, value] : before)
         if (known.insert(place.first).second)
             for (const PropertyInfo& info : probe.properties(place.first))
-                if (info.writable && info.kind != ValueKind::Object && info.name != letsGo)
+                if (info.writable && info.kind != ValueKind::Object && info.name != letsGo &&
+                    before.count({place.first, info.name}) == 1)
                     places.push_back({place.first, info});
     ASSERT_GT(places.size(), 200U);
     std::mt19937 random(walkSeed());
