@@ -279,7 +279,8 @@ void FramesPanel::showWords()
     if (!m_store.isLive())
         summary = tr("“%1”: %2").arg(m_store.getTitle(), summary);
     if (m_store.isRecording())
-        summary += tr("; recording, %1 frames so far").arg(m_store.getNumRecorded());
+        summary =
+            tr("%1; recording, %2 frames so far").arg(summary, QString::number(m_store.getNumRecorded()));
     m_summary->setText(summary);
     const QStringList lines = FrameReport::differences(frames, m_bars->getChosen());
     if (!lines.isEmpty())

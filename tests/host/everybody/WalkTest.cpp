@@ -297,4 +297,5 @@ TEST_P(EveryText, IsWholeAndStandsOut)
 INSTANTIATE_TEST_SUITE_P(All, EveryText,
                          testing::Values(Look{Theme::Light, 1, Qt::LeftToRight},
                                          Look{Theme::Light, 168 / 96.0, Qt::RightToLeft},
+                                         Look{Theme::Light, 3, Qt::RightToLeft},
                                          Look{Theme::Dark, 3, Qt::LeftToRight}));

@@ -2,6 +2,7 @@
 #include "ModelFiles.h"
 
 #include "import/ModelImport.h"
+#include "language/Languages.h"
 #include "model/ModelFormats.h"
 
 #include <csignal>
@@ -49,6 +50,31 @@ TEST_F(Import, GivesTheSceneFromTheEventLoop)
     ASSERT_TRUE(scene);
     EXPECT_STREQ(scene->getName().getString(), "Harbour");
     EXPECT_FALSE(dialog() && dialog()->isVisible());
+}
+
+TEST_F(Import, TellsWhatIsMissingInTheUsersLanguage)
+{
+    qputenv("SCOPIX_LANGUAGE", "de");
+    Languages::begin();
+    qunsetenv("SCOPIX_LANGUAGE");
+    ModelFiles files;
+    import.start(files.write("plain.obj", "mtllib none.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
+    EXPECT_TRUE(waitForEnd());
+    delete Languages::instance();
+    EXPECT_TRUE(import.notes().join(' ').contains(
+        "1 Materialdatei ist nicht da, stattdessen gelten vorgegebene Materialien: „none.mtl“."))
+        << import.notes().join('\n').toStdString();
+}
+
+TEST_F(Import, TellsWhatIsMissingInEnglishToPrograms)
+{
+    qputenv("SCOPIX_LANGUAGE", "de");
+    ModelFiles files;
+    import.start(files.write("plain.obj", "mtllib none.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
+    EXPECT_TRUE(waitForEnd());
+    qunsetenv("SCOPIX_LANGUAGE");
+    EXPECT_TRUE(import.notes().join(' ').contains("1 file of materials is missing"))
+        << import.notes().join('\n').toStdString();
 }
 
 TEST_F(Import, ReportsWhatIsWrong)
