@@ -218,12 +218,12 @@
     <message>
         <source>Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
 %1</source>
-        <translation>Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, ist ./NAME):
+        <translation>Ohne Fenster („scopix COMMAND --help“ sagt mehr; eine Datei, die so heißt, ist ./NAME):
 %1</translation>
     </message>
     <message>
         <source>Inspects and tunes the 3D scene or model in FILE.</source>
-        <translation>Zeigt und verändert die 3D-Szene oder das Modell in DATEI.</translation>
+        <translation>Zeigt und verändert die 3D-Szene oder das Modell in FILE.</translation>
     </message>
     <message>
         <source>Load this plug-in too; may be given several times.</source>
@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>Select this field; NODE is a node's name or type.</source>
-        <translation>Dieses Feld auswählen; KNOTEN ist Name oder Typ eines Knotens.</translation>
+        <translation>Dieses Feld auswählen; NODE ist Name oder Typ eines Knotens.</translation>
     </message>
     <message>
         <source>Write a picture of the window and end; needs no display.</source>
@@ -255,7 +255,7 @@
     </message>
     <message>
         <source>Write NUMBER pictures of one full turn instead: OUT-01.png and so on.</source>
-        <translation>Stattdessen ANZAHL Bilder einer vollen Drehung schreiben: AUS-01.png und so weiter.</translation>
+        <translation>Stattdessen NUMBER Bilder einer vollen Drehung schreiben: OUT-01.png und so weiter.</translation>
     </message>
     <message>
         <source>How bright light comes into the view and its pictures: none, neutral or filmic. For this session; the menu remembers its choice.</source>
@@ -263,11 +263,11 @@
     </message>
     <message>
         <source>Attach to a running program; may be left out: the only one. In place of FILE.</source>
-        <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von DATEI.</translation>
+        <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von FILE.</translation>
     </message>
     <message>
         <source>Start PROGRAM and attach to it; what follows goes to it. In place of FILE.</source>
-        <translation>PROGRAMM starten und sich damit verbinden; was folgt, erhält das Programm. Anstelle von DATEI.</translation>
+        <translation>PROGRAM starten und sich damit verbinden; was folgt, erhält das Programm. Anstelle von FILE.</translation>
     </message>
     <message>
         <source>List the running programs that can be attached to, and end.</source>
@@ -275,7 +275,7 @@
     </message>
     <message>
         <source>Write what FILE holds to this file, as its ending says, and end; needs no display.</source>
-        <translation>Den Inhalt von DATEI in diese Datei schreiben, im Format ihrer Endung, und beenden; braucht keinen Bildschirm.</translation>
+        <translation>Den Inhalt von FILE in diese Datei schreiben, im Format ihrer Endung, und beenden; braucht keinen Bildschirm.</translation>
     </message>
     <message>
         <source>End when everything asked for is done.</source>
@@ -1076,6 +1076,14 @@
     <message>
         <source>Usage: scopix %1 %2</source>
         <translation>Aufruf: scopix %1 %2</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Beispiele:</translation>
     </message>
     <message>
         <source>Exit status: %1; 2 where it cannot be done.</source>

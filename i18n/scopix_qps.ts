@@ -1078,6 +1078,14 @@
         <translation>[Ûšàĝé: šçöpîx %1 %2 ~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Options:</source>
+        <translation>[Öpţîöñš: ~~~]</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>[Éxàmpléš: ~~~~]</translation>
+    </message>
+    <message>
         <source>Exit status: %1; 2 where it cannot be done.</source>
         <translation>[Éxîţ šţàţûš: %1; 2 wĥéŕé îţ çàññöţ bé döñé. ~~~~~~~~~~~~~~~~~]</translation>
     </message>

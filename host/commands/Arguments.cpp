@@ -107,11 +107,11 @@ std::string helpOf(const Command& command)
                            .toStdString() +
                        "\n" + translated(command.summary) + "\n";
     if (!command.options.empty())
-        text += "\n" + translated(QT_TRANSLATE_NOOP("Command", "Options:")) + "\n";
+        text += "\n" + translated("Options:") + "\n";
     for (const Command::Option& option : command.options)
         text += padded("  " + dashed(option.name) + (option.value ? std::string(" ") + option.value : "")) +
                 translated(option.help) + "\n";
-    text += "\n" + translated(QT_TRANSLATE_NOOP("Command", "Examples:")) + "\n";
+    text += "\n" + translated("Examples:") + "\n";
     for (const Command::Example& example : command.examples)
         text += std::string("  ") + example.line + "\n      " + translated(example.help) + "\n";
     return text + "\n" +

@@ -69,6 +69,7 @@ TEST_F(Tables, HelpIsInTheUsersLanguage)
     const QString help = QString::fromStdString(helpOf(*findCommand("find")));
     EXPECT_TRUE(help.startsWith("Aufruf: scopix find FILE QUERY\nGibt die Pfade der Knoten aus"))
         << qPrintable(help);
+    EXPECT_TRUE(help.contains("\n\nOptionen:\n") && help.contains("\n\nBeispiele:\n")) << qPrintable(help);
     EXPECT_TRUE(help.contains("Rückgabewert: 0, wenn etwas gefunden wurde, 1, wenn nicht; 2, wenn"))
         << qPrintable(help);
 }
