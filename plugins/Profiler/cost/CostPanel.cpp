@@ -201,15 +201,17 @@ bool CostPanel::findView(const SoCamera*& camera, QSize& size) const
 }
 
 // By the user, not by setWithout().
-std::vector<const SoNode*> CostPanel::findHidden() const
+SoHiding CostPanel::findHidden() const
 {
-    std::vector<const SoNode*> hidden;
+    SoHiding hiding;
     const SpxSceneDisplay* display = SpxSceneDisplay::getInstance();
-    for (const SoNode* node : display ? display->getHiddenNodes() : QList<SoNode*>()) {
-        if (node != m_hiddenNode.get())
-            hidden.push_back(node);
-    }
-    return hidden;
+    if (!display)
+        return hiding;
+    for (const SoNode* node : display->getHiddenNodes())
+        hiding.setHidden(node, node != m_hiddenNode.get());
+    const QList<SoNode*> isolated = display->getIsolatedNodes();
+    hiding.isolate({isolated.begin(), isolated.end()});
+    return hiding;
 }
 
 void CostPanel::measure()
@@ -245,12 +247,12 @@ void CostPanel::setWithout(bool on)
     const SoCamera* camera = nullptr;
     QSize size;
     findView(camera, size);
-    const std::vector<const SoNode*> hidden = findHidden();
-    if (display && std::find(hidden.begin(), hidden.end(), branch->node.get()) == hidden.end()) {
+    const SoHiding hiding = findHidden();
+    if (display && !hiding.isHidden(branch->node.get())) {
         m_hiddenNode = branch->node;
         display->setHidden(m_hiddenNode.get(), true);
     }
-    m_run.startWithout(branch->node.get(), services->getSceneRoot(), camera, size, hidden);
+    m_run.startWithout(branch->node.get(), services->getSceneRoot(), camera, size, hiding);
 }
 
 void CostPanel::showColors()

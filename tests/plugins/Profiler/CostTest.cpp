@@ -204,6 +204,19 @@ TEST_F(CostWidget, WhatTheUserHidesIsNotMeasured)
     EXPECT_TRUE(window().getStates().isHidden(large));
 }
 
+TEST_F(CostWidget, WhatIsIsolatedAwayIsNotMeasured)
+{
+    window().getStates().isolate({small});
+    measure();
+    const SoCosts& costs = panel.getRun().getCosts();
+    EXPECT_EQ(costs.branches.front().triangles, 12);
+    EXPECT_EQ(costs.branches.front().pixels, costs.find(small)->pixels);
+    EXPECT_GT(costs.find(small)->pixels, 0);
+    window().getStates().isolate({});
+    measure();
+    EXPECT_GT(panel.getRun().getCosts().branches.front().triangles, 12);
+}
+
 TEST_F(CostWidget, ColoursTheViewWhileItIsInSight)
 {
     auto* view = window().findChild<SceneView*>();
