@@ -47,8 +47,7 @@ double takeTime(QString& arguments)
 double valueOf(const SoFrameColumn& column, std::size_t frame)
 {
     const std::int64_t value = column.values[frame];
-    const double scale = column.unit == "ns" ? 1e-6 : 1;
-    return column.isKnown(value) ? static_cast<double>(value) * scale : NotKnown;
+    return column.isKnown(value) ? column.getShown(value) : NotKnown;
 }
 
 std::vector<double> secondsOf(const SoFrameRecording& frames)
@@ -248,7 +247,7 @@ QString FrameFormula::getUnit(const SoFrameRecording& frames) const
 {
     const std::string formula = QString::fromStdString(m_formula).remove('"').toStdString();
     if (const SoFrameColumn* column = frames.findColumn(formula))
-        return column->unit == "ns" ? QStringLiteral("ms") : QString::fromStdString(column->unit);
+        return QString::fromStdString(column->getShownUnit());
     if (m_windows.size() != 1 || formula != "window_0")
         return {};
     const QString inner = m_windows[0].inner->getUnit(frames);

@@ -11,6 +11,7 @@
 #include <support/Session.h>
 
 #include <xsg/counters/LibraryCounters.h>
+#include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 
@@ -240,6 +241,30 @@ TEST_F(FramesWidget, CountersOfAllKindsAreNotedWithEachFrame)
     panel->getStore().takeNow();
     EXPECT_EQ(panel->getCurves()[0].getValues().back(), 3);
     EXPECT_EQ(panel->getCurves()[1].getValues().back(), static_cast<double>(xsg::feeds.nodesAlive.get()));
+}
+
+TEST_F(FramesWidget, ACounterWithAScaleShowsWhatItTells)
+{
+    SoPerfCounterManager& manager = *SoPerfCounterManager::getInstance();
+    auto* counter = new SoPerfStateCounter("Load", "", "", SoPerfCounter::LOW);
+    counter->setScaleFactor(1e6);
+    ASSERT_TRUE(manager.registerCounter(counter));
+    ASSERT_TRUE(panel->addCurve("Load * 2"));
+    add(1);
+    counter->setState(2'500'000);
+    add(1);
+    panel->getStore().takeNow();
+    EXPECT_EQ(panel->getCurves()[0].getValues().back(), 5);
+    const QString path = settings.filePath("test.csv");
+    EXPECT_EQ(RecordingFiles::write(path, panel->getStore().getFrames()), QString());
+    SoFrameRecording again;
+    QString problem;
+    ASSERT_TRUE(RecordingFiles::read(path, again, problem)) << qPrintable(problem);
+    ASSERT_TRUE(again.findColumn("Load"));
+    EXPECT_EQ(again.findColumn("Load")->getKnown().back(), 2.5);
+    EXPECT_EQ(again.findColumn("Load")->getShownUnit(), "");
+    manager.disableCounter("Load");
+    manager.removeDisabledCounters();
 }
 
 TEST_F(FramesWidget, ARecordingCanBeOpenedAgain)
