@@ -277,11 +277,15 @@ TEST_F(CostWidget, EveryFigureIsWhatWasCounted)
             }
             return 0.0;
         };
+        if (figures[i](*costs.find(small)) <= 0 || figures[i](*costs.find(large)) <= 0) {
+            EXPECT_EQ(i, 0); // a time within the noise
+            continue;
+        }
         const double wanted = figures[i](*costs.find(small)) / figures[i](*costs.find(large));
         if (sizeOf(small) > 0) // none where it is too small to be seen
             EXPECT_NEAR(sizeOf(small) / sizeOf(large), wanted, 0.02 * (1 + wanted)) << i;
         else
-            EXPECT_LT(wanted, 0.02) << i;
+            EXPECT_LT(wanted, 0.1) << i;
     }
     panel.findChild<QComboBox*>("areasFigure")->setCurrentIndex(0);
 }
