@@ -104,7 +104,8 @@ TEST(FrameFormula, FollowsASeriesAsIfItHadComeAtOnce)
             ASSERT_EQ(values.size(), std::size_t(end - first)) << text;
             for (std::size_t i = 0; i < values.size(); ++i) {
                 const double wanted = whole[std::size_t(first) + i];
-                EXPECT_TRUE(std::abs(values[i] - wanted) < 1e-9 || (std::isnan(values[i]) && std::isnan(wanted)))
+                EXPECT_TRUE(std::abs(values[i] - wanted) < 1e-9 ||
+                            (std::isnan(values[i]) && std::isnan(wanted)))
                     << text << " " << first + int(i) << ": " << values[i] << " " << wanted;
             }
         }
