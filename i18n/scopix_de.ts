@@ -952,6 +952,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Eine Szene oder ein Modell öffnen</translation>
     </message>
     <message>
+        <source>Open &amp;in a New Tab…</source>
+        <translation>In neuem &amp;Tab öffnen …</translation>
+    </message>
+    <message>
         <source>Open &amp;Recent</source>
         <translation>Zuletzt &amp;geöffnet</translation>
     </message>
@@ -962,6 +966,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Close Tab</source>
+        <translation>Tab s&amp;chließen</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -1316,12 +1324,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Aus diesem Fenster wurde noch kein Programm gestartet.</translation>
     </message>
     <message>
+        <source>“%1” shows no picture here.</source>
+        <translation>„%1“ zeigt hier kein Bild.</translation>
+    </message>
+    <message>
         <source>%1, process %2</source>
         <translation>%1, Prozess %2</translation>
     </message>
     <message>
-        <source>“%1” shows no picture here.</source>
-        <translation>„%1“ zeigt hier kein Bild.</translation>
+        <source>Launch Again</source>
+        <translation>Erneut starten</translation>
     </message>
     <message>
         <source>Attached to “%1”.</source>
@@ -1342,10 +1354,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>Aufgehoben für die nächste Verbindung mit „%1“: %2.</translation>
-    </message>
-    <message>
-        <source>Launch Again</source>
-        <translation>Erneut starten</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -2576,6 +2584,22 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>“%1” stands in “%2”, which is locked, and cannot be edited before that is unlocked.</source>
         <translation>„%1“ steht in „%2“, das gesperrt ist, und lässt sich erst ändern, wenn das entsperrt ist.</translation>
+    </message>
+    <message>
+        <source>Open scenes</source>
+        <translation>Offene Szenen</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Tab</source>
+        <translation>Nä&amp;chster Tab</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>V&amp;origer Tab</translation>
+    </message>
+    <message>
+        <source>Close this tab</source>
+        <translation>Diesen Tab schließen</translation>
     </message>
     <message>
         <source>Node</source>

@@ -952,6 +952,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Öpéñ à šçéñé öŕ mödél ~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Open &amp;in a New Tab…</source>
+        <translation>[Öpéñ &amp;îñ à Ñéw Ţàb… ~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Open &amp;Recent</source>
         <translation>[Öpéñ &amp;Ŕéçéñţ ~~~~~]</translation>
     </message>
@@ -962,6 +966,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Export…</source>
         <translation>[&amp;Éxpöŕţ… ~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Close Tab</source>
+        <translation>[&amp;Çlöšé Ţàb ~~~~]</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -1316,12 +1324,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ñö pŕöĝŕàm wàš làûñçĥéd fŕöm ţĥîš wîñdöw ýéţ. ~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1” shows no picture here.</source>
+        <translation>[“%1” šĥöwš ñö pîçţûŕé ĥéŕé. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1, process %2</source>
         <translation>[%1, pŕöçéšš %2 ~~~~~~]</translation>
     </message>
     <message>
-        <source>“%1” shows no picture here.</source>
-        <translation>[“%1” šĥöwš ñö pîçţûŕé ĥéŕé. ~~~~~~~~~~~]</translation>
+        <source>Launch Again</source>
+        <translation>[Làûñçĥ Àĝàîñ ~~~~~]</translation>
     </message>
     <message>
         <source>Attached to “%1”.</source>
@@ -1342,10 +1354,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>[Ķépţ föŕ wĥéñ ýöû àţţàçĥ ţö “%1” àĝàîñ: %2. ~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Launch Again</source>
-        <translation>[Làûñçĥ Àĝàîñ ~~~~~]</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -2576,6 +2584,22 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>“%1” stands in “%2”, which is locked, and cannot be edited before that is unlocked.</source>
         <translation>[“%1” šţàñdš îñ “%2”, wĥîçĥ îš löçķéd, àñd çàññöţ bé édîţéd béföŕé ţĥàţ îš ûñlöçķéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Open scenes</source>
+        <translation>[Öpéñ šçéñéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Tab</source>
+        <translation>[Ñé&amp;xţ Ţàb ~~~~]</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>[Pŕé&amp;vîöûš Ţàb ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Close this tab</source>
+        <translation>[Çlöšé ţĥîš ţàb ~~~~~~]</translation>
     </message>
     <message>
         <source>Node</source>
