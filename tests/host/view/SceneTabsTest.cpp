@@ -10,6 +10,8 @@
 #include "window/ReloadBar.h"
 #include "window/SceneChanges.h"
 
+#include <support/Waiting.h>
+
 #include <xsg/core/SoField.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/cameras/SoCamera.h>
@@ -70,7 +72,7 @@ struct Program {
         QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
         window.getFiles().getScenes().setPause(20, 50);
         window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000)); // else shortcuts do not act
+        EXPECT_TRUE(waitForActive(&window)); // else shortcuts do not act
     }
 
     UserNotifier notifier;
@@ -115,7 +117,7 @@ protected:
     {
         QSignalSpy opened(&files(), &SceneFiles::opened);
         files().openInTab(path);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }, 60000));
+        ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
         EXPECT_TRUE(opened.first().first().toBool());
         settle();
     }
@@ -139,7 +141,7 @@ protected:
     {
         if (!program->window.isActiveWindow()) { // a dialog was
             program->window.activateWindow();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&program->window, 60000));
+            ASSERT_TRUE(waitForActive(&program->window));
         }
         tree().setFocus();
         QTest::keyClick(&tree(), static_cast<Qt::Key>(key), modifiers);
@@ -255,7 +257,7 @@ TEST_F(Tabs, ClosingAsksForWhatIsUnsaved)
     {
         const Answers cancel("Cancel");
         clickTab(0, Qt::MiddleButton);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return cancel.texts().size() == 1; }));
+        ASSERT_TRUE(waitFor([&] { return cancel.texts().size() == 1; }));
         EXPECT_TRUE(cancel.texts().first().contains("a.xsg"));
         clickTab(1);
         EXPECT_FALSE(program->window.close());
@@ -265,7 +267,7 @@ TEST_F(Tabs, ClosingAsksForWhatIsUnsaved)
     EXPECT_EQ(title(), "a.xsg");
     const Answers discard("Discard");
     clickTab(0, Qt::MiddleButton);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return scenes().getAll().size() == 1; }));
+    EXPECT_TRUE(waitFor([&] { return scenes().getAll().size() == 1; }));
     EXPECT_EQ(title(), "b.xsg");
     EXPECT_EQ(text().find("painta"), std::string::npos);
     key(Qt::Key_F4, Qt::ControlModifier);
@@ -284,13 +286,13 @@ TEST_F(Tabs, UnsavedEditsOfEachOutliveACrash)
     duplicate();
     duplicate();
     const std::string second = text();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return kept().size() == 2; }, 20000));
+    ASSERT_TRUE(waitFor([this] { return kept().size() == 2; }));
     program.reset(); // as at the end of a session that could not ask
     program = std::make_unique<Program>();
     {
         const Answers recover("Recover");
         program->window.enterInteractiveMode();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return scenes().getAll().size() == 2; }, 20000));
+        ASSERT_TRUE(waitFor([this] { return scenes().getAll().size() == 2; }));
         EXPECT_EQ(recover.texts().size(), 2);
     }
     std::map<QString, std::string> found;
@@ -318,8 +320,7 @@ TEST_F(Tabs, TheFileOfAHiddenOneIsWatched)
     file.write("# more\n");
     file.close();
     SceneDocument& hidden = scenes().getAll().front()->getDocument();
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return hidden.getFileState() == SceneDocument::FileState::Changed; }, 20000));
+    ASSERT_TRUE(waitFor([&] { return hidden.getFileState() == SceneDocument::FileState::Changed; }));
     EXPECT_TRUE(bar->isHidden());
     clickTab(0);
     EXPECT_FALSE(bar->isHidden());
@@ -337,7 +338,7 @@ TEST_F(Tabs, WhatIsReadMeanwhileComesToItsOwnPlace)
     files().open(makeFile("c"));
     if (opened.isEmpty())
         clickTab(1);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }, 60000));
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
     EXPECT_EQ(tabs().tabText(0), "c.xsg");
     EXPECT_EQ(tabs().tabText(1), "b.xsg");
     clickTab(1);
