@@ -40,6 +40,7 @@ struct Panel {
     {
         panel.resize(Size.width(), 2 * Size.height());
         panel.getBars().setBarWidth(1);
+        panel.show();
         for (int figure = SoFrame::Whole; figure < SoFrame::Whole + Counters; ++figure)
             panel.addCurve(QString::fromLatin1(SoFrame::getName(static_cast<SoFrame::Figure>(figure))));
         panel.getStore().setWatched(true);
@@ -126,9 +127,22 @@ void framesCome(benchmark::State& state)
 }
 BENCHMARK(framesCome)->Unit(benchmark::kMillisecond)->Iterations(200);
 
+// All curves for all frames.
+void curvesAnew(benchmark::State& state)
+{
+    Panel shown;
+    for (auto _ : state) {
+        for (const FrameCurve& curve : shown.panel.getCurves())
+            benchmark::DoNotOptimize(
+                FrameFormula(curve.formula.getText()).evaluate(shown.panel.getStore().getFrames()));
+    }
+}
+BENCHMARK(curvesAnew)->Unit(benchmark::kMillisecond);
+
 std::vector<bench::Ratio> ratios()
 {
-    return {{"the dock's drawing / a bare widget's", "dock", "bareWidget", "aim: at most 2"}};
+    return {{"the dock's drawing / a bare widget's", "dock", "bareWidget", "aim: at most 2"},
+            {"computing all curves anew / taking in new frames", "curvesAnew", "framesCome", ""}};
 }
 
 } // namespace

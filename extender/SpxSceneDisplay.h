@@ -30,6 +30,9 @@ public:
     /// The 3D view shows how often each pixel is drawn, whatever the user has chosen in its menu.
     virtual void setOverdrawShown(bool on) = 0;
 
+    /// Where only some nodes of the open scene are seen, each with all that is below it: these; else none.
+    virtual QList<SoNode*> getIsolatedNodes() const = 0;
+
 protected:
     SpxSceneDisplay() = default;
     virtual ~SpxSceneDisplay();

@@ -76,6 +76,198 @@
         <translation>Für %1 Zeilen reicht der Speicher nicht; schließe andere Programme.</translation>
     </message>
     <message>
+        <source>Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows the group.</source>
+        <translation>Enthält andere Knoten der Reihe nach. Was ein Kind einstellt, gilt für die Kinder danach und für das, was der Gruppe folgt.</translation>
+    </message>
+    <message>
+        <source>A group that isolates state: what its children set does not reach what follows the group.</source>
+        <translation>Eine Gruppe, die abschirmt: Was ihre Kinder einstellen, gilt nicht für das, was der Gruppe folgt.</translation>
+    </message>
+    <message>
+        <source>Shows one of its children, all, or none.</source>
+        <translation>Zeigt eines ihrer Kinder, alle oder keines.</translation>
+    </message>
+    <message>
+        <source>Shows one of its children by the distance of the eye: the first when nearer than the first distance, the second when nearer than the second, and so on; the last child beyond all distances.</source>
+        <translation>Zeigt eines ihrer Kinder je nach Entfernung des Auges: das erste, wenn es näher als die erste Entfernung ist, das zweite, wenn näher als die zweite, und so weiter; jenseits aller Entfernungen das letzte.</translation>
+    </message>
+    <message>
+        <source>Shows its children once for each matrix; the graphics hardware copies them. Lights and clip planes inside stand where the first copy does.</source>
+        <translation>Zeigt ihre Kinder einmal für jede Matrix; die Grafikkarte vervielfacht sie. Lichter und Schnittebenen darin stehen, wo die erste Kopie steht.</translation>
+    </message>
+    <message>
+        <source>Stands for a node of a type that this program does not know, as a file had it, so that writing the file again loses nothing. Its fields are those that the file has, each with its value as text; its children are shown as a separator's.</source>
+        <translation>Steht für einen Knoten, dessen Typ dieses Programm nicht kennt, so wie er in einer Datei stand, damit beim Schreiben nichts verloren geht. Seine Felder sind die der Datei, jedes mit seinem Wert als Text; seine Kinder werden wie die eines Separators gezeigt.</translation>
+    </message>
+    <message>
+        <source>Sees as an eye does: what is far is small.</source>
+        <translation>Sieht wie ein Auge: Was fern ist, ist klein.</translation>
+    </message>
+    <message>
+        <source>Sees everything in its size, however far it is.</source>
+        <translation>Sieht alles in seiner Größe, wie fern es auch ist.</translation>
+    </message>
+    <message>
+        <source>Light that comes from far away, everywhere from the same direction.</source>
+        <translation>Licht, das von weit her kommt, überall aus derselben Richtung.</translation>
+    </message>
+    <message>
+        <source>Light from a point in all directions.</source>
+        <translation>Licht von einem Punkt in alle Richtungen.</translation>
+    </message>
+    <message>
+        <source>Light from a point within a cone.</source>
+        <translation>Licht von einem Punkt innerhalb eines Kegels.</translation>
+    </message>
+    <message>
+        <source>Light that comes evenly from everywhere; takes the place of an earlier one.</source>
+        <translation>Licht, das gleichmäßig von überall her kommt; tritt an die Stelle eines früheren.</translation>
+    </message>
+    <message>
+        <source>The light of the surroundings, which physically based surfaces mirror and scatter: a ground, a horizon and a sky above it, the y axis pointing up. Takes the place of an earlier one and, for these surfaces, of the headlight. Colours are linear.</source>
+        <translation>Das Licht der Umgebung, das physikalisch basierte Oberflächen spiegeln und streuen: ein Boden, ein Horizont und darüber ein Himmel; die y-Achse zeigt nach oben. Tritt an die Stelle eines früheren und für diese Oberflächen an die des Kameralichts. Farben sind linear.</translation>
+    </message>
+    <message>
+        <source>Scales, then turns, then moves what follows it. An ignored field takes no part.</source>
+        <translation>Skaliert, dreht und verschiebt in dieser Reihenfolge, was folgt. Ein ignoriertes Feld wirkt nicht mit.</translation>
+    </message>
+    <message>
+        <source>Moves what follows it by a matrix.</source>
+        <translation>Bewegt durch eine Matrix, was folgt.</translation>
+    </message>
+    <message>
+        <source>Turns what follows it, faster or slower, as time passes: each view that shows the scene drives the time source (`SoTimeSource`).</source>
+        <translation>Dreht mit der Zeit, was folgt, schneller oder langsamer: Jede Ansicht der Szene treibt die Zeitquelle (`SoTimeSource`) an.</translation>
+    </message>
+    <message>
+        <source>A clip: its tracks give fields of other nodes the values of one time. While it is stopped these have their own. What it writes is no edit, and is not saved.</source>
+        <translation>Ein Clip: Seine Spuren geben Feldern anderer Knoten die Werte eines Zeitpunkts. Solange er gestoppt ist, haben diese ihre eigenen. Was er schreibt, ist keine Bearbeitung und wird nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Keys of one field of one node, for the animation that it is a child of. Fields of numbers, rotations, colours and lists of numbers can be animated.</source>
+        <translation>Schlüssel für ein Feld eines Knotens, für die Animation, deren Kind sie ist. Animieren lassen sich Felder mit Zahlen, Drehungen, Farben und Listen von Zahlen.</translation>
+    </message>
+    <message>
+        <source>Bends the points before it, and their normals, by the bones of a skeleton, for the vertex shapes after it. Bones are transforms that stand anywhere in the scene. Lists that do not fit together change nothing.</source>
+        <translation>Biegt die Punkte davor und ihre Normalen nach den Knochen eines Skeletts, für die Punktkörper danach. Knochen sind Transformationen, die irgendwo in der Szene stehen. Listen, die nicht zusammenpassen, ändern nichts.</translation>
+    </message>
+    <message>
+        <source>Moves the points before it, and their normals, towards other shapes, for the vertex shapes after it: adds what each target differs by, as much of it as its weight says. Lists that do not fit together change nothing.</source>
+        <translation>Bewegt die Punkte davor und ihre Normalen auf andere Formen zu, für die Punktkörper danach: Fügt hinzu, worin sich jedes Ziel unterscheidet, so viel davon, wie sein Gewicht angibt. Listen, die nicht zusammenpassen, ändern nichts.</translation>
+    </message>
+    <message>
+        <source>How the surface of what follows looks. An ignored field leaves what an earlier material said.</source>
+        <translation>Wie die Oberfläche dessen aussieht, was folgt. Ein ignoriertes Feld lässt gelten, was ein früheres Material bestimmt hat.</translation>
+    </message>
+    <message>
+        <source>A physically based surface for what follows, as glTF 2.0 defines it; takes the place of an earlier material of either kind. Colours are linear: half as bright is 0.5, shown as 0.735. A light of intensity 3.14 makes a white surface white. An ignored field has its default.</source>
+        <translation>Eine physikalisch basierte Oberfläche für das, was folgt, wie glTF 2.0 sie festlegt; tritt an die Stelle eines früheren Materials beider Arten. Farben sind linear: Halb so hell ist 0.5, gezeigt als 0.735. Ein Licht der Stärke 3.14 macht eine weiße Fläche weiß. Ein ignoriertes Feld hat seinen Vorgabewert.</translation>
+    </message>
+    <message>
+        <source>The picture of one property of the physically based surfaces that follow, which multiply it with their own values. Pictures of colours are decoded from sRGB, others are taken as they are. Texture2 is their base colour, too.</source>
+        <translation>Das Bild einer Eigenschaft der physikalisch basierten Oberflächen, die folgen und es mit ihren eigenen Werten multiplizieren. Bilder von Farben werden aus sRGB umgerechnet, andere so genommen, wie sie sind. Auch Texture2 ist ihre Grundfarbe.</translation>
+    </message>
+    <message>
+        <source>The picture on the surface of what follows. A file, where one is named and can be read, wins over the image.</source>
+        <translation>Das Bild auf der Oberfläche dessen, was folgt. Eine Datei, die genannt und lesbar ist, geht dem eigenen Bild vor.</translation>
+    </message>
+    <message>
+        <source>Moves the texture on what follows: scales, then turns, then moves its coordinates.</source>
+        <translation>Bewegt die Textur auf dem, was folgt: Skaliert, dreht und verschiebt ihre Koordinaten in dieser Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Whether what follows is drawn filled, as its edges, as its points, or not at all.</source>
+        <translation>Ob das, was folgt, gefüllt, als Kanten, als Punkte oder gar nicht gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>How finely what follows is drawn.</source>
+        <translation>Wie fein das gezeichnet wird, was folgt.</translation>
+    </message>
+    <message>
+        <source>Lets what follows fade into a colour with its distance from the eye.</source>
+        <translation>Lässt das, was folgt, mit der Entfernung vom Auge in eine Farbe übergehen.</translation>
+    </message>
+    <message>
+        <source>Cuts what follows it: what lies on the side the plane's normal points to stays.</source>
+        <translation>Schneidet, was folgt: Was auf der Seite liegt, auf die die Normale der Ebene zeigt, bleibt.</translation>
+    </message>
+    <message>
+        <source>The corners of the vertex shapes that follow.</source>
+        <translation>Die Ecken der Punktkörper, die folgen.</translation>
+    </message>
+    <message>
+        <source>The directions of light reflection at the corners of the vertex shapes that follow, one per point. Where they are missing or of another number than the points, a shape makes its own.</source>
+        <translation>Die Richtungen, in denen die Ecken der folgenden Punktkörper Licht zurückwerfen, eine je Punkt. Wo sie fehlen oder nicht so viele wie die Punkte sind, bildet ein Körper eigene.</translation>
+    </message>
+    <message>
+        <source>The places in the texture at the corners of the vertex shapes that follow, one per point: (0, 0) is the texture's lower left corner, (1, 1) the upper right.</source>
+        <translation>Die Stellen der Textur an den Ecken der folgenden Punktkörper, eine je Punkt: (0, 0) ist die linke untere Ecke der Textur, (1, 1) die rechte obere.</translation>
+    </message>
+    <message>
+        <source>Further places in textures at the corners of the vertex shapes that follow, one per point, for the MaterialTexture nodes that ask for them.</source>
+        <translation>Weitere Stellen in Texturen an den Ecken der folgenden Punktkörper, eine je Punkt, für die MaterialTexture-Knoten, die danach verlangen.</translation>
+    </message>
+    <message>
+        <source>A box around the origin.</source>
+        <translation>Ein Quader um den Ursprung.</translation>
+    </message>
+    <message>
+        <source>A ball around the origin.</source>
+        <translation>Eine Kugel um den Ursprung.</translation>
+    </message>
+    <message>
+        <source>A cone around the y axis, its tip up.</source>
+        <translation>Ein Kegel um die y-Achse, die Spitze oben.</translation>
+    </message>
+    <message>
+        <source>A cylinder around the y axis.</source>
+        <translation>Ein Zylinder um die y-Achse.</translation>
+    </message>
+    <message>
+        <source>Triangles, each of the next three points.</source>
+        <translation>Dreiecke, jedes aus den nächsten drei Punkten.</translation>
+    </message>
+    <message>
+        <source>Strips of triangles: each point after the second makes a triangle with the two before it. Each strip takes as many of the next points as its count says; without counts one strip takes all.</source>
+        <translation>Streifen von Dreiecken: Jeder Punkt nach dem zweiten bildet mit den zwei davor ein Dreieck. Jeder Streifen nimmt so viele der nächsten Punkte, wie seine Anzahl angibt; ohne Anzahlen nimmt ein Streifen alle.</translation>
+    </message>
+    <message>
+        <source>Triangles, each of three points named by their place in the list of points.</source>
+        <translation>Dreiecke, jedes aus drei Punkten, die durch ihre Stelle in der Liste der Punkte genannt sind.</translation>
+    </message>
+    <message>
+        <source>Strips of triangles, the points named by their places in the list.</source>
+        <translation>Streifen von Dreiecken; die Punkte sind durch ihre Stellen in der Liste genannt.</translation>
+    </message>
+    <message>
+        <source>Lines from point to point. Each joins as many of the next points as its count says; without counts one line joins all.</source>
+        <translation>Linien von Punkt zu Punkt. Jede verbindet so viele der nächsten Punkte, wie ihre Anzahl angibt; ohne Anzahlen verbindet eine Linie alle.</translation>
+    </message>
+    <message>
+        <source>Lines from point to point, the points named by their places in the list.</source>
+        <translation>Linien von Punkt zu Punkt; die Punkte sind durch ihre Stellen in der Liste genannt.</translation>
+    </message>
+    <message>
+        <source>Each of the points, drawn as a dot.</source>
+        <translation>Jeder der Punkte, als Tupfen gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Some of the points, drawn as dots.</source>
+        <translation>Einige der Punkte, als Tupfen gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Text that keeps its size on the screen and stands where the origin is. Lines run downwards. Latin letters, digits and signs; what the font does not have is shown as a box.</source>
+        <translation>Text, der auf dem Bildschirm seine Größe behält und dort steht, wo der Ursprung ist. Zeilen folgen nach unten. Lateinische Buchstaben, Ziffern und Zeichen; was die Schrift nicht hat, erscheint als Kästchen.</translation>
+    </message>
+    <message>
+        <source>A place in the scene where an application draws by itself, with OpenGL 3.3. Draws nothing until a callback is set.</source>
+        <translation>Eine Stelle in der Szene, an der eine Anwendung selbst zeichnet, mit OpenGL 3.3. Zeichnet nichts, bis ein Callback gesetzt ist.</translation>
+    </message>
+    <message>
+        <source>A comment: a text for people, without effect on the picture.</source>
+        <translation>Ein Kommentar: ein Text für Menschen, ohne Wirkung auf das Bild.</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -136,8 +328,8 @@
         <translation>%1 Werte</translation>
     </message>
     <message>
-        <source>, %1 to %2</source>
-        <translation>, %1 bis %2</translation>
+        <source>%1, %2 to %3</source>
+        <translation>%1, %2 bis %3</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -408,8 +600,8 @@
         <translation>keine Zahlen</translation>
     </message>
     <message>
-        <source>, %1 NaN</source>
-        <translation>, %1 NaN</translation>
+        <source>%1, %2 NaN</source>
+        <translation>%1, %2 NaN (keine Zahl)</translation>
     </message>
     <message>
         <source>Choose a file</source>
@@ -604,16 +796,16 @@
         <translation>Spaltenbreiten anpassen</translation>
     </message>
     <message>
-        <source> · ignored</source>
-        <translation> · ignoriert</translation>
+        <source>ignored</source>
+        <translation>ignoriert</translation>
     </message>
     <message>
-        <source> · connected</source>
-        <translation> · verbunden</translation>
+        <source>connected</source>
+        <translation>verbunden</translation>
     </message>
     <message>
-        <source> · %1 shown</source>
-        <translation> · %1 gezeigt</translation>
+        <source>%1 shown</source>
+        <translation>%1 gezeigt</translation>
     </message>
     <message>
         <source>x*2, x+row*0.1, clamp(x,0,1)</source>
@@ -950,6 +1142,10 @@
     <message>
         <source>No field passes the filter.</source>
         <translation>Kein Feld passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>Grad</translation>
     </message>
     <message>
         <source>So many cells do not fit into the clipboard; write them to a file with “Write CSV…”.</source>

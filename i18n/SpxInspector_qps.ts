@@ -76,6 +76,198 @@
         <translation>[Ţĥéŕé îš ñöţ éñöûĝĥ mémöŕý föŕ %1 ŕöwš; çlöšé öţĥéŕ pŕöĝŕàmš. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Holds other nodes in order. State that a child sets is seen by the children after it, and by what follows the group.</source>
+        <translation>[Ĥöldš öţĥéŕ ñödéš îñ öŕdéŕ. Šţàţé ţĥàţ à çĥîld šéţš îš šééñ bý ţĥé çĥîldŕéñ àfţéŕ îţ, àñd bý wĥàţ föllöwš ţĥé ĝŕöûp. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A group that isolates state: what its children set does not reach what follows the group.</source>
+        <translation>[À ĝŕöûp ţĥàţ îšölàţéš šţàţé: wĥàţ îţš çĥîldŕéñ šéţ döéš ñöţ ŕéàçĥ wĥàţ föllöwš ţĥé ĝŕöûp. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Shows one of its children, all, or none.</source>
+        <translation>[Šĥöwš öñé öf îţš çĥîldŕéñ, àll, öŕ ñöñé. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Shows one of its children by the distance of the eye: the first when nearer than the first distance, the second when nearer than the second, and so on; the last child beyond all distances.</source>
+        <translation>[Šĥöwš öñé öf îţš çĥîldŕéñ bý ţĥé dîšţàñçé öf ţĥé éýé: ţĥé fîŕšţ wĥéñ ñéàŕéŕ ţĥàñ ţĥé fîŕšţ dîšţàñçé, ţĥé šéçöñd wĥéñ ñéàŕéŕ ţĥàñ ţĥé šéçöñd, àñd šö öñ; ţĥé làšţ çĥîld béýöñd àll dîšţàñçéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Shows its children once for each matrix; the graphics hardware copies them. Lights and clip planes inside stand where the first copy does.</source>
+        <translation>[Šĥöwš îţš çĥîldŕéñ öñçé föŕ éàçĥ màţŕîx; ţĥé ĝŕàpĥîçš ĥàŕdwàŕé çöpîéš ţĥém. Lîĝĥţš àñd çlîp plàñéš îñšîdé šţàñd wĥéŕé ţĥé fîŕšţ çöpý döéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Stands for a node of a type that this program does not know, as a file had it, so that writing the file again loses nothing. Its fields are those that the file has, each with its value as text; its children are shown as a separator's.</source>
+        <translation>[Šţàñdš föŕ à ñödé öf à ţýpé ţĥàţ ţĥîš pŕöĝŕàm döéš ñöţ ķñöw, àš à fîlé ĥàd îţ, šö ţĥàţ wŕîţîñĝ ţĥé fîlé àĝàîñ löšéš ñöţĥîñĝ. Îţš fîéldš àŕé ţĥöšé ţĥàţ ţĥé fîlé ĥàš, éàçĥ wîţĥ îţš vàlûé àš ţéxţ; îţš çĥîldŕéñ àŕé šĥöwñ àš à šépàŕàţöŕ'š. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Sees as an eye does: what is far is small.</source>
+        <translation>[Šééš àš àñ éýé döéš: wĥàţ îš fàŕ îš šmàll. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Sees everything in its size, however far it is.</source>
+        <translation>[Šééš évéŕýţĥîñĝ îñ îţš šîžé, ĥöwévéŕ fàŕ îţ îš. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Light that comes from far away, everywhere from the same direction.</source>
+        <translation>[Lîĝĥţ ţĥàţ çöméš fŕöm fàŕ àwàý, évéŕýwĥéŕé fŕöm ţĥé šàmé dîŕéçţîöñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Light from a point in all directions.</source>
+        <translation>[Lîĝĥţ fŕöm à pöîñţ îñ àll dîŕéçţîöñš. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Light from a point within a cone.</source>
+        <translation>[Lîĝĥţ fŕöm à pöîñţ wîţĥîñ à çöñé. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Light that comes evenly from everywhere; takes the place of an earlier one.</source>
+        <translation>[Lîĝĥţ ţĥàţ çöméš évéñlý fŕöm évéŕýwĥéŕé; ţàķéš ţĥé plàçé öf àñ éàŕlîéŕ öñé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The light of the surroundings, which physically based surfaces mirror and scatter: a ground, a horizon and a sky above it, the y axis pointing up. Takes the place of an earlier one and, for these surfaces, of the headlight. Colours are linear.</source>
+        <translation>[Ţĥé lîĝĥţ öf ţĥé šûŕŕöûñdîñĝš, wĥîçĥ pĥýšîçàllý bàšéd šûŕfàçéš mîŕŕöŕ àñd šçàţţéŕ: à ĝŕöûñd, à ĥöŕîžöñ àñd à šķý àbövé îţ, ţĥé ý àxîš pöîñţîñĝ ûp. Ţàķéš ţĥé plàçé öf àñ éàŕlîéŕ öñé àñd, föŕ ţĥéšé šûŕfàçéš, öf ţĥé ĥéàdlîĝĥţ. Çölöûŕš àŕé lîñéàŕ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Scales, then turns, then moves what follows it. An ignored field takes no part.</source>
+        <translation>[Šçàléš, ţĥéñ ţûŕñš, ţĥéñ mövéš wĥàţ föllöwš îţ. Àñ îĝñöŕéd fîéld ţàķéš ñö pàŕţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Moves what follows it by a matrix.</source>
+        <translation>[Mövéš wĥàţ föllöwš îţ bý à màţŕîx. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Turns what follows it, faster or slower, as time passes: each view that shows the scene drives the time source (`SoTimeSource`).</source>
+        <translation>[Ţûŕñš wĥàţ föllöwš îţ, fàšţéŕ öŕ šlöwéŕ, àš ţîmé pàššéš: éàçĥ vîéw ţĥàţ šĥöwš ţĥé šçéñé dŕîvéš ţĥé ţîmé šöûŕçé (`ŠöŢîméŠöûŕçé`). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A clip: its tracks give fields of other nodes the values of one time. While it is stopped these have their own. What it writes is no edit, and is not saved.</source>
+        <translation>[À çlîp: îţš ţŕàçķš ĝîvé fîéldš öf öţĥéŕ ñödéš ţĥé vàlûéš öf öñé ţîmé. Wĥîlé îţ îš šţöppéd ţĥéšé ĥàvé ţĥéîŕ öwñ. Wĥàţ îţ wŕîţéš îš ñö édîţ, àñd îš ñöţ šàvéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Keys of one field of one node, for the animation that it is a child of. Fields of numbers, rotations, colours and lists of numbers can be animated.</source>
+        <translation>[Ķéýš öf öñé fîéld öf öñé ñödé, föŕ ţĥé àñîmàţîöñ ţĥàţ îţ îš à çĥîld öf. Fîéldš öf ñûmbéŕš, ŕöţàţîöñš, çölöûŕš àñd lîšţš öf ñûmbéŕš çàñ bé àñîmàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Bends the points before it, and their normals, by the bones of a skeleton, for the vertex shapes after it. Bones are transforms that stand anywhere in the scene. Lists that do not fit together change nothing.</source>
+        <translation>[Béñdš ţĥé pöîñţš béföŕé îţ, àñd ţĥéîŕ ñöŕmàlš, bý ţĥé böñéš öf à šķéléţöñ, föŕ ţĥé véŕţéx šĥàpéš àfţéŕ îţ. Böñéš àŕé ţŕàñšföŕmš ţĥàţ šţàñd àñýwĥéŕé îñ ţĥé šçéñé. Lîšţš ţĥàţ dö ñöţ fîţ ţöĝéţĥéŕ çĥàñĝé ñöţĥîñĝ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Moves the points before it, and their normals, towards other shapes, for the vertex shapes after it: adds what each target differs by, as much of it as its weight says. Lists that do not fit together change nothing.</source>
+        <translation>[Mövéš ţĥé pöîñţš béföŕé îţ, àñd ţĥéîŕ ñöŕmàlš, ţöwàŕdš öţĥéŕ šĥàpéš, föŕ ţĥé véŕţéx šĥàpéš àfţéŕ îţ: àddš wĥàţ éàçĥ ţàŕĝéţ dîfféŕš bý, àš mûçĥ öf îţ àš îţš wéîĝĥţ šàýš. Lîšţš ţĥàţ dö ñöţ fîţ ţöĝéţĥéŕ çĥàñĝé ñöţĥîñĝ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>How the surface of what follows looks. An ignored field leaves what an earlier material said.</source>
+        <translation>[Ĥöw ţĥé šûŕfàçé öf wĥàţ föllöwš lööķš. Àñ îĝñöŕéd fîéld léàvéš wĥàţ àñ éàŕlîéŕ màţéŕîàl šàîd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A physically based surface for what follows, as glTF 2.0 defines it; takes the place of an earlier material of either kind. Colours are linear: half as bright is 0.5, shown as 0.735. A light of intensity 3.14 makes a white surface white. An ignored field has its default.</source>
+        <translation>[À pĥýšîçàllý bàšéd šûŕfàçé föŕ wĥàţ föllöwš, àš ĝlŢF 2.0 défîñéš îţ; ţàķéš ţĥé plàçé öf àñ éàŕlîéŕ màţéŕîàl öf éîţĥéŕ ķîñd. Çölöûŕš àŕé lîñéàŕ: ĥàlf àš bŕîĝĥţ îš 0.5, šĥöwñ àš 0.735. À lîĝĥţ öf îñţéñšîţý 3.14 màķéš à wĥîţé šûŕfàçé wĥîţé. Àñ îĝñöŕéd fîéld ĥàš îţš défàûlţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture of one property of the physically based surfaces that follow, which multiply it with their own values. Pictures of colours are decoded from sRGB, others are taken as they are. Texture2 is their base colour, too.</source>
+        <translation>[Ţĥé pîçţûŕé öf öñé pŕöpéŕţý öf ţĥé pĥýšîçàllý bàšéd šûŕfàçéš ţĥàţ föllöw, wĥîçĥ mûlţîplý îţ wîţĥ ţĥéîŕ öwñ vàlûéš. Pîçţûŕéš öf çölöûŕš àŕé déçödéd fŕöm šŔĜB, öţĥéŕš àŕé ţàķéñ àš ţĥéý àŕé. Ţéxţûŕé2 îš ţĥéîŕ bàšé çölöûŕ, ţöö. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture on the surface of what follows. A file, where one is named and can be read, wins over the image.</source>
+        <translation>[Ţĥé pîçţûŕé öñ ţĥé šûŕfàçé öf wĥàţ föllöwš. À fîlé, wĥéŕé öñé îš ñàméd àñd çàñ bé ŕéàd, wîñš övéŕ ţĥé îmàĝé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Moves the texture on what follows: scales, then turns, then moves its coordinates.</source>
+        <translation>[Mövéš ţĥé ţéxţûŕé öñ wĥàţ föllöwš: šçàléš, ţĥéñ ţûŕñš, ţĥéñ mövéš îţš çööŕdîñàţéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Whether what follows is drawn filled, as its edges, as its points, or not at all.</source>
+        <translation>[Wĥéţĥéŕ wĥàţ föllöwš îš dŕàwñ fîlléd, àš îţš édĝéš, àš îţš pöîñţš, öŕ ñöţ àţ àll. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>How finely what follows is drawn.</source>
+        <translation>[Ĥöw fîñélý wĥàţ föllöwš îš dŕàwñ. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Lets what follows fade into a colour with its distance from the eye.</source>
+        <translation>[Léţš wĥàţ föllöwš fàdé îñţö à çölöûŕ wîţĥ îţš dîšţàñçé fŕöm ţĥé éýé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cuts what follows it: what lies on the side the plane's normal points to stays.</source>
+        <translation>[Çûţš wĥàţ föllöwš îţ: wĥàţ lîéš öñ ţĥé šîdé ţĥé plàñé'š ñöŕmàl pöîñţš ţö šţàýš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The corners of the vertex shapes that follow.</source>
+        <translation>[Ţĥé çöŕñéŕš öf ţĥé véŕţéx šĥàpéš ţĥàţ föllöw. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The directions of light reflection at the corners of the vertex shapes that follow, one per point. Where they are missing or of another number than the points, a shape makes its own.</source>
+        <translation>[Ţĥé dîŕéçţîöñš öf lîĝĥţ ŕéfléçţîöñ àţ ţĥé çöŕñéŕš öf ţĥé véŕţéx šĥàpéš ţĥàţ föllöw, öñé péŕ pöîñţ. Wĥéŕé ţĥéý àŕé mîššîñĝ öŕ öf àñöţĥéŕ ñûmbéŕ ţĥàñ ţĥé pöîñţš, à šĥàpé màķéš îţš öwñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The places in the texture at the corners of the vertex shapes that follow, one per point: (0, 0) is the texture's lower left corner, (1, 1) the upper right.</source>
+        <translation>[Ţĥé plàçéš îñ ţĥé ţéxţûŕé àţ ţĥé çöŕñéŕš öf ţĥé véŕţéx šĥàpéš ţĥàţ föllöw, öñé péŕ pöîñţ: (0, 0) îš ţĥé ţéxţûŕé'š löwéŕ léfţ çöŕñéŕ, (1, 1) ţĥé ûppéŕ ŕîĝĥţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Further places in textures at the corners of the vertex shapes that follow, one per point, for the MaterialTexture nodes that ask for them.</source>
+        <translation>[Fûŕţĥéŕ plàçéš îñ ţéxţûŕéš àţ ţĥé çöŕñéŕš öf ţĥé véŕţéx šĥàpéš ţĥàţ föllöw, öñé péŕ pöîñţ, föŕ ţĥé MàţéŕîàlŢéxţûŕé ñödéš ţĥàţ àšķ föŕ ţĥém. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A box around the origin.</source>
+        <translation>[À böx àŕöûñd ţĥé öŕîĝîñ. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A ball around the origin.</source>
+        <translation>[À bàll àŕöûñd ţĥé öŕîĝîñ. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A cone around the y axis, its tip up.</source>
+        <translation>[À çöñé àŕöûñd ţĥé ý àxîš, îţš ţîp ûp. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A cylinder around the y axis.</source>
+        <translation>[À çýlîñdéŕ àŕöûñd ţĥé ý àxîš. ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Triangles, each of the next three points.</source>
+        <translation>[Ţŕîàñĝléš, éàçĥ öf ţĥé ñéxţ ţĥŕéé pöîñţš. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Strips of triangles: each point after the second makes a triangle with the two before it. Each strip takes as many of the next points as its count says; without counts one strip takes all.</source>
+        <translation>[Šţŕîpš öf ţŕîàñĝléš: éàçĥ pöîñţ àfţéŕ ţĥé šéçöñd màķéš à ţŕîàñĝlé wîţĥ ţĥé ţwö béföŕé îţ. Éàçĥ šţŕîp ţàķéš àš màñý öf ţĥé ñéxţ pöîñţš àš îţš çöûñţ šàýš; wîţĥöûţ çöûñţš öñé šţŕîp ţàķéš àll. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Triangles, each of three points named by their place in the list of points.</source>
+        <translation>[Ţŕîàñĝléš, éàçĥ öf ţĥŕéé pöîñţš ñàméd bý ţĥéîŕ plàçé îñ ţĥé lîšţ öf pöîñţš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Strips of triangles, the points named by their places in the list.</source>
+        <translation>[Šţŕîpš öf ţŕîàñĝléš, ţĥé pöîñţš ñàméd bý ţĥéîŕ plàçéš îñ ţĥé lîšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Lines from point to point. Each joins as many of the next points as its count says; without counts one line joins all.</source>
+        <translation>[Lîñéš fŕöm pöîñţ ţö pöîñţ. Éàçĥ ĵöîñš àš màñý öf ţĥé ñéxţ pöîñţš àš îţš çöûñţ šàýš; wîţĥöûţ çöûñţš öñé lîñé ĵöîñš àll. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Lines from point to point, the points named by their places in the list.</source>
+        <translation>[Lîñéš fŕöm pöîñţ ţö pöîñţ, ţĥé pöîñţš ñàméd bý ţĥéîŕ plàçéš îñ ţĥé lîšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Each of the points, drawn as a dot.</source>
+        <translation>[Éàçĥ öf ţĥé pöîñţš, dŕàwñ àš à döţ. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Some of the points, drawn as dots.</source>
+        <translation>[Šömé öf ţĥé pöîñţš, dŕàwñ àš döţš. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Text that keeps its size on the screen and stands where the origin is. Lines run downwards. Latin letters, digits and signs; what the font does not have is shown as a box.</source>
+        <translation>[Ţéxţ ţĥàţ ķéépš îţš šîžé öñ ţĥé šçŕééñ àñd šţàñdš wĥéŕé ţĥé öŕîĝîñ îš. Lîñéš ŕûñ döwñwàŕdš. Làţîñ léţţéŕš, dîĝîţš àñd šîĝñš; wĥàţ ţĥé föñţ döéš ñöţ ĥàvé îš šĥöwñ àš à böx. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A place in the scene where an application draws by itself, with OpenGL 3.3. Draws nothing until a callback is set.</source>
+        <translation>[À plàçé îñ ţĥé šçéñé wĥéŕé àñ àpplîçàţîöñ dŕàwš bý îţšélf, wîţĥ ÖpéñĜL 3.3. Dŕàwš ñöţĥîñĝ ûñţîl à çàllbàçķ îš šéţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A comment: a text for people, without effect on the picture.</source>
+        <translation>[À çömméñţ: à ţéxţ föŕ péöplé, wîţĥöûţ éfféçţ öñ ţĥé pîçţûŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>[Çàñçél ~~]</translation>
     </message>
@@ -136,8 +328,8 @@
         <translation>[%1 vàlûéš ~~~~]</translation>
     </message>
     <message>
-        <source>, %1 to %2</source>
-        <translation>[, %1 ţö %2 ~~~~]</translation>
+        <source>%1, %2 to %3</source>
+        <translation>[%1, %2 ţö %3 ~~~~~]</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -408,8 +600,8 @@
         <translation>[ñö ñûmbéŕš ~~~~]</translation>
     </message>
     <message>
-        <source>, %1 NaN</source>
-        <translation>[, %1 ÑàÑ ~~~]</translation>
+        <source>%1, %2 NaN</source>
+        <translation>[%1, %2 ÑàÑ ~~~~]</translation>
     </message>
     <message>
         <source>Choose a file</source>
@@ -604,16 +796,16 @@
         <translation>[Fîţ Çölûmñ Wîdţĥš ~~~~~~~]</translation>
     </message>
     <message>
-        <source> · ignored</source>
-        <translation> [· îĝñöŕéd ~~~~]</translation>
+        <source>ignored</source>
+        <translation>[îĝñöŕéd ~~~]</translation>
     </message>
     <message>
-        <source> · connected</source>
-        <translation> [· çöññéçţéd ~~~~~]</translation>
+        <source>connected</source>
+        <translation>[çöññéçţéd ~~~~]</translation>
     </message>
     <message>
-        <source> · %1 shown</source>
-        <translation> [· %1 šĥöwñ ~~~~]</translation>
+        <source>%1 shown</source>
+        <translation>[%1 šĥöwñ ~~~]</translation>
     </message>
     <message>
         <source>x*2, x+row*0.1, clamp(x,0,1)</source>
@@ -950,6 +1142,10 @@
     <message>
         <source>No field passes the filter.</source>
         <translation>[Ñö fîéld pàššéš ţĥé fîlţéŕ. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>degrees</source>
+        <translation>[déĝŕééš ~~~]</translation>
     </message>
     <message>
         <source>So many cells do not fit into the clipboard; write them to a file with “Write CSV…”.</source>

@@ -28,6 +28,34 @@
         <translation>OpenGL-Speicher, kB</translation>
     </message>
     <message>
+        <source>%1 materials are equal; one could serve all of them.</source>
+        <translation>%1 Materialien sind gleich; eines könnte für alle dienen.</translation>
+    </message>
+    <message>
+        <source>%1 lists of points are equal; one could serve all of them.</source>
+        <translation>%1 Listen von Punkten sind gleich; eine könnte für alle dienen.</translation>
+    </message>
+    <message>
+        <source>Its picture has %1 × %2 pixels, more than the view's %3 × %4, and takes %5, %6 of all pictures; a smaller one would look the same.</source>
+        <translation>Sein Bild hat %1 × %2 Pixel, mehr als die %3 × %4 der Ansicht, und braucht %5, das sind %6 aller Bilder; ein kleineres sähe genauso aus.</translation>
+    </message>
+    <message>
+        <source>%1 bodies with fewer than 100 triangles are below it, %2 of all bodies; joined to one, they would be drawn at once.</source>
+        <translation>%1 Körper mit weniger als 100 Dreiecken stehen darunter, %2 aller Körper; zu einem verbunden würden sie auf einmal gezeichnet.</translation>
+    </message>
+    <message>
+        <source>It has %1 of all triangles, %2 of %3.</source>
+        <translation>Es hat %1 aller Dreiecke, %2 von %3.</translation>
+    </message>
+    <message>
+        <source>It has %1 of all triangles, %2 of %3; levels of detail would draw fewer from far away.</source>
+        <translation>Es hat %1 aller Dreiecke, %2 von %3; mit Detailstufen würden aus der Ferne weniger gezeichnet.</translation>
+    </message>
+    <message>
+        <source>It is drawn, %1 triangles, and the picture is the same without it; hide it, or cut what is behind others.</source>
+        <translation>Es wird gezeichnet, %1 Dreiecke, und das Bild ist ohne es dasselbe; blenden Sie es aus oder schneiden Sie weg, was hinter anderem liegt.</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>Protokoll</translation>
     </message>
@@ -54,6 +82,10 @@
     <message>
         <source>%1 %2 instead of %3</source>
         <translation>%1 %2 statt %3</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
     </message>
     <message>
         <source>Recordings of frames (*.xsgframes);;Comma-separated values (*.csv)</source>
@@ -204,6 +236,10 @@
         <translation>Das Ganze braucht %1 ± %2, seine Teile einzeln gezeichnet zusammen %3; ein leeres Bild braucht %4.</translation>
     </message>
     <message>
+        <source>“%1”: %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message>
         <source>Nothing conspicuous</source>
         <translation>Nichts Auffälliges</translation>
     </message>
@@ -220,20 +256,20 @@
         <translation>Ohne „%1“ bräuchte ein Bild %2 statt %3.</translation>
     </message>
     <message>
-        <source>%1 ± %2 more</source>
-        <translation>%1 ± %2 mehr</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 more.</source>
+        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4 ± %5 mehr.</translation>
     </message>
     <message>
-        <source>%1 ± %2 less</source>
-        <translation>%1 ± %2 weniger</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 more; that may be chance.</source>
+        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4 ± %5 mehr; das kann Zufall sein.</translation>
     </message>
     <message>
-        <source>; that may be chance</source>
-        <translation>; das kann Zufall sein</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 less.</source>
+        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4 ± %5 weniger.</translation>
     </message>
     <message>
-        <source>Without “%1” a picture takes %2 instead of %3: %4%5.</source>
-        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4%5.</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 less; that may be chance.</source>
+        <translation>Ohne „%1“ braucht ein Bild %2 statt %3: %4 ± %5 weniger; das kann Zufall sein.</translation>
     </message>
     <message>
         <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
@@ -356,8 +392,8 @@
         <translation>%1 %2: herausnehmen</translation>
     </message>
     <message>
-        <source>; recording, %1 frames so far</source>
-        <translation>; Aufzeichnung, bisher %1 Bilder</translation>
+        <source>%1; recording, %2 frames so far</source>
+        <translation>%1; Aufzeichnung, bisher %2 Bilder</translation>
     </message>
     <message>
         <source>Choose a frame to see what was different about it.</source>
@@ -410,6 +446,22 @@
     <message>
         <source>&amp;Go to “%1”</source>
         <translation>&amp;Gehe zu „%1“</translation>
+    </message>
+    <message>
+        <source>%L1 lines, %L2 older ones gone</source>
+        <translation>%L1 Zeilen, %L2 ältere sind weg</translation>
+    </message>
+    <message>
+        <source>%L1 lines</source>
+        <translation>%L1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines, %L3 older ones gone</source>
+        <translation>%L1 von %L2 Zeilen, %L3 ältere sind weg</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines</source>
+        <translation>%L1 von %L2 Zeilen</translation>
     </message>
     <message>
         <source>Lines of the log</source>
@@ -514,18 +566,6 @@
     <message>
         <source>Close (Esc)</source>
         <translation>Schließen (Esc)</translation>
-    </message>
-    <message>
-        <source>%L1 lines</source>
-        <translation>%L1 Zeilen</translation>
-    </message>
-    <message>
-        <source>%L1 of %L2 lines</source>
-        <translation>%L1 von %L2 Zeilen</translation>
-    </message>
-    <message>
-        <source>, %L1 older ones gone</source>
-        <translation>, %L1 ältere verworfen</translation>
     </message>
     <message>
         <source>The newest %L1 lines are kept, and at most %2 MB of them.</source>

@@ -28,6 +28,34 @@
         <translation>[ÖpéñĜL mémöŕý, ķB ~~~~~~~]</translation>
     </message>
     <message>
+        <source>%1 materials are equal; one could serve all of them.</source>
+        <translation>[%1 màţéŕîàlš àŕé éqûàl; öñé çöûld šéŕvé àll öf ţĥém. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 lists of points are equal; one could serve all of them.</source>
+        <translation>[%1 lîšţš öf pöîñţš àŕé éqûàl; öñé çöûld šéŕvé àll öf ţĥém. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Its picture has %1 × %2 pixels, more than the view's %3 × %4, and takes %5, %6 of all pictures; a smaller one would look the same.</source>
+        <translation>[Îţš pîçţûŕé ĥàš %1 × %2 pîxélš, möŕé ţĥàñ ţĥé vîéw'š %3 × %4, àñd ţàķéš %5, %6 öf àll pîçţûŕéš; à šmàlléŕ öñé wöûld lööķ ţĥé šàmé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 bodies with fewer than 100 triangles are below it, %2 of all bodies; joined to one, they would be drawn at once.</source>
+        <translation>[%1 bödîéš wîţĥ féwéŕ ţĥàñ 100 ţŕîàñĝléš àŕé bélöw îţ, %2 öf àll bödîéš; ĵöîñéd ţö öñé, ţĥéý wöûld bé dŕàwñ àţ öñçé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>It has %1 of all triangles, %2 of %3.</source>
+        <translation>[Îţ ĥàš %1 öf àll ţŕîàñĝléš, %2 öf %3. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>It has %1 of all triangles, %2 of %3; levels of detail would draw fewer from far away.</source>
+        <translation>[Îţ ĥàš %1 öf àll ţŕîàñĝléš, %2 öf %3; lévélš öf déţàîl wöûld dŕàw féwéŕ fŕöm fàŕ àwàý. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>It is drawn, %1 triangles, and the picture is the same without it; hide it, or cut what is behind others.</source>
+        <translation>[Îţ îš dŕàwñ, %1 ţŕîàñĝléš, àñd ţĥé pîçţûŕé îš ţĥé šàmé wîţĥöûţ îţ; ĥîdé îţ, öŕ çûţ wĥàţ îš béĥîñd öţĥéŕš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Log</source>
         <translation>[Löĝ ~]</translation>
     </message>
@@ -54,6 +82,10 @@
     <message>
         <source>%1 %2 instead of %3</source>
         <translation>[%1 %2 îñšţéàd öf %3 ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>[“%1” ~~]</translation>
     </message>
     <message>
         <source>Recordings of frames (*.xsgframes);;Comma-separated values (*.csv)</source>
@@ -204,6 +236,10 @@
         <translation>[Ţĥé wĥölé ţàķéš %1 ± %2, îţš pàŕţš dŕàwñ àlöñé %3 ţöĝéţĥéŕ; àñ émpţý pîçţûŕé ţàķéš %4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1”: %2</source>
+        <translation>[“%1”: %2 ~~~]</translation>
+    </message>
+    <message>
         <source>Nothing conspicuous</source>
         <translation>[Ñöţĥîñĝ çöñšpîçûöûš ~~~~~~~~]</translation>
     </message>
@@ -220,20 +256,20 @@
         <translation>[Wîţĥöûţ “%1” à pîçţûŕé wöûld ţàķé %2 îñšţéàd öf %3. ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 ± %2 more</source>
-        <translation>[%1 ± %2 möŕé ~~~~~]</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 more.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4 ± %5 möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 ± %2 less</source>
-        <translation>[%1 ± %2 léšš ~~~~~]</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 more; that may be chance.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4 ± %5 möŕé; ţĥàţ màý bé çĥàñçé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>; that may be chance</source>
-        <translation>[; ţĥàţ màý bé çĥàñçé ~~~~~~~~]</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 less.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4 ± %5 léšš. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Without “%1” a picture takes %2 instead of %3: %4%5.</source>
-        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4%5. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>Without “%1” a picture takes %2 instead of %3: %4 ± %5 less; that may be chance.</source>
+        <translation>[Wîţĥöûţ “%1” à pîçţûŕé ţàķéš %2 îñšţéàd öf %3: %4 ± %5 léšš; ţĥàţ màý bé çĥàñçé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The cost cannot be told: the scene has changed meanwhile; stop what moves and measure again.</source>
@@ -356,8 +392,8 @@
         <translation>[%1 %2: ţàķé öûţ ~~~~~~]</translation>
     </message>
     <message>
-        <source>; recording, %1 frames so far</source>
-        <translation>[; ŕéçöŕdîñĝ, %1 fŕàméš šö fàŕ ~~~~~~~~~~~~]</translation>
+        <source>%1; recording, %2 frames so far</source>
+        <translation>[%1; ŕéçöŕdîñĝ, %2 fŕàméš šö fàŕ ~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Choose a frame to see what was different about it.</source>
@@ -410,6 +446,22 @@
     <message>
         <source>&amp;Go to “%1”</source>
         <translation>[&amp;Ĝö ţö “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 lines, %L2 older ones gone</source>
+        <translation>[%L1 lîñéš, %L2 öldéŕ öñéš ĝöñé ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 lines</source>
+        <translation>[%L1 lîñéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines, %L3 older ones gone</source>
+        <translation>[%L1 öf %L2 lîñéš, %L3 öldéŕ öñéš ĝöñé ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 lines</source>
+        <translation>[%L1 öf %L2 lîñéš ~~~~~~]</translation>
     </message>
     <message>
         <source>Lines of the log</source>
@@ -514,18 +566,6 @@
     <message>
         <source>Close (Esc)</source>
         <translation>[Çlöšé (Éšç) ~~~~]</translation>
-    </message>
-    <message>
-        <source>%L1 lines</source>
-        <translation>[%L1 lîñéš ~~~~]</translation>
-    </message>
-    <message>
-        <source>%L1 of %L2 lines</source>
-        <translation>[%L1 öf %L2 lîñéš ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>, %L1 older ones gone</source>
-        <translation>[, %L1 öldéŕ öñéš ĝöñé ~~~~~~~~]</translation>
     </message>
     <message>
         <source>The newest %L1 lines are kept, and at most %2 MB of them.</source>

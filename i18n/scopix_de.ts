@@ -4,20 +4,226 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>opens a model</source>
+        <translation>öffnet ein Modell</translation>
+    </message>
+    <message>
+        <source>opens a scene and shows one of its fields</source>
+        <translation>öffnet eine Szene und zeigt eines ihrer Felder</translation>
+    </message>
+    <message>
+        <source>draws it without a window</source>
+        <translation>zeichnet sie ohne Fenster</translation>
+    </message>
+    <message>
+        <source>0 where all that was asked for is done, 1 where something is not</source>
+        <translation>0, wenn alles Verlangte getan ist, 1, wenn etwas davon nicht</translation>
+    </message>
+    <message>
+        <source>Write JSON instead of text.</source>
+        <translation>Schreibt JSON statt Text.</translation>
+    </message>
+    <message>
+        <source>Write this file and leave FILE as it is; "-" is standard output.</source>
+        <translation>Schreibt diese Datei und lässt FILE, wie sie ist; „-“ ist die Standardausgabe.</translation>
+    </message>
+    <message>
+        <source>Prints the tree of a scene or model, a node with its fields, or the value of a field.</source>
+        <translation>Gibt den Baum einer Szene oder eines Modells aus, einen Knoten mit seinen Feldern oder den Wert eines Felds.</translation>
+    </message>
+    <message>
+        <source>the tree: names, types, and where a node stands again</source>
+        <translation>der Baum: Namen, Typen und wo ein Knoten noch einmal steht</translation>
+    </message>
+    <message>
+        <source>the fields of one node, and what is below it</source>
+        <translation>die Felder eines Knotens und was unter ihm steht</translation>
+    </message>
+    <message>
+        <source>one value; without "/" wherever the node stands</source>
+        <translation>ein Wert; ohne „/“, wo immer der Knoten steht</translation>
+    </message>
+    <message>
+        <source>everything that a scene file holds</source>
+        <translation>alles, was eine Szenendatei enthält</translation>
+    </message>
+    <message>
+        <source>Gives fields values and saves. A value is what a scene file has, or a formula with units such as 90deg, 30 cm or x*2, where x is the present value; what each field measures and takes is on the page of nodes. A number without a unit is in radians, metres or seconds. Where one of them cannot be set, nothing is saved.</source>
+        <translation>Gibt Feldern Werte und speichert. Ein Wert steht wie in einer Szenendatei oder ist eine Formel mit Einheiten wie 90deg, 30 cm oder x*2, wobei x der jetzige Wert ist; was jedes Feld misst und annimmt, steht auf der Seite der Knoten. Eine Zahl ohne Einheit steht für Radiant, Meter oder Sekunden. Lässt sich ein Wert nicht setzen, wird nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>saves lamp.xsg</source>
+        <translation>speichert lamp.xsg</translation>
+    </message>
+    <message>
+        <source>one after the other</source>
+        <translation>einer nach dem anderen</translation>
+    </message>
+    <message>
+        <source>writes the scene to standard output</source>
+        <translation>schreibt die Szene auf die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Prints the paths of the nodes that a query finds; the query is that of the line above the scene tree.</source>
+        <translation>Gibt die Pfade der Knoten aus, die eine Suche findet; gesucht wird wie in der Zeile über dem Szenenbaum.</translation>
+    </message>
+    <message>
+        <source>all lights</source>
+        <translation>alle Lichter</translation>
+    </message>
+    <message>
+        <source>what is transparent and not called bulb</source>
+        <translation>was durchsichtig ist und nicht „bulb“ heißt</translation>
+    </message>
+    <message>
+        <source>0 where something was found, 1 where not</source>
+        <translation>0, wenn etwas gefunden wurde, 1, wenn nicht</translation>
+    </message>
+    <message>
+        <source>Prints what makes the scene in A the one in B, as a patch.</source>
+        <translation>Gibt als Patch aus, was die Szene in A zu der in B macht.</translation>
+    </message>
+    <message>
+        <source>one line a change</source>
+        <translation>eine Zeile je Änderung</translation>
+    </message>
+    <message>
+        <source>keeps it for scopix apply</source>
+        <translation>hebt ihn für scopix apply auf</translation>
+    </message>
+    <message>
+        <source>0 where they are the same, 1 where they differ</source>
+        <translation>0, wenn beide gleich sind, 1, wenn sie sich unterscheiden</translation>
+    </message>
+    <message>
+        <source>Makes the changes of a patch in a scene and saves it. What does not fit the scene is listed and the rest is applied; applied once more, a patch changes nothing.</source>
+        <translation>Nimmt die Änderungen eines Patches an einer Szene vor und speichert sie. Was nicht zur Szene passt, wird aufgezählt, das Übrige angewandt; noch einmal angewandt, ändert ein Patch nichts.</translation>
+    </message>
+    <message>
+        <source>leaves lamp.xsg as it is</source>
+        <translation>lässt lamp.xsg, wie sie ist</translation>
+    </message>
+    <message>
+        <source>0 where all of it fits, 1 where some does not</source>
+        <translation>0, wenn alles passt, 1, wenn etwas nicht passt</translation>
+    </message>
+    <message>
+        <source>Reads a scene or model and writes it as a file of the kind that the ending of OUT says: .xsg, .glb, .gltf, .obj, .ply or .stl. What such a file cannot keep is said on standard error.</source>
+        <translation>Liest eine Szene oder ein Modell und schreibt eine Datei der Art, die die Endung von OUT angibt: .xsg, .glb, .gltf, .obj, .ply oder .stl. Was eine solche Datei nicht fassen kann, steht auf der Standardfehlerausgabe.</translation>
+    </message>
+    <message>
+        <source>a model becomes a scene</source>
+        <translation>aus einem Modell wird eine Szene</translation>
+    </message>
+    <message>
+        <source>Draws a scene or model into a picture file, such as .png or .jpg; needs no display.</source>
+        <translation>Zeichnet eine Szene oder ein Modell in eine Bilddatei wie .png oder .jpg; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>The size in pixels; 800x600 at first.</source>
+        <translation>Die Größe in Pixeln; ohne Angabe 800x600.</translation>
+    </message>
+    <message>
+        <source>The path of a camera of the scene, all, front, back, left, right, top or bottom. At first the first camera of the scene, or all.</source>
+        <translation>Der Pfad einer Kamera der Szene oder all, front, back, left, right, top oder bottom. Ohne Angabe die erste Kamera der Szene oder all.</translation>
+    </message>
+    <message>
+        <source>Draws N pictures, OUT-0001 and so on, 1/30 of a second apart.</source>
+        <translation>Zeichnet N Bilder, OUT-0001 und so weiter, im Abstand von 1/30 Sekunde.</translation>
+    </message>
+    <message>
+        <source>Three numbers from 0 to 1; "0 0 0" is black.</source>
+        <translation>Drei Zahlen von 0 bis 1; "0 0 0" ist Schwarz.</translation>
+    </message>
+    <message>
+        <source>How light that is brighter than white comes into the picture: none, neutral or filmic; neutral at first.</source>
+        <translation>Wie Licht, das heller als Weiß ist, ins Bild kommt: none, neutral oder filmic; ohne Angabe neutral.</translation>
+    </message>
+    <message>
+        <source>as the scene's camera sees it</source>
+        <translation>wie die Kamera der Szene sie sieht</translation>
+    </message>
+    <message>
+        <source>everything, from above</source>
+        <translation>alles von oben</translation>
+    </message>
+    <message>
+        <source>turn-0001.png to turn-0003.png</source>
+        <translation>turn-0001.png bis turn-0003.png</translation>
+    </message>
+    <message>
+        <source>Opens files and reports what of them is dropped, missing or odd.</source>
+        <translation>Öffnet Dateien und meldet, was davon wegfällt, fehlt oder merkwürdig ist.</translation>
+    </message>
+    <message>
+        <source>a line for each thing that it notices</source>
+        <translation>eine Zeile für alles, was auffällt</translation>
+    </message>
+    <message>
+        <source>the same for other programs</source>
+        <translation>dasselbe für andere Programme</translation>
+    </message>
+    <message>
+        <source>0 where there is nothing to report, 1 where there is something, 2 where a file cannot be read</source>
+        <translation>0, wenn es nichts zu melden gibt, 1, wenn es etwas gibt, 2, wenn sich eine Datei nicht lesen lässt</translation>
+    </message>
+    <message>
+        <source>Counts nodes, shapes, triangles, pictures and memory of a scene, and of each branch below its root or below PATH.</source>
+        <translation>Zählt Knoten, Körper, Dreiecke, Bilder und Speicher einer Szene und jedes Zweigs unter ihrer Wurzel oder unter PATH.</translation>
+    </message>
+    <message>
+        <source>a table</source>
+        <translation>eine Tabelle</translation>
+    </message>
+    <message>
+        <source>Draws a scene or model and prints what a frame costs; needs no display. The first ten frames are not counted. With --against, medians are compared by the test of Mann and Whitney: slower is what takes 5 % longer and would be so by chance less than once in a hundred.</source>
+        <translation>Zeichnet eine Szene oder ein Modell und gibt aus, was ein Bild kostet; braucht keinen Bildschirm. Die ersten zehn Bilder zählen nicht. Mit --against werden Mediane durch den Test von Mann und Whitney verglichen: Langsamer ist, was 5 % länger dauert und durch Zufall seltener als einmal in hundert Fällen so wäre.</translation>
+    </message>
+    <message>
+        <source>How many frames, from 1 to 3000; 120 at first.</source>
+        <translation>Wie viele Bilder, von 1 bis 3000; ohne Angabe 120.</translation>
+    </message>
+    <message>
+        <source>The size in pixels; 800x600 at first, or that of OLD.</source>
+        <translation>Die Größe in Pixeln; ohne Angabe 800x600 oder die von OLD.</translation>
+    </message>
+    <message>
+        <source>Compares with this recording.</source>
+        <translation>Vergleicht mit dieser Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>Keeps the frames as a recording.</source>
+        <translation>Hebt die Bilder als Aufzeichnung auf.</translation>
+    </message>
+    <message>
+        <source>a table: phases, graphics card, draw calls and more</source>
+        <translation>eine Tabelle: Phasen, Grafikkarte, Zeichenaufrufe und mehr</translation>
+    </message>
+    <message>
+        <source>keeps them for a comparison</source>
+        <translation>hebt sie für einen Vergleich auf</translation>
+    </message>
+    <message>
+        <source>whether it became slower</source>
+        <translation>ob sie langsamer geworden ist</translation>
+    </message>
+    <message>
+        <source>0, 1 where it is slower than OLD</source>
+        <translation>0; 1, wenn sie langsamer als OLD ist</translation>
+    </message>
+    <message>
         <source>%1 (scopix --help lists the options.)</source>
         <translation>%1 („scopix --help“ listet die Optionen auf.)</translation>
     </message>
     <message>
-        <source>
-Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
+        <source>Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
 %1</source>
-        <translation>
-Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, ist ./NAME):
+        <translation>Ohne Fenster („scopix COMMAND --help“ sagt mehr; eine Datei, die so heißt, ist ./NAME):
 %1</translation>
     </message>
     <message>
         <source>Inspects and tunes the 3D scene or model in FILE.</source>
-        <translation>Zeigt und verändert die 3D-Szene oder das Modell in DATEI.</translation>
+        <translation>Zeigt und verändert die 3D-Szene oder das Modell in FILE.</translation>
     </message>
     <message>
         <source>Load this plug-in too; may be given several times.</source>
@@ -29,7 +235,7 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     </message>
     <message>
         <source>Select this field; NODE is a node's name or type.</source>
-        <translation>Dieses Feld auswählen; KNOTEN ist Name oder Typ eines Knotens.</translation>
+        <translation>Dieses Feld auswählen; NODE ist Name oder Typ eines Knotens.</translation>
     </message>
     <message>
         <source>Write a picture of the window and end; needs no display.</source>
@@ -49,7 +255,7 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     </message>
     <message>
         <source>Write NUMBER pictures of one full turn instead: OUT-01.png and so on.</source>
-        <translation>Stattdessen ANZAHL Bilder einer vollen Drehung schreiben: AUS-01.png und so weiter.</translation>
+        <translation>Stattdessen NUMBER Bilder einer vollen Drehung schreiben: OUT-01.png und so weiter.</translation>
     </message>
     <message>
         <source>How bright light comes into the view and its pictures: none, neutral or filmic. For this session; the menu remembers its choice.</source>
@@ -57,11 +263,11 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     </message>
     <message>
         <source>Attach to a running program; may be left out: the only one. In place of FILE.</source>
-        <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von DATEI.</translation>
+        <translation>Mit einem laufenden Programm verbinden; ohne Angabe mit dem einzigen. Anstelle von FILE.</translation>
     </message>
     <message>
         <source>Start PROGRAM and attach to it; what follows goes to it. In place of FILE.</source>
-        <translation>PROGRAMM starten und sich damit verbinden; was folgt, erhält das Programm. Anstelle von DATEI.</translation>
+        <translation>PROGRAM starten und sich damit verbinden; was folgt, erhält das Programm. Anstelle von FILE.</translation>
     </message>
     <message>
         <source>List the running programs that can be attached to, and end.</source>
@@ -69,7 +275,7 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     </message>
     <message>
         <source>Write what FILE holds to this file, as its ending says, and end; needs no display.</source>
-        <translation>Den Inhalt von DATEI in diese Datei schreiben, im Format ihrer Endung, und beenden; braucht keinen Bildschirm.</translation>
+        <translation>Den Inhalt von FILE in diese Datei schreiben, im Format ihrer Endung, und beenden; braucht keinen Bildschirm.</translation>
     </message>
     <message>
         <source>End when everything asked for is done.</source>
@@ -98,6 +304,546 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     <message>
         <source>an exception of an unknown type</source>
         <translation>ein Fehler unbekannter Art</translation>
+    </message>
+    <message>
+        <source>its place, from 0; -1 none, -2 all</source>
+        <translation>seine Stelle, von 0 an; -1 keines, -2 alle</translation>
+    </message>
+    <message>
+        <source>from where the distance is measured</source>
+        <translation>von wo aus die Entfernung gemessen wird</translation>
+    </message>
+    <message>
+        <source>growing</source>
+        <translation>aufsteigend</translation>
+    </message>
+    <message>
+        <source>where each copy stands; none: nothing is shown</source>
+        <translation>wo jede Kopie steht; keine: nichts wird gezeigt</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>where the eye is</source>
+        <translation>wo das Auge ist</translation>
+    </message>
+    <message>
+        <source>turns the view, which looks along -z at first</source>
+        <translation>dreht den Blick, der zunächst entlang -z geht</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Sicht</translation>
+    </message>
+    <message>
+        <source>between the lower and the upper edge, in radians</source>
+        <translation>zwischen unterem und oberem Rand, in Radiant</translation>
+    </message>
+    <message>
+        <source>to the point that it turns around</source>
+        <translation>bis zu dem Punkt, um den sie sich dreht</translation>
+    </message>
+    <message>
+        <source>what is nearer is not seen</source>
+        <translation>was näher ist, sieht man nicht</translation>
+    </message>
+    <message>
+        <source>what is farther is not seen</source>
+        <translation>was weiter weg ist, sieht man nicht</translation>
+    </message>
+    <message>
+        <source>of what is seen, in the camera's coordinates</source>
+        <translation>dessen, was man sieht, in den Koordinaten der Kamera</translation>
+    </message>
+    <message>
+        <source>whether it shines</source>
+        <translation>ob es leuchtet</translation>
+    </message>
+    <message>
+        <source>of the light</source>
+        <translation>die des Lichts</translation>
+    </message>
+    <message>
+        <source>0 dark to 1 full</source>
+        <translation>von 0 dunkel bis 1 voll</translation>
+    </message>
+    <message>
+        <source>in which the light shines</source>
+        <translation>in die das Licht scheint</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>where it stands</source>
+        <translation>wo es steht</translation>
+    </message>
+    <message>
+        <source>constant, linear, quadratic with distance</source>
+        <translation>konstant, linear, quadratisch mit der Entfernung</translation>
+    </message>
+    <message>
+        <source>of the cone's axis</source>
+        <translation>die der Achse des Kegels</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>between the axis and the edge, in radians</source>
+        <translation>zwischen Achse und Rand, in Radiant</translation>
+    </message>
+    <message>
+        <source>0 evenly bright; the higher, the darker towards the edge</source>
+        <translation>bei 0 gleichmäßig hell; je höher, desto dunkler zum Rand hin</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>times the colours</source>
+        <translation>mal die Farben</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>straight above</source>
+        <translation>senkrecht oben</translation>
+    </message>
+    <message>
+        <source>between sky and ground</source>
+        <translation>zwischen Himmel und Boden</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>how far it moves, at the end</source>
+        <translation>wie weit es verschoben wird, als Letztes</translation>
+    </message>
+    <message>
+        <source>how it turns, after scaling</source>
+        <translation>wie es gedreht wird, nach dem Skalieren</translation>
+    </message>
+    <message>
+        <source>how it stretches along each axis, at first</source>
+        <translation>wie es entlang jeder Achse gestreckt wird, als Erstes</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>the axes along which it scales</source>
+        <translation>die Achsen, entlang derer es skaliert wird</translation>
+    </message>
+    <message>
+        <source>stays in place while turning and scaling</source>
+        <translation>bleibt beim Drehen und Skalieren an seiner Stelle</translation>
+    </message>
+    <message>
+        <source>rows first; the last row is the translation</source>
+        <translation>zeilenweise; die letzte Zeile ist die Verschiebung</translation>
+    </message>
+    <message>
+        <source>whether time moves it</source>
+        <translation>ob die Zeit es bewegt</translation>
+    </message>
+    <message>
+        <source>around which it turns</source>
+        <translation>um die es sich dreht</translation>
+    </message>
+    <message>
+        <source>turns a second</source>
+        <translation>Umdrehungen je Sekunde</translation>
+    </message>
+    <message>
+        <source>the speed; negative turns the other way</source>
+        <translation>die Geschwindigkeit; negativ dreht andersherum</translation>
+    </message>
+    <message>
+        <source>the angle is time x turnsPerSecond turns</source>
+        <translation>der Winkel beträgt time x turnsPerSecond Umdrehungen</translation>
+    </message>
+    <message>
+        <source>STOPPED: all fields have their own values; PAUSED: those of the time; PLAYING: time passes</source>
+        <translation>STOPPED: alle Felder haben ihre eigenen Werte; PAUSED: die des Zeitpunkts; PLAYING: die Zeit läuft</translation>
+    </message>
+    <message>
+        <source>of what is shown, from the beginning</source>
+        <translation>des Gezeigten, vom Anfang an</translation>
+    </message>
+    <message>
+        <source>1 as the clip was made; below 0 it runs backwards</source>
+        <translation>1: wie der Clip gemacht wurde; unter 0 läuft er rückwärts</translation>
+    </message>
+    <message>
+        <source>from the end it goes on at the beginning; else it pauses there</source>
+        <translation>vom Ende geht es am Anfang weiter; sonst hält es dort an</translation>
+    </message>
+    <message>
+        <source>0: until the last key</source>
+        <translation>0: bis zum letzten Schlüssel</translation>
+    </message>
+    <message>
+        <source>the node that has the field</source>
+        <translation>der Knoten, der das Feld hat</translation>
+    </message>
+    <message>
+        <source>the name of the field that it animates</source>
+        <translation>der Name des Felds, das animiert wird</translation>
+    </message>
+    <message>
+        <source>between keys: STEP keeps a value until the next, LINEAR goes straight, CUBIC follows tangents</source>
+        <translation>zwischen Schlüsseln: STEP behält einen Wert bis zum nächsten, LINEAR geht geradeaus, CUBIC folgt Tangenten</translation>
+    </message>
+    <message>
+        <source>of the keys, growing</source>
+        <translation>die der Schlüssel, aufsteigend</translation>
+    </message>
+    <message>
+        <source>the numbers of all keys, one key after the other; a cubic one has its incoming tangent, its value and its outgoing tangent</source>
+        <translation>die Zahlen aller Schlüssel, einer nach dem anderen; ein kubischer hat die Tangente davor, den Wert und die Tangente danach</translation>
+    </message>
+    <message>
+        <source>transforms, each after its parent; NULL: one that never moves</source>
+        <translation>Transformationen, jede nach ihrer übergeordneten; NULL: eine, die sich nie bewegt</translation>
+    </message>
+    <message>
+        <source>the place of each bone's parent in the list, or -1</source>
+        <translation>die Stelle des übergeordneten Knochens in der Liste, oder -1</translation>
+    </message>
+    <message>
+        <source>for each bone, from the points to it, as the skin was made</source>
+        <translation>für jeden Knochen, von den Punkten zu ihm, wie die Haut gemacht wurde</translation>
+    </message>
+    <message>
+        <source>the bone in whose coordinates the points stand, or -1</source>
+        <translation>der Knochen, in dessen Koordinaten die Punkte stehen, oder -1</translation>
+    </message>
+    <message>
+        <source>how many bones can move a point</source>
+        <translation>wie viele Knochen einen Punkt bewegen können</translation>
+    </message>
+    <message>
+        <source>so many for each point, by place in the list of bones</source>
+        <translation>so viele für jeden Punkt, nach der Stelle in der Liste der Knochen</translation>
+    </message>
+    <message>
+        <source>of each of these; of each point they add up to 1</source>
+        <translation>die von jedem davon; für jeden Punkt ist die Summe 1</translation>
+    </message>
+    <message>
+        <source>one for each target, 0 none to 1 all of it</source>
+        <translation>eines für jedes Ziel, von 0 nichts bis 1 alles davon</translation>
+    </message>
+    <message>
+        <source>for all points of the first target, then of the next</source>
+        <translation>für alle Punkte des ersten Ziels, dann des nächsten</translation>
+    </message>
+    <message>
+        <source>the same for the normals, or none</source>
+        <translation>dasselbe für die Normalen, oder keine</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>Shapes that colour their parts, faces or vertices take one after the other; the others take the first.</source>
+        <translation>Körper, die ihre Teile, Flächen oder Ecken färben, nehmen eine nach der anderen; alle übrigen nehmen die erste.</translation>
+    </message>
+    <message>
+        <source>0 dull to 1 sharp</source>
+        <translation>von 0 stumpf bis 1 scharf</translation>
+    </message>
+    <message>
+        <source>0 opaque to 1 invisible</source>
+        <translation>von 0 deckend bis 1 unsichtbar</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>Weitere Farben</translation>
+    </message>
+    <message>
+        <source>of the highlights</source>
+        <translation>die der Glanzlichter</translation>
+    </message>
+    <message>
+        <source>that it shows without any light</source>
+        <translation>die es ohne jedes Licht zeigt</translation>
+    </message>
+    <message>
+        <source>under ambient light</source>
+        <translation>bei Umgebungslicht</translation>
+    </message>
+    <message>
+        <source>linear; shapes that colour their parts, faces or vertices take one after the other, the others take the first</source>
+        <translation>linear; Körper, die ihre Teile, Flächen oder Ecken färben, nehmen eine nach der anderen, alle übrigen die erste</translation>
+    </message>
+    <message>
+        <source>0 not a metal to 1 metal</source>
+        <translation>von 0 kein Metall bis 1 Metall</translation>
+    </message>
+    <message>
+        <source>0 mirror to 1 matte</source>
+        <translation>von 0 spiegelnd bis 1 matt</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>Leuchten</translation>
+    </message>
+    <message>
+        <source>that it shows without any light; linear</source>
+        <translation>die es ohne jedes Licht zeigt; linear</translation>
+    </message>
+    <message>
+        <source>times the colour</source>
+        <translation>mal die Farbe</translation>
+    </message>
+    <message>
+        <source>Clear coat</source>
+        <translation>Klarlack</translation>
+    </message>
+    <message>
+        <source>how much of a coat is on top</source>
+        <translation>wie viel Lack darauf ist</translation>
+    </message>
+    <message>
+        <source>of the coat: 0 mirror to 1 matte</source>
+        <translation>die des Lacks: von 0 spiegelnd bis 1 matt</translation>
+    </message>
+    <message>
+        <source>of the slopes in the normal picture of the coat</source>
+        <translation>die der Neigungen im Normalenbild des Lacks</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder der Oberfläche</translation>
+    </message>
+    <message>
+        <source>of the slopes in the normal picture</source>
+        <translation>die der Neigungen im Normalenbild</translation>
+    </message>
+    <message>
+        <source>0: the occlusion picture has no effect</source>
+        <translation>0: das Verdeckungsbild wirkt nicht</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>OPAQUE as if nothing were transparent, MASK there or not, BLEND mixed</source>
+        <translation>OPAQUE: als wäre nichts durchsichtig; MASK: da oder nicht; BLEND: gemischt</translation>
+    </message>
+    <message>
+        <source>times that of the base colour’s picture; of the modes MASK and BLEND</source>
+        <translation>mal die des Bilds der Grundfarbe; für die Arten MASK und BLEND</translation>
+    </message>
+    <message>
+        <source>MASK leaves out what is less opaque</source>
+        <translation>MASK lässt weg, was weniger deckt</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>the property that the picture is of</source>
+        <translation>die Eigenschaft, von der das Bild ist</translation>
+    </message>
+    <message>
+        <source>the picture file, beside the scene or with its full path</source>
+        <translation>die Bilddatei, neben der Szene oder mit vollem Pfad</translation>
+    </message>
+    <message>
+        <source>the picture itself, where no file is named</source>
+        <translation>das Bild selbst, wo keine Datei genannt ist</translation>
+    </message>
+    <message>
+        <source>On the surface</source>
+        <translation>Auf der Oberfläche</translation>
+    </message>
+    <message>
+        <source>FIRST of TextureCoordinates, SECOND of SecondTextureCoordinates</source>
+        <translation>FIRST: die von TextureCoordinates; SECOND: die von SecondTextureCoordinates</translation>
+    </message>
+    <message>
+        <source>around the origin, after scaling; in radians</source>
+        <translation>um den Ursprung, nach dem Skalieren; in Radiant</translation>
+    </message>
+    <message>
+        <source>of the coordinates, at first</source>
+        <translation>die der Koordinaten, als Erstes</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Ränder</translation>
+    </message>
+    <message>
+        <source>beyond the left and right edges</source>
+        <translation>jenseits des linken und rechten Rands</translation>
+    </message>
+    <message>
+        <source>beyond the lower and upper edges</source>
+        <translation>jenseits des unteren und oberen Rands</translation>
+    </message>
+    <message>
+        <source>has no effect here</source>
+        <translation>wirkt hier nicht</translation>
+    </message>
+    <message>
+        <source>how the picture and the material's colour combine</source>
+        <translation>wie das Bild und die Farbe des Materials zusammenwirken</translation>
+    </message>
+    <message>
+        <source>in radians</source>
+        <translation>in Radiant</translation>
+    </message>
+    <message>
+        <source>filled, lines, points or invisible</source>
+        <translation>gefüllt, Linien, Punkte oder unsichtbar</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Bildpunkte</translation>
+    </message>
+    <message>
+        <source>in pixels</source>
+        <translation>in Pixeln</translation>
+    </message>
+    <message>
+        <source>0 coarse to 1 fine: round shapes</source>
+        <translation>von 0 grob bis 1 fein: runde Körper</translation>
+    </message>
+    <message>
+        <source>0 no textures, below 0.5 blocky, above 0.5 smoothest</source>
+        <translation>0: keine Texturen; unter 0.5: grobe Pixel; über 0.5: am glattesten</translation>
+    </message>
+    <message>
+        <source>how it grows with distance</source>
+        <translation>wie er mit der Entfernung zunimmt</translation>
+    </message>
+    <message>
+        <source>into which all fades</source>
+        <translation>in die alles übergeht</translation>
+    </message>
+    <message>
+        <source>the distance at which nothing else is seen</source>
+        <translation>die Entfernung, in der man nichts anderes mehr sieht</translation>
+    </message>
+    <message>
+        <source>the normal, and its distance from the origin</source>
+        <translation>die Normale und der Abstand vom Ursprung</translation>
+    </message>
+    <message>
+        <source>whether it cuts</source>
+        <translation>ob sie schneidet</translation>
+    </message>
+    <message>
+        <source>where the corners are</source>
+        <translation>wo die Ecken sind</translation>
+    </message>
+    <message>
+        <source>one direction for each point</source>
+        <translation>eine Richtung für jeden Punkt</translation>
+    </message>
+    <message>
+        <source>one place for each point</source>
+        <translation>eine Stelle für jeden Punkt</translation>
+    </message>
+    <message>
+        <source>along x</source>
+        <translation>entlang x</translation>
+    </message>
+    <message>
+        <source>along y</source>
+        <translation>entlang y</translation>
+    </message>
+    <message>
+        <source>along z</source>
+        <translation>entlang z</translation>
+    </message>
+    <message>
+        <source>from the middle to the surface</source>
+        <translation>von der Mitte bis zur Oberfläche</translation>
+    </message>
+    <message>
+        <source>what of it is drawn</source>
+        <translation>was davon gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>of the circle at the bottom</source>
+        <translation>der des Kreises am Boden</translation>
+    </message>
+    <message>
+        <source>from the bottom to the tip</source>
+        <translation>vom Boden bis zur Spitze</translation>
+    </message>
+    <message>
+        <source>of its circles</source>
+        <translation>der seiner Kreise</translation>
+    </message>
+    <message>
+        <source>from the bottom to the top</source>
+        <translation>vom Boden bis zum Deckel</translation>
+    </message>
+    <message>
+        <source>What takes the material's diffuse colours: the whole, each face (line, point), or each point.</source>
+        <translation>Was die diffusen Farben des Materials bekommt: das Ganze, jede Fläche (Linie, Punkt) oder jeder Punkt.</translation>
+    </message>
+    <message>
+        <source>points in each strip</source>
+        <translation>Punkte in jedem Streifen</translation>
+    </message>
+    <message>
+        <source>Three per triangle; a triangle that names a point that is not there is left out.</source>
+        <translation>Drei je Dreieck; ein Dreieck, das einen Punkt nennt, den es nicht gibt, fällt weg.</translation>
+    </message>
+    <message>
+        <source>each strip's points, -1 after each strip</source>
+        <translation>die Punkte jedes Streifens, nach jedem Streifen -1</translation>
+    </message>
+    <message>
+        <source>points in each line</source>
+        <translation>Punkte in jeder Linie</translation>
+    </message>
+    <message>
+        <source>each line's points, -1 after each line</source>
+        <translation>die Punkte jeder Linie, nach jeder Linie -1</translation>
+    </message>
+    <message>
+        <source>the places of the points in their list</source>
+        <translation>die Stellen der Punkte in ihrer Liste</translation>
+    </message>
+    <message>
+        <source>what is written, line by line</source>
+        <translation>was geschrieben steht, Zeile für Zeile</translation>
+    </message>
+    <message>
+        <source>height of a line in pixels</source>
+        <translation>Höhe einer Zeile in Pixeln</translation>
+    </message>
+    <message>
+        <source>which part of the line stands at the origin</source>
+        <translation>welcher Teil der Zeile am Ursprung steht</translation>
+    </message>
+    <message>
+        <source>around what is drawn; empty: takes no part in boxes</source>
+        <translation>um das Gezeichnete; leer: zählt in Quadern nicht mit</translation>
+    </message>
+    <message>
+        <source>the comment</source>
+        <translation>der Kommentar</translation>
     </message>
     <message>
         <source>The program that this node was in is not attached any more.</source>
@@ -184,6 +930,86 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
         <translation>Im Text sind keine Knoten zum Einfügen.</translation>
     </message>
     <message>
+        <source>Delete “%1”</source>
+        <translation>„%1“ löschen</translation>
+    </message>
+    <message>
+        <source>Delete %1 Nodes</source>
+        <translation>%1 Knoten löschen</translation>
+    </message>
+    <message>
+        <source>Cut “%1”</source>
+        <translation>„%1“ ausschneiden</translation>
+    </message>
+    <message>
+        <source>Cut %1 Nodes</source>
+        <translation>%1 Knoten ausschneiden</translation>
+    </message>
+    <message>
+        <source>Duplicate “%1”</source>
+        <translation>„%1“ duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate %1 Nodes</source>
+        <translation>%1 Knoten duplizieren</translation>
+    </message>
+    <message>
+        <source>Paste “%1”</source>
+        <translation>„%1“ einfügen</translation>
+    </message>
+    <message>
+        <source>Paste %1 Nodes</source>
+        <translation>%1 Knoten einfügen</translation>
+    </message>
+    <message>
+        <source>Ungroup “%1”</source>
+        <translation>Gruppierung „%1“ aufheben</translation>
+    </message>
+    <message>
+        <source>Ungroup %1 Nodes</source>
+        <translation>Gruppierung von %1 Knoten aufheben</translation>
+    </message>
+    <message>
+        <source>Group “%1”</source>
+        <translation>„%1“ gruppieren</translation>
+    </message>
+    <message>
+        <source>Group %1 Nodes</source>
+        <translation>%1 Knoten gruppieren</translation>
+    </message>
+    <message>
+        <source>Make Unique “%1”</source>
+        <translation>„%1“ eigenständig machen</translation>
+    </message>
+    <message>
+        <source>Make Unique %1 Nodes</source>
+        <translation>%1 Knoten eigenständig machen</translation>
+    </message>
+    <message>
+        <source>Move “%1”</source>
+        <translation>„%1“ verschieben</translation>
+    </message>
+    <message>
+        <source>Move %1 Nodes</source>
+        <translation>%1 Knoten verschieben</translation>
+    </message>
+    <message>
+        <source>Copy “%1”</source>
+        <translation>„%1“ kopieren</translation>
+    </message>
+    <message>
+        <source>Copy %1 Nodes</source>
+        <translation>%1 Knoten kopieren</translation>
+    </message>
+    <message>
+        <source>Share “%1”</source>
+        <translation>„%1“ gemeinsam nutzen</translation>
+    </message>
+    <message>
+        <source>Share %1 Nodes</source>
+        <translation>%1 Knoten gemeinsam nutzen</translation>
+    </message>
+    <message>
         <source>“%1” has been changed meanwhile.</source>
         <translation>„%1“ hat sich inzwischen geändert.</translation>
     </message>
@@ -244,12 +1070,68 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
         <translation>Es lässt sich entweder DATEI oder ein laufendes Programm zeigen; angegeben wurde mehr als eins davon.</translation>
     </message>
     <message>
+        <source>Usage: scopix %1 %2</source>
+        <translation>Aufruf: scopix %1 %2</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Beispiele:</translation>
+    </message>
+    <message>
+        <source>Exit status: %1; 2 where it cannot be done.</source>
+        <translation>Rückgabewert: %1; 2, wenn es sich nicht ausführen lässt.</translation>
+    </message>
+    <message>
         <source>%1: The patch cannot be read: %2.</source>
         <translation>%1: Der Patch lässt sich nicht lesen: %2.</translation>
     </message>
     <message>
         <source>The patch “%1” cannot be written: %2.</source>
         <translation>Der Patch „%1“ lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>environment lights</source>
+        <translation>Umgebungslichter</translation>
+    </message>
+    <message>
+        <source>fogs</source>
+        <translation>Nebel</translation>
+    </message>
+    <message>
+        <source>animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>skins, whose present pose is kept</source>
+        <translation>Häute, deren jetzige Haltung bleibt</translation>
+    </message>
+    <message>
+        <source>morph targets, whose present mix is kept</source>
+        <translation>Morphziele, deren jetzige Mischung bleibt</translation>
+    </message>
+    <message>
+        <source>clip planes</source>
+        <translation>Schnittebenen</translation>
+    </message>
+    <message>
+        <source>lights</source>
+        <translation>Lichter</translation>
+    </message>
+    <message>
+        <source>cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>tracks that move other things than nodes and morph targets</source>
+        <translation>Spuren, die anderes als Knoten und Morphziele bewegen</translation>
+    </message>
+    <message>
+        <source>how fast, how long or how often animations are played</source>
+        <translation>wie schnell, wie lange oder wie oft Animationen laufen</translation>
     </message>
     <message>
         <source>%1, or that of another kind of model</source>
@@ -364,90 +1246,6 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
         <translation>die Datei muss ein einziges Objekt in geschweiften Klammern enthalten</translation>
     </message>
     <message>
-        <source>it is no binary glTF file, which starts with the four letters “glTF”</source>
-        <translation>das ist keine binäre glTF-Datei, die mit den vier Buchstaben „glTF“ beginnt</translation>
-    </message>
-    <message>
-        <source>it ends after %1 of the %2 bytes that its header announces</source>
-        <translation>sie endet nach %1 der %2 Bytes, die ihr Kopf ankündigt</translation>
-    </message>
-    <message>
-        <source>its JSON text is broken at line %1, column %2 (%3)</source>
-        <translation>ihr JSON-Text ist fehlerhaft in Zeile %1, Spalte %2 (%3)</translation>
-    </message>
-    <message>
-        <source>its “asset” was expected to name a version of glTF</source>
-        <translation>ihr „asset“ nennt keine Version von glTF</translation>
-    </message>
-    <message>
-        <source>its version of glTF is %1, and 1.0 or 2.0 was expected</source>
-        <translation>ihre glTF-Version ist %1, erwartet wurde 1.0 oder 2.0</translation>
-    </message>
-    <message>
-        <source>What the file says once by the extension “%1” is left out.</source>
-        <translation>Was die Datei einmal mit der Erweiterung „%1“ sagt, wird ausgelassen.</translation>
-    </message>
-    <message>
-        <source>What the file says %1 times by the extension “%2” is left out.</source>
-        <translation>Was die Datei %1-mal mit der Erweiterung „%2“ sagt, wird ausgelassen.</translation>
-    </message>
-    <message>
-        <source>1 property of materials is not known here and left out: %1.</source>
-        <translation>1 Eigenschaft von Materialien ist hier nicht bekannt und wird ausgelassen: %1.</translation>
-    </message>
-    <message>
-        <source>%1 properties of materials are not known here and left out: %2.</source>
-        <translation>%1 Eigenschaften von Materialien sind hier nicht bekannt und werden ausgelassen: %2.</translation>
-    </message>
-    <message>
-        <source>it is no file of the kind that its ending, .%1, says</source>
-        <translation>sie ist nicht von der Art, die ihre Endung .%1 nennt</translation>
-    </message>
-    <message>
-        <source>it asks for more memory than a file of its size can need</source>
-        <translation>sie verlangt mehr Speicher, als eine Datei ihrer Größe brauchen kann</translation>
-    </message>
-    <message>
-        <source>it holds no model that can be read</source>
-        <translation>sie enthält kein Modell, das sich lesen lässt</translation>
-    </message>
-    <message>
-        <source>it is not a whole model (%1)</source>
-        <translation>das ist kein vollständiges Modell (%1)</translation>
-    </message>
-    <message>
-        <source>it holds no mesh, and at least one was expected</source>
-        <translation>sie enthält kein Netz, mindestens eines wurde erwartet</translation>
-    </message>
-    <message>
-        <source>it asks for more memory than there is</source>
-        <translation>sie verlangt mehr Speicher, als es gibt</translation>
-    </message>
-    <message>
-        <source>reading it failed (%1)</source>
-        <translation>das Lesen ist fehlgeschlagen (%1)</translation>
-    </message>
-    <message>
-        <source>it is no PLY file, which starts with the line “ply”</source>
-        <translation>das ist keine PLY-Datei, die mit der Zeile „ply“ beginnt</translation>
-    </message>
-    <message>
-        <source>its line “%1” should end in a count</source>
-        <translation>ihre Zeile „%1“ sollte auf eine Anzahl enden</translation>
-    </message>
-    <message>
-        <source>its header does not end in the line “end_header”</source>
-        <translation>ihr Kopf endet nicht mit der Zeile „end_header“</translation>
-    </message>
-    <message>
-        <source>%1 bytes follow its header, which announces at least %2</source>
-        <translation>auf ihren Kopf folgen %1 Bytes, er kündigt mindestens %2 an</translation>
-    </message>
-    <message>
-        <source>%1 lines follow its header, which announces %2</source>
-        <translation>auf ihren Kopf folgen %1 Zeilen, er kündigt %2 an</translation>
-    </message>
-    <message>
         <source>“%1” cannot be kept as a default: new nodes have no other nodes of the scene in their fields.</source>
         <translation>„%1“ lässt sich nicht als Voreinstellung behalten: Neue Knoten haben keine anderen Knoten der Szene in ihren Feldern.</translation>
     </message>
@@ -522,6 +1320,42 @@ Ohne Fenster („scopix BEFEHL --help“ sagt mehr; eine Datei, die so heißt, i
     <message>
         <source>Re&amp;place</source>
         <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>glTF in one file (*.glb)</source>
+        <translation>glTF in einer Datei (*.glb)</translation>
+    </message>
+    <message>
+        <source>glTF (*.gltf)</source>
+        <translation>glTF mit Dateien daneben (*.gltf)</translation>
+    </message>
+    <message>
+        <source>Wavefront (*.obj)</source>
+        <translation>Wavefront-Modell (*.obj)</translation>
+    </message>
+    <message>
+        <source>Stanford polygons (*.ply)</source>
+        <translation>Stanford-Polygone (*.ply)</translation>
+    </message>
+    <message>
+        <source>Stereolithography (*.stl)</source>
+        <translation>Stereolithografie (*.stl)</translation>
+    </message>
+    <message>
+        <source>Export Scene</source>
+        <translation>Szene exportieren</translation>
+    </message>
+    <message>
+        <source>“%1” will not keep everything. Export it?</source>
+        <translation>„%1“ wird nicht alles enthalten. Trotzdem exportieren?</translation>
+    </message>
+    <message>
+        <source>It leaves out: %1.</source>
+        <translation>Es fehlt darin: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
     </message>
     <message>
         <source>About Scopix</source>
@@ -672,10 +1506,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Änderungen</translation>
     </message>
     <message>
-        <source>More</source>
-        <translation>Mehr</translation>
-    </message>
-    <message>
         <source>Takes back the ticked changes, or those that are selected, as one step (Del).</source>
         <translation>Nimmt die angehakten oder ausgewählten Änderungen in einem Schritt zurück (Entf).</translation>
     </message>
@@ -708,8 +1538,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>%L1 Änderungen gegenüber %2</translation>
     </message>
     <message>
-        <source>, %L1 of them ticked</source>
-        <translation>, %L1 davon angehakt</translation>
+        <source>%1, %2 of them ticked</source>
+        <translation>%1, %2 davon angehakt</translation>
     </message>
     <message>
         <source>Changes that could not be taken over: %1; the first: %2</source>
@@ -748,10 +1578,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Quer zur z-Achse schneiden</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>Sicht</translation>
-    </message>
-    <message>
         <source>Cut across the line of sight</source>
         <translation>Quer zur Blickrichtung schneiden</translation>
     </message>
@@ -774,6 +1600,26 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Show the whole scene again</source>
         <translation>Wieder die ganze Szene zeigen</translation>
+    </message>
+    <message>
+        <source>colours of highlights</source>
+        <translation>Farben von Glanzlichtern</translation>
+    </message>
+    <message>
+        <source>hidden parts</source>
+        <translation>verborgene Teile</translation>
+    </message>
+    <message>
+        <source>shapes without a place in space</source>
+        <translation>Körper ohne Ort im Raum</translation>
+    </message>
+    <message>
+        <source>ambient lights</source>
+        <translation>Lichter von überallher</translation>
+    </message>
+    <message>
+        <source>how lights fade with distance</source>
+        <translation>wie Licht mit der Entfernung abnimmt</translation>
     </message>
     <message>
         <source>Nothing is called so.</source>
@@ -844,12 +1690,12 @@ scopix --launch PROGRAM starts one.</source>
         <translation>keine</translation>
     </message>
     <message>
-        <source>: %1 → %2 values</source>
-        <translation>: %1 → %2 Werte</translation>
+        <source>%1: %2 → %3 values</source>
+        <translation>%1: %2 → %3 Werte</translation>
     </message>
     <message>
-        <source>: %1 values changed</source>
-        <translation>: %1 Werte geändert</translation>
+        <source>%1: %2 values changed</source>
+        <translation>%1: %2 Werte geändert</translation>
     </message>
     <message>
         <source>no longer ignored</source>
@@ -932,6 +1778,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>„%1“ vor den letzten Änderungen; wähle Mehr ▸ Neu vergleichen</translation>
     </message>
     <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
         <source>Take Over</source>
         <translation>Übernehmen</translation>
     </message>
@@ -952,6 +1802,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Eine Szene oder ein Modell öffnen</translation>
     </message>
     <message>
+        <source>Open &amp;in a New Tab…</source>
+        <translation>In neuem &amp;Tab öffnen …</translation>
+    </message>
+    <message>
         <source>Open &amp;Recent</source>
         <translation>Zuletzt &amp;geöffnet</translation>
     </message>
@@ -962,6 +1816,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Export…</source>
         <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Close Tab</source>
+        <translation>Tab s&amp;chließen</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -1316,12 +2174,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Aus diesem Fenster wurde noch kein Programm gestartet.</translation>
     </message>
     <message>
+        <source>“%1” shows no picture here.</source>
+        <translation>„%1“ zeigt hier kein Bild.</translation>
+    </message>
+    <message>
         <source>%1, process %2</source>
         <translation>%1, Prozess %2</translation>
     </message>
     <message>
-        <source>“%1” shows no picture here.</source>
-        <translation>„%1“ zeigt hier kein Bild.</translation>
+        <source>Launch Again</source>
+        <translation>Erneut starten</translation>
     </message>
     <message>
         <source>Attached to “%1”.</source>
@@ -1342,10 +2204,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>Aufgehoben für die nächste Verbindung mit „%1“: %2.</translation>
-    </message>
-    <message>
-        <source>Launch Again</source>
-        <translation>Erneut starten</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -1686,10 +2544,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Klicke etwas in der Ansicht oder im Baum an: Hier erscheinen seine Werte.</translation>
     </message>
     <message>
-        <source>Distance</source>
-        <translation>Abstand</translation>
-    </message>
-    <message>
         <source>Along x, y, z</source>
         <translation>Entlang x, y, z</translation>
     </message>
@@ -1750,10 +2604,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
 %1</translation>
     </message>
     <message>
-        <source>%1 Nodes</source>
-        <translation>%1 Knoten zusammen</translation>
-    </message>
-    <message>
         <source>Add %1</source>
         <translation>%1 hinzufügen</translation>
     </message>
@@ -1762,52 +2612,16 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>„%1“ steht im Programm ganz oben und lässt sich nicht duplizieren.</translation>
     </message>
     <message>
-        <source>Duplicate %1</source>
-        <translation>%1 duplizieren</translation>
-    </message>
-    <message>
         <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
         <translation>Nur Knoten, die in diesem Fenster aus diesem Programm kopiert wurden, lassen sich darin einfügen.</translation>
-    </message>
-    <message>
-        <source>Paste %1</source>
-        <translation>%1 ins Programm einfügen</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
         <translation><numerusform>%n Knoten kopiert.</numerusform><numerusform>%n Knoten kopiert.</numerusform></translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Cut</source>
-        <translation>Ausschneiden</translation>
-    </message>
-    <message>
-        <source>Paste “%1”</source>
-        <translation>„%1“ einfügen</translation>
-    </message>
-    <message>
-        <source>Paste %1 Nodes</source>
-        <translation>%1 Knoten einfügen</translation>
-    </message>
-    <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
         <translation>Nur Knoten, die in diesem Fenster und in dieser Szene kopiert wurden, lassen sich als gemeinsame einfügen.</translation>
-    </message>
-    <message>
-        <source>Share “%1”</source>
-        <translation>„%1“ gemeinsam nutzen</translation>
-    </message>
-    <message>
-        <source>Share %1 Nodes</source>
-        <translation>%1 Knoten gemeinsam nutzen</translation>
-    </message>
-    <message>
-        <source>Copy %1</source>
-        <translation>%1 kopieren</translation>
     </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
@@ -2458,8 +3272,8 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>ohne Namen</translation>
     </message>
     <message>
-        <source>, follows %1</source>
-        <translation>, folgt %1</translation>
+        <source>%1, follows %2</source>
+        <translation>%1, folgt %2</translation>
     </message>
     <message>
         <source>Written since by something else than an edit.</source>
@@ -2488,6 +3302,22 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>“%1” cannot be what %2 was: it is no value of a %3.</source>
         <translation>„%1“ kann nicht sein, was %2 war: Das ist kein Wert der Art %3.</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <translation>Bilder auf Oberflächen</translation>
+    </message>
+    <message>
+        <source>lines and points</source>
+        <translation>Linien und Punkte</translation>
+    </message>
+    <message>
+        <source>groups and transforms, which are applied</source>
+        <translation>Gruppen und Transformationen, die eingerechnet sind</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2.</translation>
     </message>
     <message>
         <source>Nothing of it can be seen: %1.</source>
@@ -2578,6 +3408,26 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>„%1“ steht in „%2“, das gesperrt ist, und lässt sich erst ändern, wenn das entsperrt ist.</translation>
     </message>
     <message>
+        <source>Open scenes</source>
+        <translation>Offene Szenen</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Tab</source>
+        <translation>Nä&amp;chster Tab</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>V&amp;origer Tab</translation>
+    </message>
+    <message>
+        <source>Close this tab</source>
+        <translation>Diesen Tab schließen</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 „%2“</translation>
+    </message>
+    <message>
         <source>Node</source>
         <translation>Knoten</translation>
     </message>
@@ -2628,10 +3478,6 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>Appearance</source>
         <translation>Darstellung</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
     </message>
     <message>
         <source>Size of texts</source>
@@ -3066,104 +3912,76 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
         <translation>Strg+K findet jede Aktion, jeden Knoten, jedes Feld und jede Einstellung nach dem Namen, F1 erklärt die Auswahl. Speichere mit Strg+S oder exportiere aus dem Dateimenü für ein anderes Programm.</translation>
     </message>
     <message>
-        <source>%1 is the root of the scene, and has to stay where it is.</source>
-        <translation>%1 ist die Wurzel der Szene und muss bleiben, wo es ist.</translation>
+        <source>“%1” is the root of the scene, and has to stay where it is.</source>
+        <translation>„%1“ ist die Wurzel der Szene und muss bleiben, wo es ist.</translation>
     </message>
     <message>
-        <source>%1 %2 Nodes</source>
-        <translation>%1: %2 Knoten</translation>
+        <source>Put %1 Above “%2”</source>
+        <translation>%1 über „%2“ einsetzen</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>Verschieben</translation>
+        <source>Put %1 Above %2 Nodes</source>
+        <translation>%1 über %2 Knoten einsetzen</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
+        <source>“%1” cannot be duplicated: something in it is of a kind that cannot be copied.</source>
+        <translation>„%1“ lässt sich nicht duplizieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
     </message>
     <message>
-        <source>Share</source>
-        <translation>Gemeinsam nutzen</translation>
+        <source>“%1” is no group, and cannot be ungrouped.</source>
+        <translation>„%1“ ist keine Gruppe und lässt sich nicht auflösen.</translation>
     </message>
     <message>
-        <source>%1 cannot be duplicated: something in it is of a kind that cannot be copied.</source>
-        <translation>%1 lässt sich nicht duplizieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
+        <source>“%1” cannot be put below itself.</source>
+        <translation>„%1“ lässt sich nicht unter sich selbst setzen.</translation>
     </message>
     <message>
-        <source>Duplicate</source>
-        <translation>Duplizieren</translation>
+        <source>“%1” stands in one place only, and is its own already.</source>
+        <translation>„%1“ steht nur an einer Stelle und ist schon eigenständig.</translation>
     </message>
     <message>
-        <source>%1 is no group, and cannot be ungrouped.</source>
-        <translation>%1 ist keine Gruppe und lässt sich nicht auflösen.</translation>
+        <source>“%1” cannot be made unique: something in it is of a kind that cannot be copied.</source>
+        <translation>„%1“ lässt sich nicht eigenständig machen: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
     </message>
     <message>
-        <source>Ungroup</source>
-        <translation>Gruppierung aufheben</translation>
-    </message>
-    <message>
-        <source>%1 cannot be put below itself.</source>
-        <translation>%1 lässt sich nicht unter sich selbst setzen.</translation>
-    </message>
-    <message>
-        <source>Group</source>
-        <translation>Gruppieren</translation>
-    </message>
-    <message>
-        <source>Put %1 Above</source>
-        <translation>%1 darüber einsetzen</translation>
-    </message>
-    <message>
-        <source>%1 stands in one place only, and is its own already.</source>
-        <translation>%1 steht nur an einer Stelle und ist schon eigenständig.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be made unique: something in it is of a kind that cannot be copied.</source>
-        <translation>%1 lässt sich nicht eigenständig machen: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
-    </message>
-    <message>
-        <source>Make Unique</source>
-        <translation>Eigenständig machen</translation>
-    </message>
-    <message>
-        <source>Nothing can be put into %1, which is no group.</source>
-        <translation>In %1 lässt sich nichts setzen, das ist keine Gruppe.</translation>
+        <source>Nothing can be put into “%1”, which is no group.</source>
+        <translation>In „%1“ lässt sich nichts setzen, das ist keine Gruppe.</translation>
     </message>
     <message>
         <source>A node cannot be called “%1”: names can have the letters of western European languages only.</source>
         <translation>Ein Knoten kann nicht „%1“ heißen: Namen können nur Buchstaben westeuropäischer Sprachen haben.</translation>
     </message>
     <message>
-        <source>Rename %1 to “%2”</source>
-        <translation>%1 in „%2“ umbenennen</translation>
+        <source>Rename “%1” to “%2”</source>
+        <translation>„%1“ in „%2“ umbenennen</translation>
     </message>
     <message>
-        <source>%1 cannot be copied: something in it is of a kind that cannot be copied.</source>
-        <translation>%1 lässt sich nicht kopieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
+        <source>“%1” cannot be copied: something in it is of a kind that cannot be copied.</source>
+        <translation>„%1“ lässt sich nicht kopieren: Etwas darin ist von einer Art, die sich nicht kopieren lässt.</translation>
     </message>
     <message>
-        <source>%1 is the first one in its group already.</source>
-        <translation>%1 ist schon das erste in seiner Gruppe.</translation>
+        <source>“%1” is the first one in its group already.</source>
+        <translation>„%1“ ist schon das erste in seiner Gruppe.</translation>
     </message>
     <message>
-        <source>%1 is the last one in its group already.</source>
-        <translation>%1 ist schon das letzte in seiner Gruppe.</translation>
+        <source>“%1” is the last one in its group already.</source>
+        <translation>„%1“ ist schon das letzte in seiner Gruppe.</translation>
     </message>
     <message>
-        <source>%1 stands in the root of the scene, out of which nothing can be moved.</source>
-        <translation>%1 steht in der Wurzel der Szene; daraus lässt sich nichts herausnehmen.</translation>
+        <source>“%1” stands in the root of the scene, out of which nothing can be moved.</source>
+        <translation>„%1“ steht in der Wurzel der Szene; daraus lässt sich nichts herausnehmen.</translation>
     </message>
     <message>
-        <source>There is no group before %1 that it could be moved into.</source>
-        <translation>Vor %1 steht keine Gruppe, in die es sich verschieben ließe.</translation>
+        <source>There is no group before “%1” that it could be moved into.</source>
+        <translation>Vor „%1“ steht keine Gruppe, in die es sich verschieben ließe.</translation>
     </message>
     <message>
         <source>Nothing is hidden that could be hidden for good.</source>
         <translation>Nichts ist ausgeblendet, das sich dauerhaft ausblenden ließe.</translation>
     </message>
     <message>
-        <source>Hide %1 for Good</source>
-        <translation>%1 dauerhaft ausblenden</translation>
+        <source>Hide “%1” for Good</source>
+        <translation>„%1“ dauerhaft ausblenden</translation>
     </message>
     <message>
         <source>Hide %1 Nodes for Good</source>

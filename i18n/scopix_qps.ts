@@ -4,15 +4,221 @@
 <context>
     <name>Scopix</name>
     <message>
+        <source>opens a model</source>
+        <translation>[öpéñš à mödél ~~~~~]</translation>
+    </message>
+    <message>
+        <source>opens a scene and shows one of its fields</source>
+        <translation>[öpéñš à šçéñé àñd šĥöwš öñé öf îţš fîéldš ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>draws it without a window</source>
+        <translation>[dŕàwš îţ wîţĥöûţ à wîñdöw ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 where all that was asked for is done, 1 where something is not</source>
+        <translation>[0 wĥéŕé àll ţĥàţ wàš àšķéd föŕ îš döñé, 1 wĥéŕé šöméţĥîñĝ îš ñöţ ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Write JSON instead of text.</source>
+        <translation>[Wŕîţé ĴŠÖÑ îñšţéàd öf ţéxţ. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Write this file and leave FILE as it is; "-" is standard output.</source>
+        <translation>[Wŕîţé ţĥîš fîlé àñd léàvé FÎLÉ àš îţ îš; "-" îš šţàñdàŕd öûţpûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Prints the tree of a scene or model, a node with its fields, or the value of a field.</source>
+        <translation>[Pŕîñţš ţĥé ţŕéé öf à šçéñé öŕ mödél, à ñödé wîţĥ îţš fîéldš, öŕ ţĥé vàlûé öf à fîéld. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the tree: names, types, and where a node stands again</source>
+        <translation>[ţĥé ţŕéé: ñàméš, ţýpéš, àñd wĥéŕé à ñödé šţàñdš àĝàîñ ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the fields of one node, and what is below it</source>
+        <translation>[ţĥé fîéldš öf öñé ñödé, àñd wĥàţ îš bélöw îţ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one value; without "/" wherever the node stands</source>
+        <translation>[öñé vàlûé; wîţĥöûţ "/" wĥéŕévéŕ ţĥé ñödé šţàñdš ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>everything that a scene file holds</source>
+        <translation>[évéŕýţĥîñĝ ţĥàţ à šçéñé fîlé ĥöldš ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Gives fields values and saves. A value is what a scene file has, or a formula with units such as 90deg, 30 cm or x*2, where x is the present value; what each field measures and takes is on the page of nodes. A number without a unit is in radians, metres or seconds. Where one of them cannot be set, nothing is saved.</source>
+        <translation>[Ĝîvéš fîéldš vàlûéš àñd šàvéš. À vàlûé îš wĥàţ à šçéñé fîlé ĥàš, öŕ à föŕmûlà wîţĥ ûñîţš šûçĥ àš 90déĝ, 30 çm öŕ x*2, wĥéŕé x îš ţĥé pŕéšéñţ vàlûé; wĥàţ éàçĥ fîéld méàšûŕéš àñd ţàķéš îš öñ ţĥé pàĝé öf ñödéš. À ñûmbéŕ wîţĥöûţ à ûñîţ îš îñ ŕàdîàñš, méţŕéš öŕ šéçöñdš. Wĥéŕé öñé öf ţĥém çàññöţ bé šéţ, ñöţĥîñĝ îš šàvéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>saves lamp.xsg</source>
+        <translation>[šàvéš làmp.xšĝ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one after the other</source>
+        <translation>[öñé àfţéŕ ţĥé öţĥéŕ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>writes the scene to standard output</source>
+        <translation>[wŕîţéš ţĥé šçéñé ţö šţàñdàŕd öûţpûţ ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Prints the paths of the nodes that a query finds; the query is that of the line above the scene tree.</source>
+        <translation>[Pŕîñţš ţĥé pàţĥš öf ţĥé ñödéš ţĥàţ à qûéŕý fîñdš; ţĥé qûéŕý îš ţĥàţ öf ţĥé lîñé àbövé ţĥé šçéñé ţŕéé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>all lights</source>
+        <translation>[àll lîĝĥţš ~~~~]</translation>
+    </message>
+    <message>
+        <source>what is transparent and not called bulb</source>
+        <translation>[wĥàţ îš ţŕàñšpàŕéñţ àñd ñöţ çàlléd bûlb ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 where something was found, 1 where not</source>
+        <translation>[0 wĥéŕé šöméţĥîñĝ wàš föûñd, 1 wĥéŕé ñöţ ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Prints what makes the scene in A the one in B, as a patch.</source>
+        <translation>[Pŕîñţš wĥàţ màķéš ţĥé šçéñé îñ À ţĥé öñé îñ B, àš à pàţçĥ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one line a change</source>
+        <translation>[öñé lîñé à çĥàñĝé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>keeps it for scopix apply</source>
+        <translation>[ķéépš îţ föŕ šçöpîx àpplý ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 where they are the same, 1 where they differ</source>
+        <translation>[0 wĥéŕé ţĥéý àŕé ţĥé šàmé, 1 wĥéŕé ţĥéý dîfféŕ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Makes the changes of a patch in a scene and saves it. What does not fit the scene is listed and the rest is applied; applied once more, a patch changes nothing.</source>
+        <translation>[Màķéš ţĥé çĥàñĝéš öf à pàţçĥ îñ à šçéñé àñd šàvéš îţ. Wĥàţ döéš ñöţ fîţ ţĥé šçéñé îš lîšţéd àñd ţĥé ŕéšţ îš àpplîéd; àpplîéd öñçé möŕé, à pàţçĥ çĥàñĝéš ñöţĥîñĝ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>leaves lamp.xsg as it is</source>
+        <translation>[léàvéš làmp.xšĝ àš îţ îš ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 where all of it fits, 1 where some does not</source>
+        <translation>[0 wĥéŕé àll öf îţ fîţš, 1 wĥéŕé šömé döéš ñöţ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Reads a scene or model and writes it as a file of the kind that the ending of OUT says: .xsg, .glb, .gltf, .obj, .ply or .stl. What such a file cannot keep is said on standard error.</source>
+        <translation>[Ŕéàdš à šçéñé öŕ mödél àñd wŕîţéš îţ àš à fîlé öf ţĥé ķîñd ţĥàţ ţĥé éñdîñĝ öf ÖÛŢ šàýš: .xšĝ, .ĝlb, .ĝlţf, .öbĵ, .plý öŕ .šţl. Wĥàţ šûçĥ à fîlé çàññöţ ķéép îš šàîd öñ šţàñdàŕd éŕŕöŕ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a model becomes a scene</source>
+        <translation>[à mödél béçöméš à šçéñé ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Draws a scene or model into a picture file, such as .png or .jpg; needs no display.</source>
+        <translation>[Dŕàwš à šçéñé öŕ mödél îñţö à pîçţûŕé fîlé, šûçĥ àš .pñĝ öŕ .ĵpĝ; ñéédš ñö dîšplàý. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The size in pixels; 800x600 at first.</source>
+        <translation>[Ţĥé šîžé îñ pîxélš; 800x600 àţ fîŕšţ. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The path of a camera of the scene, all, front, back, left, right, top or bottom. At first the first camera of the scene, or all.</source>
+        <translation>[Ţĥé pàţĥ öf à çàméŕà öf ţĥé šçéñé, àll, fŕöñţ, bàçķ, léfţ, ŕîĝĥţ, ţöp öŕ böţţöm. Àţ fîŕšţ ţĥé fîŕšţ çàméŕà öf ţĥé šçéñé, öŕ àll. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Draws N pictures, OUT-0001 and so on, 1/30 of a second apart.</source>
+        <translation>[Dŕàwš Ñ pîçţûŕéš, ÖÛŢ-0001 àñd šö öñ, 1/30 öf à šéçöñd àpàŕţ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Three numbers from 0 to 1; "0 0 0" is black.</source>
+        <translation>[Ţĥŕéé ñûmbéŕš fŕöm 0 ţö 1; "0 0 0" îš blàçķ. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>How light that is brighter than white comes into the picture: none, neutral or filmic; neutral at first.</source>
+        <translation>[Ĥöw lîĝĥţ ţĥàţ îš bŕîĝĥţéŕ ţĥàñ wĥîţé çöméš îñţö ţĥé pîçţûŕé: ñöñé, ñéûţŕàl öŕ fîlmîç; ñéûţŕàl àţ fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>as the scene's camera sees it</source>
+        <translation>[àš ţĥé šçéñé'š çàméŕà šééš îţ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>everything, from above</source>
+        <translation>[évéŕýţĥîñĝ, fŕöm àbövé ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>turn-0001.png to turn-0003.png</source>
+        <translation>[ţûŕñ-0001.pñĝ ţö ţûŕñ-0003.pñĝ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Opens files and reports what of them is dropped, missing or odd.</source>
+        <translation>[Öpéñš fîléš àñd ŕépöŕţš wĥàţ öf ţĥém îš dŕöppéd, mîššîñĝ öŕ ödd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a line for each thing that it notices</source>
+        <translation>[à lîñé föŕ éàçĥ ţĥîñĝ ţĥàţ îţ ñöţîçéš ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the same for other programs</source>
+        <translation>[ţĥé šàmé föŕ öţĥéŕ pŕöĝŕàmš ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 where there is nothing to report, 1 where there is something, 2 where a file cannot be read</source>
+        <translation>[0 wĥéŕé ţĥéŕé îš ñöţĥîñĝ ţö ŕépöŕţ, 1 wĥéŕé ţĥéŕé îš šöméţĥîñĝ, 2 wĥéŕé à fîlé çàññöţ bé ŕéàd ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Counts nodes, shapes, triangles, pictures and memory of a scene, and of each branch below its root or below PATH.</source>
+        <translation>[Çöûñţš ñödéš, šĥàpéš, ţŕîàñĝléš, pîçţûŕéš àñd mémöŕý öf à šçéñé, àñd öf éàçĥ bŕàñçĥ bélöw îţš ŕööţ öŕ bélöw PÀŢĤ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a table</source>
+        <translation>[à ţàblé ~~~]</translation>
+    </message>
+    <message>
+        <source>Draws a scene or model and prints what a frame costs; needs no display. The first ten frames are not counted. With --against, medians are compared by the test of Mann and Whitney: slower is what takes 5 % longer and would be so by chance less than once in a hundred.</source>
+        <translation>[Dŕàwš à šçéñé öŕ mödél àñd pŕîñţš wĥàţ à fŕàmé çöšţš; ñéédš ñö dîšplàý. Ţĥé fîŕšţ ţéñ fŕàméš àŕé ñöţ çöûñţéd. Wîţĥ --àĝàîñšţ, médîàñš àŕé çömpàŕéd bý ţĥé ţéšţ öf Màññ àñd Wĥîţñéý: šlöwéŕ îš wĥàţ ţàķéš 5 % löñĝéŕ àñd wöûld bé šö bý çĥàñçé léšš ţĥàñ öñçé îñ à ĥûñdŕéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>How many frames, from 1 to 3000; 120 at first.</source>
+        <translation>[Ĥöw màñý fŕàméš, fŕöm 1 ţö 3000; 120 àţ fîŕšţ. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The size in pixels; 800x600 at first, or that of OLD.</source>
+        <translation>[Ţĥé šîžé îñ pîxélš; 800x600 àţ fîŕšţ, öŕ ţĥàţ öf ÖLD. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Compares with this recording.</source>
+        <translation>[Çömpàŕéš wîţĥ ţĥîš ŕéçöŕdîñĝ. ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Keeps the frames as a recording.</source>
+        <translation>[Ķéépš ţĥé fŕàméš àš à ŕéçöŕdîñĝ. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a table: phases, graphics card, draw calls and more</source>
+        <translation>[à ţàblé: pĥàšéš, ĝŕàpĥîçš çàŕd, dŕàw çàllš àñd möŕé ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>keeps them for a comparison</source>
+        <translation>[ķéépš ţĥém föŕ à çömpàŕîšöñ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>whether it became slower</source>
+        <translation>[wĥéţĥéŕ îţ béçàmé šlöwéŕ ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0, 1 where it is slower than OLD</source>
+        <translation>[0, 1 wĥéŕé îţ îš šlöwéŕ ţĥàñ ÖLD ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1 (scopix --help lists the options.)</source>
         <translation>[%1 (šçöpîx --ĥélp lîšţš ţĥé öpţîöñš.) ~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>
-Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
+        <source>Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):
 %1</source>
-        <translation>
-[Wîţĥöûţ à wîñdöw (šçöpîx ÇÖMMÀÑD --ĥélp šàýš möŕé; à fîlé öf šûçĥ à ñàmé îš ./ÑÀMÉ):
+        <translation>[Wîţĥöûţ à wîñdöw (šçöpîx ÇÖMMÀÑD --ĥélp šàýš möŕé; à fîlé öf šûçĥ à ñàmé îš ./ÑÀMÉ):
 %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
@@ -100,6 +306,546 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[àñ éxçépţîöñ öf àñ ûñķñöwñ ţýpé ~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>its place, from 0; -1 none, -2 all</source>
+        <translation>[îţš plàçé, fŕöm 0; -1 ñöñé, -2 àll ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>from where the distance is measured</source>
+        <translation>[fŕöm wĥéŕé ţĥé dîšţàñçé îš méàšûŕéd ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>growing</source>
+        <translation>[ĝŕöwîñĝ ~~~]</translation>
+    </message>
+    <message>
+        <source>where each copy stands; none: nothing is shown</source>
+        <translation>[wĥéŕé éàçĥ çöpý šţàñdš; ñöñé: ñöţĥîñĝ îš šĥöwñ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>[Plàçé ~~]</translation>
+    </message>
+    <message>
+        <source>where the eye is</source>
+        <translation>[wĥéŕé ţĥé éýé îš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>turns the view, which looks along -z at first</source>
+        <translation>[ţûŕñš ţĥé vîéw, wĥîçĥ lööķš àlöñĝ -ž àţ fîŕšţ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>[Vîéw ~~]</translation>
+    </message>
+    <message>
+        <source>between the lower and the upper edge, in radians</source>
+        <translation>[béţwééñ ţĥé löwéŕ àñd ţĥé ûppéŕ édĝé, îñ ŕàdîàñš ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>to the point that it turns around</source>
+        <translation>[ţö ţĥé pöîñţ ţĥàţ îţ ţûŕñš àŕöûñd ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>what is nearer is not seen</source>
+        <translation>[wĥàţ îš ñéàŕéŕ îš ñöţ šééñ ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>what is farther is not seen</source>
+        <translation>[wĥàţ îš fàŕţĥéŕ îš ñöţ šééñ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of what is seen, in the camera's coordinates</source>
+        <translation>[öf wĥàţ îš šééñ, îñ ţĥé çàméŕà'š çööŕdîñàţéš ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>whether it shines</source>
+        <translation>[wĥéţĥéŕ îţ šĥîñéš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the light</source>
+        <translation>[öf ţĥé lîĝĥţ ~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 dark to 1 full</source>
+        <translation>[0 dàŕķ ţö 1 fûll ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>in which the light shines</source>
+        <translation>[îñ wĥîçĥ ţĥé lîĝĥţ šĥîñéš ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>[Lîĝĥţ ~~]</translation>
+    </message>
+    <message>
+        <source>where it stands</source>
+        <translation>[wĥéŕé îţ šţàñdš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>constant, linear, quadratic with distance</source>
+        <translation>[çöñšţàñţ, lîñéàŕ, qûàdŕàţîç wîţĥ dîšţàñçé ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the cone's axis</source>
+        <translation>[öf ţĥé çöñé'š àxîš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>[Çöñé ~~]</translation>
+    </message>
+    <message>
+        <source>between the axis and the edge, in radians</source>
+        <translation>[béţwééñ ţĥé àxîš àñd ţĥé édĝé, îñ ŕàdîàñš ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 evenly bright; the higher, the darker towards the edge</source>
+        <translation>[0 évéñlý bŕîĝĥţ; ţĥé ĥîĝĥéŕ, ţĥé dàŕķéŕ ţöwàŕdš ţĥé édĝé ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>[Dîšţàñçé ~~~]</translation>
+    </message>
+    <message>
+        <source>times the colours</source>
+        <translation>[ţîméš ţĥé çölöûŕš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>[Çölöûŕš ~~~]</translation>
+    </message>
+    <message>
+        <source>straight above</source>
+        <translation>[šţŕàîĝĥţ àbövé ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>between sky and ground</source>
+        <translation>[béţwééñ šķý àñd ĝŕöûñd ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>[bélöw ~~]</translation>
+    </message>
+    <message>
+        <source>how far it moves, at the end</source>
+        <translation>[ĥöw fàŕ îţ mövéš, àţ ţĥé éñd ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how it turns, after scaling</source>
+        <translation>[ĥöw îţ ţûŕñš, àfţéŕ šçàlîñĝ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how it stretches along each axis, at first</source>
+        <translation>[ĥöw îţ šţŕéţçĥéš àlöñĝ éàçĥ àxîš, àţ fîŕšţ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>[Möŕé ~~]</translation>
+    </message>
+    <message>
+        <source>the axes along which it scales</source>
+        <translation>[ţĥé àxéš àlöñĝ wĥîçĥ îţ šçàléš ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>stays in place while turning and scaling</source>
+        <translation>[šţàýš îñ plàçé wĥîlé ţûŕñîñĝ àñd šçàlîñĝ ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>rows first; the last row is the translation</source>
+        <translation>[ŕöwš fîŕšţ; ţĥé làšţ ŕöw îš ţĥé ţŕàñšlàţîöñ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>whether time moves it</source>
+        <translation>[wĥéţĥéŕ ţîmé mövéš îţ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>around which it turns</source>
+        <translation>[àŕöûñd wĥîçĥ îţ ţûŕñš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>turns a second</source>
+        <translation>[ţûŕñš à šéçöñd ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the speed; negative turns the other way</source>
+        <translation>[ţĥé špééd; ñéĝàţîvé ţûŕñš ţĥé öţĥéŕ wàý ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the angle is time x turnsPerSecond turns</source>
+        <translation>[ţĥé àñĝlé îš ţîmé x ţûŕñšPéŕŠéçöñd ţûŕñš ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>STOPPED: all fields have their own values; PAUSED: those of the time; PLAYING: time passes</source>
+        <translation>[ŠŢÖPPÉD: àll fîéldš ĥàvé ţĥéîŕ öwñ vàlûéš; PÀÛŠÉD: ţĥöšé öf ţĥé ţîmé; PLÀÝÎÑĜ: ţîmé pàššéš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of what is shown, from the beginning</source>
+        <translation>[öf wĥàţ îš šĥöwñ, fŕöm ţĥé béĝîññîñĝ ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>1 as the clip was made; below 0 it runs backwards</source>
+        <translation>[1 àš ţĥé çlîp wàš màdé; bélöw 0 îţ ŕûñš bàçķwàŕdš ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>from the end it goes on at the beginning; else it pauses there</source>
+        <translation>[fŕöm ţĥé éñd îţ ĝöéš öñ àţ ţĥé béĝîññîñĝ; élšé îţ pàûšéš ţĥéŕé ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0: until the last key</source>
+        <translation>[0: ûñţîl ţĥé làšţ ķéý ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the node that has the field</source>
+        <translation>[ţĥé ñödé ţĥàţ ĥàš ţĥé fîéld ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the name of the field that it animates</source>
+        <translation>[ţĥé ñàmé öf ţĥé fîéld ţĥàţ îţ àñîmàţéš ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>between keys: STEP keeps a value until the next, LINEAR goes straight, CUBIC follows tangents</source>
+        <translation>[béţwééñ ķéýš: ŠŢÉP ķéépš à vàlûé ûñţîl ţĥé ñéxţ, LÎÑÉÀŔ ĝöéš šţŕàîĝĥţ, ÇÛBÎÇ föllöwš ţàñĝéñţš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the keys, growing</source>
+        <translation>[öf ţĥé ķéýš, ĝŕöwîñĝ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the numbers of all keys, one key after the other; a cubic one has its incoming tangent, its value and its outgoing tangent</source>
+        <translation>[ţĥé ñûmbéŕš öf àll ķéýš, öñé ķéý àfţéŕ ţĥé öţĥéŕ; à çûbîç öñé ĥàš îţš îñçömîñĝ ţàñĝéñţ, îţš vàlûé àñd îţš öûţĝöîñĝ ţàñĝéñţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>transforms, each after its parent; NULL: one that never moves</source>
+        <translation>[ţŕàñšföŕmš, éàçĥ àfţéŕ îţš pàŕéñţ; ÑÛLL: öñé ţĥàţ ñévéŕ mövéš ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the place of each bone's parent in the list, or -1</source>
+        <translation>[ţĥé plàçé öf éàçĥ böñé'š pàŕéñţ îñ ţĥé lîšţ, öŕ -1 ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>for each bone, from the points to it, as the skin was made</source>
+        <translation>[föŕ éàçĥ böñé, fŕöm ţĥé pöîñţš ţö îţ, àš ţĥé šķîñ wàš màdé ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the bone in whose coordinates the points stand, or -1</source>
+        <translation>[ţĥé böñé îñ wĥöšé çööŕdîñàţéš ţĥé pöîñţš šţàñd, öŕ -1 ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how many bones can move a point</source>
+        <translation>[ĥöw màñý böñéš çàñ mövé à pöîñţ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>so many for each point, by place in the list of bones</source>
+        <translation>[šö màñý föŕ éàçĥ pöîñţ, bý plàçé îñ ţĥé lîšţ öf böñéš ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of each of these; of each point they add up to 1</source>
+        <translation>[öf éàçĥ öf ţĥéšé; öf éàçĥ pöîñţ ţĥéý àdd ûp ţö 1 ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one for each target, 0 none to 1 all of it</source>
+        <translation>[öñé föŕ éàçĥ ţàŕĝéţ, 0 ñöñé ţö 1 àll öf îţ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>for all points of the first target, then of the next</source>
+        <translation>[föŕ àll pöîñţš öf ţĥé fîŕšţ ţàŕĝéţ, ţĥéñ öf ţĥé ñéxţ ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the same for the normals, or none</source>
+        <translation>[ţĥé šàmé föŕ ţĥé ñöŕmàlš, öŕ ñöñé ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>[Šûŕfàçé ~~~]</translation>
+    </message>
+    <message>
+        <source>Shapes that colour their parts, faces or vertices take one after the other; the others take the first.</source>
+        <translation>[Šĥàpéš ţĥàţ çölöûŕ ţĥéîŕ pàŕţš, fàçéš öŕ véŕţîçéš ţàķé öñé àfţéŕ ţĥé öţĥéŕ; ţĥé öţĥéŕš ţàķé ţĥé fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 dull to 1 sharp</source>
+        <translation>[0 dûll ţö 1 šĥàŕp ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 opaque to 1 invisible</source>
+        <translation>[0 öpàqûé ţö 1 îñvîšîblé ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Other colours</source>
+        <translation>[Öţĥéŕ çölöûŕš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the highlights</source>
+        <translation>[öf ţĥé ĥîĝĥlîĝĥţš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>that it shows without any light</source>
+        <translation>[ţĥàţ îţ šĥöwš wîţĥöûţ àñý lîĝĥţ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>under ambient light</source>
+        <translation>[ûñdéŕ àmbîéñţ lîĝĥţ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>linear; shapes that colour their parts, faces or vertices take one after the other, the others take the first</source>
+        <translation>[lîñéàŕ; šĥàpéš ţĥàţ çölöûŕ ţĥéîŕ pàŕţš, fàçéš öŕ véŕţîçéš ţàķé öñé àfţéŕ ţĥé öţĥéŕ, ţĥé öţĥéŕš ţàķé ţĥé fîŕšţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 not a metal to 1 metal</source>
+        <translation>[0 ñöţ à méţàl ţö 1 méţàl ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 mirror to 1 matte</source>
+        <translation>[0 mîŕŕöŕ ţö 1 màţţé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Glow</source>
+        <translation>[Ĝlöw ~~]</translation>
+    </message>
+    <message>
+        <source>that it shows without any light; linear</source>
+        <translation>[ţĥàţ îţ šĥöwš wîţĥöûţ àñý lîĝĥţ; lîñéàŕ ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>times the colour</source>
+        <translation>[ţîméš ţĥé çölöûŕ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Clear coat</source>
+        <translation>[Çléàŕ çöàţ ~~~~]</translation>
+    </message>
+    <message>
+        <source>how much of a coat is on top</source>
+        <translation>[ĥöw mûçĥ öf à çöàţ îš öñ ţöp ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the coat: 0 mirror to 1 matte</source>
+        <translation>[öf ţĥé çöàţ: 0 mîŕŕöŕ ţö 1 màţţé ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the slopes in the normal picture of the coat</source>
+        <translation>[öf ţĥé šlöpéš îñ ţĥé ñöŕmàl pîçţûŕé öf ţĥé çöàţ ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>[Pîçţûŕéš ~~~]</translation>
+    </message>
+    <message>
+        <source>of the slopes in the normal picture</source>
+        <translation>[öf ţĥé šlöpéš îñ ţĥé ñöŕmàl pîçţûŕé ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0: the occlusion picture has no effect</source>
+        <translation>[0: ţĥé öççlûšîöñ pîçţûŕé ĥàš ñö éfféçţ ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>[Öpàçîţý ~~~]</translation>
+    </message>
+    <message>
+        <source>OPAQUE as if nothing were transparent, MASK there or not, BLEND mixed</source>
+        <translation>[ÖPÀQÛÉ àš îf ñöţĥîñĝ wéŕé ţŕàñšpàŕéñţ, MÀŠĶ ţĥéŕé öŕ ñöţ, BLÉÑD mîxéd ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>times that of the base colour’s picture; of the modes MASK and BLEND</source>
+        <translation>[ţîméš ţĥàţ öf ţĥé bàšé çölöûŕ’š pîçţûŕé; öf ţĥé mödéš MÀŠĶ àñd BLÉÑD ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>MASK leaves out what is less opaque</source>
+        <translation>[MÀŠĶ léàvéš öûţ wĥàţ îš léšš öpàqûé ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>[Pîçţûŕé ~~~]</translation>
+    </message>
+    <message>
+        <source>the property that the picture is of</source>
+        <translation>[ţĥé pŕöpéŕţý ţĥàţ ţĥé pîçţûŕé îš öf ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the picture file, beside the scene or with its full path</source>
+        <translation>[ţĥé pîçţûŕé fîlé, béšîdé ţĥé šçéñé öŕ wîţĥ îţš fûll pàţĥ ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the picture itself, where no file is named</source>
+        <translation>[ţĥé pîçţûŕé îţšélf, wĥéŕé ñö fîlé îš ñàméd ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>On the surface</source>
+        <translation>[Öñ ţĥé šûŕfàçé ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>FIRST of TextureCoordinates, SECOND of SecondTextureCoordinates</source>
+        <translation>[FÎŔŠŢ öf ŢéxţûŕéÇööŕdîñàţéš, ŠÉÇÖÑD öf ŠéçöñdŢéxţûŕéÇööŕdîñàţéš ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>around the origin, after scaling; in radians</source>
+        <translation>[àŕöûñd ţĥé öŕîĝîñ, àfţéŕ šçàlîñĝ; îñ ŕàdîàñš ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the coordinates, at first</source>
+        <translation>[öf ţĥé çööŕdîñàţéš, àţ fîŕšţ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>[Édĝéš ~~]</translation>
+    </message>
+    <message>
+        <source>beyond the left and right edges</source>
+        <translation>[béýöñd ţĥé léfţ àñd ŕîĝĥţ édĝéš ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>beyond the lower and upper edges</source>
+        <translation>[béýöñd ţĥé löwéŕ àñd ûppéŕ édĝéš ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>has no effect here</source>
+        <translation>[ĥàš ñö éfféçţ ĥéŕé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how the picture and the material's colour combine</source>
+        <translation>[ĥöw ţĥé pîçţûŕé àñd ţĥé màţéŕîàl'š çölöûŕ çömbîñé ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>in radians</source>
+        <translation>[îñ ŕàdîàñš ~~~~]</translation>
+    </message>
+    <message>
+        <source>filled, lines, points or invisible</source>
+        <translation>[fîlléd, lîñéš, pöîñţš öŕ îñvîšîblé ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>[pîxélš ~~]</translation>
+    </message>
+    <message>
+        <source>in pixels</source>
+        <translation>[îñ pîxélš ~~~~]</translation>
+    </message>
+    <message>
+        <source>0 coarse to 1 fine: round shapes</source>
+        <translation>[0 çöàŕšé ţö 1 fîñé: ŕöûñd šĥàpéš ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>0 no textures, below 0.5 blocky, above 0.5 smoothest</source>
+        <translation>[0 ñö ţéxţûŕéš, bélöw 0.5 blöçķý, àbövé 0.5 šmööţĥéšţ ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how it grows with distance</source>
+        <translation>[ĥöw îţ ĝŕöwš wîţĥ dîšţàñçé ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>into which all fades</source>
+        <translation>[îñţö wĥîçĥ àll fàdéš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the distance at which nothing else is seen</source>
+        <translation>[ţĥé dîšţàñçé àţ wĥîçĥ ñöţĥîñĝ élšé îš šééñ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the normal, and its distance from the origin</source>
+        <translation>[ţĥé ñöŕmàl, àñd îţš dîšţàñçé fŕöm ţĥé öŕîĝîñ ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>whether it cuts</source>
+        <translation>[wĥéţĥéŕ îţ çûţš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>where the corners are</source>
+        <translation>[wĥéŕé ţĥé çöŕñéŕš àŕé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one direction for each point</source>
+        <translation>[öñé dîŕéçţîöñ föŕ éàçĥ pöîñţ ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one place for each point</source>
+        <translation>[öñé plàçé föŕ éàçĥ pöîñţ ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>along x</source>
+        <translation>[àlöñĝ x ~~~]</translation>
+    </message>
+    <message>
+        <source>along y</source>
+        <translation>[àlöñĝ ý ~~~]</translation>
+    </message>
+    <message>
+        <source>along z</source>
+        <translation>[àlöñĝ ž ~~~]</translation>
+    </message>
+    <message>
+        <source>from the middle to the surface</source>
+        <translation>[fŕöm ţĥé mîddlé ţö ţĥé šûŕfàçé ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>what of it is drawn</source>
+        <translation>[wĥàţ öf îţ îš dŕàwñ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of the circle at the bottom</source>
+        <translation>[öf ţĥé çîŕçlé àţ ţĥé böţţöm ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>from the bottom to the tip</source>
+        <translation>[fŕöm ţĥé böţţöm ţö ţĥé ţîp ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>of its circles</source>
+        <translation>[öf îţš çîŕçléš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>from the bottom to the top</source>
+        <translation>[fŕöm ţĥé böţţöm ţö ţĥé ţöp ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What takes the material's diffuse colours: the whole, each face (line, point), or each point.</source>
+        <translation>[Wĥàţ ţàķéš ţĥé màţéŕîàl'š dîffûšé çölöûŕš: ţĥé wĥölé, éàçĥ fàçé (lîñé, pöîñţ), öŕ éàçĥ pöîñţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>points in each strip</source>
+        <translation>[pöîñţš îñ éàçĥ šţŕîp ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Three per triangle; a triangle that names a point that is not there is left out.</source>
+        <translation>[Ţĥŕéé péŕ ţŕîàñĝlé; à ţŕîàñĝlé ţĥàţ ñàméš à pöîñţ ţĥàţ îš ñöţ ţĥéŕé îš léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>each strip's points, -1 after each strip</source>
+        <translation>[éàçĥ šţŕîp'š pöîñţš, -1 àfţéŕ éàçĥ šţŕîp ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>points in each line</source>
+        <translation>[pöîñţš îñ éàçĥ lîñé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>each line's points, -1 after each line</source>
+        <translation>[éàçĥ lîñé'š pöîñţš, -1 àfţéŕ éàçĥ lîñé ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the places of the points in their list</source>
+        <translation>[ţĥé plàçéš öf ţĥé pöîñţš îñ ţĥéîŕ lîšţ ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>what is written, line by line</source>
+        <translation>[wĥàţ îš wŕîţţéñ, lîñé bý lîñé ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>height of a line in pixels</source>
+        <translation>[ĥéîĝĥţ öf à lîñé îñ pîxélš ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>which part of the line stands at the origin</source>
+        <translation>[wĥîçĥ pàŕţ öf ţĥé lîñé šţàñdš àţ ţĥé öŕîĝîñ ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>around what is drawn; empty: takes no part in boxes</source>
+        <translation>[àŕöûñd wĥàţ îš dŕàwñ; émpţý: ţàķéš ñö pàŕţ îñ böxéš ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the comment</source>
+        <translation>[ţĥé çömméñţ ~~~~]</translation>
+    </message>
+    <message>
         <source>The program that this node was in is not attached any more.</source>
         <translation>[Ţĥé pŕöĝŕàm ţĥàţ ţĥîš ñödé wàš îñ îš ñöţ àţţàçĥéd àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -184,6 +930,86 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[Ţĥéŕé àŕé ñö ñödéš îñ ţĥé ţéxţ ţö pàšţé. ~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Delete “%1”</source>
+        <translation>[Déléţé “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Delete %1 Nodes</source>
+        <translation>[Déléţé %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cut “%1”</source>
+        <translation>[Çûţ “%1” ~~~]</translation>
+    </message>
+    <message>
+        <source>Cut %1 Nodes</source>
+        <translation>[Çûţ %1 Ñödéš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Duplicate “%1”</source>
+        <translation>[Dûplîçàţé “%1” ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Duplicate %1 Nodes</source>
+        <translation>[Dûplîçàţé %1 Ñödéš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Paste “%1”</source>
+        <translation>[Pàšţé “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Paste %1 Nodes</source>
+        <translation>[Pàšţé %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Ungroup “%1”</source>
+        <translation>[Ûñĝŕöûp “%1” ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Ungroup %1 Nodes</source>
+        <translation>[Ûñĝŕöûp %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Group “%1”</source>
+        <translation>[Ĝŕöûp “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Group %1 Nodes</source>
+        <translation>[Ĝŕöûp %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Make Unique “%1”</source>
+        <translation>[Màķé Ûñîqûé “%1” ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Make Unique %1 Nodes</source>
+        <translation>[Màķé Ûñîqûé %1 Ñödéš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Move “%1”</source>
+        <translation>[Mövé “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Move %1 Nodes</source>
+        <translation>[Mövé %1 Ñödéš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Copy “%1”</source>
+        <translation>[Çöpý “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Copy %1 Nodes</source>
+        <translation>[Çöpý %1 Ñödéš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Share “%1”</source>
+        <translation>[Šĥàŕé “%1” ~~~~]</translation>
+    </message>
+    <message>
+        <source>Share %1 Nodes</source>
+        <translation>[Šĥàŕé %1 Ñödéš ~~~~~~]</translation>
+    </message>
+    <message>
         <source>“%1” has been changed meanwhile.</source>
         <translation>[“%1” ĥàš bééñ çĥàñĝéd méàñwĥîlé. ~~~~~~~~~~~~~]</translation>
     </message>
@@ -244,12 +1070,68 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[Éîţĥéŕ FÎLÉ öŕ öñé ŕûññîñĝ pŕöĝŕàm çàñ bé šĥöwñ, àñd möŕé ţĥàñ öñé öf ţĥém wàš ĝîvéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Usage: scopix %1 %2</source>
+        <translation>[Ûšàĝé: šçöpîx %1 %2 ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>[Öpţîöñš: ~~~]</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>[Éxàmpléš: ~~~~]</translation>
+    </message>
+    <message>
+        <source>Exit status: %1; 2 where it cannot be done.</source>
+        <translation>[Éxîţ šţàţûš: %1; 2 wĥéŕé îţ çàññöţ bé döñé. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1: The patch cannot be read: %2.</source>
         <translation>[%1: Ţĥé pàţçĥ çàññöţ bé ŕéàd: %2. ~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The patch “%1” cannot be written: %2.</source>
         <translation>[Ţĥé pàţçĥ “%1” çàññöţ bé wŕîţţéñ: %2. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>environment lights</source>
+        <translation>[éñvîŕöñméñţ lîĝĥţš ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>fogs</source>
+        <translation>[föĝš ~~]</translation>
+    </message>
+    <message>
+        <source>animations</source>
+        <translation>[àñîmàţîöñš ~~~~]</translation>
+    </message>
+    <message>
+        <source>skins, whose present pose is kept</source>
+        <translation>[šķîñš, wĥöšé pŕéšéñţ pöšé îš ķépţ ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>morph targets, whose present mix is kept</source>
+        <translation>[möŕpĥ ţàŕĝéţš, wĥöšé pŕéšéñţ mîx îš ķépţ ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>clip planes</source>
+        <translation>[çlîp plàñéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>lights</source>
+        <translation>[lîĝĥţš ~~]</translation>
+    </message>
+    <message>
+        <source>cameras</source>
+        <translation>[çàméŕàš ~~~]</translation>
+    </message>
+    <message>
+        <source>tracks that move other things than nodes and morph targets</source>
+        <translation>[ţŕàçķš ţĥàţ mövé öţĥéŕ ţĥîñĝš ţĥàñ ñödéš àñd möŕpĥ ţàŕĝéţš ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how fast, how long or how often animations are played</source>
+        <translation>[ĥöw fàšţ, ĥöw löñĝ öŕ ĥöw öfţéñ àñîmàţîöñš àŕé plàýéd ~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>%1, or that of another kind of model</source>
@@ -364,90 +1246,6 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
         <translation>[ţĥé fîlé mûšţ ĥöld öñé öbĵéçţ îñ bŕàçéš ~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>it is no binary glTF file, which starts with the four letters “glTF”</source>
-        <translation>[îţ îš ñö bîñàŕý ĝlŢF fîlé, wĥîçĥ šţàŕţš wîţĥ ţĥé föûŕ léţţéŕš “ĝlŢF” ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it ends after %1 of the %2 bytes that its header announces</source>
-        <translation>[îţ éñdš àfţéŕ %1 öf ţĥé %2 býţéš ţĥàţ îţš ĥéàdéŕ àññöûñçéš ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>its JSON text is broken at line %1, column %2 (%3)</source>
-        <translation>[îţš ĴŠÖÑ ţéxţ îš bŕöķéñ àţ lîñé %1, çölûmñ %2 (%3) ~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>its “asset” was expected to name a version of glTF</source>
-        <translation>[îţš “àššéţ” wàš éxpéçţéd ţö ñàmé à véŕšîöñ öf ĝlŢF ~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>its version of glTF is %1, and 1.0 or 2.0 was expected</source>
-        <translation>[îţš véŕšîöñ öf ĝlŢF îš %1, àñd 1.0 öŕ 2.0 wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>What the file says once by the extension “%1” is left out.</source>
-        <translation>[Wĥàţ ţĥé fîlé šàýš öñçé bý ţĥé éxţéñšîöñ “%1” îš léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>What the file says %1 times by the extension “%2” is left out.</source>
-        <translation>[Wĥàţ ţĥé fîlé šàýš %1 ţîméš bý ţĥé éxţéñšîöñ “%2” îš léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>1 property of materials is not known here and left out: %1.</source>
-        <translation>[1 pŕöpéŕţý öf màţéŕîàlš îš ñöţ ķñöwñ ĥéŕé àñd léfţ öûţ: %1. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 properties of materials are not known here and left out: %2.</source>
-        <translation>[%1 pŕöpéŕţîéš öf màţéŕîàlš àŕé ñöţ ķñöwñ ĥéŕé àñd léfţ öûţ: %2. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it is no file of the kind that its ending, .%1, says</source>
-        <translation>[îţ îš ñö fîlé öf ţĥé ķîñd ţĥàţ îţš éñdîñĝ, .%1, šàýš ~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it asks for more memory than a file of its size can need</source>
-        <translation>[îţ àšķš föŕ möŕé mémöŕý ţĥàñ à fîlé öf îţš šîžé çàñ ñééd ~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it holds no model that can be read</source>
-        <translation>[îţ ĥöldš ñö mödél ţĥàţ çàñ bé ŕéàd ~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it is not a whole model (%1)</source>
-        <translation>[îţ îš ñöţ à wĥölé mödél (%1) ~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it holds no mesh, and at least one was expected</source>
-        <translation>[îţ ĥöldš ñö méšĥ, àñd àţ léàšţ öñé wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it asks for more memory than there is</source>
-        <translation>[îţ àšķš föŕ möŕé mémöŕý ţĥàñ ţĥéŕé îš ~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>reading it failed (%1)</source>
-        <translation>[ŕéàdîñĝ îţ fàîléd (%1) ~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it is no PLY file, which starts with the line “ply”</source>
-        <translation>[îţ îš ñö PLÝ fîlé, wĥîçĥ šţàŕţš wîţĥ ţĥé lîñé “plý” ~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>its line “%1” should end in a count</source>
-        <translation>[îţš lîñé “%1” šĥöûld éñd îñ à çöûñţ ~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>its header does not end in the line “end_header”</source>
-        <translation>[îţš ĥéàdéŕ döéš ñöţ éñd îñ ţĥé lîñé “éñd_ĥéàdéŕ” ~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 bytes follow its header, which announces at least %2</source>
-        <translation>[%1 býţéš föllöw îţš ĥéàdéŕ, wĥîçĥ àññöûñçéš àţ léàšţ %2 ~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 lines follow its header, which announces %2</source>
-        <translation>[%1 lîñéš föllöw îţš ĥéàdéŕ, wĥîçĥ àññöûñçéš %2 ~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>“%1” cannot be kept as a default: new nodes have no other nodes of the scene in their fields.</source>
         <translation>[“%1” çàññöţ bé ķépţ àš à défàûlţ: ñéw ñödéš ĥàvé ñö öţĥéŕ ñödéš öf ţĥé šçéñé îñ ţĥéîŕ fîéldš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -522,6 +1320,42 @@ Without a window (scopix COMMAND --help says more; a file of such a name is ./NA
     <message>
         <source>Re&amp;place</source>
         <translation>[Ŕé&amp;plàçé ~~~]</translation>
+    </message>
+    <message>
+        <source>glTF in one file (*.glb)</source>
+        <translation>[ĝlŢF îñ öñé fîlé (*.glb) ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>glTF (*.gltf)</source>
+        <translation>[ĝlŢF (*.gltf) ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Wavefront (*.obj)</source>
+        <translation>[Wàvéfŕöñţ (*.obj) ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Stanford polygons (*.ply)</source>
+        <translation>[Šţàñföŕd pölýĝöñš (*.ply) ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Stereolithography (*.stl)</source>
+        <translation>[Šţéŕéölîţĥöĝŕàpĥý (*.stl) ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Export Scene</source>
+        <translation>[Éxpöŕţ Šçéñé ~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” will not keep everything. Export it?</source>
+        <translation>[“%1” wîll ñöţ ķéép évéŕýţĥîñĝ. Éxpöŕţ îţ? ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>It leaves out: %1.</source>
+        <translation>[Îţ léàvéš öûţ: %1. ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>[&amp;Éxpöŕţ ~~~]</translation>
     </message>
     <message>
         <source>About Scopix</source>
@@ -672,10 +1506,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Çĥàñĝéš ~~~]</translation>
     </message>
     <message>
-        <source>More</source>
-        <translation>[Möŕé ~~]</translation>
-    </message>
-    <message>
         <source>Takes back the ticked changes, or those that are selected, as one step (Del).</source>
         <translation>[Ţàķéš bàçķ ţĥé ţîçķéd çĥàñĝéš, öŕ ţĥöšé ţĥàţ àŕé šéléçţéd, àš öñé šţép (Dél). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -708,8 +1538,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[%L1 çĥàñĝéš fŕöm %2 ~~~~~~~~]</translation>
     </message>
     <message>
-        <source>, %L1 of them ticked</source>
-        <translation>[, %L1 öf ţĥém ţîçķéd ~~~~~~~~]</translation>
+        <source>%1, %2 of them ticked</source>
+        <translation>[%1, %2 öf ţĥém ţîçķéd ~~~~~~~~]</translation>
     </message>
     <message>
         <source>Changes that could not be taken over: %1; the first: %2</source>
@@ -748,10 +1578,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Çûţ àçŕöšš ţĥé ž àxîš ~~~~~~~~]</translation>
     </message>
     <message>
-        <source>View</source>
-        <translation>[Vîéw ~~]</translation>
-    </message>
-    <message>
         <source>Cut across the line of sight</source>
         <translation>[Çûţ àçŕöšš ţĥé lîñé öf šîĝĥţ ~~~~~~~~~~~]</translation>
     </message>
@@ -774,6 +1600,26 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Show the whole scene again</source>
         <translation>[Šĥöw ţĥé wĥölé šçéñé àĝàîñ ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>colours of highlights</source>
+        <translation>[çölöûŕš öf ĥîĝĥlîĝĥţš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>hidden parts</source>
+        <translation>[ĥîddéñ pàŕţš ~~~~~]</translation>
+    </message>
+    <message>
+        <source>shapes without a place in space</source>
+        <translation>[šĥàpéš wîţĥöûţ à plàçé îñ špàçé ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>ambient lights</source>
+        <translation>[àmbîéñţ lîĝĥţš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>how lights fade with distance</source>
+        <translation>[ĥöw lîĝĥţš fàdé wîţĥ dîšţàñçé ~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Nothing is called so.</source>
@@ -844,12 +1690,12 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[ñöñé ~~]</translation>
     </message>
     <message>
-        <source>: %1 → %2 values</source>
-        <translation>[: %1 → %2 vàlûéš ~~~~~~]</translation>
+        <source>%1: %2 → %3 values</source>
+        <translation>[%1: %2 → %3 vàlûéš ~~~~~~~]</translation>
     </message>
     <message>
-        <source>: %1 values changed</source>
-        <translation>[: %1 vàlûéš çĥàñĝéd ~~~~~~~~]</translation>
+        <source>%1: %2 values changed</source>
+        <translation>[%1: %2 vàlûéš çĥàñĝéd ~~~~~~~~]</translation>
     </message>
     <message>
         <source>no longer ignored</source>
@@ -932,6 +1778,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[“%1” béföŕé ţĥé làšţ édîţš; çĥööšé Möŕé ▸ Çömpàŕé Àĝàîñ ~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1”</source>
+        <translation>[“%1” ~~]</translation>
+    </message>
+    <message>
         <source>Take Over</source>
         <translation>[Ţàķé Övéŕ ~~~~]</translation>
     </message>
@@ -952,6 +1802,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Öpéñ à šçéñé öŕ mödél ~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Open &amp;in a New Tab…</source>
+        <translation>[Öpéñ &amp;îñ à Ñéw Ţàb… ~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Open &amp;Recent</source>
         <translation>[Öpéñ &amp;Ŕéçéñţ ~~~~~]</translation>
     </message>
@@ -962,6 +1816,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Export…</source>
         <translation>[&amp;Éxpöŕţ… ~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Close Tab</source>
+        <translation>[&amp;Çlöšé Ţàb ~~~~]</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -1316,12 +2174,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ñö pŕöĝŕàm wàš làûñçĥéd fŕöm ţĥîš wîñdöw ýéţ. ~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1” shows no picture here.</source>
+        <translation>[“%1” šĥöwš ñö pîçţûŕé ĥéŕé. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1, process %2</source>
         <translation>[%1, pŕöçéšš %2 ~~~~~~]</translation>
     </message>
     <message>
-        <source>“%1” shows no picture here.</source>
-        <translation>[“%1” šĥöwš ñö pîçţûŕé ĥéŕé. ~~~~~~~~~~~]</translation>
+        <source>Launch Again</source>
+        <translation>[Làûñçĥ Àĝàîñ ~~~~~]</translation>
     </message>
     <message>
         <source>Attached to “%1”.</source>
@@ -1342,10 +2204,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>Kept for when you attach to “%1” again: %2.</source>
         <translation>[Ķépţ föŕ wĥéñ ýöû àţţàçĥ ţö “%1” àĝàîñ: %2. ~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Launch Again</source>
-        <translation>[Làûñçĥ Àĝàîñ ~~~~~]</translation>
     </message>
     <message>
         <source>Apply %1 of the last run of “%2” again?</source>
@@ -1686,10 +2544,6 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Çlîçķ šöméţĥîñĝ îñ ţĥé vîéw öŕ îñ ţĥé ţŕéé: îţš vàlûéš àppéàŕ ĥéŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Distance</source>
-        <translation>[Dîšţàñçé ~~~]</translation>
-    </message>
-    <message>
         <source>Along x, y, z</source>
         <translation>[Àlöñĝ x, ý, ž ~~~~~]</translation>
     </message>
@@ -1750,10 +2604,6 @@ Fîñd à ñödé: Çţŕl+F.
 %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 Nodes</source>
-        <translation>[%1 Ñödéš ~~~]</translation>
-    </message>
-    <message>
         <source>Add %1</source>
         <translation>[Àdd %1 ~~]</translation>
     </message>
@@ -1762,52 +2612,16 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd çàññöţ bé dûplîçàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Duplicate %1</source>
-        <translation>[Dûplîçàţé %1 ~~~~~]</translation>
-    </message>
-    <message>
         <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
         <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd fŕöm ţĥîš pŕöĝŕàm, îñ ţĥîš wîñdöw, çàñ bé pàšţéd îñţö îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Paste %1</source>
-        <translation>[Pàšţé %1 ~~~]</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
         <translation><numerusform>[%n ñödé(š) çöpîéd. ~~~~~~~]</numerusform><numerusform>[%n ñödé(š) çöpîéd. ~~~~~~~]</numerusform></translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>[Déléţé ~~]</translation>
-    </message>
-    <message>
-        <source>Cut</source>
-        <translation>[Çûţ ~]</translation>
-    </message>
-    <message>
-        <source>Paste “%1”</source>
-        <translation>[Pàšţé “%1” ~~~~]</translation>
-    </message>
-    <message>
-        <source>Paste %1 Nodes</source>
-        <translation>[Pàšţé %1 Ñödéš ~~~~~~]</translation>
-    </message>
-    <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
         <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd îñ ţĥîš wîñdöw, îñ ţĥîš šçéñé, çàñ bé pàšţéd àš šĥàŕéd öñéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Share “%1”</source>
-        <translation>[Šĥàŕé “%1” ~~~~]</translation>
-    </message>
-    <message>
-        <source>Share %1 Nodes</source>
-        <translation>[Šĥàŕé %1 Ñödéš ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Copy %1</source>
-        <translation>[Çöpý %1 ~~~]</translation>
     </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
@@ -2458,8 +3272,8 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[ñö ñàmé ~~~]</translation>
     </message>
     <message>
-        <source>, follows %1</source>
-        <translation>[, föllöwš %1 ~~~~~]</translation>
+        <source>%1, follows %2</source>
+        <translation>[%1, föllöwš %2 ~~~~~~]</translation>
     </message>
     <message>
         <source>Written since by something else than an edit.</source>
@@ -2488,6 +3302,22 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>“%1” cannot be what %2 was: it is no value of a %3.</source>
         <translation>[“%1” çàññöţ bé wĥàţ %2 wàš: îţ îš ñö vàlûé öf à %3. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>pictures</source>
+        <translation>[pîçţûŕéš ~~~]</translation>
+    </message>
+    <message>
+        <source>lines and points</source>
+        <translation>[lîñéš àñd pöîñţš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>groups and transforms, which are applied</source>
+        <translation>[ĝŕöûpš àñd ţŕàñšföŕmš, wĥîçĥ àŕé àpplîéd ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written: %2.</source>
+        <translation>[“%1” çàññöţ bé wŕîţţéñ: %2. ~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Nothing of it can be seen: %1.</source>
@@ -2578,6 +3408,26 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[“%1” šţàñdš îñ “%2”, wĥîçĥ îš löçķéd, àñd çàññöţ bé édîţéd béföŕé ţĥàţ îš ûñlöçķéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Open scenes</source>
+        <translation>[Öpéñ šçéñéš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Tab</source>
+        <translation>[Ñé&amp;xţ Ţàb ~~~~]</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Tab</source>
+        <translation>[Pŕé&amp;vîöûš Ţàb ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Close this tab</source>
+        <translation>[Çlöšé ţĥîš ţàb ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>[%1 “%2” ~~~]</translation>
+    </message>
+    <message>
         <source>Node</source>
         <translation>[Ñödé ~~]</translation>
     </message>
@@ -2628,10 +3478,6 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>Appearance</source>
         <translation>[Àppéàŕàñçé ~~~~]</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>[Çölöûŕš ~~~]</translation>
     </message>
     <message>
         <source>Size of texts</source>
@@ -3066,104 +3912,76 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
         <translation>[Çţŕl+Ķ fîñdš évéŕý àçţ, ñödé, fîéld àñd šéţţîñĝ bý îţš ñàmé, F1 éxplàîñš wĥàţ îš šéléçţéd. Šàvé wîţĥ Çţŕl+Š, öŕ éxpöŕţ föŕ àñöţĥéŕ pŕöĝŕàm fŕöm ţĥé Fîlé méñû. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 is the root of the scene, and has to stay where it is.</source>
-        <translation>[%1 îš ţĥé ŕööţ öf ţĥé šçéñé, àñd ĥàš ţö šţàý wĥéŕé îţ îš. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” is the root of the scene, and has to stay where it is.</source>
+        <translation>[“%1” îš ţĥé ŕööţ öf ţĥé šçéñé, àñd ĥàš ţö šţàý wĥéŕé îţ îš. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 %2 Nodes</source>
-        <translation>[%1 %2 Ñödéš ~~~~]</translation>
+        <source>Put %1 Above “%2”</source>
+        <translation>[Pûţ %1 Àbövé “%2” ~~~~~~~]</translation>
     </message>
     <message>
-        <source>Move</source>
-        <translation>[Mövé ~~]</translation>
+        <source>Put %1 Above %2 Nodes</source>
+        <translation>[Pûţ %1 Àbövé %2 Ñödéš ~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>[Çöpý ~~]</translation>
+        <source>“%1” cannot be duplicated: something in it is of a kind that cannot be copied.</source>
+        <translation>[“%1” çàññöţ bé dûplîçàţéd: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Share</source>
-        <translation>[Šĥàŕé ~~]</translation>
+        <source>“%1” is no group, and cannot be ungrouped.</source>
+        <translation>[“%1” îš ñö ĝŕöûp, àñd çàññöţ bé ûñĝŕöûpéd. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 cannot be duplicated: something in it is of a kind that cannot be copied.</source>
-        <translation>[%1 çàññöţ bé dûplîçàţéd: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” cannot be put below itself.</source>
+        <translation>[“%1” çàññöţ bé pûţ bélöw îţšélf. ~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Duplicate</source>
-        <translation>[Dûplîçàţé ~~~~]</translation>
+        <source>“%1” stands in one place only, and is its own already.</source>
+        <translation>[“%1” šţàñdš îñ öñé plàçé öñlý, àñd îš îţš öwñ àlŕéàdý. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 is no group, and cannot be ungrouped.</source>
-        <translation>[%1 îš ñö ĝŕöûp, àñd çàññöţ bé ûñĝŕöûpéd. ~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” cannot be made unique: something in it is of a kind that cannot be copied.</source>
+        <translation>[“%1” çàññöţ bé màdé ûñîqûé: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Ungroup</source>
-        <translation>[Ûñĝŕöûp ~~~]</translation>
-    </message>
-    <message>
-        <source>%1 cannot be put below itself.</source>
-        <translation>[%1 çàññöţ bé pûţ bélöw îţšélf. ~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Group</source>
-        <translation>[Ĝŕöûp ~~]</translation>
-    </message>
-    <message>
-        <source>Put %1 Above</source>
-        <translation>[Pûţ %1 Àbövé ~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 stands in one place only, and is its own already.</source>
-        <translation>[%1 šţàñdš îñ öñé plàçé öñlý, àñd îš îţš öwñ àlŕéàdý. ~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 cannot be made unique: something in it is of a kind that cannot be copied.</source>
-        <translation>[%1 çàññöţ bé màdé ûñîqûé: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Make Unique</source>
-        <translation>[Màķé Ûñîqûé ~~~~]</translation>
-    </message>
-    <message>
-        <source>Nothing can be put into %1, which is no group.</source>
-        <translation>[Ñöţĥîñĝ çàñ bé pûţ îñţö %1, wĥîçĥ îš ñö ĝŕöûp. ~~~~~~~~~~~~~~~~~~]</translation>
+        <source>Nothing can be put into “%1”, which is no group.</source>
+        <translation>[Ñöţĥîñĝ çàñ bé pûţ îñţö “%1”, wĥîçĥ îš ñö ĝŕöûp. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>A node cannot be called “%1”: names can have the letters of western European languages only.</source>
         <translation>[À ñödé çàññöţ bé çàlléd “%1”: ñàméš çàñ ĥàvé ţĥé léţţéŕš öf wéšţéŕñ Éûŕöpéàñ làñĝûàĝéš öñlý. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Rename %1 to “%2”</source>
-        <translation>[Ŕéñàmé %1 ţö “%2” ~~~~~~~]</translation>
+        <source>Rename “%1” to “%2”</source>
+        <translation>[Ŕéñàmé “%1” ţö “%2” ~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 cannot be copied: something in it is of a kind that cannot be copied.</source>
-        <translation>[%1 çàññöţ bé çöpîéd: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” cannot be copied: something in it is of a kind that cannot be copied.</source>
+        <translation>[“%1” çàññöţ bé çöpîéd: šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 is the first one in its group already.</source>
-        <translation>[%1 îš ţĥé fîŕšţ öñé îñ îţš ĝŕöûp àlŕéàdý. ~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” is the first one in its group already.</source>
+        <translation>[“%1” îš ţĥé fîŕšţ öñé îñ îţš ĝŕöûp àlŕéàdý. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 is the last one in its group already.</source>
-        <translation>[%1 îš ţĥé làšţ öñé îñ îţš ĝŕöûp àlŕéàdý. ~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” is the last one in its group already.</source>
+        <translation>[“%1” îš ţĥé làšţ öñé îñ îţš ĝŕöûp àlŕéàdý. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 stands in the root of the scene, out of which nothing can be moved.</source>
-        <translation>[%1 šţàñdš îñ ţĥé ŕööţ öf ţĥé šçéñé, öûţ öf wĥîçĥ ñöţĥîñĝ çàñ bé mövéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>“%1” stands in the root of the scene, out of which nothing can be moved.</source>
+        <translation>[“%1” šţàñdš îñ ţĥé ŕööţ öf ţĥé šçéñé, öûţ öf wĥîçĥ ñöţĥîñĝ çàñ bé mövéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>There is no group before %1 that it could be moved into.</source>
-        <translation>[Ţĥéŕé îš ñö ĝŕöûp béföŕé %1 ţĥàţ îţ çöûld bé mövéd îñţö. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>There is no group before “%1” that it could be moved into.</source>
+        <translation>[Ţĥéŕé îš ñö ĝŕöûp béföŕé “%1” ţĥàţ îţ çöûld bé mövéd îñţö. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Nothing is hidden that could be hidden for good.</source>
         <translation>[Ñöţĥîñĝ îš ĥîddéñ ţĥàţ çöûld bé ĥîddéñ föŕ ĝööd. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Hide %1 for Good</source>
-        <translation>[Ĥîdé %1 föŕ Ĝööd ~~~~~~]</translation>
+        <source>Hide “%1” for Good</source>
+        <translation>[Ĥîdé “%1” föŕ Ĝööd ~~~~~~~]</translation>
     </message>
     <message>
         <source>Hide %1 Nodes for Good</source>

@@ -10,7 +10,8 @@
 class SoField;
 
 /// What people are told of one field of one type of node, and which numbers they may type. A plain row of a
-/// table that never changes; may be used on any thread.
+/// table that never changes; may be used on any thread. Headings, units and meanings are in English; they are
+/// translated in the context "Field".
 struct SPX_EDITING_API SpxFieldDescription {
     std::string_view node;
     std::string_view field;

@@ -217,8 +217,8 @@ QString CommandLine::helpText()
 {
     QCommandLineParser parser;
     describe(parser);
-    return parser.helpText() +
-           tr("\nWithout a window (scopix COMMAND --help says more; a file of such a name is ./NAME):\n%1")
+    return parser.helpText() + QLatin1Char('\n') +
+           tr("Without a window (scopix COMMAND --help says more; a file of such a name is ./NAME):\n%1")
                .arg(QString::fromStdString(commandList()));
 }
 

@@ -51,10 +51,12 @@ const Command& windowCommand()
          {"counters", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Switch the performance counters on.")},
          {"help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show this text and end.")},
          {"version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show the version and end.")}},
-        {{"scopix lighthouse.glb", "opens a model"},
-         {"scopix lamp.xsg --select Bulb.radius", "opens a scene and shows one of its fields"},
-         {"scopix lamp.xsg --picture lamp.png --size 800x600", "draws it without a window"}},
-        "0 where all that was asked for is done, 1 where something is not",
+        {{"scopix lighthouse.glb", QT_TRANSLATE_NOOP("Command", "opens a model")},
+         {"scopix lamp.xsg --select Bulb.radius",
+          QT_TRANSLATE_NOOP("Command", "opens a scene and shows one of its fields")},
+         {"scopix lamp.xsg --picture lamp.png --size 800x600",
+          QT_TRANSLATE_NOOP("Command", "draws it without a window")}},
+        QT_TRANSLATE_NOOP("Command", "0 where all that was asked for is done, 1 where something is not"),
         nullptr};
     return command;
 }

@@ -206,7 +206,7 @@ void ChangesPanel::updateButtons()
                    : count == 1 ? tr("1 change from %1").arg(source->baselineName())
                                 : tr("%L1 changes from %2").arg(count).arg(source->baselineName());
     if (ticked > 0)
-        text += tr(", %L1 of them ticked").arg(ticked);
+        text = tr("%1, %2 of them ticked").arg(text, QLocale().toString(ticked));
     m_heading->setText(text);
 }
 

@@ -136,7 +136,7 @@ private:
     void makeList();
     const FieldEntry* entryOf(const ChangeKey& key) const;
     const StructureRow* rowOf(const ChangeKey& key) const;
-    QString sourceText(const SoField* source) const;
+    QString withSource(const QString& value, const SoField* source) const;
     ChildrenEdit::Children childrenWithout(const ChildrenEdit& edit, const ChangeKeySet& keys) const;
     std::vector<const ChildrenEdit*> groupsOf(const ChangeKeySet& keys) const;
     bool isPlainPatch(const ChangeKeySet& keys) const;

@@ -26,7 +26,7 @@ QString toText(const SoScenePath& path)
 
 QString nameText(SbName name)
 {
-    return name.getLength() > 0 ? QStringLiteral("“%1”").arg(toQString(name)) : SceneEdits::tr("no name");
+    return name.getLength() > 0 ? SceneEdits::tr("“%1”").arg(toQString(name)) : SceneEdits::tr("no name");
 }
 
 } // namespace
@@ -54,14 +54,15 @@ QString SceneEdits::orderText(const ChildrenEdit::Children& children) const
     return text.size() > TextLimit ? text.left(TextLimit - 1) + QStringLiteral("…") : text;
 }
 
-QString SceneEdits::sourceText(const SoField* source) const
+// A value, and what it follows.
+QString SceneEdits::withSource(const QString& value, const SoField* source) const
 {
     const SoNode* node = source ? ownerOf(*source) : nullptr;
     if (!node)
-        return {};
+        return value;
     SoScenePath path = m_places.isBelowRoot(*node) ? m_places.pathOf(*node) : SoScenePath::ofLabel(*node);
     path.setField(source->getName().getString());
-    return tr(", follows %1").arg(toText(path));
+    return tr("%1, follows %2").arg(value, toText(path));
 }
 
 ChangeSource::Text SceneEdits::describe(const ChangeKey& key) const
@@ -73,8 +74,8 @@ ChangeSource::Text SceneEdits::describe(const ChangeKey& key) const
         QString before = entry->edit->formerText(TextLimit);
         QString after = entry->edit->presentText(TextLimit);
         if (hasOtherSource(*entry, field)) {
-            before += sourceText(entry->source);
-            after += sourceText(field.getConnectedField());
+            before = withSource(before, entry->source);
+            after = withSource(after, field.getConnectedField());
         }
         return {toText(path), before, after,
                 entry->isElsewhere ? tr("Written since by something else than an edit.") : QString(),

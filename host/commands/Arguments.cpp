@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "commands/Arguments.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <charconv>
 
@@ -92,19 +94,28 @@ bool parseArguments(const Command& command, const std::vector<std::string>& word
     return error.empty();
 }
 
+std::string translated(const char* text)
+{
+    return QCoreApplication::translate("Command", text).toStdString();
+}
+
 std::string helpOf(const Command& command)
 {
-    std::string text =
-        std::string("Usage: scopix ") + command.name + " " + command.usage + "\n" + command.summary + "\n";
+    const auto tr = [](const char* text) { return QCoreApplication::translate("Command", text); };
+    std::string text = tr("Usage: scopix %1 %2")
+                           .arg(QLatin1String(command.name), QLatin1String(command.usage))
+                           .toStdString() +
+                       "\n" + translated(command.summary) + "\n";
     if (!command.options.empty())
-        text += "\nOptions:\n";
+        text += "\n" + translated("Options:") + "\n";
     for (const Command::Option& option : command.options)
         text += padded("  " + dashed(option.name) + (option.value ? std::string(" ") + option.value : "")) +
-                option.help + "\n";
-    text += "\nExamples:\n";
+                translated(option.help) + "\n";
+    text += "\n" + translated("Examples:") + "\n";
     for (const Command::Example& example : command.examples)
-        text += std::string("  ") + example.line + "\n      " + example.help + "\n";
-    return text + "\nExit status: " + command.status + "; 2 where it cannot be done.\n";
+        text += std::string("  ") + example.line + "\n      " + translated(example.help) + "\n";
+    return text + "\n" +
+           tr("Exit status: %1; 2 where it cannot be done.").arg(tr(command.status)).toStdString() + "\n";
 }
 
 bool readNumber(const std::string& text, int lowest, int highest, int& number)

@@ -52,7 +52,10 @@ struct Command {
 /// False, and one sentence, where the command cannot be called so. "--" ends the options.
 bool parseArguments(const Command& command, const std::vector<std::string>& words, Arguments& arguments,
                     std::string& error);
+/// In the user's language, where the program speaks it.
 std::string helpOf(const Command& command);
+/// One of the texts of a command; the manual has them as they are.
+std::string translated(const char* text);
 /// "-o" or "--size".
 std::string dashed(const std::string& option);
 

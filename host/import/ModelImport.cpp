@@ -2,6 +2,7 @@
 #include "import/ModelImport.h"
 
 #include "import/SceneBuilder.h"
+#include "language/Languages.h"
 #include "model/FileChecks.h"
 #include "model/ModelFile.h"
 #include "model/ModelReadResult.h"
@@ -28,6 +29,10 @@ QProcessEnvironment readerEnvironment()
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XSG_PICTURE_MEMORY"),
                        QString::number(xsg::PictureBudget::preferred().getBytes() / xsg::PictureBudget::MiB));
+    // Its sentences are shown, or printed in English by a command.
+    const Languages* languages = Languages::instance();
+    environment.insert(QStringLiteral("SCOPIX_LANGUAGE"),
+                       languages ? languages->current() : QStringLiteral("en"));
     const SbString angle = SoPreferences::getString("XSG_CREASE_ANGLE", SbString());
     if (angle.getLength() > 0)
         environment.insert(QStringLiteral("XSG_CREASE_ANGLE"), QString::fromLatin1(angle.getString()));

@@ -46,7 +46,10 @@ void LiveAdditions::askTypes(LiveNode& parent, const MirroredNode::AnswerTypes& 
             emit m_scene.told(LiveScene::tr("Nothing can be added to “%1”: “%2” offers no types for it.")
                                   .arg(nodeText(*kept), m_scene.getName()));
         else
-            QTimer::singleShot(0, &m_scene, [answer, types] { answer(types); });
+            QTimer::singleShot(0, &m_scene, [this, answer, types] {
+                if (m_scene.isInFront())
+                    answer(types);
+            });
     });
 }
 
@@ -110,7 +113,7 @@ void LiveAdditions::answered(const RunPointer& run, const MirroredAddition& addi
 void LiveAdditions::endOne(const RunPointer& run)
 {
     if (--run->left == 0 && !run->made.empty())
-        finish(*run);
+        m_scene.whenInFront([this, run] { finish(*run); });
 }
 
 // The program may have told of the new children already: they are taken out first, so that the step brings

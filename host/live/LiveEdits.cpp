@@ -228,10 +228,11 @@ void LiveEdits::sendChildren()
     for (const NodeRef& group : groups) {
         if (!group->isRenamed() && compareChildren(group, removed, inserted))
             continue;
-        takeChildrenBack(
-            place, LiveScene::tr(
-                       "Only nodes of “%1” itself can stand in it, and their names are among their fields.")
-                       .arg(m_scene.getName()));
+        takeChildrenBack(place);
+        emit m_scene.told(
+            LiveScene::tr(
+                "Only nodes of “%1” itself can stand in it, and their names are among their fields.")
+                .arg(m_scene.getName()));
         for (const NodeRef& each : groups)
             m_scene.fetchChildrenAgain(*each);
         return;
@@ -294,13 +295,16 @@ void LiveEdits::structureAnswered(const NodeRef& node, const HistoryPlace& place
 {
     if (result.done)
         return;
-    takeChildrenBack(place, LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                                .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
-    m_scene.fetchChildrenAgain(*node);
+    emit m_scene.told(LiveScene::tr("“%1” refused to change the children of “%2”: %3")
+                          .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
+    m_scene.whenInFront([this, place, node] {
+        takeChildrenBack(place);
+        m_scene.fetchChildrenAgain(*node);
+    });
 }
 
 // The program never had it, so that undoing it is not told to the program either.
-void LiveEdits::takeChildrenBack(const HistoryPlace& place, const QString& sentence)
+void LiveEdits::takeChildrenBack(const HistoryPlace& place)
 {
     QUndoStack& stack = m_services.undoStack();
     m_scene.takeBack([&] {
@@ -308,7 +312,6 @@ void LiveEdits::takeChildrenBack(const HistoryPlace& place, const QString& sente
             stack.canUndo() && !stack.canRedo())
             stack.undo();
     });
-    emit m_scene.told(sentence);
 }
 
 // --- The end

@@ -77,7 +77,7 @@ private:
     bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
     void structureAnswered(const NodeRef& node, const HistoryPlace& place,
                            const live::StructureResult& result);
-    void takeChildrenBack(const HistoryPlace& place, const QString& sentence);
+    void takeChildrenBack(const HistoryPlace& place);
 
     LiveScene& m_scene;
     HostServices& m_services;

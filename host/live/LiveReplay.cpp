@@ -85,7 +85,10 @@ void LiveReplay::start()
 void LiveReplay::next()
 {
     if (m_at == m_changes.size())
-        return finish();
+        return m_scene.whenInFront([self = QPointer<LiveReplay>(this)] {
+            if (self)
+                self->writeAll();
+        });
     goDown(NodeRef(static_cast<LiveNode*>(m_scene.getRoot())), 0);
 }
 
@@ -129,7 +132,7 @@ void LiveReplay::miss()
     next();
 }
 
-void LiveReplay::finish()
+void LiveReplay::writeAll()
 {
     std::vector<WriteValues::Write> writes;
     for (const Found& each : m_found) {

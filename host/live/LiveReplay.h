@@ -38,7 +38,7 @@ private:
     void goDown(const NodeRef& node, std::size_t step);
     void arrived(const NodeRef& node);
     void miss();
-    void finish();
+    void writeAll();
 
     LiveScene& m_scene;
     HostServices& m_services;

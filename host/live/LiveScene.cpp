@@ -72,6 +72,7 @@ LiveScene::~LiveScene()
 {
     m_link->setListener(nullptr);
     m_waiting.clear();
+    m_forFront.clear();
     for (const auto& [id, node] : m_nodes)
         node->m_scene = nullptr;
     for (LiveNode* node : m_unnumbered)
@@ -93,6 +94,23 @@ void LiveScene::takeBack(const std::function<void()>& act)
 {
     const QScopedValueRollback<bool> applying(m_isApplying, true);
     act();
+}
+
+void LiveScene::setInFront(bool isInFront)
+{
+    m_isInFront = isInFront;
+    if (!isInFront)
+        return;
+    for (const auto& act : std::exchange(m_forFront, {}))
+        act();
+}
+
+void LiveScene::whenInFront(const std::function<void()>& act)
+{
+    if (m_isInFront)
+        act();
+    else
+        m_forFront.push_back(act);
 }
 
 // --- Nodes

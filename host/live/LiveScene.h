@@ -61,6 +61,11 @@ public:
     void fold(LiveNode& node);
     /// Ends the attachment; the nodes stay.
     void detach();
+    /// Its steps are in the undo history, and it is what is selected in; as at first.
+    void setInFront(bool isInFront);
+    bool isInFront() const { return m_isInFront; }
+    /// For what makes or takes back a step: at once, or as soon as it is in front.
+    void whenInFront(const std::function<void()>& act);
     /// The program has not answered for a while, or does so again.
     void setSilent(bool isSilent);
 
@@ -157,6 +162,8 @@ private:
     bool m_isApplying = false;
     std::list<LiveNode*> m_shown; // their values are watched; the latest first
     std::list<Waiting> m_waiting;
+    std::vector<std::function<void()>> m_forFront;
+    bool m_isInFront = true;
     live::NodeId m_marked = 0;
     NodeRef m_root; // which notifies the scene as soon as it has a name
 };

@@ -65,6 +65,7 @@ int main(int argc, char** argv)
     }
     if (line.help || line.version) {
         const QCoreApplication application(argc, argv);
+        scopix::HostApplication::speakUsersLanguage();
         print(stdout, line.help ? scopix::CommandLine::helpText() : scopix::CommandLine::versionText());
         return 0;
     }
@@ -95,7 +96,7 @@ int main(int argc, char** argv)
     // window.
     if (QApplication::platformName() == QLatin1String("offscreen"))
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-    // Not before: what is printed is read by programs (decisions.md: commands-in-english).
+    // Not before: what is printed, but for --help, is read by programs (decisions.md: commands-in-english).
     scopix::HostApplication::speakUsersLanguage();
     return scopix::EndOfSession::endWith(run(line));
 }

@@ -41,29 +41,29 @@ const std::vector<MapKind>& mapKinds()
 {
     static const std::vector<MapKind> kinds{
         {{aiTextureType_NORMALS, aiTextureType_NORMAL_CAMERA},
-         "The normal map of 1 material is left out.",
-         "The normal maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The normal map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The normal maps of %1 materials are left out.")},
         {{aiTextureType_EMISSIVE, aiTextureType_EMISSION_COLOR},
-         "The emissive map of 1 material is left out.",
-         "The emissive maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The emissive map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The emissive maps of %1 materials are left out.")},
         {{aiTextureType_METALNESS, aiTextureType_DIFFUSE_ROUGHNESS, aiTextureType_UNKNOWN},
-         "The map of metal and roughness of 1 material is left out.",
-         "The maps of metal and roughness of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The map of metal and roughness of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The maps of metal and roughness of %1 materials are left out.")},
         {{aiTextureType_LIGHTMAP, aiTextureType_AMBIENT_OCCLUSION},
-         "The occlusion map of 1 material is left out.",
-         "The occlusion maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The occlusion map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The occlusion maps of %1 materials are left out.")},
         {{aiTextureType_HEIGHT, aiTextureType_DISPLACEMENT},
-         "The bump map of 1 material is left out.",
-         "The bump maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The bump map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The bump maps of %1 materials are left out.")},
         {{aiTextureType_SPECULAR, aiTextureType_SHININESS},
-         "The specular map of 1 material is left out.",
-         "The specular maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The specular map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The specular maps of %1 materials are left out.")},
         {{aiTextureType_OPACITY, aiTextureType_TRANSMISSION},
-         "The opacity map of 1 material is left out.",
-         "The opacity maps of %1 materials are left out."},
+         QT_TRANSLATE_NOOP("LeftOut", "The opacity map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The opacity maps of %1 materials are left out.")},
         {{aiTextureType_REFLECTION},
-         "The reflection map of 1 material is left out.",
-         "The reflection maps of %1 materials are left out."}};
+         QT_TRANSLATE_NOOP("LeftOut", "The reflection map of 1 material is left out."),
+         QT_TRANSLATE_NOOP("LeftOut", "The reflection maps of %1 materials are left out.")}};
     return kinds;
 }
 
@@ -125,14 +125,14 @@ void addMeshes(QStringList& sentences, const aiScene& scene)
 {
     const auto sum = [&](auto counts) { return sumOf(scene.mMeshes, scene.mNumMeshes, counts); };
     add(sentences, sum([&](const aiMesh& mesh) { return countUnusedCoordinates(scene, mesh); }),
-        "1 list of texture coordinates is left out, which no picture uses.",
-        "%1 lists of texture coordinates are left out, which no picture uses.");
+        QT_TRANSLATE_NOOP("LeftOut", "1 list of texture coordinates is left out, which no picture uses."),
+        QT_TRANSLATE_NOOP("LeftOut", "%1 lists of texture coordinates are left out, which no picture uses."));
     add(sentences, sum([](const aiMesh& mesh) { return hasFurtherColors(mesh) ? 1U : 0U; }),
-        "The further colours of the points of 1 mesh are left out.",
-        "The further colours of the points of %1 meshes are left out.");
+        QT_TRANSLATE_NOOP("LeftOut", "The further colours of the points of 1 mesh are left out."),
+        QT_TRANSLATE_NOOP("LeftOut", "The further colours of the points of %1 meshes are left out."));
     add(sentences, sum([](const aiMesh& mesh) { return hasTransparentPoints(mesh) ? 1U : 0U; }),
-        "How transparent the points of 1 mesh are is left out.",
-        "How transparent the points of %1 meshes are is left out.");
+        QT_TRANSLATE_NOOP("LeftOut", "How transparent the points of 1 mesh are is left out."),
+        QT_TRANSLATE_NOOP("LeftOut", "How transparent the points of %1 meshes are is left out."));
 }
 
 void addLights(QStringList& sentences, const aiScene& scene)
@@ -141,10 +141,12 @@ void addLights(QStringList& sentences, const aiScene& scene)
         return sumOf(scene.mLights, scene.mNumLights,
                      [type](const aiLight& light) { return light.mType == type ? 1U : 0U; });
     };
-    add(sentences, sum(aiLightSource_AREA), "1 light with an area shines from its middle.",
-        "%1 lights with an area shine from their middles.");
-    add(sentences, sum(aiLightSource_UNDEFINED), "1 light is left out, whose kind is not known here.",
-        "%1 lights are left out, whose kind is not known here.");
+    add(sentences, sum(aiLightSource_AREA),
+        QT_TRANSLATE_NOOP("LeftOut", "1 light with an area shines from its middle."),
+        QT_TRANSLATE_NOOP("LeftOut", "%1 lights with an area shine from their middles."));
+    add(sentences, sum(aiLightSource_UNDEFINED),
+        QT_TRANSLATE_NOOP("LeftOut", "1 light is left out, whose kind is not known here."),
+        QT_TRANSLATE_NOOP("LeftOut", "%1 lights are left out, whose kind is not known here."));
 }
 
 } // namespace
@@ -153,20 +155,27 @@ QStringList partsLeftOut(const aiScene& scene)
 {
     QStringList sentences;
     add(sentences, countTracksLeftOut(scene),
-        "1 track of an animation moves what there is no node for, and is left out.",
-        "%1 tracks of animations move what there are no nodes for, and are left out.");
-    add(sentences, countMovedLights(scene), "The movement of 1 light is left out.",
-        "The movements of %1 lights are left out.");
-    add(sentences, countMovedCameras(scene), "1 camera moves, and what is seen through it stays.",
-        "%1 cameras move, and what is seen through them stays.");
+        QT_TRANSLATE_NOOP("LeftOut",
+                          "1 track of an animation moves what there is no node for, and is left out."),
+        QT_TRANSLATE_NOOP("LeftOut",
+                          "%1 tracks of animations move what there are no nodes for, and are left out."));
+    add(sentences, countMovedLights(scene),
+        QT_TRANSLATE_NOOP("LeftOut", "The movement of 1 light is left out."),
+        QT_TRANSLATE_NOOP("LeftOut", "The movements of %1 lights are left out."));
+    add(sentences, countMovedCameras(scene),
+        QT_TRANSLATE_NOOP("LeftOut", "1 camera moves, and what is seen through it stays."),
+        QT_TRANSLATE_NOOP("LeftOut", "%1 cameras move, and what is seen through them stays."));
     for (const MapKind& kind : mapKinds())
         add(sentences,
             sumOf(scene.mMaterials, scene.mNumMaterials,
                   [&](const aiMaterial& material) { return hasMap(material, kind) ? 1U : 0U; }),
             kind.one, kind.several);
     add(sentences, sumOf(scene.mMaterials, scene.mNumMaterials, countWithoutCoordinates),
-        "1 picture is left out, whose material has two other texture coordinates already.",
-        "%1 pictures are left out, whose materials have two other texture coordinates already.");
+        QT_TRANSLATE_NOOP("LeftOut",
+                          "1 picture is left out, whose material has two other texture coordinates already."),
+        QT_TRANSLATE_NOOP(
+            "LeftOut",
+            "%1 pictures are left out, whose materials have two other texture coordinates already."));
     addMeshes(sentences, scene);
     addLights(sentences, scene);
     sentences += materialLosses(scene);
@@ -175,14 +184,18 @@ QStringList partsLeftOut(const aiScene& scene)
 
 QStringList missingMaterialFiles(const QStringList& names)
 {
-    return missing(names, "1 file of materials is missing, so that default ones are used: %1.",
-                   "%1 files of materials are missing, so that default ones are used: %2.");
+    return missing(
+        names,
+        QT_TRANSLATE_NOOP("LeftOut", "1 file of materials is missing, so that default ones are used: %1."),
+        QT_TRANSLATE_NOOP("LeftOut",
+                          "%1 files of materials are missing, so that default ones are used: %2."));
 }
 
 QStringList missingPictures(const QStringList& names)
 {
-    return missing(names, "1 picture is missing or cannot be read, and is left out: %1.",
-                   "%1 pictures are missing or cannot be read, and are left out: %2.");
+    return missing(
+        names, QT_TRANSLATE_NOOP("LeftOut", "1 picture is missing or cannot be read, and is left out: %1."),
+        QT_TRANSLATE_NOOP("LeftOut", "%1 pictures are missing or cannot be read, and are left out: %2."));
 }
 
 } // namespace scopix

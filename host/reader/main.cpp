@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
@@ -37,6 +38,16 @@ void limitItself(const QString& path)
     scopix::limitMemoryFor(path);
 }
 
+/// What it says is shown by the host, in whose language it says it.
+class Texts : public QTranslator
+{
+public:
+    QString translate(const char* /*context*/, const char* source, const char* comment, int n) const override
+    {
+        return QTranslator::translate("Scopix", source, comment, n); // the one context of the catalogue
+    }
+};
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -47,6 +58,9 @@ int main(int argc, char** argv)
         std::fputs("scopix-read-model MODEL RESULT: reads a model for scopix.\n", stderr);
         return 2;
     }
+    Texts texts;
+    if (texts.load(QStringLiteral(":/i18n/ModelReader_%1.qm").arg(qEnvironmentVariable("SCOPIX_LANGUAGE"))))
+        QCoreApplication::installTranslator(&texts);
     limitItself(arguments[1]);
     int told = 0;
     const scopix::ModelReadResult model = scopix::readModel(arguments[1], [&](float done) {

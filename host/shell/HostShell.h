@@ -88,6 +88,7 @@ public:
     void setHidden(SoNode* node, bool hidden) override;
     void setShapeColors(const SoShapeColors& colors) override;
     void setOverdrawShown(bool on) override;
+    QList<SoNode*> getIsolatedNodes() const override;
 
     /// treeColumnsChanged() and treeValuesChanged() tell of them.
     const QList<SpxTreeColumnProvider*>& getTreeColumns() const { return m_treeColumns; }

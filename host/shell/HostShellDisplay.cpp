@@ -28,6 +28,11 @@ void HostShell::setOverdrawShown(bool on)
         m_display->setOverdrawShown(on);
 }
 
+QList<SoNode*> HostShell::getIsolatedNodes() const
+{
+    return m_display ? m_display->getIsolatedNodes() : QList<SoNode*>();
+}
+
 void HostShell::addColumns(SpxTreeColumnProvider* provider)
 {
     if (!provider || m_treeColumns.contains(provider))

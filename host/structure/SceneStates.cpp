@@ -16,6 +16,33 @@
 namespace scopix
 {
 
+namespace
+{
+
+// Each node below the root once.
+template <class IsWanted>
+std::vector<SoNode*> findAll(SoNode* root, IsWanted isWanted)
+{
+    std::vector<SoNode*> found;
+    std::vector<SoNode*> pending;
+    std::unordered_set<const SoNode*> seen;
+    if (root)
+        pending.push_back(root);
+    while (!pending.empty()) {
+        SoNode* node = pending.back();
+        pending.pop_back();
+        if (!seen.insert(node).second)
+            continue;
+        if (isWanted(node))
+            found.push_back(node);
+        if (const SoGroup* group = node->asGroup())
+            pending.insert(pending.end(), group->getChildren().begin(), group->getChildren().end());
+    }
+    return found;
+}
+
+} // namespace
+
 bool SceneStates::canBeHidden(SoNode& node)
 {
     const SoType type = node.getTypeId();
@@ -37,22 +64,15 @@ void SceneStates::setHidden(const std::vector<SoNode*>& nodes, bool hidden)
 
 std::vector<SoNode*> SceneStates::findHidden(SoNode* root) const
 {
-    std::vector<SoNode*> found;
-    std::vector<SoNode*> pending;
-    std::unordered_set<const SoNode*> seen;
-    if (root && m_hiding.hidesAny())
-        pending.push_back(root);
-    while (!pending.empty()) {
-        SoNode* node = pending.back();
-        pending.pop_back();
-        if (!seen.insert(node).second)
-            continue;
-        if (isHidden(node))
-            found.push_back(node);
-        if (const SoGroup* group = node->asGroup())
-            pending.insert(pending.end(), group->getChildren().begin(), group->getChildren().end());
-    }
-    return found;
+    return m_hiding.hidesAny() ? findAll(root, [this](const SoNode* node) { return isHidden(node); })
+                               : std::vector<SoNode*>();
+}
+
+std::vector<SoNode*> SceneStates::findIsolated(SoNode* root) const
+{
+    return m_hiding.isIsolating()
+               ? findAll(root, [this](const SoNode* node) { return m_hiding.isIsolated(node); })
+               : std::vector<SoNode*>();
 }
 
 // A locked transformation still moves what follows it.

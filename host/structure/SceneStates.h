@@ -33,6 +33,7 @@ public:
     bool isHidden(const SoNode* node) const { return m_hiding.isHidden(node); }
     /// Those below the root, each once.
     std::vector<SoNode*> findHidden(SoNode* root) const;
+    std::vector<SoNode*> findIsolated(SoNode* root) const;
     void setHidden(const std::vector<SoNode*>& nodes, bool hidden);
     void isolate(const std::vector<const SoNode*>& nodes);
     void showAll();

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <map>
 #include <unordered_set>
 
 namespace scopix::structure
@@ -24,11 +25,6 @@ QString tr(const char* text, int number = -1)
     return QCoreApplication::translate("Structure", text, nullptr, number);
 }
 
-QString quoted(const SoNode& node)
-{
-    return QStringLiteral("“%1”").arg(nodeText(node));
-}
-
 Act refused(const QString& sentence)
 {
     Act act;
@@ -38,8 +34,8 @@ Act refused(const QString& sentence)
 
 Act refusedRoot(const Paths& paths)
 {
-    return refused(tr("%1 is the root of the scene, and has to stay where it is.")
-                       .arg(quoted(*paths.front().getTail())));
+    return refused(tr("“%1” is the root of the scene, and has to stay where it is.")
+                       .arg(nodeText(*paths.front().getTail())));
 }
 
 Act nothingSelected()
@@ -47,11 +43,47 @@ Act nothingSelected()
     return refused(tr("No node is selected: select one in the tree or in the view first."));
 }
 
-// "Delete “Sea”", "Delete 3 Nodes"
-QString nameOf(const QString& act, const Paths& paths)
+struct DeedTexts {
+    const char* one;
+    const char* several;
+};
+
+// Whole sentences: other languages have the verb elsewhere.
+const DeedTexts& textsOf(Deed deed)
 {
-    return paths.size() == 1 ? QStringLiteral("%1 %2").arg(act, quoted(*paths.front().getTail()))
-                             : tr("%1 %2 Nodes").arg(act).arg(paths.size());
+    static const std::map<Deed, DeedTexts> texts{
+        {Deed::Delete,
+         {QT_TRANSLATE_NOOP("Structure", "Delete “%1”"), QT_TRANSLATE_NOOP("Structure", "Delete %1 Nodes")}},
+        {Deed::Cut,
+         {QT_TRANSLATE_NOOP("Structure", "Cut “%1”"), QT_TRANSLATE_NOOP("Structure", "Cut %1 Nodes")}},
+        {Deed::Duplicate,
+         {QT_TRANSLATE_NOOP("Structure", "Duplicate “%1”"),
+          QT_TRANSLATE_NOOP("Structure", "Duplicate %1 Nodes")}},
+        {Deed::Paste,
+         {QT_TRANSLATE_NOOP("Structure", "Paste “%1”"), QT_TRANSLATE_NOOP("Structure", "Paste %1 Nodes")}},
+        {Deed::Ungroup,
+         {QT_TRANSLATE_NOOP("Structure", "Ungroup “%1”"),
+          QT_TRANSLATE_NOOP("Structure", "Ungroup %1 Nodes")}},
+        {Deed::Group,
+         {QT_TRANSLATE_NOOP("Structure", "Group “%1”"), QT_TRANSLATE_NOOP("Structure", "Group %1 Nodes")}},
+        {Deed::MakeUnique,
+         {QT_TRANSLATE_NOOP("Structure", "Make Unique “%1”"),
+          QT_TRANSLATE_NOOP("Structure", "Make Unique %1 Nodes")}},
+        {Deed::Move,
+         {QT_TRANSLATE_NOOP("Structure", "Move “%1”"), QT_TRANSLATE_NOOP("Structure", "Move %1 Nodes")}},
+        {Deed::Copy,
+         {QT_TRANSLATE_NOOP("Structure", "Copy “%1”"), QT_TRANSLATE_NOOP("Structure", "Copy %1 Nodes")}},
+        {Deed::Share,
+         {QT_TRANSLATE_NOOP("Structure", "Share “%1”"), QT_TRANSLATE_NOOP("Structure", "Share %1 Nodes")}},
+    };
+    return texts.at(deed);
+}
+
+QString nameOfPutting(const SoNode& above, const Paths& paths)
+{
+    const QString type = toQString(above.getTypeId().getName());
+    return paths.size() == 1 ? tr("Put %1 Above “%2”").arg(type, nodeText(*paths.front().getTail()))
+                             : tr("Put %1 Above %2 Nodes").arg(type, QString::number(paths.size()));
 }
 
 Act done(StructurePlan& plan, const QString& name, Paths selection)
@@ -170,9 +202,9 @@ SoPath planAbove(StructurePlan& plan, const SoPath& path, SoNode* node)
     return extended(extended(to, separator.get()), node);
 }
 
-QString wordFor(Transfer how)
+Deed deedOf(Transfer how)
 {
-    return how == Transfer::Move ? tr("Move") : how == Transfer::Copy ? tr("Copy") : tr("Share");
+    return how == Transfer::Move ? Deed::Move : how == Transfer::Copy ? Deed::Copy : Deed::Share;
 }
 
 // Loops would never end.
@@ -190,7 +222,14 @@ MakeNode makeOfType(SoType type)
     return [type] { return SoRef<SoNode>(static_cast<SoNode*>(type.createInstance())); };
 }
 
-Act remove(const Paths& paths)
+QString nameOf(Deed deed, const Paths& paths)
+{
+    const DeedTexts& texts = textsOf(deed);
+    return paths.size() == 1 ? tr(texts.one).arg(nodeText(*paths.front().getTail()))
+                             : tr(texts.several).arg(paths.size());
+}
+
+Act remove(const Paths& paths, Deed deed)
 {
     Act act;
     const Paths all = childTargets(paths, act);
@@ -198,7 +237,7 @@ Act remove(const Paths& paths)
         return act;
     StructurePlan plan;
     removeAll(plan, all);
-    return done(plan, nameOf(tr("Delete"), all), {neighbour(all)});
+    return done(plan, nameOf(deed, all), {neighbour(all)});
 }
 
 Act duplicate(const Paths& paths)
@@ -213,13 +252,14 @@ Act duplicate(const Paths& paths)
             continue;
         const SoRef<SoNode> copy = xsg::copyBranch(path.getTail());
         if (!copy)
-            return refused(tr("%1 cannot be duplicated: something in it is of a kind that cannot be copied.")
-                               .arg(quoted(*path.getTail())));
+            return refused(
+                tr("“%1” cannot be duplicated: something in it is of a kind that cannot be copied.")
+                    .arg(nodeText(*path.getTail())));
         SoGroup& parent = *parentAt(path);
         plan.insert(parent, plan.findChild(parent, path.getTail()) + 1, copy.get());
         copies += extended(parentPath(path), copy.get());
     }
-    return all.isEmpty() ? std::move(act) : done(plan, nameOf(tr("Duplicate"), all), copies);
+    return all.isEmpty() ? std::move(act) : done(plan, nameOf(Deed::Duplicate, all), copies);
 }
 
 Act ungroup(const Paths& paths)
@@ -232,7 +272,7 @@ Act ungroup(const Paths& paths)
     for (const SoPath& path : all) {
         SoGroup* group = path.getTail()->asGroup();
         if (!group)
-            return refused(tr("%1 is no group, and cannot be ungrouped.").arg(quoted(*path.getTail())));
+            return refused(tr("“%1” is no group, and cannot be ungrouped.").arg(nodeText(*path.getTail())));
         if (!once(path))
             continue;
         SoGroup& parent = *parentAt(path);
@@ -243,7 +283,7 @@ Act ungroup(const Paths& paths)
             children += extended(parentPath(path), child);
         }
     }
-    return all.isEmpty() ? std::move(act) : done(plan, nameOf(tr("Ungroup"), all), children);
+    return all.isEmpty() ? std::move(act) : done(plan, nameOf(Deed::Ungroup, all), children);
 }
 
 Act group(const Paths& paths, const MakeNode& makeGroup)
@@ -257,7 +297,7 @@ Act group(const Paths& paths, const MakeNode& makeGroup)
     const SoPath& first = all.front();
     SoGroup& parent = *parentAt(first);
     if (const SoNode* above = firstThatHolds(all, &parent))
-        return refused(tr("%1 cannot be put below itself.").arg(quoted(*above)));
+        return refused(tr("“%1” cannot be put below itself.").arg(nodeText(*above)));
     StructurePlan plan;
     const int place = plan.findChild(parent, first.getTail());
     removeAll(plan, all);
@@ -267,7 +307,7 @@ Act group(const Paths& paths, const MakeNode& makeGroup)
             plan.append(into, path.getTail());
     }
     plan.insert(parent, std::min(place, static_cast<int>(plan.childrenOf(parent).size())), &into);
-    return done(plan, nameOf(tr("Group"), all), {extended(parentPath(first), &into)});
+    return done(plan, nameOf(Deed::Group, all), {extended(parentPath(first), &into)});
 }
 
 Act insertAbove(const Paths& paths, const MakeNode& makeNode)
@@ -280,7 +320,7 @@ Act insertAbove(const Paths& paths, const MakeNode& makeNode)
     QString name;
     for (const SoPath& path : all) {
         const SoRef<SoNode> node = makeNode();
-        name = nameOf(tr("Put %1 Above").arg(toQString(node->getTypeId().getName())), all);
+        name = nameOfPutting(*node, all);
         if (path.getLength() == 1)
             return insertAboveRoot(path, node.get(), name);
         if (once(path))
@@ -305,18 +345,19 @@ Act makeUnique(const Paths& paths)
     for (const SoPath& path : all) {
         SoNode* node = path.getTail();
         if (countPlaces(node, path.getHead(), 2) < 2)
-            return refused(tr("%1 stands in one place only, and is its own already.").arg(quoted(*node)));
+            return refused(tr("“%1” stands in one place only, and is its own already.").arg(nodeText(*node)));
         if (!once(path))
             continue;
         const SoRef<SoNode> copy = xsg::copyBranch(node);
         if (!copy)
-            return refused(tr("%1 cannot be made unique: something in it is of a kind that cannot be copied.")
-                               .arg(quoted(*node)));
+            return refused(
+                tr("“%1” cannot be made unique: something in it is of a kind that cannot be copied.")
+                    .arg(nodeText(*node)));
         SoGroup& parent = *parentAt(path);
         plan.replace(parent, plan.findChild(parent, node), copy.get());
         copies += extended(parentPath(path), copy.get());
     }
-    return all.isEmpty() ? std::move(act) : done(plan, nameOf(tr("Make Unique"), all), copies);
+    return all.isEmpty() ? std::move(act) : done(plan, nameOf(Deed::MakeUnique, all), copies);
 }
 
 Act add(const SoPath& path, const std::vector<SoRef<SoNode>>& nodes, const QString& name)
@@ -327,14 +368,14 @@ Act add(const SoPath& path, const std::vector<SoRef<SoNode>>& nodes, const QStri
     const SoPath into = group ? path : parentPath(path);
     group = group ? group : parentAt(path);
     if (!group)
-        return refused(tr("Nothing can be put into %1, which is no group.").arg(quoted(*path.getTail())));
+        return refused(tr("Nothing can be put into “%1”, which is no group.").arg(nodeText(*path.getTail())));
     StructurePlan plan;
     int place = into.getLength() == path.getLength() ? group->getNumChildren()
                                                      : plan.findChild(*group, path.getTail()) + 1;
     Paths added;
     for (const auto& node : nodes) {
         if (isBelow(group, node.get()))
-            return refused(tr("%1 cannot be put below itself.").arg(quoted(*node)));
+            return refused(tr("“%1” cannot be put below itself.").arg(nodeText(*node)));
         plan.insert(*group, place++, node.get());
         added += extended(into, node.get());
     }
@@ -355,7 +396,7 @@ Act rename(const SoPath& path, const QString& name)
     StructurePlan plan;
     if (node.getName() != latin)
         plan.rename(node, latin);
-    return plan.isEmpty() ? Act() : done(plan, tr("Rename %1 to “%2”").arg(quoted(node), wanted), {path});
+    return plan.isEmpty() ? Act() : done(plan, tr("Rename “%1” to “%2”").arg(nodeText(node), wanted), {path});
 }
 
 Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer how)
@@ -367,11 +408,11 @@ Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer ho
     SoNode* to = groupPath.getTail();
     SoGroup* group = to ? to->asGroup() : nullptr;
     if (!group)
-        return refused(to ? tr("Nothing can be put into %1, which is no group.").arg(quoted(*to))
+        return refused(to ? tr("Nothing can be put into “%1”, which is no group.").arg(nodeText(*to))
                           : nothingSelected().refusal);
     const SoNode* loops = how == Transfer::Copy ? nullptr : firstThatHolds(all, group);
     if (loops)
-        return refused(tr("%1 cannot be put below itself.").arg(quoted(*loops)));
+        return refused(tr("“%1” cannot be put below itself.").arg(nodeText(*loops)));
 
     StructurePlan plan;
     int place = index < 0 ? group->getNumChildren() : std::min(index, group->getNumChildren());
@@ -382,8 +423,8 @@ Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer ho
             continue;
         moved.push_back(how == Transfer::Copy ? xsg::copyBranch(path.getTail()) : path.getTail());
         if (!moved.back())
-            return refused(tr("%1 cannot be copied: something in it is of a kind that cannot be copied.")
-                               .arg(quoted(*path.getTail())));
+            return refused(tr("“%1” cannot be copied: something in it is of a kind that cannot be copied.")
+                               .arg(nodeText(*path.getTail())));
         // What goes from before the place brings it forward.
         if (how == Transfer::Move && parentAt(path) == group && group->findChild(path.getTail()) < place)
             act.selection += path;
@@ -397,7 +438,7 @@ Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer ho
         plan.insert(*group, place++, node.get());
         selection += extended(groupPath, node.get());
     }
-    return done(plan, nameOf(wordFor(how), all), selection);
+    return done(plan, nameOf(deedOf(how), all), selection);
 }
 
 Act reorder(const Paths& paths, int by)
@@ -424,10 +465,10 @@ Act reorder(const Paths& paths, int by)
         plan.insert(parent, to, path.getTail());
     }
     if (all.isEmpty() || !plan.isEmpty())
-        return all.isEmpty() ? std::move(act) : done(plan, nameOf(tr("Move"), all), paths);
-    return refused(by < 0
-                       ? tr("%1 is the first one in its group already.").arg(quoted(*all.front().getTail()))
-                       : tr("%1 is the last one in its group already.").arg(quoted(*all.back().getTail())));
+        return all.isEmpty() ? std::move(act) : done(plan, nameOf(Deed::Move, all), paths);
+    return refused(
+        by < 0 ? tr("“%1” is the first one in its group already.").arg(nodeText(*all.front().getTail()))
+               : tr("“%1” is the last one in its group already.").arg(nodeText(*all.back().getTail())));
 }
 
 Act moveOut(const Paths& paths)
@@ -439,8 +480,8 @@ Act moveOut(const Paths& paths)
     const SoPath from = parentPath(all.back());
     SoGroup* above = parentAt(from);
     if (!above)
-        return refused(tr("%1 stands in the root of the scene, out of which nothing can be moved.")
-                           .arg(quoted(*all.back().getTail())));
+        return refused(tr("“%1” stands in the root of the scene, out of which nothing can be moved.")
+                           .arg(nodeText(*all.back().getTail())));
     return transfer(all, parentPath(from), above->findChild(from.getTail()) + 1, Transfer::Move);
 }
 
@@ -455,7 +496,7 @@ Act moveIn(const Paths& paths)
     SoNode* before = parent.getChild(parent.findChild(first.getTail()) - 1);
     if (!before || !before->asGroup())
         return refused(
-            tr("There is no group before %1 that it could be moved into.").arg(quoted(*first.getTail())));
+            tr("There is no group before “%1” that it could be moved into.").arg(nodeText(*first.getTail())));
     return transfer(all, extended(parentPath(first), before), -1, Transfer::Move);
 }
 
@@ -477,7 +518,7 @@ Act switchOff(SoNode* root, const std::vector<SoNode*>& nodes)
         plan.append(*off, node);
     }
     Act act = done(plan,
-                   nodes.size() == 1 ? tr("Hide %1 for Good").arg(quoted(*nodes.front()))
+                   nodes.size() == 1 ? tr("Hide “%1” for Good").arg(nodeText(*nodes.front()))
                                      : tr("Hide %1 Nodes for Good").arg(nodes.size()),
                    {});
     return act;

@@ -27,8 +27,12 @@ struct Act {
 using MakeNode = std::function<SoRef<SoNode>()>;
 MakeNode makeOfType(SoType type);
 
+enum class Deed { Delete, Cut, Duplicate, Paste, Ungroup, Group, MakeUnique, Move, Copy, Share };
+/// What the step is called that does it to these: "Delete “Sea”", "Delete 3 Nodes".
+QString nameOf(Deed deed, const Paths& paths);
+
 /// All take paths that start at the root of the scene; what stands below another one of them goes with it.
-Act remove(const Paths& paths);
+Act remove(const Paths& paths, Deed deed = Deed::Delete);
 Act duplicate(const Paths& paths);
 /// What they hold takes their places.
 Act ungroup(const Paths& paths);

@@ -387,25 +387,28 @@ QString FieldEdit::text() const
     if (m_runs.empty())
         return name + QStringLiteral(": ") + flagsText();
     if (m_list)
-        return name + listText();
+        return listText(name);
     const SoField& after = m_after ? *m_after : m_field;
     return QStringLiteral("%1: %2 → %3")
         .arg(name, valueText(*m_before, TextLimit), valueText(after, TextLimit));
 }
 
-QString FieldEdit::listText() const
+QString FieldEdit::listText(const QString& name) const
 {
     const Run& run = m_runs.front();
     if (run.before != run.after)
-        return tr(": %1 → %2 values").arg(m_countBefore).arg(m_countBefore + run.after - run.before);
+        return tr("%1: %2 → %3 values")
+            .arg(name, QString::number(m_countBefore),
+                 QString::number(m_countBefore + run.after - run.before));
     if (m_runs.size() == 1 && run.before == 1)
-        return QStringLiteral("[%1]: %2 → %3")
-            .arg(m_isClosed ? run.start : m_start + run.start)
-            .arg(sliceText(list(*m_before), m_isClosed ? 0 : run.start, 1), sliceText(list(*m_after), 0, 1));
+        return name + QStringLiteral("[%1]: %2 → %3")
+                          .arg(m_isClosed ? run.start : m_start + run.start)
+                          .arg(sliceText(list(*m_before), m_isClosed ? 0 : run.start, 1),
+                               sliceText(list(*m_after), 0, 1));
     int changed = 0;
     for (const Run& each : m_runs)
         changed += each.before;
-    return tr(": %1 values changed").arg(changed);
+    return tr("%1: %2 values changed").arg(name, QString::number(changed));
 }
 
 QString FieldEdit::flagsText() const

@@ -89,7 +89,7 @@ private:
     bool apply(const SoField* value, int Run::*present, int Run::*wanted, Flags wantedFlags);
     bool write(const SoField& value, int Run::*present, int Run::*wanted);
     void setFlags(Flags wanted, bool isWritten);
-    QString listText() const;
+    QString listText(const QString& name) const;
     QString flagsText() const;
     QString partText(const SoField* value, int Run::*count, Flags shown, int limit) const;
 

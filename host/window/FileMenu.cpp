@@ -19,6 +19,9 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     m_open = menu.addAction(svgIcon(QStringLiteral("action-open"), &menu), tr("&Open…"), &files,
                             &SceneFiles::askForFile, QKeySequence::Open);
     m_open->setToolTip(tr("Open a scene or model"));
+    QAction* tab = menu.addAction(tr("Open &in a New Tab…"), &files, &SceneFiles::askForFileInTab,
+                                  Qt::CTRL + Qt::SHIFT + Qt::Key_O);
+    tab->setObjectName(QStringLiteral("openInTabAction"));
     m_recent = menu.addMenu(tr("Open &Recent"));
     m_recent->setObjectName(QStringLiteral("recentFiles"));
     m_recent->setToolTipsVisible(true);
@@ -27,6 +30,10 @@ FileMenu::FileMenu(QMenu& menu, SceneFiles& files)
     menu.addAction(tr("&Save"), &files, &SceneFiles::save, QKeySequence::Save);
     menu.addAction(tr("Save &As…"), &files, &SceneFiles::saveAs, Qt::CTRL + Qt::SHIFT + Qt::Key_S);
     menu.addAction(tr("&Export…"), &files, &SceneFiles::exportAs, Qt::CTRL + Qt::SHIFT + Qt::Key_E);
+    QAction* close = menu.addAction(
+        tr("&Close Tab"), &files, [&files] { files.closeScene(files.getScenes().getFront()); },
+        Qt::CTRL + Qt::Key_F4);
+    close->setObjectName(QStringLiteral("closeTabAction"));
 }
 
 void FileMenu::fillRecent()

@@ -53,6 +53,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     resize(fontMetrics().averageCharWidth() * WidthInCharacters, fontMetrics().height() * HeightInLines);
 }
 
+// In English (decisions.md: reference-in-english).
 QString HelpWindow::fileOf(const QString& page)
 {
     if (QDir::isAbsolutePath(page))

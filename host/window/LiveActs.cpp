@@ -26,6 +26,7 @@
 #include <QMenu>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -73,6 +74,26 @@ live::Camera cameraAt(live::Camera camera, const double* box)
 
 } // namespace
 
+// A program, and what is shown of it when it is in front.
+struct LiveActs::Attached {
+    Attached(OpenScene& at, std::unique_ptr<LiveScene> live)
+        : place(at)
+        , scene(std::move(live))
+        , counters(scene->getLink().program().name, scene->getLink().counters())
+    {
+    }
+    bool isOver() const { return scene->getState() == LiveScene::State::Ended; }
+
+    OpenScene& place;
+    std::unique_ptr<LiveScene> scene;
+    LiveCounters counters;
+    QImage picture; // null until the first came
+    QString note;
+    bool isLaunched = false; // from here, by the latest order
+    bool isReady = false;
+    bool showsFrames = false; // to whoever looks at frames here
+};
+
 LiveActs::LiveActs(QMenu& menu, const Parts& parts)
     : m_parts(parts)
     , m_picture(new LivePicture(parts.view))
@@ -80,22 +101,34 @@ LiveActs::LiveActs(QMenu& menu, const Parts& parts)
     m_picture->hide();
     addActions(menu);
     connect(&menu, &QMenu::aboutToShow, this, &LiveActs::updateActions);
-    connect(&parts.files.getDocument(), &SceneDocument::rootChanged, this, &LiveActs::rootChanged);
+    OpenScenes& scenes = parts.files.getScenes();
+    connect(&scenes, &OpenScenes::rootChanged, this, &LiveActs::rootChanged);
+    connect(&scenes, &OpenScenes::aboutToLeave, this, &LiveActs::rest);
+    connect(&scenes, &OpenScenes::entered, this, [this] {
+        if (LiveScene* scene = getScene())
+            scene->setInFront(true);
+    });
+    connect(&scenes, &OpenScenes::aboutToRemove, this, [this](const OpenScene& scene) {
+        if (const Attached* attached = findAttached(scene))
+            leave(*attached);
+    });
     connect(&parts.services, &HostServices::selectionChanged, this, [this] {
-        if (m_scene)
-            m_scene->follow(m_parts.services.getSelectedNodes());
+        if (LiveScene* scene = getScene())
+            scene->follow(m_parts.services.getSelectedNodes());
     });
     connect(&parts.tree, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
         auto* node = dynamic_cast<LiveNode*>(m_parts.tree.getModel().nodeAt(index));
-        if (m_scene && node && node->getScene() == m_scene.get())
-            m_scene->fold(*node);
+        LiveScene* scene = getScene();
+        if (scene && node && node->getScene() == scene)
+            scene->fold(*node);
     });
     connect(m_picture, &LivePicture::clicked, this, &LiveActs::pick);
     connect(m_picture, &LivePicture::offerTaken, this, &LiveActs::launchAgain);
     connect(m_picture, &LivePicture::wanted, this, [this](const QSize& size) {
-        if (m_scene && m_scene->getState() != LiveScene::State::Ended)
-            m_scene->getLink().showPictures(static_cast<std::uint32_t>(size.width()),
-                                            static_cast<std::uint32_t>(size.height()));
+        LiveScene* scene = getScene();
+        if (scene && scene->getState() != LiveScene::State::Ended)
+            scene->getLink().showPictures(static_cast<std::uint32_t>(size.width()),
+                                          static_cast<std::uint32_t>(size.height()));
     });
     connect(&m_pulse, &QTimer::timeout, this, &LiveActs::checkPulse);
     updateActions();
@@ -121,13 +154,33 @@ void LiveActs::addActions(QMenu& menu)
                  Qt::Key_F8);
 }
 
+LiveScene* LiveActs::getScene() const
+{
+    return m_front ? m_front->scene.get() : nullptr;
+}
+
+LiveActs::Attached* LiveActs::findAttached(const OpenScene& scene) const
+{
+    const auto found = std::find_if(m_all.begin(), m_all.end(),
+                                    [&scene](const auto& each) { return &each->place == &scene; });
+    return found == m_all.end() ? nullptr : found->get();
+}
+
+LiveActs::Attached* LiveActs::findAttached(const LiveScene* scene) const
+{
+    const auto found = std::find_if(m_all.begin(), m_all.end(),
+                                    [scene](const auto& each) { return each->scene.get() == scene; });
+    return found == m_all.end() ? nullptr : found->get();
+}
+
 void LiveActs::updateActions()
 {
-    const bool isAttached = m_scene && m_scene->getState() != LiveScene::State::Ended;
+    LiveScene* scene = getScene();
+    const bool isAttached = scene && scene->getState() != LiveScene::State::Ended;
     m_launchAgain->setEnabled(!m_launched.command.isEmpty());
     m_detach->setEnabled(isAttached);
-    m_takeBack->setEnabled(isAttached && !m_scene->getEdits().getChanges().isEmpty());
-    m_look->setEnabled(isAttached && m_scene->getLink().abilities().camera);
+    m_takeBack->setEnabled(isAttached && !scene->getEdits().getChanges().isEmpty());
+    m_look->setEnabled(isAttached && scene->getLink().abilities().camera);
 }
 
 // --- Attaching
@@ -177,14 +230,10 @@ void LiveActs::attachTo(const QString& socketPath, const LaunchOrder& launched)
 {
     auto link = std::make_unique<SocketLink>();
     const QString problem = link->connectTo(socketPath);
-    if (!problem.isEmpty())
-        return fail(problem);
-    if (!m_parts.files.confirmDiscard()) {
-        emit attached(false);
-        return;
-    }
-    show(std::move(link));
-    m_isLaunched = !launched.command.isEmpty();
+    if (problem.isEmpty())
+        show(std::move(link), !launched.command.isEmpty());
+    else
+        fail(problem);
 }
 
 void LiveActs::fail(const QString& sentence)
@@ -200,47 +249,60 @@ void LiveActs::askForProgram()
         attachTo(dialog.chosenSocket());
 }
 
-void LiveActs::show(std::unique_ptr<LiveLink> link)
+// One that has ended makes room; everything else stays open.
+OpenScene& LiveActs::placeForAnother()
 {
-    leave();
-    m_parts.view.setLogsFrames(false); // it is hidden
-    m_scene = std::make_unique<LiveScene>(std::move(link), m_parts.services);
-    LiveLink& to = m_scene->getLink();
-    connectScene();
-    m_parts.files.getDocument().beginExternal(
-        m_scene->getRoot(), tr("%1, process %2").arg(m_scene->getName()).arg(to.program().pid));
-    m_counters = std::make_unique<LiveCounters>(to.program().name, to.counters());
+    OpenScenes& scenes = m_parts.files.getScenes();
+    return m_front && m_front->isOver() ? scenes.getFront() : scenes.add();
+}
+
+void LiveActs::show(std::unique_ptr<LiveLink> link, bool isLaunched)
+{
+    OpenScene& place = placeForAnother();
+    if (const Attached* ended = findAttached(place))
+        leave(*ended);
+    LiveLink& to = *link;
+    m_all.push_back(
+        std::make_unique<Attached>(place, std::make_unique<LiveScene>(std::move(link), m_parts.services)));
+    Attached& attached = *m_all.back();
+    attached.isLaunched = isLaunched;
+    LiveScene& scene = *attached.scene;
+    if (!to.abilities().picture)
+        attached.note = tr("“%1” shows no picture here.").arg(scene.getName());
+    connectScene(attached);
+    place.getDocument().beginExternal(scene.getRoot(),
+                                      tr("%1, process %2").arg(scene.getName()).arg(to.program().pid));
     if (!to.counters().empty())
         to.showCounters(true);
-    m_isReady = false;
-    m_picture->setPicture({});
-    m_picture->setGrey(false);
-    m_picture->setOffer({});
-    m_picture->setNote(to.abilities().picture ? QString()
-                                              : tr("“%1” shows no picture here.").arg(m_scene->getName()));
-    m_picture->show();
-    m_picture->raise();
     m_pulse.start(PulseMs);
-    m_scene->whenUnfolded(static_cast<LiveNode&>(*m_scene->getRoot()), [this] {
-        if (!m_scene->getLink().abilities().picture || !m_picture->isVisible())
-            ready();
+    scene.whenUnfolded(static_cast<LiveNode&>(*scene.getRoot()), [this, live = &scene] {
+        if (Attached* still = findAttached(live))
+            unfolded(*still);
     });
 }
 
-void LiveActs::connectScene()
+// Where a picture is on its way, it is waited for.
+void LiveActs::unfolded(Attached& attached)
 {
-    connect(m_scene.get(), &LiveScene::told, &m_parts.notifier, &UserNotifier::info);
-    connect(m_scene.get(), &LiveScene::fieldsCame, this, &LiveActs::fieldsCame);
-    connect(m_scene.get(), &LiveScene::stateChanged, this, &LiveActs::stateChanged);
-    connect(m_scene.get(), &LiveScene::inserted, this, &LiveActs::inserted);
-    connect(m_scene.get(), &LiveScene::remarked, this, [this] { m_parts.fields.lookAgain(); });
-    connect(m_scene.get(), &LiveScene::countersRead, this, [this](const std::vector<double>& values) {
-        if (m_counters)
-            m_counters->show(values);
-    });
-    connect(m_scene.get(), &LiveScene::pictureShown, this, [this](const QImage& picture) {
-        m_picture->setPicture(picture);
-        ready();
+    if (!attached.scene->getLink().abilities().picture || !isFront(attached) || !m_picture->isVisible())
+        ready(attached);
+}
+
+void LiveActs::connectScene(Attached& attached)
+{
+    LiveScene* scene = attached.scene.get();
+    connect(scene, &LiveScene::told, &m_parts.notifier, &UserNotifier::info);
+    connect(scene, &LiveScene::fieldsCame, this, &LiveActs::fieldsCame);
+    connect(scene, &LiveScene::stateChanged, this, [this, &attached] { stateChanged(attached); });
+    connect(scene, &LiveScene::inserted, this, &LiveActs::inserted);
+    connect(scene, &LiveScene::remarked, this, [this] { m_parts.fields.lookAgain(); });
+    connect(scene, &LiveScene::countersRead, this,
+            [&attached](const std::vector<double>& values) { attached.counters.show(values); });
+    connect(scene, &LiveScene::pictureShown, this, [this, &attached](const QImage& picture) {
+        attached.picture = picture;
+        if (isFront(attached))
+            m_picture->setPicture(picture);
+        ready(attached);
     });
 }
 
@@ -250,25 +312,50 @@ void LiveActs::inserted(const QList<SoPath>& paths)
     m_parts.services.selectPaths(paths);
 }
 
-void LiveActs::ready()
+// What is shown of the program in front, from the first moment on as it was when it was in front last.
+void LiveActs::showPicture()
 {
-    if (std::exchange(m_isReady, true))
+    m_picture->hide();
+    m_parts.view.setLogsFrames(!m_front); // it is hidden
+    if (!m_front)
         return;
-    m_parts.tree.expandToDepth(0);
-    m_parts.notifier.info(tr("Attached to “%1”.").arg(m_scene->getName()));
-    findWanted();
+    m_picture->setPicture(m_front->picture);
+    showState(*m_front);
+    m_picture->show();
+    m_picture->raise();
 }
 
-void LiveActs::findWanted()
+void LiveActs::showState(const Attached& attached)
+{
+    m_picture->setGrey(attached.scene->getState() != LiveScene::State::Attached);
+    m_picture->setNote(attached.note);
+    m_picture->setOffer(attached.isOver() && attached.isLaunched ? tr("Launch Again") : QString());
+}
+
+void LiveActs::ready(Attached& attached)
+{
+    if (std::exchange(attached.isReady, true))
+        return;
+    if (isFront(attached))
+        m_parts.tree.expandToDepth(0);
+    m_parts.notifier.info(tr("Attached to “%1”.").arg(attached.scene->getName()));
+    findWanted(*attached.scene);
+}
+
+void LiveActs::findWanted(LiveScene& scene)
 {
     const QString text = std::exchange(m_wanted, {});
-    const auto found = [this, text](const std::vector<SoNode*>& nodes) { showWanted(nodes, text); };
-    if (text.isEmpty() || !find(text, found))
-        showWanted({}, text);
+    const QPointer<LiveScene> in(&scene);
+    const auto found = [this, in, text](const std::vector<SoNode*>& nodes) {
+        if (in)
+            showWanted(*in, nodes, text);
+    };
+    if (text.isEmpty() || !findIn(scene, text, found))
+        showWanted(scene, {}, text);
 }
 
 // The first that is called so, or else whose type is.
-void LiveActs::showWanted(const std::vector<SoNode*>& found, const QString& text)
+void LiveActs::showWanted(LiveScene& scene, const std::vector<SoNode*>& found, const QString& text)
 {
     const auto isCalled = [&text](const SoNode* node) { return toQString(node->getName()) == text; };
     const auto isOfType = [&text](const SoNode* node) { return typeText(node->getTypeId()) == text; };
@@ -276,12 +363,12 @@ void LiveActs::showWanted(const std::vector<SoNode*>& found, const QString& text
     if (wanted == found.end())
         wanted = std::find_if(found.begin(), found.end(), isOfType);
     auto* node = wanted == found.end() ? nullptr : dynamic_cast<LiveNode*>(*wanted);
-    const auto end = [this] {
+    const auto end = [this, to = &scene] { // which outlives what it waits for
         emit attached(true);
-        offerChanges();
+        offerChanges(*to);
     };
     if (node)
-        m_scene->whenShown(*node, end);
+        scene.whenShown(*node, end);
     else
         end();
 }
@@ -303,18 +390,20 @@ void LiveActs::fieldsCame(SoFieldContainer* node)
 
 void LiveActs::pick(const QPointF& place)
 {
-    if (!m_scene || m_scene->getState() != LiveScene::State::Attached)
+    const QPointer<LiveScene> scene(getScene());
+    if (!scene || scene->getState() != LiveScene::State::Attached)
         return;
-    if (!m_scene->getLink().abilities().pick)
+    if (!scene->getLink().abilities().pick)
         return m_parts.notifier.info(
-            tr("“%1” does not tell what is under a place of its picture.").arg(m_scene->getName()));
-    const QPointer<LiveScene> scene(m_scene.get());
-    m_scene->getLink().pick(place.x(), place.y(), [this, scene](const live::PickResult& result) {
-        if (!scene || m_scene.get() != scene)
+            tr("“%1” does not tell what is under a place of its picture.").arg(scene->getName()));
+    scene->getLink().pick(place.x(), place.y(), [this, scene](const live::PickResult& result) {
+        if (!scene || getScene() != scene)
             return;
         if (!result.hit)
             return m_parts.services.clearSelection();
-        scene->findPath(result.path, [this](const SoPath& path) {
+        scene->findPath(result.path, [this, scene](const SoPath& path) {
+            if (getScene() != scene)
+                return;
             m_parts.tree.getModel().followNow();
             m_parts.tree.selectPath(path);
         });
@@ -324,10 +413,10 @@ void LiveActs::pick(const QPointF& place)
 void LiveActs::lookAtSelected()
 {
     const auto* node = dynamic_cast<const LiveNode*>(m_parts.services.selectedNode());
-    if (!node || node->getScene() != m_scene.get())
+    const QPointer<LiveScene> scene(getScene());
+    if (!node || !scene || node->getScene() != scene)
         return m_parts.notifier.info(tr("No node is selected: select one in the tree or in the view first."));
-    const QPointer<LiveScene> scene(m_scene.get());
-    m_scene->getLink().box(node->getId(), [this, scene](const std::optional<live::Value>& box) {
+    scene->getLink().box(node->getId(), [this, scene](const std::optional<live::Value>& box) {
         double corners[6];
         if (!scene || !box || box->bytes.size() != sizeof corners)
             return m_parts.notifier.info(tr("The selected node has no extent that could be looked at."));
@@ -340,13 +429,22 @@ void LiveActs::lookAtSelected()
     });
 }
 
-bool LiveActs::find(const QString& query, const std::function<void(const std::vector<SoNode*>&)>& found)
+bool LiveActs::find(const QString& query, const Found& found)
 {
-    if (!m_scene || m_scene->getState() != LiveScene::State::Attached || !m_scene->getLink().abilities().find)
+    LiveScene* scene = getScene();
+    return scene && findIn(*scene, query, [this, in = QPointer<LiveScene>(scene), found](const auto& nodes) {
+               if (in && getScene() == in)
+                   found(nodes);
+           });
+}
+
+bool LiveActs::findIn(LiveScene& in, const QString& query, const Found& found)
+{
+    if (in.getState() != LiveScene::State::Attached || !in.getLink().abilities().find)
         return false;
-    const QPointer<LiveScene> scene(m_scene.get());
+    const QPointer<LiveScene> scene(&in);
     using Paths = std::vector<std::vector<live::NodeId>>;
-    m_scene->getLink().find(query.toStdString(), MostFound, [scene, found](const Paths& paths) {
+    scene->getLink().find(query.toStdString(), MostFound, [scene, found](const Paths& paths) {
         auto nodes = std::make_shared<std::vector<SoNode*>>();
         auto left = std::make_shared<std::size_t>(paths.size());
         if (paths.empty())
@@ -368,134 +466,157 @@ bool LiveActs::find(const QString& query, const std::function<void(const std::ve
 
 void LiveActs::checkPulse()
 {
-    if (!m_scene || m_scene->getState() == LiveScene::State::Ended)
-        return m_pulse.stop();
-    showFramesWhereWanted();
-    LiveLink& link = m_scene->getLink();
-    const double waiting = link.secondsWaiting();
-    m_scene->setSilent(waiting > SilentSeconds);
-    if (waiting == 0.0)
-        link.node(0, [](const std::optional<live::NodeInfo>&) {});
-}
-
-void LiveActs::showFramesWhereWanted()
-{
-    const bool isWanted = SoFrameLog::getInstance().isOn();
-    if (std::exchange(m_showsFrames, isWanted) != isWanted)
-        m_scene->getLink().showFrames(isWanted);
-}
-
-void LiveActs::stateChanged()
-{
-    const LiveScene::State state = m_scene->getState();
-    m_picture->setGrey(state != LiveScene::State::Attached);
-    m_picture->setNote({});
-    if (state == LiveScene::State::Silent) {
-        const QString sentence = tr("“%1” has not answered for 2 seconds; what it showed last stays, and "
-                                    "cannot be edited before it answers again.")
-                                     .arg(m_scene->getName());
-        m_picture->setNote(sentence);
-        m_parts.notifier.info(sentence);
-    } else if (state == LiveScene::State::Ended) {
-        showEnd();
+    bool isAnyAlive = false;
+    for (const auto& each : m_all) {
+        if (each->isOver())
+            continue;
+        isAnyAlive = true;
+        showFramesWhereWanted(*each);
+        LiveLink& link = each->scene->getLink();
+        const double waiting = link.secondsWaiting();
+        each->scene->setSilent(waiting > SilentSeconds);
+        if (waiting == 0.0)
+            link.node(0, [](const std::optional<live::NodeInfo>&) {});
     }
+    if (!isAnyAlive)
+        m_pulse.stop();
+}
+
+void LiveActs::showFramesWhereWanted(Attached& attached)
+{
+    const bool isWanted = isFront(attached) && SoFrameLog::getInstance().isOn();
+    if (std::exchange(attached.showsFrames, isWanted) != isWanted)
+        attached.scene->getLink().showFrames(isWanted);
+}
+
+void LiveActs::stateChanged(Attached& attached)
+{
+    const LiveScene::State state = attached.scene->getState();
+    attached.note.clear();
+    if (state == LiveScene::State::Silent)
+        showSilence(attached);
+    else if (state == LiveScene::State::Ended)
+        showEnd(attached);
+    if (isFront(attached))
+        showState(attached);
     m_parts.tree.viewport()->update();
     m_parts.fields.lookAgain();
     updateActions();
 }
 
-void LiveActs::showEnd()
+void LiveActs::showSilence(Attached& attached)
 {
-    m_pulse.stop();
-    keepChanges();
-    const int count = static_cast<int>(m_scene->getEdits().getChanges().getCount());
-    QString sentence = m_scene->getEnd();
+    attached.note = tr("“%1” has not answered for 2 seconds; what it showed last stays, and "
+                       "cannot be edited before it answers again.")
+                        .arg(attached.scene->getName());
+    m_parts.notifier.info(attached.note);
+}
+
+void LiveActs::showEnd(Attached& attached)
+{
+    keepChanges(attached);
+    const int count = static_cast<int>(attached.scene->getEdits().getChanges().getCount());
+    attached.note = attached.scene->getEnd();
     if (count > 0)
-        sentence +=
-            QLatin1Char(' ') +
-            tr("Kept for when you attach to “%1” again: %2.").arg(m_scene->getName(), changesText(count));
-    m_picture->setNote(sentence);
-    m_picture->setOffer(m_isLaunched ? tr("Launch Again") : QString());
-    m_parts.notifier.info(sentence);
-    if (!std::exchange(m_isReady, true))
-        emit attached(false);
+        attached.note += QLatin1Char(' ') + tr("Kept for when you attach to “%1” again: %2.")
+                                                .arg(attached.scene->getName(), changesText(count));
+    m_parts.notifier.info(attached.note);
+    if (!std::exchange(attached.isReady, true))
+        emit this->attached(false);
 }
 
 void LiveActs::detach()
 {
-    if (m_scene)
-        m_scene->detach();
+    if (LiveScene* scene = getScene())
+        scene->detach();
 }
 
 void LiveActs::rootChanged(const SoNode* root)
 {
-    if (m_scene && m_scene->getRoot() != root)
-        leave();
+    Attached* here = findAttached(m_parts.files.getScenes().getFront());
+    if (here && here->scene->getRoot() != root) {
+        leave(*here);
+        here = nullptr;
+    }
+    m_front = here;
+    showPicture();
+}
+
+// Another scene comes to the front: what was edited goes to the program first, and nothing is looked at.
+void LiveActs::rest()
+{
+    if (!m_front)
+        return;
+    m_front->scene->getEdits().flush(true);
+    m_front->scene->setInFront(false);
+    m_picture->hide();
+    if (!m_front->isOver() && std::exchange(m_front->showsFrames, false))
+        m_front->scene->getLink().showFrames(false);
 }
 
 // Its nodes may be in use until the event loop runs.
-void LiveActs::leave()
+void LiveActs::leave(const Attached& attached)
 {
-    if (!m_scene)
-        return;
-    m_pulse.stop();
-    keepChanges();
-    m_isLaunched = m_showsFrames = false;
-    m_parts.view.setLogsFrames(true);
-    LiveScene* scene = m_scene.release();
+    keepChanges(attached);
+    if (isFront(attached)) {
+        m_front = nullptr;
+        showPicture();
+    }
+    const auto at = std::find_if(m_all.begin(), m_all.end(),
+                                 [&attached](const auto& each) { return each.get() == &attached; });
+    LiveScene* scene = (*at)->scene.release();
     scene->disconnect(this);
     scene->disconnect(&m_parts.notifier);
     scene->detach();
     scene->setParent(this);
     scene->deleteLater();
-    m_counters.reset();
-    m_picture->hide();
-    m_isReady = true;
+    m_all.erase(at);
 }
 
 // --- Changes that outlive the program
 
-void LiveActs::keepChanges()
+void LiveActs::keepChanges(const Attached& attached)
 {
-    if (m_scene->getEdits().getChanges().isEmpty())
-        return;
-    m_kept = m_scene->getEdits().getChanges().getAll();
-    m_keptName = m_scene->getName();
-    m_keptProcess = m_scene->getLink().program().pid;
+    const LiveChanges& changes = attached.scene->getEdits().getChanges();
+    if (!changes.isEmpty())
+        m_kept[attached.scene->getName()] = {changes.getAll(), attached.scene->getLink().program().pid};
 }
 
-void LiveActs::offerChanges()
+void LiveActs::offerChanges(LiveScene& scene)
 {
-    const bool isMeant = !m_kept.empty() && m_keptName == m_scene->getName() &&
-                         m_keptProcess != m_scene->getLink().program().pid && m_parts.notifier.isAttended();
-    if (!isMeant)
+    const QString name = scene.getName();
+    const auto kept = m_kept.find(name);
+    if (kept == m_kept.end() || kept->second.process == scene.getLink().program().pid ||
+        !m_parts.notifier.isAttended())
         return;
     auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
                                 tr("Apply %1 of the last run of “%2” again?")
-                                    .arg(changesText(static_cast<int>(m_kept.size())), m_keptName),
+                                    .arg(changesText(static_cast<int>(kept->second.changes.size())), name),
                                 QMessageBox::NoButton, &m_parts.window);
     box->setObjectName(QStringLiteral("applyLiveChanges"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     const QAbstractButton* yes = box->addButton(tr("&Apply"), QMessageBox::AcceptRole);
     box->addButton(tr("&Leave It as It Is"), QMessageBox::RejectRole);
-    connect(box, &QMessageBox::buttonClicked, this, [this, yes](const QAbstractButton* button) {
-        const Changes changes = std::exchange(m_kept, {});
-        if (button == yes && m_scene)
-            apply(changes, false);
+    const QPointer<LiveScene> to(&scene);
+    connect(box, &QMessageBox::buttonClicked, this, [this, yes, to, name](const QAbstractButton* button) {
+        const Changes changes = std::exchange(m_kept[name].changes, {});
+        m_kept.erase(name);
+        if (button == yes && to && findAttached(to))
+            apply(*to, changes, false);
     });
     box->open();
 }
 
 void LiveActs::takeBack()
 {
-    if (m_scene)
-        apply(m_scene->getEdits().getChanges().getAll(), true);
+    if (LiveScene* scene = getScene())
+        apply(*scene, scene->getEdits().getChanges().getAll(), true);
 }
 
-void LiveActs::apply(const Changes& changes, bool isBefore)
+void LiveActs::apply(LiveScene& scene, const Changes& changes, bool isBefore)
 {
-    auto* replay = new LiveReplay(*m_scene, m_parts.services, changes,
+    auto* replay = new LiveReplay(scene, m_parts.services, changes,
                                   isBefore ? LiveReplay::Which::Before : LiveReplay::Which::After);
     connect(replay, &LiveReplay::finished, this, [this](int written, const QStringList& missing) {
         for (const QString& path : missing)

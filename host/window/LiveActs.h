@@ -11,7 +11,9 @@
 #include <QTimer>
 
 #include <functional>
+#include <map>
 #include <memory>
+#include <vector>
 
 class QAction;
 class QMenu;
@@ -24,17 +26,17 @@ namespace scopix
 
 class FieldListView;
 class HostServices;
-class LiveCounters;
 class LiveLink;
 class LiveScene;
+class OpenScene;
 class SceneFiles;
 class SceneTreeView;
 class SceneView;
 class UserNotifier;
 
-/// What the user does with running programs: attaching, launching, detaching. An attached program takes the
-/// place of the scene that was open, as opening a file does, and what it shows takes the place of the 3D
-/// view. GUI thread only.
+/// What the user does with running programs: attaching, launching, detaching. Each attached program is open
+/// beside what else is, and while it is in front, what it shows takes the place of the 3D view. GUI thread
+/// only.
 class LiveActs : public QObject
 {
     Q_OBJECT
@@ -73,10 +75,12 @@ public:
     void takeBack();
 
     /// Null where no program is shown.
-    LiveScene* getScene() const { return m_scene.get(); }
+    LiveScene* getScene() const;
     LivePicture& getPicture() const { return *m_picture; }
-    /// The user looks for something: false where the scene is not a program's.
-    bool find(const QString& query, const std::function<void(const std::vector<SoNode*>&)>& found);
+    using Found = std::function<void(const std::vector<SoNode*>&)>;
+    /// The user looks for something: false where the scene is not a program's. What was found is told only
+    /// while that program is shown.
+    bool find(const QString& query, const Found& found);
 
 signals:
     /// The nodes at the top are there, and a first picture where the program offers them; or it failed, which
@@ -85,24 +89,39 @@ signals:
 
 private:
     using Changes = std::vector<LiveChanges::Change>;
+    struct Attached;
+    struct Kept {
+        Changes changes;
+        qint64 process = 0;
+    };
 
     void attachTo(const QString& socketPath, const LaunchOrder& launched);
-    void show(std::unique_ptr<LiveLink> link);
+    void show(std::unique_ptr<LiveLink> link, bool isLaunched);
+    OpenScene& placeForAnother();
+    Attached* findAttached(const OpenScene& scene) const;
+    Attached* findAttached(const LiveScene* scene) const;
+    bool isFront(const Attached& attached) const { return m_front == &attached; }
     void addActions(QMenu& menu);
-    void showFramesWhereWanted();
+    void showFramesWhereWanted(Attached& attached);
     void inserted(const QList<SoPath>& paths);
-    void connectScene();
-    void ready();
-    void findWanted();
-    void showWanted(const std::vector<SoNode*>& found, const QString& text);
+    void connectScene(Attached& attached);
+    void unfolded(Attached& attached);
+    void showPicture();
+    void showState(const Attached& attached);
+    void ready(Attached& attached);
+    static bool findIn(LiveScene& in, const QString& query, const Found& found);
+    void findWanted(LiveScene& scene);
+    void showWanted(LiveScene& scene, const std::vector<SoNode*>& found, const QString& text);
     void fail(const QString& sentence);
     void rootChanged(const SoNode* root);
-    void leave();
-    void stateChanged();
-    void showEnd();
-    void keepChanges();
-    void offerChanges();
-    void apply(const Changes& changes, bool isBefore);
+    void rest();
+    void leave(const Attached& attached);
+    void stateChanged(Attached& attached);
+    void showSilence(Attached& attached);
+    void showEnd(Attached& attached);
+    void keepChanges(const Attached& attached);
+    void offerChanges(LiveScene& scene);
+    void apply(LiveScene& scene, const Changes& changes, bool isBefore);
     void checkPulse();
     void pick(const QPointF& place);
     void lookAtSelected();
@@ -110,19 +129,14 @@ private:
     void updateActions();
 
     Parts m_parts;
-    std::unique_ptr<LiveScene> m_scene;
-    std::unique_ptr<LiveCounters> m_counters;
+    std::vector<std::unique_ptr<Attached>> m_all;
+    Attached* m_front = nullptr; // null: a scene is in front
     QPointer<LivePicture> m_picture;
     QPointer<LiveLaunch> m_launch;
     QTimer m_pulse;
-    LaunchOrder m_launched;     // the latest one
-    bool m_isLaunched = false;  // what is attached is that
-    bool m_showsFrames = false; // of the program, to whoever looks at frames here
-    bool m_isReady = true;
+    LaunchOrder m_launched; // the latest one
     QString m_wanted;
-    Changes m_kept; // of a program that has ended
-    QString m_keptName;
-    qint64 m_keptProcess = 0;
+    std::map<QString, Kept> m_kept; // of programs that have ended, by their names
     QAction* m_attach;
     QAction* m_launchAgain;
     QAction* m_detach;

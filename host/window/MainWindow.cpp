@@ -41,6 +41,7 @@
 #include "window/PlaybackActs.h"
 #include "window/ReloadBar.h"
 #include "window/SceneChanges.h"
+#include "window/SceneTabs.h"
 #include "window/SettingsActs.h"
 #include "window/ShownScene.h"
 #include "window/TreeColumns.h"
@@ -71,6 +72,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 namespace scopix
 {
@@ -149,7 +151,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    setCentralWidget(m_view);
+    makeCentre();
     makeDocks();
     makeFileMenu();
     makeEditMenu();
@@ -210,6 +212,19 @@ QDockWidget* MainWindow::addDock(QWidget* content, const QString& title, const Q
     dock->setWidget(content);
     addDockWidget(area, dock);
     return dock;
+}
+
+void MainWindow::makeCentre()
+{
+    auto* centre = new QWidget;
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_tabs = new SceneTabs(m_files);
+    layout->addWidget(m_tabs);
+    layout->addWidget(m_view, 1);
+    centre->setFocusProxy(m_view);
+    setCentralWidget(centre);
 }
 
 void MainWindow::makeDocks()
@@ -334,6 +349,8 @@ void MainWindow::makeViewMenu()
         menu->addAction(dock->toggleViewAction());
     }
     m_treeColumns = new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
+    menu->addSeparator();
+    m_tabs->addTo(*menu);
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
@@ -527,10 +544,13 @@ void MainWindow::setScene(SoNode* root, const QString& title)
 
 bool MainWindow::inspect(SoNode* root, const QString& title)
 {
+    if (m_inspected)
+        m_files.getScenes().bringToFront(*m_inspected);
     if (root == getScene() && m_files.getDocument().isExternal())
         return true;
     if (!m_files.confirmDiscard())
         return false;
+    m_inspected = &m_files.getScenes().getFront();
     if (root)
         m_files.getDocument().beginExternal(root, title.isEmpty() ? tr("Running Scene") : title);
     else

@@ -7,6 +7,8 @@
 
 #include <xsg/nodes/base/SoNode.h>
 
+#include <QPointer>
+
 #include <memory>
 
 class SoField;
@@ -34,6 +36,7 @@ class PlaybackActs;
 class ViewActs;
 class ViewActions;
 class ScenePanel;
+class SceneTabs;
 class SceneTreeView;
 class SceneView;
 class TreeColumns;
@@ -87,6 +90,7 @@ public:
     SceneTreeView& getTree() { return *m_tree; }
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
+    SceneTabs& getTabs() { return *m_tabs; }
     ViewPoints& getViewPoints() { return *m_viewPoints; }
     HandleTool& getHandles() { return *m_handles; }
     NodeEditing& getEditing() { return *m_editing; }
@@ -108,6 +112,7 @@ protected:
 
 private:
     QSize firstSize() const;
+    void makeCentre();
     void makeDocks();
     void makeFileMenu();
     void makeEditMenu();
@@ -137,10 +142,12 @@ private:
     HostServices& m_services;
     UserNotifier& m_notifier;
     SceneFiles m_files;
+    QPointer<OpenScene> m_inspected; // is of the application around the window
     ScenePanel* m_scenePanel;
     SceneTreeView* m_tree;
     FieldListView* m_fields;
     SceneView* m_view;
+    SceneTabs* m_tabs = nullptr;
     std::unique_ptr<ViewPoints> m_viewPoints;
     std::unique_ptr<HandleTool> m_handles; // goes before the view
     HandleActions* m_handleActions = nullptr;

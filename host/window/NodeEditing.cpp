@@ -77,12 +77,6 @@ std::vector<MirroredAddition> oneBehindTheOther(std::vector<MirroredAddition> ad
     return additions;
 }
 
-QString quotedOrCount(const Paths& paths)
-{
-    return paths.size() == 1 ? QStringLiteral("“%1”").arg(nodeText(*paths.front().getTail()))
-                             : NodeEditing::tr("%1 Nodes").arg(paths.size());
-}
-
 std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
 {
     return {nodes.begin(), nodes.end()};
@@ -276,7 +270,7 @@ void NodeEditing::duplicateInProgram(const Paths& paths)
         additions.push_back(
             {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1, {}, path.getTail()});
     }
-    addInProgram(additions, tr("Duplicate %1").arg(quotedOrCount(paths)));
+    addInProgram(additions, structure::nameOf(structure::Deed::Duplicate, paths));
 }
 
 void NodeEditing::pasteInProgram()
@@ -290,7 +284,7 @@ void NodeEditing::pasteInProgram()
         additions.push_back(placeInProgram(place));
         additions.back().copied = path.getTail();
     }
-    addInProgram(additions, tr("Paste %1").arg(quotedOrCount(m_copied)));
+    addInProgram(additions, structure::nameOf(structure::Deed::Paste, m_copied));
 }
 
 // --- Clipboard
@@ -320,9 +314,8 @@ void NodeEditing::copy()
 
 void NodeEditing::cut()
 {
-    structure::Act act = structure::remove(selected());
+    structure::Act act = structure::remove(selected(), structure::Deed::Cut);
     if (act.command && putOnClipboard()) {
-        act.name.replace(tr("Delete"), tr("Cut"));
         perform(std::move(act));
     } else {
         tell(act.refusal);
@@ -366,9 +359,7 @@ void NodeEditing::pasteShared()
     if (!holdsOwnCopy(data))
         return tell(
             tr("Only nodes that were copied in this window, in this scene, can be pasted as shared ones."));
-    insert(kept(tailsOf(m_copied)), m_copied.size() == 1
-                                        ? tr("Share “%1”").arg(nodeText(*m_copied.front().getTail()))
-                                        : tr("Share %1 Nodes").arg(m_copied.size()));
+    insert(kept(tailsOf(m_copied)), structure::nameOf(structure::Deed::Share, m_copied));
 }
 
 void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action)
@@ -383,7 +374,7 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
             std::vector<MirroredAddition> additions;
             for (const SoPath& path : branches->getPaths())
                 additions.push_back({group, index, {}, path.getTail()});
-            addInProgram(additions, tr("Copy %1").arg(quotedOrCount(branches->getPaths())));
+            addInProgram(additions, structure::nameOf(structure::Deed::Copy, branches->getPaths()));
             return;
         }
         perform(structure::transfer(branches->getPaths(), group, index, how));

@@ -43,8 +43,29 @@ SceneFiles::~SceneFiles() = default;
 
 void SceneFiles::open(const QString& path)
 {
+    read(path, &m_scenes.getFront());
+}
+
+void SceneFiles::openInTab(const QString& path)
+{
+    for (OpenScene* each : m_scenes.getAll()) {
+        if (each->getDocument().getPath().isEmpty() ||
+            QFileInfo(each->getDocument().getPath()) != QFileInfo(path))
+            continue;
+        m_scenes.bringToFront(*each);
+        emit opened(true);
+        return;
+    }
+    read(path, nullptr);
+}
+
+// Null: in a place of its own.
+void SceneFiles::read(const QString& path, OpenScene* target)
+{
     if (m_import)
         m_import->cancel(); // the user has changed their mind
+    m_target = target;
+    m_isForTab = !target;
     m_droppable = getDocument().getEditCount();
     m_opening = FileStamp(path);
     const QString error = checkFile(path, SceneDocument::fileExtensions());
@@ -77,8 +98,14 @@ FileImport* SceneFiles::importModel(const QString& path)
 
 void SceneFiles::fileRead(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures)
 {
+    if (!m_isForTab && !m_target)
+        return cancelled(path); // its place is closed
+    if (m_isForTab)
+        m_scenes.add();
+    else
+        m_scenes.bringToFront(*m_target);
     // The user may have continued to edit while the file was read.
-    if (getDocument().getEditCount() == m_droppable || confirmDiscard())
+    if (m_isForTab || getDocument().getEditCount() == m_droppable || confirmDiscard())
         show(root, path, textures);
     else
         cancelled(path);
@@ -149,12 +176,14 @@ void SceneFiles::openAnother(const QString& path)
         open(path);
 }
 
+QString SceneFiles::askForPath()
+{
+    return QFileDialog::getOpenFileName(&m_window, tr("Open"), startFolder(), OtherFile::nameFilter());
+}
+
 void SceneFiles::askForFile()
 {
-    if (!confirmDiscard())
-        return;
-    const QString path =
-        QFileDialog::getOpenFileName(&m_window, tr("Open"), startFolder(), OtherFile::nameFilter());
+    const QString path = confirmDiscard() ? askForPath() : QString();
     if (!path.isEmpty())
         open(path);
 }
@@ -165,6 +194,13 @@ QString SceneFiles::startFolder() const
         getDocument().getPath().isEmpty() ? m_recent.list().value(0) : getDocument().getPath();
     const QString folder = QFileInfo(path).path();
     return QFileInfo(folder).isDir() ? folder : QDir::currentPath();
+}
+
+void SceneFiles::askForFileInTab()
+{
+    const QString path = askForPath();
+    if (!path.isEmpty())
+        openInTab(path);
 }
 
 void SceneFiles::openRecent(const QString& path)
@@ -302,17 +338,36 @@ bool SceneFiles::confirmClose()
 {
     if (!confirmDiscard())
         return false;
+    for (OpenScene* each : m_scenes.getAll()) {
+        if (each == &m_scenes.getFront() || !each->getDocument().isModified() || !m_notifier.isAttended())
+            continue;
+        m_scenes.bringToFront(*each);
+        if (!confirmDiscard())
+            return false;
+    }
     if (m_import)
         m_import->cancel();
-    getAutosave().drop();
+    for (OpenScene* each : m_scenes.getAll())
+        each->getAutosave().drop();
     return true;
+}
+
+void SceneFiles::closeScene(OpenScene& scene)
+{
+    m_scenes.bringToFront(scene);
+    if (!confirmDiscard())
+        return;
+    if (m_scenes.getAll().size() > 1)
+        m_scenes.remove(scene);
+    else
+        getDocument().begin(makeDefaultScene().get(), {}, tr("Welcome"));
 }
 
 bool SceneFiles::confirmDiscard()
 {
     TextInput::applyPendingEdit();
     const bool may = !getDocument().isModified() || !m_notifier.isAttended() || askWhetherToDrop();
-    if (may)
+    if (may && m_target == &m_scenes.getFront())
         m_droppable = getDocument().getEditCount();
     return may;
 }
@@ -360,9 +415,11 @@ void SceneFiles::offerRecovery()
     box.setWindowModality(Qt::WindowModal);
     box.exec();
     if (box.clickedButton() == yes)
-        recover(std::move(slot));
-    else if (box.clickedButton())
-        slot->remove();
+        return recover(std::move(slot));
+    if (!box.clickedButton())
+        return;
+    slot->remove();
+    offerRecovery(); // what was open beside it
 }
 
 void SceneFiles::recover(std::unique_ptr<RecoverySlot> slot)
@@ -389,6 +446,7 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
     forgetImport();
     const std::string problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
     const RecoverySlot::Origin origin = slot->getOrigin();
+    m_scenes.add();
     // What was edited may not be what the file holds by now.
     const bool isOlder = QFileInfo(origin.path).lastModified() > slot->getTime();
     getDocument().beginModified(scene, origin.path, origin.title,
@@ -398,13 +456,15 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
     if (!problem.empty())
         m_notifier.error(tr("The last changes to “%1” could not be recovered: %2")
                              .arg(origin.title, QString::fromStdString(problem)));
+    offerRecovery(); // what was open beside it
 }
 
 void SceneFiles::keepEdits(bool withTyping)
 {
     if (withTyping)
         TextInput::applyPendingEdit();
-    getAutosave().keepNow();
+    for (OpenScene* each : m_scenes.getAll())
+        each->getAutosave().keepNow();
 }
 
 } // namespace scopix

@@ -38,6 +38,8 @@ public:
     /// Opens a scene or model, perhaps in the background, and drops what was open; opened() follows, once,
     /// possibly before this returns. What was open stays when it fails. Problems are reported.
     void open(const QString& path);
+    /// The same beside what is open. What is open already comes to the front.
+    void openInTab(const QString& path);
     /// False when it is not written: it cannot be, which is reported, or another program has changed the file
     /// since it was opened, and the user does not want to replace it; or its ending is one to export to,
     /// which keeps less than the scene.
@@ -53,7 +55,10 @@ public:
     void newScene();
     void askForFile();
     void openAnother(const QString& path);
+    void askForFileInTab();
     void openRecent(const QString& path);
+    /// Closes it after asking about unsaved edits; the only one makes room for a new scene.
+    void closeScene(OpenScene& scene);
     /// False when it was not saved: it could not be written, or the user gave no name.
     bool save();
     bool saveAs();
@@ -73,6 +78,8 @@ signals:
     void opened(bool good);
 
 private:
+    void read(const QString& path, OpenScene* target);
+    QString askForPath();
     bool askWhetherToDrop();
     bool mayReplace(const QString& path);
     bool write(const QString& path);
@@ -101,9 +108,11 @@ private:
     OpenScenes m_scenes;
     RecentFiles m_recent;
     QPointer<FileImport> m_import;
-    FileStamp m_opening;      // of the file that is being opened, before it is read
-    SelectionMemo m_reselect; // of what is being reloaded
-    quint64 m_droppable = 0;  // the edit count up to which the user agreed to lose edits
+    QPointer<OpenScene> m_target; // whose place is taken by what is being opened
+    bool m_isForTab = false;      // it gets one of its own
+    FileStamp m_opening;          // of the file that is being opened, before it is read
+    SelectionMemo m_reselect;     // of what is being reloaded
+    quint64 m_droppable = 0;      // the edit count up to which the user agreed to lose edits
 };
 
 } // namespace scopix

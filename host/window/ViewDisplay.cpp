@@ -9,10 +9,14 @@ namespace scopix
 
 QList<SoNode*> ViewDisplay::getHiddenNodes() const
 {
-    QList<SoNode*> hidden;
-    for (SoNode* node : m_states.findHidden(m_view.getScene()))
-        hidden.append(node);
-    return hidden;
+    const std::vector<SoNode*> found = m_states.findHidden(m_view.getScene());
+    return {found.begin(), found.end()};
+}
+
+QList<SoNode*> ViewDisplay::getIsolatedNodes() const
+{
+    const std::vector<SoNode*> found = m_states.findIsolated(m_view.getScene());
+    return {found.begin(), found.end()};
 }
 
 void ViewDisplay::setHidden(SoNode* node, bool hidden)

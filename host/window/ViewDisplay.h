@@ -24,6 +24,7 @@ public:
     void setHidden(SoNode* node, bool hidden) override;
     void setShapeColors(const SoShapeColors& colors) override;
     void setOverdrawShown(bool on) override;
+    QList<SoNode*> getIsolatedNodes() const override;
 
 private:
     SceneView& m_view;

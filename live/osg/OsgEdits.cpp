@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "OsgEdits.h"
 
+#include "OsgArrays.h"
+
 #include <osg/Drawable>
+#include <osg/Sequence>
 #include <osg/ShapeDrawable>
 #include <osg/Texture>
 
@@ -14,58 +17,59 @@ namespace scopix::live
 namespace
 {
 
-/// One more than the greatest vertex that is drawn; none where a number is negative.
-std::optional<std::size_t> verticesUsed(const osg::PrimitiveSet& set)
+/// Shorter times let a sequence go round again and again within one frame.
+constexpr double shortestTime = 1e-6;
+
+bool isShownForAWhile(const osg::Sequence& sequence, double time)
 {
-    if (const auto* arrays = dynamic_cast<const osg::DrawArrays*>(&set)) {
-        if (arrays->getFirst() < 0 || arrays->getCount() < 0)
-            return std::nullopt;
-        return std::size_t(arrays->getFirst()) + std::size_t(arrays->getCount());
-    }
-    if (const auto* lengths = dynamic_cast<const osg::DrawArrayLengths*>(&set)) {
-        const bool negative = std::any_of(lengths->begin(), lengths->end(), [](int n) { return n < 0; });
-        if (lengths->getFirst() < 0 || negative)
-            return std::nullopt;
-        std::size_t end = std::size_t(lengths->getFirst());
-        for (int length : *lengths)
-            end += std::size_t(length);
-        return end;
-    }
-    std::size_t end = 0;
-    for (unsigned i = 0; i < set.getNumIndices(); ++i)
-        end = std::max(end, std::size_t(set.index(i)) + 1);
-    return end;
+    const bool runs = sequence.getMode() == osg::Sequence::START;
+    float speed = 0;
+    int repeats = 0;
+    sequence.getDuration(speed, repeats);
+    return time >= shortestTime && (!runs || time * double(speed) >= shortestTime);
 }
 
-bool hasEnough(const osg::Array* array, std::size_t vertices, std::size_t sets)
+bool comesToAnEnd(const osg::Sequence& sequence)
 {
-    if (!array)
-        return true;
-    switch (array->getBinding()) {
-    case osg::Array::BIND_PER_VERTEX:
-        return array->getNumElements() >= vertices;
-    case osg::Array::BIND_PER_PRIMITIVE_SET:
-        return array->getNumElements() >= sets;
-    case osg::Array::BIND_OVERALL:
-        return array->getNumElements() >= 1;
-    default:
-        return true;
-    }
+    const std::vector<double>& times = sequence.getTimeList();
+    const double last = sequence.getLastFrameTime();
+    return std::all_of(times.begin(), times.end(),
+                       [&](double time) { return isShownForAWhile(sequence, time); }) &&
+           (last <= 0 || isShownForAWhile(sequence, last));
 }
 
-bool haveEnough(const osg::Geometry::ArrayList& arrays, std::size_t vertices, std::size_t sets)
+bool isWithinChildren(const osg::Sequence& sequence)
 {
-    return std::all_of(arrays.begin(), arrays.end(),
-                       [&](const auto& array) { return hasEnough(array.get(), vertices, sets); });
+    osg::Sequence::LoopMode mode{};
+    int begin = 0;
+    int end = 0;
+    sequence.getInterval(mode, begin, end);
+    const auto count = int(std::min<std::size_t>(sequence.getTimeList().size(), sequence.getNumChildren()));
+    return begin < std::max(count, 1) && end < std::max(count, 1);
 }
 
-bool areSafe(const std::vector<osg::ref_ptr<osg::Object>>& objects)
+/// Why the program would not survive to draw the object; empty where it would.
+std::string dangerOf(const osg::Object& object)
 {
-    return std::all_of(objects.begin(), objects.end(), [](const auto& object) {
-        const auto* geometry = dynamic_cast<const osg::Geometry*>(object.get());
-        const auto* sequence = dynamic_cast<const osg::Sequence*>(object.get());
-        return (!geometry || isWithinArrays(*geometry)) && (!sequence || isWithinChildren(*sequence));
-    });
+    const auto* geometry = dynamic_cast<const osg::Geometry*>(&object);
+    const auto* sequence = dynamic_cast<const osg::Sequence*>(&object);
+    if (geometry && !isWithinArrays(*geometry))
+        return "the program would draw more than there is";
+    if (sequence && !isWithinChildren(*sequence))
+        return "the sequence would show children that it does not have";
+    if (sequence && !comesToAnEnd(*sequence))
+        return "the sequence would never come to the end of a frame; each child needs some time, and a "
+               "sequence "
+               "that runs a speed above 0";
+    return {};
+}
+
+std::string dangerOf(const std::vector<osg::ref_ptr<osg::Object>>& objects)
+{
+    for (const auto& object : objects)
+        if (const std::string danger = object ? dangerOf(*object) : std::string(); !danger.empty())
+            return danger;
+    return {};
 }
 
 /// Makes the next frame draw the object as it is now.
@@ -75,6 +79,8 @@ void touch(osg::Object& object)
         data->dirty();
     if (auto* drawable = dynamic_cast<osg::Drawable*>(&object))
         drawable->dirtyGLObjects();
+    if (auto* geometry = dynamic_cast<osg::Geometry*>(&object))
+        renewArrays(*geometry);
     if (auto* node = dynamic_cast<osg::Node*>(&object))
         node->dirtyBound();
     if (auto* texture = dynamic_cast<osg::Texture*>(&object))
@@ -101,38 +107,6 @@ WriteResult refused(const std::string& why)
 }
 
 } // namespace
-
-bool isWithinArrays(const osg::Geometry& geometry)
-{
-    std::size_t vertices = 0;
-    for (const auto& set : geometry.getPrimitiveSetList()) {
-        const auto used = set ? verticesUsed(*set) : 0;
-        if (!used)
-            return false;
-        vertices = std::max(vertices, *used);
-    }
-    const std::size_t sets = geometry.getNumPrimitiveSets();
-    const osg::Array* positions = geometry.getVertexArray();
-    return vertices <= (positions ? positions->getNumElements() : 0) &&
-           hasEnough(geometry.getNormalArray(), vertices, sets) &&
-           hasEnough(geometry.getColorArray(), vertices, sets) &&
-           hasEnough(geometry.getSecondaryColorArray(), vertices, sets) &&
-           hasEnough(geometry.getFogCoordArray(), vertices, sets) &&
-           haveEnough(geometry.getTexCoordArrayList(), vertices, sets) &&
-           haveEnough(geometry.getVertexAttribArrayList(), vertices, sets);
-}
-
-bool isWithinChildren(const osg::Sequence& sequence)
-{
-    osg::Sequence::LoopMode mode{};
-    int begin = 0;
-    int end = 0;
-    sequence.getInterval(mode, begin, end);
-    const std::vector<double>& times = sequence.getTimeList();
-    const auto count = int(std::min<std::size_t>(times.size(), sequence.getNumChildren()));
-    const bool positive = std::all_of(times.begin(), times.end(), [](double time) { return time > 0; });
-    return positive && begin < std::max(count, 1) && end < std::max(count, 1);
-}
 
 OsgEdits::OsgEdits(OsgObjects& objects, OsgClasses& classes, OsgViewers& viewers)
     : m_objects(objects)
@@ -164,6 +138,8 @@ void OsgEdits::copyValues(osg::Object& from, osg::Object& to)
         if (value && property->read(to, m_objects) != value)
             property->write(to, *value, m_objects);
     }
+    if (auto* geometry = dynamic_cast<osg::Geometry*>(&to))
+        renewArrays(*geometry);
 }
 
 WriteResult OsgEdits::write(NodeId id, const std::string& name, const Value& value)
@@ -178,12 +154,13 @@ WriteResult OsgEdits::write(NodeId id, const std::string& name, const Value& val
         return refused("The program was still drawing after two seconds; try again.");
 
     const Objects touched = touchedBy(id);
-    const bool wasSafe = areSafe(touched);
+    const bool wasSafe = dangerOf(touched).empty();
     const std::optional<Value> before = property->read(*object, m_objects);
     WriteResult result = refused(property->write(*object, value, m_objects));
-    if (result.refusal.empty() && wasSafe && before && !areSafe(touched)) {
+    const std::string danger = wasSafe && before ? dangerOf(touched) : std::string();
+    if (result.refusal.empty() && !danger.empty()) {
         property->write(*object, *before, m_objects);
-        result.refusal = "“" + name + "” cannot be set so, since the program would draw more than there is.";
+        result.refusal = "“" + name + "” cannot be set so, since " + danger + ".";
     }
     for (const auto& one : touched) {
         if (describesShape(*object))

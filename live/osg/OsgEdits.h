@@ -4,9 +4,6 @@
 #include "OsgClasses.h"
 #include "OsgViewers.h"
 
-#include <osg/Geometry>
-#include <osg/Sequence>
-
 namespace scopix::live
 {
 
@@ -30,11 +27,5 @@ private:
     OsgClasses& m_classes;
     OsgViewers& m_viewers;
 };
-
-/// Whether everything that the geometry draws lies within its arrays.
-bool isWithinArrays(const osg::Geometry& geometry);
-/// Whether the sequence shows children that it has, each for a while: otherwise it would never come to an end
-/// of its update.
-bool isWithinChildren(const osg::Sequence& sequence);
 
 } // namespace scopix::live

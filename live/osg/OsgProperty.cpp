@@ -35,9 +35,12 @@ std::string OsgProperty::write(osg::Object&, const Value&, OsgObjects&) const
     return readOnly();
 }
 
-std::optional<Value> OsgProperty::stamp(osg::Object& object, OsgObjects& objects) const
+void OsgProperty::stamp(osg::Object& object, OsgObjects& objects, std::vector<std::uint8_t>& bytes) const
 {
-    return read(object, objects);
+    const std::optional<Value> value = read(object, objects);
+    bytes.push_back(value.has_value());
+    if (value)
+        appendBytes(bytes, value->bytes.data(), value->bytes.size());
 }
 
 std::string OsgProperty::misfit(const PropertyInfo& info, const Value& value) const

@@ -44,9 +44,9 @@ public:
     virtual std::optional<Value> read(osg::Object& object, OsgObjects& objects) const = 0;
     /// A sentence that says why not; empty where it was written.
     virtual std::string write(osg::Object& object, const Value& value, OsgObjects& objects) const;
-    /// What is compared to notice that the value has changed, at a small cost however long it is; none of
-    /// what is too dear to be compared each frame.
-    virtual std::optional<Value> stamp(osg::Object& object, OsgObjects& objects) const;
+    /// Appends what is compared to notice that the value has changed, at a small cost however long it is,
+    /// since this is done each frame; nothing of what is too dear for that.
+    virtual void stamp(osg::Object& object, OsgObjects& objects, std::vector<std::uint8_t>& bytes) const;
 
 protected:
     /// The sentence of a value that this property cannot take, as those of another type; empty where it can.
@@ -137,6 +137,14 @@ std::optional<T> unpackedAs(const Value& value)
     Stored stored;
     std::memcpy(static_cast<void*>(&stored), value.bytes.data(), sizeof(Stored));
     return T(stored);
+}
+
+/// Appends the bytes of a value to those of a stamp.
+template <class T>
+void appendBytes(std::vector<std::uint8_t>& bytes, const T* start, std::size_t count)
+{
+    const auto* first = reinterpret_cast<const std::uint8_t*>(start);
+    bytes.insert(bytes.end(), first, first + count * sizeof(T));
 }
 
 Value packedId(NodeId id);

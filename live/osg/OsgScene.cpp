@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "OsgScene.h"
 
+#include "OsgArrays.h"
 #include "OwnNode.h"
 
 #include <osg/Camera>
@@ -88,8 +89,10 @@ osg::ref_ptr<osg::Node> makeNode(const std::string& type)
         return nullptr;
     osgDB::ObjectWrapper* wrapper = osgDB::Registry::instance()->getObjectWrapperManager()->findWrapper(type);
     osg::ref_ptr<osg::Object> made = wrapper ? wrapper->createInstance() : nullptr;
-    if (auto* drawable = dynamic_cast<osg::ShapeDrawable*>(made.get()))
+    if (auto* drawable = dynamic_cast<osg::ShapeDrawable*>(made.get())) {
         drawable->setShape(new osg::Sphere());
+        renewArrays(*drawable);
+    }
     return dynamic_cast<osg::Node*>(made.get());
 }
 

@@ -6,6 +6,34 @@
 namespace scopix::live
 {
 
+namespace
+{
+
+std::vector<const osg::Node*> heldBy(const osg::Object& object)
+{
+    std::vector<const osg::Node*> held;
+    const osg::Node* node = object.asNode();
+    const osg::Group* group = node ? node->asGroup() : nullptr;
+    for (unsigned i = 0; group && i < group->getNumChildren(); ++i)
+        held.push_back(group->getChild(i));
+    return held;
+}
+
+/// Is asked each frame, of groups with many children too.
+bool isHeldBy(const osg::Object& object, const std::vector<const osg::Node*>& held)
+{
+    const osg::Node* node = object.asNode();
+    const osg::Group* group = node ? node->asGroup() : nullptr;
+    if (held.size() != (group ? group->getNumChildren() : 0))
+        return false;
+    for (unsigned i = 0; i < held.size(); ++i)
+        if (group->getChild(i) != held[i])
+            return false;
+    return true;
+}
+
+} // namespace
+
 OsgWatch::OsgWatch(OsgObjects& objects, OsgClasses& classes, OsgViewers& viewers, OsgScene& scene)
     : m_objects(objects)
     , m_classes(classes)
@@ -21,8 +49,11 @@ void OsgWatch::watch(NodeId id, bool values)
         return;
     Watched& watched = m_watched[id];
     watched.values = values;
-    watched.children = childrenOf(*object);
-    watched.stamps = values ? stampsOf(*object) : std::vector<std::optional<Value>>();
+    watched.held = heldBy(*object);
+    watched.shown = shownIn(*object);
+    watched.stamps = Stamps();
+    if (values)
+        takeStamps(*object, watched.stamps);
 }
 
 void OsgWatch::unwatch(NodeId id)
@@ -53,28 +84,38 @@ AdapterChanges OsgWatch::takeChanges()
     return changes;
 }
 
-std::vector<const osg::Node*> OsgWatch::childrenOf(osg::Object& object) const
+std::vector<const osg::Node*> OsgWatch::shownIn(osg::Object& object) const
 {
     const std::vector<osg::Node*> children = m_scene.childrenOf(object);
     return {children.begin(), children.end()};
 }
 
-std::vector<std::optional<Value>> OsgWatch::stampsOf(osg::Object& object)
+void OsgWatch::takeStamps(osg::Object& object, Stamps& stamps)
 {
-    std::vector<std::optional<Value>> stamps;
-    for (const auto& property : m_classes.propertiesOf(object))
-        stamps.push_back(property->stamp(object, m_objects));
-    return stamps;
+    stamps.bytes.clear();
+    stamps.ends.clear();
+    for (const auto& property : m_classes.propertiesOf(object)) {
+        property->stamp(object, m_objects, stamps.bytes);
+        stamps.ends.push_back(stamps.bytes.size());
+    }
 }
 
 void OsgWatch::compare(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes)
 {
-    std::vector<const osg::Node*> children = childrenOf(object);
-    if (children != watched.children)
-        changes.children.push_back(id);
-    watched.children = std::move(children);
+    compareChildren(id, object, watched, changes);
     if (watched.values)
         compareValues(id, object, watched, changes);
+}
+
+void OsgWatch::compareChildren(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes)
+{
+    if (isHeldBy(object, watched.held))
+        return;
+    watched.held = heldBy(object);
+    std::vector<const osg::Node*> shown = shownIn(object);
+    if (shown != watched.shown)
+        changes.children.push_back(id);
+    watched.shown = std::move(shown);
 }
 
 void OsgWatch::compareValues(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes)
@@ -82,12 +123,21 @@ void OsgWatch::compareValues(NodeId id, osg::Object& object, Watched& watched, A
     // What is drawn with may still be read, and a picture let go, by a thread that draws.
     if (dynamic_cast<osg::StateAttribute*>(&object) && !m_viewers.waitForDrawing())
         return;
-    std::vector<std::optional<Value>> stamps = stampsOf(object);
+    takeStamps(object, m_present);
+    const Stamps& former = watched.stamps;
+    if (m_present.bytes == former.bytes && m_present.ends == former.ends)
+        return;
     const OsgProperties& properties = m_classes.propertiesOf(object);
-    for (std::size_t i = 0; i < stamps.size() && i < watched.stamps.size(); ++i)
-        if (stamps[i] != watched.stamps[i])
+    for (std::size_t i = 0; i < m_present.ends.size() && i < former.ends.size(); ++i)
+        if (stampOf(m_present, i) != stampOf(former, i))
             changes.properties.push_back({id, properties[i]->name()});
-    watched.stamps = std::move(stamps);
+    std::swap(watched.stamps, m_present);
+}
+
+std::string_view OsgWatch::stampOf(const Stamps& stamps, std::size_t property)
+{
+    const std::size_t start = property ? stamps.ends[property - 1] : 0;
+    return {reinterpret_cast<const char*>(stamps.bytes.data()) + start, stamps.ends[property] - start};
 }
 
 } // namespace scopix::live

@@ -4,6 +4,8 @@
 #include "OsgClasses.h"
 #include "OsgScene.h"
 
+#include <string_view>
+
 namespace scopix::live
 {
 
@@ -19,15 +21,23 @@ public:
     AdapterChanges takeChanges();
 
 private:
+    /// The stamps of all properties, one behind the other, in the order of the class's properties.
+    struct Stamps {
+        std::vector<std::uint8_t> bytes;
+        std::vector<std::size_t> ends;
+    };
     struct Watched {
         bool values = false;
-        std::vector<const osg::Node*> children;
-        std::vector<std::optional<Value>> stamps; // in the order of the class's properties
+        std::vector<const osg::Node*> held;  // all of the group, only to be compared
+        std::vector<const osg::Node*> shown; // without those of this library
+        Stamps stamps;
     };
 
-    std::vector<const osg::Node*> childrenOf(osg::Object& object) const;
-    std::vector<std::optional<Value>> stampsOf(osg::Object& object);
+    std::vector<const osg::Node*> shownIn(osg::Object& object) const;
+    static std::string_view stampOf(const Stamps& stamps, std::size_t property);
+    void takeStamps(osg::Object& object, Stamps& stamps);
     void compare(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes);
+    void compareChildren(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes);
     void compareValues(NodeId id, osg::Object& object, Watched& watched, AdapterChanges& changes);
 
     OsgObjects& m_objects;
@@ -35,6 +45,7 @@ private:
     OsgViewers& m_viewers;
     OsgScene& m_scene;
     std::map<NodeId, Watched> m_watched;
+    Stamps m_present; // kept for its memory
     std::vector<osg::Camera*> m_roots;
 };
 

@@ -133,15 +133,10 @@ std::vector<std::uint8_t> narrowed(const std::vector<std::uint8_t>& bytes, const
     return narrow;
 }
 
-std::optional<std::vector<std::uint8_t>> writtenBytes(osgDB::BaseSerializer& serializer,
-                                                      const osg::Object& object)
+const std::vector<std::uint8_t>* writtenBytes(osgDB::BaseSerializer& serializer, const osg::Object& object)
 {
-    osg::ref_ptr<ByteOutput> bytes = new ByteOutput;
-    osgDB::OutputStream stream(nullptr);
-    stream.setOutputIterator(bytes);
-    if (!serializer.write(stream, object))
-        return std::nullopt;
-    return bytes->bytes();
+    static auto* const writer = new ByteWriter; // reachable until the end, whatever ends first
+    return writer->write(serializer, object);
 }
 
 class NumberProperty : public OsgProperty
@@ -164,14 +159,14 @@ public:
 
     std::optional<Value> read(osg::Object& object, OsgObjects&) const override
     {
-        std::optional<std::vector<std::uint8_t>> bytes = writtenBytes(*m_serializer, object);
+        const std::vector<std::uint8_t>* bytes = writtenBytes(*m_serializer, object);
         if (!bytes)
             return std::nullopt;
         if (m_shape.kind == ValueKind::String)
             return packedText({bytes->begin(), bytes->end()});
         if (m_shape.bytes)
             return Value{m_shape.kind, m_shape.list, widened(*bytes, m_shape)};
-        Value value{kind(), m_shape.list, std::move(*bytes)};
+        Value value{kind(), m_shape.list, *bytes};
         noteUnnamed(value);
         return value;
     }
@@ -186,6 +181,12 @@ public:
             return "“" + name() + "” takes " + std::to_string(m_shape.elements) +
                    " numbers, each within its range.";
         return read(object, std::move(*bytes));
+    }
+
+    void stamp(osg::Object& object, OsgObjects&, std::vector<std::uint8_t>& bytes) const override
+    {
+        if (const std::vector<std::uint8_t>* written = writtenBytes(*m_serializer, object))
+            appendBytes(bytes, written->data(), written->size());
     }
 
 private:
@@ -268,6 +269,12 @@ public:
         return "“" + name() + "” takes no object of type “" + next->getCompoundClassName() + "”.";
     }
 
+    void stamp(osg::Object& object, OsgObjects& objects, std::vector<std::uint8_t>& bytes) const override
+    {
+        const NodeId id = objects.id(held(object));
+        appendBytes(bytes, &id, 1);
+    }
+
 private:
     osg::Object* held(osg::Object& object) const
     {
@@ -339,14 +346,17 @@ public:
     }
 
     /// Who changes a long list has to say so, or it would not be drawn; of a short one all is compared.
-    std::optional<Value> stamp(osg::Object& object, OsgObjects& objects) const override
+    void stamp(osg::Object& object, OsgObjects&, std::vector<std::uint8_t>& bytes) const override
     {
         const auto* data = dynamic_cast<const osg::BufferData*>(&object);
         const unsigned count = m_serializer->size(object);
-        if (!data || count <= shortList)
-            return read(object, objects);
-        const std::uint32_t stamp[] = {count, data->getModifiedCount()};
-        return packedList(ValueKind::UInt32, stamp, 2);
+        if (data && count > shortList) {
+            const std::uint32_t stamp[] = {count, data->getModifiedCount()};
+            appendBytes(bytes, stamp, 2);
+        } else if (count > 0) {
+            appendBytes(bytes, static_cast<const std::uint8_t*>(m_serializer->getElement(object, 0)),
+                        std::size_t(count) * m_serializer->getElementSize());
+        }
     }
 
 private:
@@ -378,7 +388,7 @@ public:
         return packedText(withoutName(text->text()), ValueKind::Text);
     }
 
-    std::optional<Value> stamp(osg::Object&, OsgObjects&) const override { return std::nullopt; }
+    void stamp(osg::Object&, OsgObjects&, std::vector<std::uint8_t>&) const override {}
 
 private:
     std::string withoutName(const std::string& text) const

@@ -25,6 +25,27 @@ std::string shortest(T number)
 
 } // namespace
 
+ByteWriter::ByteWriter()
+{
+    makeStream();
+}
+
+const std::vector<std::uint8_t>* ByteWriter::write(osgDB::BaseSerializer& serializer,
+                                                   const osg::Object& object)
+{
+    m_bytes->clear();
+    const bool written = serializer.write(*m_stream, object);
+    if (m_stream->getException()) // it stays, and would be taken for the next one's
+        makeStream();
+    return written ? &m_bytes->bytes() : nullptr;
+}
+
+void ByteWriter::makeStream()
+{
+    m_stream = std::make_unique<osgDB::OutputStream>(nullptr);
+    m_stream->setOutputIterator(m_bytes);
+}
+
 ByteInput::ByteInput(std::vector<std::uint8_t> bytes)
     : m_bytes(std::move(bytes))
 {

@@ -3,9 +3,11 @@
 
 #include <osgDB/InputStream>
 #include <osgDB/OutputStream>
+#include <osgDB/Serializer>
 #include <osgDB/StreamOperator>
 
 #include <cstdint>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,6 +20,7 @@ class ByteOutput : public osgDB::OutputIterator
 {
 public:
     const std::vector<std::uint8_t>& bytes() const { return m_bytes; }
+    void clear() { m_bytes.clear(); }
 
     bool isBinary() const override { return true; }
     void writeBool(bool b) override { put(b); }
@@ -55,6 +58,22 @@ private:
     }
 
     std::vector<std::uint8_t> m_bytes;
+};
+
+/// Writes with serializers again and again, with one stream, which is dear to make. For one thread.
+class ByteWriter
+{
+public:
+    ByteWriter();
+
+    /// What the serializer writes of the object, until it is called again; none where it failed.
+    const std::vector<std::uint8_t>* write(osgDB::BaseSerializer& serializer, const osg::Object& object);
+
+private:
+    osg::ref_ptr<ByteOutput> m_bytes = new ByteOutput;
+    std::unique_ptr<osgDB::OutputStream> m_stream;
+
+    void makeStream();
 };
 
 /// Gives a serializer what `ByteOutput` took. Where there is less than it asks for it gets zeros, and

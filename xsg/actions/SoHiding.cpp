@@ -16,6 +16,13 @@ void SoHiding::isolate(const std::vector<const SoNode*>& nodes)
     ++m_version;
 }
 
+void SoHiding::showLike(const SoHiding& other)
+{
+    m_version += m_hidden == other.m_hidden && m_isolated == other.m_isolated ? 0 : 1;
+    m_hidden = other.m_hidden;
+    m_isolated = other.m_isolated;
+}
+
 void SoHiding::showAllBut(const std::unordered_set<std::uint64_t>& numbers)
 {
     m_version += isEmpty() ? 0 : 1;

@@ -22,6 +22,8 @@ public:
     /// Nothing is hidden and nothing isolated; of what is hidden, nodes of these numbers stay so.
     void clear() { showAllBut({}); }
     void showAllBut(const std::unordered_set<std::uint64_t>& numbers);
+    /// Just what the other one shows.
+    void showLike(const SoHiding& other);
     bool isEmpty() const { return m_hidden.empty() && m_isolated.empty(); }
     bool hidesAny() const { return !m_hidden.empty(); }
 

@@ -40,6 +40,16 @@ std::string percent(double share)
     return std::to_string(static_cast<int>(share * 100 + 0.5)) + " %";
 }
 
+std::string filled(std::string text, const std::vector<std::string>& arguments)
+{
+    for (std::size_t i = 0; i < arguments.size(); ++i)
+        text.replace(text.find('%' + std::to_string(i + 1)), 2, arguments[i]);
+    return text;
+}
+
+// Marks what is translated where it is shown; nothing here knows Qt.
+#define QT_TRANSLATE_NOOP(context, text) text
+
 class HintFinder
 {
 public:
@@ -63,10 +73,12 @@ public:
             if (branch.isUnseen && !isBelowUnseen(branch))
                 addUnseen(branch);
         }
-        findEqual<SoMaterial>(SoCostHint::EqualMaterials,
-                              "materials are equal; one could serve all of them.");
-        findEqual<SoPoints>(SoCostHint::EqualMeshes,
-                            "lists of points are equal; one could serve all of them.");
+        findEqual<SoMaterial>(
+            SoCostHint::EqualMaterials,
+            QT_TRANSLATE_NOOP("CostHint", "%1 materials are equal; one could serve all of them."));
+        findEqual<SoPoints>(
+            SoCostHint::EqualMeshes,
+            QT_TRANSLATE_NOOP("CostHint", "%1 lists of points are equal; one could serve all of them."));
         std::stable_sort(m_hints.begin(), m_hints.end(),
                          [](const SoCostHint& a, const SoCostHint& b) { return a.weight > b.weight; });
         return std::move(m_hints);
@@ -94,9 +106,10 @@ private:
                                 return other.parent == static_cast<int>(place) && isLarge(other, count, many);
                             });
     }
-    void add(SoCostHint::Kind kind, const SoBranchCost& branch, double weight, std::string sentence)
+    void add(SoCostHint::Kind kind, const SoBranchCost& branch, double weight, const char* pattern,
+             std::vector<std::string> arguments)
     {
-        m_hints.push_back({kind, branch.node, weight, std::move(sentence)});
+        m_hints.push_back({kind, branch.node, weight, filled(pattern, arguments), pattern, arguments});
     }
     void lookAtPicture(const SoBranchCost& branch)
     {
@@ -107,36 +120,41 @@ private:
         const double share = static_cast<double>(branch.pictureBytes) /
                              static_cast<double>(std::max<std::int64_t>(root().pictureBytes, 1));
         add(SoCostHint::LargePicture, branch, PerMegabyte * static_cast<double>(branch.pictureBytes) / 1e6,
-            "Its picture has " + number(branch.pictureWidth) + " × " + number(branch.pictureHeight) +
-                " pixels, more than the view's " + number(m_width) + " × " + number(m_height) +
-                ", and takes " + megabytes(branch.pictureBytes) + ", " + percent(share) +
-                " of all pictures; a smaller one would look the same.");
+            QT_TRANSLATE_NOOP("CostHint", "Its picture has %1 × %2 pixels, more than the view's %3 × %4, and "
+                                          "takes %5, %6 of all pictures; a smaller one would look the same."),
+            {number(branch.pictureWidth), number(branch.pictureHeight), number(m_width), number(m_height),
+             megabytes(branch.pictureBytes), percent(share)});
     }
     void lookAtShapes(const SoBranchCost& branch)
     {
         add(SoCostHint::SmallShapes, branch, PerShape * static_cast<double>(branch.smallShapes),
-            number(branch.smallShapes) + " bodies with fewer than 100 triangles are below it, " +
-                percent(static_cast<double>(branch.smallShapes) / static_cast<double>(root().shapes)) +
-                " of all bodies; joined to one, they would be drawn at once.");
+            QT_TRANSLATE_NOOP("CostHint", "%1 bodies with fewer than 100 triangles are below it, %2 of all "
+                                          "bodies; joined to one, they would be drawn at once."),
+            {number(branch.smallShapes),
+             percent(static_cast<double>(branch.smallShapes) / static_cast<double>(root().shapes))});
     }
     void lookAtTriangles(const SoBranchCost& branch)
     {
         const double share = static_cast<double>(branch.triangles) /
                              static_cast<double>(std::max<std::int64_t>(root().triangles, 1));
         add(SoCostHint::ManyTriangles, branch, PerTriangle * static_cast<double>(branch.triangles),
-            "It has " + percent(share) + " of all triangles, " + number(branch.triangles) + " of " +
-                number(root().triangles) +
-                (branch.hasLevels ? "." : "; levels of detail would draw fewer from far away."));
+            branch.hasLevels ? QT_TRANSLATE_NOOP("CostHint", "It has %1 of all triangles, %2 of %3.")
+                             : QT_TRANSLATE_NOOP(
+                                   "CostHint", "It has %1 of all triangles, %2 of %3; levels of detail would "
+                                               "draw fewer from far away."),
+            {percent(share), number(branch.triangles), number(root().triangles)});
     }
     void addUnseen(const SoBranchCost& branch)
     {
         add(SoCostHint::Unseen, branch,
             branch.getTime() + PerTriangle * static_cast<double>(branch.triangles),
-            "It is drawn, " + number(branch.triangles) +
-                " triangles, and the picture is the same without it; hide it, or cut what is behind others.");
+            QT_TRANSLATE_NOOP("CostHint",
+                              "It is drawn, %1 triangles, and the picture is the same without it; "
+                              "hide it, or cut what is behind others."),
+            {number(branch.triangles)});
     }
     template <class Node>
-    void findEqual(SoCostHint::Kind kind, const char* what)
+    void findEqual(SoCostHint::Kind kind, const char* pattern)
     {
         std::map<std::string, std::vector<const SoBranchCost*>> all;
         for (const SoBranchCost& branch : m_costs.branches) {
@@ -146,8 +164,8 @@ private:
         for (const auto& [text, equal] : all) {
             const auto count = static_cast<std::int64_t>(equal.size());
             if (count >= ManyEqual)
-                add(kind, *equal.front(), 0.01 * PerShape * static_cast<double>(count),
-                    number(count) + " " + what);
+                add(kind, *equal.front(), 0.01 * PerShape * static_cast<double>(count), pattern,
+                    {number(count)});
         }
     }
     static std::string textOf(const SoNode& node)

@@ -14,14 +14,6 @@ constexpr std::size_t MostChildren = 32;
 constexpr int MostHidden = 32;
 constexpr std::int64_t FewTriangles = 200; // not worth hiding
 
-SoCosts countShown(SoNode* root, const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden)
-{
-    SoHiding hiding;
-    for (const SoNode* node : hidden)
-        hiding.setHidden(node, true);
-    return countCosts(root, reader, &hiding);
-}
-
 // In milliseconds, of what is known.
 SoFrameSummary summaryOf(const std::vector<SoFrame>& frames, SoFrame::Figure figure)
 {
@@ -36,10 +28,11 @@ SoFrameSummary summaryOf(const std::vector<SoFrame>& frames, SoFrame::Figure fig
 } // namespace
 
 SoCostMeter::SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
-                         const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden)
+                         const SoFittingImageReader& reader, const SoHiding& hiding)
     : m_root(root)
-    , m_pictures(root, camera, width, height, reader, hidden)
-    , m_costs(countShown(root, reader, hidden))
+    , m_hiding(hiding)
+    , m_pictures(root, camera, width, height, reader, hiding)
+    , m_costs(countCosts(root, reader, &hiding))
 {
     m_numAsked = 2;
 }
@@ -135,7 +128,31 @@ void SoCostMeter::show()
     if (m_stage == Stage::Unseen)
         m_pictures.hide(node);
     else
-        m_pictures.isolate(node);
+        m_pictures.isolate(seenOf(m_branch));
+}
+
+// The branch, or those below it that alone are seen.
+std::vector<const SoNode*> SoCostMeter::seenOf(int branch) const
+{
+    const auto at = [this](int i) -> const SoBranchCost& {
+        return m_costs.branches[static_cast<std::size_t>(i)];
+    };
+    const auto isBelow = [&](int i, const auto& isTop) {
+        while (i >= 0 && !isTop(i))
+            i = at(i).parent;
+        return i >= 0;
+    };
+    const auto isIsolated = [&](int i) { return m_hiding.isIsolated(at(i).node.get()); };
+    if (!m_hiding.isIsolating() || isBelow(branch, isIsolated))
+        return {at(branch).node.get()};
+    std::vector<const SoNode*> seen;
+    for (int i = branch; i < static_cast<int>(m_costs.branches.size()); ++i) {
+        if (isIsolated(i) && isBelow(i, [branch](int each) { return each == branch; }))
+            seen.push_back(at(i).node.get());
+    }
+    if (seen.empty()) // it is counted where it stands elsewhere
+        seen.push_back(at(branch).node.get());
+    return seen;
 }
 
 // The heaviest of the branch's children that draw something.

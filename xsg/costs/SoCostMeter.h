@@ -15,13 +15,14 @@
 ///         ...
 ///     use(meter.getCosts());
 ///
-/// The scene must not change meanwhile. On the scene's thread.
+/// Where only some nodes are seen, the figures of a node that the scene contains elsewhere too are those of
+/// all its places. The scene must not change meanwhile. On the scene's thread.
 class XSG_API SoCostMeter
 {
 public:
     /// As for SoCostPictures. The scene is counted at once.
     SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
-                const SoFittingImageReader& reader = {}, const std::vector<const SoNode*>& hidden = {});
+                const SoFittingImageReader& reader = {}, const SoHiding& hiding = {});
 
     /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
     bool step();
@@ -42,8 +43,10 @@ private:
     void findPartsToHide();
     void sumUp();
     void show();
+    std::vector<const SoNode*> seenOf(int branch) const;
 
     SoRef<SoNode> m_root;
+    SoHiding m_hiding; // from the start
     SoCostPictures m_pictures;
     std::vector<unsigned char> m_whole; // the picture of all
     SoCosts m_costs;

@@ -2,16 +2,14 @@
 #include <xsg/costs/SoCostPictures.h>
 
 SoCostPictures::SoCostPictures(SoNode* root, const SoCamera* camera, int width, int height,
-                               const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden)
+                               const SoFittingImageReader& reader, const SoHiding& hiding)
     : m_root(root)
     , m_camera(const_cast<SoCamera*>(camera))
     , m_width(width)
     , m_height(height)
+    , m_hiddenAlways(hiding)
+    , m_hiding(hiding)
 {
-    for (const SoNode* node : hidden) {
-        m_hiding.setHidden(node, true);
-        m_hidden.insert(node->getNodeId());
-    }
     m_log.addUser();
     m_log.setTimesEach(true);
     m_renderer.setSamples(1);
@@ -24,7 +22,7 @@ SoCostPictures::SoCostPictures(SoNode* root, const SoCamera* camera, int width, 
 void SoCostPictures::showAll()
 {
     m_numbers.clear();
-    m_hiding.showAllBut(m_hidden);
+    m_hiding.showLike(m_hiddenAlways);
 }
 
 void SoCostPictures::hide(const SoNode* node)
@@ -33,10 +31,10 @@ void SoCostPictures::hide(const SoNode* node)
     m_hiding.setHidden(node, true);
 }
 
-void SoCostPictures::isolate(const SoNode* node)
+void SoCostPictures::isolate(const std::vector<const SoNode*>& nodes)
 {
     showAll();
-    m_hiding.isolate({node});
+    m_hiding.isolate(nodes);
 }
 
 bool SoCostPictures::draw(bool countsPixels)

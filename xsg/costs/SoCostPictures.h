@@ -6,23 +6,21 @@
 #include <xsg/nodes/cameras/SoCamera.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
-#include <unordered_set>
-
 /// Draws pictures of a scene, perhaps of parts of it, and tells what each of them took. They are drawn in
 /// runs: the first of a run fills caches, the last waits for the graphics card's answers, and those between
 /// them are told. On the scene's thread.
 class XSG_API SoCostPictures
 {
 public:
-    /// As for SoRenderer::render(). What `hidden` hides and the scene contains is never drawn.
+    /// As for SoRenderer::render(). What `hiding` leaves out is never drawn. It is copied.
     SoCostPictures(SoNode* root, const SoCamera* camera, int width, int height,
-                   const SoFittingImageReader& reader, const std::vector<const SoNode*>& hidden = {});
+                   const SoFittingImageReader& reader, const SoHiding& hiding = {});
 
     /// From the next picture on, another run: of all.
     void showAll();
-    /// The same of all but this node, or of nothing but it.
+    /// The same of all but this node, or of nothing but these, which are seen from the start.
     void hide(const SoNode* node);
-    void isolate(const SoNode* node);
+    void isolate(const std::vector<const SoNode*>& nodes);
 
     /// False where nothing can be drawn: getErrorText() then says why.
     bool draw(bool countsPixels = false);
@@ -39,8 +37,8 @@ private:
     SoRef<SoCamera> m_camera;
     int m_width;
     int m_height;
-    std::unordered_set<std::uint64_t> m_hidden; // from the start
-    SoHiding m_hiding;
+    SoHiding m_hiddenAlways;
+    SoHiding m_hiding; // of the run
     SoFrameLog m_log;
     SoOffscreenRenderer m_renderer;
     SoPixels m_pixels;

@@ -62,6 +62,9 @@ struct SoCostHint {
     SoRef<SoNode> node;
     double weight = 0;    // milliseconds that it may take, roughly: the heaviest comes first
     std::string sentence; // without the node's name
+    // What the sentence is made of: a text with "%1" and so on, in the translators' context "CostHint".
+    const char* pattern = nullptr;
+    std::vector<std::string> arguments;
 };
 
 /// The heaviest first. `pictureWidth` and `pictureHeight` are the view's, in pixels.

@@ -17,10 +17,9 @@ double millisecondsOf(const SoFrame& frame)
 } // namespace
 
 SoWhatIfMeter::SoWhatIfMeter(SoNode* root, const SoNode* without, const SoCamera* camera, int width,
-                             int height, const SoFittingImageReader& reader,
-                             const std::vector<const SoNode*>& hidden)
+                             int height, const SoFittingImageReader& reader, const SoHiding& hiding)
     : m_without(const_cast<SoNode*>(without))
-    , m_pictures(root, camera, width, height, reader, hidden)
+    , m_pictures(root, camera, width, height, reader, hiding)
 {
     beginRun();
 }

@@ -12,7 +12,7 @@ class XSG_API SoWhatIfMeter
 public:
     /// As for SoCostPictures.
     SoWhatIfMeter(SoNode* root, const SoNode* without, const SoCamera* camera, int width, int height,
-                  const SoFittingImageReader& reader = {}, const std::vector<const SoNode*>& hidden = {});
+                  const SoFittingImageReader& reader = {}, const SoHiding& hiding = {});
 
     /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
     bool step();

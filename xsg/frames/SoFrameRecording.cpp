@@ -4,27 +4,64 @@
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 #include <utility>
 
 namespace
 {
 
+bool isScale(const std::string& unit)
+{
+    return !unit.empty() && unit.front() == '/';
+}
+
+// What files may hold is no number perhaps.
+double scaleOf(const std::string& unit)
+{
+    double scale = 1;
+    if (isScale(unit))
+        std::from_chars(unit.data() + 1, unit.data() + unit.size(), scale);
+    return scale > 0 ? scale : 1;
+}
+
+std::string unitOf(const SoPerfCounter& counter)
+{
+    char number[32];
+    const double scale = counter.getScaleFactor();
+    const auto end = std::to_chars(std::begin(number), std::end(number), scale).ptr;
+    return scale == 1 ? std::string() : "/" + std::string(number, end);
+}
+
 SoFrameColumn columnOf(SbName name)
 {
     const SoPerfCounter* counter = SoPerfCounterManager::getInstance()->getCounter(name);
-    return {name.getString(), "", counter && counter->getTypeCode() == SbString("S"), {}};
+    return {name.getString(),
+            counter ? unitOf(*counter) : "",
+            counter && counter->getTypeCode() == SbString("S"),
+            {}};
 }
 
 } // namespace
+
+double SoFrameColumn::getShown(std::int64_t value) const
+{
+    const auto number = static_cast<double>(value);
+    return unit == "ns" ? number * 1e-6 : number / scaleOf(unit);
+}
+
+std::string SoFrameColumn::getShownUnit() const
+{
+    return unit == "ns" ? "ms" : isScale(unit) ? "" : unit;
+}
 
 std::vector<double> SoFrameColumn::getKnown() const
 {
     std::vector<double> known;
     known.reserve(values.size());
-    const double scale = unit == "ns" ? 1e-6 : 1;
     for (const std::int64_t value : values) {
         if (isKnown(value))
-            known.push_back(static_cast<double>(value) * scale);
+            known.push_back(getShown(value));
     }
     return known;
 }

@@ -8,7 +8,7 @@
 /// Numbers of one kind, one for each frame.
 struct XSG_API SoFrameColumn {
     std::string name; // of a figure or of a counter
-    std::string unit; // "ns", "B", or "" for counts
+    std::string unit; // "ns", "B", or "" for counts; "/N" where a count is N times what it tells
     bool isState = false;
     std::vector<std::int64_t> values;
 
@@ -16,6 +16,10 @@ struct XSG_API SoFrameColumn {
     {
         return value != SoFrame::Missing && (unit != "ns" || value != SoFrame::Unknown);
     }
+    /// A value as it is shown: times in milliseconds, and what a counter with a scale tells.
+    double getShown(std::int64_t value) const;
+    /// "ms", "B", or "".
+    std::string getShownUnit() const;
     /// The values as doubles, those that are unknown left out: in milliseconds where they are times.
     std::vector<double> getKnown() const;
 };

@@ -124,8 +124,8 @@ QString listSummary(const SoField& list)
     QString text = count == 1 ? tr("1 value") : tr("%1 values").arg(QLocale::c().toString(count));
     const std::optional<ListRange> range = rangeOf(list);
     if (range)
-        text +=
-            tr(", %1 to %2").arg(SpxText::ofNumber(float(range->low)), SpxText::ofNumber(float(range->high)));
+        text = tr("%1, %2 to %3")
+                   .arg(text, SpxText::ofNumber(float(range->low)), SpxText::ofNumber(float(range->high)));
     QStringList first;
     for (int i = 0; i < std::min(count, FirstValues); ++i) {
         SbString value;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <string_view>
 #include <vector>
 
@@ -14,8 +16,11 @@ namespace inspector
 struct NodeDescription {
     std::string_view group; // the heading on the page
     std::string_view node;
-    std::string_view meaning;
+    std::string_view meaning; // in English
 };
+
+/// In the user's language.
+QString meaningOf(const NodeDescription& description);
 
 const std::vector<NodeDescription>& allNodeDescriptions();
 /// Null for a type that the table does not know.

@@ -51,9 +51,10 @@ QString rangeOf(const SpxFieldDescription& description)
     return parts.join(QStringLiteral("; "));
 }
 
-QString textOf(std::string_view view)
+// Of the table, whose texts are literals.
+QString textOf(std::string_view text)
 {
-    return QString::fromUtf8(view.data(), int(view.size()));
+    return text.empty() ? QString() : QCoreApplication::translate("Field", text.data());
 }
 
 QString typeOf(const SoField& field)
@@ -62,6 +63,16 @@ QString typeOf(const SoField& field)
 }
 
 } // namespace
+
+QString headingOf(const SpxFieldDescription& description)
+{
+    return textOf(description.heading);
+}
+
+QString meaningOf(const SpxFieldDescription& description)
+{
+    return textOf(description.meaning);
+}
 
 QString unitOf(const SpxFieldDescription& description)
 {
@@ -87,7 +98,7 @@ QString toolTipOf(const SoField& field, const SpxFieldDescription* description)
     QStringList lines{
         QStringLiteral("<b>%1</b> (%2)").arg(SpxText::toQString(field.getName()), typeOf(field))};
     if (description) {
-        lines += textOf(description->meaning).toHtmlEscaped();
+        lines += meaningOf(*description).toHtmlEscaped();
         const QString unit = unitOf(*description);
         if (!unit.isEmpty())
             lines += tr("Unit: %1").arg(unit.toHtmlEscaped());
@@ -105,8 +116,7 @@ QString spokenMeaningOf(const SoField& field, const SpxFieldDescription* descrip
 {
     QStringList parts{typeOf(field)};
     if (description) {
-        for (const QString& part :
-             {unitOf(*description), rangeOf(*description), textOf(description->meaning)}) {
+        for (const QString& part : {unitOf(*description), rangeOf(*description), meaningOf(*description)}) {
             if (!part.isEmpty())
                 parts += part;
         }

@@ -253,6 +253,15 @@ void FieldPanel::rebuild()
     m_rows->rebuild();
 }
 
+void FieldPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    rebuild();
+    showPlace();
+}
+
 void FieldPanel::setPinnable(bool pinnable)
 {
     m_pin->setVisible(pinnable);
@@ -297,10 +306,8 @@ void FieldPanel::showPlace()
     m_title->setText(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
                      (label == type ? QString() : QStringLiteral(" &nbsp;") + type.toHtmlEscaped()));
     const NodeDescription* known = findNodeDescription(*node());
-    m_title->setToolTip(
-        QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
-        (known ? QStringLiteral("<br>") + QString::fromUtf8(known->meaning.data()).toHtmlEscaped()
-               : QString()));
+    m_title->setToolTip(QStringLiteral("<b>%1</b>").arg(label.toHtmlEscaped()) +
+                        (known ? QStringLiteral("<br>") + meaningOf(*known).toHtmlEscaped() : QString()));
     const SpxSceneServices* scene = SpxSceneServices::getInstance();
     const SoPath path = scene ? scene->getSelectedPath() : SoPath();
     if (path.isEmpty() || path.getTail() != node())

@@ -4,6 +4,7 @@
 #include "fields/FieldKind.h"
 #include "fields/FieldOrder.h"
 #include "fields/FieldText.h"
+#include "fields/ToolTip.h"
 #include "rows/Row.h"
 #include "rows/RowFactory.h"
 
@@ -28,6 +29,12 @@ constexpr int Margin = 6;
 constexpr int Space = 3;
 constexpr int NarrowInCharacters = 46;
 constexpr int NarrowForColors = 60;
+
+QString headingAbove(const SoField& field)
+{
+    const SpxFieldDescription* known = SpxFieldDescription::find(field);
+    return known ? headingOf(*known) : QString();
+}
 
 } // namespace
 
@@ -88,9 +95,7 @@ void RowList::setNodes(const std::vector<SoFieldContainer*>& nodes)
         item.field = field;
         if (!addOthers(item, nodes))
             continue;
-        const SpxFieldDescription* known = SpxFieldDescription::find(*field);
-        if (known)
-            item.heading = QString::fromUtf8(known->heading.data(), int(known->heading.size()));
+        item.heading = headingAbove(*field);
         describe(item);
         m_items.push_back(std::move(item));
     }
@@ -132,8 +137,10 @@ void RowList::compareWith(SoFieldContainer* other)
 void RowList::rebuild()
 {
     finish();
-    for (Item& item : m_items)
+    for (Item& item : m_items) {
         delete item.row;
+        item.heading = item.field.get() ? headingAbove(*item.field.get()) : QString();
+    }
     placeItems();
 }
 
@@ -192,7 +199,7 @@ bool RowList::passes(const Item& item) const
     const QString text = SpxText::toQString(field->getName()) + QLatin1Char(' ') +
                          SpxText::toQString(field->getTypeId().getName()) + QLatin1Char(' ') +
                          summary(*field) + QLatin1Char(' ') + item.heading + QLatin1Char(' ') +
-                         (known ? QString::fromUtf8(known->meaning.data()) : QString());
+                         (known ? meaningOf(*known) : QString());
     const QStringList words = m_filter.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });

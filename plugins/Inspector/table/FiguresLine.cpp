@@ -77,14 +77,12 @@ void FiguresLine::goOn()
 
 QString FiguresLine::textOf(const ColumnFigures& figures) const
 {
-    QString text = figures.count ? tr("%1 to %2, mean %3")
-                                       .arg(QString::number(figures.least, 'g', 6),
-                                            QString::number(figures.greatest, 'g', 6),
-                                            QString::number(figures.mean(), 'g', 6))
-                                 : tr("no numbers");
-    if (figures.nanCount)
-        text += tr(", %1 NaN").arg(figures.nanCount);
-    return text;
+    const QString text = figures.count ? tr("%1 to %2, mean %3")
+                                             .arg(QString::number(figures.least, 'g', 6),
+                                                  QString::number(figures.greatest, 'g', 6),
+                                                  QString::number(figures.mean(), 'g', 6))
+                                       : tr("no numbers");
+    return figures.nanCount ? tr("%1, %2 NaN").arg(text, QString::number(figures.nanCount)) : text;
 }
 
 void FiguresLine::showFigures()

@@ -264,17 +264,16 @@ void ListTable::showCaption()
         return;
     }
     const int count = shown->getNum();
-    QString text = tr("%1 · %2 · %3")
-                       .arg(m_standsAlone ? pathOf(*shown) : SpxText::toQString(shown->getName()),
-                            SpxText::toQString(shown->getTypeId().getName()),
-                            count == 1 ? tr("1 value") : tr("%1 values").arg(count));
+    QStringList parts{m_standsAlone ? pathOf(*shown) : SpxText::toQString(shown->getName()),
+                      SpxText::toQString(shown->getTypeId().getName()),
+                      count == 1 ? tr("1 value") : tr("%1 values").arg(count)};
     if (shown->isIgnored())
-        text += tr(" · ignored");
+        parts += tr("ignored");
     if (shown->isConnected())
-        text += tr(" · connected");
+        parts += tr("connected");
     if (!m_view.rows().order().isNatural())
-        text += tr(" · %1 shown").arg(m_view.rows().count());
-    m_caption->setText(text);
+        parts += tr("%1 shown").arg(m_view.rows().count());
+    m_caption->setText(parts.join(QStringLiteral(" · ")));
 }
 
 void ListTable::say(const QString& sentence)

@@ -244,11 +244,17 @@ QAction* ListTableView::actionFor(const QKeyEvent& event) const
 // The window's shortcuts give way to the table's own keys while it has the focus.
 bool ListTableView::event(QEvent* event)
 {
-    if (event->type() == QEvent::ShortcutOverride && actionFor(*static_cast<QKeyEvent*>(event))) {
+    if (event->type() == QEvent::ShortcutOverride && isOwnKey(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }
     return QAbstractScrollArea::event(event);
+}
+
+bool ListTableView::isOwnKey(const QKeyEvent& event) const
+{
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    return isTab || actionFor(event);
 }
 
 void ListTableView::keyPressEvent(QKeyEvent* event)

@@ -95,6 +95,7 @@ private:
     void selectionHasChanged();
     TableKeys keys() const;
     QAction* actionFor(const QKeyEvent& event) const;
+    bool isOwnKey(const QKeyEvent& event) const;
     bool navigate(const QKeyEvent& event);
     void goOn(CellEditor::End end);
     void showToolTip(const QHelpEvent& event);

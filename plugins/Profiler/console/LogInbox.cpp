@@ -44,6 +44,13 @@ std::int64_t now()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
+std::string_view withoutReturn(std::string_view line)
+{
+    if (!line.empty() && line.back() == '\r')
+        line.remove_suffix(1);
+    return line;
+}
+
 std::string nameOfThisThread()
 {
     char name[16] = {};
@@ -62,43 +69,51 @@ LogInbox::LogInbox(std::function<void()> wake, std::uint64_t mostLines)
 void LogInbox::written(Stream stream, const char* text, std::size_t length)
 {
     const std::lock_guard lock(m_mutex);
+    m_now = now();
     Thread& thread = thisThread();
     OpenLine& open = thread.open[int(stream)];
-    std::string_view rest(text, length);
-    for (std::size_t end = rest.find('\n'); end != rest.npos; end = rest.find('\n')) {
-        extend(open, rest.substr(0, end), kindOf(stream), thread.number);
-        this->end(open, kindOf(stream), thread.number);
-        rest.remove_prefix(end + 1);
+    const std::string_view rest =
+        addLines(open, std::string_view(text, length), kindOf(stream), thread.number);
+    if (!rest.empty()) {
+        extend(open, rest, kindOf(stream), thread.number);
+        open.touched = Clock::now();
     }
-    extend(open, rest, kindOf(stream), thread.number);
     wake();
 }
 
 void LogInbox::reported(const SoError& error)
 {
     const std::lock_guard lock(m_mutex);
-    addLines(error.getDebugString().getString(), kindOf(error), thisThread().number);
+    m_now = now();
+    const std::uint16_t thread = thisThread().number;
+    OpenLine line;
+    const std::string_view rest = addLines(line, error.getDebugString().getString(), kindOf(error), thread);
+    endWith(line, rest, kindOf(error), thread);
     wake();
 }
 
-void LogInbox::addLines(std::string_view text, LogKind kind, std::uint16_t thread)
+// Returns what stands behind the last line end.
+std::string_view LogInbox::addLines(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread)
 {
-    OpenLine line;
     for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n')) {
-        extend(line, text.substr(0, end), kind, thread);
-        this->end(line, kind, thread);
+        endWith(line, text.substr(0, end), kind, thread);
         text.remove_prefix(end + 1);
     }
+    return text;
+}
+
+// Most lines come whole, and are copied once.
+void LogInbox::endWith(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread)
+{
+    if (line.text.empty() && !line.isPiece && text.size() <= LogChunk::LongestLine)
+        return add(withoutReturn(text), kind, thread);
     extend(line, text, kind, thread);
-    this->end(line, kind, thread);
+    end(line, kind, thread);
 }
 
 // An open line never grows beyond what a line may have.
 void LogInbox::extend(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread)
 {
-    if (text.empty())
-        return;
-    line.touched = Clock::now();
     while (line.text.size() + text.size() > LogChunk::LongestLine) {
         const std::size_t fitting = LogChunk::LongestLine - line.text.size();
         line.text += text.substr(0, fitting);
@@ -111,10 +126,9 @@ void LogInbox::extend(OpenLine& line, std::string_view text, LogKind kind, std::
 
 void LogInbox::end(OpenLine& line, LogKind kind, std::uint16_t thread)
 {
-    if (!line.text.empty() && line.text.back() == '\r')
-        line.text.pop_back();
-    if (!line.text.empty() || !line.isPiece)
-        add(line.text, kind, thread);
+    const std::string_view text = withoutReturn(line.text);
+    if (!text.empty() || !line.isPiece)
+        add(text, kind, thread);
     line.text.clear();
     line.isPiece = false;
 }
@@ -122,8 +136,8 @@ void LogInbox::end(OpenLine& line, LogKind kind, std::uint16_t thread)
 void LogInbox::add(std::string_view line, LogKind kind, std::uint16_t thread)
 {
     if (m_batch.chunks.empty() || m_batch.chunks.back().isFull())
-        m_batch.chunks.emplace_back();
-    m_batch.chunks.back().append(line, kind, thread, now());
+        addChunk();
+    m_batch.chunks.back().append(line, kind, thread, m_now);
     ++m_lines;
     m_bytes += line.size() + sizeof(LogLine);
     while (m_batch.chunks.size() > 1 && (m_lines > m_mostLines || m_bytes > LogStore::MostBytes)) {
@@ -133,6 +147,15 @@ void LogInbox::add(std::string_view line, LogKind kind, std::uint16_t thread)
         m_bytes -= std::min(m_bytes, oldest.allText().size() + oldest.size() * sizeof(LogLine));
         m_batch.chunks.pop_front();
     }
+}
+
+// Where one has become full, the next one will.
+void LogInbox::addChunk()
+{
+    LogChunk chunk;
+    if (!m_batch.chunks.empty())
+        chunk.reserveLike(m_batch.chunks.back());
+    m_batch.chunks.push_back(std::move(chunk));
 }
 
 LogInbox::Batch LogInbox::take()
@@ -148,6 +171,7 @@ bool LogInbox::endLines(Clock::time_point since)
 {
     const std::lock_guard lock(m_mutex);
     bool hasOthers = false;
+    m_now = now();
     for (auto& [id, thread] : m_threads) {
         for (int stream = 0; stream < 3; ++stream) {
             OpenLine& open = thread.open[stream];
@@ -173,6 +197,15 @@ std::string LogInbox::nameOfThread(std::uint16_t thread) const
 LogInbox::Thread& LogInbox::thisThread()
 {
     const auto id = std::this_thread::get_id();
+    if (m_latest && m_latestId == id)
+        return *m_latest;
+    m_latest = &findThread(id);
+    m_latestId = id;
+    return *m_latest;
+}
+
+LogInbox::Thread& LogInbox::findThread(std::thread::id id)
+{
     const auto found = m_threads.find(id);
     if (found != m_threads.end())
         return found->second;
@@ -189,6 +222,7 @@ LogInbox::Thread& LogInbox::thisThread()
 
 void LogInbox::forgetIdleThreads()
 {
+    m_latest = nullptr;
     for (auto each = m_threads.begin(); each != m_threads.end();) {
         const Thread& thread = each->second;
         const bool isIdle = std::all_of(std::begin(thread.open), std::end(thread.open),

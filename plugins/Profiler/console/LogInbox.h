@@ -52,9 +52,12 @@ private:
         OpenLine open[3];
     };
     Thread& thisThread();
+    Thread& findThread(std::thread::id id);
     void forgetIdleThreads();
     void add(std::string_view line, LogKind kind, std::uint16_t thread);
-    void addLines(std::string_view text, LogKind kind, std::uint16_t thread);
+    void addChunk();
+    std::string_view addLines(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread);
+    void endWith(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread);
     void end(OpenLine& line, LogKind kind, std::uint16_t thread);
     void extend(OpenLine& line, std::string_view text, LogKind kind, std::uint16_t thread);
     void wake();
@@ -63,8 +66,11 @@ private:
     const std::uint64_t m_mostLines;
     mutable std::mutex m_mutex;
     std::map<std::thread::id, Thread> m_threads;
+    std::thread::id m_latestId; // the thread that wrote last
+    Thread* m_latest = nullptr;
     std::map<std::uint16_t, std::string> m_names;
     std::uint16_t m_lastThread = 0;
+    std::int64_t m_now = 0; // of what is being written, milliseconds since 1970
     Batch m_batch;
     std::uint64_t m_lines = 0; // in the batch
     std::size_t m_bytes = 0;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ public:
     bool isFull() const { return m_lines.size() >= MostLines || m_text.size() >= MostBytes; }
     std::size_t size() const { return m_lines.size(); }
     std::size_t bytes() const { return m_text.capacity() + m_lines.capacity() * sizeof(LogLine); }
+    /// How many lines of it are of a kind.
+    std::size_t countOf(LogKind kind) const { return m_counts[std::size_t(kind)]; }
     const LogLine& line(std::size_t i) const { return m_lines[i]; }
     std::string_view text(std::size_t i) const
     {
@@ -49,12 +52,17 @@ public:
 
     /// One line, or a piece of one; text holds no line feed.
     void append(std::string_view text, LogKind kind, std::uint16_t thread, std::int64_t time);
+    /// Memory for as many lines and bytes as another has, so that a full chunk is not moved while it grows.
+    void reserveLike(const LogChunk& other);
     /// The lines of another from this one on, as far as there is room. Returns how many.
     std::size_t appendFrom(const LogChunk& other, std::size_t first);
 
 private:
+    void add(LogLine line, std::string_view text);
+
     std::string m_text;
     std::vector<LogLine> m_lines;
+    std::array<std::uint16_t, LogKinds> m_counts{};
 };
 
 } // namespace profiler

@@ -113,14 +113,17 @@ void LogModel::adopt(LogChunk&& chunk)
 
 void LogModel::note(const LogChunk& chunk, std::uint64_t first)
 {
-    for (std::size_t i = 0; i < chunk.size(); ++i) {
-        const LogKind kind = chunk.line(i).kind;
-        ++m_counts[std::size_t(kind)];
-        if (kind != LogKind::Error || m_newErrors++ > 0)
-            continue;
+    for (int kind = 0; kind < LogKinds; ++kind)
+        m_counts[std::size_t(kind)] += chunk.countOf(LogKind(kind));
+    const std::size_t errors = chunk.countOf(LogKind::Error);
+    if (errors > 0 && m_newErrors == 0) {
+        std::size_t i = 0;
+        while (chunk.line(i).kind != LogKind::Error)
+            ++i;
         m_firstError = shownText(chunk.text(i));
         m_firstErrorLine = first + i;
     }
+    m_newErrors += errors;
 }
 
 void LogModel::removeRowsBefore(std::uint64_t line)

@@ -55,6 +55,16 @@ QString captionOf(const LogTarget& target)
     return isFile ? LogPanel::tr("&Open “%1”").arg(name) : LogPanel::tr("&Go to “%1”").arg(name);
 }
 
+QString countsText(qulonglong shown, qulonglong lines, qulonglong dropped)
+{
+    if (shown == lines)
+        return dropped > 0 ? LogPanel::tr("%L1 lines, %L2 older ones gone").arg(lines).arg(dropped)
+                           : LogPanel::tr("%L1 lines").arg(lines);
+    return dropped > 0
+               ? LogPanel::tr("%L1 of %L2 lines, %L3 older ones gone").arg(shown).arg(lines).arg(dropped)
+               : LogPanel::tr("%L1 of %L2 lines").arg(shown).arg(lines);
+}
+
 } // namespace
 
 LogPanel::LogPanel(LogModel& model, QWidget* parent)
@@ -258,10 +268,7 @@ void LogPanel::showCounts()
     }
     const auto lines = qulonglong(store.end() - store.begin());
     const int shown = m_model.getRows().size();
-    QString text = qulonglong(shown) == lines ? tr("%L1 lines").arg(lines)
-                                              : tr("%L1 of %L2 lines").arg(shown).arg(lines);
-    if (store.getDropped() > 0)
-        text += tr(", %L1 older ones gone").arg(qulonglong(store.getDropped()));
+    const QString text = countsText(qulonglong(shown), lines, qulonglong(store.getDropped()));
     m_counts->setText(text);
     m_filter->setToolTip(text);
     m_counts->setToolTip(tr("The newest %L1 lines are kept, and at most %2 MB of them.")

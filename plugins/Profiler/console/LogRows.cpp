@@ -9,7 +9,8 @@ namespace profiler
 namespace
 {
 
-constexpr std::size_t FirstSeen = 1024;
+// Lines that the memory is asked for ahead of their turn.
+constexpr std::size_t Ahead = 16;
 
 } // namespace
 
@@ -18,7 +19,6 @@ void LogRows::setRule(const Rule& rule)
     m_rule = rule;
     m_rows.clear();
     m_seen.clear();
-    m_seenCount = 0;
     m_removed = 0;
     m_next = m_store.begin();
     m_contextFrom = m_next;
@@ -46,37 +46,55 @@ LogRows::News LogRows::follow()
     if (isDone())
         return news;
     const LogStore::Place place = m_store.find(m_next);
+    const LogChunk& chunk = *place.chunk;
+    const bool wantsAll = m_rule.filter.wantsAll();
     LogBits wanted;
-    m_rule.filter.apply(*place.chunk, place.line, wanted);
-    for (std::size_t i = place.line; i < place.chunk->size(); ++i, ++m_next) {
-        if (wanted[i])
-            take(news, m_next, place.chunk->line(i));
+    if (!wantsAll)
+        m_rule.filter.apply(chunk, place.line, wanted);
+    news.rows.reserve(chunk.size() - place.line);
+    for (std::size_t i = place.line; i < chunk.size(); ++i, ++m_next) {
+        if (m_rule.fold == LogFold::All && i + Ahead < chunk.size())
+            m_seen.prefetch(chunk.line(i + Ahead).hash);
+        if (wantsAll || wanted[i])
+            take(news, m_next, {&chunk, i});
         else if (m_next < m_contextTo)
             push(news, m_next, true);
     }
     return news;
 }
 
-void LogRows::take(News& news, std::uint64_t line, const LogLine& text)
+void LogRows::take(News& news, std::uint64_t line, const LogStore::Place& place)
 {
-    const auto around = std::uint64_t(m_rule.context);
-    for (std::uint64_t each = std::max({m_contextFrom, m_store.begin(), line - std::min(line, around)});
-         each < line; ++each)
-        push(news, each, true);
-    m_contextTo = line + around + 1;
-    LogRow* equal = findEqual(news, line, text.hash);
+    if (m_rule.context > 0)
+        pushBefore(news, line);
+    m_contextTo = line + std::uint64_t(m_rule.context) + 1;
+    LogRow* equal = findEqual(news, place);
     if (equal) {
         ++equal->count;
         m_contextFrom = line + 1;
     } else {
         push(news, line, false);
+        m_lastHash = place.chunk->line(place.line).hash;
     }
+}
+
+void LogRows::pushBefore(News& news, std::uint64_t line)
+{
+    const auto around = std::uint64_t(m_rule.context);
+    for (std::uint64_t each = std::max({m_contextFrom, m_store.begin(), line - std::min(line, around)});
+         each < line; ++each)
+        push(news, each, true);
 }
 
 void LogRows::push(News& news, std::uint64_t line, bool isContext)
 {
     news.rows.push_back({line, 1, isContext});
     m_contextFrom = line + 1;
+}
+
+std::uint64_t LogRows::numRowsEver(const News& news) const
+{
+    return m_removed + m_rows.size() + news.rows.size();
 }
 
 LogRow* LogRows::rowAt(News& news, std::uint64_t row)
@@ -89,64 +107,49 @@ LogRow* LogRows::rowAt(News& news, std::uint64_t row)
     return &m_rows[index];
 }
 
-LogRow* LogRows::findEqual(News& news, std::uint64_t line, std::uint32_t hash)
+LogRow* LogRows::lastRow(News& news)
+{
+    if (!news.rows.empty())
+        return &news.rows.back();
+    return m_rows.empty() ? nullptr : &m_rows.back();
+}
+
+// Rows that come with the news need no word.
+void LogRows::noteCounted(News& news, std::uint64_t row) const
+{
+    if (row - m_removed >= m_rows.size())
+        return;
+    const int counted = int(row - m_removed);
+    news.firstCounted = news.firstCounted < 0 ? counted : std::min(news.firstCounted, counted);
+    news.lastCounted = std::max(news.lastCounted, counted);
+}
+
+LogRow* LogRows::findEqual(News& news, const LogStore::Place& place)
 {
     if (m_rule.fold == LogFold::All)
-        return findSeen(news, line, hash);
-    const std::uint64_t rows = m_removed + m_rows.size() + news.rows.size();
-    LogRow* last = m_rule.fold == LogFold::Runs && rows > 0 ? rowAt(news, rows - 1) : nullptr;
-    if (!last || last->isContext || last->line < m_store.begin() || !m_store.isEqual(last->line, line))
+        return findSeen(news, place);
+    if (m_rule.fold == LogFold::None || place.chunk->line(place.line).hash != m_lastHash)
         return nullptr;
-    if (news.rows.empty())
-        news.firstCounted = news.lastCounted = int(m_rows.size()) - 1;
+    LogRow* last = lastRow(news);
+    if (!last || last->isContext || last->line < m_store.begin() || !m_store.isEqual(last->line, place))
+        return nullptr;
+    noteCounted(news, numRowsEver(news) - 1);
     return last;
 }
 
 // Notes the line as one that is about to get a row where there is none of an equal one.
-LogRow* LogRows::findSeen(News& news, std::uint64_t line, std::uint32_t hash)
+LogRow* LogRows::findSeen(News& news, const LogStore::Place& place)
 {
-    if (2 * (m_seenCount + 1) > m_seen.size())
-        growSeen();
-    const std::size_t mask = m_seen.size() - 1;
-    std::size_t i = hash & mask;
-    for (; m_seen[i].row != 0; i = (i + 1) & mask) {
-        if (m_seen[i].hash != hash)
-            continue;
-        const std::uint64_t row = m_seen[i].row - 1;
-        LogRow* seen = rowAt(news, row);
-        if (!seen || seen->line < m_store.begin() || !m_store.isEqual(seen->line, line))
-            continue;
-        if (row - m_removed < m_rows.size()) {
-            const int counted = int(row - m_removed);
-            news.firstCounted = news.firstCounted < 0 ? counted : std::min(news.firstCounted, counted);
-            news.lastCounted = std::max(news.lastCounted, counted);
-        }
-        return seen;
-    }
-    ++m_seenCount;
-    m_seen[i] = {hash, std::uint32_t(m_removed + m_rows.size() + news.rows.size() + 1)};
-    return nullptr;
-}
-
-// Without those whose rows have gone.
-void LogRows::growSeen()
-{
-    std::vector<Seen> old;
-    old.swap(m_seen);
-    const auto isKept = [this](const Seen& each) { return each.row > m_removed; };
-    m_seenCount = std::size_t(std::count_if(old.begin(), old.end(), isKept));
-    std::size_t size = FirstSeen;
-    while (size < 4 * (m_seenCount + 1))
-        size *= 2;
-    m_seen.assign(size, Seen{0, 0});
-    for (const Seen& each : old) {
-        if (!isKept(each))
-            continue;
-        std::size_t i = each.hash & (size - 1);
-        while (m_seen[i].row != 0)
-            i = (i + 1) & (size - 1);
-        m_seen[i] = each;
-    }
+    const auto isEqual = [&](std::uint64_t row) {
+        const LogRow* seen = rowAt(news, row);
+        return seen && seen->line >= m_store.begin() && m_store.isEqual(seen->line, place);
+    };
+    const std::uint32_t hash = place.chunk->line(place.line).hash;
+    const std::int64_t row = m_seen.findOrAdd(hash, numRowsEver(news), m_removed, isEqual);
+    if (row < 0)
+        return nullptr;
+    noteCounted(news, std::uint64_t(row));
+    return rowAt(news, std::uint64_t(row));
 }
 
 void LogRows::add(const std::vector<LogRow>& rows)

@@ -3,6 +3,7 @@
 
 #include "console/LogFilter.h"
 #include "console/LogStore.h"
+#include "console/RowsByHash.h"
 
 #include <deque>
 
@@ -62,16 +63,15 @@ public:
     void add(const std::vector<LogRow>& rows);
 
 private:
-    struct Seen {
-        std::uint32_t hash;
-        std::uint32_t row; // counted from the first row ever, from 1; 0 for none
-    };
-    void take(News& news, std::uint64_t line, const LogLine& text);
+    void take(News& news, std::uint64_t line, const LogStore::Place& place);
+    void pushBefore(News& news, std::uint64_t line);
     void push(News& news, std::uint64_t line, bool isContext);
-    LogRow* findEqual(News& news, std::uint64_t line, std::uint32_t hash);
-    LogRow* findSeen(News& news, std::uint64_t line, std::uint32_t hash);
+    LogRow* findEqual(News& news, const LogStore::Place& place);
+    LogRow* findSeen(News& news, const LogStore::Place& place);
+    LogRow* lastRow(News& news);
     LogRow* rowAt(News& news, std::uint64_t row);
-    void growSeen();
+    void noteCounted(News& news, std::uint64_t row) const;
+    std::uint64_t numRowsEver(const News& news) const;
 
     const LogStore& m_store;
     Rule m_rule;
@@ -80,8 +80,8 @@ private:
     std::uint64_t m_next = 0;        // line
     std::uint64_t m_contextFrom = 0; // lines from this one on are not shown yet
     std::uint64_t m_contextTo = 0;   // up to here they are shown, being near the last wanted one
-    std::vector<Seen> m_seen;        // open addressing, a power of two
-    std::size_t m_seenCount = 0;
+    std::uint32_t m_lastHash = 0;    // of the last row that is not context
+    RowsByHash m_seen;               // rows counted from the first since the rule was set
 };
 
 } // namespace profiler

@@ -65,13 +65,19 @@ void LogStore::clear()
     m_dropped = 0;
 }
 
+// Most chunks hold about as many lines, so that the first guess is nearly always right.
 LogStore::Place LogStore::find(std::uint64_t number) const
 {
+    const std::uint64_t lines = m_end - m_chunks.front().first;
+    const std::uint64_t guess = (number - m_chunks.front().first) * m_chunks.size() / lines;
+    for (std::uint64_t i = guess; i < m_chunks.size() && i <= guess + 1; ++i) {
+        if (m_chunks[i].holds(number))
+            return m_chunks[i].placeOf(number);
+    }
     const auto after =
         std::upper_bound(m_chunks.begin(), m_chunks.end(), number,
                          [](std::uint64_t wanted, const Numbered& each) { return wanted < each.first; });
-    const Numbered& found = *std::prev(after);
-    return {&found.chunk, std::size_t(number - found.first)};
+    return std::prev(after)->placeOf(number);
 }
 
 const LogLine& LogStore::line(std::uint64_t number) const
@@ -86,14 +92,13 @@ std::string_view LogStore::text(std::uint64_t number) const
     return place.chunk->text(place.line);
 }
 
-bool LogStore::isEqual(std::uint64_t one, std::uint64_t other) const
+bool LogStore::isEqual(std::uint64_t number, const Place& other) const
 {
-    const Place a = find(one);
-    const Place b = find(other);
-    const LogLine& first = a.chunk->line(a.line);
-    const LogLine& second = b.chunk->line(b.line);
-    return first.hash == second.hash && first.kind == second.kind &&
-           a.chunk->text(a.line) == b.chunk->text(b.line);
+    const Place place = find(number);
+    const LogLine& one = place.chunk->line(place.line);
+    const LogLine& second = other.chunk->line(other.line);
+    return one.hash == second.hash && one.kind == second.kind &&
+           place.chunk->text(place.line) == other.chunk->text(other.line);
 }
 
 } // namespace profiler

@@ -38,18 +38,20 @@ public:
     /// Of a number from begin() up to end().
     const LogLine& line(std::uint64_t number) const;
     std::string_view text(std::uint64_t number) const;
-    bool isEqual(std::uint64_t one, std::uint64_t other) const;
-
     struct Place {
         const LogChunk* chunk;
         std::size_t line;
     };
     Place find(std::uint64_t number) const;
+    bool isEqual(std::uint64_t number, const Place& other) const;
 
 private:
     struct Numbered {
         std::uint64_t first;
         LogChunk chunk;
+
+        bool holds(std::uint64_t number) const { return number >= first && number - first < chunk.size(); }
+        Place placeOf(std::uint64_t number) const { return {&chunk, std::size_t(number - first)}; }
     };
 
     std::uint64_t m_mostLines;

@@ -11,6 +11,7 @@
 #include <scopix/SpxViewLook.h>
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
@@ -46,6 +47,14 @@ double memoryOf(const SoBranchCost& branch)
 double bodiesOf(const SoBranchCost& branch)
 {
     return static_cast<double>(branch.shapes);
+}
+
+QString sentenceOf(const SoCostHint& hint)
+{
+    QString sentence = QCoreApplication::translate("CostHint", hint.pattern);
+    for (const std::string& argument : hint.arguments)
+        sentence = sentence.arg(QString::fromStdString(argument));
+    return sentence;
 }
 
 constexpr TreeMap::Figure Figures[] = {timeOf, trianglesOf, memoryOf, bodiesOf};
@@ -201,15 +210,17 @@ bool CostPanel::findView(const SoCamera*& camera, QSize& size) const
 }
 
 // By the user, not by setWithout().
-std::vector<const SoNode*> CostPanel::findHidden() const
+SoHiding CostPanel::findHidden() const
 {
-    std::vector<const SoNode*> hidden;
+    SoHiding hiding;
     const SpxSceneDisplay* display = SpxSceneDisplay::getInstance();
-    for (const SoNode* node : display ? display->getHiddenNodes() : QList<SoNode*>()) {
-        if (node != m_hiddenNode.get())
-            hidden.push_back(node);
-    }
-    return hidden;
+    if (!display)
+        return hiding;
+    for (const SoNode* node : display->getHiddenNodes())
+        hiding.setHidden(node, node != m_hiddenNode.get());
+    const QList<SoNode*> isolated = display->getIsolatedNodes();
+    hiding.isolate({isolated.begin(), isolated.end()});
+    return hiding;
 }
 
 void CostPanel::measure()
@@ -245,12 +256,12 @@ void CostPanel::setWithout(bool on)
     const SoCamera* camera = nullptr;
     QSize size;
     findView(camera, size);
-    const std::vector<const SoNode*> hidden = findHidden();
-    if (display && std::find(hidden.begin(), hidden.end(), branch->node.get()) == hidden.end()) {
+    const SoHiding hiding = findHidden();
+    if (display && !hiding.isHidden(branch->node.get())) {
         m_hiddenNode = branch->node;
         display->setHidden(m_hiddenNode.get(), true);
     }
-    m_run.startWithout(branch->node.get(), services->getSceneRoot(), camera, size, hidden);
+    m_run.startWithout(branch->node.get(), services->getSceneRoot(), camera, size, hiding);
 }
 
 void CostPanel::showColors()
@@ -356,7 +367,7 @@ void CostPanel::fillHints()
 {
     m_found = findCostHints(m_run.getCosts(), m_run.getSize().width(), m_run.getSize().height());
     for (const SoCostHint& hint : m_found)
-        m_hints->addItem(tr("“%1”: %2").arg(nameOf(*hint.node), QString::fromStdString(hint.sentence)));
+        m_hints->addItem(tr("“%1”: %2").arg(nameOf(*hint.node), sentenceOf(hint)));
     if (m_found.empty())
         m_hints->addItem(tr("Nothing conspicuous"));
 }
@@ -392,13 +403,17 @@ QString CostPanel::whatIs(const SoWhatIfMeter& meter) const
     const SoFrameComparison times = meter.compare();
     const auto ms = [](double value) { return readable(value, QStringLiteral("ms")); };
     const double saved = times.before - times.after;
-    const QString change = saved < 0 ? tr("%1 ± %2 more").arg(ms(-saved), ms(meter.getSpread()))
-                                     : tr("%1 ± %2 less").arg(ms(saved), ms(meter.getSpread()));
-    const QString certainty = times.isSignificant() ? QString() : tr("; that may be chance");
+    const bool isSure = times.isSignificant();
+    const QString more =
+        isSure ? tr("Without “%1” a picture takes %2 instead of %3: %4 ± %5 more.")
+               : tr("Without “%1” a picture takes %2 instead of %3: %4 ± %5 more; that may be chance.");
+    const QString less =
+        isSure ? tr("Without “%1” a picture takes %2 instead of %3: %4 ± %5 less.")
+               : tr("Without “%1” a picture takes %2 instead of %3: %4 ± %5 less; that may be chance.");
     const SoBranchCost* branch = chosenBranch();
-    return tr("Without “%1” a picture takes %2 instead of %3: %4%5.")
-        .arg(branch ? nameOf(*branch->node) : QString(), ms(times.after), ms(times.before), change,
-             certainty);
+    return (saved < 0 ? more : less)
+        .arg(branch ? nameOf(*branch->node) : QString(), ms(times.after), ms(times.before),
+             ms(std::abs(saved)), ms(meter.getSpread()));
 }
 
 } // namespace profiler

@@ -45,7 +45,7 @@ private:
     void makeParts(QLayout& layout);
     void connectParts();
     bool findView(const SoCamera*& camera, QSize& size) const;
-    std::vector<const SoNode*> findHidden() const;
+    SoHiding findHidden() const;
     const SoBranchCost* chosenBranch() const;
     void branchChosen();
     void showColors();

@@ -13,20 +13,19 @@ CostRun::CostRun(QObject* parent)
 
 CostRun::~CostRun() = default;
 
-void CostRun::start(SoNode* root, const SoCamera* camera, const QSize& size,
-                    const std::vector<const SoNode*>& hidden)
+void CostRun::start(SoNode* root, const SoCamera* camera, const QSize& size, const SoHiding& hiding)
 {
     begin(root, camera, size);
-    m_meter = std::make_unique<SoCostMeter>(root, camera, size.width(), size.height(), readPicture, hidden);
+    m_meter = std::make_unique<SoCostMeter>(root, camera, size.width(), size.height(), readPicture, hiding);
     emit advanced();
 }
 
 void CostRun::startWithout(const SoNode* node, SoNode* root, const SoCamera* camera, const QSize& size,
-                           const std::vector<const SoNode*>& hidden)
+                           const SoHiding& hiding)
 {
     begin(root, camera, size);
     m_whatIf =
-        std::make_unique<SoWhatIfMeter>(root, node, camera, size.width(), size.height(), readPicture, hidden);
+        std::make_unique<SoWhatIfMeter>(root, node, camera, size.width(), size.height(), readPicture, hiding);
     emit advanced();
 }
 

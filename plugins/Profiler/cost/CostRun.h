@@ -25,11 +25,10 @@ public:
     ~CostRun() override;
 
     /// As the camera sees it now; null for the scene's own. Size in pixels.
-    void start(SoNode* root, const SoCamera* camera, const QSize& size,
-               const std::vector<const SoNode*>& hidden = {});
-    /// The same with and without this node, where nothing of `hidden` is drawn.
+    void start(SoNode* root, const SoCamera* camera, const QSize& size, const SoHiding& hiding = {});
+    /// The same with and without this node, where nothing of what `hiding` leaves out is drawn.
     void startWithout(const SoNode* node, SoNode* root, const SoCamera* camera, const QSize& size,
-                      const std::vector<const SoNode*>& hidden = {});
+                      const SoHiding& hiding = {});
     /// While finished() tells of a run with startWithout(); null otherwise.
     const SoWhatIfMeter* getWhatIf() const { return isRunning() ? nullptr : m_whatIf.get(); }
     /// Of the pictures of the last run.

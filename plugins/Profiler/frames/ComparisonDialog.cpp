@@ -62,7 +62,7 @@ void ComparisonDialog::fill(const SoFrameRecording& before, const SoFrameRecordi
         if (!old || column.name == SoFrame::getName(SoFrame::Begin))
             continue;
         const SoFrameComparison compared = SoFrameComparison::of(old->getKnown(), column.getKnown());
-        const QString unit = column.unit == "ns" ? QStringLiteral("ms") : QString::fromStdString(column.unit);
+        const QString unit = QString::fromStdString(column.getShownUnit());
         const QString change =
             compared.before > 0 ? QString::number(compared.getChange() * 100, 'f', 1) + QStringLiteral(" %")
                                 : QString();

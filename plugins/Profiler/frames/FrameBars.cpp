@@ -374,11 +374,11 @@ void FrameBars::paintCurves(QPainter& painter) const
 
 void FrameBars::paintCurve(QPainter& painter, const FrameCurve& curve, const QColor& color, int axis) const
 {
-    const int end = std::min(getEndSeen(), static_cast<int>(curve.values.size()));
+    const int end = std::min(getEndSeen(), static_cast<int>(curve.getValues().size()));
     double low = 0;
     double high = 0;
     for (int frame = getFirstSeen(); frame < end; ++frame) {
-        const double value = curve.values[static_cast<std::size_t>(frame)];
+        const double value = curve.getValues()[static_cast<std::size_t>(frame)];
         if (std::isfinite(value)) {
             low = std::min(low, value);
             high = std::max(high, value);
@@ -389,7 +389,7 @@ void FrameBars::paintCurve(QPainter& painter, const FrameCurve& curve, const QCo
     QPainterPath path;
     bool isOn = false;
     for (int frame = getFirstSeen(); frame < end; ++frame) {
-        const double value = curve.values[static_cast<std::size_t>(frame)];
+        const double value = curve.getValues()[static_cast<std::size_t>(frame)];
         const QPointF point(getBar(frame).left() + m_barWidth / 2.0,
                             area.bottom() - (value - low) / range * area.height());
         if (!std::isfinite(value))

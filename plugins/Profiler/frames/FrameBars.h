@@ -15,7 +15,9 @@ class FrameStore;
 struct FrameCurve {
     FrameFormula formula;
     QString unit;
-    std::vector<double> values; // one for each frame
+
+    /// One for each frame.
+    const std::vector<double>& getValues() const { return formula.getValues(); }
 };
 
 /// One bar for each frame, its phases on top of each other, with a line for the budget, curves of counters,

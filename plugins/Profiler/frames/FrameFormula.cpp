@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -46,8 +47,7 @@ double takeTime(QString& arguments)
 double valueOf(const SoFrameColumn& column, std::size_t frame)
 {
     const std::int64_t value = column.values[frame];
-    const double scale = column.unit == "ns" ? 1e-6 : 1;
-    return column.isKnown(value) ? static_cast<double>(value) * scale : NotKnown;
+    return column.isKnown(value) ? column.getShown(value) : NotKnown;
 }
 
 std::vector<double> secondsOf(const SoFrameRecording& frames)
@@ -59,6 +59,20 @@ std::vector<double> secondsOf(const SoFrameRecording& frames)
     }
     seconds.resize(frames.getNumFrames());
     return seconds;
+}
+
+std::vector<std::string> namesOf(const SoFrameRecording& frames)
+{
+    std::vector<std::string> names;
+    for (const SoFrameColumn& column : frames.columns)
+        names.push_back(column.name);
+    return names;
+}
+
+void dropFirst(std::vector<double>& values, std::uint64_t count)
+{
+    const auto gone = std::min<std::uint64_t>(count, values.size());
+    values.erase(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(gone));
 }
 
 bool isWordPart(QChar c)
@@ -126,45 +140,89 @@ void FrameFormula::takeWindows()
 
 std::vector<double> FrameFormula::evaluate(const SoFrameRecording& frames)
 {
-    SpxExpressionSettings settings;
-    for (const SoFrameColumn& column : frames.columns)
-        settings.variables.push_back(column.name);
-    std::vector<std::vector<double>> windows;
-    for (Window& window : m_windows) {
-        settings.variables.push_back("window_" + std::to_string(windows.size()));
-        windows.push_back(evaluate(frames, window));
-        m_problem = window.inner->getProblem();
-        if (!m_problem.isEmpty())
-            return {};
-    }
-    const SpxExpression expression(m_formula, settings);
-    m_problem = expression.isValid() ? QString() : QString::fromStdString(expression.getError().sentence);
-    if (!expression.isValid())
-        return {};
-    std::vector<double> results(frames.getNumFrames());
-    std::vector<double> values(settings.variables.size());
-    for (std::size_t frame = 0; frame < results.size(); ++frame) {
-        for (std::size_t i = 0; i < frames.columns.size(); ++i)
-            values[i] = valueOf(frames.columns[i], frame);
-        for (std::size_t i = 0; i < windows.size(); ++i)
-            values[frames.columns.size() + i] = windows[i][frame];
-        results[frame] = expression.evaluate(values.data());
-    }
-    return results;
+    m_isCompiled = false; // starts again
+    return follow(frames, 0, 0);
 }
 
-std::vector<double> FrameFormula::evaluate(const SoFrameRecording& frames, const Window& window) const
+const std::vector<double>& FrameFormula::follow(const SoFrameRecording& frames, std::uint64_t series,
+                                                std::uint64_t first)
 {
-    std::vector<double> inner = window.inner->evaluate(frames);
-    if (inner.size() != frames.getNumFrames())
-        return {};
-    const std::vector<double> seconds = secondsOf(frames);
-    std::vector<double> results(inner.size(), NotKnown);
-    if (window.kind == Window::Rate) {
-        for (std::size_t i = 1; i < inner.size(); ++i)
-            results[i] = inner[i] / (seconds[i] - seconds[i - 1]);
-        return results;
+    const std::vector<std::string> columns = namesOf(frames);
+    const bool isSame = m_isCompiled && columns == m_columns && series == m_series && first >= m_first &&
+                        first + frames.getNumFrames() >= m_first + m_values.size();
+    if (!isSame)
+        restart(columns);
+    else
+        dropFirst(m_values, first - m_first);
+    for (Window& window : m_windows) {
+        if (isSame)
+            dropFirst(window.values, first - m_first);
     }
+    m_series = series;
+    m_first = first;
+    if (followWindows(frames, series, first) && m_expression.isValid())
+        compute(frames);
+    else
+        m_values.clear();
+    return m_values;
+}
+
+void FrameFormula::restart(const std::vector<std::string>& columns)
+{
+    m_isCompiled = true;
+    m_columns = columns;
+    m_values.clear();
+    SpxExpressionSettings settings;
+    settings.variables = columns;
+    for (Window& window : m_windows) {
+        settings.variables.push_back("window_" + std::to_string(&window - m_windows.data()));
+        window.values.clear();
+        window.inner->m_isCompiled = false;
+    }
+    m_expression = SpxExpression(m_formula, settings);
+    m_problem = m_expression.isValid() ? QString() : QString::fromStdString(m_expression.getError().sentence);
+}
+
+// False where one of them does not hold.
+bool FrameFormula::followWindows(const SoFrameRecording& frames, std::uint64_t series, std::uint64_t first)
+{
+    const std::vector<double> seconds = m_windows.empty() ? std::vector<double>() : secondsOf(frames);
+    for (Window& window : m_windows) {
+        window.inner->follow(frames, series, first);
+        if (!window.inner->getProblem().isEmpty()) {
+            m_problem = window.inner->getProblem();
+            return false;
+        }
+        extend(window, seconds);
+    }
+    return true;
+}
+
+void FrameFormula::compute(const SoFrameRecording& frames)
+{
+    std::vector<double> values(frames.columns.size() + m_windows.size());
+    for (std::size_t frame = m_values.size(); frame < frames.getNumFrames(); ++frame, ++m_numComputed) {
+        for (std::size_t i = 0; i < frames.columns.size(); ++i)
+            values[i] = valueOf(frames.columns[i], frame);
+        for (std::size_t i = 0; i < m_windows.size(); ++i)
+            values[frames.columns.size() + i] = m_windows[i].values[frame];
+        m_values.push_back(m_expression.evaluate(values.data()));
+    }
+}
+
+void FrameFormula::extend(Window& window, const std::vector<double>& seconds)
+{
+    if (window.kind == Window::Mean)
+        return extendMean(window, seconds);
+    const std::vector<double>& inner = window.inner->m_values;
+    for (std::size_t i = window.values.size(); i < inner.size(); ++i)
+        window.values.push_back(i == 0 ? NotKnown : inner[i] / (seconds[i] - seconds[i - 1]));
+}
+
+void FrameFormula::extendMean(Window& window, const std::vector<double>& seconds)
+{
+    const std::vector<double>& inner = window.inner->m_values;
+    const std::size_t begin = window.values.size();
     double sum = 0;
     std::size_t count = 0;
     const auto add = [&](double value, int sign) {
@@ -173,20 +231,23 @@ std::vector<double> FrameFormula::evaluate(const SoFrameRecording& frames, const
         sum += sign * value;
         count += static_cast<std::size_t>(sign);
     };
-    for (std::size_t i = 0, first = 0; i < inner.size(); ++i) {
+    // The window of the first new frame, from its beginning.
+    std::size_t first = begin;
+    while (begin < inner.size() && first > 0 && seconds[begin] - seconds[first - 1] <= window.seconds)
+        add(inner[--first], 1);
+    for (std::size_t i = begin; i < inner.size(); ++i) {
         add(inner[i], 1);
         for (; seconds[i] - seconds[first] > window.seconds; ++first)
             add(inner[first], -1);
-        results[i] = count > 0 ? sum / static_cast<double>(count) : NotKnown;
+        window.values.push_back(count > 0 ? sum / static_cast<double>(count) : NotKnown);
     }
-    return results;
 }
 
 QString FrameFormula::getUnit(const SoFrameRecording& frames) const
 {
     const std::string formula = QString::fromStdString(m_formula).remove('"').toStdString();
     if (const SoFrameColumn* column = frames.findColumn(formula))
-        return column->unit == "ns" ? QStringLiteral("ms") : QString::fromStdString(column->unit);
+        return QString::fromStdString(column->getShownUnit());
     if (m_windows.size() != 1 || formula != "window_0")
         return {};
     const QString inner = m_windows[0].inner->getUnit(frames);

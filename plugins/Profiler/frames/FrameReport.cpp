@@ -28,12 +28,7 @@ QString tr(const char* text)
 
 QString unitOf(const SoFrameColumn& column)
 {
-    return column.unit == "ns" ? QStringLiteral("ms") : QString::fromStdString(column.unit);
-}
-
-double scaled(const SoFrameColumn& column, std::int64_t value)
-{
-    return static_cast<double>(value) * (column.unit == "ns" ? 1e-6 : 1);
+    return QString::fromStdString(column.getShownUnit());
 }
 
 double usual(const SoFrameColumn& column, int frame)
@@ -59,7 +54,7 @@ void compare(const SoFrameColumn& column, int frame, std::vector<Difference>& fo
     if (column.name == SoFrame::getName(SoFrame::Begin) || column.name == SoFrame::getName(SoFrame::Whole) ||
         !column.isKnown(value))
         return;
-    const double own = scaled(column, value);
+    const double own = column.getShown(value);
     const double others = usual(column, frame);
     const bool isTime = column.unit == "ns";
     if (own <= others * (column.isState ? 1.01 : Jump) || (isTime && own - others < LeastTime))
@@ -109,7 +104,7 @@ QStringList FrameReport::differences(const SoFrameRecording& frames, int frame)
     const SoFrameColumn* whole = frames.findColumn(SoFrame::getName(SoFrame::Whole));
     if (!whole || frame < 0 || frame >= static_cast<int>(frames.getNumFrames()))
         return {};
-    const double own = scaled(*whole, whole->values[static_cast<std::size_t>(frame)]);
+    const double own = whole->getShown(whole->values[static_cast<std::size_t>(frame)]);
     QStringList lines{
         tr("This frame took %1, its neighbours %2")
             .arg(readable(own, QStringLiteral("ms")), readable(usual(*whole, frame), QStringLiteral("ms")))};

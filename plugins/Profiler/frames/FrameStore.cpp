@@ -212,6 +212,7 @@ void FrameStore::show(SoFrameRecording recording)
 {
     m_isLive = false;
     m_first = 0;
+    ++m_series;
     m_frames = std::move(recording);
     emit changed();
 }
@@ -220,6 +221,7 @@ void FrameStore::showLive()
 {
     m_isLive = true;
     m_first = 0;
+    ++m_series;
     m_frames = SoFrameReader(m_log).makeEmpty();
     emit changed();
 }

@@ -27,6 +27,8 @@ public:
     const SoFrameRecording& getFrames() const { return m_frames; }
     /// How many frames came before the first one that is kept.
     std::uint64_t getFirst() const { return m_first; }
+    /// Another number for each row of frames that is shown: the program's, or those of a file.
+    std::uint64_t getSeries() const { return m_series; }
     /// While it is false, nothing is taken unless a recording is written.
     void setWatched(bool on);
     /// Takes what has come at once, instead of ten times a second.
@@ -72,6 +74,7 @@ private:
     SoFrameRecording m_recorded; // its columns
     std::vector<SbName> m_wanted;
     std::uint64_t m_first = 0;
+    std::uint64_t m_series = 1;
     std::size_t m_numRecorded = 0;
     QBasicTimer m_timer;
     QString m_path;

@@ -69,10 +69,7 @@ FramesPanel::FramesPanel(SoFrameLog& log, QWidget* parent)
     connect(m_bars, &FrameBars::chosen, this, &FramesPanel::showWords);
     connect(m_bars, &FrameBars::cursorMoved, this, &FramesPanel::showValues);
     connect(&m_store, &FrameStore::failed, this, &FramesPanel::say);
-    connect(&m_store, &FrameStore::changed, this, [this] {
-        computeCurves();
-        showWords();
-    });
+    connect(&m_store, &FrameStore::changed, this, [this] { followFrames(); });
     for (const QString& formula : ProfilerSettings::curves())
         addCurve(formula);
     rebuildLegend();
@@ -170,7 +167,7 @@ bool FramesPanel::addCurve(const QString& formula)
                 .arg(MostCurves));
         return false;
     }
-    FrameCurve curve{FrameFormula(formula), {}, {}};
+    FrameCurve curve{FrameFormula(formula), {}};
     // A formula of counters that have not been noted yet is checked with their names alone.
     SoFrameRecording names = m_store.getFrames();
     for (const SoPerfCounter* counter : SoPerfCounterManager::getInstance()->getCounters()) {
@@ -179,7 +176,7 @@ bool FramesPanel::addCurve(const QString& formula)
             names.columns.push_back(
                 {name, "", false, std::vector<std::int64_t>(names.getNumFrames(), SoFrame::Missing)});
     }
-    curve.values = curve.formula.evaluate(names);
+    curve.formula.evaluate(names);
     if (!curve.formula.getProblem().isEmpty()) {
         say(tr("“%1” cannot be shown: %2").arg(formula, curve.formula.getProblem()));
         return false;
@@ -212,10 +209,18 @@ void FramesPanel::keepCurves()
     ProfilerSettings::setCurves(formulas);
 }
 
+// A recording goes on while nobody looks at curves.
+void FramesPanel::followFrames()
+{
+    if (isVisible())
+        computeCurves();
+    showWords();
+}
+
 void FramesPanel::computeCurves()
 {
     for (FrameCurve& curve : m_curves) {
-        curve.values = curve.formula.evaluate(m_store.getFrames());
+        curve.formula.follow(m_store.getFrames(), m_store.getSeries(), m_store.getFirst());
         curve.unit = curve.formula.getUnit(m_store.getFrames());
     }
     m_bars->setCurves(m_curves);
@@ -261,11 +266,11 @@ void FramesPanel::showValues()
     for (std::size_t i = 0; i < m_curves.size(); ++i) {
         auto* button = findChild<QToolButton*>(QStringLiteral("curve%1").arg(i));
         const FrameCurve& curve = m_curves[i];
-        const bool isThere = cursor >= 0 && cursor < static_cast<int>(curve.values.size());
+        const bool isThere = cursor >= 0 && cursor < static_cast<int>(curve.getValues().size());
         if (!button)
             continue;
         const QString value =
-            isThere ? readable(curve.values[static_cast<std::size_t>(cursor)], curve.unit) : QString();
+            isThere ? readable(curve.getValues()[static_cast<std::size_t>(cursor)], curve.unit) : QString();
         button->setText(curve.formula.getText() + QStringLiteral(" ") + value + QStringLiteral(" ✕"));
         button->setAccessibleName(tr("%1 %2: take out").arg(curve.formula.getText(), value));
     }
@@ -279,7 +284,8 @@ void FramesPanel::showWords()
     if (!m_store.isLive())
         summary = tr("“%1”: %2").arg(m_store.getTitle(), summary);
     if (m_store.isRecording())
-        summary += tr("; recording, %1 frames so far").arg(m_store.getNumRecorded());
+        summary =
+            tr("%1; recording, %2 frames so far").arg(summary, QString::number(m_store.getNumRecorded()));
     m_summary->setText(summary);
     const QStringList lines = FrameReport::differences(frames, m_bars->getChosen());
     if (!lines.isEmpty())
@@ -303,6 +309,7 @@ void FramesPanel::showEvent(QShowEvent* /*event*/)
 {
     fillCounters();
     m_store.setWatched(true);
+    followFrames();
 }
 
 void FramesPanel::hideEvent(QHideEvent* /*event*/)

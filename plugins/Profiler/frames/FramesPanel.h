@@ -43,6 +43,7 @@ private:
     void makeActions(QToolBar& bar);
     void makeCurveInput();
     void fillCounters();
+    void followFrames();
     void computeCurves();
     void rebuildLegend();
     void showValues();

@@ -214,6 +214,17 @@ void EdMFieldTable::showTableRow(int row)
     scrollTo(model()->index(row, 0));
 }
 
+// A shortcut of the window on Ctrl and Tab gives way, also while a cell is edited, whose events come here.
+bool EdMFieldTable::event(QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride)
+        return QTableWidget::event(event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+        event->accept();
+    return QTableWidget::event(event);
+}
+
 void EdMFieldTable::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy)) {

@@ -8,12 +8,15 @@
 #include "language/ShownTexts.h"
 #include "palette/CommandPalette.h"
 #include "preferences/PreferencesDialog.h"
+#include "structure/StructureActs.h"
 #include "window/SettingsActs.h"
 
 #include <xsg/core/SoFieldData.h>
+#include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/properties/SoMaterial.h>
 
 #include <QComboBox>
+#include <QLabel>
 #include <QMenuBar>
 
 using namespace scopix;
@@ -45,6 +48,15 @@ protected:
         return titles;
     }
 };
+
+// What is read out of the rows of the panel.
+QStringList meaningsTold(QWidget& window)
+{
+    QStringList told;
+    for (const QWidget* row : window.findChildren<QWidget*>("row"))
+        told << row->accessibleDescription();
+    return told;
+}
 
 class PseudoLanguage : public Spoken
 {
@@ -93,6 +105,46 @@ TEST_F(PseudoLanguage, ShowsNoTextThatIsNotTranslatedOrPutTogether)
         EXPECT_TRUE(isWhole(each)) << each.where.toStdString() << ": " << each.text.toStdString();
     }
     EXPECT_GT(translated, 400);
+}
+
+TEST_F(PseudoLanguage, SaysWhatNodesAndFieldsMean)
+{
+    window->selectField("Glass", "diffuseColor");
+    settle();
+    auto* title = window->findChild<QLabel*>("nodeTitle");
+    ASSERT_TRUE(title);
+    EXPECT_TRUE(title->toolTip().contains("<br>[")) << title->toolTip().toStdString();
+    const QStringList told = meaningsTold(*window);
+    ASSERT_GT(told.size(), 3);
+    for (const QString& each : told)
+        EXPECT_TRUE(each.endsWith(']')) << each.toStdString();
+}
+
+TEST_F(PseudoLanguage, NamesStepsAsWholeSentences)
+{
+    const SoRef<SoSeparator> root(new SoSeparator);
+    const SoPath path = extended({}, root.get());
+    using structure::Deed;
+    for (const Deed deed : {Deed::Delete, Deed::Cut, Deed::Duplicate, Deed::Paste, Deed::Ungroup, Deed::Group,
+                            Deed::MakeUnique, Deed::Move, Deed::Copy, Deed::Share}) {
+        EXPECT_EQ(outside(structure::nameOf(deed, {path})), QString(QChar(0x25a1)));
+        EXPECT_EQ(outside(structure::nameOf(deed, {path, path})), QString(QChar(0x25a1)));
+    }
+}
+
+TEST_F(Spoken, ShowsMeaningsAnewInAnotherLanguage)
+{
+    window->selectField("Glass", "diffuseColor");
+    settle();
+    const QStringList english = meaningsTold(*window);
+    ASSERT_GT(english.size(), 3);
+    Languages::instance()->speak("de");
+    settle();
+    EXPECT_FALSE(meaningsTold(*window).filter("von 0 deckend bis 1 unsichtbar").isEmpty())
+        << meaningsTold(*window).join("\n").toStdString();
+    Languages::instance()->speak("en");
+    settle();
+    EXPECT_EQ(meaningsTold(*window), english);
 }
 
 TEST_F(Spoken, ChangesWhileTheWindowIsOpen)

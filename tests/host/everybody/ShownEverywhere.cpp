@@ -97,12 +97,11 @@ QSet<QString> namesOfTheLibrary()
     return names;
 }
 
-// Names of nodes and of counters, and what the reference of nodes says (decisions.md: reference-in-english).
+// Names of nodes and of counters.
 bool isData(const ShownText& text)
 {
     return text.text.startsWith("<span style") || text.where.contains("#breadcrumb") ||
-           text.where.contains("#curveInput") || text.where.contains("#nodeTitle") ||
-           (text.where.contains("#row") && text.where.endsWith("accessibleDescription"));
+           text.where.contains("#curveInput") || text.where.contains("#nodeTitle");
 }
 
 } // namespace

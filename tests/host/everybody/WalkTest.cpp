@@ -60,6 +60,7 @@ protected:
     }
     void forEachWindow(const Check& check)
     {
+        checkStartPage(check);
         forEachDock(check);
         forEachWindowOfItsOwn(check);
         forEachDialog(check);
@@ -99,6 +100,39 @@ protected:
                 each->close();
             }
         }
+    }
+    void checkStartPage(const Check& check)
+    {
+        auto* act = window->findChild<QAction*>("startPageAction");
+        auto* page = window->findChild<QWidget*>("startPage");
+        ASSERT_TRUE(act && page);
+        act->trigger();
+        settle();
+        EXPECT_TRUE(page->isVisible());
+        check(*page);
+        QTest::mouseClick(page->findChild<QPushButton*>("closeStart"), Qt::LeftButton);
+        EXPECT_FALSE(page->isVisible());
+        settle();
+    }
+    // What the key for menus opens there; false where that is nothing. Some wait until it is closed.
+    static bool openMenu(QWidget& widget, const std::function<void(QMenu&)>& check)
+    {
+        bool isOpened = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                look.stop();
+                isOpened = true;
+                check(*menu);
+                menu->close();
+            }
+        });
+        look.start(0);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, widget.rect().center(),
+                                widget.mapToGlobal(widget.rect().center()));
+        QApplication::sendEvent(&widget, &event);
+        settle();
+        return isOpened;
     }
     // What an act opens, and waits for.
     void forEachDialog(const Check& check)
@@ -243,6 +277,30 @@ TEST_F(EveryWidget, IsReachedInReadingOrder)
     });
 }
 
+TEST_F(EveryWidget, HasAMenuThatIsReadOutAndOnTheScreen)
+{
+    int menus = 0;
+    const auto check = [](QMenu& menu) {
+        EXPECT_TRUE(menu.screen()->geometry().contains(menu.geometry())) << pathOf(menu);
+        EXPECT_FALSE(menu.actions().isEmpty()) << pathOf(menu);
+        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&menu);
+        ASSERT_TRUE(reader);
+        for (int i = 0; i < menu.actions().size(); ++i) {
+            const QAction* act = menu.actions().at(i);
+            if (act->isSeparator() || !act->isVisible())
+                continue;
+            EXPECT_FALSE(reader->child(i)->text(QAccessible::Name).isEmpty())
+                << pathOf(menu) << " entry " << i;
+        }
+    };
+    forEachDock([&](QWidget& root) {
+        for (auto* each : root.findChildren<QWidget*>())
+            if (each->isVisible() && each->contextMenuPolicy() == Qt::CustomContextMenu && !isExcepted(*each))
+                menus += openMenu(*each, check) ? 1 : 0;
+    });
+    EXPECT_GE(menus, 3);
+}
+
 namespace
 {
 
@@ -298,4 +356,5 @@ TEST_P(EveryText, IsWholeAndStandsOut)
 INSTANTIATE_TEST_SUITE_P(All, EveryText,
                          testing::Values(Look{Theme::Light, 1, Qt::LeftToRight},
                                          Look{Theme::Light, 168 / 96.0, Qt::RightToLeft},
+                                         Look{Theme::Light, 3, Qt::RightToLeft},
                                          Look{Theme::Dark, 3, Qt::LeftToRight}));

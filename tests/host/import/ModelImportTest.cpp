@@ -2,6 +2,7 @@
 #include "ModelFiles.h"
 
 #include "import/ModelImport.h"
+#include "language/Languages.h"
 #include "model/ModelFormats.h"
 
 #include <support/Waiting.h>
@@ -66,6 +67,31 @@ TEST_F(Import, NoDialogWaitsToOpenOnceItHasEnded)
     });
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(waiting, 0);
+}
+
+TEST_F(Import, TellsWhatIsMissingInTheUsersLanguage)
+{
+    qputenv("SCOPIX_LANGUAGE", "de");
+    Languages::begin();
+    qputenv("SCOPIX_LANGUAGE", "en");
+    ModelFiles files;
+    import.start(files.write("plain.obj", "mtllib none.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
+    EXPECT_TRUE(waitForEnd());
+    delete Languages::instance();
+    EXPECT_TRUE(import.notes().join(' ').contains(
+        "1 Materialdatei ist nicht da, stattdessen gelten vorgegebene Materialien: „none.mtl“."))
+        << import.notes().join('\n').toStdString();
+}
+
+TEST_F(Import, TellsWhatIsMissingInEnglishToPrograms)
+{
+    qputenv("SCOPIX_LANGUAGE", "de");
+    ModelFiles files;
+    import.start(files.write("plain.obj", "mtllib none.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n"));
+    EXPECT_TRUE(waitForEnd());
+    qputenv("SCOPIX_LANGUAGE", "en");
+    EXPECT_TRUE(import.notes().join(' ').contains("1 file of materials is missing"))
+        << import.notes().join('\n').toStdString();
 }
 
 TEST_F(Import, ReportsWhatIsWrong)

@@ -143,6 +143,30 @@ TEST_F(LiveStructure, DuplicatesInTheProgramWithTheirValues)
     EXPECT_TRUE(wait([&] { return childrenOf(1) == (std::vector<NodeId>{2, 3}); }));
 }
 
+TEST_F(LiveStructure, WhatIsAddedWhileAnotherSceneShowsIsAStepOfItsOwn)
+{
+    window.getFiles().openInTab(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
+    ASSERT_TRUE(wait([this] { return !done.isEmpty(); }));
+    OpenScenes& scenes = window.getFiles().getScenes();
+    attachAndUnfold();
+    ASSERT_TRUE(select("mars"));
+    program.frames.stop(); // it answers once the other scene shows
+    press(Qt::Key_D);
+    scenes.bringToFront(*scenes.getAll().front());
+    const int rows = model().rowCount(model().index(0, 0));
+    program.frames.start(0);
+    ASSERT_TRUE(wait([&] { return childrenOf(1) == (std::vector<NodeId>{2, 3, 5001}); }));
+    EXPECT_TRUE(wait([&] { return SoFieldContainer::getByName("mars again") != nullptr; }));
+    EXPECT_EQ(services.undoStack().count(), 0);
+    EXPECT_TRUE(services.getSelectedNodes().isEmpty());
+    EXPECT_EQ(model().rowCount(model().index(0, 0)), rows);
+    scenes.bringToFront(*scenes.getAll().back());
+    ASSERT_TRUE(wait([&] { return services.undoStack().count() == 1; }));
+    EXPECT_TRUE(wait([&] { return row("mars again").isValid(); }));
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return childrenOf(1) == (std::vector<NodeId>{2, 3}); }));
+}
+
 TEST_F(LiveStructure, DuplicatesSeveralAsOneStep)
 {
     attachAndUnfold();

@@ -16,6 +16,7 @@
 #include "window/AttachDialog.h"
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
+#include "window/SceneTabs.h"
 
 #include <support/Waiting.h>
 
@@ -441,6 +442,71 @@ TEST_F(LiveWindow, LetsGoOfTheProgramWhenAnotherSceneIsOpened)
     EXPECT_TRUE(wait([&] { return !program.server->isAttached(); }));
     EXPECT_EQ(window.getLive().getScene(), nullptr);
     EXPECT_FALSE(window.getLive().getPicture().isVisible());
+}
+
+TEST_F(LiveWindow, StandsBesideWhatIsOpen)
+{
+    window.getFiles().openInTab(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
+    ASSERT_TRUE(wait([this] { return !done.isEmpty(); }));
+    SoNode* scene = window.getScene();
+    attach();
+    ASSERT_EQ(window.getTabs().count(), 2);
+    LiveScene* live = window.getLive().getScene();
+    ASSERT_TRUE(live);
+    EXPECT_TRUE(wait([this] { return program.scene.pictureWidth > 0; }));
+    QTest::mouseClick(&window.getTabs(), Qt::LeftButton, {}, window.getTabs().tabRect(0).center());
+    EXPECT_EQ(window.getScene(), scene);
+    EXPECT_FALSE(window.getLive().getScene());
+    EXPECT_FALSE(window.getLive().getPicture().isVisible());
+    int answers = 0;
+    for (int asked = 1; asked <= 20; ++asked) {
+        live->getLink().node(0, [&answers](const std::optional<live::NodeInfo>&) { ++answers; });
+        ASSERT_TRUE(wait([&] { return answers == asked; }));
+        program.scene.pictureWidth = asked < 5 ? 0 : program.scene.pictureWidth;
+    }
+    EXPECT_EQ(program.scene.pictureWidth, 0U) << "what is hidden costs nothing";
+    QTest::mouseClick(&window.getTabs(), Qt::LeftButton, {}, window.getTabs().tabRect(1).center());
+    EXPECT_EQ(window.getLive().getScene(), live);
+    EXPECT_TRUE(window.getLive().getPicture().isVisible());
+    EXPECT_TRUE(unfold("sky"));
+    window.getFiles().closeScene(window.getFiles().getScenes().getFront());
+    settle();
+    EXPECT_EQ(window.getScene(), scene);
+    EXPECT_FALSE(window.getLive().getScene());
+}
+
+TEST_F(LiveWindow, AnswersComeToTheStepsOfTheirOwnProgram)
+{
+    window.getFiles().openInTab(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
+    ASSERT_TRUE(wait([this] { return !done.isEmpty(); }));
+    window.getTree().selectNode(window.getScene()->asGroup()->getChild(0));
+    QTest::keyClick(&window.getTree(), Qt::Key_Delete);
+    ASSERT_EQ(services.undoStack().index(), 1);
+    program.scene.refused.insert("children");
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    program.frames.stop(); // it answers once another scene shows
+    QTest::keyClick(&window.getTree(), Qt::Key_Delete);
+    ASSERT_EQ(services.undoStack().index(), 1);
+    window.getFiles().getScenes().bringToFront(*window.getFiles().getScenes().getAll().front());
+    program.frames.start(0);
+    EXPECT_TRUE(wait([&] { return told.last().contains("It keeps its children."); }));
+    EXPECT_EQ(services.undoStack().index(), 1) << "the step is another scene’s";
+    window.getFiles().getScenes().bringToFront(*window.getFiles().getScenes().getAll().back());
+    EXPECT_TRUE(wait([&] { return row("mars").isValid(); }));
+    EXPECT_FALSE(services.undoStack().canUndo());
+    ASSERT_TRUE(select("mars"));
+    edit(shown, [&] { shown.setValue(40); });
+    window.getFiles().getScenes().bringToFront(*window.getFiles().getScenes().getAll().front());
+    EXPECT_TRUE(wait([&] { return shown.getValue() == 10; })) << "as the program took it";
+    window.getFiles().getScenes().bringToFront(*window.getFiles().getScenes().getAll().back());
+    services.undoStack().undo();
+    EXPECT_TRUE(wait([&] { return radius() == 3.5; }));
+    services.undoStack().redo();
+    EXPECT_EQ(shown.getValue(), 10);
 }
 
 } // namespace

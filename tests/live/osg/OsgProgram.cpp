@@ -42,11 +42,12 @@ const std::string& sceneFile()
     return file.path();
 }
 
-/// The first line is written before the program is there, so that nobody waits for it.
+/// The first line is written before the program is there, so that nobody waits for it. What it says later
+/// goes nowhere: nobody reads it, and the program would wait for somebody who does.
 std::string shellCommand(const std::string& command, const std::string& environment, bool preload)
 {
     return "echo; exec env " + environment + (preload ? " LD_PRELOAD=" SCOPIX_OSG_PRELOAD " " : " ") +
-           command;
+           command + " >/dev/null";
 }
 
 } // namespace
@@ -112,7 +113,8 @@ namespace
 bool isMadeAnew(const std::string& property, bool isShapeDrawable)
 {
     const bool isArray = property.find("Array") != std::string::npos || property == "PrimitiveSetList";
-    return property == "BufferObject" || (isShapeDrawable && isArray);
+    const bool isSizeOfPicture = property == "TextureWidth" || property == "TextureHeight";
+    return property == "BufferObject" || isSizeOfPicture || (isShapeDrawable && isArray);
 }
 
 } // namespace

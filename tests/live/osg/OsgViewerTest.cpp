@@ -9,6 +9,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
+#include <deque>
 #include <random>
 
 using namespace scopix::live;
@@ -30,15 +31,21 @@ std::array<int, 3> colorOfSquare(Probe& probe)
     return {picture.pixels[at], picture.pixels[at + 1], picture.pixels[at + 2]};
 }
 
+/// A program that has drawn knows what it draws with, as the sizes of textures.
+void waitUntilDrawn(Probe& probe)
+{
+    probe.client.showPictures(16, 16);
+    EXPECT_TRUE(probe.runUntil([&] { return !probe.pictures.empty(); })) << probe.end;
+    probe.client.showPictures(0, 0);
+}
+
 /// Makes the program itself let go of a picture.
 const char* const letsGo = "UnRefImageDataAfterApply";
 
-// Of far longer walks some end with the program: among random bindings, indices and modes there are some by
-// which a software driver reads beyond the program's arrays.
 unsigned walkSteps()
 {
     const char* steps = std::getenv("SCOPIX_WALK_STEPS");
-    return steps ? unsigned(std::atoi(steps)) : 1000;
+    return steps ? unsigned(std::atoi(steps)) : 2000;
 }
 
 unsigned walkSeed()
@@ -102,6 +109,7 @@ TEST_F(OsgViewer, TellsTheTypesOfProperties)
 
 TEST_F(OsgViewer, EditsEveryPropertyAndTakesAllBack)
 {
+    waitUntilDrawn(probe);
     const NodeId world = nodeNamed(probe, "world");
     const Snapshot before = snapshotOf(probe, world);
     EXPECT_GT(before.size(), 400U);
@@ -179,6 +187,55 @@ TEST_F(OsgViewer, RefusesWhatWouldBeReadBeyondItsArrays)
     EXPECT_FALSE(probe.write(square, "DataVariance", packed(ValueKind::Int32, 17)).taken);
     EXPECT_FALSE(probe.write(square, "Name", packed(ValueKind::Int32, 17)).taken);
     EXPECT_FALSE(probe.write(square, "Nothing", packed(ValueKind::Int32, 17)).taken);
+}
+
+TEST_F(OsgViewer, RefusesASequenceThatWouldNeverComeToAnEnd)
+{
+    const NodeId turns = nodeNamed(probe, "turns");
+    const auto refusalOf = [&](const char* name, const Value& value) {
+        const Value before = probe.value(turns, name).value_or(Value());
+        const WriteResult result = probe.write(turns, name, value);
+        EXPECT_EQ(result.taken, result.refusal.empty()) << name;
+        EXPECT_EQ(result.value, result.taken ? value : before) << name;
+        return result.refusal;
+    };
+    const Value start = packed(ValueKind::Int32, std::int32_t(0));
+    EXPECT_EQ(
+        refusalOf("Mode", start),
+        "“Mode” cannot be set so, since the sequence would never come to the end of a frame; each child "
+        "needs some time, and a sequence that runs a speed above 0.");
+    EXPECT_EQ(refusalOf("Speed", packed(ValueKind::Float, 0.5F)), "");
+    EXPECT_EQ(refusalOf("Mode", start), "");
+    EXPECT_NE(refusalOf("Speed", packed(ValueKind::Float, 0.0F)), "");
+    EXPECT_NE(refusalOf("Speed", packed(ValueKind::Float, -1.0F)), "");
+    EXPECT_NE(refusalOf("LastFrameTime", packed(ValueKind::Double, 1e-300)), "");
+    const double times[] = {0.25, 1e-300};
+    EXPECT_NE(refusalOf("Times", packedList(ValueKind::Double, times, 2)), "");
+    EXPECT_NE(refusalOf("End", packed(ValueKind::Int32, std::int32_t(2))), "");
+    probe.client.showPictures(160, 120);
+    EXPECT_GE(colorOfSquare(probe)[0], 0); // it draws
+}
+
+// What draws tells arrays apart by address and count, and new ones lie where the former ones did.
+TEST_F(OsgViewer, DrawsAShapeThatIsMadeAnewFromABuffer)
+{
+    for (const char* other : {"mover", "chooser", "levels", "turns", "words"})
+        EXPECT_TRUE(probe.write(nodeNamed(probe, other), "NodeMask", packed(ValueKind::UInt32, 0U)).taken);
+    const NodeId ball = nodeNamed(probe, "ball");
+    const NodeId sphere = objectIn(probe, ball, "Shape");
+    ASSERT_NE(sphere, 0U);
+    EXPECT_TRUE(probe.write(ball, "UseDisplayList", packed(ValueKind::Bool, std::uint8_t(0))).taken);
+    EXPECT_TRUE(probe.write(ball, "UseVertexBufferObjects", packed(ValueKind::Bool, std::uint8_t(1))).taken);
+    probe.client.showPictures(160, 120);
+    for (int i = 0; i < 20; ++i) {
+        int answered = 0;
+        for (int k = 0; k < 6; ++k) // most of them between the same two frames
+            probe.client.write(sphere, "Radius", packed(ValueKind::Float, 0.2F + float((i + k) % 3) / 10),
+                               [&answered](const WriteResult& result) { answered += result.taken; });
+        EXPECT_TRUE(probe.runUntil([&] { return answered == 6; })) << probe.end;
+        probe.pictures.clear();
+        ASSERT_TRUE(probe.runUntil([&] { return probe.pictures.size() >= 2; })) << probe.end;
+    }
 }
 
 TEST_F(OsgViewer, RemovesAndPutsBackWithWhatTheGroupKeepsForAChild)
@@ -358,6 +415,7 @@ TEST_F(OsgViewer, RunsOnWhenAnInspectorIsGone)
 
 TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
 {
+    waitUntilDrawn(probe);
     const NodeId world = nodeNamed(probe, "world");
     const Snapshot before = snapshotOf(probe, world);
     std::vector<std::pair<NodeId, PropertyInfo>> places;
@@ -365,7 +423,8 @@ TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
     for (const auto& [place, value] : before)
         if (known.insert(place.first).second)
             for (const PropertyInfo& info : probe.properties(place.first))
-                if (info.writable && info.kind != ValueKind::Object && info.name != letsGo)
+                if (info.writable && info.kind != ValueKind::Object && info.name != letsGo &&
+                    before.count({place.first, info.name}) == 1)
                     places.push_back({place.first, info});
     ASSERT_GT(places.size(), 200U);
     std::mt19937 random(walkSeed());
@@ -378,31 +437,43 @@ TEST_F(OsgViewer, TakesRandomEditsAndTheirUndo)
     std::vector<Step> undo;
     unsigned answered = 0;
     const unsigned steps = walkSteps();
+    std::deque<std::string> last; // what to look at where the program ends
+    const auto write = [&](NodeId node, const std::string& name, const Value& value, const auto& done) {
+        last.push_back(std::to_string(node) + "." + name + " ");
+        if (last.size() > 50)
+            last.pop_front();
+        probe.client.write(node, name, value, done);
+    };
+    const auto story = [&] {
+        std::string text = probe.end + ", seed " + std::to_string(walkSeed()) + ", after ";
+        for (const std::string& edit : last)
+            text += edit;
+        return text;
+    };
     for (unsigned i = 0; i < steps; ++i) {
         const auto& [node, info] = places[random() % places.size()];
         const Value& present = now[{node, info.name}];
         // Of the value it had at first, or a shape would get finer and finer, for example.
         const Value next = changed(info, before.at({node, info.name}), unsigned(random()));
         const Step back{node, info.name, present};
-        probe.client.write(node, info.name, next, [&, back](WriteResult result) {
+        write(node, info.name, next, [&, back](WriteResult result) {
             ++answered;
             if (result.taken)
                 undo.push_back(back);
             now[{back.node, back.name}] = result.value;
         });
         if (i % 50 == 49) {
-            ASSERT_TRUE(probe.runUntil([&] { return answered == i + 1; })) << "seed " << walkSeed();
+            ASSERT_TRUE(probe.runUntil([&] { return answered == i + 1; })) << story();
         }
     }
-    ASSERT_TRUE(probe.runUntil([&] { return answered == steps; }));
+    ASSERT_TRUE(probe.runUntil([&] { return answered == steps; })) << story();
     EXPECT_GT(undo.size(), steps / 2);
     unsigned undone = 0;
     unsigned asked = 0;
     for (auto step = undo.rbegin(); step != undo.rend(); ++step) {
-        probe.client.write(step->node, step->name, step->value, [&](const WriteResult&) { ++undone; });
+        write(step->node, step->name, step->value, [&](const WriteResult&) { ++undone; });
         if (++asked % 50 == 0 || asked == undo.size()) {
-            ASSERT_TRUE(probe.runUntil([&] { return undone == asked; }))
-                << probe.end << ", seed " << walkSeed();
+            ASSERT_TRUE(probe.runUntil([&] { return undone == asked; })) << story();
         }
     }
     const Snapshot after = snapshotOf(probe, world);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The table of what fields mean: complete, and the words that docs/nodes.md has.
 #include "fields/FieldOrder.h"
+#include "fields/NodeDescription.h"
 
 #include <scopix/editing/descriptions/SpxFieldDescription.h>
 #include <xsg/core/SoField.h>
@@ -44,6 +45,18 @@ std::map<Key, QString> meaningsOfThePage()
 }
 
 } // namespace
+
+// A meaning that is not marked for translation is missing in the catalogue, and stays in English.
+TEST(Descriptions, OfNodesAreInTheCatalogue)
+{
+    QFile file(QStringLiteral(SCOPIX_SOURCE_DIR "/i18n/SpxInspector_de.ts"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString catalogue = QString::fromUtf8(file.readAll());
+    for (const NodeDescription& each : allNodeDescriptions()) {
+        const QString source = text(each.meaning).toHtmlEscaped().replace("&quot;", "\"");
+        EXPECT_TRUE(catalogue.contains("<source>" + source + "</source>")) << source.toStdString();
+    }
+}
 
 TEST(Descriptions, AreThoseOfThePageOfNodes)
 {

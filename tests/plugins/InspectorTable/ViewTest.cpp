@@ -76,8 +76,13 @@ TEST_F(VectorTable, TabLeavesBehindTheLastCellAndControlTabAnywhere)
     EXPECT_NE(QApplication::focusWidget(), nullptr);
     view().setFocus();
     goTo(0, 0);
+    QAction rival; // as a window's act
+    rival.setShortcut(Qt::CTRL + Qt::Key_Tab);
+    view().window()->addAction(&rival);
+    QSignalSpy taken(&rival, &QAction::triggered);
     key(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(view().hasFocus());
+    EXPECT_TRUE(taken.isEmpty());
     view().setFocus();
     key(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "line");

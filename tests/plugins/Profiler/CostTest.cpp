@@ -11,10 +11,12 @@
 
 #include <support/Session.h>
 
+#include <xsg/actions/SoHiding.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/shapes/SoSphere.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+#include <xsg/render/SoOffscreenRenderer.h>
 
 #include <QLabel>
 #include <QListWidget>
@@ -68,6 +70,16 @@ protected:
         tree->setCurrentItem(item);
         return item;
     }
+    QTreeWidgetItem* itemOf(const SoNode* node)
+    {
+        QTreeWidgetItem* top = panel.findChild<QTreeWidget*>("costTree")->topLevelItem(0);
+        const std::vector<SoBranchCost>& branches = panel.getRun().getCosts().branches;
+        for (int i = 0; i < top->childCount(); ++i) {
+            if (branches[top->child(i)->data(0, Qt::UserRole).toUInt()].node.get() == node)
+                return top->child(i);
+        }
+        return nullptr;
+    }
     QString inTree(const SoNode* node, const char* caption)
     {
         const SceneTreeModel& model = window().getTree().getModel();
@@ -76,6 +88,21 @@ protected:
                 return model.indexOf(node).siblingAtColumn(column).data().toString();
         }
         return "no column";
+    }
+    // Where the picture of the page goes.
+    void saveColors(SceneView& view)
+    {
+        const QByteArray folder = qgetenv("SCOPIX_PICTURES");
+        if (folder.isEmpty())
+            return;
+        const SoShapeColors colors = view.getShapeColors();
+        SoOffscreenRenderer renderer;
+        renderer.getRenderer().setShapeColors(&colors);
+        renderer.getRenderer().setBackground({0.25F, 0.25F, 0.27F});
+        SoPixels pixels;
+        ASSERT_TRUE(renderer.render(root.get(), &view.getCamera(), 720, 300, pixels));
+        const QImage image(pixels.rgba.data(), 720, 300, QImage::Format_RGBA8888);
+        EXPECT_TRUE(image.save(QString::fromLocal8Bit(folder) + "/cost-colors.png"));
     }
     QString line() { return panel.findChild<QLabel*>("costLine")->text(); }
 
@@ -204,6 +231,78 @@ TEST_F(CostWidget, WhatTheUserHidesIsNotMeasured)
     EXPECT_TRUE(window().getStates().isHidden(large));
 }
 
+// Each column and each area beside what a walk, a picture and the costs tell.
+TEST_F(CostWidget, EveryFigureIsWhatWasCounted)
+{
+    measure();
+    const SoCosts& costs = panel.getRun().getCosts();
+    const std::int64_t ofLarge = costs.branches.front().triangles - 12;
+    EXPECT_EQ(costs.find(large)->triangles, ofLarge);
+    EXPECT_EQ(ofLarge, 8 * costs.find(large->getChild(1))->triangles);
+    for (const auto& [node, bodies] : {std::pair{large, 8}, std::pair{small, 1}}) {
+        const QTreeWidgetItem* item = itemOf(node);
+        ASSERT_TRUE(item);
+        SoOffscreenRenderer renderer;
+        SoHiding hiding;
+        hiding.isolate({node});
+        renderer.setSamples(1);
+        renderer.getRenderer().setHiding(&hiding);
+        renderer.getRenderer().setCountsPixels(true);
+        SoPixels pixels;
+        auto* view = window().findChild<SceneView*>();
+        const QSize size = panel.getRun().getSize();
+        ASSERT_TRUE(renderer.render(root.get(), &view->getCamera(), size.width(), size.height(), pixels));
+        const auto& drawn = renderer.getRenderer().getStatistics();
+        const auto shown = [&](int column) { return item->data(column, Qt::DisplayRole).toDouble(); };
+        EXPECT_EQ(shown(6), bodies);
+        EXPECT_EQ(shown(5), drawn.triangles);
+        EXPECT_EQ(shown(7), drawn.drawCalls);
+        EXPECT_EQ(shown(9), drawn.pixels);
+        EXPECT_NEAR(shown(8), double(costs.find(node)->meshBytes + costs.find(node)->pictureBytes) / 1000,
+                    0.001);
+        EXPECT_NEAR(shown(1), costs.find(node)->getTime(), 0.001);
+    }
+    auto* map = panel.findChild<TreeMap*>("costMap");
+    const TreeMap::Figure figures[] = {
+        [](const SoBranchCost& each) { return each.getTime(); },
+        [](const SoBranchCost& each) { return double(each.triangles); },
+        [](const SoBranchCost& each) { return double(each.meshBytes + each.pictureBytes); },
+        [](const SoBranchCost& each) { return double(each.shapes); }};
+    for (int i = 0; i < 4; ++i) {
+        panel.findChild<QComboBox*>("areasFigure")->setCurrentIndex(i);
+        const auto sizeOf = [&](const SoNode* node) {
+            for (const TreeMap::Area& area : map->getAreas()) {
+                if (costs.branches[std::size_t(area.branch)].node.get() == node)
+                    return area.place.width() * area.place.height();
+            }
+            return 0.0;
+        };
+        if (figures[i](*costs.find(small)) <= 0 || figures[i](*costs.find(large)) <= 0) {
+            EXPECT_EQ(i, 0); // a time within the noise
+            continue;
+        }
+        const double wanted = figures[i](*costs.find(small)) / figures[i](*costs.find(large));
+        if (sizeOf(small) > 0) // none where it is too small to be seen
+            EXPECT_NEAR(sizeOf(small) / sizeOf(large), wanted, 0.02 * (1 + wanted)) << i;
+        else
+            EXPECT_LT(wanted, 0.1) << i;
+    }
+    panel.findChild<QComboBox*>("areasFigure")->setCurrentIndex(0);
+}
+
+TEST_F(CostWidget, WhatIsIsolatedAwayIsNotMeasured)
+{
+    window().getStates().isolate({small});
+    measure();
+    const SoCosts& costs = panel.getRun().getCosts();
+    EXPECT_EQ(costs.branches.front().triangles, 12);
+    EXPECT_EQ(costs.branches.front().pixels, costs.find(small)->pixels);
+    EXPECT_GT(costs.find(small)->pixels, 0);
+    window().getStates().isolate({});
+    measure();
+    EXPECT_GT(panel.getRun().getCosts().branches.front().triangles, 12);
+}
+
 TEST_F(CostWidget, ColoursTheViewWhileItIsInSight)
 {
     auto* view = window().findChild<SceneView*>();
@@ -220,6 +319,7 @@ TEST_F(CostWidget, ColoursTheViewWhileItIsInSight)
         longest = std::max(longest, branch.node->asShape() ? HeatColors::timeOf(costs, branch) : 0);
     EXPECT_EQ(view->getShapeColors().get(*sphere),
               HeatColors::at(HeatColors::timeOf(costs, *costs.find(sphere)) / longest));
+    saveColors(*view);
     panel.hide();
     EXPECT_TRUE(view->getShapeColors().isEmpty());
     panel.show();

@@ -83,6 +83,46 @@ TEST(FrameFormula, KnowsTheUnitOfWhatItShows)
     EXPECT_EQ(unit("Triangles / DrawCalls"), "");
 }
 
+// Frames come at the end in any numbers, and go at the beginning.
+TEST(FrameFormula, FollowsASeriesAsIfItHadComeAtOnce)
+{
+    const SoFrameRecording all = makeFrames();
+    const auto part = [&](std::size_t first, std::size_t end) {
+        SoFrameRecording frames = all;
+        for (SoFrameColumn& column : frames.columns)
+            column.values = {column.values.begin() + std::ptrdiff_t(first),
+                             column.values.begin() + std::ptrdiff_t(end)};
+        return frames;
+    };
+    for (const char* text : {"Triangles / DrawCalls", "rate(Triangles)", "mean(Triangles, 1s)",
+                             "mean(rate(Triangles) / 3, 1s) - mean(Memory, 600 ms)"}) {
+        const std::vector<double> whole = FrameFormula(QString::fromLatin1(text)).evaluate(all);
+        FrameFormula formula{QString::fromLatin1(text)};
+        for (const auto& [first, end] : {std::pair{0, 1}, {0, 4}, {0, 4}, {2, 7}, {3, 10}}) {
+            const std::vector<double>& values =
+                formula.follow(part(std::size_t(first), std::size_t(end)), 1, std::uint64_t(first));
+            ASSERT_EQ(values.size(), std::size_t(end - first)) << text;
+            for (std::size_t i = 0; i < values.size(); ++i) {
+                const double wanted = whole[std::size_t(first) + i];
+                EXPECT_TRUE(std::abs(values[i] - wanted) < 1e-9 ||
+                            (std::isnan(values[i]) && std::isnan(wanted)))
+                    << text << " " << first + int(i) << ": " << values[i] << " " << wanted;
+            }
+        }
+        EXPECT_EQ(formula.getNumComputed(), 10U) << text;
+        formula.follow(part(3, 10), 2, 3); // another series
+        EXPECT_EQ(formula.getNumComputed(), 17U) << text;
+        SoFrameRecording more = part(3, 10);
+        more.columns[2].values = std::vector<std::int64_t>(7, 8);
+        more.columns[2].name = "Others";
+        formula.follow(more, 2, 3); // with other columns
+        EXPECT_FALSE(formula.getProblem().isEmpty()) << text;
+        EXPECT_TRUE(formula.getValues().empty()) << text;
+        EXPECT_EQ(formula.follow(part(3, 10), 2, 3).size(), 7U) << text;
+        EXPECT_TRUE(formula.getProblem().isEmpty()) << text;
+    }
+}
+
 TEST(FrameFormula, SaysWhatIsWrong)
 {
     for (const char* text : {"NoSuchCounter", "Triangles +", "rate(", "rate(rate(NoSuchCounter))", ""}) {

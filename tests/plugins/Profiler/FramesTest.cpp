@@ -12,6 +12,7 @@
 #include <support/Waiting.h>
 
 #include <xsg/counters/LibraryCounters.h>
+#include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 
@@ -192,13 +193,36 @@ TEST_F(FramesWidget, ACurveThatWasTypedShowsItsValueAndIsRemembered)
     QTest::keyClicks(input->lineEdit(), "Triangles / 8");
     QTest::keyClick(input->lineEdit(), Qt::Key_Return);
     ASSERT_EQ(panel->getCurves().size(), 1U);
-    EXPECT_EQ(panel->getCurves()[0].values, std::vector<double>(10, 12.5));
+    EXPECT_EQ(panel->getCurves()[0].getValues(), std::vector<double>(10, 12.5));
     auto* button = panel->findChild<QToolButton*>("curve0");
     EXPECT_TRUE(button->text().startsWith("Triangles / 8 12.5")) << qPrintable(button->text());
     EXPECT_EQ(FramesPanel(log).getCurves().size(), 1U);
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(panel->getCurves().size(), 0U);
     EXPECT_EQ(FramesPanel(log).getCurves().size(), 0U);
+}
+
+// However many frames there are, and while nobody looks on, none.
+TEST_F(FramesWidget, ACurveIsComputedForNewFramesOnly)
+{
+    ASSERT_TRUE(panel->addCurve("mean(Triangles, 500 ms) + Whole"));
+    addMany(1000);
+    const FrameFormula& formula = panel->getCurves()[0].formula;
+    const std::uint64_t before = formula.getNumComputed();
+    addMany(6);
+    EXPECT_EQ(formula.getNumComputed(), before + 6);
+    panel->resize(720, 300);
+    bars().scroll(-100);
+    EXPECT_EQ(formula.getNumComputed(), before + 6);
+    EXPECT_EQ(panel->getCurves()[0].getValues(),
+              FrameFormula(formula.getText()).evaluate(panel->getStore().getFrames()));
+
+    ASSERT_EQ(panel->getStore().startRecording(settings.filePath("test.xsgframes")), QString());
+    panel->hide();
+    addMany(5);
+    EXPECT_EQ(formula.getNumComputed(), before + 6);
+    panel->show();
+    EXPECT_EQ(formula.getNumComputed(), before + 11);
 }
 
 TEST_F(FramesWidget, ACurveThatCannotBeComputedIsRefusedInASentence)
@@ -216,8 +240,32 @@ TEST_F(FramesWidget, CountersOfAllKindsAreNotedWithEachFrame)
     xsg::feeds.picks.add(3);
     add(1);
     panel->getStore().takeNow();
-    EXPECT_EQ(panel->getCurves()[0].values.back(), 3);
-    EXPECT_EQ(panel->getCurves()[1].values.back(), static_cast<double>(xsg::feeds.nodesAlive.get()));
+    EXPECT_EQ(panel->getCurves()[0].getValues().back(), 3);
+    EXPECT_EQ(panel->getCurves()[1].getValues().back(), static_cast<double>(xsg::feeds.nodesAlive.get()));
+}
+
+TEST_F(FramesWidget, ACounterWithAScaleShowsWhatItTells)
+{
+    SoPerfCounterManager& manager = *SoPerfCounterManager::getInstance();
+    auto* counter = new SoPerfStateCounter("Load", "", "", SoPerfCounter::LOW);
+    counter->setScaleFactor(1e6);
+    ASSERT_TRUE(manager.registerCounter(counter));
+    ASSERT_TRUE(panel->addCurve("Load * 2"));
+    add(1);
+    counter->setState(2'500'000);
+    add(1);
+    panel->getStore().takeNow();
+    EXPECT_EQ(panel->getCurves()[0].getValues().back(), 5);
+    const QString path = settings.filePath("test.csv");
+    EXPECT_EQ(RecordingFiles::write(path, panel->getStore().getFrames()), QString());
+    SoFrameRecording again;
+    QString problem;
+    ASSERT_TRUE(RecordingFiles::read(path, again, problem)) << qPrintable(problem);
+    ASSERT_TRUE(again.findColumn("Load"));
+    EXPECT_EQ(again.findColumn("Load")->getKnown().back(), 2.5);
+    EXPECT_EQ(again.findColumn("Load")->getShownUnit(), "");
+    manager.disableCounter("Load");
+    manager.removeDisabledCounters();
 }
 
 TEST_F(FramesWidget, ARecordingCanBeOpenedAgain)

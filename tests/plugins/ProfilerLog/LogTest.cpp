@@ -14,6 +14,7 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
+#include <map>
 #include <random>
 #include <thread>
 
@@ -330,6 +331,34 @@ TEST_F(Log, ManyThreadsLoseNothing)
         const int worker = text.section(": ", 0, 0).toInt();
         EXPECT_EQ(text.section(": ", 1).toInt(), next[worker]++);
     }
+}
+
+// Many rows of few hashes, while the first ones go.
+TEST(RowsByHash, FindsTheRowThatIsWantedAmongThoseKept)
+{
+    constexpr std::int64_t Rows = 20000;
+    constexpr std::int64_t Kept = 3000;
+    constexpr std::int64_t Texts = 500;
+    constexpr std::uint32_t Hashes[] = {0, 1, 0xffffffff, 0x80000000, 17};
+    RowsByHash rows;
+    std::map<std::int64_t, std::int64_t> added; // the last row of each text
+    for (std::int64_t row = 0; row < Rows; ++row) {
+        const std::int64_t text = row % Texts;
+        const std::int64_t firstKept = std::max<std::int64_t>(0, row - Kept);
+        const auto isEqual = [&](std::uint64_t other) {
+            return std::int64_t(other) >= firstKept && std::int64_t(other) % Texts == text;
+        };
+        const std::uint32_t hash = Hashes[text % 5];
+        rows.prefetch(hash);
+        const std::int64_t found =
+            rows.findOrAdd(hash, std::uint64_t(row), std::uint64_t(firstKept), isEqual);
+        const bool isThere = added.count(text) > 0 && added[text] >= firstKept;
+        ASSERT_EQ(found, isThere ? added[text] : -1) << row;
+        if (!isThere)
+            added[text] = row;
+    }
+    rows.clear();
+    EXPECT_EQ(rows.findOrAdd(17, 0, 0, [](std::uint64_t) { return true; }), -1);
 }
 
 TEST(TextFinder, FindsWhatAPlainLoopFinds)

@@ -178,8 +178,13 @@ TYPED_TEST(Look, TabLeavesTheTableAfterItsLastCell)
 
     f.table().setFocus();
     f.table().setCurrentCell(0, 0);
+    QAction rival; // as a window's act
+    rival.setShortcut(Qt::CTRL + Qt::Key_Tab);
+    f.table().window()->addAction(&rival);
+    QSignalSpy taken(&rival, &QAction::triggered);
     QTest::keyClick(&f.table(), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_FALSE(isInside(QApplication::focusWidget(), f.table()));
+    EXPECT_TRUE(taken.isEmpty());
 
     f.field.setNum(0);
     TestHost::pump();

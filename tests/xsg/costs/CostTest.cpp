@@ -238,7 +238,14 @@ protected:
 
     SoCosts measure(const std::vector<const SoNode*>& hidden = {})
     {
-        SoCostMeter meter(root.get(), camera.get(), Width, Height, {}, hidden);
+        SoHiding hiding;
+        for (const SoNode* node : hidden)
+            hiding.setHidden(node, true);
+        return measure(hiding);
+    }
+    SoCosts measure(const SoHiding& hiding)
+    {
+        SoCostMeter meter(root.get(), camera.get(), Width, Height, {}, hiding);
         while (meter.step())
             ;
         EXPECT_EQ(meter.getErrorText(), "");
@@ -287,6 +294,37 @@ TEST_F(SquaresScene, HasAsManyPixelsAsItsPicturesShow)
     // Those that are drawn over are counted again.
     EXPECT_EQ(costs.find(root.get())->pixels, sum);
     EXPECT_LT(covered(root.get()), sum);
+}
+
+// Of what stands beside and around it, only it is drawn.
+TEST_F(SquaresScene, MeasuresOnlyWhatIsIsolated)
+{
+    auto* around = new SoSeparator;
+    root->addChild(around);
+    SoSeparator* outside = addSquare(*around, 1, 0, 1);
+    SoSeparator* inside = addSquare(*around, 1, 0, 2);
+    SoHiding hiding;
+    hiding.isolate({left, inside});
+    const SoCosts costs = measure(hiding);
+    const std::int64_t ofLeft = covered(left);
+    const std::int64_t ofInside = covered(inside);
+    EXPECT_GT(ofLeft, 20);
+    EXPECT_GT(ofInside, 5);
+    EXPECT_EQ(costs.find(root.get())->pixels, ofLeft + ofInside);
+    EXPECT_EQ(costs.find(root.get())->shapes, 2);
+    EXPECT_EQ(costs.find(root.get())->triangles, 4);
+    EXPECT_EQ(costs.find(left)->pixels, ofLeft);
+    EXPECT_EQ(costs.find(around)->pixels, ofInside);
+    EXPECT_EQ(costs.find(inside)->pixels, ofInside);
+    for (const SoNode* each : {outside, behind, right}) {
+        const SoBranchCost* other = costs.find(each);
+        EXPECT_TRUE(!other || (!other->isMeasured && other->shapes == 0));
+    }
+    SoWhatIfMeter without(root.get(), left, camera.get(), Width, Height, {}, hiding);
+    while (without.step())
+        ;
+    EXPECT_EQ(without.getErrorText(), "");
+    EXPECT_EQ(without.getWith().size(), without.getWithout().size());
 }
 
 TEST_F(SquaresScene, HasTheDrawCallsAndTheMemoryThatItsPicturesTake)

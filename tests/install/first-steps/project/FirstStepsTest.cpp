@@ -23,6 +23,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
@@ -34,6 +35,36 @@ constexpr int Patience = 60000; // milliseconds, of which a good run takes few
 QString text(const char* latin)
 {
     return QString::fromLatin1(latin);
+}
+
+bool isOther(QRgb one, QRgb other)
+{
+    constexpr int Tolerance = 64;
+    return std::abs(qRed(one) - qRed(other)) > Tolerance ||
+           std::abs(qGreen(one) - qGreen(other)) > Tolerance ||
+           std::abs(qBlue(one) - qBlue(other)) > Tolerance;
+}
+
+int countOthers(const QImage& one, const QImage& other)
+{
+    int others = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            others += isOther(one.pixel(x, y), other.pixel(x, y)) ? 1 : 0;
+    return others;
+}
+
+// The page shows the window as it is now: what has moved or come in it differs in more than edges of letters.
+void expectCurrent(const QImage& picture, const QString& name)
+{
+    constexpr int OthersInThousand = 5;
+    const QImage shown(text(PICTURES "/") + name);
+    ASSERT_EQ(shown.size(), picture.size()) << qPrintable(name);
+    const int others = countOthers(picture, shown);
+    EXPECT_LE(others * 1000, OthersInThousand * picture.width() * picture.height())
+        << qPrintable(name) << ": " << others
+        << " pixels differ from docs/pictures/tutorial; if the window is to "
+        << "look so, make the pictures again as the end of docs/tutorial.md says";
 }
 
 /// Answers the next file dialog with a name, as typed, and what is asked before it ends with its default.
@@ -137,6 +168,7 @@ protected:
         EXPECT_FALSE(picture.isNull());
         const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
         EXPECT_TRUE(folder.isEmpty() || picture.save(folder + QLatin1Char('/') + text(name) + text(".png")));
+        expectCurrent(picture, text(name) + text(".png"));
     }
     QString inFolder(const char* name) const { return m_folder.filePath(text(name)); }
 

@@ -1,0 +1,489 @@
+// SPDX-License-Identifier: MIT
+// Several scenes in one window, each in a tab.
+#include "window/SceneTabs.h"
+#include "panels/SceneTreeView.h"
+#include "services/HostServices.h"
+#include "structure/SceneStates.h"
+#include "support/UserNotifier.h"
+#include "viewport/SceneView.h"
+#include "window/MainWindow.h"
+#include "window/ReloadBar.h"
+#include "window/SceneChanges.h"
+
+#include <support/Waiting.h>
+
+#include <xsg/core/SoField.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/nodes/cameras/SoCamera.h>
+#include <xsg/nodes/groups/SoSeparator.h>
+#include <xsg/nodes/properties/SoMaterial.h>
+#include <xsg/nodes/shapes/SoCube.h>
+#include <xsg/sensors/SoSensorQueue.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+
+using namespace scopix;
+
+namespace
+{
+
+// Answers each question of the window by the button of this name, and counts them.
+class Answers : public QObject
+{
+public:
+    explicit Answers(QString button)
+        : m_button(std::move(button))
+    {
+        startTimer(1);
+    }
+    QStringList texts() const { return m_texts; }
+
+protected:
+    void timerEvent(QTimerEvent* /*event*/) override
+    {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || box == m_last)
+            return;
+        m_last = box;
+        m_texts << box->text();
+        for (QAbstractButton* each : box->buttons()) {
+            if (each->text().remove('&') == m_button)
+                return each->click();
+        }
+        ADD_FAILURE() << "no button " << qPrintable(m_button);
+        box->reject();
+    }
+
+private:
+    QString m_button;
+    QPointer<QMessageBox> m_last;
+    QStringList m_texts;
+};
+
+struct Program {
+    Program()
+    {
+        QObject::connect(&notifier, &UserNotifier::told, [this](const QString& text) { told << text; });
+        window.getFiles().getScenes().setPause(20, 50);
+        window.show();
+        EXPECT_TRUE(waitForActive(&window)); // else shortcuts do not act
+    }
+
+    UserNotifier notifier;
+    HostServices services;
+    MainWindow window{services, notifier};
+    QStringList told;
+};
+
+class Tabs : public testing::Test
+{
+protected:
+    Tabs()
+    {
+        qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+        program = std::make_unique<Program>();
+    }
+    ~Tabs() override
+    {
+        program.reset();
+        qunsetenv("XDG_CONFIG_HOME");
+    }
+
+    // A scene with a few nodes that are called so.
+    QString makeFile(const QString& name)
+    {
+        SoRef<SoSeparator> root(new SoSeparator);
+        root->setName(SbName("root" + name.toStdString()));
+        for (int i = 0; i < 3; ++i) {
+            auto* group = new SoSeparator;
+            root->addChild(group);
+            auto* material = new SoMaterial;
+            material->setName(SbName("paint" + name.toStdString() + std::to_string(i)));
+            group->addChild(material);
+            group->addChild(new SoCube);
+        }
+        const QString path = home.filePath(name + ".xsg");
+        std::string error;
+        EXPECT_TRUE(SoSceneFile::write(root.get(), path.toStdString(), error)) << error;
+        return path;
+    }
+    void openInTab(const QString& path)
+    {
+        QSignalSpy opened(&files(), &SceneFiles::opened);
+        files().openInTab(path);
+        ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+        EXPECT_TRUE(opened.first().first().toBool());
+        settle();
+    }
+    void settle()
+    {
+        SoSensorQueue::getInstance().process();
+        QCoreApplication::processEvents();
+    }
+    SceneFiles& files() { return program->window.getFiles(); }
+    OpenScenes& scenes() { return files().getScenes(); }
+    SceneTabs& tabs() { return program->window.getTabs(); }
+    SceneTreeView& tree() { return program->window.getTree(); }
+    QString title() { return files().getDocument().getTitle(); }
+    std::string text() { return SoSceneFile::writeText(program->window.getScene()); }
+    void clickTab(int index, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(&tabs(), button, {}, tabs().tabRect(index).center());
+        settle();
+    }
+    void key(int key, Qt::KeyboardModifiers modifiers)
+    {
+        if (!program->window.isActiveWindow()) { // a dialog was
+            program->window.activateWindow();
+            ASSERT_TRUE(waitForActive(&program->window));
+        }
+        tree().setFocus();
+        QTest::keyClick(&tree(), static_cast<Qt::Key>(key), modifiers);
+        settle();
+    }
+    void clickRow(const QModelIndex& index)
+    {
+        tree().scrollTo(index);
+        QTest::mouseClick(tree().viewport(), Qt::LeftButton, {}, tree().visualRect(index).center());
+        settle();
+    }
+    void duplicate()
+    {
+        clickRow(tree().getModel().index(0, 0, tree().getModel().index(0, 0)));
+        key(Qt::Key_D, Qt::ControlModifier);
+    }
+    QStringList kept() const { return QDir(home.filePath("scopix/recovery")).entryList({"*.xsg"}); }
+
+    QTemporaryDir home;
+    std::unique_ptr<Program> program;
+};
+
+} // namespace
+
+TEST_F(Tabs, OneSceneShowsNone)
+{
+    EXPECT_TRUE(tabs().isHidden());
+    const QRect before = program->window.getView().geometry();
+    openInTab(makeFile("a"));
+    EXPECT_EQ(scenes().getAll().size(), 1U) << "nothing was done in the first one";
+    EXPECT_TRUE(tabs().isHidden());
+    EXPECT_EQ(program->window.getView().geometry(), before);
+    openInTab(makeFile("b"));
+    EXPECT_FALSE(tabs().isHidden());
+    ASSERT_EQ(tabs().count(), 2);
+    EXPECT_EQ(tabs().tabText(0), "a.xsg");
+    EXPECT_EQ(tabs().tabText(1), "b.xsg");
+    EXPECT_EQ(tabs().currentIndex(), 1);
+    const QRect withTabs = program->window.getView().geometry();
+    clickTab(0);
+    EXPECT_EQ(title(), "a.xsg");
+    EXPECT_EQ(program->window.getView().geometry(), withTabs);
+    files().closeScene(scenes().getFront());
+    settle();
+    EXPECT_TRUE(tabs().isHidden());
+    EXPECT_EQ(program->window.getView().geometry(), before);
+}
+
+TEST_F(Tabs, WhatIsOpenAlreadyComesToTheFront)
+{
+    const QString path = makeFile("a");
+    openInTab(path);
+    openInTab(makeFile("b"));
+    openInTab(path);
+    EXPECT_EQ(scenes().getAll().size(), 2U);
+    EXPECT_EQ(title(), "a.xsg");
+    files().openInTab(home.filePath("none.xsg"));
+    EXPECT_EQ(scenes().getAll().size(), 2U);
+    EXPECT_EQ(title(), "a.xsg");
+}
+
+TEST_F(Tabs, EachHasItsOwnUndoSelectionAndLook)
+{
+    openInTab(makeFile("a"));
+    openInTab(makeFile("b"));
+    key(Qt::Key_Tab, Qt::ControlModifier);
+    ASSERT_EQ(title(), "a.xsg");
+    const std::string first = text();
+    duplicate();
+    const std::string edited = text();
+    ASSERT_NE(edited, first);
+    EXPECT_EQ(tabs().tabText(0), "a.xsg ●");
+    const QList<SoPath> selected = program->services.getSelectedPaths();
+    ASSERT_FALSE(selected.isEmpty());
+    SoNode* hidden = selected.first().getTail();
+    program->window.getStates().setHidden({hidden}, true);
+    program->window.getView().turn(0.1F, 0.05F);
+    const SbVec3f place = program->window.getView().getCamera().position.getValue();
+    key(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_EQ(title(), "b.xsg");
+    EXPECT_FALSE(program->services.undoStack().canUndo());
+    EXPECT_FALSE(program->window.isWindowModified());
+    EXPECT_TRUE(program->services.getSelectedNodes().isEmpty());
+    EXPECT_TRUE(program->window.getStates().getHiding().isEmpty());
+    EXPECT_NE(program->window.getView().getCamera().position.getValue(), place);
+    key(Qt::Key_Z, Qt::ControlModifier);
+    clickTab(0);
+    EXPECT_EQ(text(), edited) << "undo in the other one has nothing to do here";
+    EXPECT_TRUE(program->window.isWindowModified());
+    EXPECT_TRUE(program->window.getStates().isHidden(hidden));
+    EXPECT_EQ(program->window.getView().getCamera().position.getValue(), place);
+    ASSERT_EQ(program->services.getSelectedPaths().size(), selected.size());
+    EXPECT_EQ(program->services.getSelectedPaths().first().getTail(), hidden);
+    EXPECT_FALSE(program->window.getChanges().takeChanges().empty());
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(), first);
+    EXPECT_EQ(tabs().tabText(0), "a.xsg");
+    EXPECT_FALSE(program->window.isWindowModified());
+}
+
+TEST_F(Tabs, ClosingAsksForWhatIsUnsaved)
+{
+    openInTab(makeFile("a"));
+    duplicate();
+    openInTab(makeFile("b"));
+    openInTab(makeFile("c"));
+    {
+        const Answers none("Cancel");
+        key(Qt::Key_F4, Qt::ControlModifier);
+        EXPECT_TRUE(none.texts().isEmpty());
+    }
+    EXPECT_EQ(scenes().getAll().size(), 2U);
+    {
+        const Answers cancel("Cancel");
+        clickTab(0, Qt::MiddleButton);
+        ASSERT_TRUE(waitFor([&] { return cancel.texts().size() == 1; }));
+        EXPECT_TRUE(cancel.texts().first().contains("a.xsg"));
+        clickTab(1);
+        EXPECT_FALSE(program->window.close());
+        EXPECT_EQ(cancel.texts().size(), 2);
+    }
+    EXPECT_EQ(scenes().getAll().size(), 2U);
+    EXPECT_EQ(title(), "a.xsg");
+    const Answers discard("Discard");
+    clickTab(0, Qt::MiddleButton);
+    EXPECT_TRUE(waitFor([&] { return scenes().getAll().size() == 1; }));
+    EXPECT_EQ(title(), "b.xsg");
+    EXPECT_EQ(text().find("painta"), std::string::npos);
+    key(Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_EQ(scenes().getAll().size(), 1U);
+    EXPECT_EQ(title(), "Welcome");
+    EXPECT_EQ(discard.texts().size(), 1);
+}
+
+TEST_F(Tabs, UnsavedEditsOfEachOutliveACrash)
+{
+    program->window.enterInteractiveMode();
+    openInTab(makeFile("a"));
+    duplicate();
+    const std::string first = text();
+    openInTab(makeFile("b"));
+    duplicate();
+    duplicate();
+    const std::string second = text();
+    ASSERT_TRUE(waitFor([this] { return kept().size() == 2; }));
+    program.reset(); // as at the end of a session that could not ask
+    program = std::make_unique<Program>();
+    {
+        const Answers recover("Recover");
+        program->window.enterInteractiveMode();
+        ASSERT_TRUE(waitFor([this] { return scenes().getAll().size() == 2; }));
+        EXPECT_EQ(recover.texts().size(), 2);
+    }
+    std::map<QString, std::string> found;
+    for (int i = 0; i < 2; ++i) {
+        clickTab(i);
+        found[title()] = text();
+        EXPECT_TRUE(program->window.isWindowModified());
+    }
+    EXPECT_EQ(found["a.xsg"], first);
+    EXPECT_EQ(found["b.xsg"], second);
+    const Answers discard("Discard");
+    EXPECT_TRUE(program->window.close());
+    EXPECT_TRUE(kept().isEmpty());
+}
+
+TEST_F(Tabs, TheFileOfAHiddenOneIsWatched)
+{
+    program->window.enterInteractiveMode();
+    const QString path = makeFile("a");
+    openInTab(path);
+    openInTab(makeFile("b"));
+    auto* bar = program->window.findChild<ReloadBar*>("reloadBar");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write("# more\n");
+    file.close();
+    SceneDocument& hidden = scenes().getAll().front()->getDocument();
+    ASSERT_TRUE(waitFor([&] { return hidden.getFileState() == SceneDocument::FileState::Changed; }));
+    EXPECT_TRUE(bar->isHidden());
+    clickTab(0);
+    EXPECT_FALSE(bar->isHidden());
+    clickTab(1);
+    EXPECT_TRUE(bar->isHidden());
+}
+
+TEST_F(Tabs, WhatIsReadMeanwhileComesToItsOwnPlace)
+{
+    openInTab(makeFile("a"));
+    openInTab(makeFile("b"));
+    const std::string second = text();
+    clickTab(0);
+    QSignalSpy opened(&files(), &SceneFiles::opened);
+    files().open(makeFile("c"));
+    if (opened.isEmpty())
+        clickTab(1);
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    EXPECT_EQ(tabs().tabText(0), "c.xsg");
+    EXPECT_EQ(tabs().tabText(1), "b.xsg");
+    clickTab(1);
+    EXPECT_EQ(text(), second);
+}
+
+namespace
+{
+
+int fromEnvironment(const char* name, int otherwise)
+{
+    bool isSet = false;
+    const int value = qEnvironmentVariableIntValue(name, &isSet);
+    return isSet ? value : otherwise;
+}
+
+// What each scene is known to hold, by its file.
+struct Known {
+    std::string first;
+    std::string now;
+};
+
+class TabsWalk : public Tabs
+{
+protected:
+    int below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+    QString front() { return title(); }
+
+    void openAny()
+    {
+        const QString name(QChar('a' + below(4)));
+        openInTab(makeFileOnce(name));
+        if (m_known.count(title()) == 0)
+            m_known[title()] = {text(), text()};
+    }
+    QString makeFileOnce(const QString& name)
+    {
+        const QString path = home.filePath(name + ".xsg");
+        return QFileInfo::exists(path) ? path : makeFile(name);
+    }
+    void selectAny()
+    {
+        QModelIndex index = tree().getModel().index(0, 0);
+        for (int depth = 1 + below(2); depth > 0 && tree().getModel().rowCount(index) > 0; --depth) {
+            tree().expand(index);
+            index = tree().getModel().index(below(tree().getModel().rowCount(index)), 0, index);
+        }
+        clickRow(index);
+    }
+    void editAny()
+    {
+        selectAny();
+        switch (below(4)) {
+        case 0:
+            return key(Qt::Key_D, Qt::ControlModifier);
+        case 1:
+            return key(Qt::Key_Delete, {});
+        case 2:
+            return key(Qt::Key_G, Qt::ControlModifier);
+        default:
+            key(Qt::Key_F2, {});
+            if (QWidget* line = tree().viewport()->findChild<QLineEdit*>()) {
+                QTest::keyClicks(line, "name");
+                QTest::keyClicks(line, QString::number(below(100)));
+                if (below(2) == 0)
+                    QTest::keyClick(line, Qt::Key_Return); // else it is left to what comes next
+            }
+        }
+    }
+    void switchTab()
+    {
+        if (tabs().count() < 2)
+            return;
+        if (below(2) == 0)
+            clickTab(below(tabs().count()));
+        else
+            key(Qt::Key_Tab, below(2) == 0 ? Qt::ControlModifier : Qt::ControlModifier | Qt::ShiftModifier);
+    }
+    void closeTab()
+    {
+        if (tabs().count() < 3)
+            return;
+        m_known.erase(title());
+        const Answers discard("Discard");
+        key(Qt::Key_F4, Qt::ControlModifier);
+    }
+    void act()
+    {
+        switch (below(12)) {
+        case 0:
+            return openAny();
+        case 1:
+            return closeTab();
+        case 2:
+        case 3:
+        case 4:
+            return switchTab();
+        case 5:
+        case 6:
+            return key(Qt::Key_Z, Qt::ControlModifier);
+        case 7:
+            return key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        default:
+            return editAny();
+        }
+    }
+    // The acts on what was in front before them may change only that.
+    void check(const QString& acted)
+    {
+        for (const OpenScene* each : scenes().getAll()) {
+            const SceneDocument& document = each->getDocument();
+            const std::string now = SoSceneFile::writeText(document.getRoot());
+            Known& known = m_known[document.getTitle()];
+            if (document.getTitle() != acted && document.getTitle() != title()) {
+                ASSERT_EQ(now, known.now) << qPrintable(document.getTitle());
+            }
+            known.now = now;
+            EXPECT_TRUE(now == known.first || document.isModified())
+                << qPrintable(document.getTitle()) << "\n"
+                << known.first << "\n"
+                << now;
+        }
+    }
+
+    std::map<QString, Known> m_known;
+    std::mt19937 m_random{unsigned(fromEnvironment("SCOPIX_WALK_SEED", 7))};
+};
+
+} // namespace
+
+TEST_F(TabsWalk, NoStepLandsInAnotherScene)
+{
+    openAny();
+    const int steps = fromEnvironment("SCOPIX_WALK_STEPS", 60);
+    for (int i = 0; i < steps; ++i) {
+        const QString before = title();
+        act();
+        check(before);
+        if (HasFatalFailure() || HasNonfatalFailure())
+            FAIL() << "at step " << i;
+    }
+    for (int i = 0; i < static_cast<int>(scenes().getAll().size()); ++i) {
+        clickTab(i);
+        for (int more = 0; more < 10000 && program->services.undoStack().canUndo(); ++more)
+            key(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(text(), m_known[title()].first) << qPrintable(title());
+    }
+}
