@@ -309,7 +309,7 @@ TEST_F(MillProcess, IsReportedAsGoneWhenItIsKilledAtAnyMoment)
         EXPECT_EQ(inspector.write(1, "radius", packed(ValueKind::Float, 1.0F)).refusal,
                   "The edit cannot be made: the program is not attached.");
     }
-    EXPECT_EQ(listPrograms().size(), 1U) << "what the others left was cleared away";
+    EXPECT_EQ(ownPrograms().size(), 1U) << "what the others left was cleared away";
 }
 
 TEST_F(MillProcess, SaysGoodbyeWhenItEnds)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -33,6 +34,16 @@ OwnRuntimeFolder::~OwnRuntimeFolder()
         setenv("XDG_RUNTIME_DIR", m_former.c_str(), 1);
     else
         unsetenv("XDG_RUNTIME_DIR");
+}
+
+std::vector<Program> ownPrograms()
+{
+    const char* folder = std::getenv("XDG_RUNTIME_DIR");
+    const std::string start = std::string(folder ? folder : "") + '/';
+    std::vector<Program> programs = listPrograms();
+    const auto isElsewhere = [&](const Program& each) { return each.socketPath.rfind(start, 0) != 0; };
+    programs.erase(std::remove_if(programs.begin(), programs.end(), isElsewhere), programs.end());
+    return programs;
 }
 
 bool Probe::runUntil(const std::function<bool()>& condition)

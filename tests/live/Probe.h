@@ -31,6 +31,9 @@ private:
     bool m_hadFormer;
 };
 
+/// The programs whose sockets are in the runtime directory of this test; others may run on this machine.
+std::vector<scopix::live::Program> ownPrograms();
+
 /// A client that keeps what it is told. `step` is called while it waits, as for a program in the same thread.
 class Probe : public scopix::live::ClientListener
 {

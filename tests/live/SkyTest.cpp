@@ -34,7 +34,7 @@ protected:
 
 TEST_F(Sky, IsListedUnderItsName)
 {
-    const std::vector<Program> programs = listPrograms();
+    const std::vector<Program> programs = ownPrograms();
     ASSERT_EQ(programs.size(), 1U);
     EXPECT_EQ(programs[0].name, "sky");
     EXPECT_EQ(programs[0].sceneGraph, "Sky 1.0");
@@ -94,5 +94,5 @@ TEST_F(Sky, IsSaidToHaveEndedWhenItIsKilled)
     program.signal(SIGKILL);
     probe.runUntil([&] { return !probe.end.empty(); });
     EXPECT_EQ(probe.end, "The program “sky” has ended or was killed.");
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
 }

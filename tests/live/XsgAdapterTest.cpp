@@ -196,7 +196,7 @@ TEST(XsgServer, AnswersFromTheSensorQueue)
     SoRef<SoSeparator> root(new SoSeparator);
     root->setName("Lent");
     const std::unique_ptr<void, void (*)(void*)> loaded(scopixLiveBegin(root.get(), "loaded"), scopixLiveEnd);
-    const std::vector<Program> programs = listPrograms();
+    const std::vector<Program> programs = ownPrograms();
     ASSERT_EQ(programs.size(), 1U);
     EXPECT_EQ(programs[0].name, "loaded");
     Probe probe([] { SoSensorQueue::getInstance().process(); });

@@ -177,7 +177,7 @@ TEST_F(OsgManners, AKilledProgramEndsTheConnectionAndNothingElse)
         probing.runUntil([&] { return !probing.end.empty(); });
         EXPECT_NE(probing.end, "");
     }
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
 }
 
 TEST_F(OsgManners, AProgramOutlivesItsKilledInspectors)
@@ -223,7 +223,7 @@ TEST_F(OsgManners, AProgramThatEndsByItselfEndsWell)
     EXPECT_EQ(program->process().waitForEnd(), 0);
     probe.runUntil([&] { return !probe.end.empty(); });
     EXPECT_NE(probe.end, "");
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
 }
 
 namespace
@@ -257,12 +257,12 @@ TEST_F(OsgManners, AProgramOnAnotherVersionRunsOnAndSaysSoOnce)
         outputOf(SCOPIX_OSG_OTHER_VERSION),
         "Scopix: the program uses libosgViewer.so.130, and only OpenSceneGraph 3.6.5 can be inspected.\n"
         "fine\nfine\n");
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
 }
 
 TEST_F(OsgManners, ProgramsWithoutOpenSceneGraphNoticeNothing)
 {
     OsgProgram program("/bin/echo fine");
     EXPECT_EQ(program.process().waitForEnd(), 0);
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
 }

@@ -74,7 +74,7 @@ std::string OsgProgram::waitForSocket()
 {
     const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     while (m_process.isRunning() && std::chrono::steady_clock::now() < patience) {
-        for (const Program& program : listPrograms())
+        for (const Program& program : ownPrograms())
             if (program.pid == m_process.pid())
                 return program.socketPath;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));

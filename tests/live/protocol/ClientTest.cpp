@@ -101,7 +101,7 @@ TEST(Versions, AreListed)
 {
     const OwnRuntimeFolder folder;
     const FakeProgram program(introducedAs(7));
-    const std::vector<Program> programs = listPrograms();
+    const std::vector<Program> programs = ownPrograms();
     ASSERT_EQ(programs.size(), 1U);
     EXPECT_EQ(programs[0].name, "fake");
     EXPECT_EQ(programs[0].protocolVersion, 7U);

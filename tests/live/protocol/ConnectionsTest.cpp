@@ -138,7 +138,7 @@ TEST(Folder, KeepsTheSocketWhenAForkedChildEndsTheServer)
     int status = 0;
     waitpid(child, &status, 0);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    EXPECT_EQ(listPrograms().size(), 1U);
+    EXPECT_EQ(ownPrograms().size(), 1U);
     connections.reset();
     EXPECT_FALSE(fs::exists(path));
 }
@@ -148,12 +148,12 @@ TEST(StaleSockets, AreClearedByThoseWhoComeNext)
     const OwnRuntimeFolder folder;
     ASSERT_EQ(ownSocketFolder().problem, "");
     const std::string first = leaveSocket(folder);
-    EXPECT_TRUE(listPrograms().empty());
+    EXPECT_TRUE(ownPrograms().empty());
     EXPECT_FALSE(fs::exists(first));
     const std::string second = leaveSocket(folder);
     const Connections connections(introduction(), Connections::Patience());
     EXPECT_FALSE(fs::exists(second));
-    EXPECT_EQ(listPrograms().size(), 1U);
+    EXPECT_EQ(ownPrograms().size(), 1U);
 }
 
 TEST(StaleSockets, AreSaidToHaveNobodyBehind)

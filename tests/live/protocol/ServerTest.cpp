@@ -76,7 +76,7 @@ TEST_F(Served, IsReachableForItsUserAlone)
 
 TEST_F(Served, AsksTheAdapterNothingUntilSomebodyIsAttached)
 {
-    EXPECT_EQ(listPrograms().size(), 1U);
+    EXPECT_EQ(ownPrograms().size(), 1U);
     for (int i = 0; i < 100; ++i)
         server->betweenFrames();
     EXPECT_FALSE(server->isAttached());
@@ -390,7 +390,7 @@ TEST(SeveralPrograms, AreListedByName)
     ToyScene scene;
     const Server second(scene, "second");
     const Server first(scene, "first");
-    const std::vector<Program> programs = listPrograms();
+    const std::vector<Program> programs = ownPrograms();
     ASSERT_EQ(programs.size(), 2U);
     EXPECT_EQ(programs[0].name, "first");
     EXPECT_EQ(programs[1].name, "second");
