@@ -487,3 +487,22 @@ TEST_F(TabsWalk, NoStepLandsInAnotherScene)
         EXPECT_EQ(text(), m_known[title()].first) << qPrintable(title());
     }
 }
+
+// Where SCOPIX_PICTURES names a folder, the picture of docs/start.md goes there.
+TEST_F(Tabs, HaveAPicture)
+{
+    program->window.resize(1200, 800);
+    for (const char* model : {"crate.gltf", "lighthouse.glb"})
+        openInTab(QStringLiteral(SCOPIX_SOURCE_DIR "/data/models/") + QLatin1String(model));
+    openInTab(QStringLiteral(SCOPIX_SOURCE_DIR "/data/scenes/showcase.xsg"));
+    duplicate();
+    clickTab(1);
+    program->window.statusBar()->clearMessage();
+    SoSensorQueue::getInstance().process();
+    const QImage picture = program->window.grab().toImage();
+    EXPECT_FALSE(picture.isNull());
+    const QString folder = qEnvironmentVariable("SCOPIX_PICTURES");
+    EXPECT_TRUE(folder.isEmpty() || picture.save(folder + QStringLiteral("/tabs.png")));
+    key(Qt::Key_Tab, Qt::ControlModifier);
+    key(Qt::Key_Z, Qt::ControlModifier); // nothing is asked about at the end
+}
