@@ -5,6 +5,7 @@
 #include <xsg/costs/SoCostMeter.h>
 #include <xsg/costs/SoWhatIfMeter.h>
 #include <xsg/nodes/cameras/SoPerspectiveCamera.h>
+#include <xsg/nodes/groups/SoLevelOfDetail.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -16,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <random>
 
 namespace
@@ -148,6 +150,50 @@ TEST(CostHints, NameEqualMaterials)
     const SoCostHint hint = firstHint(root.get());
     EXPECT_EQ(hint.kind, SoCostHint::EqualMaterials);
     EXPECT_EQ(hint.sentence, "25 materials are equal; one could serve all of them.");
+}
+
+TEST(CostHints, NameEqualLists)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    for (int i = 0; i < 30; ++i)
+        add<SoPoints>(*root)->points.setValue(SbVec3f(i < 24 ? 1.0F : 2.0F, 0, 0));
+    const SoCostHint hint = firstHint(root.get());
+    EXPECT_EQ(hint.kind, SoCostHint::EqualMeshes);
+    EXPECT_EQ(hint.sentence, "24 lists of points are equal; one could serve all of them.");
+}
+
+TEST(CostHints, NameTheTopOfWhatIsNotSeen)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    addMesh(*root, 50);
+    auto* behind = add<SoSeparator>(*root);
+    addMesh(*behind, 20);
+    addMesh(*behind, 10);
+    SoCosts costs = countCosts(root.get(), {});
+    for (SoBranchCost& branch : costs.branches)
+        branch.isUnseen = &branch >= costs.find(behind); // it and what is below it
+    const std::vector<SoCostHint> hints = findCostHints(costs, Width, Height);
+    ASSERT_EQ(hints.size(), 1U);
+    EXPECT_EQ(hints[0].kind, SoCostHint::Unseen);
+    EXPECT_EQ(hints[0].node.get(), behind);
+    EXPECT_EQ(hints[0].sentence.find("It is drawn, 30 triangles,"), 0U) << hints[0].sentence;
+}
+
+TEST(CostHints, OfferLevelsOfDetailWhereThereAreNone)
+{
+    SoRef<SoSeparator> root(new SoSeparator);
+    addMesh(*root, 20'000);
+    addMesh(*add<SoLevelOfDetail>(*add<SoSeparator>(*root)), 30'000);
+    std::map<bool, int> offers;
+    for (const SoCostHint& hint : findCostHints(countCosts(root.get(), {}), Width, Height)) {
+        ASSERT_EQ(hint.kind, SoCostHint::ManyTriangles);
+        const bool isWithout = hint.sentence.find("levels of detail would") != std::string::npos;
+        const char* triangles =
+            isWithout ? "40 % of all triangles, 20,000 of 50,000" : "60 % of all triangles, 30,000 of 50,000";
+        EXPECT_NE(hint.sentence.find(triangles), std::string::npos) << hint.sentence;
+        ++offers[isWithout];
+    }
+    EXPECT_EQ(offers, (std::map<bool, int>{{false, 1}, {true, 1}}));
 }
 
 TEST(CostCount, SumsUpTheTreeAndCountsWhatIsSharedOnce)
