@@ -1934,16 +1934,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Die Griffe ändern „%1“, das „%2“ bewegt.</translation>
     </message>
     <message>
+        <source>%1 nodes</source>
+        <translation>%1 Knoten</translation>
+    </message>
+    <message>
         <source>Put a Transform above “%1”.</source>
         <translation>Ein Transform über „%1“ setzen.</translation>
     </message>
     <message>
         <source>Put a Transform above each of %1 parts.</source>
         <translation>Je ein Transform über %1 Teile setzen.</translation>
-    </message>
-    <message>
-        <source>%1 nodes</source>
-        <translation>%1 Knoten</translation>
     </message>
     <message>
         <source>Move %1</source>

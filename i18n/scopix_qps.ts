@@ -1934,16 +1934,16 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ţĥé ĥàñdléš çĥàñĝé “%1”, wĥîçĥ mövéš “%2”. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>%1 nodes</source>
+        <translation>[%1 ñödéš ~~~]</translation>
+    </message>
+    <message>
         <source>Put a Transform above “%1”.</source>
         <translation>[Pûţ à Ţŕàñšföŕm àbövé “%1”. ~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Put a Transform above each of %1 parts.</source>
         <translation>[Pûţ à Ţŕàñšföŕm àbövé éàçĥ öf %1 pàŕţš. ~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1 nodes</source>
-        <translation>[%1 ñödéš ~~~]</translation>
     </message>
     <message>
         <source>Move %1</source>

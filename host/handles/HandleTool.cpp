@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "handles/HandleTool.h"
 
-#include "handles/PathPlace.h"
 #include "services/HostServices.h"
 #include "structure/SceneStates.h"
-#include "text/NodeText.h"
 #include "viewport/SceneView.h"
 
 #include <xsg/sensors/SoSensorQueue.h>
@@ -41,36 +39,6 @@ bool isNumberText(const QString& text)
 bool isPlain(const QKeyEvent& event)
 {
     return !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-}
-
-std::unique_ptr<HandleTarget> targetOf(const HandleSubject& subject, const PathPlace& part)
-{
-    const auto place = findPlace(subject.node);
-    if (!place)
-        return nullptr;
-    SoPath around;
-    for (int i = 0; i + 1 < subject.part.getLength(); ++i)
-        around.append(subject.part.getNode(i));
-    const auto scope = part.box.isEmpty() ? findPlace(around) : part;
-    return HandleTarget::make(subject.node.getTail(), place->toWorld,
-                              scope ? scope->toWorld.transform(scope->box) : SbBox3f());
-}
-
-// In a sentence, what is locked of the selected nodes and of what would be edited; empty for nothing.
-template <class Subjects>
-QString lockOf(const SceneStates& states, const QList<SoPath>& selected, const Subjects& subjects)
-{
-    std::vector<const SoNode*> nodes;
-    for (const SoPath& path : selected)
-        nodes.push_back(path.getTail());
-    for (const HandleSubject& subject : subjects)
-        nodes.push_back(subject.node.isEmpty() ? subject.group.get() : subject.node.getTail());
-    for (const SoNode* node : nodes) {
-        const QString refusal = states.refusalOf(*node);
-        if (!refusal.isEmpty())
-            return refusal;
-    }
-    return {};
 }
 
 } // namespace
@@ -123,8 +91,8 @@ void HandleTool::setOfWorld(bool on)
     if (on == m_ofWorld)
         return;
     m_ofWorld = on;
-    if (m_main.drag)
-        constrain(m_main.drag->getPart());
+    if (isDragging())
+        constrain(m_group.getDrag()->getPart());
     emit ofWorldChanged();
     m_view.repaintTools();
 }
@@ -163,67 +131,28 @@ void HandleTool::refresh()
 {
     if (isDragging() || !std::exchange(m_isStale, false))
         return;
-    m_main = {};
-    m_others.clear();
-    m_selected = m_mode == HandleMode::Select ? QList<SoPath>() : m_services.getSelectedPaths();
-    const auto subjects = findHandleSubjects({m_selected.begin(), m_selected.end()});
-    m_refusal = m_states ? lockOf(*m_states, m_selected, subjects) : QString();
-    if (!m_refusal.isEmpty() || subjects.empty())
-        return;
-    std::vector<Moved> all;
-    for (const HandleSubject& subject : subjects)
-        all.push_back(makeMoved(subject));
-    chooseMain(std::move(all));
-}
-
-// Without a target where it is not in sight.
-HandleTool::Moved HandleTool::makeMoved(const HandleSubject& subject)
-{
-    Moved made{subject, nullptr, nullptr, nullptr};
-    const auto part = findPlace(subject.part);
-    if (!part)
-        return made;
-    if (!subject.node.isEmpty()) {
-        made.target = targetOf(subject, *part);
-        return made;
-    }
-    const SbVec3f center = part->box.isEmpty() ? SbVec3f() : part->box.getCenter();
-    made.added = std::make_shared<AddedTransform>(subject, center);
-    made.target = HandleTarget::make(made.added->getTransform(), part->toWorld, {});
-    return made;
-}
-
-// The last one that can be changed in this way, and with it all others that can, by the same amounts.
-void HandleTool::chooseMain(std::vector<Moved> all)
-{
-    const auto can = [this](const Moved& each) { return each.target && each.target->can(m_mode); };
-    auto main = std::find_if(all.rbegin(), all.rend(), can);
-    if (main == all.rend())
-        main = all.rbegin();
-    m_main = std::move(*main);
-    for (Moved& each : all) {
-        if (m_main.target && can(each) && each.target->isFlat() == m_main.target->isFlat())
-            m_others.push_back(std::move(each));
-    }
+    const bool isOff = m_mode == HandleMode::Select;
+    m_group.find(isOff ? QList<SoPath>() : m_services.getSelectedPaths(), m_mode, m_states);
 }
 
 const HandleTarget* HandleTool::getTarget()
 {
     refresh();
-    return m_main.target.get();
+    return m_group.getTarget();
 }
 
 int HandleTool::getTargetCount()
 {
-    return getTarget() ? 1 + static_cast<int>(m_others.size()) : 0;
+    refresh();
+    return m_group.getCount();
 }
 
 HandleShape HandleTool::getShape()
 {
     refresh();
-    if (!m_main.target || m_mode == HandleMode::Select)
+    if (!m_group.getTarget() || m_mode == HandleMode::Select)
         return {};
-    return {*m_main.target, m_mode, m_ofWorld, m_view.getSight()};
+    return {*m_group.getTarget(), m_mode, m_ofWorld, m_view.getSight()};
 }
 
 void HandleTool::sayWhatIsMoved()
@@ -231,53 +160,15 @@ void HandleTool::sayWhatIsMoved()
     if (m_mode == HandleMode::Select)
         return;
     refresh();
-    const QString sentence = whatIsMoved();
+    const QString sentence = m_group.describe();
     if (!sentence.isEmpty())
         emit said(sentence);
-}
-
-QString HandleTool::whatIsMoved() const
-{
-    if (!m_refusal.isEmpty() || m_main.subject.isEmpty())
-        return m_refusal;
-    const QString part = nodeText(*m_main.subject.part.getTail());
-    if (!m_main.target)
-        return tr("There are no handles for “%1”: it is not in sight.").arg(part);
-    const QString node = nodeText(*m_main.target->getNode());
-    if (!m_main.target->can(m_mode))
-        return m_mode == HandleMode::Move   ? tr("“%1” cannot be moved: it has no place.").arg(node)
-               : m_mode == HandleMode::Turn ? tr("“%1” cannot be turned: it has no direction.").arg(node)
-                                            : tr("“%1” cannot be scaled: it has no size.").arg(node);
-    const std::size_t added = getAdded().size();
-    if (!m_others.empty())
-        return added == 0 ? tr("The handles change %1 nodes together.").arg(m_others.size() + 1)
-                          : tr("The handles change %1 parts together; dragging puts a Transform above %2 "
-                               "of them.")
-                                .arg(m_others.size() + 1)
-                                .arg(added);
-    if (added > 0)
-        return tr("Dragging a handle puts a Transform above “%1”.").arg(part);
-    if (m_main.subject.node.getTail() != m_main.subject.part.getTail())
-        return tr("The handles change “%1”, which moves “%2”.").arg(node, part);
-    return {};
-}
-
-std::vector<std::shared_ptr<AddedTransform>> HandleTool::getAdded() const
-{
-    std::vector<std::shared_ptr<AddedTransform>> added;
-    for (const Moved& each : m_others) {
-        if (each.added)
-            added.push_back(each.added);
-    }
-    if (m_main.added)
-        added.push_back(m_main.added);
-    return added;
 }
 
 bool HandleTool::begin(HandlePart part, Held held, const QPointF& place)
 {
     refresh();
-    if (!m_main.target || !m_main.target->can(m_mode))
+    if (!m_group.canBeDragged())
         return false;
     m_held = held;
     m_pressed = place;
@@ -288,39 +179,22 @@ bool HandleTool::begin(HandlePart part, Held held, const QPointF& place)
     return true;
 }
 
-// The others join where they can be changed in the same way.
 void HandleTool::beginDrags(HandlePart part)
 {
-    const auto drag = [this](Moved& each, HandlePart along) {
-        each.drag = std::make_unique<HandleDrag>(*each.target, m_mode, along, m_ofWorld, m_view.getSight(),
-                                                 m_pressed);
-    };
-    drag(m_main, part);
-    const HandlePart used = m_main.drag->getPart();
-    for (Moved& each : m_others) {
-        each.drag.reset();
-        if (usablePart(*each.target, m_mode, used) == used)
-            drag(each, used);
-    }
-    m_amounts = {m_main.drag->getNothing(), m_main.drag->getNothing()};
+    m_group.beginDrags(part, m_ofWorld, m_view.getSight(), m_pressed);
+    m_amounts = m_group.getNothing();
 }
 
 void HandleTool::apply(const HandleDrag::Amounts& amounts)
 {
-    m_edit.write([&] {
-        m_main.drag->apply(amounts);
-        for (const Moved& each : m_others) {
-            if (each.drag)
-                each.drag->apply(amounts);
-        }
-    });
+    m_edit.write([&] { m_group.apply(amounts); });
 }
 
 // The same drag along something else.
 void HandleTool::constrain(HandlePart part)
 {
     if (m_edit.isActive())
-        apply({m_main.drag->getNothing(), m_main.drag->getNothing()});
+        apply(m_group.getNothing());
     beginDrags(part);
     if (!m_typed.isEmpty())
         show(typedAmounts());
@@ -331,15 +205,8 @@ void HandleTool::constrain(HandlePart part)
 
 void HandleTool::beginEdit()
 {
-    const auto add = [this](const Moved& each) {
-        if (each.added)
-            m_edit.add(each.added);
-        else
-            m_edit.add(each.target->getNode(), each.target->getFields(m_mode));
-    };
-    std::for_each(m_others.begin(), m_others.end(), add);
-    add(m_main);
-    const auto added = getAdded();
+    m_group.addTo(m_edit);
+    const auto added = m_group.getAdded();
     if (!added.empty())
         selectParts(added);
 }
@@ -357,7 +224,7 @@ void HandleTool::show(const HandleDrag::Amounts& amounts)
 void HandleTool::selectParts(const std::vector<std::shared_ptr<AddedTransform>>& added)
 {
     QList<SoPath> paths;
-    for (SoPath path : m_selected) {
+    for (SoPath path : m_group.getSelected()) {
         for (const auto& each : added) {
             if (each->isIn())
                 path = each->pathWith(path);
@@ -374,15 +241,16 @@ void HandleTool::selectParts(const std::vector<std::shared_ptr<AddedTransform>>&
 void HandleTool::followMouse(const QPointF& place, bool snaps)
 {
     if (m_typed.isEmpty())
-        show(m_main.drag->getAmounts(place, snaps));
+        show(m_group.getDrag()->getAmounts(place, snaps));
 }
 
 void HandleTool::keep()
 {
     if (!isDragging())
         return;
-    const auto added = m_edit.isActive() ? getAdded() : std::vector<std::shared_ptr<AddedTransform>>();
-    const QString part = nodeText(*m_main.subject.part.getTail());
+    const auto added =
+        m_edit.isActive() ? m_group.getAdded() : std::vector<std::shared_ptr<AddedTransform>>();
+    const QString part = m_group.getPartName();
     m_edit.keep(stepName());
     const auto stays =
         std::count_if(added.begin(), added.end(), [](const auto& each) { return each->isIn(); });
@@ -399,7 +267,8 @@ void HandleTool::giveBack()
 {
     if (!isDragging())
         return;
-    const auto added = m_edit.isActive() ? getAdded() : std::vector<std::shared_ptr<AddedTransform>>();
+    const auto added =
+        m_edit.isActive() ? m_group.getAdded() : std::vector<std::shared_ptr<AddedTransform>>();
     m_edit.giveBack();
     if (!added.empty())
         selectParts(added);
@@ -408,9 +277,7 @@ void HandleTool::giveBack()
 
 void HandleTool::end()
 {
-    m_main.drag.reset();
-    for (Moved& each : m_others)
-        each.drag.reset();
+    m_group.endDrags();
     m_typed.clear();
     m_isStale = true;
     m_view.redraw();
@@ -418,8 +285,7 @@ void HandleTool::end()
 
 QString HandleTool::stepName() const
 {
-    const QString name =
-        m_others.empty() ? nodeText(*m_main.subject.part.getTail()) : tr("%1 nodes").arg(m_others.size() + 1);
+    const QString name = m_group.getName();
     switch (m_mode) {
     case HandleMode::Move:
         return tr("Move %1").arg(name);
@@ -432,9 +298,9 @@ QString HandleTool::stepName() const
 
 bool HandleTool::mousePressed(QMouseEvent& event)
 {
-    if (m_isPressed || (m_main.drag && m_held == Held::Mouse))
+    if (m_isPressed || (isDragging() && m_held == Held::Mouse))
         return true;
-    if (m_main.drag) // by keys; a press anywhere is Enter, or with another button Escape
+    if (isDragging()) // by keys; a press anywhere is Enter, or with another button Escape
         event.button() == Qt::LeftButton ? keep() : giveBack();
     if (event.button() != Qt::LeftButton || event.modifiers() & Qt::AltModifier)
         return false;
@@ -456,7 +322,7 @@ void HandleTool::pointTo(const QMouseEvent& event)
 bool HandleTool::mouseMoved(QMouseEvent& event)
 {
     pointTo(event);
-    if (m_main.drag && m_held == Held::Mouse) {
+    if (isDragging() && m_held == Held::Mouse) {
         followMouse(m_place, m_snaps);
         return true;
     }
@@ -464,7 +330,7 @@ bool HandleTool::mouseMoved(QMouseEvent& event)
         return true;
     const HandlePart before = m_hovered;
     m_hovered =
-        event.buttons() == Qt::NoButton && !m_main.drag ? getShape().partAt(m_place) : HandlePart::None;
+        event.buttons() == Qt::NoButton && !isDragging() ? getShape().partAt(m_place) : HandlePart::None;
     if (m_hovered != before)
         m_view.repaintTools();
     return m_hovered != HandlePart::None;
@@ -475,7 +341,7 @@ bool HandleTool::mouseReleased(QMouseEvent& event)
     if (!m_isPressed || event.button() != Qt::LeftButton)
         return m_isPressed;
     m_isPressed = false;
-    if (m_main.drag && m_held == Held::Mouse)
+    if (isDragging() && m_held == Held::Mouse)
         keep();
     return true;
 }
@@ -493,7 +359,7 @@ void HandleTool::mouseLeft()
 
 void HandleTool::focusLost()
 {
-    if (m_main.drag && m_held == Held::Keys)
+    if (isDragging() && m_held == Held::Keys)
         giveBack();
 }
 
@@ -505,8 +371,8 @@ bool HandleTool::isIdleKey(const QKeyEvent& event) const
 
 bool HandleTool::wantsKey(const QKeyEvent& event)
 {
-    if (!m_main.drag)
-        return isIdleKey(event) && (getTarget() || !m_refusal.isEmpty());
+    if (!isDragging())
+        return isIdleKey(event) && (getTarget() || !m_group.getRefusal().isEmpty());
     switch (event.key()) {
     case Qt::Key_Escape:
     case Qt::Key_Return:
@@ -527,15 +393,15 @@ bool HandleTool::keyPressed(QKeyEvent& event)
     if (!wantsKey(event))
         return false;
     const HandlePart part = partOfKey(event.key(), event.modifiers() & Qt::ShiftModifier);
-    if (!m_main.drag && !getTarget()) {
-        emit said(m_refusal);
+    if (!isDragging() && !getTarget()) {
+        emit said(m_group.getRefusal());
         return true;
     }
-    if (!m_main.drag)
+    if (!isDragging())
         return begin(part, Held::Keys, getShape().getCenter());
     if (part != HandlePart::None) {
         // The same axis once more: of the world, of what is moved.
-        if (usablePart(*m_main.target, m_mode, part) == m_main.drag->getPart())
+        if (usablePart(*m_group.getTarget(), m_mode, part) == m_group.getDrag()->getPart())
             setOfWorld(!m_ofWorld);
         else
             constrain(part);
@@ -557,10 +423,10 @@ bool HandleTool::keyPressed(QKeyEvent& event)
         nudge(step, 0);
         break;
     case Qt::Key_Down:
-        nudge(-step, m_main.drag->getCount() - 1);
+        nudge(-step, m_group.getDrag()->getCount() - 1);
         break;
     case Qt::Key_Up:
-        nudge(step, m_main.drag->getCount() - 1);
+        nudge(step, m_group.getDrag()->getCount() - 1);
         break;
     default:
         type(event);
@@ -573,7 +439,7 @@ void HandleTool::nudge(double steps, int component)
     m_typed.clear();
     HandleDrag::Amounts amounts = m_amounts;
     double& amount = amounts[static_cast<std::size_t>(component)];
-    const double step = std::abs(steps) * m_main.drag->getStep();
+    const double step = std::abs(steps) * m_group.getDrag()->getStep();
     amount = (std::round(amount / step) + (steps < 0 ? -1 : 1)) * step;
     show(amounts);
 }
@@ -593,7 +459,7 @@ bool HandleTool::type(const QKeyEvent& event)
 // What is not yet a number changes nothing.
 HandleDrag::Amounts HandleTool::typedAmounts() const
 {
-    HandleDrag::Amounts amounts{m_main.drag->getNothing(), m_main.drag->getNothing()};
+    HandleDrag::Amounts amounts = m_group.getNothing();
     const QStringList numbers = m_typed.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (int i = 0; i < std::min(2, int(numbers.size())); ++i) {
         bool isNumber = false;
@@ -612,8 +478,8 @@ void HandleTool::paint(QPainter& painter, const ViewSight& /*sight*/)
     const HandleShape shape = getShape();
     if (shape.isEmpty())
         return;
-    shape.paint(painter, m_main.drag ? m_main.drag->getPart() : m_hovered, m_main.drag != nullptr);
-    if (!m_main.drag)
+    shape.paint(painter, isDragging() ? m_group.getDrag()->getPart() : m_hovered, isDragging());
+    if (!isDragging())
         return;
     const QString text = amountText();
     QRectF label = painter.fontMetrics().boundingRect(text).adjusted(-6, -3, 6, 3);
@@ -631,15 +497,15 @@ QString HandleTool::amountText() const
 {
     static const char* const names[] = {"X", "Y", "Z"};
     QStringList words;
-    const int axis = axisOf(m_main.drag->getPart());
-    if (isAcross(m_main.drag->getPart()))
+    const int axis = axisOf(m_group.getDrag()->getPart());
+    if (isAcross(m_group.getDrag()->getPart()))
         words << QLatin1String(names[(axis + 1) % 3]) + QLatin1String(names[(axis + 2) % 3]);
     else if (axis >= 0)
         words << QLatin1String(names[axis]);
     if (!m_typed.isEmpty()) {
         words << m_typed + QChar(0x2502);
     } else {
-        for (int i = 0; i < m_main.drag->getCount(); ++i) {
+        for (int i = 0; i < m_group.getDrag()->getCount(); ++i) {
             const QString number = QString::number(m_amounts[static_cast<std::size_t>(i)], 'g', 5);
             words << (m_mode == HandleMode::Scale ? QStringLiteral("×") + number : number);
         }
@@ -653,7 +519,7 @@ QString HandleTool::amountText() const
 
 std::optional<QCursor> HandleTool::getCursor() const
 {
-    if (m_main.drag && m_held == Held::Mouse)
+    if (isDragging() && m_held == Held::Mouse)
         return QCursor(Qt::ClosedHandCursor);
     if (m_hovered != HandlePart::None)
         return QCursor(Qt::OpenHandCursor);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "handles/HandleDrag.h"
 #include "handles/HandleEdit.h"
+#include "handles/HandleGroup.h"
 #include "viewport/ViewTool.h"
 
 #include <QList>
@@ -38,7 +38,7 @@ public:
     /// Along the world's axes, as at first, or along those of what is moved.
     void setOfWorld(bool on);
     bool isOfWorld() const { return m_ofWorld; }
-    bool isDragging() const { return m_main.drag != nullptr; }
+    bool isDragging() const { return m_group.getDrag() != nullptr; }
     /// As they are on the screen now; empty where there are none.
     HandleShape getShape();
     /// Of what there are handles now, in the coordinates of the world.
@@ -66,21 +66,11 @@ signals:
 
 private:
     enum class Held { Mouse, Keys };
-    struct Moved {
-        HandleSubject subject;
-        std::unique_ptr<HandleTarget> target;
-        std::shared_ptr<AddedTransform> added; // not yet in the scene, unless it is being dragged
-        std::unique_ptr<HandleDrag> drag;      // null for what this drag leaves alone
-    };
 
     void selectionChanged();
     void stackMoved();
     void refresh();
-    static Moved makeMoved(const HandleSubject& subject);
-    void chooseMain(std::vector<Moved> all);
     void sayWhatIsMoved();
-    QString whatIsMoved() const;
-    std::vector<std::shared_ptr<AddedTransform>> getAdded() const;
     void beginDrags(HandlePart part);
     void apply(const HandleDrag::Amounts& amounts);
     void beginEdit();
@@ -108,11 +98,8 @@ private:
     bool m_ofWorld = true;
     bool m_isStale = true; // what there are handles of may be another
     QPointer<SceneStates> m_states;
-    QList<SoPath> m_selected;
     QList<SoFieldContainer*> m_known; // what was selected; only compared
-    QString m_refusal;                // why there are no handles for what is locked
-    Moved m_main;                     // where the handles are
-    std::vector<Moved> m_others;      // moved along with it
+    HandleGroup m_group;              // what they move
 
     HandleEdit m_edit;
     Held m_held = Held::Mouse;
