@@ -114,10 +114,10 @@ void LiveEdits::send(const NodeRef& node, LiveProperty& property)
     keepExact(property, property.known);
     property.isSent = true;
     LiveProperty* sent = &property;
-    const live::Value bytes = *value;
     ++m_numAsked;
-    m_scene.getLink().write(node->getId(), property.info.name, bytes,
-                            [=](const live::WriteResult& result) { answered(node, *sent, bytes, result); });
+    m_scene.getLink().write(
+        node->getId(), property.info.name, *value,
+        [=, bytes = *value](const live::WriteResult& result) { answered(node, *sent, bytes, result); });
 }
 
 // What a field shows of a value, by which the value is found again.
@@ -181,7 +181,8 @@ void LiveEdits::showAsTaken(LiveProperty& property, const live::Value& value)
 
 void LiveEdits::putBack(const NodeRef& node, LiveProperty& property, const QString& sentence)
 {
-    const NodeRef kept(node);
+    // The caller's may go meanwhile.
+    const NodeRef kept(node); // NOLINT(performance-unnecessary-copy-initialization)
     if (property.known.kind != live::ValueKind::None)
         showAsTaken(property, property.known);
     remark(property, sentence);
