@@ -14,6 +14,12 @@ constexpr std::size_t MostChildren = 32;
 constexpr int MostHidden = 32;
 constexpr std::int64_t FewTriangles = 200; // not worth hiding
 
+// What drawing it takes, roughly, however busy the machine is.
+double weightOf(const SoBranchCost& branch)
+{
+    return static_cast<double>(branch.triangles + 500 * branch.shapes);
+}
+
 // In milliseconds, of what is known.
 SoFrameSummary summaryOf(const std::vector<SoFrame>& frames, SoFrame::Figure figure)
 {
@@ -104,7 +110,9 @@ void SoCostMeter::next()
         addParts(0);
     } else if (m_stage == Stage::Parts) {
         const SoBranchCost& branch = m_costs.branches[static_cast<std::size_t>(m_branch)];
-        if (branch.getTime() >= LeastShare * root.getTime())
+        // Measured times alone would leave it to chance in quick scenes.
+        if (branch.getTime() >= LeastShare * root.getTime() ||
+            weightOf(branch) >= LeastShare * weightOf(root))
             addParts(m_branch);
     }
     if (m_stage == Stage::Parts && m_waiting.empty()) {
@@ -163,10 +171,7 @@ void SoCostMeter::addParts(int branch)
         if (m_costs.branches[i].parent == branch && m_costs.branches[i].shapes > 0)
             children.push_back(static_cast<int>(i));
     }
-    const auto weight = [this](int i) {
-        const SoBranchCost& each = m_costs.branches[static_cast<std::size_t>(i)];
-        return each.triangles + 500 * each.shapes;
-    };
+    const auto weight = [this](int i) { return weightOf(m_costs.branches[static_cast<std::size_t>(i)]); };
     std::stable_sort(children.begin(), children.end(), [&](int a, int b) { return weight(a) > weight(b); });
     children.resize(std::min(children.size(), MostChildren));
     for (const int child : children) {

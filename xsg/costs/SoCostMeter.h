@@ -7,8 +7,8 @@
 #include <deque>
 
 /// Measures what the branches of a scene cost, by drawing each of them alone, several times, in pictures of
-/// its own. A branch is looked into where it takes a good part of the whole. One picture is drawn by each
-/// step(), so that a program stays alive meanwhile:
+/// its own. A branch is looked into where it takes, or draws, a good part of the whole. One picture is drawn
+/// by each step(), so that a program stays alive meanwhile:
 ///
 ///     SoCostMeter meter(root, camera, 800, 600);
 ///     while (meter.step())
