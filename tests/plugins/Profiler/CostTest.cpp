@@ -281,9 +281,13 @@ TEST_F(CostWidget, EveryFigureIsWhatWasCounted)
             EXPECT_EQ(i, 0); // a time within the noise
             continue;
         }
-        const double wanted = figures[i](*costs.find(small)) / figures[i](*costs.find(large));
-        if (sizeOf(small) > 0) // none where it is too small to be seen
-            EXPECT_NEAR(sizeOf(small) / sizeOf(large), wanted, 0.02 * (1 + wanted)) << i;
+        // As to time, either may be the smaller one on a busy machine.
+        const bool isSwapped = figures[i](*costs.find(small)) > figures[i](*costs.find(large));
+        const SoNode* less = isSwapped ? large : small;
+        const SoNode* more = isSwapped ? small : large;
+        const double wanted = figures[i](*costs.find(less)) / figures[i](*costs.find(more));
+        if (sizeOf(less) > 0) // none where it is too small to be seen
+            EXPECT_NEAR(sizeOf(less) / sizeOf(more), wanted, 0.02 * (1 + wanted)) << i;
         else
             EXPECT_LT(wanted, 0.1) << i;
     }
@@ -317,8 +321,8 @@ TEST_F(CostWidget, ColoursTheViewWhileItIsInSight)
     double longest = 0;
     for (const SoBranchCost& branch : costs.branches)
         longest = std::max(longest, branch.node->asShape() ? HeatColors::timeOf(costs, branch) : 0);
-    EXPECT_EQ(view->getShapeColors().get(*sphere),
-              HeatColors::at(HeatColors::timeOf(costs, *costs.find(sphere)) / longest));
+    const double share = longest > 0 ? HeatColors::timeOf(costs, *costs.find(sphere)) / longest : 0;
+    EXPECT_EQ(view->getShapeColors().get(*sphere), HeatColors::at(share));
     saveColors(*view);
     panel.hide();
     EXPECT_TRUE(view->getShapeColors().isEmpty());
