@@ -6,6 +6,7 @@
 #include <xsg/nodes/properties/SoTexture2.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace scopix
 {
@@ -13,8 +14,11 @@ namespace scopix
 namespace
 {
 
-constexpr int FirstMs = 60; // what takes no longer is not worth a dialog, nor to come back for
-constexpr int TurnMs = 15;  // of reading, before the user's events are looked at again
+using Clock = xsg::SceneReader::Clock;
+
+constexpr int FirstMs = 60;          // what takes no longer is not worth a dialog, nor to come back for
+constexpr int TurnMs = 15;           // of reading, before the user's events are looked at again
+constexpr qint64 SmallFile = 16'384; // bytes: read at once, however busy the machine is
 
 } // namespace
 
@@ -34,7 +38,8 @@ void SceneImport::start(const QString& path)
     m_reading->getReader().setNodeListener([this](SoNode* node) { note(node); });
     openDialog(path);
     m_turn.start(0, this);
-    goOn(FirstMs);
+    goOn(QFileInfo(path).size() <= SmallFile ? Clock::time_point::max()
+                                             : Clock::now() + std::chrono::milliseconds(FirstMs));
 }
 
 void SceneImport::note(SoNode* node)
@@ -47,19 +52,18 @@ void SceneImport::note(SoNode* node)
 
 void SceneImport::timerEvent(QTimerEvent* /*event*/)
 {
-    goOn(TurnMs);
+    goOn(Clock::now() + std::chrono::milliseconds(TurnMs));
 }
 
-void SceneImport::goOn(int ms)
+void SceneImport::goOn(Clock::time_point until)
 {
-    const auto until = xsg::SceneReader::Clock::now() + std::chrono::milliseconds(ms);
     if (read(until) && (!m_scene || m_box.advance(until)))
         return report();
     showPercent(static_cast<int>(m_reading->getProgress() * 100)); // may run the event loop, and so cancel
 }
 
 // True when there is nothing more to read.
-bool SceneImport::read(xsg::SceneReader::Clock::time_point until)
+bool SceneImport::read(Clock::time_point until)
 {
     if (m_scene)
         return true;
