@@ -48,8 +48,8 @@ PluginTrial::Outcome PluginTrial::run(const QString& library, int patienceMs)
     QProcess trial;
     trial.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     trial.start(OwnLibrary::helperProgram(QStringLiteral("scopix-try-plugin")), {library});
-    if (!trial.waitForStarted(patienceMs))
-        return {}; // an incomplete installation: the plug-in is loaded as it is
+    if (!trial.waitForStarted(-1)) // which is known at once, as soon as the machine gets to it
+        return {};                 // an incomplete installation: the plug-in is loaded as it is
     trial.closeWriteChannel();
     if (!trial.waitForFinished(patienceMs)) {
         trial.kill();
