@@ -21,6 +21,7 @@ namespace
 
 constexpr int LookMs = 150;
 constexpr int LongestWaitMs = 20000;
+constexpr std::chrono::seconds PatienceWithAll{3}; // where the user waits for those that run
 constexpr int MostAncestors = 64;
 
 QString nameOf(const live::Program& program)
@@ -118,7 +119,7 @@ void LiveLaunch::fail(const QString& sentence)
 
 std::optional<live::Program> findProgram(const QString& word, QString& problem)
 {
-    const std::vector<live::Program> all = live::listPrograms();
+    const std::vector<live::Program> all = live::listPrograms(PatienceWithAll);
     std::vector<live::Program> found;
     const auto fits = [&word](const live::Program& each) {
         return QString::number(each.pid) == word || QString::fromStdString(each.socketPath) == word ||
@@ -158,7 +159,7 @@ std::optional<live::Program> findProgram(const QString& word, QString& problem)
 QString livePrograms()
 {
     QString lines;
-    for (const live::Program& each : live::listPrograms())
+    for (const live::Program& each : live::listPrograms(PatienceWithAll))
         lines += QStringLiteral("%1\t%2\t%3\t%4\n")
                      .arg(each.pid)
                      .arg(nameOf(each), printable(QString::fromStdString(each.sceneGraph)),

@@ -15,7 +15,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto TimeToConnect = 1s;
+constexpr auto TimeToConnect = 3s;                        // which only a program that is stopped takes
 constexpr std::size_t BytesAtOnce = std::size_t(8) << 20; // the rest is for the next call
 
 // An empty answer, and a refusal where there can be one.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -23,8 +24,9 @@ struct Program {
 };
 
 /// Every program of this user that listens; sockets that nobody listens at any more are left out and cleared
-/// away.
-SCOPIX_LIVE_API std::vector<Program> listPrograms();
+/// away. Those that do not answer for so long, because they are stopped, are left out.
+SCOPIX_LIVE_API std::vector<Program>
+listPrograms(std::chrono::milliseconds patience = std::chrono::milliseconds(500));
 
 /// What the server says by itself.
 class SCOPIX_LIVE_API ClientListener

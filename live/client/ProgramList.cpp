@@ -17,7 +17,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
 
 std::vector<std::string> socketsIn(const std::string& folder)
 {
@@ -49,10 +48,10 @@ std::vector<Handshake> openHandshakes()
 
 } // namespace
 
-std::vector<Program> listPrograms()
+std::vector<Program> listPrograms(std::chrono::milliseconds patience)
 {
     std::vector<Handshake> handshakes = openHandshakes();
-    Handshake::waitForAll(handshakes, 500ms);
+    Handshake::waitForAll(handshakes, patience);
     std::vector<Program> programs;
     for (const Handshake& handshake : handshakes)
         if (handshake.isGreeted())

@@ -314,12 +314,19 @@ TEST_F(MillProcess, IsReportedAsGoneWhenItIsKilledAtAnyMoment)
 
 TEST_F(MillProcess, SaysGoodbyeWhenItEnds)
 {
-    OtherProgram ending(commandOf({"--no-window", "--frames", "50"}));
-    Probe inspector;
-    ASSERT_EQ(inspector.client.connect(ending.socket()), "");
-    inspector.runUntil([&] { return !inspector.end.empty(); });
-    EXPECT_EQ(inspector.end, "The program “mill” has ended its connection.");
-    EXPECT_EQ(ending.waitForEnd(), 0);
+    std::string problem = "not tried";
+    // On a busy machine it may have ended before it is attached to.
+    for (int frames = 50; !problem.empty() && frames < 100'000; frames *= 4) {
+        OtherProgram ending(commandOf({"--no-window", "--frames", std::to_string(frames)}));
+        Probe inspector;
+        problem = inspector.client.connect(ending.socket());
+        if (!problem.empty())
+            continue;
+        inspector.runUntil([&] { return !inspector.end.empty(); });
+        EXPECT_EQ(inspector.end, "The program “mill” has ended its connection.");
+        EXPECT_EQ(ending.waitForEnd(), 0);
+    }
+    EXPECT_EQ(problem, "");
 }
 
 TEST_F(MillProcess, IsSaidToWaitWhileItIsStopped)
