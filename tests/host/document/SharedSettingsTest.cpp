@@ -20,10 +20,13 @@ namespace
 
 // The others may keep it locked for all the time that one waits.
 template <class Change>
-void untilFree(Change change)
+bool untilFree(Change change)
 {
-    while (!change().isEmpty())
-        continue;
+    for (int attempt = 0; attempt < 30; ++attempt) {
+        if (change().isEmpty())
+            return true;
+    }
+    return false;
 }
 
 class SharedSettings : public testing::Test
@@ -81,11 +84,14 @@ TEST_F(SharedSettings, OfProcessesAtOnceLoseNothing)
     inProcesses(Processes, [&](int number) {
         RecentFiles recent(path());
         const SettingsFile settings(path());
-        for (int step = 0; step < Steps; ++step) {
-            untilFree([&] { return recent.add(QString("/%1-%2.xsg").arg(number).arg(step % 3)); });
-            untilFree([&] { return settings.setValue(QString("key-%1-%2").arg(number).arg(step), step); });
+        bool isGood = true;
+        for (int step = 0; step < Steps && isGood; ++step) {
+            const QString file = QString("/%1-%2.xsg").arg(number).arg(step % 3);
+            const QString key = QString("key-%1-%2").arg(number).arg(step);
+            isGood = untilFree([&] { return recent.add(file); }) &&
+                     untilFree([&] { return settings.setValue(key, step); });
         }
-        return true;
+        return isGood;
     });
     const QStringList recent = RecentFiles(path()).list();
     EXPECT_EQ(recent.size(), 9);
