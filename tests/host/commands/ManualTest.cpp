@@ -62,7 +62,7 @@ QStringList completed(const QStringList& words)
     bash.start(QStringLiteral("bash"),
                QStringList{QStringLiteral("--norc"), QStringLiteral("-c"), run, QStringLiteral("bash")} +
                    words);
-    EXPECT_TRUE(bash.waitForFinished());
+    EXPECT_TRUE(bash.waitForFinished(120000));
     EXPECT_EQ(bash.readAllStandardError(), QByteArray());
     return QString::fromUtf8(bash.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

@@ -106,7 +106,7 @@ TEST_F(Import, CancelEndsTheReaderAtOnce)
 {
     import.start(shippedModel("lighthouse.glb"));
     ASSERT_TRUE(dialog());
-    ASSERT_TRUE(reader()->waitForStarted());
+    ASSERT_TRUE(reader()->waitForStarted(MostWaitMs));
     kill(static_cast<pid_t>(reader()->processId()), SIGSTOP); // as one that hangs
     emit dialog()->canceled();                                // what its button and Escape do
     EXPECT_EQ(told, QStringList{"cancelled"});
@@ -119,7 +119,7 @@ TEST_F(Import, CancelEndsTheReaderAtOnce)
 TEST_F(Import, ReportsACrashedReaderInOneSentence)
 {
     import.start(shippedModel("lighthouse.glb"));
-    ASSERT_TRUE(reader()->waitForStarted());
+    ASSERT_TRUE(reader()->waitForStarted(MostWaitMs));
     kill(static_cast<pid_t>(reader()->processId()), SIGKILL);
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(told, QStringList{"failed"});
@@ -130,7 +130,7 @@ TEST_F(Import, ReportsACrashedReaderInOneSentence)
 TEST_F(Import, ReportsAReaderThatNeverEnds)
 {
     import.start(shippedModel("lighthouse.glb"));
-    ASSERT_TRUE(reader()->waitForStarted());
+    ASSERT_TRUE(reader()->waitForStarted(MostWaitMs));
     kill(static_cast<pid_t>(reader()->processId()), SIGXCPU);
     ASSERT_TRUE(waitForEnd());
     EXPECT_TRUE(error.contains("takes too long")) << qPrintable(error);
@@ -223,7 +223,7 @@ TEST(ImportEnd, MayBeDeletedWhileItReads)
         ModelImport import(&window);
         import.start(shippedModel("lighthouse.glb"));
         auto* reader = import.findChild<QProcess*>();
-        ASSERT_TRUE(reader->waitForStarted());
+        ASSERT_TRUE(reader->waitForStarted(MostWaitMs));
         kill(static_cast<pid_t>(reader->processId()), SIGSTOP); // as one that hangs
     }
     QCoreApplication::processEvents();

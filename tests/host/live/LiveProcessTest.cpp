@@ -43,12 +43,14 @@ protected:
     ~LiveProcess() override
     {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(MostWaitMs);
     }
     QString start()
     {
         process.start(mill().first(), mill().mid(1));
-        return process.waitForReadyRead() ? QString::fromLocal8Bit(process.readLine()).trimmed() : QString();
+        while (!process.canReadLine() && process.waitForReadyRead(MostWaitMs))
+            ;
+        return QString::fromLocal8Bit(process.readLine()).trimmed();
     }
     std::unique_ptr<LiveScene> attach(const QString& socket)
     {
@@ -99,7 +101,7 @@ TEST_F(LiveProcess, IsListedFoundAndEdited)
     EXPECT_TRUE(findProgram(QStringLiteral("MIL"), problem));
     EXPECT_FALSE(findProgram(QStringLiteral("loom"), problem));
     EXPECT_TRUE(problem.contains("loom"));
-    EXPECT_TRUE(livePrograms().contains(socket));
+    EXPECT_TRUE(waitFor([&] { return livePrograms().contains(socket); }));
     const auto scene = attach(socket);
     SoSFFloat* height = findField(*scene, "height");
     ASSERT_TRUE(height);
@@ -127,7 +129,7 @@ TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
         }
         process.kill();
         ASSERT_TRUE(waitFor([&] { return scene->getState() == LiveScene::State::Ended; }));
-        process.waitForFinished();
+        process.waitForFinished(MostWaitMs);
         EXPECT_FALSE(scene->getEnd().isEmpty());
         const SoRef<SoFieldContainer> node(height->getContainer());
         EXPECT_FALSE(MirroredNode::of(node.get())->refusal().isEmpty());
@@ -176,7 +178,7 @@ TEST_F(LiveProcess, OffersTheChangesOfAKilledRunToTheNextOne)
     height->setValue(4.75F);
     ASSERT_TRUE(waitFor([&] { return !acts.getScene()->getEdits().getChanges().isEmpty(); }));
     process.kill();
-    process.waitForFinished();
+    process.waitForFinished(MostWaitMs);
     ASSERT_TRUE(waitFor([&] { return acts.getScene()->getState() == LiveScene::State::Ended; }));
     acts.attachTo(start());
     ASSERT_TRUE(waitFor([&] { return attached.size() == 2; }));

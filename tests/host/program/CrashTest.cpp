@@ -90,7 +90,7 @@ TEST_F(Crash, TheNextStartGivesTheEditsBack)
         start(killed, "edit", {scene, "--select", "Paint.transparency"});
         EXPECT_TRUE(waitFor([&] { return kept().contains("transparency: 0.5"); }));
         ::kill(static_cast<pid_t>(killed.processId()), SIGKILL);
-        ASSERT_TRUE(killed.waitForFinished());
+        ASSERT_TRUE(killed.waitForFinished(MostWaitMs));
         ASSERT_EQ(killed.exitStatus(), QProcess::CrashExit);
     }
     EXPECT_FALSE(contentOf(scene).contains("transparency"));

@@ -344,7 +344,7 @@ TEST_F(FramesWidget, ARecordingSurvivesThatTheProgramIsKilled)
         },
         120000));
     child.kill();
-    EXPECT_TRUE(child.waitForFinished());
+    EXPECT_TRUE(child.waitForFinished(MostWaitMs));
     EXPECT_EQ(child.exitStatus(), QProcess::CrashExit);
     SoFrameRecording recording;
     QString problem;
