@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>&amp;Find This Value</source>
-        <translation>Diesen Wert &amp;suchen</translation>
+        <translation>Diesen &amp;Wert suchen</translation>
     </message>
     <message>
         <source>Use as My Default for &amp;New Nodes</source>
@@ -912,7 +912,7 @@
         <translation>%1, darum lässt sie sich nicht als Verschieben, Drehen und Skalieren zeigen.</translation>
     </message>
     <message>
-        <source>Show Only C&amp;hanged</source>
+        <source>Sho&amp;w Only Changed</source>
         <translation>Nur &amp;Geändertes zeigen</translation>
     </message>
     <message>
@@ -920,12 +920,12 @@
         <translation>Werte &amp;kopieren</translation>
     </message>
     <message>
-        <source>&amp;Paste Values</source>
+        <source>Paste &amp;Values</source>
         <translation>Werte &amp;einfügen</translation>
     </message>
     <message>
-        <source>Copy Pat&amp;h</source>
-        <translation>Pf&amp;ad kopieren</translation>
+        <source>Cop&amp;y Path</source>
+        <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>
         <source>Copy as C+&amp;+</source>
@@ -1120,7 +1120,7 @@
         <translation>Wert &amp;kopieren</translation>
     </message>
     <message>
-        <source>&amp;Paste Value</source>
+        <source>Paste &amp;Value</source>
         <translation>Wert &amp;einfügen</translation>
     </message>
     <message>

@@ -912,20 +912,20 @@
         <translation>[%1, šö îţ çàññöţ bé šĥöwñ àš mövîñĝ, ţûŕñîñĝ àñd šçàlîñĝ. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Show Only C&amp;hanged</source>
-        <translation>[Šĥöw Öñlý Ç&amp;ĥàñĝéd ~~~~~~~]</translation>
+        <source>Sho&amp;w Only Changed</source>
+        <translation>[Šĥö&amp;w Öñlý Çĥàñĝéd ~~~~~~~]</translation>
     </message>
     <message>
         <source>&amp;Copy Values</source>
         <translation>[&amp;Çöpý Vàlûéš ~~~~~]</translation>
     </message>
     <message>
-        <source>&amp;Paste Values</source>
-        <translation>[&amp;Pàšţé Vàlûéš ~~~~~]</translation>
+        <source>Paste &amp;Values</source>
+        <translation>[Pàšţé &amp;Vàlûéš ~~~~~]</translation>
     </message>
     <message>
-        <source>Copy Pat&amp;h</source>
-        <translation>[Çöpý Pàţ&amp;ĥ ~~~~]</translation>
+        <source>Cop&amp;y Path</source>
+        <translation>[Çöp&amp;ý Pàţĥ ~~~~]</translation>
     </message>
     <message>
         <source>Copy as C+&amp;+</source>
@@ -1120,8 +1120,8 @@
         <translation>[&amp;Çöpý Vàlûé ~~~~]</translation>
     </message>
     <message>
-        <source>&amp;Paste Value</source>
-        <translation>[&amp;Pàšţé Vàlûé ~~~~~]</translation>
+        <source>Paste &amp;Value</source>
+        <translation>[Pàšţé &amp;Vàlûé ~~~~~]</translation>
     </message>
     <message>
         <source>Copy as &amp;Scene Text</source>

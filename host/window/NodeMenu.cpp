@@ -14,6 +14,7 @@
 #include <xsg/nodes/transforms/SoTransform.h>
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMenu>
 
 namespace scopix
@@ -40,7 +41,9 @@ NodeMenu::NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneT
     add(tr("Insert &File…"), {Qt::CTRL + Qt::Key_I}, [this] { m_files.askAndInsert(); });
     add(tr("Sa&ve Branch As…"), {QStringLiteral("Ctrl+U, B")}, [this] { m_files.askAndSave(); });
     m_tree.setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&m_tree, &QWidget::customContextMenuRequested, this, &NodeMenu::openAtRow);
+    connect(&m_tree, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& place) { open(m_tree.viewport()->mapToGlobal(place)); });
+    m_view.installEventFilter(this);
     connect(&m_tree, &SceneTreeView::eyeClicked, this,
             [this](const SoPath& path) { m_editing.toggleHidden({path}); });
 }
@@ -133,7 +136,17 @@ void NodeMenu::rename()
     m_tree.editName();
 }
 
-void NodeMenu::openAtRow(const QPoint& place)
+// The right button moves the view.
+bool NodeMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::ContextMenu ||
+        static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard)
+        return QObject::eventFilter(watched, event);
+    open(m_view.mapToGlobal(m_view.rect().center()));
+    return true;
+}
+
+void NodeMenu::open(const QPoint& place)
 {
     QMenu menu(&m_tree);
     menu.addActions(m_menu.actions());
@@ -143,7 +156,7 @@ void NodeMenu::openAtRow(const QPoint& place)
     SpxContextMenus* menus = SpxContextMenus::getInstance();
     if (menus && !nodes.isEmpty())
         menus->fillNodeMenu(menu, nodes);
-    menu.exec(m_tree.viewport()->mapToGlobal(place));
+    menu.exec(place);
 }
 
 } // namespace scopix

@@ -17,8 +17,8 @@ class BranchFiles;
 class NodeEditing;
 class SceneTreeView;
 
-/// The menu of what can be done with the selected nodes, in the menu bar and over the tree. Its keys act
-/// while the tree or the 3D view has the focus. GUI thread only.
+/// The menu of what can be done with the selected nodes, in the menu bar, over the tree, and over the 3D view
+/// by the key for menus. Its keys act while the tree or the 3D view has the focus. GUI thread only.
 class NodeMenu : public QObject
 {
     Q_OBJECT
@@ -26,6 +26,9 @@ class NodeMenu : public QObject
 public:
     /// Fills `menu`, which owns it; the others must outlive it.
     NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneTreeView& tree, QWidget& view);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QAction* add(const QString& text, const QList<QKeySequence>& keys, std::function<void()> act);
@@ -37,7 +40,7 @@ private:
     void chooseAndAdd();
     void chooseAbove();
     void rename();
-    void openAtRow(const QPoint& place);
+    void open(const QPoint& place);
 
     QMenu& m_menu;
     NodeEditing& m_editing;

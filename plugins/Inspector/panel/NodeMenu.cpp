@@ -46,7 +46,7 @@ NodeMenu::NodeMenu(FieldPanel& panel, QCheckBox& onlyChanged)
     : QObject(&panel)
     , m_panel(panel)
 {
-    auto* only = new QAction(tr("Show Only C&hanged"), &panel);
+    auto* only = new QAction(tr("Sho&w Only Changed"), &panel);
     only->setObjectName(QStringLiteral("onlyChangedAction"));
     only->setCheckable(true);
     connect(only, &QAction::toggled, &onlyChanged, &QCheckBox::setChecked);
@@ -96,9 +96,9 @@ void NodeMenu::addCopies(QMenu& menu)
         });
     };
     add(tr("&Copy Values"), valuesText);
-    menu.addAction(tr("&Paste Values"), this, &NodeMenu::paste)
+    menu.addAction(tr("Paste &Values"), this, &NodeMenu::paste)
         ->setEnabled(!QApplication::clipboard()->text().isEmpty());
-    add(tr("Copy Pat&h"), pathOf);
+    add(tr("Cop&y Path"), pathOf);
     add(tr("Copy as C+&+"), cppText);
 }
 

@@ -409,7 +409,7 @@ void Row::addTextEntries(QMenu& menu)
     const auto copy = [](const QString& text) { QApplication::clipboard()->setText(text); };
     const SpxFieldPointer edited = m_field;
     menu.addAction(tr("&Copy Value"), this, &Row::copyValue);
-    menu.addAction(tr("&Paste Value"), this, &Row::pasteValue)
+    menu.addAction(tr("Paste &Value"), this, &Row::pasteValue)
         ->setEnabled(!QApplication::clipboard()->text().isEmpty());
     const auto addCopy = [&](const QString& title, QString (*textOf)(const SoField&)) {
         menu.addAction(title, this, [=] {
@@ -417,7 +417,7 @@ void Row::addTextEntries(QMenu& menu)
                 copy(textOf(*edited.get()));
         });
     };
-    addCopy(tr("Copy Pat&h"), pathOf);
+    addCopy(tr("Cop&y Path"), pathOf);
     addCopy(tr("Copy as C+&+"), cppText);
     addCopy(tr("Copy as &Scene Text"), sceneText);
 }
@@ -494,6 +494,12 @@ bool Row::eventFilter(QObject* watched, QEvent* event)
     if (watched->isWidgetType() && static_cast<QWidget*>(watched)->toolTip().isEmpty() &&
         showCutText(*static_cast<QWidget*>(watched), *event))
         return true;
+    // What a text's own menu offers has keys.
+    if (event->type() == QEvent::ContextMenu &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+        showMenu(static_cast<QContextMenuEvent*>(event)->globalPos());
+        return true;
+    }
     // Scrolling past an input edits nothing.
     if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
         event->ignore();

@@ -3,16 +3,23 @@
 #include "WholeWindow.h"
 
 #include "acts/MenuActs.h"
+#include "language/Languages.h"
 #include "palette/CommandPalette.h"
 #include "preferences/PreferencesDialog.h"
+#include "services/HostServices.h"
 #include "theme/Theme.h"
+#include "viewport/SceneView.h"
 
 #include <support/Waiting.h>
 #include <support/WidgetWalk.h>
 
+#include <xsg/nodes/base/SoNode.h>
+#include <xsg/types/SoType.h>
+
 #include <QtWidgets>
 
 #include <functional>
+#include <map>
 
 using namespace scopix;
 
@@ -53,8 +60,11 @@ using Check = std::function<void(QWidget&)>;
 class EveryWidget : public WholeWindow
 {
 protected:
-    EveryWidget()
+    explicit EveryWidget(Later later = Later::No)
+        : WholeWindow(later)
     {
+        if (later == Later::Yes)
+            return;
         window->selectField("Glass", "diffuseColor");
         settle();
     }
@@ -277,28 +287,162 @@ TEST_F(EveryWidget, IsReachedInReadingOrder)
     });
 }
 
+namespace
+{
+
+// No letter chooses two entries.
+void expectLetters(const QMenu& menu)
+{
+    std::map<QString, const QAction*> known;
+    for (const QAction* act : menu.actions()) {
+        const QString letter = QKeySequence::mnemonic(act->text()).toString();
+        if (act->isSeparator() || !act->isVisible() || letter.isEmpty())
+            continue;
+        const auto [other, isNew] = known.emplace(letter, act);
+        EXPECT_TRUE(isNew) << pathOf(menu) << ": " << act->text().toStdString() << " and "
+                           << other->second->text().toStdString() << " share " << letter.toStdString();
+    }
+}
+
+void expectReadable(QMenu& menu)
+{
+    EXPECT_TRUE(menu.screen()->geometry().contains(menu.geometry())) << pathOf(menu);
+    EXPECT_FALSE(menu.actions().isEmpty()) << pathOf(menu);
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&menu);
+    ASSERT_TRUE(reader);
+    for (int i = 0; i < menu.actions().size(); ++i) {
+        const QAction* act = menu.actions().at(i);
+        if (act->isSeparator() || !act->isVisible())
+            continue;
+        EXPECT_FALSE(reader->child(i)->text(QAccessible::Name).isEmpty()) << pathOf(menu) << " entry " << i;
+    }
+    expectLetters(menu);
+}
+
+} // namespace
+
 TEST_F(EveryWidget, HasAMenuThatIsReadOutAndOnTheScreen)
 {
     int menus = 0;
-    const auto check = [](QMenu& menu) {
-        EXPECT_TRUE(menu.screen()->geometry().contains(menu.geometry())) << pathOf(menu);
-        EXPECT_FALSE(menu.actions().isEmpty()) << pathOf(menu);
-        QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&menu);
-        ASSERT_TRUE(reader);
-        for (int i = 0; i < menu.actions().size(); ++i) {
-            const QAction* act = menu.actions().at(i);
-            if (act->isSeparator() || !act->isVisible())
-                continue;
-            EXPECT_FALSE(reader->child(i)->text(QAccessible::Name).isEmpty())
-                << pathOf(menu) << " entry " << i;
-        }
-    };
     forEachDock([&](QWidget& root) {
         for (auto* each : root.findChildren<QWidget*>())
             if (each->isVisible() && each->contextMenuPolicy() == Qt::CustomContextMenu && !isExcepted(*each))
-                menus += openMenu(*each, check) ? 1 : 0;
+                menus += openMenu(*each, expectReadable) ? 1 : 0;
     });
     EXPECT_GE(menus, 3);
+}
+
+namespace
+{
+
+class RowMenus : public EveryWidget
+{
+protected:
+    using EveryWidget::EveryWidget;
+
+    // Wherever the focus is in a row, so that what its mark does has a key too.
+    void walkRowsOfEachKind()
+    {
+        QSet<QString> kinds;
+        for (const SoType type : SoType::getAllDerivedFrom(SoNode::getClassTypeId())) {
+            if (!type.canCreateInstance())
+                continue;
+            const SoRef<SoNode> node(static_cast<SoNode*>(type.createInstance()));
+            session().services().select(node.get());
+            settle();
+            for (auto* row : window->findChildren<QWidget*>("row")) {
+                const int known = kinds.size();
+                if (row->isVisible())
+                    kinds.insert(row->metaObject()->className());
+                if (kinds.size() > known)
+                    walkRow(*row);
+            }
+            session().services().clearSelection();
+        }
+        EXPECT_GE(kinds.size(), 8) << qPrintable(kinds.values().join(' '));
+    }
+
+private:
+    static void walkRow(QWidget& row)
+    {
+        for (auto* each : row.findChildren<QWidget*>()) {
+            if (!isReached(*each))
+                continue;
+            const bool isOpened = openMenu(*each, [&](QMenu& menu) {
+                EXPECT_EQ(menu.objectName().toStdString(), "rowMenu") << pathOf(*each);
+                expectReadable(menu);
+            });
+            EXPECT_TRUE(isOpened) << pathOf(*each);
+        }
+    }
+};
+
+class GermanRowMenus : public RowMenus
+{
+protected:
+    GermanRowMenus()
+        : RowMenus(Later::Yes)
+    {
+        Languages::begin();
+        Languages::instance()->speak("de");
+        make();
+    }
+    ~GermanRowMenus() override
+    {
+        end();
+        delete Languages::instance();
+    }
+};
+
+} // namespace
+
+TEST_F(RowMenus, OpenFromEachInput)
+{
+    walkRowsOfEachKind();
+}
+
+TEST_F(GermanRowMenus, OpenFromEachInput)
+{
+    walkRowsOfEachKind();
+}
+
+TEST_F(EveryWidget, OfThePanelOutsideOfItsRowsOpensTheMenuOfTheNode)
+{
+    auto* only = window->findChild<QCheckBox*>("onlyChanged");
+    ASSERT_TRUE(only);
+    EXPECT_TRUE(isReached(*only));
+    EXPECT_TRUE(openMenu(*only, [](QMenu& menu) {
+        EXPECT_EQ(menu.objectName().toStdString(), "nodeMenu");
+        expectReadable(menu);
+    }));
+}
+
+TEST_F(EveryWidget, OfTheViewHasTheMenuOfWhatIsSelected)
+{
+    SceneView& view = window->getView();
+    const bool isOpened = openMenu(view, [&](QMenu& menu) {
+        const QList<QAction*> acts = menu.actions();
+        const QList<QAction*> ofView = view.actions();
+        const auto isInMenu = [&](QAction* act) { return acts.contains(act); };
+        EXPECT_TRUE(std::any_of(ofView.begin(), ofView.end(), isInMenu));
+        expectReadable(menu);
+    });
+    EXPECT_TRUE(isOpened);
+}
+
+TEST_F(EveryWidget, OfTheViewListsWhatIsUnderThePointer)
+{
+    SceneView& view = window->getView();
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Left, Qt::ControlModifier); // the crosshair, in the middle
+    QTest::keyClick(&view, Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(&view, Qt::Key_Return, Qt::AltModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->objectName(), "underPointer");
+    EXPECT_TRUE(menu->activeAction());
+    expectReadable(*menu);
+    menu->close();
 }
 
 namespace
@@ -355,6 +499,7 @@ TEST_P(EveryText, IsWholeAndStandsOut)
 
 INSTANTIATE_TEST_SUITE_P(All, EveryText,
                          testing::Values(Look{Theme::Light, 1, Qt::LeftToRight},
+                                         Look{Theme::Light, 1, Qt::RightToLeft},
                                          Look{Theme::Light, 168 / 96.0, Qt::RightToLeft},
                                          Look{Theme::Light, 3, Qt::RightToLeft},
                                          Look{Theme::Dark, 3, Qt::LeftToRight}));
