@@ -270,9 +270,12 @@ TEST_F(LogWidget, IsLegibleLargeAndSmallOnBothPalettes)
             }
             window().resizeDocks({dock}, {260}, Qt::Vertical);
             session.settle();
-            const QImage image = lines->viewport()->grab().toImage();
-            const int ground = qGray(image.pixel(image.width() - 2, image.height() - 2));
+            lines->scrollToBottom();
+            const QImage bottom = lines->viewport()->grab().toImage();
+            const int ground = qGray(bottom.pixel(bottom.width() - 2, bottom.height() - 2));
             for (int row = 0; row < 5; ++row) {
+                lines->scrollTo(lines->model()->index(row, 0)); // a small screen has no room for all of them
+                const QImage image = lines->viewport()->grab().toImage();
                 const QRect place = lines->visualRect(lines->model()->index(row, 0)) & image.rect();
                 int contrast = 0;
                 for (int y = place.top(); y < place.bottom(); ++y) {
