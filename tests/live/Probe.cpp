@@ -40,7 +40,7 @@ std::vector<Program> ownPrograms()
 {
     const char* folder = std::getenv("XDG_RUNTIME_DIR");
     const std::string start = std::string(folder ? folder : "") + '/';
-    std::vector<Program> programs = listPrograms(60s);
+    std::vector<Program> programs = listPrograms(20s);
     const auto isElsewhere = [&](const Program& each) { return each.socketPath.rfind(start, 0) != 0; };
     programs.erase(std::remove_if(programs.begin(), programs.end(), isElsewhere), programs.end());
     return programs;
