@@ -18,7 +18,7 @@ public:
     };
 
     /// Enough for any plug-in on a busy machine.
-    static constexpr int PatienceMs = 8000;
+    static constexpr int PatienceMs = 20000;
 
     /// The exit status of that process where all is well. Not 0, with which the library's code may end it.
     static constexpr int Succeeded = 64;
