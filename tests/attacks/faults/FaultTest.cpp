@@ -29,7 +29,7 @@ namespace
 
 using Files = QMap<QString, QByteArray>; // by their paths in the folder
 
-constexpr int MostSeconds = 10; // that a case may take
+constexpr int MostSeconds = 60; // that a case may take
 
 struct Case {
     const char* name;

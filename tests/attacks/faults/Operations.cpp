@@ -103,7 +103,7 @@ Outcome autosave(const QString& folder)
     document.beginModified(makeScene(0.75F).get(), folder + Scene, QStringLiteral("scene.xsg"));
     const QDir recovery(folder + QStringLiteral("/recovery"));
     const auto isWritten = [&] { return !recovery.entryList({QStringLiteral("*.xsg")}).isEmpty(); };
-    QDeadlineTimer patience(5000);
+    QDeadlineTimer patience(30000);
     while (!isWritten() && outcome.sentence.isEmpty() && !patience.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 1);
     outcome.isDone = isWritten();
