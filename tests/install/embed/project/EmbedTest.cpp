@@ -17,6 +17,8 @@
 namespace
 {
 
+constexpr int Patience = 60000; // milliseconds, of which a good run takes few
+
 std::string text(const QString& string)
 {
     return string.toStdString();
@@ -62,17 +64,17 @@ protected:
     Embedded()
     {
         m_window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, Patience));
     }
     QMainWindow* openByKey()
     {
         m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, Patience));
         QTest::keyClick(&m_window, Qt::Key_F12);
         QMainWindow* inspector = inspectorWindow();
         if (!inspector)
             return nullptr;
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(inspector));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(inspector, Patience));
         QCoreApplication::processEvents();
         return inspector;
     }
@@ -155,7 +157,7 @@ TEST_F(Embedded, LeavesAnimationToTheApplication)
     const auto turned = [this, from = m_window.getScene().plate->rotation.getValue()] {
         return !(m_window.getScene().plate->rotation.getValue() == from);
     };
-    EXPECT_TRUE(QTest::qWaitFor(turned));
+    EXPECT_TRUE(QTest::qWaitFor(turned, Patience));
     EXPECT_FALSE(inspectorWindow()->isWindowModified());
 }
 

@@ -111,7 +111,7 @@ protected:
             return;
         window->resize(1200, 760);
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window, Patience));
     }
 
     static QMainWindow* mainWindow()
@@ -130,7 +130,7 @@ protected:
     void press(int key, Qt::KeyboardModifiers modifiers) const
     {
         window->activateWindow(); // which a dialog leaves to the window system
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window, Patience));
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus ? focus : window, Qt::Key(key), modifiers);
     }
