@@ -17,21 +17,41 @@ namespace
 class Import : public testing::Test
 {
 protected:
-    Import()
+    Import() { listenTo(import); }
+    void listenTo(ModelImport& to)
     {
-        QObject::connect(&import, &ModelImport::finished, [this](const SoRef<SoSeparator>& s) {
+        QObject::connect(&to, &ModelImport::finished, [this](const SoRef<SoSeparator>& s) {
             scene = s;
             told << "finished";
         });
-        QObject::connect(&import, &ModelImport::failed, [this](const QString& sentence) {
+        QObject::connect(&to, &ModelImport::failed, [this](const QString& sentence) {
             error = sentence;
             told << "failed";
         });
-        QObject::connect(&import, &ModelImport::cancelled, [this] { told << "cancelled"; });
+        QObject::connect(&to, &ModelImport::cancelled, [this] { told << "cancelled"; });
     }
     bool waitForEnd()
     {
         return waitFor([this] { return !told.isEmpty(); });
+    }
+    // One that has read all before the signal reaches it is followed by another.
+    bool endReaderBy(int signal)
+    {
+        for (int attempt = 0; attempt < 20; ++attempt) {
+            told.clear();
+            ModelImport other(&window);
+            listenTo(other);
+            other.start(shippedModel("lighthouse.glb"));
+            auto* process = other.findChild<QProcess*>();
+            if (!process->waitForStarted(MostWaitMs))
+                return false;
+            kill(static_cast<pid_t>(process->processId()), signal);
+            if (!waitForEnd())
+                return false;
+            if (told != QStringList{"finished"})
+                return true;
+        }
+        return false;
     }
     QProcess* reader() { return import.findChild<QProcess*>(); }
     QProgressDialog* dialog() { return window.findChild<QProgressDialog*>("importProgress"); }
@@ -118,10 +138,7 @@ TEST_F(Import, CancelEndsTheReaderAtOnce)
 
 TEST_F(Import, ReportsACrashedReaderInOneSentence)
 {
-    import.start(shippedModel("lighthouse.glb"));
-    ASSERT_TRUE(reader()->waitForStarted(MostWaitMs));
-    kill(static_cast<pid_t>(reader()->processId()), SIGKILL);
-    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(endReaderBy(SIGKILL));
     EXPECT_EQ(told, QStringList{"failed"});
     EXPECT_TRUE(error.contains("lighthouse.glb” cannot be opened: it contradicts itself"))
         << qPrintable(error);
@@ -129,10 +146,7 @@ TEST_F(Import, ReportsACrashedReaderInOneSentence)
 
 TEST_F(Import, ReportsAReaderThatNeverEnds)
 {
-    import.start(shippedModel("lighthouse.glb"));
-    ASSERT_TRUE(reader()->waitForStarted(MostWaitMs));
-    kill(static_cast<pid_t>(reader()->processId()), SIGXCPU);
-    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(endReaderBy(SIGXCPU));
     EXPECT_TRUE(error.contains("takes too long")) << qPrintable(error);
 }
 
