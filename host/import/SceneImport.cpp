@@ -14,11 +14,10 @@ namespace scopix
 namespace
 {
 
-using Clock = xsg::SceneReader::Clock;
-
 constexpr int FirstMs = 60;          // what takes no longer is not worth a dialog, nor to come back for
+constexpr qint64 SmallFile = 16'384; // bytes; takes longer only where it repeats itself very often,
+constexpr int SmallFileMs = 500;     // or where the machine is busy
 constexpr int TurnMs = 15;           // of reading, before the user's events are looked at again
-constexpr qint64 SmallFile = 16'384; // bytes: read at once, however busy the machine is
 
 } // namespace
 
@@ -38,8 +37,7 @@ void SceneImport::start(const QString& path)
     m_reading->getReader().setNodeListener([this](SoNode* node) { note(node); });
     openDialog(path);
     m_turn.start(0, this);
-    goOn(QFileInfo(path).size() <= SmallFile ? Clock::time_point::max()
-                                             : Clock::now() + std::chrono::milliseconds(FirstMs));
+    goOn(QFileInfo(path).size() <= SmallFile ? SmallFileMs : FirstMs);
 }
 
 void SceneImport::note(SoNode* node)
@@ -52,18 +50,19 @@ void SceneImport::note(SoNode* node)
 
 void SceneImport::timerEvent(QTimerEvent* /*event*/)
 {
-    goOn(Clock::now() + std::chrono::milliseconds(TurnMs));
+    goOn(TurnMs);
 }
 
-void SceneImport::goOn(Clock::time_point until)
+void SceneImport::goOn(int ms)
 {
+    const auto until = xsg::SceneReader::Clock::now() + std::chrono::milliseconds(ms);
     if (read(until) && (!m_scene || m_box.advance(until)))
         return report();
     showPercent(static_cast<int>(m_reading->getProgress() * 100)); // may run the event loop, and so cancel
 }
 
 // True when there is nothing more to read.
-bool SceneImport::read(Clock::time_point until)
+bool SceneImport::read(xsg::SceneReader::Clock::time_point until)
 {
     if (m_scene)
         return true;

@@ -43,7 +43,7 @@ protected:
 
 private:
     void note(SoNode* node);
-    void goOn(xsg::SceneReader::Clock::time_point until);
+    void goOn(int ms);
     bool read(xsg::SceneReader::Clock::time_point until);
     void report();
     bool cancelReading();
