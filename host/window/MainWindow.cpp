@@ -25,6 +25,7 @@
 #include "viewport/SceneView.h"
 #include "viewport/Screenshot.h"
 #include "window/BranchFiles.h"
+#include "window/ContextMenuKey.h"
 #include "window/DefaultScene.h"
 #include "window/FieldMenu.h"
 #include "window/FileDrop.h"
@@ -174,6 +175,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     connect(&m_files, &SceneFiles::reapplyRequested, m_changes, &SceneChanges::reloadAndReapply);
     new FileDrop(*this);
     new OnScreen(*this);
+    addContextMenuKey(*this);
     new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
     new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);

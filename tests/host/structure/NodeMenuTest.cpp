@@ -285,6 +285,22 @@ TEST_F(NodeMenuKeys, TheContextMenuOpensOverTheTree)
     expectUndoable("Harbour(Sea(Blue Water) Island(Hill Roof))");
 }
 
+TEST_F(NodeMenuKeys, ShiftAndF10OpenTheContextMenuAsTheMenuKeyDoes)
+{
+    click("Sun");
+    tree.setFocus();
+    waitForActive(window);
+    bool wasOpen = false;
+    QTimer::singleShot(0, &window, [&] {
+        auto* open = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(open);
+        wasOpen = open->actions().size() >= menu().actions().size();
+        open->close();
+    });
+    QTest::keyClick(&tree, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(wasOpen);
+}
+
 // --- Dragging
 
 TEST_F(NodeMenuKeys, ADropOnAGroupMovesIntoIt)
