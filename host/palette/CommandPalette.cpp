@@ -86,11 +86,12 @@ void CommandPalette::setFound(std::vector<PaletteEntry> found)
 
 void CommandPalette::place()
 {
+    const QWidget& window = overWindow();
     const QSize wanted(fontMetrics().averageCharWidth() * WidthInCharacters,
                        fontMetrics().lineSpacing() * HeightInLines);
-    resize(wanted.boundedTo(m_window.size()));
-    const QPoint corner = m_window.mapToGlobal({(m_window.width() - width()) / 2, 0});
-    const int room = std::max(0, m_window.height() - height());
+    resize(wanted.boundedTo(window.size()));
+    const QPoint corner = window.mapToGlobal({(window.width() - width()) / 2, 0});
+    const int room = std::max(0, window.height() - height());
     move(corner + QPoint(0, std::min(Top, room)));
 }
 
@@ -117,7 +118,7 @@ void CommandPalette::run()
         return;
     const std::function<void()> act = m_model->entry(current.row()).run;
     hide();
-    m_window.activateWindow();
+    overWindow().activateWindow();
     QTimer::singleShot(0, &m_window, act);
 }
 

@@ -4,6 +4,7 @@
 #include "palette/PaletteEntry.h"
 
 #include <QDialog>
+#include <QPointer>
 
 class QLabel;
 class QLineEdit;
@@ -27,6 +28,8 @@ public:
     void addSource(PaletteSource source);
     /// With nothing typed; what the sources offer by now.
     void open() override;
+    /// Where it opens from now on, and which window has the focus when it has gone.
+    void setWindow(QWidget& window) { m_over = &window; }
 
     /// What was found elsewhere for the text that is typed by now.
     void setFound(std::vector<PaletteEntry> found);
@@ -48,7 +51,10 @@ private:
     void showFirst();
     void run();
 
+    QWidget& overWindow() const { return m_over ? *m_over : m_window; }
+
     QWidget& m_window;
+    QPointer<QWidget> m_over;
     std::vector<PaletteSource> m_sources;
     PaletteModel* m_model;
     QLineEdit* m_line;

@@ -28,6 +28,7 @@ public:
     using Found = std::function<void(const std::vector<SoNode*>&)>;
     using FindElsewhere = std::function<bool(const QString& query, const Found& found)>;
     void setElsewhere(FindElsewhere elsewhere) { m_elsewhere = std::move(elsewhere); }
+    const FindElsewhere& getElsewhere() const { return m_elsewhere; }
 
     void setRoot(SoNode* root);
     void setQuery(const QString& text);

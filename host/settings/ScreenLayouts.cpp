@@ -69,20 +69,20 @@ QString ScreenLayouts::currentScreens()
         QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().left(NameLetters));
 }
 
-ScreenLayouts::Layout ScreenLayouts::find(const QString& screens)
+ScreenLayouts::Layout ScreenLayouts::find(const QString& screens, const QString& window)
 {
     const SettingsFile settings(UserSettings::windowFile());
-    const QString own = groupOf(screens);
-    const QString group = settings.value(own + docksKey()).isValid() ? own : QString();
+    const QString own = groupOf(screens) + window;
+    const QString group = settings.value(own + docksKey()).isValid() ? own : window;
     return {settings.value(group + geometryKey()).toByteArray(),
             settings.value(group + docksKey()).toByteArray()};
 }
 
-void ScreenLayouts::save(QSettings& settings, const Layout& layout)
+void ScreenLayouts::save(QSettings& settings, const Layout& layout, const QString& window)
 {
     const QString screens = currentScreens();
-    write(settings, {}, layout);
-    write(settings, groupOf(screens), layout);
+    write(settings, window, layout);
+    write(settings, groupOf(screens) + window, layout);
     QStringList list = settings.value(listKey()).toStringList();
     list.removeAll(screens);
     list.prepend(screens);

@@ -89,6 +89,19 @@ void PointMarks::set(const void* owner, const SoPath& place, std::vector<SbVec3f
     points.resize(std::min(points.size(), Most));
     if (!points.empty() && !place.isEmpty() && place.getHead() == m_root.get())
         m_marks[owner] = {SoPathTraversal::idsOf(place), std::move(points), {}};
+    changed();
+}
+
+void PointMarks::take(const PointMarks& other)
+{
+    if (m_marks.empty() && other.m_marks.empty())
+        return;
+    m_marks = other.m_marks;
+    changed();
+}
+
+void PointMarks::changed()
+{
     m_sensor.attach(m_marks.empty() ? nullptr : m_root.get());
     m_isOld = true;
     m_view.redraw();

@@ -30,6 +30,8 @@ public:
     void setScene(SoNode* root);
     /// In the coordinates at the end of the path; takes the place of the owner's earlier ones.
     void set(const void* owner, const SoPath& place, std::vector<SbVec3f> points);
+    /// Those that another view of the same scene has.
+    void take(const PointMarks& other);
     /// How many points are marked in the picture.
     std::size_t count();
 
@@ -43,6 +45,7 @@ private:
     };
     static void sensorTriggered(void* self, SoSensor* sensor);
     void place();
+    void changed();
     void drawPoint(SoOverlay& overlay, const SbVec3f& point) const;
 
     SceneView& m_view;

@@ -5,7 +5,6 @@
 #include "changes/ChangesPanel.h"
 #include "changes/SceneEdits.h"
 #include "handles/HandleActions.h"
-#include "handles/HandleTool.h"
 #include "panels/EmptyHint.h"
 #include "panels/FieldListView.h"
 #include "panels/SceneFinder.h"
@@ -31,6 +30,7 @@
 #include "window/FileDrop.h"
 #include "window/FileMenu.h"
 #include "window/FrameMarks.h"
+#include "window/FurtherWindows.h"
 #include "window/HelpWindow.h"
 #include "window/LiveActs.h"
 #include "window/NodeEditing.h"
@@ -45,9 +45,9 @@
 #include "window/SceneTabs.h"
 #include "window/SettingsActs.h"
 #include "window/ShownScene.h"
+#include "window/TreeAndView.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
-#include "window/ViewActs.h"
 #include "window/ViewDisplay.h"
 #include "window/ViewPoints.h"
 #include "window/Welcome.h"
@@ -69,7 +69,6 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -123,27 +122,18 @@ SoPath findNode(SoNode* root, const QString& text)
     return {};
 }
 
-// A single key that the view has by itself; what is typed into a name stays there.
-void addTreeKey(SceneTreeView& tree, Qt::Key key, QAction& action)
-{
-    auto* shortcut = new QShortcut(key, &tree);
-    shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, &action, &QAction::trigger);
-}
-
 } // namespace
 
 MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     : m_services(services)
     , m_notifier(notifier)
     , m_files(*this, services, notifier)
-    , m_scenePanel(new ScenePanel)
-    , m_tree(&m_scenePanel->getTree())
-    , m_fields(new FieldListView)
-    , m_view(new SceneView)
-    , m_viewPoints(std::make_unique<ViewPoints>(services, *m_view))
-    , m_handles(new HandleTool(services, *m_view))
     , m_states(new SceneStates(this))
+    , m_pane(std::make_unique<TreeAndView>(TreeAndView::Parts{*this, services, notifier, *m_states}))
+    , m_scenePanel(&m_pane->getPanel())
+    , m_tree(&m_pane->getTree())
+    , m_view(&m_pane->getView())
+    , m_fields(new FieldListView)
     , m_display(std::make_unique<ViewDisplay>(*m_view, *m_states))
 {
     setObjectName(QStringLiteral("mainWindow"));
@@ -163,7 +153,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeToolBar();
     connectSelection();
     new ShownScene({m_files.getScenes(), m_notifier, *m_states, *m_scenePanel, *m_view,
-                    m_playback->getPlayback(), m_viewPoints->getMarks()},
+                    m_playback->getPlayback(), m_pane->getPoints().getMarks()},
                    this);
     connect(&m_files.getScenes(), &OpenScenes::stateChanged, this, &MainWindow::showTitle);
     connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
@@ -177,7 +167,6 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     new OnScreen(*this);
     addContextMenuKey(*this);
     new EmptyHint(*m_fields, tr("Select a node: its fields are listed here."));
-    new EmptyHint(*m_tree, tr("Nothing is open. Open a scene or model, or drop one here."));
     new FieldMenu(*m_fields, m_services);
     new FrameMarks(m_services, m_files, this);
     new FocusRing(*this);
@@ -232,7 +221,6 @@ void MainWindow::makeCentre()
 void MainWindow::makeDocks()
 {
     m_treeDock = addDock(m_scenePanel, tr("Scene"), QStringLiteral("sceneDock"), Qt::LeftDockWidgetArea);
-    m_tree->setAccessibleName(tr("Scene"));
     m_fieldsDock = addDock(m_fields, tr("Fields"), QStringLiteral("fieldsDock"), Qt::LeftDockWidgetArea);
     auto* history = new HistoryView(m_services.history());
     connect(&m_files.getScenes(), &OpenScenes::rootChanged, history, &HistoryView::showStart);
@@ -264,7 +252,8 @@ void MainWindow::makeFileMenu()
     menu->addSeparator();
     m_changes->fillMenu(*menu);
     menu->addSeparator();
-    m_pictures = new PictureActs(*menu, *this, *m_view, m_notifier);
+    m_pictures = new PictureActs(
+        *menu, *this, [this]() -> SceneView& { return paneInUse().getView(); }, m_notifier);
     menu->addAction(tr("Save Picture of the &Window…"), this, &MainWindow::askForScreenshot,
                     Qt::CTRL + Qt::Key_F12);
     menu->addSeparator();
@@ -294,50 +283,16 @@ void MainWindow::makeNodeMenu()
     m_editing = new NodeEditing(m_services, m_files, *m_tree, *m_states, m_notifier, this);
     m_branchFiles = new BranchFiles(*this, *m_editing, m_notifier);
     QMenu* menu = menuBar()->addMenu(tr("&Node"));
-    new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
-    addHandles(*menu);
-    m_tree->setStates(m_states);
-    m_view->setStates(m_states);
-    m_handles->setStates(m_states);
-}
-
-void MainWindow::addHandles(QMenu& menu)
-{
-    m_handleActions = new HandleActions(*m_handles, *this, {m_view, m_tree});
-    menu.addSeparator();
-    QMenu* handles = menu.addMenu(tr("Handles in the 3D View"));
-    handles->addActions(m_handleActions->getModes());
-    handles->addAction(m_handleActions->getOwnAxes());
-    connect(m_handles.get(), &HandleTool::said, &m_notifier, &UserNotifier::info);
+    m_nodeMenu = new NodeMenu(*menu, *m_editing, *m_branchFiles, *m_tree, *m_view);
+    menu->addSeparator();
+    m_pane->fillHandleMenu(*menu->addMenu(tr("Handles in the 3D View")));
 }
 
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
     m_appearanceMenu = menu;
-    m_viewAllAction =
-        menu->addAction(tr("View &All"), m_view, &SceneView::viewAll, QKeySequence(Qt::CTRL + Qt::Key_0));
-    m_viewAllAction->setIcon(svgIcon(QStringLiteral("action-view-all"), this));
-    m_viewSelectedAction = menu->addAction(tr("View &Selected"), this, &MainWindow::viewSelected,
-                                           QKeySequence(Qt::CTRL + Qt::Key_Period));
-    m_viewSelectedAction->setIcon(svgIcon(QStringLiteral("action-view-selected"), this));
-    connect(m_view, &SceneView::viewSelectedRequested, m_viewSelectedAction, &QAction::trigger);
-    addTreeKey(*m_tree, Qt::Key_A, *m_viewAllAction);
-    addTreeKey(*m_tree, Qt::Key_F, *m_viewSelectedAction);
-    menu->addAction(tr("&Home"), m_view, &SceneView::goHome, QKeySequence(Qt::ALT + Qt::Key_Home));
-    m_viewActions = std::make_unique<ViewActions>(*m_view, m_services, m_notifier, *menu,
-                                                  QList<QWidget*>{m_view, m_tree});
-    menu->addSeparator();
-    m_wireframeAction = menu->addAction(svgIcon(QStringLiteral("action-wireframe"), this), tr("&Wireframe"));
-    m_wireframeAction->setShortcut(Qt::Key_F3);
-    m_statisticsAction =
-        menu->addAction(svgIcon(QStringLiteral("action-statistics"), this), tr("S&tatistics"));
-    m_statisticsAction->setShortcut(Qt::Key_F4);
-    for (QAction* toggle : {m_wireframeAction, m_statisticsAction})
-        toggle->setCheckable(true);
-    connect(m_wireframeAction, &QAction::toggled, m_view, &SceneView::setWireframe);
-    connect(m_statisticsAction, &QAction::toggled, m_view, &SceneView::setShowsStatistics);
-    m_viewActs = std::make_unique<ViewActs>(*menu, *m_view, *m_tree, m_services, m_notifier);
+    m_pane->fillViewMenu(*menu);
     m_playback = new PlaybackActs(*menu, *m_view, {m_view, m_tree}, this);
     auto* before = new BeforeSwitch(*this, m_services);
     menu->addAction(before->action());
@@ -350,13 +305,24 @@ void MainWindow::makeViewMenu()
         dock->toggleViewAction()->setShortcut(QStringLiteral("Ctrl+W, %1").arg(++number));
         menu->addAction(dock->toggleViewAction());
     }
-    m_treeColumns = new TreeColumns(*menu->addMenu(tr("Columns of the T&ree")), *m_tree, m_notifier);
+    m_columnMenu = menu->addMenu(tr("Columns of the T&ree"));
+    m_pane->fillColumnMenu(*m_columnMenu);
     menu->addSeparator();
     m_tabs->addTo(*menu);
+    menu->addSeparator();
+    makeFurtherWindows();
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
     makeThemeMenu(*menu->addMenu(tr("&Colours")));
+}
+
+void MainWindow::makeFurtherWindows()
+{
+    m_further = std::make_unique<FurtherWindows>(
+        FurtherWindow::Parts{*this, *m_pane, m_files.getScenes(), m_services, m_notifier, *m_states,
+                             *m_changes, *m_nodeMenu, *m_appearanceMenu, *m_columnMenu});
+    connect(this, &HostWindow::closed, m_further.get(), &FurtherWindows::closeAll);
 }
 
 void MainWindow::makeThemeMenu(QMenu& menu)
@@ -448,24 +414,38 @@ void MainWindow::makeToolBar()
     bar->addSeparator();
     bar->addActions({m_undoAction, m_redoAction});
     bar->addSeparator();
-    bar->addActions(m_handleActions->getModes());
+    bar->addActions(m_pane->getHandleActions().getModes());
     bar->addSeparator();
-    bar->addActions({m_viewAllAction, m_viewSelectedAction});
+    bar->addActions(m_pane->getFramingActs());
     bar->addSeparator();
-    bar->addActions({m_wireframeAction, m_statisticsAction});
+    bar->addActions(m_pane->getDisplayActs());
 }
 
 void MainWindow::connectSelection()
 {
-    connect(m_tree, &SceneTreeView::nodeSelected, this,
-            [this] { m_services.selectPaths(m_tree->getSelectedPaths()); });
+    m_pane->linkSelection();
     connect(m_fields, &FieldListView::fieldSelected, this,
             [this](SoField* field) { m_services.select(field); });
-    connect(&m_services, &SpxServices::selectedNodeChanged, this, &MainWindow::showNode);
-    connect(&m_services, &SpxServices::selectedFieldChanged, this, &MainWindow::showField);
+    connect(&m_services, &SpxServices::selectedNodeChanged, m_fields, &FieldListView::setContainer);
+    connect(&m_services, &SpxServices::selectedFieldChanged, m_fields, &FieldListView::showField);
+}
+
+// That of the window that the user works in.
+TreeAndView& MainWindow::paneInUse() const
+{
+    const FurtherWindow* further = m_further->getActive();
+    return further ? further->getPane() : *m_pane;
 }
 
 void MainWindow::find()
+{
+    if (FurtherWindow* further = m_further->getActive())
+        further->startFinding();
+    else
+        showFinder();
+}
+
+void MainWindow::showFinder()
 {
     m_treeDock->show();
     m_treeDock->raise();
@@ -474,7 +454,7 @@ void MainWindow::find()
 
 void MainWindow::findInScene(const QString& query)
 {
-    find();
+    showFinder();
     m_scenePanel->find(query);
 }
 
@@ -490,12 +470,14 @@ SpxSceneDisplay* MainWindow::display()
 
 void MainWindow::setTreeColumns(const QList<SpxTreeColumnProvider*>& providers)
 {
-    m_treeColumns->setProviders(providers);
+    m_pane->getColumns().setProviders(providers);
+    m_further->setTreeColumns(providers);
 }
 
 void MainWindow::updateTreeColumns()
 {
     m_tree->updateMoreColumns();
+    m_further->updateTreeColumns();
 }
 
 bool MainWindow::showHelp(const QString& page, const QString& section)
@@ -518,25 +500,6 @@ void MainWindow::showHelpOnFocus()
         return showTutorial();
     if (!showHelp(QStringLiteral("nodes"), typeText(node->getTypeId())))
         m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
-}
-
-void MainWindow::showNode(SoFieldContainer* container)
-{
-    m_tree->showPaths(m_services.getSelectedPaths());
-    // The highlight would cover the very look that the user tunes in a material.
-    QList<const SoNode*> seen;
-    for (SoFieldContainer* each : m_services.getSelectedNodes()) {
-        auto* node = dynamic_cast<SoNode*>(each);
-        if (node && (node->asGroup() || node->asShape()))
-            seen.append(node);
-    }
-    m_view->setHighlight(seen);
-    m_fields->setContainer(container);
-}
-
-void MainWindow::showField(SoField* field)
-{
-    m_fields->showField(field);
 }
 
 void MainWindow::setScene(SoNode* root, const QString& title)
@@ -621,7 +584,7 @@ bool MainWindow::saveScreenshot(const QString& path)
 
 bool MainWindow::savePictures(const PictureOrder& order)
 {
-    return m_pictures->save(order);
+    return m_pictures->save(order, *m_view);
 }
 
 void MainWindow::askForScreenshot()
@@ -630,11 +593,6 @@ void MainWindow::askForScreenshot()
                                                       tr("Pictures (*.png)"));
     if (!path.isEmpty())
         saveScreenshot(path);
-}
-
-void MainWindow::viewSelected()
-{
-    m_view->viewNode(dynamic_cast<SoNode*>(m_services.selectedNode()));
 }
 
 QString MainWindow::emptyHint() const
@@ -654,7 +612,23 @@ SoPath MainWindow::pathTo(const SoNode* node) const
 
 void MainWindow::setMarkedPoints(const void* owner, const SoPath& place, const std::vector<SbVec3f>& points)
 {
-    m_viewPoints->getMarks().set(owner, place, points);
+    m_pane->getPoints().getMarks().set(owner, place, points);
+    m_further->marksChanged();
+}
+
+ViewPoints& MainWindow::getViewPoints()
+{
+    return m_pane->getPoints();
+}
+
+HandleTool& MainWindow::getHandles()
+{
+    return m_pane->getHandles();
+}
+
+ViewActions& MainWindow::getViewActions()
+{
+    return m_pane->getViewActions();
 }
 
 void MainWindow::setTheme(Theme theme)

@@ -19,7 +19,7 @@ namespace scopix
 class BranchFiles;
 class CommandPalette;
 class FieldListView;
-class HandleActions;
+class FurtherWindows;
 class HandleTool;
 class HelpWindow;
 class LiveActs;
@@ -30,16 +30,16 @@ class SettingsActs;
 class Welcome;
 class HostServices;
 class NodeEditing;
+class NodeMenu;
 class SceneStates;
 class UserNotifier;
 class PlaybackActs;
-class ViewActs;
 class ViewActions;
 class ScenePanel;
 class SceneTabs;
 class SceneTreeView;
 class SceneView;
-class TreeColumns;
+class TreeAndView;
 class ViewDisplay;
 class ViewPoints;
 
@@ -91,17 +91,18 @@ public:
     FieldListView& getFields() { return *m_fields; }
     SceneView& getView() { return *m_view; }
     SceneTabs& getTabs() { return *m_tabs; }
-    ViewPoints& getViewPoints() { return *m_viewPoints; }
-    HandleTool& getHandles() { return *m_handles; }
+    ViewPoints& getViewPoints();
+    HandleTool& getHandles();
     NodeEditing& getEditing() { return *m_editing; }
     BranchFiles& getBranchFiles() { return *m_branchFiles; }
     LiveActs& getLive() { return *m_live; }
     SceneStates& getStates() { return *m_states; }
     SceneChanges& getChanges() { return *m_changes; }
-    ViewActions& getViewActions() { return *m_viewActions; }
+    ViewActions& getViewActions();
     Welcome& getWelcome() { return *m_welcome; }
     SettingsActs& getSettings() { return *m_settings; }
     PaletteActs& getPalette() { return *m_palette; }
+    FurtherWindows& getFurtherWindows() { return *m_further; }
 
     QSize sizeHint() const override { return {1280, 800}; }
 
@@ -117,13 +118,13 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeNodeMenu();
-    void addHandles(QMenu& menu);
     void makeViewMenu();
     void makeThemeMenu(QMenu& menu);
     void makeHelpMenu();
     void makeGuidance();
     void makeToolBar();
     void connectSelection();
+    void makeFurtherWindows();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
                          Qt::DockWidgetArea area);
 
@@ -133,27 +134,25 @@ private:
     void showAbout();
     void showTutorial();
     void showHelpOnFocus();
-    void viewSelected();
     void find();
-    void showNode(SoFieldContainer* node);
-    void showField(SoField* field);
+    void showFinder();
+    TreeAndView& paneInUse() const;
     void setTheme(Theme theme);
 
     HostServices& m_services;
     UserNotifier& m_notifier;
     SceneFiles m_files;
     QPointer<OpenScene> m_inspected; // is of the application around the window
-    ScenePanel* m_scenePanel;
-    SceneTreeView* m_tree;
-    FieldListView* m_fields;
-    SceneView* m_view;
-    SceneTabs* m_tabs = nullptr;
-    std::unique_ptr<ViewPoints> m_viewPoints;
-    std::unique_ptr<HandleTool> m_handles; // goes before the view
-    HandleActions* m_handleActions = nullptr;
     SceneStates* m_states;
+    std::unique_ptr<TreeAndView> m_pane; // goes before its widgets
+    ScenePanel* m_scenePanel;            // they are the pane's
+    SceneTreeView* m_tree;
+    SceneView* m_view;
+    FieldListView* m_fields;
+    SceneTabs* m_tabs = nullptr;
     std::unique_ptr<ViewDisplay> m_display;
-    TreeColumns* m_treeColumns = nullptr;
+    NodeMenu* m_nodeMenu = nullptr;
+    QMenu* m_columnMenu = nullptr;
     NodeEditing* m_editing = nullptr;
     BranchFiles* m_branchFiles = nullptr;
     SettingsActs* m_settings = nullptr;
@@ -162,8 +161,7 @@ private:
     PluginStates m_pluginStates;
     QMenu* m_helpMenu = nullptr;
     QMenu* m_themeMenu = nullptr;
-    HelpWindow* m_help = nullptr;               // as soon as help is asked for
-    std::unique_ptr<ViewActions> m_viewActions; // as well
+    HelpWindow* m_help = nullptr; // as soon as help is asked for
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;
@@ -175,15 +173,11 @@ private:
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;
     PlaybackActs* m_playback = nullptr;
-    std::unique_ptr<ViewActs> m_viewActs; // goes before the view
-    std::unique_ptr<LiveActs> m_live;     // as well
+    std::unique_ptr<LiveActs> m_live;          // goes before the view
+    std::unique_ptr<FurtherWindows> m_further; // go before all that they share
     QAction* m_openAction = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;
-    QAction* m_viewAllAction = nullptr;
-    QAction* m_viewSelectedAction = nullptr;
-    QAction* m_wireframeAction = nullptr;
-    QAction* m_statisticsAction = nullptr;
 };
 
 } // namespace scopix

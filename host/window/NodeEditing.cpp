@@ -97,13 +97,17 @@ NodeEditing::NodeEditing(HostServices& services, SceneFiles& files, SceneTreeVie
     m_services.history().setLock(
         [this](const SoFieldContainer& container) { return m_states.refusalOf(container); });
     connect(&m_services.history(), &UndoHistory::refused, &m_notifier, &UserNotifier::info);
-    connect(&m_tree, &SceneTreeView::nameEntered, this, &NodeEditing::rename);
-    connect(&m_tree, &SceneTreeView::dropped, this, &NodeEditing::drop);
 }
 
 NodeEditing::~NodeEditing()
 {
     m_services.history().setLock({});
+}
+
+void NodeEditing::serve(SceneTreeView& tree)
+{
+    connect(&tree, &SceneTreeView::nameEntered, this, &NodeEditing::rename);
+    connect(&tree, &SceneTreeView::dropped, this, &NodeEditing::drop);
 }
 
 void NodeEditing::tell(const QString& sentence)

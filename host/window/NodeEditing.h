@@ -30,6 +30,9 @@ public:
 
     ~NodeEditing() override;
 
+    /// Does what is entered in this tree, and dropped there.
+    void serve(SceneTreeView& tree);
+
     /// False where it is refused, which is told.
     bool perform(structure::Act act);
     Paths selected() const;

@@ -40,12 +40,29 @@ NodeMenu::NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneT
     m_menu.addSeparator();
     add(tr("Insert &File…"), {Qt::CTRL + Qt::Key_I}, [this] { m_files.askAndInsert(); });
     add(tr("Sa&ve Branch As…"), {QStringLiteral("Ctrl+U, B")}, [this] { m_files.askAndSave(); });
-    m_tree.setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&m_tree, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& place) { open(m_tree.viewport()->mapToGlobal(place)); });
-    m_view.installEventFilter(this);
-    connect(&m_tree, &SceneTreeView::eyeClicked, this,
+    serve(m_tree, m_view);
+}
+
+void NodeMenu::serve(SceneTreeView& tree, QWidget& view)
+{
+    m_trees.removeAll({});
+    m_trees.append(&tree);
+    tree.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&tree, &QWidget::customContextMenuRequested, this,
+            [this, &tree](const QPoint& place) { open(*tree.viewport(), place); });
+    view.installEventFilter(this);
+    connect(&tree, &SceneTreeView::eyeClicked, this,
             [this](const SoPath& path) { m_editing.toggleHidden({path}); });
+    m_editing.serve(tree);
+}
+
+// That of the window that the user works in.
+SceneTreeView& NodeMenu::treeInUse() const
+{
+    for (const QPointer<SceneTreeView>& tree : m_trees)
+        if (tree && tree->isActiveWindow())
+            return *tree;
+    return m_tree;
 }
 
 QAction* NodeMenu::add(const QString& text, const QList<QKeySequence>& keys, std::function<void()> act)
@@ -118,7 +135,7 @@ void NodeMenu::addSight()
 void NodeMenu::chooseAndAdd()
 {
     m_editing.askTypesToAdd([this](const std::vector<SoType>& types) {
-        TypeChooser chooser(types, tr("Add a Node"), &m_tree);
+        TypeChooser chooser(types, tr("Add a Node"), &treeInUse());
         if (chooser.exec() == QDialog::Accepted)
             m_editing.add(chooser.getChosen());
     });
@@ -126,29 +143,30 @@ void NodeMenu::chooseAndAdd()
 
 void NodeMenu::chooseAbove()
 {
-    TypeChooser chooser(TypeChooser::typesToAdd(), tr("Put a Node Above"), &m_tree);
+    TypeChooser chooser(TypeChooser::typesToAdd(), tr("Put a Node Above"), &treeInUse());
     if (chooser.exec() == QDialog::Accepted)
         m_editing.insertAbove(chooser.getChosen());
 }
 
 void NodeMenu::rename()
 {
-    m_tree.editName();
+    treeInUse().editName();
 }
 
-// The right button moves the view.
+// The right button moves a view.
 bool NodeMenu::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::ContextMenu ||
         static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard)
         return QObject::eventFilter(watched, event);
-    open(m_view.mapToGlobal(m_view.rect().center()));
+    auto* view = static_cast<QWidget*>(watched);
+    open(*view, view->rect().center());
     return true;
 }
 
-void NodeMenu::open(const QPoint& place)
+void NodeMenu::open(QWidget& over, const QPoint& place)
 {
-    QMenu menu(&m_tree);
+    QMenu menu(&over);
     menu.addActions(m_menu.actions());
     QList<SoFieldContainer*> nodes;
     for (const SoPath& path : m_editing.selected())
@@ -156,7 +174,7 @@ void NodeMenu::open(const QPoint& place)
     SpxContextMenus* menus = SpxContextMenus::getInstance();
     if (menus && !nodes.isEmpty())
         menus->fillNodeMenu(menu, nodes);
-    menu.exec(place);
+    menu.exec(over.mapToGlobal(place));
 }
 
 } // namespace scopix

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QKeySequence>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
@@ -27,6 +29,9 @@ public:
     /// Fills `menu`, which owns it; the others must outlive it.
     NodeMenu(QMenu& menu, NodeEditing& editing, BranchFiles& files, SceneTreeView& tree, QWidget& view);
 
+    /// Opens over these, too, and what is entered and dropped in the tree is done.
+    void serve(SceneTreeView& tree, QWidget& view);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -40,13 +45,15 @@ private:
     void chooseAndAdd();
     void chooseAbove();
     void rename();
-    void open(const QPoint& place);
+    void open(QWidget& over, const QPoint& place);
+    SceneTreeView& treeInUse() const;
 
     QMenu& m_menu;
     NodeEditing& m_editing;
     BranchFiles& m_files;
     SceneTreeView& m_tree;
     QWidget& m_view;
+    QList<QPointer<SceneTreeView>> m_trees; // the first is m_tree
 };
 
 } // namespace scopix

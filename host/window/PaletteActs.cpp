@@ -12,6 +12,7 @@
 #include <xsg/core/SoFieldData.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPointer>
@@ -51,15 +52,24 @@ PaletteActs::PaletteActs(QMainWindow& window, SceneTreeView& tree, HostServices&
     m_palette->addSource([this] { return acts(); });
     m_palette->addSource([this] { return this->settings(); });
     m_palette->addSource([this] { return fields(); });
-    connect(m_action, &QAction::triggered, m_palette, &CommandPalette::open);
+    connect(m_action, &QAction::triggered, this, &PaletteActs::open);
     connect(m_palette, &CommandPalette::typed, this, &PaletteActs::look);
     connect(&m_finder, &SceneFinder::foundChanged, this, &PaletteActs::showNodes);
+}
+
+void PaletteActs::open()
+{
+    auto* active = qobject_cast<QMainWindow*>(QApplication::activeWindow());
+    m_inUse = active && active->parentWidget() == &m_window ? active : &m_window;
+    m_palette->setWindow(*m_inUse);
+    m_palette->open();
 }
 
 std::vector<PaletteEntry> PaletteActs::acts() const
 {
     std::vector<PaletteEntry> entries;
-    for (const MenuAct& act : findActs(*m_window.menuBar(), true)) {
+    const QMainWindow& window = m_inUse ? *m_inUse : m_window;
+    for (const MenuAct& act : findActs(*window.menuBar(), true)) {
         if (act.action == m_action)
             continue;
         PaletteEntry entry{act.text, act.place, act.action->shortcut().toString(QKeySequence::NativeText),

@@ -4,10 +4,11 @@
 #include "palette/PaletteEntry.h"
 #include "panels/SceneFinder.h"
 
+#include <QMainWindow>
 #include <QObject>
+#include <QPointer>
 
 class QAction;
-class QMainWindow;
 
 namespace scopix
 {
@@ -17,8 +18,9 @@ class HostServices;
 class SceneTreeView;
 class SettingsActs;
 
-/// What the palette finds in this window: acts of the menus, settings, fields of the selected node, docks,
-/// and nodes of the scene, which are looked for between events. Owned by the window. GUI thread only.
+/// What the palette finds in this window, and in those that belong to it: acts of the menus, settings, fields
+/// of the selected node, docks, and nodes of the scene, which are looked for between events. Owned by the
+/// window. GUI thread only.
 class PaletteActs : public QObject
 {
     Q_OBJECT
@@ -30,6 +32,7 @@ public:
     CommandPalette& getPalette() { return *m_palette; }
 
 private:
+    void open();
     std::vector<PaletteEntry> acts() const;
     std::vector<PaletteEntry> settings() const;
     std::vector<PaletteEntry> fields() const;
@@ -37,6 +40,7 @@ private:
     void showNodes();
 
     QMainWindow& m_window;
+    QPointer<QMainWindow> m_inUse; // where it was opened: that, or a further one
     SceneTreeView& m_tree;
     HostServices& m_services;
     SettingsActs& m_settings;

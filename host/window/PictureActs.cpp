@@ -42,10 +42,10 @@ private:
 
 } // namespace
 
-PictureActs::PictureActs(QMenu& menu, QWidget& window, SceneView& view, UserNotifier& notifier)
+PictureActs::PictureActs(QMenu& menu, QWidget& window, ViewInUse viewInUse, UserNotifier& notifier)
     : QObject(&menu)
     , m_window(window)
-    , m_view(view)
+    , m_viewInUse(std::move(viewInUse))
     , m_notifier(notifier)
 {
     menu.addAction(
@@ -58,7 +58,8 @@ PictureActs::PictureActs(QMenu& menu, QWidget& window, SceneView& view, UserNoti
 
 void PictureActs::ask(bool isTurntable)
 {
-    PictureDialog dialog(m_view.size() * m_view.devicePixelRatioF(), isTurntable, &m_window);
+    SceneView& view = m_viewInUse();
+    PictureDialog dialog(view.size() * view.devicePixelRatioF(), isTurntable, &m_window);
     if (dialog.exec() != QDialog::Accepted)
         return;
     PictureOrder order = dialog.getOrder();
@@ -69,7 +70,7 @@ void PictureActs::ask(bool isTurntable)
                                               tr("Pictures (*.%1)").arg(pictureExtensions().join(" *.")),
                                               nullptr, options);
     if (!order.path.isEmpty() && (!isTurntable || mayReplace(order)))
-        save(order);
+        save(order, view);
 }
 
 bool PictureActs::mayReplace(const PictureOrder& order) const
@@ -85,10 +86,10 @@ bool PictureActs::mayReplace(const PictureOrder& order) const
                    .arg(QDir::toNativeSeparators(QFileInfo(order.path).absolutePath()))) == QMessageBox::Yes;
 }
 
-bool PictureActs::save(const PictureOrder& order)
+bool PictureActs::save(const PictureOrder& order, SceneView& view)
 {
     settleForPicture();
-    const StandStill still(m_view);
+    const StandStill still(view);
     const bool isAttended = m_notifier.isAttended();
     std::optional<ProgressDialog> dialog;
     if (isAttended) {
@@ -96,7 +97,7 @@ bool PictureActs::save(const PictureOrder& order)
         dialog->setWindowTitle(tr("Save Picture"));
     }
     const PictureSeries series = PictureSeries::make(
-        m_view.getPictureSubject(order.size, order.count > 1), order, [&](int done, int total) {
+        view.getPictureSubject(order.size, order.count > 1), order, [&](int done, int total) {
             if (!dialog)
                 return true;
             dialog->setMaximum(total);

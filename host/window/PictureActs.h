@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QMenu;
 class QWidget;
 
@@ -22,10 +24,12 @@ class PictureActs : public QObject
 
 public:
     /// Adds the entries to `menu`, which owns this; all must outlive it. Dialogs open over `window`.
-    PictureActs(QMenu& menu, QWidget& window, SceneView& view, UserNotifier& notifier);
+    /// `viewInUse` tells whose pictures the entries save.
+    using ViewInUse = std::function<SceneView&()>;
+    PictureActs(QMenu& menu, QWidget& window, ViewInUse viewInUse, UserNotifier& notifier);
 
     /// Writes over files that are there. False where that fails or is cancelled, which is told.
-    bool save(const PictureOrder& order);
+    bool save(const PictureOrder& order, SceneView& view);
 
 private:
     void ask(bool isTurntable);
@@ -33,7 +37,7 @@ private:
     QString describe(const PictureSeries& series, const PictureOrder& order) const;
 
     QWidget& m_window;
-    SceneView& m_view;
+    ViewInUse m_viewInUse;
     UserNotifier& m_notifier;
 };
 

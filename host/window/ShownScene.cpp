@@ -2,7 +2,6 @@
 #include "window/ShownScene.h"
 
 #include "panels/ScenePanel.h"
-#include "panels/SceneTreeView.h"
 #include "support/UserNotifier.h"
 #include "viewport/Playback.h"
 #include "viewport/PointMarks.h"
@@ -15,11 +14,14 @@ namespace scopix
 ShownScene::ShownScene(const Parts& parts, QObject* parent)
     : QObject(parent)
     , m_parts(parts)
+    , m_pane(parts.panel, parts.view)
 {
     connect(&parts.scenes, &OpenScenes::aboutToLeave, this, &ShownScene::keepLook);
     connect(&parts.scenes, &OpenScenes::rootChanged, this, &ShownScene::show);
-    connect(&parts.scenes, &OpenScenes::aboutToRemove, this,
-            [this](const OpenScene& scene) { m_looks.erase(&scene); });
+    connect(&parts.scenes, &OpenScenes::aboutToRemove, this, [this](const OpenScene& scene) {
+        m_looks.erase(&scene);
+        m_pane.drop(scene);
+    });
 }
 
 ShownScene::~ShownScene() = default;
@@ -32,8 +34,7 @@ void ShownScene::keepLook(const OpenScene& scene)
     look->wasPlaying = playback.isPlaying();
     if (look->wasPlaying)
         playback.togglePlaying();
-    look->place = m_parts.view.getPlace();
-    look->expanded = m_parts.panel.getTree().expandedPaths();
+    m_pane.keep(scene);
     m_parts.states.swap(look->states);
     m_looks[&scene] = std::move(look);
 }
@@ -47,16 +48,10 @@ void ShownScene::show(SoNode* root)
         m_parts.states.swap(look->states);
     else
         m_parts.states.clear();
-    m_parts.view.setShapeColors({});
-    m_parts.view.setOverdrawShown(false);
-    m_parts.panel.setScene(root);
     // Pictures made by a script are the same each time; and time in an application's scene is the
     // application's.
     m_parts.view.setAnimated(m_parts.notifier.isAttended() && !document.isExternal());
-    if (look)
-        m_parts.view.setScene(root, look->place);
-    else
-        m_parts.view.setScene(root);
+    m_pane.show(m_parts.scenes.getFront(), root);
     m_parts.playback.setScene(document.isExternal() ? nullptr : root);
     m_parts.marks.setScene(root);
     if (look)
@@ -65,7 +60,6 @@ void ShownScene::show(SoNode* root)
 
 void ShownScene::showAgain(Look& look)
 {
-    m_parts.panel.getTree().expandPaths(look.expanded);
     m_parts.playback.choose(look.choice);
     if (look.wasPlaying)
         m_parts.playback.togglePlaying();

@@ -2,15 +2,12 @@
 #pragma once
 
 #include "structure/SceneStates.h"
-#include "viewport/ViewCamera.h"
-
-#include <xsg/actions/SoPath.h>
+#include "window/PaneLooks.h"
 
 #include <QObject>
 
 #include <map>
 #include <memory>
-#include <vector>
 
 namespace scopix
 {
@@ -48,8 +45,6 @@ public:
 private:
     struct Look {
         SceneStates states;
-        ViewCamera::Place place;
-        std::vector<SoPath> expanded;
         int choice = 0;
         bool wasPlaying = false;
     };
@@ -59,6 +54,7 @@ private:
     void showAgain(Look& look);
 
     Parts m_parts;
+    PaneLooks m_pane;
     std::map<const OpenScene*, std::unique_ptr<Look>> m_looks;
 };
 
