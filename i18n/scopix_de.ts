@@ -1882,6 +1882,22 @@ scopix --launch PROGRAM starts one.</source>
         <translation>es hat keinen Einsprungpunkt „%1“</translation>
     </message>
     <message>
+        <source>The picture of the program is in the main window.</source>
+        <translation>Das Bild des Programms ist im Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Handles in the 3D View</source>
+        <translation>Griffe in der 3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Close This Window</source>
+        <translation>Dieses Fenster &amp;schließen</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;Neues Fenster</translation>
+    </message>
+    <message>
         <source>Handles Along Their &amp;Own Axes</source>
         <translation>Griffe an den &amp;eigenen Achsen</translation>
     </message>
@@ -2338,10 +2354,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Wähle einen Knoten aus: Hier stehen dann seine Felder.</translation>
     </message>
     <message>
-        <source>Nothing is open. Open a scene or model, or drop one here.</source>
-        <translation>Nichts ist geöffnet. Öffne eine Szene oder ein Modell oder ziehe eine Datei hierher.</translation>
-    </message>
-    <message>
         <source>Welcome</source>
         <translation>Willkommen</translation>
     </message>
@@ -2390,32 +2402,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>&amp;Knoten</translation>
     </message>
     <message>
-        <source>Handles in the 3D View</source>
-        <translation>Griffe in der 3D-Ansicht</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>View &amp;All</source>
-        <translation>&amp;Alles ansehen</translation>
-    </message>
-    <message>
-        <source>View &amp;Selected</source>
-        <translation>Au&amp;swahl ansehen</translation>
-    </message>
-    <message>
-        <source>&amp;Home</source>
-        <translation>Aus&amp;gangsansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Wireframe</source>
-        <translation>&amp;Drahtgitter</translation>
-    </message>
-    <message>
-        <source>S&amp;tatistics</source>
-        <translation>S&amp;tatistik</translation>
     </message>
     <message>
         <source>Columns of the T&amp;ree</source>
@@ -3658,6 +3646,30 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>&amp;Next</source>
         <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>Nothing is open. Open a scene or model, or drop one here.</source>
+        <translation>Nichts ist geöffnet. Öffne eine Szene oder ein Modell oder ziehe eine Datei hierher.</translation>
+    </message>
+    <message>
+        <source>View &amp;All</source>
+        <translation>&amp;Alles ansehen</translation>
+    </message>
+    <message>
+        <source>View &amp;Selected</source>
+        <translation>Au&amp;swahl ansehen</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>Aus&amp;gangsansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>&amp;Drahtgitter</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics</source>
+        <translation>S&amp;tatistik</translation>
     </message>
     <message>
         <source>In the Scene’s &amp;Order</source>

@@ -1882,6 +1882,22 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[îţ ĥàš ñö éñţŕý pöîñţ “%1” ~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>The picture of the program is in the main window.</source>
+        <translation>[Ţĥé pîçţûŕé öf ţĥé pŕöĝŕàm îš îñ ţĥé màîñ wîñdöw. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Handles in the 3D View</source>
+        <translation>[Ĥàñdléš îñ ţĥé 3D Vîéw ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Close This Window</source>
+        <translation>[&amp;Çlöšé Ţĥîš Wîñdöw ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>[&amp;Ñéw Wîñdöw ~~~~]</translation>
+    </message>
+    <message>
         <source>Handles Along Their &amp;Own Axes</source>
         <translation>[Ĥàñdléš Àlöñĝ Ţĥéîŕ &amp;Öwñ Àxéš ~~~~~~~~~~~~]</translation>
     </message>
@@ -2338,10 +2354,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Šéléçţ à ñödé: îţš fîéldš àŕé lîšţéd ĥéŕé. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Nothing is open. Open a scene or model, or drop one here.</source>
-        <translation>[Ñöţĥîñĝ îš öpéñ. Öpéñ à šçéñé öŕ mödél, öŕ dŕöp öñé ĥéŕé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>Welcome</source>
         <translation>[Wélçömé ~~~]</translation>
     </message>
@@ -2390,32 +2402,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[&amp;Ñödé ~~]</translation>
     </message>
     <message>
-        <source>Handles in the 3D View</source>
-        <translation>[Ĥàñdléš îñ ţĥé 3D Vîéw ~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>[&amp;Vîéw ~~]</translation>
-    </message>
-    <message>
-        <source>View &amp;All</source>
-        <translation>[Vîéw &amp;Àll ~~~~]</translation>
-    </message>
-    <message>
-        <source>View &amp;Selected</source>
-        <translation>[Vîéw &amp;Šéléçţéd ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Home</source>
-        <translation>[&amp;Ĥömé ~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Wireframe</source>
-        <translation>[&amp;Wîŕéfŕàmé ~~~~]</translation>
-    </message>
-    <message>
-        <source>S&amp;tatistics</source>
-        <translation>[Š&amp;ţàţîšţîçš ~~~~]</translation>
     </message>
     <message>
         <source>Columns of the T&amp;ree</source>
@@ -3658,6 +3646,30 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>&amp;Next</source>
         <translation>[&amp;Ñéxţ ~~]</translation>
+    </message>
+    <message>
+        <source>Nothing is open. Open a scene or model, or drop one here.</source>
+        <translation>[Ñöţĥîñĝ îš öpéñ. Öpéñ à šçéñé öŕ mödél, öŕ dŕöp öñé ĥéŕé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>View &amp;All</source>
+        <translation>[Vîéw &amp;Àll ~~~~]</translation>
+    </message>
+    <message>
+        <source>View &amp;Selected</source>
+        <translation>[Vîéw &amp;Šéléçţéd ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>[&amp;Ĥömé ~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Wireframe</source>
+        <translation>[&amp;Wîŕéfŕàmé ~~~~]</translation>
+    </message>
+    <message>
+        <source>S&amp;tatistics</source>
+        <translation>[Š&amp;ţàţîšţîçš ~~~~]</translation>
     </message>
     <message>
         <source>In the Scene’s &amp;Order</source>

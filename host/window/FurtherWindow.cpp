@@ -113,8 +113,10 @@ void FurtherWindow::makeMenus()
 void FurtherWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(m_parts.viewMenu.title());
+    auto* handles = new QMenu(tr("Handles in the 3D View"), menu);
+    m_pane->fillHandleMenu(*handles);
     m_pane->fillViewMenu(*menu);
-    m_pane->fillHandleMenu(*menu->addMenu(tr("Handles in the 3D View")));
+    menu->addMenu(handles);
     m_pane->fillColumnMenu(*menu->addMenu(m_parts.columnMenu.title()));
     menu->addSeparator();
     menu->addAction(tr("&Close This Window"), this, &QWidget::close, Qt::CTRL + Qt::SHIFT + Qt::Key_W)

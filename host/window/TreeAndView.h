@@ -42,8 +42,7 @@ public:
         SceneStates& states;
     };
 
-    /// All must outlive it. Panel and view are for the caller to put into the window, which they must outlive
-    /// this in.
+    /// All must outlive it. The caller puts panel and view into the window, and destroys this before them.
     explicit TreeAndView(const Parts& parts);
     ~TreeAndView() override;
 
@@ -56,7 +55,7 @@ public:
     ViewActions& getViewActions() const { return *m_viewActions; }
     TreeColumns& getColumns() const { return *m_columns; }
 
-    /// Their entries, each once.
+    /// Their entries, each once, and in this order.
     void fillHandleMenu(QMenu& menu);
     void fillViewMenu(QMenu& menu);
     void fillColumnMenu(QMenu& menu);

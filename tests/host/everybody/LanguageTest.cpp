@@ -9,6 +9,7 @@
 #include "palette/CommandPalette.h"
 #include "preferences/PreferencesDialog.h"
 #include "structure/StructureActs.h"
+#include "window/FurtherWindows.h"
 #include "window/SettingsActs.h"
 
 #include <xsg/core/SoFieldData.h>
@@ -94,6 +95,7 @@ TEST_F(PseudoLanguage, ShowsNoTextThatIsNotTranslatedOrPutTogether)
 {
     window->selectField("Glass", "diffuseColor");
     settle();
+    window->getFurtherWindows().open();
     window->getSettings().open();
     window->getPalette().getPalette().open();
     settle();

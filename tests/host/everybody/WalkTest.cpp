@@ -9,6 +9,7 @@
 #include "services/HostServices.h"
 #include "theme/Theme.h"
 #include "viewport/SceneView.h"
+#include "window/FurtherWindows.h"
 
 #include <support/Waiting.h>
 #include <support/WidgetWalk.h>
@@ -102,6 +103,7 @@ protected:
         settle();
         check(palette);
         palette.hide();
+        checkFurtherWindow(check);
         window->showHelp("nodes", {});
         settle();
         for (QWidget* each : QApplication::topLevelWidgets()) {
@@ -110,6 +112,16 @@ protected:
                 each->close();
             }
         }
+    }
+    void checkFurtherWindow(const Check& check)
+    {
+        FurtherWindow& further = window->getFurtherWindows().open();
+        further.resize(window->size());
+        EXPECT_TRUE(waitForActive(&further));
+        settle();
+        check(further);
+        further.close();
+        settle();
     }
     void checkStartPage(const Check& check)
     {

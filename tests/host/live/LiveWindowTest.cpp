@@ -13,10 +13,13 @@
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "viewport/SceneView.h"
 #include "window/AttachDialog.h"
+#include "window/FurtherWindows.h"
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 #include "window/SceneTabs.h"
+#include "window/TreeAndView.h"
 
 #include <support/Waiting.h>
 
@@ -31,6 +34,7 @@
 #include <xsg/fields/SoSFString.h>
 #include <xsg/sensors/SoSensorQueue.h>
 
+#include <QLabel>
 #include <QSignalSpy>
 
 using namespace scopix;
@@ -50,6 +54,24 @@ TEST_F(LiveWindow, ShowsNodesAsTheyAreUnfolded)
     EXPECT_EQ(model().data(row("mars").siblingAtColumn(SceneTreeModel::TypeColumn)).toString(), "Planet");
     EXPECT_FALSE(SoFieldContainer::getByName("luna"));
     EXPECT_EQ(program.scene.valueQuestions, 0);
+}
+
+TEST_F(LiveWindow, HasFurtherWindowsThatSayWhereThePictureIs)
+{
+    FurtherWindow& further = window.getFurtherWindows().open();
+    auto* note = further.findChild<QLabel*>("elsewhereNote");
+    ASSERT_TRUE(note);
+    EXPECT_FALSE(note->isVisible());
+    attach();
+    EXPECT_TRUE(wait([&] { return note->isVisible(); }));
+    EXPECT_TRUE(further.getPane().getView().rect().contains(note->geometry()));
+    SceneTreeView& tree = further.getPane().getTree();
+    ASSERT_TRUE(unfold("sky"));
+    const LiveNode* earth = select("earth");
+    ASSERT_TRUE(earth);
+    EXPECT_TRUE(wait([&] { return tree.getSelectedPath().getTail() == earth; }));
+    further.close();
+    EXPECT_TRUE(wait([&] { return window.getFurtherWindows().getAll().isEmpty(); }));
 }
 
 TEST_F(LiveWindow, FollowsChildrenThatComeAndGo)
