@@ -1726,7 +1726,7 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Wert &amp;kopieren</translation>
     </message>
     <message>
-        <source>Copy &amp;Path</source>
+        <source>Cop&amp;y Path</source>
         <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>

@@ -1726,8 +1726,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[&amp;Çöpý Vàlûé ~~~~]</translation>
     </message>
     <message>
-        <source>Copy &amp;Path</source>
-        <translation>[Çöpý &amp;Pàţĥ ~~~~]</translation>
+        <source>Cop&amp;y Path</source>
+        <translation>[Çöp&amp;ý Pàţĥ ~~~~]</translation>
     </message>
     <message>
         <source>&amp;Reset to Default</source>

@@ -86,7 +86,7 @@ void FieldMenu::open(const QPoint& where)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(&m_list.getModel(), &QAbstractItemModel::modelAboutToBeReset, menu, &QWidget::close);
     menu->addAction(tr("&Copy Value"), &m_list, &FieldListView::copyValue)->setShortcut(QKeySequence::Copy);
-    menu->addAction(tr("Copy &Path"), this,
+    menu->addAction(tr("Cop&y Path"), this,
                     [text = pathOf(*field)] { QApplication::clipboard()->setText(text); });
     menu->addSeparator();
     menu->addAction(tr("&Reset to Default"), this,
