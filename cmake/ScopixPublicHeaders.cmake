@@ -3,7 +3,8 @@
 
 set(SCOPIX_XSG_HEADERS
   # Plain values and their texts
-  SbBox.h SbMatrix.h SbName.h SbPlane.h SbRay.h SbRotation.h SbString.h SbTime.h SbVec.h SbValueText.h XsgExport.h
+  SbBox.h SbMatrix.h SbName.h SbPlane.h SbRay.h SbRotation.h SbSentence.h SbString.h SbTime.h SbVec.h SbValueText.h
+  XsgExport.h
   # Run-time types
   SoType.h SoTyped.h SoTypedImpl.h SoTypedObject.h
   # Errors
@@ -65,8 +66,8 @@ set(SCOPIX_LIVE_XSG_HEADERS
 set(SCOPIX_EXTENDER_HEADERS
   SpxCommand.h SpxContextMenus.h SpxEditedConnections.h SpxEditedFields.h SpxEditor.h SpxExport.h SpxExtension.h
   SpxGuide.h SpxNavigator.h SpxNodeDefaults.h SpxOutput.h SpxPlugin.h SpxPluginNote.h SpxPluginsManager.h
-  SpxPreviewServices.h SpxProfile.h SpxSceneDisplay.h SpxSceneServices.h SpxServices.h SpxSettings.h SpxShell.h
-  SpxShellMenus.h SpxTreeColumns.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
+  SpxPreviewServices.h SpxProfile.h SpxSceneDisplay.h SpxSceneServices.h SpxSentence.h SpxServices.h SpxSettings.h
+  SpxShell.h SpxShellMenus.h SpxTreeColumns.h SpxVersion.h SpxViewLook.h SpxViewServices.h)
 
 set(SCOPIX_HOST_HEADERS
   CommandLine.h Commands.h HostApplication.h HostExport.h)

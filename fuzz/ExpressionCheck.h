@@ -42,7 +42,8 @@ private:
     static void checkError(const SpxExpressionError& error, std::string_view text)
     {
         require(error.position <= text.size(), "the error's place lies beyond the text");
-        require(!error.sentence.empty() && error.sentence.back() == '.', "the error is no sentence");
+        require(!error.sentence.empty() && error.sentence.getText().back() == '.',
+                "the error is no sentence");
         require(std::isnan(SpxExpression(text).evaluate()) || SpxExpression(text).isValid(),
                 "a value of what is not valid");
     }

@@ -49,14 +49,14 @@ private:
     static void checkRecording(std::string_view bytes)
     {
         SoFrameRecording once;
-        std::string problem;
+        SbSentence problem;
         if (!SoFrameFile::parse(bytes, once, problem)) {
             require(!problem.empty(), "a recording is refused without a reason");
             return;
         }
         SoFrameRecording again;
         require(SoFrameFile::parse(SoFrameFile::format(once), again, problem),
-                "it is not read again: " + problem);
+                "it is not read again: " + problem.getText());
         require(again.about == once.about, "remarks change");
         require(haveSame(again.marks, once.marks,
                          [](const SoFrameMark& a, const SoFrameMark& b) {
@@ -75,7 +75,7 @@ private:
     static void checkTable(std::string_view text)
     {
         SoFrameRecording once;
-        std::string problem;
+        SbSentence problem;
         if (SoFrameCsv::read(text, once, problem))
             checkWritten(once);
         else
@@ -85,9 +85,9 @@ private:
     static void checkWritten(const SoFrameRecording& once)
     {
         SoFrameRecording again;
-        std::string problem;
+        SbSentence problem;
         require(SoFrameCsv::read(SoFrameCsv::write(once), again, problem),
-                "a table is not read again: " + problem);
+                "a table is not read again: " + problem.getText());
         require(haveSame(again.columns, once.columns, isSame), "a table changes");
     }
 

@@ -24,8 +24,9 @@ public:
         text += '\n';
         text.append(reinterpret_cast<const char*>(data), size);
         xsg::SceneChanges changes;
-        std::string error;
-        if (!xsg::PatchText::read(text, "fuzzed.xsgpatch", changes, error)) {
+        SbSentence sentence;
+        if (!xsg::PatchText::read(text, "fuzzed.xsgpatch", changes, sentence)) {
+            const std::string& error = sentence.getText();
             require(error.rfind("fuzzed.xsgpatch:", 0) == 0 && error.back() == '.' &&
                         error.find('\n') == std::string::npos,
                     "the error is no sentence with its place: " + error);
@@ -34,8 +35,8 @@ public:
         }
         const std::string once = xsg::PatchText::write(changes);
         xsg::SceneChanges again;
-        require(xsg::PatchText::read(once, "again", again, error),
-                "a patch that was written cannot be read: " + error);
+        require(xsg::PatchText::read(once, "again", again, sentence),
+                "a patch that was written cannot be read: " + sentence.getText());
         require(xsg::PatchText::write(again) == once,
                 "a patch changes when it is written and read:\n" + once);
         apply(changes);

@@ -17,7 +17,8 @@ public:
         const std::string text(reinterpret_cast<const char*>(data), size);
         const SoScenePath path(text);
         if (!path.isValid()) {
-            require(path.getError().back() == '.', "the error is no sentence: " + path.getError());
+            require(path.getError().getText().back() == '.',
+                    "the error is no sentence: " + path.getError().getText());
             return;
         }
         const std::string once = path.toText();

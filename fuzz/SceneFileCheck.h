@@ -111,15 +111,17 @@ private:
         while (!reader.advance(xsg::SceneReader::Clock::time_point::min())) {
         }
         const SoRef<SoNode> scene = reader.takeScene();
-        require(!scene == !whole, "in pieces it is no scene, or only so: " + m_error + reader.getProblem());
+        require(!scene == !whole,
+                "in pieces it is no scene, or only so: " + m_error + reader.getProblem().getText());
         if (!scene) {
             // How far was looked ahead decides whether a byte 0 is reported or what is wrong before it.
             if (text.find('\0') != std::string::npos)
                 return;
             const std::string place =
                 std::to_string(reader.getLine()) + ": Column " + std::to_string(reader.getColumn()) + ": ";
-            require(m_error == "fuzzed.xsg:" + place + reader.getProblem() + ".",
-                    "in pieces the error is another one: " + m_error + " " + place + reader.getProblem());
+            require(m_error == "fuzzed.xsg:" + place + reader.getProblem().getText() + ".",
+                    "in pieces the error is another one: " + m_error + " " + place +
+                        reader.getProblem().getText());
             return;
         }
         const std::string text1 = SoSceneFile::writeText(scene.get());

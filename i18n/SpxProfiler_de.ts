@@ -80,6 +80,14 @@
         <translation>Zeigt, was jedes Bild gekostet hat und warum.</translation>
     </message>
     <message>
+        <source>it cannot be read</source>
+        <translation>sie lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>it has more than 256 MiB</source>
+        <translation>sie hat mehr als 256 MiB</translation>
+    </message>
+    <message>
         <source>%1 %2 instead of %3</source>
         <translation>%1 %2 statt %3</translation>
     </message>

@@ -80,6 +80,14 @@
         <translation>[Šĥöwš wĥàţ éàçĥ fŕàmé çöšţ, àñd wĥý. ~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>it cannot be read</source>
+        <translation>[îţ çàññöţ bé ŕéàd ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it has more than 256 MiB</source>
+        <translation>[îţ ĥàš möŕé ţĥàñ 256 MîB ~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1 %2 instead of %3</source>
         <translation>[%1 %2 îñšţéàd öf %3 ~~~~~~~~]</translation>
     </message>

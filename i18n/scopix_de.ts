@@ -212,6 +212,18 @@
         <translation>0; 1, wenn sie langsamer als OLD ist</translation>
     </message>
     <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
         <source>%1 (scopix --help lists the options.)</source>
         <translation>%1 („scopix --help“ listet die Optionen auf.)</translation>
     </message>
@@ -882,6 +894,10 @@
         <translation>es ist für Qt %1 gebaut, dieses Programm läuft mit Qt %2</translation>
     </message>
     <message>
+        <source>its code ended the program</source>
+        <translation>sein Code hat das Programm beendet</translation>
+    </message>
+    <message>
         <source>its initialisation failed: %1</source>
         <translation>seine Initialisierung ist fehlgeschlagen: %1</translation>
     </message>
@@ -904,6 +920,550 @@
     <message>
         <source>such a file holds no more than 4294967295 triangles</source>
         <translation>eine solche Datei fasst höchstens 4294967295 Dreiecke</translation>
+    </message>
+    <message>
+        <source>The patch puts another node in the place of the root, which cannot be done in an open scene; “scopix apply” does it in the file.</source>
+        <translation>Der Patch setzt einen anderen Knoten an die Stelle der Wurzel, was in einer geöffneten Szene nicht geht; „scopix apply“ tut es in der Datei.</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 number and was given %2.</source>
+        <translation>„%1“ nimmt 1 Zahl und hat %2 bekommen.</translation>
+    </message>
+    <message>
+        <source>“%1” takes %2 numbers and was given %3.</source>
+        <translation>„%1“ nimmt %2 Zahlen und hat %3 bekommen.</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 or 2 numbers and was given %2.</source>
+        <translation>„%1“ nimmt 1 oder 2 Zahlen und hat %2 bekommen.</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 number or more and was given %2.</source>
+        <translation>„%1“ nimmt mindestens 1 Zahl und hat %2 bekommen.</translation>
+    </message>
+    <message>
+        <source>The text is longer than 1000 characters.</source>
+        <translation>Der Text ist länger als 1000 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The result is not %1: a unit belongs to the number or parenthesis right before it.</source>
+        <translation>Als Ergebnis ist %1 verlangt: Eine Einheit gehört zu der Zahl oder Klammer direkt davor.</translation>
+    </message>
+    <message>
+        <source>The expression is nested too deeply.</source>
+        <translation>Der Ausdruck ist zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>There is no present value here that could be changed.</source>
+        <translation>Hier gibt es keinen jetzigen Wert, der sich ändern ließe.</translation>
+    </message>
+    <message>
+        <source>A plain number is needed after “%1”.</source>
+        <translation>Nach „%1“ muss eine einfache Zahl stehen.</translation>
+    </message>
+    <message>
+        <source>Only plain numbers can be raised to a power.</source>
+        <translation>Nur einfache Zahlen lassen sich potenzieren.</translation>
+    </message>
+    <message>
+        <source>“%1” is a unit of %2, and %3 is wanted here.</source>
+        <translation>Mit „%1“ ist %2 gemeint, hier ist aber %3 verlangt.</translation>
+    </message>
+    <message>
+        <source>There is a unit already.</source>
+        <translation>Hier steht schon eine Einheit.</translation>
+    </message>
+    <message>
+        <source>There is no function “%1”.</source>
+        <translation>Eine Funktion „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>“%1” needs its numbers in parentheses after it.</source>
+        <translation>Nach „%1“ müssen die Zahlen in Klammern stehen.</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>„%1“ ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>This has another unit than what stands before it.</source>
+        <translation>Das hat eine andere Einheit als das, was davor steht.</translation>
+    </message>
+    <message>
+        <source>The result of what stands here is not an angle.</source>
+        <translation>Was hier steht, ergibt keinen Winkel.</translation>
+    </message>
+    <message>
+        <source>“%1” takes plain numbers, without a unit.</source>
+        <translation>„%1“ nimmt einfache Zahlen, ohne Einheit.</translation>
+    </message>
+    <message>
+        <source>The two sides have different units.</source>
+        <translation>Die beiden Seiten haben verschiedene Einheiten.</translation>
+    </message>
+    <message>
+        <source>A “%1” is missing at the end.</source>
+        <translation>Am Ende fehlt „%1“.</translation>
+    </message>
+    <message>
+        <source>A number or a formula is missing.</source>
+        <translation>Es fehlt eine Zahl oder eine Formel.</translation>
+    </message>
+    <message>
+        <source>A number is missing after “%1”.</source>
+        <translation>Nach „%1“ fehlt eine Zahl.</translation>
+    </message>
+    <message>
+        <source>A comma separates the arguments of a function; it is a decimal sign only in a text that is one number.</source>
+        <translation>Ein Komma trennt die Argumente einer Funktion; Dezimalzeichen ist es nur in einem Text, der eine einzige Zahl ist.</translation>
+    </message>
+    <message>
+        <source>“%1” makes no sense here.</source>
+        <translation>„%1“ ergibt hier keinen Sinn.</translation>
+    </message>
+    <message>
+        <source>A sign such as + or * is missing before “%1”.</source>
+        <translation>Vor „%1“ fehlt ein Zeichen wie + oder *.</translation>
+    </message>
+    <message>
+        <source>“%1” has no meaning here.</source>
+        <translation>„%1“ hat hier keine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large or too small a number.</source>
+        <translation>Die Zahl „%1“ ist zu groß oder zu klein.</translation>
+    </message>
+    <message>
+        <source>The name that begins here has no second quotation mark.</source>
+        <translation>Dem Namen, der hier beginnt, fehlt das zweite Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>an angle</source>
+        <translation>ein Winkel</translation>
+    </message>
+    <message>
+        <source>a length</source>
+        <translation>eine Länge</translation>
+    </message>
+    <message>
+        <source>a time</source>
+        <translation>eine Zeit</translation>
+    </message>
+    <message>
+        <source>a plain number</source>
+        <translation>eine einfache Zahl</translation>
+    </message>
+    <message>
+        <source>a %1 has no such field</source>
+        <translation>%1 hat kein solches Feld</translation>
+    </message>
+    <message>
+        <source>there is no field %1 to follow</source>
+        <translation>das Feld %1, dem es folgen soll, gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the end of the value was expected</source>
+        <translation>das Ende des Werts wurde erwartet</translation>
+    </message>
+    <message>
+        <source>there is no default value</source>
+        <translation>es gibt keinen Standardwert</translation>
+    </message>
+    <message>
+        <source>"%1" is no value of a %2</source>
+        <translation>"%1" ist kein Wert eines %2</translation>
+    </message>
+    <message>
+        <source>the list has %1 values</source>
+        <translation>die Liste hat %1 Werte</translation>
+    </message>
+    <message>
+        <source>it is no list</source>
+        <translation>es ist keine Liste</translation>
+    </message>
+    <message>
+        <source>"%1" is no value of it</source>
+        <translation>"%1" ist kein Wert davon</translation>
+    </message>
+    <message>
+        <source>it cannot follow %1</source>
+        <translation>es kann %1 nicht folgen</translation>
+    </message>
+    <message>
+        <source>there are %1 children called %2 and not %3</source>
+        <translation>es gibt %1 Kinder namens %2 und nicht %3</translation>
+    </message>
+    <message>
+        <source>line %1: %2 %3: %4.</source>
+        <translation>Zeile %1: %2 %3: %4.</translation>
+    </message>
+    <message>
+        <source>a %1 has no children</source>
+        <translation>%1 hat keine Kinder</translation>
+    </message>
+    <message>
+        <source>there is no such node</source>
+        <translation>einen solchen Knoten gibt es nicht</translation>
+    </message>
+    <message>
+        <source>there is no %1 to put it after</source>
+        <translation>es gibt kein %1, hinter das es soll</translation>
+    </message>
+    <message>
+        <source>%1 cannot stand in %2, which it holds.</source>
+        <translation>%1 kann nicht in %2 stehen, das darin enthalten ist.</translation>
+    </message>
+    <message>
+        <source>%1 was expected at the end of the line</source>
+        <translation>am Ende der Zeile wurde %1 erwartet</translation>
+    </message>
+    <message>
+        <source>%1 was expected instead of "%2"</source>
+        <translation>statt "%2" wurde %1 erwartet</translation>
+    </message>
+    <message>
+        <source>"set", "name", "insert", "remove", "move", "replace" or "order"</source>
+        <translation>"set", "name", "insert", "remove", "move", "replace" oder "order"</translation>
+    </message>
+    <message>
+        <source>the path of a place below the root</source>
+        <translation>der Pfad einer Stelle unter der Wurzel</translation>
+    </message>
+    <message>
+        <source>"from" and where it was</source>
+        <translation>"from" und die alte Stelle</translation>
+    </message>
+    <message>
+        <source>a name in quotes</source>
+        <translation>ein Name in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a path, which starts with "/"</source>
+        <translation>ein Pfad, der mit "/" beginnt</translation>
+    </message>
+    <message>
+        <source>the path of a field, such as /Lamp.intensity</source>
+        <translation>der Pfad eines Felds, etwa /Lamp.intensity</translation>
+    </message>
+    <message>
+        <source>the path of a node</source>
+        <translation>der Pfad eines Knotens</translation>
+    </message>
+    <message>
+        <source>a number of children</source>
+        <translation>eine Anzahl von Kindern</translation>
+    </message>
+    <message>
+        <source>"first", or "after" and a node</source>
+        <translation>"first", oder "after" und ein Knoten</translation>
+    </message>
+    <message>
+        <source>the end of the quotes</source>
+        <translation>das Ende der Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a name without a byte 0</source>
+        <translation>ein Name ohne Byte 0</translation>
+    </message>
+    <message>
+        <source>"new", "from" or "same"</source>
+        <translation>"new", "from" oder "same"</translation>
+    </message>
+    <message>
+        <source>a type</source>
+        <translation>ein Typ</translation>
+    </message>
+    <message>
+        <source>"new" or "same"</source>
+        <translation>"new" oder "same"</translation>
+    </message>
+    <message>
+        <source>the name of a field</source>
+        <translation>der Name eines Felds</translation>
+    </message>
+    <message>
+        <source>one value, without marks</source>
+        <translation>ein einzelner Wert, ohne Markierungen</translation>
+    </message>
+    <message>
+        <source>a text in quotes</source>
+        <translation>ein Text in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a text without a byte 0</source>
+        <translation>ein Text ohne Byte 0</translation>
+    </message>
+    <message>
+        <source>an end of the list or text that begins here</source>
+        <translation>ein Ende der Liste oder des Texts, der hier beginnt</translation>
+    </message>
+    <message>
+        <source>a value or "!default"</source>
+        <translation>ein Wert oder "!default"</translation>
+    </message>
+    <message>
+        <source>a whole field</source>
+        <translation>ein ganzes Feld</translation>
+    </message>
+    <message>
+        <source>the end of the line</source>
+        <translation>das Ende der Zeile</translation>
+    </message>
+    <message>
+        <source>this is no patch: its first line must be "%1"</source>
+        <translation>das ist kein Patch: Die erste Zeile muss "%1" sein</translation>
+    </message>
+    <message>
+        <source>a byte 0 stands here, which a text has not: the file is damaged, or no patch</source>
+        <translation>hier steht ein Byte 0, das es in Texten nicht gibt: Die Datei ist beschädigt oder kein Patch</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is a %3; each field has a line of its own</source>
+        <translation>%1 ist kein Wert von %2, das den Typ %3 hat; jedes Feld hat eine eigene Zeile</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is a %3</source>
+        <translation>%1 ist kein Wert von %2, das den Typ %3 hat</translation>
+    </message>
+    <message>
+        <source>a byte 0 stands here, which a text has not: the file is damaged, or no scene</source>
+        <translation>hier steht ein Byte 0, das es in Texten nicht gibt: Die Datei ist beschädigt oder keine Szene</translation>
+    </message>
+    <message>
+        <source>the text in quotes that starts here has no end, or an escape that does not exist</source>
+        <translation>der Text in Anführungszeichen, der hier beginnt, endet nicht oder enthält ein Sonderzeichen, das es nicht gibt</translation>
+    </message>
+    <message>
+        <source>this is no scene file: its first line must be "%1"</source>
+        <translation>das ist keine Szenendatei: Die erste Zeile muss "%1" sein</translation>
+    </message>
+    <message>
+        <source>a file holds one node with everything in it, so its end was expected instead of %1</source>
+        <translation>eine Datei enthält einen Knoten mit allem darin, deshalb wurde statt %1 das Ende erwartet</translation>
+    </message>
+    <message>
+        <source>the file ends too early: "}" was expected to close the %1</source>
+        <translation>die Datei endet zu früh: "}" wurde erwartet, um %1 zu schließen</translation>
+    </message>
+    <message>
+        <source>the file has no node: a type such as Separator was expected</source>
+        <translation>die Datei hat keinen Knoten: Ein Typ wie Separator wurde erwartet</translation>
+    </message>
+    <message>
+        <source>"}" closes nothing; a node was expected</source>
+        <translation>"}" schließt nichts; ein Knoten wurde erwartet</translation>
+    </message>
+    <message>
+        <source>a node was expected instead of %1</source>
+        <translation>statt %1 wurde ein Knoten erwartet</translation>
+    </message>
+    <message>
+        <source>a field, a node or "}" was expected instead of %1</source>
+        <translation>statt %1 wurde ein Feld, ein Knoten oder "}" erwartet</translation>
+    </message>
+    <message>
+        <source>a field stands within a node; a node was expected</source>
+        <translation>ein Feld steht in einem Knoten; ein Knoten wurde erwartet</translation>
+    </message>
+    <message>
+        <source>a %1 has no children; a field such as "name: value" or "}" was expected instead of %2</source>
+        <translation>%1 hat keine Kinder; statt %2 wurde ein Feld wie "name: value" oder "}" erwartet</translation>
+    </message>
+    <message>
+        <source>a label was expected after "@"</source>
+        <translation>nach "@" wurde eine Marke erwartet</translation>
+    </message>
+    <message>
+        <source>"{" was expected after %1</source>
+        <translation>nach %1 wurde "{" erwartet</translation>
+    </message>
+    <message>
+        <source>the label @%1 is already another node's</source>
+        <translation>die Marke @%1 gehört schon einem anderen Knoten</translation>
+    </message>
+    <message>
+        <source>the label @%1 is not that of a node that is complete here</source>
+        <translation>die Marke @%1 gehört keinem Knoten, der hier schon vollständig ist</translation>
+    </message>
+    <message>
+        <source>a %1 has no field %2; a field of it, a node or "}" was expected</source>
+        <translation>%1 hat kein Feld %2; eines seiner Felder, ein Knoten oder "}" wurde erwartet</translation>
+    </message>
+    <message>
+        <source>the value that starts here is longer than 1 GiB, and is not read</source>
+        <translation>der Wert, der hier beginnt, ist länger als 1 GiB und wird nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the list that starts here has no "]"</source>
+        <translation>der Liste, die hier beginnt, fehlt "]"</translation>
+    </message>
+    <message>
+        <source>the text in quotes that starts here has no end</source>
+        <translation>der Text in Anführungszeichen, der hier beginnt, endet nicht</translation>
+    </message>
+    <message>
+        <source>"!ignored" was expected</source>
+        <translation>"!ignored" wurde erwartet</translation>
+    </message>
+    <message>
+        <source>"&lt;- @label.field" was expected</source>
+        <translation>"&lt;- @label.field" wurde erwartet</translation>
+    </message>
+    <message>
+        <source>a record starts with "@" and the number of a node</source>
+        <translation>ein Eintrag beginnt mit "@" und der Nummer eines Knotens</translation>
+    </message>
+    <message>
+        <source>a field of the %1 was expected</source>
+        <translation>ein Feld von %1 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>the end of the record was expected</source>
+        <translation>das Ende des Eintrags wurde erwartet</translation>
+    </message>
+    <message>
+        <source>%1:%2: Column %3: %4.</source>
+        <translation>%1:%2: Spalte %3: %4.</translation>
+    </message>
+    <message>
+        <source>A scene file was expected, but this is not a file.</source>
+        <translation>Eine Szenendatei wurde erwartet, aber das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>Die Datei lässt sich nicht lesen: %1.</translation>
+    </message>
+    <message>
+        <source>A scene file of at most 4 GiB was expected, but this one has %1 bytes.</source>
+        <translation>Eine Szenendatei von höchstens 4 GiB wurde erwartet, aber diese hat %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end.</source>
+        <translation>Die Datei lässt sich nicht bis zum Ende lesen.</translation>
+    </message>
+    <message>
+        <source>there is no field @%1.%2 to connect from</source>
+        <translation>das Feld @%1.%2, mit dem verbunden werden soll, gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1 cannot be connected from a %2, or would in the end be connected from itself</source>
+        <translation>%1 lässt sich nicht mit einem %2 verbinden oder wäre am Ende mit sich selbst verbunden</translation>
+    </message>
+    <message>
+        <source>%1: The file cannot be written: %2.</source>
+        <translation>%1: Die Datei lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>line %1 does not fit the names of the columns</source>
+        <translation>Zeile %1 passt nicht zu den Namen der Spalten</translation>
+    </message>
+    <message>
+        <source>it has no line with the names of the columns</source>
+        <translation>ihr fehlt die Zeile mit den Namen der Spalten</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>sie lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>it has more than 1 GiB</source>
+        <translation>sie hat mehr als 1 GiB</translation>
+    </message>
+    <message>
+        <source>it is no recording of frames</source>
+        <translation>sie ist keine Aufzeichnung von Bildern</translation>
+    </message>
+    <message>
+        <source>its head is damaged</source>
+        <translation>ihr Anfang ist beschädigt</translation>
+    </message>
+    <message>
+        <source>there is no %1 below %2</source>
+        <translation>unter %2 gibt es kein %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 below the root, which itself is "/"</source>
+        <translation>unter der Wurzel, die selbst "/" heißt, gibt es kein %1</translation>
+    </message>
+    <message>
+        <source>there is no %1 below the root</source>
+        <translation>unter der Wurzel gibt es kein %1</translation>
+    </message>
+    <message>
+        <source>%1 nodes are meant; a path that starts with "/" names one of them</source>
+        <translation>gemeint sind %1 Knoten; ein Pfad, der mit "/" beginnt, nennt einen davon</translation>
+    </message>
+    <message>
+        <source>a %1 has no field "%2"</source>
+        <translation>%1 hat kein Feld "%2"</translation>
+    </message>
+    <message>
+        <source>the path was expected to end before "%1"</source>
+        <translation>vor "%1" wurde das Ende des Pfads erwartet</translation>
+    </message>
+    <message>
+        <source>"%1" is no path: %2.</source>
+        <translation>"%1" ist kein Pfad: %2.</translation>
+    </message>
+    <message>
+        <source>the name or type of a node</source>
+        <translation>der Name oder Typ eines Knotens</translation>
+    </message>
+    <message>
+        <source>the quotes around %1 have no end, or nothing in them</source>
+        <translation>hier steht %1 in Anführungszeichen, die nicht enden oder leer sind</translation>
+    </message>
+    <message>
+        <source>%1 was expected at the end</source>
+        <translation>am Ende wurde %1 erwartet</translation>
+    </message>
+    <message>
+        <source>%1 was expected before "%2"</source>
+        <translation>vor "%2" wurde %1 erwartet</translation>
+    </message>
+    <message>
+        <source>a number, counted from 0, and "]" were expected after "["</source>
+        <translation>nach "[" wurden eine Nummer, von 0 an gezählt, und "]" erwartet</translation>
+    </message>
+    <message>
+        <source>"/", ".", "[" or the end was expected before "%1"</source>
+        <translation>vor "%1" wurde "/", ".", "[" oder das Ende erwartet</translation>
+    </message>
+    <message>
+        <source>“%1” lacks what to look for after the colon.</source>
+        <translation>In „%1“ fehlt nach dem Doppelpunkt, was gesucht wird.</translation>
+    </message>
+    <message>
+        <source>A minus sign lacks what is not to be found.</source>
+        <translation>Nach einem Minuszeichen fehlt, was nicht gefunden werden soll.</translation>
+    </message>
+    <message>
+        <source>“%1” has a sign that compares nothing: use = != &lt; &lt;= &gt; &gt;= or ~.</source>
+        <translation>Das Zeichen in „%1“ vergleicht nichts: Möglich sind = != &lt; &lt;= &gt; &gt;= und ~.</translation>
+    </message>
+    <message>
+        <source>“%1” names no number of a value: use .x .y .z .w or .r .g .b .a.</source>
+        <translation>„%1“ nennt keine Zahl eines Werts: Möglich sind .x .y .z .w und .r .g .b .a.</translation>
+    </message>
+    <message>
+        <source>“%1” needs a number to compare with.</source>
+        <translation>„%1“ braucht eine Zahl, mit der verglichen wird.</translation>
+    </message>
+    <message>
+        <source>“%1” lacks the value to compare with.</source>
+        <translation>In „%1“ fehlt der Wert, mit dem verglichen wird.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>die Datei ist schreibgeschützt</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>
@@ -1047,7 +1607,7 @@
     </message>
     <message>
         <source>--save writes what FILE holds, and no FILE was given.</source>
-        <translation>--save schreibt den Inhalt von DATEI, aber es wurde keine DATEI angegeben.</translation>
+        <translation>--save schreibt den Inhalt von FILE, aber es wurde keine FILE angegeben.</translation>
     </message>
     <message>
         <source>--save opens no window, so that --%1 cannot be given with it.</source>
@@ -1055,7 +1615,7 @@
     </message>
     <message>
         <source>Only one FILE can be opened, and %1 were given, the second being “%2”.</source>
-        <translation>Es lässt sich nur eine DATEI öffnen; angegeben wurden %1, die zweite ist „%2“.</translation>
+        <translation>Es lässt sich nur eine FILE öffnen; angegeben wurden %1, die zweite ist „%2“.</translation>
     </message>
     <message>
         <source>--%1 expects %2, and nothing was given.</source>
@@ -1063,11 +1623,11 @@
     </message>
     <message>
         <source>FILE expects the path of a scene or model, and nothing was given.</source>
-        <translation>DATEI erwartet den Pfad einer Szene oder eines Modells, aber es wurde nichts angegeben.</translation>
+        <translation>FILE erwartet den Pfad einer Szene oder eines Modells, aber es wurde nichts angegeben.</translation>
     </message>
     <message>
         <source>Either FILE or one running program can be shown, and more than one of them was given.</source>
-        <translation>Es lässt sich entweder DATEI oder ein laufendes Programm zeigen; angegeben wurde mehr als eins davon.</translation>
+        <translation>Es lässt sich entweder FILE oder ein laufendes Programm zeigen; angegeben wurde mehr als eins davon.</translation>
     </message>
     <message>
         <source>Usage: scopix %1 %2</source>
@@ -1252,10 +1812,6 @@
     <message>
         <source>The value of “%1” cannot be kept as a default: its text is longer than %2 characters.</source>
         <translation>Der Wert von „%1“ lässt sich nicht als Voreinstellung behalten: Sein Text ist länger als %2 Zeichen.</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>das ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>it has more than %1 bytes</source>
@@ -3578,10 +4134,6 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>no temporary file can be written</source>
         <translation>es lässt sich keine temporäre Datei schreiben</translation>
-    </message>
-    <message>
-        <source>%1: The file cannot be written: %2.</source>
-        <translation>%1: Die Datei lässt sich nicht schreiben: %2.</translation>
     </message>
     <message>
         <source>Every kind of node</source>

@@ -212,6 +212,18 @@
         <translation>[0, 1 wĥéŕé îţ îš šlöwéŕ ţĥàñ ÖLD ~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Usage: %1</source>
+        <translation>[Ûšàĝé: %1 ~~~~]</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[[öpţîöñš] ~~~~]</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>[Àŕĝûméñţš: ~~~~]</translation>
+    </message>
+    <message>
         <source>%1 (scopix --help lists the options.)</source>
         <translation>[%1 (šçöpîx --ĥélp lîšţš ţĥé öpţîöñš.) ~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -882,6 +894,10 @@
         <translation>[îţ wàš màdé föŕ Qţ %1, ţĥîš pŕöĝŕàm ŕûñš wîţĥ Qţ %2 ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>its code ended the program</source>
+        <translation>[îţš çödé éñdéd ţĥé pŕöĝŕàm ~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>its initialisation failed: %1</source>
         <translation>[îţš îñîţîàlîšàţîöñ fàîléd: %1 ~~~~~~~~~~~~]</translation>
     </message>
@@ -904,6 +920,550 @@
     <message>
         <source>such a file holds no more than 4294967295 triangles</source>
         <translation>[šûçĥ à fîlé ĥöldš ñö möŕé ţĥàñ 4294967295 ţŕîàñĝléš ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The patch puts another node in the place of the root, which cannot be done in an open scene; “scopix apply” does it in the file.</source>
+        <translation>[Ţĥé pàţçĥ pûţš àñöţĥéŕ ñödé îñ ţĥé plàçé öf ţĥé ŕööţ, wĥîçĥ çàññöţ bé döñé îñ àñ öpéñ šçéñé; “šçöpîx àpplý” döéš îţ îñ ţĥé fîlé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 number and was given %2.</source>
+        <translation>[“%1” ţàķéš 1 ñûmbéŕ àñd wàš ĝîvéñ %2. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes %2 numbers and was given %3.</source>
+        <translation>[“%1” ţàķéš %2 ñûmbéŕš àñd wàš ĝîvéñ %3. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 or 2 numbers and was given %2.</source>
+        <translation>[“%1” ţàķéš 1 öŕ 2 ñûmbéŕš àñd wàš ĝîvéñ %2. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes 1 number or more and was given %2.</source>
+        <translation>[“%1” ţàķéš 1 ñûmbéŕ öŕ möŕé àñd wàš ĝîvéñ %2. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The text is longer than 1000 characters.</source>
+        <translation>[Ţĥé ţéxţ îš löñĝéŕ ţĥàñ 1000 çĥàŕàçţéŕš. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The result is not %1: a unit belongs to the number or parenthesis right before it.</source>
+        <translation>[Ţĥé ŕéšûlţ îš ñöţ %1: à ûñîţ bélöñĝš ţö ţĥé ñûmbéŕ öŕ pàŕéñţĥéšîš ŕîĝĥţ béföŕé îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The expression is nested too deeply.</source>
+        <translation>[Ţĥé éxpŕéššîöñ îš ñéšţéd ţöö dééplý. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>There is no present value here that could be changed.</source>
+        <translation>[Ţĥéŕé îš ñö pŕéšéñţ vàlûé ĥéŕé ţĥàţ çöûld bé çĥàñĝéd. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A plain number is needed after “%1”.</source>
+        <translation>[À plàîñ ñûmbéŕ îš ñéédéd àfţéŕ “%1”. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Only plain numbers can be raised to a power.</source>
+        <translation>[Öñlý plàîñ ñûmbéŕš çàñ bé ŕàîšéd ţö à pöwéŕ. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is a unit of %2, and %3 is wanted here.</source>
+        <translation>[“%1” îš à ûñîţ öf %2, àñd %3 îš wàñţéd ĥéŕé. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>There is a unit already.</source>
+        <translation>[Ţĥéŕé îš à ûñîţ àlŕéàdý. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>There is no function “%1”.</source>
+        <translation>[Ţĥéŕé îš ñö fûñçţîöñ “%1”. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” needs its numbers in parentheses after it.</source>
+        <translation>[“%1” ñéédš îţš ñûmbéŕš îñ pàŕéñţĥéšéš àfţéŕ îţ. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>[“%1” îš ñöţ ķñöwñ ĥéŕé. ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>This has another unit than what stands before it.</source>
+        <translation>[Ţĥîš ĥàš àñöţĥéŕ ûñîţ ţĥàñ wĥàţ šţàñdš béföŕé îţ. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The result of what stands here is not an angle.</source>
+        <translation>[Ţĥé ŕéšûlţ öf wĥàţ šţàñdš ĥéŕé îš ñöţ àñ àñĝlé. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes plain numbers, without a unit.</source>
+        <translation>[“%1” ţàķéš plàîñ ñûmbéŕš, wîţĥöûţ à ûñîţ. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The two sides have different units.</source>
+        <translation>[Ţĥé ţwö šîdéš ĥàvé dîfféŕéñţ ûñîţš. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A “%1” is missing at the end.</source>
+        <translation>[À “%1” îš mîššîñĝ àţ ţĥé éñd. ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A number or a formula is missing.</source>
+        <translation>[À ñûmbéŕ öŕ à föŕmûlà îš mîššîñĝ. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A number is missing after “%1”.</source>
+        <translation>[À ñûmbéŕ îš mîššîñĝ àfţéŕ “%1”. ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A comma separates the arguments of a function; it is a decimal sign only in a text that is one number.</source>
+        <translation>[À çömmà šépàŕàţéš ţĥé àŕĝûméñţš öf à fûñçţîöñ; îţ îš à déçîmàl šîĝñ öñlý îñ à ţéxţ ţĥàţ îš öñé ñûmbéŕ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” makes no sense here.</source>
+        <translation>[“%1” màķéš ñö šéñšé ĥéŕé. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A sign such as + or * is missing before “%1”.</source>
+        <translation>[À šîĝñ šûçĥ àš + öŕ * îš mîššîñĝ béföŕé “%1”. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” has no meaning here.</source>
+        <translation>[“%1” ĥàš ñö méàñîñĝ ĥéŕé. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is too large or too small a number.</source>
+        <translation>[“%1” îš ţöö làŕĝé öŕ ţöö šmàll à ñûmbéŕ. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The name that begins here has no second quotation mark.</source>
+        <translation>[Ţĥé ñàmé ţĥàţ béĝîñš ĥéŕé ĥàš ñö šéçöñd qûöţàţîöñ màŕķ. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>an angle</source>
+        <translation>[àñ àñĝlé ~~~]</translation>
+    </message>
+    <message>
+        <source>a length</source>
+        <translation>[à léñĝţĥ ~~~]</translation>
+    </message>
+    <message>
+        <source>a time</source>
+        <translation>[à ţîmé ~~]</translation>
+    </message>
+    <message>
+        <source>a plain number</source>
+        <translation>[à plàîñ ñûmbéŕ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a %1 has no such field</source>
+        <translation>[à %1 ĥàš ñö šûçĥ fîéld ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no field %1 to follow</source>
+        <translation>[ţĥéŕé îš ñö fîéld %1 ţö föllöw ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the end of the value was expected</source>
+        <translation>[ţĥé éñd öf ţĥé vàlûé wàš éxpéçţéd ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no default value</source>
+        <translation>[ţĥéŕé îš ñö défàûlţ vàlûé ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"%1" is no value of a %2</source>
+        <translation>["%1" îš ñö vàlûé öf à %2 ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the list has %1 values</source>
+        <translation>[ţĥé lîšţ ĥàš %1 vàlûéš ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it is no list</source>
+        <translation>[îţ îš ñö lîšţ ~~~~~]</translation>
+    </message>
+    <message>
+        <source>"%1" is no value of it</source>
+        <translation>["%1" îš ñö vàlûé öf îţ ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it cannot follow %1</source>
+        <translation>[îţ çàññöţ föllöw %1 ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there are %1 children called %2 and not %3</source>
+        <translation>[ţĥéŕé àŕé %1 çĥîldŕéñ çàlléd %2 àñd ñöţ %3 ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>line %1: %2 %3: %4.</source>
+        <translation>[lîñé %1: %2 %3: %4. ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a %1 has no children</source>
+        <translation>[à %1 ĥàš ñö çĥîldŕéñ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no such node</source>
+        <translation>[ţĥéŕé îš ñö šûçĥ ñödé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no %1 to put it after</source>
+        <translation>[ţĥéŕé îš ñö %1 ţö pûţ îţ àfţéŕ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot stand in %2, which it holds.</source>
+        <translation>[%1 çàññöţ šţàñd îñ %2, wĥîçĥ îţ ĥöldš. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 was expected at the end of the line</source>
+        <translation>[%1 wàš éxpéçţéd àţ ţĥé éñd öf ţĥé lîñé ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 was expected instead of "%2"</source>
+        <translation>[%1 wàš éxpéçţéd îñšţéàd öf "%2" ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"set", "name", "insert", "remove", "move", "replace" or "order"</source>
+        <translation>["šéţ", "ñàmé", "îñšéŕţ", "ŕémövé", "mövé", "ŕéplàçé" öŕ "öŕdéŕ" ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the path of a place below the root</source>
+        <translation>[ţĥé pàţĥ öf à plàçé bélöw ţĥé ŕööţ ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"from" and where it was</source>
+        <translation>["fŕöm" àñd wĥéŕé îţ wàš ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a name in quotes</source>
+        <translation>[à ñàmé îñ qûöţéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a path, which starts with "/"</source>
+        <translation>[à pàţĥ, wĥîçĥ šţàŕţš wîţĥ "/" ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the path of a field, such as /Lamp.intensity</source>
+        <translation>[ţĥé pàţĥ öf à fîéld, šûçĥ àš /Làmp.îñţéñšîţý ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the path of a node</source>
+        <translation>[ţĥé pàţĥ öf à ñödé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a number of children</source>
+        <translation>[à ñûmbéŕ öf çĥîldŕéñ ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"first", or "after" and a node</source>
+        <translation>["fîŕšţ", öŕ "àfţéŕ" àñd à ñödé ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the end of the quotes</source>
+        <translation>[ţĥé éñd öf ţĥé qûöţéš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a name without a byte 0</source>
+        <translation>[à ñàmé wîţĥöûţ à býţé 0 ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"new", "from" or "same"</source>
+        <translation>["ñéw", "fŕöm" öŕ "šàmé" ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a type</source>
+        <translation>[à ţýpé ~~]</translation>
+    </message>
+    <message>
+        <source>"new" or "same"</source>
+        <translation>["ñéw" öŕ "šàmé" ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the name of a field</source>
+        <translation>[ţĥé ñàmé öf à fîéld ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>one value, without marks</source>
+        <translation>[öñé vàlûé, wîţĥöûţ màŕķš ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a text in quotes</source>
+        <translation>[à ţéxţ îñ qûöţéš ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a text without a byte 0</source>
+        <translation>[à ţéxţ wîţĥöûţ à býţé 0 ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>an end of the list or text that begins here</source>
+        <translation>[àñ éñd öf ţĥé lîšţ öŕ ţéxţ ţĥàţ béĝîñš ĥéŕé ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a value or "!default"</source>
+        <translation>[à vàlûé öŕ "!défàûlţ" ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a whole field</source>
+        <translation>[à wĥölé fîéld ~~~~~]</translation>
+    </message>
+    <message>
+        <source>the end of the line</source>
+        <translation>[ţĥé éñd öf ţĥé lîñé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>this is no patch: its first line must be "%1"</source>
+        <translation>[ţĥîš îš ñö pàţçĥ: îţš fîŕšţ lîñé mûšţ bé "%1" ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a byte 0 stands here, which a text has not: the file is damaged, or no patch</source>
+        <translation>[à býţé 0 šţàñdš ĥéŕé, wĥîçĥ à ţéxţ ĥàš ñöţ: ţĥé fîlé îš dàmàĝéd, öŕ ñö pàţçĥ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is a %3; each field has a line of its own</source>
+        <translation>[%1 îš ñö vàlûé öf %2, wĥîçĥ îš à %3; éàçĥ fîéld ĥàš à lîñé öf îţš öwñ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is a %3</source>
+        <translation>[%1 îš ñö vàlûé öf %2, wĥîçĥ îš à %3 ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a byte 0 stands here, which a text has not: the file is damaged, or no scene</source>
+        <translation>[à býţé 0 šţàñdš ĥéŕé, wĥîçĥ à ţéxţ ĥàš ñöţ: ţĥé fîlé îš dàmàĝéd, öŕ ñö šçéñé ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the text in quotes that starts here has no end, or an escape that does not exist</source>
+        <translation>[ţĥé ţéxţ îñ qûöţéš ţĥàţ šţàŕţš ĥéŕé ĥàš ñö éñd, öŕ àñ éšçàpé ţĥàţ döéš ñöţ éxîšţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>this is no scene file: its first line must be "%1"</source>
+        <translation>[ţĥîš îš ñö šçéñé fîlé: îţš fîŕšţ lîñé mûšţ bé "%1" ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a file holds one node with everything in it, so its end was expected instead of %1</source>
+        <translation>[à fîlé ĥöldš öñé ñödé wîţĥ évéŕýţĥîñĝ îñ îţ, šö îţš éñd wàš éxpéçţéd îñšţéàd öf %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the file ends too early: "}" was expected to close the %1</source>
+        <translation>[ţĥé fîlé éñdš ţöö éàŕlý: "}" wàš éxpéçţéd ţö çlöšé ţĥé %1 ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the file has no node: a type such as Separator was expected</source>
+        <translation>[ţĥé fîlé ĥàš ñö ñödé: à ţýpé šûçĥ àš Šépàŕàţöŕ wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"}" closes nothing; a node was expected</source>
+        <translation>["}" çlöšéš ñöţĥîñĝ; à ñödé wàš éxpéçţéd ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a node was expected instead of %1</source>
+        <translation>[à ñödé wàš éxpéçţéd îñšţéàd öf %1 ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a field, a node or "}" was expected instead of %1</source>
+        <translation>[à fîéld, à ñödé öŕ "}" wàš éxpéçţéd îñšţéàd öf %1 ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a field stands within a node; a node was expected</source>
+        <translation>[à fîéld šţàñdš wîţĥîñ à ñödé; à ñödé wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a %1 has no children; a field such as "name: value" or "}" was expected instead of %2</source>
+        <translation>[à %1 ĥàš ñö çĥîldŕéñ; à fîéld šûçĥ àš "ñàmé: vàlûé" öŕ "}" wàš éxpéçţéd îñšţéàd öf %2 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a label was expected after "@"</source>
+        <translation>[à làbél wàš éxpéçţéd àfţéŕ "@" ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"{" was expected after %1</source>
+        <translation>["{" wàš éxpéçţéd àfţéŕ %1 ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the label @%1 is already another node's</source>
+        <translation>[ţĥé làbél @%1 îš àlŕéàdý àñöţĥéŕ ñödé'š ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the label @%1 is not that of a node that is complete here</source>
+        <translation>[ţĥé làbél @%1 îš ñöţ ţĥàţ öf à ñödé ţĥàţ îš çömpléţé ĥéŕé ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a %1 has no field %2; a field of it, a node or "}" was expected</source>
+        <translation>[à %1 ĥàš ñö fîéld %2; à fîéld öf îţ, à ñödé öŕ "}" wàš éxpéçţéd ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the value that starts here is longer than 1 GiB, and is not read</source>
+        <translation>[ţĥé vàlûé ţĥàţ šţàŕţš ĥéŕé îš löñĝéŕ ţĥàñ 1 ĜîB, àñd îš ñöţ ŕéàd ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the list that starts here has no "]"</source>
+        <translation>[ţĥé lîšţ ţĥàţ šţàŕţš ĥéŕé ĥàš ñö "]" ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the text in quotes that starts here has no end</source>
+        <translation>[ţĥé ţéxţ îñ qûöţéš ţĥàţ šţàŕţš ĥéŕé ĥàš ñö éñd ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"!ignored" was expected</source>
+        <translation>["!îĝñöŕéd" wàš éxpéçţéd ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"&lt;- @label.field" was expected</source>
+        <translation>["&lt;- @làbél.fîéld" wàš éxpéçţéd ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a record starts with "@" and the number of a node</source>
+        <translation>[à ŕéçöŕd šţàŕţš wîţĥ "@" àñd ţĥé ñûmbéŕ öf à ñödé ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a field of the %1 was expected</source>
+        <translation>[à fîéld öf ţĥé %1 wàš éxpéçţéd ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the end of the record was expected</source>
+        <translation>[ţĥé éñd öf ţĥé ŕéçöŕd wàš éxpéçţéd ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1:%2: Column %3: %4.</source>
+        <translation>[%1:%2: Çölûmñ %3: %4. ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A scene file was expected, but this is not a file.</source>
+        <translation>[À šçéñé fîlé wàš éxpéçţéd, bûţ ţĥîš îš ñöţ à fîlé. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>[Ţĥé fîlé çàññöţ bé ŕéàd: %1. ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A scene file of at most 4 GiB was expected, but this one has %1 bytes.</source>
+        <translation>[À šçéñé fîlé öf àţ möšţ 4 ĜîB wàš éxpéçţéd, bûţ ţĥîš öñé ĥàš %1 býţéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The file cannot be read to its end.</source>
+        <translation>[Ţĥé fîlé çàññöţ bé ŕéàd ţö îţš éñd. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no field @%1.%2 to connect from</source>
+        <translation>[ţĥéŕé îš ñö fîéld @%1.%2 ţö çöññéçţ fŕöm ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be connected from a %2, or would in the end be connected from itself</source>
+        <translation>[%1 çàññöţ bé çöññéçţéd fŕöm à %2, öŕ wöûld îñ ţĥé éñd bé çöññéçţéd fŕöm îţšélf ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1: The file cannot be written: %2.</source>
+        <translation>[%1: Ţĥé fîlé çàññöţ bé wŕîţţéñ: %2. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>line %1 does not fit the names of the columns</source>
+        <translation>[lîñé %1 döéš ñöţ fîţ ţĥé ñàméš öf ţĥé çölûmñš ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it has no line with the names of the columns</source>
+        <translation>[îţ ĥàš ñö lîñé wîţĥ ţĥé ñàméš öf ţĥé çölûmñš ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it is no regular file</source>
+        <translation>[îţ îš ñö ŕéĝûlàŕ fîlé ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>[îţ çàññöţ bé ŕéàd ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it has more than 1 GiB</source>
+        <translation>[îţ ĥàš möŕé ţĥàñ 1 ĜîB ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it is no recording of frames</source>
+        <translation>[îţ îš ñö ŕéçöŕdîñĝ öf fŕàméš ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>its head is damaged</source>
+        <translation>[îţš ĥéàd îš dàmàĝéd ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no %1 below %2</source>
+        <translation>[ţĥéŕé îš ñö %1 bélöw %2 ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no %1 below the root, which itself is "/"</source>
+        <translation>[ţĥéŕé îš ñö %1 bélöw ţĥé ŕööţ, wĥîçĥ îţšélf îš "/" ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>there is no %1 below the root</source>
+        <translation>[ţĥéŕé îš ñö %1 bélöw ţĥé ŕööţ ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 nodes are meant; a path that starts with "/" names one of them</source>
+        <translation>[%1 ñödéš àŕé méàñţ; à pàţĥ ţĥàţ šţàŕţš wîţĥ "/" ñàméš öñé öf ţĥém ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a %1 has no field "%2"</source>
+        <translation>[à %1 ĥàš ñö fîéld "%2" ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the path was expected to end before "%1"</source>
+        <translation>[ţĥé pàţĥ wàš éxpéçţéd ţö éñd béföŕé "%1" ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"%1" is no path: %2.</source>
+        <translation>["%1" îš ñö pàţĥ: %2. ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the name or type of a node</source>
+        <translation>[ţĥé ñàmé öŕ ţýpé öf à ñödé ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the quotes around %1 have no end, or nothing in them</source>
+        <translation>[ţĥé qûöţéš àŕöûñd %1 ĥàvé ñö éñd, öŕ ñöţĥîñĝ îñ ţĥém ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 was expected at the end</source>
+        <translation>[%1 wàš éxpéçţéd àţ ţĥé éñd ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 was expected before "%2"</source>
+        <translation>[%1 wàš éxpéçţéd béföŕé "%2" ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>a number, counted from 0, and "]" were expected after "["</source>
+        <translation>[à ñûmbéŕ, çöûñţéd fŕöm 0, àñd "]" wéŕé éxpéçţéd àfţéŕ "[" ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>"/", ".", "[" or the end was expected before "%1"</source>
+        <translation>["/", ".", "[" öŕ ţĥé éñd wàš éxpéçţéd béföŕé "%1" ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” lacks what to look for after the colon.</source>
+        <translation>[“%1” làçķš wĥàţ ţö lööķ föŕ àfţéŕ ţĥé çölöñ. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A minus sign lacks what is not to be found.</source>
+        <translation>[À mîñûš šîĝñ làçķš wĥàţ îš ñöţ ţö bé föûñd. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” has a sign that compares nothing: use = != &lt; &lt;= &gt; &gt;= or ~.</source>
+        <translation>[“%1” ĥàš à šîĝñ ţĥàţ çömpàŕéš ñöţĥîñĝ: ûšé = != &lt; &lt;= &gt; &gt;= öŕ ~. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” names no number of a value: use .x .y .z .w or .r .g .b .a.</source>
+        <translation>[“%1” ñàméš ñö ñûmbéŕ öf à vàlûé: ûšé .x .ý .ž .w öŕ .ŕ .ĝ .b .à. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” needs a number to compare with.</source>
+        <translation>[“%1” ñéédš à ñûmbéŕ ţö çömpàŕé wîţĥ. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” lacks the value to compare with.</source>
+        <translation>[“%1” làçķš ţĥé vàlûé ţö çömpàŕé wîţĥ. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>[îţ îš à földéŕ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation>[ţĥé fîlé îš wŕîţé-pŕöţéçţéd ~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>
@@ -1252,10 +1812,6 @@
     <message>
         <source>The value of “%1” cannot be kept as a default: its text is longer than %2 characters.</source>
         <translation>[Ţĥé vàlûé öf “%1” çàññöţ bé ķépţ àš à défàûlţ: îţš ţéxţ îš löñĝéŕ ţĥàñ %2 çĥàŕàçţéŕš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>it is no regular file</source>
-        <translation>[îţ îš ñö ŕéĝûlàŕ fîlé ~~~~~~~~]</translation>
     </message>
     <message>
         <source>it has more than %1 bytes</source>
@@ -3578,10 +4134,6 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>no temporary file can be written</source>
         <translation>[ñö ţémpöŕàŕý fîlé çàñ bé wŕîţţéñ ~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1: The file cannot be written: %2.</source>
-        <translation>[%1: Ţĥé fîlé çàññöţ bé wŕîţţéñ: %2. ~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Every kind of node</source>

@@ -7,32 +7,24 @@ namespace
 {
 
 constexpr std::string_view PresentValue = "x";
-constexpr std::string_view CommaSentence =
-    "A comma separates the arguments of a function; it is a decimal sign only in a text that is one number.";
 
-std::string quoted(std::string_view text)
+// Of other numbers than the function takes.
+SbSentence wrongCount(const ExpressionFunction& function, std::size_t count)
 {
-    return "“" + std::string(text) + "”";
-}
-
-std::string numbers(std::size_t count)
-{
-    return std::to_string(count) + (count == 1 ? " number" : " numbers");
-}
-
-std::string howMany(const ExpressionFunction& function)
-{
+    if (function.most == 1)
+        return SbSentence("“%1” takes 1 number and was given %2.", function.name, count);
     if (function.fewest == function.most)
-        return numbers(function.fewest);
+        return SbSentence("“%1” takes %2 numbers and was given %3.", function.name, function.fewest, count);
     if (function.most == 2)
-        return "1 or 2 numbers";
-    return std::to_string(function.fewest) + " number or more";
+        return SbSentence("“%1” takes 1 or 2 numbers and was given %2.", function.name, count);
+    return SbSentence("“%1” takes 1 number or more and was given %2.", function.name, count);
 }
 
 std::string_view withinLength(std::string_view text)
 {
     if (text.size() > SpxExpression::MaximumLength)
-        throw SpxExpressionError{SpxExpression::MaximumLength, "The text is longer than 1000 characters."};
+        throw SpxExpressionError{SpxExpression::MaximumLength,
+                                 SbSentence("The text is longer than 1000 characters.")};
     return text;
 }
 
@@ -73,10 +65,12 @@ void ExpressionParser::parse()
         power = parseBinary(0);
     requireEnd();
     if (power != 0 && power != 1)
-        throw SpxExpressionError{0, "The result is not " + std::string(nameOfQuantity(m_quantity)) +
-                                        ": a unit belongs to the number or parenthesis right before it."};
+        throw SpxExpressionError{
+            0,
+            SbSentence("The result is not %1: a unit belongs to the number or parenthesis right before it.",
+                       nameOfQuantity(m_quantity))};
     if (!m_program.fitsStack())
-        throw SpxExpressionError{0, "The expression is nested too deeply."};
+        throw SpxExpressionError{0, SbSentence("The expression is nested too deeply.")};
 }
 
 // "+= 10 %" adds a share of the present value.
@@ -85,7 +79,7 @@ ExpressionParser::Power ExpressionParser::parseChange(std::string_view sign)
     const auto& names = m_settings.variables;
     const auto found = std::find(names.begin(), names.end(), PresentValue);
     if (found == names.end())
-        throw SpxExpressionError{0, "There is no present value here that could be changed."};
+        throw SpxExpressionError{0, SbSentence("There is no present value here that could be changed.")};
     const auto present = static_cast<std::size_t>(found - names.begin());
     advance();
     m_program.pushVariable(present);
@@ -99,7 +93,7 @@ ExpressionParser::Power ExpressionParser::parseChange(std::string_view sign)
     }
     if (power != 0 && (power != 1 || sign == "*" || sign == "/"))
         throw SpxExpressionError{before,
-                                 "A plain number is needed after " + quoted(std::string(sign) + "=") + "."};
+                                 SbSentence("A plain number is needed after “%1”.", std::string(sign) + "=")};
     m_program.call(findExpressionOperator(sign)->call, 2);
     return power;
 }
@@ -126,7 +120,7 @@ ExpressionParser::Power ExpressionParser::parsePrefixed()
 {
     const Deeper deeper(m_depth);
     if (m_depth > SpxExpression::MaximumDepth)
-        fail("The expression is nested too deeply.");
+        fail(SbSentence("The expression is nested too deeply."));
     if (takeSign("+"))
         return parsePrefixed();
     const bool isNegated = takeSign("-");
@@ -146,7 +140,7 @@ ExpressionParser::Power ExpressionParser::parsePower()
         return power;
     ++m_operators;
     if (power != 0 || parsePrefixed() != 0)
-        failAt(sign, "Only plain numbers can be raised to a power.");
+        failAt(sign, SbSentence("Only plain numbers can be raised to a power."));
     m_program.call(powerOf(), 2);
     return 0;
 }
@@ -168,10 +162,10 @@ void ExpressionParser::parseUnit(Power& power)
     if (!unit)
         failAtCurrent();
     if (unit->quantity != m_quantity)
-        failAt(name, quoted(name.text) + " is a unit of " + std::string(nameOfQuantity(unit->quantity)) +
-                         ", and " + std::string(nameOfQuantity(m_quantity)) + " is wanted here.");
+        failAt(name, SbSentence("“%1” is a unit of %2, and %3 is wanted here.", name.text,
+                                nameOfQuantity(unit->quantity), nameOfQuantity(m_quantity)));
     if (power != 0)
-        failAt(name, "There is a unit already.");
+        failAt(name, SbSentence("There is a unit already."));
     power = 1;
     scale(unit->size / m_unit);
     advance();
@@ -211,16 +205,16 @@ ExpressionParser::Power ExpressionParser::parseName()
         if (const ExpressionFunction* function = findExpressionFunction(name.text))
             return parseFunction(*function, name);
         if (variable == variables.end())
-            failAt(name, "There is no function " + quoted(name.text) + ".");
+            failAt(name, SbSentence("There is no function “%1”.", name.text));
     }
     if (variable != variables.end())
         m_program.pushVariable(static_cast<std::size_t>(variable - variables.begin()));
     else if (const ExpressionConstant* constant = findExpressionConstant(name.text))
         m_program.pushNumber(constant->value);
     else if (findExpressionFunction(name.text))
-        failAt(name, quoted(name.text) + " needs its numbers in parentheses after it.");
+        failAt(name, SbSentence("“%1” needs its numbers in parentheses after it.", name.text));
     else
-        failAt(name, quoted(name.text) + " is not known here.");
+        failAt(name, SbSentence("“%1” is not known here.", name.text));
     return 0;
 }
 
@@ -234,8 +228,7 @@ ExpressionParser::Power ExpressionParser::parseFunction(const ExpressionFunction
     Power power = takesAngle ? parseAngle(function, count) : parseArguments(function, count);
     m_operators = operators;
     if (count < function.fewest || count > function.most)
-        failAt(name, quoted(name.text) + " takes " + howMany(function) + " and was given " +
-                         std::to_string(count) + ".");
+        failAt(name, wrongCount(function, count));
     m_program.call(function.call, count);
     if (function.units == ExpressionUnits::ToAngle && m_quantity == SpxQuantity::Angle)
         scale(1 / m_unit);
@@ -252,7 +245,7 @@ ExpressionParser::Power ExpressionParser::parseArguments(const ExpressionFunctio
         const Power power = parseBinary(0);
         const bool isCondition = function.units == ExpressionUnits::Choice && count == 0;
         if (!isCondition && common != 0 && power != 0 && power != common)
-            failAt(first, "This has another unit than what stands before it.");
+            failAt(first, SbSentence("This has another unit than what stands before it."));
         if (!isCondition && power != 0)
             common = power;
         ++count;
@@ -274,7 +267,7 @@ ExpressionParser::Power ExpressionParser::parseAngle(const ExpressionFunction& f
     const ExpressionToken first = m_tokens.current();
     const Power power = parseArguments(function, count);
     if (power != 0 && power != 1)
-        failAt(first, "The result of what stands here is not an angle.");
+        failAt(first, SbSentence("The result of what stands here is not an angle."));
     if (count == 1)
         scale(m_unit);
     m_quantity = quantity;
@@ -291,7 +284,7 @@ ExpressionParser::Power ExpressionParser::unitsOf(const ExpressionFunction& func
     if (function.units == ExpressionUnits::Keeps || function.units == ExpressionUnits::Choice)
         return power;
     if (!isRoot)
-        failAt(name, quoted(name.text) + " takes plain numbers, without a unit.");
+        failAt(name, SbSentence("“%1” takes plain numbers, without a unit.", name.text));
     return power / 2;
 }
 
@@ -302,7 +295,7 @@ ExpressionParser::Power ExpressionParser::combine(const ExpressionToken& sign, P
     if (sign.text == "/")
         return left - right;
     if (left != 0 && right != 0 && left != right)
-        failAt(sign, "The two sides have different units.");
+        failAt(sign, SbSentence("The two sides have different units."));
     const bool isSum = sign.text == "+" || sign.text == "-";
     return !isSum ? 0 : left != 0 ? left : right;
 }
@@ -337,7 +330,7 @@ bool ExpressionParser::takeSign(std::string_view sign)
 void ExpressionParser::expect(std::string_view sign)
 {
     if (m_tokens.current().kind == ExpressionToken::End)
-        fail("A " + quoted(sign) + " is missing at the end.");
+        fail(SbSentence("A “%1” is missing at the end.", sign));
     if (!takeSign(sign))
         failAtCurrent();
 }
@@ -348,12 +341,12 @@ void ExpressionParser::requireEnd() const
         failAtCurrent();
 }
 
-void ExpressionParser::fail(const std::string& sentence) const
+void ExpressionParser::fail(const SbSentence& sentence) const
 {
     failAt(m_tokens.current(), sentence);
 }
 
-void ExpressionParser::failAt(const ExpressionToken& token, const std::string& sentence) const
+void ExpressionParser::failAt(const ExpressionToken& token, const SbSentence& sentence) const
 {
     throw SpxExpressionError{token.position, sentence};
 }
@@ -366,11 +359,13 @@ void ExpressionParser::failAtCurrent() const
     const bool needsNumber = isStart || (m_previous.kind == ExpressionToken::Sign && m_previous.text != ")" &&
                                          m_previous.text != "%");
     if (token.kind == ExpressionToken::End)
-        fail(isStart ? "A number or a formula is missing."
-                     : "A number is missing after " + quoted(m_previous.text) + ".");
+        fail(isStart ? SbSentence("A number or a formula is missing.")
+                     : SbSentence("A number is missing after “%1”.", m_previous.text));
     if (isAt(","))
-        fail(std::string(CommaSentence));
+        fail(SbSentence(
+            "A comma separates the arguments of a function; it is a decimal sign only in a text that "
+            "is one number."));
     if (needsNumber || token.kind == ExpressionToken::Sign)
-        fail(quoted(token.text) + " makes no sense here.");
-    fail("A sign such as + or * is missing before " + quoted(token.text) + ".");
+        fail(SbSentence("“%1” makes no sense here.", token.text));
+    fail(SbSentence("A sign such as + or * is missing before “%1”.", token.text));
 }

@@ -41,8 +41,8 @@ private:
     Power unitsOf(const ExpressionFunction& function, const ExpressionToken& name, Power power) const;
     void scale(double factor);
     void requireEnd() const;
-    [[noreturn]] void fail(const std::string& sentence) const;
-    [[noreturn]] void failAt(const ExpressionToken& token, const std::string& sentence) const;
+    [[noreturn]] void fail(const SbSentence& sentence) const;
+    [[noreturn]] void failAt(const ExpressionToken& token, const SbSentence& sentence) const;
     [[noreturn]] void failAtCurrent() const;
 
     const SpxExpressionSettings& m_settings;

@@ -106,7 +106,7 @@ void ExpressionTokens::advance()
         return take(ExpressionToken::End, 0);
     if (readNumber() || readQuotedName() || readName() || readSign())
         return;
-    throw SpxExpressionError{m_at, "“" + std::string(firstCharacter(rest())) + "” has no meaning here."};
+    throw SpxExpressionError{m_at, SbSentence("“%1” has no meaning here.", firstCharacter(rest()))};
 }
 
 void ExpressionTokens::skipSpace()
@@ -136,8 +136,8 @@ bool ExpressionTokens::readNumber()
                         isHexadecimal ? std::chars_format::hex : std::chars_format::general);
     const auto length = static_cast<std::size_t>(end.ptr - text.data());
     if (end.ec != std::errc())
-        throw SpxExpressionError{m_at, "“" + std::string(text.substr(0, length)) +
-                                           "” is too large or too small a number."};
+        throw SpxExpressionError{
+            m_at, SbSentence("“%1” is too large or too small a number.", text.substr(0, length))};
     take(ExpressionToken::Number, length);
     m_current.number = number;
     return true;
@@ -165,7 +165,7 @@ bool ExpressionTokens::readQuotedName()
         return false;
     const std::size_t end = m_text.find('"', m_at + 1);
     if (end == std::string::npos)
-        throw SpxExpressionError{m_at, "The name that begins here has no second quotation mark."};
+        throw SpxExpressionError{m_at, SbSentence("The name that begins here has no second quotation mark.")};
     take(ExpressionToken::Name, end + 1 - m_at);
     m_current.text = m_current.text.substr(1, m_current.text.size() - 2);
     return true;

@@ -35,8 +35,16 @@ const ExpressionUnit* findExpressionUnit(std::string_view name)
     return found == std::end(Units) ? nullptr : found;
 }
 
-std::string_view nameOfQuantity(SpxQuantity quantity)
+SbSentence nameOfQuantity(SpxQuantity quantity)
 {
-    constexpr std::string_view names[] = {"a plain number", "an angle", "a length", "a time"};
-    return names[static_cast<std::size_t>(quantity)];
+    switch (quantity) {
+    case SpxQuantity::Angle:
+        return SbSentence("an angle");
+    case SpxQuantity::Length:
+        return SbSentence("a length");
+    case SpxQuantity::Time:
+        return SbSentence("a time");
+    default:
+        return SbSentence("a plain number");
+    }
 }

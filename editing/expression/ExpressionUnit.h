@@ -13,4 +13,4 @@ struct ExpressionUnit {
 /// Null for what is no unit.
 const ExpressionUnit* findExpressionUnit(std::string_view name);
 /// "an angle", ...
-std::string_view nameOfQuantity(SpxQuantity quantity);
+SbSentence nameOfQuantity(SpxQuantity quantity);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <scopix/editing/SpxEditingExport.h>
+#include <xsg/values/SbSentence.h>
 
 #include <cstddef>
 #include <memory>
@@ -15,7 +16,7 @@ enum class SpxQuantity { Number, Angle, Length, Time };
 /// Why a text is no expression: one sentence, and where, as an offset in bytes.
 struct SpxExpressionError {
     std::size_t position = 0;
-    std::string sentence;
+    SbSentence sentence;
 };
 
 /// What a text may use besides numbers.

@@ -79,6 +79,11 @@ QStringList takeLive(CommandLine& line, const QStringList& arguments)
     return rest;
 }
 
+// What the parser says itself, which Qt's own catalogues translate only where they are installed.
+[[maybe_unused]] constexpr const char* OfParser[] = {QT_TRANSLATE_NOOP("CommandLine", "Usage: %1"),
+                                                     QT_TRANSLATE_NOOP("CommandLine", "[options]"),
+                                                     QT_TRANSLATE_NOOP("CommandLine", "Arguments:")};
+
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(tr(windowCommand().summary));

@@ -30,7 +30,7 @@ void WindowNavigator::openFile(const QString& path)
 SoNode* WindowNavigator::findNode(const QString& text) const
 {
     return findIn(m_window.sceneRoot(), text, [](SoNode* root, const SoScenePath& path) -> SoNode* {
-        std::string ignored;
+        SbSentence ignored;
         return path.getField().empty() ? xsg::SceneLookup(root).find(path, ignored) : nullptr;
     });
 }
@@ -38,7 +38,7 @@ SoNode* WindowNavigator::findNode(const QString& text) const
 SoField* WindowNavigator::findField(const QString& text) const
 {
     return findIn(m_window.sceneRoot(), text, [](SoNode* root, const SoScenePath& path) -> SoField* {
-        std::string ignored;
+        SbSentence ignored;
         return path.getField().empty() ? nullptr : xsg::SceneLookup(root).findField(path, ignored);
     });
 }

@@ -6,6 +6,7 @@
 #include "text/NodeText.h"
 #include "text/ValueEntry.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/core/SoField.h>
 
 #include <QAction>
@@ -273,7 +274,7 @@ void ChangesPanel::revert(const ChangeKeySet& keys)
     if (act.result && !act.result->isWhole())
         emit said(tr("Changes that could not be taken over: %1; the first: %2")
                       .arg(act.result->misfits.size())
-                      .arg(QString::fromStdString(act.result->misfits.front())));
+                      .arg(SpxSentence::translated(act.result->misfits.front())));
     follow();
 }
 

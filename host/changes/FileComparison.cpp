@@ -129,7 +129,7 @@ SoNode* FileComparison::nodeOf(const ChangeKey& key) const
     if (!change)
         return nullptr;
     xsg::SceneLookup lookup(m_scene.get());
-    std::string problem;
+    SbSentence problem;
     SoNode* node = lookup.find(change->path.withoutField(), problem);
     if (!node && change->kind == Kind::Move)
         node = lookup.find(change->from, problem);
@@ -142,7 +142,7 @@ SoField* FileComparison::fieldOf(const ChangeKey& key) const
     if (!change || change->kind != Kind::Set)
         return nullptr;
     xsg::SceneLookup lookup(m_scene.get());
-    std::string problem;
+    SbSentence problem;
     return lookup.findField(change->path, problem);
 }
 

@@ -29,8 +29,8 @@ void PatchCommand::refuseOtherRoot()
         return;
     m_changes.clear();
     m_result->misfits.emplace_back(
-        "The patch puts another node in the place of the root, which cannot be done "
-        "in an open scene; “scopix apply” does it in the file.");
+        SbSentence("The patch puts another node in the place of the root, which cannot be done "
+                   "in an open scene; “scopix apply” does it in the file."));
 }
 
 void PatchCommand::execute()

@@ -159,13 +159,16 @@ bool assignNodes(SoField& field, int index, const std::string& text, xsg::SceneL
     const bool isList = dynamic_cast<SoMFNode*>(&field) && index < 0;
     const bool hasBracket = isList && in.accept('[');
     std::vector<SoRef<SoNode>> nodes;
+    SbSentence wrongPath;
     for (in.skipBlanks(); !in.atEnd() && in.peek() != ']'; in.skipSeparator()) {
         SoScenePath path;
         SoNode* node = nullptr;
         if (in.rest().substr(0, 4) == "NULL")
             in.skip(4);
-        else if (!SoScenePath::read(in, path, problem) || !(node = lookup.find(path, problem)))
+        else if (!SoScenePath::read(in, path, wrongPath) || !(node = lookup.find(path, wrongPath))) {
+            problem = wrongPath;
             return false;
+        }
         nodes.emplace_back(node);
     }
     problem = "the path of a node, or NULL, was expected";

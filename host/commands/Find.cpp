@@ -43,7 +43,7 @@ int findNodes(const Arguments& arguments)
 {
     const SoQuery query(arguments.values[1]);
     if (query.isEmpty()) {
-        complain(query.getError().empty() ? "The query has nothing in it." : query.getError());
+        complain(query.getError().empty() ? "The query has nothing in it." : query.getError().getText());
         return Failed;
     }
     const SoRef<SoNode> root = loadOrComplain(arguments.values[0]);

@@ -231,10 +231,10 @@ void printJson(const SoFrameRecording& recording, const std::vector<Compared>& c
 
 bool readOld(const std::string& path, SoFrameRecording& old)
 {
-    std::string problem;
+    SbSentence problem;
     if (SoFrameFile::read(path, old, problem))
         return true;
-    complain("The recording \"" + path + "\" cannot be read: " + problem + ".");
+    complain("The recording \"" + path + "\" cannot be read: " + problem.getText() + ".");
     return false;
 }
 
@@ -243,7 +243,7 @@ bool keep(const std::string& path, const SoFrameRecording& recording)
     SoFrameFile file;
     if (file.open(path, recording) && file.write(recording))
         return true;
-    complain("The recording \"" + path + "\" cannot be written: " + file.getProblem() + ".");
+    complain("The recording \"" + path + "\" cannot be written: " + file.getProblem().getText() + ".");
     return false;
 }
 

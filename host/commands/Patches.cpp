@@ -81,8 +81,8 @@ void printResult(const xsg::PatchResult& result)
     json.number("alreadySo", result.alreadySo);
     json.key("misfits");
     json.beginArray();
-    for (const std::string& misfit : result.misfits)
-        json.text(misfit);
+    for (const SbSentence& misfit : result.misfits)
+        json.text(misfit.getText());
     json.endArray();
     json.endObject();
     print(json.take());
@@ -123,8 +123,8 @@ int applyPatch(const Arguments& arguments)
         return Failed;
     if (arguments.has("json"))
         printResult(result);
-    for (const std::string& misfit : result.misfits)
-        warn(arguments.values[0] + " does not fit in " + misfit);
+    for (const SbSentence& misfit : result.misfits)
+        warn(arguments.values[0] + " does not fit in " + misfit.getText());
     return result.isWhole() ? Fine : Differs;
 }
 

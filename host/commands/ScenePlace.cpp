@@ -11,12 +11,13 @@ namespace scopix
 namespace
 {
 
-std::string reasonAgainst(const SoField& field, int index)
+SbSentence reasonAgainst(const SoField& field, int index)
 {
     const auto* list = dynamic_cast<const SoMField*>(&field);
     if (index < 0 || (list && index < list->getNum()))
         return {};
-    return list ? "the list has " + std::to_string(list->getNum()) + " values" : "the field is no list";
+    return SbSentence::verbatim(list ? "the list has " + std::to_string(list->getNum()) + " values"
+                                     : "the field is no list");
 }
 
 } // namespace
@@ -28,7 +29,7 @@ ScenePlace findPlace(xsg::SceneLookup& lookup, const std::string& text, const st
         complain(path.getError());
         return {};
     }
-    std::string problem;
+    SbSentence problem;
     ScenePlace place{lookup.find(path.withoutField(), problem), nullptr, path.getIndex()};
     if (place.node && !path.getField().empty()) {
         place.field = lookup.findField(path, problem);
@@ -37,7 +38,7 @@ ScenePlace findPlace(xsg::SceneLookup& lookup, const std::string& text, const st
     }
     if (problem.empty())
         return place;
-    complain("\"" + text + "\" is not in " + file + ": " + problem + ".");
+    complain("\"" + text + "\" is not in " + file + ": " + problem.getText() + ".");
     return {};
 }
 

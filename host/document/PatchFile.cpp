@@ -4,6 +4,8 @@
 #include "support/InputFile.h"
 #include "support/OutputFile.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QStringList>
@@ -34,10 +36,10 @@ QString readPatch(const QString& path, xsg::SceneChanges& changes)
     const QString reason = readFile(path, LargestPatch, content);
     if (!reason.isEmpty())
         return tr("%1: The patch cannot be read: %2.").arg(path, reason);
-    std::string error;
+    SbSentence error;
     const std::string_view text(content.constData(), static_cast<std::size_t>(content.size()));
     xsg::PatchText::read(text, path.toStdString(), changes, error);
-    return QString::fromStdString(error);
+    return SpxSentence::translated(error);
 }
 
 QString writePatch(const QString& path, const xsg::SceneChanges& changes)

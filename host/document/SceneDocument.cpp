@@ -8,6 +8,7 @@
 #include "support/LongWork.h"
 #include "support/OutputFile.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/support/FileReplacement.h>
 
@@ -135,11 +136,11 @@ QString SceneDocument::save(const QString& path)
         return tr("The scene “%1” cannot be written: %2.").arg(path, reason);
     if (!m_isExternal && QFileInfo::exists(folderOf(path)))
         movePictures(m_root.get(), folderOf(path));
-    std::string error;
+    SbSentence error;
     const quint64 edits = m_editCount;
     if (!SoSceneFile::write(m_root.get(), QFile::encodeName(path).toStdString(), error,
                             [](double part) { LongWork::goOn(part); }))
-        return QString::fromStdString(error);
+        return SpxSentence::translated(error);
     if (!m_isExternal)
         adoptFile(path);
     if (m_editCount != edits) // by an extension, while it was written

@@ -3,6 +3,8 @@
 
 #include "support/LongWork.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QFile>
 
 namespace scopix
@@ -40,7 +42,7 @@ QString ExportSink::finish()
 {
     flush();
     m_isGood = m_isGood && m_file.commit();
-    return m_isGood ? QString() : QString::fromLocal8Bit(m_file.getProblem().c_str());
+    return m_isGood ? QString() : SpxSentence::translated(m_file.getProblem());
 }
 
 } // namespace scopix

@@ -3,6 +3,7 @@
 
 #include "model/GradualRelease.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 
 #include <QFile>
@@ -77,7 +78,7 @@ bool SceneImport::read(xsg::SceneReader::Clock::time_point until)
 void SceneImport::report()
 {
     const SoRef<SoNode> scene = std::move(m_scene);
-    const QString error = QString::fromStdString(m_reading->getError());
+    const QString error = SpxSentence::translated(m_reading->getError());
     cancelReading();
     if (scene)
         emit finished(scene);

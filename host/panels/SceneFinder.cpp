@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "panels/SceneFinder.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QElapsedTimer>
 #include <QPointer>
 
@@ -46,7 +48,7 @@ void SceneFinder::setQuery(const QString& text)
 
 QString SceneFinder::getError() const
 {
-    return m_isElsewhere ? QString() : QString::fromStdString(m_query.getError());
+    return m_isElsewhere ? QString() : SpxSentence::translated(m_query.getError());
 }
 
 const std::vector<SoRef<SoNode>>& SceneFinder::getFound() const

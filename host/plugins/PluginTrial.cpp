@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "plugins/PluginTrial.h"
 
+#include "language/Languages.h"
 #include "support/OwnLibrary.h"
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QProcessEnvironment>
 
 #include <cstring>
 
@@ -27,6 +29,16 @@ QString reasonIn(const QByteArray& said)
     return QString::fromUtf8(said).section(QLatin1Char('\n'), 0, 0).left(LongestReason);
 }
 
+// What it says is shown by this program.
+QProcessEnvironment environmentOfTrial()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const Languages* languages = Languages::instance();
+    environment.insert(QStringLiteral("SCOPIX_LANGUAGE"),
+                       languages ? languages->current() : QStringLiteral("en"));
+    return environment;
+}
+
 PluginTrial::Outcome crashed(int signal)
 {
     return {tr("its code crashed while it was tried in a process of its own (%1)")
@@ -47,6 +59,7 @@ PluginTrial::Outcome PluginTrial::run(const QString& library, int patienceMs)
 {
     QProcess trial;
     trial.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    trial.setProcessEnvironment(environmentOfTrial());
     trial.start(OwnLibrary::helperProgram(QStringLiteral("scopix-try-plugin")), {library});
     if (!trial.waitForStarted(-1)) // which is known at once, as soon as the machine gets to it
         return {};                 // an incomplete installation: the plug-in is loaded as it is

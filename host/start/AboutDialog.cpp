@@ -74,6 +74,7 @@ QString librariesText()
 
 } // namespace
 
+// In English (decisions.md: report-in-english).
 QString AboutDialog::report(const QString& version, const std::vector<PluginState>& plugins)
 {
     const QString driver = graphicsDriver();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "structure/BranchText.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/files/SceneReader.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/groups/SoGroup.h>
@@ -77,7 +78,7 @@ BranchReading readBranches(std::string_view given)
     if (!root)
         return {{},
                 QCoreApplication::translate("Structure", "The text holds no nodes that can be pasted: %1")
-                    .arg(QString::fromStdString(reader.getProblem()))};
+                    .arg(SpxSentence::translated(reader.getProblem()))};
     std::vector<SoRef<SoNode>> nodes;
     if (isInGroup(text))
         nodes = takeChildren(*root);

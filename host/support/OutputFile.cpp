@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/OutputFile.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/support/FileReplacement.h>
 
 #include <QCoreApplication>
@@ -37,7 +38,7 @@ QString reasonAgainstWriting(const QString& path, const QStringList& fileExtensi
 {
     if (xsg::isOfAnotherKind(encoded(path), encodedAll(fileExtensions)))
         return tr("its name was expected to end in .%1").arg(fileExtensions.join(tr(", .")));
-    return tr(xsg::reasonAgainstReplacing(encoded(path)).c_str());
+    return SpxSentence::translated(xsg::reasonAgainstReplacing(encoded(path)));
 }
 
 QString replaceFile(const QString& path, const QByteArray& content)
@@ -46,7 +47,7 @@ QString replaceFile(const QString& path, const QByteArray& content)
     if (file.open() && file.write({content.constData(), static_cast<std::size_t>(content.size())}) &&
         file.commit())
         return {};
-    return tr(file.getProblem().c_str());
+    return SpxSentence::translated(file.getProblem());
 }
 
 } // namespace scopix

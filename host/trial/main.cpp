@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program that loads a plug-in before the host does: scopix-try-plugin LIBRARY. Its exit status says
 // whether the library could be loaded and made its plug-in; if not, it prints why, as the end of a sentence.
+#include "language/Languages.h"
 #include "plugins/HostPluginsManager.h"
 #include "plugins/PluginTrial.h"
 #include "services/HostServices.h"
@@ -36,7 +37,7 @@ int s_report = STDOUT_FILENO;
 // An exception that leaves an initialiser has no other way to go.
 [[noreturn]] void endForException()
 {
-    QString thrown = QStringLiteral("its code ended the program");
+    QString thrown = QCoreApplication::translate("PluginTrial", "its code ended the program");
     if (const std::exception_ptr exception = std::current_exception())
         thrown = scopix::catchExceptions([&] { std::rethrow_exception(exception); });
     end(QCoreApplication::translate("PluginTrial", "its initialisation failed: %1").arg(thrown));
@@ -81,6 +82,7 @@ int main(int argc, char** argv)
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    scopix::Languages::begin(); // the host shows what it says
     limitItself();
     keepOutputApart();
     // What plug-ins find when the host loads them.

@@ -10,6 +10,7 @@
 #include "window/NodeEditing.h"
 #include "window/OtherFile.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/files/BranchCopy.h>
 #include <xsg/files/SoSceneFile.h>
 
@@ -82,7 +83,7 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
         return false;
     }
     movePictures(copy.get(), QFileInfo(path).absolutePath());
-    std::string error;
+    SbSentence error;
     bool isWritten = false;
     const bool isDone = LongWork::run(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [&] {
         isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error,
@@ -93,7 +94,7 @@ bool BranchFiles::save(SoNode* branch, const QString& path)
     else if (isWritten)
         m_notifier.info(tr("“%1” was saved as “%2”.").arg(nodeText(*branch), path));
     else
-        m_notifier.error(QString::fromStdString(error));
+        m_notifier.error(SpxSentence::translated(error));
     return isWritten;
 }
 

@@ -101,7 +101,7 @@ Theme wantedTheme()
 SoNode* findPlace(SoNode* root, const QString& text)
 {
     const SoScenePath path(text.toStdString());
-    std::string problem;
+    SbSentence problem;
     return root && path.isValid() ? xsg::SceneLookup(root).find(path, problem) : nullptr;
 }
 

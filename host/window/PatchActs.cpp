@@ -11,6 +11,8 @@
 #include "window/DefaultScene.h"
 #include "window/SceneFiles.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
@@ -151,7 +153,7 @@ void PatchActs::apply(xsg::SceneChanges changes, const QString& name)
     tell(name, result->applied, result->alreadySo, result->misfits);
 }
 
-void PatchActs::tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits)
+void PatchActs::tell(const QString& name, int applied, int alreadySo, const std::vector<SbSentence>& misfits)
 {
     const QString sentence = tr("“%1”: %2 changes applied, %3 were so already, %4 did not fit.")
                                  .arg(printable(name))
@@ -160,8 +162,8 @@ void PatchActs::tell(const QString& name, int applied, int alreadySo, const std:
                                  .arg(misfits.size());
     m_notifier.info(sentence);
     QStringList lines;
-    for (const std::string& misfit : misfits) {
-        lines << QString::fromStdString(misfit);
+    for (const SbSentence& misfit : misfits) {
+        lines << SpxSentence::translated(misfit);
         UserNotifier::note(name, lines.last());
     }
     if (misfits.empty() || !m_notifier.isAttended())

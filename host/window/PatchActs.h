@@ -45,7 +45,7 @@ private:
     bool hasNoScene() const;
     bool read(const QString& path, xsg::SceneChanges& changes);
     void put(const QString& text, const QString& sentence);
-    void tell(const QString& name, int applied, int alreadySo, const std::vector<std::string>& misfits);
+    void tell(const QString& name, int applied, int alreadySo, const std::vector<SbSentence>& misfits);
 
     QWidget& m_window;
     HostServices& m_services;

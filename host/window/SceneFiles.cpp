@@ -17,6 +17,8 @@
 #include "window/ExportQuestion.h"
 #include "window/OtherFile.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -444,7 +446,7 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
                            const std::shared_ptr<RecoverySlot>& slot)
 {
     forgetImport();
-    const std::string problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
+    const SbSentence problem = EditJournal::read(slot->journalPath(), slot->getSnapshotId()).apply(nodes);
     const RecoverySlot::Origin origin = slot->getOrigin();
     m_scenes.add();
     // What was edited may not be what the file holds by now.
@@ -455,7 +457,7 @@ void SceneFiles::recovered(SoNode* scene, const std::vector<SoNode*>& nodes,
     m_notifier.info(tr("Recovered the unsaved changes to “%1”.").arg(origin.title));
     if (!problem.empty())
         m_notifier.error(tr("The last changes to “%1” could not be recovered: %2")
-                             .arg(origin.title, QString::fromStdString(problem)));
+                             .arg(origin.title, SpxSentence::translated(problem)));
     offerRecovery(); // what was open beside it
 }
 

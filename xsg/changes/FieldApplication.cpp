@@ -29,20 +29,20 @@ std::string textOf(const SoField& field)
 
 } // namespace
 
-void FieldApplication::misfit(Item& item, const std::string& reason)
+void FieldApplication::misfit(Item& item, const SbSentence& reason)
 {
     item.isDone = true;
     m_misfits.emplace_back(item.change, reason);
 }
 
-bool FieldApplication::add(const SceneChange& change, std::string& problem)
+bool FieldApplication::add(const SceneChange& change, SbSentence& problem)
 {
     SoNode* node = m_lookup.find(change.path.withoutField(), problem);
     if (!node)
         return false;
     Item item{&change, fieldOf(*node, change.path.getField()), nullptr, {}};
     if (!item.field) {
-        problem = "a " + std::string(typeNameOf(*node).getString()) + " has no such field";
+        problem = SbSentence("a %1 has no such field", typeNameOf(*node).getString());
         return false;
     }
     if (!findValue(item, problem))
@@ -54,15 +54,15 @@ bool FieldApplication::add(const SceneChange& change, std::string& problem)
 // Once all fields that nodes of unknown types are given have come, in their order.
 void FieldApplication::findSource(Item& item)
 {
-    std::string problem;
+    SbSentence problem;
     SoNode* source = m_lookup.find(item.change->source->withoutField(), problem);
     if (source)
         item.source = fieldOf(*source, item.change->source->getField());
     if (!item.source)
-        misfit(item, "there is no field " + item.change->source->toText() + " to follow");
+        misfit(item, SbSentence("there is no field %1 to follow", item.change->source->toText()));
 }
 
-bool FieldApplication::findValue(Item& item, std::string& problem)
+bool FieldApplication::findValue(Item& item, SbSentence& problem)
 {
     if (!item.change->value)
         return true;
@@ -75,7 +75,7 @@ bool FieldApplication::findValue(Item& item, std::string& problem)
 }
 
 // As a field writes it that stands alone: by names that find the nodes while they live.
-bool FieldApplication::textOfNodes(const Item& item, std::string& text, std::string& problem)
+bool FieldApplication::textOfNodes(const Item& item, std::string& text, SbSentence& problem)
 {
     TextReader in(text);
     in.skipBlanks();
@@ -98,7 +98,7 @@ bool FieldApplication::textOfNodes(const Item& item, std::string& text, std::str
         single.setValue(nodes[0]);
     const SoField& field = isList ? static_cast<SoField&>(nodes) : single;
     text = textOf(field);
-    problem = "the end of the value was expected";
+    problem = SbSentence("the end of the value was expected");
     return in.onlyBlanksLeft();
 }
 
@@ -134,9 +134,10 @@ bool FieldApplication::write(Item& item, bool propagates)
                       : propagates        ? item.field->set(item.value)
                                           : item.field->setWithoutPropagation(item.value);
     if (!good)
-        misfit(item, item.value.isNull() ? "there is no default value"
-                                         : "\"" + item.value.str().substr(0, 60) + "\" is no value of a " +
-                                               item.field->getTypeId().getName().getString());
+        misfit(item, item.value.isNull()
+                         ? SbSentence("there is no default value")
+                         : SbSentence("\"%1\" is no value of a %2", item.value.str().substr(0, 60),
+                                      item.field->getTypeId().getName().getString()));
     return good;
 }
 
@@ -146,12 +147,12 @@ void FieldApplication::setElement(Item& item)
     const int index = item.change->path.getIndex();
     SbString before;
     if (!list || index >= list->getNum())
-        return misfit(item,
-                      list ? "the list has " + std::to_string(list->getNum()) + " values" : "it is no list");
+        return misfit(item, list ? SbSentence("the list has %1 values", list->getNum())
+                                 : SbSentence("it is no list"));
     list->get1(index, before);
     item.wasSame = before == item.value;
     if (!item.wasSame && !list->set1(index, item.value))
-        misfit(item, "\"" + item.value.str().substr(0, 60) + "\" is no value of it");
+        misfit(item, SbSentence("\"%1\" is no value of it", item.value.str().substr(0, 60)));
 }
 
 void FieldApplication::setPlain(Item& item)
@@ -193,7 +194,7 @@ void FieldApplication::apply()
     for (Item& item : m_items)
         if (!item.isDone && item.source && item.field->getConnectedField() != item.source &&
             !item.field->connectFrom(item.source))
-            misfit(item, "it cannot follow " + item.change->source->toText());
+            misfit(item, SbSentence("it cannot follow %1", item.change->source->toText()));
     for (Item& item : m_items)
         if (!item.isDone && item.source)
             settleConnected(item);

@@ -23,12 +23,12 @@ public:
     }
 
     /// Finds the field; `change` must live as long as this. False, and why, where there is none.
-    bool add(const SceneChange& change, std::string& problem);
+    bool add(const SceneChange& change, SbSentence& problem);
     void apply();
 
     int getApplied() const { return m_applied; }
     int getAlreadySo() const { return m_alreadySo; }
-    const std::vector<std::pair<const SceneChange*, std::string>>& getMisfits() const { return m_misfits; }
+    const std::vector<std::pair<const SceneChange*, SbSentence>>& getMisfits() const { return m_misfits; }
 
 private:
     struct Item {
@@ -40,22 +40,22 @@ private:
         bool isDone = false;
     };
 
-    bool findValue(Item& item, std::string& problem);
+    bool findValue(Item& item, SbSentence& problem);
     void findSource(Item& item);
-    bool textOfNodes(const Item& item, std::string& text, std::string& problem);
+    bool textOfNodes(const Item& item, std::string& text, SbSentence& problem);
     bool isSame(const Item& item) const;
     bool write(Item& item, bool propagates);
     bool reset(SoField& field);
     void setElement(Item& item);
     void setPlain(Item& item);
     void settleConnected(Item& item);
-    void misfit(Item& item, const std::string& reason);
+    void misfit(Item& item, const SbSentence& reason);
 
     SceneLookup& m_lookup;
     PatchWatch* m_watch;
     std::vector<Item> m_items;
     std::unordered_map<std::string, SoRef<SoNode>> m_fresh; // by type
-    std::vector<std::pair<const SceneChange*, std::string>> m_misfits;
+    std::vector<std::pair<const SceneChange*, SbSentence>> m_misfits;
     int m_applied = 0;
     int m_alreadySo = 0;
 };

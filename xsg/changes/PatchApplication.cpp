@@ -30,10 +30,9 @@ SoRef<SoNode> makeNode(const SceneChange& change)
     return node;
 }
 
-std::string countProblem(int count, const SoScenePath::Step& step, int wanted)
+SbSentence countProblem(int count, const SoScenePath::Step& step, int wanted)
 {
-    return "there are " + std::to_string(count) + " children called " + step.label + " and not " +
-           std::to_string(wanted);
+    return SbSentence("there are %1 children called %2 and not %3", count, step.label, wanted);
 }
 
 /// First all places of the scene before are found, then structure changes in tables, then in the scene, and
@@ -56,7 +55,7 @@ private:
         SoRef<SoNode> node;
         ChildTable* table = nullptr; // that it was in
         ChildTable::Slot slot;
-        std::string problem;
+        SbSentence problem;
         bool isPlaced = false;
     };
 
@@ -71,25 +70,27 @@ private:
     void order(const SceneChange& change);
     void rename(const SceneChange& change);
     void commit();
-    SoRef<SoNode> nodeFor(const SceneChange& change, std::string& problem);
+    SoRef<SoNode> nodeFor(const SceneChange& change, SbSentence& problem);
     ChildTable* tableFor(const SceneChange& change);
-    void misfit(const SceneChange& change, const std::string& reason);
+    void misfit(const SceneChange& change, const SbSentence& reason);
 
     const SceneChanges& m_changes;
     SoRef<SoNode>& m_root;
     PatchWatch* m_watch;
     SceneLookup m_lookup;
     PatchResult m_result;
-    std::vector<std::pair<int, std::string>> m_misfits; // with their lines
+    std::vector<std::pair<int, SbSentence>> m_misfits; // with their lines
     std::unordered_map<const SceneChange*, Taken> m_taken;
     std::vector<std::pair<SoRef<SoNode>, SbName>> m_names;
 };
 
-void Application::misfit(const SceneChange& change, const std::string& reason)
+void Application::misfit(const SceneChange& change, const SbSentence& reason)
 {
-    const std::string line = change.line > 0 ? "line " + std::to_string(change.line) + ": " : std::string();
-    m_misfits.emplace_back(change.line, line + SceneChange::nameOf(change.kind) + " " + change.path.toText() +
-                                            ": " + reason + ".");
+    const char* kind = SceneChange::nameOf(change.kind);
+    const std::string path = change.path.toText();
+    m_misfits.emplace_back(
+        change.line, change.line > 0 ? SbSentence("line %1: %2 %3: %4.", change.line, kind, path, reason)
+                                     : SbSentence("%1 %2: %3.", kind, path, reason));
 }
 
 PatchResult Application::run()
@@ -106,7 +107,7 @@ PatchResult Application::run()
     for (const SceneChange& each : m_changes) {
         if (each.kind != Kind::Set)
             continue;
-        std::string problem;
+        SbSentence problem;
         if (!fields.add(each, problem))
             misfit(each, problem);
     }
@@ -167,12 +168,12 @@ void Application::remove(const SceneChange& change)
 
 ChildTable* Application::tableFor(const SceneChange& change)
 {
-    std::string problem;
+    SbSentence problem;
     SoNode* parent = m_lookup.find(change.path.getParent(), problem);
     SoGroup* group = parent ? parent->asGroup() : nullptr;
     if (!group)
         misfit(change,
-               parent ? "a " + std::string(typeNameOf(*parent).getString()) + " has no children" : problem);
+               parent ? SbSentence("a %1 has no children", typeNameOf(*parent).getString()) : problem);
     return group ? &m_lookup.tableOf(group) : nullptr;
 }
 
@@ -194,7 +195,7 @@ void Application::insertInto(ChildTable& table, const SceneChange& change)
     }
     if (count != change.count.before)
         return misfit(change, countProblem(count, step, change.count.before));
-    std::string problem;
+    SbSentence problem;
     const SoRef<SoNode> node = nodeFor(change, problem);
     if (!node)
         return misfit(change, problem);
@@ -206,7 +207,7 @@ void Application::insertInto(ChildTable& table, const SceneChange& change)
     ++m_result.applied;
 }
 
-SoRef<SoNode> Application::nodeFor(const SceneChange& change, std::string& problem)
+SoRef<SoNode> Application::nodeFor(const SceneChange& change, SbSentence& problem)
 {
     if (change.origin == Origin::New)
         return makeNode(change);
@@ -218,7 +219,7 @@ SoRef<SoNode> Application::nodeFor(const SceneChange& change, std::string& probl
 
 bool Application::isReplaced(const SceneChange& change, const SoNode& node)
 {
-    std::string problem;
+    SbSentence problem;
     if (change.origin == Origin::Same)
         return m_lookup.find(change.same, problem) == &node;
     if (typeNameOf(node) != SbName(SbString(change.type)))
@@ -232,7 +233,7 @@ bool Application::isReplaced(const SceneChange& change, const SoNode& node)
 
 void Application::replace(const SceneChange& change)
 {
-    std::string problem;
+    SbSentence problem;
     SoNode* old = m_lookup.find(change.path, problem);
     if (!old)
         return misfit(change, problem);
@@ -256,9 +257,9 @@ void Application::order(const SceneChange& change)
     if (!table)
         return;
     if (!table->find(change.path.getSteps().back()))
-        return misfit(change, "there is no such node");
+        return misfit(change, SbSentence("there is no such node"));
     if (change.after && !table->find(*change.after))
-        return misfit(change, "there is no " + change.after->label + " to put it after");
+        return misfit(change, SbSentence("there is no %1 to put it after", change.after->label));
     const bool isMoved =
         table->moveAfter(change.path.getSteps().back(), change.after ? &*change.after : nullptr);
     ++(isMoved ? m_result.applied : m_result.alreadySo);
@@ -266,7 +267,7 @@ void Application::order(const SceneChange& change)
 
 void Application::rename(const SceneChange& change)
 {
-    std::string problem;
+    SbSentence problem;
     SoNode* node = m_lookup.find(change.path, problem);
     const SbName name{SbString(*change.name)};
     if (!node)
@@ -296,8 +297,8 @@ void Application::commit()
         if (!table.isChanged())
             continue;
         for (const SoRef<SoNode>& refused : table.commitInsertions())
-            m_misfits.emplace_back(0, std::string(labelOf(*refused).getString()) + " cannot stand in " +
-                                          labelOf(*group).getString() + ", which it holds.");
+            m_misfits.emplace_back(0, SbSentence("%1 cannot stand in %2, which it holds.",
+                                                 labelOf(*refused).getString(), labelOf(*group).getString()));
     }
     for (const auto& [node, name] : m_names) {
         if (m_watch)

@@ -15,8 +15,8 @@ namespace xsg
 /// What became of a patch.
 struct PatchResult {
     int applied = 0;
-    int alreadySo = 0;                // was so before
-    std::vector<std::string> misfits; // a sentence for each change that does not fit the scene
+    int alreadySo = 0;               // was so before
+    std::vector<SbSentence> misfits; // a sentence for each change that does not fit the scene
 
     bool isWhole() const { return misfits.empty(); }
 };

@@ -22,14 +22,21 @@ constexpr std::size_t ShownLength = 40;
 
 } // namespace
 
-bool PatchLine::fail(const std::string& expected)
+bool PatchLine::fail(const SbSentence& expected)
 {
     m_in.skipBlanks();
     const std::string_view rest = m_in.rest();
     const std::string_view shown = rest.substr(0, xsg::wholeCharacters(rest, ShownLength));
-    m_problem = expected + " was expected" +
-                (m_in.atEnd() ? " at the end of the line" : " instead of \"" + xsg::printable(shown) + "\"");
+    m_problem = m_in.atEnd()
+                    ? SbSentence("%1 was expected at the end of the line", expected)
+                    : SbSentence("%1 was expected instead of \"%2\"", expected, xsg::printable(shown));
     return false;
+}
+
+// Of what ends in a subordinate clause.
+bool PatchLine::failBeforeComma(const SbSentence& expected)
+{
+    return fail(SbSentence("%1,", expected));
 }
 
 bool PatchLine::accept(std::string_view word)
@@ -47,17 +54,18 @@ bool PatchLine::expect(std::string_view sign)
 {
     m_in.skipBlanks();
     if (m_in.rest().substr(0, sign.size()) != sign)
-        return fail("\"" + std::string(sign) + "\"");
+        return fail(SbSentence("\"%1\"", sign));
     m_in.skip(sign.size());
     return true;
 }
 
-bool PatchLine::read(SceneChange& change, std::string& problem)
+bool PatchLine::read(SceneChange& change, SbSentence& problem)
 {
     const auto kind = std::find_if(Kinds.begin(), Kinds.end(),
                                    [&](Kind each) { return accept(SceneChange::nameOf(each)); });
-    bool good = kind != Kinds.end() ||
-                fail("\"set\", \"name\", \"insert\", \"remove\", \"move\", \"replace\" or \"order\"");
+    bool good =
+        kind != Kinds.end() ||
+        fail(SbSentence("\"set\", \"name\", \"insert\", \"remove\", \"move\", \"replace\" or \"order\""));
     if (good) {
         change.kind = *kind;
         good = readRest(change) && readEnd(change);
@@ -72,13 +80,13 @@ bool PatchLine::readRest(SceneChange& change)
         return false;
     if (change.path.getSteps().empty() && change.kind != Kind::Replace && change.kind != Kind::Rename &&
         change.kind != Kind::Set)
-        return fail("the path of a place below the root");
+        return fail(SbSentence("the path of a place below the root"));
     switch (change.kind) {
     case Kind::Remove:
         return readCount(change.count);
     case Kind::Move:
         return readCount(change.count) && readAnchor(change) && readOrigin(change) &&
-               (change.origin == Origin::Old || fail("\"from\" and where it was"));
+               (change.origin == Origin::Old || fail(SbSentence("\"from\" and where it was")));
     case Kind::Insert:
         return readCount(change.count) && readAnchor(change) && readOrigin(change);
     case Kind::Replace:
@@ -86,7 +94,7 @@ bool PatchLine::readRest(SceneChange& change)
     case Kind::Order:
         return readAnchor(change);
     case Kind::Rename:
-        return readName(change.name) && (change.name || fail("a name in quotes"));
+        return readName(change.name) && (change.name || fail(SbSentence("a name in quotes")));
     default:
         return readSet(change);
     }
@@ -96,18 +104,19 @@ bool PatchLine::readPath(SoScenePath& path, bool isField)
 {
     m_in.skipBlanks();
     if (m_in.peek() != '/')
-        return fail("a path, which starts with \"/\",");
+        return failBeforeComma(SbSentence("a path, which starts with \"/\""));
     if (!SoScenePath::read(m_in, path, m_problem))
         return false;
     if (path.getField().empty() == isField)
-        return fail(isField ? "the path of a field, such as /Lamp.intensity," : "the path of a node");
+        return isField ? failBeforeComma(SbSentence("the path of a field, such as /Lamp.intensity"))
+                       : fail(SbSentence("the path of a node"));
     return true;
 }
 
 bool PatchLine::readCount(SceneChange::Count& count)
 {
     const auto number = [this](int& value) {
-        return (m_in.readNumber(value) && value >= 0) || fail("a number of children");
+        return (m_in.readNumber(value) && value >= 0) || fail(SbSentence("a number of children"));
     };
     return expect("(") && number(count.before) && expect("->") && number(count.after) && expect(")");
 }
@@ -117,7 +126,7 @@ bool PatchLine::readAnchor(SceneChange& change)
     if (accept("first"))
         return true;
     if (!accept("after"))
-        return fail("\"first\", or \"after\" and a node,");
+        return failBeforeComma(SbSentence("\"first\", or \"after\" and a node"));
     m_in.skipBlanks();
     return SoScenePath::readStep(m_in, change.after.emplace(), m_problem);
 }
@@ -128,8 +137,8 @@ bool PatchLine::readName(std::optional<std::string>& name)
     if (m_in.peek() != '"')
         return true;
     if (!m_in.readQuoted(name.emplace()))
-        return fail("the end of the quotes");
-    return name->find('\0') == std::string::npos || fail("a name without a byte 0");
+        return fail(SbSentence("the end of the quotes"));
+    return name->find('\0') == std::string::npos || fail(SbSentence("a name without a byte 0"));
 }
 
 bool PatchLine::readOrigin(SceneChange& change)
@@ -143,10 +152,10 @@ bool PatchLine::readOrigin(SceneChange& change)
         return readPath(change.from, false) && readName(change.name);
     }
     if (!accept("new"))
-        return fail("\"new\", \"from\" or \"same\"");
+        return fail(SbSentence("\"new\", \"from\" or \"same\""));
     m_in.skipBlanks();
     change.type = std::string(m_in.readWord());
-    return change.type.empty() ? fail("a type") : readName(change.name);
+    return change.type.empty() ? fail(SbSentence("a type")) : readName(change.name);
 }
 
 bool PatchLine::readReplacement(SceneChange& change)
@@ -154,21 +163,21 @@ bool PatchLine::readReplacement(SceneChange& change)
     if (!readOrigin(change))
         return false;
     if (change.origin == Origin::Old)
-        return fail("\"new\" or \"same\"");
+        return fail(SbSentence("\"new\" or \"same\""));
     if (accept("apart"))
         return readPath(change.apart.emplace(), false);
     if (!accept("fields"))
         return true;
     for (m_in.skipBlanks(); TextReader::isWordByte(m_in.peek()); m_in.skipBlanks())
         change.fields.emplace_back(m_in.readWord());
-    return !change.fields.empty() || fail("the name of a field");
+    return !change.fields.empty() || fail(SbSentence("the name of a field"));
 }
 
 bool PatchLine::readSet(SceneChange& change)
 {
     return readValue(change) && readMarks(change) &&
            (change.path.getIndex() < 0 || (change.value && !change.isIgnored && !change.source) ||
-            fail("one value, without marks,"));
+            failBeforeComma(SbSentence("one value, without marks")));
 }
 
 bool PatchLine::readValue(SceneChange& change)
@@ -179,15 +188,15 @@ bool PatchLine::readValue(SceneChange& change)
     if (accept("!text")) {
         m_in.skipBlanks();
         if (!m_in.readQuoted(change.value.emplace()))
-            return fail("a text in quotes");
-        return change.value->find('\0') == std::string::npos || fail("a text without a byte 0");
+            return fail(SbSentence("a text in quotes"));
+        return change.value->find('\0') == std::string::npos || fail(SbSentence("a text without a byte 0"));
     }
     const ValueExtent extent(m_in.rest());
     const std::string_view value = trimmed(m_in.rest().substr(0, extent.length));
     if (!extent.isWhole())
-        return fail("an end of the list or text that begins here");
+        return fail(SbSentence("an end of the list or text that begins here"));
     if (value.empty())
-        return fail("a value or \"!default\"");
+        return fail(SbSentence("a value or \"!default\""));
     change.value = std::string(value);
     m_in.skip(extent.length);
     return true;
@@ -201,14 +210,14 @@ bool PatchLine::readMarks(SceneChange& change)
         return true;
     m_in.skip(2);
     return readPath(change.source.emplace(), true) &&
-           (change.source->getIndex() < 0 || fail("a whole field"));
+           (change.source->getIndex() < 0 || fail(SbSentence("a whole field")));
 }
 
 bool PatchLine::readEnd(SceneChange& change)
 {
     m_in.skipBlanks();
     if (!m_in.atEnd() && m_in.peek() != '#')
-        return fail("the end of the line");
+        return fail(SbSentence("the end of the line"));
     constexpr std::string_view was = "# was ";
     if (m_in.rest().substr(0, was.size()) == was)
         change.was = std::string(m_in.rest().substr(was.size()));

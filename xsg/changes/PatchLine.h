@@ -16,7 +16,7 @@ public:
     }
 
     /// False, and a sentence without its full stop, where the line is no change.
-    bool read(SceneChange& change, std::string& problem);
+    bool read(SceneChange& change, SbSentence& problem);
 
 private:
     bool readRest(SceneChange& change);
@@ -32,10 +32,11 @@ private:
     bool readEnd(SceneChange& change);
     bool accept(std::string_view word);
     bool expect(std::string_view sign);
-    bool fail(const std::string& expected);
+    bool fail(const SbSentence& expected);
+    bool failBeforeComma(const SbSentence& expected);
 
     TextReader m_in;
-    std::string m_problem;
+    SbSentence m_problem;
 };
 
 } // namespace xsg

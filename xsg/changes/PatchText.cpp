@@ -127,26 +127,26 @@ std::string PatchText::write(const SceneChanges& changes)
     return text;
 }
 
-bool PatchText::read(std::string_view text, const std::string& name, SceneChanges& changes,
-                     std::string& error)
+bool PatchText::read(std::string_view text, const std::string& name, SceneChanges& changes, SbSentence& error)
 {
     if (text.substr(0, ByteOrderMark.size()) == ByteOrderMark)
         text.remove_prefix(ByteOrderMark.size());
     SceneChanges found;
-    std::string problem;
+    SbSentence problem;
     int number = 0;
     for (std::size_t at = 0; at < text.size() || number == 0;) {
         const std::size_t end = std::min(text.find('\n', at), text.size());
         const std::string_view line = trimmed(text.substr(at, end - at));
         at = end + 1;
         if (++number == 1 && line != FirstLine)
-            problem = "this is no patch: its first line must be \"" + std::string(FirstLine) + "\"";
+            problem = SbSentence("this is no patch: its first line must be \"%1\"", FirstLine);
         else if (line.find('\0') != std::string_view::npos)
-            problem = "a byte 0 stands here, which a text has not: the file is damaged, or no patch";
+            problem =
+                SbSentence("a byte 0 stands here, which a text has not: the file is damaged, or no patch");
         else if (number > 1 && !line.empty() && line.front() != '#')
             PatchLine(line).read(found.emplace_back(), problem);
         if (!problem.empty()) {
-            error = printable(name + ":" + std::to_string(number) + ": " + problem + ".");
+            error = printable(SbSentence("%1:%2: %3.", name, number, problem));
             return false;
         }
         if (!found.empty() && found.back().line == 0)

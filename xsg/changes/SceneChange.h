@@ -67,7 +67,7 @@ XSG_API std::string write(const SceneChanges& changes);
 XSG_API std::string writeLine(const SceneChange& change);
 /// False, and one sentence with name, line and what was expected, where the text is no patch; `changes` are
 /// then as they were.
-XSG_API bool read(std::string_view text, const std::string& name, SceneChanges& changes, std::string& error);
+XSG_API bool read(std::string_view text, const std::string& name, SceneChanges& changes, SbSentence& error);
 
 } // namespace PatchText
 

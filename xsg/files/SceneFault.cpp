@@ -6,7 +6,7 @@
 #include <xsg/values/Printable.h>
 #include <xsg/values/Utf.h>
 
-bool xsg::SceneFault::set(SceneText::Place where, std::string_view what)
+bool xsg::SceneFault::set(SceneText::Place where, const SbSentence& what)
 {
     place = where;
     problem = printable(what);
@@ -17,9 +17,13 @@ bool xsg::SceneFault::refuse(SceneText::Place where, const SoField& field, std::
 {
     // In a file written by hand the next field may well follow on the same line.
     const bool goesOn = value.find(": ") != std::string_view::npos;
-    return set(where, quotedStart(value) + " is no value of " + field.getName().getString() +
-                          ", which is a " + field.getTypeId().getName().getString() +
-                          (goesOn ? "; each field has a line of its own" : ""));
+    const std::string shown = quotedStart(value);
+    const char* name = field.getName().getString();
+    const char* type = field.getTypeId().getName().getString();
+    return set(where,
+               goesOn ? SbSentence("%1 is no value of %2, which is a %3; each field has a line of its own",
+                                   shown, name, type)
+                      : SbSentence("%1 is no value of %2, which is a %3", shown, name, type));
 }
 
 std::string xsg::quotedStart(std::string_view text)

@@ -4,6 +4,7 @@
 
 #include <xsg/files/SceneText.h>
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbSentence.h>
 
 #include <string>
 #include <string_view>
@@ -13,10 +14,10 @@ namespace xsg
 
 struct SceneFault {
     SceneText::Place place{};
-    std::string problem; // one printable sentence on what is wrong and what was expected; empty: nothing is
+    SbSentence problem; // one printable sentence on what is wrong and what was expected; empty: nothing is
 
     /// Returns false, for whoever failed to return.
-    bool set(SceneText::Place where, std::string_view what);
+    bool set(SceneText::Place where, const SbSentence& what);
     /// The same, of a text that is no value of this field.
     bool refuse(SceneText::Place where, const SoField& field, std::string_view value);
 };

@@ -42,12 +42,13 @@ xsg::SceneReader::~SceneReader()
         m_references.release();
 }
 
-bool xsg::SceneReader::fail(std::size_t at, std::string problem)
+bool xsg::SceneReader::fail(std::size_t at, const SbSentence& problem)
 {
     if (m_text.isCutShort() && m_phase != Phase::FirstLine)
-        return m_fault.set(m_text.placeOf(m_text.getEnd()),
-                           "a byte 0 stands here, which a text has not: the file is damaged, or no scene");
-    return m_fault.set(m_text.placeOf(at), std::move(problem));
+        return m_fault.set(
+            m_text.placeOf(m_text.getEnd()),
+            SbSentence("a byte 0 stands here, which a text has not: the file is damaged, or no scene"));
+    return m_fault.set(m_text.placeOf(at), problem);
 }
 
 void xsg::SceneReader::skipBlanks()
@@ -93,7 +94,9 @@ bool xsg::SceneReader::readQuoted(std::string& out)
     }
     xsg::TextReader reader(m_text.from(m_at));
     if (!reader.readQuoted(out))
-        return fail(m_at, "the text in quotes that starts here has no end, or an escape that does not exist");
+        return fail(
+            m_at,
+            SbSentence("the text in quotes that starts here has no end, or an escape that does not exist"));
     m_at = m_text.getEnd() - reader.rest().size();
     return true;
 }
@@ -178,7 +181,7 @@ bool xsg::SceneReader::readFirstLine()
     std::string_view line = m_text.from(m_at).substr(0, wanted.size() + ShownLength);
     line = line.substr(0, line.find('\n'));
     if (line.substr(0, wanted.size()) != wanted || !xsg::trimmed(line.substr(wanted.size())).empty())
-        return fail(0, "this is no scene file: its first line must be \"" + std::string(wanted) + "\"");
+        return fail(0, SbSentence("this is no scene file: its first line must be \"%1\"", wanted));
     m_at += line.size();
     m_phase = Phase::Items;
     return true;
@@ -195,18 +198,19 @@ bool xsg::SceneReader::readItems()
     if (atEnd())
         return endItems();
     if (m_root && m_open.empty())
-        return fail(m_at, "a file holds one node with everything in it, so its end was expected instead of " +
-                              quotedFrom(m_at));
+        return fail(m_at, SbSentence("a file holds one node with everything in it, so its end was expected "
+                                     "instead of %1",
+                                     quotedFrom(m_at)));
     return readItem();
 }
 
 bool xsg::SceneReader::endItems()
 {
     if (!m_open.empty())
-        return fail(m_at, "the file ends too early: \"}\" was expected to close the " +
-                              typeOf(*m_open.back().node));
+        return fail(m_at, SbSentence("the file ends too early: \"}\" was expected to close the %1",
+                                     typeOf(*m_open.back().node)));
     if (!m_root)
-        return fail(m_at, "the file has no node: a type such as Separator was expected");
+        return fail(m_at, SbSentence("the file has no node: a type such as Separator was expected"));
     m_phase = Phase::References;
     return !m_text.isCutShort() || fail(m_at, {});
 }
@@ -215,28 +219,30 @@ bool xsg::SceneReader::readItem()
 {
     const std::size_t start = m_at;
     if (accept('}'))
-        return m_open.empty() ? fail(start, "\"}\" closes nothing; a node was expected") : closeNode();
+        return m_open.empty() ? fail(start, SbSentence("\"}\" closes nothing; a node was expected"))
+                              : closeNode();
     if (peek() == '@')
         return readReference();
     const std::string word = readWord();
     if (word.empty())
-        return fail(start, std::string(m_open.empty() ? "a node" : "a field, a node or \"}\"") +
-                               " was expected instead of " + quotedFrom(start));
+        return fail(start, m_open.empty() ? SbSentence("a node was expected instead of %1", quotedFrom(start))
+                                          : SbSentence("a field, a node or \"}\" was expected instead of %1",
+                                                       quotedFrom(start)));
     if (peek() != ':')
         return openNode(word, start);
     ++m_at;
     if (m_open.empty())
-        return fail(start, "a field stands within a node; a node was expected");
+        return fail(start, SbSentence("a field stands within a node; a node was expected"));
     return readField(word, start);
 }
 
 bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
 {
     if (!m_open.empty() && !m_open.back().node->asGroup())
-        return fail(at, "a " + typeOf(*m_open.back().node) +
-                            " has no children; a field such as \"name: value\" or \"}\" was expected "
-                            "instead of " +
-                            quotedStart(typeName));
+        return fail(at,
+                    SbSentence("a %1 has no children; a field such as \"name: value\" or \"}\" was expected "
+                               "instead of %2",
+                               typeOf(*m_open.back().node), quotedStart(typeName)));
     std::string name;
     skipBlanks();
     const bool hasName = peek() == '"';
@@ -246,10 +252,10 @@ bool xsg::SceneReader::openNode(const std::string& typeName, std::size_t at)
     if (accept('@')) {
         label = readWord();
         if (label.empty())
-            return fail(m_at, "a label was expected after \"@\"");
+            return fail(m_at, SbSentence("a label was expected after \"@\""));
     }
     if (!accept('{'))
-        return fail(m_at, "\"{\" was expected after " + quotedStart(typeName));
+        return fail(m_at, SbSentence("\"{\" was expected after %1", quotedStart(typeName)));
     const SbName type{SbString(typeName)};
     const SoType known = SoType::fromName(type);
     const bool isKnown = known.isDerivedFrom(SoNode::getClassTypeId()) && known.canCreateInstance();
@@ -269,7 +275,7 @@ bool xsg::SceneReader::closeNode()
     const OpenNode closed = std::move(m_open.back());
     m_open.pop_back();
     if (!closed.label.empty() && !m_references.addLabel(closed.label, closed.node))
-        return fail(m_at - 1, "the label @" + closed.label + " is already another node's");
+        return fail(m_at - 1, SbSentence("the label @%1 is already another node's", closed.label));
     return place(closed.node, m_at);
 }
 
@@ -281,7 +287,7 @@ bool xsg::SceneReader::place(const SoRef<SoNode>& node, std::size_t at)
     }
     SoGroup* group = m_open.back().node->asGroup();
     if (!group)
-        return fail(at, "a " + typeOf(*m_open.back().node) + " has no children");
+        return fail(at, SbSentence("a %1 has no children", typeOf(*m_open.back().node)));
     group->addChild(node.get());
     return true;
 }
@@ -292,7 +298,7 @@ bool xsg::SceneReader::readReference()
     const std::string label = readWord();
     SoNode* known = m_references.find(label);
     if (!known)
-        return fail(start, "the label @" + label + " is not that of a node that is complete here");
+        return fail(start, SbSentence("the label @%1 is not that of a node that is complete here", label));
     return place(known, start);
 }
 
@@ -301,8 +307,8 @@ bool xsg::SceneReader::readField(const std::string& name, std::size_t at)
     SoNode* node = m_open.back().node.get();
     SoField* field = xsg::fieldOf(node, SbName(SbString(name)));
     if (!field)
-        return fail(at, "a " + typeOf(*node) + " has no field " + quotedStart(name) +
-                            "; a field of it, a node or \"}\" was expected");
+        return fail(at, SbSentence("a %1 has no field %2; a field of it, a node or \"}\" was expected",
+                                   typeOf(*node), quotedStart(name)));
     // The value begins on the line of the field's name; where it does not, there is none.
     while (peek() != '\n' && xsg::TextReader::isBlank(peek()))
         ++m_at;
@@ -319,15 +325,16 @@ bool xsg::SceneReader::readValue()
     const std::size_t start = m_pending->start;
     if (!scan.advance(m_text.from(start))) {
         if (scan.getLength() > LongestValue)
-            return fail(start, "the value that starts here is longer than 1 GiB, and is not read");
+            return fail(start,
+                        SbSentence("the value that starts here is longer than 1 GiB, and is not read"));
         if (m_text.load(std::clamp(scan.getLength(), SceneText::PieceBytes, LargestPiece)))
             return true;
     }
     const std::size_t open = scan.getOpen();
     if (open != std::string_view::npos)
         return fail(start + open, m_text.at(start + open) == '['
-                                      ? "the list that starts here has no \"]\""
-                                      : "the text in quotes that starts here has no end");
+                                      ? SbSentence("the list that starts here has no \"]\"")
+                                      : SbSentence("the text in quotes that starts here has no end"));
     m_at = start + scan.getLength();
     const std::string_view value = xsg::trimmed(m_text.from(start).substr(0, scan.getLength()));
     return parseElsewhere(value) || takeValue(value);
@@ -388,7 +395,7 @@ bool xsg::SceneReader::readMarks(SoField* field)
             if (m_references.hasNumbers() && mark == "default")
                 m_isDefault = true;
             else if (mark != "ignored")
-                return fail(start, "\"!ignored\" was expected");
+                return fail(start, SbSentence("\"!ignored\" was expected"));
             else
                 field->setIgnored(true);
         } else if (accept('<')) {
@@ -408,7 +415,7 @@ bool xsg::SceneReader::readConnection(SoField* field, std::size_t start)
         label = readWord();
     good = good && accept('.');
     if (!good)
-        return fail(start, "\"<- @label.field\" was expected");
+        return fail(start, SbSentence("\"<- @label.field\" was expected"));
     m_references.addConnection(field, std::move(label), SbName(SbString(readWord())), m_text.placeOf(start));
     return true;
 }
@@ -420,14 +427,14 @@ bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart 
     const std::string label = accept('@') ? readWord() : std::string();
     SoNode* node = m_references.find(label);
     if (!node)
-        return fail(0, "a record starts with \"@\" and the number of a node");
+        return fail(0, SbSentence("a record starts with \"@\" and the number of a node"));
     m_open.push_back({node, {}});
     skipBlanks();
     const std::size_t start = m_at;
     const std::string name = readWord();
     SoField* field = peek() == ':' ? xsg::fieldOf(node, SbName(SbString(name))) : nullptr;
     if (!field)
-        return fail(start, "a field of the " + typeOf(*node) + " was expected");
+        return fail(start, SbSentence("a field of the %1 was expected", typeOf(*node)));
     ++m_at;
     const bool wasIgnored = field->isIgnored();
     field->setIgnored(false); // unless the record says so
@@ -436,7 +443,7 @@ bool xsg::SceneReader::readRecord(const std::vector<SoNode*>& nodes, RecordPart 
         good = readValue();
     skipBlanks();
     if (good && !atEnd())
-        good = fail(m_at, "the end of the record was expected");
+        good = fail(m_at, SbSentence("the end of the record was expected"));
     if (!good)
         field->setIgnored(wasIgnored);
     return good && applyRecord(*field, part);

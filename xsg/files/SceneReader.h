@@ -51,10 +51,11 @@ public:
     /// Is called for each node, in the order in which the text has them, before its fields are read.
     void setNodeListener(std::function<void(SoNode*)> listener) { m_nodeListener = std::move(listener); }
 
-    /// After an error: where, counted from 1, and one sentence on what is wrong and what was expected.
+    /// After an error: where, counted from 1, and one sentence, without its full stop, on what is wrong
+    /// and what was expected.
     int getLine() const { return m_fault.place.line; }
     int getColumn() const { return m_fault.place.column; }
-    const std::string& getProblem() const { return m_fault.problem; }
+    const SbSentence& getProblem() const { return m_fault.problem; }
 
     /// What of a field's state is to be taken: that it is not connected as it was, that it is connected, or
     /// its value and marks.
@@ -79,7 +80,7 @@ private:
         std::future<bool> isRead;
     };
 
-    bool fail(std::size_t at, std::string problem);
+    bool fail(std::size_t at, const SbSentence& problem);
     void skipBlanks();
     bool skipSomeBlanks();
     bool atEnd() { return !m_text.has(m_at); }

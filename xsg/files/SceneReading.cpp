@@ -19,12 +19,12 @@ constexpr std::size_t LargestFile = std::size_t{1} << 32U;
 
 } // namespace
 
-std::string xsg::postReadError(const std::string& name, const SceneReader& reader)
+SbSentence xsg::postReadError(const std::string& name, const SceneReader& reader)
 {
-    const std::string sentence = reader.getProblem() + ".";
-    SoReadError::post(SbString(name), reader.getLine(), reader.getColumn(), SbString(sentence));
-    return printable(name + ":" + std::to_string(reader.getLine()) + ": Column " +
-                     std::to_string(reader.getColumn()) + ": " + sentence);
+    const int line = reader.getLine();
+    const int column = reader.getColumn();
+    SoReadError::post(SbString(name), line, column, SbString(reader.getProblem().getText() + "."));
+    return printable(SbSentence("%1:%2: Column %3: %4.", name, line, column, reader.getProblem()));
 }
 
 xsg::SceneReading::SceneReading(const std::string& path)
@@ -39,16 +39,16 @@ xsg::SceneReading::~SceneReading() = default;
 void xsg::SceneReading::open()
 {
     if (isSpecialFile(m_path)) // before it is opened, for which a pipe would wait
-        return refuse("A scene file was expected, but this is not a file.");
+        return refuse(SbSentence("A scene file was expected, but this is not a file."));
     m_file.reset(std::fopen(m_path.c_str(), "rb"));
     struct stat about {
     };
     if (!m_file || fstat(fileno(m_file.get()), &about) != 0)
-        return refuse("The file cannot be read: " + std::string(std::strerror(errno)) + ".");
+        return refuse(SbSentence("The file cannot be read: %1.", std::strerror(errno)));
     m_size = static_cast<std::size_t>(about.st_size);
     if (m_size > LargestFile)
-        return refuse("A scene file of at most 4 GiB was expected, but this one has " +
-                      std::to_string(m_size) + " bytes.");
+        return refuse(
+            SbSentence("A scene file of at most 4 GiB was expected, but this one has %1 bytes.", m_size));
     std::setvbuf(m_file.get(), nullptr, _IONBF, 0); // pieces are large
     feeds.filesRead.add();
 }
@@ -62,11 +62,11 @@ std::size_t xsg::SceneReading::readMore(char* to, std::size_t size)
     return count;
 }
 
-void xsg::SceneReading::refuse(const std::string& sentence)
+void xsg::SceneReading::refuse(const SbSentence& sentence)
 {
-    m_error = printable(m_path + ": " + sentence);
+    m_error = printable(SbSentence("%1: %2", m_path, sentence));
     m_isDone = true;
-    SoReadError::post(SbString(m_path), 0, SbString(sentence));
+    SoReadError::post(SbString(m_path), 0, SbString(sentence.getText()));
 }
 
 bool xsg::SceneReading::advance(SceneReader::Clock::time_point until)
@@ -78,7 +78,7 @@ bool xsg::SceneReading::end()
 {
     m_isDone = true;
     if (std::ferror(m_file.get()))
-        refuse("The file cannot be read to its end.");
+        refuse(SbSentence("The file cannot be read to its end."));
     else if (!m_reader.getProblem().empty())
         m_error = postReadError(m_path, m_reader);
     m_file.reset();

@@ -35,7 +35,7 @@ public:
     /// Null where it cannot be read.
     SoRef<SoNode> takeScene();
     /// One sentence, with file, line and column; empty when all is well.
-    const std::string& getError() const { return m_error; }
+    const SbSentence& getError() const { return m_error; }
     SceneReader& getReader() { return m_reader; }
 
 private:
@@ -44,7 +44,7 @@ private:
     };
     void open();
     std::size_t readMore(char* to, std::size_t size);
-    void refuse(const std::string& sentence);
+    void refuse(const SbSentence& sentence);
     bool end();
 
     std::string m_path;
@@ -52,11 +52,11 @@ private:
     std::size_t m_size = 0;
     std::size_t m_read = 0;
     SceneReader m_reader;
-    std::string m_error;
+    SbSentence m_error;
     bool m_isDone = false;
 };
 
 /// Posts what the reader found wrong in the file of this name, and returns it as a sentence.
-std::string postReadError(const std::string& name, const SceneReader& reader);
+SbSentence postReadError(const std::string& name, const SceneReader& reader);
 
 } // namespace xsg

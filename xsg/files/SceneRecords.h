@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/XsgExport.h>
 
 #include <string>
@@ -22,8 +23,8 @@ public:
 
     /// Gives the fields the recorded states. `nodes` are those of the scene, in the order in which its text
     /// has them (SceneReader::setNodeListener()). Returns one sentence where a record does not fit them,
-    /// which leaves the scene half changed; else an empty text.
-    std::string apply(const std::vector<SoNode*>& nodes) const;
+    /// which leaves the scene half changed; else an empty one.
+    SbSentence apply(const std::vector<SoNode*>& nodes) const;
 
 private:
     std::unordered_map<std::string, std::string> m_last; // by what stands before the colon: node and field

@@ -112,8 +112,8 @@ bool xsg::SceneReferences::findSource(Connection& wanted)
     SoNode* node = find(wanted.label);
     wanted.source = node ? fieldOf(node, wanted.sourceName) : nullptr;
     if (!wanted.source)
-        return m_fault.set(wanted.place, "there is no field @" + wanted.label + "." +
-                                             wanted.sourceName.getString() + " to connect from");
+        return m_fault.set(wanted.place, SbSentence("there is no field @%1.%2 to connect from", wanted.label,
+                                                    wanted.sourceName.getString()));
     if (!wanted.field->isDefault())
         wanted.field->get(wanted.value);
     m_unordered[wanted.field] = &wanted;
@@ -137,10 +137,11 @@ bool xsg::SceneReferences::orderSourcesFirst(const Connection& connection)
 bool xsg::SceneReferences::connect(const Connection* wanted)
 {
     return wanted->field->connectFrom(wanted->source) ||
-           m_fault.set(wanted->place, std::string(wanted->field->getName().getString()) +
-                                          " cannot be connected from a " +
-                                          wanted->source->getTypeId().getName().getString() +
-                                          ", or would in the end be connected from itself");
+           m_fault.set(
+               wanted->place,
+               SbSentence("%1 cannot be connected from a %2, or would in the end be connected from itself",
+                          wanted->field->getName().getString(),
+                          wanted->source->getTypeId().getName().getString()));
 }
 
 // A connected field may have been written since its source last changed, and then keeps that value.

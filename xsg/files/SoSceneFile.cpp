@@ -54,14 +54,24 @@ bool SoSceneFile::write(const SoNode* root, const std::string& path, std::string
 bool SoSceneFile::write(const SoNode* root, const std::string& path, std::string& error,
                         const std::function<void(double)>& goOn)
 {
+    SbSentence sentence;
+    const bool isWritten = write(root, path, sentence, goOn);
+    if (!isWritten)
+        error = sentence.getText();
+    return isWritten;
+}
+
+bool SoSceneFile::write(const SoNode* root, const std::string& path, SbSentence& error,
+                        const std::function<void(double)>& goOn)
+{
     xsg::FileReplacement file(path);
     bool isGood = file.open();
     xsg::SceneWriter writer([&](const std::string& piece) { isGood = isGood && file.write(piece); });
     if (isGood && !writeInPieces(writer, root, goOn))
-        return write(root, path, error);
+        return write(root, path, error, {});
     if (isGood && file.commit())
         return true;
-    error = path + ": The file cannot be written: " + file.getProblem() + ".";
+    error = SbSentence("%1: The file cannot be written: %2.", path, file.getProblem());
     return false;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/nodes/base/SoNode.h>
+#include <xsg/values/SbSentence.h>
 
 #include <functional>
 #include <string>
@@ -45,6 +46,9 @@ public:
     /// The same, calling `goOn` with the part that is written, from 0 to 1, each few milliseconds; what it
     /// throws leaves the file as it was. Fields and the structure of the scene may change in it.
     static bool write(const SoNode* root, const std::string& path, std::string& error,
+                      const std::function<void(double)>& goOn);
+    /// The same; the sentence can be shown in another language.
+    static bool write(const SoNode* root, const std::string& path, SbSentence& error,
                       const std::function<void(double)>& goOn);
     static std::string writeText(const SoNode* root);
 };

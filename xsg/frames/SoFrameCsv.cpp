@@ -163,7 +163,7 @@ std::string SoFrameCsv::write(const SoFrameRecording& recording)
     return text;
 }
 
-bool SoFrameCsv::read(std::string_view text, SoFrameRecording& recording, std::string& problem)
+bool SoFrameCsv::read(std::string_view text, SoFrameRecording& recording, SbSentence& problem)
 {
     recording = {};
     for (int number = 1; !text.empty(); ++number) {
@@ -178,12 +178,12 @@ bool SoFrameCsv::read(std::string_view text, SoFrameRecording& recording, std::s
         if (each.front() == '#' && isNames) {
             takeRemark(each, recording);
         } else if (!(isNames ? takeNames(each, recording) : takeRow(each, recording))) {
-            problem = "line " + std::to_string(number) + " does not fit the names of the columns";
+            problem = SbSentence("line %1 does not fit the names of the columns", number);
             recording = {};
             return false;
         }
     }
     if (recording.columns.empty())
-        problem = "it has no line with the names of the columns";
+        problem = SbSentence("it has no line with the names of the columns");
     return !recording.columns.empty();
 }

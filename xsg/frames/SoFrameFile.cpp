@@ -186,7 +186,7 @@ SoFrameFile::~SoFrameFile()
 
 bool SoFrameFile::fail(int code)
 {
-    m_problem = std::strerror(code);
+    m_problem = SbSentence::verbatim(std::strerror(code));
     close();
     return false;
 }
@@ -243,20 +243,20 @@ void SoFrameFile::close()
     m_descriptor = -1;
 }
 
-bool SoFrameFile::read(const std::string& path, SoFrameRecording& recording, std::string& problem)
+bool SoFrameFile::read(const std::string& path, SoFrameRecording& recording, SbSentence& problem)
 {
     if (xsg::isSpecialFile(path)) {
-        problem = "it is no regular file";
+        problem = SbSentence("it is no regular file");
         return false;
     }
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file || file.tellg() < 0) {
-        problem = "it cannot be read";
+        problem = SbSentence("it cannot be read");
         return false;
     }
     const auto size = static_cast<std::uintmax_t>(file.tellg());
     if (size > LargestFile) {
-        problem = "it has more than 1 GiB";
+        problem = SbSentence("it has more than 1 GiB");
         return false;
     }
     std::string bytes(size, '\0');
@@ -266,18 +266,18 @@ bool SoFrameFile::read(const std::string& path, SoFrameRecording& recording, std
     return parse(bytes, recording, problem);
 }
 
-bool SoFrameFile::parse(std::string_view text, SoFrameRecording& recording, std::string& problem)
+bool SoFrameFile::parse(std::string_view text, SoFrameRecording& recording, SbSentence& problem)
 {
     recording = {};
     if (text.substr(0, Magic.size()) != Magic) {
-        problem = "it is no recording of frames";
+        problem = SbSentence("it is no recording of frames");
         return false;
     }
     FrameBytes bytes(text.substr(Magic.size()));
     const std::string_view head = nextBlock(bytes);
     if (head.empty() || head.front() != 'H' || !takeHead(FrameBytes(head.substr(1)), recording)) {
         recording = {};
-        problem = "its head is damaged";
+        problem = SbSentence("its head is damaged");
         return false;
     }
     for (std::string_view block = nextBlock(bytes); !block.empty(); block = nextBlock(bytes)) {

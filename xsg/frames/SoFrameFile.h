@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/frames/SoFrameRecording.h>
+#include <xsg/values/SbSentence.h>
 
 /// Writes a recording while it goes on. What write() was given is the system's then: it survives the end of
 /// the program, however sudden. The file's form is in docs/frames.md. One thread at a time; sentences of
@@ -20,14 +21,14 @@ public:
     /// Appends frames with the columns that open() was given, and marks.
     bool write(const SoFrameRecording& rows);
     void close();
-    const std::string& getProblem() const { return m_problem; }
+    const SbSentence& getProblem() const { return m_problem; }
 
     /// What a file holds: all up to where it is torn. False, and why, where it is no recording.
-    static bool read(const std::string& path, SoFrameRecording& recording, std::string& problem);
+    static bool read(const std::string& path, SoFrameRecording& recording, SbSentence& problem);
     /// What a file of all this holds.
     static std::string format(const SoFrameRecording& recording);
     /// read() of the bytes of a file.
-    static bool parse(std::string_view bytes, SoFrameRecording& recording, std::string& problem);
+    static bool parse(std::string_view bytes, SoFrameRecording& recording, SbSentence& problem);
 
 private:
     bool writeBytes(const std::string& bytes);
@@ -35,5 +36,5 @@ private:
 
     int m_descriptor = -1;
     std::size_t m_numColumns = 0;
-    std::string m_problem;
+    SbSentence m_problem;
 };

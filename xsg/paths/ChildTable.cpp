@@ -171,26 +171,30 @@ ChildTable& SceneLookup::tableOf(SoGroup* group)
     return m_tables.try_emplace(group, group).first->second;
 }
 
-SoNode* SceneLookup::findBelow(SoNode* node, const std::vector<SoScenePath::Step>& steps, std::size_t from,
-                               std::string& problem)
+SoNode* SceneLookup::findBelow(SoNode* node, const Steps& steps, std::size_t& at)
 {
-    for (std::size_t i = from; i < steps.size(); ++i) {
+    for (; node && at < steps.size(); ++at) {
         SoGroup* group = node->asGroup();
-        node = group ? tableOf(group).find(steps[i]) : nullptr;
-        if (node)
-            continue;
-        std::string step;
-        SoScenePath::writeStep(step, steps[i]);
-        problem = "there is no " + step + (i == 0 ? " below the root" : " below " + steps[i - 1].label);
-        if (i == 0 && steps[0].label == labelOf(*m_root).getString())
-            problem += ", which itself is \"/\"";
-        return nullptr;
+        node = group ? tableOf(group).find(steps[at]) : nullptr;
+        if (!node)
+            return nullptr;
     }
     return node;
 }
 
+SbSentence SceneLookup::reasonAgainst(const Steps& steps, std::size_t at) const
+{
+    std::string step;
+    SoScenePath::writeStep(step, steps[at]);
+    if (at > 0)
+        return SbSentence("there is no %1 below %2", step, steps[at - 1].label);
+    if (steps[0].label == labelOf(*m_root).getString())
+        return SbSentence("there is no %1 below the root, which itself is \"/\"", step);
+    return SbSentence("there is no %1 below the root", step);
+}
+
 // Each node is looked at in its first place.
-SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
+SoNode* SceneLookup::search(const SoScenePath& path, SbSentence& problem)
 {
     const SoScenePath::Step& first = path.getSteps().front();
     const std::string otherwise = latin1Of(first.label);
@@ -201,9 +205,9 @@ SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
     std::unordered_set<SoNode*> found;
     std::unordered_set<SoNode*> seen;
     std::vector<SoNode*> open{m_root.get()};
-    std::string ignored;
     const auto look = [&](SoNode* node) {
-        if (SoNode* end = node ? findBelow(node, path.getSteps(), 1, ignored) : nullptr)
+        std::size_t at = 1;
+        if (SoNode* end = node ? findBelow(node, path.getSteps(), at) : nullptr)
             found.insert(end);
     };
     if (first.index == 0 && isCalled(*m_root))
@@ -224,24 +228,30 @@ SoNode* SceneLookup::search(const SoScenePath& path, std::string& problem)
     }
     if (found.size() == 1)
         return *found.begin();
-    problem = found.empty() ? "there is no such node"
-                            : std::to_string(found.size()) +
-                                  " nodes are meant; a path that starts with \"/\" names one of them";
+    problem =
+        found.empty()
+            ? SbSentence("there is no such node")
+            : SbSentence("%1 nodes are meant; a path that starts with \"/\" names one of them", found.size());
     return nullptr;
 }
 
-SoNode* SceneLookup::find(const SoScenePath& path, std::string& problem)
+SoNode* SceneLookup::find(const SoScenePath& path, SbSentence& problem)
 {
-    return path.isAbsolute() ? findBelow(m_root.get(), path.getSteps(), 0, problem) : search(path, problem);
+    if (!path.isAbsolute())
+        return search(path, problem);
+    std::size_t at = 0;
+    SoNode* node = findBelow(m_root.get(), path.getSteps(), at);
+    if (!node && at < path.getSteps().size())
+        problem = reasonAgainst(path.getSteps(), at);
+    return node;
 }
 
-SoField* SceneLookup::findField(const SoScenePath& path, std::string& problem)
+SoField* SceneLookup::findField(const SoScenePath& path, SbSentence& problem)
 {
     SoNode* node = find(path, problem);
     SoField* field = node ? node->getField(SbName(SbString(path.getField()))) : nullptr;
     if (node && !field)
-        problem =
-            "a " + std::string(typeNameOf(*node).getString()) + " has no field \"" + path.getField() + "\"";
+        problem = SbSentence("a %1 has no field \"%2\"", typeNameOf(*node).getString(), path.getField());
     return field;
 }
 

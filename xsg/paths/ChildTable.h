@@ -83,16 +83,19 @@ public:
     void setRoot(const SoRef<SoNode>& root) { m_root = root; }
     /// Null, and why as the end of a sentence, where there is no such node, or several for a path that does
     /// not start with "/".
-    SoNode* find(const SoScenePath& path, std::string& problem);
+    SoNode* find(const SoScenePath& path, SbSentence& problem);
     /// The same with the path's field.
-    SoField* findField(const SoScenePath& path, std::string& problem);
+    SoField* findField(const SoScenePath& path, SbSentence& problem);
     ChildTable& tableOf(SoGroup* group);
     std::unordered_map<SoGroup*, ChildTable>& getTables() { return m_tables; }
 
 private:
-    SoNode* findBelow(SoNode* node, const std::vector<SoScenePath::Step>& steps, std::size_t from,
-                      std::string& problem);
-    SoNode* search(const SoScenePath& path, std::string& problem);
+    using Steps = std::vector<SoScenePath::Step>;
+
+    /// From steps[at] on, which is moved along; null at the one that leads nowhere.
+    SoNode* findBelow(SoNode* node, const Steps& steps, std::size_t& at);
+    SbSentence reasonAgainst(const Steps& steps, std::size_t at) const;
+    SoNode* search(const SoScenePath& path, SbSentence& problem);
 
     SoRef<SoNode> m_root;
     std::unordered_map<SoGroup*, ChildTable> m_tables;

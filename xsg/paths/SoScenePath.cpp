@@ -33,9 +33,9 @@ SoScenePath::SoScenePath(std::string_view text)
 {
     xsg::TextReader in(text);
     if (read(in, *this, m_error) && !in.atEnd())
-        m_error = "the path was expected to end before \"" + std::string(in.rest()) + "\"";
+        m_error = SbSentence("the path was expected to end before \"%1\"", in.rest());
     if (!m_error.empty())
-        m_error = "\"" + std::string(text) + "\" is no path: " + m_error + ".";
+        m_error = SbSentence("\"%1\" is no path: %2.", text, m_error);
 }
 
 SoScenePath SoScenePath::of(const SoPath& path)
@@ -67,41 +67,45 @@ SoScenePath SoScenePath::ofLabel(const SoFieldContainer& container)
     return result;
 }
 
-bool SoScenePath::readWord(xsg::TextReader& in, const char* what, std::string& word, std::string& problem)
+SbSentence SoScenePath::nameOf(Word what)
+{
+    return what == Word::Node ? SbSentence("the name or type of a node") : SbSentence("the name of a field");
+}
+
+bool SoScenePath::readWord(xsg::TextReader& in, Word what, std::string& word, SbSentence& problem)
 {
     if (in.peek() == '"') {
         if (in.readQuoted(word) && !word.empty() && word.find('\0') == std::string::npos)
             return true;
-        problem = std::string("the quotes around ") + what + " have no end, or nothing in them";
+        problem = SbSentence("the quotes around %1 have no end, or nothing in them", nameOf(what));
         return false;
     }
     word = std::string(in.readWord());
     if (!word.empty())
         return true;
-    problem = std::string(what) + " was expected" +
-              (in.atEnd() ? " at the end" : " before \"" + std::string(in.rest().substr(0, 40)) + "\"");
+    problem = in.atEnd() ? SbSentence("%1 was expected at the end", nameOf(what))
+                         : SbSentence("%1 was expected before \"%2\"", nameOf(what), in.rest().substr(0, 40));
     return false;
 }
 
-bool SoScenePath::readIndex(xsg::TextReader& in, int& index, std::string& problem)
+bool SoScenePath::readIndex(xsg::TextReader& in, int& index, SbSentence& problem)
 {
     if (!in.accept('['))
         return true;
     const bool isNumber = in.peek() >= '0' && in.peek() <= '9' && in.readNumber(index);
     if (isNumber && in.accept(']'))
         return true;
-    problem = "a number, counted from 0, and \"]\" were expected after \"[\"";
+    problem = SbSentence("a number, counted from 0, and \"]\" were expected after \"[\"");
     return false;
 }
 
-bool SoScenePath::readStep(xsg::TextReader& in, Step& step, std::string& problem)
+bool SoScenePath::readStep(xsg::TextReader& in, Step& step, SbSentence& problem)
 {
     step.index = 0;
-    return readWord(in, "the name or type of a node", step.label, problem) &&
-           readIndex(in, step.index, problem);
+    return readWord(in, Word::Node, step.label, problem) && readIndex(in, step.index, problem);
 }
 
-bool SoScenePath::read(xsg::TextReader& in, SoScenePath& path, std::string& problem)
+bool SoScenePath::read(xsg::TextReader& in, SoScenePath& path, SbSentence& problem)
 {
     path = SoScenePath();
     path.m_isAbsolute = in.accept('/');
@@ -112,13 +116,13 @@ bool SoScenePath::read(xsg::TextReader& in, SoScenePath& path, std::string& prob
                 return false;
         } while (in.accept('/'));
     }
-    if (in.accept('.') && (!readWord(in, "the name of a field", path.m_field, problem) ||
-                           !readIndex(in, path.m_index, problem)))
+    if (in.accept('.') &&
+        (!readWord(in, Word::Field, path.m_field, problem) || !readIndex(in, path.m_index, problem)))
         return false;
     if (in.atEnd() || endsPath(in.peek()))
         return true;
     problem =
-        "\"/\", \".\", \"[\" or the end was expected before \"" + std::string(in.rest().substr(0, 40)) + "\"";
+        SbSentence("\"/\", \".\", \"[\" or the end was expected before \"%1\"", in.rest().substr(0, 40));
     return false;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/actions/SoPath.h>
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/SbValueText.h>
 
 #include <string>
@@ -39,10 +40,10 @@ public:
     static SoScenePath ofLabel(const SoFieldContainer& node);
     /// Takes a path from the start of a text; it ends at a blank, a comma, "]" or "=". False, and a sentence
     /// without its full stop, where there is none.
-    static bool read(xsg::TextReader& in, SoScenePath& path, std::string& problem);
+    static bool read(xsg::TextReader& in, SoScenePath& path, SbSentence& problem);
 
     bool isValid() const { return m_error.empty(); }
-    const std::string& getError() const { return m_error; }
+    const SbSentence& getError() const { return m_error; }
     std::string toText() const;
 
     bool isAbsolute() const { return m_isAbsolute; }
@@ -60,15 +61,17 @@ public:
     bool operator==(const SoScenePath& other) const;
 
     static void writeStep(std::string& out, const Step& step);
-    static bool readStep(xsg::TextReader& in, Step& step, std::string& problem);
+    static bool readStep(xsg::TextReader& in, Step& step, SbSentence& problem);
 
 private:
-    static bool readWord(xsg::TextReader& in, const char* what, std::string& word, std::string& problem);
-    static bool readIndex(xsg::TextReader& in, int& index, std::string& problem);
+    enum class Word { Node, Field };
+    static SbSentence nameOf(Word what);
+    static bool readWord(xsg::TextReader& in, Word what, std::string& word, SbSentence& problem);
+    static bool readIndex(xsg::TextReader& in, int& index, SbSentence& problem);
 
     bool m_isAbsolute = true;
     std::vector<Step> m_steps;
     std::string m_field;
     int m_index = -1;
-    std::string m_error;
+    SbSentence m_error;
 };

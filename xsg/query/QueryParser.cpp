@@ -185,13 +185,14 @@ bool QueryParser::makeTerm(const Word& word, QueryTerm& term)
     if (colon != std::string::npos && key != Keys.end()) {
         term.kind = key->value;
         term.text = all.substr(colon + 1);
-        return !term.text.empty() || fail("“" + word.text + "” lacks what to look for after the colon.");
+        return !term.text.empty() ||
+               fail(SbSentence("“%1” lacks what to look for after the colon.", word.text));
     }
     const auto sign = bare.find_first_of("=<>~!");
     if (sign != std::string::npos && sign > 0)
         return makeComparison(word, sign, term);
     term.text = all;
-    return !term.text.empty() || fail("A minus sign lacks what is not to be found.");
+    return !term.text.empty() || fail(SbSentence("A minus sign lacks what is not to be found."));
 }
 
 bool QueryParser::makeComparison(const Word& word, std::size_t at, QueryTerm& term)
@@ -203,23 +204,25 @@ bool QueryParser::makeComparison(const Word& word, std::size_t at, QueryTerm& te
         return rest.compare(0, each.text.size(), each.text) == 0;
     });
     if (sign == Signs.end())
-        return fail("“" + word.text + "” has a sign that compares nothing: use = != < <= > >= or ~.");
+        return fail(SbSentence("“%1” has a sign that compares nothing: use = != < <= > >= or ~.", word.text));
     term.sign = sign->value;
     term.text = rest.substr(sign->text.size());
     const auto dot = term.field.rfind('.');
     if (dot != std::string::npos) {
         term.component = componentOf(std::string_view(term.field).substr(dot + 1));
         if (term.component < 0)
-            return fail("“" + word.text + "” names no number of a value: use .x .y .z .w or .r .g .b .a.");
+            return fail(
+                SbSentence("“%1” names no number of a value: use .x .y .z .w or .r .g .b .a.", word.text));
         term.field.erase(dot);
     }
     term.numbers = term.sign == Sign::Contains ? std::vector<double>() : numbersOf(term.text);
     if (isOrder(term.sign) && term.numbers.size() != 1)
-        return fail("“" + word.text + "” needs a number to compare with.");
-    return !term.text.empty() || word.quoted || fail("“" + word.text + "” lacks the value to compare with.");
+        return fail(SbSentence("“%1” needs a number to compare with.", word.text));
+    return !term.text.empty() || word.quoted ||
+           fail(SbSentence("“%1” lacks the value to compare with.", word.text));
 }
 
-bool QueryParser::fail(std::string sentence)
+bool QueryParser::fail(SbSentence sentence)
 {
     m_error = std::move(sentence);
     return false;

@@ -20,7 +20,7 @@ public:
     /// The alternatives; none where the text is empty or wrong.
     std::vector<QueryTerms> parse();
     /// A sentence, empty where nothing is wrong.
-    const std::string& getError() const { return m_error; }
+    const SbSentence& getError() const { return m_error; }
 
 private:
     struct Word {
@@ -36,10 +36,10 @@ private:
     bool makeTerm(const Word& word, QueryTerm& term);
     bool takePlace(QueryTerm& term);
     bool makeComparison(const Word& word, std::size_t at, QueryTerm& term);
-    bool fail(std::string sentence);
+    bool fail(SbSentence sentence);
 
     std::string_view m_rest;
-    std::string m_error;
+    SbSentence m_error;
 };
 
 } // namespace xsg

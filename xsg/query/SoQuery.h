@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/XsgExport.h>
 
 #include <memory>
@@ -40,13 +41,13 @@ public:
 
     /// True where nothing is looked for: no text, or one that is no query.
     bool isEmpty() const;
-    /// What is wrong with the text, as a sentence in UTF-8; empty where nothing is.
-    const std::string& getError() const { return m_error; }
+    /// What is wrong with the text, as a sentence; empty where nothing is.
+    const SbSentence& getError() const { return m_error; }
     /// Reads values, which fetches those that are connected. SoQuerySearch is quicker for many nodes.
     bool matches(const SoNode& node) const;
 
 private:
     friend class SoQuerySearch;
     std::shared_ptr<const std::vector<std::vector<xsg::QueryTerm>>> m_alternatives;
-    std::string m_error;
+    SbSentence m_error;
 };

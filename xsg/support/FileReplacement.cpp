@@ -142,19 +142,19 @@ bool xsg::isOfAnotherKind(const std::string& path, const std::vector<std::string
     return !isOne(endingOf(path)) || (target != path && !ending.empty() && !isOne(ending));
 }
 
-std::string xsg::reasonAgainstReplacing(const std::string& path)
+SbSentence xsg::reasonAgainstReplacing(const std::string& path)
 {
     struct stat about {
     };
     if (stat(path.c_str(), &about) != 0)
         return {};
     if (S_ISDIR(about.st_mode))
-        return "it is a folder";
+        return SbSentence("it is a folder");
     if (!S_ISREG(about.st_mode))
-        return "it is no regular file";
+        return SbSentence("it is no regular file");
     // Root may write to every file; one without write permission is still protected on purpose.
     if ((about.st_mode & AnyWrite) == 0 || faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
-        return "the file is write-protected";
+        return SbSentence("the file is write-protected");
     return {};
 }
 
@@ -266,7 +266,7 @@ bool xsg::FileReplacement::commit()
 
 bool xsg::FileReplacement::fail(int code)
 {
-    m_problem = std::strerror(code);
+    m_problem = SbSentence::verbatim(std::strerror(code));
     discard();
     return false;
 }

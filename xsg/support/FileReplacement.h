@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/XsgExport.h>
 
 #include <string>
@@ -10,9 +11,9 @@
 namespace xsg
 {
 
-/// Why the file of this path must not be replaced, as the end of a sentence, or an empty text: what is there
+/// Why the file of this path must not be replaced, as the end of a sentence, or empty: what is there
 /// is no regular file, or nobody may write to it. True for root too, who could.
-XSG_API std::string reasonAgainstReplacing(const std::string& path);
+XSG_API SbSentence reasonAgainstReplacing(const std::string& path);
 
 /// Whether the name of this file, or of what it leads to over links, has the ending of another kind than
 /// those that are given in lower case, as in "csv". What a link leads to may have none.
@@ -48,7 +49,7 @@ public:
     bool write(std::string_view text);
     bool commit();
     /// Why one of these returned false.
-    const std::string& getProblem() const { return m_problem; }
+    const SbSentence& getProblem() const { return m_problem; }
 
 private:
     bool fail(int code);
@@ -60,7 +61,7 @@ private:
     std::string m_target;
     std::string m_temporary; // empty where there is none
     int m_descriptor = -1;
-    std::string m_problem;
+    SbSentence m_problem;
 };
 
 } // namespace xsg

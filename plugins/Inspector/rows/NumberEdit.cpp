@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rows/NumberEdit.h"
 
+#include <scopix/SpxSentence.h>
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -284,7 +286,7 @@ bool NumberEdit::apply()
     const SpxExpression expression({typed.data(), std::size_t(typed.size())},
                                    {{"x"}, m_format.quantity, m_format.unit});
     if (!expression.isValid()) {
-        refuse(QString::fromStdString(expression.getError().sentence));
+        refuse(SpxSentence::translated(expression.getError().sentence));
         setCursorPosition(QString::fromUtf8(typed.left(int(expression.getError().position))).size());
         return false;
     }

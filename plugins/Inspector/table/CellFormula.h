@@ -3,6 +3,7 @@
 
 #include "table/ListAccess.h"
 
+#include <scopix/SpxSentence.h>
 #include <scopix/editing/expression/SpxExpression.h>
 
 #include <QString>
@@ -22,7 +23,7 @@ public:
 
     bool isValid() const { return m_expression.isValid(); }
     /// A sentence.
-    QString error() const { return QString::fromStdString(m_expression.getError().sentence); }
+    QString error() const { return SpxSentence::translated(m_expression.getError().sentence); }
     /// `values` holds the element at row `at`.
     double evaluate(const SoMField& values, int at, int element, int column);
 
@@ -40,7 +41,7 @@ public:
     RowCondition(const QString& text, const SoMField& list, const ListAccess& access);
 
     bool isValid() const { return m_kind != Kind::Formula || m_expression.isValid(); }
-    QString error() const { return QString::fromStdString(m_expression.getError().sentence); }
+    QString error() const { return SpxSentence::translated(m_expression.getError().sentence); }
     bool holds(const SoMField& list, int element);
 
 private:

@@ -4,6 +4,7 @@
 #include "table/BlockText.h"
 #include "table/PieceWork.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/support/FileReplacement.h>
 #include <xsg/support/SpecialFile.h>
 
@@ -139,10 +140,10 @@ void TableFile::read()
         readFrom(path);
 }
 
-bool TableFile::refuse(const QString& path, const std::string& why)
+bool TableFile::refuse(const QString& path, const QString& why)
 {
-    return fail(tr("“%1” could not be written: %2; choose another file.")
-                    .arg(QFileInfo(path).fileName(), QString::fromStdString(why)));
+    return fail(
+        tr("“%1” could not be written: %2; choose another file.").arg(QFileInfo(path).fileName(), why));
 }
 
 bool TableFile::writeTo(const QString& path)
@@ -152,13 +153,12 @@ bool TableFile::writeTo(const QString& path)
         return false;
     const std::string encoded = encodedPath(path);
     if (xsg::isOfAnotherKind(encoded, {"csv", "tsv", "txt"}))
-        return refuse(path,
-                      tr("its name was expected to end in .%1").arg(endings().join(", .")).toStdString());
-    if (const std::string why = xsg::reasonAgainstReplacing(encoded); !why.empty())
-        return refuse(path, why);
+        return refuse(path, tr("its name was expected to end in .%1").arg(endings().join(", .")));
+    if (const SbSentence why = xsg::reasonAgainstReplacing(encoded); !why.empty())
+        return refuse(path, SpxSentence::translated(why));
     xsg::FileReplacement file(encoded);
     if (!file.open())
-        return refuse(path, file.getProblem());
+        return refuse(path, SpxSentence::translated(file.getProblem()));
     const SoMField* list = m_session.list();
     const std::uint32_t version = list->getChangeCount();
     const bool isWritten = writeRows(path, file, version);
@@ -167,7 +167,7 @@ bool TableFile::writeTo(const QString& path)
                         .arg(QFileInfo(path).fileName()));
     if (!isWritten && file.getProblem().empty())
         return false; // cancelled
-    return (isWritten && file.commit()) || refuse(path, file.getProblem());
+    return (isWritten && file.commit()) || refuse(path, SpxSentence::translated(file.getProblem()));
 }
 
 bool TableFile::writeRows(const QString& path, xsg::FileReplacement& file, std::uint32_t version)

@@ -33,7 +33,7 @@ public:
 
 private:
     bool fail(const QString& sentence);
-    bool refuse(const QString& path, const std::string& why);
+    bool refuse(const QString& path, const QString& why);
     bool writeRows(const QString& path, xsg::FileReplacement& file, std::uint32_t version);
 
     TableSession& m_session;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frames/FrameFormula.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <QRegularExpression>
@@ -180,7 +181,8 @@ void FrameFormula::restart(const std::vector<std::string>& columns)
         window.inner->m_isCompiled = false;
     }
     m_expression = SpxExpression(m_formula, settings);
-    m_problem = m_expression.isValid() ? QString() : QString::fromStdString(m_expression.getError().sentence);
+    m_problem =
+        m_expression.isValid() ? QString() : SpxSentence::translated(m_expression.getError().sentence);
 }
 
 // False where one of them does not hold.

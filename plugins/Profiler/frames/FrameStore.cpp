@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frames/FrameStore.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 
 #include <QCoreApplication>
@@ -176,7 +177,7 @@ QString FrameStore::startRecording(const QString& path, const QString& scene)
         m_timer.start(TakeMs, this);
     if (!isOpen)
         follow();
-    return isOpen ? QString() : QString::fromStdString(m_file.getProblem());
+    return isOpen ? QString() : SpxSentence::translated(m_file.getProblem());
 }
 
 void FrameStore::write(const SoFrameRecording& rows)
@@ -196,7 +197,7 @@ void FrameStore::write(const SoFrameRecording& rows)
     }
     m_file.close();
     emit failed(tr("The recording “%1” cannot be continued: %2. What was written so far can be opened.")
-                    .arg(m_path, QString::fromStdString(m_file.getProblem())));
+                    .arg(m_path, SpxSentence::translated(m_file.getProblem())));
 }
 
 void FrameStore::stopRecording()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "frames/RecordingFiles.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/frames/SoFrameCsv.h>
 #include <xsg/frames/SoFrameFile.h>
 #include <xsg/support/FileReplacement.h>
@@ -34,15 +35,15 @@ QString filters()
     return tr("Recordings of frames (*.xsgframes);;Comma-separated values (*.csv)");
 }
 
-bool readTable(const std::string& path, SoFrameRecording& recording, std::string& problem)
+bool readTable(const std::string& path, SoFrameRecording& recording, SbSentence& problem)
 {
     QFile file(QFile::decodeName(path.c_str()));
     if (xsg::isSpecialFile(path) || !file.open(QIODevice::ReadOnly)) {
-        problem = "it cannot be read";
+        problem = SbSentence("it cannot be read");
         return false;
     }
     if (file.size() > LargestTable) {
-        problem = "it has more than 256 MiB";
+        problem = SbSentence("it has more than 256 MiB");
         return false;
     }
     return SoFrameCsv::read(file.readAll().toStdString(), recording, problem);
@@ -69,20 +70,20 @@ QString RecordingFiles::askForOne(QWidget* parent)
 bool RecordingFiles::read(const QString& path, SoFrameRecording& recording, QString& problem)
 {
     const std::string bytes = QFile::encodeName(path).toStdString();
-    std::string reason;
+    SbSentence reason;
     const bool isRead =
         isTable(path) ? readTable(bytes, recording, reason) : SoFrameFile::read(bytes, recording, reason);
     recording.setAbout("title", QFileInfo(path).fileName().toStdString());
     if (!isRead)
         problem = tr("“%1” cannot be opened: %2. Choose a recording of frames.")
-                      .arg(path, QString::fromStdString(reason));
+                      .arg(path, SpxSentence::translated(reason));
     return isRead;
 }
 
 QString RecordingFiles::write(const QString& path, const SoFrameRecording& recording)
 {
     const std::string bytes = QFile::encodeName(path).toStdString();
-    std::string problem;
+    SbSentence problem;
     if (isTable(path)) {
         xsg::FileReplacement file(bytes);
         if (!file.open() || !file.write(SoFrameCsv::write(recording)) || !file.commit())
@@ -94,7 +95,7 @@ QString RecordingFiles::write(const QString& path, const SoFrameRecording& recor
     }
     return problem.empty() ? QString()
                            : tr("“%1” cannot be written: %2. Choose another place.")
-                                 .arg(path, QString::fromStdString(problem));
+                                 .arg(path, SpxSentence::translated(problem));
 }
 
 } // namespace profiler

@@ -329,7 +329,7 @@ TEST(Expression, EveryValidTextHasItsValue)
     for (const Case& each : Valid) {
         SCOPED_TRACE(each.text);
         const SpxExpression expression(each.text, settingsFor(each.quantity, each.unit));
-        ASSERT_TRUE(expression.isValid()) << expression.getError().sentence;
+        ASSERT_TRUE(expression.isValid()) << expression.getError().sentence.getText();
         const double value = expression.evaluate(Values);
         if (std::isnan(each.value))
             EXPECT_TRUE(std::isnan(value)) << value;
@@ -347,10 +347,11 @@ TEST(Expression, EveryOtherTextIsRefusedAtItsPlaceInOneSentence)
         const SpxExpression expression(each.text, settingsFor(each.quantity, 1));
         ASSERT_FALSE(expression.isValid()) << expression.evaluate(Values);
         const SpxExpressionError& error = expression.getError();
-        EXPECT_EQ(error.position, each.position) << error.sentence;
-        EXPECT_NE(error.sentence.find(each.sentence), std::string::npos) << error.sentence;
-        EXPECT_EQ(error.sentence.back(), '.') << error.sentence;
-        EXPECT_EQ(error.sentence.find(". "), std::string::npos) << error.sentence;
+        EXPECT_EQ(error.position, each.position) << error.sentence.getText();
+        EXPECT_NE(error.sentence.getText().find(each.sentence), std::string::npos)
+            << error.sentence.getText();
+        EXPECT_EQ(error.sentence.getText().back(), '.') << error.sentence.getText();
+        EXPECT_EQ(error.sentence.getText().find(". "), std::string::npos) << error.sentence.getText();
         EXPECT_TRUE(std::isnan(expression.evaluate(Values)));
     }
 }
@@ -370,7 +371,7 @@ TEST(Expression, WithoutAPresentValueNothingCanBeChanged)
 {
     const SpxExpression expression("+= 1");
     EXPECT_FALSE(expression.isValid());
-    EXPECT_NE(expression.getError().sentence.find("present value"), std::string::npos);
+    EXPECT_NE(expression.getError().sentence.getText().find("present value"), std::string::npos);
     EXPECT_FALSE(SpxExpression("x").isValid());
 }
 
@@ -378,7 +379,7 @@ TEST(Expression, LengthAndDepthAreLimited)
 {
     const std::string longest(SpxExpression::MaximumLength, '1');
     EXPECT_FALSE(SpxExpression(longest + "1").isValid());
-    EXPECT_NE(SpxExpression(longest + "1").getError().sentence.find("1000"), std::string::npos);
+    EXPECT_NE(SpxExpression(longest + "1").getError().sentence.getText().find("1000"), std::string::npos);
     EXPECT_TRUE(SpxExpression(std::string(SpxExpression::MaximumLength - 1, ' ') + "1").isValid());
     for (const char* opening : {"(", "-", "sqrt(", "2^", "1+(", "min(1,"}) {
         std::string text;
@@ -386,7 +387,8 @@ TEST(Expression, LengthAndDepthAreLimited)
             text += opening;
         const SpxExpression deep(text + "1");
         EXPECT_FALSE(deep.isValid()) << opening;
-        EXPECT_NE(deep.getError().sentence.find("deeply"), std::string::npos) << deep.getError().sentence;
+        EXPECT_NE(deep.getError().sentence.getText().find("deeply"), std::string::npos)
+            << deep.getError().sentence.getText();
     }
 }
 

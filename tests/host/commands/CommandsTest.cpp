@@ -317,8 +317,9 @@ TEST_F(Commands, MeasureCountsAsOthersDo)
     EXPECT_EQ(figures["Whole"].toObject()["unit"].toString(), "ms");
     EXPECT_EQ(figures["Uploads"].toObject()["median"].toDouble(), 0);
     SoFrameRecording kept;
-    std::string problem;
-    ASSERT_TRUE(SoFrameFile::read(folder.filePath("kept.xsgframes").toStdString(), kept, problem)) << problem;
+    SbSentence problem;
+    ASSERT_TRUE(SoFrameFile::read(folder.filePath("kept.xsgframes").toStdString(), kept, problem))
+        << problem.getText();
     EXPECT_EQ(kept.getNumFrames(), 3U);
     EXPECT_EQ(kept.getAbout("size"), "40x30");
 }

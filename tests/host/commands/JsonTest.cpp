@@ -43,11 +43,11 @@ private:
         setFields(object["fields"].toObject(), node);
         for (const QJsonValue& value : object["children"].toArray()) {
             const QJsonObject child = value.toObject();
-            std::string problem;
+            SbSentence problem;
             if (child.contains("same")) {
                 xsg::SceneLookup lookup(root.get());
                 SoNode* same = lookup.find(SoScenePath(bytes(child["same"]).str()), problem);
-                ASSERT_TRUE(same) << problem;
+                ASSERT_TRUE(same) << problem.getText();
                 node->asGroup()->addChild(same);
                 continue;
             }
@@ -65,9 +65,9 @@ private:
             EXPECT_EQ(state["type"].toString().toStdString(), field->getTypeId().getName().getString());
             if (state.contains("follows")) {
                 xsg::SceneLookup lookup(root.get());
-                std::string problem;
+                SbSentence problem;
                 SoField* source = lookup.findField(SoScenePath(bytes(state["follows"]).str()), problem);
-                ASSERT_TRUE(source) << problem;
+                ASSERT_TRUE(source) << problem.getText();
                 EXPECT_TRUE(field->connectFrom(source));
             }
             const bool isReference =
@@ -85,7 +85,7 @@ private:
     {
         std::vector<SoRef<SoNode>> nodes;
         for (const QString& path : paths.remove("[ ").remove(" ]").split(", ")) {
-            std::string problem;
+            SbSentence problem;
             xsg::SceneLookup lookup(root.get());
             nodes.emplace_back(path == "NULL" ? nullptr
                                               : lookup.find(SoScenePath(path.toStdString()), problem));

@@ -42,7 +42,7 @@ protected:
         std::vector<SoNode*> nodes;
         reader.setNodeListener([&](SoNode* node) { nodes.push_back(node); });
         const SoRef<SoNode> scene = reader.read();
-        EXPECT_TRUE(scene) << reader.getProblem();
+        EXPECT_TRUE(scene) << reader.getProblem().getText();
         if (!scene)
             return {};
         const int comment = text.lastIndexOf("# snapshot ");

@@ -28,10 +28,10 @@ std::string patchBetween(const std::string& before, const std::string& after)
 xsg::PatchResult apply(const std::string& lines, SoRef<SoNode>& scene)
 {
     xsg::SceneChanges changes;
-    std::string error;
+    SbSentence error;
     EXPECT_TRUE(
         xsg::PatchText::read(std::string(xsg::PatchText::FirstLine) + "\n" + lines, "p", changes, error))
-        << error;
+        << error.getText();
     return xsg::applyChanges(changes, scene);
 }
 
@@ -107,7 +107,7 @@ TEST(Patch, ListsWhatDoesNotFitAndAppliesTheRest)
         "line 8: insert /Cube/x: a Cube has no children.",
         "line 9: move /Cone: there is no Nowhere below the root.",
     };
-    EXPECT_EQ(result.misfits, misfits);
+    EXPECT_EQ(std::vector<std::string>(result.misfits.begin(), result.misfits.end()), misfits);
     EXPECT_EQ(SoSceneFile::writeText(scene.get()),
               "#Xsg V1.0 utf8\nGroup {\n    Cube {}\n    Sphere {\n        radius: 3\n    }\n}\n");
 }
@@ -127,7 +127,7 @@ TEST(Patch, NeverMakesAGroupItsOwnDescendant)
     SoRef<SoNode> scene = sceneOf("Group {\n Group \"a\" { Group \"b\" {} }\n}");
     const xsg::PatchResult result = apply("insert /a/b/a (0 -> 1) first from /a\n", scene);
     ASSERT_EQ(result.misfits.size(), 1U);
-    EXPECT_EQ(result.misfits.front(), "a cannot stand in b, which it holds.");
+    EXPECT_EQ(result.misfits.front().getText(), "a cannot stand in b, which it holds.");
 }
 
 TEST(Patch, IsRefusedInASentenceWithItsPlace)
@@ -161,17 +161,18 @@ TEST(Patch, IsRefusedInASentenceWithItsPlace)
                              "replace /a new Cube fields",
                              "remove /a (1 -> 0) now"}) {
         xsg::SceneChanges changes(1);
-        std::string error;
+        SbSentence sentence;
         const std::string text = std::string(xsg::PatchText::FirstLine) + "\n# a remark\n" + line + "\n";
-        EXPECT_FALSE(xsg::PatchText::read(text, "p.xsgpatch", changes, error)) << line;
+        EXPECT_FALSE(xsg::PatchText::read(text, "p.xsgpatch", changes, sentence)) << line;
+        const std::string& error = sentence.getText();
         EXPECT_EQ(error.find("p.xsgpatch:3: "), 0U) << error;
         EXPECT_NE(error.find(" expected"), std::string::npos) << error;
         EXPECT_EQ(changes.size(), 1U) << "what was there stays";
     }
     xsg::SceneChanges changes;
-    std::string error;
+    SbSentence error;
     EXPECT_FALSE(xsg::PatchText::read("#Xsg V1.0 utf8\n", "p", changes, error));
-    EXPECT_EQ(error, "p:1: this is no patch: its first line must be \"#XsgPatch V1.0 utf8\".");
+    EXPECT_EQ(error.getText(), "p:1: this is no patch: its first line must be \"#XsgPatch V1.0 utf8\".");
     EXPECT_FALSE(xsg::PatchText::read("", "p", changes, error));
 }
 

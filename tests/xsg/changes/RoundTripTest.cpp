@@ -25,8 +25,9 @@ protected:
     {
         const std::string text = xsg::PatchText::write(changes);
         xsg::SceneChanges result;
-        std::string error;
-        EXPECT_TRUE(xsg::PatchText::read(text, "p.xsgpatch", result, error)) << error << "\n" << text;
+        SbSentence error;
+        EXPECT_TRUE(xsg::PatchText::read(text, "p.xsgpatch", result, error)) << error.getText() << "\n"
+                                                                             << text;
         EXPECT_EQ(xsg::PatchText::write(result), text);
         return result;
     }
@@ -40,8 +41,8 @@ protected:
         const xsg::PatchResult once = xsg::applyChanges(changes, root);
         const auto said = [&](const xsg::PatchResult& result) {
             std::string text = about + "\n" + xsg::PatchText::write(changes);
-            for (const std::string& misfit : result.misfits)
-                text += misfit + "\n";
+            for (const SbSentence& misfit : result.misfits)
+                text += misfit.getText() + "\n";
             return text;
         };
         ASSERT_EQ(SoSceneFile::writeText(root.get()), wanted) << said(once) << oldText;

@@ -47,7 +47,7 @@ SoRef<SoNode> readInPieces(const std::string& text, std::size_t most, std::strin
     }
     if (problem)
         *problem = std::to_string(reader.getLine()) + ':' + std::to_string(reader.getColumn()) + ' ' +
-                   reader.getProblem();
+                   reader.getProblem().getText();
     return reader.takeScene();
 }
 
@@ -106,7 +106,7 @@ TEST(ScenePieces, HaveTheErrorsOfTheWhole)
         std::string problem;
         EXPECT_FALSE(readInPieces(cut, 3, &problem));
         EXPECT_EQ(problem, std::to_string(whole.getLine()) + ':' + std::to_string(whole.getColumn()) + ' ' +
-                               whole.getProblem());
+                               whole.getProblem().getText());
     }
 }
 
@@ -151,7 +151,8 @@ TEST(ScenePieces, NothingIsReadBehindTheFirstError)
         xsg::SceneReading reading(path);
         EXPECT_TRUE(reading.advance(xsg::SceneReader::Clock::time_point::max()));
         EXPECT_FALSE(reading.takeScene());
-        EXPECT_NE(reading.getError().find("a byte 0 stands here"), std::string::npos) << reading.getError();
+        EXPECT_NE(reading.getError().getText().find("a byte 0 stands here"), std::string::npos)
+            << reading.getError().getText();
         EXPECT_LT(reading.getProgress(), 0.001) << start;
     }
     SoReadError::setHandlerCallback(SoError::defaultHandler, nullptr);
@@ -178,7 +179,8 @@ TEST(ScenePieces, EndlessBlanksAndCommentsAreGivenBack)
         while (!reader.advance(NoTime))
             ++turns;
         EXPECT_GT(turns, 60) << filler;
-        EXPECT_EQ(reader.getProblem(), "the file has no node: a type such as Separator was expected");
+        EXPECT_EQ(reader.getProblem().getText(),
+                  "the file has no node: a type such as Separator was expected");
         EXPECT_EQ(reader.getLine(), 2);
     }
 }
@@ -379,7 +381,7 @@ TEST_F(SceneRecords, CompleteASceneThatChangedWhileItWasWritten)
         std::vector<SoNode*> read;
         reader.setNodeListener([&](SoNode* node) { read.push_back(node); });
         const SoRef<SoNode> scene = reader.read();
-        ASSERT_TRUE(scene) << reader.getProblem() << "\n" << base;
+        ASSERT_TRUE(scene) << reader.getProblem().getText() << "\n" << base;
         ASSERT_EQ(records.apply(read), "");
         const std::string is = settled(scene.get());
         forgetReferences(scene.get());

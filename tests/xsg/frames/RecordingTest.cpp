@@ -74,7 +74,7 @@ protected:
     SoFrameRecording read()
     {
         SoFrameRecording recording;
-        EXPECT_TRUE(SoFrameFile::read(path, recording, problem)) << problem;
+        EXPECT_TRUE(SoFrameFile::read(path, recording, problem)) << problem.getText();
         return recording;
     }
     std::string bytes() const
@@ -83,7 +83,7 @@ protected:
         return {std::istreambuf_iterator<char>(file), {}};
     }
     std::string path;
-    std::string problem;
+    SbSentence problem;
 
 private:
     std::string m_folder;
@@ -95,7 +95,7 @@ TEST_F(RecordingFile, ReadsBackWhatWasWritten)
 {
     const SoFrameRecording recording = makeRecording(1000);
     SoFrameFile file;
-    ASSERT_TRUE(file.open(path, withoutRows(recording))) << file.getProblem();
+    ASSERT_TRUE(file.open(path, withoutRows(recording))) << file.getProblem().getText();
     ASSERT_TRUE(file.write(recording));
     file.close();
     expectSame(recording, read());
@@ -172,7 +172,7 @@ TEST_F(RecordingFile, ReplacesNoDeviceAndReadsNone)
 TEST(RecordingBytes, RefusesWhatIsNoRecording)
 {
     SoFrameRecording recording;
-    std::string problem;
+    SbSentence problem;
     EXPECT_FALSE(SoFrameFile::parse("", recording, problem));
     EXPECT_FALSE(SoFrameFile::parse("#Xsg frames V1\n", recording, problem));
     EXPECT_EQ(problem, "its head is damaged");
@@ -192,8 +192,8 @@ TEST(RecordingBytes, AreThoseOfTheFile)
 {
     const SoFrameRecording recording = makeRecording(20);
     SoFrameRecording again;
-    std::string problem;
-    ASSERT_TRUE(SoFrameFile::parse(SoFrameFile::format(recording), again, problem)) << problem;
+    SbSentence problem;
+    ASSERT_TRUE(SoFrameFile::parse(SoFrameFile::format(recording), again, problem)) << problem.getText();
     expectSame(recording, again);
 }
 
@@ -201,8 +201,8 @@ TEST(RecordingCsv, ReadsBackWhatWasWritten)
 {
     const SoFrameRecording recording = makeRecording(50);
     SoFrameRecording again;
-    std::string problem;
-    ASSERT_TRUE(SoFrameCsv::read(SoFrameCsv::write(recording), again, problem)) << problem;
+    SbSentence problem;
+    ASSERT_TRUE(SoFrameCsv::read(SoFrameCsv::write(recording), again, problem)) << problem.getText();
     expectSame(recording, again);
 }
 
@@ -217,7 +217,7 @@ TEST(RecordingCsv, HasOneNameLineAndEmptyCellsForWhatIsNotKnown)
 TEST(RecordingCsv, SaysWhichLineDoesNotFit)
 {
     SoFrameRecording recording;
-    std::string problem;
+    SbSentence problem;
     EXPECT_FALSE(SoFrameCsv::read("a,b\r\n1,2\r\n3\r\n", recording, problem));
     EXPECT_EQ(problem, "line 3 does not fit the names of the columns");
     EXPECT_FALSE(SoFrameCsv::read("a\n1.5\n", recording, problem));

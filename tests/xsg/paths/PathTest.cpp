@@ -50,7 +50,7 @@ TEST(Path, IsReadAndWritten)
     };
     for (const Row& row : rows) {
         const SoScenePath path(row.text);
-        ASSERT_TRUE(path.isValid()) << path.getError();
+        ASSERT_TRUE(path.isValid()) << path.getError().getText();
         EXPECT_EQ(path.toText(), row.written ? row.written : row.text);
         EXPECT_EQ(path.getSteps().size(), row.steps) << row.text;
         EXPECT_EQ(path.getField(), row.field) << row.text;
@@ -66,8 +66,9 @@ TEST(Path, IsRefusedInASentence)
                              "/\"\"",  "/a]",  "/a=", "/a[99999999999]", ".b",    "a,b",  "/a!"}) {
         const SoScenePath path(text);
         EXPECT_FALSE(path.isValid()) << text;
-        EXPECT_EQ(path.getError().find(std::string("\"") + text + "\" is no path: "), 0U) << path.getError();
-        EXPECT_EQ(path.getError().back(), '.') << path.getError();
+        EXPECT_EQ(path.getError().getText().find(std::string("\"") + text + "\" is no path: "), 0U)
+            << path.getError().getText();
+        EXPECT_EQ(path.getError().getText().back(), '.') << path.getError().getText();
     }
 }
 
@@ -76,7 +77,7 @@ TEST(Path, FindsWhatItNames)
     const auto scene = sceneOf("Separator \"Lamp\" {\n Cube {}\n Cube \"Cube\" {}\n Sphere \"Bulb\" @1 {}\n"
                                "Separator \"a/b\" {\n @1\n Cube {}\n}\n}\n");
     xsg::SceneLookup lookup(scene.get());
-    std::string problem;
+    SbSentence problem;
     SoGroup* root = scene->asGroup();
     const auto find = [&](const char* text) { return lookup.find(SoScenePath(text), problem); };
     EXPECT_EQ(find("/"), root);
@@ -102,7 +103,7 @@ TEST(Path, FindsNamesInLatin1ByWhatIsTypedInUtf8)
 {
     const auto scene = sceneOf("Separator {\n Separator \"T\xFCr\" { Cube \"T\xC3\xBCr\" {} }\n}\n");
     xsg::SceneLookup lookup(scene.get());
-    std::string problem;
+    SbSentence problem;
     SoNode* door = scene->asGroup()->getChild(0);
     EXPECT_EQ(lookup.find(SoScenePath("/T\xC3\xBCr"), problem), door);
     EXPECT_EQ(lookup.find(SoScenePath("/T\xFCr/T\xC3\xBCr"), problem), door->asGroup()->getChild(0));
@@ -118,12 +119,12 @@ TEST(Path, OfEachNodeOfRandomScenesFindsIt)
         const SoRef<SoNode> root = scenes.make(40);
         xsg::NodePlaces places(root.get());
         xsg::SceneLookup lookup(root.get());
-        std::string problem;
+        SbSentence problem;
         for (SoNode* node : places.getNodes()) {
             const SoScenePath path = places.pathOf(*node);
             const SoScenePath again(path.toText());
-            ASSERT_TRUE(again == path) << path.toText() << " " << again.getError();
-            ASSERT_EQ(lookup.find(again, problem), node) << path.toText() << ": " << problem;
+            ASSERT_TRUE(again == path) << path.toText() << " " << again.getError().getText();
+            ASSERT_EQ(lookup.find(again, problem), node) << path.toText() << ": " << problem.getText();
         }
         RandomScene::forgetReferences(root.get());
     }

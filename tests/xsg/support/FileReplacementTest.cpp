@@ -27,7 +27,7 @@ using Names = std::vector<std::string>;
 std::string replace(const std::string& path, const std::string& text)
 {
     FileReplacement file(path);
-    return file.open() && file.write(text) && file.commit() ? std::string() : file.getProblem();
+    return file.open() && file.write(text) && file.commit() ? std::string() : file.getProblem().getText();
 }
 
 class Replacement : public InTemporaryFolder

@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: MIT
+// What libraries without Qt say of formulas, queries, paths, scenes, patches and files is translated: a
+// sentence that is not in the catalogue stays in English, and fails here.
+#include "language/Languages.h"
+#include "support/OutputFile.h"
+
+#include <scopix/SpxSentence.h>
+#include <scopix/editing/expression/SpxExpression.h>
+#include <xsg/changes/PatchApplication.h>
+#include <xsg/errors/SoReadError.h>
+#include <xsg/files/SceneReader.h>
+#include <xsg/files/SceneReading.h>
+#include <xsg/files/SoSceneFile.h>
+#include <xsg/frames/SoFrameCsv.h>
+#include <xsg/frames/SoFrameFile.h>
+#include <xsg/paths/ChildTable.h>
+#include <xsg/query/SoQuery.h>
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <set>
+
+using namespace scopix;
+
+namespace
+{
+
+const char* const Formulas[] = {"",
+                                "1,5*2",
+                                "1+",
+                                "*2",
+                                "1 2",
+                                "(1",
+                                "1)",
+                                "foo",
+                                "foo(1)",
+                                "sqrt",
+                                "sqrt()",
+                                "clamp(1)",
+                                "min()",
+                                "round(1,2,3)",
+                                "1 ; 2",
+                                "\"x",
+                                "1e999",
+                                "90deg",
+                                "5cm",
+                                "2s",
+                                "sin(5cm)",
+                                "1cm*1cm",
+                                "1deg*1deg",
+                                "1s*1s",
+                                "2^1cm",
+                                "1cm cm",
+                                "1cm+1cm*1cm",
+                                "max(1cm,1cm*1cm)",
+                                "exp(1cm)",
+                                "sin(1deg*1deg)",
+                                "+= 1",
+                                "x *= 2cm"};
+const char* const Queries[] = {"transparency>", "filename=", "name:",   "translation.q>1",
+                               "a!b",           "-",         "/Switch["};
+const char* const Paths[] = {"/a/", "//", "/a[x]", "/\"a", "/a.", "/a.\"\"", "/a b", "a]", "/a!"};
+const char* const Scenes[] = {"no scene",
+                              "",
+                              "Cube {",
+                              "Cube\n",
+                              "Cube {} Cube {}",
+                              "}",
+                              ")",
+                              "Separator { ) }",
+                              "width: 1",
+                              "Cube { Cube {} }",
+                              "Cube @ {}",
+                              "Cube { height 1 }",
+                              "@a",
+                              "Separator { Cube @a {} Cube @a {} }",
+                              "Cube { nothing: 1\n}",
+                              "Cube { width: wide\n}",
+                              "Cube { width: 1 height: 2\n}",
+                              "Cube { width: 1 !unheard }",
+                              "Cube { width: <- 5 }",
+                              "Cube { width: <- @a.width }",
+                              "Material { diffuseColor: [ 1\n}",
+                              "Cube \"a {}",
+                              "Texture2 { filename: \"a\n}",
+                              "Cube { width: 1 <- @a.filename } Cube {}",
+                              "Separator { Cube @a { width: 1 <- @a.width\n} }"};
+const char* const Patches[] = {"nonsense",
+                               "set",
+                               "set /a",
+                               "set a.b 1",
+                               "set /a.b",
+                               "set /a.b [ 1",
+                               "set /a.b \"x",
+                               "set /a.b 1 <- /c",
+                               "set /a.b 1 <- /c.d[1]",
+                               "set /a.b 1 }",
+                               "set /a.b[1] 1 !ignored",
+                               "set /a.b !text x",
+                               "name /a",
+                               "name /a \"b",
+                               "remove /a",
+                               "remove / (1 -> 0)",
+                               "remove /a (1 - 0)",
+                               "remove /a (-1 -> 0)",
+                               "insert /a (0 -> 1)",
+                               "insert /a (0 -> 1) first",
+                               "insert /a (0 -> 1) first new",
+                               "insert /a (0 -> 1) after ]",
+                               "insert /a.b (0 -> 1) first new Cube",
+                               "move /a (0 -> 1) first new Cube",
+                               "replace /a from /b",
+                               "replace /a new Cube fields",
+                               "order /a",
+                               "remove /a (1 -> 0) now"};
+// Of the scene below.
+const char* const Misfits[] = {"set /Cone.height 3",
+                               "set /s.radius 3",
+                               "set /Cube.radius 1",
+                               "set /Cube.width wide",
+                               "set /Cube.width[3] 1",
+                               "set /Lines.points[7] 1 1 1",
+                               "set /Lines.points[0] x",
+                               "set /Cube.width 1 <- /Cube.filename",
+                               "set /Cube.width 1 <- /Cube.width",
+                               "set /Animation.nothing !default",
+                               "set /Track.target /Cube extra",
+                               "remove /Cube (3 -> 2)",
+                               "insert /Cube/x (0 -> 1) first new Cube \"x\"",
+                               "move /Nothing (0 -> 1) first from /Nowhere",
+                               "order /Cone first",
+                               "order /Cube after Cone",
+                               "insert /g/h/g (0 -> 1) first from /g"};
+
+class Sentences : public testing::Test
+{
+protected:
+    Sentences()
+    {
+        qputenv("SCOPIX_LANGUAGE", "qps");
+        Languages::begin();
+        qunsetenv("SCOPIX_LANGUAGE");
+        SoReadError::setHandlerCallback(nullptr, nullptr);
+    }
+    ~Sentences() override
+    {
+        SoReadError::setHandlerCallback(SoError::defaultHandler, nullptr);
+        delete Languages::instance();
+    }
+
+    static bool hasWords(const QString& text)
+    {
+        static const QRegularExpression letters(QStringLiteral("\\p{L}"));
+        return QString(text).remove(QRegularExpression(QStringLiteral("%\\d"))).contains(letters);
+    }
+    // The sentence and whatever sentences stand in it.
+    void expectTranslated(const SbSentence& sentence)
+    {
+        if (!sentence.getSource())
+            return;
+        const QString source = QString::fromUtf8(sentence.getSource());
+        const QString shown = QCoreApplication::translate("Sentence", sentence.getSource());
+        EXPECT_TRUE(!hasWords(source) || shown.startsWith('[')) << sentence.getSource();
+        m_met.insert(sentence.getSource());
+        for (const SbSentence& each : sentence.getArguments())
+            expectTranslated(each);
+    }
+    // One that is there, and says something.
+    void expectSaid(const SbSentence& sentence, const std::string& of)
+    {
+        EXPECT_TRUE(sentence.getSource()) << "“" << of << "” gives: " << sentence.getText();
+        expectTranslated(sentence);
+    }
+    static QByteArray contentOf(const QString& path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+        return file.readAll();
+    }
+    template <class Act>
+    static void forCorpus(const char* of, const Act& act)
+    {
+        const QDir folder(QStringLiteral(SCOPIX_SOURCE_DIR "/fuzz/corpus/") + of);
+        const QStringList names = folder.entryList(QDir::Files);
+        EXPECT_FALSE(names.isEmpty()) << of;
+        for (const QString& name : names) {
+            const QByteArray content = contentOf(folder.filePath(name));
+            act(std::string(content.constData(), std::size_t(content.size())));
+        }
+    }
+    std::size_t met() const { return m_met.size(); }
+
+private:
+    std::set<std::string> m_met;
+};
+
+SoRef<SoNode> someScene()
+{
+    std::string error;
+    SoRef<SoNode> scene = SoSceneFile::readText(
+        "#Xsg V1.0 utf8\nGroup { Cube {} Sphere \"s\" {} Group \"g\" { Group \"h\" {} }\n"
+        " Points \"Lines\" { points: [ 0 0 0 ]\n} Track {} Animation {} }",
+        "scene", error);
+    EXPECT_TRUE(scene) << error;
+    return scene;
+}
+
+} // namespace
+
+TEST_F(Sentences, OfFormulasAreTranslated)
+{
+    const auto expect = [this](const std::string& text) {
+        for (const auto quantity :
+             {SpxQuantity::Number, SpxQuantity::Angle, SpxQuantity::Length, SpxQuantity::Time}) {
+            SpxExpressionSettings settings;
+            settings.quantity = quantity;
+            expectTranslated(SpxExpression(text, settings).getError().sentence);
+            settings.variables = {"x"};
+            expectTranslated(SpxExpression(text, settings).getError().sentence);
+        }
+    };
+    for (const char* each : Formulas)
+        expect(each);
+    expect(std::string(SpxExpression::MaximumLength + 1, '1'));
+    expect(std::string(150, '('));
+    forCorpus("expression", expect);
+    EXPECT_GE(met(), 30U);
+}
+
+TEST_F(Sentences, OfQueriesAndPathsAreTranslated)
+{
+    for (const char* each : Queries)
+        expectSaid(SoQuery(each).getError(), each);
+    for (const char* each : Paths)
+        expectSaid(SoScenePath(each).getError(), each);
+    forCorpus("path", [this](const std::string& text) { expectTranslated(SoScenePath(text).getError()); });
+    const SoRef<SoNode> scene = someScene();
+    xsg::SceneLookup lookup(scene.get());
+    for (const char* each : {"/Cone", "/g/Cone", "/Group", "Group", "Nothing", "/Cube.radius"}) {
+        SbSentence problem;
+        if (lookup.find(SoScenePath(each).withoutField(), problem) && problem.empty())
+            lookup.findField(SoScenePath(each), problem);
+        expectSaid(problem, each);
+    }
+    EXPECT_GE(met(), 20U);
+}
+
+TEST_F(Sentences, OfScenesAreTranslated)
+{
+    const auto errorOf = [](const std::string& text) {
+        xsg::SceneReader reader(text);
+        return reader.read() ? SbSentence() : reader.getProblem();
+    };
+    expectSaid(errorOf(Scenes[0]), Scenes[0]);
+    for (const char* each : Scenes)
+        expectTranslated(errorOf(std::string(SoSceneFile::FirstLine) + "\n" + each));
+    forCorpus("scene_file", [&](const std::string& text) { expectTranslated(errorOf(text)); });
+    for (const char* path : {"/dev/zero", "/nowhere/at/all.xsg", SCOPIX_SOURCE_DIR "/README.md"}) {
+        xsg::SceneReading reading(path);
+        reading.advance(xsg::SceneReader::Clock::time_point::max());
+        expectSaid(reading.getError(), path);
+    }
+    EXPECT_GE(met(), 26U);
+}
+
+TEST_F(Sentences, OfPatchesAreTranslated)
+{
+    const auto expect = [this](const std::string& text) {
+        xsg::SceneChanges changes;
+        SbSentence error;
+        xsg::PatchText::read(text, "a.xsgpatch", changes, error);
+        expectTranslated(error);
+        SoRef<SoNode> scene = someScene();
+        for (const SbSentence& each : xsg::applyChanges(changes, scene).misfits)
+            expectTranslated(each);
+        return error.empty();
+    };
+    const std::string head = std::string(xsg::PatchText::FirstLine) + "\n";
+    for (const char* each : Patches)
+        EXPECT_FALSE(expect(head + each + "\n")) << each;
+    for (const char* each : Misfits)
+        EXPECT_TRUE(expect(head + each + "\n")) << each;
+    EXPECT_FALSE(expect("no patch"));
+    forCorpus("patch", [&](const std::string& text) { expect(head + text); });
+    EXPECT_GE(met(), 45U);
+}
+
+TEST_F(Sentences, OfOtherFilesAreTranslated)
+{
+    SoFrameRecording recording;
+    SbSentence problem;
+    for (const char* path : {"/dev/zero", "/nowhere/at/all", SCOPIX_SOURCE_DIR "/README.md"}) {
+        EXPECT_FALSE(SoFrameFile::read(path, recording, problem));
+        expectSaid(problem, path);
+    }
+    for (const char* text : {"a,b\r\n1,2\r\n3\r\n", ""}) {
+        EXPECT_FALSE(SoFrameCsv::read(text, recording, problem));
+        expectSaid(problem, text);
+    }
+    for (const char* path : {"/dev/null", "/"})
+        EXPECT_TRUE(replaceFile(QLatin1String(path), {}).startsWith('[')) << path;
+}
+
+TEST_F(Sentences, AreWholeInGerman)
+{
+    Languages::instance()->speak("de");
+    SpxExpressionSettings settings;
+    settings.quantity = SpxQuantity::Angle;
+    EXPECT_EQ(SpxSentence::translated(SpxExpression("5cm", settings).getError().sentence),
+              "Mit „cm“ ist eine Länge gemeint, hier ist aber ein Winkel verlangt.");
+    EXPECT_EQ(
+        SpxSentence::translated(SoQuery("/a[x]").getError()),
+        "\"/a[x]\" ist kein Pfad: nach \"[\" wurden eine Nummer, von 0 an gezählt, und \"]\" erwartet.");
+    xsg::SceneChanges changes;
+    SbSentence error;
+    EXPECT_FALSE(xsg::PatchText::read(std::string(xsg::PatchText::FirstLine) + "\nset a.b 1\n", "a.xsgpatch",
+                                      changes, error));
+    EXPECT_EQ(SpxSentence::translated(error),
+              "a.xsgpatch:2: statt \"a.b 1\" wurde ein Pfad, der mit \"/\" beginnt, erwartet.");
+    EXPECT_EQ(error.getText(),
+              "a.xsgpatch:2: a path, which starts with \"/\", was expected instead of \"a.b 1\".");
+}
