@@ -63,10 +63,10 @@ void FileComparison::update()
         compareAgain();
 }
 
-void FileComparison::compareAgain()
+void FileComparison::compareAgain(const std::function<void(double)>& goOn)
 {
     const qint64 before = computedMs();
-    m_changes = xsg::compareScenes(m_scene.get(), m_other.get());
+    m_changes = xsg::compareScenes(m_scene.get(), m_other.get(), goOn);
     m_isSlow = computedMs() - before > QuickMs;
     m_isStale = false;
     ++m_version;

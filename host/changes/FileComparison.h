@@ -5,6 +5,7 @@
 
 #include <xsg/paths/ChildTable.h>
 
+#include <functional>
 #include <map>
 
 namespace scopix
@@ -23,7 +24,8 @@ public:
 
     /// The scene has been edited since.
     void noteEdit();
-    void compareAgain();
+    /// `goOn` as of xsg::compareScenes(); what it throws leaves all as it was.
+    void compareAgain(const std::function<void(double)>& goOn = {});
     bool isStale() const { return m_isStale; }
 
     void update() override;

@@ -53,18 +53,18 @@ std::vector<SoRef<SoNode>> takeChildren(SoNode& wrapper)
 
 } // namespace
 
-std::string writeBranches(const std::vector<SoNode*>& nodes)
+std::string writeBranches(const std::vector<SoNode*>& nodes, const std::function<void(double)>& goOn)
 {
     if (nodes.size() == 1)
-        return SoSceneFile::writeText(nodes.front());
+        return SoSceneFile::writeText(nodes.front(), goOn);
     const SoRef<SoGroup> group(new SoGroup);
     for (SoNode* node : nodes)
         group->addChild(node);
-    std::string text = SoSceneFile::writeText(group.get());
+    std::string text = SoSceneFile::writeText(group.get(), goOn);
     return text.insert(firstLine().size(), GroupNote);
 }
 
-BranchReading readBranches(std::string_view given)
+BranchReading readBranches(std::string_view given, const std::function<void(double)>& goOn)
 {
     const std::string_view start = trimmed(given);
     if (start.empty())
@@ -74,7 +74,7 @@ BranchReading readBranches(std::string_view given)
         isFile ? std::string(start)
                : firstLine() + std::string(GroupNote) + "Group {\n" + std::string(start) + "\n}\n";
     xsg::SceneReader reader(text);
-    const SoRef<SoNode> root = reader.read();
+    const SoRef<SoNode> root = reader.read(goOn);
     if (!root)
         return {{},
                 QCoreApplication::translate("Structure", "The text holds no nodes that can be pasted: %1")

@@ -7,6 +7,7 @@
 #include <xsg/files/BranchCopy.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/groups/SoSwitch.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <QCoreApplication>
 
@@ -112,6 +113,26 @@ Paths childTargets(const Paths& paths, Act& act)
     act = refusedRoot(found);
     return {};
 }
+
+// Copies one branch of several after the other.
+class Copying
+{
+public:
+    Copying(const Paths& all, const GoOn& goOn)
+        : m_count(all.size())
+        , m_goOn(goOn)
+    {
+    }
+    SoRef<SoNode> copy(SoNode* branch)
+    {
+        return xsg::copyBranch(branch, xsg::partOf(m_goOn, m_index++, m_count));
+    }
+
+private:
+    const int m_count;
+    const GoOn& m_goOn;
+    int m_index = 0;
+};
 
 // A place that two paths lead to, since a group above is shared, is acted on once.
 class Once
@@ -240,17 +261,18 @@ Act remove(const Paths& paths, Deed deed)
     return done(plan, nameOf(deed, all), {neighbour(all)});
 }
 
-Act duplicate(const Paths& paths)
+Act duplicate(const Paths& paths, const GoOn& goOn)
 {
     Act act;
     const Paths all = childTargets(paths, act);
     StructurePlan plan;
     Paths copies;
     Once once;
+    Copying copying(all, goOn);
     for (const SoPath& path : all) {
         if (!once(path))
             continue;
-        const SoRef<SoNode> copy = xsg::copyBranch(path.getTail());
+        const SoRef<SoNode> copy = copying.copy(path.getTail());
         if (!copy)
             return refused(
                 tr("“%1” cannot be duplicated: something in it is of a kind that cannot be copied.")
@@ -335,20 +357,21 @@ Act insertAbove(const SoPath& path, SoNode* node)
     return insertAbove(Paths{path}, [&kept] { return kept; });
 }
 
-Act makeUnique(const Paths& paths)
+Act makeUnique(const Paths& paths, const GoOn& goOn)
 {
     Act act;
     const Paths all = childTargets(paths, act);
     StructurePlan plan;
     Paths copies;
     Once once;
+    Copying copying(all, goOn);
     for (const SoPath& path : all) {
         SoNode* node = path.getTail();
         if (countPlaces(node, path.getHead(), 2) < 2)
             return refused(tr("“%1” stands in one place only, and is its own already.").arg(nodeText(*node)));
         if (!once(path))
             continue;
-        const SoRef<SoNode> copy = xsg::copyBranch(node);
+        const SoRef<SoNode> copy = copying.copy(node);
         if (!copy)
             return refused(
                 tr("“%1” cannot be made unique: something in it is of a kind that cannot be copied.")
@@ -399,7 +422,7 @@ Act rename(const SoPath& path, const QString& name)
     return plan.isEmpty() ? Act() : done(plan, tr("Rename “%1” to “%2”").arg(nodeText(node), wanted), {path});
 }
 
-Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer how)
+Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer how, const GoOn& goOn)
 {
     Act act;
     const Paths all = how == Transfer::Move ? childTargets(paths, act) : targets(paths, act);
@@ -417,11 +440,12 @@ Act transfer(const Paths& paths, const SoPath& groupPath, int index, Transfer ho
     StructurePlan plan;
     int place = index < 0 ? group->getNumChildren() : std::min(index, group->getNumChildren());
     Once once;
+    Copying copying(all, goOn);
     std::vector<SoRef<SoNode>> moved;
     for (const SoPath& path : all) {
         if (how != Transfer::Copy && !once(path))
             continue;
-        moved.push_back(how == Transfer::Copy ? xsg::copyBranch(path.getTail()) : path.getTail());
+        moved.push_back(how == Transfer::Copy ? copying.copy(path.getTail()) : path.getTail());
         if (!moved.back())
             return refused(tr("“%1” cannot be copied: something in it is of a kind that cannot be copied.")
                                .arg(nodeText(*path.getTail())));

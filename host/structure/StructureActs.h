@@ -31,9 +31,13 @@ enum class Deed { Delete, Cut, Duplicate, Paste, Ungroup, Group, MakeUnique, Mov
 /// What the step is called that does it to these: "Delete “Sea”", "Delete 3 Nodes".
 QString nameOf(Deed deed, const Paths& paths);
 
+/// Is called with the part that is done, from 0 to 1, each few milliseconds while large branches are copied;
+/// what it throws is passed on. The scene must stay as it is meanwhile.
+using GoOn = std::function<void(double)>;
+
 /// All take paths that start at the root of the scene; what stands below another one of them goes with it.
 Act remove(const Paths& paths, Deed deed = Deed::Delete);
-Act duplicate(const Paths& paths);
+Act duplicate(const Paths& paths, const GoOn& goOn = {});
 /// What they hold takes their places.
 Act ungroup(const Paths& paths);
 /// Into a new group, where the first of them stands.
@@ -43,14 +47,14 @@ Act group(const Paths& paths, const MakeNode& makeGroup);
 Act insertAbove(const Paths& paths, const MakeNode& makeNode);
 Act insertAbove(const SoPath& path, SoNode* node);
 /// Gives each a copy of its own, where its node stands in several places.
-Act makeUnique(const Paths& paths);
+Act makeUnique(const Paths& paths, const GoOn& goOn = {});
 /// Into the group at the path, or behind the node there.
 Act add(const SoPath& path, const std::vector<SoRef<SoNode>>& nodes, const QString& name);
 Act rename(const SoPath& path, const QString& name);
 
 enum class Transfer { Move, Copy, Share };
 /// To this place among the children of the group at the end of the path; -1: behind them all.
-Act transfer(const Paths& paths, const SoPath& group, int index, Transfer how);
+Act transfer(const Paths& paths, const SoPath& group, int index, Transfer how, const GoOn& goOn = {});
 /// Among their siblings: by one place up (-1) or down (1).
 Act reorder(const Paths& paths, int by);
 /// Each in a Switch that shows nothing, wherever it stands.

@@ -8,6 +8,7 @@
 #include <functional>
 
 class QWidget;
+class SoNode;
 
 namespace scopix
 {
@@ -31,6 +32,14 @@ public:
 
     /// False where the user cancelled it. Without a window nobody is asked.
     static bool run(QWidget* window, const QString& what, const std::function<void()>& work);
+    /// The same for work that needs the scene to stand still: no input, timer or socket but the dialog's own
+    /// is served meanwhile. Where something else changes the scene all the same, as a call that was posted
+    /// may, the work starts again from its beginning, and nothing is served any more.
+    static bool runStill(QWidget* window, const QString& what, SoNode* scene,
+                         const std::function<void()>& work);
+
+    /// How long the user waits before the dialog comes, and the work until it looks at events again.
+    static void setPatience(int dialogMs, int eachMs);
 
     /// `part`: how much of it is done, from 0 to 1; negative where nobody knows.
     static void goOn(double part = -1);
@@ -41,6 +50,7 @@ private:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
+    void serve();
     void look(double part);
     void openDialog();
 
@@ -49,6 +59,7 @@ private:
     QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sinceLook;
     QPointer<ProgressDialog> m_dialog;
+    const SoNode* m_still = nullptr; // the scene that must not change
 };
 
 } // namespace scopix

@@ -13,6 +13,7 @@
 #include <scopix/SpxSentence.h>
 #include <xsg/files/BranchCopy.h>
 #include <xsg/files/SoSceneFile.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <QFile>
 #include <QFileDialog>
@@ -72,30 +73,35 @@ void BranchFiles::askAndSave()
 
 bool BranchFiles::save(SoNode* branch, const QString& path)
 {
-    const QString reason = reasonAgainstWriting(path, {SceneDocument::sceneEnding()});
-    // A copy, whose names of pictures can be those that lead to them from there.
-    const SoRef<SoNode> copy = reason.isEmpty() ? xsg::copyBranch(branch) : SoRef<SoNode>();
-    if (!copy) {
-        m_notifier.error(
-            tr("The branch “%1” cannot be written to “%2”: %3.")
-                .arg(nodeText(*branch), path,
-                     reason.isEmpty() ? tr("something in it is of a kind that cannot be copied") : reason));
-        return false;
-    }
-    movePictures(copy.get(), QFileInfo(path).absolutePath());
-    SbSentence error;
-    bool isWritten = false;
-    const bool isDone = LongWork::run(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), [&] {
-        isWritten = SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error,
-                                       [](double part) { LongWork::goOn(part); });
-    });
+    QString problem;
+    const bool isDone = LongWork::runStill(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()),
+                                           branch, [&] { problem = write(branch, path); });
     if (!isDone)
         m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
-    else if (isWritten)
+    else if (problem.isEmpty())
         m_notifier.info(tr("“%1” was saved as “%2”.").arg(nodeText(*branch), path));
     else
-        m_notifier.error(SpxSentence::translated(error));
-    return isWritten;
+        m_notifier.error(problem);
+    return isDone && problem.isEmpty();
+}
+
+// Returns a sentence where it cannot be written.
+QString BranchFiles::write(SoNode* branch, const QString& path)
+{
+    const int phases = 2;
+    const QString reason = reasonAgainstWriting(path, {SceneDocument::sceneEnding()});
+    // A copy, whose names of pictures can be those that lead to them from there.
+    const SoRef<SoNode> copy =
+        reason.isEmpty() ? xsg::copyBranch(branch, xsg::partOf(LongWork::goOn, 0, phases)) : SoRef<SoNode>();
+    if (!copy)
+        return tr("The branch “%1” cannot be written to “%2”: %3.")
+            .arg(nodeText(*branch), path,
+                 reason.isEmpty() ? tr("something in it is of a kind that cannot be copied") : reason);
+    movePictures(copy.get(), QFileInfo(path).absolutePath());
+    SbSentence error;
+    SoSceneFile::write(copy.get(), QFile::encodeName(path).toStdString(), error,
+                       xsg::partOf(LongWork::goOn, 1, phases));
+    return SpxSentence::translated(error);
 }
 
 } // namespace scopix

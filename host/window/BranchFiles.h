@@ -33,6 +33,7 @@ public:
 
 private:
     void inserted(SoNode* root, const QString& path);
+    static QString write(SoNode* branch, const QString& path);
 
     QWidget& m_window;
     NodeEditing& m_editing;

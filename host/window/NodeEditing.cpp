@@ -8,6 +8,7 @@
 #include "services/HostServices.h"
 #include "structure/BranchText.h"
 #include "structure/SceneStates.h"
+#include "support/LongWork.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
 #include "window/SceneFiles.h"
@@ -77,6 +78,14 @@ std::vector<MirroredAddition> oneBehindTheOther(std::vector<MirroredAddition> ad
     return additions;
 }
 
+structure::Act refusedDrop()
+{
+    structure::Act act;
+    act.refusal =
+        NodeEditing::tr("Nothing was dropped, since its place has gone meanwhile; drop it elsewhere.");
+    return act;
+}
+
 std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
 {
     return {nodes.begin(), nodes.end()};
@@ -133,6 +142,27 @@ bool NodeEditing::perform(structure::Act act)
     return true;
 }
 
+// False where the user cancels it.
+bool NodeEditing::runLong(const QString& what, const std::function<void()>& work)
+{
+    QWidget* window = m_notifier.isAttended() ? m_tree.window() : nullptr;
+    return LongWork::runStill(window, what, m_files.getDocument().getRoot(), work);
+}
+
+void NodeEditing::performCopying(const std::function<structure::Act()>& think)
+{
+    structure::Act act;
+    if (runLong(tr("Copying…"), [&] { act = think(); }))
+        perform(std::move(act));
+    else
+        tell(tr("Copying was cancelled; nothing has changed."));
+}
+
+bool NodeEditing::isThere(const SoPath& path) const
+{
+    return isInScene(path, m_files.getDocument().getRoot());
+}
+
 void NodeEditing::showAfter(const Paths& selection)
 {
     m_tree.getModel().followNow();
@@ -171,7 +201,7 @@ void NodeEditing::duplicate()
     const Paths paths = selected();
     if (!paths.isEmpty() && isMirrored(paths.front()))
         return duplicateInProgram(topmost(paths, paths.front().getHead()));
-    perform(structure::duplicate(selected()));
+    performCopying([this] { return structure::duplicate(selected(), LongWork::goOn); });
 }
 
 void NodeEditing::group()
@@ -186,7 +216,7 @@ void NodeEditing::ungroup()
 
 void NodeEditing::makeUnique()
 {
-    perform(structure::makeUnique(selected()));
+    performCopying([this] { return structure::makeUnique(selected(), LongWork::goOn); });
 }
 
 void NodeEditing::reorder(int by)
@@ -295,15 +325,26 @@ void NodeEditing::pasteInProgram()
 
 bool NodeEditing::putOnClipboard()
 {
-    const Paths paths = selected();
-    m_copied = paths.isEmpty() ? paths : topmost(paths, paths.front().getHead());
+    Paths copied;
+    QString text;
+    const bool isDone = runLong(tr("Copying…"), [&] {
+        const Paths paths = selected();
+        copied = paths.isEmpty() ? paths : topmost(paths, paths.front().getHead());
+        if (!copied.isEmpty())
+            text = QString::fromStdString(writeBranches(tailsOf(copied), LongWork::goOn));
+    });
+    if (!isDone) {
+        tell(tr("Copying was cancelled; the clipboard holds what it held."));
+        return false;
+    }
+    m_copied = copied;
     if (m_copied.isEmpty()) {
         tellNothingSelected();
         return false;
     }
     m_copiedKey = QUuid::createUuid().toByteArray();
     auto* data = new QMimeData;
-    data->setText(QString::fromStdString(writeBranches(tailsOf(m_copied))));
+    data->setText(text);
     data->setData(keyType(), m_copiedKey);
     data->setData(folderType(), QFileInfo(m_files.getDocument().getPath()).absolutePath().toUtf8());
     QGuiApplication::clipboard()->setMimeData(data);
@@ -318,22 +359,25 @@ void NodeEditing::copy()
 
 void NodeEditing::cut()
 {
-    structure::Act act = structure::remove(selected(), structure::Deed::Cut);
-    if (act.command && putOnClipboard()) {
-        perform(std::move(act));
-    } else {
+    const structure::Act act = structure::remove(selected(), structure::Deed::Cut);
+    if (!act.command)
         tell(act.refusal);
-    }
+    else if (putOnClipboard()) // meanwhile something may have gone
+        perform(structure::remove(selected(), structure::Deed::Cut));
 }
 
 std::vector<SoRef<SoNode>> NodeEditing::readText(const QMimeData& data)
 {
-    const BranchReading read = readBranches(data.text().toStdString());
-    if (read.nodes.empty())
-        tell(read.error);
+    // Which is another's, and may go while it is read.
+    const std::string text = data.text().toStdString();
     const QString folder = data.hasFormat(folderType())
                                ? QString::fromUtf8(data.data(folderType()))
                                : QFileInfo(m_files.getDocument().getPath()).absolutePath();
+    BranchReading read;
+    if (!runLong(tr("Pasting…"), [&] { read = readBranches(text, LongWork::goOn); }))
+        read.error = tr("Pasting was cancelled; nothing has changed.");
+    if (read.nodes.empty())
+        tell(read.error);
     for (const auto& node : read.nodes)
         setPictureFolder(node.get(), folder);
     return read.nodes;
@@ -381,15 +425,30 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
             addInProgram(additions, structure::nameOf(structure::Deed::Copy, branches->getPaths()));
             return;
         }
-        perform(structure::transfer(branches->getPaths(), group, index, how));
+        const Paths paths = branches->getPaths();
+        performCopying([&] { return transfer(paths, group, index, how); });
         return;
     }
     const auto nodes = readText(data);
-    if (nodes.empty())
-        return;
-    structure::Act act =
-        structure::add(group, nodes, tr("Drop %n Node(s)", nullptr, static_cast<int>(nodes.size())));
-    perform(std::move(act));
+    if (!nodes.empty())
+        perform(addDropped(group, nodes));
+}
+
+// While a large branch is copied or read, its place may go.
+structure::Act NodeEditing::transfer(const Paths& paths, const SoPath& group, int index,
+                                     structure::Transfer how)
+{
+    const bool areThere =
+        std::all_of(paths.begin(), paths.end(), [this](const SoPath& path) { return isThere(path); });
+    if (areThere && isThere(group))
+        return structure::transfer(paths, group, index, how, LongWork::goOn);
+    return refusedDrop();
+}
+
+structure::Act NodeEditing::addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes)
+{
+    const QString name = tr("Drop %n Node(s)", nullptr, static_cast<int>(nodes.size()));
+    return isThere(group) ? structure::add(group, nodes, name) : refusedDrop();
 }
 
 // --- What is seen

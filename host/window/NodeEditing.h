@@ -77,6 +77,11 @@ private:
     void showAfter(const Paths& selection);
     std::vector<SoNode*> selectedNodes() const;
     void tellNothingSelected();
+    bool runLong(const QString& what, const std::function<void()>& work);
+    void performCopying(const std::function<structure::Act()>& think);
+    structure::Act transfer(const Paths& paths, const SoPath& group, int index, structure::Transfer how);
+    structure::Act addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes);
+    bool isThere(const SoPath& path) const;
     structure::MakeNode makerOf(SoType type) const;
     void duplicateInProgram(const Paths& paths);
     void pasteInProgram();

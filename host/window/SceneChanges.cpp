@@ -6,6 +6,7 @@
 #include "changes/SceneEdits.h"
 #include "document/SceneDocument.h"
 #include "services/HostServices.h"
+#include "support/LongWork.h"
 #include "support/UserNotifier.h"
 #include "window/OtherFile.h"
 #include "window/PatchActs.h"
@@ -29,6 +30,7 @@ SceneChanges::SceneChanges(QMainWindow& window, HostServices& services, SceneFil
     , m_window(window)
     , m_services(services)
     , m_files(files)
+    , m_notifier(notifier)
     , m_file(new OtherFile(window, notifier, this))
     , m_panel(new ChangesPanel(services))
     , m_patches(new PatchActs(window, services, files, *m_panel, notifier, this))
@@ -83,7 +85,7 @@ void SceneChanges::makeMenu()
     menu.addAction(tr("Copy as Sce&ne"), m_patches, &PatchActs::copyScene);
     menu.addSeparator();
     menu.addAction(tr("Compare &With…"), this, &SceneChanges::askAndCompare);
-    m_again = menu.addAction(tr("Compare A&gain"), this, [this] { m_comparison->compareAgain(); });
+    m_again = menu.addAction(tr("Compare A&gain"), this, [this] { compareAgain(); });
     m_back = menu.addAction(tr("&Back to What You Changed"), this, &SceneChanges::showEdits);
     m_start = menu.addAction(tr("&Start Again from Here"), this, &SceneChanges::start);
     showSource();
@@ -162,13 +164,33 @@ void SceneChanges::compareWith(const QString& path)
 
 void SceneChanges::compared(SoNode* other, const QString& path)
 {
-    const SoRef<SoNode> kept(other);
-    showEdits();
     m_services.preview().showPresent();
-    m_comparison = new FileComparison(document().getRoot(), other, QFileInfo(path).fileName(), this);
+    const QString name = QFileInfo(path).fileName();
+    auto comparison = std::make_unique<FileComparison>(document().getRoot(), other, name);
+    if (!compare(*comparison))
+        return;
+    showEdits();
+    comparison->setParent(this);
+    m_comparison = comparison.release();
     m_panel->setSource(m_comparison);
     showSource();
     show();
+}
+
+// False where the user cancels it, which is told.
+bool SceneChanges::compare(FileComparison& comparison)
+{
+    QWidget* window = m_notifier.isAttended() ? &m_window : nullptr;
+    const bool isDone = LongWork::runStill(window, tr("Comparing…"), document().getRoot(),
+                                           [&] { comparison.compareAgain(LongWork::goOn); });
+    if (!isDone)
+        m_notifier.info(tr("The comparison was cancelled; the list is as it was."));
+    return isDone;
+}
+
+void SceneChanges::compareAgain()
+{
+    compare(*m_comparison);
 }
 
 void SceneChanges::showEdits()

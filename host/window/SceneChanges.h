@@ -70,11 +70,14 @@ private:
     void follow();
     void makeMenu();
     void compared(SoNode* other, const QString& path);
+    bool compare(FileComparison& comparison);
+    void compareAgain();
     void showSource();
 
     QMainWindow& m_window;
     HostServices& m_services;
     SceneFiles& m_files;
+    UserNotifier& m_notifier;
     OtherFile* m_file;
     ChangesPanel* m_panel;
     PatchActs* m_patches;

@@ -294,8 +294,9 @@ bool SceneFiles::write(const QString& path)
 // The application around the window may change its scene whenever it gets events.
 bool SceneFiles::runLong(const QString& what, const std::function<void()>& work)
 {
-    const bool mayAsk = m_notifier.isAttended() && !getDocument().isExternal();
-    return LongWork::run(mayAsk ? &m_window : nullptr, what, work);
+    QWidget* window = m_notifier.isAttended() ? &m_window : nullptr;
+    return getDocument().isExternal() ? LongWork::runStill(window, what, getDocument().getRoot(), work)
+                                      : LongWork::run(window, what, work);
 }
 
 void SceneFiles::remember(const QString& path)

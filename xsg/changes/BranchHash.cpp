@@ -47,6 +47,7 @@ void BranchHash::compute(SoNode* root)
     std::vector<SoNode*> open{root};
     SbString text;
     while (!open.empty()) {
+        m_pieces.step();
         SoNode* node = open.back();
         const std::size_t count = open.size();
         SoGroup* group = node->asGroup();

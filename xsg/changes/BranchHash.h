@@ -2,6 +2,7 @@
 #pragma once
 
 #include <xsg/files/NodeNotes.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <cstdint>
 
@@ -13,6 +14,11 @@ namespace xsg
 class BranchHash
 {
 public:
+    explicit BranchHash(WorkPieces& pieces)
+        : m_pieces(pieces)
+    {
+    }
+
     std::uint64_t of(SoNode* node);
     /// Without the name of the node itself.
     std::uint64_t ofContent(SoNode* node);
@@ -25,6 +31,7 @@ private:
     };
     void compute(SoNode* node);
 
+    WorkPieces& m_pieces;
     NodeNotes<Note> m_notes;
 };
 

@@ -45,9 +45,10 @@ bool NodeMatch::areAlike(const SoNode& before, const SoNode& after)
     return reached == wanted;
 }
 
-NodeMatch::NodeMatch(SoNode* before, SoNode* after)
-    : m_before(before)
-    , m_after(after)
+NodeMatch::NodeMatch(SoNode* before, SoNode* after, const WorkPieces::GoOn& goOn)
+    : m_pieces(goOn)
+    , m_before(before, goOn)
+    , m_after(after, goOn)
 {
     if (areAlike(*before, *after))
         match(before, after);
@@ -68,6 +69,7 @@ void NodeMatch::matchBelow(SoNode* root)
 {
     std::vector<SoNode*> open{root};
     while (!open.empty()) {
+        m_pieces.step();
         SoGroup* group = open.back()->asGroup();
         open.pop_back();
         if (!group)

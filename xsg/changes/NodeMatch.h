@@ -3,6 +3,7 @@
 
 #include <xsg/changes/BranchHash.h>
 #include <xsg/paths/NodePlaces.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <unordered_map>
 #include <unordered_set>
@@ -15,7 +16,8 @@ namespace xsg
 class NodeMatch
 {
 public:
-    NodeMatch(SoNode* before, SoNode* after);
+    /// `goOn` is called each few milliseconds; see WorkPieces. What it throws may leave any member.
+    NodeMatch(SoNode* before, SoNode* after, const WorkPieces::GoOn& goOn);
 
     NodePlaces& before() { return m_before; }
     NodePlaces& after() { return m_after; }
@@ -47,11 +49,12 @@ private:
     void alignLabel(const SoGroup& before, const std::vector<int>& oldPlaces, const SoGroup& after,
                     const std::vector<int>& newPlaces, std::vector<int>& result);
 
+    WorkPieces m_pieces;
     NodePlaces m_before;
     NodePlaces m_after;
     NodeNotes<Link> m_oldOf;
     NodeNotes<Link> m_newOf;
-    BranchHash m_hash;
+    BranchHash m_hash{m_pieces};
     enum class Alignment : char { Unknown, Same, Other };
     NodeNotes<Alignment> m_alignment;
     std::unordered_map<const SoGroup*, std::vector<int>> m_places; // of the others

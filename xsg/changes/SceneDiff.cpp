@@ -58,9 +58,10 @@ std::vector<char> keptInOrder(const std::vector<int>& places)
 class Comparison
 {
 public:
-    Comparison(SoNode* before, SoNode* after)
-        : m_match(before, after)
+    Comparison(SoNode* before, SoNode* after, const WorkPieces::GoOn& goOn)
+        : m_match(before, after, goOn)
         , m_fields(m_match)
+        , m_pieces(goOn)
     {
     }
     SceneChanges run();
@@ -97,6 +98,8 @@ private:
     FieldDiff m_fields;
     SceneChanges m_changes;
     std::vector<Frame> m_frames;
+    WorkPieces m_pieces;
+    std::size_t m_visited = 0;
 };
 
 SceneChange& Comparison::add(Kind kind, const SoScenePath& path)
@@ -111,7 +114,9 @@ SceneChanges Comparison::run()
 {
     compareRoots();
     visit(m_match.after().getRoot());
+    const std::size_t count = m_match.after().getNodes().size();
     while (!m_frames.empty()) {
+        m_pieces.step(static_cast<double>(m_visited) / static_cast<double>(count));
         if (m_frames.back().next == m_frames.back().group->getNumChildren())
             m_frames.pop_back();
         else
@@ -139,6 +144,7 @@ void Comparison::describeNew(SceneChange& change, const SoNode& node) const
 
 void Comparison::visit(SoNode* node)
 {
+    ++m_visited;
     SoNode* old = m_match.oldOf(*node);
     const bool isRoot = node == m_match.after().getRoot();
     if (old && old->getName() != node->getName() && (isRoot || labelOf(*old) == labelOf(*node))) {
@@ -281,7 +287,12 @@ void Comparison::insertChild(const Frame& frame, int position)
 
 SceneChanges compareScenes(SoNode* before, SoNode* after)
 {
-    return Comparison(before, after).run();
+    return compareScenes(before, after, {});
+}
+
+SceneChanges compareScenes(SoNode* before, SoNode* after, const std::function<void(double)>& goOn)
+{
+    return Comparison(before, after, goOn).run();
 }
 
 } // namespace xsg

@@ -8,6 +8,7 @@
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/nodes/properties/SoTexture2.h>
 #include <xsg/nodes/shapes/SoDrawingCallback.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <unordered_map>
 
@@ -20,12 +21,13 @@ namespace
 using Copies = std::unordered_map<const SoFieldContainer*, SoNode*>;
 
 // Each node of the branch with its copy. False where they are not alike.
-bool pair(SoNode* branch, SoNode* copy, Copies& copies)
+bool pair(SoNode* branch, SoNode* copy, Copies& copies, WorkPieces& pieces)
 {
     std::vector<std::pair<SoNode*, SoNode*>> pending{{branch, copy}};
     while (!pending.empty()) {
         const auto [node, itsCopy] = pending.back();
         pending.pop_back();
+        pieces.step();
         if (!copies.emplace(node, itsCopy).second)
             continue;
         const SoGroup* group = node->asGroup();
@@ -79,12 +81,21 @@ void copyWithoutText(const SoNode& node, SoNode& copy)
 
 SoRef<SoNode> copyBranch(SoNode* branch)
 {
+    return copyBranch(branch, {});
+}
+
+SoRef<SoNode> copyBranch(SoNode* branch, const std::function<void(double)>& goOn)
+{
+    constexpr int Phases = 2;
     std::string error;
-    const SoRef<SoNode> copy = SoSceneFile::readText(SoSceneFile::writeText(branch), "copy", error);
+    const std::string text = SoSceneFile::writeText(branch, partOf(goOn, 0, Phases));
+    const SoRef<SoNode> copy = SoSceneFile::readText(text, "copy", error, partOf(goOn, 1, Phases));
     Copies copies;
-    if (!copy || !pair(branch, copy.get(), copies))
+    WorkPieces pieces(goOn);
+    if (!copy || !pair(branch, copy.get(), copies, pieces))
         return {};
     for (const auto& [node, itsCopy] : copies) {
+        pieces.step();
         if (node->getTypeId() != itsCopy->getTypeId())
             return {};
         copyWithoutText(static_cast<const SoNode&>(*node), *itsCopy);

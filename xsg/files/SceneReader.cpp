@@ -5,6 +5,7 @@
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
 #include <xsg/nodes/base/SoUnknownNode.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <algorithm>
 #include <system_error>
@@ -152,6 +153,15 @@ SoRef<SoNode> xsg::SceneReader::takeScene()
 SoRef<SoNode> xsg::SceneReader::read()
 {
     advance(Clock::time_point::max());
+    return takeScene();
+}
+
+SoRef<SoNode> xsg::SceneReader::read(const std::function<void(double)>& goOn)
+{
+    if (!goOn)
+        return read();
+    while (!advance(Clock::now() + WorkPieces::Length))
+        goOn(static_cast<double>(m_at) / static_cast<double>(m_text.getEnd()));
     return takeScene();
 }
 

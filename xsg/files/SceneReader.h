@@ -45,6 +45,8 @@ public:
     SoRef<SoNode> takeScene();
     /// All at once.
     SoRef<SoNode> read();
+    /// Calls `goOn` with the part of a text in memory that is read, each few milliseconds.
+    SoRef<SoNode> read(const std::function<void(double)>& goOn);
     /// Gives up, and hands over what has been read so far: nodes that stand nowhere.
     std::vector<SoRef<SoNode>> abandon();
 

@@ -6,19 +6,19 @@
 #include <xsg/files/SceneWriter.h>
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/support/FileReplacement.h>
+#include <xsg/support/WorkPieces.h>
 
 namespace
 {
 
 using Clock = xsg::SceneWriter::Clock;
-constexpr auto Piece = std::chrono::milliseconds(10);
 
 // False where the structure changed meanwhile, so that the writer must not go on.
 bool writeInPieces(xsg::SceneWriter& writer, const SoNode* root, const std::function<void(double)>& goOn)
 {
     const std::uint64_t structure = SoGroup::getStructureCount();
     writer.begin(root);
-    while (!writer.advance(goOn ? Clock::now() + Piece : Clock::time_point::max())) {
+    while (!writer.advance(goOn ? Clock::now() + xsg::WorkPieces::Length : Clock::time_point::max())) {
         goOn(writer.getProgress());
         if (SoGroup::getStructureCount() != structure)
             return false;
@@ -38,8 +38,14 @@ SoRef<SoNode> SoSceneFile::read(const std::string& path, std::string& error)
 
 SoRef<SoNode> SoSceneFile::readText(std::string_view text, const std::string& name, std::string& error)
 {
+    return readText(text, name, error, {});
+}
+
+SoRef<SoNode> SoSceneFile::readText(std::string_view text, const std::string& name, std::string& error,
+                                    const std::function<void(double)>& goOn)
+{
     xsg::SceneReader reader(text);
-    SoRef<SoNode> root = reader.read();
+    SoRef<SoNode> root = reader.read(goOn);
     xsg::feeds.bytesParsed.add(static_cast<std::int64_t>(text.size()));
     if (!root)
         error = xsg::postReadError(name, reader);
@@ -77,7 +83,12 @@ bool SoSceneFile::write(const SoNode* root, const std::string& path, SbSentence&
 
 std::string SoSceneFile::writeText(const SoNode* root)
 {
+    return writeText(root, {});
+}
+
+std::string SoSceneFile::writeText(const SoNode* root, const std::function<void(double)>& goOn)
+{
     std::string text;
-    xsg::SceneWriter([&](const std::string& piece) { text += piece; }).write(root);
-    return text;
+    xsg::SceneWriter writer([&](const std::string& piece) { text += piece; });
+    return writeInPieces(writer, root, goOn) ? text : writeText(root);
 }

@@ -39,6 +39,9 @@ public:
     static SoRef<SoNode> read(const std::string& path, std::string& error);
     /// The same from memory; `name` stands for the file in errors.
     static SoRef<SoNode> readText(std::string_view text, const std::string& name, std::string& error);
+    /// The same, calling `goOn` with the part that is read, as write() does.
+    static SoRef<SoNode> readText(std::string_view text, const std::string& name, std::string& error,
+                                  const std::function<void(double)>& goOn);
 
     /// Whatever happens, the file is either the old or the new one; xsg::FileReplacement says what becomes of
     /// its mode and its links. False, and a sentence, where it cannot be written.
@@ -51,4 +54,6 @@ public:
     static bool write(const SoNode* root, const std::string& path, SbSentence& error,
                       const std::function<void(double)>& goOn);
     static std::string writeText(const SoNode* root);
+    /// The same, calling `goOn` as write() does.
+    static std::string writeText(const SoNode* root, const std::function<void(double)>& goOn);
 };

@@ -2,10 +2,11 @@
 #include <xsg/paths/NodePlaces.h>
 
 #include <xsg/paths/NodeLabel.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <algorithm>
 
-xsg::NodePlaces::NodePlaces(SoNode* root)
+xsg::NodePlaces::NodePlaces(SoNode* root, const std::function<void(double)>& goOn)
 {
     struct Frame {
         SoGroup* group;
@@ -22,7 +23,9 @@ xsg::NodePlaces::NodePlaces(SoNode* root)
             open.push_back({group, 0});
     };
     visit(root, nullptr, 0);
+    WorkPieces pieces(goOn);
     while (!open.empty()) {
+        pieces.step();
         Frame& frame = open.back();
         if (frame.next == frame.group->getNumChildren()) {
             open.pop_back();

@@ -5,6 +5,7 @@
 #include <xsg/nodes/groups/SoGroup.h>
 #include <xsg/paths/SoScenePath.h>
 
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
@@ -16,7 +17,8 @@ namespace xsg
 class XSG_API NodePlaces
 {
 public:
-    explicit NodePlaces(SoNode* root);
+    /// `goOn` is called each few milliseconds; see WorkPieces.
+    explicit NodePlaces(SoNode* root, const std::function<void(double)>& goOn = {});
 
     SoNode* getRoot() const { return m_nodes.front(); }
     /// Each node once.

@@ -16,18 +16,6 @@ void BlockText::appendCell(QString& out, const QString& cell, QChar separator)
         out += '"' + QString(cell).replace('"', QLatin1String("\"\"")) + '"';
 }
 
-BlockText::Rows BlockText::parse(const QString& text, QChar separator)
-{
-    Rows rows;
-    Reader reader(separator, [&](const QStringList& row) {
-        rows.push_back(row);
-        return true;
-    });
-    reader.feed(text);
-    reader.finish();
-    return rows;
-}
-
 BlockText::Reader::Reader(QChar separator, std::function<bool(const QStringList&)> take)
     : m_separator(separator)
     , m_take(std::move(take))

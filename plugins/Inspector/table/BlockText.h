@@ -19,10 +19,9 @@ namespace BlockText
 void appendCell(QString& out, const QString& cell, QChar separator);
 
 using Rows = std::vector<QStringList>;
-/// All rows; the line's end after the last one starts no further row.
-Rows parse(const QString& text, QChar separator);
 
-/// Reads such a text piece by piece, a row at a time.
+/// Reads such a text piece by piece, a row at a time; the line's end after the last one starts no further
+/// row.
 class Reader
 {
 public:

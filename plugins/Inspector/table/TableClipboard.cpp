@@ -17,6 +17,7 @@ namespace
 
 constexpr std::int64_t MostCopied = 20'000'000; // cells; their text has to fit into memory several times
 constexpr int RowsAtOnce = 2048;
+constexpr int CharactersAtOnce = 1 << 16;
 
 std::uint32_t columnsFrom(int first, int count)
 {
@@ -78,14 +79,33 @@ bool TableClipboard::copy()
     return true;
 }
 
+// A text may be large: it is taken apart in pieces. False where that is cancelled.
+bool TableClipboard::parse(const QString& text, BlockText::Rows& block)
+{
+    BlockText::Reader reader('\t', [&block](const QStringList& row) {
+        block.push_back(row);
+        return true;
+    });
+    int at = 0;
+    const bool isParsed = PieceWork::run(&m_session.view, tr("Reading the clipboard…"), [&] {
+        reader.feed(text.mid(at, CharactersAtOnce));
+        at = std::min(at + CharactersAtOnce, text.size());
+        return PieceWork::Progress{at, text.size(), !m_session.list()};
+    });
+    reader.finish();
+    return isParsed;
+}
+
 bool TableClipboard::readBlock(BlockText::Rows& block)
 {
-    block = BlockText::parse(QGuiApplication::clipboard()->text(), '\t');
-    if (!m_session.list() || block.empty()) {
+    if (!parse(QGuiApplication::clipboard()->text(), block))
+        return false;
+    if (block.empty()) {
         say(tr("Nothing was pasted, since the clipboard holds no text; copy cells or text first."));
         return false;
     }
-    splitWholeValues(block);
+    if (!splitWholeValues(block))
+        return false;
     std::size_t columns = 0;
     for (const QStringList& row : block)
         columns = std::max(columns, std::size_t(row.size()));
@@ -96,26 +116,35 @@ bool TableClipboard::readBlock(BlockText::Rows& block)
     return true;
 }
 
-// Values copied as text stand in brackets, with a comma between them and blanks between their numbers.
-void TableClipboard::splitWholeValues(BlockText::Rows& block) const
+// Values copied as text stand in brackets, with a comma between them and blanks between their numbers. False
+// where that is cancelled.
+bool TableClipboard::splitWholeValues(BlockText::Rows& block)
 {
     const int columns = m_session.rows().columnCount();
     const auto isOneCell = [](const QStringList& row) { return row.size() == 1; };
     if (columns == 1 || !m_session.access().hasNumbers() ||
         !std::all_of(block.begin(), block.end(), isOneCell))
-        return;
-    QString text;
-    for (const QStringList& row : block)
-        text += row.front() + ',';
-    text.remove('[').remove(']');
+        return true;
     BlockText::Rows values;
-    for (const QString& value : text.split(',')) {
-        if (!value.trimmed().isEmpty())
-            values.push_back(value.simplified().split(' '));
-    }
-    const auto isWhole = [columns](const QStringList& value) { return value.size() == columns; };
-    if (!values.empty() && std::all_of(values.begin(), values.end(), isWhole))
+    bool areWhole = true;
+    const auto addValue = [&](const QString& value) {
+        if (value.trimmed().isEmpty())
+            return;
+        values.push_back(value.simplified().split(' '));
+        areWhole = areWhole && values.back().size() == columns;
+    };
+    std::size_t at = 0;
+    const bool isSplit = PieceWork::run(&m_session.view, tr("Reading the clipboard…"), [&] {
+        for (int i = 0; i < RowsAtOnce && at < block.size() && areWhole; ++i, ++at) {
+            for (const QString& value : QString(block[at].front()).remove('[').remove(']').split(','))
+                addValue(value);
+        }
+        const qint64 done = areWhole ? qint64(at) : qint64(block.size());
+        return PieceWork::Progress{done, qint64(block.size()), !m_session.list()};
+    });
+    if (isSplit && !values.empty() && areWhole)
         block = std::move(values);
+    return isSplit;
 }
 
 bool TableClipboard::findTarget(int blockRows, int blockColumns, Target& target)
@@ -202,13 +231,25 @@ void TableClipboard::pasteRows()
         return;
     }
     const std::unique_ptr<SoMField> rows = m_session.list()->makeSlice();
-    rows->setNum(int(block.size()));
-    for (int row = 0; row < rows->getNum(); ++row) {
-        for (int column = 0; column < block.front().size(); ++column) {
-            if (!m_session.access().setText(*rows, row, column, block[std::size_t(row)][column]))
-                return sayNoValue(block, row, column);
-        }
-    }
+    const int total = int(block.size());
+    rows->setNum(total);
+    int row = 0;
+    int column = 0;
+    bool isGood = true;
+    const auto fillRow = [&] {
+        for (column = 0; column < block.front().size() && isGood; ++column)
+            isGood = m_session.access().setText(*rows, row, column, block[std::size_t(row)][column]);
+        row += isGood ? 1 : 0;
+    };
+    const bool isFilled = PieceWork::run(&m_session.view, tr("Changing %1 rows…").arg(total), [&] {
+        for (int i = 0; i < RowsAtOnce && row < total && isGood; ++i)
+            fillRow();
+        return PieceWork::Progress{row, total, !isGood || !m_session.list()};
+    });
+    if (!isGood)
+        return sayNoValue(block, row, column - 1);
+    if (!isFilled)
+        return;
     const int first = std::max(m_session.view.selection().current().row, 0);
     if (!m_session.report(m_session.writer.replaceRows(first, 0, *rows)))
         return;

@@ -31,7 +31,8 @@ private:
     };
 
     bool readBlock(BlockText::Rows& block);
-    void splitWholeValues(BlockText::Rows& block) const;
+    bool parse(const QString& text, BlockText::Rows& block);
+    bool splitWholeValues(BlockText::Rows& block);
     bool findTarget(int blockRows, int blockColumns, Target& target);
     void say(const QString& sentence) { emit m_session.said(sentence); }
     void sayNoValue(const BlockText::Rows& block, int row, int column);

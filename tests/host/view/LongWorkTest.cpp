@@ -1,14 +1,27 @@
 // SPDX-License-Identifier: MIT
 // What takes long says how far it is and can be cancelled, and the window stays alive.
 #include "support/LongWork.h"
+#include "changes/ChangesPanel.h"
+#include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "support/FileAnswer.h"
+#include "support/ProgressDialog.h"
 #include "support/UserNotifier.h"
+#include "window/BranchFiles.h"
 #include "window/MainWindow.h"
+#include "window/NodeEditing.h"
+#include "window/SceneChanges.h"
 
+#include <support/Waiting.h>
+
+#include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
 #include <xsg/nodes/transforms/SoTransform.h>
+
+#include <QtTest>
+
+#include <unistd.h>
 
 using namespace scopix;
 
@@ -16,6 +29,36 @@ namespace
 {
 
 constexpr int Many = 50000; // nodes: more than one piece of writing
+
+/// Clicks on Cancel as soon as a dialog says how far the work is, and counts these dialogs.
+class Canceller : public QObject
+{
+public:
+    Canceller() { qApp->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* dialog = qobject_cast<QProgressDialog*>(watched);
+        const bool isShown = dialog && event->type() == QEvent::Show;
+        if (isShown && dialog->objectName() == QStringLiteral("workProgress") && ++count > 0)
+            click(*dialog->findChild<QPushButton*>());
+        return false;
+    }
+
+private:
+    static void click(QPushButton& button)
+    {
+        const QPointF at = button.rect().center();
+        const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
+            QCoreApplication::postEvent(&button, new QMouseEvent(type, at, button.mapToGlobal(at.toPoint()),
+                                                                 Qt::LeftButton, buttons, {}));
+        };
+        post(QEvent::MouseButtonPress, Qt::LeftButton);
+        post(QEvent::MouseButtonRelease, {});
+    }
+};
 
 class LongWorkTest : public testing::Test
 {
@@ -29,6 +72,7 @@ protected:
     }
     ~LongWorkTest() override
     {
+        LongWork::setPatience(ProgressDialog::PatienceMs, 30);
         notifier.setAttended(false);
         window.reset();
         qunsetenv("XDG_CONFIG_HOME");
@@ -67,6 +111,61 @@ protected:
             root->addChild(new Node);
         window->setScene(root.get(), QStringLiteral("some"));
     }
+
+    // Counts how often what was posted is served.
+    void postCount(int& served)
+    {
+        QMetaObject::invokeMethod(
+            window.get(), [&served] { ++served; }, Qt::QueuedConnection);
+    }
+    // Works until events were looked at so often.
+    void workFor(int looks)
+    {
+        int served = 0;
+        while (served < looks) {
+            const int before = served;
+            postCount(served);
+            while (served == before)
+                LongWork::goOn();
+        }
+    }
+    // A large scene with its root's first child selected, and the keys on the tree.
+    void showForKeys()
+    {
+        show<SoTransform>(Many);
+        window->getTree().setFocus();
+        services.selectPaths({pathTo(0)});
+        ASSERT_TRUE(waitForActive(window.get()));
+    }
+    SoPath pathTo(int child) const
+    {
+        SoPath path;
+        path.append(window->getScene());
+        path.append(window->getScene()->asGroup()->getChild(child));
+        return path;
+    }
+    // All that the scene holds goes into one group of it, which is selected.
+    void showGroupForKeys()
+    {
+        showForKeys();
+        SoGroup* root = window->getScene()->asGroup();
+        const SoRef<SoSeparator> group(new SoSeparator);
+        for (int i = 0; i < Many; ++i)
+            group->addChild(root->getChild(i));
+        root->removeAllChildren();
+        root->addChild(group.get());
+        services.selectPaths({pathTo(0)});
+        LongWork::setPatience(0, 0); // of a machine as slow as can be
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers)
+    {
+        if (!window->isActiveWindow()) { // a dialog was
+            window->activateWindow();
+            ASSERT_TRUE(waitForActive(window.get()));
+        }
+        QTest::keyClick(&window->getTree(), static_cast<Qt::Key>(key), modifiers);
+    }
+    int childCount() const { return window->getScene()->asGroup()->getNumChildren(); }
 
     QTemporaryDir folder;
     UserNotifier notifier;
@@ -146,6 +245,128 @@ TEST_F(LongWorkTest, AnExportThatIsCancelledWritesNothing)
         EXPECT_FALSE(runCancelled([&] { window->getFiles().saveTo(path); })) << ending;
         EXPECT_FALSE(QFileInfo::exists(path)) << ending;
     }
+}
+
+TEST_F(LongWorkTest, NothingElseRunsWhileTheSceneIsToStandStill)
+{
+    show<SoCube>(1);
+    int events = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++events; });
+    timer.start(0);
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    ASSERT_EQ(write(ends[1], "x", 1), 1);
+    QSocketNotifier socket(ends[0], QSocketNotifier::Read);
+    QObject::connect(&socket, &QSocketNotifier::activated, [&] { ++events; });
+    LongWork::setPatience(0, 0);
+    EXPECT_TRUE(LongWork::runStill(window.get(), QStringLiteral("Working…"), window->getScene(), [&] {
+        workFor(20);
+        EXPECT_TRUE(dialog()->isVisible());
+        EXPECT_EQ(dialog()->windowModality(), Qt::ApplicationModal);
+    }));
+    EXPECT_EQ(events, 0);
+    timer.stop();
+    EXPECT_TRUE(waitFor([&] { return events > 0; })) << "what has come in meanwhile is not lost";
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST_F(LongWorkTest, StartsAgainWhereTheSceneChangesAllTheSame)
+{
+    show<SoCube>(1);
+    LongWork::setPatience(0, 0);
+    int begun = 0;
+    int served = 0;
+    EXPECT_TRUE(LongWork::runStill(window.get(), QStringLiteral("Working…"), window->getScene(), [&] {
+        if (++begun == 2) {
+            postCount(served);
+            LongWork::goOn();
+            EXPECT_EQ(served, 0) << "nothing can change any more";
+            return;
+        }
+        QMetaObject::invokeMethod(
+            window.get(), [&] { window->getScene()->asGroup()->addChild(new SoCube); }, Qt::QueuedConnection);
+        workFor(1);
+        ADD_FAILURE() << "went on with what is another scene by now";
+    }));
+    EXPECT_EQ(begun, 2);
+}
+
+TEST_F(LongWorkTest, CopiesOfBranchesCanBeCancelled)
+{
+    showGroupForKeys();
+    QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+    Canceller canceller;
+    const std::pair<int, Qt::KeyboardModifier> keys[] = {
+        {Qt::Key_D, Qt::ControlModifier}, {Qt::Key_C, Qt::ControlModifier}, {Qt::Key_X, Qt::ControlModifier}};
+    int dialogs = 0;
+    for (const auto& [key, modifier] : keys) {
+        press(key, modifier);
+        EXPECT_EQ(canceller.count, ++dialogs) << key;
+        EXPECT_TRUE(told.last().startsWith(QStringLiteral("Copying was cancelled")))
+            << qPrintable(told.last());
+        EXPECT_EQ(childCount(), 1);
+        EXPECT_EQ(services.undoStack().count(), 0);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("mine"));
+    }
+}
+
+TEST_F(LongWorkTest, PastingCanBeCancelled)
+{
+    showGroupForKeys();
+    press(Qt::Key_C, Qt::ControlModifier);
+    ASSERT_EQ(told.last(), QStringLiteral("1 node(s) copied."));
+    Canceller canceller;
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(canceller.count, 1);
+    EXPECT_EQ(told.last(), QStringLiteral("Pasting was cancelled; nothing has changed."));
+    EXPECT_EQ(childCount(), 1);
+    EXPECT_EQ(services.undoStack().count(), 0);
+}
+
+TEST_F(LongWorkTest, WhatIsNotCancelledIsDone)
+{
+    showGroupForKeys();
+    press(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_EQ(childCount(), 2);
+    const SoGroup* root = window->getScene()->asGroup();
+    EXPECT_EQ(SoSceneFile::writeText(root->getChild(0)), SoSceneFile::writeText(root->getChild(1)));
+    EXPECT_EQ(services.undoStack().count(), 1);
+    EXPECT_FALSE(dialog());
+}
+
+TEST_F(LongWorkTest, AComparisonThatIsCancelledLeavesTheList)
+{
+    showGroupForKeys();
+    const QString path = folder.filePath(QStringLiteral("other.xsg"));
+    std::string error;
+    ASSERT_TRUE(SoSceneFile::write(window->getScene(), path.toStdString(), error)) << error;
+    Canceller canceller;
+    SceneChanges& changes = window->getChanges();
+    changes.compareWith(path);
+    ASSERT_TRUE(waitFor([&] { return !told.isEmpty(); }));
+    EXPECT_EQ(told.last(), QStringLiteral("The comparison was cancelled; the list is as it was."));
+    EXPECT_FALSE(changes.isComparing());
+    EXPECT_EQ(changes.getPanel().getModel().getSource(), &changes.getEdits());
+}
+
+TEST_F(LongWorkTest, SavingABranchOrAScenePassedInCanBeCancelled)
+{
+    showGroupForKeys();
+    const QString path = folder.filePath(QStringLiteral("part.xsg"));
+    Canceller canceller;
+    EXPECT_FALSE(window->getBranchFiles().save(pathTo(0).getTail(), path));
+    EXPECT_EQ(told.last(), QStringLiteral("Saving “%1” was cancelled.").arg(path));
+    const SoRef<SoSeparator> running(new SoSeparator);
+    running->addChild(pathTo(0).getTail());
+    ASSERT_TRUE(window->inspect(running.get(), QStringLiteral("Running")));
+    EXPECT_TRUE(window->getFiles().getDocument().isExternal());
+    EXPECT_FALSE(window->getFiles().saveTo(path));
+    EXPECT_EQ(told.last(), QStringLiteral("Saving “%1” was cancelled.").arg(path));
+    EXPECT_EQ(canceller.count, 2);
+    EXPECT_TRUE(
+        QDir(folder.path()).entryList({QStringLiteral("*part*")}, QDir::AllEntries | QDir::Hidden).isEmpty());
 }
 
 } // namespace

@@ -167,3 +167,30 @@ TEST_F(TextClipboard, EveryTextComesBackAsItWas)
     paste();
     EXPECT_EQ(values(), before);
 }
+
+constexpr int Many = 3'000'000; // take longer than a dialog waits, on any machine
+
+TEST_F(VectorClipboard, ALongPasteCanBeCancelled)
+{
+    open({SbVec3f(1, 2, 3)});
+    put(QStringLiteral("4\t5\t6\n").repeated(Many));
+    cancelSoon();
+    goTo(0, 0);
+    paste();
+    EXPECT_EQ(values(), (std::vector<SbVec3f>{{1, 2, 3}}));
+    trigger("Paste as New Rows");
+    EXPECT_EQ(values(), (std::vector<SbVec3f>{{1, 2, 3}}));
+    EXPECT_EQ(host.undoCount(), 0);
+    EXPECT_EQ(message(), QString());
+}
+
+TEST_F(VectorClipboard, ALongCopyThatIsCancelledLeavesTheClipboard)
+{
+    field.setNum(Many);
+    open();
+    put("untouched");
+    select(0, 0, Many - 1, 2);
+    cancelSoon();
+    copy();
+    EXPECT_EQ(copied(), "untouched");
+}

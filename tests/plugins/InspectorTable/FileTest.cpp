@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProgressDialog>
 #include <QTemporaryDir>
 
 using namespace inspector;
@@ -26,16 +25,6 @@ protected:
     {
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    // Cancels the first progress dialog that comes.
-    void cancelSoon()
-    {
-        auto* timer = new QTimer(&this->view());
-        QObject::connect(timer, &QTimer::timeout, [] {
-            if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()))
-                dialog->cancel();
-        });
-        timer->start(0);
     }
 
 private:

@@ -12,6 +12,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QtTest>
 
 /// A list shown as a table, in a window of its own, by the editor that the plug-in registers for its type.
@@ -86,6 +87,16 @@ protected:
         QMouseEvent event(QEvent::MouseMove, to, view().viewport()->mapToGlobal(to), Qt::NoButton, buttons,
                           Qt::NoModifier);
         QApplication::sendEvent(view().viewport(), &event);
+    }
+    // Cancels the progress dialogs that come.
+    void cancelSoon()
+    {
+        auto* timer = new QTimer(&this->view());
+        QObject::connect(timer, &QTimer::timeout, [] {
+            if (auto* dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()))
+                dialog->cancel();
+        });
+        timer->start(0);
     }
     QPoint at(int row, int column) { return view().geometry().cell({row, column}).center(); }
     QPoint numberAt(int row) { return view().geometry().number(row).center(); }
