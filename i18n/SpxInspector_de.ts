@@ -1156,6 +1156,10 @@
         <translation>%1 Zeilen werden kopiert …</translation>
     </message>
     <message>
+        <source>Reading the clipboard…</source>
+        <translation>Die Zwischenablage wird gelesen…</translation>
+    </message>
+    <message>
         <source>Nothing was pasted, since the clipboard holds no text; copy cells or text first.</source>
         <translation>Nichts wurde eingefügt, da die Zwischenablage keinen Text enthält; kopiere zuerst Zellen oder Text.</translation>
     </message>

@@ -1156,6 +1156,10 @@
         <translation>[Çöpýîñĝ %1 ŕöwš… ~~~~~~]</translation>
     </message>
     <message>
+        <source>Reading the clipboard…</source>
+        <translation>[Ŕéàdîñĝ ţĥé çlîpböàŕd… ~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Nothing was pasted, since the clipboard holds no text; copy cells or text first.</source>
         <translation>[Ñöţĥîñĝ wàš pàšţéd, šîñçé ţĥé çlîpböàŕd ĥöldš ñö ţéxţ; çöpý çéllš öŕ ţéxţ fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>

@@ -234,8 +234,8 @@
 %1</translation>
     </message>
     <message>
-        <source>Inspects and tunes the 3D scene or model in FILE.</source>
-        <translation>Zeigt und verändert die 3D-Szene oder das Modell in FILE.</translation>
+        <source>Inspects and tunes the 3D scene or model in FILE; several get a tab each.</source>
+        <translation>Zeigt und verändert die 3D-Szene oder das Modell in FILE; mehrere bekommen je einen Tab.</translation>
     </message>
     <message>
         <source>Load this plug-in too; may be given several times.</source>
@@ -1582,8 +1582,8 @@
         <translation>--launch erwartet ein Programm und seine Argumente, aber es wurde nichts angegeben.</translation>
     </message>
     <message>
-        <source>The scene or model to open.</source>
-        <translation>Die Szene oder das Modell, das geöffnet werden soll.</translation>
+        <source>The scene or model to open; several get a tab each, the first in front.</source>
+        <translation>Die Szene oder das Modell, das geöffnet wird; mehrere bekommen je einen Tab, die erste steht vorn.</translation>
     </message>
     <message>
         <source>--select expects NODE.FIELD, such as Material.transparency, and not “%1”.</source>
@@ -1610,12 +1610,12 @@
         <translation>--save schreibt den Inhalt von FILE, aber es wurde keine FILE angegeben.</translation>
     </message>
     <message>
-        <source>--save opens no window, so that --%1 cannot be given with it.</source>
-        <translation>--save öffnet kein Fenster und lässt sich deshalb nicht mit --%1 verbinden.</translation>
+        <source>--save writes what one FILE holds, and %1 were given, the second being “%2”.</source>
+        <translation>--save schreibt den Inhalt einer einzigen FILE; angegeben wurden %1, die zweite ist „%2“.</translation>
     </message>
     <message>
-        <source>Only one FILE can be opened, and %1 were given, the second being “%2”.</source>
-        <translation>Es lässt sich nur eine FILE öffnen; angegeben wurden %1, die zweite ist „%2“.</translation>
+        <source>--save opens no window, so that --%1 cannot be given with it.</source>
+        <translation>--save öffnet kein Fenster und lässt sich deshalb nicht mit --%1 verbinden.</translation>
     </message>
     <message>
         <source>--%1 expects %2, and nothing was given.</source>
@@ -2006,14 +2006,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Szenen (*.%1)</translation>
     </message>
     <message>
-        <source>The branch “%1” cannot be written to “%2”: %3.</source>
-        <translation>Der Zweig „%1“ lässt sich nicht nach „%2“ schreiben: %3.</translation>
-    </message>
-    <message>
-        <source>something in it is of a kind that cannot be copied</source>
-        <translation>etwas darin ist von einer Art, die sich nicht kopieren lässt</translation>
-    </message>
-    <message>
         <source>Saving “%1”…</source>
         <translation>„%1“ wird gespeichert …</translation>
     </message>
@@ -2024,6 +2016,14 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>“%1” was saved as “%2”.</source>
         <translation>„%1“ wurde als „%2“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>The branch “%1” cannot be written to “%2”: %3.</source>
+        <translation>Der Zweig „%1“ lässt sich nicht nach „%2“ schreiben: %3.</translation>
+    </message>
+    <message>
+        <source>something in it is of a kind that cannot be copied</source>
+        <translation>etwas darin ist von einer Art, die sich nicht kopieren lässt</translation>
     </message>
     <message>
         <source>Revert</source>
@@ -2376,6 +2376,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Close Tab</source>
         <translation>Tab s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>With Ctrl held, it opens in a new tab</source>
+        <translation>Mit gedrückter Strg-Taste in einem neuen Tab</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -3148,6 +3152,18 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
 %1</translation>
     </message>
     <message>
+        <source>Nothing was dropped, since its place has gone meanwhile; drop it elsewhere.</source>
+        <translation>Es wurde nichts abgelegt, weil es die Stelle inzwischen nicht mehr gibt; legen Sie es an einer anderen ab.</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>Wird kopiert…</translation>
+    </message>
+    <message>
+        <source>Copying was cancelled; nothing has changed.</source>
+        <translation>Das Kopieren wurde abgebrochen; es hat sich nichts geändert.</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <translation>%1 hinzufügen</translation>
     </message>
@@ -3159,9 +3175,21 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
         <translation>Nur Knoten, die in diesem Fenster aus diesem Programm kopiert wurden, lassen sich darin einfügen.</translation>
     </message>
+    <message>
+        <source>Copying was cancelled; the clipboard holds what it held.</source>
+        <translation>Das Kopieren wurde abgebrochen; die Zwischenablage enthält, was sie enthielt.</translation>
+    </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
         <translation><numerusform>%n Knoten kopiert.</numerusform><numerusform>%n Knoten kopiert.</numerusform></translation>
+    </message>
+    <message>
+        <source>Pasting…</source>
+        <translation>Wird eingefügt…</translation>
+    </message>
+    <message>
+        <source>Pasting was cancelled; nothing has changed.</source>
+        <translation>Das Einfügen wurde abgebrochen; es hat sich nichts geändert.</translation>
     </message>
     <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
@@ -3792,6 +3820,14 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Vergleichen mit</translation>
     </message>
     <message>
+        <source>Comparing…</source>
+        <translation>Wird verglichen…</translation>
+    </message>
+    <message>
+        <source>The comparison was cancelled; the list is as it was.</source>
+        <translation>Der Vergleich wurde abgebrochen; die Liste ist, wie sie war.</translation>
+    </message>
+    <message>
         <source>Changes ●</source>
         <translation>Änderungen ●</translation>
     </message>
@@ -3962,6 +3998,14 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Pre&amp;vious Tab</source>
         <translation>V&amp;origer Tab</translation>
+    </message>
+    <message>
+        <source>Move Tab to the Ri&amp;ght</source>
+        <translation>Tab nach &amp;rechts</translation>
+    </message>
+    <message>
+        <source>Move Tab to the &amp;Left</source>
+        <translation>Tab nach &amp;links</translation>
     </message>
     <message>
         <source>Close this tab</source>

@@ -234,8 +234,8 @@
 %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Inspects and tunes the 3D scene or model in FILE.</source>
-        <translation>[Îñšpéçţš àñd ţûñéš ţĥé 3D šçéñé öŕ mödél îñ FÎLÉ. ~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>Inspects and tunes the 3D scene or model in FILE; several get a tab each.</source>
+        <translation>[Îñšpéçţš àñd ţûñéš ţĥé 3D šçéñé öŕ mödél îñ FÎLÉ; šévéŕàl ĝéţ à ţàb éàçĥ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Load this plug-in too; may be given several times.</source>
@@ -1582,8 +1582,8 @@
         <translation>[--làûñçĥ éxpéçţš à pŕöĝŕàm àñd îţš àŕĝûméñţš, àñd ñöţĥîñĝ wàš ĝîvéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>The scene or model to open.</source>
-        <translation>[Ţĥé šçéñé öŕ mödél ţö öpéñ. ~~~~~~~~~~~]</translation>
+        <source>The scene or model to open; several get a tab each, the first in front.</source>
+        <translation>[Ţĥé šçéñé öŕ mödél ţö öpéñ; šévéŕàl ĝéţ à ţàb éàçĥ, ţĥé fîŕšţ îñ fŕöñţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>--select expects NODE.FIELD, such as Material.transparency, and not “%1”.</source>
@@ -1610,12 +1610,12 @@
         <translation>[--šàvé wŕîţéš wĥàţ FÎLÉ ĥöldš, àñd ñö FÎLÉ wàš ĝîvéñ. ~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>--save opens no window, so that --%1 cannot be given with it.</source>
-        <translation>[--šàvé öpéñš ñö wîñdöw, šö ţĥàţ --%1 çàññöţ bé ĝîvéñ wîţĥ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>--save writes what one FILE holds, and %1 were given, the second being “%2”.</source>
+        <translation>[--šàvé wŕîţéš wĥàţ öñé FÎLÉ ĥöldš, àñd %1 wéŕé ĝîvéñ, ţĥé šéçöñd béîñĝ “%2”. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Only one FILE can be opened, and %1 were given, the second being “%2”.</source>
-        <translation>[Öñlý öñé FÎLÉ çàñ bé öpéñéd, àñd %1 wéŕé ĝîvéñ, ţĥé šéçöñd béîñĝ “%2”. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>--save opens no window, so that --%1 cannot be given with it.</source>
+        <translation>[--šàvé öpéñš ñö wîñdöw, šö ţĥàţ --%1 çàññöţ bé ĝîvéñ wîţĥ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>--%1 expects %2, and nothing was given.</source>
@@ -2006,14 +2006,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Šçéñéš (*.%1) ~~~~~]</translation>
     </message>
     <message>
-        <source>The branch “%1” cannot be written to “%2”: %3.</source>
-        <translation>[Ţĥé bŕàñçĥ “%1” çàññöţ bé wŕîţţéñ ţö “%2”: %3. ~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>something in it is of a kind that cannot be copied</source>
-        <translation>[šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd ~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>Saving “%1”…</source>
         <translation>[Šàvîñĝ “%1”… ~~~~~]</translation>
     </message>
@@ -2024,6 +2016,14 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>“%1” was saved as “%2”.</source>
         <translation>[“%1” wàš šàvéd àš “%2”. ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The branch “%1” cannot be written to “%2”: %3.</source>
+        <translation>[Ţĥé bŕàñçĥ “%1” çàññöţ bé wŕîţţéñ ţö “%2”: %3. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>something in it is of a kind that cannot be copied</source>
+        <translation>[šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé çöpîéd ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Revert</source>
@@ -2376,6 +2376,10 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>&amp;Close Tab</source>
         <translation>[&amp;Çlöšé Ţàb ~~~~]</translation>
+    </message>
+    <message>
+        <source>With Ctrl held, it opens in a new tab</source>
+        <translation>[Wîţĥ Çţŕl ĥéld, îţ öpéñš îñ à ñéw ţàb ~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>None Yet</source>
@@ -3148,6 +3152,18 @@ Fîñd à ñödé: Çţŕl+F.
 %1 ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Nothing was dropped, since its place has gone meanwhile; drop it elsewhere.</source>
+        <translation>[Ñöţĥîñĝ wàš dŕöppéd, šîñçé îţš plàçé ĥàš ĝöñé méàñwĥîlé; dŕöp îţ élšéwĥéŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Copying…</source>
+        <translation>[Çöpýîñĝ… ~~~]</translation>
+    </message>
+    <message>
+        <source>Copying was cancelled; nothing has changed.</source>
+        <translation>[Çöpýîñĝ wàš çàñçélléd; ñöţĥîñĝ ĥàš çĥàñĝéd. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Add %1</source>
         <translation>[Àdd %1 ~~]</translation>
     </message>
@@ -3159,9 +3175,21 @@ Fîñd à ñödé: Çţŕl+F.
         <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
         <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd fŕöm ţĥîš pŕöĝŕàm, îñ ţĥîš wîñdöw, çàñ bé pàšţéd îñţö îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
+    <message>
+        <source>Copying was cancelled; the clipboard holds what it held.</source>
+        <translation>[Çöpýîñĝ wàš çàñçélléd; ţĥé çlîpböàŕd ĥöldš wĥàţ îţ ĥéld. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
     <message numerus="yes">
         <source>%n node(s) copied.</source>
         <translation><numerusform>[%n ñödé(š) çöpîéd. ~~~~~~~]</numerusform><numerusform>[%n ñödé(š) çöpîéd. ~~~~~~~]</numerusform></translation>
+    </message>
+    <message>
+        <source>Pasting…</source>
+        <translation>[Pàšţîñĝ… ~~~]</translation>
+    </message>
+    <message>
+        <source>Pasting was cancelled; nothing has changed.</source>
+        <translation>[Pàšţîñĝ wàš çàñçélléd; ñöţĥîñĝ ĥàš çĥàñĝéd. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
@@ -3792,6 +3820,14 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Çömpàŕé Wîţĥ ~~~~~]</translation>
     </message>
     <message>
+        <source>Comparing…</source>
+        <translation>[Çömpàŕîñĝ… ~~~~]</translation>
+    </message>
+    <message>
+        <source>The comparison was cancelled; the list is as it was.</source>
+        <translation>[Ţĥé çömpàŕîšöñ wàš çàñçélléd; ţĥé lîšţ îš àš îţ wàš. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Changes ●</source>
         <translation>[Çĥàñĝéš ● ~~~~]</translation>
     </message>
@@ -3962,6 +3998,14 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Pre&amp;vious Tab</source>
         <translation>[Pŕé&amp;vîöûš Ţàb ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Move Tab to the Ri&amp;ght</source>
+        <translation>[Mövé Ţàb ţö ţĥé Ŕî&amp;ĝĥţ ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Move Tab to the &amp;Left</source>
+        <translation>[Mövé Ţàb ţö ţĥé &amp;Léfţ ~~~~~~~~]</translation>
     </message>
     <message>
         <source>Close this tab</source>

@@ -88,8 +88,9 @@ void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(tr(windowCommand().summary));
     parser.addOptions(options());
-    parser.addPositionalArgument(QStringLiteral("FILE"), tr("The scene or model to open."),
-                                 QStringLiteral("[FILE]"));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"), tr("The scene or model to open; several get a tab each, the first in front."),
+        QStringLiteral("[FILE...]"));
 }
 
 // The part behind the last dot is the field: names of nodes may have dots.
@@ -156,6 +157,9 @@ QString checkSave(const CommandLine& line, const QCommandLineParser& parser)
         return {};
     if (line.file.isEmpty())
         return tr("--save writes what FILE holds, and no FILE was given.");
+    if (!line.others.isEmpty())
+        return tr("--save writes what one FILE holds, and %1 were given, the second being “%2”.")
+            .arg(QString::number(line.others.size() + 1), line.others.first());
     for (const char* name : {"screenshot", "picture", "select"}) {
         if (parser.isSet(QLatin1String(name)))
             return tr("--save opens no window, so that --%1 cannot be given with it.")
@@ -167,17 +171,15 @@ QString checkSave(const CommandLine& line, const QCommandLineParser& parser)
 QString check(CommandLine& line, const QCommandLineParser& parser)
 {
     const QStringList files = parser.positionalArguments();
-    if (files.size() > 1)
-        return tr("Only one FILE can be opened, and %1 were given, the second being “%2”.")
-            .arg(QString::number(files.size()), files.at(1));
     for (const QCommandLineOption& option : options()) {
         if (!option.valueName().isEmpty() && parser.values(option).contains(QString()))
             return tr("--%1 expects %2, and nothing was given.")
                 .arg(option.names().first(), option.valueName());
     }
-    if (files.value(0).isEmpty() && !files.isEmpty())
+    if (files.contains(QString()))
         return tr("FILE expects the path of a scene or model, and nothing was given.");
     line.file = files.value(0);
+    line.others = files.mid(1);
     if (line.isLive() && (!files.isEmpty() || (line.isAttaching && !line.launch.isEmpty())))
         return tr("Either FILE or one running program can be shown, and more than one of them was given.");
     line.save = parser.value(QStringLiteral("save"));

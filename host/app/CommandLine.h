@@ -13,6 +13,7 @@ namespace scopix
 /// What the command line asks for.
 struct SCOPIX_HOST_API CommandLine {
     QString file;
+    QStringList others; // further files, each for a tab
     QStringList plugins;
     QString profile;
     QString selectNode; // of --select NODE.FIELD

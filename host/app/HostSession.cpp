@@ -173,8 +173,10 @@ void HostSession::start(const CommandLine& line)
         m_window->openLive({line.launch, line.attach, line.selectNode});
     else if (line.file.isEmpty())
         openFinished(true);
-    else
+    else if (line.others.isEmpty())
         m_window->openFile(line.file);
+    else
+        m_window->openFiles(QStringList(line.file) + line.others);
 }
 
 // Before their tool reads the file.

@@ -3,6 +3,8 @@
 
 #include <QtGlobal>
 
+#include <limits>
+
 namespace scopix
 {
 
@@ -10,10 +12,11 @@ const Command& windowCommand()
 {
     static const Command command{
         "",
-        "[FILE]",
-        QT_TRANSLATE_NOOP("CommandLine", "Inspects and tunes the 3D scene or model in FILE."),
+        "[FILE...]",
+        QT_TRANSLATE_NOOP("CommandLine",
+                          "Inspects and tunes the 3D scene or model in FILE; several get a tab each."),
         0,
-        1,
+        std::numeric_limits<std::size_t>::max(),
         {{"plugin", "PATH",
           QT_TRANSLATE_NOOP("CommandLine", "Load this plug-in too; may be given several times.")},
          {"profile", "NAME", QT_TRANSLATE_NOOP("CommandLine", "Use this profile in this session.")},

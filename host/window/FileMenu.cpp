@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QGuiApplication>
 #include <QMenu>
 
 namespace scopix
@@ -44,9 +45,9 @@ void FileMenu::fillRecent()
         QString name = QDir::toNativeSeparators(path);
         name.replace(QLatin1Char('&'), QStringLiteral("&&"));
         const QString digit = ++number < 10 ? QStringLiteral("&%1  ").arg(number) : QString();
-        QAction* action =
-            m_recent->addAction(digit + name, &m_files, [this, path] { m_files.openRecent(path); });
+        QAction* action = m_recent->addAction(digit + name, this, [this, path] { openRecent(path); });
         action->setData(path);
+        action->setToolTip(tr("With Ctrl held, it opens in a new tab"));
     }
     if (number == 0) {
         m_recent->addAction(tr("None Yet"))->setEnabled(false);
@@ -54,6 +55,14 @@ void FileMenu::fillRecent()
     }
     m_recent->addSeparator();
     m_recent->addAction(tr("&Clear This List"), this, [this] { m_files.getRecent().clear(); });
+}
+
+void FileMenu::openRecent(const QString& path)
+{
+    if (QGuiApplication::keyboardModifiers() & Qt::ControlModifier)
+        m_files.openRecentInTab(path);
+    else
+        m_files.openRecent(path);
 }
 
 } // namespace scopix

@@ -23,6 +23,7 @@ public:
 
 private:
     void fillRecent();
+    void openRecent(const QString& path);
 
     SceneFiles& m_files;
     QAction* m_open;

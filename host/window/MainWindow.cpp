@@ -74,6 +74,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace scopix
 {
 
@@ -549,6 +551,11 @@ void MainWindow::openFile(const QString& path)
     m_files.open(path);
 }
 
+void MainWindow::openFiles(const QStringList& paths)
+{
+    m_files.openInTabs(paths);
+}
+
 void MainWindow::openAnother(const QString& path)
 {
     m_files.openAnother(path);
@@ -642,7 +649,8 @@ void MainWindow::setTheme(Theme theme)
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.first().isLocalFile())
+    const auto isFile = [](const QUrl& url) { return url.isLocalFile(); };
+    if (!urls.isEmpty() && std::all_of(urls.begin(), urls.end(), isFile))
         event->acceptProposedAction();
 }
 
@@ -650,10 +658,25 @@ void MainWindow::dropEvent(QDropEvent* event)
 {
     event->accept();
     // From the event loop: the other program waits for the drop to end, and the user may be asked something.
-    const QString path = event->mimeData()->urls().first().toLocalFile();
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        paths += url.toLocalFile();
+    const bool inTabs = paths.size() > 1 || event->keyboardModifiers() & Qt::ControlModifier;
     QMetaObject::invokeMethod(
-        this, [this, path] { PatchActs::isPatch(path) ? openPatch(path) : m_files.openAnother(path); },
-        Qt::QueuedConnection);
+        this, [this, paths, inTabs] { openDropped(paths, inTabs); }, Qt::QueuedConnection);
+}
+
+// Patches change the scene that shows, which is another one once the files are open.
+void MainWindow::openDropped(QStringList paths, bool inTabs)
+{
+    const auto patches = std::stable_partition(paths.begin(), paths.end(),
+                                               [](const QString& path) { return !PatchActs::isPatch(path); });
+    std::for_each(patches, paths.end(), [this](const QString& path) { openPatch(path); });
+    paths.erase(patches, paths.end());
+    if (inTabs && !paths.isEmpty())
+        m_files.openInTabs(paths);
+    else if (!paths.isEmpty())
+        m_files.openAnother(paths.first());
 }
 
 void MainWindow::openPatch(const QString& path)

@@ -78,6 +78,7 @@ public:
     void setTreeColumns(const QList<SpxTreeColumnProvider*>& providers) override;
     void updateTreeColumns() override;
     void openFile(const QString& path) override;
+    void openFiles(const QStringList& paths) override;
     void openAnother(const QString& path) override;
     void openLive(const LiveOrder& order) override;
     bool selectField(const QString& node, const QString& field) override;
@@ -129,6 +130,7 @@ private:
                          Qt::DockWidgetArea area);
 
     void openPatch(const QString& path);
+    void openDropped(QStringList paths, bool inTabs);
     void showTitle();
     void askForScreenshot();
     void showAbout();

@@ -87,6 +87,14 @@ void OpenScenes::bringToFront(OpenScene& scene)
     emit listChanged();
 }
 
+void OpenScenes::move(int from, int to)
+{
+    const auto first = m_all.begin() + std::min(from, to);
+    const auto last = m_all.begin() + std::max(from, to) + 1;
+    std::rotate(first, from < to ? first + 1 : last - 1, last);
+    emit listChanged();
+}
+
 void OpenScenes::remove(OpenScene& scene)
 {
     const auto at =

@@ -23,12 +23,14 @@ public:
     ~OpenScenes() override;
 
     OpenScene& getFront() const { return *m_front; }
-    /// In the order in which they were opened.
+    /// In the order in which they were opened, or the user has put them.
     std::vector<OpenScene*> getAll() const;
     /// A new one, in front; a scene is opened in it before anything else happens. The one in front where
     /// that is untouched.
     OpenScene& add();
     void bringToFront(OpenScene& scene);
+    /// Gives the one at this place in the order another place.
+    void move(int from, int to);
     /// Closes it, which must not be the only one, and asks nobody. Another one comes to the front first.
     void remove(OpenScene& scene);
     /// Of those that are there, and of those to come.

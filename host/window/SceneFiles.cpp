@@ -28,6 +28,7 @@
 #include <QMessageBox>
 
 #include <optional>
+#include <utility>
 
 namespace scopix
 {
@@ -45,17 +46,54 @@ SceneFiles::~SceneFiles() = default;
 
 void SceneFiles::open(const QString& path)
 {
+    m_row.reset();
     read(path, &m_scenes.getFront());
 }
 
 void SceneFiles::openInTab(const QString& path)
+{
+    m_row.reset();
+    readInTab(path);
+}
+
+void SceneFiles::openInTabs(const QStringList& paths)
+{
+    m_row = Row{paths, {}, true};
+    openNext();
+}
+
+void SceneFiles::openNext()
+{
+    if (m_row && !m_row->waiting.isEmpty())
+        readInTab(m_row->waiting.takeFirst());
+}
+
+// One file is open, or will not be.
+void SceneFiles::finish(bool good)
+{
+    if (!m_row)
+        return emit opened(good);
+    m_row->isGood = m_row->isGood && good;
+    if (good && !m_row->first)
+        m_row->first = &m_scenes.getFront();
+    if (!m_row->waiting.isEmpty()) {
+        QMetaObject::invokeMethod(this, &SceneFiles::openNext, Qt::QueuedConnection);
+        return;
+    }
+    const Row row = *std::exchange(m_row, std::nullopt);
+    if (row.first)
+        m_scenes.bringToFront(*row.first);
+    emit opened(row.isGood);
+}
+
+void SceneFiles::readInTab(const QString& path)
 {
     for (OpenScene* each : m_scenes.getAll()) {
         if (each->getDocument().getPath().isEmpty() ||
             QFileInfo(each->getDocument().getPath()) != QFileInfo(path))
             continue;
         m_scenes.bringToFront(*each);
-        emit opened(true);
+        finish(true);
         return;
     }
     read(path, nullptr);
@@ -124,8 +162,10 @@ void SceneFiles::cancelled(const QString& path)
 {
     forgetImport();
     m_reselect = {};
+    if (m_row)
+        m_row->waiting.clear();
     m_notifier.info(tr("Reading “%1” was cancelled.").arg(path));
-    emit opened(false);
+    finish(false);
 }
 
 void SceneFiles::show(SoNode* root, const QString& path, const std::vector<SoTexture2*>* textures)
@@ -148,7 +188,7 @@ void SceneFiles::show(SoNode* root, const QString& path, const std::vector<SoTex
     } else {
         m_notifier.info(tr("Opened “%1”.").arg(path));
     }
-    emit opened(true);
+    finish(true);
 }
 
 void SceneFiles::reload()
@@ -163,7 +203,7 @@ void SceneFiles::reportFailure(const QString& sentence)
     forgetImport();
     m_reselect = {};
     m_notifier.error(sentence);
-    emit opened(false);
+    finish(false);
 }
 
 void SceneFiles::newScene()
@@ -207,11 +247,25 @@ void SceneFiles::askForFileInTab()
 
 void SceneFiles::openRecent(const QString& path)
 {
+    if (isStillThere(path))
+        openAnother(path);
+}
+
+void SceneFiles::openRecentInTab(const QString& path)
+{
+    if (isStillThere(path))
+        openInTab(path);
+}
+
+// Else it is no recent file any more.
+bool SceneFiles::isStillThere(const QString& path)
+{
     if (QFileInfo::exists(path))
-        return openAnother(path);
+        return true;
     m_recent.remove(path);
     m_notifier.error(
         tr("“%1” does not exist any more and was removed from the list of recent files.").arg(path));
+    return false;
 }
 
 bool SceneFiles::save()

@@ -9,6 +9,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 namespace scopix
 {
@@ -40,6 +41,9 @@ public:
     void open(const QString& path);
     /// The same beside what is open. What is open already comes to the front.
     void openInTab(const QString& path);
+    /// Each beside what is open, one after the other; the first that can be opened ends up in front. opened()
+    /// follows once, and says whether all are. Cancelling one leaves out those that are still to come.
+    void openInTabs(const QStringList& paths);
     /// False when it is not written: it cannot be, which is reported, or another program has changed the file
     /// since it was opened, and the user does not want to replace it; or its ending is one to export to,
     /// which keeps less than the scene.
@@ -57,6 +61,8 @@ public:
     void openAnother(const QString& path);
     void askForFileInTab();
     void openRecent(const QString& path);
+    /// The same in a tab of its own.
+    void openRecentInTab(const QString& path);
     /// Closes it after asking about unsaved edits; the only one makes room for a new scene.
     void closeScene(OpenScene& scene);
     /// False when it was not saved: it could not be written, or the user gave no name.
@@ -79,6 +85,10 @@ signals:
 
 private:
     void read(const QString& path, OpenScene* target);
+    void readInTab(const QString& path);
+    void openNext();
+    void finish(bool good);
+    bool isStillThere(const QString& path);
     QString askForPath();
     bool askWhetherToDrop();
     bool mayReplace(const QString& path);
@@ -110,9 +120,16 @@ private:
     QPointer<FileImport> m_import;
     QPointer<OpenScene> m_target; // whose place is taken by what is being opened
     bool m_isForTab = false;      // it gets one of its own
-    FileStamp m_opening;          // of the file that is being opened, before it is read
-    SelectionMemo m_reselect;     // of what is being reloaded
-    quint64 m_droppable = 0;      // the edit count up to which the user agreed to lose edits
+    /// Several files that are opened one after the other.
+    struct Row {
+        QStringList waiting;
+        QPointer<OpenScene> first; // that could be opened
+        bool isGood = true;
+    };
+    std::optional<Row> m_row;
+    FileStamp m_opening;      // of the file that is being opened, before it is read
+    SelectionMemo m_reselect; // of what is being reloaded
+    quint64 m_droppable = 0;  // the edit count up to which the user agreed to lose edits
 };
 
 } // namespace scopix

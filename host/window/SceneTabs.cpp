@@ -24,23 +24,30 @@ SceneTabs::SceneTabs(SceneFiles& files)
     setDocumentMode(true);
     setExpanding(false);
     setTabsClosable(true);
+    setMovable(true);
     setElideMode(Qt::ElideMiddle);
     connect(&files.getScenes(), &OpenScenes::listChanged, this, &SceneTabs::showAll);
     connect(this, &QTabBar::currentChanged, this, &SceneTabs::choose);
+    connect(this, &QTabBar::tabMoved, &files.getScenes(), &OpenScenes::move);
     connect(this, &QTabBar::tabCloseRequested, this, &SceneTabs::close);
     showAll();
 }
 
 void SceneTabs::addTo(QMenu& menu)
 {
-    const auto add = [&](const QString& text, const char* name, int by, int key) {
+    const auto add = [&](const QString& text, const char* name, void (SceneTabs::*act)(int), int by,
+                         int key) {
         QAction* action = menu.addAction(
-            text, this, [this, by] { go(by); }, key);
+            text, this, [this, act, by] { (this->*act)(by); }, key);
         action->setObjectName(QLatin1String(name));
         m_acts.append(action);
     };
-    add(tr("Ne&xt Tab"), "nextTabAction", 1, Qt::CTRL + Qt::Key_Tab);
-    add(tr("Pre&vious Tab"), "previousTabAction", -1, Qt::CTRL + Qt::SHIFT + Qt::Key_Tab);
+    add(tr("Ne&xt Tab"), "nextTabAction", &SceneTabs::go, 1, Qt::CTRL + Qt::Key_Tab);
+    add(tr("Pre&vious Tab"), "previousTabAction", &SceneTabs::go, -1, Qt::CTRL + Qt::SHIFT + Qt::Key_Tab);
+    add(tr("Move Tab to the Ri&ght"), "moveTabRightAction", &SceneTabs::shift, 1,
+        Qt::CTRL + Qt::SHIFT + Qt::Key_PageDown);
+    add(tr("Move Tab to the &Left"), "moveTabLeftAction", &SceneTabs::shift, -1,
+        Qt::CTRL + Qt::SHIFT + Qt::Key_PageUp);
     showAll();
 }
 
@@ -100,6 +107,13 @@ void SceneTabs::close(int index)
 void SceneTabs::go(int by)
 {
     choose((currentIndex() + by + count()) % count());
+}
+
+void SceneTabs::shift(int by)
+{
+    const int to = currentIndex() + by;
+    if (to >= 0 && to < count())
+        moveTab(currentIndex(), to);
 }
 
 void SceneTabs::mouseReleaseEvent(QMouseEvent* event)

@@ -13,7 +13,7 @@ class OpenScene;
 class SceneFiles;
 
 /// A tab for each scene or program that is open, named by it, with a dot while it has unsaved edits. Hidden
-/// while there is one. GUI thread only.
+/// while there is one. Dragging a tab, or an act, gives it another place. GUI thread only.
 class SceneTabs : public QTabBar
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ private:
     void choose(int index);
     void close(int index);
     void go(int by);
+    void shift(int by);
 
     SceneFiles& m_files;
     QList<QAction*> m_acts; // that only several tabs are for

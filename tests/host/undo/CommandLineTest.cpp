@@ -49,6 +49,15 @@ TEST(CommandLine, TakesHowAPictureIsMade)
     EXPECT_EQ(parse({"a.glb"}).toneMapping, "");
 }
 
+TEST(CommandLine, TakesSeveralFiles)
+{
+    const CommandLine line = parse({"a.glb", "--counters", "b.obj", "c.xsg"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_EQ(line.file, "a.glb");
+    EXPECT_EQ(line.others, (QStringList{"b.obj", "c.xsg"}));
+    EXPECT_TRUE(CommandLine::helpText().contains("[FILE...]"));
+}
+
 TEST(CommandLine, TakesTheFileToSaveTo)
 {
     const CommandLine line = parse({"a.glb", "--save", "b.obj"});
@@ -120,7 +129,8 @@ TEST_P(BadCommandLine, IsReportedInOneSentence)
 INSTANTIATE_TEST_SUITE_P(
     Cases, BadCommandLine,
     ::testing::Values(Bad{{"--nonsense"}, "nonsense"}, Bad{{"--plugin"}, "plugin"},
-                      Bad{{"--plugin="}, "--plugin"}, Bad{{"a.glb", "b.glb"}, "b.glb"}, Bad{{""}, "FILE"},
+                      Bad{{"--plugin="}, "--plugin"}, Bad{{"a.glb", "b.glb", "--save", "c.obj"}, "b.glb"},
+                      Bad{{""}, "FILE"}, Bad{{"a.glb", ""}, "FILE"},
                       Bad{{"--select", "Material"}, "NODE.FIELD"}, Bad{{"--select", ".x"}, "NODE.FIELD"},
                       Bad{{"--select", "Material."}, "NODE.FIELD"}, Bad{{"--screenshot", ""}, "--screenshot"},
                       Bad{{"--picture", "a.png", "--size", "640"}, "WIDTHxHEIGHT"},

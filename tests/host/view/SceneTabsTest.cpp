@@ -25,6 +25,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -157,6 +158,46 @@ protected:
     {
         clickRow(tree().getModel().index(0, 0, tree().getModel().index(0, 0)));
         key(Qt::Key_D, Qt::ControlModifier);
+    }
+    QStringList names()
+    {
+        QStringList names;
+        for (int i = 0; i < tabs().count(); ++i)
+            names << tabs().tabText(i);
+        return names;
+    }
+    void drop(const QStringList& paths, Qt::KeyboardModifiers modifiers)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QSignalSpy opened(&files(), &SceneFiles::opened);
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&program->window, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&program->window, &event);
+        ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+        settle();
+    }
+    void moveMouse(QPoint to)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, tabs().mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&tabs(), &event);
+    }
+    // By the mouse, beyond the middle of the other one.
+    void dragTab(int from, int to)
+    {
+        const QPoint start = tabs().tabRect(from).center();
+        const QRect end = tabs().tabRect(to);
+        const QPoint goal(from < to ? end.right() : end.left(), start.y());
+        QTest::mousePress(&tabs(), Qt::LeftButton, {}, start);
+        for (int step = 1; step <= 20; ++step)
+            moveMouse(start + (goal - start) * step / 20);
+        QTest::mouseRelease(&tabs(), Qt::LeftButton, {}, goal);
+        settle();
     }
     QStringList kept() const { return QDir(home.filePath("scopix/recovery")).entryList({"*.xsg"}); }
 
@@ -345,6 +386,78 @@ TEST_F(Tabs, WhatIsReadMeanwhileComesToItsOwnPlace)
     EXPECT_EQ(text(), second);
 }
 
+TEST_F(Tabs, SeveralFilesOpenInARow)
+{
+    QSignalSpy opened(&files(), &SceneFiles::opened);
+    program->notifier.setAttended(false);
+    program->window.openFiles(
+        {home.filePath("missing.xsg"), makeFile("a"), home.filePath("b.nothing"), makeFile("c")});
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    program->notifier.setAttended(true);
+    settle();
+    EXPECT_EQ(opened.size(), 1);
+    EXPECT_FALSE(opened.first().first().toBool()) << "not all of them are open";
+    EXPECT_EQ(names(), (QStringList{"a.xsg", "c.xsg"}));
+    EXPECT_EQ(title(), "a.xsg") << "the first";
+    EXPECT_EQ(program->notifier.errorCount(), 2);
+}
+
+TEST_F(Tabs, WhatIsDroppedWithCtrlOrIsSeveralGetsATab)
+{
+    openInTab(makeFile("a"));
+    duplicate();
+    drop({makeFile("b"), makeFile("c")}, {});
+    EXPECT_EQ(names(), (QStringList{"a.xsg ●", "b.xsg", "c.xsg"}));
+    EXPECT_EQ(title(), "b.xsg");
+    drop({makeFile("d")}, Qt::ControlModifier);
+    EXPECT_EQ(names(), (QStringList{"a.xsg ●", "b.xsg", "c.xsg", "d.xsg"}));
+    drop({makeFile("e")}, {});
+    EXPECT_EQ(names(), (QStringList{"a.xsg ●", "b.xsg", "c.xsg", "e.xsg"}));
+}
+
+TEST_F(Tabs, ARecentFileOpensInATabWithCtrlHeld)
+{
+    const QString first = makeFile("a");
+    openInTab(first);
+    const QString second = makeFile("b");
+    files().getRecent().add(second);
+    auto* menu = program->window.findChild<QMenu*>("recentFiles");
+    ASSERT_TRUE(menu);
+    menu->popup(program->window.mapToGlobal({})); // which fills it
+    const QList<QAction*> entries = menu->actions();
+    const auto entry = std::find_if(entries.begin(), entries.end(),
+                                    [&](const QAction* each) { return each->data().toString() == second; });
+    ASSERT_NE(entry, entries.end());
+    QSignalSpy opened(&files(), &SceneFiles::opened);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::ControlModifier, menu->actionGeometry(*entry).center());
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    settle();
+    EXPECT_EQ(names(), (QStringList{"a.xsg", "b.xsg"}));
+}
+
+TEST_F(Tabs, DraggingOneGivesItAnotherPlace)
+{
+    for (const char* name : {"a", "b", "c"})
+        openInTab(makeFile(name));
+    dragTab(0, 2);
+    EXPECT_EQ(names(), (QStringList{"b.xsg", "c.xsg", "a.xsg"}));
+    EXPECT_EQ(title(), "a.xsg") << "what was dragged";
+    for (int i = 0; i < tabs().count(); ++i) {
+        clickTab(i);
+        EXPECT_EQ(tabs().tabText(i), title());
+    }
+    key(Qt::Key_PageUp, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(names(), (QStringList{"b.xsg", "a.xsg", "c.xsg"}));
+    key(Qt::Key_PageDown, Qt::ControlModifier | Qt::ShiftModifier);
+    key(Qt::Key_PageDown, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(names(), (QStringList{"b.xsg", "c.xsg", "a.xsg"})) << "the last one stays the last";
+    duplicate();
+    EXPECT_EQ(names(), (QStringList{"b.xsg", "c.xsg", "a.xsg ●"}));
+    clickTab(0, Qt::MiddleButton);
+    EXPECT_EQ(names(), (QStringList{"c.xsg", "a.xsg ●"}));
+    EXPECT_EQ(title(), "c.xsg");
+}
+
 namespace
 {
 
@@ -417,6 +530,11 @@ protected:
         else
             key(Qt::Key_Tab, below(2) == 0 ? Qt::ControlModifier : Qt::ControlModifier | Qt::ShiftModifier);
     }
+    void moveTab()
+    {
+        if (tabs().count() > 1)
+            dragTab(below(tabs().count()), below(tabs().count()));
+    }
     void closeTab()
     {
         if (tabs().count() < 3)
@@ -427,7 +545,9 @@ protected:
     }
     void act()
     {
-        switch (below(12)) {
+        switch (below(13)) {
+        case 12:
+            return moveTab();
         case 0:
             return openAny();
         case 1:
