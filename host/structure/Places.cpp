@@ -121,17 +121,22 @@ Paths topmost(const Paths& paths, const SoNode* root)
 
 bool isBelow(const SoNode* node, const SoNode* above)
 {
+    return findAbove(node, [above](const SoNode* each) { return each == above; });
+}
+
+const SoNode* findAbove(const SoNode* node, const std::function<bool(const SoNode*)>& isWanted)
+{
     std::vector<const SoNode*> pending{node};
     std::unordered_set<const SoNode*> seen;
     while (!pending.empty()) {
         const SoNode* each = pending.back();
         pending.pop_back();
-        if (each == above)
-            return true;
+        if (isWanted(each))
+            return each;
         if (seen.insert(each).second)
             pending.insert(pending.end(), each->getParents().begin(), each->getParents().end());
     }
-    return false;
+    return nullptr;
 }
 
 int countPlaces(const SoNode* node, const SoNode* root, int most)

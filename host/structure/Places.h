@@ -6,6 +6,8 @@
 
 #include <QList>
 
+#include <functional>
+
 namespace scopix
 {
 
@@ -23,6 +25,8 @@ bool isInScene(const SoPath& path, const SoNode* root);
 Paths topmost(const Paths& paths, const SoNode* root);
 /// Whether the one is the other, or stands somewhere below it.
 bool isBelow(const SoNode* node, const SoNode* above);
+/// The first that is wanted of the node and all that it stands below; null where there is none.
+const SoNode* findAbove(const SoNode* node, const std::function<bool(const SoNode*)>& isWanted);
 /// How often the node stands below the root, a group that is shared counting once; no more than `most` are
 /// counted. Places that only the undo history knows do not count.
 int countPlaces(const SoNode* node, const SoNode* root, int most = 1000);

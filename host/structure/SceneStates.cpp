@@ -2,6 +2,7 @@
 #include "structure/SceneStates.h"
 
 #include "structure/MirroredNode.h"
+#include "structure/Places.h"
 #include "text/NodeText.h"
 
 #include <scopix/SpxCommand.h>
@@ -110,19 +111,8 @@ void SceneStates::setLocked(const std::vector<SoNode*>& nodes, bool locked)
 
 const SoNode* SceneStates::lockOf(const SoNode* node) const
 {
-    std::vector<const SoNode*> pending;
-    std::unordered_set<const SoNode*> seen;
-    if (!m_locked.empty())
-        pending.push_back(node);
-    while (!pending.empty()) {
-        const SoNode* each = pending.back();
-        pending.pop_back();
-        if (isLocked(each))
-            return each;
-        if (seen.insert(each).second)
-            pending.insert(pending.end(), each->getParents().begin(), each->getParents().end());
-    }
-    return nullptr;
+    return m_locked.empty() ? nullptr
+                            : findAbove(node, [this](const SoNode* each) { return isLocked(each); });
 }
 
 const SoNode* SceneStates::lockOn(const SoPath& path) const

@@ -274,7 +274,7 @@ void UndoHistory::takeBackCurrent(const QString& refusal)
         step->undo(reason);
     }
     step->drop();
-    m_unused.push_back(step);
+    releaseLater(step);
     emit refused(refusal);
 }
 
@@ -306,9 +306,9 @@ void UndoHistory::finishCurrent()
     if (!m_currentIsOn && current->isStale())
         return m_unsettled.push_back(current);
     current->close();
-    m_unused.push_back(current);
-    std::move(m_redoable.begin(), m_redoable.end(), std::back_inserter(m_unused));
-    m_redoable.clear();
+    releaseLater(current);
+    for (StepPtr& step : std::exchange(m_redoable, {}))
+        releaseLater(std::move(step));
     m_currentIsOn = false;
 }
 
@@ -465,7 +465,7 @@ int UndoHistory::dropSteps(const SoFieldContainer* container)
     if (m_current && !m_currentIsOn)
         drop(m_current);
     if (m_current && m_current->isDropped()) {
-        m_unused.push_back(std::exchange(m_current, nullptr));
+        releaseLater(std::exchange(m_current, nullptr));
         m_currentIsOn = false;
     }
     return static_cast<int>(count);

@@ -136,9 +136,16 @@ bool PatchLine::readName(std::optional<std::string>& name)
     m_in.skipBlanks();
     if (m_in.peek() != '"')
         return true;
-    if (!m_in.readQuoted(name.emplace()))
-        return fail(SbSentence("the end of the quotes"));
-    return name->find('\0') == std::string::npos || fail(SbSentence("a name without a byte 0"));
+    return readQuoted(name.emplace(), SbSentence("the end of the quotes"),
+                      SbSentence("a name without a byte 0"));
+}
+
+// What no file can hold is refused.
+bool PatchLine::readQuoted(std::string& text, const SbSentence& expected, const SbSentence& expectedText)
+{
+    if (!m_in.readQuoted(text))
+        return fail(expected);
+    return text.find('\0') == std::string::npos || fail(expectedText);
 }
 
 bool PatchLine::readOrigin(SceneChange& change)
@@ -187,9 +194,8 @@ bool PatchLine::readValue(SceneChange& change)
         return true;
     if (accept("!text")) {
         m_in.skipBlanks();
-        if (!m_in.readQuoted(change.value.emplace()))
-            return fail(SbSentence("a text in quotes"));
-        return change.value->find('\0') == std::string::npos || fail(SbSentence("a text without a byte 0"));
+        return readQuoted(change.value.emplace(), SbSentence("a text in quotes"),
+                          SbSentence("a text without a byte 0"));
     }
     const ValueExtent extent(m_in.rest());
     const std::string_view value = trimmed(m_in.rest().substr(0, extent.length));

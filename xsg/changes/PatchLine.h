@@ -25,6 +25,7 @@ private:
     bool readAnchor(SceneChange& change);
     bool readOrigin(SceneChange& change);
     bool readName(std::optional<std::string>& name);
+    bool readQuoted(std::string& text, const SbSentence& expected, const SbSentence& expectedText);
     bool readReplacement(SceneChange& change);
     bool readSet(SceneChange& change);
     bool readValue(SceneChange& change);
