@@ -34,8 +34,7 @@ bool OwnEvents::isOwn(QObject* object) const
     return object;
 }
 
-// Nothing is lost: timers and sockets report again until they are served. Windows of the system paint by
-// timers.
+// Nothing is lost (decisions.md: standing-scene). Windows of the system paint by timers.
 bool OwnEvents::eventFilter(QObject* watched, QEvent* event)
 {
     return isHeldBack(event->type()) && !watched->isWindowType() && !isOwn(watched);
