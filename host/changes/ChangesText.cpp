@@ -2,6 +2,7 @@
 #include "changes/ChangesText.h"
 
 #include "structure/BranchText.h"
+#include "support/LongWork.h"
 #include "text/NodeText.h"
 
 #include <xsg/core/SoField.h>
@@ -44,6 +45,7 @@ QString changesAsCpp(const ChangeSource& source, const ChangeKeySet& keys)
 {
     QString text;
     for (const ChangeKey& key : sorted(source, keys)) {
+        LongWork::goOn();
         const ChangeSource::Text change = source.describe(key);
         QString comment = QStringLiteral("// %1: %2 → %3\n").arg(change.path, change.before, change.after);
         comment.replace(QRegularExpression(QStringLiteral("[\\n\\r\\\\]+(?!$)")), QStringLiteral(" "));
@@ -64,6 +66,7 @@ QString changesAsScene(const ChangeSource& source, const ChangeKeySet& keys)
     std::vector<SoRef<SoNode>> nodes;
     std::map<const SoNode*, SoNode*> copies;
     for (const ChangeKey& key : sorted(source, keys)) {
+        LongWork::goOn();
         SoNode* node = source.nodeOf(key);
         const SoField* field = source.fieldOf(key);
         if (key.kind == ChangeKey::Kind::Insert) {
@@ -84,7 +87,7 @@ QString changesAsScene(const ChangeSource& source, const ChangeKeySet& keys)
     std::vector<SoNode*> all;
     for (const auto& node : nodes)
         all.push_back(node.get());
-    return all.empty() ? QString() : QString::fromStdString(writeBranches(all));
+    return all.empty() ? QString() : QString::fromStdString(writeBranches(all, LongWork::goOn));
 }
 
 } // namespace scopix

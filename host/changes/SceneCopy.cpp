@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "changes/SceneCopy.h"
 
+#include "support/LongWork.h"
+
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/base/SoMFNode.h>
 #include <xsg/nodes/base/SoSFNode.h>
@@ -16,7 +18,8 @@ SceneCopy::SceneCopy(SoNode* root, const std::vector<SoNode*>& removed)
     for (SoNode* node : removed)
         holder->addChild(node);
     std::string error;
-    m_holder = SoSceneFile::readText(SoSceneFile::writeText(holder.get()), "copy", error);
+    const auto goOn = [](double) { LongWork::goOn(); };
+    m_holder = SoSceneFile::readText(SoSceneFile::writeText(holder.get(), goOn), "copy", error, goOn);
     if (!m_holder)
         return;
     std::vector<std::pair<SoNode*, SoNode*>> pending{{holder.get(), m_holder.get()}};

@@ -2,6 +2,7 @@
 // The changes of SceneEdits as a patch.
 #include "changes/SceneCopy.h"
 #include "changes/SceneEdits.h"
+#include "support/LongWork.h"
 #include "undo/FieldEdit.h"
 
 #include <xsg/changes/SceneDiff.h>
@@ -64,6 +65,7 @@ xsg::SceneChanges SceneEdits::patchOfFields(const ChangeKeySet& keys) const
     sortByScene(sorted);
     xsg::SceneChanges all;
     for (std::size_t i = 0; i < sorted.size();) {
+        LongWork::goOn();
         const SoNode& node = *nodeOf(sorted[i]);
         const SoRef<SoNode> before = makeAlike(node);
         const SoRef<SoNode> after = makeAlike(node);
@@ -92,7 +94,8 @@ xsg::SceneChanges SceneEdits::patchOfScenes(const ChangeKeySet& keys) const
     }
     const SoRef<SoNode> before = copyWithout(nullptr);
     const SoRef<SoNode> after = kept.empty() ? SoRef<SoNode>(m_root) : copyWithout(&kept);
-    return before && after ? xsg::compareScenes(before.get(), after.get()) : xsg::SceneChanges();
+    return before && after ? xsg::compareScenes(before.get(), after.get(), LongWork::goOn)
+                           : xsg::SceneChanges();
 }
 
 SoRef<SoNode> SceneEdits::makeFormerScene() const

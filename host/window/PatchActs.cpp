@@ -6,6 +6,7 @@
 #include "changes/PatchCommand.h"
 #include "document/PatchFile.h"
 #include "services/HostServices.h"
+#include "support/LongWork.h"
 #include "support/Printable.h"
 #include "support/UserNotifier.h"
 #include "window/DefaultScene.h"
@@ -72,7 +73,13 @@ bool PatchActs::save(const QString& path)
         m_notifier.info(tr("There is no change that could be saved."));
         return false;
     }
-    const QString error = writePatch(path, m_panel.getModel().getSource()->makePatch(chosen));
+    xsg::SceneChanges patch;
+    if (!runLong(tr("Saving “%1”…").arg(QFileInfo(path).fileName()),
+                 [&] { patch = m_panel.getModel().getSource()->makePatch(chosen); })) {
+        m_notifier.info(tr("Saving “%1” was cancelled.").arg(path));
+        return false;
+    }
+    const QString error = writePatch(path, patch);
     if (error.isEmpty())
         m_notifier.info(tr("Saved the changes as “%1”.").arg(path));
     else
@@ -178,8 +185,17 @@ void PatchActs::tell(const QString& name, int applied, int alreadySo, const std:
     box->open();
 }
 
-void PatchActs::put(const QString& text, const QString& sentence)
+bool PatchActs::runLong(const QString& what, const std::function<void()>& work)
 {
+    QWidget* window = m_notifier.isAttended() ? &m_window : nullptr;
+    return LongWork::runStill(window, what, m_files.getDocument().getRoot(), work);
+}
+
+void PatchActs::put(const std::function<QString()>& makeText, const QString& sentence)
+{
+    QString text;
+    if (!runLong(tr("Copying…"), [&] { text = makeText(); }))
+        return m_notifier.info(tr("Copying was cancelled; nothing has changed."));
     if (text.isEmpty())
         return m_notifier.info(tr("There is no change that could be copied so."));
     QApplication::clipboard()->setText(text);
@@ -188,20 +204,23 @@ void PatchActs::put(const QString& text, const QString& sentence)
 
 void PatchActs::copy()
 {
-    ChangeSource& source = *m_panel.getModel().getSource();
-    put(QString::fromStdString(xsg::PatchText::write(source.makePatch(m_panel.getChosen()))),
+    put(
+        [this] {
+            ChangeSource& source = *m_panel.getModel().getSource();
+            return QString::fromStdString(xsg::PatchText::write(source.makePatch(m_panel.getChosen())));
+        },
         tr("The changes were copied as a patch."));
 }
 
 void PatchActs::copyCpp()
 {
-    put(changesAsCpp(*m_panel.getModel().getSource(), m_panel.getChosen()),
+    put([this] { return changesAsCpp(*m_panel.getModel().getSource(), m_panel.getChosen()); },
         tr("The changes were copied as C++."));
 }
 
 void PatchActs::copyScene()
 {
-    put(changesAsScene(*m_panel.getModel().getSource(), m_panel.getChosen()),
+    put([this] { return changesAsScene(*m_panel.getModel().getSource(), m_panel.getChosen()); },
         tr("The changed values were copied as nodes of a scene."));
 }
 

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QWidget;
 
 namespace scopix
@@ -44,7 +46,9 @@ public:
 private:
     bool hasNoScene() const;
     bool read(const QString& path, xsg::SceneChanges& changes);
-    void put(const QString& text, const QString& sentence);
+    /// False where the user cancels it.
+    bool runLong(const QString& what, const std::function<void()>& work);
+    void put(const std::function<QString()>& makeText, const QString& sentence);
     void tell(const QString& name, int applied, int alreadySo, const std::vector<SbSentence>& misfits);
 
     QWidget& m_window;

@@ -10,6 +10,7 @@
 #include "window/BranchFiles.h"
 #include "window/MainWindow.h"
 #include "window/NodeEditing.h"
+#include "window/PatchActs.h"
 #include "window/SceneChanges.h"
 
 #include <support/Waiting.h>
@@ -154,6 +155,7 @@ protected:
             group->addChild(root->getChild(i));
         root->removeAllChildren();
         root->addChild(group.get());
+        window->getTree().getModel().followNow();
         services.selectPaths({pathTo(0)});
         LongWork::setPatience(0, 0); // of a machine as slow as can be
     }
@@ -349,6 +351,31 @@ TEST_F(LongWorkTest, AComparisonThatIsCancelledLeavesTheList)
     EXPECT_EQ(told.last(), QStringLiteral("The comparison was cancelled; the list is as it was."));
     EXPECT_FALSE(changes.isComparing());
     EXPECT_EQ(changes.getPanel().getModel().getSource(), &changes.getEdits());
+}
+
+TEST_F(LongWorkTest, SavingAndCopyingChangesCanBeCancelled)
+{
+    showGroupForKeys();
+    press(Qt::Key_D, Qt::ControlModifier);
+    ASSERT_EQ(childCount(), 2);
+    QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+    const QString path = folder.filePath(QStringLiteral("part.xsgpatch"));
+    PatchActs& patches = window->getChanges().getPatches();
+    {
+        Canceller canceller;
+        EXPECT_FALSE(patches.save(path));
+        EXPECT_EQ(told.last(), QStringLiteral("Saving “%1” was cancelled.").arg(path));
+        for (const auto copy : {&PatchActs::copy, &PatchActs::copyScene}) {
+            told.clear();
+            (patches.*copy)();
+            EXPECT_EQ(told, QStringList(QStringLiteral("Copying was cancelled; nothing has changed.")));
+        }
+        EXPECT_EQ(canceller.count, 3);
+    }
+    EXPECT_FALSE(QFileInfo::exists(path));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("mine"));
+    EXPECT_TRUE(patches.save(path)) << "nothing is lost";
+    EXPECT_TRUE(contentOf(path).contains("\ninsert ")) << contentOf(path).left(200).constData();
 }
 
 TEST_F(LongWorkTest, SavingABranchOrAScenePassedInCanBeCancelled)
