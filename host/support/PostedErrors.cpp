@@ -5,6 +5,7 @@
 #include "support/Printable.h"
 #include "support/StandardError.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/errors/SoDebugError.h>
 #include <xsg/errors/SoErrorStack.h>
 #include <xsg/errors/SoGLError.h>
@@ -62,7 +63,7 @@ QString PostedErrors::lastText() const
 void PostedErrors::handle(const SoError* error, void* data)
 {
     const auto& handler = *static_cast<const Handler*>(data);
-    handler.owner->print(printable(QString::fromStdString(error->getDebugString().str())));
+    handler.owner->print(printable(SpxSentence::translated(error->getSentence())));
     if (handler.callback && handler.callback != SoError::defaultHandler)
         handler.callback(error, handler.data);
 }

@@ -5,6 +5,7 @@
 #include "viewport/Screenshot.h"
 #include "viewport/TextureImageLoader.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
@@ -88,7 +89,7 @@ public:
                 m_subject.root.get(), m_camera.get(),
                 {whole.width(), whole.height(), drawn.left(), whole.height() - drawn.top() - drawn.height()},
                 drawn.width(), drawn.height(), m_pixels))
-            return QString::fromStdString(m_drawing.getErrorText());
+            return SpxSentence::translated(m_drawing.getError());
         const QPoint inset = tile.topLeft() - drawn.topLeft();
         for (int row = 0; row < tile.height(); ++row)
             std::memcpy(m_image.scanLine(tile.top() + row) + std::ptrdiff_t{4} * tile.left(),

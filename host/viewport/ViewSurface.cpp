@@ -4,6 +4,7 @@
 #include "viewport/PictureInPieces.h"
 #include "viewport/TextureImageLoader.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
 #include <QBackingStore>
@@ -180,7 +181,7 @@ protected:
         }
         painter.fillRect(rect(), m_pictures.isUnfinished() ? m_pictures.getGround() : palette().window());
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                         QString::fromStdString(m_renderer.getErrorText()));
+                         SpxSentence::translated(m_renderer.getError()));
     }
 
 private:

@@ -2,16 +2,18 @@
 // What is said where a scene repeats its parts more often than can be followed.
 #pragma once
 
-#include <string>
+#include <xsg/values/SbSentence.h>
 
 class SoNode;
 
 namespace xsg
 {
 
-/// Posts an SoError, the first time that this is said of this root: its name (or "The scene"), a blank and
-/// the rest of the sentence.
-void reportBound(const SoNode& root, const std::string& rest);
+/// The root by its name, or "The scene": what a sentence begins with.
+SbSentence nameOfRoot(const SoNode& root);
+
+/// Posts an SoError, the first time that this is said of this root.
+void reportBound(const SoNode& root, const SbSentence& sentence);
 
 /// The same, of a walk over what groups share.
 void reportRepeats(const SoNode& root);

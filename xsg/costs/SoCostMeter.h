@@ -24,10 +24,11 @@ public:
     SoCostMeter(SoNode* root, const SoCamera* camera, int width, int height,
                 const SoFittingImageReader& reader = {}, const SoHiding& hiding = {});
 
-    /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
+    /// False when all is measured, or nothing can be drawn: getError() then says why.
     bool step();
     const SoCosts& getCosts() const { return m_costs; }
-    const std::string& getErrorText() const { return m_pictures.getErrorText(); }
+    const SbSentence& getError() const { return m_pictures.getError(); }
+    const std::string& getErrorText() const { return getError().getText(); }
     /// From 0 to 1, roughly.
     double getProgress() const;
 

@@ -22,9 +22,10 @@ public:
     void hide(const SoNode* node);
     void isolate(const std::vector<const SoNode*>& nodes);
 
-    /// False where nothing can be drawn: getErrorText() then says why.
+    /// False where nothing can be drawn: getError() then says why.
     bool draw(bool countsPixels = false);
-    const std::string& getErrorText() const { return m_renderer.getErrorText(); }
+    const SbSentence& getError() const { return m_renderer.getError(); }
+    const std::string& getErrorText() const { return getError().getText(); }
     /// Of this run.
     int getNumDrawn() const { return static_cast<int>(m_numbers.size()); }
     std::vector<SoFrame> getFrames() const;

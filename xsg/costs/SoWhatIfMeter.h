@@ -14,11 +14,12 @@ public:
     SoWhatIfMeter(SoNode* root, const SoNode* without, const SoCamera* camera, int width, int height,
                   const SoFittingImageReader& reader = {}, const SoHiding& hiding = {});
 
-    /// False when all is measured, or nothing can be drawn: getErrorText() then says why.
+    /// False when all is measured, or nothing can be drawn: getError() then says why.
     bool step();
     /// From 0 to 1.
     double getProgress() const;
-    const std::string& getErrorText() const { return m_pictures.getErrorText(); }
+    const SbSentence& getError() const { return m_pictures.getError(); }
+    const std::string& getErrorText() const { return getError().getText(); }
 
     /// In milliseconds: what the processor or the graphics card took, whichever took longer.
     const std::vector<double>& getWith() const { return m_times[0]; }

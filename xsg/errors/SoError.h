@@ -3,6 +3,7 @@
 
 #include <xsg/errors/SoErrorHandler.h>
 #include <xsg/types/SoTyped.h>
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/SbString.h>
 
 /// Gives an error class its type and its handler.
@@ -33,18 +34,29 @@ public:
     static constexpr const char* ClassName = "Error";
 
     static void post(const SbString& sentence);
+    static void post(const SbSentence& sentence);
+    /// In English.
     const SbString& getDebugString() const { return m_text; }
+    /// The same, to be put into another language where somebody has translated it.
+    const SbSentence& getSentence() const { return m_sentence; }
 
     /// The callback that every class has at the start; it needs no data.
     static void defaultHandler(const SoError* error, void* data);
 
 protected:
     explicit SoError(SbString text)
-        : m_text(std::move(text))
+        : m_sentence(SbSentence::verbatim(text.str()))
+        , m_text(std::move(text))
+    {
+    }
+    explicit SoError(SbSentence sentence)
+        : m_sentence(std::move(sentence))
+        , m_text(m_sentence.getText())
     {
     }
 
 private:
+    SbSentence m_sentence;
     SbString m_text;
 };
 

@@ -42,12 +42,6 @@ std::string hexadecimal(unsigned code)
     return "0x" + std::string(digits, end);
 }
 
-std::string place(const SbString& file, int line, int column)
-{
-    return file.str() + (line > 0 ? ':' + std::to_string(line) : "") + ": " +
-           (column > 0 ? "Column " + std::to_string(column) + ": " : "");
-}
-
 std::string joined(const std::vector<SbString>& sentences)
 {
     std::string all;
@@ -73,6 +67,11 @@ void SoError::post(const SbString& sentence)
     handler().handle(SoError(sentence));
 }
 
+void SoError::post(const SbSentence& sentence)
+{
+    handler().handle(SoError(sentence));
+}
+
 SoDebugError::SoDebugError(Severity severity, const char* source, const SbString& sentence)
     : SoErrorClass(SbString(std::string(source ? source : "") + ": " + sentence.str()))
     , m_severity(severity)
@@ -84,22 +83,36 @@ void SoDebugError::post(Severity severity, const char* source, const SbString& s
     handler().handle(SoDebugError(severity, source, sentence));
 }
 
-SoReadError::SoReadError(const SbString& file, int line, int column, const SbString& sentence)
-    : SoErrorClass(SbString(xsg::printable(place(file, line, column) + sentence.str())))
+SoReadError::SoReadError(const SbString& file, int line, int column, const SbSentence& sentence)
+    : SoErrorClass(describe(file, line, column, sentence))
     , m_file(file)
     , m_line(line)
     , m_column(column)
 {
 }
 
+SbSentence SoReadError::describe(const SbString& file, int line, int column, const SbSentence& sentence)
+{
+    if (column > 0 && line > 0)
+        return xsg::printable(SbSentence("%1:%2: Column %3: %4", file.str(), line, column, sentence));
+    if (column > 0)
+        return xsg::printable(SbSentence("%1: Column %2: %3", file.str(), column, sentence));
+    return xsg::printable(line > 0 ? SbSentence("%1:%2: %3", file.str(), line, sentence)
+                                   : SbSentence("%1: %2", file.str(), sentence));
+}
+
 void SoReadError::post(const SbString& file, int line, int column, const SbString& sentence)
+{
+    post(file, line, column, SbSentence::verbatim(sentence.str()));
+}
+
+void SoReadError::post(const SbString& file, int line, int column, const SbSentence& sentence)
 {
     handler().handle(SoReadError(file, line, column, sentence));
 }
 
 SoMemoryError::SoMemoryError(const SbString& wanted, std::size_t bytes)
-    : SoErrorClass(
-          SbString("No memory for " + wanted.str() + ": " + std::to_string(bytes) + " bytes were asked for."))
+    : SoErrorClass(SbSentence("No memory for %1: %2 bytes were asked for.", wanted.str(), bytes))
 {
 }
 
@@ -109,8 +122,7 @@ void SoMemoryError::post(const SbString& wanted, std::size_t bytes)
 }
 
 SoGLError::SoGLError(unsigned code, const char* source)
-    : SoErrorClass(
-          SbString(std::string(source ? source : "") + ": OpenGL reports " + getCodeName(code).str() + '.'))
+    : SoErrorClass(SbSentence("%1: OpenGL reports %2.", source ? source : "", getCodeName(code).str()))
     , m_code(code)
 {
 }

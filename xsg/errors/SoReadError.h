@@ -17,13 +17,16 @@ public:
         post(file, line, 0, sentence);
     }
     static void post(const SbString& file, int line, int column, const SbString& sentence);
+    static void post(const SbString& file, int line, int column, const SbSentence& sentence);
+    /// What the error says as a whole: the place and the sentence.
+    static SbSentence describe(const SbString& file, int line, int column, const SbSentence& sentence);
 
     const SbString& getFileName() const { return m_file; }
     int getLine() const { return m_line; }
     int getColumn() const { return m_column; }
 
 private:
-    SoReadError(const SbString& file, int line, int column, const SbString& sentence);
+    SoReadError(const SbString& file, int line, int column, const SbSentence& sentence);
 
     SbString m_file;
     int m_line;

@@ -23,8 +23,9 @@ SbSentence xsg::postReadError(const std::string& name, const SceneReader& reader
 {
     const int line = reader.getLine();
     const int column = reader.getColumn();
-    SoReadError::post(SbString(name), line, column, SbString(reader.getProblem().getText() + "."));
-    return printable(SbSentence("%1:%2: Column %3: %4.", name, line, column, reader.getProblem()));
+    const SbSentence sentence("%1.", reader.getProblem());
+    SoReadError::post(name, line, column, sentence);
+    return SoReadError::describe(name, line, column, sentence);
 }
 
 xsg::SceneReading::SceneReading(const std::string& path)
@@ -64,9 +65,9 @@ std::size_t xsg::SceneReading::readMore(char* to, std::size_t size)
 
 void xsg::SceneReading::refuse(const SbSentence& sentence)
 {
-    m_error = printable(SbSentence("%1: %2", m_path, sentence));
+    m_error = SoReadError::describe(m_path, 0, 0, sentence);
     m_isDone = true;
-    SoReadError::post(SbString(m_path), 0, SbString(sentence.getText()));
+    SoReadError::post(m_path, 0, 0, sentence);
 }
 
 bool xsg::SceneReading::advance(SceneReader::Clock::time_point until)

@@ -11,14 +11,15 @@ namespace
 class EglContext
 {
 public:
-    explicit EglContext(std::string& error)
+    explicit EglContext(SbSentence& error)
     {
         m_display = findDisplay();
         if (m_display == EGL_NO_DISPLAY)
-            error = "No display for drawing off the screen: EGL offers none, not even a surfaceless one.";
+            error = SbSentence(
+                "No display for drawing off the screen: EGL offers none, not even a surfaceless one.");
         else if (!create())
-            error = "OpenGL 3.3 could not be started for drawing off the screen (EGL error " +
-                    std::to_string(eglGetError()) + ").";
+            error = SbSentence("OpenGL 3.3 could not be started for drawing off the screen (EGL error %1).",
+                               eglGetError());
     }
     EglContext(const EglContext&) = delete;
     EglContext& operator=(const EglContext&) = delete;
@@ -123,7 +124,7 @@ void xsg::GlThread::run(std::function<void()> work)
 
 void xsg::GlThread::loop()
 {
-    std::string error;
+    SbSentence error;
     const EglContext context(error);
     std::unique_lock<std::mutex> lock(m_mutex);
     m_error = error;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/XsgExport.h>
 
 #include <condition_variable>
 #include <functional>
 #include <mutex>
-#include <string>
 #include <thread>
 
 namespace xsg
@@ -23,7 +23,7 @@ public:
     GlThread& operator=(const GlThread&) = delete;
 
     /// Empty when there is a context, else why not, in one sentence.
-    const std::string& getErrorText() const { return m_error; }
+    const SbSentence& getError() const { return m_error; }
     /// Runs `work` with the context current and returns when it is done. Nothing runs without a context.
     void run(std::function<void()> work);
 
@@ -35,7 +35,7 @@ private:
     std::function<void()> m_work;
     bool m_ready = false;
     bool m_quit = false;
-    std::string m_error;
+    SbSentence m_error;
     std::thread m_thread;
 };
 

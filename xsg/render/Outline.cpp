@@ -33,7 +33,7 @@ void bindTexture(GLint unit, GLuint texture)
 
 } // namespace
 
-bool xsg::Outline::prepare(int width, int height, std::string& error)
+bool xsg::Outline::prepare(int width, int height, SbSentence& error)
 {
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &m_outer);
     const bool isReady = buildPrograms(error);
@@ -43,7 +43,7 @@ bool xsg::Outline::prepare(int width, int height, std::string& error)
     return isReady;
 }
 
-bool xsg::Outline::buildPrograms(std::string& error)
+bool xsg::Outline::buildPrograms(SbSentence& error)
 {
     if (m_composeProgram.program)
         return true;

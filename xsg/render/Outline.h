@@ -2,9 +2,8 @@
 #pragma once
 
 #include <xsg/render/GlFunctions.h>
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/SbVec.h>
-
-#include <string>
 
 namespace xsg
 {
@@ -20,7 +19,7 @@ class Outline
 {
 public:
     /// Makes programs and buffers where they are not there yet; false with a sentence where OpenGL refuses.
-    bool prepare(int width, int height, std::string& error);
+    bool prepare(int width, int height, SbSentence& error);
     void release();
 
     /// Clears the mask. From here on until draw() or endMask() everything is drawn into it.
@@ -43,7 +42,7 @@ private:
         GLint rim = -1;
     };
 
-    bool buildPrograms(std::string& error);
+    bool buildPrograms(SbSentence& error);
     void buildTargets(int width, int height);
     static void fillTarget(Target& target, int width, int height, GLint format);
     void drawTiles(Program& program, float thickness);

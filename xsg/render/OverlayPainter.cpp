@@ -21,7 +21,7 @@ void setAttribute(GLuint number, GLint size, std::size_t offset)
 
 } // namespace
 
-bool xsg::OverlayPainter::prepare(std::string& error)
+bool xsg::OverlayPainter::prepare(SbSentence& error)
 {
     if (m_program)
         return true;
@@ -43,7 +43,7 @@ bool xsg::OverlayPainter::prepare(std::string& error)
 }
 
 bool xsg::OverlayPainter::draw(const SoOverlay& overlay, const SbMatrix& viewProjection, int width,
-                               int height, std::string& error)
+                               int height, SbSentence& error)
 {
     if (!prepare(error))
         return false;

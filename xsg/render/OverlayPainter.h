@@ -4,8 +4,7 @@
 #include <xsg/render/GlFunctions.h>
 #include <xsg/render/SoOverlay.h>
 #include <xsg/values/SbMatrix.h>
-
-#include <string>
+#include <xsg/values/SbSentence.h>
 
 namespace xsg
 {
@@ -17,11 +16,11 @@ public:
     /// False with a sentence where OpenGL refuses. Leaves depth test on, blending off, and another program
     /// and vertex array bound.
     bool draw(const SoOverlay& overlay, const SbMatrix& viewProjection, int width, int height,
-              std::string& error);
+              SbSentence& error);
     void release();
 
 private:
-    bool prepare(std::string& error);
+    bool prepare(SbSentence& error);
     void drawMarks(const std::vector<SoOverlay::Mark>& marks, bool isOnTop);
 
     GlProgram m_program;

@@ -55,8 +55,9 @@ bool xsg::RenderListBuilder::advance(std::chrono::steady_clock::time_point until
 void xsg::RenderListBuilder::finish()
 {
     if (m_list.items.size() == MostItems)
-        reportBound(*m_root, "has so many copies of shapes that only the first " + std::to_string(MostItems) +
-                                 " of them are shown.");
+        reportBound(*m_root,
+                    SbSentence("%1 has so many copies of shapes that only the first %2 of them are shown.",
+                               nameOfRoot(*m_root), MostItems));
     m_list.isPart = isCut();
     m_geometry.removeUnused();
     m_textures.endRound();

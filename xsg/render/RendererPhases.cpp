@@ -36,8 +36,8 @@ void feedCounters(const SoRenderer::Statistics& frame)
 bool SoRenderer::Impl::prepare()
 {
     if (epoxy_gl_version() < 33) {
-        error = "Drawing needs OpenGL 3.3, but this system offers only " +
-                std::to_string(epoxy_gl_version() / 10) + "." + std::to_string(epoxy_gl_version() % 10) + ".";
+        error = SbSentence("Drawing needs OpenGL 3.3, but this system offers only %1.%2.",
+                           epoxy_gl_version() / 10, epoxy_gl_version() % 10);
         return false;
     }
     m_messages.listen();
@@ -88,7 +88,7 @@ SoRenderer::Progress SoRenderer::Impl::render(SoNode* root, const SoCamera* came
 void SoRenderer::Impl::begin(const SoNode* root, int width, int height)
 {
     statistics = {};
-    error.clear();
+    error = {};
     m_phase = Phase::Listing;
     m_rootId = root ? root->getNodeId() : 0;
     m_width = width;

@@ -21,7 +21,7 @@ std::string logOf(GLuint object, bool isProgram)
     return text;
 }
 
-bool compile(GLuint program, GLenum kind, const std::string& defines, const char* text, std::string& error)
+bool compile(GLuint program, GLenum kind, const std::string& defines, const char* text, SbSentence& error)
 {
     const GLuint shader = glCreateShader(kind);
     const char* const parts[] = {xsg::VersionText, defines.c_str(), text};
@@ -32,7 +32,7 @@ bool compile(GLuint program, GLenum kind, const std::string& defines, const char
     if (good)
         glAttachShader(program, shader);
     else
-        error = "OpenGL refused a drawing program: " + logOf(shader, false);
+        error = SbSentence("OpenGL refused a drawing program: %1", logOf(shader, false));
     glDeleteShader(shader); // the program keeps it as long as it needs it
     return good != 0;
 }
@@ -64,7 +64,7 @@ constexpr int EnvironmentUnit = SoMaterialTexture::UseCount;
 } // namespace
 
 bool xsg::buildProgram(GlProgram& program, const std::string& defines, const char* vertexText,
-                       const char* fragmentText, std::string& error)
+                       const char* fragmentText, SbSentence& error)
 {
     const GLuint name = program.get();
     if (!compile(name, GL_VERTEX_SHADER, defines, vertexText, error) ||
@@ -74,21 +74,21 @@ bool xsg::buildProgram(GlProgram& program, const std::string& defines, const cha
     GLint linked = 0;
     glGetProgramiv(name, GL_LINK_STATUS, &linked);
     if (!linked)
-        error = "OpenGL could not link a drawing program: " + logOf(name, true);
+        error = SbSentence("OpenGL could not link a drawing program: %1", logOf(name, true));
     return linked != 0;
 }
 
-bool xsg::Shader::prepare(std::string& error)
+bool xsg::Shader::prepare(SbSentence& error)
 {
     return prepareLook(Look::Full, error) && prepareKind(PlaceOnly, error);
 }
 
-bool xsg::Shader::prepareLook(Look look, std::string& error)
+bool xsg::Shader::prepareLook(Look look, SbSentence& error)
 {
     return prepareKind(static_cast<int>(look), error);
 }
 
-bool xsg::Shader::prepareKind(int kind, std::string& error)
+bool xsg::Shader::prepareKind(int kind, SbSentence& error)
 {
     Program* pair = m_programs + 2 * kind;
     if (pair[0].program)
@@ -99,7 +99,7 @@ bool xsg::Shader::prepareKind(int kind, std::string& error)
     return false;
 }
 
-bool xsg::Shader::build(Program& program, bool isClipped, int kind, std::string& error)
+bool xsg::Shader::build(Program& program, bool isClipped, int kind, SbSentence& error)
 {
     const std::string lit = std::string(LightText) + FragmentShaderText;
     const char* const fragmentTexts[KindCount] = {lit.c_str(), FlatFragmentText, NormalsFragmentText,
@@ -112,7 +112,7 @@ bool xsg::Shader::build(Program& program, bool isClipped, int kind, std::string&
     return true;
 }
 
-bool xsg::Shader::buildSurface(Program& program, const std::string& defines, std::string& error)
+bool xsg::Shader::buildSurface(Program& program, const std::string& defines, SbSentence& error)
 {
     const std::string text = std::string(LightText) + SurfaceFragmentText;
     if (!buildProgram(program.program, defines, VertexShaderText, text.c_str(), error)) {

@@ -5,6 +5,7 @@
 #include <xsg/render/GlFunctions.h>
 #include <xsg/render/SoRenderer.h>
 #include <xsg/render/Surface.h>
+#include <xsg/values/SbSentence.h>
 
 #include <map>
 
@@ -35,7 +36,7 @@ struct InstanceData {
 /// Builds a program of these texts, each after the version and `defines`. False with a sentence where OpenGL
 /// refuses.
 bool buildProgram(GlProgram& program, const std::string& defines, const char* vertexText,
-                  const char* fragmentText, std::string& error);
+                  const char* fragmentText, SbSentence& error);
 
 /// The programs that draw scenes, and their settings.
 class Shader
@@ -49,9 +50,9 @@ public:
     enum class Look { Full, Flat, Normals, TextureCoordinates };
 
     /// Builds the programs at first use; false with a sentence where OpenGL refuses.
-    bool prepare(std::string& error);
+    bool prepare(SbSentence& error);
     /// The same for one look; all but the full one are not built before they are asked for.
-    bool prepareLook(Look look, std::string& error);
+    bool prepareLook(Look look, SbSentence& error);
     void release();
 
     void use();
@@ -59,7 +60,7 @@ public:
     /// switches to another program, for which lights, planes, textures and fog have to be set again. Where
     /// OpenGL refuses the surface's program, it is drawn as another material's, and takeError() says so.
     bool setSurface(bool isClipped, SurfaceFeatures features);
-    std::string takeError() { return std::exchange(m_error, {}); }
+    SbSentence takeError() { return std::exchange(m_error, {}); }
     /// How bright light becomes colours, from the next setSurface() on.
     void setToneMapping(SoRenderer::ToneMapping toneMapping) { m_toneMapping = toneMapping; }
     /// Draws only where things are, without their looks: for a picture of depths. Settings are kept for the
@@ -94,10 +95,10 @@ private:
         } at{};
     };
     enum Kind { PlaceOnly = 4, KindCount = 5 }; // the others are looks
-    static bool build(Program& program, bool isClipped, int kind, std::string& error);
-    static bool buildSurface(Program& program, const std::string& defines, std::string& error);
+    static bool build(Program& program, bool isClipped, int kind, SbSentence& error);
+    static bool buildSurface(Program& program, const std::string& defines, SbSentence& error);
     static void findLocations(Program& program);
-    bool prepareKind(int kind, std::string& error);
+    bool prepareKind(int kind, SbSentence& error);
     /// What decides which program is used.
     struct Choice {
         bool isClipped = false;
@@ -119,7 +120,7 @@ private:
     std::map<unsigned, Program> m_surfaces;
     GlTexture m_environmentTable;
     SoRenderer::ToneMapping m_toneMapping = SoRenderer::ToneMapping::Neutral;
-    std::string m_error;
+    SbSentence m_error;
     Choice m_choice;
     bool m_hasViewPlane = false;
     SbPlane m_viewPlane;

@@ -92,14 +92,14 @@ public:
         const int used = std::clamp(samples, 1, std::max(mostSamples, 1));
         if (width <= 0 || height <= 0 || width > largest || height > largest ||
             !m_smooth.prepare(width, height, 0) || !m_drawn.prepare(width, height, used > 1 ? used : 0)) {
-            error = "A picture of " + std::to_string(width) + " x " + std::to_string(height) +
-                    " pixels cannot be drawn; each side may have 1 to " + std::to_string(largest) + ".";
+            error = SbSentence("A picture of %1 x %2 pixels cannot be drawn; each side may have 1 to %3.",
+                               width, height, largest);
             return Progress::Failed;
         }
         m_drawn.bind(GL_FRAMEBUFFER);
         const Progress progress = drawScene();
         if (progress == Progress::Failed)
-            error = renderer.getErrorText();
+            error = renderer.getError();
         if (progress != Progress::Finished)
             return progress;
         m_drawn.bind(GL_READ_FRAMEBUFFER);
@@ -111,7 +111,7 @@ public:
     }
 
     int samples = 4;
-    std::string error;
+    SbSentence error;
     SoRenderer renderer;
     xsg::GlThread thread;
 
@@ -158,7 +158,7 @@ bool SoOffscreenRenderer::render(SoNode* root, const SoCamera* camera, int width
     const auto drawAll = [&] {
         return m_impl->renderer.render(root, camera, width, height) ? Progress::Finished : Progress::Failed;
     };
-    m_impl->error = m_impl->thread.getErrorText();
+    m_impl->error = m_impl->thread.getError();
     Progress progress = Progress::Failed;
     m_impl->thread.run([&] { progress = m_impl->draw(width, height, pixels, drawAll); });
     return progress == Progress::Finished;
@@ -169,7 +169,7 @@ SoRenderer::Progress SoOffscreenRenderer::renderPart(SoNode* root, const SoCamer
                                                      SoPixels& pixels)
 {
     const auto drawPart = [&] { return m_impl->renderer.renderPart(root, camera, width, height, until); };
-    m_impl->error = m_impl->thread.getErrorText();
+    m_impl->error = m_impl->thread.getError();
     auto progress = SoRenderer::Progress::Failed;
     m_impl->thread.run([&] { progress = m_impl->draw(width, height, pixels, drawPart); });
     return progress;
@@ -184,7 +184,7 @@ bool SoOffscreenRenderer::renderTile(SoNode* root, const SoCamera* camera, const
     return drawn;
 }
 
-const std::string& SoOffscreenRenderer::getErrorText() const
+const SbSentence& SoOffscreenRenderer::getError() const
 {
     return m_impl->error;
 }

@@ -32,7 +32,7 @@ public:
     /// How many samples smooth the edges: 1 for none, 4 at first; fewer where the system has no more.
     void setSamples(int samples);
 
-    /// A camera as for SoRenderer::render(). False where there is no picture; getErrorText() says why in one
+    /// A camera as for SoRenderer::render(). False where there is no picture; getError() says why in one
     /// sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height, SoPixels& pixels);
     /// The same for a part of a larger picture, which may be larger than OpenGL could draw.
@@ -41,7 +41,8 @@ public:
     /// As SoRenderer::renderPart(); the picture is there when it is finished.
     SoRenderer::Progress renderPart(SoNode* root, const SoCamera* camera, int width, int height,
                                     std::chrono::steady_clock::time_point until, SoPixels& pixels);
-    const std::string& getErrorText() const;
+    const SbSentence& getError() const;
+    const std::string& getErrorText() const { return getError().getText(); }
 
 private:
     class Impl;

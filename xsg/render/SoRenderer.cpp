@@ -22,7 +22,7 @@ SoRenderer::Progress SoRenderer::renderPart(SoNode* root, const SoCamera* camera
     return m_impl->render(root, camera, width, height, until);
 }
 
-const std::string& SoRenderer::getErrorText() const
+const SbSentence& SoRenderer::getError() const
 {
     return m_impl->error;
 }

@@ -6,6 +6,7 @@
 #include <xsg/values/SbBox.h>
 #include <xsg/values/SbMatrix.h>
 #include <xsg/values/SbPlane.h>
+#include <xsg/values/SbSentence.h>
 #include <xsg/values/XsgExport.h>
 
 #include <chrono>
@@ -38,9 +39,10 @@ public:
 
     /// Clears and draws. `camera` may stand in the scene or outside of it; null takes the first one in the
     /// scene or, where there is none, a view of everything. A null root gives the empty background. Size in
-    /// pixels. False where OpenGL cannot draw it; getErrorText() then says why in one sentence.
+    /// pixels. False where OpenGL cannot draw it; getError() then says why in one sentence.
     bool render(SoNode* root, const SoCamera* camera, int width, int height);
-    const std::string& getErrorText() const;
+    const SbSentence& getError() const;
+    const std::string& getErrorText() const { return getError().getText(); }
     /// Where in a larger picture the pixels of the next render() lie, so that a picture can be drawn in
     /// parts.
     struct Tile {

@@ -62,7 +62,7 @@ public:
     const SoShapeColors* shapeColors = nullptr;
     bool countsPixels = false;
     xsg::FrameMeter frameMeter;
-    std::string error;
+    SbSentence error;
     Statistics statistics;
     const xsg::RenderList& getList() const { return m_list; }
 

@@ -45,10 +45,11 @@ void xsg::TextureImages::report(const std::string& path, bool isRead)
     if (!m_reported.insert(path).second)
         return;
     std::error_code error;
-    const char* sentence = !std::filesystem::exists(path, error)
-                               ? "The picture of a texture is missing; the texture is drawn without it."
-                               : "The picture of a texture cannot be read; the texture is drawn without it.";
-    SoReadError::post(SbString(path), 0, sentence);
+    SoReadError::post(
+        path, 0, 0,
+        !std::filesystem::exists(path, error)
+            ? SbSentence("The picture of a texture is missing; the texture is drawn without it.")
+            : SbSentence("The picture of a texture cannot be read; the texture is drawn without it."));
 }
 
 SoImageView xsg::TextureImages::find(const SoTexture2& node, const SoImageFit& fit)

@@ -3,6 +3,8 @@
 
 #include "cost/PictureReader.h"
 
+#include <scopix/SpxSentence.h>
+
 namespace profiler
 {
 
@@ -79,10 +81,10 @@ void CostRun::timerEvent(QTimerEvent* /*event*/)
         return finish(reason);
     if (m_meter ? m_meter->step() : m_whatIf->step())
         return emit advanced();
-    const std::string error = m_meter ? m_meter->getErrorText() : m_whatIf->getErrorText();
+    const SbSentence error = m_meter ? m_meter->getError() : m_whatIf->getError();
     if (m_meter && error.empty())
         m_costs = m_meter->getCosts();
-    finish(QString::fromStdString(error));
+    finish(SpxSentence::translated(error));
 }
 
 // What without a branch would be is kept, a scene that has gone is not.

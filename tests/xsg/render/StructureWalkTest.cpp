@@ -312,7 +312,7 @@ void expectEqual(const xsg::WalkRecord& patched, const xsg::WalkRecord& fresh)
 TEST(StructureWalk, APatchedListIsAsAFreshOne)
 {
     xsg::GlThread thread;
-    ASSERT_EQ(thread.getErrorText(), "");
+    ASSERT_EQ(thread.getError(), "");
     RandomScene scene(static_cast<unsigned>(fromEnvironment("SCOPIX_WALK_SEED", 1)),
                       RandomScene::Sharing::Some);
     List patched;
