@@ -59,11 +59,7 @@ struct LibraryTrust::Place {
     {
     }
     bool mayWrite(mode_t who) const { return (about.st_mode & who) != 0; }
-    // "it", or the folder by its name.
-    QString name() const
-    {
-        return S_ISDIR(about.st_mode) ? tr("its folder “%1”").arg(path) : QStringLiteral("it");
-    }
+    bool isFolder() const { return S_ISDIR(about.st_mode); }
 
     QString path;
     struct stat about {
@@ -110,27 +106,35 @@ QString LibraryTrust::whyNot(const QString& path) const
 QString LibraryTrust::whyNotOwned(const Place& place) const
 {
     if (!place.exists)
-        return tr("the owner of %1 cannot be found out").arg(place.name());
+        return tr("its owner cannot be found out");
     if (isTrusted(place.about.st_uid))
         return {};
-    return tr("%1 belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to "
-              "a "
-              "folder of yours if you trust it")
-        .arg(place.name(), userName(place.about.st_uid));
+    const QString owner = userName(place.about.st_uid);
+    return place.isFolder()
+               ? tr("its folder “%1” belongs to %2, and only plug-ins of yours and of the administrator are "
+                    "loaded; copy it to a folder of yours if you trust it")
+                     .arg(place.path, owner)
+               : tr("it belongs to %1, and only plug-ins of yours and of the administrator are loaded; copy "
+                    "it to a folder of yours if you trust it")
+                     .arg(owner);
 }
 
 QString LibraryTrust::whyWritable(const Place& place) const
 {
     if (place.mayWrite(S_IWOTH))
-        return tr("every user may write to %1, so that it may be anybody's; take that permission away, or "
-                  "copy "
-                  "it to a folder of yours")
-            .arg(place.name());
+        return place.isFolder()
+                   ? tr("every user may write to its folder “%1”, so that it may be anybody's; take that "
+                        "permission away, or copy it to a folder of yours")
+                         .arg(place.path)
+                   : tr("every user may write to it, so that it may be anybody's; take that permission away, "
+                        "or copy it to a folder of yours");
     if (place.mayWrite(S_IWGRP) && !isTrustedGroup(place.about.st_gid))
-        return tr("other users, those of its group, may write to %1; take that permission away, or copy it "
-                  "to "
-                  "a folder of yours")
-            .arg(place.name());
+        return place.isFolder()
+                   ? tr("other users, those of its group, may write to its folder “%1”; take that permission "
+                        "away, or copy it to a folder of yours")
+                         .arg(place.path)
+                   : tr("other users, those of its group, may write to it; take that permission away, or "
+                        "copy it to a folder of yours");
     return {};
 }
 
