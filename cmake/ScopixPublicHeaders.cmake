@@ -58,7 +58,7 @@ set(SCOPIX_XSG_HEADERS
   SoDB.h)
 
 set(SCOPIX_LIVE_HEADERS
-  Adapter.h Client.h LiveExport.h LivePacking.h LiveValue.h Server.h)
+  Adapter.h Client.h LiveExport.h LivePacking.h LiveSentence.h LiveValue.h Server.h)
 
 set(SCOPIX_LIVE_XSG_HEADERS
   XsgAdapter.h XsgServer.h)

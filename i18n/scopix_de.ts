@@ -1054,6 +1054,22 @@
         <translation>eine einfache Zahl</translation>
     </message>
     <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>Die Szene</translation>
+    </message>
+    <message>
+        <source>%1 has groups that stand in so many places that only a part of it is shown, measured and searched: the first %2 repeated nodes.</source>
+        <translation>%1 hat Gruppen, die an so vielen Stellen stehen, dass nur ein Teil davon gezeigt, gemessen und durchsucht wird: die ersten %2 wiederholten Knoten.</translation>
+    </message>
+    <message>
+        <source>%1 has instances within instances that come to more than %2 copies; the others are left out.</source>
+        <translation>%1 hat Instanzen innerhalb von Instanzen, die mehr als %2 Kopien ergeben; die übrigen werden weggelassen.</translation>
+    </message>
+    <message>
         <source>a %1 has no such field</source>
         <translation>%1 hat kein solches Feld</translation>
     </message>
@@ -1218,6 +1234,22 @@
         <translation>hier steht ein Byte 0, das es in Texten nicht gibt: Die Datei ist beschädigt oder kein Patch</translation>
     </message>
     <message>
+        <source>%1:%2: Column %3: %4</source>
+        <translation>%1:%2: Spalte %3: %4</translation>
+    </message>
+    <message>
+        <source>%1: Column %2: %3</source>
+        <translation>%1: Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>No memory for %1: %2 bytes were asked for.</source>
+        <translation>Kein Speicher für %1: Verlangt wurden %2 Bytes.</translation>
+    </message>
+    <message>
+        <source>%1: OpenGL reports %2.</source>
+        <translation>%1: OpenGL meldet %2.</translation>
+    </message>
+    <message>
         <source>%1 is no value of %2, which is a %3; each field has a line of its own</source>
         <translation>%1 ist kein Wert von %2, das den Typ %3 hat; jedes Feld hat eine eigene Zeile</translation>
     </message>
@@ -1320,10 +1352,6 @@
     <message>
         <source>the end of the record was expected</source>
         <translation>das Ende des Eintrags wurde erwartet</translation>
-    </message>
-    <message>
-        <source>%1:%2: Column %3: %4.</source>
-        <translation>%1:%2: Spalte %3: %4.</translation>
     </message>
     <message>
         <source>A scene file was expected, but this is not a file.</source>
@@ -1458,12 +1486,92 @@
         <translation>In „%1“ fehlt der Wert, mit dem verglichen wird.</translation>
     </message>
     <message>
+        <source>No display for drawing off the screen: EGL offers none, not even a surfaceless one.</source>
+        <translation>Keine Anzeige, um ohne Bildschirm zu zeichnen: EGL bietet keine an, auch keine ohne Oberfläche.</translation>
+    </message>
+    <message>
+        <source>OpenGL 3.3 could not be started for drawing off the screen (EGL error %1).</source>
+        <translation>OpenGL 3.3 ließ sich nicht starten, um ohne Bildschirm zu zeichnen (EGL-Fehler %1).</translation>
+    </message>
+    <message>
+        <source>Drawing needs OpenGL 3.3, but this system offers only %1.%2.</source>
+        <translation>Das Zeichnen braucht OpenGL 3.3, dieses System bietet aber nur %1.%2.</translation>
+    </message>
+    <message>
+        <source>%1 has so many copies of shapes that only the first %2 of them are shown.</source>
+        <translation>%1 hat so viele Kopien von Körpern, dass nur die ersten %2 davon gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>OpenGL refused a drawing program: %1</source>
+        <translation>OpenGL hat ein Zeichenprogramm abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>OpenGL could not link a drawing program: %1</source>
+        <translation>OpenGL konnte ein Zeichenprogramm nicht binden: %1</translation>
+    </message>
+    <message>
+        <source>A picture of %1 x %2 pixels cannot be drawn; each side may have 1 to %3.</source>
+        <translation>Ein Bild von %1 x %2 Pixeln lässt sich nicht zeichnen; jede Seite darf 1 bis %3 haben.</translation>
+    </message>
+    <message>
+        <source>The picture of a texture is missing; the texture is drawn without it.</source>
+        <translation>Das Bild einer Textur fehlt; die Textur wird ohne es gezeichnet.</translation>
+    </message>
+    <message>
+        <source>The picture of a texture cannot be read; the texture is drawn without it.</source>
+        <translation>Das Bild einer Textur lässt sich nicht lesen; die Textur wird ohne es gezeichnet.</translation>
+    </message>
+    <message>
         <source>it is a folder</source>
         <translation>das ist ein Ordner</translation>
     </message>
     <message>
         <source>the file is write-protected</source>
         <translation>die Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>The program “%1” sent a message that is too long or damaged; detached.</source>
+        <translation>Das Programm „%1“ hat eine Nachricht geschickt, die zu lang oder beschädigt ist; getrennt.</translation>
+    </message>
+    <message>
+        <source>The program “%1” has ended or was killed.</source>
+        <translation>Das Programm „%1“ hat sich beendet oder wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The program “%1” sent a message that this inspector does not understand; detached.</source>
+        <translation>Das Programm „%1“ hat eine Nachricht geschickt, die dieser Inspektor nicht versteht; getrennt.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: the program does not answer.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Das Programm antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: what listens there is no program that can be inspected.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Was dort lauscht, ist kein Programm, das sich untersuchen lässt.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: no program listens there any more.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Dort lauscht kein Programm mehr.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: %2.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: it is another user’s program; inspect it as that user.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Das Programm gehört einem anderen Benutzer; untersuche es als dieser.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: the program has closed the connection.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Das Programm hat die Verbindung geschlossen.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: it speaks version %2 of the protocol and this inspector version %3; use libraries and an inspector of the same version.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Es spricht Version %2 des Protokolls und dieser Inspektor Version %3; verwende Bibliotheken und einen Inspektor derselben Version.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: its greeting is damaged.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Seine Begrüßung ist beschädigt.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>
@@ -2334,10 +2442,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>„%1“ vor den letzten Änderungen; wähle Mehr ▸ Neu vergleichen</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>„%1“</translation>
-    </message>
-    <message>
         <source>Take Over</source>
         <translation>Übernehmen</translation>
     </message>
@@ -2694,24 +2798,32 @@ scopix --launch PROGRAM starts one.</source>
         <translation>&amp;Starten</translation>
     </message>
     <message>
-        <source>the owner of %1 cannot be found out</source>
-        <translation>der Besitzer von %1 lässt sich nicht feststellen</translation>
+        <source>its owner cannot be found out</source>
+        <translation>sein Besitzer lässt sich nicht feststellen</translation>
     </message>
     <message>
-        <source>%1 belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
-        <translation>%1 gehört %2, und geladen werden nur deine Plug-ins und die des Systemverwalters; kopiere es in einen deiner Ordner, wenn du ihm vertraust</translation>
+        <source>its folder “%1” belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
+        <translation>sein Ordner „%1“ gehört %2, und geladen werden nur deine Plug-ins und die des Systemverwalters; kopiere das Plug-in in einen deiner Ordner, wenn du ihm vertraust</translation>
     </message>
     <message>
-        <source>every user may write to %1, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
-        <translation>jeder Benutzer darf in %1 schreiben, es kann also von irgendwem sein; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
+        <source>it belongs to %1, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
+        <translation>es gehört %1, und geladen werden nur deine Plug-ins und die des Systemverwalters; kopiere es in einen deiner Ordner, wenn du ihm vertraust</translation>
     </message>
     <message>
-        <source>other users, those of its group, may write to %1; take that permission away, or copy it to a folder of yours</source>
-        <translation>andere Benutzer aus seiner Gruppe dürfen in %1 schreiben; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
+        <source>every user may write to its folder “%1”, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
+        <translation>jeder Benutzer darf in seinen Ordner „%1“ schreiben, es kann also von irgendwem sein; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
     </message>
     <message>
-        <source>its folder “%1”</source>
-        <translation>sein Ordner „%1“</translation>
+        <source>every user may write to it, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
+        <translation>jeder Benutzer darf es ändern, es kann also von irgendwem sein; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
+    </message>
+    <message>
+        <source>other users, those of its group, may write to its folder “%1”; take that permission away, or copy it to a folder of yours</source>
+        <translation>andere Benutzer aus dessen Gruppe dürfen in seinen Ordner „%1“ schreiben; nimm dieses Recht weg oder kopiere das Plug-in in einen deiner Ordner</translation>
+    </message>
+    <message>
+        <source>other users, those of its group, may write to it; take that permission away, or copy it to a folder of yours</source>
+        <translation>andere Benutzer aus seiner Gruppe dürfen es ändern; nimm dieses Recht weg oder kopiere es in einen deiner Ordner</translation>
     </message>
     <message>
         <source>1 change</source>

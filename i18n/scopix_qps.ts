@@ -1054,6 +1054,22 @@
         <translation>[à plàîñ ñûmbéŕ ~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1”</source>
+        <translation>[“%1” ~~]</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>[Ţĥé šçéñé ~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 has groups that stand in so many places that only a part of it is shown, measured and searched: the first %2 repeated nodes.</source>
+        <translation>[%1 ĥàš ĝŕöûpš ţĥàţ šţàñd îñ šö màñý plàçéš ţĥàţ öñlý à pàŕţ öf îţ îš šĥöwñ, méàšûŕéd àñd šéàŕçĥéd: ţĥé fîŕšţ %2 ŕépéàţéd ñödéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 has instances within instances that come to more than %2 copies; the others are left out.</source>
+        <translation>[%1 ĥàš îñšţàñçéš wîţĥîñ îñšţàñçéš ţĥàţ çömé ţö möŕé ţĥàñ %2 çöpîéš; ţĥé öţĥéŕš àŕé léfţ öûţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>a %1 has no such field</source>
         <translation>[à %1 ĥàš ñö šûçĥ fîéld ~~~~~~~~~]</translation>
     </message>
@@ -1218,6 +1234,22 @@
         <translation>[à býţé 0 šţàñdš ĥéŕé, wĥîçĥ à ţéxţ ĥàš ñöţ: ţĥé fîlé îš dàmàĝéd, öŕ ñö pàţçĥ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>%1:%2: Column %3: %4</source>
+        <translation>[%1:%2: Çölûmñ %3: %4 ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1: Column %2: %3</source>
+        <translation>[%1: Çölûmñ %2: %3 ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No memory for %1: %2 bytes were asked for.</source>
+        <translation>[Ñö mémöŕý föŕ %1: %2 býţéš wéŕé àšķéd föŕ. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1: OpenGL reports %2.</source>
+        <translation>[%1: ÖpéñĜL ŕépöŕţš %2. ~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1 is no value of %2, which is a %3; each field has a line of its own</source>
         <translation>[%1 îš ñö vàlûé öf %2, wĥîçĥ îš à %3; éàçĥ fîéld ĥàš à lîñé öf îţš öwñ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1320,10 +1352,6 @@
     <message>
         <source>the end of the record was expected</source>
         <translation>[ţĥé éñd öf ţĥé ŕéçöŕd wàš éxpéçţéd ~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>%1:%2: Column %3: %4.</source>
-        <translation>[%1:%2: Çölûmñ %3: %4. ~~~~~~~~]</translation>
     </message>
     <message>
         <source>A scene file was expected, but this is not a file.</source>
@@ -1458,12 +1486,92 @@
         <translation>[“%1” làçķš ţĥé vàlûé ţö çömpàŕé wîţĥ. ~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>No display for drawing off the screen: EGL offers none, not even a surfaceless one.</source>
+        <translation>[Ñö dîšplàý föŕ dŕàwîñĝ öff ţĥé šçŕééñ: ÉĜL öfféŕš ñöñé, ñöţ évéñ à šûŕfàçéléšš öñé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>OpenGL 3.3 could not be started for drawing off the screen (EGL error %1).</source>
+        <translation>[ÖpéñĜL 3.3 çöûld ñöţ bé šţàŕţéd föŕ dŕàwîñĝ öff ţĥé šçŕééñ (ÉĜL éŕŕöŕ %1). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Drawing needs OpenGL 3.3, but this system offers only %1.%2.</source>
+        <translation>[Dŕàwîñĝ ñéédš ÖpéñĜL 3.3, bûţ ţĥîš šýšţém öfféŕš öñlý %1.%2. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>%1 has so many copies of shapes that only the first %2 of them are shown.</source>
+        <translation>[%1 ĥàš šö màñý çöpîéš öf šĥàpéš ţĥàţ öñlý ţĥé fîŕšţ %2 öf ţĥém àŕé šĥöwñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>OpenGL refused a drawing program: %1</source>
+        <translation>[ÖpéñĜL ŕéfûšéd à dŕàwîñĝ pŕöĝŕàm: %1 ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>OpenGL could not link a drawing program: %1</source>
+        <translation>[ÖpéñĜL çöûld ñöţ lîñķ à dŕàwîñĝ pŕöĝŕàm: %1 ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A picture of %1 x %2 pixels cannot be drawn; each side may have 1 to %3.</source>
+        <translation>[À pîçţûŕé öf %1 x %2 pîxélš çàññöţ bé dŕàwñ; éàçĥ šîdé màý ĥàvé 1 ţö %3. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture of a texture is missing; the texture is drawn without it.</source>
+        <translation>[Ţĥé pîçţûŕé öf à ţéxţûŕé îš mîššîñĝ; ţĥé ţéxţûŕé îš dŕàwñ wîţĥöûţ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture of a texture cannot be read; the texture is drawn without it.</source>
+        <translation>[Ţĥé pîçţûŕé öf à ţéxţûŕé çàññöţ bé ŕéàd; ţĥé ţéxţûŕé îš dŕàwñ wîţĥöûţ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>it is a folder</source>
         <translation>[îţ îš à földéŕ ~~~~~~]</translation>
     </message>
     <message>
         <source>the file is write-protected</source>
         <translation>[ţĥé fîlé îš wŕîţé-pŕöţéçţéd ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” sent a message that is too long or damaged; detached.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” šéñţ à méššàĝé ţĥàţ îš ţöö löñĝ öŕ dàmàĝéd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” has ended or was killed.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” ĥàš éñdéd öŕ wàš ķîlléd. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” sent a message that this inspector does not understand; detached.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” šéñţ à méššàĝé ţĥàţ ţĥîš îñšpéçţöŕ döéš ñöţ ûñdéŕšţàñd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: the program does not answer.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: ţĥé pŕöĝŕàm döéš ñöţ àñšwéŕ. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: what listens there is no program that can be inspected.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: wĥàţ lîšţéñš ţĥéŕé îš ñö pŕöĝŕàm ţĥàţ çàñ bé îñšpéçţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: no program listens there any more.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: ñö pŕöĝŕàm lîšţéñš ţĥéŕé àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: %2.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: %2. ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: it is another user’s program; inspect it as that user.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: îţ îš àñöţĥéŕ ûšéŕ’š pŕöĝŕàm; îñšpéçţ îţ àš ţĥàţ ûšéŕ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: the program has closed the connection.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: ţĥé pŕöĝŕàm ĥàš çlöšéd ţĥé çöññéçţîöñ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: it speaks version %2 of the protocol and this inspector version %3; use libraries and an inspector of the same version.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: îţ špéàķš véŕšîöñ %2 öf ţĥé pŕöţöçöl àñd ţĥîš îñšpéçţöŕ véŕšîöñ %3; ûšé lîbŕàŕîéš àñd àñ îñšpéçţöŕ öf ţĥé šàmé véŕšîöñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: its greeting is damaged.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: îţš ĝŕééţîñĝ îš dàmàĝéd. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>
@@ -2334,10 +2442,6 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[“%1” béföŕé ţĥé làšţ édîţš; çĥööšé Möŕé ▸ Çömpàŕé Àĝàîñ ~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>[“%1” ~~]</translation>
-    </message>
-    <message>
         <source>Take Over</source>
         <translation>[Ţàķé Övéŕ ~~~~]</translation>
     </message>
@@ -2694,24 +2798,32 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[&amp;Làûñçĥ ~~~]</translation>
     </message>
     <message>
-        <source>the owner of %1 cannot be found out</source>
-        <translation>[ţĥé öwñéŕ öf %1 çàññöţ bé föûñd öûţ ~~~~~~~~~~~~~~]</translation>
+        <source>its owner cannot be found out</source>
+        <translation>[îţš öwñéŕ çàññöţ bé föûñd öûţ ~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>%1 belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
-        <translation>[%1 bélöñĝš ţö %2, àñd öñlý plûĝ-îñš öf ýöûŕš àñd öf ţĥé àdmîñîšţŕàţöŕ àŕé löàdéd; çöpý îţ ţö à földéŕ öf ýöûŕš îf ýöû ţŕûšţ îţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>its folder “%1” belongs to %2, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
+        <translation>[îţš földéŕ “%1” bélöñĝš ţö %2, àñd öñlý plûĝ-îñš öf ýöûŕš àñd öf ţĥé àdmîñîšţŕàţöŕ àŕé löàdéd; çöpý îţ ţö à földéŕ öf ýöûŕš îf ýöû ţŕûšţ îţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>every user may write to %1, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
-        <translation>[évéŕý ûšéŕ màý wŕîţé ţö %1, šö ţĥàţ îţ màý bé àñýbödý'š; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>it belongs to %1, and only plug-ins of yours and of the administrator are loaded; copy it to a folder of yours if you trust it</source>
+        <translation>[îţ bélöñĝš ţö %1, àñd öñlý plûĝ-îñš öf ýöûŕš àñd öf ţĥé àdmîñîšţŕàţöŕ àŕé löàdéd; çöpý îţ ţö à földéŕ öf ýöûŕš îf ýöû ţŕûšţ îţ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>other users, those of its group, may write to %1; take that permission away, or copy it to a folder of yours</source>
-        <translation>[öţĥéŕ ûšéŕš, ţĥöšé öf îţš ĝŕöûp, màý wŕîţé ţö %1; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>every user may write to its folder “%1”, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
+        <translation>[évéŕý ûšéŕ màý wŕîţé ţö îţš földéŕ “%1”, šö ţĥàţ îţ màý bé àñýbödý'š; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>its folder “%1”</source>
-        <translation>[îţš földéŕ “%1” ~~~~~~]</translation>
+        <source>every user may write to it, so that it may be anybody's; take that permission away, or copy it to a folder of yours</source>
+        <translation>[évéŕý ûšéŕ màý wŕîţé ţö îţ, šö ţĥàţ îţ màý bé àñýbödý'š; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>other users, those of its group, may write to its folder “%1”; take that permission away, or copy it to a folder of yours</source>
+        <translation>[öţĥéŕ ûšéŕš, ţĥöšé öf îţš ĝŕöûp, màý wŕîţé ţö îţš földéŕ “%1”; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>other users, those of its group, may write to it; take that permission away, or copy it to a folder of yours</source>
+        <translation>[öţĥéŕ ûšéŕš, ţĥöšé öf îţš ĝŕöûp, màý wŕîţé ţö îţ; ţàķé ţĥàţ péŕmîššîöñ àwàý, öŕ çöpý îţ ţö à földéŕ öf ýöûŕš ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>1 change</source>

@@ -2,6 +2,7 @@
 #include "live/LiveScene.h"
 
 #include "live/LiveFrames.h"
+#include "live/LiveSentences.h"
 #include "live/LiveValues.h"
 #include "services/HostServices.h"
 #include "support/Printable.h"
@@ -633,12 +634,17 @@ void LiveScene::framesCame(const live::FrameTable& frames)
 
 // --- The end
 
-void LiveScene::ended(const std::string& reason)
+void LiveScene::ended(const live::Sentence& reason)
+{
+    end(toText(reason));
+}
+
+void LiveScene::end(const QString& reason)
 {
     if (m_state == State::Ended)
         return;
     m_state = State::Ended;
-    m_end = printable(QString::fromStdString(reason));
+    m_end = printable(reason);
     m_edits.stop();
     emit stateChanged();
     goOnWaiting();
@@ -653,7 +659,7 @@ void LiveScene::detach()
         m_link->mark(0);
     m_link->setListener(nullptr);
     m_link->disconnect();
-    ended(tr("You have detached from “%1”.").arg(getName()).toStdString());
+    end(tr("You have detached from “%1”.").arg(getName()));
 }
 
 void LiveScene::setSilent(bool isSilent)

@@ -146,7 +146,8 @@ private:
     void countersCame(const std::vector<double>& values) override;
     void noticeCame(const live::Notice& notice) override;
     void framesCame(const live::FrameTable& frames) override;
-    void ended(const std::string& reason) override;
+    void ended(const live::Sentence& reason) override;
+    void end(const QString& reason);
 
     HostServices& m_services;
     std::unique_ptr<LiveLink> m_link;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "live/SocketLink.h"
 
+#include "live/LiveSentences.h"
+
 #include <QSocketNotifier>
 
 namespace scopix
@@ -19,9 +21,9 @@ SocketLink::~SocketLink()
 
 QString SocketLink::connectTo(const QString& socketPath)
 {
-    const std::string problem = m_client.connect(socketPath.toStdString());
+    const live::Sentence problem = m_client.connect(socketPath.toStdString());
     if (!problem.empty())
-        return QString::fromStdString(problem);
+        return toText(problem);
     m_read = new QSocketNotifier(m_client.fileDescriptor(), QSocketNotifier::Read, this);
     m_write = new QSocketNotifier(m_client.fileDescriptor(), QSocketNotifier::Write, this);
     connect(m_read, &QSocketNotifier::activated, this, &SocketLink::process);
@@ -258,7 +260,7 @@ void SocketLink::framesCame(const live::FrameTable& frames)
         m_listener->framesCame(frames);
 }
 
-void SocketLink::ended(const std::string& reason)
+void SocketLink::ended(const live::Sentence& reason)
 {
     stop();
     if (m_listener)

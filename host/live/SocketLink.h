@@ -77,7 +77,7 @@ private:
     void countersCame(const std::vector<double>& values) override;
     void noticeCame(const live::Notice& notice) override;
     void framesCame(const live::FrameTable& frames) override;
-    void ended(const std::string& reason) override;
+    void ended(const live::Sentence& reason) override;
 
     live::ClientListener* m_listener = nullptr;
     live::Client m_client;

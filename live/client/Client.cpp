@@ -39,7 +39,7 @@ public:
     {
     }
 
-    std::string connect(const std::string& path);
+    Sentence connect(const std::string& path);
     void disconnect();
     void process();
 
@@ -70,7 +70,7 @@ private:
     void take(const Message& message);
     bool takeAnswer(const Message& message);
     bool takeEvent(const Message& message);
-    void end(const std::string& reason);
+    void end(const Sentence& reason);
     void drop();
 
     void come(TypeConstant<MessageType::RootsChanged>) { m_listener.rootsChanged(); }
@@ -90,7 +90,7 @@ private:
     {
         m_listener.framesCame(frames);
     }
-    void come(TypeConstant<MessageType::Goodbye>, const Text& reason) { end(reason); }
+    void come(TypeConstant<MessageType::Goodbye>, const Text& reason) { end(Sentence::verbatim(reason)); }
 
     ClientListener& m_listener;
     std::unique_ptr<Stream> m_stream;
@@ -101,14 +101,14 @@ private:
     Stream::Clock::time_point m_lastAnswer;
 };
 
-std::string Client::Private::connect(const std::string& path)
+Sentence Client::Private::connect(const std::string& path)
 {
     disconnect();
     std::vector<Handshake> handshakes;
     handshakes.emplace_back(path);
     Handshake::waitForAll(handshakes, TimeToConnect);
     Handshake& handshake = handshakes.front();
-    const std::string problem = handshake.problem();
+    const Sentence problem = handshake.problem();
     if (!problem.empty())
         return problem;
     m_program = handshake.program();
@@ -132,7 +132,7 @@ void Client::Private::drop()
     const std::deque<Pending> dropped = std::exchange(m_pending, {});
 }
 
-void Client::Private::end(const std::string& reason)
+void Client::Private::end(const Sentence& reason)
 {
     drop();
     m_listener.ended(reason);
@@ -202,17 +202,18 @@ void Client::Private::receive()
             break;
     }
     if (m_stream && m_stream->messages().isBroken())
-        end("The program “" + m_program.name + "” sent a message that is too long or damaged; detached.");
+        end(Sentence("The program “%1” sent a message that is too long or damaged; detached.",
+                     {m_program.name}));
     else if (m_stream && !isOpen)
-        end("The program “" + m_program.name + "” has ended or was killed.");
+        end(Sentence("The program “%1” has ended or was killed.", {m_program.name}));
 }
 
 void Client::Private::take(const Message& message)
 {
     const bool isTaken = message.id == 0 ? takeEvent(message) : takeAnswer(message);
     if (!isTaken && m_stream)
-        end("The program “" + m_program.name +
-            "” sent a message that this inspector does not understand; detached.");
+        end(Sentence("The program “%1” sent a message that this inspector does not understand; detached.",
+                     {m_program.name}));
 }
 
 bool Client::Private::takeAnswer(const Message& message)
@@ -263,7 +264,7 @@ Client::~Client()
     m_private->disconnect();
 }
 
-std::string Client::connect(const std::string& socketPath)
+Sentence Client::connect(const std::string& socketPath)
 {
     return m_private->connect(socketPath);
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <scopix/live/adapter/Adapter.h>
+#include <scopix/live/values/LiveSentence.h>
 
 namespace scopix::live
 {
@@ -43,9 +44,8 @@ public:
     virtual void countersCame(const std::vector<double>&) {}
     virtual void noticeCame(const Notice&) {}
     virtual void framesCame(const FrameTable&) {}
-    /// The connection is over, by the other side or by an error; `reason` is a sentence. Nothing comes after
-    /// it.
-    virtual void ended(const std::string&) {}
+    /// The connection is over, by the other side or by an error. Nothing comes after it.
+    virtual void ended(const Sentence& /*reason*/) {}
 };
 
 /// One attachment to one program. All functions are for one thread; none of them waits, except `connect` (at
@@ -66,7 +66,7 @@ public:
 
     /// Empty where it is attached, otherwise a sentence that says why not (version, another user, nobody
     /// there).
-    std::string connect(const std::string& socketPath);
+    Sentence connect(const std::string& socketPath);
     bool isConnected() const noexcept;
     /// Ends it in good order; `ended` is not called.
     void disconnect();

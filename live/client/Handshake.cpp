@@ -17,18 +17,23 @@ namespace scopix::live
 namespace
 {
 
-std::string reasonOf(int error)
+Sentence noAnswer(const std::string& path)
 {
-    if (error == ECONNREFUSED || error == ENOENT)
-        return "no program listens there any more";
-    if (error == EAGAIN)
-        return "the program does not answer";
-    return std::strerror(error);
+    return Sentence("Cannot attach to “%1”: the program does not answer.", {path});
 }
 
-std::string failure(const std::string& path, const std::string& reason)
+Sentence noProgram(const std::string& path)
 {
-    return "Cannot attach to “" + path + "”: " + reason + ".";
+    return Sentence("Cannot attach to “%1”: what listens there is no program that can be inspected.", {path});
+}
+
+Sentence failure(const std::string& path, int error)
+{
+    if (error == ECONNREFUSED || error == ENOENT)
+        return Sentence("Cannot attach to “%1”: no program listens there any more.", {path});
+    if (error == EAGAIN)
+        return noAnswer(path);
+    return Sentence("Cannot attach to “%1”: %2.", {path, std::strerror(error)});
 }
 
 // A greeting of any version: what follows it is of that version.
@@ -51,12 +56,13 @@ Handshake::Handshake(const std::string& path)
     if (!socket) {
         const int error = errno;
         m_isStale = error == ECONNREFUSED;
-        m_problem = failure(path, reasonOf(error));
+        m_problem = failure(path, error);
         return;
     }
     const std::optional<uid_t> user = peerUser(socket);
     if (!user || !mayTalk(*user, geteuid())) {
-        m_problem = failure(path, "it is another user’s program; inspect it as that user");
+        m_problem =
+            Sentence("Cannot attach to “%1”: it is another user’s program; inspect it as that user.", {path});
         return;
     }
     m_stream = std::make_unique<Stream>(std::move(socket), true);
@@ -95,16 +101,16 @@ void Handshake::read()
         take(*message);
     }
     if (isWaiting() && m_stream->messages().isBroken())
-        m_problem = failure(m_path, "what listens there is no program that can be inspected");
+        m_problem = noProgram(m_path);
     else if (isWaiting() && !isOpen)
-        m_problem = failure(m_path, "the program has closed the connection");
+        m_problem = Sentence("Cannot attach to “%1”: the program has closed the connection.", {m_path});
 }
 
 void Handshake::take(const Message& message)
 {
     if (const auto reason = contentsOf<Parameters<MessageType::Goodbye>>(message);
         message.is(MessageType::Goodbye) && reason)
-        m_problem = std::get<0>(*reason);
+        m_problem = Sentence::verbatim(std::get<0>(*reason));
     else
         takeHello(message);
 }
@@ -113,27 +119,28 @@ void Handshake::takeHello(const Message& message)
 {
     const std::optional<Greeting> greeting = greetingOf(message);
     if (!greeting) {
-        m_problem = failure(m_path, "what listens there is no program that can be inspected");
+        m_problem = noProgram(m_path);
         return;
     }
     m_isGreeted = true;
     m_program = {m_path, greeting->name, greeting->sceneGraph, greeting->pid, greeting->version};
     if (greeting->version != ProtocolVersion) {
-        m_problem = "Cannot attach to “" + greeting->name + "”: it speaks version " +
-                    std::to_string(greeting->version) + " of the protocol and this inspector version " +
-                    std::to_string(ProtocolVersion) + "; use libraries and an inspector of the same version.";
+        m_problem =
+            Sentence("Cannot attach to “%1”: it speaks version %2 of the protocol and this inspector "
+                     "version %3; use libraries and an inspector of the same version.",
+                     {greeting->name, std::to_string(greeting->version), std::to_string(ProtocolVersion)});
     } else if (auto introduction = contentsOf<Introduction>(message)) {
         m_introduction = std::move(*introduction);
     } else {
-        m_problem = failure(m_path, "its greeting is damaged");
+        m_problem = Sentence("Cannot attach to “%1”: its greeting is damaged.", {m_path});
     }
 }
 
-std::string Handshake::problem() const
+Sentence Handshake::problem() const
 {
     if (!m_problem.empty() || m_isGreeted)
         return m_problem;
-    return failure(m_path, "the program does not answer");
+    return noAnswer(m_path);
 }
 
 std::unique_ptr<Stream> Handshake::takeStream()

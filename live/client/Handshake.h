@@ -27,7 +27,7 @@ public:
     const Program& program() const noexcept { return m_program; }
 
     /// Why nothing can come of it, in a sentence: another version, another user, nobody there, no answer.
-    std::string problem() const;
+    Sentence problem() const;
     const Introduction& introduction() const noexcept { return m_introduction; }
     /// The connection goes on; the program is greeted in return.
     std::unique_ptr<Stream> takeStream();
@@ -44,7 +44,7 @@ private:
     Introduction m_introduction;
     bool m_isStale = false;
     bool m_isGreeted = false;
-    std::string m_problem;
+    Sentence m_problem;
 };
 
 } // namespace scopix::live

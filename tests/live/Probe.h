@@ -82,7 +82,7 @@ public:
     void countersCame(const std::vector<double>& numbers) override { counters.push_back(numbers); }
     void noticeCame(const scopix::live::Notice& notice) override { notices.push_back(notice); }
     void framesCame(const scopix::live::FrameTable& table) override { frames.push_back(table); }
-    void ended(const std::string& reason) override { end = reason; }
+    void ended(const scopix::live::Sentence& reason) override { end = reason; }
 
 private:
     Step m_step;

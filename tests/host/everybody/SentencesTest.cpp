@@ -2,6 +2,9 @@
 // What libraries without Qt say of formulas, queries, paths, scenes, patches and files is translated: a
 // sentence that is not in the catalogue stays in English, and fails here.
 #include "language/Languages.h"
+#include "live/LiveSentences.h"
+#include "live/SocketLink.h"
+#include "plugins/LibraryTrust.h"
 #include "support/OutputFile.h"
 
 #include <scopix/SpxSentence.h>
@@ -15,6 +18,7 @@
 #include <xsg/frames/SoFrameFile.h>
 #include <xsg/paths/ChildTable.h>
 #include <xsg/query/SoQuery.h>
+#include <xsg/render/SoOffscreenRenderer.h>
 
 #include <gtest/gtest.h>
 
@@ -22,8 +26,12 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <set>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace scopix;
 
@@ -304,6 +312,62 @@ TEST_F(Sentences, OfOtherFilesAreTranslated)
     }
     for (const char* path : {"/dev/null", "/"})
         EXPECT_TRUE(replaceFile(QLatin1String(path), {}).startsWith('[')) << path;
+}
+
+TEST_F(Sentences, OfPicturesAreTranslated)
+{
+    SoOffscreenRenderer renderer;
+    SoPixels pixels;
+    EXPECT_FALSE(renderer.render(someScene().get(), nullptr, 0, 10, pixels));
+    expectSaid(renderer.getError(), "a picture without a width");
+}
+
+TEST_F(Sentences, OfProgramsThatCannotBeAttachedToAreTranslated)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("no-program"));
+    SocketLink link;
+    EXPECT_TRUE(link.connectTo(path).startsWith('['));
+    Languages::instance()->speak("de");
+    EXPECT_EQ(link.connectTo(path),
+              "Verbinden mit „" + path + "“ ist nicht möglich: Dort lauscht kein Programm mehr.");
+    EXPECT_EQ(toText(live::Sentence("The program “%1” has ended or was killed.", {"mill"})),
+              "Das Programm „mill“ hat sich beendet oder wurde abgebrochen.");
+    EXPECT_EQ(toText(live::Sentence::verbatim("100 %1")), "100 %1") << "the words of the program";
+}
+
+TEST_F(Sentences, OfErrorsThatAreReportedAreThoseThatAreReturned)
+{
+    static QStringList reported;
+    reported.clear();
+    const auto collect = [](const SoError* error, void*) {
+        reported << SpxSentence::translated(error->getSentence());
+    };
+    SoReadError::setHandlerCallback(collect, nullptr);
+    Languages::instance()->speak("de");
+    xsg::SceneReading missing("/nowhere/at/all.xsg");
+    EXPECT_EQ(reported, QStringList(SpxSentence::translated(missing.getError())));
+    xsg::SceneReading other(SCOPIX_SOURCE_DIR "/README.md");
+    other.advance(xsg::SceneReader::Clock::time_point::max());
+    EXPECT_EQ(reported.value(1), SpxSentence::translated(other.getError()));
+    EXPECT_TRUE(reported.value(1).contains("README.md:1: Spalte 1: das ist keine Szenendatei"))
+        << qPrintable(reported.value(1));
+}
+
+TEST_F(Sentences, OnWhyAPlugInIsNotTrustedAreWholeInGerman)
+{
+    Languages::instance()->speak("de");
+    const QTemporaryDir folder;
+    const QString library = folder.filePath(QStringLiteral("library.so"));
+    QFile file(library);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const LibraryTrust trust(geteuid(), QStringLiteral("/usr/bin/env"));
+    ASSERT_EQ(chmod(qPrintable(library), 0666), 0);
+    EXPECT_TRUE(trust.whyNot(library).startsWith("jeder Benutzer darf es ändern,"));
+    ASSERT_EQ(chmod(qPrintable(library), 0600), 0);
+    ASSERT_EQ(chmod(qPrintable(folder.path()), 0777), 0);
+    EXPECT_TRUE(trust.whyNot(library).startsWith("jeder Benutzer darf in seinen Ordner „" + folder.path() +
+                                                 "“ schreiben,"));
 }
 
 TEST_F(Sentences, AreWholeInGerman)
