@@ -3,6 +3,7 @@
 
 #include "console/LogStore.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/errors/SoDebugError.h>
 
 #include <algorithm>
@@ -57,6 +58,13 @@ std::string nameOfThisThread()
     return pthread_getname_np(pthread_self(), name, sizeof name) == 0 ? name : "";
 }
 
+// In the user's language, where somebody has translated it.
+std::string textOf(const SoError& error)
+{
+    const SbSentence& sentence = error.getSentence();
+    return sentence.getSource() ? SpxSentence::translated(sentence).toStdString() : sentence.getText();
+}
+
 } // namespace
 
 LogInbox::LogInbox(std::function<void()> wake, std::uint64_t mostLines)
@@ -83,11 +91,12 @@ void LogInbox::written(Stream stream, const char* text, std::size_t length)
 
 void LogInbox::reported(const SoError& error)
 {
+    const std::string text = textOf(error);
     const std::lock_guard lock(m_mutex);
     m_now = now();
     const std::uint16_t thread = thisThread().number;
     OpenLine line;
-    const std::string_view rest = addLines(line, error.getDebugString().getString(), kindOf(error), thread);
+    const std::string_view rest = addLines(line, text, kindOf(error), thread);
     endWith(line, rest, kindOf(error), thread);
     wake();
 }

@@ -22,6 +22,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QToolButton>
+#include <QTranslator>
 
 #include <iostream>
 
@@ -204,6 +205,25 @@ TEST_F(LogWidget, ABadgeCountsErrorsNamesTheFirstAndLeadsToIt)
     EXPECT_TRUE(waitFor([&] { return current().contains("<first>"); })) << qPrintable(current());
     EXPECT_FALSE(badge()->isVisible());
     EXPECT_FALSE(dock->visibleRegion().isEmpty());
+}
+
+TEST_F(LogWidget, TellsErrorsInTheUsersLanguage)
+{
+    class Loud : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char* context, const char* text, const char*, int) const override
+        {
+            return qstrcmp(context, "Sentence") == 0 ? QString::fromUtf8(text).toUpper() : QString();
+        }
+    };
+    Loud language;
+    QCoreApplication::installTranslator(&language);
+    SoReadError::post("file.xsg", 3, 4, SbSentence("%1 is no number.", "wide"));
+    SoReadError::post("file.xsg", 3, "as the program has it");
+    QCoreApplication::removeTranslator(&language);
+    EXPECT_TRUE(shows({"file.xsg:3: COLUMN 4: wide IS NO NUMBER.", "file.xsg:3: as the program has it"}));
 }
 
 TEST_F(LogWidget, StaysAtTheEndUnlessTheUserLooksElsewhere)
