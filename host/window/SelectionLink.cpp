@@ -26,6 +26,8 @@ SelectionLink::SelectionLink(HostServices& services, SceneTreeView& tree, SceneV
 
 void SelectionLink::tell()
 {
+    if (m_isFollowing)
+        return;
     const QScopedValueRollback<bool> telling(m_isTelling, true);
     m_services.selectPaths(m_tree.getSelectedPaths());
 }
@@ -43,6 +45,13 @@ void SelectionLink::show()
     m_view.setHighlight(seen);
 }
 
+// Rows that go take the tree's selection with them, which is no act of the user's.
+void SelectionLink::follow(SceneTreeModel& model)
+{
+    const QScopedValueRollback<bool> following(m_isFollowing, true);
+    model.followNow();
+}
+
 // What was made just now has no row yet; while the tree itself tells, it may be changing its rows.
 void SelectionLink::showInTree()
 {
@@ -50,7 +59,7 @@ void SelectionLink::showInTree()
     SceneTreeModel& model = m_tree.getModel();
     const auto isMissing = [&model](const SoPath& path) { return !model.indexOf(path).isValid(); };
     if (!m_isTelling && std::any_of(paths.begin(), paths.end(), isMissing))
-        model.followNow();
+        follow(model);
     m_tree.showPaths(paths);
 }
 

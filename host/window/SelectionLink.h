@@ -7,6 +7,7 @@ namespace scopix
 {
 
 class HostServices;
+class SceneTreeModel;
 class SceneTreeView;
 class SceneView;
 
@@ -24,11 +25,13 @@ private:
     void tell();
     void show();
     void showInTree();
+    void follow(SceneTreeModel& model);
 
     HostServices& m_services;
     SceneTreeView& m_tree;
     SceneView& m_view;
     bool m_isTelling = false;
+    bool m_isFollowing = false;
 };
 
 } // namespace scopix

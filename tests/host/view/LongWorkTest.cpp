@@ -155,7 +155,6 @@ protected:
             group->addChild(root->getChild(i));
         root->removeAllChildren();
         root->addChild(group.get());
-        window->getTree().getModel().followNow();
         services.selectPaths({pathTo(0)});
         LongWork::setPatience(0, 0); // of a machine as slow as can be
     }
