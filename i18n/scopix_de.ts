@@ -3280,6 +3280,22 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>%1 hinzufügen</translation>
     </message>
     <message>
+        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>Das Programm erzeugt keine Knoten vom Typ „%1“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
+    </message>
+    <message>
+        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
+        <translation>Es wurde nichts geändert, weil sich die ausgewählten Knoten inzwischen geändert haben; versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
+        <translation>„%1“ steht im Programm ganz oben und muss dort bleiben.</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>Das Programm erzeugt keine Knoten von einem Typ namens „Group“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
+    </message>
+    <message>
         <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
         <translation>„%1“ steht im Programm ganz oben und lässt sich nicht duplizieren.</translation>
     </message>
@@ -4642,6 +4658,10 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>Put %1 Above %2 Nodes</source>
         <translation>%1 über %2 Knoten einsetzen</translation>
+    </message>
+    <message>
+        <source>Nothing was put above, since “%1” takes no children; choose a type that does.</source>
+        <translation>Es wurde nichts darüber eingesetzt, weil „%1“ keine Kinder aufnimmt; wählen Sie einen Typ, der welche aufnimmt.</translation>
     </message>
     <message>
         <source>“%1” cannot be duplicated: something in it is of a kind that cannot be copied.</source>

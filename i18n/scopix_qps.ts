@@ -3280,6 +3280,22 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Àdd %1 ~~]</translation>
     </message>
     <message>
+        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf ţĥé ţýpé “%1”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
+        <translation>[Ñöţĥîñĝ wàš döñé, šîñçé ţĥé šéléçţéd ñödéš ĥàvé çĥàñĝéd méàñwĥîlé; ţŕý îţ àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
+        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd ĥàš ţö šţàý wĥéŕé îţ îš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf à ţýpé çàlléd “Ĝŕöûp”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
         <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd çàññöţ bé dûplîçàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -4642,6 +4658,10 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>Put %1 Above %2 Nodes</source>
         <translation>[Pûţ %1 Àbövé %2 Ñödéš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing was put above, since “%1” takes no children; choose a type that does.</source>
+        <translation>[Ñöţĥîñĝ wàš pûţ àbövé, šîñçé “%1” ţàķéš ñö çĥîldŕéñ; çĥööšé à ţýpé ţĥàţ döéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>“%1” cannot be duplicated: something in it is of a kind that cannot be copied.</source>

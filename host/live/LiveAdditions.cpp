@@ -8,9 +8,12 @@
 #include "support/Printable.h"
 #include "text/NodeText.h"
 
+#include <scopix/SpxEditedFields.h>
+
 #include <QTimer>
 
 #include <algorithm>
+#include <map>
 
 namespace scopix
 {
@@ -61,89 +64,183 @@ std::string LiveAdditions::programType(SoType type) const
 }
 
 // Places are the program's only once what was edited before is there too.
-void LiveAdditions::start(const std::vector<MirroredAddition>& additions, const QString& stepName)
+void LiveAdditions::start(const MirroredAct& act)
 {
     m_scene.getEdits().flush();
-    auto run = std::make_shared<Run>(Run{additions, stepName});
-    run->left = additions.size();
+    auto run = std::make_shared<Run>(Run{act});
+    for (const MirroredAddition& each : act.additions)
+        run->unfolded.emplace_back(&parentOf(each));
+    for (const auto& node : act.unfolded)
+        run->unfolded.emplace_back(static_cast<LiveNode*>(node.get()));
+    run->made.resize(act.additions.size());
+    run->left = act.additions.size();
     unfold(run, 0);
 }
 
 void LiveAdditions::unfold(const RunPointer& run, std::size_t i)
 {
-    if (i < run->additions.size())
-        return m_scene.whenUnfolded(parentOf(run->additions[i]), [this, run, i] { unfold(run, i + 1); });
-    for (MirroredAddition& each : run->additions) {
+    if (i < run->unfolded.size())
+        return m_scene.whenUnfolded(*run->unfolded[i], [this, run, i] { unfold(run, i + 1); });
+    if (run->left == 0)
+        return m_scene.whenInFront([this, run] { finish(*run); });
+    for (i = 0; i < run->act.additions.size(); ++i) {
+        MirroredAddition& each = run->act.additions[i];
         if (each.index < 0)
             each.index = parentOf(each).getNumChildren();
-        ask(run, each);
+        ask(run, i);
     }
 }
 
-void LiveAdditions::ask(const RunPointer& run, const MirroredAddition& addition)
+void LiveAdditions::ask(const RunPointer& run, std::size_t i)
 {
+    const MirroredAddition& addition = run->act.additions[i];
     const LiveNode& parent = parentOf(addition);
-    const auto objects = static_cast<int>(parent.m_objects.size());
-    const auto place = static_cast<std::uint32_t>(std::max(addition.index - objects, 0));
-    const auto answer = [this, run, addition](const live::StructureResult& result) {
-        answered(run, addition, result);
-    };
+    const auto place = static_cast<std::uint32_t>(std::max(addition.index - parent.countObjects(), 0));
+    const auto answer = [this, run, i](const live::StructureResult& result) { answered(run, i, result); };
     if (const auto* copied = static_cast<const LiveNode*>(addition.copied.get()))
         m_scene.getLink().copy(parent.getId(), place, copied->getId(), answer);
     else
         m_scene.getLink().add(parent.getId(), place, programType(addition.type), answer);
 }
 
-void LiveAdditions::answered(const RunPointer& run, const MirroredAddition& addition,
-                             const live::StructureResult& result)
+void LiveAdditions::answered(const RunPointer& run, std::size_t i, const live::StructureResult& result)
 {
     if (!result.done) {
-        emit m_scene.told(LiveScene::tr("“%1” added nothing to “%2”: %3")
-                              .arg(m_scene.getName(), nodeText(parentOf(addition)),
-                                   printable(QString::fromStdString(result.refusal))));
+        if (m_scene.getState() != LiveScene::State::Ended)
+            emit m_scene.told(LiveScene::tr("“%1” added nothing to “%2”: %3")
+                                  .arg(m_scene.getName(), nodeText(parentOf(run->act.additions[i])),
+                                       printable(QString::fromStdString(result.refusal))));
         return endOne(run);
     }
-    m_scene.getLink().node(result.node, [this, run, addition](const std::optional<live::NodeInfo>& info) {
+    m_scene.getLink().node(result.node, [this, run, i](const std::optional<live::NodeInfo>& info) {
         if (info && info->id != 0)
-            run->made.push_back({addition, *info});
-        endOne(run);
+            made(run, i, *info);
+        else
+            endOne(run);
     });
+}
+
+// What takes in other nodes is known to be empty then.
+void LiveAdditions::made(const RunPointer& run, std::size_t i, const live::NodeInfo& info)
+{
+    const NodeRef node = m_scene.nodeFor(info);
+    run->made[i] = node;
+    if (run->act.think && !run->act.additions[i].copied && info.canHaveChildren)
+        m_scene.whenUnfolded(*node, [this, run] { endOne(run); });
+    else
+        endOne(run);
 }
 
 void LiveAdditions::endOne(const RunPointer& run)
 {
-    if (--run->left == 0 && !run->made.empty())
+    const auto isMade = [](const NodeRef& node) { return node.get() != nullptr; };
+    if (--run->left == 0 && std::any_of(run->made.begin(), run->made.end(), isMade))
         m_scene.whenInFront([this, run] { finish(*run); });
 }
 
-// The program may have told of the new children already: they are taken out first, so that the step brings
-// them.
 void LiveAdditions::finish(Run& run)
 {
-    std::vector<NodeRef> nodes;
-    for (const Made& each : run.made) {
-        nodes.push_back(m_scene.nodeFor(each.info));
-        LiveNode& parent = parentOf(each.addition);
-        const int place = parent.findChild(nodes.back().get());
+    if (m_scene.getState() == LiveScene::State::Ended)
+        return;
+    const Places places = takeOut(run);
+    structure::Act act = thinkOut(run);
+    if (!act.refusal.isEmpty())
+        emit m_scene.told(act.refusal);
+    if (act.command)
+        perform(std::move(act), places);
+    else
+        giveUp(places);
+}
+
+// The program may have told of the new children already: they are taken out here, so that the step brings
+// them.
+LiveAdditions::Places LiveAdditions::takeOut(const Run& run)
+{
+    std::map<LiveNode*, std::vector<SoNode*>> has; // the children in the program
+    Places places;
+    for (std::size_t i = 0; i < run.made.size(); ++i) {
+        LiveNode& parent = parentOf(run.act.additions[i]);
+        SoNode* node = run.made[i].get();
+        auto& children = has.try_emplace(&parent, parent.getChildren()).first->second;
+        const auto place = std::min(children.size(), static_cast<std::size_t>(run.act.additions[i].index));
+        if (node && std::find(children.begin(), children.end(), node) == children.end())
+            children.insert(children.begin() + static_cast<std::ptrdiff_t>(place), node);
+        if (node)
+            places.push_back({NodeRef(&parent), run.made[i], 0});
+    }
+    for (Place& each : places) {
+        const auto& children = has.at(each.parent.get());
+        const auto found = std::find(children.begin(), children.end(), each.made.get());
+        each.index = static_cast<int>(found - children.begin());
+        const int place = each.parent->findChild(each.made.get());
         if (place >= 0)
-            m_scene.apply([&] { parent.removeChild(place); });
+            m_scene.apply([&] { each.parent->removeChild(place); });
     }
+    for (const auto& [parent, children] : has)
+        LiveEdits::noteChildren(*parent, children);
+    const auto isBefore = [](const Place& a, const Place& b) { return a.index < b.index; };
+    std::stable_sort(places.begin(), places.end(), isBefore);
+    return places;
+}
+
+structure::Act LiveAdditions::thinkOut(const Run& run)
+{
+    if (!run.act.think)
+        return addAll(run);
+    if (std::count(run.made.begin(), run.made.end(), NodeRef()) > 0)
+        return {}; // which has been told
+    std::size_t next = 0;
+    return run.act.think([&] { return SoRef<SoNode>(run.made.at(next++).get()); });
+}
+
+structure::Act LiveAdditions::addAll(const Run& run)
+{
+    structure::Act act;
     StructurePlan plan;
-    Paths paths;
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        LiveNode& parent = parentOf(run.made[i].addition);
+    for (std::size_t i = 0; i < run.made.size(); ++i) {
+        LiveNode& parent = parentOf(run.act.additions[i]);
         const int count = static_cast<int>(plan.childrenOf(parent).size());
-        plan.insert(parent, std::min(run.made[i].addition.index, count), nodes[i].get());
-        paths += extended(run.made[i].addition.parent, nodes[i].get());
+        if (!run.made[i])
+            continue;
+        plan.insert(parent, std::min(run.act.additions[i].index, count), run.made[i].get());
+        act.selection += extended(run.act.additions[i].parent, run.made[i].get());
     }
-    m_scene.takeBack([&] {
-        static_cast<SpxSceneServices&>(m_services).executeCommand(plan.takeCommand().release(), run.name);
-    });
-    for (const Made& each : run.made) {
-        parentOf(each.addition).m_areChildrenEdited = true;
-        LiveEdits::noteChildren(parentOf(each.addition));
+    act.command = plan.takeCommand();
+    act.name = run.act.name;
+    return act;
+}
+
+// What the program has done of it is not told to it again; all else is.
+void LiveAdditions::perform(structure::Act act, const Places& places)
+{
+    const auto* told = dynamic_cast<const SpxEditedFields*>(act.command.get());
+    std::vector<NodeRef> edited;
+    for (SoFieldContainer* each : told->editedContainers()) {
+        if (auto* node = dynamic_cast<LiveNode*>(each))
+            edited.emplace_back(node);
     }
-    emit m_scene.inserted(paths);
+    m_scene.takeBack(
+        [&] { static_cast<SpxSceneServices&>(m_services).executeCommand(act.command.release(), act.name); });
+    for (const Place& each : places) {
+        each.parent->m_areChildrenEdited = true;
+        m_scene.getEdits().noteMade(*each.parent, each.index - each.parent->countObjects());
+    }
+    for (const NodeRef& each : edited)
+        m_scene.childrenWritten(*each);
+    emit m_scene.inserted(act.selection);
+    m_scene.getEdits().flush();
+}
+
+void LiveAdditions::giveUp(const Places& places)
+{
+    for (auto at = places.rbegin(); at != places.rend(); ++at) {
+        const auto place = static_cast<std::uint32_t>(at->index - at->parent->countObjects());
+        m_scene.getLink().remove(at->parent->getId(), place, [this](const live::StructureResult& result) {
+            if (result.done)
+                m_scene.noteKept(result.node);
+        });
+        LiveEdits::noteChildren(*at->parent, at->parent->getChildren());
+    }
 }
 
 } // namespace scopix

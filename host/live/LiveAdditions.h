@@ -14,36 +14,44 @@ namespace scopix
 
 class HostServices;
 
-/// New nodes in a running program: the program makes them, and once it has, their insertion is a step of the
-/// history, which it takes out and in as any other node. Part of LiveScene.
+/// New nodes in a running program: the program makes them, and once it has, a step of the history puts them
+/// where they belong, which it takes out and in as any other node. An act that needs several of them is done
+/// with all of them or not at all. Part of LiveScene.
 class LiveAdditions
 {
 public:
     LiveAdditions(LiveScene& scene, HostServices& services);
 
     void askTypes(LiveNode& parent, const MirroredNode::AnswerTypes& answer);
-    void start(const std::vector<MirroredAddition>& additions, const QString& stepName);
+    void start(const MirroredAct& act);
 
 private:
     using NodeRef = SoRef<LiveNode>;
-    struct Made {
-        MirroredAddition addition;
-        live::NodeInfo info;
-    };
     struct Run {
-        std::vector<MirroredAddition> additions;
-        QString name;
-        std::vector<Made> made{};
+        MirroredAct act;
+        std::vector<NodeRef> unfolded{}; // before it begins
+        std::vector<NodeRef> made{};     // by the places of the additions; null: not made
         std::size_t left = 0;
     };
     using RunPointer = std::shared_ptr<Run>;
+    struct Place {
+        NodeRef parent;
+        NodeRef made;
+        int index; // among all children that the program has there now
+    };
+    using Places = std::vector<Place>; // of higher and higher indexes
 
     void unfold(const RunPointer& run, std::size_t i);
-    void ask(const RunPointer& run, const MirroredAddition& addition);
-    void answered(const RunPointer& run, const MirroredAddition& addition,
-                  const live::StructureResult& result);
+    void ask(const RunPointer& run, std::size_t i);
+    void answered(const RunPointer& run, std::size_t i, const live::StructureResult& result);
+    void made(const RunPointer& run, std::size_t i, const live::NodeInfo& info);
     void endOne(const RunPointer& run);
     void finish(Run& run);
+    Places takeOut(const Run& run);
+    static structure::Act thinkOut(const Run& run);
+    static structure::Act addAll(const Run& run);
+    void perform(structure::Act act, const Places& places);
+    void giveUp(const Places& places);
     std::string programType(SoType type) const;
 
     LiveScene& m_scene;

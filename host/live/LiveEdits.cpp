@@ -222,33 +222,46 @@ void LiveEdits::settleChildren(LiveNode& node)
 
 void LiveEdits::sendChildren()
 {
-    const std::vector<NodeRef> groups = std::exchange(m_groups, {});
     const HistoryPlace place{m_services.history().getNumber(), m_services.undoStack().index()};
+    const auto batch =
+        std::make_shared<Batch>(Batch{place, std::exchange(m_groups, {}), std::exchange(m_made, {})});
+    if (batch->groups.empty())
+        return;
+    m_latest = batch;
     std::vector<Child> removed;
     std::vector<Child> inserted;
-    for (const NodeRef& group : groups) {
+    for (const NodeRef& group : batch->groups) {
         if (!group->isRenamed() && compareChildren(group, removed, inserted))
             continue;
-        takeChildrenBack(place);
-        emit m_scene.told(
-            LiveScene::tr(
-                "Only nodes of “%1” itself can stand in it, and their names are among their fields.")
-                .arg(m_scene.getName()));
-        for (const NodeRef& each : groups)
-            m_scene.fetchChildrenAgain(*each);
-        return;
+        batch->refusal = LiveScene::tr("Only nodes of “%1” itself can stand in it, and their names are among "
+                                       "their fields.")
+                             .arg(m_scene.getName());
+        return takeBack(batch);
     }
+    batch->left = removed.size() + inserted.size();
     for (const Child& each : removed)
-        m_scene.getLink().remove(each.group->getId(), static_cast<std::uint32_t>(each.index),
-                                 [=](const live::StructureResult& result) {
-                                     if (result.done)
-                                         m_scene.noteKept(result.node);
-                                     structureAnswered(each.group, place, result);
-                                 });
+        sendChild(batch, each);
     for (const Child& each : inserted)
-        m_scene.getLink().insert(
-            each.group->getId(), static_cast<std::uint32_t>(each.index), each.node,
-            [=](const live::StructureResult& result) { structureAnswered(each.group, place, result); });
+        sendChild(batch, each);
+}
+
+void LiveEdits::sendChild(const BatchPointer& batch, const Child& child)
+{
+    change(child, [=](const live::StructureResult& result) { structureAnswered(batch, child, result); });
+}
+
+void LiveEdits::change(const Child& child, const LiveLink::Answer<live::StructureResult>& answer)
+{
+    const auto index = static_cast<std::uint32_t>(child.index);
+    const auto noted = [this, answer](const live::StructureResult& result) {
+        if (result.done)
+            m_scene.noteKept(result.node);
+        answer(result);
+    };
+    if (child.isInserted)
+        m_scene.getLink().insert(child.group->getId(), index, child.node, answer);
+    else
+        m_scene.getLink().remove(child.group->getId(), index, noted);
 }
 
 // What went, from the last one on, and what came, from the first one on; false where that cannot be in the
@@ -269,21 +282,21 @@ bool LiveEdits::compareChildren(const NodeRef& node, std::vector<Child>& removed
     if (node->getId() == 0 || head < objects)
         return false;
     for (std::size_t i = before.size() - tail; i > head; --i)
-        removed.push_back({node, static_cast<int>(i - 1 - objects), 0});
+        removed.push_back({node, static_cast<int>(i - 1 - objects)});
     for (std::size_t i = head; i < now.size() - tail; ++i) {
         const auto* child = dynamic_cast<const LiveNode*>(now[i]);
         if (!child || child->getScene() != &m_scene || child->getId() == 0)
             return false;
-        inserted.push_back({node, static_cast<int>(i - objects), child->getId()});
+        inserted.push_back({node, static_cast<int>(i - objects), child->getId(), true});
     }
-    noteChildren(*node);
+    noteChildren(*node, now);
     return true;
 }
 
 // While they are being fetched again, what comes decides, and is asked for once more.
-void LiveEdits::noteChildren(LiveNode& node)
+void LiveEdits::noteChildren(LiveNode& node, const std::vector<SoNode*>& children)
 {
-    node.m_told = node.getChildren();
+    node.m_told = children;
     if (node.m_childrenFetched == LiveNode::Fetched::Asked)
         node.m_isAskedAgain = node.m_isOutdated = true;
     else
@@ -291,16 +304,38 @@ void LiveEdits::noteChildren(LiveNode& node)
                               node.m_told.end());
 }
 
-void LiveEdits::structureAnswered(const NodeRef& node, const HistoryPlace& place,
-                                  const live::StructureResult& result)
+void LiveEdits::noteMade(LiveNode& parent, int index)
 {
-    if (result.done)
+    m_made.push_back({NodeRef(&parent), index, 0, true});
+}
+
+void LiveEdits::structureAnswered(const BatchPointer& batch, Child child, const live::StructureResult& result)
+{
+    if (result.done) {
+        child.node = result.node;
+        batch->done.push_back(child);
+    } else if (batch->refusal.isEmpty()) {
+        batch->refusal = LiveScene::tr("“%1” refused to change the children of “%2”: %3")
+                             .arg(m_scene.getName(), nodeText(*child.group), sentenceOf(result.refusal));
+    }
+    if (--batch->left == 0 && !batch->refusal.isEmpty())
+        takeBack(batch);
+}
+
+// In the program only as long as nothing that was sent since builds on it.
+void LiveEdits::takeBack(const BatchPointer& batch)
+{
+    if (m_isOver)
         return;
-    emit m_scene.told(LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                          .arg(m_scene.getName(), nodeText(*node), sentenceOf(result.refusal)));
-    m_scene.whenInFront([this, place, node] {
-        takeChildrenBack(place);
-        m_scene.fetchChildrenAgain(*node);
+    for (auto at = batch->done.rbegin(); batch == m_latest.lock() && at != batch->done.rend(); ++at)
+        change({at->group, at->index, at->node, !at->isInserted}, [](const auto&) {});
+    emit m_scene.told(batch->refusal);
+    m_scene.whenInFront([this, batch] {
+        takeChildrenBack(batch->place);
+        for (const NodeRef& each : batch->groups) {
+            noteChildren(*each, each->getChildren());
+            m_scene.fetchChildrenAgain(*each);
+        }
     });
 }
 
@@ -321,6 +356,7 @@ void LiveEdits::stop()
 {
     m_isOver = true;
     m_groups.clear();
+    m_made.clear();
     if (!m_written.empty())
         m_soon.start(0);
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "live/LiveChanges.h"
+#include "live/LiveLink.h"
 #include "live/LiveNode.h"
 
 #include <QTimer>
 
 #include <deque>
+#include <memory>
 #include <vector>
 
 namespace scopix
@@ -36,8 +38,11 @@ public:
     /// Nothing is sent any more.
     void stop();
 
-    /// The program has the children that the node has now.
-    static void noteChildren(LiveNode& node);
+    /// The program has these children.
+    static void noteChildren(LiveNode& node, const std::vector<SoNode*>& children);
+    /// The program has made this child, among its own, for the edit of children that is sent next: if that is
+    /// refused, so that all of it is taken back, the child goes too.
+    void noteMade(LiveNode& parent, int index);
 
     /// A field that shows of a value what this one leaves stands for every bit of it.
     static void keepExact(LiveProperty& property, const live::Value& value);
@@ -52,14 +57,25 @@ private:
     };
     struct Child {
         NodeRef group;
-        int index; // among the program's own children
-        live::NodeId node;
+        int index;               // among the program's own children
+        live::NodeId node = 0;   // of what came
+        bool isInserted = false; // or else removed
     };
 
     struct HistoryPlace {
         quint64 number; // of the stack of undo steps
         int index;      // in it
     };
+
+    /// An edit of children on its way: the program does it all, or what it did of it is taken back.
+    struct Batch {
+        HistoryPlace place;
+        std::vector<NodeRef> groups;
+        std::vector<Child> done;
+        std::size_t left = 0; // without an answer
+        QString refusal{};
+    };
+    using BatchPointer = std::shared_ptr<Batch>;
 
     void refuse(const NodeRef& node, LiveProperty& property);
     void send(const NodeRef& node, LiveProperty& property);
@@ -75,8 +91,10 @@ private:
     void sendValues(bool all);
     void sendChildren();
     bool compareChildren(const NodeRef& node, std::vector<Child>& removed, std::vector<Child>& inserted);
-    void structureAnswered(const NodeRef& node, const HistoryPlace& place,
-                           const live::StructureResult& result);
+    void sendChild(const BatchPointer& batch, const Child& child);
+    void structureAnswered(const BatchPointer& batch, Child child, const live::StructureResult& result);
+    void takeBack(const BatchPointer& batch);
+    void change(const Child& child, const LiveLink::Answer<live::StructureResult>& answer);
     void takeChildrenBack(const HistoryPlace& place);
 
     LiveScene& m_scene;
@@ -84,6 +102,8 @@ private:
     LiveChanges m_changes;
     std::deque<Written> m_written;
     std::vector<NodeRef> m_groups; // whose children were written
+    std::vector<Child> m_made;     // by the program, for what is sent next
+    std::weak_ptr<Batch> m_latest;
     QTimer m_soon;
     std::size_t m_numAsked = 0; // and not answered yet
     bool m_isOver = false;

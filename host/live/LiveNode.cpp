@@ -70,6 +70,7 @@ void LiveNode::update(const live::NodeInfo& info)
         setName(liveName(info.name));
     m_info.name = info.name;
     m_info.childCount = info.childCount;
+    m_info.parentCount = info.parentCount;
 }
 
 bool LiveNode::isRenamed() const
@@ -140,10 +141,10 @@ void LiveNode::askTypesToAdd(const AnswerTypes& answer)
         m_scene->getAdditions().askTypes(*this, answer);
 }
 
-void LiveNode::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
+void LiveNode::actInProgram(const MirroredAct& act)
 {
     if (m_scene)
-        m_scene->getAdditions().start(additions, stepName);
+        m_scene->getAdditions().start(act);
 }
 
 QString LiveNode::refusal() const

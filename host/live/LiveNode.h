@@ -60,8 +60,10 @@ public:
     bool mayHaveMoreChildren() const override;
     void fetchChildren() override;
     bool canHaveChildren() const override { return m_info.canHaveChildren; }
+    int countObjects() const override { return static_cast<int>(m_objects.size()); }
+    bool isShared() const override { return m_info.parentCount > 1; }
     void askTypesToAdd(const AnswerTypes& answer) override;
-    void addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName) override;
+    void actInProgram(const MirroredAct& act) override;
     QString refusal() const override;
     QString structureRefusal() const override;
     QString remarkOn(const SoField& field) const override;

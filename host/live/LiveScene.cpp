@@ -191,6 +191,7 @@ void LiveScene::fetchChildren(LiveNode& node)
     if (node.m_childrenFetched != LiveNode::Fetched::No || m_state == State::Ended)
         return;
     node.m_childrenFetched = LiveNode::Fetched::Asked;
+    node.m_fetched.clear(); // what was moved here before comes again
     const NodeRef kept(&node);
     if (&node == m_root.get())
         return m_link->roots([this](const std::vector<live::NodeInfo>& roots) { rootsCame(roots); });
@@ -267,7 +268,7 @@ void LiveScene::fetchEditedAgain(LiveNode& node)
 {
     m_edits.settleChildren(node);
     node.m_childrenFetched = LiveNode::Fetched::Yes;
-    LiveEdits::noteChildren(node);
+    LiveEdits::noteChildren(node, node.getChildren());
     node.m_isAskedAgain = node.m_isOutdated = false;
     fetchChildrenAgain(node);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "structure/StructureActs.h"
 
+#include "structure/MirroredNode.h"
 #include "structure/StructurePlan.h"
 #include "text/NodeText.h"
 
@@ -82,7 +83,7 @@ const DeedTexts& textsOf(Deed deed)
 
 QString nameOfPutting(const SoNode& above, const Paths& paths)
 {
-    const QString type = toQString(above.getTypeId().getName());
+    const QString type = typeText(above.getTypeId());
     return paths.size() == 1 ? tr("Put %1 Above “%2”").arg(type, nodeText(*paths.front().getTail()))
                              : tr("Put %1 Above %2 Nodes").arg(type, QString::number(paths.size()));
 }
@@ -112,6 +113,33 @@ Paths childTargets(const Paths& paths, Act& act)
         return found;
     act = refusedRoot(found);
     return {};
+}
+
+bool takesChildren(SoNode& node)
+{
+    const MirroredNode* mirrored = MirroredNode::of(&node);
+    return mirrored ? mirrored->canHaveChildren() : node.asGroup() != nullptr;
+}
+
+// Of another program, places that are not unfolded count too.
+bool isShared(const SoPath& path)
+{
+    const MirroredNode* mirrored = MirroredNode::of(path.getTail());
+    return (mirrored && mirrored->isShared()) || countPlaces(path.getTail(), path.getHead(), 2) > 1;
+}
+
+// Without what only the group itself refers to.
+StructurePlan::Children heldBy(const StructurePlan& plan, SoGroup& group)
+{
+    const MirroredNode* mirrored = MirroredNode::of(&group);
+    const auto& all = plan.childrenOf(group);
+    return {all.begin() + (mirrored ? mirrored->countObjects() : 0), all.end()};
+}
+
+Act refusedAbove(SoNode& node)
+{
+    return refused(tr("Nothing was put above, since “%1” takes no children; choose a type that does.")
+                       .arg(typeText(node.getTypeId())));
 }
 
 // Copies one branch of several after the other.
@@ -199,13 +227,13 @@ Act insertAboveRoot(const SoPath& path, SoNode* node, const QString& name)
     return done(plan, name, {extended(path, node)});
 }
 
-// Returns the path to the new node.
-SoPath planAbove(StructurePlan& plan, const SoPath& path, SoNode* node)
+// Returns the path to the new node, which is empty where it cannot be.
+SoPath planAbove(StructurePlan& plan, const SoPath& path, SoNode* node, const MakeNode& makeSeparator)
 {
     SoNode* target = path.getTail();
     SoGroup& parent = *parentAt(path);
     const int place = plan.findChild(parent, target);
-    SoGroup* above = node->asGroup();
+    SoGroup* above = takesChildren(*node) ? node->asGroup() : nullptr;
     const SoPath to = parentPath(path);
     if (!above && !target->asGroup() && !target->asShape()) {
         plan.insert(parent, place, node);
@@ -216,9 +244,11 @@ SoPath planAbove(StructurePlan& plan, const SoPath& path, SoNode* node)
         plan.replace(parent, place, above);
         return extended(to, above);
     }
-    const SoRef<SoSeparator> separator(new SoSeparator);
-    plan.append(*separator, node);
-    plan.append(*separator, target);
+    const SoRef<SoNode> separator = makeSeparator();
+    if (!separator || !takesChildren(*separator))
+        return {};
+    plan.append(*separator->asGroup(), node);
+    plan.append(*separator->asGroup(), target);
     plan.replace(parent, place, separator.get());
     return extended(extended(to, separator.get()), node);
 }
@@ -248,6 +278,18 @@ QString nameOf(Deed deed, const Paths& paths)
     const DeedTexts& texts = textsOf(deed);
     return paths.size() == 1 ? tr(texts.one).arg(nodeText(*paths.front().getTail()))
                              : tr(texts.several).arg(paths.size());
+}
+
+Paths actedOn(const Paths& paths)
+{
+    Act act;
+    Paths all;
+    Once once;
+    for (const SoPath& path : targets(paths, act)) {
+        if (once(path))
+            all += path;
+    }
+    return all;
 }
 
 Act remove(const Paths& paths, Deed deed)
@@ -293,14 +335,14 @@ Act ungroup(const Paths& paths)
     Once once;
     for (const SoPath& path : all) {
         SoGroup* group = path.getTail()->asGroup();
-        if (!group)
+        if (!takesChildren(*path.getTail()))
             return refused(tr("“%1” is no group, and cannot be ungrouped.").arg(nodeText(*path.getTail())));
         if (!once(path))
             continue;
         SoGroup& parent = *parentAt(path);
         int place = plan.findChild(parent, group);
         plan.remove(parent, place);
-        for (SoNode* child : StructurePlan::Children(plan.childrenOf(*group))) {
+        for (SoNode* child : heldBy(plan, *group)) {
             plan.insert(parent, place++, child);
             children += extended(parentPath(path), child);
         }
@@ -315,6 +357,8 @@ Act group(const Paths& paths, const MakeNode& makeGroup)
     if (all.isEmpty())
         return act;
     const SoRef<SoNode> made = makeGroup();
+    if (!takesChildren(*made))
+        return refusedAbove(*made);
     SoGroup& into = *made->asGroup();
     const SoPath& first = all.front();
     SoGroup& parent = *parentAt(first);
@@ -334,6 +378,11 @@ Act group(const Paths& paths, const MakeNode& makeGroup)
 
 Act insertAbove(const Paths& paths, const MakeNode& makeNode)
 {
+    return insertAbove(paths, makeNode, makeOfType(SoSeparator::getClassTypeId()));
+}
+
+Act insertAbove(const Paths& paths, const MakeNode& makeNode, const MakeNode& makeSeparator)
+{
     Act act;
     const Paths all = targets(paths, act);
     StructurePlan plan;
@@ -345,8 +394,11 @@ Act insertAbove(const Paths& paths, const MakeNode& makeNode)
         name = nameOfPutting(*node, all);
         if (path.getLength() == 1)
             return insertAboveRoot(path, node.get(), name);
-        if (once(path))
-            inserted += planAbove(plan, path, node.get());
+        if (!once(path))
+            continue;
+        inserted += planAbove(plan, path, node.get(), makeSeparator);
+        if (inserted.back().isEmpty())
+            return refusedAbove(*node);
     }
     return all.isEmpty() ? std::move(act) : done(plan, name, inserted);
 }
@@ -359,19 +411,24 @@ Act insertAbove(const SoPath& path, SoNode* node)
 
 Act makeUnique(const Paths& paths, const GoOn& goOn)
 {
+    Copying copying(actedOn(paths), goOn);
+    return makeUnique(paths, [&copying](const SoPath& path) { return copying.copy(path.getTail()); });
+}
+
+Act makeUnique(const Paths& paths, const CopyOf& copyOf)
+{
     Act act;
     const Paths all = childTargets(paths, act);
     StructurePlan plan;
     Paths copies;
     Once once;
-    Copying copying(all, goOn);
     for (const SoPath& path : all) {
         SoNode* node = path.getTail();
-        if (countPlaces(node, path.getHead(), 2) < 2)
+        if (!isShared(path))
             return refused(tr("“%1” stands in one place only, and is its own already.").arg(nodeText(*node)));
         if (!once(path))
             continue;
-        const SoRef<SoNode> copy = copying.copy(node);
+        const SoRef<SoNode> copy = copyOf(path);
         if (!copy)
             return refused(
                 tr("“%1” cannot be made unique: something in it is of a kind that cannot be copied.")

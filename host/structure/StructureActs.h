@@ -38,6 +38,9 @@ using GoOn = std::function<void(double)>;
 /// All take paths that start at the root of the scene; what stands below another one of them goes with it.
 Act remove(const Paths& paths, Deed deed = Deed::Delete);
 Act duplicate(const Paths& paths, const GoOn& goOn = {});
+/// What an act on these is about: nothing that stands below another one of them, and a place that several
+/// paths lead to only once; in the order of the scene.
+Paths actedOn(const Paths& paths);
 /// What they hold takes their places.
 Act ungroup(const Paths& paths);
 /// Into a new group, where the first of them stands.
@@ -45,9 +48,14 @@ Act group(const Paths& paths, const MakeNode& makeGroup);
 /// Puts a node above each: a group holds it; another node governs it and nothing beside it, for which both
 /// go into a Separator. Above the root: above all that it holds.
 Act insertAbove(const Paths& paths, const MakeNode& makeNode);
+/// `makeSeparator` may make nothing: what takes no children is then refused.
+Act insertAbove(const Paths& paths, const MakeNode& makeNode, const MakeNode& makeSeparator);
 Act insertAbove(const SoPath& path, SoNode* node);
 /// Gives each a copy of its own, where its node stands in several places.
 Act makeUnique(const Paths& paths, const GoOn& goOn = {});
+/// The same with copies that `copy` has; none: it cannot be copied.
+using CopyOf = std::function<SoRef<SoNode>(const SoPath&)>;
+Act makeUnique(const Paths& paths, const CopyOf& copy);
 /// Into the group at the path, or behind the node there.
 Act add(const SoPath& path, const std::vector<SoRef<SoNode>>& nodes, const QString& name);
 Act rename(const SoPath& path, const QString& name);

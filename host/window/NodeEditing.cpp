@@ -54,6 +54,36 @@ bool isMirrored(const SoPath& path)
     return MirroredNode::of(path.getTail()) != nullptr;
 }
 
+bool isMirrored(const Paths& paths)
+{
+    return !paths.isEmpty() && isMirrored(paths.front());
+}
+
+// In the place of the node at the path.
+MirroredAddition inPlaceOf(const SoPath& path, SoType type, SoNode* copied = nullptr)
+{
+    return {parentPath(path), parentAt(path)->findChild(path.getTail()), type, SoRef<SoNode>(copied)};
+}
+
+// The one that is called so, or else so behind its namespace.
+SoType typeCalled(const QString& name, const std::vector<SoType>& types)
+{
+    const auto find = [&types](const auto& isIt) {
+        const auto found = std::find_if(types.begin(), types.end(), isIt);
+        return found == types.end() ? SoType() : *found;
+    };
+    const SoType exact = find([&name](SoType type) { return typeText(type) == name; });
+    return exact.isBad() ? find([&name](SoType type) { return typeText(type).endsWith("::" + name); })
+                         : exact;
+}
+
+// Ours governs what follows it, and has no children.
+bool governs(const QString& typeName)
+{
+    const SoType ours = SoType::fromName(toName(typeName));
+    return !ours.isBad() && !ours.isDerivedFrom(SoGroup::getClassTypeId());
+}
+
 // Into the group at the path, or behind the node there; into the only thing that a program has at its top.
 MirroredAddition placeInProgram(const SoPath& path)
 {
@@ -206,16 +236,22 @@ void NodeEditing::duplicate()
 
 void NodeEditing::group()
 {
+    if (isMirrored(selected()))
+        return groupInProgram(structure::actedOn(selected()));
     perform(structure::group(selected(), makerOf(SoGroup::getClassTypeId())));
 }
 
 void NodeEditing::ungroup()
 {
+    if (isMirrored(selected()))
+        return ungroupInProgram(structure::actedOn(selected()));
     perform(structure::ungroup(selected()));
 }
 
 void NodeEditing::makeUnique()
 {
+    if (isMirrored(selected()))
+        return makeUniqueInProgram(structure::actedOn(selected()));
     performCopying([this] { return structure::makeUnique(selected(), LongWork::goOn); });
 }
 
@@ -248,11 +284,7 @@ void NodeEditing::askTypesToAdd(const std::function<void(const std::vector<SoTyp
     const SoPath place = placeForNew();
     if (place.isEmpty() || !isMirrored(place))
         return answer(TypeChooser::typesToAdd());
-    MirroredNode* parent = MirroredNode::of(placeInProgram(place).parent.getTail());
-    const QString refusal = parent->structureRefusal();
-    if (refusal.isEmpty())
-        parent->askTypesToAdd(answer);
-    tell(refusal);
+    askTypes(placeInProgram(place).parent, answer);
 }
 
 void NodeEditing::add(SoType type)
@@ -272,8 +304,33 @@ void NodeEditing::insert(const std::vector<SoRef<SoNode>>& nodes, const QString&
     perform(structure::add(placeForNew(), nodes, stepName));
 }
 
+void NodeEditing::askTypesToPutAbove(const std::function<void(const std::vector<SoType>&)>& answer)
+{
+    const Paths paths = structure::actedOn(selected());
+    if (!isMirrored(paths))
+        return answer(TypeChooser::typesToAdd());
+    if (canBeDone(paths, structure::insertAbove(paths, structure::makeOfType(SoGroup::getClassTypeId()))))
+        askTypes(parentPath(paths.front()), answer);
+}
+
 void NodeEditing::insertAbove(SoType type)
 {
+    const Paths paths = structure::actedOn(selected());
+    if (isMirrored(paths)) {
+        if (!canBeDone(paths,
+                       structure::insertAbove(paths, structure::makeOfType(SoGroup::getClassTypeId()))))
+            return;
+        const QString name = typeText(type);
+        return askTypes(parentPath(paths.front()), [this, paths, name](const std::vector<SoType>& types) {
+            const SoType found = typeCalled(name, types);
+            const SoType separator = typeCalled(QStringLiteral("Separator"), types);
+            if (found.isBad())
+                return tell(tr("The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to "
+                               "see which it makes.")
+                                .arg(name));
+            insertAboveInProgram(paths, found, governs(name) && !separator.isBad(), separator);
+        });
+    }
     perform(structure::insertAbove(selected(), makerOf(type)));
 }
 
@@ -284,12 +341,106 @@ void NodeEditing::rename(const SoPath& path, const QString& name)
 
 // --- In a running program, which makes what is new itself
 
+void NodeEditing::askTypes(const SoPath& parent, const AnswerTypes& answer)
+{
+    MirroredNode* mirrored = MirroredNode::of(parent.getTail());
+    const QString refusal = mirrored->structureRefusal();
+    if (refusal.isEmpty())
+        mirrored->askTypesToAdd(answer);
+    tell(refusal);
+}
+
+// While the program makes what is new, the scene goes on.
+structure::Act NodeEditing::whileThere(const Paths& paths, const std::function<structure::Act()>& think) const
+{
+    if (std::all_of(paths.begin(), paths.end(), [this](const SoPath& path) { return isThere(path); }))
+        return think();
+    structure::Act act;
+    act.refusal = tr("Nothing was done, since the selected nodes have changed meanwhile; try it again.");
+    return act;
+}
+
+// Nothing is made for what would be refused; that is told.
+bool NodeEditing::canBeDone(const Paths& paths, const structure::Act& tried)
+{
+    const auto isTop = [](const SoPath& path) { return path.getLength() < 3; };
+    const auto top = std::find_if(paths.begin(), paths.end(), isTop);
+    const QString refusal = top != paths.end()
+                                ? tr("“%1” is what the program has at its top, and has to stay where it is.")
+                                      .arg(nodeText(*top->getTail()))
+                            : tried.command ? m_states.refusalOf(*tried.command)
+                                            : tried.refusal;
+    tell(refusal);
+    return refusal.isEmpty();
+}
+
+void NodeEditing::groupInProgram(const Paths& paths)
+{
+    const auto think = [this, paths](const structure::MakeNode& make) {
+        return whileThere(paths, [&] { return structure::group(paths, make); });
+    };
+    if (!canBeDone(paths, think(structure::makeOfType(SoGroup::getClassTypeId()))))
+        return;
+    askTypes(parentPath(paths.front()), [this, paths, think](const std::vector<SoType>& types) {
+        const SoType type = typeCalled(QStringLiteral("Group"), types);
+        if (type.isBad())
+            return tell(tr("The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… "
+                           "to see which it makes."));
+        MirroredNode::of(parentAt(paths.front()))
+            ->actInProgram({{inPlaceOf(paths.front(), type)}, {}, think});
+    });
+}
+
+void NodeEditing::insertAboveInProgram(const Paths& paths, SoType type, bool needsSeparator, SoType separator)
+{
+    MirroredAct act;
+    for (const SoPath& path : paths) {
+        act.additions.push_back(inPlaceOf(path, type));
+        if (needsSeparator)
+            act.additions.push_back(inPlaceOf(path, separator));
+    }
+    act.additions = oneBehindTheOther(act.additions);
+    act.think = [this, paths, needsSeparator](const structure::MakeNode& make) {
+        const auto makeSeparator = [&] { return needsSeparator ? make() : SoRef<SoNode>(); };
+        return whileThere(paths, [&] { return structure::insertAbove(paths, make, makeSeparator); });
+    };
+    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
+}
+
+void NodeEditing::makeUniqueInProgram(const Paths& paths)
+{
+    MirroredAct act;
+    act.think = [this, paths](const structure::MakeNode& make) {
+        const auto copy = [&make](const SoPath&) { return make(); };
+        return whileThere(paths, [&] { return structure::makeUnique(paths, copy); });
+    };
+    if (!canBeDone(paths, act.think(structure::makeOfType(SoGroup::getClassTypeId()))))
+        return;
+    for (const SoPath& path : paths)
+        act.additions.push_back(inPlaceOf(path, {}, path.getTail()));
+    act.additions = oneBehindTheOther(act.additions);
+    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
+}
+
+// Groups that have not been unfolded yet hold something too.
+void NodeEditing::ungroupInProgram(const Paths& paths)
+{
+    MirroredAct act;
+    act.think = [this, paths](const structure::MakeNode&) {
+        return whileThere(paths, [&] { return structure::ungroup(paths); });
+    };
+    if (!canBeDone(paths, act.think({})))
+        return;
+    act.unfolded = kept(tailsOf(paths));
+    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
+}
+
 bool NodeEditing::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
 {
     MirroredNode* parent = MirroredNode::of(additions.front().parent.getTail());
     const QString refusal = parent->structureRefusal();
     if (refusal.isEmpty())
-        parent->addInProgram(oneBehindTheOther(additions), stepName);
+        parent->actInProgram({oneBehindTheOther(additions), stepName});
     tell(refusal);
     return refusal.isEmpty();
 }

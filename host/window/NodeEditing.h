@@ -51,6 +51,8 @@ public:
     /// is told.
     void askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer);
     void add(SoType type);
+    /// The same for what is put above the selected nodes.
+    void askTypesToPutAbove(const std::function<void(const std::vector<SoType>&)>& answer);
     void insertAbove(SoType type);
     void rename(const SoPath& path, const QString& name);
 
@@ -83,7 +85,15 @@ private:
     structure::Act addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes);
     bool isThere(const SoPath& path) const;
     structure::MakeNode makerOf(SoType type) const;
+    using AnswerTypes = MirroredNode::AnswerTypes;
+    void askTypes(const SoPath& parent, const AnswerTypes& answer);
     void duplicateInProgram(const Paths& paths);
+    void groupInProgram(const Paths& paths);
+    void ungroupInProgram(const Paths& paths);
+    void makeUniqueInProgram(const Paths& paths);
+    void insertAboveInProgram(const Paths& paths, SoType type, bool needsSeparator, SoType separator);
+    structure::Act whileThere(const Paths& paths, const std::function<structure::Act()>& think) const;
+    bool canBeDone(const Paths& paths, const structure::Act& tried);
     void pasteInProgram();
     bool addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName);
     bool holdsOwnCopy(const QMimeData* data) const;

@@ -143,9 +143,11 @@ void NodeMenu::chooseAndAdd()
 
 void NodeMenu::chooseAbove()
 {
-    TypeChooser chooser(TypeChooser::typesToAdd(), tr("Put a Node Above"), &treeInUse());
-    if (chooser.exec() == QDialog::Accepted)
-        m_editing.insertAbove(chooser.getChosen());
+    m_editing.askTypesToPutAbove([this](const std::vector<SoType>& types) {
+        TypeChooser chooser(types, tr("Put a Node Above"), &treeInUse());
+        if (chooser.exec() == QDialog::Accepted)
+            m_editing.insertAbove(chooser.getChosen());
+    });
 }
 
 void NodeMenu::rename()

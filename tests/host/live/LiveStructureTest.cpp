@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // New nodes in a running program, what is let go of it again, many edits at once, and its frames.
-#include "LiveWindowFixture.h"
+#include "LiveStructureFixture.h"
 
 #include "live/LivePicture.h"
 
@@ -11,59 +11,11 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDialog>
 
 using namespace scopix;
 
 namespace
 {
-
-class LiveStructure : public LiveWindow
-{
-protected:
-    LiveStructure()
-    {
-        for (const NodeId id : {1, 2, 4})
-            program.scene.property(id, "radius", number(1));
-    }
-    // The tree with the sky and the earth unfolded.
-    void attachAndUnfold()
-    {
-        attach();
-        ASSERT_TRUE(unfold("sky"));
-        ASSERT_TRUE(unfold("earth"));
-    }
-    // Once it is open.
-    void inDialog(const char* name, const std::function<void(QDialog&)>& act)
-    {
-        auto* looks = new QTimer(&window);
-        QObject::connect(looks, &QTimer::timeout, [looks, name, act] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || dialog->objectName() != QLatin1String(name))
-                return;
-            looks->stop();
-            looks->deleteLater();
-            act(*dialog);
-        });
-        looks->start(0);
-    }
-    void add(const char* type)
-    {
-        inDialog("typeChooser", [type](QDialog& dialog) {
-            auto* line = dialog.findChild<QLineEdit*>();
-            QTest::keyClicks(line, type);
-            QTest::keyClick(line, Qt::Key_Return);
-        });
-        QTest::keyClick(&window.getTree(), Qt::Key_A, Qt::ShiftModifier);
-    }
-    void press(Qt::Key key) { QTest::keyClick(&window.getTree(), key, Qt::ControlModifier); }
-    std::vector<NodeId> childrenOf(NodeId id) { return program.scene.nodes[id].children; }
-    LiveScene& scene() { return *window.getLive().getScene(); }
-    bool isTold(const char* words)
-    {
-        return wait([&] { return !told.filter(QString::fromUtf8(words)).isEmpty(); });
-    }
-};
 
 // Writes other values, all at once.
 class WriteAll : public SpxCommand, public SpxEditedFields

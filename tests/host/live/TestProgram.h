@@ -38,6 +38,8 @@ public:
     std::map<NodeId, Node> nodes;
     std::vector<NodeId> top;
     std::set<std::string> refused;
+    std::set<NodeId> fullGroups;
+    std::vector<std::string> addable{"Comet", "Group", "Moon", "Planet"};
     live::Abilities offers{true, true, true, true, true, true, true};
     std::vector<NodeId> marked;
     std::set<NodeId> watched;
@@ -132,23 +134,24 @@ public:
     live::StructureResult insert(NodeId parent, std::uint32_t index, NodeId id) override
     {
         auto& children = nodes[parent].children;
-        if (refused.count("children") > 0 || index > children.size() || nodes.count(id) == 0)
+        if (refused.count("children") + fullGroups.count(parent) > 0 || index > children.size() ||
+            nodes.count(id) == 0)
             return {false, 0, "It takes no children."};
         children.insert(children.begin() + index, id);
         return {true, id, {}};
     }
     std::vector<std::string> addableTypes(NodeId id) override
     {
-        return nodes[id].info.canHaveChildren || !nodes[id].children.empty()
-                   ? std::vector<std::string>{"Comet", "Moon", "Planet"}
-                   : std::vector<std::string>{};
+        return nodes[id].info.canHaveChildren || !nodes[id].children.empty() ? addable
+                                                                             : std::vector<std::string>{};
     }
     live::StructureResult add(NodeId parent, std::uint32_t index, const std::string& type) override
     {
         if (refused.count(type) > 0)
             return {false, 0, "It has enough of them."};
         const NodeId made = ++lastMade;
-        nodes[made].info = {made, type, "made" + std::to_string(made), 0, 1, false};
+        const bool isGroup = type == "Group" || type == "Planet" || type == "Separator";
+        nodes[made].info = {made, type, "made" + std::to_string(made), 0, 1, isGroup};
         return insert(parent, index, made);
     }
     live::StructureResult copy(NodeId parent, std::uint32_t index, NodeId id) override
@@ -219,10 +222,18 @@ private:
         for (std::size_t i = first; i < ids.size() && i - first < count; ++i) {
             live::NodeInfo info = nodes[ids[i]].info;
             info.childCount = static_cast<std::uint32_t>(nodes[ids[i]].children.size());
-            info.canHaveChildren = info.childCount > 0;
+            info.canHaveChildren |= info.childCount > 0;
+            info.parentCount = countParents(ids[i]);
             infos.push_back(info);
         }
         return infos;
+    }
+    std::uint32_t countParents(NodeId id) const
+    {
+        const auto holds = [id](const auto& each) {
+            return std::count(each.second.children.begin(), each.second.children.end(), id) > 0;
+        };
+        return static_cast<std::uint32_t>(std::count_if(nodes.begin(), nodes.end(), holds));
     }
     Value clamped(NodeId id, const std::string& property, const Value& value)
     {
