@@ -4,7 +4,9 @@
 #include "live/LiveScene.h"
 #include "live/SocketLink.h"
 #include "services/HostServices.h"
+#include "structure/StructureActs.h"
 #include "support/UserNotifier.h"
+#include "text/NodeText.h"
 #include "window/LiveActs.h"
 #include "window/MainWindow.h"
 
@@ -85,6 +87,37 @@ protected:
         return found;
     }
 
+    // The way to the first node that has several children of its own.
+    static SoPath unfoldToSeveral(LiveScene& scene)
+    {
+        SoPath path;
+        for (LiveNode* node = &rootOf(scene); node;) {
+            path.append(node);
+            bool isHere = false;
+            scene.whenUnfolded(*node, [&] { isHere = true; });
+            EXPECT_TRUE(waitFor([&] { return isHere; }));
+            if (node->getNumChildren() - node->countObjects() > 1)
+                return path;
+            node = dynamic_cast<LiveNode*>(node->getChild(node->countObjects()));
+        }
+        ADD_FAILURE() << "no node has several children";
+        return path;
+    }
+    // As another inspector sees them.
+    std::vector<live::NodeId> childrenNow(const QString& socket, live::NodeId parent)
+    {
+        SocketLink link;
+        EXPECT_EQ(link.connectTo(socket), QString());
+        std::optional<std::vector<live::NodeId>> ids;
+        link.children(parent, 0, 1000, [&](const std::vector<live::NodeInfo>& all) {
+            ids.emplace();
+            for (const live::NodeInfo& info : all)
+                ids->push_back(info.id);
+        });
+        EXPECT_TRUE(waitFor([&] { return ids.has_value(); }));
+        return ids.value_or(std::vector<live::NodeId>());
+    }
+
     QTemporaryDir folder;
     QProcess process;
     HostServices services;
@@ -111,6 +144,48 @@ TEST_F(LiveProcess, IsListedFoundAndEdited)
     EXPECT_TRUE(waitFor([&] { return changes.getAll().size() == 1; }));
     height->setValue(before);
     EXPECT_TRUE(waitFor([&] { return changes.isEmpty(); }));
+}
+
+TEST_F(LiveProcess, GroupsAndUngroupsItsNodes)
+{
+    const QString socket = start();
+    const auto scene = attach(socket);
+    const SoPath parentWay = unfoldToSeveral(*scene);
+    auto& parent = static_cast<LiveNode&>(*parentWay.getTail());
+    const std::vector<live::NodeId> first = childrenNow(socket, parent.getId());
+    Paths two;
+    for (const int i : {0, 1})
+        two += extended(parentWay, parent.getChild(parent.countObjects() + i));
+    SoType group;
+    parent.askTypesToAdd([&](const std::vector<SoType>& types) {
+        for (const SoType type : types)
+            group = typeText(type).endsWith("Group") && group.isBad() ? type : group;
+    });
+    ASSERT_TRUE(waitFor([&] { return !group.isBad(); }));
+    MirroredAct act;
+    act.additions.push_back({parentWay, parent.countObjects(), group});
+    act.think = [&](const structure::MakeNode& make) { return structure::group(two, make); };
+    parent.actInProgram(act);
+    ASSERT_TRUE(waitFor([&] { return services.undoStack().count() == 1; }));
+    auto& made = dynamic_cast<LiveNode&>(*parent.getChild(parent.countObjects()));
+    const std::vector<live::NodeId> both(first.begin(), first.begin() + 2);
+    std::vector<live::NodeId> grouped(first.begin() + 1, first.end());
+    grouped.front() = made.getId();
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
+
+    MirroredAct back;
+    const Paths madeWay{extended(parentWay, &made)};
+    back.unfolded.emplace_back(&made);
+    back.think = [&](const structure::MakeNode&) { return structure::ungroup(madeWay); };
+    parent.actInProgram(back);
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
+    services.undoStack().undo();
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
+    services.undoStack().undo();
+    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
+    services.undoStack().clear();
 }
 
 TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
