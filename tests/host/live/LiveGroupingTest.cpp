@@ -245,6 +245,7 @@ TEST_F(LiveGrouping, RandomActsAndTheirUndoLeaveTheProgramAsItWas)
         program.scene.put(id % 2 == 0 ? 10 : 11, id, "Moon", "m" + std::to_string(id));
     const char* steps = std::getenv("SCOPIX_WALK_STEPS");
     const char* seed = std::getenv("SCOPIX_WALK_SEED");
+    program.scene.tellsOfChildren = true;
     std::mt19937 random(seed ? static_cast<unsigned>(std::atoi(seed)) : 7);
     attachAndUnfold();
     const auto structure = [this] {

@@ -118,6 +118,48 @@ protected:
         return ids.value_or(std::vector<live::NodeId>());
     }
 
+    // The first two of several nodes, and back again.
+    void groupAndUngroup(const QString& socket)
+    {
+        const auto scene = attach(socket);
+        const SoPath parentWay = unfoldToSeveral(*scene);
+        auto& parent = static_cast<LiveNode&>(*parentWay.getTail());
+        const std::vector<live::NodeId> first = childrenNow(socket, parent.getId());
+        Paths two;
+        for (const int i : {0, 1})
+            two += extended(parentWay, parent.getChild(parent.countObjects() + i));
+        SoType group;
+        parent.askTypesToAdd([&](const std::vector<SoType>& types) {
+            for (const SoType type : types)
+                group = typeText(type).endsWith("Group") && group.isBad() ? type : group;
+        });
+        ASSERT_TRUE(waitFor([&] { return !group.isBad(); }));
+        MirroredAct act;
+        act.additions.push_back({parentWay, parent.countObjects(), group});
+        act.think = [&](const structure::MakeNode& make) { return structure::group(two, make); };
+        parent.actInProgram(act);
+        ASSERT_TRUE(waitFor([&] { return services.undoStack().count() == 1; }));
+        auto& made = dynamic_cast<LiveNode&>(*parent.getChild(parent.countObjects()));
+        const std::vector<live::NodeId> both(first.begin(), first.begin() + 2);
+        std::vector<live::NodeId> grouped(first.begin() + 1, first.end());
+        grouped.front() = made.getId();
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
+
+        MirroredAct back;
+        const Paths madeWay{extended(parentWay, &made)};
+        back.unfolded.emplace_back(&made);
+        back.think = [&](const structure::MakeNode&) { return structure::ungroup(madeWay); };
+        parent.actInProgram(back);
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
+        services.undoStack().undo();
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
+        services.undoStack().undo();
+        EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
+        services.undoStack().clear();
+    }
+
     QTemporaryDir folder;
     QProcess process;
     HostServices services;
@@ -148,45 +190,23 @@ TEST_F(LiveProcess, IsListedFoundAndEdited)
 
 TEST_F(LiveProcess, GroupsAndUngroupsItsNodes)
 {
-    const QString socket = start();
-    const auto scene = attach(socket);
-    const SoPath parentWay = unfoldToSeveral(*scene);
-    auto& parent = static_cast<LiveNode&>(*parentWay.getTail());
-    const std::vector<live::NodeId> first = childrenNow(socket, parent.getId());
-    Paths two;
-    for (const int i : {0, 1})
-        two += extended(parentWay, parent.getChild(parent.countObjects() + i));
-    SoType group;
-    parent.askTypesToAdd([&](const std::vector<SoType>& types) {
-        for (const SoType type : types)
-            group = typeText(type).endsWith("Group") && group.isBad() ? type : group;
-    });
-    ASSERT_TRUE(waitFor([&] { return !group.isBad(); }));
-    MirroredAct act;
-    act.additions.push_back({parentWay, parent.countObjects(), group});
-    act.think = [&](const structure::MakeNode& make) { return structure::group(two, make); };
-    parent.actInProgram(act);
-    ASSERT_TRUE(waitFor([&] { return services.undoStack().count() == 1; }));
-    auto& made = dynamic_cast<LiveNode&>(*parent.getChild(parent.countObjects()));
-    const std::vector<live::NodeId> both(first.begin(), first.begin() + 2);
-    std::vector<live::NodeId> grouped(first.begin() + 1, first.end());
-    grouped.front() = made.getId();
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
-
-    MirroredAct back;
-    const Paths madeWay{extended(parentWay, &made)};
-    back.unfolded.emplace_back(&made);
-    back.think = [&](const structure::MakeNode&) { return structure::ungroup(madeWay); };
-    parent.actInProgram(back);
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
-    services.undoStack().undo();
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == grouped; }));
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, made.getId()) == both; }));
-    services.undoStack().undo();
-    EXPECT_TRUE(waitFor([&] { return childrenNow(socket, parent.getId()) == first; }));
-    services.undoStack().clear();
+    groupAndUngroup(start());
 }
+
+#ifdef SCOPIX_OSGVIEWER
+TEST_F(LiveProcess, GroupsAndUngroupsTheNodesOfAProgramOnOpenSceneGraph)
+{
+    const QString scene = folder.filePath(QStringLiteral("scene.osgt"));
+    ASSERT_EQ(QProcess::execute(QStringLiteral(SCOPIX_OSG_PROGRAM), {QStringLiteral("--write"), scene}), 0);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(QStringLiteral("env"),
+                  {QStringLiteral("LD_PRELOAD=" SCOPIX_OSG_PRELOAD), QStringLiteral(SCOPIX_OSGVIEWER),
+                   QStringLiteral("--window"), "0", "0", "320", "240", scene});
+    QString problem;
+    ASSERT_TRUE(waitFor([&] { return findProgram({}, problem).has_value(); })) << problem.toStdString();
+    groupAndUngroup(QString::fromStdString(findProgram({}, problem)->socketPath));
+}
+#endif
 
 TEST_F(LiveProcess, MayBeKilledAtAnyMoment)
 {

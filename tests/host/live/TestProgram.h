@@ -39,6 +39,7 @@ public:
     std::vector<NodeId> top;
     std::set<std::string> refused;
     std::set<NodeId> fullGroups;
+    bool tellsOfChildren = false; // also of those that we have edited
     std::vector<std::string> addable{"Comet", "Group", "Moon", "Planet"};
     live::Abilities offers{true, true, true, true, true, true, true};
     std::vector<NodeId> marked;
@@ -129,6 +130,7 @@ public:
             return {false, 0, "It keeps its children."};
         const NodeId id = children[index];
         children.erase(children.begin() + index);
+        tellOfChildren(parent);
         return {true, id, {}};
     }
     live::StructureResult insert(NodeId parent, std::uint32_t index, NodeId id) override
@@ -138,6 +140,7 @@ public:
             nodes.count(id) == 0)
             return {false, 0, "It takes no children."};
         children.insert(children.begin() + index, id);
+        tellOfChildren(parent);
         return {true, id, {}};
     }
     std::vector<std::string> addableTypes(NodeId id) override
@@ -227,6 +230,11 @@ private:
             infos.push_back(info);
         }
         return infos;
+    }
+    void tellOfChildren(NodeId parent)
+    {
+        if (tellsOfChildren)
+            changes.children.push_back(parent);
     }
     std::uint32_t countParents(NodeId id) const
     {
