@@ -259,12 +259,14 @@ TEST_F(LiveGrouping, RandomActsAndTheirUndoLeaveTheProgramAsItWas)
     const char* acts[] = {"Group",  "Ungroup", "Put a Group Above", "Duplicate",
                           "Delete", "Up",      "Make Unique"};
     for (int left = steps ? std::atoi(steps) : 40; left > 0; --left) {
+        model().followNow();
         const QModelIndex top = row("sky");
         std::vector<QModelIndex> rows;
         for (int i = 0; i < model().rowCount(top); ++i) {
-            rows.push_back(model().index(i, 0, top));
-            for (int k = 0; k < model().rowCount(rows[rows.size() - 1]) && k < 2; ++k)
-                rows.push_back(model().index(k, 0, model().index(i, 0, top)));
+            const QModelIndex each = model().index(i, 0, top);
+            rows.push_back(each);
+            for (int k = 0; k < model().rowCount(each) && k < 2; ++k)
+                rows.push_back(model().index(k, 0, each));
         }
         if (rows.empty())
             break;
