@@ -62,6 +62,7 @@ TEST_F(LiveWindow, HasFurtherWindowsThatSayWhereThePictureIs)
     auto* note = further.findChild<QLabel*>("elsewhereNote");
     ASSERT_TRUE(note);
     EXPECT_FALSE(note->isVisible());
+    program.scene.property(2, "radius", number(1));
     attach();
     EXPECT_TRUE(wait([&] { return note->isVisible(); }));
     EXPECT_TRUE(further.getPane().getView().rect().contains(note->geometry()));
