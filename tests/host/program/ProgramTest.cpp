@@ -139,10 +139,11 @@ TEST_F(Program, TellsAProblemOnceInTheUsersLanguageAndCommandsInEnglish)
 {
     const QString scene = write("bad.xsg", "#Xsg V1.0 utf8\nCube { width: wide\n}\n");
     const QString picture = folder.filePath("out.png");
+    const QByteArray before = qgetenv("SCOPIX_LANGUAGE");
     qputenv("SCOPIX_LANGUAGE", "de");
     const Outcome window = run({scene, "--screenshot", picture});
     const Outcome command = run({"print", scene});
-    qunsetenv("SCOPIX_LANGUAGE");
+    qputenv("SCOPIX_LANGUAGE", before);
     EXPECT_EQ(window.said,
               scene + ":2: Spalte 15: \"wide\" ist kein Wert von width, das den Typ SFFloat hat.");
     EXPECT_EQ(command.said, scene + ":2: Column 15: \"wide\" is no value of width, which is a SFFloat.");
