@@ -188,9 +188,11 @@ void NodeEditing::performCopying(const std::function<structure::Act()>& think)
         tell(tr("Copying was cancelled; nothing has changed."));
 }
 
-bool NodeEditing::isThere(const SoPath& path) const
+bool NodeEditing::areThere(const Paths& paths) const
 {
-    return isInScene(path, m_files.getDocument().getRoot());
+    const SoNode* root = m_files.getDocument().getRoot();
+    return std::all_of(paths.begin(), paths.end(),
+                       [root](const SoPath& path) { return isInScene(path, root); });
 }
 
 void NodeEditing::showAfter(const Paths& selection)
@@ -353,7 +355,7 @@ void NodeEditing::askTypes(const SoPath& parent, const AnswerTypes& answer)
 // While the program makes what is new, the scene goes on.
 structure::Act NodeEditing::whileThere(const Paths& paths, const std::function<structure::Act()>& think) const
 {
-    if (std::all_of(paths.begin(), paths.end(), [this](const SoPath& path) { return isThere(path); }))
+    if (areThere(paths))
         return think();
     structure::Act act;
     act.refusal = tr("Nothing was done, since the selected nodes have changed meanwhile; try it again.");
@@ -589,9 +591,7 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
 structure::Act NodeEditing::transfer(const Paths& paths, const SoPath& group, int index,
                                      structure::Transfer how)
 {
-    const bool areThere =
-        std::all_of(paths.begin(), paths.end(), [this](const SoPath& path) { return isThere(path); });
-    if (areThere && isThere(group))
+    if (areThere(paths) && areThere({group}))
         return structure::transfer(paths, group, index, how, LongWork::goOn);
     return refusedDrop();
 }
@@ -599,7 +599,7 @@ structure::Act NodeEditing::transfer(const Paths& paths, const SoPath& group, in
 structure::Act NodeEditing::addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes)
 {
     const QString name = tr("Drop %n Node(s)", nullptr, static_cast<int>(nodes.size()));
-    return isThere(group) ? structure::add(group, nodes, name) : refusedDrop();
+    return areThere({group}) ? structure::add(group, nodes, name) : refusedDrop();
 }
 
 // --- What is seen

@@ -83,7 +83,7 @@ private:
     void performCopying(const std::function<structure::Act()>& think);
     structure::Act transfer(const Paths& paths, const SoPath& group, int index, structure::Transfer how);
     structure::Act addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes);
-    bool isThere(const SoPath& path) const;
+    bool areThere(const Paths& paths) const;
     structure::MakeNode makerOf(SoType type) const;
     using AnswerTypes = MirroredNode::AnswerTypes;
     void askTypes(const SoPath& parent, const AnswerTypes& answer);
