@@ -20,6 +20,8 @@
 #include <xsg/query/SoQuery.h>
 #include <xsg/render/SoOffscreenRenderer.h>
 
+#include <support/BadPatchLines.h>
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -98,34 +100,6 @@ const char* const Scenes[] = {"no scene",
                               "Texture2 { filename: \"a\n}",
                               "Cube { width: 1 <- @a.filename } Cube {}",
                               "Separator { Cube @a { width: 1 <- @a.width\n} }"};
-const char* const Patches[] = {"nonsense",
-                               "set",
-                               "set /a",
-                               "set a.b 1",
-                               "set /a.b",
-                               "set /a.b [ 1",
-                               "set /a.b \"x",
-                               "set /a.b 1 <- /c",
-                               "set /a.b 1 <- /c.d[1]",
-                               "set /a.b 1 }",
-                               "set /a.b[1] 1 !ignored",
-                               "set /a.b !text x",
-                               "name /a",
-                               "name /a \"b",
-                               "remove /a",
-                               "remove / (1 -> 0)",
-                               "remove /a (1 - 0)",
-                               "remove /a (-1 -> 0)",
-                               "insert /a (0 -> 1)",
-                               "insert /a (0 -> 1) first",
-                               "insert /a (0 -> 1) first new",
-                               "insert /a (0 -> 1) after ]",
-                               "insert /a.b (0 -> 1) first new Cube",
-                               "move /a (0 -> 1) first new Cube",
-                               "replace /a from /b",
-                               "replace /a new Cube fields",
-                               "order /a",
-                               "remove /a (1 -> 0) now"};
 // Of the scene below.
 const char* const Misfits[] = {"set /Cone.height 3",
                                "set /s.radius 3",
@@ -289,7 +263,7 @@ TEST_F(Sentences, OfPatchesAreTranslated)
         return error.empty();
     };
     const std::string head = std::string(xsg::PatchText::FirstLine) + "\n";
-    for (const char* each : Patches)
+    for (const char* each : badPatchLines)
         EXPECT_FALSE(expect(head + each + "\n")) << each;
     for (const char* each : Misfits)
         EXPECT_TRUE(expect(head + each + "\n")) << each;

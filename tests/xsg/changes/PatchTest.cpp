@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/PatchCheck.h"
 
+#include <support/BadPatchLines.h>
+
 #include <gtest/gtest.h>
 
 #include <xsg/nodes/animation/SoAnimation.h>
@@ -132,34 +134,7 @@ TEST(Patch, NeverMakesAGroupItsOwnDescendant)
 
 TEST(Patch, IsRefusedInASentenceWithItsPlace)
 {
-    for (const char* line : {"nonsense",
-                             "set",
-                             "set /a",
-                             "set a.b 1",
-                             "set /a.b",
-                             "set /a.b [ 1",
-                             "set /a.b \"x",
-                             "set /a.b 1 <- /c",
-                             "set /a.b 1 }",
-                             "set /a.b[1] 1 !ignored",
-                             "set /a.b !text x",
-                             "name /a",
-                             "name /a \"b",
-                             "remove /a",
-                             "remove / (1 -> 0)",
-                             "remove /a (1 - 0)",
-                             "remove /a (-1 -> 0)",
-                             "insert /a (0 -> 1)",
-                             "insert /a (0 -> 1) first",
-                             "insert /a (0 -> 1) first new",
-                             "insert /a (0 -> 1) after new Cube",
-                             "insert /a.b (0 -> 1) first new Cube",
-                             "move /a (0 -> 1) first new Cube",
-                             "replace /a from /b",
-                             "order /a",
-                             "order / first",
-                             "replace /a new Cube fields",
-                             "remove /a (1 -> 0) now"}) {
+    for (const char* line : badPatchLines) {
         xsg::SceneChanges changes(1);
         SbSentence sentence;
         const std::string text = std::string(xsg::PatchText::FirstLine) + "\n# a remark\n" + line + "\n";
