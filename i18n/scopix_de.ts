@@ -2646,6 +2646,26 @@ scopix --launch PROGRAM starts one.</source>
         <translation>Dokumentation</translation>
     </message>
     <message>
+        <source>Key: %1</source>
+        <translation>Taste: %1</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Find in this page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <source>Not in this page</source>
+        <translation>Nicht auf dieser Seite</translation>
+    </message>
+    <message>
         <source>Older steps were dropped to keep within %1 MiB</source>
         <translation>Ältere Schritte wurden verworfen, um unter %1 MiB zu bleiben</translation>
     </message>
@@ -3156,6 +3176,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>T&amp;utorial</translation>
     </message>
     <message>
+        <source>&amp;Documentation</source>
+        <translation>&amp;Dokumentation</translation>
+    </message>
+    <message>
         <source>&amp;Nodes</source>
         <translation>&amp;Knotenarten</translation>
     </message>
@@ -3166,6 +3190,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Main</source>
         <translation>Haupt</translation>
+    </message>
+    <message>
+        <source>The documentation cannot be shown: it is not installed beside the program.</source>
+        <translation>Die Dokumentation kann nicht gezeigt werden: Sie ist nicht beim Programm installiert.</translation>
     </message>
     <message>
         <source>The tutorial cannot be shown: it is not installed beside the program.</source>

@@ -2646,6 +2646,26 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Döçûméñţàţîöñ ~~~~~]</translation>
     </message>
     <message>
+        <source>Key: %1</source>
+        <translation>[Ķéý: %1 ~~~]</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>[Föŕwàŕd ~~~]</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>[Çöñţéñţš ~~~]</translation>
+    </message>
+    <message>
+        <source>Find in this page</source>
+        <translation>[Fîñd îñ ţĥîš pàĝé ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Not in this page</source>
+        <translation>[Ñöţ îñ ţĥîš pàĝé ~~~~~~]</translation>
+    </message>
+    <message>
         <source>Older steps were dropped to keep within %1 MiB</source>
         <translation>[Öldéŕ šţépš wéŕé dŕöppéd ţö ķéép wîţĥîñ %1 MîB ~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -3156,6 +3176,10 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Ţ&amp;ûţöŕîàl ~~~~]</translation>
     </message>
     <message>
+        <source>&amp;Documentation</source>
+        <translation>[&amp;Döçûméñţàţîöñ ~~~~~~]</translation>
+    </message>
+    <message>
         <source>&amp;Nodes</source>
         <translation>[&amp;Ñödéš ~~]</translation>
     </message>
@@ -3166,6 +3190,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Main</source>
         <translation>[Màîñ ~~]</translation>
+    </message>
+    <message>
+        <source>The documentation cannot be shown: it is not installed beside the program.</source>
+        <translation>[Ţĥé döçûméñţàţîöñ çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The tutorial cannot be shown: it is not installed beside the program.</source>

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "window/HelpWindow.h"
 
-#include "support/InputFile.h"
 #include "support/SharedFiles.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -21,7 +25,6 @@ namespace scopix
 namespace
 {
 
-constexpr qint64 LargestPage = 4 << 20;
 constexpr int WidthInCharacters = 90;
 constexpr int HeightInLines = 40;
 
@@ -47,10 +50,61 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_browser->setFrameShape(QFrame::NoFrame);
     m_browser->setOpenLinks(false);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto* bar = new QHBoxLayout;
+    makeBar(*bar);
+    layout->addLayout(bar);
     layout->addWidget(m_browser);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
+    connect(m_browser, &QTextBrowser::sourceChanged, this,
+            [this] { setWindowTitle(m_browser->document()->begin().text()); });
     resize(fontMetrics().averageCharWidth() * WidthInCharacters, fontMetrics().height() * HeightInLines);
+}
+
+void HelpWindow::makeBar(QHBoxLayout& bar)
+{
+    const auto add = [&](const QString& text, const char* name, const QKeySequence& key) {
+        auto* button = new QPushButton(text);
+        button->setObjectName(QLatin1String(name));
+        button->setShortcut(key);
+        button->setToolTip(tr("Key: %1").arg(key.toString(QKeySequence::NativeText)));
+        bar.addWidget(button);
+        return button;
+    };
+    auto* back = add(tr("Back"), "helpBack", QKeySequence::Back);
+    auto* forward = add(tr("Forward"), "helpForward", QKeySequence::Forward);
+    auto* contents = add(tr("Contents"), "helpContents", Qt::ALT + Qt::Key_Home);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);
+    connect(forward, &QPushButton::clicked, m_browser, &QTextBrowser::forward);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    connect(contents, &QPushButton::clicked, this, [this] { open(contentsPage(), {}); });
+    makeFindLine(bar);
+}
+
+void HelpWindow::makeFindLine(QHBoxLayout& bar)
+{
+    bar.addStretch();
+    m_notFound = new QLabel;
+    bar.addWidget(m_notFound);
+    m_wanted = new QLineEdit;
+    m_wanted->setObjectName(QStringLiteral("helpFind"));
+    m_wanted->setPlaceholderText(tr("Find in this page"));
+    m_wanted->setAccessibleName(m_wanted->placeholderText());
+    m_wanted->setClearButtonEnabled(true);
+    bar.addWidget(m_wanted);
+    connect(m_wanted, &QLineEdit::returnPressed, this, [this] { find({}); });
+    connect(m_wanted, &QLineEdit::textEdited, m_notFound, &QLabel::clear);
+    const auto onKey = [this](const QKeySequence& key, auto act) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+    };
+    onKey(QKeySequence::Find, [this] {
+        m_wanted->setFocus(Qt::ShortcutFocusReason);
+        m_wanted->selectAll();
+    });
+    onKey(QKeySequence::FindNext, [this] { find({}); });
+    onKey(QKeySequence::FindPrevious, [this] { find(QTextDocument::FindBackward); });
 }
 
 // In English (decisions.md: reference-in-english).
@@ -67,29 +121,24 @@ QString HelpWindow::fileOf(const QString& page)
 bool HelpWindow::open(const QString& page, const QString& section)
 {
     const QString file = fileOf(page);
-    if (file.isEmpty() || !load(file))
+    if (file.isEmpty())
         return false;
-    show();
+    show(); // before it, no section has a place
+    go(file, section);
     raise();
     activateWindow();
     m_browser->setFocus();
-    goTo(section);
     return true;
 }
 
-bool HelpWindow::load(const QString& file)
+// A page that is shown already is not read again.
+void HelpWindow::go(const QString& file, const QString& section)
 {
-    if (file == m_file)
-        return true;
-    QByteArray text;
-    if (!readFile(file, LargestPage, text).isEmpty())
-        return false;
-    m_file = file;
-    m_browser->setSearchPaths({QFileInfo(file).path()});
-    m_browser->setMarkdown(QString::fromUtf8(text));
-    const QTextBlock first = m_browser->document()->begin();
-    setWindowTitle(first.text());
-    return true;
+    QUrl place = QUrl::fromLocalFile(file);
+    place.setFragment(section);
+    m_browser->setSource(place, QTextDocument::MarkdownResource);
+    m_notFound->clear();
+    goTo(section);
 }
 
 // To another page, or to a section; what lies on a network is left alone.
@@ -97,10 +146,10 @@ void HelpWindow::follow(const QUrl& link)
 {
     if (!link.isRelative())
         return;
-    const QString file = QDir(QFileInfo(m_file).path()).filePath(link.path());
-    const bool isPage = file.endsWith(QLatin1String(".md")) && QFileInfo(file).isFile();
-    if (link.path().isEmpty() || (isPage && load(QDir::cleanPath(file))))
-        goTo(link.fragment());
+    const QUrl place = m_browser->source().resolved(link);
+    const QString file = place.toLocalFile();
+    if (file.endsWith(QLatin1String(".md")) && QFileInfo(file).isFile())
+        go(file, link.fragment());
 }
 
 void HelpWindow::goTo(const QString& section)
@@ -116,6 +165,24 @@ void HelpWindow::goTo(const QString& section)
     m_browser->setTextCursor(QTextCursor(block));
     m_browser->verticalScrollBar()->setValue(int(document.documentLayout()->blockBoundingRect(block).top()) -
                                              int(document.documentMargin()));
+}
+
+// From what is marked, and around the end of the page.
+void HelpWindow::find(QTextDocument::FindFlags direction)
+{
+    const QString text = m_wanted->text();
+    if (text.isEmpty())
+        return;
+    bool found = m_browser->find(text, direction);
+    if (!found) {
+        const QTextCursor before = m_browser->textCursor();
+        const bool isBackward = direction.testFlag(QTextDocument::FindBackward);
+        m_browser->moveCursor(isBackward ? QTextCursor::End : QTextCursor::Start);
+        found = m_browser->find(text, direction);
+        if (!found)
+            m_browser->setTextCursor(before);
+    }
+    m_notFound->setText(found ? QString() : tr("Not in this page"));
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event)

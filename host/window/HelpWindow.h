@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <QTextDocument>
 #include <QWidget>
 
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
 class QTextBrowser;
 class QUrl;
 
@@ -11,13 +15,17 @@ namespace scopix
 {
 
 /// A window with a page of the documentation, which is Markdown in files beside the program: neither a
-/// network nor another program is needed. GUI thread only.
+/// network nor another program is needed. It goes back and forth between the pages that were read, to the
+/// page of contents, and finds words in the page. GUI thread only.
 class HelpWindow : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit HelpWindow(QWidget* parent);
+
+    /// The page that leads to all others.
+    static QString contentsPage() { return QStringLiteral("contents"); }
 
     /// Shows the window with this page, as SpxGuide::showHelp() has it. False where there is no such page,
     /// and what was shown stays.
@@ -30,12 +38,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    bool load(const QString& file);
+    void makeBar(QHBoxLayout& bar);
+    void makeFindLine(QHBoxLayout& bar);
+    void go(const QString& file, const QString& section);
     void follow(const QUrl& link);
     void goTo(const QString& section);
+    void find(QTextDocument::FindFlags direction);
 
     QTextBrowser* m_browser;
-    QString m_file;
+    QLineEdit* m_wanted = nullptr;
+    QLabel* m_notFound = nullptr;
 };
 
 } // namespace scopix

@@ -374,6 +374,9 @@ void MainWindow::makeHelpMenu()
                     QKeySequence(Qt::Key_F1));
     menu->addAction(tr("T&utorial"), this, &MainWindow::showTutorial, QKeySequence(Qt::CTRL + Qt::Key_F11))
         ->setObjectName(QStringLiteral("tutorialAction"));
+    menu->addAction(tr("&Documentation"), this, &MainWindow::showContents,
+                    QKeySequence(Qt::SHIFT + Qt::Key_F11))
+        ->setObjectName(QStringLiteral("documentationAction"));
     menu->addAction(
         tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); }, Qt::SHIFT + Qt::Key_F1);
     menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout, Qt::CTRL + Qt::SHIFT + Qt::Key_F1);
@@ -487,6 +490,12 @@ bool MainWindow::showHelp(const QString& page, const QString& section)
     if (!m_help)
         m_help = new HelpWindow(this);
     return m_help->open(page, section);
+}
+
+void MainWindow::showContents()
+{
+    if (!showHelp(HelpWindow::contentsPage(), {}))
+        m_notifier.error(tr("The documentation cannot be shown: it is not installed beside the program."));
 }
 
 void MainWindow::showTutorial()

@@ -135,6 +135,7 @@ private:
     void askForScreenshot();
     void showAbout();
     void showTutorial();
+    void showContents();
     void showHelpOnFocus();
     void find();
     void showFinder();

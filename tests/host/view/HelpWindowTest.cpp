@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// Reading the documentation in its window: back and forth, the contents, words in a page.
+#include "window/HelpWindow.h"
+
+#include <support/Waiting.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include <gtest/gtest.h>
+
+using namespace scopix;
+
+namespace
+{
+
+class HelpPages : public testing::Test
+{
+protected:
+    HelpPages()
+    {
+        EXPECT_TRUE(m_help.open("nodes", "Material"));
+        EXPECT_TRUE(waitForActive(&m_help));
+    }
+    QString heading() { return m_browser->textCursor().block().text(); }
+    int scrolled() { return m_browser->verticalScrollBar()->value(); }
+    QString marked() { return m_browser->textCursor().selectedText(); }
+    // A button shows for a moment that it is pressed.
+    void press(Qt::Key key, const QString& title)
+    {
+        QTest::keyClick(&m_help, key, Qt::AltModifier);
+        EXPECT_TRUE(waitFor([&] { return m_help.windowTitle() == title; })) << title.toStdString();
+    }
+    QPushButton* button(const char* name) { return m_help.findChild<QPushButton*>(name); }
+    void find(const QString& text)
+    {
+        QTest::keyClick(&m_help, Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+
+    HelpWindow m_help{nullptr};
+    QTextBrowser* m_browser = m_help.findChild<QTextBrowser*>();
+};
+
+} // namespace
+
+TEST_F(HelpPages, GoBackToWhereOneWas)
+{
+    EXPECT_FALSE(button("helpBack")->isEnabled());
+    m_browser->verticalScrollBar()->setValue(m_browser->verticalScrollBar()->value() + 40);
+    const int before = scrolled();
+    emit m_browser->anchorClicked(QUrl("fields.md"));
+    EXPECT_EQ(m_help.windowTitle(), "Field types");
+
+    press(Qt::Key_Left, "Nodes");
+    EXPECT_EQ(scrolled(), before);
+    EXPECT_FALSE(button("helpBack")->isEnabled());
+
+    press(Qt::Key_Right, "Field types");
+    EXPECT_FALSE(button("helpForward")->isEnabled());
+}
+
+TEST_F(HelpPages, GoBackWithinAPage)
+{
+    const int atMaterial = scrolled();
+    EXPECT_TRUE(m_help.open("nodes", "Fog"));
+    EXPECT_EQ(heading(), "Fog");
+    EXPECT_NE(scrolled(), atMaterial);
+    QTest::keyClick(&m_help, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(waitFor([&] { return scrolled() == atMaterial; })) << scrolled();
+}
+
+TEST_F(HelpPages, TheContentsLeadOn)
+{
+    press(Qt::Key_Home, "Documentation");
+    emit m_browser->anchorClicked(QUrl("write-tool.md"));
+    EXPECT_EQ(m_help.windowTitle(), "Write a tool");
+}
+
+TEST_F(HelpPages, FindGoesOnAndAroundTheEnd)
+{
+    m_help.open("contents", {});
+    find("write a");
+    const int first = m_browser->textCursor().position();
+    EXPECT_EQ(marked().toLower(), "write a");
+    QTest::keyClick(&m_help, Qt::Key_F3);
+    EXPECT_GT(m_browser->textCursor().position(), first);
+    QTest::keyClick(&m_help, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(m_browser->textCursor().position(), first);
+    QTest::keyClick(&m_help, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_GT(m_browser->textCursor().position(), first) << "the last one";
+    QTest::keyClick(&m_help, Qt::Key_F3);
+    EXPECT_EQ(m_browser->textCursor().position(), first);
+    EXPECT_EQ(m_help.findChild<QLabel*>()->text(), "");
+}
+
+TEST_F(HelpPages, AWordThatIsNowhereIsSaid)
+{
+    find("no such word");
+    EXPECT_EQ(m_help.findChild<QLabel*>()->text(), "Not in this page");
+    QTest::keyClicks(QApplication::focusWidget(), "s");
+    EXPECT_EQ(m_help.findChild<QLabel*>()->text(), "");
+}
