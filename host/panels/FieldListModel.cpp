@@ -165,7 +165,7 @@ QVariant FieldListModel::data(const QModelIndex& index, int role) const
         return icon(*field, index.column());
     case Qt::ForegroundRole:
         if (field->isIgnored() || isGrey() || index.column() == TypeColumn)
-            return paletteOf(surface()).brush(QPalette::Disabled, QPalette::Text);
+            return paletteOf(surface()).placeholderText();
         return {};
     case DefaultRole:
         return field->isDefault();

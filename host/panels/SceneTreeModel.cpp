@@ -310,7 +310,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole: {
         const MirroredNode* mirrored = MirroredNode::of(&node);
         return mirrored && !mirrored->refusal().isEmpty()
-                   ? paletteOf(surface()).brush(QPalette::Disabled, QPalette::Text)
+                   ? paletteOf(surface()).placeholderText()
                    : QVariant();
     }
     case Qt::FontRole: {

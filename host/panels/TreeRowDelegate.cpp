@@ -58,7 +58,7 @@ void TreeRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
     }
     const SoNode* node = m_view.getModel().nodeAt(index);
     if (m_view.isOutOfSight(index))
-        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Disabled, QPalette::Text));
+        option->palette.setColor(QPalette::Text, option->palette.color(QPalette::PlaceholderText));
     if (!m_view.isMarked(node))
         return;
     constexpr int Tint = 70; // of 255: the text stays legible on it

@@ -39,7 +39,7 @@ void HostShell::keepPlaceOf(Qt::DockWidgetArea area, const QString& words)
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignTop | Qt::AlignHCenter);
     label->setMargin(Margin);
-    label->setEnabled(false);
+    label->setForegroundRole(QPalette::PlaceholderText);
     m_placeholder->setWidget(label);
     m_placeholder->hide();
     m_window.addDockWidget(area, m_placeholder);

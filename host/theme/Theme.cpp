@@ -16,22 +16,24 @@ struct PaletteColors {
     QRgb base;
     QRgb button;
     QRgb text;
-    QRgb quiet;
+    QRgb quiet; // asides and hints, which are to be read all the same
+    QRgb disabled;
     QRgb accent;
+    QRgb link;
     QRgb light;
     QRgb mid;
     QRgb dark;
 };
 
-constexpr PaletteColors DarkColors{0xff2b2e33, 0xff212327, 0xff363a40, 0xffdfe3e8, 0xff878e97,
-                                   0xff3d7ec9, 0xff464b52, 0xff3a3e45, 0xff1a1c1f};
-constexpr PaletteColors LightColors{0xfff1f3f5, 0xffffffff, 0xfff8f9fa, 0xff1d2126, 0xff7b838c,
-                                    0xff2f74c0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
+// Each text stands out of its ground by 4.5 : 1 and more (WCAG 2), but for what is disabled.
+constexpr PaletteColors DarkColors{0xff2b2e33, 0xff212327, 0xff363a40, 0xffdfe3e8, 0xffa0a7b0, 0xff878e97,
+                                   0xff3674bd, 0xff6aa8ee, 0xff464b52, 0xff3a3e45, 0xff1a1c1f};
+constexpr PaletteColors LightColors{0xfff1f3f5, 0xffffffff, 0xfff8f9fa, 0xff1d2126, 0xff626a73, 0xff7b838c,
+                                    0xff2f74c0, 0xff2668b0, 0xffffffff, 0xffc9ced4, 0xffa6adb5};
 
 QPalette paletteFrom(const PaletteColors& t)
 {
     const QColor text(t.text);
-    const QColor quiet(t.quiet);
     QPalette p;
     p.setColor(QPalette::Window, QColor(t.window));
     p.setColor(QPalette::WindowText, text);
@@ -39,7 +41,7 @@ QPalette paletteFrom(const PaletteColors& t)
     p.setColor(QPalette::AlternateBase, QColor(t.window));
     p.setColor(QPalette::ToolTipBase, QColor(t.button));
     p.setColor(QPalette::ToolTipText, text);
-    p.setColor(QPalette::PlaceholderText, quiet);
+    p.setColor(QPalette::PlaceholderText, QColor(t.quiet));
     p.setColor(QPalette::Text, text);
     p.setColor(QPalette::Button, QColor(t.button));
     p.setColor(QPalette::ButtonText, text);
@@ -51,10 +53,10 @@ QPalette paletteFrom(const PaletteColors& t)
     p.setColor(QPalette::Shadow, QColor(t.dark).darker(150));
     p.setColor(QPalette::Highlight, QColor(t.accent));
     p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::Link, QColor(t.accent).lighter(120));
-    p.setColor(QPalette::LinkVisited, QColor(t.accent).darker(120));
+    p.setColor(QPalette::Link, QColor(t.link));
+    p.setColor(QPalette::LinkVisited, QColor(t.link));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        p.setColor(QPalette::Disabled, role, quiet);
+        p.setColor(QPalette::Disabled, role, QColor(t.disabled));
     p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(t.mid));
     return p;
 }

@@ -17,7 +17,7 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <vector>
 
 namespace scopix
 {
@@ -55,8 +55,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     layout->addLayout(bar);
     layout->addWidget(m_browser);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
-    connect(m_browser, &QTextBrowser::sourceChanged, this,
-            [this] { setWindowTitle(m_browser->document()->begin().text()); });
+    connect(m_browser, &QTextBrowser::sourceChanged, this, &HelpWindow::showPage);
     resize(fontMetrics().averageCharWidth() * WidthInCharacters, fontMetrics().height() * HeightInLines);
 }
 
@@ -129,6 +128,42 @@ bool HelpWindow::open(const QString& page, const QString& section)
     activateWindow();
     m_browser->setFocus();
     return true;
+}
+
+void HelpWindow::showPage()
+{
+    QTextDocument& document = *m_browser->document();
+    document.setDocumentMargin(fontMetrics().height());
+    setWindowTitle(document.begin().text());
+    colorLinks();
+}
+
+// What reads Markdown takes the application's colour, which this window need not have.
+void HelpWindow::colorLinks()
+{
+    QTextDocument& document = *m_browser->document();
+    QTextCharFormat format;
+    format.setForeground(palette().link());
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        std::vector<QTextCursor> links;
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (!part.fragment().charFormat().isAnchor())
+                continue;
+            links.emplace_back(&document);
+            links.back().setPosition(part.fragment().position());
+            links.back().setPosition(part.fragment().position() + part.fragment().length(),
+                                     QTextCursor::KeepAnchor);
+        }
+        for (QTextCursor& link : links)
+            link.mergeCharFormat(format);
+    }
+}
+
+void HelpWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        colorLinks();
+    QWidget::changeEvent(event);
 }
 
 // A page that is shown already is not read again.

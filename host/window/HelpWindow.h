@@ -35,11 +35,14 @@ public:
     static QString fileOf(const QString& page);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void makeBar(QHBoxLayout& bar);
     void makeFindLine(QHBoxLayout& bar);
+    void showPage();
+    void colorLinks();
     void go(const QString& file, const QString& section);
     void follow(const QUrl& link);
     void goTo(const QString& section);

@@ -2,6 +2,7 @@
 // What every widget owes everybody: that it can be read, reached and told apart.
 #pragma once
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
@@ -12,10 +13,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyleOptionComboBox>
+#include <QTextBlock>
 #include <QTextDocumentFragment>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QToolTip>
 
+#include <algorithm>
 #include <cmath>
 
 /// What of a widget is read in one line.
@@ -71,16 +75,63 @@ inline double contrastOf(const QColor& one, const QColor& other)
     return a > b ? a / b : b / a;
 }
 
-/// Of what is written on it.
+/// Of the words in it that have a colour of their own, such as links; that of the hardest to read.
+inline double documentContrast(const QTextEdit& text)
+{
+    const QColor ground = text.palette().color(QPalette::Base);
+    double least = contrastOf(text.palette().color(QPalette::Text), ground);
+    for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (format.hasProperty(QTextFormat::ForegroundBrush))
+                least = std::min(least, contrastOf(format.foreground().color(), ground));
+        }
+    }
+    return least;
+}
+
+/// Of its items in sight, selected and not.
+inline double itemContrast(const QAbstractItemView& view)
+{
+    const QPalette palette = view.palette();
+    double least =
+        std::min(contrastOf(palette.color(QPalette::Text), palette.color(QPalette::Base)),
+                 contrastOf(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)));
+    for (int y = 0; y < view.viewport()->height(); y += view.fontMetrics().height() / 2) {
+        const QModelIndex row = view.indexAt(QPoint(1, y));
+        for (int column = 0; row.isValid() && column < row.model()->columnCount(row.parent()); ++column) {
+            const QVariant color = row.siblingAtColumn(column).data(Qt::ForegroundRole);
+            if (color.isValid())
+                least = std::min(
+                    least, contrastOf(qvariant_cast<QBrush>(color).color(), palette.color(QPalette::Base)));
+        }
+    }
+    return least;
+}
+
+/// Of what is written on it, or in it when it is empty.
 inline double textContrast(const QWidget& widget)
 {
+    if (const auto* text = qobject_cast<const QTextEdit*>(&widget))
+        return documentContrast(*text);
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget))
+        return itemContrast(*view);
     const auto* button = qobject_cast<const QPushButton*>(&widget);
-    const bool isInput = qobject_cast<const QLineEdit*>(&widget) || widget.inherits("QAbstractItemView");
-    const QPalette::ColorRole text = isInput  ? QPalette::Text
+    const auto* line = qobject_cast<const QLineEdit*>(&widget);
+    const QPalette::ColorRole text = line
+                                         ? line->text().isEmpty() ? QPalette::PlaceholderText : QPalette::Text
                                      : button ? QPalette::ButtonText
                                               : widget.foregroundRole();
-    const QPalette::ColorRole ground = isInput  ? QPalette::Base
+    const QPalette::ColorRole ground = line     ? QPalette::Base
                                        : button ? QPalette::Button
                                                 : widget.backgroundRole();
     return contrastOf(widget.palette().color(text), widget.palette().color(ground));
+}
+
+/// Whether it has any.
+inline bool showsText(const QWidget& widget)
+{
+    const auto* line = qobject_cast<const QLineEdit*>(&widget);
+    return !shownText(widget).isEmpty() || (line && !line->placeholderText().isEmpty()) ||
+           qobject_cast<const QTextEdit*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget);
 }

@@ -324,7 +324,7 @@ QColor LogView::colorOf(int row, bool isSelected) const
     if (isSelected)
         return palette().color(QPalette::HighlightedText);
     if (m_model.getRows()[row].isContext)
-        return palette().color(QPalette::Disabled, QPalette::Text);
+        return palette().color(QPalette::PlaceholderText);
     const bool dark = isDark(palette());
     switch (m_model.kindOf(row)) {
     case LogKind::Error:

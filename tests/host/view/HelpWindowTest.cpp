@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace scopix;
 
 namespace
@@ -43,11 +45,40 @@ protected:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     }
 
+    std::set<QString> linkColors()
+    {
+        std::set<QString> colors;
+        for (QTextBlock block = m_browser->document()->begin(); block.isValid(); block = block.next()) {
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                if (format.isAnchor())
+                    colors.insert(format.foreground().color().name());
+            }
+        }
+        return colors;
+    }
+
     HelpWindow m_help{nullptr};
     QTextBrowser* m_browser = m_help.findChild<QTextBrowser*>();
 };
 
 } // namespace
+
+TEST_F(HelpPages, LinksAreLegibleWhateverThePalette)
+{
+    QPalette dark = m_help.palette();
+    dark.setColor(QPalette::Base, QColor("#202124"));
+    dark.setColor(QPalette::Link, QColor("#8ab4f8"));
+    m_help.setPalette(dark);
+    press(Qt::Key_Home, "Documentation");
+    EXPECT_EQ(linkColors(), std::set<QString>({"#8ab4f8"}));
+
+    QPalette light = m_help.palette();
+    light.setColor(QPalette::Base, Qt::white);
+    light.setColor(QPalette::Link, QColor("#1a5fb4"));
+    m_help.setPalette(light);
+    EXPECT_EQ(linkColors(), std::set<QString>({"#1a5fb4"}));
+}
 
 TEST_F(HelpPages, GoBackToWhereOneWas)
 {
