@@ -179,8 +179,6 @@ void HelpWindow::go(const QString& file, const QString& section)
 // To another page, or to a section; what lies on a network is left alone.
 void HelpWindow::follow(const QUrl& link)
 {
-    if (!link.isRelative())
-        return;
     const QUrl place = m_browser->source().resolved(link);
     const QString file = place.toLocalFile();
     if (file.endsWith(QLatin1String(".md")) && QFileInfo(file).isFile())
