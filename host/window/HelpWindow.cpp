@@ -25,7 +25,7 @@ namespace scopix
 namespace
 {
 
-constexpr int WidthInCharacters = 90;
+constexpr int WidthInCharacters = 110;
 constexpr int HeightInLines = 40;
 
 // "Colour picker" and "colour-picker" are the same section, as links have it.

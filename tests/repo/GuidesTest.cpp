@@ -69,6 +69,12 @@ fs::path exampleOf(const std::string& guide)
     return {};
 }
 
+// A guide shows members without the indentation that they have in their class.
+std::string withoutIndentation(const std::string& code)
+{
+    return std::regex_replace(code, std::regex("\n +"), "\n");
+}
+
 std::string sourcesOf(const fs::path& example)
 {
     std::string all;
@@ -120,12 +126,14 @@ TEST_P(Guide, ShowsCodeOfItsExample)
     const std::string guide = textOf(Root / "docs" / GetParam());
     const fs::path example = exampleOf(guide);
     ASSERT_FALSE(example.empty()) << "it names no example";
-    const std::string sources = sourcesOf(example);
+    const std::string sources = withoutIndentation(sourcesOf(example));
     const std::vector<std::string> blocks =
         matchesIn(guide, "```(?:cpp|cmake)\n([^`]+)```"); // the code has no grave accent
     EXPECT_GE(blocks.size(), 4U);
     for (const std::string& block : blocks)
-        EXPECT_NE(sources.find(block), std::string::npos) << "not in " << example << ":\n" << block;
+        EXPECT_NE(sources.find(withoutIndentation("\n" + block)), std::string::npos)
+            << "not in " << example << ":\n"
+            << block;
 }
 
 INSTANTIATE_TEST_SUITE_P(Documentation, Guide,
