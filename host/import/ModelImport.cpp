@@ -140,7 +140,7 @@ void ModelImport::end()
 {
     m_reader.disconnect(this);
     m_reader.kill();
-    m_reader.waitForFinished(-1); // a killed process ends at once
+    m_reader.waitForFinished(); // a killed process ends at once, unless it waits for a disk
     closeDialog();
 }
 

@@ -61,12 +61,13 @@ PluginTrial::Outcome PluginTrial::run(const QString& library, int patienceMs)
     trial.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     trial.setProcessEnvironment(environmentOfTrial());
     trial.start(OwnLibrary::helperProgram(QStringLiteral("scopix-try-plugin")), {library});
-    if (!trial.waitForStarted(-1)) // which is known at once, as soon as the machine gets to it
-        return {};                 // an incomplete installation: the plug-in is loaded as it is
+    trial.waitForStarted(patienceMs);
+    if (trial.error() == QProcess::FailedToStart)
+        return {}; // an incomplete installation: the plug-in is loaded as it is
     trial.closeWriteChannel();
     if (!trial.waitForFinished(patienceMs)) {
         trial.kill();
-        trial.waitForFinished(-1); // a killed process ends at once
+        trial.waitForFinished(); // a killed process ends at once, unless it waits for a disk
         return tooLong(patienceMs);
     }
     if (trial.exitStatus() == QProcess::CrashExit)

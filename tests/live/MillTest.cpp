@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <random>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace scopix::live;
@@ -264,26 +263,31 @@ TEST_F(MillProcess, ShowsItsCounters)
     EXPECT_EQ(probe.counters.front().size(), probe.client.counters().size());
 }
 
+// Asks for all, again and again.
+const ChildAct inspectWithoutEnd("inspectWithoutEnd", [](const ChildAct::Words& words) {
+    Probe doomed;
+    std::puts("begins");
+    std::fflush(stdout);
+    if (!doomed.client.connect(words[0]).empty())
+        return false;
+    doomed.client.showPictures(64, 48);
+    doomed.client.showCounters(true);
+    for (;;)
+        for (const NodeInfo& info : doomed.children(doomed.roots().at(0).id))
+            doomed.client.watch(info.id, true);
+});
+
 TEST_F(MillProcess, GoesOnWhenAnInspectorIsKilledAtAnyMoment)
 {
     std::mt19937 random(7);
     for (int round = 0; round < 20; ++round) {
-        const pid_t inspector = fork();
-        if (inspector == 0) {
-            Probe doomed;
-            if (!doomed.client.connect(program.socket()).empty())
-                _exit(1);
-            doomed.client.showPictures(64, 48);
-            doomed.client.showCounters(true);
-            for (;;)
-                for (const NodeInfo& info : doomed.children(doomed.roots().at(0).id))
-                    doomed.client.watch(info.id, true);
-        }
+        ChildProcess inspector(inspectWithoutEnd.command({program.socket()}));
+        ASSERT_EQ(inspector.readLine(), "begins");
         const auto until = std::chrono::steady_clock::now() + std::chrono::microseconds(random() % 20000);
         while (std::chrono::steady_clock::now() < until)
             root();
-        kill(inspector, SIGKILL);
-        waitpid(inspector, nullptr, 0);
+        inspector.signal(SIGKILL);
+        EXPECT_EQ(inspector.waitForEnd().signal, SIGKILL);
     }
     EXPECT_EQ(probe.roots().size(), 1U);
     EXPECT_TRUE(program.isRunning());
@@ -324,7 +328,7 @@ TEST_F(MillProcess, SaysGoodbyeWhenItEnds)
             continue;
         inspector.runUntil([&] { return !inspector.end.empty(); });
         EXPECT_EQ(inspector.end, "The program “mill” has ended its connection.");
-        EXPECT_EQ(ending.waitForEnd(), 0);
+        EXPECT_TRUE(ending.waitForEnd().isGood());
     }
     EXPECT_EQ(problem, "");
 }

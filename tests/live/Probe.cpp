@@ -9,9 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include <fcntl.h>
 #include <poll.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace scopix::live;
@@ -87,54 +85,4 @@ std::optional<Value> Probe::value(NodeId node, const std::string& property)
 WriteResult Probe::write(NodeId node, const std::string& property, const Value& value)
 {
     return ask<WriteResult>(&Client::write, node, property, value);
-}
-
-OtherProgram::OtherProgram(const std::vector<std::string>& command)
-{
-    int ends[2] = {-1, -1};
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        return;
-    std::vector<char*> arguments;
-    for (const std::string& argument : command)
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    arguments.push_back(nullptr);
-    m_pid = fork();
-    if (m_pid == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        execv(arguments[0], arguments.data());
-        _exit(127);
-    }
-    close(ends[1]);
-    m_output = ends[0];
-    char letter = 0;
-    while (read(m_output, &letter, 1) == 1 && letter != '\n')
-        m_firstLine += letter;
-}
-
-OtherProgram::~OtherProgram()
-{
-    signal(SIGKILL);
-    waitForEnd();
-    close(m_output);
-}
-
-bool OtherProgram::isRunning()
-{
-    if (m_pid > 0 && waitpid(m_pid, &m_status, WNOHANG) == m_pid)
-        m_pid = -1;
-    return m_pid > 0;
-}
-
-void OtherProgram::signal(int number) const
-{
-    if (m_pid > 0)
-        kill(m_pid, number);
-}
-
-int OtherProgram::waitForEnd()
-{
-    if (m_pid > 0)
-        waitpid(m_pid, &m_status, 0);
-    m_pid = -1;
-    return WIFEXITED(m_status) ? WEXITSTATUS(m_status) : -1;
 }

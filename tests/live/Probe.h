@@ -3,6 +3,8 @@
 // answers, and programs in processes of their own.
 #pragma once
 
+#include "support/ChildProcess.h"
+
 #include <scopix/live/client/Client.h>
 #include <scopix/live/values/LivePacking.h>
 
@@ -10,8 +12,6 @@
 #include <map>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 /// A runtime directory that only this test has; sockets are in its folder `scopix-live`.
 class OwnRuntimeFolder
@@ -103,25 +103,18 @@ public:
 
 /// A program in a process of its own, which writes the path of its socket as its first line. It is killed at
 /// the end.
-class OtherProgram
+class OtherProgram : public ChildProcess
 {
 public:
-    explicit OtherProgram(const std::vector<std::string>& command);
-    ~OtherProgram();
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
+    explicit OtherProgram(const std::vector<std::string>& command)
+        : ChildProcess(command)
+        , m_firstLine(readLine())
+    {
+    }
 
-    pid_t pid() const { return m_pid; }
     /// What it wrote first: the path of its socket.
     const std::string& socket() const { return m_firstLine; }
-    bool isRunning();
-    void signal(int number) const;
-    /// Waits for its end; its exit status, or -1 where a signal ended it.
-    int waitForEnd();
 
 private:
-    pid_t m_pid = -1;
-    int m_output = -1;
-    int m_status = 0;
     std::string m_firstLine;
 };

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // main() of the tests that need a QApplication.
+#include "support/ChildProcess.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -7,6 +9,10 @@
 
 int main(int argc, char** argv)
 {
+    if (ChildAct::isAsked(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        return ChildAct::perform(argc, argv);
+    }
     ::testing::InitGoogleTest(&argc, argv);
     // Listing the tests needs no display, and has nothing to clean up.
     if (::testing::GTEST_FLAG(list_tests))

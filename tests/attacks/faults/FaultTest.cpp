@@ -4,6 +4,7 @@
 // in one sentence.
 #include "FailingCalls.h"
 #include "Operations.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/files/SoSceneFile.h>
 
@@ -14,7 +15,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using failing::Fault;
@@ -29,7 +29,7 @@ namespace
 
 using Files = QMap<QString, QByteArray>; // by their paths in the folder
 
-constexpr int MostSeconds = 60; // that a case may take
+constexpr std::chrono::seconds Patience{60}; // with a case
 
 struct Case {
     const char* name;
@@ -136,15 +136,15 @@ protected:
     Report run(const QString& folder, const Fault& fault)
     {
         Pipe pipe;
-        const pid_t child = fork();
-        if (child == 0)
+        ProcessCopy copy(Patience, [&] {
             runHere(folder, fault, pipe);
+            return true;
+        });
         const QByteArray said = pipe.takeAll();
-        int status = 0;
-        waitpid(child, &status, 0);
+        const ProcessEnd end = copy.waitForEnd();
         Report report;
-        report.hasEnded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        report.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+        report.hasEnded = end.isGood();
+        report.signal = end.signal;
         QDataStream in(said);
         in >> report.outcome.isDone >> report.outcome.sentence >> report.outcome.found >> report.calls >>
             report.leaked;
@@ -152,9 +152,8 @@ protected:
     }
 
 private:
-    [[noreturn]] static void runHere(const QString& folder, const Fault& fault, const Pipe& pipe)
+    static void runHere(const QString& folder, const Fault& fault, const Pipe& pipe)
     {
-        alarm(MostSeconds);
         const int before = openFiles();
         const QByteArray path = QFile::encodeName(folder);
         // What the program itself has written to a private file a moment ago can be read; and dialogs read
@@ -169,7 +168,6 @@ private:
         out << outcome.isDone << outcome.sentence << outcome.found << failing::failingCount(fault.call)
             << openFiles() - before;
         pipe.put(said);
-        _exit(0);
     }
 };
 

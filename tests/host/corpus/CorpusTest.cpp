@@ -7,6 +7,7 @@
 #include "import/ModelImport.h"
 #include "model/ModelFormats.h"
 #include "reader/MemoryLimit.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/actions/SoBoundingBoxAction.h>
 #include <xsg/actions/SoSearchAction.h>
@@ -27,8 +28,10 @@
 #include <assimp/scene.h>
 
 #include <locale.h>
-#include <sys/wait.h>
-#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 
 using namespace scopix;
 
@@ -59,28 +62,24 @@ long trianglesIn(const aiNode& node, const aiScene& scene)
     return count;
 }
 
-// As the importer itself counts them, in a process of its own, which it may end; 0 where it opens nothing.
+// As the importer itself counts them. It may write too.
+constexpr char Counted[] = "triangles: ";
+const ChildAct countTriangles("countTriangles", [](const ChildAct::Words& words) {
+    limitMemoryFor(QString::fromStdString(words[0]));
+    uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
+    Assimp::Importer importer;
+    const aiScene* scene = importer.ReadFile(words[0], aiProcess_Triangulate);
+    const long count = scene && scene->mRootNode ? trianglesIn(*scene->mRootNode, *scene) : 0;
+    std::printf("%s%ld\n", Counted, count);
+    return true;
+});
+
+// In a process of its own, which the importer may end; 0 where it opens nothing.
 long trianglesByImporter(const QString& path)
 {
-    int ends[2];
-    if (pipe(ends) != 0)
-        return 0;
-    const pid_t child = fork();
-    if (child == 0) {
-        limitMemoryFor(path);
-        uselocale(newlocale(LC_ALL_MASK, "C", nullptr));
-        Assimp::Importer importer;
-        const aiScene* scene =
-            importer.ReadFile(QFile::encodeName(path).toStdString(), aiProcess_Triangulate);
-        const long count = scene && scene->mRootNode ? trianglesIn(*scene->mRootNode, *scene) : 0;
-        _exit(write(ends[1], &count, sizeof count) == sizeof count ? 0 : 1);
-    }
-    close(ends[1]);
-    long count = 0;
-    const bool told = read(ends[0], &count, sizeof count) == sizeof count;
-    close(ends[0]);
-    waitpid(child, nullptr, 0);
-    return told ? count : 0;
+    const std::string said = ChildProcess(countTriangles.command({path.toStdString()})).readAll();
+    const auto found = said.rfind(Counted);
+    return found == std::string::npos ? 0 : std::atol(said.c_str() + found + std::strlen(Counted));
 }
 
 long trianglesIn(SoNode* scene)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "document/RecoverySlot.h"
+#include "support/ChildProcess.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,8 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace scopix;
 
@@ -27,7 +26,9 @@ protected:
         scene.write("edits");
     }
     // What a session leaves that is killed.
-    void crash(const char* title) const { fill(*RecoverySlot::make(path), title); }
+    static void crash(const QString& path, const char* title) { fill(*RecoverySlot::make(path), title); }
+    void crash(const char* title) const { crash(path, title); }
+    static const ChildAct s_takeOverAndDie;
 
     QTemporaryDir folder;
     QString path = folder.filePath("recovery");
@@ -63,17 +64,17 @@ TEST_F(Slots, IgnoresThoseOfRunningProcesses)
     EXPECT_FALSE(RecoverySlot::findOrphaned(path)) << "who finds it has it";
 }
 
+const ChildAct Slots::s_takeOverAndDie("takeOverAndDie", [](const ChildAct::Words& words) {
+    const QString path = QString::fromStdString(words[0]);
+    crash(path, "killed.xsg");
+    const auto held = RecoverySlot::findOrphaned(path);
+    return held && raise(SIGKILL) == 0;
+});
+
 TEST_F(Slots, FindsThoseOfAKilledProcess)
 {
-    const pid_t child = fork();
-    if (child == 0) {
-        crash("killed.xsg");
-        const auto held = RecoverySlot::findOrphaned(path);
-        kill(getpid(), SIGKILL);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFSIGNALED(status));
+    ChildProcess killed(s_takeOverAndDie.command({path.toStdString()}));
+    ASSERT_EQ(killed.waitForEnd().signal, SIGKILL);
     ASSERT_FALSE(QDir(path).entryList({"*.lock"}).isEmpty()) << "the lock outlives its process";
     const auto slot = RecoverySlot::findOrphaned(path);
     ASSERT_TRUE(slot);

@@ -2,7 +2,7 @@
 // Several sessions that have the same window settings.
 #include "document/RecentFiles.h"
 #include "settings/SettingsFile.h"
-#include "support/Processes.h"
+#include "support/ChildProcess.h"
 
 #include <gtest/gtest.h>
 
@@ -77,22 +77,26 @@ TEST_F(SharedSettings, ThatArePipesKeepNobodyWaiting)
     EXPECT_TRUE(RecentFiles(path()).list().isEmpty());
 }
 
+constexpr int Processes = 3;
+constexpr int Steps = 10;
+
+const ChildAct changeSettings("changeSettings", [](const ChildAct::Words& words) {
+    const QString path = QString::fromStdString(words[0]);
+    RecentFiles recent(path);
+    const SettingsFile settings(path);
+    bool isGood = true;
+    for (int step = 0; step < Steps && isGood; ++step) {
+        const QString file = QString("/%1-%2.xsg").arg(words[1].c_str()).arg(step % 3);
+        const QString key = QString("key-%1-%2").arg(words[1].c_str()).arg(step);
+        isGood = untilFree([&] { return recent.add(file); }) &&
+                 untilFree([&] { return settings.setValue(key, step); });
+    }
+    return isGood;
+});
+
 TEST_F(SharedSettings, OfProcessesAtOnceLoseNothing)
 {
-    constexpr int Processes = 3;
-    constexpr int Steps = 10;
-    inProcesses(Processes, [&](int number) {
-        RecentFiles recent(path());
-        const SettingsFile settings(path());
-        bool isGood = true;
-        for (int step = 0; step < Steps && isGood; ++step) {
-            const QString file = QString("/%1-%2.xsg").arg(number).arg(step % 3);
-            const QString key = QString("key-%1-%2").arg(number).arg(step);
-            isGood = untilFree([&] { return recent.add(file); }) &&
-                     untilFree([&] { return settings.setValue(key, step); });
-        }
-        return isGood;
-    });
+    EXPECT_TRUE(changeSettings.areDone(ChildAct::numbered(Processes, {path().toStdString()})));
     const QStringList recent = RecentFiles(path()).list();
     EXPECT_EQ(recent.size(), 9);
     const SettingsFile settings(path());

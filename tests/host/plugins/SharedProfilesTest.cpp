@@ -2,12 +2,13 @@
 // Several sessions that have the same profiles file.
 #include "profiles/ProfileList.h"
 #include "profiles/ProfileMerge.h"
-#include "support/Processes.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/support/FileLock.h>
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -35,6 +36,13 @@ QStringList namesOf(const Choices& choices)
     return names;
 }
 
+void add(ProfileList& list, const ProfileChoice& profile)
+{
+    Choices choices = list.choices();
+    choices.push_back(profile);
+    list.setProfiles(choices, list.activeProfile()->name());
+}
+
 class SharedProfiles : public testing::Test
 {
 protected:
@@ -46,12 +54,6 @@ protected:
         ProfileSettings settings = file().read(error);
         EXPECT_EQ(error, "");
         return settings;
-    }
-    static void add(ProfileList& list, const ProfileChoice& profile)
-    {
-        Choices choices = list.choices();
-        choices.push_back(profile);
-        list.setProfiles(choices, list.activeProfile()->name());
     }
 
     QTemporaryDir m_folder;
@@ -168,44 +170,50 @@ TEST_F(SharedProfiles, ADamagedFileIsKeptAndItsProfilesAreWrittenAgain)
     EXPECT_TRUE(QFile::exists(m_folder.filePath("profiles.damaged.json")));
 }
 
+constexpr int Processes = 3;
+
+// At random; what it has in the end is beside the file.
+const ChildAct changeProfiles("changeProfiles", [](const ChildAct::Words& words) {
+    constexpr int Steps = 15;
+    constexpr int MostAttempts = 30;
+    const QString path = QString::fromStdString(words[0]);
+    const int number = std::stoi(words[1]);
+    std::mt19937 random(unsigned(number) + qEnvironmentVariableIntValue("SCOPIX_WALK_SEED"));
+    ProfileList list{ProfileFile(path)};
+    bool isGood = true; // the others may have kept it locked all the time
+    QObject::connect(&list, &ProfileList::failed, [&](const QString&) { isGood = false; });
+    list.read();
+    QStringList mine;
+    for (int step = 0; step < Steps; ++step) {
+        Choices choices = list.choices();
+        const auto action = random() % 4;
+        if (action == 0 && !mine.isEmpty()) {
+            const QString removed = mine.takeFirst();
+            choices.erase(std::find_if(choices.begin(), choices.end(),
+                                       [&](const ProfileChoice& each) { return each.name == removed; }));
+            list.setProfiles(choices, "Default");
+        } else if (action == 1) {
+            list.setActiveProfile(list.findProfile(mine.value(0, "Default")));
+        } else {
+            mine += QString("%1-%2").arg(number).arg(step);
+            add(list, only(mine.last(), {mine.last()}));
+        }
+    }
+    isGood = false;
+    for (int attempt = 0; attempt < MostAttempts && !isGood; ++attempt) {
+        isGood = true;
+        list.setProfiles(list.choices(), "Default");
+    }
+    if (!isGood)
+        return false;
+    QFile result(QFileInfo(path).dir().filePath(QString("mine-%1").arg(number)));
+    return result.open(QIODevice::WriteOnly) && result.write(mine.join(' ').toLatin1()) >= 0;
+});
+
 // Each process adds, removes and chooses at random; what it has in the end is in the file.
 TEST_F(SharedProfiles, ProcessesAtOnceLoseNothing)
 {
-    constexpr int Processes = 3;
-    constexpr int Steps = 15;
-    constexpr int MostAttempts = 30;
-    inProcesses(Processes, [&](int number) {
-        std::mt19937 random(unsigned(number) + qEnvironmentVariableIntValue("SCOPIX_WALK_SEED"));
-        ProfileList list(file());
-        bool isGood = true; // the others may have kept it locked all the time
-        QObject::connect(&list, &ProfileList::failed, [&](const QString&) { isGood = false; });
-        list.read();
-        QStringList mine;
-        for (int step = 0; step < Steps; ++step) {
-            Choices choices = list.choices();
-            const auto action = random() % 4;
-            if (action == 0 && !mine.isEmpty()) {
-                const QString removed = mine.takeFirst();
-                choices.erase(std::find_if(choices.begin(), choices.end(),
-                                           [&](const ProfileChoice& each) { return each.name == removed; }));
-                list.setProfiles(choices, "Default");
-            } else if (action == 1) {
-                list.setActiveProfile(list.findProfile(mine.value(0, "Default")));
-            } else {
-                mine += QString("%1-%2").arg(number).arg(step);
-                add(list, only(mine.last(), {mine.last()}));
-            }
-        }
-        isGood = false;
-        for (int attempt = 0; attempt < MostAttempts && !isGood; ++attempt) {
-            isGood = true;
-            list.setProfiles(list.choices(), "Default");
-        }
-        if (!isGood)
-            return false;
-        QFile result(m_folder.filePath(QString("mine-%1").arg(number)));
-        return result.open(QIODevice::WriteOnly) && result.write(mine.join(' ').toLatin1()) >= 0;
-    });
+    EXPECT_TRUE(changeProfiles.areDone(ChildAct::numbered(Processes, {path().toStdString()})));
     QStringList expected{"Default", "Edit", "Measure", "Classic"};
     for (int number = 0; number < Processes; ++number) {
         QFile result(m_folder.filePath(QString("mine-%1").arg(number)));

@@ -180,25 +180,25 @@ TEST_F(OsgManners, AKilledProgramEndsTheConnectionAndNothingElse)
     EXPECT_TRUE(ownPrograms().empty());
 }
 
+// Until the program has sent as many pictures as the second word says.
+const ChildAct inspectAndDie("inspectAndDie", [](const ChildAct::Words& words) {
+    Probe probing;
+    probing.client.connect(words[0]);
+    const NodeId square = nodeNamed(probing, "square");
+    probing.client.mark(square);
+    probing.client.showPictures(200, 200);
+    probing.client.watch(square, true);
+    probing.runUntil([&] { return probing.pictures.size() > std::stoul(words[1]); });
+    return raise(SIGKILL) == 0;
+});
+
 TEST_F(OsgManners, AProgramOutlivesItsKilledInspectors)
 {
     const auto program = OsgProgram::own("");
     const std::string socket = program->waitForSocket();
     for (int round = 0; round < 3; ++round) {
-        const pid_t inspector = fork();
-        if (inspector == 0) {
-            Probe probing;
-            probing.client.connect(socket);
-            const NodeId square = nodeNamed(probing, "square");
-            probing.client.mark(square);
-            probing.client.showPictures(200, 200);
-            probing.client.watch(square, true);
-            probing.runUntil([&] { return probing.pictures.size() > std::size_t(round); });
-            kill(getpid(), SIGKILL);
-        }
-        int status = 0;
-        waitpid(inspector, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status));
+        ChildProcess inspector(inspectAndDie.command({socket, std::to_string(round)}));
+        EXPECT_EQ(inspector.waitForEnd().signal, SIGKILL);
         EXPECT_TRUE(program->process().isRunning());
     }
     attach(*program);
@@ -220,7 +220,7 @@ TEST_F(OsgManners, AProgramThatEndsByItselfEndsWell)
     probe.client.showPictures(100, 100);
     EXPECT_TRUE(probe.runUntil([&] { return !probe.counters.empty() && !probe.pictures.empty(); }));
     EXPECT_TRUE(probe.write(nodeNamed(probe, "world"), "Name", packedText("leave")).taken);
-    EXPECT_EQ(program->process().waitForEnd(), 0);
+    EXPECT_TRUE(program->process().waitForEnd().isGood());
     probe.runUntil([&] { return !probe.end.empty(); });
     EXPECT_NE(probe.end, "");
     EXPECT_TRUE(ownPrograms().empty());
@@ -263,6 +263,6 @@ TEST_F(OsgManners, AProgramOnAnotherVersionRunsOnAndSaysSoOnce)
 TEST_F(OsgManners, ProgramsWithoutOpenSceneGraphNoticeNothing)
 {
     OsgProgram program("/bin/echo fine");
-    EXPECT_EQ(program.process().waitForEnd(), 0);
+    EXPECT_TRUE(program.process().waitForEnd().isGood());
     EXPECT_TRUE(ownPrograms().empty());
 }

@@ -18,7 +18,6 @@
 #include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace scopix::live;
@@ -51,6 +50,14 @@ std::string leaveSocket(const OwnRuntimeFolder& folder)
     return path;
 }
 
+const ChildAct isTurnedAwayAsNobody("isTurnedAwayAsNobody", [](const ChildAct::Words& words) {
+    const passwd* nobody = getpwnam("nobody");
+    if (setgid(nobody->pw_gid) != 0 || setuid(nobody->pw_uid) != 0)
+        return false;
+    RawPeer stranger(words[0], {});
+    return stranger.awaitGoodbye() == "The program “toy” belongs to another user; inspect it as that user.";
+});
+
 } // namespace
 
 TEST(Users, MayTalkToTheirOwnProgramsOnly)
@@ -66,24 +73,12 @@ TEST(Users, AreTurnedAwayEvenWhereTheFolderLetsThemIn)
 {
     if (geteuid() != 0)
         return;
-    const passwd* nobody = getpwnam("nobody");
-    ASSERT_NE(nobody, nullptr);
+    ASSERT_NE(getpwnam("nobody"), nullptr);
     const OwnRuntimeFolder folder;
     const Connections connections(introduction(), Connections::Patience());
     for (const std::string& path : {folder.path(), folder.sockets(), connections.path()})
         ASSERT_EQ(chmod(path.c_str(), 0777), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        if (setgid(nobody->pw_gid) != 0 || setuid(nobody->pw_uid) != 0)
-            _exit(2);
-        RawPeer stranger(connections.path(), {});
-        const std::string reason = stranger.awaitGoodbye();
-        _exit(reason == "The program “toy” belongs to another user; inspect it as that user." ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_TRUE(isTurnedAwayAsNobody.isDone({connections.path()}));
 }
 
 TEST(Folder, IsRefusedWhereOthersCanEnterIt)
@@ -130,14 +125,11 @@ TEST(Folder, KeepsTheSocketWhenAForkedChildEndsTheServer)
     const OwnRuntimeFolder folder;
     auto connections = std::make_unique<Connections>(introduction(), Connections::Patience());
     const std::string path = connections->path();
-    const pid_t child = fork();
-    if (child == 0) {
+    ProcessCopy copy(60s, [&] {
         connections.reset();
-        _exit(fs::exists(path) ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+        return fs::exists(path);
+    });
+    EXPECT_TRUE(copy.waitForEnd().isGood());
     EXPECT_EQ(ownPrograms().size(), 1U);
     connections.reset();
     EXPECT_FALSE(fs::exists(path));

@@ -4,8 +4,8 @@
 
 #include "CounterProfileFile.h"
 #include "OwedSaves.h"
+#include "support/ChildProcess.h"
 #include "support/FileAnswer.h"
-#include "support/Processes.h"
 
 #include <xsg/support/FileLock.h>
 
@@ -204,55 +204,64 @@ TEST_F(SharedCounterFile, SaysThatTheDiskIsFull)
     EXPECT_EQ(profilesIn(readFile(path())), (QStringList{"first", "second"})) << "the next time";
 }
 
+static constexpr int Processes = 3;
+
+// At random; what it has in the end is in a file of its own.
+static const ChildAct changeProfiles("changeProfiles", [](const ChildAct::Words& words) {
+    using namespace counterProfileFile;
+    constexpr int Steps = 15;
+    constexpr int MostAttempts = 30;
+    const QString path = QString::fromStdString(words[0]);
+    const int number = std::stoi(words[2]);
+    for (const char* counter : {"testA", "testB", "testC"})
+        accumCounter(counter);
+    std::mt19937 random(unsigned(number) + unsigned(qEnvironmentVariableIntValue("SCOPIX_WALK_SEED")));
+    OwedSaves saves;
+    QDomDocument document;
+    {
+        const xsg::FileLock lock(words[0], xsg::FileLock::Kind::Shared);
+        QFile file(path);
+        QString problem;
+        if (!openToRead(file).isEmpty() || !parse(&file, document, problem))
+            return false;
+    }
+    saves.noteRead(path, document);
+    QList<SoPerfCounterProfile*> profiles = readProfiles(document);
+    QStringList mine;
+    bool isGood = true;
+    for (int step = 0; step < Steps && isGood; ++step) {
+        const auto isOldest = [&](const SoPerfCounterProfile* each) {
+            return each->getName() == mine.value(0);
+        };
+        if (random() % 3 == 0 && !mine.isEmpty()) {
+            const auto found = std::find_if(profiles.begin(), profiles.end(), isOldest);
+            delete *found;
+            profiles.erase(found);
+            mine.removeFirst();
+        } else {
+            mine += QString("%1-%2").arg(number).arg(step);
+            profiles += new SoPerfCounterProfile(mine.last());
+            profiles.last()->getView()->append("testA");
+        }
+        writeProfiles(document, profiles);
+        OwedSaves::JoinedProfiles joined;
+        // The others may have kept it locked all the time.
+        isGood = false;
+        for (int attempt = 0; attempt < MostAttempts && !isGood; ++attempt)
+            isGood = saves.save(path, document, nullptr, joined);
+        counterMerge::apply(joined, profiles);
+    }
+    qDeleteAll(profiles);
+    QFile result(QString::fromStdString(words[1]) + QString("/mine-%1").arg(number));
+    return isGood && result.open(QIODevice::WriteOnly) && result.write(mine.join(' ').toLatin1()) >= 0;
+});
+
 // Each process adds, removes and saves at random; what it has in the end is in the file.
 TEST_F(SharedCounterFile, ProcessesAtOnceLoseNothing)
 {
     writeExample();
-    constexpr int Processes = 3;
-    constexpr int Steps = 15;
-    constexpr int MostAttempts = 30;
-    inProcesses(Processes, [&](int number) {
-        using namespace counterProfileFile;
-        std::mt19937 random(unsigned(number) + unsigned(qEnvironmentVariableIntValue("SCOPIX_WALK_SEED")));
-        OwedSaves saves;
-        QDomDocument document;
-        {
-            const xsg::FileLock lock(path().toStdString(), xsg::FileLock::Kind::Shared);
-            QFile file(path());
-            QString problem;
-            if (!openToRead(file).isEmpty() || !parse(&file, document, problem))
-                return false;
-        }
-        saves.noteRead(path(), document);
-        QList<SoPerfCounterProfile*> profiles = readProfiles(document);
-        QStringList mine;
-        bool isGood = true;
-        for (int step = 0; step < Steps && isGood; ++step) {
-            const auto isOldest = [&](const SoPerfCounterProfile* each) {
-                return each->getName() == mine.value(0);
-            };
-            if (random() % 3 == 0 && !mine.isEmpty()) {
-                const auto found = std::find_if(profiles.begin(), profiles.end(), isOldest);
-                delete *found;
-                profiles.erase(found);
-                mine.removeFirst();
-            } else {
-                mine += QString("%1-%2").arg(number).arg(step);
-                profiles += new SoPerfCounterProfile(mine.last());
-                profiles.last()->getView()->append("testA");
-            }
-            writeProfiles(document, profiles);
-            OwedSaves::JoinedProfiles joined;
-            // The others may have kept it locked all the time.
-            isGood = false;
-            for (int attempt = 0; attempt < MostAttempts && !isGood; ++attempt)
-                isGood = saves.save(path(), document, nullptr, joined);
-            counterMerge::apply(joined, profiles);
-        }
-        qDeleteAll(profiles);
-        QFile result(folder.filePath(QString("mine-%1").arg(number)));
-        return isGood && result.open(QIODevice::WriteOnly) && result.write(mine.join(' ').toLatin1()) >= 0;
-    });
+    EXPECT_TRUE(changeProfiles.areDone(
+        ChildAct::numbered(Processes, {path().toStdString(), folder.path().toStdString()})));
     QStringList expected{"first", "second"};
     for (int number = 0; number < Processes; ++number)
         expected += QString::fromLatin1(readFile(folder.filePath(QString("mine-%1").arg(number))))

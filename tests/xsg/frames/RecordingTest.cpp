@@ -2,16 +2,17 @@
 #include <gtest/gtest.h>
 
 #include "fuzz/FrameFileCheck.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/frames/SoFrameCsv.h>
 #include <xsg/frames/SoFrameFile.h>
 
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace
@@ -135,27 +136,24 @@ TEST_F(RecordingFile, BelievesNoDamagedByte)
     }
 }
 
+// Until it is killed.
+static const ChildAct writeRecording("writeRecording", [](const ChildAct::Words& words) {
+    const SoFrameRecording recording = makeRecording(100);
+    SoFrameFile file;
+    file.open(words[0], withoutRows(recording));
+    file.write(recording);
+    file.write(recording);
+    std::puts("written");
+    std::fflush(stdout);
+    return pause() == 0;
+});
+
 TEST_F(RecordingFile, SurvivesThatItsWriterIsKilled)
 {
-    const SoFrameRecording recording = makeRecording(100);
-    int ready[2];
-    ASSERT_EQ(pipe(ready), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        SoFrameFile file;
-        file.open(path, withoutRows(recording));
-        file.write(recording);
-        file.write(recording);
-        static_cast<void>(!write(ready[1], "x", 1));
-        pause();
-        _exit(0);
-    }
-    char byte = 0;
-    ASSERT_EQ(::read(ready[0], &byte, 1), 1);
-    kill(child, SIGKILL);
-    waitpid(child, nullptr, 0);
-    close(ready[0]);
-    close(ready[1]);
+    ChildProcess writer(writeRecording.command({path}));
+    ASSERT_EQ(writer.readLine(), "written");
+    writer.signal(SIGKILL);
+    EXPECT_EQ(writer.waitForEnd().signal, SIGKILL);
     EXPECT_EQ(read().getNumFrames(), 200U);
 }
 

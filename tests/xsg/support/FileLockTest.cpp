@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TemporaryFolder.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/support/FileLock.h>
 
 #include <algorithm>
 #include <csignal>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 using xsg::FileLock;
@@ -40,16 +40,14 @@ TEST_F(Lock, LetsSeveralRead)
     EXPECT_TRUE(FileLock(at("a"), Kind::Exclusive, AtOnce).isBusy());
 }
 
+const ChildAct lockAndDie("lockAndDie", [](const ChildAct::Words& words) {
+    const FileLock lock(words[0], Kind::Exclusive);
+    return raise(SIGKILL) == 0;
+});
+
 TEST_F(Lock, IsGoneWithAProgramThatWasKilled)
 {
-    const pid_t child = fork();
-    if (child == 0) {
-        const FileLock lock(at("a"), Kind::Exclusive);
-        raise(SIGKILL);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(ChildProcess(lockAndDie.command({at("a")})).waitForEnd().signal, SIGKILL);
     EXPECT_FALSE(FileLock(at("a"), Kind::Exclusive, AtOnce).isBusy());
 }
 

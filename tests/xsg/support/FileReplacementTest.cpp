@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TemporaryFolder.h"
+#include "support/ChildProcess.h"
 
 #include <xsg/support/FileReplacement.h>
 
@@ -14,7 +15,6 @@
 #include <sys/socket.h>
 #include <sys/sysmacros.h>
 #include <sys/un.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 using xsg::FileReplacement;
@@ -214,20 +214,15 @@ TEST_F(Replacement, OfALongNameWorks)
     EXPECT_EQ(names(), Names{name});
 }
 
-// In a process of its own, which is killed in the middle.
+const ChildAct dieInTheMiddle("dieInTheMiddle", [](const ChildAct::Words& words) {
+    FileReplacement file(words[0]);
+    return file.open() && file.write("new") && raise(SIGKILL) == 0;
+});
+
 TEST_F(Replacement, ThatIsKilledLeavesTheOldFileAndIsCleared)
 {
     make("a", "old");
-    const pid_t child = fork();
-    if (child == 0) {
-        FileReplacement file(at("a"));
-        if (file.open() && file.write("new"))
-            raise(SIGKILL);
-        _exit(1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFSIGNALED(status));
+    ASSERT_EQ(ChildProcess(dieInTheMiddle.command({at("a")})).waitForEnd().signal, SIGKILL);
     EXPECT_EQ(textOf(at("a")), "old");
     EXPECT_EQ(names().size(), 2U);
     EXPECT_EQ(replace(at("a"), "newer"), "");
@@ -235,19 +230,17 @@ TEST_F(Replacement, ThatIsKilledLeavesTheOldFileAndIsCleared)
 }
 
 // A limit on the size of files stands for a full disk.
+const ChildAct replaceWithoutRoom("replaceWithoutRoom", [](const ChildAct::Words& words) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{1000, 1000};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    return replace(words[0], std::string(5000, 'x')) == std::strerror(EFBIG);
+});
+
 TEST_F(Replacement, ThatHasNoRoomLeavesTheOldFile)
 {
     make("a", "old");
-    const pid_t child = fork();
-    if (child == 0) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{1000, 1000};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        _exit(replace(at("a"), std::string(5000, 'x')) == std::strerror(EFBIG) ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(replaceWithoutRoom.isDone({at("a")}));
     EXPECT_EQ(textOf(at("a")), "old");
     EXPECT_EQ(names(), Names{"a"});
 }
