@@ -2986,6 +2986,18 @@ scopix --launch PROGRAM starts one.</source>
         <translation>„%1“ hat zu „%2“ nichts hinzugefügt: %3</translation>
     </message>
     <message>
+        <source>Only nodes of “%1” itself can stand in it, and their names are among their fields.</source>
+        <translation>Darin können nur Knoten aus „%1“ selbst stehen; ihre Namen sind unter ihren Feldern.</translation>
+    </message>
+    <message>
+        <source>“%1” refused to change the children of “%2”: %3</source>
+        <translation>„%1“ hat abgelehnt, die Kinder von „%2“ zu ändern: %3</translation>
+    </message>
+    <message>
+        <source>What was done after that is undone too; it can be redone.</source>
+        <translation>Was danach getan wurde, ist ebenfalls rückgängig gemacht; es lässt sich wiederholen.</translation>
+    </message>
+    <message>
         <source>“%1” takes whole numbers only, and is as it was.</source>
         <translation>„%1“ nimmt nur ganze Zahlen an und ist, wie es war.</translation>
     </message>
@@ -3000,14 +3012,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>“%1” took another value for “%2” than was asked for.</source>
         <translation>„%1“ hat für „%2“ einen anderen Wert genommen als verlangt.</translation>
-    </message>
-    <message>
-        <source>Only nodes of “%1” itself can stand in it, and their names are among their fields.</source>
-        <translation>Darin können nur Knoten aus „%1“ selbst stehen; ihre Namen sind unter ihren Feldern.</translation>
-    </message>
-    <message>
-        <source>“%1” refused to change the children of “%2”: %3</source>
-        <translation>„%1“ hat abgelehnt, die Kinder von „%2“ zu ändern: %3</translation>
     </message>
     <message>
         <source>“%1” has more children than can be shown: those after the first %L2 are left out.</source>
@@ -3308,30 +3312,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>%1 hinzufügen</translation>
     </message>
     <message>
-        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
-        <translation>Das Programm erzeugt keine Knoten vom Typ „%1“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
-    </message>
-    <message>
-        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
-        <translation>Es wurde nichts geändert, weil sich die ausgewählten Knoten inzwischen geändert haben; versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
-        <translation>„%1“ steht im Programm ganz oben und muss dort bleiben.</translation>
-    </message>
-    <message>
-        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
-        <translation>Das Programm erzeugt keine Knoten von einem Typ namens „Group“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
-    </message>
-    <message>
-        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
-        <translation>„%1“ steht im Programm ganz oben und lässt sich nicht duplizieren.</translation>
-    </message>
-    <message>
-        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
-        <translation>Nur Knoten, die in diesem Fenster aus diesem Programm kopiert wurden, lassen sich darin einfügen.</translation>
-    </message>
-    <message>
         <source>Copying was cancelled; the clipboard holds what it held.</source>
         <translation>Das Kopieren wurde abgebrochen; die Zwischenablage enthält, was sie enthielt.</translation>
     </message>
@@ -3346,6 +3326,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Pasting was cancelled; nothing has changed.</source>
         <translation>Das Einfügen wurde abgebrochen; es hat sich nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
+        <translation>Nur Knoten, die in diesem Fenster aus diesem Programm kopiert wurden, lassen sich darin einfügen.</translation>
     </message>
     <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
@@ -3898,6 +3882,26 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>&amp;Manage Profiles…</source>
         <translation>Profile &amp;verwalten …</translation>
+    </message>
+    <message>
+        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
+        <translation>Es wurde nichts geändert, weil sich die ausgewählten Knoten inzwischen geändert haben; versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
+        <translation>„%1“ steht im Programm ganz oben und muss dort bleiben.</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>Das Programm erzeugt keine Knoten von einem Typ namens „Group“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>Das Programm erzeugt keine Knoten vom Typ „%1“; Darüber setzen ▸ Anderes … zeigt, welche es erzeugt.</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
+        <translation>„%1“ steht im Programm ganz oben und lässt sich nicht duplizieren.</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -2986,6 +2986,18 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[“%1” àddéd ñöţĥîñĝ ţö “%2”: %3 ~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Only nodes of “%1” itself can stand in it, and their names are among their fields.</source>
+        <translation>[Öñlý ñödéš öf “%1” îţšélf çàñ šţàñd îñ îţ, àñd ţĥéîŕ ñàméš àŕé àmöñĝ ţĥéîŕ fîéldš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” refused to change the children of “%2”: %3</source>
+        <translation>[“%1” ŕéfûšéd ţö çĥàñĝé ţĥé çĥîldŕéñ öf “%2”: %3 ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>What was done after that is undone too; it can be redone.</source>
+        <translation>[Wĥàţ wàš döñé àfţéŕ ţĥàţ îš ûñdöñé ţöö; îţ çàñ bé ŕédöñé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>“%1” takes whole numbers only, and is as it was.</source>
         <translation>[“%1” ţàķéš wĥölé ñûmbéŕš öñlý, àñd îš àš îţ wàš. ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -3000,14 +3012,6 @@ scopix --launch PROGRAM starts one.</source>
     <message>
         <source>“%1” took another value for “%2” than was asked for.</source>
         <translation>[“%1” ţööķ àñöţĥéŕ vàlûé föŕ “%2” ţĥàñ wàš àšķéd föŕ. ~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Only nodes of “%1” itself can stand in it, and their names are among their fields.</source>
-        <translation>[Öñlý ñödéš öf “%1” îţšélf çàñ šţàñd îñ îţ, àñd ţĥéîŕ ñàméš àŕé àmöñĝ ţĥéîŕ fîéldš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>“%1” refused to change the children of “%2”: %3</source>
-        <translation>[“%1” ŕéfûšéd ţö çĥàñĝé ţĥé çĥîldŕéñ öf “%2”: %3 ~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>“%1” has more children than can be shown: those after the first %L2 are left out.</source>
@@ -3308,30 +3312,6 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Àdd %1 ~~]</translation>
     </message>
     <message>
-        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
-        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf ţĥé ţýpé “%1”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
-        <translation>[Ñöţĥîñĝ wàš döñé, šîñçé ţĥé šéléçţéd ñödéš ĥàvé çĥàñĝéd méàñwĥîlé; ţŕý îţ àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
-        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd ĥàš ţö šţàý wĥéŕé îţ îš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
-        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf à ţýpé çàlléd “Ĝŕöûp”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
-        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd çàññöţ bé dûplîçàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
-        <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd fŕöm ţĥîš pŕöĝŕàm, îñ ţĥîš wîñdöw, çàñ bé pàšţéd îñţö îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
         <source>Copying was cancelled; the clipboard holds what it held.</source>
         <translation>[Çöpýîñĝ wàš çàñçélléd; ţĥé çlîpböàŕd ĥöldš wĥàţ îţ ĥéld. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -3346,6 +3326,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Pasting was cancelled; nothing has changed.</source>
         <translation>[Pàšţîñĝ wàš çàñçélléd; ñöţĥîñĝ ĥàš çĥàñĝéd. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Only nodes that were copied from this program, in this window, can be pasted into it.</source>
+        <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd fŕöm ţĥîš pŕöĝŕàm, îñ ţĥîš wîñdöw, çàñ bé pàšţéd îñţö îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
@@ -3898,6 +3882,26 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>&amp;Manage Profiles…</source>
         <translation>[&amp;Màñàĝé Pŕöfîléš… ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing was done, since the selected nodes have changed meanwhile; try it again.</source>
+        <translation>[Ñöţĥîñĝ wàš döñé, šîñçé ţĥé šéléçţéd ñödéš ĥàvé çĥàñĝéd méàñwĥîlé; ţŕý îţ àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and has to stay where it is.</source>
+        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd ĥàš ţö šţàý wĥéŕé îţ îš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf à ţýpé çàlléd “Ĝŕöûp”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to see which it makes.</source>
+        <translation>[Ţĥé pŕöĝŕàm màķéš ñö ñödéš öf ţĥé ţýpé “%1”; çĥööšé Pûţ Àbövé ▸ Àñöţĥéŕ… ţö šéé wĥîçĥ îţ màķéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is what the program has at its top, and cannot be duplicated.</source>
+        <translation>[“%1” îš wĥàţ ţĥé pŕöĝŕàm ĥàš àţ îţš ţöp, àñd çàññöţ bé dûplîçàţéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Cancel</source>

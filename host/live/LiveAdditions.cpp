@@ -83,7 +83,13 @@ void LiveAdditions::unfold(const RunPointer& run, std::size_t i)
         return m_scene.whenUnfolded(*run->unfolded[i], [this, run, i] { unfold(run, i + 1); });
     if (run->left == 0)
         return m_scene.whenInFront([this, run] { finish(*run); });
-    for (i = 0; i < run->act.additions.size(); ++i) {
+    m_scene.getChildEdits().whenSettled([this, run] { askAll(run); });
+}
+
+void LiveAdditions::askAll(const RunPointer& run)
+{
+    m_scene.getChildEdits().hold();
+    for (std::size_t i = 0; i < run->act.additions.size(); ++i) {
         MirroredAddition& each = run->act.additions[i];
         if (each.index < 0)
             each.index = parentOf(each).getNumChildren();
@@ -134,8 +140,14 @@ void LiveAdditions::made(const RunPointer& run, std::size_t i, const live::NodeI
 void LiveAdditions::endOne(const RunPointer& run)
 {
     const auto isMade = [](const NodeRef& node) { return node.get() != nullptr; };
-    if (--run->left == 0 && std::any_of(run->made.begin(), run->made.end(), isMade))
-        m_scene.whenInFront([this, run] { finish(*run); });
+    if (--run->left > 0)
+        return;
+    if (std::none_of(run->made.begin(), run->made.end(), isMade))
+        return m_scene.getChildEdits().release();
+    m_scene.whenInFront([this, run] {
+        finish(*run);
+        m_scene.getChildEdits().release();
+    });
 }
 
 void LiveAdditions::finish(Run& run)
@@ -161,7 +173,7 @@ LiveAdditions::Places LiveAdditions::takeOut(const Run& run)
     for (std::size_t i = 0; i < run.made.size(); ++i) {
         LiveNode& parent = parentOf(run.act.additions[i]);
         SoNode* node = run.made[i].get();
-        auto& children = has.try_emplace(&parent, parent.getChildren()).first->second;
+        auto& children = has.try_emplace(&parent, parent.m_told).first->second;
         const auto place = std::min(children.size(), static_cast<std::size_t>(run.act.additions[i].index));
         if (node && std::find(children.begin(), children.end(), node) == children.end())
             children.insert(children.begin() + static_cast<std::ptrdiff_t>(place), node);
@@ -177,7 +189,7 @@ LiveAdditions::Places LiveAdditions::takeOut(const Run& run)
             m_scene.apply([&] { each.parent->removeChild(place); });
     }
     for (const auto& [parent, children] : has)
-        LiveEdits::noteChildren(*parent, children);
+        LiveChildEdits::noteChildren(*parent, children);
     const auto isBefore = [](const Place& a, const Place& b) { return a.index < b.index; };
     std::stable_sort(places.begin(), places.end(), isBefore);
     return places;
@@ -219,11 +231,12 @@ void LiveAdditions::perform(structure::Act act, const Places& places)
         if (auto* node = dynamic_cast<LiveNode*>(each))
             edited.emplace_back(node);
     }
+    m_scene.getChildEdits().noteStep();
     m_scene.takeBack(
         [&] { static_cast<SpxSceneServices&>(m_services).executeCommand(act.command.release(), act.name); });
     for (const Place& each : places) {
         each.parent->m_areChildrenEdited = true;
-        m_scene.getEdits().noteMade(*each.parent, each.index - each.parent->countObjects());
+        m_scene.getChildEdits().noteMade(*each.parent, each.index - each.parent->countObjects());
     }
     for (const NodeRef& each : edited)
         m_scene.childrenWritten(*each);
@@ -239,7 +252,9 @@ void LiveAdditions::giveUp(const Places& places)
             if (result.done)
                 m_scene.noteKept(result.node);
         });
-        LiveEdits::noteChildren(*at->parent, at->parent->getChildren());
+        std::vector<SoNode*> children = at->parent->m_told;
+        children.erase(children.begin() + at->index);
+        LiveChildEdits::noteChildren(*at->parent, children);
     }
 }
 

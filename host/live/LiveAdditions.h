@@ -42,6 +42,7 @@ private:
     using Places = std::vector<Place>; // of higher and higher indexes
 
     void unfold(const RunPointer& run, std::size_t i);
+    void askAll(const RunPointer& run);
     void ask(const RunPointer& run, std::size_t i);
     void answered(const RunPointer& run, std::size_t i, const live::StructureResult& result);
     void made(const RunPointer& run, std::size_t i, const live::NodeInfo& info);

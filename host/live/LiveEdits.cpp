@@ -57,7 +57,7 @@ void LiveEdits::flush(bool all)
 {
     m_soon.stop();
     sendValues(all);
-    sendChildren();
+    m_scene.getChildEdits().flush(all);
 }
 
 void LiveEdits::sendValues(bool all)
@@ -198,165 +198,11 @@ void LiveEdits::remark(LiveProperty& property, const QString& sentence)
     emit m_scene.remarked(property.field.get());
 }
 
-// --- Children
-
-void LiveEdits::childrenWritten(LiveNode& node)
-{
-    const NodeRef kept(&node);
-    if (m_isOver || std::find(m_groups.begin(), m_groups.end(), kept) != m_groups.end())
-        return;
-    m_groups.push_back(kept);
-    m_soon.start(0);
-}
-
-bool LiveEdits::areChildrenWritten(LiveNode& node) const
-{
-    return std::find(m_groups.begin(), m_groups.end(), NodeRef(&node)) != m_groups.end();
-}
-
-void LiveEdits::settleChildren(LiveNode& node)
-{
-    if (areChildrenWritten(node))
-        flush();
-}
-
-void LiveEdits::sendChildren()
-{
-    const HistoryPlace place{m_services.history().getNumber(), m_services.undoStack().index()};
-    const auto batch =
-        std::make_shared<Batch>(Batch{place, std::exchange(m_groups, {}), std::exchange(m_made, {})});
-    if (batch->groups.empty())
-        return;
-    m_latest = batch;
-    std::vector<Child> removed;
-    std::vector<Child> inserted;
-    for (const NodeRef& group : batch->groups) {
-        if (!group->isRenamed() && compareChildren(group, removed, inserted))
-            continue;
-        batch->refusal = LiveScene::tr("Only nodes of “%1” itself can stand in it, and their names are among "
-                                       "their fields.")
-                             .arg(m_scene.getName());
-        return takeBack(batch);
-    }
-    batch->left = removed.size() + inserted.size();
-    for (const Child& each : removed)
-        sendChild(batch, each);
-    for (const Child& each : inserted)
-        sendChild(batch, each);
-}
-
-void LiveEdits::sendChild(const BatchPointer& batch, const Child& child)
-{
-    change(child, [=](const live::StructureResult& result) { structureAnswered(batch, child, result); });
-}
-
-void LiveEdits::change(const Child& child, const LiveLink::Answer<live::StructureResult>& answer)
-{
-    const auto index = static_cast<std::uint32_t>(child.index);
-    const auto noted = [this, answer](const live::StructureResult& result) {
-        if (result.done)
-            m_scene.noteKept(result.node);
-        answer(result);
-    };
-    if (child.isInserted)
-        m_scene.getLink().insert(child.group->getId(), index, child.node, answer);
-    else
-        m_scene.getLink().remove(child.group->getId(), index, noted);
-}
-
-// What went, from the last one on, and what came, from the first one on; false where that cannot be in the
-// program.
-bool LiveEdits::compareChildren(const NodeRef& node, std::vector<Child>& removed,
-                                std::vector<Child>& inserted)
-{
-    const std::vector<SoNode*>& before = node->m_told;
-    const std::vector<SoNode*>& now = node->getChildren();
-    const std::size_t common = std::min(before.size(), now.size());
-    std::size_t head = 0;
-    while (head < common && before[head] == now[head])
-        ++head;
-    std::size_t tail = 0;
-    while (tail < common - head && before[before.size() - 1 - tail] == now[now.size() - 1 - tail])
-        ++tail;
-    const std::size_t objects = node->m_objects.size();
-    if (node->getId() == 0 || head < objects)
-        return false;
-    for (std::size_t i = before.size() - tail; i > head; --i)
-        removed.push_back({node, static_cast<int>(i - 1 - objects)});
-    for (std::size_t i = head; i < now.size() - tail; ++i) {
-        const auto* child = dynamic_cast<const LiveNode*>(now[i]);
-        if (!child || child->getScene() != &m_scene || child->getId() == 0)
-            return false;
-        inserted.push_back({node, static_cast<int>(i - objects), child->getId(), true});
-    }
-    noteChildren(*node, now);
-    return true;
-}
-
-// While they are being fetched again, what comes decides, and is asked for once more.
-void LiveEdits::noteChildren(LiveNode& node, const std::vector<SoNode*>& children)
-{
-    node.m_told = children;
-    if (node.m_childrenFetched == LiveNode::Fetched::Asked)
-        node.m_isAskedAgain = node.m_isOutdated = true;
-    else
-        node.m_fetched.assign(node.m_told.begin() + static_cast<std::ptrdiff_t>(node.m_objects.size()),
-                              node.m_told.end());
-}
-
-void LiveEdits::noteMade(LiveNode& parent, int index)
-{
-    m_made.push_back({NodeRef(&parent), index, 0, true});
-}
-
-void LiveEdits::structureAnswered(const BatchPointer& batch, Child child, const live::StructureResult& result)
-{
-    if (result.done) {
-        child.node = result.node;
-        batch->done.push_back(child);
-    } else if (batch->refusal.isEmpty()) {
-        batch->refusal = LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                             .arg(m_scene.getName(), nodeText(*child.group), sentenceOf(result.refusal));
-    }
-    if (--batch->left == 0 && !batch->refusal.isEmpty())
-        takeBack(batch);
-}
-
-// In the program only as long as nothing that was sent since builds on it.
-void LiveEdits::takeBack(const BatchPointer& batch)
-{
-    if (m_isOver)
-        return;
-    for (auto at = batch->done.rbegin(); batch == m_latest.lock() && at != batch->done.rend(); ++at)
-        change({at->group, at->index, at->node, !at->isInserted}, [](const auto&) {});
-    emit m_scene.told(batch->refusal);
-    m_scene.whenInFront([this, batch] {
-        takeChildrenBack(batch->place);
-        for (const NodeRef& each : batch->groups) {
-            noteChildren(*each, each->getChildren());
-            m_scene.fetchChildrenAgain(*each);
-        }
-    });
-}
-
-// The program never had it, so that undoing it is not told to the program either.
-void LiveEdits::takeChildrenBack(const HistoryPlace& place)
-{
-    QUndoStack& stack = m_services.undoStack();
-    m_scene.takeBack([&] {
-        if (m_services.history().getNumber() == place.number && stack.index() == place.index &&
-            stack.canUndo() && !stack.canRedo())
-            stack.undo();
-    });
-}
-
 // --- The end
 
 void LiveEdits::stop()
 {
     m_isOver = true;
-    m_groups.clear();
-    m_made.clear();
     if (!m_written.empty())
         m_soon.start(0);
 }

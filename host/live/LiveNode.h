@@ -70,6 +70,7 @@ public:
 
 private:
     friend class LiveScene;
+    friend class LiveChildEdits;
     friend class LiveEdits;
     friend class LiveAdditions;
     friend class LiveFolding;

@@ -52,6 +52,7 @@ LiveScene::LiveScene(std::unique_ptr<LiveLink> link, HostServices& services)
     : m_services(services)
     , m_link(std::move(link))
     , m_edits(*this, services)
+    , m_childEdits(*this, services)
     , m_additions(*this, services)
     , m_root(new LiveNode(*this, rootInfo(m_link->program())))
 {
@@ -247,7 +248,7 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
         node->m_fetched.emplace_back(nodeFor(piece[i]).get());
     const auto next = static_cast<std::uint32_t>(first + taken);
     const bool isLast = taken == 0 || (taken < asked && next >= node->m_info.childCount);
-    if (isLast && isAgain && (node->m_isOutdated || m_edits.areChildrenWritten(*node)))
+    if (isLast && isAgain && (node->m_isOutdated || m_childEdits.areWritten(*node)))
         return fetchEditedAgain(*node);
     if (isLast || !isAgain)
         setChildren(*node);
@@ -266,11 +267,13 @@ void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain
 // What came is older than the edits, which have to be with the program before it is asked.
 void LiveScene::fetchEditedAgain(LiveNode& node)
 {
-    m_edits.settleChildren(node);
-    node.m_childrenFetched = LiveNode::Fetched::Yes;
-    LiveEdits::noteChildren(node, node.getChildren());
-    node.m_isAskedAgain = node.m_isOutdated = false;
-    fetchChildrenAgain(node);
+    const NodeRef kept(&node);
+    m_childEdits.whenSettled([this, kept] {
+        kept->m_childrenFetched = LiveNode::Fetched::Yes;
+        LiveChildEdits::noteChildren(*kept, kept->getChildren());
+        kept->m_isAskedAgain = kept->m_isOutdated = false;
+        fetchChildrenAgain(*kept);
+    });
 }
 
 void LiveScene::fetched(LiveNode& node)
@@ -322,7 +325,7 @@ void LiveScene::childrenWritten(LiveNode& node)
     if (m_isApplying || (node.m_told == node.getChildren() && !node.isRenamed()))
         return;
     node.m_areChildrenEdited = true;
-    m_edits.childrenWritten(node);
+    m_childEdits.childrenWritten(node);
 }
 
 // --- Properties
@@ -580,7 +583,7 @@ void LiveScene::childrenChanged(live::NodeId id)
     if (found == m_nodes.end())
         return;
     const NodeRef node(found->second);
-    m_edits.settleChildren(*node);
+    m_childEdits.flush();
     m_link->node(id, [this, node](const std::optional<live::NodeInfo>& info) {
         if (info)
             node->m_info.childCount = info->childCount;
@@ -647,6 +650,7 @@ void LiveScene::end(const QString& reason)
     m_state = State::Ended;
     m_end = printable(reason);
     m_edits.stop();
+    m_childEdits.stop();
     emit stateChanged();
     goOnWaiting();
 }

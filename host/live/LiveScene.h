@@ -2,6 +2,7 @@
 #pragma once
 
 #include "live/LiveAdditions.h"
+#include "live/LiveChildEdits.h"
 #include "live/LiveEdits.h"
 #include "live/LiveFolding.h"
 #include "live/LiveLink.h"
@@ -25,7 +26,8 @@ class HostServices;
 
 /// The scene of a running program as nodes of ours: nodes come when their parent is unfolded, values when a
 /// node is selected. Values that the program changes are shown and are no edits; edits go to the program
-/// through LiveEdits. When the program ends, the nodes stay and refuse edits. Owns the link. GUI thread only.
+/// through LiveEdits and LiveChildEdits. When the program ends, the nodes stay and refuse edits. Owns the
+/// link. GUI thread only.
 class LiveScene : public QObject, private live::ClientListener
 {
     Q_OBJECT
@@ -40,6 +42,7 @@ public:
     SoNode* getRoot() const { return m_root.get(); }
     LiveLink& getLink() { return *m_link; }
     LiveEdits& getEdits() { return m_edits; }
+    LiveChildEdits& getChildEdits() { return m_childEdits; }
     LiveAdditions& getAdditions() { return m_additions; }
     State getState() const { return m_state; }
     /// Why it has ended, in a sentence.
@@ -154,6 +157,7 @@ private:
     std::unordered_map<live::NodeId, LiveNode*> m_nodes;
     std::unordered_set<LiveNode*> m_unnumbered; // the root, and what stands for a node within itself
     LiveEdits m_edits;
+    LiveChildEdits m_childEdits;
     LiveAdditions m_additions;
     LiveFolding m_folding{*this};
     QTimer m_foldsSoon;
