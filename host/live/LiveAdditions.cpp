@@ -80,7 +80,7 @@ void LiveAdditions::start(const MirroredAct& act)
 void LiveAdditions::unfold(const RunPointer& run, std::size_t i)
 {
     if (i < run->unfolded.size())
-        return m_scene.whenUnfolded(*run->unfolded[i], [this, run, i] { unfold(run, i + 1); });
+        return m_scene.getWays().whenUnfolded(*run->unfolded[i], [this, run, i] { unfold(run, i + 1); });
     if (run->left == 0)
         return m_scene.whenInFront([this, run] { finish(*run); });
     m_scene.getChildEdits().whenSettled([this, run] { askAll(run); });
@@ -132,7 +132,7 @@ void LiveAdditions::made(const RunPointer& run, std::size_t i, const live::NodeI
     const NodeRef node = m_scene.nodeFor(info);
     run->made[i] = node;
     if (run->act.think && !run->act.additions[i].copied && info.canHaveChildren)
-        m_scene.whenUnfolded(*node, [this, run] { endOne(run); });
+        m_scene.getWays().whenUnfolded(*node, [this, run] { endOne(run); });
     else
         endOne(run);
 }

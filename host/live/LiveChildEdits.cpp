@@ -225,7 +225,7 @@ void LiveChildEdits::undo(const Batch& batch)
     m_first.reset();
     for (const NodeRef& each : groups) {
         noteChildren(*each, each->getChildren());
-        m_scene.fetchChildrenAgain(*each);
+        m_scene.getFetching().fetchChildrenAgain(*each);
     }
 }
 

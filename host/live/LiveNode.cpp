@@ -132,7 +132,7 @@ bool LiveNode::mayHaveMoreChildren() const
 void LiveNode::fetchChildren()
 {
     if (m_scene)
-        m_scene->fetchChildren(*this);
+        m_scene->getFetching().fetchChildren(*this);
 }
 
 void LiveNode::askTypesToAdd(const AnswerTypes& answer)

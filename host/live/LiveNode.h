@@ -73,7 +73,9 @@ private:
     friend class LiveChildEdits;
     friend class LiveEdits;
     friend class LiveAdditions;
+    friend class LiveFetching;
     friend class LiveFolding;
+    friend class LiveWays;
     ~LiveNode() override;
     void update(const live::NodeInfo& info);
     /// By somebody other than the program.

@@ -101,7 +101,7 @@ void LiveReplay::goDown(const NodeRef& node, std::size_t step)
             if (self)
                 self->arrived(node);
         });
-    m_scene.whenUnfolded(*node, [self, node, step] {
+    m_scene.getWays().whenUnfolded(*node, [self, node, step] {
         if (!self)
             return;
         LiveNode* child = childAt(*node, self->m_changes[self->m_at].way[step]);

@@ -22,10 +22,6 @@ namespace scopix
 namespace
 {
 
-constexpr std::uint32_t FirstPiece = 500; // children that a view needs at once
-constexpr std::uint32_t LargestPiece = 16000;
-constexpr std::size_t MostChildren = 4'000'000;
-constexpr std::size_t MostObjects = 256; // that the properties of a node refer to
 constexpr std::size_t MostShown = 64; // nodes whose values are followed, beside those that something watches
 
 live::NodeInfo rootInfo(const live::Program& program)
@@ -34,15 +30,6 @@ live::NodeInfo rootInfo(const live::Program& program)
     info.type = "Program";
     info.name = program.name;
     info.canHaveChildren = true;
-    return info;
-}
-
-// Stands for a node where that would stand within itself.
-live::NodeInfo repetitionOf(const SoNode& node)
-{
-    live::NodeInfo info;
-    info.type = "Repetition";
-    info.name = nodeText(node).toStdString();
     return info;
 }
 
@@ -67,18 +54,25 @@ LiveScene::LiveScene(std::unique_ptr<LiveLink> link, HostServices& services)
     });
     m_link->setListener(this);
     m_link->showNotices(true);
-    fetchChildren(*m_root);
+    m_fetching.fetchChildren(*m_root);
 }
 
 LiveScene::~LiveScene()
 {
     m_link->setListener(nullptr);
-    m_waiting.clear();
+    m_ways.clear();
     m_forFront.clear();
+    // Those who wait for a node's answer keep it, and may keep others.
+    std::vector<std::function<void()>> dropped;
+    const auto leave = [&dropped](LiveNode& node) {
+        node.m_scene = nullptr;
+        dropped.insert(dropped.end(), node.m_onProperties.begin(), node.m_onProperties.end());
+        node.m_onProperties.clear();
+    };
     for (const auto& [id, node] : m_nodes)
-        node->m_scene = nullptr;
+        leave(*node);
     for (LiveNode* node : m_unnumbered)
-        node->m_scene = nullptr;
+        leave(*node);
 }
 
 QString LiveScene::getName() const
@@ -133,6 +127,12 @@ LiveScene::NodeRef LiveScene::nodeFor(const live::NodeInfo& info)
     return node;
 }
 
+LiveNode* LiveScene::findNode(live::NodeId id) const
+{
+    const auto found = m_nodes.find(id);
+    return found == m_nodes.end() ? nullptr : found->second;
+}
+
 void LiveScene::forget(LiveNode& node)
 {
     m_unnumbered.erase(&node);
@@ -172,6 +172,11 @@ void LiveScene::noteKept(live::NodeId id)
         m_link->forget(id);
 }
 
+void LiveScene::watchChildren(LiveNode& node)
+{
+    watch(node, isShown(node));
+}
+
 void LiveScene::watchLess(LiveNode& node)
 {
     if (!isShown(node))
@@ -187,217 +192,12 @@ void LiveScene::fold(LiveNode& node)
 
 // --- Children
 
-void LiveScene::fetchChildren(LiveNode& node)
-{
-    if (node.m_childrenFetched != LiveNode::Fetched::No || m_state == State::Ended)
-        return;
-    node.m_childrenFetched = LiveNode::Fetched::Asked;
-    node.m_fetched.clear(); // what was moved here before comes again
-    const NodeRef kept(&node);
-    if (&node == m_root.get())
-        return m_link->roots([this](const std::vector<live::NodeInfo>& roots) { rootsCame(roots); });
-    if (node.getId() == 0)
-        return fetched(node);
-    watch(node, isShown(node));
-    if (node.m_propertiesFetched == LiveNode::Fetched::Yes && !node.m_hasObjects) {
-        node.m_propertiesFetched = LiveNode::Fetched::Asked;
-        node.m_onProperties.push_back([this, kept] { fetchPiece(kept, 0, false); });
-        return fetchObjects(kept);
-    }
-    fetchProperties(node, [this, kept] { fetchPiece(kept, 0, false); });
-}
-
-void LiveScene::fetchChildrenAgain(LiveNode& node)
-{
-    if (node.m_childrenFetched == LiveNode::Fetched::Asked) {
-        node.m_isAskedAgain = true;
-        return;
-    }
-    if (node.m_childrenFetched == LiveNode::Fetched::No || m_state == State::Ended)
-        return;
-    node.m_childrenFetched = LiveNode::Fetched::Asked;
-    node.m_fetched.clear();
-    if (&node == m_root.get())
-        m_link->roots([this](const std::vector<live::NodeInfo>& roots) { rootsCame(roots); });
-    else
-        fetchPiece(NodeRef(&node), 0, true);
-}
-
-void LiveScene::rootsCame(const std::vector<live::NodeInfo>& roots)
-{
-    m_root->m_fetched.clear();
-    for (const live::NodeInfo& info : roots)
-        m_root->m_fetched.emplace_back(nodeFor(info).get());
-    setChildren(*m_root);
-    fetched(*m_root);
-}
-
-void LiveScene::fetchPiece(const NodeRef& node, std::uint32_t first, bool isAgain)
-{
-    const std::uint32_t count = std::clamp(first, FirstPiece, LargestPiece);
-    m_link->children(node->getId(), first, count, [=](const std::vector<live::NodeInfo>& piece) {
-        pieceCame(node, first, isAgain, count, piece);
-    });
-}
-
-void LiveScene::pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain, std::uint32_t asked,
-                          const std::vector<live::NodeInfo>& piece)
-{
-    const std::size_t taken = std::min<std::size_t>(piece.size(), asked);
-    for (std::size_t i = 0; i < taken; ++i)
-        node->m_fetched.emplace_back(nodeFor(piece[i]).get());
-    const auto next = static_cast<std::uint32_t>(first + taken);
-    const bool isLast = taken == 0 || (taken < asked && next >= node->m_info.childCount);
-    if (isLast && isAgain && (node->m_isOutdated || m_childEdits.areWritten(*node)))
-        return fetchEditedAgain(*node);
-    if (isLast || !isAgain)
-        setChildren(*node);
-    if (isLast)
-        return fetched(*node);
-    if (next >= MostChildren) {
-        emit told(tr("“%1” has more children than can be shown: those after the first %L2 are left out.")
-                      .arg(nodeText(*node))
-                      .arg(next));
-        return fetched(*node);
-    }
-    goOnWaiting();
-    fetchPiece(node, next, isAgain);
-}
-
-// What came is older than the edits, which have to be with the program before it is asked.
-void LiveScene::fetchEditedAgain(LiveNode& node)
-{
-    const NodeRef kept(&node);
-    m_childEdits.whenSettled([this, kept] {
-        kept->m_childrenFetched = LiveNode::Fetched::Yes;
-        LiveChildEdits::noteChildren(*kept, kept->getChildren());
-        kept->m_isAskedAgain = kept->m_isOutdated = false;
-        fetchChildrenAgain(*kept);
-    });
-}
-
-void LiveScene::fetched(LiveNode& node)
-{
-    const NodeRef kept(&node);
-    node.m_childrenFetched = LiveNode::Fetched::Yes;
-    node.m_fetched.shrink_to_fit();
-    apply([&] { node.touch(); });
-    if (std::exchange(node.m_isAskedAgain, false))
-        fetchChildrenAgain(node);
-    goOnWaiting();
-}
-
-// Children at both ends that stay are not touched, with whatever is selected and unfolded there.
-void LiveScene::setChildren(LiveNode& node)
-{
-    std::vector<SoNode*> wanted;
-    wanted.reserve(node.m_objects.size() + node.m_fetched.size());
-    for (const auto* part : {&node.m_objects, &node.m_fetched}) {
-        for (const auto& child : *part)
-            wanted.push_back(child.get());
-    }
-    const int before = node.getNumChildren();
-    const int now = static_cast<int>(wanted.size());
-    int head = 0;
-    while (head < std::min(before, now) && node.getChild(head) == wanted[static_cast<std::size_t>(head)])
-        ++head;
-    int tail = 0;
-    while (tail < std::min(before, now) - head &&
-           node.getChild(before - 1 - tail) == wanted[static_cast<std::size_t>(now - 1 - tail)])
-        ++tail;
-    apply([&] {
-        for (int i = before - tail - 1; i >= head; --i)
-            node.removeChild(i);
-        for (int i = head; i < now - tail; ++i)
-            insert(node, *wanted[static_cast<std::size_t>(i)], i);
-    });
-    node.m_told = node.getChildren();
-}
-
-void LiveScene::insert(LiveNode& parent, SoNode& child, int index)
-{
-    if (!parent.insertChild(&child, index))
-        parent.insertChild(nodeFor(repetitionOf(child)).get(), index);
-}
-
 void LiveScene::childrenWritten(LiveNode& node)
 {
     if (m_isApplying || (node.m_told == node.getChildren() && !node.isRenamed()))
         return;
     node.m_areChildrenEdited = true;
     m_childEdits.childrenWritten(node);
-}
-
-// --- Properties
-
-void LiveScene::fetchProperties(LiveNode& node, const std::function<void()>& then)
-{
-    if (node.m_propertiesFetched == LiveNode::Fetched::Yes)
-        return then();
-    node.m_onProperties.push_back(then);
-    if (node.m_propertiesFetched == LiveNode::Fetched::Asked)
-        return;
-    node.m_propertiesFetched = LiveNode::Fetched::Asked;
-    const NodeRef kept(&node);
-    m_link->properties(node.getId(), [this, kept](const std::vector<live::PropertyInfo>& properties) {
-        propertiesCame(kept, properties);
-    });
-}
-
-void LiveScene::propertiesCame(const NodeRef& node, const std::vector<live::PropertyInfo>& properties)
-{
-    apply([&] { node->setProperties(properties); });
-    fetchObjects(node);
-}
-
-// Answers come in the order of the questions, so that the last one ends it.
-void LiveScene::fetchObjects(const NodeRef& node)
-{
-    auto ids = std::make_shared<std::vector<live::NodeId>>();
-    std::vector<std::string> names;
-    for (const auto& property : node->m_properties) {
-        if (property->info.kind == live::ValueKind::Object)
-            names.push_back(property->info.name);
-    }
-    if (names.empty())
-        return propertiesFetched(*node);
-    for (const std::string& name : names) {
-        const bool isLast = &name == &names.back();
-        m_link->value(node->getId(), name, [=](const std::optional<live::Value>& value) {
-            const auto objects = value ? objectsIn(*value) : std::vector<live::NodeId>();
-            ids->insert(ids->end(), objects.begin(), objects.end());
-            if (isLast)
-                objectsCame(node, *ids);
-        });
-    }
-}
-
-void LiveScene::objectsCame(const NodeRef& node, const std::vector<live::NodeId>& ids)
-{
-    const std::size_t count = std::min(ids.size(), MostObjects);
-    if (count == 0)
-        return propertiesFetched(*node);
-    auto objects = std::make_shared<std::vector<SoRef<SoNode>>>();
-    for (std::size_t i = 0; i < count; ++i) {
-        m_link->node(ids[i], [=](const std::optional<live::NodeInfo>& info) {
-            if (info && info->id != 0)
-                objects->emplace_back(nodeFor(*info).get());
-            if (i + 1 < count)
-                return;
-            node->m_objects = *objects;
-            setChildren(*node);
-            propertiesFetched(*node);
-        });
-    }
-}
-
-void LiveScene::propertiesFetched(LiveNode& node)
-{
-    const NodeRef kept(&node);
-    node.m_propertiesFetched = LiveNode::Fetched::Yes;
-    node.m_hasObjects = true;
-    for (const auto& then : std::exchange(node.m_onProperties, {}))
-        then();
 }
 
 // --- Values
@@ -425,7 +225,7 @@ void LiveScene::show(LiveNode& node)
         return;
     const NodeRef kept(&node);
     keepShown(node);
-    fetchProperties(node, [this, kept, isFirst] {
+    m_fetching.fetchProperties(node, [this, kept, isFirst] {
         fetchValues(*kept, {});
         if (isFirst)
             emit fieldsCame(kept.get());
@@ -504,77 +304,20 @@ void LiveScene::fieldWritten(LiveNode& node, SoField& field)
 
 // --- Ways
 
-void LiveScene::findPath(const std::vector<live::NodeId>& path, std::function<void(const SoPath&)> done)
-{
-    m_waiting.push_back({path, 0, {}, std::move(done)});
-    goOnWaiting();
-}
-
-void LiveScene::whenUnfolded(LiveNode& node, const std::function<void()>& act)
-{
-    const NodeRef kept(&node);
-    if (m_state == State::Ended || node.m_childrenFetched == LiveNode::Fetched::Yes)
-        return act();
-    m_waiting.push_back({{}, 0, {kept}, [act](const SoPath&) { act(); }});
-    fetchChildren(node);
-}
-
 void LiveScene::whenShown(LiveNode& node, const std::function<void()>& act)
 {
     const NodeRef kept(&node);
     if (m_state == State::Ended)
         return act();
     keepShown(node);
-    fetchProperties(node, [this, kept, act] { fetchValues(*kept, act); });
-}
-
-void LiveScene::goOnWaiting()
-{
-    std::list<Waiting> waiting;
-    waiting.swap(m_waiting);
-    for (auto at = waiting.begin(); at != waiting.end();) {
-        if (goOn(*at)) {
-            SoPath path;
-            path.append(m_root.get());
-            for (const NodeRef& node : at->found)
-                path.append(node.get());
-            const auto done = std::move(at->done);
-            at = waiting.erase(at);
-            done(path);
-        } else {
-            ++at;
-        }
-    }
-    m_waiting.splice(m_waiting.begin(), waiting);
-}
-
-// Whether there is nothing more to wait for.
-bool LiveScene::goOn(Waiting& waiting)
-{
-    while (true) {
-        const NodeRef last = waiting.found.empty() ? m_root : waiting.found.back();
-        const bool isComplete = m_state == State::Ended || last->m_childrenFetched == LiveNode::Fetched::Yes;
-        if (waiting.next == waiting.ids.size())
-            return !waiting.ids.empty() || isComplete;
-        const auto found = m_nodes.find(waiting.ids[waiting.next]);
-        const auto isParent = [&](const SoGroup* parent) { return parent == last.get(); };
-        if (found == m_nodes.end() ||
-            std::none_of(found->second->getParents().begin(), found->second->getParents().end(), isParent)) {
-            if (isComplete)
-                return true;
-            fetchChildren(*last);
-            return m_state == State::Ended;
-        }
-        waiting.found.emplace_back(found->second);
-        ++waiting.next;
-    }
+    m_fetching.fetchProperties(node, [this, kept, act] { fetchValues(*kept, act); });
 }
 
 // --- What the program says by itself
 
 void LiveScene::rootsChanged()
 {
-    fetchChildrenAgain(*m_root);
+    m_fetching.fetchChildrenAgain(*m_root);
 }
 
 void LiveScene::childrenChanged(live::NodeId id)
@@ -587,7 +330,7 @@ void LiveScene::childrenChanged(live::NodeId id)
     m_link->node(id, [this, node](const std::optional<live::NodeInfo>& info) {
         if (info)
             node->m_info.childCount = info->childCount;
-        fetchChildrenAgain(*node);
+        m_fetching.fetchChildrenAgain(*node);
     });
 }
 
@@ -652,7 +395,7 @@ void LiveScene::end(const QString& reason)
     m_edits.stop();
     m_childEdits.stop();
     emit stateChanged();
-    goOnWaiting();
+    m_ways.goOn();
 }
 
 void LiveScene::detach()

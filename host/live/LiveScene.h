@@ -4,11 +4,11 @@
 #include "live/LiveAdditions.h"
 #include "live/LiveChildEdits.h"
 #include "live/LiveEdits.h"
+#include "live/LiveFetching.h"
 #include "live/LiveFolding.h"
 #include "live/LiveLink.h"
 #include "live/LiveNode.h"
-
-#include <xsg/actions/SoPath.h>
+#include "live/LiveWays.h"
 
 #include <QImage>
 #include <QObject>
@@ -40,10 +40,15 @@ public:
     ~LiveScene() override;
 
     SoNode* getRoot() const { return m_root.get(); }
+    LiveNode& getRootNode() const { return *m_root; }
+    /// Null where it is not here.
+    LiveNode* findNode(live::NodeId id) const;
     LiveLink& getLink() { return *m_link; }
     LiveEdits& getEdits() { return m_edits; }
     LiveChildEdits& getChildEdits() { return m_childEdits; }
     LiveAdditions& getAdditions() { return m_additions; }
+    LiveFetching& getFetching() { return m_fetching; }
+    LiveWays& getWays() { return m_ways; }
     State getState() const { return m_state; }
     /// Why it has ended, in a sentence.
     const QString& getEnd() const { return m_end; }
@@ -54,10 +59,6 @@ public:
 
     /// What is selected is followed, marked in the program, and its values are shown.
     void follow(const QList<SoFieldContainer*>& selected);
-    /// Makes the nodes along this path, and hands over the way to them: as far as there is one.
-    void findPath(const std::vector<live::NodeId>& path, std::function<void(const SoPath&)> done);
-    /// The children of the node are here, or will not come.
-    void whenUnfolded(LiveNode& node, const std::function<void()>& act);
     /// Its fields are here, with the program's values.
     void whenShown(LiveNode& node, const std::function<void()>& act);
     /// Nobody shows its children any more.
@@ -73,7 +74,6 @@ public:
     void setSilent(bool isSilent);
 
     // --- For the nodes
-    void fetchChildren(LiveNode& node);
     void fieldWritten(LiveNode& node, SoField& field);
     void childrenWritten(LiveNode& node);
     QString refusalOf(const LiveNode& node) const;
@@ -83,7 +83,6 @@ public:
     // --- For the edits
     /// Shows a value of the program, which is no edit.
     void show(LiveProperty& property, const live::Value& value);
-    void fetchChildrenAgain(LiveNode& node);
     /// What `act` does to the nodes comes from the program.
     void apply(const std::function<void()>& act);
     /// The same for a step of the history that the program has made or refused already.
@@ -91,7 +90,9 @@ public:
     SoRef<LiveNode> nodeFor(const live::NodeInfo& info);
     /// The program keeps the node, which we have removed, until that is destroyed here.
     void noteKept(live::NodeId id);
-    /// Its children are not shown any more.
+    /// Its children are shown.
+    void watchChildren(LiveNode& node);
+    /// They are not shown any more.
     void watchLess(LiveNode& node);
 
 signals:
@@ -109,37 +110,15 @@ signals:
 
 private:
     using NodeRef = SoRef<LiveNode>;
-    struct Waiting {
-        std::vector<live::NodeId> ids;
-        std::size_t next = 0;
-        std::vector<NodeRef> found; // without the root
-        std::function<void(const SoPath&)> done;
-    };
 
     void watch(LiveNode& node, bool values);
     void unwatch(LiveNode& node);
     bool isShown(const LiveNode& node) const;
-    void fetchPiece(const NodeRef& node, std::uint32_t first, bool isAgain);
-    void pieceCame(const NodeRef& node, std::uint32_t first, bool isAgain, std::uint32_t asked,
-                   const std::vector<live::NodeInfo>& piece);
-    void fetchEditedAgain(LiveNode& node);
-    void rootsCame(const std::vector<live::NodeInfo>& roots);
-    void fetched(LiveNode& node);
-    void setChildren(LiveNode& node);
-    void insert(LiveNode& parent, SoNode& child, int index);
-
-    void fetchProperties(LiveNode& node, const std::function<void()>& then);
-    void propertiesCame(const NodeRef& node, const std::vector<live::PropertyInfo>& properties);
-    void fetchObjects(const NodeRef& node);
-    void objectsCame(const NodeRef& node, const std::vector<live::NodeId>& ids);
-    void propertiesFetched(LiveNode& node);
 
     void show(LiveNode& node);
     void fetchValues(LiveNode& node, const std::function<void()>& then);
     void valueCame(LiveNode& node, LiveProperty& property, const std::optional<live::Value>& value);
     void keepShown(LiveNode& node);
-    void goOnWaiting();
-    bool goOn(Waiting& waiting);
 
     void rootsChanged() override;
     void childrenChanged(live::NodeId node) override;
@@ -159,6 +138,8 @@ private:
     LiveEdits m_edits;
     LiveChildEdits m_childEdits;
     LiveAdditions m_additions;
+    LiveFetching m_fetching{*this};
+    LiveWays m_ways{*this};
     LiveFolding m_folding{*this};
     QTimer m_foldsSoon;
     std::vector<live::NodeId> m_folded; // to be let go from the event loop
@@ -166,7 +147,6 @@ private:
     QString m_end;
     bool m_isApplying = false;
     std::list<LiveNode*> m_shown; // their values are watched; the latest first
-    std::list<Waiting> m_waiting;
     std::vector<std::function<void()>> m_forFront;
     bool m_isInFront = true;
     live::NodeId m_marked = 0;

@@ -275,7 +275,7 @@ void LiveActs::show(std::unique_ptr<LiveLink> link, bool isLaunched)
     if (!to.counters().empty())
         to.showCounters(true);
     m_pulse.start(PulseMs);
-    scene.whenUnfolded(static_cast<LiveNode&>(*scene.getRoot()), [this, live = &scene] {
+    scene.getWays().whenUnfolded(scene.getRootNode(), [this, live = &scene] {
         if (Attached* still = findAttached(live))
             unfolded(*still);
     });
@@ -401,7 +401,7 @@ void LiveActs::pick(const QPointF& place)
             return;
         if (!result.hit)
             return m_parts.services.clearSelection();
-        scene->findPath(result.path, [this, scene](const SoPath& path) {
+        scene->getWays().find(result.path, [this, scene](const SoPath& path) {
             if (getScene() != scene)
                 return;
             m_parts.tree.getModel().followNow();
@@ -450,13 +450,13 @@ bool LiveActs::findIn(LiveScene& in, const QString& query, const Found& found)
         if (paths.empty())
             found({});
         for (const auto& path : paths) {
-            scene->findPath(path,
-                            [nodes, left, found, length = static_cast<int>(path.size())](const SoPath& way) {
-                                if (way.getLength() == length + 1)
-                                    nodes->push_back(way.getTail());
-                                if (--*left == 0)
-                                    found(*nodes);
-                            });
+            scene->getWays().find(
+                path, [nodes, left, found, length = static_cast<int>(path.size())](const SoPath& way) {
+                    if (way.getLength() == length + 1)
+                        nodes->push_back(way.getTail());
+                    if (--*left == 0)
+                        found(*nodes);
+                });
         }
     });
     return true;

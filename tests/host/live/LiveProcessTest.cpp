@@ -71,7 +71,7 @@ protected:
             const SoRef<LiveNode> node = pending.back();
             pending.pop_back();
             bool isHere = false;
-            scene.whenUnfolded(*node, [&] { isHere = true; });
+            scene.getWays().whenUnfolded(*node, [&] { isHere = true; });
             EXPECT_TRUE(waitFor([&] { return isHere; }));
             found = dynamic_cast<SoSFFloat*>(node->getField(name));
             if (found) {
@@ -94,7 +94,7 @@ protected:
         for (LiveNode* node = &rootOf(scene); node;) {
             path.append(node);
             bool isHere = false;
-            scene.whenUnfolded(*node, [&] { isHere = true; });
+            scene.getWays().whenUnfolded(*node, [&] { isHere = true; });
             EXPECT_TRUE(waitFor([&] { return isHere; }));
             if (node->getNumChildren() - node->countObjects() > 1)
                 return path;

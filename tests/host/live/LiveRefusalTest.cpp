@@ -170,3 +170,17 @@ TEST_F(LiveRefusal, EndsWithTheProgram)
     settle();
     EXPECT_TRUE(told.filter("refused").isEmpty()) << told.join("\n").toStdString();
 }
+
+TEST_F(LiveRefusal, NeverHeardOfKeepsNoNode)
+{
+    {
+        HostServices others;
+        MainWindow another(others, notifier);
+        another.openLive({{}, program.socket(), {}});
+        ASSERT_TRUE(wait([] { return SoFieldContainer::getByName("sky") != nullptr; }));
+        program.frames.stop();
+        others.selectNodes({SoFieldContainer::getByName("sky")});
+        settle();
+    }
+    EXPECT_EQ(SoFieldContainer::getByName("sky"), nullptr);
+}
