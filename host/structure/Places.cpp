@@ -88,10 +88,24 @@ SoPath extended(SoPath path, SoNode* node)
     return path;
 }
 
+std::vector<SoNode*> tailsOf(const Paths& paths)
+{
+    std::vector<SoNode*> nodes;
+    for (const SoPath& path : paths)
+        nodes.push_back(path.getTail());
+    return nodes;
+}
+
 bool isInScene(const SoPath& path, const SoNode* root)
 {
+    return areInScene({path}, root);
+}
+
+bool areInScene(const Paths& paths, const SoNode* root)
+{
     ChildFinder finder;
-    return !placesAlong(path, root, finder).empty();
+    return std::all_of(paths.begin(), paths.end(),
+                       [&](const SoPath& path) { return !placesAlong(path, root, finder).empty(); });
 }
 
 Paths topmost(const Paths& paths, const SoNode* root)

@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <functional>
+#include <vector>
 
 namespace scopix
 {
@@ -18,8 +19,11 @@ SoGroup* parentAt(const SoPath& path);
 /// The path without its last node.
 SoPath parentPath(const SoPath& path);
 SoPath extended(SoPath path, SoNode* node);
+/// The last node of each.
+std::vector<SoNode*> tailsOf(const Paths& paths);
 /// Whether each node is a child of the one before.
 bool isInScene(const SoPath& path, const SoNode* root);
+bool areInScene(const Paths& paths, const SoNode* root);
 /// Those that still lead from the root downwards, without duplicates and without what stands below another
 /// one of them, in the order of the scene.
 Paths topmost(const Paths& paths, const SoNode* root);

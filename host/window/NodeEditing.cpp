@@ -41,84 +41,12 @@ QString folderType()
     return QStringLiteral("application/x-scopix-folder");
 }
 
-std::vector<SoNode*> tailsOf(const Paths& paths)
-{
-    std::vector<SoNode*> nodes;
-    for (const SoPath& path : paths)
-        nodes.push_back(path.getTail());
-    return nodes;
-}
-
-bool isMirrored(const SoPath& path)
-{
-    return MirroredNode::of(path.getTail()) != nullptr;
-}
-
-bool isMirrored(const Paths& paths)
-{
-    return !paths.isEmpty() && isMirrored(paths.front());
-}
-
-// In the place of the node at the path.
-MirroredAddition inPlaceOf(const SoPath& path, SoType type, SoNode* copied = nullptr)
-{
-    return {parentPath(path), parentAt(path)->findChild(path.getTail()), type, SoRef<SoNode>(copied)};
-}
-
-// The one that is called so, or else so behind its namespace.
-SoType typeCalled(const QString& name, const std::vector<SoType>& types)
-{
-    const auto find = [&types](const auto& isIt) {
-        const auto found = std::find_if(types.begin(), types.end(), isIt);
-        return found == types.end() ? SoType() : *found;
-    };
-    const SoType exact = find([&name](SoType type) { return typeText(type) == name; });
-    return exact.isBad() ? find([&name](SoType type) { return typeText(type).endsWith("::" + name); })
-                         : exact;
-}
-
-// Ours governs what follows it, and has no children.
-bool governs(const QString& typeName)
-{
-    const SoType ours = SoType::fromName(toName(typeName));
-    return !ours.isBad() && !ours.isDerivedFrom(SoGroup::getClassTypeId());
-}
-
-// Into the group at the path, or behind the node there; into the only thing that a program has at its top.
-MirroredAddition placeInProgram(const SoPath& path)
-{
-    const SoGroup* group = path.getTail()->asGroup();
-    if (path.getLength() == 1 && group->getNumChildren() > 0)
-        return placeInProgram(extended(path, group->getChild(0)));
-    if (MirroredNode::of(path.getTail())->canHaveChildren() || path.getLength() == 1)
-        return {path};
-    return {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1};
-}
-
-// Each is told where it stands once those before it are there.
-std::vector<MirroredAddition> oneBehindTheOther(std::vector<MirroredAddition> additions)
-{
-    for (auto at = additions.begin(); at != additions.end(); ++at) {
-        const auto isBefore = [at](const MirroredAddition& each) {
-            return each.parent.getTail() == at->parent.getTail();
-        };
-        if (at->index >= 0)
-            at->index += static_cast<int>(std::count_if(additions.begin(), at, isBefore));
-    }
-    return additions;
-}
-
 structure::Act refusedDrop()
 {
     structure::Act act;
     act.refusal =
         NodeEditing::tr("Nothing was dropped, since its place has gone meanwhile; drop it elsewhere.");
     return act;
-}
-
-std::vector<SoRef<SoNode>> kept(const std::vector<SoNode*>& nodes)
-{
-    return {nodes.begin(), nodes.end()};
 }
 
 } // namespace
@@ -131,6 +59,7 @@ NodeEditing::NodeEditing(HostServices& services, SceneFiles& files, SceneTreeVie
     , m_tree(tree)
     , m_states(states)
     , m_notifier(notifier)
+    , m_program(files, states, notifier)
 {
     connect(&m_files.getScenes(), &OpenScenes::rootChanged, this, [this] { m_copied.clear(); });
     m_services.history().setLock(
@@ -190,9 +119,7 @@ void NodeEditing::performCopying(const std::function<structure::Act()>& think)
 
 bool NodeEditing::areThere(const Paths& paths) const
 {
-    const SoNode* root = m_files.getDocument().getRoot();
-    return std::all_of(paths.begin(), paths.end(),
-                       [root](const SoPath& path) { return isInScene(path, root); });
+    return areInScene(paths, m_files.getDocument().getRoot());
 }
 
 void NodeEditing::showAfter(const Paths& selection)
@@ -231,29 +158,29 @@ void NodeEditing::remove()
 void NodeEditing::duplicate()
 {
     const Paths paths = selected();
-    if (!paths.isEmpty() && isMirrored(paths.front()))
-        return duplicateInProgram(topmost(paths, paths.front().getHead()));
+    if (ProgramEditing::isFor(paths))
+        return m_program.duplicate(topmost(paths, paths.front().getHead()));
     performCopying([this] { return structure::duplicate(selected(), LongWork::goOn); });
 }
 
 void NodeEditing::group()
 {
-    if (isMirrored(selected()))
-        return groupInProgram(structure::actedOn(selected()));
+    if (ProgramEditing::isFor(selected()))
+        return m_program.group(structure::actedOn(selected()));
     perform(structure::group(selected(), makerOf(SoGroup::getClassTypeId())));
 }
 
 void NodeEditing::ungroup()
 {
-    if (isMirrored(selected()))
-        return ungroupInProgram(structure::actedOn(selected()));
+    if (ProgramEditing::isFor(selected()))
+        return m_program.ungroup(structure::actedOn(selected()));
     perform(structure::ungroup(selected()));
 }
 
 void NodeEditing::makeUnique()
 {
-    if (isMirrored(selected()))
-        return makeUniqueInProgram(structure::actedOn(selected()));
+    if (ProgramEditing::isFor(selected()))
+        return m_program.makeUnique(structure::actedOn(selected()));
     performCopying([this] { return structure::makeUnique(selected(), LongWork::goOn); });
 }
 
@@ -284,20 +211,16 @@ structure::MakeNode NodeEditing::makerOf(SoType type) const
 void NodeEditing::askTypesToAdd(const std::function<void(const std::vector<SoType>&)>& answer)
 {
     const SoPath place = placeForNew();
-    if (place.isEmpty() || !isMirrored(place))
-        return answer(TypeChooser::typesToAdd());
-    askTypes(placeInProgram(place).parent, answer);
+    if (ProgramEditing::isFor(place))
+        return m_program.askTypesToAdd(place, answer);
+    answer(TypeChooser::typesToAdd());
 }
 
 void NodeEditing::add(SoType type)
 {
     const SoPath place = placeForNew();
-    if (!place.isEmpty() && isMirrored(place)) {
-        MirroredAddition addition = placeInProgram(place);
-        addition.type = type;
-        addInProgram({addition}, tr("Add %1").arg(typeText(type)));
-        return;
-    }
+    if (ProgramEditing::isFor(place))
+        return m_program.add(place, type);
     insert({makerOf(type)()}, tr("Add %1").arg(toQString(type.getName())));
 }
 
@@ -309,169 +232,22 @@ void NodeEditing::insert(const std::vector<SoRef<SoNode>>& nodes, const QString&
 void NodeEditing::askTypesToPutAbove(const std::function<void(const std::vector<SoType>&)>& answer)
 {
     const Paths paths = structure::actedOn(selected());
-    if (!isMirrored(paths))
-        return answer(TypeChooser::typesToAdd());
-    if (canBeDone(paths, structure::insertAbove(paths, structure::makeOfType(SoGroup::getClassTypeId()))))
-        askTypes(parentPath(paths.front()), answer);
+    if (ProgramEditing::isFor(paths))
+        return m_program.askTypesToPutAbove(paths, answer);
+    answer(TypeChooser::typesToAdd());
 }
 
 void NodeEditing::insertAbove(SoType type)
 {
     const Paths paths = structure::actedOn(selected());
-    if (isMirrored(paths)) {
-        if (!canBeDone(paths,
-                       structure::insertAbove(paths, structure::makeOfType(SoGroup::getClassTypeId()))))
-            return;
-        const QString name = typeText(type);
-        return askTypes(parentPath(paths.front()), [this, paths, name](const std::vector<SoType>& types) {
-            const SoType found = typeCalled(name, types);
-            const SoType separator = typeCalled(QStringLiteral("Separator"), types);
-            if (found.isBad())
-                return tell(tr("The program makes no nodes of the type “%1”; choose Put Above ▸ Another… to "
-                               "see which it makes.")
-                                .arg(name));
-            insertAboveInProgram(paths, found, governs(name) && !separator.isBad(), separator);
-        });
-    }
+    if (ProgramEditing::isFor(paths))
+        return m_program.insertAbove(paths, type);
     perform(structure::insertAbove(selected(), makerOf(type)));
 }
 
 void NodeEditing::rename(const SoPath& path, const QString& name)
 {
     perform(structure::rename(path, name));
-}
-
-// --- In a running program, which makes what is new itself
-
-void NodeEditing::askTypes(const SoPath& parent, const AnswerTypes& answer)
-{
-    MirroredNode* mirrored = MirroredNode::of(parent.getTail());
-    const QString refusal = mirrored->structureRefusal();
-    if (refusal.isEmpty())
-        mirrored->askTypesToAdd(answer);
-    tell(refusal);
-}
-
-// While the program makes what is new, the scene goes on.
-structure::Act NodeEditing::whileThere(const Paths& paths, const std::function<structure::Act()>& think) const
-{
-    if (areThere(paths))
-        return think();
-    structure::Act act;
-    act.refusal = tr("Nothing was done, since the selected nodes have changed meanwhile; try it again.");
-    return act;
-}
-
-// Nothing is made for what would be refused; that is told.
-bool NodeEditing::canBeDone(const Paths& paths, const structure::Act& tried)
-{
-    const auto isTop = [](const SoPath& path) { return path.getLength() < 3; };
-    const auto top = std::find_if(paths.begin(), paths.end(), isTop);
-    const QString refusal = top != paths.end()
-                                ? tr("“%1” is what the program has at its top, and has to stay where it is.")
-                                      .arg(nodeText(*top->getTail()))
-                            : tried.command ? m_states.refusalOf(*tried.command)
-                                            : tried.refusal;
-    tell(refusal);
-    return refusal.isEmpty();
-}
-
-void NodeEditing::groupInProgram(const Paths& paths)
-{
-    const auto think = [this, paths](const structure::MakeNode& make) {
-        return whileThere(paths, [&] { return structure::group(paths, make); });
-    };
-    if (!canBeDone(paths, think(structure::makeOfType(SoGroup::getClassTypeId()))))
-        return;
-    askTypes(parentPath(paths.front()), [this, paths, think](const std::vector<SoType>& types) {
-        const SoType type = typeCalled(QStringLiteral("Group"), types);
-        if (type.isBad())
-            return tell(tr("The program makes no nodes of a type called “Group”; choose Put Above ▸ Another… "
-                           "to see which it makes."));
-        MirroredNode::of(parentAt(paths.front()))
-            ->actInProgram({{inPlaceOf(paths.front(), type)}, {}, think});
-    });
-}
-
-void NodeEditing::insertAboveInProgram(const Paths& paths, SoType type, bool needsSeparator, SoType separator)
-{
-    MirroredAct act;
-    for (const SoPath& path : paths) {
-        act.additions.push_back(inPlaceOf(path, type));
-        if (needsSeparator)
-            act.additions.push_back(inPlaceOf(path, separator));
-    }
-    act.additions = oneBehindTheOther(act.additions);
-    act.think = [this, paths, needsSeparator](const structure::MakeNode& make) {
-        const auto makeSeparator = [&] { return needsSeparator ? make() : SoRef<SoNode>(); };
-        return whileThere(paths, [&] { return structure::insertAbove(paths, make, makeSeparator); });
-    };
-    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
-}
-
-void NodeEditing::makeUniqueInProgram(const Paths& paths)
-{
-    MirroredAct act;
-    act.think = [this, paths](const structure::MakeNode& make) {
-        const auto copy = [&make](const SoPath&) { return make(); };
-        return whileThere(paths, [&] { return structure::makeUnique(paths, copy); });
-    };
-    if (!canBeDone(paths, act.think(structure::makeOfType(SoGroup::getClassTypeId()))))
-        return;
-    for (const SoPath& path : paths)
-        act.additions.push_back(inPlaceOf(path, {}, path.getTail()));
-    act.additions = oneBehindTheOther(act.additions);
-    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
-}
-
-// Groups that have not been unfolded yet hold something too.
-void NodeEditing::ungroupInProgram(const Paths& paths)
-{
-    MirroredAct act;
-    act.think = [this, paths](const structure::MakeNode&) {
-        return whileThere(paths, [&] { return structure::ungroup(paths); });
-    };
-    if (!canBeDone(paths, act.think({})))
-        return;
-    act.unfolded = kept(tailsOf(paths));
-    MirroredNode::of(parentAt(paths.front()))->actInProgram(act);
-}
-
-bool NodeEditing::addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName)
-{
-    MirroredNode* parent = MirroredNode::of(additions.front().parent.getTail());
-    const QString refusal = parent->structureRefusal();
-    if (refusal.isEmpty())
-        parent->actInProgram({oneBehindTheOther(additions), stepName});
-    tell(refusal);
-    return refusal.isEmpty();
-}
-
-void NodeEditing::duplicateInProgram(const Paths& paths)
-{
-    std::vector<MirroredAddition> additions;
-    for (const SoPath& path : paths) {
-        if (path.getLength() < 3)
-            return tell(tr("“%1” is what the program has at its top, and cannot be duplicated.")
-                            .arg(nodeText(*path.getTail())));
-        additions.push_back(
-            {parentPath(path), parentAt(path)->findChild(path.getTail()) + 1, {}, path.getTail()});
-    }
-    addInProgram(additions, structure::nameOf(structure::Deed::Duplicate, paths));
-}
-
-void NodeEditing::pasteInProgram()
-{
-    const SoPath place = placeForNew();
-    if (!holdsOwnCopy(QGuiApplication::clipboard()->mimeData()) || !isMirrored(m_copied.front()))
-        return tell(
-            tr("Only nodes that were copied from this program, in this window, can be pasted into it."));
-    std::vector<MirroredAddition> additions;
-    for (const SoPath& path : m_copied) {
-        additions.push_back(placeInProgram(place));
-        additions.back().copied = path.getTail();
-    }
-    addInProgram(additions, structure::nameOf(structure::Deed::Paste, m_copied));
 }
 
 // --- Clipboard
@@ -541,11 +317,18 @@ bool NodeEditing::holdsOwnCopy(const QMimeData* data) const
     return !m_copied.isEmpty() && data && data->data(keyType()) == m_copiedKey;
 }
 
+void NodeEditing::pasteInProgram(const SoPath& place)
+{
+    if (holdsOwnCopy(QGuiApplication::clipboard()->mimeData()) && ProgramEditing::isFor(m_copied))
+        return m_program.paste(place, m_copied);
+    tell(tr("Only nodes that were copied from this program, in this window, can be pasted into it."));
+}
+
 void NodeEditing::paste()
 {
     const SoPath place = placeForNew();
-    if (!place.isEmpty() && isMirrored(place))
-        return pasteInProgram();
+    if (ProgramEditing::isFor(place))
+        return pasteInProgram(place);
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     const auto nodes = data ? readText(*data) : std::vector<SoRef<SoNode>>();
     if (nodes.size() == 1)
@@ -560,7 +343,8 @@ void NodeEditing::pasteShared()
     if (!holdsOwnCopy(data))
         return tell(
             tr("Only nodes that were copied in this window, in this scene, can be pasted as shared ones."));
-    insert(kept(tailsOf(m_copied)), structure::nameOf(structure::Deed::Share, m_copied));
+    const std::vector<SoNode*> nodes = tailsOf(m_copied);
+    insert({nodes.begin(), nodes.end()}, structure::nameOf(structure::Deed::Share, m_copied));
 }
 
 void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action)
@@ -571,13 +355,8 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
         const Transfer how = action == Qt::CopyAction   ? Transfer::Copy
                              : action == Qt::LinkAction ? Transfer::Share
                                                         : Transfer::Move;
-        if (how == Transfer::Copy && isMirrored(group)) {
-            std::vector<MirroredAddition> additions;
-            for (const SoPath& path : branches->getPaths())
-                additions.push_back({group, index, {}, path.getTail()});
-            addInProgram(additions, structure::nameOf(structure::Deed::Copy, branches->getPaths()));
-            return;
-        }
+        if (how == Transfer::Copy && ProgramEditing::isFor(group))
+            return m_program.drop(group, index, branches->getPaths());
         const Paths paths = branches->getPaths();
         performCopying([&] { return transfer(paths, group, index, how); });
         return;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "structure/MirroredNode.h"
 #include "structure/StructureActs.h"
+#include "window/ProgramEditing.h"
 
 #include <QObject>
 
@@ -85,17 +85,7 @@ private:
     structure::Act addDropped(const SoPath& group, const std::vector<SoRef<SoNode>>& nodes);
     bool areThere(const Paths& paths) const;
     structure::MakeNode makerOf(SoType type) const;
-    using AnswerTypes = MirroredNode::AnswerTypes;
-    void askTypes(const SoPath& parent, const AnswerTypes& answer);
-    void duplicateInProgram(const Paths& paths);
-    void groupInProgram(const Paths& paths);
-    void ungroupInProgram(const Paths& paths);
-    void makeUniqueInProgram(const Paths& paths);
-    void insertAboveInProgram(const Paths& paths, SoType type, bool needsSeparator, SoType separator);
-    structure::Act whileThere(const Paths& paths, const std::function<structure::Act()>& think) const;
-    bool canBeDone(const Paths& paths, const structure::Act& tried);
-    void pasteInProgram();
-    bool addInProgram(const std::vector<MirroredAddition>& additions, const QString& stepName);
+    void pasteInProgram(const SoPath& place);
     bool holdsOwnCopy(const QMimeData* data) const;
     bool putOnClipboard();
     std::vector<SoRef<SoNode>> readText(const QMimeData& data);
@@ -105,6 +95,7 @@ private:
     SceneTreeView& m_tree;
     SceneStates& m_states;
     UserNotifier& m_notifier;
+    ProgramEditing m_program;
     Paths m_copied; // what the clipboard holds as text, while it does
     QByteArray m_copiedKey;
 };
