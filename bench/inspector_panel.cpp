@@ -6,6 +6,7 @@
 //     nothing;
 //   - one step of a drag on a number: write, sensor, refresh and picture, and the step of undo at the end of
 //     the drag, against a bare slider with an undo step and a line of text.
+#include "FloatStep.h"
 #include "Ratios.h"
 
 #include "panel/PanelEditor.h"
@@ -215,23 +216,6 @@ void dragStep(benchmark::State& state)
 
 void bareDragStep(benchmark::State& state)
 {
-    class Step : public QUndoCommand
-    {
-    public:
-        Step(float& value, float next)
-            : m_value(value)
-            , m_before(value)
-            , m_next(next)
-        {
-        }
-        void redo() override { m_value = m_next; }
-        void undo() override { m_value = m_before; }
-
-    private:
-        float& m_value;
-        float m_before;
-        float m_next;
-    };
     float value = 0;
     QUndoStack stack;
     QWidget frame;
@@ -245,7 +229,7 @@ void bareDragStep(benchmark::State& state)
     frame.show();
     TestHost::pump();
     QObject::connect(slider, &QSlider::valueChanged, [&](int position) {
-        stack.push(new Step(value, static_cast<float>(position) / 10));
+        stack.push(new bench::FloatStep(value, static_cast<float>(position) / 10));
         line->setText(QString::number(static_cast<double>(value)));
     });
     QPoint at(8, slider->height() / 2);

@@ -6,6 +6,7 @@
 //     showing the same texts;
 //   - one live step of a slider: write, command, undo stack, sensor and refresh, against a bare slider, line
 //     edit and undo stack.
+#include "FloatStep.h"
 #include "Ratios.h"
 
 #include "EdSFBitMaskWidget.h"
@@ -342,30 +343,13 @@ void liveStep(benchmark::State& state)
 
 void bareLiveStep(benchmark::State& state)
 {
-    class Step : public QUndoCommand
-    {
-    public:
-        Step(float& value, float next)
-            : m_value(value)
-            , m_before(value)
-            , m_next(next)
-        {
-        }
-        void redo() override { m_value = m_next; }
-        void undo() override { m_value = m_before; }
-
-    private:
-        float& m_value;
-        float m_before;
-        float m_next;
-    };
     float value = 0;
     QUndoStack stack;
     BareInputs bare;
     bare.frame->resize(420, 40);
     bare.frame->show();
     QObject::connect(bare.slider, &QSlider::valueChanged, [&](int position) {
-        stack.push(new Step(value, float(position) / 10));
+        stack.push(new bench::FloatStep(value, float(position) / 10));
         bare.line->setText(QString::number(double(value), 'f', 6));
     });
     int position = 0;

@@ -3,6 +3,7 @@
 
 #include "reader/AssimpMaterial.h"
 #include "reader/AssimpMotion.h"
+#include "reader/AssimpValues.h"
 #include "reader/ModelPictures.h"
 #include "reader/PhysicalMaterial.h"
 
@@ -20,22 +21,6 @@ namespace
 
 constexpr float WidestCone = 1.57F; // half of it, in radians
 constexpr float SharpestDropOff = 128;
-
-SbVec3f toVec(const aiVector3D& v)
-{
-    return {v.x, v.y, v.z};
-}
-
-SbMatrix toMatrix(const aiMatrix4x4& m)
-{
-    // Column vectors there, row vectors here.
-    SbMatrix result;
-    for (unsigned row = 0; row < 4; ++row) {
-        for (unsigned column = 0; column < 4; ++column)
-            result[static_cast<int>(column)][row] = m[row][column];
-    }
-    return result;
-}
 
 template <class Out, class In, class Convert>
 std::vector<Out> converted(const In* values, unsigned count, Convert convert)

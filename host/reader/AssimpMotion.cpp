@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reader/AssimpMotion.h"
 
+#include "reader/AssimpValues.h"
+
 #include <assimp/scene.h>
 
 #include <algorithm>
@@ -18,22 +20,6 @@ constexpr double UsualTicksPerSecond = 25; // where a file does not say it
 constexpr std::size_t MostBonesPerPoint = 8;
 
 using Property = ModelMotion::Property;
-
-SbVec3f toVec(const aiVector3D& v)
-{
-    return {v.x, v.y, v.z};
-}
-
-// Column vectors there, row vectors here.
-SbMatrix toMatrix(const aiMatrix4x4& m)
-{
-    SbMatrix result;
-    for (unsigned row = 0; row < 4; ++row) {
-        for (unsigned column = 0; column < 4; ++column)
-            result[static_cast<int>(column)][row] = m[row][column];
-    }
-    return result;
-}
 
 class Places
 {

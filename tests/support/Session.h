@@ -3,6 +3,7 @@
 
 #include "app/HostSession.h"
 
+#include <support/Settling.h>
 #include <support/Waiting.h>
 
 #include <xsg/nodes/properties/SoMaterial.h>
@@ -135,15 +136,7 @@ public:
         settle();
     }
 
-    /// What is posted and queued has run, by the host's own means.
-    static void settle()
-    {
-        for (int round = 0; round < 3; ++round) {
-            QCoreApplication::processEvents();
-            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    static void settle() { settleHost(); }
 
 private:
     QTemporaryDir m_folder;

@@ -6,6 +6,7 @@
 #include "window/PaletteActs.h"
 #include "window/SettingsActs.h"
 
+#include <support/Settling.h>
 #include <support/Waiting.h>
 
 #include <xsg/sensors/SoSensorQueue.h>
@@ -53,14 +54,7 @@ protected:
         window->enterInteractiveMode();
         settle();
     }
-    static void settle()
-    {
-        for (int round = 0; round < 3; ++round) {
-            QCoreApplication::processEvents();
-            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    static void settle() { settleHost(); }
     scopix::HostSession& session() { return *m_session; }
 
 private:

@@ -8,6 +8,7 @@
 #include "window/SettingsActs.h"
 #include "window/Welcome.h"
 
+#include <support/Settling.h>
 #include <support/Waiting.h>
 
 #include <xsg/sensors/SoSensorQueue.h>
@@ -56,14 +57,7 @@ protected:
         return came && isOpened;
     }
     QAction* act(const char* name) { return window->findChild<QAction*>(QString::fromLatin1(name)); }
-    static void settle()
-    {
-        for (int round = 0; round < 3; ++round) {
-            QCoreApplication::processEvents();
-            EXPECT_TRUE(waitFor([] { return SoSensorQueue::getInstance().isEmpty(); }));
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    static void settle() { settleHost(); }
 
 private:
     QTemporaryDir m_folder;
