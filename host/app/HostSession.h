@@ -9,6 +9,7 @@
 #include "services/HostServices.h"
 #include "services/ProgramOutput.h"
 #include "shell/HostShell.h"
+#include "support/UnhandledErrors.h"
 #include "support/UserNotifier.h"
 #include "undo/UndoShortcutFilter.h"
 #include "window/HostWindow.h"
@@ -71,7 +72,8 @@ private:
 
     SensorPump m_pump;
     UserNotifier m_notifier;
-    ProgramOutput m_output; // the first that hears, and the last
+    UnhandledErrors m_unhandledErrors; // before anybody else takes over the handlers
+    ProgramOutput m_output;            // the first that hears, and the last
     HostServices m_services;
     std::unique_ptr<HostWindow> m_window;
     WindowNavigator m_navigator;

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/UnhandledErrors.h"
+
 #include <xsg/errors/SoErrorHandler.h>
 
 #include <array>
-#include <mutex>
-
-#include <QString>
 
 namespace scopix
 {
@@ -22,22 +21,16 @@ public:
     PostedErrors& operator=(const PostedErrors&) = delete;
     ~PostedErrors();
 
-    /// What was printed last.
-    QString lastText() const;
-
 private:
     struct Handler {
-        PostedErrors* owner = nullptr;
         SoErrorCB* callback = nullptr;
         void* data = nullptr;
     };
 
     static void handle(const SoError* error, void* handler);
-    void print(const QString& text);
 
     std::array<Handler, 6> m_handlers;
-    mutable std::mutex m_mutex; // errors are posted on any thread
-    QString m_lastText;
+    UnhandledErrors::Held m_unhandled; // are among those that are printed here
 };
 
 } // namespace scopix

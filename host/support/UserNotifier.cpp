@@ -106,9 +106,9 @@ void UserNotifier::note(const QString& about, const QString& sentence)
 }
 
 // The scene graph may just have posted the same.
-void UserNotifier::print(const QString& sentence) const
+void UserNotifier::print(const QString& sentence)
 {
-    if (!m_postedErrors || m_postedErrors->lastText() != sentence)
+    if (!takeLastPosted(sentence))
         printOnStandardError(sentence);
 }
 

@@ -51,7 +51,7 @@ signals:
 
 private:
     void showInBox(const QString& sentence);
-    void print(const QString& sentence) const;
+    static void print(const QString& sentence);
 
     QPointer<QWidget> m_window;
     QPointer<QMessageBox> m_box;
