@@ -268,6 +268,34 @@
         <translation>Die Lichtdurchlässigkeit von %1 Materialien wird als Transparenz gezeigt.</translation>
     </message>
     <message>
+        <source>The picture “%1” of %2 pixels is left out, as here no side can have more than %3.</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln entfällt, da hier keine Seite mehr als %3 haben kann.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as here no side can have more than %4.</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln wird auf %3 Pixel verkleinert, da hier keine Seite mehr als %4 haben kann.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is left out, as all pictures of a scene may take %3 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln entfällt, da alle Bilder einer Szene zusammen %3 MiB belegen dürfen (XSG_PICTURE_MEMORY in den Einstellungen).</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as all pictures of a scene may take %4 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln wird auf %3 Pixel verkleinert, da alle Bilder einer Szene zusammen %4 MiB belegen dürfen (XSG_PICTURE_MEMORY in den Einstellungen).</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected 1, 0, TRUE or FALSE. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde 1, 0, TRUE oder FALSE. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a whole number. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde eine ganze Zahl. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a number. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde eine Zahl. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
         <source>it is no binary glTF file, which starts with the four letters “glTF”</source>
         <translation>das ist keine binäre glTF-Datei, die mit den vier Buchstaben „glTF“ beginnt</translation>
     </message>

@@ -268,6 +268,34 @@
         <translation>[Ţĥé ţŕàñšmîššîöñ öf %1 màţéŕîàlš îš šĥöwñ àš ţŕàñšpàŕéñçý. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>The picture “%1” of %2 pixels is left out, as here no side can have more than %3.</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš léfţ öûţ, àš ĥéŕé ñö šîdé çàñ ĥàvé möŕé ţĥàñ %3. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as here no side can have more than %4.</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš bŕöûĝĥţ döwñ ţö %3 pîxélš, àš ĥéŕé ñö šîdé çàñ ĥàvé möŕé ţĥàñ %4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is left out, as all pictures of a scene may take %3 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš léfţ öûţ, àš àll pîçţûŕéš öf à šçéñé màý ţàķé %3 MîB ţöĝéţĥéŕ (XŠĜ_PÎÇŢÛŔÉ_MÉMÖŔÝ îñ ţĥé pŕéféŕéñçéš). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as all pictures of a scene may take %4 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš bŕöûĝĥţ döwñ ţö %3 pîxélš, àš àll pîçţûŕéš öf à šçéñé màý ţàķé %4 MîB ţöĝéţĥéŕ (XŠĜ_PÎÇŢÛŔÉ_MÉMÖŔÝ îñ ţĥé pŕéféŕéñçéš). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected 1, 0, TRUE or FALSE. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd 1, 0, ŢŔÛÉ öŕ FÀLŠÉ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a whole number. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd à wĥölé ñûmbéŕ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a number. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd à ñûmbéŕ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>it is no binary glTF file, which starts with the four letters “glTF”</source>
         <translation>[îţ îš ñö bîñàŕý ĝlŢF fîlé, wĥîçĥ šţàŕţš wîţĥ ţĥé föûŕ léţţéŕš “ĝlŢF” ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>

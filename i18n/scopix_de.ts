@@ -926,6 +926,22 @@
         <translation>Der Patch setzt einen anderen Knoten an die Stelle der Wurzel, was in einer geöffneten Szene nicht geht; „scopix apply“ tut es in der Datei.</translation>
     </message>
     <message>
+        <source>The settings file is too large; expected at most 1 MiB.</source>
+        <translation>Die Einstellungsdatei ist zu groß; erwartet wurde höchstens 1 MiB.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be read to its end.</source>
+        <translation>Die Einstellungsdatei lässt sich nicht bis zum Ende lesen.</translation>
+    </message>
+    <message>
+        <source>The line is no setting; expected NAME = value.</source>
+        <translation>Die Zeile ist keine Einstellung; erwartet wurde NAME = Wert.</translation>
+    </message>
+    <message>
+        <source>A settings file was expected, but this is no regular file.</source>
+        <translation>Erwartet wurde eine Einstellungsdatei, dies ist aber keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
         <source>“%1” takes 1 number and was given %2.</source>
         <translation>„%1“ nimmt 1 Zahl und hat %2 bekommen.</translation>
     </message>
@@ -1234,6 +1250,26 @@
         <translation>hier steht ein Byte 0, das es in Texten nicht gibt: Die Datei ist beschädigt oder kein Patch</translation>
     </message>
     <message>
+        <source>the values of the field "%1"</source>
+        <translation>die Werte des Feldes "%1"</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected 1, 0, TRUE or FALSE. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde 1, 0, TRUE oder FALSE. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a whole number. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde eine ganze Zahl. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a number. The default is used.</source>
+        <translation>Die Einstellung %1 ist "%2"; erwartet wurde eine Zahl. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The counter "%1" would be computed from itself; expected parents that do not depend on it.</source>
+        <translation>Der Zähler "%1" würde aus sich selbst berechnet; erwartet wurden Eltern, die nicht von ihm abhängen.</translation>
+    </message>
+    <message>
         <source>%1:%2: Column %3: %4</source>
         <translation>%1:%2: Spalte %3: %4</translation>
     </message>
@@ -1494,6 +1530,22 @@
         <translation>OpenGL 3.3 ließ sich nicht starten, um ohne Bildschirm zu zeichnen (EGL-Fehler %1).</translation>
     </message>
     <message>
+        <source>The picture “%1” of %2 pixels is left out, as here no side can have more than %3.</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln entfällt, da hier keine Seite mehr als %3 haben kann.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as here no side can have more than %4.</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln wird auf %3 Pixel verkleinert, da hier keine Seite mehr als %4 haben kann.</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is left out, as all pictures of a scene may take %3 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln entfällt, da alle Bilder einer Szene zusammen %3 MiB belegen dürfen (XSG_PICTURE_MEMORY in den Einstellungen).</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as all pictures of a scene may take %4 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>Das Bild „%1“ mit %2 Pixeln wird auf %3 Pixel verkleinert, da alle Bilder einer Szene zusammen %4 MiB belegen dürfen (XSG_PICTURE_MEMORY in den Einstellungen).</translation>
+    </message>
+    <message>
         <source>Drawing needs OpenGL 3.3, but this system offers only %1.%2.</source>
         <translation>Das Zeichnen braucht OpenGL 3.3, dieses System bietet aber nur %1.%2.</translation>
     </message>
@@ -1530,6 +1582,106 @@
         <translation>die Datei ist schreibgeschützt</translation>
     </message>
     <message>
+        <source>Permission denied</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Die Operation ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Verzeichnis nicht gefunden</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Die Datei existiert bereits</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Ist kein Verzeichnis</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Zu viele Ebenen aus symbolischen Links</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Das Dateisystem ist nur lesbar</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Auf dem Gerät ist kein Speicherplatz mehr verfügbar</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Der zugewiesene Plattenplatz ist überschritten</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Eingabe-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Das Gerät oder die Ressource ist belegt</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>Das Programm in der Datei wird gerade ausgeführt</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>Zu viele offene Dateien im System</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Es ist kein Speicher mehr verfügbar</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: this program offers its scene for reading only.</source>
+        <translation>„%1“ lässt sich nicht setzen: Dieses Programm bietet seine Szene nur zum Lesen an.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: this program lets nobody change its structure.</source>
+        <translation>„%1“ lässt sich nicht hinzufügen: Dieses Programm lässt niemanden seine Struktur ändern.</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed: this program lets nobody change its structure.</source>
+        <translation>Der Knoten lässt sich nicht entfernen: Dieses Programm lässt niemanden seine Struktur ändern.</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted: this program lets nobody change its structure.</source>
+        <translation>Der Knoten lässt sich nicht einfügen: Dieses Programm lässt niemanden seine Struktur ändern.</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied: this program does not offer that.</source>
+        <translation>Der Knoten lässt sich nicht kopieren: Dieses Programm bietet das nicht an.</translation>
+    </message>
+    <message>
+        <source>The edit cannot be made: the program is not attached.</source>
+        <translation>Die Änderung ist nicht möglich: Das Programm ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>The edit cannot be made: it is too long.</source>
+        <translation>Die Änderung ist nicht möglich: Sie ist zu lang.</translation>
+    </message>
+    <message>
         <source>The program “%1” sent a message that is too long or damaged; detached.</source>
         <translation>Das Programm „%1“ hat eine Nachricht geschickt, die zu lang oder beschädigt ist; getrennt.</translation>
     </message>
@@ -1542,6 +1694,10 @@
         <translation>Das Programm „%1“ hat eine Nachricht geschickt, die dieser Inspektor nicht versteht; getrennt.</translation>
     </message>
     <message>
+        <source>The edit cannot be made: its value does not have the bytes of its kind.</source>
+        <translation>Die Änderung ist nicht möglich: Ihr Wert hat nicht die Bytes seiner Art.</translation>
+    </message>
+    <message>
         <source>Cannot attach to “%1”: the program does not answer.</source>
         <translation>Verbinden mit „%1“ ist nicht möglich: Das Programm antwortet nicht.</translation>
     </message>
@@ -1552,6 +1708,10 @@
     <message>
         <source>Cannot attach to “%1”: no program listens there any more.</source>
         <translation>Verbinden mit „%1“ ist nicht möglich: Dort lauscht kein Programm mehr.</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: you may not open its socket.</source>
+        <translation>Verbinden mit „%1“ ist nicht möglich: Du darfst seinen Socket nicht öffnen.</translation>
     </message>
     <message>
         <source>Cannot attach to “%1”: %2.</source>
@@ -1572,6 +1732,242 @@
     <message>
         <source>Cannot attach to “%1”: its greeting is damaged.</source>
         <translation>Verbinden mit „%1“ ist nicht möglich: Seine Begrüßung ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>This uniform has %1 elements, and no others can be set.</source>
+        <translation>Diese Uniform-Variable hat %1 Elemente, andere lassen sich nicht setzen.</translation>
+    </message>
+    <message>
+        <source>The text is damaged.</source>
+        <translation>Der Text ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the program would draw more than there is.</source>
+        <translation>„%1“ lässt sich so nicht setzen, da das Programm mehr zeichnen würde, als da ist.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the sequence would show children that it does not have.</source>
+        <translation>„%1“ lässt sich so nicht setzen, da die Sequenz Kinder zeigen würde, die sie nicht hat.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the sequence would never come to the end of a frame; each child needs some time, and a sequence that runs a speed above 0.</source>
+        <translation>„%1“ lässt sich so nicht setzen, da die Sequenz nie ans Ende eines Bildes käme; jedes Kind braucht etwas Zeit, und eine laufende Sequenz eine Geschwindigkeit über 0.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set, since its object has ended.</source>
+        <translation>„%1“ lässt sich nicht setzen, da es das Objekt mit dieser Eigenschaft nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>Objects of type “%1” have no “%2”.</source>
+        <translation>Objekte vom Typ „%1“ haben kein „%2“.</translation>
+    </message>
+    <message>
+        <source>The program was still drawing after two seconds; try again.</source>
+        <translation>Das Programm zeichnete nach zwei Sekunden immer noch; versuche es noch einmal.</translation>
+    </message>
+    <message>
+        <source>“%1” takes no value of this type.</source>
+        <translation>„%1“ nimmt keinen Wert dieses Typs an.</translation>
+    </message>
+    <message>
+        <source>“%1” has no choice with the number %2.</source>
+        <translation>„%1“ hat keine Auswahl mit der Nummer %2.</translation>
+    </message>
+    <message>
+        <source>“%1” can only be read, since OpenSceneGraph offers no safe way to set it.</source>
+        <translation>„%1“ lässt sich nur lesen, da OpenSceneGraph keinen sicheren Weg bietet, es zu setzen.</translation>
+    </message>
+    <message>
+        <source>A node can only be added to a group that still exists.</source>
+        <translation>Ein Knoten lässt sich nur zu einer Gruppe hinzufügen, die es noch gibt.</translation>
+    </message>
+    <message>
+        <source>No node of type “%1” can be added.</source>
+        <translation>Ein Knoten vom Typ „%1“ lässt sich nicht hinzufügen.</translation>
+    </message>
+    <message>
+        <source>There is no such child to remove.</source>
+        <translation>Ein solches Kind zum Entfernen gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The child cannot be removed, since the sequence shows as many children as it has; lower “End” first.</source>
+        <translation>Das Kind lässt sich nicht entfernen, da die Sequenz so viele Kinder zeigt, wie sie hat; verringere zuerst „End“.</translation>
+    </message>
+    <message>
+        <source>A node can only be inserted into a group, and both have to exist.</source>
+        <translation>Ein Knoten lässt sich nur in eine Gruppe einfügen, und beide muss es geben.</translation>
+    </message>
+    <message>
+        <source>A node can only be copied into a group, and both have to exist.</source>
+        <translation>Ein Knoten lässt sich nur in eine Gruppe kopieren, und beide muss es geben.</translation>
+    </message>
+    <message>
+        <source>The camera of a view cannot be copied.</source>
+        <translation>Die Kamera einer Ansicht lässt sich nicht kopieren.</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since more than %1 nodes are below it.</source>
+        <translation>Der Knoten lässt sich nicht kopieren, da mehr als %1 Knoten unter ihm sind.</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since the program does not say how objects of type “%1” are copied.</source>
+        <translation>Der Knoten lässt sich nicht kopieren, da das Programm nicht sagt, wie Objekte vom Typ „%1“ kopiert werden.</translation>
+    </message>
+    <message>
+        <source>A node cannot be put below itself.</source>
+        <translation>Ein Knoten lässt sich nicht unter sich selbst setzen.</translation>
+    </message>
+    <message>
+        <source>The group “%1” did not take the node.</source>
+        <translation>Die Gruppe „%1“ hat den Knoten nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The pixels of this picture take another one of %1 × %2 pixels only, with as many components.</source>
+        <translation>Die Pixel dieses Bildes nehmen nur ein anderes mit %1 × %2 Pixeln und ebenso vielen Komponenten an.</translation>
+    </message>
+    <message>
+        <source>This list has 1 element, one for each child, and no others can be set.</source>
+        <translation>Diese Liste hat 1 Element, eines für jedes Kind, andere lassen sich nicht setzen.</translation>
+    </message>
+    <message>
+        <source>This list has %1 elements, one for each child, and no others can be set.</source>
+        <translation>Diese Liste hat %1 Elemente, eines für jedes Kind, andere lassen sich nicht setzen.</translation>
+    </message>
+    <message>
+        <source>“%1” takes %2 numbers, each within its range.</source>
+        <translation>„%1“ nimmt %2 Zahlen an, jede in ihrem Bereich.</translation>
+    </message>
+    <message>
+        <source>OpenSceneGraph did not take the value of “%1”.</source>
+        <translation>OpenSceneGraph hat den Wert von „%1“ nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set, since that object has ended.</source>
+        <translation>„%1“ lässt sich nicht setzen, da es das gewählte Objekt nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>“%1” takes no object of type “%2”.</source>
+        <translation>„%1“ nimmt kein Objekt vom Typ „%2“ an.</translation>
+    </message>
+    <message>
+        <source>“%1” takes nothing but pictures.</source>
+        <translation>„%1“ nimmt nur Bilder an.</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: an exception of no known type.</source>
+        <translation>Der Adapter des Programms hat versagt: eine Ausnahme unbekannten Typs.</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: %1.</source>
+        <translation>Der Adapter des Programms hat versagt: %1.</translation>
+    </message>
+    <message>
+        <source>The program could not do it: an exception of no known type.</source>
+        <translation>Das Programm konnte es nicht ausführen: eine Ausnahme unbekannten Typs.</translation>
+    </message>
+    <message>
+        <source>The program could not do it: %1.</source>
+        <translation>Das Programm konnte es nicht ausführen: %1.</translation>
+    </message>
+    <message>
+        <source>The inspector asked something that this program does not understand; detached.</source>
+        <translation>Der Inspektor hat etwas gefragt, das dieses Programm nicht versteht; getrennt.</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: the answer is longer than %1 MiB.</source>
+        <translation>Der Adapter des Programms hat versagt: Die Antwort ist länger als %1 MiB.</translation>
+    </message>
+    <message>
+        <source>The program could not do it: the answer is too long.</source>
+        <translation>Das Programm konnte es nicht ausführen: Die Antwort ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed: the inspector keeps too many removed nodes already.</source>
+        <translation>Der Knoten lässt sich nicht entfernen: Der Inspektor hebt schon zu viele entfernte Knoten auf.</translation>
+    </message>
+    <message>
+        <source>The inspector watches too many nodes; detached.</source>
+        <translation>Der Inspektor beobachtet zu viele Knoten; getrennt.</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: the value of “%1” does not have the bytes of its kind.</source>
+        <translation>Der Adapter des Programms hat versagt: Der Wert von „%1“ hat nicht die Bytes seiner Art.</translation>
+    </message>
+    <message>
+        <source>The program “%1” belongs to another user; inspect it as that user.</source>
+        <translation>Das Programm „%1“ gehört einem anderen Benutzer; untersuche es als dieser.</translation>
+    </message>
+    <message>
+        <source>The program “%1” has as many inspectors as it can have; detach another one first.</source>
+        <translation>Das Programm „%1“ hat so viele Inspektoren, wie es haben kann; trenne zuerst einen anderen.</translation>
+    </message>
+    <message>
+        <source>The inspector sent a message that is too long or damaged; detached.</source>
+        <translation>Der Inspektor hat eine Nachricht geschickt, die zu lang oder beschädigt ist; getrennt.</translation>
+    </message>
+    <message>
+        <source>The inspector sent a message that this program does not understand; detached.</source>
+        <translation>Der Inspektor hat eine Nachricht geschickt, die dieses Programm nicht versteht; getrennt.</translation>
+    </message>
+    <message>
+        <source>The program “%1” was not greeted as an inspector greets it.</source>
+        <translation>Das Programm „%1“ wurde nicht so begrüßt, wie ein Inspektor es begrüßt.</translation>
+    </message>
+    <message>
+        <source>The program “%1” speaks version %2 of the protocol and this inspector version %3; use libraries and an inspector of the same version.</source>
+        <translation>Das Programm „%1“ spricht Version %2 des Protokolls und dieser Inspektor Version %3; verwende Bibliotheken und einen Inspektor derselben Version.</translation>
+    </message>
+    <message>
+        <source>The inspector did not greet the program in time.</source>
+        <translation>Der Inspektor hat das Programm nicht rechtzeitig begrüßt.</translation>
+    </message>
+    <message>
+        <source>The program “%1” has ended its connection.</source>
+        <translation>Das Programm „%1“ hat seine Verbindung beendet.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: it can only be read.</source>
+        <translation>„%1“ lässt sich nicht setzen: Es lässt sich nur lesen.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: the value is of another type.</source>
+        <translation>„%1“ lässt sich nicht setzen: Der Wert ist von einem anderen Typ.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: it cannot hold that value.</source>
+        <translation>„%1“ lässt sich nicht setzen: Es kann diesen Wert nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted there, since it would be its own descendant.</source>
+        <translation>Der Knoten lässt sich dort nicht einfügen, da er sein eigener Nachfahre würde.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: the node is no more or has no such field.</source>
+        <translation>„%1“ lässt sich nicht setzen: Den Knoten gibt es nicht mehr, oder er hat kein solches Feld.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added, since the group is no more.</source>
+        <translation>„%1“ lässt sich nicht hinzufügen, da es die Gruppe nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added, since the program knows no node of this type.</source>
+        <translation>„%1“ lässt sich nicht hinzufügen, da das Programm keinen Knoten dieses Typs kennt.</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed, since it is not there any more.</source>
+        <translation>Der Knoten lässt sich nicht entfernen, da er nicht mehr da ist.</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted, since it or its group is no more.</source>
+        <translation>Der Knoten lässt sich nicht einfügen, da es ihn oder seine Gruppe nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since it or its group is no more.</source>
+        <translation>Der Knoten lässt sich nicht kopieren, da es ihn oder seine Gruppe nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since something in it is of a kind that cannot be.</source>
+        <translation>Der Knoten lässt sich nicht kopieren, da etwas darin von einer Art ist, die sich nicht kopieren lässt.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>

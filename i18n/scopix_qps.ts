@@ -926,6 +926,22 @@
         <translation>[Ţĥé pàţçĥ pûţš àñöţĥéŕ ñödé îñ ţĥé plàçé öf ţĥé ŕööţ, wĥîçĥ çàññöţ bé döñé îñ àñ öpéñ šçéñé; “šçöpîx àpplý” döéš îţ îñ ţĥé fîlé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>The settings file is too large; expected at most 1 MiB.</source>
+        <translation>[Ţĥé šéţţîñĝš fîlé îš ţöö làŕĝé; éxpéçţéd àţ möšţ 1 MîB. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be read to its end.</source>
+        <translation>[Ţĥé šéţţîñĝš fîlé çàññöţ bé ŕéàd ţö îţš éñd. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The line is no setting; expected NAME = value.</source>
+        <translation>[Ţĥé lîñé îš ñö šéţţîñĝ; éxpéçţéd ÑÀMÉ = vàlûé. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A settings file was expected, but this is no regular file.</source>
+        <translation>[À šéţţîñĝš fîlé wàš éxpéçţéd, bûţ ţĥîš îš ñö ŕéĝûlàŕ fîlé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>“%1” takes 1 number and was given %2.</source>
         <translation>[“%1” ţàķéš 1 ñûmbéŕ àñd wàš ĝîvéñ %2. ~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1234,6 +1250,26 @@
         <translation>[à býţé 0 šţàñdš ĥéŕé, wĥîçĥ à ţéxţ ĥàš ñöţ: ţĥé fîlé îš dàmàĝéd, öŕ ñö pàţçĥ ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>the values of the field "%1"</source>
+        <translation>[ţĥé vàlûéš öf ţĥé fîéld "%1" ~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected 1, 0, TRUE or FALSE. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd 1, 0, ŢŔÛÉ öŕ FÀLŠÉ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a whole number. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd à wĥölé ñûmbéŕ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The setting %1 is "%2"; expected a number. The default is used.</source>
+        <translation>[Ţĥé šéţţîñĝ %1 îš "%2"; éxpéçţéd à ñûmbéŕ. Ţĥé défàûlţ îš ûšéd. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The counter "%1" would be computed from itself; expected parents that do not depend on it.</source>
+        <translation>[Ţĥé çöûñţéŕ "%1" wöûld bé çömpûţéd fŕöm îţšélf; éxpéçţéd pàŕéñţš ţĥàţ dö ñöţ dépéñd öñ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>%1:%2: Column %3: %4</source>
         <translation>[%1:%2: Çölûmñ %3: %4 ~~~~~~~~]</translation>
     </message>
@@ -1494,6 +1530,22 @@
         <translation>[ÖpéñĜL 3.3 çöûld ñöţ bé šţàŕţéd föŕ dŕàwîñĝ öff ţĥé šçŕééñ (ÉĜL éŕŕöŕ %1). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>The picture “%1” of %2 pixels is left out, as here no side can have more than %3.</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš léfţ öûţ, àš ĥéŕé ñö šîdé çàñ ĥàvé möŕé ţĥàñ %3. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as here no side can have more than %4.</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš bŕöûĝĥţ döwñ ţö %3 pîxélš, àš ĥéŕé ñö šîdé çàñ ĥàvé möŕé ţĥàñ %4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is left out, as all pictures of a scene may take %3 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš léfţ öûţ, àš àll pîçţûŕéš öf à šçéñé màý ţàķé %3 MîB ţöĝéţĥéŕ (XŠĜ_PÎÇŢÛŔÉ_MÉMÖŔÝ îñ ţĥé pŕéféŕéñçéš). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The picture “%1” of %2 pixels is brought down to %3 pixels, as all pictures of a scene may take %4 MiB together (XSG_PICTURE_MEMORY in the preferences).</source>
+        <translation>[Ţĥé pîçţûŕé “%1” öf %2 pîxélš îš bŕöûĝĥţ döwñ ţö %3 pîxélš, àš àll pîçţûŕéš öf à šçéñé màý ţàķé %4 MîB ţöĝéţĥéŕ (XŠĜ_PÎÇŢÛŔÉ_MÉMÖŔÝ îñ ţĥé pŕéféŕéñçéš). ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Drawing needs OpenGL 3.3, but this system offers only %1.%2.</source>
         <translation>[Dŕàwîñĝ ñéédš ÖpéñĜL 3.3, bûţ ţĥîš šýšţém öfféŕš öñlý %1.%2. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1530,6 +1582,106 @@
         <translation>[ţĥé fîlé îš wŕîţé-pŕöţéçţéd ~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>Permission denied</source>
+        <translation>[Péŕmîššîöñ déñîéd ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>[Öpéŕàţîöñ ñöţ péŕmîţţéd ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>[Ñö šûçĥ fîlé öŕ dîŕéçţöŕý ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>[Fîlé éxîšţš ~~~~]</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>[Îš à dîŕéçţöŕý ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>[Ñöţ à dîŕéçţöŕý ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>[Ţöö màñý lévélš öf šýmbölîç lîñķš ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>[Fîlé ñàmé ţöö löñĝ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>[Ŕéàd-öñlý fîlé šýšţém ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>[Ñö špàçé léfţ öñ dévîçé ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>[Dîšķ qûöţà éxçéédéd ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>[Fîlé ţöö làŕĝé ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>[Îñpûţ/öûţpûţ éŕŕöŕ ~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>[Dévîçé öŕ ŕéšöûŕçé bûšý ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>[Ţéxţ fîlé bûšý ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>[Ţöö màñý öpéñ fîléš ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>[Ţöö màñý öpéñ fîléš îñ šýšţém ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>[Çàññöţ àllöçàţé mémöŕý ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: this program offers its scene for reading only.</source>
+        <translation>[“%1” çàññöţ bé šéţ: ţĥîš pŕöĝŕàm öfféŕš îţš šçéñé föŕ ŕéàdîñĝ öñlý. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added: this program lets nobody change its structure.</source>
+        <translation>[“%1” çàññöţ bé àddéd: ţĥîš pŕöĝŕàm léţš ñöbödý çĥàñĝé îţš šţŕûçţûŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed: this program lets nobody change its structure.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé ŕémövéd: ţĥîš pŕöĝŕàm léţš ñöbödý çĥàñĝé îţš šţŕûçţûŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted: this program lets nobody change its structure.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé îñšéŕţéd: ţĥîš pŕöĝŕàm léţš ñöbödý çĥàñĝé îţš šţŕûçţûŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied: this program does not offer that.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé çöpîéd: ţĥîš pŕöĝŕàm döéš ñöţ öfféŕ ţĥàţ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The edit cannot be made: the program is not attached.</source>
+        <translation>[Ţĥé édîţ çàññöţ bé màdé: ţĥé pŕöĝŕàm îš ñöţ àţţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The edit cannot be made: it is too long.</source>
+        <translation>[Ţĥé édîţ çàññöţ bé màdé: îţ îš ţöö löñĝ. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>The program “%1” sent a message that is too long or damaged; detached.</source>
         <translation>[Ţĥé pŕöĝŕàm “%1” šéñţ à méššàĝé ţĥàţ îš ţöö löñĝ öŕ dàmàĝéd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1542,6 +1694,10 @@
         <translation>[Ţĥé pŕöĝŕàm “%1” šéñţ à méššàĝé ţĥàţ ţĥîš îñšpéçţöŕ döéš ñöţ ûñdéŕšţàñd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>The edit cannot be made: its value does not have the bytes of its kind.</source>
+        <translation>[Ţĥé édîţ çàññöţ bé màdé: îţš vàlûé döéš ñöţ ĥàvé ţĥé býţéš öf îţš ķîñd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Cannot attach to “%1”: the program does not answer.</source>
         <translation>[Çàññöţ àţţàçĥ ţö “%1”: ţĥé pŕöĝŕàm döéš ñöţ àñšwéŕ. ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -1552,6 +1708,10 @@
     <message>
         <source>Cannot attach to “%1”: no program listens there any more.</source>
         <translation>[Çàññöţ àţţàçĥ ţö “%1”: ñö pŕöĝŕàm lîšţéñš ţĥéŕé àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Cannot attach to “%1”: you may not open its socket.</source>
+        <translation>[Çàññöţ àţţàçĥ ţö “%1”: ýöû màý ñöţ öpéñ îţš šöçķéţ. ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Cannot attach to “%1”: %2.</source>
@@ -1572,6 +1732,242 @@
     <message>
         <source>Cannot attach to “%1”: its greeting is damaged.</source>
         <translation>[Çàññöţ àţţàçĥ ţö “%1”: îţš ĝŕééţîñĝ îš dàmàĝéd. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>This uniform has %1 elements, and no others can be set.</source>
+        <translation>[Ţĥîš ûñîföŕm ĥàš %1 éléméñţš, àñd ñö öţĥéŕš çàñ bé šéţ. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The text is damaged.</source>
+        <translation>[Ţĥé ţéxţ îš dàmàĝéd. ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the program would draw more than there is.</source>
+        <translation>[“%1” çàññöţ bé šéţ šö, šîñçé ţĥé pŕöĝŕàm wöûld dŕàw möŕé ţĥàñ ţĥéŕé îš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the sequence would show children that it does not have.</source>
+        <translation>[“%1” çàññöţ bé šéţ šö, šîñçé ţĥé šéqûéñçé wöûld šĥöw çĥîldŕéñ ţĥàţ îţ döéš ñöţ ĥàvé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set so, since the sequence would never come to the end of a frame; each child needs some time, and a sequence that runs a speed above 0.</source>
+        <translation>[“%1” çàññöţ bé šéţ šö, šîñçé ţĥé šéqûéñçé wöûld ñévéŕ çömé ţö ţĥé éñd öf à fŕàmé; éàçĥ çĥîld ñéédš šömé ţîmé, àñd à šéqûéñçé ţĥàţ ŕûñš à špééd àbövé 0. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set, since its object has ended.</source>
+        <translation>[“%1” çàññöţ bé šéţ, šîñçé îţš öbĵéçţ ĥàš éñdéd. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Objects of type “%1” have no “%2”.</source>
+        <translation>[Öbĵéçţš öf ţýpé “%1” ĥàvé ñö “%2”. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program was still drawing after two seconds; try again.</source>
+        <translation>[Ţĥé pŕöĝŕàm wàš šţîll dŕàwîñĝ àfţéŕ ţwö šéçöñdš; ţŕý àĝàîñ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes no value of this type.</source>
+        <translation>[“%1” ţàķéš ñö vàlûé öf ţĥîš ţýpé. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” has no choice with the number %2.</source>
+        <translation>[“%1” ĥàš ñö çĥöîçé wîţĥ ţĥé ñûmbéŕ %2. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” can only be read, since OpenSceneGraph offers no safe way to set it.</source>
+        <translation>[“%1” çàñ öñlý bé ŕéàd, šîñçé ÖpéñŠçéñéĜŕàpĥ öfféŕš ñö šàfé wàý ţö šéţ îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A node can only be added to a group that still exists.</source>
+        <translation>[À ñödé çàñ öñlý bé àddéd ţö à ĝŕöûp ţĥàţ šţîll éxîšţš. ~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>No node of type “%1” can be added.</source>
+        <translation>[Ñö ñödé öf ţýpé “%1” çàñ bé àddéd. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>There is no such child to remove.</source>
+        <translation>[Ţĥéŕé îš ñö šûçĥ çĥîld ţö ŕémövé. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The child cannot be removed, since the sequence shows as many children as it has; lower “End” first.</source>
+        <translation>[Ţĥé çĥîld çàññöţ bé ŕémövéd, šîñçé ţĥé šéqûéñçé šĥöwš àš màñý çĥîldŕéñ àš îţ ĥàš; löwéŕ “Éñd” fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A node can only be inserted into a group, and both have to exist.</source>
+        <translation>[À ñödé çàñ öñlý bé îñšéŕţéd îñţö à ĝŕöûp, àñd böţĥ ĥàvé ţö éxîšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A node can only be copied into a group, and both have to exist.</source>
+        <translation>[À ñödé çàñ öñlý bé çöpîéd îñţö à ĝŕöûp, àñd böţĥ ĥàvé ţö éxîšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The camera of a view cannot be copied.</source>
+        <translation>[Ţĥé çàméŕà öf à vîéw çàññöţ bé çöpîéd. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since more than %1 nodes are below it.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé çöpîéd, šîñçé möŕé ţĥàñ %1 ñödéš àŕé bélöw îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since the program does not say how objects of type “%1” are copied.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé çöpîéd, šîñçé ţĥé pŕöĝŕàm döéš ñöţ šàý ĥöw öbĵéçţš öf ţýpé “%1” àŕé çöpîéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>A node cannot be put below itself.</source>
+        <translation>[À ñödé çàññöţ bé pûţ bélöw îţšélf. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The group “%1” did not take the node.</source>
+        <translation>[Ţĥé ĝŕöûp “%1” dîd ñöţ ţàķé ţĥé ñödé. ~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The pixels of this picture take another one of %1 × %2 pixels only, with as many components.</source>
+        <translation>[Ţĥé pîxélš öf ţĥîš pîçţûŕé ţàķé àñöţĥéŕ öñé öf %1 × %2 pîxélš öñlý, wîţĥ àš màñý çömpöñéñţš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>This list has 1 element, one for each child, and no others can be set.</source>
+        <translation>[Ţĥîš lîšţ ĥàš 1 éléméñţ, öñé föŕ éàçĥ çĥîld, àñd ñö öţĥéŕš çàñ bé šéţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>This list has %1 elements, one for each child, and no others can be set.</source>
+        <translation>[Ţĥîš lîšţ ĥàš %1 éléméñţš, öñé föŕ éàçĥ çĥîld, àñd ñö öţĥéŕš çàñ bé šéţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes %2 numbers, each within its range.</source>
+        <translation>[“%1” ţàķéš %2 ñûmbéŕš, éàçĥ wîţĥîñ îţš ŕàñĝé. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>OpenSceneGraph did not take the value of “%1”.</source>
+        <translation>[ÖpéñŠçéñéĜŕàpĥ dîd ñöţ ţàķé ţĥé vàlûé öf “%1”. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set, since that object has ended.</source>
+        <translation>[“%1” çàññöţ bé šéţ, šîñçé ţĥàţ öbĵéçţ ĥàš éñdéd. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes no object of type “%2”.</source>
+        <translation>[“%1” ţàķéš ñö öbĵéçţ öf ţýpé “%2”. ~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” takes nothing but pictures.</source>
+        <translation>[“%1” ţàķéš ñöţĥîñĝ bûţ pîçţûŕéš. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: an exception of no known type.</source>
+        <translation>[Ţĥé pŕöĝŕàm’š àdàpţéŕ fàîléd: àñ éxçépţîöñ öf ñö ķñöwñ ţýpé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: %1.</source>
+        <translation>[Ţĥé pŕöĝŕàm’š àdàpţéŕ fàîléd: %1. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program could not do it: an exception of no known type.</source>
+        <translation>[Ţĥé pŕöĝŕàm çöûld ñöţ dö îţ: àñ éxçépţîöñ öf ñö ķñöwñ ţýpé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program could not do it: %1.</source>
+        <translation>[Ţĥé pŕöĝŕàm çöûld ñöţ dö îţ: %1. ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The inspector asked something that this program does not understand; detached.</source>
+        <translation>[Ţĥé îñšpéçţöŕ àšķéd šöméţĥîñĝ ţĥàţ ţĥîš pŕöĝŕàm döéš ñöţ ûñdéŕšţàñd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: the answer is longer than %1 MiB.</source>
+        <translation>[Ţĥé pŕöĝŕàm’š àdàpţéŕ fàîléd: ţĥé àñšwéŕ îš löñĝéŕ ţĥàñ %1 MîB. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program could not do it: the answer is too long.</source>
+        <translation>[Ţĥé pŕöĝŕàm çöûld ñöţ dö îţ: ţĥé àñšwéŕ îš ţöö löñĝ. ~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed: the inspector keeps too many removed nodes already.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé ŕémövéd: ţĥé îñšpéçţöŕ ķéépš ţöö màñý ŕémövéd ñödéš àlŕéàdý. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The inspector watches too many nodes; detached.</source>
+        <translation>[Ţĥé îñšpéçţöŕ wàţçĥéš ţöö màñý ñödéš; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program’s adapter failed: the value of “%1” does not have the bytes of its kind.</source>
+        <translation>[Ţĥé pŕöĝŕàm’š àdàpţéŕ fàîléd: ţĥé vàlûé öf “%1” döéš ñöţ ĥàvé ţĥé býţéš öf îţš ķîñd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” belongs to another user; inspect it as that user.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” bélöñĝš ţö àñöţĥéŕ ûšéŕ; îñšpéçţ îţ àš ţĥàţ ûšéŕ. ~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” has as many inspectors as it can have; detach another one first.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” ĥàš àš màñý îñšpéçţöŕš àš îţ çàñ ĥàvé; déţàçĥ àñöţĥéŕ öñé fîŕšţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The inspector sent a message that is too long or damaged; detached.</source>
+        <translation>[Ţĥé îñšpéçţöŕ šéñţ à méššàĝé ţĥàţ îš ţöö löñĝ öŕ dàmàĝéd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The inspector sent a message that this program does not understand; detached.</source>
+        <translation>[Ţĥé îñšpéçţöŕ šéñţ à méššàĝé ţĥàţ ţĥîš pŕöĝŕàm döéš ñöţ ûñdéŕšţàñd; déţàçĥéd. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” was not greeted as an inspector greets it.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” wàš ñöţ ĝŕééţéd àš àñ îñšpéçţöŕ ĝŕééţš îţ. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” speaks version %2 of the protocol and this inspector version %3; use libraries and an inspector of the same version.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” špéàķš véŕšîöñ %2 öf ţĥé pŕöţöçöl àñd ţĥîš îñšpéçţöŕ véŕšîöñ %3; ûšé lîbŕàŕîéš àñd àñ îñšpéçţöŕ öf ţĥé šàmé véŕšîöñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The inspector did not greet the program in time.</source>
+        <translation>[Ţĥé îñšpéçţöŕ dîd ñöţ ĝŕééţ ţĥé pŕöĝŕàm îñ ţîmé. ~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The program “%1” has ended its connection.</source>
+        <translation>[Ţĥé pŕöĝŕàm “%1” ĥàš éñdéd îţš çöññéçţîöñ. ~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: it can only be read.</source>
+        <translation>[“%1” çàññöţ bé šéţ: îţ çàñ öñlý bé ŕéàd. ~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: the value is of another type.</source>
+        <translation>[“%1” çàññöţ bé šéţ: ţĥé vàlûé îš öf àñöţĥéŕ ţýpé. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: it cannot hold that value.</source>
+        <translation>[“%1” çàññöţ bé šéţ: îţ çàññöţ ĥöld ţĥàţ vàlûé. ~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted there, since it would be its own descendant.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé îñšéŕţéd ţĥéŕé, šîñçé îţ wöûld bé îţš öwñ déšçéñdàñţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be set: the node is no more or has no such field.</source>
+        <translation>[“%1” çàññöţ bé šéţ: ţĥé ñödé îš ñö möŕé öŕ ĥàš ñö šûçĥ fîéld. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added, since the group is no more.</source>
+        <translation>[“%1” çàññöţ bé àddéd, šîñçé ţĥé ĝŕöûp îš ñö möŕé. ~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be added, since the program knows no node of this type.</source>
+        <translation>[“%1” çàññöţ bé àddéd, šîñçé ţĥé pŕöĝŕàm ķñöwš ñö ñödé öf ţĥîš ţýpé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be removed, since it is not there any more.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé ŕémövéd, šîñçé îţ îš ñöţ ţĥéŕé àñý möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be inserted, since it or its group is no more.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé îñšéŕţéd, šîñçé îţ öŕ îţš ĝŕöûp îš ñö möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since it or its group is no more.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé çöpîéd, šîñçé îţ öŕ îţš ĝŕöûp îš ñö möŕé. ~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The node cannot be copied, since something in it is of a kind that cannot be.</source>
+        <translation>[Ţĥé ñödé çàññöţ bé çöpîéd, šîñçé šöméţĥîñĝ îñ îţ îš öf à ķîñd ţĥàţ çàññöţ bé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2.</source>

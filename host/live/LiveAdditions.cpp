@@ -2,10 +2,10 @@
 #include "live/LiveAdditions.h"
 
 #include "live/LiveScene.h"
+#include "live/LiveSentences.h"
 #include "services/HostServices.h"
 #include "structure/Places.h"
 #include "structure/StructurePlan.h"
-#include "support/Printable.h"
 #include "text/NodeText.h"
 
 #include <scopix/SpxEditedFields.h>
@@ -115,7 +115,7 @@ void LiveAdditions::answered(const RunPointer& run, std::size_t i, const live::S
         if (m_scene.getState() != LiveScene::State::Ended)
             emit m_scene.told(LiveScene::tr("“%1” added nothing to “%2”: %3")
                                   .arg(m_scene.getName(), nodeText(parentOf(run->act.additions[i])),
-                                       printable(QString::fromStdString(result.refusal))));
+                                       toText(result.refusal)));
         return endOne(run);
     }
     m_scene.getLink().node(result.node, [this, run, i](const std::optional<live::NodeInfo>& info) {

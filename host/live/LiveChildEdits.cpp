@@ -2,8 +2,8 @@
 #include "live/LiveChildEdits.h"
 
 #include "live/LiveScene.h"
+#include "live/LiveSentences.h"
 #include "services/HostServices.h"
-#include "support/Printable.h"
 #include "text/NodeText.h"
 
 #include <algorithm>
@@ -176,8 +176,7 @@ void LiveChildEdits::answered(const BatchPointer& batch, Child child, const live
         batch->done.push_back(child);
     } else if (batch->refusal.isEmpty()) {
         batch->refusal = LiveScene::tr("“%1” refused to change the children of “%2”: %3")
-                             .arg(m_scene.getName(), nodeText(*child.group),
-                                  printable(QString::fromStdString(result.refusal)));
+                             .arg(m_scene.getName(), nodeText(*child.group), toText(result.refusal));
     }
     if (--batch->left > 0)
         return;

@@ -2,9 +2,9 @@
 #include "live/LiveEdits.h"
 
 #include "live/LiveScene.h"
+#include "live/LiveSentences.h"
 #include "live/LiveValues.h"
 #include "services/HostServices.h"
-#include "support/Printable.h"
 #include "text/NodeText.h"
 
 #include <xsg/core/SoField.h>
@@ -20,11 +20,6 @@ namespace
 {
 
 constexpr std::size_t MostExact = std::size_t(1) << 20; // bytes of former values of a property
-
-QString sentenceOf(const std::string& text)
-{
-    return printable(QString::fromStdString(text));
-}
 
 QString nameOf(const LiveProperty& property)
 {
@@ -165,7 +160,7 @@ void LiveEdits::answered(const NodeRef& node, LiveProperty& property, const live
     if (!result.taken)
         return putBack(node, property,
                        LiveScene::tr("“%1” refused the value of “%2”: %3")
-                           .arg(m_scene.getName(), nameOf(property), sentenceOf(result.refusal)));
+                           .arg(m_scene.getName(), nameOf(property), toText(result.refusal)));
     if (property.known == sent)
         return remark(property, {});
     showAsTaken(property, property.known);

@@ -371,7 +371,7 @@ void LiveScene::countersCame(const std::vector<double>& values)
 
 void LiveScene::noticeCame(const live::Notice& notice)
 {
-    UserNotifier::note(getName(), QString::fromStdString(notice.text));
+    UserNotifier::note(getName(), toText(notice.text));
 }
 
 void LiveScene::framesCame(const live::FrameTable& frames)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "live/LiveSentences.h"
 
+#include "support/Printable.h"
+
+#include <scopix/live/client/SentenceOfProgram.h>
 #include <xsg/values/SbSentence.h>
 
 #include <QCoreApplication>
@@ -19,6 +22,11 @@ QString toText(const live::Sentence& sentence)
         [&](std::string_view between) { text += between; },
         [&](std::size_t place) { text += arguments[place]; });
     return QString::fromStdString(text);
+}
+
+QString toText(const std::string& words)
+{
+    return printable(toText(live::sentenceOfProgram(words)));
 }
 
 } // namespace scopix

@@ -8,7 +8,9 @@
 namespace scopix
 {
 
-/// In the user's language; what a program said itself stays as it came.
+/// In the user's language.
 QString toText(const live::Sentence& sentence);
+/// What a program said, in the user's language where the sentence is known, else as it came; printable().
+QString toText(const std::string& words);
 
 } // namespace scopix

@@ -33,7 +33,7 @@ public:
 
     std::vector<ModelData::Picture> takePictures() { return std::move(m_pictures); }
     /// One for each picture that is not as large as in its file.
-    const std::vector<std::string>& getNotes() const { return m_notes; }
+    const std::vector<SbSentence>& getNotes() const { return m_notes; }
     /// The names of those that are missing, or no pictures.
     const QStringList& getUnread() const { return m_unread; }
 
@@ -46,7 +46,7 @@ private:
     xsg::PictureBudget m_budget;
     std::vector<ModelData::Picture> m_pictures;
     std::map<std::string, int> m_places; // of a picture among them, by what the file calls it
-    std::vector<std::string> m_notes;
+    std::vector<SbSentence> m_notes;
     QStringList m_unread;
 };
 

@@ -13,6 +13,7 @@
 #include "reader/ModelPictures.h"
 #include "reader/RegularFiles.h"
 #include "reader/ScopedCLocale.h"
+#include "reader/Sentences.h"
 
 #include <xsg/core/SoPreferences.h>
 
@@ -209,7 +210,8 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
         readMaterialExtensions(gltf->getText(), result.data);
         takeGltfAnimations(*gltf, result.data);
     }
-    result.notes = pictures.getNotes();
+    for (const SbSentence& note : pictures.getNotes())
+        result.notes.push_back(translated(note));
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
     const QStringList extensions = gltf ? extensionLosses(gltf->getText()) : QStringList();

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Sentences about things that are counted.
+// Sentences about things that are counted, and those of the scene-graph library.
 #pragma once
 
+#include <xsg/values/SbSentence.h>
+
 #include <QStringList>
+
+#include <string>
 
 namespace scopix
 {
@@ -11,5 +15,7 @@ namespace scopix
 void addCounted(QStringList& sentences, unsigned count, const QString& one, const QString& several);
 /// The first of the names, quoted.
 QString quoted(const QStringList& names);
+/// In the user's language.
+std::string translated(const SbSentence& sentence);
 
 } // namespace scopix

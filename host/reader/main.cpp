@@ -5,6 +5,9 @@
 #include "model/ModelFile.h"
 #include "reader/MemoryLimit.h"
 #include "reader/ModelReader.h"
+#include "reader/Sentences.h"
+
+#include <xsg/errors/SoDebugError.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -48,6 +51,12 @@ public:
     }
 };
 
+// In the words in which the host says it.
+void print(const SoError* error, void* /*data*/)
+{
+    std::fprintf(stderr, "scopix: %s\n", scopix::translated(error->getSentence()).c_str());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -61,6 +70,7 @@ int main(int argc, char** argv)
     Texts texts;
     if (texts.load(QStringLiteral(":/i18n/ModelReader_%1.qm").arg(qEnvironmentVariable("SCOPIX_LANGUAGE"))))
         QCoreApplication::installTranslator(&texts);
+    SoDebugError::setHandlerCallback(print, nullptr);
     limitItself(arguments[1]);
     int told = 0;
     const scopix::ModelReadResult model = scopix::readModel(arguments[1], [&](float done) {

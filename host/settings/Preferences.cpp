@@ -34,10 +34,10 @@ QString path()
     return chosen.isEmpty() ? UserSettings::path(QStringLiteral("preferences.conf")) : chosen;
 }
 
-void report(const QIODevice& device, int line, const char* sentence)
+void report(const QIODevice& device, int line, const SbSentence& sentence)
 {
     const auto* file = qobject_cast<const QFile*>(&device);
-    SoReadError::post(file ? file->fileName().toStdString() : std::string(), line, sentence);
+    SoReadError::post(file ? file->fileName().toStdString() : std::string(), line, 0, sentence);
 }
 
 // A '#' begins a comment at the start of a word; inside one, as in a file name, it stands for itself.
@@ -65,18 +65,18 @@ void skipByteOrderMark(QIODevice& device)
 bool readPreferences(QIODevice& device, QSettings::SettingsMap& values)
 {
     if (device.size() > LargestFile) {
-        report(device, 0, "The settings file is too large; expected at most 1 MiB.");
+        report(device, 0, SbSentence("The settings file is too large; expected at most 1 MiB."));
         return true;
     }
     skipByteOrderMark(device);
     for (int number = 1; !device.atEnd(); ++number) {
         const QByteArray line = device.readLine();
         if (line.isEmpty()) { // a disk that fails is never at its end
-            report(device, number, "The settings file cannot be read to its end.");
+            report(device, number, SbSentence("The settings file cannot be read to its end."));
             return true;
         }
         if (!readLine(QString::fromLatin1(line), values))
-            report(device, number, "The line is no setting; expected NAME = value.");
+            report(device, number, SbSentence("The line is no setting; expected NAME = value."));
     }
     return true;
 }
@@ -103,7 +103,8 @@ void Preferences::feed()
     const std::string file = QFile::encodeName(path()).toStdString();
     if (xsg::isSpecialFile(file)) { // before it is opened, for which a pipe would wait
         if (!QFileInfo(path()).isDir())
-            SoReadError::post(file, 0, "A settings file was expected, but this is no regular file.");
+            SoReadError::post(file, 0, 0,
+                              SbSentence("A settings file was expected, but this is no regular file."));
         return;
     }
     const QSettings preferences(path(), format());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Adapter.h"
 
+#include <scopix/live/values/LiveSentence.h>
+
 namespace scopix::live
 {
 
@@ -8,7 +10,9 @@ namespace scopix::live
 
 WriteResult Adapter::write(NodeId, const std::string& property, const Value&)
 {
-    return {false, {}, "“" + property + "” cannot be set: this program offers its scene for reading only."};
+    return {false,
+            {},
+            Sentence("“%1” cannot be set: this program offers its scene for reading only.", {property})};
 }
 
 std::vector<std::string> Adapter::addableTypes(NodeId)
@@ -18,22 +22,24 @@ std::vector<std::string> Adapter::addableTypes(NodeId)
 
 StructureResult Adapter::add(NodeId, std::uint32_t, const std::string& type)
 {
-    return {false, 0, "“" + type + "” cannot be added: this program lets nobody change its structure."};
+    return {false, 0,
+            Sentence("“%1” cannot be added: this program lets nobody change its structure.", {type})};
 }
 
 StructureResult Adapter::remove(NodeId, std::uint32_t)
 {
-    return {false, 0, "The node cannot be removed: this program lets nobody change its structure."};
+    return {false, 0, Sentence("The node cannot be removed: this program lets nobody change its structure.")};
 }
 
 StructureResult Adapter::insert(NodeId, std::uint32_t, NodeId)
 {
-    return {false, 0, "The node cannot be inserted: this program lets nobody change its structure."};
+    return {false, 0,
+            Sentence("The node cannot be inserted: this program lets nobody change its structure.")};
 }
 
 StructureResult Adapter::copy(NodeId, std::uint32_t, NodeId)
 {
-    return {false, 0, "The node cannot be copied: this program does not offer that."};
+    return {false, 0, Sentence("The node cannot be copied: this program does not offer that.")};
 }
 
 void Adapter::forget(NodeId) {}

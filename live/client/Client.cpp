@@ -2,6 +2,7 @@
 #include "Client.h"
 
 #include "Handshake.h"
+#include "SentenceOfProgram.h"
 
 #include <scopix/live/transport/SharedPicture.h>
 
@@ -20,11 +21,11 @@ constexpr std::size_t BytesAtOnce = std::size_t(8) << 20; // the rest is for the
 
 // An empty answer, and a refusal where there can be one.
 template <class Result>
-void refuse(const std::function<void(Result)>& answer, const std::string& reason)
+void refuse(const std::function<void(Result)>& answer, const Sentence& refusal)
 {
     Result result{};
     if constexpr (std::is_same_v<Result, WriteResult> || std::is_same_v<Result, StructureResult>)
-        result.refusal = "The edit cannot be made: " + reason + ".";
+        result.refusal = refusal;
     if (answer)
         answer(std::move(result));
 }
@@ -90,7 +91,7 @@ private:
     {
         m_listener.framesCame(frames);
     }
-    void come(TypeConstant<MessageType::Goodbye>, const Text& reason) { end(Sentence::verbatim(reason)); }
+    void come(TypeConstant<MessageType::Goodbye>, const Text& reason) { end(sentenceOfProgram(reason)); }
 
     ClientListener& m_listener;
     std::unique_ptr<Stream> m_stream;
@@ -155,10 +156,10 @@ template <MessageType type, class... Parts>
 void Client::Private::ask(Answer<AnswerOf<type>> answer, const Parts&... parts)
 {
     if (!m_stream)
-        return refuse(answer, "the program is not attached");
+        return refuse(answer, Sentence("The edit cannot be made: the program is not attached."));
     Bytes message = packedMessage(type, ++m_lastId == 0 ? ++m_lastId : m_lastId, parts...);
     if (message.size() > LongestMessage)
-        return refuse(answer, "it is too long");
+        return refuse(answer, Sentence("The edit cannot be made: it is too long."));
     m_pending.push_back({m_lastId, static_cast<std::uint16_t>(type), Stream::Clock::now(),
                          [answer = std::move(answer)](const Message& contents) {
                              auto result = contentsOf<AnswerOf<type>>(contents);
@@ -350,7 +351,8 @@ void Client::value(NodeId node, const std::string& property, Answer<std::optiona
 void Client::write(NodeId node, const std::string& property, const Value& value, Answer<WriteResult> answer)
 {
     if (!isWellFormed(value))
-        return refuse(answer, "its value does not have the bytes of its kind");
+        return refuse(answer,
+                      Sentence("The edit cannot be made: its value does not have the bytes of its kind."));
     m_private->ask<MessageType::Write>(std::move(answer), node, property, value);
 }
 

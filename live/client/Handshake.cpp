@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Handshake.h"
 
+#include "SentenceOfProgram.h"
+
 #include <scopix/live/transport/SocketFolder.h>
 #include <scopix/live/transport/Sockets.h>
 
@@ -31,6 +33,8 @@ Sentence failure(const std::string& path, int error)
 {
     if (error == ECONNREFUSED || error == ENOENT)
         return Sentence("Cannot attach to “%1”: no program listens there any more.", {path});
+    if (error == EACCES)
+        return Sentence("Cannot attach to “%1”: you may not open its socket.", {path});
     if (error == EAGAIN)
         return noAnswer(path);
     return Sentence("Cannot attach to “%1”: %2.", {path, std::strerror(error)});
@@ -110,7 +114,7 @@ void Handshake::take(const Message& message)
 {
     if (const auto reason = contentsOf<Parameters<MessageType::Goodbye>>(message);
         message.is(MessageType::Goodbye) && reason)
-        m_problem = Sentence::verbatim(std::get<0>(*reason));
+        m_problem = sentenceOfProgram(std::get<0>(*reason));
     else
         takeHello(message);
 }

@@ -81,8 +81,8 @@ public:
             return wrong;
         void* start = nullptr;
         if (bytesOf(uniform, start) != value.bytes.size() || !start)
-            return "This uniform has " + std::to_string(uniform.getNumElements()) +
-                   " elements, and no others can be set.";
+            return Sentence("This uniform has %1 elements, and no others can be set.",
+                            {std::to_string(uniform.getNumElements())});
         std::memcpy(start, value.bytes.data(), value.bytes.size());
         uniform.dirty();
         return {};

@@ -45,7 +45,7 @@ public:
             [set](C& object, const Value& value, OsgObjects&) -> std::string {
                 const auto texts = unpackedTexts(value);
                 if (!texts || texts->size() != 1)
-                    return "The text is damaged.";
+                    return Sentence("The text is damaged.");
                 set(object, texts->front());
                 return {};
             });

@@ -48,26 +48,29 @@ bool isWithinChildren(const osg::Sequence& sequence)
     return begin < std::max(count, 1) && end < std::max(count, 1);
 }
 
-/// Why the program would not survive to draw the object; empty where it would.
-std::string dangerOf(const osg::Object& object)
+/// Why a property is not set so that the program would not survive to draw the object; empty where it would.
+std::string dangerOf(const osg::Object& object, const std::string& property)
 {
     const auto* geometry = dynamic_cast<const osg::Geometry*>(&object);
     const auto* sequence = dynamic_cast<const osg::Sequence*>(&object);
     if (geometry && !isWithinArrays(*geometry))
-        return "the program would draw more than there is";
+        return Sentence("“%1” cannot be set so, since the program would draw more than there is.",
+                        {property});
     if (sequence && !isWithinChildren(*sequence))
-        return "the sequence would show children that it does not have";
+        return Sentence(
+            "“%1” cannot be set so, since the sequence would show children that it does not have.",
+            {property});
     if (sequence && !comesToAnEnd(*sequence))
-        return "the sequence would never come to the end of a frame; each child needs some time, and a "
-               "sequence "
-               "that runs a speed above 0";
+        return Sentence("“%1” cannot be set so, since the sequence would never come to the end of a frame; "
+                        "each child needs some time, and a sequence that runs a speed above 0.",
+                        {property});
     return {};
 }
 
-std::string dangerOf(const std::vector<osg::ref_ptr<osg::Object>>& objects)
+std::string dangerOf(const std::vector<osg::ref_ptr<osg::Object>>& objects, const std::string& property)
 {
     for (const auto& object : objects)
-        if (const std::string danger = object ? dangerOf(*object) : std::string(); !danger.empty())
+        if (const std::string danger = object ? dangerOf(*object, property) : std::string(); !danger.empty())
             return danger;
     return {};
 }
@@ -146,21 +149,22 @@ WriteResult OsgEdits::write(NodeId id, const std::string& name, const Value& val
 {
     const osg::ref_ptr<osg::Object> object = m_objects.find(id);
     if (!object)
-        return refused("“" + name + "” cannot be set, since its object has ended.");
+        return refused(Sentence("“%1” cannot be set, since its object has ended.", {name}));
     const OsgProperty* property = m_classes.find(*object, name);
     if (!property)
-        return refused("Objects of type “" + object->getCompoundClassName() + "” have no “" + name + "”.");
+        return refused(
+            Sentence("Objects of type “%1” have no “%2”.", {object->getCompoundClassName(), name}));
     if (!m_viewers.waitForDrawing())
-        return refused("The program was still drawing after two seconds; try again.");
+        return refused(Sentence("The program was still drawing after two seconds; try again."));
 
     const Objects touched = touchedBy(id);
-    const bool wasSafe = dangerOf(touched).empty();
+    const bool wasSafe = dangerOf(touched, name).empty();
     const std::optional<Value> before = property->read(*object, m_objects);
     WriteResult result = refused(property->write(*object, value, m_objects));
-    const std::string danger = wasSafe && before ? dangerOf(touched) : std::string();
+    const std::string danger = wasSafe && before ? dangerOf(touched, name) : std::string();
     if (result.refusal.empty() && !danger.empty()) {
         property->write(*object, *before, m_objects);
-        result.refusal = "“" + name + "” cannot be set so, since " + danger + ".";
+        result.refusal = danger;
     }
     for (const auto& one : touched) {
         if (describesShape(*object))

@@ -48,19 +48,19 @@ std::string OsgProperty::misfit(const PropertyInfo& info, const Value& value) co
     if (!info.writable)
         return readOnly();
     if (value.kind != info.kind || value.list != info.list || !hasWholeElements(info, value))
-        return "“" + name() + "” takes no value of this type.";
+        return Sentence("“%1” takes no value of this type.", {name()});
     if (info.meaning == Meaning::Enumeration && !info.names.empty() && !info.list) {
         const auto number = unpacked<std::int32_t>(value);
         if (!number || !isNamed(info, *number))
-            return "“" + name() + "” has no choice with the number " + std::to_string(number.value_or(0)) +
-                   ".";
+            return Sentence("“%1” has no choice with the number %2.",
+                            {name(), std::to_string(number.value_or(0))});
     }
     return {};
 }
 
 std::string OsgProperty::readOnly() const
 {
-    return "“" + name() + "” can only be read, since OpenSceneGraph offers no safe way to set it.";
+    return Sentence("“%1” can only be read, since OpenSceneGraph offers no safe way to set it.", {name()});
 }
 
 CallProperty::CallProperty(PropertyInfo info, Reader reader, Writer writer)

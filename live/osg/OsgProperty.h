@@ -4,6 +4,7 @@
 #include "OsgObjects.h"
 
 #include <scopix/live/values/LivePacking.h>
+#include <scopix/live/values/LiveSentence.h>
 
 #include <osg/Matrixd>
 #include <osg/Vec2d>

@@ -4,6 +4,8 @@
 #include "OsgArrays.h"
 #include "OwnNode.h"
 
+#include <scopix/live/values/LiveSentence.h>
+
 #include <osg/Camera>
 #include <osg/LOD>
 #include <osg/Sequence>
@@ -158,7 +160,7 @@ bool wouldLackShown(const osg::Group& group)
 
 StructureResult notDrawn()
 {
-    return refused("The program was still drawing after two seconds; try again.");
+    return refused(Sentence("The program was still drawing after two seconds; try again."));
 }
 
 } // namespace
@@ -281,10 +283,10 @@ StructureResult OsgScene::add(NodeId parent, std::uint32_t index, const std::str
 {
     const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
     if (!group)
-        return refused("A node can only be added to a group that still exists.");
+        return refused(Sentence("A node can only be added to a group that still exists."));
     const osg::ref_ptr<osg::Node> node = makeNode(type);
     if (!node)
-        return refused("No node of type “" + type + "” can be added.");
+        return refused(Sentence("No node of type “%1” can be added.", {type}));
     return insertNode(*group, index, *node, nullptr);
 }
 
@@ -293,12 +295,13 @@ StructureResult OsgScene::remove(NodeId parent, std::uint32_t index)
     const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
     const std::vector<osg::Node*> all = group ? childrenOf(*group) : std::vector<osg::Node*>();
     if (index >= all.size())
-        return refused("There is no such child to remove.");
+        return refused(Sentence("There is no such child to remove."));
     if (!m_viewers.waitForDrawing())
         return notDrawn();
     if (wouldLackShown(*group))
-        return refused("The child cannot be removed, since the sequence shows as many children as it has; "
-                       "lower “End” first.");
+        return refused(
+            Sentence("The child cannot be removed, since the sequence shows as many children as it "
+                     "has; lower “End” first."));
     const osg::ref_ptr<osg::Node> node = all[index];
     const unsigned at = group->getChildIndex(node);
     const NodeId id = m_objects.id(node);
@@ -321,7 +324,7 @@ StructureResult OsgScene::insert(NodeId parent, std::uint32_t index, NodeId id)
     const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
     const osg::ref_ptr<osg::Node> node = m_objects.findAs<osg::Node>(id);
     if (!group || !node)
-        return refused("A node can only be inserted into a group, and both have to exist.");
+        return refused(Sentence("A node can only be inserted into a group, and both have to exist."));
     const auto state = m_removed.find({parent, id});
     return insertNode(*group, index, *node, state == m_removed.end() ? nullptr : &state->second);
 }
@@ -331,20 +334,22 @@ StructureResult OsgScene::copy(NodeId parent, std::uint32_t index, NodeId id, co
     const osg::ref_ptr<osg::Group> group = m_objects.findAs<osg::Group>(parent);
     const osg::ref_ptr<osg::Node> node = m_objects.findAs<osg::Node>(id);
     if (!group || !node)
-        return refused("A node can only be copied into a group, and both have to exist.");
+        return refused(Sentence("A node can only be copied into a group, and both have to exist."));
     const std::vector<osg::Camera*> cameras = m_viewers.cameras();
     if (std::find(cameras.begin(), cameras.end(), node.get()) != cameras.end())
-        return refused("The camera of a view cannot be copied.");
+        return refused(Sentence("The camera of a view cannot be copied."));
     if (countCopied(*node) > MostCopied)
-        return refused("The node cannot be copied, since more than " + std::to_string(MostCopied) +
-                       " nodes are below it.");
+        return refused(Sentence("The node cannot be copied, since more than %1 nodes are below it.",
+                                {std::to_string(MostCopied)}));
     if (!m_viewers.waitForDrawing())
         return notDrawn();
     const osg::ref_ptr<osg::Node> made = osg::clone(node.get(), Copying);
     const osg::Node* unlike = made ? findUnlike(*node, *made) : node.get();
     if (unlike)
-        return refused("The node cannot be copied, since the program does not say how objects of type “" +
-                       std::string(unlike->getCompoundClassName()) + "” are copied.");
+        return refused(
+            Sentence("The node cannot be copied, since the program does not say how objects of type "
+                     "“%1” are copied.",
+                     {unlike->getCompoundClassName()}));
     forEachPair(*node, *made, finish);
     return insertNode(*group, index, *made, nullptr);
 }
@@ -391,7 +396,7 @@ StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg
                                      const ChildState* state)
 {
     if (isBelow(group, node))
-        return refused("A node cannot be put below itself.");
+        return refused(Sentence("A node cannot be put below itself."));
     if (!m_viewers.waitForDrawing())
         return notDrawn();
     const std::vector<osg::Node*> all = childrenOf(group);
@@ -400,7 +405,7 @@ StructureResult OsgScene::insertNode(osg::Group& group, std::uint32_t index, osg
                                            : group.getChildIndex(all.back()) + 1;
     const KeptForChildren kept(group);
     if (!group.insertChild(at, &node))
-        return refused("The group “" + group.getName() + "” did not take the node.");
+        return refused(Sentence("The group “%1” did not take the node.", {group.getName()}));
     kept.putBack(group, at, state ? *state : ChildState());
     return {true, m_objects.id(&node), {}};
 }

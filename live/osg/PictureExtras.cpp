@@ -37,8 +37,9 @@ std::string writePixels(osg::Image& image, const Value& value)
     const std::optional<Value> present = pixelsOf(image);
     if (!present || present->bytes.size() != value.bytes.size() ||
         !std::equal(present->bytes.begin(), present->bytes.begin() + 12, value.bytes.begin()))
-        return "The pixels of this picture take another one of " + std::to_string(image.s()) + " × " +
-               std::to_string(image.t()) + " pixels only, with as many components.";
+        return Sentence("The pixels of this picture take another one of %1 × %2 pixels only, with as many "
+                        "components.",
+                        {std::to_string(image.s()), std::to_string(image.t())});
     const std::size_t row = std::size_t(image.s()) * plainComponents(image);
     for (int y = 0; y < image.t(); ++y)
         std::copy_n(value.bytes.data() + 12 + std::size_t(y) * row, row, image.data(0, y));

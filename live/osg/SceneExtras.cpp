@@ -20,8 +20,10 @@ namespace
 
 std::string wrongCount(std::size_t wanted)
 {
-    return "This list has " + std::to_string(wanted) + (wanted == 1 ? " element" : " elements") +
-           ", one for each child, and no others can be set.";
+    if (wanted == 1)
+        return Sentence("This list has 1 element, one for each child, and no others can be set.");
+    return Sentence("This list has %1 elements, one for each child, and no others can be set.",
+                    {std::to_string(wanted)});
 }
 
 std::vector<float> rangesOf(const osg::LOD& lod, bool greatest)

@@ -178,8 +178,8 @@ public:
             return wrong;
         std::optional<std::vector<std::uint8_t>> bytes = serialized(value);
         if (!bytes)
-            return "“" + name() + "” takes " + std::to_string(m_shape.elements) +
-                   " numbers, each within its range.";
+            return Sentence("“%1” takes %2 numbers, each within its range.",
+                            {name(), std::to_string(m_shape.elements)});
         return read(object, std::move(*bytes));
     }
 
@@ -227,7 +227,7 @@ private:
         osgDB::InputStream stream(nullptr);
         stream.setInputIterator(input);
         if (!m_serializer->read(stream, object) || !input->isComplete())
-            return "OpenSceneGraph did not take the value of “" + name() + "”.";
+            return Sentence("OpenSceneGraph did not take the value of “%1”.", {name()});
         return {};
     }
 
@@ -259,14 +259,14 @@ public:
         const NodeId id = unpacked<NodeId>(value).value_or(0);
         osg::ref_ptr<osg::Object> next = objects.find(id);
         if (id && !next)
-            return "“" + name() + "” cannot be set, since that object has ended.";
+            return Sentence("“%1” cannot be set, since that object has ended.", {name()});
         osg::ref_ptr<osg::Object> previous = held(object);
         objects.keep(previous);
         set(object, next);
         if (held(object) == next.get())
             return {};
         set(object, previous);
-        return "“" + name() + "” takes no object of type “" + next->getCompoundClassName() + "”.";
+        return Sentence("“%1” takes no object of type “%2”.", {name(), next->getCompoundClassName()});
     }
 
     void stamp(osg::Object& object, OsgObjects& objects, std::vector<std::uint8_t>& bytes) const override
@@ -302,7 +302,7 @@ public:
     {
         const NodeId id = unpacked<NodeId>(value).value_or(0);
         if (id && !objects.findAs<osg::Image>(id))
-            return "“" + name() + "” takes nothing but pictures.";
+            return Sentence("“%1” takes nothing but pictures.", {name()});
         return ObjectProperty::write(object, value, objects);
     }
 };

@@ -26,13 +26,25 @@ std::size_t hashOf(const Value& value)
     return std::hash<std::string_view>()({bytes, value.bytes.size()}) ^ (kind << 56);
 }
 
+Sentence failure(const std::string& reason)
+{
+    return reason.empty() ? Sentence("The program’s adapter failed: an exception of no known type.")
+                          : Sentence("The program’s adapter failed: %1.", {reason});
+}
+
+Sentence refusal(const std::string& reason)
+{
+    return reason.empty() ? Sentence("The program could not do it: an exception of no known type.")
+                          : Sentence("The program could not do it: %1.", {reason});
+}
+
 // An empty answer, and a refusal where there can be one.
 template <class Answer>
-Answer refused(const std::string& reason)
+Answer refused(const Sentence& refusal)
 {
     Answer answer{};
     if constexpr (std::is_same_v<Answer, WriteResult> || std::is_same_v<Answer, StructureResult>)
-        answer.refusal = "The program could not do it: " + reason + ".";
+        answer.refusal = refusal;
     return answer;
 }
 
@@ -60,7 +72,7 @@ void Attachment::answer(const Message& question)
     auto parameters = contentsOf<Parameters<type>>(question);
     if (!parameters)
         return m_peer->sendAway(
-            "The inspector asked something that this program does not understand; detached.");
+            Sentence("The inspector asked something that this program does not understand; detached."));
     using Answer = AnswerOf<type>;
     const Answer answer = guarded(
         [&]() -> Answer {
@@ -68,14 +80,16 @@ void Attachment::answer(const Message& question)
                               *parameters);
         },
         [this](const std::string& reason) {
-            complain(reason);
-            return refused<Answer>(reason);
+            complain(failure(reason));
+            return refused<Answer>(refusal(reason));
         });
     Bytes message = packedMessage(type, question.id, answer);
     if (message.size() <= LongestMessage)
         return m_peer->send({std::move(message), std::nullopt});
-    complain("the answer is longer than " + std::to_string(LongestMessage >> 20) + " MiB");
-    send(type, question.id, refused<Answer>("the answer is too long"));
+    complain(Sentence("The program’s adapter failed: the answer is longer than %1 MiB.",
+                      {std::to_string(LongestMessage >> 20)}));
+    send(type, question.id,
+         refused<Answer>(Sentence("The program could not do it: the answer is too long.")));
 }
 
 template <MessageType type>
@@ -160,7 +174,8 @@ StructureResult Attachment::ask(TypeConstant<MessageType::Add>, NodeId parent, N
 StructureResult Attachment::ask(TypeConstant<MessageType::Remove>, NodeId parent, Number index)
 {
     if (m_kept.size() >= MostKept)
-        return {false, 0, "The node cannot be removed: the inspector keeps too many removed nodes already."};
+        return {false, 0,
+                Sentence("The node cannot be removed: the inspector keeps too many removed nodes already.")};
     StructureResult result = noted(m_adapter.remove(parent, index), parent);
     if (result.done && m_kept.insert(result.node).second)
         m_interests.keep(result.node);
@@ -221,7 +236,7 @@ void Attachment::act(TypeConstant<MessageType::Watch>, NodeId node, bool values)
     if (!isNew && watched->second.values == values)
         return;
     if (m_watched.size() > MostWatched)
-        m_peer->sendAway("The inspector watches too many nodes; detached.");
+        m_peer->sendAway(Sentence("The inspector watches too many nodes; detached."));
     m_interests.watch(node, values);
     if (!isNew)
         m_interests.unwatch(node, watched->second.values);
@@ -272,7 +287,8 @@ std::optional<Value> Attachment::wholeValue(std::optional<Value> value, const st
 {
     if (!value || isWellFormed(*value))
         return value;
-    complain("the value of “" + property + "” does not have the bytes of its kind");
+    complain(Sentence("The program’s adapter failed: the value of “%1” does not have the bytes of its kind.",
+                      {property}));
     return std::nullopt;
 }
 
@@ -369,9 +385,9 @@ void Attachment::sendNotice(const Notice& notice)
         send(MessageType::NoticeCame, 0, notice);
 }
 
-void Attachment::complain(const std::string& what)
+void Attachment::complain(const Sentence& sentence)
 {
-    sendNotice({NoticeLevel::Error, "The program’s adapter failed: " + what + "."});
+    sendNotice({NoticeLevel::Error, sentence});
 }
 
 } // namespace scopix::live

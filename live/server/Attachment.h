@@ -4,6 +4,8 @@
 #include "Interests.h"
 #include "Peer.h"
 
+#include <scopix/live/values/LiveSentence.h>
+
 #include <map>
 #include <set>
 #include <unordered_map>
@@ -98,7 +100,7 @@ private:
     void noteProperty(const AdapterChanges::Property& property);
     void noteEnd(NodeId node);
     void tellValue(const std::pair<NodeId, std::string>& property);
-    void complain(const std::string& what);
+    void complain(const Sentence& sentence);
 
     Adapter& m_adapter;
     Interests& m_interests;

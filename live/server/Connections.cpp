@@ -3,6 +3,7 @@
 
 #include <scopix/live/transport/SharedPicture.h>
 #include <scopix/live/transport/SocketFolder.h>
+#include <scopix/live/values/LiveSentence.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -192,11 +193,12 @@ void Connections::accept(FileDescriptor socket)
     Connection& connection = m_connections.emplace_back(std::move(socket));
     connection.stream.messages().setLongest(LongestGreeting);
     if (!user || !mayTalk(*user, geteuid()))
-        sendAway(connection, "The program “" + m_introduction.greeting.name +
-                                 "” belongs to another user; inspect it as that user.");
+        sendAway(connection, Sentence("The program “%1” belongs to another user; inspect it as that user.",
+                                      {m_introduction.greeting.name}));
     else if (m_connections.size() > MostConnections)
-        sendAway(connection, "The program “" + m_introduction.greeting.name +
-                                 "” has as many inspectors as it can have; detach another one first.");
+        sendAway(connection,
+                 Sentence("The program “%1” has as many inspectors as it can have; detach another one first.",
+                          {m_introduction.greeting.name}));
     else
         connection.stream.send({packedMessage(MessageType::Hello, 0, m_introduction), FileDescriptor()});
     write(connection);
@@ -231,7 +233,7 @@ void Connections::read(Connection& connection)
         take(connection, std::move(*message));
     }
     if (messages.isBroken() && !connection.isClosing)
-        sendAway(connection, "The inspector sent a message that is too long or damaged; detached.");
+        sendAway(connection, Sentence("The inspector sent a message that is too long or damaged; detached."));
     if (came)
         wakeProgram();
 }
@@ -243,20 +245,22 @@ void Connections::take(Connection& connection, Message message)
     else if (isSound(message))
         connection.peer->addQuestion(std::move(message));
     else
-        sendAway(connection, "The inspector sent a message that this program does not understand; detached.");
+        sendAway(connection,
+                 Sentence("The inspector sent a message that this program does not understand; detached."));
 }
 
 void Connections::greet(Connection& connection, const Message& message)
 {
     const std::optional<Greeting> greeting = contentsOf<Greeting>(message);
-    const std::string program = "The program “" + m_introduction.greeting.name + "”";
+    const std::string& program = m_introduction.greeting.name;
     if (!message.is(MessageType::Hello) || !greeting || !greeting->isOurs())
-        sendAway(connection, program + " was not greeted as an inspector greets it.");
+        sendAway(connection,
+                 Sentence("The program “%1” was not greeted as an inspector greets it.", {program}));
     else if (greeting->version != ProtocolVersion)
-        sendAway(connection, program + " speaks version " + std::to_string(ProtocolVersion) +
-                                 " of the protocol and this inspector version " +
-                                 std::to_string(greeting->version) +
-                                 "; use libraries and an inspector of the same version.");
+        sendAway(connection,
+                 Sentence("The program “%1” speaks version %2 of the protocol and this inspector version %3; "
+                          "use libraries and an inspector of the same version.",
+                          {program, std::to_string(ProtocolVersion), std::to_string(greeting->version)}));
     else
         attach(connection);
 }
@@ -305,7 +309,7 @@ void Connections::endLate(Connection& connection)
     if (connection.isClosing)
         connection.isOver |= now - connection.since > m_patience.closing;
     else if (!connection.peer && now - connection.since > m_patience.greeting)
-        sendAway(connection, "The inspector did not greet the program in time.");
+        sendAway(connection, Sentence("The inspector did not greet the program in time."));
     if (connection.stream.isSending() && now - connection.stream.lastProgress() > m_patience.taking)
         connection.isOver = true;
 }
@@ -343,7 +347,7 @@ void Connections::sayGoodbye()
         fetchAnswers(connection);
         if (!connection.isClosing)
             sendAway(connection,
-                     "The program “" + m_introduction.greeting.name + "” has ended its connection.");
+                     Sentence("The program “%1” has ended its connection.", {m_introduction.greeting.name}));
     }
     bool isSending = true;
     while (isSending && Clock::now() < end) {

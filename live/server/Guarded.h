@@ -8,7 +8,8 @@
 namespace scopix::live
 {
 
-/// Calls into an adapter, whose exceptions end here: `failed` gets their text, and its result is the result.
+/// Calls into an adapter, whose exceptions end here: `failed` gets their text, which may be
+/// empty, and its result is the result.
 template <class Function, class Failed>
 auto guarded(Function&& function, Failed&& failed) -> decltype(function())
 {
@@ -17,7 +18,7 @@ auto guarded(Function&& function, Failed&& failed) -> decltype(function())
     } catch (const std::exception& error) {
         return failed(std::string(error.what()));
     } catch (...) {
-        return failed(std::string("an exception of no known type"));
+        return failed(std::string());
     }
 }
 

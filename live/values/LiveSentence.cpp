@@ -11,6 +11,15 @@ Sentence Sentence::verbatim(std::string text)
     return sentence;
 }
 
+Sentence Sentence::known(const char* source, std::vector<std::string> arguments)
+{
+    Sentence sentence;
+    sentence.m_source = source;
+    sentence.m_arguments = std::move(arguments);
+    sentence.m_text = sentence.composed();
+    return sentence;
+}
+
 std::string Sentence::composed() const
 {
     std::string text;

@@ -12,9 +12,10 @@
 namespace scopix::live
 {
 
-/// What a client says, so that an inspector can put it into the user's language: the English text, a literal
-/// with places such as %1, and apart from it what stands there. A plain value, as SbSentence is for the
-/// scene-graph library, on which programs that are inspected need not stand. Empty unless something is said.
+/// What a client, a server or an adapter says, so that an inspector can put it into the user's language: the
+/// English text, a literal with places such as %1, and apart from it what stands there. A plain value, as
+/// SbSentence is for the scene-graph library, on which programs that are inspected need not stand. Empty
+/// unless something is said. Only the English text travels, by which the other end knows it again.
 class SCOPIX_LIVE_API Sentence
 {
 public:
@@ -28,6 +29,8 @@ public:
     }
     /// In the words of the program at the other end.
     static Sentence verbatim(std::string text);
+    /// The sentence of this source, which lives as long as the library, with what stands in its places.
+    static Sentence known(const char* source, std::vector<std::string> arguments);
 
     bool empty() const noexcept { return m_text.empty(); }
     /// In English.

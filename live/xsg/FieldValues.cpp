@@ -539,14 +539,16 @@ Value valueOf(const SoField& field)
     return packedText(text.str().substr(0, LongestText), ValueKind::Text);
 }
 
-std::string writeTo(SoField& field, const Value& value)
+Sentence writeTo(SoField& field, const std::string& property, const Value& value)
 {
     const Codec* codec = codecOf(field);
     if (!codec || !codec->write)
-        return "it can only be read";
+        return Sentence("“%1” cannot be set: it can only be read.", {property});
     if (codec->kind != value.kind || codec->list != value.list)
-        return "the value is of another type";
-    return codec->write(field, value) ? std::string() : "it cannot hold that value";
+        return Sentence("“%1” cannot be set: the value is of another type.", {property});
+    return codec->write(field, value)
+               ? Sentence()
+               : Sentence("“%1” cannot be set: it cannot hold that value.", {property});
 }
 
 } // namespace scopix::live

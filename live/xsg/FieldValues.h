@@ -3,6 +3,7 @@
 #pragma once
 
 #include <scopix/live/adapter/Adapter.h>
+#include <scopix/live/values/LiveSentence.h>
 
 #include <xsg/core/SoField.h>
 
@@ -14,8 +15,9 @@ PropertyInfo propertyOf(const SoField& field);
 /// A field of a type that has no kind here is its text.
 Value valueOf(const SoField& field);
 
-/// Empty where the field has taken the value, otherwise why it has not, as the end of a sentence.
-std::string writeTo(SoField& field, const Value& value);
+/// Empty where the field, which the inspector knows as `property`, has taken the value, otherwise why it has
+/// not.
+Sentence writeTo(SoField& field, const std::string& property, const Value& value);
 
 /// Names of xsg are Latin-1.
 std::string utf8Of(SbName name);

@@ -86,9 +86,9 @@ SoType nodeType(const std::string& name)
     return SoType::badType();
 }
 
-StructureResult refused(const std::string& reason)
+StructureResult refused(const Sentence& refusal)
 {
-    return {false, 0, reason};
+    return {false, 0, refusal};
 }
 
 SbRotation rotationOf(const Camera& camera)
@@ -279,7 +279,7 @@ StructureResult XsgAdapter::Private::put(SoGroup& parent, std::uint32_t index, S
 {
     const auto place = static_cast<int>(std::min(index, static_cast<std::uint32_t>(parent.getNumChildren())));
     if (!parent.insertChild(&node, place))
-        return refused("The node cannot be inserted there, since it would be its own descendant.");
+        return refused(Sentence("The node cannot be inserted there, since it would be its own descendant."));
     return {true, know(node).id, {}};
 }
 
@@ -391,11 +391,10 @@ WriteResult XsgAdapter::write(NodeId id, const std::string& property, const Valu
     const SoNode* node = m_private->find(id);
     SoField* field = node ? fieldOf(*node, property) : nullptr;
     if (!field)
-        return {false, {}, "“" + property + "” cannot be set: the node is no more or has no such field."};
-    const std::string reason = writeTo(*field, value);
-    if (!reason.empty())
-        return {false, valueOf(*field), "“" + property + "” cannot be set: " + reason + "."};
-    return {true, valueOf(*field), {}};
+        return {
+            false, {}, Sentence("“%1” cannot be set: the node is no more or has no such field.", {property})};
+    const Sentence refusal = writeTo(*field, property, value);
+    return {refusal.empty(), valueOf(*field), refusal};
 }
 
 std::vector<std::string> XsgAdapter::addableTypes(NodeId parent)
@@ -413,10 +412,11 @@ StructureResult XsgAdapter::add(NodeId parent, std::uint32_t index, const std::s
 {
     SoGroup* group = m_private->findGroup(parent);
     if (!group)
-        return refused("“" + type + "” cannot be added, since the group is no more.");
+        return refused(Sentence("“%1” cannot be added, since the group is no more.", {type}));
     const SoType wanted = nodeType(type);
     if (!wanted.canCreateInstance())
-        return refused("“" + type + "” cannot be added, since the program knows no node of this type.");
+        return refused(
+            Sentence("“%1” cannot be added, since the program knows no node of this type.", {type}));
     const SoRef<SoNode> node(static_cast<SoNode*>(wanted.createInstance()));
     return m_private->put(*group, index, *node);
 }
@@ -428,7 +428,7 @@ StructureResult XsgAdapter::remove(NodeId parent, std::uint32_t index)
                         ? group->getChild(static_cast<int>(index))
                         : nullptr;
     if (!child)
-        return refused("The node cannot be removed, since it is not there any more.");
+        return refused(Sentence("The node cannot be removed, since it is not there any more."));
     const NodeId id = m_private->know(*child).id;
     m_private->kept[id] = child;
     group->removeChild(static_cast<int>(index));
@@ -440,7 +440,7 @@ StructureResult XsgAdapter::insert(NodeId parent, std::uint32_t index, NodeId id
     SoGroup* group = m_private->findGroup(parent);
     SoNode* node = m_private->find(id);
     if (!group || !node)
-        return refused("The node cannot be inserted, since it or its group is no more.");
+        return refused(Sentence("The node cannot be inserted, since it or its group is no more."));
     return m_private->put(*group, index, *node);
 }
 
@@ -449,10 +449,11 @@ StructureResult XsgAdapter::copy(NodeId parent, std::uint32_t index, NodeId id)
     SoGroup* group = m_private->findGroup(parent);
     SoNode* node = m_private->find(id);
     if (!group || !node)
-        return refused("The node cannot be copied, since it or its group is no more.");
+        return refused(Sentence("The node cannot be copied, since it or its group is no more."));
     const SoRef<SoNode> made = xsg::copyBranch(node);
     if (!made)
-        return refused("The node cannot be copied, since something in it is of a kind that cannot be.");
+        return refused(
+            Sentence("The node cannot be copied, since something in it is of a kind that cannot be."));
     return m_private->put(*group, index, *made);
 }
 

@@ -139,8 +139,12 @@ TEST_F(MillProcess, RefusesAWriteInASentence)
     EXPECT_FALSE(wrongKind.taken);
     EXPECT_EQ(wrongKind.refusal, "“radius” cannot be set: the value is of another type.");
     EXPECT_EQ(unpacked<float>(wrongKind.value), 1.0F);
-    EXPECT_FALSE(probe.write(cylinder, "no such field", packed(ValueKind::Float, 2.0F)).taken);
+    const WriteResult noField = probe.write(cylinder, "no such field", packed(ValueKind::Float, 2.0F));
+    EXPECT_FALSE(noField.taken);
     EXPECT_FALSE(probe.write(4711, "radius", packed(ValueKind::Float, 2.0F)).taken);
+    const auto added = probe.ask<StructureResult>(&Client::add, root(), 0U, "Nonsense");
+    for (const std::string& refusal : {wrongKind.refusal, noField.refusal, added.refusal})
+        EXPECT_TRUE(isKnown(refusal)) << refusal;
 }
 
 TEST_F(MillProcess, TakesRandomEditsAndTheirUndoToTheLastBit)

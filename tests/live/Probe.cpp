@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Probe.h"
 
+#include <scopix/live/client/SentenceOfProgram.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -42,6 +44,11 @@ std::vector<Program> ownPrograms()
     const auto isElsewhere = [&](const Program& each) { return each.socketPath.rfind(start, 0) != 0; };
     programs.erase(std::remove_if(programs.begin(), programs.end(), isElsewhere), programs.end());
     return programs;
+}
+
+bool isKnown(const std::string& words)
+{
+    return sentenceOfProgram(words).source() != nullptr;
 }
 
 bool Probe::runUntil(const std::function<bool()>& condition)

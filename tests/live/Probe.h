@@ -34,6 +34,9 @@ private:
 /// The programs whose sockets are in the runtime directory of this test; others may run on this machine.
 std::vector<scopix::live::Program> ownPrograms();
 
+/// Whether an inspector can say this in the user's language.
+bool isKnown(const std::string& words);
+
 /// A client that keeps what it is told. `step` is called while it waits, as for a program in the same thread.
 class Probe : public scopix::live::ClientListener
 {

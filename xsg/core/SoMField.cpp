@@ -50,7 +50,7 @@ bool SoMField::hasMemoryTo(Change change, int wanted)
     } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {
     }
-    SoMemoryError::post(std::string("the values of the field \"") + getName().getString() + '"',
+    SoMemoryError::post(SbSentence("the values of the field \"%1\"", getName().getString()),
                         static_cast<std::size_t>(wanted) * bytesPerValue());
     return false;
 }

@@ -37,21 +37,35 @@ std::optional<std::string> lookUp(const char* name)
     return value ? value : setByApplication(name);
 }
 
-void warnOnce(const char* name, const std::string& text, const char* expected)
+void warnOnce(const SbSentence& sentence)
 {
-    const std::string sentence = std::string("The setting ") + name + " is \"" + text + "\"; expected " +
-                                 expected + ". The default is used.";
     {
         const std::lock_guard<std::mutex> lock(store().mutex);
-        if (!store().warned.insert(sentence).second)
+        if (!store().warned.insert(sentence.getText()).second)
             return;
     }
     // Outside the lock: a handler may ask for preferences.
     SoDebugError::postWarning("SoPreferences", sentence);
 }
 
+SbSentence misfit(bool /*type*/, const char* name, const std::string& text)
+{
+    return SbSentence("The setting %1 is \"%2\"; expected 1, 0, TRUE or FALSE. The default is used.", name,
+                      text);
+}
+
+SbSentence misfit(int /*type*/, const char* name, const std::string& text)
+{
+    return SbSentence("The setting %1 is \"%2\"; expected a whole number. The default is used.", name, text);
+}
+
+SbSentence misfit(float /*type*/, const char* name, const std::string& text)
+{
+    return SbSentence("The setting %1 is \"%2\"; expected a number. The default is used.", name, text);
+}
+
 template <class T>
-T parsed(const char* name, T fallback, const char* expected)
+T parsed(const char* name, T fallback)
 {
     const auto text = lookUp(name);
     if (!text)
@@ -60,7 +74,7 @@ T parsed(const char* name, T fallback, const char* expected)
     xsg::TextReader in(*text);
     if (xsg::ValueText<T>::read(in, value) && in.onlyBlanksLeft())
         return value;
-    warnOnce(name, *text, expected);
+    warnOnce(misfit(fallback, name, *text));
     return fallback;
 }
 
@@ -68,17 +82,17 @@ T parsed(const char* name, T fallback, const char* expected)
 
 bool SoPreferences::getBool(const char* name, bool fallback)
 {
-    return parsed(name, fallback, "1, 0, TRUE or FALSE");
+    return parsed(name, fallback);
 }
 
 int SoPreferences::getInt(const char* name, int fallback)
 {
-    return parsed(name, fallback, "a whole number");
+    return parsed(name, fallback);
 }
 
 float SoPreferences::getFloat(const char* name, float fallback)
 {
-    return parsed(name, fallback, "a number");
+    return parsed(name, fallback);
 }
 
 SbString SoPreferences::getString(const char* name, const SbString& fallback)

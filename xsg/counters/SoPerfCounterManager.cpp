@@ -13,9 +13,11 @@ namespace
 
 void reportLoop(const SoPerfCounter& counter)
 {
-    SoDebugError::post("SoPerfCounterManager",
-                       std::string("The counter \"") + counter.getName().getString() +
-                           "\" would be computed from itself; expected parents that do not depend on it.");
+    SoDebugError::post(
+        "SoPerfCounterManager",
+        SbSentence("The counter \"%1\" would be computed from itself; expected parents that do "
+                   "not depend on it.",
+                   counter.getName().getString()));
 }
 
 } // namespace

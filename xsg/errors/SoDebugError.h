@@ -16,12 +16,19 @@ public:
     static void post(const char* source, const SbString& sentence) { post(ERROR, source, sentence); }
     static void postWarning(const char* source, const SbString& sentence) { post(WARNING, source, sentence); }
     static void postInfo(const char* source, const SbString& sentence) { post(INFO, source, sentence); }
+    static void post(const char* source, const SbSentence& sentence) { post(ERROR, source, sentence); }
+    static void postWarning(const char* source, const SbSentence& sentence)
+    {
+        post(WARNING, source, sentence);
+    }
+    static void postInfo(const char* source, const SbSentence& sentence) { post(INFO, source, sentence); }
 
     Severity getSeverity() const { return m_severity; }
 
 private:
-    SoDebugError(Severity severity, const char* source, const SbString& sentence);
+    SoDebugError(Severity severity, const char* source, const SbSentence& sentence);
     static void post(Severity severity, const char* source, const SbString& sentence);
+    static void post(Severity severity, const char* source, const SbSentence& sentence);
 
     Severity m_severity;
 };

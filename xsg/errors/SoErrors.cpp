@@ -72,13 +72,18 @@ void SoError::post(const SbSentence& sentence)
     handler().handle(SoError(sentence));
 }
 
-SoDebugError::SoDebugError(Severity severity, const char* source, const SbString& sentence)
-    : SoErrorClass(SbString(std::string(source ? source : "") + ": " + sentence.str()))
+SoDebugError::SoDebugError(Severity severity, const char* source, const SbSentence& sentence)
+    : SoErrorClass(SbSentence("%1: %2", source ? source : "", sentence))
     , m_severity(severity)
 {
 }
 
 void SoDebugError::post(Severity severity, const char* source, const SbString& sentence)
+{
+    post(severity, source, SbSentence::verbatim(sentence.str()));
+}
+
+void SoDebugError::post(Severity severity, const char* source, const SbSentence& sentence)
 {
     handler().handle(SoDebugError(severity, source, sentence));
 }
@@ -111,12 +116,17 @@ void SoReadError::post(const SbString& file, int line, int column, const SbSente
     handler().handle(SoReadError(file, line, column, sentence));
 }
 
-SoMemoryError::SoMemoryError(const SbString& wanted, std::size_t bytes)
-    : SoErrorClass(SbSentence("No memory for %1: %2 bytes were asked for.", wanted.str(), bytes))
+SoMemoryError::SoMemoryError(const SbSentence& wanted, std::size_t bytes)
+    : SoErrorClass(SbSentence("No memory for %1: %2 bytes were asked for.", wanted, bytes))
 {
 }
 
 void SoMemoryError::post(const SbString& wanted, std::size_t bytes)
+{
+    post(SbSentence::verbatim(wanted.str()), bytes);
+}
+
+void SoMemoryError::post(const SbSentence& wanted, std::size_t bytes)
 {
     handler().handle(SoMemoryError(wanted, bytes));
 }

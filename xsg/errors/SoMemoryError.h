@@ -11,9 +11,10 @@ public:
 
     /// wanted: what it was for; bytes: how much was asked for.
     static void post(const SbString& wanted, std::size_t bytes);
+    static void post(const SbSentence& wanted, std::size_t bytes);
 
 private:
-    SoMemoryError(const SbString& wanted, std::size_t bytes);
+    SoMemoryError(const SbSentence& wanted, std::size_t bytes);
 };
 
 extern template class SoTyped<SoMemoryError, SoError>;

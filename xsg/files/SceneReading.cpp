@@ -4,12 +4,12 @@
 #include <xsg/counters/LibraryCounters.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/support/SpecialFile.h>
+#include <xsg/support/SystemReason.h>
 #include <xsg/values/Printable.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <sys/stat.h>
 
 namespace
@@ -45,7 +45,7 @@ void xsg::SceneReading::open()
     struct stat about {
     };
     if (!m_file || fstat(fileno(m_file.get()), &about) != 0)
-        return refuse(SbSentence("The file cannot be read: %1.", std::strerror(errno)));
+        return refuse(SbSentence("The file cannot be read: %1.", systemReason(errno)));
     m_size = static_cast<std::size_t>(about.st_size);
     if (m_size > LargestFile)
         return refuse(

@@ -4,9 +4,9 @@
 #include <xsg/frames/FrameBytes.h>
 #include <xsg/support/FileReplacement.h>
 #include <xsg/support/SpecialFile.h>
+#include <xsg/support/SystemReason.h>
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <fstream>
 #include <unistd.h>
@@ -186,7 +186,7 @@ SoFrameFile::~SoFrameFile()
 
 bool SoFrameFile::fail(int code)
 {
-    m_problem = SbSentence::verbatim(std::strerror(code));
+    m_problem = xsg::systemReason(code);
     close();
     return false;
 }

@@ -6,21 +6,29 @@ namespace
 
 std::string text(const SoImageSize& size)
 {
-    return std::to_string(size.width) + " \xC3\x97 " + std::to_string(size.height);
+    return std::to_string(size.width) + " × " + std::to_string(size.height);
 }
 
 } // namespace
 
-std::string xsg::describeFit(const std::string& name, const SoImageSize& size, const SoImageSize& fitted,
-                             const PictureBudget& budget, int mostSide)
+SbSentence xsg::describeFit(const std::string& name, const SoImageSize& size, const SoImageSize& fitted,
+                            const PictureBudget& budget, int mostSide)
 {
-    const std::string what =
-        fitted.isEmpty() ? "is left out" : "is brought down to " + text(fitted) + " pixels";
-    const std::string why = std::max(size.width, size.height) > mostSide
-                                ? "here no side can have more than " + std::to_string(mostSide)
-                                : "all pictures of a scene may take " +
-                                      std::to_string(budget.getBytes() / PictureBudget::MiB) +
-                                      " MiB together (XSG_PICTURE_MEMORY in the preferences)";
-    return "The picture \xE2\x80\x9C" + name + "\xE2\x80\x9D of " + text(size) + " pixels " + what + ", as " +
-           why + ".";
+    const std::string whole = text(size);
+    if (std::max(size.width, size.height) > mostSide)
+        return fitted.isEmpty()
+                   ? SbSentence("The picture “%1” of %2 pixels is left out, as here no side can have more "
+                                "than %3.",
+                                name, whole, mostSide)
+                   : SbSentence("The picture “%1” of %2 pixels is brought down to %3 pixels, as here no side "
+                                "can have more than %4.",
+                                name, whole, text(fitted), mostSide);
+    const std::int64_t most = budget.getBytes() / PictureBudget::MiB;
+    return fitted.isEmpty()
+               ? SbSentence("The picture “%1” of %2 pixels is left out, as all pictures of a scene may take "
+                            "%3 MiB together (XSG_PICTURE_MEMORY in the preferences).",
+                            name, whole, most)
+               : SbSentence("The picture “%1” of %2 pixels is brought down to %3 pixels, as all pictures of "
+                            "a scene may take %4 MiB together (XSG_PICTURE_MEMORY in the preferences).",
+                            name, whole, text(fitted), most);
 }

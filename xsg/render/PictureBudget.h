@@ -3,6 +3,7 @@
 
 #include <xsg/core/SoPreferences.h>
 #include <xsg/render/SoImageReader.h>
+#include <xsg/values/SbSentence.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -70,7 +71,7 @@ private:
 };
 
 /// One sentence about a picture that could not be as large as it is. An empty `fitted`: it was left out.
-XSG_API std::string describeFit(const std::string& name, const SoImageSize& size, const SoImageSize& fitted,
-                                const PictureBudget& budget, int mostSide);
+XSG_API SbSentence describeFit(const std::string& name, const SoImageSize& size, const SoImageSize& fitted,
+                               const PictureBudget& budget, int mostSide);
 
 } // namespace xsg

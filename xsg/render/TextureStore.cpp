@@ -158,9 +158,9 @@ void xsg::TextureStore::report(const SoTexture2& node, const SoImageSize& size, 
     std::string name = path.substr(path.find_last_of('/') + 1);
     if (name.empty())
         name = node.getReferenceName().getString();
-    const std::string sentence = describeFit(name, size, fitted, m_budget, mostSide);
-    if (m_reported.insert(sentence).second)
-        SoError::post(sentence.c_str());
+    const SbSentence sentence = describeFit(name, size, fitted, m_budget, mostSide);
+    if (m_reported.insert(sentence.getText()).second)
+        SoError::post(sentence);
 }
 
 void xsg::TextureStore::beginRound(std::uint64_t sceneId)

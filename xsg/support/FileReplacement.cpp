@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <xsg/support/FileReplacement.h>
 
+#include <xsg/support/SystemReason.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <random>
 
@@ -266,7 +267,7 @@ bool xsg::FileReplacement::commit()
 
 bool xsg::FileReplacement::fail(int code)
 {
-    m_problem = SbSentence::verbatim(std::strerror(code));
+    m_problem = systemReason(code);
     discard();
     return false;
 }

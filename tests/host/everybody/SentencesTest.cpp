@@ -9,6 +9,7 @@
 
 #include <scopix/SpxSentence.h>
 #include <scopix/editing/expression/SpxExpression.h>
+#include <scopix/live/client/SentenceOfProgram.h>
 #include <xsg/changes/PatchApplication.h>
 #include <xsg/errors/SoReadError.h>
 #include <xsg/files/SceneReader.h>
@@ -18,7 +19,9 @@
 #include <xsg/frames/SoFrameFile.h>
 #include <xsg/paths/ChildTable.h>
 #include <xsg/query/SoQuery.h>
+#include <xsg/render/PictureBudget.h>
 #include <xsg/render/SoOffscreenRenderer.h>
+#include <xsg/support/SystemReason.h>
 
 #include <support/BadPatchLines.h>
 
@@ -30,6 +33,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <cstring>
 #include <set>
 
 #include <sys/stat.h>
@@ -294,6 +299,35 @@ TEST_F(Sentences, OfPicturesAreTranslated)
     SoPixels pixels;
     EXPECT_FALSE(renderer.render(someScene().get(), nullptr, 0, 10, pixels));
     expectSaid(renderer.getError(), "a picture without a width");
+}
+
+TEST_F(Sentences, OfRunningProgramsAreTranslated)
+{
+    for (const char* const* each = live::SentencesOfPrograms; *each; ++each)
+        EXPECT_TRUE(toText(live::Sentence::known(*each, {"1", "2", "3"}).text()).startsWith('[')) << *each;
+    Languages::instance()->speak("de");
+    EXPECT_EQ(toText("“radius” cannot be set: the value is of another type."),
+              "„radius“ lässt sich nicht setzen: Der Wert ist von einem anderen Typ.");
+    EXPECT_EQ(toText("It is not to its liking."), "It is not to its liking.") << "the words of the program";
+}
+
+TEST_F(Sentences, OfPicturesThatDoNotFitAreTranslated)
+{
+    const xsg::PictureBudget budget(xsg::PictureBudget::MiB);
+    for (const SoImageSize& size : {SoImageSize{100, 100}, SoImageSize{5000, 10}})
+        for (const SoImageSize& fitted : {SoImageSize{}, SoImageSize{50, 5}})
+            expectSaid(xsg::describeFit("wood.png", size, fitted, budget, 4096), "a picture");
+    EXPECT_GE(met(), 4U);
+}
+
+TEST_F(Sentences, OfTheSystemAreTranslated)
+{
+    for (const int code : {EACCES, EPERM, ENOENT, EEXIST, EISDIR, ENOTDIR, ELOOP, ENAMETOOLONG, EROFS, ENOSPC,
+                           EDQUOT, EFBIG, EIO, EBUSY, ETXTBSY, EMFILE, ENFILE, ENOMEM}) {
+        expectSaid(xsg::systemReason(code), std::to_string(code));
+        EXPECT_EQ(xsg::systemReason(code).getText(), std::strerror(code)) << "in English as ever";
+    }
+    EXPECT_EQ(xsg::systemReason(EDOM).getText(), std::strerror(EDOM));
 }
 
 TEST_F(Sentences, OfProgramsThatCannotBeAttachedToAreTranslated)

@@ -2,6 +2,7 @@
 // The window with a running program, used as a person does.
 #include "LiveWindowFixture.h"
 
+#include "language/Languages.h"
 #include "live/LivePicture.h"
 #include "live/LiveReplay.h"
 #include "live/LiveScene.h"
@@ -141,6 +142,28 @@ TEST_F(LiveWindow, PutsBackWhatTheProgramRefuses)
     ASSERT_TRUE(wait([&] { return shown.getValue() == 3.5; }));
     EXPECT_TRUE(wait([&] { return services.undoStack().count() == 0; }));
     EXPECT_TRUE(told.last().contains("It is not to its liking.")) << told.last().toStdString();
+}
+
+TEST_F(LiveWindow, SaysInTheUsersLanguageWhyTheProgramRefuses)
+{
+    Languages::begin();
+    const std::unique_ptr<Languages> language(Languages::instance());
+    language->speak("de");
+    program.scene.refused.insert("radius");
+    program.scene.refusal = "“radius” cannot be set: it can only be read.";
+    attach();
+    ASSERT_TRUE(unfold("sky"));
+    LiveNode* mars = select("mars");
+    ASSERT_TRUE(mars);
+    auto& shown = field<SoSFDouble>(*mars, "radius");
+    edit(shown, [&] { shown.setValue(4); });
+    EXPECT_TRUE(wait([&] { return services.undoStack().count() == 0; }));
+    EXPECT_TRUE(told.last().endsWith("„radius“ lässt sich nicht setzen: Es lässt sich nur lesen."))
+        << told.last().toStdString();
+    const LiveScene* scene = window.getLive().getScene();
+    program.kill();
+    ASSERT_TRUE(wait([&] { return scene->getState() == LiveScene::State::Ended; }));
+    EXPECT_EQ(scene->getEnd(), "Das Programm „orrery“ hat seine Verbindung beendet.");
 }
 
 TEST_F(LiveWindow, ShowsWhatTheProgramChangesAndRecordsNoEdit)

@@ -38,6 +38,7 @@ public:
     std::map<NodeId, Node> nodes;
     std::vector<NodeId> top;
     std::set<std::string> refused;
+    std::string refusal = "It is not to its liking.";
     std::set<NodeId> fullGroups;
     bool tellsOfChildren = false; // also of those that we have edited
     std::vector<std::string> addable{"Comet", "Group", "Moon", "Planet"};
@@ -118,7 +119,7 @@ public:
             return {false, {}, "There is no such property."};
         Value& here = nodes[id].values[property];
         if (refused.count(property) > 0 || value.kind != here.kind || value.list != here.list)
-            return {false, here, "It is not to its liking."};
+            return {false, here, refusal};
         here = clamped(id, property, value);
         ++writes;
         return {true, here, {}};

@@ -194,6 +194,8 @@ TEST_F(Served, TurnsExceptionsOfTheAdapterIntoRefusals)
     EXPECT_EQ(result.refusal, "The program could not do it: an exception of no known type.");
     ASSERT_FALSE(probe->notices.empty());
     EXPECT_EQ(probe->notices.front().text, "The program’s adapter failed: it does not want to.");
+    EXPECT_TRUE(isKnown(result.refusal));
+    EXPECT_TRUE(isKnown(probe->notices.front().text));
 }
 
 TEST_F(Served, SendsNoValueThatIsNotWhatItsKindSays)

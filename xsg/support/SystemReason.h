@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xsg/values/SbSentence.h>
+#include <xsg/values/XsgExport.h>
+
+namespace xsg
+{
+
+/// What the system says by this value of errno, as the end of a sentence: in words of the catalogues for what
+/// files meet, else in those of the C library, whose language is the system's (decisions.md: system-words).
+/// Any thread.
+XSG_API SbSentence systemReason(int code);
+
+} // namespace xsg
