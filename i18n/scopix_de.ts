@@ -2086,8 +2086,8 @@
         <translation>--launch erwartet ein Programm und seine Argumente, aber es wurde nichts angegeben.</translation>
     </message>
     <message>
-        <source>The scene or model to open; several get a tab each, the first in front.</source>
-        <translation>Die Szene oder das Modell, das geöffnet wird; mehrere bekommen je einen Tab, die erste steht vorn.</translation>
+        <source>The scene or model to open; several get a tab each, the first in front. A patch among them is for the one before it.</source>
+        <translation>Die Szene oder das Modell, das geöffnet wird; mehrere bekommen je einen Tab, die erste steht vorn. Ein Patch dazwischen gilt für die Datei vor ihm.</translation>
     </message>
     <message>
         <source>--select expects NODE.FIELD, such as Material.transparency, and not “%1”.</source>
@@ -3904,8 +3904,8 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>„%1“ ist ein Patch, und es ist keine Szene geöffnet, die er ändern könnte: Öffne die, für die er gemacht ist, und wähle dann Datei ▸ Patch anwenden … oder ziehe den Patch ins Fenster.</translation>
     </message>
     <message>
-        <source>Apply the patch “%1” to the scene that is open?</source>
-        <translation>Den Patch „%1“ auf die geöffnete Szene anwenden?</translation>
+        <source>Apply the patch “%1” to “%2”?</source>
+        <translation>Den Patch „%1“ auf „%2“ anwenden?</translation>
     </message>
     <message numerus="yes">
         <source>It has %n change(s). What fits is applied, and can be undone as one step.</source>
@@ -3950,6 +3950,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Save Turntable</source>
         <translation>Drehansicht speichern</translation>
+    </message>
+    <message>
+        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
+        <translation>„%1“ wird nicht angewandt: „%2“ sollte er ändern, und das ist nicht offen.</translation>
     </message>
     <message>
         <source>Pictures (*.%1)</source>

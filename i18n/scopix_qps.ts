@@ -2086,8 +2086,8 @@
         <translation>[--làûñçĥ éxpéçţš à pŕöĝŕàm àñd îţš àŕĝûméñţš, àñd ñöţĥîñĝ wàš ĝîvéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>The scene or model to open; several get a tab each, the first in front.</source>
-        <translation>[Ţĥé šçéñé öŕ mödél ţö öpéñ; šévéŕàl ĝéţ à ţàb éàçĥ, ţĥé fîŕšţ îñ fŕöñţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>The scene or model to open; several get a tab each, the first in front. A patch among them is for the one before it.</source>
+        <translation>[Ţĥé šçéñé öŕ mödél ţö öpéñ; šévéŕàl ĝéţ à ţàb éàçĥ, ţĥé fîŕšţ îñ fŕöñţ. À pàţçĥ àmöñĝ ţĥém îš föŕ ţĥé öñé béföŕé îţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>--select expects NODE.FIELD, such as Material.transparency, and not “%1”.</source>
@@ -3904,8 +3904,8 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[“%1” îš à pàţçĥ, àñd ñö šçéñé îš öpéñ ţĥàţ îţ çöûld çĥàñĝé: öpéñ ţĥé öñé ţĥàţ îţ wàš màdé föŕ, ţĥéñ dŕöp ţĥé pàţçĥ öñ ţĥé wîñdöw öŕ çĥööšé Fîlé ▸ Àpplý Pàţçĥ…. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
-        <source>Apply the patch “%1” to the scene that is open?</source>
-        <translation>[Àpplý ţĥé pàţçĥ “%1” ţö ţĥé šçéñé ţĥàţ îš öpéñ? ~~~~~~~~~~~~~~~~~~~]</translation>
+        <source>Apply the patch “%1” to “%2”?</source>
+        <translation>[Àpplý ţĥé pàţçĥ “%1” ţö “%2”? ~~~~~~~~~~~~]</translation>
     </message>
     <message numerus="yes">
         <source>It has %n change(s). What fits is applied, and can be undone as one step.</source>
@@ -3950,6 +3950,10 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Save Turntable</source>
         <translation>[Šàvé Ţûŕñţàblé ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
+        <translation>[“%1” îš ñöţ àpplîéd: “%2”, wĥîçĥ îţ wàš ţö çĥàñĝé, îš ñöţ öpéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Pictures (*.%1)</source>

@@ -88,9 +88,11 @@ void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(tr(windowCommand().summary));
     parser.addOptions(options());
-    parser.addPositionalArgument(
-        QStringLiteral("FILE"), tr("The scene or model to open; several get a tab each, the first in front."),
-        QStringLiteral("[FILE...]"));
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 tr("The scene or model to open; several get a tab each, the first in front. "
+                                    "A patch among them is for "
+                                    "the one before it."),
+                                 QStringLiteral("[FILE...]"));
 }
 
 // The part behind the last dot is the field: names of nodes may have dots.

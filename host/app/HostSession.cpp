@@ -246,7 +246,9 @@ void HostSession::openFinished(bool opened)
         return; // a file that the user opened later
     const CommandLine line = *m_asked;
     m_asked.reset();
-    if (opened && !line.selectNode.isEmpty())
+    // Of several files, those that cannot be opened take nothing from those that can.
+    const bool isAnyOpen = opened || !m_window->windowFilePath().isEmpty();
+    if (isAnyOpen && !line.selectNode.isEmpty())
         m_window->selectField(line.selectNode, line.selectField);
     // From the event loop, when profile and editors are set up.
     QMetaObject::invokeMethod(

@@ -59,7 +59,8 @@ public:
     /// returns. What was open stays open when it fails. Problems are reported through UserNotifier.
     virtual void openFile(const QString& path) = 0;
     /// The same for several, each in a tab; the first that can be opened ends up in front, and openFinished()
-    /// says whether all are. A window without tabs opens the first.
+    /// says whether all are. A patch among them is for the scene before it. A window without tabs opens the
+    /// first.
     virtual void openFiles(const QStringList& paths) { openFile(paths.first()); }
     /// The same for a user who works with the window, who is asked for what is not saved.
     virtual void openAnother(const QString& path) { openFile(path); }

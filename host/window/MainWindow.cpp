@@ -38,6 +38,7 @@
 #include "window/OnScreen.h"
 #include "window/PaletteActs.h"
 #include "window/PatchActs.h"
+#include "window/PatchesAmongFiles.h"
 #include "window/PictureActs.h"
 #include "window/PlaybackActs.h"
 #include "window/ReloadBar.h"
@@ -158,7 +159,8 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
                     m_playback->getPlayback(), m_pane->getPoints().getMarks()},
                    this);
     connect(&m_files.getScenes(), &OpenScenes::stateChanged, this, &MainWindow::showTitle);
-    connect(&m_files, &SceneFiles::opened, this, &MainWindow::openFinished);
+    connect(&m_files, &SceneFiles::opened, this,
+            [this](bool good) { emit openFinished(m_amongFiles->applyAll() && good); });
     connect(&m_notifier, &UserNotifier::told, this,
             [this](const QString& text) { statusBar()->showMessage(text, MessageMs); });
     auto* reload = new ReloadBar(m_files, *m_view);
@@ -233,6 +235,7 @@ void MainWindow::makeDocks()
         addDock(&m_changes->getPanel(), tr("Changes"), QStringLiteral("changesDock"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_historyDock, m_changesDock);
     m_changes->setDock(m_changesDock);
+    m_amongFiles = new PatchesAmongFiles(m_files, m_changes->getPatches(), m_notifier, this);
     m_tree->setChanged([this](const SoNode* node) { return m_changes->getEdits().isChanged(node); });
     connect(m_changes, &SceneChanges::changed, m_tree->viewport(), qOverload<>(&QWidget::update));
     setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
@@ -562,7 +565,11 @@ void MainWindow::openFile(const QString& path)
 
 void MainWindow::openFiles(const QStringList& paths)
 {
-    m_files.openInTabs(paths);
+    const QStringList scenes = m_amongFiles->take(paths);
+    if (scenes.isEmpty())
+        emit openFinished(m_amongFiles->applyAll());
+    else
+        m_files.openInTabs(scenes);
 }
 
 void MainWindow::openAnother(const QString& path)

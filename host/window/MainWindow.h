@@ -25,6 +25,7 @@ class HelpWindow;
 class LiveActs;
 class SceneChanges;
 class PaletteActs;
+class PatchesAmongFiles;
 class PictureActs;
 class SettingsActs;
 class Welcome;
@@ -172,6 +173,7 @@ private:
     SceneChanges* m_changes = nullptr;
     QMenu* m_editMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
+    PatchesAmongFiles* m_amongFiles = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;

@@ -19,6 +19,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace scopix
 {
@@ -125,7 +126,7 @@ bool PatchActs::apply(const QString& path)
     return true;
 }
 
-bool PatchActs::offer(const QString& path)
+bool PatchActs::offer(const QString& path, const std::function<void()>& answered)
 {
     xsg::SceneChanges changes;
     if (!m_notifier.isAttended())
@@ -133,17 +134,26 @@ bool PatchActs::offer(const QString& path)
     if (!read(path, changes))
         return false;
     const QString name = QFileInfo(path).fileName();
-    auto* box = new QMessageBox(QMessageBox::Question, QApplication::applicationDisplayName(),
-                                tr("Apply the patch “%1” to the scene that is open?").arg(printable(name)),
-                                QMessageBox::Cancel, &m_window);
+    auto* box = new QMessageBox(
+        QMessageBox::Question, QApplication::applicationDisplayName(),
+        tr("Apply the patch “%1” to “%2”?").arg(printable(name), printable(m_files.getDocument().getTitle())),
+        QMessageBox::Cancel, &m_window);
     box->setObjectName(QStringLiteral("patchOffer"));
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(tr("It has %n change(s). What fits is applied, and can be undone as one step.",
                                nullptr, static_cast<int>(changes.size())));
     box->setDefaultButton(box->addButton(tr("&Apply"), QMessageBox::AcceptRole));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    connect(box, &QMessageBox::accepted, this,
-            [this, changes = std::move(changes), name] { apply(changes, name); });
+    // From a further window, another scene may come to the front meanwhile.
+    const QPointer<OpenScene> scene(&m_files.getScenes().getFront());
+    connect(box, &QMessageBox::accepted, this, [this, scene, changes = std::move(changes), name] {
+        if (scene)
+            m_files.getScenes().bringToFront(*scene);
+        if (scene)
+            apply(changes, name);
+    });
+    if (answered)
+        connect(box, &QMessageBox::finished, this, answered, Qt::QueuedConnection);
     box->open();
     return true;
 }

@@ -35,8 +35,9 @@ public:
     bool save(const QString& path);
     /// False where it cannot be read, or no scene is open, which is told.
     bool apply(const QString& path);
-    /// Asks first, where somebody is there to answer: for a patch that was opened like a scene.
-    bool offer(const QString& path);
+    /// Asks first, where somebody is there to answer: for a patch that was opened like a scene. `answered`
+    /// follows from the event loop where it returns true and has asked.
+    bool offer(const QString& path, const std::function<void()>& answered = {});
     void apply(xsg::SceneChanges changes, const QString& name);
     /// To the clipboard.
     void copy();

@@ -27,6 +27,7 @@
 #include <QLocale>
 #include <QMessageBox>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -86,17 +87,23 @@ void SceneFiles::finish(bool good)
     emit opened(row.isGood);
 }
 
+OpenScene* SceneFiles::findOpen(const QString& path) const
+{
+    const std::vector<OpenScene*> all = m_scenes.getAll();
+    const auto found = std::find_if(all.begin(), all.end(), [&path](const OpenScene* each) {
+        const QString& own = each->getDocument().getPath();
+        return !own.isEmpty() && QFileInfo(own) == QFileInfo(path);
+    });
+    return found == all.end() ? nullptr : *found;
+}
+
 void SceneFiles::readInTab(const QString& path)
 {
-    for (OpenScene* each : m_scenes.getAll()) {
-        if (each->getDocument().getPath().isEmpty() ||
-            QFileInfo(each->getDocument().getPath()) != QFileInfo(path))
-            continue;
-        m_scenes.bringToFront(*each);
-        finish(true);
-        return;
-    }
-    read(path, nullptr);
+    OpenScene* open = findOpen(path);
+    if (!open)
+        return read(path, nullptr);
+    m_scenes.bringToFront(*open);
+    finish(true);
 }
 
 // Null: in a place of its own.

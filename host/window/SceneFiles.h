@@ -44,6 +44,8 @@ public:
     /// Each beside what is open, one after the other; the first that can be opened ends up in front. opened()
     /// follows once, and says whether all are. Cancelling one leaves out those that are still to come.
     void openInTabs(const QStringList& paths);
+    /// What was opened from this file; null where nothing was.
+    OpenScene* findOpen(const QString& path) const;
     /// False when it is not written: it cannot be, which is reported, or another program has changed the file
     /// since it was opened, and the user does not want to replace it; or its ending is one to export to,
     /// which keeps less than the scene.

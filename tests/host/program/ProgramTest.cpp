@@ -260,6 +260,19 @@ TEST_F(Program, RefusesToSelectWhatIsNotThere)
     EXPECT_TRUE(outcome.said.contains("Nobody")) << qPrintable(outcome.said);
 }
 
+TEST_F(Program, SelectsInWhatCouldBeOpenedOfSeveralFiles)
+{
+    const QString scene = write("good.xsg", "#Xsg V1.0 utf8\nMaterial \"Paint\" {}\n");
+    const QString missing = folder.filePath("none.xsg");
+    Outcome outcome = run({missing, scene, "--select", "Paint.transparency", "--quit"});
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_EQ(outcome.said.count('\n'), 0) << qPrintable(outcome.said);
+    outcome = run({missing, scene, "--select", "Nobody.transparency", "--quit"});
+    EXPECT_TRUE(outcome.said.contains("Nobody")) << qPrintable(outcome.said);
+    outcome = run({missing, folder.filePath("nor.xsg"), "--select", "Nobody.transparency", "--quit"});
+    EXPECT_FALSE(outcome.said.contains("Nobody")) << qPrintable(outcome.said);
+}
+
 TEST_F(Program, RefusesAnUnknownOption)
 {
     const Outcome outcome = run({"--frobnicate"});

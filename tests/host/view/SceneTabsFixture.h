@@ -104,6 +104,16 @@ protected:
         EXPECT_TRUE(SoSceneFile::write(root.get(), path.toStdString(), error)) << error;
         return path;
     }
+    // Of a scene that makeFile() made.
+    QString makePatch(const QString& name, const QString& node)
+    {
+        const QString path = home.filePath(name + ".xsgpatch");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("#XsgPatch V1.0 utf8\nset /Separator[" + QByteArray::number(node.right(1).toInt()) + "]/" +
+                   node.toUtf8() + ".shininess 0.75\n");
+        return path;
+    }
     void openInTab(const QString& path)
     {
         QSignalSpy opened(&files(), &SceneFiles::opened);
@@ -118,6 +128,7 @@ protected:
         QCoreApplication::processEvents();
     }
     SceneFiles& files() { return program->window.getFiles(); }
+    HostServices& services() { return program->services; }
     OpenScenes& scenes() { return files().getScenes(); }
     SceneTabs& tabs() { return program->window.getTabs(); }
     SceneTreeView& tree() { return program->window.getTree(); }

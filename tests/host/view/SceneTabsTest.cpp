@@ -205,6 +205,58 @@ TEST_F(Tabs, SeveralFilesOpenInARow)
     EXPECT_EQ(program->notifier.errorCount(), 2);
 }
 
+TEST_F(Tabs, APatchAmongFilesIsForTheSceneBeforeIt)
+{
+    QSignalSpy opened(&program->window, &HostWindow::openFinished);
+    program->notifier.setAttended(false);
+    program->window.openFiles({makePatch("first", "paintA0"), makeFile("A"), makeFile("B"),
+                               makePatch("second", "paintB0"), home.filePath("missing.xsg"),
+                               makePatch("third", "paintB1"), makeFile("C")});
+    ASSERT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
+    program->notifier.setAttended(true);
+    settle();
+    EXPECT_EQ(opened.size(), 1);
+    EXPECT_FALSE(opened.first().first().toBool());
+    EXPECT_EQ(names(), (QStringList{"A.xsg ●", "B.xsg ●", "C.xsg"}));
+    EXPECT_EQ(title(), "A.xsg") << "the first";
+    EXPECT_NE(text().find("shininess: 0.75"), std::string::npos);
+    clickTab(1);
+    EXPECT_NE(text().find("shininess: 0.75"), std::string::npos);
+    EXPECT_EQ(services().undoStack().count(), 1);
+    EXPECT_EQ(program->notifier.errorCount(), 2);
+    EXPECT_EQ(program->told.filter("which it was to change, is not open").size(), 1);
+}
+
+TEST_F(Tabs, WhereSomebodyCanAnswerEachPatchAmongFilesIsOffered)
+{
+    QSignalSpy opened(&program->window, &HostWindow::openFinished);
+    const QStringList paths{makeFile("A"), makePatch("first", "paintA0"), makeFile("B"),
+                            makePatch("second", "paintB0")};
+    Answers answers("Apply");
+    program->window.openFiles(paths);
+    ASSERT_TRUE(waitFor([&] { return answers.texts().size() == 2; }));
+    settle();
+    EXPECT_EQ(opened.size(), 1);
+    EXPECT_TRUE(opened.first().first().toBool());
+    EXPECT_EQ(answers.texts(), (QStringList{"Apply the patch “first.xsgpatch” to “A.xsg”?",
+                                            "Apply the patch “second.xsgpatch” to “B.xsg”?"}));
+    EXPECT_TRUE(waitFor([&] {
+        return names() == (QStringList{"A.xsg ●", "B.xsg ●"});
+    })) << names().join(' ').toStdString();
+}
+
+TEST_F(Tabs, PatchesAloneAreForTheSceneThatIsOpen)
+{
+    openInTab(makeFile("A"));
+    QSignalSpy opened(&program->window, &HostWindow::openFinished);
+    program->notifier.setAttended(false);
+    program->window.openFiles({makePatch("first", "paintA0"), makePatch("second", "paintA1")});
+    program->notifier.setAttended(true);
+    EXPECT_EQ(opened.size(), 1);
+    EXPECT_TRUE(opened.first().first().toBool());
+    EXPECT_EQ(services().undoStack().count(), 2);
+}
+
 TEST_F(Tabs, WhatIsDroppedWithCtrlOrIsSeveralGetsATab)
 {
     openInTab(makeFile("a"));
