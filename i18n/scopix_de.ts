@@ -3731,6 +3731,18 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
         <translation>Nur Knoten, die in diesem Fenster und in dieser Szene kopiert wurden, lassen sich als gemeinsame einfügen.</translation>
     </message>
+    <message>
+        <source>Handing over what was dropped…</source>
+        <translation>Was abgelegt wurde, wird übergeben …</translation>
+    </message>
+    <message>
+        <source>Nothing was handed over to the other program: it was cancelled.</source>
+        <translation>Dem anderen Programm wurde nichts übergeben: Es wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Nothing was handed over to the other program: the text of what was dropped is too long for that. Copy it here, and paste it there.</source>
+        <translation>Dem anderen Programm wurde nichts übergeben: Der Text dessen, was abgelegt wurde, ist zu lang dafür. Kopiere es hier, und füge es dort ein.</translation>
+    </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
         <translation><numerusform>%n Knoten ablegen</numerusform><numerusform>%n Knoten ablegen</numerusform></translation>
@@ -3940,6 +3952,10 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
         <translation>Die geänderten Werte wurden als Knoten einer Szene kopiert.</translation>
     </message>
     <message>
+        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
+        <translation>„%1“ wird nicht angewandt: „%2“ sollte er ändern, und das ist nicht offen.</translation>
+    </message>
+    <message>
         <source>Save &amp;Picture…</source>
         <translation>&amp;Bild speichern …</translation>
     </message>
@@ -3950,10 +3966,6 @@ Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
     <message>
         <source>Save Turntable</source>
         <translation>Drehansicht speichern</translation>
-    </message>
-    <message>
-        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
-        <translation>„%1“ wird nicht angewandt: „%2“ sollte er ändern, und das ist nicht offen.</translation>
     </message>
     <message>
         <source>Pictures (*.%1)</source>

@@ -3731,6 +3731,18 @@ Fîñd à ñödé: Çţŕl+F.
         <source>Only nodes that were copied in this window, in this scene, can be pasted as shared ones.</source>
         <translation>[Öñlý ñödéš ţĥàţ wéŕé çöpîéd îñ ţĥîš wîñdöw, îñ ţĥîš šçéñé, çàñ bé pàšţéd àš šĥàŕéd öñéš. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
+    <message>
+        <source>Handing over what was dropped…</source>
+        <translation>[Ĥàñdîñĝ övéŕ wĥàţ wàš dŕöppéd… ~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing was handed over to the other program: it was cancelled.</source>
+        <translation>[Ñöţĥîñĝ wàš ĥàñdéd övéŕ ţö ţĥé öţĥéŕ pŕöĝŕàm: îţ wàš çàñçélléd. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Nothing was handed over to the other program: the text of what was dropped is too long for that. Copy it here, and paste it there.</source>
+        <translation>[Ñöţĥîñĝ wàš ĥàñdéd övéŕ ţö ţĥé öţĥéŕ pŕöĝŕàm: ţĥé ţéxţ öf wĥàţ wàš dŕöppéd îš ţöö löñĝ föŕ ţĥàţ. Çöpý îţ ĥéŕé, àñd pàšţé îţ ţĥéŕé. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
     <message numerus="yes">
         <source>Drop %n Node(s)</source>
         <translation><numerusform>[Dŕöp %n Ñödé(š) ~~~~~~]</numerusform><numerusform>[Dŕöp %n Ñödé(š) ~~~~~~]</numerusform></translation>
@@ -3940,6 +3952,10 @@ Fîñd à ñödé: Çţŕl+F.
         <translation>[Ţĥé çĥàñĝéd vàlûéš wéŕé çöpîéd àš ñödéš öf à šçéñé. ~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
+        <translation>[“%1” îš ñöţ àpplîéd: “%2”, wĥîçĥ îţ wàš ţö çĥàñĝé, îš ñöţ öpéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Save &amp;Picture…</source>
         <translation>[Šàvé &amp;Pîçţûŕé… ~~~~~~]</translation>
     </message>
@@ -3950,10 +3966,6 @@ Fîñd à ñödé: Çţŕl+F.
     <message>
         <source>Save Turntable</source>
         <translation>[Šàvé Ţûŕñţàblé ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>“%1” is not applied: “%2”, which it was to change, is not open.</source>
-        <translation>[“%1” îš ñöţ àpplîéd: “%2”, wĥîçĥ îţ wàš ţö çĥàñĝé, îš ñöţ öpéñ. ~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Pictures (*.%1)</source>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "panels/BranchMimeData.h"
 
-#include "structure/BranchText.h"
+#include <utility>
 
 namespace scopix
 {
@@ -16,8 +16,9 @@ QString textType()
 
 } // namespace
 
-BranchMimeData::BranchMimeData(const Paths& paths)
+BranchMimeData::BranchMimeData(const Paths& paths, MakeText makeText)
     : m_paths(paths)
+    , m_makeText(std::move(makeText))
 {
 }
 
@@ -35,12 +36,8 @@ QStringList BranchMimeData::formats() const
 
 QVariant BranchMimeData::retrieveData(const QString& type, QVariant::Type /*preferred*/) const
 {
-    if (type != textType())
-        return {};
-    std::vector<SoNode*> nodes;
-    for (const SoPath& path : m_paths)
-        nodes.push_back(path.getTail());
-    return QString::fromStdString(writeBranches(nodes));
+    const QString text = type == textType() && m_makeText ? m_makeText(m_paths) : QString();
+    return text.isEmpty() ? QVariant() : text;
 }
 
 } // namespace scopix

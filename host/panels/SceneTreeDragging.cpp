@@ -25,7 +25,7 @@ bool isForTree(const QMimeData& data)
 QMimeData* SceneTreeView::makeDragData() const
 {
     const QList<SoPath> paths = topmost(getSelectedPaths(), m_model->getRoot());
-    return paths.isEmpty() ? nullptr : new BranchMimeData(paths);
+    return paths.isEmpty() ? nullptr : new BranchMimeData(paths, m_makeText);
 }
 
 void SceneTreeView::startDrag(Qt::DropActions actions)

@@ -76,6 +76,9 @@ public:
     /// What is dragged when a drag begins now; null for nothing. For the caller to delete.
     QMimeData* makeDragData() const;
 
+    /// Makes the text of dragged nodes where another program takes them; empty where it is not to be had.
+    using MakeText = std::function<QString(const QList<SoPath>&)>;
+    void setTextMaker(MakeText makeText) { m_makeText = std::move(makeText); }
     /// Name and type are shown at first.
     void setColumnShown(int column, bool on);
     bool isColumnShown(int column) const { return !isColumnHidden(column); }
@@ -143,6 +146,7 @@ private:
     QList<QPersistentModelIndex> m_order; // of the selected rows
     int m_sorted = -1;                    // by a click on this column
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    MakeText m_makeText;
     bool m_quiet = false;
 };
 

@@ -3,8 +3,10 @@
 
 #include <scopix/SpxSentence.h>
 #include <xsg/files/SceneReader.h>
+#include <xsg/files/SceneWriter.h>
 #include <xsg/files/SoSceneFile.h>
 #include <xsg/nodes/groups/SoGroup.h>
+#include <xsg/support/WorkPieces.h>
 
 #include <QCoreApplication>
 
@@ -39,6 +41,21 @@ bool isInGroup(std::string_view text)
     return beginsWith(trimmed(text.substr(std::min(text.size(), SoSceneFile::FirstLine.size()))), GroupNote);
 }
 
+SoRef<SoNode> joined(const std::vector<SoNode*>& nodes)
+{
+    if (nodes.size() == 1)
+        return SoRef<SoNode>(nodes.front());
+    const SoRef<SoGroup> group(new SoGroup);
+    for (SoNode* node : nodes)
+        group->addChild(node);
+    return SoRef<SoNode>(group.get());
+}
+
+std::string noted(std::string text, const std::vector<SoNode*>& nodes)
+{
+    return nodes.size() == 1 ? text : text.insert(firstLine().size(), GroupNote);
+}
+
 std::vector<SoRef<SoNode>> takeChildren(SoNode& wrapper)
 {
     std::vector<SoRef<SoNode>> nodes;
@@ -55,13 +72,21 @@ std::vector<SoRef<SoNode>> takeChildren(SoNode& wrapper)
 
 std::string writeBranches(const std::vector<SoNode*>& nodes, const std::function<void(double)>& goOn)
 {
-    if (nodes.size() == 1)
-        return SoSceneFile::writeText(nodes.front(), goOn);
-    const SoRef<SoGroup> group(new SoGroup);
-    for (SoNode* node : nodes)
-        group->addChild(node);
-    std::string text = SoSceneFile::writeText(group.get(), goOn);
-    return text.insert(firstLine().size(), GroupNote);
+    return noted(SoSceneFile::writeText(joined(nodes).get(), goOn), nodes);
+}
+
+std::optional<std::string> writeShortBranches(const std::vector<SoNode*>& nodes, std::size_t most,
+                                              const std::function<void(double)>& goOn)
+{
+    const SoRef<SoNode> root = joined(nodes);
+    std::string text;
+    xsg::SceneWriter writer([&text](const std::string& piece) { text += piece; });
+    writer.begin(root.get());
+    while (text.size() <= most && !writer.advance(xsg::SceneWriter::Clock::now() + xsg::WorkPieces::Length)) {
+        if (goOn)
+            goOn(writer.getProgress());
+    }
+    return text.size() <= most ? std::optional(noted(std::move(text), nodes)) : std::nullopt;
 }
 
 BranchReading readBranches(std::string_view given, const std::function<void(double)>& goOn)

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,10 @@ namespace scopix
 /// What two of them share, and connections between them, is kept. `goOn` is called with the part that is
 /// written, each few milliseconds; what it throws is passed on. The nodes must stay as they are meanwhile.
 std::string writeBranches(const std::vector<SoNode*>& nodes, const std::function<void(double)>& goOn = {});
+
+/// The same; nothing where the text has more bytes than that, which shows before all of it is written.
+std::optional<std::string> writeShortBranches(const std::vector<SoNode*>& nodes, std::size_t most,
+                                              const std::function<void(double)>& goOn = {});
 
 struct BranchReading {
     std::vector<SoRef<SoNode>> nodes; // none: it cannot be read

@@ -19,9 +19,12 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPointer>
+#include <QScopedValueRollback>
 #include <QUuid>
 
 #include <algorithm>
+#include <optional>
 
 namespace scopix
 {
@@ -40,6 +43,10 @@ QString folderType()
 {
     return QStringLiteral("application/x-scopix-folder");
 }
+
+// X11 hands over what is dropped in one message, and takes the program for broken where that is longer than
+// 16 MiB.
+constexpr std::size_t MostDropped = std::size_t{8} << 20;
 
 structure::Act refusedDrop()
 {
@@ -76,6 +83,9 @@ void NodeEditing::serve(SceneTreeView& tree)
 {
     connect(&tree, &SceneTreeView::nameEntered, this, &NodeEditing::rename);
     connect(&tree, &SceneTreeView::dropped, this, &NodeEditing::drop);
+    tree.setTextMaker([self = QPointer<NodeEditing>(this)](const Paths& paths) {
+        return self ? self->textToDrop(paths) : QString();
+    });
 }
 
 void NodeEditing::tell(const QString& sentence)
@@ -364,6 +374,22 @@ void NodeEditing::drop(const QMimeData& data, const SoPath& group, int index, Qt
     const auto nodes = readText(data);
     if (!nodes.empty())
         perform(addDropped(group, nodes));
+}
+
+QString NodeEditing::textToDrop(const Paths& given)
+{
+    if (m_isHandingOver)
+        return {}; // it is asked for once more while it is made
+    const QScopedValueRollback<bool> handingOver(m_isHandingOver, true);
+    const Paths paths = given; // the drag may end meanwhile
+    std::optional<std::string> text;
+    if (!runLong(tr("Handing over what was dropped…"),
+                 [&] { text = writeShortBranches(tailsOf(paths), MostDropped, LongWork::goOn); }))
+        tell(tr("Nothing was handed over to the other program: it was cancelled."));
+    else if (!text)
+        tell(tr("Nothing was handed over to the other program: the text of what was dropped is too long for "
+                "that. Copy it here, and paste it there."));
+    return text ? QString::fromStdString(*text) : QString();
 }
 
 // While a large branch is copied or read, its place may go.

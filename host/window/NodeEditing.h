@@ -65,6 +65,9 @@ public:
     /// What was dragged, to this place among the children of the group; -1: behind them all.
     void drop(const QMimeData& data, const SoPath& group, int index, Qt::DropAction action);
     void insert(const std::vector<SoRef<SoNode>>& nodes, const QString& stepName);
+    /// Of what was dragged, for another program, which waits for it; empty where the user cancels it, or it
+    /// is too large to be handed over at once, which is told.
+    QString textToDrop(const Paths& paths);
 
     void toggleHidden() { toggleHidden(selected()); }
     void toggleHidden(const Paths& paths);
@@ -98,6 +101,7 @@ private:
     ProgramEditing m_program;
     Paths m_copied; // what the clipboard holds as text, while it does
     QByteArray m_copiedKey;
+    bool m_isHandingOver = false;
 };
 
 } // namespace scopix

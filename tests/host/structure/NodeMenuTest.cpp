@@ -6,6 +6,7 @@
 
 #include <support/Waiting.h>
 
+#include <xsg/nodes/base/SoInfo.h>
 #include <xsg/nodes/groups/SoGroup.h>
 
 namespace
@@ -336,6 +337,20 @@ TEST_F(NodeMenuKeys, WhatIsDraggedIsTextForOtherPrograms)
     const std::unique_ptr<QMimeData> data(tree.makeDragData());
     EXPECT_TRUE(data->hasText());
     EXPECT_TRUE(data->text().contains("Separator \"Sea\""));
+}
+
+TEST_F(NodeMenuKeys, WhatIsTooLongForOtherProgramsIsNotHandedOver)
+{
+    auto* island = static_cast<SoGroup*>(SoFieldContainer::getByName("Island"));
+    const SoRef<SoInfo> note(new SoInfo);
+    note->text.setValue(std::string(std::size_t{9} << 20, 'x').c_str());
+    island->addChild(note.get());
+    click("Island");
+    const std::unique_ptr<QMimeData> data(tree.makeDragData());
+    EXPECT_EQ(data->text(), QString());
+    EXPECT_TRUE(told.value(told.size() - 1).contains("too long for that")) << told.join("; ").toStdString();
+    note->text.setValue("short");
+    EXPECT_TRUE(data->text().contains("short"));
 }
 
 TEST_F(NodeMenuKeys, ANodeIsNotDroppedIntoItself)

@@ -313,6 +313,24 @@ TEST_F(LongWorkTest, CopiesOfBranchesCanBeCancelled)
     }
 }
 
+TEST_F(LongWorkTest, HandingOverWhatWasDraggedCanBeCancelled)
+{
+    showGroupForKeys();
+    const std::unique_ptr<QMimeData> data(window->getTree().makeDragData());
+    EXPECT_TRUE(data->hasText()) << "before anybody takes it";
+    EXPECT_TRUE(told.isEmpty());
+    {
+        Canceller canceller;
+        EXPECT_EQ(data->text(), QString());
+        EXPECT_EQ(canceller.count, 1);
+    }
+    EXPECT_EQ(told.last(), QStringLiteral("Nothing was handed over to the other program: it was cancelled."));
+    LongWork::setPatience(ProgressDialog::PatienceMs, 30);
+    EXPECT_TRUE(data->text().startsWith(QStringLiteral("#Xsg")));
+    window.reset();
+    EXPECT_EQ(data->text(), QString()) << "the other program takes its time";
+}
+
 TEST_F(LongWorkTest, PastingCanBeCancelled)
 {
     showGroupForKeys();
