@@ -3,6 +3,7 @@
 
 #include "panels/NodeFigures.h"
 #include "panels/SceneTreeModel.h"
+#include "panels/TreeColumnWidths.h"
 #include "panels/TreeRowDelegate.h"
 #include "structure/SceneStates.h"
 
@@ -26,6 +27,7 @@ namespace
 // Rows that are unfolded by one key: a scene may share its groups so often that all would be millions.
 constexpr std::size_t MostUnfolded = 50000;
 constexpr int AllLevels = -1;
+constexpr int LeastColumnLetters = 8;
 
 // How many levels below the node have no more rows than that together.
 int countLevels(SoNode* node)
@@ -72,12 +74,16 @@ SceneTreeView::SceneTreeView(QWidget* parent)
     connect(m_rows, &TreeRowDelegate::eyeClicked, this,
             [this](const QModelIndex& index) { emit eyeClicked(pathAt(index)); });
     header()->setStretchLastSection(true);
-    header()->setMinimumSectionSize(60);
+    header()->setMinimumSectionSize(header()->fontMetrics().averageCharWidth() * LeastColumnLetters);
+    header()->setResizeContentsPrecision(0); // the rows in sight
+    header()->setTextElideMode(Qt::ElideRight);
+    setTextElideMode(Qt::ElideMiddle); // names differ at their ends
     header()->setSectionsMovable(false);
     for (int column = SceneTreeModel::TypeColumn + 1; column < SceneTreeModel::ColumnCount; ++column)
         setColumnHidden(column, true);
     header()->setSectionsClickable(true);
     header()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_widths = new TreeColumnWidths(*this);
     connect(header(), &QHeaderView::sectionClicked, this, &SceneTreeView::sortClicked);
     connect(&m_model->getFigures(), &NodeFigures::changed, this, &SceneTreeView::figuresChanged);
 }
@@ -350,30 +356,17 @@ void SceneTreeView::unfoldAll(const QModelIndex& index)
 void SceneTreeView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
-    fitColumns();
+    m_widths->fit();
 }
 
-// Name and type share what the figures leave; the last column takes the rest.
-void SceneTreeView::fitColumns()
+int SceneTreeView::wantedWidth(int column) const
 {
-    constexpr int FigureWidth = 84;
-    constexpr int Least = 180; // for name and type
-    int left = viewport()->width();
-    for (int column = SceneTreeModel::TrianglesColumn; column < m_model->columnCount(); ++column) {
-        if (isColumnHidden(column))
-            continue;
-        header()->resizeSection(column, FigureWidth);
-        left -= FigureWidth;
-    }
-    left = std::max(left, Least);
-    header()->resizeSection(SceneTreeModel::NameColumn, left * 62 / 100);
-    header()->resizeSection(SceneTreeModel::TypeColumn, left * 38 / 100);
+    return std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
 }
 
 void SceneTreeView::setColumnShown(int column, bool on)
 {
-    setColumnHidden(column, !on);
-    fitColumns();
+    m_widths->fitAfter([&] { setColumnHidden(column, !on); });
 }
 
 template <class Change>
@@ -418,8 +411,7 @@ void SceneTreeView::setMoreColumns(std::vector<SceneTreeModel::MoreColumn> colum
 {
     if (m_model->isSorted() && header()->sortIndicatorSection() >= SceneTreeModel::ColumnCount)
         sortRows(-1, Qt::AscendingOrder);
-    keepSelection([&] { m_model->setMoreColumns(std::move(columns)); });
-    fitColumns();
+    m_widths->fitAfter([&] { keepSelection([&] { m_model->setMoreColumns(std::move(columns)); }); });
 }
 
 void SceneTreeView::updateMoreColumns()

@@ -18,6 +18,7 @@ namespace scopix
 {
 
 class SceneStates;
+class TreeColumnWidths;
 class TreeRowDelegate;
 
 /// Shows the scene's tree and reports which nodes the user selects in it, any number as in a file manager.
@@ -75,13 +76,16 @@ public:
     void editName();
     /// What is dragged when a drag begins now; null for nothing. For the caller to delete.
     QMimeData* makeDragData() const;
-
     /// Makes the text of dragged nodes where another program takes them; empty where it is not to be had.
     using MakeText = std::function<QString(const QList<SoPath>&)>;
     void setTextMaker(MakeText makeText) { m_makeText = std::move(makeText); }
+
     /// Name and type are shown at first.
     void setColumnShown(int column, bool on);
     bool isColumnShown(int column) const { return !isColumnHidden(column); }
+    /// That shows the rows in sight as a whole, and the caption.
+    int wantedWidth(int column) const;
+    TreeColumnWidths& getColumnWidths() const { return *m_widths; }
     /// As of the model; what is selected stays so. They are shown.
     void setMoreColumns(std::vector<SceneTreeModel::MoreColumn> columns);
     /// Their values are others now.
@@ -119,7 +123,6 @@ private:
         QModelIndex group;
         int index;
     };
-    void fitColumns();
     void figuresChanged();
     void sortAgain();
     template <class Change>
@@ -138,15 +141,16 @@ private:
     static SoPath pathAt(QModelIndex index);
 
     SceneTreeModel* m_model;
+    TreeColumnWidths* m_widths = nullptr;
     TreeRowDelegate* m_rows;
     const SceneStates* m_states = nullptr;
     NodeTest m_isMarked;
     NodeTest m_isChanged;
+    MakeText m_makeText;
     std::vector<SoPath> m_expandedBefore; // only a part of the tree was shown
     QList<QPersistentModelIndex> m_order; // of the selected rows
     int m_sorted = -1;                    // by a click on this column
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    MakeText m_makeText;
     bool m_quiet = false;
 };
 

@@ -33,7 +33,7 @@ namespace scopix
 namespace
 {
 
-constexpr int TreeWidth = 280;
+constexpr int TreeWidth = 320;
 constexpr int Offset = 40; // from the window that it opens over
 constexpr int MessageMs = 8000;
 
@@ -63,7 +63,7 @@ FurtherWindow::FurtherWindow(const Parts& parts, int number)
     , m_parts(parts)
     , m_number(number)
     , m_pane(std::make_unique<TreeAndView>(
-          TreeAndView::Parts{*this, parts.services, parts.notifier, parts.states}))
+          TreeAndView::Parts{*this, parts.services, parts.notifier, parts.states, layoutName(number)}))
     , m_looks(m_pane->getPanel(), m_pane->getView())
     , m_splitter(new QSplitter)
     , m_elsewhere(makeNote(m_pane->getView(), tr("The picture of the program is in the main window.")))

@@ -118,7 +118,7 @@ void TreeAndView::addDisplayActs(QMenu& menu)
 
 void TreeAndView::fillColumnMenu(QMenu& menu)
 {
-    m_columns = new TreeColumns(menu, *m_tree, m_parts.notifier);
+    m_columns = new TreeColumns(menu, *m_tree, m_parts.notifier, m_parts.name);
     addActsOf(menu);
 }
 

@@ -40,6 +40,7 @@ public:
         HostServices& services;
         UserNotifier& notifier;
         SceneStates& states;
+        QString name = {}; // of the window in the settings; empty for the main one
     };
 
     /// All must outlive it. The caller puts panel and view into the window, and destroys this before them.

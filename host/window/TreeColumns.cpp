@@ -2,6 +2,7 @@
 #include "window/TreeColumns.h"
 
 #include "panels/SceneTreeView.h"
+#include "panels/TreeColumnWidths.h"
 #include "settings/SettingsFile.h"
 #include "settings/UserSettings.h"
 #include "support/CatchExceptions.h"
@@ -12,15 +13,24 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include <utility>
+
 namespace scopix
 {
 
 namespace
 {
 
+constexpr int UntilKeptMs = 500; // as a column may still be dragged
+
 QString settingsKey()
 {
     return QStringLiteral("treeColumns");
+}
+
+QString widthsKey()
+{
+    return QStringLiteral("treeColumnWidths");
 }
 
 QString moreKey()
@@ -41,11 +51,12 @@ SceneTreeModel::MoreColumn columnOf(const SpxTreeColumnProvider& provider, int c
 
 } // namespace
 
-TreeColumns::TreeColumns(QMenu& menu, SceneTreeView& tree, UserNotifier& notifier)
+TreeColumns::TreeColumns(QMenu& menu, SceneTreeView& tree, UserNotifier& notifier, QString window)
     : QObject(&menu)
     , m_menu(menu)
     , m_tree(tree)
     , m_notifier(notifier)
+    , m_window(std::move(window))
 {
     for (int column = SceneTreeModel::TypeColumn; column < SceneTreeModel::ColumnCount; ++column)
         addColumn(column);
@@ -59,12 +70,37 @@ TreeColumns::TreeColumns(QMenu& menu, SceneTreeView& tree, UserNotifier& notifie
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this,
             [this, header](const QPoint& place) { m_menu.popup(header->mapToGlobal(place)); });
+    followWidths();
+}
+
+TreeColumns::~TreeColumns()
+{
+    if (m_widthsChosen.isActive())
+        keepWidths();
+}
+
+void TreeColumns::followWidths()
+{
+    TreeColumnWidths& widths = m_tree.getColumnWidths();
+    widths.setChosen(kept(widthsKey()).toMap());
+    m_widthsChosen.setSingleShot(true);
+    m_widthsChosen.setInterval(UntilKeptMs);
+    connect(&m_widthsChosen, &QTimer::timeout, this, &TreeColumns::keepWidths);
+    connect(&widths, &TreeColumnWidths::chosen, this, [this, &widths] {
+        m_widths = widths.getChosen();
+        m_widthsChosen.start();
+    });
+}
+
+void TreeColumns::keepWidths()
+{
+    store(widthsKey(), m_widths);
 }
 
 void TreeColumns::addColumn(int column)
 {
-    const QVariant kept = SettingsFile(UserSettings::windowFile()).value(settingsKey());
-    const QStringList shown = kept.isValid() ? kept.toStringList() : QStringList("type");
+    const QVariant before = kept(settingsKey());
+    const QStringList shown = before.isValid() ? before.toStringList() : QStringList("type");
     QAction* action = m_menu.addAction(m_tree.getModel().headerData(column, Qt::Horizontal).toString());
     action->setShortcut(QStringLiteral("Ctrl+T, %1").arg(column));
     action->setCheckable(true);
@@ -118,10 +154,9 @@ void TreeColumns::setProviders(const QList<SpxTreeColumnProvider*>& providers)
 void TreeColumns::addMoreColumn(int column, bool isShown)
 {
     const QString key = m_tree.getModel().columnKey(column);
-    const QVariantMap kept = SettingsFile(UserSettings::windowFile()).value(moreKey()).toMap();
     auto* action = new QAction(m_tree.getModel().headerData(column, Qt::Horizontal).toString(), &m_menu);
     action->setCheckable(true);
-    action->setChecked(kept.value(key, isShown).toBool());
+    action->setChecked(kept(moreKey()).toMap().value(key, isShown).toBool());
     m_menu.insertAction(m_endOfColumns, action);
     m_more.append(action);
     m_tree.setColumnShown(column, action->isChecked());
@@ -133,14 +168,21 @@ void TreeColumns::addMoreColumn(int column, bool isShown)
 
 void TreeColumns::keepMore(const QString& key, bool isShown)
 {
-    QVariantMap kept = SettingsFile(UserSettings::windowFile()).value(moreKey()).toMap();
-    kept[key] = isShown;
-    store(moreKey(), kept);
+    QVariantMap all = kept(moreKey()).toMap();
+    all[key] = isShown;
+    store(moreKey(), all);
+}
+
+QVariant TreeColumns::kept(const QString& key) const
+{
+    const SettingsFile settings(UserSettings::windowFile());
+    const QVariant own = settings.value(m_window + key);
+    return own.isValid() ? own : settings.value(key);
 }
 
 void TreeColumns::store(const QString& key, const QVariant& value)
 {
-    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(key, value);
+    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(m_window + key, value);
     if (!problem.isEmpty())
         m_notifier.error(problem);
 }

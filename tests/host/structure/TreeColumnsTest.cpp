@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeParts.h"
 #include "panels/NodeFigures.h"
+#include "panels/TreeColumnWidths.h"
 #include "text/NodeText.h"
 
 #include <support/Waiting.h>
@@ -8,7 +9,9 @@
 #include <scopix/SpxTreeColumns.h>
 #include <xsg/nodes/shapes/SoShape.h>
 
+#include <QDockWidget>
 #include <QHeaderView>
+#include <QMouseEvent>
 
 #include <stdexcept>
 
@@ -60,6 +63,59 @@ protected:
         return names;
     }
 };
+
+// The user drags the boundary behind this column.
+void dragBoundary(SceneTreeView& tree, int column, int by)
+{
+    QHeaderView& header = *tree.header();
+    const QPoint start(header.sectionViewportPosition(column) + header.sectionSize(column) - 1,
+                       header.height() / 2);
+    QTest::mouseMove(header.viewport(), start);
+    QTest::mousePress(header.viewport(), Qt::LeftButton, {}, start);
+    const QPoint end = start + QPoint(by, 0);
+    QMouseEvent move(QEvent::MouseMove, end, header.viewport()->mapToGlobal(end), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QApplication::sendEvent(header.viewport(), &move);
+    QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, end);
+}
+
+TEST_F(TreeWindow, GivesTheTypeNoMoreThanItNeeds)
+{
+    show(Street);
+    window.resizeDocks({window.findChild<QDockWidget*>("sceneDock")}, {700}, Qt::Horizontal);
+    settle();
+    ASSERT_GT(tree.width(), 600);
+    EXPECT_LT(tree.columnWidth(SceneTreeModel::TypeColumn), 200);
+    window.resizeDocks({window.findChild<QDockWidget*>("sceneDock")}, {10}, Qt::Horizontal);
+    settle();
+    EXPECT_LT(tree.width(), 300);
+    EXPECT_GT(tree.columnWidth(SceneTreeModel::NameColumn),
+              2 * tree.columnWidth(SceneTreeModel::TypeColumn) - 20);
+    EXPECT_EQ(tree.textElideMode(), Qt::ElideMiddle);
+}
+
+TEST_F(TreeWindow, KeepsTheProportionThatTheUserGaveTheColumns)
+{
+    show(Street);
+    settle();
+    EXPECT_TRUE(tree.getColumnWidths().getChosen().isEmpty());
+    const int before = tree.columnWidth(SceneTreeModel::NameColumn);
+    dragBoundary(tree, SceneTreeModel::NameColumn, -60);
+    ASSERT_EQ(tree.columnWidth(SceneTreeModel::NameColumn), before - 60);
+    const double share = double(before - 60) / tree.viewport()->width();
+    window.resizeDocks({window.findChild<QDockWidget*>("sceneDock")}, {600}, Qt::Horizontal);
+    settle();
+    ASSERT_GT(tree.width(), 500);
+    EXPECT_NEAR(double(tree.columnWidth(SceneTreeModel::NameColumn)) / tree.viewport()->width(), share, 0.02);
+    tree.setColumnShown(SceneTreeModel::TrianglesColumn, true);
+    tree.setColumnShown(SceneTreeModel::MemoryColumn, true);
+    EXPECT_EQ(tree.getColumnWidths().getChosen().size(), 1) << "nobody has dragged these";
+    dragBoundary(tree, SceneTreeModel::TrianglesColumn, 30);
+    const int chosen = tree.columnWidth(SceneTreeModel::TrianglesColumn);
+    window.resizeDocks({window.findChild<QDockWidget*>("sceneDock")}, {700}, Qt::Horizontal);
+    settle();
+    EXPECT_EQ(tree.columnWidth(SceneTreeModel::TrianglesColumn), chosen);
+}
 
 TEST_F(TreeColumnsShown, CountTriangles)
 {
