@@ -53,12 +53,14 @@ public:
     TreeAndView& getPane() const { return *m_pane; }
     /// Puts the focus where the user types what to find.
     void startFinding();
-    /// Where it was when it was closed last, with these screens.
+    /// Where it was when it was closed last, with these screens; and keeps where it is.
     void restoreLayout();
+    void keepLayout();
 
     QSize sizeHint() const override { return {960, 640}; }
 
 signals:
+    /// It goes, and has kept its layout.
     void closing(FurtherWindow* window);
 
 protected:
@@ -73,7 +75,6 @@ private:
     void followScenes();
     void showScene(SoNode* root);
     void showTitle();
-    void keepLayout();
 
     Parts m_parts;
     int m_number;

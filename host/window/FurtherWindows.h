@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 
 class QAction;
 class SpxTreeColumnProvider;
@@ -12,8 +13,8 @@ class SpxTreeColumnProvider;
 namespace scopix
 {
 
-/// The windows beside the main one, and the act that opens them. Closes them with the main window. GUI thread
-/// only.
+/// The windows beside the main one, and the act that opens them. They close with the main window and open
+/// again with it, in this session or the next, but for those that the user has closed. GUI thread only.
 class FurtherWindows : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,8 @@ public:
 
     QAction* getAction() const { return m_action; }
     FurtherWindow& open();
+    /// Those that were open when the main window closed, which stays the active one.
+    void openAgain();
     void closeAll();
     const QList<FurtherWindow*>& getAll() const { return m_windows; }
     /// The one that the user works in; null for the main window.
@@ -36,13 +39,18 @@ public:
     void updateTreeColumns();
 
 private:
+    bool has(int number) const;
     int freeNumber() const;
+    FurtherWindow& make(int number);
     void forget(FurtherWindow* window);
+    void keepNumbers();
 
     FurtherWindow::Parts m_parts;
     QAction* m_action;
     QList<FurtherWindow*> m_windows;
+    QList<QPointer<FurtherWindow>> m_closed; // as long as they are there
     QList<SpxTreeColumnProvider*> m_columns;
+    bool m_isClosingAll = false;
 };
 
 } // namespace scopix

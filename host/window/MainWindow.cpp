@@ -700,6 +700,25 @@ void MainWindow::openPatch(const QString& path)
     m_changes->getPatches().apply(path);
 }
 
+void MainWindow::showEvent(QShowEvent* event)
+{
+    HostWindow::showEvent(event);
+    if (event->spontaneous() || !m_notifier.isAttended())
+        return;
+    // From the event loop, when this one is there: the last that is shown is the active one.
+    QMetaObject::invokeMethod(
+        this, [this] { openFurtherAgain(); }, Qt::QueuedConnection);
+}
+
+void MainWindow::openFurtherAgain()
+{
+    if (!isVisible())
+        return;
+    m_further->openAgain();
+    if (!m_further->getAll().isEmpty() && !QApplication::activeModalWidget())
+        activateWindow();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files.confirmClose());

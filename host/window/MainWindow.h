@@ -109,6 +109,7 @@ public:
     QSize sizeHint() const override { return {1280, 800}; }
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -127,6 +128,7 @@ private:
     void makeToolBar();
     void connectSelection();
     void makeFurtherWindows();
+    void openFurtherAgain();
     QDockWidget* addDock(QWidget* content, const QString& title, const QString& name,
                          Qt::DockWidgetArea area);
 
@@ -171,9 +173,9 @@ private:
     QDockWidget* m_historyDock = nullptr;
     QDockWidget* m_changesDock = nullptr;
     SceneChanges* m_changes = nullptr;
+    PatchesAmongFiles* m_amongFiles = nullptr;
     QMenu* m_editMenu = nullptr;
     QMenu* m_appearanceMenu = nullptr;
-    PatchesAmongFiles* m_amongFiles = nullptr;
     QMenu* m_toolsMenu = nullptr;
     QMenu* m_profilesMenu = nullptr;
     PictureActs* m_pictures = nullptr;

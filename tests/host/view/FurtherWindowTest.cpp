@@ -58,10 +58,11 @@ protected:
         window.reset();
         qunsetenv("XDG_CONFIG_HOME");
     }
-    void make()
+    // Attended: as a user starts the program.
+    void make(bool isAttended = false)
     {
         window = std::make_unique<MainWindow>(services, notifier);
-        notifier.setAttended(false);
+        notifier.setAttended(isAttended);
         services.setSceneSource(window.get());
         window->resize(1000, 640);
         window->show();
@@ -112,6 +113,21 @@ protected:
     }
     static const SoNode* selectedIn(const SceneTreeView& tree) { return tree.getSelectedPath().getTail(); }
     std::string text() const { return SoSceneFile::writeText(window->getScene()); }
+    QList<int> numbers()
+    {
+        QList<int> numbers;
+        for (const FurtherWindow* each : windows())
+            numbers << each->getNumber();
+        return numbers;
+    }
+    // The program ends as it does when its window is closed, and is started again.
+    void quitAndStart()
+    {
+        key(window->getView(), Qt::Key_Q, Qt::ControlModifier);
+        EXPECT_TRUE(windows().isEmpty());
+        window.reset();
+        make(true);
+    }
 
 private:
     QTemporaryDir m_home;
@@ -327,6 +343,70 @@ TEST_F(Further, CloseWithTheMainWindowAndComeBackWhereTheyWere)
     FurtherWindow& again = openAnother();
     EXPECT_EQ(again.geometry(), place);
     EXPECT_EQ(again.findChild<QSplitter*>()->sizes(), sizes);
+}
+
+TEST_F(Further, OpenAgainAtTheNextStartButForThoseThatWereClosed)
+{
+    FurtherWindow& second = openAnother();
+    FurtherWindow& third = openAnother();
+    FurtherWindow& fourth = openAnother();
+    second.setGeometry(130, 90, 700, 500);
+    second.findChild<QSplitter*>()->setSizes({220, 480});
+    fourth.setGeometry(40, 30, 800, 600);
+    settle();
+    const QList<int> sizes = second.findChild<QSplitter*>()->sizes();
+    key(viewOf(fourth), Qt::Key_T, Qt::ControlModifier);
+    key(viewOf(fourth), Qt::Key_2);
+    EXPECT_TRUE(treeOf(fourth).isColumnShown(SceneTreeModel::TrianglesColumn));
+    treeOf(second).header()->resizeSection(SceneTreeModel::NameColumn, 100);
+    key(viewOf(third), Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+    quitAndStart();
+    ASSERT_EQ(numbers(), (QList<int>{2, 4}));
+    EXPECT_TRUE(waitForActive(window.get()));
+    EXPECT_EQ(windows()[0]->geometry(), QRect(130, 90, 700, 500));
+    EXPECT_EQ(windows()[0]->findChild<QSplitter*>()->sizes(), sizes);
+    EXPECT_EQ(treeOf(*windows()[0]).columnWidth(SceneTreeModel::NameColumn), 100);
+    EXPECT_EQ(windows()[1]->geometry(), QRect(40, 30, 800, 600));
+    EXPECT_EQ(treeOf(*windows()[1]).getModel().getRoot(), window->getScene());
+    EXPECT_TRUE(treeOf(*windows()[1]).isColumnShown(SceneTreeModel::TrianglesColumn));
+    EXPECT_FALSE(treeOf(*windows()[0]).isColumnShown(SceneTreeModel::TrianglesColumn));
+    EXPECT_FALSE(window->getTree().isColumnShown(SceneTreeModel::TrianglesColumn));
+    for (const QList<int>& left : {QList<int>{4}, QList<int>{}}) {
+        key(viewOf(*windows().first()), Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+        quitAndStart();
+        EXPECT_EQ(numbers(), left);
+    }
+}
+
+TEST_F(Further, OpenAgainWhereTheProgramEndedOtherwise)
+{
+    FurtherWindow& second = openAnother();
+    second.setGeometry(130, 90, 700, 500);
+    settle();
+    window.reset();
+    make(true);
+    ASSERT_EQ(numbers(), QList<int>{2});
+    EXPECT_EQ(windows().first()->geometry(), QRect(130, 90, 700, 500));
+    window.reset();
+    make();
+    EXPECT_EQ(numbers(), QList<int>()) << "nobody is there to see them";
+}
+
+TEST_F(Further, OpenAgainWithAWindowThatIsShownAgain)
+{
+    openAnother();
+    notifier.setAttended(true);
+    window->close();
+    settle();
+    EXPECT_TRUE(windows().isEmpty());
+    window->show();
+    EXPECT_TRUE(waitForActive(window.get()));
+    settle();
+    EXPECT_EQ(numbers(), QList<int>{2});
+    window->hide(); // by the application around it
+    window->show();
+    settle();
+    EXPECT_EQ(numbers(), QList<int>{2});
 }
 
 TEST_F(Further, CostNothingWhenTheyAreClosed)

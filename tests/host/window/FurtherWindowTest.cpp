@@ -75,3 +75,19 @@ TEST_F(FurtherOnScreen, OpensOnTheScreenWhereverItWas)
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(screen.contains(openAnother().geometry()));
 }
+
+TEST_F(FurtherOnScreen, OpensAgainOnTheScreenAndLeavesTheKeysToTheMainWindow)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    openAnother().setGeometry(screen.right() + 3000, -2000, 500, 400);
+    window().close();
+    EXPECT_TRUE(window().getFurtherWindows().getAll().isEmpty());
+    session.host.notifier().setAttended(true);
+    window().show();
+    const QList<FurtherWindow*>& again = window().getFurtherWindows().getAll();
+    ASSERT_TRUE(waitFor([&] { return again.size() == 1; }));
+    EXPECT_TRUE(waitForExposed(again.first()));
+    EXPECT_TRUE(waitForActive(&window()));
+    EXPECT_TRUE(screen.contains(again.first()->geometry()));
+    session.host.notifier().setAttended(false);
+}
