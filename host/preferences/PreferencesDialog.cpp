@@ -54,7 +54,6 @@ PreferencesDialog::PreferencesDialog(const std::vector<Setting>& settings, QWidg
     m_search->setClearButtonEnabled(true);
     m_titles->setObjectName(QStringLiteral("preferencePages"));
     m_titles->setAccessibleName(tr("Pages"));
-    m_titles->setFixedWidth(fontMetrics().averageCharWidth() * TitlesInCharacters);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->setWordWrap(true);
     m_nothing->hide();
@@ -76,6 +75,8 @@ PreferencesDialog::PreferencesDialog(const std::vector<Setting>& settings, QWidg
     connect(m_reset, &QPushButton::clicked, this, &PreferencesDialog::resetPage);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     addSettings(settings);
+    m_titles->setFixedWidth(std::max(fontMetrics().averageCharWidth() * TitlesInCharacters,
+                                     m_titles->sizeHintForColumn(0) + 4 * m_titles->frameWidth()));
     m_titles->setCurrentRow(0);
     resize(fontMetrics().averageCharWidth() * WidthInCharacters, fontMetrics().lineSpacing() * HeightInLines);
 }

@@ -53,6 +53,7 @@ QLabel* makeHeading(const QString& text, int larger)
 StartPage::StartPage(QWidget& view)
     : QFrame(&view)
     , m_view(view)
+    , m_parts(new QBoxLayout(QBoxLayout::LeftToRight))
     , m_acts(new QVBoxLayout)
     , m_recent(new FileGallery(tr("Recent files")))
     , m_samples(new FileGallery(tr("Samples")))
@@ -63,11 +64,11 @@ StartPage::StartPage(QWidget& view)
     setAutoFillBackground(true);
     m_noneYet->setWordWrap(true);
     auto* content = new QWidget;
-    auto* row = new QHBoxLayout(content);
-    row->setContentsMargins(Margin, Margin, Margin, Margin);
-    row->setSpacing(2 * Margin);
-    row->addWidget(makeActs(), 1);
-    row->addWidget(makeFiles(), 4);
+    content->setLayout(m_parts);
+    m_parts->setContentsMargins(Margin, Margin, Margin, Margin);
+    m_parts->setSpacing(2 * Margin);
+    m_parts->addWidget(makeActs(), 1);
+    m_parts->addWidget(makeFiles(), 4);
     auto* scroll = new QScrollArea;
     scroll->setWidget(content);
     scroll->setWidgetResizable(true);
@@ -171,6 +172,10 @@ void StartPage::close()
 void StartPage::cover()
 {
     setGeometry(m_view.rect());
+    // Where the files would be out of sight at the right, they go below.
+    const int acts = m_parts->itemAt(0)->minimumSize().width();
+    const bool fits = width() >= acts + m_samples->gridSize().width() + 6 * Margin;
+    m_parts->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     raise();
 }
 

@@ -48,6 +48,7 @@ private:
     void cover();
 
     QWidget& m_view;
+    QBoxLayout* m_parts; // the acts beside the files, or above them
     QVBoxLayout* m_acts;
     FileGallery* m_recent;
     FileGallery* m_samples;

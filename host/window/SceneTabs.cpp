@@ -2,6 +2,7 @@
 #include "window/SceneTabs.h"
 
 #include "support/Printable.h"
+#include "theme/SvgIcon.h"
 #include "window/SceneFiles.h"
 
 #include <QMenu>
@@ -9,27 +10,36 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QToolButton>
 
 #include <algorithm>
 
 namespace scopix
 {
 
+namespace
+{
+
+constexpr int CrossSize = 12;
+constexpr int LeastLetters = 8; // beside the few that any tab has
+
+} // namespace
+
 SceneTabs::SceneTabs(SceneFiles& files)
     : m_files(files)
+    , m_side(static_cast<ButtonPosition>(
+          style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, this)))
 {
     setObjectName(QStringLiteral("sceneTabs"));
     setAccessibleName(tr("Open scenes"));
     setAutoHide(true);
     setDocumentMode(true);
     setExpanding(false);
-    setTabsClosable(true);
     setMovable(true);
     setElideMode(Qt::ElideMiddle);
     connect(&files.getScenes(), &OpenScenes::listChanged, this, &SceneTabs::showAll);
     connect(this, &QTabBar::currentChanged, this, &SceneTabs::choose);
     connect(this, &QTabBar::tabMoved, &files.getScenes(), &OpenScenes::move);
-    connect(this, &QTabBar::tabCloseRequested, this, &SceneTabs::close);
     showAll();
 }
 
@@ -58,7 +68,7 @@ void SceneTabs::showAll()
     while (count() > static_cast<int>(all.size()))
         removeTab(count() - 1);
     while (count() < static_cast<int>(all.size()))
-        addTab({});
+        addCross(addTab({}));
     for (int i = 0; i < count(); ++i)
         showTab(i, *all[static_cast<std::size_t>(i)]);
     const auto front = std::find(all.begin(), all.end(), &m_files.getScenes().getFront());
@@ -76,9 +86,46 @@ void SceneTabs::showTab(int index, const OpenScene& scene)
     if (tabText(index) != text)
         setTabText(index, text);
     setTabToolTip(index, printable(document.getPath()));
-    const int side = style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, this);
-    if (QWidget* cross = tabButton(index, static_cast<ButtonPosition>(side)))
-        cross->setToolTip(tr("Close this tab"));
+}
+
+// The style's own cannot be seen on a dark ground.
+void SceneTabs::addCross(int index)
+{
+    auto* cross = new QToolButton(this);
+    cross->setAutoRaise(true);
+    cross->setFocusPolicy(Qt::NoFocus); // there is an act with a key
+    cross->setToolTip(tr("Close this tab"));
+    cross->setAccessibleName(cross->toolTip());
+    cross->setIconSize({CrossSize, CrossSize});
+    connect(cross, &QToolButton::clicked, this, [this, cross] {
+        for (int i = 0; i < count(); ++i)
+            if (tabButton(i, m_side) == cross)
+                return close(i);
+    });
+    setTabButton(index, m_side, cross);
+    showCrosses();
+}
+
+void SceneTabs::showCrosses()
+{
+    for (int i = 0; i < count(); ++i)
+        if (auto* cross = qobject_cast<QToolButton*>(tabButton(i, m_side)))
+            cross->setIcon(svgIcon(QStringLiteral("action-close"), this));
+}
+
+// Some of the name can be read; beyond that, the bar scrolls.
+QSize SceneTabs::minimumTabSizeHint(int index) const
+{
+    const QSize least = QTabBar::minimumTabSizeHint(index);
+    const int readable = least.width() + LeastLetters * fontMetrics().averageCharWidth();
+    return {std::max(least.width(), std::min(readable, tabSizeHint(index).width())), least.height()};
+}
+
+void SceneTabs::changeEvent(QEvent* event)
+{
+    QTabBar::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showCrosses();
 }
 
 void SceneTabs::choose(int index)

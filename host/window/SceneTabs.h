@@ -26,11 +26,15 @@ public:
     void addTo(QMenu& menu);
 
 protected:
+    QSize minimumTabSizeHint(int index) const override;
+    void changeEvent(QEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void showAll();
     void showTab(int index, const OpenScene& scene);
+    void addCross(int index);
+    void showCrosses();
     void choose(int index);
     void close(int index);
     void go(int by);
@@ -38,6 +42,7 @@ private:
 
     SceneFiles& m_files;
     QList<QAction*> m_acts; // that only several tabs are for
+    ButtonPosition m_side;  // of the crosses
 };
 
 } // namespace scopix

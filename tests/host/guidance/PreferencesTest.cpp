@@ -57,6 +57,12 @@ protected:
     }
 };
 
+TEST_F(PreferencesTest, NamesItsPagesAsAWhole)
+{
+    auto& list = input<QListWidget>("preferencePages");
+    EXPECT_LE(list.sizeHintForColumn(0), list.viewport()->width());
+}
+
 TEST_F(PreferencesTest, FindsASettingByAnyOfItsWords)
 {
     const QStringList all = shownPages();

@@ -50,6 +50,20 @@ TEST_F(StartPageTest, MeetsAUserWhoHasOpenedNothing)
     EXPECT_EQ(gallery("Recent files").count(), 0);
 }
 
+TEST_F(StartPageTest, HasTheFilesBelowWhereTheWindowIsNarrow)
+{
+    window->enterInteractiveMode();
+    const auto top = [this](QWidget& widget) { return widget.mapTo(&page(), QPoint()); };
+    QWidget& first = *page().findChild<QPushButton*>();
+    FileGallery& samples = gallery("Samples");
+    window->resize(1400, 800);
+    EXPECT_TRUE(waitFor([&] { return top(samples).x() > top(first).x() + first.width(); }));
+    window->resize(700, 600);
+    EXPECT_TRUE(waitFor([&] { return top(samples).y() > top(first).y() + first.height(); }));
+    EXPECT_EQ(top(samples).x(), top(first).x());
+    EXPECT_LT(top(samples).x() + samples.gridSize().width(), page().width());
+}
+
 TEST_F(StartPageTest, IsNotThereWhereAFileIsOpen)
 {
     ASSERT_TRUE(open(StartPage::samples().value(2)));

@@ -290,6 +290,32 @@ TEST_F(Tabs, ARecentFileOpensInATabWithCtrlHeld)
     EXPECT_EQ(names(), (QStringList{"a.xsg", "b.xsg"}));
 }
 
+TEST_F(Tabs, TheCrossClosesItsTab)
+{
+    for (const char* name : {"a", "b", "c"})
+        openInTab(makeFile(name));
+    dragTab(0, 2);
+    ASSERT_EQ(names(), (QStringList{"b.xsg", "c.xsg", "a.xsg"}));
+    QWidget* cross = tabs().tabButton(1, QTabBar::RightSide);
+    ASSERT_TRUE(cross);
+    QTest::mouseClick(cross, Qt::LeftButton);
+    settle();
+    EXPECT_EQ(names(), (QStringList{"b.xsg", "a.xsg"}));
+}
+
+TEST_F(Tabs, NamesCanBeReadInANarrowWindow)
+{
+    for (const char* name : {"the-first-of-them", "the-second-of-them", "the-third-of-them", "x"})
+        openInTab(makeFile(name));
+    program->window.resize(600, 500);
+    settle();
+    ASSERT_LT(tabs().width(), 300);
+    const int letter = tabs().fontMetrics().averageCharWidth();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_GT(tabs().tabRect(i).width(), 14 * letter) << i;
+    EXPECT_LT(tabs().tabRect(3).width(), tabs().tabRect(0).width()) << "no more than it needs";
+}
+
 TEST_F(Tabs, DraggingOneGivesItAnotherPlace)
 {
     for (const char* name : {"a", "b", "c"})
