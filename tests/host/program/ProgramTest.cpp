@@ -262,7 +262,7 @@ TEST_F(Program, RefusesToSelectWhatIsNotThere)
 
 TEST_F(Program, SelectsInWhatCouldBeOpenedOfSeveralFiles)
 {
-    const QString scene = write("good.xsg", "#Xsg V1.0 utf8\nMaterial \"Paint\" {}\n");
+    const QString scene = write("good.xsg", "#Xsg V1.0 utf8\nSeparator { Material \"Paint\" {} Cube {} }\n");
     const QString missing = folder.filePath("none.xsg");
     Outcome outcome = run({missing, scene, "--select", "Paint.transparency", "--quit"});
     EXPECT_NE(outcome.status, 0);
