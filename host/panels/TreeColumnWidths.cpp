@@ -16,7 +16,8 @@ namespace
 
 // In letters.
 constexpr int FigureLetters = 12;
-constexpr int LeastLetters = 22; // of name and type
+constexpr int LeastNameLetters = 22; // with the icons, and where it stands deep in the scene
+constexpr int LeastTypeLetters = 14;
 
 constexpr int LeastTypePercent = 30;
 constexpr double LeastShare = 0.1;
@@ -50,9 +51,11 @@ void TreeColumnWidths::fit()
         left -= widthOf(column);
     }
     // With less, the types are out of sight at the right.
-    const int least = LeastLetters * m_tree.fontMetrics().averageCharWidth();
-    const int type = left < least ? least / 2 : widthOfType(left);
-    header.resizeSection(SceneTreeModel::NameColumn, left < least ? std::max(left, least / 2) : left - type);
+    const int letter = m_tree.fontMetrics().averageCharWidth();
+    const bool fits = left >= (LeastNameLetters + LeastTypeLetters) * letter;
+    const int type = fits ? widthOfType(left) : LeastTypeLetters * letter;
+    header.resizeSection(SceneTreeModel::NameColumn,
+                         fits ? left - type : std::max(left, LeastNameLetters * letter));
     header.resizeSection(SceneTreeModel::TypeColumn, type);
 }
 

@@ -56,6 +56,8 @@ void TreeRowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
         option->icon = QIcon();
         option->decorationSize = QSize(2 * Icon + Gap, Icon);
     }
+    if (index.column() == SceneTreeModel::TypeColumn)
+        option->textElideMode = Qt::ElideRight; // types are told apart by how they begin
     const SoNode* node = m_view.getModel().nodeAt(index);
     if (m_view.isOutOfSight(index))
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::PlaceholderText));
