@@ -174,7 +174,7 @@ TEST_F(SharedCounterFile, AProtectedFileAndAnotherKindAreNotWritten)
     chmod(path().toLocal8Bit(), 0444);
     manager->saveProfile();
     EXPECT_EQ(boxes.take(), QStringList{"Performance counter profile: Cannot write file " + path() + ":\n" +
-                                        std::strerror(EACCES) + "."});
+                                        strerrordesc_np(EACCES) + "."});
     EXPECT_EQ(readFile(path()), before);
     const QString scene = folder.filePath("scene.xsg");
     FileAnswer answer(scene);
@@ -199,7 +199,7 @@ TEST_F(SharedCounterFile, SaysThatTheDiskIsFull)
     const QStringList said = boxes.take();
     ASSERT_EQ(said.size(), 1);
     EXPECT_EQ(said[0], "Performance counter profile: Cannot write file " + path() + ":\n" +
-                           QString::fromLocal8Bit(std::strerror(EFBIG)) + ".");
+                           QString::fromLocal8Bit(strerrordesc_np(EFBIG)) + ".");
     saveView();
     EXPECT_EQ(profilesIn(readFile(path())), (QStringList{"first", "second"})) << "the next time";
 }

@@ -129,7 +129,7 @@ TEST_F(Replacement, RefusesLinksThatLeadNowhere)
 {
     std::filesystem::create_symlink("a", at("b"));
     std::filesystem::create_symlink("b", at("a"));
-    EXPECT_EQ(replace(at("a"), "new"), std::strerror(ELOOP));
+    EXPECT_EQ(replace(at("a"), "new"), strerrordesc_np(ELOOP));
     EXPECT_EQ(names(), (Names{"a", "b"}));
 }
 
@@ -173,7 +173,7 @@ TEST_F(Replacement, RefusesWhatIsNoRegularFile)
 
 TEST_F(Replacement, SaysWhyThereIsNoFile)
 {
-    EXPECT_EQ(replace(at("missing/a"), "new"), std::strerror(ENOENT));
+    EXPECT_EQ(replace(at("missing/a"), "new"), strerrordesc_np(ENOENT));
 }
 
 TEST_F(Replacement, RemovesWhatAKilledProgramLeftOfTheSameFile)
@@ -234,7 +234,7 @@ const ChildAct replaceWithoutRoom("replaceWithoutRoom", [](const ChildAct::Words
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{1000, 1000};
     setrlimit(RLIMIT_FSIZE, &limit);
-    return replace(words[0], std::string(5000, 'x')) == std::strerror(EFBIG);
+    return replace(words[0], std::string(5000, 'x')) == strerrordesc_np(EFBIG);
 });
 
 TEST_F(Replacement, ThatHasNoRoomLeavesTheOldFile)
