@@ -13,10 +13,17 @@ bool waitFor(Condition&& condition)
     return QTest::qWaitFor(std::forward<Condition>(condition), MostWaitMs);
 }
 
-/// Likewise until the widget's window takes the keys.
+/// Likewise until the widget's window takes the keys. On a display without a window manager, a window of
+/// another program that opens at the same moment may take them away: it asks for them again then.
 inline bool waitForActive(QWidget* widget)
 {
-    return QTest::qWaitForWindowActive(widget, MostWaitMs);
+    constexpr int AgainMs = 3000;
+    for (int waited = 0; waited < MostWaitMs; waited += AgainMs) {
+        if (QTest::qWaitForWindowActive(widget, AgainMs))
+            return true;
+        widget->activateWindow();
+    }
+    return false;
 }
 
 /// Likewise until it stands on the screen.
