@@ -22,8 +22,17 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace scopix
 {
+
+namespace
+{
+
+constexpr int LeastPathLetters = 22;
+
+} // namespace
 
 /// Rows that hold all words of a text, sorted by what the columns mean.
 class ChangesPanel::Filter : public QSortFilterProxyModel
@@ -108,7 +117,12 @@ void ChangesPanel::makeView()
     m_view->sortByColumn(ChangesModel::TimeColumn, Qt::DescendingOrder);
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->header()->setStretchLastSection(false);
-    m_view->header()->setSectionResizeMode(ChangesModel::PathColumn, QHeaderView::Stretch);
+    m_view->header()->setSectionResizeMode(ChangesModel::PathColumn, QHeaderView::Fixed);
+    connect(m_view->header(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (column != ChangesModel::PathColumn)
+            fitPaths();
+    });
+    m_view->viewport()->installEventFilter(this);
     const int character = fontMetrics().averageCharWidth();
     for (const int column : {ChangesModel::BeforeColumn, ChangesModel::AfterColumn})
         m_view->setColumnWidth(column, 12 * character);
@@ -120,6 +134,16 @@ void ChangesPanel::makeView()
     connect(m_view, &QTreeView::customContextMenuRequested, this, &ChangesPanel::openMenu);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ChangesPanel::updateButtons);
+}
+
+// The paths have what the other columns leave. Where that is too little, the last of these are out of sight.
+void ChangesPanel::fitPaths()
+{
+    int left = m_view->viewport()->width();
+    for (int column = ChangesModel::PathColumn + 1; column < ChangesModel::ColumnCount; ++column)
+        left -= m_view->columnWidth(column);
+    m_view->header()->resizeSection(ChangesModel::PathColumn,
+                                    std::max(left, LeastPathLetters * fontMetrics().averageCharWidth()));
 }
 
 void ChangesPanel::makeButtons()
@@ -332,6 +356,8 @@ void ChangesPanel::edit(int column)
 
 bool ChangesPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_view->viewport() && event->type() == QEvent::Resize)
+        fitPaths();
     if (watched != m_view || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);

@@ -55,6 +55,7 @@ private:
     class Filter;
 
     void makeView();
+    void fitPaths();
     void makeButtons();
     void makeMenu();
     void revert(const ChangeKeySet& keys);

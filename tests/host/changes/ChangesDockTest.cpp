@@ -58,6 +58,23 @@ TEST_F(ChangesDock, ListsWhatTheUserEditsAndNothingElse)
     EXPECT_TRUE(changes.getEdits().isChanged(&box()));
 }
 
+TEST_F(ChangesDock, ShowsWhereItIsHoweverNarrow)
+{
+    setWidth(3);
+    QDockWidget* dock = window.findChild<QDockWidget*>("changesDock");
+    const QHeaderView& header = *list.header();
+    for (const int width : {800, 10}) {
+        window.resizeDocks({dock}, {width}, Qt::Horizontal);
+        settle();
+        EXPECT_GE(header.sectionSize(ChangesModel::PathColumn),
+                  list.fontMetrics().horizontalAdvance("/left/box.width"));
+    }
+    EXPECT_LT(list.width(), 400);
+    window.resizeDocks({dock}, {800}, Qt::Horizontal);
+    settle();
+    EXPECT_EQ(header.length(), list.viewport()->width());
+}
+
 TEST_F(ChangesDock, SaysWhereAnEditedValueWasWrittenSince)
 {
     setWidth(3);
