@@ -309,9 +309,8 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
         return index.column() == NameColumn ? QVariant(nodeIcon(node.getTypeId(), surface())) : QVariant();
     case Qt::ForegroundRole: {
         const MirroredNode* mirrored = MirroredNode::of(&node);
-        return mirrored && !mirrored->refusal().isEmpty()
-                   ? paletteOf(surface()).placeholderText()
-                   : QVariant();
+        return mirrored && !mirrored->refusal().isEmpty() ? paletteOf(surface()).placeholderText()
+                                                          : QVariant();
     }
     case Qt::FontRole: {
         QFont font;
