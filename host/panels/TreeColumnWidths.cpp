@@ -50,9 +50,10 @@ void TreeColumnWidths::fit()
         header.resizeSection(column, widthOf(column));
         left -= widthOf(column);
     }
-    // With less, the types are out of sight at the right.
+    // With less, the types are out of sight at the right, unless the user wants them there.
     const int letter = m_tree.fontMetrics().averageCharWidth();
-    const bool fits = left >= (LeastNameLetters + LeastTypeLetters) * letter;
+    const int leastName = chosenShare() > 0 ? LeastTypeLetters : LeastNameLetters;
+    const bool fits = left >= (leastName + LeastTypeLetters) * letter;
     const int type = fits ? widthOfType(left) : LeastTypeLetters * letter;
     header.resizeSection(SceneTreeModel::NameColumn,
                          fits ? left - type : std::max(left, LeastNameLetters * letter));
@@ -72,11 +73,16 @@ int TreeColumnWidths::widthOf(int column) const
     return chosen > 0 ? chosen : FigureLetters * m_tree.fontMetrics().averageCharWidth();
 }
 
+double TreeColumnWidths::chosenShare() const
+{
+    return m_chosen.value(m_tree.getModel().columnKey(SceneTreeModel::NameColumn)).toDouble();
+}
+
 int TreeColumnWidths::widthOfType(int both) const
 {
     if (m_tree.isColumnHidden(SceneTreeModel::TypeColumn))
         return 0;
-    const double share = m_chosen.value(m_tree.getModel().columnKey(SceneTreeModel::NameColumn)).toDouble();
+    const double share = chosenShare();
     if (share > 0)
         return both - static_cast<int>(both * std::clamp(share, LeastShare, 1 - LeastShare));
     // Of the rows in sight. Names come first, as long as something of the types is left.

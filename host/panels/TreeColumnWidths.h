@@ -36,6 +36,7 @@ signals:
 
 private:
     int widthOf(int column) const;
+    double chosenShare() const; // of the names; 0 where the user has chosen none
     int widthOfType(int both) const;
     void resized(int column, int width);
     bool isLast(int column) const;
