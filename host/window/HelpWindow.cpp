@@ -25,6 +25,7 @@ namespace scopix
 namespace
 {
 
+constexpr qint64 LargestPage = 4 << 20;
 constexpr int WidthInCharacters = 110;
 constexpr int HeightInLines = 40;
 
@@ -37,6 +38,12 @@ QString plain(const QString& heading)
             text += sign.toLower();
     }
     return text;
+}
+
+bool isPage(const QString& file)
+{
+    const QFileInfo info(file);
+    return info.isFile() && info.isReadable() && info.size() <= LargestPage;
 }
 
 } // namespace
@@ -110,11 +117,11 @@ void HelpWindow::makeFindLine(QHBoxLayout& bar)
 QString HelpWindow::fileOf(const QString& page)
 {
     if (QDir::isAbsolutePath(page))
-        return QFileInfo(page).isFile() ? page : QString();
+        return isPage(page) ? page : QString();
     const QString file = page.contains(QLatin1Char('/'))
                              ? QString()
                              : sharedFile(QStringLiteral("docs/") + page + QStringLiteral(".md"));
-    return QFileInfo(file).isFile() ? file : QString();
+    return isPage(file) ? file : QString();
 }
 
 bool HelpWindow::open(const QString& page, const QString& section)
@@ -181,7 +188,7 @@ void HelpWindow::follow(const QUrl& link)
 {
     const QUrl place = m_browser->source().resolved(link);
     const QString file = place.toLocalFile();
-    if (file.endsWith(QLatin1String(".md")) && QFileInfo(file).isFile())
+    if (file.endsWith(QLatin1String(".md")) && isPage(file))
         go(file, link.fragment());
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTemporaryFile>
 #include <QTextBlock>
 #include <QTextBrowser>
 
@@ -141,6 +142,21 @@ TEST_F(HelpPages, FindGoesOnAndAroundTheEnd)
     QTest::keyClick(&m_help, Qt::Key_F3);
     EXPECT_EQ(m_browser->textCursor().position(), first);
     EXPECT_EQ(m_help.findChild<QLabel*>()->text(), "");
+}
+
+TEST_F(HelpPages, WhatIsTooLargeIsNoPage)
+{
+    QTemporaryFile large;
+    ASSERT_TRUE(large.open());
+    large.write("# Large\n");
+    ASSERT_TRUE(large.resize((4 << 20) + 1));
+    EXPECT_FALSE(m_help.open(large.fileName(), {}));
+    EXPECT_EQ(m_help.windowTitle(), "Nodes");
+    large.resize(0);
+    large.write("# Short\n");
+    large.close();
+    EXPECT_TRUE(m_help.open(large.fileName(), {}));
+    EXPECT_EQ(m_help.windowTitle(), "Short");
 }
 
 TEST_F(HelpPages, AWordThatIsNowhereIsSaid)
