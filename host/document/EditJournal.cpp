@@ -3,6 +3,7 @@
 
 #include "support/CatchExceptions.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/core/SoField.h>
 
 #include <QCryptographicHash>
@@ -89,7 +90,7 @@ void EditJournal::write(std::function<QByteArray()> makeBytes)
         if (good)
             return;
         target->hasFailed = true;
-        const QString reason = problem.isEmpty() ? target->file.errorString() : problem;
+        const QString reason = problem.isEmpty() ? SpxSentence::ofFileError(target->file) : problem;
         QMetaObject::invokeMethod(
             this, [this, reason] { emit failed(reason); }, Qt::QueuedConnection);
     });

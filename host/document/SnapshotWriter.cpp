@@ -3,6 +3,7 @@
 
 #include "support/CatchExceptions.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/fields/SoMFBitMask.h>
 #include <xsg/fields/SoMFEnum.h>
 
@@ -92,7 +93,7 @@ private:
         if (good)
             fsync(file.handle()); // here, since commit() would do it while the lock is held
         unlessCancelled([&] { good = good && file.commit(); });
-        return good ? QString() : file.errorString();
+        return good ? QString() : SpxSentence::ofFileError(file);
     }
 
     bool writeParts(QSaveFile& file)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "model/FileChecks.h"
 
+#include "model/TranslatedSentence.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -44,7 +46,7 @@ QString reasonAgainst(const QString& path, const QStringList& fileExtensions)
         return tr("its name was expected to end in %1").arg(fileExtensionsText(fileExtensions));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("it cannot be read (%1)").arg(file.errorString());
+        return tr("it cannot be read (%1)").arg(translatedErrorOf(file));
     if (info.size() == 0)
         return tr("it is empty, and a scene or model was expected");
     return {};

@@ -2,6 +2,7 @@
 #include "reader/FormatChecks.h"
 
 #include "model/FileChecks.h"
+#include "model/TranslatedSentence.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -24,7 +25,7 @@ QString checkBinaryGltf(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return cannotOpen(path, file.errorString());
+        return cannotOpen(path, translatedErrorOf(file));
     const QByteArray head = file.read(12);
     if (!head.startsWith("glTF"))
         return cannotOpen(path, tr("it is no binary glTF file, which starts with the four letters “glTF”"));

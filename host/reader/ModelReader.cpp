@@ -3,6 +3,7 @@
 
 #include "model/FileChecks.h"
 #include "model/ModelFormats.h"
+#include "model/TranslatedSentence.h"
 #include "reader/AssimpModel.h"
 #include "reader/FormatChecks.h"
 #include "reader/GltfAnimations.h"
@@ -211,7 +212,7 @@ ModelReadResult import(const QString& path, const ReadProgress& progress)
         takeGltfAnimations(*gltf, result.data);
     }
     for (const SbSentence& note : pictures.getNotes())
-        result.notes.push_back(translated(note));
+        result.notes.push_back(translated(note).toStdString());
     if (!hasShapes(result.data))
         return failed(cannotOpen(path, tr("it holds no mesh, and at least one was expected")));
     const QStringList extensions = gltf ? extensionLosses(gltf->getText()) : QStringList();

@@ -2,6 +2,7 @@
 #include "reader/FormatChecks.h"
 
 #include "model/FileChecks.h"
+#include "model/TranslatedSentence.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -110,7 +111,7 @@ QString checkPly(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return cannotOpen(path, file.errorString());
+        return cannotOpen(path, translatedErrorOf(file));
     const QString reason = reasonAgainst(file);
     return reason.isEmpty() ? QString() : cannotOpen(path, reason);
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "reader/Sentences.h"
 
-#include <xsg/values/SentenceInLanguage.h>
-
 #include <QCoreApplication>
 
 namespace scopix
@@ -24,13 +22,6 @@ QString quoted(const QStringList& names)
     if (names.size() > MostNamed)
         shown += tr("…");
     return shown.join(QStringLiteral(", "));
-}
-
-std::string translated(const SbSentence& sentence)
-{
-    return xsg::inLanguage(sentence, [](const char* source) {
-        return QCoreApplication::translate("Sentence", source).toStdString();
-    });
 }
 
 } // namespace scopix

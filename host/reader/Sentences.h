@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Sentences about things that are counted, and those of the scene-graph library.
+// Sentences about things that are counted.
 #pragma once
 
-#include <xsg/values/SbSentence.h>
-
 #include <QStringList>
-
-#include <string>
 
 namespace scopix
 {
@@ -15,7 +11,5 @@ namespace scopix
 void addCounted(QStringList& sentences, unsigned count, const QString& one, const QString& several);
 /// The first of the names, quoted.
 QString quoted(const QStringList& names);
-/// In the user's language.
-std::string translated(const SbSentence& sentence);
 
 } // namespace scopix

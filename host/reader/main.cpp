@@ -3,9 +3,9 @@
 // Prints how far it is, one line for each percent, and writes the model, or why there is none, to the file
 // RESULT.
 #include "model/ModelFile.h"
+#include "model/TranslatedSentence.h"
 #include "reader/MemoryLimit.h"
 #include "reader/ModelReader.h"
-#include "reader/Sentences.h"
 
 #include <xsg/errors/SoDebugError.h>
 
@@ -54,7 +54,7 @@ public:
 // In the words in which the host says it.
 void print(const SoError* error, void* /*data*/)
 {
-    std::fprintf(stderr, "scopix: %s\n", scopix::translated(error->getSentence()).c_str());
+    std::fprintf(stderr, "scopix: %s\n", scopix::translated(error->getSentence()).toUtf8().constData());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/InputFile.h"
 
+#include <scopix/SpxSentence.h>
 #include <xsg/support/SpecialFile.h>
 
 #include <QCoreApplication>
@@ -25,7 +26,7 @@ QString readFile(const QString& path, qint64 most, QByteArray& content)
         return tr("it is no regular file");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+        return SpxSentence::ofFileError(file);
     if (file.size() > most)
         return tr("it has more than %1 bytes").arg(most);
     content = file.read(most + 1);

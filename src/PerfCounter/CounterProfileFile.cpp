@@ -6,11 +6,13 @@
 #include "CustomCounter.h"
 #include "SoPerfCounterProfile.h"
 
+#include <scopix/SpxSentence.h>
 #include <scopix/editing/SpxText.h>
 #include <xsg/core/SoPreferences.h>
 #include <xsg/counters/SoPerfCounterManager.h>
 #include <xsg/support/FileLock.h>
 #include <xsg/support/FileReplacement.h>
+#include <xsg/support/SystemReason.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -20,7 +22,6 @@
 #include <QSet>
 
 #include <cerrno>
-#include <cstring>
 #include <memory>
 
 #include <sys/stat.h>
@@ -116,7 +117,7 @@ QString reasonAgainstTarget(const QString& path)
     if (isNoFile(path))
         return translated("It is no regular file");
     const bool isProtected = QFileInfo(path).isFile() && !xsg::reasonAgainstReplacing(encoded(path)).empty();
-    return isProtected ? QString::fromLocal8Bit(std::strerror(EACCES)) : QString();
+    return isProtected ? SpxSentence::translated(xsg::systemReason(EACCES)) : QString();
 }
 
 // Where the disk takes a part only, the next attempt says why.
@@ -145,7 +146,7 @@ QString tryToWrite(const QString& path, const std::function<QByteArray()>& conte
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text | QIODevice::Unbuffered) &&
         writeAll(file, bytes))
         return {};
-    return path.isEmpty() ? translated("No file name specified") : file.errorString();
+    return path.isEmpty() ? translated("No file name specified") : SpxSentence::ofFileError(file);
 }
 
 void readCounter(const QDomElement& element, QStringList& leftOut)
@@ -213,7 +214,7 @@ QString openToRead(QFile& file)
 {
     if (isNoFile(file.fileName()))
         return translated("It is no regular file");
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString() : file.errorString();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString() : SpxSentence::ofFileError(file);
 }
 
 bool parse(QIODevice* device, QDomDocument& document, QString& problem)
@@ -254,7 +255,8 @@ bool readDocument(QIODevice* device, QDomDocument& document, QWidget* parent)
 
 void writeDocument(QIODevice* device, const QDomDocument& document)
 {
-    counterXml::write(device, document);
+    if (device->isWritable()) // a file that could not be opened is not
+        counterXml::write(device, document);
 }
 
 QString reasonAgainstName(const QString& path)

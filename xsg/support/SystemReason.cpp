@@ -47,3 +47,14 @@ SbSentence xsg::systemReason(int code)
         return SbSentence::verbatim(std::strerror(code));
     }
 }
+
+SbSentence xsg::systemReasonOf(const std::string& words)
+{
+    constexpr int LastCode = 133; // of Linux
+    for (int code = 1; code <= LastCode; ++code) {
+        const char* english = strerrordesc_np(code);
+        if (english && (words == english || words == std::strerror(code)))
+            return systemReason(code);
+    }
+    return SbSentence::verbatim(words);
+}

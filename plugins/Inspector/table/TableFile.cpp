@@ -208,8 +208,8 @@ bool TableFile::readFrom(const QString& path)
     if (xsg::isSpecialFile(encodedPath(path)))
         return fail(tr("“%1” could not be read: it is no regular file; choose another one.").arg(name));
     if (!file.open(QIODevice::ReadOnly))
-        return fail(
-            tr("“%1” could not be read: %2; choose a file that you may read.").arg(name, file.errorString()));
+        return fail(tr("“%1” could not be read: %2; choose a file that you may read.")
+                        .arg(name, SpxSentence::ofFileError(file)));
     QTextStream in(&file);
     in.setCodec("UTF-8");
     const SoMField* list = m_session.list();
