@@ -7,6 +7,20 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+namespace
+{
+
+QtMessageHandler defaultHandler = nullptr;
+
+// The offscreen platform says it of every window, between which the words of a failed test are hard to find.
+void tellAllButSizeHints(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message != QLatin1String("This plugin does not support propagateSizeHints()"))
+        defaultHandler(type, context, message);
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     if (ChildAct::isAsked(argc, argv)) {
@@ -21,6 +35,7 @@ int main(int argc, char** argv)
     const QTemporaryDir settings;
     if (!qEnvironmentVariableIsSet("XDG_CONFIG_HOME"))
         qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    defaultHandler = qInstallMessageHandler(tellAllButSizeHints);
     QApplication application(argc, argv);
     application.setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
