@@ -149,6 +149,7 @@ private:
         SpxWatcher* watcher = m_bookmarks.back().get();
         watcher->watch(&node);
         connect(watcher, &SpxWatcher::objectDestroyed, this, [this, watcher] { remove(rowOf(*watcher)); });
+        connect(watcher, &SpxWatcher::changed, this, [this, watcher] { showName(rowOf(*watcher)); });
         m_list->addItem(captionOf(node));
         updateColumn();
     }
@@ -160,13 +161,23 @@ private:
         updateColumn();
     }
 
+    void showName(int row)
+    {
+        if (const SoFieldContainer* node = nodeAt(row))
+            m_list->item(row)->setText(captionOf(*node));
+    }
+
     void goTo(const QListWidgetItem* item)
     {
-        SoTypedObject* object = m_bookmarks[std::size_t(m_list->row(item))]->getObject();
-        auto* node = dynamic_cast<SoFieldContainer*>(object);
+        SoFieldContainer* node = nodeAt(m_list->row(item));
         auto* scene = SpxSceneServices::getInstance();
         if (node && scene)
             scene->selectNode(node);
+    }
+
+    SoFieldContainer* nodeAt(int row) const
+    {
+        return dynamic_cast<SoFieldContainer*>(m_bookmarks[std::size_t(row)]->getObject());
     }
 
     // -1 for none.

@@ -4,6 +4,7 @@
 #include "window/MainWindow.h"
 
 #include <support/Session.h>
+#include <support/Waiting.h>
 
 #include <xsg/nodes/groups/SoSeparator.h>
 #include <xsg/nodes/shapes/SoCube.h>
@@ -80,6 +81,13 @@ TEST_F(Bookmarks, AKeyAddsWhatIsSelectedAndTakesItAway)
     EXPECT_EQ(rows(), QStringList("Sphere"));
     EXPECT_EQ(numberInTree(m_sphere), "1");
     EXPECT_EQ(numberInTree(m_cube), "");
+}
+
+TEST_F(Bookmarks, ARenamedNodeKeepsItsRow)
+{
+    bookmark(m_sphere);
+    m_sphere->setName("Ball");
+    EXPECT_TRUE(waitFor([this] { return rows() == QStringList("Ball"); }));
 }
 
 TEST_F(Bookmarks, EnterSelectsTheNode)
