@@ -2,7 +2,9 @@
 #include "theme/WindowTheme.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QEvent>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QWidget>
@@ -86,6 +88,11 @@ void WindowTheme::dress(QWidget& widget)
     // Not for windows alone: a dock may float later.
     if (&widget != &m_window)
         widget.setAttribute(Qt::WA_WindowPropagation);
+    // The style's pictures for OK and its like are drawn for light windows, and add nothing to the words.
+    const auto* box = qobject_cast<QDialogButtonBox*>(widget.parentWidget());
+    auto* button = qobject_cast<QPushButton*>(&widget);
+    if (box && button && box->standardButton(button) != QDialogButtonBox::NoButton)
+        button->setIcon(QIcon());
     // Qt gives tool tips colours of their own, which would win over the inherited ones.
     if (widget.windowType() == Qt::ToolTip)
         widget.setPalette(m_window.palette());

@@ -46,6 +46,22 @@ protected:
     QMainWindow m_window;
 };
 
+TEST_F(ThemeOfAWindow, TakesPicturesFromStandardButtonsAlone)
+{
+    applyTheme(m_window, Theme::Dark);
+    QDialog dialog(&m_window);
+    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Close, &dialog);
+    QPushButton* own = box->addButton("Paint", QDialogButtonBox::ActionRole);
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    for (QAbstractButton* button : box->buttons())
+        button->setIcon(red); // as the desktop may have it
+    dialog.show();
+    for (const auto which : {QDialogButtonBox::Ok, QDialogButtonBox::Close})
+        EXPECT_TRUE(box->button(which)->icon().isNull());
+    EXPECT_FALSE(own->icon().isNull());
+}
+
 TEST_F(ThemeOfAWindow, ReachesWhatBelongsToItNowAndLater)
 {
     QDialog early(&m_window);
