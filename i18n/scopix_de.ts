@@ -3038,6 +3038,76 @@ scopix --launch PROGRAM starts one.</source>
         <translation>eigene Achsen</translation>
     </message>
     <message>
+        <source>&amp;Moving in the 3D View</source>
+        <translation>Bewegen in der &amp;3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Help on What &amp;Is Selected</source>
+        <translation>Hilfe zur &amp;Auswahl</translation>
+    </message>
+    <message>
+        <source>T&amp;utorial</source>
+        <translation>T&amp;utorial</translation>
+    </message>
+    <message>
+        <source>&amp;Documentation</source>
+        <translation>&amp;Dokumentation</translation>
+    </message>
+    <message>
+        <source>&amp;Nodes</source>
+        <translation>&amp;Knotenarten</translation>
+    </message>
+    <message>
+        <source>&amp;About Scopix</source>
+        <translation>Ü&amp;ber Scopix</translation>
+    </message>
+    <message>
+        <source>Moving in the 3D View</source>
+        <translation>Bewegen in der 3D-Ansicht</translation>
+    </message>
+    <message>
+        <source>Turn: drag with the left button.
+Move: drag with the middle or right button.
+Nearer, farther: turn the wheel; the place under the pointer stays.
+Select: click; once more for the shape, then its material. Ctrl adds, Shift and dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.
+See all of the selected part: double-click, or F.
+See everything: A. As at first, through the scene's own camera where it has one: Home.
+By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.
+Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.
+Measure: M.
+From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.
+Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; select again: Q. Shift is finer, Ctrl snaps.
+Hide or show what is selected: H, show all: Shift+H, show nothing else: /.
+Find a node: Ctrl+F.
+Edges only: F3. What a picture costs: F4.</source>
+        <translation>Drehen: mit der linken Taste ziehen.
+Verschieben: mit der mittleren oder rechten Taste ziehen.
+Näher, weiter weg: Mausrad drehen; die Stelle unter dem Zeiger bleibt.
+Auswählen: klicken; noch einmal für die Form, dann ihr Material. Strg nimmt dazu, Umschalt und Ziehen wählt alles in einem Rechteck, Alt listet auf, was unter dem Zeiger liegt. Esc geht nach oben.
+Die ganze Auswahl ansehen: Doppelklick oder F.
+Alles ansehen: A. Wie am Anfang, durch die Kamera der Szene, wenn sie eine hat: Pos1.
+Mit Tasten: Die Pfeile drehen, mit Umschalt verschieben sie; Plus und Minus gehen näher und weiter weg.
+Mit Tasten auswählen: Strg und Pfeile bewegen ein Fadenkreuz, Eingabe klickt dort.
+Messen: M.
+Von vorne, rechts, oben: 1, 3, 7; orthografisch: 5. Gehen: Umschalt+W.
+Die Auswahl verschieben, drehen, skalieren: W, E, R, dann an einem Griff ziehen, oder X, Y oder Z und eine Zahl; wieder auswählen: Q. Umschalt ist feiner, Strg rastet ein.
+Die Auswahl aus- oder einblenden: H, alles einblenden: Umschalt+H, nur sie zeigen: /.
+Einen Knoten finden: Strg+F.
+Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
+    </message>
+    <message>
+        <source>The documentation cannot be shown: it is not installed beside the program.</source>
+        <translation>Die Dokumentation kann nicht gezeigt werden: Sie ist nicht beim Programm installiert.</translation>
+    </message>
+    <message>
+        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
+        <translation>Das Tutorial lässt sich nicht zeigen: Es ist nicht beim Programm installiert.</translation>
+    </message>
+    <message>
+        <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
+        <translation>Die Seite über Knoten lässt sich nicht zeigen: Sie ist nicht beim Programm installiert.</translation>
+    </message>
+    <message>
         <source>Documentation</source>
         <translation>Dokumentation</translation>
     </message>
@@ -3442,6 +3512,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>In „%1“ lassen sich Knoten weder hinzufügen noch verschieben noch entfernen, da das Programm das nicht anbietet.</translation>
     </message>
     <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
         <source>Select a node: its fields are listed here.</source>
         <translation>Wähle einen Knoten aus: Hier stehen dann seine Felder.</translation>
     </message>
@@ -3514,94 +3588,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>&amp;Farben</translation>
     </message>
     <message>
-        <source>As the &amp;System</source>
-        <translation>Wie das &amp;System</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>&amp;Dunkel</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Hell</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Moving in the 3D View</source>
-        <translation>Bewegen in der &amp;3D-Ansicht</translation>
-    </message>
-    <message>
-        <source>Moving in the 3D View</source>
-        <translation>Bewegen in der 3D-Ansicht</translation>
-    </message>
-    <message>
-        <source>Turn: drag with the left button.
-Move: drag with the middle or right button.
-Nearer, farther: turn the wheel; the place under the pointer stays.
-Select: click; once more for the shape, then its material. Ctrl adds, Shift and dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.
-See all of the selected part: double-click, or F.
-See everything: A. As at first, through the scene's own camera where it has one: Home.
-By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.
-Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.
-Measure: M.
-From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.
-Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; select again: Q. Shift is finer, Ctrl snaps.
-Hide or show what is selected: H, show all: Shift+H, show nothing else: /.
-Find a node: Ctrl+F.
-Edges only: F3. What a picture costs: F4.</source>
-        <translation>Drehen: mit der linken Taste ziehen.
-Verschieben: mit der mittleren oder rechten Taste ziehen.
-Näher, weiter weg: Mausrad drehen; die Stelle unter dem Zeiger bleibt.
-Auswählen: klicken; noch einmal für die Form, dann ihr Material. Strg nimmt dazu, Umschalt und Ziehen wählt alles in einem Rechteck, Alt listet auf, was unter dem Zeiger liegt. Esc geht nach oben.
-Die ganze Auswahl ansehen: Doppelklick oder F.
-Alles ansehen: A. Wie am Anfang, durch die Kamera der Szene, wenn sie eine hat: Pos1.
-Mit Tasten: Die Pfeile drehen, mit Umschalt verschieben sie; Plus und Minus gehen näher und weiter weg.
-Mit Tasten auswählen: Strg und Pfeile bewegen ein Fadenkreuz, Eingabe klickt dort.
-Messen: M.
-Von vorne, rechts, oben: 1, 3, 7; orthografisch: 5. Gehen: Umschalt+W.
-Die Auswahl verschieben, drehen, skalieren: W, E, R, dann an einem Griff ziehen, oder X, Y oder Z und eine Zahl; wieder auswählen: Q. Umschalt ist feiner, Strg rastet ein.
-Die Auswahl aus- oder einblenden: H, alles einblenden: Umschalt+H, nur sie zeigen: /.
-Einen Knoten finden: Strg+F.
-Nur Kanten: F3. Was ein Bild kostet: F4.</translation>
-    </message>
-    <message>
-        <source>Help on What &amp;Is Selected</source>
-        <translation>Hilfe zur &amp;Auswahl</translation>
-    </message>
-    <message>
-        <source>T&amp;utorial</source>
-        <translation>T&amp;utorial</translation>
-    </message>
-    <message>
-        <source>&amp;Documentation</source>
-        <translation>&amp;Dokumentation</translation>
-    </message>
-    <message>
-        <source>&amp;Nodes</source>
-        <translation>&amp;Knotenarten</translation>
-    </message>
-    <message>
-        <source>&amp;About Scopix</source>
-        <translation>Ü&amp;ber Scopix</translation>
-    </message>
-    <message>
         <source>Main</source>
         <translation>Haupt</translation>
-    </message>
-    <message>
-        <source>The documentation cannot be shown: it is not installed beside the program.</source>
-        <translation>Die Dokumentation kann nicht gezeigt werden: Sie ist nicht beim Programm installiert.</translation>
-    </message>
-    <message>
-        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
-        <translation>Das Tutorial lässt sich nicht zeigen: Es ist nicht beim Programm installiert.</translation>
-    </message>
-    <message>
-        <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
-        <translation>Die Seite über Knoten lässt sich nicht zeigen: Sie ist nicht beim Programm installiert.</translation>
     </message>
     <message>
         <source>Running Scene</source>
@@ -4794,6 +4782,18 @@ Hochgeladene Bytes: %L5, Prozessor: %L6 ms</translation>
     <message>
         <source>&amp;Look Around in the Welcome Scene</source>
         <translation>In der Willkommensszene &amp;umsehen</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
     </message>
     <message>
         <source>&amp;Back</source>

@@ -3038,6 +3038,76 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[öwñ àxéš ~~~]</translation>
     </message>
     <message>
+        <source>&amp;Moving in the 3D View</source>
+        <translation>[&amp;Mövîñĝ îñ ţĥé 3D Vîéw ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Help on What &amp;Is Selected</source>
+        <translation>[Ĥélp öñ Wĥàţ &amp;Îš Šéléçţéd ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>T&amp;utorial</source>
+        <translation>[Ţ&amp;ûţöŕîàl ~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Documentation</source>
+        <translation>[&amp;Döçûméñţàţîöñ ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Nodes</source>
+        <translation>[&amp;Ñödéš ~~]</translation>
+    </message>
+    <message>
+        <source>&amp;About Scopix</source>
+        <translation>[&amp;Àböûţ Šçöpîx ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Moving in the 3D View</source>
+        <translation>[Mövîñĝ îñ ţĥé 3D Vîéw ~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Turn: drag with the left button.
+Move: drag with the middle or right button.
+Nearer, farther: turn the wheel; the place under the pointer stays.
+Select: click; once more for the shape, then its material. Ctrl adds, Shift and dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.
+See all of the selected part: double-click, or F.
+See everything: A. As at first, through the scene's own camera where it has one: Home.
+By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.
+Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.
+Measure: M.
+From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.
+Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; select again: Q. Shift is finer, Ctrl snaps.
+Hide or show what is selected: H, show all: Shift+H, show nothing else: /.
+Find a node: Ctrl+F.
+Edges only: F3. What a picture costs: F4.</source>
+        <translation>[Ţûŕñ: dŕàĝ wîţĥ ţĥé léfţ bûţţöñ.
+Mövé: dŕàĝ wîţĥ ţĥé mîddlé öŕ ŕîĝĥţ bûţţöñ.
+Ñéàŕéŕ, fàŕţĥéŕ: ţûŕñ ţĥé wĥéél; ţĥé plàçé ûñdéŕ ţĥé pöîñţéŕ šţàýš.
+Šéléçţ: çlîçķ; öñçé möŕé föŕ ţĥé šĥàpé, ţĥéñ îţš màţéŕîàl. Çţŕl àddš, Šĥîfţ àñd dŕàĝĝîñĝ šéléçţš àll îñ à ŕéçţàñĝlé, Àlţ lîšţš wĥàţ îš ûñdéŕ ţĥé pöîñţéŕ. Éšç ĝöéš ûp.
+Šéé àll öf ţĥé šéléçţéd pàŕţ: döûblé-çlîçķ, öŕ F.
+Šéé évéŕýţĥîñĝ: À. Àš àţ fîŕšţ, ţĥŕöûĝĥ ţĥé šçéñé'š öwñ çàméŕà wĥéŕé îţ ĥàš öñé: Ĥömé.
+Bý ķéýš: ţĥé àŕŕöwš ţûŕñ, wîţĥ Šĥîfţ ţĥéý mövé; plûš àñd mîñûš çömé ñéàŕéŕ àñd ĝö àwàý.
+Šéléçţ bý ķéýš: Çţŕl àñd ţĥé àŕŕöwš mövé à çŕöššĥàîŕ, Éñţéŕ çlîçķš ţĥéŕé.
+Méàšûŕé: M.
+Fŕöm ţĥé fŕöñţ, ţĥé ŕîĝĥţ, ţĥé ţöp: 1, 3, 7; öŕţĥöĝŕàpĥîç: 5. Wàlķ: Šĥîfţ+W.
+Mövé, ţûŕñ, šçàlé wĥàţ îš šéléçţéd: W, É, Ŕ, ţĥéñ dŕàĝ à ĥàñdlé, öŕ X, Ý öŕ Ž àñd à ñûmbéŕ; šéléçţ àĝàîñ: Q. Šĥîfţ îš fîñéŕ, Çţŕl šñàpš.
+Ĥîdé öŕ šĥöw wĥàţ îš šéléçţéd: Ĥ, šĥöw àll: Šĥîfţ+Ĥ, šĥöw ñöţĥîñĝ élšé: /.
+Fîñd à ñödé: Çţŕl+F.
+Édĝéš öñlý: F3. Wĥàţ à pîçţûŕé çöšţš: F4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The documentation cannot be shown: it is not installed beside the program.</source>
+        <translation>[Ţĥé döçûméñţàţîöñ çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
+        <translation>[Ţĥé ţûţöŕîàl çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
+        <translation>[Ţĥé pàĝé öñ ñödéš çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
         <source>Documentation</source>
         <translation>[Döçûméñţàţîöñ ~~~~~]</translation>
     </message>
@@ -3442,6 +3512,10 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[Ţĥé ñödéš öf “%1” çàñ bé ñéîţĥéŕ àddéd, mövéd ñöŕ ŕémövéd, šîñçé ţĥé pŕöĝŕàm döéš ñöţ öfféŕ ţĥàţ. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
+        <source>&amp;Help</source>
+        <translation>[&amp;Ĥélp ~~]</translation>
+    </message>
+    <message>
         <source>Select a node: its fields are listed here.</source>
         <translation>[Šéléçţ à ñödé: îţš fîéldš àŕé lîšţéd ĥéŕé. ~~~~~~~~~~~~~~~~~]</translation>
     </message>
@@ -3514,94 +3588,8 @@ scopix --launch PROGRAM starts one.</source>
         <translation>[&amp;Çölöûŕš ~~~]</translation>
     </message>
     <message>
-        <source>As the &amp;System</source>
-        <translation>[Àš ţĥé &amp;Šýšţém ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>[&amp;Dàŕķ ~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>[&amp;Lîĝĥţ ~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>[&amp;Ĥélp ~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Moving in the 3D View</source>
-        <translation>[&amp;Mövîñĝ îñ ţĥé 3D Vîéw ~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Moving in the 3D View</source>
-        <translation>[Mövîñĝ îñ ţĥé 3D Vîéw ~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Turn: drag with the left button.
-Move: drag with the middle or right button.
-Nearer, farther: turn the wheel; the place under the pointer stays.
-Select: click; once more for the shape, then its material. Ctrl adds, Shift and dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.
-See all of the selected part: double-click, or F.
-See everything: A. As at first, through the scene's own camera where it has one: Home.
-By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.
-Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.
-Measure: M.
-From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.
-Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; select again: Q. Shift is finer, Ctrl snaps.
-Hide or show what is selected: H, show all: Shift+H, show nothing else: /.
-Find a node: Ctrl+F.
-Edges only: F3. What a picture costs: F4.</source>
-        <translation>[Ţûŕñ: dŕàĝ wîţĥ ţĥé léfţ bûţţöñ.
-Mövé: dŕàĝ wîţĥ ţĥé mîddlé öŕ ŕîĝĥţ bûţţöñ.
-Ñéàŕéŕ, fàŕţĥéŕ: ţûŕñ ţĥé wĥéél; ţĥé plàçé ûñdéŕ ţĥé pöîñţéŕ šţàýš.
-Šéléçţ: çlîçķ; öñçé möŕé föŕ ţĥé šĥàpé, ţĥéñ îţš màţéŕîàl. Çţŕl àddš, Šĥîfţ àñd dŕàĝĝîñĝ šéléçţš àll îñ à ŕéçţàñĝlé, Àlţ lîšţš wĥàţ îš ûñdéŕ ţĥé pöîñţéŕ. Éšç ĝöéš ûp.
-Šéé àll öf ţĥé šéléçţéd pàŕţ: döûblé-çlîçķ, öŕ F.
-Šéé évéŕýţĥîñĝ: À. Àš àţ fîŕšţ, ţĥŕöûĝĥ ţĥé šçéñé'š öwñ çàméŕà wĥéŕé îţ ĥàš öñé: Ĥömé.
-Bý ķéýš: ţĥé àŕŕöwš ţûŕñ, wîţĥ Šĥîfţ ţĥéý mövé; plûš àñd mîñûš çömé ñéàŕéŕ àñd ĝö àwàý.
-Šéléçţ bý ķéýš: Çţŕl àñd ţĥé àŕŕöwš mövé à çŕöššĥàîŕ, Éñţéŕ çlîçķš ţĥéŕé.
-Méàšûŕé: M.
-Fŕöm ţĥé fŕöñţ, ţĥé ŕîĝĥţ, ţĥé ţöp: 1, 3, 7; öŕţĥöĝŕàpĥîç: 5. Wàlķ: Šĥîfţ+W.
-Mövé, ţûŕñ, šçàlé wĥàţ îš šéléçţéd: W, É, Ŕ, ţĥéñ dŕàĝ à ĥàñdlé, öŕ X, Ý öŕ Ž àñd à ñûmbéŕ; šéléçţ àĝàîñ: Q. Šĥîfţ îš fîñéŕ, Çţŕl šñàpš.
-Ĥîdé öŕ šĥöw wĥàţ îš šéléçţéd: Ĥ, šĥöw àll: Šĥîfţ+Ĥ, šĥöw ñöţĥîñĝ élšé: /.
-Fîñd à ñödé: Çţŕl+F.
-Édĝéš öñlý: F3. Wĥàţ à pîçţûŕé çöšţš: F4. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>Help on What &amp;Is Selected</source>
-        <translation>[Ĥélp öñ Wĥàţ &amp;Îš Šéléçţéd ~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>T&amp;utorial</source>
-        <translation>[Ţ&amp;ûţöŕîàl ~~~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Documentation</source>
-        <translation>[&amp;Döçûméñţàţîöñ ~~~~~~]</translation>
-    </message>
-    <message>
-        <source>&amp;Nodes</source>
-        <translation>[&amp;Ñödéš ~~]</translation>
-    </message>
-    <message>
-        <source>&amp;About Scopix</source>
-        <translation>[&amp;Àböûţ Šçöpîx ~~~~~]</translation>
-    </message>
-    <message>
         <source>Main</source>
         <translation>[Màîñ ~~]</translation>
-    </message>
-    <message>
-        <source>The documentation cannot be shown: it is not installed beside the program.</source>
-        <translation>[Ţĥé döçûméñţàţîöñ çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>The tutorial cannot be shown: it is not installed beside the program.</source>
-        <translation>[Ţĥé ţûţöŕîàl çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>The page on nodes cannot be shown: it is not installed beside the program.</source>
-        <translation>[Ţĥé pàĝé öñ ñödéš çàññöţ bé šĥöwñ: îţ îš ñöţ îñšţàlléd béšîdé ţĥé pŕöĝŕàm. ~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Running Scene</source>
@@ -4794,6 +4782,18 @@ Uploaded bytes: %L5, processor: %L6 ms</source>
     <message>
         <source>&amp;Look Around in the Welcome Scene</source>
         <translation>[&amp;Lööķ Àŕöûñd îñ ţĥé Wélçömé Šçéñé ~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>[Àš ţĥé &amp;Šýšţém ~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>[&amp;Dàŕķ ~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>[&amp;Lîĝĥţ ~~]</translation>
     </message>
     <message>
         <source>&amp;Back</source>

@@ -12,9 +12,6 @@
 #include "panels/SceneTreeModel.h"
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
-#include "settings/SettingsFile.h"
-#include "settings/UserSettings.h"
-#include "start/AboutDialog.h"
 #include "structure/SceneStates.h"
 #include "support/UserNotifier.h"
 #include "text/NodeText.h"
@@ -31,8 +28,9 @@
 #include "window/FileMenu.h"
 #include "window/FrameMarks.h"
 #include "window/FurtherWindows.h"
-#include "window/HelpWindow.h"
+#include "window/HelpMenu.h"
 #include "window/LiveActs.h"
+#include "window/NodeByText.h"
 #include "window/NodeEditing.h"
 #include "window/NodeMenu.h"
 #include "window/OnScreen.h"
@@ -46,6 +44,7 @@
 #include "window/SceneTabs.h"
 #include "window/SettingsActs.h"
 #include "window/ShownScene.h"
+#include "window/ThemeMenu.h"
 #include "window/TreeAndView.h"
 #include "window/TreeColumns.h"
 #include "window/ViewActions.h"
@@ -53,13 +52,8 @@
 #include "window/ViewPoints.h"
 #include "window/Welcome.h"
 
-#include <scopix/SpxVersion.h>
-
-#include <xsg/actions/SoSearchAction.h>
 #include <xsg/core/SoField.h>
-#include <xsg/paths/ChildTable.h>
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
@@ -86,45 +80,6 @@ namespace
 constexpr int SideWidth = 330;
 constexpr int MessageMs = 8000;
 
-const QString& paletteKey()
-{
-    static const QString key = QStringLiteral("palette");
-    return key;
-}
-
-Theme wantedTheme()
-{
-    const QString fromEnvironment = qEnvironmentVariable("SCOPIX_PALETTE");
-    return themeFromName(fromEnvironment.isEmpty()
-                             ? SettingsFile(UserSettings::windowFile()).value(paletteKey()).toString()
-                             : fromEnvironment);
-}
-
-// Of a path from the root; null where there is no such place.
-SoNode* findPlace(SoNode* root, const QString& text)
-{
-    const SoScenePath path(text.toStdString());
-    SbSentence problem;
-    return root && path.isValid() ? xsg::SceneLookup(root).find(path, problem) : nullptr;
-}
-
-// To the first node, from the top, that has this name, or else this type.
-SoPath findNode(SoNode* root, const QString& text)
-{
-    SoSearchAction byName;
-    byName.setName(toName(text));
-    if (!byName.apply(root).empty())
-        return byName.getPaths().front();
-    for (const QString& name : {text, OtherProgramPrefix + text}) {
-        SoSearchAction byType;
-        const SoType type = SoType::fromName(toName(name));
-        byType.setType(type);
-        if (!type.isBad() && !byType.apply(root).empty())
-            return byType.getPaths().front();
-    }
-    return {};
-}
-
 } // namespace
 
 MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
@@ -140,7 +95,7 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     , m_display(std::make_unique<ViewDisplay>(*m_view, *m_states))
 {
     setObjectName(QStringLiteral("mainWindow"));
-    applyTheme(*this, wantedTheme());
+    applyTheme(*this, ThemeMenu::wanted());
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -151,7 +106,8 @@ MainWindow::MainWindow(HostServices& services, UserNotifier& notifier)
     makeEditMenu();
     makeNodeMenu();
     makeViewMenu();
-    makeHelpMenu();
+    m_helpMenu = menuBar()->addMenu(tr("&Help"));
+    m_help = new HelpMenu(*m_helpMenu, {*this, m_services, m_notifier, [this] { return pluginStates(); }});
     makeGuidance();
     makeToolBar();
     connectSelection();
@@ -319,7 +275,8 @@ void MainWindow::makeViewMenu()
     menu->addSeparator();
     m_toolsMenu = menu->addMenu(tr("&Tools"));
     m_profilesMenu = menu->addMenu(tr("&Profile"));
-    makeThemeMenu(*menu->addMenu(tr("&Colours")));
+    m_themeMenu = menu->addMenu(tr("&Colours"));
+    new ThemeMenu(*m_themeMenu, *this, m_notifier);
 }
 
 void MainWindow::makeFurtherWindows()
@@ -330,72 +287,11 @@ void MainWindow::makeFurtherWindows()
     connect(this, &HostWindow::closed, m_further.get(), &FurtherWindows::closeAll);
 }
 
-void MainWindow::makeThemeMenu(QMenu& menu)
-{
-    m_themeMenu = &menu;
-    auto* group = new QActionGroup(&menu);
-    const std::tuple<Theme, QString, QString> entries[] = {
-        {Theme::System, tr("As the &System"), QStringLiteral("Ctrl+J, S")},
-        {Theme::Dark, tr("&Dark"), QStringLiteral("Ctrl+J, N")},
-        {Theme::Light, tr("&Light"), QStringLiteral("Ctrl+J, L")}};
-    for (const auto& [theme, text, key] : entries) {
-        QAction* action = menu.addAction(text, this, [this, theme = theme] { setTheme(theme); });
-        action->setShortcut(key);
-        action->setData(themeName(theme));
-        action->setCheckable(true);
-        action->setChecked(theme == wantedTheme());
-        group->addAction(action);
-    }
-}
-
-void MainWindow::makeHelpMenu()
-{
-    QMenu* menu = menuBar()->addMenu(tr("&Help"));
-    m_helpMenu = menu;
-    menu->addAction(tr("&Moving in the 3D View"), this, [this] {
-        QMessageBox::information(
-            this, tr("Moving in the 3D View"),
-            tr("Turn: drag with the left button.\n"
-               "Move: drag with the middle or right button.\n"
-               "Nearer, farther: turn the wheel; the place under the pointer stays.\n"
-               "Select: click; once more for the shape, then its material. Ctrl adds, Shift and "
-               "dragging selects all in a rectangle, Alt lists what is under the pointer. Esc goes up.\n"
-               "See all of the selected part: double-click, or F.\n"
-               "See everything: A. As at first, through the scene's own camera where it has one: Home.\n"
-               "By keys: the arrows turn, with Shift they move; plus and minus come nearer and go away.\n"
-               "Select by keys: Ctrl and the arrows move a crosshair, Enter clicks there.\n"
-               "Measure: M.\n"
-               "From the front, the right, the top: 1, 3, 7; orthographic: 5. Walk: Shift+W.\n"
-               "Move, turn, scale what is selected: W, E, R, then drag a handle, or X, Y or Z and a number; "
-               "select again: Q. Shift is finer, Ctrl snaps.\n"
-               "Hide or show what is selected: H, show all: Shift+H, show nothing else: /.\n"
-               "Find a node: Ctrl+F.\n"
-               "Edges only: F3. What a picture costs: F4."));
-    });
-    menu->actions().last()->setShortcut(Qt::CTRL + Qt::Key_F1);
-    menu->addAction(tr("Help on What &Is Selected"), this, &MainWindow::showHelpOnFocus,
-                    QKeySequence(Qt::Key_F1));
-    menu->addAction(tr("T&utorial"), this, &MainWindow::showTutorial, QKeySequence(Qt::CTRL + Qt::Key_F11))
-        ->setObjectName(QStringLiteral("tutorialAction"));
-    menu->addAction(tr("&Documentation"), this, &MainWindow::showContents,
-                    QKeySequence(Qt::SHIFT + Qt::Key_F11))
-        ->setObjectName(QStringLiteral("documentationAction"));
-    menu->addAction(
-        tr("&Nodes"), this, [this] { showHelp(QStringLiteral("nodes"), {}); }, Qt::SHIFT + Qt::Key_F1);
-    menu->addAction(tr("&About Scopix"), this, &MainWindow::showAbout, Qt::CTRL + Qt::SHIFT + Qt::Key_F1);
-}
-
-void MainWindow::showAbout()
-{
-    AboutDialog(QStringLiteral(SPX_SCOPIX_VERSION), m_pluginStates, this).exec();
-}
-
 // What leads through all of the above: it comes last.
 void MainWindow::makeGuidance()
 {
-    m_settings = new SettingsActs({*this, *m_view, m_files, m_services, m_notifier, *m_themeMenu}, [this] {
-        return m_pluginStates ? m_pluginStates() : std::vector<PluginState>();
-    });
+    m_settings = new SettingsActs({*this, *m_view, m_files, m_services, m_notifier, *m_themeMenu},
+                                  [this] { return pluginStates(); });
     m_editMenu->addSeparator();
     m_editMenu->addAction(m_settings->getAction());
     m_palette = new PaletteActs(*this, *m_tree, m_services, *m_settings);
@@ -490,30 +386,12 @@ void MainWindow::updateTreeColumns()
 
 bool MainWindow::showHelp(const QString& page, const QString& section)
 {
-    if (!m_help)
-        m_help = new HelpWindow(this);
-    return m_help->open(page, section);
+    return m_help->show(page, section);
 }
 
-void MainWindow::showContents()
+std::vector<PluginState> MainWindow::pluginStates() const
 {
-    if (!showHelp(HelpWindow::contentsPage(), {}))
-        m_notifier.error(tr("The documentation cannot be shown: it is not installed beside the program."));
-}
-
-void MainWindow::showTutorial()
-{
-    if (!showHelp(QStringLiteral("tutorial"), {}))
-        m_notifier.error(tr("The tutorial cannot be shown: it is not installed beside the program."));
-}
-
-void MainWindow::showHelpOnFocus()
-{
-    const SoFieldContainer* node = m_services.selectedNode();
-    if (!node)
-        return showTutorial();
-    if (!showHelp(QStringLiteral("nodes"), typeText(node->getTypeId())))
-        m_notifier.error(tr("The page on nodes cannot be shown: it is not installed beside the program."));
+    return m_pluginStates ? m_pluginStates() : std::vector<PluginState>();
 }
 
 void MainWindow::setScene(SoNode* root, const QString& title)
@@ -579,8 +457,7 @@ void MainWindow::openAnother(const QString& path)
 
 bool MainWindow::selectField(const QString& nodeText, const QString& fieldText)
 {
-    const SoNode* place = nodeText.startsWith(QLatin1Char('/')) ? findPlace(getScene(), nodeText) : nullptr;
-    const SoPath path = place ? m_tree->pathTo(place) : findNode(getScene(), nodeText);
+    const SoPath path = pathByText(*m_tree, getScene(), nodeText);
     const SoNode* node = path.getTail();
     if (!node) {
         m_notifier.error(tr("Nothing in the scene has the name or the type “%1”.").arg(nodeText));
@@ -652,14 +529,6 @@ HandleTool& MainWindow::getHandles()
 ViewActions& MainWindow::getViewActions()
 {
     return m_pane->getViewActions();
-}
-
-void MainWindow::setTheme(Theme theme)
-{
-    applyTheme(*this, theme);
-    const QString problem = SettingsFile(UserSettings::windowFile()).setValue(paletteKey(), themeName(theme));
-    if (!problem.isEmpty())
-        m_notifier.error(problem);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "theme/Theme.h"
 #include "window/HostWindow.h"
 #include "window/SceneFiles.h"
 
@@ -21,7 +20,7 @@ class CommandPalette;
 class FieldListView;
 class FurtherWindows;
 class HandleTool;
-class HelpWindow;
+class HelpMenu;
 class LiveActs;
 class SceneChanges;
 class PaletteActs;
@@ -122,8 +121,6 @@ private:
     void makeEditMenu();
     void makeNodeMenu();
     void makeViewMenu();
-    void makeThemeMenu(QMenu& menu);
-    void makeHelpMenu();
     void makeGuidance();
     void makeToolBar();
     void connectSelection();
@@ -136,14 +133,10 @@ private:
     void openDropped(QStringList paths, bool inTabs);
     void showTitle();
     void askForScreenshot();
-    void showAbout();
-    void showTutorial();
-    void showContents();
-    void showHelpOnFocus();
     void find();
     void showFinder();
     TreeAndView& paneInUse() const;
-    void setTheme(Theme theme);
+    std::vector<PluginState> pluginStates() const;
 
     HostServices& m_services;
     UserNotifier& m_notifier;
@@ -167,7 +160,7 @@ private:
     PluginStates m_pluginStates;
     QMenu* m_helpMenu = nullptr;
     QMenu* m_themeMenu = nullptr;
-    HelpWindow* m_help = nullptr; // as soon as help is asked for
+    HelpMenu* m_help = nullptr;
     QDockWidget* m_treeDock = nullptr;
     QDockWidget* m_fieldsDock = nullptr;
     QDockWidget* m_historyDock = nullptr;

@@ -6,6 +6,7 @@
 #include "panels/SceneTreeView.h"
 #include "services/HostServices.h"
 #include "support/UserNotifier.h"
+#include "theme/Theme.h"
 #include "viewport/SceneView.h"
 
 #include <support/Waiting.h>
