@@ -21,6 +21,19 @@ const char* styleOf(const QWidget& widget)
     return widget.style()->metaObject()->className();
 }
 
+// As on most desktops.
+class StyleWithPictures : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 class ThemeOfAWindow : public testing::Test
 {
 protected:
@@ -48,14 +61,14 @@ protected:
 
 TEST_F(ThemeOfAWindow, TakesPicturesFromStandardButtonsAlone)
 {
+    QApplication::setStyle(new StyleWithPictures);
     applyTheme(m_window, Theme::Dark);
     QDialog dialog(&m_window);
     auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Close, &dialog);
-    QPushButton* own = box->addButton("Paint", QDialogButtonBox::ActionRole);
-    QPixmap red(16, 16);
-    red.fill(Qt::red);
-    for (QAbstractButton* button : box->buttons())
-        button->setIcon(red); // as the desktop may have it
+    auto* own = new QPushButton(dialog.style()->standardIcon(QStyle::SP_DialogOkButton), "Paint");
+    box->addButton(own, QDialogButtonBox::ActionRole);
+    const QDialogButtonBox elsewhere(QDialogButtonBox::Close);
+    EXPECT_FALSE(elsewhere.button(QDialogButtonBox::Close)->icon().isNull()) << "this style has them";
     dialog.show();
     for (const auto which : {QDialogButtonBox::Ok, QDialogButtonBox::Close})
         EXPECT_TRUE(box->button(which)->icon().isNull());
