@@ -29,6 +29,7 @@ ThemeMenu::ThemeMenu(QMenu& menu, QWidget& window, UserNotifier& notifier)
     , m_window(window)
     , m_notifier(notifier)
 {
+    const Theme chosen = wanted();
     auto* group = new QActionGroup(&menu);
     const std::tuple<Theme, QString, QString> entries[] = {
         {Theme::System, tr("As the &System"), QStringLiteral("Ctrl+J, S")},
@@ -39,7 +40,7 @@ ThemeMenu::ThemeMenu(QMenu& menu, QWidget& window, UserNotifier& notifier)
         action->setShortcut(key);
         action->setData(themeName(theme));
         action->setCheckable(true);
-        action->setChecked(theme == wanted());
+        action->setChecked(theme == chosen);
         group->addAction(action);
     }
 }
